@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Settings.h"
+
+#include <QString>
+
+#include <array>
+
+/// The three kinds of document, in the order of their rows in documentKinds().
+enum class DocumentType { SkinnedMesh, Anim, StaticMesh };
+
+/// What the user sees of one kind of document, and where its folders are remembered.
+struct DocumentKind
+{
+    DocumentType type;
+    QString label; ///< in titles and prompts
+    QString openTitle;
+    QString saveTitle;
+    QString filter;
+    QString extension; ///< without the dot
+    QString folderTitle;
+    const SettingKey<QString> &loadPath;
+    const SettingKey<QString> &savePath;
+    const SettingKey<QString> &explorePath;
+    const SettingKey<bool> &quickSelect;
+};
+
+const std::array<DocumentKind, 3> &documentKinds();
+const DocumentKind &documentKind(DocumentType type);
+/// The kind that a file belongs to by its extension; none when it is not one of ours.
+const DocumentKind *documentKindOfFile(const QString &path);

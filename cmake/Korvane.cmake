@@ -1,0 +1,30 @@
+# SPDX-FileCopyrightText: The Korvane developers
+# SPDX-License-Identifier: MIT
+
+# Warnings, sanitizers and coverage for one of our own targets.
+function(korvane_target_options target)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+    target_compile_definitions(${target} PRIVATE QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)
+    if(KORVANE_WERROR)
+        target_compile_options(${target} PRIVATE -Werror)
+    endif()
+    if(KORVANE_SANITIZE)
+        target_compile_options(${target} PRIVATE -fsanitize=${KORVANE_SANITIZE} -fno-omit-frame-pointer
+                                                 -fno-sanitize-recover=all)
+        target_link_options(${target} PRIVATE -fsanitize=${KORVANE_SANITIZE})
+    endif()
+    if(KORVANE_COVERAGE)
+        target_compile_options(${target} PRIVATE --coverage)
+        target_link_options(${target} PRIVATE --coverage)
+    endif()
+endfunction()
+
+# One room: korvane_library(<name> SOURCES ... LINK ... [LINK_PRIVATE ...]).
+# A room's own folder is its only include directory, so a header of a room that is not linked cannot be found.
+function(korvane_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK;LINK_PRIVATE" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+    target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE ${ARG_LINK_PRIVATE})
+    korvane_target_options(${name})
+endfunction()

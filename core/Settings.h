@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QDateTime>
+#include <QPoint>
+#include <QSettings>
+#include <QSize>
+#include <QString>
+#include <QVariant>
+
+#include <cmath>
+#include <type_traits>
+
+/// One typed entry of the settings store. Every access opens its own short-lived QSettings, so a value
+/// written anywhere is seen at once everywhere.
+template <typename T>
+class SettingKey
+{
+public:
+    SettingKey(const char *name, T defaultValue)
+        : m_name(QLatin1String(name))
+        , m_default(std::move(defaultValue))
+    {}
+
+    QString name() const { return m_name; }
+    bool exists() const { return QSettings().contains(m_name); }
+
+    /// The stored value; the default when there is none or when it cannot be read as a T.
+    T value() const
+    {
+        QVariant stored = QSettings().value(m_name);
+        if (!stored.isValid() || !stored.convert(qMetaTypeId<T>()))
+            return m_default;
+        const T result = stored.value<T>();
+        if constexpr (std::is_floating_point_v<T>)
+            return std::isfinite(result) ? result : m_default;
+        return result;
+    }
+
+    void setValue(const T &value) const { QSettings().setValue(m_name, QVariant::fromValue(value)); }
+
+    /// Writes the default unless the key is there already.
+    void ensure() const
+    {
+        if (!exists())
+            setValue(m_default);
+    }
+
+private:
+    QString m_name;
+    T m_default;
+};
+
+/// Every key of the settings store, with its default.
+namespace Settings {
+// Folders: the unzipped game archive, and the root of the mod being built.
+inline const SettingKey<QString> GamePath{"GamePath", {}};
+inline const SettingKey<QString> OutputDir{"OutputDir", {}};
+
+// Release check.
+inline const SettingKey<bool> Updates{"Updates", true};
+inline const SettingKey<QDateTime> UpdateDate{"UpdateDate", {}};
+
+// Trees and playback.
+inline const SettingKey<bool> HideMeshData{"HideMeshData", true};
+inline const SettingKey<bool> HideAnimData{"HideAnimData", true};
+inline const SettingKey<bool> AnimationAutoPlay{"AnimationAutoPlay", true};
+
+// Folder explorers.
+inline const SettingKey<bool> SkinnedMeshQuickSelect{"SkinnedMeshQuickSelect", true};
+inline const SettingKey<bool> AnimationQuickSelect{"AnimationQuickSelect", true};
+inline const SettingKey<bool> StaticMeshQuickSelect{"StaticMeshQuickSelect", true};
+inline const SettingKey<bool> AnimationSyncSkin{"AnimationSyncSkin", true};
+inline const SettingKey<QString> SkinnedMeshExplorePath{"SkinnedMeshExplorePath", {}};
+inline const SettingKey<QString> AnimationExplorePath{"AnimationExplorePath", {}};
+inline const SettingKey<QString> StaticMeshExplorePath{"StaticMeshExplorePath", {}};
+
+// Last folders of the file dialogs.
+inline const SettingKey<QString> SkinnedMeshLoadPath{"SkinnedMeshLoadPath", {}};
+inline const SettingKey<QString> AnimationLoadPath{"AnimationLoadPath", {}};
+inline const SettingKey<QString> StaticMeshLoadPath{"StaticMeshLoadPath", {}};
+inline const SettingKey<QString> SkinnedMeshSavePath{"SkinnedMeshSavePath", {}};
+inline const SettingKey<QString> AnimationSavePath{"AnimationSavePath", {}};
+inline const SettingKey<QString> StaticMeshSavePath{"StaticMeshSavePath", {}};
+
+// Viewport. MouseSpeed is in units per pixel (or per 1 ms tick of a held key), Brightness a factor.
+inline const SettingKey<QColor> BGColor{"BGColor", QColor(0, 170, 255, 255)};
+inline const SettingKey<bool> ShowGround{"ShowGround", false};
+inline const SettingKey<bool> ShowAxisGizmo{"ShowAxisGizmo", false};
+inline const SettingKey<bool> BackCull{"BackCull", false};
+inline const SettingKey<int> SurfSelectType{"SurfSelectType", 0};
+inline const SettingKey<float> MouseSpeed{"MouseSpeed", 0.15f};
+inline const SettingKey<float> Brightness{"Brightness", 1.0f};
+
+// Main window. The three first hold the window itself, the last its docks, tool bars and splitters.
+inline const SettingKey<QSize> MainWindowSize{"MainWindowSize", {}};
+inline const SettingKey<QPoint> MainWindowPos{"MainWindowPos", {}};
+inline const SettingKey<bool> MainWindowMaximized{"MainWindowMaximized", false};
+inline const SettingKey<QByteArray> MainWindowState{"MainWindowState", {}};
+inline const SettingKey<QByteArray> MainSplitterState{"MainSplitterState", {}};
+} // namespace Settings

@@ -1,0 +1,212 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "AnimFile.h"
+
+#include "BinaryFileReader.h"
+#include "BinaryFileWriter.h"
+
+namespace {
+// Bytes in the file.
+constexpr qint64 BlockBytes = 44;
+constexpr qint64 NodeTrackBytes = 4;
+constexpr qint64 NodeInitialBytes = 28;
+constexpr qint64 FrameBytes = 4;
+constexpr qint64 ActionBytes = 50;
+
+/// Tracks without keys take no bytes, so no end of file stops a hostile count. Bones name tracks by 16-bit
+/// indexes: more than this is no animation.
+constexpr qint32 MaxEmptyTracks = 1000000;
+
+const QVector3D NeutralTranslation;
+const QVector4D NeutralRotation(0.0f, 0.0f, 0.0f, 1.0f);
+
+template <typename Key>
+constexpr qint64 KeyFloats = qint64(sizeof(Key) / sizeof(float));
+
+template <typename Key>
+TrackTable<Key> readTable(BinaryFileReader &reader, qint32 trackCount, qint32 frameCount)
+{
+    if (trackCount <= 0 || reader.hasError())
+        return {0, std::max(frameCount, 0)};
+    if (frameCount <= 0) {
+        if (trackCount > MaxEmptyTracks) {
+            reader.setErrorText(
+                QStringLiteral("Attempting to read %1 tracks without frames.").arg(trackCount));
+            return {};
+        }
+        return {trackCount, 0};
+    }
+    const qint64 trackBytes = KeyFloats<Key> * qint64(sizeof(float)) * frameCount;
+    if (!reader.holds(trackCount, trackBytes)) {
+        // Cut off within the keys, whose components are all floats.
+        float ignored = 0.0f;
+        while (!reader.hasError())
+            reader.readFloats(&ignored, 1);
+        return {};
+    }
+    TrackTable<Key> table(trackCount, frameCount);
+    static_assert(sizeof(Key) == size_t(KeyFloats<Key>) * sizeof(float), "keys are plain floats");
+    reader.readFloats(reinterpret_cast<float *>(table.keys().data()),
+                      qint64(table.keys().size()) * KeyFloats<Key>);
+    return table;
+}
+
+AnimAction readAction(BinaryFileReader &reader)
+{
+    AnimAction action;
+    action.frame = reader.readUInt16();
+    action.eventType = reader.readUInt16();
+    action.node = reader.readUInt16();
+    action.offset = reader.readVec3();
+    reader.readFloats(action.args.data(), qint64(action.args.size()));
+    return action;
+}
+
+AnimBlock readBlock(BinaryFileReader &reader)
+{
+    AnimBlock block;
+    block.animId = reader.readInt32();
+    const qint32 frameCount = reader.readInt32();
+    const qint32 nodeCount = reader.readInt32();
+    const qint32 initialNodeCount = reader.readInt32();
+    const qint32 translationCount = reader.readInt32();
+    const qint32 rotationCount = reader.readInt32();
+    const qint32 actionCount = reader.readInt32();
+    block.frameScale = reader.readFloat();
+    block.blendLength = reader.readUInt16();
+    block.blendStart = reader.readUInt16();
+    block.blendEnd = reader.readUInt16();
+    block.speed = reader.readFloat();
+    block.loopFrame = reader.readUInt16();
+    if (!reader.hasError() && nodeCount != initialNodeCount) {
+        reader.setErrorText(
+            QStringLiteral("nodeLength is different value than initialNodeLength. They should be the same."));
+    }
+
+    readRecords(reader, nodeCount, NodeTrackBytes, block.nodes, [](BinaryFileReader &r) {
+        AnimNode node;
+        node.translationIndex = r.readUInt16();
+        node.rotationIndex = r.readUInt16();
+        return node;
+    });
+    for (AnimNode &node : block.nodes) {
+        if (reader.hasError())
+            break;
+        node.initialPosition = reader.readVec3();
+        node.initialRotation = reader.readVec4();
+    }
+    readRecords(reader, frameCount, FrameBytes, block.frames,
+                [](BinaryFileReader &r) { return AnimFrame{r.readFloat()}; });
+    block.translations = readTable<QVector3D>(reader, translationCount, frameCount);
+    block.rotations = readTable<QVector4D>(reader, rotationCount, frameCount);
+    readRecords(reader, actionCount, ActionBytes, block.actions, readAction);
+    return block;
+}
+
+qint64 fileBytes(const AnimFile &file)
+{
+    size_t bytes = 8;
+    for (const AnimBlock &block : file.blocks) {
+        bytes += size_t(BlockBytes) + block.nodes.size() * size_t(NodeTrackBytes + NodeInitialBytes) +
+                 block.frames.size() * size_t(FrameBytes) + block.translations.keys().size() * 12 +
+                 block.rotations.keys().size() * 16 + block.actions.size() * size_t(ActionBytes);
+    }
+    return qint64(bytes);
+}
+
+template <typename Key>
+void writeTable(BinaryFileWriter &writer, const TrackTable<Key> &table)
+{
+    writer.writeFloats(reinterpret_cast<const float *>(table.keys().data()),
+                       table.keys().size() * size_t(KeyFloats<Key>));
+}
+
+void writeBlock(BinaryFileWriter &writer, const AnimBlock &block)
+{
+    Q_ASSERT(block.translations.frameCount() == block.frameCount());
+    Q_ASSERT(block.rotations.frameCount() == block.frameCount());
+
+    writer.writeInt32(block.animId);
+    writer.writeInt32(block.frameCount());
+    writer.writeInt32(qint32(block.nodes.size()));
+    writer.writeInt32(qint32(block.nodes.size()));
+    writer.writeInt32(block.translations.trackCount());
+    writer.writeInt32(block.rotations.trackCount());
+    writer.writeInt32(qint32(block.actions.size()));
+    writer.writeFloat(block.frameScale);
+    writer.writeUInt16(block.blendLength);
+    writer.writeUInt16(block.blendStart);
+    writer.writeUInt16(block.blendEnd);
+    writer.writeFloat(block.speed);
+    writer.writeUInt16(block.loopFrame);
+
+    for (const AnimNode &node : block.nodes) {
+        writer.writeUInt16(node.translationIndex);
+        writer.writeUInt16(node.rotationIndex);
+    }
+    for (const AnimNode &node : block.nodes) {
+        writer.writeVec3(node.initialPosition);
+        writer.writeVec4(node.initialRotation);
+    }
+    for (const AnimFrame &frame : block.frames)
+        writer.writeFloat(frame.yawOffset);
+    writeTable(writer, block.translations);
+    writeTable(writer, block.rotations);
+    for (const AnimAction &action : block.actions) {
+        writer.writeUInt16(action.frame);
+        writer.writeUInt16(action.eventType);
+        writer.writeUInt16(action.node);
+        writer.writeVec3(action.offset);
+        writer.writeFloats(action.args.data(), action.args.size());
+    }
+}
+} // namespace
+
+void AnimBlock::setFrameCount(int count)
+{
+    count = std::max(count, 0);
+    frames.resize(size_t(count));
+    translations.setFrameCount(count, NeutralTranslation);
+    rotations.setFrameCount(count, NeutralRotation);
+}
+
+void AnimBlock::setTranslationCount(int count)
+{
+    translations.setTrackCount(std::max(count, 0), NeutralTranslation);
+}
+
+void AnimBlock::setRotationCount(int count)
+{
+    rotations.setTrackCount(std::max(count, 0), NeutralRotation);
+}
+
+bool AnimFile::read(const QString &path, QString *errorText)
+{
+    BinaryFileReader reader(path);
+    if (errorText)
+        errorText->clear();
+    if (!reader.isOpen())
+        return true;
+
+    version = reader.readInt32();
+    const qint32 blockCount = reader.readInt32();
+    blocks.clear();
+    readRecords(reader, blockCount, BlockBytes, blocks, readBlock);
+
+    if (errorText)
+        *errorText = reader.errorText();
+    return reader.hasError();
+}
+
+bool AnimFile::write(const QString &path) const
+{
+    if (blocks.empty())
+        return true;
+
+    BinaryFileWriter writer(fileBytes(*this));
+    writer.writeInt32(version);
+    writer.writeInt32(qint32(blocks.size()));
+    for (const AnimBlock &block : blocks)
+        writeBlock(writer, block);
+    return writer.commit(path);
+}

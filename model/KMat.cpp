@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "KMat.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QTextStream>
+
+namespace {
+QString declareMaterial(QTextStream &words, const QString &path, MaterialTable &table,
+                        MaterialTable::iterator &current)
+{
+    QString name;
+    words >> name;
+    if (table.count(name) != 0) {
+        return QStringLiteral(
+                   ".kMat file has a material with the same name - %1. The file may be invalid - %2")
+            .arg(name, path);
+    }
+    current = table.emplace(name, QString()).first;
+    return {};
+}
+
+QString setTexture(QTextStream &words, const QString &path, MaterialTable &table,
+                   const MaterialTable::iterator &current)
+{
+    QString samplerName;
+    int textureUnit = 0;
+    QString texturePath;
+    words >> samplerName >> textureUnit;
+    // A unit that is no number is not consumed: it is then the path.
+    words.resetStatus();
+    words >> texturePath;
+    if (current == table.end()) {
+        return QStringLiteral(
+                   ".kMat file read a texture path with no material set. The file may be invalid - %1")
+            .arg(path);
+    }
+    current->second = texturePath.remove(QLatin1Char('"'));
+    return {};
+}
+
+QString readMaterials(QFile &file, const QString &path, MaterialTable &table)
+{
+    QTextStream lines(&file);
+    lines.setCodec("UTF-8");
+    auto current = table.end();
+    QString line;
+    while (lines.readLineInto(&line)) {
+        if (line.startsWith(QLatin1String("//")))
+            continue;
+        QTextStream words(&line, QIODevice::ReadOnly);
+        QString word;
+        for (words >> word; !word.isEmpty(); words >> word) {
+            QString error;
+            if (word == QLatin1String("material"))
+                error = declareMaterial(words, path, table, current);
+            else if (word == QLatin1String("sampler"))
+                error = setTexture(words, path, table, current);
+            if (!error.isEmpty())
+                return error;
+            words.resetStatus();
+        }
+    }
+    return {};
+}
+} // namespace
+
+QString readKMat(const QString &path, MaterialTable &table)
+{
+    return readKMat(QStringList(path), table);
+}
+
+QString readKMat(const QStringList &candidates, MaterialTable &table)
+{
+    table.clear();
+    for (const QString &path : candidates) {
+        QFile file(path);
+        // Opening a pipe would wait for a writer for ever.
+        if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
+            continue;
+        const QString error = readMaterials(file, path, table);
+        if (!error.isEmpty())
+            table.clear();
+        return error;
+    }
+    return QStringLiteral("Unable to read .kMat file at %1")
+        .arg(candidates.isEmpty() ? QString() : candidates.last());
+}
+
+QString writeKMat(const QString &path, const MaterialTable &table)
+{
+    const QString unable = QStringLiteral("Unable to open file for writing - %1").arg(path);
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
+        return unable;
+    QTextStream out(&file);
+    out.setCodec("UTF-8");
+    for (const auto &[name, texturePath] : table) {
+        out << "material " << name << " {\n"
+            << "\tcull back\n"
+            << "\tparam \"uLimitAlpha\" 0 \"0\"\n"
+            << "\tparam \"uReflective\" 0 \"0\"\n"
+            << "\tparam \"uPseduoColor\" 0 \"0\"\n" // the game's own spelling
+            << "\tsort default\n"
+            << "\tdepthtest\n"
+            << "\tcolor_environment \"0.000000 0.000000 0.000000 1.000000\"\n"
+            << "\tcolor_diffuse \"1.000000 1.000000 1.000000 1.000000\"\n"
+            << "\tsampler \"diffuse\" 0 \"" << texturePath << "\" {\n"
+            << "\t\tfilter      linear_anisotropic\n"
+            << "\t\twrap        repeat\n"
+            << "\t}\n"
+            << "}\n"
+            << "\n";
+    }
+    out.flush();
+    if (out.status() != QTextStream::Ok || !file.commit())
+        return unable;
+    return {};
+}

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <map>
+
+/// Material name to diffuse texture path, ascending by name.
+using MaterialTable = std::map<QString, QString>;
+
+/// Reads the materials of one .kmat file (UTF-8 text). Returns an error message, and then leaves `table`
+/// empty; an empty text means success.
+[[nodiscard]] QString readKMat(const QString &path, MaterialTable &table);
+
+/// Reads the first of `candidates` that can be opened. An invalid first file is an error, not a reason to
+/// try the next; when none opens the message names the last.
+[[nodiscard]] QString readKMat(const QStringList &candidates, MaterialTable &table);
+
+/// Writes a .kmat file with one material per entry of `table` in one step. Returns an error message; an
+/// empty text means success.
+[[nodiscard]] QString writeKMat(const QString &path, const MaterialTable &table);

@@ -1,0 +1,197 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "SkinnedMesh.h"
+
+#include "BinaryFileReader.h"
+#include "BinaryFileWriter.h"
+#include "Transform.h"
+
+#include <algorithm>
+
+namespace {
+// Bytes in the file; the least of those that vary.
+constexpr qint64 ChildListBytes = 4;
+constexpr qint64 HotPointBytes = 22;
+constexpr qint64 SurfaceBytes = 3;
+constexpr qint64 VertexBytes = 34;
+
+void readNodeBody(BinaryFileReader &reader, SkinnedMeshNode &node)
+{
+    node.bbMin = reader.readVec3();
+    node.bbMax = reader.readVec3();
+    node.impactType = reader.readUInt8();
+    node.symbolFlags = reader.readInt8();
+    node.parentNode = reader.readUInt8();
+    node.damageScale = reader.readFloat();
+    node.flags = reader.readInt32();
+}
+
+SkinnedMeshHotPoint readHotPoint(BinaryFileReader &reader)
+{
+    SkinnedMeshHotPoint hotPoint;
+    hotPoint.origin = reader.readVec3();
+    hotPoint.flags = reader.readInt32();
+    hotPoint.nodeId = reader.readUInt16();
+    hotPoint.particleEffect1 = reader.readUInt16();
+    hotPoint.particleEffect2 = reader.readUInt16();
+    return hotPoint;
+}
+
+SkinnedMeshSurface readSurface(BinaryFileReader &reader)
+{
+    SkinnedMeshSurface surface;
+    surface.materialPath = reader.readString();
+    reader.readUInt16sUntil(surface.triangleIndexes, SkinnedMesh::IndexTerminator);
+    return surface;
+}
+
+SkinnedMeshVertex readVertex(BinaryFileReader &reader)
+{
+    float v[8];
+    reader.readFloats(v, 8);
+    return {{v[0], v[1], v[2]}, {v[3], v[4]}, {v[5], v[6], v[7]}, reader.readUInt16()};
+}
+
+bool usesTerminatorAsIndex(const SkinnedMeshSurface &surface)
+{
+    const auto &indexes = surface.triangleIndexes;
+    return std::find(indexes.begin(), indexes.end(), SkinnedMesh::IndexTerminator) != indexes.end();
+}
+
+qint64 fileBytes(const SkinnedMesh &mesh)
+{
+    size_t bytes = 64 + mesh.nodes.size() * 39 + mesh.hotPoints.size() * size_t(HotPointBytes) +
+                   mesh.vertices.size() * size_t(VertexBytes);
+    for (const SkinnedMeshNode &node : mesh.nodes)
+        bytes += 2 * node.childNodes.size();
+    for (const SkinnedMeshSurface &surface : mesh.surfaces)
+        bytes += size_t(surface.materialPath.size()) + 2 * surface.triangleIndexes.size() + 3;
+    return qint64(bytes);
+}
+} // namespace
+
+bool SkinnedMesh::read(const QString &path, QString *errorText)
+{
+    BinaryFileReader reader(path);
+    if (errorText)
+        errorText->clear();
+    if (!reader.isOpen())
+        return true;
+
+    version = reader.readInt32();
+    bbMin = reader.readVec3();
+    bbMax = reader.readVec3();
+    headTrackStart = reader.readUInt8();
+    headTrackEnd = reader.readUInt8();
+    headTrackFactor = reader.readInt8();
+
+    const qint32 nodeCount = reader.readInt32();
+    nodes.clear();
+    readRecords(reader, nodeCount, ChildListBytes, nodes, [](BinaryFileReader &r) {
+        SkinnedMeshNode node;
+        const qint32 childCount = r.readInt32();
+        r.readUInt16s(node.childNodes, childCount);
+        return node;
+    });
+    for (SkinnedMeshNode &node : nodes) {
+        if (reader.hasError())
+            break;
+        readNodeBody(reader, node);
+    }
+
+    unknownA = reader.readInt32();
+    const qint32 hotPointCount = reader.readInt32();
+    hotPoints.clear();
+    readRecords(reader, hotPointCount, HotPointBytes, hotPoints, readHotPoint);
+
+    unknownB = reader.readInt32();
+    const qint32 surfaceCount = reader.readInt32();
+    surfaces.clear();
+    readRecords(reader, surfaceCount, SurfaceBytes, surfaces, readSurface);
+
+    vertices.clear();
+    if (surfaceCount != 0) {
+        const qint32 vertexCount = reader.readInt32();
+        readRecords(reader, vertexCount, VertexBytes, vertices, readVertex);
+    }
+
+    if (errorText)
+        *errorText = reader.errorText();
+    return reader.hasError();
+}
+
+bool SkinnedMesh::write(const QString &path) const
+{
+    if (nodes.empty() || std::any_of(surfaces.begin(), surfaces.end(), usesTerminatorAsIndex))
+        return true;
+
+    BinaryFileWriter writer(fileBytes(*this));
+    writer.writeInt32(version);
+    writer.writeVec3(bbMin);
+    writer.writeVec3(bbMax);
+    writer.writeUInt8(headTrackStart);
+    writer.writeUInt8(headTrackEnd);
+    writer.writeInt8(headTrackFactor);
+
+    writer.writeInt32(qint32(nodes.size()));
+    for (const SkinnedMeshNode &node : nodes) {
+        writer.writeInt32(qint32(node.childNodes.size()));
+        writer.writeUInt16s(node.childNodes);
+    }
+    for (const SkinnedMeshNode &node : nodes) {
+        writer.writeVec3(node.bbMin);
+        writer.writeVec3(node.bbMax);
+        writer.writeUInt8(node.impactType);
+        writer.writeInt8(node.symbolFlags);
+        writer.writeUInt8(node.parentNode);
+        writer.writeFloat(node.damageScale);
+        writer.writeInt32(node.flags);
+    }
+
+    writer.writeInt32(unknownA);
+    writer.writeInt32(qint32(hotPoints.size()));
+    for (const SkinnedMeshHotPoint &hotPoint : hotPoints) {
+        writer.writeVec3(hotPoint.origin);
+        writer.writeInt32(hotPoint.flags);
+        writer.writeUInt16(hotPoint.nodeId);
+        writer.writeUInt16(hotPoint.particleEffect1);
+        writer.writeUInt16(hotPoint.particleEffect2);
+    }
+
+    writer.writeInt32(unknownB);
+    writer.writeInt32(qint32(surfaces.size()));
+    for (const SkinnedMeshSurface &surface : surfaces) {
+        writer.writeString(surface.materialPath);
+        writer.writeUInt16s(surface.triangleIndexes);
+        writer.writeUInt16(IndexTerminator);
+    }
+
+    if (!surfaces.empty()) {
+        writer.writeInt32(qint32(vertices.size()));
+        for (const SkinnedMeshVertex &vertex : vertices) {
+            const float v[8] = {vertex.position.x(), vertex.position.y(), vertex.position.z(),
+                                vertex.uv.x(),       vertex.uv.y(),       vertex.normal.x(),
+                                vertex.normal.y(),   vertex.normal.z()};
+            writer.writeFloats(v, 8);
+            writer.writeUInt16(vertex.nodeIndex);
+        }
+    }
+    return writer.commit(path);
+}
+
+void SkinnedMesh::rotate(float pitch, float yaw, float roll)
+{
+    const QMatrix4x4 rotation = eulerRotation(pitch, yaw, roll);
+    rotateVertices(rotation, vertices);
+    rotateBox(rotation, *this);
+    for (SkinnedMeshNode &node : nodes)
+        rotateBox(rotation, node);
+}
+
+void SkinnedMesh::scale(float factor)
+{
+    scaleVertices(factor, vertices);
+    scaleBox(factor, *this);
+    for (SkinnedMeshNode &node : nodes)
+        scaleBox(factor, node);
+}

@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "StaticMesh.h"
+
+#include "BinaryFileReader.h"
+#include "BinaryFileWriter.h"
+#include "Transform.h"
+
+namespace {
+// Bytes in the file; the least of those that vary.
+constexpr qint64 SurfaceBytes = 5;
+constexpr qint64 VertexBytes = 32;
+
+StaticMeshVertex readVertex(BinaryFileReader &reader)
+{
+    float v[8];
+    reader.readFloats(v, 8);
+    return {{v[0], v[1], v[2]}, {v[3], v[4]}, {v[5], v[6], v[7]}};
+}
+
+qint64 fileBytes(const StaticMesh &mesh)
+{
+    size_t bytes = 36 + mesh.vertices.size() * size_t(VertexBytes);
+    for (const StaticMeshSurface &surface : mesh.surfaces)
+        bytes += size_t(surface.materialPath.size()) + 2 * surface.triangleIndexes.size() + SurfaceBytes;
+    return qint64(bytes);
+}
+} // namespace
+
+bool StaticMesh::read(const QString &path, QString *errorText)
+{
+    BinaryFileReader reader(path);
+    if (errorText)
+        errorText->clear();
+    if (!reader.isOpen())
+        return true;
+
+    version = reader.readInt32();
+    bbMin = reader.readVec3();
+    bbMax = reader.readVec3();
+
+    const qint32 surfaceCount = reader.readInt32();
+    if (surfaceCount < 0)
+        return true;
+    surfaces.clear();
+    if (reader.holds(surfaceCount, SurfaceBytes))
+        surfaces.reserve(size_t(surfaceCount));
+    for (qint32 i = 0; i < surfaceCount && !reader.hasError(); ++i) {
+        StaticMeshSurface surface;
+        surface.materialPath = reader.readString();
+        const qint32 triangleCount = reader.readInt32();
+        if (triangleCount < 0)
+            return true;
+        reader.readUInt16s(surface.triangleIndexes, 3 * qint64(triangleCount));
+        surfaces.push_back(std::move(surface));
+    }
+
+    const qint32 vertexCount = reader.readInt32();
+    if (vertexCount < 0)
+        return true;
+    vertices.clear();
+    readRecords(reader, vertexCount, VertexBytes, vertices, readVertex);
+
+    if (errorText)
+        *errorText = reader.errorText();
+    return reader.hasError();
+}
+
+bool StaticMesh::write(const QString &path) const
+{
+    if (surfaces.empty())
+        return true;
+
+    BinaryFileWriter writer(fileBytes(*this));
+    writer.writeInt32(version);
+    writer.writeVec3(bbMin);
+    writer.writeVec3(bbMax);
+
+    writer.writeInt32(qint32(surfaces.size()));
+    for (const StaticMeshSurface &surface : surfaces) {
+        writer.writeString(surface.materialPath);
+        // A list that is no multiple of three is written whole all the same: the game's own rule.
+        writer.writeInt32(qint32(surface.triangleIndexes.size() / 3));
+        writer.writeUInt16s(surface.triangleIndexes);
+    }
+
+    writer.writeInt32(qint32(vertices.size()));
+    for (const StaticMeshVertex &vertex : vertices) {
+        const float v[8] = {vertex.position.x(), vertex.position.y(), vertex.position.z(), vertex.uv.x(),
+                            vertex.uv.y(),       vertex.normal.x(),   vertex.normal.y(),   vertex.normal.z()};
+        writer.writeFloats(v, 8);
+    }
+    return writer.commit(path);
+}
+
+void StaticMesh::rotate(float pitch, float yaw, float roll)
+{
+    const QMatrix4x4 rotation = eulerRotation(pitch, yaw, roll);
+    rotateVertices(rotation, vertices);
+    rotateBox(rotation, *this);
+}
+
+void StaticMesh::scale(float factor)
+{
+    scaleVertices(factor, vertices);
+    scaleBox(factor, *this);
+}

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMatrix4x4>
+#include <QQuaternion>
+#include <QVector3D>
+
+/// The rotation by Euler angles in degrees: roll about z first, then pitch about x, then yaw about y.
+inline QMatrix4x4 eulerRotation(float pitch, float yaw, float roll)
+{
+    QMatrix4x4 matrix;
+    matrix.rotate(QQuaternion::fromEulerAngles(pitch, yaw, roll));
+    return matrix;
+}
+
+/// Rotates position, normal and a pair of box corners in place. Corners are mapped as points and not put
+/// in order again: afterwards a minimum may be greater than its maximum.
+template <typename Vertex>
+void rotateVertices(const QMatrix4x4 &rotation, std::vector<Vertex> &vertices)
+{
+    for (Vertex &vertex : vertices) {
+        vertex.position = rotation * vertex.position;
+        vertex.normal = rotation * vertex.normal;
+    }
+}
+
+template <typename Boxed>
+void rotateBox(const QMatrix4x4 &rotation, Boxed &boxed)
+{
+    boxed.bbMin = rotation * boxed.bbMin;
+    boxed.bbMax = rotation * boxed.bbMax;
+}
+
+/// Scales positions only; normals and texture coordinates stay.
+template <typename Vertex>
+void scaleVertices(float factor, std::vector<Vertex> &vertices)
+{
+    for (Vertex &vertex : vertices)
+        vertex.position *= factor;
+}
+
+template <typename Boxed>
+void scaleBox(float factor, Boxed &boxed)
+{
+    boxed.bbMin *= factor;
+    boxed.bbMax *= factor;
+}

@@ -1,0 +1,128 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: The Korvane developers
+# SPDX-License-Identifier: MIT
+#
+# lint.sh BUILD_DIR: every check that reads the sources without running them. BUILD_DIR is configured and holds
+# compile_commands.json. All checks run, then the script fails if one of them did.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+build_dir=$1
+failed=()
+
+llvm() { command -v "$1-14" || command -v "$1"; }
+
+# Files under version control or about to be, which exist.
+files() {
+    git ls-files -z --cached --others --exclude-standard -- "$@" | while IFS= read -r -d '' file; do
+        [[ ! -f $file ]] || printf '%s\0' "$file"
+    done
+}
+
+# check TITLE COMMAND...
+check() {
+    local begin=$SECONDS title=$1
+    shift
+    printf '== %s\n' "$title"
+    if "$@"; then
+        printf '   clean, %d s\n' "$((SECONDS - begin))"
+    else
+        printf '   FAILED, %d s\n' "$((SECONDS - begin))"
+        failed+=("$title")
+    fi
+}
+
+# none MESSAGE, lines on standard input: fails and shows them when there are any.
+none() {
+    local lines
+    lines=$(cat)
+    [[ -z $lines ]] || {
+        printf '%s:\n%s\n' "$1" "$lines"
+        return 1
+    }
+}
+
+formatting() { files '*.cpp' '*.h' | xargs -0 -r "$(llvm clang-format)" --dry-run -Werror; }
+
+scripts() { files dev .ci/run '*.sh' | xargs -0 -r shellcheck; }
+
+# The headers that moc and uic write have to be there, everything else of the build is not needed.
+generated_headers() {
+    ninja -C "$build_dir" -t targets all | sed -n 's/^\([^:/]*_autogen\): phony$/\1/p' \
+        | xargs -r ninja -C "$build_dir" >"$build_dir/autogen.log" || {
+        cat "$build_dir/autogen.log"
+        return 1
+    }
+}
+
+# clang-tidy counts the warnings of system headers on standard error; that is no finding.
+tidy() {
+    files '*.cpp' | xargs -0 -r -n 1 -P "$(nproc)" "$(llvm clang-tidy)" -p "$build_dir" --quiet \
+        2>"$build_dir/tidy.log" || {
+        grep -vE '^[0-9]+ warnings? (generated|treated as errors?)\.?$' "$build_dir/tidy.log"
+        return 1
+    }
+}
+
+# search GREP_OPTIONS... reads file names: grep's findings, and no failure when there are none.
+search() { xargs -0 -r grep "$@" || true; }
+
+no_upward_includes() {
+    files '*.cpp' '*.h' | search -nE '#include +["<]\.\./' | none 'A room is included by its link line'
+}
+
+licence_headers() {
+    files '*.cpp' '*.h' '*.sh' '*.cmake' '*CMakeLists.txt' '*.vert' '*.frag' dev .ci/run \
+        | search -L 'SPDX-License-Identifier: ' | none 'No SPDX header'
+}
+
+short_files() {
+    files '*.cpp' '*.h' | xargs -0 -r wc -l | awk '$2 != "total" && $1 > 500' | none 'More than 500 lines'
+}
+
+# The brackets keep these patterns from finding themselves.
+nothing_left_open() {
+    files ':!LICENSE*' | search -nIwE '[T]ODO|[F]IXME|[X]XX' | none 'Left open'
+}
+
+own_words() {
+    local words='\b[s]pec\.md\b|\b[s]pecification\b|\b[a]s specified\b|\bPart [0-9]+\.[0-9]+'
+    files ':!LICENSE*' | search -nIiE "$words" | none 'The text has to stand by itself'
+}
+
+links_resolve() {
+    local page target
+    while IFS= read -r -d '' page; do
+        while read -r target; do
+            [[ -e $(dirname "$page")/$target ]] || printf '%s: %s\n' "$page" "$target"
+        done < <(grep -oE '\]\([^)#: ]+' "$page" | sed 's/^](//')
+    done < <(files '*.md') | none 'A link to nothing'
+}
+
+# The project owns no domain, so its id is a plain name.
+desktop_files() {
+    desktop-file-validate packaging/korvane.desktop || return 1
+    appstreamcli validate --no-net --override=cid-desktopapp-is-not-rdns=info packaging/korvane.metainfo.xml \
+        >"$build_dir/metainfo.log" || {
+        cat "$build_dir/metainfo.log"
+        return 1
+    }
+}
+
+check 'clang-format' formatting
+check 'shellcheck' scripts
+check 'includes' no_upward_includes
+check 'licence headers' licence_headers
+check 'file length' short_files
+check 'open ends' nothing_left_open
+check 'wording' own_words
+check 'links of the documents' links_resolve
+check 'desktop entry and metainfo' desktop_files
+check 'moc and uic' generated_headers
+check 'clang-tidy' tidy
+
+if ((${#failed[@]})); then
+    printf 'lint failed: %s\n' "$(IFS=,; echo "${failed[*]}")"
+    exit 1
+fi
+printf 'lint is clean\n'

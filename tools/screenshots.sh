@@ -1,0 +1,140 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: The Korvane developers
+# SPDX-License-Identifier: MIT
+#
+# Pictures of the real program, for a virtual screen of 1600x1000 (./dev screenshots and ./dev run give it one):
+#   screenshots.sh window PROGRAM PICTURE FILE...   the main window with these files open
+#   screenshots.sh all PROGRAM FOLDER               every picture of the documentation
+# Each start has the settings home that XDG_CONFIG_HOME names.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+readonly width=1600 height=1000
+log=build/screenshots.log
+started=()
+
+die() {
+    printf 'screenshots: %s\n' "$*" >&2
+    [[ ! -s $log ]] || tail -n 20 "$log" >&2
+    exit 1
+}
+
+finish() { ((${#started[@]} == 0)) || kill "${started[@]}" 2>/dev/null || true; }
+trap finish EXIT
+
+# window_named REGEX: the id of the newest visible window with such a title; waits up to 30 s for it.
+window_named() {
+    local id
+    for _ in {1..300}; do
+        id=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | tail -n 1) || true
+        if [[ -n $id ]]; then
+            echo "$id"
+            return
+        fi
+        sleep 0.1
+    done
+    die "no window named '$1' came up"
+}
+
+# grab WINDOW PICTURE: waits until the window shows more than a bare background, then saves it.
+grab() {
+    local window=$1 picture=$2 colours
+    mkdir -p "$(dirname "$picture")"
+    for _ in {1..100}; do
+        import -window "$window" "$picture"
+        colours=$(identify -format '%k' "$picture")
+        if ((colours > 64)); then
+            echo "$picture"
+            return
+        fi
+        sleep 0.2
+    done
+    die "the window stayed empty ($picture)"
+}
+
+window_manager() {
+    openbox >>"$log" 2>&1 &
+    started+=($!)
+    for _ in {1..100}; do
+        xdotool get_num_desktops >/dev/null 2>&1 && return
+        sleep 0.1
+    done
+    die 'openbox did not start'
+}
+
+# korvane FILE...: starts the program and makes its main window, whose id goes into $main, fill the screen.
+korvane() {
+    "$program" "$@" >>"$log" 2>&1 &
+    korvane_pid=$!
+    started+=("$korvane_pid")
+    main=$(window_named '^Korvane|Korvane$')
+    xdotool windowmove --sync "$main" 0 0 windowsize "$main" "$width" "$height"
+    # Time for the layout to settle and for the character to take a step.
+    sleep 3
+}
+
+quit() {
+    kill "$korvane_pid"
+    wait "$korvane_pid" || true
+}
+
+# click X Y: in the coordinates of the screen.
+click() {
+    xdotool mousemove --sync "$1" "$2" click 1
+    sleep 0.5
+}
+
+press() {
+    xdotool key --clearmodifiers "$@"
+    sleep 0.5
+}
+
+sample() { find samples/game -name "$1" | sort | head -n 1; }
+
+# The screen positions that the pictures below click.
+readonly static_mesh_tab=(230 115) edit_menu=(62 12)
+
+all_pictures() {
+    local folder=$1 skinned_mesh animation static_mesh broken=build/broken.anim
+    skinned_mesh=$(sample '*.skinnedmesh')
+    animation=$(sample '*.anim')
+    static_mesh=$(sample '*.staticmesh')
+
+    korvane "$skinned_mesh" "$animation"
+    grab "$main" "$folder/main.png"
+    click "${edit_menu[@]}"
+    press Up
+    press Return
+    grab "$(window_named '^Options$')" "$folder/options.png"
+    press Escape
+    quit
+
+    korvane "$static_mesh"
+    click "${static_mesh_tab[@]}"
+    grab "$main" "$folder/static-mesh.png"
+    quit
+
+    # Half an animation file: the console says where it ends.
+    head -c 100 "$animation" >"$broken"
+    korvane "$skinned_mesh" "$broken"
+    press Return
+    grab "$main" "$folder/console.png"
+    quit
+}
+
+verb=$1 program=$2
+shift 2
+mkdir -p "$(dirname "$log")"
+: >"$log"
+window_manager
+case $verb in
+window)
+    picture=$1
+    shift
+    korvane "$@"
+    grab "$main" "$picture"
+    quit
+    ;;
+all) all_pictures "$1" ;;
+*) die "unknown verb '$verb'" ;;
+esac

@@ -3,6 +3,7 @@
 #include "MainWindow.h"
 
 #include "AboutDialog.h"
+#include "ConsoleButton.h"
 #include "ConsoleLog.h"
 #include "ControlsDialog.h"
 #include "DocumentFiles.h"
@@ -10,17 +11,17 @@
 #include "OptionsDialog.h"
 #include "Playback.h"
 #include "PropertyPages.h"
+#include "ViewPreferences.h"
 #include "ViewToolBar.h"
+#include "ViewportMarks.h"
 #include "WindowGeometry.h"
 #include "ui_MainWindow.h"
 
-#include <QColorDialog>
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
 #include <QTimer>
-#include <QToolButton>
 
 #include <algorithm>
 
@@ -63,19 +64,7 @@ void MainWindow::createConsole()
     connect(m_ui->listConsole, &QWidget::customContextMenuRequested, this,
             &MainWindow::OnConsoleCustomContextMenu);
 
-    // Errors must be seen while the console is hidden, too.
-    m_consoleButton = new QToolButton(this);
-    m_consoleButton->setObjectName(QStringLiteral("btnConsole"));
-    m_consoleButton->setAutoRaise(true);
-    m_consoleButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    m_ui->statusBar->addPermanentWidget(m_consoleButton);
-    connect(m_consoleButton, &QToolButton::clicked, this, [this] {
-        m_ui->dockConsole->show();
-        m_ui->dockConsole->raise();
-        m_ui->listConsole->scrollToBottom();
-    });
-    connect(m_console, &ConsoleLog::countsChanged, this, &MainWindow::updateConsoleButton);
-    updateConsoleButton();
+    m_ui->statusBar->addPermanentWidget(new ConsoleButton(*m_console, *m_ui->dockConsole, this));
 }
 
 void MainWindow::createPanes()
@@ -140,16 +129,11 @@ void MainWindow::createViewToolBars()
 {
     const ViewActions actions{m_ui->actionGround, m_ui->actionTransGizmo, m_ui->actionCullBack,
                               m_ui->actionResetCamera};
-    m_viewToolBars = {new ViewToolBar(tr("Skinned Mesh View"), actions, m_ui->viewSkinnedPanel),
-                      new ViewToolBar(tr("Static Mesh View"), actions, m_ui->viewStaticPanel)};
-    m_ui->vlviewSkinned->insertWidget(0, m_viewToolBars[0]);
-    m_ui->vlviewStatic->insertWidget(0, m_viewToolBars[1]);
-    for (ViewToolBar *bar : m_viewToolBars) {
-        connect(bar, &ViewToolBar::backgroundColorClicked, this, &MainWindow::OnOpenBGColorPicker);
-        connect(bar, &ViewToolBar::surfSelectChanged, this, &MainWindow::OnSurfSelectChanged);
-        connect(bar, &ViewToolBar::moveSpeedChanged, this, &MainWindow::OnMouseSpeedChanged);
-        connect(bar, &ViewToolBar::brightnessChanged, this, &MainWindow::OnBrightnessChanged);
-    }
+    auto *skinned = new ViewToolBar(tr("Skinned Mesh View"), actions, m_ui->viewSkinnedPanel);
+    auto *rigid = new ViewToolBar(tr("Static Mesh View"), actions, m_ui->viewStaticPanel);
+    m_ui->vlviewSkinned->insertWidget(0, skinned);
+    m_ui->vlviewStatic->insertWidget(0, rigid);
+    new ViewPreferences({skinned, rigid}, viewports(), actions, this);
     for (KVOpenGLWidget *viewport : viewports()) {
         connect(viewport, &KVOpenGLWidget::positionReadOut, this,
                 [this](const QString &text) { statusBar()->showMessage(text); });
@@ -164,16 +148,7 @@ void MainWindow::readSettings()
           &Settings::AnimationAutoPlay})
         key->ensure();
 
-    m_ui->actionGround->setChecked(Settings::ShowGround.value());
-    m_ui->actionTransGizmo->setChecked(Settings::ShowAxisGizmo.value());
-    m_ui->actionCullBack->setChecked(Settings::BackCull.value());
     m_ui->actionAnimSyncSkin->setChecked(Settings::AnimationSyncSkin.value());
-    for (ViewToolBar *bar : m_viewToolBars) {
-        bar->setBackgroundColor(Settings::BGColor.value());
-        bar->setSurfSelectType(Settings::SurfSelectType.value());
-        bar->setMoveSpeedPosition(ViewToolBar::moveSpeedPosition(Settings::MouseSpeed.value()));
-        bar->setBrightnessPosition(ViewToolBar::brightnessPosition(Settings::Brightness.value()));
-    }
     for (const Pane &each : m_panes)
         each.explorer->refill();
 }
@@ -244,7 +219,7 @@ void MainWindow::connectPlayback()
     AnimTrackFrame *track = m_ui->animTrackFrame;
     connect(m_ui->viewSkinned, &KVOpenGLWidget::frameShown, track, &AnimTrackFrame::showFrame);
     connect(m_ui->viewSkinned, &KVOpenGLWidget::frameLabelChanged, track, &AnimTrackFrame::showLabel);
-    connect(track, &AnimTrackFrame::playbackChanged, m_ui->viewSkinned, QOverload<>::of(&QWidget::update));
+    connect(track, &AnimTrackFrame::playbackChanged, m_ui->viewSkinned, &KVOpenGLWidget::playbackChanged);
     track->openAnimation(nullptr);
 }
 
@@ -378,21 +353,9 @@ void MainWindow::openMatchingAnimation(const QString &meshPath)
 
 void MainWindow::onRecordsChanged(DocumentType type, const QVector<RecordRef> &records)
 {
-    KVOpenGLWidget *viewport = pane(type).viewport;
-    const auto changed = [&records](std::initializer_list<RecordKind> kinds) {
-        return std::any_of(records.begin(), records.end(), [kinds](const RecordRef &record) {
-            return std::find(kinds.begin(), kinds.end(), record.kind) != kinds.end();
-        });
-    };
-    if (changed({RecordKind::SkinnedSurface, RecordKind::SkinnedTriangleIndex, RecordKind::StaticSurface,
-                 RecordKind::StaticTriangleIndex}))
-        viewport->rebuildModel();
-    else if (changed({RecordKind::SkinnedMesh, RecordKind::SkinnedVertex, RecordKind::StaticMesh,
-                      RecordKind::StaticVertex}))
-        viewport->refreshVertices();
+    refreshChanged(*pane(type).viewport, records);
     if (type == DocumentType::Anim)
         m_ui->animTrackFrame->updateRange();
-    viewport->update();
 }
 
 void MainWindow::showInViewport(DocumentType type, const RecordRef &record)
@@ -400,36 +363,20 @@ void MainWindow::showInViewport(DocumentType type, const RecordRef &record)
     Pane &shown = pane(type);
     const bool isNew = shown.shown != record;
     shown.shown = record;
-    const int index = record.index[0];
     switch (type) {
-    case DocumentType::SkinnedMesh: {
-        shown.viewport->setSelectedSurface(record.kind == RecordKind::SkinnedSurface ? index : -1);
-        shown.viewport->setSelectedBone(record.kind == RecordKind::Bone ? index : -1);
-        const auto *hotPoint = record.kind == RecordKind::HotPoint
-                                   ? Records::HotPoint::find(m_skinnedMesh.model(), record.index)
-                                   : nullptr;
-        if (hotPoint)
-            shown.viewport->setHighlightPoint(hotPoint->origin, false, hotPoint->nodeId);
-        else
-            shown.viewport->clearHighlightPoint();
+    case DocumentType::SkinnedMesh:
+        markRecord(*shown.viewport, m_skinnedMesh.model(), record);
         break;
-    }
     case DocumentType::Anim: {
+        markRecord(*shown.viewport, m_anim.model(), record);
         const bool underBlock = record.kind != RecordKind::None && record.kind != RecordKind::AnimFile;
-        if (underBlock && isNew && (record.kind == RecordKind::AnimBlock || index != playback().blockIndex))
-            m_ui->animTrackFrame->selectBlock(index);
-        shown.viewport->setSelectedBone(record.kind == RecordKind::AnimBone ? record.index[1] : -1);
-        const auto *action = record.kind == RecordKind::AnimAction
-                                 ? Records::BlockAction::find(m_anim.model(), record.index)
-                                 : nullptr;
-        if (action)
-            shown.viewport->setHighlightPoint(action->offset, true, action->node);
-        else
-            shown.viewport->clearHighlightPoint();
+        const int block = record.index[0];
+        if (underBlock && isNew && (record.kind == RecordKind::AnimBlock || block != playback().blockIndex))
+            m_ui->animTrackFrame->selectBlock(block);
         break;
     }
     case DocumentType::StaticMesh:
-        shown.viewport->setSelectedSurface(record.kind == RecordKind::StaticSurface ? index : -1);
+        markRecord(*shown.viewport, m_staticMesh.model(), record);
         break;
     }
 }
@@ -482,27 +429,6 @@ void MainWindow::on_actionSaveAll_triggered()
 void MainWindow::on_actionExit_triggered()
 {
     close();
-}
-
-void MainWindow::on_actionGround_triggered()
-{
-    Settings::ShowGround.setValue(m_ui->actionGround->isChecked());
-    for (KVOpenGLWidget *viewport : viewports())
-        viewport->setShowGround(m_ui->actionGround->isChecked());
-}
-
-void MainWindow::on_actionTransGizmo_triggered()
-{
-    Settings::ShowAxisGizmo.setValue(m_ui->actionTransGizmo->isChecked());
-    for (KVOpenGLWidget *viewport : viewports())
-        viewport->setShowAxisGizmo(m_ui->actionTransGizmo->isChecked());
-}
-
-void MainWindow::on_actionCullBack_triggered()
-{
-    Settings::BackCull.setValue(m_ui->actionCullBack->isChecked());
-    for (KVOpenGLWidget *viewport : viewports())
-        viewport->setBackCull(m_ui->actionCullBack->isChecked());
 }
 
 void MainWindow::on_actionResetCamera_triggered()
@@ -581,58 +507,4 @@ void MainWindow::OnConsoleCustomContextMenu(const QPoint &position)
 void MainWindow::OnUndoCleanChanged()
 {
     updateCurrentDocument();
-}
-
-void MainWindow::OnOpenBGColorPicker()
-{
-    const QColor color = QColorDialog::getColor(Settings::BGColor.value(), this, tr("Background Color"));
-    if (!color.isValid())
-        return;
-    Settings::BGColor.setValue(color);
-    for (ViewToolBar *bar : m_viewToolBars)
-        bar->setBackgroundColor(color);
-    for (KVOpenGLWidget *viewport : viewports())
-        viewport->setBackgroundColor(color);
-}
-
-void MainWindow::OnSurfSelectChanged(int type)
-{
-    Settings::SurfSelectType.setValue(type);
-    for (ViewToolBar *bar : m_viewToolBars)
-        bar->setSurfSelectType(type);
-    for (KVOpenGLWidget *viewport : viewports())
-        viewport->setSurfSelectType(type);
-}
-
-void MainWindow::OnMouseSpeedChanged(int position)
-{
-    const float speed = ViewToolBar::moveSpeed(position);
-    Settings::MouseSpeed.setValue(speed);
-    for (ViewToolBar *bar : m_viewToolBars)
-        bar->setMoveSpeedPosition(position);
-    for (KVOpenGLWidget *viewport : viewports())
-        viewport->setMoveSpeed(speed);
-}
-
-void MainWindow::OnBrightnessChanged(int position)
-{
-    const float brightness = ViewToolBar::brightness(position);
-    Settings::Brightness.setValue(brightness);
-    for (ViewToolBar *bar : m_viewToolBars)
-        bar->setBrightnessPosition(position);
-    for (KVOpenGLWidget *viewport : viewports())
-        viewport->setBrightness(brightness);
-}
-
-void MainWindow::updateConsoleButton()
-{
-    const int errors = m_console->errorCount();
-    const int warnings = m_console->warningCount();
-    const char *icon = errors > 0 ? "error" : warnings > 0 ? "warning" : "console";
-    m_consoleButton->setIcon(QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(icon))));
-    m_consoleButton->setText(
-        errors + warnings == 0
-            ? tr("Console")
-            : tr("%1 errors, %2 warnings").arg(QString::number(errors), QString::number(warnings)));
-    m_consoleButton->setToolTip(tr("Show the console"));
 }

@@ -16,8 +16,6 @@ class FolderExplorer;
 class KVOpenGLWidget;
 class KVTreeView;
 class PageStack;
-class QToolButton;
-class ViewToolBar;
 
 namespace Ui {
 class MainWindow;
@@ -47,9 +45,6 @@ private slots:
     void on_actionAnimSaveAs_triggered();
     void on_actionSaveAll_triggered();
     void on_actionExit_triggered();
-    void on_actionGround_triggered();
-    void on_actionTransGizmo_triggered();
-    void on_actionCullBack_triggered();
     void on_actionResetCamera_triggered();
     void on_actionFullScreen_triggered(bool on);
     void on_actionRefreshExplorers_triggered();
@@ -62,10 +57,6 @@ private slots:
     void OnActionAnimSyncSkinSelect(bool on);
     void OnConsoleCustomContextMenu(const QPoint &position);
     void OnUndoCleanChanged();
-    void OnOpenBGColorPicker();
-    void OnSurfSelectChanged(int type);
-    void OnMouseSpeedChanged(int position);
-    void OnBrightnessChanged(int position);
 
 private:
     /// What belongs to one document.
@@ -99,16 +90,13 @@ private:
     void showInViewport(DocumentType type, const RecordRef &record);
     void openFromExplorer(DocumentType type, const QString &path);
     void openMatchingAnimation(const QString &meshPath);
-    void updateConsoleButton();
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     ConsoleLog *m_console = nullptr;
-    QToolButton *m_consoleButton = nullptr;
     SkinnedMeshDocument m_skinnedMesh;
     AnimDocument m_anim;
     StaticMeshDocument m_staticMesh;
     QUndoGroup m_undoGroup;
     DocumentFiles *m_files;
     std::array<Pane, 3> m_panes{};
-    std::array<ViewToolBar *, 2> m_viewToolBars{};
 };

@@ -119,9 +119,12 @@ void MainWindow::createPanes()
     pane(DocumentType::Anim).explorer->addExtraAction(m_ui->actionAnimSyncSkin);
     connect(m_ui->actionAnimSyncSkin, &QAction::triggered, this, &MainWindow::OnActionAnimSyncSkinSelect);
 
+    for (QSplitter *splitter : {m_ui->splitterSkinnedRecords, m_ui->splitterStaticRecords})
+        splitter->setSizes({300, 500});
+    resizeDocks({m_ui->dockConsole}, {110}, Qt::Vertical);
     for (QSplitter *splitter : {m_ui->splitterSkinned, m_ui->splitterStatic}) {
         splitter->setStretchFactor(1, 1);
-        splitter->setSizes({230, 800, 390});
+        splitter->setSizes({230, 800, 400});
     }
 }
 

@@ -14,8 +14,8 @@
 
 namespace {
 // Sizes of markers at a distance of 1: they look equally big from everywhere.
-constexpr float SphereRadius = 0.018f;
-constexpr float QuadRadius = 0.009f;
+constexpr float SphereRadius = 0.06f;
+constexpr float QuadRadius = 0.014f;
 constexpr float NearestMarker = 5.12f; // the near plane: behind it nothing is seen
 /// The overlay is drawn this much nearer to the eye, in the same place on the screen, so that the surface it
 /// lies on does not hide it.

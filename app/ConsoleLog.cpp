@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "ConsoleLog.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QFontMetrics>
+#include <QListWidget>
+#include <QScrollBar>
+#include <QStyle>
+#include <QStyledItemDelegate>
+#include <QTimer>
+
+#include <algorithm>
+
+/// Gives every row one height and the width of the widest line. Rows of one size spare the list from
+/// measuring thousands of lines at every change; the common width lets the longest line be read by scrolling.
+class RowDelegate : public QStyledItemDelegate
+{
+public:
+    explicit RowDelegate(QListWidget *list)
+        : QStyledItemDelegate(list)
+        , m_list(list)
+    {}
+
+    void include(const QString &text)
+    {
+        m_textWidth = std::max(m_textWidth, m_list->fontMetrics().horizontalAdvance(oneLine(text)));
+    }
+    void reset() { m_textWidth = 0; }
+
+    QString displayText(const QVariant &value, const QLocale &) const override
+    {
+        return oneLine(value.toString());
+    }
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const override
+    {
+        const int margin = 1 + option.widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &option);
+        const int height = std::max(option.decorationSize.height(), m_list->fontMetrics().height());
+        return {m_textWidth + option.decorationSize.width() + 6 * margin, height + 4};
+    }
+
+private:
+    static QString oneLine(QString text)
+    {
+        return text.replace(QLatin1Char('\n'), QStringLiteral(" \u21b5 "));
+    }
+
+    QListWidget *m_list;
+    int m_textWidth = 0;
+};
+
+ConsoleWidgetItem::ConsoleWidgetItem(LogSeverity severity, const QIcon &icon, const QString &text)
+    : QListWidgetItem(icon, text)
+{
+    setData(Qt::UserRole, int(severity));
+}
+
+LogSeverity ConsoleWidgetItem::severity() const
+{
+    return LogSeverity(data(Qt::UserRole).toInt());
+}
+
+ConsoleLog::ConsoleLog(QListWidget *list, QObject *parent)
+    : QObject(parent)
+    , m_list(list)
+    , m_copyAction(new QAction(QIcon(QStringLiteral(":/Images/Icons/copy.png")), tr("&Copy"), list))
+    , m_delegate(new RowDelegate(list))
+    , m_icons{QIcon(QStringLiteral(":/Images/Icons/error.png")),
+              QIcon(QStringLiteral(":/Images/Icons/warning.png")),
+              QIcon(QStringLiteral(":/Images/Icons/info.png"))}
+{
+    m_list->setItemDelegate(m_delegate);
+    m_list->setUniformItemSizes(true);
+    m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_list->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_list->setTextElideMode(Qt::ElideNone);
+    m_list->setAccessibleName(tr("Console"));
+
+    m_copyAction->setObjectName(QStringLiteral("actionConsoleCopy"));
+    m_copyAction->setShortcut(QKeySequence::Copy);
+    m_copyAction->setShortcutContext(Qt::WidgetShortcut);
+    m_copyAction->setToolTip(tr("Copy the selected lines"));
+    m_list->addAction(m_copyAction);
+    connect(m_copyAction, &QAction::triggered, this, &ConsoleLog::copySelection);
+    connect(m_list, &QListWidget::itemSelectionChanged, this, &ConsoleLog::updateCopyAction);
+    updateCopyAction();
+}
+
+void ConsoleLog::log(LogSeverity severity, const QString &text)
+{
+    // Asking for the end would lay the whole list out, so a burst of lines asks once, before its first.
+    if (!m_followPending && isAtEnd()) {
+        m_followPending = true;
+        QTimer::singleShot(0, this, [this] {
+            m_followPending = false;
+            m_list->scrollToBottom();
+        });
+    }
+    m_delegate->include(text);
+    m_list->addItem(new ConsoleWidgetItem(severity, m_icons[size_t(severity)], text));
+
+    ++m_counts[Rows];
+    ++m_counts[severity == LogSeverity::Info ? Infos : severity == LogSeverity::Error ? Errors : Warnings];
+    emit countsChanged();
+}
+
+void ConsoleLog::clear()
+{
+    m_list->clear();
+    m_delegate->reset();
+    m_counts.fill(0);
+    updateCopyAction();
+    emit countsChanged();
+}
+
+bool ConsoleLog::isAtEnd() const
+{
+    const QScrollBar *bar = m_list->verticalScrollBar();
+    return bar->value() == bar->maximum();
+}
+
+void ConsoleLog::copySelection() const
+{
+    QModelIndexList rows = m_list->selectionModel()->selectedIndexes();
+    std::sort(rows.begin(), rows.end());
+    QStringList lines;
+    lines.reserve(rows.size());
+    for (const QModelIndex &row : qAsConst(rows))
+        lines << row.data().toString();
+    if (!lines.isEmpty())
+        QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+}
+
+void ConsoleLog::updateCopyAction()
+{
+    m_copyAction->setEnabled(m_list->selectionModel()->hasSelection());
+}

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Log.h"
+
+#include <QIcon>
+#include <QListWidgetItem>
+#include <QObject>
+
+#include <array>
+
+class QAction;
+class QListWidget;
+
+/// One console row: icon, text, and the severity's number under Qt::UserRole.
+class ConsoleWidgetItem : public QListWidgetItem
+{
+public:
+    ConsoleWidgetItem(LogSeverity severity, const QIcon &icon, const QString &text);
+    LogSeverity severity() const;
+};
+
+/// The application-wide log shown in a list widget: rows are appended at the end, and the view follows them
+/// as long as it stood at the end. GUI thread only.
+class ConsoleLog : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Takes over the look of `list`, which must outlive the log and hold no other rows.
+    explicit ConsoleLog(QListWidget *list, QObject *parent = nullptr);
+
+    /// Counts the line and appends its row; fits the sink of core's log.
+    void log(LogSeverity severity, const QString &text);
+    void info(const QString &text) { log(LogSeverity::Info, text); }
+    void warning(const QString &text) { log(LogSeverity::Warning, text); }
+    void error(const QString &text) { log(LogSeverity::Error, text); }
+    /// Zeroes the counters and empties the list.
+    void clear();
+
+    bool hasErrors() const { return errorCount() > 0; }
+    // Since the last clear.
+    int rowCount() const { return m_counts[Rows]; }
+    int infoCount() const { return m_counts[Infos]; }
+    int errorCount() const { return m_counts[Errors]; }
+    int warningCount() const { return m_counts[Warnings]; }
+
+    /// Copies the selected rows' texts, a line each, in the order of the list. Has the standard copy
+    /// shortcut.
+    QAction *copyAction() const { return m_copyAction; }
+
+signals:
+    void countsChanged();
+
+private:
+    enum Counter { Rows, Infos, Errors, Warnings };
+
+    bool isAtEnd() const;
+    void copySelection() const;
+    void updateCopyAction();
+
+    QListWidget *m_list;
+    QAction *m_copyAction;
+    class RowDelegate *m_delegate;
+    std::array<int, 4> m_counts{};
+    std::array<QIcon, 3> m_icons; ///< by severity
+    bool m_followPending = false;
+};

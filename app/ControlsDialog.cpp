@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "ControlsDialog.h"
+
+#include "ui_ControlsDialog.h"
+
+#include <QAction>
+
+namespace {
+QTreeWidgetItem *addGroup(QTreeWidget *tree, const QString &title)
+{
+    auto *group = new QTreeWidgetItem(tree, {title});
+    QFont font = tree->font();
+    font.setBold(true);
+    group->setFont(0, font);
+    group->setFirstColumnSpanned(true);
+    group->setFlags(Qt::ItemIsEnabled);
+    group->setExpanded(true);
+    return group;
+}
+
+QString titleOf(const QAction *action)
+{
+    QString title = action->text();
+    title.remove(QLatin1Char('&'));
+    while (title.endsWith(QLatin1Char('.')) || title.endsWith(QChar(0x2026)))
+        title.chop(1);
+    return title;
+}
+
+QString shortcutsOf(const QAction *action)
+{
+    QStringList texts;
+    const QList<QKeySequence> shortcuts = action->shortcuts();
+    for (const QKeySequence &shortcut : shortcuts) {
+        if (!shortcut.isEmpty())
+            texts << shortcut.toString(QKeySequence::NativeText);
+    }
+    return texts.join(QStringLiteral(", "));
+}
+} // namespace
+
+ControlsDialog::ControlsDialog(const QList<QAction *> &actions, QWidget *parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::ControlsDialog>())
+{
+    m_ui->setupUi(this);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+
+    const QString viewRows[][2] = {
+        {tr("W / S"), tr("Fly forward / back")},
+        {tr("A / D"), tr("Fly left / right")},
+        {tr("Shift"), tr("Fly three times as fast")},
+        {tr("C"), tr("Reset the camera")},
+        {tr("Left drag"), tr("Move over the ground")},
+        {tr("Right drag"), tr("Look around")},
+        {tr("Left + right drag"), tr("Move up, down and sideways")},
+    };
+    QTreeWidget *tree = m_ui->treeControls;
+    QTreeWidgetItem *view = addGroup(tree, tr("3D view"));
+    for (const auto &row : viewRows)
+        view->addChild(new QTreeWidgetItem(QStringList{row[0], row[1]}));
+
+    QList<QTreeWidgetItem *> shortcuts;
+    for (const QAction *action : actions) {
+        const QString keys = shortcutsOf(action);
+        if (!keys.isEmpty() && !action->isSeparator())
+            shortcuts << new QTreeWidgetItem(QStringList{keys, titleOf(action)});
+    }
+    if (!shortcuts.isEmpty())
+        addGroup(tree, tr("Window"))->addChildren(shortcuts);
+
+    tree->expandAll();
+    tree->resizeColumnToContents(0);
+    tree->setColumnWidth(0, tree->columnWidth(0) + 2 * fontMetrics().averageCharWidth());
+}
+
+ControlsDialog::~ControlsDialog() = default;

@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "Document.h"
+
+#include "NameTables.h"
+
+#include <QFileInfo>
+
+Document::Document(DocumentType type, RecordKind rootKind, QObject *parent)
+    : QObject(parent)
+    , m_type(type)
+    , m_rootKind(rootKind)
+{
+    // One signal per finished step: a push, the end of a macro, an undo or a redo of either.
+    connect(&m_undoStack, &QUndoStack::indexChanged, this, &Document::flushChanges);
+}
+
+QString Document::fileName() const
+{
+    return QFileInfo(m_path).fileName();
+}
+
+bool Document::open(const QString &path, QString *reason)
+{
+    if (readModel(path, reason))
+        return true;
+    emit aboutToBeReplaced();
+    // Commands name records of the model that goes: they go with it.
+    m_undoStack.clear();
+    adoptModel();
+    m_path = path;
+    m_open = true;
+    emit replaced();
+    return false;
+}
+
+bool Document::save(const QString &path)
+{
+    if (writeModel(path))
+        return true;
+    m_path = path;
+    m_undoStack.setClean();
+    return false;
+}
+
+void Document::recordChanged(const RecordRef &record)
+{
+    m_changes.append(record);
+}
+
+void Document::flushChanges()
+{
+    if (m_changes.isEmpty())
+        return;
+    const QVector<RecordRef> changes = std::move(m_changes);
+    m_changes.clear();
+    emit recordsChanged(changes);
+}
+
+template <>
+QString SkinnedMeshDocument::recordText(const RecordRef &record) const
+{
+    const RecordIndex &index = record.index;
+    switch (record.kind) {
+    case RecordKind::Bone:
+        return boneSymbolName(m_model, index[0]);
+    case RecordKind::ChildBone:
+        return QString::number(m_model.nodes[size_t(index[0])].childNodes[size_t(index[1])]);
+    case RecordKind::SkinnedTriangleIndex:
+        return QString::number(m_model.surfaces[size_t(index[0])].triangleIndexes[size_t(index[1])]);
+    default:
+        return {};
+    }
+}
+
+template <>
+QString AnimDocument::recordText(const RecordRef &) const
+{
+    return {};
+}
+
+template <>
+QString StaticMeshDocument::recordText(const RecordRef &record) const
+{
+    if (record.kind == RecordKind::StaticTriangleIndex) {
+        return QString::number(
+            m_model.surfaces[size_t(record.index[0])].triangleIndexes[size_t(record.index[1])]);
+    }
+    return {};
+}
+
+template <typename Model>
+bool ModelDocument<Model>::readModel(const QString &path, QString *reason)
+{
+    m_fresh = Model();
+    return m_fresh.read(path, reason);
+}
+
+template <>
+bool StaticMeshDocument::readModel(const QString &path, QString *reason)
+{
+    m_fresh = StaticMesh();
+    if (m_fresh.read(path, reason))
+        return true;
+    // Without a surface there is nothing to show, and nothing that could be saved.
+    if (m_fresh.surfaces.empty())
+        *reason = tr("The model has no surfaces.");
+    return m_fresh.surfaces.empty();
+}
+
+template class ModelDocument<SkinnedMesh>;
+template class ModelDocument<AnimFile>;
+template class ModelDocument<StaticMesh>;

@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "DocumentKind.h"
+#include "DocumentView.h"
+#include "Records.h"
+
+#include <QUndoStack>
+#include <QVector>
+
+/// The current document of one kind: its model, its file, its undo stack. The object lives as long as the
+/// window; opening a file replaces what it holds.
+class Document : public QObject, public DocumentView
+{
+    Q_OBJECT
+
+public:
+    Document(DocumentType type, RecordKind rootKind, QObject *parent = nullptr);
+
+    const DocumentKind &kind() const { return documentKind(m_type); }
+    RecordKind rootKind() const { return m_rootKind; }
+    /// True once a file was opened (or a model taken over).
+    bool isOpen() const { return m_open; }
+    bool isModified() const { return !m_undoStack.isClean(); }
+    /// The file, with the toolkit's separators; empty for a document that was never saved.
+    QString path() const { return m_path; }
+    QString fileName() const;
+    QUndoStack *undoStack() { return &m_undoStack; }
+
+    /// Reads `path` into a new model, which replaces the current one only when that succeeds. Returns true on
+    /// failure and gives the reason, empty when the file could not be opened.
+    [[nodiscard]] bool open(const QString &path, QString *reason);
+    /// Writes the model; on success the document has that path and its undo stack is clean. Returns true on
+    /// failure, with nothing changed.
+    [[nodiscard]] bool save(const QString &path);
+
+    /// How many records of a list kind stand under the owner named by `index`.
+    virtual int recordCount(RecordKind kind, const RecordIndex &index) const = 0;
+    /// What a tree says of one record beside the kind's own label: a bone's name, the index an entry holds.
+    virtual QString recordText(const RecordRef &record) const = 0;
+
+    void recordChanged(const RecordRef &record) override;
+
+signals:
+    /// Another model is about to take the place of the current one: the one passage for every replacement.
+    void aboutToBeReplaced();
+    void replaced();
+    /// The records that one undo step has changed, in the order of the changes.
+    void recordsChanged(const QVector<RecordRef> &records);
+
+protected:
+    /// Reads a new model beside the current one; returns true on failure.
+    virtual bool readModel(const QString &path, QString *reason) = 0;
+    /// Lets the model that was read last take the place of the current one.
+    virtual void adoptModel() = 0;
+    virtual bool writeModel(const QString &path) const = 0;
+
+private:
+    void flushChanges();
+
+    const DocumentType m_type;
+    const RecordKind m_rootKind;
+    bool m_open = false;
+    QString m_path;
+    QUndoStack m_undoStack;
+    QVector<RecordRef> m_changes;
+};
+
+template <typename Model>
+class ModelDocument : public Document
+{
+public:
+    using Document::Document;
+
+    Model &model() { return m_model; }
+    const Model &model() const { return m_model; }
+    EditTarget<Model> editTarget() { return {m_model, *this}; }
+
+    int recordCount(RecordKind kind, const RecordIndex &index) const override
+    {
+        return ::recordCount(m_model, kind, index);
+    }
+    QString recordText(const RecordRef &record) const override;
+
+protected:
+    bool readModel(const QString &path, QString *reason) override;
+    void adoptModel() override
+    {
+        m_model = std::move(m_fresh);
+        m_fresh = Model();
+    }
+    bool writeModel(const QString &path) const override { return m_model.write(path); }
+
+private:
+    Model m_model;
+    Model m_fresh;
+};
+
+using SkinnedMeshDocument = ModelDocument<SkinnedMesh>;
+using AnimDocument = ModelDocument<AnimFile>;
+using StaticMeshDocument = ModelDocument<StaticMesh>;

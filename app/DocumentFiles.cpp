@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "DocumentFiles.h"
+
+#include "Log.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+DocumentFiles::DocumentFiles(const std::array<Document *, 3> &documents, QWidget *window)
+    : QObject(window)
+    , m_documents(documents)
+    , m_window(window)
+{}
+
+bool DocumentFiles::open(DocumentType type, const QString &path)
+{
+    QString reason;
+    if (!document(type)->open(path, &reason))
+        return false;
+    const QString nativePath = QDir::toNativeSeparators(path);
+    Log::error(reason.isEmpty() ? tr("[Open] Unable to read '%1'").arg(nativePath)
+                                : tr("[Open] '%1': %2").arg(nativePath, reason));
+    // A static mesh that cannot be read is dropped without a box: many files of that kind are only tried.
+    if (type != DocumentType::StaticMesh)
+        QMessageBox::warning(m_window, tr("File error"), tr("Failed to open\n%1").arg(nativePath));
+    return true;
+}
+
+void DocumentFiles::openChosen(DocumentType type)
+{
+    const DocumentKind &kind = documentKind(type);
+    const QString path =
+        QFileDialog::getOpenFileName(m_window, kind.openTitle, kind.loadPath.value(), kind.filter);
+    if (path.isEmpty())
+        return;
+    kind.loadPath.setValue(QFileInfo(path).absolutePath());
+    open(type, path);
+}
+
+bool DocumentFiles::save(DocumentType type)
+{
+    if (!document(type)->isOpen())
+        return true;
+    return document(type)->path().isEmpty() ? saveAs(type) : saveTo(type, document(type)->path());
+}
+
+bool DocumentFiles::saveAs(DocumentType type)
+{
+    if (!document(type)->isOpen())
+        return true;
+    const DocumentKind &kind = documentKind(type);
+    QFileDialog dialog(m_window, kind.saveTitle, kind.savePath.value(), kind.filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    // The explorers list files by their extension; the dialog asks before it replaces the completed name.
+    dialog.setDefaultSuffix(kind.extension);
+    dialog.selectFile(document(type)->fileName());
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return true;
+    const QString path = dialog.selectedFiles().first();
+    kind.savePath.setValue(QFileInfo(path).absolutePath());
+    return saveTo(type, path);
+}
+
+void DocumentFiles::saveAll()
+{
+    for (const DocumentKind &kind : documentKinds()) {
+        const Document *candidate = document(kind.type);
+        if (candidate->isOpen() && (candidate->isModified() || candidate->path().isEmpty())
+            && save(kind.type))
+            return;
+    }
+}
+
+bool DocumentFiles::promptUnsaved(DocumentType type, QEvent *event)
+{
+    if (!document(type)->isModified())
+        return true;
+    const QString text = tr("Would you like to save the %2?\n\n%1")
+                             .arg(QDir::toNativeSeparators(document(type)->path()), documentKind(type).label);
+    const auto answer = QMessageBox::question(m_window, tr("Unsaved changes"), text,
+                                              QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+                                              QMessageBox::Yes);
+    // A save that fails, or is given up, must not lose the changes: it counts as Cancel.
+    const bool goOn = answer == QMessageBox::No || (answer == QMessageBox::Yes && !save(type));
+    if (!goOn && event)
+        event->ignore();
+    return goOn;
+}
+
+bool DocumentFiles::saveTo(DocumentType type, const QString &path)
+{
+    if (document(type)->save(path)) {
+        const QString nativePath = QDir::toNativeSeparators(path);
+        Log::error(tr("[Save] Unable to write '%1'").arg(nativePath));
+        QMessageBox::warning(m_window, tr("File error"), tr("Failed to save\n%1").arg(nativePath));
+        return true;
+    }
+    emit saved(type);
+    return false;
+}

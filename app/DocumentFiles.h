@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Document.h"
+
+#include <QEvent>
+#include <QObject>
+
+#include <array>
+
+class QWidget;
+
+/// Opening and saving the three documents with the dialogs and message boxes that belong to it.
+class DocumentFiles : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `documents` in the order of documentKinds(); the boxes stand on `window`.
+    DocumentFiles(const std::array<Document *, 3> &documents, QWidget *window);
+
+    Document *document(DocumentType type) const { return m_documents[size_t(type)]; }
+
+    /// Loads a file without asking about unsaved changes. Returns true on failure, after saying so.
+    bool open(DocumentType type, const QString &path);
+    /// Lets the user choose a file and loads it.
+    void openChosen(DocumentType type);
+
+    /// Saves to the document's file, or to a chosen one when it has none yet. Returns true when the document
+    /// was not saved: after a failure, which was then said, or because the user thought better of it.
+    bool save(DocumentType type);
+    bool saveAs(DocumentType type);
+    /// Saves every document that is modified, in the order of their kinds; stops at the first failure.
+    void saveAll();
+
+    /// Asks whether unsaved changes shall be saved before the document is replaced. Returns true when the
+    /// replacement may go on; otherwise `event`, if given, is marked ignored.
+    [[nodiscard]] bool promptUnsaved(DocumentType type, QEvent *event = nullptr);
+
+signals:
+    /// The document was written: its path or its modified mark may be new.
+    void saved(DocumentType type);
+
+private:
+    bool saveTo(DocumentType type, const QString &path);
+
+    std::array<Document *, 3> m_documents;
+    QWidget *m_window;
+};

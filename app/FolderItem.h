@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QIcon>
+#include <QString>
+#include <QTreeWidgetItem>
+
+/// The icons that the items of one explorer share.
+struct FolderIcons
+{
+    QIcon folder;
+    QIcon openFolder;
+    QIcon file;
+};
+
+/// One row of a folder explorer: a sub-folder with its contents below it, or a file. Answers from its few
+/// fields instead of keeping a value per role, which makes a folder of thousands of files quick to list.
+class FolderItem : public QTreeWidgetItem
+{
+public:
+    /// The full path of a file; empty for a folder.
+    static constexpr int FilePathRole = Qt::UserRole;
+
+    /// `icons` must outlive the item.
+    FolderItem(QString path, QString name, bool folder, const FolderIcons *icons);
+
+    QVariant data(int column, int role) const override;
+
+    bool isFolder() const { return m_folder; }
+    const QString &path() const { return m_path; }
+    const QString &name() const { return m_name; }
+    bool isLoaded() const { return m_loaded; }
+    /// Marks the file that is open in the editor.
+    void setLoaded(bool loaded);
+
+private:
+    QString m_path;
+    QString m_name;
+    const FolderIcons *m_icons;
+    bool m_folder;
+    bool m_loaded = false;
+};
+
+/// The contents of `folder`, all levels down: every sub-folder, and the files of that extension (in any
+/// case). Folders come before files, each in natural order. Links to folders are left out, since one may lead
+/// back up.
+QList<QTreeWidgetItem *> readFolder(const QString &folder, const QString &extension,
+                                    const FolderIcons *icons);

@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "OptionsDialog.h"
+
+#include "Settings.h"
+#include "ui_OptionsDialog.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+OptionsDialog::OptionsDialog(QWidget *parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::OptionsDialog>())
+    , m_gamePath(Settings::GamePath.value())
+    , m_outputDir(Settings::OutputDir.value())
+    , m_updates(Settings::Updates.value())
+    , m_hideMeshData(Settings::HideMeshData.value())
+    , m_hideAnimData(Settings::HideAnimData.value())
+    , m_animAutoPlay(Settings::AnimationAutoPlay.value())
+{
+    m_ui->setupUi(this);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+
+    m_ui->txtGamePath->setText(QDir::toNativeSeparators(m_gamePath));
+    m_ui->txtT2Dir->setText(QDir::toNativeSeparators(m_outputDir));
+    m_ui->cbUpdates->setChecked(m_updates);
+    m_ui->cbHideMeshData->setChecked(m_hideMeshData);
+    m_ui->cbHideAnimData->setChecked(m_hideAnimData);
+    m_ui->cbAnimAutoPlay->setChecked(m_animAutoPlay);
+
+    connect(m_ui->txtGamePath, &QLineEdit::editingFinished, this, &OptionsDialog::OnTxtGamePathChanged);
+    connect(m_ui->txtT2Dir, &QLineEdit::editingFinished, this, &OptionsDialog::OnTxtT2DirChanged);
+    connect(m_ui->txtGamePath, &QLineEdit::textChanged, this, &OptionsDialog::updateHints);
+    connect(m_ui->txtT2Dir, &QLineEdit::textChanged, this, &OptionsDialog::updateHints);
+    updateHints();
+}
+
+OptionsDialog::~OptionsDialog() = default;
+
+void OptionsDialog::on_buttonBox_accepted()
+{
+    // A text set by the program finishes no edit.
+    OnTxtGamePathChanged();
+    OnTxtT2DirChanged();
+
+    Settings::GamePath.setValue(normalizedFolder(m_gamePath));
+    Settings::OutputDir.setValue(normalizedFolder(m_outputDir));
+    Settings::Updates.setValue(m_updates);
+    Settings::HideMeshData.setValue(m_hideMeshData);
+    Settings::HideAnimData.setValue(m_hideAnimData);
+    Settings::AnimationAutoPlay.setValue(m_animAutoPlay);
+    accept();
+}
+
+void OptionsDialog::on_btnGame_clicked()
+{
+    const QString folder = m_chooseFolder(this, tr("game.kpf unzipped folder"), m_ui->txtGamePath->text());
+    if (folder.isEmpty())
+        return;
+    m_ui->txtGamePath->setText(QDir::toNativeSeparators(folder));
+    OnTxtGamePathChanged();
+}
+
+void OptionsDialog::on_btnT2DirBrowse_clicked()
+{
+    const QString folder = m_chooseFolder(this, tr("Turok 2(Your Mod) Folder"), m_ui->txtT2Dir->text());
+    if (folder.isEmpty())
+        return;
+    m_ui->txtT2Dir->setText(QDir::toNativeSeparators(folder));
+    OnTxtT2DirChanged();
+}
+
+void OptionsDialog::OnTxtGamePathChanged()
+{
+    m_gamePath = m_ui->txtGamePath->text();
+}
+
+void OptionsDialog::OnTxtT2DirChanged()
+{
+    m_outputDir = m_ui->txtT2Dir->text();
+}
+
+void OptionsDialog::updateHints()
+{
+    const auto hint = [](const QString &text) {
+        const QString folder = normalizedFolder(text);
+        return folder.isEmpty() || QFileInfo(folder).isDir() ? QString() : tr("There is no such folder.");
+    };
+    m_ui->lblGamePathHint->setText(hint(m_ui->txtGamePath->text()));
+    m_ui->lblT2DirHint->setText(hint(m_ui->txtT2Dir->text()));
+}

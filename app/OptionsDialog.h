@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "FolderChooser.h"
+
+#include <QDialog>
+
+#include <memory>
+
+class QLabel;
+
+namespace Ui {
+class OptionsDialog;
+}
+
+/// The preferences: the two folders and four switches. It works on copies; only OK writes them to the
+/// settings.
+class OptionsDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit OptionsDialog(QWidget *parent = nullptr);
+    ~OptionsDialog() override;
+
+    void setFolderChooser(FolderChooser chooser) { m_chooseFolder = std::move(chooser); }
+
+private slots:
+    void on_buttonBox_accepted();
+    void on_btnGame_clicked();
+    void on_btnT2DirBrowse_clicked();
+    void OnTxtGamePathChanged();
+    void OnTxtT2DirChanged();
+    void on_cbUpdates_clicked(bool checked) { m_updates = checked; }
+    void on_cbHideMeshData_clicked(bool checked) { m_hideMeshData = checked; }
+    void on_cbHideAnimData_clicked(bool checked) { m_hideAnimData = checked; }
+    void on_cbAnimAutoPlay_clicked(bool checked) { m_animAutoPlay = checked; }
+
+private:
+    void updateHints();
+
+    std::unique_ptr<Ui::OptionsDialog> m_ui;
+    FolderChooser m_chooseFolder = chooseFolder;
+    QString m_gamePath;
+    QString m_outputDir;
+    bool m_updates;
+    bool m_hideMeshData;
+    bool m_hideAnimData;
+    bool m_animAutoPlay;
+};

@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "ViewToolBar.h"
+
+#include "Settings.h"
+
+#include <QComboBox>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QSlider>
+#include <QToolButton>
+#include <QToolTip>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+constexpr int MinMoveSpeed = 15;
+constexpr int MaxMoveSpeed = 1000;
+constexpr int MaxBrightness = 4;
+
+QSlider *addSlider(QToolBar *bar, const char *name, const QString &labelText, int min, int max, int maxWidth)
+{
+    auto *label = new QLabel(labelText);
+    auto *slider = new QSlider(Qt::Horizontal);
+    slider->setObjectName(QLatin1String(name));
+    slider->setRange(min, max);
+    slider->setMaximumWidth(maxWidth);
+    slider->setPageStep(std::max(1, (max - min) / 20));
+    slider->setAccessibleName(labelText.trimmed());
+    label->setBuddy(slider);
+    bar->addWidget(label);
+    bar->addWidget(slider);
+    return slider;
+}
+} // namespace
+
+ViewToolBar::ViewToolBar(const QString &title, const ViewActions &actions, QWidget *parent)
+    : QToolBar(title, parent)
+    , m_bgColor(new QToolButton)
+    , m_surfSelect(new QComboBox)
+{
+    addAction(actions.resetCamera);
+    addSeparator();
+    addAction(actions.ground);
+    addAction(actions.axisGizmo);
+    addAction(actions.backCull);
+
+    m_bgColor->setObjectName(QStringLiteral("btnBGColor"));
+    m_bgColor->setIcon(QIcon(QStringLiteral(":/Images/Icons/bgcolor.png")));
+    m_bgColor->setToolTip(tr("Background color of the view"));
+    m_bgColor->setAccessibleName(tr("Background color"));
+    m_bgColor->setFocusPolicy(Qt::TabFocus);
+    m_bgColor->installEventFilter(this);
+    addWidget(m_bgColor);
+
+    m_surfSelect->setObjectName(QStringLiteral("cbSurfSelect"));
+    m_surfSelect->addItems({tr("None"), tr("Lines"), tr("Lines Hidden"), tr("Points"), tr("Points Hidden")});
+    m_surfSelect->setToolTip(
+        tr("How the selected surface is outlined; the hidden kinds show through the model"));
+    m_surfSelect->setAccessibleName(tr("Selection display"));
+    addWidget(m_surfSelect);
+    addSeparator();
+    m_moveSpeed = addSlider(this, "sliderMoveSpeed", tr("Move Speed "), MinMoveSpeed, MaxMoveSpeed, 128);
+    m_brightness = addSlider(this, "sliderBrightness", tr("Brightness "), 0, MaxBrightness, 32);
+
+    setBackgroundColor(Settings::BGColor.value());
+    setSurfSelectType(Settings::SurfSelectType.value());
+    setMoveSpeedPosition(moveSpeedPosition(Settings::MouseSpeed.value()));
+    setBrightnessPosition(brightnessPosition(Settings::Brightness.value()));
+
+    connect(m_bgColor, &QToolButton::clicked, this, &ViewToolBar::backgroundColorClicked);
+    connect(m_surfSelect, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &ViewToolBar::surfSelectChanged);
+    connect(m_moveSpeed, &QSlider::valueChanged, this, &ViewToolBar::moveSpeedChanged);
+    connect(m_brightness, &QSlider::valueChanged, this, &ViewToolBar::brightnessChanged);
+    connect(m_moveSpeed, &QSlider::valueChanged, this, &ViewToolBar::updateToolTips);
+    connect(m_brightness, &QSlider::valueChanged, this, &ViewToolBar::updateToolTips);
+}
+
+void ViewToolBar::setBackgroundColor(const QColor &color)
+{
+    m_bgColor->setStyleSheet(QStringLiteral("background-color: %1").arg(color.name()));
+}
+
+void ViewToolBar::setSurfSelectType(int type)
+{
+    const QSignalBlocker silence(m_surfSelect);
+    m_surfSelect->setCurrentIndex(type >= 0 && type < m_surfSelect->count() ? type : 0);
+}
+
+void ViewToolBar::setMoveSpeedPosition(int position)
+{
+    const QSignalBlocker silence(m_moveSpeed);
+    m_moveSpeed->setValue(position);
+    updateToolTips();
+}
+
+void ViewToolBar::setBrightnessPosition(int position)
+{
+    const QSignalBlocker silence(m_brightness);
+    m_brightness->setValue(position);
+    updateToolTips();
+}
+
+int ViewToolBar::moveSpeedPosition(float speed)
+{
+    return int(std::clamp(speed * 100.0f, float(MinMoveSpeed), float(MaxMoveSpeed)));
+}
+
+float ViewToolBar::moveSpeed(int position)
+{
+    return float(position) / 100.0f;
+}
+
+int ViewToolBar::brightnessPosition(float brightness)
+{
+    return int(std::lround(std::clamp((brightness - 1.0f) * 4.0f, 0.0f, float(MaxBrightness))));
+}
+
+float ViewToolBar::brightness(int position)
+{
+    return float(position) * 0.25f + 1.0f;
+}
+
+bool ViewToolBar::eventFilter(QObject *watched, QEvent *event)
+{
+    // A tool tip takes over the style sheet of its widget: the button's color would make the text unreadable.
+    if (watched == m_bgColor && event->type() == QEvent::ToolTip) {
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), m_bgColor->toolTip(), this);
+        return true;
+    }
+    return QToolBar::eventFilter(watched, event);
+}
+
+void ViewToolBar::updateToolTips()
+{
+    m_moveSpeed->setToolTip(tr("Speed of the camera: %1").arg(moveSpeed(m_moveSpeed->value())));
+    m_brightness->setToolTip(tr("Brightness of the model: %1").arg(brightness(m_brightness->value())));
+}

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "AnimBlockPage.h"
+
+#include "AnimCommands.h"
+
+using namespace Parts;
+
+AnimBlockPage::AnimBlockPage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent)
+    : RecordPage(document, tree, parent)
+{
+    m_ui.setupUi(this);
+
+    using Page = AnimBlockPage;
+    bind<UC_AnimBlockAnimID>(m_ui.sbAnimAnimID, Whole, tr("Animation AnimID"),
+                             &Page::OnAnimBlockAnimIDChanged);
+    bind<UC_AnimBlockAnimSpeed>(m_ui.sbAnimSpeed, Whole, tr("Animation Speed"),
+                                &Page::OnAnimBlockSpeedChanged);
+    bind<UC_AnimBlockLoopFrame>(m_ui.sbAnimLoopFrame, Whole, tr("Animation Loop Frame"),
+                                &Page::OnAnimBlockLoopFrameChanged);
+    bind<UC_AnimBlockFrameScale>(m_ui.sbAnimFrameScale, Whole, tr("Animation Frame Scale"),
+                                 &Page::OnAnimBlockFrameScaleChanged);
+    bind<UC_AnimBlockBlendLength>(m_ui.sbAnimBlendLength, Whole, tr("Animation Blend Length"),
+                                  &Page::OnAnimBlockBlendLengthChanged);
+    bind<UC_AnimBlockBlendStart>(m_ui.sbAnimBlendStart, Whole, tr("Animation Blend Start"),
+                                 &Page::OnAnimBlockBlendStartChanged);
+    bind<UC_AnimBlockBlendEnd>(m_ui.sbAnimBlendEnd, Whole, tr("Animation Blend End"),
+                               &Page::OnAnimBlockBlendEndChanged);
+}
+
+QString AnimBlockPage::title() const
+{
+    return tr("Anim %1 Properties").arg(index()[0]);
+}
+
+void AnimBlockPage::recordShown()
+{
+    const AnimBlock *block = record();
+    if (!block)
+        return;
+    m_ui.lblAnimFrames->setNum(block->frameCount());
+    m_ui.lblAnimBones->setNum(int(block->nodes.size()));
+    // As it plays: a speed below 1 (or none) counts as 1.
+    const float rate = block->speed >= 1.0f ? block->speed : 1.0f;
+    const float seconds = float(std::max(block->frameCount() - 1, 0)) / rate;
+    m_ui.lblAnimDuration->setText(tr("%1 s").arg(double(seconds), 0, 'f', 2));
+}

@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ChoiceBox.h"
+#include "FlagsEditor.h"
+#include "FloatSpinBox.h"
+
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+/// What a property page needs of every kind of editor: its value, a way to show one without any signal, and
+/// the signal by which the user's edits arrive.
+namespace Editors {
+
+inline float value(const FloatSpinBox *editor)
+{
+    return editor->value();
+}
+inline int value(const QSpinBox *editor)
+{
+    return editor->value();
+}
+inline int value(const ChoiceBox *editor)
+{
+    return editor->value();
+}
+inline qint32 value(const FlagsEditor *editor)
+{
+    return editor->value();
+}
+inline QString value(const QLineEdit *editor)
+{
+    return editor->text();
+}
+
+inline void show(FloatSpinBox *editor, float value)
+{
+    editor->setValue(value);
+}
+inline void show(QSpinBox *editor, int value)
+{
+    const QSignalBlocker blocker(editor);
+    editor->setValue(value);
+    // Forget the typing that led here: Ctrl+Z is to undo the edit, not the keys.
+    auto *line = editor->findChild<QLineEdit *>();
+    line->setText(line->text());
+}
+inline void show(ChoiceBox *editor, int value)
+{
+    editor->setValue(value);
+}
+inline void show(FlagsEditor *editor, qint32 value)
+{
+    editor->setValue(value);
+}
+inline void show(QLineEdit *editor, const QString &value)
+{
+    editor->setText(value);
+}
+
+template <typename Receiver>
+void onEdited(FloatSpinBox *editor, Receiver *receiver, void (Receiver::*slot)())
+{
+    QObject::connect(editor, &FloatSpinBox::valueEdited, receiver, slot);
+}
+template <typename Receiver>
+void onEdited(QSpinBox *editor, Receiver *receiver, void (Receiver::*slot)())
+{
+    // One step per number, not per key.
+    editor->setKeyboardTracking(false);
+    QObject::connect(editor, QOverload<int>::of(&QSpinBox::valueChanged), receiver, slot);
+}
+template <typename Receiver>
+void onEdited(ChoiceBox *editor, Receiver *receiver, void (Receiver::*slot)())
+{
+    QObject::connect(editor, &ChoiceBox::valueEdited, receiver, slot);
+}
+template <typename Receiver>
+void onEdited(FlagsEditor *editor, Receiver *receiver, void (Receiver::*slot)())
+{
+    QObject::connect(editor, &FlagsEditor::valueEdited, receiver, slot);
+}
+template <typename Receiver>
+void onEdited(QLineEdit *editor, Receiver *receiver, void (Receiver::*slot)())
+{
+    QObject::connect(editor, &QLineEdit::editingFinished, receiver, slot);
+}
+
+} // namespace Editors
+
+/// The parts of a field that one editor may stand for: read out of a field's value, and put into one with
+/// everything else of it kept.
+namespace Parts {
+
+struct WholeField
+{
+    template <typename Value>
+    Value get(const Value &value) const
+    {
+        return value;
+    }
+    template <typename Value>
+    void set(Value &value, const Value &part) const
+    {
+        value = part;
+    }
+};
+
+/// One component of a vector, or one element of an array.
+struct Component
+{
+    int index;
+
+    template <typename Vector>
+    float get(const Vector &vector) const
+    {
+        return vector[index];
+    }
+    template <typename Vector>
+    void set(Vector &vector, float part) const
+    {
+        vector[index] = part;
+    }
+};
+
+/// Some bits of a signed byte.
+struct Bits
+{
+    int shift;
+    int width;
+
+    int get(qint8 value) const { return quint8(value) >> shift & mask(); }
+    void set(qint8 &value, int part) const
+    {
+        value = qint8((quint8(value) & ~(mask() << shift)) | (part & mask()) << shift);
+    }
+
+private:
+    int mask() const { return (1 << width) - 1; }
+};
+
+inline constexpr WholeField Whole;
+inline constexpr Component X{0};
+inline constexpr Component Y{1};
+inline constexpr Component Z{2};
+inline constexpr Component W{3};
+
+} // namespace Parts

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QVector>
+#include <QWidget>
+
+class QCheckBox;
+
+/// The 32 bits of a flags field as check boxes, with buttons for all and none.
+class FlagsEditor : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FlagsEditor(QWidget *parent = nullptr);
+
+    qint32 value() const;
+    /// Shows a value; emits nothing.
+    void setValue(qint32 value);
+
+signals:
+    /// The user has switched bits.
+    void valueEdited(qint32 value);
+
+private:
+    void editAll(bool on);
+
+    QVector<QCheckBox *> m_bits;
+};

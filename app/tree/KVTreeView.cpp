@@ -1,0 +1,191 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "KVTreeView.h"
+
+#include "RecordItem.h"
+#include "RecordTable.h"
+
+#include <QCoreApplication>
+#include <QItemSelection>
+#include <QSet>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <tuple>
+
+namespace {
+QSet<RecordRef> refsOf(const QList<QTreeWidgetItem *> &items)
+{
+    QSet<RecordRef> refs;
+    refs.reserve(items.size());
+    for (const QTreeWidgetItem *item : items)
+        refs.insert(static_cast<const RecordItem *>(item)->record());
+    return refs;
+}
+} // namespace
+
+KVTreeView::KVTreeView(QWidget *parent)
+    : QTreeWidget(parent)
+{
+    setColumnCount(1);
+    setHeaderHidden(true);
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    // Without it, making one of half a million items current measures them all.
+    setUniformRowHeights(true);
+    setContextMenuPolicy(Qt::CustomContextMenu);
+    setIconSize({16, 16});
+    connect(this, &QTreeWidget::itemSelectionChanged, this, &KVTreeView::notifyCurrent);
+    connect(this, &QTreeWidget::currentItemChanged, this, &KVTreeView::notifyCurrent);
+}
+
+void KVTreeView::setDocument(Document *document)
+{
+    m_document = document;
+    connect(document, &Document::replaced, this, &KVTreeView::rebuild);
+    connect(document, &Document::recordsChanged, this, &KVTreeView::onRecordsChanged);
+}
+
+void KVTreeView::rebuild()
+{
+    setUpdatesEnabled(false);
+    {
+        const QSignalBlocker blocker(this);
+        clear();
+        if (m_document->isOpen()) {
+            const bool hideData = m_document->rootKind() == RecordKind::AnimFile
+                                      ? Settings::HideAnimData.value()
+                                      : Settings::HideMeshData.value();
+            auto *root = new RecordItem(m_document->rootKind(), {});
+            fillItem(root, hideData);
+            addTopLevelItem(root);
+            root->setExpanded(true);
+            setCurrentItem(root);
+        }
+    }
+    setUpdatesEnabled(true);
+    notifyCurrent();
+}
+
+void KVTreeView::fillItem(RecordItem *item, bool hideData) const
+{
+    const RecordRef owner = item->record();
+    for (const RecordRow *row : childRows(owner.kind)) {
+        if (hideData && row->meshData)
+            continue;
+        if (row->position != RecordRow::FromIndex) {
+            auto *group = new RecordItem(row->kind, owner.index);
+            fillItem(group, hideData);
+            item->addChild(group);
+            continue;
+        }
+        const int count = m_document->recordCount(row->kind, owner.index);
+        const bool isLeaf = childRows(row->kind).isEmpty();
+        QList<QTreeWidgetItem *> children;
+        children.reserve(count);
+        RecordIndex index = owner.index;
+        for (int i = 0; i < count; ++i) {
+            index[size_t(row->component)] = i;
+            auto *child = new RecordItem(row->kind, index);
+            if (!isLeaf)
+                fillItem(child, hideData);
+            children.append(child);
+        }
+        item->addChildren(children);
+    }
+}
+
+RecordRef KVTreeView::currentRecord() const
+{
+    const auto *item = static_cast<const RecordItem *>(currentItem());
+    return item ? item->record() : RecordRef();
+}
+
+QVector<RecordIndex> KVTreeView::selectedRecords(RecordKind kind) const
+{
+    QVector<RecordIndex> records;
+    for (const QTreeWidgetItem *item : selectedItems()) {
+        const RecordRef record = static_cast<const RecordItem *>(item)->record();
+        if (record.kind == kind)
+            records.append(record.index);
+    }
+    std::sort(records.begin(), records.end());
+    return records;
+}
+
+RecordItem *KVTreeView::findItem(const RecordRef &record) const
+{
+    QTreeWidgetItem *item = nullptr;
+    for (const int position : indexPath(record)) {
+        QTreeWidgetItem *next = item ? item->child(position) : topLevelItem(position);
+        if (!next)
+            break;
+        item = next;
+    }
+    return static_cast<RecordItem *>(item);
+}
+
+void KVTreeView::selectRecords(const QVector<RecordRef> &records, const RecordRef &current)
+{
+    // Neighbours become one range: the selection model is slow with many.
+    QItemSelection selection;
+    for (const RecordRef &record : records) {
+        const QModelIndex index = indexFromItem(findItem(record));
+        if (!index.isValid())
+            continue;
+        if (!selection.isEmpty() && selection.last().parent() == index.parent() &&
+            selection.last().bottom() + 1 == index.row())
+            selection.last() = QItemSelectionRange(selection.last().topLeft(), index);
+        else if (selection.isEmpty() || !selection.last().contains(index))
+            selection.append(QItemSelectionRange(index));
+    }
+    {
+        const QSignalBlocker blocker(this);
+        selectionModel()->setCurrentIndex(indexFromItem(findItem(current)), QItemSelectionModel::NoUpdate);
+        selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    }
+    if (currentItem())
+        scrollToItem(currentItem());
+    notifyCurrent();
+}
+
+QString KVTreeView::label(const RecordRef &record) const
+{
+    const RecordRow *row = recordRow(record.kind);
+    if (!row || !m_document)
+        return {};
+    if (row->parent == RecordKind::None)
+        return m_document->fileName();
+    const QString text = QCoreApplication::translate("Records", row->label);
+    if (row->counted != RecordKind::None)
+        return text.arg(m_document->recordCount(row->counted, record.index));
+    const QString number = QString::number(record.index[size_t(row->component)]);
+    return text.contains(QLatin1String("%2"))
+               ? QString(text)
+                     .replace(QLatin1String("%1"), number)
+                     .replace(QLatin1String("%2"), m_document->recordText(record))
+               : text.arg(number);
+}
+
+void KVTreeView::onRecordsChanged(const QVector<RecordRef> &records)
+{
+    // Labels are made when painted.
+    viewport()->update();
+
+    // An edit of what is selected keeps the selection; anything else is brought into view.
+    const QSet<RecordRef> selected = refsOf(selectedItems());
+    const auto isSelected = [&selected](const RecordRef &record) { return selected.contains(record); };
+    if (records.contains(currentRecord()) && std::all_of(records.begin(), records.end(), isSelected)) {
+        notifyCurrent();
+        return;
+    }
+    QVector<RecordRef> sorted = records;
+    std::sort(sorted.begin(), sorted.end(), [](const RecordRef &a, const RecordRef &b) {
+        return std::tie(a.kind, a.index) < std::tie(b.kind, b.index);
+    });
+    selectRecords(sorted, records.last());
+}
+
+void KVTreeView::notifyCurrent()
+{
+    emit currentRecordChanged(currentRecord());
+}

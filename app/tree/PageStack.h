@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "PropertyPage.h"
+
+#include <QStackedWidget>
+
+class QLabel;
+
+/// The property pages of one document: page 0 is empty, the others in the order they were added. Shows the
+/// page of the tree's current record, titled.
+class PageStack : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PageStack(QWidget *parent = nullptr);
+
+    /// The tree to follow; it outlives the stack.
+    void setTree(KVTreeView *tree);
+    void addPage(PropertyPage *page);
+
+    QStackedWidget *pages() const { return m_pages; }
+
+private:
+    void showRecord(const RecordRef &record);
+
+    KVTreeView *m_tree = nullptr;
+    QLabel *m_title;
+    QLabel *m_count;
+    QStackedWidget *m_pages;
+};

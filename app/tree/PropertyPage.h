@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Document.h"
+#include "Editors.h"
+#include "KVTreeView.h"
+
+#include <QWidget>
+
+#include <functional>
+
+/// The editors of one kind of record. Showing a record pushes nothing; only what the user does in an editor
+/// reaches the document.
+class PropertyPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    PropertyPage(RecordKind kind, QWidget *parent);
+
+    RecordKind kind() const { return m_kind; }
+    const RecordIndex &index() const { return m_index; }
+
+    /// Fills every editor from the record, silently.
+    void showRecord(const RecordIndex &index);
+
+    /// "Bone 3 Properties".
+    virtual QString title() const = 0;
+
+protected:
+    /// Prepares an editor of a material path: files hold Latin-1, so nothing else can be typed.
+    static void setUpMaterialEditor(QLineEdit *editor);
+
+    /// Called after the editors were filled, for what depends on them.
+    virtual void recordShown() {}
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+    struct Binding
+    {
+        QWidget *editor;
+        std::function<void()> show;
+        std::function<void()> commit;
+    };
+    void addBinding(Binding binding);
+    /// Takes the value of a bound editor to the document. The whole body of a changed slot.
+    void commit(const QWidget *editor);
+
+private:
+    const RecordKind m_kind;
+    RecordIndex m_index{};
+    QVector<Binding> m_bindings;
+};
+
+/// A page of the records of one kind (`RecordType` is one of Records).
+template <typename RecordType>
+class RecordPage : public PropertyPage
+{
+public:
+    using Model = typename RecordType::Model;
+
+    RecordPage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent)
+        : PropertyPage(RecordType::kind, parent)
+        , m_document(document)
+        , m_tree(tree)
+    {}
+
+protected:
+    const Model &model() const { return m_document.model(); }
+    /// The record shown; null while there is none.
+    const typename RecordType::Record *record() const
+    {
+        return RecordType::find(m_document.model(), index());
+    }
+
+    /// One row of the page: the editor, the command that stores its field, the part of the field that it
+    /// edits, the name of the undo step, and the slot that its edits go to. The step is a macro over all
+    /// selected records of the kind; fields of the whole document have none and take their command's name.
+    template <typename Command, typename Editor, typename Part, typename Page>
+    void bind(Editor *editor, const Part &part, const QString &macroText, void (Page::*slot)())
+    {
+        const auto show = [this, editor, part] {
+            if (const auto *shown = record())
+                Editors::show(editor, part.get(Command::Field::get(*shown)));
+        };
+        const auto commitEdit = [this, editor, part, macroText] {
+            edit<Command>(part, Editors::value(editor), macroText);
+        };
+        addBinding({editor, show, commitEdit});
+        Editors::onEdited(editor, static_cast<Page *>(this), slot);
+    }
+
+    /// Sets a part of a field in every selected record of the kind, as one undo step, if it differs from
+    /// what the shown record holds.
+    template <typename Command, typename Part, typename Edited>
+    void edit(const Part &part, const Edited &edited, const QString &macroText)
+    {
+        const auto *shown = record();
+        if (!shown)
+            return;
+        using PartValue = decltype(part.get(Command::Field::get(*shown)));
+        const auto wanted = static_cast<PartValue>(edited);
+        // A NaN differs from everything, itself included, so that it can be edited away.
+        if (part.get(Command::Field::get(*shown)) == wanted)
+            return;
+
+        QVector<RecordIndex> records = m_tree.selectedRecords(RecordType::kind);
+        if (!records.contains(index()))
+            records = {index()};
+        QUndoStack *stack = m_document.undoStack();
+        if (!macroText.isEmpty())
+            stack->beginMacro(macroText);
+        for (const RecordIndex &target : qAsConst(records)) {
+            auto value = Command::Field::get(*RecordType::find(m_document.model(), target));
+            part.set(value, wanted);
+            stack->push(new Command(m_document.editTarget(), target, value));
+        }
+        if (!macroText.isEmpty())
+            stack->endMacro();
+    }
+
+private:
+    ModelDocument<Model> &m_document;
+    const KVTreeView &m_tree;
+};

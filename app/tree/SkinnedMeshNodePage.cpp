@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "SkinnedMeshNodePage.h"
+
+#include "NameTables.h"
+#include "SkinnedMeshCommands.h"
+
+using namespace Parts;
+
+namespace {
+// Bits 3 to 5 of the symbol carry no meaning and are kept.
+constexpr Bits SymbolType{0, 2};
+constexpr Bits SymbolSide{2, 1};
+constexpr Bits SymbolPart{6, 2};
+} // namespace
+
+SkinnedMeshNodePage::SkinnedMeshNodePage(ModelDocument<Model> &document, const KVTreeView &tree,
+                                         QWidget *parent)
+    : RecordPage(document, tree, parent)
+{
+    m_ui.setupUi(this);
+    m_ui.cbNodeSymbolType->setNames(boneTypeNames());
+    m_ui.cbNodeSymbolSide->setNames({tr("Left"), tr("Right")});
+    m_ui.cbNodeImpactType->setNames(impactTypeNames());
+
+    using Page = SkinnedMeshNodePage;
+    bind<UC_SkinnedMeshNodeSFlags>(m_ui.cbNodeSymbolType, SymbolType, tr("Bone Symbol Flags"),
+                                   &Page::OnSkinMeshNodeSFlagsTypeChanged);
+    bind<UC_SkinnedMeshNodeSFlags>(m_ui.cbNodeSymbolSide, SymbolSide, tr("Bone Symbol Flags"),
+                                   &Page::OnSkinMeshNodeSFlagsSideChanged);
+    bind<UC_SkinnedMeshNodeSFlags>(m_ui.cbNodeSymbolPart, SymbolPart, tr("Bone Symbol Flags"),
+                                   &Page::OnSkinMeshNodeSFlagsPartChanged);
+    bind<UC_SkinnedMeshNodeParentNode>(m_ui.sbNodeParentNode, Whole, tr("Parent Bone Index"),
+                                       &Page::OnSkinMeshNodeParentNodeChanged);
+    bind<UC_SkinnedMeshNodeImpactType>(m_ui.cbNodeImpactType, Whole, tr("Bone Impact Type"),
+                                       &Page::OnSkinMeshNodeImpactTypeChanged);
+    bind<UC_SkinnedMeshNodeDamageScale>(m_ui.sbNodeDamageScale, Whole, tr("Bone Damage Scale"),
+                                        &Page::OnSkinMeshNodeDamageScaleChanged);
+    bind<UC_SkinnedMeshNodeBBMin>(m_ui.sbNodeBBMinX, X, tr("Bone Bounding Box Min X"),
+                                  &Page::OnSkinMeshNodeBBMinXChanged);
+    bind<UC_SkinnedMeshNodeBBMin>(m_ui.sbNodeBBMinY, Y, tr("Bone Bounding Box Min Y"),
+                                  &Page::OnSkinMeshNodeBBMinYChanged);
+    bind<UC_SkinnedMeshNodeBBMin>(m_ui.sbNodeBBMinZ, Z, tr("Bone Bounding Box Min Z"),
+                                  &Page::OnSkinMeshNodeBBMinZChanged);
+    bind<UC_SkinnedMeshNodeBBMax>(m_ui.sbNodeBBMaxX, X, tr("Bone Bounding Box Max X"),
+                                  &Page::OnSkinMeshNodeBBMaxXChanged);
+    bind<UC_SkinnedMeshNodeBBMax>(m_ui.sbNodeBBMaxY, Y, tr("Bone Bounding Box Max Y"),
+                                  &Page::OnSkinMeshNodeBBMaxYChanged);
+    bind<UC_SkinnedMeshNodeBBMax>(m_ui.sbNodeBBMaxZ, Z, tr("Bone Bounding Box Max Z"),
+                                  &Page::OnSkinMeshNodeBBMaxZChanged);
+    bind<UC_SkinnedMeshNodeFlags>(m_ui.flagsNode, Whole, tr("Bone Flags"), &Page::OnSkinMeshNodeFlagsChanged);
+}
+
+QString SkinnedMeshNodePage::title() const
+{
+    return tr("Bone %1 Properties").arg(index()[0]);
+}
+
+void SkinnedMeshNodePage::recordShown()
+{
+    if (const SkinnedMeshNode *bone = record())
+        m_ui.cbNodeSymbolPart->setNames(bonePartNames(boneSymbol(bone->symbolFlags).type));
+}

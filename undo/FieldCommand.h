@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "DocumentView.h"
+#include "UC_Base.h"
+
+#include <QCoreApplication>
+
+#include <tuple>
+#include <type_traits>
+
+/// A field of a record by its member pointer.
+template <auto Pointer>
+struct Member
+{
+    template <typename Record>
+    static auto get(const Record &record)
+    {
+        return record.*Pointer;
+    }
+
+    template <typename Record, typename Value>
+    static void set(Record &record, Value value)
+    {
+        record.*Pointer = std::move(value);
+    }
+};
+
+/// Sets one field of one record.
+///
+/// `Command` is the class itself: it gives the undo text (`undoText`). `RecordType` is one of Records: where
+/// the record lives. `FieldType` reads and writes the field. A record that does not exist any more is left
+/// alone: counts may change without an undo step.
+template <typename Command, typename RecordType, typename FieldType>
+class FieldCommand : public UC_Base
+{
+public:
+    using Record = RecordType;
+    using Field = FieldType;
+    using Model = typename Record::Model;
+    using Value = decltype(Field::get(std::declval<const typename Record::Record &>()));
+
+    FieldCommand(EditTarget<Model> target, const RecordIndex &index, Value value,
+                 QUndoCommand *parent = nullptr)
+        : UC_Base(QCoreApplication::translate("UndoCommands", Command::undoText), parent)
+        , m_target(target)
+        , m_index(index)
+        , m_new(std::move(value))
+    {
+        if (const auto *record = Record::find(target.model, index))
+            m_old = Field::get(*record);
+    }
+
+    void undo() override { apply(m_old); }
+    void redo() override { apply(m_new); }
+
+private:
+    void apply(const Value &value)
+    {
+        if (auto *record = Record::find(m_target.model, m_index)) {
+            Field::set(*record, value);
+            m_target.view.recordChanged({Record::kind, m_index});
+        }
+    }
+
+    EditTarget<Model> m_target;
+    RecordIndex m_index;
+    Value m_old{};
+    Value m_new;
+};
+
+// One command class from a row (class, record, field, undo text) of a family's table. The table is also the
+// family's list of its commands, so that a command cannot exist without being in it.
+#define KORVANE_FIELD_COMMAND(Class, RecordType, FieldType, Text)                                            \
+    class Class final : public FieldCommand<Class, RecordType, FieldType>                                    \
+    {                                                                                                        \
+    public:                                                                                                  \
+        static constexpr const char *name = #Class;                                                          \
+        static constexpr const char *undoText = QT_TRANSLATE_NOOP("UndoCommands", Text);                     \
+        using FieldCommand::FieldCommand;                                                                    \
+    };
+
+/// Stands for a command class where a value is needed, as in a list of all commands.
+template <typename Command>
+struct CommandTag
+{
+    using Type = Command;
+};
+
+#define KORVANE_COMMAND_TAG(Class, RecordType, FieldType, Text) std::tuple<CommandTag<Class>>(),

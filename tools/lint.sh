@@ -44,7 +44,14 @@ none() {
 
 formatting() { files '*.cpp' '*.h' | xargs -0 -r "$(llvm clang-format)" --dry-run -Werror; }
 
-scripts() { files dev .ci/run '*.sh' | xargs -0 -r shellcheck; }
+# Bash scripts, with or without an extension.
+scripts() {
+    files dev .ci '*.sh' 'tools/*' | while IFS= read -r -d '' file; do
+        ! head -n 1 "$file" | grep -qaE '^#!.*\bbash$' || printf '%s\0' "$file"
+    done
+}
+
+script_faults() { scripts | xargs -0 -r shellcheck; }
 
 # The headers that moc and uic write have to be there, everything else of the build is not needed.
 generated_headers() {
@@ -72,7 +79,7 @@ no_upward_includes() {
 }
 
 licence_headers() {
-    files '*.cpp' '*.h' '*.sh' '*.cmake' '*CMakeLists.txt' '*.vert' '*.frag' dev .ci/run \
+    { files '*.cpp' '*.h' '*.glsl' '*.cmake' '*CMakeLists.txt' && scripts; } \
         | search -L 'SPDX-License-Identifier: ' | none 'No SPDX header'
 }
 
@@ -110,7 +117,7 @@ desktop_files() {
 }
 
 check 'clang-format' formatting
-check 'shellcheck' scripts
+check 'shellcheck' script_faults
 check 'includes' no_upward_includes
 check 'licence headers' licence_headers
 check 'file length' short_files

@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: The Korvane developers
 # SPDX-License-Identifier: MIT
 #
-# Pictures of the real program, for a virtual screen of 1600x1000 (./dev screenshots and ./dev run give it one):
+# Pictures of the real program on a virtual screen that ./dev provides, large enough for the window's frame:
 #   screenshots.sh window PROGRAM PICTURE FILE...   the main window with these files open
 #   screenshots.sh all PROGRAM FOLDER               every picture of the documentation
 # Each start has the settings home that XDG_CONFIG_HOME names.
@@ -22,18 +22,27 @@ die() {
 finish() { ((${#started[@]} == 0)) || kill "${started[@]}" 2>/dev/null || true; }
 trap finish EXIT
 
-# window_named REGEX: the id of the newest visible window with such a title; waits up to 30 s for it.
-window_named() {
+# visible ARGS...: the visible windows that xdotool's search finds, the largest last.
+visible() {
+    local id WIDTH HEIGHT
+    for id in $(xdotool search --onlyvisible "$@" 2>/dev/null); do
+        eval "$(xdotool getwindowgeometry --shell "$id" | grep -E '^(WIDTH|HEIGHT)=[0-9]+$')"
+        echo "$((WIDTH * HEIGHT)) $id"
+    done | sort -n | cut -d ' ' -f 2
+}
+
+# wait_for ARGS...: waits up to 30 s for a window that xdotool's search finds, and gives the largest.
+wait_for() {
     local id
     for _ in {1..300}; do
-        id=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | tail -n 1) || true
+        id=$(visible "$@" | tail -n 1)
         if [[ -n $id ]]; then
             echo "$id"
             return
         fi
         sleep 0.1
     done
-    die "no window named '$1' came up"
+    die "no window came up for the search $*"
 }
 
 # grab WINDOW PICTURE: waits until the window shows more than a bare background, then saves it.
@@ -67,7 +76,7 @@ korvane() {
     "$program" "$@" >>"$log" 2>&1 &
     korvane_pid=$!
     started+=("$korvane_pid")
-    main=$(window_named '^Korvane|Korvane$')
+    main=$(wait_for --class '^korvane$')
     xdotool windowmove --sync "$main" 0 0 windowsize "$main" "$width" "$height"
     # Time for the layout to settle and for the character to take a step.
     sleep 3
@@ -78,9 +87,9 @@ quit() {
     wait "$korvane_pid" || true
 }
 
-# click X Y: in the coordinates of the screen.
+# click X Y: in the coordinates of the main window.
 click() {
-    xdotool mousemove --sync "$1" "$2" click 1
+    xdotool mousemove --sync --window "$main" "$1" "$2" click 1
     sleep 0.5
 }
 
@@ -91,11 +100,11 @@ press() {
 
 sample() { find samples/game -name "$1" | sort | head -n 1; }
 
-# The screen positions that the pictures below click.
+# The places in the main window that the pictures below click.
 readonly static_mesh_tab=(230 115) edit_menu=(62 12)
 
 all_pictures() {
-    local folder=$1 skinned_mesh animation static_mesh broken=build/broken.anim
+    local folder=$1 skinned_mesh animation static_mesh options broken=build/broken.anim
     skinned_mesh=$(sample '*.skinnedmesh')
     animation=$(sample '*.anim')
     static_mesh=$(sample '*.staticmesh')
@@ -105,7 +114,8 @@ all_pictures() {
     click "${edit_menu[@]}"
     press Up
     press Return
-    grab "$(window_named '^Options$')" "$folder/options.png"
+    options=$(wait_for --name '^Options$')
+    grab "$options" "$folder/options.png"
     press Escape
     quit
 

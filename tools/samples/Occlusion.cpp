@@ -8,7 +8,7 @@
 
 namespace {
 constexpr int RayCount = 32;
-constexpr size_t ClusterSize = 16;
+constexpr size_t ClusterSize = 6;
 /// What lies further away, in units, takes no light.
 constexpr float Reach = 26.0f;
 

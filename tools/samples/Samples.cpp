@@ -109,6 +109,12 @@ void makeProps(Output &output)
 
 QString makeSamples(const QString &folder)
 {
+    // Baking takes seconds: first see whether there is a place for the results.
+    for (const char *room : {"game", "mod"}) {
+        const QString path = QDir(folder).filePath(QLatin1String(room));
+        if (!QDir().mkpath(path))
+            return QStringLiteral("cannot make the folder %1").arg(path);
+    }
     Output output(folder);
     makeTinker(output);
     makeProps(output);

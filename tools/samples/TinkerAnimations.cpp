@@ -223,7 +223,7 @@ Pose fallPose(const Figure &figure, float f)
     Pose pose(figure.bones.size());
     const auto at = [&](std::initializer_list<std::pair<float, float>> keys) { return curve(keys, f); };
     pose.move(Pelvis, 0, at({{0, 0.5f}, {22, 2}, {34, 16}, {60, 16}}),
-              at({{0, -2}, {12, -4}, {22, -8}, {33, -47}, {36, -44}, {39, -47}, {60, -47}}));
+              at({{0, -2}, {12, -4}, {22, -8}, {33, -44}, {36, -41.5f}, {39, -44}, {60, -44}}));
     pose.turn(Pelvis, at({{0, 0}, {22, 6}, {33, -14}, {60, -12}}), 0, 0);
     pose.turn(LowerTorso, at({{0, 1}, {22, 6}, {33, 4}, {38, 12}, {60, 12}}), 0, 0);
     pose.turn(UpperTorso, at({{0, 1}, {8, 5}, {14, 5}, {18, 10}, {30, 4}, {38, 18}, {41, 15}, {60, 15}}), 0,

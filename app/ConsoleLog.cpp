@@ -74,6 +74,7 @@ ConsoleLog::ConsoleLog(QListWidget *list, QObject *parent)
 {
     m_list->setItemDelegate(m_delegate);
     m_list->setUniformItemSizes(true);
+    m_list->setIconSize({16, 16});
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setTextElideMode(Qt::ElideNone);

@@ -71,8 +71,10 @@ ControlsDialog::ControlsDialog(const QList<QAction *> &actions, QWidget *parent)
         addGroup(tree, tr("Window"))->addChildren(shortcuts);
 
     tree->expandAll();
-    tree->resizeColumnToContents(0);
-    tree->setColumnWidth(0, tree->columnWidth(0) + 2 * fontMetrics().averageCharWidth());
+    for (int column = 0; column < tree->columnCount(); ++column) {
+        tree->resizeColumnToContents(column);
+        tree->setColumnWidth(column, tree->columnWidth(column) + 3 * fontMetrics().averageCharWidth());
+    }
 }
 
 ControlsDialog::~ControlsDialog() = default;

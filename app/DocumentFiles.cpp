@@ -68,8 +68,8 @@ void DocumentFiles::saveAll()
 {
     for (const DocumentKind &kind : documentKinds()) {
         const Document *candidate = document(kind.type);
-        if (candidate->isOpen() && (candidate->isModified() || candidate->path().isEmpty())
-            && save(kind.type))
+        if (candidate->isOpen() && (candidate->isModified() || candidate->path().isEmpty()) &&
+            save(kind.type))
             return;
     }
 }
@@ -80,9 +80,9 @@ bool DocumentFiles::promptUnsaved(DocumentType type, QEvent *event)
         return true;
     const QString text = tr("Would you like to save the %2?\n\n%1")
                              .arg(QDir::toNativeSeparators(document(type)->path()), documentKind(type).label);
-    const auto answer = QMessageBox::question(m_window, tr("Unsaved changes"), text,
-                                              QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
-                                              QMessageBox::Yes);
+    const auto answer =
+        QMessageBox::question(m_window, tr("Unsaved changes"), text,
+                              QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
     // A save that fails, or is given up, must not lose the changes: it counts as Cancel.
     const bool goOn = answer == QMessageBox::No || (answer == QMessageBox::Yes && !save(type));
     if (!goOn && event)

@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "FolderExplorer.h"
 
+#include "ListIcon.h"
+
 #include <QApplication>
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QDir>
+#include <QFrame>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
@@ -53,11 +56,12 @@ void forEachItem(QTreeWidget *tree, Visit visit)
 FolderExplorer::FolderExplorer(const DocumentKind &kind, QWidget *parent)
     : QWidget(parent)
     , m_kind(kind)
-    , m_icons{icon("folder"), icon("folderopen"), icon(namesOf(kind.type).icon)}
+    , m_icons{listIcon(QStringLiteral("folder")), listIcon(QStringLiteral("folderopen")),
+              listIcon(QLatin1String(namesOf(kind.type).icon))}
     , m_tree(new QTreeWidget)
     , m_toolBar(new QToolBar)
     , m_pages(new QStackedLayout)
-    , m_emptyPage(new QWidget)
+    , m_emptyPage(new QFrame)
     , m_emptyLabel(new QLabel)
     , m_contextMenu(new QMenu(this))
 {
@@ -154,6 +158,7 @@ void FolderExplorer::createEmptyPage()
     m_emptyLabel->setWordWrap(true);
     m_emptyLabel->setTextFormat(Qt::PlainText);
 
+    m_emptyPage->setFrameStyle(m_tree->frameStyle());
     m_emptyPage->setBackgroundRole(QPalette::Base);
     m_emptyPage->setAutoFillBackground(true);
     auto *layout = new QVBoxLayout(m_emptyPage);

@@ -9,6 +9,7 @@
 #include <QWidget>
 
 class QAction;
+class QFrame;
 class QLabel;
 class QMenu;
 class QStackedLayout;
@@ -90,7 +91,7 @@ private:
     QTreeWidget *m_tree;
     QToolBar *m_toolBar;
     QStackedLayout *m_pages;
-    QWidget *m_emptyPage;
+    QFrame *m_emptyPage;
     QLabel *m_emptyLabel;
     QMenu *m_contextMenu;
     QAction *m_open;

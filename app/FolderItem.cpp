@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "FolderItem.h"
 
+#include <QApplication>
 #include <QCollator>
 #include <QDir>
 #include <QDirIterator>
 #include <QFont>
 #include <QHash>
+#include <QPalette>
 
 #include <algorithm>
 #include <vector>
@@ -53,7 +55,9 @@ QVariant FolderItem::data(int column, int role) const
     case Qt::DisplayRole:
         return m_name;
     case Qt::DecorationRole:
-        return m_folder ? (isExpanded() ? m_icons->openFolder : m_icons->folder) : m_icons->file;
+        return !m_folder                          ? m_icons->file
+               : isExpanded() && childCount() > 0 ? m_icons->openFolder
+                                                  : m_icons->folder;
     case Qt::ToolTipRole:
         return QDir::toNativeSeparators(m_path);
     case Qt::FontRole:
@@ -63,6 +67,8 @@ QVariant FolderItem::data(int column, int role) const
             return font;
         }
         return {};
+    case Qt::ForegroundRole:
+        return m_barren ? QApplication::palette().brush(QPalette::Disabled, QPalette::Text) : QVariant();
     case FilePathRole:
         return m_folder ? QString() : m_path;
     default:
@@ -125,16 +131,22 @@ QList<QTreeWidgetItem *> readFolder(const QString &folder, const QString &extens
     collator.setCaseSensitivity(Qt::CaseInsensitive);
     collator.setNumericMode(true);
 
+    // A folder stands before its sub-folders, so that from behind each knows its contents when its turn
+    // comes.
     QList<QTreeWidgetItem *> top;
-    for (Branch &branch : branches) {
+    for (auto branch = branches.rbegin(); branch != branches.rend(); ++branch) {
         QList<QTreeWidgetItem *> items;
-        items.reserve(int(branch.folders.size() + branch.files.size()));
-        appendSorted(items, branch.folders, collator);
-        appendSorted(items, branch.files, collator);
-        if (branch.item)
-            branch.item->addChildren(items);
-        else
+        items.reserve(int(branch->folders.size() + branch->files.size()));
+        appendSorted(items, branch->folders, collator);
+        appendSorted(items, branch->files, collator);
+        if (branch->item) {
+            branch->item->addChildren(items);
+            branch->item->setBarren(branch->files.empty() &&
+                                    std::all_of(branch->folders.begin(), branch->folders.end(),
+                                                [](const FolderItem *item) { return item->isBarren(); }));
+        } else {
             top = items;
+        }
     }
     return top;
 }

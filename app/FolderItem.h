@@ -33,6 +33,9 @@ public:
     bool isLoaded() const { return m_loaded; }
     /// Marks the file that is open in the editor.
     void setLoaded(bool loaded);
+    bool isBarren() const { return m_barren; }
+    /// Greys a folder that holds no file at any depth.
+    void setBarren(bool barren) { m_barren = barren; }
 
 private:
     QString m_path;
@@ -40,6 +43,7 @@ private:
     const FolderIcons *m_icons;
     bool m_folder;
     bool m_loaded = false;
+    bool m_barren = false;
 };
 
 /// The contents of `folder`, all levels down: every sub-folder, and the files of that extension (in any

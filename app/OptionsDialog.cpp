@@ -30,9 +30,8 @@ OptionsDialog::OptionsDialog(QWidget *parent)
 
     connect(m_ui->txtGamePath, &QLineEdit::editingFinished, this, &OptionsDialog::OnTxtGamePathChanged);
     connect(m_ui->txtT2Dir, &QLineEdit::editingFinished, this, &OptionsDialog::OnTxtT2DirChanged);
-    connect(m_ui->txtGamePath, &QLineEdit::textChanged, this, &OptionsDialog::updateHints);
-    connect(m_ui->txtT2Dir, &QLineEdit::textChanged, this, &OptionsDialog::updateHints);
-    updateHints();
+    updateHint(m_ui->txtGamePath, m_ui->lblGamePathHint);
+    updateHint(m_ui->txtT2Dir, m_ui->lblT2DirHint);
 }
 
 OptionsDialog::~OptionsDialog() = default;
@@ -73,19 +72,18 @@ void OptionsDialog::on_btnT2DirBrowse_clicked()
 void OptionsDialog::OnTxtGamePathChanged()
 {
     m_gamePath = m_ui->txtGamePath->text();
+    updateHint(m_ui->txtGamePath, m_ui->lblGamePathHint);
 }
 
 void OptionsDialog::OnTxtT2DirChanged()
 {
     m_outputDir = m_ui->txtT2Dir->text();
+    updateHint(m_ui->txtT2Dir, m_ui->lblT2DirHint);
 }
 
-void OptionsDialog::updateHints()
+/// A missing folder is worth a word, not an obstacle: the drive may just not be there today.
+void OptionsDialog::updateHint(const QLineEdit *edit, QLabel *hint)
 {
-    const auto hint = [](const QString &text) {
-        const QString folder = normalizedFolder(text);
-        return folder.isEmpty() || QFileInfo(folder).isDir() ? QString() : tr("There is no such folder.");
-    };
-    m_ui->lblGamePathHint->setText(hint(m_ui->txtGamePath->text()));
-    m_ui->lblT2DirHint->setText(hint(m_ui->txtT2Dir->text()));
+    const QString folder = normalizedFolder(edit->text());
+    hint->setVisible(!folder.isEmpty() && !QFileInfo(folder).isDir());
 }

@@ -9,6 +9,7 @@
 #include <memory>
 
 class QLabel;
+class QLineEdit;
 
 namespace Ui {
 class OptionsDialog;
@@ -38,7 +39,7 @@ private slots:
     void on_cbAnimAutoPlay_clicked(bool checked) { m_animAutoPlay = checked; }
 
 private:
-    void updateHints();
+    static void updateHint(const QLineEdit *edit, QLabel *hint);
 
     std::unique_ptr<Ui::OptionsDialog> m_ui;
     FolderChooser m_chooseFolder = chooseFolder;

@@ -7,8 +7,9 @@
 #include <QComboBox>
 #include <QHelpEvent>
 #include <QLabel>
+#include <QLayout>
+#include <QPushButton>
 #include <QSlider>
-#include <QToolButton>
 #include <QToolTip>
 
 #include <algorithm>
@@ -18,6 +19,7 @@ namespace {
 constexpr int MinMoveSpeed = 15;
 constexpr int MaxMoveSpeed = 1000;
 constexpr int MaxBrightness = 4;
+constexpr int Gap = 4; ///< between the controls, in pixels
 
 QSlider *addSlider(QToolBar *bar, const char *name, const QString &labelText, int min, int max, int maxWidth)
 {
@@ -28,6 +30,8 @@ QSlider *addSlider(QToolBar *bar, const char *name, const QString &labelText, in
     slider->setMaximumWidth(maxWidth);
     slider->setPageStep(std::max(1, (max - min) / 20));
     slider->setAccessibleName(labelText.trimmed());
+    slider->setFocusPolicy(Qt::TabFocus);
+    label->setContentsMargins(Gap, 0, 0, 0);
     label->setBuddy(slider);
     bar->addWidget(label);
     bar->addWidget(slider);
@@ -37,9 +41,14 @@ QSlider *addSlider(QToolBar *bar, const char *name, const QString &labelText, in
 
 ViewToolBar::ViewToolBar(const QString &title, const ViewActions &actions, QWidget *parent)
     : QToolBar(title, parent)
-    , m_bgColor(new QToolButton)
+    , m_bgColor(new QPushButton)
     , m_surfSelect(new QComboBox)
 {
+    // A click on a control leaves the keys with the viewport, so that one can fly on.
+    m_bgColor->setFocusPolicy(Qt::TabFocus);
+    m_surfSelect->setFocusPolicy(Qt::TabFocus);
+    layout()->setSpacing(Gap);
+
     addAction(actions.resetCamera);
     addSeparator();
     addAction(actions.ground);
@@ -47,17 +56,16 @@ ViewToolBar::ViewToolBar(const QString &title, const ViewActions &actions, QWidg
     addAction(actions.backCull);
 
     m_bgColor->setObjectName(QStringLiteral("btnBGColor"));
-    m_bgColor->setIcon(QIcon(QStringLiteral(":/Images/Icons/bgcolor.png")));
+    m_bgColor->setFixedWidth(32);
     m_bgColor->setToolTip(tr("Background color of the view"));
     m_bgColor->setAccessibleName(tr("Background color"));
-    m_bgColor->setFocusPolicy(Qt::TabFocus);
     m_bgColor->installEventFilter(this);
     addWidget(m_bgColor);
 
     m_surfSelect->setObjectName(QStringLiteral("cbSurfSelect"));
     m_surfSelect->addItems({tr("None"), tr("Lines"), tr("Lines Hidden"), tr("Points"), tr("Points Hidden")});
     m_surfSelect->setToolTip(
-        tr("How the selected surface is outlined; the hidden kinds show through the model"));
+        tr("How the selected surface is marked; the hidden kinds show through the model"));
     m_surfSelect->setAccessibleName(tr("Selection display"));
     addWidget(m_surfSelect);
     addSeparator();
@@ -69,7 +77,7 @@ ViewToolBar::ViewToolBar(const QString &title, const ViewActions &actions, QWidg
     setMoveSpeedPosition(moveSpeedPosition(Settings::MouseSpeed.value()));
     setBrightnessPosition(brightnessPosition(Settings::Brightness.value()));
 
-    connect(m_bgColor, &QToolButton::clicked, this, &ViewToolBar::backgroundColorClicked);
+    connect(m_bgColor, &QPushButton::clicked, this, &ViewToolBar::backgroundColorClicked);
     connect(m_surfSelect, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &ViewToolBar::surfSelectChanged);
     connect(m_moveSpeed, &QSlider::valueChanged, this, &ViewToolBar::moveSpeedChanged);

@@ -7,8 +7,8 @@
 class QAction;
 class QColor;
 class QComboBox;
+class QPushButton;
 class QSlider;
-class QToolButton;
 
 /// The actions that both view tool bars share.
 struct ViewActions
@@ -53,7 +53,7 @@ protected:
 private:
     void updateToolTips();
 
-    QToolButton *m_bgColor;
+    QPushButton *m_bgColor;
     QComboBox *m_surfSelect;
     QSlider *m_moveSpeed;
     QSlider *m_brightness;

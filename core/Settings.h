@@ -9,6 +9,7 @@
 #include <QSize>
 #include <QString>
 #include <QVariant>
+#include <QVariantMap>
 
 #include <cmath>
 #include <type_traits>
@@ -94,10 +95,10 @@ inline const SettingKey<int> SurfSelectType{"SurfSelectType", 0};
 inline const SettingKey<float> MouseSpeed{"MouseSpeed", 0.15f};
 inline const SettingKey<float> Brightness{"Brightness", 1.0f};
 
-// Main window. The three first hold the window itself, the last its docks, tool bars and splitters.
+// Main window. The first three hold the window itself, the others its docks, tool bars and splitters.
 inline const SettingKey<QSize> MainWindowSize{"MainWindowSize", {}};
 inline const SettingKey<QPoint> MainWindowPos{"MainWindowPos", {}};
 inline const SettingKey<bool> MainWindowMaximized{"MainWindowMaximized", false};
 inline const SettingKey<QByteArray> MainWindowState{"MainWindowState", {}};
-inline const SettingKey<QByteArray> MainSplitterState{"MainSplitterState", {}};
+inline const SettingKey<QVariantMap> MainWindowSplitters{"MainWindowSplitters", {}};
 } // namespace Settings

@@ -8,8 +8,7 @@
 namespace {
 // Bytes in the file.
 constexpr qint64 BlockBytes = 44;
-constexpr qint64 NodeTrackBytes = 4;
-constexpr qint64 NodeInitialBytes = 28;
+constexpr qint64 NodeBytes = 32;
 constexpr qint64 FrameBytes = 4;
 constexpr qint64 ActionBytes = 50;
 
@@ -39,9 +38,7 @@ TrackTable<Key> readTable(BinaryFileReader &reader, qint32 trackCount, qint32 fr
     const qint64 trackBytes = KeyFloats<Key> * qint64(sizeof(float)) * frameCount;
     if (!reader.holds(trackCount, trackBytes)) {
         // Cut off within the keys, whose components are all floats.
-        float ignored = 0.0f;
-        while (!reader.hasError())
-            reader.readFloats(&ignored, 1);
+        reader.failAtEnd("float");
         return {};
     }
     TrackTable<Key> table(trackCount, frameCount);
@@ -83,15 +80,15 @@ AnimBlock readBlock(BinaryFileReader &reader)
             QStringLiteral("nodeLength is different value than initialNodeLength. They should be the same."));
     }
 
-    readRecords(reader, nodeCount, NodeTrackBytes, block.nodes, [](BinaryFileReader &r) {
+    readRecords(reader, nodeCount, NodeBytes, block.nodes, [](BinaryFileReader &r) {
         AnimNode node;
         node.translationIndex = r.readUInt16();
         node.rotationIndex = r.readUInt16();
         return node;
     });
-    for (AnimNode &node : block.nodes) {
-        if (reader.hasError())
-            break;
+    AnimNode unkept;
+    for (qint64 i = 0; i < nodeCount && !reader.hasError(); ++i) {
+        AnimNode &node = block.nodes.empty() ? unkept : block.nodes[size_t(i)];
         node.initialPosition = reader.readVec3();
         node.initialRotation = reader.readVec4();
     }
@@ -101,17 +98,6 @@ AnimBlock readBlock(BinaryFileReader &reader)
     block.rotations = readTable<QVector4D>(reader, rotationCount, frameCount);
     readRecords(reader, actionCount, ActionBytes, block.actions, readAction);
     return block;
-}
-
-qint64 fileBytes(const AnimFile &file)
-{
-    size_t bytes = 8;
-    for (const AnimBlock &block : file.blocks) {
-        bytes += size_t(BlockBytes) + block.nodes.size() * size_t(NodeTrackBytes + NodeInitialBytes) +
-                 block.frames.size() * size_t(FrameBytes) + block.translations.keys().size() * 12 +
-                 block.rotations.keys().size() * 16 + block.actions.size() * size_t(ActionBytes);
-    }
-    return qint64(bytes);
 }
 
 template <typename Key>
@@ -182,31 +168,32 @@ void AnimBlock::setRotationCount(int count)
 
 bool AnimFile::read(const QString &path, QString *errorText)
 {
-    BinaryFileReader reader(path);
-    if (errorText)
-        errorText->clear();
-    if (!reader.isOpen())
-        return true;
+    return readModelFile(*this, path, errorText);
+}
 
+bool AnimFile::read(BinaryFileReader &reader)
+{
     version = reader.readInt32();
     const qint32 blockCount = reader.readInt32();
     blocks.clear();
     readRecords(reader, blockCount, BlockBytes, blocks, readBlock);
-
-    if (errorText)
-        *errorText = reader.errorText();
     return reader.hasError();
 }
 
 bool AnimFile::write(const QString &path) const
 {
+    BinaryFileWriter writer(path);
+    return write(writer) || writer.commit();
+}
+
+bool AnimFile::write(BinaryFileWriter &writer) const
+{
     if (blocks.empty())
         return true;
 
-    BinaryFileWriter writer(fileBytes(*this));
     writer.writeInt32(version);
     writer.writeInt32(qint32(blocks.size()));
     for (const AnimBlock &block : blocks)
         writeBlock(writer, block);
-    return writer.commit(path);
+    return false;
 }

@@ -11,6 +11,9 @@
 #include <array>
 #include <vector>
 
+class BinaryFileReader;
+class BinaryFileWriter;
+
 /// One bone of an animation block. A track index at or beyond the table's track count (65535 by
 /// convention) keeps the bone at its initial position or rotation.
 struct AnimNode
@@ -70,8 +73,10 @@ struct AnimFile
     /// Reads `path` into this (fresh) model. Returns true on failure; `errorText`, if given, then says why
     /// and is empty when the file could not be opened. A partly read model is to be thrown away.
     [[nodiscard]] bool read(const QString &path, QString *errorText = nullptr);
+    [[nodiscard]] bool read(BinaryFileReader &reader);
 
     /// Writes the model to `path` in one step. Returns true on failure, with the old file untouched: when
     /// there are no blocks or when the file cannot be written.
     [[nodiscard]] bool write(const QString &path) const;
+    [[nodiscard]] bool write(BinaryFileWriter &writer) const;
 };

@@ -2,27 +2,31 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QFile>
 #include <QString>
 #include <QVector2D>
 #include <QVector3D>
 #include <QVector4D>
 #include <QtEndian>
 
-#include <cstring>
 #include <memory>
+#include <utility>
 #include <vector>
 
 /// Typed little-endian reads over the bytes of one file, with a sticky error text instead of exceptions.
 ///
-/// The file is taken into memory whole when the reader is made (it may change on disk afterwards) and
-/// closed again at once. The first read that needs more bytes than are left sets the error text; from then
-/// on every read yields zero. No read allocates more than the bytes that are left can fill.
+/// The first read that needs more bytes than are left sets the error text; from then on every read yields
+/// zero. No read allocates more than the bytes that are left can fill.
 class BinaryFileReader
 {
 public:
-    /// Opens `path`, which may be a file or a toolkit resource. Anything else (a folder, a pipe) is not
-    /// opened. The error text stays empty in either case.
+    /// Opens the file or toolkit resource at `path` for as long as the reader lives. Anything else (a
+    /// folder, a pipe) is not opened, and the error text stays empty. A file of 2 GiB or more is not opened
+    /// either; that sets the error text. A file cut off while it is read ends where it was cut.
     explicit BinaryFileReader(const QString &path);
+
+    /// Reads bytes that outlive the reader.
+    BinaryFileReader(const uchar *bytes, qint64 size);
 
     bool isOpen() const { return m_open; }
     bool hasError() const { return !m_errorText.isEmpty(); }
@@ -35,7 +39,7 @@ public:
     /// file can overflow it.
     bool holds(qint64 count, qint64 recordBytes) const
     {
-        return count <= 0 || recordBytes <= 0 || count <= (m_end - m_cursor) / recordBytes;
+        return count <= 0 || recordBytes <= 0 || count <= bytesLeft() / recordBytes;
     }
 
     qint8 readInt8() { return readScalar<qint8>("int8"); }
@@ -50,8 +54,17 @@ public:
     /// Latin-1 bytes up to a 0 byte, which is consumed and not kept.
     QString readString();
 
+    /// Records that the file ends within a value of the type named.
+    void failAtEnd(const char *typeName);
+
     /// Reads `count` floats into `values`; those that the file no longer holds become 0.
-    void readFloats(float *values, qint64 count);
+    void readFloats(float *values, qint64 count)
+    {
+        if (m_end - m_cursor < count * qint64(sizeof(float)))
+            return readFloatsBeyondWindow(values, count);
+        qFromLittleEndian<float>(m_cursor, count, values);
+        m_cursor += count * qint64(sizeof(float));
+    }
 
     /// Reads `count` values (none for a negative count) into `values`, which is left empty on failure.
     void readUInt16s(std::vector<quint16> &values, qint64 count);
@@ -63,7 +76,7 @@ private:
     template <typename T>
     T readScalar(const char *typeName)
     {
-        if (m_end - m_cursor < qint64(sizeof(T))) {
+        if (m_end - m_cursor < qint64(sizeof(T)) && !fillWindow(sizeof(T))) {
             failAtEnd(typeName);
             return T(0);
         }
@@ -73,9 +86,19 @@ private:
         return value;
     }
 
-    void failAtEnd(const char *typeName);
+    qint64 bytesLeft() const { return m_end - m_cursor + m_unread; }
+    bool fillWindow(qint64 bytes);
+    qint64 readFile(uchar *to, qint64 bytes);
+    qint64 readBytes(uchar *to, qint64 bytes);
+    void readFloatsBeyondWindow(float *values, qint64 count);
 
-    std::unique_ptr<uchar[]> m_bytes;
+    // Reading goes through a small window, since a second copy of a big file costs more than parsing it;
+    // long arrays go straight to their place. Mapping would be as quick, but a file cut off meanwhile
+    // would then end the program.
+    QFile m_file;
+    std::unique_ptr<uchar[]> m_window;
+    qint64 m_windowBytes = 0;
+    qint64 m_unread = 0; ///< bytes of the file beyond the window
     const uchar *m_cursor = nullptr;
     const uchar *m_end = nullptr;
     bool m_open = false;
@@ -83,14 +106,31 @@ private:
 };
 
 /// Appends `count` records to `records` (none for a negative count), each made by `readRecord(reader)`, and
-/// stops at the first failure. `recordBytes` is the least a record takes in the file: a count that the file
-/// cannot hold reserves nothing.
+/// stops at the first failure. `recordBytes` is the least that a record takes in the file, here or further
+/// on. When the file cannot hold that many, the read is bound to fail: the records are then only walked
+/// through, to fail where the file ends, and none is kept.
 template <typename Record, typename ReadRecord>
 void readRecords(BinaryFileReader &reader, qint64 count, qint64 recordBytes, std::vector<Record> &records,
                  ReadRecord readRecord)
 {
-    if (count > 0 && reader.holds(count, recordBytes))
+    const bool held = reader.holds(count, recordBytes);
+    if (held && count > 0)
         records.reserve(size_t(count));
-    for (qint64 i = 0; i < count && !reader.hasError(); ++i)
-        records.push_back(readRecord(reader));
+    for (qint64 i = 0; i < count && !reader.hasError(); ++i) {
+        Record record = readRecord(reader);
+        if (held)
+            records.push_back(std::move(record));
+    }
+}
+
+/// Reads the file at `path` into a fresh model. Returns true on failure; `errorText`, if given, then says
+/// why and is empty when the file could not be opened.
+template <typename Model>
+[[nodiscard]] bool readModelFile(Model &model, const QString &path, QString *errorText)
+{
+    BinaryFileReader reader(path);
+    const bool failed = !reader.isOpen() || model.read(reader);
+    if (errorText)
+        *errorText = reader.errorText();
+    return failed;
 }

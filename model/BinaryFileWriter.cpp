@@ -2,10 +2,20 @@
 // SPDX-License-Identifier: MIT
 #include "BinaryFileWriter.h"
 
-#include <QSaveFile>
+namespace {
+// Small enough to stay in the processor's cache: a buffer of the whole file costs more than the writing.
+constexpr size_t BufferBytes = 256 * 1024;
+} // namespace
 
-BinaryFileWriter::BinaryFileWriter(qint64 bytes)
-    : m_bytes(size_t(bytes))
+BinaryFileWriter::BinaryFileWriter()
+    : m_toFile(false)
+    , m_buffer(64)
+{}
+
+BinaryFileWriter::BinaryFileWriter(const QString &path)
+    : m_file(path)
+    , m_toFile(true)
+    , m_buffer(BufferBytes)
 {}
 
 void BinaryFileWriter::writeVec2(const QVector2D &value)
@@ -29,17 +39,36 @@ void BinaryFileWriter::writeVec4(const QVector4D &value)
 void BinaryFileWriter::writeString(const QString &text)
 {
     const QByteArray latin1 = text.toLatin1();
-    // A QByteArray ends with a 0 byte beyond its size.
-    writeArray(latin1.constData(), size_t(latin1.size()) + 1);
+    writeArray(latin1.constData(), size_t(qstrlen(latin1.constData())) + 1);
 }
 
-bool BinaryFileWriter::commit(const QString &path) const
+bool BinaryFileWriter::commit()
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return true;
-    const auto size = qint64(m_size);
-    if (file.write(reinterpret_cast<const char *>(m_bytes.data()), size) != size)
-        return true;
-    return !file.commit();
+    flush();
+    return m_failed || !m_file.commit();
+}
+
+const std::vector<uchar> &BinaryFileWriter::bytes()
+{
+    m_buffer.resize(m_used);
+    return m_buffer;
+}
+
+void BinaryFileWriter::makeRoom()
+{
+    if (m_toFile)
+        flush();
+    else
+        m_buffer.resize(std::max<size_t>(64, 2 * m_buffer.size()));
+}
+
+void BinaryFileWriter::flush()
+{
+    // Unbuffered: QSaveFile::commit() does not notice a failure to write out what is still in its buffer.
+    if (!m_failed && !m_file.isOpen())
+        m_failed = !m_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    const auto size = qint64(m_used);
+    if (!m_failed)
+        m_failed = m_file.write(reinterpret_cast<const char *>(m_buffer.data()), size) != size;
+    m_used = 0;
 }

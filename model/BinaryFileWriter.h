@@ -2,64 +2,80 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
+#include <QSaveFile>
 #include <QString>
 #include <QVector2D>
 #include <QVector3D>
 #include <QVector4D>
 #include <QtEndian>
 
+#include <algorithm>
 #include <vector>
 
-/// Typed little-endian writes into one buffer that becomes a file whole or not at all.
+/// Typed little-endian writes that become a file whole or not at all.
 class BinaryFileWriter
 {
 public:
-    /// Expects about `bytes` bytes; a wrong guess costs only time.
-    explicit BinaryFileWriter(qint64 bytes);
+    /// Writes into memory, see bytes().
+    BinaryFileWriter();
 
-    void writeInt8(qint8 value) { writeScalar(value); }
-    void writeUInt8(quint8 value) { writeScalar(value); }
-    void writeUInt16(quint16 value) { writeScalar(value); }
-    void writeInt32(qint32 value) { writeScalar(value); }
-    void writeFloat(float value) { writeScalar(value); }
+    /// Writes a new file beside the one at `path`, which commit() puts in its place. Nothing on disk is
+    /// touched before the first bytes go out.
+    explicit BinaryFileWriter(const QString &path);
+
+    void writeInt8(qint8 value) { writeArray(&value, 1); }
+    void writeUInt8(quint8 value) { writeArray(&value, 1); }
+    void writeUInt16(quint16 value) { writeArray(&value, 1); }
+    void writeInt32(qint32 value) { writeArray(&value, 1); }
+    void writeFloat(float value) { writeArray(&value, 1); }
     void writeVec2(const QVector2D &value);
     void writeVec3(const QVector3D &value);
     void writeVec4(const QVector4D &value);
 
-    /// Latin-1 bytes and a 0 byte. A character outside Latin-1 becomes "?".
+    /// Latin-1 bytes and a 0 byte. A character outside Latin-1 becomes "?"; a null character ends the text,
+    /// as it would when read back.
     void writeString(const QString &text);
 
     void writeFloats(const float *values, size_t count) { writeArray(values, count); }
     void writeUInt16s(const std::vector<quint16> &values) { writeArray(values.data(), values.size()); }
 
-    /// Replaces the file at `path` in one step and returns true when that failed; the old file is then
-    /// untouched.
-    [[nodiscard]] bool commit(const QString &path) const;
+    /// Replaces the file in one step and returns true when that, or any write before it, failed; the old
+    /// file is then untouched.
+    [[nodiscard]] bool commit();
+
+    /// What was written into memory.
+    const std::vector<uchar> &bytes();
 
 private:
     template <typename T>
-    void writeScalar(T value)
+    void writeArray(const T *values, size_t count)
     {
-        writeArray(&value, 1);
+        // The part that still fits first: for a record that is nearly always all of it.
+        while (count * sizeof(T) > m_buffer.size() - m_used) {
+            const size_t part = (m_buffer.size() - m_used) / sizeof(T);
+            append(values, part);
+            values += part;
+            count -= part;
+            makeRoom();
+        }
+        append(values, count);
     }
 
     template <typename T>
-    void writeArray(const T *values, size_t count)
+    void append(const T *values, size_t count)
     {
-        uchar *to = grow(count * sizeof(T));
-        qToLittleEndian<T>(values, qsizetype(count), to);
+        if (count == 0)
+            return;
+        qToLittleEndian<T>(values, qsizetype(count), m_buffer.data() + m_used);
+        m_used += count * sizeof(T);
     }
 
-    uchar *grow(size_t bytes)
-    {
-        if (m_size + bytes > m_bytes.size())
-            m_bytes.resize(std::max(m_size + bytes, 2 * m_bytes.size()));
-        uchar *to = m_bytes.data() + m_size;
-        m_size += bytes;
-        return to;
-    }
+    void makeRoom();
+    void flush();
 
-    std::vector<uchar> m_bytes;
-    size_t m_size = 0;
+    QSaveFile m_file;
+    bool m_toFile;
+    bool m_failed = false;
+    std::vector<uchar> m_buffer;
+    size_t m_used = 0;
 };

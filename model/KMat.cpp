@@ -41,9 +41,9 @@ QString setTexture(QTextStream &words, const QString &path, MaterialTable &table
     return {};
 }
 
-QString readMaterials(QFile &file, const QString &path, MaterialTable &table)
+QString readMaterials(QIODevice &text, const QString &path, MaterialTable &table)
 {
-    QTextStream lines(&file);
+    QTextStream lines(&text);
     lines.setCodec("UTF-8");
     auto current = table.end();
     QString line;
@@ -67,6 +67,15 @@ QString readMaterials(QFile &file, const QString &path, MaterialTable &table)
 }
 } // namespace
 
+QString readKMat(QIODevice &text, const QString &path, MaterialTable &table)
+{
+    table.clear();
+    const QString error = readMaterials(text, path, table);
+    if (!error.isEmpty())
+        table.clear();
+    return error;
+}
+
 QString readKMat(const QString &path, MaterialTable &table)
 {
     return readKMat(QStringList(path), table);
@@ -74,28 +83,21 @@ QString readKMat(const QString &path, MaterialTable &table)
 
 QString readKMat(const QStringList &candidates, MaterialTable &table)
 {
-    table.clear();
     for (const QString &path : candidates) {
         QFile file(path);
         // Opening a pipe would wait for a writer for ever.
         if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
             continue;
-        const QString error = readMaterials(file, path, table);
-        if (!error.isEmpty())
-            table.clear();
-        return error;
+        return readKMat(file, path, table);
     }
+    table.clear();
     return QStringLiteral("Unable to read .kMat file at %1")
         .arg(candidates.isEmpty() ? QString() : candidates.last());
 }
 
-QString writeKMat(const QString &path, const MaterialTable &table)
+bool writeKMat(QIODevice &text, const MaterialTable &table)
 {
-    const QString unable = QStringLiteral("Unable to open file for writing - %1").arg(path);
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
-        return unable;
-    QTextStream out(&file);
+    QTextStream out(&text);
     out.setCodec("UTF-8");
     for (const auto &[name, texturePath] : table) {
         out << "material " << name << " {\n"
@@ -115,7 +117,13 @@ QString writeKMat(const QString &path, const MaterialTable &table)
             << "\n";
     }
     out.flush();
-    if (out.status() != QTextStream::Ok || !file.commit())
-        return unable;
+    return out.status() != QTextStream::Ok;
+}
+
+QString writeKMat(const QString &path, const MaterialTable &table)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text) || writeKMat(file, table) || !file.commit())
+        return QStringLiteral("Unable to open file for writing - %1").arg(path);
     return {};
 }

@@ -7,6 +7,8 @@
 
 #include <map>
 
+class QIODevice;
+
 /// Material name to diffuse texture path, ascending by name.
 using MaterialTable = std::map<QString, QString>;
 
@@ -18,6 +20,12 @@ using MaterialTable = std::map<QString, QString>;
 /// try the next; when none opens the message names the last.
 [[nodiscard]] QString readKMat(const QStringList &candidates, MaterialTable &table);
 
+/// Reads from a device opened in text mode; `path` only names it in messages.
+[[nodiscard]] QString readKMat(QIODevice &text, const QString &path, MaterialTable &table);
+
 /// Writes a .kmat file with one material per entry of `table` in one step. Returns an error message; an
 /// empty text means success.
 [[nodiscard]] QString writeKMat(const QString &path, const MaterialTable &table);
+
+/// Writes to a device opened in text mode. Returns true on failure.
+[[nodiscard]] bool writeKMat(QIODevice &text, const MaterialTable &table);

@@ -25,5 +25,9 @@ const QStringList &bonePartNames(int type);
 /// The names of impact types 0 to 9.
 const QStringList &impactTypeNames();
 
+/// The names of key frame event types 0 to 34, each with its number in front. Several are the same on
+/// purpose.
+const QStringList &eventTypeNames();
+
 /// "Left Upper Arm" and the like; the side stands before every part. Empty for an index beyond the bones.
 QString boneSymbolName(const SkinnedMesh &mesh, int nodeIndex);

@@ -10,7 +10,7 @@
 
 namespace {
 // Bytes in the file; the least of those that vary.
-constexpr qint64 ChildListBytes = 4;
+constexpr qint64 NodeBytes = 39;
 constexpr qint64 HotPointBytes = 22;
 constexpr qint64 SurfaceBytes = 3;
 constexpr qint64 VertexBytes = 34;
@@ -57,27 +57,15 @@ bool usesTerminatorAsIndex(const SkinnedMeshSurface &surface)
     const auto &indexes = surface.triangleIndexes;
     return std::find(indexes.begin(), indexes.end(), SkinnedMesh::IndexTerminator) != indexes.end();
 }
-
-qint64 fileBytes(const SkinnedMesh &mesh)
-{
-    size_t bytes = 64 + mesh.nodes.size() * 39 + mesh.hotPoints.size() * size_t(HotPointBytes) +
-                   mesh.vertices.size() * size_t(VertexBytes);
-    for (const SkinnedMeshNode &node : mesh.nodes)
-        bytes += 2 * node.childNodes.size();
-    for (const SkinnedMeshSurface &surface : mesh.surfaces)
-        bytes += size_t(surface.materialPath.size()) + 2 * surface.triangleIndexes.size() + 3;
-    return qint64(bytes);
-}
 } // namespace
 
 bool SkinnedMesh::read(const QString &path, QString *errorText)
 {
-    BinaryFileReader reader(path);
-    if (errorText)
-        errorText->clear();
-    if (!reader.isOpen())
-        return true;
+    return readModelFile(*this, path, errorText);
+}
 
+bool SkinnedMesh::read(BinaryFileReader &reader)
+{
     version = reader.readInt32();
     bbMin = reader.readVec3();
     bbMax = reader.readVec3();
@@ -87,17 +75,15 @@ bool SkinnedMesh::read(const QString &path, QString *errorText)
 
     const qint32 nodeCount = reader.readInt32();
     nodes.clear();
-    readRecords(reader, nodeCount, ChildListBytes, nodes, [](BinaryFileReader &r) {
+    readRecords(reader, nodeCount, NodeBytes, nodes, [](BinaryFileReader &r) {
         SkinnedMeshNode node;
         const qint32 childCount = r.readInt32();
         r.readUInt16s(node.childNodes, childCount);
         return node;
     });
-    for (SkinnedMeshNode &node : nodes) {
-        if (reader.hasError())
-            break;
-        readNodeBody(reader, node);
-    }
+    SkinnedMeshNode unkept;
+    for (qint64 i = 0; i < nodeCount && !reader.hasError(); ++i)
+        readNodeBody(reader, nodes.empty() ? unkept : nodes[size_t(i)]);
 
     unknownA = reader.readInt32();
     const qint32 hotPointCount = reader.readInt32();
@@ -114,18 +100,20 @@ bool SkinnedMesh::read(const QString &path, QString *errorText)
         const qint32 vertexCount = reader.readInt32();
         readRecords(reader, vertexCount, VertexBytes, vertices, readVertex);
     }
-
-    if (errorText)
-        *errorText = reader.errorText();
     return reader.hasError();
 }
 
 bool SkinnedMesh::write(const QString &path) const
 {
+    BinaryFileWriter writer(path);
+    return write(writer) || writer.commit();
+}
+
+bool SkinnedMesh::write(BinaryFileWriter &writer) const
+{
     if (nodes.empty() || std::any_of(surfaces.begin(), surfaces.end(), usesTerminatorAsIndex))
         return true;
 
-    BinaryFileWriter writer(fileBytes(*this));
     writer.writeInt32(version);
     writer.writeVec3(bbMin);
     writer.writeVec3(bbMax);
@@ -176,7 +164,7 @@ bool SkinnedMesh::write(const QString &path) const
             writer.writeUInt16(vertex.nodeIndex);
         }
     }
-    return writer.commit(path);
+    return false;
 }
 
 void SkinnedMesh::rotate(float pitch, float yaw, float roll)

@@ -8,6 +8,9 @@
 
 #include <vector>
 
+class BinaryFileReader;
+class BinaryFileWriter;
+
 /// A bone. Indexes are those of the mesh's node list and are never checked on reading.
 struct SkinnedMeshNode
 {
@@ -67,10 +70,12 @@ struct SkinnedMesh
     /// Reads `path` into this (fresh) model. Returns true on failure; `errorText`, if given, then says why
     /// and is empty when the file could not be opened. A partly read model is to be thrown away.
     [[nodiscard]] bool read(const QString &path, QString *errorText = nullptr);
+    [[nodiscard]] bool read(BinaryFileReader &reader);
 
     /// Writes the model to `path` in one step. Returns true on failure, with the old file untouched: when
     /// there are no bones, when a triangle index is 65535, or when the file cannot be written.
     [[nodiscard]] bool write(const QString &path) const;
+    [[nodiscard]] bool write(BinaryFileWriter &writer) const;
 
     /// Turns vertices, normals and boxes about the origin, angles in degrees; see eulerRotation().
     void rotate(float pitch, float yaw, float roll);

@@ -17,24 +17,15 @@ StaticMeshVertex readVertex(BinaryFileReader &reader)
     reader.readFloats(v, 8);
     return {{v[0], v[1], v[2]}, {v[3], v[4]}, {v[5], v[6], v[7]}};
 }
-
-qint64 fileBytes(const StaticMesh &mesh)
-{
-    size_t bytes = 36 + mesh.vertices.size() * size_t(VertexBytes);
-    for (const StaticMeshSurface &surface : mesh.surfaces)
-        bytes += size_t(surface.materialPath.size()) + 2 * surface.triangleIndexes.size() + SurfaceBytes;
-    return qint64(bytes);
-}
 } // namespace
 
 bool StaticMesh::read(const QString &path, QString *errorText)
 {
-    BinaryFileReader reader(path);
-    if (errorText)
-        errorText->clear();
-    if (!reader.isOpen())
-        return true;
+    return readModelFile(*this, path, errorText);
+}
 
+bool StaticMesh::read(BinaryFileReader &reader)
+{
     version = reader.readInt32();
     bbMin = reader.readVec3();
     bbMax = reader.readVec3();
@@ -43,7 +34,8 @@ bool StaticMesh::read(const QString &path, QString *errorText)
     if (surfaceCount < 0)
         return true;
     surfaces.clear();
-    if (reader.holds(surfaceCount, SurfaceBytes))
+    const bool held = reader.holds(surfaceCount, SurfaceBytes);
+    if (held)
         surfaces.reserve(size_t(surfaceCount));
     for (qint32 i = 0; i < surfaceCount && !reader.hasError(); ++i) {
         StaticMeshSurface surface;
@@ -52,7 +44,9 @@ bool StaticMesh::read(const QString &path, QString *errorText)
         if (triangleCount < 0)
             return true;
         reader.readUInt16s(surface.triangleIndexes, 3 * qint64(triangleCount));
-        surfaces.push_back(std::move(surface));
+        // Without room for all of them the read is bound to fail.
+        if (held)
+            surfaces.push_back(std::move(surface));
     }
 
     const qint32 vertexCount = reader.readInt32();
@@ -60,18 +54,20 @@ bool StaticMesh::read(const QString &path, QString *errorText)
         return true;
     vertices.clear();
     readRecords(reader, vertexCount, VertexBytes, vertices, readVertex);
-
-    if (errorText)
-        *errorText = reader.errorText();
     return reader.hasError();
 }
 
 bool StaticMesh::write(const QString &path) const
 {
+    BinaryFileWriter writer(path);
+    return write(writer) || writer.commit();
+}
+
+bool StaticMesh::write(BinaryFileWriter &writer) const
+{
     if (surfaces.empty())
         return true;
 
-    BinaryFileWriter writer(fileBytes(*this));
     writer.writeInt32(version);
     writer.writeVec3(bbMin);
     writer.writeVec3(bbMax);
@@ -90,7 +86,7 @@ bool StaticMesh::write(const QString &path) const
                             vertex.uv.y(),       vertex.normal.x(),   vertex.normal.y(),   vertex.normal.z()};
         writer.writeFloats(v, 8);
     }
-    return writer.commit(path);
+    return false;
 }
 
 void StaticMesh::rotate(float pitch, float yaw, float roll)

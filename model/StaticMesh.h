@@ -8,6 +8,9 @@
 
 #include <vector>
 
+class BinaryFileReader;
+class BinaryFileWriter;
+
 struct StaticMeshSurface
 {
     QString materialPath;                 ///< "FOLDER/FILE/MATERIAL": MATERIAL inside FOLDER/FILE.kmat
@@ -34,10 +37,12 @@ struct StaticMesh
     /// `errorText`, if given, then says why and is empty when the file could not be opened or holds a
     /// negative count. A partly read model is to be thrown away.
     [[nodiscard]] bool read(const QString &path, QString *errorText = nullptr);
+    [[nodiscard]] bool read(BinaryFileReader &reader);
 
     /// Writes the model to `path` in one step. Returns true on failure, with the old file untouched: when
     /// there are no surfaces or when the file cannot be written.
     [[nodiscard]] bool write(const QString &path) const;
+    [[nodiscard]] bool write(BinaryFileWriter &writer) const;
 
     /// Turns vertices, normals and the box about the origin, angles in degrees; see eulerRotation().
     void rotate(float pitch, float yaw, float roll);

@@ -122,7 +122,7 @@ QSize FloatSpinBox::sizeHint() const
 {
     QStyleOptionSpinBox option;
     initStyleOption(&option);
-    const int width = fontMetrics().horizontalAdvance(QStringLiteral("-0000.00000")) + 4;
+    const int width = fontMetrics().horizontalAdvance(QStringLiteral("-0000.000")) + 4;
     const QSize content(width, lineEdit()->sizeHint().height());
     return style()->sizeFromContents(QStyle::CT_SpinBox, &option, content, this);
 }

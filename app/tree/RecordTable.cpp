@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "RecordTable.h"
 
+#include "ListIcon.h"
+
 #include <QCoreApplication>
 
 #include <array>
@@ -82,8 +84,7 @@ const QVector<const RecordRow *> &childRows(RecordKind kind)
 QIcon recordIcon(RecordKind kind)
 {
     static const auto table = byKind<QIcon>([](auto &values, const RecordRow &row) {
-        values[size_t(row.kind)] =
-            QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(row.icon)));
+        values[size_t(row.kind)] = listIcon(QLatin1String(row.icon));
     });
     return table[size_t(kind)];
 }

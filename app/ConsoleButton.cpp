@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "ConsoleButton.h"
+
+#include "ConsoleLog.h"
+
+#include <QDockWidget>
+
+ConsoleButton::ConsoleButton(const ConsoleLog &log, QDockWidget &dock, QWidget *parent)
+    : QToolButton(parent)
+    , m_log(log)
+{
+    setObjectName(QStringLiteral("btnConsole"));
+    setAutoRaise(true);
+    setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    setToolTip(tr("Show the console"));
+    connect(this, &QToolButton::clicked, &dock, [&dock] {
+        dock.show();
+        dock.raise();
+    });
+    connect(&log, &ConsoleLog::countsChanged, this, &ConsoleButton::showCounts);
+    showCounts();
+}
+
+void ConsoleButton::showCounts()
+{
+    const int errors = m_log.errorCount();
+    const int warnings = m_log.warningCount();
+    const char *icon = errors > 0 ? "error" : warnings > 0 ? "warning" : "console";
+    setIcon(QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(icon))));
+    setText(errors + warnings == 0
+                ? tr("Console")
+                : tr("Errors: %1, warnings: %2").arg(QString::number(errors), QString::number(warnings)));
+}

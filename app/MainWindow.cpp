@@ -1,0 +1,513 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "MainWindow.h"
+
+#include "AboutDialog.h"
+#include "ConsoleButton.h"
+#include "ConsoleLog.h"
+#include "ControlsDialog.h"
+#include "DocumentFiles.h"
+#include "FolderExplorer.h"
+#include "OptionsDialog.h"
+#include "Playback.h"
+#include "PropertyPages.h"
+#include "ViewPreferences.h"
+#include "ViewToolBar.h"
+#include "ViewportMarks.h"
+#include "WindowGeometry.h"
+#include "ui_MainWindow.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMessageBox>
+#include <QTimer>
+
+#include <algorithm>
+
+MainWindow::MainWindow(QWidget *parent)
+    : QMainWindow(parent)
+    , m_ui(std::make_unique<Ui::MainWindow>())
+    , m_skinnedMesh(DocumentType::SkinnedMesh, RecordKind::SkinnedMesh)
+    , m_anim(DocumentType::Anim, RecordKind::AnimFile)
+    , m_staticMesh(DocumentType::StaticMesh, RecordKind::StaticMesh)
+    , m_files(new DocumentFiles({&m_skinnedMesh, &m_anim, &m_staticMesh}, this))
+{
+    m_ui->setupUi(this);
+    createConsole();
+    createPanes();
+    createViewToolBars();
+    readSettings();
+    createUndoActions();
+    createMenus();
+    connectPlayback();
+    auto *geometry = new WindowGeometry(this);
+    restoreLayout();
+    geometry->restore();
+    updateCurrentDocument();
+    QTimer::singleShot(50, this, &MainWindow::OnStartSetupPaths);
+}
+
+MainWindow::~MainWindow()
+{
+    Log::setSink({});
+    playback() = {};
+}
+
+// --- Construction ------------------------------------------------------------------------------------------
+
+void MainWindow::createConsole()
+{
+    m_console = new ConsoleLog(m_ui->listConsole, this);
+    Log::setSink([this](LogSeverity severity, const QString &text) { m_console->log(severity, text); });
+    m_ui->listConsole->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_ui->listConsole, &QWidget::customContextMenuRequested, this,
+            &MainWindow::OnConsoleCustomContextMenu);
+
+    m_ui->statusBar->addPermanentWidget(new ConsoleButton(*m_console, *m_ui->dockConsole, this));
+}
+
+void MainWindow::createPanes()
+{
+    const auto explorer = [](DocumentType type, QSplitter *splitter) {
+        auto *widget = new FolderExplorer(documentKind(type));
+        splitter->addWidget(widget);
+        return widget;
+    };
+    m_panes = {{{&m_skinnedMesh,
+                 m_ui->treeSkinnedMesh,
+                 m_ui->pagesSkinnedMesh,
+                 explorer(DocumentType::SkinnedMesh, m_ui->splitterSkinnedExplorers),
+                 m_ui->viewSkinned,
+                 {}},
+                {&m_anim,
+                 m_ui->treeAnim,
+                 m_ui->pagesAnim,
+                 explorer(DocumentType::Anim, m_ui->splitterSkinnedExplorers),
+                 m_ui->viewSkinned,
+                 {}},
+                {&m_staticMesh,
+                 m_ui->treeStaticMesh,
+                 m_ui->pagesStaticMesh,
+                 explorer(DocumentType::StaticMesh, m_ui->splitterStaticExplorer),
+                 m_ui->viewStatic,
+                 {}}}};
+    addPages(*m_ui->pagesSkinnedMesh, m_skinnedMesh, *m_ui->treeSkinnedMesh);
+    addPages(*m_ui->pagesAnim, m_anim, *m_ui->treeAnim);
+    addPages(*m_ui->pagesStaticMesh, m_staticMesh, *m_ui->treeStaticMesh);
+    m_ui->viewSkinned->setSkinnedMeshMode(true);
+
+    for (const DocumentKind &kind : documentKinds()) {
+        const DocumentType type = kind.type;
+        const Pane &made = pane(type);
+        made.tree->setDocument(made.document);
+        made.pages->setTree(made.tree);
+        m_undoGroup.addStack(made.document->undoStack());
+        connect(made.document->undoStack(), &QUndoStack::cleanChanged, this, &MainWindow::OnUndoCleanChanged);
+        connect(made.document, &Document::replaced, this, [this, type] { onReplaced(type); });
+        connect(made.document, &Document::recordsChanged, this,
+                [this, type](const QVector<RecordRef> &records) { onRecordsChanged(type, records); });
+        connect(made.tree, &KVTreeView::currentRecordChanged, this,
+                [this, type](const RecordRef &record) { showInViewport(type, record); });
+        // Queued: a question asked from within the selection's change would swallow the mouse's release.
+        connect(
+            made.explorer, &FolderExplorer::fileChosen, this,
+            [this, type](const QString &path) { openFromExplorer(type, path); }, Qt::QueuedConnection);
+    }
+    connect(m_files, &DocumentFiles::saved, this, &MainWindow::updateCurrentDocument);
+
+    pane(DocumentType::Anim).explorer->addExtraAction(m_ui->actionAnimSyncSkin);
+    connect(m_ui->actionAnimSyncSkin, &QAction::triggered, this, &MainWindow::OnActionAnimSyncSkinSelect);
+
+    for (QSplitter *splitter : {m_ui->splitterSkinnedRecords, m_ui->splitterStaticRecords})
+        splitter->setSizes({300, 500});
+    resizeDocks({m_ui->dockConsole}, {110}, Qt::Vertical);
+    for (QSplitter *splitter : {m_ui->splitterSkinned, m_ui->splitterStatic}) {
+        splitter->setStretchFactor(1, 1);
+        splitter->setSizes({230, 800, 400});
+    }
+}
+
+void MainWindow::createViewToolBars()
+{
+    const ViewActions actions{m_ui->actionGround, m_ui->actionTransGizmo, m_ui->actionCullBack,
+                              m_ui->actionResetCamera};
+    auto *skinned = new ViewToolBar(tr("Skinned Mesh View"), actions, m_ui->viewSkinnedPanel);
+    auto *rigid = new ViewToolBar(tr("Static Mesh View"), actions, m_ui->viewStaticPanel);
+    m_ui->vlviewSkinned->insertWidget(0, skinned);
+    m_ui->vlviewStatic->insertWidget(0, rigid);
+    new ViewPreferences({skinned, rigid}, viewports(), actions, this);
+    for (KVOpenGLWidget *viewport : viewports()) {
+        connect(viewport, &KVOpenGLWidget::positionReadOut, this,
+                [this](const QString &text) { statusBar()->showMessage(text); });
+    }
+}
+
+void MainWindow::readSettings()
+{
+    for (const auto *key :
+         {&Settings::HideMeshData, &Settings::HideAnimData, &Settings::StaticMeshQuickSelect,
+          &Settings::SkinnedMeshQuickSelect, &Settings::AnimationQuickSelect, &Settings::AnimationSyncSkin,
+          &Settings::AnimationAutoPlay})
+        key->ensure();
+
+    m_ui->actionAnimSyncSkin->setChecked(Settings::AnimationSyncSkin.value());
+    for (const Pane &each : m_panes)
+        each.explorer->refill();
+}
+
+void MainWindow::createUndoActions()
+{
+    // Each document's own pair stands in its tree's menu. It has no keys: three stacks with the same keys
+    // would be ambiguous. The keys belong to the pair that follows the current document.
+    for (const Pane &each : m_panes) {
+        QAction *undo = each.document->undoStack()->createUndoAction(this, tr("Undo"));
+        undo->setIcon(QIcon(QStringLiteral(":/Images/Icons/undo.png")));
+        QAction *redo = each.document->undoStack()->createRedoAction(this, tr("Redo"));
+        redo->setIcon(QIcon(QStringLiteral(":Images/Icons/redo.png")));
+        for (QAction *action : {undo, redo}) {
+            action->setShortcuts(QKeySequence::UnknownKey);
+            action->setShortcutContext(Qt::ApplicationShortcut);
+        }
+        connect(each.tree, &QWidget::customContextMenuRequested, this,
+                [tree = each.tree, undo, redo](const QPoint &position) {
+                    QMenu menu(tree);
+                    menu.addActions({undo, redo});
+                    menu.exec(tree->viewport()->mapToGlobal(position));
+                });
+    }
+
+    QAction *undo = m_undoGroup.createUndoAction(this, tr("&Undo"));
+    undo->setObjectName(QStringLiteral("actionUndo"));
+    undo->setIcon(QIcon(QStringLiteral(":/Images/Icons/undo.png")));
+    undo->setShortcuts(QKeySequence::Undo);
+    QAction *redo = m_undoGroup.createRedoAction(this, tr("&Redo"));
+    redo->setObjectName(QStringLiteral("actionRedo"));
+    redo->setIcon(QIcon(QStringLiteral(":Images/Icons/redo.png")));
+    redo->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
+    m_ui->menuEdit->insertActions(m_ui->menuEdit->actions().value(0), {undo, redo});
+    m_ui->toolBarEdit->addActions({undo, redo});
+}
+
+void MainWindow::createMenus()
+{
+    const std::pair<QAction *, const char *> icons[] = {
+        {m_ui->actionOpen, "open"},
+        {m_ui->actionSave, "save"},
+        {m_ui->actionSaveAs, "saveas"},
+        {m_ui->actionSkinnedSaveAs, "filemesh"},
+        {m_ui->actionAnimSaveAs, "fileanim"},
+        {m_ui->actionSaveAll, "saveall"},
+        {m_ui->actionExit, "exit"},
+        {m_ui->actionGround, "ground"},
+        {m_ui->actionTransGizmo, "gizmo"},
+        {m_ui->actionCullBack, "cullback"},
+        {m_ui->actionResetCamera, "resetcamera"},
+        {m_ui->actionRefreshExplorers, "refresh"},
+        {m_ui->actionConsoleClear, "clear"},
+        {m_ui->actionPreferences, "preferences"},
+        {m_ui->actionAnimSyncSkin, "sync"},
+        {m_ui->actionControls, "keyboard"},
+        {m_ui->actionAbout, "about"},
+    };
+    for (const auto &[action, icon] : icons)
+        action->setIcon(QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(icon))));
+    m_ui->menuView->addSeparator();
+    m_ui->menuView->addActions({m_ui->toolBarFile->toggleViewAction(), m_ui->toolBarEdit->toggleViewAction(),
+                                m_ui->dockConsole->toggleViewAction()});
+}
+
+void MainWindow::connectPlayback()
+{
+    AnimTrackFrame *track = m_ui->animTrackFrame;
+    connect(m_ui->viewSkinned, &KVOpenGLWidget::frameShown, track, &AnimTrackFrame::showFrame);
+    connect(m_ui->viewSkinned, &KVOpenGLWidget::frameLabelChanged, track, &AnimTrackFrame::showLabel);
+    connect(track, &AnimTrackFrame::playbackChanged, m_ui->viewSkinned, &KVOpenGLWidget::playbackChanged);
+    track->openAnimation(nullptr);
+}
+
+void MainWindow::restoreLayout()
+{
+    const QVariantMap splitters = Settings::MainWindowSplitters.value();
+    for (QSplitter *splitter : findChildren<QSplitter *>()) {
+        if (splitters.contains(splitter->objectName()))
+            splitter->restoreState(splitters.value(splitter->objectName()).toByteArray());
+    }
+    restoreState(Settings::MainWindowState.value());
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    QVariantMap splitters;
+    for (const QSplitter *splitter : findChildren<QSplitter *>()) {
+        if (!splitter->objectName().isEmpty())
+            splitters.insert(splitter->objectName(), splitter->saveState());
+    }
+    Settings::MainWindowSplitters.setValue(splitters);
+    Settings::MainWindowState.setValue(saveState());
+    QMainWindow::closeEvent(event);
+}
+
+// --- Documents ---------------------------------------------------------------------------------------------
+
+MainWindow::Pane *MainWindow::currentPane()
+{
+    if (m_ui->tabWidget->currentWidget() == m_ui->tabSkinned)
+        return &pane(m_ui->tabTrees->currentIndex() == 0 ? DocumentType::SkinnedMesh : DocumentType::Anim);
+    if (m_ui->tabWidget->currentWidget() == m_ui->tabStatic)
+        return &pane(DocumentType::StaticMesh);
+    return nullptr;
+}
+
+std::array<KVOpenGLWidget *, 2> MainWindow::viewports() const
+{
+    return {m_ui->viewSkinned, m_ui->viewStatic};
+}
+
+void MainWindow::showPane(DocumentType type)
+{
+    m_ui->tabWidget->setCurrentWidget(type == DocumentType::StaticMesh ? m_ui->tabStatic : m_ui->tabSkinned);
+    if (type != DocumentType::StaticMesh)
+        m_ui->tabTrees->setCurrentIndex(type == DocumentType::SkinnedMesh ? 0 : 1);
+}
+
+void MainWindow::openFiles(const QStringList &paths)
+{
+    const DocumentKind *first = nullptr;
+    for (const QString &path : paths) {
+        const DocumentKind *kind = documentKindOfFile(path);
+        if (!kind) {
+            QMessageBox::warning(this, tr("File error"),
+                                 tr("Failed to open\n%1").arg(QDir::toNativeSeparators(path)));
+        } else if (!m_files->open(kind->type, QFileInfo(path).absoluteFilePath()) && !first) {
+            first = kind;
+        }
+    }
+    if (first)
+        showPane(first->type);
+}
+
+void MainWindow::updateCurrentDocument()
+{
+    const Pane *current = currentPane();
+    Document *document = current ? current->document : nullptr;
+    const bool isOpen = document && document->isOpen();
+    m_undoGroup.setActiveStack(document ? document->undoStack() : nullptr);
+    for (KVOpenGLWidget *viewport : viewports())
+        viewport->setActive(current && current->viewport == viewport);
+
+    m_ui->actionOpen->setEnabled(document);
+    m_ui->actionSave->setEnabled(isOpen);
+    m_ui->actionSaveAs->setEnabled(isOpen);
+    m_ui->actionSkinnedSaveAs->setEnabled(m_skinnedMesh.isOpen());
+    m_ui->actionAnimSaveAs->setEnabled(m_anim.isOpen());
+    m_ui->actionSaveAll->setEnabled(std::any_of(
+        m_panes.begin(), m_panes.end(), [](const Pane &each) { return each.document->isModified(); }));
+    setWindowTitle(isOpen ? QStringLiteral("Korvane - ") + document->fileName() +
+                                (document->isModified() ? QStringLiteral(" * ") : QString())
+                          : QStringLiteral("Korvane"));
+}
+
+void MainWindow::onReplaced(DocumentType type)
+{
+    Pane &replaced = pane(type);
+    switch (type) {
+    case DocumentType::SkinnedMesh:
+        playback().mesh = &m_skinnedMesh.model();
+        m_ui->viewSkinned->setSkinnedMesh(&m_skinnedMesh.model());
+        break;
+    case DocumentType::Anim:
+        m_ui->animTrackFrame->openAnimation(&m_anim.model());
+        break;
+    case DocumentType::StaticMesh:
+        m_ui->viewStatic->setStaticMesh(&m_staticMesh.model());
+        break;
+    }
+    replaced.explorer->setLoadedPath(replaced.document->path());
+    updateCurrentDocument();
+}
+
+void MainWindow::openFromExplorer(DocumentType type, const QString &path)
+{
+    const Pane &target = pane(type);
+    if (!m_files->promptUnsaved(type)) {
+        target.explorer->selectPath(target.document->path());
+        return;
+    }
+    if (m_files->open(type, path))
+        return;
+    showPane(type);
+    if (type == DocumentType::SkinnedMesh && m_ui->actionAnimSyncSkin->isChecked())
+        openMatchingAnimation(path);
+}
+
+void MainWindow::openMatchingAnimation(const QString &meshPath)
+{
+    const QFileInfo mesh(meshPath);
+    FolderExplorer *explorer = pane(DocumentType::Anim).explorer;
+    const QString path = explorer->findMatching(mesh.dir().dirName(), mesh.completeBaseName());
+    if (path.isEmpty())
+        return;
+    if (path != m_anim.path() &&
+        (!m_files->promptUnsaved(DocumentType::Anim) || m_files->open(DocumentType::Anim, path)))
+        return;
+    explorer->selectPath(path);
+}
+
+void MainWindow::onRecordsChanged(DocumentType type, const QVector<RecordRef> &records)
+{
+    refreshChanged(*pane(type).viewport, records);
+    if (type == DocumentType::Anim)
+        m_ui->animTrackFrame->updateRange();
+}
+
+void MainWindow::showInViewport(DocumentType type, const RecordRef &record)
+{
+    Pane &shown = pane(type);
+    const bool isNew = shown.shown != record;
+    shown.shown = record;
+    switch (type) {
+    case DocumentType::SkinnedMesh:
+        markRecord(*shown.viewport, m_skinnedMesh.model(), record);
+        break;
+    case DocumentType::Anim: {
+        markRecord(*shown.viewport, m_anim.model(), record);
+        const bool underBlock = record.kind != RecordKind::None && record.kind != RecordKind::AnimFile;
+        const int block = record.index[0];
+        if (underBlock && isNew && (record.kind == RecordKind::AnimBlock || block != playback().blockIndex))
+            m_ui->animTrackFrame->selectBlock(block);
+        break;
+    }
+    case DocumentType::StaticMesh:
+        markRecord(*shown.viewport, m_staticMesh.model(), record);
+        break;
+    }
+}
+
+// --- Actions -----------------------------------------------------------------------------------------------
+
+void MainWindow::OnStartSetupPaths()
+{
+    const QString gamePath = Settings::GamePath.value();
+    if (!gamePath.isEmpty() && !Settings::OutputDir.value().isEmpty() && QDir(gamePath).exists())
+        return;
+    QMessageBox::information(this, tr("Setup Folder Paths"),
+                             tr("Please setup your folder paths before using Korvane. Thank you!"));
+    on_actionPreferences_triggered();
+}
+
+void MainWindow::on_actionOpen_triggered()
+{
+    if (const Pane *current = currentPane())
+        m_files->openChosen(current->document->kind().type);
+}
+
+void MainWindow::on_actionSave_triggered()
+{
+    if (const Pane *current = currentPane())
+        m_files->save(current->document->kind().type);
+}
+
+void MainWindow::on_actionSaveAs_triggered()
+{
+    if (const Pane *current = currentPane())
+        m_files->saveAs(current->document->kind().type);
+}
+
+void MainWindow::on_actionSkinnedSaveAs_triggered()
+{
+    m_files->saveAs(DocumentType::SkinnedMesh);
+}
+
+void MainWindow::on_actionAnimSaveAs_triggered()
+{
+    m_files->saveAs(DocumentType::Anim);
+}
+
+void MainWindow::on_actionSaveAll_triggered()
+{
+    m_files->saveAll();
+}
+
+void MainWindow::on_actionExit_triggered()
+{
+    close();
+}
+
+void MainWindow::on_actionResetCamera_triggered()
+{
+    if (const Pane *current = currentPane())
+        current->viewport->resetCamera();
+}
+
+void MainWindow::on_actionFullScreen_triggered(bool on)
+{
+    setWindowState(on ? windowState() | Qt::WindowFullScreen : windowState() & ~Qt::WindowFullScreen);
+}
+
+void MainWindow::on_actionRefreshExplorers_triggered()
+{
+    for (const Pane &each : m_panes)
+        each.explorer->refill();
+}
+
+void MainWindow::on_actionPreferences_triggered()
+{
+    OptionsDialog dialog(this);
+    const auto folders = [] { return qMakePair(Settings::GamePath.value(), Settings::OutputDir.value()); };
+    const auto before = folders();
+    if (dialog.exec() != QDialog::Accepted || folders() == before)
+        return;
+    // Textures are looked up in these folders.
+    for (KVOpenGLWidget *viewport : viewports())
+        viewport->rebuildModel();
+}
+
+void MainWindow::on_actionControls_triggered()
+{
+    ControlsDialog dialog(findChildren<QAction *>(), this);
+    dialog.exec();
+}
+
+void MainWindow::on_actionAbout_triggered()
+{
+    AboutDialog dialog(this);
+    dialog.exec();
+}
+
+void MainWindow::on_actionConsoleClear_triggered()
+{
+    m_console->clear();
+}
+
+void MainWindow::on_tabWidget_currentChanged()
+{
+    updateCurrentDocument();
+}
+
+void MainWindow::on_tabTrees_currentChanged(int index)
+{
+    m_ui->stackSkinned->setCurrentIndex(index);
+    const DocumentType type = index == 0 ? DocumentType::SkinnedMesh : DocumentType::Anim;
+    if (m_files)
+        showInViewport(type, pane(type).tree->currentRecord());
+    updateCurrentDocument();
+}
+
+void MainWindow::OnActionAnimSyncSkinSelect(bool on)
+{
+    Settings::AnimationSyncSkin.setValue(on);
+}
+
+void MainWindow::OnConsoleCustomContextMenu(const QPoint &position)
+{
+    QMenu menu(this);
+    menu.addAction(m_console->copyAction());
+    menu.addAction(m_ui->actionConsoleClear);
+    menu.exec(m_ui->listConsole->viewport()->mapToGlobal(position));
+}
+
+void MainWindow::OnUndoCleanChanged()
+{
+    updateCurrentDocument();
+}

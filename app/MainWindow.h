@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Document.h"
+
+#include <QMainWindow>
+#include <QUndoGroup>
+
+#include <array>
+#include <memory>
+
+class ConsoleLog;
+class DocumentFiles;
+class FolderExplorer;
+class KVOpenGLWidget;
+class KVTreeView;
+class PageStack;
+
+namespace Ui {
+class MainWindow;
+}
+
+/// The window: it owns the three documents and wires them to what shows and edits them.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    /// Opens files by their extension, each in its tab; the first one's tab becomes current.
+    void openFiles(const QStringList &paths);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private slots:
+    void OnStartSetupPaths();
+    void on_actionOpen_triggered();
+    void on_actionSave_triggered();
+    void on_actionSaveAs_triggered();
+    void on_actionSkinnedSaveAs_triggered();
+    void on_actionAnimSaveAs_triggered();
+    void on_actionSaveAll_triggered();
+    void on_actionExit_triggered();
+    void on_actionResetCamera_triggered();
+    void on_actionFullScreen_triggered(bool on);
+    void on_actionRefreshExplorers_triggered();
+    void on_actionPreferences_triggered();
+    void on_actionControls_triggered();
+    void on_actionAbout_triggered();
+    void on_actionConsoleClear_triggered();
+    void on_tabWidget_currentChanged();
+    void on_tabTrees_currentChanged(int index);
+    void OnActionAnimSyncSkinSelect(bool on);
+    void OnConsoleCustomContextMenu(const QPoint &position);
+    void OnUndoCleanChanged();
+
+private:
+    /// What belongs to one document.
+    struct Pane
+    {
+        Document *document;
+        KVTreeView *tree;
+        PageStack *pages;
+        FolderExplorer *explorer;
+        KVOpenGLWidget *viewport;
+        RecordRef shown; ///< what the viewport marks
+    };
+
+    void createConsole();
+    void createPanes();
+    void createViewToolBars();
+    void createMenus();
+    void readSettings();
+    void createUndoActions();
+    void restoreLayout();
+    void connectPlayback();
+
+    /// The kind whose document the actions act on; none on a tab without one.
+    Pane *currentPane();
+    Pane &pane(DocumentType type) { return m_panes[size_t(type)]; }
+    std::array<KVOpenGLWidget *, 2> viewports() const;
+    void showPane(DocumentType type);
+    void updateCurrentDocument();
+    void onReplaced(DocumentType type);
+    void onRecordsChanged(DocumentType type, const QVector<RecordRef> &records);
+    void showInViewport(DocumentType type, const RecordRef &record);
+    void openFromExplorer(DocumentType type, const QString &path);
+    void openMatchingAnimation(const QString &meshPath);
+
+    std::unique_ptr<Ui::MainWindow> m_ui;
+    ConsoleLog *m_console = nullptr;
+    SkinnedMeshDocument m_skinnedMesh;
+    AnimDocument m_anim;
+    StaticMeshDocument m_staticMesh;
+    QUndoGroup m_undoGroup;
+    DocumentFiles *m_files;
+    std::array<Pane, 3> m_panes{};
+};

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "MainWindow.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QLoggingCategory>
+#include <QSurfaceFormat>
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("Korvane"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
+    QCoreApplication::setOrganizationName(QStringLiteral("Korvane"));
+    QCoreApplication::setOrganizationDomain(QStringLiteral("korvane.local"));
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/Images/Icons/korvane.png")));
+    QGuiApplication::setDesktopFileName(QStringLiteral("korvane"));
+    qDebug() << QCoreApplication::libraryPaths();
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.network.ssl.warning=false"));
+
+    // Without a version the driver gives what it has; the core profile is asked for all the same.
+    QSurfaceFormat format;
+    format.setDepthBufferSize(24);
+    format.setProfile(QSurfaceFormat::CoreProfile);
+    QSurfaceFormat::setDefaultFormat(format);
+
+    MainWindow window;
+    window.show();
+    // The desktop hands over files to open; there are no options.
+    window.openFiles(QCoreApplication::arguments().mid(1));
+    return QApplication::exec();
+}

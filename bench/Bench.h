@@ -1,0 +1,134 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <string>
+#include <utility>
+#include <vector>
+
+/// Figures with budgets. A figure that depends on the machine is measured against a floor: the least that
+/// any program would have to do, timed in the same process in turns with the figure. Beside Google
+/// Benchmark's own output every row prints one line when the program ends:
+///
+///     RATIO <name> <figure> <floor> <ratio> <budget> PASS|MISS
+///     LIMIT <name> <figure> <budget> PASS|MISS
+namespace Bench {
+struct Report
+{
+    std::vector<std::string> lines;
+};
+
+inline Report &report()
+{
+    static Report instance;
+    return instance;
+}
+
+/// Seconds that `work()` takes.
+template <typename Work>
+double seconds(Work &&work)
+{
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+inline double median(std::vector<double> values)
+{
+    const auto middle = values.begin() + std::ptrdiff_t(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+inline std::string readable(double seconds)
+{
+    char text[32];
+    if (seconds < 1e-3)
+        std::snprintf(text, sizeof text, "%.2fus", seconds * 1e6);
+    else
+        std::snprintf(text, sizeof text, "%.2fms", seconds * 1e3);
+    return text;
+}
+
+/// Registers a row whose median time of `figure()` may be at most `budget` times that of `floor()`. The two
+/// run in turns, `repetitions` times after one turn that is not counted.
+template <typename Figure, typename Floor>
+void ratio(const std::string &name, double budget, int repetitions, Figure figure, Floor floor)
+{
+    const auto body = [=](benchmark::State &state) mutable {
+        std::vector<double> figures;
+        std::vector<double> floors;
+        floor();
+        figure();
+        for ([[maybe_unused]] auto turn : state) {
+            floors.push_back(seconds(floor));
+            figures.push_back(seconds(figure));
+            state.SetIterationTime(figures.back());
+        }
+        const double figureTime = median(std::move(figures));
+        const double floorTime = median(std::move(floors));
+        const double measured = figureTime / floorTime;
+        state.counters["floor_ms"] = floorTime * 1e3;
+        state.counters["ratio"] = measured;
+        char line[256];
+        std::snprintf(line, sizeof line, "RATIO %s %s %s %.2f %.2f %s", name.c_str(),
+                      readable(figureTime).c_str(), readable(floorTime).c_str(), measured, budget,
+                      measured <= budget ? "PASS" : "MISS");
+        report().lines.push_back(line);
+    };
+    benchmark::RegisterBenchmark(name.c_str(), body)
+        ->Iterations(repetitions)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond);
+}
+
+/// Registers a row whose median time of `figure()` may be at most `budget` seconds.
+template <typename Figure>
+void limit(const std::string &name, double budget, int repetitions, Figure figure)
+{
+    const auto body = [=](benchmark::State &state) mutable {
+        std::vector<double> figures;
+        figure();
+        for ([[maybe_unused]] auto turn : state) {
+            figures.push_back(seconds(figure));
+            state.SetIterationTime(figures.back());
+        }
+        const double measured = median(std::move(figures));
+        char line[256];
+        std::snprintf(line, sizeof line, "LIMIT %s %s %s %s", name.c_str(), readable(measured).c_str(),
+                      readable(budget).c_str(), measured <= budget ? "PASS" : "MISS");
+        report().lines.push_back(line);
+    };
+    benchmark::RegisterBenchmark(name.c_str(), body)
+        ->Iterations(repetitions)
+        ->UseManualTime()
+        ->Unit(benchmark::kMicrosecond);
+}
+
+/// Adds a line for a figure that is no time, such as bytes an item.
+inline void addLimitLine(const std::string &name, double measured, double budget, const char *unit)
+{
+    char line[256];
+    std::snprintf(line, sizeof line, "LIMIT %s %.2f%s %.2f%s %s", name.c_str(), measured, unit, budget, unit,
+                  measured <= budget ? "PASS" : "MISS");
+    report().lines.push_back(line);
+}
+
+/// Runs the registered rows and prints their lines. Returns the program's exit status; a missed budget is
+/// no failure of the program.
+inline int run(int argc, char **argv)
+{
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    for (const std::string &line : report().lines)
+        std::printf("%s\n", line.c_str());
+    return 0;
+}
+} // namespace Bench

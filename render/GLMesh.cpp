@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "GLMesh.h"
+
+#include "ShaderPrograms.h"
+
+#include <QOpenGLContext>
+#include <QOpenGLExtraFunctions>
+
+#include <cstdint>
+
+namespace {
+/// Added to the colour of the selected surface: an 8-bit (0, 0, 128).
+constexpr float SelectionBlue = 128.0f / 255.0f;
+
+const void *bufferOffset(size_t offset)
+{
+    return reinterpret_cast<const void *>(std::uintptr_t(offset));
+}
+} // namespace
+
+void describeVertexLayout(QOpenGLExtraFunctions &gl)
+{
+    constexpr GLsizei Stride = sizeof(GLVertex);
+    for (GLuint location : {AttributeLocation::Position, AttributeLocation::TexCoord,
+                            AttributeLocation::Normal, AttributeLocation::BoneId})
+        gl.glEnableVertexAttribArray(location);
+    gl.glVertexAttribPointer(AttributeLocation::Position, 3, GL_FLOAT, GL_FALSE, Stride,
+                             bufferOffset(offsetof(GLVertex, position)));
+    gl.glVertexAttribPointer(AttributeLocation::TexCoord, 2, GL_FLOAT, GL_FALSE, Stride,
+                             bufferOffset(offsetof(GLVertex, texcoord)));
+    gl.glVertexAttribPointer(AttributeLocation::Normal, 3, GL_FLOAT, GL_FALSE, Stride,
+                             bufferOffset(offsetof(GLVertex, normal)));
+    // The plain call would turn the bone number into a float.
+    gl.glVertexAttribIPointer(AttributeLocation::BoneId, 1, GL_INT, Stride,
+                              bufferOffset(offsetof(GLVertex, boneId)));
+}
+
+GLMesh::GLMesh(const MeshSource &source)
+    : palette(source.boneCount)
+    , m_gl(*QOpenGLContext::currentContext()->extraFunctions())
+    , m_vertices(source.vertices)
+{
+    m_vertexArray.create();
+    m_vertexBuffer.create();
+    m_vertexArray.bind();
+    m_vertexBuffer.bind();
+    describeVertexLayout(m_gl);
+    m_vertexArray.release();
+
+    uploadVertices();
+    setIndexes(source.indexes);
+    m_textures.reserve(source.images.size());
+    for (const QImage &image : source.images)
+        addTexture(image);
+}
+
+void GLMesh::addTexture(const QImage &image)
+{
+    GLint limit = 0;
+    m_gl.glGetIntegerv(GL_MAX_TEXTURE_SIZE, &limit);
+    const bool fits = image.width() <= limit && image.height() <= limit;
+    // Not mirrored: the texture coordinates count from the image's top row.
+    auto texture = std::make_unique<QOpenGLTexture>(
+        fits ? image : image.scaled(limit, limit, Qt::KeepAspectRatio, Qt::SmoothTransformation),
+        QOpenGLTexture::DontGenerateMipMaps);
+    texture->setMinMagFilters(QOpenGLTexture::Linear, QOpenGLTexture::Linear);
+    texture->setWrapMode(QOpenGLTexture::Repeat);
+    m_textures.push_back(std::move(texture));
+}
+
+template <typename Model>
+void GLMesh::refreshFrom(const Model &mesh, bool indexesToo)
+{
+    const size_t vertexCount = m_vertices.vertices.size();
+    m_vertices.assign(mesh);
+    uploadVertices();
+    if (indexesToo || m_vertices.vertices.size() != vertexCount)
+        setIndexes(drawableIndexes(mesh));
+}
+
+void GLMesh::refresh(const SkinnedMesh &mesh, bool indexesToo)
+{
+    refreshFrom(mesh, indexesToo);
+}
+
+void GLMesh::refresh(const StaticMesh &mesh, bool indexesToo)
+{
+    refreshFrom(mesh, indexesToo);
+}
+
+void GLMesh::uploadVertices()
+{
+    m_vertexBuffer.bind();
+    m_gl.glBufferData(GL_ARRAY_BUFFER, GLsizeiptr(m_vertices.vertices.size() * sizeof(GLVertex)),
+                      m_vertices.vertices.data(), GL_STATIC_DRAW);
+    m_vertexBuffer.release();
+}
+
+void GLMesh::setIndexes(const std::vector<std::vector<quint16>> &indexes)
+{
+    // The binding of an index buffer belongs to the vertex array object.
+    m_vertexArray.bind();
+    m_surfaces.resize(indexes.size());
+    for (size_t i = 0; i < indexes.size(); ++i) {
+        Surface &surface = m_surfaces[i];
+        surface.indexes = indexes[i];
+        if (!surface.buffer.isCreated())
+            surface.buffer.create();
+        surface.buffer.bind();
+        m_gl.glBufferData(GL_ELEMENT_ARRAY_BUFFER, GLsizeiptr(surface.indexes.size() * sizeof(quint16)),
+                          surface.indexes.data(), GL_STATIC_DRAW);
+    }
+    m_vertexArray.release();
+}
+
+void GLMesh::draw(const TexturedProgram &program)
+{
+    m_vertexArray.bind();
+    for (size_t i = 0; i < m_surfaces.size() && i < m_textures.size(); ++i) {
+        m_gl.glUniform4f(program.colorHighlight, 0.0f, 0.0f, int(i) == selectedSurface ? SelectionBlue : 0.0f,
+                         1.0f);
+        m_gl.glBindTexture(GL_TEXTURE_2D, m_textures[i]->textureId());
+        drawIndexes(int(i), GL_TRIANGLES);
+    }
+    m_vertexArray.release();
+}
+
+void GLMesh::drawPlain(int surface, GLenum mode)
+{
+    m_vertexArray.bind();
+    drawIndexes(surface, mode);
+    m_vertexArray.release();
+}
+
+void GLMesh::drawIndexes(int surface, GLenum mode)
+{
+    Surface &drawn = m_surfaces[size_t(surface)];
+    drawn.buffer.bind();
+    m_gl.glDrawElements(mode, GLsizei(drawn.indexes.size()), GL_UNSIGNED_SHORT, nullptr);
+}

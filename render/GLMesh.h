@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "MeshSource.h"
+#include "Pose.h"
+
+#include <QOpenGLBuffer>
+#include <QOpenGLTexture>
+#include <QOpenGLVertexArrayObject>
+
+#include <memory>
+
+class QOpenGLExtraFunctions;
+struct TexturedProgram;
+
+/// Describes the `GLVertex` layout of the bound vertex buffer to the bound vertex array object.
+void describeVertexLayout(QOpenGLExtraFunctions &gl);
+
+/// The graphics card's copy of a model: one vertex buffer, one index buffer and one texture per surface.
+/// Belongs to the context that was current when it was made; every call, the destructor too, needs it
+/// current.
+class GLMesh
+{
+public:
+    static constexpr int NoSurface = -1;
+
+    explicit GLMesh(const MeshSource &source);
+    GLMesh(const GLMesh &) = delete;
+    GLMesh &operator=(const GLMesh &) = delete;
+
+    /// Follows the model's current vertices, and its triangle indexes too where `indexesToo` says so or the
+    /// vertices have become another number. Textures and palette stay; the model has its old surfaces.
+    void refresh(const SkinnedMesh &mesh, bool indexesToo);
+    void refresh(const StaticMesh &mesh, bool indexesToo);
+
+    const MeshVertices &vertices() const { return m_vertices; }
+    QVector3D boxMin() const { return m_vertices.boxMin; }
+    QVector3D boxMax() const { return m_vertices.boxMax; }
+
+    int surfaceCount() const { return int(m_surfaces.size()); }
+    const std::vector<quint16> &indexes(int surface) const { return m_surfaces[size_t(surface)].indexes; }
+    bool hasSelectedSurface() const { return selectedSurface >= 0 && selectedSurface < surfaceCount(); }
+
+    /// Draws all surfaces with `program`, which is bound and has its matrix set; tints the selected one.
+    void draw(const TexturedProgram &program);
+    /// Draws the index list of a surface as triangles, lines or points over this mesh's vertices.
+    void drawPlain(int surface, GLenum mode);
+    /// The same over the vertices of whatever vertex array object is bound.
+    void drawIndexes(int surface, GLenum mode);
+
+    BonePalette palette;             ///< one matrix per bone of a skinned mesh, identity until posed
+    int selectedSurface = NoSurface; ///< drawn with a blue tint
+
+private:
+    struct Surface
+    {
+        QOpenGLBuffer buffer{QOpenGLBuffer::IndexBuffer};
+        std::vector<quint16> indexes; ///< what the buffer holds
+    };
+
+    template <typename Model>
+    void refreshFrom(const Model &mesh, bool indexesToo);
+    void addTexture(const QImage &image);
+    void uploadVertices();
+    void setIndexes(const std::vector<std::vector<quint16>> &indexes);
+
+    QOpenGLExtraFunctions &m_gl;
+    QOpenGLVertexArrayObject m_vertexArray;
+    QOpenGLBuffer m_vertexBuffer{QOpenGLBuffer::VertexBuffer};
+    MeshVertices m_vertices;
+    std::vector<Surface> m_surfaces;
+    std::vector<std::unique_ptr<QOpenGLTexture>> m_textures; ///< by surface
+};

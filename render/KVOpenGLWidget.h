@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Camera.h"
+#include "FrameLabel.h"
+#include "Pose.h"
+#include "ScenePainter.h"
+
+#include <QBasicTimer>
+#include <QColor>
+#include <QElapsedTimer>
+#include <QOpenGLExtraFunctions>
+#include <QOpenGLWidget>
+
+/// The 3D view: shows a skinned or a static mesh, plays the animation of `playback()` on the skinned one,
+/// and flies a camera with mouse and keys (W, A, S, D; Shift for speed; C for the start).
+///
+/// Models are borrowed and must outlive their stay in the view. View settings are read from the settings
+/// store once, at construction; storing them is the caller's part. A hidden view does no work.
+class KVOpenGLWidget : public QOpenGLWidget, protected QOpenGLExtraFunctions
+{
+    Q_OBJECT
+
+public:
+    explicit KVOpenGLWidget(QWidget *parent = nullptr);
+    ~KVOpenGLWidget() override;
+
+    /// Whether the view shows its skinned mesh, with pose and playback, or its static one. Off at first.
+    void setSkinnedMeshMode(bool on);
+    /// Shows another model; null clears the view. Textures are looked up and logged when the copy on the
+    /// graphics card is made: at once, or when the view is first shown. Selections are forgotten.
+    void setSkinnedMesh(const SkinnedMesh *mesh);
+    void setStaticMesh(const StaticMesh *mesh);
+    /// A material, a folder or anything else may have changed: builds the copy with its textures anew.
+    void rebuildModel();
+    /// Vertices of the model changed. The copy follows once, before the next paint.
+    void refreshVertices();
+    /// Triangle indexes of the model changed. The copy follows once, before the next paint.
+    void refreshIndexes();
+
+    /// Whether this view belongs to the window's current tab: only then it shows its position and, in
+    /// skinned mode, plays.
+    void setActive(bool current);
+    /// `playback()` was changed by hand: shows it at the next tick. Without this call an idle view notices a
+    /// little later.
+    void playbackChanged();
+
+    void setBackgroundColor(const QColor &color);
+    void setMoveSpeed(float speed); ///< units per pixel, or per tick of a held key
+    void setBrightness(float factor);
+    void setShowGround(bool on);
+    void setShowAxisGizmo(bool on);
+    void setBackCull(bool on);
+    void setSurfSelectType(int type); ///< 0 to 4, see SurfaceOverlay; anything else is 0
+
+    void setSelectedSurface(int surface); ///< -1: none
+    void setSelectedBone(int bone);       ///< -1: none
+    /// Marks a point, relative to a bone or, where there is no such bone, to the model. `flag` stands the
+    /// square on its corner.
+    void setHighlightPoint(const QVector3D &position, bool flag, int bone);
+    void clearHighlightPoint();
+    void resetCamera();
+
+    const Camera &camera() const { return m_camera; }
+
+signals:
+    /// The camera position for the status bar, about ten times a second: "X: 0.000000 Y: ... Z: ...".
+    void positionReadOut(const QString &text);
+    /// The frame that the painted pose starts from; emitted while painting.
+    void frameShown(int frame);
+    /// The text beside the track slider.
+    void frameLabelChanged(const QString &text);
+    /// The graphics driver refuses the shaders; the view has closed itself.
+    void initFailed();
+
+protected:
+    void initializeGL() override;
+    void resizeGL(int width, int height) override;
+    void paintGL() override;
+
+    void timerEvent(QTimerEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    enum class Pace { Idle, Moving };
+
+    // Meshes on the graphics card.
+    void releaseGL();
+    void modelReplaced(bool shown);
+    void buildModel();
+    void refreshModel();
+    float groundHeight() const;
+
+    // One tick: clock, label, read-out, camera.
+    void tick(float dt);
+    void readOut(float dt);
+    bool playbackDiffers() const;
+    bool mustKeepMoving() const;
+    void setPace(Pace pace);
+
+    void pose();
+    bool setKey(const QKeyEvent &event, bool held);
+    void releaseInput();
+    QPoint centre() const { return {width() / 2, height() / 2}; }
+
+    std::unique_ptr<ScenePainter> m_painter; ///< made in initializeGL for its context
+    bool m_initialized = false;
+    SceneFrame m_frame; ///< of the next paint
+    QColor m_background;
+    float m_moveSpeed = 0.0f;
+    bool m_backCull = false;
+    bool m_appliedBackCull = false;
+
+    bool m_active = false;
+    const SkinnedMesh *m_skinnedMesh = nullptr;
+    const StaticMesh *m_staticMesh = nullptr;
+    int m_selectedSurface = GLMesh::NoSurface;
+    bool m_verticesChanged = false;
+    bool m_indexesChanged = false;
+    PoseEvaluator m_poses;
+
+    QBasicTimer m_timer;
+    Pace m_pace = Pace::Idle;
+    QElapsedTimer m_clock;
+    qint64 m_previousTick = 0; ///< milliseconds of m_clock
+    Playback m_shownPlayback;  ///< as it was after the last paint
+    FrameLabel m_frameLabel;
+    float m_sinceReadOut = 0.0f; ///< seconds
+    QVector3D m_readOutPosition;
+
+    Camera m_camera;
+    QPoint m_savedCursor; ///< where the mouse was captured, on the screen
+};

@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "GLMesh.h"
+#include "ShaderPrograms.h"
+
+#include <QQuaternion>
+#include <QSize>
+
+#include <array>
+#include <functional>
+
+/// How the selected surface is outlined, in the order of its combo box. The hidden kinds show through the
+/// model.
+enum class SurfaceOverlay { None, Lines, LinesHidden, Points, PointsHidden };
+
+/// A place on the model that the user has selected.
+struct HighlightPoint
+{
+    bool on = false;
+    QVector3D position;
+    bool standing = false; ///< the square stands on its corner
+    int bone = -1;         ///< what the position is relative to; the model when there is no such bone
+};
+
+/// Everything a painted frame depends on beside the meshes.
+struct SceneFrame
+{
+    QMatrix4x4 projection;
+    QMatrix4x4 view;
+    QSize viewport;  ///< in the widget's own pixels
+    QQuaternion yaw; ///< turn of the whole model about its z
+    bool skinned = false;
+    bool showGround = false;
+    bool showAxisGizmo = false;
+    float brightness = 1.0f;
+    float groundHeight = 0.0f; ///< model z, 0 or below
+    SurfaceOverlay overlay = SurfaceOverlay::None;
+    int selectedBone = -1;
+    HighlightPoint highlight;
+};
+
+/// Paints frames with one OpenGL context. Made, used and destroyed with that context current. Painting looks
+/// up no uniform, formats no text and, after the first frame of a model, allocates nothing.
+class ScenePainter
+{
+public:
+    /// Builds programs and fixed meshes; `stepFailed` is called for each shader step that fails.
+    explicit ScenePainter(const std::function<void()> &stepFailed);
+
+    GLMesh &model() { return *m_model; }
+    /// Replaces the model; the selected surface is forgotten.
+    void setModel(const MeshSource &source);
+    /// No model: an empty mesh stands in.
+    void clearModel();
+
+    /// Depth test, blending, point size and clear colour.
+    void setUpState(const QColor &background);
+    void setBackground(const QColor &color);
+    /// Clockwise triangles are front faces.
+    void setBackFaceCulling(bool on);
+
+    void paint(const SceneFrame &frame);
+
+    /// Turns the model's z-up space into the view's y-up one: x to -x, y to z, z to y.
+    static QQuaternion uprightRotation();
+
+private:
+    void beginTextured(TexturedProgram &textured, const SceneFrame &frame);
+    void drawTextured(TexturedProgram &textured, GLMesh &mesh, const QMatrix4x4 &mvp);
+    void paintGround(const SceneFrame &frame);
+    void paintModel(const SceneFrame &frame);
+    void uploadPalette();
+    void paintOverlay(const SceneFrame &frame);
+    void drawPosedSurface(int surface, GLenum mode);
+    void paintBoneMarker(const SceneFrame &frame);
+    void paintHighlightPoint(const SceneFrame &frame);
+    void paintAxisGizmo(const SceneFrame &frame);
+
+    QOpenGLExtraFunctions &m_gl;
+    ShaderPrograms m_programs;
+    std::unique_ptr<GLMesh> m_model;
+    GLMesh m_ground;
+    GLMesh m_axisGizmo;
+    GLMesh m_redQuad;
+    GLMesh m_wireSphere;
+    QMatrix4x4 m_modelMatrix; ///< of the frame being painted
+    std::array<float, 16 * ShaderPrograms::BoneLimit> m_boneUpload{};
+
+    // The selected surface of a skinned mesh in its pose, for the program without bones.
+    QOpenGLVertexArrayObject m_posedArray;
+    QOpenGLBuffer m_posedBuffer{QOpenGLBuffer::VertexBuffer};
+    std::vector<GLVertex> m_posed;
+};

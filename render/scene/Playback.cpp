@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "Playback.h"
+
+#include "AnimFile.h"
+#include "SkinnedMesh.h"
+
+Playback &playback()
+{
+    static Playback state;
+    return state;
+}
+
+bool animationMatchesMesh(const AnimFile &anim, const SkinnedMesh &mesh)
+{
+    return !anim.blocks.empty() && anim.blocks.front().nodes.size() == mesh.nodes.size();
+}
+
+const AnimBlock *playableBlock(const Playback &state)
+{
+    if (!state.anim || !state.mesh || !animationMatchesMesh(*state.anim, *state.mesh))
+        return nullptr;
+    if (state.blockIndex < 0 || size_t(state.blockIndex) >= state.anim->blocks.size())
+        return nullptr;
+    return &state.anim->blocks[size_t(state.blockIndex)];
+}
+
+bool clockRuns(const Playback &state)
+{
+    if (state.playState != PlayState::Playing)
+        return false;
+    const AnimBlock *block = playableBlock(state);
+    return block && block->frameCount() > 1;
+}
+
+void advanceClock(Playback &state, float dt)
+{
+    if (clockRuns(state))
+        state.time += dt;
+}

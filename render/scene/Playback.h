@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+struct AnimBlock;
+struct AnimFile;
+struct SkinnedMesh;
+
+enum class PlayState { InitialPose = 0, Playing = 1, Paused = 2 };
+
+/// What plays, where and how: shared by the track controls and the viewport.
+struct Playback
+{
+    const SkinnedMesh *mesh = nullptr;
+    const AnimFile *anim = nullptr;
+    int blockIndex = 0;
+    PlayState playState = PlayState::InitialPose;
+    float time = 0.0f;      ///< seconds
+    bool forceLoop = false; ///< "Force Loop beginning to end"
+};
+
+/// The one playback state of the process. GUI thread only.
+Playback &playback();
+
+/// True when `anim` has a block and its first block has as many bones as `mesh`. Whatever block plays, only
+/// the first is compared.
+bool animationMatchesMesh(const AnimFile &anim, const SkinnedMesh &mesh);
+
+/// The block that plays; null when mesh or animation is missing, when they do not match, or when the block
+/// index is out of range.
+const AnimBlock *playableBlock(const Playback &state);
+
+/// True when the clock of `state` runs: a playable block of two or more frames in state Playing.
+bool clockRuns(const Playback &state);
+
+/// Adds `dt` seconds to the play time when the clock runs.
+void advanceClock(Playback &state, float dt);

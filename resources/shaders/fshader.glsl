@@ -1,0 +1,22 @@
+#ifdef GL_ES
+precision mediump int;
+precision mediump float;
+#endif
+
+uniform sampler2D texture;
+uniform float brightness;
+uniform float tiling;
+uniform vec4 color_highlight;
+
+varying vec2 v_texcoord;
+
+void main()
+{
+    vec4 c = texture2D(texture, v_texcoord * tiling);
+    // The tint is brightened with the texture.
+    c.rgb += color_highlight.rgb;
+    c.rgb *= brightness;
+    if (c.a < 0.01)
+        c = vec4(0.0, 0.0, 0.0, 0.0);
+    gl_FragColor = c;
+}

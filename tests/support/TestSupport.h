@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -46,6 +47,22 @@ inline QString shared(const QString &relativePath)
 inline QString source(const QString &relativePath)
 {
     return QStringLiteral(KORVANE_SOURCE_DIR "/") + relativePath;
+}
+
+/// Every file of one kind ("skinnedmesh", "anim", ...) among the real models and the samples, in a fixed
+/// order. Either folder may be missing.
+inline QStringList modelFiles(const QString &suffix)
+{
+    QStringList files;
+    for (const QString &folder : {shared(QStringLiteral("gamedata")), source(QStringLiteral("samples"))}) {
+        if (folder.isEmpty())
+            continue;
+        QDirIterator walk(folder, {QStringLiteral("*.") + suffix}, QDir::Files, QDirIterator::Subdirectories);
+        while (walk.hasNext())
+            files += walk.next();
+    }
+    files.sort();
+    return files;
 }
 } // namespace TestSupport
 

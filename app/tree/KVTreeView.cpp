@@ -59,7 +59,8 @@ void KVTreeView::rebuild()
             fillItem(root, hideData);
             addTopLevelItem(root);
             root->setExpanded(true);
-            setCurrentItem(root);
+            // Whatever modifier keys are down.
+            setCurrentItem(root, 0, QItemSelectionModel::ClearAndSelect);
         }
     }
     setUpdatesEnabled(true);

@@ -75,10 +75,12 @@ void makeTinker(Output &output)
     Tinker::addGameData(mesh);
     output.model("game/models/tinker/tinker.skinnedmesh", mesh);
     output.model("game/anims/tinker/tinker.anim", Tinker::makeAnimations(figure));
-    // The body's texture lies in both folders and the game's is the one to be shown; the other two lie in the
-    // mod folder only, the scarf's material as well.
-    output.materials("game/materials/mat_tinker.kmat",
-                     {{"body", "textures/tinker.png"}, {"glow", "textures/tinker_glow.png"}});
+    // The body's material file and texture lie in both folders, and the game's are the ones to be shown; the
+    // other two textures lie in the mod folder only, the scarf's material file as well.
+    for (const char *path : {"game/materials/mat_tinker.kmat", "mod/materials/mat_tinker.kmat"}) {
+        output.materials(QLatin1String(path),
+                         {{"body", "textures/tinker.png"}, {"glow", "textures/tinker_glow.png"}});
+    }
     output.materials("mod/materials/mat_tinker_scarf.kmat", {{"scarf", "textures/tinker_scarf.png"}});
     output.texture("game/textures/tinker.png", body);
     output.texture("mod/textures/tinker.png",

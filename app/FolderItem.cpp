@@ -11,6 +11,7 @@
 #include <QPalette>
 
 #include <algorithm>
+#include <numeric>
 #include <vector>
 
 namespace {
@@ -24,28 +25,26 @@ struct Branch
 void appendSorted(QList<QTreeWidgetItem *> &items, const std::vector<FolderItem *> &unsorted,
                   const QCollator &collator)
 {
-    struct Entry
-    {
-        QCollatorSortKey key;
-        FolderItem *item;
-    };
-    std::vector<Entry> entries;
-    entries.reserve(unsorted.size());
-    for (FolderItem *item : unsorted)
-        entries.push_back({collator.sortKey(item->name()), item});
-    std::sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) {
-        const int order = a.key.compare(b.key);
-        return order != 0 ? order < 0 : a.item->path() < b.item->path();
+    std::vector<QCollatorSortKey> keys;
+    std::vector<size_t> order(unsorted.size());
+    keys.reserve(unsorted.size());
+    for (const FolderItem *item : unsorted)
+        keys.push_back(collator.sortKey(item->name()));
+    std::iota(order.begin(), order.end(), size_t(0));
+    std::sort(order.begin(), order.end(), [&](size_t a, size_t b) {
+        const int difference = keys[a].compare(keys[b]);
+        return difference != 0 ? difference < 0 : unsorted[a]->path() < unsorted[b]->path();
     });
-    for (const Entry &entry : entries)
-        items << entry.item;
+    for (const size_t index : order)
+        items << unsorted[index];
 }
 } // namespace
 
-FolderItem::FolderItem(QString path, QString name, bool folder, const FolderIcons *icons)
+FolderItem::FolderItem(QString path, int nameStart, int nameLength, bool folder, const FolderIcons *icons)
     : m_path(std::move(path))
-    , m_name(std::move(name))
     , m_icons(icons)
+    , m_nameStart(nameStart)
+    , m_nameLength(nameLength)
     , m_folder(folder)
 {}
 
@@ -53,7 +52,7 @@ QVariant FolderItem::data(int column, int role) const
 {
     switch (role) {
     case Qt::DisplayRole:
-        return m_name;
+        return name();
     case Qt::DecorationRole:
         return !m_folder                          ? m_icons->file
                : isExpanded() && childCount() > 0 ? m_icons->openFolder
@@ -76,6 +75,11 @@ QVariant FolderItem::data(int column, int role) const
     }
 }
 
+QString FolderItem::name() const
+{
+    return m_path.mid(m_nameStart, m_nameLength);
+}
+
 void FolderItem::setLoaded(bool loaded)
 {
     if (m_loaded == loaded)
@@ -95,32 +99,32 @@ QList<QTreeWidgetItem *> readFolder(const QString &folder, const QString &extens
     branchOfPath.insert(root, 0);
 
     QDirIterator it(folder, QDir::Dirs | QDir::Files | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
-    QString currentFolder = root;
+    QString currentFolder = root; // entries of one folder mostly come in a row
     size_t current = 0;
     while (it.hasNext()) {
         const QString path = it.next();
-        const int slash = path.lastIndexOf(QLatin1Char('/'));
-        if (path.leftRef(slash) != currentFolder) {
-            const auto known = branchOfPath.constFind(path.left(slash));
+        const int here = currentFolder.size();
+        if (path.size() <= here || !path.startsWith(currentFolder) || path.at(here) != QLatin1Char('/') ||
+            path.indexOf(QLatin1Char('/'), here + 1) >= 0) {
+            const auto known = branchOfPath.constFind(path.left(path.lastIndexOf(QLatin1Char('/'))));
             if (known == branchOfPath.constEnd())
                 continue;
             current = *known;
             currentFolder = known.key();
         }
-        // Most entries are told by their name alone, which spares asking the file system about each.
-        const QString name = path.mid(slash + 1);
-        const bool nameFits = name.size() > suffix.size() && name.endsWith(suffix, Qt::CaseInsensitive);
+        const int nameStart = currentFolder.size() + 1;
+        const int nameLength = path.size() - nameStart;
         const QFileInfo info = it.fileInfo();
         if (info.isDir()) {
             if (info.isSymLink())
                 continue;
-            auto *item = new FolderItem(path, name, true, icons);
+            auto *item = new FolderItem(path, nameStart, nameLength, true, icons);
             branches[current].folders.push_back(item);
             branchOfPath.insert(path, branches.size());
             branches.push_back({item, {}, {}});
-        } else if (nameFits) {
+        } else if (nameLength > suffix.size() && path.endsWith(suffix, Qt::CaseInsensitive)) {
             branches[current].files.push_back(
-                new FolderItem(path, name.chopped(suffix.size()), false, icons));
+                new FolderItem(path, nameStart, nameLength - suffix.size(), false, icons));
         }
     }
 

@@ -45,14 +45,15 @@ wait_for() {
     die "no window came up for the search $*"
 }
 
-# grab WINDOW PICTURE: waits until the window shows more than a bare background, then saves it.
+# grab WINDOW PICTURE: waits until the window shows more than a bare background, then saves its place on the
+# screen, with whatever lies above it.
 grab() {
-    local window=$1 picture=$2 colours
+    local window=$1 picture=$2 X Y WIDTH HEIGHT
     mkdir -p "$(dirname "$picture")"
     for _ in {1..100}; do
-        import -window "$window" "$picture"
-        colours=$(identify -format '%k' "$picture")
-        if ((colours > 64)); then
+        eval "$(xdotool getwindowgeometry --shell "$window" | grep -E '^(X|Y|WIDTH|HEIGHT)=-?[0-9]+$')"
+        import -window root -crop "${WIDTH}x$HEIGHT+$X+$Y" +repage "$picture"
+        if (($(identify -format '%k' "$picture") > 64)); then
             echo "$picture"
             return
         fi
@@ -87,21 +88,12 @@ quit() {
     wait "$korvane_pid" || true
 }
 
-# click X Y: in the coordinates of the main window.
-click() {
-    xdotool mousemove --sync --window "$main" "$1" "$2" click 1
-    sleep 0.5
-}
-
 press() {
     xdotool key --clearmodifiers "$@"
     sleep 0.5
 }
 
 sample() { find samples/game -name "$1" | sort | head -n 1; }
-
-# The places in the main window that the pictures below click.
-readonly static_mesh_tab=(230 115) edit_menu=(62 12)
 
 all_pictures() {
     local folder=$1 skinned_mesh animation static_mesh options broken=build/broken.anim
@@ -111,16 +103,13 @@ all_pictures() {
 
     korvane "$skinned_mesh" "$animation"
     grab "$main" "$folder/main.png"
-    click "${edit_menu[@]}"
-    press Up
-    press Return
+    press ctrl+comma
     options=$(wait_for --name '^Options$')
     grab "$options" "$folder/options.png"
     press Escape
     quit
 
     korvane "$static_mesh"
-    click "${static_mesh_tab[@]}"
     grab "$main" "$folder/static-mesh.png"
     quit
 

@@ -78,7 +78,8 @@ void KVTreeView::rebuild()
             fillItem(root);
             addTopLevelItem(root);
             root->setExpanded(true);
-            setCurrentItem(root);
+            // Whatever modifier keys are down.
+            setCurrentItem(root, 0, QItemSelectionModel::ClearAndSelect);
         }
     }
     setUpdatesEnabled(true);

@@ -101,7 +101,7 @@ void MainWindow::createPanes()
                  m_ui->viewStatic,
                  {}}}};
     addPages(*m_ui->pagesSkinnedMesh, m_skinnedMesh, *m_ui->treeSkinnedMesh);
-    addPages(*m_ui->pagesAnim, m_anim, *m_ui->treeAnim);
+    addPages(*m_ui->pagesAnim, m_anim, *m_ui->treeAnim, m_skinnedMesh);
     addPages(*m_ui->pagesStaticMesh, m_staticMesh, *m_ui->treeStaticMesh);
     m_ui->viewSkinned->setSkinnedMeshMode(true);
 

@@ -46,10 +46,34 @@ QIcon icon(const char *name)
 }
 
 template <typename Visit>
-void forEachItem(QTreeWidget *tree, Visit visit)
+void forEachFile(QTreeWidget *tree, Visit visit)
 {
-    for (QTreeWidgetItemIterator it(tree); *it; ++it)
-        visit(static_cast<FolderItem *>(*it));
+    for (QTreeWidgetItemIterator it(tree); *it; ++it) {
+        auto *item = static_cast<FolderItem *>(*it);
+        if (!item->isFolder())
+            visit(item);
+    }
+}
+
+/// Folders stand before files, so the thousands of files of a folder are not even looked at.
+template <typename Visit>
+void forEachFolder(QTreeWidgetItem *parent, Visit visit)
+{
+    for (int i = 0; i < parent->childCount(); ++i) {
+        auto *item = static_cast<FolderItem *>(parent->child(i));
+        if (!item->isFolder())
+            break;
+        visit(item);
+        forEachFolder(item, visit);
+    }
+}
+
+bool hasFewerRowsThan(QTreeWidget *tree, int limit)
+{
+    int rows = 0;
+    for (QTreeWidgetItemIterator it(tree); *it && rows < limit; ++it)
+        ++rows;
+    return rows < limit;
 }
 } // namespace
 
@@ -82,6 +106,11 @@ FolderExplorer::FolderExplorer(const DocumentKind &kind, QWidget *parent)
     createContextMenu();
     m_toolBar->setObjectName(QStringLiteral("tb%1Folder").arg(prefix));
     m_toolBar->setIconSize({16, 16});
+    auto *caption = new QLabel(kind.label);
+    caption->setObjectName(QStringLiteral("lbl%1Folder").arg(prefix));
+    caption->setMargin(4);
+    caption->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    m_toolBar->addWidget(caption);
     m_toolBar->addAction(m_changeFolder);
     m_toolBar->addAction(m_refresh);
     m_toolBar->addAction(m_quickSelect);
@@ -99,6 +128,11 @@ FolderExplorer::FolderExplorer(const DocumentKind &kind, QWidget *parent)
     connect(m_tree, &QTreeWidget::customContextMenuRequested, this, &FolderExplorer::OnContextMenu);
     connect(m_tree, &QTreeWidget::currentItemChanged, this, &FolderExplorer::updateActions);
     refill();
+}
+
+FolderExplorer::~FolderExplorer()
+{
+    m_tree->clear(); // before the icons that its items share
 }
 
 QAction *FolderExplorer::addAction(const char *name, const char *iconName, const QString &text,
@@ -198,9 +232,9 @@ void FolderExplorer::refill()
     const QString selected = selectedPath();
     const int scrolled = m_tree->verticalScrollBar()->value();
     QSet<QString> expanded;
-    forEachItem(m_tree, [&expanded](const FolderItem *item) {
-        if (item->isFolder() && item->isExpanded())
-            expanded.insert(item->path());
+    forEachFolder(m_tree->invisibleRootItem(), [&expanded](const FolderItem *branch) {
+        if (branch->isExpanded())
+            expanded.insert(branch->path());
     });
 
     {
@@ -213,19 +247,13 @@ void FolderExplorer::refill()
             m_tree->addTopLevelItems(readFolder(folder, m_kind.extension, &m_icons));
         m_filledFolder = folder;
 
-        int rows = 0;
-        forEachItem(m_tree, [this, &rows](FolderItem *item) {
-            ++rows;
-            item->setLoaded(!item->isFolder() && item->path() == m_loadedPath);
+        const bool openWhole = !sameFolder && hasFewerRowsThan(m_tree, OpenWholeLimit);
+        forEachFolder(m_tree->invisibleRootItem(), [&expanded, openWhole](FolderItem *item) {
+            if (openWhole || expanded.contains(item->path()))
+                item->setExpanded(true);
         });
-        if (!sameFolder && rows < OpenWholeLimit) {
-            m_tree->expandAll();
-        } else if (!expanded.isEmpty()) {
-            forEachItem(m_tree, [&expanded](FolderItem *item) {
-                if (item->isFolder() && expanded.contains(item->path()))
-                    item->setExpanded(true);
-            });
-        }
+        if (FolderItem *loaded = findItem(m_loadedPath))
+            loaded->setLoaded(true);
     }
 
     m_emptyLabel->setText(emptyText(folder));
@@ -297,9 +325,7 @@ QString FolderExplorer::findMatching(const QString &folderName, const QString &b
     QStringList both;
     QStringList byName;
     QStringList byFolder;
-    forEachItem(m_tree, [&](const FolderItem *item) {
-        if (item->isFolder())
-            return;
+    forEachFile(m_tree, [&](const FolderItem *item) {
         const bool nameFits = same(item->name(), baseName);
         const bool folderFits = same(QFileInfo(item->path()).dir().dirName(), folderName);
         if (nameFits && folderFits)
@@ -358,6 +384,9 @@ void FolderExplorer::OnContextMenu(const QPoint &position)
 {
     // Current without being selected: the menu's target, not the user's choice.
     m_tree->setCurrentItem(m_tree->itemAt(position), 0, QItemSelectionModel::NoUpdate);
+    // Taken now: when the menu closes, the tree makes its first row current if none is.
+    const FolderItem *item = currentItem();
+    m_menuFolder = !item ? m_filledFolder : item->isFolder() ? item->path() : QFileInfo(item->path()).path();
     m_contextMenu->popup(m_tree->viewport()->mapToGlobal(position));
 }
 
@@ -374,11 +403,7 @@ void FolderExplorer::OnActionOpen()
 
 void FolderExplorer::OnActionOpenFolder()
 {
-    const FolderItem *item = currentItem();
-    const QString folder = !item              ? m_filledFolder
-                           : item->isFolder() ? item->path()
-                                              : QFileInfo(item->path()).path();
-    QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
+    QDesktopServices::openUrl(QUrl::fromLocalFile(m_menuFolder));
 }
 
 void FolderExplorer::OnActionCopyPath()
@@ -397,12 +422,12 @@ FolderItem *FolderExplorer::findItem(const QString &path) const
     if (path.isEmpty())
         return nullptr;
     const QString wanted = QDir::cleanPath(path);
-    FolderItem *found = nullptr;
-    forEachItem(m_tree, [&](FolderItem *item) {
+    for (QTreeWidgetItemIterator it(m_tree); *it; ++it) {
+        auto *item = static_cast<FolderItem *>(*it);
         if (!item->isFolder() && item->path() == wanted)
-            found = item;
-    });
-    return found;
+            return item;
+    }
+    return nullptr;
 }
 
 QString FolderExplorer::emptyText(const QString &folder) const

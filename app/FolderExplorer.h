@@ -25,6 +25,7 @@ class FolderExplorer : public QWidget
 public:
     /// Starts with the stored folder and switch; writes no setting. `kind` must outlive the explorer.
     explicit FolderExplorer(const DocumentKind &kind, QWidget *parent = nullptr);
+    ~FolderExplorer() override;
 
     const DocumentKind &kind() const { return m_kind; }
     QTreeWidget *tree() const { return m_tree; }
@@ -104,6 +105,7 @@ private:
     QAction *m_collapseAll;
     QAction *m_extraBefore; ///< where the context menu takes the owner's actions
     QString m_filledFolder;
+    QString m_menuFolder; ///< what the context menu was opened on, or in
     QString m_loadedPath;
     QString m_clickedPath; ///< what the mouse press at hand has chosen already
 };

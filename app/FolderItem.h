@@ -22,14 +22,15 @@ public:
     /// The full path of a file; empty for a folder.
     static constexpr int FilePathRole = Qt::UserRole;
 
-    /// `icons` must outlive the item.
-    FolderItem(QString path, QString name, bool folder, const FolderIcons *icons);
+    /// The name is a part of the path. `icons` must outlive the item.
+    FolderItem(QString path, int nameStart, int nameLength, bool folder, const FolderIcons *icons);
 
     QVariant data(int column, int role) const override;
 
     bool isFolder() const { return m_folder; }
     const QString &path() const { return m_path; }
-    const QString &name() const { return m_name; }
+    /// The last component of the path, of a file without the extension.
+    QString name() const;
     bool isLoaded() const { return m_loaded; }
     /// Marks the file that is open in the editor.
     void setLoaded(bool loaded);
@@ -39,8 +40,9 @@ public:
 
 private:
     QString m_path;
-    QString m_name;
     const FolderIcons *m_icons;
+    int m_nameStart;
+    int m_nameLength;
     bool m_folder;
     bool m_loaded = false;
     bool m_barren = false;

@@ -22,6 +22,8 @@ constexpr int GraspHeight = 24;
 /// nothing.
 constexpr int FrameWidth = 24;
 constexpr int FrameHeight = 72;
+/// Beyond any desktop, and far from the end of an int.
+constexpr int CoordinateLimit = 1 << 20;
 } // namespace
 
 WindowGeometry::WindowGeometry(QWidget *window)
@@ -47,9 +49,12 @@ void WindowGeometry::restore()
     }
 
     const QSize size = Settings::MainWindowSize.value();
-    const QSize wanted = size.isEmpty() ? m_window->size() : size;
+    const QSize wanted =
+        size.isEmpty() ? m_window->size() : size.boundedTo({CoordinateLimit, CoordinateLimit});
     const bool hasPosition = Settings::MainWindowPos.exists();
-    const QPoint position = hasPosition ? Settings::MainWindowPos.value() : m_window->pos();
+    const QPoint stored = hasPosition ? Settings::MainWindowPos.value() : m_window->pos();
+    const QPoint position(std::clamp(stored.x(), -CoordinateLimit, CoordinateLimit),
+                          std::clamp(stored.y(), -CoordinateLimit, CoordinateLimit));
     const QRect placed = onScreen({position, wanted}, screens);
     if (!size.isEmpty())
         m_window->resize(placed.size());

@@ -1,6 +1,11 @@
 # SPDX-FileCopyrightText: The Korvane developers
 # SPDX-License-Identifier: MIT
 
+# Fuzzing needs the coverage marks of libFuzzer in every room.
+if(KORVANE_FUZZ)
+    set(KORVANE_SANITIZE "fuzzer-no-link,address,undefined")
+endif()
+
 # Warnings, sanitizers and coverage for one of our own targets.
 function(korvane_target_options target)
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)

@@ -157,7 +157,7 @@ qint64 BinaryFileReader::readFile(uchar *to, qint64 bytes)
             break;
         got += chunk;
     }
-    m_unread = got == bytes ? m_unread - got : 0;
+    m_unread -= got;
     return got;
 }
 

@@ -50,15 +50,22 @@ private:
     template <typename T>
     void writeArray(const T *values, size_t count)
     {
-        // The part that still fits first: for a record that is nearly always all of it.
-        while (count * sizeof(T) > m_buffer.size() - m_used) {
-            const size_t part = (m_buffer.size() - m_used) / sizeof(T);
+        if (count * sizeof(T) <= m_buffer.size() - m_used)
+            append(values, count);
+        else
+            writeInParts(values, count);
+    }
+
+    template <typename T>
+    void writeInParts(const T *values, size_t count)
+    {
+        while (count > 0) {
+            makeRoom();
+            const size_t part = std::min(count, (m_buffer.size() - m_used) / sizeof(T));
             append(values, part);
             values += part;
             count -= part;
-            makeRoom();
         }
-        append(values, count);
     }
 
     template <typename T>

@@ -28,10 +28,8 @@ QString setTexture(QTextStream &words, const QString &path, MaterialTable &table
     QString samplerName;
     int textureUnit = 0;
     QString texturePath;
-    words >> samplerName >> textureUnit;
     // A unit that is no number is not consumed: it is then the path.
-    words.resetStatus();
-    words >> texturePath;
+    words >> samplerName >> textureUnit >> texturePath;
     if (current == table.end()) {
         return QStringLiteral(
                    ".kMat file read a texture path with no material set. The file may be invalid - %1")
@@ -47,11 +45,12 @@ QString readMaterials(QIODevice &text, const QString &path, MaterialTable &table
     lines.setCodec("UTF-8");
     auto current = table.end();
     QString line;
+    QString word;
+    QTextStream words;
     while (lines.readLineInto(&line)) {
         if (line.startsWith(QLatin1String("//")))
             continue;
-        QTextStream words(&line, QIODevice::ReadOnly);
-        QString word;
+        words.setString(&line, QIODevice::ReadOnly);
         for (words >> word; !word.isEmpty(); words >> word) {
             QString error;
             if (word == QLatin1String("material"))
@@ -60,7 +59,6 @@ QString readMaterials(QIODevice &text, const QString &path, MaterialTable &table
                 error = setTexture(words, path, table, current);
             if (!error.isEmpty())
                 return error;
-            words.resetStatus();
         }
     }
     return {};

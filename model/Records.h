@@ -105,6 +105,9 @@ struct ListRecord<List, Kind>
     using Model = ModelType;
     using Record = RecordType;
     static constexpr RecordKind kind = Kind;
+    /// Which of the indexes counts the list.
+    static constexpr size_t component = 0;
+    static std::vector<Record> *list(Model &model, const RecordIndex &) { return &(model.*List); }
     static Record *find(Model &model, const RecordIndex &index) { return element(model.*List, index[0]); }
 };
 
@@ -115,10 +118,17 @@ struct NestedRecord
     using Model = typename Owner::Model;
     using Record = typename std::decay_t<decltype(std::declval<typename Owner::Record>().*List)>::value_type;
     static constexpr RecordKind kind = Kind;
-    static Record *find(Model &model, const RecordIndex &index)
+    static constexpr size_t component = 1;
+    /// The list of the owner that `index` names; null when there is no such owner.
+    static std::vector<Record> *list(Model &model, const RecordIndex &index)
     {
         auto *owner = Owner::find(model, index);
-        return owner ? element(owner->*List, index[1]) : nullptr;
+        return owner ? &(owner->*List) : nullptr;
+    }
+    static Record *find(Model &model, const RecordIndex &index)
+    {
+        auto *records = list(model, index);
+        return records ? element(*records, index[1]) : nullptr;
     }
 };
 

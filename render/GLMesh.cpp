@@ -114,14 +114,14 @@ void GLMesh::setIndexes(const std::vector<std::vector<quint16>> &indexes)
     m_vertexArray.release();
 }
 
-void GLMesh::draw(const TexturedProgram &program)
+void GLMesh::draw(const TexturedProgram &program, GLenum mode)
 {
     m_vertexArray.bind();
     for (size_t i = 0; i < m_surfaces.size() && i < m_textures.size(); ++i) {
         m_gl.glUniform4f(program.colorHighlight, 0.0f, 0.0f, int(i) == selectedSurface ? SelectionBlue : 0.0f,
                          1.0f);
         m_gl.glBindTexture(GL_TEXTURE_2D, m_textures[i]->textureId());
-        drawIndexes(int(i), GL_TRIANGLES);
+        drawIndexes(int(i), mode);
     }
     m_vertexArray.release();
 }

@@ -43,7 +43,7 @@ public:
     bool hasSelectedSurface() const { return selectedSurface >= 0 && selectedSurface < surfaceCount(); }
 
     /// Draws all surfaces with `program`, which is bound and has its matrix set; tints the selected one.
-    void draw(const TexturedProgram &program);
+    void draw(const TexturedProgram &program, GLenum mode = GL_TRIANGLES);
     /// Draws the index list of a surface as triangles, lines or points over this mesh's vertices.
     void drawPlain(int surface, GLenum mode);
     /// The same over the vertices of whatever vertex array object is bound.

@@ -14,7 +14,7 @@
 
 namespace {
 // Sizes of markers at a distance of 1: they look equally big from everywhere.
-constexpr float SphereRadius = 0.06f;
+constexpr float SphereRadius = 0.022f;
 constexpr float QuadRadius = 0.014f;
 constexpr float NearestMarker = 5.12f; // the near plane: behind it nothing is seen
 /// The overlay is drawn this much nearer to the eye, in the same place on the screen, so that the surface it
@@ -130,12 +130,12 @@ void ScenePainter::beginTextured(TexturedProgram &textured, const SceneFrame &fr
     m_gl.glUniform1f(textured.tiling, 1.0f);
 }
 
-void ScenePainter::drawTextured(TexturedProgram &textured, GLMesh &mesh, const QMatrix4x4 &mvp)
+void ScenePainter::drawTextured(TexturedProgram &textured, GLMesh &mesh, const QMatrix4x4 &mvp, GLenum mode)
 {
     if (!textured.program.isLinked())
         return;
     m_gl.glUniformMatrix4fv(textured.mvpMatrix, 1, GL_FALSE, mvp.constData());
-    mesh.draw(textured);
+    mesh.draw(textured, mode);
 }
 
 void ScenePainter::paintGround(const SceneFrame &frame)
@@ -229,8 +229,8 @@ void ScenePainter::drawPosedSurface(int surface, GLenum mode)
     m_posedArray.release();
 }
 
-// The green sphere marks a bone, with its meridians as a cage around the joint. It would be lost inside the
-// model's body, so the depth is forgotten first.
+// The green sphere marks a bone. It would be lost inside the model's body, so the depth is forgotten first;
+// and its wires are thinner than a pixel at this size, so they are drawn as lines.
 void ScenePainter::paintBoneMarker(const SceneFrame &frame)
 {
     const BonePalette &palette = m_model->palette;
@@ -246,7 +246,7 @@ void ScenePainter::paintBoneMarker(const SceneFrame &frame)
     marker.translate(joint);
     marker.scale(SphereRadius * distanceOf(frame.view, m_modelMatrix.map(joint)) / radius);
     m_gl.glClear(GL_DEPTH_BUFFER_BIT);
-    drawTextured(m_programs.plain, m_wireSphere, frame.projection * frame.view * marker);
+    drawTextured(m_programs.plain, m_wireSphere, frame.projection * frame.view * marker, GL_LINES);
 }
 
 // The red square marks a point on a bone; it always faces the viewer.

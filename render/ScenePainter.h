@@ -68,7 +68,8 @@ public:
 
 private:
     void beginTextured(TexturedProgram &textured, const SceneFrame &frame);
-    void drawTextured(TexturedProgram &textured, GLMesh &mesh, const QMatrix4x4 &mvp);
+    void drawTextured(TexturedProgram &textured, GLMesh &mesh, const QMatrix4x4 &mvp,
+                      GLenum mode = GL_TRIANGLES);
     void paintGround(const SceneFrame &frame);
     void paintModel(const SceneFrame &frame);
     void uploadPalette();

@@ -53,10 +53,11 @@ scripts() {
 
 script_faults() { scripts | xargs -0 -r shellcheck; }
 
-# The headers that moc and uic write have to be there, everything else of the build is not needed.
+# The headers that moc and uic write have to be there. Their CMake targets would first build the libraries that
+# a target links; the command behind them does not.
 generated_headers() {
-    ninja -C "$build_dir" -t targets all | sed -n 's/^\([^:/]*_autogen\): phony$/\1/p' \
-        | xargs -r ninja -C "$build_dir" >"$build_dir/autogen.log" || {
+    find "$build_dir" -name AutogenInfo.json -print0 \
+        | xargs -0 -r -I '{}' -P "$(nproc)" cmake -E cmake_autogen '{}' Debug >"$build_dir/autogen.log" 2>&1 || {
         cat "$build_dir/autogen.log"
         return 1
     }
@@ -97,12 +98,13 @@ own_words() {
     files ':!LICENSE*' | search -nIiE "$words" | none 'The text has to stand by itself'
 }
 
+# Links to files; those with a scheme, and places within a page, are not looked at.
 links_resolve() {
     local page target
     while IFS= read -r -d '' page; do
         while read -r target; do
-            [[ -e $(dirname "$page")/$target ]] || printf '%s: %s\n' "$page" "$target"
-        done < <(grep -oE '\]\([^)#: ]+' "$page" | sed 's/^](//')
+            [[ $target == *:* || -e $(dirname "$page")/$target ]] || printf '%s: %s\n' "$page" "$target"
+        done < <(grep -oE '\]\([^)#]+' "$page" | sed 's/^](//')
     done < <(files '*.md') | none 'A link to nothing'
 }
 

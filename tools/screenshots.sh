@@ -4,7 +4,7 @@
 #
 # Pictures of the real program on a virtual screen that ./dev provides, large enough for the window's frame:
 #   screenshots.sh window PROGRAM PICTURE FILE...   the main window with these files open
-#   screenshots.sh all PROGRAM FOLDER               every picture of the documentation
+#   screenshots.sh all PROGRAM FOLDER SAMPLES       every picture of the documentation, of these sample folders
 # Each start has the settings home that XDG_CONFIG_HOME names.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -45,14 +45,20 @@ wait_for() {
     die "no window came up for the search $*"
 }
 
-# grab WINDOW PICTURE: waits until the window shows more than a bare background, then saves it.
+# grab WINDOW PICTURE: waits until the window shows more than a bare background, then saves its place on the
+# screen, with whatever lies above it.
 grab() {
-    local window=$1 picture=$2 colours
+    local window=$1 picture=$2 place
     mkdir -p "$(dirname "$picture")"
     for _ in {1..100}; do
-        import -window "$window" "$picture"
-        colours=$(identify -format '%k' "$picture")
-        if ((colours > 64)); then
+        place=$(xwininfo -id "$window" | awk '
+            /Absolute upper-left X:/ { x = $NF }
+            /Absolute upper-left Y:/ { y = $NF }
+            /Width:/ { width = $NF }
+            /Height:/ { height = $NF }
+            END { print width "x" height "+" x "+" y }')
+        import -window root -crop "$place" +repage "$picture"
+        if (($(identify -format '%k' "$picture") > 64)); then
             echo "$picture"
             return
         fi
@@ -87,40 +93,29 @@ quit() {
     wait "$korvane_pid" || true
 }
 
-# click X Y: in the coordinates of the main window.
-click() {
-    xdotool mousemove --sync --window "$main" "$1" "$2" click 1
-    sleep 0.5
-}
-
 press() {
     xdotool key --clearmodifiers "$@"
     sleep 0.5
 }
 
-sample() { find samples/game -name "$1" | sort | head -n 1; }
-
-# The places in the main window that the pictures below click.
-readonly static_mesh_tab=(230 115) edit_menu=(62 12)
+# The first file with this extension in the game folder of the samples.
+first() { find "$samples/game" -name "*.$1" | sort | head -n 1; }
 
 all_pictures() {
-    local folder=$1 skinned_mesh animation static_mesh options broken=build/broken.anim
-    skinned_mesh=$(sample '*.skinnedmesh')
-    animation=$(sample '*.anim')
-    static_mesh=$(sample '*.staticmesh')
+    local folder=$1 samples=$2 skinned_mesh animation static_mesh options broken=$2/mod/broken.anim
+    skinned_mesh=$(first skinnedmesh)
+    animation=$(first anim)
+    static_mesh=$(first staticmesh)
 
     korvane "$skinned_mesh" "$animation"
     grab "$main" "$folder/main.png"
-    click "${edit_menu[@]}"
-    press Up
-    press Return
+    press ctrl+comma
     options=$(wait_for --name '^Options$')
     grab "$options" "$folder/options.png"
     press Escape
     quit
 
     korvane "$static_mesh"
-    click "${static_mesh_tab[@]}"
     grab "$main" "$folder/static-mesh.png"
     quit
 
@@ -145,6 +140,6 @@ window)
     grab "$main" "$picture"
     quit
     ;;
-all) all_pictures "$1" ;;
+all) all_pictures "$@" ;;
 *) die "unknown verb '$verb'" ;;
 esac

@@ -9,17 +9,6 @@
 #include <charconv>
 #include <cmath>
 
-namespace {
-/// A finite value from a typed text; false when it is none.
-bool parse(QString text, float &value)
-{
-    text = text.trimmed().replace(QLatin1Char(','), QLatin1Char('.'));
-    bool ok = false;
-    value = text.toFloat(&ok);
-    return ok && std::isfinite(value);
-}
-} // namespace
-
 FloatSpinBox::FloatSpinBox(QWidget *parent)
     : QAbstractSpinBox(parent)
 {
@@ -42,6 +31,17 @@ QString FloatSpinBox::textOf(float value)
     const auto [end, error] = std::to_chars(buffer, buffer + sizeof buffer, value, format);
     Q_ASSERT(error == std::errc());
     return QString::fromLatin1(buffer, int(end - buffer));
+}
+
+bool FloatSpinBox::parse(const QString &text, float &value)
+{
+    // Not QString::toFloat(): it goes by way of a double, and refuses the largest floats' shortest texts.
+    QByteArray number = text.trimmed().toLatin1().replace(',', '.');
+    if (number.startsWith('+'))
+        number.remove(0, 1);
+    const char *end = number.constData() + number.size();
+    const auto [stop, error] = std::from_chars(number.constData(), end, value);
+    return error == std::errc() && stop == end && std::isfinite(value);
 }
 
 void FloatSpinBox::setValue(float value)

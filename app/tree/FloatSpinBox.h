@@ -26,7 +26,10 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+    /// The shortest text that parse() reads back as the same value.
     static QString textOf(float value);
+    /// A finite value from a text, correctly rounded; false when it is none.
+    static bool parse(const QString &text, float &value);
 
 signals:
     /// The user has entered another value, or stepped.

@@ -5,10 +5,16 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#ifdef __clang__
+// QSKIP() leaves its variable arguments out.
+#pragma clang diagnostic ignored "-Wgnu-zero-variadic-macro-arguments"
+#endif
 
 /// What several tests need: a settings home of their own, files read and written whole, the folder of real
 /// models.
@@ -46,6 +52,22 @@ inline QString shared(const QString &relativePath)
 inline QString source(const QString &relativePath)
 {
     return QStringLiteral(KORVANE_SOURCE_DIR "/") + relativePath;
+}
+
+/// Every file of one kind ("skinnedmesh", "anim", ...) among the real models and the samples, in a fixed
+/// order. Either folder may be missing.
+inline QStringList modelFiles(const QString &suffix)
+{
+    QStringList files;
+    for (const QString &folder : {shared(QStringLiteral("gamedata")), source(QStringLiteral("samples"))}) {
+        if (folder.isEmpty())
+            continue;
+        QDirIterator walk(folder, {QStringLiteral("*.") + suffix}, QDir::Files, QDirIterator::Subdirectories);
+        while (walk.hasNext())
+            files += walk.next();
+    }
+    files.sort();
+    return files;
 }
 } // namespace TestSupport
 

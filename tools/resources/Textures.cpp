@@ -8,11 +8,12 @@
 namespace {
 constexpr int GroundSize = 512;
 
-/// 1 on a line at every multiple of `spacing` texels, 0 from `halfWidth` + 1 texels beside it.
+/// 1 in the middle of a line at every multiple of `spacing` texels, falling to 0 over `halfWidth` + 0.5
+/// texels.
 double lineCoverage(int texel, int spacing, double halfWidth)
 {
     const double distance = std::abs((texel + spacing / 2) % spacing - spacing / 2 + 0.5);
-    return std::clamp(halfWidth + 0.5 - distance, 0.0, 1.0);
+    return std::clamp(1.5 * (halfWidth + 0.5 - distance) / (halfWidth + 0.5), 0.0, 1.0);
 }
 
 double gridCoverage(int x, int y, int spacing, double halfWidth)
@@ -42,8 +43,8 @@ QImage makeGroundTexture()
             int red = lightSquare ? 82 : 78;
             int green = lightSquare ? 91 : 87;
             int blue = lightSquare ? 102 : 98;
-            const double minor = 0.55 * gridCoverage(x, y, GroundSize / 4, 1.0);
-            const double major = gridCoverage(x, y, GroundSize, 2.5);
+            const double minor = 0.4 * gridCoverage(x, y, GroundSize / 4, 2.0);
+            const double major = 0.85 * gridCoverage(x, y, GroundSize, 4.0);
             red = mix(mix(red, 112, minor), 138, major);
             green = mix(mix(green, 123, minor), 151, major);
             blue = mix(mix(blue, 136, minor), 167, major);

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "LiteralFormat.h"
+#include "SampleModels.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace Fuzz {
+inline void require(bool holds, const char *what)
+{
+    if (holds)
+        return;
+    std::fprintf(stderr, "broken: %s\n", what);
+    std::abort();
+}
+
+/// Reads `data` as a file of the model's kind and checks that
+/// - the result and the message are those of the literal reading,
+/// - what was read is written, unless the model refuses, and reads back to the same bytes,
+/// - a file that could be whole (no bytes behind its end, no negative counts) is written as it was.
+template <typename Model>
+void checkModelFile(const QString &suffix, const uint8_t *data, size_t size)
+{
+    BinaryFileReader reader(data, qint64(size));
+    Model model;
+    const bool failed = model.read(reader);
+    const LiteralFormat literal(suffix,
+                                QByteArray::fromRawData(reinterpret_cast<const char *>(data), int(size)));
+    require(failed == literal.failed(), "the result of the literal reading");
+    require(reader.errorText() == literal.errorText(), "the message of the literal reading");
+    if (failed)
+        return;
+
+    const QByteArray written = SampleModels::bytesOf(model);
+    if (written.isEmpty())
+        return;
+    if (!literal.hasNegativeCount() && literal.length() == int(size)) {
+        require(written.size() == int(size) && std::memcmp(written.constData(), data, size) == 0,
+                "an unedited file is written as it was");
+    }
+    Model again;
+    require(!SampleModels::readBytes(again, written), "what was written can be read");
+    require(SampleModels::bytesOf(again) == written, "what was written reads back to the same");
+}
+} // namespace Fuzz

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "KMat.h"
+#include "SampleModels.h"
+
+#include <QDir>
+
+using namespace SampleModels;
+
+namespace {
+template <typename Model>
+bool seed(const QDir &folder, const char *target, const char *name, const Model &model)
+{
+    const QString path = folder.filePath(QLatin1String(target) + QLatin1Char('/') + QLatin1String(name));
+    return folder.mkpath(QLatin1String(target)) && !model.write(path);
+}
+
+SkinnedMesh withoutSurfaces()
+{
+    SkinnedMesh mesh;
+    mesh.nodes.resize(1);
+    return mesh;
+}
+} // namespace
+
+/// make_seeds <folder>: writes the first inputs of every fuzz target into its folder there.
+int main(int argc, char **argv)
+{
+    if (argc != 2)
+        return 1;
+    const QDir folder(QString::fromLocal8Bit(argv[1]));
+    AnimFile block;
+    block.blocks.resize(1);
+    StaticMesh surface;
+    surface.surfaces.resize(1);
+    const MaterialTable materials{{QStringLiteral("a"), QStringLiteral("textures/a.png")},
+                                  {QStringLiteral("b"), QString()}};
+    const bool written =
+        seed(folder, "fuzz_skinnedmesh", "everything", skinnedMesh()) &&
+        seed(folder, "fuzz_skinnedmesh", "no_surfaces", withoutSurfaces()) &&
+        seed(folder, "fuzz_anim", "everything", animFile()) &&
+        seed(folder, "fuzz_anim", "one_block", block) &&
+        seed(folder, "fuzz_staticmesh", "everything", staticMesh()) &&
+        seed(folder, "fuzz_staticmesh", "one_surface", surface) &&
+        folder.mkpath(QStringLiteral("fuzz_kmat")) &&
+        writeKMat(folder.filePath(QStringLiteral("fuzz_kmat/two_materials")), materials).isEmpty();
+    return written ? 0 : 1;
+}

@@ -1,0 +1,352 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "FolderExplorer.h"
+
+#include "TestSupport.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QTreeWidget>
+
+class tst_FolderExplorer : public QObject
+{
+    Q_OBJECT
+
+public slots:
+    void rememberUrl(const QUrl &url) { m_url = url; }
+
+private slots:
+    void init();
+    void cleanup()
+    {
+        QDir::setCurrent(m_home.path());
+        m_folder.reset();
+    }
+    void listsTheFolder();
+    void emptyStates();
+    void changeFolder();
+    void quickSelect();
+    void doubleClickAndEnter();
+    void refillKeepsTheView();
+    void selectsWithoutChoosing();
+    void rightClickOpensOnlyTheMenu();
+    void findMatching_data();
+    void findMatching();
+
+private:
+    void touch(const QString &relativePath) const
+    {
+        QVERIFY(QDir().mkpath(QFileInfo(path(relativePath)).path()));
+        QVERIFY(TestSupport::writeFile(path(relativePath), {}));
+    }
+    QString path(const QString &relativePath) const { return m_folder->filePath(relativePath); }
+    std::unique_ptr<FolderExplorer> createExplorer() const;
+    static QStringList rows(QTreeWidgetItem *parent);
+    static QTreeWidgetItem *find(const FolderExplorer &explorer, const QString &text)
+    {
+        return explorer.tree()->findItems(text, Qt::MatchExactly | Qt::MatchRecursive).value(0);
+    }
+    static QPoint center(QTreeWidgetItem *item) { return item->treeWidget()->visualItemRect(item).center(); }
+    static void click(QTreeWidgetItem *item)
+    {
+        QTest::mouseClick(item->treeWidget()->viewport(), Qt::LeftButton, {}, center(item));
+    }
+
+    QTemporaryDir m_home;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QUrl m_url;
+};
+
+void tst_FolderExplorer::init()
+{
+    TestSupport::useSettingsHome(m_home);
+    m_folder = std::make_unique<QTemporaryDir>();
+    Settings::SkinnedMeshExplorePath.setValue(m_folder->path());
+}
+
+std::unique_ptr<FolderExplorer> tst_FolderExplorer::createExplorer() const
+{
+    auto explorer = std::make_unique<FolderExplorer>(documentKind(DocumentType::SkinnedMesh));
+    explorer->resize(300, 400);
+    explorer->show();
+    QApplication::setActiveWindow(explorer.get());
+    explorer->setFocus();
+    return explorer;
+}
+
+/// Every row below `parent`, branches with a slash behind them, children indented.
+QStringList tst_FolderExplorer::rows(QTreeWidgetItem *parent)
+{
+    QStringList result;
+    for (int i = 0; i < parent->childCount(); ++i) {
+        QTreeWidgetItem *item = parent->child(i);
+        const bool branch = item->data(0, FolderItem::FilePathRole).toString().isEmpty();
+        result << item->text(0) + (branch ? "/" : "");
+        for (const QString &row : rows(item))
+            result << " " + row;
+    }
+    return result;
+}
+
+void tst_FolderExplorer::listsTheFolder()
+{
+    for (const char *file :
+         {"raptor/Raptor.v2.SkinnedMesh", "raptor/raptor.anim", "raptor/deep/er/tail.skinnedmesh",
+          "m10.skinnedmesh", "M2.skinnedmesh", "m1.skinnedmesh", ".skinnedmesh", "m.skinnedmesh",
+          "m02b.skinnedmesh", "z.skinnedmesh", "\u00e4z.skinnedmesh", "xskinnedmesh", "empty/readme.txt",
+          "a%1.skinnedmesh"})
+        touch(QString::fromUtf8(file));
+    QVERIFY(QFile::link(m_folder->path(), path("raptor/loop")));
+    QVERIFY(QFile::link(path("m1.skinnedmesh"), path("linked.skinnedmesh")));
+
+    const auto explorer = createExplorer();
+    QCOMPARE(rows(explorer->tree()->invisibleRootItem()),
+             QStringList({"empty/", "raptor/", " deep/", "  er/", "   tail", " Raptor.v2", "a%1", "\u00e4z",
+                          "linked", "m", "m1", "M2", "m02b", "m10", "z"}));
+    QCOMPARE(explorer->tree()->headerItem()->text(0), QFileInfo(m_folder->path()).fileName());
+    QCOMPARE(find(*explorer, "tail")->data(0, FolderItem::FilePathRole).toString(),
+             path("raptor/deep/er/tail.skinnedmesh"));
+    QVERIFY(QSettings().allKeys() == QStringList{Settings::SkinnedMeshExplorePath.name()});
+}
+
+void tst_FolderExplorer::emptyStates()
+{
+    const auto explorer = createExplorer();
+    const auto *label = explorer->findChild<QLabel *>("lblSkinnedMeshFolderEmpty");
+    QVERIFY(label->isVisible());
+    QVERIFY(label->text().contains(QLatin1String(".skinnedmesh")));
+
+    // The program's own folder has files, and an empty setting must not mean that one.
+    QDir::setCurrent(m_folder->path());
+    touch("here.skinnedmesh");
+    for (const QString &folder : {QString(), path("gone"), path("here.skinnedmesh")}) {
+        explorer->setFolder(folder);
+        QCOMPARE(explorer->tree()->topLevelItemCount(), 0);
+        QVERIFY(label->isVisible());
+        QVERIFY(folder.isEmpty() || label->text().contains(QDir::toNativeSeparators(folder)));
+    }
+    explorer->setFolder(m_folder->path());
+    QCOMPARE(explorer->tree()->topLevelItemCount(), 1);
+    QVERIFY(explorer->tree()->isVisible());
+    QVERIFY(!label->isVisible());
+}
+
+void tst_FolderExplorer::changeFolder()
+{
+    touch("sub/one.skinnedmesh");
+    const auto explorer = createExplorer();
+    QStringList asked;
+    QString answer;
+    explorer->setFolderChooser([&](QWidget *, const QString &title, const QString &start) {
+        asked << title << start;
+        return answer;
+    });
+    explorer->changeFolderAction()->trigger();
+    QCOMPARE(asked, QStringList({"Skinned Mesh Folder", m_folder->path()}));
+    QCOMPARE(Settings::SkinnedMeshExplorePath.value(), m_folder->path());
+
+    explorer->setFolder({});
+    answer = path("sub/");
+    QTest::mouseClick(explorer->findChild<QPushButton *>("btnSkinnedMeshChangeFolder"), Qt::LeftButton);
+    QCOMPARE(Settings::SkinnedMeshExplorePath.value(), path("sub"));
+    QCOMPARE(rows(explorer->tree()->invisibleRootItem()), QStringList("one"));
+}
+
+void tst_FolderExplorer::quickSelect()
+{
+    touch("dir/a.skinnedmesh");
+    touch("b.skinnedmesh");
+    const auto explorer = createExplorer();
+    QSignalSpy chosen(explorer.get(), &FolderExplorer::fileChosen);
+    QVERIFY(explorer->quickSelect());
+    QVERIFY(!Settings::SkinnedMeshQuickSelect.exists());
+
+    click(find(*explorer, "dir"));
+    QCOMPARE(chosen.count(), 0);
+    click(find(*explorer, "b"));
+    QTest::keyClick(explorer->tree(), Qt::Key_Up);
+    QCOMPARE(chosen, (QList<QVariantList>{{path("b.skinnedmesh")}, {path("dir/a.skinnedmesh")}}));
+
+    explorer->quickSelectAction()->trigger();
+    QVERIFY(Settings::SkinnedMeshQuickSelect.exists());
+    QVERIFY(!Settings::SkinnedMeshQuickSelect.value());
+    click(find(*explorer, "b"));
+    QCOMPARE(chosen.count(), 2);
+    explorer->setQuickSelect(true);
+    QVERIFY(explorer->quickSelectAction()->isChecked());
+    QVERIFY(Settings::SkinnedMeshQuickSelect.value());
+}
+
+void tst_FolderExplorer::doubleClickAndEnter()
+{
+    touch("dir/a.skinnedmesh");
+    touch("b.skinnedmesh");
+    const auto explorer = createExplorer();
+    QSignalSpy chosen(explorer.get(), &FolderExplorer::fileChosen);
+    const auto doubleClick = [](QTreeWidgetItem *item) {
+        click(item);
+        QTest::mouseDClick(item->treeWidget()->viewport(), Qt::LeftButton, {}, center(item));
+    };
+    // The owner loads what is chosen, and a double click that selects loads once.
+    connect(explorer.get(), &FolderExplorer::fileChosen, explorer.get(), &FolderExplorer::setLoadedPath);
+    doubleClick(find(*explorer, "b"));
+    QCOMPARE(chosen.count(), 1);
+    QVERIFY(find(*explorer, "b")->font(0).bold());
+
+    explorer->setQuickSelect(false);
+    doubleClick(find(*explorer, "a"));
+    QCOMPARE(chosen.count(), 2);
+    QVERIFY(!find(*explorer, "b")->font(0).bold());
+    explorer->tree()->setCurrentItem(find(*explorer, "b"));
+    QTest::keyClick(explorer->tree(), Qt::Key_Return);
+    QCOMPARE(chosen.count(), 3);
+    QCOMPARE(chosen.last().first().toString(), path("b.skinnedmesh"));
+
+    explorer->tree()->setCurrentItem(find(*explorer, "dir"));
+    QVERIFY(find(*explorer, "dir")->isExpanded());
+    QTest::keyClick(explorer->tree(), Qt::Key_Enter);
+    QVERIFY(!find(*explorer, "dir")->isExpanded());
+    QCOMPARE(chosen.count(), 3);
+}
+
+void tst_FolderExplorer::refillKeepsTheView()
+{
+    touch("open/a.skinnedmesh");
+    touch("shut/b.skinnedmesh");
+    const auto explorer = createExplorer();
+    QVERIFY(find(*explorer, "open")->isExpanded()); // a small folder shows all it has
+    find(*explorer, "shut")->setExpanded(false);
+    explorer->setLoadedPath(path("open/a.skinnedmesh"));
+    QVERIFY(explorer->selectPath(path("open/a.skinnedmesh")));
+
+    QSignalSpy chosen(explorer.get(), &FolderExplorer::fileChosen);
+    touch("open/new.skinnedmesh");
+    QTest::keyClick(explorer->tree(), Qt::Key_F5);
+    QCOMPARE(rows(explorer->tree()->invisibleRootItem()),
+             QStringList({"open/", " a", " new", "shut/", " b"}));
+    QVERIFY(find(*explorer, "open")->isExpanded());
+    QVERIFY(!find(*explorer, "shut")->isExpanded());
+    QVERIFY(find(*explorer, "a")->font(0).bold());
+    QCOMPARE(explorer->selectedPath(), path("open/a.skinnedmesh"));
+
+    QVERIFY(QFile::remove(path("open/a.skinnedmesh")));
+    explorer->refill();
+    QVERIFY(explorer->selectedPath().isEmpty());
+    QCOMPARE(chosen.count(), 0);
+}
+
+void tst_FolderExplorer::selectsWithoutChoosing()
+{
+    touch("dir/a.skinnedmesh");
+    const auto explorer = createExplorer();
+    QSignalSpy chosen(explorer.get(), &FolderExplorer::fileChosen);
+    explorer->tree()->collapseAll();
+    QVERIFY(explorer->selectPath(path("dir/../dir/a.skinnedmesh")));
+    QCOMPARE(explorer->selectedPath(), path("dir/a.skinnedmesh"));
+    QVERIFY(find(*explorer, "dir")->isExpanded());
+    QVERIFY(!explorer->selectPath(path("dir")));
+    QVERIFY(explorer->selectedPath().isEmpty());
+    QVERIFY(!explorer->selectPath({}));
+    QCOMPARE(chosen.count(), 0);
+}
+
+void tst_FolderExplorer::rightClickOpensOnlyTheMenu()
+{
+    touch("dir/a.skinnedmesh");
+    const auto explorer = createExplorer();
+    QAction extra("Extra");
+    explorer->addExtraAction(&extra);
+    QSignalSpy chosen(explorer.get(), &FolderExplorer::fileChosen);
+    auto *menu = explorer->findChild<QMenu *>("menuSkinnedMeshFolder");
+    const auto openMenu = [&](const QPoint &position) {
+        QTest::mouseClick(explorer->tree()->viewport(), Qt::RightButton, {}, position);
+        emit explorer->tree()->customContextMenuRequested(position);
+        return menu->isVisible();
+    };
+    const auto pick = [&](const char *text) {
+        for (QAction *action : menu->actions()) {
+            if (action->text().remove('&') == QLatin1String(text)) {
+                QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+                return;
+            }
+        }
+        QFAIL(text);
+    };
+
+    QVERIFY(openMenu(center(find(*explorer, "a"))));
+    QVERIFY(menu->actions().contains(&extra));
+    QCOMPARE(chosen.count(), 0);
+    pick("Open");
+    QCOMPARE(chosen, QList<QVariantList>{{path("dir/a.skinnedmesh")}});
+
+    QVERIFY(openMenu(center(find(*explorer, "dir"))));
+    pick("Copy Path");
+    QCOMPARE(QApplication::clipboard()->text(), QDir::toNativeSeparators(path("dir")));
+
+    QDesktopServices::setUrlHandler("file", this, "rememberUrl");
+    QVERIFY(openMenu(center(find(*explorer, "a"))));
+    pick("Open Containing Folder");
+    QCOMPARE(m_url, QUrl::fromLocalFile(path("dir")));
+    QVERIFY(openMenu({50, 350})); // below the last row: the listed folder itself
+    pick("Open Containing Folder");
+    QCOMPARE(m_url, QUrl::fromLocalFile(m_folder->path()));
+    QDesktopServices::unsetUrlHandler("file");
+
+    QVERIFY(openMenu({50, 350}));
+    pick("Collapse All");
+    QVERIFY(!find(*explorer, "dir")->isExpanded());
+}
+
+void tst_FolderExplorer::findMatching_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("baseName");
+    QTest::addColumn<QString>("match");
+    QTest::newRow("both names") << "Raptor"
+                                << "RAPTOR"
+                                << "anims/raptor/raptor.anim";
+    QTest::newRow("both names, others of that name elsewhere") << "b"
+                                                               << "same"
+                                                               << "b/same.anim";
+    QTest::newRow("only one of that name") << "nowhere"
+                                           << "unique"
+                                           << "b/unique.anim";
+    QTest::newRow("several of that name") << "nowhere"
+                                          << "same"
+                                          << "";
+    QTest::newRow("the folder's only file") << "single"
+                                            << "mesh"
+                                            << "single/walk.anim";
+    QTest::newRow("folder with several files") << "b"
+                                               << "mesh"
+                                               << "";
+    QTest::newRow("several folders of that name") << "twice"
+                                                  << "mesh"
+                                                  << "";
+    QTest::newRow("none") << "nowhere"
+                          << "nothing"
+                          << "";
+}
+
+void tst_FolderExplorer::findMatching()
+{
+    for (const char *file :
+         {"anims/raptor/raptor.anim", "anims/raptor/raptor_old.anim", "a/same.anim", "b/same.anim",
+          "b/unique.anim", "single/walk.anim", "x/twice/one.anim", "y/twice/two.anim", "b/mesh.skinnedmesh"})
+        touch(QLatin1String(file));
+    Settings::AnimationExplorePath.setValue(m_folder->path());
+    const FolderExplorer explorer(documentKind(DocumentType::Anim));
+    QFETCH(QString, folder);
+    QFETCH(QString, baseName);
+    QFETCH(QString, match);
+    QCOMPARE(explorer.findMatching(folder, baseName), match.isEmpty() ? QString() : path(match));
+}
+
+QTEST_MAIN(tst_FolderExplorer)
+#include "tst_folderexplorer.moc"

@@ -1,0 +1,193 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "OptionsDialog.h"
+
+#include "Settings.h"
+#include "TestSupport.h"
+
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+
+class tst_OptionsDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+    void init() { TestSupport::useSettingsHome(m_home); }
+    void showsDefaultsAndStoredValues();
+    void onlyAcceptingWrites();
+    void takesTextSetByTheProgram();
+    void browsing();
+    void chooserStartsAtNearestFolder();
+    void normalizesFolders_data();
+    void normalizesFolders();
+    void hintsAtMissingFolder();
+
+private:
+    template <typename T>
+    static T *child(const QWidget &dialog, const char *name)
+    {
+        return dialog.findChild<T *>(QLatin1String(name));
+    }
+    static void click(const QDialog &dialog, QDialogButtonBox::StandardButton button)
+    {
+        QTest::mouseClick(child<QDialogButtonBox>(dialog, "buttonBox")->button(button), Qt::LeftButton);
+    }
+
+    QTemporaryDir m_home;
+};
+
+void tst_OptionsDialog::showsDefaultsAndStoredValues()
+{
+    const char *boxes[] = {"cbUpdates", "cbHideMeshData", "cbHideAnimData", "cbAnimAutoPlay"};
+    {
+        const OptionsDialog dialog;
+        QCOMPARE(dialog.windowTitle(), QStringLiteral("Options"));
+        QVERIFY(child<QLineEdit>(dialog, "txtGamePath")->text().isEmpty());
+        QVERIFY(child<QLineEdit>(dialog, "txtT2Dir")->text().isEmpty());
+        for (const char *box : boxes)
+            QVERIFY2(child<QCheckBox>(dialog, box)->isChecked(), box);
+    }
+    QVERIFY(QSettings().allKeys().isEmpty());
+
+    Settings::GamePath.setValue(QStringLiteral("/game"));
+    Settings::OutputDir.setValue(QStringLiteral("/mod"));
+    for (const auto *key :
+         {&Settings::Updates, &Settings::HideMeshData, &Settings::HideAnimData, &Settings::AnimationAutoPlay})
+        key->setValue(false);
+    const OptionsDialog dialog;
+    QCOMPARE(child<QLineEdit>(dialog, "txtGamePath")->text(),
+             QDir::toNativeSeparators(QStringLiteral("/game")));
+    QCOMPARE(child<QLineEdit>(dialog, "txtT2Dir")->text(), QDir::toNativeSeparators(QStringLiteral("/mod")));
+    for (const char *box : boxes)
+        QVERIFY2(!child<QCheckBox>(dialog, box)->isChecked(), box);
+}
+
+void tst_OptionsDialog::onlyAcceptingWrites()
+{
+    for (const bool accept : {false, true}) {
+        OptionsDialog dialog;
+        dialog.show();
+        QTest::keyClicks(child<QLineEdit>(dialog, "txtGamePath"), QStringLiteral("/some/game/"));
+        QTest::keyClicks(child<QLineEdit>(dialog, "txtT2Dir"), QStringLiteral("/some/mod"));
+        for (const char *box : {"cbUpdates", "cbHideMeshData", "cbHideAnimData", "cbAnimAutoPlay"})
+            QTest::keyClick(child<QCheckBox>(dialog, box), Qt::Key_Space);
+        click(dialog, accept ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel);
+        QCOMPARE(dialog.result(), int(accept ? QDialog::Accepted : QDialog::Rejected));
+        QVERIFY(dialog.isHidden());
+        if (!accept)
+            QVERIFY(QSettings().allKeys().isEmpty());
+    }
+    QCOMPARE(Settings::GamePath.value(), QStringLiteral("/some/game"));
+    QCOMPARE(Settings::OutputDir.value(), QStringLiteral("/some/mod"));
+    for (const auto *key : {&Settings::Updates, &Settings::HideMeshData, &Settings::HideAnimData,
+                            &Settings::AnimationAutoPlay}) {
+        QVERIFY(key->exists());
+        QVERIFY(!key->value());
+    }
+}
+
+void tst_OptionsDialog::takesTextSetByTheProgram()
+{
+    OptionsDialog dialog;
+    child<QLineEdit>(dialog, "txtGamePath")->setText(QStringLiteral("/a"));
+    child<QLineEdit>(dialog, "txtT2Dir")->setText(QStringLiteral("/b"));
+    click(dialog, QDialogButtonBox::Ok);
+    QCOMPARE(Settings::GamePath.value(), QStringLiteral("/a"));
+    QCOMPARE(Settings::OutputDir.value(), QStringLiteral("/b"));
+}
+
+void tst_OptionsDialog::browsing()
+{
+    Settings::GamePath.setValue(QStringLiteral("/start"));
+    OptionsDialog dialog;
+    QStringList asked;
+    QString answer;
+    dialog.setFolderChooser([&](QWidget *, const QString &title, const QString &start) {
+        asked << title << start;
+        return answer;
+    });
+    auto *browseGame = child<QPushButton>(dialog, "btnGame");
+    auto *browseMod = child<QPushButton>(dialog, "btnT2DirBrowse");
+
+    QTest::mouseClick(browseGame, Qt::LeftButton);
+    QCOMPARE(asked, QStringList({"game.kpf unzipped folder", QDir::toNativeSeparators("/start")}));
+    answer = QStringLiteral("/mods/mine");
+    QTest::mouseClick(browseMod, Qt::LeftButton);
+    QCOMPARE(asked.mid(2), QStringList({"Turok 2(Your Mod) Folder", ""}));
+
+    click(dialog, QDialogButtonBox::Ok);
+    QCOMPARE(Settings::GamePath.value(), QStringLiteral("/start")); // the first question was cancelled
+    QCOMPARE(Settings::OutputDir.value(), answer);
+}
+
+void tst_OptionsDialog::chooserStartsAtNearestFolder()
+{
+    const QTemporaryDir folder;
+    QString title;
+    QString start;
+    QTimer::singleShot(0, [&] {
+        auto *chooser = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        title = chooser->windowTitle();
+        start = chooser->directory().path();
+        chooser->reject();
+    });
+    QVERIFY(chooseFolder(nullptr, QStringLiteral("A title"), folder.filePath("gone/deeper")).isEmpty());
+    QCOMPARE(title, QStringLiteral("A title"));
+    QCOMPARE(QFileInfo(start).canonicalFilePath(), QFileInfo(folder.path()).canonicalFilePath());
+}
+
+void tst_OptionsDialog::normalizesFolders_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("stored");
+    QTest::newRow("empty") << ""
+                           << "";
+    QTest::newRow("plain") << "/a/b"
+                           << "/a/b";
+    QTest::newRow("slash") << "/a/b/"
+                           << "/a/b";
+    QTest::newRow("backslash") << "/a/b\\"
+                               << "/a/b";
+    QTest::newRow("both") << "/a/b/\\"
+                          << "/a/b";
+    QTest::newRow("detour") << "/a//c/../b"
+                            << "/a/b";
+    QTest::newRow("root") << "/"
+                          << "/";
+}
+
+void tst_OptionsDialog::normalizesFolders()
+{
+    QFETCH(QString, typed);
+    QFETCH(QString, stored);
+    QCOMPARE(normalizedFolder(typed), stored);
+}
+
+void tst_OptionsDialog::hintsAtMissingFolder()
+{
+    OptionsDialog dialog;
+    dialog.show();
+    QApplication::setActiveWindow(&dialog);
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    auto *edit = child<QLineEdit>(dialog, "txtGamePath");
+    auto *hint = child<QLabel>(dialog, "lblGamePathHint");
+    QVERIFY(hint->isHidden()); // empty is not wrong
+    QTest::keyClicks(edit, m_home.filePath("gone"));
+    QVERIFY(hint->isHidden()); // nor is a path half typed
+    QTest::keyClick(edit, Qt::Key_Tab);
+    QVERIFY(hint->isVisible());
+    edit->setFocus();
+    edit->setText(m_home.path());
+    QTest::keyClick(edit, Qt::Key_Tab);
+    QVERIFY(hint->isHidden());
+}
+
+QTEST_MAIN(tst_OptionsDialog)
+#include "tst_optionsdialog.moc"

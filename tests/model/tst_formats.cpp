@@ -1,0 +1,301 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "LiteralFormat.h"
+#include "SampleModels.h"
+#include "TestSupport.h"
+
+using namespace SampleModels;
+
+namespace {
+// One record of each kind, byte for byte. 3f800000 is 1, 40000000 is 2, bf800000 is -1.
+const char *const SkinnedMeshBytes =
+    "02000000"                                          // version
+    "000080bf000080bf000080bf 0000803f0000803f00000040" // box
+    "01 02 fe"                                          // head track
+    "01000000"                                          // bones
+    "02000000 0100 ffff"                                // child bones
+    "000000000000000000000000 0000803f0000803f0000803f" // bone box
+    "05 b9 ff 00000040 ffffffff"                        // impact, symbol, parent, scale, flags
+    "0a000000"                                          //
+    "01000000"                                          // hot points
+    "0000803f00000040000080bf 03000000 0400 ffff 0040"  //
+    "0b000000"                                          //
+    "02000000"                                          // surfaces
+    "61e900 0000 0100 0200 ffff"                        //
+    "00 ffff"                                           // neither material nor triangles
+    "01000000"                                          // vertices
+    "0000803f00000040000080bf 00000040000080bf 000000000000803f00000000 0700";
+
+const char *const AnimBytes =
+    "01000000"
+    "01000000" // blocks
+    "ffffffff 02000000 01000000 01000000 01000000 01000000 01000000"
+    "0000803f 0100 0200 0300 00007041 0400"                     // scale, blends, speed 15, loop
+    "0500 0600"                                                 // tracks of the bone
+    "0000803f00000040000080bf 0000000000000000000000000000803f" // its initial pose
+    "0000803f 00000040"                                         // yaw offsets
+    "0000803f0000000000000000 000000400000000000000000"         // translations of two frames
+    "0000000000000000000000000000803f 0000803f000000000000000000000000"
+    "0100 0200 ffff 0000803f00000040000080bf" // action
+    "00008046 0000803f 00000000 00000000 00000000 00000000 00000000 000080bf";
+
+const char *const StaticMeshBytes =
+    "02000000"
+    "000080bf000080bf000080bf 0000803f0000803f00000040"
+    "01000000"                                              // surfaces
+    "5f776869746500 02000000 0000 0100 0200 0200 0100 ffff" // "_white", two triangles
+    "01000000"                                              // vertices
+    "0000803f00000040000080bf 00000040000080bf 000000000000803f00000000";
+
+QByteArray hex(const char *text)
+{
+    return QByteArray::fromHex(text);
+}
+
+/// Replaces the little-endian int32 at `offset`.
+QByteArray withInt32(QByteArray bytes, int offset, qint32 value)
+{
+    char raw[sizeof value];
+    qToLittleEndian<qint32>(value, raw);
+    return bytes.replace(offset, sizeof raw, raw, sizeof raw);
+}
+} // namespace
+
+/// What the records of the three kinds look like in a file, and the rules of reading and writing them.
+class TestFormats : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void skinnedMeshFields();
+    void animFields();
+    void staticMeshFields();
+    void samplesKeepEveryByte_data();
+    void samplesKeepEveryByte();
+    void negativeSurfaceCountOfSkinnedMesh();
+    void negativeCountsOfAnim();
+    void silentFailuresOfStaticMesh();
+    void nodeCountMismatch();
+    void emptyTracks();
+    void modelsThatAreNotSaved();
+    void staticIndexListsOfOddLength();
+};
+
+void TestFormats::skinnedMeshFields()
+{
+    SkinnedMesh mesh;
+    mesh.version = 2;
+    mesh.bbMin = {-1.0f, -1.0f, -1.0f};
+    mesh.bbMax = {1.0f, 1.0f, 2.0f};
+    mesh.headTrackStart = 1;
+    mesh.headTrackEnd = 2;
+    mesh.headTrackFactor = -2;
+    mesh.nodes = {{{1, 65535}, {0.0f, 0.0f, 0.0f}, {1.0f, 1.0f, 1.0f}, 5, -71, 255, 2.0f, -1}};
+    mesh.unknownA = 10;
+    mesh.hotPoints = {{{1.0f, 2.0f, -1.0f}, 3, 4, 0xFFFF, 16384}};
+    mesh.unknownB = 11;
+    mesh.surfaces = {{QStringLiteral("a\u00e9"), {0, 1, 2}}, {}};
+    mesh.vertices = {{{1.0f, 2.0f, -1.0f}, {2.0f, -1.0f}, {0.0f, 1.0f, 0.0f}, 7}};
+    QCOMPARE(bytesOf(mesh).toHex(), hex(SkinnedMeshBytes).toHex());
+    SkinnedMesh read;
+    QVERIFY(!readBytes(read, hex(SkinnedMeshBytes)));
+    QCOMPARE(bytesOf(read).toHex(), hex(SkinnedMeshBytes).toHex());
+}
+
+void TestFormats::animFields()
+{
+    AnimBlock block;
+    block.animId = -1;
+    block.frameScale = 1.0f;
+    block.blendLength = 1;
+    block.blendStart = 2;
+    block.blendEnd = 3;
+    block.speed = 15.0f;
+    block.loopFrame = 4;
+    block.nodes = {{{1.0f, 2.0f, -1.0f}, {0.0f, 0.0f, 0.0f, 1.0f}, 5, 6}};
+    block.frames = {{1.0f}, {2.0f}};
+    block.translations = TrackTable<QVector3D>(1, 2);
+    block.translations.at(0, 0) = {1.0f, 0.0f, 0.0f};
+    block.translations.at(0, 1) = {2.0f, 0.0f, 0.0f};
+    block.rotations = TrackTable<QVector4D>(1, 2);
+    block.rotations.at(0, 0) = {0.0f, 0.0f, 0.0f, 1.0f};
+    block.rotations.at(0, 1) = {1.0f, 0.0f, 0.0f, 0.0f};
+    block.actions = {{1, 2, 0xFFFF, {1.0f, 2.0f, -1.0f}, {16384.0f, 1.0f, 0, 0, 0, 0, 0, -1.0f}}};
+    AnimFile file;
+    file.version = 1;
+    file.blocks = {block};
+    QCOMPARE(bytesOf(file).toHex(), hex(AnimBytes).toHex());
+    AnimFile read;
+    QVERIFY(!readBytes(read, hex(AnimBytes)));
+    QCOMPARE(bytesOf(read).toHex(), hex(AnimBytes).toHex());
+}
+
+void TestFormats::staticMeshFields()
+{
+    StaticMesh mesh;
+    mesh.version = 2;
+    mesh.bbMin = {-1.0f, -1.0f, -1.0f};
+    mesh.bbMax = {1.0f, 1.0f, 2.0f};
+    mesh.surfaces = {{QStringLiteral("_white"), {0, 1, 2, 2, 1, 65535}}};
+    mesh.vertices = {{{1.0f, 2.0f, -1.0f}, {2.0f, -1.0f}, {0.0f, 1.0f, 0.0f}}};
+    QCOMPARE(bytesOf(mesh).toHex(), hex(StaticMeshBytes).toHex());
+    StaticMesh read;
+    QVERIFY(!readBytes(read, hex(StaticMeshBytes)));
+    QCOMPARE(bytesOf(read).toHex(), hex(StaticMeshBytes).toHex());
+}
+
+void TestFormats::samplesKeepEveryByte_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    for (const QString &suffix : suffixes())
+        QTest::newRow(qPrintable(suffix)) << bytesOfSample(suffix);
+}
+
+void TestFormats::samplesKeepEveryByte()
+{
+    QFETCH(QByteArray, bytes);
+    const QString suffix = QLatin1String(QTest::currentDataTag());
+    withModel(suffix, [&](auto model) {
+        QString error;
+        QVERIFY(!readBytes(model, bytes, &error));
+        QCOMPARE(error, QString());
+        QCOMPARE(bytesOf(model).toHex(), bytes.toHex());
+        const auto copy = model;
+        QCOMPARE(bytesOf(copy), bytes);
+
+        // Bytes behind the end are no failure and are dropped, also by a real file.
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("longer.") + suffix);
+        QVERIFY(TestSupport::writeFile(path, bytes + "trailing"));
+        decltype(model) longer;
+        QVERIFY(!longer.read(path));
+        QVERIFY(!longer.write(path));
+        QCOMPARE(TestSupport::readFile(path), bytes);
+
+        error = QStringLiteral("of an earlier file");
+        QVERIFY(decltype(model)().read(folder.filePath(QStringLiteral("missing")), &error));
+        QCOMPARE(error, QString());
+    });
+}
+
+void TestFormats::negativeSurfaceCountOfSkinnedMesh()
+{
+    SkinnedMesh mesh = skinnedMesh();
+    mesh.surfaces.clear();
+    const QByteArray empty = bytesOf(mesh); // ends with the surface count
+    SkinnedMesh read;
+    QVERIFY(!readBytes(read, empty));
+    QVERIFY(read.vertices.empty());
+    QCOMPARE(bytesOf(read), empty);
+
+    // Below zero there are no surfaces either, but the vertices follow.
+    const QByteArray vertex = hex("01000000") + QByteArray(34, '\2');
+    const QByteArray negative = withInt32(empty, empty.size() - 4, -1);
+    QVERIFY(!readBytes(read, negative + vertex));
+    QCOMPARE(read.vertices.size(), size_t(1));
+    QCOMPARE(bytesOf(read), empty);
+    QString error;
+    QVERIFY(readBytes(read, negative, &error));
+    QVERIFY2(error.contains(QLatin1String("int32")), qPrintable(error));
+}
+
+void TestFormats::negativeCountsOfAnim()
+{
+    const QByteArray header = hex("01000000 01000000 00000000");
+    const QByteArray counts = hex("ffffffff ffffffff ffffffff feffffff 00000080 ffffffff");
+    AnimFile file;
+    QVERIFY(!readBytes(file, header + counts + QByteArray(16, '\0')));
+    QCOMPARE(file.blocks.size(), size_t(1));
+    QCOMPARE(file.blocks[0].frameCount(), 0);
+    QCOMPARE(bytesOf(file), header + QByteArray(24 + 16, '\0'));
+}
+
+void TestFormats::silentFailuresOfStaticMesh()
+{
+    const QByteArray bytes = hex(StaticMeshBytes);
+    for (const LiteralFormat::Count &count : LiteralFormat(QStringLiteral("staticmesh"), bytes).counts()) {
+        for (qint32 value : {-1, std::numeric_limits<qint32>::min()}) {
+            StaticMesh mesh;
+            QString error = QStringLiteral("of an earlier file");
+            QVERIFY2(readBytes(mesh, withInt32(bytes, count.offset, value), &error), count.name);
+            QCOMPARE(error, QString());
+        }
+    }
+    // Three times these counts is negative, or small, in 32 bits.
+    for (qint32 value : {0x2AAAAAAB, 0x55555556, 0x7FFFFFFF}) {
+        StaticMesh mesh;
+        QString error;
+        QVERIFY(readBytes(mesh, withInt32(bytes, 28 + 4 + 7, value), &error));
+        QVERIFY2(error.contains(QLatin1String("uint16")), qPrintable(error));
+    }
+}
+
+void TestFormats::nodeCountMismatch()
+{
+    const QString mismatch =
+        QStringLiteral("nodeLength is different value than initialNodeLength. They should be the same.");
+    const QByteArray bytes = withInt32(hex(AnimBytes), 20, 6);
+    AnimFile file;
+    QString error;
+    QVERIFY(readBytes(file, bytes, &error));
+    QCOMPARE(error, mismatch);
+    // The counts are compared after the header is read: cut within it, the file ends there.
+    QVERIFY(readBytes(file, bytes.left(8 + 43), &error));
+    QVERIFY2(error.contains(QLatin1String("uint16")), qPrintable(error));
+    QVERIFY(readBytes(file, bytes.left(8 + 44), &error));
+    QCOMPARE(error, mismatch);
+}
+
+void TestFormats::emptyTracks()
+{
+    // Tracks without keys take no bytes: only their number can be hostile.
+    const auto fileWith = [](qint32 tracks) {
+        return withInt32(hex("01000000 01000000") + QByteArray(44, '\0'), 8 + 16, tracks);
+    };
+    AnimFile file;
+    QString error;
+    QVERIFY(!readBytes(file, fileWith(1000000), &error));
+    QCOMPARE(file.blocks[0].translations.trackCount(), 1000000);
+    QCOMPARE(bytesOf(file), fileWith(1000000));
+    QVERIFY(readBytes(file, fileWith(1000001), &error));
+    QCOMPARE(error, QStringLiteral("Attempting to read 1000001 tracks without frames."));
+}
+
+void TestFormats::modelsThatAreNotSaved()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("old"));
+    QVERIFY(TestSupport::writeFile(path, "old bytes"));
+
+    SkinnedMesh boneless = skinnedMesh();
+    boneless.nodes.clear();
+    QVERIFY(boneless.write(path));
+    // 65535 would end the index list early and shift everything behind it.
+    SkinnedMesh shifted = skinnedMesh();
+    shifted.surfaces[2].triangleIndexes = {0, 1, 65535};
+    QVERIFY(shifted.write(path));
+    AnimFile blockless = animFile();
+    blockless.blocks.clear();
+    QVERIFY(blockless.write(path));
+    StaticMesh surfaceless = staticMesh();
+    surfaceless.surfaces.clear();
+    QVERIFY(surfaceless.write(path));
+    QVERIFY(!readBytes(surfaceless, hex("02000000") + QByteArray(32, '\0')));
+
+    QCOMPARE(TestSupport::readFile(path), QByteArray("old bytes"));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+}
+
+void TestFormats::staticIndexListsOfOddLength()
+{
+    StaticMesh mesh;
+    QVERIFY(!readBytes(mesh, hex(StaticMeshBytes)));
+    mesh.surfaces[0].triangleIndexes.pop_back();
+    // One triangle is counted and all five indexes are written.
+    QByteArray expected = withInt32(hex(StaticMeshBytes), 28 + 4 + 7, 1);
+    expected.remove(28 + 4 + 7 + 4 + 10, 2);
+    QCOMPARE(bytesOf(mesh).toHex(), expected.toHex());
+}
+
+QTEST_GUILESS_MAIN(TestFormats)
+#include "tst_formats.moc"

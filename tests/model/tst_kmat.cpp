@@ -1,0 +1,167 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "KMat.h"
+#include "TestSupport.h"
+
+Q_DECLARE_METATYPE(MaterialTable)
+
+/// .kmat files: which words make a material and its texture, and the exact text written.
+class TestKMat : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void reads_data();
+    void reads();
+    void candidates();
+    void writesTheTemplate();
+    void readsBackWhatItWrote();
+
+private:
+    QTemporaryDir m_folder;
+};
+
+void TestKMat::reads_data()
+{
+    // %1 in an expected error stands for the path of the file.
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<MaterialTable>("table");
+    QTest::addColumn<QString>("error");
+    const auto good = [](const char *name, const QByteArray &text, const MaterialTable &table) {
+        QTest::newRow(name) << text << table << QString();
+    };
+    const auto bad = [](const char *name, const QByteArray &text, const char *error) {
+        QTest::newRow(name) << text << MaterialTable() << QString::fromUtf8(error);
+    };
+    const char *const twice =
+        ".kMat file has a material with the same name - %2. The file may be invalid - %1";
+    const char *const homeless =
+        ".kMat file read a texture path with no material set. The file may be invalid - %1";
+    const auto twiceNamed = [twice](const char *name) { return QByteArray(twice).replace("%2", name); };
+
+    good("empty file", "", {});
+    good("nested as usual", "material m {\n\tcull back\n\tsampler \"diffuse\" 0 \"t.png\" {\n\t}\n}\n",
+         {{"m", "t.png"}});
+    good("without a sampler", "material m\nmaterial n", {{"m", ""}, {"n", ""}});
+    good("all on one line", "material m { sampler \"diffuse\" 0 \"t.png\" { } } material n", //
+         {{"m", "t.png"}, {"n", ""}});
+    good("the last sampler wins", "material m\nsampler \"diffuse\" 0 a.png\nsampler \"normal\" 1 b.png",
+         {{"m", "b.png"}});
+    good("each to the current material", "material b\nsampler d 0 1.png\nmaterial a\nsampler d 0 2.png",
+         {{"a", "2.png"}, {"b", "1.png"}});
+
+    good("comments at the very start of a line",
+         "//material a\n// sampler d 0 x\nmaterial b //c\n///material d", {{"b", ""}});
+    good("other comments count", "material a // material b\n\t// material c",
+         {{"a", ""}, {"b", ""}, {"c", ""}});
+    good("bare words only", "sort material x\nparam \"material\" material{ Material sampler{ \"sampler\"",
+         {{"x", ""}});
+    good("a brace stays on its word", "material a{\nsampler \"d\"{ 0 t{", {{"a{", "t{"}});
+    good("quoted name", "material \"m\"", {{"\"m\"", ""}});
+    good("quotes go, blanks cut", "material m\nsampler \"d\" 0 \"te\"xt/a b.png\"", {{"m", "text/a"}});
+
+    good("the next word is on the same line", "material\nm\nsampler\nd 0 t.png", {{"", ""}});
+    bad("two materials without a name", "material\nmaterial\n", twiceNamed("").constData());
+    good("sampler cut off", "material m\nsampler d 0 t.png\nsampler d 0", {{"m", ""}});
+    good("unit that is no number", "material m\nsampler \"my diffuse\" 0 \"t.png\"", {{"m", "diffuse"}});
+    good("no unit", "material m\nsampler d t.png u.png", {{"m", "t.png"}});
+    good("unit with letters behind", "material m\nsampler d 0abc t.png", {{"m", "abc"}});
+    good("unit that is no integer", "material m\nsampler d 1.5 t.png", {{"m", ".5"}});
+    good("words behind a broken sampler", "material m\nsampler d x material n", {{"m", "x"}, {"n", ""}});
+
+    bad("same name twice", "material a\nmaterial b\nmaterial a", twiceNamed("a").constData());
+    bad("name with a place marker", "material %1\nmaterial %1", "NAMED%1");
+    bad("sampler before any material", "sampler d 0 t.png\nmaterial m", homeless);
+
+    good("UTF-8", "material \xc3\xa4\nsampler d 0 \"\xe3\x83\x86.png\"",
+         {{QString(QChar(0xE4)), QString(QChar(0x30C6)) + ".png"}});
+    good("byte order mark", "\xef\xbb\xbfmaterial m", {{"m", ""}});
+    good("carriage returns", "material a\r\nsampler d 0 t.png\r\nmate\rrial b\r\n",
+         {{"a", "t.png"}, {"b", ""}});
+    good("ordered by text", "material surf_2\nmaterial surf_10", {{"surf_10", ""}, {"surf_2", ""}});
+}
+
+void TestKMat::reads()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(MaterialTable, table);
+    QFETCH(QString, error);
+    const QString path = m_folder.filePath(QStringLiteral("%2 mat.kmat"));
+    QVERIFY(TestSupport::writeFile(path, text));
+    if (error == QLatin1String("NAMED%1")) {
+        error =
+            QLatin1String(".kMat file has a material with the same name - %1. The file may be invalid - ") +
+            path;
+    } else {
+        error.replace(QLatin1String("%1"), path);
+    }
+    MaterialTable read{{QStringLiteral("of an earlier file"), QString()}};
+    QCOMPARE(readKMat(path, read), error);
+    QVERIFY(read == table);
+}
+
+void TestKMat::candidates()
+{
+    const QString first = m_folder.filePath(QStringLiteral("first.kmat"));
+    const QString second = m_folder.filePath(QStringLiteral("second.kmat"));
+    QVERIFY(TestSupport::writeFile(second, "material second"));
+    MaterialTable table;
+    QCOMPARE(readKMat(QStringList{first, second}, table), QString());
+    QCOMPARE(table.count(QStringLiteral("second")), size_t(1));
+
+    // An invalid first file is not passed over.
+    QVERIFY(TestSupport::writeFile(first, "sampler d 0 t"));
+    QVERIFY(readKMat(QStringList{first, second}, table).endsWith(first));
+    QVERIFY(table.empty());
+
+    const QString missing = m_folder.filePath(QStringLiteral("missing.kmat"));
+    for (const QStringList &paths : {QStringList{missing}, QStringList{missing + "1", m_folder.path()}}) {
+        QCOMPARE(readKMat(paths, table), QStringLiteral("Unable to read .kMat file at %1").arg(paths.last()));
+    }
+}
+
+void TestKMat::writesTheTemplate()
+{
+    const QString path = m_folder.filePath(QStringLiteral("written.kmat"));
+    const auto entry = [](const QByteArray &name, const QByteArray &texture) {
+        return "material " + name +
+               " {\n"
+               "\tcull back\n"
+               "\tparam \"uLimitAlpha\" 0 \"0\"\n"
+               "\tparam \"uReflective\" 0 \"0\"\n"
+               "\tparam \"uPseduoColor\" 0 \"0\"\n"
+               "\tsort default\n"
+               "\tdepthtest\n"
+               "\tcolor_environment \"0.000000 0.000000 0.000000 1.000000\"\n"
+               "\tcolor_diffuse \"1.000000 1.000000 1.000000 1.000000\"\n"
+               "\tsampler \"diffuse\" 0 \"" +
+               texture +
+               "\" {\n"
+               "\t\tfilter      linear_anisotropic\n"
+               "\t\twrap        repeat\n"
+               "\t}\n"
+               "}\n"
+               "\n";
+    };
+    const MaterialTable table{{"surf_2", QString::fromUtf8("textures/\xc3\xa4.png")}, {"surf_10", "t"}};
+    QCOMPARE(writeKMat(path, table), QString());
+    QCOMPARE(TestSupport::readFile(path), entry("surf_10", "t") + entry("surf_2", "textures/\xc3\xa4.png"));
+    QCOMPARE(writeKMat(path, {}), QString());
+    QVERIFY(QFile::exists(path) && TestSupport::readFile(path).isEmpty());
+
+    const QString below = path + QStringLiteral("/below a file.kmat");
+    QCOMPARE(writeKMat(below, table), QStringLiteral("Unable to open file for writing - %1").arg(below));
+}
+
+void TestKMat::readsBackWhatItWrote()
+{
+    const QString path = m_folder.filePath(QStringLiteral("back.kmat"));
+    const MaterialTable table{{"a", "textures/a.png"}, {"b", ""}, {QString(QChar(0x30C6)), "x"}};
+    QCOMPARE(writeKMat(path, table), QString());
+    MaterialTable read;
+    QCOMPARE(readKMat(path, read), QString());
+    QVERIFY(read == table);
+}
+
+QTEST_GUILESS_MAIN(TestKMat)
+#include "tst_kmat.moc"

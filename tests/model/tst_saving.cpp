@@ -1,0 +1,189 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "KMat.h"
+#include "SampleModels.h"
+#include "TestSupport.h"
+
+#include <csignal>
+#include <sys/resource.h>
+#include <unistd.h>
+
+using namespace SampleModels;
+
+namespace {
+const QByteArray OldBytes = "the work of a week";
+
+/// A model of `suffix` ready to be saved, or a material table.
+using Save = std::function<bool(const QString &path)>;
+
+Save saverOf(const QString &suffix, bool large)
+{
+    if (suffix == QLatin1String("kmat")) {
+        MaterialTable table;
+        for (int i = 0; i < (large ? 3000 : 1); ++i)
+            table[QString::number(i)] = QStringLiteral("textures/t.png");
+        return [table](const QString &path) { return !writeKMat(path, table).isEmpty(); };
+    }
+    if (suffix == QLatin1String("anim")) {
+        AnimFile file = animFile();
+        file.blocks[0].setFrameCount(large ? 20000 : 3);
+        return [file](const QString &path) { return file.write(path); };
+    }
+    if (suffix == QLatin1String("skinnedmesh")) {
+        SkinnedMesh mesh = skinnedMesh();
+        mesh.vertices.resize(large ? 20000 : 2);
+        return [mesh](const QString &path) { return mesh.write(path); };
+    }
+    StaticMesh mesh = staticMesh();
+    mesh.vertices.resize(large ? 20000 : 3);
+    return [mesh](const QString &path) { return mesh.write(path); };
+}
+
+/// While this lives a file can grow to `bytes` bytes only, as on a disk that fills up.
+class FullDisk
+{
+public:
+    explicit FullDisk(qint64 bytes)
+    {
+        m_oldAction = std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_old);
+        const rlimit limit{rlim_t(bytes), m_old.rlim_max};
+        m_set = setrlimit(RLIMIT_FSIZE, &limit) == 0;
+    }
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_old);
+        std::signal(SIGXFSZ, m_oldAction);
+    }
+    bool isSet() const { return m_set; }
+
+private:
+    rlimit m_old{};
+    void (*m_oldAction)(int) = nullptr;
+    bool m_set = false;
+};
+} // namespace
+
+/// Saving that cannot succeed says so, leaves the old file byte for byte and nothing beside it.
+class TestSaving : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void fullDisk_data();
+    void fullDisk();
+    void readOnlyFolder_data();
+    void readOnlyFolder();
+    void vanishedFolder_data();
+    void vanishedFolder();
+
+private:
+    QString path() const { return m_folder->filePath(QStringLiteral("model")); }
+    bool oldFileIsIntact() const
+    {
+        return TestSupport::readFile(path()) == OldBytes &&
+               QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden) == QStringList("model");
+    }
+    static void kinds();
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void TestSaving::kinds()
+{
+    QTest::addColumn<QString>("suffix");
+    for (const QString &suffix : suffixes() + QStringList("kmat"))
+        QTest::newRow(qPrintable(suffix)) << suffix;
+}
+
+void TestSaving::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(TestSupport::writeFile(path(), OldBytes));
+}
+
+void TestSaving::fullDisk_data()
+{
+    kinds();
+}
+
+void TestSaving::fullDisk()
+{
+    QFETCH(QString, suffix);
+    // A small file goes out in one piece at the very end, a large one in several.
+    for (bool large : {false, true}) {
+        const Save save = saverOf(suffix, large);
+        const QString reference = m_folder->filePath(QStringLiteral("reference"));
+        QVERIFY(!save(reference));
+        const qint64 size = QFileInfo(reference).size();
+        QVERIFY(QFile::remove(reference));
+        QVERIFY(large ? size > 512 * 1024 : size < 4096);
+
+        const qint64 step = large ? size / 40 : 7;
+        for (qint64 limit = 0; limit < size; limit = limit + step < size ? limit + step : size - 1) {
+            bool failed = false;
+            {
+                const FullDisk disk(limit);
+                QVERIFY(disk.isSet());
+                failed = save(path());
+            }
+            QVERIFY2(failed, qPrintable(QString::number(limit)));
+            QVERIFY2(oldFileIsIntact(), qPrintable(QString::number(limit)));
+            if (limit == size - 1)
+                break;
+        }
+        const FullDisk justEnough(size);
+        QVERIFY(!save(m_folder->filePath(QStringLiteral("fits"))));
+        QVERIFY(QFile::remove(m_folder->filePath(QStringLiteral("fits"))));
+    }
+}
+
+void TestSaving::readOnlyFolder_data()
+{
+    kinds();
+}
+
+void TestSaving::readOnlyFolder()
+{
+    QFETCH(QString, suffix);
+    const Save save = saverOf(suffix, false);
+    // The file itself may be written: it is still not overwritten in place.
+    QFile::setPermissions(path(), QFile::Permissions(0x6666));
+    QFile::setPermissions(m_folder->path(), QFile::Permissions(0x5555));
+    // Root may write everywhere, so someone else does the saving.
+    const bool root = geteuid() == 0;
+    if (root && seteuid(65534) != 0)
+        QSKIP("runs as root and cannot be anybody else");
+    const bool writable = access(QFile::encodeName(m_folder->path()).constData(), W_OK) == 0 && !root;
+    const bool failed = save(path());
+    if (root)
+        QCOMPARE(seteuid(0), 0);
+    QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7777));
+    if (writable)
+        QSKIP("permissions do not hold here");
+    QVERIFY(failed);
+    QVERIFY(oldFileIsIntact());
+}
+
+void TestSaving::vanishedFolder_data()
+{
+    kinds();
+}
+
+void TestSaving::vanishedFolder()
+{
+    QFETCH(QString, suffix);
+    const Save save = saverOf(suffix, false);
+    QVERIFY(save(path() + QStringLiteral("/below a file")));
+    QVERIFY(save(QString()));
+    QVERIFY(oldFileIsIntact());
+    QVERIFY(save(m_folder->path()));
+    const QString gone = m_folder->path();
+    QVERIFY(m_folder->remove());
+    QVERIFY(save(path()));
+    QVERIFY(!QFile::exists(gone));
+}
+
+QTEST_GUILESS_MAIN(TestSaving)
+#include "tst_saving.moc"

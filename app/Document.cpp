@@ -6,6 +6,8 @@
 
 #include <QFileInfo>
 
+#include <utility>
+
 Document::Document(DocumentType type, RecordKind rootKind, QObject *parent)
     : QObject(parent)
     , m_type(type)
@@ -48,13 +50,19 @@ void Document::recordChanged(const RecordRef &record)
     m_changes.append(record);
 }
 
+void Document::structureChanged(const StructureChange &change)
+{
+    m_structureChanges.append(change);
+}
+
 void Document::flushChanges()
 {
-    if (m_changes.isEmpty())
-        return;
-    const QVector<RecordRef> changes = std::move(m_changes);
-    m_changes.clear();
-    emit recordsChanged(changes);
+    const auto structures = std::exchange(m_structureChanges, {});
+    const auto records = std::exchange(m_changes, {});
+    if (!structures.isEmpty())
+        emit structuresChanged(structures);
+    if (!records.isEmpty())
+        emit recordsChanged(records);
 }
 
 template <>

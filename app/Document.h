@@ -41,6 +41,9 @@ public:
     virtual QString recordText(const RecordRef &record) const = 0;
 
     void recordChanged(const RecordRef &record) override;
+    void structureChanged(const StructureChange &change) override;
+    /// Hands the changes noted so far to the screen. Undo steps do so by themselves when they are complete.
+    void flushChanges();
 
 signals:
     /// Another model is about to take the place of the current one: the one passage for every replacement.
@@ -48,6 +51,8 @@ signals:
     void replaced();
     /// The records that one undo step has changed, in the order of the changes.
     void recordsChanged(const QVector<RecordRef> &records);
+    /// Lists of which one undo step has changed, in the order of the changes; comes before recordsChanged().
+    void structuresChanged(const QVector<StructureChange> &changes);
 
 protected:
     /// Reads a new model beside the current one; returns true on failure.
@@ -57,14 +62,13 @@ protected:
     virtual bool writeModel(const QString &path) const = 0;
 
 private:
-    void flushChanges();
-
     const DocumentType m_type;
     const RecordKind m_rootKind;
     bool m_open = false;
     QString m_path;
     QUndoStack m_undoStack;
     QVector<RecordRef> m_changes;
+    QVector<StructureChange> m_structureChanges;
 };
 
 template <typename Model>

@@ -8,9 +8,12 @@
 #include "ControlsDialog.h"
 #include "DocumentFiles.h"
 #include "FolderExplorer.h"
+#include "ModelTransforms.h"
 #include "OptionsDialog.h"
 #include "Playback.h"
 #include "PropertyPages.h"
+#include "QuestionMenu.h"
+#include "StructureActions.h"
 #include "ViewPreferences.h"
 #include "ViewToolBar.h"
 #include "ViewportMarks.h"
@@ -32,6 +35,8 @@ MainWindow::MainWindow(QWidget *parent)
     , m_anim(DocumentType::Anim, RecordKind::AnimFile)
     , m_staticMesh(DocumentType::StaticMesh, RecordKind::StaticMesh)
     , m_files(new DocumentFiles({&m_skinnedMesh, &m_anim, &m_staticMesh}, this))
+    , m_transforms(new ModelTransforms(
+          m_skinnedMesh, m_staticMesh, [this] { return currentDocument(); }, this))
 {
     m_ui->setupUi(this);
     createConsole();
@@ -39,6 +44,9 @@ MainWindow::MainWindow(QWidget *parent)
     createViewToolBars();
     readSettings();
     createUndoActions();
+    new StructureActions({m_skinnedMesh, m_ui->treeSkinnedMesh}, {m_anim, m_ui->treeAnim},
+                         {m_staticMesh, m_ui->treeStaticMesh}, this);
+    new QuestionMenu(*m_ui->tabDatabase, this);
     createMenus();
     connectPlayback();
     auto *geometry = new WindowGeometry(this);
@@ -93,7 +101,7 @@ void MainWindow::createPanes()
                  m_ui->viewStatic,
                  {}}}};
     addPages(*m_ui->pagesSkinnedMesh, m_skinnedMesh, *m_ui->treeSkinnedMesh);
-    addPages(*m_ui->pagesAnim, m_anim, *m_ui->treeAnim);
+    addPages(*m_ui->pagesAnim, m_anim, *m_ui->treeAnim, m_skinnedMesh);
     addPages(*m_ui->pagesStaticMesh, m_staticMesh, *m_ui->treeStaticMesh);
     m_ui->viewSkinned->setSkinnedMeshMode(true);
 
@@ -107,6 +115,8 @@ void MainWindow::createPanes()
         connect(made.document, &Document::replaced, this, [this, type] { onReplaced(type); });
         connect(made.document, &Document::recordsChanged, this,
                 [this, type](const QVector<RecordRef> &records) { onRecordsChanged(type, records); });
+        connect(made.document, &Document::structuresChanged, this,
+                [this, type] { onRecordsChanged(type, {}); });
         connect(made.tree, &KVTreeView::currentRecordChanged, this,
                 [this, type](const RecordRef &record) { showInViewport(type, record); });
         // Queued: a question asked from within the selection's change would swallow the mouse's release.
@@ -114,6 +124,8 @@ void MainWindow::createPanes()
             made.explorer, &FolderExplorer::fileChosen, this,
             [this, type](const QString &path) { openFromExplorer(type, path); }, Qt::QueuedConnection);
     }
+    connect(m_ui->tabDatabase, &DatabaseTab::told, statusBar(),
+            [this](const QString &text) { statusBar()->showMessage(text, 5000); });
     connect(m_files, &DocumentFiles::saved, this, &MainWindow::updateCurrentDocument);
 
     pane(DocumentType::Anim).explorer->addExtraAction(m_ui->actionAnimSyncSkin);
@@ -158,25 +170,6 @@ void MainWindow::readSettings()
 
 void MainWindow::createUndoActions()
 {
-    // Each document's own pair stands in its tree's menu. It has no keys: three stacks with the same keys
-    // would be ambiguous. The keys belong to the pair that follows the current document.
-    for (const Pane &each : m_panes) {
-        QAction *undo = each.document->undoStack()->createUndoAction(this, tr("Undo"));
-        undo->setIcon(QIcon(QStringLiteral(":/Images/Icons/undo.png")));
-        QAction *redo = each.document->undoStack()->createRedoAction(this, tr("Redo"));
-        redo->setIcon(QIcon(QStringLiteral(":Images/Icons/redo.png")));
-        for (QAction *action : {undo, redo}) {
-            action->setShortcuts(QKeySequence::UnknownKey);
-            action->setShortcutContext(Qt::ApplicationShortcut);
-        }
-        connect(each.tree, &QWidget::customContextMenuRequested, this,
-                [tree = each.tree, undo, redo](const QPoint &position) {
-                    QMenu menu(tree);
-                    menu.addActions({undo, redo});
-                    menu.exec(tree->viewport()->mapToGlobal(position));
-                });
-    }
-
     QAction *undo = m_undoGroup.createUndoAction(this, tr("&Undo"));
     undo->setObjectName(QStringLiteral("actionUndo"));
     undo->setIcon(QIcon(QStringLiteral(":/Images/Icons/undo.png")));
@@ -191,27 +184,6 @@ void MainWindow::createUndoActions()
 
 void MainWindow::createMenus()
 {
-    const std::pair<QAction *, const char *> icons[] = {
-        {m_ui->actionOpen, "open"},
-        {m_ui->actionSave, "save"},
-        {m_ui->actionSaveAs, "saveas"},
-        {m_ui->actionSkinnedSaveAs, "filemesh"},
-        {m_ui->actionAnimSaveAs, "fileanim"},
-        {m_ui->actionSaveAll, "saveall"},
-        {m_ui->actionExit, "exit"},
-        {m_ui->actionGround, "ground"},
-        {m_ui->actionTransGizmo, "gizmo"},
-        {m_ui->actionCullBack, "cullback"},
-        {m_ui->actionResetCamera, "resetcamera"},
-        {m_ui->actionRefreshExplorers, "refresh"},
-        {m_ui->actionConsoleClear, "clear"},
-        {m_ui->actionPreferences, "preferences"},
-        {m_ui->actionAnimSyncSkin, "sync"},
-        {m_ui->actionControls, "keyboard"},
-        {m_ui->actionAbout, "about"},
-    };
-    for (const auto &[action, icon] : icons)
-        action->setIcon(QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(icon))));
     m_ui->menuView->addSeparator();
     m_ui->menuView->addActions({m_ui->toolBarFile->toggleViewAction(), m_ui->toolBarEdit->toggleViewAction(),
                                 m_ui->dockConsole->toggleViewAction()});
@@ -287,10 +259,16 @@ void MainWindow::openFiles(const QStringList &paths)
         showPane(first->type);
 }
 
+Document *MainWindow::currentDocument()
+{
+    const Pane *current = currentPane();
+    return current ? current->document : nullptr;
+}
+
 void MainWindow::updateCurrentDocument()
 {
     const Pane *current = currentPane();
-    Document *document = current ? current->document : nullptr;
+    Document *document = currentDocument();
     const bool isOpen = document && document->isOpen();
     m_undoGroup.setActiveStack(document ? document->undoStack() : nullptr);
     for (KVOpenGLWidget *viewport : viewports())
@@ -299,6 +277,8 @@ void MainWindow::updateCurrentDocument()
     m_ui->actionOpen->setEnabled(document);
     m_ui->actionSave->setEnabled(isOpen);
     m_ui->actionSaveAs->setEnabled(isOpen);
+    m_ui->actionRotate->setEnabled(isOpen && document != &m_anim);
+    m_ui->actionScale->setEnabled(m_ui->actionRotate->isEnabled());
     m_ui->actionSkinnedSaveAs->setEnabled(m_skinnedMesh.isOpen());
     m_ui->actionAnimSaveAs->setEnabled(m_anim.isOpen());
     m_ui->actionSaveAll->setEnabled(std::any_of(
@@ -449,6 +429,16 @@ void MainWindow::on_actionRefreshExplorers_triggered()
 {
     for (const Pane &each : m_panes)
         each.explorer->refill();
+}
+
+void MainWindow::on_actionRotate_triggered()
+{
+    m_transforms->showRotateDialog();
+}
+
+void MainWindow::on_actionScale_triggered()
+{
+    m_transforms->showScaleDialog();
 }
 
 void MainWindow::on_actionPreferences_triggered()

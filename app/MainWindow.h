@@ -15,6 +15,7 @@ class DocumentFiles;
 class FolderExplorer;
 class KVOpenGLWidget;
 class KVTreeView;
+class ModelTransforms;
 class PageStack;
 
 namespace Ui {
@@ -48,6 +49,8 @@ private slots:
     void on_actionResetCamera_triggered();
     void on_actionFullScreen_triggered(bool on);
     void on_actionRefreshExplorers_triggered();
+    void on_actionRotate_triggered();
+    void on_actionScale_triggered();
     void on_actionPreferences_triggered();
     void on_actionControls_triggered();
     void on_actionAbout_triggered();
@@ -84,6 +87,7 @@ private:
     Pane &pane(DocumentType type) { return m_panes[size_t(type)]; }
     std::array<KVOpenGLWidget *, 2> viewports() const;
     void showPane(DocumentType type);
+    Document *currentDocument();
     void updateCurrentDocument();
     void onReplaced(DocumentType type);
     void onRecordsChanged(DocumentType type, const QVector<RecordRef> &records);
@@ -98,5 +102,6 @@ private:
     StaticMeshDocument m_staticMesh;
     QUndoGroup m_undoGroup;
     DocumentFiles *m_files;
+    ModelTransforms *m_transforms;
     std::array<Pane, 3> m_panes{};
 };

@@ -105,6 +105,9 @@ struct ListRecord<List, Kind>
     using Model = ModelType;
     using Record = RecordType;
     static constexpr RecordKind kind = Kind;
+    /// Which of the indexes counts the list.
+    static constexpr size_t component = 0;
+    static std::vector<Record> *list(Model &model, const RecordIndex &) { return &(model.*List); }
     static Record *find(Model &model, const RecordIndex &index) { return element(model.*List, index[0]); }
 };
 
@@ -115,10 +118,32 @@ struct NestedRecord
     using Model = typename Owner::Model;
     using Record = typename std::decay_t<decltype(std::declval<typename Owner::Record>().*List)>::value_type;
     static constexpr RecordKind kind = Kind;
+    static constexpr size_t component = 1;
+    /// The list of the owner that `index` names; null when there is no such owner.
+    static std::vector<Record> *list(Model &model, const RecordIndex &index)
+    {
+        auto *owner = Owner::find(model, index);
+        return owner ? &(owner->*List) : nullptr;
+    }
+    static Record *find(Model &model, const RecordIndex &index)
+    {
+        auto *records = list(model, index);
+        return records ? element(*records, index[1]) : nullptr;
+    }
+};
+
+/// The keys of one of a block's track tables: block, track, frame.
+template <typename Owner, auto Table, RecordKind Kind>
+struct TrackKey
+{
+    using Model = typename Owner::Model;
+    using Record = std::decay_t<decltype((std::declval<typename Owner::Record>().*Table).at(0, 0))>;
+    static constexpr RecordKind kind = Kind;
     static Record *find(Model &model, const RecordIndex &index)
     {
         auto *owner = Owner::find(model, index);
-        return owner ? element(owner->*List, index[1]) : nullptr;
+        return owner && (owner->*Table).contains(index[1], index[2]) ? &(owner->*Table).at(index[1], index[2])
+                                                                     : nullptr;
     }
 };
 
@@ -135,6 +160,8 @@ using AnimFileRoot = Root<AnimFile, RecordKind::AnimFile>;
 using Block = ListRecord<&AnimFile::blocks, RecordKind::AnimBlock>;
 using BlockBone = NestedRecord<Block, &AnimBlock::nodes, RecordKind::AnimBone>;
 using BlockFrame = NestedRecord<Block, &AnimBlock::frames, RecordKind::AnimFrame>;
+using TranslationKey = TrackKey<Block, &AnimBlock::translations, RecordKind::TranslationKey>;
+using RotationKey = TrackKey<Block, &AnimBlock::rotations, RecordKind::RotationKey>;
 using BlockAction = NestedRecord<Block, &AnimBlock::actions, RecordKind::AnimAction>;
 
 using StaticMeshRoot = Root<StaticMesh, RecordKind::StaticMesh>;

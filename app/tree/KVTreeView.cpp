@@ -22,6 +22,25 @@ QSet<RecordRef> refsOf(const QList<QTreeWidgetItem *> &items)
         refs.insert(static_cast<const RecordItem *>(item)->record());
     return refs;
 }
+
+/// Renumbers the records that stand in the list, or below a record of the list, that a change is about.
+void shift(QVector<RecordRef> &records, const StructureChange &change)
+{
+    const auto component = size_t(recordRow(change.record.kind)->component);
+    const RecordIndex &at = change.record.index;
+    const auto isInList = [&](const RecordRef &record) {
+        return std::equal(at.begin(), at.begin() + component, record.index.begin()) &&
+               record.index[component] >= at[component];
+    };
+    const auto isTakenOut = [&](const RecordRef &record) {
+        return change.added < 0 && isInList(record) && record.index[component] == at[component];
+    };
+    records.erase(std::remove_if(records.begin(), records.end(), isTakenOut), records.end());
+    for (RecordRef &record : records) {
+        if (isInList(record))
+            record.index[component] += change.added;
+    }
+}
 } // namespace
 
 KVTreeView::KVTreeView(QWidget *parent)
@@ -43,6 +62,7 @@ void KVTreeView::setDocument(Document *document)
     m_document = document;
     connect(document, &Document::replaced, this, &KVTreeView::rebuild);
     connect(document, &Document::recordsChanged, this, &KVTreeView::onRecordsChanged);
+    connect(document, &Document::structuresChanged, this, &KVTreeView::onStructuresChanged);
 }
 
 void KVTreeView::rebuild()
@@ -52,11 +72,10 @@ void KVTreeView::rebuild()
         const QSignalBlocker blocker(this);
         clear();
         if (m_document->isOpen()) {
-            const bool hideData = m_document->rootKind() == RecordKind::AnimFile
-                                      ? Settings::HideAnimData.value()
-                                      : Settings::HideMeshData.value();
+            m_hideData = m_document->rootKind() == RecordKind::AnimFile ? Settings::HideAnimData.value()
+                                                                        : Settings::HideMeshData.value();
             auto *root = new RecordItem(m_document->rootKind(), {});
-            fillItem(root, hideData);
+            fillItem(root);
             addTopLevelItem(root);
             root->setExpanded(true);
             // Whatever modifier keys are down.
@@ -67,15 +86,15 @@ void KVTreeView::rebuild()
     notifyCurrent();
 }
 
-void KVTreeView::fillItem(RecordItem *item, bool hideData) const
+void KVTreeView::fillItem(RecordItem *item) const
 {
     const RecordRef owner = item->record();
     for (const RecordRow *row : childRows(owner.kind)) {
-        if (hideData && row->meshData)
+        if (m_hideData && row->meshData)
             continue;
         if (row->position != RecordRow::FromIndex) {
             auto *group = new RecordItem(row->kind, owner.index);
-            fillItem(group, hideData);
+            fillItem(group);
             item->addChild(group);
             continue;
         }
@@ -88,7 +107,7 @@ void KVTreeView::fillItem(RecordItem *item, bool hideData) const
             index[size_t(row->component)] = i;
             auto *child = new RecordItem(row->kind, index);
             if (!isLeaf)
-                fillItem(child, hideData);
+                fillItem(child);
             children.append(child);
         }
         item->addChildren(children);
@@ -184,6 +203,57 @@ void KVTreeView::onRecordsChanged(const QVector<RecordRef> &records)
         return std::tie(a.kind, a.index) < std::tie(b.kind, b.index);
     });
     selectRecords(sorted, records.last());
+}
+
+void KVTreeView::onStructuresChanged(const QVector<StructureChange> &changes)
+{
+    // Only what stands below the owners of the changed lists is made anew.
+    QVector<RecordRef> owners;
+    for (const StructureChange &change : changes) {
+        RecordRef owner = change.record;
+        if (change.added != 0) {
+            const RecordRow *row = recordRow(owner.kind);
+            owner.kind = row->parent;
+            owner.index[size_t(row->component)] = 0;
+        }
+        if (!owners.contains(owner))
+            owners.append(owner);
+    }
+    setUpdatesEnabled(false);
+    for (const RecordRef &owner : qAsConst(owners))
+        rebuildBelow(owner, changes);
+    setUpdatesEnabled(true);
+    selectRecords({changes.last().select}, changes.last().select);
+}
+
+void KVTreeView::rebuildBelow(const RecordRef &owner, const QVector<StructureChange> &changes)
+{
+    RecordItem *item = findItem(owner);
+    if (!item || item->record() != owner)
+        return;
+    const QSignalBlocker blocker(this);
+    QVector<RecordRef> expanded;
+    for (QTreeWidgetItemIterator it(item, QTreeWidgetItemIterator::HasChildren); *it; ++it) {
+        // The iterator goes on behind the last child.
+        const QTreeWidgetItem *ancestor = *it;
+        while (ancestor && ancestor != item)
+            ancestor = ancestor->parent();
+        if (!ancestor)
+            break;
+        if (*it != item && (*it)->isExpanded())
+            expanded.append(static_cast<RecordItem *>(*it)->record());
+    }
+    for (const StructureChange &change : changes) {
+        if (change.added != 0)
+            shift(expanded, change);
+    }
+    qDeleteAll(item->takeChildren());
+    fillItem(item);
+    for (const RecordRef &record : qAsConst(expanded)) {
+        RecordItem *open = findItem(record);
+        if (open->record() == record)
+            open->setExpanded(true);
+    }
 }
 
 void KVTreeView::notifyCurrent()

@@ -39,9 +39,12 @@ signals:
     void currentRecordChanged(const RecordRef &record);
 
 private:
-    void fillItem(RecordItem *item, bool hideData) const;
+    void fillItem(RecordItem *item) const;
     void onRecordsChanged(const QVector<RecordRef> &records);
+    void onStructuresChanged(const QVector<StructureChange> &changes);
+    void rebuildBelow(const RecordRef &owner, const QVector<StructureChange> &changes);
     void notifyCurrent();
 
     Document *m_document = nullptr;
+    bool m_hideData = true; ///< as it was when the tree was built
 };

@@ -1,21 +1,32 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 
-// Makes the textures, the marker sphere and the sound that are compiled into the program.
+// Makes the textures, the marker sphere, the sound and the reference tables that are compiled into the
+// program.
 #include "Chime.h"
 #include "MarkerSphere.h"
+#include "ReferenceTexts.h"
 #include "Textures.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTextStream>
 
+#include <algorithm>
+
 namespace {
-bool saveSound(const QString &path)
+bool saveBytes(const QString &path, const QByteArray &bytes)
 {
     QFile file(path);
-    const QByteArray bytes = makeChime();
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+bool saveReferenceTexts(const QDir &folder)
+{
+    return std::all_of(referenceKinds.begin(), referenceKinds.end(), [&folder](ReferenceKind kind) {
+        return saveBytes(folder.filePath(QStringLiteral("databases/%1.txt").arg(referenceName(kind))),
+                         makeReferenceText(kind));
+    });
 }
 } // namespace
 
@@ -26,7 +37,7 @@ int main(int argc, char **argv)
         return 2;
     }
     const QDir folder(QFile::decodeName(argv[1]));
-    for (const char *name : {"textures", "models", "sounds"}) {
+    for (const char *name : {"textures", "models", "sounds", "databases"}) {
         if (!folder.mkpath(QLatin1String(name)))
             return 1;
     }
@@ -36,7 +47,8 @@ int main(int argc, char **argv)
                        makePlainTexture(QColor(61, 124, 235)).save(folder.filePath("textures/blue.png")) &&
                        makeGroundTexture().save(folder.filePath("textures/ground.png")) &&
                        !makeMarkerSphere().write(folder.filePath("models/spherewire.staticmesh")) &&
-                       saveSound(folder.filePath("sounds/test.wav"));
+                       saveBytes(folder.filePath("sounds/test.wav"), makeChime()) &&
+                       saveReferenceTexts(folder);
     if (!saved)
         QTextStream(stderr) << "cannot write to " << folder.path() << '\n';
     return saved ? 0 : 1;

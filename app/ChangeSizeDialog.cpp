@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "ChangeSizeDialog.h"
+
+#include "ui_ChangeSizeDialog.h"
+
+#include <algorithm>
+
+ChangeSizeDialog::ChangeSizeDialog(const QString &title, int least, int current, QWidget *parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::ChangeSizeDialog>())
+{
+    m_ui->setupUi(this);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    setWindowTitle(title);
+    m_ui->lblSize->setText(title);
+    m_ui->sbSize->setRange(least, std::max(MostEntries, current));
+    m_ui->sbSize->setValue(current);
+    m_ui->sbSize->setToolTip(tr("%1 to %2").arg(least).arg(m_ui->sbSize->maximum()));
+    m_ui->sbSize->selectAll();
+    m_ui->sbSize->setFocus();
+}
+
+ChangeSizeDialog::~ChangeSizeDialog() = default;
+
+int ChangeSizeDialog::size() const
+{
+    return m_ui->sbSize->value();
+}

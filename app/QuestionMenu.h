@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QPoint>
+
+class DatabaseTab;
+class QMenu;
+
+/// The context menu of number fields whose value names something: "What Actor is this?" and the like.
+///
+/// It serves every spin box of the program that has the property "questions", a list of "actor",
+/// "animation", "sound", "voice", "particle", "impact" and "damage". The property is read when the menu
+/// opens, so it may change with what the field means.
+class QuestionMenu : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr const char *property = "questions";
+
+    /// `tables` answers; it outlives the menu.
+    QuestionMenu(const DatabaseTab &tables, QObject *parent);
+
+    /// The menu of an editor: its questions first, then what every spin box offers. Null, after an error in
+    /// the log, for an object that is no spin box. The caller owns it.
+    QMenu *createMenu(QObject *editor);
+
+    /// "64 damage" and what it does to each part of a body; `value` as stored, 256 times the damage.
+    static QString damageText(float value);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void ask(int question, QObject *editor) const;
+
+    const DatabaseTab &m_tables;
+};

@@ -1,0 +1,334 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "StructureActions.h"
+
+#include "ChangeSizeDialog.h"
+#include "KVTreeView.h"
+#include "RecordItem.h"
+#include "RecordTable.h"
+#include "StructureCommands.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMenu>
+
+namespace {
+QIcon icon(const char *name)
+{
+    return QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(name)));
+}
+
+void setExpandedBelow(QTreeWidgetItem *item, bool expanded)
+{
+    for (int i = 0; i < item->childCount(); ++i)
+        setExpandedBelow(item->child(i), expanded);
+    if (item->childCount() > 0)
+        item->setExpanded(expanded);
+}
+
+/// One bone for each of the mesh's, in the pose that the first block starts from, and one frame: as little as
+/// a block needs to play.
+AnimBlock newBlock(const AnimFile &file, const SkinnedMesh &mesh)
+{
+    AnimBlock block;
+    if (file.blocks.empty()) {
+        block.nodes.resize(mesh.nodes.size());
+    } else {
+        for (const AnimNode &node : file.blocks.front().nodes) {
+            AnimNode bone;
+            bone.initialPosition = node.initialPosition;
+            bone.initialRotation = node.initialRotation;
+            block.nodes.push_back(bone);
+        }
+    }
+    block.setFrameCount(1);
+    return block;
+}
+} // namespace
+
+const std::vector<StructureActions::Offer> &StructureActions::offers()
+{
+    using K = RecordKind;
+    using A = StructureActions;
+    // clang-format off
+    static const std::vector<Offer> all{
+        {K::HotPoints,    Add,        QT_TR_NOOP("Add Hot Point"),              &A::OnActionAddHotPoint},
+        {K::HotPoints,    Paste,      QT_TR_NOOP("Paste Hot Point"),            &A::OnActionPasteHotPoint},
+        {K::HotPoint,     Add,        QT_TR_NOOP("Add Hot Point"),              &A::OnActionAddHotPoint},
+        {K::HotPoint,     Remove,     QT_TR_NOOP("Remove Hot Point"),           &A::OnActionRemoveHotPoint},
+        {K::HotPoint,     Copy,       QT_TR_NOOP("Copy Hot Point"),             &A::OnActionCopyHotPoint},
+        {K::HotPoint,     Paste,      QT_TR_NOOP("Paste Hot Point"),            &A::OnActionPasteHotPoint},
+        {K::SkinnedMesh,  CopyFlags,  QT_TR_NOOP("Copy Bone Flags"),            &A::OnSkinMeshCopyBoneFlags},
+        {K::Bones,        CopyFlags,  QT_TR_NOOP("Copy Bone Flags"),            &A::OnSkinMeshCopyBoneFlags},
+        {K::Bone,         CopyFlags,  QT_TR_NOOP("Copy Bone Flags"),            &A::OnSkinMeshCopyBoneFlags},
+
+        {K::AnimFile,     Add,        QT_TR_NOOP("Add Animation"),              &A::OnActionAddAnimBlock},
+        {K::AnimFile,     Paste,      QT_TR_NOOP("Paste Animation"),            &A::OnActionPasteAnimBlock},
+        {K::AnimBlock,    Add,        QT_TR_NOOP("Add Animation"),              &A::OnActionAddAnimBlock},
+        {K::AnimBlock,    Remove,     QT_TR_NOOP("Remove Animation"),           &A::OnActionRemoveAnimBlock},
+        {K::AnimBlock,    Copy,       QT_TR_NOOP("Copy Animation"),             &A::OnActionCopyAnimBlock},
+        {K::AnimBlock,    Paste,      QT_TR_NOOP("Paste Animation"),            &A::OnActionPasteAnimBlock},
+        {K::AnimActions,  Add,        QT_TR_NOOP("Add Key Frame Action"),       &A::OnActionAddAnimAction},
+        {K::AnimAction,   Add,        QT_TR_NOOP("Add Key Frame Action"),       &A::OnActionAddAnimAction},
+        {K::AnimAction,   Remove,     QT_TR_NOOP("Remove Key Frame Action"),    &A::OnActionRemoveAnimAction},
+        {K::AnimFrames,   ChangeSize, QT_TR_NOOP("Change Frame Count…"),       &A::OnActionEditFrameCount},
+        {K::Translations, ChangeSize, QT_TR_NOOP("Change Translation Count…"), &A::OnActionEditTranslationCount},
+        {K::Rotations,    ChangeSize, QT_TR_NOOP("Change Rotation Count…"),    &A::OnActionEditRotationCount},
+    };
+    // clang-format on
+    return all;
+}
+
+const StructureActions::Offer *StructureActions::findOffer(RecordKind kind, Verb verb)
+{
+    for (const Offer &offer : offers()) {
+        if (offer.kind == kind && offer.verb == verb)
+            return &offer;
+    }
+    return nullptr;
+}
+
+StructureActions::StructureActions(Shown<SkinnedMeshDocument> skinnedMesh, Shown<AnimDocument> anim,
+                                   Shown<StaticMeshDocument> staticMesh, QWidget *window)
+    : QObject(window)
+    , m_skinnedMesh(skinnedMesh)
+    , m_anim(anim)
+    , m_window(window)
+    , m_menus{createMenu(skinnedMesh.document, skinnedMesh.tree), createMenu(anim.document, anim.tree),
+              createMenu(staticMesh.document, staticMesh.tree)}
+{
+    connect(skinnedMesh.tree, &QWidget::customContextMenuRequested, this,
+            &StructureActions::OnCustomContextMenu);
+    connect(anim.tree, &QWidget::customContextMenuRequested, this,
+            &StructureActions::OnAnimCustomContextMenu);
+    connect(staticMesh.tree, &QWidget::customContextMenuRequested, this,
+            &StructureActions::OnStaticMeshCustomContextMenu);
+    for (const TreeMenu &menu : m_menus) {
+        connect(menu.tree, &KVTreeView::currentRecordChanged, this, [this, &menu] { updateMenu(menu); });
+        updateMenu(menu);
+    }
+}
+
+// --- Menus -------------------------------------------------------------------------------------------------
+
+StructureActions::TreeMenu StructureActions::createMenu(Document &document, KVTreeView *tree)
+{
+    TreeMenu made;
+    made.tree = tree;
+    made.menu = new QMenu(tree);
+    const std::tuple<const char *, QKeySequence> looks[VerbCount] = {{"add", Qt::Key_Insert},
+                                                                     {"remove", QKeySequence::Delete},
+                                                                     {"copy", QKeySequence::Copy},
+                                                                     {"paste", QKeySequence::Paste},
+                                                                     {"frames", {}},
+                                                                     {"copy", {}}};
+    for (const Verb verb : {Add, Remove, Copy, Paste, ChangeSize, CopyFlags}) {
+        const auto &[iconName, keys] = looks[verb];
+        QAction *action = made.menu->addAction(icon(iconName), QString());
+        action->setShortcut(keys);
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        tree->addAction(action);
+        connect(action, &QAction::triggered, this, [this, tree, verb] {
+            if (const Offer *offer = findOffer(tree->currentRecord().kind, verb))
+                (this->*offer->slot)();
+        });
+        made.verbs[verb] = action;
+    }
+
+    made.menu->addSeparator();
+    const auto addBranchAction = [&made, tree](const char *iconName, const QString &text, bool expanded) {
+        QAction *action = made.menu->addAction(icon(iconName), text);
+        QObject::connect(action, &QAction::triggered, tree, [tree, expanded] {
+            tree->setUpdatesEnabled(false);
+            if (QTreeWidgetItem *item = tree->currentItem())
+                setExpandedBelow(item, expanded);
+            tree->setUpdatesEnabled(true);
+        });
+        return action;
+    };
+    made.expand = addBranchAction("expand", tr("&Expand All Below"), true);
+    made.collapse = addBranchAction("collapse", tr("&Collapse All Below"), false);
+
+    // Each document's own pair. It has no keys: three stacks with the same keys would be ambiguous. The keys
+    // belong to the pair that follows the current document.
+    made.menu->addSeparator();
+    QAction *undo = document.undoStack()->createUndoAction(made.menu, tr("Undo"));
+    undo->setIcon(icon("undo"));
+    QAction *redo = document.undoStack()->createRedoAction(made.menu, tr("Redo"));
+    redo->setIcon(QIcon(QStringLiteral(":Images/Icons/redo.png")));
+    for (QAction *action : {undo, redo}) {
+        action->setShortcuts(QKeySequence::UnknownKey);
+        action->setShortcutContext(Qt::ApplicationShortcut);
+    }
+    made.menu->addActions({undo, redo});
+    return made;
+}
+
+void StructureActions::updateMenu(const TreeMenu &menu) const
+{
+    const RecordKind kind = menu.tree->currentRecord().kind;
+    const bool canPaste = menu.tree == m_anim.tree ? m_copiedBlock.has_value() : m_copiedHotPoint.has_value();
+    for (const Verb verb : {Add, Remove, Copy, Paste, ChangeSize, CopyFlags}) {
+        QAction *action = menu.verbs[verb];
+        const Offer *offer = findOffer(kind, verb);
+        action->setVisible(offer);
+        action->setEnabled(offer && (verb != Paste || canPaste));
+        action->setText(offer ? tr(offer->text) : QString());
+    }
+    const QTreeWidgetItem *item = menu.tree->currentItem();
+    for (QAction *action : {menu.expand, menu.collapse})
+        action->setVisible(item && item->childCount() > 0);
+}
+
+void StructureActions::popUp(const TreeMenu &menu, const QPoint &position)
+{
+    updateMenu(menu);
+    menu.menu->popup(menu.tree->viewport()->mapToGlobal(position));
+}
+
+void StructureActions::OnCustomContextMenu(const QPoint &position)
+{
+    popUp(m_menus[0], position);
+}
+
+void StructureActions::OnAnimCustomContextMenu(const QPoint &position)
+{
+    popUp(m_menus[1], position);
+}
+
+void StructureActions::OnStaticMeshCustomContextMenu(const QPoint &position)
+{
+    popUp(m_menus[2], position);
+}
+
+// --- Lists of records --------------------------------------------------------------------------------------
+
+/// Behind the current record, or first when its group is current.
+template <typename Command, typename DocumentType>
+void StructureActions::insert(const Shown<DocumentType> &shown, RecordKind group,
+                              typename Command::Record record)
+{
+    using Place = typename Command::Place;
+    const RecordRef current = shown.tree->currentRecord();
+    RecordIndex index = current.index;
+    if (current.kind == Place::kind)
+        ++index[Place::component];
+    else if (current.kind != group)
+        return;
+    shown.document.undoStack()->push(new Command(shown.document.editTarget(), index, std::move(record)));
+}
+
+template <typename Command, typename DocumentType>
+void StructureActions::remove(const Shown<DocumentType> &shown)
+{
+    const RecordRef current = shown.tree->currentRecord();
+    if (current.kind == Command::Place::kind)
+        shown.document.undoStack()->push(new Command(shown.document.editTarget(), current.index));
+}
+
+void StructureActions::OnActionAddHotPoint()
+{
+    insert<UC_SkinnedMeshAddHotPoint>(m_skinnedMesh, RecordKind::HotPoints, {});
+}
+
+void StructureActions::OnActionRemoveHotPoint()
+{
+    remove<UC_SkinnedMeshRemoveHotPoint>(m_skinnedMesh);
+}
+
+void StructureActions::OnActionCopyHotPoint()
+{
+    const RecordRef current = m_skinnedMesh.tree->currentRecord();
+    if (current.kind != RecordKind::HotPoint)
+        return;
+    m_copiedHotPoint = *Records::HotPoint::find(m_skinnedMesh.document.model(), current.index);
+    updateMenu(m_menus[0]);
+}
+
+void StructureActions::OnActionPasteHotPoint()
+{
+    if (m_copiedHotPoint)
+        insert<UC_SkinnedMeshPasteHotPoint>(m_skinnedMesh, RecordKind::HotPoints, *m_copiedHotPoint);
+}
+
+void StructureActions::OnActionAddAnimBlock()
+{
+    insert<UC_AnimBlockAdd>(m_anim, RecordKind::AnimFile,
+                            newBlock(m_anim.document.model(), m_skinnedMesh.document.model()));
+}
+
+void StructureActions::OnActionRemoveAnimBlock()
+{
+    remove<UC_AnimBlockRemove>(m_anim);
+}
+
+void StructureActions::OnActionCopyAnimBlock()
+{
+    const RecordRef current = m_anim.tree->currentRecord();
+    if (current.kind != RecordKind::AnimBlock)
+        return;
+    m_copiedBlock = *Records::Block::find(m_anim.document.model(), current.index);
+    updateMenu(m_menus[1]);
+}
+
+void StructureActions::OnActionPasteAnimBlock()
+{
+    if (m_copiedBlock)
+        insert<UC_AnimBlockPaste>(m_anim, RecordKind::AnimFile, *m_copiedBlock);
+}
+
+void StructureActions::OnActionAddAnimAction()
+{
+    insert<UC_AnimAddAction>(m_anim, RecordKind::AnimActions, {});
+}
+
+void StructureActions::OnActionRemoveAnimAction()
+{
+    remove<UC_AnimRemoveAction>(m_anim);
+}
+
+// --- Lengths of tables -------------------------------------------------------------------------------------
+
+void StructureActions::OnActionEditFrameCount()
+{
+    editCount(RecordKind::AnimFrames, tr("Frame Count"), 1, &AnimBlock::setFrameCount);
+}
+
+void StructureActions::OnActionEditTranslationCount()
+{
+    editCount(RecordKind::Translations, tr("Translation Count"), 0, &AnimBlock::setTranslationCount);
+}
+
+void StructureActions::OnActionEditRotationCount()
+{
+    editCount(RecordKind::Rotations, tr("Rotation Count"), 0, &AnimBlock::setRotationCount);
+}
+
+void StructureActions::editCount(RecordKind group, const QString &title, int least,
+                                 void (AnimBlock::*resize)(int))
+{
+    const RecordRef current = m_anim.tree->currentRecord();
+    if (current.kind != group)
+        return;
+    const int count = m_anim.document.recordCount(recordRow(group)->counted, current.index);
+    ChangeSizeDialog dialog(title, least, count, m_window);
+    if (dialog.exec() != QDialog::Accepted || dialog.size() == count)
+        return;
+    // Not an undo step, on purpose. Commands on the stack leave records alone that are gone.
+    AnimBlock *block = Records::Block::find(m_anim.document.model(), current.index);
+    (block->*resize)(dialog.size());
+    m_anim.document.structureChanged({{RecordKind::AnimBlock, current.index}, 0, current});
+    m_anim.document.flushChanges();
+    m_anim.tree->findItem(current)->setExpanded(true);
+}
+
+void StructureActions::OnSkinMeshCopyBoneFlags()
+{
+    if (!m_skinnedMesh.document.isOpen())
+        return;
+    QString text;
+    int index = 0;
+    for (const SkinnedMeshNode &bone : m_skinnedMesh.document.model().nodes)
+        text += QStringLiteral("BoneSFlags_%1 %2\n").arg(index++).arg(int(bone.symbolFlags));
+    QApplication::clipboard()->setText(text);
+}

@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Document.h"
+
+#include <array>
+#include <optional>
+
+class KVTreeView;
+class QAction;
+class QMenu;
+class QWidget;
+
+/// What the context menus of the trees offer: adding, removing, copying and pasting records, changing the
+/// lengths of an animation block's tables, opening and closing branches, undo and redo.
+///
+/// Everything acts on the current record of its tree; where that is not of a fitting kind, nothing happens.
+class StructureActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// A document and the tree that shows it; both outlive the actions.
+    template <typename DocumentType>
+    struct Shown
+    {
+        DocumentType &document;
+        KVTreeView *tree;
+    };
+
+    /// Dialogs stand on `window`.
+    StructureActions(Shown<SkinnedMeshDocument> skinnedMesh, Shown<AnimDocument> anim,
+                     Shown<StaticMeshDocument> staticMesh, QWidget *window);
+
+public slots:
+    void OnActionAddHotPoint();
+    void OnActionRemoveHotPoint();
+    void OnActionCopyHotPoint();
+    void OnActionPasteHotPoint();
+    void OnSkinMeshCopyBoneFlags();
+
+    void OnActionAddAnimBlock();
+    void OnActionRemoveAnimBlock();
+    void OnActionCopyAnimBlock();
+    void OnActionPasteAnimBlock();
+    void OnActionAddAnimAction();
+    void OnActionRemoveAnimAction();
+    void OnActionEditFrameCount();
+    void OnActionEditTranslationCount();
+    void OnActionEditRotationCount();
+
+    void OnCustomContextMenu(const QPoint &position);
+    void OnAnimCustomContextMenu(const QPoint &position);
+    void OnStaticMeshCustomContextMenu(const QPoint &position);
+
+private:
+    enum Verb { Add, Remove, Copy, Paste, ChangeSize, CopyFlags, VerbCount };
+    /// What a kind of record offers for a verb, and who does it.
+    struct Offer
+    {
+        RecordKind kind;
+        Verb verb;
+        const char *text;
+        void (StructureActions::*slot)();
+    };
+    /// The actions of one tree. A verb is one action whatever it applies to, so that no key has two owners.
+    struct TreeMenu
+    {
+        KVTreeView *tree = nullptr;
+        QMenu *menu = nullptr;
+        std::array<QAction *, VerbCount> verbs{};
+        QAction *expand = nullptr;
+        QAction *collapse = nullptr;
+    };
+
+    static const std::vector<Offer> &offers();
+    static const Offer *findOffer(RecordKind kind, Verb verb);
+    TreeMenu createMenu(Document &document, KVTreeView *tree);
+    void updateMenu(const TreeMenu &menu) const;
+    void popUp(const TreeMenu &menu, const QPoint &position);
+
+    template <typename Command, typename DocumentType>
+    void insert(const Shown<DocumentType> &shown, RecordKind group, typename Command::Record record);
+    template <typename Command, typename DocumentType>
+    void remove(const Shown<DocumentType> &shown);
+    void editCount(RecordKind group, const QString &title, int least, void (AnimBlock::*resize)(int));
+
+    Shown<SkinnedMeshDocument> m_skinnedMesh;
+    Shown<AnimDocument> m_anim;
+    QWidget *m_window;
+    std::array<TreeMenu, 3> m_menus;
+    std::optional<SkinnedMeshHotPoint> m_copiedHotPoint;
+    std::optional<AnimBlock> m_copiedBlock;
+};

@@ -1,0 +1,410 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+
+// Commands that change lists, and long random histories of them: undo and redo must give back every byte.
+#include "AnimCommands.h"
+#include "SampleModels.h"
+#include "SkinnedMeshCommands.h"
+#include "StaticMeshCommands.h"
+#include "StructureCommands.h"
+#include "TestSupport.h"
+#include "TransformCommands.h"
+
+#include <QRandomGenerator>
+#include <QUndoStack>
+
+using SampleModels::bytesOf;
+
+namespace {
+struct Screen : DocumentView
+{
+    void recordChanged(const RecordRef &) override {}
+    void structureChanged(const StructureChange &change) override { changes.append(change); }
+    QVector<StructureChange> changes;
+};
+
+SkinnedMesh sampleOf(const SkinnedMesh &)
+{
+    return SampleModels::skinnedMesh();
+}
+
+AnimFile sampleOf(const AnimFile &)
+{
+    return SampleModels::animFile();
+}
+
+StaticMesh sampleOf(const StaticMesh &)
+{
+    return SampleModels::staticMesh();
+}
+
+/// The sample model, and a real one where there is one.
+template <typename Model>
+std::vector<Model> models(const char *realFile)
+{
+    std::vector<Model> all{sampleOf(Model())};
+    const QString path = TestSupport::shared(QLatin1String(realFile));
+    Model real;
+    if (!path.isEmpty() && !real.read(path))
+        all.push_back(std::move(real));
+    return all;
+}
+
+template <typename Command>
+constexpr bool isInsertion()
+{
+    return std::is_constructible_v<Command, EditTarget<typename Command::Model>, RecordIndex,
+                                   typename Command::Record>;
+}
+
+template <typename Command>
+Command *makeCommand(EditTarget<typename Command::Model> target, const RecordIndex &index,
+                     const typename Command::Record &record, QUndoCommand *parent = nullptr)
+{
+    if constexpr (isInsertion<Command>())
+        return new Command(target, index, record, parent);
+    else
+        return new Command(target, index, parent);
+}
+
+/// Everything about one command at one place of one model.
+template <typename Command>
+void checkCommand(typename Command::Model model, const RecordIndex &index)
+{
+    using Place = typename Command::Place;
+    constexpr bool inserts = isInsertion<Command>();
+    const auto position = int(index[Place::component]);
+    Screen screen;
+    QUndoStack stack;
+    auto *list = Place::list(model, index);
+    const QByteArray before = bytesOf(model);
+    const size_t count = list->size();
+    const auto record = list->empty() ? typename Command::Record() : list->back();
+    stack.push(makeCommand<Command>({model, screen}, index, record));
+    QCOMPARE(stack.undoText(), QString::fromLatin1(Command::undoText));
+
+    const QByteArray after = bytesOf(model);
+    QCOMPARE(list->size(), inserts ? count + 1 : count - 1);
+    if (inserts) {
+        // Nothing else than the insertion has happened.
+        auto rest = model;
+        auto *restList = Place::list(rest, index);
+        restList->erase(restList->begin() + position);
+        QCOMPARE(bytesOf(rest), before);
+    }
+    const RecordRef select = screen.changes.value(0).select;
+    QCOMPARE(screen.changes.size(), 1);
+    QCOMPARE(screen.changes[0].added, inserts ? 1 : -1);
+    QCOMPARE(select.kind == Place::kind, !list->empty());
+    if (select.kind == Place::kind)
+        QVERIFY(Place::find(model, select.index));
+
+    for (int round = 0; round < 2; ++round) {
+        stack.undo();
+        QCOMPARE(bytesOf(model), before);
+        stack.redo();
+        QCOMPARE(bytesOf(model), after);
+    }
+}
+
+template <typename Command>
+void checkStale(typename Command::Model model)
+{
+    Screen screen;
+    QUndoStack stack;
+    const QByteArray before = bytesOf(model);
+    for (const RecordIndex &index :
+         {RecordIndex{9999, 0, 0}, RecordIndex{-1, -1, 0}, RecordIndex{0, 9999, 0}}) {
+        if (Command::Place::component == 0 && index[0] == 0)
+            continue;
+        stack.push(makeCommand<Command>({model, screen}, index, {}));
+        stack.undo();
+        stack.redo();
+        QCOMPARE(bytesOf(model), before);
+    }
+    QVERIFY(screen.changes.isEmpty());
+}
+
+template <typename Tag, typename Model>
+void checkEverywhere(Tag, const Model &model)
+{
+    using Command = typename Tag::Type;
+    using Place = typename Command::Place;
+    auto copy = model;
+    const size_t count = Place::list(copy, {})->size();
+    const size_t places = isInsertion<Command>() ? count + 1 : count;
+    for (const size_t place : {size_t(0), count / 2, count}) {
+        RecordIndex index{};
+        index[Place::component] = int(place);
+        if (place < places)
+            checkCommand<Command>(model, index);
+    }
+    checkStale<Command>(model);
+}
+
+/// Keeps a list of identities in step with the blocks of an animation, so that a count change can be repeated
+/// on the same block of an otherwise unedited file.
+struct TrackBlock : QUndoCommand
+{
+    TrackBlock(std::vector<int> &list, int position, bool inserts, QUndoCommand *parent)
+        : QUndoCommand(parent)
+        , ids(list)
+        , at(position)
+        , isInsertion(inserts)
+    {}
+    void redo() override { apply(isInsertion); }
+    void undo() override { apply(!isInsertion); }
+    void apply(bool insert)
+    {
+        if (insert) {
+            ids.insert(ids.begin() + at, id);
+        } else {
+            id = ids[size_t(at)];
+            ids.erase(ids.begin() + at);
+        }
+    }
+
+    std::vector<int> &ids;
+    int at;
+    bool isInsertion;
+    int id = -1; ///< of a block that the file did not have
+};
+
+/// A history of random edits of one model.
+template <typename Model>
+struct History
+{
+    History(Model start, quint32 seed)
+        : model(std::move(start))
+        , random(seed)
+    {}
+
+    int below(int bound) { return random.bounded(std::max(1, bound)); }
+    EditTarget<Model> target() { return {model, screen}; }
+
+    /// An index of which each part may point a little beyond what is there.
+    RecordIndex anyIndex() { return {below(8), below(8), below(8)}; }
+
+    /// One field command of the list, whichever, on a record that may not exist, with the value of another.
+    template <typename List, typename Allowed>
+    void editField(const List &list, Allowed allowed)
+    {
+        const int chosen = below(int(std::tuple_size_v<List>));
+        int number = 0;
+        const auto editIfChosen = [&](auto tag) {
+            using Command = typename decltype(tag)::Type;
+            if (number++ != chosen || !allowed(Command::Record::kind))
+                return;
+            typename Command::Value value{};
+            if (const auto *donor = Command::Record::find(model, anyIndex()))
+                value = Command::Field::get(*donor);
+            stack.push(new Command(target(), anyIndex(), value));
+        };
+        std::apply([&](auto... tags) { (editIfChosen(tags), ...); }, list);
+    }
+
+    template <typename Insertion, typename Removal>
+    void changeList(RecordIndex index, std::vector<int> *ids = nullptr)
+    {
+        using Place = typename Insertion::Place;
+        auto *list = Place::list(model, index);
+        if (!list)
+            return;
+        const int count = int(list->size());
+        const bool inserts = count == 0 || (count < 8 && below(2));
+        const int position = below(inserts ? count + 1 : count);
+        index[Place::component] = position;
+        auto *step = new QUndoCommand;
+        if (inserts) {
+            const auto record = count && below(2) ? list->front() : typename Insertion::Record();
+            new Insertion(target(), index, record, step);
+        } else {
+            new Removal(target(), index, step);
+        }
+        if (ids)
+            new TrackBlock(*ids, position, inserts, step);
+        stack.push(step);
+    }
+
+    void wander()
+    {
+        for (int i = below(6); i > 0; --i) {
+            if (below(3))
+                stack.undo();
+            else
+                stack.redo();
+        }
+    }
+
+    Model model;
+    Screen screen;
+    QUndoStack stack;
+    QRandomGenerator random;
+};
+
+constexpr int Steps = 2000;
+
+/// All back, all forth: the bytes must be those of the start and those of the end.
+template <typename Model>
+void checkEnds(History<Model> &history, const QByteArray &start)
+{
+    const QByteArray end = bytesOf(history.model);
+    const int index = history.stack.index();
+    history.stack.setIndex(0);
+    QCOMPARE(bytesOf(history.model), start);
+    history.stack.setIndex(index);
+    QCOMPARE(bytesOf(history.model), end);
+}
+
+template <typename Model, typename Step>
+void wanderThrough(const Model &model, quint32 seed, Step step)
+{
+    History<Model> history(model, seed);
+    for (int i = 0; i < Steps; ++i) {
+        step(history);
+        if (history.below(4) == 0)
+            history.wander();
+    }
+    QVERIFY(history.stack.count() > Steps / 20);
+    checkEnds(history, bytesOf(model));
+}
+
+constexpr auto anyField = [](RecordKind) { return true; };
+} // namespace
+
+class TestStructure : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyCommandGoesBackAndForth()
+    {
+        for (const SkinnedMesh &mesh : models<SkinnedMesh>("gamedata/game/models/knight/knight.skinnedmesh"))
+            std::apply([&](auto... tags) { (checkEverywhere(tags, mesh), ...); },
+                       skinnedMeshStructureCommands);
+        for (const AnimFile &file : models<AnimFile>("gamedata/game/anims/fox/fox.anim"))
+            std::apply([&](auto... tags) { (checkEverywhere(tags, file), ...); }, animStructureCommands);
+    }
+
+    void emptiedListShowsItsGroup()
+    {
+        SkinnedMesh mesh = SampleModels::skinnedMesh();
+        mesh.hotPoints.resize(1);
+        checkCommand<UC_SkinnedMeshRemoveHotPoint>(mesh, {});
+        AnimFile file = SampleModels::animFile();
+        file.blocks[2].actions.resize(1);
+        checkCommand<UC_AnimRemoveAction>(file, {2, 0, 0});
+    }
+
+    void randomHistoryOfMeshes_data()
+    {
+        QTest::addColumn<quint32>("seed");
+        for (const quint32 seed : {1u, 20261121u})
+            QTest::addRow("seed %u", seed) << seed;
+    }
+
+    void randomHistoryOfMeshes()
+    {
+        QFETCH(quint32, seed);
+        for (const SkinnedMesh &mesh : models<SkinnedMesh>("gamedata/game/models/fox/fox.skinnedmesh")) {
+            wanderThrough(mesh, seed, [](History<SkinnedMesh> &history) {
+                switch (history.below(8)) {
+                case 0:
+                    history.stack.push(new UC_SkinnedMeshRotate(history.target(), 10.0f, 0.0f, -33.0f));
+                    break;
+                case 1:
+                    history.stack.push(new UC_SkinnedMeshScale(history.target(), 1.0e6f));
+                    break;
+                case 2:
+                case 3:
+                    history.editField(skinnedMeshCommands, anyField);
+                    break;
+                default:
+                    history.changeList<UC_SkinnedMeshPasteHotPoint, UC_SkinnedMeshRemoveHotPoint>({});
+                }
+            });
+        }
+        for (const StaticMesh &mesh : models<StaticMesh>("gamedata/game/models/avocado/avocado.staticmesh")) {
+            wanderThrough(mesh, seed, [](History<StaticMesh> &history) {
+                switch (history.below(8)) {
+                case 0:
+                    history.stack.push(new UC_StaticMeshRotate(history.target(), 0.0f, 45.0f, 1.0f));
+                    break;
+                case 1:
+                    history.stack.push(new UC_StaticMeshScale(history.target(), 1.0e6f));
+                    break;
+                default:
+                    history.editField(staticMeshCommands, anyField);
+                }
+            });
+        }
+    }
+
+    void randomHistoryOfAnimations_data()
+    {
+        QTest::addColumn<quint32>("seed");
+        QTest::addColumn<bool>("changesCounts");
+        QTest::addColumn<bool>("editsKeys");
+        for (const quint32 seed : {7u, 20261121u}) {
+            QTest::addRow("seed %u", seed) << seed << false << true;
+            QTest::addRow("seed %u, counts change", seed) << seed << true << false;
+            QTest::addRow("seed %u, counts change under edited keys", seed) << seed << true << true;
+        }
+    }
+
+    /// Count changes are no undo steps: they stay, on the blocks that they were made on. Keys that a count
+    /// change has cut off or made by copying cannot come back; then it is enough that nothing breaks.
+    void randomHistoryOfAnimations()
+    {
+        QFETCH(quint32, seed);
+        QFETCH(bool, changesCounts);
+        QFETCH(bool, editsKeys);
+        for (const AnimFile &file : models<AnimFile>("gamedata/game/anims/knight/knight.anim")) {
+            AnimFile expected = file;
+            History<AnimFile> history(file, seed);
+            std::vector<int> ids;
+            for (int i = 0; i < int(file.blocks.size()); ++i)
+                ids.push_back(i);
+            const auto isAllowed = [&](RecordKind kind) {
+                return editsKeys || (kind != RecordKind::AnimFrame && kind != RecordKind::TranslationKey &&
+                                     kind != RecordKind::RotationKey);
+            };
+            for (int i = 0; i < Steps; ++i) {
+                switch (history.below(changesCounts ? 8 : 7)) {
+                case 0:
+                case 1:
+                case 2:
+                    history.editField(animCommands, isAllowed);
+                    break;
+                case 3:
+                    history.changeList<UC_AnimBlockPaste, UC_AnimBlockRemove>({}, &ids);
+                    break;
+                case 7: {
+                    if (ids.empty())
+                        break;
+                    const auto block = size_t(history.below(int(ids.size())));
+                    const auto resize = std::array{&AnimBlock::setFrameCount, &AnimBlock::setTranslationCount,
+                                                   &AnimBlock::setRotationCount}[size_t(history.below(3))];
+                    const int count = history.below(12);
+                    (history.model.blocks[block].*resize)(count);
+                    if (ids[block] >= 0)
+                        (expected.blocks[size_t(ids[block])].*resize)(count);
+                    break;
+                }
+                default:
+                    history.changeList<UC_AnimAddAction, UC_AnimRemoveAction>(history.anyIndex());
+                }
+                if (history.below(4) == 0)
+                    history.wander();
+            }
+            QVERIFY(history.stack.count() > Steps / 20);
+            if (changesCounts && editsKeys)
+                history.stack.setIndex(0);
+            else
+                checkEnds(history, bytesOf(expected));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestStructure)
+#include "tst_structure.moc"

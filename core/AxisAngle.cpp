@@ -23,6 +23,16 @@ AxisAngle axisAngle(const QVector4D &quaternion)
     return {{float(x / sine), float(y / sine), float(z / sine)}, float(angle / RadiansPerDegree)};
 }
 
+QString axisText(const AxisAngle &rotation)
+{
+    // Adding 0 takes the sign off a zero.
+    const auto number = [](float value) {
+        return QString::number(std::round(double(value) * 1e3) / 1e3 + 0.0);
+    };
+    return QStringLiteral("%1, %2, %3")
+        .arg(number(rotation.axis.x()), number(rotation.axis.y()), number(rotation.axis.z()));
+}
+
 QVector4D quaternion(const AxisAngle &rotation)
 {
     const double half = double(rotation.degrees) * RadiansPerDegree / 2.0;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
 #include <QVector3D>
 #include <QVector4D>
 
@@ -15,6 +16,9 @@ struct AxisAngle
 /// The rotation of a quaternion x, y, z, w of any length. No rotation (and a quaternion that is none: zero
 /// or not finite) turns about z.
 AxisAngle axisAngle(const QVector4D &quaternion);
+
+/// "0, 1, 0", rounded to what the eye needs.
+QString axisText(const AxisAngle &rotation);
 
 /// The unit quaternion x, y, z, w of a rotation.
 QVector4D quaternion(const AxisAngle &rotation);

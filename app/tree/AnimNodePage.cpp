@@ -56,9 +56,7 @@ void AnimNodePage::recordShown()
     m_ui.lblAnimNodeBone->setText(IndexTargets::blockBone(block, m_mesh.model(), index()[1]).text);
     m_ui.hintAnimNodeTransIndex->setTarget(IndexTargets::translationTrack(block, bone->translationIndex));
     m_ui.hintAnimNodeRotIndex->setTarget(IndexTargets::rotationTrack(block, bone->rotationIndex));
-    const auto number = [](float value) { return QString::number(double(value), 'g', 4); };
     const AxisAngle turn = axisAngle(bone->initialRotation);
     m_ui.lblAnimNodeInitRotTurn->setText(
-        tr("%1\u00b0 about %2, %3, %4")
-            .arg(number(turn.degrees), number(turn.axis.x()), number(turn.axis.y()), number(turn.axis.z())));
+        tr("%1\u00b0 about %2").arg(QString::number(double(turn.degrees), 'g', 4), axisText(turn)));
 }

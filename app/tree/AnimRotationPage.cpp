@@ -48,11 +48,6 @@ QString AnimRotationPage::title() const
 
 void AnimRotationPage::recordShown()
 {
-    const QVector4D *key = record();
-    if (!key)
-        return;
-    const QVector3D axis = axisAngle(*key).axis;
-    m_ui.lblAnimRotationAxisX->setText(QString::number(double(axis.x()), 'g', 4));
-    m_ui.lblAnimRotationAxisY->setText(QString::number(double(axis.y()), 'g', 4));
-    m_ui.lblAnimRotationAxisZ->setText(QString::number(double(axis.z()), 'g', 4));
+    if (const QVector4D *key = record())
+        m_ui.lblAnimRotationAxis->setText(axisText(axisAngle(*key)));
 }

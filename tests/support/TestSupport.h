@@ -74,4 +74,4 @@ inline QStringList modelFiles(const QString &suffix)
 /// Skips the test function when the folder of real models is not there.
 #define SKIP_WITHOUT_SHARED(relativePath)                                                                    \
     if (TestSupport::shared(QStringLiteral(relativePath)).isEmpty())                                         \
-    QSKIP("needs " relativePath " in the folder of real models beside the project", "")
+    QSKIP("needs " relativePath " in the folder of real models beside the project")

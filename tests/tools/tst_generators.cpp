@@ -6,6 +6,7 @@
 #include "Chime.h"
 #include "KMat.h"
 #include "MarkerSphere.h"
+#include "ReferenceTexts.h"
 #include "Samples.h"
 #include "SkinnedMesh.h"
 #include "StaticMesh.h"
@@ -156,6 +157,8 @@ private slots:
         // Through the resource system, which the program reads them from.
         QCOMPARE(TestSupport::readFile(":/models/spherewire.staticmesh"), TestSupport::readFile(sphere));
         QCOMPARE(TestSupport::readFile(":/sounds/test.wav"), makeChime());
+        for (const ReferenceKind kind : referenceKinds)
+            QCOMPARE(TestSupport::readFile(builtInReferencePath(kind)), makeReferenceText(kind));
         QCOMPARE(QImage(":/Images/textures/ground.png"), makeGroundTexture());
         QCOMPARE(QImage(":/Images/textures/blank.png"), makePlainTexture(Qt::white));
         for (const char *name : {"red", "green", "blue"})

@@ -14,6 +14,7 @@ namespace {
 struct RecordingView : DocumentView
 {
     void recordChanged(const RecordRef &record) override { changes.append(record); }
+    void structureChanged(const StructureChange &) override {}
     QVector<RecordRef> changes;
 };
 

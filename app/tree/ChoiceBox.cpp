@@ -8,6 +8,9 @@ ChoiceBox::ChoiceBox(QWidget *parent)
     : QComboBox(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
+    // A long name must not widen the page; the list shows it whole.
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(10);
     connect(this, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this](int) {
         const int chosen = currentData().toInt();
         if (chosen == m_value)

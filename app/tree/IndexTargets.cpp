@@ -45,8 +45,9 @@ IndexTarget track(int count, int index, const QString &withoutTrack)
         return {Texts::tr("%1 of %2 tracks").arg(index).arg(count), false, {}};
     if (index == None)
         return {withoutTrack, false, {}};
-    return {withoutTrack, true,
-            Texts::tr("The table has no track %1 (%2).").arg(QString::number(index), range(size_t(count)))};
+    return {Texts::tr("no such track"), true,
+            Texts::tr("The table has no track %1 (%2): %3.")
+                .arg(QString::number(index), range(size_t(count)), withoutTrack)};
 }
 } // namespace
 

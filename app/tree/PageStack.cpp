@@ -56,6 +56,7 @@ PageStack::PageStack(QWidget *parent)
     QFont bold = m_title->font();
     bold.setBold(true);
     m_title->setFont(bold);
+    m_title->setWordWrap(true);
     m_count->setObjectName(QStringLiteral("lblPageCount"));
     m_count->setEnabled(false);
 

@@ -161,7 +161,7 @@ void DatabaseTab::applyFilter(const Page &page)
         shown += fits;
     }
     page.table->setUpdatesEnabled(true);
-    page.count->setText(wanted.isEmpty() ? tr("%n row(s)", nullptr, rows)
+    page.count->setText(wanted.isEmpty() ? tr("Rows: %1").arg(rows)
                                          : tr("%1 of %2 rows").arg(shown).arg(rows));
 }
 

@@ -25,11 +25,11 @@ inline QStringList of(const QWidget *editor)
 }
 
 /// Every question, the fitting one (if any) first.
-inline QStringList allAfter(const char *fitting)
+inline QStringList allAfter(QLatin1String fitting)
 {
     QStringList questions{Question::Actor,    Question::Animation, Question::Sound, Question::Voice,
                           Question::Particle, Question::Impact,    Question::Damage};
-    if (fitting) {
+    if (!fitting.isNull()) {
         questions.removeOne(fitting);
         questions.prepend(fitting);
     }

@@ -106,6 +106,11 @@ FolderExplorer::FolderExplorer(const DocumentKind &kind, QWidget *parent)
     createContextMenu();
     m_toolBar->setObjectName(QStringLiteral("tb%1Folder").arg(prefix));
     m_toolBar->setIconSize({16, 16});
+    auto *caption = new QLabel(kind.label);
+    caption->setObjectName(QStringLiteral("lbl%1Folder").arg(prefix));
+    caption->setMargin(4);
+    caption->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    m_toolBar->addWidget(caption);
     m_toolBar->addAction(m_changeFolder);
     m_toolBar->addAction(m_refresh);
     m_toolBar->addAction(m_quickSelect);

@@ -3,7 +3,6 @@
 #include "FolderItem.h"
 
 #include <QApplication>
-#include <QCollator>
 #include <QDir>
 #include <QDirIterator>
 #include <QFont>
@@ -11,7 +10,6 @@
 #include <QPalette>
 
 #include <algorithm>
-#include <numeric>
 #include <vector>
 
 namespace {
@@ -22,21 +20,52 @@ struct Branch
     std::vector<FolderItem *> files;
 };
 
-void appendSorted(QList<QTreeWidgetItem *> &items, const std::vector<FolderItem *> &unsorted,
-                  const QCollator &collator)
+/// Keys compare as people expect of their names: without case, accented letters beside plain ones, numbers by
+/// their value. A locale's collator would add half of what reading the folder costs.
+QString naturalKey(const QString &name)
 {
-    std::vector<QCollatorSortKey> keys;
-    std::vector<size_t> order(unsorted.size());
-    keys.reserve(unsorted.size());
-    for (const FolderItem *item : unsorted)
-        keys.push_back(collator.sortKey(item->name()));
-    std::iota(order.begin(), order.end(), size_t(0));
-    std::sort(order.begin(), order.end(), [&](size_t a, size_t b) {
-        const int difference = keys[a].compare(keys[b]);
-        return difference != 0 ? difference < 0 : unsorted[a]->path() < unsorted[b]->path();
+    const QString folded = name.toCaseFolded().normalized(QString::NormalizationForm_D);
+    const auto isDigit = [&folded](int at) {
+        return at < folded.size() && folded.at(at) >= QLatin1Char('0') && folded.at(at) <= QLatin1Char('9');
+    };
+    QString key;
+    key.reserve(folded.size() + 8);
+    for (int at = 0; at < folded.size();) {
+        if (!isDigit(at)) {
+            key += folded.at(at++);
+            continue;
+        }
+        // Among digits, then by the number of digits that count, then by the digits.
+        while (folded.at(at) == QLatin1Char('0') && isDigit(at + 1))
+            ++at;
+        int end = at;
+        while (isDigit(end))
+            ++end;
+        key += QLatin1Char('0');
+        key += QChar(end - at);
+        key += folded.midRef(at, end - at);
+        at = end;
+    }
+    return key;
+}
+
+void appendSorted(QList<QTreeWidgetItem *> &items, const std::vector<FolderItem *> &unsorted)
+{
+    struct Entry
+    {
+        QString key;
+        FolderItem *item;
+    };
+    std::vector<Entry> entries;
+    entries.reserve(unsorted.size());
+    for (FolderItem *item : unsorted)
+        entries.push_back({naturalKey(item->name()), item});
+    std::sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) {
+        const int order = a.key.compare(b.key);
+        return order != 0 ? order < 0 : a.item->path() < b.item->path();
     });
-    for (const size_t index : order)
-        items << unsorted[index];
+    for (const Entry &entry : entries)
+        items << entry.item;
 }
 } // namespace
 
@@ -128,21 +157,14 @@ QList<QTreeWidgetItem *> readFolder(const QString &folder, const QString &extens
         }
     }
 
-    QLocale locale;
-    if (locale.language() == QLocale::C)
-        locale = QLocale(QLocale::English); // the C locale knows neither case nor numbers
-    QCollator collator(locale);
-    collator.setCaseSensitivity(Qt::CaseInsensitive);
-    collator.setNumericMode(true);
-
     // A folder stands before its sub-folders, so that from behind each knows its contents when its turn
     // comes.
     QList<QTreeWidgetItem *> top;
     for (auto branch = branches.rbegin(); branch != branches.rend(); ++branch) {
         QList<QTreeWidgetItem *> items;
         items.reserve(int(branch->folders.size() + branch->files.size()));
-        appendSorted(items, branch->folders, collator);
-        appendSorted(items, branch->files, collator);
+        appendSorted(items, branch->folders);
+        appendSorted(items, branch->files);
         if (branch->item) {
             branch->item->addChildren(items);
             branch->item->setBarren(branch->files.empty() &&

@@ -101,7 +101,7 @@ void MainWindow::createPanes()
                  m_ui->viewStatic,
                  {}}}};
     addPages(*m_ui->pagesSkinnedMesh, m_skinnedMesh, *m_ui->treeSkinnedMesh);
-    addPages(*m_ui->pagesAnim, m_anim, *m_ui->treeAnim);
+    addPages(*m_ui->pagesAnim, m_anim, *m_ui->treeAnim, m_skinnedMesh);
     addPages(*m_ui->pagesStaticMesh, m_staticMesh, *m_ui->treeStaticMesh);
     m_ui->viewSkinned->setSkinnedMeshMode(true);
 
@@ -184,29 +184,6 @@ void MainWindow::createUndoActions()
 
 void MainWindow::createMenus()
 {
-    const std::pair<QAction *, const char *> icons[] = {
-        {m_ui->actionOpen, "open"},
-        {m_ui->actionSave, "save"},
-        {m_ui->actionSaveAs, "saveas"},
-        {m_ui->actionSkinnedSaveAs, "filemesh"},
-        {m_ui->actionAnimSaveAs, "fileanim"},
-        {m_ui->actionSaveAll, "saveall"},
-        {m_ui->actionExit, "exit"},
-        {m_ui->actionGround, "ground"},
-        {m_ui->actionTransGizmo, "gizmo"},
-        {m_ui->actionCullBack, "cullback"},
-        {m_ui->actionResetCamera, "resetcamera"},
-        {m_ui->actionRefreshExplorers, "refresh"},
-        {m_ui->actionConsoleClear, "clear"},
-        {m_ui->actionRotate, "rotate"},
-        {m_ui->actionScale, "scale"},
-        {m_ui->actionPreferences, "preferences"},
-        {m_ui->actionAnimSyncSkin, "sync"},
-        {m_ui->actionControls, "keyboard"},
-        {m_ui->actionAbout, "about"},
-    };
-    for (const auto &[action, icon] : icons)
-        action->setIcon(QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(icon))));
     m_ui->menuView->addSeparator();
     m_ui->menuView->addActions({m_ui->toolBarFile->toggleViewAction(), m_ui->toolBarEdit->toggleViewAction(),
                                 m_ui->dockConsole->toggleViewAction()});

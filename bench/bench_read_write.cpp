@@ -16,6 +16,7 @@
 
 // Reads and writes a 64 MB file of each kind, its bytes shared out as in real models: a third indexes and
 // two thirds vertices in the meshes; in the animations blocks of 41 bones and 120 frames, most of it keys.
+// And refuses a short file that claims to be much longer.
 namespace {
 constexpr size_t FileBytes = 64 * 1000 * 1000;
 constexpr int Repetitions = 15;
@@ -120,6 +121,18 @@ void addRows(const char *kind, const QString &folder, Model model)
         },
         [path = path + QLatin1String(".floor"), bytes = file.readAll()] { saveBytes(path, bytes); });
 }
+/// A short file whose every count is about two billion.
+template <typename Model>
+void addHostileRow(const char *kind, const QString &folder)
+{
+    const QString path = folder + QLatin1String("/hostile_") + QLatin1String(kind);
+    saveBytes(path, QByteArray(200, '\x7f'));
+    Bench::limit(std::string("hostile_") + kind, 0.010, Repetitions, [path] {
+        Model read;
+        if (!read.read(path))
+            std::abort();
+    });
+}
 } // namespace
 
 int main(int argc, char **argv)
@@ -129,5 +142,8 @@ int main(int argc, char **argv)
     addRows("skinnedmesh", folder.path(), makeSkinnedMesh());
     addRows("anim", folder.path(), makeAnimFile());
     addRows("staticmesh", folder.path(), makeStaticMesh());
+    addHostileRow<SkinnedMesh>("skinnedmesh", folder.path());
+    addHostileRow<AnimFile>("anim", folder.path());
+    addHostileRow<StaticMesh>("staticmesh", folder.path());
     return Bench::run(argc, argv);
 }

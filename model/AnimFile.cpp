@@ -43,8 +43,7 @@ TrackTable<Key> readTable(BinaryFileReader &reader, qint32 trackCount, qint32 fr
     }
     TrackTable<Key> table(trackCount, frameCount);
     static_assert(sizeof(Key) == size_t(KeyFloats<Key>) * sizeof(float), "keys are plain floats");
-    reader.readFloats(reinterpret_cast<float *>(table.keys().data()),
-                      qint64(table.keys().size()) * KeyFloats<Key>);
+    reader.readFloats(reinterpret_cast<float *>(table.data()), qint64(table.keys().size()) * KeyFloats<Key>);
     return table;
 }
 

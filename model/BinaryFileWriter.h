@@ -60,12 +60,11 @@ private:
     void writeInParts(const T *values, size_t count)
     {
         while (count > 0) {
+            makeRoom();
             const size_t part = std::min(count, (m_buffer.size() - m_used) / sizeof(T));
             append(values, part);
             values += part;
             count -= part;
-            if (count > 0)
-                makeRoom();
         }
     }
 

@@ -132,6 +132,21 @@ struct NestedRecord
     }
 };
 
+/// The keys of one of a block's track tables: block, track, frame.
+template <typename Owner, auto Table, RecordKind Kind>
+struct TrackKey
+{
+    using Model = typename Owner::Model;
+    using Record = std::decay_t<decltype((std::declval<typename Owner::Record>().*Table).at(0, 0))>;
+    static constexpr RecordKind kind = Kind;
+    static Record *find(Model &model, const RecordIndex &index)
+    {
+        auto *owner = Owner::find(model, index);
+        return owner && (owner->*Table).contains(index[1], index[2]) ? &(owner->*Table).at(index[1], index[2])
+                                                                     : nullptr;
+    }
+};
+
 using SkinnedMeshRoot = Root<SkinnedMesh, RecordKind::SkinnedMesh>;
 using Bone = ListRecord<&SkinnedMesh::nodes, RecordKind::Bone>;
 using ChildBone = NestedRecord<Bone, &SkinnedMeshNode::childNodes, RecordKind::ChildBone>;
@@ -145,6 +160,8 @@ using AnimFileRoot = Root<AnimFile, RecordKind::AnimFile>;
 using Block = ListRecord<&AnimFile::blocks, RecordKind::AnimBlock>;
 using BlockBone = NestedRecord<Block, &AnimBlock::nodes, RecordKind::AnimBone>;
 using BlockFrame = NestedRecord<Block, &AnimBlock::frames, RecordKind::AnimFrame>;
+using TranslationKey = TrackKey<Block, &AnimBlock::translations, RecordKind::TranslationKey>;
+using RotationKey = TrackKey<Block, &AnimBlock::rotations, RecordKind::RotationKey>;
 using BlockAction = NestedRecord<Block, &AnimBlock::actions, RecordKind::AnimAction>;
 
 using StaticMeshRoot = Root<StaticMesh, RecordKind::StaticMesh>;

@@ -32,7 +32,7 @@ public:
     const Key &at(int track, int frame) const { return m_keys[index(track, frame)]; }
 
     /// The keys of all tracks, track by track.
-    std::vector<Key> &keys() { return m_keys; }
+    Key *data() { return m_keys.data(); }
     const std::vector<Key> &keys() const { return m_keys; }
 
     /// Every new key of a track repeats its last old key; without one it is `neutral`.

@@ -80,7 +80,7 @@ no_upward_includes() {
 }
 
 licence_headers() {
-    { files '*.cpp' '*.h' '*.glsl' '*.cmake' '*CMakeLists.txt' && scripts; } \
+    { files '*.cpp' '*.h' '*.cmake' '*CMakeLists.txt' && scripts; } \
         | search -L 'SPDX-License-Identifier: ' | none 'No SPDX header'
 }
 

@@ -4,7 +4,7 @@
 #
 # Pictures of the real program on a virtual screen that ./dev provides, large enough for the window's frame:
 #   screenshots.sh window PROGRAM PICTURE FILE...   the main window with these files open
-#   screenshots.sh all PROGRAM FOLDER               every picture of the documentation
+#   screenshots.sh all PROGRAM FOLDER SAMPLES       every picture of the documentation, of these sample folders
 # Each start has the settings home that XDG_CONFIG_HOME names.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -48,11 +48,16 @@ wait_for() {
 # grab WINDOW PICTURE: waits until the window shows more than a bare background, then saves its place on the
 # screen, with whatever lies above it.
 grab() {
-    local window=$1 picture=$2 X Y WIDTH HEIGHT
+    local window=$1 picture=$2 place
     mkdir -p "$(dirname "$picture")"
     for _ in {1..100}; do
-        eval "$(xdotool getwindowgeometry --shell "$window" | grep -E '^(X|Y|WIDTH|HEIGHT)=-?[0-9]+$')"
-        import -window root -crop "${WIDTH}x$HEIGHT+$X+$Y" +repage "$picture"
+        place=$(xwininfo -id "$window" | awk '
+            /Absolute upper-left X:/ { x = $NF }
+            /Absolute upper-left Y:/ { y = $NF }
+            /Width:/ { width = $NF }
+            /Height:/ { height = $NF }
+            END { print width "x" height "+" x "+" y }')
+        import -window root -crop "$place" +repage "$picture"
         if (($(identify -format '%k' "$picture") > 64)); then
             echo "$picture"
             return
@@ -93,13 +98,14 @@ press() {
     sleep 0.5
 }
 
-sample() { find samples/game -name "$1" | sort | head -n 1; }
+# The first file with this extension in the game folder of the samples.
+first() { find "$samples/game" -name "*.$1" | sort | head -n 1; }
 
 all_pictures() {
-    local folder=$1 skinned_mesh animation static_mesh options broken=build/broken.anim
-    skinned_mesh=$(sample '*.skinnedmesh')
-    animation=$(sample '*.anim')
-    static_mesh=$(sample '*.staticmesh')
+    local folder=$1 samples=$2 skinned_mesh animation static_mesh options broken=$2/mod/broken.anim
+    skinned_mesh=$(first skinnedmesh)
+    animation=$(first anim)
+    static_mesh=$(first staticmesh)
 
     korvane "$skinned_mesh" "$animation"
     grab "$main" "$folder/main.png"
@@ -134,6 +140,6 @@ window)
     grab "$main" "$picture"
     quit
     ;;
-all) all_pictures "$1" ;;
+all) all_pictures "$@" ;;
 *) die "unknown verb '$verb'" ;;
 esac

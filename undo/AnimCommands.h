@@ -12,7 +12,19 @@
     ROW(UC_AnimBlockBlendStart, Records::Block, Member<&AnimBlock::blendStart>, "Animation Blend Start") \
     ROW(UC_AnimBlockBlendEnd, Records::Block, Member<&AnimBlock::blendEnd>, "Animation Blend End") \
     ROW(UC_AnimBlockAnimSpeed, Records::Block, Member<&AnimBlock::speed>, "Animation Speed") \
-    ROW(UC_AnimBlockLoopFrame, Records::Block, Member<&AnimBlock::loopFrame>, "Animation Loop Frame")
+    ROW(UC_AnimBlockLoopFrame, Records::Block, Member<&AnimBlock::loopFrame>, "Animation Loop Frame") \
+    ROW(UC_AnimNodeTransIndex, Records::BlockBone, Member<&AnimNode::translationIndex>, "Bone Translation Index") \
+    ROW(UC_AnimNodeRotIndex, Records::BlockBone, Member<&AnimNode::rotationIndex>, "Bone Rotation Index") \
+    ROW(UC_AnimNodeInitTrans, Records::BlockBone, Member<&AnimNode::initialPosition>, "Bone Initial Translation") \
+    ROW(UC_AnimNodeInitRot, Records::BlockBone, Member<&AnimNode::initialRotation>, "Bone Initial Rotation") \
+    ROW(UC_AnimFrameYaw, Records::BlockFrame, Member<&AnimFrame::yawOffset>, "Frame Yaw Offset") \
+    ROW(UC_AnimTranslation, Records::TranslationKey, Itself, "Translation") \
+    ROW(UC_AnimRotation, Records::RotationKey, Itself, "Rotation") \
+    ROW(UC_AnimActionFrame, Records::BlockAction, Member<&AnimAction::frame>, "Key Frame Action Frame") \
+    ROW(UC_AnimActionNode, Records::BlockAction, Member<&AnimAction::node>, "Key Frame Action Bone") \
+    ROW(UC_AnimActionOffset, Records::BlockAction, Member<&AnimAction::offset>, "Key Frame Action Offset") \
+    ROW(UC_AnimActionEventType, Records::BlockAction, Member<&AnimAction::eventType>, "Key Frame Action Event Type") \
+    ROW(UC_AnimActionArgs, Records::BlockAction, Member<&AnimAction::args>, "Key Frame Action Args")
 // clang-format on
 
 KORVANE_ANIM_FIELDS(KORVANE_FIELD_COMMAND)

@@ -27,6 +27,22 @@ struct Member
     }
 };
 
+/// A whole record, where the record is nothing but one value: an index of a list, a key of a track.
+struct Itself
+{
+    template <typename Record>
+    static Record get(const Record &record)
+    {
+        return record;
+    }
+
+    template <typename Record>
+    static void set(Record &record, const Record &value)
+    {
+        record = value;
+    }
+};
+
 /// Sets one field of one record.
 ///
 /// `Command` is the class itself: it gives the undo text (`undoText`). `RecordType` is one of Records: where

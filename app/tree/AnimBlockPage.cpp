@@ -3,6 +3,8 @@
 #include "AnimBlockPage.h"
 
 #include "AnimCommands.h"
+#include "IndexTargets.h"
+#include "Questions.h"
 
 using namespace Parts;
 
@@ -10,6 +12,8 @@ AnimBlockPage::AnimBlockPage(ModelDocument<Model> &document, const KVTreeView &t
     : RecordPage(document, tree, parent)
 {
     m_ui.setupUi(this);
+    Questions::set(m_ui.sbAnimAnimID, {Question::Animation});
+    m_ui.sbAnimFrameScale->setSingleStep(0.1f);
 
     using Page = AnimBlockPage;
     bind<UC_AnimBlockAnimID>(m_ui.sbAnimAnimID, Whole, tr("Animation AnimID"),
@@ -38,6 +42,7 @@ void AnimBlockPage::recordShown()
     const AnimBlock *block = record();
     if (!block)
         return;
+    m_ui.hintAnimLoopFrame->setTarget(IndexTargets::loopFrame(*block, block->loopFrame));
     m_ui.lblAnimFrames->setNum(block->frameCount());
     m_ui.lblAnimBones->setNum(int(block->nodes.size()));
     // As it plays: a speed below 1 (or none) counts as 1.

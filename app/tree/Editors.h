@@ -6,6 +6,7 @@
 #include "FlagsEditor.h"
 #include "FloatSpinBox.h"
 
+#include <QCheckBox>
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <QSpinBox>
@@ -29,6 +30,10 @@ inline int value(const ChoiceBox *editor)
 inline qint32 value(const FlagsEditor *editor)
 {
     return editor->value();
+}
+inline bool value(const QCheckBox *editor)
+{
+    return editor->isChecked();
 }
 inline QString value(const QLineEdit *editor)
 {
@@ -54,6 +59,11 @@ inline void show(ChoiceBox *editor, int value)
 inline void show(FlagsEditor *editor, qint32 value)
 {
     editor->setValue(value);
+}
+inline void show(QCheckBox *editor, bool value)
+{
+    const QSignalBlocker blocker(editor);
+    editor->setChecked(value);
 }
 inline void show(QLineEdit *editor, const QString &value)
 {
@@ -81,6 +91,11 @@ template <typename Receiver>
 void onEdited(FlagsEditor *editor, Receiver *receiver, void (Receiver::*slot)())
 {
     QObject::connect(editor, &FlagsEditor::valueEdited, receiver, slot);
+}
+template <typename Receiver>
+void onEdited(QCheckBox *editor, Receiver *receiver, void (Receiver::*slot)())
+{
+    QObject::connect(editor, &QCheckBox::clicked, receiver, slot);
 }
 template <typename Receiver>
 void onEdited(QLineEdit *editor, Receiver *receiver, void (Receiver::*slot)())
@@ -114,12 +129,12 @@ struct Component
     int index;
 
     template <typename Vector>
-    float get(const Vector &vector) const
+    auto get(const Vector &vector) const
     {
         return vector[index];
     }
-    template <typename Vector>
-    void set(Vector &vector, float part) const
+    template <typename Vector, typename Part>
+    void set(Vector &vector, Part part) const
     {
         vector[index] = part;
     }

@@ -48,6 +48,8 @@ void FloatSpinBox::setValue(float value)
 {
     m_value = value;
     lineEdit()->setText(textOf(value));
+    // A number that does not fit shows its sign and its first digits.
+    lineEdit()->setCursorPosition(0);
 }
 
 void FloatSpinBox::stepBy(int steps)

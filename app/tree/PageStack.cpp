@@ -7,6 +7,45 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+namespace {
+/// How many records an edit reaches, in words; empty for one.
+QString selectedText(RecordKind kind, int count)
+{
+    if (count < 2)
+        return {};
+    switch (kind) {
+    case RecordKind::ChildBone:
+        return PageStack::tr("%n child bone indexes selected", nullptr, count);
+    case RecordKind::HotPoint:
+        return PageStack::tr("%n hot points selected", nullptr, count);
+    case RecordKind::Bone:
+    case RecordKind::AnimBone:
+        return PageStack::tr("%n bones selected", nullptr, count);
+    case RecordKind::SkinnedSurface:
+    case RecordKind::StaticSurface:
+        return PageStack::tr("%n surfaces selected", nullptr, count);
+    case RecordKind::SkinnedTriangleIndex:
+    case RecordKind::StaticTriangleIndex:
+        return PageStack::tr("%n triangle indexes selected", nullptr, count);
+    case RecordKind::SkinnedVertex:
+    case RecordKind::StaticVertex:
+        return PageStack::tr("%n vertices selected", nullptr, count);
+    case RecordKind::AnimBlock:
+        return PageStack::tr("%n animations selected", nullptr, count);
+    case RecordKind::AnimFrame:
+        return PageStack::tr("%n frames selected", nullptr, count);
+    case RecordKind::TranslationKey:
+        return PageStack::tr("%n translation keys selected", nullptr, count);
+    case RecordKind::RotationKey:
+        return PageStack::tr("%n rotation keys selected", nullptr, count);
+    case RecordKind::AnimAction:
+        return PageStack::tr("%n key frame actions selected", nullptr, count);
+    default:
+        return {};
+    }
+}
+} // namespace
+
 PageStack::PageStack(QWidget *parent)
     : QWidget(parent)
     , m_title(new QLabel(this))
@@ -60,8 +99,7 @@ void PageStack::showRecord(const RecordRef &record)
             continue;
         page->showRecord(record.index);
         m_title->setText(page->title());
-        const int count = m_tree->selectedCount(record.kind);
-        m_count->setText(count > 1 ? tr("%1 selected").arg(count) : QString());
+        m_count->setText(selectedText(record.kind, m_tree->selectedCount(record.kind)));
         m_pages->setCurrentIndex(i);
         return;
     }

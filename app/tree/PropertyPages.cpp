@@ -2,31 +2,61 @@
 // SPDX-License-Identifier: MIT
 #include "PropertyPages.h"
 
+#include "AnimActionPage.h"
 #include "AnimBlockPage.h"
+#include "AnimFilePage.h"
+#include "AnimFramePage.h"
+#include "AnimNodePage.h"
+#include "AnimRotationPage.h"
+#include "AnimTranslationPage.h"
 #include "PageStack.h"
+#include "SkinnedMeshCnodePage.h"
+#include "SkinnedMeshHPPage.h"
 #include "SkinnedMeshNodePage.h"
 #include "SkinnedMeshPage.h"
+#include "SkinnedMeshSurfacePage.h"
+#include "SkinnedMeshTriIndexPage.h"
+#include "SkinnedMeshVertPage.h"
+#include "StaticMeshPage.h"
 #include "StaticMeshSurfacePage.h"
+#include "StaticMeshTriIndexPage.h"
+#include "StaticMeshVertPage.h"
 
 namespace {
-template <typename... Pages, typename Document>
-void add(PageStack &stack, Document &document, const KVTreeView &tree)
+template <typename Page, typename... Arguments>
+void add(PageStack &stack, Arguments &...arguments)
 {
-    (stack.addPage(new Pages(document, tree)), ...);
+    stack.addPage(new Page(arguments...));
 }
 } // namespace
 
 void addPages(PageStack &stack, SkinnedMeshDocument &document, const KVTreeView &tree)
 {
-    add<SkinnedMeshPage, SkinnedMeshNodePage>(stack, document, tree);
+    add<SkinnedMeshPage>(stack, document, tree);
+    add<SkinnedMeshCnodePage>(stack, document, tree);
+    add<SkinnedMeshHPPage>(stack, document, tree);
+    add<SkinnedMeshNodePage>(stack, document, tree);
+    add<SkinnedMeshSurfacePage>(stack, document, tree);
+    add<SkinnedMeshTriIndexPage>(stack, document, tree);
+    add<SkinnedMeshVertPage>(stack, document, tree);
 }
 
-void addPages(PageStack &stack, AnimDocument &document, const KVTreeView &tree)
+void addPages(PageStack &stack, AnimDocument &document, const KVTreeView &tree,
+              const SkinnedMeshDocument &mesh)
 {
+    add<AnimFilePage>(stack, document, tree);
     add<AnimBlockPage>(stack, document, tree);
+    add<AnimNodePage>(stack, document, tree, mesh);
+    add<AnimFramePage>(stack, document, tree);
+    add<AnimTranslationPage>(stack, document, tree);
+    add<AnimRotationPage>(stack, document, tree);
+    add<AnimActionPage>(stack, document, tree, mesh);
 }
 
 void addPages(PageStack &stack, StaticMeshDocument &document, const KVTreeView &tree)
 {
+    add<StaticMeshPage>(stack, document, tree);
     add<StaticMeshSurfacePage>(stack, document, tree);
+    add<StaticMeshTriIndexPage>(stack, document, tree);
+    add<StaticMeshVertPage>(stack, document, tree);
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "SkinnedMeshNodePage.h"
 
+#include "IndexTargets.h"
 #include "NameTables.h"
 #include "SkinnedMeshCommands.h"
 
@@ -22,6 +23,7 @@ SkinnedMeshNodePage::SkinnedMeshNodePage(ModelDocument<Model> &document, const K
     m_ui.cbNodeSymbolType->setNames(boneTypeNames());
     m_ui.cbNodeSymbolSide->setNames({tr("Left"), tr("Right")});
     m_ui.cbNodeImpactType->setNames(impactTypeNames());
+    m_ui.sbNodeDamageScale->setSingleStep(0.1f);
 
     using Page = SkinnedMeshNodePage;
     bind<UC_SkinnedMeshNodeSFlags>(m_ui.cbNodeSymbolType, SymbolType, tr("Bone Symbol Flags"),
@@ -58,6 +60,9 @@ QString SkinnedMeshNodePage::title() const
 
 void SkinnedMeshNodePage::recordShown()
 {
-    if (const SkinnedMeshNode *bone = record())
-        m_ui.cbNodeSymbolPart->setNames(bonePartNames(boneSymbol(bone->symbolFlags).type));
+    const SkinnedMeshNode *bone = record();
+    if (!bone)
+        return;
+    m_ui.cbNodeSymbolPart->setNames(bonePartNames(boneSymbol(bone->symbolFlags).type));
+    m_ui.hintNodeParentNode->setTarget(IndexTargets::parentBone(model(), bone->parentNode));
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "SkinnedMeshPage.h"
 
+#include "IndexTargets.h"
 #include "SkinnedMeshCommands.h"
 
 using namespace Parts;
@@ -30,5 +31,9 @@ QString SkinnedMeshPage::title() const
 
 void SkinnedMeshPage::recordShown()
 {
-    m_ui.lblSMVersion->setNum(model().version);
+    const SkinnedMesh &mesh = model();
+    m_ui.lblSMVersion->setNum(mesh.version);
+    m_ui.lblSMUnknown->setText(QStringLiteral("%1, %2").arg(mesh.unknownA).arg(mesh.unknownB));
+    m_ui.hintSMHTStart->setTarget(IndexTargets::bone(mesh, mesh.headTrackStart));
+    m_ui.hintSMHTEnd->setTarget(IndexTargets::bone(mesh, mesh.headTrackEnd));
 }

@@ -98,16 +98,17 @@ void tst_FolderExplorer::listsTheFolder()
 {
     for (const char *file :
          {"raptor/Raptor.v2.SkinnedMesh", "raptor/raptor.anim", "raptor/deep/er/tail.skinnedmesh",
-          "m10.skinnedmesh", "M2.skinnedmesh", "m1.skinnedmesh", ".skinnedmesh", "xskinnedmesh",
-          "empty/readme.txt", "a%1.skinnedmesh"})
-        touch(QLatin1String(file));
+          "m10.skinnedmesh", "M2.skinnedmesh", "m1.skinnedmesh", ".skinnedmesh", "m.skinnedmesh",
+          "m02b.skinnedmesh", "z.skinnedmesh", "\u00e4z.skinnedmesh", "xskinnedmesh", "empty/readme.txt",
+          "a%1.skinnedmesh"})
+        touch(QString::fromUtf8(file));
     QVERIFY(QFile::link(m_folder->path(), path("raptor/loop")));
     QVERIFY(QFile::link(path("m1.skinnedmesh"), path("linked.skinnedmesh")));
 
     const auto explorer = createExplorer();
     QCOMPARE(rows(explorer->tree()->invisibleRootItem()),
-             QStringList({"empty/", "raptor/", " deep/", "  er/", "   tail", " Raptor.v2", "a%1", "linked",
-                          "m1", "M2", "m10"}));
+             QStringList({"empty/", "raptor/", " deep/", "  er/", "   tail", " Raptor.v2", "a%1", "\u00e4z",
+                          "linked", "m", "m1", "M2", "m02b", "m10", "z"}));
     QCOMPARE(explorer->tree()->headerItem()->text(0), QFileInfo(m_folder->path()).fileName());
     QCOMPARE(find(*explorer, "tail")->data(0, FolderItem::FilePathRole).toString(),
              path("raptor/deep/er/tail.skinnedmesh"));

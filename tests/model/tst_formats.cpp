@@ -55,8 +55,9 @@ QByteArray hex(const char *text)
 /// Replaces the little-endian int32 at `offset`.
 QByteArray withInt32(QByteArray bytes, int offset, qint32 value)
 {
-    qToLittleEndian<qint32>(value, bytes.data() + offset);
-    return bytes;
+    char raw[sizeof value];
+    qToLittleEndian<qint32>(value, raw);
+    return bytes.replace(offset, sizeof raw, raw, sizeof raw);
 }
 } // namespace
 

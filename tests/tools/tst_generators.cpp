@@ -268,7 +268,7 @@ private slots:
             for (const AnimAction &action : block.actions)
                 QVERIFY(action.frame < block.frameCount() &&
                         (action.node == 0xFFFF || action.node < block.nodes.size()));
-            for (int frame = 0; frame < block.frameCount(); ++frame) {
+            for (int frame = 0; frame < block.frameCount(); frame += 4) {
                 const std::vector<Corner> corners = posed(m_tinker, boneMatrices(m_tinker, block, frame));
                 for (const Corner &corner : corners)
                     QVERIFY2(corner.position.z() > -3.0f, qPrintable(QStringLiteral("block %1 frame %2: %3")

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "AnimActionPage.h"
+
+#include "AnimCommands.h"
+#include "EventArguments.h"
+#include "IndexTargets.h"
+#include "NameTables.h"
+#include "Questions.h"
+
+using namespace Parts;
+
+AnimActionPage::AnimActionPage(ModelDocument<Model> &document, const KVTreeView &tree,
+                               const SkinnedMeshDocument &mesh, QWidget *parent)
+    : RecordPage(document, tree, parent)
+    , m_mesh(mesh)
+{
+    m_ui.setupUi(this);
+    m_ui.cbAnimActionEventType->setNames(eventTypeNames());
+
+    connect(&mesh, &Document::replaced, this, &AnimActionPage::recordShown);
+    connect(&mesh, &Document::recordsChanged, this, &AnimActionPage::recordShown);
+
+    using Page = AnimActionPage;
+    bind<UC_AnimActionEventType>(m_ui.cbAnimActionEventType, Whole, tr("Key Frame Action Event Type"),
+                                 &Page::OnAnimActionEventTypeChanged);
+    bind<UC_AnimActionFrame>(m_ui.sbAnimActionFrame, Whole, tr("Key Frame Action Frame"),
+                             &Page::OnAnimActionFrameChanged);
+    bind<UC_AnimActionNode>(m_ui.sbAnimActionNode, Whole, tr("Key Frame Action Node"),
+                            &Page::OnAnimActionNodeChanged);
+    bind<UC_AnimActionOffset>(m_ui.sbAnimActionOffsetX, X, tr("Key Frame Action Offset X"),
+                              &Page::OnAnimActionOffsetXChanged);
+    bind<UC_AnimActionOffset>(m_ui.sbAnimActionOffsetY, Y, tr("Key Frame Action Offset Y"),
+                              &Page::OnAnimActionOffsetYChanged);
+    bind<UC_AnimActionOffset>(m_ui.sbAnimActionOffsetZ, Z, tr("Key Frame Action Offset Z"),
+                              &Page::OnAnimActionOffsetZChanged);
+    m_arguments = {{{m_ui.lblAnimActionArg1, m_ui.sbAnimActionArg1},
+                    {m_ui.lblAnimActionArg2, m_ui.sbAnimActionArg2},
+                    {m_ui.lblAnimActionArg3, m_ui.sbAnimActionArg3},
+                    {m_ui.lblAnimActionArg4, m_ui.sbAnimActionArg4},
+                    {m_ui.lblAnimActionArg5, m_ui.sbAnimActionArg5},
+                    {m_ui.lblAnimActionArg6, m_ui.sbAnimActionArg6},
+                    {m_ui.lblAnimActionArg7, m_ui.sbAnimActionArg7},
+                    {m_ui.lblAnimActionArg8, m_ui.sbAnimActionArg8}}};
+    for (int i = 0; i < int(m_arguments.size()); ++i)
+        bind<UC_AnimActionArgs>(m_arguments[size_t(i)].editor, Component{i}, tr("Key Frame Action Args"),
+                                &Page::OnAnimActionArgsChanged);
+    connect(m_ui.btnAnimActionPositionToBone, &QPushButton::clicked, this, &Page::OnAnimActionPositionToBone);
+}
+
+QString AnimActionPage::title() const
+{
+    return tr("Anim %1 - Key Frame Action %2 Properties")
+        .arg(QString::number(index()[0]), QString::number(index()[1]));
+}
+
+void AnimActionPage::recordShown()
+{
+    const AnimAction *action = record();
+    if (!action)
+        return;
+    const AnimBlock &block = model().blocks[size_t(index()[0])];
+    m_ui.hintAnimActionFrame->setTarget(IndexTargets::actionFrame(block, action->frame));
+    m_ui.hintAnimActionNode->setTarget(IndexTargets::actionBone(block, m_mesh.model(), action->node));
+    nameArguments(action->eventType);
+}
+
+void AnimActionPage::nameArguments(int eventType)
+{
+    for (int i = 0; i < int(m_arguments.size()); ++i) {
+        const auto &[label, editor] = m_arguments[size_t(i)];
+        const EventArgument meaning = eventArgument(eventType, i);
+        const bool isDamage = meaning.question == Question::Damage;
+        label->setText(meaning.label ? QCoreApplication::translate("EventArguments", meaning.label)
+                                     : tr("Arg %1").arg(i + 1));
+        label->setToolTip(isDamage ? tr("Damage is this value / 256. Example: 64 damage = 16384\n"
+                                        "By default most enemies head have damage scaling of 10.\n"
+                                        "Which means head shots will take 640 damage.")
+                                   : QString());
+        Questions::set(editor, Questions::allAfter(meaning.question));
+    }
+}
+
+void AnimActionPage::OnAnimActionPositionToBone()
+{
+    // Offsets are relative to the bone that carries them, whatever its pose: its own place is the origin.
+    edit<UC_AnimActionOffset>(Whole, QVector3D(), tr("Key Frame Action Position To Bone"));
+}

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "AnimFramePage.h"
+
+#include "AnimCommands.h"
+
+#include <QtMath>
+
+using namespace Parts;
+
+AnimFramePage::AnimFramePage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent)
+    : RecordPage(document, tree, parent)
+{
+    m_ui.setupUi(this);
+    m_ui.sbAnimFrameYaw->setSingleStep(0.1f);
+
+    using Page = AnimFramePage;
+    bind<UC_AnimFrameYaw>(m_ui.sbAnimFrameYaw, Whole, tr("Frame Yaw Offset"), &Page::OnAnimFrameYawChanged);
+}
+
+QString AnimFramePage::title() const
+{
+    return tr("Anim %1 - Frame %2 Properties").arg(QString::number(index()[0]), QString::number(index()[1]));
+}
+
+void AnimFramePage::recordShown()
+{
+    if (const AnimFrame *frame = record())
+        m_ui.lblAnimFrameDegrees->setText(
+            tr("%1\u00b0").arg(qRadiansToDegrees(double(frame->yawOffset)), 0, 'g', 5));
+}

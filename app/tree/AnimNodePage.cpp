@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "AnimNodePage.h"
+
+#include "AnimCommands.h"
+#include "AxisAngle.h"
+#include "IndexTargets.h"
+
+using namespace Parts;
+
+AnimNodePage::AnimNodePage(ModelDocument<Model> &document, const KVTreeView &tree,
+                           const SkinnedMeshDocument &mesh, QWidget *parent)
+    : RecordPage(document, tree, parent)
+    , m_mesh(mesh)
+{
+    m_ui.setupUi(this);
+    for (FloatSpinBox *editor :
+         {m_ui.sbAnimNodeInitRotX, m_ui.sbAnimNodeInitRotY, m_ui.sbAnimNodeInitRotZ, m_ui.sbAnimNodeInitRotW})
+        editor->setSingleStep(0.01f);
+
+    connect(&mesh, &Document::replaced, this, &AnimNodePage::recordShown);
+    connect(&mesh, &Document::recordsChanged, this, &AnimNodePage::recordShown);
+
+    using Page = AnimNodePage;
+    bind<UC_AnimNodeTransIndex>(m_ui.sbAnimNodeTransIndex, Whole, tr("Bone Translation Index"),
+                                &Page::OnAnimNodeTransIndexChanged);
+    bind<UC_AnimNodeRotIndex>(m_ui.sbAnimNodeRotIndex, Whole, tr("Bone Rotation Index"),
+                              &Page::OnAnimNodeRotIndexChanged);
+    bind<UC_AnimNodeInitTrans>(m_ui.sbAnimNodeInitTransX, X, tr("Bone Initial Translation X"),
+                               &Page::OnAnimNodeInitTransXChanged);
+    bind<UC_AnimNodeInitTrans>(m_ui.sbAnimNodeInitTransY, Y, tr("Bone Initial Translation Y"),
+                               &Page::OnAnimNodeInitTransYChanged);
+    bind<UC_AnimNodeInitTrans>(m_ui.sbAnimNodeInitTransZ, Z, tr("Bone Initial Translation Y"),
+                               &Page::OnAnimNodeInitTransZChanged);
+    bind<UC_AnimNodeInitRot>(m_ui.sbAnimNodeInitRotX, X, tr("Bone Initial Rotation X"),
+                             &Page::OnAnimNodeInitRotXChanged);
+    bind<UC_AnimNodeInitRot>(m_ui.sbAnimNodeInitRotY, Y, tr("Bone Initial Rotation Y"),
+                             &Page::OnAnimNodeInitRotYChanged);
+    bind<UC_AnimNodeInitRot>(m_ui.sbAnimNodeInitRotZ, Z, tr("Bone Initial Rotation Z"),
+                             &Page::OnAnimNodeInitRotZChanged);
+    bind<UC_AnimNodeInitRot>(m_ui.sbAnimNodeInitRotW, W, tr("Bone Initial Rotation W"),
+                             &Page::OnAnimNodeInitRotWChanged);
+}
+
+QString AnimNodePage::title() const
+{
+    return tr("Anim %1 - Bone %2 Properties").arg(QString::number(index()[0]), QString::number(index()[1]));
+}
+
+void AnimNodePage::recordShown()
+{
+    const AnimNode *bone = record();
+    if (!bone)
+        return;
+    const AnimBlock &block = model().blocks[size_t(index()[0])];
+    m_ui.lblAnimNodeBone->setText(IndexTargets::blockBone(block, m_mesh.model(), index()[1]).text);
+    m_ui.hintAnimNodeTransIndex->setTarget(IndexTargets::translationTrack(block, bone->translationIndex));
+    m_ui.hintAnimNodeRotIndex->setTarget(IndexTargets::rotationTrack(block, bone->rotationIndex));
+    const AxisAngle turn = axisAngle(bone->initialRotation);
+    m_ui.lblAnimNodeInitRotTurn->setText(
+        tr("%1\u00b0 about %2").arg(QString::number(double(turn.degrees), 'g', 4), axisText(turn)));
+}

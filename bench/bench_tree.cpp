@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "Bench.h"
+#include "KVTreeView.h"
+#include "RecordItem.h"
+#include "SkinnedMeshCommands.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+#include <malloc.h>
+
+// The tree of a mesh with half a million records against as many bare items added at once, the memory of an
+// item, making one of them current, and one field edited in 20,000 selected bones.
+namespace {
+constexpr int Items = 500000;
+constexpr int Edited = 20000;
+
+size_t allocatedBytes()
+{
+    return mallinfo2().uordblks + mallinfo2().hblkhd;
+}
+
+struct MeshTree
+{
+    SkinnedMeshDocument document{DocumentType::SkinnedMesh, RecordKind::SkinnedMesh};
+    KVTreeView tree;
+
+    MeshTree(SkinnedMesh mesh)
+    {
+        // Through a file, as every model comes.
+        QTemporaryDir home;
+        const QString path = home.filePath(QStringLiteral("mesh.skinnedmesh"));
+        QString reason;
+        if (mesh.write(path) || document.open(path, &reason))
+            qFatal("no mesh to measure");
+        tree.setDocument(&document);
+    }
+};
+
+SkinnedMesh meshOf(int bones, int vertices)
+{
+    SkinnedMesh mesh;
+    mesh.nodes.resize(size_t(bones));
+    mesh.surfaces.resize(1);
+    mesh.vertices.resize(size_t(vertices));
+    return mesh;
+}
+
+/// Selects `count` bones, edits them in one macro, and takes it back: seconds of each.
+std::pair<double, double> editAndUndo(int count)
+{
+    MeshTree bones(meshOf(count, 0));
+    bones.tree.rebuild();
+    QVector<RecordRef> records;
+    for (int i = 0; i < count; ++i)
+        records.append({RecordKind::Bone, {i, 0, 0}});
+    bones.tree.selectRecords(records, records.last());
+    QUndoStack *stack = bones.document.undoStack();
+    const double edit = Bench::seconds([&] {
+        stack->beginMacro(QStringLiteral("edit"));
+        for (const RecordIndex &index : bones.tree.selectedRecords(RecordKind::Bone))
+            stack->push(new UC_SkinnedMeshNodeDamageScale(bones.document.editTarget(), index, 2.0f));
+        stack->endMacro();
+    });
+    const double undo = Bench::seconds([&] { stack->undo(); });
+    if (bones.tree.selectedCount(RecordKind::Bone) != count)
+        qFatal("the selection was lost");
+    return {edit, undo};
+}
+
+void reportEdits()
+{
+    std::vector<double> edits;
+    std::vector<double> undos;
+    std::vector<double> doubles;
+    for (int i = 0; i < 5; ++i) {
+        const auto [edit, undo] = editAndUndo(Edited);
+        edits.push_back(edit * 1e3);
+        undos.push_back(undo * 1e3);
+        doubles.push_back(editAndUndo(2 * Edited).first / edit);
+    }
+    Bench::addLimitLine("edit_20000_records", Bench::median(edits), 150, "ms");
+    Bench::addLimitLine("undo_20000_records", Bench::median(undos), 150, "ms");
+    Bench::addLimitLine("edit_twice_as_many", Bench::median(doubles), 2.3, "x");
+}
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QTemporaryDir settings;
+    QCoreApplication::setOrganizationName(QStringLiteral("KorvaneBench"));
+    QCoreApplication::setApplicationName(QStringLiteral("Korvane"));
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+    const QApplication application(argc, argv);
+    Settings::HideMeshData.setValue(false);
+
+    MeshTree mesh(meshOf(1, Items));
+    QTreeWidget bare;
+    bare.setUniformRowHeights(true);
+    Bench::ratio(
+        "tree_500000_items", 1.2, 7, [&mesh] { mesh.tree.rebuild(); },
+        [&bare] {
+            bare.clear();
+            QList<QTreeWidgetItem *> items;
+            items.reserve(Items);
+            for (int i = 0; i < Items; ++i)
+                items.append(new QTreeWidgetItem);
+            bare.addTopLevelItems(items);
+        });
+    int row = 0;
+    mesh.tree.show();
+    Bench::limit("tree_select_one", 0.005, 20, [&mesh, &row] {
+        row = (row + 12345) % Items;
+        mesh.tree.selectRecords({{RecordKind::SkinnedVertex, {row, 0, 0}}},
+                                {RecordKind::SkinnedVertex, {row, 0, 0}});
+    });
+
+    mesh.tree.clear();
+    const size_t before = allocatedBytes();
+    mesh.tree.rebuild();
+    Bench::addLimitLine("tree_bytes_an_item", double(allocatedBytes() - before) / Items, 256, "B");
+    reportEdits();
+    return Bench::run(argc, argv);
+}

@@ -19,7 +19,7 @@ inline void set(QWidget *editor, const QStringList &questions)
     editor->setProperty(Property, questions);
 }
 
-inline QStringList of(const QWidget *editor)
+inline QStringList of(const QObject *editor)
 {
     return editor->property(Property).toStringList();
 }

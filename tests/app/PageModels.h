@@ -109,10 +109,12 @@ inline AnimFile oddAnim()
             node = {odd3(), odd4(), 7, 65535};
         for (AnimFrame &frame : block.frames)
             frame.yawOffset = odd();
-        for (QVector3D &key : block.translations.keys())
-            key = odd3();
-        for (QVector4D &key : block.rotations.keys())
-            key = odd4();
+        for (int track = 0; track < 2; ++track) {
+            for (int frame = 0; frame < block.frameCount(); ++frame) {
+                block.translations.at(track, frame) = odd3();
+                block.rotations.at(track, frame) = odd4();
+            }
+        }
         for (AnimAction &action : block.actions)
             action = {999, 65535, 70, odd3(), {odd(), odd(), odd(), odd(), odd(), odd(), odd(), odd()}};
         block.actions[0].eventType = 35;

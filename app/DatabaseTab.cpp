@@ -61,7 +61,7 @@ DatabaseTab::DatabaseTab(QWidget *parent)
         made->setObjectName(QLatin1String(name));
         return made;
     };
-    QPushButton *folder = button("btnDBFolder", tr("Open &Folder of Own Tables"), "folderopen");
+    QPushButton *folder = button("btnDBFolder", tr("Open Folder of O&wn Tables"), "folderopen");
     folder->setToolTip(tr("Tables in this folder (%1) take the place of the built-in ones")
                            .arg(QStringLiteral("actors.txt … impacts.txt")));
     QPushButton *again = button("btnDBReload", tr("&Load Again"), "refresh");
@@ -161,7 +161,7 @@ void DatabaseTab::applyFilter(const Page &page)
         shown += fits;
     }
     page.table->setUpdatesEnabled(true);
-    page.count->setText(wanted.isEmpty() ? tr("%n row(s)", nullptr, rows)
+    page.count->setText(wanted.isEmpty() ? tr("%1 rows").arg(rows)
                                          : tr("%1 of %2 rows").arg(shown).arg(rows));
 }
 
@@ -176,7 +176,7 @@ void DatabaseTab::copyRows(const QTableWidget *table)
         return;
     QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
     emit told(lines.size() == 1 ? tr("Copied \"%1\"").arg(lines.first())
-                                : tr("Copied %n row(s)", nullptr, lines.size()));
+                                : tr("Copied %1 rows").arg(lines.size()));
 }
 
 bool DatabaseTab::eventFilter(QObject *watched, QEvent *event)

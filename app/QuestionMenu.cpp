@@ -96,14 +96,16 @@ QMenu *QuestionMenu::createMenu(QObject *editor)
                 continue;
             auto *action = new QAction(tr(questions[i].text), menu);
             menu->insertAction(first, action);
-            // The menu is no part of the field and may outlive it.
-            connect(action, &QAction::triggered, this, [this, i, isWhole, field = QPointer<QObject>(editor)] {
+            // Queued, so that the answer's box does not run from within the menu. The menu is no part of the
+            // field and may outlive it.
+            const auto answer = [this, i, isWhole, field = QPointer<QObject>(editor)] {
                 if (field)
                     ask(i, field);
                 else
                     Log::error(isWhole ? tr("Failed to check Spinbox ID")
                                        : tr("Failed to check DoubleSpinbox ID"));
-            });
+            };
+            connect(action, &QAction::triggered, this, answer, Qt::QueuedConnection);
         }
     }
     if (menu->actions().value(0) != first)

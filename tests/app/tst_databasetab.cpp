@@ -250,15 +250,17 @@ QStringList tst_DatabaseTab::ask(QWidget *editor, int question)
         return {};
     QAction *action = menu->actions().at(question);
     QStringList answer{action->text()};
-    QTimer::singleShot(0, this, [&answer] {
+    QTimer watch;
+    connect(&watch, &QTimer::timeout, this, [&answer] {
         if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
             answer << box->windowTitle() << box->text();
             box->accept();
         }
     });
+    watch.start(1);
     menu->setActiveAction(action);
     QTest::keyClick(menu, Qt::Key_Return);
-    return answer;
+    return QTest::qWaitFor([&answer] { return answer.size() == 3; }) ? answer : QStringList();
 }
 
 void tst_DatabaseTab::questions_data()
@@ -320,7 +322,7 @@ void tst_DatabaseTab::questionsOfOtherEditors()
     real.reset();
     for (const auto &each : menus)
         each->actions().first()->trigger();
-    QCOMPARE(m_errors, QStringList({"Failed to check Spinbox ID", "Failed to check DoubleSpinbox ID"}));
+    QTRY_COMPARE(m_errors, QStringList({"Failed to check Spinbox ID", "Failed to check DoubleSpinbox ID"}));
 }
 
 void tst_DatabaseTab::damage_data()

@@ -6,6 +6,15 @@
 
 #include <QFileInfo>
 
+namespace {
+/// The index that an entry of a list holds.
+QString entryText(const std::vector<quint16> &list, int entry)
+{
+    const quint16 *held = Records::element(list, entry);
+    return held ? QString::number(*held) : QString();
+}
+} // namespace
+
 #include <utility>
 
 Document::Document(DocumentType type, RecordKind rootKind, QObject *parent)
@@ -72,10 +81,14 @@ QString SkinnedMeshDocument::recordText(const RecordRef &record) const
     switch (record.kind) {
     case RecordKind::Bone:
         return boneSymbolName(m_model, index[0]);
-    case RecordKind::ChildBone:
-        return QString::number(m_model.nodes[size_t(index[0])].childNodes[size_t(index[1])]);
-    case RecordKind::SkinnedTriangleIndex:
-        return QString::number(m_model.surfaces[size_t(index[0])].triangleIndexes[size_t(index[1])]);
+    case RecordKind::ChildBone: {
+        const SkinnedMeshNode *bone = Records::element(m_model.nodes, index[0]);
+        return bone ? entryText(bone->childNodes, index[1]) : QString();
+    }
+    case RecordKind::SkinnedTriangleIndex: {
+        const SkinnedMeshSurface *surface = Records::element(m_model.surfaces, index[0]);
+        return surface ? entryText(surface->triangleIndexes, index[1]) : QString();
+    }
     default:
         return {};
     }
@@ -90,11 +103,10 @@ QString AnimDocument::recordText(const RecordRef &) const
 template <>
 QString StaticMeshDocument::recordText(const RecordRef &record) const
 {
-    if (record.kind == RecordKind::StaticTriangleIndex) {
-        return QString::number(
-            m_model.surfaces[size_t(record.index[0])].triangleIndexes[size_t(record.index[1])]);
-    }
-    return {};
+    const StaticMeshSurface *surface = record.kind == RecordKind::StaticTriangleIndex
+                                           ? Records::element(m_model.surfaces, record.index[0])
+                                           : nullptr;
+    return surface ? entryText(surface->triangleIndexes, record.index[1]) : QString();
 }
 
 template <typename Model>

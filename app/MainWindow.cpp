@@ -47,7 +47,7 @@ MainWindow::MainWindow(QWidget *parent)
     new StructureActions({m_skinnedMesh, m_ui->treeSkinnedMesh}, {m_anim, m_ui->treeAnim},
                          {m_staticMesh, m_ui->treeStaticMesh}, this);
     new QuestionMenu(*m_ui->tabDatabase, this);
-    createMenus();
+    createViewMenu();
     connectPlayback();
     auto *geometry = new WindowGeometry(this);
     restoreLayout();
@@ -182,7 +182,7 @@ void MainWindow::createUndoActions()
     m_ui->toolBarEdit->addActions({undo, redo});
 }
 
-void MainWindow::createMenus()
+void MainWindow::createViewMenu()
 {
     m_ui->menuView->addSeparator();
     m_ui->menuView->addActions({m_ui->toolBarFile->toggleViewAction(), m_ui->toolBarEdit->toggleViewAction(),
@@ -274,6 +274,8 @@ void MainWindow::updateCurrentDocument()
     for (KVOpenGLWidget *viewport : viewports())
         viewport->setActive(current && current->viewport == viewport);
 
+    if (!current)
+        statusBar()->clearMessage();
     m_ui->actionOpen->setEnabled(document);
     m_ui->actionSave->setEnabled(isOpen);
     m_ui->actionSaveAs->setEnabled(isOpen);

@@ -76,7 +76,7 @@ private:
     void createConsole();
     void createPanes();
     void createViewToolBars();
-    void createMenus();
+    void createViewMenu();
     void readSettings();
     void createUndoActions();
     void restoreLayout();

@@ -6,6 +6,7 @@
 #include "DatabaseTables.h"
 #include "FloatSpinBox.h"
 #include "Log.h"
+#include "Questions.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -19,30 +20,28 @@
 #include <optional>
 
 namespace {
-struct Question
+struct QuestionText
 {
-    const char *key;
+    QLatin1String key;
     const char *text;
     const char *title;
     ReferenceKind table; ///< of no meaning for damage, which is calculated
 };
 
-constexpr const char *Damage = "damage";
-
-const Question questions[] = {
-    {"actor", QT_TRANSLATE_NOOP("QuestionMenu", "What Actor is this?"),
+const QuestionText questions[] = {
+    {Question::Actor, QT_TRANSLATE_NOOP("QuestionMenu", "What Actor is this?"),
      QT_TRANSLATE_NOOP("QuestionMenu", "Actor"), ReferenceKind::Actors},
-    {"animation", QT_TRANSLATE_NOOP("QuestionMenu", "What Animation is this?"),
+    {Question::Animation, QT_TRANSLATE_NOOP("QuestionMenu", "What Animation is this?"),
      QT_TRANSLATE_NOOP("QuestionMenu", "Animation"), ReferenceKind::Animations},
-    {"sound", QT_TRANSLATE_NOOP("QuestionMenu", "What Sound is this?"),
+    {Question::Sound, QT_TRANSLATE_NOOP("QuestionMenu", "What Sound is this?"),
      QT_TRANSLATE_NOOP("QuestionMenu", "Sound"), ReferenceKind::Sounds},
-    {"voice", QT_TRANSLATE_NOOP("QuestionMenu", "What Voice is this?"),
+    {Question::Voice, QT_TRANSLATE_NOOP("QuestionMenu", "What Voice is this?"),
      QT_TRANSLATE_NOOP("QuestionMenu", "Voice"), ReferenceKind::Voices},
-    {"particle", QT_TRANSLATE_NOOP("QuestionMenu", "What Particle is this?"),
+    {Question::Particle, QT_TRANSLATE_NOOP("QuestionMenu", "What Particle is this?"),
      QT_TRANSLATE_NOOP("QuestionMenu", "Particle"), ReferenceKind::Particles},
-    {"impact", QT_TRANSLATE_NOOP("QuestionMenu", "What Impact Type is this?"),
+    {Question::Impact, QT_TRANSLATE_NOOP("QuestionMenu", "What Impact Type is this?"),
      QT_TRANSLATE_NOOP("QuestionMenu", "Impact Types"), ReferenceKind::Impacts},
-    {Damage, QT_TRANSLATE_NOOP("QuestionMenu", "How much damage is this?"),
+    {Question::Damage, QT_TRANSLATE_NOOP("QuestionMenu", "How much damage is this?"),
      QT_TRANSLATE_NOOP("QuestionMenu", "Actual Damage"), ReferenceKind::Actors},
 };
 
@@ -68,7 +67,7 @@ QuestionMenu::QuestionMenu(const DatabaseTab &tables, QObject *parent)
 
 bool QuestionMenu::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() != QEvent::ContextMenu || !watched->property(property).isValid())
+    if (event->type() != QEvent::ContextMenu || !watched->property(Questions::Property).isValid())
         return QObject::eventFilter(watched, event);
     QMenu *menu = createMenu(watched);
     if (!menu)
@@ -90,10 +89,10 @@ QMenu *QuestionMenu::createMenu(QObject *editor)
     QMenu *menu = text->createStandardContextMenu();
     QAction *first = menu->actions().value(0);
     const bool isWhole = qobject_cast<QSpinBox *>(editor);
-    const QStringList keys = editor->property(property).toStringList();
+    const QStringList keys = Questions::of(editor);
     for (const QString &key : keys) {
         for (int i = 0; i < int(std::size(questions)); ++i) {
-            if (key != QLatin1String(questions[i].key))
+            if (key != questions[i].key)
                 continue;
             auto *action = new QAction(tr(questions[i].text), menu);
             menu->insertAction(first, action);
@@ -125,10 +124,11 @@ QMenu *QuestionMenu::createMenu(QObject *editor)
 
 void QuestionMenu::ask(int question, QObject *editor) const
 {
-    const Question &asked = questions[question];
+    const QuestionText &asked = questions[question];
     const double value = *valueOf(editor);
-    const QString answer = asked.key == Damage ? damageText(float(value))
-                                               : lookupDatabaseName(m_tables.table(asked.table), value);
+    const QString answer = asked.key == Question::Damage
+                               ? damageText(float(value))
+                               : lookupDatabaseName(m_tables.table(asked.table), value);
     QMessageBox::information(static_cast<QWidget *>(editor)->window(), tr(asked.title), answer);
 }
 

@@ -10,16 +10,13 @@ class QMenu;
 
 /// The context menu of number fields whose value names something: "What Actor is this?" and the like.
 ///
-/// It serves every spin box of the program that has the property "questions", a list of "actor",
-/// "animation", "sound", "voice", "particle", "impact" and "damage". The property is read when the menu
-/// opens, so it may change with what the field means.
+/// It serves every spin box of the program that carries Questions. They are read when the menu opens, so they
+/// may change with what the field means.
 class QuestionMenu : public QObject
 {
     Q_OBJECT
 
 public:
-    static constexpr const char *property = "questions";
-
     /// `tables` answers; it outlives the menu.
     QuestionMenu(const DatabaseTab &tables, QObject *parent);
 

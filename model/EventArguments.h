@@ -2,22 +2,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QLatin1String>
+
 /// What one of the arguments of a key frame action means to its event.
 struct EventArgument
 {
     const char *label; ///< null: it has no name but "Arg 1" to "Arg 8"; to be translated in "EventArguments"
-    const char *question; ///< what its number stands for, one of Question; null: nothing that has a name
+    QLatin1String question; ///< what its number stands for, one of Question; null: nothing that has a name
 };
 
 /// What numbers of the model files stand for.
 namespace Question {
-inline constexpr const char *Actor = "actor";
-inline constexpr const char *Animation = "animation";
-inline constexpr const char *Sound = "sound";
-inline constexpr const char *Voice = "voice";
-inline constexpr const char *Particle = "particle";
-inline constexpr const char *Impact = "impact";
-inline constexpr const char *Damage = "damage"; ///< 256 times the damage
+inline constexpr QLatin1String Actor{"actor"};
+inline constexpr QLatin1String Animation{"animation"};
+inline constexpr QLatin1String Sound{"sound"};
+inline constexpr QLatin1String Voice{"voice"};
+inline constexpr QLatin1String Particle{"particle"};
+inline constexpr QLatin1String Impact{"impact"};
+inline constexpr QLatin1String Damage{"damage"}; ///< 256 times the damage
 } // namespace Question
 
 /// The meaning of argument 0 to 7 of any event type.

@@ -7,10 +7,12 @@
 /// A change of what a list holds, as opposed to a change of one of its records.
 struct StructureChange
 {
-    RecordRef
-        record; ///< the record put in or taken out; or the record below which lists changed their lengths
-    int added;  ///< 1: put in, -1: taken out, 0: lists below `record` have other lengths
-    RecordRef select; ///< the record, or the group, that is to be shown afterwards
+    /// The record put in or taken out, or the one below which lists changed their lengths.
+    RecordRef record;
+    /// 1: put in, -1: taken out, 0: lists below `record` have other lengths.
+    int added;
+    /// The record, or the group, that is to be shown afterwards.
+    RecordRef select;
 };
 
 /// The screen, as undo commands see it. Whoever shows the record refreshes it, selects it, and follows its

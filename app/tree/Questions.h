@@ -19,17 +19,17 @@ inline void set(QWidget *editor, const QStringList &questions)
     editor->setProperty(Property, questions);
 }
 
-inline QStringList of(const QWidget *editor)
+inline QStringList of(const QObject *editor)
 {
     return editor->property(Property).toStringList();
 }
 
 /// Every question, the fitting one (if any) first.
-inline QStringList allAfter(const char *fitting)
+inline QStringList allAfter(QLatin1String fitting)
 {
     QStringList questions{Question::Actor,    Question::Animation, Question::Sound, Question::Voice,
                           Question::Particle, Question::Impact,    Question::Damage};
-    if (fitting) {
+    if (!fitting.isNull()) {
         questions.removeOne(fitting);
         questions.prepend(fitting);
     }

@@ -5,6 +5,7 @@
 #include "FloatSpinBox.h"
 #include "Log.h"
 #include "QuestionMenu.h"
+#include "Questions.h"
 #include "TestSupport.h"
 
 #include <QApplication>
@@ -292,7 +293,7 @@ void tst_DatabaseTab::questions()
     window.show();
     for (QWidget *editor :
          {static_cast<QWidget *>(whole), static_cast<QWidget *>(real), static_cast<QWidget *>(single)}) {
-        editor->setProperty(QuestionMenu::property, QStringList{key, "damage"});
+        editor->setProperty(Questions::Property, QStringList{key, "damage"});
         QCOMPARE(ask(editor, 0), answer);
         QCOMPARE(ask(editor, 1).mid(0, 2), QStringList({"How much damage is this?", "Actual Damage"}));
     }
@@ -304,7 +305,7 @@ void tst_DatabaseTab::questionsOfOtherEditors()
     QWidget window;
     QuestionMenu menu(*m_tab, &window);
     QLineEdit line(&window);
-    line.setProperty(QuestionMenu::property, QStringList("actor"));
+    line.setProperty(Questions::Property, QStringList("actor"));
     QVERIFY(!menu.createMenu(&line));
     QCOMPARE(m_errors, QStringList("QObject is not a spinbox or DoubleSpinbox "));
 
@@ -314,7 +315,7 @@ void tst_DatabaseTab::questionsOfOtherEditors()
     auto real = std::make_unique<FloatSpinBox>();
     std::vector<std::unique_ptr<QMenu>> menus;
     for (QWidget *editor : {static_cast<QWidget *>(whole.get()), static_cast<QWidget *>(real.get())}) {
-        editor->setProperty(QuestionMenu::property, QStringList("actor"));
+        editor->setProperty(Questions::Property, QStringList("actor"));
         menus.emplace_back(menu.createMenu(editor))->setParent(nullptr);
     }
     whole.reset();

@@ -9,6 +9,8 @@
 #include <cmath>
 #include <limits>
 
+Q_DECLARE_METATYPE(PlayState)
+
 // Which frames a time falls between, where it loops, and what the label says.
 class tst_Playback : public QObject
 {
@@ -229,6 +231,5 @@ void tst_Playback::clock()
     QCOMPARE(scene.state.time, 0.25f);
 }
 
-Q_DECLARE_METATYPE(PlayState)
 QTEST_GUILESS_MAIN(tst_Playback)
 #include "tst_playback.moc"

@@ -36,7 +36,8 @@ template <typename Vector, std::enable_if_t<std::is_class_v<Vector>, int> = 0>
 Vector other(Vector value)
 {
     // The last component, so that a field that stores only its first is found out.
-    value[int(sizeof(Vector) / sizeof(float)) - 1] += 1.5f;
+    auto &last = value[int(sizeof(Vector) / sizeof(value[0])) - 1];
+    last = other(last);
     return value;
 }
 

@@ -1,0 +1,463 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "IndexHint.h"
+#include "PageModels.h"
+#include "Panes.h"
+#include "Questions.h"
+#include "RecordItem.h"
+#include "Settings.h"
+#include "TestSupport.h"
+
+#include <QSpinBox>
+
+#include <cmath>
+
+using namespace PageModels;
+
+namespace {
+/// The step that an editor makes. `axes` stands for one editor each, whose letter replaces % in both texts.
+struct Step
+{
+    const char *editor;
+    const char *text;
+    const char *axes = nullptr;
+};
+
+const Step steps[] = {
+    {"sbSMBBMin%", "Bounding Box Min", "XYZ"},
+    {"sbSMBBMax%", "Bounding Box Max", "XYZ"},
+    {"sbSMHTStart", "Head Track Start Bone"},
+    {"sbSMHTEnd", "Head Track End Bone"},
+    {"sbSMHTFactor", "Head Track Factor"},
+    {"sbCNIIndex", "Child Bone Index"},
+    {"sbHPOrigin%", "Hot Point Origin %", "XYZ"},
+    {"sbHPNodeID", "Hot Point BoneID"},
+    {"cbHPDealDamage", "Hot Point Particle Effect 1"},
+    {"sbHPEffect%", "Hot Point Particle Effect %", "12"},
+    {"flagsHP", "Hot Point Flags"},
+    {"cbNodeSymbolType", "Bone Symbol Flags"},
+    {"cbNodeSymbolSide", "Bone Symbol Flags"},
+    {"cbNodeSymbolPart", "Bone Symbol Flags"},
+    {"sbNodeParentNode", "Parent Bone Index"},
+    {"cbNodeImpactType", "Bone Impact Type"},
+    {"sbNodeDamageScale", "Bone Damage Scale"},
+    {"sbNodeBBMin%", "Bone Bounding Box Min %", "XYZ"},
+    {"sbNodeBBMax%", "Bone Bounding Box Max %", "XYZ"},
+    {"flagsNode", "Bone Flags"},
+    {"txtSMSurfaceMaterial", "Surface Material"},
+    {"sbSMTIIndex", "Triangle Index"},
+    {"sbSMVertPosition%", "Vertex Position %", "XYZ"},
+    {"sbSMVertNormal%", "Vertex Normal %", "XYZ"},
+    {"sbSMVertUV%", "Vertex UV %", "XY"},
+    {"sbSMVertNodeIndex", "Vertex Bone Index"},
+    {"sbAnimAnimID", "Animation AnimID"},
+    {"sbAnimFrameScale", "Animation Frame Scale"},
+    {"sbAnimBlendLength", "Animation Blend Length"},
+    {"sbAnimBlendStart", "Animation Blend Start"},
+    {"sbAnimBlendEnd", "Animation Blend End"},
+    {"sbAnimSpeed", "Animation Speed"},
+    {"sbAnimLoopFrame", "Animation Loop Frame"},
+    {"sbAnimNodeTransIndex", "Bone Translation Index"},
+    {"sbAnimNodeRotIndex", "Bone Rotation Index"},
+    {"sbAnimNodeInitTrans%", "Bone Initial Translation %", "XY"},
+    {"sbAnimNodeInitTransZ", "Bone Initial Translation Y"}, // as it always was
+    {"sbAnimNodeInitRot%", "Bone Initial Rotation %", "XYZW"},
+    {"sbAnimFrameYaw", "Frame Yaw Offset"},
+    {"sbAnimTranslation%", "Animation Translation %", "XYZ"},
+    {"sbAnimRotation%", "Animation Rotation %", "XYZW"},
+    {"sbAnimRotationAngle", "Animation Rotation Angle"},
+    {"sbAnimActionFrame", "Key Frame Action Frame"},
+    {"sbAnimActionNode", "Key Frame Action Node"},
+    {"sbAnimActionOffset%", "Key Frame Action Offset %", "XYZ"},
+    {"cbAnimActionEventType", "Key Frame Action Event Type"},
+    {"sbAnimActionArg%", "Key Frame Action Args", "12345678"},
+    {"sbSTBBMin%", "Bounding Box Min", "XYZ"},
+    {"sbSTBBMax%", "Bounding Box Max", "XYZ"},
+    {"txtSTSurfaceMaterial", "Surface Material"},
+    {"sbSTTIIndex", "Triangle Index"},
+    {"sbSTVertPosition%", "Vertex Position %", "XYZ"},
+    {"sbSTVertNormal%", "Vertex Normal %", "XYZ"},
+    {"sbSTVertUV%", "Vertex UV %", "XY"},
+};
+
+QHash<QString, QString> stepTexts()
+{
+    QHash<QString, QString> texts;
+    for (const Step &step : steps) {
+        for (const QChar axis : QString::fromLatin1(step.axes ? step.axes : "-")) {
+            texts.insert(QString::fromLatin1(step.editor).replace(QLatin1Char('%'), axis),
+                         QString::fromLatin1(step.text).replace(QLatin1Char('%'), axis));
+        }
+    }
+    return texts;
+}
+} // namespace
+
+class tst_Pages : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void lookingChangesNothing();
+    void lookingAtRealModelsChangesNothing();
+    void everyEditorMakesOneStep();
+    void anEditReachesAllSelectedAndOnlyItsPart();
+    void undoShowsTheRecord();
+    void argumentsAreNamedByTheirEvent();
+    void indexesSayWhatTheyPointAt();
+    void dealDamage();
+    void anglesKeepTheirAxis();
+    void positionToBone();
+    void pagesFitTheirPane();
+
+private:
+    template <typename Model>
+    void lookAtAll(Pane<Model> &pane, int stride);
+    template <typename Model>
+    void driveAll(Pane<Model> &pane, QHash<QString, QString> &texts);
+
+    QTemporaryDir m_home;
+};
+
+void tst_Pages::initTestCase()
+{
+    TestSupport::useSettingsHome(m_home);
+    Settings::HideMeshData.setValue(false);
+    Settings::HideAnimData.setValue(false);
+}
+
+template <typename Model>
+void tst_Pages::lookAtAll(Pane<Model> &pane, int stride)
+{
+    const QByteArray before = pane.bytes();
+    QVERIFY(!before.isEmpty());
+    int number = 0;
+    for (QTreeWidgetItemIterator item(&pane.tree); *item; ++item) {
+        // Owners always, of the many leaves some.
+        if ((*item)->childCount() == 0 && ++number % stride != 0)
+            continue;
+        pane.tree.setCurrentItem(*item);
+    }
+    QVERIFY(pane.undo().isClean());
+    QCOMPARE(pane.undo().count(), 0);
+    QVERIFY(pane.bytes() == before);
+}
+
+void tst_Pages::lookingChangesNothing()
+{
+    Panes panes;
+    panes.mesh.open(oddMesh());
+    panes.anim.open(oddAnim());
+    panes.rigid.open(oddStatic());
+    lookAtAll(panes.mesh, 1);
+    lookAtAll(panes.anim, 1);
+    lookAtAll(panes.rigid, 1);
+
+    // A number without a name stands for itself.
+    panes.anim.select({{RecordKind::AnimAction, {0, 0}}});
+    QCOMPARE(shownText(panes.anim.child<QComboBox>("cbAnimActionEventType")), QStringLiteral("35"));
+    panes.mesh.select({{RecordKind::Bone, {0}}});
+    QCOMPARE(shownText(panes.mesh.child<QComboBox>("cbNodeImpactType")), QStringLiteral("77"));
+}
+
+void tst_Pages::lookingAtRealModelsChangesNothing()
+{
+    SKIP_WITHOUT_SHARED("gamedata/game");
+    Panes panes;
+    panes.mesh.openFile(
+        TestSupport::shared(QStringLiteral("gamedata/game/models/knight/knight.skinnedmesh")));
+    panes.anim.openFile(TestSupport::shared(QStringLiteral("gamedata/game/anims/knight/knight.anim")));
+    panes.rigid.openFile(
+        TestSupport::shared(QStringLiteral("gamedata/game/models/barrel/barrel.staticmesh")));
+    lookAtAll(panes.mesh, 13);
+    lookAtAll(panes.anim, 13);
+    lookAtAll(panes.rigid, 13);
+}
+
+template <typename Model>
+void tst_Pages::driveAll(Pane<Model> &pane, QHash<QString, QString> &texts)
+{
+    QSet<int> seen;
+    for (QTreeWidgetItemIterator item(&pane.tree); *item; ++item) {
+        const RecordRef record = static_cast<RecordItem *>(*item)->record();
+        pane.select({record});
+        if (!pane.page() || seen.contains(int(record.kind)))
+            continue;
+        seen.insert(int(record.kind));
+        for (QWidget *editor : editorsOf(pane.page())) {
+            const QByteArray name = editor->objectName().toUtf8();
+            QVERIFY2(texts.contains(editor->objectName()), name);
+            QVERIFY2(!editor->toolTip().isEmpty(), name);
+            const QByteArray before = pane.bytes();
+            const QString text = shownText(editor);
+            const int count = pane.undo().count();
+            enterSame(editor);
+            QVERIFY2(pane.undo().count() == count && pane.undo().isClean(), name);
+            enterOther(editor);
+            QVERIFY2(pane.undo().count() == 1, name);
+            QCOMPARE(pane.undo().undoText(), texts.take(editor->objectName()));
+            QVERIFY2(pane.bytes() != before, name);
+            pane.undo().undo();
+            QVERIFY2(pane.bytes() == before, name);
+            QCOMPARE(shownText(editor), text);
+            pane.undo().clear();
+        }
+    }
+}
+
+void tst_Pages::everyEditorMakesOneStep()
+{
+    Panes panes;
+    panes.mesh.open(plainMesh());
+    panes.anim.open(plainAnim());
+    panes.rigid.open(plainStatic());
+    QHash<QString, QString> texts = stepTexts();
+    driveAll(panes.mesh, texts);
+    driveAll(panes.anim, texts);
+    driveAll(panes.rigid, texts);
+    QVERIFY2(texts.isEmpty(), qPrintable(QStringList(texts.keys()).join(QLatin1Char(' '))));
+}
+
+void tst_Pages::anEditReachesAllSelectedAndOnlyItsPart()
+{
+    Panes panes;
+    auto &pane = panes.mesh;
+    pane.open(plainMesh());
+    const QByteArray before = pane.bytes();
+    pane.select({{RecordKind::Bone, {1}}, {RecordKind::Bone, {2}}, {RecordKind::Bone, {3}}});
+    QCOMPARE(pane.stack.findChild<QLabel *>(QStringLiteral("lblPageCount"))->text(),
+             QStringLiteral("3 bones selected"));
+    type(pane.child<QWidget>("sbNodeBBMinX"), QStringLiteral("-5,5"));
+    QCOMPARE(pane.undo().count(), 1);
+    const auto &nodes = pane.document.model().nodes;
+    QCOMPARE(nodes[0].bbMin, QVector3D(0.0f, 10.0f, 20.0f));
+    for (size_t i = 1; i < 4; ++i)
+        QCOMPARE(nodes[i].bbMin, QVector3D(-5.5f, 10.0f + float(i), 20.0f + float(i)));
+    QCOMPARE(pane.tree.selectedCount(RecordKind::Bone), 3);
+    pane.undo().undo();
+    QVERIFY(pane.bytes() == before);
+
+    // A symbol's bits without a meaning stay.
+    pane.select({{RecordKind::Bone, {1}}});
+    QTest::keyClick(pane.child<QWidget>("cbNodeSymbolPart"), Qt::Key_End);
+    QCOMPARE(int(quint8(nodes[1].symbolFlags)), 0xf8);
+    QCOMPARE(pane.tree.currentItem()->text(0), QStringLiteral("1: Left Pelvis"));
+}
+
+void tst_Pages::undoShowsTheRecord()
+{
+    Panes panes;
+    auto &pane = panes.anim;
+    pane.open(plainAnim());
+    const RecordRef key{RecordKind::TranslationKey, {1, 1, 2}};
+    pane.select({key});
+    type(pane.child<QWidget>("sbAnimTranslationY"), QStringLiteral("3"));
+    pane.select({{RecordKind::AnimFrame, {0, 1}}});
+    pane.undo().undo();
+    QVERIFY(pane.tree.currentRecord() == key);
+    QCOMPARE(shownText(pane.child<QWidget>("sbAnimTranslationY")), QStringLiteral("0"));
+    pane.undo().redo();
+    QCOMPARE(shownText(pane.child<QWidget>("sbAnimTranslationY")), QStringLiteral("3"));
+}
+
+void tst_Pages::argumentsAreNamedByTheirEvent()
+{
+    const QString damage = QStringLiteral("Radius|Damage||Blood Spray X|Blood Spray Y|Blood Spray Z");
+    const QHash<int, QString> labels{
+        {0, QStringLiteral("Sound ID")},
+        {31, QStringLiteral("Sound ID")},
+        {32, QStringLiteral("Sound ID")},
+        {1, QStringLiteral("Particle ID")},
+        {8, QStringLiteral("Particle ID")},
+        {11, QStringLiteral("Particle ID")},
+        {9, QStringLiteral("Alpha|Red|Green|Blue|Attack Time|Sustain Time|Decay Time")},
+        {12, QStringLiteral("X Axis|Y Axis|Z Axis|Radius")},
+        {13, QStringLiteral("X Axis|Y Axis|Z Axis|Radius")},
+        {22, QStringLiteral("UserEvent Arg 1|UserEvent Arg 2|UserEvent Arg 3|UserEvent Arg 4")},
+        {23, QStringLiteral("Sound ID|Model Index")},
+        {24, QStringLiteral("Particle ID|Model Index")},
+        {26, QStringLiteral("Hot Point Bit")},
+        {27, QStringLiteral("Hot Point Bit")},
+        {28, QStringLiteral("Actor Type ID|Scale")},
+        {29, QStringLiteral("Sound ID|Impact Type")},
+        {30, QStringLiteral("Voice ID")},
+    };
+    const QSet<int> damages{2, 3, 4, 15, 16, 17, 18, 19, 20, 25, 33};
+    const QVector<int> types{9,  30, 2,  0,  1,  3,  4,  5,  6,  7,  8,  10, 11, 12, 13, 14, 15, 16,   17,
+                             18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 31, 32, 33, 34, 35, 65535};
+    AnimFile file = plainAnim();
+    for (const int eventType : types) {
+        AnimAction action;
+        action.eventType = quint16(eventType);
+        file.blocks[1].actions.push_back(action);
+    }
+    Panes panes;
+    panes.anim.open(file);
+    for (int i = 0; i < types.size(); ++i) {
+        panes.anim.select({{RecordKind::AnimAction, {1, i + 2}}});
+        const bool isDamage = damages.contains(types[i]);
+        const QStringList expected = (isDamage ? damage : labels.value(types[i])).split(QLatin1Char('|'));
+        for (int arg = 0; arg < 8; ++arg) {
+            const auto *label =
+                panes.anim.child<QLabel>(QByteArray("lblAnimActionArg" + QByteArray::number(arg + 1)));
+            const QString plain = QStringLiteral("Arg %1").arg(arg + 1);
+            QCOMPARE(label->text(), expected.value(arg).isEmpty() ? plain : expected.value(arg));
+            QCOMPARE(label->toolTip().startsWith(QLatin1String("Damage is this value / 256.")),
+                     isDamage && arg == 1);
+            QCOMPARE(label->toolTip().isEmpty(), !(isDamage && arg == 1));
+        }
+        const QString first = Questions::of(panes.anim.child<QWidget>("sbAnimActionArg1")).first();
+        const QString asked = expected.first().section(QLatin1Char(' '), 0, 0).toLower();
+        if (expected.first().endsWith(QLatin1String(" ID")))
+            QCOMPARE(first, asked);
+        if (isDamage)
+            QCOMPARE(Questions::of(panes.anim.child<QWidget>("sbAnimActionArg2")).first(),
+                     QString(Question::Damage));
+        QCOMPARE(Questions::of(panes.anim.child<QWidget>("sbAnimActionArg8")).size(), 7);
+    }
+
+    // By hand, from a type with many names to one with few.
+    panes.anim.select({{RecordKind::AnimAction, {1, 2}}});
+    panes.anim.child<QComboBox>("cbAnimActionEventType")->setCurrentIndex(30);
+    QCOMPARE(panes.anim.child<QLabel>("lblAnimActionArg1")->text(), QStringLiteral("Voice ID"));
+    QCOMPARE(panes.anim.child<QLabel>("lblAnimActionArg2")->text(), QStringLiteral("Arg 2"));
+    QCOMPARE(panes.anim.undo().count(), 1);
+}
+
+void tst_Pages::indexesSayWhatTheyPointAt()
+{
+    Panes panes;
+    auto &mesh = panes.mesh;
+    SkinnedMesh model = plainMesh();
+    model.vertices[2].position = {1.5f, -2.0f, 30.25f};
+    mesh.open(model);
+    panes.anim.open(plainAnim());
+    const auto says = [](const auto &pane, const char *hint, const char *text, bool missing = false) {
+        const auto *found = pane.template child<IndexHint>(hint);
+        QCOMPARE(found->text(), QString::fromLatin1(text));
+        QCOMPARE(found->isMissing(), missing);
+        QVERIFY(!found->toolTip().isEmpty());
+    };
+
+    mesh.select({{RecordKind::Bone, {1}}});
+    says(mesh, "hintNodeParentNode", "0: Left Root");
+    type(mesh.child<QWidget>("sbNodeParentNode"), QStringLiteral("4"));
+    says(mesh, "hintNodeParentNode", "no such bone", true);
+    type(mesh.child<QWidget>("sbNodeParentNode"), QStringLiteral("255"));
+    says(mesh, "hintNodeParentNode", "no parent");
+    mesh.select({{RecordKind::SkinnedTriangleIndex, {0, 2}}});
+    says(mesh, "hintSMTIIndex", "at 1.5, -2, 30.25");
+    type(mesh.child<QWidget>("sbSMTIIndex"), QStringLiteral("3"));
+    says(mesh, "hintSMTIIndex", "no such vertex", true);
+    // 65535 ends the list in a file.
+    QCOMPARE(mesh.child<QSpinBox>("sbSMTIIndex")->maximum(), 65534);
+
+    auto &anim = panes.anim;
+    anim.select({{RecordKind::AnimBone, {0, 1}}});
+    says(anim, "hintAnimNodeTransIndex", "keeps initial position");
+    type(anim.child<QWidget>("sbAnimNodeTransIndex"), QStringLiteral("1"));
+    says(anim, "hintAnimNodeTransIndex", "1 of 2 tracks");
+    type(anim.child<QWidget>("sbAnimNodeTransIndex"), QStringLiteral("2"));
+    says(anim, "hintAnimNodeTransIndex", "keeps initial position", true);
+    QCOMPARE(anim.child<QLabel>("lblAnimNodeBone")->text(), QStringLiteral("1: Left Root"));
+
+    anim.select({{RecordKind::AnimAction, {0, 0}}});
+    says(anim, "hintAnimActionNode", "no bone");
+    type(anim.child<QWidget>("sbAnimActionNode"), QStringLiteral("3"));
+    says(anim, "hintAnimActionNode", "3: Left Root");
+    // The names follow the mesh beside the animation.
+    model.nodes.resize(2);
+    mesh.open(model);
+    says(anim, "hintAnimActionNode", "3 of 4 bones");
+    type(anim.child<QWidget>("sbAnimActionFrame"), QStringLiteral("3"));
+    says(anim, "hintAnimActionFrame", "never happens", true);
+}
+
+void tst_Pages::dealDamage()
+{
+    Panes panes;
+    auto &pane = panes.mesh;
+    SkinnedMesh model = plainMesh();
+    model.hotPoints[0].particleEffect1 = 12;
+    model.hotPoints[0].particleEffect2 = 40;
+    pane.open(model);
+    pane.select({{RecordKind::HotPoint, {0}}, {RecordKind::HotPoint, {1}}});
+    QTest::keyClick(pane.child<QWidget>("cbHPDealDamage"), Qt::Key_Space);
+    const auto &points = pane.document.model().hotPoints;
+    QCOMPARE(points[0].particleEffect1, quint16(0xFFFF));
+    QCOMPARE(points[1].particleEffect1, quint16(0xFFFF));
+    QCOMPARE(points[0].particleEffect2, quint16(40));
+    QVERIFY(!pane.child<QWidget>("sbHPEffect1")->isEnabled());
+    QCOMPARE(pane.child<QLabel>("lblHPEffect2")->text(), QStringLiteral("Damage"));
+    QTest::keyClick(pane.child<QWidget>("cbHPDealDamage"), Qt::Key_Space);
+    QCOMPARE(points[0].particleEffect1, quint16(0));
+    QVERIFY(pane.child<QWidget>("sbHPEffect1")->isEnabled());
+    QCOMPARE(pane.undo().count(), 2);
+    pane.undo().undo();
+    pane.undo().undo();
+    QCOMPARE(points[0].particleEffect1, quint16(12));
+}
+
+void tst_Pages::anglesKeepTheirAxis()
+{
+    Panes panes;
+    auto &pane = panes.anim;
+    AnimFile file = plainAnim();
+    file.blocks[0].rotations.at(0, 0) = {0.0f, 2.0f, 0.0f, 2.0f}; // 90 degrees about y, of length 2.8
+    pane.open(file);
+    const auto &key = pane.document.model().blocks[0].rotations;
+    pane.select({{RecordKind::RotationKey, {0, 0, 0}}});
+    auto *angle = pane.child<QWidget>("sbAnimRotationAngle");
+    QCOMPARE(shownText(angle), QStringLiteral("90"));
+    for (const char *degrees : {"30", "270", "359.5", "0.25"}) {
+        type(angle, QString::fromLatin1(degrees));
+        QCOMPARE(shownText(angle), QString::fromLatin1(degrees));
+        QVERIFY(std::abs(key.at(0, 0).length() - 1.0f) < 1e-6f);
+        QCOMPARE(pane.child<QLabel>("lblAnimRotationAxis")->text(), QStringLiteral("0, 1, 0"));
+    }
+    pane.select({{RecordKind::RotationKey, {0, 1, 0}}});
+    type(angle, QStringLiteral("180"));
+    QCOMPARE(key.at(1, 0).z(), 1.0f);
+}
+
+void tst_Pages::positionToBone()
+{
+    Panes panes;
+    auto &pane = panes.anim;
+    AnimFile file = plainAnim();
+    file.blocks[0].actions[0].offset = {1.0f, 2.0f, 3.0f};
+    pane.open(file);
+    const QByteArray before = pane.bytes();
+    pane.select({{RecordKind::AnimAction, {0, 0}}});
+    auto *button = pane.child<QPushButton>("btnAnimActionPositionToBone");
+    button->click();
+    button->click();
+    QCOMPARE(pane.undo().count(), 1);
+    QCOMPARE(pane.undo().undoText(), QStringLiteral("Key Frame Action Position To Bone"));
+    QVERIFY(pane.document.model().blocks[0].actions[0].offset.isNull());
+    pane.undo().undo();
+    QVERIFY(pane.bytes() == before);
+}
+
+void tst_Pages::pagesFitTheirPane()
+{
+    // Fonts differ; a page may ask for 40 average characters and its frames.
+    Panes panes;
+    panes.mesh.open(plainMesh());
+    panes.anim.open(plainAnim());
+    panes.rigid.open(plainStatic());
+    const auto fits = [](auto &pane) {
+        const int limit = QFontMetrics(pane.stack.font()).horizontalAdvance(QString(44, QLatin1Char('n')));
+        for (int i = 1; i < pane.stack.pages()->count(); ++i) {
+            const QWidget *page = static_cast<QScrollArea *>(pane.stack.pages()->widget(i))->widget();
+            QVERIFY2(page->minimumSizeHint().width() <= limit, qPrintable(page->objectName()));
+        }
+    };
+    fits(panes.mesh);
+    fits(panes.anim);
+    fits(panes.rigid);
+}
+
+QTEST_MAIN(tst_Pages)
+#include "tst_pages.moc"

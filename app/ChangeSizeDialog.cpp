@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-ChangeSizeDialog::ChangeSizeDialog(const QString &title, int least, int current, QWidget *parent)
+ChangeSizeDialog::ChangeSizeDialog(const QString &title, int least, int most, int current, QWidget *parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::ChangeSizeDialog>())
 {
@@ -14,7 +14,7 @@ ChangeSizeDialog::ChangeSizeDialog(const QString &title, int least, int current,
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowTitle(title);
     m_ui->lblSize->setText(title);
-    m_ui->sbSize->setRange(least, std::max(MostEntries, current));
+    m_ui->sbSize->setRange(least, std::max(most, current));
     m_ui->sbSize->setValue(current);
     m_ui->sbSize->setToolTip(tr("%1 to %2").arg(least).arg(m_ui->sbSize->maximum()));
     m_ui->sbSize->selectAll();

@@ -16,11 +16,8 @@ class ChangeSizeDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// As many as a 16-bit index can name.
-    static constexpr int MostEntries = 65535;
-
-    /// `least`: the smallest length allowed; `current`: the length the list has.
-    ChangeSizeDialog(const QString &title, int least, int current, QWidget *parent = nullptr);
+    /// `least` and `most`: the lengths allowed; `current`: the length the list has, allowed in any case.
+    ChangeSizeDialog(const QString &title, int least, int most, int current, QWidget *parent = nullptr);
     ~ChangeSizeDialog() override;
 
     int size() const;

@@ -70,6 +70,16 @@ ControlsDialog::ControlsDialog(const QList<QAction *> &actions, QWidget *parent)
     if (!shortcuts.isEmpty())
         addGroup(tree, tr("Window"))->addChildren(shortcuts);
 
+    const QString treeRows[][2] = {
+        {tr("Ins"), tr("Add a record after the current one")},
+        {tr("Del"), tr("Remove the selected records")},
+        {tr("Ctrl+C / Ctrl+V"), tr("Copy / paste a hot point or an animation")},
+        {tr("Ctrl+click, Shift+click"), tr("Select several records; an edit goes to all of them")},
+    };
+    QTreeWidgetItem *records = addGroup(tree, tr("Trees"));
+    for (const auto &row : treeRows)
+        records->addChild(new QTreeWidgetItem(QStringList{row[0], row[1]}));
+
     tree->expandAll();
     for (int column = 0; column < tree->columnCount(); ++column) {
         tree->resizeColumnToContents(column);

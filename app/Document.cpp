@@ -6,6 +6,8 @@
 
 #include <QFileInfo>
 
+#include <utility>
+
 namespace {
 /// The index that an entry of a list holds.
 QString entryText(const std::vector<quint16> &list, int entry)
@@ -15,8 +17,6 @@ QString entryText(const std::vector<quint16> &list, int entry)
 }
 } // namespace
 
-#include <utility>
-
 Document::Document(DocumentType type, RecordKind rootKind, QObject *parent)
     : QObject(parent)
     , m_type(type)
@@ -24,6 +24,12 @@ Document::Document(DocumentType type, RecordKind rootKind, QObject *parent)
 {
     // One signal per finished step: a push, the end of a macro, an undo or a redo of either.
     connect(&m_undoStack, &QUndoStack::indexChanged, this, &Document::flushChanges);
+}
+
+Document::~Document()
+{
+    // A stack that goes says that it is empty and clean, to whom nobody is left.
+    m_undoStack.disconnect();
 }
 
 QString Document::fileName() const

@@ -17,6 +17,7 @@ class Document : public QObject, public DocumentView
 
 public:
     Document(DocumentType type, RecordKind rootKind, QObject *parent = nullptr);
+    ~Document() override;
 
     const DocumentKind &kind() const { return documentKind(m_type); }
     RecordKind rootKind() const { return m_rootKind; }
@@ -31,6 +32,8 @@ public:
     /// Reads `path` into a new model, which replaces the current one only when that succeeds. Returns true on
     /// failure and gives the reason, empty when the file could not be opened.
     [[nodiscard]] bool open(const QString &path, QString *reason);
+    /// Why the model as it stands cannot be stored in a file at all; empty when it can.
+    virtual QString refusal() const = 0;
     /// Writes the model; on success the document has that path and its undo stack is clean. Returns true on
     /// failure, with nothing changed.
     [[nodiscard]] bool save(const QString &path);
@@ -79,6 +82,7 @@ public:
 
     Model &model() { return m_model; }
     const Model &model() const { return m_model; }
+    QString refusal() const override { return m_model.refusal(); }
     EditTarget<Model> editTarget() { return {m_model, *this}; }
 
     int recordCount(RecordKind kind, const RecordIndex &index) const override

@@ -4,10 +4,20 @@
 
 #include "Log.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+
+namespace {
+/// Where a file dialog starts: the folder it was left in, else the explorer's.
+QString startFolder(const DocumentKind &kind, const SettingKey<QString> &lastFolder)
+{
+    const QString folder = lastFolder.value();
+    return folder.isEmpty() ? kind.explorePath.value() : folder;
+}
+} // namespace
 
 DocumentFiles::DocumentFiles(const std::array<Document *, 3> &documents, QWidget *window)
     : QObject(window)
@@ -18,7 +28,10 @@ DocumentFiles::DocumentFiles(const std::array<Document *, 3> &documents, QWidget
 bool DocumentFiles::open(DocumentType type, const QString &path)
 {
     QString reason;
-    if (!document(type)->open(path, &reason))
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const bool failed = document(type)->open(path, &reason);
+    QGuiApplication::restoreOverrideCursor();
+    if (!failed)
         return false;
     const QString nativePath = QDir::toNativeSeparators(path);
     Log::error(reason.isEmpty() ? tr("[Open] Unable to read '%1'").arg(nativePath)
@@ -33,7 +46,7 @@ void DocumentFiles::openChosen(DocumentType type)
 {
     const DocumentKind &kind = documentKind(type);
     const QString path =
-        QFileDialog::getOpenFileName(m_window, kind.openTitle, kind.loadPath.value(), kind.filter);
+        QFileDialog::getOpenFileName(m_window, kind.openTitle, startFolder(kind, kind.loadPath), kind.filter);
     if (path.isEmpty())
         return;
     kind.loadPath.setValue(QFileInfo(path).absolutePath());
@@ -44,6 +57,7 @@ bool DocumentFiles::save(DocumentType type)
 {
     if (!document(type)->isOpen())
         return true;
+    finishTyping();
     return document(type)->path().isEmpty() ? saveAs(type) : saveTo(type, document(type)->path());
 }
 
@@ -51,21 +65,28 @@ bool DocumentFiles::saveAs(DocumentType type)
 {
     if (!document(type)->isOpen())
         return true;
+    finishTyping();
     const DocumentKind &kind = documentKind(type);
-    QFileDialog dialog(m_window, kind.saveTitle, kind.savePath.value(), kind.filter);
+    QFileDialog dialog(m_window, kind.saveTitle, startFolder(kind, kind.savePath), kind.filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     // The explorers list files by their extension; the dialog asks before it replaces the completed name.
     dialog.setDefaultSuffix(kind.extension);
     dialog.selectFile(document(type)->fileName());
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return true;
-    const QString path = dialog.selectedFiles().first();
+    QString path = dialog.selectedFiles().first();
+    const QString suffix = QLatin1Char('.') + kind.extension;
+    // The dialog completes a name without a dot, and asks before it replaces a file. A name like "knight.v2"
+    // is completed here; it must not replace anything unasked.
+    if (!path.endsWith(suffix, Qt::CaseInsensitive) && !QFileInfo::exists(path + suffix))
+        path += suffix;
     kind.savePath.setValue(QFileInfo(path).absolutePath());
     return saveTo(type, path);
 }
 
 void DocumentFiles::saveAll()
 {
+    finishTyping();
     for (const DocumentKind &kind : documentKinds()) {
         const Document *candidate = document(kind.type);
         if (candidate->isOpen() && (candidate->isModified() || candidate->path().isEmpty()) &&
@@ -76,6 +97,7 @@ void DocumentFiles::saveAll()
 
 bool DocumentFiles::promptUnsaved(DocumentType type, QEvent *event)
 {
+    finishTyping();
     if (!document(type)->isModified())
         return true;
     const QString text = tr("Would you like to save the %2?\n\n%1")
@@ -94,10 +116,22 @@ bool DocumentFiles::saveTo(DocumentType type, const QString &path)
 {
     if (document(type)->save(path)) {
         const QString nativePath = QDir::toNativeSeparators(path);
-        Log::error(tr("[Save] Unable to write '%1'").arg(nativePath));
+        const QString refusal = document(type)->refusal();
+        Log::error(refusal.isEmpty() ? tr("[Save] Unable to write '%1'").arg(nativePath)
+                                     : tr("[Save] '%1': %2").arg(nativePath, refusal));
         QMessageBox::warning(m_window, tr("File error"), tr("Failed to save\n%1").arg(nativePath));
         return true;
     }
     emit saved(type);
     return false;
+}
+
+void DocumentFiles::finishTyping() const
+{
+    // A shortcut or a tool button leaves the focus, and so the typing, in the editor.
+    QWidget *editor = QApplication::focusWidget();
+    if (!editor || !m_window->isAncestorOf(editor))
+        return;
+    editor->clearFocus();
+    editor->setFocus();
 }

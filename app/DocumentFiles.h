@@ -44,6 +44,8 @@ signals:
 
 private:
     bool saveTo(DocumentType type, const QString &path);
+    /// Takes what is typed in the editor with the focus to the document.
+    void finishTyping() const;
 
     std::array<Document *, 3> m_documents;
     QWidget *m_window;

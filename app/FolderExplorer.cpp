@@ -156,14 +156,13 @@ void FolderExplorer::createActions()
     m_copyPath = addAction("CopyPath", "copy", tr("Copy &Path"), tr("Copy the full path to the clipboard"));
     m_changeFolder =
         addAction("ChangeFolder", "changefolder", tr("&Change Folder..."), tr("Choose the folder to list"));
-    m_refresh = addAction("Refresh", "refresh", tr("&Refresh"), tr("Read the folder again (F5)"));
+    m_refresh = addAction("Refresh", "refresh", tr("&Refresh"), tr("Read the folder again"));
     m_quickSelect = addAction("QuickSelect", "quickselect", tr("&Load On Select"),
                               tr("Open a file as soon as it is selected"));
     m_expandAll = addAction("ExpandAll", "expand", tr("&Expand All"), tr("Open all folders of the list"));
     m_collapseAll =
         addAction("CollapseAll", "collapse", tr("Collapse &All"), tr("Close all folders of the list"));
 
-    m_refresh->setShortcut(QKeySequence::Refresh);
     m_copyPath->setShortcut(QKeySequence::Copy);
     m_quickSelect->setCheckable(true);
     m_quickSelect->setChecked(m_kind.quickSelect.value());

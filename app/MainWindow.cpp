@@ -18,6 +18,7 @@
 #include "ViewToolBar.h"
 #include "ViewportMarks.h"
 #include "WindowGeometry.h"
+#include "WindowLayout.h"
 #include "ui_MainWindow.h"
 
 #include <QDir>
@@ -50,7 +51,7 @@ MainWindow::MainWindow(QWidget *parent)
     createViewMenu();
     connectPlayback();
     auto *geometry = new WindowGeometry(this);
-    restoreLayout();
+    restoreLayout(*this);
     geometry->restore();
     updateCurrentDocument();
     QTimer::singleShot(50, this, &MainWindow::OnStartSetupPaths);
@@ -58,6 +59,9 @@ MainWindow::MainWindow(QWidget *parent)
 
 MainWindow::~MainWindow()
 {
+    // Documents that go tell of it, to a window that is going too.
+    for (const Pane &each : m_panes)
+        each.document->disconnect();
     Log::setSink({});
     playback() = {};
 }
@@ -108,6 +112,8 @@ void MainWindow::createPanes()
     for (const DocumentKind &kind : documentKinds()) {
         const DocumentType type = kind.type;
         const Pane &made = pane(type);
+        // A list that changed may have put another record in the place of the one that is shown.
+        connect(made.document, &Document::structuresChanged, this, [this, type] { pane(type).shown = {}; });
         made.tree->setDocument(made.document);
         made.pages->setTree(made.tree);
         m_undoGroup.addStack(made.document->undoStack());
@@ -126,7 +132,7 @@ void MainWindow::createPanes()
     }
     connect(m_ui->tabDatabase, &DatabaseTab::told, statusBar(),
             [this](const QString &text) { statusBar()->showMessage(text, 5000); });
-    connect(m_files, &DocumentFiles::saved, this, &MainWindow::updateCurrentDocument);
+    connect(m_files, &DocumentFiles::saved, this, &MainWindow::onSaved);
 
     pane(DocumentType::Anim).explorer->addExtraAction(m_ui->actionAnimSyncSkin);
     connect(m_ui->actionAnimSyncSkin, &QAction::triggered, this, &MainWindow::OnActionAnimSyncSkinSelect);
@@ -151,7 +157,7 @@ void MainWindow::createViewToolBars()
     new ViewPreferences({skinned, rigid}, viewports(), actions, this);
     for (KVOpenGLWidget *viewport : viewports()) {
         connect(viewport, &KVOpenGLWidget::positionReadOut, this,
-                [this](const QString &text) { statusBar()->showMessage(text); });
+                &MainWindow::showReadOut);
     }
 }
 
@@ -164,8 +170,6 @@ void MainWindow::readSettings()
         key->ensure();
 
     m_ui->actionAnimSyncSkin->setChecked(Settings::AnimationSyncSkin.value());
-    for (const Pane &each : m_panes)
-        each.explorer->refill();
 }
 
 void MainWindow::createUndoActions()
@@ -198,25 +202,9 @@ void MainWindow::connectPlayback()
     track->openAnimation(nullptr);
 }
 
-void MainWindow::restoreLayout()
-{
-    const QVariantMap splitters = Settings::MainWindowSplitters.value();
-    for (QSplitter *splitter : findChildren<QSplitter *>()) {
-        if (splitters.contains(splitter->objectName()))
-            splitter->restoreState(splitters.value(splitter->objectName()).toByteArray());
-    }
-    restoreState(Settings::MainWindowState.value());
-}
-
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    QVariantMap splitters;
-    for (const QSplitter *splitter : findChildren<QSplitter *>()) {
-        if (!splitter->objectName().isEmpty())
-            splitters.insert(splitter->objectName(), splitter->saveState());
-    }
-    Settings::MainWindowSplitters.setValue(splitters);
-    Settings::MainWindowState.setValue(saveState());
+    storeLayout(*this);
     QMainWindow::closeEvent(event);
 }
 
@@ -283,11 +271,20 @@ void MainWindow::updateCurrentDocument()
     m_ui->actionScale->setEnabled(m_ui->actionRotate->isEnabled());
     m_ui->actionSkinnedSaveAs->setEnabled(m_skinnedMesh.isOpen());
     m_ui->actionAnimSaveAs->setEnabled(m_anim.isOpen());
-    m_ui->actionSaveAll->setEnabled(std::any_of(
-        m_panes.begin(), m_panes.end(), [](const Pane &each) { return each.document->isModified(); }));
+    m_ui->actionSaveAll->setEnabled(
+        std::any_of(m_panes.begin(), m_panes.end(), [](const Pane &each) { return each.document->isOpen(); }));
     setWindowTitle(isOpen ? QStringLiteral("Korvane - ") + document->fileName() +
                                 (document->isModified() ? QStringLiteral(" * ") : QString())
                           : QStringLiteral("Korvane"));
+}
+
+void MainWindow::showReadOut(const QString &text)
+{
+    // Tips and notes of others are left to be read.
+    const QString message = statusBar()->currentMessage();
+    if (message.isEmpty() || message == m_readOut)
+        statusBar()->showMessage(text);
+    m_readOut = text;
 }
 
 void MainWindow::onReplaced(DocumentType type)
@@ -309,15 +306,27 @@ void MainWindow::onReplaced(DocumentType type)
     updateCurrentDocument();
 }
 
+void MainWindow::onSaved(DocumentType type)
+{
+    const Pane &written = pane(type);
+    written.explorer->setLoadedPath(written.document->path());
+    if (!written.explorer->selectPath(written.document->path())) {
+        written.explorer->refill();
+        written.explorer->selectPath(written.document->path());
+    }
+    updateCurrentDocument();
+}
+
 void MainWindow::openFromExplorer(DocumentType type, const QString &path)
 {
+    // Picked while the question about an earlier pick was still open.
+    if (QApplication::activeModalWidget())
+        return;
     const Pane &target = pane(type);
-    if (!m_files->promptUnsaved(type)) {
+    if (!m_files->promptUnsaved(type) || m_files->open(type, path)) {
         target.explorer->selectPath(target.document->path());
         return;
     }
-    if (m_files->open(type, path))
-        return;
     showPane(type);
     if (type == DocumentType::SkinnedMesh && m_ui->actionAnimSyncSkin->isChecked())
         openMatchingAnimation(path);
@@ -457,7 +466,8 @@ void MainWindow::on_actionPreferences_triggered()
 
 void MainWindow::on_actionControls_triggered()
 {
-    ControlsDialog dialog(findChildren<QAction *>(), this);
+    // Those of the window itself; what trees and folders have of their own is not the window's.
+    ControlsDialog dialog(findChildren<QAction *>(QString(), Qt::FindDirectChildrenOnly), this);
     dialog.exec();
 }
 
@@ -481,8 +491,7 @@ void MainWindow::on_tabTrees_currentChanged(int index)
 {
     m_ui->stackSkinned->setCurrentIndex(index);
     const DocumentType type = index == 0 ? DocumentType::SkinnedMesh : DocumentType::Anim;
-    if (m_files)
-        showInViewport(type, pane(type).tree->currentRecord());
+    showInViewport(type, pane(type).tree->currentRecord());
     updateCurrentDocument();
 }
 

@@ -79,7 +79,6 @@ private:
     void createViewMenu();
     void readSettings();
     void createUndoActions();
-    void restoreLayout();
     void connectPlayback();
 
     /// The kind whose document the actions act on; none on a tab without one.
@@ -89,7 +88,9 @@ private:
     void showPane(DocumentType type);
     Document *currentDocument();
     void updateCurrentDocument();
+    void showReadOut(const QString &text);
     void onReplaced(DocumentType type);
+    void onSaved(DocumentType type);
     void onRecordsChanged(DocumentType type, const QVector<RecordRef> &records);
     void showInViewport(DocumentType type, const RecordRef &record);
     void openFromExplorer(DocumentType type, const QString &path);
@@ -104,4 +105,5 @@ private:
     DocumentFiles *m_files;
     ModelTransforms *m_transforms;
     std::array<Pane, 3> m_panes{};
+    QString m_readOut; ///< the camera position that the status bar shows
 };

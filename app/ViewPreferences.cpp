@@ -20,9 +20,9 @@ ViewPreferences::ViewPreferences(const std::array<ViewToolBar *, 2> &toolBars,
     actions.ground->setChecked(Settings::ShowGround.value());
     actions.axisGizmo->setChecked(Settings::ShowAxisGizmo.value());
     actions.backCull->setChecked(Settings::BackCull.value());
-    connect(actions.ground, &QAction::triggered, this, &ViewPreferences::OnGroundTriggered);
-    connect(actions.axisGizmo, &QAction::triggered, this, &ViewPreferences::OnTransGizmoTriggered);
-    connect(actions.backCull, &QAction::triggered, this, &ViewPreferences::OnCullBackTriggered);
+    connect(actions.ground, &QAction::triggered, this, &ViewPreferences::on_actionGround_triggered);
+    connect(actions.axisGizmo, &QAction::triggered, this, &ViewPreferences::on_actionTransGizmo_triggered);
+    connect(actions.backCull, &QAction::triggered, this, &ViewPreferences::on_actionCullBack_triggered);
     for (ViewToolBar *bar : m_toolBars) {
         bar->setBackgroundColor(Settings::BGColor.value());
         bar->setSurfSelectType(Settings::SurfSelectType.value());
@@ -76,21 +76,21 @@ void ViewPreferences::OnBrightnessChanged(int position)
         viewport->setBrightness(brightness);
 }
 
-void ViewPreferences::OnGroundTriggered(bool on)
+void ViewPreferences::on_actionGround_triggered(bool on)
 {
     Settings::ShowGround.setValue(on);
     for (KVOpenGLWidget *viewport : m_viewports)
         viewport->setShowGround(on);
 }
 
-void ViewPreferences::OnTransGizmoTriggered(bool on)
+void ViewPreferences::on_actionTransGizmo_triggered(bool on)
 {
     Settings::ShowAxisGizmo.setValue(on);
     for (KVOpenGLWidget *viewport : m_viewports)
         viewport->setShowAxisGizmo(on);
 }
 
-void ViewPreferences::OnCullBackTriggered(bool on)
+void ViewPreferences::on_actionCullBack_triggered(bool on)
 {
     Settings::BackCull.setValue(on);
     for (KVOpenGLWidget *viewport : m_viewports)

@@ -27,9 +27,9 @@ private slots:
     void OnSurfSelectChanged(int type);
     void OnMouseSpeedChanged(int position);
     void OnBrightnessChanged(int position);
-    void OnGroundTriggered(bool on);
-    void OnTransGizmoTriggered(bool on);
-    void OnCullBackTriggered(bool on);
+    void on_actionGround_triggered(bool on);
+    void on_actionTransGizmo_triggered(bool on);
+    void on_actionCullBack_triggered(bool on);
 
 private:
     std::array<ViewToolBar *, 2> m_toolBars;

@@ -179,15 +179,23 @@ bool AnimFile::read(BinaryFileReader &reader)
     return reader.hasError();
 }
 
+QString AnimFile::refusal() const
+{
+    return blocks.empty() ? QStringLiteral("An animation file without an animation is not saved.") : QString();
+}
+
 bool AnimFile::write(const QString &path) const
 {
+    // Before a save file is opened.
+    if (!refusal().isEmpty())
+        return true;
     BinaryFileWriter writer(path);
     return write(writer) || writer.commit();
 }
 
 bool AnimFile::write(BinaryFileWriter &writer) const
 {
-    if (blocks.empty())
+    if (!refusal().isEmpty())
         return true;
 
     writer.writeInt32(version);

@@ -103,15 +103,28 @@ bool SkinnedMesh::read(BinaryFileReader &reader)
     return reader.hasError();
 }
 
+QString SkinnedMesh::refusal() const
+{
+    if (nodes.empty())
+        return QStringLiteral("A skinned mesh without a bone is not saved.");
+    const auto bad = std::find_if(surfaces.begin(), surfaces.end(), usesTerminatorAsIndex);
+    return bad == surfaces.end() ? QString()
+                                 : QStringLiteral("Surface %1 has a triangle index of 65535, which would end it.")
+                                       .arg(bad - surfaces.begin());
+}
+
 bool SkinnedMesh::write(const QString &path) const
 {
+    // Before a save file is opened.
+    if (!refusal().isEmpty())
+        return true;
     BinaryFileWriter writer(path);
     return write(writer) || writer.commit();
 }
 
 bool SkinnedMesh::write(BinaryFileWriter &writer) const
 {
-    if (nodes.empty() || std::any_of(surfaces.begin(), surfaces.end(), usesTerminatorAsIndex))
+    if (!refusal().isEmpty())
         return true;
 
     writer.writeInt32(version);

@@ -72,6 +72,9 @@ struct SkinnedMesh
     [[nodiscard]] bool read(const QString &path, QString *errorText = nullptr);
     [[nodiscard]] bool read(BinaryFileReader &reader);
 
+    /// Why the model cannot be written at all; empty when it can.
+    QString refusal() const;
+
     /// Writes the model to `path` in one step. Returns true on failure, with the old file untouched: when
     /// there are no bones, when a triangle index is 65535, or when the file cannot be written.
     [[nodiscard]] bool write(const QString &path) const;

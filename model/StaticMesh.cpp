@@ -57,15 +57,23 @@ bool StaticMesh::read(BinaryFileReader &reader)
     return reader.hasError();
 }
 
+QString StaticMesh::refusal() const
+{
+    return surfaces.empty() ? QStringLiteral("A static mesh without a surface is not saved.") : QString();
+}
+
 bool StaticMesh::write(const QString &path) const
 {
+    // Before a save file is opened.
+    if (!refusal().isEmpty())
+        return true;
     BinaryFileWriter writer(path);
     return write(writer) || writer.commit();
 }
 
 bool StaticMesh::write(BinaryFileWriter &writer) const
 {
-    if (surfaces.empty())
+    if (!refusal().isEmpty())
         return true;
 
     writer.writeInt32(version);

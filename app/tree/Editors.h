@@ -156,6 +156,15 @@ private:
     int mask() const { return (1 << width) - 1; }
 };
 
+/// The bits of a flags field that an edit is about.
+struct MaskedBits
+{
+    qint32 mask;
+
+    qint32 get(qint32 value) const { return value & mask; }
+    void set(qint32 &value, qint32 part) const { value = (value & ~mask) | (part & mask); }
+};
+
 inline constexpr WholeField Whole;
 inline constexpr Component X{0};
 inline constexpr Component Y{1};

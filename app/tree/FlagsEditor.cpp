@@ -24,7 +24,10 @@ FlagsEditor::FlagsEditor(QWidget *parent)
         auto *box = new QCheckBox(QString::number(bit), this);
         box->setObjectName(QStringLiteral("cbBit%1").arg(bit));
         box->setToolTip(tr("Bit %1 (0x%2)").arg(QString::number(bit), QString::number(1u << bit, 16)));
-        connect(box, &QCheckBox::clicked, this, [this] { emit valueEdited(value()); });
+        connect(box, &QCheckBox::clicked, this, [this, bit] {
+            m_editedBits = qint32(1u << bit);
+            emit valueEdited(value());
+        });
         grid->addWidget(box, bit / Columns, bit % Columns);
         m_bits.append(box);
     }
@@ -65,5 +68,6 @@ void FlagsEditor::editAll(bool on)
     if (value() == wanted)
         return;
     setValue(wanted);
+    m_editedBits = -1;
     emit valueEdited(wanted);
 }

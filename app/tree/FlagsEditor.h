@@ -18,6 +18,8 @@ public:
     qint32 value() const;
     /// Shows a value; emits nothing.
     void setValue(qint32 value);
+    /// The bits that the last edit was about: one, or all.
+    qint32 editedBits() const { return m_editedBits; }
 
 signals:
     /// The user has switched bits.
@@ -27,4 +29,5 @@ private:
     void editAll(bool on);
 
     QVector<QCheckBox *> m_bits;
+    qint32 m_editedBits = 0;
 };

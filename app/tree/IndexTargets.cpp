@@ -108,7 +108,7 @@ IndexTarget IndexTargets::actionFrame(const AnimBlock &block, int index)
 IndexTarget IndexTargets::loopFrame(const AnimBlock &block, int index)
 {
     if (index >= block.frameCount())
-        return {Texts::tr("does not loop"), false, {}};
+        return {Texts::tr("loops from frame 0"), false, {}};
     return {Texts::tr("%1 of %2 frames").arg(index).arg(block.frameCount()), false, {}};
 }
 

@@ -58,7 +58,6 @@ PageStack::PageStack(QWidget *parent)
     m_title->setFont(bold);
     m_title->setWordWrap(true);
     m_count->setObjectName(QStringLiteral("lblPageCount"));
-    m_count->setEnabled(false);
 
     auto *header = new QHBoxLayout;
     header->addWidget(m_title, 1);

@@ -85,7 +85,13 @@ protected:
                 Editors::show(editor, part.get(Command::Field::get(*shown)));
         };
         const auto commitEdit = [this, editor, part, macroText] {
-            edit<Command>(part, Editors::value(editor), macroText);
+            if constexpr (std::is_same_v<Editor, FlagsEditor>) {
+                // One flag is switched, in every record; the others stay as each record has them.
+                const Parts::MaskedBits bits{editor->editedBits()};
+                edit<Command>(bits, bits.get(editor->value()), macroText);
+            } else {
+                edit<Command>(part, Editors::value(editor), macroText);
+            }
         };
         addBinding({editor, show, commitEdit});
         Editors::onEdited(editor, static_cast<Page *>(this), slot);

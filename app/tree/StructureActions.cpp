@@ -239,8 +239,21 @@ template <typename Command, typename DocumentType>
 void StructureActions::remove(const Shown<DocumentType> &shown)
 {
     const RecordRef current = shown.tree->currentRecord();
-    if (current.kind == Command::Place::kind)
-        shown.document.undoStack()->push(new Command(shown.document.editTarget(), current.index));
+    if (current.kind != Command::Place::kind)
+        return;
+    QVector<RecordIndex> records = shown.tree->selectedRecords(current.kind);
+    if (!records.contains(current.index))
+        records = {current.index};
+    QUndoStack *stack = shown.document.undoStack();
+    if (records.size() == 1) {
+        stack->push(new Command(shown.document.editTarget(), current.index));
+        return;
+    }
+    // From the last to the first, so that the indexes of those that are left hold.
+    stack->beginMacro(QCoreApplication::translate("UndoCommands", Command::undoText));
+    for (int i = records.size() - 1; i >= 0; --i)
+        stack->push(new Command(shown.document.editTarget(), records.at(i)));
+    stack->endMacro();
 }
 
 void StructureActions::OnActionAddHotPoint()
@@ -328,7 +341,8 @@ void StructureActions::editCount(RecordKind group, const QString &title, int lea
     if (current.kind != group)
         return;
     const int count = m_anim.document.recordCount(recordRow(group)->counted, current.index);
-    ChangeSizeDialog dialog(title, least, count, m_window);
+    const AnimBlock &resized = m_anim.document.model().blocks[size_t(current.index[0])];
+    ChangeSizeDialog dialog(title, least, mostEntries(resized, group), count, m_window);
     if (dialog.exec() != QDialog::Accepted || dialog.size() == count)
         return;
     // Not an undo step, on purpose. Commands on the stack leave records alone that are gone.

@@ -12,6 +12,8 @@
 #include <QClipboard>
 #include <QMenu>
 
+#include <algorithm>
+
 namespace {
 QIcon icon(const char *name)
 {
@@ -24,6 +26,13 @@ void setExpandedBelow(QTreeWidgetItem *item, bool expanded)
         setExpandedBelow(item->child(i), expanded);
     if (item->childCount() > 0)
         item->setExpanded(expanded);
+}
+
+bool belongsTo(RecordKind kind, RecordKind root)
+{
+    while (recordRow(kind)->parent != RecordKind::None)
+        kind = recordRow(kind)->parent;
+    return kind == root;
 }
 
 /// One bone for each of the mesh's, in the pose that the first block starts from, and one frame: as little as
@@ -123,14 +132,19 @@ StructureActions::TreeMenu StructureActions::createMenu(Document &document, KVTr
                                                                      {"frames", {}},
                                                                      {"copy", {}}};
     for (const Verb verb : {Add, Remove, Copy, Paste, ChangeSize, CopyFlags}) {
+        const auto first = std::find_if(offers().begin(), offers().end(), [&](const Offer &offer) {
+            return offer.verb == verb && belongsTo(offer.kind, document.rootKind());
+        });
+        if (first == offers().end())
+            continue;
         const auto &[iconName, keys] = looks[verb];
-        QAction *action = made.menu->addAction(icon(iconName), QString());
+        QAction *action = made.menu->addAction(icon(iconName), tr(first->text));
         action->setShortcut(keys);
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         tree->addAction(action);
         connect(action, &QAction::triggered, this, [this, tree, verb] {
-            if (const Offer *offer = findOffer(tree->currentRecord().kind, verb))
-                (this->*offer->slot)();
+            if (const Offer *chosen = findOffer(tree->currentRecord().kind, verb))
+                (this->*chosen->slot)();
         });
         made.verbs[verb] = action;
     }
@@ -170,10 +184,13 @@ void StructureActions::updateMenu(const TreeMenu &menu) const
     const bool canPaste = menu.tree == m_anim.tree ? m_copiedBlock.has_value() : m_copiedHotPoint.has_value();
     for (const Verb verb : {Add, Remove, Copy, Paste, ChangeSize, CopyFlags}) {
         QAction *action = menu.verbs[verb];
+        if (!action)
+            continue;
         const Offer *offer = findOffer(kind, verb);
         action->setVisible(offer);
         action->setEnabled(offer && (verb != Paste || canPaste));
-        action->setText(offer ? tr(offer->text) : QString());
+        if (offer)
+            action->setText(tr(offer->text));
     }
     const QTreeWidgetItem *item = menu.tree->currentItem();
     for (QAction *action : {menu.expand, menu.collapse})

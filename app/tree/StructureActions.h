@@ -64,7 +64,8 @@ private:
         const char *text;
         void (StructureActions::*slot)();
     };
-    /// The actions of one tree. A verb is one action whatever it applies to, so that no key has two owners.
+    /// The actions of one tree, null for a verb that its document offers nowhere. A verb is one action
+    /// whatever it applies to, so that no key has two owners.
     struct TreeMenu
     {
         KVTreeView *tree = nullptr;

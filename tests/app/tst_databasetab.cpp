@@ -243,7 +243,7 @@ QStringList tst_DatabaseTab::ask(QWidget *editor, int question)
 {
     const QPoint centre = editor->rect().center();
     QContextMenuEvent event(QContextMenuEvent::Mouse, centre, editor->mapToGlobal(centre));
-    QApplication::sendEvent(editor, &event);
+    QApplication::sendEvent(editor->findChild<QLineEdit *>(), &event);
     auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
     // What every number field offers comes below the questions.
     if (!menu || menu->actions().size() < 9 || !menu->actions().at(2)->isSeparator())

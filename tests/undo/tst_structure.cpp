@@ -13,6 +13,8 @@
 #include <QRandomGenerator>
 #include <QUndoStack>
 
+#include <numeric>
+
 using SampleModels::bytesOf;
 
 namespace {
@@ -362,9 +364,8 @@ private slots:
         for (const AnimFile &file : models<AnimFile>("gamedata/game/anims/knight/knight.anim")) {
             AnimFile expected = file;
             History<AnimFile> history(file, seed);
-            std::vector<int> ids;
-            for (int i = 0; i < int(file.blocks.size()); ++i)
-                ids.push_back(i);
+            std::vector<int> ids(file.blocks.size());
+            std::iota(ids.begin(), ids.end(), 0);
             const auto isAllowed = [&](RecordKind kind) {
                 return editsKeys || (kind != RecordKind::AnimFrame && kind != RecordKind::TranslationKey &&
                                      kind != RecordKind::RotationKey);

@@ -381,6 +381,9 @@ private slots:
                     history.changeList<UC_AnimBlockPaste, UC_AnimBlockRemove>({}, &ids);
                     break;
                 case 7: {
+                    // In the midst of a history that then goes on forwards, too.
+                    for (int back = history.below(8); back > 0; --back)
+                        history.stack.undo();
                     if (ids.empty())
                         break;
                     const auto block = size_t(history.below(int(ids.size())));
@@ -390,6 +393,8 @@ private slots:
                     (history.model.blocks[block].*resize)(count);
                     if (ids[block] >= 0)
                         (expected.blocks[size_t(ids[block])].*resize)(count);
+                    for (int forth = history.below(8); forth > 0; --forth)
+                        history.stack.redo();
                     break;
                 }
                 default:

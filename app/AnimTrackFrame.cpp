@@ -3,6 +3,7 @@
 #include "AnimTrackFrame.h"
 
 #include "AnimFile.h"
+#include "FrameChoice.h"
 #include "Playback.h"
 #include "Settings.h"
 
@@ -110,7 +111,6 @@ void AnimTrackFrame::OnAnimTrackSliderChanged(int frame)
     const AnimBlock *block = currentBlock();
     if (!block || frame >= block->frameCount())
         return;
-    // Not std::max: a NaN speed counts as 1, too.
-    playback().time = float(frame) / (block->speed >= 1.0f ? block->speed : 1.0f);
+    playback().time = float(frame) / playRate(block->speed);
     emit playbackChanged();
 }

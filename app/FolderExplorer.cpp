@@ -242,8 +242,11 @@ void FolderExplorer::refill()
         const QString ownName = QDir(folder).dirName();
         m_tree->setHeaderLabel(folder.isEmpty() ? m_kind.label : ownName.isEmpty() ? folder : ownName);
         m_tree->header()->setToolTip(QDir::toNativeSeparators(folder));
-        if (!folder.isEmpty() && QFileInfo(folder).isDir())
+        if (!folder.isEmpty() && QFileInfo(folder).isDir()) {
+            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
             m_tree->addTopLevelItems(readFolder(folder, m_kind.extension, &m_icons));
+            QGuiApplication::restoreOverrideCursor();
+        }
         m_filledFolder = folder;
 
         const bool openWhole = !sameFolder && hasFewerRowsThan(m_tree, OpenWholeLimit);

@@ -156,8 +156,7 @@ void MainWindow::createViewToolBars()
     m_ui->vlviewStatic->insertWidget(0, rigid);
     new ViewPreferences({skinned, rigid}, viewports(), actions, this);
     for (KVOpenGLWidget *viewport : viewports()) {
-        connect(viewport, &KVOpenGLWidget::positionReadOut, this,
-                &MainWindow::showReadOut);
+        connect(viewport, &KVOpenGLWidget::positionReadOut, this, &MainWindow::showReadOut);
     }
 }
 
@@ -271,8 +270,8 @@ void MainWindow::updateCurrentDocument()
     m_ui->actionScale->setEnabled(m_ui->actionRotate->isEnabled());
     m_ui->actionSkinnedSaveAs->setEnabled(m_skinnedMesh.isOpen());
     m_ui->actionAnimSaveAs->setEnabled(m_anim.isOpen());
-    m_ui->actionSaveAll->setEnabled(
-        std::any_of(m_panes.begin(), m_panes.end(), [](const Pane &each) { return each.document->isOpen(); }));
+    m_ui->actionSaveAll->setEnabled(std::any_of(m_panes.begin(), m_panes.end(),
+                                                [](const Pane &each) { return each.document->isOpen(); }));
     setWindowTitle(isOpen ? QStringLiteral("Korvane - ") + document->fileName() +
                                 (document->isModified() ? QStringLiteral(" * ") : QString())
                           : QStringLiteral("Korvane"));

@@ -181,7 +181,8 @@ bool AnimFile::read(BinaryFileReader &reader)
 
 QString AnimFile::refusal() const
 {
-    return blocks.empty() ? QStringLiteral("An animation file without an animation is not saved.") : QString();
+    return blocks.empty() ? QStringLiteral("An animation file without an animation is not saved.")
+                          : QString();
 }
 
 bool AnimFile::write(const QString &path) const

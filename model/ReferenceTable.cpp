@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 bool ReferenceTable::read(const QString &path)
@@ -49,5 +50,5 @@ QString builtInReferencePath(ReferenceKind kind)
 QString referencePath(ReferenceKind kind)
 {
     const QString path = QStringLiteral("%1/%2.txt").arg(referenceOverrideFolder(), referenceName(kind));
-    return QFile::exists(path) ? path : builtInReferencePath(kind);
+    return QFileInfo(path).isFile() ? path : builtInReferencePath(kind);
 }

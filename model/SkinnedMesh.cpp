@@ -108,9 +108,10 @@ QString SkinnedMesh::refusal() const
     if (nodes.empty())
         return QStringLiteral("A skinned mesh without a bone is not saved.");
     const auto bad = std::find_if(surfaces.begin(), surfaces.end(), usesTerminatorAsIndex);
-    return bad == surfaces.end() ? QString()
-                                 : QStringLiteral("Surface %1 has a triangle index of 65535, which would end it.")
-                                       .arg(bad - surfaces.begin());
+    return bad == surfaces.end()
+               ? QString()
+               : QStringLiteral("Surface %1 has a triangle index of 65535, which would end it.")
+                     .arg(bad - surfaces.begin());
 }
 
 bool SkinnedMesh::write(const QString &path) const

@@ -48,21 +48,14 @@ KVOpenGLWidget::~KVOpenGLWidget()
 
 void KVOpenGLWidget::initializeGL()
 {
-    m_initialized = true;
     initializeOpenGLFunctions();
-    bool failed = false;
-    m_painter = std::make_unique<ScenePainter>([this, &failed] {
-        failed = true;
-        close();
-    });
+    m_painter = std::make_unique<ScenePainter>([this] { close(); });
     m_painter->setUpState(m_background);
     m_painter->setBackFaceCulling(m_backCull);
     m_appliedBackCull = m_backCull;
     buildModel();
     connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &KVOpenGLWidget::releaseGL,
             Qt::UniqueConnection);
-    if (failed)
-        emit initFailed();
     if (isVisible())
         setPace(Pace::Moving);
 }
@@ -74,7 +67,6 @@ void KVOpenGLWidget::releaseGL()
     makeCurrent();
     m_painter.reset();
     doneCurrent();
-    m_initialized = false;
 }
 
 void KVOpenGLWidget::resizeGL(int width, int height)

@@ -71,8 +71,6 @@ signals:
     void frameShown(int frame);
     /// The text beside the track slider.
     void frameLabelChanged(const QString &text);
-    /// The graphics driver refuses the shaders; the view has closed itself.
-    void initFailed();
 
 protected:
     void initializeGL() override;
@@ -112,8 +110,7 @@ private:
     QPoint centre() const { return {width() / 2, height() / 2}; }
 
     std::unique_ptr<ScenePainter> m_painter; ///< made in initializeGL for its context
-    bool m_initialized = false;
-    SceneFrame m_frame; ///< of the next paint
+    SceneFrame m_frame;                      ///< of the next paint
     QColor m_background;
     float m_moveSpeed = 0.0f;
     bool m_backCull = false;

@@ -73,11 +73,11 @@ void AnimActionPage::nameArguments(int eventType)
         const bool isDamage = meaning.question == Question::Damage;
         label->setText(meaning.label ? QCoreApplication::translate("EventArguments", meaning.label)
                                      : tr("Arg %1").arg(i + 1));
-        const QString toolTip =
-            isDamage ? tr("Damage is this value / 256. Example: 64 damage = 16384\n"
-                          "By default most enemies head have damage scaling of 10.\n"
-                          "Which means head shots will take 640 damage.")
-                     : tr("Argument %1; what it means depends on the event type").arg(i + 1);
+        const QString toolTip = isDamage
+                                    ? tr("Damage is this value / 256. Example: 64 damage = 16384\n"
+                                         "By default most enemies head have damage scaling of 10.\n"
+                                         "Which means head shots will take 640 damage.")
+                                    : tr("Argument %1; what it means depends on the event type").arg(i + 1);
         label->setToolTip(toolTip);
         editor->setToolTip(toolTip);
         Questions::set(editor, Questions::allAfter(meaning.question));

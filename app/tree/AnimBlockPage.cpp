@@ -3,6 +3,7 @@
 #include "AnimBlockPage.h"
 
 #include "AnimCommands.h"
+#include "FrameChoice.h"
 #include "IndexTargets.h"
 #include "Questions.h"
 
@@ -45,8 +46,6 @@ void AnimBlockPage::recordShown()
     m_ui.hintAnimLoopFrame->setTarget(IndexTargets::loopFrame(*block, block->loopFrame));
     m_ui.lblAnimFrames->setNum(block->frameCount());
     m_ui.lblAnimBones->setNum(int(block->nodes.size()));
-    // As it plays: a speed below 1 (or none) counts as 1.
-    const float rate = block->speed >= 1.0f ? block->speed : 1.0f;
-    const float seconds = float(std::max(block->frameCount() - 1, 0)) / rate;
+    const float seconds = std::max(playDuration(*block), 0.0f);
     m_ui.lblAnimDuration->setText(tr("%1 s").arg(double(seconds), 0, 'f', 2));
 }

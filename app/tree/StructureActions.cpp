@@ -53,6 +53,23 @@ AnimBlock newBlock(const AnimFile &file, const SkinnedMesh &mesh)
     block.setFrameCount(1);
     return block;
 }
+
+/// The longest that a table of the block may be made: as many entries as a 16-bit index can name, unless its
+/// keys would take more than this much memory.
+int mostEntries(const AnimBlock &block, RecordKind group)
+{
+    constexpr qint64 MostBytes = 256 << 20;
+    constexpr qint64 MostIndexes = 65535;
+    const qint64 frames = block.frameCount();
+    qint64 entryBytes = 0;
+    if (group == RecordKind::AnimFrames)
+        entryBytes = qint64(sizeof(QVector3D)) * block.translations.trackCount() +
+                     qint64(sizeof(QVector4D)) * block.rotations.trackCount();
+    else
+        entryBytes =
+            frames * qint64(group == RecordKind::Translations ? sizeof(QVector3D) : sizeof(QVector4D));
+    return int(std::min(MostIndexes, MostBytes / std::max<qint64>(entryBytes, 1)));
+}
 } // namespace
 
 const std::vector<StructureActions::Offer> &StructureActions::offers()

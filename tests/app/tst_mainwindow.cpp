@@ -9,6 +9,7 @@
 #include "TestSupport.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QDirIterator>
@@ -17,6 +18,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QSpinBox>
@@ -105,6 +107,9 @@ private slots:
     void init();
     void firstStartAsksForTheFolders();
     void editUndoSave();
+    void typingIsSavedToo();
+    void aModifiedDocumentGoesWithTheWindow();
+    void aFlagSwitchKeepsTheOtherFlags();
     void aFailedOpenKeepsTheDocument();
     void aFailedSaveKeepsFileAndMark();
     void theExplorerAsksAboutUnsavedChanges();
@@ -230,6 +235,70 @@ void tst_MainWindow::editUndoSave()
     undo->trigger();
     QTest::keyClick(&window, Qt::Key_S, Qt::ControlModifier);
     QCOMPARE(TestSupport::readFile(path), before);
+}
+
+void tst_MainWindow::typingIsSavedToo()
+{
+    const QString path = write(QStringLiteral("man.skinnedmesh"), triangleMan());
+    MainWindow window;
+    window.show();
+    window.openFiles({path});
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    auto *minimum = find<QWidget>(window, "sbSMBBMinX");
+    minimum->setFocus();
+    auto *line = minimum->findChild<QLineEdit *>();
+    line->selectAll();
+    QTest::keyClicks(line, QStringLiteral("70.5"));
+    QTest::keyClick(&window, Qt::Key_S, Qt::ControlModifier);
+    SkinnedMesh saved;
+    QVERIFY(!saved.read(path));
+    QCOMPARE(saved.bbMin.x(), 70.5f);
+    QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh"));
+    QVERIFY(minimum->hasFocus());
+}
+
+void tst_MainWindow::aModifiedDocumentGoesWithTheWindow()
+{
+    StaticMesh rigid;
+    rigid.surfaces.resize(1);
+    MainWindow window;
+    window.show();
+    window.openFiles({write(QStringLiteral("man.skinnedmesh"), triangleMan()),
+                      write(QStringLiteral("man.anim"), twoBlocks()),
+                      write(QStringLiteral("box.staticmesh"), rigid)});
+    select(window, "treeSkinnedMesh", {RecordKind::Bone, {1, 0, 0}});
+    type(find<QSpinBox>(window, "sbNodeParentNode"), QStringLiteral("7"));
+    find<QTabWidget>(window, "tabTrees")->setCurrentIndex(1);
+    select(window, "treeAnim", {RecordKind::AnimBlock, {1, 0, 0}});
+    type(find<QSpinBox>(window, "sbAnimLoopFrame"), QStringLiteral("7"));
+    QVERIFY(find<QAction>(window, "actionUndo")->isEnabled());
+}
+
+void tst_MainWindow::aFlagSwitchKeepsTheOtherFlags()
+{
+    SkinnedMesh mesh = triangleMan();
+    mesh.nodes[0].flags = 0x10;
+    mesh.nodes[1].flags = 0x21;
+    const QString path = write(QStringLiteral("man.skinnedmesh"), mesh);
+    MainWindow window;
+    window.show();
+    window.openFiles({path});
+    find<KVTreeView>(window, "treeSkinnedMesh")
+        ->selectRecords({{RecordKind::Bone, {0, 0, 0}}, {RecordKind::Bone, {1, 0, 0}}},
+                        {RecordKind::Bone, {0, 0, 0}});
+    auto *flags = find<QWidget>(window, "flagsNode");
+    const auto flagsInFile = [&window, &path] {
+        find<QAction>(window, "actionSave")->trigger();
+        SkinnedMesh saved;
+        return saved.read(path) ? QVector<qint32>()
+                                : QVector<qint32>({saved.nodes[0].flags, saved.nodes[1].flags});
+    };
+    flags->findChild<QCheckBox *>(QStringLiteral("cbBit0"))->click();
+    QCOMPARE(flagsInFile(), QVector<qint32>({0x11, 0x21}));
+    flags->findChild<QPushButton *>(QStringLiteral("btnFlagsNone"))->click();
+    QCOMPARE(flagsInFile(), QVector<qint32>({0, 0}));
+    find<QAction>(window, "actionUndo")->trigger();
+    QCOMPARE(flagsInFile(), QVector<qint32>({0x11, 0x21}));
 }
 
 void tst_MainWindow::aFailedOpenKeepsTheDocument()
@@ -394,7 +463,14 @@ void tst_MainWindow::viewControlsAreStored()
 void tst_MainWindow::everyRealModelOpensAndPlays()
 {
     SKIP_WITHOUT_SHARED("gamedata");
-    const QString root = TestSupport::shared(QStringLiteral("gamedata"));
+    // Copies, since they are saved.
+    const QString original = TestSupport::shared(QStringLiteral("gamedata"));
+    const QString root = m_files->path();
+    for (QDirIterator it(original, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
+        const QString copy = root + it.next().mid(original.size());
+        QDir().mkpath(QFileInfo(copy).path());
+        QVERIFY(QFile::copy(it.filePath(), copy));
+    }
     useFolders(root + "/game", root + "/mod");
     Settings::BackCull.setValue(true);
     Settings::HideMeshData.setValue(false);
@@ -423,12 +499,31 @@ void tst_MainWindow::everyRealModelOpensAndPlays()
         }
         view->grabFramebuffer();
 
-        // Looking at every record changes nothing, and the file is saved as it was.
-        auto *tree = path.endsWith(QLatin1String("staticmesh")) ? find<KVTreeView>(window, "treeStaticMesh")
-                                                                : find<KVTreeView>(window, "treeSkinnedMesh");
-        for (QTreeWidgetItemIterator item(tree); *item; ++item)
-            tree->setCurrentItem(*item, 0, QItemSelectionModel::ClearAndSelect);
-        QVERIFY(!find<QAction>(window, "actionUndo")->isEnabled());
+        // Looking at every record changes nothing, and the files are saved as they were.
+        QStringList trees("treeStaticMesh");
+        if (path.endsWith(QLatin1String("skinnedmesh")))
+            trees = QStringList({"treeSkinnedMesh", "treeAnim"});
+        for (const QString &name : qAsConst(trees)) {
+            auto *tree = find<KVTreeView>(window, qPrintable(name));
+            int shown = 0;
+            for (QTreeWidgetItemIterator item(tree); *item; ++item) {
+                // Each of the few, and some of the very many keys and vertices.
+                if ((*item)->childCount() > 0 || shown % 7 == 0)
+                    tree->setCurrentItem(*item, 0, QItemSelectionModel::ClearAndSelect);
+                ++shown;
+            }
+            find<QTabWidget>(window, "tabTrees")->setCurrentIndex(name == QLatin1String("treeAnim") ? 1 : 0);
+            QVERIFY(!find<QAction>(window, "actionUndo")->isEnabled());
+            const QString file =
+                name == QLatin1String("treeAnim")
+                    ? QString(path).replace("/models/", "/anims/").replace(".skinnedmesh", ".anim")
+                    : path;
+            const QByteArray before = TestSupport::readFile(file);
+            QVERIFY(QFile::remove(file));
+            find<QAction>(window, "actionSave")->trigger();
+            QVERIFY2(TestSupport::readFile(file) == before, qPrintable(file));
+        }
+        find<QTabWidget>(window, "tabTrees")->setCurrentIndex(0);
     }
     QCOMPARE(opened, 10);
     // One image of the barrel lies in neither folder.

@@ -288,7 +288,7 @@ private slots:
 
     void footstepsSoundWhereFeetLand()
     {
-        const AnimBlock &walk = m_animations.blocks[1];
+        const AnimBlock &walk = m_animations.blocks[0];
         QCOMPARE(walk.actions.size(), size_t(2));
         for (const AnimAction &step : walk.actions) {
             const int before = (step.frame + walk.frameCount() - 3) % (walk.frameCount() - 1);

@@ -281,11 +281,7 @@ AnimFile makeAnimations(const Figure &figure)
     file.version = 2;
     constexpr float IdleFrames = 90.0f, WalkFrames = 24.0f;
 
-    AnimBlock idle = makeBlock(figure, 0, int(IdleFrames) + 1,
-                               [&](int frame) { return idlePose(figure, float(frame) / IdleFrames); });
-    idle.loopFrame = 0;
-    file.blocks.push_back(idle);
-
+    // The walk comes first: what opens first plays first.
     AnimBlock walk = makeBlock(figure, 1, int(WalkFrames) + 1,
                                [&](int frame) { return walkPose(figure, float(frame) / WalkFrames); });
     walk.loopFrame = 0;
@@ -293,6 +289,11 @@ AnimFile makeAnimations(const Figure &figure)
     walk.actions = {action(0, PlaySound, LeftFoot, {StepSound}),
                     action(12, PlaySound, RightFoot, {StepSound})};
     file.blocks.push_back(walk);
+
+    AnimBlock idle = makeBlock(figure, 0, int(IdleFrames) + 1,
+                               [&](int frame) { return idlePose(figure, float(frame) / IdleFrames); });
+    idle.loopFrame = 0;
+    file.blocks.push_back(idle);
 
     AnimBlock attack = makeBlock(figure, 10, 41, [&](int frame) { return attackPose(figure, float(frame)); });
     const QVector3D jaw(0.0f, -46.0f, 0.0f);

@@ -14,6 +14,7 @@
 #include "PropertyPages.h"
 #include "QuestionMenu.h"
 #include "StructureActions.h"
+#include "UndoActions.h"
 #include "ViewPreferences.h"
 #include "ViewToolBar.h"
 #include "ViewportMarks.h"
@@ -44,11 +45,13 @@ MainWindow::MainWindow(QWidget *parent)
     createPanes();
     createViewToolBars();
     readSettings();
-    createUndoActions();
+    addUndoActions(m_undoGroup, *m_ui->menuEdit, *m_ui->toolBarEdit);
     new StructureActions({m_skinnedMesh, m_ui->treeSkinnedMesh}, {m_anim, m_ui->treeAnim},
                          {m_staticMesh, m_ui->treeStaticMesh}, this);
     new QuestionMenu(*m_ui->tabDatabase, this);
-    createViewMenu();
+    m_ui->menuView->addSeparator();
+    m_ui->menuView->addActions({m_ui->toolBarFile->toggleViewAction(), m_ui->toolBarEdit->toggleViewAction(),
+                                m_ui->dockConsole->toggleViewAction()});
     connectPlayback();
     auto *geometry = new WindowGeometry(this);
     restoreLayout(*this);
@@ -171,27 +174,6 @@ void MainWindow::readSettings()
     m_ui->actionAnimSyncSkin->setChecked(Settings::AnimationSyncSkin.value());
 }
 
-void MainWindow::createUndoActions()
-{
-    QAction *undo = m_undoGroup.createUndoAction(this, tr("&Undo"));
-    undo->setObjectName(QStringLiteral("actionUndo"));
-    undo->setIcon(QIcon(QStringLiteral(":/Images/Icons/undo.png")));
-    undo->setShortcuts(QKeySequence::Undo);
-    QAction *redo = m_undoGroup.createRedoAction(this, tr("&Redo"));
-    redo->setObjectName(QStringLiteral("actionRedo"));
-    redo->setIcon(QIcon(QStringLiteral(":Images/Icons/redo.png")));
-    redo->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
-    m_ui->menuEdit->insertActions(m_ui->menuEdit->actions().value(0), {undo, redo});
-    m_ui->toolBarEdit->addActions({undo, redo});
-}
-
-void MainWindow::createViewMenu()
-{
-    m_ui->menuView->addSeparator();
-    m_ui->menuView->addActions({m_ui->toolBarFile->toggleViewAction(), m_ui->toolBarEdit->toggleViewAction(),
-                                m_ui->dockConsole->toggleViewAction()});
-}
-
 void MainWindow::connectPlayback()
 {
     AnimTrackFrame *track = m_ui->animTrackFrame;
@@ -268,6 +250,7 @@ void MainWindow::updateCurrentDocument()
     m_ui->actionSaveAs->setEnabled(isOpen);
     m_ui->actionRotate->setEnabled(isOpen && document != &m_anim);
     m_ui->actionScale->setEnabled(m_ui->actionRotate->isEnabled());
+    m_transforms->setAvailable(m_ui->actionRotate->isEnabled());
     m_ui->actionSkinnedSaveAs->setEnabled(m_skinnedMesh.isOpen());
     m_ui->actionAnimSaveAs->setEnabled(m_anim.isOpen());
     m_ui->actionSaveAll->setEnabled(std::any_of(m_panes.begin(), m_panes.end(),

@@ -76,9 +76,7 @@ private:
     void createConsole();
     void createPanes();
     void createViewToolBars();
-    void createViewMenu();
     void readSettings();
-    void createUndoActions();
     void connectPlayback();
 
     /// The kind whose document the actions act on; none on a tab without one.

@@ -6,6 +6,8 @@
 #include "ScaleDialog.h"
 #include "TransformCommands.h"
 
+#include <QAbstractButton>
+
 namespace {
 void bringUp(QDialog *dialog)
 {
@@ -31,6 +33,7 @@ void ModelTransforms::showRotateDialog()
         connect(dialog, &RotateDialog::rotate, this, &ModelTransforms::rotate);
         m_rotateDialog = dialog;
     }
+    updateButtons();
     bringUp(m_rotateDialog);
 }
 
@@ -41,7 +44,24 @@ void ModelTransforms::showScaleDialog()
         connect(dialog, &ScaleDialog::scale, this, &ModelTransforms::scale);
         m_scaleDialog = dialog;
     }
+    updateButtons();
     bringUp(m_scaleDialog);
+}
+
+void ModelTransforms::setAvailable(bool available)
+{
+    m_available = available;
+    updateButtons();
+}
+
+void ModelTransforms::updateButtons()
+{
+    for (QDialog *dialog : {m_rotateDialog, m_scaleDialog}) {
+        if (!dialog)
+            continue;
+        for (QAbstractButton *button : dialog->findChildren<QAbstractButton *>())
+            button->setEnabled(m_available || button->objectName() == QLatin1String("btnClose"));
+    }
 }
 
 void ModelTransforms::rotate(float pitch, float roll, float yaw)

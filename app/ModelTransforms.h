@@ -25,6 +25,9 @@ public:
     void showRotateDialog();
     void showScaleDialog();
 
+    /// Whether there is a model to transform: without one the dialogs can only be closed.
+    void setAvailable(bool available);
+
     /// In degrees. Without an open mesh in the current tab nothing happens.
     void rotate(float pitch, float roll, float yaw);
     void scale(float factor);
@@ -37,6 +40,9 @@ private:
     StaticMeshDocument &m_staticMesh;
     CurrentDocument m_current;
     QWidget *m_window;
+    void updateButtons();
+
+    bool m_available = true;
     QDialog *m_rotateDialog = nullptr;
     QDialog *m_scaleDialog = nullptr;
 };

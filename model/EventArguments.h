@@ -13,13 +13,13 @@ struct EventArgument
 
 /// What numbers of the model files stand for.
 namespace Question {
-inline constexpr QLatin1String Actor{"actor"};
-inline constexpr QLatin1String Animation{"animation"};
-inline constexpr QLatin1String Sound{"sound"};
-inline constexpr QLatin1String Voice{"voice"};
-inline constexpr QLatin1String Particle{"particle"};
-inline constexpr QLatin1String Impact{"impact"};
-inline constexpr QLatin1String Damage{"damage"}; ///< 256 times the damage
+inline constexpr QLatin1String Actor{"actor", 5};
+inline constexpr QLatin1String Animation{"animation", 9};
+inline constexpr QLatin1String Sound{"sound", 5};
+inline constexpr QLatin1String Voice{"voice", 5};
+inline constexpr QLatin1String Particle{"particle", 8};
+inline constexpr QLatin1String Impact{"impact", 6};
+inline constexpr QLatin1String Damage{"damage", 6}; ///< 256 times the damage
 } // namespace Question
 
 /// The meaning of argument 0 to 7 of any event type.

@@ -6,7 +6,6 @@
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QFileInfo>
 #include <QStandardPaths>
 
 bool ReferenceTable::read(const QString &path)
@@ -50,5 +49,5 @@ QString builtInReferencePath(ReferenceKind kind)
 QString referencePath(ReferenceKind kind)
 {
     const QString path = QStringLiteral("%1/%2.txt").arg(referenceOverrideFolder(), referenceName(kind));
-    return QFileInfo(path).isFile() ? path : builtInReferencePath(kind);
+    return QFile::exists(path) ? path : builtInReferencePath(kind);
 }

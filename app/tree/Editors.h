@@ -131,12 +131,22 @@ struct Component
     template <typename Vector>
     auto get(const Vector &vector) const
     {
-        return vector[index];
+        return element(vector);
     }
     template <typename Vector, typename Part>
     void set(Vector &vector, Part part) const
     {
-        vector[index] = part;
+        element(vector) = part;
+    }
+
+private:
+    template <typename Vector>
+    decltype(auto) element(Vector &vector) const
+    {
+        if constexpr (std::is_same_v<std::remove_const_t<Vector>, std::array<float, 8>>)
+            return vector[size_t(index)];
+        else
+            return vector[index];
     }
 };
 

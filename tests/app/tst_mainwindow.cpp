@@ -243,6 +243,7 @@ void tst_MainWindow::typingIsSavedToo()
     MainWindow window;
     window.show();
     window.openFiles({path});
+    window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));
     auto *minimum = find<QWidget>(window, "sbSMBBMinX");
     minimum->setFocus();

@@ -12,7 +12,9 @@ constexpr int GroundSize = 512;
 /// texels.
 double lineCoverage(int texel, int spacing, double halfWidth)
 {
-    const double distance = std::abs((texel + spacing / 2) % spacing - spacing / 2 + 0.5);
+    const int half = spacing / 2;
+    const int offset = (texel + half) % spacing - half;
+    const double distance = std::abs(offset + 0.5);
     return std::clamp(1.5 * (halfWidth + 0.5 - distance) / (halfWidth + 0.5), 0.0, 1.0);
 }
 

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "UndoActions.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QMenu>
+#include <QToolBar>
+#include <QUndoGroup>
+
+void addUndoActions(const QUndoGroup &group, QMenu &menu, QToolBar &toolBar)
+{
+    QObject *window = toolBar.window();
+    QAction *undo = group.createUndoAction(window, QCoreApplication::translate("UndoActions", "&Undo"));
+    undo->setObjectName(QStringLiteral("actionUndo"));
+    undo->setIcon(QIcon(QStringLiteral(":/Images/Icons/undo.png")));
+    undo->setShortcuts(QKeySequence::Undo);
+    QAction *redo = group.createRedoAction(window, QCoreApplication::translate("UndoActions", "&Redo"));
+    redo->setObjectName(QStringLiteral("actionRedo"));
+    redo->setIcon(QIcon(QStringLiteral(":Images/Icons/redo.png")));
+    redo->setShortcuts(
+        {QKeySequence(QStringLiteral("Ctrl+Shift+Z")), QKeySequence(QStringLiteral("Ctrl+Y"))});
+    menu.insertActions(menu.actions().value(0), {undo, redo});
+    toolBar.addActions({undo, redo});
+}

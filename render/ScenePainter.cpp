@@ -14,7 +14,7 @@
 
 namespace {
 // Sizes of markers at a distance of 1: they look equally big from everywhere.
-constexpr float SphereRadius = 0.022f;
+constexpr float SphereRadius = 0.028f;
 constexpr float QuadRadius = 0.014f;
 constexpr float NearestMarker = 5.12f; // the near plane: behind it nothing is seen
 /// The overlay is drawn this much nearer to the eye, in the same place on the screen, so that the surface it

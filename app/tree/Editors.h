@@ -11,6 +11,9 @@
 #include <QSignalBlocker>
 #include <QSpinBox>
 
+#include <array>
+#include <type_traits>
+
 /// What a property page needs of every kind of editor: its value, a way to show one without any signal, and
 /// the signal by which the user's edits arrive.
 namespace Editors {
@@ -123,6 +126,13 @@ struct WholeField
     }
 };
 
+template <typename>
+struct IsArray : std::false_type
+{};
+template <typename Element, size_t Size>
+struct IsArray<std::array<Element, Size>> : std::true_type
+{};
+
 /// One component of a vector, or one element of an array.
 struct Component
 {
@@ -143,7 +153,7 @@ private:
     template <typename Vector>
     decltype(auto) element(Vector &vector) const
     {
-        if constexpr (std::is_same_v<std::remove_const_t<Vector>, std::array<float, 8>>)
+        if constexpr (IsArray<std::remove_const_t<Vector>>::value)
             return vector[size_t(index)];
         else
             return vector[index];

@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QItemSelection>
+#include <QPainter>
 #include <QSet>
 #include <QSignalBlocker>
 
@@ -254,6 +255,18 @@ void KVTreeView::rebuildBelow(const RecordRef &owner, const QVector<StructureCha
         if (open->record() == record)
             open->setExpanded(true);
     }
+}
+
+void KVTreeView::paintEvent(QPaintEvent *event)
+{
+    QTreeWidget::paintEvent(event);
+    if (topLevelItemCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
+    painter.drawText(viewport()->rect().adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap,
+                     tr("No file is open. Choose one in the folder, or press %1.")
+                         .arg(QKeySequence(QKeySequence::Open).toString(QKeySequence::NativeText)));
 }
 
 void KVTreeView::notifyCurrent()

@@ -38,6 +38,9 @@ signals:
     /// Another record is current, or the current one was changed or joined by others: show its page.
     void currentRecordChanged(const RecordRef &record);
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
 private:
     void fillItem(RecordItem *item) const;
     void onRecordsChanged(const QVector<RecordRef> &records);

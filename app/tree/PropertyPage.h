@@ -85,13 +85,7 @@ protected:
                 Editors::show(editor, part.get(Command::Field::get(*shown)));
         };
         const auto commitEdit = [this, editor, part, macroText] {
-            if constexpr (std::is_same_v<Editor, FlagsEditor>) {
-                // One flag is switched, in every record; the others stay as each record has them.
-                const Parts::MaskedBits bits{editor->editedBits()};
-                edit<Command>(bits, bits.get(editor->value()), macroText);
-            } else {
-                edit<Command>(part, Editors::value(editor), macroText);
-            }
+            commitEditor<Command>(editor, part, macroText);
         };
         addBinding({editor, show, commitEdit});
         Editors::onEdited(editor, static_cast<Page *>(this), slot);
@@ -127,6 +121,19 @@ protected:
     }
 
 private:
+    template <typename Command, typename Editor, typename Part>
+    void commitEditor(const Editor *editor, const Part &part, const QString &macroText)
+    {
+        edit<Command>(part, Editors::value(editor), macroText);
+    }
+    /// One flag is switched, in every record; the others stay as each record has them.
+    template <typename Command, typename Part>
+    void commitEditor(const FlagsEditor *editor, const Part &, const QString &macroText)
+    {
+        const Parts::MaskedBits bits{editor->editedBits()};
+        edit<Command>(bits, bits.get(editor->value()), macroText);
+    }
+
     ModelDocument<Model> &m_document;
     const KVTreeView &m_tree;
 };

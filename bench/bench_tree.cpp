@@ -27,7 +27,7 @@ struct MeshTree
     SkinnedMeshDocument document{DocumentType::SkinnedMesh, RecordKind::SkinnedMesh};
     KVTreeView tree;
 
-    MeshTree(SkinnedMesh mesh)
+    explicit MeshTree(const SkinnedMesh &mesh)
     {
         // Through a file, as every model comes.
         QTemporaryDir home;

@@ -93,6 +93,23 @@ quit() {
     wait "$korvane_pid" || true
 }
 
+# approach: flies the camera up to the model with the mouse, the same way each time.
+approach() {
+    xdotool mousemove --window "$main" 700 450 mousedown 1 mousedown 3
+    sleep 0.3
+    xdotool mousemove_relative -- 0 90
+    sleep 0.6
+    xdotool mousemove_relative -- 0 90
+    sleep 0.6
+    xdotool mouseup 3
+    for _ in 1 2 3; do
+        xdotool mousemove_relative -- 0 -100
+        sleep 0.6
+    done
+    xdotool mouseup 1
+    sleep 0.3
+}
+
 press() {
     xdotool key --clearmodifiers "$@"
     sleep 0.5
@@ -108,6 +125,9 @@ all_pictures() {
     static_mesh=$(first staticmesh)
 
     korvane "$skinned_mesh" "$animation"
+    approach
+    xdotool mousemove --window "$main" 1250 150 click 1 mousemove --window "$main" 1320 207 click 1
+    sleep 1
     grab "$main" "$folder/main.png"
     press ctrl+comma
     options=$(wait_for --name '^Options$')
@@ -116,12 +136,13 @@ all_pictures() {
     quit
 
     korvane "$static_mesh"
+    approach
     grab "$main" "$folder/static-mesh.png"
     quit
 
     # Half an animation file: the console says where it ends.
     head -c 100 "$animation" >"$broken"
-    korvane "$skinned_mesh" "$broken"
+    korvane "$skinned_mesh" "$animation" "$broken"
     press Return
     grab "$main" "$folder/console.png"
     quit

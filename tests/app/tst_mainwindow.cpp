@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "DocumentKind.h"
+#include "Hand.h"
 #include "KVOpenGLWidget.h"
 #include "KVTreeView.h"
 #include "MainWindow.h"
@@ -11,7 +12,6 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDialog>
 #include <QDirIterator>
 #include <QDockWidget>
 #include <QLabel>
@@ -26,78 +26,12 @@
 #include <QStatusBar>
 #include <QSurfaceFormat>
 #include <QTabWidget>
-#include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
 
 #include <sys/resource.h>
 
 #include <csignal>
-#include <functional>
-
-namespace {
-/// Answers the modal dialogs that come up, one after another, as a hand would; says what they were.
-class Hand : public QObject
-{
-public:
-    using Answer = std::function<void(QDialog *)>;
-
-    explicit Hand(QVector<Answer> answers)
-        : m_answers(std::move(answers))
-    {
-        connect(&m_timer, &QTimer::timeout, this, [this] {
-            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-            if (!dialog || dialog == m_last)
-                return;
-            m_last = dialog;
-            const auto *box = qobject_cast<QMessageBox *>(dialog);
-            seen.append(box ? box->windowTitle() + QLatin1Char('|') + box->text() : dialog->windowTitle());
-            if (m_answers.isEmpty())
-                dialog->reject();
-            else
-                m_answers.takeFirst()(dialog);
-        });
-        m_timer.start(10);
-    }
-
-    static Answer press(QMessageBox::StandardButton button)
-    {
-        return [button](QDialog *dialog) { static_cast<QMessageBox *>(dialog)->button(button)->click(); };
-    }
-    static void reject(QDialog *dialog) { dialog->reject(); }
-
-    QStringList seen;
-
-private:
-    QVector<Answer> m_answers;
-    QTimer m_timer;
-    QPointer<QDialog> m_last;
-};
-
-SkinnedMesh triangleMan()
-{
-    SkinnedMesh mesh;
-    mesh.nodes.resize(2);
-    mesh.nodes[0].childNodes = {1};
-    mesh.surfaces = {{QStringLiteral("materials/m/_white"), {0, 2, 1}}};
-    mesh.vertices = {{{-100, 0, 0}, {}, {0, -1, 0}, 0},
-                     {{100, 0, 0}, {}, {0, -1, 0}, 0},
-                     {{0, 0, 200}, {}, {0, -1, 0}, 1}};
-    return mesh;
-}
-
-AnimFile twoBlocks()
-{
-    AnimFile file;
-    file.blocks.resize(2);
-    for (AnimBlock &block : file.blocks) {
-        block.nodes.resize(2);
-        block.speed = 10;
-        block.setFrameCount(11);
-    }
-    return file;
-}
-} // namespace
 
 class tst_MainWindow : public QObject
 {

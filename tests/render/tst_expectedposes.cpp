@@ -162,7 +162,7 @@ void tst_ExpectedPoses::poses()
     const QJsonArray blocks = model[QLatin1String("blocks")].toArray();
     for (int i = 0; i < blocks.size(); ++i) {
         const AnimBlock &block = anim.blocks[size_t(i)];
-        for (const QJsonValue &pose : blocks[i].toObject()[QLatin1String("poses")].toArray()) {
+        for (const auto pose : blocks[i].toObject()[QLatin1String("poses")].toArray()) {
             const int frame = pose.toObject()[QLatin1String("frame")].toInt();
             // As the slider puts it. In single precision the time may lie just before the frame.
             Playback state;

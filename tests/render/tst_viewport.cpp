@@ -411,7 +411,7 @@ void tst_Viewport::deferredBuild()
     m_view->rebuildModel();
     QCOMPARE(log.size(), 0);
     m_view->open();
-    QVERIFY(log.size() > 0);
+    QVERIFY(!log.isEmpty());
 }
 
 void tst_Viewport::knight()

@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "AnimFile.h"
+#include "SkinnedMesh.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QTimer>
+#include <QVector>
+
+#include <functional>
+
+/// Answers the modal dialogs that come up, one after another, as a hand would; says what they were.
+class Hand : public QObject
+{
+public:
+    using Answer = std::function<void(QDialog *)>;
+
+    explicit Hand(QVector<Answer> answers)
+        : m_answers(std::move(answers))
+    {
+        connect(&m_timer, &QTimer::timeout, this, [this] {
+            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            if (!dialog || dialog == m_last)
+                return;
+            m_last = dialog;
+            const auto *box = qobject_cast<QMessageBox *>(dialog);
+            seen.append(box ? box->windowTitle() + QLatin1Char('|') + box->text() : dialog->windowTitle());
+            if (m_answers.isEmpty())
+                dialog->reject();
+            else
+                m_answers.takeFirst()(dialog);
+        });
+        m_timer.start(10);
+    }
+
+    static Answer press(QMessageBox::StandardButton button)
+    {
+        return [button](QDialog *dialog) { static_cast<QMessageBox *>(dialog)->button(button)->click(); };
+    }
+    static void reject(QDialog *dialog) { dialog->reject(); }
+
+    QStringList seen;
+
+private:
+    QVector<Answer> m_answers;
+    QTimer m_timer;
+    QPointer<QDialog> m_last;
+};
+
+/// Two bones, one triangle, no texture to look for.
+inline SkinnedMesh triangleMan()
+{
+    SkinnedMesh mesh;
+    mesh.nodes.resize(2);
+    mesh.nodes[0].childNodes = {1};
+    mesh.surfaces = {{QStringLiteral("materials/m/_white"), {0, 2, 1}}};
+    mesh.vertices = {{{-100, 0, 0}, {}, {0, -1, 0}, 0},
+                     {{100, 0, 0}, {}, {0, -1, 0}, 0},
+                     {{0, 0, 200}, {}, {0, -1, 0}, 1}};
+    return mesh;
+}
+
+/// Two blocks of 11 frames for it, at 10 frames per second.
+inline AnimFile twoBlocks()
+{
+    AnimFile file;
+    file.blocks.resize(2);
+    for (AnimBlock &block : file.blocks) {
+        block.nodes.resize(2);
+        block.speed = 10;
+        block.setFrameCount(11);
+    }
+    return file;
+}

@@ -126,7 +126,7 @@ all_pictures() {
 
     korvane "$skinned_mesh" "$animation"
     approach
-    xdotool mousemove --window "$main" 1250 150 click 1 mousemove --window "$main" 1320 207 click 1
+    xdotool mousemove --window "$main" 1231 150 click 1 mousemove --window "$main" 1320 207 click 1
     sleep 1
     grab "$main" "$folder/main.png"
     press ctrl+comma

@@ -91,6 +91,7 @@ class tst_Commands : public QObject
 
 private slots:
     void everyCommandIsUndoneAndRedoneBitForBit();
+    void onRealModelsToo();
     void aRecordThatIsGoneIsLeftAlone();
     void oddFloatsSurvive();
 
@@ -110,7 +111,12 @@ template <typename Command, typename Model>
 void tst_Commands::checkCommand(Model model)
 {
     using Record = typename Command::Record;
-    const RecordIndex index = Record::find(model, {1, 1, 1}) ? RecordIndex{1, 1, 1} : RecordIndex{1, 0, 0};
+    RecordIndex index{};
+    for (const RecordIndex &candidate : {RecordIndex{1, 1, 1}, RecordIndex{1, 0, 0}, RecordIndex{0, 1, 1}}) {
+        index = candidate;
+        if (Record::find(model, index))
+            break;
+    }
     RecordingView view;
     QUndoStack stack;
     const auto *record = Record::find(model, index);
@@ -151,6 +157,21 @@ void tst_Commands::everyCommandIsUndoneAndRedoneBitForBit()
     walk(skinnedMeshCommands, skinnedMesh());
     walk(animCommands, animFile());
     walk(staticMeshCommands, staticMesh());
+}
+
+void tst_Commands::onRealModelsToo()
+{
+    SKIP_WITHOUT_SHARED("gamedata");
+    const QString models = TestSupport::shared(QStringLiteral("gamedata/game"));
+    SkinnedMesh mesh;
+    QVERIFY(!mesh.read(models + "/models/knight/knight.skinnedmesh"));
+    walk(skinnedMeshCommands, mesh);
+    AnimFile anim;
+    QVERIFY(!anim.read(models + "/anims/knight/knight.anim"));
+    walk(animCommands, anim);
+    StaticMesh barrel;
+    QVERIFY(!barrel.read(models + "/models/barrel/barrel.staticmesh"));
+    walk(staticMeshCommands, barrel);
 }
 
 void tst_Commands::aRecordThatIsGoneIsLeftAlone()

@@ -76,8 +76,9 @@ void KVTreeView::rebuild()
             m_hideData = m_document->rootKind() == RecordKind::AnimFile ? Settings::HideAnimData.value()
                                                                         : Settings::HideMeshData.value();
             auto *root = new RecordItem(m_document->rootKind(), {});
-            fillItem(root);
+            // First into the tree, then filled: a list then finds its way into the view once, not twice.
             addTopLevelItem(root);
+            fillItem(root);
             root->setExpanded(true);
             // Whatever modifier keys are down.
             setCurrentItem(root, 0, QItemSelectionModel::ClearAndSelect);
@@ -95,8 +96,8 @@ void KVTreeView::fillItem(RecordItem *item) const
             continue;
         if (row->position != RecordRow::FromIndex) {
             auto *group = new RecordItem(row->kind, owner.index);
-            fillItem(group);
             item->addChild(group);
+            fillItem(group);
             continue;
         }
         const int count = m_document->recordCount(row->kind, owner.index);

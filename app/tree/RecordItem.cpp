@@ -5,12 +5,6 @@
 #include "KVTreeView.h"
 #include "RecordTable.h"
 
-RecordItem::RecordItem(RecordKind kind, const RecordIndex &index)
-    : QTreeWidgetItem(Type)
-    , m_kind(kind)
-    , m_index(index)
-{}
-
 QVariant RecordItem::data(int column, int role) const
 {
     if (column != 0)

@@ -75,10 +75,10 @@ void KVTreeView::rebuild()
         if (m_document->isOpen()) {
             m_hideData = m_document->rootKind() == RecordKind::AnimFile ? Settings::HideAnimData.value()
                                                                         : Settings::HideMeshData.value();
-            auto *root = new RecordItem(m_document->rootKind(), {});
+            auto *root = new RecordItem(m_document->rootKind());
             // First into the tree, then filled: a list then finds its way into the view once, not twice.
             addTopLevelItem(root);
-            fillItem(root);
+            fillItem(root, root->record());
             root->setExpanded(true);
             // Whatever modifier keys are down.
             setCurrentItem(root, 0, QItemSelectionModel::ClearAndSelect);
@@ -88,16 +88,15 @@ void KVTreeView::rebuild()
     notifyCurrent();
 }
 
-void KVTreeView::fillItem(RecordItem *item) const
+void KVTreeView::fillItem(RecordItem *item, const RecordRef &owner) const
 {
-    const RecordRef owner = item->record();
     for (const RecordRow *row : childRows(owner.kind)) {
         if (m_hideData && row->meshData)
             continue;
         if (row->position != RecordRow::FromIndex) {
-            auto *group = new RecordItem(row->kind, owner.index);
+            auto *group = new RecordItem(row->kind);
             item->addChild(group);
-            fillItem(group);
+            fillItem(group, {row->kind, owner.index});
             continue;
         }
         const int count = m_document->recordCount(row->kind, owner.index);
@@ -107,9 +106,9 @@ void KVTreeView::fillItem(RecordItem *item) const
         RecordIndex index = owner.index;
         for (int i = 0; i < count; ++i) {
             index[size_t(row->component)] = i;
-            auto *child = new RecordItem(row->kind, index);
+            auto *child = new RecordItem(row->kind, i);
             if (!isLeaf)
-                fillItem(child);
+                fillItem(child, {row->kind, index});
             children.append(child);
         }
         item->addChildren(children);
@@ -250,7 +249,7 @@ void KVTreeView::rebuildBelow(const RecordRef &owner, const QVector<StructureCha
             shift(expanded, change);
     }
     qDeleteAll(item->takeChildren());
-    fillItem(item);
+    fillItem(item, owner);
     for (const RecordRef &record : qAsConst(expanded)) {
         RecordItem *open = findItem(record);
         if (open->record() == record)

@@ -42,7 +42,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void fillItem(RecordItem *item) const;
+    /// Gives an item that stands for `owner` its groups and records.
+    void fillItem(RecordItem *item, const RecordRef &owner) const;
     void onRecordsChanged(const QVector<RecordRef> &records);
     void onStructuresChanged(const QVector<StructureChange> &changes);
     void rebuildBelow(const RecordRef &owner, const QVector<StructureChange> &changes);

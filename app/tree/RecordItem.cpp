@@ -5,13 +5,31 @@
 #include "KVTreeView.h"
 #include "RecordTable.h"
 
+namespace {
+QVariantList userData(const RecordRef &record)
+{
+    return {int(record.kind), record.index[0], record.index[1], record.index[2]};
+}
+} // namespace
+
+RecordRef RecordItem::record() const
+{
+    RecordRef record{m_kind, {}};
+    for (const auto *item = this; item; item = static_cast<const RecordItem *>(item->parent())) {
+        const RecordRow *row = recordRow(item->m_kind);
+        if (row->position == RecordRow::FromIndex)
+            record.index[size_t(row->component)] = item->m_number;
+    }
+    return record;
+}
+
 QVariant RecordItem::data(int column, int role) const
 {
     if (column != 0)
         return {};
     switch (role) {
     case Qt::UserRole:
-        return QVariantList{int(m_kind), m_index[0], m_index[1], m_index[2]};
+        return userData(record());
     case Qt::DisplayRole:
     case Qt::EditRole: {
         const auto *tree = static_cast<const KVTreeView *>(treeWidget());

@@ -6,26 +6,28 @@
 
 #include <QTreeWidgetItem>
 
-/// The tree item of one record or group. It keeps the record's four numbers and answers everything else
-/// (text, icon) from the tree's document when asked, so that half a million of them are cheap and no label
-/// can be stale.
+/// The tree item of one record or group. It keeps the record's kind and its number in its list; its owners'
+/// numbers are its parents', text and icon come from the tree's document when asked. So half a million of
+/// them are cheap and no label can be stale.
 class RecordItem final : public QTreeWidgetItem
 {
 public:
     static constexpr int Type = QTreeWidgetItem::UserType + 1;
 
-    RecordItem(RecordKind kind, const RecordIndex &index)
+    /// `number`: the place in the list; 0 for what is in none.
+    explicit RecordItem(RecordKind kind, int number = 0)
         : QTreeWidgetItem(Type)
         , m_kind(kind)
-        , m_index(index)
+        , m_number(number)
     {}
 
-    RecordRef record() const { return {m_kind, m_index}; }
+    /// The record, for an item that stands in its tree.
+    RecordRef record() const;
 
     /// Under Qt::UserRole the kind code and the three indexes as a list.
     QVariant data(int column, int role) const override;
 
 private:
     RecordKind m_kind;
-    RecordIndex m_index;
+    int m_number;
 };

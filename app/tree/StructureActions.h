@@ -15,8 +15,8 @@ class QWidget;
 /// What the context menus of the trees offer: adding, removing, copying and pasting records, changing the
 /// lengths of an animation block's tables, opening and closing branches, undo and redo.
 ///
-/// Everything acts on the current record of its tree, removing on all selected records of its kind; where that
-/// is not a fitting one, nothing happens.
+/// Everything acts on the current record of its tree, removing on all selected records of its kind; where
+/// that is not a fitting one, nothing happens.
 class StructureActions : public QObject
 {
     Q_OBJECT

@@ -117,7 +117,8 @@ int main(int argc, char *argv[])
             items.reserve(Items);
             for (int i = 0; i < Items; ++i)
                 items.append(new QTreeWidgetItem);
-            bareTrees.back()->addTopLevelItems(items);
+            auto *group = new QTreeWidgetItem(bareTrees.back().get());
+            group->addChildren(items);
         });
     int row = 0;
     mesh.tree.show();

@@ -8,6 +8,8 @@
 #include "ControlsDialog.h"
 #include "DocumentFiles.h"
 #include "FolderExplorer.h"
+#include "ImportDialog.h"
+#include "ImportExport.h"
 #include "ModelTransforms.h"
 #include "OptionsDialog.h"
 #include "Playback.h"
@@ -23,12 +25,27 @@
 #include "ui_MainWindow.h"
 
 #include <QDir>
+#include <QDropEvent>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QTimer>
+#include <QUrl>
 
 #include <algorithm>
+
+namespace {
+QStringList droppedFiles(const QMimeData &mime)
+{
+    QStringList paths;
+    for (const QUrl &url : mime.urls()) {
+        if (url.isLocalFile())
+            paths.append(url.toLocalFile());
+    }
+    return paths;
+}
+} // namespace
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
@@ -39,8 +56,10 @@ MainWindow::MainWindow(QWidget *parent)
     , m_files(new DocumentFiles({&m_skinnedMesh, &m_anim, &m_staticMesh}, this))
     , m_transforms(new ModelTransforms(
           m_skinnedMesh, m_staticMesh, [this] { return currentDocument(); }, this))
+    , m_importExport(new ImportExport(m_skinnedMesh, m_anim, m_staticMesh, *m_files, this))
 {
     m_ui->setupUi(this);
+    setAcceptDrops(true);
     createConsole();
     createPanes();
     createViewToolBars();
@@ -136,6 +155,7 @@ void MainWindow::createPanes()
     connect(m_ui->tabDatabase, &DatabaseTab::told, statusBar(),
             [this](const QString &text) { statusBar()->showMessage(text, 5000); });
     connect(m_files, &DocumentFiles::saved, this, &MainWindow::onSaved);
+    connect(m_importExport, &ImportExport::imported, this, &MainWindow::showPane);
 
     pane(DocumentType::Anim).explorer->addExtraAction(m_ui->actionAnimSyncSkin);
     connect(m_ui->actionAnimSyncSkin, &QAction::triggered, this, &MainWindow::OnActionAnimSyncSkinSelect);
@@ -189,6 +209,20 @@ void MainWindow::closeEvent(QCloseEvent *event)
     QMainWindow::closeEvent(event);
 }
 
+void MainWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!droppedFiles(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent *event)
+{
+    event->acceptProposedAction();
+    // Later: the program that the files come from waits for the end of the drop, not for our dialogs.
+    const QStringList paths = droppedFiles(*event->mimeData());
+    QTimer::singleShot(0, this, [this, paths] { openFiles(paths); });
+}
+
 // --- Documents ---------------------------------------------------------------------------------------------
 
 MainWindow::Pane *MainWindow::currentPane()
@@ -217,7 +251,9 @@ void MainWindow::openFiles(const QStringList &paths)
     const DocumentKind *first = nullptr;
     for (const QString &path : paths) {
         const DocumentKind *kind = documentKindOfFile(path);
-        if (!kind) {
+        if (!kind && ImportDialog::isModelFile(path)) {
+            importFile(path);
+        } else if (!kind) {
             QMessageBox::warning(this, tr("File error"),
                                  tr("Failed to open\n%1").arg(QDir::toNativeSeparators(path)));
         } else if (!m_files->open(kind->type, QFileInfo(path).absoluteFilePath()) && !first) {
@@ -226,6 +262,12 @@ void MainWindow::openFiles(const QStringList &paths)
     }
     if (first)
         showPane(first->type);
+}
+
+void MainWindow::importFile(const QString &path)
+{
+    const bool toStatic = m_ui->tabWidget->currentWidget() == m_ui->tabStatic;
+    m_importExport->importModel(toStatic ? DocumentType::StaticMesh : DocumentType::SkinnedMesh, path);
 }
 
 Document *MainWindow::currentDocument()
@@ -246,6 +288,8 @@ void MainWindow::updateCurrentDocument()
     if (!current)
         statusBar()->clearMessage();
     m_ui->actionOpen->setEnabled(document);
+    m_ui->actionImport->setEnabled(document);
+    m_ui->actionExport->setEnabled(document);
     m_ui->actionSave->setEnabled(isOpen);
     m_ui->actionSaveAs->setEnabled(isOpen);
     m_ui->actionRotate->setEnabled(isOpen && document != &m_anim);
@@ -400,6 +444,20 @@ void MainWindow::on_actionAnimSaveAs_triggered()
 void MainWindow::on_actionSaveAll_triggered()
 {
     m_files->saveAll();
+}
+
+void MainWindow::on_actionImport_triggered()
+{
+    if (currentPane())
+        importFile({});
+}
+
+void MainWindow::on_actionExport_triggered()
+{
+    if (m_ui->tabWidget->currentWidget() == m_ui->tabSkinned)
+        QMessageBox::information(this, tr("Error"), tr("No dice!"));
+    else if (m_ui->tabWidget->currentWidget() == m_ui->tabStatic)
+        m_importExport->exportStaticMesh();
 }
 
 void MainWindow::on_actionExit_triggered()

@@ -15,6 +15,7 @@
 #include "QuestionMenu.h"
 #include "StructureActions.h"
 #include "UndoActions.h"
+#include "UpdatePrompt.h"
 #include "ViewPreferences.h"
 #include "ViewToolBar.h"
 #include "ViewportMarks.h"
@@ -51,13 +52,17 @@ MainWindow::MainWindow(QWidget *parent)
     new QuestionMenu(*m_ui->tabDatabase, this);
     m_ui->menuView->addSeparator();
     m_ui->menuView->addActions({m_ui->toolBarFile->toggleViewAction(), m_ui->toolBarEdit->toggleViewAction(),
-                                m_ui->dockConsole->toggleViewAction()});
+                                m_ui->dockConsole->toggleViewAction(),
+                                m_ui->dockServers->toggleViewAction()});
+    m_ui->dockServers->setQueryAction(m_ui->actionQueryServers);
     connectPlayback();
+    setDefaultLayout(*this);
     auto *geometry = new WindowGeometry(this);
     restoreLayout(*this);
     geometry->restore();
     updateCurrentDocument();
     QTimer::singleShot(50, this, &MainWindow::OnStartSetupPaths);
+    new UpdatePrompt(m_ui->actionCheckForUpdates, this);
 }
 
 MainWindow::~MainWindow()
@@ -139,14 +144,6 @@ void MainWindow::createPanes()
 
     pane(DocumentType::Anim).explorer->addExtraAction(m_ui->actionAnimSyncSkin);
     connect(m_ui->actionAnimSyncSkin, &QAction::triggered, this, &MainWindow::OnActionAnimSyncSkinSelect);
-
-    for (QSplitter *splitter : {m_ui->splitterSkinnedRecords, m_ui->splitterStaticRecords})
-        splitter->setSizes({300, 500});
-    resizeDocks({m_ui->dockConsole}, {110}, Qt::Vertical);
-    for (QSplitter *splitter : {m_ui->splitterSkinned, m_ui->splitterStatic}) {
-        splitter->setStretchFactor(1, 1);
-        splitter->setSizes({230, 800, 400});
-    }
 }
 
 void MainWindow::createViewToolBars()

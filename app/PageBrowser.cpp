@@ -22,7 +22,7 @@ PageBrowser::PageBrowser(QWidget *parent)
     setOpenLinks(false);
     document()->setDefaultStyleSheet(QStringLiteral(
         "h1 { margin-top: 12px; margin-bottom: 8px; } h2 { margin-top: 20px; margin-bottom: 4px; }"
-        "p { margin-top: 6px; margin-bottom: 8px; line-height: 130%; }"
+        "p { margin-top: 6px; margin-bottom: 8px; line-height: 130%; } .picture { line-height: 100%; }"
         "li { margin-bottom: 4px; line-height: 130%; }"));
     connect(this, &QTextBrowser::anchorClicked, this, &PageBrowser::follow);
     connect(this, &QTextBrowser::textChanged, this, &PageBrowser::layOutColumn);

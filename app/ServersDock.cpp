@@ -9,9 +9,9 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QTableWidget>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -20,13 +20,16 @@ QIcon icon(const char *name)
     return QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(name)));
 }
 
-QToolButton *buttonFor(QAction *action, const char *name, QWidget *parent)
+/// A push button for what the action does; its text and look are the action's.
+QPushButton *buttonFor(QAction *action, const char *name, QWidget *parent)
 {
-    auto *button = new QToolButton(parent);
+    auto *button = new QPushButton(action->icon(), action->text(), parent);
     button->setObjectName(QLatin1String(name));
-    button->setDefaultAction(action);
-    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    button->setToolTip(action->toolTip());
+    QObject::connect(button, &QPushButton::clicked, action, &QAction::trigger);
+    const auto follow = [action, button] { button->setEnabled(action->isEnabled()); };
+    QObject::connect(action, &QAction::changed, button, follow);
+    follow();
     return button;
 }
 } // namespace

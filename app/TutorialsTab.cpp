@@ -30,6 +30,8 @@ TutorialsTab::TutorialsTab(QWidget *parent)
     m_list->setObjectName(QStringLiteral("listTutorials"));
     m_list->setAccessibleName(tr("Tutorials"));
     m_list->setIconSize({16, 16});
+    m_list->setWordWrap(true);
+    m_list->setSpacing(2);
     m_page->setObjectName(QStringLiteral("txtTutorial"));
     setStretchFactor(1, 1);
     setSizes({260, 1000});

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "AboutDialog.h"
 
+#include "WebLink.h"
 #include "ui_AboutDialog.h"
 
 #include <QApplication>
@@ -9,6 +10,38 @@
 #include <QIcon>
 #include <QShowEvent>
 #include <QSoundEffect>
+
+namespace {
+struct BuiltIn
+{
+    const char *name;
+    const char *home; ///< none for ourselves
+    const char *licence;
+};
+
+const BuiltIn builtIn[] = {
+    {"Korvane", "", QT_TRANSLATE_NOOP("AboutDialog", "MIT")},
+    {"Qt %1", "https://www.qt.io", QT_TRANSLATE_NOOP("AboutDialog", "LGPL version 3")},
+    {"Assimp", "https://www.assimp.org", QT_TRANSLATE_NOOP("AboutDialog", "BSD, 3 clauses")},
+    {"Lucide", "https://lucide.dev", QT_TRANSLATE_NOOP("AboutDialog", "ISC, some icons MIT")}};
+
+QString licenceTable()
+{
+    const auto translated = [](const char *text) { return QCoreApplication::translate("AboutDialog", text); };
+    const auto cell = [](const QString &text) {
+        return QStringLiteral("<td style=\"padding-right: 24px\">%1</td>").arg(text);
+    };
+    QString rows;
+    for (const BuiltIn &part : builtIn) {
+        QString name = QString::fromLatin1(part.name).replace(QLatin1String("%1"), QLatin1String(qVersion()));
+        if (*part.home)
+            name = QStringLiteral("<a href=\"%1\">%2</a>").arg(QLatin1String(part.home), name);
+        rows += QStringLiteral("<tr>%1%2</tr>").arg(cell(name), cell(translated(part.licence)));
+    }
+    return QStringLiteral("<p><b>%1</b></p><table>%2</table>")
+        .arg(translated(QT_TRANSLATE_NOOP("AboutDialog", "Licences of what is built in")), rows);
+}
+} // namespace
 
 AboutDialog::AboutDialog(QWidget *parent)
     : QDialog(parent)
@@ -22,7 +55,9 @@ AboutDialog::AboutDialog(QWidget *parent)
     font.setPointSizeF(font.pointSizeF() * 1.5);
     font.setBold(true);
     m_ui->lblVersion->setFont(font);
-    m_ui->lblQtVersion->setText(tr("Built with Qt %1.").arg(QLatin1String(qVersion())));
+    m_ui->lblLicences->setText(licenceTable());
+    connect(m_ui->lblLicences, &QLabel::linkActivated, this,
+            [this](const QString &link) { openWebLink(link, this); });
     layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 

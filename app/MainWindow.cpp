@@ -7,6 +7,8 @@
 #include "ConsoleLog.h"
 #include "ControlsDialog.h"
 #include "DocumentFiles.h"
+#include "ExplorerFiles.h"
+#include "FileDrop.h"
 #include "FolderExplorer.h"
 #include "ImportDialog.h"
 #include "ImportExport.h"
@@ -17,6 +19,7 @@
 #include "QuestionMenu.h"
 #include "StructureActions.h"
 #include "UndoActions.h"
+#include "UpdatePrompt.h"
 #include "ViewPreferences.h"
 #include "ViewToolBar.h"
 #include "ViewportMarks.h"
@@ -25,27 +28,12 @@
 #include "ui_MainWindow.h"
 
 #include <QDir>
-#include <QDropEvent>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QTimer>
-#include <QUrl>
 
 #include <algorithm>
-
-namespace {
-QStringList droppedFiles(const QMimeData &mime)
-{
-    QStringList paths;
-    for (const QUrl &url : mime.urls()) {
-        if (url.isLocalFile())
-            paths.append(url.toLocalFile());
-    }
-    return paths;
-}
-} // namespace
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
@@ -59,7 +47,6 @@ MainWindow::MainWindow(QWidget *parent)
     , m_importExport(new ImportExport(m_skinnedMesh, m_anim, m_staticMesh, *m_files, this))
 {
     m_ui->setupUi(this);
-    setAcceptDrops(true);
     createConsole();
     createPanes();
     createViewToolBars();
@@ -70,13 +57,17 @@ MainWindow::MainWindow(QWidget *parent)
     new QuestionMenu(*m_ui->tabDatabase, this);
     m_ui->menuView->addSeparator();
     m_ui->menuView->addActions({m_ui->toolBarFile->toggleViewAction(), m_ui->toolBarEdit->toggleViewAction(),
-                                m_ui->dockConsole->toggleViewAction()});
+                                m_ui->dockConsole->toggleViewAction(),
+                                m_ui->dockServers->toggleViewAction()});
+    m_ui->dockServers->setQueryAction(m_ui->actionQueryServers);
     connectPlayback();
+    setDefaultLayout(*this);
     auto *geometry = new WindowGeometry(this);
     restoreLayout(*this);
     geometry->restore();
     updateCurrentDocument();
     QTimer::singleShot(50, this, &MainWindow::OnStartSetupPaths);
+    new UpdatePrompt(m_ui->actionCheckForUpdates, this);
 }
 
 MainWindow::~MainWindow()
@@ -147,26 +138,17 @@ void MainWindow::createPanes()
                 [this, type] { onRecordsChanged(type, {}); });
         connect(made.tree, &KVTreeView::currentRecordChanged, this,
                 [this, type](const RecordRef &record) { showInViewport(type, record); });
-        // Queued: a question asked from within the selection's change would swallow the mouse's release.
-        connect(
-            made.explorer, &FolderExplorer::fileChosen, this,
-            [this, type](const QString &path) { openFromExplorer(type, path); }, Qt::QueuedConnection);
     }
     connect(m_ui->tabDatabase, &DatabaseTab::told, statusBar(),
             [this](const QString &text) { statusBar()->showMessage(text, 5000); });
     connect(m_files, &DocumentFiles::saved, this, &MainWindow::onSaved);
     connect(m_importExport, &ImportExport::imported, this, &MainWindow::showPane);
 
-    pane(DocumentType::Anim).explorer->addExtraAction(m_ui->actionAnimSyncSkin);
-    connect(m_ui->actionAnimSyncSkin, &QAction::triggered, this, &MainWindow::OnActionAnimSyncSkinSelect);
-
-    for (QSplitter *splitter : {m_ui->splitterSkinnedRecords, m_ui->splitterStaticRecords})
-        splitter->setSizes({300, 500});
-    resizeDocks({m_ui->dockConsole}, {110}, Qt::Vertical);
-    for (QSplitter *splitter : {m_ui->splitterSkinned, m_ui->splitterStatic}) {
-        splitter->setStretchFactor(1, 1);
-        splitter->setSizes({230, 800, 400});
-    }
+    auto *explorerFiles =
+        new ExplorerFiles(*m_files, {m_panes[0].explorer, m_panes[1].explorer, m_panes[2].explorer},
+                          m_ui->actionAnimSyncSkin, this);
+    connect(explorerFiles, &ExplorerFiles::opened, this, &MainWindow::showPane);
+    connect(new FileDrop(this), &FileDrop::dropped, this, &MainWindow::openFiles);
 }
 
 void MainWindow::createViewToolBars()
@@ -187,11 +169,8 @@ void MainWindow::readSettings()
 {
     for (const auto *key :
          {&Settings::HideMeshData, &Settings::HideAnimData, &Settings::StaticMeshQuickSelect,
-          &Settings::SkinnedMeshQuickSelect, &Settings::AnimationQuickSelect, &Settings::AnimationSyncSkin,
-          &Settings::AnimationAutoPlay})
+          &Settings::SkinnedMeshQuickSelect, &Settings::AnimationQuickSelect, &Settings::AnimationAutoPlay})
         key->ensure();
-
-    m_ui->actionAnimSyncSkin->setChecked(Settings::AnimationSyncSkin.value());
 }
 
 void MainWindow::connectPlayback()
@@ -207,20 +186,6 @@ void MainWindow::closeEvent(QCloseEvent *event)
 {
     storeLayout(*this);
     QMainWindow::closeEvent(event);
-}
-
-void MainWindow::dragEnterEvent(QDragEnterEvent *event)
-{
-    if (!droppedFiles(*event->mimeData()).isEmpty())
-        event->acceptProposedAction();
-}
-
-void MainWindow::dropEvent(QDropEvent *event)
-{
-    event->acceptProposedAction();
-    // Later: the program that the files come from waits for the end of the drop, not for our dialogs.
-    const QStringList paths = droppedFiles(*event->mimeData());
-    QTimer::singleShot(0, this, [this, paths] { openFiles(paths); });
 }
 
 // --- Documents ---------------------------------------------------------------------------------------------
@@ -341,34 +306,6 @@ void MainWindow::onSaved(DocumentType type)
         written.explorer->selectPath(written.document->path());
     }
     updateCurrentDocument();
-}
-
-void MainWindow::openFromExplorer(DocumentType type, const QString &path)
-{
-    // Picked while the question about an earlier pick was still open.
-    if (QApplication::activeModalWidget())
-        return;
-    const Pane &target = pane(type);
-    if (!m_files->promptUnsaved(type) || m_files->open(type, path)) {
-        target.explorer->selectPath(target.document->path());
-        return;
-    }
-    showPane(type);
-    if (type == DocumentType::SkinnedMesh && m_ui->actionAnimSyncSkin->isChecked())
-        openMatchingAnimation(path);
-}
-
-void MainWindow::openMatchingAnimation(const QString &meshPath)
-{
-    const QFileInfo mesh(meshPath);
-    FolderExplorer *explorer = pane(DocumentType::Anim).explorer;
-    const QString path = explorer->findMatching(mesh.dir().dirName(), mesh.completeBaseName());
-    if (path.isEmpty())
-        return;
-    if (path != m_anim.path() &&
-        (!m_files->promptUnsaved(DocumentType::Anim) || m_files->open(DocumentType::Anim, path)))
-        return;
-    explorer->selectPath(path);
 }
 
 void MainWindow::onRecordsChanged(DocumentType type, const QVector<RecordRef> &records)
@@ -533,11 +470,6 @@ void MainWindow::on_tabTrees_currentChanged(int index)
     const DocumentType type = index == 0 ? DocumentType::SkinnedMesh : DocumentType::Anim;
     showInViewport(type, pane(type).tree->currentRecord());
     updateCurrentDocument();
-}
-
-void MainWindow::OnActionAnimSyncSkinSelect(bool on)
-{
-    Settings::AnimationSyncSkin.setValue(on);
 }
 
 void MainWindow::OnConsoleCustomContextMenu(const QPoint &position)

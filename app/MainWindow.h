@@ -38,8 +38,6 @@ public:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
-    void dragEnterEvent(QDragEnterEvent *event) override;
-    void dropEvent(QDropEvent *event) override;
 
 private slots:
     void OnStartSetupPaths();
@@ -63,7 +61,6 @@ private slots:
     void on_actionConsoleClear_triggered();
     void on_tabWidget_currentChanged();
     void on_tabTrees_currentChanged(int index);
-    void OnActionAnimSyncSkinSelect(bool on);
     void OnConsoleCustomContextMenu(const QPoint &position);
     void OnUndoCleanChanged();
 
@@ -98,8 +95,6 @@ private:
     void onSaved(DocumentType type);
     void onRecordsChanged(DocumentType type, const QVector<RecordRef> &records);
     void showInViewport(DocumentType type, const RecordRef &record);
-    void openFromExplorer(DocumentType type, const QString &path);
-    void openMatchingAnimation(const QString &meshPath);
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     ConsoleLog *m_console = nullptr;

@@ -4,8 +4,23 @@
 
 #include "Settings.h"
 
+#include <QDockWidget>
 #include <QMainWindow>
 #include <QSplitter>
+
+void setDefaultLayout(QMainWindow &window)
+{
+    const auto splitter = [&window](const char *name) {
+        return window.findChild<QSplitter *>(QLatin1String(name));
+    };
+    for (const char *name : {"splitterSkinnedRecords", "splitterStaticRecords"})
+        splitter(name)->setSizes({300, 500});
+    for (const char *name : {"splitterSkinned", "splitterStatic"}) {
+        splitter(name)->setStretchFactor(1, 1);
+        splitter(name)->setSizes({230, 800, 400});
+    }
+    window.resizeDocks({window.findChild<QDockWidget *>(QStringLiteral("dockConsole"))}, {110}, Qt::Vertical);
+}
 
 void storeLayout(const QMainWindow &window)
 {

@@ -26,6 +26,7 @@ public:
     {}
 
     QString name() const { return m_name; }
+    const T &defaultValue() const { return m_default; }
     bool exists() const { return QSettings().contains(m_name); }
 
     /// The stored value; the default when there is none or when it cannot be read as a T.
@@ -60,9 +61,13 @@ namespace Settings {
 inline const SettingKey<QString> GamePath{"GamePath", {}};
 inline const SettingKey<QString> OutputDir{"OutputDir", {}};
 
-// Release check.
+// Network services.
 inline const SettingKey<bool> Updates{"Updates", true};
 inline const SettingKey<QDateTime> UpdateDate{"UpdateDate", {}};
+// Where the network services ask; with an empty text nothing is sent. The build sets the defaults.
+inline const SettingKey<QString> UpdateUrl{"UpdateUrl", QStringLiteral(KORVANE_UPDATE_URL)};
+inline const SettingKey<QString> MasterServerHost{"MasterServerHost", QStringLiteral(KORVANE_MASTER_HOST)};
+inline const SettingKey<int> MasterServerPort{"MasterServerPort", 20700};
 
 // Trees and playback.
 inline const SettingKey<bool> HideMeshData{"HideMeshData", true};

@@ -4,12 +4,14 @@
 #
 # Pictures of the real program on a virtual screen that ./dev provides, large enough for the window's frame:
 #   screenshots.sh window PROGRAM PICTURE FILE...   the main window with these files open
-#   screenshots.sh all PROGRAM FOLDER SAMPLES       every picture of the documentation, of these sample folders
+#   screenshots.sh all PROGRAM FOLDER SAMPLES       every picture of the documentation, of these sample folders,
+#                                                   and those of the guides in the program
 # Each start has the settings home that XDG_CONFIG_HOME names.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-readonly width=1600 height=1000
+width=1600 height=1000
+readonly guides=resources/tutorials/images
 log=build/screenshots.log
 started=()
 
@@ -77,7 +79,7 @@ window_manager() {
     die 'openbox did not start'
 }
 
-# korvane FILE...: starts the program and makes its main window, whose id goes into $main, fill the screen.
+# korvane FILE...: starts the program and gives its main window, whose id goes into $main, the size of the pictures.
 korvane() {
     "$program" "$@" >>"$log" 2>&1 &
     korvane_pid=$!
@@ -95,7 +97,7 @@ quit() {
 
 # approach: flies the camera up to the model with the mouse, the same way each time.
 approach() {
-    xdotool mousemove --window "$main" 700 450 mousedown 1 mousedown 3
+    xdotool mousemove --window "$main" $((width / 2 - 100)) 450 mousedown 1 mousedown 3
     sleep 0.3
     xdotool mousemove_relative -- 0 90
     sleep 0.6
@@ -115,6 +117,24 @@ press() {
     sleep 0.5
 }
 
+# click X Y...: clicks at places of the main window, one after another.
+click() {
+    while (($#)); do
+        xdotool mousemove --window "$main" "$1" "$2" click 1
+        sleep 0.5
+        shift 2
+    done
+}
+
+# for_guide NAME ARGS...: what the main window shows, cut out or scaled down by ImageMagick's ARGS.
+for_guide() {
+    local picture=$guides/$1.png whole=build/whole.png
+    shift
+    grab "$main" "$whole" >>"$log"
+    convert "$whole" "$@" +repage -strip -define png:compression-level=9 "$picture"
+    echo "$picture"
+}
+
 # The first file with this extension in the game folder of the samples.
 first() { find "$samples/game" -name "*.$1" | sort | head -n 1; }
 
@@ -126,12 +146,13 @@ all_pictures() {
 
     korvane "$skinned_mesh" "$animation"
     approach
-    xdotool mousemove --window "$main" 1231 150 click 1 mousemove --window "$main" 1320 207 click 1
-    sleep 1
+    for_guide window -filter Lanczos -resize 760x
+    click 1231 150 1320 207
     grab "$main" "$folder/main.png"
     press ctrl+comma
     options=$(wait_for --name '^Options$')
     grab "$options" "$folder/options.png"
+    cp "$folder/options.png" "$guides/options.png"
     press Escape
     quit
 
@@ -148,6 +169,30 @@ all_pictures() {
     quit
 }
 
+# The pictures of the guides show the view and the records of a window that is as narrow as a page.
+guide_pictures() {
+    local samples=$1 part=(-crop 760x560+240+90) width=1010 height=880
+    local tree=$((width - 369)) item=$((width - 280))
+    korvane "$(first skinnedmesh)" "$(first anim)"
+    approach
+    click $tree 150 $item 207
+    for_guide bone "${part[@]}"
+    click $tree 150 $tree 168 $item 187
+    for_guide hot-point "${part[@]}"
+    click $tree 168 $tree 187 $item 207
+    for_guide surface "${part[@]}"
+    click $((width - 238)) 106 $item 130
+    press Home Down Down Down Right Down Down Down Down Down Right Down
+    for_guide action "${part[@]}"
+    quit
+
+    rm "$samples/mod/textures/"*
+    width=760
+    korvane "$(first skinnedmesh)"
+    for_guide console -gravity SouthEast -crop 760x142+0+0
+    quit
+}
+
 verb=$1 program=$2
 shift 2
 mkdir -p "$(dirname "$log")"
@@ -161,6 +206,9 @@ window)
     grab "$main" "$picture"
     quit
     ;;
-all) all_pictures "$@" ;;
+all)
+    all_pictures "$@"
+    guide_pictures "$2"
+    ;;
 *) die "unknown verb '$verb'" ;;
 esac

@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QTextBrowser>
+
+/// A page to read: its text stands in a column of comfortable width, and its links to the web open in the
+/// desktop's browser.
+class PageBrowser : public QTextBrowser
+{
+    Q_OBJECT
+
+public:
+    explicit PageBrowser(QWidget *parent = nullptr);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void follow(const QUrl &link);
+    void layOutColumn();
+};

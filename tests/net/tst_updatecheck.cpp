@@ -1,0 +1,309 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "UpdateCheck.h"
+
+#include "LocalServers.h"
+#include "Settings.h"
+#include "TestSupport.h"
+
+#include <QNetworkProxyFactory>
+#include <QNetworkReply>
+
+/// The update check of version 0.9.2 against a web server on this machine.
+class tst_UpdateCheck : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QNetworkProxyFactory::setUseSystemConfiguration(false);
+        qRegisterMetaType<QNetworkReply *>();
+    }
+    void init();
+    void offers_data();
+    void offers();
+    void onlyAManualCheckTellsThatNothingIsNew();
+    void sendsOneRequestAtATime();
+    void saysNothingOfTheUser();
+    void readsNoMoreThanTheLimit();
+    void stopsWaiting();
+    void followsRedirects_data();
+    void followsRedirects();
+    void asksOnlyWhereItMay_data();
+    void asksOnlyWhereItMay();
+    void oncePerDay_data();
+    void oncePerDay();
+    void goesWithItsOwner();
+
+private:
+    /// The only signal of a check and its texts; "up to date" stands for the one without any.
+    static QStringList run(UpdateCheck &check, bool manual);
+
+    QTemporaryDir m_home;
+    std::unique_ptr<LocalWeb> m_web;
+};
+
+void tst_UpdateCheck::init()
+{
+    TestSupport::useSettingsHome(m_home);
+    QCoreApplication::setApplicationVersion(QStringLiteral("0.9.2"));
+    m_web = std::make_unique<LocalWeb>();
+    Settings::UpdateUrl.setValue(m_web->address());
+}
+
+QStringList tst_UpdateCheck::run(UpdateCheck &check, bool manual)
+{
+    const QSignalSpy offered(&check, &UpdateCheck::updateOffered);
+    const QSignalSpy upToDate(&check, &UpdateCheck::upToDate);
+    const QSignalSpy finished(check.findChild<QNetworkAccessManager *>(), &QNetworkAccessManager::finished);
+    check.DoUpdateCheck(manual);
+    if (!QTest::qWaitFor([&] { return !finished.isEmpty(); }))
+        return {"no end"};
+    QStringList told;
+    for (const QList<QVariant> &texts : offered) {
+        for (const QVariant &text : texts)
+            told.append(text.toString());
+    }
+    for (int i = 0; i < upToDate.size(); ++i)
+        told.append(QStringLiteral("up to date"));
+    return told;
+}
+
+void tst_UpdateCheck::offers_data()
+{
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QStringList>("told");
+    const QStringList nothing("up to date");
+    const QByteArray link = "https://a/b";
+    QTest::newRow("older") << releaseDocument("0.9.1", link) << nothing;
+    QTest::newRow("same") << releaseDocument("0.9.2", link) << nothing;
+    QTest::newRow("newer, by number")
+        << releaseDocument("0.9.10", link) << QStringList({"0.9.10", "News", "https://a/b"});
+    QTest::newRow("one number") << releaseDocument("1", link) << QStringList({"1", "News", "https://a/b"});
+    QTest::newRow("CR LF") << releaseDocument("1.0.0", link).replace("\n", "\r\n")
+                           << QStringList({"1.0.0", "News", "https://a/b"});
+    QTest::newRow("markup stays text") << releaseDocument("1", "file:///etc", "<b>a</b>\n%1")
+                                       << QStringList({"1", "<b>a</b> %1", "file:///etc"});
+    QTest::newRow("no link") << releaseDocument("1", "") << nothing;
+    QTest::newRow("no version") << releaseDocument("", link) << nothing;
+    QTest::newRow("no document") << QByteArray("<html>version\n1\nlink\nl</html>") << nothing;
+    QTest::newRow("empty") << QByteArray() << nothing;
+    QTest::newRow("bytes that are no text")
+        << QByteArray("!start!\n\xff\xfe\x00version\n\xc3\n", 20) << nothing;
+}
+
+void tst_UpdateCheck::offers()
+{
+    QFETCH(QByteArray, body);
+    QFETCH(QStringList, told);
+    m_web->serve(body);
+    UpdateCheck check;
+    QCOMPARE(run(check, true), told);
+    QCOMPARE(m_web->requests.size(), 1);
+}
+
+void tst_UpdateCheck::onlyAManualCheckTellsThatNothingIsNew()
+{
+    UpdateCheck check;
+    m_web->serve(releaseDocument("0.9.2", "https://a"));
+    QCOMPARE(run(check, false), QStringList());
+    m_web->serve(releaseDocument("0.9.3", "https://a"));
+    QCOMPARE(run(check, false).value(0), QStringLiteral("0.9.3"));
+    m_web->answer = "HTTP/1.1 404 Not Found\r\nConnection: close\r\n\r\n" + releaseDocument("1", "https://a");
+    QCOMPARE(run(check, false), QStringList());
+    QCOMPARE(run(check, true), QStringList("up to date"));
+    m_web->close();
+    QCOMPARE(run(check, true), QStringList("up to date"));
+}
+
+void tst_UpdateCheck::sendsOneRequestAtATime()
+{
+    UpdateCheck check;
+    QSignalSpy upToDate(&check, &UpdateCheck::upToDate);
+    check.DoUpdateCheck(false);
+    QTRY_COMPARE(m_web->requests.size(), 1); // which is not answered yet
+    check.DoUpdateCheck(true);               // makes the running check manual
+    check.DoUpdateCheck(true);
+    m_web->serve("");
+    m_web->findChild<QTcpSocket *>()->write(m_web->answer);
+    QVERIFY(upToDate.wait());
+    QCOMPARE(m_web->requests.size(), 1);
+    check.DoUpdateCheck(true);
+    QVERIFY(upToDate.wait());
+    QCOMPARE(upToDate.size(), 2);
+    QCOMPARE(m_web->requests.size(), 2);
+}
+
+void tst_UpdateCheck::saysNothingOfTheUser()
+{
+    m_web->answer = "HTTP/1.1 200 OK\r\nSet-Cookie: id=7\r\nContent-Length: 0\r\nConnection: close\r\n\r\n";
+    UpdateCheck check;
+    run(check, true);
+    run(check, true);
+    QCOMPARE(m_web->requests.size(), 2);
+    QStringList lines;
+    for (const QByteArray &line : m_web->requests.last().trimmed().split('\n'))
+        lines.append(QString::fromLatin1(line.trimmed().split(':').first()));
+    lines.sort();
+    QCOMPARE(lines, QStringList({"Accept-Encoding", "Accept-Language", "Cache-Control", "Connection",
+                                 "GET /release.txt HTTP/1.1", "Host", "Pragma", "User-Agent"}));
+    QVERIFY(m_web->requests.last().contains("Accept-Language: *\r\n"));
+    QVERIFY(m_web->requests.last().contains("User-Agent: Mozilla/5.0\r\n"));
+}
+
+void tst_UpdateCheck::readsNoMoreThanTheLimit()
+{
+    const int limit = UpdateCheck::maximumBytes;
+    const QByteArray rest(10 * 1024 * 1024, 'x');
+    UpdateCheck check;
+    m_web->serve(releaseDocument("1", "https://a") + rest);
+    QCOMPARE(run(check, true).value(0), QStringLiteral("1"));
+    QByteArray late = "!start!\nmsg\n" + QByteArray(limit, 'x') + "\n!msg!\nversion\n1\nlink\nl\n";
+    m_web->serve(late + rest);
+    QCOMPARE(run(check, true), QStringList("up to date"));
+    // A line that the limit cuts through is none: half a link leads elsewhere.
+    const QByteArray padding(limit - 40, 'x');
+    m_web->serve("!start!\n" + padding + "\nversion\n1\nlink\nhttps://a/" + rest);
+    QCOMPARE(run(check, true), QStringList("up to date"));
+    // One that fits exactly is whole.
+    QByteArray exact = releaseDocument("1", "https://a");
+    exact.append(QByteArray(limit - exact.size(), '\n'));
+    m_web->serve(exact);
+    QCOMPARE(run(check, true).value(0), QStringLiteral("1"));
+}
+
+void tst_UpdateCheck::stopsWaiting()
+{
+    UpdateCheck check;
+    check.setTimeLimit(50);
+    QCOMPARE(run(check, true), QStringList("up to date")); // never answered
+    m_web->answer = "HTTP/1.1 200 OK\r\n\r\n" + releaseDocument("1", "https://a");
+    connect(m_web.get(), &QTcpServer::newConnection, this, [this] {
+        // Answers and then keeps the line open.
+        m_web->findChildren<QTcpSocket *>().last()->disconnect();
+        m_web->findChildren<QTcpSocket *>().last()->write(m_web->answer);
+    });
+    QCOMPARE(run(check, true), QStringList("up to date"));
+}
+
+void tst_UpdateCheck::followsRedirects_data()
+{
+    QTest::addColumn<QString>("target"); // %1 is the port of the second server
+    QTest::addColumn<bool>("followed");
+    QTest::newRow("on this machine") << "http://127.0.0.1:%1/x" << true;
+    QTest::newRow("elsewhere in plain text") << "http://192.0.2.1/" << false;
+    QTest::newRow("file") << "file:///etc/passwd" << false;
+    QTest::newRow("data") << "data:text/plain,!start!" << false;
+    QTest::newRow("in a circle") << "%2" << false;
+}
+
+void tst_UpdateCheck::followsRedirects()
+{
+    QFETCH(QString, target);
+    QFETCH(bool, followed);
+    LocalWeb second;
+    second.serve(releaseDocument("1", "https://a"));
+    m_web->redirect(
+        target.replace("%1", QString::number(second.serverPort())).replace("%2", m_web->address()));
+    UpdateCheck check;
+    check.setTimeLimit(3000);
+    QCOMPARE(run(check, true).value(0), followed ? QStringLiteral("1") : QStringLiteral("up to date"));
+    QCOMPARE(second.requests.size(), followed ? 1 : 0);
+    QVERIFY(m_web->requests.size() <= 6);
+}
+
+void tst_UpdateCheck::asksOnlyWhereItMay_data()
+{
+    QTest::addColumn<QString>("address");
+    QTest::addColumn<bool>("allowed");
+    QTest::addColumn<bool>("fromHttps"); // as a redirect
+    QTest::newRow("https") << "https://paste.example/raw/1" << true << true;
+    QTest::newRow("capitals") << "HTTPS://PASTE.EXAMPLE" << true << true;
+    QTest::newRow("this machine") << "http://127.0.0.1:80/" << true << false;
+    QTest::newRow("its name") << "http://localhost/" << true << false;
+    QTest::newRow("IPv6") << "http://[::1]/" << true << false;
+    QTest::newRow("plain") << "http://paste.example/" << false << false;
+    QTest::newRow("looks local") << "http://127.0.0.1.example/" << false << false;
+    QTest::newRow("user looks local") << "http://localhost@example/" << false << false;
+    QTest::newRow("file") << "file:///etc/passwd" << false << false;
+    QTest::newRow("no host") << "https:///x" << false << false;
+    QTest::newRow("no scheme") << "paste.example" << false << false;
+    QTest::newRow("empty") << "" << false << false;
+}
+
+void tst_UpdateCheck::asksOnlyWhereItMay()
+{
+    QFETCH(QString, address);
+    QFETCH(bool, allowed);
+    QFETCH(bool, fromHttps);
+    const QUrl url(address);
+    QCOMPARE(isReleaseAddress(url), allowed);
+    QCOMPARE(isReleaseRedirect(QUrl(QStringLiteral("http://localhost")), url), allowed);
+    QCOMPARE(isReleaseRedirect(QUrl(QStringLiteral("https://a")), url), fromHttps);
+    if (allowed)
+        return;
+    Settings::UpdateUrl.setValue(address);
+    UpdateCheck check;
+    QSignalSpy upToDate(&check, &UpdateCheck::upToDate);
+    check.DoUpdateCheck(false);
+    check.DoUpdateCheck(true);
+    QCOMPARE(upToDate.size(), 1);
+    QVERIFY(!Settings::UpdateDate.exists()); // nothing was sent
+}
+
+void tst_UpdateCheck::oncePerDay_data()
+{
+    QTest::addColumn<QDateTime>("last");
+    QTest::addColumn<bool>("due");
+    const QDateTime now({2026, 3, 10}, {12, 0});
+    QTest::newRow("never") << QDateTime() << true;
+    QTest::newRow("a day ago") << now.addDays(-1) << true;
+    QTest::newRow("less than a day ago") << now.addDays(-1).addSecs(1) << false;
+    QTest::newRow("now") << now << false;
+    QTest::newRow("in the future") << now.addSecs(1) << true;
+}
+
+void tst_UpdateCheck::oncePerDay()
+{
+    QFETCH(QDateTime, last);
+    QFETCH(bool, due);
+    const QDateTime now({2026, 3, 10}, {12, 0});
+    if (last.isValid())
+        Settings::UpdateDate.setValue(last);
+    UpdateCheck check;
+    check.setClock([now] { return now; });
+    QSignalSpy finished(check.findChild<QNetworkAccessManager *>(), &QNetworkAccessManager::finished);
+
+    Settings::Updates.setValue(false);
+    check.checkIfDue();
+    QCOMPARE(Settings::UpdateDate.value(), last);
+    Settings::Updates.setValue(true);
+    m_web->close(); // a request that fails was sent all the same
+    check.checkIfDue();
+    QCOMPARE(Settings::UpdateDate.value(), due ? now : last);
+    if (due)
+        QVERIFY(finished.wait());
+    check.checkIfDue();
+    QVERIFY(!finished.wait(20));
+
+    check.setClock([now] { return now.addSecs(60); });
+    check.DoUpdateCheck(true); // whenever the user wants
+    QCOMPARE(Settings::UpdateDate.value(), now.addSecs(60));
+}
+
+void tst_UpdateCheck::goesWithItsOwner()
+{
+    auto owner = std::make_unique<QObject>();
+    auto *check = new UpdateCheck(owner.get());
+    bool told = false;
+    connect(check, &UpdateCheck::upToDate, this, [&told] { told = true; });
+    check->DoUpdateCheck(true);
+    QTRY_COMPARE(m_web->requests.size(), 1);
+    owner.reset();
+    QTRY_COMPARE(m_web->findChild<QTcpSocket *>()->state(), QAbstractSocket::UnconnectedState);
+    QVERIFY(!told);
+}
+
+QTEST_GUILESS_MAIN(tst_UpdateCheck)
+#include "tst_updatecheck.moc"

@@ -30,9 +30,12 @@ void writeGrid(const QString &path)
     if (!file.open(QIODevice::WriteOnly))
         qFatal("cannot write %s", qPrintable(path));
     QTextStream out(&file);
-    for (int i = 0; i < Side * Side; ++i)
-        out << "v " << i % Side << ' ' << i / Side << ' ' << (i * 7 % 13) * 0.25 << "\nvt "
-            << (i % Side) / double(Side) << ' ' << (i / Side) / double(Side) << '\n';
+    for (int i = 0; i < Side * Side; ++i) {
+        const int column = i % Side;
+        const int row = i / Side;
+        out << "v " << column << ' ' << row << ' ' << i * 7 % 13 << "\nvt " << double(column) / Side << ' '
+            << double(row) / Side << '\n';
+    }
     for (int layer = 0; layer < 4; ++layer) {
         for (int row = 0; row + 1 < Side; ++row) {
             for (int column = 0; column + 1 < Side; ++column) {
@@ -40,8 +43,8 @@ void writeGrid(const QString &path)
                 const int corners[4] = {a, a + 1, a + Side + 1, a + Side};
                 const int *c = corners;
                 out << "f " << c[0] << '/' << c[0] << ' ' << c[1] << '/' << c[1] << ' ' << c[2] << '/' << c[2]
-                    << "\nf " << c[0] << '/' << c[0] << ' ' << c[2] << '/' << c[2] << ' ' << c[3] << '/' << c[3]
-                    << '\n';
+                    << "\nf " << c[0] << '/' << c[0] << ' ' << c[2] << '/' << c[2] << ' ' << c[3] << '/'
+                    << c[3] << '\n';
             }
         }
     }

@@ -37,6 +37,13 @@ QString defaultKMatPath(const QString &modelPath)
     return QStringLiteral("materials/mat_%1.kmat").arg(QFileInfo(modelPath).completeBaseName());
 }
 
+template <typename T>
+void store(T &field, const SettingKey<T> &key, const T &value)
+{
+    field = value;
+    key.setValue(value);
+}
+
 float storedScale(const QDoubleSpinBox &box)
 {
     return float(qBound(box.minimum(), double(Settings::ImportScale.value()), box.maximum()));
@@ -285,56 +292,47 @@ bool ImportDialog::refusePath(const QString &path)
 
 void ImportDialog::OnTxtT2DirChanged()
 {
-    m_outputDir = normalizedFolder(m_ui->txtT2Dir->text());
-    Settings::OutputDir.setValue(m_outputDir);
+    store(m_outputDir, Settings::OutputDir, normalizedFolder(m_ui->txtT2Dir->text()));
 }
 
 void ImportDialog::OnSwapYZChanged(bool on)
 {
-    m_swapYZ = on;
-    Settings::ImportSwapYZ.setValue(on);
+    store(m_swapYZ, Settings::ImportSwapYZ, on);
 }
 
 void ImportDialog::OnGenNormalsChanged(bool on)
 {
-    m_genNormals = on;
-    Settings::ImportGenNormals.setValue(on);
+    store(m_genNormals, Settings::ImportGenNormals, on);
 }
 
 void ImportDialog::OnFlipUVChanged(bool on)
 {
-    m_flipUV = on;
-    Settings::ImportFlipUV.setValue(on);
+    store(m_flipUV, Settings::ImportFlipUV, on);
 }
 
 void ImportDialog::OnCBcbFlipWindingOrderChanged(bool on)
 {
-    m_flipWindingOrder = on;
-    Settings::ImportFlipWindingOrder.setValue(on);
+    store(m_flipWindingOrder, Settings::ImportFlipWindingOrder, on);
 }
 
 void ImportDialog::OnCBCopyTexturesChanged(bool on)
 {
-    m_copyTextures = on;
-    Settings::ImportTextures.setValue(on);
+    store(m_copyTextures, Settings::ImportTextures, on);
 }
 
 void ImportDialog::OnCBCreateKMatChanged(bool on)
 {
-    m_createKMat = on;
-    Settings::ImportKMat.setValue(on);
+    store(m_createKMat, Settings::ImportKMat, on);
 }
 
 void ImportDialog::OnCBRotatePitchChanged(bool on)
 {
-    m_rotatePitch = on;
-    Settings::ImportRotPitch.setValue(on);
+    store(m_rotatePitch, Settings::ImportRotPitch, on);
 }
 
 void ImportDialog::OnScaleChanged(double scale)
 {
-    m_scale = float(scale);
-    Settings::ImportScale.setValue(m_scale);
+    store(m_scale, Settings::ImportScale, float(scale));
 }
 
 void ImportDialog::updateImportButton()

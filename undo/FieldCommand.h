@@ -2,13 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "DocumentView.h"
-#include "UC_Base.h"
+#include "CommandTable.h"
 
 #include <QCoreApplication>
-
-#include <tuple>
-#include <type_traits>
 
 /// A field of a record by its member pointer.
 template <auto Pointer>
@@ -85,23 +81,3 @@ private:
     Value m_old{};
     Value m_new;
 };
-
-// One command class from a row (class, record, field, undo text) of a family's table. The table is also the
-// family's list of its commands, so that a command cannot exist without being in it.
-#define KORVANE_FIELD_COMMAND(Class, RecordType, FieldType, Text)                                            \
-    class Class final : public FieldCommand<Class, RecordType, FieldType>                                    \
-    {                                                                                                        \
-    public:                                                                                                  \
-        static constexpr const char *name = #Class;                                                          \
-        static constexpr const char *undoText = QT_TRANSLATE_NOOP("UndoCommands", Text);                     \
-        using FieldCommand::FieldCommand;                                                                    \
-    };
-
-/// Stands for a command class where a value is needed, as in a list of all commands.
-template <typename Command>
-struct CommandTag
-{
-    using Type = Command;
-};
-
-#define KORVANE_COMMAND_TAG(Class, RecordType, FieldType, Text) std::tuple<CommandTag<Class>>(),

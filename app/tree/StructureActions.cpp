@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "StructureActions.h"
 
+#include "AnimCommands.h"
 #include "ChangeSizeDialog.h"
 #include "KVTreeView.h"
 #include "RecordItem.h"
 #include "RecordTable.h"
-#include "StructureCommands.h"
+#include "SkinnedMeshCommands.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -3,7 +3,6 @@
 #include "ModelTransforms.h"
 #include "SampleModels.h"
 #include "TestSupport.h"
-#include "TransformCommands.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -70,7 +70,10 @@ inline void show(QCheckBox *editor, bool value)
 }
 inline void show(QLineEdit *editor, const QString &value)
 {
+    // A path that does not fit shows its start, unless the cursor is where the user works.
+    const int cursor = editor->hasFocus() ? editor->cursorPosition() : 0;
     editor->setText(value);
+    editor->setCursorPosition(cursor);
 }
 
 template <typename Receiver>

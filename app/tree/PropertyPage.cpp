@@ -9,17 +9,41 @@
 
 #include <limits>
 
-PropertyPage::PropertyPage(RecordKind kind, QWidget *parent)
+PropertyPage::PropertyPage(RecordKind kind, const QString &title, QWidget *parent)
     : QWidget(parent)
     , m_kind(kind)
+    , m_title(title)
 {}
 
-void PropertyPage::showRecord(const RecordIndex &index)
+QString PropertyPage::title() const
+{
+    QString title = m_title;
+    for (size_t i = 0; i < m_index.size(); ++i)
+        title.replace(QStringLiteral("%%1").arg(i + 1), QString::number(m_index[i]));
+    return title;
+}
+
+void PropertyPage::showRecord(const RecordIndex &index, const QVector<RecordIndex> &selected)
 {
     m_index = index;
-    for (const Binding &binding : qAsConst(m_bindings))
+    for (const Binding &binding : qAsConst(m_bindings)) {
         binding.show();
+        const bool differs = binding.differs(selected);
+        if (binding.editor->font().italic() != differs) {
+            // Slanted or not, and otherwise as ever.
+            QFont font;
+            if (differs)
+                font.setItalic(true);
+            binding.editor->setFont(font);
+        }
+    }
     recordShown();
+}
+
+bool PropertyPage::showsDifferences() const
+{
+    return std::any_of(m_bindings.begin(), m_bindings.end(),
+                       [](const Binding &binding) { return binding.editor->font().italic(); });
 }
 
 void PropertyPage::addBinding(Binding binding)

@@ -2,38 +2,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AnimFile.h"
-#include "SkinnedMesh.h"
-#include "StaticMesh.h"
+#include "SampleModels.h"
 
-#include <cstring>
-#include <limits>
-
-/// Small models for the property pages: plain ones, and odd ones whose floats no ordinary editor could show
-/// and whose indexes point nowhere.
+/// Odd models for the property pages, with floats that no ordinary editor could show and indexes that point
+/// nowhere.
 namespace PageModels {
-inline float fromBits(quint32 bits)
-{
-    float value;
-    std::memcpy(&value, &bits, sizeof value);
-    return value;
-}
-
-inline const float oddFloats[] = {fromBits(0x7fa01234),
-                                  fromBits(0xffc00001),
-                                  std::numeric_limits<float>::infinity(),
-                                  -std::numeric_limits<float>::infinity(),
-                                  1e-7f,
-                                  std::numeric_limits<float>::denorm_min(),
-                                  -0.0f,
-                                  0.123456789f,
-                                  std::numeric_limits<float>::max()};
+using namespace SampleModels;
 
 /// Another odd float with every call.
 inline float odd()
 {
     static size_t next = 0;
-    return oddFloats[next++ % (sizeof oddFloats / sizeof *oddFloats)];
+    return oddFloats[next++ % oddFloats.size()];
 }
 inline QVector2D odd2()
 {
@@ -46,23 +26,6 @@ inline QVector3D odd3()
 inline QVector4D odd4()
 {
     return {odd(), odd(), odd(), odd()};
-}
-
-inline SkinnedMesh plainMesh()
-{
-    SkinnedMesh mesh;
-    mesh.version = 2;
-    mesh.nodes.resize(4);
-    for (size_t i = 0; i < mesh.nodes.size(); ++i) {
-        mesh.nodes[i].childNodes = {1, 2};
-        mesh.nodes[i].bbMin = {float(i), 10.0f + float(i), 20.0f + float(i)};
-    }
-    mesh.nodes[1].parentNode = 0;
-    mesh.nodes[1].symbolFlags = 0x38;
-    mesh.hotPoints.resize(2);
-    mesh.surfaces = {{QStringLiteral("materials/a"), {0, 1, 2}}};
-    mesh.vertices.resize(3);
-    return mesh;
 }
 
 /// Every float odd, every index out of range.
@@ -81,20 +44,6 @@ inline SkinnedMesh oddMesh()
     for (SkinnedMeshVertex &vertex : mesh.vertices)
         vertex = {odd3(), odd2(), odd3(), 65535};
     return mesh;
-}
-
-inline AnimFile plainAnim()
-{
-    AnimFile file;
-    file.blocks.resize(2);
-    for (AnimBlock &block : file.blocks) {
-        block.nodes.resize(4);
-        block.setTranslationCount(2);
-        block.setRotationCount(2);
-        block.setFrameCount(3);
-        block.actions.resize(2);
-    }
-    return file;
 }
 
 inline AnimFile oddAnim()
@@ -120,14 +69,6 @@ inline AnimFile oddAnim()
         block.actions[0].eventType = 35;
     }
     return file;
-}
-
-inline StaticMesh plainStatic()
-{
-    StaticMesh mesh;
-    mesh.surfaces = {{QStringLiteral("materials/a"), {0, 1, 2}}};
-    mesh.vertices.resize(3);
-    return mesh;
 }
 
 inline StaticMesh oddStatic()

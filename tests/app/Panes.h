@@ -76,6 +76,17 @@ struct Panes
         addPages(rigid.stack, rigid.document, rigid.tree);
     }
 
+    template <typename Model>
+    Pane<Model> &of()
+    {
+        if constexpr (std::is_same_v<Model, SkinnedMesh>)
+            return mesh;
+        else if constexpr (std::is_same_v<Model, AnimFile>)
+            return anim;
+        else
+            return rigid;
+    }
+
     Pane<SkinnedMesh> mesh{DocumentType::SkinnedMesh, RecordKind::SkinnedMesh};
     Pane<AnimFile> anim{DocumentType::Anim, RecordKind::AnimFile};
     Pane<StaticMesh> rigid{DocumentType::StaticMesh, RecordKind::StaticMesh};

@@ -224,6 +224,8 @@ void tst_CommandPages::driveAll(Pane<Model> &pane, int selected)
         for (int i = 1; parent && i < selected; ++i)
             records << static_cast<RecordItem *>(parent->child(i))->record();
         pane.select(records);
+        for (const IndexHint *hint : pane.page()->template findChildren<IndexHint *>())
+            QVERIFY2(!hint->text().isEmpty(), qPrintable(hint->objectName()));
         for (QWidget *editor : editorsOf(pane.page())) {
             const QString name = editor->objectName();
             QVERIFY2(texts.contains(name) && !editor->toolTip().isEmpty(), qPrintable(name));

@@ -17,7 +17,7 @@ class QuestionMenu : public QObject
     Q_OBJECT
 
 public:
-    /// For the spin boxes that stand in `fields`, which owns the menu. `tables` answers; it outlives the menu.
+    /// For the spin boxes in `fields`, which owns the menu. `tables` answers; it outlives the menu.
     QuestionMenu(const DatabaseTab &tables, QWidget *fields);
 
     /// The menu of an editor: its questions first, then what every spin box offers. Null, after an error in

@@ -76,6 +76,17 @@ inline void show(QLineEdit *editor, const QString &value)
     editor->setCursorPosition(cursor);
 }
 
+/// Slants what the editor shows, or not; its font is otherwise what it was.
+inline void setItalic(QWidget *editor, bool on)
+{
+    if (editor->font().italic() == on)
+        return;
+    QFont font;
+    if (on)
+        font.setItalic(true);
+    editor->setFont(font);
+}
+
 template <typename Receiver>
 void onEdited(FloatSpinBox *editor, Receiver *receiver, void (Receiver::*slot)())
 {

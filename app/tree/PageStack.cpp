@@ -61,7 +61,7 @@ void arrangeForms(const QWidget &page)
                 continue;
             // An underlined letter is drawn without kerning, which the label's width leaves out of account.
             if (caption->buddy())
-                caption->setContentsMargins(0, 0, caption->fontMetrics().height() / 8, 0);
+                caption->setMinimumWidth(caption->sizeHint().width() + caption->fontMetrics().height() / 8);
             // What captions several lines stands at the first of them.
             QLayoutItem *field = form->itemAt(row, QFormLayout::FieldRole);
             if (const auto *lines = qobject_cast<QFormLayout *>(field->layout()))

@@ -26,24 +26,12 @@ QString PropertyPage::title() const
 void PropertyPage::showRecord(const RecordIndex &index, const QVector<RecordIndex> &selected)
 {
     m_index = index;
+    m_showsDifferences = false;
     for (const Binding &binding : qAsConst(m_bindings)) {
         binding.show();
-        const bool differs = binding.differs(selected);
-        if (binding.editor->font().italic() != differs) {
-            // Slanted or not, and otherwise as ever.
-            QFont font;
-            if (differs)
-                font.setItalic(true);
-            binding.editor->setFont(font);
-        }
+        m_showsDifferences |= binding.mark(selected);
     }
     recordShown();
-}
-
-bool PropertyPage::showsDifferences() const
-{
-    return std::any_of(m_bindings.begin(), m_bindings.end(),
-                       [](const Binding &binding) { return binding.editor->font().italic(); });
 }
 
 void PropertyPage::addBinding(Binding binding)

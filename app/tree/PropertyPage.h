@@ -29,7 +29,7 @@ public:
     /// an edit would reach too, is shown in italics.
     void showRecord(const RecordIndex &index, const QVector<RecordIndex> &selected);
     /// Whether any value is shown in italics.
-    bool showsDifferences() const;
+    bool showsDifferences() const { return m_showsDifferences; }
 
     /// "Bone 3 Properties".
     QString title() const;
@@ -48,8 +48,8 @@ protected:
         QWidget *editor;
         std::function<void()> show;
         std::function<void()> commit;
-        /// Whether the shown record's value is not that of all these records.
-        std::function<bool(const QVector<RecordIndex> &)> differs;
+        /// Marks what in the shown record is not as in all these; gives whether there is any.
+        std::function<bool(const QVector<RecordIndex> &)> mark;
     };
     void addBinding(Binding binding);
     /// Takes the value of a bound editor to the document. The whole body of a changed slot.
@@ -60,6 +60,7 @@ private:
     const QString m_title;
     RecordIndex m_index{};
     QVector<Binding> m_bindings;
+    bool m_showsDifferences = false;
 };
 
 /// A page of the records of one kind (`RecordType` is one of Records).
@@ -96,15 +97,10 @@ protected:
         const auto commitEdit = [this, editor, part, macroText] {
             commitEditor<Command>(editor, part, macroText);
         };
-        const auto differs = [this, part](const QVector<RecordIndex> &others) {
-            const auto *shown = record();
-            return shown && std::any_of(others.begin(), others.end(), [&](const RecordIndex &other) {
-                       const auto *record = RecordType::find(m_document.model(), other);
-                       return record && !isSame(part.get(Command::Field::get(*record)),
-                                                part.get(Command::Field::get(*shown)));
-                   });
+        const auto mark = [this, editor, part](const QVector<RecordIndex> &others) {
+            return markEditor<Command>(editor, part, others);
         };
-        addBinding({editor, show, commitEdit, differs});
+        addBinding({editor, show, commitEdit, mark});
         Editors::onEdited(editor, static_cast<Page *>(this), slot);
     }
 
@@ -149,6 +145,32 @@ protected:
     }
 
 private:
+    template <typename Command, typename Editor, typename Part>
+    bool markEditor(Editor *editor, const Part &part, const QVector<RecordIndex> &others)
+    {
+        const auto *shown = record();
+        const bool differs =
+            shown && std::any_of(others.begin(), others.end(), [&](const RecordIndex &other) {
+                const auto *record = RecordType::find(m_document.model(), other);
+                return record &&
+                       !isSame(part.get(Command::Field::get(*record)), part.get(Command::Field::get(*shown)));
+            });
+        Editors::setItalic(editor, differs);
+        return differs;
+    }
+    /// Each flag by itself.
+    template <typename Command, typename Part>
+    bool markEditor(FlagsEditor *editor, const Part &part, const QVector<RecordIndex> &others)
+    {
+        qint32 bits = 0;
+        for (const RecordIndex &other : others) {
+            if (const auto *record = RecordType::find(m_document.model(), other))
+                bits |= part.get(Command::Field::get(*record)) ^ editor->value();
+        }
+        editor->markBits(bits);
+        return bits != 0;
+    }
+
     template <typename Value>
     static bool isSame(const Value &a, const Value &b)
     {

@@ -111,6 +111,10 @@ void tst_Pages::anEditReachesAllSelectedAndOnlyItsPart()
     pane.open(flagged);
     pane.select({{RecordKind::Bone, {0}}, {RecordKind::Bone, {1}}});
     const auto flags = [&nodes] { return QVector<qint32>{nodes[0].flags, nodes[1].flags}; };
+    for (int bit = 0; bit < 32; ++bit) {
+        const QByteArray name = "cbBit" + QByteArray::number(bit);
+        QCOMPARE(pane.child<QCheckBox>(name)->font().italic(), bit == 0 || bit == 4 || bit == 5);
+    }
     pane.child<QCheckBox>("cbBit0")->click();
     QCOMPARE(flags(), QVector<qint32>({0x11, 0x21}));
     pane.child<QPushButton>("btnFlagsNone")->click();

@@ -15,8 +15,9 @@ struct CommandTag
 };
 
 // One command class from a row (class, kind, undo text, what the kind is to know) of a stack's table. A kind
-// is a class template whose first parameter is the command itself. The table is also the list of the stack's
-// commands, so that a command cannot exist without being in it.
+// is a class template whose first parameter is the command itself; it gives the Place of the records, one of
+// Records. The table is also the list of the stack's commands, so that a command cannot exist without being
+// in it.
 #define KORVANE_COMMAND(Class, Kind, Text, ...)                                                              \
     class Class final : public Kind<Class, __VA_ARGS__>                                                      \
     {                                                                                                        \

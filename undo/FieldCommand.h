@@ -48,10 +48,11 @@ template <typename Command, typename RecordType, typename FieldType>
 class FieldCommand : public UC_Base
 {
 public:
-    using Record = RecordType;
+    using Place = RecordType;
     using Field = FieldType;
-    using Model = typename Record::Model;
-    using Value = decltype(Field::get(std::declval<const typename Record::Record &>()));
+    using Model = typename Place::Model;
+    using Record = typename Place::Record;
+    using Value = decltype(Field::get(std::declval<const Record &>()));
 
     FieldCommand(EditTarget<Model> target, const RecordIndex &index, Value value,
                  QUndoCommand *parent = nullptr)
@@ -60,7 +61,7 @@ public:
         , m_index(index)
         , m_new(std::move(value))
     {
-        if (const auto *record = Record::find(target.model, index))
+        if (const auto *record = Place::find(target.model, index))
             m_old = Field::get(*record);
     }
 
@@ -70,9 +71,9 @@ public:
 private:
     void apply(const Value &value)
     {
-        if (auto *record = Record::find(m_target.model, m_index)) {
+        if (auto *record = Place::find(m_target.model, m_index)) {
             Field::set(*record, value);
-            m_target.view.recordChanged({Record::kind, m_index});
+            m_target.view.recordChanged({Place::kind, m_index});
         }
     }
 

@@ -60,7 +60,7 @@ void TransformCommand<RecordType>::exchange()
     const size_t count = std::min(current.size(), m_corners.size());
     for (size_t i = 0; i < count; ++i)
         std::swap(*current[i], m_corners[i]);
-    m_target.view.recordChanged({Root::kind, {}});
+    m_target.view.recordChanged({Place::kind, {}});
 }
 
 template SkinnedMesh rotated(SkinnedMesh, float, float, float);

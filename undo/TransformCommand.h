@@ -25,8 +25,8 @@ template <typename RecordType>
 class TransformCommand : public UC_Base
 {
 public:
-    using Root = RecordType;
-    using Model = typename Root::Model;
+    using Place = RecordType;
+    using Model = typename Place::Model;
 
     void undo() override { exchange(); }
     void redo() override { exchange(); }

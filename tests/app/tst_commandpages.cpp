@@ -168,7 +168,7 @@ void tst_CommandPages::checkScreen(Pane<Model> &pane, const RecordRef &record)
 template <typename Command>
 void tst_CommandPages::checkCommand()
 {
-    using Place = SampleCommands::Place<Command>;
+    using Place = typename Command::Place;
     auto &pane = m_panes->of<typename Command::Model>();
     pane.open(SampleModels::plainModel<typename Command::Model>());
     auto &document = pane.document;

@@ -11,15 +11,22 @@
 
 /// Every command of the program on the records of a model.
 namespace SampleCommands {
+/// How many of the indexes a kind of record needs.
+template <typename RecordType, typename = void>
+inline constexpr size_t indexCount =
+    std::is_same_v<typename RecordType::Record, typename RecordType::Model> ? 0 : 3;
+template <typename RecordType>
+inline constexpr size_t indexCount<RecordType, std::void_t<decltype(RecordType::component)>> =
+    RecordType::component + 1;
+
 template <typename Command, typename = void>
 inline constexpr bool isField = false;
 template <typename Command>
 inline constexpr bool isField<Command, std::void_t<typename Command::Field>> = true;
 
-template <typename Command, typename = void>
-inline constexpr bool isStructure = false;
+/// Whether the command changes a list: neither a field nor the whole model.
 template <typename Command>
-inline constexpr bool isStructure<Command, std::void_t<typename Command::Place>> = true;
+inline constexpr bool isStructure = !isField<Command> && (indexCount<typename Command::Place> > 0);
 
 template <typename Command>
 constexpr bool isInsertion()
@@ -29,33 +36,6 @@ constexpr bool isInsertion()
                                        typename Command::Record>;
     return false;
 }
-
-template <typename Command, typename = void>
-struct PlaceOf
-{
-    using Type = typename Command::Root;
-};
-template <typename Command>
-struct PlaceOf<Command, std::enable_if_t<isField<Command>>>
-{
-    using Type = typename Command::Record;
-};
-template <typename Command>
-struct PlaceOf<Command, std::enable_if_t<isStructure<Command>>>
-{
-    using Type = typename Command::Place;
-};
-/// Where the records of a command live; one of Records.
-template <typename Command>
-using Place = typename PlaceOf<Command>::Type;
-
-/// How many of the indexes a kind of record needs.
-template <typename RecordType, typename = void>
-inline constexpr size_t indexCount =
-    std::is_same_v<typename RecordType::Record, typename RecordType::Model> ? 0 : 3;
-template <typename RecordType>
-inline constexpr size_t indexCount<RecordType, std::void_t<decltype(RecordType::component)>> =
-    RecordType::component + 1;
 
 /// A record of the kind, not the first where there is a choice.
 template <typename RecordType>
@@ -101,7 +81,7 @@ Command *make(EditTarget<typename Command::Model> target, const RecordIndex &ind
 {
     if constexpr (isField<Command>) {
         return new Command(target, index,
-                           other(Command::Field::get(*Command::Record::find(target.model, index))));
+                           other(Command::Field::get(*Command::Place::find(target.model, index))));
     } else if constexpr (isInsertion<Command>()) {
         const auto &list = *Command::Place::list(target.model, index);
         return new Command(target, index, list.empty() ? typename Command::Record() : list.back());

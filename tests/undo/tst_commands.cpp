@@ -109,7 +109,7 @@ private:
 template <typename Command>
 void tst_Commands::checkAt(typename Command::Model model, const RecordIndex &index)
 {
-    using Place = SampleCommands::Place<Command>;
+    using Place = typename Command::Place;
     RecordingView view;
     QUndoStack stack;
     const QByteArray before = bytesOf(model);
@@ -175,7 +175,7 @@ void tst_Commands::everyCommandGoesBackAndForth()
 template <typename Command>
 void tst_Commands::checkEverywhere()
 {
-    using Place = SampleCommands::Place<Command>;
+    using Place = typename Command::Place;
     for (auto model : models<typename Command::Model>()) {
         RecordIndex index = someIndex<Place>(model);
         if constexpr (isStructure<Command>) {
@@ -206,7 +206,7 @@ void tst_Commands::aRecordThatIsGoneIsLeftAlone()
 {
     forEach([](auto tag) {
         using Command = typename decltype(tag)::Type;
-        using Place = SampleCommands::Place<Command>;
+        using Place = typename Command::Place;
         auto model = models<typename Command::Model>().front();
         auto empty = model;
         cutOff(empty);

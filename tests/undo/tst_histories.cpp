@@ -98,10 +98,10 @@ struct History
         const auto editIfChosen = [&](auto tag) {
             using Command = typename decltype(tag)::Type;
             if constexpr (SampleCommands::isField<Command>) {
-                if (number++ != chosen || !allowed(Command::Record::kind))
+                if (number++ != chosen || !allowed(Command::Place::kind))
                     return;
                 typename Command::Value value{};
-                if (const auto *donor = Command::Record::find(model, anyIndex()))
+                if (const auto *donor = Command::Place::find(model, anyIndex()))
                     value = Command::Field::get(*donor);
                 stack.push(new Command(target(), anyIndex(), value));
             }

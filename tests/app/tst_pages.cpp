@@ -4,7 +4,6 @@
 #include "Panes.h"
 #include "Questions.h"
 #include "RecordItem.h"
-#include "SampleModels.h"
 #include "Settings.h"
 #include "TestSupport.h"
 

@@ -4,7 +4,8 @@
 
 #include "RotateDialog.h"
 #include "ScaleDialog.h"
-#include "TransformCommands.h"
+#include "SkinnedMeshCommands.h"
+#include "StaticMeshCommands.h"
 
 #include <QAbstractButton>
 

@@ -8,7 +8,6 @@
 #include "Log.h"
 #include "Questions.h"
 
-#include <QApplication>
 #include <QContextMenuEvent>
 #include <QDoubleSpinBox>
 #include <QLineEdit>
@@ -58,16 +57,17 @@ std::optional<double> valueOf(const QObject *editor)
 }
 } // namespace
 
-QuestionMenu::QuestionMenu(const DatabaseTab &tables, QObject *parent)
-    : QObject(parent)
+QuestionMenu::QuestionMenu(const DatabaseTab &tables, QWidget *fields)
+    : QObject(fields)
     , m_tables(tables)
 {
-    qApp->installEventFilter(this);
+    for (QAbstractSpinBox *editor : fields->findChildren<QAbstractSpinBox *>())
+        editor->installEventFilter(this);
 }
 
 bool QuestionMenu::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() != QEvent::ContextMenu || !watched->property(Questions::Property).isValid())
+    if (event->type() != QEvent::ContextMenu || Questions::of(watched).isEmpty())
         return QObject::eventFilter(watched, event);
     QMenu *menu = createMenu(watched);
     if (!menu)

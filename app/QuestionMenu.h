@@ -10,15 +10,15 @@ class QMenu;
 
 /// The context menu of number fields whose value names something: "What Actor is this?" and the like.
 ///
-/// It serves every spin box of the program that carries Questions. They are read when the menu opens, so they
-/// may change with what the field means.
+/// It serves the spin boxes that carry Questions. They are read when the menu opens, so they may change with
+/// what the field means.
 class QuestionMenu : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `tables` answers; it outlives the menu.
-    QuestionMenu(const DatabaseTab &tables, QObject *parent);
+    /// For the spin boxes in `fields`, which owns the menu. `tables` answers; it outlives the menu.
+    QuestionMenu(const DatabaseTab &tables, QWidget *fields);
 
     /// The menu of an editor: its questions first, then what every spin box offers. Null, after an error in
     /// the log, for an object that is no spin box. The caller owns it.

@@ -63,11 +63,11 @@ std::pair<double, double> editAndUndo(int count)
     for (int i = 0; i < count; ++i)
         records.append({RecordKind::SkinnedVertex, {i, 0, 0}});
     vertices.tree.selectRecords(records, records.last());
-    auto *editor = pages.findChild<QAbstractSpinBox *>(QStringLiteral("sbSMVertPositionX"));
+    auto *editor = pages.findChild<QAbstractSpinBox *>(QStringLiteral("sbVertPositionX"));
     const double edit = Bench::seconds([editor] { editor->stepUp(); });
     const double undo = Bench::seconds([&vertices] { vertices.document.undoStack()->undo(); });
     if (vertices.document.undoStack()->count() != 1 ||
-        vertices.tree.selectedCount(RecordKind::SkinnedVertex) != count)
+        vertices.tree.selectedRecords(RecordKind::SkinnedVertex).size() != count)
         qFatal("the edit or the selection was lost");
     return {edit, undo};
 }

@@ -187,11 +187,7 @@ QString AnimFile::refusal() const
 
 bool AnimFile::write(const QString &path) const
 {
-    // Before a save file is opened.
-    if (!refusal().isEmpty())
-        return true;
-    BinaryFileWriter writer(path);
-    return write(writer) || writer.commit();
+    return writeModelFile(*this, path);
 }
 
 bool AnimFile::write(BinaryFileWriter &writer) const

@@ -86,3 +86,14 @@ private:
     std::vector<uchar> m_buffer;
     size_t m_used = 0;
 };
+
+/// Writes a model to `path` in one step. Returns true on failure.
+template <typename Model>
+[[nodiscard]] bool writeModelFile(const Model &model, const QString &path)
+{
+    // Before a save file is opened.
+    if (!model.refusal().isEmpty())
+        return true;
+    BinaryFileWriter writer(path);
+    return model.write(writer) || writer.commit();
+}

@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "SkinnedMesh.h"
 
-#include "BinaryFileReader.h"
-#include "BinaryFileWriter.h"
 #include "Transform.h"
+#include "VertexFields.h"
 
 #include <algorithm>
 
@@ -47,9 +46,10 @@ SkinnedMeshSurface readSurface(BinaryFileReader &reader)
 
 SkinnedMeshVertex readVertex(BinaryFileReader &reader)
 {
-    float v[8];
-    reader.readFloats(v, 8);
-    return {{v[0], v[1], v[2]}, {v[3], v[4]}, {v[5], v[6], v[7]}, reader.readUInt16()};
+    SkinnedMeshVertex vertex;
+    readVertexFields(reader, vertex);
+    vertex.nodeIndex = reader.readUInt16();
+    return vertex;
 }
 
 bool usesTerminatorAsIndex(const SkinnedMeshSurface &surface)
@@ -116,11 +116,7 @@ QString SkinnedMesh::refusal() const
 
 bool SkinnedMesh::write(const QString &path) const
 {
-    // Before a save file is opened.
-    if (!refusal().isEmpty())
-        return true;
-    BinaryFileWriter writer(path);
-    return write(writer) || writer.commit();
+    return writeModelFile(*this, path);
 }
 
 bool SkinnedMesh::write(BinaryFileWriter &writer) const
@@ -171,10 +167,7 @@ bool SkinnedMesh::write(BinaryFileWriter &writer) const
     if (!surfaces.empty()) {
         writer.writeInt32(qint32(vertices.size()));
         for (const SkinnedMeshVertex &vertex : vertices) {
-            const float v[8] = {vertex.position.x(), vertex.position.y(), vertex.position.z(),
-                                vertex.uv.x(),       vertex.uv.y(),       vertex.normal.x(),
-                                vertex.normal.y(),   vertex.normal.z()};
-            writer.writeFloats(v, 8);
+            writeVertexFields(writer, vertex);
             writer.writeUInt16(vertex.nodeIndex);
         }
     }

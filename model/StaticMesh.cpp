@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "StaticMesh.h"
 
-#include "BinaryFileReader.h"
-#include "BinaryFileWriter.h"
 #include "Transform.h"
+#include "VertexFields.h"
 
 namespace {
 // Bytes in the file; the least of those that vary.
@@ -13,9 +12,9 @@ constexpr qint64 VertexBytes = 32;
 
 StaticMeshVertex readVertex(BinaryFileReader &reader)
 {
-    float v[8];
-    reader.readFloats(v, 8);
-    return {{v[0], v[1], v[2]}, {v[3], v[4]}, {v[5], v[6], v[7]}};
+    StaticMeshVertex vertex;
+    readVertexFields(reader, vertex);
+    return vertex;
 }
 } // namespace
 
@@ -64,11 +63,7 @@ QString StaticMesh::refusal() const
 
 bool StaticMesh::write(const QString &path) const
 {
-    // Before a save file is opened.
-    if (!refusal().isEmpty())
-        return true;
-    BinaryFileWriter writer(path);
-    return write(writer) || writer.commit();
+    return writeModelFile(*this, path);
 }
 
 bool StaticMesh::write(BinaryFileWriter &writer) const
@@ -89,11 +84,8 @@ bool StaticMesh::write(BinaryFileWriter &writer) const
     }
 
     writer.writeInt32(qint32(vertices.size()));
-    for (const StaticMeshVertex &vertex : vertices) {
-        const float v[8] = {vertex.position.x(), vertex.position.y(), vertex.position.z(), vertex.uv.x(),
-                            vertex.uv.y(),       vertex.normal.x(),   vertex.normal.y(),   vertex.normal.z()};
-        writer.writeFloats(v, 8);
-    }
+    for (const StaticMeshVertex &vertex : vertices)
+        writeVertexFields(writer, vertex);
     return false;
 }
 

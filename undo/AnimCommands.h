@@ -3,31 +3,38 @@
 #pragma once
 
 #include "FieldCommand.h"
+#include "StructureCommand.h"
 
 // clang-format off
-#define KORVANE_ANIM_FIELDS(ROW) \
-    ROW(UC_AnimBlockAnimID, Records::Block, Member<&AnimBlock::animId>, "Animation AnimID") \
-    ROW(UC_AnimBlockFrameScale, Records::Block, Member<&AnimBlock::frameScale>, "Animation Frame Scale") \
-    ROW(UC_AnimBlockBlendLength, Records::Block, Member<&AnimBlock::blendLength>, "Animation Blend Length") \
-    ROW(UC_AnimBlockBlendStart, Records::Block, Member<&AnimBlock::blendStart>, "Animation Blend Start") \
-    ROW(UC_AnimBlockBlendEnd, Records::Block, Member<&AnimBlock::blendEnd>, "Animation Blend End") \
-    ROW(UC_AnimBlockAnimSpeed, Records::Block, Member<&AnimBlock::speed>, "Animation Speed") \
-    ROW(UC_AnimBlockLoopFrame, Records::Block, Member<&AnimBlock::loopFrame>, "Animation Loop Frame") \
-    ROW(UC_AnimNodeTransIndex, Records::BlockBone, Member<&AnimNode::translationIndex>, "Bone Translation Index") \
-    ROW(UC_AnimNodeRotIndex, Records::BlockBone, Member<&AnimNode::rotationIndex>, "Bone Rotation Index") \
-    ROW(UC_AnimNodeInitTrans, Records::BlockBone, Member<&AnimNode::initialPosition>, "Bone Initial Translation") \
-    ROW(UC_AnimNodeInitRot, Records::BlockBone, Member<&AnimNode::initialRotation>, "Bone Initial Rotation") \
-    ROW(UC_AnimFrameYaw, Records::BlockFrame, Member<&AnimFrame::yawOffset>, "Frame Yaw Offset") \
-    ROW(UC_AnimTranslation, Records::TranslationKey, Itself, "Translation") \
-    ROW(UC_AnimRotation, Records::RotationKey, Itself, "Rotation") \
-    ROW(UC_AnimActionFrame, Records::BlockAction, Member<&AnimAction::frame>, "Key Frame Action Frame") \
-    ROW(UC_AnimActionNode, Records::BlockAction, Member<&AnimAction::node>, "Key Frame Action Bone") \
-    ROW(UC_AnimActionOffset, Records::BlockAction, Member<&AnimAction::offset>, "Key Frame Action Offset") \
-    ROW(UC_AnimActionEventType, Records::BlockAction, Member<&AnimAction::eventType>, "Key Frame Action Event Type") \
-    ROW(UC_AnimActionArgs, Records::BlockAction, Member<&AnimAction::args>, "Key Frame Action Args")
+#define KORVANE_ANIM_COMMANDS(ROW) \
+    ROW(UC_AnimBlockAnimID, FieldCommand, "Animation AnimID", Records::Block, Member<&AnimBlock::animId>) \
+    ROW(UC_AnimBlockFrameScale, FieldCommand, "Animation Frame Scale", Records::Block, Member<&AnimBlock::frameScale>) \
+    ROW(UC_AnimBlockBlendLength, FieldCommand, "Animation Blend Length", Records::Block, Member<&AnimBlock::blendLength>) \
+    ROW(UC_AnimBlockBlendStart, FieldCommand, "Animation Blend Start", Records::Block, Member<&AnimBlock::blendStart>) \
+    ROW(UC_AnimBlockBlendEnd, FieldCommand, "Animation Blend End", Records::Block, Member<&AnimBlock::blendEnd>) \
+    ROW(UC_AnimBlockAnimSpeed, FieldCommand, "Animation Speed", Records::Block, Member<&AnimBlock::speed>) \
+    ROW(UC_AnimBlockLoopFrame, FieldCommand, "Animation Loop Frame", Records::Block, Member<&AnimBlock::loopFrame>) \
+    ROW(UC_AnimNodeTransIndex, FieldCommand, "Bone Translation Index", Records::BlockBone, Member<&AnimNode::translationIndex>) \
+    ROW(UC_AnimNodeRotIndex, FieldCommand, "Bone Rotation Index", Records::BlockBone, Member<&AnimNode::rotationIndex>) \
+    ROW(UC_AnimNodeInitTrans, FieldCommand, "Bone Initial Translation", Records::BlockBone, Member<&AnimNode::initialPosition>) \
+    ROW(UC_AnimNodeInitRot, FieldCommand, "Bone Initial Rotation", Records::BlockBone, Member<&AnimNode::initialRotation>) \
+    ROW(UC_AnimFrameYaw, FieldCommand, "Frame Yaw Offset", Records::BlockFrame, Member<&AnimFrame::yawOffset>) \
+    ROW(UC_AnimTranslation, FieldCommand, "Translation", Records::TranslationKey, Itself) \
+    ROW(UC_AnimRotation, FieldCommand, "Rotation", Records::RotationKey, Itself) \
+    ROW(UC_AnimActionFrame, FieldCommand, "Key Frame Action Frame", Records::BlockAction, Member<&AnimAction::frame>) \
+    ROW(UC_AnimActionNode, FieldCommand, "Key Frame Action Bone", Records::BlockAction, Member<&AnimAction::node>) \
+    ROW(UC_AnimActionOffset, FieldCommand, "Key Frame Action Offset", Records::BlockAction, Member<&AnimAction::offset>) \
+    ROW(UC_AnimActionEventType, FieldCommand, "Key Frame Action Event Type", Records::BlockAction, Member<&AnimAction::eventType>) \
+    ROW(UC_AnimActionArgs, FieldCommand, "Key Frame Action Args", Records::BlockAction, Member<&AnimAction::args>) \
+    ROW(UC_AnimAddAction, InsertCommand, "Add Key Frame Action", Records::BlockAction, RecordKind::AnimActions) \
+    ROW(UC_AnimRemoveAction, RemoveCommand, "Remove Key Frame Action", Records::BlockAction, RecordKind::AnimActions) \
+    ROW(UC_AnimBlockAdd, InsertCommand, "Add Animation", Records::Block, RecordKind::AnimFile) \
+    ROW(UC_AnimBlockRemove, RemoveCommand, "Remove Animation", Records::Block, RecordKind::AnimFile) \
+    ROW(UC_AnimBlockPaste, InsertCommand, "Paste Animation", Records::Block, RecordKind::AnimFile)
 // clang-format on
 
-KORVANE_ANIM_FIELDS(KORVANE_FIELD_COMMAND)
+KORVANE_ANIM_COMMANDS(KORVANE_COMMAND)
 
 /// Every command of the animation stack.
-inline constexpr auto animCommands = std::tuple_cat(KORVANE_ANIM_FIELDS(KORVANE_COMMAND_TAG) std::tuple<>());
+inline constexpr auto animCommands =
+    std::tuple_cat(KORVANE_ANIM_COMMANDS(KORVANE_COMMAND_TAG) std::tuple<>());

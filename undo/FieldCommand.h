@@ -2,13 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "DocumentView.h"
-#include "UC_Base.h"
+#include "CommandTable.h"
 
 #include <QCoreApplication>
-
-#include <tuple>
-#include <type_traits>
 
 /// A field of a record by its member pointer.
 template <auto Pointer>
@@ -52,10 +48,11 @@ template <typename Command, typename RecordType, typename FieldType>
 class FieldCommand : public UC_Base
 {
 public:
-    using Record = RecordType;
+    using Place = RecordType;
     using Field = FieldType;
-    using Model = typename Record::Model;
-    using Value = decltype(Field::get(std::declval<const typename Record::Record &>()));
+    using Model = typename Place::Model;
+    using Record = typename Place::Record;
+    using Value = decltype(Field::get(std::declval<const Record &>()));
 
     FieldCommand(EditTarget<Model> target, const RecordIndex &index, Value value,
                  QUndoCommand *parent = nullptr)
@@ -64,7 +61,7 @@ public:
         , m_index(index)
         , m_new(std::move(value))
     {
-        if (const auto *record = Record::find(target.model, index))
+        if (const auto *record = Place::find(target.model, index))
             m_old = Field::get(*record);
     }
 
@@ -74,9 +71,9 @@ public:
 private:
     void apply(const Value &value)
     {
-        if (auto *record = Record::find(m_target.model, m_index)) {
+        if (auto *record = Place::find(m_target.model, m_index)) {
             Field::set(*record, value);
-            m_target.view.recordChanged({Record::kind, m_index});
+            m_target.view.recordChanged({Place::kind, m_index});
         }
     }
 
@@ -85,23 +82,3 @@ private:
     Value m_old{};
     Value m_new;
 };
-
-// One command class from a row (class, record, field, undo text) of a family's table. The table is also the
-// family's list of its commands, so that a command cannot exist without being in it.
-#define KORVANE_FIELD_COMMAND(Class, RecordType, FieldType, Text)                                            \
-    class Class final : public FieldCommand<Class, RecordType, FieldType>                                    \
-    {                                                                                                        \
-    public:                                                                                                  \
-        static constexpr const char *name = #Class;                                                          \
-        static constexpr const char *undoText = QT_TRANSLATE_NOOP("UndoCommands", Text);                     \
-        using FieldCommand::FieldCommand;                                                                    \
-    };
-
-/// Stands for a command class where a value is needed, as in a list of all commands.
-template <typename Command>
-struct CommandTag
-{
-    using Type = Command;
-};
-
-#define KORVANE_COMMAND_TAG(Class, RecordType, FieldType, Text) std::tuple<CommandTag<Class>>(),

@@ -3,20 +3,23 @@
 #pragma once
 
 #include "FieldCommand.h"
+#include "TransformCommand.h"
 
 // clang-format off
-#define KORVANE_STATIC_MESH_FIELDS(ROW) \
-    ROW(UC_StaticMeshBBMin, Records::StaticMeshRoot, Member<&StaticMesh::bbMin>, "Bounding Box Min") \
-    ROW(UC_StaticMeshBBMax, Records::StaticMeshRoot, Member<&StaticMesh::bbMax>, "Bounding Box Max") \
-    ROW(UC_StaticMeshSurfaceMaterial, Records::StaticSurface, Member<&StaticMeshSurface::materialPath>, "Surface Material") \
-    ROW(UC_StaticMeshTriIndex, Records::StaticTriangleIndex, Itself, "Triangle Index") \
-    ROW(UC_StaticMeshVertPos, Records::StaticVertex, Member<&StaticMeshVertex::position>, "Vertex Position") \
-    ROW(UC_StaticMeshVertNormal, Records::StaticVertex, Member<&StaticMeshVertex::normal>, "Vertex Normal") \
-    ROW(UC_StaticMeshVertUV, Records::StaticVertex, Member<&StaticMeshVertex::uv>, "Vertex UV")
+#define KORVANE_STATIC_MESH_COMMANDS(ROW) \
+    ROW(UC_StaticMeshBBMin, FieldCommand, "Bounding Box Min", Records::StaticMeshRoot, Member<&StaticMesh::bbMin>) \
+    ROW(UC_StaticMeshBBMax, FieldCommand, "Bounding Box Max", Records::StaticMeshRoot, Member<&StaticMesh::bbMax>) \
+    ROW(UC_StaticMeshSurfaceMaterial, FieldCommand, "Surface Material", Records::StaticSurface, Member<&StaticMeshSurface::materialPath>) \
+    ROW(UC_StaticMeshTriIndex, FieldCommand, "Triangle Index", Records::StaticTriangleIndex, Itself) \
+    ROW(UC_StaticMeshVertPos, FieldCommand, "Vertex Position", Records::StaticVertex, Member<&StaticMeshVertex::position>) \
+    ROW(UC_StaticMeshVertNormal, FieldCommand, "Vertex Normal", Records::StaticVertex, Member<&StaticMeshVertex::normal>) \
+    ROW(UC_StaticMeshVertUV, FieldCommand, "Vertex UV", Records::StaticVertex, Member<&StaticMeshVertex::uv>) \
+    ROW(UC_StaticMeshRotate, RotateCommand, "Rotate Vertices", Records::StaticMeshRoot) \
+    ROW(UC_StaticMeshScale, ScaleCommand, "Scale Vertices", Records::StaticMeshRoot)
 // clang-format on
 
-KORVANE_STATIC_MESH_FIELDS(KORVANE_FIELD_COMMAND)
+KORVANE_STATIC_MESH_COMMANDS(KORVANE_COMMAND)
 
 /// Every command of the static mesh stack.
 inline constexpr auto staticMeshCommands =
-    std::tuple_cat(KORVANE_STATIC_MESH_FIELDS(KORVANE_COMMAND_TAG) std::tuple<>());
+    std::tuple_cat(KORVANE_STATIC_MESH_COMMANDS(KORVANE_COMMAND_TAG) std::tuple<>());

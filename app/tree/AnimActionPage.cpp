@@ -12,7 +12,7 @@ using namespace Parts;
 
 AnimActionPage::AnimActionPage(ModelDocument<Model> &document, const KVTreeView &tree,
                                const SkinnedMeshDocument &mesh, QWidget *parent)
-    : RecordPage(document, tree, parent)
+    : RecordPage(document, tree, tr("Anim %1 - Key Frame Action %2 Properties"), parent)
     , m_mesh(mesh)
 {
     m_ui.setupUi(this);
@@ -28,12 +28,10 @@ AnimActionPage::AnimActionPage(ModelDocument<Model> &document, const KVTreeView 
                              &Page::OnAnimActionFrameChanged);
     bind<UC_AnimActionNode>(m_ui.sbAnimActionNode, Whole, tr("Key Frame Action Node"),
                             &Page::OnAnimActionNodeChanged);
-    bind<UC_AnimActionOffset>(m_ui.sbAnimActionOffsetX, X, tr("Key Frame Action Offset X"),
-                              &Page::OnAnimActionOffsetXChanged);
-    bind<UC_AnimActionOffset>(m_ui.sbAnimActionOffsetY, Y, tr("Key Frame Action Offset Y"),
-                              &Page::OnAnimActionOffsetYChanged);
-    bind<UC_AnimActionOffset>(m_ui.sbAnimActionOffsetZ, Z, tr("Key Frame Action Offset Z"),
-                              &Page::OnAnimActionOffsetZChanged);
+    bindVector<UC_AnimActionOffset, Page>(tr("Key Frame Action Offset %1"),
+                                          {{m_ui.sbAnimActionOffsetX, &Page::OnAnimActionOffsetXChanged},
+                                           {m_ui.sbAnimActionOffsetY, &Page::OnAnimActionOffsetYChanged},
+                                           {m_ui.sbAnimActionOffsetZ, &Page::OnAnimActionOffsetZChanged}});
     m_arguments = {{{m_ui.lblAnimActionArg1, m_ui.sbAnimActionArg1},
                     {m_ui.lblAnimActionArg2, m_ui.sbAnimActionArg2},
                     {m_ui.lblAnimActionArg3, m_ui.sbAnimActionArg3},
@@ -46,12 +44,6 @@ AnimActionPage::AnimActionPage(ModelDocument<Model> &document, const KVTreeView 
         bind<UC_AnimActionArgs>(m_arguments[size_t(i)].editor, Component{i}, tr("Key Frame Action Args"),
                                 &Page::OnAnimActionArgsChanged);
     connect(m_ui.btnAnimActionPositionToBone, &QPushButton::clicked, this, &Page::OnAnimActionPositionToBone);
-}
-
-QString AnimActionPage::title() const
-{
-    return tr("Anim %1 - Key Frame Action %2 Properties")
-        .arg(QString::number(index()[0]), QString::number(index()[1]));
 }
 
 void AnimActionPage::recordShown()

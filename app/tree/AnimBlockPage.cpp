@@ -10,7 +10,7 @@
 using namespace Parts;
 
 AnimBlockPage::AnimBlockPage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent)
-    : RecordPage(document, tree, parent)
+    : RecordPage(document, tree, tr("Anim %1 Properties"), parent)
 {
     m_ui.setupUi(this);
     Questions::set(m_ui.sbAnimAnimID, {Question::Animation});
@@ -31,11 +31,6 @@ AnimBlockPage::AnimBlockPage(ModelDocument<Model> &document, const KVTreeView &t
                                  &Page::OnAnimBlockBlendStartChanged);
     bind<UC_AnimBlockBlendEnd>(m_ui.sbAnimBlendEnd, Whole, tr("Animation Blend End"),
                                &Page::OnAnimBlockBlendEndChanged);
-}
-
-QString AnimBlockPage::title() const
-{
-    return tr("Anim %1 Properties").arg(index()[0]);
 }
 
 void AnimBlockPage::recordShown()

@@ -13,8 +13,6 @@ class AnimBlockPage : public RecordPage<Records::Block>
 public:
     AnimBlockPage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent = nullptr);
 
-    QString title() const override;
-
 protected:
     void recordShown() override;
 

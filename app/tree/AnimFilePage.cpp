@@ -3,14 +3,9 @@
 #include "AnimFilePage.h"
 
 AnimFilePage::AnimFilePage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent)
-    : RecordPage(document, tree, parent)
+    : RecordPage(document, tree, tr("Animation File"), parent)
 {
     m_ui.setupUi(this);
-}
-
-QString AnimFilePage::title() const
-{
-    return tr("Animation File");
 }
 
 void AnimFilePage::recordShown()

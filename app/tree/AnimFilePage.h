@@ -13,8 +13,6 @@ class AnimFilePage : public RecordPage<Records::AnimFileRoot>
 public:
     AnimFilePage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent = nullptr);
 
-    QString title() const override;
-
 protected:
     void recordShown() override;
 

@@ -9,18 +9,13 @@
 using namespace Parts;
 
 AnimFramePage::AnimFramePage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent)
-    : RecordPage(document, tree, parent)
+    : RecordPage(document, tree, tr("Anim %1 - Frame %2 Properties"), parent)
 {
     m_ui.setupUi(this);
     m_ui.sbAnimFrameYaw->setSingleStep(0.1f);
 
     using Page = AnimFramePage;
     bind<UC_AnimFrameYaw>(m_ui.sbAnimFrameYaw, Whole, tr("Frame Yaw Offset"), &Page::OnAnimFrameYawChanged);
-}
-
-QString AnimFramePage::title() const
-{
-    return tr("Anim %1 - Frame %2 Properties").arg(QString::number(index()[0]), QString::number(index()[1]));
 }
 
 void AnimFramePage::recordShown()

@@ -13,8 +13,6 @@ class AnimFramePage : public RecordPage<Records::BlockFrame>
 public:
     AnimFramePage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent = nullptr);
 
-    QString title() const override;
-
 protected:
     void recordShown() override;
 

@@ -10,7 +10,7 @@ using namespace Parts;
 
 AnimNodePage::AnimNodePage(ModelDocument<Model> &document, const KVTreeView &tree,
                            const SkinnedMeshDocument &mesh, QWidget *parent)
-    : RecordPage(document, tree, parent)
+    : RecordPage(document, tree, tr("Anim %1 - Bone %2 Properties"), parent)
     , m_mesh(mesh)
 {
     m_ui.setupUi(this);
@@ -32,19 +32,11 @@ AnimNodePage::AnimNodePage(ModelDocument<Model> &document, const KVTreeView &tre
                                &Page::OnAnimNodeInitTransYChanged);
     bind<UC_AnimNodeInitTrans>(m_ui.sbAnimNodeInitTransZ, Z, tr("Bone Initial Translation Y"),
                                &Page::OnAnimNodeInitTransZChanged);
-    bind<UC_AnimNodeInitRot>(m_ui.sbAnimNodeInitRotX, X, tr("Bone Initial Rotation X"),
-                             &Page::OnAnimNodeInitRotXChanged);
-    bind<UC_AnimNodeInitRot>(m_ui.sbAnimNodeInitRotY, Y, tr("Bone Initial Rotation Y"),
-                             &Page::OnAnimNodeInitRotYChanged);
-    bind<UC_AnimNodeInitRot>(m_ui.sbAnimNodeInitRotZ, Z, tr("Bone Initial Rotation Z"),
-                             &Page::OnAnimNodeInitRotZChanged);
-    bind<UC_AnimNodeInitRot>(m_ui.sbAnimNodeInitRotW, W, tr("Bone Initial Rotation W"),
-                             &Page::OnAnimNodeInitRotWChanged);
-}
-
-QString AnimNodePage::title() const
-{
-    return tr("Anim %1 - Bone %2 Properties").arg(QString::number(index()[0]), QString::number(index()[1]));
+    bindVector<UC_AnimNodeInitRot, Page>(tr("Bone Initial Rotation %1"),
+                                         {{m_ui.sbAnimNodeInitRotX, &Page::OnAnimNodeInitRotXChanged},
+                                          {m_ui.sbAnimNodeInitRotY, &Page::OnAnimNodeInitRotYChanged},
+                                          {m_ui.sbAnimNodeInitRotZ, &Page::OnAnimNodeInitRotZChanged},
+                                          {m_ui.sbAnimNodeInitRotW, &Page::OnAnimNodeInitRotWChanged}});
 }
 
 void AnimNodePage::recordShown()

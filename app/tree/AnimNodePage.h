@@ -15,8 +15,6 @@ public:
     AnimNodePage(ModelDocument<Model> &document, const KVTreeView &tree, const SkinnedMeshDocument &mesh,
                  QWidget *parent = nullptr);
 
-    QString title() const override;
-
 protected:
     void recordShown() override;
 

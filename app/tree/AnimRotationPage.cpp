@@ -24,7 +24,7 @@ constexpr RotationAngle Angle;
 } // namespace
 
 AnimRotationPage::AnimRotationPage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent)
-    : RecordPage(document, tree, parent)
+    : RecordPage(document, tree, tr("Anim %1 - Rotation Track %2 - Frame %3 Properties"), parent)
 {
     m_ui.setupUi(this);
     for (FloatSpinBox *editor :
@@ -32,18 +32,13 @@ AnimRotationPage::AnimRotationPage(ModelDocument<Model> &document, const KVTreeV
         editor->setSingleStep(0.01f);
 
     using Page = AnimRotationPage;
-    bind<UC_AnimRotation>(m_ui.sbAnimRotationX, X, tr("Animation Rotation X"), &Page::OnAnimRotationXChanged);
-    bind<UC_AnimRotation>(m_ui.sbAnimRotationY, Y, tr("Animation Rotation Y"), &Page::OnAnimRotationYChanged);
-    bind<UC_AnimRotation>(m_ui.sbAnimRotationZ, Z, tr("Animation Rotation Z"), &Page::OnAnimRotationZChanged);
-    bind<UC_AnimRotation>(m_ui.sbAnimRotationW, W, tr("Animation Rotation W"), &Page::OnAnimRotationWChanged);
+    bindVector<UC_AnimRotation, Page>(tr("Animation Rotation %1"),
+                                      {{m_ui.sbAnimRotationX, &Page::OnAnimRotationXChanged},
+                                       {m_ui.sbAnimRotationY, &Page::OnAnimRotationYChanged},
+                                       {m_ui.sbAnimRotationZ, &Page::OnAnimRotationZChanged},
+                                       {m_ui.sbAnimRotationW, &Page::OnAnimRotationWChanged}});
     bind<UC_AnimRotation>(m_ui.sbAnimRotationAngle, Angle, tr("Animation Rotation Angle"),
                           &Page::OnAnimRotationAngleChanged);
-}
-
-QString AnimRotationPage::title() const
-{
-    return tr("Anim %1 - Rotation Track %2 - Frame %3 Properties")
-        .arg(QString::number(index()[0]), QString::number(index()[1]), QString::number(index()[2]));
 }
 
 void AnimRotationPage::recordShown()

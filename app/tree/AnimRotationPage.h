@@ -13,8 +13,6 @@ class AnimRotationPage : public RecordPage<Records::RotationKey>
 public:
     AnimRotationPage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent = nullptr);
 
-    QString title() const override;
-
 protected:
     void recordShown() override;
 

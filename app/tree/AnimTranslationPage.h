@@ -13,8 +13,6 @@ class AnimTranslationPage : public RecordPage<Records::TranslationKey>
 public:
     AnimTranslationPage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent = nullptr);
 
-    QString title() const override;
-
 private slots:
     void OnAnimTranslationXChanged() { commit(m_ui.sbAnimTranslationX); }
     void OnAnimTranslationYChanged() { commit(m_ui.sbAnimTranslationY); }

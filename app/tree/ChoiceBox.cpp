@@ -3,14 +3,15 @@
 #include "ChoiceBox.h"
 
 #include <QSignalBlocker>
+#include <QStylePainter>
+
+#include <algorithm>
 
 ChoiceBox::ChoiceBox(QWidget *parent)
     : QComboBox(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
-    // A long name must not widen the page; the list shows it whole.
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
-    setMinimumContentsLength(10);
     connect(this, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this](int) {
         const int chosen = currentData().toInt();
         if (chosen == m_value)
@@ -23,6 +24,12 @@ ChoiceBox::ChoiceBox(QWidget *parent)
 void ChoiceBox::setNames(const QStringList &names)
 {
     m_names = names;
+    // A very long name must not widen the page; the list shows it whole.
+    constexpr int most = 18;
+    int longest = 0;
+    for (const QString &name : names)
+        longest = std::max(longest, name.size());
+    setMinimumContentsLength(std::min(longest, most));
     fill();
 }
 
@@ -30,6 +37,19 @@ void ChoiceBox::setValue(int value)
 {
     m_value = value;
     fill();
+}
+
+void ChoiceBox::paintEvent(QPaintEvent *)
+{
+    QStylePainter painter(this);
+    painter.setPen(palette().color(QPalette::Text));
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QRect text =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideRight, text.width() - 2);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
 void ChoiceBox::fill()

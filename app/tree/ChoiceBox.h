@@ -24,6 +24,10 @@ signals:
     /// The user has chosen another value.
     void valueEdited(int value);
 
+protected:
+    /// A name that does not fit ends in an ellipsis.
+    void paintEvent(QPaintEvent *event) override;
+
 private:
     void fill();
 

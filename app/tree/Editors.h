@@ -70,7 +70,21 @@ inline void show(QCheckBox *editor, bool value)
 }
 inline void show(QLineEdit *editor, const QString &value)
 {
+    // A path that does not fit shows its start, unless the cursor is where the user works.
+    const int cursor = editor->hasFocus() ? editor->cursorPosition() : 0;
     editor->setText(value);
+    editor->setCursorPosition(cursor);
+}
+
+/// Slants what the editor shows, or not; its font is otherwise what it was.
+inline void setItalic(QWidget *editor, bool on)
+{
+    if (editor->font().italic() == on)
+        return;
+    QFont font;
+    if (on)
+        font.setItalic(true);
+    editor->setFont(font);
 }
 
 template <typename Receiver>

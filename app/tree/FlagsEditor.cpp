@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "FlagsEditor.h"
 
-#include <QCheckBox>
+#include "Editors.h"
+
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QSignalBlocker>
 
 namespace {
 constexpr int BitCount = 32;
@@ -60,6 +60,12 @@ void FlagsEditor::setValue(qint32 value)
     // Nothing listens to toggled(): clicked() is the user's alone.
     for (int bit = 0; bit < BitCount; ++bit)
         m_bits.at(bit)->setChecked((quint32(value) >> bit & 1u) != 0);
+}
+
+void FlagsEditor::markBits(qint32 bits)
+{
+    for (int bit = 0; bit < BitCount; ++bit)
+        Editors::setItalic(m_bits.at(bit), (quint32(bits) >> bit & 1u) != 0);
 }
 
 void FlagsEditor::editAll(bool on)

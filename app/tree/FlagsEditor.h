@@ -18,6 +18,8 @@ public:
     qint32 value() const;
     /// Shows a value; emits nothing.
     void setValue(qint32 value);
+    /// Shows the names of these bits in italics, those of the others upright.
+    void markBits(qint32 bits);
     /// The bits that the last edit was about: one, or all.
     qint32 editedBits() const { return m_editedBits; }
 

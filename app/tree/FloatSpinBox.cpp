@@ -124,7 +124,8 @@ QSize FloatSpinBox::sizeHint() const
 {
     QStyleOptionSpinBox option;
     initStyleOption(&option);
-    const int width = fontMetrics().horizontalAdvance(QStringLiteral("-0000.000")) + 4;
+    // All digits of an ordinary value.
+    const int width = fontMetrics().horizontalAdvance(QStringLiteral("-0.0012345678")) + 4;
     const QSize content(width, lineEdit()->sizeHint().height());
     return style()->sizeFromContents(QStyle::CT_SpinBox, &option, content, this);
 }

@@ -7,6 +7,7 @@
 
 namespace {
 constexpr int IconGap = 4;
+constexpr int TextFlags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
 // Readable on light and on dark backgrounds.
 constexpr QRgb MissingColor = qRgb(200, 80, 0);
 } // namespace
@@ -14,7 +15,9 @@ constexpr QRgb MissingColor = qRgb(200, 80, 0);
 IndexHint::IndexHint(QWidget *parent)
     : QWidget(parent)
 {
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
 }
 
 void IndexHint::setTarget(const IndexTarget &target)
@@ -38,8 +41,15 @@ QSize IndexHint::sizeHint() const
 
 QSize IndexHint::minimumSizeHint() const
 {
-    // Wide enough for the start of a name; a wider hint must not widen the page.
+    // Wide enough for any word of a name, and the same for all texts: a page that shows another record is
+    // not to change its shape.
     return {fontMetrics().averageCharWidth() * 12, fontMetrics().height() + 2};
+}
+
+int IndexHint::heightForWidth(int width) const
+{
+    const QRect place(0, 0, width - iconWidth(), QWIDGETSIZE_MAX);
+    return fontMetrics().boundingRect(place, TextFlags, m_target.text).height() + 2;
 }
 
 void IndexHint::paintEvent(QPaintEvent *)
@@ -55,6 +65,5 @@ void IndexHint::paintEvent(QPaintEvent *)
         painter.setPen(palette().color(QPalette::WindowText));
     }
     place.setLeft(iconWidth());
-    painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
-                     fontMetrics().elidedText(m_target.text, Qt::ElideRight, place.width()));
+    painter.drawText(place, TextFlags, m_target.text);
 }

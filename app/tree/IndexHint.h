@@ -13,7 +13,7 @@ struct IndexTarget
 };
 
 /// Says beside the editor of an index what the index points at, and marks one that points nowhere. Text that
-/// does not fit is elided.
+/// is too long for one line takes more of them.
 class IndexHint : public QWidget
 {
     Q_OBJECT
@@ -27,6 +27,7 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    int heightForWidth(int width) const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

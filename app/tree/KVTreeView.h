@@ -25,7 +25,6 @@ public:
     RecordRef currentRecord() const;
     /// The selected records of one kind, ascending by index.
     QVector<RecordIndex> selectedRecords(RecordKind kind) const;
-    int selectedCount(RecordKind kind) const { return selectedRecords(kind).size(); }
 
     /// The item of a record, or of the deepest of its owners that has one; null in an empty tree.
     RecordItem *findItem(const RecordRef &record) const;

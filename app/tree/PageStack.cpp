@@ -2,10 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "PageStack.h"
 
-#include <QHBoxLayout>
+#include <QEvent>
+#include <QFormLayout>
 #include <QLabel>
 #include <QScrollArea>
+#include <QStyle>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 /// How many records an edit reaches, in words; empty for one.
@@ -44,6 +48,27 @@ QString selectedText(RecordKind kind, int count)
         return {};
     }
 }
+/// Lets a field that does not fit beside its label go below it, whatever the font and the width.
+void arrangeForms(const QWidget &page)
+{
+    for (QFormLayout *form : page.findChildren<QFormLayout *>()) {
+        form->setRowWrapPolicy(QFormLayout::WrapLongRows);
+        form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+        for (int row = 0; row < form->rowCount(); ++row) {
+            QLayoutItem *captionItem = form->itemAt(row, QFormLayout::LabelRole);
+            auto *caption = captionItem ? qobject_cast<QLabel *>(captionItem->widget()) : nullptr;
+            if (!caption)
+                continue;
+            // An underlined letter is drawn without kerning, which the label's width leaves out of account.
+            if (caption->buddy())
+                caption->setMinimumWidth(caption->sizeHint().width() + caption->fontMetrics().height() / 8);
+            // What captions several lines stands at the first of them.
+            QLayoutItem *field = form->itemAt(row, QFormLayout::FieldRole);
+            if (const auto *lines = qobject_cast<QFormLayout *>(field->layout()))
+                caption->setMaximumHeight(lines->itemAt(0, QFormLayout::FieldRole)->sizeHint().height());
+        }
+    }
+}
 } // namespace
 
 PageStack::PageStack(QWidget *parent)
@@ -58,13 +83,13 @@ PageStack::PageStack(QWidget *parent)
     m_title->setFont(bold);
     m_title->setWordWrap(true);
     m_count->setObjectName(QStringLiteral("lblPageCount"));
+    m_count->setWordWrap(true);
+    m_count->hide();
 
-    auto *header = new QHBoxLayout;
-    header->addWidget(m_title, 1);
-    header->addWidget(m_count);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 6, 6, 0);
-    layout->addLayout(header);
+    layout->addWidget(m_title);
+    layout->addWidget(m_count);
     layout->addWidget(m_pages, 1);
 
     auto *empty = new QLabel(tr("Select a record in the tree to see its properties."), m_pages);
@@ -83,6 +108,7 @@ void PageStack::setTree(KVTreeView *tree)
 
 void PageStack::addPage(PropertyPage *page)
 {
+    arrangeForms(*page);
     auto *scroll = new QScrollArea(m_pages);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidgetResizable(true);
@@ -91,19 +117,46 @@ void PageStack::addPage(PropertyPage *page)
     m_pages->addWidget(scroll);
 }
 
+PropertyPage *PageStack::page(int index) const
+{
+    return static_cast<PropertyPage *>(static_cast<QScrollArea *>(m_pages->widget(index))->widget());
+}
+
+QSize PageStack::minimumSizeHint() const
+{
+    QSize size = QWidget::minimumSizeHint();
+    const QMargins margins = layout()->contentsMargins();
+    const int beside = margins.left() + margins.right() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    for (int i = 1; i < m_pages->count(); ++i)
+        size.setWidth(std::max(size.width(), page(i)->minimumSizeHint().width() + beside));
+    return size;
+}
+
+void PageStack::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange)
+        return;
+    for (int i = 1; i < m_pages->count(); ++i)
+        arrangeForms(*page(i));
+}
+
 void PageStack::showRecord(const RecordRef &record)
 {
     for (int i = 1; i < m_pages->count(); ++i) {
-        auto *page = static_cast<PropertyPage *>(static_cast<QScrollArea *>(m_pages->widget(i))->widget());
+        PropertyPage *page = this->page(i);
         if (page->kind() != record.kind)
             continue;
-        page->showRecord(record.index);
+        const QVector<RecordIndex> selected = m_tree->selectedRecords(record.kind);
+        page->showRecord(record.index, selected);
         m_title->setText(page->title());
-        m_count->setText(selectedText(record.kind, m_tree->selectedCount(record.kind)));
+        const QString count = selectedText(record.kind, selected.size());
+        m_count->setText(page->showsDifferences() ? tr("%1; values in italics differ").arg(count) : count);
+        m_count->setVisible(!count.isEmpty());
         m_pages->setCurrentIndex(i);
         return;
     }
     m_title->clear();
-    m_count->clear();
+    m_count->hide();
     m_pages->setCurrentIndex(0);
 }

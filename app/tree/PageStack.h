@@ -23,7 +23,15 @@ public:
 
     QStackedWidget *pages() const { return m_pages; }
 
+    /// Wide enough that no page has to be scrolled sideways.
+    QSize minimumSizeHint() const override;
+
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    /// One of the pages behind the empty one.
+    PropertyPage *page(int index) const;
     void showRecord(const RecordRef &record);
 
     KVTreeView *m_tree = nullptr;

@@ -9,16 +9,28 @@
 
 #include <limits>
 
-PropertyPage::PropertyPage(RecordKind kind, QWidget *parent)
+PropertyPage::PropertyPage(RecordKind kind, const QString &title, QWidget *parent)
     : QWidget(parent)
     , m_kind(kind)
+    , m_title(title)
 {}
 
-void PropertyPage::showRecord(const RecordIndex &index)
+QString PropertyPage::title() const
+{
+    QString title = m_title;
+    for (size_t i = 0; i < m_index.size(); ++i)
+        title.replace(QStringLiteral("%%1").arg(i + 1), QString::number(m_index[i]));
+    return title;
+}
+
+void PropertyPage::showRecord(const RecordIndex &index, const QVector<RecordIndex> &selected)
 {
     m_index = index;
-    for (const Binding &binding : qAsConst(m_bindings))
+    m_showsDifferences = false;
+    for (const Binding &binding : qAsConst(m_bindings)) {
         binding.show();
+        m_showsDifferences |= binding.mark(selected);
+    }
     recordShown();
 }
 

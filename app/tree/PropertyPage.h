@@ -8,6 +8,8 @@
 
 #include <QWidget>
 
+#include <algorithm>
+#include <cmath>
 #include <functional>
 
 /// The editors of one kind of record. Showing a record pushes nothing; only what the user does in an editor
@@ -17,16 +19,20 @@ class PropertyPage : public QWidget
     Q_OBJECT
 
 public:
-    PropertyPage(RecordKind kind, QWidget *parent);
+    /// `title`: with the record's indexes as %1 to %3.
+    PropertyPage(RecordKind kind, const QString &title, QWidget *parent);
 
     RecordKind kind() const { return m_kind; }
     const RecordIndex &index() const { return m_index; }
 
-    /// Fills every editor from the record, silently.
-    void showRecord(const RecordIndex &index);
+    /// Fills every editor from the record, silently. A value that is not the same in all of `selected`, which
+    /// an edit would reach too, is shown in italics.
+    void showRecord(const RecordIndex &index, const QVector<RecordIndex> &selected);
+    /// Whether any value is shown in italics.
+    bool showsDifferences() const { return m_showsDifferences; }
 
     /// "Bone 3 Properties".
-    virtual QString title() const = 0;
+    QString title() const;
 
 protected:
     /// Prepares an editor of a material path: files hold Latin-1, so nothing else can be typed.
@@ -42,6 +48,8 @@ protected:
         QWidget *editor;
         std::function<void()> show;
         std::function<void()> commit;
+        /// Marks what in the shown record is not as in all these; gives whether there is any.
+        std::function<bool(const QVector<RecordIndex> &)> mark;
     };
     void addBinding(Binding binding);
     /// Takes the value of a bound editor to the document. The whole body of a changed slot.
@@ -49,8 +57,10 @@ protected:
 
 private:
     const RecordKind m_kind;
+    const QString m_title;
     RecordIndex m_index{};
     QVector<Binding> m_bindings;
+    bool m_showsDifferences = false;
 };
 
 /// A page of the records of one kind (`RecordType` is one of Records).
@@ -60,8 +70,8 @@ class RecordPage : public PropertyPage
 public:
     using Model = typename RecordType::Model;
 
-    RecordPage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent)
-        : PropertyPage(RecordType::kind, parent)
+    RecordPage(ModelDocument<Model> &document, const KVTreeView &tree, const QString &title, QWidget *parent)
+        : PropertyPage(RecordType::kind, title, parent)
         , m_document(document)
         , m_tree(tree)
     {}
@@ -87,8 +97,22 @@ protected:
         const auto commitEdit = [this, editor, part, macroText] {
             commitEditor<Command>(editor, part, macroText);
         };
-        addBinding({editor, show, commitEdit});
+        const auto mark = [this, editor, part](const QVector<RecordIndex> &others) {
+            return markEditor<Command>(editor, part, others);
+        };
+        addBinding({editor, show, commitEdit, mark});
         Editors::onEdited(editor, static_cast<Page *>(this), slot);
+    }
+
+    /// The rows of a vector's components, in their order; the axis is %1 in the name of the undo step.
+    template <typename Command, typename Page>
+    void bindVector(const QString &macroText, const QVector<QPair<FloatSpinBox *, void (Page::*)()>> &rows)
+    {
+        for (int i = 0; i < rows.size(); ++i) {
+            const QString axis(QLatin1Char("XYZW"[i]));
+            bind<Command>(rows[i].first, Parts::Component{i},
+                          QString(macroText).replace(QLatin1String("%1"), axis), rows[i].second);
+        }
     }
 
     /// Sets a part of a field in every selected record of the kind, as one undo step, if it differs from
@@ -121,6 +145,42 @@ protected:
     }
 
 private:
+    template <typename Command, typename Editor, typename Part>
+    bool markEditor(Editor *editor, const Part &part, const QVector<RecordIndex> &others)
+    {
+        const auto *shown = record();
+        const bool differs =
+            shown && std::any_of(others.begin(), others.end(), [&](const RecordIndex &other) {
+                const auto *record = RecordType::find(m_document.model(), other);
+                return record &&
+                       !isSame(part.get(Command::Field::get(*record)), part.get(Command::Field::get(*shown)));
+            });
+        Editors::setItalic(editor, differs);
+        return differs;
+    }
+    /// Each flag by itself.
+    template <typename Command, typename Part>
+    bool markEditor(FlagsEditor *editor, const Part &part, const QVector<RecordIndex> &others)
+    {
+        qint32 bits = 0;
+        for (const RecordIndex &other : others) {
+            if (const auto *record = RecordType::find(m_document.model(), other))
+                bits |= part.get(Command::Field::get(*record)) ^ editor->value();
+        }
+        editor->markBits(bits);
+        return bits != 0;
+    }
+
+    template <typename Value>
+    static bool isSame(const Value &a, const Value &b)
+    {
+        if constexpr (std::is_floating_point_v<Value>) {
+            if (std::isnan(a) && std::isnan(b))
+                return true;
+        }
+        return a == b;
+    }
+
     template <typename Command, typename Editor, typename Part>
     void commitEditor(const Editor *editor, const Part &part, const QString &macroText)
     {

@@ -14,13 +14,10 @@
 #include "SkinnedMeshHPPage.h"
 #include "SkinnedMeshNodePage.h"
 #include "SkinnedMeshPage.h"
-#include "SkinnedMeshSurfacePage.h"
-#include "SkinnedMeshTriIndexPage.h"
-#include "SkinnedMeshVertPage.h"
 #include "StaticMeshPage.h"
-#include "StaticMeshSurfacePage.h"
-#include "StaticMeshTriIndexPage.h"
-#include "StaticMeshVertPage.h"
+#include "SurfacePage.h"
+#include "TriIndexPage.h"
+#include "VertPage.h"
 
 namespace {
 template <typename Page, typename... Arguments>

@@ -9,18 +9,12 @@ using namespace Parts;
 
 SkinnedMeshCnodePage::SkinnedMeshCnodePage(ModelDocument<Model> &document, const KVTreeView &tree,
                                            QWidget *parent)
-    : RecordPage(document, tree, parent)
+    : RecordPage(document, tree, tr("Bone %1 - Child Bone Index %2 Properties"), parent)
 {
     m_ui.setupUi(this);
 
     using Page = SkinnedMeshCnodePage;
     bind<UC_SkinnedMeshCnode>(m_ui.sbCNIIndex, Whole, tr("Child Bone Index"), &Page::OnSkinMeshCnodeChanged);
-}
-
-QString SkinnedMeshCnodePage::title() const
-{
-    return tr("Bone %1 - Child Bone Index %2 Properties")
-        .arg(QString::number(index()[0]), QString::number(index()[1]));
 }
 
 void SkinnedMeshCnodePage::recordShown()

@@ -13,8 +13,6 @@ class SkinnedMeshCnodePage : public RecordPage<Records::ChildBone>
 public:
     SkinnedMeshCnodePage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent = nullptr);
 
-    QString title() const override;
-
 protected:
     void recordShown() override;
 

@@ -24,18 +24,16 @@ constexpr DamageMark DealDamage;
 } // namespace
 
 SkinnedMeshHPPage::SkinnedMeshHPPage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent)
-    : RecordPage(document, tree, parent)
+    : RecordPage(document, tree, tr("Hot Point %1 Properties"), parent)
 {
     m_ui.setupUi(this);
     Questions::set(m_ui.sbHPEffect1, {Question::Particle});
 
     using Page = SkinnedMeshHPPage;
-    bind<UC_SkinnedMeshHPOrigin>(m_ui.sbHPOriginX, X, tr("Hot Point Origin X"),
-                                 &Page::OnSkinMeshHPOriginXChanged);
-    bind<UC_SkinnedMeshHPOrigin>(m_ui.sbHPOriginY, Y, tr("Hot Point Origin Y"),
-                                 &Page::OnSkinMeshHPOriginYChanged);
-    bind<UC_SkinnedMeshHPOrigin>(m_ui.sbHPOriginZ, Z, tr("Hot Point Origin Z"),
-                                 &Page::OnSkinMeshHPOriginZChanged);
+    bindVector<UC_SkinnedMeshHPOrigin, Page>(tr("Hot Point Origin %1"),
+                                             {{m_ui.sbHPOriginX, &Page::OnSkinMeshHPOriginXChanged},
+                                              {m_ui.sbHPOriginY, &Page::OnSkinMeshHPOriginYChanged},
+                                              {m_ui.sbHPOriginZ, &Page::OnSkinMeshHPOriginZChanged}});
     bind<UC_SkinnedMeshHPNodeID>(m_ui.sbHPNodeID, Whole, tr("Hot Point BoneID"),
                                  &Page::OnSkinMeshHPNodeIDChanged);
     bind<UC_SkinnedMeshHPEffect>(m_ui.cbHPDealDamage, DealDamage, tr("Hot Point Particle Effect 1"),
@@ -45,11 +43,6 @@ SkinnedMeshHPPage::SkinnedMeshHPPage(ModelDocument<Model> &document, const KVTre
     bind<UC_SkinnedMeshHPEffect>(m_ui.sbHPEffect2, Effect2, tr("Hot Point Particle Effect 2"),
                                  &Page::OnSkinMeshHPEffect2Changed);
     bind<UC_SkinnedMeshHPFlags>(m_ui.flagsHP, Whole, tr("Hot Point Flags"), &Page::OnSkinMeshHPFlagsChanged);
-}
-
-QString SkinnedMeshHPPage::title() const
-{
-    return tr("Hot Point %1 Properties").arg(index()[0]);
 }
 
 void SkinnedMeshHPPage::recordShown()

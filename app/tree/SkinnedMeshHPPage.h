@@ -13,8 +13,6 @@ class SkinnedMeshHPPage : public RecordPage<Records::HotPoint>
 public:
     SkinnedMeshHPPage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent = nullptr);
 
-    QString title() const override;
-
 protected:
     void recordShown() override;
 

@@ -17,7 +17,7 @@ constexpr Bits SymbolPart{6, 2};
 
 SkinnedMeshNodePage::SkinnedMeshNodePage(ModelDocument<Model> &document, const KVTreeView &tree,
                                          QWidget *parent)
-    : RecordPage(document, tree, parent)
+    : RecordPage(document, tree, tr("Bone %1 Properties"), parent)
 {
     m_ui.setupUi(this);
     m_ui.cbNodeSymbolType->setNames(boneTypeNames());
@@ -38,24 +38,15 @@ SkinnedMeshNodePage::SkinnedMeshNodePage(ModelDocument<Model> &document, const K
                                        &Page::OnSkinMeshNodeImpactTypeChanged);
     bind<UC_SkinnedMeshNodeDamageScale>(m_ui.sbNodeDamageScale, Whole, tr("Bone Damage Scale"),
                                         &Page::OnSkinMeshNodeDamageScaleChanged);
-    bind<UC_SkinnedMeshNodeBBMin>(m_ui.sbNodeBBMinX, X, tr("Bone Bounding Box Min X"),
-                                  &Page::OnSkinMeshNodeBBMinXChanged);
-    bind<UC_SkinnedMeshNodeBBMin>(m_ui.sbNodeBBMinY, Y, tr("Bone Bounding Box Min Y"),
-                                  &Page::OnSkinMeshNodeBBMinYChanged);
-    bind<UC_SkinnedMeshNodeBBMin>(m_ui.sbNodeBBMinZ, Z, tr("Bone Bounding Box Min Z"),
-                                  &Page::OnSkinMeshNodeBBMinZChanged);
-    bind<UC_SkinnedMeshNodeBBMax>(m_ui.sbNodeBBMaxX, X, tr("Bone Bounding Box Max X"),
-                                  &Page::OnSkinMeshNodeBBMaxXChanged);
-    bind<UC_SkinnedMeshNodeBBMax>(m_ui.sbNodeBBMaxY, Y, tr("Bone Bounding Box Max Y"),
-                                  &Page::OnSkinMeshNodeBBMaxYChanged);
-    bind<UC_SkinnedMeshNodeBBMax>(m_ui.sbNodeBBMaxZ, Z, tr("Bone Bounding Box Max Z"),
-                                  &Page::OnSkinMeshNodeBBMaxZChanged);
+    bindVector<UC_SkinnedMeshNodeBBMin, Page>(tr("Bone Bounding Box Min %1"),
+                                              {{m_ui.sbNodeBBMinX, &Page::OnSkinMeshNodeBBMinXChanged},
+                                               {m_ui.sbNodeBBMinY, &Page::OnSkinMeshNodeBBMinYChanged},
+                                               {m_ui.sbNodeBBMinZ, &Page::OnSkinMeshNodeBBMinZChanged}});
+    bindVector<UC_SkinnedMeshNodeBBMax, Page>(tr("Bone Bounding Box Max %1"),
+                                              {{m_ui.sbNodeBBMaxX, &Page::OnSkinMeshNodeBBMaxXChanged},
+                                               {m_ui.sbNodeBBMaxY, &Page::OnSkinMeshNodeBBMaxYChanged},
+                                               {m_ui.sbNodeBBMaxZ, &Page::OnSkinMeshNodeBBMaxZChanged}});
     bind<UC_SkinnedMeshNodeFlags>(m_ui.flagsNode, Whole, tr("Bone Flags"), &Page::OnSkinMeshNodeFlagsChanged);
-}
-
-QString SkinnedMeshNodePage::title() const
-{
-    return tr("Bone %1 Properties").arg(index()[0]);
 }
 
 void SkinnedMeshNodePage::recordShown()

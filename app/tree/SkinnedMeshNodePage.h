@@ -13,8 +13,6 @@ class SkinnedMeshNodePage : public RecordPage<Records::Bone>
 public:
     SkinnedMeshNodePage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent = nullptr);
 
-    QString title() const override;
-
 protected:
     void recordShown() override;
 

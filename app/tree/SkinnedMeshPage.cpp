@@ -8,25 +8,20 @@
 using namespace Parts;
 
 SkinnedMeshPage::SkinnedMeshPage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent)
-    : RecordPage(document, tree, parent)
+    : RecordPage(document, tree, tr("Skinned Mesh"), parent)
 {
     m_ui.setupUi(this);
 
     using Page = SkinnedMeshPage;
-    bind<UC_SkinnedMeshBBMin>(m_ui.sbSMBBMinX, X, {}, &Page::OnSkinMeshBBMinXChanged);
-    bind<UC_SkinnedMeshBBMin>(m_ui.sbSMBBMinY, Y, {}, &Page::OnSkinMeshBBMinYChanged);
-    bind<UC_SkinnedMeshBBMin>(m_ui.sbSMBBMinZ, Z, {}, &Page::OnSkinMeshBBMinZChanged);
-    bind<UC_SkinnedMeshBBMax>(m_ui.sbSMBBMaxX, X, {}, &Page::OnSkinMeshBBMaxXChanged);
-    bind<UC_SkinnedMeshBBMax>(m_ui.sbSMBBMaxY, Y, {}, &Page::OnSkinMeshBBMaxYChanged);
-    bind<UC_SkinnedMeshBBMax>(m_ui.sbSMBBMaxZ, Z, {}, &Page::OnSkinMeshBBMaxZChanged);
+    bindVector<UC_SkinnedMeshBBMin, Page>({}, {{m_ui.sbSMBBMinX, &Page::OnSkinMeshBBMinXChanged},
+                                               {m_ui.sbSMBBMinY, &Page::OnSkinMeshBBMinYChanged},
+                                               {m_ui.sbSMBBMinZ, &Page::OnSkinMeshBBMinZChanged}});
+    bindVector<UC_SkinnedMeshBBMax, Page>({}, {{m_ui.sbSMBBMaxX, &Page::OnSkinMeshBBMaxXChanged},
+                                               {m_ui.sbSMBBMaxY, &Page::OnSkinMeshBBMaxYChanged},
+                                               {m_ui.sbSMBBMaxZ, &Page::OnSkinMeshBBMaxZChanged}});
     bind<UC_SkinnedMeshHTStart>(m_ui.sbSMHTStart, Whole, {}, &Page::OnSkinMeshHTStartChanged);
     bind<UC_SkinnedMeshHTEnd>(m_ui.sbSMHTEnd, Whole, {}, &Page::OnSkinMeshHTEndChanged);
     bind<UC_SkinnedMeshHTFactor>(m_ui.sbSMHTFactor, Whole, {}, &Page::OnSkinMeshHTFactorChanged);
-}
-
-QString SkinnedMeshPage::title() const
-{
-    return tr("Skinned Mesh");
 }
 
 void SkinnedMeshPage::recordShown()

@@ -13,8 +13,6 @@ class SkinnedMeshPage : public RecordPage<Records::SkinnedMeshRoot>
 public:
     SkinnedMeshPage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent = nullptr);
 
-    QString title() const override;
-
 protected:
     void recordShown() override;
 

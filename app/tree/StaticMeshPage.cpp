@@ -7,22 +7,17 @@
 using namespace Parts;
 
 StaticMeshPage::StaticMeshPage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent)
-    : RecordPage(document, tree, parent)
+    : RecordPage(document, tree, tr("Static Mesh"), parent)
 {
     m_ui.setupUi(this);
 
     using Page = StaticMeshPage;
-    bind<UC_StaticMeshBBMin>(m_ui.sbSTBBMinX, X, {}, &Page::OnStaticMeshBBMinXChanged);
-    bind<UC_StaticMeshBBMin>(m_ui.sbSTBBMinY, Y, {}, &Page::OnStaticMeshBBMinYChanged);
-    bind<UC_StaticMeshBBMin>(m_ui.sbSTBBMinZ, Z, {}, &Page::OnStaticMeshBBMinZChanged);
-    bind<UC_StaticMeshBBMax>(m_ui.sbSTBBMaxX, X, {}, &Page::OnStaticMeshBBMaxXChanged);
-    bind<UC_StaticMeshBBMax>(m_ui.sbSTBBMaxY, Y, {}, &Page::OnStaticMeshBBMaxYChanged);
-    bind<UC_StaticMeshBBMax>(m_ui.sbSTBBMaxZ, Z, {}, &Page::OnStaticMeshBBMaxZChanged);
-}
-
-QString StaticMeshPage::title() const
-{
-    return tr("Static Mesh");
+    bindVector<UC_StaticMeshBBMin, Page>({}, {{m_ui.sbSTBBMinX, &Page::OnStaticMeshBBMinXChanged},
+                                              {m_ui.sbSTBBMinY, &Page::OnStaticMeshBBMinYChanged},
+                                              {m_ui.sbSTBBMinZ, &Page::OnStaticMeshBBMinZChanged}});
+    bindVector<UC_StaticMeshBBMax, Page>({}, {{m_ui.sbSTBBMaxX, &Page::OnStaticMeshBBMaxXChanged},
+                                              {m_ui.sbSTBBMaxY, &Page::OnStaticMeshBBMaxYChanged},
+                                              {m_ui.sbSTBBMaxZ, &Page::OnStaticMeshBBMaxZChanged}});
 }
 
 void StaticMeshPage::recordShown()

@@ -13,8 +13,6 @@ class StaticMeshPage : public RecordPage<Records::StaticMeshRoot>
 public:
     StaticMeshPage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent = nullptr);
 
-    QString title() const override;
-
 protected:
     void recordShown() override;
 

@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "StructureActions.h"
 
+#include "AnimCommands.h"
 #include "ChangeSizeDialog.h"
 #include "KVTreeView.h"
 #include "RecordItem.h"
 #include "RecordTable.h"
-#include "StructureCommands.h"
+#include "SkinnedMeshCommands.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -273,6 +274,17 @@ void StructureActions::remove(const Shown<DocumentType> &shown)
     stack->endMacro();
 }
 
+template <typename RecordType, typename DocumentType>
+void StructureActions::copy(const Shown<DocumentType> &shown,
+                            std::optional<typename RecordType::Record> &buffer, const TreeMenu &menu)
+{
+    const RecordRef current = shown.tree->currentRecord();
+    if (current.kind != RecordType::kind)
+        return;
+    buffer = *RecordType::find(shown.document.model(), current.index);
+    updateMenu(menu);
+}
+
 void StructureActions::OnActionAddHotPoint()
 {
     insert<UC_SkinnedMeshAddHotPoint>(m_skinnedMesh, RecordKind::HotPoints, {});
@@ -285,11 +297,7 @@ void StructureActions::OnActionRemoveHotPoint()
 
 void StructureActions::OnActionCopyHotPoint()
 {
-    const RecordRef current = m_skinnedMesh.tree->currentRecord();
-    if (current.kind != RecordKind::HotPoint)
-        return;
-    m_copiedHotPoint = *Records::HotPoint::find(m_skinnedMesh.document.model(), current.index);
-    updateMenu(m_menus[0]);
+    copy<Records::HotPoint>(m_skinnedMesh, m_copiedHotPoint, m_menus[0]);
 }
 
 void StructureActions::OnActionPasteHotPoint()
@@ -311,11 +319,7 @@ void StructureActions::OnActionRemoveAnimBlock()
 
 void StructureActions::OnActionCopyAnimBlock()
 {
-    const RecordRef current = m_anim.tree->currentRecord();
-    if (current.kind != RecordKind::AnimBlock)
-        return;
-    m_copiedBlock = *Records::Block::find(m_anim.document.model(), current.index);
-    updateMenu(m_menus[1]);
+    copy<Records::Block>(m_anim, m_copiedBlock, m_menus[1]);
 }
 
 void StructureActions::OnActionPasteAnimBlock()

@@ -86,6 +86,9 @@ private:
     void insert(const Shown<DocumentType> &shown, RecordKind group, typename Command::Record record);
     template <typename Command, typename DocumentType>
     void remove(const Shown<DocumentType> &shown);
+    template <typename RecordType, typename DocumentType>
+    void copy(const Shown<DocumentType> &shown, std::optional<typename RecordType::Record> &buffer,
+              const TreeMenu &menu);
     void editCount(RecordKind group, const QString &title, int least, void (AnimBlock::*resize)(int));
 
     Shown<SkinnedMeshDocument> m_skinnedMesh;

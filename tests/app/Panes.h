@@ -6,6 +6,7 @@
 #include "FloatSpinBox.h"
 #include "PageStack.h"
 #include "PropertyPages.h"
+#include "SampleModels.h"
 #include "TestSupport.h"
 
 #include <QCheckBox>
@@ -54,11 +55,7 @@ struct Pane
             qFatal("%s is missing", name);
         return found;
     }
-    QByteArray bytes() const
-    {
-        const QString path = home.filePath(QStringLiteral("bytes"));
-        return document.model().write(path) ? QByteArray() : TestSupport::readFile(path);
-    }
+    QByteArray bytes() const { return SampleModels::bytesOf(document.model()); }
     QUndoStack &undo() { return *document.undoStack(); }
 
     QTemporaryDir home;
@@ -74,6 +71,17 @@ struct Panes
         addPages(mesh.stack, mesh.document, mesh.tree);
         addPages(anim.stack, anim.document, anim.tree, mesh.document);
         addPages(rigid.stack, rigid.document, rigid.tree);
+    }
+
+    template <typename Model>
+    Pane<Model> &of()
+    {
+        if constexpr (std::is_same_v<Model, SkinnedMesh>)
+            return mesh;
+        else if constexpr (std::is_same_v<Model, AnimFile>)
+            return anim;
+        else
+            return rigid;
     }
 
     Pane<SkinnedMesh> mesh{DocumentType::SkinnedMesh, RecordKind::SkinnedMesh};

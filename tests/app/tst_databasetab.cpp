@@ -283,17 +283,18 @@ void tst_DatabaseTab::questions()
     QFETCH(QString, key);
     QFETCH(QStringList, answer);
     QWidget window;
-    QuestionMenu menu(*m_tab, &window);
     auto *whole = new QSpinBox(&window);
     auto *real = new QDoubleSpinBox(&window);
     auto *single = new FloatSpinBox(&window);
     whole->setValue(4);
     real->setValue(4.5);
     single->setValue(4.25f);
-    window.show();
-    for (QWidget *editor :
-         {static_cast<QWidget *>(whole), static_cast<QWidget *>(real), static_cast<QWidget *>(single)}) {
+    const QList<QWidget *> editors{whole, real, single};
+    for (QWidget *editor : editors)
         editor->setProperty(Questions::Property, QStringList{key, "damage"});
+    QuestionMenu menu(*m_tab, &window);
+    window.show();
+    for (QWidget *editor : editors) {
         QCOMPARE(ask(editor, 0), answer);
         QCOMPARE(ask(editor, 1).mid(0, 2), QStringList({"How much damage is this?", "Actual Damage"}));
     }

@@ -308,30 +308,17 @@ void tst_FolderExplorer::findMatching_data()
     QTest::addColumn<QString>("folder");
     QTest::addColumn<QString>("baseName");
     QTest::addColumn<QString>("match");
-    QTest::newRow("both names") << "Raptor"
-                                << "RAPTOR"
-                                << "anims/raptor/raptor.anim";
-    QTest::newRow("both names, others of that name elsewhere") << "b"
-                                                               << "same"
-                                                               << "b/same.anim";
-    QTest::newRow("only one of that name") << "nowhere"
-                                           << "unique"
-                                           << "b/unique.anim";
-    QTest::newRow("several of that name") << "nowhere"
-                                          << "same"
-                                          << "";
-    QTest::newRow("the folder's only file") << "single"
-                                            << "mesh"
-                                            << "single/walk.anim";
-    QTest::newRow("folder with several files") << "b"
-                                               << "mesh"
-                                               << "";
-    QTest::newRow("several folders of that name") << "twice"
-                                                  << "mesh"
-                                                  << "";
-    QTest::newRow("none") << "nowhere"
-                          << "nothing"
-                          << "";
+    const auto add = [](const char *name, const char *folder, const char *baseName, const char *match) {
+        QTest::newRow(name) << folder << baseName << match;
+    };
+    add("both names", "Raptor", "RAPTOR", "anims/raptor/raptor.anim");
+    add("both names, others of that name elsewhere", "b", "same", "b/same.anim");
+    add("only one of that name", "nowhere", "unique", "b/unique.anim");
+    add("several of that name", "nowhere", "same", "");
+    add("the folder's only file", "single", "mesh", "single/walk.anim");
+    add("folder with several files", "b", "mesh", "");
+    add("several folders of that name", "twice", "mesh", "");
+    add("none", "nowhere", "nothing", "");
 }
 
 void tst_FolderExplorer::findMatching()

@@ -10,7 +10,6 @@
 #include "TestSupport.h"
 
 #include <QAction>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QDirIterator>
 #include <QDockWidget>
@@ -18,7 +17,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QSpinBox>
@@ -43,7 +41,6 @@ private slots:
     void editUndoSave();
     void typingIsSavedToo();
     void aModifiedDocumentGoesWithTheWindow();
-    void aFlagSwitchKeepsTheOtherFlags();
     void aFailedOpenKeepsTheDocument();
     void aFailedSaveKeepsFileAndMark();
     void theExplorerAsksAboutUnsavedChanges();
@@ -207,33 +204,6 @@ void tst_MainWindow::aModifiedDocumentGoesWithTheWindow()
     select(window, "treeAnim", {RecordKind::AnimBlock, {1, 0, 0}});
     type(find<QSpinBox>(window, "sbAnimLoopFrame"), QStringLiteral("7"));
     QVERIFY(find<QAction>(window, "actionUndo")->isEnabled());
-}
-
-void tst_MainWindow::aFlagSwitchKeepsTheOtherFlags()
-{
-    SkinnedMesh mesh = triangleMan();
-    mesh.nodes[0].flags = 0x10;
-    mesh.nodes[1].flags = 0x21;
-    const QString path = write(QStringLiteral("man.skinnedmesh"), mesh);
-    MainWindow window;
-    window.show();
-    window.openFiles({path});
-    find<KVTreeView>(window, "treeSkinnedMesh")
-        ->selectRecords({{RecordKind::Bone, {0, 0, 0}}, {RecordKind::Bone, {1, 0, 0}}},
-                        {RecordKind::Bone, {0, 0, 0}});
-    auto *flags = find<QWidget>(window, "flagsNode");
-    const auto flagsInFile = [&window, &path] {
-        find<QAction>(window, "actionSave")->trigger();
-        SkinnedMesh saved;
-        return saved.read(path) ? QVector<qint32>()
-                                : QVector<qint32>({saved.nodes[0].flags, saved.nodes[1].flags});
-    };
-    flags->findChild<QCheckBox *>(QStringLiteral("cbBit0"))->click();
-    QCOMPARE(flagsInFile(), QVector<qint32>({0x11, 0x21}));
-    flags->findChild<QPushButton *>(QStringLiteral("btnFlagsNone"))->click();
-    QCOMPARE(flagsInFile(), QVector<qint32>({0, 0}));
-    find<QAction>(window, "actionUndo")->trigger();
-    QCOMPARE(flagsInFile(), QVector<qint32>({0x11, 0x21}));
 }
 
 void tst_MainWindow::aFailedOpenKeepsTheDocument()

@@ -3,7 +3,6 @@
 #include "ModelTransforms.h"
 #include "SampleModels.h"
 #include "TestSupport.h"
-#include "TransformCommands.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -25,7 +24,6 @@ private slots:
     void apply();
     void anglesApplyOneAfterAnother();
     void tinyAnglesCount();
-    void undoGivesBackEveryByte();
     void onlyMeshesAreTurned();
 
 private:
@@ -196,27 +194,6 @@ void tst_RotateScale::tinyAnglesCount()
     expected.rotate(0.0f, 1.0e-7f, 0.0f);
     m_transforms->rotate(0.0f, 0.0f, 1.0e-7f);
     QCOMPARE(bytesOf(m_static->model()), bytesOf(expected));
-}
-
-void tst_RotateScale::undoGivesBackEveryByte()
-{
-    m_current = m_skinned.get();
-    const QByteArray before = bytesOf(m_skinned->model());
-    QVector<RecordRef> changed;
-    connect(m_skinned.get(), &Document::recordsChanged, this,
-            [&changed](const QVector<RecordRef> &records) { changed += records; });
-    // Beyond what floats can hold.
-    for (int i = 0; i < 10; ++i)
-        m_transforms->scale(1.0e6f);
-    m_transforms->rotate(1.0f, 2.0f, 3.0f);
-    // One notice a step, for the whole model.
-    QCOMPARE(changed, QVector<RecordRef>(11, RecordRef{RecordKind::SkinnedMesh, {}}));
-    const QByteArray after = bytesOf(m_skinned->model());
-    m_skinned->disconnect(this);
-    m_skinned->undoStack()->setIndex(0);
-    QCOMPARE(bytesOf(m_skinned->model()), before);
-    m_skinned->undoStack()->setIndex(11);
-    QCOMPARE(bytesOf(m_skinned->model()), after);
 }
 
 void tst_RotateScale::onlyMeshesAreTurned()

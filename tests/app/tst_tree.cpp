@@ -11,12 +11,32 @@ constexpr RecordIndex at(int a = 0, int b = 0, int c = 0)
     return {a, b, c};
 }
 
+/// A document opened in a tree.
 template <typename Model>
-QString write(const QTemporaryDir &home, const QString &name, const Model &model)
+struct Opened
 {
-    const QString path = home.filePath(name);
-    return model.write(path) ? QString() : path;
-}
+    Opened(const Model &model, DocumentType type, RecordKind root, const QString &name)
+        : document(type, root)
+    {
+        const QTemporaryDir home;
+        const QString path = home.filePath(name);
+        QString reason;
+        tree.setDocument(&document);
+        if (model.write(path) || document.open(path, &reason))
+            qFatal("%s", qPrintable(reason));
+    }
+    const QTreeWidgetItem *root() const { return tree.topLevelItem(0); }
+
+    ModelDocument<Model> document;
+    KVTreeView tree;
+};
+
+struct OpenedMesh : Opened<SkinnedMesh>
+{
+    explicit OpenedMesh(const SkinnedMesh &mesh)
+        : Opened(mesh, DocumentType::SkinnedMesh, RecordKind::SkinnedMesh, QStringLiteral("a.b.skinnedmesh"))
+    {}
+};
 
 /// The texts of an item's children.
 QStringList texts(const QTreeWidgetItem *item)
@@ -71,14 +91,10 @@ void tst_Tree::skinnedMesh()
 {
     QFETCH(bool, hidden);
     Settings::HideMeshData.setValue(hidden);
-    SkinnedMeshDocument document(DocumentType::SkinnedMesh, RecordKind::SkinnedMesh);
-    KVTreeView tree;
-    tree.setDocument(&document);
-    QString reason;
-    QVERIFY(!document.open(write(m_home, QStringLiteral("a.b.skinnedmesh"), m_mesh), &reason));
-
+    const OpenedMesh opened(m_mesh);
+    const KVTreeView &tree = opened.tree;
     QCOMPARE(tree.topLevelItemCount(), 1);
-    QTreeWidgetItem *root = tree.topLevelItem(0);
+    const QTreeWidgetItem *root = opened.root();
     QCOMPARE(root->text(0), QStringLiteral("a.b.skinnedmesh"));
     QVERIFY(root->isExpanded());
     QCOMPARE(tree.currentItem(), root);
@@ -118,13 +134,8 @@ void tst_Tree::animation()
     file.blocks[1].setRotationCount(1);
     file.blocks[1].setFrameCount(3);
     file.blocks[1].actions.resize(2);
-    AnimDocument document(DocumentType::Anim, RecordKind::AnimFile);
-    KVTreeView tree;
-    tree.setDocument(&document);
-    QString reason;
-    QVERIFY(!document.open(write(m_home, QStringLiteral("a.anim"), file), &reason));
-
-    const QTreeWidgetItem *root = tree.topLevelItem(0);
+    const Opened<AnimFile> opened(file, DocumentType::Anim, RecordKind::AnimFile, QStringLiteral("a.anim"));
+    const QTreeWidgetItem *root = opened.root();
     QCOMPARE(texts(root), QStringList({"Anim 0", "Anim 1"}));
     const QTreeWidgetItem *block = root->child(1);
     QCOMPARE(texts(block), QStringList({"Bones (2)", "Frames (3)", "Translations (2)", "Rotations (1)",
@@ -145,12 +156,9 @@ void tst_Tree::staticMesh()
     StaticMesh mesh;
     mesh.surfaces = {{QStringLiteral("m/a/b"), {0, 2, 1}}};
     mesh.vertices.resize(3);
-    StaticMeshDocument document(DocumentType::StaticMesh, RecordKind::StaticMesh);
-    KVTreeView tree;
-    tree.setDocument(&document);
-    QString reason;
-    QVERIFY(!document.open(write(m_home, QStringLiteral("a.staticmesh"), mesh), &reason));
-    const QTreeWidgetItem *root = tree.topLevelItem(0);
+    const Opened<StaticMesh> opened(mesh, DocumentType::StaticMesh, RecordKind::StaticMesh,
+                                    QStringLiteral("a.staticmesh"));
+    const QTreeWidgetItem *root = opened.root();
     QCOMPARE(texts(root), QStringList({"Surfaces (1)", "Vertices (3)"}));
     QCOMPARE(texts(root->child(0)->child(0)->child(0)), QStringList({"0", "2", "1"}));
 }
@@ -158,11 +166,8 @@ void tst_Tree::staticMesh()
 void tst_Tree::everyItemIsFoundByItsRecord()
 {
     Settings::HideMeshData.setValue(false);
-    SkinnedMeshDocument document(DocumentType::SkinnedMesh, RecordKind::SkinnedMesh);
-    KVTreeView tree;
-    tree.setDocument(&document);
-    QString reason;
-    QVERIFY(!document.open(write(m_home, QStringLiteral("a.skinnedmesh"), m_mesh), &reason));
+    OpenedMesh opened(m_mesh);
+    KVTreeView &tree = opened.tree;
     int count = 0;
     for (QTreeWidgetItemIterator it(&tree); *it; ++it, ++count)
         QCOMPARE(tree.findItem(static_cast<RecordItem *>(*it)->record()), *it);
@@ -173,11 +178,8 @@ void tst_Tree::everyItemIsFoundByItsRecord()
 void tst_Tree::anEditOfTheSelectionKeepsIt()
 {
     Settings::HideMeshData.setValue(false);
-    SkinnedMeshDocument document(DocumentType::SkinnedMesh, RecordKind::SkinnedMesh);
-    KVTreeView tree;
-    tree.setDocument(&document);
-    QString reason;
-    QVERIFY(!document.open(write(m_home, QStringLiteral("a.skinnedmesh"), m_mesh), &reason));
+    OpenedMesh opened(m_mesh);
+    KVTreeView &tree = opened.tree;
     const QVector<RecordRef> vertices{{RecordKind::SkinnedVertex, at(0)},
                                       {RecordKind::SkinnedVertex, at(1)},
                                       {RecordKind::SkinnedVertex, at(3)}};
@@ -187,19 +189,16 @@ void tst_Tree::anEditOfTheSelectionKeepsIt()
 
     int shown = 0;
     connect(&tree, &KVTreeView::currentRecordChanged, this, [&shown] { ++shown; });
-    emit document.recordsChanged(vertices);
+    emit opened.document.recordsChanged(vertices);
     QCOMPARE(tree.selectedRecords(RecordKind::SkinnedVertex).size(), 3);
     QCOMPARE(shown, 1);
 }
 
 void tst_Tree::aChangeElsewhereIsSelected()
 {
-    SkinnedMeshDocument document(DocumentType::SkinnedMesh, RecordKind::SkinnedMesh);
-    KVTreeView tree;
-    tree.setDocument(&document);
-    QString reason;
-    QVERIFY(!document.open(write(m_home, QStringLiteral("a.skinnedmesh"), m_mesh), &reason));
-    emit document.recordsChanged({{RecordKind::Bone, at(2)}, {RecordKind::Bone, at(1)}});
+    OpenedMesh opened(m_mesh);
+    KVTreeView &tree = opened.tree;
+    emit opened.document.recordsChanged({{RecordKind::Bone, at(2)}, {RecordKind::Bone, at(1)}});
     QCOMPARE(tree.selectedRecords(RecordKind::Bone), QVector<RecordIndex>({at(1), at(2)}));
     // The one that single steps would have ended with.
     QCOMPARE(tree.currentRecord(), (RecordRef{RecordKind::Bone, at(1)}));

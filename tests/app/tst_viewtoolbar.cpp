@@ -19,8 +19,7 @@ private slots:
     void positions_data();
     void positions();
     void showsStoredValuesAndWritesNone();
-    void settersAreSilent();
-    void saysWhatTheUserMoved();
+    void saysOnlyWhatTheUserMoved();
 
 private:
     std::unique_ptr<ViewToolBar> createBar()
@@ -80,22 +79,7 @@ void tst_ViewToolBar::showsStoredValuesAndWritesNone()
     QCOMPARE(ViewToolBar::brightness(4), 2.0f);
 }
 
-void tst_ViewToolBar::settersAreSilent()
-{
-    const auto bar = createBar();
-    QSignalSpy surfSelect(bar.get(), &ViewToolBar::surfSelectChanged);
-    QSignalSpy moveSpeed(bar.get(), &ViewToolBar::moveSpeedChanged);
-    QSignalSpy brightness(bar.get(), &ViewToolBar::brightnessChanged);
-    bar->setSurfSelectType(3);
-    bar->setMoveSpeedPosition(500);
-    bar->setBrightnessPosition(2);
-    QCOMPARE(surfSelect.count() + moveSpeed.count() + brightness.count(), 0);
-    QCOMPARE(bar->findChild<QComboBox *>("cbSurfSelect")->currentIndex(), 3);
-    QCOMPARE(bar->findChild<QSlider *>("sliderMoveSpeed")->value(), 500);
-    QCOMPARE(bar->findChild<QSlider *>("sliderBrightness")->value(), 2);
-}
-
-void tst_ViewToolBar::saysWhatTheUserMoved()
+void tst_ViewToolBar::saysOnlyWhatTheUserMoved()
 {
     const auto bar = createBar();
     bar->show();
@@ -103,14 +87,18 @@ void tst_ViewToolBar::saysWhatTheUserMoved()
     QSignalSpy surfSelect(bar.get(), &ViewToolBar::surfSelectChanged);
     QSignalSpy moveSpeed(bar.get(), &ViewToolBar::moveSpeedChanged);
     QSignalSpy brightness(bar.get(), &ViewToolBar::brightnessChanged);
+    bar->setSurfSelectType(3);
+    bar->setMoveSpeedPosition(500);
+    bar->setBrightnessPosition(2);
+    QCOMPARE(surfSelect.count() + moveSpeed.count() + brightness.count(), 0);
     QTest::mouseClick(bar->findChild<QPushButton *>("btnBGColor"), Qt::LeftButton);
     QTest::keyClick(bar->findChild<QComboBox *>("cbSurfSelect"), Qt::Key_Down);
     QTest::keyClick(bar->findChild<QSlider *>("sliderMoveSpeed"), Qt::Key_End);
     QTest::keyClick(bar->findChild<QSlider *>("sliderBrightness"), Qt::Key_Right);
     QCOMPARE(color.count(), 1);
-    QCOMPARE(surfSelect, QList<QVariantList>{{1}});
+    QCOMPARE(surfSelect, QList<QVariantList>{{4}});
     QCOMPARE(moveSpeed, QList<QVariantList>{{1000}});
-    QCOMPARE(brightness, QList<QVariantList>{{1}});
+    QCOMPARE(brightness, QList<QVariantList>{{3}});
 }
 
 QTEST_MAIN(tst_ViewToolBar)

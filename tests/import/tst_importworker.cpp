@@ -85,7 +85,8 @@ void tst_importworker::initTestCase()
 {
     qputenv("TMPDIR", m_temporary.path().toUtf8());
     // The worker may end in any way; what the library leaves behind then is no leak of ours.
-    qputenv("ASAN_OPTIONS", "detect_leaks=0:allocator_may_return_null=1:max_allocation_size_mb=4096:symbolize=0");
+    qputenv("ASAN_OPTIONS",
+            "detect_leaks=0:allocator_may_return_null=1:max_allocation_size_mb=4096:symbolize=0");
 }
 
 void tst_importworker::cleanup()

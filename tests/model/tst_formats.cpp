@@ -52,6 +52,16 @@ QByteArray hex(const char *text)
     return QByteArray::fromHex(text);
 }
 
+/// Written it is those bytes, and those bytes are read as it.
+template <typename Model>
+void checkBytes(const Model &model, const QByteArray &bytes)
+{
+    QCOMPARE(bytesOf(model).toHex(), bytes.toHex());
+    Model read;
+    QVERIFY(!readBytes(read, bytes));
+    QCOMPARE(bytesOf(read).toHex(), bytes.toHex());
+}
+
 /// Replaces the little-endian int32 at `offset`.
 QByteArray withInt32(QByteArray bytes, int offset, qint32 value)
 {
@@ -96,10 +106,7 @@ void TestFormats::skinnedMeshFields()
     mesh.unknownB = 11;
     mesh.surfaces = {{QStringLiteral("a\u00e9"), {0, 1, 2}}, {}};
     mesh.vertices = {{{1.0f, 2.0f, -1.0f}, {2.0f, -1.0f}, {0.0f, 1.0f, 0.0f}, 7}};
-    QCOMPARE(bytesOf(mesh).toHex(), hex(SkinnedMeshBytes).toHex());
-    SkinnedMesh read;
-    QVERIFY(!readBytes(read, hex(SkinnedMeshBytes)));
-    QCOMPARE(bytesOf(read).toHex(), hex(SkinnedMeshBytes).toHex());
+    checkBytes(mesh, hex(SkinnedMeshBytes));
 }
 
 void TestFormats::animFields()
@@ -124,10 +131,7 @@ void TestFormats::animFields()
     AnimFile file;
     file.version = 1;
     file.blocks = {block};
-    QCOMPARE(bytesOf(file).toHex(), hex(AnimBytes).toHex());
-    AnimFile read;
-    QVERIFY(!readBytes(read, hex(AnimBytes)));
-    QCOMPARE(bytesOf(read).toHex(), hex(AnimBytes).toHex());
+    checkBytes(file, hex(AnimBytes));
 }
 
 void TestFormats::staticMeshFields()
@@ -138,10 +142,7 @@ void TestFormats::staticMeshFields()
     mesh.bbMax = {1.0f, 1.0f, 2.0f};
     mesh.surfaces = {{QStringLiteral("_white"), {0, 1, 2, 2, 1, 65535}}};
     mesh.vertices = {{{1.0f, 2.0f, -1.0f}, {2.0f, -1.0f}, {0.0f, 1.0f, 0.0f}}};
-    QCOMPARE(bytesOf(mesh).toHex(), hex(StaticMeshBytes).toHex());
-    StaticMesh read;
-    QVERIFY(!readBytes(read, hex(StaticMeshBytes)));
-    QCOMPARE(bytesOf(read).toHex(), hex(StaticMeshBytes).toHex());
+    checkBytes(mesh, hex(StaticMeshBytes));
 }
 
 void TestFormats::samplesKeepEveryByte_data()

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "Fuzzy.h"
 #include "SampleModels.h"
 #include "TestSupport.h"
 
@@ -66,7 +65,6 @@ private slots:
     void rotate();
     void rotateBonesAndOddFloats();
     void scale();
-    void fuzzyComparison();
     void frameCount();
     void trackCounts();
     void growingFromNothing();
@@ -129,20 +127,6 @@ void TestModelEdits::scale()
     rigid.scale(0.5f);
     QCOMPARE(rigid.vertices[0].position, QVector3D(std::numeric_limits<float>::infinity(), 1.0f, 1.5f));
     QCOMPARE(rigid.bbMax, QVector3D(0.5f, 1.0f, 1.5f));
-}
-
-void TestModelEdits::fuzzyComparison()
-{
-    const float nan = std::numeric_limits<float>::quiet_NaN();
-    const float infinity = std::numeric_limits<float>::infinity();
-    QVERIFY(fuzzyEqual(0.0f, -0.0f));
-    QVERIFY(!fuzzyEqual(0.0f, 1e-40f));
-    QVERIFY(fuzzyEqual(0.0f, floatOfBits(7)));  // 9.8e-45
-    QVERIFY(!fuzzyEqual(0.0f, floatOfBits(8))); // 1.12e-44
-    QVERIFY(fuzzyEqual(1.0f, 1.0000005f));
-    QVERIFY(!fuzzyEqual(1.0f, 1.000002f));
-    QVERIFY(!fuzzyEqual(nan, nan));
-    QVERIFY(!fuzzyEqual(infinity, infinity)); // the difference is no number
 }
 
 void TestModelEdits::frameCount()

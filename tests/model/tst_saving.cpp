@@ -71,11 +71,11 @@ class TestSaving : public QObject
 
 private slots:
     void init();
-    void fullDisk_data();
+    void fullDisk_data() { kinds(); }
     void fullDisk();
-    void readOnlyFolder_data();
+    void readOnlyFolder_data() { kinds(); }
     void readOnlyFolder();
-    void vanishedFolder_data();
+    void vanishedFolder_data() { kinds(); }
     void vanishedFolder();
 
 private:
@@ -101,11 +101,6 @@ void TestSaving::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(TestSupport::writeFile(path(), OldBytes));
-}
-
-void TestSaving::fullDisk_data()
-{
-    kinds();
 }
 
 void TestSaving::fullDisk()
@@ -139,11 +134,6 @@ void TestSaving::fullDisk()
     }
 }
 
-void TestSaving::readOnlyFolder_data()
-{
-    kinds();
-}
-
 void TestSaving::readOnlyFolder()
 {
     QFETCH(QString, suffix);
@@ -164,11 +154,6 @@ void TestSaving::readOnlyFolder()
         QSKIP("permissions do not hold here");
     QVERIFY(failed);
     QVERIFY(oldFileIsIntact());
-}
-
-void TestSaving::vanishedFolder_data()
-{
-    kinds();
 }
 
 void TestSaving::vanishedFolder()

@@ -3,27 +3,23 @@
 #include "AnimFile.h"
 #include "Pose.h"
 #include "SkinnedMesh.h"
-#include "StaticMesh.h"
 #include "TestSupport.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
-// The real models: what the files hold, and where bones and vertices stand in the initial pose and at chosen
-// frames. The expected places were computed from the models' sources, in double precision.
+// The real models: where bones and vertices stand in the initial pose and at chosen frames. The expected
+// places were computed from the models' sources, in double precision.
 class tst_ExpectedPoses : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void facts_data() { models(QString()); }
-    void facts();
-    void poses_data() { models(QStringLiteral("skinned")); }
+    void poses_data();
     void poses();
 
 private:
-    void models(const QString &kind);
     QJsonObject m_models;
 };
 
@@ -46,34 +42,6 @@ QVector3D vector(const QJsonValue &value)
     return {float(numbers[0].toDouble()), float(numbers[1].toDouble()), float(numbers[2].toDouble())};
 }
 
-template <typename Mesh>
-void compareSurfaces(const Mesh &mesh, const QJsonObject &model)
-{
-    QCOMPARE(int(mesh.version), model[QLatin1String("version")].toInt());
-    QVERIFY((mesh.bbMin - vector(model[QLatin1String("bbMin")])).length() < 0.001f);
-    QVERIFY((mesh.bbMax - vector(model[QLatin1String("bbMax")])).length() < 0.001f);
-    QCOMPARE(int(mesh.vertices.size()), model[QLatin1String("vertices")].toInt());
-    const QJsonArray surfaces = model[QLatin1String("surfaces")].toArray();
-    QCOMPARE(int(mesh.surfaces.size()), surfaces.size());
-    for (int i = 0; i < surfaces.size(); ++i) {
-        const auto &surface = mesh.surfaces[size_t(i)];
-        QCOMPARE(surface.materialPath, surfaces[i].toObject()[QLatin1String("material")].toString());
-        QCOMPARE(int(surface.triangleIndexes.size()),
-                 surfaces[i].toObject()[QLatin1String("indexes")].toInt());
-    }
-}
-
-void compareBlock(const AnimBlock &block, const QJsonObject &expected)
-{
-    QCOMPARE(int(block.animId), expected[QLatin1String("animId")].toInt());
-    QCOMPARE(block.frameCount(), expected[QLatin1String("frames")].toInt());
-    QCOMPARE(block.speed, float(expected[QLatin1String("speed")].toDouble()));
-    QCOMPARE(int(block.loopFrame), expected[QLatin1String("loopFrame")].toInt());
-    QCOMPARE(block.translations.trackCount(), expected[QLatin1String("translations")].toInt());
-    QCOMPARE(block.rotations.trackCount(), expected[QLatin1String("rotations")].toInt());
-    QCOMPARE(int(block.actions.size()), expected[QLatin1String("actions")].toArray().size());
-}
-
 void comparePose(const SkinnedMesh &mesh, const BonePalette &palette, const QJsonObject &pose,
                  float tolerance)
 {
@@ -94,7 +62,7 @@ void comparePose(const SkinnedMesh &mesh, const BonePalette &palette, const QJso
 }
 } // namespace
 
-void tst_ExpectedPoses::models(const QString &kind)
+void tst_ExpectedPoses::poses_data()
 {
     SKIP_WITHOUT_SHARED("gamedata/expected.json");
     const QByteArray json =
@@ -103,43 +71,9 @@ void tst_ExpectedPoses::models(const QString &kind)
     QVERIFY(!m_models.isEmpty());
     QTest::addColumn<QString>("name");
     for (const QString &name : m_models.keys()) {
-        if (kind.isEmpty() || m_models[name].toObject()[QLatin1String("kind")].toString() == kind)
+        if (m_models[name].toObject()[QLatin1String("kind")] == QLatin1String("skinned"))
             QTest::newRow(qPrintable(name)) << name;
     }
-}
-
-void tst_ExpectedPoses::facts()
-{
-    QFETCH(QString, name);
-    const QJsonObject model = m_models[name].toObject();
-    if (model[QLatin1String("kind")] == QLatin1String("static")) {
-        StaticMesh mesh;
-        QVERIFY(!mesh.read(path(model, QStringLiteral(".staticmesh"))));
-        compareSurfaces(mesh, model);
-        return;
-    }
-    SkinnedMesh mesh;
-    QVERIFY(!mesh.read(path(model, QStringLiteral(".skinnedmesh"))));
-    compareSurfaces(mesh, model);
-    QCOMPARE(int(mesh.hotPoints.size()), model[QLatin1String("hotPoints")].toInt());
-    const QJsonArray bones = model[QLatin1String("bones")].toArray();
-    QCOMPARE(int(mesh.nodes.size()), bones.size());
-    for (int bone = 0; bone < bones.size(); ++bone) {
-        const SkinnedMeshNode &node = mesh.nodes[size_t(bone)];
-        QCOMPARE(int(node.parentNode), bones[bone].toObject()[QLatin1String("parent")].toInt());
-        QJsonArray children;
-        for (quint16 child : node.childNodes)
-            children.append(int(child));
-        QCOMPARE(children, bones[bone].toObject()[QLatin1String("children")].toArray());
-    }
-
-    AnimFile anim;
-    QVERIFY(!anim.read(path(model, QStringLiteral(".anim"))));
-    const QJsonArray blocks = model[QLatin1String("blocks")].toArray();
-    QCOMPARE(int(anim.blocks.size()), blocks.size());
-    for (int i = 0; i < blocks.size(); ++i)
-        compareBlock(anim.blocks[size_t(i)], blocks[i].toObject());
-    QVERIFY(animationMatchesMesh(anim, mesh));
 }
 
 void tst_ExpectedPoses::poses()
@@ -150,6 +84,7 @@ void tst_ExpectedPoses::poses()
     AnimFile anim;
     QVERIFY(!mesh.read(path(model, QStringLiteral(".skinnedmesh"))));
     QVERIFY(!anim.read(path(model, QStringLiteral(".anim"))));
+    QVERIFY(animationMatchesMesh(anim, mesh));
     // The source of this one stretches its legs, which bones here cannot.
     const float vertexTolerance = name == QLatin1String("mannequin") ? 3.4f : BoneTolerance;
 

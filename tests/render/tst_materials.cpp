@@ -3,7 +3,6 @@
 #include "Log.h"
 #include "MaterialTextures.h"
 #include "MeshSource.h"
-#include "Settings.h"
 #include "SkinnedMesh.h"
 #include "StaticMesh.h"
 #include "TestSupport.h"
@@ -25,7 +24,6 @@ private slots:
     void whiteNeedsNoFile();
     void cachesWithinABuild();
     void emptyFolders();
-    void realModels();
     void vertices();
     void indexes();
 
@@ -179,30 +177,6 @@ void tst_Materials::emptyFolders()
     MaterialTextures onlyMod(QString(), m_mod, m_tag);
     QCOMPARE(onlyMod.image(QStringLiteral("materials/b/both")).pixelColor(0, 0), QColor(Qt::green));
     QCOMPARE(m_log, QStringList());
-}
-
-void tst_Materials::realModels()
-{
-    SKIP_WITHOUT_SHARED("gamedata/game");
-    Settings::GamePath.setValue(TestSupport::shared(QStringLiteral("gamedata/game")));
-    Settings::OutputDir.setValue(TestSupport::shared(QStringLiteral("gamedata/mod")));
-    SkinnedMesh trex;
-    QVERIFY(!trex.read(TestSupport::shared(QStringLiteral("gamedata/game/models/trex/trex.skinnedmesh"))));
-    const MeshSource source = MeshSource::from(trex);
-    QCOMPARE(m_log, QStringList());
-    QCOMPARE(source.images.size(), trex.surfaces.size());
-    QCOMPARE(source.boneCount, trex.nodes.size());
-    for (size_t i = 0; i < trex.surfaces.size(); ++i)
-        QCOMPARE(source.indexes[i], trex.surfaces[i].triangleIndexes);
-
-    StaticMesh barrel;
-    QVERIFY(
-        !barrel.read(TestSupport::shared(QStringLiteral("gamedata/game/models/barrel/barrel.staticmesh"))));
-    MeshSource::from(barrel);
-    QCOMPARE(m_log.size(), 1);
-    QVERIFY(m_log[0].startsWith(QStringLiteral("[GLMesh From Static Mesh] Failed to load texture '")));
-    Settings::GamePath.setValue({});
-    Settings::OutputDir.setValue({});
 }
 
 void tst_Materials::vertices()

@@ -13,8 +13,50 @@
 #include <cstring>
 #include <limits>
 
-/// Small models with everything in them that files may hold and people rarely think of.
+/// Small models: plain ones, and some with everything in them that files may hold and people rarely think of.
 namespace SampleModels {
+// In the plain ones every list has three entries or more.
+inline SkinnedMesh plainMesh()
+{
+    SkinnedMesh mesh;
+    mesh.version = 2;
+    mesh.nodes.resize(4);
+    for (size_t i = 0; i < mesh.nodes.size(); ++i) {
+        mesh.nodes[i].childNodes = {1, 2, 3};
+        mesh.nodes[i].bbMin = {float(i), 10.0f + float(i), 20.0f + float(i)};
+    }
+    mesh.nodes[1].parentNode = 0;
+    mesh.nodes[1].symbolFlags = 0x38;
+    mesh.hotPoints.resize(3);
+    mesh.surfaces.resize(3, {QStringLiteral("materials/a"), {0, 1, 2}});
+    mesh.vertices.resize(3);
+    mesh.vertices[1].position = {1.0f, 2.0f, 4.0f};
+    return mesh;
+}
+
+inline AnimFile plainAnim()
+{
+    AnimFile file;
+    file.blocks.resize(3);
+    for (AnimBlock &block : file.blocks) {
+        block.nodes.resize(4);
+        block.setTranslationCount(2);
+        block.setRotationCount(2);
+        block.setFrameCount(3);
+        block.actions.resize(3);
+    }
+    return file;
+}
+
+inline StaticMesh plainStatic()
+{
+    StaticMesh mesh;
+    mesh.surfaces.resize(3, {QStringLiteral("materials/a"), {0, 1, 2}});
+    mesh.vertices.resize(3);
+    mesh.vertices[1].position = {1.0f, 2.0f, 4.0f};
+    return mesh;
+}
+
 inline float floatOfBits(quint32 bits)
 {
     float value;
@@ -107,6 +149,18 @@ inline StaticMesh staticMesh()
                         {oddFloats[3], oddFloats[4]},
                         {oddFloats[5], oddFloats[6], oddFloats[7]}};
     return mesh;
+}
+
+/// The plain model of a kind.
+template <typename Model>
+Model plainModel()
+{
+    if constexpr (std::is_same_v<Model, SkinnedMesh>)
+        return plainMesh();
+    else if constexpr (std::is_same_v<Model, AnimFile>)
+        return plainAnim();
+    else
+        return plainStatic();
 }
 
 /// The bytes of the file that the model would be saved as; empty when it refuses.

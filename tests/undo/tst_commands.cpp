@@ -1,213 +1,255 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "AnimCommands.h"
-#include "SkinnedMeshCommands.h"
-#include "StaticMeshCommands.h"
+
+// Everything about every command, on small models and on real ones: the list of them is the program's own.
+#include "SampleCommands.h"
 #include "TestSupport.h"
 
 #include <QUndoStack>
 
-#include <cstring>
-#include <limits>
+#include <functional>
+
+using namespace SampleCommands;
+using SampleModels::bytesOf;
 
 namespace {
 struct RecordingView : DocumentView
 {
-    void recordChanged(const RecordRef &record) override { changes.append(record); }
-    void structureChanged(const StructureChange &) override {}
-    QVector<RecordRef> changes;
+    void recordChanged(const RecordRef &record) override { records.append(record); }
+    void structureChanged(const StructureChange &change) override { structures.append(change); }
+    QVector<RecordRef> records;
+    QVector<StructureChange> structures;
 };
 
-// Another value than the given one, of each type that a field has.
-template <typename Number, std::enable_if_t<std::is_integral_v<Number>, int> = 0>
-Number other(Number value)
-{
-    return Number(value + 1);
-}
-float other(float value)
-{
-    return value + 1.5f;
-}
-QString other(const QString &value)
-{
-    return value + QLatin1Char('x');
-}
-template <typename Vector, std::enable_if_t<std::is_class_v<Vector>, int> = 0>
-Vector other(Vector value)
-{
-    // The last component, so that a field that stores only its first is found out.
-    auto &last = value[int(sizeof(Vector) / sizeof(value[0])) - 1];
-    last = other(last);
-    return value;
-}
+/// Plain and odd models, and a real one where there is one.
+template <typename Model>
+const std::vector<Model> &models();
 
 template <typename Model>
-QByteArray bytesOf(const Model &model, const QTemporaryDir &home)
+std::vector<Model> withReal(std::vector<Model> models, const char *realFile)
 {
-    const QString path = home.filePath(QStringLiteral("model"));
-    return model.write(path) ? QByteArray() : TestSupport::readFile(path);
+    const QString path = TestSupport::shared(QLatin1String(realFile));
+    Model real;
+    if (!path.isEmpty() && !real.read(path))
+        models.push_back(std::move(real));
+    return models;
 }
 
-// Every list holds more than one record, no value is a default and no two bytes in a row are alike.
-SkinnedMesh skinnedMesh()
+template <>
+const std::vector<SkinnedMesh> &models()
 {
-    SkinnedMesh mesh;
-    mesh.version = 2;
-    mesh.nodes.resize(3);
-    for (SkinnedMeshNode &node : mesh.nodes)
-        node.childNodes = {1, 2};
-    mesh.hotPoints.resize(2);
-    mesh.surfaces = {{QStringLiteral("materials/a"), {0, 1, 2}}, {QStringLiteral("materials/b"), {2, 1, 0}}};
-    mesh.vertices.resize(3);
-    return mesh;
+    static const auto all = withReal<SkinnedMesh>({SampleModels::plainMesh(), SampleModels::skinnedMesh()},
+                                                  "gamedata/game/models/knight/knight.skinnedmesh");
+    return all;
 }
 
-AnimFile animFile()
+template <>
+const std::vector<AnimFile> &models()
 {
-    AnimFile file;
-    file.blocks.resize(2);
-    for (AnimBlock &block : file.blocks) {
-        block.nodes.resize(3);
-        block.setTranslationCount(2);
-        block.setRotationCount(2);
-        block.setFrameCount(3);
-        block.actions.resize(2);
-    }
-    return file;
+    static const auto all = withReal<AnimFile>({SampleModels::plainAnim(), SampleModels::animFile()},
+                                               "gamedata/game/anims/fox/fox.anim");
+    return all;
 }
 
-StaticMesh staticMesh()
+template <>
+const std::vector<StaticMesh> &models()
 {
-    StaticMesh mesh;
-    mesh.surfaces = {{QStringLiteral("materials/a"), {0, 1, 2}}, {QStringLiteral("materials/b"), {2, 1, 0}}};
-    mesh.vertices.resize(3);
-    return mesh;
+    static const auto all = withReal<StaticMesh>({SampleModels::plainStatic(), SampleModels::staticMesh()},
+                                                 "gamedata/game/models/barrel/barrel.staticmesh");
+    return all;
+}
+
+/// The lists of a model cut off, as no command does.
+void cutOff(SkinnedMesh &mesh)
+{
+    mesh = SkinnedMesh();
+    mesh.nodes.resize(1);
+}
+void cutOff(AnimFile &file)
+{
+    file.blocks = {AnimBlock()};
+}
+void cutOff(StaticMesh &mesh)
+{
+    mesh = StaticMesh();
+    mesh.surfaces.resize(1);
+}
+
+/// From and to which byte two files of one length differ.
+int differentBytes(const QByteArray &a, const QByteArray &b)
+{
+    const auto first = std::mismatch(a.begin(), a.end(), b.begin()).first;
+    const auto last = std::mismatch(a.rbegin(), a.rend(), b.rbegin()).first.base();
+    return int(last - first);
 }
 } // namespace
+
+class tst_Commands;
+using Check = std::function<void(tst_Commands *)>;
+Q_DECLARE_METATYPE(Check)
 
 class tst_Commands : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void everyCommandIsUndoneAndRedoneBitForBit();
-    void onRealModelsToo();
+    void everyCommandGoesBackAndForth_data();
+    void everyCommandGoesBackAndForth();
+    void emptiedListShowsItsGroup();
     void aRecordThatIsGoneIsLeftAlone();
     void oddFloatsSurvive();
 
 private:
-    template <typename Tags, typename Model>
-    void walk(const Tags &tags, const Model &fresh)
-    {
-        std::apply([&](auto... tag) { (checkCommand<typename decltype(tag)::Type>(fresh), ...); }, tags);
-    }
-    template <typename Command, typename Model>
-    void checkCommand(Model model);
-
-    QTemporaryDir m_home;
+    template <typename Command>
+    void checkEverywhere();
+    template <typename Command>
+    void checkAt(typename Command::Model model, const RecordIndex &index);
 };
 
-template <typename Command, typename Model>
-void tst_Commands::checkCommand(Model model)
+template <typename Command>
+void tst_Commands::checkAt(typename Command::Model model, const RecordIndex &index)
 {
-    using Record = typename Command::Record;
-    RecordIndex index{};
-    for (const RecordIndex &candidate : {RecordIndex{1, 1, 1}, RecordIndex{1, 0, 0}, RecordIndex{0, 1, 1}}) {
-        index = candidate;
-        if (Record::find(model, index))
-            break;
-    }
+    using Place = typename Command::Place;
     RecordingView view;
     QUndoStack stack;
-    const auto *record = Record::find(model, index);
-    QVERIFY2(record, Command::name);
-    const auto oldValue = Command::Field::get(*record);
-    const auto newValue = other(oldValue);
-    const QByteArray before = bytesOf(model, m_home);
-
-    auto *command = new Command({model, view}, index, newValue);
-    QCOMPARE(bytesOf(model, m_home), before);
+    const QByteArray before = bytesOf(model);
+    auto *command = make<Command>({model, view}, index);
+    QCOMPARE(bytesOf(model), before);
     QCOMPARE(command->text(), QString::fromLatin1(Command::undoText));
     stack.push(command);
-    const QByteArray after = bytesOf(model, m_home);
-    QVERIFY2(Command::Field::get(*Record::find(model, index)) == newValue, Command::name);
-    QVERIFY2(after != before, Command::name);
-    if (after.size() == before.size()) {
-        int first = 0;
-        int last = before.size() - 1;
-        while (after[first] == before[first])
-            ++first;
-        while (after[last] == before[last])
-            --last;
-        QVERIFY2(last - first < int(sizeof newValue), Command::name);
+    const QByteArray after = bytesOf(model);
+    QVERIFY(after != before);
+    if constexpr (isField<Command>) {
+        if (after.size() == before.size())
+            QVERIFY(differentBytes(before, after) <= int(sizeof(typename Command::Value)));
     }
-    stack.undo();
-    QCOMPARE(bytesOf(model, m_home), before);
-    stack.redo();
-    QCOMPARE(bytesOf(model, m_home), after);
-    QCOMPARE(view.changes, QVector<RecordRef>(3, {Record::kind, index}));
+    if constexpr (isInsertion<Command>()) {
+        // Nothing else than the insertion has happened.
+        auto rest = model;
+        auto *list = Place::list(rest, index);
+        list->erase(list->begin() + index[Place::component]);
+        QCOMPARE(bytesOf(rest), before);
+    }
+    for (int round = 0; round < 2; ++round) {
+        stack.undo();
+        QCOMPARE(bytesOf(model), before);
+        stack.redo();
+        QCOMPARE(bytesOf(model), after);
+    }
+    if constexpr (isStructure<Command>) {
+        QVERIFY(view.records.isEmpty());
+        QCOMPARE(view.structures.size(), 5);
+        const StructureChange &change = view.structures.last();
+        QCOMPARE(change.record, (RecordRef{Place::kind, index}));
+        QCOMPARE(change.added, isInsertion<Command>() ? 1 : -1);
+        const bool isEmpty = Place::list(model, index)->empty();
+        QCOMPARE(change.select.kind == Place::kind, !isEmpty);
+        QVERIFY(isEmpty || Place::find(model, change.select.index));
+    } else {
+        QVERIFY(view.structures.isEmpty());
+        QCOMPARE(view.records, QVector<RecordRef>(5, {Place::kind, index}));
+    }
 
     // No command merges: the next one is a step of its own.
-    stack.push(new Command({model, view}, index, other(newValue)));
-    QCOMPARE(stack.count(), 2);
+    if (!isStructure<Command>) {
+        stack.push(make<Command>({model, view}, index));
+        QCOMPARE(stack.count(), 2);
+    }
 }
 
-void tst_Commands::everyCommandIsUndoneAndRedoneBitForBit()
+void tst_Commands::everyCommandGoesBackAndForth_data()
 {
-    walk(skinnedMeshCommands, skinnedMesh());
-    walk(animCommands, animFile());
-    walk(staticMeshCommands, staticMesh());
+    QTest::addColumn<Check>("check");
+    forEach([](auto tag) {
+        using Command = typename decltype(tag)::Type;
+        QTest::newRow(Command::name) << Check(&tst_Commands::checkEverywhere<Command>);
+    });
 }
 
-void tst_Commands::onRealModelsToo()
+void tst_Commands::everyCommandGoesBackAndForth()
 {
-    SKIP_WITHOUT_SHARED("gamedata");
-    const QString models = TestSupport::shared(QStringLiteral("gamedata/game"));
-    SkinnedMesh mesh;
-    QVERIFY(!mesh.read(models + "/models/knight/knight.skinnedmesh"));
-    walk(skinnedMeshCommands, mesh);
-    AnimFile anim;
-    QVERIFY(!anim.read(models + "/anims/knight/knight.anim"));
-    walk(animCommands, anim);
-    StaticMesh barrel;
-    QVERIFY(!barrel.read(models + "/models/barrel/barrel.staticmesh"));
-    walk(staticMeshCommands, barrel);
+    QFETCH(Check, check);
+    check(this);
+}
+
+template <typename Command>
+void tst_Commands::checkEverywhere()
+{
+    using Place = typename Command::Place;
+    for (auto model : models<typename Command::Model>()) {
+        RecordIndex index = someIndex<Place>(model);
+        if constexpr (isStructure<Command>) {
+            index[Place::component] = 0;
+            const int count = int(Place::list(model, index)->size());
+            for (const int place : {0, count / 2, isInsertion<Command>() ? count : count - 1}) {
+                index[Place::component] = place;
+                checkAt<Command>(model, index);
+            }
+        } else {
+            QVERIFY(Place::find(model, index));
+            checkAt<Command>(model, index);
+        }
+    }
+}
+
+void tst_Commands::emptiedListShowsItsGroup()
+{
+    SkinnedMesh mesh = SampleModels::skinnedMesh();
+    mesh.hotPoints.resize(1);
+    checkAt<UC_SkinnedMeshRemoveHotPoint>(mesh, {});
+    AnimFile file = SampleModels::animFile();
+    file.blocks[2].actions.resize(1);
+    checkAt<UC_AnimRemoveAction>(file, {2, 0, 0});
 }
 
 void tst_Commands::aRecordThatIsGoneIsLeftAlone()
 {
-    SkinnedMesh mesh = skinnedMesh();
-    RecordingView view;
-    UC_SkinnedMeshNodeFlags command({mesh, view}, {2}, 7);
-    command.redo();
-    mesh.nodes.resize(2);
-    view.changes.clear();
-    const QByteArray before = bytesOf(mesh, m_home);
-    command.undo();
-    command.redo();
-    QCOMPARE(bytesOf(mesh, m_home), before);
-    QVERIFY(view.changes.isEmpty());
+    forEach([](auto tag) {
+        using Command = typename decltype(tag)::Type;
+        using Place = typename Command::Place;
+        auto model = models<typename Command::Model>().front();
+        auto empty = model;
+        cutOff(empty);
+        RecordIndex index = someIndex<Place>(model);
+        if constexpr (isStructure<Command>)
+            index[Place::component] = 2;
+        // The fields of the model itself are never gone.
+        if (Place::find(empty, index))
+            return;
+        RecordingView view;
+        QUndoStack stack;
+        stack.push(make<Command>({model, view}, index));
+        model = empty;
+        view.records.clear();
+        view.structures.clear();
+        const QByteArray before = bytesOf(model);
+        QVERIFY(!before.isEmpty());
+        for (int round = 0; round < 2; ++round) {
+            stack.undo();
+            QVERIFY2(bytesOf(model) == before, Command::name);
+            stack.redo();
+            QVERIFY2(bytesOf(model) == before, Command::name);
+        }
+        QVERIFY2(view.records.isEmpty() && view.structures.isEmpty(), Command::name);
+    });
 }
 
 void tst_Commands::oddFloatsSurvive()
 {
     // A signalling NaN with a payload: any conversion on the way would quieten it.
-    const quint32 bits = 0x7fa01234;
-    float odd;
-    std::memcpy(&odd, &bits, sizeof odd);
-    AnimFile file = animFile();
+    const float odd = SampleModels::floatOfBits(0x7fa01234);
+    AnimFile file = SampleModels::plainAnim();
     file.blocks[0].speed = odd;
-    file.blocks[0].frameScale = -std::numeric_limits<float>::infinity();
     RecordingView view;
-    const QByteArray before = bytesOf(file, m_home);
+    const QByteArray before = bytesOf(file);
     UC_AnimBlockAnimSpeed speed({file, view}, {0}, 30.0f);
     UC_AnimBlockFrameScale scale({file, view}, {0}, odd);
     speed.redo();
     scale.redo();
-    QVERIFY(bytesOf(file, m_home) != before);
+    QVERIFY(bytesOf(file) != before);
     scale.undo();
     speed.undo();
-    QCOMPARE(bytesOf(file, m_home), before);
+    QCOMPARE(bytesOf(file), before);
 }
 
 QTEST_GUILESS_MAIN(tst_Commands)

@@ -2,7 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "FieldCommand.h"
+#include "CommandTable.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
 
 /// Puts a record into a list, or takes one out, and back.
 ///
@@ -100,39 +104,3 @@ public:
     void undo() override { this->insert(); }
     void redo() override { this->remove(); }
 };
-
-// One command class from a row (class, insertion or removal, record, group, undo text). The group is what a
-// list leaves to be shown when its last record went.
-#define KORVANE_STRUCTURE_COMMAND(Class, Kind, RecordType, Group, Text)                                      \
-    class Class final : public Kind<Class, RecordType, Group>                                                \
-    {                                                                                                        \
-    public:                                                                                                  \
-        static constexpr const char *name = #Class;                                                          \
-        static constexpr const char *undoText = QT_TRANSLATE_NOOP("UndoCommands", Text);                     \
-        using Kind::Kind;                                                                                    \
-    };
-
-#define KORVANE_STRUCTURE_TAG(Class, Kind, RecordType, Group, Text) std::tuple<CommandTag<Class>>(),
-
-// clang-format off
-#define KORVANE_SKINNED_MESH_STRUCTURE(ROW) \
-    ROW(UC_SkinnedMeshAddHotPoint, InsertCommand, Records::HotPoint, RecordKind::HotPoints, "Add Hot Point") \
-    ROW(UC_SkinnedMeshRemoveHotPoint, RemoveCommand, Records::HotPoint, RecordKind::HotPoints, "Remove Hot Point") \
-    ROW(UC_SkinnedMeshPasteHotPoint, InsertCommand, Records::HotPoint, RecordKind::HotPoints, "Paste Hot Point")
-
-#define KORVANE_ANIM_STRUCTURE(ROW) \
-    ROW(UC_AnimAddAction, InsertCommand, Records::BlockAction, RecordKind::AnimActions, "Add Key Frame Action") \
-    ROW(UC_AnimRemoveAction, RemoveCommand, Records::BlockAction, RecordKind::AnimActions, "Remove Key Frame Action") \
-    ROW(UC_AnimBlockAdd, InsertCommand, Records::Block, RecordKind::AnimFile, "Add Animation") \
-    ROW(UC_AnimBlockRemove, RemoveCommand, Records::Block, RecordKind::AnimFile, "Remove Animation") \
-    ROW(UC_AnimBlockPaste, InsertCommand, Records::Block, RecordKind::AnimFile, "Paste Animation")
-// clang-format on
-
-KORVANE_SKINNED_MESH_STRUCTURE(KORVANE_STRUCTURE_COMMAND)
-KORVANE_ANIM_STRUCTURE(KORVANE_STRUCTURE_COMMAND)
-
-/// Every command that changes a list of the skinned mesh, and of the animation file.
-inline constexpr auto skinnedMeshStructureCommands =
-    std::tuple_cat(KORVANE_SKINNED_MESH_STRUCTURE(KORVANE_STRUCTURE_TAG) std::tuple<>());
-inline constexpr auto animStructureCommands =
-    std::tuple_cat(KORVANE_ANIM_STRUCTURE(KORVANE_STRUCTURE_TAG) std::tuple<>());

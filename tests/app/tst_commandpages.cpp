@@ -1,0 +1,296 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+
+// Every command and every editor, with the screen: page, tree and selection follow each step.
+#include "IndexHint.h"
+#include "Panes.h"
+#include "RecordItem.h"
+#include "SampleCommands.h"
+#include "Settings.h"
+#include "TestSupport.h"
+
+#include <functional>
+#include <typeinfo>
+
+using namespace SampleCommands;
+
+namespace {
+/// The step that an editor makes. `axes` stands for one editor each, whose letter replaces % in both texts.
+struct Step
+{
+    const char *editor;
+    const char *text;
+    const char *axes = nullptr;
+};
+
+const Step steps[] = {
+    {"sbSMBBMin%", "Bounding Box Min", "XYZ"},
+    {"sbSMBBMax%", "Bounding Box Max", "XYZ"},
+    {"sbSMHTStart", "Head Track Start Bone"},
+    {"sbSMHTEnd", "Head Track End Bone"},
+    {"sbSMHTFactor", "Head Track Factor"},
+    {"sbCNIIndex", "Child Bone Index"},
+    {"sbHPOrigin%", "Hot Point Origin %", "XYZ"},
+    {"sbHPNodeID", "Hot Point BoneID"},
+    {"cbHPDealDamage", "Hot Point Particle Effect 1"},
+    {"sbHPEffect%", "Hot Point Particle Effect %", "12"},
+    {"flagsHP", "Hot Point Flags"},
+    {"cbNodeSymbolType", "Bone Symbol Flags"},
+    {"cbNodeSymbolSide", "Bone Symbol Flags"},
+    {"cbNodeSymbolPart", "Bone Symbol Flags"},
+    {"sbNodeParentNode", "Parent Bone Index"},
+    {"cbNodeImpactType", "Bone Impact Type"},
+    {"sbNodeDamageScale", "Bone Damage Scale"},
+    {"sbNodeBBMin%", "Bone Bounding Box Min %", "XYZ"},
+    {"sbNodeBBMax%", "Bone Bounding Box Max %", "XYZ"},
+    {"flagsNode", "Bone Flags"},
+    {"txtSurfaceMaterial", "Surface Material"},
+    {"sbTIIndex", "Triangle Index"},
+    {"sbVertPosition%", "Vertex Position %", "XYZ"},
+    {"sbVertNormal%", "Vertex Normal %", "XYZ"},
+    {"sbVertUV%", "Vertex UV %", "XY"},
+    {"sbVertNodeIndex", "Vertex Bone Index"},
+    {"sbSTBBMin%", "Bounding Box Min", "XYZ"},
+    {"sbSTBBMax%", "Bounding Box Max", "XYZ"},
+    {"sbAnimAnimID", "Animation AnimID"},
+    {"sbAnimFrameScale", "Animation Frame Scale"},
+    {"sbAnimBlendLength", "Animation Blend Length"},
+    {"sbAnimBlendStart", "Animation Blend Start"},
+    {"sbAnimBlendEnd", "Animation Blend End"},
+    {"sbAnimSpeed", "Animation Speed"},
+    {"sbAnimLoopFrame", "Animation Loop Frame"},
+    {"sbAnimNodeTransIndex", "Bone Translation Index"},
+    {"sbAnimNodeRotIndex", "Bone Rotation Index"},
+    {"sbAnimNodeInitTrans%", "Bone Initial Translation %", "XY"},
+    {"sbAnimNodeInitTransZ", "Bone Initial Translation Y"}, // as it always was
+    {"sbAnimNodeInitRot%", "Bone Initial Rotation %", "XYZW"},
+    {"sbAnimFrameYaw", "Frame Yaw Offset"},
+    {"sbAnimTranslation%", "Animation Translation %", "XYZ"},
+    {"sbAnimRotation%", "Animation Rotation %", "XYZW"},
+    {"sbAnimRotationAngle", "Animation Rotation Angle"},
+    {"sbAnimActionFrame", "Key Frame Action Frame"},
+    {"sbAnimActionNode", "Key Frame Action Node"},
+    {"sbAnimActionOffset%", "Key Frame Action Offset %", "XYZ"},
+    {"cbAnimActionEventType", "Key Frame Action Event Type"},
+    {"sbAnimActionArg%", "Key Frame Action Args", "12345678"},
+    {"sbSTBBMin%", "Bounding Box Min", "XYZ"},
+    {"sbSTBBMax%", "Bounding Box Max", "XYZ"},
+};
+
+QHash<QString, QString> stepTexts()
+{
+    QHash<QString, QString> texts;
+    for (const Step &step : steps) {
+        for (const QChar axis : QString::fromLatin1(step.axes ? step.axes : "-")) {
+            texts.insert(QString::fromLatin1(step.editor).replace(QLatin1Char('%'), axis),
+                         QString::fromLatin1(step.text).replace(QLatin1Char('%'), axis));
+        }
+    }
+    return texts;
+}
+
+/// All that is to be seen of a document: its tree's labels, its page's title and what the page shows.
+template <typename Model>
+QStringList shownBy(Pane<Model> &pane)
+{
+    QStringList shown;
+    for (QTreeWidgetItemIterator item(&pane.tree); *item; ++item)
+        shown << (*item)->text(0);
+    QWidget *page = pane.page();
+    if (!page)
+        return shown;
+    shown << page->objectName();
+    for (QLabel *label : pane.stack.template findChildren<QLabel *>()) {
+        if (label->parent() == &pane.stack || page->isAncestorOf(label))
+            shown << label->text();
+    }
+    for (const IndexHint *hint : page->findChildren<IndexHint *>())
+        shown << hint->text();
+    for (const QWidget *editor : editorsOf(page))
+        shown << shownText(editor);
+    return shown;
+}
+} // namespace
+
+class tst_CommandPages;
+using Check = std::function<void(tst_CommandPages *)>;
+Q_DECLARE_METATYPE(Check)
+
+class tst_CommandPages : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void everyCommandIsFollowed_data();
+    void everyCommandIsFollowed();
+    void everyEditorMakesOneStep_data();
+    void everyEditorMakesOneStep();
+
+private:
+    template <typename Command>
+    void checkCommand();
+    template <typename Model>
+    void checkScreen(Pane<Model> &pane, const RecordRef &record);
+    template <typename Model>
+    void driveAll(Pane<Model> &pane, int selected);
+
+    QTemporaryDir m_home;
+    /// One to work in, and one in which the result is opened afresh.
+    std::unique_ptr<Panes> m_panes;
+    std::unique_ptr<Panes> m_fresh;
+    QSet<QString> m_editors;  ///< that have made their step
+    QSet<QByteArray> m_types; ///< of the commands that editors have made
+};
+
+void tst_CommandPages::initTestCase()
+{
+    TestSupport::useSettingsHome(m_home);
+    Settings::HideMeshData.setValue(false);
+    Settings::HideAnimData.setValue(false);
+    m_panes = std::make_unique<Panes>();
+    m_fresh = std::make_unique<Panes>();
+}
+
+/// The record alone is selected, and all is shown as if the model had come from a file like that.
+template <typename Model>
+void tst_CommandPages::checkScreen(Pane<Model> &pane, const RecordRef &record)
+{
+    QCOMPARE(pane.tree.currentRecord(), record);
+    QCOMPARE(pane.tree.selectedItems().size(), 1);
+    QCOMPARE(pane.tree.selectedRecords(record.kind), QVector<RecordIndex>{record.index});
+    Pane<Model> &fresh = m_fresh->of<Model>();
+    fresh.open(pane.document.model());
+    fresh.select({record});
+    QCOMPARE(shownBy(pane), shownBy(fresh));
+}
+
+template <typename Command>
+void tst_CommandPages::checkCommand()
+{
+    using Place = typename Command::Place;
+    auto &pane = m_panes->of<typename Command::Model>();
+    pane.open(SampleModels::plainModel<typename Command::Model>());
+    auto &document = pane.document;
+    const RecordRef root{document.rootKind(), {}};
+    const RecordRef record{Place::kind, someIndex<Place>(document.model())};
+    pane.select({record});
+    const QStringList shown = shownBy(pane);
+
+    // From wherever the user is.
+    pane.select({root});
+    pane.undo().push(make<Command>(document.editTarget(), record.index));
+    checkScreen(pane, record);
+    if (isField<Command>)
+        QVERIFY(shownBy(pane) != shown);
+    pane.select({root});
+    pane.undo().undo();
+    checkScreen(pane, record);
+    QCOMPARE(shownBy(pane), shown);
+    pane.select({root});
+    pane.undo().redo();
+    checkScreen(pane, record);
+}
+
+void tst_CommandPages::everyCommandIsFollowed_data()
+{
+    QTest::addColumn<Check>("check");
+    forEach([](auto tag) {
+        using Command = typename decltype(tag)::Type;
+        QTest::newRow(Command::name) << Check(&tst_CommandPages::checkCommand<Command>);
+    });
+}
+
+void tst_CommandPages::everyCommandIsFollowed()
+{
+    QFETCH(Check, check);
+    check(this);
+}
+
+/// Each editor of each page, with that many records of its kind selected where there are so many.
+template <typename Model>
+void tst_CommandPages::driveAll(Pane<Model> &pane, int selected)
+{
+    static const QHash<QString, QString> texts = stepTexts();
+    QVector<RecordKind> seen;
+    for (QTreeWidgetItemIterator item(&pane.tree); *item; ++item) {
+        const auto *parent = (*item)->parent();
+        QVector<RecordRef> records{static_cast<RecordItem *>(*item)->record()};
+        pane.select(records);
+        const RecordKind kind = records.first().kind;
+        if (!pane.page() || seen.contains(kind))
+            continue;
+        seen.append(kind);
+        for (int i = 1; parent && i < selected; ++i)
+            records << static_cast<RecordItem *>(parent->child(i))->record();
+        pane.select(records);
+        for (const IndexHint *hint : pane.page()->template findChildren<IndexHint *>())
+            QVERIFY2(!hint->text().isEmpty(), qPrintable(hint->objectName()));
+        for (QWidget *editor : editorsOf(pane.page())) {
+            const QString name = editor->objectName();
+            QVERIFY2(texts.contains(name) && !editor->toolTip().isEmpty(), qPrintable(name));
+            m_editors << name;
+            const QByteArray before = pane.bytes();
+            const QStringList shown = shownBy(pane);
+            enterSame(editor);
+            QVERIFY2(pane.undo().count() == 0 && pane.undo().isClean(), qPrintable(name));
+
+            enterOther(editor);
+            QVERIFY2(pane.undo().count() == 1, qPrintable(name));
+            QCOMPARE(pane.undo().undoText(), texts[name]);
+            const QUndoCommand &step = *pane.undo().command(0);
+            QCOMPARE(step.childCount(), parent ? records.size() : 0);
+            const QUndoCommand &first = parent ? *step.child(0) : step;
+            m_types << typeid(first).name();
+            const QByteArray after = pane.bytes();
+            QVERIFY2(after != before, qPrintable(name));
+            QCOMPARE(pane.tree.selectedItems().size(), records.size());
+            const QString text = shownText(editor);
+            for (const RecordRef &record : qAsConst(records)) {
+                pane.select({record});
+                QCOMPARE(shownText(editor), text);
+            }
+
+            pane.undo().undo();
+            QVERIFY2(pane.bytes() == before, qPrintable(name));
+            QCOMPARE(pane.tree.selectedItems().size(), records.size());
+            pane.undo().redo();
+            QVERIFY2(pane.bytes() == after, qPrintable(name));
+            pane.undo().undo();
+            pane.select(records);
+            QCOMPARE(shownBy(pane), shown);
+            pane.undo().clear();
+        }
+    }
+}
+
+void tst_CommandPages::everyEditorMakesOneStep_data()
+{
+    QTest::addColumn<int>("selected");
+    QTest::newRow("one record") << 1;
+    QTest::newRow("three records") << 3;
+}
+
+void tst_CommandPages::everyEditorMakesOneStep()
+{
+    QFETCH(int, selected);
+    m_editors.clear();
+    m_types.clear();
+    m_panes->mesh.open(SampleModels::plainMesh());
+    m_panes->anim.open(SampleModels::plainAnim());
+    m_panes->rigid.open(SampleModels::plainStatic());
+    driveAll(m_panes->mesh, selected);
+    driveAll(m_panes->anim, selected);
+    driveAll(m_panes->rigid, selected);
+
+    // Every editor that is known, and for every field's command one.
+    const QHash<QString, QString> texts = stepTexts();
+    QCOMPARE(m_editors.size(), texts.size());
+    forEach([this](auto tag) {
+        using Command = typename decltype(tag)::Type;
+        QVERIFY2(!isField<Command> || m_types.contains(typeid(Command).name()), Command::name);
+    });
+}
+
+QTEST_MAIN(tst_CommandPages)
+#include "tst_commandpages.moc"

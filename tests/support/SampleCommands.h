@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "AllCommands.h"
+#include "SampleModels.h"
+
+#include <algorithm>
+#include <cmath>
+#include <type_traits>
+
+/// Every command of the program on the records of a model.
+namespace SampleCommands {
+/// How many of the indexes a kind of record needs.
+template <typename RecordType, typename = void>
+inline constexpr size_t indexCount =
+    std::is_same_v<typename RecordType::Record, typename RecordType::Model> ? 0 : 3;
+template <typename RecordType>
+inline constexpr size_t indexCount<RecordType, std::void_t<decltype(RecordType::component)>> =
+    RecordType::component + 1;
+
+template <typename Command, typename = void>
+inline constexpr bool isField = false;
+template <typename Command>
+inline constexpr bool isField<Command, std::void_t<typename Command::Field>> = true;
+
+/// Whether the command changes a list: neither a field nor the whole model.
+template <typename Command>
+inline constexpr bool isStructure = !isField<Command> && (indexCount<typename Command::Place> > 0);
+
+template <typename Command>
+constexpr bool isInsertion()
+{
+    if constexpr (isStructure<Command>)
+        return std::is_constructible_v<Command, EditTarget<typename Command::Model>, RecordIndex,
+                                       typename Command::Record>;
+    return false;
+}
+
+/// A record of the kind, not the first where there is a choice.
+template <typename RecordType>
+RecordIndex someIndex(typename RecordType::Model &model)
+{
+    for (const int owner : {1, 0, 2, 3, 4, 5}) {
+        for (RecordIndex index :
+             {RecordIndex{owner, 1, 1}, RecordIndex{owner, 1, 0}, RecordIndex{owner, 0, 0}}) {
+            std::fill(index.begin() + indexCount<RecordType>, index.end(), 0);
+            if (RecordType::find(model, index))
+                return index;
+        }
+    }
+    return {};
+}
+
+// Another value than the given one, of each type that a field has.
+template <typename Number, std::enable_if_t<std::is_integral_v<Number>, int> = 0>
+Number other(Number value)
+{
+    return Number(value + 1);
+}
+inline float other(float value)
+{
+    return std::isfinite(value) && value + 1.5f != value ? value + 1.5f : 1.5f;
+}
+inline QString other(const QString &value)
+{
+    return value + QLatin1Char('x');
+}
+template <typename Vector, std::enable_if_t<std::is_class_v<Vector>, int> = 0>
+Vector other(Vector value)
+{
+    // The last component, so that a field that stores only its first is found out.
+    auto &last = value[int(sizeof(Vector) / sizeof(value[0])) - 1];
+    last = other(last);
+    return value;
+}
+
+/// A command that changes something at `index`, where a field or a list must be.
+template <typename Command>
+Command *make(EditTarget<typename Command::Model> target, const RecordIndex &index)
+{
+    if constexpr (isField<Command>) {
+        return new Command(target, index,
+                           other(Command::Field::get(*Command::Place::find(target.model, index))));
+    } else if constexpr (isInsertion<Command>()) {
+        const auto &list = *Command::Place::list(target.model, index);
+        return new Command(target, index, list.empty() ? typename Command::Record() : list.back());
+    } else if constexpr (isStructure<Command>) {
+        return new Command(target, index);
+    } else if constexpr (std::is_constructible_v<Command, EditTarget<typename Command::Model>, float>) {
+        return new Command(target, 3.0f);
+    } else {
+        return new Command(target, 10.0f, 20.0f, 30.0f);
+    }
+}
+
+/// Calls `body(CommandTag<Command>())` for every command.
+template <typename Body>
+void forEach(Body body)
+{
+    std::apply([&body](auto... tags) { (body(tags), ...); }, allCommands);
+}
+} // namespace SampleCommands

@@ -36,6 +36,7 @@ QPushButton *buttonFor(QAction *action, const char *name, QWidget *parent)
 
 ServersDock::ServersDock(QWidget *parent)
     : QDockWidget(parent)
+    , m_query(this)
 {
     auto *contents = new QWidget(this);
     m_icon = new QLabel(contents);

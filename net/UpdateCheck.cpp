@@ -20,7 +20,6 @@ QNetworkRequest requestFor(const QUrl &url)
     QNetworkRequest request(url);
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
                          QNetworkRequest::UserVerifiedRedirectPolicy);
-    request.setMaximumRedirectsAllowed(maximumRedirects);
     request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
@@ -90,6 +89,7 @@ void UpdateCheck::DoUpdateCheck(bool manual)
     m_running = true;
     m_document.clear();
     m_url = url;
+    m_redirects = 0;
     m_reply = m_manager.get(requestFor(url));
     m_reply->setReadBufferSize(maximumBytes);
     connect(m_reply, &QNetworkReply::readyRead, this, &UpdateCheck::readSome);
@@ -107,7 +107,7 @@ void UpdateCheck::readSome()
 
 void UpdateCheck::followRedirect(const QUrl &target)
 {
-    if (!isReleaseRedirect(m_url, target)) {
+    if (++m_redirects > maximumRedirects || !isReleaseRedirect(m_url, target)) {
         m_reply->abort();
         return;
     }

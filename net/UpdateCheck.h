@@ -59,6 +59,7 @@ private:
     QNetworkAccessManager m_manager;
     QPointer<QNetworkReply> m_reply;
     QUrl m_url; ///< where the reply comes from; the reply itself may name its next place already
+    int m_redirects = 0;
     QByteArray m_document;
     QTimer m_timeLimit;
     Clock m_clock = &QDateTime::currentDateTime;

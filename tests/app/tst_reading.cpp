@@ -127,8 +127,7 @@ void tst_Reading::aboutNamesTheProgram()
     QCOMPARE(label("lblVersion")->text(), QStringLiteral("Korvane v7.8.9"));
     QVERIFY(!label("lblIcon")->pixmap(Qt::ReturnByValue).isNull());
     const QString licences = label("lblLicences")->text();
-    for (const char *word :
-         {"Korvane", "MIT", "Qt " QT_VERSION_STR, "LGPL", "Assimp", "BSD", "Lucide", "ISC"})
+    for (const char *word : {"Korvane", "MIT", "Qt 5.", "LGPL", "Assimp", "BSD", "Lucide", "ISC"})
         QVERIFY2(licences.contains(QLatin1String(word)), word);
     emit label("lblLicences")->linkActivated(QStringLiteral("https://lucide.dev"));
     QCOMPARE(m_opened, QStringList("https://lucide.dev"));

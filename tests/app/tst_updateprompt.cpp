@@ -44,7 +44,7 @@ void tst_UpdatePrompt::initTestCase()
     QNetworkProxyFactory::setUseSystemConfiguration(false);
     qRegisterMetaType<QNetworkReply *>();
     QCoreApplication::setApplicationVersion(QStringLiteral("0.9.2"));
-    for (const char *scheme : {"http", "https", "file", "steam"})
+    for (const char *scheme : {"http", "https", "file"})
         QDesktopServices::setUrlHandler(QLatin1String(scheme), this, "take");
 }
 
@@ -79,10 +79,6 @@ void tst_UpdatePrompt::boxes_data()
         << QStringList(offer("1.%2", "<b>bold</b> <img src='file:///x'>%1")) << "";
     QTest::newRow("file") << releaseDocument("1", "file:///bin/sh") << int(Box::Yes)
                           << QStringList({offer("1", "News"), refused + "file:///bin/sh"}) << "";
-    QTest::newRow("another program") << releaseDocument("1", "steam://run/1") << int(Box::Yes)
-                                     << QStringList({offer("1", "News"), refused + "steam://run/1"}) << "";
-    QTest::newRow("no link at all") << releaseDocument("1", "www.a.b") << int(Box::Yes)
-                                    << QStringList({offer("1", "News"), refused + "www.a.b"}) << "";
     QTest::newRow("endless message") << releaseDocument("1", "https://a", QByteArray(50000, 'x'))
                                      << int(Box::No) << QStringList(offer("1", QString(2000, 'x'))) << "";
     QTest::newRow("nothing new") << releaseDocument("0.9.2", "https://a") << int(Box::Ok)
@@ -122,23 +118,17 @@ void tst_UpdatePrompt::boxes()
 void tst_UpdatePrompt::checksAtStart_data()
 {
     QTest::addColumn<bool>("wanted");
-    QTest::addColumn<int>("hoursAgo"); // of the last request; 0 is never
     QTest::addColumn<bool>("asks");
-    QTest::newRow("first start") << true << 0 << true;
-    QTest::newRow("next day") << true << 25 << true;
-    QTest::newRow("same day") << true << 23 << false;
-    QTest::newRow("not wanted") << false << 0 << false;
+    QTest::newRow("wanted") << true << true;
+    QTest::newRow("not wanted") << false << false;
 }
 
 void tst_UpdatePrompt::checksAtStart()
 {
     QFETCH(bool, wanted);
-    QFETCH(int, hoursAgo);
     QFETCH(bool, asks);
     Settings::Updates.setValue(wanted);
     QSettings().remove(Settings::UpdateDate.name());
-    if (hoursAgo > 0)
-        Settings::UpdateDate.setValue(QDateTime::currentDateTime().addSecs(-3600 * hoursAgo));
     m_web->serve(releaseDocument("1", "https://a"));
     QMainWindow window;
     QAction action;

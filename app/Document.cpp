@@ -34,21 +34,27 @@ Document::~Document()
 
 QString Document::fileName() const
 {
-    return QFileInfo(m_path).fileName();
+    return m_path.isEmpty() ? m_unsavedName : QFileInfo(m_path).fileName();
 }
 
 bool Document::open(const QString &path, QString *reason)
 {
     if (readModel(path, reason))
         return true;
+    replace(path, {});
+    return false;
+}
+
+void Document::replace(const QString &path, const QString &unsavedName)
+{
     emit aboutToBeReplaced();
     // Commands name records of the model that goes: they go with it.
     m_undoStack.clear();
     adoptModel();
     m_path = path;
+    m_unsavedName = unsavedName;
     m_open = true;
     emit replaced();
-    return false;
 }
 
 bool Document::save(const QString &path)

@@ -26,6 +26,7 @@ public:
     bool isModified() const { return !m_undoStack.isClean(); }
     /// The file, with the toolkit's separators; empty for a document that was never saved.
     QString path() const { return m_path; }
+    /// The file's name; for a document that was never saved, the name that it would get.
     QString fileName() const;
     QUndoStack *undoStack() { return &m_undoStack; }
 
@@ -58,9 +59,10 @@ signals:
     void structuresChanged(const QVector<StructureChange> &changes);
 
 protected:
+    /// Lets the model that was read, or handed over, last take the place of the current one.
+    void replace(const QString &path, const QString &unsavedName);
     /// Reads a new model beside the current one; returns true on failure.
     virtual bool readModel(const QString &path, QString *reason) = 0;
-    /// Lets the model that was read last take the place of the current one.
     virtual void adoptModel() = 0;
     virtual bool writeModel(const QString &path) const = 0;
 
@@ -69,6 +71,7 @@ private:
     const RecordKind m_rootKind;
     bool m_open = false;
     QString m_path;
+    QString m_unsavedName;
     QUndoStack m_undoStack;
     QVector<RecordRef> m_changes;
     QVector<StructureChange> m_structureChanges;
@@ -84,6 +87,13 @@ public:
     const Model &model() const { return m_model; }
     QString refusal() const override { return m_model.refusal(); }
     EditTarget<Model> editTarget() { return {m_model, *this}; }
+
+    /// Takes over a model that has no file yet; `name`, without extension, is what it would be saved as.
+    void take(Model model, const QString &name)
+    {
+        m_fresh = std::move(model);
+        replace({}, name + QLatin1Char('.') + kind().extension);
+    }
 
     int recordCount(RecordKind kind, const RecordIndex &index) const override
     {

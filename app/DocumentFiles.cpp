@@ -100,8 +100,11 @@ bool DocumentFiles::promptUnsaved(DocumentType type, QEvent *event)
     finishTyping();
     if (!document(type)->isModified())
         return true;
-    const QString text = tr("Would you like to save the %2?\n\n%1")
-                             .arg(QDir::toNativeSeparators(document(type)->path()), documentKind(type).label);
+    const QString path = document(type)->path();
+    const QString text =
+        tr("Would you like to save the %2?\n\n%1")
+            .arg(path.isEmpty() ? document(type)->fileName() : QDir::toNativeSeparators(path),
+                 documentKind(type).label);
     const auto answer =
         QMessageBox::question(m_window, tr("Unsaved changes"), text,
                               QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);

@@ -7,7 +7,11 @@
 #include "ConsoleLog.h"
 #include "ControlsDialog.h"
 #include "DocumentFiles.h"
+#include "ExplorerFiles.h"
+#include "FileDrop.h"
 #include "FolderExplorer.h"
+#include "ImportDialog.h"
+#include "ImportExport.h"
 #include "ModelTransforms.h"
 #include "OptionsDialog.h"
 #include "Playback.h"
@@ -40,6 +44,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_files(new DocumentFiles({&m_skinnedMesh, &m_anim, &m_staticMesh}, this))
     , m_transforms(new ModelTransforms(
           m_skinnedMesh, m_staticMesh, [this] { return currentDocument(); }, this))
+    , m_importExport(new ImportExport(m_skinnedMesh, m_anim, m_staticMesh, *m_files, this))
 {
     m_ui->setupUi(this);
     createConsole();
@@ -133,17 +138,17 @@ void MainWindow::createPanes()
                 [this, type] { onRecordsChanged(type, {}); });
         connect(made.tree, &KVTreeView::currentRecordChanged, this,
                 [this, type](const RecordRef &record) { showInViewport(type, record); });
-        // Queued: a question asked from within the selection's change would swallow the mouse's release.
-        connect(
-            made.explorer, &FolderExplorer::fileChosen, this,
-            [this, type](const QString &path) { openFromExplorer(type, path); }, Qt::QueuedConnection);
     }
     connect(m_ui->tabDatabase, &DatabaseTab::told, statusBar(),
             [this](const QString &text) { statusBar()->showMessage(text, 5000); });
     connect(m_files, &DocumentFiles::saved, this, &MainWindow::onSaved);
+    connect(m_importExport, &ImportExport::imported, this, &MainWindow::showPane);
 
-    pane(DocumentType::Anim).explorer->addExtraAction(m_ui->actionAnimSyncSkin);
-    connect(m_ui->actionAnimSyncSkin, &QAction::triggered, this, &MainWindow::OnActionAnimSyncSkinSelect);
+    auto *explorerFiles =
+        new ExplorerFiles(*m_files, {m_panes[0].explorer, m_panes[1].explorer, m_panes[2].explorer},
+                          m_ui->actionAnimSyncSkin, this);
+    connect(explorerFiles, &ExplorerFiles::opened, this, &MainWindow::showPane);
+    connect(new FileDrop(this), &FileDrop::dropped, this, &MainWindow::openFiles);
 }
 
 void MainWindow::createViewToolBars()
@@ -164,11 +169,8 @@ void MainWindow::readSettings()
 {
     for (const auto *key :
          {&Settings::HideMeshData, &Settings::HideAnimData, &Settings::StaticMeshQuickSelect,
-          &Settings::SkinnedMeshQuickSelect, &Settings::AnimationQuickSelect, &Settings::AnimationSyncSkin,
-          &Settings::AnimationAutoPlay})
+          &Settings::SkinnedMeshQuickSelect, &Settings::AnimationQuickSelect, &Settings::AnimationAutoPlay})
         key->ensure();
-
-    m_ui->actionAnimSyncSkin->setChecked(Settings::AnimationSyncSkin.value());
 }
 
 void MainWindow::connectPlayback()
@@ -214,7 +216,9 @@ void MainWindow::openFiles(const QStringList &paths)
     const DocumentKind *first = nullptr;
     for (const QString &path : paths) {
         const DocumentKind *kind = documentKindOfFile(path);
-        if (!kind) {
+        if (!kind && ImportDialog::isModelFile(path)) {
+            importFile(path);
+        } else if (!kind) {
             QMessageBox::warning(this, tr("File error"),
                                  tr("Failed to open\n%1").arg(QDir::toNativeSeparators(path)));
         } else if (!m_files->open(kind->type, QFileInfo(path).absoluteFilePath()) && !first) {
@@ -223,6 +227,12 @@ void MainWindow::openFiles(const QStringList &paths)
     }
     if (first)
         showPane(first->type);
+}
+
+void MainWindow::importFile(const QString &path)
+{
+    const bool toStatic = m_ui->tabWidget->currentWidget() == m_ui->tabStatic;
+    m_importExport->importModel(toStatic ? DocumentType::StaticMesh : DocumentType::SkinnedMesh, path);
 }
 
 Document *MainWindow::currentDocument()
@@ -243,6 +253,8 @@ void MainWindow::updateCurrentDocument()
     if (!current)
         statusBar()->clearMessage();
     m_ui->actionOpen->setEnabled(document);
+    m_ui->actionImport->setEnabled(document);
+    m_ui->actionExport->setEnabled(document);
     m_ui->actionSave->setEnabled(isOpen);
     m_ui->actionSaveAs->setEnabled(isOpen);
     m_ui->actionRotate->setEnabled(isOpen && document != &m_anim);
@@ -294,34 +306,6 @@ void MainWindow::onSaved(DocumentType type)
         written.explorer->selectPath(written.document->path());
     }
     updateCurrentDocument();
-}
-
-void MainWindow::openFromExplorer(DocumentType type, const QString &path)
-{
-    // Picked while the question about an earlier pick was still open.
-    if (QApplication::activeModalWidget())
-        return;
-    const Pane &target = pane(type);
-    if (!m_files->promptUnsaved(type) || m_files->open(type, path)) {
-        target.explorer->selectPath(target.document->path());
-        return;
-    }
-    showPane(type);
-    if (type == DocumentType::SkinnedMesh && m_ui->actionAnimSyncSkin->isChecked())
-        openMatchingAnimation(path);
-}
-
-void MainWindow::openMatchingAnimation(const QString &meshPath)
-{
-    const QFileInfo mesh(meshPath);
-    FolderExplorer *explorer = pane(DocumentType::Anim).explorer;
-    const QString path = explorer->findMatching(mesh.dir().dirName(), mesh.completeBaseName());
-    if (path.isEmpty())
-        return;
-    if (path != m_anim.path() &&
-        (!m_files->promptUnsaved(DocumentType::Anim) || m_files->open(DocumentType::Anim, path)))
-        return;
-    explorer->selectPath(path);
 }
 
 void MainWindow::onRecordsChanged(DocumentType type, const QVector<RecordRef> &records)
@@ -399,6 +383,20 @@ void MainWindow::on_actionSaveAll_triggered()
     m_files->saveAll();
 }
 
+void MainWindow::on_actionImport_triggered()
+{
+    if (currentPane())
+        importFile({});
+}
+
+void MainWindow::on_actionExport_triggered()
+{
+    if (m_ui->tabWidget->currentWidget() == m_ui->tabSkinned)
+        QMessageBox::information(this, tr("Error"), tr("No dice!"));
+    else if (m_ui->tabWidget->currentWidget() == m_ui->tabStatic)
+        m_importExport->exportStaticMesh();
+}
+
 void MainWindow::on_actionExit_triggered()
 {
     close();
@@ -472,11 +470,6 @@ void MainWindow::on_tabTrees_currentChanged(int index)
     const DocumentType type = index == 0 ? DocumentType::SkinnedMesh : DocumentType::Anim;
     showInViewport(type, pane(type).tree->currentRecord());
     updateCurrentDocument();
-}
-
-void MainWindow::OnActionAnimSyncSkinSelect(bool on)
-{
-    Settings::AnimationSyncSkin.setValue(on);
 }
 
 void MainWindow::OnConsoleCustomContextMenu(const QPoint &position)

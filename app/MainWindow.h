@@ -13,6 +13,7 @@
 class ConsoleLog;
 class DocumentFiles;
 class FolderExplorer;
+class ImportExport;
 class KVOpenGLWidget;
 class KVTreeView;
 class ModelTransforms;
@@ -31,7 +32,8 @@ public:
     explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
 
-    /// Opens files by their extension, each in its tab; the first one's tab becomes current.
+    /// Opens files by their extension, each in its tab; the first one's tab becomes current. A model of a
+    /// foreign format goes to the import dialog.
     void openFiles(const QStringList &paths);
 
 protected:
@@ -45,6 +47,8 @@ private slots:
     void on_actionSkinnedSaveAs_triggered();
     void on_actionAnimSaveAs_triggered();
     void on_actionSaveAll_triggered();
+    void on_actionImport_triggered();
+    void on_actionExport_triggered();
     void on_actionExit_triggered();
     void on_actionResetCamera_triggered();
     void on_actionFullScreen_triggered(bool on);
@@ -57,7 +61,6 @@ private slots:
     void on_actionConsoleClear_triggered();
     void on_tabWidget_currentChanged();
     void on_tabTrees_currentChanged(int index);
-    void OnActionAnimSyncSkinSelect(bool on);
     void OnConsoleCustomContextMenu(const QPoint &position);
     void OnUndoCleanChanged();
 
@@ -84,6 +87,7 @@ private:
     Pane &pane(DocumentType type) { return m_panes[size_t(type)]; }
     std::array<KVOpenGLWidget *, 2> viewports() const;
     void showPane(DocumentType type);
+    void importFile(const QString &path);
     Document *currentDocument();
     void updateCurrentDocument();
     void showReadOut(const QString &text);
@@ -91,8 +95,6 @@ private:
     void onSaved(DocumentType type);
     void onRecordsChanged(DocumentType type, const QVector<RecordRef> &records);
     void showInViewport(DocumentType type, const RecordRef &record);
-    void openFromExplorer(DocumentType type, const QString &path);
-    void openMatchingAnimation(const QString &meshPath);
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     ConsoleLog *m_console = nullptr;
@@ -102,6 +104,7 @@ private:
     QUndoGroup m_undoGroup;
     DocumentFiles *m_files;
     ModelTransforms *m_transforms;
+    ImportExport *m_importExport;
     std::array<Pane, 3> m_panes{};
     QString m_readOut; ///< the camera position that the status bar shows
 };

@@ -93,6 +93,19 @@ inline const SettingKey<QString> StaticMeshLoadPath{"StaticMeshLoadPath", {}};
 inline const SettingKey<QString> SkinnedMeshSavePath{"SkinnedMeshSavePath", {}};
 inline const SettingKey<QString> AnimationSavePath{"AnimationSavePath", {}};
 inline const SettingKey<QString> StaticMeshSavePath{"StaticMeshSavePath", {}};
+inline const SettingKey<QString> StaticMeshExportPath{"StaticMeshExportPath", {}};
+inline const SettingKey<QString> ImportPath{"ImportPath", {}};
+
+// Import. The time limit is in seconds.
+inline const SettingKey<bool> ImportSwapYZ{"ImportSwapYZ", false};
+inline const SettingKey<bool> ImportGenNormals{"ImportGenNormals", true};
+inline const SettingKey<bool> ImportFlipUV{"ImportFlipUV", false};
+inline const SettingKey<bool> ImportFlipWindingOrder{"ImportFlipWindingOrder", false};
+inline const SettingKey<bool> ImportTextures{"ImportTextures", false};
+inline const SettingKey<bool> ImportKMat{"ImportKMat", false};
+inline const SettingKey<bool> ImportRotPitch{"ImportRotPitch", true};
+inline const SettingKey<float> ImportScale{"ImportScale", 1.0f};
+inline const SettingKey<int> ImportTimeLimit{"ImportTimeLimit", 60};
 
 // Viewport. MouseSpeed is in units per pixel (or per 1 ms tick of a held key), Brightness a factor.
 inline const SettingKey<QColor> BGColor{"BGColor", QColor(0, 170, 255, 255)};

@@ -6,6 +6,8 @@
 #include <QQuaternion>
 #include <QVector3D>
 
+#include <algorithm>
+
 /// The rotation by Euler angles in degrees: roll about z first, then pitch about x, then yaw about y.
 inline QMatrix4x4 eulerRotation(float pitch, float yaw, float roll)
 {
@@ -45,4 +47,19 @@ void scaleBox(float factor, Boxed &boxed)
 {
     boxed.bbMin *= factor;
     boxed.bbMax *= factor;
+}
+
+/// Makes the box of a mesh the smallest one around its vertices; without vertices it is left as it is.
+template <typename Mesh>
+void boundVertices(Mesh &mesh)
+{
+    if (mesh.vertices.empty())
+        return;
+    mesh.bbMin = mesh.bbMax = mesh.vertices.front().position;
+    for (const auto &vertex : mesh.vertices) {
+        for (int axis = 0; axis < 3; ++axis) {
+            mesh.bbMin[axis] = std::min(mesh.bbMin[axis], vertex.position[axis]);
+            mesh.bbMax[axis] = std::max(mesh.bbMax[axis], vertex.position[axis]);
+        }
+    }
 }

@@ -7,18 +7,9 @@
 #include <QFileInfo>
 #include <QImageReader>
 
-#include <algorithm>
-
 namespace {
 // A picture's header is not to be trusted with more memory than this, in pixels (256 MiB as RGBA).
 constexpr qint64 PixelLimit = 64 * 1024 * 1024;
-
-QString withoutTrailingSeparators(QString folder)
-{
-    while (folder.endsWith(QLatin1Char('/')) || folder.endsWith(QLatin1Char('\\')))
-        folder.chop(1);
-    return folder;
-}
 
 QImage loadImage(const QString &path)
 {
@@ -34,14 +25,10 @@ QImage loadImage(const QString &path)
 } // namespace
 
 MaterialTextures::MaterialTextures(const QString &gamePath, const QString &outputDir, const QString &logTag)
-    : m_logTag(logTag)
+    : m_materials(gamePath, outputDir)
+    , m_logTag(logTag)
     , m_blank(resourceImage(QStringLiteral(":/Images/textures/blank.png")))
-{
-    for (const QString &folder : {gamePath, outputDir}) {
-        if (!folder.isEmpty())
-            m_folders.append(withoutTrailingSeparators(folder));
-    }
-}
+{}
 
 QImage MaterialTextures::resourceImage(const QString &path)
 {
@@ -53,60 +40,19 @@ QImage MaterialTextures::resourceImage(const QString &path)
     return white;
 }
 
-QStringList MaterialTextures::candidates(const QString &relativePath) const
-{
-    QStringList paths;
-    for (const QString &folder : m_folders)
-        paths.append(folder + QLatin1Char('/') + relativePath);
-    return paths;
-}
-
-MaterialTextures::MaterialFile &MaterialTextures::materialFile(const QString &relativePath)
-{
-    const auto known = m_files.find(relativePath);
-    if (known != m_files.end())
-        return *known;
-
-    MaterialFile file;
-    const QStringList paths = candidates(relativePath);
-    if (paths.isEmpty()) {
-        file.error = QStringLiteral("Unable to read .kMat file at %1").arg(relativePath);
-    } else {
-        file.error = readKMat(paths, file.table);
-        const auto found = std::find_if(paths.begin(), paths.end(),
-                                        [](const QString &path) { return QFileInfo(path).isFile(); });
-        file.path = found != paths.end() ? *found : paths.last();
-    }
-    return *m_files.insert(relativePath, file);
-}
-
 QImage MaterialTextures::image(const QString &materialPath)
 {
-    const QFileInfo parts(materialPath);
-    const QString material = parts.fileName();
-    MaterialFile &file = materialFile(parts.path() + QStringLiteral(".kmat"));
-
-    const auto entry = file.table.find(material);
-    if (entry == file.table.end()) {
-        // Imported surfaces without a texture and the program's own meshes are named so and have no file.
-        if (material.endsWith(QLatin1String("_white")))
-            return m_blank;
-        if (!file.path.isEmpty() && file.error.isEmpty())
-            warn(QStringLiteral("No material '%1' in '%2'").arg(material, file.path));
-    }
-    if (!file.error.isEmpty()) {
-        Log::error(QStringLiteral("[%1] %2").arg(m_logTag, file.error));
-        file.error.clear();
-        file.path.clear();
-    }
-
-    const QString name = entry != file.table.end() ? entry->second : QString();
-    return name == QLatin1String("_white") ? m_blank : texture(name);
+    const MaterialFiles::Lookup found = m_materials.find(materialPath);
+    if (!found.error.isEmpty())
+        Log::error(QStringLiteral("[%1] %2").arg(m_logTag, found.error));
+    if (!found.warning.isEmpty())
+        warn(found.warning);
+    return found.texture == MaterialFiles::Blank ? m_blank : texture(found.texture);
 }
 
 QImage MaterialTextures::texture(const QString &name)
 {
-    const QStringList paths = candidates(name);
+    const QStringList paths = m_materials.candidates(name);
     auto known = m_images.find(name);
     if (known == m_images.end()) {
         QImage image;

@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "KMat.h"
+#include "MaterialFiles.h"
 
 #include <QHash>
 #include <QImage>
 
 /// Finds the texture images of one model's surfaces through their materials, in the game folder and then in
-/// the mod folder. Lives as long as one build of a mesh: material files and decoded images are kept, the
-/// failures too.
+/// the mod folder. Lives as long as one build of a mesh: decoded images are kept, the failures too.
 class MaterialTextures
 {
 public:
@@ -24,21 +23,11 @@ public:
     static QImage resourceImage(const QString &path);
 
 private:
-    struct MaterialFile
-    {
-        MaterialTable table;
-        QString error;
-        QString path; ///< the file that was read
-    };
-
-    QStringList candidates(const QString &relativePath) const;
-    MaterialFile &materialFile(const QString &relativePath);
     QImage texture(const QString &name);
     void warn(const QString &text) const;
 
-    QStringList m_folders;
+    MaterialFiles m_materials;
     QString m_logTag;
-    QHash<QString, MaterialFile> m_files;
     QHash<QString, QImage> m_images; ///< by texture name; null images are failures
     QImage m_blank;
 };

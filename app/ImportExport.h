@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Document.h"
+
+class DocumentFiles;
+class QMainWindow;
+
+/// Brings models of foreign formats in and out, with the dialogs that belong to it.
+class ImportExport : public QObject
+{
+    Q_OBJECT
+
+public:
+    ImportExport(SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticMeshDocument &staticMesh,
+                 DocumentFiles &files, QMainWindow *window);
+
+    /// Opens the import dialog for a mesh of this kind, with `modelPath` chosen if there is one. Unsaved
+    /// changes of the documents that the import would replace are asked for before.
+    void importModel(DocumentType type, const QString &modelPath = {});
+
+    /// Asks for a folder and exports the static mesh to it, as OBJ with its materials and textures.
+    void exportStaticMesh();
+
+signals:
+    /// An imported model has taken the place of a document.
+    void imported(DocumentType type);
+
+private:
+    SkinnedMeshDocument &m_skinnedMesh;
+    AnimDocument &m_anim;
+    StaticMeshDocument &m_staticMesh;
+    DocumentFiles &m_files;
+    QMainWindow *m_window;
+};

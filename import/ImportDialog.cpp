@@ -1,0 +1,524 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "ImportDialog.h"
+
+#include "Fuzzy.h"
+#include "ImportFlags.h"
+#include "ImportOutput.h"
+#include "ListIcon.h"
+#include "Settings.h"
+#include "Transform.h"
+#include "ui_ImportDialog.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QLocale>
+#include <QLoggingCategory>
+#include <QMessageBox>
+#include <QRegularExpression>
+#include <QSet>
+
+#include <algorithm>
+#include <utility>
+
+Q_LOGGING_CATEGORY(importDialogLog, "korvane.import", QtInfoMsg)
+
+namespace {
+constexpr float PitchOfSkinnedMesh = 90.0f;
+constexpr float PitchOfStaticMesh = -90.0f;
+
+QString defaultKMatPath(const QString &modelPath)
+{
+    return QStringLiteral("materials/mat_%1.kmat").arg(QFileInfo(modelPath).completeBaseName());
+}
+
+float storedScale(const QDoubleSpinBox &box)
+{
+    return float(qBound(box.minimum(), double(Settings::ImportScale.value()), box.maximum()));
+}
+} // namespace
+
+QString ImportDialog::modelFilter()
+{
+    return QStringLiteral(
+        "Wavefront Object (*.obj);;Collada (*.dae);;Autodesk (*.fbx);;Blender 3D (*.blend);;3ds Max 3DS "
+        "(*.3ds);;"
+        "3ds Max ASE (*.ase);;glTF (*.gltf, *.glb);;Industry Foundation Classes (IFC/Step) (*.ifc);;XGL "
+        "(*.xgl, "
+        "*.zgl);;Stanford Polygon Library (*.ply);;AutoCAD DXF (*.dxf);;LightWave (.lwo);;LightWave Scene "
+        "(*.lws);;Modo (*.lxo);;Stereolithography (*.stl);;DirectX X (*.x);;AC3D (*.ac);;Milkshape 3D "
+        "(*.ms3d);;TrueSpace (*.cob, *.scn);;Biovision BVH (*.bvh);;CharacterStudio Motion (*.csm);;Ogre XML "
+        "(*.xml);;Irrlicht Mesh (*.irrmesh);;Irrlicht Scene (*.irr);;Quake I (*.mdl);;Quake II "
+        "(*.md2);;Quake III "
+        "Mesh (*.md3);;Quake III Map/BSP (*.pk3);;Return to Castle Wolfenstein (*.mdc);;Doom 3 "
+        "(*.md5*);;Valve "
+        "Model (*.smd, *.vta);;Open Game Engine Exchange (*.ogex);;Unreal (*.3d);;BlitzBasic 3D "
+        "(*.b3d);;Quick3D (*.q3d, *.q3s);;Neutral File Format (*.nff);;Sense8 WorldToolKit (*.nff);;Object "
+        "File "
+        "Format (*.off);;PovRAY Raw (*.raw);;Terragen Terrain (*.ter);;3D GameStudio (3DGS) (*.mdl);;3D "
+        "GameStudio (3DGS) Terrain (*.hmp);;Izware Nendo (*.ndo);;All (*.*)");
+}
+
+bool ImportDialog::isModelFile(const QString &path)
+{
+    static const QSet<QString> extensions = [] {
+        QSet<QString> found;
+        static const QRegularExpression pattern(QStringLiteral("\\.([a-z0-9]+)"));
+        for (auto match = pattern.globalMatch(modelFilter()); match.hasNext();)
+            found.insert(match.next().captured(1));
+        return found;
+    }();
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    return extensions.contains(suffix) || suffix.startsWith(QLatin1String("md5"));
+}
+
+ImportDialog::ImportDialog(Mode mode, QWidget *parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::ImportDialog>())
+    , m_mode(mode)
+    , m_texturePath(QStringLiteral("textures"))
+    , m_outputDir(Settings::OutputDir.value())
+    , m_swapYZ(Settings::ImportSwapYZ.value())
+    , m_genNormals(Settings::ImportGenNormals.value())
+    , m_flipUV(Settings::ImportFlipUV.value())
+    , m_flipWindingOrder(Settings::ImportFlipWindingOrder.value())
+    , m_copyTextures(Settings::ImportTextures.value())
+    , m_createKMat(Settings::ImportKMat.value())
+    , m_rotatePitch(Settings::ImportRotPitch.value())
+{
+    m_ui->setupUi(this);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    setWindowTitle(tr("Import model to %1").arg(modeName()));
+    m_ui->btnImport->setText(tr("&Import to %1!").arg(modeName()));
+    m_scale = storedScale(*m_ui->sbScale);
+    for (QListWidget *list : {m_ui->listSuccess, m_ui->listError}) {
+        auto *copy = new QAction(QIcon(QStringLiteral(":/Images/Icons/copy.png")), tr("&Copy"), list);
+        copy->setShortcut(QKeySequence::Copy);
+        copy->setShortcutContext(Qt::WidgetShortcut);
+        list->addAction(copy);
+        list->setContextMenuPolicy(Qt::ActionsContextMenu);
+        const auto copyLines = [list] {
+            QStringList lines;
+            for (int row = 0; row < list->count(); ++row)
+                lines += list->item(row)->text();
+            QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+        };
+        connect(copy, &QAction::triggered, this, copyLines);
+        connect(list == m_ui->listSuccess ? m_ui->btnSuccessCopy : m_ui->btnErrorCopy, &QPushButton::clicked,
+                this, copyLines);
+    }
+    fillEditors();
+    connectEditors();
+    connect(&m_worker, &ImportWorker::finished, this, &ImportDialog::onWorkerFinished);
+    m_tick.setInterval(100);
+    connect(&m_tick, &QTimer::timeout, this, &ImportDialog::updateElapsed);
+    m_ui->stackPages->setCurrentWidget(m_ui->pageOptions);
+    updateImportButton();
+}
+
+ImportDialog::~ImportDialog() = default;
+
+QString ImportDialog::modeName() const
+{
+    return m_mode == SkinnedMeshMode ? tr("Skinned Mesh") : tr("Static Mesh");
+}
+
+QString ImportDialog::nativeModelPath() const
+{
+    return QDir::toNativeSeparators(m_modelPath);
+}
+
+void ImportDialog::setVersions(qint32 meshVersion, qint32 animVersion)
+{
+    m_meshVersion = meshVersion;
+    m_animVersion = animVersion;
+}
+
+void ImportDialog::setModelPath(const QString &path)
+{
+    m_modelPath = QFileInfo(path).absoluteFilePath();
+    m_kmatPath = defaultKMatPath(m_modelPath);
+    fillEditors();
+    updateImportButton();
+}
+
+void ImportDialog::fillEditors()
+{
+    m_ui->txtModelPath->setText(nativeModelPath());
+    m_ui->txtKMatPath->setText(QDir::toNativeSeparators(m_kmatPath));
+    m_ui->txtTexPath->setText(QDir::toNativeSeparators(m_texturePath));
+    m_ui->txtT2Dir->setText(QDir::toNativeSeparators(m_outputDir));
+    m_ui->cbSwapYZ->setChecked(m_swapYZ);
+    m_ui->cbGenNormals->setChecked(m_genNormals);
+    m_ui->cbFlipUV->setChecked(m_flipUV);
+    m_ui->cbFlipWindingOrder->setChecked(m_flipWindingOrder);
+    m_ui->cbCopyTextures->setChecked(m_copyTextures);
+    m_ui->cbCreateKMat->setChecked(m_createKMat);
+    m_ui->cbRotatePitch->setChecked(m_rotatePitch);
+    m_ui->sbScale->setValue(double(m_scale));
+}
+
+void ImportDialog::connectEditors()
+{
+    connect(m_ui->txtModelPath, &QLineEdit::editingFinished, this, &ImportDialog::OnTxtModelPathChanged);
+    connect(m_ui->txtModelPath, &QLineEdit::textChanged, this, &ImportDialog::updateImportButton);
+    connect(m_ui->txtKMatPath, &QLineEdit::editingFinished, this, &ImportDialog::OnTxtKMatPathChanged);
+    connect(m_ui->txtTexPath, &QLineEdit::editingFinished, this, &ImportDialog::OnTxtTexPathChanged);
+    connect(m_ui->txtT2Dir, &QLineEdit::editingFinished, this, &ImportDialog::OnTxtT2DirChanged);
+    for (QLineEdit *edit : {m_ui->txtModelPath, m_ui->txtKMatPath, m_ui->txtTexPath, m_ui->txtT2Dir})
+        connect(edit, &QLineEdit::returnPressed, this, &ImportDialog::LoseWidgetFocus);
+    connect(m_ui->cbSwapYZ, &QCheckBox::toggled, this, &ImportDialog::OnSwapYZChanged);
+    connect(m_ui->cbGenNormals, &QCheckBox::toggled, this, &ImportDialog::OnGenNormalsChanged);
+    connect(m_ui->cbFlipUV, &QCheckBox::toggled, this, &ImportDialog::OnFlipUVChanged);
+    connect(m_ui->cbFlipWindingOrder, &QCheckBox::toggled, this,
+            &ImportDialog::OnCBcbFlipWindingOrderChanged);
+    connect(m_ui->cbCopyTextures, &QCheckBox::toggled, this, &ImportDialog::OnCBCopyTexturesChanged);
+    connect(m_ui->cbCreateKMat, &QCheckBox::toggled, this, &ImportDialog::OnCBCreateKMatChanged);
+    connect(m_ui->cbRotatePitch, &QCheckBox::toggled, this, &ImportDialog::OnCBRotatePitchChanged);
+    connect(m_ui->sbScale, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
+            &ImportDialog::OnScaleChanged);
+}
+
+// --- Choices -----------------------------------------------------------------------------------------------
+
+void ImportDialog::on_btnModelBrowse_clicked()
+{
+    const QString path = QFileDialog::getOpenFileName(this, tr("Import Model to %1").arg(modeName()),
+                                                      Settings::ImportPath.value(), modelFilter());
+    if (path.isEmpty())
+        return;
+    Settings::ImportPath.setValue(QFileInfo(path).absolutePath());
+    setModelPath(path);
+}
+
+void ImportDialog::on_btnT2DirBrowse_clicked()
+{
+    const QString folder = m_chooseFolder(this, tr("Turok 2 Output Folder"), m_outputDir);
+    if (folder.isEmpty())
+        return;
+    m_ui->txtT2Dir->setText(QDir::toNativeSeparators(folder));
+    OnTxtT2DirChanged();
+}
+
+void ImportDialog::on_btnkmatPathBrowse_clicked()
+{
+    QFileDialog dialog(this, tr("Save .kmat"), m_outputDir, tr("Material (*.kmat)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("kmat"));
+    const QFileInfo current(m_outputDir + QLatin1Char('/') + m_kmatPath);
+    if (current.dir().exists())
+        dialog.setDirectory(current.path());
+    dialog.selectFile(current.fileName());
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return;
+    m_ui->txtKMatPath->setText(dialog.selectedFiles().first());
+    OnTxtKMatPathChanged();
+}
+
+void ImportDialog::on_btnTextureDirBrowse_clicked()
+{
+    const QString folder =
+        m_chooseFolder(this, tr("Texture Output Folder"), m_outputDir + QLatin1Char('/') + m_texturePath);
+    if (folder.isEmpty())
+        return;
+    m_ui->txtTexPath->setText(folder);
+    OnTxtTexPathChanged();
+}
+
+void ImportDialog::LoseWidgetFocus()
+{
+    if (QWidget *editor = focusWidget())
+        editor->clearFocus();
+    m_pathEntered = true;
+}
+
+void ImportDialog::keyPressEvent(QKeyEvent *event)
+{
+    // Enter in a path ends the typing only; the next one imports.
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!std::exchange(m_pathEntered, false) || !isEnter)
+        QDialog::keyPressEvent(event);
+}
+
+void ImportDialog::OnTxtModelPathChanged()
+{
+    const QString path = QDir::fromNativeSeparators(m_ui->txtModelPath->text());
+    if (path == m_modelPath)
+        return;
+    // A material file that was named after the model before follows; a chosen one stays.
+    const bool follows = m_kmatPath.isEmpty() || m_kmatPath == defaultKMatPath(m_modelPath);
+    m_modelPath = path;
+    if (follows)
+        m_kmatPath = defaultKMatPath(path);
+    m_ui->txtKMatPath->setText(QDir::toNativeSeparators(m_kmatPath));
+}
+
+void ImportDialog::OnTxtKMatPathChanged()
+{
+    const QString typed = QDir::fromNativeSeparators(m_ui->txtKMatPath->text());
+    if (typed != m_kmatPath && !refusePath(typed))
+        m_kmatPath = pathInside(m_outputDir, typed);
+    m_ui->txtKMatPath->setText(QDir::toNativeSeparators(m_kmatPath));
+}
+
+void ImportDialog::OnTxtTexPathChanged()
+{
+    const QString typed = QDir::fromNativeSeparators(m_ui->txtTexPath->text());
+    if (typed != m_texturePath && !refusePath(typed))
+        m_texturePath = pathInside(m_outputDir, typed);
+    m_ui->txtTexPath->setText(QDir::toNativeSeparators(m_texturePath));
+}
+
+/// Says so and returns true when the path is not inside the mod folder.
+bool ImportDialog::refusePath(const QString &path)
+{
+    if (!pathInside(m_outputDir, path).isNull())
+        return false;
+    QMessageBox::warning(this, tr("kmat Path Error"), tr("Path must be relative to Turok 2 Folder"));
+    return true;
+}
+
+void ImportDialog::OnTxtT2DirChanged()
+{
+    m_outputDir = normalizedFolder(m_ui->txtT2Dir->text());
+    Settings::OutputDir.setValue(m_outputDir);
+}
+
+void ImportDialog::OnSwapYZChanged(bool on)
+{
+    m_swapYZ = on;
+    Settings::ImportSwapYZ.setValue(on);
+}
+
+void ImportDialog::OnGenNormalsChanged(bool on)
+{
+    m_genNormals = on;
+    Settings::ImportGenNormals.setValue(on);
+}
+
+void ImportDialog::OnFlipUVChanged(bool on)
+{
+    m_flipUV = on;
+    Settings::ImportFlipUV.setValue(on);
+}
+
+void ImportDialog::OnCBcbFlipWindingOrderChanged(bool on)
+{
+    m_flipWindingOrder = on;
+    Settings::ImportFlipWindingOrder.setValue(on);
+}
+
+void ImportDialog::OnCBCopyTexturesChanged(bool on)
+{
+    m_copyTextures = on;
+    Settings::ImportTextures.setValue(on);
+}
+
+void ImportDialog::OnCBCreateKMatChanged(bool on)
+{
+    m_createKMat = on;
+    Settings::ImportKMat.setValue(on);
+}
+
+void ImportDialog::OnCBRotatePitchChanged(bool on)
+{
+    m_rotatePitch = on;
+    Settings::ImportRotPitch.setValue(on);
+}
+
+void ImportDialog::OnScaleChanged(double scale)
+{
+    m_scale = float(scale);
+    Settings::ImportScale.setValue(m_scale);
+}
+
+void ImportDialog::updateImportButton()
+{
+    m_ui->btnImport->setEnabled(!m_ui->txtModelPath->text().isEmpty());
+}
+
+// --- Run ---------------------------------------------------------------------------------------------------
+
+QStringList ImportDialog::outputProblems() const
+{
+    const auto native = [](const QString &path) { return QDir::toNativeSeparators(path); };
+    const QString root = m_outputDir + QLatin1Char('/');
+    const QString kmatFolder = QFileInfo(root + m_kmatPath).path();
+    QStringList problems;
+    if (m_outputDir.isEmpty() || !QFileInfo(m_outputDir).isDir())
+        problems += tr("Turok 2 Folder '%1' doesn't exist.").arg(native(m_outputDir));
+    if (m_createKMat && !QFileInfo(kmatFolder).isDir())
+        problems += tr("Turok 2 Folder + kmat Path '%1' doesn't exist.").arg(native(kmatFolder));
+    if (m_copyTextures && !QFileInfo(root + m_texturePath).isDir())
+        problems +=
+            tr("Turok 2 Folder + Texture Folder '%1' doesn't exist.").arg(native(root + m_texturePath));
+    return problems;
+}
+
+quint32 ImportDialog::importFlags() const
+{
+    return (m_mode == SkinnedMeshMode ? ImportFlags::SkinnedMesh : ImportFlags::StaticMesh) |
+           (m_genNormals ? ImportFlags::GenerateNormals : 0) | (m_flipUV ? ImportFlags::FlipUV : 0) |
+           (m_flipWindingOrder ? ImportFlags::FlipWindingOrder : 0);
+}
+
+void ImportDialog::on_btnImport_clicked()
+{
+    const QStringList problems = outputProblems();
+    if (!problems.isEmpty()) {
+        QMessageBox::warning(this, tr("Output Folder Error"), problems.join(QLatin1Char('\n')));
+        return;
+    }
+    WorkerJob job;
+    job.task =
+        m_mode == SkinnedMeshMode ? WorkerJob::Task::ImportSkinnedMesh : WorkerJob::Task::ImportStaticMesh;
+    job.modelPath = m_modelPath;
+    job.kmatPath = m_kmatPath;
+    job.flags = importFlags();
+    job.meshVersion = m_meshVersion;
+    job.animVersion = m_animVersion;
+    m_worker.setTimeLimit(std::max(1, Settings::ImportTimeLimit.value()) * 1000);
+
+    m_ui->lblProgress->setText(tr("Reading '%1'").arg(nativeModelPath()));
+    m_ui->stackPages->setCurrentWidget(m_ui->pageProgress);
+    m_ui->btnStop->setFocus();
+    m_tick.start();
+    m_worker.start(job);
+    updateElapsed();
+}
+
+void ImportDialog::updateElapsed()
+{
+    const double seconds = double(m_worker.elapsed()) / 1000.0;
+    m_ui->lblElapsed->setText(tr("%1 s of at most %2 s")
+                                  .arg(QLocale().toString(seconds, 'f', 1),
+                                       QLocale().toString(std::max(1, Settings::ImportTimeLimit.value()))));
+}
+
+void ImportDialog::on_btnStop_clicked()
+{
+    m_worker.cancel();
+}
+
+void ImportDialog::on_btnCancel_clicked()
+{
+    reject();
+}
+
+void ImportDialog::on_btnSuccess_clicked()
+{
+    accept();
+}
+
+void ImportDialog::on_btnErrorBack_clicked()
+{
+    m_ui->stackPages->setCurrentWidget(m_ui->pageOptions);
+    m_ui->txtModelPath->setFocus();
+}
+
+void ImportDialog::reject()
+{
+    if (m_worker.isRunning())
+        m_worker.cancel();
+    else if (m_ui->stackPages->currentWidget() == m_ui->pageSuccess)
+        accept();
+    else
+        QDialog::reject();
+}
+
+// --- Result ------------------------------------------------------------------------------------------------
+
+void ImportDialog::onWorkerFinished()
+{
+    m_tick.stop();
+    ImportMessages messages = m_worker.messages();
+    QString outcome;
+    if (!messages.hasError()) {
+        if (m_mode == SkinnedMeshMode)
+            finishSkinnedMesh(messages, outcome);
+        else
+            finishStaticMesh(messages, outcome);
+    }
+    if (messages.hasError())
+        showError(messages);
+    else
+        showSuccess(messages, outcome);
+}
+
+void ImportDialog::finishSkinnedMesh(ImportMessages &messages, QString &outcome)
+{
+    SkinnedMesh mesh;
+    AnimFile anim;
+    if (m_worker.read(mesh, anim)) {
+        messages.addError(tr("%1 Could not read file. The result was damaged.").arg(m_modelPath));
+        return;
+    }
+    writeOutputs(mesh, messages, outcome);
+    if (m_rotatePitch) {
+        mesh.rotate(PitchOfSkinnedMesh, 0.0f, 0.0f);
+        boundVertices(mesh);
+    }
+    if (!fuzzyEqual(m_scale, 1.0f))
+        mesh.scale(m_scale);
+    emit skinnedMeshImported(mesh, anim, QFileInfo(m_modelPath).completeBaseName());
+}
+
+void ImportDialog::finishStaticMesh(ImportMessages &messages, QString &outcome)
+{
+    StaticMesh mesh;
+    if (m_worker.read(mesh)) {
+        messages.addError(tr("%1 Could not read file. The result was damaged.").arg(m_modelPath));
+        return;
+    }
+    writeOutputs(mesh, messages, outcome);
+    if (m_rotatePitch)
+        mesh.rotate(PitchOfStaticMesh, 0.0f, 0.0f);
+    if (!fuzzyEqual(m_scale, 1.0f))
+        mesh.scale(m_scale);
+    emit staticMeshImported(mesh, QFileInfo(m_modelPath).completeBaseName());
+}
+
+template <typename Mesh>
+void ImportDialog::writeOutputs(const Mesh &mesh, ImportMessages &messages, QString &outcome) const
+{
+    const QString root = m_outputDir + QLatin1Char('/');
+    if (m_copyTextures)
+        outcome += copyTextures(m_worker.textures(), root + m_texturePath, messages);
+    if (m_createKMat) {
+        qCDebug(importDialogLog, "[Write to .kmat] %s", qUtf8Printable(root + m_kmatPath));
+        outcome += createKMat(root + m_kmatPath,
+                              materialsOf(mesh.surfaces, m_worker.textures(), m_texturePath), messages);
+    }
+}
+
+void ImportDialog::showSuccess(const ImportMessages &messages, const QString &outcome)
+{
+    m_ui->lblSuccess->setText(tr("Successfully imported '%1' to %2\n").arg(nativeModelPath(), modeName()) +
+                              outcome);
+    fill(m_ui->listSuccess, messages);
+    m_ui->stackPages->setCurrentWidget(m_ui->pageSuccess);
+    m_ui->btnSuccess->setFocus();
+}
+
+void ImportDialog::showError(const ImportMessages &messages)
+{
+    m_ui->lblError->setText(tr("Error importing '%1'").arg(nativeModelPath()));
+    fill(m_ui->listError, messages);
+    m_ui->stackPages->setCurrentWidget(m_ui->pageError);
+    m_ui->btnErrorBack->setFocus();
+}
+
+void ImportDialog::fill(QListWidget *list, const ImportMessages &messages)
+{
+    static const char *const icons[] = {"error", "warning", "info"};
+    list->clear();
+    for (const ImportMessage &line : messages.lines) {
+        auto *item = new QListWidgetItem(listIcon(QLatin1String(icons[int(line.severity)])), line.text, list);
+        item->setData(Qt::UserRole, int(line.severity));
+    }
+}

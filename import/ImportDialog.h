@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "FolderChooser.h"
+#include "ImportWorker.h"
+
+#include <QDialog>
+#include <QTimer>
+
+#include <memory>
+
+class QListWidget;
+
+namespace Ui {
+class ImportDialog;
+}
+
+/// Imports a model of a foreign format: choices, a wait that can be given up, and an account of what
+/// happened. Every choice is written to the settings at once.
+class ImportDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    enum Mode { SkinnedMeshMode, StaticMeshMode };
+
+    explicit ImportDialog(Mode mode, QWidget *parent = nullptr);
+    ~ImportDialog() override;
+
+    /// Takes this model as if it had been chosen, with the material file named after it.
+    void setModelPath(const QString &path);
+    /// What the new model's `version` field shall hold.
+    void setVersions(qint32 meshVersion, qint32 animVersion);
+    void setFolderChooser(FolderChooser chooser) { m_chooseFolder = std::move(chooser); }
+
+    /// The open-dialog filter of all interchange formats.
+    static QString modelFilter();
+    /// Whether the filter names the file's extension.
+    static bool isModelFile(const QString &path);
+
+    void reject() override;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+signals:
+    /// The import has succeeded; `name` is the source's complete base name.
+    void skinnedMeshImported(const SkinnedMesh &mesh, const AnimFile &anim, const QString &name);
+    void staticMeshImported(const StaticMesh &mesh, const QString &name);
+
+private slots:
+    void on_btnImport_clicked();
+    void on_btnCancel_clicked();
+    void on_btnStop_clicked();
+    void on_btnSuccess_clicked();
+    void on_btnErrorBack_clicked();
+    void on_btnModelBrowse_clicked();
+    void on_btnT2DirBrowse_clicked();
+    void on_btnkmatPathBrowse_clicked();
+    void on_btnTextureDirBrowse_clicked();
+    void LoseWidgetFocus();
+    void OnTxtModelPathChanged();
+    void OnTxtKMatPathChanged();
+    void OnTxtTexPathChanged();
+    void OnTxtT2DirChanged();
+    void OnSwapYZChanged(bool on);
+    void OnGenNormalsChanged(bool on);
+    void OnFlipUVChanged(bool on);
+    void OnCBcbFlipWindingOrderChanged(bool on);
+    void OnCBCopyTexturesChanged(bool on);
+    void OnCBCreateKMatChanged(bool on);
+    void OnCBRotatePitchChanged(bool on);
+    void OnScaleChanged(double scale);
+
+private:
+    QString modeName() const;
+    QString nativeModelPath() const;
+    void fillEditors();
+    void connectEditors();
+    void updateElapsed();
+    void updateImportButton();
+    bool refusePath(const QString &path);
+    QStringList outputProblems() const;
+    quint32 importFlags() const;
+
+    void onWorkerFinished();
+    void finishSkinnedMesh(ImportMessages &messages, QString &outcome);
+    void finishStaticMesh(ImportMessages &messages, QString &outcome);
+    template <typename Mesh>
+    void writeOutputs(const Mesh &mesh, ImportMessages &messages, QString &outcome) const;
+    void showSuccess(const ImportMessages &messages, const QString &outcome);
+    void showError(const ImportMessages &messages);
+    static void fill(QListWidget *list, const ImportMessages &messages);
+
+    std::unique_ptr<Ui::ImportDialog> m_ui;
+    const Mode m_mode;
+    FolderChooser m_chooseFolder = chooseFolder;
+    ImportWorker m_worker;
+    QTimer m_tick; ///< of the elapsed time
+    QString m_modelPath;
+    QString m_kmatPath;    ///< relative to the mod folder
+    QString m_texturePath; ///< a folder, relative to the mod folder
+    QString m_outputDir;
+    qint32 m_meshVersion = 2;
+    qint32 m_animVersion = 2;
+    bool m_swapYZ;
+    bool m_genNormals;
+    bool m_flipUV;
+    bool m_flipWindingOrder;
+    bool m_copyTextures;
+    bool m_createKMat;
+    bool m_rotatePitch;
+    float m_scale;
+    bool m_pathEntered = false; ///< the Enter key that comes next has ended the typing of a path
+};

@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "ImportOutput.h"
+
+#include "SkinnedMesh.h"
+#include "StaticMesh.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+bool copyTexture(const QString &source, const QString &target, ImportMessages &messages)
+{
+    const QString there = QFileInfo(target).canonicalFilePath();
+    if (!there.isEmpty() && there == QFileInfo(source).canonicalFilePath())
+        return false;
+    QFile from(source);
+    QSaveFile to(target);
+    const bool readable = QFileInfo(source).isFile() && from.open(QIODevice::ReadOnly);
+    if (readable && !to.open(QIODevice::WriteOnly) && QFileInfo::exists(target)) {
+        messages.addWarning(QStringLiteral("Could not overwrite texture '%1'").arg(target));
+        return true;
+    }
+    if (readable && to.isOpen() && to.write(from.readAll()) == from.size() && to.commit())
+        return false;
+    messages.addWarning(QStringLiteral("Could not copy texture from '%1' to '%2'").arg(source, target));
+    return true;
+}
+
+QString copyTextures(const QStringList &textures, const QString &folder, ImportMessages &messages)
+{
+    bool any = false;
+    bool failed = false;
+    for (const QString &texture : textures) {
+        if (texture.isEmpty())
+            continue;
+        any = true;
+        const QString target = folder + QLatin1Char('/') + QFileInfo(texture).fileName();
+        failed = copyTexture(texture, target, messages) || failed;
+    }
+    return !any     ? QStringLiteral("Model had no textures to copy\n")
+           : failed ? QStringLiteral("Failed on copying textures\n")
+                    : QStringLiteral("Successfully copied textures\n");
+}
+
+template <typename Surfaces>
+MaterialTable materialsOf(const Surfaces &surfaces, const QStringList &textures, const QString &textureFolder)
+{
+    const QString folder = textureFolder.isEmpty() ? QString() : textureFolder + QLatin1Char('/');
+    MaterialTable table;
+    auto texture = textures.begin();
+    for (const auto &surface : surfaces) {
+        const QString name = QFileInfo(surface.materialPath).fileName();
+        const bool isWhite = name.endsWith(QLatin1String("_white")) || texture == textures.end();
+        table[name] = isWhite ? QStringLiteral("_white") : folder + QFileInfo(*texture++).fileName();
+    }
+    return table;
+}
+
+template MaterialTable materialsOf(const std::vector<SkinnedMeshSurface> &, const QStringList &,
+                                   const QString &);
+template MaterialTable materialsOf(const std::vector<StaticMeshSurface> &, const QStringList &,
+                                   const QString &);
+
+QString createKMat(const QString &path, const MaterialTable &materials, ImportMessages &messages)
+{
+    const QString error = writeKMat(path, materials);
+    if (error.isEmpty())
+        return QStringLiteral("Successfully created .kmat file\n");
+    messages.addWarning(error);
+    return QStringLiteral("Failed on creating .kmat file\n");
+}
+
+QString pathInside(const QString &folder, const QString &path)
+{
+    if (folder.isEmpty())
+        return {};
+    const QDir root(QDir::cleanPath(QDir::fromNativeSeparators(folder)));
+    const QString relative =
+        QDir::cleanPath(root.relativeFilePath(root.absoluteFilePath(QDir::fromNativeSeparators(path))));
+    if (relative == QLatin1String("..") || relative.startsWith(QLatin1String("../")) ||
+        QDir::isAbsolutePath(relative))
+        return {};
+    return relative == QLatin1String(".") ? QStringLiteral("") : relative;
+}

@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "ImportWorker.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QProcessEnvironment>
+
+namespace {
+/// Beside the running program; tests, which run from folders of their own, name another.
+QString workerProgram()
+{
+    const QString named = qEnvironmentVariable("KORVANE_IMPORT_WORKER");
+    return !named.isEmpty()
+               ? named
+               : QCoreApplication::applicationDirPath() + QStringLiteral("/korvane-import-worker");
+}
+} // namespace
+
+ImportWorker::ImportWorker(QObject *parent)
+    : QObject(parent)
+    , m_program(workerProgram())
+{
+    // File names in UTF-8 and numbers with a point, whatever the desktop speaks.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    m_process.setProcessEnvironment(environment);
+    m_process.setStandardOutputFile(QProcess::nullDevice());
+    m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    m_process.setStandardInputFile(QProcess::nullDevice());
+    m_limit.setSingleShot(true);
+    connect(&m_process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
+            &ImportWorker::onProcessFinished);
+    connect(&m_process, &QProcess::errorOccurred, this, &ImportWorker::onProcessError);
+    connect(&m_limit, &QTimer::timeout, this,
+            [this] { stop(tr("It took longer than %n second(s).", nullptr, m_timeLimit / 1000)); });
+}
+
+ImportWorker::~ImportWorker()
+{
+    m_process.disconnect(this);
+    m_process.kill();
+    m_process.waitForFinished();
+}
+
+void ImportWorker::start(const WorkerJob &job)
+{
+    if (prepare(job))
+        finish(tr("No temporary folder could be made."));
+    else
+        launch();
+}
+
+void ImportWorker::start(const WorkerJob &job, const StaticMesh &mesh)
+{
+    if (prepare(job) || mesh.write(WorkerFolder(m_folder->path()).staticMesh()))
+        finish(tr("No temporary file could be written."));
+    else
+        launch();
+}
+
+bool ImportWorker::prepare(const WorkerJob &job)
+{
+    Q_ASSERT(!m_running);
+    m_job = job;
+    m_job.modelPath = QFileInfo(job.modelPath).absoluteFilePath();
+    m_answer = {};
+    m_messages = {};
+    m_stopReason.clear();
+    m_running = true;
+    m_elapsed.start();
+    m_folder = std::make_unique<QTemporaryDir>();
+    return !m_folder->isValid() || WorkerFolder(m_folder->path()).write(m_job);
+}
+
+void ImportWorker::launch()
+{
+    m_limit.start(m_timeLimit);
+    m_process.start(m_program, {m_folder->path()});
+}
+
+void ImportWorker::cancel()
+{
+    stop(tr("It was cancelled."));
+}
+
+void ImportWorker::stop(const QString &reason)
+{
+    if (!m_running)
+        return;
+    m_stopReason = reason;
+    m_process.kill();
+}
+
+void ImportWorker::onProcessError(QProcess::ProcessError error)
+{
+    // Of every other error the end of the process tells.
+    if (error == QProcess::FailedToStart)
+        finish(tr("'%1' could not be started: %2").arg(m_program, m_process.errorString()));
+}
+
+void ImportWorker::onProcessFinished(int exitCode, QProcess::ExitStatus status)
+{
+    if (!m_stopReason.isEmpty())
+        finish(m_stopReason);
+    else if (status == QProcess::CrashExit)
+        finish(tr("The process that reads foreign files crashed on it."));
+    else if (exitCode != EXIT_SUCCESS || WorkerFolder(m_folder->path()).read(m_answer))
+        finish(tr("The process that reads foreign files gave no answer."));
+    else
+        finish({});
+}
+
+void ImportWorker::finish(const QString &failure)
+{
+    if (!m_running)
+        return;
+    m_running = false;
+    m_limit.stop();
+    m_messages.lines = m_answer.messages;
+    if (!failure.isEmpty()) {
+        m_answer = {};
+        const bool exporting = m_job.task == WorkerJob::Task::ExportObj;
+        m_messages.lines.clear();
+        m_messages.addError(exporting
+                                ? QStringLiteral("%1 Could not write file. %2").arg(m_job.objName, failure)
+                                : QStringLiteral("%1 Could not read file. %2").arg(m_job.modelPath, failure));
+    }
+    emit finished();
+}
+
+bool ImportWorker::read(SkinnedMesh &mesh, AnimFile &anim) const
+{
+    const WorkerFolder folder(m_folder->path());
+    anim.version = m_job.animVersion;
+    return mesh.read(folder.skinnedMesh()) || (QFileInfo::exists(folder.anim()) && anim.read(folder.anim()));
+}
+
+bool ImportWorker::read(StaticMesh &mesh) const
+{
+    return mesh.read(WorkerFolder(m_folder->path()).staticMesh());
+}
+
+QString ImportWorker::madeFile(const QString &name) const
+{
+    return WorkerFolder(m_folder->path()).path(name);
+}

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "WorkerJob.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <memory>
+
+/// Has one job at a time done by the worker process. Whatever becomes of that process, finished() comes once
+/// a job, with an error line in messages() if there is no result; a job's temporary files go with the next
+/// job or with this object.
+class ImportWorker : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ImportWorker(QObject *parent = nullptr);
+    ~ImportWorker() override;
+
+    /// The worker's executable; by default the one beside the running program, or
+    /// the one that the environment names in KORVANE_IMPORT_WORKER.
+    void setProgram(const QString &path) { m_program = path; }
+    /// In milliseconds, for one job.
+    void setTimeLimit(int limit) { m_timeLimit = limit; }
+
+    void start(const WorkerJob &job);
+    /// The same, with the model to be exported.
+    void start(const WorkerJob &job, const StaticMesh &mesh);
+    bool isRunning() const { return m_running; }
+    /// Of the running job, in milliseconds.
+    qint64 elapsed() const { return m_elapsed.elapsed(); }
+    void cancel();
+
+    // What the last job gave. The models are read from its files at the call.
+    const ImportMessages &messages() const { return m_messages; }
+    const QStringList &textures() const { return m_answer.textures; }
+    /// These return true on failure. An animation file without blocks stands for no animation.
+    [[nodiscard]] bool read(SkinnedMesh &mesh, AnimFile &anim) const;
+    [[nodiscard]] bool read(StaticMesh &mesh) const;
+    /// The path of a file that the job made.
+    QString madeFile(const QString &name) const;
+
+signals:
+    void finished();
+
+private:
+    bool prepare(const WorkerJob &job);
+    void launch();
+    void onProcessFinished(int exitCode, QProcess::ExitStatus status);
+    void onProcessError(QProcess::ProcessError error);
+    void stop(const QString &reason);
+    void finish(const QString &failure);
+
+    QString m_program;
+    int m_timeLimit = 60000;
+    WorkerJob m_job;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QProcess m_process;
+    QTimer m_limit;
+    QElapsedTimer m_elapsed;
+    QString m_stopReason; ///< why we ended the process ourselves
+    bool m_running = false;
+    WorkerAnswer m_answer;
+    ImportMessages m_messages;
+};

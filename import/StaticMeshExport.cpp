@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "StaticMeshExport.h"
+
+#include "ImportOutput.h"
+#include "ImportWorker.h"
+#include "MaterialFiles.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QSaveFile>
+
+#include <algorithm>
+
+namespace {
+Q_LOGGING_CATEGORY(exportLog, "korvane.export", QtInfoMsg)
+
+/// The file of a texture in the first folder that has it; in the last one when none has.
+QString textureFile(const QString &texture, const MaterialFiles &materials, ImportMessages &messages)
+{
+    const QStringList paths = materials.candidates(texture);
+    const auto found = std::find_if(paths.begin(), paths.end(),
+                                    [](const QString &path) { return QFileInfo(path).isFile(); });
+    if (found != paths.end())
+        return *found;
+    const QString path = paths.isEmpty() ? texture : paths.last();
+    messages.addWarning(QStringLiteral("[Static Mesh Export] Texture not found '%1'").arg(path));
+    return path;
+}
+
+bool placeFile(const QString &source, const QString &target)
+{
+    QFile made(source);
+    QSaveFile file(target);
+    return !made.open(QIODevice::ReadOnly) || !file.open(QIODevice::WriteOnly) ||
+           file.write(made.readAll()) != made.size() || !file.commit();
+}
+} // namespace
+
+WorkerJob staticMeshExport(const StaticMesh &mesh, const QString &meshPath, MaterialFiles &materials,
+                           ImportMessages &messages)
+{
+    WorkerJob job;
+    job.task = WorkerJob::Task::ExportObj;
+    const QString base = QFileInfo(meshPath).completeBaseName();
+    job.objName = (base.isEmpty() ? QStringLiteral("untitled") : base) + QStringLiteral(".obj");
+    if (mesh.surfaces.empty()) {
+        messages.addError(QStringLiteral("[Static Mesh Export] Mesh has no surfaces"));
+        return job;
+    }
+    QStringList names;
+    for (const StaticMeshSurface &surface : mesh.surfaces) {
+        const MaterialFiles::Lookup found = materials.find(surface.materialPath);
+        qCDebug(exportLog, "[Static Mesh Export] %s", qUtf8Printable(found.texture));
+        for (const QString &problem : {found.error, found.warning}) {
+            if (!problem.isEmpty())
+                messages.addWarning(QStringLiteral("[Static Mesh Export] %1").arg(problem));
+        }
+        if (found.texture.isEmpty() || found.texture == MaterialFiles::Blank) {
+            job.textureOfSurface.push_back(-1);
+            continue;
+        }
+        if (!names.contains(found.texture)) {
+            names.append(found.texture);
+            job.textures.append(textureFile(found.texture, materials, messages));
+        }
+        job.textureOfSurface.push_back(qint32(names.indexOf(found.texture)));
+    }
+    return job;
+}
+
+bool placeExport(const ImportWorker &worker, const WorkerJob &job, const QString &folder,
+                 ImportMessages &messages)
+{
+    const QDir target(folder);
+    const QString mtlName = QFileInfo(job.objName).completeBaseName() + QStringLiteral(".mtl");
+    // The materials first, so that an OBJ file never stands without them.
+    for (const QString &name : {mtlName, job.objName}) {
+        if (placeFile(worker.madeFile(name), target.filePath(name))) {
+            messages.addError(QStringLiteral("[Static Mesh Export] %1 Could not write file.")
+                                  .arg(QDir::toNativeSeparators(target.filePath(name))));
+            return true;
+        }
+    }
+    for (const QString &texture : job.textures) {
+        if (QFileInfo(texture).isFile())
+            copyTexture(texture, target.filePath(QFileInfo(texture).fileName()), messages);
+    }
+    return false;
+}

@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "WorkerJob.h"
+
+#include <QDataStream>
+#include <QFile>
+
+namespace {
+// Changes with the fields: an editor and a worker of different builds must not misunderstand each other.
+constexpr quint32 JobMark = 0x4B564A31;
+constexpr quint32 AnswerMark = 0x4B564131;
+
+template <typename Write>
+bool writeStream(const QString &path, quint32 mark, Write write)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return true;
+    QDataStream stream(&file);
+    stream.setVersion(QDataStream::Qt_5_15);
+    stream << mark;
+    write(stream);
+    return stream.status() != QDataStream::Ok || !file.flush();
+}
+
+template <typename Read>
+bool readStream(const QString &path, quint32 mark, Read read)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return true;
+    QDataStream stream(&file);
+    stream.setVersion(QDataStream::Qt_5_15);
+    quint32 found = 0;
+    stream >> found;
+    if (found != mark)
+        return true;
+    read(stream);
+    return stream.status() != QDataStream::Ok || !stream.atEnd();
+}
+} // namespace
+
+bool WorkerFolder::write(const WorkerJob &job) const
+{
+    return writeStream(path(QStringLiteral("job")), JobMark, [&job](QDataStream &out) {
+        out << qint32(job.task) << qint32(job.memoryLimitMiB) << job.modelPath << job.kmatPath << job.flags
+            << job.meshVersion << job.animVersion << job.objName << job.textures
+            << QVector<qint32>(job.textureOfSurface.begin(), job.textureOfSurface.end());
+    });
+}
+
+bool WorkerFolder::read(WorkerJob &job) const
+{
+    return readStream(path(QStringLiteral("job")), JobMark, [&job](QDataStream &in) {
+        qint32 task = 0;
+        qint32 limit = 0;
+        QVector<qint32> textureOfSurface;
+        in >> task >> limit >> job.modelPath >> job.kmatPath >> job.flags >> job.meshVersion >>
+            job.animVersion >> job.objName >> job.textures >> textureOfSurface;
+        job.task = WorkerJob::Task(task);
+        job.memoryLimitMiB = limit;
+        job.textureOfSurface.assign(textureOfSurface.begin(), textureOfSurface.end());
+    });
+}
+
+bool WorkerFolder::write(const WorkerAnswer &answer) const
+{
+    return writeStream(path(QStringLiteral("answer")), AnswerMark, [&answer](QDataStream &out) {
+        out << answer.textures << qint32(answer.messages.size());
+        for (const ImportMessage &message : answer.messages)
+            out << qint32(message.severity) << message.text;
+    });
+}
+
+bool WorkerFolder::read(WorkerAnswer &answer) const
+{
+    return readStream(path(QStringLiteral("answer")), AnswerMark, [&answer](QDataStream &in) {
+        qint32 count = 0;
+        in >> answer.textures >> count;
+        for (qint32 i = 0; i < count && in.status() == QDataStream::Ok; ++i) {
+            qint32 severity = 0;
+            QString text;
+            in >> severity >> text;
+            answer.messages.append({LogSeverity(severity), text});
+        }
+    });
+}

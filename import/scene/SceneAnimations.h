@@ -1,0 +1,10 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "AnimFile.h"
+#include "Skeleton.h"
+
+/// Makes a block of every animation of the scene. Keys are taken by number, not by time: frame f is key f,
+/// and the last key of a channel goes on to the end.
+void addAnimations(const SceneSource &source, const Skeleton &skeleton, size_t boneCount, AnimFile &file);

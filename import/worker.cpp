@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+//
+// Reads and writes foreign model files for the editor, in a process of its own: the library that does it is
+// killed by some damaged files and never returns from others.
+#include "ObjExport.h"
+#include "SceneImport.h"
+#include "WorkerJob.h"
+
+#include <QCoreApplication>
+
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+
+#ifdef Q_OS_UNIX
+#include <sys/resource.h>
+#endif
+#ifdef Q_OS_LINUX
+#include <csignal>
+#include <sys/prctl.h>
+#endif
+
+namespace {
+/// Sanitizers reserve terabytes of address space for themselves.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool HasMemoryLimit = false;
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+constexpr bool HasMemoryLimit = false;
+#else
+constexpr bool HasMemoryLimit = true;
+#endif
+#else
+constexpr bool HasMemoryLimit = true;
+#endif
+
+/// Takes care that this process harms nobody, and that it does not outlive the editor.
+void confine(int memoryLimitMiB)
+{
+#ifdef Q_OS_UNIX
+    const rlim_t limit = rlim_t(memoryLimitMiB) * 1024 * 1024;
+    const rlimit memory{limit, limit};
+    if (HasMemoryLimit && memoryLimitMiB > 0)
+        setrlimit(RLIMIT_AS, &memory);
+    const rlimit noCore{0, 0};
+    setrlimit(RLIMIT_CORE, &noCore);
+#else
+    Q_UNUSED(memoryLimitMiB)
+#endif
+#ifdef Q_OS_LINUX
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+#endif
+}
+
+void work(const WorkerJob &job, const WorkerFolder &folder, WorkerAnswer &answer, ImportMessages &messages)
+{
+    bool failed = false;
+    switch (job.task) {
+    case WorkerJob::Task::ImportSkinnedMesh: {
+        SkinnedMesh mesh;
+        AnimFile anim;
+        mesh.version = job.meshVersion;
+        anim.version = job.animVersion;
+        importSkinnedMesh(job.modelPath, job.kmatPath, job.flags, answer.textures, mesh, anim, messages);
+        // A file of no animation cannot be written: none stands for it.
+        if (!messages.hasError())
+            failed = mesh.write(folder.skinnedMesh()) || (!anim.blocks.empty() && anim.write(folder.anim()));
+        break;
+    }
+    case WorkerJob::Task::ImportStaticMesh: {
+        StaticMesh mesh = importStaticMesh(job.modelPath, job.kmatPath, job.flags, answer.textures, messages);
+        mesh.version = job.meshVersion;
+        if (!messages.hasError())
+            failed = mesh.write(folder.staticMesh());
+        break;
+    }
+    case WorkerJob::Task::ExportObj: {
+        StaticMesh mesh;
+        failed = mesh.read(folder.staticMesh());
+        if (!failed)
+            exportObj(mesh, job.textures, job.textureOfSurface, folder.path(job.objName), messages);
+        break;
+    }
+    }
+    if (failed)
+        messages.addError(QStringLiteral("%1 The model could not be handed over.").arg(job.modelPath));
+}
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication application(argc, argv);
+    // Importers of the library read numbers as the locale writes them.
+    std::setlocale(LC_NUMERIC, "C");
+    const QStringList arguments = QCoreApplication::arguments();
+    WorkerJob job;
+    if (arguments.size() != 2 || WorkerFolder(arguments.at(1)).read(job)) {
+        std::fputs("korvane-import-worker reads model files for Korvane, which starts it.\n", stderr);
+        return EXIT_FAILURE;
+    }
+    confine(job.memoryLimitMiB);
+
+    const WorkerFolder folder(arguments.at(1));
+    WorkerAnswer answer;
+    ImportMessages messages;
+    try {
+        work(job, folder, answer, messages);
+    } catch (const std::exception &failure) {
+        messages.addError(
+            QStringLiteral("%1 Could not read file. %2").arg(job.modelPath, QLatin1String(failure.what())));
+    }
+    answer.messages = messages.lines;
+    return folder.write(answer) ? EXIT_FAILURE : EXIT_SUCCESS;
+}

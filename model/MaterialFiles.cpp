@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "MaterialFiles.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+const QString MaterialFiles::Blank = QStringLiteral("_white");
+
+namespace {
+QString withoutTrailingSeparators(QString folder)
+{
+    while (folder.endsWith(QLatin1Char('/')) || folder.endsWith(QLatin1Char('\\')))
+        folder.chop(1);
+    return folder;
+}
+} // namespace
+
+MaterialFiles::MaterialFiles(const QString &gamePath, const QString &outputDir)
+{
+    for (const QString &folder : {gamePath, outputDir}) {
+        if (!folder.isEmpty())
+            m_folders.append(withoutTrailingSeparators(folder));
+    }
+}
+
+QStringList MaterialFiles::candidates(const QString &relativePath) const
+{
+    QStringList paths;
+    for (const QString &folder : m_folders)
+        paths.append(folder + QLatin1Char('/') + relativePath);
+    return paths;
+}
+
+MaterialFiles::MaterialFile &MaterialFiles::file(const QString &relativePath)
+{
+    const auto known = m_files.find(relativePath);
+    if (known != m_files.end())
+        return *known;
+
+    MaterialFile made;
+    const QStringList paths = candidates(relativePath);
+    if (paths.isEmpty()) {
+        made.error = QStringLiteral("Unable to read .kMat file at %1").arg(relativePath);
+    } else {
+        made.error = readKMat(paths, made.table);
+        const auto found = std::find_if(paths.begin(), paths.end(),
+                                        [](const QString &path) { return QFileInfo(path).isFile(); });
+        made.path = found != paths.end() ? *found : paths.last();
+    }
+    return *m_files.insert(relativePath, made);
+}
+
+MaterialFiles::Lookup MaterialFiles::find(const QString &materialPath)
+{
+    const QFileInfo parts(materialPath);
+    const QString material = parts.fileName();
+    MaterialFile &from = file(parts.path() + QStringLiteral(".kmat"));
+
+    const auto entry = from.table.find(material);
+    if (entry != from.table.end())
+        return {entry->second, {}, {}};
+    // Imported surfaces without a texture and the program's own meshes are named so and have no file.
+    if (material.endsWith(Blank))
+        return {Blank, {}, {}};
+    if (!from.error.isEmpty()) {
+        Lookup failed{{}, {}, from.error};
+        from.error.clear();
+        from.path.clear();
+        return failed;
+    }
+    if (from.path.isEmpty())
+        return {};
+    return {{}, QStringLiteral("No material '%1' in '%2'").arg(material, from.path), {}};
+}

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "KMat.h"
+
+#include <QHash>
+#include <QStringList>
+
+/// The material files of the game folder and the mod folder, searched in that order. Files are kept once
+/// read, the failures too.
+class MaterialFiles
+{
+public:
+    /// What stands for "no texture" in place of a texture's name.
+    static const QString Blank;
+
+    struct Lookup
+    {
+        QString texture; ///< relative to one of the folders, empty when there is no such material, or Blank
+        QString warning; ///< the file has no such material
+        QString error;   ///< the file cannot be read; said once a file
+    };
+
+    /// An empty folder is not searched.
+    MaterialFiles(const QString &gamePath, const QString &outputDir);
+
+    /// The diffuse texture of "FOLDER/FILE/MATERIAL".
+    Lookup find(const QString &materialPath);
+
+    /// Where a file named relative to the folders may be.
+    QStringList candidates(const QString &relativePath) const;
+
+private:
+    struct MaterialFile
+    {
+        MaterialTable table;
+        QString error;
+        QString path; ///< the file that was read
+    };
+
+    MaterialFile &file(const QString &relativePath);
+
+    QStringList m_folders;
+    QHash<QString, MaterialFile> m_files;
+};

@@ -1,0 +1,434 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "Hand.h"
+#include "ImportDialog.h"
+#include "KMat.h"
+#include "Settings.h"
+#include "TestSupport.h"
+
+#include <QCheckBox>
+#include <QClipboard>
+#include <QDoubleSpinBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QStackedWidget>
+
+#include <algorithm>
+#include <memory>
+
+Q_DECLARE_METATYPE(StaticMesh)
+
+class tst_ImportDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        qRegisterMetaType<StaticMesh>("StaticMesh");
+    }
+    void init();
+    void optionsAreStoredAtOnce();
+    void choosingTheModel();
+    void pathsStayInTheModFolder();
+    void outputFoldersAreChecked();
+    void outcomes_data();
+    void outcomes();
+    void transforms_data();
+    void transforms();
+    void errorsLeadBack();
+    void givingUp();
+    void filterNamesTheFormats();
+
+private:
+    template <typename T>
+    static T *child(const QWidget &dialog, const char *name)
+    {
+        auto *found = dialog.findChild<T *>(QLatin1String(name));
+        if (!found)
+            qFatal("no %s", name);
+        return found;
+    }
+    static void click(const QWidget &dialog, const char *button)
+    {
+        QTest::mouseClick(child<QPushButton>(dialog, button), Qt::LeftButton);
+    }
+    static void type(const QWidget &dialog, const char *edit, const QString &text)
+    {
+        auto *line = child<QLineEdit>(dialog, edit);
+        line->setFocus();
+        line->selectAll();
+        QTest::keyClick(line, Qt::Key_Delete);
+        QTest::keyClicks(line, text);
+        QTest::keyClick(line, Qt::Key_Return);
+    }
+    static QString page(const QWidget &dialog)
+    {
+        return child<QStackedWidget>(dialog, "stackPages")->currentWidget()->objectName();
+    }
+    QString write(const QString &name, const QByteArray &bytes)
+    {
+        const QString path = m_source->filePath(name);
+        TestSupport::writeFile(path, bytes);
+        return path;
+    }
+    QString writeTextured();
+
+    QTemporaryDir m_home;
+    std::unique_ptr<QTemporaryDir> m_source;
+    std::unique_ptr<QTemporaryDir> m_mod;
+};
+
+namespace {
+const QByteArray corners = "v 0 0 0\nv 2 0 0\nv 0 4 0\nvt 0 0.25\n";
+}
+
+void tst_ImportDialog::init()
+{
+    TestSupport::useSettingsHome(m_home);
+    m_source = std::make_unique<QTemporaryDir>();
+    m_mod = std::make_unique<QTemporaryDir>();
+    QDir(m_mod->path()).mkpath(QStringLiteral("materials"));
+    QDir(m_mod->path()).mkpath(QStringLiteral("textures"));
+    Settings::OutputDir.setValue(m_mod->path());
+}
+
+QString tst_ImportDialog::writeTextured()
+{
+    write(QStringLiteral("m.mtl"), "newmtl a\nmap_Kd steel.jpg\n");
+    write(QStringLiteral("steel.png"), "picture");
+    return write(QStringLiteral("box.v2.obj"), "mtllib m.mtl\nusemtl a\n" + corners + "f 1/1 2/1 3/1\n");
+}
+
+void tst_ImportDialog::optionsAreStoredAtOnce()
+{
+    struct Option
+    {
+        const char *box;
+        const SettingKey<bool> &key;
+        bool byDefault;
+    };
+    const Option options[] = {{"cbSwapYZ", Settings::ImportSwapYZ, false},
+                              {"cbGenNormals", Settings::ImportGenNormals, true},
+                              {"cbFlipUV", Settings::ImportFlipUV, false},
+                              {"cbFlipWindingOrder", Settings::ImportFlipWindingOrder, false},
+                              {"cbCopyTextures", Settings::ImportTextures, false},
+                              {"cbCreateKMat", Settings::ImportKMat, false},
+                              {"cbRotatePitch", Settings::ImportRotPitch, true}};
+    {
+        ImportDialog dialog(ImportDialog::StaticMeshMode);
+        QCOMPARE(dialog.windowTitle(), QStringLiteral("Import model to Static Mesh"));
+        for (const Option &option : options) {
+            QCOMPARE(child<QCheckBox>(dialog, option.box)->isChecked(), option.byDefault);
+            QVERIFY(!option.key.exists());
+            QTest::keyClick(child<QCheckBox>(dialog, option.box), Qt::Key_Space);
+            QVERIFY(option.key.exists());
+            QCOMPARE(option.key.value(), !option.byDefault);
+        }
+        auto *scale = child<QDoubleSpinBox>(dialog, "sbScale");
+        scale->selectAll();
+        QTest::keyClicks(scale, QStringLiteral("2.5"));
+        QCOMPARE(Settings::ImportScale.value(), 2.5f);
+        type(dialog, "txtT2Dir", m_source->path() + QLatin1Char('/'));
+        QCOMPARE(Settings::OutputDir.value(), m_source->path());
+    }
+    Settings::ImportScale.setValue(-3.0f);
+    const ImportDialog again(ImportDialog::SkinnedMeshMode);
+    for (const Option &option : options)
+        QCOMPARE(child<QCheckBox>(again, option.box)->isChecked(), !option.byDefault);
+    QCOMPARE(child<QDoubleSpinBox>(again, "sbScale")->value(), 1e-6);
+    QCOMPARE(child<QPushButton>(again, "btnImport")->text().remove(QLatin1Char('&')),
+             QStringLiteral("Import to Skinned Mesh!"));
+}
+
+void tst_ImportDialog::choosingTheModel()
+{
+    ImportDialog dialog(ImportDialog::SkinnedMeshMode);
+    dialog.show();
+    QVERIFY(!child<QPushButton>(dialog, "btnImport")->isEnabled());
+    const QString path = write(QStringLiteral("box.v2.obj"), corners);
+    QString filter;
+    Hand hand({[&](QDialog *chooser) {
+        auto *files = static_cast<QFileDialog *>(chooser);
+        filter = files->nameFilters().value(0);
+        QTest::keyClicks(files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit")), path);
+        QTest::keyClick(files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit")), Qt::Key_Return);
+    }});
+    click(dialog, "btnModelBrowse");
+    QCOMPARE(hand.seen, QStringList(QStringLiteral("Import Model to Skinned Mesh")));
+    QCOMPARE(filter, QStringLiteral("Wavefront Object (*.obj)"));
+    QCOMPARE(Settings::ImportPath.value(), m_source->path());
+    QCOMPARE(child<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("materials/mat_box.v2.kmat"));
+    QVERIFY(child<QPushButton>(dialog, "btnImport")->isEnabled());
+
+    // A typed model takes its material file along, until that was chosen.
+    type(dialog, "txtModelPath", QStringLiteral("/x/crate.fbx"));
+    QCOMPARE(child<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("materials/mat_crate.kmat"));
+    type(dialog, "txtKMatPath", QStringLiteral("mine.kmat"));
+    type(dialog, "txtModelPath", QStringLiteral("/x/barrel.fbx"));
+    QCOMPARE(child<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("mine.kmat"));
+}
+
+void tst_ImportDialog::pathsStayInTheModFolder()
+{
+    ImportDialog dialog(ImportDialog::StaticMeshMode);
+    dialog.show();
+    dialog.setModelPath(QStringLiteral("/x/crate.fbx"));
+    const QString refusal = QStringLiteral("kmat Path Error|Path must be relative to Turok 2 Folder");
+    for (const char *edit : {"txtKMatPath", "txtTexPath"}) {
+        const QString before = child<QLineEdit>(dialog, edit)->text();
+        for (const QString &path :
+             {m_source->filePath(QStringLiteral("a.kmat")), m_mod->path() + QStringLiteral("2/a.kmat"),
+              QStringLiteral("../a.kmat")}) {
+            Hand hand({Hand::press(QMessageBox::Ok)});
+            type(dialog, edit, path);
+            QCOMPARE(hand.seen, QStringList(refusal));
+            QCOMPARE(child<QLineEdit>(dialog, edit)->text(), before);
+        }
+        type(dialog, edit, m_mod->filePath(QStringLiteral("sub/a.kmat")));
+        QCOMPARE(child<QLineEdit>(dialog, edit)->text(), QStringLiteral("sub/a.kmat"));
+    }
+    QStringList titles;
+    dialog.setFolderChooser([&titles, this](QWidget *, const QString &title, const QString &) {
+        titles += title;
+        return m_mod->filePath(QStringLiteral("textures"));
+    });
+    click(dialog, "btnTextureDirBrowse");
+    QCOMPARE(child<QLineEdit>(dialog, "txtTexPath")->text(), QStringLiteral("textures"));
+    Hand hand({[this](QDialog *chooser) {
+        auto *files = static_cast<QFileDialog *>(chooser);
+        QTest::keyClicks(files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit")),
+                         m_mod->filePath(QStringLiteral("materials/new")));
+        QTest::keyClick(files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit")), Qt::Key_Return);
+    }});
+    child<QLineEdit>(dialog, "txtKMatPath")->setText(QString());
+    click(dialog, "btnkmatPathBrowse");
+    QCOMPARE(hand.seen, QStringList(QStringLiteral("Save .kmat")));
+    QVERIFY(child<QLineEdit>(dialog, "txtKMatPath")->text().endsWith(QLatin1String("new.kmat")));
+    click(dialog, "btnT2DirBrowse");
+    QCOMPARE(titles,
+             QStringList({QStringLiteral("Texture Output Folder"), QStringLiteral("Turok 2 Output Folder")}));
+    QCOMPARE(Settings::OutputDir.value(), m_mod->filePath(QStringLiteral("textures")));
+}
+
+void tst_ImportDialog::outputFoldersAreChecked()
+{
+    ImportDialog dialog(ImportDialog::StaticMeshMode);
+    dialog.show();
+    dialog.setModelPath(writeTextured());
+    QSignalSpy imported(&dialog, &ImportDialog::staticMeshImported);
+    const auto refused = [&dialog] {
+        Hand hand({Hand::press(QMessageBox::Ok)});
+        click(dialog, "btnImport");
+        return hand.seen.value(0);
+    };
+    // The folder is asked for even when nothing is to be written to it.
+    type(dialog, "txtT2Dir", QString());
+    QCOMPARE(refused(), QStringLiteral("Output Folder Error|Turok 2 Folder '' doesn't exist."));
+
+    type(dialog, "txtT2Dir", m_mod->path());
+    type(dialog, "txtKMatPath", QStringLiteral("none/m.kmat"));
+    type(dialog, "txtTexPath", QStringLiteral("nowhere"));
+    click(dialog, "btnCancel");
+    dialog.show();
+    child<QCheckBox>(dialog, "cbCreateKMat")->click();
+    child<QCheckBox>(dialog, "cbCopyTextures")->click();
+    QCOMPARE(refused(), QStringLiteral("Output Folder Error|"
+                                       "Turok 2 Folder + kmat Path '%1/none' doesn't exist.\n"
+                                       "Turok 2 Folder + Texture Folder '%1/nowhere' doesn't exist.")
+                            .arg(m_mod->path()));
+    QCOMPARE(page(dialog), QStringLiteral("pageOptions"));
+    QCOMPARE(imported.count(), 0);
+}
+
+void tst_ImportDialog::outcomes_data()
+{
+    QTest::addColumn<bool>("textured");
+    QTest::addColumn<bool>("copy");
+    QTest::addColumn<bool>("kmat");
+    QTest::addColumn<QString>("inTheWay"); ///< a folder of this name in the mod folder
+    QTest::addColumn<QString>("outcome");
+    const QString copied = QStringLiteral("Successfully copied textures\n");
+    const QString created = QStringLiteral("Successfully created .kmat file\n");
+    QTest::newRow("only the model") << true << false << false << QString() << QString();
+    QTest::newRow("both") << true << true << true << QString() << copied + created;
+    QTest::newRow("nothing to copy") << false << true << false << QString()
+                                     << QStringLiteral("Model had no textures to copy\n");
+    QTest::newRow("both fail") << true << true << true << QStringLiteral("textures/steel.png/x")
+                               << QStringLiteral("Failed on copying textures\n") + created;
+    QTest::newRow("no material file")
+        << true << false << true << QStringLiteral("materials/mat_box.v2.kmat/x")
+        << QStringLiteral("Failed on creating .kmat file\n");
+}
+
+void tst_ImportDialog::outcomes()
+{
+    QFETCH(bool, textured);
+    QFETCH(bool, copy);
+    QFETCH(bool, kmat);
+    QFETCH(QString, inTheWay);
+    QFETCH(QString, outcome);
+    Settings::ImportTextures.setValue(copy);
+    Settings::ImportKMat.setValue(kmat);
+    if (!inTheWay.isEmpty())
+        QVERIFY(QDir(m_mod->path()).mkpath(inTheWay));
+    const QString path =
+        textured ? writeTextured() : write(QStringLiteral("box.v2.obj"), corners + "f 1/1 2/1 3/1\n");
+    for (const auto mode : {ImportDialog::SkinnedMeshMode, ImportDialog::StaticMeshMode}) {
+        ImportDialog dialog(mode);
+        dialog.show();
+        dialog.setModelPath(path);
+        QString name;
+        connect(&dialog, &ImportDialog::skinnedMeshImported, this,
+                [&name](const SkinnedMesh &, const AnimFile &, const QString &from) { name = from; });
+        connect(&dialog, &ImportDialog::staticMeshImported, this,
+                [&name](const StaticMesh &, const QString &from) { name = from; });
+        click(dialog, "btnImport");
+        QTRY_COMPARE_WITH_TIMEOUT(page(dialog), QStringLiteral("pageSuccess"), 20000);
+        const QString kind = mode == ImportDialog::SkinnedMeshMode ? QStringLiteral("Skinned Mesh")
+                                                                   : QStringLiteral("Static Mesh");
+        QCOMPARE(child<QLabel>(dialog, "lblSuccess")->text(),
+                 QStringLiteral("Successfully imported '%1' to %2\n").arg(path, kind) + outcome);
+        QCOMPARE(name, QStringLiteral("box.v2"));
+        auto *list = child<QListWidget>(dialog, "listSuccess");
+        QVERIFY(list->count() > 0);
+        click(dialog, "btnSuccessCopy");
+        QCOMPARE(QApplication::clipboard()->text().count(QLatin1Char('\n')), list->count() - 1);
+        click(dialog, "btnSuccess");
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    }
+    if (kmat && inTheWay.isEmpty()) {
+        MaterialTable table;
+        QCOMPARE(readKMat(m_mod->filePath(QStringLiteral("materials/mat_box.v2.kmat")), table), QString());
+        QCOMPARE(table, (MaterialTable{{QStringLiteral("surf_0"), QStringLiteral("textures/steel.png")}}));
+        QCOMPARE(TestSupport::readFile(m_mod->filePath(QStringLiteral("textures/steel.png"))),
+                 QByteArray("picture"));
+    }
+}
+
+void tst_ImportDialog::transforms_data()
+{
+    QTest::addColumn<bool>("turn");
+    QTest::addColumn<float>("scale");
+    QTest::addColumn<QVector3D>("skinnedCorner"); ///< where the corner at (0, 4, 0) goes
+    QTest::addColumn<QVector3D>("rigidCorner");
+    QTest::newRow("as it is") << false << 1.0f << QVector3D(0, 4, 0) << QVector3D(0, 4, 0);
+    QTest::newRow("turned") << true << 1.0f << QVector3D(0, 0, 4) << QVector3D(0, 0, -4);
+    QTest::newRow("turned and scaled") << true << 2.5f << QVector3D(0, 0, 10) << QVector3D(0, 0, -10);
+}
+
+void tst_ImportDialog::transforms()
+{
+    QFETCH(bool, turn);
+    QFETCH(float, scale);
+    QFETCH(QVector3D, skinnedCorner);
+    QFETCH(QVector3D, rigidCorner);
+    Settings::ImportRotPitch.setValue(turn);
+    Settings::ImportScale.setValue(scale);
+    const QString path = write(QStringLiteral("a.obj"), corners + "f 1/1 2/1 3/1\n");
+    const auto contains = [](const auto &vertices, const QVector3D &position) {
+        return std::any_of(vertices.begin(), vertices.end(), [&position](const auto &vertex) {
+            return (vertex.position - position).length() < 1e-4f;
+        });
+    };
+    SkinnedMesh skinned;
+    StaticMesh rigid;
+    for (const auto mode : {ImportDialog::SkinnedMeshMode, ImportDialog::StaticMeshMode}) {
+        ImportDialog dialog(mode);
+        dialog.setVersions(11, 12);
+        dialog.setModelPath(path);
+        connect(&dialog, &ImportDialog::skinnedMeshImported, this,
+                [&skinned](const SkinnedMesh &mesh, const AnimFile &anim, const QString &) {
+                    skinned = mesh;
+                    QCOMPARE(anim.version, 12);
+                    QVERIFY(anim.blocks.empty());
+                });
+        connect(&dialog, &ImportDialog::staticMeshImported, this,
+                [&rigid](const StaticMesh &mesh, const QString &) { rigid = mesh; });
+        click(dialog, "btnImport");
+        QTRY_COMPARE_WITH_TIMEOUT(page(dialog), QStringLiteral("pageSuccess"), 20000);
+    }
+    QVERIFY(contains(skinned.vertices, skinnedCorner));
+    QVERIFY(contains(rigid.vertices, rigidCorner));
+    QCOMPARE(skinned.version, 11);
+    QCOMPARE(rigid.version, 11);
+    // The box is one around the vertices for the one, the turned corners for the other.
+    QCOMPARE(skinned.bbMax.z(), skinnedCorner.z());
+    QCOMPARE(rigid.bbMax.z(), rigidCorner.z());
+}
+
+void tst_ImportDialog::errorsLeadBack()
+{
+    ImportDialog dialog(ImportDialog::StaticMeshMode);
+    dialog.show();
+    const QString broken = write(QStringLiteral("broken.obj"), "v");
+    dialog.setModelPath(broken);
+    QSignalSpy imported(&dialog, &ImportDialog::staticMeshImported);
+    click(dialog, "btnImport");
+    QTRY_COMPARE_WITH_TIMEOUT(page(dialog), QStringLiteral("pageError"), 20000);
+    QCOMPARE(child<QLabel>(dialog, "lblError")->text(), QStringLiteral("Error importing '%1'").arg(broken));
+    auto *list = child<QListWidget>(dialog, "listError");
+    QCOMPARE(list->count(), 1);
+    QCOMPARE(list->item(0)->data(Qt::UserRole).toInt(), int(LogSeverity::Error));
+    QTest::keyClick(list, Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QApplication::clipboard()->text(), list->item(0)->text());
+    QCOMPARE(imported.count(), 0);
+
+    click(dialog, "btnErrorBack");
+    QCOMPARE(page(dialog), QStringLiteral("pageOptions"));
+    dialog.setModelPath(write(QStringLiteral("good.obj"), corners + "f 1/1 2/1 3/1\n"));
+    click(dialog, "btnImport");
+    QTRY_COMPARE_WITH_TIMEOUT(page(dialog), QStringLiteral("pageSuccess"), 20000);
+    QCOMPARE(imported.count(), 1);
+    for (int row = 0; row < child<QListWidget>(dialog, "listSuccess")->count(); ++row)
+        QVERIFY(!child<QListWidget>(dialog, "listSuccess")->item(row)->text().contains(broken));
+    // The model is in its tab by now: leaving by Escape is no refusal.
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+}
+
+void tst_ImportDialog::givingUp()
+{
+    const QString sleeper = write(QStringLiteral("sleeper"), "#!/bin/sh\nexec sleep 100\n");
+    QFile(sleeper).setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    const QByteArray worker = qgetenv("KORVANE_IMPORT_WORKER");
+    qputenv("KORVANE_IMPORT_WORKER", sleeper.toUtf8());
+    ImportDialog dialog(ImportDialog::StaticMeshMode);
+    qputenv("KORVANE_IMPORT_WORKER", worker);
+    dialog.show();
+    dialog.setModelPath(write(QStringLiteral("a.obj"), corners));
+    for (const bool byKey : {false, true}) {
+        click(dialog, "btnImport");
+        QCOMPARE(page(dialog), QStringLiteral("pageProgress"));
+        auto *elapsed = child<QLabel>(dialog, "lblElapsed");
+        const QString first = elapsed->text();
+        QTRY_VERIFY(elapsed->text() != first);
+        QVERIFY(elapsed->text().endsWith(QLatin1String(" s of at most 60 s")));
+        if (byKey)
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        else
+            click(dialog, "btnStop");
+        QTRY_COMPARE(page(dialog), QStringLiteral("pageError"));
+        QVERIFY(dialog.isVisible());
+        click(dialog, "btnErrorBack");
+    }
+}
+
+void tst_ImportDialog::filterNamesTheFormats()
+{
+    const QStringList filters = ImportDialog::modelFilter().split(QStringLiteral(";;"));
+    QCOMPARE(filters.size(), 44);
+    QVERIFY(filters.contains(QStringLiteral("LightWave (.lwo)")));
+    QCOMPARE(filters.last(), QStringLiteral("All (*.*)"));
+    for (const char *name : {"a.obj", "A.FBX", "a.b.gltf", "a.lwo", "a.md5mesh", "a.3ds", "a.q3s"})
+        QVERIFY2(ImportDialog::isModelFile(QLatin1String(name)), name);
+    for (const char *name : {"a.skinnedmesh", "a.png", "a", "obj", "a.kmat"})
+        QVERIFY2(!ImportDialog::isModelFile(QLatin1String(name)), name);
+}
+
+QTEST_MAIN(tst_ImportDialog)
+#include "tst_importdialog.moc"

@@ -1,0 +1,232 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "ImportFlags.h"
+#include "ImportWorker.h"
+#include "TestSupport.h"
+
+#include <QRegularExpression>
+
+/// Whatever a file does to the worker, the editor gets an answer and no temporary file stays.
+class tst_importworker : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanup();
+    void everyRealFile_data();
+    void everyRealFile();
+    void workerFails_data();
+    void workerFails();
+    void cancel();
+    void awkwardPath();
+
+private:
+    void run(ImportWorker &worker, const WorkerJob &job);
+
+    QTemporaryDir m_temporary; ///< stands for the system's folder of temporary files
+    QTemporaryDir m_models;
+};
+
+namespace {
+WorkerJob importJob(const QString &path, bool skinned)
+{
+    WorkerJob job;
+    job.task = skinned ? WorkerJob::Task::ImportSkinnedMesh : WorkerJob::Task::ImportStaticMesh;
+    job.modelPath = path;
+    job.kmatPath = QStringLiteral("materials/mat_x.kmat");
+    job.flags = (skinned ? ImportFlags::SkinnedMesh : ImportFlags::StaticMesh) | ImportFlags::GenerateNormals;
+    job.meshVersion = 7;
+    return job;
+}
+
+QString errorsOf(const ImportMessages &messages)
+{
+    QStringList texts;
+    for (const ImportMessage &line : messages.lines) {
+        if (line.severity == LogSeverity::Error)
+            texts += line.text;
+    }
+    return texts.join(QLatin1Char('\n'));
+}
+
+/// Everything that an import of a real file may say.
+bool isKnownLine(const QString &text)
+{
+    static const QRegularExpression pattern(QStringLiteral(
+        "^(.* Could not read file\\. .*"
+        "|.* does not contain any meshes"
+        "|.* Material \\d+ (does not have any Diffuse textures|could not get Diffuse texture path)"
+        "|.* Mesh \\d+ does not contain any (vertices|normals|UVs|faces)"
+        "|.* Mesh \\d+ contains more than 3 indices per face\\. A face must contain only 3 indices\\."
+        "|.* has \\d+ vertices\\. A model of this kind can hold no more than \\d+\\."
+        "|Node .* already exists\\."
+        "|.* has no bones\\. Creating a default bone\\."
+        "|.* \\d+ vertices are not assigned to a bone"
+        "|(\\d+ bones?, )?\\d+ surfaces?, \\d+ vert(ex|ices), \\d+ triangles?"
+        "(, \\d+ animations?, \\d+ frames?)?)$"));
+    return pattern.match(text).hasMatch();
+}
+
+template <typename Mesh>
+bool isWhole(const Mesh &mesh)
+{
+    for (const auto &surface : mesh.surfaces) {
+        for (const quint16 index : surface.triangleIndexes) {
+            if (index >= mesh.vertices.size())
+                return false;
+        }
+    }
+    return mesh.version == 7 && !mesh.vertices.empty() && mesh.refusal().isEmpty();
+}
+} // namespace
+
+void tst_importworker::initTestCase()
+{
+    qputenv("TMPDIR", m_temporary.path().toUtf8());
+    // The worker may end in any way; what the library leaves behind then is no leak of ours.
+    qputenv("ASAN_OPTIONS", "detect_leaks=0:allocator_may_return_null=1");
+}
+
+void tst_importworker::cleanup()
+{
+    QCOMPARE(QDir(m_temporary.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+}
+
+void tst_importworker::run(ImportWorker &worker, const WorkerJob &job)
+{
+    QSignalSpy finished(&worker, &ImportWorker::finished);
+    worker.start(job);
+    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 60000);
+    QVERIFY(!worker.isRunning());
+}
+
+void tst_importworker::everyRealFile_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<bool>("isGood");
+    QTest::addColumn<QString>("reading"); ///< how the reading library fares on its own
+    const QString folder = TestSupport::shared(QStringLiteral("models"));
+    const QList<QByteArray> rows = TestSupport::readFile(folder + QStringLiteral("/index.tsv")).split('\n');
+    const QList<QByteArray> columns = rows.value(0).split('\t');
+    for (int row = 1; row < rows.size(); ++row) {
+        const QList<QByteArray> cells = rows[row].split('\t');
+        const auto cell = [&cells, &columns](const char *name) { return cells.value(columns.indexOf(name)); };
+        if (cells.size() > 1) {
+            QTest::newRow(cell("path"))
+                << folder + QLatin1Char('/') + QString::fromUtf8(cell("path")) << (cell("class") == "core")
+                << QString::fromUtf8(cell("assimp_info_status"));
+        }
+    }
+    if (folder.isEmpty())
+        QTest::newRow("none") << QString() << false << QString();
+}
+
+void tst_importworker::everyRealFile()
+{
+    SKIP_WITHOUT_SHARED("models");
+    QFETCH(QString, path);
+    QFETCH(bool, isGood);
+    QFETCH(QString, reading);
+    const bool hangs = reading.startsWith(QLatin1String("HANG"));
+    for (const bool skinned : {true, false}) {
+        ImportWorker worker;
+        worker.setTimeLimit(hangs ? 2000 : 50000);
+        run(worker, importJob(path, skinned));
+        for (const ImportMessage &line : worker.messages().lines)
+            QVERIFY2(isKnownLine(line.text), qPrintable(line.text));
+
+        const QString errors = errorsOf(worker.messages());
+        if (hangs)
+            QVERIFY2(errors.contains(QLatin1String("longer than 2 second")), qPrintable(errors));
+        if (reading.startsWith(QLatin1String("CRASH")))
+            QVERIFY2(errors.contains(QLatin1String("Could not read file. The process")), qPrintable(errors));
+        SkinnedMesh skin;
+        AnimFile anim;
+        StaticMesh rigid;
+        const bool unreadable = skinned ? worker.read(skin, anim) : worker.read(rigid);
+        QCOMPARE(unreadable, worker.messages().hasError());
+        if (unreadable) {
+            // Good models fail for what they hold: too many vertices, or two nodes of one name.
+            QVERIFY2(!isGood || errors.contains(QLatin1String("can hold no more than")) ||
+                         (skinned && errors.contains(QLatin1String("already exists"))),
+                     qPrintable(errors));
+            continue;
+        }
+        QVERIFY(skinned ? isWhole(skin) : isWhole(rigid));
+        for (const SkinnedMeshVertex &vertex : skin.vertices)
+            QVERIFY(vertex.nodeIndex < skin.nodes.size());
+        for (const AnimBlock &block : anim.blocks)
+            QCOMPARE(block.nodes.size(), skin.nodes.size());
+    }
+}
+
+void tst_importworker::workerFails_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("is not there") << m_models.filePath(QStringLiteral("none"))
+                                  << QStringLiteral("none' could not be started");
+    QTest::newRow("gives no answer") << QStringLiteral("/bin/true") << QStringLiteral("gave no answer.");
+    QTest::newRow("fails") << QStringLiteral("/bin/false") << QStringLiteral("gave no answer.");
+}
+
+void tst_importworker::workerFails()
+{
+    QFETCH(QString, program);
+    QFETCH(QString, reason);
+    ImportWorker worker;
+    worker.setProgram(program);
+    run(worker, importJob(QStringLiteral("/a%1/b.obj"), false));
+    const QString error = errorsOf(worker.messages());
+    QVERIFY2(error.startsWith(QLatin1String("/a%1/b.obj Could not read file. ")), qPrintable(error));
+    QVERIFY2(error.contains(reason), qPrintable(error));
+
+    // It can be used again.
+    worker.setProgram(QStringLiteral("/bin/true"));
+    run(worker, importJob(QStringLiteral("c.obj"), false));
+    QVERIFY(worker.messages().hasError());
+}
+
+void tst_importworker::cancel()
+{
+    const QString script = m_models.filePath(QStringLiteral("sleeper"));
+    QVERIFY(TestSupport::writeFile(script, "#!/bin/sh\nexec sleep 100\n"));
+    QFile(script).setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    {
+        ImportWorker worker;
+        worker.setProgram(script);
+        QSignalSpy finished(&worker, &ImportWorker::finished);
+        worker.start(importJob(QStringLiteral("a.obj"), true));
+        QVERIFY(worker.isRunning());
+        worker.cancel();
+        QTRY_COMPARE(finished.count(), 1);
+        QVERIFY(errorsOf(worker.messages()).endsWith(QLatin1String("It was cancelled.")));
+    }
+    // One that goes while its process runs takes everything with it; cleanup() looks.
+    ImportWorker abandoned;
+    abandoned.setProgram(script);
+    abandoned.start(importJob(QStringLiteral("a.obj"), true));
+}
+
+void tst_importworker::awkwardPath()
+{
+    const QString folder = m_models.filePath(QStringLiteral("m\u00f6d %1 \u2603"));
+    QVERIFY(QDir().mkpath(folder));
+    const QString path = folder + QStringLiteral("/a %2 \u00e9.obj");
+    QVERIFY(TestSupport::writeFile(path, "v 0 0 0\nv 1.5 0 0\nv 0 1 0\nvt 0.25 0\nf 1/1 2/1 3/1\n"));
+    // A decimal comma on the desktop is none of the worker's business.
+    qputenv("LC_NUMERIC", "de_DE.UTF-8");
+    ImportWorker worker;
+    run(worker, importJob(path, false));
+    qunsetenv("LC_NUMERIC");
+    StaticMesh mesh;
+    QVERIFY2(!worker.read(mesh), qPrintable(errorsOf(worker.messages())));
+    QCOMPARE(mesh.bbMax, QVector3D(1.5f, 1.0f, 0.0f));
+    QCOMPARE(mesh.vertices.at(0).uv.x(), 0.25f);
+    QCOMPARE(worker.messages().lines.at(0).text,
+             path + QStringLiteral(" Material 0 does not have any Diffuse textures"));
+}
+
+QTEST_GUILESS_MAIN(tst_importworker)
+#include "tst_importworker.moc"

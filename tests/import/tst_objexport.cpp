@@ -1,0 +1,182 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "ImportFlags.h"
+#include "ImportWorker.h"
+#include "MaterialFiles.h"
+#include "ObjExport.h"
+#include "SceneImport.h"
+#include "StaticMeshExport.h"
+#include "TestSupport.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+/// What is exported reads back as it was.
+class tst_objexport : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void roundTrip_data();
+    void roundTrip();
+    void badTriangles();
+    void texturesAndNames();
+};
+
+namespace {
+using Triangle = std::array<StaticMeshVertex, 3>;
+
+StaticMesh readBack(const QString &path)
+{
+    QStringList textures;
+    ImportMessages messages;
+    StaticMesh mesh =
+        importStaticMesh(path, QStringLiteral("m.kmat"), ImportFlags::StaticMesh, textures, messages);
+    for (const ImportMessage &line : messages.lines) {
+        if (line.severity == LogSeverity::Error)
+            qWarning("%s", qUtf8Printable(line.text));
+    }
+    return mesh;
+}
+
+std::vector<Triangle> trianglesOf(const StaticMesh &mesh)
+{
+    std::vector<Triangle> triangles;
+    for (const StaticMeshSurface &surface : mesh.surfaces) {
+        for (size_t i = 0; i + 2 < surface.triangleIndexes.size(); i += 3) {
+            Triangle triangle;
+            for (size_t corner = 0; corner < 3; ++corner)
+                triangle[corner] = mesh.vertices[surface.triangleIndexes[i + corner]];
+            triangles.push_back(triangle);
+        }
+    }
+    return triangles;
+}
+
+/// The library's reading of decimal numbers is off by a unit in the last place now and then.
+/// Vertices that differ by less than a hundred thousandth in all they have become one.
+bool isClose(float a, float b)
+{
+    return std::fabs(a - b) <= 2e-7f * std::max(std::fabs(a), std::fabs(b)) + 1e-5f;
+}
+
+template <typename Vector>
+bool isClose(const Vector &a, const Vector &b, int size)
+{
+    for (int i = 0; i < size; ++i) {
+        if (!isClose(a[i], b[i]))
+            return false;
+    }
+    return true;
+}
+} // namespace
+
+void tst_objexport::roundTrip_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const QString &path : TestSupport::modelFiles(QStringLiteral("staticmesh")))
+        QTest::newRow(qPrintable(QFileInfo(path).fileName())) << path;
+}
+
+void tst_objexport::roundTrip()
+{
+    QFETCH(QString, path);
+    StaticMesh mesh;
+    QVERIFY(!mesh.read(path));
+    QTemporaryDir folder;
+    const QString obj = folder.filePath(QStringLiteral("m\u00f6del.obj"));
+    ImportMessages messages;
+    exportObj(mesh, {}, {}, obj, messages);
+    QVERIFY(!messages.hasError());
+
+    const std::vector<Triangle> before = trianglesOf(mesh);
+    const std::vector<Triangle> after = trianglesOf(readBack(obj));
+    QCOMPARE(after.size(), before.size());
+    for (size_t i = 0; i < before.size(); ++i) {
+        for (size_t corner = 0; corner < 3; ++corner) {
+            QVERIFY(isClose(after[i][corner].position, before[i][corner].position, 3));
+            QVERIFY(isClose(after[i][corner].uv, before[i][corner].uv, 2));
+            QVERIFY(isClose(after[i][corner].normal, before[i][corner].normal, 3));
+        }
+    }
+}
+
+void tst_objexport::badTriangles()
+{
+    StaticMesh mesh;
+    mesh.vertices.resize(3);
+    mesh.vertices[1].position = {1, 0, 0};
+    mesh.vertices[2].position = {0, 1, 0};
+    mesh.surfaces = {{QStringLiteral("a/b/c"), {0, 1, 2, 0, 1, 3, 65535, 1, 2, 0}},
+                     {QStringLiteral("d"), {9}}};
+    QTemporaryDir folder;
+    const QString obj = folder.filePath(QStringLiteral("a.obj"));
+    ImportMessages messages;
+    exportObj(mesh, {}, {0, 7}, obj, messages);
+    QVERIFY(!messages.hasError());
+    QCOMPARE(trianglesOf(readBack(obj)).size(), size_t(1));
+
+    mesh.surfaces[0].triangleIndexes = {0, 1};
+    exportObj(mesh, {}, {}, folder.filePath(QStringLiteral("b.obj")), messages);
+    QCOMPARE(messages.lines.size(), 1);
+    QVERIFY(messages.hasError());
+}
+
+void tst_objexport::texturesAndNames()
+{
+    QTemporaryDir game;
+    QTemporaryDir mod;
+    QTemporaryDir target;
+    QVERIFY(QDir(game.path()).mkpath(QStringLiteral("materials")));
+    QVERIFY(QDir(mod.path()).mkpath(QStringLiteral("textures")));
+    const MaterialTable table{{QStringLiteral("brick"), QStringLiteral("textures/wall.v2.png")},
+                              {QStringLiteral("other"), QStringLiteral("textures/wall.v2.png")},
+                              {QStringLiteral("lost"), QStringLiteral("textures/lost.png")}};
+    QCOMPARE(writeKMat(game.filePath(QStringLiteral("materials/m.kmat")), table), QString());
+    QVERIFY(TestSupport::writeFile(mod.filePath(QStringLiteral("textures/wall.v2.png")), "picture"));
+
+    StaticMesh mesh;
+    mesh.vertices.resize(3);
+    mesh.vertices[1].position = {1, 0, 0};
+    mesh.vertices[2].position = {0, 1, 0};
+    for (const char *name : {"brick", "_white", "other", "lost", "none"})
+        mesh.surfaces.push_back({QStringLiteral("materials/m/") + QLatin1String(name), {0, 1, 2}});
+    ImportMessages messages;
+    MaterialFiles materials(game.path(), mod.path());
+    const WorkerJob job = staticMeshExport(mesh, QString(), materials, messages);
+    QCOMPARE(job.objName, QStringLiteral("untitled.obj"));
+    QCOMPARE(job.textureOfSurface, (std::vector<qint32>{0, -1, 0, 1, -1}));
+    QCOMPARE(messages.lines.size(), 2);
+    QCOMPARE(messages.lines[0].text, QStringLiteral("[Static Mesh Export] Texture not found '%1'")
+                                         .arg(mod.filePath(QStringLiteral("textures/lost.png"))));
+    QCOMPARE(messages.lines[1].text, QStringLiteral("[Static Mesh Export] No material 'none' in '%1'")
+                                         .arg(game.filePath(QStringLiteral("materials/m.kmat"))));
+
+    ImportWorker worker;
+    QSignalSpy finished(&worker, &ImportWorker::finished);
+    worker.start(job, mesh);
+    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 20000);
+    QVERIFY(!worker.messages().hasError());
+    QVERIFY(!placeExport(worker, job, target.path(), messages));
+    QCOMPARE(QDir(target.path()).entryList(QDir::Files),
+             QStringList({QStringLiteral("untitled.mtl"), QStringLiteral("untitled.obj"),
+                          QStringLiteral("wall.v2.png")}));
+    const QByteArray mtl = TestSupport::readFile(target.filePath(QStringLiteral("untitled.mtl")));
+    QCOMPARE(mtl.count("newmtl wall.v2\n"), 1);
+    QCOMPARE(mtl.count("map_Kd wall.v2.png\n"), 1);
+    QCOMPARE(mtl.count("map_Kd"), 2);
+    QVERIFY(mtl.contains("Kd 1 1 1\n"));
+
+    // A folder that went away in the meantime.
+    messages.lines.clear();
+    QVERIFY(placeExport(worker, job, target.filePath(QStringLiteral("none")), messages));
+    QVERIFY(messages.hasError());
+    messages.lines.clear();
+    staticMeshExport(StaticMesh(), QStringLiteral("/a/b.v2.staticmesh"), materials, messages);
+    QCOMPARE(messages.lines.size(), 1);
+    QCOMPARE(messages.lines[0].text, QStringLiteral("[Static Mesh Export] Mesh has no surfaces"));
+}
+
+QTEST_GUILESS_MAIN(tst_objexport)
+#include "tst_objexport.moc"

@@ -39,7 +39,7 @@ void PageBrowser::follow(const QUrl &link)
     if (link.isRelative() || link.scheme() == source().scheme())
         setSource(link);
     else
-        openWebLink(link.toString(), this);
+        openWebLink(link.toString(QUrl::FullyEncoded), this);
 }
 
 void PageBrowser::layOutColumn()

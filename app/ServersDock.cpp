@@ -36,6 +36,7 @@ QPushButton *buttonFor(QAction *action, const char *name, QWidget *parent)
 
 ServersDock::ServersDock(QWidget *parent)
     : QDockWidget(parent)
+    , m_query(this)
 {
     auto *contents = new QWidget(this);
     m_icon = new QLabel(contents);
@@ -97,7 +98,9 @@ ServersDock::ServersDock(QWidget *parent)
 
 void ServersDock::setQueryAction(QAction *action)
 {
-    m_layout->insertWidget(0, buttonFor(action, "btnQueryServers", widget()));
+    QPushButton *button = buttonFor(action, "btnQueryServers", widget());
+    m_layout->insertWidget(0, button);
+    setTabOrder(button, m_table);
     connect(action, &QAction::triggered, this, [this] {
         show();
         raise();

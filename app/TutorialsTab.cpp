@@ -50,7 +50,7 @@ TutorialsTab::TutorialsTab(QWidget *parent)
     // A guide may lead to another.
     connect(m_page, &QTextBrowser::sourceChanged, this, [this](const QUrl &source) {
         for (int row = 0; row < m_list->count(); ++row) {
-            if (m_list->item(row)->data(Qt::UserRole).toUrl().path() == source.path())
+            if (m_list->item(row)->data(Qt::UserRole).toUrl().fileName() == source.fileName())
                 m_list->setCurrentRow(row);
         }
     });

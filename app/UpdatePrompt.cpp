@@ -21,10 +21,12 @@ constexpr int messageLength = 2000;
 UpdatePrompt::UpdatePrompt(QAction *action, QMainWindow *window)
     : QObject(window)
     , m_window(window)
+    , m_check(this)
 {
     connect(action, &QAction::triggered, this, &UpdatePrompt::on_actionCheckForUpdates_triggered);
-    connect(&m_check, &UpdateCheck::updateOffered, this, &UpdatePrompt::offer);
-    connect(&m_check, &UpdateCheck::upToDate, this, &UpdatePrompt::tellUpToDate);
+    // Queued: a box must not run within the network's own signals.
+    connect(&m_check, &UpdateCheck::updateOffered, this, &UpdatePrompt::offer, Qt::QueuedConnection);
+    connect(&m_check, &UpdateCheck::upToDate, this, &UpdatePrompt::tellUpToDate, Qt::QueuedConnection);
     QTimer::singleShot(startDelayMs, &m_check, &UpdateCheck::checkIfDue);
 }
 

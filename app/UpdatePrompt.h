@@ -8,7 +8,6 @@
 
 class QAction;
 class QMainWindow;
-class QMessageBox;
 
 /// Checks for a newer release a moment after the program's start, when that is due, and whenever the user
 /// asks; tells the outcome in a box over the window, or over whatever is open above it.

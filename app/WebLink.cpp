@@ -7,9 +7,16 @@
 #include <QMessageBox>
 #include <QUrl>
 
+namespace {
+QUrl urlOf(const QString &link)
+{
+    return QUrl(link.trimmed(), QUrl::StrictMode);
+}
+} // namespace
+
 bool isWebLink(const QString &link)
 {
-    const QUrl url(link, QUrl::StrictMode);
+    const QUrl url = urlOf(link);
     return url.isValid() && !url.host().isEmpty() &&
            (url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http"));
 }
@@ -17,7 +24,7 @@ bool isWebLink(const QString &link)
 void openWebLink(const QString &link, QWidget *parent)
 {
     const bool isWeb = isWebLink(link);
-    if (isWeb && QDesktopServices::openUrl(QUrl(link, QUrl::StrictMode)))
+    if (isWeb && QDesktopServices::openUrl(urlOf(link)))
         return;
     QMessageBox box(parent);
     box.setIcon(QMessageBox::Warning);

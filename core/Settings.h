@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Deployment.h"
+
 #include <QColor>
 #include <QDateTime>
 #include <QPoint>
@@ -65,8 +67,9 @@ inline const SettingKey<QString> OutputDir{"OutputDir", {}};
 inline const SettingKey<bool> Updates{"Updates", true};
 inline const SettingKey<QDateTime> UpdateDate{"UpdateDate", {}};
 // Where the network services ask; with an empty text nothing is sent. The build sets the defaults.
-inline const SettingKey<QString> UpdateUrl{"UpdateUrl", QStringLiteral(KORVANE_UPDATE_URL)};
-inline const SettingKey<QString> MasterServerHost{"MasterServerHost", QStringLiteral(KORVANE_MASTER_HOST)};
+inline const SettingKey<QString> UpdateUrl{"UpdateUrl", QString::fromUtf8(Deployment::updateUrl)};
+inline const SettingKey<QString> MasterServerHost{"MasterServerHost",
+                                                  QString::fromUtf8(Deployment::masterHost)};
 inline const SettingKey<int> MasterServerPort{"MasterServerPort", 20700};
 
 // Trees and playback.

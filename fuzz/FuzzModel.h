@@ -3,20 +3,10 @@
 #pragma once
 
 #include "LiteralFormat.h"
+#include "Require.h"
 #include "SampleModels.h"
 
-#include <cstdio>
-#include <cstdlib>
-
 namespace Fuzz {
-inline void require(bool holds, const char *what)
-{
-    if (holds)
-        return;
-    std::fprintf(stderr, "broken: %s\n", what);
-    std::abort();
-}
-
 /// Reads `data` as a file of the model's kind and checks that
 /// - the result and the message are those of the literal reading,
 /// - what was read is written, unless the model refuses, and reads back to the same bytes,

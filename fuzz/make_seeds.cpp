@@ -23,7 +23,7 @@ SkinnedMesh withoutSurfaces()
 }
 } // namespace
 
-/// make_seeds <folder>: writes the first inputs of every fuzz target into its folder there.
+/// make_seeds <folder>: writes the first inputs of the fuzz targets of file formats into their folders there.
 int main(int argc, char **argv)
 {
     if (argc != 2)

@@ -18,9 +18,7 @@ constexpr int maximumRedirects = 5;
 QNetworkRequest requestFor(const QUrl &url)
 {
     QNetworkRequest request(url);
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
-                         QNetworkRequest::UserVerifiedRedirectPolicy);
-    request.setMaximumRedirectsAllowed(maximumRedirects);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
     request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
@@ -77,7 +75,7 @@ void UpdateCheck::DoUpdateCheck(bool manual)
     m_manual = manual;
     if (m_running)
         return;
-    const QUrl url(Settings::UpdateUrl.value());
+    const QUrl url(Settings::UpdateUrl.value().trimmed());
     if (!isReleaseAddress(url)) {
         if (!url.isEmpty())
             Log::warning(tr("[Update Check] '%1' is no https address").arg(url.toDisplayString()));
@@ -87,14 +85,18 @@ void UpdateCheck::DoUpdateCheck(bool manual)
         return;
     }
     Settings::UpdateDate.setValue(m_clock());
+    m_redirects = 0;
+    m_timeLimit.start();
+    get(url);
+}
+
+void UpdateCheck::get(const QUrl &url)
+{
     m_running = true;
     m_document.clear();
-    m_url = url;
     m_reply = m_manager.get(requestFor(url));
     m_reply->setReadBufferSize(maximumBytes);
     connect(m_reply, &QNetworkReply::readyRead, this, &UpdateCheck::readSome);
-    connect(m_reply, &QNetworkReply::redirected, this, &UpdateCheck::followRedirect);
-    m_timeLimit.start();
 }
 
 void UpdateCheck::readSome()
@@ -105,27 +107,25 @@ void UpdateCheck::readSome()
         m_reply->abort();
 }
 
-void UpdateCheck::followRedirect(const QUrl &target)
-{
-    if (!isReleaseRedirect(m_url, target)) {
-        m_reply->abort();
-        return;
-    }
-    m_url = target;
-    emit m_reply->redirectAllowed();
-}
-
 void UpdateCheck::NetworkReplyFinished(QNetworkReply *reply)
 {
     m_running = false;
-    m_timeLimit.stop();
     reply->deleteLater();
     qDebug() << "update request finished" << reply->errorString() << reply->error();
+    const QVariant target = reply->attribute(QNetworkRequest::RedirectionTargetAttribute);
+    if (target.isValid()) {
+        const QUrl next = reply->url().resolved(target.toUrl());
+        if (++m_redirects <= maximumRedirects && isReleaseRedirect(reply->url(), next)) {
+            get(next);
+            return;
+        }
+    }
+    m_timeLimit.stop();
     // The rest of a document that is too long was given up by ourselves.
     const bool cutOff = m_document.size() > maximumBytes;
     if (cutOff)
         m_document.truncate(m_document.lastIndexOf('\n', maximumBytes - 1) + 1);
-    evaluate(reply->error() != QNetworkReply::NoError && !cutOff);
+    evaluate(target.isValid() || (reply->error() != QNetworkReply::NoError && !cutOff));
 }
 
 void UpdateCheck::evaluate(bool failed)

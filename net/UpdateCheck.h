@@ -8,7 +8,6 @@
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
-#include <QUrl>
 
 #include <functional>
 
@@ -31,6 +30,8 @@ public:
     /// How long a request may take, redirects and all; 15 s unless set.
     void setTimeLimit(int milliseconds) { m_timeLimit.setInterval(milliseconds); }
 
+    /// Whether a request is under way.
+    bool isRunning() const { return m_running; }
     /// Whether the check at the start of the program is due: it is wanted, and the last request was sent a
     /// day ago or longer. A last request in the future was sent by a wrong clock and does not count.
     bool isDue() const;
@@ -52,13 +53,13 @@ private slots:
     void NetworkReplyFinished(QNetworkReply *reply);
 
 private:
+    void get(const QUrl &url);
     void readSome();
-    void followRedirect(const QUrl &target);
     void evaluate(bool failed);
 
     QNetworkAccessManager m_manager;
     QPointer<QNetworkReply> m_reply;
-    QUrl m_url; ///< where the reply comes from; the reply itself may name its next place already
+    int m_redirects = 0;
     QByteArray m_document;
     QTimer m_timeLimit;
     Clock m_clock = &QDateTime::currentDateTime;

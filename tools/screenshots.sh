@@ -138,7 +138,7 @@ for_guide() {
 # The first file with this extension in the game folder of the samples.
 first() { find "$samples/game" -name "*.$1" | sort | head -n 1; }
 
-all_pictures() {
+model_pictures() {
     local folder=$1 samples=$2 skinned_mesh animation static_mesh options broken=$2/mod/broken.anim
     skinned_mesh=$(first skinnedmesh)
     animation=$(first anim)
@@ -166,6 +166,41 @@ all_pictures() {
     korvane "$skinned_mesh" "$animation" "$broken"
     press Return
     grab "$main" "$folder/console.png"
+    quit
+}
+
+# master_server: one on this machine that tells of three servers, so that the pictures need no other.
+master_server() {
+    perl -MIO::Socket::INET -e '
+        my $socket = IO::Socket::INET->new(LocalAddr => "127.0.0.1:20700", Proto => "udp") or die "$@\n";
+        while (defined $socket->recv(my $request, 64)) {
+            $socket->send(pack "(C4v)3", 17, 2, 0, 192, 27996, 40, 100, 51, 198, 27996, 8, 113, 0, 203, 28000);
+        }' >>"$log" 2>&1 &
+    started+=($!)
+}
+
+# The tabs and windows that have nothing to do with a model.
+other_pictures() {
+    local folder=$1 samples=$2 about
+    master_server
+    korvane "$(first skinnedmesh)"
+    press alt+t
+    press q
+    # The list is done a second after its last piece.
+    sleep 2
+    grab "$main" "$folder/servers.png"
+    press alt+h
+    press a
+    about=$(wait_for --name '^About$')
+    grab "$about" "$folder/about.png"
+    press Escape
+    quit
+
+    korvane
+    click 465 78
+    grab "$main" "$folder/tutorials.png"
+    click 555 78
+    grab "$main" "$folder/community.png"
     quit
 }
 
@@ -207,7 +242,8 @@ window)
     quit
     ;;
 all)
-    all_pictures "$@"
+    model_pictures "$@"
+    other_pictures "$@"
     guide_pictures "$2"
     ;;
 *) die "unknown verb '$verb'" ;;

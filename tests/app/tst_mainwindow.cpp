@@ -446,6 +446,8 @@ void tst_MainWindow::theLayoutComesBack()
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         find<QSplitter>(window, "splitterSkinned")->setSizes({300, 700, 440});
         find<QDockWidget>(window, "dockConsole")->hide();
+        QVERIFY(!find<QDockWidget>(window, "dockServers")->isVisible());
+        find<QAction>(window, "actionQueryServers")->trigger();
         stored = sizes(window);
         window.close();
     }
@@ -454,6 +456,7 @@ void tst_MainWindow::theLayoutComesBack()
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     QCOMPARE(sizes(window), stored);
     QVERIFY(!find<QDockWidget>(window, "dockConsole")->isVisible());
+    QVERIFY(find<QDockWidget>(window, "dockServers")->isVisible());
 }
 
 int main(int argc, char *argv[])

@@ -7,7 +7,6 @@
 #include "TestSupport.h"
 
 #include <QNetworkProxyFactory>
-#include <QNetworkReply>
 
 /// The update check of version 0.9.2 against a web server on this machine.
 class tst_UpdateCheck : public QObject
@@ -15,11 +14,7 @@ class tst_UpdateCheck : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QNetworkProxyFactory::setUseSystemConfiguration(false);
-        qRegisterMetaType<QNetworkReply *>();
-    }
+    void initTestCase() { QNetworkProxyFactory::setUseSystemConfiguration(false); }
     void init();
     void offers_data();
     void offers();
@@ -56,9 +51,8 @@ QStringList tst_UpdateCheck::run(UpdateCheck &check, bool manual)
 {
     const QSignalSpy offered(&check, &UpdateCheck::updateOffered);
     const QSignalSpy upToDate(&check, &UpdateCheck::upToDate);
-    const QSignalSpy finished(check.findChild<QNetworkAccessManager *>(), &QNetworkAccessManager::finished);
     check.DoUpdateCheck(manual);
-    if (!QTest::qWaitFor([&] { return !finished.isEmpty(); }))
+    if (!QTest::qWaitFor([&check] { return !check.isRunning(); }))
         return {"no end"};
     QStringList told;
     for (const QList<QVariant> &texts : offered) {
@@ -178,13 +172,6 @@ void tst_UpdateCheck::stopsWaiting()
     UpdateCheck check;
     check.setTimeLimit(50);
     QCOMPARE(run(check, true), QStringList("up to date")); // never answered
-    m_web->answer = "HTTP/1.1 200 OK\r\n\r\n" + releaseDocument("1", "https://a");
-    connect(m_web.get(), &QTcpServer::newConnection, this, [this] {
-        // Answers and then keeps the line open.
-        m_web->findChildren<QTcpSocket *>().last()->disconnect();
-        m_web->findChildren<QTcpSocket *>().last()->write(m_web->answer);
-    });
-    QCOMPARE(run(check, true), QStringList("up to date"));
 }
 
 void tst_UpdateCheck::followsRedirects_data()
@@ -210,7 +197,7 @@ void tst_UpdateCheck::followsRedirects()
     check.setTimeLimit(3000);
     QCOMPARE(run(check, true).value(0), followed ? QStringLiteral("1") : QStringLiteral("up to date"));
     QCOMPARE(second.requests.size(), followed ? 1 : 0);
-    QVERIFY(m_web->requests.size() <= 6);
+    QCOMPARE(m_web->requests.size(), target == m_web->address() ? 6 : 1);
 }
 
 void tst_UpdateCheck::asksOnlyWhereItMay_data()
@@ -219,16 +206,13 @@ void tst_UpdateCheck::asksOnlyWhereItMay_data()
     QTest::addColumn<bool>("allowed");
     QTest::addColumn<bool>("fromHttps"); // as a redirect
     QTest::newRow("https") << "https://paste.example/raw/1" << true << true;
-    QTest::newRow("capitals") << "HTTPS://PASTE.EXAMPLE" << true << true;
     QTest::newRow("this machine") << "http://127.0.0.1:80/" << true << false;
-    QTest::newRow("its name") << "http://localhost/" << true << false;
     QTest::newRow("IPv6") << "http://[::1]/" << true << false;
     QTest::newRow("plain") << "http://paste.example/" << false << false;
     QTest::newRow("looks local") << "http://127.0.0.1.example/" << false << false;
     QTest::newRow("user looks local") << "http://localhost@example/" << false << false;
     QTest::newRow("file") << "file:///etc/passwd" << false << false;
     QTest::newRow("no host") << "https:///x" << false << false;
-    QTest::newRow("no scheme") << "paste.example" << false << false;
     QTest::newRow("empty") << "" << false << false;
 }
 
@@ -273,7 +257,6 @@ void tst_UpdateCheck::oncePerDay()
         Settings::UpdateDate.setValue(last);
     UpdateCheck check;
     check.setClock([now] { return now; });
-    QSignalSpy finished(check.findChild<QNetworkAccessManager *>(), &QNetworkAccessManager::finished);
 
     Settings::Updates.setValue(false);
     check.checkIfDue();
@@ -282,10 +265,10 @@ void tst_UpdateCheck::oncePerDay()
     m_web->close(); // a request that fails was sent all the same
     check.checkIfDue();
     QCOMPARE(Settings::UpdateDate.value(), due ? now : last);
-    if (due)
-        QVERIFY(finished.wait());
+    QCOMPARE(check.isRunning(), due);
+    QTRY_VERIFY(!check.isRunning());
     check.checkIfDue();
-    QVERIFY(!finished.wait(20));
+    QVERIFY(!check.isRunning());
 
     check.setClock([now] { return now.addSecs(60); });
     check.DoUpdateCheck(true); // whenever the user wants

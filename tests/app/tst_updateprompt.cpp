@@ -1,0 +1,183 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "UpdatePrompt.h"
+
+#include "Hand.h"
+#include "LocalServers.h"
+#include "Settings.h"
+#include "TestSupport.h"
+
+#include <QAction>
+#include <QDesktopServices>
+#include <QMainWindow>
+#include <QNetworkProxyFactory>
+#include <QNetworkReply>
+
+/// What the user sees of the update check, against a web server on this machine.
+class tst_UpdatePrompt : public QObject
+{
+    Q_OBJECT
+
+public slots:
+    void take(const QUrl &url) { m_opened.append(url.toString()); }
+
+private slots:
+    void initTestCase();
+    void init();
+    void boxes_data();
+    void boxes();
+    void checksAtStart_data();
+    void checksAtStart();
+    void standsAboveWhatIsOpen();
+    void aClosedWindowIsNotAsked();
+
+private:
+    using Box = QMessageBox;
+
+    QTemporaryDir m_home;
+    std::unique_ptr<LocalWeb> m_web;
+    QStringList m_opened;
+};
+
+void tst_UpdatePrompt::initTestCase()
+{
+    QNetworkProxyFactory::setUseSystemConfiguration(false);
+    qRegisterMetaType<QNetworkReply *>();
+    QCoreApplication::setApplicationVersion(QStringLiteral("0.9.2"));
+    for (const char *scheme : {"http", "https", "file"})
+        QDesktopServices::setUrlHandler(QLatin1String(scheme), this, "take");
+}
+
+void tst_UpdatePrompt::init()
+{
+    TestSupport::useSettingsHome(m_home);
+    m_web = std::make_unique<LocalWeb>();
+    m_opened.clear();
+    Settings::UpdateUrl.setValue(m_web->address());
+    Settings::UpdateDate.setValue(QDateTime::currentDateTime());
+}
+
+void tst_UpdatePrompt::boxes_data()
+{
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<QStringList>("seen");
+    QTest::addColumn<QString>("opened");
+    const auto offer = [](const QString &version, const QString &message) {
+        return "New Version Available|Korvane v" + version + " is now available! Do you want to update?\n\n" +
+               message;
+    };
+    const QString refused = "Link|This is no web page, so it was not opened:\n";
+    QTest::newRow("yes") << releaseDocument("1", "https://a/b?c=d") << int(Box::Yes)
+                         << QStringList(offer("1", "News")) << "https://a/b?c=d";
+    QTest::newRow("no") << releaseDocument("1", "https://a/b") << int(Box::No)
+                        << QStringList(offer("1", "News")) << "";
+    QTest::newRow("plain http") << releaseDocument("1", "http://a/") << int(Box::Yes)
+                                << QStringList(offer("1", "News")) << "http://a/";
+    QTest::newRow("markup and place markers")
+        << releaseDocument("1.%2", "https://a", "<b>bold</b>\n<img src='file:///x'>%1") << int(Box::No)
+        << QStringList(offer("1.%2", "<b>bold</b> <img src='file:///x'>%1")) << "";
+    QTest::newRow("file") << releaseDocument("1", "file:///bin/sh") << int(Box::Yes)
+                          << QStringList({offer("1", "News"), refused + "file:///bin/sh"}) << "";
+    QTest::newRow("endless message") << releaseDocument("1", "https://a", QByteArray(50000, 'x'))
+                                     << int(Box::No) << QStringList(offer("1", QString(2000, 'x'))) << "";
+    QTest::newRow("nothing new") << releaseDocument("0.9.2", "https://a") << int(Box::Ok)
+                                 << QStringList("Updates|You are up to date!") << "";
+}
+
+void tst_UpdatePrompt::boxes()
+{
+    QFETCH(QByteArray, body);
+    QFETCH(int, answer);
+    QFETCH(QStringList, seen);
+    QFETCH(QString, opened);
+    m_web->serve(body);
+    QMainWindow window;
+    QAction action;
+    UpdatePrompt prompt(&action, &window);
+    window.show();
+    Qt::TextFormat format = Qt::AutoText;
+    bool yesIsDefault = false;
+    Hand hand({[&](QDialog *dialog) {
+                   auto *box = static_cast<Box *>(dialog);
+                   format = box->textFormat();
+                   yesIsDefault = box->button(Box::Yes) && box->defaultButton() == box->button(Box::Yes);
+                   box->button(Box::StandardButton(answer))->click();
+               },
+               Hand::press(Box::Ok)});
+    action.trigger();
+    QTRY_COMPARE(hand.seen, seen);
+    QTRY_VERIFY(!QApplication::activeModalWidget());
+    QCOMPARE(m_opened, opened.isEmpty() ? QStringList() : QStringList(opened));
+    if (answer == Box::Ok)
+        return;
+    QCOMPARE(format, Qt::PlainText);
+    QVERIFY(yesIsDefault);
+}
+
+void tst_UpdatePrompt::checksAtStart_data()
+{
+    QTest::addColumn<bool>("wanted");
+    QTest::addColumn<bool>("asks");
+    QTest::newRow("wanted") << true << true;
+    QTest::newRow("not wanted") << false << false;
+}
+
+void tst_UpdatePrompt::checksAtStart()
+{
+    QFETCH(bool, wanted);
+    QFETCH(bool, asks);
+    Settings::Updates.setValue(wanted);
+    QSettings().remove(Settings::UpdateDate.name());
+    m_web->serve(releaseDocument("1", "https://a"));
+    QMainWindow window;
+    QAction action;
+    UpdatePrompt prompt(&action, &window);
+    window.show();
+    Hand hand({Hand::reject});
+    const auto isAsked = [&hand] { return !hand.seen.isEmpty(); };
+    QCOMPARE(QTest::qWaitFor(isAsked, asks ? 5000 : 300), asks);
+    QCOMPARE(m_web->requests.size(), asks ? 1 : 0);
+    QVERIFY(m_opened.isEmpty());
+}
+
+void tst_UpdatePrompt::standsAboveWhatIsOpen()
+{
+    QMainWindow window;
+    QAction action;
+    UpdatePrompt prompt(&action, &window);
+    window.show();
+    QDialog open(&window);
+    open.open();
+    QWidget *parent = nullptr;
+    m_web->serve(releaseDocument("1", "https://a"));
+    QTimer watch;
+    connect(&watch, &QTimer::timeout, this, [&parent] {
+        if (auto *box = qobject_cast<Box *>(QApplication::activeModalWidget())) {
+            parent = box->parentWidget();
+            box->reject();
+        }
+    });
+    watch.start(10);
+    action.trigger();
+    QTRY_VERIFY(parent);
+    QCOMPARE(parent, &open);
+}
+
+void tst_UpdatePrompt::aClosedWindowIsNotAsked()
+{
+    QMainWindow window;
+    QAction action;
+    UpdatePrompt prompt(&action, &window);
+    window.show();
+    QSignalSpy finished(window.findChild<QNetworkAccessManager *>(), &QNetworkAccessManager::finished);
+    m_web->serve(releaseDocument("1", "https://a"));
+    action.trigger();
+    window.close();
+    QTRY_COMPARE(finished.size(), 1);
+    QCoreApplication::processEvents();
+    QVERIFY(!QApplication::activeModalWidget());
+}
+
+QTEST_MAIN(tst_UpdatePrompt)
+#include "tst_updateprompt.moc"

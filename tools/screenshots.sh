@@ -207,7 +207,7 @@ other_pictures() {
 # The pictures of the guides show the view and the records of a window that is as narrow as a page.
 guide_pictures() {
     local samples=$1 part=(-crop 760x560+240+90) width=1010 height=880
-    local tree=$((width - 369)) item=$((width - 280))
+    local tree=$((width - 369)) item=$((width - 280)) import
     korvane "$(first skinnedmesh)" "$(first anim)"
     approach
     click $tree 150 $item 207
@@ -219,6 +219,12 @@ guide_pictures() {
     click $((width - 238)) 106 $item 130
     press Home Down Down Down Right Down Down Down Down Down Right Down
     for_guide action "${part[@]}"
+    press ctrl+i
+    import=$(wait_for --name '^Import model')
+    xdotool type --delay 20 "$samples/import/robot.fbx"
+    press Tab
+    grab "$import" "$guides/import.png"
+    press Escape
     quit
 
     rm "$samples/mod/textures/"*

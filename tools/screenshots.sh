@@ -183,7 +183,7 @@ master_server() {
 other_pictures() {
     local folder=$1 samples=$2 about
     master_server
-    korvane "$(first skinnedmesh)"
+    korvane "$(first skinnedmesh)" "$(first anim)"
     press alt+t
     press q
     # The list is done a second after its last piece.

@@ -89,8 +89,9 @@ void DocumentFiles::saveAll()
     finishTyping();
     for (const DocumentKind &kind : documentKinds()) {
         const Document *candidate = document(kind.type);
-        if (candidate->isOpen() && (candidate->isModified() || candidate->path().isEmpty()) &&
-            save(kind.type))
+        // An import without animations leaves an animation file that cannot be saved, and need not be.
+        const bool isNew = candidate->path().isEmpty() && candidate->refusal().isEmpty();
+        if (candidate->isOpen() && (candidate->isModified() || isNew) && save(kind.type))
             return;
     }
 }

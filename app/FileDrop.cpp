@@ -35,7 +35,9 @@ bool FileDrop::eventFilter(QObject *watched, QEvent *event)
     const QStringList paths = localFiles(*drop->mimeData());
     if (paths.isEmpty())
         return false;
-    drop->acceptProposedAction();
+    // Whatever was meant: the files stay where they are.
+    drop->setDropAction(Qt::CopyAction);
+    drop->accept();
     if (event->type() == QEvent::Drop)
         QTimer::singleShot(0, this, [this, paths] { emit dropped(paths); });
     return true;

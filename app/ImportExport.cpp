@@ -12,6 +12,7 @@
 
 #include <QDir>
 #include <QEventLoop>
+#include <QFileInfo>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QProgressDialog>
@@ -28,17 +29,35 @@ qint32 versionFor(const ModelDocument<Model> &document)
 }
 
 /// Lets the worker do the job while the window stays alive; a job that takes its time can be given up.
-void runJob(ImportWorker &worker, const WorkerJob &job, const StaticMesh &mesh, QWidget *window)
+/// Returns false when the program ends meanwhile.
+bool runJob(ImportWorker &worker, const WorkerJob &job, const StaticMesh &mesh, QWidget *window)
 {
     QProgressDialog progress(QObject::tr("Exporting '%1'").arg(job.objName), QObject::tr("Cancel"), 0, 0,
                              window);
     progress.setWindowModality(Qt::WindowModal);
+    progress.setMinimumDuration(0); // meanwhile nothing else may be started
     QEventLoop loop;
     QObject::connect(&worker, &ImportWorker::finished, &loop, &QEventLoop::quit);
     QObject::connect(&progress, &QProgressDialog::canceled, &worker, &ImportWorker::cancel);
     worker.start(job, mesh);
     if (worker.isRunning())
         loop.exec();
+    return !worker.isRunning();
+}
+
+/// Asks before the export takes the place of files of its names.
+bool mayReplace(const WorkerJob &job, const QString &folder, QWidget *window)
+{
+    QStringList existing;
+    for (const QString &name : exportedFiles(job)) {
+        if (QFileInfo::exists(QDir(folder).filePath(name)))
+            existing += QDir::toNativeSeparators(QDir(folder).filePath(name));
+    }
+    return existing.isEmpty() ||
+           QMessageBox::question(window, QObject::tr("Export"),
+                                 QObject::tr("These files exist already. Replace them?\n\n%1")
+                                     .arg(existing.join(QLatin1Char('\n'))),
+                                 QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
 /// To the console; errors in a box as well.
@@ -113,8 +132,11 @@ void ImportExport::exportStaticMesh()
     const WorkerJob job =
         staticMeshExport(m_staticMesh.model(), m_staticMesh.fileName(), materials, messages);
     if (!messages.hasError()) {
+        if (!mayReplace(job, folder, m_window))
+            return;
         ImportWorker worker;
-        runJob(worker, job, m_staticMesh.model(), m_window);
+        if (!runJob(worker, job, m_staticMesh.model(), m_window))
+            return;
         messages.lines += worker.messages().lines;
         if (!messages.hasError() && !placeExport(worker, job, folder, messages)) {
             const QString path = QDir::toNativeSeparators(QDir(folder).filePath(job.objName));

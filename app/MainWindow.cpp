@@ -10,8 +10,8 @@
 #include "ExplorerFiles.h"
 #include "FileDrop.h"
 #include "FolderExplorer.h"
-#include "ImportDialog.h"
 #include "ImportExport.h"
+#include "ImportFilter.h"
 #include "ModelTransforms.h"
 #include "OptionsDialog.h"
 #include "Playback.h"
@@ -34,6 +34,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
@@ -216,12 +217,13 @@ void MainWindow::openFiles(const QStringList &paths)
     const DocumentKind *first = nullptr;
     for (const QString &path : paths) {
         const DocumentKind *kind = documentKindOfFile(path);
-        if (!kind && ImportDialog::isModelFile(path)) {
+        if (!kind && isImportable(path)) {
             importFile(path);
         } else if (!kind) {
             QMessageBox::warning(this, tr("File error"),
                                  tr("Failed to open\n%1").arg(QDir::toNativeSeparators(path)));
-        } else if (!m_files->open(kind->type, QFileInfo(path).absoluteFilePath()) && !first) {
+        } else if (m_files->promptUnsaved(kind->type) &&
+                   !m_files->open(kind->type, QFileInfo(path).absoluteFilePath()) && !first) {
             first = kind;
         }
     }
@@ -231,6 +233,8 @@ void MainWindow::openFiles(const QStringList &paths)
 
 void MainWindow::importFile(const QString &path)
 {
+    // A model on the command line comes before the question that its output folder depends on.
+    OnStartSetupPaths();
     const bool toStatic = m_ui->tabWidget->currentWidget() == m_ui->tabStatic;
     m_importExport->importModel(toStatic ? DocumentType::StaticMesh : DocumentType::SkinnedMesh, path);
 }
@@ -342,6 +346,8 @@ void MainWindow::showInViewport(DocumentType type, const RecordRef &record)
 
 void MainWindow::OnStartSetupPaths()
 {
+    if (std::exchange(m_askedForFolders, true))
+        return;
     const QString gamePath = Settings::GamePath.value();
     if (!gamePath.isEmpty() && !Settings::OutputDir.value().isEmpty() && QDir(gamePath).exists())
         return;

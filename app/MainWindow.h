@@ -106,5 +106,6 @@ private:
     ModelTransforms *m_transforms;
     ImportExport *m_importExport;
     std::array<Pane, 3> m_panes{};
+    bool m_askedForFolders = false;
     QString m_readOut; ///< the camera position that the status bar shows
 };

@@ -11,6 +11,7 @@
 #include <QTextStream>
 
 #include <assimp/Importer.hpp>
+#include <assimp/config.h>
 
 #include <chrono>
 #include <thread>
@@ -71,6 +72,7 @@ void import(const QString &path)
 void readOnly(const QString &path)
 {
     Assimp::Importer importer;
+    importer.SetPropertyInteger(AI_CONFIG_PP_RVC_FLAGS, 0x36C); // what a static import has removed
     if (!importer.ReadFile(path.toUtf8().constData(), Flags))
         qFatal("the reading failed");
 }

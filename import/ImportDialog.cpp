@@ -3,25 +3,22 @@
 #include "ImportDialog.h"
 
 #include "Fuzzy.h"
+#include "ImportFilter.h"
 #include "ImportFlags.h"
 #include "ImportOutput.h"
-#include "ListIcon.h"
 #include "Settings.h"
 #include "Transform.h"
 #include "ui_ImportDialog.h"
 
-#include <QAction>
-#include <QApplication>
-#include <QClipboard>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLocale>
 #include <QLoggingCategory>
 #include <QMessageBox>
-#include <QRegularExpression>
-#include <QSet>
+#include <QScreen>
 
 #include <algorithm>
 #include <utility>
@@ -37,6 +34,13 @@ QString defaultKMatPath(const QString &modelPath)
     return QStringLiteral("materials/mat_%1.kmat").arg(QFileInfo(modelPath).completeBaseName());
 }
 
+/// Surfaces refer to the file by its name without the extension, which so has to be this one.
+QString withKMatSuffix(const QString &path)
+{
+    const QString suffix = QStringLiteral(".kmat");
+    return path.endsWith(suffix) ? path : path + suffix;
+}
+
 template <typename T>
 void store(T &field, const SettingKey<T> &key, const T &value)
 {
@@ -44,45 +48,17 @@ void store(T &field, const SettingKey<T> &key, const T &value)
     key.setValue(value);
 }
 
+/// Of an import, in seconds; an hour at most.
+int timeLimit()
+{
+    return qBound(1, Settings::ImportTimeLimit.value(), 3600);
+}
+
 float storedScale(const QDoubleSpinBox &box)
 {
     return float(qBound(box.minimum(), double(Settings::ImportScale.value()), box.maximum()));
 }
 } // namespace
-
-QString ImportDialog::modelFilter()
-{
-    return QStringLiteral(
-        "Wavefront Object (*.obj);;Collada (*.dae);;Autodesk (*.fbx);;Blender 3D (*.blend);;3ds Max 3DS "
-        "(*.3ds);;"
-        "3ds Max ASE (*.ase);;glTF (*.gltf, *.glb);;Industry Foundation Classes (IFC/Step) (*.ifc);;XGL "
-        "(*.xgl, "
-        "*.zgl);;Stanford Polygon Library (*.ply);;AutoCAD DXF (*.dxf);;LightWave (.lwo);;LightWave Scene "
-        "(*.lws);;Modo (*.lxo);;Stereolithography (*.stl);;DirectX X (*.x);;AC3D (*.ac);;Milkshape 3D "
-        "(*.ms3d);;TrueSpace (*.cob, *.scn);;Biovision BVH (*.bvh);;CharacterStudio Motion (*.csm);;Ogre XML "
-        "(*.xml);;Irrlicht Mesh (*.irrmesh);;Irrlicht Scene (*.irr);;Quake I (*.mdl);;Quake II "
-        "(*.md2);;Quake III "
-        "Mesh (*.md3);;Quake III Map/BSP (*.pk3);;Return to Castle Wolfenstein (*.mdc);;Doom 3 "
-        "(*.md5*);;Valve "
-        "Model (*.smd, *.vta);;Open Game Engine Exchange (*.ogex);;Unreal (*.3d);;BlitzBasic 3D "
-        "(*.b3d);;Quick3D (*.q3d, *.q3s);;Neutral File Format (*.nff);;Sense8 WorldToolKit (*.nff);;Object "
-        "File "
-        "Format (*.off);;PovRAY Raw (*.raw);;Terragen Terrain (*.ter);;3D GameStudio (3DGS) (*.mdl);;3D "
-        "GameStudio (3DGS) Terrain (*.hmp);;Izware Nendo (*.ndo);;All (*.*)");
-}
-
-bool ImportDialog::isModelFile(const QString &path)
-{
-    static const QSet<QString> extensions = [] {
-        QSet<QString> found;
-        static const QRegularExpression pattern(QStringLiteral("\\.([a-z0-9]+)"));
-        for (auto match = pattern.globalMatch(modelFilter()); match.hasNext();)
-            found.insert(match.next().captured(1));
-        return found;
-    }();
-    const QString suffix = QFileInfo(path).suffix().toLower();
-    return extensions.contains(suffix) || suffix.startsWith(QLatin1String("md5"));
-}
 
 ImportDialog::ImportDialog(Mode mode, QWidget *parent)
     : QDialog(parent)
@@ -103,22 +79,14 @@ ImportDialog::ImportDialog(Mode mode, QWidget *parent)
     setWindowTitle(tr("Import model to %1").arg(modeName()));
     m_ui->btnImport->setText(tr("&Import to %1!").arg(modeName()));
     m_scale = storedScale(*m_ui->sbScale);
-    for (QListWidget *list : {m_ui->listSuccess, m_ui->listError}) {
-        auto *copy = new QAction(QIcon(QStringLiteral(":/Images/Icons/copy.png")), tr("&Copy"), list);
-        copy->setShortcut(QKeySequence::Copy);
-        copy->setShortcutContext(Qt::WidgetShortcut);
-        list->addAction(copy);
-        list->setContextMenuPolicy(Qt::ActionsContextMenu);
-        const auto copyLines = [list] {
-            QStringList lines;
-            for (int row = 0; row < list->count(); ++row)
-                lines += list->item(row)->text();
-            QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
-        };
-        connect(copy, &QAction::triggered, this, copyLines);
-        connect(list == m_ui->listSuccess ? m_ui->btnSuccessCopy : m_ui->btnErrorCopy, &QPushButton::clicked,
-                this, copyLines);
+    connect(m_ui->btnSuccessCopy, &QPushButton::clicked, m_ui->listSuccess, &MessageList::copy);
+    connect(m_ui->btnErrorCopy, &QPushButton::clicked, m_ui->listError, &MessageList::copy);
+    for (QLabel *label : findChildren<QLabel *>()) {
+        // An underlined letter is drawn without kerning, and takes a little more room than was asked for.
+        if (label->buddy())
+            label->setMinimumWidth(label->sizeHint().width() + 2);
     }
+    m_ui->lblBanner->setVisible(fitsScreen());
     fillEditors();
     connectEditors();
     connect(&m_worker, &ImportWorker::finished, this, &ImportDialog::onWorkerFinished);
@@ -129,6 +97,13 @@ ImportDialog::ImportDialog(Mode mode, QWidget *parent)
 }
 
 ImportDialog::~ImportDialog() = default;
+
+/// On a small screen the banner makes room for the buttons.
+bool ImportDialog::fitsScreen() const
+{
+    constexpr int Frame = 60;
+    return sizeHint().height() + Frame < QGuiApplication::primaryScreen()->availableSize().height();
+}
 
 QString ImportDialog::modeName() const
 {
@@ -196,7 +171,7 @@ void ImportDialog::connectEditors()
 void ImportDialog::on_btnModelBrowse_clicked()
 {
     const QString path = QFileDialog::getOpenFileName(this, tr("Import Model to %1").arg(modeName()),
-                                                      Settings::ImportPath.value(), modelFilter());
+                                                      Settings::ImportPath.value(), importFilter());
     if (path.isEmpty())
         return;
     Settings::ImportPath.setValue(QFileInfo(path).absolutePath());
@@ -268,8 +243,10 @@ void ImportDialog::OnTxtModelPathChanged()
 void ImportDialog::OnTxtKMatPathChanged()
 {
     const QString typed = QDir::fromNativeSeparators(m_ui->txtKMatPath->text());
-    if (typed != m_kmatPath && !refusePath(typed))
-        m_kmatPath = pathInside(m_outputDir, typed);
+    if (typed.isEmpty())
+        m_kmatPath = defaultKMatPath(m_modelPath);
+    else if (typed != m_kmatPath && !refusePath(typed))
+        m_kmatPath = withKMatSuffix(pathInside(m_outputDir, typed));
     m_ui->txtKMatPath->setText(QDir::toNativeSeparators(m_kmatPath));
 }
 
@@ -284,7 +261,7 @@ void ImportDialog::OnTxtTexPathChanged()
 /// Says so and returns true when the path is not inside the mod folder.
 bool ImportDialog::refusePath(const QString &path)
 {
-    if (!pathInside(m_outputDir, path).isNull())
+    if (m_leaving || !pathInside(m_outputDir, path).isNull())
         return false;
     QMessageBox::warning(this, tr("kmat Path Error"), tr("Path must be relative to Turok 2 Folder"));
     return true;
@@ -380,7 +357,7 @@ void ImportDialog::on_btnImport_clicked()
     job.flags = importFlags();
     job.meshVersion = m_meshVersion;
     job.animVersion = m_animVersion;
-    m_worker.setTimeLimit(std::max(1, Settings::ImportTimeLimit.value()) * 1000);
+    m_worker.setTimeLimit(timeLimit() * 1000);
 
     m_ui->lblProgress->setText(tr("Reading '%1'").arg(nativeModelPath()));
     m_ui->stackPages->setCurrentWidget(m_ui->pageProgress);
@@ -393,9 +370,8 @@ void ImportDialog::on_btnImport_clicked()
 void ImportDialog::updateElapsed()
 {
     const double seconds = double(m_worker.elapsed()) / 1000.0;
-    m_ui->lblElapsed->setText(tr("%1 s of at most %2 s")
-                                  .arg(QLocale().toString(seconds, 'f', 1),
-                                       QLocale().toString(std::max(1, Settings::ImportTimeLimit.value()))));
+    m_ui->lblElapsed->setText(
+        tr("%1 s of at most %2 s").arg(QLocale().toString(seconds, 'f', 1), QLocale().toString(timeLimit())));
 }
 
 void ImportDialog::on_btnStop_clicked()
@@ -421,6 +397,7 @@ void ImportDialog::on_btnErrorBack_clicked()
 
 void ImportDialog::reject()
 {
+    m_leaving = !m_worker.isRunning();
     if (m_worker.isRunning())
         m_worker.cancel();
     else if (m_ui->stackPages->currentWidget() == m_ui->pageSuccess)
@@ -442,6 +419,7 @@ void ImportDialog::onWorkerFinished()
         else
             finishStaticMesh(messages, outcome);
     }
+    m_worker.discard();
     if (messages.hasError())
         showError(messages);
     else
@@ -498,7 +476,7 @@ void ImportDialog::showSuccess(const ImportMessages &messages, const QString &ou
 {
     m_ui->lblSuccess->setText(tr("Successfully imported '%1' to %2\n").arg(nativeModelPath(), modeName()) +
                               outcome);
-    fill(m_ui->listSuccess, messages);
+    m_ui->listSuccess->setMessages(messages, {LogSeverity::Info, LogSeverity::Warning});
     m_ui->stackPages->setCurrentWidget(m_ui->pageSuccess);
     m_ui->btnSuccess->setFocus();
 }
@@ -506,17 +484,7 @@ void ImportDialog::showSuccess(const ImportMessages &messages, const QString &ou
 void ImportDialog::showError(const ImportMessages &messages)
 {
     m_ui->lblError->setText(tr("Error importing '%1'").arg(nativeModelPath()));
-    fill(m_ui->listError, messages);
+    m_ui->listError->setMessages(messages, {LogSeverity::Error, LogSeverity::Warning, LogSeverity::Info});
     m_ui->stackPages->setCurrentWidget(m_ui->pageError);
     m_ui->btnErrorBack->setFocus();
-}
-
-void ImportDialog::fill(QListWidget *list, const ImportMessages &messages)
-{
-    static const char *const icons[] = {"error", "warning", "info"};
-    list->clear();
-    for (const ImportMessage &line : messages.lines) {
-        auto *item = new QListWidgetItem(listIcon(QLatin1String(icons[int(line.severity)])), line.text, list);
-        item->setData(Qt::UserRole, int(line.severity));
-    }
 }

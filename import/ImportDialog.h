@@ -10,8 +10,6 @@
 
 #include <memory>
 
-class QListWidget;
-
 namespace Ui {
 class ImportDialog;
 }
@@ -33,11 +31,6 @@ public:
     /// What the new model's `version` field shall hold.
     void setVersions(qint32 meshVersion, qint32 animVersion);
     void setFolderChooser(FolderChooser chooser) { m_chooseFolder = std::move(chooser); }
-
-    /// The open-dialog filter of all interchange formats.
-    static QString modelFilter();
-    /// Whether the filter names the file's extension.
-    static bool isModelFile(const QString &path);
 
     void reject() override;
 
@@ -76,6 +69,7 @@ private slots:
 private:
     QString modeName() const;
     QString nativeModelPath() const;
+    bool fitsScreen() const;
     void fillEditors();
     void connectEditors();
     void updateElapsed();
@@ -91,7 +85,6 @@ private:
     void writeOutputs(const Mesh &mesh, ImportMessages &messages, QString &outcome) const;
     void showSuccess(const ImportMessages &messages, const QString &outcome);
     void showError(const ImportMessages &messages);
-    static void fill(QListWidget *list, const ImportMessages &messages);
 
     std::unique_ptr<Ui::ImportDialog> m_ui;
     const Mode m_mode;
@@ -112,5 +105,6 @@ private:
     bool m_createKMat;
     bool m_rotatePitch;
     float m_scale;
+    bool m_leaving = false;     ///< what is typed does not matter any more
     bool m_pathEntered = false; ///< the Enter key that comes next has ended the typing of a path
 };

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QSaveFile>
 
 bool copyTexture(const QString &source, const QString &target, ImportMessages &messages)
@@ -28,8 +29,22 @@ bool copyTexture(const QString &source, const QString &target, ImportMessages &m
     return true;
 }
 
+void warnOfSharedNames(const QStringList &files, ImportMessages &messages)
+{
+    QHash<QString, QString> known;
+    for (const QString &file : files) {
+        QString &first = known[QFileInfo(file).fileName()];
+        if (first.isEmpty())
+            first = file;
+        else
+            messages.addWarning(
+                QStringLiteral("'%1' and '%2' have one name: only one of them can be used").arg(first, file));
+    }
+}
+
 QString copyTextures(const QStringList &textures, const QString &folder, ImportMessages &messages)
 {
+    warnOfSharedNames(textures, messages);
     bool any = false;
     bool failed = false;
     for (const QString &texture : textures) {
@@ -65,6 +80,13 @@ template MaterialTable materialsOf(const std::vector<StaticMeshSurface> &, const
 
 QString createKMat(const QString &path, const MaterialTable &materials, ImportMessages &messages)
 {
+    for (const auto &[name, texture] : materials) {
+        // Values of a material file end at a blank.
+        if (texture.contains(QLatin1Char(' ')))
+            messages.addWarning(
+                QStringLiteral("Material '%1': the texture '%2' will not be found, for the blank in its path")
+                    .arg(name, texture));
+    }
     const QString error = writeKMat(path, materials);
     if (error.isEmpty())
         return QStringLiteral("Successfully created .kmat file\n");
@@ -74,11 +96,10 @@ QString createKMat(const QString &path, const MaterialTable &materials, ImportMe
 
 QString pathInside(const QString &folder, const QString &path)
 {
-    if (folder.isEmpty())
-        return {};
     const QDir root(QDir::cleanPath(QDir::fromNativeSeparators(folder)));
+    const QString wanted = QDir::fromNativeSeparators(path);
     const QString relative =
-        QDir::cleanPath(root.relativeFilePath(root.absoluteFilePath(QDir::fromNativeSeparators(path))));
+        QDir::cleanPath(folder.isEmpty() ? wanted : root.relativeFilePath(root.absoluteFilePath(wanted)));
     if (relative == QLatin1String("..") || relative.startsWith(QLatin1String("../")) ||
         QDir::isAbsolutePath(relative))
         return {};

@@ -11,6 +11,9 @@
 /// onto itself is left alone. Returns true on failure, after a warning line.
 bool copyTexture(const QString &source, const QString &target, ImportMessages &messages);
 
+/// Warns of files of one name, of which only one can stand in a folder.
+void warnOfSharedNames(const QStringList &files, ImportMessages &messages);
+
 /// Copies textures into a folder; gives the line that says how that ended.
 [[nodiscard]] QString copyTextures(const QStringList &textures, const QString &folder,
                                    ImportMessages &messages);

@@ -33,7 +33,7 @@ ImportWorker::ImportWorker(QObject *parent)
             &ImportWorker::onProcessFinished);
     connect(&m_process, &QProcess::errorOccurred, this, &ImportWorker::onProcessError);
     connect(&m_limit, &QTimer::timeout, this,
-            [this] { stop(tr("It took longer than %n second(s).", nullptr, m_timeLimit / 1000)); });
+            [this] { stop(tr("It took longer than %1 s.").arg(m_timeLimit / 1000)); });
 }
 
 ImportWorker::~ImportWorker()
@@ -120,17 +120,22 @@ void ImportWorker::finish(const QString &failure)
     m_messages.lines = m_answer.messages;
     if (!failure.isEmpty()) {
         m_answer = {};
-        const bool exporting = m_job.task == WorkerJob::Task::ExportObj;
         m_messages.lines.clear();
-        m_messages.addError(exporting
-                                ? QStringLiteral("%1 Could not write file. %2").arg(m_job.objName, failure)
-                                : QStringLiteral("%1 Could not read file. %2").arg(m_job.modelPath, failure));
+        m_messages.addError(m_job.failure(failure));
+        discard();
     }
     emit finished();
 }
 
+void ImportWorker::discard()
+{
+    m_folder.reset();
+}
+
 bool ImportWorker::read(SkinnedMesh &mesh, AnimFile &anim) const
 {
+    if (!m_folder)
+        return true;
     const WorkerFolder folder(m_folder->path());
     anim.version = m_job.animVersion;
     return mesh.read(folder.skinnedMesh()) || (QFileInfo::exists(folder.anim()) && anim.read(folder.anim()));
@@ -138,10 +143,10 @@ bool ImportWorker::read(SkinnedMesh &mesh, AnimFile &anim) const
 
 bool ImportWorker::read(StaticMesh &mesh) const
 {
-    return mesh.read(WorkerFolder(m_folder->path()).staticMesh());
+    return !m_folder || mesh.read(WorkerFolder(m_folder->path()).staticMesh());
 }
 
 QString ImportWorker::madeFile(const QString &name) const
 {
-    return WorkerFolder(m_folder->path()).path(name);
+    return m_folder ? WorkerFolder(m_folder->path()).path(name) : QString();
 }

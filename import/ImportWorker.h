@@ -13,8 +13,8 @@
 #include <memory>
 
 /// Has one job at a time done by the worker process. Whatever becomes of that process, finished() comes once
-/// a job, with an error line in messages() if there is no result; a job's temporary files go with the next
-/// job or with this object.
+/// a job, with an error line in messages() if there is no result; a job that
+/// fails leaves no file, the files of one that succeeds go with discard(), the next job or this object.
 class ImportWorker : public QObject
 {
     Q_OBJECT
@@ -43,8 +43,10 @@ public:
     /// These return true on failure. An animation file without blocks stands for no animation.
     [[nodiscard]] bool read(SkinnedMesh &mesh, AnimFile &anim) const;
     [[nodiscard]] bool read(StaticMesh &mesh) const;
-    /// The path of a file that the job made.
+    /// The path of a file that the job made; empty when there are none.
     QString madeFile(const QString &name) const;
+    /// Removes the job's files: nothing can be read of it any more.
+    void discard();
 
 signals:
     void finished();

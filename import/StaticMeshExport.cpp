@@ -70,19 +70,24 @@ WorkerJob staticMeshExport(const StaticMesh &mesh, const QString &meshPath, Mate
     return job;
 }
 
+QStringList exportedFiles(const WorkerJob &job)
+{
+    // The materials first, so that an OBJ file never stands without them.
+    return {QFileInfo(job.objName).completeBaseName() + QStringLiteral(".mtl"), job.objName};
+}
+
 bool placeExport(const ImportWorker &worker, const WorkerJob &job, const QString &folder,
                  ImportMessages &messages)
 {
     const QDir target(folder);
-    const QString mtlName = QFileInfo(job.objName).completeBaseName() + QStringLiteral(".mtl");
-    // The materials first, so that an OBJ file never stands without them.
-    for (const QString &name : {mtlName, job.objName}) {
+    for (const QString &name : exportedFiles(job)) {
         if (placeFile(worker.madeFile(name), target.filePath(name))) {
             messages.addError(QStringLiteral("[Static Mesh Export] %1 Could not write file.")
                                   .arg(QDir::toNativeSeparators(target.filePath(name))));
             return true;
         }
     }
+    warnOfSharedNames(job.textures, messages);
     for (const QString &texture : job.textures) {
         if (QFileInfo(texture).isFile())
             copyTexture(texture, target.filePath(QFileInfo(texture).fileName()), messages);

@@ -13,6 +13,9 @@ class MaterialFiles;
 WorkerJob staticMeshExport(const StaticMesh &mesh, const QString &meshPath, MaterialFiles &materials,
                            ImportMessages &messages);
 
+/// The names of the files that the job makes, textures aside.
+QStringList exportedFiles(const WorkerJob &job);
+
 /// Puts the files that `worker` has made for `job`, and the textures, into `folder`. Returns true on failure,
 /// after an error line; a texture that cannot be copied is worth a warning only.
 [[nodiscard]] bool placeExport(const ImportWorker &worker, const WorkerJob &job, const QString &folder,

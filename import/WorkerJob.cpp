@@ -81,6 +81,9 @@ bool WorkerFolder::read(WorkerAnswer &answer) const
             qint32 severity = 0;
             QString text;
             in >> severity >> text;
+            // A worker that a file has got the better of may write anything.
+            if (severity < int(LogSeverity::Error) || severity > int(LogSeverity::Info))
+                in.setStatus(QDataStream::ReadCorruptData);
             answer.messages.append({LogSeverity(severity), text});
         }
     });

@@ -31,6 +31,13 @@ struct WorkerJob
     QString objName;                      ///< of the file to be made, as "crate.obj"
     QStringList textures;                 ///< distinct file paths, one material each
     std::vector<qint32> textureOfSurface; ///< index into `textures`, -1: none
+
+    /// The error line for a job that could not be done.
+    QString failure(const QString &reason) const
+    {
+        return task == Task::ExportObj ? QStringLiteral("%1 Could not write file. %2").arg(objName, reason)
+                                       : QStringLiteral("%1 Could not read file. %2").arg(modelPath, reason);
+    }
 };
 
 struct WorkerAnswer

@@ -85,7 +85,7 @@ void work(const WorkerJob &job, const WorkerFolder &folder, WorkerAnswer &answer
     }
     }
     if (failed)
-        messages.addError(QStringLiteral("%1 The model could not be handed over.").arg(job.modelPath));
+        messages.addError(job.failure(QStringLiteral("The model could not be handed over.")));
 }
 } // namespace
 
@@ -107,9 +107,8 @@ int main(int argc, char *argv[])
     ImportMessages messages;
     try {
         work(job, folder, answer, messages);
-    } catch (const std::exception &failure) {
-        messages.addError(
-            QStringLiteral("%1 Could not read file. %2").arg(job.modelPath, QLatin1String(failure.what())));
+    } catch (const std::exception &exception) {
+        messages.addError(job.failure(QLatin1String(exception.what())));
     }
     answer.messages = messages.lines;
     return folder.write(answer) ? EXIT_FAILURE : EXIT_SUCCESS;

@@ -101,7 +101,6 @@ void exportObj(const StaticMesh &mesh, const QStringList &textures,
     for (const QString &texture : textures)
         materials.push_back(makeMaterial(texture));
     const auto white = unsigned(materials.size());
-    materials.push_back(makeMaterial({}));
 
     std::vector<std::unique_ptr<aiMesh>> meshes;
     for (size_t i = 0; i < mesh.surfaces.size(); ++i) {
@@ -110,6 +109,8 @@ void exportObj(const StaticMesh &mesh, const QStringList &textures,
             continue;
         const qint32 texture = i < textureOfSurface.size() ? textureOfSurface[i] : -1;
         part->mMaterialIndex = texture >= 0 && texture < textures.size() ? unsigned(texture) : white;
+        if (part->mMaterialIndex == materials.size())
+            materials.push_back(makeMaterial({}));
         part->mName = libraryText(QStringLiteral("surface_%1").arg(i));
         meshes.push_back(std::move(part));
     }

@@ -13,6 +13,8 @@
 #include <assimp/Importer.hpp>
 #include <assimp/postprocess.h>
 
+#include <algorithm>
+
 Q_LOGGING_CATEGORY(importLog, "korvane.import", QtInfoMsg)
 
 static_assert(ImportFlags::StaticMesh ==
@@ -170,13 +172,22 @@ bool addSurfaces(const SceneSource &source, quint32 vertexLimit, Mesh &mesh)
         }
         auto &triangleIndexes = mesh.surfaces[surfaceOfMaterial[part.mMaterialIndex]].triangleIndexes;
         triangleIndexes.reserve(triangleIndexes.size() + size_t(part.mNumFaces) * 3);
+        bool badFaces = false;
         for (unsigned f = 0; f < part.mNumFaces; ++f) {
             const aiFace &face = part.mFaces[f];
             if (face.mNumIndices != 3)
                 continue;
+            if (std::any_of(face.mIndices, face.mIndices + 3,
+                            [&part](unsigned index) { return index >= part.mNumVertices; })) {
+                badFaces = true;
+                continue;
+            }
             for (unsigned corner = 0; corner < 3; ++corner)
                 triangleIndexes.push_back(quint16(firstVertex + face.mIndices[corner]));
         }
+        if (badFaces)
+            source.messages.addError(QStringLiteral("%1 Mesh %2 refers to vertices that are not there")
+                                         .arg(source.modelPath, QString::number(i)));
     }
     boundVertices(mesh);
     return false;

@@ -93,7 +93,8 @@ void Skeleton::append(const aiNode &node, SkinnedMesh &mesh) const
 {
     const size_t index = mesh.nodes.size();
     const Node *parent = &node != m_root ? find(node.mParent->mName) : nullptr;
-    mesh.nodes.emplace_back().parentNode = parent ? quint8(parent->index) : NoParent;
+    mesh.nodes.emplace_back().parentNode =
+        parent && parent->index < NoParent ? quint8(parent->index) : NoParent;
     for (unsigned i = 0; i < node.mNumChildren; ++i) {
         mesh.nodes[index].childNodes.push_back(quint16(mesh.nodes.size()));
         append(*node.mChildren[i], mesh);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Hand.h"
 #include "ImportDialog.h"
+#include "ImportFilter.h"
 #include "KMat.h"
 #include "Settings.h"
 #include "TestSupport.h"
@@ -168,7 +169,8 @@ void tst_ImportDialog::choosingTheModel()
     // A typed model takes its material file along, until that was chosen.
     type(dialog, "txtModelPath", QStringLiteral("/x/crate.fbx"));
     QCOMPARE(child<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("materials/mat_crate.kmat"));
-    type(dialog, "txtKMatPath", QStringLiteral("mine.kmat"));
+    type(dialog, "txtKMatPath", QStringLiteral("mine"));
+    QCOMPARE(child<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("mine.kmat"));
     type(dialog, "txtModelPath", QStringLiteral("/x/barrel.fbx"));
     QCOMPARE(child<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("mine.kmat"));
 }
@@ -258,8 +260,8 @@ void tst_ImportDialog::outcomes_data()
     QTest::newRow("both") << true << true << true << QString() << copied + created;
     QTest::newRow("nothing to copy") << false << true << false << QString()
                                      << QStringLiteral("Model had no textures to copy\n");
-    QTest::newRow("both fail") << true << true << true << QStringLiteral("textures/steel.png/x")
-                               << QStringLiteral("Failed on copying textures\n") + created;
+    QTest::newRow("no texture") << true << true << true << QStringLiteral("textures/steel.png/x")
+                                << QStringLiteral("Failed on copying textures\n") + created;
     QTest::newRow("no material file")
         << true << false << true << QStringLiteral("materials/mat_box.v2.kmat/x")
         << QStringLiteral("Failed on creating .kmat file\n");
@@ -420,14 +422,14 @@ void tst_ImportDialog::givingUp()
 
 void tst_ImportDialog::filterNamesTheFormats()
 {
-    const QStringList filters = ImportDialog::modelFilter().split(QStringLiteral(";;"));
+    const QStringList filters = importFilter().split(QStringLiteral(";;"));
     QCOMPARE(filters.size(), 44);
     QVERIFY(filters.contains(QStringLiteral("LightWave (.lwo)")));
     QCOMPARE(filters.last(), QStringLiteral("All (*.*)"));
     for (const char *name : {"a.obj", "A.FBX", "a.b.gltf", "a.lwo", "a.md5mesh", "a.3ds", "a.q3s"})
-        QVERIFY2(ImportDialog::isModelFile(QLatin1String(name)), name);
+        QVERIFY2(isImportable(QLatin1String(name)), name);
     for (const char *name : {"a.skinnedmesh", "a.png", "a", "obj", "a.kmat"})
-        QVERIFY2(!ImportDialog::isModelFile(QLatin1String(name)), name);
+        QVERIFY2(!isImportable(QLatin1String(name)), name);
 }
 
 QTEST_MAIN(tst_ImportDialog)

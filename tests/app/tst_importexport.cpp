@@ -211,7 +211,7 @@ void tst_ImportExport::exportAndBack()
         if (dialog->isVisible())
             QTest::keyClick(name, Qt::Key_Return);
     };
-    Hand hand({importing(), choose, Hand::press(QMessageBox::Ok)});
+    Hand hand({importing(), choose, choose, Hand::press(QMessageBox::No)});
     window.openFiles({writeObj(QStringLiteral("box.obj"))});
     QCOMPARE(m_page, QStringLiteral("pageSuccess"));
     trigger(window, "actionExport");
@@ -219,7 +219,15 @@ void tst_ImportExport::exportAndBack()
     QCOMPARE(Settings::StaticMeshExportPath.value(), out);
     QCOMPARE(QDir(out).entryList(QDir::Files),
              QStringList({QStringLiteral("box.mtl"), QStringLiteral("box.obj")}));
-    QVERIFY(TestSupport::readFile(out + QStringLiteral("/box.obj")).contains("vt 0.5 0.25"));
+    const QString obj = out + QStringLiteral("/box.obj");
+    QVERIFY(TestSupport::readFile(obj).contains("vt 0.5 0.25"));
+
+    // What stands there is not replaced unasked.
+    QVERIFY(TestSupport::writeFile(obj, "mine"));
+    trigger(window, "actionExport");
+    QCOMPARE(hand.seen.size(), 4);
+    QVERIFY(hand.seen[3].startsWith(QLatin1String("Export|These files exist already.")));
+    QCOMPARE(TestSupport::readFile(obj), QByteArray("mine"));
 }
 
 void tst_ImportExport::exportOnOtherTabs()

@@ -9,11 +9,12 @@
 #include <QVector>
 
 #include <array>
+#include <cmath>
 
 /// One skinned triangle in a glTF file of its own, with the bones
 ///
 ///     scene ─┬─ hips at (1, 2, 3) ─┬─ arm
-///            │                     └─ tail
+///            │                     └─ tail, turned by 90 degrees about z
 ///            └─ body (the triangle)
 ///
 /// whose corners belong to hips, arm and nobody. Times are in milliseconds, the format's ticks.
@@ -49,6 +50,7 @@ public:
         for (const Animation &animation : animations)
             written.append(animationObject(animation));
 
+        const double half = std::sqrt(0.5);
         QJsonObject root;
         root["asset"] = QJsonObject{{"version", "2.0"}};
         root["scene"] = 0;
@@ -57,7 +59,8 @@ public:
                                    QJsonObject{{"name", "hips"},
                                                {"children", QJsonArray{2, 3}},
                                                {"translation", QJsonArray{1, 2, 3}}},
-                                   QJsonObject{{"name", "arm"}}, QJsonObject{{"name", "tail"}},
+                                   QJsonObject{{"name", "arm"}},
+                                   QJsonObject{{"name", "tail"}, {"rotation", QJsonArray{0, 0, half, half}}},
                                    QJsonObject{{"name", "body"}, {"mesh", 0}, {"skin", 0}}};
         root["skins"] =
             QJsonArray{QJsonObject{{"joints", QJsonArray{1, 2, 3}}, {"inverseBindMatrices", binds}}};

@@ -42,7 +42,8 @@ void tst_importoutput::insideOrOutside()
     const QString found = pathInside(QStringLiteral("/mod/"), path);
     QCOMPARE(found, relative);
     QCOMPARE(found.isNull(), relative.isNull());
-    QVERIFY(pathInside(QString(), path).isNull());
+    // Without a folder only what is relative already can be inside.
+    QCOMPARE(pathInside(QString(), path).isNull(), relative.isNull() || path.startsWith(QLatin1Char('/')));
 }
 
 void tst_importoutput::copying()
@@ -67,6 +68,16 @@ void tst_importoutput::copying()
     QVERIFY(messages.lines.isEmpty());
     QCOMPARE(copyTextures({QString()}, target.path(), messages),
              QStringLiteral("Model had no textures to copy\n"));
+
+    // Two of one name cannot both stand there.
+    QVERIFY(QDir(source.path()).mkpath(QStringLiteral("other")));
+    const QString alike = source.filePath(QStringLiteral("other/a.png"));
+    QVERIFY(TestSupport::writeFile(alike, "new"));
+    QCOMPARE(copyTextures({a, alike}, target.path(), messages),
+             QStringLiteral("Successfully copied textures\n"));
+    QCOMPARE(messages.lines.size(), 1);
+    QCOMPARE(messages.lines.takeFirst().text,
+             QStringLiteral("'%1' and '%2' have one name: only one of them can be used").arg(a, alike));
 
     // What cannot be read leaves the file that stands there; what cannot be written says so.
     const QString gone = source.filePath(QStringLiteral("sub/a.png"));
@@ -104,9 +115,13 @@ void tst_importoutput::materials()
     QCOMPARE(readKMat(folder.filePath(QStringLiteral("m.kmat")), written), QString());
     QCOMPARE(written, table);
     QVERIFY(messages.lines.isEmpty());
+    table[QStringLiteral("surf_2")] = QStringLiteral("textures/my wood.png");
+    QCOMPARE(createKMat(folder.filePath(QStringLiteral("m.kmat")), table, messages),
+             QStringLiteral("Successfully created .kmat file\n"));
+    QVERIFY(messages.lines.takeFirst().text.contains(QLatin1String("my wood.png")));
     QCOMPARE(createKMat(folder.filePath(QStringLiteral("none/m.kmat")), table, messages),
              QStringLiteral("Failed on creating .kmat file\n"));
-    QCOMPARE(messages.lines.size(), 1);
+    QCOMPARE(messages.lines.size(), 2);
 }
 
 QTEST_GUILESS_MAIN(tst_importoutput)

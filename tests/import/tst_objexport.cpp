@@ -20,6 +20,7 @@ class tst_objexport : public QObject
 private slots:
     void roundTrip_data();
     void roundTrip();
+    void importedSavedExportedImported();
     void badTriangles();
     void texturesAndNames();
 };
@@ -56,19 +57,33 @@ std::vector<Triangle> trianglesOf(const StaticMesh &mesh)
 
 /// The library's reading of decimal numbers is off by a unit in the last place now and then.
 /// Vertices that differ by less than a hundred thousandth in all they have become one.
-bool isClose(float a, float b)
+bool isClose(float a, float b, float absolute)
 {
-    return std::fabs(a - b) <= 2e-7f * std::max(std::fabs(a), std::fabs(b)) + 1e-5f;
+    return std::fabs(a - b) <= 2.5e-7f * std::max(std::fabs(a), std::fabs(b)) + absolute;
 }
 
 template <typename Vector>
-bool isClose(const Vector &a, const Vector &b, int size)
+bool isClose(const Vector &a, const Vector &b, int size, float absolute = 1e-9f)
 {
     for (int i = 0; i < size; ++i) {
-        if (!isClose(a[i], b[i]))
+        if (!isClose(a[i], b[i], absolute))
             return false;
     }
     return true;
+}
+
+void compare(const StaticMesh &actual, const StaticMesh &expected)
+{
+    const std::vector<Triangle> before = trianglesOf(expected);
+    const std::vector<Triangle> after = trianglesOf(actual);
+    QCOMPARE(after.size(), before.size());
+    for (size_t i = 0; i < before.size(); ++i) {
+        for (size_t corner = 0; corner < 3; ++corner) {
+            QVERIFY(isClose(after[i][corner].position, before[i][corner].position, 3));
+            QVERIFY(isClose(after[i][corner].uv, before[i][corner].uv, 2));
+            QVERIFY(isClose(after[i][corner].normal, before[i][corner].normal, 3, 1e-5f));
+        }
+    }
 }
 } // namespace
 
@@ -90,16 +105,23 @@ void tst_objexport::roundTrip()
     exportObj(mesh, {}, {}, obj, messages);
     QVERIFY(!messages.hasError());
 
-    const std::vector<Triangle> before = trianglesOf(mesh);
-    const std::vector<Triangle> after = trianglesOf(readBack(obj));
-    QCOMPARE(after.size(), before.size());
-    for (size_t i = 0; i < before.size(); ++i) {
-        for (size_t corner = 0; corner < 3; ++corner) {
-            QVERIFY(isClose(after[i][corner].position, before[i][corner].position, 3));
-            QVERIFY(isClose(after[i][corner].uv, before[i][corner].uv, 2));
-            QVERIFY(isClose(after[i][corner].normal, before[i][corner].normal, 3));
-        }
-    }
+    compare(readBack(obj), mesh);
+}
+
+void tst_objexport::importedSavedExportedImported()
+{
+    SKIP_WITHOUT_SHARED("models/obj_spider");
+    QTemporaryDir folder;
+    const StaticMesh imported = readBack(TestSupport::shared(QStringLiteral("models/obj_spider/spider.obj")));
+    QVERIFY(imported.vertices.size() > 800);
+    const QString path = folder.filePath(QStringLiteral("spider.staticmesh"));
+    QVERIFY(!imported.write(path));
+    StaticMesh opened;
+    QVERIFY(!opened.read(path));
+    ImportMessages messages;
+    exportObj(opened, {}, {}, folder.filePath(QStringLiteral("spider.obj")), messages);
+    QVERIFY(!messages.hasError());
+    compare(readBack(folder.filePath(QStringLiteral("spider.obj"))), imported);
 }
 
 void tst_objexport::badTriangles()

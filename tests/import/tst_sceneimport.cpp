@@ -120,10 +120,12 @@ void tst_sceneimport::animations()
         // Less than a tick; only a rotation, so that the bone stays where its bind pose has it.
         {QStringLiteral("12"), {{2, true, {{0.9f, {0, 0, 1, 0}}}}}},
         {QStringLiteral("[99999999999]"), {{2, true, {{0, {0, 0, 0, 1}}}}}},
+        {QStringLiteral("turned"), {{3, true, {{0, {half, 0, 0, half}}}}}},
+        {QStringLiteral("endless"), {{2, true, {{0, {0, 0, 0, 1}}, {1e8f, {0, 0, 0, 1}}}}}},
     };
     importSkinned(write("anim.gltf", SmallGltf().file(made)));
     QCOMPARE(lines(LogSeverity::Error), QStringList());
-    QCOMPARE(m_anim.blocks.size(), size_t(3));
+    QCOMPARE(m_anim.blocks.size(), size_t(5));
     const AnimBlock &walk = m_anim.blocks[0];
     QCOMPARE(walk.animId, 12);
     QCOMPARE(int(walk.blendLength), 5);
@@ -152,6 +154,13 @@ void tst_sceneimport::animations()
     QCOMPARE(still.translations.at(0, 0), QVector3D());
     QVERIFY(isClose(still.rotations.at(0, 0), {0, 1, 0, 0}));
     QCOMPARE(m_anim.blocks[2].animId, 0);
+    // The tail's rest is a quarter turn about z, n = (0, 0, h, h), its key one about x, k = (h, 0, 0, h),
+    // with h the root of one half. The inverse of n times k is (1, -1, -1, 1) / 2, and so is that with y and
+    // z exchanged; k times the inverse of n would be (1, 1, -1, 1) / 2.
+    QVERIFY(isClose(m_anim.blocks[3].rotations.at(0, 0), {0.5f, -0.5f, -0.5f, 0.5f}));
+    QCOMPARE(m_anim.blocks[4].frameCount(), 65535);
+    QVERIFY(lines(LogSeverity::Warning)
+                .contains(QStringLiteral("anim.gltf Animation 4 was cut to 65535 frames")));
 }
 
 void tst_sceneimport::noBones()

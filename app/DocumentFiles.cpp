@@ -88,9 +88,7 @@ void DocumentFiles::saveAll()
 {
     finishTyping();
     for (const DocumentKind &kind : documentKinds()) {
-        const Document *candidate = document(kind.type);
-        if (candidate->isOpen() && (candidate->isModified() || candidate->path().isEmpty()) &&
-            save(kind.type))
+        if (document(kind.type)->differsFromFile() && save(kind.type))
             return;
     }
 }

@@ -17,6 +17,8 @@
 #include "Playback.h"
 #include "PropertyPages.h"
 #include "QuestionMenu.h"
+#include "RecoveryPrompt.h"
+#include "ReloadPrompt.h"
 #include "StructureActions.h"
 #include "UndoActions.h"
 #include "UpdatePrompt.h"
@@ -68,6 +70,10 @@ MainWindow::MainWindow(QWidget *parent)
     updateCurrentDocument();
     QTimer::singleShot(50, this, &MainWindow::OnStartSetupPaths);
     new UpdatePrompt(m_ui->actionCheckForUpdates, this);
+    new ReloadPrompt(*m_files, m_ui->vlCentral, this);
+    auto *recovery = new Recovery(*m_files, SnapshotStore::defaultRoot(), this);
+    connect(recovery, &Recovery::restored, this, &MainWindow::showPane);
+    new RecoveryPrompt(*recovery, m_ui->actionRecover, m_ui->vlCentral, this);
 }
 
 MainWindow::~MainWindow()

@@ -45,6 +45,8 @@ public:
 
     /// What was written into memory.
     const std::vector<uchar> &bytes();
+    /// The same, handed over; the writer is empty then.
+    std::vector<uchar> takeBytes();
 
 private:
     template <typename T>

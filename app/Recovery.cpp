@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Recovery.h"
 
+#include "CrashReport.h"
 #include "DocumentFiles.h"
 #include "Log.h"
 
@@ -25,9 +26,13 @@ Recovery::Recovery(DocumentFiles &files, const QString &root, QWidget *window)
     connect(&m_store, &SnapshotStore::failed, this, &Recovery::onFailed);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &Recovery::keepAll);
     window->installEventFilter(this);
+    CrashReport::install(m_store.crashReportPath());
 }
 
-Recovery::~Recovery() = default;
+Recovery::~Recovery()
+{
+    CrashReport::uninstall();
+}
 
 void Recovery::watch(Track &track)
 {

@@ -13,7 +13,7 @@ class DocumentFiles;
 
 /// Keeps snapshots of the three documents while they differ from their files: some seconds after a change,
 /// when one is replaced, and when the window closes. A save takes a document's snapshot away, and so does
-/// undoing all changes.
+/// undoing all changes. A report of a crash is written beside the snapshots.
 class Recovery : public QObject
 {
     Q_OBJECT

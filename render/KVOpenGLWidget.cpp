@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "KVOpenGLWidget.h"
 
+#include "CrashReport.h"
 #include "Settings.h"
 #include "SkinnedMesh.h"
 #include "StaticMesh.h"
@@ -49,6 +50,11 @@ KVOpenGLWidget::~KVOpenGLWidget()
 void KVOpenGLWidget::initializeGL()
 {
     initializeOpenGLFunctions();
+    const auto driverText = [this](GLenum name) {
+        return QString::fromLatin1(reinterpret_cast<const char *>(glGetString(name)));
+    };
+    CrashReport::setGraphics(driverText(GL_VENDOR) + QStringLiteral(", ") + driverText(GL_RENDERER) +
+                             QStringLiteral(", ") + driverText(GL_VERSION));
     m_painter = std::make_unique<ScenePainter>([this] { close(); });
     m_painter->setUpState(m_background);
     m_painter->setBackFaceCulling(m_backCull);

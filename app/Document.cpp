@@ -70,6 +70,7 @@ void Document::replace(const QString &path, const QString &unsavedName, const Fi
     emit aboutToBeReplaced();
     // Commands name records of the model that goes: they go with it.
     m_undoStack.clear();
+    m_undoStack.setClean(); // an empty stack can be unclean
     adoptModel();
     m_path = path;
     m_unsavedName = unsavedName;

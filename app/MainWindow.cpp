@@ -25,6 +25,7 @@
 #include "ViewPreferences.h"
 #include "ViewToolBar.h"
 #include "ViewportMarks.h"
+#include "ViewportNotice.h"
 #include "WindowGeometry.h"
 #include "WindowLayout.h"
 #include "ui_MainWindow.h"
@@ -165,6 +166,8 @@ void MainWindow::createViewToolBars()
     auto *rigid = new ViewToolBar(tr("Static Mesh View"), actions, m_ui->viewStaticPanel);
     m_ui->vlviewSkinned->insertWidget(0, skinned);
     m_ui->vlviewStatic->insertWidget(0, rigid);
+    showViewportFailure(m_ui->viewSkinned, m_ui->vlviewSkinned);
+    showViewportFailure(m_ui->viewStatic, m_ui->vlviewStatic);
     new ViewPreferences({skinned, rigid}, viewports(), actions, this);
     for (KVOpenGLWidget *viewport : viewports()) {
         connect(viewport, &KVOpenGLWidget::positionReadOut, this, &MainWindow::showReadOut);

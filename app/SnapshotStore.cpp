@@ -19,9 +19,15 @@ const QString Suffix = QStringLiteral(".snapshot");
 const QString LockFile = QStringLiteral("lock");
 const QString ReportFile = QStringLiteral("crash.txt");
 
+/// The newest first; of the same time, as file systems tell it, those with the later names.
 QFileInfoList filesOf(const QString &folder, const QString &pattern)
 {
-    return QDir(folder).entryInfoList({pattern}, QDir::Files, QDir::Time);
+    QFileInfoList files =
+        QDir(folder).entryInfoList({pattern}, QDir::Files, QDir::SortFlags(QDir::Name | QDir::Reversed));
+    std::stable_sort(files.begin(), files.end(), [](const QFileInfo &a, const QFileInfo &b) {
+        return a.lastModified() > b.lastModified();
+    });
+    return files;
 }
 
 class Job : public QRunnable
@@ -161,7 +167,7 @@ QString SnapshotStore::newFile(DocumentType type)
     return QStringLiteral("%1-%2-%3.%4%5")
         .arg(QDateTime::currentMSecsSinceEpoch())
         .arg(QCoreApplication::applicationPid())
-        .arg(++m_files)
+        .arg(++m_files, 6, 10, QLatin1Char('0'))
         .arg(documentKind(type).extension, Suffix);
 }
 

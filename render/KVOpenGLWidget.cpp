@@ -24,10 +24,16 @@ SurfaceOverlay overlayOf(int type)
     return type >= 0 && type <= int(SurfaceOverlay::PointsHidden) ? SurfaceOverlay(type)
                                                                   : SurfaceOverlay::None;
 }
+
+bool canDraw()
+{
+    static const bool can = QOpenGLContext().create();
+    return can;
+}
 } // namespace
 
 KVOpenGLWidget::KVOpenGLWidget(QWidget *parent)
-    : QOpenGLWidget(parent)
+    : QOpenGLWidget(parent, canDraw() ? Qt::WindowFlags() : Qt::Window)
     , m_background(Settings::BGColor.value())
     , m_moveSpeed(Settings::MouseSpeed.value())
     , m_backCull(Settings::BackCull.value())
@@ -38,6 +44,9 @@ KVOpenGLWidget::KVOpenGLWidget(QWidget *parent)
     m_frame.overlay = overlayOf(Settings::SurfSelectType.value());
     setFocusPolicy(Qt::StrongFocus);
     m_clock.start();
+    if (!canDraw())
+        m_failure = tr("Models cannot be drawn: the system offers no OpenGL.\n"
+                       "Look for a driver of the graphics card, or install a software renderer such as Mesa.");
 }
 
 KVOpenGLWidget::~KVOpenGLWidget()
@@ -55,7 +64,10 @@ void KVOpenGLWidget::initializeGL()
     };
     CrashReport::setGraphics(driverText(GL_VENDOR) + QStringLiteral(", ") + driverText(GL_RENDERER) +
                              QStringLiteral(", ") + driverText(GL_VERSION));
-    m_painter = std::make_unique<ScenePainter>([this] { close(); });
+    m_painter = std::make_unique<ScenePainter>([this] {
+        fail(tr("Models cannot be drawn: the graphics driver does not take the program's shaders.\n"
+                "It must offer OpenGL 3.0 or later."));
+    });
     m_painter->setUpState(m_background);
     m_painter->setBackFaceCulling(m_backCull);
     m_appliedBackCull = m_backCull;
@@ -64,6 +76,15 @@ void KVOpenGLWidget::initializeGL()
             Qt::UniqueConnection);
     if (isVisible())
         setPace(Pace::Moving);
+}
+
+void KVOpenGLWidget::fail(const QString &reason)
+{
+    close();
+    if (!m_failure.isEmpty())
+        return;
+    m_failure = reason;
+    emit failed();
 }
 
 void KVOpenGLWidget::releaseGL()

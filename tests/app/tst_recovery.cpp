@@ -15,7 +15,8 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-Q_DECLARE_METATYPE(std::function<void(OneRun &)>)
+using Act = std::function<void(OneRun &)>;
+Q_DECLARE_METATYPE(Act)
 
 class TestRecovery : public QObject
 {
@@ -79,7 +80,6 @@ void TestRecovery::cleanup()
 
 void TestRecovery::workIsKept_data()
 {
-    using Act = std::function<void(OneRun &)>;
     QTest::addColumn<Act>("act");
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("name");
@@ -118,7 +118,7 @@ void TestRecovery::workIsKept_data()
 
 void TestRecovery::workIsKept()
 {
-    QFETCH(std::function<void(OneRun &)>, act);
+    QFETCH(Act, act);
     QFETCH(QString, path);
     QFETCH(QString, name);
     {

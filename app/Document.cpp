@@ -8,6 +8,7 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -171,7 +172,8 @@ bool ModelDocument<Model>::readModel(BinaryFileReader &reader)
 template <typename Model>
 bool ModelDocument<Model>::write(std::vector<uchar> &bytes) const
 {
-    BinaryFileWriter writer;
+    // The file is seldom far off: growing a large buffer costs more than filling it.
+    BinaryFileWriter writer(size_t(std::max<qint64>(fileStamp().size, 0)) + 64 * 1024);
     if (m_model.write(writer))
         return true;
     bytes = writer.takeBytes();

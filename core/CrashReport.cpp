@@ -130,9 +130,8 @@ void onFatalSignal(int number, siginfo_t *info, void *)
 
 void CrashReport::install(const QString &path)
 {
-#ifdef KORVANE_CRASH_REPORTS
     uninstall();
-    if (path.isEmpty())
+    if (!KORVANE_CRASH_REPORTS || path.isEmpty())
         return;
     setText(facts.path, QFile::encodeName(path));
     setText(facts.program, QStringLiteral("%1 %2, Qt %3, %4, %5\n")
@@ -155,9 +154,6 @@ void CrashReport::install(const QString &path)
     for (size_t i = 0; i < SignalCount; ++i)
         sigaction(FatalSignals[i].number, &action, &previousActions[i]);
     isInstalled = true;
-#else
-    Q_UNUSED(path)
-#endif
 }
 
 void CrashReport::uninstall()

@@ -5,8 +5,8 @@
 #include <QString>
 
 /// Writes a report when a fatal signal ends the program: versions, the signal, a stack, the last lines of the
-/// log. The report is a file of this computer and goes nowhere. Builds with sanitizers write none: theirs says
-/// more. GUI thread only.
+/// log. The report is a file of this computer and goes nowhere. Builds with sanitizers write none: theirs
+/// says more. GUI thread only.
 namespace CrashReport {
 /// From now on a fatal signal writes the file at `path`, then does what it would have done without. An empty
 /// path writes none.

@@ -9,9 +9,9 @@ namespace {
 constexpr size_t BufferBytes = 256 * 1024;
 } // namespace
 
-BinaryFileWriter::BinaryFileWriter()
+BinaryFileWriter::BinaryFileWriter(size_t expectedBytes)
     : m_toFile(false)
-    , m_buffer(64)
+    , m_buffer(expectedBytes)
 {}
 
 BinaryFileWriter::BinaryFileWriter(const QString &path)

@@ -45,8 +45,9 @@ KVOpenGLWidget::KVOpenGLWidget(QWidget *parent)
     setFocusPolicy(Qt::StrongFocus);
     m_clock.start();
     if (!canDraw())
-        m_failure = tr("Models cannot be drawn: the system offers no OpenGL.\n"
-                       "Look for a driver of the graphics card, or install a software renderer such as Mesa.");
+        m_failure =
+            tr("Models cannot be drawn: the system offers no OpenGL.\n"
+               "Look for a driver of the graphics card, or install a software renderer such as Mesa.");
 }
 
 KVOpenGLWidget::~KVOpenGLWidget()

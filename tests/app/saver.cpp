@@ -7,8 +7,8 @@
 
 #include <cstdio>
 
-/// Saves the skinned mesh of the first argument over and over, and keeps snapshots below the second one, until
-/// it is killed. Every round has its own head track factor, which is said before the round begins.
+/// Saves the skinned mesh of the first argument over and over, and keeps snapshots below the second one,
+/// until it is killed. Every round has its own head track factor, which is said before the round begins.
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);

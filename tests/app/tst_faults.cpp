@@ -158,8 +158,7 @@ void TestFaults::theStoreCannotBeReadNorWritten()
 {
     // Where the store's folder should be is a file.
     QVERIFY(TestSupport::writeFile(m_home->filePath(QStringLiteral("file")), "x"));
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
-                       m_home->filePath(QStringLiteral("file")));
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_home->filePath(QStringLiteral("file")));
     QVERIFY(!Settings::HideMeshData.exists());
     useProgram();
     // Where the store should be is a folder.

@@ -35,7 +35,10 @@ private slots:
 
 private:
     QString path() const { return m_folder->filePath(QStringLiteral("man.skinnedmesh")); }
-    QPushButton *button(const char *name) const { return m_bar->findChild<QPushButton *>(QLatin1String(name)); }
+    QPushButton *button(const char *name) const
+    {
+        return m_bar->findChild<QPushButton *>(QLatin1String(name));
+    }
     int factor() const { return m_run->mesh.model().headTrackFactor; }
     void tick() const
     {
@@ -64,9 +67,8 @@ void TestFileWatch::init()
 void TestFileWatch::anotherProgramsChangeIsTold_data()
 {
     QTest::addColumn<Change>("change");
-    QTest::newRow("another file in its place") << Change([](const QString &path) {
-        QVERIFY(!manWithFactor(2).write(path));
-    });
+    QTest::newRow("another file in its place")
+        << Change([](const QString &path) { QVERIFY(!manWithFactor(2).write(path)); });
     QTest::newRow("written in place") << Change([](const QString &path) {
         QVERIFY(!manWithFactor(2).write(path + QLatin1Char('x')));
         QVERIFY(TestSupport::writeFile(path, TestSupport::readFile(path + QLatin1Char('x'))));

@@ -131,7 +131,7 @@ void onFatalSignal(int number, siginfo_t *info, void *)
 void CrashReport::install(const QString &path)
 {
     uninstall();
-    if (!KORVANE_CRASH_REPORTS || path.isEmpty())
+    if (KORVANE_CRASH_REPORTS == 0 || path.isEmpty())
         return;
     setText(facts.path, QFile::encodeName(path));
     setText(facts.program, QStringLiteral("%1 %2, Qt %3, %4, %5\n")

@@ -12,6 +12,7 @@
 #include "TestSupport.h"
 
 #include <QAction>
+#include <QPlainTextEdit>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -34,6 +35,7 @@ private slots:
     void damageIsSkipped();
     void whatCannotBeKept();
     void theBarOffers();
+    void theBarTellsOfACrash();
     void theDialogLists();
 
 private:
@@ -358,6 +360,33 @@ void TestRecovery::theBarOffers()
     other.findChild<QPushButton *>(QStringLiteral("btnDiscard"))->click();
     QCOMPARE(run.recovery->store().snapshots().size(), 2);
     QVERIFY(other.findChild<NoticeBar *>()->isHidden());
+}
+
+void TestRecovery::theBarTellsOfACrash()
+{
+    {
+        const OneRun run(root());
+        QVERIFY(TestSupport::writeFile(run.recovery->store().crashReportPath(), "the stack"));
+    }
+    {
+        OneRun run(root());
+        QAction recover;
+        QVBoxLayout place(&run.window);
+        RecoveryPrompt prompt(*run.recovery, &recover, &place, &run.window);
+        QVERIFY(!run.window.findChild<NoticeBar *>()->isHidden());
+        QVERIFY(run.window.findChild<QPushButton *>(QStringLiteral("btnRestore"))->isHidden());
+        QString shown;
+        Hand hand({[&shown](QDialog *dialog) {
+            shown = dialog->findChild<QPlainTextEdit *>()->toPlainText();
+            dialog->reject();
+        }});
+        run.window.findChild<QPushButton *>(QStringLiteral("btnShowReport"))->click();
+        QCOMPARE(shown, QStringLiteral("the stack"));
+    }
+    // Once is enough; the file stays.
+    const OneRun run(root());
+    QCOMPARE(run.recovery->store().crashReports(), QStringList());
+    QCOMPARE(QDir(root()).entryList({QStringLiteral("crash-*.txt")}).size(), 1);
 }
 
 void TestRecovery::theDialogLists()

@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "Document.h"
 
+#include "BinaryFileReader.h"
+#include "BinaryFileWriter.h"
 #include "NameTables.h"
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -39,20 +42,41 @@ QString Document::fileName() const
 
 bool Document::open(const QString &path, QString *reason)
 {
+    // Before reading: what another program writes meanwhile must not pass as known.
+    const FileStamp stamp = FileStamp::of(path);
     if (readModel(path, reason))
         return true;
-    replace(path, {});
+    replace(path, {}, stamp);
     return false;
 }
 
-void Document::replace(const QString &path, const QString &unsavedName)
+bool Document::restore(const QByteArray &bytes, const QString &path, const QString &unsavedName)
+{
+    BinaryFileReader reader(reinterpret_cast<const uchar *>(bytes.constData()), bytes.size());
+    if (readModel(reader))
+        return true;
+    replace(path, unsavedName, path.isEmpty() ? FileStamp() : FileStamp::of(path));
+    m_undoStack.resetClean();
+    return false;
+}
+
+void Document::keepModel()
+{
+    m_fileStamp = FileStamp::of(m_path);
+    m_undoStack.resetClean();
+}
+
+void Document::replace(const QString &path, const QString &unsavedName, const FileStamp &stamp)
 {
     emit aboutToBeReplaced();
     // Commands name records of the model that goes: they go with it.
     m_undoStack.clear();
+    m_undoStack.setClean(); // an empty stack can be unclean
     adoptModel();
     m_path = path;
     m_unsavedName = unsavedName;
+    m_fileStamp = stamp;
+    m_changedDirectly = false;
     m_open = true;
     emit replaced();
 }
@@ -62,7 +86,10 @@ bool Document::save(const QString &path)
     if (writeModel(path))
         return true;
     m_path = path;
+    m_fileStamp = FileStamp::of(path);
+    m_changedDirectly = false;
     m_undoStack.setClean();
+    emit saved();
     return false;
 }
 
@@ -74,6 +101,13 @@ void Document::recordChanged(const RecordRef &record)
 void Document::structureChanged(const StructureChange &change)
 {
     m_structureChanges.append(change);
+}
+
+void Document::changedDirectly(const StructureChange &change)
+{
+    m_changedDirectly = true;
+    structureChanged(change);
+    flushChanges();
 }
 
 void Document::flushChanges()
@@ -126,6 +160,24 @@ bool ModelDocument<Model>::readModel(const QString &path, QString *reason)
 {
     m_fresh = Model();
     return m_fresh.read(path, reason);
+}
+
+template <typename Model>
+bool ModelDocument<Model>::readModel(BinaryFileReader &reader)
+{
+    m_fresh = Model();
+    return m_fresh.read(reader);
+}
+
+template <typename Model>
+bool ModelDocument<Model>::write(std::vector<uchar> &bytes) const
+{
+    // The file is seldom far off: growing a large buffer costs more than filling it.
+    BinaryFileWriter writer(size_t(std::max<qint64>(fileStamp().size, 0)) + 64 * 1024);
+    if (m_model.write(writer))
+        return true;
+    bytes = writer.takeBytes();
+    return false;
 }
 
 template <>

@@ -4,10 +4,15 @@
 
 #include "DocumentKind.h"
 #include "DocumentView.h"
+#include "FileStamp.h"
 #include "Records.h"
 
 #include <QUndoStack>
 #include <QVector>
+
+#include <vector>
+
+class BinaryFileReader;
 
 /// The current document of one kind: its model, its file, its undo stack. The object lives as long as the
 /// window; opening a file replaces what it holds.
@@ -24,11 +29,16 @@ public:
     /// True once a file was opened (or a model taken over).
     bool isOpen() const { return m_open; }
     bool isModified() const { return !m_undoStack.isClean(); }
+    /// Whether the model holds work that is in no file: unsaved undo steps, changes that are none, a model
+    /// that was never saved.
+    bool differsFromFile() const { return m_open && (isModified() || m_changedDirectly || m_path.isEmpty()); }
     /// The file, with the toolkit's separators; empty for a document that was never saved.
     QString path() const { return m_path; }
     /// The file's name; for a document that was never saved, the name that it would get.
     QString fileName() const;
     QUndoStack *undoStack() { return &m_undoStack; }
+    /// The file as it was when the model was read from it or written to it.
+    const FileStamp &fileStamp() const { return m_fileStamp; }
 
     /// Reads `path` into a new model, which replaces the current one only when that succeeds. Returns true on
     /// failure and gives the reason, empty when the file could not be opened.
@@ -38,6 +48,14 @@ public:
     /// Writes the model; on success the document has that path and its undo stack is clean. Returns true on
     /// failure, with nothing changed.
     [[nodiscard]] bool save(const QString &path);
+    /// Gives the bytes that save() would write. Returns true on failure.
+    [[nodiscard]] virtual bool write(std::vector<uchar> &bytes) const = 0;
+    /// Lets a model that was kept as bytes replace the current one. It counts as modified until it is saved;
+    /// `path` is its file, `unsavedName` what it is called without one. Returns true on failure.
+    [[nodiscard]] bool restore(const QByteArray &bytes, const QString &path, const QString &unsavedName);
+    /// Goes on with the model although its file is not the one any more that it was read from: it counts as
+    /// modified.
+    void keepModel();
 
     /// How many records of a list kind stand under the owner named by `index`.
     virtual int recordCount(RecordKind kind, const RecordIndex &index) const = 0;
@@ -46,6 +64,8 @@ public:
 
     void recordChanged(const RecordRef &record) override;
     void structureChanged(const StructureChange &change) override;
+    /// Takes note of a change that is not an undo step.
+    void changedDirectly(const StructureChange &change);
     /// Hands the changes noted so far to the screen. Undo steps do so by themselves when they are complete.
     void flushChanges();
 
@@ -53,6 +73,7 @@ signals:
     /// Another model is about to take the place of the current one: the one passage for every replacement.
     void aboutToBeReplaced();
     void replaced();
+    void saved();
     /// The records that one undo step has changed, in the order of the changes.
     void recordsChanged(const QVector<RecordRef> &records);
     /// Lists of which one undo step has changed, in the order of the changes; comes before recordsChanged().
@@ -60,9 +81,10 @@ signals:
 
 protected:
     /// Lets the model that was read, or handed over, last take the place of the current one.
-    void replace(const QString &path, const QString &unsavedName);
+    void replace(const QString &path, const QString &unsavedName, const FileStamp &stamp = {});
     /// Reads a new model beside the current one; returns true on failure.
     virtual bool readModel(const QString &path, QString *reason) = 0;
+    virtual bool readModel(BinaryFileReader &reader) = 0;
     virtual void adoptModel() = 0;
     virtual bool writeModel(const QString &path) const = 0;
 
@@ -70,6 +92,8 @@ private:
     const DocumentType m_type;
     const RecordKind m_rootKind;
     bool m_open = false;
+    bool m_changedDirectly = false;
+    FileStamp m_fileStamp;
     QString m_path;
     QString m_unsavedName;
     QUndoStack m_undoStack;
@@ -86,6 +110,7 @@ public:
     Model &model() { return m_model; }
     const Model &model() const { return m_model; }
     QString refusal() const override { return m_model.refusal(); }
+    bool write(std::vector<uchar> &bytes) const override;
     EditTarget<Model> editTarget() { return {m_model, *this}; }
 
     /// Takes over a model that has no file yet; `name`, without extension, is what it would be saved as.
@@ -103,6 +128,7 @@ public:
 
 protected:
     bool readModel(const QString &path, QString *reason) override;
+    bool readModel(BinaryFileReader &reader) override;
     void adoptModel() override
     {
         m_model = std::move(m_fresh);

@@ -90,8 +90,8 @@ void DocumentFiles::saveAll()
     for (const DocumentKind &kind : documentKinds()) {
         const Document *candidate = document(kind.type);
         // An import without animations leaves an animation file that cannot be saved, and need not be.
-        const bool isNew = candidate->path().isEmpty() && candidate->refusal().isEmpty();
-        if (candidate->isOpen() && (candidate->isModified() || isNew) && save(kind.type))
+        const bool isEmptyImport = candidate->path().isEmpty() && !candidate->refusal().isEmpty();
+        if (candidate->differsFromFile() && !isEmptyImport && save(kind.type))
             return;
     }
 }

@@ -31,12 +31,15 @@ public:
     /// was not saved: after a failure, which was then said, or because the user thought better of it.
     bool save(DocumentType type);
     bool saveAs(DocumentType type);
-    /// Saves every document that is modified, in the order of their kinds; stops at the first failure.
+    /// Saves every document that differs from its file, in the order of their kinds; stops at the first
+    /// failure.
     void saveAll();
 
     /// Asks whether unsaved changes shall be saved before the document is replaced. Returns true when the
     /// replacement may go on; otherwise `event`, if given, is marked ignored.
     [[nodiscard]] bool promptUnsaved(DocumentType type, QEvent *event = nullptr);
+    /// Takes what is typed in the editor with the focus to the document.
+    void finishTyping() const;
 
 signals:
     /// The document was written: its path or its modified mark may be new.
@@ -44,8 +47,6 @@ signals:
 
 private:
     bool saveTo(DocumentType type, const QString &path);
-    /// Takes what is typed in the editor with the focus to the document.
-    void finishTyping() const;
 
     std::array<Document *, 3> m_documents;
     QWidget *m_window;

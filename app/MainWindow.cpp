@@ -17,12 +17,15 @@
 #include "Playback.h"
 #include "PropertyPages.h"
 #include "QuestionMenu.h"
+#include "RecoveryPrompt.h"
+#include "ReloadPrompt.h"
 #include "StructureActions.h"
 #include "UndoActions.h"
 #include "UpdatePrompt.h"
 #include "ViewPreferences.h"
 #include "ViewToolBar.h"
 #include "ViewportMarks.h"
+#include "ViewportNotice.h"
 #include "WindowGeometry.h"
 #include "WindowLayout.h"
 #include "ui_MainWindow.h"
@@ -69,6 +72,10 @@ MainWindow::MainWindow(QWidget *parent)
     updateCurrentDocument();
     QTimer::singleShot(50, this, &MainWindow::OnStartSetupPaths);
     new UpdatePrompt(m_ui->actionCheckForUpdates, this);
+    new ReloadPrompt(*m_files, m_ui->vlCentral, this);
+    auto *recovery = new Recovery(*m_files, SnapshotStore::defaultRoot(), this);
+    connect(recovery, &Recovery::restored, this, &MainWindow::showPane);
+    new RecoveryPrompt(*recovery, m_ui->actionRecover, m_ui->vlCentral, this);
 }
 
 MainWindow::~MainWindow()
@@ -160,10 +167,11 @@ void MainWindow::createViewToolBars()
     auto *rigid = new ViewToolBar(tr("Static Mesh View"), actions, m_ui->viewStaticPanel);
     m_ui->vlviewSkinned->insertWidget(0, skinned);
     m_ui->vlviewStatic->insertWidget(0, rigid);
+    showViewportFailure(m_ui->viewSkinned, m_ui->vlviewSkinned);
+    showViewportFailure(m_ui->viewStatic, m_ui->vlviewStatic);
     new ViewPreferences({skinned, rigid}, viewports(), actions, this);
-    for (KVOpenGLWidget *viewport : viewports()) {
+    for (KVOpenGLWidget *viewport : viewports())
         connect(viewport, &KVOpenGLWidget::positionReadOut, this, &MainWindow::showReadOut);
-    }
 }
 
 void MainWindow::readSettings()

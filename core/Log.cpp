@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "Log.h"
 
+#include "CrashReport.h"
+
 #include <QDebug>
 
 namespace {
@@ -13,6 +15,7 @@ Log::Sink &currentSink()
 
 void write(LogSeverity severity, const QString &text)
 {
+    CrashReport::addLine(text);
     if (currentSink())
         currentSink()(severity, text);
     else

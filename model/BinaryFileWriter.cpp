@@ -2,14 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "BinaryFileWriter.h"
 
+#include <utility>
+
 namespace {
 // Small enough to stay in the processor's cache: a buffer of the whole file costs more than the writing.
 constexpr size_t BufferBytes = 256 * 1024;
 } // namespace
 
-BinaryFileWriter::BinaryFileWriter()
+BinaryFileWriter::BinaryFileWriter(size_t expectedBytes)
     : m_toFile(false)
-    , m_buffer(64)
+    , m_buffer(expectedBytes)
 {}
 
 BinaryFileWriter::BinaryFileWriter(const QString &path)
@@ -52,6 +54,12 @@ const std::vector<uchar> &BinaryFileWriter::bytes()
 {
     m_buffer.resize(m_used);
     return m_buffer;
+}
+
+std::vector<uchar> BinaryFileWriter::takeBytes()
+{
+    m_buffer.resize(std::exchange(m_used, 0));
+    return std::exchange(m_buffer, {});
 }
 
 void BinaryFileWriter::makeRoom()

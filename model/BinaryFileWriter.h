@@ -16,8 +16,8 @@
 class BinaryFileWriter
 {
 public:
-    /// Writes into memory, see bytes().
-    BinaryFileWriter();
+    /// Writes into memory, see bytes(). Room for `expectedBytes` is made at once.
+    explicit BinaryFileWriter(size_t expectedBytes = 64);
 
     /// Writes a new file beside the one at `path`, which commit() puts in its place. Nothing on disk is
     /// touched before the first bytes go out.
@@ -45,6 +45,8 @@ public:
 
     /// What was written into memory.
     const std::vector<uchar> &bytes();
+    /// The same, handed over; the writer is empty then.
+    std::vector<uchar> takeBytes();
 
 private:
     template <typename T>

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "KVOpenGLWidget.h"
 
+#include "CrashReport.h"
 #include "Settings.h"
 #include "SkinnedMesh.h"
 #include "StaticMesh.h"
@@ -23,10 +24,16 @@ SurfaceOverlay overlayOf(int type)
     return type >= 0 && type <= int(SurfaceOverlay::PointsHidden) ? SurfaceOverlay(type)
                                                                   : SurfaceOverlay::None;
 }
+
+bool canDraw()
+{
+    static const bool can = QOpenGLContext().create();
+    return can;
+}
 } // namespace
 
 KVOpenGLWidget::KVOpenGLWidget(QWidget *parent)
-    : QOpenGLWidget(parent)
+    : QOpenGLWidget(parent, canDraw() ? Qt::WindowFlags() : Qt::Window)
     , m_background(Settings::BGColor.value())
     , m_moveSpeed(Settings::MouseSpeed.value())
     , m_backCull(Settings::BackCull.value())
@@ -37,6 +44,10 @@ KVOpenGLWidget::KVOpenGLWidget(QWidget *parent)
     m_frame.overlay = overlayOf(Settings::SurfSelectType.value());
     setFocusPolicy(Qt::StrongFocus);
     m_clock.start();
+    if (!canDraw())
+        m_failure =
+            tr("Models cannot be drawn: the system offers no OpenGL.\n"
+               "Look for a driver of the graphics card, or install a software renderer such as Mesa.");
 }
 
 KVOpenGLWidget::~KVOpenGLWidget()
@@ -49,7 +60,15 @@ KVOpenGLWidget::~KVOpenGLWidget()
 void KVOpenGLWidget::initializeGL()
 {
     initializeOpenGLFunctions();
-    m_painter = std::make_unique<ScenePainter>([this] { close(); });
+    const auto driverText = [this](GLenum name) {
+        return QString::fromLatin1(reinterpret_cast<const char *>(glGetString(name)));
+    };
+    CrashReport::setGraphics(driverText(GL_VENDOR) + QStringLiteral(", ") + driverText(GL_RENDERER) +
+                             QStringLiteral(", ") + driverText(GL_VERSION));
+    m_painter = std::make_unique<ScenePainter>([this] {
+        fail(tr("Models cannot be drawn: the graphics driver does not take the program's shaders.\n"
+                "It must offer OpenGL 3.0 or later."));
+    });
     m_painter->setUpState(m_background);
     m_painter->setBackFaceCulling(m_backCull);
     m_appliedBackCull = m_backCull;
@@ -58,6 +77,15 @@ void KVOpenGLWidget::initializeGL()
             Qt::UniqueConnection);
     if (isVisible())
         setPace(Pace::Moving);
+}
+
+void KVOpenGLWidget::fail(const QString &reason)
+{
+    close();
+    if (!m_failure.isEmpty())
+        return;
+    m_failure = reason;
+    emit failed();
 }
 
 void KVOpenGLWidget::releaseGL()

@@ -23,8 +23,13 @@ class KVOpenGLWidget : public QOpenGLWidget, protected QOpenGLExtraFunctions
     Q_OBJECT
 
 public:
+    /// Where there is no OpenGL the view takes part in no layout and is never shown: a window with a view
+    /// that cannot draw stays black all over.
     explicit KVOpenGLWidget(QWidget *parent = nullptr);
     ~KVOpenGLWidget() override;
+
+    /// Why the view shows nothing, for the user; empty while nothing is wrong.
+    const QString &failure() const { return m_failure; }
 
     /// Whether the view shows its skinned mesh, with pose and playback, or its static one. Off at first.
     void setSkinnedMeshMode(bool on);
@@ -65,6 +70,8 @@ public:
     const Camera &camera() const { return m_camera; }
 
 signals:
+    /// The view cannot draw, see failure(), and has closed.
+    void failed();
     /// The camera position for the status bar, about ten times a second: "X: 0.000000 Y: ... Z: ...".
     void positionReadOut(const QString &text);
     /// The frame that the painted pose starts from; emitted while painting.
@@ -91,6 +98,7 @@ private:
     enum class Pace { Idle, Moving };
 
     // Meshes on the graphics card.
+    void fail(const QString &reason);
     void releaseGL();
     void modelReplaced(bool shown);
     void buildModel();
@@ -109,6 +117,7 @@ private:
     void releaseInput();
     QPoint centre() const { return {width() / 2, height() / 2}; }
 
+    QString m_failure;
     std::unique_ptr<ScenePainter> m_painter; ///< made in initializeGL for its context
     SceneFrame m_frame;                      ///< of the next paint
     QColor m_background;

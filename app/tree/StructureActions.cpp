@@ -369,8 +369,7 @@ void StructureActions::editCount(RecordKind group, const QString &title, int lea
     // Not an undo step, on purpose. Commands on the stack leave records alone that are gone.
     AnimBlock *block = Records::Block::find(m_anim.document.model(), current.index);
     (block->*resize)(dialog.size());
-    m_anim.document.structureChanged({{RecordKind::AnimBlock, current.index}, 0, current});
-    m_anim.document.flushChanges();
+    m_anim.document.changedDirectly({{RecordKind::AnimBlock, current.index}, 0, current});
     m_anim.tree->findItem(current)->setExpanded(true);
 }
 

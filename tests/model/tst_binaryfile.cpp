@@ -5,6 +5,9 @@
 #include "SampleModels.h"
 #include "TestSupport.h"
 
+#include <atomic>
+#include <thread>
+
 #include <sys/stat.h>
 
 using namespace SampleModels;
@@ -45,6 +48,7 @@ private slots:
     void holdsByDivision();
     void whatCannotBeOpened();
     void fileCutOffWhileRead();
+    void modelsChangedWhileRead();
 };
 
 void TestBinaryFile::writesLittleEndian()
@@ -249,6 +253,49 @@ void TestBinaryFile::fileCutOffWhileRead()
     QVERIFY(values.empty());
     QCOMPARE(reader.errorText(), endOf("uint16"));
     QVERIFY(!reader.holds(1, 1));
+}
+
+void TestBinaryFile::modelsChangedWhileRead()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("changing"));
+    for (const QString &suffix : suffixes()) {
+        withModel(suffix, [&](auto sample) {
+            if constexpr (std::is_same_v<decltype(sample), AnimFile>) {
+                sample = animFile();
+                sample.blocks[0].setFrameCount(20000);
+            } else if constexpr (std::is_same_v<decltype(sample), SkinnedMesh>) {
+                sample = skinnedMesh();
+                sample.vertices.resize(20000);
+            } else {
+                sample = staticMesh();
+                sample.vertices.resize(20000);
+            }
+            const QByteArray bytes = bytesOf(sample);
+            QVERIFY(TestSupport::writeFile(path, bytes));
+            // Another program cuts the file, makes it grow and fills it again, all the time.
+            std::atomic<bool> done{false};
+            std::thread other([&] {
+                QFile file(path);
+                if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+                    return;
+                for (int i = 1; !done; ++i) {
+                    file.resize(qint64(bytes.size()) * (i * 7 % 13) / 10);
+                    file.seek(0);
+                    file.write(bytes);
+                }
+            });
+            int failures = 0;
+            for (int i = 0; i < 100 || (failures == 0 && i < 10000); ++i) {
+                decltype(sample) read;
+                QString text;
+                failures += read.read(path, &text) ? !text.isEmpty() : 0;
+            }
+            done = true;
+            other.join();
+            QVERIFY2(failures > 0, "the file was never cut in the middle of a read");
+        });
+    }
 }
 
 QTEST_GUILESS_MAIN(TestBinaryFile)

@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "FullDisk.h"
 #include "KMat.h"
 #include "SampleModels.h"
 #include "TestSupport.h"
 
-#include <csignal>
-#include <sys/resource.h>
 #include <unistd.h>
 
 using namespace SampleModels;
@@ -38,30 +37,6 @@ Save saverOf(const QString &suffix, bool large)
     mesh.vertices.resize(large ? 20000 : 3);
     return [mesh](const QString &path) { return mesh.write(path); };
 }
-
-/// While this lives a file can grow to `bytes` bytes only, as on a disk that fills up.
-class FullDisk
-{
-public:
-    explicit FullDisk(qint64 bytes)
-    {
-        m_oldAction = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_old);
-        const rlimit limit{rlim_t(bytes), m_old.rlim_max};
-        m_set = setrlimit(RLIMIT_FSIZE, &limit) == 0;
-    }
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_old);
-        std::signal(SIGXFSZ, m_oldAction);
-    }
-    bool isSet() const { return m_set; }
-
-private:
-    rlimit m_old{};
-    void (*m_oldAction)(int) = nullptr;
-    bool m_set = false;
-};
 } // namespace
 
 /// Saving that cannot succeed says so, leaves the old file byte for byte and nothing beside it.

@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "NoticeBar.h"
+
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+#include <QToolButton>
+
+NoticeBar::NoticeBar(const QIcon &icon, const QString &objectName, QWidget *parent)
+    : QFrame(parent)
+    , m_row(new QHBoxLayout(this))
+    , m_text(new QLabel)
+{
+    setObjectName(objectName);
+    setFrameShape(QFrame::StyledPanel);
+    setAutoFillBackground(true);
+    // The theme's colours of a tool tip: a notice in any theme, and readable.
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, palette().color(QPalette::ToolTipBase));
+    colours.setColor(QPalette::WindowText, palette().color(QPalette::ToolTipText));
+    setPalette(colours);
+
+    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    auto *picture = new QLabel;
+    picture->setPixmap(icon.pixmap(size, size));
+    m_text->setObjectName(QStringLiteral("lblNotice"));
+    m_text->setTextFormat(Qt::PlainText);
+    m_text->setWordWrap(true);
+    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_row->setContentsMargins(8, 4, 6, 4);
+    m_row->addWidget(picture);
+    m_row->addWidget(m_text, 1);
+    hide();
+}
+
+QPushButton *NoticeBar::addButton(const QString &text, const QString &objectName, const QString &toolTip)
+{
+    auto *button = new QPushButton(text);
+    button->setObjectName(objectName);
+    button->setToolTip(toolTip);
+    button->setPalette(style()->standardPalette());
+    m_row->addWidget(button);
+    return button;
+}
+
+void NoticeBar::addCross(const QString &toolTip)
+{
+    auto *cross = new QToolButton;
+    cross->setObjectName(QStringLiteral("btnNoticeClose"));
+    cross->setIcon(QIcon(QStringLiteral(":/Images/Icons/close.png")));
+    cross->setAutoRaise(true);
+    cross->setToolTip(toolTip);
+    cross->setAccessibleName(toolTip);
+    connect(cross, &QToolButton::clicked, this, &QWidget::hide);
+    m_row->addWidget(cross);
+}
+
+void NoticeBar::tell(const QString &text)
+{
+    m_text->setText(text);
+    show();
+}
+
+QString NoticeBar::text() const
+{
+    return m_text->text();
+}

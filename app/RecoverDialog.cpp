@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "RecoverDialog.h"
+
+#include "Recovery.h"
+#include "ui_RecoverDialog.h"
+
+#include <QDir>
+#include <QMessageBox>
+
+RecoverDialog::RecoverDialog(Recovery &recovery, QWidget *parent)
+    : QDialog(parent)
+    , m_recovery(recovery)
+    , m_ui(std::make_unique<Ui::RecoverDialog>())
+{
+    m_ui->setupUi(this);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    connect(m_ui->btnRecoverClose, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_ui->treeSnapshots, &QTreeWidget::itemActivated, this,
+            &RecoverDialog::on_btnRecoverRestore_clicked);
+    fill();
+}
+
+RecoverDialog::~RecoverDialog() = default;
+
+void RecoverDialog::fill()
+{
+    m_snapshots = m_recovery.snapshots();
+    QTreeWidget *tree = m_ui->treeSnapshots;
+    tree->clear();
+    for (const Snapshot &snapshot : qAsConst(m_snapshots)) {
+        const QString path = QDir::toNativeSeparators(snapshot.sourcePath);
+        auto *item = new QTreeWidgetItem(tree, {snapshot.name, documentKind(snapshot.type).label,
+                                                QLocale().toString(snapshot.time, QLocale::ShortFormat),
+                                                path.isEmpty() ? tr("(never saved)") : path});
+        item->setToolTip(3, path);
+    }
+    for (int column = 0; column < tree->columnCount() - 1; ++column) {
+        tree->resizeColumnToContents(column);
+        tree->setColumnWidth(column, tree->columnWidth(column) + fontMetrics().averageCharWidth());
+    }
+    if (m_snapshots.isEmpty())
+        m_ui->lblRecover->setText(tr("There is no unsaved work beside what is open now."));
+    else
+        tree->setCurrentItem(tree->topLevelItem(0));
+    on_treeSnapshots_itemSelectionChanged();
+}
+
+QVector<Snapshot> RecoverDialog::selected() const
+{
+    QVector<Snapshot> chosen;
+    for (int row = 0; row < m_snapshots.size(); ++row) {
+        if (m_ui->treeSnapshots->topLevelItem(row)->isSelected())
+            chosen.append(m_snapshots.at(row));
+    }
+    return chosen;
+}
+
+void RecoverDialog::on_treeSnapshots_itemSelectionChanged()
+{
+    const QVector<Snapshot> chosen = selected();
+    QSet<int> kinds;
+    for (const Snapshot &snapshot : chosen)
+        kinds.insert(int(snapshot.type));
+    m_ui->btnRecoverDelete->setEnabled(!chosen.isEmpty());
+    // There is one open document of a kind.
+    m_ui->btnRecoverRestore->setEnabled(!chosen.isEmpty() && kinds.size() == chosen.size());
+}
+
+void RecoverDialog::on_btnRecoverRestore_clicked()
+{
+    if (!m_ui->btnRecoverRestore->isEnabled())
+        return;
+    bool allRestored = true;
+    for (const Snapshot &snapshot : selected())
+        allRestored &= m_recovery.restore(snapshot) == Recovery::Outcome::Restored;
+    if (allRestored)
+        accept();
+    else
+        fill();
+}
+
+void RecoverDialog::on_btnRecoverDelete_clicked()
+{
+    const QVector<Snapshot> chosen = selected();
+    const QString question = chosen.size() == 1
+                                 ? tr("Delete what was kept of '%1'?").arg(chosen.first().name)
+                                 : tr("Delete what was kept of %1 documents?").arg(chosen.size());
+    if (QMessageBox::question(this, tr("Recover"),
+                              question + QLatin1Char('\n') + tr("This cannot be undone."),
+                              QMessageBox::Yes | QMessageBox::No, QMessageBox::No) != QMessageBox::Yes)
+        return;
+    m_recovery.remove(chosen);
+    fill();
+}

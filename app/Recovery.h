@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Document.h"
+#include "SnapshotStore.h"
+
+#include <QTimer>
+
+#include <array>
+
+class DocumentFiles;
+
+/// Keeps snapshots of the three documents while they differ from their files: some seconds after a change,
+/// when one is replaced, and when the window closes. A save takes a document's snapshot away, and so does
+/// undoing all changes. A report of a crash is written beside the snapshots.
+class Recovery : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// From the first change after a snapshot to the next one.
+    static constexpr int DelayMs = 5000;
+
+    enum class Outcome { Restored, Damaged, GivenUp };
+
+    /// Watches the documents until `window` closes.
+    Recovery(DocumentFiles &files, const QString &root, QWidget *window);
+    ~Recovery() override;
+
+    void setDelay(int milliseconds);
+    SnapshotStore &store() { return m_store; }
+    /// All that is kept beside what is open now, the newest first.
+    QVector<Snapshot> snapshots();
+    /// Opens a snapshot as a modified document, after asking about the one that it replaces; from then on it
+    /// is that document's. Damage is told in the log.
+    Outcome restore(const Snapshot &snapshot);
+    void remove(const QVector<Snapshot> &snapshots);
+
+    /// Takes what is being typed to the documents and brings their snapshots up to date, on disk.
+    void keepAll();
+
+signals:
+    void restored(DocumentType type);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    struct Track
+    {
+        Document *document = nullptr;
+        QString file;         ///< where this document is kept
+        bool isKept = false;  ///< whether there is such a file, or will be
+        bool isDirty = false; ///< changed since it was kept
+        bool isRefused = false;
+        QTimer timer;
+    };
+
+    void watch(Track &track);
+    void startAnew(Track &track);
+    void noteChange(Track &track);
+    void keep(Track &track);
+    void keepDue(Track &track);
+    void forget(Track &track);
+    void onFailed(const QString &file, const QString &reason);
+
+    DocumentFiles &m_files;
+    QWidget *m_window;
+    SnapshotStore m_store;
+    std::array<Track, 3> m_tracks;
+    bool m_failureSaid = false;
+};

@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "RecoveryPrompt.h"
+
+#include "CrashReportDialog.h"
+#include "NoticeBar.h"
+#include "RecoverDialog.h"
+
+#include <QAction>
+#include <QBoxLayout>
+#include <QIcon>
+#include <QLocale>
+#include <QPushButton>
+#include <QSet>
+
+#include <algorithm>
+
+RecoveryPrompt::RecoveryPrompt(Recovery &recovery, QAction *recover, QBoxLayout *place, QWidget *window)
+    : QObject(window)
+    , m_recovery(recovery)
+    , m_window(window)
+    , m_bar(new NoticeBar(QIcon(QStringLiteral(":/Images/Icons/warning.png")), QStringLiteral("barRecovery")))
+    , m_restore(m_bar->addButton(tr("&Restore"), QStringLiteral("btnRestore"),
+                                 tr("Open the newest of each kind as a modified document")))
+    , m_showAll(m_bar->addButton(tr("Show &All…"), QStringLiteral("btnShowAll"),
+                                 tr("List all kept work, to restore or delete it")))
+    , m_discard(m_bar->addButton(tr("&Discard"), QStringLiteral("btnDiscard"),
+                                 tr("Delete this kept work; files are not touched")))
+    , m_showReport(m_bar->addButton(tr("Show Re&port"), QStringLiteral("btnShowReport"),
+                                    tr("Show what was written down when Korvane ended")))
+{
+    m_bar->addCross(tr("Hide; File > Recover… lists what is kept"));
+    place->insertWidget(0, m_bar);
+    connect(m_restore, &QPushButton::clicked, this, &RecoveryPrompt::on_btnRestore_clicked);
+    connect(m_showAll, &QPushButton::clicked, this, &RecoveryPrompt::on_actionRecover_triggered);
+    connect(m_discard, &QPushButton::clicked, this, &RecoveryPrompt::on_btnDiscard_clicked);
+    connect(m_showReport, &QPushButton::clicked, this, &RecoveryPrompt::on_btnShowReport_clicked);
+    connect(recover, &QAction::triggered, this, &RecoveryPrompt::on_actionRecover_triggered);
+
+    m_offered = m_recovery.snapshots();
+    offer();
+}
+
+void RecoveryPrompt::offer()
+{
+    const bool crashed = !m_recovery.store().crashReports().isEmpty();
+    for (QPushButton *button : {m_restore, m_showAll, m_discard})
+        button->setVisible(!m_offered.isEmpty());
+    m_showReport->setVisible(crashed);
+    if (m_offered.isEmpty()) {
+        m_bar->setVisible(crashed);
+        if (crashed)
+            m_bar->tell(tr("Korvane ended unexpectedly. A report was written here; nothing was sent."));
+        return;
+    }
+
+    QStringList names;
+    QSet<int> kinds;
+    for (const Snapshot &snapshot : qAsConst(m_offered)) {
+        if (!kinds.contains(int(snapshot.type)))
+            names.append(snapshot.name);
+        kinds.insert(int(snapshot.type));
+    }
+    const int more = m_offered.size() - names.size();
+    const QString all = names.join(QStringLiteral(", "));
+    const QString time = QLocale().toString(m_offered.first().time, QLocale::ShortFormat);
+    const QString text = crashed ? tr("Korvane ended unexpectedly. It has kept unsaved work from %1: %2")
+                                 : tr("Korvane has kept unsaved work from %1: %2");
+    m_bar->tell(text.arg(time, more == 0 ? all : tr("%1 and %2 more").arg(all, QString::number(more))));
+}
+
+void RecoveryPrompt::on_btnRestore_clicked()
+{
+    // The newest that is whole.
+    QSet<int> done;
+    for (const Snapshot &snapshot : qAsConst(m_offered)) {
+        if (done.contains(int(snapshot.type)))
+            continue;
+        const Recovery::Outcome outcome = m_recovery.restore(snapshot);
+        if (outcome == Recovery::Outcome::GivenUp)
+            return;
+        if (outcome == Recovery::Outcome::Restored)
+            done.insert(int(snapshot.type));
+    }
+    m_offered.clear();
+    offer();
+}
+
+void RecoveryPrompt::on_btnDiscard_clicked()
+{
+    m_recovery.remove(m_offered);
+    m_offered.clear();
+    offer();
+}
+
+void RecoveryPrompt::on_btnShowReport_clicked()
+{
+    CrashReportDialog dialog(m_recovery.store().crashReports().first(), m_window);
+    dialog.exec();
+}
+
+void RecoveryPrompt::on_actionRecover_triggered()
+{
+    RecoverDialog dialog(m_recovery, m_window);
+    dialog.exec();
+    // What was restored or deleted is no longer on offer.
+    if (m_bar->isHidden())
+        return;
+    QSet<QString> left;
+    for (const Snapshot &snapshot : m_recovery.snapshots())
+        left.insert(snapshot.file);
+    m_offered.erase(
+        std::remove_if(m_offered.begin(), m_offered.end(),
+                       [&left](const Snapshot &snapshot) { return !left.contains(snapshot.file); }),
+        m_offered.end());
+    offer();
+}

@@ -1,0 +1,234 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "SnapshotStore.h"
+
+#include "FolderLock.h"
+#include "Log.h"
+#include "SnapshotFile.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QRunnable>
+#include <QStandardPaths>
+
+#include <algorithm>
+
+namespace {
+constexpr int MostReports = 5;
+const QString Suffix = QStringLiteral(".snapshot");
+const QString LockFile = QStringLiteral("lock");
+const QString ReportFile = QStringLiteral("crash.txt");
+
+/// The newest first; of the same time, as file systems tell it, those with the later names.
+QFileInfoList filesOf(const QString &folder, const QString &pattern)
+{
+    QFileInfoList files =
+        QDir(folder).entryInfoList({pattern}, QDir::Files, QDir::SortFlags(QDir::Name | QDir::Reversed));
+    std::stable_sort(files.begin(), files.end(), [](const QFileInfo &a, const QFileInfo &b) {
+        return a.lastModified() > b.lastModified();
+    });
+    return files;
+}
+
+class Job : public QRunnable
+{
+public:
+    explicit Job(std::function<void()> work)
+        : m_work(std::move(work))
+    {}
+    void run() override { m_work(); }
+
+private:
+    std::function<void()> m_work;
+};
+
+/// Of what is left after `spared`, the oldest go.
+void removeOldest(const QString &folder, const QSet<QString> &spared)
+{
+    const QFileInfoList files = filesOf(folder, QLatin1Char('*') + Suffix);
+    int surplus = files.size() - SnapshotStore::MostKept;
+    for (int i = files.size() - 1; i >= 0 && surplus > 0; --i) {
+        if (!spared.contains(files.at(i).fileName())) {
+            QFile::remove(files.at(i).filePath());
+            --surplus;
+        }
+    }
+}
+} // namespace
+
+SnapshotStore::SnapshotStore(const QString &root, QObject *parent)
+    : QObject(parent)
+    , m_root(root)
+{
+    // One thread: a file is removed after it was written, not before.
+    m_thread.setMaxThreadCount(1);
+    if (createFolder())
+        takeOver();
+    else
+        Log::warning(
+            tr("[Recovery] Unsaved work cannot be kept in '%1'").arg(QDir::toNativeSeparators(root)));
+}
+
+SnapshotStore::~SnapshotStore()
+{
+    waitForDone();
+    if (m_folder.isEmpty())
+        return;
+    const FolderLock root(m_root + QLatin1Char('/') + LockFile, FolderLock::Yes);
+    QDir folder(m_folder);
+    if (root.isHeld() && folder.entryList(QDir::Files) == QStringList(LockFile)) {
+        folder.remove(LockFile);
+        folder.rmdir(m_folder);
+    }
+}
+
+QString SnapshotStore::defaultRoot()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) +
+           QStringLiteral("/recovery");
+}
+
+QString SnapshotStore::crashReportPath() const
+{
+    return m_folder.isEmpty() ? QString() : pathOf(ReportFile);
+}
+
+bool SnapshotStore::createFolder()
+{
+    if (!QDir().mkpath(m_root))
+        return false;
+    // Nobody takes the new folder for a left one before it is locked.
+    const FolderLock root(m_root + QLatin1Char('/') + LockFile, FolderLock::Yes);
+    if (!root.isHeld())
+        return false;
+    const QString stem = QStringLiteral("%1/%2-%3")
+                             .arg(m_root)
+                             .arg(QCoreApplication::applicationPid())
+                             .arg(QDateTime::currentMSecsSinceEpoch());
+    for (int i = 0; i < 100 && m_folder.isEmpty(); ++i) {
+        const QString folder = stem + QLatin1Char('-') + QString::number(i);
+        if (!QDir().mkdir(folder))
+            continue;
+        m_lock = std::make_unique<FolderLock>(folder + QLatin1Char('/') + LockFile);
+        if (!m_lock->isHeld())
+            return false;
+        m_folder = folder;
+    }
+    return !m_folder.isEmpty();
+}
+
+void SnapshotStore::takeOver()
+{
+    const FolderLock root(m_root + QLatin1Char('/') + LockFile, FolderLock::Yes);
+    const QFileInfoList folders = QDir(m_root).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QFileInfo &folder : folders) {
+        if (root.isHeld() && folder.filePath() != m_folder)
+            takeOver(folder.filePath());
+    }
+    const QFileInfoList reports = filesOf(m_root, QStringLiteral("crash-*.txt"));
+    for (int i = MostReports; i < reports.size(); ++i)
+        QFile::remove(reports.at(i).filePath());
+    removeOldest(m_folder, {});
+}
+
+void SnapshotStore::takeOver(const QString &folder)
+{
+    const QString lockPath = folder + QLatin1Char('/') + LockFile;
+    const FolderLock lock(lockPath);
+    if (!lock.isHeld())
+        return;
+    const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files | QDir::Hidden, QDir::Time);
+    for (const QFileInfo &file : files) {
+        if (file.fileName() == ReportFile)
+            takeOverReport(file.filePath());
+        else if (file.fileName().endsWith(Suffix))
+            QFile::rename(file.filePath(), pathOf(file.fileName()));
+        else if (file.fileName().contains(Suffix + QLatin1Char('.')))
+            QFile::remove(file.filePath()); // half written when its program ended
+    }
+    // The lock file goes last, and only with the folder.
+    if (QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot) ==
+        QStringList(LockFile)) {
+        QFile::remove(lockPath);
+        QDir().rmdir(folder);
+    }
+}
+
+void SnapshotStore::takeOverReport(const QString &report)
+{
+    const QString time = QFileInfo(report).lastModified().toString(QStringLiteral("yyyyMMdd-HHmmss-zzz"));
+    const QString path = QStringLiteral("%1/crash-%2.txt").arg(m_root, time);
+    if (QFile::rename(report, path))
+        m_crashReports.prepend(path);
+}
+
+QString SnapshotStore::newFile(DocumentType type)
+{
+    return QStringLiteral("%1-%2-%3.%4%5")
+        .arg(QDateTime::currentMSecsSinceEpoch())
+        .arg(QCoreApplication::applicationPid())
+        .arg(++m_files, 6, 10, QLatin1Char('0'))
+        .arg(documentKind(type).extension, Suffix);
+}
+
+void SnapshotStore::run(const std::function<void()> &job)
+{
+    ++m_jobs;
+    m_thread.start(new Job([this, job] {
+        job();
+        --m_jobs;
+    }));
+}
+
+void SnapshotStore::keep(const Snapshot &snapshot, std::vector<uchar> model, const QSet<QString> &spared)
+{
+    if (m_folder.isEmpty())
+        return;
+    const auto bytes = std::make_shared<const std::vector<uchar>>(std::move(model));
+    const QString path = pathOf(snapshot.file);
+    run([this, snapshot, bytes, path, spared] {
+        const QString reason = SnapshotFile::write(path, snapshot, *bytes);
+        if (reason.isEmpty())
+            removeOldest(m_folder, spared);
+        else
+            emit failed(snapshot.file, reason);
+    });
+}
+
+void SnapshotStore::remove(const QString &file)
+{
+    if (!m_folder.isEmpty())
+        run([path = pathOf(file)] { QFile::remove(path); });
+}
+
+void SnapshotStore::waitForDone()
+{
+    m_thread.waitForDone();
+}
+
+QVector<Snapshot> SnapshotStore::snapshots()
+{
+    waitForDone();
+    QVector<Snapshot> all;
+    if (m_folder.isEmpty())
+        return all;
+    const QFileInfoList files = filesOf(m_folder, QLatin1Char('*') + Suffix);
+    for (const QFileInfo &file : files) {
+        Snapshot snapshot;
+        snapshot.file = file.fileName();
+        if (SnapshotFile::readHeader(file.filePath(), &snapshot))
+            Log::warning(tr("[Recovery] '%1' is damaged and was left out")
+                             .arg(QDir::toNativeSeparators(file.filePath())));
+        else
+            all.append(snapshot);
+    }
+    std::stable_sort(all.begin(), all.end(),
+                     [](const Snapshot &a, const Snapshot &b) { return a.time > b.time; });
+    return all;
+}
+
+bool SnapshotStore::read(const Snapshot &snapshot, QByteArray *model)
+{
+    waitForDone();
+    return SnapshotFile::readModel(pathOf(snapshot.file), model);
+}

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "ViewportNotice.h"
+
+#include "KVOpenGLWidget.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+
+void showViewportFailure(KVOpenGLWidget *viewport, QBoxLayout *layout)
+{
+    auto *notice = new QLabel;
+    notice->setObjectName(QStringLiteral("lblViewportFailure"));
+    notice->setAlignment(Qt::AlignCenter);
+    notice->setWordWrap(true);
+    notice->setMargin(24);
+    notice->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    notice->hide();
+    layout->insertWidget(layout->indexOf(viewport) + 1, notice, 1);
+    const auto show = [viewport, notice] {
+        notice->setText(viewport->failure());
+        notice->show();
+    };
+    QObject::connect(viewport, &KVOpenGLWidget::failed, notice, show);
+    if (!viewport->failure().isEmpty())
+        show();
+}

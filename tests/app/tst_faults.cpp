@@ -1,0 +1,178 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "Hand.h"
+#include "KVTreeView.h"
+#include "MainWindow.h"
+#include "Settings.h"
+#include "TestSupport.h"
+
+#include <QAction>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScreen>
+#include <QSpinBox>
+
+/// The program in surroundings that fail it. All of this runs without OpenGL.
+class TestFaults : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void withoutOpenGLAllElseWorks();
+    void theFolderGoesWhileTheDialogIsOpen();
+    void anySettingMayHoldAnything_data();
+    void anySettingMayHoldAnything();
+    void theStoreCannotBeReadNorWritten();
+
+private:
+    template <typename Widget>
+    static Widget *find(const MainWindow &window, const char *name)
+    {
+        auto *widget = window.findChild<Widget *>(QLatin1String(name));
+        if (!widget)
+            qFatal("no %s", name);
+        return widget;
+    }
+    /// Opens a model, edits it and saves it, as if nothing were wrong.
+    void useProgram();
+
+    std::unique_ptr<QTemporaryDir> m_home;
+    std::unique_ptr<QTemporaryDir> m_files;
+};
+
+void TestFaults::init()
+{
+    m_home = std::make_unique<QTemporaryDir>();
+    m_files = std::make_unique<QTemporaryDir>();
+    TestSupport::useSettingsHome(*m_home);
+    qputenv("XDG_DATA_HOME", QFile::encodeName(m_home->path()));
+    for (const auto *key : {&Settings::GamePath, &Settings::OutputDir})
+        key->setValue(m_files->path());
+}
+
+void TestFaults::useProgram()
+{
+    const QString path = m_files->filePath(QStringLiteral("man.skinnedmesh"));
+    QVERIFY(!triangleMan().write(path));
+    // Such boxes as the setup of the folders are put away.
+    Hand hand({});
+    MainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    window.openFiles({path});
+    const RecordRef bone{RecordKind::Bone, {1, 0, 0}};
+    find<KVTreeView>(window, "treeSkinnedMesh")->selectRecords({bone}, bone);
+    auto *parent = find<QSpinBox>(window, "sbNodeParentNode");
+    parent->selectAll();
+    QTest::keyClicks(parent, QStringLiteral("7"));
+    QTest::keyClick(parent, Qt::Key_Return);
+    find<QAction>(window, "actionSave")->trigger();
+    SkinnedMesh saved;
+    QVERIFY(!saved.read(path));
+    QCOMPARE(int(saved.nodes[1].parentNode), 7);
+    QTest::qWait(60);
+    window.close();
+}
+
+void TestFaults::withoutOpenGLAllElseWorks()
+{
+    useProgram();
+    MainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const auto *notice =
+        find<QWidget>(window, "viewSkinnedPanel")->findChild<QLabel *>(QStringLiteral("lblViewportFailure"));
+    QVERIFY(notice && notice->isVisible());
+    QVERIFY(notice->height() > window.height() / 4);
+    QVERIFY(notice->text().contains(QStringLiteral("OpenGL")));
+    // What really is on the screen: a window that cannot be put together stays black.
+    const QPoint corner = notice->mapToGlobal({10, 10});
+    QTRY_COMPARE(QGuiApplication::primaryScreen()
+                     ->grabWindow(0, corner.x(), corner.y(), 1, 1)
+                     .toImage()
+                     .pixelColor(0, 0),
+                 window.palette().color(QPalette::Window));
+}
+
+void TestFaults::theFolderGoesWhileTheDialogIsOpen()
+{
+    const QString folder = m_files->filePath(QStringLiteral("folder"));
+    const QString path = m_files->filePath(QStringLiteral("man.skinnedmesh"));
+    QVERIFY(QDir().mkpath(folder));
+    QVERIFY(!triangleMan().write(path));
+    MainWindow window;
+    window.show();
+    window.openFiles({path});
+    Hand hand({[&folder](QDialog *dialog) {
+                   auto *name = dialog->findChild<QLineEdit *>();
+                   name->setText(folder + QStringLiteral("/new.skinnedmesh"));
+                   QVERIFY(QDir(folder).removeRecursively());
+                   // The dialog itself may refuse, as when a folder is gone that it can see.
+                   QMetaObject::invokeMethod(static_cast<QFileDialog *>(dialog), "accept");
+               },
+               Hand::press(QMessageBox::Ok)});
+    find<QAction>(window, "actionSaveAs")->trigger();
+    QVERIFY(!QFileInfo::exists(folder));
+    QVERIFY(hand.seen.size() >= 2);
+    QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh"));
+}
+
+void TestFaults::anySettingMayHoldAnything_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::newRow("word") << QVariant(QStringLiteral("nonsense %1 \n"));
+    QTest::newRow("empty") << QVariant(QString());
+    QTest::newRow("huge") << QVariant(QStringLiteral("99999999999999999999"));
+    QTest::newRow("most") << QVariant(std::numeric_limits<int>::max());
+    QTest::newRow("least") << QVariant(std::numeric_limits<int>::min());
+    QTest::newRow("float") << QVariant(-1e30);
+    QTest::newRow("not a number") << QVariant(QStringLiteral("nan"));
+    QTest::newRow("list") << QVariant(QStringList({QStringLiteral("a"), QStringLiteral("b")}));
+    QTest::newRow("bytes") << QVariant(QByteArray("\0\xff\x01", 3));
+    QTest::newRow("size") << QVariant(QSize(-5, 1 << 30));
+    QTest::newRow("point") << QVariant(QPoint(-(1 << 30), 1 << 30));
+    QTest::newRow("map") << QVariant(QVariantMap({{QStringLiteral("splitterSkinned"), 5}}));
+    QTest::newRow("long") << QVariant(QString(100000, QLatin1Char('/')));
+}
+
+void TestFaults::anySettingMayHoldAnything()
+{
+    QFETCH(QVariant, value);
+    // Every key of the header, so that a new one cannot be forgotten.
+    const QString header = QString::fromUtf8(TestSupport::readFile(TestSupport::source("core/Settings.h")));
+    QRegularExpressionMatchIterator keys =
+        QRegularExpression(QStringLiteral("SettingKey<[^>]+> \\w+\\{\"(\\w+)\"")).globalMatch(header);
+    int count = 0;
+    for (; keys.hasNext(); ++count)
+        QSettings().setValue(keys.next().captured(1), value);
+    QVERIFY(count >= 45);
+    // Nothing is to be asked of anybody.
+    Settings::UpdateUrl.setValue(QString());
+    Settings::Updates.setValue(false);
+    useProgram();
+}
+
+void TestFaults::theStoreCannotBeReadNorWritten()
+{
+    // Where the store's folder should be is a file.
+    QVERIFY(TestSupport::writeFile(m_home->filePath(QStringLiteral("file")), "x"));
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_home->filePath(QStringLiteral("file")));
+    QVERIFY(!Settings::HideMeshData.exists());
+    useProgram();
+    // Where the store should be is a folder.
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_files->path());
+    QVERIFY(QDir().mkpath(QSettings().fileName()));
+    useProgram();
+}
+
+int main(int argc, char *argv[])
+{
+    qputenv("QT_XCB_GL_INTEGRATION", "none");
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QApplication application(argc, argv);
+    TestFaults test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_faults.moc"

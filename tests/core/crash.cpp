@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "CrashReport.h"
+#include "Log.h"
+
+#include <QCoreApplication>
+
+#include <csignal>
+#include <cstdlib>
+
+namespace {
+int callForEver(volatile int depth)
+{
+    volatile char room[4096];
+    room[depth % 4096] = char(depth);
+    return depth < 0 ? 0 : callForEver(depth + 1) + room[0];
+}
+} // namespace
+
+/// Crashes in the way of its second argument, with a report at the first.
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("Korvane"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.2.3"));
+    CrashReport::install(QString::fromLocal8Bit(argv[1]));
+    CrashReport::setGraphics(QStringLiteral("a painter"));
+    for (int i = 0; i < 1000; ++i)
+        Log::info(QStringLiteral("line %1 %2").arg(i).arg(QString(i, QLatin1Char('x'))));
+    const QByteArray way(argv[2]);
+    if (way == "overflow")
+        return callForEver(0);
+    if (way == "memory")
+        *reinterpret_cast<volatile int *>(quintptr(0x1234)) = 1;
+    if (way == "abort")
+        std::abort();
+    return raise(way.toInt());
+}

@@ -86,7 +86,7 @@ ImportDialog::ImportDialog(Mode mode, QWidget *parent)
         if (label->buddy())
             label->setMinimumWidth(label->sizeHint().width() + 2);
     }
-    m_ui->lblBanner->setVisible(fitsScreen());
+    fitToScreen();
     fillEditors();
     connectEditors();
     connect(&m_worker, &ImportWorker::finished, this, &ImportDialog::onWorkerFinished);
@@ -99,10 +99,12 @@ ImportDialog::ImportDialog(Mode mode, QWidget *parent)
 ImportDialog::~ImportDialog() = default;
 
 /// On a small screen the banner makes room for the buttons.
-bool ImportDialog::fitsScreen() const
+void ImportDialog::fitToScreen()
 {
-    constexpr int Frame = 60;
-    return sizeHint().height() + Frame < QGuiApplication::primaryScreen()->availableSize().height();
+    const QSize frame(60, 60);
+    const QSize available = QGuiApplication::primaryScreen()->availableSize() - frame;
+    m_ui->lblBanner->setVisible(size().expandedTo(sizeHint()).height() <= available.height());
+    resize(size().boundedTo(available));
 }
 
 QString ImportDialog::modeName() const

@@ -69,7 +69,7 @@ private slots:
 private:
     QString modeName() const;
     QString nativeModelPath() const;
-    bool fitsScreen() const;
+    void fitToScreen();
     void fillEditors();
     void connectEditors();
     void updateElapsed();

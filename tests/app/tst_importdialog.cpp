@@ -39,6 +39,7 @@ private slots:
     void outputFoldersAreChecked();
     void outcomes_data();
     void outcomes();
+    void texturesInTheirPlace();
     void transforms_data();
     void transforms();
     void errorsLeadBack();
@@ -262,6 +263,10 @@ void tst_ImportDialog::outcomes_data()
                                      << QStringLiteral("Model had no textures to copy\n");
     QTest::newRow("no texture") << true << true << true << QStringLiteral("textures/steel.png/x")
                                 << QStringLiteral("Failed on copying textures\n") + created;
+    // A folder in which nobody can make a file, not even the administrator.
+    QTest::newRow("both fail") << true << true << true << QStringLiteral("/proc/self")
+                               << QStringLiteral("Failed on copying textures\n"
+                                                 "Failed on creating .kmat file\n");
     QTest::newRow("no material file")
         << true << false << true << QStringLiteral("materials/mat_box.v2.kmat/x")
         << QStringLiteral("Failed on creating .kmat file\n");
@@ -276,8 +281,14 @@ void tst_ImportDialog::outcomes()
     QFETCH(QString, outcome);
     Settings::ImportTextures.setValue(copy);
     Settings::ImportKMat.setValue(kmat);
-    if (!inTheWay.isEmpty())
+    if (QDir::isAbsolutePath(inTheWay)) {
+        for (const char *name : {"materials", "textures"}) {
+            QVERIFY(QDir(m_mod->path()).rmdir(QLatin1String(name)));
+            QVERIFY(QFile::link(inTheWay, m_mod->filePath(QLatin1String(name))));
+        }
+    } else if (!inTheWay.isEmpty()) {
         QVERIFY(QDir(m_mod->path()).mkpath(inTheWay));
+    }
     const QString path =
         textured ? writeTextured() : write(QStringLiteral("box.v2.obj"), corners + "f 1/1 2/1 3/1\n");
     for (const auto mode : {ImportDialog::SkinnedMeshMode, ImportDialog::StaticMeshMode}) {
@@ -310,6 +321,23 @@ void tst_ImportDialog::outcomes()
         QCOMPARE(TestSupport::readFile(m_mod->filePath(QStringLiteral("textures/steel.png"))),
                  QByteArray("picture"));
     }
+}
+
+void tst_ImportDialog::texturesInTheirPlace()
+{
+    // The model lies in the texture folder of the mod: its textures are where they would be copied to.
+    Settings::ImportTextures.setValue(true);
+    Settings::OutputDir.setValue(QFileInfo(m_source->path()).path());
+    ImportDialog dialog(ImportDialog::StaticMeshMode);
+    dialog.show();
+    dialog.setModelPath(writeTextured());
+    type(dialog, "txtTexPath", QFileInfo(m_source->path()).fileName());
+    click(dialog, "btnImport");
+    QTRY_COMPARE_WITH_TIMEOUT(page(dialog), QStringLiteral("pageSuccess"), 20000);
+    QVERIFY(child<QLabel>(dialog, "lblSuccess")
+                ->text()
+                .endsWith(QLatin1String("Successfully copied textures\n")));
+    QCOMPARE(TestSupport::readFile(m_source->filePath(QStringLiteral("steel.png"))), QByteArray("picture"));
 }
 
 void tst_ImportDialog::transforms_data()

@@ -263,9 +263,10 @@ void ImportDialog::OnTxtTexPathChanged()
 /// Says so and returns true when the path is not inside the mod folder.
 bool ImportDialog::refusePath(const QString &path)
 {
-    if (m_leaving || !pathInside(m_outputDir, path).isNull())
+    if (!pathInside(m_outputDir, path).isNull())
         return false;
-    QMessageBox::warning(this, tr("kmat Path Error"), tr("Path must be relative to Turok 2 Folder"));
+    if (!m_leaving)
+        QMessageBox::warning(this, tr("kmat Path Error"), tr("Path must be relative to Turok 2 Folder"));
     return true;
 }
 

@@ -334,17 +334,22 @@ void tst_sceneimport::robot()
          {"Foot.L", "Torso", "Head", "Shoulder.L", "Shoulder.R", "LowerLeg.L", "LowerLeg.R", "Foot.R"})
         twice += QStringLiteral("Node %1 already exists.").arg(QLatin1String(name));
     QCOMPARE(lines(LogSeverity::Error), twice);
+    // The file's 73 models are RobotArmature with 70 below it and two hands beside it. Its one child, Bone,
+    // has five: Foot.L, Body, PoleTarget.L, Foot.R, PoleTarget.R.
     QCOMPARE(m_mesh.nodes.size(), size_t(71));
+    QCOMPARE(m_mesh.nodes[0].childNodes, (std::vector<quint16>{1}));
+    QCOMPARE(m_mesh.nodes[1].childNodes.size(), size_t(5));
+    QCOMPARE(int(m_mesh.nodes[1].parentNode), 0);
     for (size_t i = 0; i < m_mesh.nodes.size(); ++i) {
         for (const quint16 child : m_mesh.nodes[i].childNodes)
             QVERIFY(child > i && child < m_mesh.nodes.size());
     }
-    // 80, 23, 80 and 17 ticks are what the first four last.
-    QCOMPARE(m_anim.blocks.size(), size_t(14));
-    QCOMPARE(m_anim.blocks[0].frameCount(), 81);
-    QCOMPARE(m_anim.blocks[1].frameCount(), 24);
-    QCOMPARE(m_anim.blocks[2].frameCount(), 81);
-    QCOMPARE(m_anim.blocks[3].frameCount(), 18);
+    // The stop times of its animation stacks, in twenty-fourths of a second: Dance, Death, Idle, Jump, No,
+    // Punch, Running, Sitting, Standing, ThumbsUp, Walking, WalkJump, Wave, Yes.
+    const std::vector<int> ticks{80, 23, 80, 17, 40, 20, 23, 10, 10, 38, 23, 20, 44, 40};
+    QCOMPARE(m_anim.blocks.size(), ticks.size());
+    for (size_t i = 0; i < ticks.size(); ++i)
+        QCOMPARE(m_anim.blocks[i].frameCount(), ticks[i] + 1);
     QCOMPARE(m_anim.blocks[0].speed, 24.0f);
     importStatic(TestSupport::shared(QStringLiteral("models/fbx_bin_robot/Robot.fbx")));
     QVERIFY(!m_messages.hasError());

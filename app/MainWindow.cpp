@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "MainWindow.h"
 
-#include "AboutDialog.h"
 #include "ConsoleButton.h"
 #include "ConsoleLog.h"
-#include "ControlsDialog.h"
 #include "DocumentFiles.h"
 #include "ExplorerFiles.h"
 #include "FileDrop.h"
@@ -13,7 +11,6 @@
 #include "ImportExport.h"
 #include "ImportFilter.h"
 #include "ModelTransforms.h"
-#include "OptionsDialog.h"
 #include "Playback.h"
 #include "PropertyPages.h"
 #include "QuestionMenu.h"
@@ -32,12 +29,10 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QMenu>
 #include <QMessageBox>
 #include <QTimer>
 
 #include <algorithm>
-#include <utility>
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
@@ -71,17 +66,13 @@ MainWindow::MainWindow(QWidget *parent)
     geometry->restore();
     updateCurrentDocument();
     QTimer::singleShot(50, this, &MainWindow::OnStartSetupPaths);
-    new UpdatePrompt(m_ui->actionCheckForUpdates, this);
-    new ReloadPrompt(*m_files, m_ui->vlCentral, this);
-    auto *recovery = new Recovery(*m_files, SnapshotStore::defaultRoot(), this);
-    connect(recovery, &Recovery::restored, this, &MainWindow::showPane);
-    new RecoveryPrompt(*recovery, m_ui->actionRecover, m_ui->vlCentral, this);
+    createPrompts();
 }
 
 MainWindow::~MainWindow()
 {
     // Documents that go tell of it, to a window that is going too.
-    for (const Pane &each : m_panes)
+    for (const DocumentPane &each : m_panes)
         each.document->disconnect();
     Log::setSink({});
     playback() = {};
@@ -132,7 +123,7 @@ void MainWindow::createPanes()
 
     for (const DocumentKind &kind : documentKinds()) {
         const DocumentType type = kind.type;
-        const Pane &made = pane(type);
+        const DocumentPane &made = pane(type);
         // A list that changed may have put another record in the place of the one that is shown.
         connect(made.document, &Document::structuresChanged, this, [this, type] { pane(type).shown = {}; });
         made.tree->setDocument(made.document);
@@ -191,6 +182,15 @@ void MainWindow::connectPlayback()
     track->openAnimation(nullptr);
 }
 
+void MainWindow::createPrompts()
+{
+    new UpdatePrompt(m_ui->actionCheckForUpdates, this);
+    new ReloadPrompt(*m_files, m_ui->vlCentral, this);
+    auto *recovery = new Recovery(*m_files, SnapshotStore::defaultRoot(), this);
+    connect(recovery, &Recovery::restored, this, &MainWindow::showPane);
+    new RecoveryPrompt(*recovery, m_ui->actionRecover, m_ui->vlCentral, this);
+}
+
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     storeLayout(*this);
@@ -199,7 +199,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
 
 // --- Documents ---------------------------------------------------------------------------------------------
 
-MainWindow::Pane *MainWindow::currentPane()
+DocumentPane *MainWindow::currentPane()
 {
     if (m_ui->tabWidget->currentWidget() == m_ui->tabSkinned)
         return &pane(m_ui->tabTrees->currentIndex() == 0 ? DocumentType::SkinnedMesh : DocumentType::Anim);
@@ -249,13 +249,13 @@ void MainWindow::importFile(const QString &path)
 
 Document *MainWindow::currentDocument()
 {
-    const Pane *current = currentPane();
+    const DocumentPane *current = currentPane();
     return current ? current->document : nullptr;
 }
 
 void MainWindow::updateCurrentDocument()
 {
-    const Pane *current = currentPane();
+    const DocumentPane *current = currentPane();
     Document *document = currentDocument();
     const bool isOpen = document && document->isOpen();
     m_undoGroup.setActiveStack(document ? document->undoStack() : nullptr);
@@ -274,8 +274,8 @@ void MainWindow::updateCurrentDocument()
     m_transforms->setAvailable(m_ui->actionRotate->isEnabled());
     m_ui->actionSkinnedSaveAs->setEnabled(m_skinnedMesh.isOpen());
     m_ui->actionAnimSaveAs->setEnabled(m_anim.isOpen());
-    m_ui->actionSaveAll->setEnabled(std::any_of(m_panes.begin(), m_panes.end(),
-                                                [](const Pane &each) { return each.document->isOpen(); }));
+    m_ui->actionSaveAll->setEnabled(std::any_of(
+        m_panes.begin(), m_panes.end(), [](const DocumentPane &each) { return each.document->isOpen(); }));
     setWindowTitle(isOpen ? QStringLiteral("Korvane - ") + document->fileName() +
                                 (document->isModified() ? QStringLiteral(" * ") : QString())
                           : QStringLiteral("Korvane"));
@@ -292,7 +292,7 @@ void MainWindow::showReadOut(const QString &text)
 
 void MainWindow::onReplaced(DocumentType type)
 {
-    Pane &replaced = pane(type);
+    DocumentPane &replaced = pane(type);
     switch (type) {
     case DocumentType::SkinnedMesh:
         playback().mesh = &m_skinnedMesh.model();
@@ -311,7 +311,7 @@ void MainWindow::onReplaced(DocumentType type)
 
 void MainWindow::onSaved(DocumentType type)
 {
-    const Pane &written = pane(type);
+    const DocumentPane &written = pane(type);
     written.explorer->setLoadedPath(written.document->path());
     if (!written.explorer->selectPath(written.document->path())) {
         written.explorer->refill();
@@ -329,7 +329,7 @@ void MainWindow::onRecordsChanged(DocumentType type, const QVector<RecordRef> &r
 
 void MainWindow::showInViewport(DocumentType type, const RecordRef &record)
 {
-    Pane &shown = pane(type);
+    DocumentPane &shown = pane(type);
     const bool isNew = shown.shown != record;
     shown.shown = record;
     switch (type) {
@@ -348,153 +348,4 @@ void MainWindow::showInViewport(DocumentType type, const RecordRef &record)
         markRecord(*shown.viewport, m_staticMesh.model(), record);
         break;
     }
-}
-
-// --- Actions -----------------------------------------------------------------------------------------------
-
-void MainWindow::OnStartSetupPaths()
-{
-    if (std::exchange(m_askedForFolders, true))
-        return;
-    const QString gamePath = Settings::GamePath.value();
-    if (!gamePath.isEmpty() && !Settings::OutputDir.value().isEmpty() && QDir(gamePath).exists())
-        return;
-    QMessageBox::information(this, tr("Setup Folder Paths"),
-                             tr("Please setup your folder paths before using Korvane. Thank you!"));
-    on_actionPreferences_triggered();
-}
-
-void MainWindow::on_actionOpen_triggered()
-{
-    if (const Pane *current = currentPane())
-        m_files->openChosen(current->document->kind().type);
-}
-
-void MainWindow::on_actionSave_triggered()
-{
-    if (const Pane *current = currentPane())
-        m_files->save(current->document->kind().type);
-}
-
-void MainWindow::on_actionSaveAs_triggered()
-{
-    if (const Pane *current = currentPane())
-        m_files->saveAs(current->document->kind().type);
-}
-
-void MainWindow::on_actionSkinnedSaveAs_triggered()
-{
-    m_files->saveAs(DocumentType::SkinnedMesh);
-}
-
-void MainWindow::on_actionAnimSaveAs_triggered()
-{
-    m_files->saveAs(DocumentType::Anim);
-}
-
-void MainWindow::on_actionSaveAll_triggered()
-{
-    m_files->saveAll();
-}
-
-void MainWindow::on_actionImport_triggered()
-{
-    if (currentPane())
-        importFile({});
-}
-
-void MainWindow::on_actionExport_triggered()
-{
-    if (m_ui->tabWidget->currentWidget() == m_ui->tabSkinned)
-        QMessageBox::information(this, tr("Error"), tr("No dice!"));
-    else if (m_ui->tabWidget->currentWidget() == m_ui->tabStatic)
-        m_importExport->exportStaticMesh();
-}
-
-void MainWindow::on_actionExit_triggered()
-{
-    close();
-}
-
-void MainWindow::on_actionResetCamera_triggered()
-{
-    if (const Pane *current = currentPane())
-        current->viewport->resetCamera();
-}
-
-void MainWindow::on_actionFullScreen_triggered(bool on)
-{
-    setWindowState(on ? windowState() | Qt::WindowFullScreen : windowState() & ~Qt::WindowFullScreen);
-}
-
-void MainWindow::on_actionRefreshExplorers_triggered()
-{
-    for (const Pane &each : m_panes)
-        each.explorer->refill();
-}
-
-void MainWindow::on_actionRotate_triggered()
-{
-    m_transforms->showRotateDialog();
-}
-
-void MainWindow::on_actionScale_triggered()
-{
-    m_transforms->showScaleDialog();
-}
-
-void MainWindow::on_actionPreferences_triggered()
-{
-    OptionsDialog dialog(this);
-    const auto folders = [] { return qMakePair(Settings::GamePath.value(), Settings::OutputDir.value()); };
-    const auto before = folders();
-    if (dialog.exec() != QDialog::Accepted || folders() == before)
-        return;
-    // Textures are looked up in these folders.
-    for (KVOpenGLWidget *viewport : viewports())
-        viewport->rebuildModel();
-}
-
-void MainWindow::on_actionControls_triggered()
-{
-    // Those of the window itself; what trees and folders have of their own is not the window's.
-    ControlsDialog dialog(findChildren<QAction *>(QString(), Qt::FindDirectChildrenOnly), this);
-    dialog.exec();
-}
-
-void MainWindow::on_actionAbout_triggered()
-{
-    AboutDialog dialog(this);
-    dialog.exec();
-}
-
-void MainWindow::on_actionConsoleClear_triggered()
-{
-    m_console->clear();
-}
-
-void MainWindow::on_tabWidget_currentChanged()
-{
-    updateCurrentDocument();
-}
-
-void MainWindow::on_tabTrees_currentChanged(int index)
-{
-    m_ui->stackSkinned->setCurrentIndex(index);
-    const DocumentType type = index == 0 ? DocumentType::SkinnedMesh : DocumentType::Anim;
-    showInViewport(type, pane(type).tree->currentRecord());
-    updateCurrentDocument();
-}
-
-void MainWindow::OnConsoleCustomContextMenu(const QPoint &position)
-{
-    QMenu menu(this);
-    menu.addAction(m_console->copyAction());
-    menu.addAction(m_ui->actionConsoleClear);
-    menu.exec(m_ui->listConsole->viewport()->mapToGlobal(position));
-}
-
-void MainWindow::OnUndoCleanChanged()
-{
-    updateCurrentDocument();
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Document.h"
+#include "DocumentPane.h"
 
 #include <QMainWindow>
 #include <QUndoGroup>
@@ -12,12 +13,9 @@
 
 class ConsoleLog;
 class DocumentFiles;
-class FolderExplorer;
 class ImportExport;
 class KVOpenGLWidget;
-class KVTreeView;
 class ModelTransforms;
-class PageStack;
 
 namespace Ui {
 class MainWindow;
@@ -65,26 +63,16 @@ private slots:
     void OnUndoCleanChanged();
 
 private:
-    /// What belongs to one document.
-    struct Pane
-    {
-        Document *document;
-        KVTreeView *tree;
-        PageStack *pages;
-        FolderExplorer *explorer;
-        KVOpenGLWidget *viewport;
-        RecordRef shown; ///< what the viewport marks
-    };
-
     void createConsole();
     void createPanes();
     void createViewToolBars();
     void readSettings();
     void connectPlayback();
+    void createPrompts();
 
     /// The kind whose document the actions act on; none on a tab without one.
-    Pane *currentPane();
-    Pane &pane(DocumentType type) { return m_panes[size_t(type)]; }
+    DocumentPane *currentPane();
+    DocumentPane &pane(DocumentType type) { return m_panes[size_t(type)]; }
     std::array<KVOpenGLWidget *, 2> viewports() const;
     void showPane(DocumentType type);
     void importFile(const QString &path);
@@ -105,7 +93,7 @@ private:
     DocumentFiles *m_files;
     ModelTransforms *m_transforms;
     ImportExport *m_importExport;
-    std::array<Pane, 3> m_panes{};
+    DocumentPanes m_panes{};
     bool m_askedForFolders = false;
     QString m_readOut; ///< the camera position that the status bar shows
 };

@@ -4,6 +4,7 @@
 #include "SampleModels.h"
 
 #include <QDir>
+#include <QFile>
 
 using namespace SampleModels;
 
@@ -13,6 +14,19 @@ bool seed(const QDir &folder, const char *target, const char *name, const Model 
 {
     const QString path = folder.filePath(QLatin1String(target) + QLatin1Char('/') + QLatin1String(name));
     return folder.mkpath(QLatin1String(target)) && !model.write(path);
+}
+
+/// An input of fuzz_scene: its controls, then the files.
+bool sceneSeed(const QDir &folder, const char *name, const QByteArray &controls,
+               const std::initializer_list<QByteArray> &files)
+{
+    QFile file(folder.filePath(QStringLiteral("fuzz_scene/%1").arg(QLatin1String(name))));
+    if (!folder.mkpath(QStringLiteral("fuzz_scene")) || !file.open(QIODevice::WriteOnly))
+        return false;
+    bool written = file.write(controls) == controls.size();
+    for (const QByteArray &each : files)
+        written = written && file.write(each) == each.size();
+    return written;
 }
 
 SkinnedMesh withoutSurfaces()
@@ -42,6 +56,12 @@ int main(int argc, char **argv)
         seed(folder, "fuzz_anim", "one_block", block) &&
         seed(folder, "fuzz_staticmesh", "everything", staticMesh()) &&
         seed(folder, "fuzz_staticmesh", "one_surface", surface) &&
+        sceneSeed(folder, "playing", QByteArray::fromHex("000100000000803f0000003f"),
+                  {bytesOf(plainMesh()), bytesOf(plainAnim())}) &&
+        sceneSeed(folder, "odd", QByteArray::fromHex("000201000000003f000000bf"),
+                  {bytesOf(skinnedMesh()), bytesOf(animFile())}) &&
+        sceneSeed(folder, "static", QByteArray::fromHex("010000000000000000000000"),
+                  {bytesOf(staticMesh())}) &&
         folder.mkpath(QStringLiteral("fuzz_kmat")) &&
         writeKMat(folder.filePath(QStringLiteral("fuzz_kmat/two_materials")), materials).isEmpty();
     return written ? 0 : 1;

@@ -16,8 +16,14 @@ bool ReferenceTable::read(const QString &path)
             QCoreApplication::translate("ReferenceTable", "Unable to read database file at %1").arg(path));
         return true;
     }
-    while (!file.atEnd()) {
-        const QStringList words = QString::fromUtf8(file.readLine())
+    append(file);
+    return false;
+}
+
+void ReferenceTable::append(QIODevice &text)
+{
+    while (!text.atEnd()) {
+        const QStringList words = QString::fromUtf8(text.readLine())
                                       .remove(QLatin1Char('\n'))
                                       .split(QLatin1Char(' '), Qt::SkipEmptyParts);
         if (words.isEmpty())
@@ -27,7 +33,6 @@ bool ReferenceTable::read(const QString &path)
             row.name += QLatin1Char(' ') + words[i];
         rows.push_back(std::move(row));
     }
-    return false;
 }
 
 QString referenceName(ReferenceKind kind)

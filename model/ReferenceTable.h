@@ -7,6 +7,8 @@
 #include <array>
 #include <vector>
 
+class QIODevice;
+
 /// The tables that give the game's numbers a name, in the order in which they are loaded.
 enum class ReferenceKind { Actors, Sounds, Animations, Voices, Particles, Impacts };
 
@@ -27,8 +29,10 @@ struct ReferenceTable
 {
     std::vector<ReferenceRow> rows;
 
-    /// Appends the lines of a file: an id, blanks, a name of words. Lines without a word are left out.
-    /// Returns true on failure, after an error in the log, when the file cannot be opened.
+    /// Appends the lines of a text, which is open: an id, blanks, a name of words. Lines without a word are
+    /// left out.
+    void append(QIODevice &text);
+    /// The same from a file. Returns true on failure, after an error in the log, when it cannot be opened.
     [[nodiscard]] bool read(const QString &path);
 };
 

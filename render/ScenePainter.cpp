@@ -3,6 +3,7 @@
 #include "ScenePainter.h"
 
 #include "FixedMeshes.h"
+#include "PosedVertices.h"
 
 #include <QColor>
 #include <QDebug>
@@ -203,19 +204,8 @@ void ScenePainter::paintOverlay(const SceneFrame &frame)
 void ScenePainter::drawPosedSurface(int surface, GLenum mode)
 {
     const std::vector<GLVertex> &vertices = m_model->vertices().vertices;
-    const BonePalette &palette = m_model->palette;
     const bool grew = m_posed.size() != vertices.size();
-    m_posed.resize(vertices.size());
-    for (quint16 index : m_model->indexes(surface)) {
-        const float *from = vertices[index].position;
-        QVector3D place(from[0], from[1], from[2]);
-        // As the skin program takes it.
-        const size_t bone = size_t(std::min(vertices[index].boneId, ShaderPrograms::BoneLimit - 1));
-        if (bone < palette.size())
-            place = palette[bone].map(place);
-        for (int axis = 0; axis < 3; ++axis)
-            m_posed[index].position[axis] = place[axis];
-    }
+    poseVertices(m_posed, vertices, m_model->indexes(surface), m_model->palette);
 
     const auto bytes = GLsizeiptr(m_posed.size() * sizeof(GLVertex));
     m_posedArray.bind();

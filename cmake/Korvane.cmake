@@ -33,3 +33,31 @@ function(korvane_library name)
     target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE ${ARG_LINK_PRIVATE})
     korvane_target_options(${name})
 endfunction()
+
+# The toolkit's headers take most of a compiler's time, so the rooms with the most files read them once. A file
+# still includes what it uses: lint compiles each one without this.
+function(korvane_precompile target)
+    if(NOT KORVANE_PCH)
+        return()
+    endif()
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+    if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+        # ccache compares contents, not times.
+        target_compile_options(${target} PRIVATE "SHELL:-Xclang -fno-pch-timestamp")
+    endif()
+endfunction()
+
+# Takes over the headers of a library that `target` links, where that library has them and nothing else on the
+# command line differs.
+function(korvane_precompile_as target library)
+    get_target_property(headers ${library} PRECOMPILE_HEADERS)
+    if(headers)
+        target_precompile_headers(${target} REUSE_FROM ${library})
+        # Nothing is in it: a test includes what moc makes of it.
+        set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/mocs_compilation.cpp
+                                    PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
+        if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+            target_compile_options(${target} PRIVATE "SHELL:-Xclang -fno-pch-timestamp")
+        endif()
+    endif()
+endfunction()

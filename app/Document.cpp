@@ -135,24 +135,37 @@ QString SkinnedMeshDocument::recordText(const RecordRef &record) const
         const SkinnedMeshSurface *surface = Records::element(m_model.surfaces, index[0]);
         return surface ? entryText(surface->triangleIndexes, index[1]) : QString();
     }
+    case RecordKind::SkinnedSurface: {
+        const SkinnedMeshSurface *surface = Records::element(m_model.surfaces, index[0]);
+        return surface ? surface->materialPath : QString();
+    }
     default:
         return {};
     }
 }
 
 template <>
-QString AnimDocument::recordText(const RecordRef &) const
+QString AnimDocument::recordText(const RecordRef &record) const
 {
-    return {};
+    if (record.kind != RecordKind::AnimAction)
+        return {};
+    const AnimBlock *block = Records::element(m_model.blocks, record.index[0]);
+    const AnimAction *action = block ? Records::element(block->actions, record.index[1]) : nullptr;
+    if (!action)
+        return {};
+    return eventTypeNames().value(action->eventType, QString::number(action->eventType));
 }
 
 template <>
 QString StaticMeshDocument::recordText(const RecordRef &record) const
 {
-    const StaticMeshSurface *surface = record.kind == RecordKind::StaticTriangleIndex
-                                           ? Records::element(m_model.surfaces, record.index[0])
-                                           : nullptr;
-    return surface ? entryText(surface->triangleIndexes, record.index[1]) : QString();
+    const bool isSurface = record.kind == RecordKind::StaticSurface;
+    if (!isSurface && record.kind != RecordKind::StaticTriangleIndex)
+        return {};
+    const StaticMeshSurface *surface = Records::element(m_model.surfaces, record.index[0]);
+    if (!surface)
+        return {};
+    return isSurface ? surface->materialPath : entryText(surface->triangleIndexes, record.index[1]);
 }
 
 template <typename Model>

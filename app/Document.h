@@ -59,7 +59,8 @@ public:
 
     /// How many records of a list kind stand under the owner named by `index`.
     virtual int recordCount(RecordKind kind, const RecordIndex &index) const = 0;
-    /// What a tree says of one record beside the kind's own label: a bone's name, the index an entry holds.
+    /// What a tree says of one record, or finds it by, beside the kind's own label: a bone's name, the index
+    /// an entry holds, a surface's material, an action's event.
     virtual QString recordText(const RecordRef &record) const = 0;
 
     void recordChanged(const RecordRef &record) override;

@@ -12,15 +12,15 @@ const std::array<DocumentKind, 3> &documentKinds()
         {DocumentType::SkinnedMesh, tr("Skinned Mesh"), tr("Open Skinned Mesh"), tr("Save Skinned Mesh"),
          tr("Skinned Mesh (*.skinnedmesh)"), QStringLiteral("skinnedmesh"), tr("Skinned Mesh Folder"),
          Settings::SkinnedMeshLoadPath, Settings::SkinnedMeshSavePath, Settings::SkinnedMeshExplorePath,
-         Settings::SkinnedMeshQuickSelect},
+         Settings::SkinnedMeshQuickSelect, Settings::SkinnedMeshRecentFiles},
         {DocumentType::Anim, tr("Animation"), tr("Open Animation"), tr("Save Animation"),
          tr("Animation (*.anim)"), QStringLiteral("anim"), tr("Animation Folder"),
          Settings::AnimationLoadPath, Settings::AnimationSavePath, Settings::AnimationExplorePath,
-         Settings::AnimationQuickSelect},
+         Settings::AnimationQuickSelect, Settings::AnimationRecentFiles},
         {DocumentType::StaticMesh, tr("Static Mesh"), tr("Open Static Mesh"), tr("Save Static Mesh"),
          tr("Static Mesh (*.staticmesh)"), QStringLiteral("staticmesh"), tr("Static Mesh Folder"),
          Settings::StaticMeshLoadPath, Settings::StaticMeshSavePath, Settings::StaticMeshExplorePath,
-         Settings::StaticMeshQuickSelect},
+         Settings::StaticMeshQuickSelect, Settings::StaticMeshRecentFiles},
     }};
     return kinds;
 }

@@ -25,6 +25,7 @@ struct DocumentKind
     const SettingKey<QString> &savePath;
     const SettingKey<QString> &explorePath;
     const SettingKey<bool> &quickSelect;
+    const SettingKey<QStringList> &recentFiles;
 };
 
 const std::array<DocumentKind, 3> &documentKinds();

@@ -7,6 +7,7 @@
 #include "DocumentFiles.h"
 #include "ExplorerFiles.h"
 #include "FileDrop.h"
+#include "FilterLine.h"
 #include "FolderExplorer.h"
 #include "ImportExport.h"
 #include "ImportFilter.h"
@@ -14,6 +15,7 @@
 #include "Playback.h"
 #include "PropertyPages.h"
 #include "QuestionMenu.h"
+#include "RecentFiles.h"
 #include "RecoveryPrompt.h"
 #include "ReloadPrompt.h"
 #include "StructureActions.h"
@@ -27,6 +29,7 @@
 #include "WindowLayout.h"
 #include "ui_MainWindow.h"
 
+#include <QBoxLayout>
 #include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -56,11 +59,15 @@ MainWindow::MainWindow(QWidget *parent)
     new QuestionMenu(*m_ui->tabDatabase, this);
     m_ui->menuView->addSeparator();
     m_ui->menuView->addActions({m_ui->toolBarFile->toggleViewAction(), m_ui->toolBarEdit->toggleViewAction(),
-                                m_ui->dockConsole->toggleViewAction(),
+                                m_ui->dockConsole->toggleViewAction(), m_ui->dockHistory->toggleViewAction(),
                                 m_ui->dockServers->toggleViewAction()});
     m_ui->dockServers->setQueryAction(m_ui->actionQueryServers);
+    m_ui->viewHistory->setGroup(&m_undoGroup);
+    m_ui->viewHistory->setCleanIcon(m_ui->actionSave->icon());
+    m_ui->viewHistory->setEmptyLabel(tr("As opened"));
     connectPlayback();
     setDefaultLayout(*this);
+    m_defaultLayout = saveState();
     auto *geometry = new WindowGeometry(this);
     restoreLayout(*this);
     geometry->restore();
@@ -128,6 +135,8 @@ void MainWindow::createPanes()
         connect(made.document, &Document::structuresChanged, this, [this, type] { pane(type).shown = {}; });
         made.tree->setDocument(made.document);
         made.pages->setTree(made.tree);
+        auto *column = static_cast<QBoxLayout *>(made.tree->parentWidget()->layout());
+        column->insertWidget(0, new FilterLine(*made.tree, made.tree->parentWidget()));
         m_undoGroup.addStack(made.document->undoStack());
         connect(made.document->undoStack(), &QUndoStack::cleanChanged, this, &MainWindow::OnUndoCleanChanged);
         connect(made.document, &Document::replaced, this, [this, type] { onReplaced(type); });
@@ -147,6 +156,8 @@ void MainWindow::createPanes()
         new ExplorerFiles(*m_files, {m_panes[0].explorer, m_panes[1].explorer, m_panes[2].explorer},
                           m_ui->actionAnimSyncSkin, this);
     connect(explorerFiles, &ExplorerFiles::opened, this, &MainWindow::showPane);
+    auto *recent = new RecentFiles(*m_files, *m_ui->menuRecent, this);
+    connect(recent, &RecentFiles::opened, this, &MainWindow::showPane);
     connect(new FileDrop(this), &FileDrop::dropped, this, &MainWindow::openFiles);
 }
 
@@ -267,6 +278,7 @@ void MainWindow::updateCurrentDocument()
     m_ui->actionOpen->setEnabled(document);
     m_ui->actionImport->setEnabled(document);
     m_ui->actionExport->setEnabled(document);
+    m_ui->actionFilter->setEnabled(document);
     m_ui->actionSave->setEnabled(isOpen);
     m_ui->actionSaveAs->setEnabled(isOpen);
     m_ui->actionRotate->setEnabled(isOpen && document != &m_anim);

@@ -51,6 +51,9 @@ private slots:
     void on_actionResetCamera_triggered();
     void on_actionFullScreen_triggered(bool on);
     void on_actionRefreshExplorers_triggered();
+    void on_actionResetLayout_triggered();
+    void on_actionFilter_triggered();
+    void on_actionCommands_triggered();
     void on_actionRotate_triggered();
     void on_actionScale_triggered();
     void on_actionPreferences_triggered();
@@ -94,6 +97,7 @@ private:
     ModelTransforms *m_transforms;
     ImportExport *m_importExport;
     DocumentPanes m_panes{};
+    QByteArray m_defaultLayout; ///< of docks and tool bars
     bool m_askedForFolders = false;
     QString m_readOut; ///< the camera position that the status bar shows
 };

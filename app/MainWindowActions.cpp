@@ -4,13 +4,17 @@
 #include "MainWindow.h"
 
 #include "AboutDialog.h"
+#include "CommandPalette.h"
 #include "ConsoleLog.h"
 #include "ControlsDialog.h"
 #include "DocumentFiles.h"
+#include "FilterLine.h"
 #include "FolderExplorer.h"
 #include "ImportExport.h"
+#include "KVTreeView.h"
 #include "ModelTransforms.h"
 #include "OptionsDialog.h"
+#include "WindowLayout.h"
 #include "ui_MainWindow.h"
 
 #include <QDir>
@@ -98,6 +102,28 @@ void MainWindow::on_actionRefreshExplorers_triggered()
 {
     for (const DocumentPane &each : m_panes)
         each.explorer->refill();
+}
+
+void MainWindow::on_actionResetLayout_triggered()
+{
+    restoreState(m_defaultLayout);
+    setDefaultLayout(*this);
+}
+
+void MainWindow::on_actionFilter_triggered()
+{
+    const DocumentPane *current = currentPane();
+    if (!current)
+        return;
+    auto *line = current->tree->parentWidget()->findChild<FilterLine *>();
+    line->setFocus(Qt::ShortcutFocusReason);
+    line->selectAll();
+}
+
+void MainWindow::on_actionCommands_triggered()
+{
+    const DocumentPane *current = currentPane();
+    CommandPalette(*m_ui->menuBar, current ? current->tree->actions() : QList<QAction *>(), this).exec();
 }
 
 void MainWindow::on_actionRotate_triggered()

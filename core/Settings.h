@@ -10,6 +10,7 @@
 #include <QSettings>
 #include <QSize>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 #include <QVariantMap>
 
@@ -85,6 +86,11 @@ inline const SettingKey<bool> AnimationSyncSkin{"AnimationSyncSkin", true};
 inline const SettingKey<QString> SkinnedMeshExplorePath{"SkinnedMeshExplorePath", {}};
 inline const SettingKey<QString> AnimationExplorePath{"AnimationExplorePath", {}};
 inline const SettingKey<QString> StaticMeshExplorePath{"StaticMeshExplorePath", {}};
+
+// The files last opened or saved, newest first.
+inline const SettingKey<QStringList> SkinnedMeshRecentFiles{"SkinnedMeshRecentFiles", {}};
+inline const SettingKey<QStringList> AnimationRecentFiles{"AnimationRecentFiles", {}};
+inline const SettingKey<QStringList> StaticMeshRecentFiles{"StaticMeshRecentFiles", {}};
 
 // Last folders of the file dialogs.
 inline const SettingKey<QString> SkinnedMeshLoadPath{"SkinnedMeshLoadPath", {}};

@@ -12,6 +12,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <memory>
 #include <tuple>
 
 namespace {
@@ -68,24 +69,32 @@ void KVTreeView::setDocument(Document *document)
 
 void KVTreeView::rebuild()
 {
+    m_expandedUnfiltered.clear();
+    build();
+    notifyCurrent();
+}
+
+void KVTreeView::build()
+{
+    const QSignalBlocker blocker(this);
     setUpdatesEnabled(false);
-    {
-        const QSignalBlocker blocker(this);
-        clear();
-        if (m_document->isOpen()) {
-            m_hideData = m_document->rootKind() == RecordKind::AnimFile ? Settings::HideAnimData.value()
-                                                                        : Settings::HideMeshData.value();
-            auto *root = new RecordItem(m_document->rootKind());
-            // First into the tree, then filled: a list then finds its way into the view once, not twice.
-            addTopLevelItem(root);
+    clear();
+    if (m_document->isOpen()) {
+        m_hideData = m_document->rootKind() == RecordKind::AnimFile ? Settings::HideAnimData.value()
+                                                                    : Settings::HideMeshData.value();
+        auto *root = new RecordItem(m_document->rootKind());
+        // First into the tree, then filled: a list then finds its way into the view once, not twice.
+        addTopLevelItem(root);
+        if (m_filter.isEmpty())
             fillItem(root, root->record());
-            root->setExpanded(true);
-            // Whatever modifier keys are down.
-            setCurrentItem(root, 0, QItemSelectionModel::ClearAndSelect);
-        }
+        else
+            fillFiltered(root, root->record());
+        root->setExpanded(true);
+        expandToMatches();
+        // Whatever modifier keys are down.
+        setCurrentItem(root, 0, QItemSelectionModel::ClearAndSelect);
     }
     setUpdatesEnabled(true);
-    notifyCurrent();
 }
 
 void KVTreeView::fillItem(RecordItem *item, const RecordRef &owner) const
@@ -115,6 +124,106 @@ void KVTreeView::fillItem(RecordItem *item, const RecordRef &owner) const
     }
 }
 
+void KVTreeView::fillFiltered(RecordItem *item, const RecordRef &owner) const
+{
+    QList<QTreeWidgetItem *> children;
+    for (const RecordRow *row : childRows(owner.kind)) {
+        if (m_hideData && row->meshData && !isAskedFor(*row))
+            continue;
+        const bool isList = row->position == RecordRow::FromIndex;
+        const bool isLeaf = childRows(row->kind).isEmpty();
+        RecordRef record{row->kind, owner.index};
+        const int count = isList ? m_document->recordCount(row->kind, owner.index) : 1;
+        for (int i = 0; i < count; ++i) {
+            if (isList)
+                record.index[size_t(row->component)] = i;
+            const bool isMatch = m_filter.matches(searchText(record));
+            if (isLeaf && !isMatch)
+                continue;
+            auto child = std::make_unique<RecordItem>(row->kind, isList ? i : 0);
+            if (isMatch)
+                fillItem(child.get(), record);
+            else
+                fillFiltered(child.get(), record);
+            if (isMatch || child->childCount() > 0)
+                children.append(child.release());
+        }
+    }
+    item->addChildren(children);
+}
+
+bool KVTreeView::isAskedFor(const RecordRow &row) const
+{
+    // What a list is hidden in has no noun of its own.
+    const RecordRow &list = row.position == RecordRow::FromIndex ? row : *childRows(row.kind).first();
+    return m_filter.names(QCoreApplication::translate("Records", list.noun));
+}
+
+QString KVTreeView::searchText(const RecordRef &record) const
+{
+    const RecordRow *row = recordRow(record.kind);
+    if (row->position != RecordRow::FromIndex)
+        return QCoreApplication::translate("Records", row->label).remove(QLatin1String("%1"));
+    QString text = QCoreApplication::translate("Records", row->noun) + QLatin1Char(' ') +
+                   QString::number(record.index[size_t(row->component)]);
+    const QString more = m_document->recordText(record);
+    if (more.isEmpty())
+        return text;
+    // The text of an action is its event, number first.
+    return text + QLatin1Char(' ') +
+           (record.kind == RecordKind::AnimAction ? tr("event") + QLatin1Char(' ') + more : more);
+}
+
+void KVTreeView::expandToMatches()
+{
+    if (m_filter.isEmpty())
+        return;
+    for (QTreeWidgetItemIterator it(this, QTreeWidgetItemIterator::HasChildren); *it; ++it) {
+        const RecordRef record = static_cast<RecordItem *>(*it)->record();
+        if (recordRow(record.kind)->position != RecordRow::FromIndex || !m_filter.matches(searchText(record)))
+            (*it)->setExpanded(true);
+    }
+}
+
+void KVTreeView::setFilter(const QString &text)
+{
+    if (text == m_filter.text() || !m_document)
+        return;
+    const RecordRef current = currentRecord();
+    if (m_filter.isEmpty())
+        m_expandedUnfiltered = expandedBelow(topLevelItem(0));
+    m_filter = RecordFilter(text);
+    refill(current);
+}
+
+void KVTreeView::refill(const RecordRef &current)
+{
+    build();
+    if (m_filter.isEmpty())
+        expand(m_expandedUnfiltered);
+    if (topLevelItemCount() > 0)
+        selectRecords({current}, current);
+}
+
+QString KVTreeView::filterExample() const
+{
+    return m_document && m_document->rootKind() == RecordKind::AnimFile ? tr("frame 10-20 or event 30")
+                                                                        : tr("vertex 100-120 or left arm");
+}
+
+void KVTreeView::selectFirstMatch()
+{
+    if (m_filter.isEmpty())
+        return;
+    for (QTreeWidgetItemIterator it(this); *it; ++it) {
+        const RecordRef record = static_cast<RecordItem *>(*it)->record();
+        if (*it != topLevelItem(0) && m_filter.matches(searchText(record))) {
+            setCurrentItem(*it, 0, QItemSelectionModel::ClearAndSelect);
+            return;
+        }
+    }
+}
+
 RecordRef KVTreeView::currentRecord() const
 {
     const auto *item = static_cast<const RecordItem *>(currentItem());
@@ -137,12 +246,33 @@ RecordItem *KVTreeView::findItem(const RecordRef &record) const
 {
     QTreeWidgetItem *item = nullptr;
     for (const int position : indexPath(record)) {
-        QTreeWidgetItem *next = item ? item->child(position) : topLevelItem(position);
+        QTreeWidgetItem *next = item ? childAt(item, position) : topLevelItem(position);
         if (!next)
             break;
         item = next;
     }
     return static_cast<RecordItem *>(item);
+}
+
+RecordItem *KVTreeView::childAt(QTreeWidgetItem *item, int position)
+{
+    auto *child = static_cast<RecordItem *>(item->child(position));
+    if (child && child->position() == position)
+        return child;
+    // A filter left some out.
+    int begin = 0;
+    int end = item->childCount();
+    while (begin < end) {
+        const int middle = begin + (end - begin) / 2;
+        child = static_cast<RecordItem *>(item->child(middle));
+        if (child->position() == position)
+            return child;
+        if (child->position() < position)
+            begin = middle + 1;
+        else
+            end = middle;
+    }
+    return nullptr;
 }
 
 void KVTreeView::selectRecords(const QVector<RecordRef> &records, const RecordRef &current)
@@ -208,6 +338,14 @@ void KVTreeView::onRecordsChanged(const QVector<RecordRef> &records)
 
 void KVTreeView::onStructuresChanged(const QVector<StructureChange> &changes)
 {
+    if (!m_filter.isEmpty()) {
+        for (const StructureChange &change : changes) {
+            if (change.added != 0)
+                shift(m_expandedUnfiltered, change);
+        }
+        refill(changes.last().select);
+        return;
+    }
     // Only what stands below the owners of the changed lists is made anew.
     QVector<RecordRef> owners;
     for (const StructureChange &change : changes) {
@@ -233,7 +371,21 @@ void KVTreeView::rebuildBelow(const RecordRef &owner, const QVector<StructureCha
     if (!item || item->record() != owner)
         return;
     const QSignalBlocker blocker(this);
+    QVector<RecordRef> expanded = expandedBelow(item);
+    for (const StructureChange &change : changes) {
+        if (change.added != 0)
+            shift(expanded, change);
+    }
+    qDeleteAll(item->takeChildren());
+    fillItem(item, owner);
+    expand(expanded);
+}
+
+QVector<RecordRef> KVTreeView::expandedBelow(QTreeWidgetItem *item)
+{
     QVector<RecordRef> expanded;
+    if (!item)
+        return expanded;
     for (QTreeWidgetItemIterator it(item, QTreeWidgetItemIterator::HasChildren); *it; ++it) {
         // The iterator goes on behind the last child.
         const QTreeWidgetItem *ancestor = *it;
@@ -244,29 +396,32 @@ void KVTreeView::rebuildBelow(const RecordRef &owner, const QVector<StructureCha
         if (*it != item && (*it)->isExpanded())
             expanded.append(static_cast<RecordItem *>(*it)->record());
     }
-    for (const StructureChange &change : changes) {
-        if (change.added != 0)
-            shift(expanded, change);
-    }
-    qDeleteAll(item->takeChildren());
-    fillItem(item, owner);
-    for (const RecordRef &record : qAsConst(expanded)) {
-        RecordItem *open = findItem(record);
-        if (open->record() == record)
-            open->setExpanded(true);
+    return expanded;
+}
+
+void KVTreeView::expand(const QVector<RecordRef> &records)
+{
+    for (const RecordRef &record : records) {
+        RecordItem *item = findItem(record);
+        if (item && item->record() == record)
+            item->setExpanded(true);
     }
 }
 
 void KVTreeView::paintEvent(QPaintEvent *event)
 {
     QTreeWidget::paintEvent(event);
-    if (topLevelItemCount() > 0)
+    QString text;
+    if (topLevelItemCount() == 0)
+        text = tr("No file is open. Choose one in the folder, or press %1.")
+                   .arg(QKeySequence(QKeySequence::Open).toString(QKeySequence::NativeText));
+    else if (!m_filter.isEmpty() && topLevelItem(0)->childCount() == 0)
+        text = tr("Nothing matches the filter.");
+    else
         return;
     QPainter painter(viewport());
     painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
-    painter.drawText(viewport()->rect().adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap,
-                     tr("No file is open. Choose one in the folder, or press %1.")
-                         .arg(QKeySequence(QKeySequence::Open).toString(QKeySequence::NativeText)));
+    painter.drawText(viewport()->rect().adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap, text);
 }
 
 void KVTreeView::notifyCurrent()

@@ -3,10 +3,12 @@
 #pragma once
 
 #include "Document.h"
+#include "RecordFilter.h"
 
 #include <QTreeWidget>
 
 class RecordItem;
+struct RecordRow;
 
 /// The structure tree of one document: its records as RecordItems, several of which may be selected.
 class KVTreeView : public QTreeWidget
@@ -33,6 +35,14 @@ public:
 
     QString label(const RecordRef &record) const;
 
+    /// Shows only the records that match, with what stands above and below them; an empty text shows all.
+    /// The current record stays current where it is shown.
+    void setFilter(const QString &text);
+    /// A text that would make a useful filter of this document.
+    QString filterExample() const;
+    /// Makes the first record that matches current; without a filter nothing happens.
+    void selectFirstMatch();
+
 signals:
     /// Another record is current, or the current one was changed or joined by others: show its page.
     void currentRecordChanged(const RecordRef &record);
@@ -43,6 +53,18 @@ protected:
 private:
     /// Gives an item that stands for `owner` its groups and records.
     void fillItem(RecordItem *item, const RecordRef &owner) const;
+    /// The same where a filter hides some: only matches, what is below them and what leads to them.
+    void fillFiltered(RecordItem *item, const RecordRef &owner) const;
+    /// Whether a list that is usually hidden is what the filter is about.
+    bool isAskedFor(const RecordRow &row) const;
+    static RecordItem *childAt(QTreeWidgetItem *item, int position);
+    /// What a filter looks at: the label, the record's noun before its number, and the document's text.
+    QString searchText(const RecordRef &record) const;
+    void build();
+    void refill(const RecordRef &current);
+    void expandToMatches();
+    static QVector<RecordRef> expandedBelow(QTreeWidgetItem *item);
+    void expand(const QVector<RecordRef> &records);
     void onRecordsChanged(const QVector<RecordRef> &records);
     void onStructuresChanged(const QVector<StructureChange> &changes);
     void rebuildBelow(const RecordRef &owner, const QVector<StructureChange> &changes);
@@ -50,4 +72,6 @@ private:
 
     Document *m_document = nullptr;
     bool m_hideData = true; ///< as it was when the tree was built
+    RecordFilter m_filter;
+    QVector<RecordRef> m_expandedUnfiltered; ///< what was open before there was a filter
 };

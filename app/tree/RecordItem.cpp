@@ -23,6 +23,12 @@ RecordRef RecordItem::record() const
     return record;
 }
 
+int RecordItem::position() const
+{
+    const int position = recordRow(m_kind)->position;
+    return position == RecordRow::FromIndex ? m_number : position;
+}
+
 QVariant RecordItem::data(int column, int role) const
 {
     if (column != 0)

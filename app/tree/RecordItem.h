@@ -24,6 +24,9 @@ public:
     /// The record, for an item that stands in its tree.
     RecordRef record() const;
 
+    /// Where it stands among its siblings while no filter leaves any of them out.
+    int position() const;
+
     /// Under Qt::UserRole the kind code and the three indexes as a list.
     QVariant data(int column, int role) const override;
 

@@ -23,6 +23,7 @@ struct RecordRow
     const char *label;  ///< with %1 for the group's count or the record's text (or number)
     const char *icon;
     bool meshData; ///< left out of the tree while mesh data (in an animation: animation data) is hidden
+    const char *noun; ///< what the records of a list are called in a filter; empty for what is in none
 };
 
 /// The row of a kind; null for None.

@@ -1,0 +1,168 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "CommandPalette.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+QString plainText(const QAction *action)
+{
+    QString text = action->text();
+    text.replace(QLatin1String("&&"), QChar::fromLatin1('\0')).remove(QLatin1Char('&'));
+    return text.replace(QChar::fromLatin1('\0'), QLatin1Char('&'));
+}
+} // namespace
+
+CommandPalette::CommandPalette(const QMenuBar &menus, const QList<QAction *> &treeActions, QWidget *parent)
+    : QDialog(parent)
+    , m_line(new QLineEdit(this))
+    , m_list(new QListWidget(this))
+{
+    setObjectName(QStringLiteral("CommandPalette"));
+    setWindowTitle(tr("Commands"));
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    m_line->setObjectName(QStringLiteral("lineCommand"));
+    m_line->setPlaceholderText(tr("What to do: a few letters of its name"));
+    m_line->setAccessibleName(tr("Command"));
+    m_line->setClearButtonEnabled(true);
+    m_line->installEventFilter(this);
+    m_list->setObjectName(QStringLiteral("listCommands"));
+    m_list->setAccessibleName(tr("Commands"));
+    m_list->setUniformItemSizes(true);
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_line);
+    layout->addWidget(m_list);
+    resize(fontMetrics().averageCharWidth() * 72, fontMetrics().height() * 22);
+
+    collect(menus.actions(), {});
+    collect(treeActions, tr("Tree") + QStringLiteral(" ▸ "));
+    connect(m_line, &QLineEdit::textChanged, this, &CommandPalette::fill);
+    connect(m_list, &QListWidget::itemActivated, this, &CommandPalette::accept);
+    fill();
+    m_line->setFocus();
+}
+
+void CommandPalette::collect(const QList<QAction *> &actions, const QString &path)
+{
+    for (QAction *action : actions) {
+        if (action->isSeparator() || !action->isVisible())
+            continue;
+        const QString name = path + plainText(action);
+        if (action->menu()) {
+            // Some are filled only then.
+            emit action->menu()->aboutToShow();
+            collect(action->menu()->actions(), name + QStringLiteral(" ▸ "));
+        } else {
+            m_commands.append({action, name});
+        }
+    }
+}
+
+int CommandPalette::fit(const QString &typed, const QString &name)
+{
+    constexpr int Impossible = -1;
+    // By place of the letter matched last, one behind it; at first none is matched.
+    QVector<int> best(name.size() + 1, Impossible);
+    best[0] = 0;
+    bool together = false;
+    for (const QChar letter : typed) {
+        if (letter.isSpace()) {
+            together = false;
+            continue;
+        }
+        QVector<int> next(best.size(), Impossible);
+        for (int at = 0; at < name.size(); ++at) {
+            if (name[at].toCaseFolded() != letter.toCaseFolded())
+                continue;
+            const bool beginsWord = at == 0 || !name[at - 1].isLetterOrNumber();
+            for (int before = 0; before <= at; ++before) {
+                if (best[before] == Impossible)
+                    continue;
+                const int gain = together && before == at ? 3 : beginsWord ? 2 : 0;
+                next[at + 1] = std::max(next[at + 1], best[before] + gain);
+            }
+        }
+        best = next;
+        together = true;
+    }
+    return *std::max_element(best.begin(), best.end());
+}
+
+void CommandPalette::fill()
+{
+    struct Row
+    {
+        const Command *command;
+        int score;
+    };
+    QVector<Row> rows;
+    for (const Command &command : qAsConst(m_commands)) {
+        const int score = fit(m_line->text(), command.name);
+        if (score >= 0)
+            rows.append({&command, score});
+    }
+    std::stable_sort(rows.begin(), rows.end(), [](const Row &a, const Row &b) { return a.score > b.score; });
+
+    m_list->clear();
+    for (const Row &row : qAsConst(rows)) {
+        const QAction *action = row.command->action;
+        const QString keys = action->shortcut().toString(QKeySequence::NativeText);
+        auto *item = new QListWidgetItem(action->icon(), keys.isEmpty()
+                                                             ? row.command->name
+                                                             : tr("%1    (%2)").arg(row.command->name, keys));
+        item->setData(Qt::UserRole, int(row.command - m_commands.constData()));
+        item->setToolTip(action->statusTip());
+        if (!action->isEnabled())
+            item->setFlags(item->flags() & ~(Qt::ItemIsEnabled | Qt::ItemIsSelectable));
+        m_list->addItem(item);
+    }
+    // The best that can be done now.
+    for (int row = 0; row < m_list->count(); ++row) {
+        if (m_list->item(row)->flags() & Qt::ItemIsEnabled) {
+            m_list->setCurrentRow(row);
+            break;
+        }
+    }
+}
+
+bool CommandPalette::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_line && event->type() == QEvent::KeyPress) {
+        switch (static_cast<QKeyEvent *>(event)->key()) {
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+        case Qt::Key_PageUp:
+        case Qt::Key_PageDown:
+            return QCoreApplication::sendEvent(m_list, event);
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            accept();
+            return true;
+        default:
+            break;
+        }
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void CommandPalette::accept()
+{
+    const QListWidgetItem *item = m_list->currentItem();
+    if (!item || !(item->flags() & Qt::ItemIsEnabled))
+        return;
+    QAction *action = m_commands[item->data(Qt::UserRole).toInt()].action;
+    QDialog::accept();
+    // After the dialog has gone: the command may open one of its own, and asks who has the focus.
+    QTimer::singleShot(0, action, &QAction::trigger);
+}

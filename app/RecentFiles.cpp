@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "RecentFiles.h"
+
+#include "Document.h"
+#include "DocumentFiles.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QMenu>
+
+RecentFiles::RecentFiles(DocumentFiles &files, QMenu &menu, QObject *parent)
+    : QObject(parent)
+    , m_files(files)
+    , m_menu(menu)
+{
+    m_menu.setToolTipsVisible(true);
+    connect(&m_menu, &QMenu::aboutToShow, this, &RecentFiles::fillMenu);
+    connect(&m_files, &DocumentFiles::saved, this, &RecentFiles::remember);
+    for (const DocumentKind &kind : documentKinds()) {
+        const DocumentType type = kind.type;
+        connect(m_files.document(type), &Document::replaced, this, [this, type] { remember(type); });
+    }
+}
+
+void RecentFiles::remember(DocumentType type)
+{
+    const QString path = m_files.document(type)->path();
+    if (path.isEmpty())
+        return;
+    const SettingKey<QStringList> &key = documentKind(type).recentFiles;
+    QStringList paths = key.value();
+    if (!paths.isEmpty() && paths.first() == path)
+        return;
+    paths.removeAll(path);
+    paths.prepend(path);
+    key.setValue(paths.mid(0, Limit));
+}
+
+void RecentFiles::fillMenu()
+{
+    m_menu.clear();
+    for (const DocumentKind &kind : documentKinds()) {
+        const QStringList paths = kind.recentFiles.value();
+        if (paths.isEmpty())
+            continue;
+        m_menu.addSection(kind.label);
+        for (const QString &path : paths.mid(0, Limit))
+            addFile(kind, path);
+    }
+    if (m_menu.isEmpty()) {
+        m_menu.addAction(tr("No file was opened yet"))->setEnabled(false);
+        return;
+    }
+    m_menu.addSeparator();
+    connect(m_menu.addAction(tr("&Clear This List")), &QAction::triggered, this, [] {
+        for (const DocumentKind &kind : documentKinds())
+            kind.recentFiles.setValue({});
+    });
+}
+
+void RecentFiles::addFile(const DocumentKind &kind, const QString &path)
+{
+    const QFileInfo info(path);
+    // Files of one name are told apart by their folder.
+    QString text = info.dir().dirName() + QLatin1Char('/') + info.fileName();
+    text.replace(QLatin1Char('&'), QLatin1String("&&"));
+    QAction *action = m_menu.addAction(QDir::toNativeSeparators(text));
+    action->setToolTip(QDir::toNativeSeparators(path));
+    action->setStatusTip(action->toolTip());
+    // A file on a share that is away is not forgotten.
+    action->setEnabled(info.isFile());
+    const DocumentType type = kind.type;
+    connect(action, &QAction::triggered, this, [this, type, path] { open(type, path); });
+}
+
+void RecentFiles::open(DocumentType type, const QString &path)
+{
+    if (m_files.promptUnsaved(type) && !m_files.open(type, path))
+        emit opened(type);
+}

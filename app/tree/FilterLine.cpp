@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "FilterLine.h"
+
+#include "KVTreeView.h"
+
+#include <QKeyEvent>
+#include <QTimer>
+
+FilterLine::FilterLine(KVTreeView &tree, QWidget *parent)
+    : QLineEdit(parent)
+    , m_tree(tree)
+{
+    setObjectName(tree.objectName() + QStringLiteral("Filter"));
+    setPlaceholderText(tr("Filter, such as %1").arg(tree.filterExample()));
+    setToolTip(
+        tr("Show only the records whose text has these words, and numbers or ranges of them (Ctrl+F)"));
+    setAccessibleName(tr("Filter"));
+    setClearButtonEnabled(true);
+
+    // While somebody types, half a million records are looked through once.
+    auto *pause = new QTimer(this);
+    pause->setSingleShot(true);
+    pause->setInterval(150);
+    connect(this, &QLineEdit::textChanged, pause, qOverload<>(&QTimer::start));
+    connect(pause, &QTimer::timeout, this, [this] { m_tree.setFilter(text()); });
+}
+
+void FilterLine::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Escape:
+        clear();
+        m_tree.setFilter({});
+        m_tree.setFocus();
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Down:
+        m_tree.setFilter(text());
+        m_tree.selectFirstMatch();
+        m_tree.setFocus();
+        break;
+    default:
+        QLineEdit::keyPressEvent(event);
+    }
+}

@@ -1,0 +1,197 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "CommandPalette.h"
+#include "Hand.h"
+#include "MainWindow.h"
+#include "RecentFiles.h"
+#include "SampleModels.h"
+#include "TestSupport.h"
+
+#include <QAction>
+#include <QDockWidget>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QSpinBox>
+#include <QTreeWidget>
+#include <QUndoView>
+
+/// What a window that is open all day offers beside its documents.
+class tst_Everyday : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void commandsAreFoundByTheirName_data();
+    void commandsAreFoundByTheirName();
+    void thePaletteDoesWhatIsChosen();
+    void recentFilesAreOpenedAgain();
+    void historyShowsWhatWasSaved();
+    void theLayoutIsReset();
+
+private:
+    template <typename Widget>
+    static Widget *find(const MainWindow &window, const char *name)
+    {
+        auto *found = window.findChild<Widget *>(QLatin1String(name));
+        if (!found)
+            qFatal("%s is missing", name);
+        return found;
+    }
+    /// The actions of a menu as it comes up.
+    static QList<QAction *> filled(QMenu *menu)
+    {
+        emit menu->aboutToShow();
+        return menu->actions();
+    }
+    QString write(const QString &name)
+    {
+        const QString path = m_files->filePath(name);
+        return triangleMan().write(path) ? QString() : path;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_files;
+};
+
+void tst_Everyday::init()
+{
+    m_files = std::make_unique<QTemporaryDir>();
+    TestSupport::useSettingsHome(*m_files);
+    Settings::GamePath.setValue(m_files->path());
+    Settings::OutputDir.setValue(m_files->path());
+    Settings::Updates.setValue(false);
+}
+
+void tst_Everyday::commandsAreFoundByTheirName_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("better");
+    QTest::addColumn<QString>("worse"); ///< empty: the first one does not fit
+    QTest::newRow("together before apart") << "save"
+                                           << "File ▸ Save"
+                                           << "View ▸ Sampled Average";
+    QTest::newRow("word beginnings") << "sa"
+                                     << "File ▸ Save All"
+                                     << "Tools ▸ Increase Gamma";
+    QTest::newRow("any case, blanks between words") << "FI sa"
+                                                    << "File ▸ Save"
+                                                    << "Off ▸ Lists ▸ Data";
+    QTest::newRow("a word's middle before its beginning") << "ave as"
+                                                          << "File ▸ Save As"
+                                                          << "File ▸ Average Xs";
+    QTest::newRow("out of order") << "evas"
+                                  << "File ▸ Save"
+                                  << "";
+    QTest::newRow("too long") << "Save As Well"
+                              << "File ▸ Save As"
+                              << "";
+}
+
+void tst_Everyday::commandsAreFoundByTheirName()
+{
+    QFETCH(QString, typed);
+    QFETCH(QString, better);
+    QFETCH(QString, worse);
+    const int fit = CommandPalette::fit(typed, better);
+    if (worse.isEmpty())
+        QVERIFY(fit < 0);
+    else
+        QVERIFY2(fit > CommandPalette::fit(typed, worse), qPrintable(QString::number(fit)));
+    QVERIFY(CommandPalette::fit({}, better) >= 0);
+}
+
+void tst_Everyday::thePaletteDoesWhatIsChosen()
+{
+    MainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    auto *servers = find<QDockWidget>(window, "dockHistory");
+    QVERIFY(!servers->isVisible());
+    const auto choose = [](const QString &typed) {
+        return [typed](QDialog *dialog) {
+            auto *line = dialog->findChild<QLineEdit *>();
+            QTest::keyClicks(line, typed);
+            QTest::keyClick(line, Qt::Key_Return);
+        };
+    };
+    // What cannot be done now is listed, but not done.
+    const Hand hand({[](QDialog *dialog) {
+                         auto *line = dialog->findChild<QLineEdit *>();
+                         QTest::keyClicks(line, QStringLiteral("rotate"));
+                         QVERIFY(dialog->findChild<QListWidget *>()->count() > 0);
+                         QTest::keyClick(line, Qt::Key_Return);
+                         QVERIFY(dialog->isVisible());
+                         QTest::keyClick(line, Qt::Key_Escape);
+                     },
+                     choose(QStringLiteral("history"))});
+    find<QAction>(window, "actionCommands")->trigger();
+    find<QAction>(window, "actionCommands")->trigger();
+    QTRY_VERIFY(servers->isVisible());
+    QCOMPARE(hand.seen.size(), 2);
+}
+
+void tst_Everyday::recentFilesAreOpenedAgain()
+{
+    QStringList paths;
+    for (int i = 0; i <= RecentFiles::Limit; ++i)
+        paths << write(QStringLiteral("r&d %1.skinnedmesh").arg(i));
+    {
+        MainWindow window;
+        QMenu *menu = find<QMenu>(window, "menuRecent");
+        QCOMPARE(filled(menu).size(), 1);
+        QVERIFY(!filled(menu).first()->isEnabled());
+        for (const QString &path : qAsConst(paths))
+            window.openFiles({path});
+        window.openFiles({paths[4]});
+    }
+    QVERIFY(QFile::remove(paths.last()));
+    MainWindow window;
+    const QList<QAction *> actions = filled(find<QMenu>(window, "menuRecent"));
+    // A heading, the files, a line, the command that clears the list.
+    QCOMPARE(actions.size(), RecentFiles::Limit + 3);
+    QCOMPARE(actions[1]->toolTip(), QDir::toNativeSeparators(paths[4]));
+    QCOMPARE(actions[2]->toolTip(), QDir::toNativeSeparators(paths.last()));
+    QVERIFY(actions[1]->text().endsWith(QStringLiteral("r&&d 4.skinnedmesh")));
+    QVERIFY(!actions[2]->isEnabled());
+    actions[3]->trigger();
+    QCOMPARE(find<QTreeWidget>(window, "treeSkinnedMesh")->topLevelItem(0)->text(0),
+             QFileInfo(paths[RecentFiles::Limit - 1]).fileName());
+    filled(find<QMenu>(window, "menuRecent")).last()->trigger();
+    QCOMPARE(filled(find<QMenu>(window, "menuRecent")).size(), 1);
+}
+
+void tst_Everyday::historyShowsWhatWasSaved()
+{
+    MainWindow window;
+    window.show();
+    window.openFiles({write(QStringLiteral("a.skinnedmesh"))});
+    auto *view = find<QUndoView>(window, "viewHistory");
+    QCOMPARE(view->model()->rowCount(), 1);
+    auto *factor = find<QSpinBox>(window, "sbSMHTFactor");
+    factor->setValue(3);
+    factor->setValue(5);
+    QVERIFY(view->model()->rowCount() > 1);
+    find<QAction>(window, "actionSave")->trigger();
+    const QModelIndex last = view->model()->index(view->model()->rowCount() - 1, 0);
+    QVERIFY(!last.data(Qt::DecorationRole).isNull());
+    view->selectionModel()->setCurrentIndex(view->model()->index(0, 0), QItemSelectionModel::ClearAndSelect);
+    QVERIFY(factor->value() != 5);
+}
+
+void tst_Everyday::theLayoutIsReset()
+{
+    MainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    auto *console = find<QDockWidget>(window, "dockConsole");
+    auto *history = find<QDockWidget>(window, "dockHistory");
+    console->setFloating(true);
+    history->show();
+    find<QAction>(window, "actionResetLayout")->trigger();
+    QVERIFY(!console->isFloating() && console->isVisible());
+    QVERIFY(!history->isVisible());
+}
+
+QTEST_MAIN(tst_Everyday)
+#include "tst_everyday.moc"

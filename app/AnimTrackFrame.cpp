@@ -5,8 +5,11 @@
 #include "AnimFile.h"
 #include "FrameChoice.h"
 #include "Playback.h"
+#include "ReferenceTable.h"
 #include "Settings.h"
 
+#include <QAbstractItemView>
+#include <QShortcut>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -28,7 +31,11 @@ AnimTrackFrame::AnimTrackFrame(QWidget *parent)
     const std::pair<QToolButton *, const char *> icons[] = {{m_ui.btnAnimTrackPlay, "play"},
                                                             {m_ui.btnAnimTrackStop, "stop"},
                                                             {m_ui.btnAnimTrackPose, "pose"},
-                                                            {m_ui.btnAnimTrackLoop, "loop"}};
+                                                            {m_ui.btnAnimTrackLoop, "loop"},
+                                                            {m_ui.btnAnimTrackMarkBack, "markback"},
+                                                            {m_ui.btnAnimTrackStepBack, "stepback"},
+                                                            {m_ui.btnAnimTrackStepForward, "stepforward"},
+                                                            {m_ui.btnAnimTrackMarkForward, "markforward"}};
     for (const auto &[button, icon] : icons)
         button->setIcon(QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(icon))));
     // Wide enough for four digits, so that the slider does not move under the mouse while playing.
@@ -40,6 +47,29 @@ AnimTrackFrame::AnimTrackFrame(QWidget *parent)
     connect(m_ui.btnAnimTrackPose, &QToolButton::clicked, this, &AnimTrackFrame::OnAnimTrackPosePressed);
     connect(m_ui.btnAnimTrackLoop, &QToolButton::toggled, this, &AnimTrackFrame::OnAnimTrackLoopToggled);
     connect(m_ui.sliderAnimTrack, &QSlider::valueChanged, this, &AnimTrackFrame::OnAnimTrackSliderChanged);
+    connect(m_ui.sliderAnimTrack, &TrackSlider::actionChosen, this,
+            [this](int action) { emit actionChosen(playback().blockIndex, action); });
+    connect(m_ui.btnAnimTrackStepBack, &QToolButton::clicked, this, [this] { step(-1); });
+    connect(m_ui.btnAnimTrackStepForward, &QToolButton::clicked, this, [this] { step(1); });
+    connect(m_ui.btnAnimTrackMarkBack, &QToolButton::clicked, this, [this] { stepToMark(-1); });
+    connect(m_ui.btnAnimTrackMarkForward, &QToolButton::clicked, this, [this] { stepToMark(1); });
+    connect(m_ui.cbAnimTrackBlock, qOverload<int>(&QComboBox::activated), this, &AnimTrackFrame::blockChosen);
+    connect(m_ui.sbAnimTrackSpeed, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
+            [](double factor) { playback().speedFactor = float(factor); });
+    playback().speedFactor = float(m_ui.sbAnimTrackSpeed->value());
+}
+
+void AnimTrackFrame::addShortcuts(QWidget *panel)
+{
+    const auto add = [this, panel](int key, auto body) {
+        auto *shortcut = new QShortcut(key, panel, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, this, body);
+    };
+    add(Qt::Key_Space, [this] { playOrPause(); });
+    add(Qt::Key_Comma, [this] { step(-1); });
+    add(Qt::Key_Period, [this] { step(1); });
+    add(Qt::Key_BracketLeft, [this] { stepToMark(-1); });
+    add(Qt::Key_BracketRight, [this] { stepToMark(1); });
 }
 
 void AnimTrackFrame::openAnimation(const AnimFile *file)
@@ -65,7 +95,40 @@ void AnimTrackFrame::updateRange()
     const QSignalBlocker blocker(m_ui.sliderAnimTrack);
     const AnimBlock *block = currentBlock();
     m_ui.sliderAnimTrack->setMaximum(block ? std::max(0, block->frameCount() - 1) : 0);
+    m_ui.sliderAnimTrack->setActions(block);
+    const bool hasActions = block && !block->actions.empty();
+    m_ui.btnAnimTrackMarkBack->setEnabled(hasActions);
+    m_ui.btnAnimTrackMarkForward->setEnabled(hasActions);
+    listBlocks();
     setEnabled(playback().anim != nullptr);
+}
+
+void AnimTrackFrame::listBlocks()
+{
+    const AnimFile *file = playback().anim;
+    if (file && m_animationNames.isEmpty()) {
+        ReferenceTable table;
+        if (!table.read(referencePath(ReferenceKind::Animations))) {
+            for (const ReferenceRow &row : table.rows)
+                m_animationNames.insert(row.number, row.name.trimmed());
+        }
+    }
+    QStringList names;
+    const int count = file ? int(file->blocks.size()) : 0;
+    for (int i = 0; i < count; ++i) {
+        const QString name = m_animationNames.value(file->blocks[size_t(i)].animId);
+        names << (name.isEmpty() ? QString::number(i) : tr("%1: %2").arg(i).arg(name));
+    }
+    QComboBox *box = m_ui.cbAnimTrackBlock;
+    QStringList shown;
+    for (int i = 0; i < box->count(); ++i)
+        shown << box->itemText(i);
+    if (shown != names) {
+        box->clear();
+        box->addItems(names);
+        box->view()->setMinimumWidth(box->view()->sizeHintForColumn(0) + box->view()->frameWidth() * 2);
+    }
+    box->setCurrentIndex(playback().blockIndex);
 }
 
 void AnimTrackFrame::showFrame(int frame)
@@ -77,6 +140,35 @@ void AnimTrackFrame::showFrame(int frame)
 void AnimTrackFrame::showLabel(const QString &text)
 {
     m_ui.lblAnimTrackFrames->setText(text);
+}
+
+void AnimTrackFrame::playOrPause()
+{
+    PlayState &state = playback().playState;
+    if (state == PlayState::InitialPose)
+        return OnAnimTrackPlayPressed();
+    state = state == PlayState::Playing ? PlayState::Paused : PlayState::Playing;
+    emit playbackChanged();
+}
+
+void AnimTrackFrame::goTo(int frame)
+{
+    if (frame < 0 || frame > m_ui.sliderAnimTrack->maximum())
+        return;
+    playback().playState = PlayState::Paused;
+    m_ui.sliderAnimTrack->setValue(frame);
+    // The slider says nothing where it stands already.
+    OnAnimTrackSliderChanged(frame);
+}
+
+void AnimTrackFrame::step(int direction)
+{
+    goTo(m_ui.sliderAnimTrack->value() + direction);
+}
+
+void AnimTrackFrame::stepToMark(int direction)
+{
+    goTo(m_ui.sliderAnimTrack->markedFrame(m_ui.sliderAnimTrack->value(), direction));
 }
 
 void AnimTrackFrame::OnAnimTrackPlayPressed()

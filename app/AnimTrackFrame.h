@@ -5,11 +5,13 @@
 #include "ui_AnimTrackFrame.h"
 
 #include <QFrame>
+#include <QHash>
 
 struct AnimFile;
 
-/// The track controls: play, stop, pose, forced loop, the frame slider and the frame label. They set the
-/// process-wide playback state, which the viewport plays.
+/// The track controls: the block, play, stop, pose, forced loop, single steps, the frame slider with the
+/// marks of the actions, the frame label and the playing speed. They set the process-wide playback state,
+/// which the viewport plays.
 class AnimTrackFrame : public QFrame
 {
     Q_OBJECT
@@ -21,14 +23,21 @@ public:
     void openAnimation(const AnimFile *file);
     /// Makes a block the current one and starts it, or shows its initial pose, as the option says.
     void selectBlock(int blockIndex);
-    /// Fits the slider to the current block, whose frames or speed may have changed.
+    /// Fits slider, marks and the list of blocks to the file, which may have changed.
     void updateRange();
 
     /// Follows the frame that was painted; sets no time.
     void showFrame(int frame);
     void showLabel(const QString &text);
 
+    /// The keys of single steps and of play and pause, which work anywhere in `panel`.
+    void addShortcuts(QWidget *panel);
+
 signals:
+    /// A block was chosen here.
+    void blockChosen(int block);
+    /// An action of the current block was chosen here.
+    void actionChosen(int block, int action);
     /// The playback state was changed here: the picture is stale.
     void playbackChanged();
 
@@ -40,5 +49,12 @@ private slots:
     void OnAnimTrackSliderChanged(int frame);
 
 private:
+    void playOrPause();
+    void goTo(int frame);
+    void step(int direction);
+    void stepToMark(int direction);
+    void listBlocks();
+
     Ui::AnimTrackFrame m_ui;
+    QHash<int, QString> m_animationNames; ///< by id; read when there is something to name
 };

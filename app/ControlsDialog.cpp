@@ -55,6 +55,9 @@ ControlsDialog::ControlsDialog(const QList<QAction *> &actions, QWidget *parent)
         {tr("Left drag"), tr("Move over the ground")},
         {tr("Right drag"), tr("Look around")},
         {tr("Left + right drag"), tr("Move up, down and sideways")},
+        {tr("Space"), tr("Play the animation, or pause it")},
+        {tr(", / ."), tr("Go back / on one frame")},
+        {tr("[ / ]"), tr("Go to the previous / next key frame action")},
     };
     QTreeWidget *tree = m_ui->treeControls;
     QTreeWidgetItem *view = addGroup(tree, tr("3D view"));

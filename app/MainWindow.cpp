@@ -190,6 +190,17 @@ void MainWindow::connectPlayback()
     connect(m_ui->viewSkinned, &KVOpenGLWidget::frameShown, track, &AnimTrackFrame::showFrame);
     connect(m_ui->viewSkinned, &KVOpenGLWidget::frameLabelChanged, track, &AnimTrackFrame::showLabel);
     connect(track, &AnimTrackFrame::playbackChanged, m_ui->viewSkinned, &KVOpenGLWidget::playbackChanged);
+    const auto select = [this](const RecordRef &record) {
+        showPane(DocumentType::Anim);
+        pane(DocumentType::Anim).tree->selectRecords({record}, record);
+    };
+    connect(track, &AnimTrackFrame::blockChosen, this, [select](int block) {
+        select({RecordKind::AnimBlock, {block}});
+    });
+    connect(track, &AnimTrackFrame::actionChosen, this, [select](int block, int action) {
+        select({RecordKind::AnimAction, {block, action}});
+    });
+    track->addShortcuts(m_ui->viewSkinnedPanel);
     track->openAnimation(nullptr);
 }
 

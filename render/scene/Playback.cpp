@@ -36,5 +36,5 @@ bool clockRuns(const Playback &state)
 void advanceClock(Playback &state, float dt)
 {
     if (clockRuns(state))
-        state.time += dt;
+        state.time += dt * state.speedFactor;
 }

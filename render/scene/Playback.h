@@ -15,8 +15,9 @@ struct Playback
     const AnimFile *anim = nullptr;
     int blockIndex = 0;
     PlayState playState = PlayState::InitialPose;
-    float time = 0.0f;      ///< seconds
-    bool forceLoop = false; ///< "Force Loop beginning to end"
+    float time = 0.0f;        ///< seconds
+    bool forceLoop = false;   ///< "Force Loop beginning to end"
+    float speedFactor = 1.0f; ///< of the clock: how much faster than the file says
 };
 
 /// The one playback state of the process. GUI thread only.
@@ -33,5 +34,5 @@ const AnimBlock *playableBlock(const Playback &state);
 /// True when the clock of `state` runs: a playable block of two or more frames in state Playing.
 bool clockRuns(const Playback &state);
 
-/// Adds `dt` seconds to the play time when the clock runs.
+/// Adds `dt` seconds, at the speed factor, to the play time when the clock runs.
 void advanceClock(Playback &state, float dt);

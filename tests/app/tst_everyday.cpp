@@ -2,17 +2,23 @@
 // SPDX-License-Identifier: MIT
 #include "CommandPalette.h"
 #include "Hand.h"
+#include "KVTreeView.h"
 #include "MainWindow.h"
+#include "Playback.h"
 #include "RecentFiles.h"
 #include "SampleModels.h"
 #include "TestSupport.h"
+#include "TrackSlider.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QDockWidget>
+#include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QSpinBox>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <QUndoView>
 
@@ -29,6 +35,7 @@ private slots:
     void recentFilesAreOpenedAgain();
     void historyShowsWhatWasSaved();
     void theLayoutIsReset();
+    void theTrackIsSteppedAndMarked();
 
 private:
     template <typename Widget>
@@ -191,6 +198,64 @@ void tst_Everyday::theLayoutIsReset()
     find<QAction>(window, "actionResetLayout")->trigger();
     QVERIFY(!console->isFloating() && console->isVisible());
     QVERIFY(!history->isVisible());
+}
+
+void tst_Everyday::theTrackIsSteppedAndMarked()
+{
+    AnimFile file = twoBlocks();
+    file.blocks[0].actions.resize(4);
+    const int frames[] = {7, 2, 7, 50};
+    for (size_t i = 0; i < 4; ++i)
+        file.blocks[0].actions[i].frame = quint16(frames[i]);
+    file.blocks[0].actions[1].eventType = 30;
+    const QString anim = m_files->filePath(QStringLiteral("a.anim"));
+    QVERIFY(!file.write(anim));
+    Settings::AnimationAutoPlay.setValue(false);
+    MainWindow window;
+    window.show();
+    window.openFiles({write(QStringLiteral("a.skinnedmesh")), anim});
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QApplication::setActiveWindow(&window);
+    auto *slider = find<TrackSlider>(window, "sliderAnimTrack");
+    auto *view = find<QWidget>(window, "viewSkinned");
+    view->setFocus();
+
+    const auto press = [&](char key) { QTest::keyClick(view, key); };
+    press(']');
+    QCOMPARE(slider->value(), 2);
+    QCOMPARE(playback().playState, PlayState::Paused);
+    QCOMPARE(playback().time, 0.2f);
+    press(']');
+    press('.');
+    QCOMPARE(slider->value(), 8);
+    press(']');
+    QCOMPARE(slider->value(), 8);
+    press(',');
+    press('[');
+    QCOMPARE(slider->value(), 2);
+    press(' ');
+    QCOMPARE(playback().playState, PlayState::Playing);
+    press(' ');
+    QCOMPARE(playback().playState, PlayState::Paused);
+
+    find<QDoubleSpinBox>(window, "sbAnimTrackSpeed")->setValue(2.5);
+    Playback state = playback();
+    state.playState = PlayState::Playing;
+    state.time = 0.0f;
+    advanceClock(state, 0.1f);
+    QCOMPARE(state.time, 0.25f);
+
+    QTest::mouseDClick(slider, Qt::LeftButton, {}, {slider->xOf(7), slider->height() / 2});
+    auto *tree = find<KVTreeView>(window, "treeAnim");
+    QCOMPARE(tree->currentRecord(), (RecordRef{RecordKind::AnimAction, {0, 0}}));
+
+    auto *blocks = find<QComboBox>(window, "cbAnimTrackBlock");
+    QCOMPARE(blocks->count(), 2);
+    blocks->setFocus();
+    QTest::keyClick(blocks, Qt::Key_Down);
+    QCOMPARE(tree->currentRecord(), (RecordRef{RecordKind::AnimBlock, {1}}));
+    QCOMPARE(playback().blockIndex, 1);
+    QVERIFY(!find<QToolButton>(window, "btnAnimTrackMarkBack")->isEnabled());
 }
 
 QTEST_MAIN(tst_Everyday)

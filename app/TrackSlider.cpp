@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "TrackSlider.h"
+
+#include "AnimFile.h"
+#include "EventArguments.h"
+#include "NameTables.h"
+
+#include <QCoreApplication>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyleOptionSlider>
+#include <QToolTip>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+constexpr int MarkHeight = 5;
+constexpr int Reach = 4; ///< pixels to either side of a mark that belong to it
+
+/// "Action 2: 00: Play Sound, Sound ID 10": the arguments that mean something or are set.
+QString textOf(int index, const AnimAction &action)
+{
+    const auto tr = [](const char *text) { return QCoreApplication::translate("TrackSlider", text); };
+    QString text = tr("Action %1: %2")
+                       .arg(index)
+                       .arg(eventTypeNames().value(action.eventType, QString::number(action.eventType)));
+    for (int i = 0; i < int(action.args.size()); ++i) {
+        const char *label = eventArgument(action.eventType, i).label;
+        const float value = action.args[size_t(i)];
+        if (!label && value == 0.0f)
+            continue;
+        const QString name =
+            label ? QCoreApplication::translate("EventArguments", label) : tr("Arg %1").arg(i + 1);
+        text += QStringLiteral(", %1 %2").arg(name).arg(double(value));
+    }
+    return text;
+}
+} // namespace
+
+TrackSlider::TrackSlider(QWidget *parent)
+    : QSlider(parent)
+{}
+
+void TrackSlider::setActions(const AnimBlock *block)
+{
+    m_marks.clear();
+    const int count = block ? int(block->actions.size()) : 0;
+    for (int i = 0; i < count; ++i) {
+        const AnimAction &action = block->actions[size_t(i)];
+        if (action.frame < block->frameCount())
+            m_marks.append({action.frame, i, textOf(i, action)});
+    }
+    std::stable_sort(m_marks.begin(), m_marks.end(),
+                     [](const Mark &a, const Mark &b) { return a.frame < b.frame; });
+    // Actions of one frame share a mark.
+    QVector<Mark> merged;
+    for (const Mark &mark : qAsConst(m_marks)) {
+        if (merged.isEmpty() || merged.last().frame != mark.frame)
+            merged.append(mark);
+        else
+            merged.last().text += QLatin1Char('\n') + mark.text;
+    }
+    m_marks = merged;
+    update();
+}
+
+int TrackSlider::markedFrame(int frame, int direction) const
+{
+    int nearest = -1;
+    for (const Mark &mark : m_marks) {
+        if (direction < 0 && mark.frame < frame)
+            nearest = mark.frame;
+        else if (direction > 0 && mark.frame > frame)
+            return mark.frame;
+    }
+    return nearest;
+}
+
+int TrackSlider::xOf(int frame) const
+{
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    const QRect groove = style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, this);
+    const int handle =
+        style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this).width();
+    return groove.x() + handle / 2 +
+           QStyle::sliderPositionFromValue(minimum(), maximum(), frame, groove.width() - handle,
+                                           option.upsideDown);
+}
+
+const TrackSlider::Mark *TrackSlider::markAt(int x) const
+{
+    const Mark *nearest = nullptr;
+    int distance = Reach + 1;
+    for (const Mark &mark : m_marks) {
+        const int away = std::abs(xOf(mark.frame) - x);
+        if (away < distance) {
+            nearest = &mark;
+            distance = away;
+        }
+    }
+    return nearest;
+}
+
+bool TrackSlider::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto *help = static_cast<QHelpEvent *>(event);
+        if (const Mark *mark = markAt(help->pos().x())) {
+            QToolTip::showText(help->globalPos(), tr("Frame %1\n%2").arg(mark->frame).arg(mark->text), this);
+            return true;
+        }
+    }
+    return QSlider::event(event);
+}
+
+void TrackSlider::paintEvent(QPaintEvent *event)
+{
+    QSlider::paintEvent(event);
+    QPainter painter(this);
+    const QColor color =
+        palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::Highlight);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    // Small triangles that point down to their frames.
+    for (const Mark &mark : qAsConst(m_marks)) {
+        const double x = xOf(mark.frame) + 0.5;
+        painter.drawPolygon(QPolygonF({{x - 3.5, 0.0}, {x + 3.5, 0.0}, {x, double(MarkHeight)}}));
+    }
+}
+
+void TrackSlider::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    const Mark *mark = markAt(event->pos().x());
+    if (mark && event->button() == Qt::LeftButton)
+        emit actionChosen(mark->action);
+    else
+        QSlider::mouseDoubleClickEvent(event);
+}

@@ -46,12 +46,18 @@ void checkMaterials(FindingCollector &found, const QStringList &materialPaths, R
         const RecordRef place{surfaceKind, {s, 0, 0}};
         const MaterialFiles::Lookup material = files.find(path);
         if (!material.error.isEmpty()) {
+            const QStringList tried = files.candidates(QFileInfo(path).path() + QStringLiteral(".kmat"));
+            const bool isThere = std::any_of(tried.begin(), tried.end(),
+                                             [](const QString &each) { return QFileInfo::exists(each); });
             found.add(Rule::MaterialNotFound, place, [&] {
-                return Texts::tr("Surface %1 is drawn white: the file of its material '%2' cannot be read "
-                                 "(%3). Tried: %4. Correct the surface's material path, or put the file "
-                                 "into one of these places.")
-                    .arg(surface, path, material.error,
-                         list(files.candidates(QFileInfo(path).path() + QStringLiteral(".kmat"))));
+                return isThere
+                           ? Texts::tr("Surface %1 is drawn white: the file of its material '%2' cannot be "
+                                       "read. %3")
+                                 .arg(surface, path, material.error)
+                           : Texts::tr("Surface %1 is drawn white: there is no file of its material '%2'. "
+                                       "Tried: %3. Correct the surface's material path, or put the file "
+                                       "into one of these places.")
+                                 .arg(surface, path, list(tried));
             });
         } else if (!material.warning.isEmpty()) {
             found.add(Rule::MaterialNotFound, place, [&] {

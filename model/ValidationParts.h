@@ -83,6 +83,9 @@ inline constexpr const char *offset = QT_TRANSLATE_NOOP("Validation", "offset");
 inline constexpr const char *arguments = QT_TRANSLATE_NOOP("Validation", "arguments");
 } // namespace Field
 
+/// How a sentence begins that is about the record: "Vertex 12".
+QString recordName(const RecordRef &place);
+
 /// Adds a finding for a record some of whose fields (name, value) hold what is no number.
 template <typename... Fields>
 void checkFinite(FindingCollector &found, const RecordRef &place, const Fields &...fields)
@@ -92,9 +95,10 @@ void checkFinite(FindingCollector &found, const RecordRef &place, const Fields &
     found.add(Rule::NotFinite, place, [&] {
         QStringList names;
         ((isFinite(fields.second) ? void() : void(names << Texts::tr(fields.first))), ...);
-        return Texts::tr("Not a number or infinite: %1. Whatever is computed from it is lost, so the part "
-                         "vanishes or tears in the game and in the view. Enter a proper number.")
-            .arg(names.join(QLatin1String(", ")));
+        return Texts::tr(
+                   "%1 holds what is no number, or infinite, as %2. Whatever is computed from it is lost: "
+                   "the part vanishes or tears. Enter a proper number.")
+            .arg(recordName(place), names.join(QLatin1String(", ")));
     });
 }
 

@@ -45,9 +45,11 @@ private:
 
     struct Bone
     {
-        size_t entries = 0;  ///< of child lists that name it
-        size_t above = None; ///< the bone whose list it was reached through
-        size_t left = 0;     ///< entries of its own list that are still to be walked
+        size_t entries = 0;         ///< of child lists that name it
+        size_t entriesOfParent = 0; ///< those of the bone that it names as its parent
+        size_t above = None;        ///< the bone whose list it was reached through
+        size_t aboveEntry = 0;      ///< and the entry
+        size_t left = 0;            ///< entries of its own list that are still to be walked
         bool visited = false;
         bool onPath = false;
         bool reached = false; ///< from bone 0
@@ -61,6 +63,7 @@ private:
                 const quint16 child = children[i];
                 if (child < m_bones.size()) {
                     ++m_bones[child].entries;
+                    m_bones[child].entriesOfParent += m_mesh.nodes[child].parentNode == b;
                     continue;
                 }
                 m_found.add(Rule::ChildBoneOutOfRange, entry(b, i), true, [&] {
@@ -72,18 +75,19 @@ private:
         }
     }
 
-    void enter(size_t b, size_t above)
+    void enter(size_t b, size_t above, size_t aboveEntry)
     {
         Bone &bone = m_bones[b];
         bone.visited = bone.onPath = true;
         bone.above = above;
+        bone.aboveEntry = aboveEntry;
         bone.left = m_mesh.nodes[b].childNodes.size();
         m_path.push_back(b);
     }
 
     void walk(size_t top)
     {
-        enter(top, None);
+        enter(top, None, 0);
         while (!m_path.empty()) {
             const size_t b = m_path.back();
             if (m_bones[b].left == 0) {
@@ -96,27 +100,38 @@ private:
             if (child >= m_bones.size())
                 continue;
             if (!m_bones[child].visited) {
-                enter(child, b);
+                enter(child, b, i);
             } else if (m_bones[child].onPath) {
                 m_found.add(Rule::BoneCycle, entry(b, i), true, [&] {
-                    return Texts::tr(
-                               "Bone %1 lists bone %2 as a child, which stands above it: the hierarchy "
-                               "goes in a circle. The view ignores the entry; the game may hang. Fixing "
-                               "it removes the entry.")
-                        .arg(b)
-                        .arg(child);
+                    const QString text =
+                        child == b ? Texts::tr("Bone %1 lists itself as a child.").arg(b)
+                                   : Texts::tr("Bone %1 lists bone %2 as a child, but hangs on it itself.")
+                                         .arg(b)
+                                         .arg(child);
+                    return text + QLatin1Char(' ') +
+                           Texts::tr("The hierarchy goes in a circle: the view ignores the entry; the game "
+                                     "may hang. Fixing it removes the entry.");
                 });
             } else {
-                m_found.add(Rule::BoneListedTwice, entry(b, i), true, [&] {
-                    return Texts::tr(
-                               "Bone %1 lists bone %2 as a child, which another entry lists too. A bone "
-                               "moves with one parent only, and here the other entry counts. Fixing it "
-                               "removes this one.")
-                        .arg(b)
-                        .arg(child);
-                });
+                addListedTwice(b, i, child);
             }
         }
+    }
+
+    /// A bone that was reached already is listed once more. The entry too many is this one, unless just this
+    /// one is in the list of the bone that the child itself names.
+    void addListedTwice(size_t b, size_t i, size_t child)
+    {
+        const Bone &bone = m_bones[child];
+        const bool isParents = bone.entriesOfParent == 1 && m_mesh.nodes[child].parentNode == b;
+        const size_t surplus = isParents ? bone.above : b;
+        m_found.add(Rule::BoneListedTwice, entry(surplus, isParents ? bone.aboveEntry : i), true, [&] {
+            return Texts::tr(
+                       "Bone %1 lists bone %2 as a child, which another entry lists too, but a bone can "
+                       "move with one parent only. Fixing it removes this entry.")
+                .arg(surplus)
+                .arg(child);
+        });
     }
 
     void addUnreachable(size_t b, bool isTop)
@@ -197,7 +212,7 @@ void checkHeadTrack(FindingCollector &found, const SkinnedMesh &mesh)
     found.add(Rule::HeadTrackOutOfRange, {RecordKind::SkinnedMesh, {}}, [&] {
         return Texts::tr(
                    "The head track goes from bone %1 to bone %2, which do not both exist (%3): the head "
-                   "cannot follow the player. Enter the first and the last bone of the neck.")
+                   "cannot be turned. Enter the bones that it turns with.")
             .arg(number(mesh.headTrackStart), number(mesh.headTrackEnd), range(bones));
     });
 }

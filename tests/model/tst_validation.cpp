@@ -246,8 +246,9 @@ void tst_Validation::withoutTablesNoNumberIsUnknown()
     QVERIFY(validate(file, nullptr, {}).empty());
     ReferenceIds own;
     own.insert(ReferenceKind::Sounds, 9999);
-    const std::vector<Finding> found = validate(file, nullptr, own);
-    QVERIFY(!found.empty() && !(found.back().place == RecordRef{RecordKind::AnimAction, {0, 2, 0}}));
+    // The own action is known now, what else the animation names is not.
+    for (const Finding &finding : validate(file, nullptr, own))
+        QVERIFY(finding.place != (RecordRef{RecordKind::AnimAction, {0, 2, 0}}));
 }
 
 void tst_Validation::animationsOfAnotherMesh()

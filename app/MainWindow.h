@@ -16,6 +16,7 @@ class DocumentFiles;
 class ImportExport;
 class KVOpenGLWidget;
 class ModelTransforms;
+class Problems;
 
 namespace Ui {
 class MainWindow;
@@ -68,6 +69,7 @@ private:
     void createViewToolBars();
     void readSettings();
     void connectPlayback();
+    void createProblems();
     void createPrompts();
 
     /// The kind whose document the actions act on; none on a tab without one.
@@ -75,6 +77,7 @@ private:
     DocumentPane &pane(DocumentType type) { return m_panes[size_t(type)]; }
     std::array<KVOpenGLWidget *, 2> viewports() const;
     void showPane(DocumentType type);
+    void showRecord(DocumentType type, const RecordRef &record);
     void importFile(const QString &path);
     Document *currentDocument();
     void updateCurrentDocument();
@@ -93,6 +96,7 @@ private:
     DocumentFiles *m_files;
     ModelTransforms *m_transforms;
     ImportExport *m_importExport;
+    Problems *m_problems;
     DocumentPanes m_panes{};
     bool m_askedForFolders = false;
     QString m_readOut; ///< the camera position that the status bar shows

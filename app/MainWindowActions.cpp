@@ -11,6 +11,7 @@
 #include "ImportExport.h"
 #include "ModelTransforms.h"
 #include "OptionsDialog.h"
+#include "Problems.h"
 #include "ui_MainWindow.h"
 
 #include <QDir>
@@ -120,6 +121,7 @@ void MainWindow::on_actionPreferences_triggered()
     // Textures are looked up in these folders.
     for (KVOpenGLWidget *viewport : viewports())
         viewport->rebuildModel();
+    m_problems->recheck();
 }
 
 void MainWindow::on_actionControls_triggered()

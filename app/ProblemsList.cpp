@@ -156,6 +156,7 @@ void ProblemsList::setProblems(const QList<QTreeWidgetItem *> &items)
 void ProblemsList::setEmptyText(const QString &text)
 {
     m_emptyText = text;
+    setAccessibleDescription(text);
     viewport()->update();
 }
 

@@ -107,7 +107,7 @@ void ProblemsDock::createActions()
     m_list->setContextMenuPolicy(Qt::ActionsContextMenu);
     m_show = addAction("actionProblemShow", tr("&Show"), "search", &ProblemsDock::showCurrent);
     m_repair = addAction("actionProblemFix", tr("&Fix"), "checkmark", &ProblemsDock::repairSelected);
-    m_repair->setShortcut(Qt::CTRL + Qt::Key_Period);
+    m_repair->setShortcut(QKeySequence(QStringLiteral("Ctrl+.")));
     m_repair->setToolTip(tr("Repair what is selected, where there is only one way to do it (Ctrl+.)"));
     m_repairAll = addAction("actionProblemFixAll", tr("Fix &All of This Kind"), "checkmark",
                             &ProblemsDock::repairAllOfKind);

@@ -22,7 +22,7 @@ void setDefaultLayout(QMainWindow &window)
     auto *console = window.findChild<QDockWidget *>(QStringLiteral("dockConsole"));
     window.tabifyDockWidget(console, window.findChild<QDockWidget *>(QStringLiteral("dockProblems")));
     console->raise();
-    window.resizeDocks({console}, {150}, Qt::Vertical);
+    window.resizeDocks({console}, {200}, Qt::Vertical);
 }
 
 void storeLayout(const QMainWindow &window)

@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QStyledItemDelegate>
 
+#include <algorithm>
 #include <tuple>
 
 namespace {
@@ -117,13 +118,30 @@ ProblemsList::ProblemsList(QWidget *parent)
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setSortingEnabled(true);
     sortByColumn(ProblemItem::SeverityColumn, Qt::AscendingOrder);
-    header()->setStretchLastSection(true);
+    header()->setStretchLastSection(false);
     const int letter = fontMetrics().averageCharWidth();
     for (const auto &[column, letters] : {std::pair(ProblemItem::SeverityColumn, 14),
                                           {ProblemItem::DocumentColumn, 24},
                                           {ProblemItem::PlaceColumn, 34}})
         setColumnWidth(column, letters * letter);
-    connect(header(), &QHeaderView::sectionResized, this, [this] { scheduleDelayedItemsLayout(); });
+    connect(header(), &QHeaderView::sectionResized, this, [this](int column) {
+        if (column != ProblemItem::TextColumn)
+            stretchSentences();
+        scheduleDelayedItemsLayout();
+    });
+}
+
+void ProblemsList::stretchSentences()
+{
+    const int least = 50 * fontMetrics().averageCharWidth();
+    const int left = viewport()->width() - header()->sectionPosition(ProblemItem::TextColumn);
+    setColumnWidth(ProblemItem::TextColumn, std::max(least, left));
+}
+
+void ProblemsList::resizeEvent(QResizeEvent *event)
+{
+    QTreeWidget::resizeEvent(event);
+    stretchSentences();
 }
 
 QList<ProblemItem *> ProblemsList::selectedProblems() const

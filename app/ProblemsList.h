@@ -44,7 +44,11 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    /// Gives the sentences what the other columns leave, but never so little that a row grows out of sight.
+    void stretchSentences();
+
     QString m_emptyText;
 };

@@ -147,6 +147,17 @@ void DatabaseTab::reload()
             0, std::max(page.table->columnWidth(0), 8 * fontMetrics().averageCharWidth()));
         applyFilter(page);
     }
+    emit reloaded();
+}
+
+ReferenceIds DatabaseTab::ids() const
+{
+    ReferenceIds ids;
+    for (const ReferenceKind kind : referenceKinds) {
+        for (int row = 0; row < table(kind)->rowCount(); ++row)
+            ids.insert(kind, table(kind)->item(row, 0)->data(Qt::UserRole).toInt());
+    }
+    return ids;
 }
 
 void DatabaseTab::applyFilter(const Page &page)

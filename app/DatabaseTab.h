@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ReferenceTable.h"
+#include "ReferenceIds.h"
 
 #include <QWidget>
 
@@ -24,9 +24,13 @@ public:
     /// Loads all tables anew, each from its overriding file if there is one.
     void reload();
 
+    /// The numbers that the tables have a name for.
+    ReferenceIds ids() const;
+
     const QTableWidget *table(ReferenceKind kind) const { return m_pages[size_t(kind)].table; }
 
 signals:
+    void reloaded();
     /// A short word to the user about what was just done.
     void told(const QString &text);
 

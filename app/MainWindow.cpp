@@ -13,6 +13,8 @@
 #include "ImportFilter.h"
 #include "ModelTransforms.h"
 #include "Playback.h"
+#include "Problems.h"
+#include "ProblemsButton.h"
 #include "PropertyPages.h"
 #include "QuestionMenu.h"
 #include "RecentFiles.h"
@@ -47,10 +49,12 @@ MainWindow::MainWindow(QWidget *parent)
     , m_transforms(new ModelTransforms(
           m_skinnedMesh, m_staticMesh, [this] { return currentDocument(); }, this))
     , m_importExport(new ImportExport(m_skinnedMesh, m_anim, m_staticMesh, *m_files, this))
+    , m_problems(new Problems(m_skinnedMesh, m_anim, m_staticMesh, this))
 {
     m_ui->setupUi(this);
     createConsole();
     createPanes();
+    createProblems();
     createViewToolBars();
     readSettings();
     addUndoActions(m_undoGroup, *m_ui->menuEdit, *m_ui->toolBarEdit);
@@ -59,7 +63,8 @@ MainWindow::MainWindow(QWidget *parent)
     new QuestionMenu(*m_ui->tabDatabase, this);
     m_ui->menuView->addSeparator();
     m_ui->menuView->addActions({m_ui->toolBarFile->toggleViewAction(), m_ui->toolBarEdit->toggleViewAction(),
-                                m_ui->dockConsole->toggleViewAction(), m_ui->dockHistory->toggleViewAction(),
+                                m_ui->dockConsole->toggleViewAction(), m_ui->dockProblems->toggleViewAction(),
+                                m_ui->dockHistory->toggleViewAction(),
                                 m_ui->dockServers->toggleViewAction()});
     m_ui->dockServers->setQueryAction(m_ui->actionQueryServers);
     m_ui->viewHistory->setGroup(&m_undoGroup);
@@ -161,6 +166,16 @@ void MainWindow::createPanes()
     connect(new FileDrop(this), &FileDrop::dropped, this, &MainWindow::openFiles);
 }
 
+void MainWindow::createProblems()
+{
+    const auto takeIds = [this] { m_problems->setReferenceIds(m_ui->tabDatabase->ids()); };
+    connect(m_ui->tabDatabase, &DatabaseTab::reloaded, this, takeIds);
+    takeIds();
+    m_ui->dockProblems->setProblems(m_problems, m_panes);
+    connect(m_ui->dockProblems, &ProblemsDock::activated, this, &MainWindow::showRecord);
+    m_ui->statusBar->insertPermanentWidget(0, new ProblemsButton(*m_problems, *m_ui->dockProblems, this));
+}
+
 void MainWindow::createViewToolBars()
 {
     const ViewActions actions{m_ui->actionGround, m_ui->actionTransGizmo, m_ui->actionCullBack,
@@ -240,6 +255,17 @@ void MainWindow::showPane(DocumentType type)
     m_ui->tabWidget->setCurrentWidget(type == DocumentType::StaticMesh ? m_ui->tabStatic : m_ui->tabSkinned);
     if (type != DocumentType::StaticMesh)
         m_ui->tabTrees->setCurrentIndex(type == DocumentType::SkinnedMesh ? 0 : 1);
+}
+
+void MainWindow::showRecord(DocumentType type, const RecordRef &record)
+{
+    showPane(type);
+    KVTreeView *tree = pane(type).tree;
+    tree->selectRecords({record}, record);
+    tree->setFocus();
+    if (tree->currentRecord() != record)
+        statusBar()->showMessage(tr("The tree leaves such records out. The options can make it show them."),
+                                 5000);
 }
 
 void MainWindow::openFiles(const QStringList &paths)

@@ -16,6 +16,7 @@ class DocumentFiles;
 class ImportExport;
 class KVOpenGLWidget;
 class ModelTransforms;
+class Problems;
 
 namespace Ui {
 class MainWindow;
@@ -71,6 +72,7 @@ private:
     void createViewToolBars();
     void readSettings();
     void connectPlayback();
+    void createProblems();
     void createPrompts();
 
     /// The kind whose document the actions act on; none on a tab without one.
@@ -78,6 +80,7 @@ private:
     DocumentPane &pane(DocumentType type) { return m_panes[size_t(type)]; }
     std::array<KVOpenGLWidget *, 2> viewports() const;
     void showPane(DocumentType type);
+    void showRecord(DocumentType type, const RecordRef &record);
     void importFile(const QString &path);
     Document *currentDocument();
     void updateCurrentDocument();
@@ -96,6 +99,7 @@ private:
     DocumentFiles *m_files;
     ModelTransforms *m_transforms;
     ImportExport *m_importExport;
+    Problems *m_problems;
     DocumentPanes m_panes{};
     QByteArray m_defaultLayout; ///< of docks and tool bars
     bool m_askedForFolders = false;

@@ -14,6 +14,7 @@
 #include "KVTreeView.h"
 #include "ModelTransforms.h"
 #include "OptionsDialog.h"
+#include "Problems.h"
 #include "WindowLayout.h"
 #include "ui_MainWindow.h"
 
@@ -146,6 +147,7 @@ void MainWindow::on_actionPreferences_triggered()
     // Textures are looked up in these folders.
     for (KVOpenGLWidget *viewport : viewports())
         viewport->rebuildModel();
+    m_problems->recheck();
 }
 
 void MainWindow::on_actionControls_triggered()

@@ -19,7 +19,10 @@ void setDefaultLayout(QMainWindow &window)
         splitter(name)->setStretchFactor(1, 1);
         splitter(name)->setSizes({230, 800, 400});
     }
-    window.resizeDocks({window.findChild<QDockWidget *>(QStringLiteral("dockConsole"))}, {110}, Qt::Vertical);
+    auto *console = window.findChild<QDockWidget *>(QStringLiteral("dockConsole"));
+    window.tabifyDockWidget(console, window.findChild<QDockWidget *>(QStringLiteral("dockProblems")));
+    console->raise();
+    window.resizeDocks({console}, {200}, Qt::Vertical);
 }
 
 void storeLayout(const QMainWindow &window)

@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "Problems.h"
+
+#include "Repairs.h"
+#include "Settings.h"
+#include "Validation.h"
+
+#include <QGuiApplication>
+#include <QSet>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+Problems::Problems(SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticMeshDocument &staticMesh,
+                   QObject *parent)
+    : QObject(parent)
+    , m_skinnedMesh(skinnedMesh)
+    , m_anim(anim)
+    , m_staticMesh(staticMesh)
+    , m_documents{&skinnedMesh, &anim, &staticMesh}
+{
+    m_delay.setSingleShot(true);
+    m_delay.setInterval(DelayMs);
+    connect(&m_delay, &QTimer::timeout, this, &Problems::check);
+    for (const DocumentKind &kind : documentKinds()) {
+        const DocumentType type = kind.type;
+        connect(&document(type), &Document::replaced, this, [this, type] {
+            // They name records of the model that went.
+            m_findings[size_t(type)].clear();
+            emit changed();
+            markChanged(type);
+        });
+        connect(&document(type), &Document::recordsChanged, this, [this, type] { markChanged(type); });
+        connect(&document(type), &Document::structuresChanged, this, [this, type] { markChanged(type); });
+        // The document's name may be another one.
+        connect(&document(type), &Document::saved, this, &Problems::changed);
+    }
+    // Whoever comes back from a file manager may have put the missing texture into its place.
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+        if (state == Qt::ApplicationActive)
+            recheck();
+    });
+}
+
+qint64 Problems::count(Severity severity) const
+{
+    qint64 number = 0;
+    for (const std::vector<Finding> &findings : m_findings) {
+        for (const Finding &finding : findings) {
+            if (severityOf(finding.rule) == severity)
+                number += std::max<qint64>(finding.notListed, 1);
+        }
+    }
+    return number;
+}
+
+void Problems::setReferenceIds(const ReferenceIds &ids)
+{
+    m_ids = ids;
+    markChanged(DocumentType::Anim);
+}
+
+void Problems::recheck()
+{
+    m_isStale.fill(true);
+    m_delay.start();
+}
+
+void Problems::markChanged(DocumentType type)
+{
+    m_isStale[size_t(type)] = true;
+    if (type == DocumentType::SkinnedMesh)
+        m_isStale[size_t(DocumentType::Anim)] = true; // which has to fit it
+    m_delay.start();
+}
+
+void Problems::check()
+{
+    m_delay.stop();
+    for (const DocumentKind &kind : documentKinds()) {
+        if (std::exchange(m_isStale[size_t(kind.type)], false))
+            m_findings[size_t(kind.type)] = findingsNow(kind.type);
+    }
+    emit changed();
+}
+
+std::vector<Finding> Problems::findingsNow(DocumentType type) const
+{
+    if (!document(type).isOpen())
+        return {};
+    const MaterialFolders folders{Settings::GamePath.value(), Settings::OutputDir.value()};
+    switch (type) {
+    case DocumentType::SkinnedMesh:
+        return validate(m_skinnedMesh.model(), folders);
+    case DocumentType::Anim:
+        return validate(m_anim.model(),
+                        m_skinnedMesh.isOpen() ? &std::as_const(m_skinnedMesh).model() : nullptr, m_ids);
+    case DocumentType::StaticMesh:
+        break;
+    }
+    return validate(m_staticMesh.model(), folders);
+}
+
+std::vector<RecordRef> Problems::repairable(DocumentType type, Rule rule) const
+{
+    switch (type) {
+    case DocumentType::SkinnedMesh:
+        return repairablePlaces(rule, m_skinnedMesh.model(), MostRepairs);
+    case DocumentType::Anim:
+        return repairablePlaces(rule, m_anim.model(), MostRepairs);
+    case DocumentType::StaticMesh:
+        break; // nothing that leaves no choice
+    }
+    return {};
+}
+
+void Problems::repairPlaces(DocumentType type, Rule rule, const QVector<RecordRef> &places)
+{
+    // The list may be a moment behind the model.
+    const QSet<RecordRef> wanted(places.begin(), places.end());
+    const std::vector<RecordRef> now = repairable(type, rule);
+    std::vector<RecordRef> both;
+    std::copy_if(now.begin(), now.end(), std::back_inserter(both),
+                 [&wanted](const RecordRef &place) { return wanted.contains(place); });
+    repairNow(type, rule, both);
+}
+
+void Problems::repairAll(DocumentType type, Rule rule)
+{
+    repairNow(type, rule, repairable(type, rule));
+}
+
+void Problems::repairNow(DocumentType type, Rule rule, const std::vector<RecordRef> &places)
+{
+    if (type == DocumentType::SkinnedMesh)
+        repair(rule, places, m_skinnedMesh.editTarget(), *m_skinnedMesh.undoStack());
+    else if (type == DocumentType::Anim)
+        repair(rule, places, m_anim.editTarget(), *m_anim.undoStack());
+    check();
+}

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "DocumentKind.h"
+#include "Finding.h"
+
+#include <QTreeWidget>
+
+/// One row of the list of problems.
+class ProblemItem : public QTreeWidgetItem
+{
+public:
+    enum Column { SeverityColumn, DocumentColumn, PlaceColumn, TextColumn, ColumnCount };
+
+    ProblemItem(DocumentType type, const Finding &finding, const QString &document, const QString &place);
+
+    DocumentType type() const { return m_type; }
+    const Finding &finding() const { return m_finding; }
+    bool isAbout(const ProblemItem &other) const;
+
+    /// By the column that the list is sorted by; what is equal there stays in the order of the checks.
+    bool operator<(const QTreeWidgetItem &other) const override;
+
+private:
+    DocumentType m_type;
+    Finding m_finding;
+};
+
+/// The rows of the list of problems, with their sentences in full: they are broken into lines.
+class ProblemsList : public QTreeWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ProblemsList(QWidget *parent = nullptr);
+
+    ProblemItem *currentProblem() const { return static_cast<ProblemItem *>(currentItem()); }
+    QList<ProblemItem *> selectedProblems() const;
+    /// Puts other rows into the list; the current one stays current where it is still there.
+    void setProblems(const QList<QTreeWidgetItem *> &items);
+    /// What stands in the list while it is empty.
+    void setEmptyText(const QString &text);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    /// Gives the sentences what the other columns leave, but never so little that a row grows out of sight.
+    void stretchSentences();
+
+    QString m_emptyText;
+};

@@ -8,6 +8,7 @@
 #include "Journal.h"
 #include "MainWindow.h"
 #include "Playground.h"
+#include "Settings.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -25,7 +26,8 @@
 
 namespace {
 constexpr int StepsBetweenChecks = 25;
-/// How many steps a dialog, a menu gets before it is closed; twice as many before that counts as a fault.
+/// How many steps a dialog, a menu gets at most before it is closed. A dialog that is still there after as
+/// many attempts is a fault.
 constexpr int MostStepsInDialog = 25;
 constexpr int MostStepsInPopup = 6;
 } // namespace
@@ -48,7 +50,8 @@ void Monkey::countLink(const QUrl &)
 
 void Monkey::run()
 {
-    openWindow();
+    Dice dice(m_generator());
+    openWindow(dice);
     QTimer::singleShot(0, this, &Monkey::tick);
     QApplication::exec();
 }
@@ -91,7 +94,7 @@ void Monkey::act()
         // An event loop without a dialog: one that a dialog has just left, or a drag.
         Hands::pressKey(m_window.get(), Qt::Key_Escape, Qt::NoModifier);
     else if (!m_window->isVisible())
-        openWindow();
+        openWindow(dice);
     else if (m_step % StepsBetweenChecks == 0)
         check();
     else
@@ -111,13 +114,17 @@ void Monkey::leave()
     }
 }
 
-void Monkey::openWindow()
+void Monkey::openWindow(Dice &dice)
 {
     say(QStringLiteral("open the window"));
     closeWindow();
     m_playground.storeSettings();
+    for (const auto *key : {&Settings::HideMeshData, &Settings::HideAnimData, &Settings::BackCull,
+                            &Settings::ShowGround, &Settings::ShowAxisGizmo, &Settings::AnimationAutoPlay})
+        key->setValue(dice.chance(50));
     m_window = std::make_unique<MainWindow>();
     m_checks = std::make_unique<Checks>(*m_window);
+    m_window->resize(1100, 750);
     m_window->show();
     m_window->activateWindow();
     // The program asks for its folders soon, and offers what it kept.
@@ -156,8 +163,13 @@ void Monkey::actInPopup(QWidget *popup, Dice &dice)
     }
     const int kind = dice.below(10);
     auto *menu = qobject_cast<QMenu *>(popup);
-    if (menu && kind < 6 && !menu->actions().isEmpty()) {
-        QAction *action = dice.pick(menu->actions());
+    QVector<QAction *> offered;
+    for (QAction *each : menu ? menu->actions() : QList<QAction *>()) {
+        if (each->isVisible() && !each->isSeparator() && (each->isEnabled() || dice.chance(20)))
+            offered.append(each);
+    }
+    if (kind < 6 && !offered.isEmpty()) {
+        QAction *action = dice.pick(offered);
         say(QStringLiteral("choose '%1' in the menu").arg(action->text()));
         Hands::click(menu, menu->actionGeometry(action).center(), Qt::LeftButton, Qt::NoModifier, false);
     } else if (kind < 6) {
@@ -210,10 +222,12 @@ void Monkey::actInDialog(QDialog *dialog, Dice &dice)
         pressKey(dialog, dice);
     else if (kind < 90)
         drag(dialog, dice);
-    else if (kind < 95)
+    else if (kind < 94)
         typeText(dialog, dice);
-    else
+    else if (kind < 97)
         turnWheel(dialog, dice);
+    else
+        tamper(dice); // other programs do not wait
 }
 
 void Monkey::endDialog(QDialog *dialog, Dice &dice)

@@ -50,7 +50,7 @@ private:
     void tick();
     void act();
     void leave();
-    void openWindow();
+    void openWindow(Dice &dice);
     void closeWindow();
     void check();
 

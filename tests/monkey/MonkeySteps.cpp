@@ -8,6 +8,7 @@
 #include "KVTreeView.h"
 #include "MainWindow.h"
 #include "Monkey.h"
+#include "PageStack.h"
 #include "Playground.h"
 
 #include <QAbstractButton>
@@ -18,10 +19,8 @@
 #include <QComboBox>
 #include <QDockWidget>
 #include <QFileInfo>
-#include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QScreen>
+#include <QSlider>
 #include <QTabBar>
 #include <QToolBar>
 #include <QTreeWidget>
@@ -99,7 +98,7 @@ void Monkey::actInWindow(Dice &dice)
         {6, [&] { triggerTreeAction(dice); }},
         {5, [&] { undoOrRedo(dice); }},
         {4, [&] { openFile(dice); }},
-        {1, [&] { tamper(dice); }},
+        {2, [&] { tamper(dice); }},
         {2, [&] { resize(dice); }},
         {1, [&] { moveDock(dice); }},
         {3, [&] { playAndWait(dice); }},
@@ -221,13 +220,16 @@ void Monkey::typeText(QWidget *arena, Dice &dice)
 void Monkey::edit(QWidget *arena, Dice &dice)
 {
     QVector<QWidget *> editors;
-    for (QWidget *each : Hands::usable(arena)) {
+    // The pages of the records, mostly.
+    const auto pages = Hands::usable<PageStack>(arena);
+    QWidget *place = pages.isEmpty() || dice.chance(30) ? arena : pages.first();
+    for (QWidget *each : Hands::usable(place)) {
         const bool isPart =
             qobject_cast<QLineEdit *>(each) && (qobject_cast<QAbstractSpinBox *>(each->parentWidget()) ||
                                                 qobject_cast<QComboBox *>(each->parentWidget()));
         if (!isPart && (qobject_cast<QAbstractSpinBox *>(each) || qobject_cast<QComboBox *>(each) ||
                         qobject_cast<QLineEdit *>(each) || qobject_cast<QCheckBox *>(each) ||
-                        qobject_cast<QAbstractSlider *>(each)))
+                        qobject_cast<QSlider *>(each)))
             editors.append(each);
     }
     if (editors.isEmpty())
@@ -235,7 +237,7 @@ void Monkey::edit(QWidget *arena, Dice &dice)
     const QPointer<QWidget> editor = dice.pick(editors);
     const QString name = Hands::nameOf(editor);
     if (qobject_cast<QCheckBox *>(editor) || qobject_cast<QComboBox *>(editor) ||
-        qobject_cast<QAbstractSlider *>(editor)) {
+        qobject_cast<QSlider *>(editor)) {
         static const QVector<int> moves{Qt::Key_Space, Qt::Key_Down, Qt::Key_Up,
                                         Qt::Key_Home,  Qt::Key_End,  Qt::Key_PageDown};
         const int key = qobject_cast<QCheckBox *>(editor) ? int(Qt::Key_Space) : dice.pick(moves);
@@ -260,9 +262,10 @@ void Monkey::edit(QWidget *arena, Dice &dice)
 void Monkey::selectItem(QWidget *arena, Dice &dice)
 {
     const auto trees = Hands::usable<QTreeWidget>(arena);
+    const auto records = Hands::usable<KVTreeView>(arena);
     if (trees.isEmpty())
         return click(arena, dice);
-    QTreeWidget *tree = dice.pick(trees);
+    QTreeWidget *tree = records.isEmpty() || dice.chance(30) ? dice.pick(trees) : dice.pick(records);
     if (tree->topLevelItemCount() == 0)
         return click(tree, dice);
     QTreeWidgetItem *item = tree->topLevelItem(dice.below(tree->topLevelItemCount()));
@@ -356,7 +359,8 @@ void Monkey::tamper(Dice &dice)
     const Document &document = m_checks->document(documentKinds()[size_t(dice.below(3))].type);
     const QString path = document.path();
     if (path.isEmpty() || !path.startsWith(m_playground.root()))
-        return openFile(dice);
+        return pressKey(
+            QApplication::activeModalWidget() ? QApplication::activeModalWidget() : m_window.get(), dice);
     say(QStringLiteral("change %1 on disk").arg(m_playground.shortName(path)));
     m_journal.note(m_playground.tamperWith(path, dice));
     m_pause = QDeadlineTimer(FileRestsMs);
@@ -364,7 +368,9 @@ void Monkey::tamper(Dice &dice)
 
 void Monkey::resize(Dice &dice)
 {
-    const QSize size(dice.between(1, 1700), dice.between(1, 1100));
+    // Seldom large: a large picture takes long, drawn without graphics hardware.
+    const QSize size =
+        dice.chance(15) ? QSize(1700, 1100) : QSize(dice.between(1, 1200), dice.between(1, 800));
     say(QStringLiteral("resize to %1 x %2").arg(size.width()).arg(size.height()));
     m_window->resize(size);
 }

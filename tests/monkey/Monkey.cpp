@@ -203,6 +203,10 @@ void Monkey::actInDialog(QDialog *dialog, Dice &dice)
         endDialog(dialog, dice);
         return;
     }
+    if (qobject_cast<ImportDialog *>(dialog) && dice.chance(25)) {
+        import(dialog, dice);
+        return;
+    }
     if (qobject_cast<QMessageBox *>(dialog) && dice.chance(80)) {
         const auto buttons = Hands::usable<QAbstractButton>(dialog);
         if (!buttons.isEmpty()) {

@@ -73,6 +73,8 @@ private:
     void triggerTreeAction(Dice &dice);
     void undoOrRedo(Dice &dice);
     void openFile(Dice &dice);
+    void import(QDialog *dialog, Dice &dice);
+    void answerBar(Dice &dice);
     void tamper(Dice &dice);
     void resize(Dice &dice);
     void moveDock(Dice &dice);

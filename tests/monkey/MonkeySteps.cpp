@@ -8,6 +8,7 @@
 #include "KVTreeView.h"
 #include "MainWindow.h"
 #include "Monkey.h"
+#include "NoticeBar.h"
 #include "PageStack.h"
 #include "Playground.h"
 
@@ -17,6 +18,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
 #include <QDockWidget>
 #include <QFileInfo>
 #include <QLineEdit>
@@ -103,6 +105,7 @@ void Monkey::actInWindow(Dice &dice)
         {1, [&] { moveDock(dice); }},
         {3, [&] { playAndWait(dice); }},
         {1, [&] { undoAll(dice); }},
+        {2, [&] { answerBar(dice); }},
     };
     int sum = 0;
     for (const Way &way : ways)
@@ -243,20 +246,21 @@ void Monkey::edit(QWidget *arena, Dice &dice)
         const int key = qobject_cast<QCheckBox *>(editor) ? int(Qt::Key_Space) : dice.pick(moves);
         say(QStringLiteral("key %1 in %2").arg(QKeySequence(key).toString(), name));
         editor->setFocus(Qt::TabFocusReason);
-        Hands::pressKey(arena, key, Qt::NoModifier);
+        Hands::pressKey(editor->window(), key, Qt::NoModifier);
         return;
     }
     const QString text = textToType(dice);
     const int end = dice.below(4);
     say(QStringLiteral("enter '%1' in %2%3")
             .arg(m_playground.shortName(text), name, QLatin1String(end == 0 ? ", not ended" : "")));
-    const QPointer<QWidget> window = arena;
+    // Of its own in a dialog that lies beside the window.
+    const QPointer<QWidget> window = editor->window();
     editor->setFocus(Qt::TabFocusReason);
-    Hands::pressKey(arena, Qt::Key_A, Qt::ControlModifier);
+    Hands::pressKey(window, Qt::Key_A, Qt::ControlModifier);
     if (window)
-        Hands::typeText(arena, text);
+        Hands::typeText(window, text);
     if (window && end != 0)
-        Hands::pressKey(arena, end == 1 ? Qt::Key_Tab : Qt::Key_Return, Qt::NoModifier);
+        Hands::pressKey(window, end == 1 ? Qt::Key_Tab : Qt::Key_Return, Qt::NoModifier);
 }
 
 void Monkey::selectItem(QWidget *arena, Dice &dice)
@@ -300,9 +304,7 @@ void Monkey::triggerAction(Dice &dice)
 {
     QVector<QAction *> actions;
     for (QAction *each : m_window->findChildren<QAction *>()) {
-        // Leaving costs a second each time.
-        const bool isRare = each->objectName() == QLatin1String("actionExit") && !dice.chance(20);
-        if (each->isEnabled() && each->isVisible() && !each->isSeparator() && !each->menu() && !isRare)
+        if (each->isEnabled() && each->isVisible() && !each->isSeparator() && !each->menu())
             actions.append(each);
     }
     QAction *action = dice.pick(actions);
@@ -342,16 +344,45 @@ void Monkey::openFile(Dice &dice)
 {
     const int kind = dice.below(20);
     QStringList paths;
-    if (kind < 12) {
+    if (kind < 10) {
         paths << m_playground.model(dice);
-    } else if (kind < 17) {
+    } else if (kind < 14) {
         paths << m_playground.damagedModel(dice);
+    } else if (kind < 17) {
+        paths << m_playground.foreignModel(dice);
     } else {
         for (int i = dice.between(1, 2); i > 0; --i)
             paths << m_playground.anyFile(dice);
     }
     say(QStringLiteral("open %1").arg(m_playground.shortName(paths.join(QStringLiteral(", ")))));
     m_window->openFiles(paths);
+}
+
+void Monkey::answerBar(Dice &dice)
+{
+    const auto bars = Hands::usable<NoticeBar>(m_window.get());
+    const auto buttons =
+        bars.isEmpty() ? QVector<QAbstractButton *>() : Hands::usable<QAbstractButton>(dice.pick(bars));
+    if (buttons.isEmpty())
+        return click(m_window.get(), dice);
+    QAbstractButton *button = dice.pick(buttons);
+    say(QStringLiteral("%1 in the bar").arg(Hands::nameOf(button)));
+    Hands::click(button, button->rect().center(), Qt::LeftButton, Qt::NoModifier, false);
+}
+
+void Monkey::import(QDialog *dialog, Dice &dice)
+{
+    auto *path = dialog->findChild<QLineEdit *>(QStringLiteral("txtModelPath"));
+    auto *start = dialog->findChild<QAbstractButton *>(QStringLiteral("btnImport"));
+    const QString model = m_playground.foreignModel(dice);
+    say(QStringLiteral("import %1").arg(m_playground.shortName(model)));
+    if (path->isVisible() && (path->text().isEmpty() || dice.chance(50))) {
+        path->setFocus();
+        path->setText(model);
+        Hands::pressKey(dialog, Qt::Key_Return, Qt::NoModifier);
+    }
+    if (start->isVisible() && start->isEnabled())
+        Hands::click(start, start->rect().center(), Qt::LeftButton, Qt::NoModifier, false);
 }
 
 void Monkey::tamper(Dice &dice)

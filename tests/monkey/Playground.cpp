@@ -19,6 +19,13 @@ const QStringList &ownNames()
     return names;
 }
 
+const QStringList &allFolders()
+{
+    static const QStringList names{QStringLiteral("/game"), QStringLiteral("/mod"), QStringLiteral("/import"),
+                                   QStringLiteral("/damaged")};
+    return names;
+}
+
 void copyTree(const QString &from, const QString &to)
 {
     QDir().mkpath(to);
@@ -121,11 +128,11 @@ void Playground::storeSettings() const
     Settings::ImportTimeLimit.setValue(15);
 }
 
-QStringList Playground::files(const QStringList &names) const
+QStringList Playground::files(const QStringList &folders, const QStringList &names) const
 {
     QStringList found;
-    for (const char *name : {"/game", "/mod", "/import", "/damaged"}) {
-        QDirIterator walk(m_root + QLatin1String(name), names, QDir::Files, QDirIterator::Subdirectories);
+    for (const QString &folder : folders) {
+        QDirIterator walk(m_root + folder, names, QDir::Files, QDirIterator::Subdirectories);
         while (walk.hasNext())
             found += walk.next();
     }
@@ -135,13 +142,20 @@ QStringList Playground::files(const QStringList &names) const
 
 QString Playground::anyFile(Dice &dice) const
 {
-    const QStringList found = files(dice.chance(70) ? ownNames() : QStringList{QStringLiteral("*")});
+    const QStringList found =
+        files(allFolders(), dice.chance(70) ? ownNames() : QStringList{QStringLiteral("*")});
     return found.isEmpty() ? m_root + QStringLiteral("/nothing") : dice.pick(found);
 }
 
 QString Playground::model(Dice &dice) const
 {
-    const QStringList found = files({dice.pick(ownNames())});
+    const QStringList found = files(allFolders(), {dice.pick(ownNames())});
+    return found.isEmpty() ? m_root + QStringLiteral("/nothing") : dice.pick(found);
+}
+
+QString Playground::foreignModel(Dice &dice) const
+{
+    const QStringList found = files({QStringLiteral("/import")}, {QStringLiteral("*")});
     return found.isEmpty() ? m_root + QStringLiteral("/nothing") : dice.pick(found);
 }
 
@@ -178,7 +192,7 @@ QString Playground::tamperWith(const QString &path, Dice &dice) const
         TestSupport::writeFile(path, damaged(bytes, dice));
         return QStringLiteral("damage");
     case 3: {
-        const QStringList same = files({QStringLiteral("*.") + QFileInfo(path).suffix()});
+        const QStringList same = files(allFolders(), {QStringLiteral("*.") + QFileInfo(path).suffix()});
         TestSupport::writeFile(path, same.isEmpty() ? bytes : TestSupport::readFile(dice.pick(same)));
         return QStringLiteral("replace");
     }

@@ -27,6 +27,7 @@ public:
     QString anyFile(Dice &dice) const;
     /// One of our own, of any kind.
     QString model(Dice &dice) const;
+    QString foreignModel(Dice &dice) const;
     /// A copy of one of our own that was cut off or has wrong bytes in it.
     QString damagedModel(Dice &dice);
     QString folder(Dice &dice) const;
@@ -35,7 +36,7 @@ public:
     QString tamperWith(const QString &path, Dice &dice) const;
 
 private:
-    QStringList files(const QStringList &names) const;
+    QStringList files(const QStringList &folders, const QStringList &names) const;
 
     QTemporaryDir m_folder;
     QString m_root;

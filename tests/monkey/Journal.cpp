@@ -8,6 +8,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
+#include <utility>
 
 #include <pthread.h>
 
@@ -86,6 +87,10 @@ void Journal::fail(const QString &text)
 
 void Journal::sayWhere()
 {
+    // A fault says so itself before the sanitizer, which reports the abort, does.
+    static bool said = false;
+    if (std::exchange(said, true))
+        return;
     std::fprintf(stderr, "monkey: seed %llu, step %s\n", static_cast<unsigned long long>(seedOfRun), where);
     std::fflush(stderr);
 }

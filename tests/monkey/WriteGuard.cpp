@@ -111,6 +111,11 @@ int linkat(int fromFolder, const char *from, int toFolder, const char *to, int f
     return int(syscall(SYS_linkat, fromFolder, from, toFolder, to, flags));
 }
 
+int link(const char *from, const char *to) noexcept
+{
+    return mayWrite(to) ? int(syscall(SYS_linkat, AT_FDCWD, from, AT_FDCWD, to, 0)) : -1;
+}
+
 int symlink(const char *target, const char *path) noexcept
 {
     return mayWrite(path) ? int(syscall(SYS_symlinkat, target, AT_FDCWD, path)) : -1;
@@ -129,5 +134,10 @@ int mkdir(const char *path, mode_t mode) noexcept
 int rmdir(const char *path) noexcept
 {
     return mayWrite(path) ? int(syscall(SYS_unlinkat, AT_FDCWD, path, AT_REMOVEDIR)) : -1;
+}
+
+int truncate64(const char *path, off64_t length) noexcept
+{
+    return mayWrite(path) ? int(syscall(SYS_truncate, path, length)) : -1;
 }
 } // extern "C"

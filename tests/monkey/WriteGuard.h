@@ -10,6 +10,6 @@
 namespace WriteGuard {
 /// From now on, for good; `folder` is a canonical path.
 void confineTo(const QString &folder);
-/// How often something was refused, and what last.
+/// How often something was refused.
 int refusals();
 } // namespace WriteGuard

@@ -83,6 +83,9 @@ MainWindow::MainWindow(QWidget *parent)
 
 MainWindow::~MainWindow()
 {
+    // What is being typed goes to a document that is still there.
+    if (QWidget *editor = focusWidget())
+        editor->clearFocus();
     // Documents that go tell of it, to a window that is going too.
     for (const DocumentPane &each : m_panes)
         each.document->disconnect();

@@ -78,7 +78,7 @@ void RecoveryPrompt::on_btnRestore_clicked()
             continue;
         const Recovery::Outcome outcome = m_recovery.restore(snapshot);
         if (outcome == Recovery::Outcome::GivenUp)
-            return;
+            return offerWhatIsLeft();
         if (outcome == Recovery::Outcome::Restored)
             done.insert(int(snapshot.type));
     }
@@ -103,9 +103,13 @@ void RecoveryPrompt::on_actionRecover_triggered()
 {
     RecoverDialog dialog(m_recovery, m_window);
     dialog.exec();
-    // What was restored or deleted is no longer on offer.
-    if (m_bar->isHidden())
-        return;
+    if (!m_bar->isHidden())
+        offerWhatIsLeft();
+}
+
+/// What was restored or deleted is no longer on offer.
+void RecoveryPrompt::offerWhatIsLeft()
+{
     QSet<QString> left;
     for (const Snapshot &snapshot : m_recovery.snapshots())
         left.insert(snapshot.file);

@@ -27,6 +27,7 @@ private slots:
 
 private:
     void offer();
+    void offerWhatIsLeft();
 
     Recovery &m_recovery;
     QWidget *m_window;

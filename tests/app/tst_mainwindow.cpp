@@ -204,6 +204,15 @@ void tst_MainWindow::aModifiedDocumentGoesWithTheWindow()
     select(window, "treeAnim", {RecordKind::AnimBlock, {1, 0, 0}});
     type(find<QSpinBox>(window, "sbAnimLoopFrame"), QStringLiteral("7"));
     QVERIFY(find<QAction>(window, "actionUndo")->isEnabled());
+
+    // What is typed and not ended, too.
+    find<QTabWidget>(window, "tabWidget")->setCurrentIndex(1);
+    select(window, "treeStaticMesh", {RecordKind::StaticSurface, {0, 0, 0}});
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    auto *material = find<QWidget>(window, "pagesStaticMesh")->findChild<QLineEdit *>("txtSurfaceMaterial");
+    material->setFocus();
+    QTest::keyClicks(material, QStringLiteral("typed"));
 }
 
 void tst_MainWindow::aFailedOpenKeepsTheDocument()

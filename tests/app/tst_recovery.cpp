@@ -35,6 +35,7 @@ private slots:
     void damageIsSkipped();
     void whatCannotBeKept();
     void theBarOffers();
+    void whatIsRestoredIsNotOfferedOn();
     void theBarTellsOfACrash();
     void theDialogLists();
 
@@ -360,6 +361,39 @@ void TestRecovery::theBarOffers()
     other.findChild<QPushButton *>(QStringLiteral("btnDiscard"))->click();
     QCOMPARE(run.recovery->store().snapshots().size(), 2);
     QVERIFY(other.findChild<NoticeBar *>()->isHidden());
+}
+
+void TestRecovery::whatIsRestoredIsNotOfferedOn()
+{
+    {
+        OneRun run(root());
+        run.openMesh(manPath());
+        run.edit(1);
+        run.recovery->keepAll();
+        run.rigid.take(SampleModels::staticMesh(), QStringLiteral("box"));
+        run.recovery->keepAll();
+    }
+    OneRun run(root());
+    QAction recover;
+    QVBoxLayout place(&run.window);
+    RecoveryPrompt prompt(*run.recovery, &recover, &place, &run.window);
+    // The box, which is newer, is restored; for the other the user thinks better of it.
+    run.openMesh(manPath());
+    run.edit(2);
+    Hand hand({Hand::press(QMessageBox::Cancel)});
+    run.window.findChild<QPushButton *>(QStringLiteral("btnRestore"))->click();
+    QCOMPARE(hand.seen.size(), 1);
+    QVERIFY(run.rigid.isModified());
+    auto *bar = run.window.findChild<NoticeBar *>(QStringLiteral("barRecovery"));
+    QVERIFY2(bar->text().endsWith(QStringLiteral(": man.skinnedmesh")), qPrintable(bar->text()));
+
+    // Discard leaves what is open kept.
+    run.window.findChild<QPushButton *>(QStringLiteral("btnDiscard"))->click();
+    QVERIFY(bar->isHidden());
+    const QVector<Snapshot> left = run.recovery->store().snapshots();
+    QVERIFY(std::any_of(left.begin(), left.end(),
+                        [](const Snapshot &each) { return each.name == QLatin1String("box.staticmesh"); }));
+    QVERIFY(run.recovery->snapshots().isEmpty());
 }
 
 void TestRecovery::theBarTellsOfACrash()

@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "Journal.h"
+#include "Monkey.h"
+#include "Playground.h"
+#include "WriteGuard.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDesktopServices>
+#include <QElapsedTimer>
+#include <QSurfaceFormat>
+
+#include <cstdio>
+#include <memory>
+
+namespace {
+Journal *journal = nullptr;
+
+/// What Qt complains about stands in the journal, at the step that it is about.
+void noteMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    if (journal && type != QtDebugMsg && type != QtInfoMsg)
+        journal->note(QStringLiteral("says: ") + text);
+    if (type == QtFatalMsg)
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+/// The value of a numeric option; ends the program when it is none.
+template <typename Number>
+Number number(const QCommandLineParser &options, const QString &name,
+              Number (QString::*read)(bool *, int) const)
+{
+    bool ok = true;
+    const QString text = options.value(name);
+    const Number value = text.isEmpty() ? Number() : (text.*read)(&ok, 10);
+    if (!ok) {
+        std::fprintf(stderr, "monkey: --%s takes a number, not '%s'\n", qPrintable(name), qPrintable(text));
+        std::exit(2);
+    }
+    return value;
+}
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    // Before the folders of the process change.
+    const QString called = QDir::currentPath();
+    auto playground = std::make_unique<Playground>();
+
+    if (qEnvironmentVariableIsEmpty("KORVANE_IMPORT_WORKER"))
+        qputenv("KORVANE_IMPORT_WORKER", KORVANE_IMPORT_WORKER);
+
+    // As the program itself starts; the order in a hash is then the same in every run.
+    qSetGlobalQHashSeed(0);
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    const QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("Korvane"));
+    QCoreApplication::setOrganizationName(QStringLiteral("Korvane"));
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QSurfaceFormat format;
+    format.setDepthBufferSize(24);
+    format.setProfile(QSurfaceFormat::CoreProfile);
+    QSurfaceFormat::setDefaultFormat(format);
+
+    QCommandLineParser options;
+    options.setApplicationDescription(QStringLiteral(
+        "Uses the editor at random: clicks, keys, files, undo, tabs, sizes, dialogs.\n\n"
+        "A seed gives the same list of steps again, as far as the program is in the same state before each.\n"
+        "Not replayed is what depends on time: how far an animation has played, camera flight, when a file\n"
+        "that changed, an import or a server query is told of, and the times that names of kept work hold.\n"
+        "With --seconds the number of steps depends on the machine; replay with --steps."));
+    options.addHelpOption();
+    options.addOptions({
+        {QStringLiteral("seed"), QStringLiteral("Number to begin with (default: another each time)."),
+         QStringLiteral("N")},
+        {QStringLiteral("steps"), QStringLiteral("End after this many steps."), QStringLiteral("K")},
+        {QStringLiteral("seconds"), QStringLiteral("End after this time (default: 60, without --steps)."),
+         QStringLiteral("S")},
+        {QStringLiteral("journal"), QStringLiteral("Where the steps are written down (default: monkey.log)."),
+         QStringLiteral("FILE")},
+    });
+    options.process(application);
+    const quint64 seed = options.isSet(QStringLiteral("seed"))
+                             ? number(options, QStringLiteral("seed"), &QString::toULongLong)
+                             : quint64(std::random_device()());
+    Monkey::Limits limits{number(options, QStringLiteral("steps"), &QString::toInt),
+                          number(options, QStringLiteral("seconds"), &QString::toInt)};
+    if (limits.steps <= 0 && limits.seconds <= 0)
+        limits.seconds = 60;
+    const QString path = options.value(QStringLiteral("journal"));
+    const QString file = QDir(called).absoluteFilePath(path.isEmpty() ? QStringLiteral("monkey.log") : path);
+
+    std::printf("monkey: seed %llu, journal %s\n", static_cast<unsigned long long>(seed), qPrintable(file));
+    std::fflush(stdout);
+    Journal steps(file, seed);
+    journal = &steps;
+    qInstallMessageHandler(noteMessage);
+    WriteGuard::confineTo(playground->root());
+
+    QElapsedTimer clock;
+    clock.start();
+    Monkey monkey(*playground, steps, seed, limits);
+    for (const char *scheme : {"http", "https", "file"})
+        QDesktopServices::setUrlHandler(QLatin1String(scheme), &monkey, "countLink");
+    monkey.run();
+    for (const char *scheme : {"http", "https", "file"})
+        QDesktopServices::unsetUrlHandler(QLatin1String(scheme));
+    std::printf("monkey: clean; seed %llu, %d steps in %lld s, %d links, %d writes elsewhere refused\n",
+                static_cast<unsigned long long>(seed), monkey.steps(),
+                static_cast<long long>(clock.elapsed() / 1000), monkey.linksOpened(), WriteGuard::refusals());
+    qInstallMessageHandler(nullptr);
+    journal = nullptr;
+    return 0;
+}

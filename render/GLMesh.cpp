@@ -7,6 +7,7 @@
 #include <QOpenGLContext>
 #include <QOpenGLExtraFunctions>
 
+#include <algorithm>
 #include <cstdint>
 
 namespace {
@@ -87,6 +88,15 @@ void GLMesh::refresh(const SkinnedMesh &mesh, bool indexesToo)
 void GLMesh::refresh(const StaticMesh &mesh, bool indexesToo)
 {
     refreshFrom(mesh, indexesToo);
+}
+
+QVector3D GLMesh::place(quint16 vertex) const
+{
+    const GLVertex &held = m_vertices.vertices[vertex];
+    const QVector3D place(held.position[0], held.position[1], held.position[2]);
+    // As the skin program takes it.
+    const size_t bone = size_t(std::min(held.boneId, ShaderPrograms::BoneLimit - 1));
+    return bone < palette.size() ? palette[bone].map(place) : place;
 }
 
 void GLMesh::uploadVertices()

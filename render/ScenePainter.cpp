@@ -72,12 +72,15 @@ void ScenePainter::setUpState(const QColor &background)
     m_gl.glEnable(GL_DEPTH_TEST);
     m_gl.glEnable(GL_BLEND);
     m_gl.glEnable(GL_PROGRAM_POINT_SIZE);
-    m_gl.glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
+    // The frame's own alpha is how much of the background is covered.
+    m_gl.glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
 }
 
 void ScenePainter::setBackground(const QColor &color)
 {
-    m_gl.glClearColor(float(color.redF()), float(color.greenF()), float(color.blueF()), 1.0f);
+    const auto alpha = float(color.alphaF());
+    m_gl.glClearColor(alpha * float(color.redF()), alpha * float(color.greenF()),
+                      alpha * float(color.blueF()), alpha);
 }
 
 void ScenePainter::setBackFaceCulling(bool on)
@@ -203,16 +206,10 @@ void ScenePainter::paintOverlay(const SceneFrame &frame)
 void ScenePainter::drawPosedSurface(int surface, GLenum mode)
 {
     const std::vector<GLVertex> &vertices = m_model->vertices().vertices;
-    const BonePalette &palette = m_model->palette;
     const bool grew = m_posed.size() != vertices.size();
     m_posed.resize(vertices.size());
     for (quint16 index : m_model->indexes(surface)) {
-        const float *from = vertices[index].position;
-        QVector3D place(from[0], from[1], from[2]);
-        // As the skin program takes it.
-        const size_t bone = size_t(std::min(vertices[index].boneId, ShaderPrograms::BoneLimit - 1));
-        if (bone < palette.size())
-            place = palette[bone].map(place);
+        const QVector3D place = m_model->place(index);
         for (int axis = 0; axis < 3; ++axis)
             m_posed[index].position[axis] = place[axis];
     }

@@ -12,7 +12,7 @@ namespace {
 // Narrower than the viewport's, which flies among models: a whole model looks less distorted so.
 constexpr float FieldOfView = 30.0f; // vertical, degrees
 constexpr float Room = 1.06f;
-constexpr float LeastExtent = 1.0e-3f; // of what counts as more than a point, in units
+constexpr float LeastDistance = 1.0e-3f; // of the eye from the nearest point, relative to its place
 constexpr float DegreesPerRadian = 57.29578f;
 
 bool isFinite(const QVector3D &point)
@@ -70,11 +70,12 @@ Framing frameAll(const std::vector<QVector3D> &points, float yaw, float pitch, c
         extent.nearest = std::max(extent.nearest, own.nearest);
         extent.farthest = std::min(extent.farthest, own.farthest);
     }
+    const float least = LeastDistance * std::max(1.0f, std::fabs(extent.nearest));
     const QVector3D eye(0.5f * (extent.right - extent.left), 0.5f * (extent.up - extent.down),
                         std::max({0.5f * (extent.right + extent.left) / tangentX,
-                                  0.5f * (extent.up + extent.down) / tangentY, extent.nearest}));
+                                  0.5f * (extent.up + extent.down) / tangentY, extent.nearest + least}));
 
-    const float depth = std::max(eye.z() - extent.farthest, LeastExtent);
+    const float depth = eye.z() - extent.farthest;
     // Beyond a few thousand to one the depth buffer could not tell the model's parts apart.
     const float nearPlane = std::max(0.5f * (eye.z() - extent.nearest), depth / 4096.0f);
     Framing framing;

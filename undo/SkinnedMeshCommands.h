@@ -50,6 +50,8 @@ struct HotPointEffects
     ROW(UC_SkinnedMeshAddHotPoint, InsertCommand, "Add Hot Point", Records::HotPoint, RecordKind::HotPoints) \
     ROW(UC_SkinnedMeshRemoveHotPoint, RemoveCommand, "Remove Hot Point", Records::HotPoint, RecordKind::HotPoints) \
     ROW(UC_SkinnedMeshPasteHotPoint, InsertCommand, "Paste Hot Point", Records::HotPoint, RecordKind::HotPoints) \
+    ROW(UC_SkinnedMeshAddCnode, InsertCommand, "Add Child Bone Index", Records::ChildBone, RecordKind::ChildBones) \
+    ROW(UC_SkinnedMeshRemoveCnode, RemoveCommand, "Remove Child Bone Index", Records::ChildBone, RecordKind::ChildBones) \
     ROW(UC_SkinnedMeshRotate, RotateCommand, "Rotate Vertices", Records::SkinnedMeshRoot) \
     ROW(UC_SkinnedMeshScale, ScaleCommand, "Scale Vertices", Records::SkinnedMeshRoot)
 // clang-format on

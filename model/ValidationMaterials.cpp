@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "MaterialFiles.h"
+#include "ValidationParts.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QSet>
+
+#include <algorithm>
+
+namespace Validation {
+namespace {
+/// Looking up more materials than any model has would only keep the user waiting.
+constexpr int MostMaterials = 1000;
+
+QString list(const QStringList &paths)
+{
+    QStringList shown;
+    for (const QString &path : paths)
+        shown << QDir::toNativeSeparators(path);
+    return shown.join(QLatin1String(", "));
+}
+
+bool isImage(const QString &path)
+{
+    // Opening a pipe would wait for a writer for ever.
+    return QFileInfo(path).isFile() && QImageReader(path).canRead();
+}
+} // namespace
+
+void checkMaterials(FindingCollector &found, const QStringList &materialPaths, RecordKind surfaceKind,
+                    const MaterialFolders &folders)
+{
+    if (folders.gamePath.isEmpty())
+        return;
+    MaterialFiles files(folders.gamePath, folders.outputDir);
+    QSet<QString> seen;
+    for (int s = 0; s < materialPaths.size() && seen.size() < MostMaterials; ++s) {
+        const QString &path = materialPaths[s];
+        const QString surface = number(s);
+        if (seen.contains(path))
+            continue;
+        seen.insert(path);
+        const RecordRef place{surfaceKind, {s, 0, 0}};
+        const MaterialFiles::Lookup material = files.find(path);
+        if (!material.error.isEmpty()) {
+            found.add(Rule::MaterialNotFound, place, [&] {
+                return Texts::tr("Surface %1 is drawn white: the file of its material '%2' cannot be read "
+                                 "(%3). Tried: %4. Correct the surface's material path, or put the file "
+                                 "into one of these places.")
+                    .arg(surface, path, material.error,
+                         list(files.candidates(QFileInfo(path).path() + QStringLiteral(".kmat"))));
+            });
+        } else if (!material.warning.isEmpty()) {
+            found.add(Rule::MaterialNotFound, place, [&] {
+                return Texts::tr("Surface %1 is drawn white: %2. Correct the surface's material path, or "
+                                 "add the material to the file.")
+                    .arg(surface, material.warning);
+            });
+        } else if (!material.texture.isEmpty() && material.texture != MaterialFiles::Blank) {
+            const QStringList tried = files.candidates(material.texture);
+            if (std::any_of(tried.begin(), tried.end(), isImage))
+                continue;
+            found.add(Rule::TextureNotFound, place, [&] {
+                return Texts::tr("Surface %1 is drawn white: the texture '%2' of its material '%3' is no "
+                                 "picture that can be read. Tried: %4. Put the picture into one of these "
+                                 "places, or name another one in the material's file.")
+                    .arg(surface, material.texture, path, list(tried));
+            });
+        }
+    }
+}
+} // namespace Validation

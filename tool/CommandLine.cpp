@@ -26,11 +26,15 @@ void CommandLine::option(const QStringList &names, const QString &valueName, con
     m_parser.addOption({names, description, valueName, defaultValue});
 }
 
-void CommandLine::folderOptions()
+void CommandLine::folderOptions(GameFolder otherwise)
 {
-    option({QStringLiteral("game-path")}, QStringLiteral("folder"),
-           QStringLiteral("Game folder to look for materials and textures in; by default the one of the "
-                          "editor's options, else the one that the file lies in."));
+    option(
+        {QStringLiteral("game-path")}, QStringLiteral("folder"),
+        otherwise == GameFolder::AroundFile
+            ? QStringLiteral("Game folder to look for materials and textures in; by default the one of the "
+                             "editor's options, else the one that the file lies in.")
+            : QStringLiteral("Game folder to look for materials and textures in; by default the one of the "
+                             "editor's options. Without one, they are not looked for."));
     option({QStringLiteral("mod-path")}, QStringLiteral("folder"),
            QStringLiteral("Mod folder to look in second; by default the one of the editor's options."));
 }

@@ -18,8 +18,10 @@ public:
     /// `valueName` is what the value is called in the help.
     void option(const QStringList &names, const QString &valueName, const QString &description,
                 const QString &defaultValue = {});
+    /// What stands in for a game folder that nobody has named: the one that the file lies in, or none.
+    enum class GameFolder { AroundFile, IfKnown };
     /// --game-path and --mod-path, see GameFolders.
-    void folderOptions();
+    void folderOptions(GameFolder otherwise);
 
     /// Reads what stands behind the verb. Gives the exit code when the run is over with it: the help was
     /// asked for, or the usage is wrong and standard error says why. At least one operand has to stand there;

@@ -32,7 +32,7 @@ int exportModel(const QStringList &arguments)
     line.option({QStringLiteral("o"), QStringLiteral("output")}, QStringLiteral("file"),
                 QStringLiteral("The OBJ file, or a folder for it."));
     line.flag(QStringLiteral("force"), QStringLiteral("Replace OBJ and MTL files that exist."));
-    line.folderOptions();
+    line.folderOptions(CommandLine::GameFolder::AroundFile);
     if (const auto end = line.parse(arguments, false))
         return *end;
     const QString file = line.operands().constFirst();
@@ -55,7 +55,7 @@ int exportModel(const QStringList &arguments)
         return Failed;
     }
 
-    const GameFolders folders = GameFolders::of(line, file);
+    const GameFolders folders = GameFolders::around(file, line);
     MaterialFiles materials(folders.gamePath, folders.modPath);
     ImportMessages messages;
     const WorkerJob job = staticMeshExport(*mesh, target, materials, messages);

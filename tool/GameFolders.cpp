@@ -20,13 +20,18 @@ QString folderAround(const QString &file)
 }
 } // namespace
 
-GameFolders GameFolders::of(const CommandLine &line, const QString &file)
+GameFolders GameFolders::chosen(const CommandLine &line)
 {
-    const auto chosen = [&line](const QString &option, const SettingKey<QString> &key) {
+    const auto folder = [&line](const QString &option, const SettingKey<QString> &key) {
         return line.isSet(option) ? line.value(option) : key.value();
     };
-    GameFolders folders{chosen(QStringLiteral("game-path"), Settings::GamePath),
-                        chosen(QStringLiteral("mod-path"), Settings::OutputDir)};
+    return {folder(QStringLiteral("game-path"), Settings::GamePath),
+            folder(QStringLiteral("mod-path"), Settings::OutputDir)};
+}
+
+GameFolders GameFolders::around(const QString &file, const CommandLine &line)
+{
+    GameFolders folders = chosen(line);
     if (folders.gamePath.isEmpty())
         folders.gamePath = folderAround(file);
     return folders;

@@ -215,7 +215,7 @@ int render(const QStringList &arguments)
         QString::number(DefaultYaw));
     line.option({QStringLiteral("pitch")}, QStringLiteral("degrees"),
                 QStringLiteral("How far it looks down, -90 to 90."), QString::number(DefaultPitch));
-    line.folderOptions();
+    line.folderOptions(CommandLine::GameFolder::AroundFile);
     if (const auto end = line.parse(arguments, false))
         return *end;
     const std::optional<Wishes> wishes = wishesOf(line);
@@ -226,7 +226,7 @@ int render(const QStringList &arguments)
         return line.refuse(QStringLiteral("-o FILE is missing."));
 
     const QString file = line.operands().constFirst();
-    const GameFolders folders = GameFolders::of(line, file);
+    const GameFolders folders = GameFolders::around(file, line);
     Subject subject;
     QString error = read(file, line.value(QStringLiteral("anim")), folders, subject);
     if (error.isEmpty())

@@ -53,7 +53,8 @@ _korvane_tool() {
     esac
 
     case $verb in
-    info | check) options='--json --help' ;;
+    info) options='--json --help' ;;
+    check) options='--json --all --game-path --mod-path --help' ;;
     resave) options='--output --force --help' ;;
     import)
         options='--output --static --force --no-normals --flip-uv --flip-winding --no-rotate --scale --mod-path

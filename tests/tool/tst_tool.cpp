@@ -26,9 +26,6 @@ private slots:
     void completesVerbsAndFiles();
     void infoCountsRecords_data();
     void infoCountsRecords();
-    void unreadableFiles_data();
-    void unreadableFiles();
-    void checkWalksFolders();
     void resaveKeepsBytes();
     void resaveLosesNothing();
     void importStatic();
@@ -264,75 +261,6 @@ void tst_Tool::infoCountsRecords()
     const ToolRun text({QStringLiteral("info"), files.first()});
     QCOMPARE(text.exitCode, 0);
     QVERIFY(text.out.startsWith(files.first() + QLatin1Char('\n')));
-}
-
-void tst_Tool::unreadableFiles_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("complaint");
-    for (const QString &suffix : SampleModels::suffixes()) {
-        const QByteArray half = SampleModels::bytesOfSample(suffix).left(50);
-        QString reason;
-        SampleModels::withModel(suffix,
-                                [&](auto model) { QVERIFY(SampleModels::readBytes(model, half, &reason)); });
-        QVERIFY(!reason.isEmpty());
-        QTest::newRow(qUtf8Printable(QStringLiteral("half a ") + suffix))
-            << QStringLiteral("half.") + suffix << half << reason;
-    }
-    QTest::newRow("negative count") << "n.staticmesh" << QByteArray(28, '\0') + QByteArray(4, '\xff')
-                                    << "negative";
-    QTest::newRow("material") << "m.kmat" << QByteArray("material a\nmaterial a\n") << "same name";
-    QTest::newRow("other kind") << "a.txt" << QByteArray("text") << ".skinnedmesh, .anim";
-    QTest::newRow("not there") << "*.anim" << QByteArray() << "no such file";
-}
-
-void tst_Tool::unreadableFiles()
-{
-    QFETCH(QString, name);
-    QFETCH(QByteArray, bytes);
-    QFETCH(QString, complaint);
-    const QString file = bytes.isEmpty() ? path(name) : put(name, bytes);
-
-    const ToolRun text({QStringLiteral("info"), file});
-    QCOMPARE(text.exitCode, 1);
-    QCOMPARE(text.out, QString());
-    QVERIFY2(text.err.contains(file) && text.err.contains(complaint), qUtf8Printable(text.err));
-
-    const ToolRun json({QStringLiteral("info"), QStringLiteral("--json"), file});
-    QCOMPARE(json.exitCode, 1);
-    QVERIFY(json.first().value(QStringLiteral("error")).toString().contains(complaint));
-
-    const ToolRun check({QStringLiteral("check"), file});
-    QCOMPARE(check.exitCode, 1);
-    QVERIFY2(check.out.contains(complaint), qUtf8Printable(check.out));
-}
-
-void tst_Tool::checkWalksFolders()
-{
-    QCOMPARE(ToolRun({QStringLiteral("check"), m_folder->path()}).exitCode, 1);
-    put(QStringLiteral("a/good.staticmesh"),
-        readFile(source(QStringLiteral("samples/game/models/crate/crate.staticmesh"))));
-    put(QStringLiteral("a/notes.txt"), "nothing to do with it");
-    const QString broken = put(QStringLiteral("a/ü ñ/deep/BROKEN.ANIM"), "nothing");
-
-    const ToolRun bad({QStringLiteral("check"), QStringLiteral("--json"), m_folder->path()});
-    QCOMPARE(bad.exitCode, 1);
-    QCOMPARE(bad.json().size(), 2);
-    QJsonObject findings;
-    for (const QJsonValue &file : bad.json()) {
-        const QJsonArray list = file.toObject().value(QStringLiteral("findings")).toArray();
-        for (const QJsonValue &finding : list) {
-            if (finding.toObject().value(QStringLiteral("rule")) == QLatin1String("unreadable"))
-                findings.insert(file.toObject().value(QStringLiteral("file")).toString(), finding);
-        }
-    }
-    QCOMPARE(findings.keys(), QStringList{broken});
-    QCOMPARE(findings.value(broken).toObject().value(QStringLiteral("severity")).toString(),
-             QStringLiteral("error"));
-
-    QVERIFY(QFile::remove(broken));
-    QCOMPARE(ToolRun({QStringLiteral("check"), source(QStringLiteral("samples"))}).exitCode, 0);
 }
 
 void tst_Tool::resaveKeepsBytes()

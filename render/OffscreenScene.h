@@ -41,8 +41,8 @@ private:
     QImage paintOnce(const SceneFrame &frame, const QSize &size);
 
     QString m_failure;
-    QOpenGLContext m_context;
     QOffscreenSurface m_surface;
+    QOpenGLContext m_context;
     std::unique_ptr<ScenePainter> m_painter;
     int m_longestSide = 0;
 };

@@ -94,7 +94,7 @@ int check(const QStringList &arguments)
         return *end;
 
     const bool json = line.isSet(QStringLiteral("json"));
-    const GameFolders folders = GameFolders::chosen(line);
+    const MaterialFolders folders = chosenFolders(line);
     const CheckBasis basis{ReferenceIds::load(),
                            line.isSet(QStringLiteral("all")) ? INT_MAX : ListedFindings};
     if (folders.gamePath.isEmpty())

@@ -20,7 +20,7 @@ public:
                 const QString &defaultValue = {});
     /// What stands in for a game folder that nobody has named: the one that the file lies in, or none.
     enum class GameFolder { AroundFile, IfKnown };
-    /// --game-path and --mod-path, see GameFolders.
+    /// --game-path and --mod-path, see GameFolders.h.
     void folderOptions(GameFolder otherwise);
 
     /// Reads what stands behind the verb. Gives the exit code when the run is over with it: the help was

@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "Companion.h"
 
-#include "GameFolders.h"
+#include "Validation.h"
 
 #include <QDir>
 #include <QFileInfo>
 
-QString companionOf(const QString &file, const GameFolders &folders)
+QString companionOf(const QString &file, const MaterialFolders &folders)
 {
     const QFileInfo known(file);
     const bool isAnim = known.suffix().compare(QLatin1String("anim"), Qt::CaseInsensitive) == 0;
@@ -24,7 +24,7 @@ QString companionOf(const QString &file, const GameFolders &folders)
         parts[root] = there;
         places += parts.join(QLatin1Char('/'));
     }
-    for (const QString &folder : {folders.gamePath, folders.modPath}) {
+    for (const QString &folder : {folders.gamePath, folders.outputDir}) {
         if (!folder.isEmpty())
             places += QDir(folder).filePath(there + QLatin1Char('/') + known.absoluteDir().dirName());
     }

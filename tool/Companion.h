@@ -4,8 +4,8 @@
 
 #include <QString>
 
-struct GameFolders;
+struct MaterialFolders;
 
 /// The animation file that belongs to a skinned mesh, or the other way about: of the same name, beside it or
 /// where the game keeps the two apart, in models/NAME and anims/NAME. Empty when there is none.
-QString companionOf(const QString &file, const GameFolders &folders);
+QString companionOf(const QString &file, const MaterialFolders &folders);

@@ -200,7 +200,7 @@ QString boxText(const QJsonObject &box)
 {
     const auto corner = [&box](const char *name) {
         QStringList numbers;
-        for (const QJsonValue &value : box.value(QLatin1String(name)).toArray())
+        for (const QJsonValue value : box.value(QLatin1String(name)).toArray())
             numbers += numberText(value);
         return numbers.join(QStringLiteral(", "));
     };
@@ -281,7 +281,7 @@ QString rows(const QJsonObject &description, const char *array, const QString &t
 {
     QString lines;
     int number = 0;
-    for (const QJsonValue &value : description.value(QLatin1String(array)).toArray())
+    for (const QJsonValue value : description.value(QLatin1String(array)).toArray())
         lines += row(QStringLiteral("%1 %2").arg(title, QString::number(number++)), text(value.toObject()));
     return lines;
 }

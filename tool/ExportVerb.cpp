@@ -55,8 +55,8 @@ int exportModel(const QStringList &arguments)
         return Failed;
     }
 
-    const GameFolders folders = GameFolders::around(file, line);
-    MaterialFiles materials(folders.gamePath, folders.modPath);
+    const MaterialFolders folders = foldersAround(file, line);
+    MaterialFiles materials(folders.gamePath, folders.outputDir);
     ImportMessages messages;
     const WorkerJob job = staticMeshExport(*mesh, target, materials, messages);
     bool exists = false;

@@ -3,7 +3,6 @@
 #include "Faults.h"
 
 #include "Companion.h"
-#include "GameFolders.h"
 #include "ModelFile.h"
 #include "Validation.h"
 
@@ -58,16 +57,16 @@ static_assert(sizeof names / sizeof names[0] == size_t(RecordKind::StaticVertice
 struct Validator
 {
     const QString &file;
-    const GameFolders &folders;
+    const MaterialFolders &folders;
     const CheckBasis &basis;
 
     std::vector<Finding> operator()(const SkinnedMesh &mesh) const
     {
-        return validate(mesh, {folders.gamePath, folders.modPath}, basis.listed);
+        return validate(mesh, folders, basis.listed);
     }
     std::vector<Finding> operator()(const StaticMesh &mesh) const
     {
-        return validate(mesh, {folders.gamePath, folders.modPath}, basis.listed);
+        return validate(mesh, folders, basis.listed);
     }
     std::vector<Finding> operator()(const AnimFile &anim) const
     {
@@ -86,7 +85,7 @@ struct Validator
 };
 } // namespace
 
-std::vector<Fault> faultsOf(const QString &file, const GameFolders &folders, const CheckBasis &basis)
+std::vector<Fault> faultsOf(const QString &file, const MaterialFolders &folders, const CheckBasis &basis)
 {
     FileContent content;
     const QString error = readFile(file, content);

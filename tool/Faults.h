@@ -10,7 +10,7 @@
 #include <optional>
 #include <vector>
 
-struct GameFolders;
+struct MaterialFolders;
 
 /// One thing that is wrong with a file.
 struct Fault
@@ -31,7 +31,7 @@ struct CheckBasis
 
 /// Reads a file and gives what is wrong with it. An animation is compared with the mesh that belongs to it,
 /// if there is one.
-std::vector<Fault> faultsOf(const QString &file, const GameFolders &folders, const CheckBasis &basis);
+std::vector<Fault> faultsOf(const QString &file, const MaterialFolders &folders, const CheckBasis &basis);
 
 /// The kind of a record for programs, such as "bone"; empty for no kind.
 QString recordName(RecordKind kind);

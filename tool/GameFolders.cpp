@@ -20,7 +20,7 @@ QString folderAround(const QString &file)
 }
 } // namespace
 
-GameFolders GameFolders::chosen(const CommandLine &line)
+MaterialFolders chosenFolders(const CommandLine &line)
 {
     const auto folder = [&line](const QString &option, const SettingKey<QString> &key) {
         return line.isSet(option) ? line.value(option) : key.value();
@@ -29,9 +29,9 @@ GameFolders GameFolders::chosen(const CommandLine &line)
             folder(QStringLiteral("mod-path"), Settings::OutputDir)};
 }
 
-GameFolders GameFolders::around(const QString &file, const CommandLine &line)
+MaterialFolders foldersAround(const QString &file, const CommandLine &line)
 {
-    GameFolders folders = chosen(line);
+    MaterialFolders folders = chosenFolders(line);
     if (folders.gamePath.isEmpty())
         folders.gamePath = folderAround(file);
     return folders;

@@ -55,7 +55,7 @@ QString load(const QString &path, FileContent &content)
 }
 
 /// Reads the files. Returns why there is nothing to draw.
-QString read(const QString &file, const QString &animPath, const GameFolders &folders, Subject &subject)
+QString read(const QString &file, const QString &animPath, const MaterialFolders &folders, Subject &subject)
 {
     subject.meshPath = file;
     subject.animPath = animPath;
@@ -226,7 +226,7 @@ int render(const QStringList &arguments)
         return line.refuse(QStringLiteral("-o FILE is missing."));
 
     const QString file = line.operands().constFirst();
-    const GameFolders folders = GameFolders::around(file, line);
+    const MaterialFolders folders = foldersAround(file, line);
     Subject subject;
     QString error = read(file, line.value(QStringLiteral("anim")), folders, subject);
     if (error.isEmpty())
@@ -248,8 +248,9 @@ int render(const QStringList &arguments)
         return line.refuse(
             QStringLiteral("--size: A side can have %1 pixels at most.").arg(scene.longestSide()));
 
-    scene.setModel(subject.rigid() ? MeshSource::from(*subject.rigid(), folders.gamePath, folders.modPath)
-                                   : MeshSource::from(*subject.skinned(), folders.gamePath, folders.modPath));
+    scene.setModel(subject.rigid()
+                       ? MeshSource::from(*subject.rigid(), folders.gamePath, folders.outputDir)
+                       : MeshSource::from(*subject.skinned(), folders.gamePath, folders.outputDir));
     SceneFrame frame;
     pose(scene.model(), frame, subject, *wishes);
     const Framing framing = frameAll(scene.corners(frame), wishes->yaw, wishes->pitch, wishes->size);

@@ -65,6 +65,8 @@ install_package() {
     cp -r samples "$root$samples"
     say "installs what it depends on, and no more"
     expect 0 inside apt-get -q install -y --no-install-recommends "/srv/$(basename "$package")"
+    say "the desktop knows its file types"
+    expect 0 inside grep -q ':application/x-korvane-skinnedmesh:\*.skinnedmesh' /usr/share/mime/globs2
 }
 
 try_tool() {

@@ -23,6 +23,7 @@ namespace {
 std::vector<QVector3D> box(float scale)
 {
     std::vector<QVector3D> points;
+    points.reserve(8);
     for (int corner = 0; corner < 8; ++corner) {
         points.push_back(scale * QVector3D(corner & 1 ? 90.0f : -10.0f, corner & 2 ? 40.0f : 20.0f,
                                            corner & 4 ? 5.0f : -5.0f));

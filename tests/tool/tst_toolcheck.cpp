@@ -87,7 +87,7 @@ void tst_ToolCheck::checkWalksFolders()
     QCOMPARE(bad.exitCode, 1);
     QCOMPARE(bad.json().size(), 2);
     QJsonObject findings;
-    for (const QJsonValue &file : bad.json()) {
+    for (const QJsonValue file : bad.json()) {
         const QJsonArray list = file.toObject().value(QStringLiteral("findings")).toArray();
         for (const QJsonValue &finding : list) {
             if (finding.toObject().value(QStringLiteral("rule")) == QLatin1String("unreadable"))
@@ -135,8 +135,8 @@ void tst_ToolCheck::checkFindsEveryFault()
                        base.folders().outputDir});
     QCOMPARE(run.exitCode, 1);
     QMap<QString, QString> found;
-    for (const QJsonValue &file : run.json()) {
-        for (const QJsonValue &finding : file.toObject().value(QStringLiteral("findings")).toArray()) {
+    for (const QJsonValue file : run.json()) {
+        for (const QJsonValue finding : file.toObject().value(QStringLiteral("findings")).toArray()) {
             const QJsonObject object = finding.toObject();
             found.insert(file.toObject().value(QStringLiteral("file")).toString(),
                          object.value(QStringLiteral("rule")).toString());

@@ -2,12 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "ImportDialog.h"
 
-#include "Fuzzy.h"
 #include "ImportFilter.h"
-#include "ImportFlags.h"
 #include "ImportOutput.h"
 #include "Settings.h"
-#include "Transform.h"
 #include "ui_ImportDialog.h"
 
 #include <QDir>
@@ -16,31 +13,13 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLocale>
-#include <QLoggingCategory>
 #include <QMessageBox>
 #include <QScreen>
 
 #include <algorithm>
 #include <utility>
 
-Q_LOGGING_CATEGORY(importDialogLog, "korvane.import", QtInfoMsg)
-
 namespace {
-constexpr float PitchOfSkinnedMesh = 90.0f;
-constexpr float PitchOfStaticMesh = -90.0f;
-
-QString defaultKMatPath(const QString &modelPath)
-{
-    return QStringLiteral("materials/mat_%1.kmat").arg(QFileInfo(modelPath).completeBaseName());
-}
-
-/// Surfaces refer to the file by its name without the extension, which so has to be this one.
-QString withKMatSuffix(const QString &path)
-{
-    const QString suffix = QStringLiteral(".kmat");
-    return path.endsWith(suffix) ? path : path + suffix;
-}
-
 template <typename T>
 void store(T &field, const SettingKey<T> &key, const T &value)
 {
@@ -64,21 +43,12 @@ ImportDialog::ImportDialog(Mode mode, QWidget *parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::ImportDialog>())
     , m_mode(mode)
-    , m_texturePath(QStringLiteral("textures"))
-    , m_outputDir(Settings::OutputDir.value())
-    , m_swapYZ(Settings::ImportSwapYZ.value())
-    , m_genNormals(Settings::ImportGenNormals.value())
-    , m_flipUV(Settings::ImportFlipUV.value())
-    , m_flipWindingOrder(Settings::ImportFlipWindingOrder.value())
-    , m_copyTextures(Settings::ImportTextures.value())
-    , m_createKMat(Settings::ImportKMat.value())
-    , m_rotatePitch(Settings::ImportRotPitch.value())
 {
     m_ui->setupUi(this);
+    readChoices();
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowTitle(tr("Import model to %1").arg(modeName()));
     m_ui->btnImport->setText(tr("&Import to %1!").arg(modeName()));
-    m_scale = storedScale(*m_ui->sbScale);
     connect(m_ui->btnSuccessCopy, &QPushButton::clicked, m_ui->listSuccess, &MessageList::copy);
     connect(m_ui->btnErrorCopy, &QPushButton::clicked, m_ui->listError, &MessageList::copy);
     for (QLabel *label : findChildren<QLabel *>()) {
@@ -98,6 +68,20 @@ ImportDialog::ImportDialog(Mode mode, QWidget *parent)
 
 ImportDialog::~ImportDialog() = default;
 
+void ImportDialog::readChoices()
+{
+    m_choices.isStatic = m_mode == StaticMeshMode;
+    m_choices.modFolder = Settings::OutputDir.value();
+    m_swapYZ = Settings::ImportSwapYZ.value();
+    m_choices.genNormals = Settings::ImportGenNormals.value();
+    m_choices.flipUV = Settings::ImportFlipUV.value();
+    m_choices.flipWindingOrder = Settings::ImportFlipWindingOrder.value();
+    m_choices.copyTextures = Settings::ImportTextures.value();
+    m_choices.createKMat = Settings::ImportKMat.value();
+    m_choices.rotatePitch = Settings::ImportRotPitch.value();
+    m_choices.scale = storedScale(*m_ui->sbScale);
+}
+
 /// On a small screen the banner makes room for the buttons.
 void ImportDialog::fitToScreen()
 {
@@ -114,19 +98,19 @@ QString ImportDialog::modeName() const
 
 QString ImportDialog::nativeModelPath() const
 {
-    return QDir::toNativeSeparators(m_modelPath);
+    return QDir::toNativeSeparators(m_choices.modelPath);
 }
 
 void ImportDialog::setVersions(qint32 meshVersion, qint32 animVersion)
 {
-    m_meshVersion = meshVersion;
-    m_animVersion = animVersion;
+    m_choices.meshVersion = meshVersion;
+    m_choices.animVersion = animVersion;
 }
 
 void ImportDialog::setModelPath(const QString &path)
 {
-    m_modelPath = QFileInfo(path).absoluteFilePath();
-    m_kmatPath = defaultKMatPath(m_modelPath);
+    m_choices.modelPath = QFileInfo(path).absoluteFilePath();
+    m_choices.kmatPath = defaultKMatPath(m_choices.modelPath);
     fillEditors();
     updateImportButton();
 }
@@ -134,17 +118,17 @@ void ImportDialog::setModelPath(const QString &path)
 void ImportDialog::fillEditors()
 {
     m_ui->txtModelPath->setText(nativeModelPath());
-    m_ui->txtKMatPath->setText(QDir::toNativeSeparators(m_kmatPath));
-    m_ui->txtTexPath->setText(QDir::toNativeSeparators(m_texturePath));
-    m_ui->txtT2Dir->setText(QDir::toNativeSeparators(m_outputDir));
+    m_ui->txtKMatPath->setText(QDir::toNativeSeparators(m_choices.kmatPath));
+    m_ui->txtTexPath->setText(QDir::toNativeSeparators(m_choices.textureFolder));
+    m_ui->txtT2Dir->setText(QDir::toNativeSeparators(m_choices.modFolder));
     m_ui->cbSwapYZ->setChecked(m_swapYZ);
-    m_ui->cbGenNormals->setChecked(m_genNormals);
-    m_ui->cbFlipUV->setChecked(m_flipUV);
-    m_ui->cbFlipWindingOrder->setChecked(m_flipWindingOrder);
-    m_ui->cbCopyTextures->setChecked(m_copyTextures);
-    m_ui->cbCreateKMat->setChecked(m_createKMat);
-    m_ui->cbRotatePitch->setChecked(m_rotatePitch);
-    m_ui->sbScale->setValue(double(m_scale));
+    m_ui->cbGenNormals->setChecked(m_choices.genNormals);
+    m_ui->cbFlipUV->setChecked(m_choices.flipUV);
+    m_ui->cbFlipWindingOrder->setChecked(m_choices.flipWindingOrder);
+    m_ui->cbCopyTextures->setChecked(m_choices.copyTextures);
+    m_ui->cbCreateKMat->setChecked(m_choices.createKMat);
+    m_ui->cbRotatePitch->setChecked(m_choices.rotatePitch);
+    m_ui->sbScale->setValue(double(m_choices.scale));
 }
 
 void ImportDialog::connectEditors()
@@ -182,7 +166,7 @@ void ImportDialog::on_btnModelBrowse_clicked()
 
 void ImportDialog::on_btnT2DirBrowse_clicked()
 {
-    const QString folder = m_chooseFolder(this, tr("Turok 2 Output Folder"), m_outputDir);
+    const QString folder = m_chooseFolder(this, tr("Turok 2 Output Folder"), m_choices.modFolder);
     if (folder.isEmpty())
         return;
     m_ui->txtT2Dir->setText(QDir::toNativeSeparators(folder));
@@ -191,10 +175,10 @@ void ImportDialog::on_btnT2DirBrowse_clicked()
 
 void ImportDialog::on_btnkmatPathBrowse_clicked()
 {
-    QFileDialog dialog(this, tr("Save .kmat"), m_outputDir, tr("Material (*.kmat)"));
+    QFileDialog dialog(this, tr("Save .kmat"), m_choices.modFolder, tr("Material (*.kmat)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("kmat"));
-    const QFileInfo current(m_outputDir + QLatin1Char('/') + m_kmatPath);
+    const QFileInfo current(m_choices.modFolder + QLatin1Char('/') + m_choices.kmatPath);
     if (current.dir().exists())
         dialog.setDirectory(current.path());
     dialog.selectFile(current.fileName());
@@ -206,8 +190,8 @@ void ImportDialog::on_btnkmatPathBrowse_clicked()
 
 void ImportDialog::on_btnTextureDirBrowse_clicked()
 {
-    const QString folder =
-        m_chooseFolder(this, tr("Texture Output Folder"), m_outputDir + QLatin1Char('/') + m_texturePath);
+    const QString folder = m_chooseFolder(this, tr("Texture Output Folder"),
+                                          m_choices.modFolder + QLatin1Char('/') + m_choices.textureFolder);
     if (folder.isEmpty())
         return;
     m_ui->txtTexPath->setText(folder);
@@ -232,38 +216,39 @@ void ImportDialog::keyPressEvent(QKeyEvent *event)
 void ImportDialog::OnTxtModelPathChanged()
 {
     const QString path = QDir::fromNativeSeparators(m_ui->txtModelPath->text());
-    if (path == m_modelPath)
+    if (path == m_choices.modelPath)
         return;
     // A material file that was named after the model before follows; a chosen one stays.
-    const bool follows = m_kmatPath.isEmpty() || m_kmatPath == defaultKMatPath(m_modelPath);
-    m_modelPath = path;
+    const bool follows =
+        m_choices.kmatPath.isEmpty() || m_choices.kmatPath == defaultKMatPath(m_choices.modelPath);
+    m_choices.modelPath = path;
     if (follows)
-        m_kmatPath = defaultKMatPath(path);
-    m_ui->txtKMatPath->setText(QDir::toNativeSeparators(m_kmatPath));
+        m_choices.kmatPath = defaultKMatPath(path);
+    m_ui->txtKMatPath->setText(QDir::toNativeSeparators(m_choices.kmatPath));
 }
 
 void ImportDialog::OnTxtKMatPathChanged()
 {
     const QString typed = QDir::fromNativeSeparators(m_ui->txtKMatPath->text());
     if (typed.isEmpty())
-        m_kmatPath = defaultKMatPath(m_modelPath);
-    else if (typed != m_kmatPath && !refusePath(typed))
-        m_kmatPath = withKMatSuffix(pathInside(m_outputDir, typed));
-    m_ui->txtKMatPath->setText(QDir::toNativeSeparators(m_kmatPath));
+        m_choices.kmatPath = defaultKMatPath(m_choices.modelPath);
+    else if (typed != m_choices.kmatPath && !refusePath(typed))
+        m_choices.kmatPath = withKMatSuffix(pathInside(m_choices.modFolder, typed));
+    m_ui->txtKMatPath->setText(QDir::toNativeSeparators(m_choices.kmatPath));
 }
 
 void ImportDialog::OnTxtTexPathChanged()
 {
     const QString typed = QDir::fromNativeSeparators(m_ui->txtTexPath->text());
-    if (typed != m_texturePath && !refusePath(typed))
-        m_texturePath = pathInside(m_outputDir, typed);
-    m_ui->txtTexPath->setText(QDir::toNativeSeparators(m_texturePath));
+    if (typed != m_choices.textureFolder && !refusePath(typed))
+        m_choices.textureFolder = pathInside(m_choices.modFolder, typed);
+    m_ui->txtTexPath->setText(QDir::toNativeSeparators(m_choices.textureFolder));
 }
 
 /// Says so and returns true when the path is not inside the mod folder.
 bool ImportDialog::refusePath(const QString &path)
 {
-    if (!pathInside(m_outputDir, path).isNull())
+    if (!pathInside(m_choices.modFolder, path).isNull())
         return false;
     if (!m_leaving)
         QMessageBox::warning(this, tr("kmat Path Error"), tr("Path must be relative to Turok 2 Folder"));
@@ -272,7 +257,7 @@ bool ImportDialog::refusePath(const QString &path)
 
 void ImportDialog::OnTxtT2DirChanged()
 {
-    store(m_outputDir, Settings::OutputDir, normalizedFolder(m_ui->txtT2Dir->text()));
+    store(m_choices.modFolder, Settings::OutputDir, normalizedFolder(m_ui->txtT2Dir->text()));
 }
 
 void ImportDialog::OnSwapYZChanged(bool on)
@@ -282,37 +267,37 @@ void ImportDialog::OnSwapYZChanged(bool on)
 
 void ImportDialog::OnGenNormalsChanged(bool on)
 {
-    store(m_genNormals, Settings::ImportGenNormals, on);
+    store(m_choices.genNormals, Settings::ImportGenNormals, on);
 }
 
 void ImportDialog::OnFlipUVChanged(bool on)
 {
-    store(m_flipUV, Settings::ImportFlipUV, on);
+    store(m_choices.flipUV, Settings::ImportFlipUV, on);
 }
 
 void ImportDialog::OnCBcbFlipWindingOrderChanged(bool on)
 {
-    store(m_flipWindingOrder, Settings::ImportFlipWindingOrder, on);
+    store(m_choices.flipWindingOrder, Settings::ImportFlipWindingOrder, on);
 }
 
 void ImportDialog::OnCBCopyTexturesChanged(bool on)
 {
-    store(m_copyTextures, Settings::ImportTextures, on);
+    store(m_choices.copyTextures, Settings::ImportTextures, on);
 }
 
 void ImportDialog::OnCBCreateKMatChanged(bool on)
 {
-    store(m_createKMat, Settings::ImportKMat, on);
+    store(m_choices.createKMat, Settings::ImportKMat, on);
 }
 
 void ImportDialog::OnCBRotatePitchChanged(bool on)
 {
-    store(m_rotatePitch, Settings::ImportRotPitch, on);
+    store(m_choices.rotatePitch, Settings::ImportRotPitch, on);
 }
 
 void ImportDialog::OnScaleChanged(double scale)
 {
-    store(m_scale, Settings::ImportScale, float(scale));
+    store(m_choices.scale, Settings::ImportScale, float(scale));
 }
 
 void ImportDialog::updateImportButton()
@@ -322,51 +307,20 @@ void ImportDialog::updateImportButton()
 
 // --- Run ---------------------------------------------------------------------------------------------------
 
-QStringList ImportDialog::outputProblems() const
-{
-    const auto native = [](const QString &path) { return QDir::toNativeSeparators(path); };
-    const QString root = m_outputDir + QLatin1Char('/');
-    const QString kmatFolder = QFileInfo(root + m_kmatPath).path();
-    QStringList problems;
-    if (m_outputDir.isEmpty() || !QFileInfo(m_outputDir).isDir())
-        problems += tr("Turok 2 Folder '%1' doesn't exist.").arg(native(m_outputDir));
-    if (m_createKMat && !QFileInfo(kmatFolder).isDir())
-        problems += tr("Turok 2 Folder + kmat Path '%1' doesn't exist.").arg(native(kmatFolder));
-    if (m_copyTextures && !QFileInfo(root + m_texturePath).isDir())
-        problems +=
-            tr("Turok 2 Folder + Texture Folder '%1' doesn't exist.").arg(native(root + m_texturePath));
-    return problems;
-}
-
-quint32 ImportDialog::importFlags() const
-{
-    return (m_mode == SkinnedMeshMode ? ImportFlags::SkinnedMesh : ImportFlags::StaticMesh) |
-           (m_genNormals ? ImportFlags::GenerateNormals : 0) | (m_flipUV ? ImportFlags::FlipUV : 0) |
-           (m_flipWindingOrder ? ImportFlags::FlipWindingOrder : 0);
-}
-
 void ImportDialog::on_btnImport_clicked()
 {
-    const QStringList problems = outputProblems();
+    const QStringList problems = outputProblems(m_choices);
     if (!problems.isEmpty()) {
         QMessageBox::warning(this, tr("Output Folder Error"), problems.join(QLatin1Char('\n')));
         return;
     }
-    WorkerJob job;
-    job.task =
-        m_mode == SkinnedMeshMode ? WorkerJob::Task::ImportSkinnedMesh : WorkerJob::Task::ImportStaticMesh;
-    job.modelPath = m_modelPath;
-    job.kmatPath = m_kmatPath;
-    job.flags = importFlags();
-    job.meshVersion = m_meshVersion;
-    job.animVersion = m_animVersion;
     m_worker.setTimeLimit(timeLimit() * 1000);
 
     m_ui->lblProgress->setText(tr("Reading '%1'").arg(nativeModelPath()));
     m_ui->stackPages->setCurrentWidget(m_ui->pageProgress);
     m_ui->btnStop->setFocus();
     m_tick.start();
-    m_worker.start(job);
+    m_worker.start(importJob(m_choices));
     updateElapsed();
 }
 
@@ -434,45 +388,24 @@ void ImportDialog::finishSkinnedMesh(ImportMessages &messages, QString &outcome)
     SkinnedMesh mesh;
     AnimFile anim;
     if (m_worker.read(mesh, anim)) {
-        messages.addError(tr("%1 Could not read file. The result was damaged.").arg(m_modelPath));
+        messages.addError(tr("%1 Could not read file. The result was damaged.").arg(m_choices.modelPath));
         return;
     }
-    writeOutputs(mesh, messages, outcome);
-    if (m_rotatePitch) {
-        mesh.rotate(PitchOfSkinnedMesh, 0.0f, 0.0f);
-        boundVertices(mesh);
-    }
-    if (!fuzzyEqual(m_scale, 1.0f))
-        mesh.scale(m_scale);
-    emit skinnedMeshImported(mesh, anim, QFileInfo(m_modelPath).completeBaseName());
+    outcome = writeOutputs(m_choices, mesh, m_worker.textures(), messages);
+    transformImported(mesh, m_choices);
+    emit skinnedMeshImported(mesh, anim, QFileInfo(m_choices.modelPath).completeBaseName());
 }
 
 void ImportDialog::finishStaticMesh(ImportMessages &messages, QString &outcome)
 {
     StaticMesh mesh;
     if (m_worker.read(mesh)) {
-        messages.addError(tr("%1 Could not read file. The result was damaged.").arg(m_modelPath));
+        messages.addError(tr("%1 Could not read file. The result was damaged.").arg(m_choices.modelPath));
         return;
     }
-    writeOutputs(mesh, messages, outcome);
-    if (m_rotatePitch)
-        mesh.rotate(PitchOfStaticMesh, 0.0f, 0.0f);
-    if (!fuzzyEqual(m_scale, 1.0f))
-        mesh.scale(m_scale);
-    emit staticMeshImported(mesh, QFileInfo(m_modelPath).completeBaseName());
-}
-
-template <typename Mesh>
-void ImportDialog::writeOutputs(const Mesh &mesh, ImportMessages &messages, QString &outcome) const
-{
-    const QString root = m_outputDir + QLatin1Char('/');
-    if (m_copyTextures)
-        outcome += copyTextures(m_worker.textures(), root + m_texturePath, messages);
-    if (m_createKMat) {
-        qCDebug(importDialogLog, "[Write to .kmat] %s", qUtf8Printable(root + m_kmatPath));
-        outcome += createKMat(root + m_kmatPath,
-                              materialsOf(mesh.surfaces, m_worker.textures(), m_texturePath), messages);
-    }
+    outcome = writeOutputs(m_choices, mesh, m_worker.textures(), messages);
+    transformImported(mesh, m_choices);
+    emit staticMeshImported(mesh, QFileInfo(m_choices.modelPath).completeBaseName());
 }
 
 void ImportDialog::showSuccess(const ImportMessages &messages, const QString &outcome)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "FolderChooser.h"
+#include "ImportSteps.h"
 #include "ImportWorker.h"
 
 #include <QDialog>
@@ -69,20 +70,17 @@ private slots:
 private:
     QString modeName() const;
     QString nativeModelPath() const;
+    void readChoices();
     void fitToScreen();
     void fillEditors();
     void connectEditors();
     void updateElapsed();
     void updateImportButton();
     bool refusePath(const QString &path);
-    QStringList outputProblems() const;
-    quint32 importFlags() const;
 
     void onWorkerFinished();
     void finishSkinnedMesh(ImportMessages &messages, QString &outcome);
     void finishStaticMesh(ImportMessages &messages, QString &outcome);
-    template <typename Mesh>
-    void writeOutputs(const Mesh &mesh, ImportMessages &messages, QString &outcome) const;
     void showSuccess(const ImportMessages &messages, const QString &outcome);
     void showError(const ImportMessages &messages);
 
@@ -91,20 +89,8 @@ private:
     FolderChooser m_chooseFolder = chooseFolder;
     ImportWorker m_worker;
     QTimer m_tick; ///< of the elapsed time
-    QString m_modelPath;
-    QString m_kmatPath;    ///< relative to the mod folder
-    QString m_texturePath; ///< a folder, relative to the mod folder
-    QString m_outputDir;
-    qint32 m_meshVersion = 2;
-    qint32 m_animVersion = 2;
-    bool m_swapYZ;
-    bool m_genNormals;
-    bool m_flipUV;
-    bool m_flipWindingOrder;
-    bool m_copyTextures;
-    bool m_createKMat;
-    bool m_rotatePitch;
-    float m_scale;
+    ImportChoices m_choices;
+    bool m_swapYZ = false;      ///< kept, and of no effect
     bool m_leaving = false;     ///< what is typed does not matter any more
     bool m_pathEntered = false; ///< the Enter key that comes next has ended the typing of a path
 };

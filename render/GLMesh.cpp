@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "GLMesh.h"
 
+#include "PosedVertices.h"
 #include "ShaderPrograms.h"
 
 #include <QOpenGLContext>
 #include <QOpenGLExtraFunctions>
 
+#include <algorithm>
 #include <cstdint>
 
 namespace {
@@ -87,6 +89,11 @@ void GLMesh::refresh(const SkinnedMesh &mesh, bool indexesToo)
 void GLMesh::refresh(const StaticMesh &mesh, bool indexesToo)
 {
     refreshFrom(mesh, indexesToo);
+}
+
+QVector3D GLMesh::place(quint16 vertex) const
+{
+    return posedPlace(m_vertices.vertices[vertex], palette);
 }
 
 void GLMesh::uploadVertices()

@@ -35,6 +35,8 @@ public:
     void refresh(const StaticMesh &mesh, bool indexesToo);
 
     const MeshVertices &vertices() const { return m_vertices; }
+    /// Where a vertex stands in the model's space, posed by the palette.
+    QVector3D place(quint16 vertex) const;
     QVector3D boxMin() const { return m_vertices.boxMin; }
     QVector3D boxMax() const { return m_vertices.boxMax; }
 

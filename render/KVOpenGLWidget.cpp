@@ -69,7 +69,7 @@ void KVOpenGLWidget::initializeGL()
         fail(tr("Models cannot be drawn: the graphics driver does not take the program's shaders.\n"
                 "It must offer OpenGL 3.0 or later."));
     });
-    m_painter->setUpState(m_background);
+    m_painter->setUpState(QColor(m_background.rgb()));
     m_painter->setBackFaceCulling(m_backCull);
     m_appliedBackCull = m_backCull;
     buildModel();
@@ -331,7 +331,7 @@ void KVOpenGLWidget::setBackgroundColor(const QColor &color)
     m_background = color;
     if (m_painter) {
         makeCurrent();
-        m_painter->setBackground(color);
+        m_painter->setBackground(QColor(color.rgb()));
         doneCurrent();
     }
     update();

@@ -86,11 +86,10 @@ MeshSource sourceWithoutImages(const Model &mesh)
 }
 
 template <typename Model>
-MeshSource sourceOf(const Model &mesh)
+MeshSource sourceOf(const Model &mesh, const QString &gamePath, const QString &outputDir)
 {
     MeshSource source = sourceWithoutImages(mesh);
-    MaterialTextures textures(Settings::GamePath.value(), Settings::OutputDir.value(),
-                              Traits<Model>::logTag());
+    MaterialTextures textures(gamePath, outputDir, Traits<Model>::logTag());
     source.images.reserve(mesh.surfaces.size());
     for (const auto &surface : mesh.surfaces)
         source.images.push_back(textures.image(surface.materialPath));
@@ -143,12 +142,22 @@ void MeshVertices::measure()
 
 MeshSource MeshSource::from(const SkinnedMesh &mesh)
 {
-    return sourceOf(mesh);
+    return sourceOf(mesh, Settings::GamePath.value(), Settings::OutputDir.value());
 }
 
 MeshSource MeshSource::from(const StaticMesh &mesh)
 {
-    return sourceOf(mesh);
+    return sourceOf(mesh, Settings::GamePath.value(), Settings::OutputDir.value());
+}
+
+MeshSource MeshSource::from(const SkinnedMesh &mesh, const QString &gamePath, const QString &outputDir)
+{
+    return sourceOf(mesh, gamePath, outputDir);
+}
+
+MeshSource MeshSource::from(const StaticMesh &mesh, const QString &gamePath, const QString &outputDir)
+{
+    return sourceOf(mesh, gamePath, outputDir);
 }
 
 MeshSource MeshSource::from(const StaticMesh &mesh, const QImage &image)

@@ -50,9 +50,13 @@ struct MeshSource
     std::vector<QImage> images;                ///< one per surface
     size_t boneCount = 0;
 
-    /// Copies a model and finds its textures. Logs what is missing and which triangles cannot be drawn.
+    /// Copies a model and finds its textures in the folders of the settings. Logs what is missing and which
+    /// triangles cannot be drawn.
     static MeshSource from(const SkinnedMesh &mesh);
     static MeshSource from(const StaticMesh &mesh);
+    /// The same with other folders; an empty one is not searched.
+    static MeshSource from(const SkinnedMesh &mesh, const QString &gamePath, const QString &outputDir);
+    static MeshSource from(const StaticMesh &mesh, const QString &gamePath, const QString &outputDir);
     /// The same with one image for all surfaces, without a look at materials and without a log line.
     static MeshSource from(const StaticMesh &mesh, const QImage &image);
 };

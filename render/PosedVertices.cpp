@@ -6,16 +6,19 @@
 
 #include <algorithm>
 
+QVector3D posedPlace(const GLVertex &vertex, const BonePalette &palette)
+{
+    const QVector3D place(vertex.position[0], vertex.position[1], vertex.position[2]);
+    const size_t bone = size_t(std::min(vertex.boneId, ShaderPrograms::BoneLimit - 1));
+    return bone < palette.size() ? palette[bone].map(place) : place;
+}
+
 void poseVertices(std::vector<GLVertex> &posed, const std::vector<GLVertex> &vertices,
                   const std::vector<quint16> &indexes, const BonePalette &palette)
 {
     posed.resize(vertices.size());
     for (quint16 index : indexes) {
-        const float *from = vertices[index].position;
-        QVector3D place(from[0], from[1], from[2]);
-        const size_t bone = size_t(std::min(vertices[index].boneId, ShaderPrograms::BoneLimit - 1));
-        if (bone < palette.size())
-            place = palette[bone].map(place);
+        const QVector3D place = posedPlace(vertices[index], palette);
         for (int axis = 0; axis < 3; ++axis)
             posed[index].position[axis] = place[axis];
     }

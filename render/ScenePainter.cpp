@@ -73,12 +73,15 @@ void ScenePainter::setUpState(const QColor &background)
     m_gl.glEnable(GL_DEPTH_TEST);
     m_gl.glEnable(GL_BLEND);
     m_gl.glEnable(GL_PROGRAM_POINT_SIZE);
-    m_gl.glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
+    // The frame's own alpha is how much of the background is covered.
+    m_gl.glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
 }
 
 void ScenePainter::setBackground(const QColor &color)
 {
-    m_gl.glClearColor(float(color.redF()), float(color.greenF()), float(color.blueF()), 1.0f);
+    const auto alpha = float(color.alphaF());
+    m_gl.glClearColor(alpha * float(color.redF()), alpha * float(color.greenF()),
+                      alpha * float(color.blueF()), alpha);
 }
 
 void ScenePainter::setBackFaceCulling(bool on)

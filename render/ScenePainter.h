@@ -55,7 +55,8 @@ public:
     /// No model: an empty mesh stands in.
     void clearModel();
 
-    /// Depth test, blending, point size and clear colour.
+    /// Depth test, blending, point size and clear colour. Over a transparent background the frame comes out
+    /// premultiplied.
     void setUpState(const QColor &background);
     void setBackground(const QColor &color);
     /// Clockwise triangles are front faces.

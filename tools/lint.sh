@@ -51,7 +51,9 @@ scripts() {
     done
 }
 
-script_faults() { scripts | xargs -0 -r shellcheck; }
+script_faults() { { scripts && files '*.bash'; } | xargs -0 -r shellcheck; }
+
+manual_pages() { files 'packaging/*.1' | xargs -0 -r groff -man -ww -z 2>&1 | none 'Faults of manual pages'; }
 
 # The headers that moc and uic write have to be there. Their CMake targets would first build the libraries that
 # a target links; the command behind them does not.
@@ -80,7 +82,7 @@ no_upward_includes() {
 }
 
 licence_headers() {
-    { files '*.cpp' '*.h' '*.cmake' '*CMakeLists.txt' && scripts; } \
+    { files '*.cpp' '*.h' '*.cmake' '*CMakeLists.txt' 'packaging/*.1' 'packaging/completions/*' && scripts; } \
         | search -L 'SPDX-License-Identifier: ' | none 'No SPDX header'
 }
 
@@ -127,6 +129,7 @@ check 'open ends' nothing_left_open
 check 'wording' own_words
 check 'links of the documents' links_resolve
 check 'desktop entry and metainfo' desktop_files
+check 'manual pages' manual_pages
 check 'moc and uic' generated_headers
 check 'clang-tidy' tidy
 

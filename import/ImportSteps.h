@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ImportMessages.h"
+#include "WorkerJob.h"
+
+#include <QString>
+#include <QStringList>
+
+/// Everything that can be chosen for an import.
+struct ImportChoices
+{
+    bool isStatic = false;
+    QString modelPath;
+    QString modFolder;
+    QString kmatPath;                                   ///< relative to the mod folder
+    QString textureFolder = QStringLiteral("textures"); ///< relative to the mod folder
+    bool genNormals = true;
+    bool flipUV = false;
+    bool flipWindingOrder = false;
+    bool copyTextures = false;
+    bool createKMat = false;
+    bool rotatePitch = true;
+    float scale = 1.0f;
+    qint32 meshVersion = 2;
+    qint32 animVersion = 2;
+};
+
+/// The material file named after a model, relative to the mod folder.
+QString defaultKMatPath(const QString &modelPath);
+
+/// Surfaces refer to the material file by its name without the extension, which so has to be this one.
+QString withKMatSuffix(const QString &path);
+
+/// Which folders the import would need are not there, a line each.
+QStringList outputProblems(const ImportChoices &choices);
+
+WorkerJob importJob(const ImportChoices &choices);
+
+/// Copies textures and writes the material file as far as that was chosen; gives the lines that say how that
+/// ended. `textures` are those of the surfaces that have one, in their order.
+[[nodiscard]] QString writeOutputs(const ImportChoices &choices, const SkinnedMesh &mesh,
+                                   const QStringList &textures, ImportMessages &messages);
+[[nodiscard]] QString writeOutputs(const ImportChoices &choices, const StaticMesh &mesh,
+                                   const QStringList &textures, ImportMessages &messages);
+
+/// Turns and scales what was read, the last step of an import.
+void transformImported(SkinnedMesh &mesh, const ImportChoices &choices);
+void transformImported(StaticMesh &mesh, const ImportChoices &choices);

@@ -1,0 +1,81 @@
+# SPDX-FileCopyrightText: The Korvane developers
+# SPDX-License-Identifier: MIT
+# shellcheck shell=bash
+
+# Completion of korvane-tool for bash.
+
+# _korvane_tool_files [EXTENSIONS]: folders, and the files with one of these extensions ("a|b").
+_korvane_tool_files() {
+    local name
+    compopt -o filenames 2>/dev/null
+    while IFS= read -r name; do
+        if [[ -z ${1:-} || -d $name || ${name,,} =~ \.($1)$ ]]; then
+            COMPREPLY+=("$name")
+        fi
+    done < <(compgen -f -- "$cur")
+}
+
+_korvane_tool() {
+    local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD - 1]} verb=${COMP_WORDS[1]:-}
+    local verbs='info check resave import export render' options=''
+    COMPREPLY=()
+
+    if ((COMP_CWORD == 1)) || [[ $verb == help ]]; then
+        mapfile -t COMPREPLY < <(compgen -W "$verbs help --help --version" -- "$cur")
+        return
+    fi
+
+    case $prev in
+    -o | --output)
+        _korvane_tool_files
+        return
+        ;;
+    --game-path | --mod-path | --texture-folder)
+        compopt -o filenames 2>/dev/null
+        mapfile -t COMPREPLY < <(compgen -d -- "$cur")
+        return
+        ;;
+    --anim)
+        _korvane_tool_files anim
+        return
+        ;;
+    --kmat)
+        _korvane_tool_files kmat
+        return
+        ;;
+    --background)
+        mapfile -t COMPREPLY < <(compgen -W 'transparent black white gray' -- "$cur")
+        return
+        ;;
+    --scale | --time-limit | --block | --frame | --size | --yaw | --pitch)
+        return
+        ;;
+    esac
+
+    case $verb in
+    info) options='--json --help' ;;
+    check) options='--json --all --game-path --mod-path --help' ;;
+    resave) options='--output --force --help' ;;
+    import)
+        options='--output --static --force --no-normals --flip-uv --flip-winding --no-rotate --scale --mod-path
+            --create-kmat --copy-textures --kmat --texture-folder --time-limit --help'
+        ;;
+    export) options='--output --force --game-path --mod-path --help' ;;
+    render)
+        options='--output --anim --block --frame --size --background --yaw --pitch --game-path --mod-path --help'
+        ;;
+    esac
+    if [[ $cur == -* ]]; then
+        mapfile -t COMPREPLY < <(compgen -W "$options" -- "$cur")
+        return
+    fi
+
+    case $verb in
+    info | check) _korvane_tool_files 'skinnedmesh|anim|staticmesh|kmat' ;;
+    resave | render) _korvane_tool_files 'skinnedmesh|anim|staticmesh' ;;
+    export) _korvane_tool_files staticmesh ;;
+    import) _korvane_tool_files ;;
+    esac
+}
+
+complete -F _korvane_tool korvane-tool

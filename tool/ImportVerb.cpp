@@ -1,0 +1,215 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "CommandLine.h"
+#include "ImportFilter.h"
+#include "ImportOutput.h"
+#include "ImportSteps.h"
+#include "Output.h"
+#include "Settings.h"
+#include "Verbs.h"
+#include "WorkerRun.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+constexpr int LongestTime = 3600; // seconds
+constexpr float LeastScale = 1.0e-6f;
+constexpr float GreatestScale = 1.0e6f;
+
+void addOptions(CommandLine &line)
+{
+    line.option(
+        {QStringLiteral("o"), QStringLiteral("output")}, QStringLiteral("folder"),
+        QStringLiteral("Folder for the results, named after the model: NAME.skinnedmesh and, if the model "
+                       "has animations, NAME.anim; or NAME.staticmesh."));
+    line.flag(QStringLiteral("static"), QStringLiteral("Make a static mesh."));
+    line.flag(QStringLiteral("force"),
+              QStringLiteral("Replace files that exist, materials and textures too."));
+    line.flag(QStringLiteral("no-normals"),
+              QStringLiteral("Generate no normals. A skinned mesh cannot do without."));
+    line.flag(QStringLiteral("flip-uv"), QStringLiteral("Flip all UV coordinates along the y-axis."));
+    line.flag(QStringLiteral("flip-winding"),
+              QStringLiteral("Turn the order of the corners of all triangles."));
+    line.flag(QStringLiteral("no-rotate"),
+              QStringLiteral("Leave out the turn by 90 degrees that sets a y-up model "
+                             "upright."));
+    line.option({QStringLiteral("scale")}, QStringLiteral("factor"), QStringLiteral("Scale the model."),
+                QStringLiteral("1"));
+    line.option(
+        {QStringLiteral("mod-path")}, QStringLiteral("folder"),
+        QStringLiteral("Mod folder that takes materials and textures; by default the one of the editor's "
+                       "options."));
+    line.flag(QStringLiteral("create-kmat"), QStringLiteral("Write the material file into the mod folder."));
+    line.flag(QStringLiteral("copy-textures"),
+              QStringLiteral("Copy the model's .png textures into the mod folder."));
+    line.option({QStringLiteral("kmat")}, QStringLiteral("file"),
+                QStringLiteral("The material file that the surfaces name, inside the mod folder; by default "
+                               "materials/mat_NAME.kmat."));
+    line.option({QStringLiteral("texture-folder")}, QStringLiteral("folder"),
+                QStringLiteral("Folder for textures, inside the mod folder."), QStringLiteral("textures"));
+    line.option({QStringLiteral("time-limit")}, QStringLiteral("seconds"),
+                QStringLiteral("Give up after this long."), QStringLiteral("60"));
+}
+
+/// Returns true when a path is wrong, which standard error then says.
+bool choosePaths(ImportChoices &choices, const CommandLine &line)
+{
+    const auto inside = [&](QString &path, const QString &option, const QString &given) {
+        path = pathInside(choices.modFolder, given);
+        if (!path.isNull())
+            return false;
+        line.refuse(QStringLiteral("--%1 '%2' is not inside the mod folder.").arg(option, given));
+        return true;
+    };
+    choices.modFolder = line.isSet(QStringLiteral("mod-path")) ? line.value(QStringLiteral("mod-path"))
+                                                               : Settings::OutputDir.value();
+    const QString kmat = line.isSet(QStringLiteral("kmat")) ? line.value(QStringLiteral("kmat"))
+                                                            : defaultKMatPath(choices.modelPath);
+    if (inside(choices.kmatPath, QStringLiteral("kmat"), withKMatSuffix(kmat)) ||
+        inside(choices.textureFolder, QStringLiteral("texture-folder"),
+               line.value(QStringLiteral("texture-folder"))))
+        return true;
+    // Nothing goes into the mod folder otherwise, so there need not be one.
+    if (!choices.copyTextures && !choices.createKMat)
+        return false;
+    const QStringList problems = outputProblems(choices);
+    if (!problems.isEmpty())
+        line.refuse(problems.join(QLatin1Char(' ')));
+    return !problems.isEmpty();
+}
+
+/// What an import has given, and where it goes.
+struct Results
+{
+    SkinnedMesh skinned;
+    AnimFile anim;
+    StaticMesh rigid;
+    QString target; ///< without the extension
+};
+
+/// Says which files the import would replace; there are none where that is wanted.
+bool wouldReplace(const Results &results, const ImportChoices &choices, const QStringList &textures)
+{
+    const QDir mod(choices.modFolder);
+    QStringList files{results.target +
+                      (choices.isStatic ? QStringLiteral(".staticmesh") : QStringLiteral(".skinnedmesh"))};
+    if (!results.anim.blocks.empty())
+        files += results.target + QStringLiteral(".anim");
+    if (choices.createKMat)
+        files += mod.filePath(choices.kmatPath);
+    for (const QString &texture : choices.copyTextures ? textures : QStringList()) {
+        const QString copy =
+            mod.filePath(choices.textureFolder + QLatin1Char('/') + QFileInfo(texture).fileName());
+        // One that is in its place already is left alone.
+        if (QFileInfo(copy).canonicalFilePath() != QFileInfo(texture).canonicalFilePath())
+            files += copy;
+    }
+    bool any = false;
+    for (const QString &file : qAsConst(files)) {
+        if (!QFileInfo::exists(file))
+            continue;
+        any = true;
+        Output::complain(QStringLiteral("%1: The file exists already; --force replaces it.").arg(file));
+    }
+    return any;
+}
+
+/// Returns true on failure.
+template <typename Model>
+bool write(const Model &model, const QString &path)
+{
+    const QString refusal = model.refusal();
+    if (refusal.isEmpty() && !model.write(path)) {
+        Output::line(path);
+        return false;
+    }
+    Output::complain(QStringLiteral("%1: %2").arg(
+        path, refusal.isEmpty() ? QStringLiteral("The file cannot be written.") : refusal));
+    return true;
+}
+
+/// Takes the last steps with what the worker has read. Returns true on failure.
+bool finish(const ImportWorker &worker, const ImportChoices &choices, Results &results, bool replaces)
+{
+    if (choices.isStatic ? worker.read(results.rigid) : worker.read(results.skinned, results.anim)) {
+        Output::complain(QStringLiteral("%1: The result was damaged.").arg(choices.modelPath));
+        return true;
+    }
+    const QStringList &textures = worker.textures();
+    if (!replaces && wouldReplace(results, choices, textures))
+        return true;
+
+    ImportMessages messages = worker.messages();
+    QString outcome;
+    bool failed = false;
+    if (choices.isStatic) {
+        outcome = writeOutputs(choices, results.rigid, textures, messages);
+        transformImported(results.rigid, choices);
+        failed = write(results.rigid, results.target + QStringLiteral(".staticmesh"));
+    } else {
+        outcome = writeOutputs(choices, results.skinned, textures, messages);
+        transformImported(results.skinned, choices);
+        failed = write(results.skinned, results.target + QStringLiteral(".skinnedmesh"));
+        if (!results.anim.blocks.empty())
+            failed = write(results.anim, results.target + QStringLiteral(".anim")) || failed;
+    }
+    Output::tell(messages);
+    for (const QString &text : outcome.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+        const bool isFailure = text.startsWith(QLatin1String("Failed"));
+        failed = failed || isFailure;
+        if (isFailure)
+            Output::complain(text);
+        else
+            Output::line(text);
+    }
+    return failed;
+}
+} // namespace
+
+int importModel(const QStringList &arguments)
+{
+    CommandLine line(
+        QStringLiteral("import"), QStringLiteral("MODEL"),
+        QStringLiteral("Turns a model of another program (OBJ, Collada, FBX, glTF and others) into a "
+                       "skinned mesh with its animations, or into a static mesh."));
+    addOptions(line);
+    if (const auto end = line.parse(arguments, false))
+        return *end;
+    const auto scale = line.number(QStringLiteral("scale"), LeastScale, GreatestScale);
+    const auto timeLimit = line.integer(QStringLiteral("time-limit"), 1, LongestTime);
+    if (!scale || !timeLimit)
+        return WrongUsage;
+    if (!line.isSet(QStringLiteral("output")))
+        return line.refuse(QStringLiteral("-o FOLDER is missing."));
+    const QDir folder(line.value(QStringLiteral("output")));
+    if (!folder.exists())
+        return line.refuse(QStringLiteral("There is no folder '%1'.").arg(folder.path()));
+
+    ImportChoices choices;
+    choices.isStatic = line.isSet(QStringLiteral("static"));
+    choices.modelPath = line.operands().constFirst();
+    choices.genNormals = !line.isSet(QStringLiteral("no-normals"));
+    choices.flipUV = line.isSet(QStringLiteral("flip-uv"));
+    choices.flipWindingOrder = line.isSet(QStringLiteral("flip-winding"));
+    choices.copyTextures = line.isSet(QStringLiteral("copy-textures"));
+    choices.createKMat = line.isSet(QStringLiteral("create-kmat"));
+    choices.rotatePitch = !line.isSet(QStringLiteral("no-rotate"));
+    choices.scale = *scale;
+    if (choosePaths(choices, line))
+        return WrongUsage;
+    if (!QFileInfo(choices.modelPath).isFile()) {
+        Output::complain(QStringLiteral("%1: There is no such file.").arg(choices.modelPath));
+        return Failed;
+    }
+
+    ImportWorker worker;
+    runJob(worker, *timeLimit, importJob(choices));
+    if (worker.messages().hasError()) {
+        Output::tell(worker.messages());
+        return Failed;
+    }
+    Results results;
+    results.target = folder.filePath(QFileInfo(choices.modelPath).completeBaseName());
+    return finish(worker, choices, results, line.isSet(QStringLiteral("force"))) ? Failed : Fine;
+}

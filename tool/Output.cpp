@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "Output.h"
+
+#include "ImportMessages.h"
+
+#include <QJsonDocument>
+
+#include <cstdio>
+
+namespace {
+void write(std::FILE *to, const QByteArray &bytes)
+{
+    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), to);
+    std::fflush(to);
+}
+} // namespace
+
+void Output::line(const QString &text)
+{
+    write(stdout, text.toUtf8() + '\n');
+}
+
+void Output::json(const QJsonArray &array)
+{
+    write(stdout, QJsonDocument(array).toJson());
+}
+
+void Output::complain(const QString &text)
+{
+    write(stderr, "korvane-tool: " + text.toUtf8() + '\n');
+}
+
+void Output::tell(const ImportMessages &messages)
+{
+    for (const ImportMessage &message : messages.lines) {
+        switch (message.severity) {
+        case LogSeverity::Error:
+            complain(QStringLiteral("error: ") + message.text);
+            break;
+        case LogSeverity::Warning:
+            complain(QStringLiteral("warning: ") + message.text);
+            break;
+        case LogSeverity::Info:
+            line(message.text);
+            break;
+        }
+    }
+}

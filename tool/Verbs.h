@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringList>
+
+/// How a run ends.
+enum ExitCode : int {
+    Fine = 0,
+    Failed = 1,     ///< something could not be read or done, or the check found an error
+    WrongUsage = 2, ///< nothing was done
+    NoScreen = 3,   ///< nothing could be drawn
+};
+
+/// One of the things that the tool can be asked for.
+struct Verb
+{
+    const char *name;
+    const char *summary;
+    /// Takes what stands behind the verb and gives the exit code.
+    int (*run)(const QStringList &arguments);
+    bool draws = false;
+};
+
+int info(const QStringList &arguments);
+int check(const QStringList &arguments);
+int resave(const QStringList &arguments);
+int importModel(const QStringList &arguments);
+int exportModel(const QStringList &arguments);
+int render(const QStringList &arguments);

@@ -161,8 +161,10 @@ void MainWindow::createViewToolBars()
     showViewportFailure(m_ui->viewSkinned, m_ui->vlviewSkinned);
     showViewportFailure(m_ui->viewStatic, m_ui->vlviewStatic);
     new ViewPreferences({skinned, rigid}, viewports(), actions, this);
-    for (KVOpenGLWidget *viewport : viewports())
+    for (KVOpenGLWidget *viewport : viewports()) {
         connect(viewport, &KVOpenGLWidget::positionReadOut, this, &MainWindow::showReadOut);
+        connect(viewport, &KVOpenGLWidget::contextLost, this, &MainWindow::OnContextLost);
+    }
 }
 
 void MainWindow::readSettings()

@@ -61,6 +61,7 @@ private slots:
     void on_tabTrees_currentChanged(int index);
     void OnConsoleCustomContextMenu(const QPoint &position);
     void OnUndoCleanChanged();
+    void OnContextLost();
 
 private:
     void createConsole();

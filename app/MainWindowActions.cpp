@@ -9,6 +9,7 @@
 #include "DocumentFiles.h"
 #include "FolderExplorer.h"
 #include "ImportExport.h"
+#include "KVOpenGLWidget.h"
 #include "ModelTransforms.h"
 #include "OptionsDialog.h"
 #include "ui_MainWindow.h"
@@ -164,4 +165,18 @@ void MainWindow::OnConsoleCustomContextMenu(const QPoint &position)
 void MainWindow::OnUndoCleanChanged()
 {
     updateCurrentDocument();
+}
+
+// The context that puts the window together shares with the viewports' and is lost with them; only a new
+// native window has a new one.
+void MainWindow::OnContextLost()
+{
+    const QPoint place = pos(); // a window manager would choose another
+    hide();
+    destroy();
+    for (KVOpenGLWidget *viewport : viewports())
+        viewport->renewContext();
+    if (!(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)))
+        move(place);
+    show();
 }

@@ -33,6 +33,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
@@ -191,6 +192,14 @@ void MainWindow::createPrompts()
     auto *recovery = new Recovery(*m_files, SnapshotStore::defaultRoot(), this);
     connect(recovery, &Recovery::restored, this, &MainWindow::showPane);
     new RecoveryPrompt(*recovery, m_ui->actionRecover, m_ui->vlCentral, this);
+}
+
+void MainWindow::paintEvent(QPaintEvent *event)
+{
+    QMainWindow::paintEvent(event);
+    // What the first frame need not wait for.
+    if (!std::exchange(m_painted, true))
+        QTimer::singleShot(0, m_ui->tabDatabase, &DatabaseTab::load);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

@@ -35,6 +35,7 @@ public:
     void openFiles(const QStringList &paths);
 
 protected:
+    void paintEvent(QPaintEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private slots:
@@ -96,5 +97,6 @@ private:
     ImportExport *m_importExport;
     DocumentPanes m_panes{};
     bool m_askedForFolders = false;
+    bool m_painted = false;
     QString m_readOut; ///< the camera position that the status bar shows
 };

@@ -28,6 +28,7 @@ private slots:
     void init();
     void theWindowComesBackAsItWas();
     void aDriverThatGoesOnFailingCostsTheViewOnly();
+    void noContextIsToBeHad();
 
 private:
     template <typename Widget>
@@ -58,6 +59,21 @@ private:
                 QVERIFY(!context->create());
             }
         }
+    }
+    /// The notice is in the view's place, and really on the screen: a window that cannot be put together
+    /// stays black.
+    static void checkNotice(const MainWindow &window, const QString &word)
+    {
+        const auto *notice = find<QWidget>(window, "viewSkinnedPanel")
+                                 ->findChild<QLabel *>(QStringLiteral("lblViewportFailure"));
+        QTRY_VERIFY(notice->isVisible());
+        QVERIFY(notice->text().contains(word));
+        const QPoint corner = notice->mapToGlobal({10, 10});
+        QTRY_COMPARE(QGuiApplication::primaryScreen()
+                         ->grabWindow(0, corner.x(), corner.y(), 1, 1)
+                         .toImage()
+                         .pixelColor(0, 0),
+                     window.palette().color(QPalette::Window));
     }
     /// Of what is really on the screen.
     static int whitePixels(const QWidget *view)
@@ -158,16 +174,21 @@ void TestGraphicsReset::aDriverThatGoesOnFailingCostsTheViewOnly()
         view, &QOpenGLWidget::frameSwapped, &window, [&window] { reset(window); }, Qt::QueuedConnection);
     view->update();
     QTRY_COMPARE(failed.count(), 1);
-    const auto *notice =
-        find<QWidget>(window, "viewSkinnedPanel")->findChild<QLabel *>(QStringLiteral("lblViewportFailure"));
-    QTRY_VERIFY(notice->isVisible());
-    QVERIFY(notice->text().contains(QStringLiteral("driver")));
-    const QPoint corner = notice->mapToGlobal({10, 10});
-    QTRY_COMPARE(QGuiApplication::primaryScreen()
-                     ->grabWindow(0, corner.x(), corner.y(), 1, 1)
-                     .toImage()
-                     .pixelColor(0, 0),
-                 window.palette().color(QPalette::Window));
+    checkNotice(window, QStringLiteral("driver"));
+}
+
+void TestGraphicsReset::noContextIsToBeHad()
+{
+    const QSurfaceFormat usual = QSurfaceFormat::defaultFormat();
+    QSurfaceFormat impossible;
+    impossible.setRenderableType(QSurfaceFormat::OpenVG);
+    QSurfaceFormat::setDefaultFormat(impossible);
+    MainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    window.openFiles({m_skinned});
+    checkNotice(window, QStringLiteral("OpenGL"));
+    QSurfaceFormat::setDefaultFormat(usual);
 }
 
 int main(int argc, char *argv[])

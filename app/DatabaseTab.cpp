@@ -21,6 +21,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 /// How a table is called, as a tab and within object names.
@@ -79,10 +80,24 @@ DatabaseTab::DatabaseTab(QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(row);
     layout->addWidget(m_tabs, 1);
+}
 
-    for (const ReferenceKind kind : referenceKinds)
-        m_pages[size_t(kind)] = createPage(kind);
-    reload();
+void DatabaseTab::load()
+{
+    if (!m_loaded)
+        reload();
+}
+
+const QTableWidget *DatabaseTab::table(ReferenceKind kind)
+{
+    load();
+    return m_pages[size_t(kind)].table;
+}
+
+void DatabaseTab::showEvent(QShowEvent *event)
+{
+    load();
+    QWidget::showEvent(event);
 }
 
 DatabaseTab::Page DatabaseTab::createPage(ReferenceKind kind)
@@ -135,6 +150,10 @@ DatabaseTab::Page DatabaseTab::createPage(ReferenceKind kind)
 
 void DatabaseTab::reload()
 {
+    if (!std::exchange(m_loaded, true)) {
+        for (const ReferenceKind kind : referenceKinds)
+            m_pages[size_t(kind)] = createPage(kind);
+    }
     for (const ReferenceKind kind : referenceKinds) {
         const Page &page = m_pages[size_t(kind)];
         page.table->setRowCount(0);
@@ -153,9 +172,12 @@ void DatabaseTab::reload()
 ReferenceIds DatabaseTab::ids() const
 {
     ReferenceIds ids;
+    if (!m_loaded)
+        return ids;
     for (const ReferenceKind kind : referenceKinds) {
-        for (int row = 0; row < table(kind)->rowCount(); ++row)
-            ids.insert(kind, table(kind)->item(row, 0)->data(Qt::UserRole).toInt());
+        const QTableWidget *table = m_pages[size_t(kind)].table;
+        for (int row = 0; row < table->rowCount(); ++row)
+            ids.insert(kind, table->item(row, 0)->data(Qt::UserRole).toInt());
     }
     return ids;
 }

@@ -14,6 +14,9 @@ class QTableWidget;
 class QTabWidget;
 
 /// The reference tables, a sub-tab each: sortable, filtered as one types, copied by a double click.
+///
+/// The tables are empty until they are loaded, shown or asked: their thousands of rows would keep the window's
+/// first frame waiting.
 class DatabaseTab : public QWidget
 {
     Q_OBJECT
@@ -21,13 +24,15 @@ class DatabaseTab : public QWidget
 public:
     explicit DatabaseTab(QWidget *parent = nullptr);
 
+    /// Loads all tables, unless they are loaded.
+    void load();
     /// Loads all tables anew, each from its overriding file if there is one.
     void reload();
 
-    /// The numbers that the tables have a name for.
+    /// The numbers that the tables have a name for; none before they are loaded.
     ReferenceIds ids() const;
 
-    const QTableWidget *table(ReferenceKind kind) const { return m_pages[size_t(kind)].table; }
+    const QTableWidget *table(ReferenceKind kind);
 
 signals:
     void reloaded();
@@ -36,6 +41,7 @@ signals:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private slots:
     void on_btnDBFolder_clicked();
@@ -54,5 +60,6 @@ private:
     void copyRows(const QTableWidget *table);
 
     QTabWidget *m_tabs;
+    bool m_loaded = false;
     std::array<Page, referenceKinds.size()> m_pages{};
 };

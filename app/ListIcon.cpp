@@ -3,10 +3,12 @@
 #include "ListIcon.h"
 
 #include <QApplication>
+#include <QHash>
 #include <QPainter>
 #include <QPalette>
 
-QIcon listIcon(const QString &name)
+namespace {
+QIcon makeIcon(const QString &name)
 {
     const QString base = QStringLiteral(":/Images/Icons/") + name;
     QIcon icon(base + QStringLiteral(".png"));
@@ -22,4 +24,14 @@ QIcon listIcon(const QString &name)
         icon.addPixmap(selected, QIcon::Selected);
     }
     return icon;
+}
+} // namespace
+
+QIcon listIcon(const QString &name)
+{
+    static QHash<QString, QIcon> made;
+    auto known = made.constFind(name);
+    if (known == made.constEnd())
+        known = made.insert(name, makeIcon(name));
+    return *known;
 }

@@ -38,6 +38,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
@@ -171,9 +172,8 @@ void MainWindow::createPanes()
 
 void MainWindow::createProblems()
 {
-    const auto takeIds = [this] { m_problems->setReferenceIds(m_ui->tabDatabase->ids()); };
-    connect(m_ui->tabDatabase, &DatabaseTab::reloaded, this, takeIds);
-    takeIds();
+    connect(m_ui->tabDatabase, &DatabaseTab::reloaded, this,
+            [this] { m_problems->setReferenceIds(m_ui->tabDatabase->ids()); });
     m_ui->dockProblems->setProblems(m_problems, m_panes);
     connect(m_ui->dockProblems, &ProblemsDock::activated, this, &MainWindow::showRecord);
     m_ui->statusBar->insertPermanentWidget(0, new ProblemsButton(*m_problems, *m_ui->dockProblems, this));
@@ -190,8 +190,10 @@ void MainWindow::createViewToolBars()
     showViewportFailure(m_ui->viewSkinned, m_ui->vlviewSkinned);
     showViewportFailure(m_ui->viewStatic, m_ui->vlviewStatic);
     new ViewPreferences({skinned, rigid}, viewports(), actions, this);
-    for (KVOpenGLWidget *viewport : viewports())
+    for (KVOpenGLWidget *viewport : viewports()) {
         connect(viewport, &KVOpenGLWidget::positionReadOut, this, &MainWindow::showReadOut);
+        connect(viewport, &KVOpenGLWidget::contextLost, this, &MainWindow::OnContextLost);
+    }
 }
 
 void MainWindow::readSettings()
@@ -229,6 +231,14 @@ void MainWindow::createPrompts()
     auto *recovery = new Recovery(*m_files, SnapshotStore::defaultRoot(), this);
     connect(recovery, &Recovery::restored, this, &MainWindow::showPane);
     new RecoveryPrompt(*recovery, m_ui->actionRecover, m_ui->vlCentral, this);
+}
+
+void MainWindow::paintEvent(QPaintEvent *event)
+{
+    QMainWindow::paintEvent(event);
+    // What the first frame need not wait for.
+    if (!std::exchange(m_painted, true))
+        QTimer::singleShot(0, m_ui->tabDatabase, &DatabaseTab::load);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

@@ -36,6 +36,7 @@ public:
     void openFiles(const QStringList &paths);
 
 protected:
+    void paintEvent(QPaintEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private slots:
@@ -65,6 +66,7 @@ private slots:
     void on_tabTrees_currentChanged(int index);
     void OnConsoleCustomContextMenu(const QPoint &position);
     void OnUndoCleanChanged();
+    void OnContextLost();
 
 private:
     void createConsole();
@@ -103,5 +105,6 @@ private:
     DocumentPanes m_panes{};
     QByteArray m_defaultLayout; ///< of docks and tool bars
     bool m_askedForFolders = false;
+    bool m_painted = false;
     QString m_readOut; ///< the camera position that the status bar shows
 };

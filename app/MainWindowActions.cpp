@@ -11,6 +11,7 @@
 #include "FilterLine.h"
 #include "FolderExplorer.h"
 #include "ImportExport.h"
+#include "KVOpenGLWidget.h"
 #include "KVTreeView.h"
 #include "ModelTransforms.h"
 #include "OptionsDialog.h"
@@ -192,4 +193,18 @@ void MainWindow::OnConsoleCustomContextMenu(const QPoint &position)
 void MainWindow::OnUndoCleanChanged()
 {
     updateCurrentDocument();
+}
+
+// The context that puts the window together shares with the viewports' and is lost with them; only a new
+// native window has a new one.
+void MainWindow::OnContextLost()
+{
+    const QPoint place = pos(); // a window manager would choose another
+    hide();
+    destroy();
+    for (KVOpenGLWidget *viewport : viewports())
+        viewport->renewContext();
+    if (!(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)))
+        move(place);
+    show();
 }

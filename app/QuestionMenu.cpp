@@ -57,7 +57,7 @@ std::optional<double> valueOf(const QObject *editor)
 }
 } // namespace
 
-QuestionMenu::QuestionMenu(const DatabaseTab &tables, QWidget *fields)
+QuestionMenu::QuestionMenu(DatabaseTab &tables, QWidget *fields)
     : QObject(fields)
     , m_tables(tables)
 {

@@ -18,7 +18,7 @@ class QuestionMenu : public QObject
 
 public:
     /// For the spin boxes in `fields`, which owns the menu. `tables` answers; it outlives the menu.
-    QuestionMenu(const DatabaseTab &tables, QWidget *fields);
+    QuestionMenu(DatabaseTab &tables, QWidget *fields);
 
     /// The menu of an editor: its questions first, then what every spin box offers. Null, after an error in
     /// the log, for an object that is no spin box. The caller owns it.
@@ -33,5 +33,5 @@ protected:
 private:
     void ask(int question, QObject *editor) const;
 
-    const DatabaseTab &m_tables;
+    DatabaseTab &m_tables;
 };

@@ -36,13 +36,6 @@ TutorialsTab::TutorialsTab(QWidget *parent)
     setStretchFactor(1, 1);
     setSizes({260, 1000});
 
-    // Their names begin with their places in the list.
-    const QDir guides(QStringLiteral(":/tutorials"));
-    for (const QString &name : guides.entryList({QStringLiteral("*.html")}, QDir::Files, QDir::Name)) {
-        auto *item =
-            new QListWidgetItem(listIcon(QStringLiteral("tutorial")), titleOf(guides.filePath(name)), m_list);
-        item->setData(Qt::UserRole, QUrl(QStringLiteral("qrc:/tutorials/") + name));
-    }
     connect(m_list, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem *item) {
         if (item && m_page->source() != item->data(Qt::UserRole).toUrl())
             m_page->setSource(item->data(Qt::UserRole).toUrl());
@@ -56,10 +49,22 @@ TutorialsTab::TutorialsTab(QWidget *parent)
     });
 }
 
+void TutorialsTab::fill()
+{
+    // Their names begin with their places in the list.
+    const QDir guides(QStringLiteral(":/tutorials"));
+    for (const QString &name : guides.entryList({QStringLiteral("*.html")}, QDir::Files, QDir::Name)) {
+        auto *item =
+            new QListWidgetItem(listIcon(QStringLiteral("tutorial")), titleOf(guides.filePath(name)), m_list);
+        item->setData(Qt::UserRole, QUrl(QStringLiteral("qrc:/tutorials/") + name));
+    }
+    m_list->setCurrentRow(0);
+}
+
 void TutorialsTab::showEvent(QShowEvent *event)
 {
-    // Not earlier: a start need not load pictures that nobody looks at.
-    if (!m_list->currentItem())
-        m_list->setCurrentRow(0);
+    // Not earlier: a start need not load guides that nobody looks at.
+    if (m_list->count() == 0)
+        fill();
     QSplitter::showEvent(event);
 }

@@ -19,6 +19,8 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    void fill();
+
     QListWidget *m_list;
     PageBrowser *m_page;
 };

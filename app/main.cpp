@@ -25,6 +25,8 @@ int main(int argc, char *argv[])
     QSurfaceFormat format;
     format.setDepthBufferSize(24);
     format.setProfile(QSurfaceFormat::CoreProfile);
+    // So that a reset of the graphics driver can be noticed and survived.
+    format.setOption(QSurfaceFormat::ResetNotification);
     QSurfaceFormat::setDefaultFormat(format);
 
     MainWindow window;

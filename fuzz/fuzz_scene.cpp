@@ -7,9 +7,11 @@
 #include "MeshSource.h"
 #include "Pose.h"
 #include "PosedVertices.h"
+#include "ReferenceIds.h"
 #include "Require.h"
 #include "SkinnedMesh.h"
 #include "StaticMesh.h"
+#include "Validation.h"
 
 #include <QSettings>
 
@@ -145,8 +147,11 @@ void checkSkinned(BinaryFileReader &reader, const Controls &controls)
     const MeshSource source = checkedSource(mesh);
     require(source.boneCount == mesh.nodes.size(), "as many bones as nodes");
     AnimFile anim;
-    if (!anim.read(reader))
+    validate(mesh);
+    if (!anim.read(reader)) {
         checkPoses(mesh, anim, controls);
+        validate(anim, &mesh, ReferenceIds());
+    }
 
     std::vector<GLVertex> posed;
     const BonePalette palette(source.boneCount);
@@ -176,8 +181,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     BinaryFileReader reader(data + sizeof controls, qint64(size - sizeof controls));
     if (controls.isStatic & 1) {
         StaticMesh mesh;
-        if (!mesh.read(reader))
+        if (!mesh.read(reader)) {
             checkedSource(mesh);
+            validate(mesh);
+        }
     } else {
         checkSkinned(reader, controls);
     }

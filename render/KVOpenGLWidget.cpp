@@ -3,14 +3,17 @@
 #include "KVOpenGLWidget.h"
 
 #include "CrashReport.h"
+#include "Log.h"
 #include "Settings.h"
 #include "SkinnedMesh.h"
 #include "StaticMesh.h"
 
 #include <QOpenGLContext>
+#include <QTimer>
 #include <QTimerEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 // A moving view ticks every millisecond: keys fly the camera by a step a tick. An idle one only looks for
@@ -18,6 +21,9 @@ namespace {
 constexpr int MovingInterval = 1;
 constexpr int IdleInterval = 30;
 constexpr float ReadOutInterval = 0.1f; // seconds
+// A driver that loses the context again at once will go on doing so.
+constexpr int MostLosses = 3;
+constexpr int LossesInterval = 10000; // milliseconds
 
 SurfaceOverlay overlayOf(int type)
 {
@@ -72,6 +78,7 @@ void KVOpenGLWidget::initializeGL()
     m_painter->setUpState(QColor(m_background.rgb()));
     m_painter->setBackFaceCulling(m_backCull);
     m_appliedBackCull = m_backCull;
+    resizeGL(width(), height());
     buildModel();
     connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &KVOpenGLWidget::releaseGL,
             Qt::UniqueConnection);
@@ -95,6 +102,65 @@ void KVOpenGLWidget::releaseGL()
     makeCurrent();
     m_painter.reset();
     doneCurrent();
+}
+
+// A context that is lost or cannot be made current must not reach Qt's own drawing, which takes it for
+// granted.
+bool KVOpenGLWidget::takeContext()
+{
+    makeCurrent();
+    if (QOpenGLContext::currentContext() == context() && !isContextLost())
+        return true;
+    noticeLoss();
+    return false;
+}
+
+bool KVOpenGLWidget::isContextLost() const
+{
+    const QOpenGLContext *windows = context()->shareContext();
+    return !context()->isValid() || (windows && !windows->isValid());
+}
+
+void KVOpenGLWidget::noticeLoss()
+{
+    if (std::exchange(m_lossNoticed, true))
+        return;
+    // The window cannot be made anew while it is being painted.
+    QTimer::singleShot(0, this, &KVOpenGLWidget::onLoss);
+}
+
+void KVOpenGLWidget::onLoss()
+{
+    m_lossNoticed = false;
+    const qint64 now = m_clock.elapsed();
+    m_losses = now - m_lastLoss < LossesInterval ? m_losses + 1 : 1;
+    m_lastLoss = now;
+    if (m_losses > MostLosses) {
+        fail(tr("Models are not drawn any more: the graphics driver has failed several times.\n"
+                "Everything else works on. Start Korvane again to see models."));
+        return;
+    }
+    Log::warning(QStringLiteral("[Viewport] The graphics driver was reset; the view is built anew"));
+    emit contextLost();
+}
+
+void KVOpenGLWidget::renewContext()
+{
+    // What Qt does with a view that comes into another window.
+    QEvent change(QEvent::WindowChangeInternal);
+    QOpenGLWidget::event(&change);
+}
+
+void KVOpenGLWidget::paintEvent(QPaintEvent *event)
+{
+    if (!context() || takeContext())
+        QOpenGLWidget::paintEvent(event);
+}
+
+void KVOpenGLWidget::resizeEvent(QResizeEvent *event)
+{
+    if (!context() || takeContext())
+        QOpenGLWidget::resizeEvent(event);
 }
 
 void KVOpenGLWidget::resizeGL(int width, int height)
@@ -170,9 +236,8 @@ void KVOpenGLWidget::modelReplaced(bool shown)
 void KVOpenGLWidget::rebuildModel()
 {
     // Without a context the copy is made in initializeGL.
-    if (!m_painter)
+    if (!m_painter || !takeContext())
         return;
-    makeCurrent();
     buildModel();
     doneCurrent();
     update();
@@ -246,6 +311,13 @@ void KVOpenGLWidget::timerEvent(QTimerEvent *event)
         QOpenGLWidget::timerEvent(event);
         return;
     }
+    if (!context() && !size().isEmpty()) {
+        fail(tr("Models cannot be drawn: the system has OpenGL, but gives the window no context of it.\n"
+                "Everything else works on."));
+        return;
+    }
+    if (context() && isContextLost())
+        noticeLoss();
     const qint64 now = m_clock.elapsed();
     const float dt = float(now - m_previousTick) / 1000.0f;
     m_previousTick = now;
@@ -329,8 +401,7 @@ void KVOpenGLWidget::hideEvent(QHideEvent *event)
 void KVOpenGLWidget::setBackgroundColor(const QColor &color)
 {
     m_background = color;
-    if (m_painter) {
-        makeCurrent();
+    if (m_painter && takeContext()) {
         m_painter->setBackground(QColor(color.rgb()));
         doneCurrent();
     }

@@ -69,7 +69,15 @@ public:
 
     const Camera &camera() const { return m_camera; }
 
+    /// Gives up the context with all that is in it. The view makes another one and builds the model's copy
+    /// anew as soon as its window is on the screen; what it shows, and how, stays.
+    void renewContext();
+
 signals:
+    /// The graphics driver has dropped the view's context, as after a reset. That of the window, which shares
+    /// with it, is lost along with it: whoever owns the window has to make the native one anew, with a
+    /// renewContext() of every view in it while there is none.
+    void contextLost();
     /// The view cannot draw, see failure(), and has closed.
     void failed();
     /// The camera position for the status bar, about ten times a second: "X: 0.000000 Y: ... Z: ...".
@@ -83,7 +91,12 @@ protected:
     void initializeGL() override;
     void resizeGL(int width, int height) override;
     void paintGL() override;
+    /// Whether the driver has dropped the context, or the window's. Drivers tell where the surface format
+    /// asks for it (QSurfaceFormat::ResetNotification); Qt then looks whenever it makes a context current.
+    virtual bool isContextLost() const;
 
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void timerEvent(QTimerEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
@@ -100,6 +113,9 @@ private:
     // Meshes on the graphics card.
     void fail(const QString &reason);
     void releaseGL();
+    bool takeContext();
+    void noticeLoss();
+    void onLoss();
     void modelReplaced(bool shown);
     void buildModel();
     void refreshModel();
@@ -124,6 +140,9 @@ private:
     float m_moveSpeed = 0.0f;
     bool m_backCull = false;
     bool m_appliedBackCull = false;
+    bool m_lossNoticed = false;
+    int m_losses = 0;      ///< of a context, in close succession
+    qint64 m_lastLoss = 0; ///< milliseconds of m_clock
 
     bool m_active = false;
     const SkinnedMesh *m_skinnedMesh = nullptr;

@@ -43,7 +43,6 @@ ScenePainter::ScenePainter(const std::function<void()> &stepFailed)
     : m_gl(*QOpenGLContext::currentContext()->extraFunctions())
     , m_programs(stepFailed)
     , m_model(std::make_unique<GLMesh>(FixedMeshes::placeholder()))
-    , m_ground(FixedMeshes::ground())
     , m_axisGizmo(FixedMeshes::axisGizmo())
     , m_redQuad(FixedMeshes::redQuad())
     , m_wireSphere(FixedMeshes::wireSphere())
@@ -144,11 +143,13 @@ void ScenePainter::drawTextured(TexturedProgram &textured, GLMesh &mesh, const Q
 
 void ScenePainter::paintGround(const SceneFrame &frame)
 {
+    if (!m_ground)
+        m_ground = std::make_unique<GLMesh>(FixedMeshes::ground());
     QMatrix4x4 ground;
     ground.translate(0.0f, frame.groundHeight, 0.0f);
     ground.rotate(uprightRotation());
     m_gl.glUniform1f(m_programs.plain.tiling, FixedMeshes::GroundTiling);
-    drawTextured(m_programs.plain, m_ground, frame.projection * frame.view * ground);
+    drawTextured(m_programs.plain, *m_ground, frame.projection * frame.view * ground);
     m_gl.glUniform1f(m_programs.plain.tiling, 1.0f);
 }
 

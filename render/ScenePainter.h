@@ -83,7 +83,7 @@ private:
     QOpenGLExtraFunctions &m_gl;
     ShaderPrograms m_programs;
     std::unique_ptr<GLMesh> m_model;
-    GLMesh m_ground;
+    std::unique_ptr<GLMesh> m_ground; ///< made when it is first shown
     GLMesh m_axisGizmo;
     GLMesh m_redQuad;
     GLMesh m_wireSphere;

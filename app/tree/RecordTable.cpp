@@ -83,10 +83,13 @@ const QVector<const RecordRow *> &childRows(RecordKind kind)
 
 QIcon recordIcon(RecordKind kind)
 {
-    static const auto table = byKind<QIcon>([](auto &values, const RecordRow &row) {
-        values[size_t(row.kind)] = listIcon(QLatin1String(row.icon));
-    });
-    return table[size_t(kind)];
+    // A tree shows few of them: each is made when it is first wanted.
+    static std::array<QIcon, KindCount> table;
+    QIcon &icon = table[size_t(kind)];
+    const RecordRow *row = icon.isNull() ? recordRow(kind) : nullptr;
+    if (row)
+        icon = listIcon(QLatin1String(row->icon));
+    return icon;
 }
 
 QVector<int> indexPath(const RecordRef &record)

@@ -74,6 +74,9 @@ void tst_DatabaseTab::init()
 {
     QDir(referenceOverrideFolder()).removeRecursively();
     m_tab = std::make_unique<DatabaseTab>();
+    // Long before anybody could wait for it.
+    QCOMPARE(m_tab->findChildren<QTableWidget *>().size(), 0);
+    QCOMPARE(m_tab->table(ReferenceKind::Impacts)->rowCount(), 10);
     m_errors.clear();
 }
 

@@ -3,7 +3,6 @@
 #include "AnimFile.h"
 #include "Viewport.h"
 
-#include <QHBoxLayout>
 #include <QOpenGLContext>
 #include <QSignalSpy>
 
@@ -31,7 +30,6 @@ private slots:
     void culling();
     void refreshedVertices();
     void hostileModel();
-    void newContext();
     void deferredBuild();
     void knight_data() { contexts(); }
     void knight();
@@ -368,25 +366,6 @@ void tst_Viewport::hostileModel()
         m_view->setSelectedSurface(surface);
         QVERIFY(!m_view->grabFramebuffer().isNull());
     }
-}
-
-// Moving a view into another window gives it a new context.
-void tst_Viewport::newContext()
-{
-    openSquare(QStringLiteral("m/a/quarters"));
-    QVERIFY(isRed(m_view->pixel(175, 125)));
-    const QOpenGLContext *before = m_view->context();
-    QWidget window;
-    QHBoxLayout layout(&window);
-    layout.setContentsMargins(0, 0, 0, 0);
-    layout.addWidget(m_view.get());
-    window.resize(400, 300);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QTRY_VERIFY(m_view->context() && m_view->context() != before);
-    QTRY_VERIFY(isRed(m_view->pixel(175, 125)));
-    layout.removeWidget(m_view.get());
-    m_view->setParent(nullptr);
 }
 
 // A view on a tab that was never shown has no context yet.

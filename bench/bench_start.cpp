@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "Bench.h"
+
+#include <QDir>
+#include <QProcessEnvironment>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+// From the start of the program to its first frame with a model in it, against an empty window with OpenGL.
+// Both are programs of their own, started in turns, and both end with their first swap of buffers.
+namespace {
+constexpr int Repetitions = 21;
+constexpr unsigned TimeLimit = 60; // seconds
+
+class Program
+{
+public:
+    Program(const QStringList &command, const QString &home)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char *name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
+            environment.insert(QLatin1String(name), home);
+        environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(KORVANE_FIRST_FRAME));
+        m_arguments = pointersTo(command, m_bytes);
+        m_environment = pointersTo(environment.toStringList(), m_bytes);
+    }
+
+    void showFirstFrame()
+    {
+        pid_t child = 0;
+        int status = 0;
+        if (posix_spawn(&child, m_arguments[0], nullptr, nullptr, m_arguments.data(), m_environment.data()) !=
+            0)
+            qFatal("'%s' could not be started", m_arguments[0]);
+        alarm(TimeLimit);
+        if (waitpid(child, &status, 0) != child || !WIFEXITED(status) || WEXITSTATUS(status) != 0)
+            qFatal("'%s' has shown no frame", m_arguments[0]);
+        alarm(0);
+    }
+
+private:
+    static std::vector<char *> pointersTo(const QStringList &texts, std::vector<QByteArray> &bytes)
+    {
+        std::vector<char *> pointers;
+        for (const QString &text : texts) {
+            bytes.push_back(QFile::encodeName(text));
+            pointers.push_back(bytes.back().data());
+        }
+        pointers.push_back(nullptr);
+        return pointers;
+    }
+
+    std::vector<QByteArray> m_bytes;
+    std::vector<char *> m_arguments;
+    std::vector<char *> m_environment;
+};
+
+/// What a user has who has worked with the program before.
+void writeSettings(const QString &home)
+{
+    const QString game = QStringLiteral(KORVANE_SAMPLES "/game");
+    QSettings settings(home + QStringLiteral("/Korvane/Korvane.conf"), QSettings::IniFormat);
+    settings.setValue(QStringLiteral("GamePath"), game);
+    settings.setValue(QStringLiteral("OutputDir"), QStringLiteral(KORVANE_SAMPLES "/mod"));
+    for (const char *key : {"SkinnedMeshExplorePath", "StaticMeshExplorePath"})
+        settings.setValue(QLatin1String(key), game + QStringLiteral("/models"));
+    settings.setValue(QStringLiteral("AnimationExplorePath"), game + QStringLiteral("/anims"));
+    settings.setValue(QStringLiteral("Updates"), false);
+}
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QTemporaryDir home;
+    writeSettings(home.path());
+    const QString model = QStringLiteral(KORVANE_SAMPLES "/game/models/tinker/tinker.skinnedmesh");
+    if (!QFile::exists(model))
+        qFatal("there is no sample to open");
+    Program editor({QStringLiteral(KORVANE_EDITOR), model}, home.path());
+    Program floor({QStringLiteral(KORVANE_EMPTY_WINDOW)}, home.path());
+    Bench::ratio(
+        "start_to_first_frame", 1.6, Repetitions, [&editor] { editor.showFirstFrame(); },
+        [&floor] { floor.showFirstFrame(); });
+    return Bench::run(argc, argv);
+}

@@ -1,0 +1,205 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "Hand.h"
+#include "KVOpenGLWidget.h"
+#include "KVTreeView.h"
+#include "MainWindow.h"
+#include "Playback.h"
+#include "TestSupport.h"
+
+#include <QDockWidget>
+#include <QLabel>
+#include <QMessageBox>
+#include <QOpenGLContext>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QSurfaceFormat>
+#include <QTabWidget>
+#include <QUndoStack>
+#include <QWindow>
+
+/// A reset of the graphics driver under the whole program: its window's context goes with those of the
+/// viewports.
+class TestGraphicsReset : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void theWindowComesBackAsItWas();
+    void aDriverThatGoesOnFailingCostsTheViewOnly();
+    void noContextIsToBeHad();
+
+private:
+    template <typename Widget>
+    static Widget *find(const MainWindow &window, const char *name)
+    {
+        auto *widget = window.findChild<Widget *>(QLatin1String(name));
+        if (!widget)
+            qFatal("no %s", name);
+        return widget;
+    }
+    /// Until what is to be seen is on the screen.
+    static void waitForFrame(KVOpenGLWidget *view)
+    {
+        QSignalSpy swapped(view, &QOpenGLWidget::frameSwapped);
+        view->update();
+        QTRY_VERIFY(!swapped.isEmpty());
+    }
+    /// None of the window's contexts works any more. No frame may be half way to the screen.
+    static void reset(MainWindow &window)
+    {
+        QSurfaceFormat impossible;
+        impossible.setRenderableType(QSurfaceFormat::OpenVG);
+        for (KVOpenGLWidget *view : window.findChildren<KVOpenGLWidget *>()) {
+            if (!view->isValid())
+                continue;
+            for (QOpenGLContext *context : {view->context()->shareContext(), view->context()}) {
+                context->setFormat(impossible);
+                QVERIFY(!context->create());
+            }
+        }
+    }
+    /// The notice is in the view's place, and really on the screen: a window that cannot be put together
+    /// stays black.
+    static void checkNotice(const MainWindow &window, const QString &word)
+    {
+        const auto *notice = find<QWidget>(window, "viewSkinnedPanel")
+                                 ->findChild<QLabel *>(QStringLiteral("lblViewportFailure"));
+        QTRY_VERIFY(notice->isVisible());
+        QVERIFY(notice->text().contains(word));
+        const QPoint corner = notice->mapToGlobal({10, 10});
+        QTRY_COMPARE(QGuiApplication::primaryScreen()
+                         ->grabWindow(0, corner.x(), corner.y(), 1, 1)
+                         .toImage()
+                         .pixelColor(0, 0),
+                     window.palette().color(QPalette::Window));
+    }
+    /// Of what is really on the screen.
+    static int whitePixels(const QWidget *view)
+    {
+        const QPoint corner = view->mapToGlobal({});
+        const QImage image = QGuiApplication::primaryScreen()
+                                 ->grabWindow(0, corner.x(), corner.y(), view->width(), view->height())
+                                 .toImage();
+        int white = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                white += image.pixelColor(x, y) == QColor(Qt::white) ? 1 : 0;
+        }
+        return white;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_home;
+    std::unique_ptr<QTemporaryDir> m_files;
+    QString m_skinned;
+    QString m_rigid;
+};
+
+void TestGraphicsReset::init()
+{
+    m_home = std::make_unique<QTemporaryDir>();
+    m_files = std::make_unique<QTemporaryDir>();
+    TestSupport::useSettingsHome(*m_home);
+    qputenv("XDG_DATA_HOME", QFile::encodeName(m_home->path()));
+    for (const auto *key : {&Settings::GamePath, &Settings::OutputDir})
+        key->setValue(m_files->path());
+    m_skinned = m_files->filePath(QStringLiteral("man.skinnedmesh"));
+    QVERIFY(!triangleMan().write(m_skinned));
+    StaticMesh rigid;
+    rigid.surfaces = {{QStringLiteral("m/a/_white"), {0, 1, 2}}};
+    rigid.vertices = {{{-100, 0, 0}, {}, {}}, {{0, 0, 200}, {}, {}}, {{100, 0, 0}, {}, {}}};
+    m_rigid = m_files->filePath(QStringLiteral("stone.staticmesh"));
+    QVERIFY(!rigid.write(m_rigid));
+}
+
+void TestGraphicsReset::theWindowComesBackAsItWas()
+{
+    MainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    window.openFiles({m_rigid, m_skinned});
+    auto *tabs = find<QTabWidget>(window, "tabWidget");
+    auto *skinned = find<KVOpenGLWidget>(window, "viewSkinned");
+    auto *rigid = find<KVOpenGLWidget>(window, "viewStatic");
+    QTRY_VERIFY(rigid->isVisible() && whitePixels(rigid) > 100);
+    tabs->setCurrentIndex(0);
+    const RecordRef bone{RecordKind::Bone, {1, 0, 0}};
+    find<KVTreeView>(window, "treeSkinnedMesh")->selectRecords({bone}, bone);
+    waitForFrame(skinned);
+    const int before = whitePixels(skinned);
+    QVERIFY(before > 100);
+    const QRect geometry = window.geometry();
+    const QString title = window.windowTitle();
+
+    // A question that is open meanwhile goes on being asked.
+    QMessageBox box(QMessageBox::Question, QStringLiteral("Question"), QStringLiteral("?"), QMessageBox::Ok,
+                    &window);
+    box.setWindowModality(Qt::ApplicationModal);
+    box.move(window.geometry().bottomRight() - QPoint(20, 20));
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    QSignalSpy lost(skinned, &KVOpenGLWidget::contextLost);
+    const QWindow *handle = window.windowHandle();
+    waitForFrame(skinned);
+    reset(window);
+    QTRY_COMPARE(lost.count(), 1);
+    QVERIFY(window.windowHandle() != handle);
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QTRY_COMPARE(whitePixels(skinned), before);
+    QVERIFY(box.isVisible() && QApplication::activeModalWidget() == &box);
+    QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
+    QVERIFY(!box.isVisible());
+
+    QCOMPARE(window.geometry(), geometry);
+    QCOMPARE(window.windowTitle(), title);
+    QVERIFY(find<KVTreeView>(window, "treeSkinnedMesh")->currentRecord() == bone);
+    QVERIFY(find<QDockWidget>(window, "dockConsole")->isVisible());
+    // The view that was not in sight, too.
+    tabs->setCurrentIndex(1);
+    QTRY_VERIFY(whitePixels(rigid) > 100);
+    QCOMPARE(lost.count(), 1);
+}
+
+void TestGraphicsReset::aDriverThatGoesOnFailingCostsTheViewOnly()
+{
+    MainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    window.openFiles({m_skinned});
+    auto *view = find<KVOpenGLWidget>(window, "viewSkinned");
+    QSignalSpy failed(view, &KVOpenGLWidget::failed);
+    QTRY_VERIFY(view->isValid());
+    connect(
+        view, &QOpenGLWidget::frameSwapped, &window, [&window] { reset(window); }, Qt::QueuedConnection);
+    view->update();
+    QTRY_COMPARE(failed.count(), 1);
+    checkNotice(window, QStringLiteral("driver"));
+}
+
+void TestGraphicsReset::noContextIsToBeHad()
+{
+    const QSurfaceFormat usual = QSurfaceFormat::defaultFormat();
+    QSurfaceFormat impossible;
+    impossible.setRenderableType(QSurfaceFormat::OpenVG);
+    QSurfaceFormat::setDefaultFormat(impossible);
+    MainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    window.openFiles({m_skinned});
+    checkNotice(window, QStringLiteral("OpenGL"));
+    QSurfaceFormat::setDefaultFormat(usual);
+}
+
+int main(int argc, char *argv[])
+{
+    QSurfaceFormat format;
+    format.setDepthBufferSize(24);
+    format.setProfile(QSurfaceFormat::CoreProfile);
+    format.setOption(QSurfaceFormat::ResetNotification);
+    QSurfaceFormat::setDefaultFormat(format);
+    QApplication application(argc, argv);
+    TestGraphicsReset test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_graphicsreset.moc"

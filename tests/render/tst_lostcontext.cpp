@@ -1,0 +1,224 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "AnimFile.h"
+#include "Viewport.h"
+
+#include <QHBoxLayout>
+#include <QOpenGLContext>
+#include <QSignalSpy>
+
+/// A driver that can be told to drop contexts, which none does at will.
+class FailingViewport : public Viewport
+{
+public:
+    bool lost = false;
+
+protected:
+    bool isContextLost() const override { return lost || Viewport::isContextLost(); }
+};
+
+/// The ways in which a running view loses its context, and that it shows the same as before afterwards.
+class tst_LostContext : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void theViewComesBack_data();
+    void theViewComesBack();
+    void aModelOpenedMeanwhileIsShown();
+    void aDriverThatGoesOnFailing();
+    void noContextIsToBeHad();
+
+private:
+    /// A real one: the context is destroyed under the view's feet, and it cannot be made current any more.
+    void destroyContext();
+    void renewWhenLost();
+
+    QTemporaryDir m_home;
+    SkinnedMesh m_mesh;
+    AnimFile m_anim;
+    QStringList m_log;
+    std::unique_ptr<FailingViewport> m_view;
+};
+
+void tst_LostContext::initTestCase()
+{
+    TestSupport::useSettingsHome(m_home);
+    useSurfaceFormat(false);
+    m_mesh.nodes.resize(2);
+    m_mesh.nodes[0].childNodes = {1};
+    m_mesh.surfaces = {{QStringLiteral("m/a/_white"), {0, 1, 2}}, {QStringLiteral("m/a/_white"), {2, 1, 3}}};
+    m_mesh.vertices = {{{-100, 0, 0}, {}, {}, 0},
+                       {{0, 0, 150}, {}, {}, 0},
+                       {{100, 0, 0}, {}, {}, 0},
+                       {{150, 0, 100}, {}, {}, 1}};
+    m_anim.blocks.resize(1);
+    m_anim.blocks[0].nodes.resize(2);
+    m_anim.blocks[0].nodes[0].initialPosition = {0.0f, 0.0f, 250.0f};
+}
+
+void tst_LostContext::init()
+{
+    m_log.clear();
+    Log::setSink([this](LogSeverity, const QString &text) { m_log += text; });
+    playback() = {};
+    m_view = std::make_unique<FailingViewport>();
+    m_view->setSkinnedMeshMode(true);
+    m_view->setSkinnedMesh(&m_mesh);
+}
+
+void tst_LostContext::cleanup()
+{
+    m_view.reset();
+    playback() = {};
+    Log::setSink({});
+}
+
+void tst_LostContext::destroyContext()
+{
+    // No frame may be left half way to the screen.
+    QSignalSpy swapped(m_view.get(), &QOpenGLWidget::frameSwapped);
+    m_view->update();
+    QTRY_VERIFY(!swapped.isEmpty());
+    QSurfaceFormat impossible;
+    impossible.setRenderableType(QSurfaceFormat::OpenVG);
+    m_view->context()->setFormat(impossible);
+    QVERIFY(!m_view->context()->create());
+    QVERIFY(!m_view->isValid());
+}
+
+void tst_LostContext::renewWhenLost()
+{
+    connect(m_view.get(), &KVOpenGLWidget::contextLost, m_view.get(), [this] {
+        m_view->lost = false;
+        m_view->renewContext();
+    });
+}
+
+void tst_LostContext::theViewComesBack_data()
+{
+    QTest::addColumn<QString>("loss");
+    QTest::newRow("another window") << QStringLiteral("window");
+    QTest::newRow("destroyed while idle") << QStringLiteral("destroyed");
+    QTest::newRow("destroyed, then resized") << QStringLiteral("resized");
+    QTest::newRow("reset by the driver") << QStringLiteral("reset");
+}
+
+void tst_LostContext::theViewComesBack()
+{
+    QFETCH(QString, loss);
+    m_view->setSelectedSurface(1);
+    m_view->setHighlightPoint({-50.0f, 0.0f, 100.0f}, false, 0);
+    m_view->setSelectedBone(1);
+    m_view->setSurfSelectType(1);
+    m_view->open();
+    playback().mesh = &m_mesh;
+    playback().anim = &m_anim;
+    playback().playState = PlayState::Paused;
+    playback().time = 0.125f;
+    // Away from where every view starts.
+    const QVector3D start = m_view->camera().position();
+    QTest::keyPress(m_view.get(), Qt::Key_D);
+    QTRY_VERIFY((m_view->camera().position() - start).length() > 10.0f);
+    QTest::keyRelease(m_view.get(), Qt::Key_D);
+    const QVector3D camera = m_view->camera().position();
+    const QImage before = m_view->grabFramebuffer();
+    QVERIFY(m_view->count([](const QColor &color) { return color == QColor(255, 255, 255); }) > 100);
+    const QSize size = m_view->size();
+
+    renewWhenLost();
+    QSignalSpy lost(m_view.get(), &KVOpenGLWidget::contextLost);
+    const QOpenGLContext *context = m_view->context();
+    QWidget window;
+    QHBoxLayout layout(&window);
+    layout.setContentsMargins({});
+    int frames = m_view->frames;
+    if (loss == QLatin1String("window")) {
+        layout.addWidget(m_view.get());
+        window.resize(size);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QTRY_VERIFY(m_view->context() && m_view->context() != context);
+    } else if (loss == QLatin1String("reset")) {
+        m_view->lost = true;
+        m_view->update();
+        QTRY_COMPARE(lost.count(), 1);
+    } else {
+        destroyContext();
+        if (loss == QLatin1String("resized")) {
+            m_view->resize(size * 2);
+            QTRY_COMPARE(m_view->size(), size * 2);
+        }
+        QTRY_COMPARE(lost.count(), 1);
+        m_view->resize(size);
+    }
+    QTRY_VERIFY(m_view->isValid() && m_view->frames > frames);
+    QTRY_COMPARE(m_view->size(), size);
+
+    QCOMPARE(m_view->grabFramebuffer(), before);
+    QCOMPARE(m_view->camera().position(), camera);
+    QCOMPARE(playback().time, 0.125f);
+    QVERIFY(playback().playState == PlayState::Paused);
+    QCOMPARE(m_view->failure(), QString());
+    QCOMPARE(m_log.size(), lost.count()); // a line a loss, and none of anything else
+    layout.removeWidget(m_view.get());
+    m_view->setParent(nullptr);
+}
+
+// Whatever is asked of a view without a context waits for the new one.
+void tst_LostContext::aModelOpenedMeanwhileIsShown()
+{
+    m_view->setSkinnedMesh(nullptr);
+    m_view->open();
+    const auto white = [this] {
+        return m_view->count([](const QColor &color) { return color == QColor(255, 255, 255); });
+    };
+    QCOMPARE(white(), 0);
+    destroyContext();
+    renewWhenLost();
+    SkinnedMesh other = m_mesh;
+    for (SkinnedMeshVertex &vertex : other.vertices)
+        vertex.position += {0.0f, 0.0f, 250.0f};
+    m_view->setSkinnedMesh(&other);
+    m_view->setBackgroundColor(Qt::black);
+    m_view->refreshVertices();
+    QTRY_VERIFY(m_view->isValid());
+    QCOMPARE(m_view->pixel(2, 2), QColor(Qt::black));
+    QVERIFY(white() > 100);
+    m_view->setSkinnedMesh(nullptr);
+}
+
+void tst_LostContext::aDriverThatGoesOnFailing()
+{
+    m_view->open();
+    connect(m_view.get(), &KVOpenGLWidget::contextLost, m_view.get(), [this] { m_view->renewContext(); });
+    QSignalSpy lost(m_view.get(), &KVOpenGLWidget::contextLost);
+    QSignalSpy failed(m_view.get(), &KVOpenGLWidget::failed);
+    m_view->lost = true;
+    QTRY_COMPARE(failed.count(), 1);
+    QCOMPARE(lost.count(), 3);
+    QVERIFY(m_view->failure().contains(QStringLiteral("driver")));
+    QVERIFY(!m_view->isVisible());
+    m_view->setBackgroundColor(Qt::black);
+    m_view->rebuildModel();
+    QTest::qWait(50);
+    QCOMPARE(lost.count(), 3);
+}
+
+void tst_LostContext::noContextIsToBeHad()
+{
+    QSurfaceFormat impossible;
+    impossible.setRenderableType(QSurfaceFormat::OpenVG);
+    m_view->setFormat(impossible);
+    QSignalSpy failed(m_view.get(), &KVOpenGLWidget::failed);
+    m_view->show();
+    QTRY_COMPARE(failed.count(), 1);
+    QVERIFY(!m_view->failure().isEmpty());
+    QVERIFY(!m_view->isVisible());
+}
+
+QTEST_MAIN(tst_LostContext)
+#include "tst_lostcontext.moc"

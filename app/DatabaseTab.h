@@ -15,8 +15,8 @@ class QTabWidget;
 
 /// The reference tables, a sub-tab each: sortable, filtered as one types, copied by a double click.
 ///
-/// The tables are empty until they are loaded, shown or asked: their thousands of rows would keep the window's
-/// first frame waiting.
+/// The tables are empty until they are loaded, shown or asked: their thousands of rows would keep the
+/// window's first frame waiting.
 class DatabaseTab : public QWidget
 {
     Q_OBJECT

@@ -21,6 +21,7 @@
 #include "RecoveryPrompt.h"
 #include "ReloadPrompt.h"
 #include "StructureActions.h"
+#include "TemporaryFolder.h"
 #include "UndoActions.h"
 #include "UpdatePrompt.h"
 #include "ViewPreferences.h"
@@ -237,8 +238,12 @@ void MainWindow::paintEvent(QPaintEvent *event)
 {
     QMainWindow::paintEvent(event);
     // What the first frame need not wait for.
-    if (!std::exchange(m_painted, true))
-        QTimer::singleShot(0, m_ui->tabDatabase, &DatabaseTab::load);
+    if (!std::exchange(m_painted, true)) {
+        QTimer::singleShot(0, this, [this] {
+            m_ui->tabDatabase->load();
+            TemporaryFolder::removeAbandoned();
+        });
+    }
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

@@ -119,6 +119,13 @@ inline void addLimitLine(const std::string &name, double measured, double budget
     report().lines.push_back(line);
 }
 
+/// Prints the lines of all rows that were measured.
+inline void printReport()
+{
+    for (const std::string &line : report().lines)
+        std::printf("%s\n", line.c_str());
+}
+
 /// Runs the registered rows and prints their lines. Returns the program's exit status; a missed budget is
 /// no failure of the program.
 inline int run(int argc, char **argv)
@@ -127,8 +134,7 @@ inline int run(int argc, char **argv)
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;
     benchmark::RunSpecifiedBenchmarks();
-    for (const std::string &line : report().lines)
-        std::printf("%s\n", line.c_str());
+    printReport();
     return 0;
 }
 } // namespace Bench

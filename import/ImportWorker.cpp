@@ -69,7 +69,7 @@ bool ImportWorker::prepare(const WorkerJob &job)
     m_stopReason.clear();
     m_running = true;
     m_elapsed.start();
-    m_folder = std::make_unique<QTemporaryDir>();
+    m_folder = std::make_unique<TemporaryFolder>();
     return !m_folder->isValid() || WorkerFolder(m_folder->path()).write(m_job);
 }
 

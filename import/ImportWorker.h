@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "TemporaryFolder.h"
 #include "WorkerJob.h"
 
 #include <QElapsedTimer>
 #include <QObject>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <memory>
@@ -62,7 +62,7 @@ private:
     QString m_program;
     int m_timeLimit = 60000;
     WorkerJob m_job;
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<TemporaryFolder> m_folder;
     QProcess m_process;
     QTimer m_limit;
     QElapsedTimer m_elapsed;

@@ -1,10 +1,14 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "FolderLock.h"
 #include "ImportFlags.h"
 #include "ImportWorker.h"
 #include "TestSupport.h"
 
 #include <QRegularExpression>
+
+#include <fcntl.h>
+#include <sys/stat.h>
 
 /// Whatever a file does to the worker, the editor gets an answer and no temporary file stays.
 class tst_importworker : public QObject
@@ -20,6 +24,7 @@ private slots:
     void workerFails();
     void cancel();
     void awkwardPath();
+    void foldersOfKilledEditorsGo();
 
 private:
     void run(ImportWorker &worker, const WorkerJob &job);
@@ -226,6 +231,43 @@ void tst_importworker::awkwardPath()
     QCOMPARE(mesh.vertices.at(0).uv.x(), 0.25f);
     QCOMPARE(worker.messages().lines.at(0).text,
              path + QStringLiteral(" Material 0 does not have any Diffuse textures"));
+}
+
+// Only folders of ours that no process holds, and none that may just have been made.
+void tst_importworker::foldersOfKilledEditorsGo()
+{
+    const auto makeFolder = [this](const QString &name, bool old) {
+        const QString path = m_temporary.filePath(name);
+        if (!QDir().mkpath(path + QStringLiteral("/sub")) ||
+            !TestSupport::writeFile(path + "/sub/model", "x"))
+            qFatal("no folder to leave behind");
+        const timespec hourAgo{time(nullptr) - 3600, 0};
+        const timespec times[2] = {hourAgo, hourAgo};
+        if (old && utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0) != 0)
+            qFatal("no time to set");
+        return path;
+    };
+    const QString outside = makeFolder(QStringLiteral("outside"), true);
+    const QString used = makeFolder(QStringLiteral("korvane-import-used"), false);
+    auto lock = std::make_unique<FolderLock>(used + QStringLiteral("/lock"));
+    makeFolder(QStringLiteral("korvane-import-used"), true);
+    makeFolder(QStringLiteral("korvane-import-young"), false);
+    makeFolder(QStringLiteral("korvane-import-old"), true);
+    QVERIFY(QFile::link(outside, m_temporary.filePath(QStringLiteral("korvane-import-link"))));
+    const auto left = [this] {
+        return QDir(m_temporary.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name);
+    };
+    TemporaryFolder::removeAbandoned();
+    const QStringList spared{QStringLiteral("korvane-import-link"), QStringLiteral("korvane-import-used"),
+                             QStringLiteral("korvane-import-young"), QStringLiteral("outside")};
+    QCOMPARE(left(), spared);
+    QVERIFY(QFile::exists(outside + QStringLiteral("/sub/model")));
+    lock.reset();
+    TemporaryFolder::removeAbandoned();
+    QVERIFY(!QFile::exists(used));
+    for (const QString &name : left())
+        QVERIFY(QFile::remove(m_temporary.filePath(name)) ||
+                QDir(m_temporary.filePath(name)).removeRecursively());
 }
 
 QTEST_GUILESS_MAIN(tst_importworker)

@@ -8,7 +8,30 @@
 #include <csignal>
 #include <cstdlib>
 
+#ifdef KORVANE_COVERAGE
+extern "C" void __gcov_dump();
+#endif
+
 namespace {
+#ifdef KORVANE_COVERAGE
+/// What the report's handler covered would be lost with the process.
+void keepCoverage(int number)
+{
+    __gcov_dump();
+    std::signal(number, SIG_DFL);
+    raise(number);
+}
+
+void keepCoverageOfCrashes()
+{
+    struct sigaction action = {};
+    action.sa_handler = keepCoverage;
+    action.sa_flags = SA_ONSTACK;
+    for (int number : {SIGSEGV, SIGABRT, SIGBUS, SIGFPE, SIGILL})
+        sigaction(number, &action, nullptr);
+}
+#endif
+
 int callForEver(volatile int depth)
 {
     volatile char room[4096];
@@ -23,6 +46,9 @@ int main(int argc, char *argv[])
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("Korvane"));
     QCoreApplication::setApplicationVersion(QStringLiteral("1.2.3"));
+#ifdef KORVANE_COVERAGE
+    keepCoverageOfCrashes();
+#endif
     CrashReport::install(QString::fromLocal8Bit(argv[1]));
     CrashReport::setGraphics(QStringLiteral("a painter"));
     for (int i = 0; i < 1000; ++i)

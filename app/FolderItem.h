@@ -31,6 +31,8 @@ public:
     const QString &path() const { return m_path; }
     /// The last component of the path, of a file without the extension.
     QString name() const;
+    /// The same, valid as long as the item.
+    QStringView nameView() const;
     bool isLoaded() const { return m_loaded; }
     /// Marks the file that is open in the editor.
     void setLoaded(bool loaded);

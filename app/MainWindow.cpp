@@ -4,6 +4,7 @@
 
 #include "ConsoleButton.h"
 #include "ConsoleLog.h"
+#include "DisplayOptions.h"
 #include "DocumentFiles.h"
 #include "ExplorerFiles.h"
 #include "FileDrop.h"
@@ -182,8 +183,10 @@ void MainWindow::createProblems()
 
 void MainWindow::createViewToolBars()
 {
+    auto *display = new DisplayOptions(viewports(), this);
+    m_ui->menuView->insertMenu(m_ui->actionResetCamera, display->shadingMenu());
     const ViewActions actions{m_ui->actionGround, m_ui->actionTransGizmo, m_ui->actionCullBack,
-                              m_ui->actionResetCamera};
+                              m_ui->actionResetCamera, display->shadingMenu()};
     auto *skinned = new ViewToolBar(tr("Skinned Mesh View"), actions, m_ui->viewSkinnedPanel);
     auto *rigid = new ViewToolBar(tr("Static Mesh View"), actions, m_ui->viewStaticPanel);
     m_ui->vlviewSkinned->insertWidget(0, skinned);

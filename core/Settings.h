@@ -119,6 +119,7 @@ inline const SettingKey<bool> ShowGround{"ShowGround", false};
 inline const SettingKey<bool> ShowAxisGizmo{"ShowAxisGizmo", false};
 inline const SettingKey<bool> BackCull{"BackCull", false};
 inline const SettingKey<int> SurfSelectType{"SurfSelectType", 0};
+inline const SettingKey<int> Shading{"Shading", 0};
 inline const SettingKey<float> MouseSpeed{"MouseSpeed", 0.15f};
 inline const SettingKey<float> Brightness{"Brightness", 1.0f};
 

@@ -25,12 +25,6 @@ constexpr float ReadOutInterval = 0.1f; // seconds
 constexpr int MostLosses = 3;
 constexpr int LossesInterval = 10000; // milliseconds
 
-SurfaceOverlay overlayOf(int type)
-{
-    return type >= 0 && type <= int(SurfaceOverlay::PointsHidden) ? SurfaceOverlay(type)
-                                                                  : SurfaceOverlay::None;
-}
-
 bool canDraw()
 {
     static const bool can = QOpenGLContext().create();
@@ -47,7 +41,8 @@ KVOpenGLWidget::KVOpenGLWidget(QWidget *parent)
     m_frame.showGround = Settings::ShowGround.value();
     m_frame.showAxisGizmo = Settings::ShowAxisGizmo.value();
     m_frame.brightness = Settings::Brightness.value();
-    m_frame.overlay = overlayOf(Settings::SurfSelectType.value());
+    setSurfSelectType(Settings::SurfSelectType.value());
+    setShading(Settings::Shading.value());
     setFocusPolicy(Qt::StrongFocus);
     m_clock.start();
     if (!canDraw())
@@ -396,82 +391,4 @@ void KVOpenGLWidget::hideEvent(QHideEvent *event)
     m_timer.stop();
     releaseInput();
     QOpenGLWidget::hideEvent(event);
-}
-
-void KVOpenGLWidget::setBackgroundColor(const QColor &color)
-{
-    m_background = color;
-    if (m_painter && takeContext()) {
-        m_painter->setBackground(QColor(color.rgb()));
-        doneCurrent();
-    }
-    update();
-}
-
-void KVOpenGLWidget::setMoveSpeed(float speed)
-{
-    m_moveSpeed = speed;
-}
-
-void KVOpenGLWidget::setBrightness(float factor)
-{
-    m_frame.brightness = factor;
-    update();
-}
-
-void KVOpenGLWidget::setShowGround(bool on)
-{
-    m_frame.showGround = on;
-    update();
-}
-
-void KVOpenGLWidget::setShowAxisGizmo(bool on)
-{
-    m_frame.showAxisGizmo = on;
-    update();
-}
-
-void KVOpenGLWidget::setBackCull(bool on)
-{
-    m_backCull = on;
-    update();
-}
-
-void KVOpenGLWidget::setSurfSelectType(int type)
-{
-    m_frame.overlay = overlayOf(type);
-    update();
-}
-
-void KVOpenGLWidget::setSelectedSurface(int surface)
-{
-    m_selectedSurface = surface;
-    if (m_painter)
-        m_painter->model().selectedSurface = surface;
-    update();
-}
-
-void KVOpenGLWidget::setSelectedBone(int bone)
-{
-    m_frame.selectedBone = bone;
-    update();
-}
-
-void KVOpenGLWidget::setHighlightPoint(const QVector3D &position, bool flag, int bone)
-{
-    m_frame.highlight = {true, position, flag, bone};
-    update();
-}
-
-void KVOpenGLWidget::clearHighlightPoint()
-{
-    m_frame.highlight = {};
-    update();
-}
-
-void KVOpenGLWidget::resetCamera()
-{
-    m_camera.reset();
-    playbackChanged();
-    update();
 }

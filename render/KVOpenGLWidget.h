@@ -58,6 +58,7 @@ public:
     void setShowAxisGizmo(bool on);
     void setBackCull(bool on);
     void setSurfSelectType(int type); ///< 0 to 4, see SurfaceOverlay; anything else is 0
+    void setShading(int shading);     ///< 0 to 2, see Shading; anything else is 0
 
     void setSelectedSurface(int surface); ///< -1: none
     void setSelectedBone(int bone);       ///< -1: none

@@ -15,6 +15,9 @@
 /// model.
 enum class SurfaceOverlay { None, Lines, LinesHidden, Points, PointsHidden };
 
+/// How the model's surfaces are drawn, in the order of their menu.
+enum class Shading { Shaded, Wireframe, ShadedWireframe };
+
 /// A place on the model that the user has selected.
 struct HighlightPoint
 {
@@ -36,6 +39,7 @@ struct SceneFrame
     bool showAxisGizmo = false;
     float brightness = 1.0f;
     float groundHeight = 0.0f; ///< model z, 0 or below
+    Shading shading = Shading::Shaded;
     SurfaceOverlay overlay = SurfaceOverlay::None;
     int selectedBone = -1;
     HighlightPoint highlight;
@@ -73,6 +77,7 @@ private:
                       GLenum mode = GL_TRIANGLES);
     void paintGround(const SceneFrame &frame);
     void paintModel(const SceneFrame &frame);
+    void paintWires(TexturedProgram &textured, const QMatrix4x4 &mvp, Shading shading);
     void uploadPalette();
     void paintOverlay(const SceneFrame &frame);
     void drawPosedSurface(int surface, GLenum mode);
@@ -80,7 +85,11 @@ private:
     void paintHighlightPoint(const SceneFrame &frame);
     void paintAxisGizmo(const SceneFrame &frame);
 
+    using PolygonMode = void(QOPENGLF_APIENTRYP)(GLenum face, GLenum mode);
+
     QOpenGLExtraFunctions &m_gl;
+    PolygonMode m_polygonMode; ///< null in an embedded context, which draws no wires
+    QVector3D m_wireColor;     ///< that shows on the background
     ShaderPrograms m_programs;
     std::unique_ptr<GLMesh> m_model;
     std::unique_ptr<GLMesh> m_ground; ///< made when it is first shown

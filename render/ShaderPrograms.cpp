@@ -26,6 +26,7 @@ void locateUniforms(TexturedProgram &textured)
     textured.brightness = program.uniformLocation("brightness");
     textured.tiling = program.uniformLocation("tiling");
     textured.colorHighlight = program.uniformLocation("color_highlight");
+    textured.wireColor = program.uniformLocation("wire_color");
 }
 } // namespace
 

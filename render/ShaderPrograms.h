@@ -25,6 +25,7 @@ struct TexturedProgram
     int brightness = -1;
     int tiling = -1;
     int colorHighlight = -1;
+    int wireColor = -1; ///< laid over the texture by its alpha
 };
 
 /// The shader programs of one context. Made and destroyed with the context current.

@@ -25,6 +25,8 @@ private slots:
     void overlays_data();
     void overlays();
     void posedOverlay();
+    void shadings_data() { contexts(); }
+    void shadings();
     void groundAndGizmo();
     void markers();
     void culling();
@@ -235,6 +237,40 @@ void tst_Viewport::posedOverlay()
     QCOMPARE(redIn(half - 30, half + 30), 0);
     QVERIFY(redIn(half + 30, 2 * half) > 40);
     playback() = {};
+}
+
+void tst_Viewport::shadings()
+{
+    QFETCH(bool, core33);
+    useSurfaceFormat(core33);
+    m_view = std::make_unique<Viewport>();
+    openSquare(QStringLiteral("_white"));
+    const auto isDark = [](const QColor &color) { return color.lightness() < 130 && color.green() < 130; };
+    const auto isOrange = [](const QColor &color) {
+        return color.red() > 200 && color.green() > 100 && color.green() < 240 && color.blue() < 150;
+    };
+    const QPoint inside(175, 120);
+    QVERIFY(isColor(m_view->pixel(inside.x(), inside.y()), 255, 255, 255));
+    QCOMPARE(m_view->count(isDark), 0);
+
+    m_view->setShading(int(Shading::Wireframe));
+    QVERIFY(isBackground(m_view->pixel(inside.x(), inside.y())));
+    const int edges = m_view->count(isDark);
+    QVERIFY(edges > 300 && edges < 1500); // four sides and the diagonal of about 100 pixels each
+    m_view->setSelectedSurface(0);
+    QVERIFY(m_view->count(isOrange) > 150);
+    QVERIFY(m_view->count(isDark) > 100);
+    m_view->setSelectedSurface(-1);
+    m_view->setBackgroundColor(QColor(20, 20, 20));
+    QVERIFY(m_view->count([](const QColor &color) { return color.red() > 200; }) > 300);
+
+    m_view->setBackgroundColor(QColor(10, 200, 30));
+    m_view->setShading(int(Shading::ShadedWireframe));
+    QVERIFY(isColor(m_view->pixel(inside.x(), inside.y()), 255, 255, 255));
+    QVERIFY(m_view->count(isDark) > 100);
+    m_view->setShading(99);
+    QCOMPARE(m_view->count(isDark), 0);
+    QVERIFY(isColor(m_view->pixel(inside.x(), inside.y()), 255, 255, 255));
 }
 
 void tst_Viewport::groundAndGizmo()

@@ -7,6 +7,7 @@
 #include "Settings.h"
 #include "SkinnedMesh.h"
 #include "StaticMesh.h"
+#include "ViewStatistics.h"
 
 #include <QOpenGLContext>
 #include <QTimer>
@@ -43,6 +44,10 @@ KVOpenGLWidget::KVOpenGLWidget(QWidget *parent)
     m_frame.brightness = Settings::Brightness.value();
     setSurfSelectType(Settings::SurfSelectType.value());
     setShading(Settings::Shading.value());
+    setShowSkeleton(Settings::ShowSkeleton.value());
+    setShowHotPoints(Settings::ShowHotPoints.value());
+    setShowStatistics(Settings::ShowStatistics.value());
+    setOrbitMode(Settings::OrbitMode.value());
     setFocusPolicy(Qt::StrongFocus);
     m_clock.start();
     if (!canDraw())
@@ -175,7 +180,10 @@ void KVOpenGLWidget::paintGL()
     refreshModel();
     pose();
     m_frame.view = m_camera.viewMatrix();
+    m_frame.marks.mesh = m_frame.skinned ? m_skinnedMesh : nullptr;
     m_painter->paint(m_frame);
+    if (m_statistics)
+        m_statistics->countFrame();
 }
 
 void KVOpenGLWidget::pose()
@@ -225,6 +233,8 @@ void KVOpenGLWidget::modelReplaced(bool shown)
     m_selectedSurface = GLMesh::NoSurface;
     m_frame.selectedBone = -1;
     m_frame.highlight = {};
+    m_frame.marks.mesh = nullptr;
+    setMarkedSelection({}, {});
     rebuildModel();
 }
 
@@ -249,6 +259,7 @@ void KVOpenGLWidget::buildModel()
         m_painter->clearModel();
     m_painter->model().selectedSurface = m_selectedSurface;
     m_frame.groundHeight = groundHeight();
+    showStatistics();
 }
 
 void KVOpenGLWidget::refreshVertices()
@@ -274,6 +285,7 @@ void KVOpenGLWidget::refreshModel()
         model.refresh(*m_staticMesh, m_indexesChanged);
     m_verticesChanged = m_indexesChanged = false;
     m_frame.groundHeight = groundHeight();
+    showStatistics();
 }
 
 // A skinned mesh's vertices lie in their bones' spaces and say nothing about the posed model, so its own box
@@ -329,6 +341,8 @@ void KVOpenGLWidget::tick(float dt)
         if (m_frameLabel.update(playback()))
             emit frameLabelChanged(m_frameLabel.text());
     }
+    if (m_statistics)
+        m_statistics->tick(dt);
     readOut(dt);
     const bool moved = m_camera.tick(dt, m_moveSpeed);
     if (moved || (m_frame.skinned && playbackDiffers()))

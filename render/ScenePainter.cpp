@@ -106,12 +106,19 @@ QQuaternion ScenePainter::uprightRotation()
     return QQuaternion::fromDirection({0.0f, 1.0f, 0.0f}, {0.0f, 0.0f, 1.0f});
 }
 
+QMatrix4x4 ScenePainter::modelMatrix(const SceneFrame &frame)
+{
+    QMatrix4x4 matrix;
+    matrix.rotate(uprightRotation());
+    matrix.rotate(frame.yaw);
+    return matrix;
+}
+
 void ScenePainter::paint(const SceneFrame &frame)
 {
     m_gl.glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
     m_gl.glActiveTexture(GL_TEXTURE0);
-    m_modelMatrix.setToIdentity();
-    m_modelMatrix.rotate(uprightRotation());
+    m_modelMatrix = modelMatrix(frame);
 
     beginTextured(m_programs.plain, frame);
     if (frame.showGround)
@@ -124,6 +131,7 @@ void ScenePainter::paint(const SceneFrame &frame)
 
     beginTextured(m_programs.plain, frame);
     paintBoneMarker(frame);
+    paintMarks(frame);
     paintHighlightPoint(frame);
     if (frame.showAxisGizmo)
         paintAxisGizmo(frame);
@@ -162,7 +170,6 @@ void ScenePainter::paintGround(const SceneFrame &frame)
 
 void ScenePainter::paintModel(const SceneFrame &frame)
 {
-    m_modelMatrix.rotate(frame.yaw);
     const QMatrix4x4 mvp = frame.projection * frame.view * m_modelMatrix;
     TexturedProgram &textured = frame.skinned ? m_programs.skin : m_programs.plain;
     if (!textured.program.isLinked())
@@ -270,6 +277,13 @@ void ScenePainter::paintBoneMarker(const SceneFrame &frame)
     marker.scale(SphereRadius * distanceOf(frame.view, m_modelMatrix.map(joint)) / radius);
     m_gl.glClear(GL_DEPTH_BUFFER_BIT);
     drawTextured(m_programs.plain, m_wireSphere, frame.projection * frame.view * marker, GL_LINES);
+}
+
+void ScenePainter::paintMarks(const SceneFrame &frame)
+{
+    const ScreenMap map(frame.projection, frame.view * m_modelMatrix, frame.viewport);
+    m_overlay.paint(m_programs, frame.marks, map, m_model->palette, frame.viewport);
+    beginTextured(m_programs.plain, frame);
 }
 
 // The red square marks a point on a bone; it always faces the viewer.

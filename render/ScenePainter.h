@@ -3,6 +3,7 @@
 #pragma once
 
 #include "GLMesh.h"
+#include "SceneOverlay.h"
 #include "ShaderPrograms.h"
 
 #include <QQuaternion>
@@ -43,6 +44,7 @@ struct SceneFrame
     SurfaceOverlay overlay = SurfaceOverlay::None;
     int selectedBone = -1;
     HighlightPoint highlight;
+    MarkedRecords marks;
 };
 
 /// Paints frames with one OpenGL context. Made, used and destroyed with that context current. Painting looks
@@ -67,8 +69,12 @@ public:
     void setBackFaceCulling(bool on);
 
     void paint(const SceneFrame &frame);
+    /// The bones and hot points of the frame painted last.
+    const SceneMarks &marks() const { return m_overlay.marks(); }
 
-    /// Turns the model's z-up space into the view's y-up one: x to -x, y to z, z to y.
+    /// Turns the model's z-up space into the view's y-up one, with the frame's turn of the model.
+    static QMatrix4x4 modelMatrix(const SceneFrame &frame);
+    /// The same without that turn: x to -x, y to z, z to y.
     static QQuaternion uprightRotation();
 
 private:
@@ -82,6 +88,7 @@ private:
     void paintOverlay(const SceneFrame &frame);
     void drawPosedSurface(int surface, GLenum mode);
     void paintBoneMarker(const SceneFrame &frame);
+    void paintMarks(const SceneFrame &frame);
     void paintHighlightPoint(const SceneFrame &frame);
     void paintAxisGizmo(const SceneFrame &frame);
 
@@ -96,6 +103,7 @@ private:
     GLMesh m_axisGizmo;
     GLMesh m_redQuad;
     GLMesh m_wireSphere;
+    SceneOverlay m_overlay;
     QMatrix4x4 m_modelMatrix; ///< of the frame being painted
     std::array<float, 16 * ShaderPrograms::BoneLimit> m_boneUpload{};
 

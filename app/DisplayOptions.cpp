@@ -14,8 +14,27 @@ DisplayOptions::DisplayOptions(const Viewports &viewports, QWidget *window)
     , m_viewports(viewports)
     , m_shadingMenu(new QMenu(tr("S&hading"), window))
     , m_shadings(new QActionGroup(this))
+    , m_skeleton(viewportAction("actionSkeleton", "bone", tr("S&keleton"),
+                                tr("Show the bones over the model; a click selects one"), {Qt::Key_B},
+                                viewports, window))
+    , m_hotPoints(viewportAction("actionHotPoints", "hotpoints", tr("Hot &Points"),
+                                 tr("Show the hot points over the model; a click selects one"), {Qt::Key_H},
+                                 viewports, window))
+    , m_statistics(viewportAction("actionStatistics", nullptr, tr("Frame Ra&te"),
+                                  tr("Show frames a second and the number of triangles"), {}, viewports,
+                                  window))
 {
     createShadings(window);
+    const auto check = [](QAction *action, bool on) {
+        action->setCheckable(true);
+        action->setChecked(on);
+    };
+    check(m_skeleton, Settings::ShowSkeleton.value());
+    check(m_hotPoints, Settings::ShowHotPoints.value());
+    check(m_statistics, Settings::ShowStatistics.value());
+    connect(m_skeleton, &QAction::triggered, this, &DisplayOptions::OnSkeletonToggled);
+    connect(m_hotPoints, &QAction::triggered, this, &DisplayOptions::OnHotPointsToggled);
+    connect(m_statistics, &QAction::triggered, this, &DisplayOptions::OnStatisticsToggled);
 }
 
 void DisplayOptions::createShadings(QWidget *window)
@@ -49,4 +68,25 @@ void DisplayOptions::OnShadingChosen(QAction *action)
     m_shadingMenu->setIcon(action->icon());
     for (KVOpenGLWidget *viewport : m_viewports)
         viewport->setShading(shading);
+}
+
+void DisplayOptions::OnSkeletonToggled(bool on)
+{
+    Settings::ShowSkeleton.setValue(on);
+    for (KVOpenGLWidget *viewport : m_viewports)
+        viewport->setShowSkeleton(on);
+}
+
+void DisplayOptions::OnHotPointsToggled(bool on)
+{
+    Settings::ShowHotPoints.setValue(on);
+    for (KVOpenGLWidget *viewport : m_viewports)
+        viewport->setShowHotPoints(on);
+}
+
+void DisplayOptions::OnStatisticsToggled(bool on)
+{
+    Settings::ShowStatistics.setValue(on);
+    for (KVOpenGLWidget *viewport : m_viewports)
+        viewport->setShowStatistics(on);
 }

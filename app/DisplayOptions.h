@@ -6,6 +6,7 @@
 
 #include <QObject>
 
+class QAction;
 class QActionGroup;
 class QMenu;
 
@@ -21,9 +22,16 @@ public:
 
     /// Surfaces, edges or both; its icon is that of the choice.
     QMenu *shadingMenu() const { return m_shadingMenu; }
+    QAction *skeleton() const { return m_skeleton; }
+    QAction *hotPoints() const { return m_hotPoints; }
+    /// Frames a second and the number of triangles.
+    QAction *statistics() const { return m_statistics; }
 
 private slots:
     void OnShadingChosen(QAction *action);
+    void OnSkeletonToggled(bool on);
+    void OnHotPointsToggled(bool on);
+    void OnStatisticsToggled(bool on);
 
 private:
     void createShadings(QWidget *window);
@@ -31,4 +39,7 @@ private:
     Viewports m_viewports;
     QMenu *m_shadingMenu;
     QActionGroup *m_shadings;
+    QAction *m_skeleton;
+    QAction *m_hotPoints;
+    QAction *m_statistics;
 };

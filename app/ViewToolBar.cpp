@@ -58,6 +58,7 @@ ViewToolBar::ViewToolBar(const QString &title, const ViewActions &actions, QWidg
     addAction(actions.backCull);
     if (actions.shading)
         addMenu(actions.shading);
+    addActions(actions.marks);
 
     m_bgColor->setObjectName(QStringLiteral("btnBGColor"));
     m_bgColor->setFixedWidth(32);

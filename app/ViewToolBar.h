@@ -19,6 +19,7 @@ struct ViewActions
     QAction *backCull;
     QAction *resetCamera;
     QMenu *shading = nullptr;
+    QList<QAction *> marks = {}; ///< what is drawn over the model
 };
 
 /// A viewport's tool bar. It shows the stored view preferences and says what the user moved; storing them,

@@ -23,7 +23,7 @@ constexpr float NearestMarker = 5.12f; // the near plane: behind it nothing is s
 /// lies on does not hide it.
 constexpr float OverlayPull = 0.998f;
 constexpr QVector3D DarkWires(0.08f, 0.08f, 0.1f);
-constexpr QVector3D LightWires(0.85f, 0.87f, 0.9f);
+constexpr QVector3D LightWires(0.65f, 0.68f, 0.72f);
 constexpr float WiresOnSurfaces = 0.6f; // opacity: where they are dense the texture still shows
 constexpr float GizmoScale = 2.0f;
 constexpr float GizmoMargin = 64.0f; // from the lower left corner to the arrows' origin, in pixels

@@ -267,7 +267,7 @@ void tst_Viewport::shadings()
     QVERIFY(m_view->count(isDark) > 100);
     m_view->setSelectedSurface(-1);
     m_view->setBackgroundColor(QColor(20, 20, 20));
-    QVERIFY(m_view->count([](const QColor &color) { return color.red() > 200; }) > 300);
+    QVERIFY(m_view->count([](const QColor &color) { return color.red() > 140; }) > 300);
 
     m_view->setBackgroundColor(QColor(10, 200, 30));
     m_view->setShading(int(Shading::ShadedWireframe));

@@ -73,11 +73,11 @@ ControlsDialog::ControlsDialog(const QList<QAction *> &actions, QWidget *parent)
         const QString keys = shortcutsOf(action);
         if (keys.isEmpty() || action->isSeparator())
             continue;
-        auto *item = new QTreeWidgetItem(QStringList{keys, titleOf(action)});
+        // Those of the view have short titles, which say little without their menu.
         if (action->shortcutContext() == Qt::WidgetShortcut)
-            view->addChild(item);
+            view->addChild(new QTreeWidgetItem(QStringList{keys, action->statusTip()}));
         else
-            shortcuts << item;
+            shortcuts << new QTreeWidgetItem(QStringList{keys, titleOf(action)});
     }
     if (!shortcuts.isEmpty())
         addGroup(tree, tr("Window"))->addChildren(shortcuts);

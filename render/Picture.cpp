@@ -12,7 +12,7 @@
 #include <algorithm>
 
 namespace {
-constexpr int Samples = 4;
+constexpr int Samples = 4; // up to OversampledSide; beyond, their memory would be measured in gigabytes
 /// Small pictures are painted larger and scaled down, which also smooths the textures.
 constexpr int LargestOversampling = 4;
 constexpr int OversampledSide = 4096;
@@ -21,7 +21,7 @@ QImage paintOnce(ScenePainter &painter, const SceneFrame &frame, const QSize &si
 {
     QOpenGLFramebufferObjectFormat format;
     format.setAttachment(QOpenGLFramebufferObject::Depth);
-    format.setSamples(Samples);
+    format.setSamples(std::max(size.width(), size.height()) > OversampledSide ? 0 : Samples);
     QOpenGLFramebufferObject target(size, format);
     if (!target.isValid() || !target.bind())
         return {};

@@ -55,6 +55,10 @@ ControlsDialog::ControlsDialog(const QList<QAction *> &actions, QWidget *parent)
         {tr("Left drag"), tr("Move over the ground")},
         {tr("Right drag"), tr("Look around")},
         {tr("Left + right drag"), tr("Move up, down and sideways")},
+        {tr("Click"), tr("Select the surface, bone or hot point under the mouse")},
+        {tr("Alt + left drag"), tr("Turn around the model")},
+        {tr("Alt + middle drag"), tr("Move the model sideways, up and down")},
+        {tr("Alt + wheel"), tr("Go nearer or farther away")},
         {tr("Space"), tr("Play the animation, or pause it")},
         {tr(", / ."), tr("Go back / on one frame")},
         {tr("[ / ]"), tr("Go to the previous / next key frame action")},
@@ -67,7 +71,12 @@ ControlsDialog::ControlsDialog(const QList<QAction *> &actions, QWidget *parent)
     QList<QTreeWidgetItem *> shortcuts;
     for (const QAction *action : actions) {
         const QString keys = shortcutsOf(action);
-        if (!keys.isEmpty() && !action->isSeparator())
+        if (keys.isEmpty() || action->isSeparator())
+            continue;
+        // Those of the view have short titles, which say little without their menu.
+        if (action->shortcutContext() == Qt::WidgetShortcut)
+            view->addChild(new QTreeWidgetItem(QStringList{keys, action->statusTip()}));
+        else
             shortcuts << new QTreeWidgetItem(QStringList{keys, titleOf(action)});
     }
     if (!shortcuts.isEmpty())

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "MainWindow.h"
 
+#include "CameraMenu.h"
 #include "ConsoleButton.h"
 #include "ConsoleLog.h"
+#include "DisplayOptions.h"
 #include "DocumentFiles.h"
 #include "ExplorerFiles.h"
 #include "FileDrop.h"
@@ -12,6 +14,7 @@
 #include "ImportExport.h"
 #include "ImportFilter.h"
 #include "ModelTransforms.h"
+#include "PictureSaver.h"
 #include "Playback.h"
 #include "Problems.h"
 #include "ProblemsButton.h"
@@ -25,6 +28,7 @@
 #include "UndoActions.h"
 #include "UpdatePrompt.h"
 #include "ViewPreferences.h"
+#include "ViewSelection.h"
 #include "ViewToolBar.h"
 #include "ViewportMarks.h"
 #include "ViewportNotice.h"
@@ -52,6 +56,7 @@ MainWindow::MainWindow(QWidget *parent)
           m_skinnedMesh, m_staticMesh, [this] { return currentDocument(); }, this))
     , m_importExport(new ImportExport(m_skinnedMesh, m_anim, m_staticMesh, *m_files, this))
     , m_problems(new Problems(m_skinnedMesh, m_anim, m_staticMesh, this))
+    , m_pictures(new PictureSaver(this))
 {
     m_ui->setupUi(this);
     createConsole();
@@ -157,8 +162,7 @@ void MainWindow::createPanes()
         connect(made.tree, &KVTreeView::currentRecordChanged, this,
                 [this, type](const RecordRef &record) { showInViewport(type, record); });
     }
-    connect(m_ui->tabDatabase, &DatabaseTab::told, statusBar(),
-            [this](const QString &text) { statusBar()->showMessage(text, 5000); });
+    connect(m_ui->tabDatabase, &DatabaseTab::told, this, &MainWindow::tell);
     connect(m_files, &DocumentFiles::saved, this, &MainWindow::onSaved);
     connect(m_importExport, &ImportExport::imported, this, &MainWindow::showPane);
 
@@ -180,11 +184,44 @@ void MainWindow::createProblems()
     m_ui->statusBar->insertPermanentWidget(0, new ProblemsButton(*m_problems, *m_ui->dockProblems, this));
 }
 
+void MainWindow::createViewMenu(const DisplayOptions &display)
+{
+    QMenu *menu = m_ui->menuView;
+    menu->insertMenu(m_ui->actionResetCamera, display.shadingMenu());
+    menu->insertActions(m_ui->actionResetCamera,
+                        {display.skeleton(), display.hotPoints(), display.statistics()});
+    menu->insertSeparator(m_ui->actionResetCamera);
+    auto *camera = new CameraMenu(
+        viewports(),
+        [this] {
+            const DocumentPane *current = currentPane();
+            return current ? current->viewport : nullptr;
+        },
+        [this] {
+            const DocumentPane *current = currentPane();
+            return current ? m_viewSelection->selected(current->document->kind().type) : ModelSelection();
+        },
+        this);
+    menu->insertMenu(m_ui->actionResetCamera, camera);
+    for (const DocumentPane &each : m_panes)
+        each.tree->addAction(camera->frameSelection());
+    menu->insertAction(m_ui->actionFullScreen, m_pictures->action());
+    menu->insertSeparator(m_ui->actionFullScreen);
+    connect(m_pictures, &PictureSaver::told, this, &MainWindow::tell);
+
+    m_viewSelection = new ViewSelection(m_skinnedMesh, m_staticMesh, m_panes, this);
+    connect(m_viewSelection, &ViewSelection::picked, this, &MainWindow::showPicked);
+}
+
 void MainWindow::createViewToolBars()
 {
+    auto *display = new DisplayOptions(viewports(), this);
+    createViewMenu(*display);
     const ViewActions actions{m_ui->actionGround, m_ui->actionTransGizmo, m_ui->actionCullBack,
-                              m_ui->actionResetCamera};
-    auto *skinned = new ViewToolBar(tr("Skinned Mesh View"), actions, m_ui->viewSkinnedPanel);
+                              m_ui->actionResetCamera, display->shadingMenu()};
+    ViewActions skinnedActions = actions;
+    skinnedActions.marks = {display->skeleton(), display->hotPoints()};
+    auto *skinned = new ViewToolBar(tr("Skinned Mesh View"), skinnedActions, m_ui->viewSkinnedPanel);
     auto *rigid = new ViewToolBar(tr("Static Mesh View"), actions, m_ui->viewStaticPanel);
     m_ui->vlviewSkinned->insertWidget(0, skinned);
     m_ui->vlviewStatic->insertWidget(0, rigid);
@@ -282,8 +319,22 @@ void MainWindow::showRecord(DocumentType type, const RecordRef &record)
     tree->selectRecords({record}, record);
     tree->setFocus();
     if (tree->currentRecord() != record)
-        statusBar()->showMessage(tr("The tree leaves such records out. The options can make it show them."),
-                                 5000);
+        tell(tr("The tree leaves such records out. The options can make it show them."));
+}
+
+void MainWindow::showPicked(DocumentType type, const RecordRef &record)
+{
+    // The keys stay with the view.
+    showPane(type);
+    KVTreeView *tree = pane(type).tree;
+    tree->selectRecords({record}, record);
+    if (tree->currentRecord() != record)
+        tell(tr("The filter above the tree hides %1.").arg(tree->label(record)));
+}
+
+void MainWindow::tell(const QString &text)
+{
+    statusBar()->showMessage(text, 5000);
 }
 
 void MainWindow::openFiles(const QStringList &paths)
@@ -340,6 +391,9 @@ void MainWindow::updateCurrentDocument()
     m_ui->actionScale->setEnabled(m_ui->actionRotate->isEnabled());
     m_transforms->setAvailable(m_ui->actionRotate->isEnabled());
     m_ui->actionSkinnedSaveAs->setEnabled(m_skinnedMesh.isOpen());
+    const Document *model = document == &m_anim ? &m_skinnedMesh : document;
+    m_pictures->setSource(model && model->isOpen() ? current->viewport : nullptr,
+                          model ? model->fileName() : QString());
     m_ui->actionAnimSaveAs->setEnabled(m_anim.isOpen());
     m_ui->actionSaveAll->setEnabled(std::any_of(
         m_panes.begin(), m_panes.end(), [](const DocumentPane &each) { return each.document->isOpen(); }));
@@ -396,6 +450,7 @@ void MainWindow::onRecordsChanged(DocumentType type, const QVector<RecordRef> &r
 
 void MainWindow::showInViewport(DocumentType type, const RecordRef &record)
 {
+    m_viewSelection->mark(type);
     DocumentPane &shown = pane(type);
     const bool isNew = shown.shown != record;
     shown.shown = record;

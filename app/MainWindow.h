@@ -12,11 +12,14 @@
 #include <memory>
 
 class ConsoleLog;
+class DisplayOptions;
 class DocumentFiles;
 class ImportExport;
 class KVOpenGLWidget;
 class ModelTransforms;
+class PictureSaver;
 class Problems;
+class ViewSelection;
 
 namespace Ui {
 class MainWindow;
@@ -71,6 +74,7 @@ private slots:
 private:
     void createConsole();
     void createPanes();
+    void createViewMenu(const DisplayOptions &display);
     void createViewToolBars();
     void readSettings();
     void connectPlayback();
@@ -83,6 +87,8 @@ private:
     std::array<KVOpenGLWidget *, 2> viewports() const;
     void showPane(DocumentType type);
     void showRecord(DocumentType type, const RecordRef &record);
+    void showPicked(DocumentType type, const RecordRef &record);
+    void tell(const QString &text);
     void importFile(const QString &path);
     Document *currentDocument();
     void updateCurrentDocument();
@@ -102,6 +108,8 @@ private:
     ModelTransforms *m_transforms;
     ImportExport *m_importExport;
     Problems *m_problems;
+    PictureSaver *m_pictures;
+    ViewSelection *m_viewSelection = nullptr;
     DocumentPanes m_panes{};
     QByteArray m_defaultLayout; ///< of docks and tool bars
     bool m_askedForFolders = false;

@@ -8,8 +8,10 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLayout>
+#include <QMenu>
 #include <QPushButton>
 #include <QSlider>
+#include <QToolButton>
 #include <QToolTip>
 
 #include <algorithm>
@@ -54,6 +56,9 @@ ViewToolBar::ViewToolBar(const QString &title, const ViewActions &actions, QWidg
     addAction(actions.ground);
     addAction(actions.axisGizmo);
     addAction(actions.backCull);
+    if (actions.shading)
+        addMenu(actions.shading);
+    addActions(actions.marks);
 
     m_bgColor->setObjectName(QStringLiteral("btnBGColor"));
     m_bgColor->setFixedWidth(32);
@@ -84,6 +89,14 @@ ViewToolBar::ViewToolBar(const QString &title, const ViewActions &actions, QWidg
     connect(m_brightness, &QSlider::valueChanged, this, &ViewToolBar::brightnessChanged);
     connect(m_moveSpeed, &QSlider::valueChanged, this, &ViewToolBar::updateToolTips);
     connect(m_brightness, &QSlider::valueChanged, this, &ViewToolBar::updateToolTips);
+}
+
+void ViewToolBar::addMenu(QMenu *menu)
+{
+    addAction(menu->menuAction());
+    auto *button = static_cast<QToolButton *>(widgetForAction(menu->menuAction()));
+    button->setPopupMode(QToolButton::InstantPopup);
+    button->setFocusPolicy(Qt::TabFocus);
 }
 
 void ViewToolBar::setBackgroundColor(const QColor &color)

@@ -7,6 +7,7 @@
 class QAction;
 class QColor;
 class QComboBox;
+class QMenu;
 class QPushButton;
 class QSlider;
 
@@ -17,6 +18,8 @@ struct ViewActions
     QAction *axisGizmo;
     QAction *backCull;
     QAction *resetCamera;
+    QMenu *shading = nullptr;
+    QList<QAction *> marks = {}; ///< what is drawn over the model
 };
 
 /// A viewport's tool bar. It shows the stored view preferences and says what the user moved; storing them,
@@ -51,6 +54,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void addMenu(QMenu *menu);
     void updateToolTips();
 
     QPushButton *m_bgColor;

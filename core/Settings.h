@@ -101,6 +101,7 @@ inline const SettingKey<QString> AnimationSavePath{"AnimationSavePath", {}};
 inline const SettingKey<QString> StaticMeshSavePath{"StaticMeshSavePath", {}};
 inline const SettingKey<QString> StaticMeshExportPath{"StaticMeshExportPath", {}};
 inline const SettingKey<QString> ImportPath{"ImportPath", {}};
+inline const SettingKey<QString> PicturePath{"PicturePath", {}};
 
 // Import. The time limit is in seconds.
 inline const SettingKey<bool> ImportSwapYZ{"ImportSwapYZ", false};
@@ -119,8 +120,18 @@ inline const SettingKey<bool> ShowGround{"ShowGround", false};
 inline const SettingKey<bool> ShowAxisGizmo{"ShowAxisGizmo", false};
 inline const SettingKey<bool> BackCull{"BackCull", false};
 inline const SettingKey<int> SurfSelectType{"SurfSelectType", 0};
+inline const SettingKey<int> Shading{"Shading", 0};
+inline const SettingKey<bool> ShowSkeleton{"ShowSkeleton", false};
+inline const SettingKey<bool> ShowHotPoints{"ShowHotPoints", false};
+inline const SettingKey<bool> ShowStatistics{"ShowStatistics", false};
+inline const SettingKey<bool> OrbitMode{"OrbitMode", false};
 inline const SettingKey<float> MouseSpeed{"MouseSpeed", 0.15f};
 inline const SettingKey<float> Brightness{"Brightness", 1.0f};
+
+// Saved pictures. A size that is none stands for that of the view.
+inline const SettingKey<QSize> PictureSize{"PictureSize", {}};
+inline const SettingKey<bool> PictureKeepProportions{"PictureKeepProportions", true};
+inline const SettingKey<bool> PictureTransparent{"PictureTransparent", false};
 
 // Main window. The first three hold the window itself, the others its docks, tool bars and splitters.
 inline const SettingKey<QSize> MainWindowSize{"MainWindowSize", {}};

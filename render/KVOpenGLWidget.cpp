@@ -7,6 +7,7 @@
 #include "Settings.h"
 #include "SkinnedMesh.h"
 #include "StaticMesh.h"
+#include "ViewStatistics.h"
 
 #include <QOpenGLContext>
 #include <QTimer>
@@ -25,12 +26,6 @@ constexpr float ReadOutInterval = 0.1f; // seconds
 constexpr int MostLosses = 3;
 constexpr int LossesInterval = 10000; // milliseconds
 
-SurfaceOverlay overlayOf(int type)
-{
-    return type >= 0 && type <= int(SurfaceOverlay::PointsHidden) ? SurfaceOverlay(type)
-                                                                  : SurfaceOverlay::None;
-}
-
 bool canDraw()
 {
     static const bool can = QOpenGLContext().create();
@@ -47,7 +42,12 @@ KVOpenGLWidget::KVOpenGLWidget(QWidget *parent)
     m_frame.showGround = Settings::ShowGround.value();
     m_frame.showAxisGizmo = Settings::ShowAxisGizmo.value();
     m_frame.brightness = Settings::Brightness.value();
-    m_frame.overlay = overlayOf(Settings::SurfSelectType.value());
+    setSurfSelectType(Settings::SurfSelectType.value());
+    setShading(Settings::Shading.value());
+    setShowSkeleton(Settings::ShowSkeleton.value());
+    setShowHotPoints(Settings::ShowHotPoints.value());
+    setShowStatistics(Settings::ShowStatistics.value());
+    setOrbitMode(Settings::OrbitMode.value());
     setFocusPolicy(Qt::StrongFocus);
     m_clock.start();
     if (!canDraw())
@@ -180,7 +180,10 @@ void KVOpenGLWidget::paintGL()
     refreshModel();
     pose();
     m_frame.view = m_camera.viewMatrix();
+    m_frame.marks.mesh = m_frame.skinned ? m_skinnedMesh : nullptr;
     m_painter->paint(m_frame);
+    if (m_statistics)
+        m_statistics->countFrame();
 }
 
 void KVOpenGLWidget::pose()
@@ -230,6 +233,8 @@ void KVOpenGLWidget::modelReplaced(bool shown)
     m_selectedSurface = GLMesh::NoSurface;
     m_frame.selectedBone = -1;
     m_frame.highlight = {};
+    m_frame.marks.mesh = nullptr;
+    setMarkedSelection({}, {});
     rebuildModel();
 }
 
@@ -254,6 +259,7 @@ void KVOpenGLWidget::buildModel()
         m_painter->clearModel();
     m_painter->model().selectedSurface = m_selectedSurface;
     m_frame.groundHeight = groundHeight();
+    showStatistics();
 }
 
 void KVOpenGLWidget::refreshVertices()
@@ -279,6 +285,7 @@ void KVOpenGLWidget::refreshModel()
         model.refresh(*m_staticMesh, m_indexesChanged);
     m_verticesChanged = m_indexesChanged = false;
     m_frame.groundHeight = groundHeight();
+    showStatistics();
 }
 
 // A skinned mesh's vertices lie in their bones' spaces and say nothing about the posed model, so its own box
@@ -334,6 +341,8 @@ void KVOpenGLWidget::tick(float dt)
         if (m_frameLabel.update(playback()))
             emit frameLabelChanged(m_frameLabel.text());
     }
+    if (m_statistics)
+        m_statistics->tick(dt);
     readOut(dt);
     const bool moved = m_camera.tick(dt, m_moveSpeed);
     if (moved || (m_frame.skinned && playbackDiffers()))
@@ -396,82 +405,4 @@ void KVOpenGLWidget::hideEvent(QHideEvent *event)
     m_timer.stop();
     releaseInput();
     QOpenGLWidget::hideEvent(event);
-}
-
-void KVOpenGLWidget::setBackgroundColor(const QColor &color)
-{
-    m_background = color;
-    if (m_painter && takeContext()) {
-        m_painter->setBackground(QColor(color.rgb()));
-        doneCurrent();
-    }
-    update();
-}
-
-void KVOpenGLWidget::setMoveSpeed(float speed)
-{
-    m_moveSpeed = speed;
-}
-
-void KVOpenGLWidget::setBrightness(float factor)
-{
-    m_frame.brightness = factor;
-    update();
-}
-
-void KVOpenGLWidget::setShowGround(bool on)
-{
-    m_frame.showGround = on;
-    update();
-}
-
-void KVOpenGLWidget::setShowAxisGizmo(bool on)
-{
-    m_frame.showAxisGizmo = on;
-    update();
-}
-
-void KVOpenGLWidget::setBackCull(bool on)
-{
-    m_backCull = on;
-    update();
-}
-
-void KVOpenGLWidget::setSurfSelectType(int type)
-{
-    m_frame.overlay = overlayOf(type);
-    update();
-}
-
-void KVOpenGLWidget::setSelectedSurface(int surface)
-{
-    m_selectedSurface = surface;
-    if (m_painter)
-        m_painter->model().selectedSurface = surface;
-    update();
-}
-
-void KVOpenGLWidget::setSelectedBone(int bone)
-{
-    m_frame.selectedBone = bone;
-    update();
-}
-
-void KVOpenGLWidget::setHighlightPoint(const QVector3D &position, bool flag, int bone)
-{
-    m_frame.highlight = {true, position, flag, bone};
-    update();
-}
-
-void KVOpenGLWidget::clearHighlightPoint()
-{
-    m_frame.highlight = {};
-    update();
-}
-
-void KVOpenGLWidget::resetCamera()
-{
-    m_camera.reset();
-    playbackChanged();
-    update();
 }

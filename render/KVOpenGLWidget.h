@@ -4,6 +4,7 @@
 
 #include "Camera.h"
 #include "FrameLabel.h"
+#include "ModelPlaces.h"
 #include "Pose.h"
 #include "ScenePainter.h"
 
@@ -13,8 +14,14 @@
 #include <QOpenGLExtraFunctions>
 #include <QOpenGLWidget>
 
+#include <functional>
+
+class ViewStatistics;
+
 /// The 3D view: shows a skinned or a static mesh, plays the animation of `playback()` on the skinned one,
-/// and flies a camera with mouse and keys (W, A, S, D; Shift for speed; C for the start).
+/// and flies a camera with mouse and keys (W, A, S, D; Shift for speed; C for the start). With Alt held, or
+/// always in orbit mode, the mouse turns the camera around what it looks at instead. A click, which is no
+/// drag, picks what is under the mouse.
 ///
 /// Models are borrowed and must outlive their stay in the view. View settings are read from the settings
 /// store once, at construction; storing them is the caller's part. A hidden view does no work.
@@ -58,6 +65,11 @@ public:
     void setShowAxisGizmo(bool on);
     void setBackCull(bool on);
     void setSurfSelectType(int type); ///< 0 to 4, see SurfaceOverlay; anything else is 0
+    void setShading(int shading);     ///< 0 to 2, see Shading; anything else is 0
+    void setShowSkeleton(bool on);
+    void setShowHotPoints(bool on);
+    void setShowStatistics(bool on); ///< frames a second and the number of triangles, in a corner
+    void setOrbitMode(bool on);      ///< the mouse turns the camera around the model without Alt, too
 
     void setSelectedSurface(int surface); ///< -1: none
     void setSelectedBone(int bone);       ///< -1: none
@@ -65,7 +77,23 @@ public:
     /// square on its corner.
     void setHighlightPoint(const QVector3D &position, bool flag, int bone);
     void clearHighlightPoint();
+    /// The selected ones among the marked bones and hot points, ascending.
+    void setMarkedSelection(std::vector<int> bones, std::vector<int> hotPoints);
+    /// What the tips of bones and hot points say, by their indexes.
+    using MarkName = std::function<QString(int)>;
+    void setMarkNames(MarkName bone, MarkName hotPoint);
+
     void resetCamera();
+    /// Goes where the whole model, or the selected part of it, is in the picture. Where nothing is selected
+    /// that has a place it is the whole model.
+    void frameAll();
+    void frameSelection(const ModelSelection &selection);
+    /// Turns around the point that is looked at.
+    void lookFrom(Camera::Side side);
+
+    /// What the view shows as a picture of another size; null when it cannot be painted.
+    QImage picture(const QSize &size, const QColor &background);
+    QColor backgroundColor() const { return m_background; }
 
     const Camera &camera() const { return m_camera; }
 
@@ -80,6 +108,10 @@ signals:
     void contextLost();
     /// The view cannot draw, see failure(), and has closed.
     void failed();
+    // What a click has hit.
+    void surfacePicked(int surface);
+    void bonePicked(int bone);
+    void hotPointPicked(int hotPoint);
     /// The camera position for the status bar, about ten times a second: "X: 0.000000 Y: ... Z: ...".
     void positionReadOut(const QString &text);
     /// The frame that the painted pose starts from; emitted while painting.
@@ -105,10 +137,20 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void leaveEvent(QEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
     enum class Pace { Idle, Moving };
+    /// What the mouse does with the camera while a button is down, beside flight.
+    enum class Aiming { None, Orbit, Pan };
+    /// One of the two at most.
+    struct HitMarks
+    {
+        int bone = SceneMarks::None;
+        int hotPoint = SceneMarks::None;
+    };
 
     // Meshes on the graphics card.
     void fail(const QString &reason);
@@ -120,6 +162,7 @@ private:
     void buildModel();
     void refreshModel();
     float groundHeight() const;
+    void showStatistics();
 
     // One tick: clock, label, read-out, camera.
     void tick(float dt);
@@ -129,6 +172,19 @@ private:
     void setPace(Pace pace);
 
     void pose();
+    // Aim and hits.
+    void showMarks();
+    void framePlaces(std::vector<QVector3D> places);
+    ScreenMap screenMap() const;
+    int surfaceAt(const QPoint &pixel, QVector3D *place = nullptr) const;
+    /// What the camera turns around: what it was aimed at, else what it looks at, in the view's space.
+    QVector3D pivot() const;
+    void cameraMoved();
+    HitMarks marksAt(const QPoint &pixel) const;
+    void pick(const QPoint &pixel);
+    void hover(const QPoint &pixel);
+
+    bool startAiming(const QMouseEvent &event);
     bool setKey(const QKeyEvent &event, bool held);
     void releaseInput();
     QPoint centre() const { return {width() / 2, height() / 2}; }
@@ -163,4 +219,18 @@ private:
 
     Camera m_camera;
     QPoint m_savedCursor; ///< where the mouse was captured, on the screen
+    bool m_orbitMode = false;
+    Aiming m_aiming = Aiming::None;
+    Qt::MouseButton m_aimingButton = Qt::NoButton;
+    QVector3D m_pivot;      ///< of the aiming
+    QPoint m_aimingCursor;  ///< where the mouse was last
+    bool m_isClick = false; ///< a press without a drag so far
+    QPoint m_clickPixel;
+    int m_clickTravel = 0; ///< pixels
+
+    ViewStatistics *m_statistics = nullptr; ///< null while they are not shown
+    MarkName m_boneName;
+    MarkName m_hotPointName;
+    int m_hoveredBone = SceneMarks::None;
+    int m_hoveredHotPoint = SceneMarks::None;
 };

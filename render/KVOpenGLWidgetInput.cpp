@@ -2,12 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "KVOpenGLWidget.h"
 
+#include <QApplication>
 #include <QCursor>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QToolTip>
 
+#include <cmath>
 #include <optional>
+#include <utility>
 
 namespace {
 std::optional<Camera::Key> cameraKey(int key)
@@ -74,8 +78,28 @@ void KVOpenGLWidget::keyReleaseEvent(QKeyEvent *event)
         QOpenGLWidget::keyReleaseEvent(event);
 }
 
+bool KVOpenGLWidget::startAiming(const QMouseEvent &event)
+{
+    if (m_camera.isCaptured() || !(m_orbitMode || (event.modifiers() & Qt::AltModifier) != 0))
+        return false;
+    if (event.button() != Qt::LeftButton && event.button() != Qt::MiddleButton)
+        return false;
+    m_aiming = event.button() == Qt::LeftButton ? Aiming::Orbit : Aiming::Pan;
+    m_aimingButton = event.button();
+    m_aimingCursor = event.pos();
+    m_pivot = pivot();
+    setCursor(Qt::ClosedHandCursor);
+    return true;
+}
+
 void KVOpenGLWidget::mousePressEvent(QMouseEvent *event)
 {
+    m_isClick = event->buttons() == Qt::LeftButton && (event->modifiers() & Qt::AltModifier) == 0;
+    m_clickPixel = event->pos();
+    m_clickTravel = 0;
+    QToolTip::hideText();
+    if (m_aiming != Aiming::None || startAiming(*event))
+        return;
     if (m_camera.press(cameraButton(event->button()))) {
         m_savedCursor = QCursor::pos();
         QCursor::setPos(mapToGlobal(centre()));
@@ -86,22 +110,67 @@ void KVOpenGLWidget::mousePressEvent(QMouseEvent *event)
 
 void KVOpenGLWidget::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (m_camera.release(cameraButton(event->button()))) {
+    if (m_aiming != Aiming::None) {
+        if (event->button() == m_aimingButton)
+            releaseInput();
+    } else if (m_camera.release(cameraButton(event->button()))) {
         QCursor::setPos(m_savedCursor);
         setCursor(Qt::ArrowCursor);
     }
+    if (event->button() == Qt::LeftButton && std::exchange(m_isClick, false))
+        pick(m_clickPixel);
 }
 
 void KVOpenGLWidget::mouseMoveEvent(QMouseEvent *event)
 {
-    if (!m_camera.isCaptured())
+    if (m_aiming != Aiming::None) {
+        const QPoint moved = event->pos() - std::exchange(m_aimingCursor, event->pos());
+        m_clickTravel += moved.manhattanLength();
+        m_isClick = m_isClick && m_clickTravel < QApplication::startDragDistance();
+        if (m_aiming == Aiming::Orbit)
+            m_camera.orbitDrag(m_pivot, float(moved.x()), float(moved.y()));
+        else
+            m_camera.pan(m_pivot, float(moved.x()), float(moved.y()), height());
+        cameraMoved();
         return;
+    }
+    if (!m_camera.isCaptured()) {
+        if (event->buttons() == Qt::NoButton)
+            hover(event->pos());
+        return;
+    }
     const QPoint offset = event->pos() - centre();
     if (offset.isNull())
         return;
-    m_camera.drag(float(offset.x()), float(offset.y()), m_moveSpeed);
+    if (m_camera.drag(float(offset.x()), float(offset.y()), m_moveSpeed)) {
+        m_clickTravel += offset.manhattanLength();
+        m_isClick = m_isClick && m_clickTravel < QApplication::startDragDistance();
+    }
     QCursor::setPos(mapToGlobal(centre()));
     update();
+}
+
+void KVOpenGLWidget::wheelEvent(QWheelEvent *event)
+{
+    const bool isAlt = (event->modifiers() & Qt::AltModifier) != 0;
+    if (!isAlt && !m_orbitMode) {
+        QOpenGLWidget::wheelEvent(event);
+        return;
+    }
+    constexpr double Notch = 120.0;
+    constexpr double FactorPerNotch = 0.88;
+    // With Alt held many systems turn the wheel sideways.
+    const QPoint turned = event->angleDelta();
+    const double notches = double(turned.y() != 0 ? turned.y() : turned.x()) / Notch;
+    m_camera.dolly(pivot(), float(std::pow(FactorPerNotch, notches)));
+    cameraMoved();
+    event->accept();
+}
+
+void KVOpenGLWidget::leaveEvent(QEvent *event)
+{
+    m_hoveredBone = m_hoveredHotPoint = SceneMarks::None;
+    QOpenGLWidget::leaveEvent(event);
 }
 
 // No release reaches a view that lost the focus: the camera would fly on.
@@ -113,6 +182,8 @@ void KVOpenGLWidget::focusOutEvent(QFocusEvent *event)
 
 void KVOpenGLWidget::releaseInput()
 {
+    if (std::exchange(m_aiming, Aiming::None) != Aiming::None)
+        setCursor(Qt::ArrowCursor);
     if (m_camera.releaseAll()) {
         QCursor::setPos(m_savedCursor);
         setCursor(Qt::ArrowCursor);

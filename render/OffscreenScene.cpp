@@ -2,18 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "OffscreenScene.h"
 
-#include <QColor>
-#include <QOpenGLExtraFunctions>
-#include <QOpenGLFramebufferObject>
+#include "ModelPlaces.h"
+#include "Picture.h"
 
-#include <algorithm>
+#include <QOpenGLFunctions>
 
 namespace {
-constexpr int Samples = 4;
-/// Small pictures are painted larger and scaled down, which also smooths the textures.
-constexpr int LargestOversampling = 4;
-constexpr int OversampledSide = 4096;
-
 QSurfaceFormat surfaceFormat()
 {
     QSurfaceFormat format;
@@ -43,49 +37,16 @@ OffscreenScene::~OffscreenScene() = default;
 
 std::vector<QVector3D> OffscreenScene::corners(const SceneFrame &frame) const
 {
-    const GLMesh &model = m_painter->model();
-    const std::vector<GLVertex> &vertices = model.vertices().vertices;
-    QMatrix4x4 upright;
-    upright.rotate(ScenePainter::uprightRotation());
-    upright.rotate(frame.yaw);
-
-    std::vector<bool> taken(vertices.size(), false);
-    std::vector<QVector3D> places;
-    for (int surface = 0; surface < model.surfaceCount(); ++surface) {
-        for (const quint16 index : model.indexes(surface)) {
-            if (taken[index])
-                continue;
-            taken[index] = true;
-            places.push_back(upright.map(model.place(index)));
-        }
-    }
+    std::vector<QVector3D> places = cornersOf(m_painter->model());
+    const QMatrix4x4 upright = ScenePainter::modelMatrix(frame);
+    for (QVector3D &place : places)
+        place = upright.map(place);
     return places;
 }
 
 QImage OffscreenScene::paint(const SceneFrame &frame, const QSize &size, const QColor &background)
 {
-    m_painter->setUpState(background);
-    const int side = std::max(size.width(), size.height());
-    int factor = LargestOversampling;
-    while (factor > 1 && side * factor > std::min(OversampledSide, m_longestSide))
-        factor /= 2;
-    const QImage image = paintOnce(frame, size * factor);
-    return factor == 1 || image.isNull()
-               ? image
-               : image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-}
-
-QImage OffscreenScene::paintOnce(const SceneFrame &frame, const QSize &size)
-{
-    QOpenGLFramebufferObjectFormat format;
-    format.setAttachment(QOpenGLFramebufferObject::Depth);
-    format.setSamples(Samples);
-    QOpenGLFramebufferObject target(size, format);
-    if (!target.isValid() || !target.bind())
-        return {};
-    m_context.functions()->glViewport(0, 0, size.width(), size.height());
     SceneFrame whole = frame;
     whole.viewport = size;
-    m_painter->paint(whole);
-    return target.toImage();
+    return paintPicture(*m_painter, whole, size, background);
 }

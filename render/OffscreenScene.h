@@ -38,8 +38,6 @@ public:
     QImage paint(const SceneFrame &frame, const QSize &size, const QColor &background);
 
 private:
-    QImage paintOnce(const SceneFrame &frame, const QSize &size);
-
     QString m_failure;
     QOffscreenSurface m_surface;
     QOpenGLContext m_context;

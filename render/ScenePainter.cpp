@@ -9,6 +9,7 @@
 #include <QDebug>
 #include <QOpenGLContext>
 #include <QOpenGLExtraFunctions>
+#include <QVector4D>
 
 #include <algorithm>
 #include <cstring>
@@ -21,6 +22,9 @@ constexpr float NearestMarker = 5.12f; // the near plane: behind it nothing is s
 /// The overlay is drawn this much nearer to the eye, in the same place on the screen, so that the surface it
 /// lies on does not hide it.
 constexpr float OverlayPull = 0.998f;
+constexpr QVector3D DarkWires(0.08f, 0.08f, 0.1f);
+constexpr QVector3D LightWires(0.65f, 0.68f, 0.72f);
+constexpr float WiresOnSurfaces = 0.6f; // opacity: where they are dense the texture still shows
 constexpr float GizmoScale = 2.0f;
 constexpr float GizmoMargin = 64.0f; // from the lower left corner to the arrows' origin, in pixels
 constexpr float GizmoDepth = 1000.0f;
@@ -41,6 +45,8 @@ float distanceOf(const QMatrix4x4 &view, const QVector3D &place)
 
 ScenePainter::ScenePainter(const std::function<void()> &stepFailed)
     : m_gl(*QOpenGLContext::currentContext()->extraFunctions())
+    , m_polygonMode(
+          reinterpret_cast<PolygonMode>(QOpenGLContext::currentContext()->getProcAddress("glPolygonMode")))
     , m_programs(stepFailed)
     , m_model(std::make_unique<GLMesh>(FixedMeshes::placeholder()))
     , m_axisGizmo(FixedMeshes::axisGizmo())
@@ -79,6 +85,7 @@ void ScenePainter::setUpState(const QColor &background)
 void ScenePainter::setBackground(const QColor &color)
 {
     const auto alpha = float(color.alphaF());
+    m_wireColor = alpha > 0.5f && qGray(color.rgb()) < 100 ? LightWires : DarkWires;
     m_gl.glClearColor(alpha * float(color.redF()), alpha * float(color.greenF()),
                       alpha * float(color.blueF()), alpha);
 }
@@ -99,12 +106,19 @@ QQuaternion ScenePainter::uprightRotation()
     return QQuaternion::fromDirection({0.0f, 1.0f, 0.0f}, {0.0f, 0.0f, 1.0f});
 }
 
+QMatrix4x4 ScenePainter::modelMatrix(const SceneFrame &frame)
+{
+    QMatrix4x4 matrix;
+    matrix.rotate(uprightRotation());
+    matrix.rotate(frame.yaw);
+    return matrix;
+}
+
 void ScenePainter::paint(const SceneFrame &frame)
 {
     m_gl.glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
     m_gl.glActiveTexture(GL_TEXTURE0);
-    m_modelMatrix.setToIdentity();
-    m_modelMatrix.rotate(uprightRotation());
+    m_modelMatrix = modelMatrix(frame);
 
     beginTextured(m_programs.plain, frame);
     if (frame.showGround)
@@ -117,6 +131,7 @@ void ScenePainter::paint(const SceneFrame &frame)
 
     beginTextured(m_programs.plain, frame);
     paintBoneMarker(frame);
+    paintMarks(frame);
     paintHighlightPoint(frame);
     if (frame.showAxisGizmo)
         paintAxisGizmo(frame);
@@ -155,15 +170,36 @@ void ScenePainter::paintGround(const SceneFrame &frame)
 
 void ScenePainter::paintModel(const SceneFrame &frame)
 {
-    m_modelMatrix.rotate(frame.yaw);
     const QMatrix4x4 mvp = frame.projection * frame.view * m_modelMatrix;
-    if (!frame.skinned) {
-        drawTextured(m_programs.plain, *m_model, mvp);
-    } else if (m_programs.skin.program.isLinked()) {
-        beginTextured(m_programs.skin, frame);
+    TexturedProgram &textured = frame.skinned ? m_programs.skin : m_programs.plain;
+    if (!textured.program.isLinked())
+        return;
+    if (frame.skinned) {
+        beginTextured(textured, frame);
         uploadPalette();
-        drawTextured(m_programs.skin, *m_model, mvp);
     }
+    if (frame.shading == Shading::Shaded || !m_polygonMode)
+        drawTextured(textured, *m_model, mvp);
+    else
+        paintWires(textured, mvp, frame.shading);
+}
+
+void ScenePainter::paintWires(TexturedProgram &textured, const QMatrix4x4 &mvp, Shading shading)
+{
+    QVector4D color(m_wireColor, 1.0f);
+    if (shading == Shading::ShadedWireframe) {
+        color = QVector4D(DarkWires, WiresOnSurfaces);
+        // Surfaces step back a little, so that they do not hide their own edges.
+        m_gl.glEnable(GL_POLYGON_OFFSET_FILL);
+        m_gl.glPolygonOffset(1.0f, 1.0f);
+        drawTextured(textured, *m_model, mvp);
+        m_gl.glDisable(GL_POLYGON_OFFSET_FILL);
+    }
+    m_gl.glUniform4f(textured.wireColor, color.x(), color.y(), color.z(), color.w());
+    m_polygonMode(GL_FRONT_AND_BACK, GL_LINE);
+    drawTextured(textured, *m_model, mvp);
+    m_polygonMode(GL_FRONT_AND_BACK, GL_FILL);
+    m_gl.glUniform4f(textured.wireColor, 0.0f, 0.0f, 0.0f, 0.0f);
 }
 
 void ScenePainter::uploadPalette()
@@ -241,6 +277,13 @@ void ScenePainter::paintBoneMarker(const SceneFrame &frame)
     marker.scale(SphereRadius * distanceOf(frame.view, m_modelMatrix.map(joint)) / radius);
     m_gl.glClear(GL_DEPTH_BUFFER_BIT);
     drawTextured(m_programs.plain, m_wireSphere, frame.projection * frame.view * marker, GL_LINES);
+}
+
+void ScenePainter::paintMarks(const SceneFrame &frame)
+{
+    const ScreenMap map(frame.projection, frame.view * m_modelMatrix, frame.viewport);
+    m_overlay.paint(m_programs, frame.marks, map, m_model->palette, frame.viewport);
+    beginTextured(m_programs.plain, frame);
 }
 
 // The red square marks a point on a bone; it always faces the viewer.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "GLMesh.h"
+#include "SceneOverlay.h"
 #include "ShaderPrograms.h"
 
 #include <QQuaternion>
@@ -14,6 +15,9 @@
 /// How the selected surface is outlined, in the order of its combo box. The hidden kinds show through the
 /// model.
 enum class SurfaceOverlay { None, Lines, LinesHidden, Points, PointsHidden };
+
+/// How the model's surfaces are drawn, in the order of their menu.
+enum class Shading { Shaded, Wireframe, ShadedWireframe };
 
 /// A place on the model that the user has selected.
 struct HighlightPoint
@@ -36,9 +40,11 @@ struct SceneFrame
     bool showAxisGizmo = false;
     float brightness = 1.0f;
     float groundHeight = 0.0f; ///< model z, 0 or below
+    Shading shading = Shading::Shaded;
     SurfaceOverlay overlay = SurfaceOverlay::None;
     int selectedBone = -1;
     HighlightPoint highlight;
+    MarkedRecords marks;
 };
 
 /// Paints frames with one OpenGL context. Made, used and destroyed with that context current. Painting looks
@@ -63,8 +69,12 @@ public:
     void setBackFaceCulling(bool on);
 
     void paint(const SceneFrame &frame);
+    /// The bones and hot points of the frame painted last.
+    const SceneMarks &marks() const { return m_overlay.marks(); }
 
-    /// Turns the model's z-up space into the view's y-up one: x to -x, y to z, z to y.
+    /// Turns the model's z-up space into the view's y-up one, with the frame's turn of the model.
+    static QMatrix4x4 modelMatrix(const SceneFrame &frame);
+    /// The same without that turn: x to -x, y to z, z to y.
     static QQuaternion uprightRotation();
 
 private:
@@ -73,20 +83,27 @@ private:
                       GLenum mode = GL_TRIANGLES);
     void paintGround(const SceneFrame &frame);
     void paintModel(const SceneFrame &frame);
+    void paintWires(TexturedProgram &textured, const QMatrix4x4 &mvp, Shading shading);
     void uploadPalette();
     void paintOverlay(const SceneFrame &frame);
     void drawPosedSurface(int surface, GLenum mode);
     void paintBoneMarker(const SceneFrame &frame);
+    void paintMarks(const SceneFrame &frame);
     void paintHighlightPoint(const SceneFrame &frame);
     void paintAxisGizmo(const SceneFrame &frame);
 
+    using PolygonMode = void(QOPENGLF_APIENTRYP)(GLenum face, GLenum mode);
+
     QOpenGLExtraFunctions &m_gl;
+    PolygonMode m_polygonMode; ///< null in an embedded context, which draws no wires
+    QVector3D m_wireColor;     ///< that shows on the background
     ShaderPrograms m_programs;
     std::unique_ptr<GLMesh> m_model;
     std::unique_ptr<GLMesh> m_ground; ///< made when it is first shown
     GLMesh m_axisGizmo;
     GLMesh m_redQuad;
     GLMesh m_wireSphere;
+    SceneOverlay m_overlay;
     QMatrix4x4 m_modelMatrix; ///< of the frame being painted
     std::array<float, 16 * ShaderPrograms::BoneLimit> m_boneUpload{};
 

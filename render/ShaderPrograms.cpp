@@ -14,6 +14,7 @@ void buildProgram(QOpenGLShaderProgram &program, const QString &vertexPath, cons
     program.bindAttributeLocation("a_texcoord", int(AttributeLocation::TexCoord));
     program.bindAttributeLocation("a_normal", int(AttributeLocation::Normal));
     program.bindAttributeLocation("a_boneID", int(AttributeLocation::BoneId));
+    program.bindAttributeLocation("a_color", int(AttributeLocation::Color));
     if (!program.link())
         stepFailed();
 }
@@ -26,6 +27,7 @@ void locateUniforms(TexturedProgram &textured)
     textured.brightness = program.uniformLocation("brightness");
     textured.tiling = program.uniformLocation("tiling");
     textured.colorHighlight = program.uniformLocation("color_highlight");
+    textured.wireColor = program.uniformLocation("wire_color");
 }
 } // namespace
 
@@ -37,10 +39,13 @@ ShaderPrograms::ShaderPrograms(const std::function<void()> &stepFailed)
                  QStringLiteral(":/shaders/fshaderHighlight.glsl"), stepFailed);
     buildProgram(skin.program, QStringLiteral(":/shaders/vshaderSkin.glsl"),
                  QStringLiteral(":/shaders/fshaderSkin.glsl"), stepFailed);
+    buildProgram(overlay, QStringLiteral(":/shaders/vshaderOverlay.glsl"),
+                 QStringLiteral(":/shaders/fshaderOverlay.glsl"), stepFailed);
 
     locateUniforms(plain);
     locateUniforms(skin);
     highlightMvpMatrix = highlight.uniformLocation("mvp_matrix");
+    overlayMvpMatrix = overlay.uniformLocation("mvp_matrix");
 
     bones = skin.program.uniformLocation("gBones[0]");
     for (boneCount = 0;; ++boneCount) {

@@ -14,6 +14,7 @@ constexpr GLuint Position = 0;
 constexpr GLuint TexCoord = 1;
 constexpr GLuint Normal = 2;
 constexpr GLuint BoneId = 3;
+constexpr GLuint Color = 4; ///< of an overlay's vertex
 } // namespace AttributeLocation
 
 /// A program that draws textured surfaces, with the places of its uniforms.
@@ -25,6 +26,7 @@ struct TexturedProgram
     int brightness = -1;
     int tiling = -1;
     int colorHighlight = -1;
+    int wireColor = -1; ///< laid over the texture by its alpha
 };
 
 /// The shader programs of one context. Made and destroyed with the context current.
@@ -34,13 +36,15 @@ public:
     /// Bones that the skin program holds.
     static constexpr int BoneLimit = 128;
 
-    /// Compiles and links all three; calls `stepFailed` after each step that fails and goes on.
+    /// Compiles and links all four; calls `stepFailed` after each step that fails and goes on.
     explicit ShaderPrograms(const std::function<void()> &stepFailed);
 
     TexturedProgram plain;
     TexturedProgram skin;
     QOpenGLShaderProgram highlight;
     int highlightMvpMatrix = -1;
+    QOpenGLShaderProgram overlay;
+    int overlayMvpMatrix = -1;
 
     int bones = -1;             ///< gBones[0] of the skin program
     int boneCount = 0;          ///< entries of gBones before the first that the program does not have

@@ -8,12 +8,9 @@
 namespace {
 constexpr QVector3D StartPosition(0.0f, -300.0f, 600.0f);
 constexpr float StartYaw = 180.0f;
-constexpr float PitchLimit = 89.0f;
-constexpr float DegreesPerPixel = 0.5f;
 constexpr float SmoothTime = 0.05f; // seconds
 constexpr float FastFactor = 3.0f;
 constexpr float FieldOfView = 90.0f; // vertical, degrees
-constexpr float NearPlane = 5.12f;
 constexpr float FarPlane = 100000.0f;
 
 /// Equal to about five digits. Towards a target of 0 only 0 itself is equal.
@@ -44,6 +41,7 @@ void Camera::reset()
     m_position = m_targetPosition = StartPosition;
     m_yaw = m_targetYaw = StartYaw;
     m_pitch = m_targetPitch = 0.0f;
+    m_framed.reset();
 }
 
 QMatrix4x4 Camera::viewMatrix() const
@@ -108,10 +106,10 @@ bool Camera::releaseAll()
     return wasCaptured;
 }
 
-void Camera::drag(float dx, float dy, float speed)
+bool Camera::drag(float dx, float dy, float speed)
 {
     if (!m_captured || m_ticksSinceCapture < 1)
-        return;
+        return false;
     if (m_buttons[LeftButton]) {
         const QVector3D right = rotation().rotatedVector({1.0f, 0.0f, 0.0f});
         const QVector3D forward = rotation().rotatedVector({0.0f, 0.0f, 1.0f});
@@ -127,6 +125,7 @@ void Camera::drag(float dx, float dy, float speed)
         m_targetYaw -= dx * DegreesPerPixel;
         m_targetPitch = std::clamp(m_targetPitch - dy * DegreesPerPixel, -PitchLimit, PitchLimit);
     }
+    return true;
 }
 
 bool Camera::tick(float dt, float speed)
@@ -136,6 +135,8 @@ bool Camera::tick(float dt, float speed)
     const bool flew = fly(speed);
     // The first tick of a capture may still see the cursor on its way to the centre.
     const bool smoothed = m_captured && m_ticksSinceCapture >= 2 && smooth(dt);
+    if (flew || smoothed)
+        m_framed.reset();
     return flew || smoothed;
 }
 

@@ -6,7 +6,34 @@
 #include <QSize>
 #include <QVector3D>
 
+#include <array>
 #include <vector>
+
+/// How far points reach beyond the sides of a pyramid of vision, whose tip then goes where it has all of them
+/// inside. Points that are not finite do not count.
+class VisionExtent
+{
+public:
+    /// `turn` turns the points so that the eye looks along -z; the tangents are those of the angles between
+    /// that direction and the sides of the picture.
+    VisionExtent(const std::vector<QVector3D> &points, const QMatrix4x4 &turn, float tangentX,
+                 float tangentY);
+
+    bool isEmpty() const { return m_isEmpty; }
+    /// The nearest eye, in the turned space, that sees all points, at least `least` before the nearest one.
+    QVector3D eye(float least) const;
+    /// Turned z of the points; 0 without points.
+    float nearest() const { return m_bounds[Nearest]; }
+    float farthest() const { return -m_bounds[Farthest]; }
+
+private:
+    enum Bound { Right, Left, Up, Down, Nearest, Farthest, BoundCount };
+
+    float m_tangentX;
+    float m_tangentY;
+    std::array<float, BoundCount> m_bounds{};
+    bool m_isEmpty = true;
+};
 
 /// Where a still camera stands, as a frame is painted with it.
 struct Framing

@@ -7,6 +7,7 @@ uniform sampler2D texture;
 uniform float brightness;
 uniform float tiling;
 uniform vec4 color_highlight;
+uniform vec4 wire_color;
 
 varying vec2 v_texcoord;
 
@@ -18,5 +19,7 @@ void main()
     c.rgb *= brightness;
     if (c.a < 0.01)
         c = vec4(0.0, 0.0, 0.0, 0.0);
-    gl_FragColor = c;
+    // Edges have one colour, or orange where their surface is selected.
+    vec3 wire = color_highlight.b > 0.0 ? vec3(1.0, 0.55, 0.0) : wire_color.rgb;
+    gl_FragColor = mix(c, vec4(wire, 1.0), wire_color.a);
 }

@@ -87,6 +87,14 @@ void TestFaults::withoutOpenGLAllElseWorks()
     QVERIFY(notice && notice->isVisible());
     QVERIFY(notice->height() > window.height() / 4);
     QVERIFY(notice->text().contains(QStringLiteral("OpenGL")));
+    // What the view would do is refused or does nothing.
+    const QString path = m_files->filePath(QStringLiteral("man.skinnedmesh"));
+    QVERIFY(!triangleMan().write(path));
+    window.openFiles({path});
+    QVERIFY(!find<QAction>(window, "actionSavePicture")->isEnabled());
+    for (const char *name : {"actionFrameAll", "actionFrameSelection", "actionLookTop", "actionSkeleton",
+                             "actionStatistics", "actionWireframe"})
+        find<QAction>(window, name)->trigger();
     // What really is on the screen: a window that cannot be put together stays black.
     const QPoint corner = notice->mapToGlobal({10, 10});
     QTRY_COMPARE(QGuiApplication::primaryScreen()

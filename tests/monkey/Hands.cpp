@@ -81,8 +81,12 @@ void Hands::turnWheel(QWidget *widget, const QPoint &at, int delta, Qt::Keyboard
 
 void Hands::pressKey(QWidget *arena, int key, Qt::KeyboardModifiers modifiers)
 {
-    if (QWindow *window = windowOf(arena))
-        QTest::keyClick(window, Qt::Key(key), modifiers);
+    const QPointer<QWindow> window = windowOf(arena);
+    if (window)
+        QTest::keyPress(window, Qt::Key(key), modifiers);
+    // A menu may be gone by then.
+    if (window)
+        QTest::keyRelease(window, Qt::Key(key), modifiers);
 }
 
 void Hands::typeText(QWidget *arena, const QString &text)

@@ -3,9 +3,11 @@
 #include "Monkey.h"
 
 #include "Checks.h"
+#include "FilterLine.h"
 #include "Hands.h"
 #include "ImportDialog.h"
 #include "Journal.h"
+#include "KVTreeView.h"
 #include "MainWindow.h"
 #include "Playground.h"
 #include "Settings.h"
@@ -141,6 +143,11 @@ void Monkey::closeWindow()
 void Monkey::check()
 {
     say(QStringLiteral("check"));
+    // A tree is compared with a fresh one, which no filter has been typed for.
+    for (auto *tree : m_window->findChildren<KVTreeView *>()) {
+        tree->parentWidget()->findChild<FilterLine *>()->clear();
+        tree->setFilter({});
+    }
     const QStringList found = m_checks->findings();
     if (!found.isEmpty())
         m_journal.fail(found.join(QStringLiteral("; ")));

@@ -5,6 +5,8 @@
 
 #include <cmath>
 
+Q_DECLARE_METATYPE(std::vector<QVector3D>)
+
 class tst_Camera : public QObject
 {
     Q_OBJECT
@@ -20,6 +22,11 @@ private slots:
     void positionGoesBeforeAngles();
     void capture();
     void dragWaitsForATick();
+    void framesWhatItIsGiven_data();
+    void framesWhatItIsGiven();
+    void orbitKeepsThePivot();
+    void sides();
+    void panAndDolly();
     void springArrives();
     void springAtRestKeepsNumbers();
 };
@@ -207,6 +214,100 @@ void tst_Camera::dragWaitsForATick()
     QCOMPARE(camera.yaw(), 180.0f);
     QVERIFY(camera.tick(Tick, 1.0f));
     QVERIFY(camera.yaw() < 180.0f);
+}
+
+void tst_Camera::framesWhatItIsGiven_data()
+{
+    QTest::addColumn<std::vector<QVector3D>>("points");
+    QTest::newRow("a model") << std::vector<QVector3D>{{-90, 0, -100}, {110, 200, 40}, {0, 100, -120}};
+    QTest::newRow("far away") << std::vector<QVector3D>{{5000, 9000, -3000}, {5100, 9050, -3000}};
+    QTest::newRow("one point") << std::vector<QVector3D>{{1, 2, 3}};
+    QTest::newRow("with one that is none")
+        << std::vector<QVector3D>{{1, 2, 3}, {10, 20, 30}, {NAN, 5, INFINITY}};
+}
+
+void tst_Camera::framesWhatItIsGiven()
+{
+    QFETCH(std::vector<QVector3D>, points);
+    Camera camera;
+    camera.orbit({}, 130.0f, -25.0f);
+    const QSize size(640, 400);
+    camera.frame(points, size);
+    QCOMPARE(camera.yaw(), 130.0f);
+    QVERIFY(camera.framed());
+    const QMatrix4x4 toPicture = Camera::projectionMatrix(size.width(), size.height()) * camera.viewMatrix();
+    float widest = 0.0f;
+    for (const QVector3D &point : points) {
+        const QVector3D seen = toPicture.map(point);
+        if (!std::isfinite(point.x() + point.z()))
+            continue;
+        QVERIFY(std::fabs(seen.z()) <= 1.0f);
+        widest = std::max({widest, std::fabs(seen.x()), std::fabs(seen.y())});
+    }
+    QVERIFY2(widest < 0.9f, qPrintable(QString::number(double(widest))));
+    QVERIFY(widest > 0.8f || points.size() != 3 || std::isnan(points[2].x()));
+
+    // What was framed is forgotten by flying, and nothing to frame changes nothing.
+    const QVector3D stands = camera.position();
+    camera.frame({}, size);
+    QCOMPARE(camera.position(), stands);
+    camera.setKey(Camera::Forward, true);
+    camera.tick(Tick, 1.0f);
+    QVERIFY(!camera.framed());
+}
+
+void tst_Camera::orbitKeepsThePivot()
+{
+    Camera camera;
+    const QVector3D pivot(30.0f, 100.0f, -50.0f);
+    const QVector3D seen = camera.viewMatrix().map(pivot);
+    for (int i = 0; i < 500; ++i)
+        camera.orbitDrag(pivot, 7.0f, i % 5 == 0 ? -3.0f : 1.0f);
+    QVERIFY((camera.viewMatrix().map(pivot) - seen).length() < 0.05f);
+    camera.orbitDrag(pivot, 0.0f, 1e6f);
+    QCOMPARE(camera.pitch(), -89.0f);
+    // What is near follows the mouse: the eye goes up when it is dragged down.
+    QVERIFY(camera.eye().y() > pivot.y());
+}
+
+void tst_Camera::sides()
+{
+    const QVector3D pivot(10.0f, 100.0f, 20.0f);
+    const auto from = [&](Camera::Side side) {
+        Camera camera;
+        camera.orbit({}, 47.0f, 31.0f);
+        camera.lookFrom(side, camera.eye() + camera.sight() * 100.0f);
+        camera.frame({pivot}, {100, 100});
+        return (camera.eye() - pivot).normalized();
+    };
+    // The view has a model's +x at -x, its front at -z and its top at +y.
+    QVERIFY(near(from(Camera::Side::Front), {0, 0, -1}));
+    QVERIFY(near(from(Camera::Side::Back), {0, 0, 1}));
+    QVERIFY(near(from(Camera::Side::Right), {-1, 0, 0}));
+    QVERIFY(near(from(Camera::Side::Left), {1, 0, 0}));
+    QVERIFY((from(Camera::Side::Top) - QVector3D(0, 1, 0)).length() < 0.02f);
+    QVERIFY((from(Camera::Side::Bottom) - QVector3D(0, -1, 0)).length() < 0.02f);
+}
+
+void tst_Camera::panAndDolly()
+{
+    Camera camera;
+    const QVector3D pivot(30.0f, 250.0f, -50.0f);
+    const QMatrix4x4 projection = Camera::projectionMatrix(400, 300);
+    const QVector3D before = (projection * camera.viewMatrix()).map(pivot);
+    camera.pan(pivot, 40.0f, -30.0f, 300);
+    const QVector3D after = (projection * camera.viewMatrix()).map(pivot);
+    QVERIFY(std::fabs((after.x() - before.x()) * 200.0f - 40.0f) < 0.01f);
+    QVERIFY(std::fabs((after.y() - before.y()) * 150.0f - 30.0f) < 0.01f);
+
+    const float distance = (camera.eye() - pivot).length();
+    camera.dolly(pivot, 0.5f);
+    QVERIFY(std::fabs((camera.eye() - pivot).length() - 0.5f * distance) < 0.1f);
+    for (int i = 0; i < 100; ++i)
+        camera.dolly(pivot, 0.5f);
+    QVERIFY(-camera.viewMatrix().map(pivot).z() > Camera::NearPlane);
+    camera.dolly(pivot, 10.0f);
+    QVERIFY(-camera.viewMatrix().map(pivot).z() > 10.0f * Camera::NearPlane);
 }
 
 void tst_Camera::springArrives()

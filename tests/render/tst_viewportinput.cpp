@@ -6,6 +6,8 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QSignalSpy>
+#include <QToolTip>
+#include <QWheelEvent>
 
 #include <cmath>
 #include <memory>
@@ -25,6 +27,9 @@ private slots:
     void autoRepeatChangesNothing();
     void commandsBelongToTheWindow();
     void dragTurnsTheView();
+    void clickPicksAndDragDoesNot();
+    void tipsNameBones();
+    void altTurnsAroundTheModel();
     void captureHidesTheCursor();
     void lostFocusReleasesEverything();
     void pausedViewRests();
@@ -33,7 +38,9 @@ private slots:
     void inactiveViewIsSilent();
 
 private:
-    void sendMouse(QEvent::Type type, QPoint offset, Qt::MouseButton button, Qt::MouseButtons held);
+    void sendMouse(QEvent::Type type, QPoint offset, Qt::MouseButton button, Qt::MouseButtons held,
+                   Qt::KeyboardModifiers keys = Qt::NoModifier);
+    void showWall();
     void press(Qt::MouseButton button) { sendMouse(QEvent::MouseButtonPress, {}, button, button); }
     void release(Qt::MouseButton button) { sendMouse(QEvent::MouseButtonRelease, {}, button, Qt::NoButton); }
     void playBlock(float speed, int frames);
@@ -59,11 +66,10 @@ void tst_ViewportInput::cleanup()
 
 /// `offset` is from the middle, where a captured cursor is put back.
 void tst_ViewportInput::sendMouse(QEvent::Type type, QPoint offset, Qt::MouseButton button,
-                                  Qt::MouseButtons held)
+                                  Qt::MouseButtons held, Qt::KeyboardModifiers keys)
 {
     const QPoint centre(m_view->width() / 2, m_view->height() / 2);
-    QMouseEvent event(type, centre + offset, m_view->mapToGlobal(centre + offset), button, held,
-                      Qt::NoModifier);
+    QMouseEvent event(type, centre + offset, m_view->mapToGlobal(centre + offset), button, held, keys);
     QApplication::sendEvent(m_view.get(), &event);
 }
 
@@ -186,6 +192,119 @@ void tst_ViewportInput::dragTurnsTheView()
     QCOMPARE(m_view->camera().targetPitch(), -89.0f);
     QTRY_VERIFY(std::fabs(m_view->camera().pitch() + 89.0f) < 0.1f);
     release(Qt::RightButton);
+}
+
+/// A wall of 100 by 100 units on a bone before the middle of the start view; the second bone is its child.
+void tst_ViewportInput::showWall()
+{
+    playBlock(10.0f, 1);
+    m_mesh.nodes.resize(2);
+    m_mesh.nodes[0].childNodes = {1};
+    m_mesh.surfaces = {{QStringLiteral("_white"), {}}, {QStringLiteral("_white"), {0, 1, 2, 0, 2, 3}}};
+    m_mesh.vertices = {{{-50, 0, -50}, {}, {}, 0},
+                       {{-50, 0, 50}, {}, {}, 0},
+                       {{50, 0, 50}, {}, {}, 0},
+                       {{50, 0, -50}, {}, {}, 0}};
+    m_anim.blocks[0].nodes.resize(2);
+    m_anim.blocks[0].nodes[0].initialPosition = {0, 0, 300};
+    m_anim.blocks[0].nodes[1].initialPosition = {0, 0, 20};
+    m_view->setSkinnedMesh(&m_mesh);
+    m_view->open();
+}
+
+void tst_ViewportInput::clickPicksAndDragDoesNot()
+{
+    showWall();
+    QSignalSpy surfaces(m_view.get(), &KVOpenGLWidget::surfacePicked);
+    QSignalSpy bones(m_view.get(), &KVOpenGLWidget::bonePicked);
+    const QPoint centre(m_view->width() / 2, m_view->height() / 2);
+    QTest::mouseClick(m_view.get(), Qt::LeftButton, {}, centre + QPoint(8, 8));
+    QCOMPARE(surfaces, QList<QVariantList>{{1}});
+    QTest::mouseClick(m_view.get(), Qt::LeftButton, {}, centre + QPoint(80, 0)); // beside it
+    QTest::mouseClick(m_view.get(), Qt::RightButton, {}, centre);
+    press(Qt::LeftButton);
+    QTest::qWait(20);
+    sendMouse(QEvent::MouseMove, {6, 0}, Qt::NoButton, Qt::LeftButton);
+    sendMouse(QEvent::MouseMove, {-6, 0}, Qt::NoButton, Qt::LeftButton); // there and back is a drag
+    release(Qt::LeftButton);
+    QCOMPARE(surfaces.size(), 1);
+
+    m_view->resetCamera();
+    m_view->setShowSkeleton(true);
+    m_view->grabFramebuffer();
+    QTest::mouseClick(m_view.get(), Qt::LeftButton, {}, centre + QPoint(2, 1));
+    QTest::mouseClick(m_view.get(), Qt::LeftButton, {}, centre + QPoint(10, 10));
+    QCOMPARE(bones, QList<QVariantList>{{0}});
+    QCOMPARE(surfaces.size(), 2);
+    m_view->setSkinnedMesh(nullptr);
+    QTest::mouseClick(m_view.get(), Qt::LeftButton, {}, centre);
+    QCOMPARE(bones.size() + surfaces.size(), 3);
+}
+
+void tst_ViewportInput::tipsNameBones()
+{
+    showWall();
+    QStringList asked;
+    const auto name = [&asked](int bone) {
+        asked << QStringLiteral("Bone %1").arg(bone);
+        return asked.last();
+    };
+    m_view->setMarkNames(name, {});
+    m_view->setShowSkeleton(true);
+    m_view->grabFramebuffer();
+    sendMouse(QEvent::MouseMove, {60, 60}, Qt::NoButton, Qt::NoButton);
+    QVERIFY(asked.isEmpty());
+    sendMouse(QEvent::MouseMove, {1, 2}, Qt::NoButton, Qt::NoButton);
+    sendMouse(QEvent::MouseMove, {2, 1}, Qt::NoButton, Qt::NoButton);
+    QCOMPARE(asked, QStringList{QStringLiteral("Bone 0")});
+    QTRY_COMPARE(QToolTip::text(), QStringLiteral("Bone 0"));
+    sendMouse(QEvent::MouseMove, {60, 60}, Qt::NoButton, Qt::NoButton);
+    QTRY_VERIFY(!QToolTip::isVisible());
+}
+
+void tst_ViewportInput::altTurnsAroundTheModel()
+{
+    showWall();
+    const QVector3D start = m_view->camera().position();
+    const QVector3D wall(0.0f, 300.0f, 0.0f);
+    const auto drag = [this](Qt::MouseButton button, QPoint way, Qt::KeyboardModifiers keys) {
+        sendMouse(QEvent::MouseButtonPress, {}, button, button, keys);
+        sendMouse(QEvent::MouseMove, way / 2, Qt::NoButton, button, keys);
+        sendMouse(QEvent::MouseMove, way, Qt::NoButton, button, keys);
+        sendMouse(QEvent::MouseButtonRelease, way, button, Qt::NoButton, keys);
+    };
+    const auto wheel = [this](QPoint turn, Qt::KeyboardModifiers keys) {
+        QWheelEvent event({200, 150}, m_view->mapToGlobal({200, 150}), {}, turn, Qt::NoButton, keys,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(m_view.get(), &event);
+        return event.isAccepted();
+    };
+    // The wall in the middle of the view is what it turns around.
+    drag(Qt::LeftButton, {180, 0}, Qt::AltModifier);
+    QCOMPARE(m_view->camera().yaw(), 90.0f);
+    const QVector3D seen = m_view->camera().viewMatrix().map(wall);
+    QVERIFY(std::fabs(seen.x()) < 5.0f && std::fabs(seen.z() + 601.0f) < 5.0f); // a pixel or two
+    QVERIFY(!m_view->camera().isCaptured());
+    QCOMPARE(m_view->cursor().shape(), Qt::ArrowCursor);
+
+    QVERIFY(!wheel({0, 120}, Qt::NoModifier));
+    QVERIFY(wheel({120, 0}, Qt::AltModifier)); // turned sideways by the system
+    QVERIFY(m_view->camera().viewMatrix().map(wall).z() > seen.z() + 20.0f);
+    const QVector3D before = m_view->camera().position();
+    drag(Qt::MiddleButton, {0, 50}, Qt::AltModifier);
+    QVERIFY(m_view->camera().position().y() < before.y() - 20.0f);
+
+    // The same without Alt in orbit mode, and no flight.
+    m_view->resetCamera();
+    m_view->setOrbitMode(true);
+    drag(Qt::LeftButton, {-180, 0}, Qt::NoModifier);
+    QCOMPARE(m_view->camera().yaw(), 270.0f);
+    QVERIFY(wheel({0, -120}, Qt::NoModifier));
+    m_view->setOrbitMode(false);
+    m_view->resetCamera();
+    drag(Qt::LeftButton, {180, 0}, Qt::NoModifier);
+    QCOMPARE(m_view->camera().yaw(), 180.0f);
+    QCOMPARE(m_view->camera().position(), start);
 }
 
 void tst_ViewportInput::captureHidesTheCursor()

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "PictureSaver.h"
+
+#include "KVOpenGLWidget.h"
+#include "Log.h"
+#include "PictureDialog.h"
+#include "Settings.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QImageWriter>
+#include <QMessageBox>
+#include <QSaveFile>
+
+PictureSaver::PictureSaver(QWidget *window)
+    : QObject(window)
+    , m_window(window)
+    , m_action(new QAction(QIcon(QStringLiteral(":/Images/Icons/frame.png")), tr("Save Pictur&e…"), window))
+{
+    m_action->setObjectName(QStringLiteral("actionSavePicture"));
+    m_action->setShortcut(Qt::Key_F12);
+    m_action->setStatusTip(tr("Save what the view shows as a picture"));
+    m_action->setToolTip(
+        tr("%1 (%2)").arg(m_action->statusTip(), m_action->shortcut().toString(QKeySequence::NativeText)));
+    m_action->setEnabled(false);
+    connect(m_action, &QAction::triggered, this, &PictureSaver::on_actionSavePicture_triggered);
+}
+
+void PictureSaver::setSource(KVOpenGLWidget *viewport, const QString &name)
+{
+    if (m_viewport)
+        m_viewport->disconnect(this);
+    m_viewport = viewport;
+    m_name = name;
+    m_action->setEnabled(viewport && viewport->failure().isEmpty());
+    if (viewport)
+        connect(viewport, &KVOpenGLWidget::failed, this, [this] { m_action->setEnabled(false); });
+}
+
+void PictureSaver::on_actionSavePicture_triggered()
+{
+    PictureDialog dialog(m_viewport->size() * m_viewport->devicePixelRatioF(), m_window);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    QFileDialog files(m_window, tr("Save Picture"), Settings::PicturePath.value(),
+                      tr("PNG pictures (*.png)"));
+    files.setAcceptMode(QFileDialog::AcceptSave);
+    files.setDefaultSuffix(QStringLiteral("png"));
+    files.selectFile(QFileInfo(m_name).completeBaseName() + QStringLiteral(".png"));
+    if (files.exec() != QDialog::Accepted || files.selectedFiles().isEmpty())
+        return;
+    const QString path = files.selectedFiles().first();
+    Settings::PicturePath.setValue(QFileInfo(path).absolutePath());
+    save(path, dialog.pictureSize(), dialog.isTransparent());
+}
+
+bool PictureSaver::save(const QString &path, const QSize &size, bool transparent)
+{
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    QImage picture =
+        m_viewport->picture(size, transparent ? QColor(0, 0, 0, 0) : m_viewport->backgroundColor().rgb());
+    QGuiApplication::restoreOverrideCursor();
+    if (picture.isNull())
+        return refuse(path, tr("the graphics driver cannot paint a picture of %1 by %2 pixels")
+                                .arg(QString::number(size.width()), QString::number(size.height())));
+    if (!transparent)
+        picture = picture.convertToFormat(QImage::Format_RGB32);
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return refuse(path, file.errorString());
+    QImageWriter writer(&file, "png");
+    if (!writer.write(picture))
+        return refuse(path, writer.errorString());
+    if (!file.commit())
+        return refuse(path, file.errorString());
+    emit told(tr("The picture was saved as %1").arg(QDir::toNativeSeparators(path)));
+    return false;
+}
+
+bool PictureSaver::refuse(const QString &path, const QString &reason)
+{
+    const QString nativePath = QDir::toNativeSeparators(path);
+    Log::error(tr("[Save Picture] '%1': %2").arg(nativePath, reason));
+    QMessageBox::warning(m_window, tr("File error"), tr("Failed to save\n%1\n\n%2").arg(nativePath, reason));
+    return true;
+}

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "ViewportAction.h"
+
+#include "KVOpenGLWidget.h"
+
+#include <QAction>
+#include <QCoreApplication>
+
+QAction *viewportAction(const char *name, const char *icon, const QString &text, const QString &tip,
+                        const QList<QKeySequence> &keys, const Viewports &viewports, QObject *parent)
+{
+    auto *action = new QAction(text, parent);
+    action->setObjectName(QLatin1String(name));
+    if (icon)
+        action->setIcon(QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(icon))));
+    action->setStatusTip(tip);
+    action->setToolTip(tip);
+    if (!keys.isEmpty()) {
+        action->setToolTip(QCoreApplication::translate("ViewportAction", "%1 (%2 in the view)")
+                               .arg(tip, keys.first().toString(QKeySequence::NativeText)));
+        action->setShortcuts(keys);
+        action->setShortcutContext(Qt::WidgetShortcut);
+        for (KVOpenGLWidget *viewport : viewports)
+            viewport->addAction(action);
+    }
+    return action;
+}

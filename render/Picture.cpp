@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "Picture.h"
+
+#include "ScenePainter.h"
+
+#include <QColor>
+#include <QOpenGLContext>
+#include <QOpenGLExtraFunctions>
+#include <QOpenGLFramebufferObject>
+
+#include <algorithm>
+
+namespace {
+constexpr int Samples = 4; // up to OversampledSide; beyond, their memory would be measured in gigabytes
+/// Small pictures are painted larger and scaled down, which also smooths the textures.
+constexpr int LargestOversampling = 4;
+constexpr int OversampledSide = 4096;
+
+QImage paintOnce(ScenePainter &painter, const SceneFrame &frame, const QSize &size)
+{
+    QOpenGLFramebufferObjectFormat format;
+    format.setAttachment(QOpenGLFramebufferObject::Depth);
+    format.setSamples(std::max(size.width(), size.height()) > OversampledSide ? 0 : Samples);
+    QOpenGLFramebufferObject target(size, format);
+    if (!target.isValid() || !target.bind())
+        return {};
+    QOpenGLContext::currentContext()->functions()->glViewport(0, 0, size.width(), size.height());
+    painter.paint(frame);
+    QImage image = target.toImage();
+    target.release();
+    return image;
+}
+
+int oversampling(const SceneFrame &frame, const QSize &size)
+{
+    // Edges are one pixel wide at any size and would become too faint.
+    if (frame.shading != Shading::Shaded)
+        return 1;
+    GLint longestSide = 0;
+    QOpenGLContext::currentContext()->functions()->glGetIntegerv(GL_MAX_RENDERBUFFER_SIZE, &longestSide);
+    const int side = std::max(size.width(), size.height());
+    int factor = LargestOversampling;
+    while (factor > 1 && side * factor > std::min(OversampledSide, longestSide))
+        factor /= 2;
+    return factor;
+}
+} // namespace
+
+QImage paintPicture(ScenePainter &painter, const SceneFrame &frame, const QSize &size,
+                    const QColor &background)
+{
+    painter.setUpState(background);
+    const int factor = oversampling(frame, size);
+    const QImage image = paintOnce(painter, frame, size * factor);
+    return factor == 1 || image.isNull()
+               ? image
+               : image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}

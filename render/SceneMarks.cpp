@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "SceneMarks.h"
+
+#include "SkinnedMesh.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+// In pixels.
+constexpr float LineWidth = 2.0f;
+constexpr float JointRadius = 3.5f;
+constexpr float HotPointRadius = 5.5f;
+constexpr float Outline = 1.5f;
+constexpr double Reach = 9.0; // of the mouse
+
+constexpr QRgb OutlineColor = 0x90000000;
+constexpr QRgb BoneColor = 0xffe8eaf0;
+constexpr QRgb HotPointColor = 0xffffe14d;
+constexpr QRgb SelectedColor = 0xffff8c00;
+
+/// A model may say anything; more than this cannot be told apart.
+constexpr size_t MostMarks = 4096;
+
+bool contains(const std::vector<int> &ascending, int number)
+{
+    return std::binary_search(ascending.begin(), ascending.end(), number);
+}
+} // namespace
+
+void SceneMarks::place(const MarkedRecords &records, const ScreenMap &map, const BonePalette &palette)
+{
+    m_bones.clear();
+    m_lines.clear();
+    m_hotPoints.clear();
+    if (records.mesh && records.skeleton)
+        placeBones(records, map, palette);
+    if (records.mesh && records.hotPoints)
+        placeHotPoints(records, map, palette);
+}
+
+SceneMarks::Mark SceneMarks::markAt(int record, const std::vector<int> &selection, const QVector3D &inEye,
+                                    const ScreenMap &map)
+{
+    const bool visible = map.isVisible(inEye);
+    return {record, contains(selection, record), visible, inEye, visible ? map.pixel(inEye) : QPointF()};
+}
+
+void SceneMarks::placeBones(const MarkedRecords &records, const ScreenMap &map, const BonePalette &palette)
+{
+    m_skeleton.follow(*records.mesh, std::min(palette.size(), MostMarks));
+    for (const Skeleton::Bone &bone : m_skeleton.bones()) {
+        const QVector3D joint = palette[size_t(bone.index)].column(3).toVector3D();
+        m_bones.push_back(markAt(bone.index, records.selectedBones, map.toEye(joint), map));
+        if (bone.parent == Skeleton::NoParent)
+            continue;
+        // The line from a bone to its child moves with the bone.
+        const Mark &parent = m_bones[size_t(bone.parent)];
+        QVector3D from = parent.inEye, to = m_bones.back().inEye;
+        if (map.clip(from, to))
+            m_lines.push_back({map.pixel(from), map.pixel(to), parent.selected});
+    }
+}
+
+void SceneMarks::placeHotPoints(const MarkedRecords &records, const ScreenMap &map,
+                                const BonePalette &palette)
+{
+    const auto &points = records.mesh->hotPoints;
+    for (size_t i = 0; i < std::min(points.size(), MostMarks); ++i) {
+        const size_t bone = points[i].nodeId;
+        const QVector3D place =
+            bone < palette.size() ? palette[bone].map(points[i].origin) : points[i].origin;
+        m_hotPoints.push_back(markAt(int(i), records.selectedHotPoints, map.toEye(place), map));
+    }
+}
+
+void SceneMarks::draw(OverlayCanvas &canvas) const
+{
+    // What is selected lies on top.
+    for (const bool selected : {false, true}) {
+        const auto drawn = [selected](const Mark &mark) { return mark.visible && mark.selected == selected; };
+        for (const Line &line : m_lines) {
+            if (line.selected == selected)
+                canvas.line(line.from, line.to, LineWidth + 2.0f * Outline, OutlineColor);
+        }
+        for (const Line &line : m_lines) {
+            if (line.selected == selected)
+                canvas.line(line.from, line.to, LineWidth, selected ? SelectedColor : BoneColor);
+        }
+        for (const Mark &bone : m_bones) {
+            if (!drawn(bone))
+                continue;
+            canvas.disc(bone.pixel, JointRadius + Outline, OutlineColor);
+            canvas.disc(bone.pixel, JointRadius, selected ? SelectedColor : BoneColor);
+        }
+        for (const Mark &point : m_hotPoints) {
+            if (!drawn(point))
+                continue;
+            canvas.diamond(point.pixel, HotPointRadius + Outline, OutlineColor);
+            canvas.diamond(point.pixel, HotPointRadius, selected ? SelectedColor : HotPointColor);
+        }
+    }
+}
+
+int SceneMarks::nearest(const std::vector<Mark> &marks, const QPointF &pixel)
+{
+    const Mark *best = nullptr;
+    double bestDistance = Reach;
+    for (const Mark &mark : marks) {
+        if (!mark.visible)
+            continue;
+        const double distance = std::hypot(mark.pixel.x() - pixel.x(), mark.pixel.y() - pixel.y());
+        // Of joints in one place the one nearer to the eye, as it is drawn, or else the first.
+        if (distance < bestDistance ||
+            (best && distance == bestDistance && mark.inEye.z() > best->inEye.z())) {
+            best = &mark;
+            bestDistance = distance;
+        }
+    }
+    return best ? best->record : None;
+}

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "SceneOverlay.h"
+
+#include "ShaderPrograms.h"
+
+#include <QMatrix4x4>
+#include <QOpenGLContext>
+#include <QOpenGLExtraFunctions>
+
+#include <cstdint>
+
+SceneOverlay::SceneOverlay()
+    : m_gl(*QOpenGLContext::currentContext()->extraFunctions())
+{
+    m_array.create();
+    m_buffer.create();
+    m_array.bind();
+    m_buffer.bind();
+    constexpr GLsizei Stride = sizeof(OverlayCanvas::Vertex);
+    m_gl.glEnableVertexAttribArray(AttributeLocation::Position);
+    m_gl.glEnableVertexAttribArray(AttributeLocation::Color);
+    m_gl.glVertexAttribPointer(AttributeLocation::Position, 2, GL_FLOAT, GL_FALSE, Stride, nullptr);
+    m_gl.glVertexAttribPointer(
+        AttributeLocation::Color, 4, GL_UNSIGNED_BYTE, GL_TRUE, Stride,
+        reinterpret_cast<const void *>(std::uintptr_t(offsetof(OverlayCanvas::Vertex, color))));
+    m_array.release();
+    m_buffer.release();
+}
+
+void SceneOverlay::paint(ShaderPrograms &programs, const MarkedRecords &records, const ScreenMap &map,
+                         const BonePalette &palette, const QSizeF &size)
+{
+    m_marks.place(records, map, palette);
+    m_canvas.clear();
+    m_marks.draw(m_canvas);
+    if (m_canvas.vertices().empty() || !programs.overlay.isLinked())
+        return;
+
+    QMatrix4x4 toPicture;
+    toPicture.ortho(0.0f, float(size.width()), float(size.height()), 0.0f, -1.0f, 1.0f);
+    programs.overlay.bind();
+    m_gl.glUniformMatrix4fv(programs.overlayMvpMatrix, 1, GL_FALSE, toPicture.constData());
+    const bool culls = m_gl.glIsEnabled(GL_CULL_FACE) != 0;
+    m_gl.glDisable(GL_CULL_FACE);
+    m_gl.glDisable(GL_DEPTH_TEST);
+    m_array.bind();
+    upload();
+    m_gl.glDrawArrays(GL_TRIANGLES, 0, GLsizei(m_canvas.vertices().size()));
+    m_array.release();
+    m_gl.glEnable(GL_DEPTH_TEST);
+    if (culls)
+        m_gl.glEnable(GL_CULL_FACE);
+}
+
+void SceneOverlay::upload()
+{
+    const auto &vertices = m_canvas.vertices();
+    m_buffer.bind();
+    if (vertices.size() > m_capacity) {
+        m_capacity = vertices.capacity();
+        m_gl.glBufferData(GL_ARRAY_BUFFER, GLsizeiptr(m_capacity * sizeof(vertices[0])), nullptr,
+                          GL_STREAM_DRAW);
+    }
+    m_gl.glBufferSubData(GL_ARRAY_BUFFER, 0, GLsizeiptr(vertices.size() * sizeof(vertices[0])),
+                         vertices.data());
+    m_buffer.release();
+}

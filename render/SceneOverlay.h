@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "SceneMarks.h"
+
+#include <QOpenGLBuffer>
+#include <QOpenGLVertexArrayObject>
+
+class QOpenGLExtraFunctions;
+class ShaderPrograms;
+
+/// Draws the marks over a painted frame. Belongs to the context that was current when it was made. Once it
+/// has drawn a model, drawing it again allocates nothing.
+class SceneOverlay
+{
+public:
+    SceneOverlay();
+
+    /// Depth and culling are as they were afterwards; the program is not.
+    void paint(ShaderPrograms &programs, const MarkedRecords &records, const ScreenMap &map,
+               const BonePalette &palette, const QSizeF &size);
+
+    /// As they were painted last.
+    const SceneMarks &marks() const { return m_marks; }
+
+private:
+    void upload();
+
+    QOpenGLExtraFunctions &m_gl;
+    QOpenGLVertexArrayObject m_array;
+    QOpenGLBuffer m_buffer{QOpenGLBuffer::VertexBuffer};
+    size_t m_capacity = 0; ///< vertices
+    OverlayCanvas m_canvas;
+    SceneMarks m_marks;
+};

@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+// How the camera is aimed at what it looks at.
+#include "Camera.h"
+#include "Framing.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+constexpr float Room = 1.15f;                          // around what is framed
+constexpr float LeastDepth = 2.0f * Camera::NearPlane; // of what is framed or orbited
+
+QMatrix4x4 withoutTranslation(QMatrix4x4 matrix)
+{
+    matrix.setColumn(3, {0.0f, 0.0f, 0.0f, 1.0f});
+    return matrix;
+}
+
+QVector3D middleOf(const std::vector<QVector3D> &points)
+{
+    QVector3D low, high;
+    bool any = false;
+    for (const QVector3D &point : points) {
+        if (!std::isfinite(point.x()) || !std::isfinite(point.y()) || !std::isfinite(point.z()))
+            continue;
+        for (int axis = 0; axis < 3; ++axis) {
+            low[axis] = any ? std::min(low[axis], point[axis]) : point[axis];
+            high[axis] = any ? std::max(high[axis], point[axis]) : point[axis];
+        }
+        any = true;
+    }
+    return 0.5f * (low + high);
+}
+} // namespace
+
+QVector3D Camera::eye() const
+{
+    return viewMatrix().inverted().map(QVector3D());
+}
+
+QVector3D Camera::sight() const
+{
+    return rotation().rotatedVector({0.0f, 0.0f, -1.0f});
+}
+
+void Camera::bring(const QVector3D &place, const QVector3D &seen)
+{
+    const QMatrix4x4 view = viewMatrix();
+    m_position += withoutTranslation(view).transposed().map(seen - view.map(place));
+    m_targetPosition = m_position;
+    m_positionVelocity = {};
+}
+
+void Camera::frame(const std::vector<QVector3D> &points, const QSize &size)
+{
+    const QMatrix4x4 turn = withoutTranslation(viewMatrix());
+    const QMatrix4x4 projection = projectionMatrix(size.width(), size.height());
+    const VisionExtent extent(points, turn, 1.0f / (Room * projection(0, 0)),
+                              1.0f / (Room * projection(1, 1)));
+    if (extent.isEmpty())
+        return;
+    bring({}, -extent.eye(LeastDepth));
+    m_framed = middleOf(points);
+}
+
+void Camera::orbit(const QVector3D &pivot, float yaw, float pitch)
+{
+    const QVector3D seen = viewMatrix().map(pivot);
+    m_yaw = m_targetYaw = yaw;
+    m_pitch = m_targetPitch = std::clamp(pitch, -PitchLimit, PitchLimit);
+    bring(pivot, seen);
+}
+
+void Camera::orbitDrag(const QVector3D &pivot, float dx, float dy)
+{
+    orbit(pivot, m_yaw - dx * DegreesPerPixel, m_pitch - dy * DegreesPerPixel);
+}
+
+void Camera::lookFrom(Side side, const QVector3D &pivot)
+{
+    constexpr float Front = 180.0f;
+    switch (side) {
+    case Side::Front:
+        return orbit(pivot, Front, 0.0f);
+    case Side::Back:
+        return orbit(pivot, Front - 180.0f, 0.0f);
+    case Side::Left:
+        return orbit(pivot, Front - 90.0f, 0.0f);
+    case Side::Right:
+        return orbit(pivot, Front + 90.0f, 0.0f);
+    case Side::Top:
+        return orbit(pivot, Front, -PitchLimit);
+    case Side::Bottom:
+        return orbit(pivot, Front, PitchLimit);
+    }
+}
+
+void Camera::pan(const QVector3D &pivot, float dx, float dy, int height)
+{
+    const QVector3D seen = viewMatrix().map(pivot);
+    const float unitsPerPixel =
+        2.0f * std::max(-seen.z(), LeastDepth) / (projectionMatrix(1, 1)(1, 1) * float(std::max(1, height)));
+    bring(pivot, seen + QVector3D(dx, -dy, 0.0f) * unitsPerPixel);
+    m_framed.reset();
+}
+
+void Camera::dolly(const QVector3D &pivot, float factor)
+{
+    const QVector3D seen = viewMatrix().map(pivot);
+    const float depth = -seen.z();
+    if (factor < 1.0f && !(depth > LeastDepth))
+        return;
+    bring(pivot, seen * (factor < 1.0f ? std::max(factor, LeastDepth / depth) : factor));
+}

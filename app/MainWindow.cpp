@@ -20,6 +20,7 @@
 #include "RecentFiles.h"
 #include "RecoveryPrompt.h"
 #include "ReloadPrompt.h"
+#include "Session.h"
 #include "StructureActions.h"
 #include "TemporaryFolder.h"
 #include "UndoActions.h"
@@ -81,6 +82,7 @@ MainWindow::MainWindow(QWidget *parent)
     updateCurrentDocument();
     QTimer::singleShot(50, this, &MainWindow::OnStartSetupPaths);
     createPrompts();
+    m_session = new Session(m_panes, {m_ui->tabWidget, m_ui->tabTrees}, *m_ui->animTrackFrame, this);
 }
 
 MainWindow::~MainWindow()
@@ -303,6 +305,12 @@ void MainWindow::openFiles(const QStringList &paths)
     }
     if (first)
         showPane(first->type);
+}
+
+void MainWindow::openAtStart(const QStringList &paths)
+{
+    m_session->restore(paths);
+    openFiles(paths);
 }
 
 void MainWindow::importFile(const QString &path)

@@ -17,6 +17,7 @@ class ImportExport;
 class KVOpenGLWidget;
 class ModelTransforms;
 class Problems;
+class Session;
 
 namespace Ui {
 class MainWindow;
@@ -34,6 +35,8 @@ public:
     /// Opens files by their extension, each in its tab; the first one's tab becomes current. A model of a
     /// foreign format goes to the import dialog.
     void openFiles(const QStringList &paths);
+    /// Opens what the last session left, where that is wanted, and then these files.
+    void openAtStart(const QStringList &paths);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -102,6 +105,7 @@ private:
     ModelTransforms *m_transforms;
     ImportExport *m_importExport;
     Problems *m_problems;
+    Session *m_session = nullptr;
     DocumentPanes m_panes{};
     QByteArray m_defaultLayout; ///< of docks and tool bars
     bool m_askedForFolders = false;

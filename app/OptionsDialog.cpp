@@ -17,6 +17,7 @@ OptionsDialog::OptionsDialog(QWidget *parent)
     , m_hideMeshData(Settings::HideMeshData.value())
     , m_hideAnimData(Settings::HideAnimData.value())
     , m_animAutoPlay(Settings::AnimationAutoPlay.value())
+    , m_restoreSession(Settings::RestoreSession.value())
 {
     m_ui->setupUi(this);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -27,11 +28,13 @@ OptionsDialog::OptionsDialog(QWidget *parent)
     m_ui->cbHideMeshData->setChecked(m_hideMeshData);
     m_ui->cbHideAnimData->setChecked(m_hideAnimData);
     m_ui->cbAnimAutoPlay->setChecked(m_animAutoPlay);
+    m_ui->cbRestoreSession->setChecked(m_restoreSession);
 
     connect(m_ui->txtGamePath, &QLineEdit::editingFinished, this, &OptionsDialog::OnTxtGamePathChanged);
     connect(m_ui->txtT2Dir, &QLineEdit::editingFinished, this, &OptionsDialog::OnTxtT2DirChanged);
     updateHint(m_ui->txtGamePath, m_ui->lblGamePathHint);
     updateHint(m_ui->txtT2Dir, m_ui->lblT2DirHint);
+    m_ui->txtGamePath->setFocus();
 }
 
 OptionsDialog::~OptionsDialog() = default;
@@ -48,6 +51,7 @@ void OptionsDialog::on_buttonBox_accepted()
     Settings::HideMeshData.setValue(m_hideMeshData);
     Settings::HideAnimData.setValue(m_hideAnimData);
     Settings::AnimationAutoPlay.setValue(m_animAutoPlay);
+    Settings::RestoreSession.setValue(m_restoreSession);
     accept();
 }
 

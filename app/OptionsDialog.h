@@ -15,7 +15,7 @@ namespace Ui {
 class OptionsDialog;
 }
 
-/// The preferences: the two folders and four switches. It works on copies; only OK writes them to the
+/// The preferences: the two folders and the switches. It works on copies; only OK writes them to the
 /// settings.
 class OptionsDialog : public QDialog
 {
@@ -37,6 +37,7 @@ private slots:
     void on_cbHideMeshData_clicked(bool checked) { m_hideMeshData = checked; }
     void on_cbHideAnimData_clicked(bool checked) { m_hideAnimData = checked; }
     void on_cbAnimAutoPlay_clicked(bool checked) { m_animAutoPlay = checked; }
+    void on_cbRestoreSession_clicked(bool checked) { m_restoreSession = checked; }
 
 private:
     static void updateHint(const QLineEdit *edit, QLabel *hint);
@@ -49,4 +50,5 @@ private:
     bool m_hideMeshData;
     bool m_hideAnimData;
     bool m_animAutoPlay;
+    bool m_restoreSession;
 };

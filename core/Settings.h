@@ -122,6 +122,10 @@ inline const SettingKey<int> SurfSelectType{"SurfSelectType", 0};
 inline const SettingKey<float> MouseSpeed{"MouseSpeed", 0.15f};
 inline const SettingKey<float> Brightness{"Brightness", 1.0f};
 
+// What was open, and how it was looked at, when the window was last seen; kept only where it is wanted.
+inline const SettingKey<bool> RestoreSession{"RestoreSession", false};
+inline const SettingKey<QVariantMap> Session{"Session", {}};
+
 // Main window. The first three hold the window itself, the others its docks, tool bars and splitters.
 inline const SettingKey<QSize> MainWindowSize{"MainWindowSize", {}};
 inline const SettingKey<QPoint> MainWindowPos{"MainWindowPos", {}};

@@ -475,3 +475,10 @@ void KVOpenGLWidget::resetCamera()
     playbackChanged();
     update();
 }
+
+void KVOpenGLWidget::placeCamera(const QVector3D &position, float yaw, float pitch)
+{
+    m_camera.place(position, yaw, pitch);
+    playbackChanged();
+    update();
+}

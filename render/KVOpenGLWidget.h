@@ -66,6 +66,7 @@ public:
     void setHighlightPoint(const QVector3D &position, bool flag, int bone);
     void clearHighlightPoint();
     void resetCamera();
+    void placeCamera(const QVector3D &position, float yaw, float pitch); ///< as Camera::place()
 
     const Camera &camera() const { return m_camera; }
 

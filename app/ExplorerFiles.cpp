@@ -5,6 +5,7 @@
 #include "DocumentFiles.h"
 #include "FolderExplorer.h"
 #include "Settings.h"
+#include "Shortcuts.h"
 
 #include <QAction>
 #include <QApplication>
@@ -27,6 +28,7 @@ ExplorerFiles::ExplorerFiles(DocumentFiles &files, const std::array<FolderExplor
     }
     Settings::AnimationSyncSkin.ensure();
     syncAnimation->setChecked(Settings::AnimationSyncSkin.value());
+    nameShortcut(syncAnimation, syncAnimation->objectName(), tr("Folders"), {});
     explorer(DocumentType::Anim).addExtraAction(syncAnimation);
     connect(syncAnimation, &QAction::triggered, this, &ExplorerFiles::OnActionAnimSyncSkinSelect);
 }

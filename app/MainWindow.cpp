@@ -21,6 +21,7 @@
 #include "RecoveryPrompt.h"
 #include "ReloadPrompt.h"
 #include "Session.h"
+#include "Shortcuts.h"
 #include "StructureActions.h"
 #include "TemporaryFolder.h"
 #include "UndoActions.h"
@@ -74,6 +75,7 @@ MainWindow::MainWindow(QWidget *parent)
     m_ui->viewHistory->setCleanIcon(m_ui->actionSave->icon());
     m_ui->viewHistory->setEmptyLabel(tr("As opened"));
     connectPlayback();
+    m_shortcuts = new Shortcuts(*m_ui->menuBar, {m_ui->viewSkinned, m_ui->viewStatic}, this);
     setDefaultLayout(*this);
     m_defaultLayout = saveState();
     auto *geometry = new WindowGeometry(this);
@@ -148,7 +150,10 @@ void MainWindow::createPanes()
         made.tree->setDocument(made.document);
         made.pages->setTree(made.tree);
         auto *column = static_cast<QBoxLayout *>(made.tree->parentWidget()->layout());
-        column->insertWidget(0, new FilterLine(*made.tree, made.tree->parentWidget()));
+        auto *filter = new FilterLine(*made.tree, made.tree->parentWidget());
+        filter->setAction(m_ui->actionFilter);
+        made.tree->setOpenAction(m_ui->actionOpen);
+        column->insertWidget(0, filter);
         m_undoGroup.addStack(made.document->undoStack());
         connect(made.document->undoStack(), &QUndoStack::cleanChanged, this, &MainWindow::OnUndoCleanChanged);
         connect(made.document, &Document::replaced, this, [this, type] { onReplaced(type); });
@@ -223,7 +228,7 @@ void MainWindow::connectPlayback()
     connect(track, &AnimTrackFrame::actionChosen, this, [select](int block, int action) {
         select({RecordKind::AnimAction, {block, action}});
     });
-    track->addShortcuts(m_ui->viewSkinnedPanel);
+    m_ui->viewSkinnedPanel->addActions(track->trackActions());
     track->openAnimation(nullptr);
 }
 

@@ -18,6 +18,7 @@ class KVOpenGLWidget;
 class ModelTransforms;
 class Problems;
 class Session;
+class Shortcuts;
 
 namespace Ui {
 class MainWindow;
@@ -106,6 +107,7 @@ private:
     ImportExport *m_importExport;
     Problems *m_problems;
     Session *m_session = nullptr;
+    Shortcuts *m_shortcuts = nullptr;
     DocumentPanes m_panes{};
     QByteArray m_defaultLayout; ///< of docks and tool bars
     bool m_askedForFolders = false;

@@ -3,12 +3,13 @@
 #include "OptionsDialog.h"
 
 #include "Settings.h"
+#include "ShortcutsPage.h"
 #include "ui_OptionsDialog.h"
 
 #include <QDir>
 #include <QFileInfo>
 
-OptionsDialog::OptionsDialog(QWidget *parent)
+OptionsDialog::OptionsDialog(QWidget *parent, Shortcuts *shortcuts)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::OptionsDialog>())
     , m_gamePath(Settings::GamePath.value())
@@ -34,6 +35,10 @@ OptionsDialog::OptionsDialog(QWidget *parent)
     connect(m_ui->txtT2Dir, &QLineEdit::editingFinished, this, &OptionsDialog::OnTxtT2DirChanged);
     updateHint(m_ui->txtGamePath, m_ui->lblGamePathHint);
     updateHint(m_ui->txtT2Dir, m_ui->lblT2DirHint);
+    if (shortcuts) {
+        m_shortcuts = new ShortcutsPage(*shortcuts);
+        m_ui->tabOptions->addTab(m_shortcuts, tr("&Shortcuts"));
+    }
     m_ui->txtGamePath->setFocus();
 }
 
@@ -41,6 +46,10 @@ OptionsDialog::~OptionsDialog() = default;
 
 void OptionsDialog::on_buttonBox_accepted()
 {
+    if (m_shortcuts && !m_shortcuts->confirm()) {
+        m_ui->tabOptions->setCurrentWidget(m_shortcuts);
+        return;
+    }
     // A text set by the program finishes no edit.
     OnTxtGamePathChanged();
     OnTxtT2DirChanged();
@@ -52,6 +61,8 @@ void OptionsDialog::on_buttonBox_accepted()
     Settings::HideAnimData.setValue(m_hideAnimData);
     Settings::AnimationAutoPlay.setValue(m_animAutoPlay);
     Settings::RestoreSession.setValue(m_restoreSession);
+    if (m_shortcuts)
+        m_shortcuts->store();
     accept();
 }
 

@@ -10,6 +10,8 @@
 
 class QLabel;
 class QLineEdit;
+class Shortcuts;
+class ShortcutsPage;
 
 namespace Ui {
 class OptionsDialog;
@@ -22,7 +24,8 @@ class OptionsDialog : public QDialog
     Q_OBJECT
 
 public:
-    explicit OptionsDialog(QWidget *parent = nullptr);
+    /// With `shortcuts` it has a page for them.
+    explicit OptionsDialog(QWidget *parent = nullptr, Shortcuts *shortcuts = nullptr);
     ~OptionsDialog() override;
 
     void setFolderChooser(FolderChooser chooser) { m_chooseFolder = std::move(chooser); }
@@ -51,4 +54,5 @@ private:
     bool m_hideAnimData;
     bool m_animAutoPlay;
     bool m_restoreSession;
+    ShortcutsPage *m_shortcuts = nullptr;
 };

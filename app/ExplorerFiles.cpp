@@ -5,7 +5,6 @@
 #include "DocumentFiles.h"
 #include "FolderExplorer.h"
 #include "Settings.h"
-#include "Shortcuts.h"
 
 #include <QAction>
 #include <QApplication>
@@ -28,7 +27,6 @@ ExplorerFiles::ExplorerFiles(DocumentFiles &files, const std::array<FolderExplor
     }
     Settings::AnimationSyncSkin.ensure();
     syncAnimation->setChecked(Settings::AnimationSyncSkin.value());
-    nameShortcut(syncAnimation, syncAnimation->objectName(), tr("Folders"), {});
     explorer(DocumentType::Anim).addExtraAction(syncAnimation);
     connect(syncAnimation, &QAction::triggered, this, &ExplorerFiles::OnActionAnimSyncSkinSelect);
 }

@@ -151,13 +151,12 @@ StructureActions::TreeMenu StructureActions::createMenu(Document &document, KVTr
         QString name;
         QKeySequence keys;
     };
-    const Look looks[VerbCount] = {
-        {"add", "actionTreeAdd", tr("Add"), Qt::Key_Insert},
-        {"remove", "actionTreeRemove", tr("Remove"), QKeySequence::Delete},
-        {"copy", "actionTreeCopy", tr("Copy"), QKeySequence::Copy},
-        {"paste", "actionTreePaste", tr("Paste"), QKeySequence::Paste},
-        {"frames", "actionTreeChangeSize", tr("Change Frame, Translation or Rotation Count"), {}},
-        {"copy", "actionTreeCopyFlags", tr("Copy Bone Flags"), {}}};
+    const Look looks[VerbCount] = {{"add", "actionTreeAdd", tr("Add"), Qt::Key_Insert},
+                                   {"remove", "actionTreeRemove", tr("Remove"), QKeySequence::Delete},
+                                   {"copy", "actionTreeCopy", tr("Copy"), QKeySequence::Copy},
+                                   {"paste", "actionTreePaste", tr("Paste"), QKeySequence::Paste},
+                                   {"frames", "actionTreeChangeSize", tr("Change Count"), {}},
+                                   {"copy", "actionTreeCopyFlags", tr("Copy Bone Flags"), {}}};
     // The three trees share their keys.
     const auto addAction = [&made, tree](const char *iconName, const QString &text, const char *id,
                                          const QString &name) {

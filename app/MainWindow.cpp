@@ -9,6 +9,7 @@
 #include "FileDrop.h"
 #include "FilterLine.h"
 #include "FolderExplorer.h"
+#include "HistoryView.h"
 #include "ImportExport.h"
 #include "ImportFilter.h"
 #include "ModelTransforms.h"
@@ -71,9 +72,7 @@ MainWindow::MainWindow(QWidget *parent)
                                 m_ui->dockHistory->toggleViewAction(),
                                 m_ui->dockServers->toggleViewAction()});
     m_ui->dockServers->setQueryAction(m_ui->actionQueryServers);
-    m_ui->viewHistory->setGroup(&m_undoGroup);
-    m_ui->viewHistory->setCleanIcon(m_ui->actionSave->icon());
-    m_ui->viewHistory->setEmptyLabel(tr("As opened"));
+    showHistory(*m_ui->viewHistory, m_undoGroup, m_ui->actionSave->icon());
     connectPlayback();
     m_shortcuts = new Shortcuts(*m_ui->menuBar, {m_ui->viewSkinned, m_ui->viewStatic}, this);
     setDefaultLayout(*this);

@@ -7,12 +7,14 @@
 #include "Playback.h"
 #include "ReferenceTable.h"
 #include "Settings.h"
+#include "Shortcuts.h"
 
 #include <QAbstractItemView>
-#include <QShortcut>
+#include <QAction>
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <functional>
 
 namespace {
 const AnimBlock *currentBlock()
@@ -28,48 +30,56 @@ AnimTrackFrame::AnimTrackFrame(QWidget *parent)
     : QFrame(parent)
 {
     m_ui.setupUi(this);
-    const std::pair<QToolButton *, const char *> icons[] = {{m_ui.btnAnimTrackPlay, "play"},
-                                                            {m_ui.btnAnimTrackStop, "stop"},
-                                                            {m_ui.btnAnimTrackPose, "pose"},
-                                                            {m_ui.btnAnimTrackLoop, "loop"},
-                                                            {m_ui.btnAnimTrackMarkBack, "markback"},
-                                                            {m_ui.btnAnimTrackStepBack, "stepback"},
-                                                            {m_ui.btnAnimTrackStepForward, "stepforward"},
-                                                            {m_ui.btnAnimTrackMarkForward, "markforward"}};
-    for (const auto &[button, icon] : icons)
-        button->setIcon(QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(icon))));
+    const struct
+    {
+        QToolButton *button;
+        const char *icon;
+        int key;
+        std::function<void()> deed; ///< none for what is switched
+    } deeds[] = {
+        {m_ui.btnAnimTrackPlay, "play", 0, [this] { OnAnimTrackPlayPressed(); }},
+        {m_ui.btnAnimTrackStop, "stop", 0, [this] { OnAnimTrackStopPressed(); }},
+        {m_ui.btnAnimTrackPose, "pose", 0, [this] { OnAnimTrackPosePressed(); }},
+        {m_ui.btnAnimTrackLoop, "loop", 0, {}},
+        {m_ui.btnAnimTrackMarkBack, "markback", Qt::Key_BracketLeft, [this] { stepToMark(-1); }},
+        {m_ui.btnAnimTrackStepBack, "stepback", Qt::Key_Comma, [this] { step(-1); }},
+        {m_ui.btnAnimTrackStepForward, "stepforward", Qt::Key_Period, [this] { step(1); }},
+        {m_ui.btnAnimTrackMarkForward, "markforward", Qt::Key_BracketRight, [this] { stepToMark(1); }}};
+    for (const auto &each : deeds) {
+        auto *action =
+            new QAction(QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(each.icon))),
+                        each.button->text(), this);
+        action->setToolTip(each.button->toolTip());
+        action->setCheckable(each.button->isCheckable());
+        addTrackAction(action, each.button->objectName().mid(int(qstrlen("btn"))), each.key);
+        each.button->setDefaultAction(action);
+        if (each.deed)
+            connect(action, &QAction::triggered, this, each.deed);
+    }
+    auto *playOrPause = new QAction(tr("Play or Pause"), this);
+    addTrackAction(playOrPause, QStringLiteral("AnimTrackPlayOrPause"), Qt::Key_Space);
+    connect(playOrPause, &QAction::triggered, this, &AnimTrackFrame::playOrPause);
     // Wide enough for four digits, so that the slider does not move under the mouse while playing.
     m_ui.lblAnimTrackFrames->setMinimumWidth(
         fontMetrics().horizontalAdvance(tr("Frame: %1 / %2").arg(8888).arg(8888)));
 
-    connect(m_ui.btnAnimTrackPlay, &QToolButton::clicked, this, &AnimTrackFrame::OnAnimTrackPlayPressed);
-    connect(m_ui.btnAnimTrackStop, &QToolButton::clicked, this, &AnimTrackFrame::OnAnimTrackStopPressed);
-    connect(m_ui.btnAnimTrackPose, &QToolButton::clicked, this, &AnimTrackFrame::OnAnimTrackPosePressed);
     connect(m_ui.btnAnimTrackLoop, &QToolButton::toggled, this, &AnimTrackFrame::OnAnimTrackLoopToggled);
     connect(m_ui.sliderAnimTrack, &QSlider::valueChanged, this, &AnimTrackFrame::OnAnimTrackSliderChanged);
     connect(m_ui.sliderAnimTrack, &TrackSlider::actionChosen, this,
             [this](int action) { emit actionChosen(playback().blockIndex, action); });
-    connect(m_ui.btnAnimTrackStepBack, &QToolButton::clicked, this, [this] { step(-1); });
-    connect(m_ui.btnAnimTrackStepForward, &QToolButton::clicked, this, [this] { step(1); });
-    connect(m_ui.btnAnimTrackMarkBack, &QToolButton::clicked, this, [this] { stepToMark(-1); });
-    connect(m_ui.btnAnimTrackMarkForward, &QToolButton::clicked, this, [this] { stepToMark(1); });
     connect(m_ui.cbAnimTrackBlock, qOverload<int>(&QComboBox::activated), this, &AnimTrackFrame::blockChosen);
     connect(m_ui.sbAnimTrackSpeed, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
             [](double factor) { playback().speedFactor = float(factor); });
     playback().speedFactor = float(m_ui.sbAnimTrackSpeed->value());
 }
 
-void AnimTrackFrame::addShortcuts(QWidget *panel)
+void AnimTrackFrame::addTrackAction(QAction *action, const QString &name, int key)
 {
-    const auto add = [this, panel](int key, auto body) {
-        auto *shortcut = new QShortcut(key, panel, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
-        connect(shortcut, &QShortcut::activated, this, body);
-    };
-    add(Qt::Key_Space, [this] { playOrPause(); });
-    add(Qt::Key_Comma, [this] { step(-1); });
-    add(Qt::Key_Period, [this] { step(1); });
-    add(Qt::Key_BracketLeft, [this] { stepToMark(-1); });
-    add(Qt::Key_BracketRight, [this] { stepToMark(1); });
+    action->setObjectName(QLatin1String("action") + name);
+    action->setShortcut(key);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    nameShortcut(action, action->objectName(), tr("Timeline"), {});
+    m_actions.append(action);
 }
 
 void AnimTrackFrame::openAnimation(const AnimFile *file)
@@ -97,8 +107,8 @@ void AnimTrackFrame::updateRange()
     m_ui.sliderAnimTrack->setMaximum(block ? std::max(0, block->frameCount() - 1) : 0);
     m_ui.sliderAnimTrack->setActions(block);
     const bool hasActions = block && !block->actions.empty();
-    m_ui.btnAnimTrackMarkBack->setEnabled(hasActions);
-    m_ui.btnAnimTrackMarkForward->setEnabled(hasActions);
+    for (const QToolButton *button : {m_ui.btnAnimTrackMarkBack, m_ui.btnAnimTrackMarkForward})
+        button->defaultAction()->setEnabled(hasActions);
     listBlocks();
     setEnabled(playback().anim != nullptr);
 }

@@ -30,8 +30,8 @@ public:
     void showFrame(int frame);
     void showLabel(const QString &text);
 
-    /// The keys of single steps and of play and pause, which work anywhere in `panel`.
-    void addShortcuts(QWidget *panel);
+    /// What the buttons do, and play or pause, for the widget that is to hear their keys.
+    const QList<QAction *> &trackActions() const { return m_actions; }
 
 signals:
     /// A block was chosen here.
@@ -49,6 +49,7 @@ private slots:
     void OnAnimTrackSliderChanged(int frame);
 
 private:
+    void addTrackAction(QAction *action, const QString &name, int key);
     void playOrPause();
     void goTo(int frame);
     void step(int direction);
@@ -56,5 +57,6 @@ private:
     void listBlocks();
 
     Ui::AnimTrackFrame m_ui;
+    QList<QAction *> m_actions;
     QHash<int, QString> m_animationNames; ///< by id; read when there is something to name
 };

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "CommandPalette.h"
 
+#include "Shortcuts.h"
+
 #include <QAction>
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -14,15 +16,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-
-namespace {
-QString plainText(const QAction *action)
-{
-    QString text = action->text();
-    text.replace(QLatin1String("&&"), QChar::fromLatin1('\0')).remove(QLatin1Char('&'));
-    return text.replace(QChar::fromLatin1('\0'), QLatin1Char('&'));
-}
-} // namespace
 
 CommandPalette::CommandPalette(const QMenuBar &menus, const QList<QAction *> &treeActions, QWidget *parent)
     : QDialog(parent)

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "ControlsDialog.h"
 
+#include "Shortcuts.h"
 #include "ui_ControlsDialog.h"
 
-#include <QAction>
+#include <QHash>
 
 namespace {
 QTreeWidgetItem *addGroup(QTreeWidget *tree, const QString &title)
@@ -18,29 +19,9 @@ QTreeWidgetItem *addGroup(QTreeWidget *tree, const QString &title)
     group->setExpanded(true);
     return group;
 }
-
-QString titleOf(const QAction *action)
-{
-    QString title = action->text();
-    title.remove(QLatin1Char('&'));
-    while (title.endsWith(QLatin1Char('.')) || title.endsWith(QChar(0x2026)))
-        title.chop(1);
-    return title;
-}
-
-QString shortcutsOf(const QAction *action)
-{
-    QStringList texts;
-    const QList<QKeySequence> shortcuts = action->shortcuts();
-    for (const QKeySequence &shortcut : shortcuts) {
-        if (!shortcut.isEmpty())
-            texts << shortcut.toString(QKeySequence::NativeText);
-    }
-    return texts.join(QStringLiteral(", "));
-}
 } // namespace
 
-ControlsDialog::ControlsDialog(const QList<QAction *> &actions, QWidget *parent)
+ControlsDialog::ControlsDialog(const Shortcuts &shortcuts, QWidget *parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::ControlsDialog>())
 {
@@ -59,38 +40,26 @@ ControlsDialog::ControlsDialog(const QList<QAction *> &actions, QWidget *parent)
         {tr("Alt + left drag"), tr("Turn around the model")},
         {tr("Alt + middle drag"), tr("Move the model sideways, up and down")},
         {tr("Alt + wheel"), tr("Go nearer or farther away")},
-        {tr("Space"), tr("Play the animation, or pause it")},
-        {tr(", / ."), tr("Go back / on one frame")},
-        {tr("[ / ]"), tr("Go to the previous / next key frame action")},
     };
     QTreeWidget *tree = m_ui->treeControls;
     QTreeWidgetItem *view = addGroup(tree, tr("3D view"));
     for (const auto &row : viewRows)
         view->addChild(new QTreeWidgetItem(QStringList{row[0], row[1]}));
 
-    QList<QTreeWidgetItem *> shortcuts;
-    for (const QAction *action : actions) {
-        const QString keys = shortcutsOf(action);
-        if (keys.isEmpty() || action->isSeparator())
+    QHash<QString, QTreeWidgetItem *> groups;
+    for (int i = 0; i < shortcuts.commands().size(); ++i) {
+        const ShortcutCommand &command = shortcuts.commands()[i];
+        const QString keys = keysText(shortcuts.keys()[i]);
+        if (keys.isEmpty() || command.actions.isEmpty())
             continue;
-        // Those of the view have short titles, which say little without their menu.
-        if (action->shortcutContext() == Qt::WidgetShortcut)
-            view->addChild(new QTreeWidgetItem(QStringList{keys, action->statusTip()}));
-        else
-            shortcuts << new QTreeWidgetItem(QStringList{keys, titleOf(action)});
+        QTreeWidgetItem *&group = groups[command.group];
+        if (!group)
+            group = addGroup(tree, command.group);
+        group->addChild(new QTreeWidgetItem(QStringList{keys, command.name}));
     }
-    if (!shortcuts.isEmpty())
-        addGroup(tree, tr("Window"))->addChildren(shortcuts);
-
-    const QString treeRows[][2] = {
-        {tr("Ins"), tr("Add a record after the current one")},
-        {tr("Del"), tr("Remove the selected records")},
-        {tr("Ctrl+C / Ctrl+V"), tr("Copy / paste a hot point or an animation")},
-        {tr("Ctrl+click, Shift+click"), tr("Select several records; an edit goes to all of them")},
-    };
-    QTreeWidgetItem *records = addGroup(tree, tr("Trees"));
-    for (const auto &row : treeRows)
-        records->addChild(new QTreeWidgetItem(QStringList{row[0], row[1]}));
+    addGroup(tree, tr("Several records"))
+        ->addChild(new QTreeWidgetItem(QStringList{
+            tr("Ctrl+click, Shift+click"), tr("Select several records; an edit goes to all of them")}));
 
     tree->expandAll();
     for (int column = 0; column < tree->columnCount(); ++column) {

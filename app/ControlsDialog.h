@@ -6,20 +6,19 @@
 
 #include <memory>
 
-class QAction;
+class Shortcuts;
 
 namespace Ui {
 class ControlsDialog;
 }
 
-/// The keys and mouse gestures of the viewport, and the shortcuts of the window.
+/// The keys and mouse gestures of the viewport, and the keys of everything else that has some.
 class ControlsDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Lists those of `actions` that have a shortcut, in their order.
-    explicit ControlsDialog(const QList<QAction *> &actions, QWidget *parent = nullptr);
+    explicit ControlsDialog(const Shortcuts &shortcuts, QWidget *parent = nullptr);
     ~ControlsDialog() override;
 
 private:

@@ -3,6 +3,7 @@
 #include "FolderExplorer.h"
 
 #include "ListIcon.h"
+#include "Shortcuts.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -144,6 +145,7 @@ QAction *FolderExplorer::addAction(const char *name, const char *iconName, const
     action->setToolTip(toolTip);
     action->setStatusTip(toolTip);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    nameShortcut(action, QStringLiteral("actionFolder") + QLatin1String(name), tr("Folders"), QString());
     QWidget::addAction(action);
     return action;
 }

@@ -11,6 +11,7 @@
 #include "FileDrop.h"
 #include "FilterLine.h"
 #include "FolderExplorer.h"
+#include "HistoryView.h"
 #include "ImportExport.h"
 #include "ImportFilter.h"
 #include "ModelTransforms.h"
@@ -23,6 +24,8 @@
 #include "RecentFiles.h"
 #include "RecoveryPrompt.h"
 #include "ReloadPrompt.h"
+#include "Session.h"
+#include "Shortcuts.h"
 #include "StructureActions.h"
 #include "TemporaryFolder.h"
 #include "UndoActions.h"
@@ -74,10 +77,9 @@ MainWindow::MainWindow(QWidget *parent)
                                 m_ui->dockHistory->toggleViewAction(),
                                 m_ui->dockServers->toggleViewAction()});
     m_ui->dockServers->setQueryAction(m_ui->actionQueryServers);
-    m_ui->viewHistory->setGroup(&m_undoGroup);
-    m_ui->viewHistory->setCleanIcon(m_ui->actionSave->icon());
-    m_ui->viewHistory->setEmptyLabel(tr("As opened"));
+    showHistory(*m_ui->viewHistory, m_undoGroup, m_ui->actionSave->icon());
     connectPlayback();
+    m_shortcuts = new Shortcuts(*m_ui->menuBar, {m_ui->viewSkinned, m_ui->viewStatic}, this);
     setDefaultLayout(*this);
     m_defaultLayout = saveState();
     auto *geometry = new WindowGeometry(this);
@@ -86,6 +88,7 @@ MainWindow::MainWindow(QWidget *parent)
     updateCurrentDocument();
     QTimer::singleShot(50, this, &MainWindow::OnStartSetupPaths);
     createPrompts();
+    m_session = new Session(m_panes, {m_ui->tabWidget, m_ui->tabTrees}, *m_ui->animTrackFrame, this);
 }
 
 MainWindow::~MainWindow()
@@ -151,7 +154,10 @@ void MainWindow::createPanes()
         made.tree->setDocument(made.document);
         made.pages->setTree(made.tree);
         auto *column = static_cast<QBoxLayout *>(made.tree->parentWidget()->layout());
-        column->insertWidget(0, new FilterLine(*made.tree, made.tree->parentWidget()));
+        auto *filter = new FilterLine(*made.tree, made.tree->parentWidget());
+        filter->setAction(m_ui->actionFilter);
+        made.tree->setOpenAction(m_ui->actionOpen);
+        column->insertWidget(0, filter);
         m_undoGroup.addStack(made.document->undoStack());
         connect(made.document->undoStack(), &QUndoStack::cleanChanged, this, &MainWindow::OnUndoCleanChanged);
         connect(made.document, &Document::replaced, this, [this, type] { onReplaced(type); });
@@ -258,7 +264,7 @@ void MainWindow::connectPlayback()
     connect(track, &AnimTrackFrame::actionChosen, this, [select](int block, int action) {
         select({RecordKind::AnimAction, {block, action}});
     });
-    track->addShortcuts(m_ui->viewSkinnedPanel);
+    m_ui->viewSkinnedPanel->addActions(track->trackActions());
     track->openAnimation(nullptr);
 }
 
@@ -354,6 +360,12 @@ void MainWindow::openFiles(const QStringList &paths)
     }
     if (first)
         showPane(first->type);
+}
+
+void MainWindow::openAtStart(const QStringList &paths)
+{
+    m_session->restore(paths);
+    openFiles(paths);
 }
 
 void MainWindow::importFile(const QString &path)

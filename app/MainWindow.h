@@ -19,6 +19,8 @@ class KVOpenGLWidget;
 class ModelTransforms;
 class PictureSaver;
 class Problems;
+class Session;
+class Shortcuts;
 class ViewSelection;
 
 namespace Ui {
@@ -37,6 +39,8 @@ public:
     /// Opens files by their extension, each in its tab; the first one's tab becomes current. A model of a
     /// foreign format goes to the import dialog.
     void openFiles(const QStringList &paths);
+    /// Opens what the last session left, where that is wanted, and then these files.
+    void openAtStart(const QStringList &paths);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -110,6 +114,8 @@ private:
     Problems *m_problems;
     PictureSaver *m_pictures;
     ViewSelection *m_viewSelection = nullptr;
+    Session *m_session = nullptr;
+    Shortcuts *m_shortcuts = nullptr;
     DocumentPanes m_panes{};
     QByteArray m_defaultLayout; ///< of docks and tool bars
     bool m_askedForFolders = false;

@@ -140,7 +140,7 @@ void MainWindow::on_actionScale_triggered()
 
 void MainWindow::on_actionPreferences_triggered()
 {
-    OptionsDialog dialog(this);
+    OptionsDialog dialog(this, m_shortcuts);
     const auto folders = [] { return qMakePair(Settings::GamePath.value(), Settings::OutputDir.value()); };
     const auto before = folders();
     if (dialog.exec() != QDialog::Accepted || folders() == before)
@@ -153,8 +153,7 @@ void MainWindow::on_actionPreferences_triggered()
 
 void MainWindow::on_actionControls_triggered()
 {
-    // Those of the window itself; what trees and folders have of their own is not the window's.
-    ControlsDialog dialog(findChildren<QAction *>(QString(), Qt::FindDirectChildrenOnly), this);
+    ControlsDialog dialog(*m_shortcuts, this);
     dialog.exec();
 }
 

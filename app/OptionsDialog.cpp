@@ -3,12 +3,13 @@
 #include "OptionsDialog.h"
 
 #include "Settings.h"
+#include "ShortcutsPage.h"
 #include "ui_OptionsDialog.h"
 
 #include <QDir>
 #include <QFileInfo>
 
-OptionsDialog::OptionsDialog(QWidget *parent)
+OptionsDialog::OptionsDialog(QWidget *parent, Shortcuts *shortcuts)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::OptionsDialog>())
     , m_gamePath(Settings::GamePath.value())
@@ -17,6 +18,7 @@ OptionsDialog::OptionsDialog(QWidget *parent)
     , m_hideMeshData(Settings::HideMeshData.value())
     , m_hideAnimData(Settings::HideAnimData.value())
     , m_animAutoPlay(Settings::AnimationAutoPlay.value())
+    , m_restoreSession(Settings::RestoreSession.value())
 {
     m_ui->setupUi(this);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -27,17 +29,27 @@ OptionsDialog::OptionsDialog(QWidget *parent)
     m_ui->cbHideMeshData->setChecked(m_hideMeshData);
     m_ui->cbHideAnimData->setChecked(m_hideAnimData);
     m_ui->cbAnimAutoPlay->setChecked(m_animAutoPlay);
+    m_ui->cbRestoreSession->setChecked(m_restoreSession);
 
     connect(m_ui->txtGamePath, &QLineEdit::editingFinished, this, &OptionsDialog::OnTxtGamePathChanged);
     connect(m_ui->txtT2Dir, &QLineEdit::editingFinished, this, &OptionsDialog::OnTxtT2DirChanged);
     updateHint(m_ui->txtGamePath, m_ui->lblGamePathHint);
     updateHint(m_ui->txtT2Dir, m_ui->lblT2DirHint);
+    if (shortcuts) {
+        m_shortcuts = new ShortcutsPage(*shortcuts);
+        m_ui->tabOptions->addTab(m_shortcuts, tr("&Shortcuts"));
+    }
+    m_ui->txtGamePath->setFocus();
 }
 
 OptionsDialog::~OptionsDialog() = default;
 
 void OptionsDialog::on_buttonBox_accepted()
 {
+    if (m_shortcuts && !m_shortcuts->confirm()) {
+        m_ui->tabOptions->setCurrentWidget(m_shortcuts);
+        return;
+    }
     // A text set by the program finishes no edit.
     OnTxtGamePathChanged();
     OnTxtT2DirChanged();
@@ -48,6 +60,9 @@ void OptionsDialog::on_buttonBox_accepted()
     Settings::HideMeshData.setValue(m_hideMeshData);
     Settings::HideAnimData.setValue(m_hideAnimData);
     Settings::AnimationAutoPlay.setValue(m_animAutoPlay);
+    Settings::RestoreSession.setValue(m_restoreSession);
+    if (m_shortcuts)
+        m_shortcuts->store();
     accept();
 }
 

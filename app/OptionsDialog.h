@@ -10,19 +10,22 @@
 
 class QLabel;
 class QLineEdit;
+class Shortcuts;
+class ShortcutsPage;
 
 namespace Ui {
 class OptionsDialog;
 }
 
-/// The preferences: the two folders and four switches. It works on copies; only OK writes them to the
+/// The preferences: the two folders and the switches. It works on copies; only OK writes them to the
 /// settings.
 class OptionsDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    explicit OptionsDialog(QWidget *parent = nullptr);
+    /// With `shortcuts` it has a page for them.
+    explicit OptionsDialog(QWidget *parent = nullptr, Shortcuts *shortcuts = nullptr);
     ~OptionsDialog() override;
 
     void setFolderChooser(FolderChooser chooser) { m_chooseFolder = std::move(chooser); }
@@ -37,6 +40,7 @@ private slots:
     void on_cbHideMeshData_clicked(bool checked) { m_hideMeshData = checked; }
     void on_cbHideAnimData_clicked(bool checked) { m_hideAnimData = checked; }
     void on_cbAnimAutoPlay_clicked(bool checked) { m_animAutoPlay = checked; }
+    void on_cbRestoreSession_clicked(bool checked) { m_restoreSession = checked; }
 
 private:
     static void updateHint(const QLineEdit *edit, QLabel *hint);
@@ -49,4 +53,6 @@ private:
     bool m_hideMeshData;
     bool m_hideAnimData;
     bool m_animAutoPlay;
+    bool m_restoreSession;
+    ShortcutsPage *m_shortcuts = nullptr;
 };

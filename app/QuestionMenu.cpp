@@ -7,7 +7,9 @@
 #include "FloatSpinBox.h"
 #include "Log.h"
 #include "Questions.h"
+#include "Shortcuts.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QDoubleSpinBox>
 #include <QLineEdit>
@@ -63,6 +65,13 @@ QuestionMenu::QuestionMenu(DatabaseTab &tables, QWidget *fields)
 {
     for (QAbstractSpinBox *editor : fields->findChildren<QAbstractSpinBox *>())
         editor->installEventFilter(this);
+    for (int i = 0; i < int(std::size(questions)); ++i) {
+        auto *action = new QAction(tr(questions[i].text), fields);
+        nameShortcut(action, QLatin1String("actionAsk_") + questions[i].key, tr("Number Fields"), {});
+        fields->addAction(action);
+        connect(action, &QAction::triggered, this, [this, i] { askFocused(i); });
+        m_actions.append(action);
+    }
 }
 
 bool QuestionMenu::eventFilter(QObject *watched, QEvent *event)
@@ -94,7 +103,11 @@ QMenu *QuestionMenu::createMenu(QObject *editor)
         for (int i = 0; i < int(std::size(questions)); ++i) {
             if (key != questions[i].key)
                 continue;
+            // Shown with the keys, but without having them: they would be ambiguous while the menu is up.
+            const QString shown = keysText(m_actions[i]->shortcuts());
             auto *action = new QAction(tr(questions[i].text), menu);
+            if (!shown.isEmpty())
+                action->setText(action->text() + QLatin1Char('\t') + shown);
             menu->insertAction(first, action);
             // Queued, so that the answer's box does not run from within the menu. The menu is no part of the
             // field and may outlive it.
@@ -120,6 +133,15 @@ QMenu *QuestionMenu::createMenu(QObject *editor)
     addStep(tr("&Step up"), 1);
     addStep(tr("Step &down"), -1);
     return menu;
+}
+
+void QuestionMenu::askFocused(int question) const
+{
+    QWidget *editor = QApplication::focusWidget();
+    while (editor && !Questions::of(editor).contains(questions[question].key))
+        editor = editor->parentWidget();
+    if (editor && valueOf(editor))
+        ask(question, editor);
 }
 
 void QuestionMenu::ask(int question, QObject *editor) const

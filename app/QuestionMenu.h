@@ -6,12 +6,13 @@
 #include <QPoint>
 
 class DatabaseTab;
+class QAction;
 class QMenu;
 
 /// The context menu of number fields whose value names something: "What Actor is this?" and the like.
 ///
 /// It serves the spin boxes that carry Questions. They are read when the menu opens, so they may change with
-/// what the field means.
+/// what the field means. Each question is an action too, about the field with the focus.
 class QuestionMenu : public QObject
 {
     Q_OBJECT
@@ -32,6 +33,8 @@ protected:
 
 private:
     void ask(int question, QObject *editor) const;
+    void askFocused(int question) const;
 
     DatabaseTab &m_tables;
+    QList<QAction *> m_actions; ///< one for each question, for those who give it keys
 };

@@ -14,7 +14,7 @@ void addUndoActions(const QUndoGroup &group, QMenu &menu, QToolBar &toolBar)
     QAction *undo = group.createUndoAction(window, QCoreApplication::translate("UndoActions", "&Undo"));
     undo->setObjectName(QStringLiteral("actionUndo"));
     undo->setIcon(QIcon(QStringLiteral(":/Images/Icons/undo.png")));
-    undo->setShortcuts(QKeySequence::Undo);
+    undo->setShortcut(QKeySequence::Undo);
     QAction *redo = group.createRedoAction(window, QCoreApplication::translate("UndoActions", "&Redo"));
     redo->setObjectName(QStringLiteral("actionRedo"));
     redo->setIcon(QIcon(QStringLiteral(":Images/Icons/redo.png")));

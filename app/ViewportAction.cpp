@@ -5,7 +5,6 @@
 #include "KVOpenGLWidget.h"
 
 #include <QAction>
-#include <QCoreApplication>
 
 QAction *viewportAction(const char *name, const char *icon, const QString &text, const QString &tip,
                         const QList<QKeySequence> &keys, const Viewports &viewports, QObject *parent)
@@ -17,8 +16,6 @@ QAction *viewportAction(const char *name, const char *icon, const QString &text,
     action->setStatusTip(tip);
     action->setToolTip(tip);
     if (!keys.isEmpty()) {
-        action->setToolTip(QCoreApplication::translate("ViewportAction", "%1 (%2 in the view)")
-                               .arg(tip, keys.first().toString(QKeySequence::NativeText)));
         action->setShortcuts(keys);
         action->setShortcutContext(Qt::WidgetShortcut);
         for (KVOpenGLWidget *viewport : viewports)

@@ -32,6 +32,6 @@ int main(int argc, char *argv[])
     MainWindow window;
     window.show();
     // The desktop hands over files to open; there are no options.
-    window.openFiles(QCoreApplication::arguments().mid(1));
+    window.openAtStart(QCoreApplication::arguments().mid(1));
     return QApplication::exec();
 }

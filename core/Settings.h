@@ -46,6 +46,8 @@ public:
 
     void setValue(const T &value) const { QSettings().setValue(m_name, QVariant::fromValue(value)); }
 
+    void remove() const { QSettings().remove(m_name); }
+
     /// Writes the default unless the key is there already.
     void ensure() const
     {
@@ -132,6 +134,13 @@ inline const SettingKey<float> Brightness{"Brightness", 1.0f};
 inline const SettingKey<QSize> PictureSize{"PictureSize", {}};
 inline const SettingKey<bool> PictureKeepProportions{"PictureKeepProportions", true};
 inline const SettingKey<bool> PictureTransparent{"PictureTransparent", false};
+
+// What was open, and how it was looked at, when the window was last seen; kept only where it is wanted.
+inline const SettingKey<bool> RestoreSession{"RestoreSession", false};
+inline const SettingKey<QVariantMap> Session{"Session", {}};
+
+// The keys of commands that are not the usual ones, "id=keys" each, as QKeySequence writes them portably.
+inline const SettingKey<QStringList> Shortcuts{"Shortcuts", {}};
 
 // Main window. The first three hold the window itself, the others its docks, tool bars and splitters.
 inline const SettingKey<QSize> MainWindowSize{"MainWindowSize", {}};

@@ -84,6 +84,7 @@ public:
     void setMarkNames(MarkName bone, MarkName hotPoint);
 
     void resetCamera();
+    void placeCamera(const QVector3D &position, float yaw, float pitch); ///< as Camera::place()
     /// Goes where the whole model, or the selected part of it, is in the picture. Where nothing is selected
     /// that has a place it is the whole model.
     void frameAll();

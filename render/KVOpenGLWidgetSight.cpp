@@ -39,6 +39,12 @@ void KVOpenGLWidget::resetCamera()
     cameraMoved();
 }
 
+void KVOpenGLWidget::placeCamera(const QVector3D &position, float yaw, float pitch)
+{
+    m_camera.place(position, yaw, pitch);
+    cameraMoved();
+}
+
 void KVOpenGLWidget::frameAll()
 {
     if (m_painter)

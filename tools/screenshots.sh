@@ -126,6 +126,16 @@ click() {
     done
 }
 
+# in_tree KEY...: goes to the top of the current tree and presses these keys there.
+in_tree() { press ctrl+f Escape Home "$@"; }
+
+# command NAME: does what the commands list under this name.
+command() {
+    press ctrl+shift+p
+    xdotool type --delay 20 "$1"
+    press Return
+}
+
 # for_guide NAME ARGS...: what the main window shows, cut out or scaled down by ImageMagick's ARGS.
 for_guide() {
     local picture=$guides/$1.png whole=build/whole.png
@@ -139,7 +149,7 @@ for_guide() {
 first() { find "$samples/game" -name "*.$1" | sort | head -n 1; }
 
 model_pictures() {
-    local folder=$1 samples=$2 skinned_mesh animation static_mesh options broken=$2/mod/broken.anim
+    local folder=$1 samples=$2 skinned_mesh animation static_mesh dialog broken=$2/mod/broken.anim
     skinned_mesh=$(first skinnedmesh)
     animation=$(first anim)
     static_mesh=$(first staticmesh)
@@ -147,13 +157,29 @@ model_pictures() {
     korvane "$skinned_mesh" "$animation"
     approach
     for_guide window -filter Lanczos -resize 760x
-    click 1231 150 1320 207
+    in_tree Down Right Down Down Down
     grab "$main" "$folder/main.png"
     press ctrl+comma
-    options=$(wait_for --name '^Options$')
-    grab "$options" "$folder/options.png"
+    dialog=$(wait_for --name '^Options$')
+    grab "$dialog" "$folder/options.png"
     cp "$folder/options.png" "$guides/options.png"
+    press alt+s
+    grab "$dialog" "$folder/shortcuts.png"
+    press Escape F1
+    grab "$(wait_for --name '^Keyboard and Mouse$')" "$folder/controls.png"
+    press Escape ctrl+shift+p
+    grab "$(wait_for --name '^Commands$')" "$folder/commands.png"
     press Escape
+    command rotate
+    grab "$(wait_for --name '^Rotate')" "$folder/rotate.png"
+    press Escape
+    command scale
+    grab "$(wait_for --name '^Scale')" "$folder/scale.png"
+    press Escape
+    # Some steps for the history.
+    in_tree Down Left Down Right Down Insert Insert Delete
+    command history
+    grab "$main" "$folder/history.png"
     quit
 
     korvane "$static_mesh"
@@ -197,6 +223,8 @@ other_pictures() {
     quit
 
     korvane
+    click 380 78
+    grab "$main" "$folder/database.png"
     click 465 78
     grab "$main" "$folder/tutorials.png"
     click 555 78
@@ -204,20 +232,22 @@ other_pictures() {
     quit
 }
 
-# The pictures of the guides show the view and the records of a window that is as narrow as a page.
+# The pictures of the guides show the view and the records of a window that is hardly wider than a page.
 guide_pictures() {
-    local samples=$1 part=(-crop 760x560+240+90) width=1010 height=880
-    local tree=$((width - 369)) item=$((width - 280)) import
+    local folder=$1 samples=$2 width=1010 height=880 part=() import WIDTH
     korvane "$(first skinnedmesh)" "$(first anim)"
+    # The window may not get as narrow.
+    eval "$(xdotool getwindowgeometry --shell "$main" | grep -E '^WIDTH=[0-9]+$')"
+    part=(-crop "$((WIDTH - 240))x$(((WIDTH - 240) * 530 / 760))+240+90" -filter Lanczos -resize 760x)
     approach
-    click $tree 150 $item 207
+    in_tree Down Right Down Down Down
     for_guide bone "${part[@]}"
-    click $tree 150 $tree 168 $item 187
+    in_tree Down Left Down Right Down
     for_guide hot-point "${part[@]}"
-    click $tree 168 $tree 187 $item 207
+    in_tree Down Down Left Down Right Down
     for_guide surface "${part[@]}"
-    click $((width - 238)) 106 $item 130
-    press Home Down Down Down Right Down Down Down Down Down Right Down
+    press ctrl+Tab
+    in_tree Down Down Down Right Down Down Down Down Down Right Down
     for_guide action "${part[@]}"
     press ctrl+i
     import=$(wait_for --name '^Import model')
@@ -228,9 +258,15 @@ guide_pictures() {
     quit
 
     rm "$samples/mod/textures/"*
-    width=760
+    width=1600 height=1000
     korvane "$(first skinnedmesh)"
-    for_guide console -gravity SouthEast -crop 760x142+0+0
+    click $((width - 250)) $((height - 15))
+    grab "$main" "$folder/problems.png"
+    quit
+
+    width=760 height=880
+    korvane "$(first skinnedmesh)"
+    for_guide console -gravity SouthWest -crop 760x230+0+0
     quit
 }
 
@@ -250,7 +286,7 @@ window)
 all)
     model_pictures "$@"
     other_pictures "$@"
-    guide_pictures "$2"
+    guide_pictures "$@"
     ;;
 *) die "unknown verb '$verb'" ;;
 esac

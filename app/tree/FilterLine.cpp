@@ -3,7 +3,9 @@
 #include "FilterLine.h"
 
 #include "KVTreeView.h"
+#include "Shortcuts.h"
 
+#include <QAction>
 #include <QKeyEvent>
 #include <QTimer>
 
@@ -13,8 +15,7 @@ FilterLine::FilterLine(KVTreeView &tree, QWidget *parent)
 {
     setObjectName(tree.objectName() + QStringLiteral("Filter"));
     setPlaceholderText(tr("Filter, such as %1").arg(tree.filterExample()));
-    setToolTip(
-        tr("Show only the records whose text has these words, and numbers or ranges of them (Ctrl+F)"));
+    setToolTip(tr("Show only the records whose text has these words, and numbers or ranges of them"));
     setAccessibleName(tr("Filter"));
     setClearButtonEnabled(true);
 
@@ -24,6 +25,13 @@ FilterLine::FilterLine(KVTreeView &tree, QWidget *parent)
     pause->setInterval(150);
     connect(this, &QLineEdit::textChanged, pause, qOverload<>(&QTimer::start));
     connect(pause, &QTimer::timeout, this, [this] { m_tree.setFilter(text()); });
+}
+
+void FilterLine::setAction(const QAction *action)
+{
+    const auto show = [this, action, tip = toolTip()] { setToolTip(withKeys(tip, action)); };
+    connect(action, &QAction::changed, this, show);
+    show();
 }
 
 void FilterLine::keyPressEvent(QKeyEvent *event)

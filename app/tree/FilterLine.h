@@ -5,6 +5,7 @@
 #include <QLineEdit>
 
 class KVTreeView;
+class QAction;
 
 /// The line above a structure tree that says which of its records are shown. Escape shows all of them again
 /// and goes back to the tree, Return and the arrow keys go to the tree.
@@ -14,6 +15,9 @@ class FilterLine : public QLineEdit
 
 public:
     explicit FilterLine(KVTreeView &tree, QWidget *parent = nullptr);
+
+    /// The action that goes here, for its keys.
+    void setAction(const QAction *action);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

@@ -4,7 +4,9 @@
 
 #include "RecordItem.h"
 #include "RecordTable.h"
+#include "Shortcuts.h"
 
+#include <QAction>
 #include <QCoreApplication>
 #include <QItemSelection>
 #include <QPainter>
@@ -412,9 +414,10 @@ void KVTreeView::paintEvent(QPaintEvent *event)
 {
     QTreeWidget::paintEvent(event);
     QString text;
+    const QString keys = m_openAction ? keysText(m_openAction->shortcuts()) : QString();
     if (topLevelItemCount() == 0)
-        text = tr("No file is open. Choose one in the folder, or press %1.")
-                   .arg(QKeySequence(QKeySequence::Open).toString(QKeySequence::NativeText));
+        text = keys.isEmpty() ? tr("No file is open. Choose one in the folder.")
+                              : tr("No file is open. Choose one in the folder, or press %1.").arg(keys);
     else if (!m_filter.isEmpty() && topLevelItem(0)->childCount() == 0)
         text = tr("Nothing matches the filter.");
     else

@@ -21,6 +21,9 @@ public:
     /// The document to show; it outlives the tree.
     void setDocument(Document *document);
 
+    /// The action that opens a file: an empty tree tells its keys.
+    void setOpenAction(const QAction *action) { m_openAction = action; }
+
     /// Builds the items anew and makes the root current. Mesh data is left out while it is hidden.
     void rebuild();
 
@@ -71,6 +74,7 @@ private:
     void notifyCurrent();
 
     Document *m_document = nullptr;
+    const QAction *m_openAction = nullptr;
     bool m_hideData = true; ///< as it was when the tree was built
     RecordFilter m_filter;
     QVector<RecordRef> m_expandedUnfiltered; ///< what was open before there was a filter

@@ -7,6 +7,7 @@
 #include "KVTreeView.h"
 #include "RecordItem.h"
 #include "RecordTable.h"
+#include "Shortcuts.h"
 #include "SkinnedMeshCommands.h"
 
 #include <QApplication>
@@ -143,23 +144,37 @@ StructureActions::TreeMenu StructureActions::createMenu(Document &document, KVTr
     TreeMenu made;
     made.tree = tree;
     made.menu = new QMenu(tree);
-    const std::tuple<const char *, QKeySequence> looks[VerbCount] = {{"add", Qt::Key_Insert},
-                                                                     {"remove", QKeySequence::Delete},
-                                                                     {"copy", QKeySequence::Copy},
-                                                                     {"paste", QKeySequence::Paste},
-                                                                     {"frames", {}},
-                                                                     {"copy", {}}};
+    struct Look
+    {
+        const char *icon;
+        const char *id;
+        QString name;
+        QKeySequence keys;
+    };
+    const Look looks[VerbCount] = {{"add", "actionTreeAdd", tr("Add"), Qt::Key_Insert},
+                                   {"remove", "actionTreeRemove", tr("Remove"), QKeySequence::Delete},
+                                   {"copy", "actionTreeCopy", tr("Copy"), QKeySequence::Copy},
+                                   {"paste", "actionTreePaste", tr("Paste"), QKeySequence::Paste},
+                                   {"frames", "actionTreeChangeSize", tr("Change Count"), {}},
+                                   {"copy", "actionTreeCopyFlags", tr("Copy Bone Flags"), {}}};
+    // The three trees share their keys.
+    const auto addAction = [&made, tree](const char *iconName, const QString &text, const char *id,
+                                         const QString &name) {
+        QAction *action = made.menu->addAction(icon(iconName), text);
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        nameShortcut(action, QLatin1String(id), tr("Trees"), name);
+        tree->addAction(action);
+        return action;
+    };
     for (const Verb verb : {Add, Remove, Copy, Paste, ChangeSize, CopyFlags}) {
         const auto first = std::find_if(offers().begin(), offers().end(), [&](const Offer &offer) {
             return offer.verb == verb && belongsTo(offer.kind, document.rootKind());
         });
         if (first == offers().end())
             continue;
-        const auto &[iconName, keys] = looks[verb];
-        QAction *action = made.menu->addAction(icon(iconName), tr(first->text));
-        action->setShortcut(keys);
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        tree->addAction(action);
+        const Look &look = looks[verb];
+        QAction *action = addAction(look.icon, tr(first->text), look.id, look.name);
+        action->setShortcut(look.keys);
         connect(action, &QAction::triggered, this, [this, tree, verb] {
             if (const Offer *chosen = findOffer(tree->currentRecord().kind, verb))
                 (this->*chosen->slot)();
@@ -168,8 +183,9 @@ StructureActions::TreeMenu StructureActions::createMenu(Document &document, KVTr
     }
 
     made.menu->addSeparator();
-    const auto addBranchAction = [&made, tree](const char *iconName, const QString &text, bool expanded) {
-        QAction *action = made.menu->addAction(icon(iconName), text);
+    const auto addBranchAction = [&addAction, tree](const char *iconName, const QString &text, const char *id,
+                                                    bool expanded) {
+        QAction *action = addAction(iconName, text, id, QString());
         QObject::connect(action, &QAction::triggered, tree, [tree, expanded] {
             tree->setUpdatesEnabled(false);
             if (QTreeWidgetItem *item = tree->currentItem())
@@ -178,8 +194,8 @@ StructureActions::TreeMenu StructureActions::createMenu(Document &document, KVTr
         });
         return action;
     };
-    made.expand = addBranchAction("expand", tr("&Expand All Below"), true);
-    made.collapse = addBranchAction("collapse", tr("&Collapse All Below"), false);
+    made.expand = addBranchAction("expand", tr("&Expand All Below"), "actionTreeExpand", true);
+    made.collapse = addBranchAction("collapse", tr("&Collapse All Below"), "actionTreeCollapse", false);
 
     // Each document's own pair. It has no keys: three stacks with the same keys would be ambiguous. The keys
     // belong to the pair that follows the current document.

@@ -44,6 +44,15 @@ void Camera::reset()
     m_framed.reset();
 }
 
+void Camera::place(const QVector3D &position, float yaw, float pitch)
+{
+    m_position = m_targetPosition = position;
+    m_yaw = m_targetYaw = std::fmod(yaw, 360.0f);
+    m_pitch = m_targetPitch = std::clamp(pitch, -PitchLimit, PitchLimit);
+    m_positionVelocity = {};
+    m_yawVelocity = m_pitchVelocity = 0.0f;
+}
+
 QMatrix4x4 Camera::viewMatrix() const
 {
     QMatrix4x4 view;

@@ -34,6 +34,9 @@ public:
     /// In front of the origin and above the ground, looking at a model's front.
     void reset();
 
+    /// Puts the camera anywhere at once; angles in degrees, brought into their range.
+    void place(const QVector3D &position, float yaw, float pitch);
+
     /// The offset applied to the world, not the eye's place.
     const QVector3D &position() const { return m_position; }
     const QVector3D &targetPosition() const { return m_targetPosition; }

@@ -20,6 +20,7 @@
 #include <QSpinBox>
 #include <QToolButton>
 #include <QTreeWidget>
+#include <QUndoGroup>
 #include <QUndoView>
 
 /// What a window that is open all day offers beside its documents.
@@ -182,8 +183,18 @@ void tst_Everyday::historyShowsWhatWasSaved()
     find<QAction>(window, "actionSave")->trigger();
     const QModelIndex last = view->model()->index(view->model()->rowCount() - 1, 0);
     QVERIFY(!last.data(Qt::DecorationRole).isNull());
+    QUndoStack *stack = view->group()->activeStack();
     view->selectionModel()->setCurrentIndex(view->model()->index(0, 0), QItemSelectionModel::ClearAndSelect);
+    QTRY_COMPARE(stack->index(), 0);
     QVERIFY(factor->value() != 5);
+    // What is done before the view's turn comes is not taken back.
+    stack->redo();
+    stack->redo();
+    stack->undo();
+    const int index = stack->index();
+    QTest::qWait(10);
+    QCOMPARE(stack->index(), index);
+    QCOMPARE(view->currentIndex().row(), index);
 }
 
 void tst_Everyday::theLayoutIsReset()

@@ -61,7 +61,7 @@ void TestFaults::useProgram()
     MainWindow window;
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
-    window.openFiles({path});
+    window.openAtStart({path});
     const RecordRef bone{RecordKind::Bone, {1, 0, 0}};
     find<KVTreeView>(window, "treeSkinnedMesh")->selectRecords({bone}, bone);
     auto *parent = find<QSpinBox>(window, "sbNodeParentNode");

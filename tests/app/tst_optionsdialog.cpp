@@ -51,6 +51,7 @@ void tst_OptionsDialog::showsDefaultsAndStoredValues()
         QVERIFY(child<QLineEdit>(dialog, "txtT2Dir")->text().isEmpty());
         for (const char *box : boxes)
             QVERIFY2(child<QCheckBox>(dialog, box)->isChecked(), box);
+        QVERIFY(!child<QCheckBox>(dialog, "cbRestoreSession")->isChecked());
     }
     QVERIFY(QSettings().allKeys().isEmpty());
 
@@ -74,7 +75,8 @@ void tst_OptionsDialog::onlyAcceptingWrites()
         dialog.show();
         QTest::keyClicks(child<QLineEdit>(dialog, "txtGamePath"), QStringLiteral("/some/game/"));
         QTest::keyClicks(child<QLineEdit>(dialog, "txtT2Dir"), QStringLiteral("/some/mod"));
-        for (const char *box : {"cbUpdates", "cbHideMeshData", "cbHideAnimData", "cbAnimAutoPlay"})
+        for (const char *box :
+             {"cbUpdates", "cbHideMeshData", "cbHideAnimData", "cbAnimAutoPlay", "cbRestoreSession"})
             QTest::keyClick(child<QCheckBox>(dialog, box), Qt::Key_Space);
         click(dialog, accept ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel);
         QCOMPARE(dialog.result(), int(accept ? QDialog::Accepted : QDialog::Rejected));
@@ -89,6 +91,7 @@ void tst_OptionsDialog::onlyAcceptingWrites()
         QVERIFY(key->exists());
         QVERIFY(!key->value());
     }
+    QVERIFY(Settings::RestoreSession.value());
 }
 
 void tst_OptionsDialog::browsing()

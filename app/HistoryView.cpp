@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "HistoryView.h"
+
+#include <QCoreApplication>
+#include <QIcon>
+#include <QItemSelectionModel>
+#include <QUndoGroup>
+#include <QUndoView>
+
+void showHistory(QUndoView &view, QUndoGroup &group, const QIcon &savedIcon)
+{
+    view.setGroup(&group);
+    view.setCleanIcon(savedIcon);
+    view.setEmptyLabel(QCoreApplication::translate("HistoryView", "As opened"));
+
+    QItemSelectionModel *selection = view.selectionModel();
+    QObject::disconnect(selection, &QItemSelectionModel::currentChanged, view.model(), nullptr);
+    const auto follow = [&view, &group] {
+        // As it is by now: steps that were done meanwhile have moved the selection along.
+        const QModelIndex current = view.currentIndex();
+        QUndoStack *stack = group.activeStack();
+        if (stack && current.isValid() && current.row() != stack->index())
+            stack->setIndex(current.row());
+    };
+    QObject::connect(selection, &QItemSelectionModel::currentChanged, &view, follow, Qt::QueuedConnection);
+}

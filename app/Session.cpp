@@ -1,0 +1,203 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "Session.h"
+
+#include "AnimTrackFrame.h"
+#include "Document.h"
+#include "KVOpenGLWidget.h"
+#include "KVTreeView.h"
+#include "Log.h"
+#include "Playback.h"
+#include "RecordTable.h"
+#include "Settings.h"
+
+#include <QDir>
+#include <QEvent>
+#include <QTabWidget>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+// Keys of the stored map; files stand under their kind's extension, cameras under their view's name.
+const QString BlockKey = QStringLiteral("block");
+const QString PathKey = QStringLiteral("path");
+const QString SizeKey = QStringLiteral("size");
+const QString ModifiedKey = QStringLiteral("modified");
+const QString RecordKey = QStringLiteral("record");
+
+/// Beyond any model; farther out a float has no fractions left.
+constexpr float MostDistance = 1e6f;
+
+QVariantList numbers(const RecordRef &record)
+{
+    return {int(record.kind), record.index[0], record.index[1], record.index[2]};
+}
+
+QVariantList numbers(const Camera &camera)
+{
+    const QVector3D place = camera.position();
+    return {place.x(), place.y(), place.z(), camera.yaw(), camera.pitch()};
+}
+
+/// A record that stands in the tree of `root`; none for anything else.
+RecordRef recordIn(RecordKind root, const QVariantList &stored)
+{
+    if (stored.size() != 4 || stored[0].toInt() <= int(RecordKind::None) ||
+        stored[0].toInt() > int(RecordKind::StaticVertices))
+        return {};
+    const RecordRef record{RecordKind(stored[0].toInt()),
+                           {stored[1].toInt(), stored[2].toInt(), stored[3].toInt()}};
+    RecordKind top = record.kind;
+    while (recordRow(top)->parent != RecordKind::None)
+        top = recordRow(top)->parent;
+    return top == root ? record : RecordRef();
+}
+
+void placeCamera(KVOpenGLWidget &viewport, const QVariantList &stored)
+{
+    if (stored.size() != 5)
+        return;
+    float value[5];
+    for (int i = 0; i < 5; ++i) {
+        value[i] = stored[i].toFloat();
+        if (!(std::fabs(value[i]) <= MostDistance))
+            return;
+    }
+    viewport.placeCamera({value[0], value[1], value[2]}, value[3], value[4]);
+}
+
+bool isStaticMesh(const DocumentPane &pane)
+{
+    return pane.document->kind().type == DocumentType::StaticMesh;
+}
+} // namespace
+
+Session::Session(const DocumentPanes &panes, const std::array<QTabWidget *, 2> &tabs, AnimTrackFrame &track,
+                 QWidget *window)
+    : QObject(window)
+    , m_panes(panes)
+    , m_tabs(tabs)
+    , m_track(track)
+    , m_window(window)
+{
+    m_timer.setSingleShot(true);
+    m_timer.setInterval(DelayMs);
+    connect(&m_timer, &QTimer::timeout, this, &Session::store);
+    for (const DocumentPane &pane : m_panes) {
+        connect(pane.document, &Document::replaced, this, &Session::noteChange);
+        connect(pane.document, &Document::saved, this, &Session::noteChange);
+        connect(pane.tree, &KVTreeView::currentRecordChanged, this, &Session::noteChange);
+        connect(pane.viewport, &KVOpenGLWidget::positionReadOut, this, &Session::noteChange);
+    }
+    for (const QTabWidget *each : m_tabs)
+        connect(each, &QTabWidget::currentChanged, this, &Session::noteChange);
+    connect(&m_track, &AnimTrackFrame::playbackChanged, this, &Session::noteChange);
+    window->installEventFilter(this);
+}
+
+void Session::noteChange()
+{
+    if (!m_timer.isActive())
+        m_timer.start();
+}
+
+QVariantMap Session::state() const
+{
+    QVariantMap state;
+    for (const DocumentPane &pane : m_panes) {
+        state.insert(pane.viewport->objectName(), numbers(pane.viewport->camera()));
+        const Document &document = *pane.document;
+        if (!document.isOpen() || document.path().isEmpty())
+            continue;
+        state.insert(document.kind().extension,
+                     QVariantMap{{PathKey, document.path()},
+                                 {SizeKey, document.fileStamp().size},
+                                 {ModifiedKey, document.fileStamp().modified},
+                                 {RecordKey, numbers(pane.tree->currentRecord())}});
+    }
+    for (const QTabWidget *tabs : m_tabs)
+        state.insert(tabs->objectName(), tabs->currentWidget()->objectName());
+    state.insert(BlockKey, playback().blockIndex);
+    return state;
+}
+
+void Session::store()
+{
+    const QVariantMap now = state();
+    if (now == m_stored || !Settings::RestoreSession.value())
+        return;
+    Settings::Session.setValue(now);
+    m_stored = now;
+}
+
+void Session::restore(const QStringList &paths)
+{
+    if (!Settings::RestoreSession.value())
+        return;
+    const QVariantMap state = Settings::Session.value();
+    // Should one of these files bring the program down, the next start is without it.
+    Settings::Session.setValue({});
+    noteChange();
+
+    const auto leftAlone = [&paths](const DocumentPane &pane) {
+        return std::any_of(paths.begin(), paths.end(), [&pane](const QString &path) {
+            const DocumentKind *kind = documentKindOfFile(path);
+            // What is going to be imported asks for its tab.
+            return !kind || (kind->type == DocumentType::StaticMesh) == isStaticMesh(pane);
+        });
+    };
+    for (const DocumentPane &pane : m_panes) {
+        if (leftAlone(pane) || pane.document->isOpen())
+            continue;
+        placeCamera(*pane.viewport, state.value(pane.viewport->objectName()).toList());
+        if (!openFile(pane, state.value(pane.document->kind().extension).toMap()) ||
+            pane.document->kind().type != DocumentType::Anim)
+            continue;
+        const int block = state.value(BlockKey).toInt();
+        if (block != playback().blockIndex && block >= 0 &&
+            block < pane.document->recordCount(RecordKind::AnimBlock, {}))
+            m_track.selectBlock(block);
+    }
+    for (QTabWidget *tabs : m_tabs) {
+        const QString name = state.value(tabs->objectName()).toString();
+        for (int i = 0; i < tabs->count(); ++i) {
+            if (tabs->widget(i)->objectName() == name)
+                tabs->setCurrentIndex(i);
+        }
+    }
+}
+
+bool Session::openFile(const DocumentPane &pane, const QVariantMap &file) const
+{
+    const QString path = file.value(PathKey).toString();
+    if (path.isEmpty())
+        return false;
+    const QString nativePath = QDir::toNativeSeparators(path);
+    QString reason;
+    const FileStamp stamp = FileStamp::of(path);
+    if (!stamp.exists() || pane.document->open(path, &reason)) {
+        if (!stamp.exists())
+            Log::warning(tr("[Session] '%1' is not there any more").arg(nativePath));
+        else if (reason.isEmpty())
+            Log::error(tr("[Session] Unable to read '%1'").arg(nativePath));
+        else
+            Log::error(tr("[Session] '%1': %2").arg(nativePath, reason));
+        return false;
+    }
+    if (stamp != FileStamp{file.value(SizeKey).toLongLong(), file.value(ModifiedKey).toLongLong()}) {
+        Log::info(tr("[Session] '%1' has changed since the last session").arg(nativePath));
+        return false;
+    }
+    const RecordRef record = recordIn(pane.document->rootKind(), file.value(RecordKey).toList());
+    if (record.kind != RecordKind::None)
+        pane.tree->selectRecords({record}, record);
+    return true;
+}
+
+bool Session::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_window && event->type() == QEvent::Close)
+        store();
+    return QObject::eventFilter(watched, event);
+}

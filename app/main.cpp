@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "Language.h"
 #include "MainWindow.h"
+#include "Settings.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -18,6 +20,7 @@ int main(int argc, char *argv[])
     QCoreApplication::setOrganizationDomain(QStringLiteral("korvane.local"));
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/Images/Icons/korvane.png")));
     QGuiApplication::setDesktopFileName(QStringLiteral("korvane"));
+    Language::install(Language::resolve(Settings::UiLanguage.value()));
     qDebug() << QCoreApplication::libraryPaths();
     QLoggingCategory::setFilterRules(QStringLiteral("qt.network.ssl.warning=false"));
 

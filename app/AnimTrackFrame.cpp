@@ -4,6 +4,7 @@
 
 #include "AnimFile.h"
 #include "FrameChoice.h"
+#include "Icons.h"
 #include "Playback.h"
 #include "ReferenceTable.h"
 #include "Settings.h"
@@ -37,7 +38,7 @@ AnimTrackFrame::AnimTrackFrame(QWidget *parent)
                                                             {m_ui.btnAnimTrackStepForward, "stepforward"},
                                                             {m_ui.btnAnimTrackMarkForward, "markforward"}};
     for (const auto &[button, icon] : icons)
-        button->setIcon(QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(icon))));
+        button->setIcon(namedIcon(QLatin1String(icon)));
     // Wide enough for four digits, so that the slider does not move under the mouse while playing.
     m_ui.lblAnimTrackFrames->setMinimumWidth(
         fontMetrics().horizontalAdvance(tr("Frame: %1 / %2").arg(8888).arg(8888)));

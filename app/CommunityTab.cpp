@@ -15,17 +15,22 @@ CommunityTab::CommunityTab(QWidget *parent)
     if (file.open(QIODevice::ReadOnly))
         groups = QJsonDocument::fromJson(file.readAll()).array();
 
-    QString page = QStringLiteral("<h1>%1</h1>").arg(tr("Community"));
+    m_html = QStringLiteral("<h1>%1</h1>").arg(tr("Community"));
     for (const QJsonValue &group : qAsConst(groups)) {
-        page += QStringLiteral("<h2>%1</h2>").arg(group[QLatin1String("title")].toString().toHtmlEscaped());
+        m_html += QStringLiteral("<h2>%1</h2>").arg(group[QLatin1String("title")].toString().toHtmlEscaped());
         const QJsonArray links = group[QLatin1String("links")].toArray();
         for (const QJsonValue &link : links) {
             const auto text = [&link](const char *key) {
                 return link[QLatin1String(key)].toString().toHtmlEscaped();
             };
-            page += QStringLiteral("<p><a href=\"%1\"><b>%2</b></a><br>%3<br><small>%1</small></p>")
-                        .arg(text("address"), text("name"), text("about"));
+            m_html += QStringLiteral("<p><a href=\"%1\"><b>%2</b></a><br>%3<br><small>%1</small></p>")
+                          .arg(text("address"), text("name"), text("about"));
         }
     }
-    setHtml(page);
+    setHtml(m_html);
+}
+
+void CommunityTab::reload()
+{
+    setHtml(m_html);
 }

@@ -9,8 +9,10 @@
 #include "FileDrop.h"
 #include "FilterLine.h"
 #include "FolderExplorer.h"
+#include "Icons.h"
 #include "ImportExport.h"
 #include "ImportFilter.h"
+#include "LookMenu.h"
 #include "ModelTransforms.h"
 #include "Playback.h"
 #include "Problems.h"
@@ -54,6 +56,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_problems(new Problems(m_skinnedMesh, m_anim, m_staticMesh, this))
 {
     m_ui->setupUi(this);
+    setNamedIcons(*this);
     createConsole();
     createPanes();
     createProblems();
@@ -63,6 +66,7 @@ MainWindow::MainWindow(QWidget *parent)
     new StructureActions({m_skinnedMesh, m_ui->treeSkinnedMesh}, {m_anim, m_ui->treeAnim},
                          {m_staticMesh, m_ui->treeStaticMesh}, this);
     new QuestionMenu(*m_ui->tabDatabase, this);
+    addLookMenu(*m_ui->menuView);
     m_ui->menuView->addSeparator();
     m_ui->menuView->addActions({m_ui->toolBarFile->toggleViewAction(), m_ui->toolBarEdit->toggleViewAction(),
                                 m_ui->dockConsole->toggleViewAction(), m_ui->dockProblems->toggleViewAction(),

@@ -24,7 +24,12 @@ public:
     void tell(const QString &text);
     QString text() const;
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void takeColors();
+
     QHBoxLayout *m_row;
     QLabel *m_text;
 };

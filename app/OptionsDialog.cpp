@@ -48,6 +48,7 @@ void OptionsDialog::on_buttonBox_accepted()
     Settings::HideMeshData.setValue(m_hideMeshData);
     Settings::HideAnimData.setValue(m_hideAnimData);
     Settings::AnimationAutoPlay.setValue(m_animAutoPlay);
+    m_ui->gbAppearance->store();
     accept();
 }
 

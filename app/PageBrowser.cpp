@@ -4,6 +4,7 @@
 
 #include "WebLink.h"
 
+#include <QEvent>
 #include <QScrollBar>
 #include <QTextFrame>
 
@@ -32,6 +33,18 @@ void PageBrowser::resizeEvent(QResizeEvent *event)
 {
     layOutColumn();
     QTextBrowser::resizeEvent(event);
+}
+
+void PageBrowser::changeEvent(QEvent *event)
+{
+    QTextBrowser::changeEvent(event);
+    // Links took their colour when the page was read.
+    if (event->type() != QEvent::ApplicationPaletteChange)
+        return;
+    const int scrolled = verticalScrollBar()->value();
+    reload();
+    layOutColumn();
+    verticalScrollBar()->setValue(scrolled);
 }
 
 void PageBrowser::follow(const QUrl &link)

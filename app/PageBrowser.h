@@ -14,6 +14,7 @@ public:
     explicit PageBrowser(QWidget *parent = nullptr);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:

@@ -3,6 +3,7 @@
 #include "RecoveryPrompt.h"
 
 #include "CrashReportDialog.h"
+#include "Icons.h"
 #include "NoticeBar.h"
 #include "RecoverDialog.h"
 
@@ -19,7 +20,7 @@ RecoveryPrompt::RecoveryPrompt(Recovery &recovery, QAction *recover, QBoxLayout 
     : QObject(window)
     , m_recovery(recovery)
     , m_window(window)
-    , m_bar(new NoticeBar(QIcon(QStringLiteral(":/Images/Icons/warning.png")), QStringLiteral("barRecovery")))
+    , m_bar(new NoticeBar(namedIcon(QStringLiteral("warning")), QStringLiteral("barRecovery")))
     , m_restore(m_bar->addButton(tr("&Restore"), QStringLiteral("btnRestore"),
                                  tr("Open the newest of each kind as a modified document")))
     , m_showAll(m_bar->addButton(tr("Show &All…"), QStringLiteral("btnShowAll"),

@@ -3,6 +3,7 @@
 #include "ReloadPrompt.h"
 
 #include "DocumentFiles.h"
+#include "Icons.h"
 #include "NoticeBar.h"
 
 #include <QBoxLayout>
@@ -21,7 +22,7 @@ ReloadPrompt::ReloadPrompt(DocumentFiles &files, QBoxLayout *place, QWidget *win
     int row = 0;
     for (const DocumentKind &kind : documentKinds()) {
         const DocumentType type = kind.type;
-        auto *made = new NoticeBar(QIcon(QStringLiteral(":/Images/Icons/info.png")),
+        auto *made = new NoticeBar(namedIcon(QStringLiteral("info")),
                                    QStringLiteral("barReload_%1").arg(kind.extension));
         bar(type) = {made,
                      made->addButton(tr("Re&load"), QStringLiteral("btnReload"), tr("Open the file anew")),

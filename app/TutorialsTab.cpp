@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "TutorialsTab.h"
 
-#include "ListIcon.h"
+#include "Icons.h"
 #include "PageBrowser.h"
 
 #include <QDir>
@@ -54,8 +54,8 @@ void TutorialsTab::fill()
     // Their names begin with their places in the list.
     const QDir guides(QStringLiteral(":/tutorials"));
     for (const QString &name : guides.entryList({QStringLiteral("*.html")}, QDir::Files, QDir::Name)) {
-        auto *item =
-            new QListWidgetItem(listIcon(QStringLiteral("tutorial")), titleOf(guides.filePath(name)), m_list);
+        auto *item = new QListWidgetItem(namedIcon(QStringLiteral("tutorial")),
+                                         titleOf(guides.filePath(name)), m_list);
         item->setData(Qt::UserRole, QUrl(QStringLiteral("qrc:/tutorials/") + name));
     }
     m_list->setCurrentRow(0);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "Language.h"
+#include "Look.h"
 #include "MainWindow.h"
 #include "Settings.h"
 
@@ -32,6 +33,7 @@ int main(int argc, char *argv[])
     format.setOption(QSurfaceFormat::ResetNotification);
     QSurfaceFormat::setDefaultFormat(format);
 
+    showChosenLook();
     MainWindow window;
     window.show();
     // The desktop hands over files to open; there are no options.

@@ -4,6 +4,7 @@
 
 #include "AnimCommands.h"
 #include "ChangeSizeDialog.h"
+#include "Icons.h"
 #include "KVTreeView.h"
 #include "RecordItem.h"
 #include "RecordTable.h"
@@ -16,11 +17,6 @@
 #include <algorithm>
 
 namespace {
-QIcon icon(const char *name)
-{
-    return QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(name)));
-}
-
 void setExpandedBelow(QTreeWidgetItem *item, bool expanded)
 {
     for (int i = 0; i < item->childCount(); ++i)
@@ -156,7 +152,7 @@ StructureActions::TreeMenu StructureActions::createMenu(Document &document, KVTr
         if (first == offers().end())
             continue;
         const auto &[iconName, keys] = looks[verb];
-        QAction *action = made.menu->addAction(icon(iconName), tr(first->text));
+        QAction *action = made.menu->addAction(namedIcon(QLatin1String(iconName)), tr(first->text));
         action->setShortcut(keys);
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         tree->addAction(action);
@@ -169,7 +165,7 @@ StructureActions::TreeMenu StructureActions::createMenu(Document &document, KVTr
 
     made.menu->addSeparator();
     const auto addBranchAction = [&made, tree](const char *iconName, const QString &text, bool expanded) {
-        QAction *action = made.menu->addAction(icon(iconName), text);
+        QAction *action = made.menu->addAction(namedIcon(QLatin1String(iconName)), text);
         QObject::connect(action, &QAction::triggered, tree, [tree, expanded] {
             tree->setUpdatesEnabled(false);
             if (QTreeWidgetItem *item = tree->currentItem())
@@ -185,9 +181,9 @@ StructureActions::TreeMenu StructureActions::createMenu(Document &document, KVTr
     // belong to the pair that follows the current document.
     made.menu->addSeparator();
     QAction *undo = document.undoStack()->createUndoAction(made.menu, tr("Undo"));
-    undo->setIcon(icon("undo"));
+    undo->setIcon(namedIcon(QStringLiteral("undo")));
     QAction *redo = document.undoStack()->createRedoAction(made.menu, tr("Redo"));
-    redo->setIcon(QIcon(QStringLiteral(":Images/Icons/redo.png")));
+    redo->setIcon(fileIcon(QStringLiteral(":Images/Icons/redo.png")));
     for (QAction *action : {undo, redo}) {
         action->setShortcuts(QKeySequence::UnknownKey);
         action->setShortcutContext(Qt::ApplicationShortcut);

@@ -10,6 +10,7 @@
 CommunityTab::CommunityTab(QWidget *parent)
     : PageBrowser(parent)
 {
+    setAccessibleName(tr("Community"));
     QFile file(QStringLiteral(":/community/links.json"));
     QJsonArray groups;
     if (file.open(QIODevice::ReadOnly))

@@ -108,11 +108,13 @@ DatabaseTab::Page DatabaseTab::createPage(ReferenceKind kind)
 
     page.filter->setObjectName(named("txtDB%1Filter"));
     page.filter->setPlaceholderText(tr("Filter by id or name"));
+    page.filter->setAccessibleName(tr("Filter"));
     page.filter->setClearButtonEnabled(true);
     page.filter->addAction(namedIcon(QStringLiteral("search")), QLineEdit::LeadingPosition);
     page.count->setObjectName(named("lblDB%1Count"));
 
     page.table->setObjectName(named("tableDB%1"));
+    page.table->setAccessibleName(QCoreApplication::translate("DatabaseTab", caption.title));
     page.table->setHorizontalHeaderLabels({tr("ID"), tr("Name")});
     page.table->horizontalHeader()->setStretchLastSection(true);
     page.table->horizontalHeaderItem(1)->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);

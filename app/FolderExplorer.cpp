@@ -174,7 +174,8 @@ void FolderExplorer::createActions()
 
 void FolderExplorer::createEmptyPage()
 {
-    auto *button = new QPushButton(m_changeFolder->icon(), m_changeFolder->text());
+    // Several explorers are in sight, so none has a letter.
+    auto *button = new QPushButton(m_changeFolder->icon(), m_changeFolder->text().remove(QLatin1Char('&')));
     button->setObjectName(
         QStringLiteral("btn%1ChangeFolder").arg(QLatin1String(namesOf(m_kind.type).prefix)));
     button->setToolTip(m_changeFolder->toolTip());

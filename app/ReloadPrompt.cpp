@@ -25,8 +25,8 @@ ReloadPrompt::ReloadPrompt(DocumentFiles &files, QBoxLayout *place, QWidget *win
         auto *made = new NoticeBar(namedIcon(QStringLiteral("info")),
                                    QStringLiteral("barReload_%1").arg(kind.extension));
         bar(type) = {made,
-                     made->addButton(tr("Re&load"), QStringLiteral("btnReload"), tr("Open the file anew")),
-                     made->addButton(tr("&Keep"), QStringLiteral("btnKeep"),
+                     made->addButton(tr("Reload"), QStringLiteral("btnReload"), tr("Open the file anew")),
+                     made->addButton(tr("Keep"), QStringLiteral("btnKeep"),
                                      tr("Go on with what is open; saving replaces the file"))};
         place->insertWidget(row++, made);
         connect(bar(type).reload, &QPushButton::clicked, this, [this, type] { reload(type); });

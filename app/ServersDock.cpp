@@ -17,10 +17,11 @@
 #include <QVBoxLayout>
 
 namespace {
-/// A push button for what the action does; its text and look are the action's.
+/// A push button for what the action does; its text and look are the action's. It is in sight with every
+/// page, so it leaves the letters to those.
 QPushButton *buttonFor(QAction *action, const char *name, QWidget *parent)
 {
-    auto *button = new QPushButton(action->icon(), action->text(), parent);
+    auto *button = new QPushButton(action->icon(), action->text().remove(QLatin1Char('&')), parent);
     button->setObjectName(QLatin1String(name));
     button->setToolTip(action->toolTip());
     QObject::connect(button, &QPushButton::clicked, action, &QAction::trigger);

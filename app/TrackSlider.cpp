@@ -120,8 +120,9 @@ void TrackSlider::paintEvent(QPaintEvent *event)
 {
     QSlider::paintEvent(event);
     QPainter painter(this);
-    const QColor color =
-        palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::Highlight);
+    // The colour of links stands out from the window, as that of a selection need not.
+    const QColor color = isEnabled() ? palette().color(QPalette::Link)
+                                     : palette().color(QPalette::Disabled, QPalette::WindowText);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(color);

@@ -33,6 +33,7 @@ TutorialsTab::TutorialsTab(QWidget *parent)
     m_list->setWordWrap(true);
     m_list->setSpacing(2);
     m_page->setObjectName(QStringLiteral("txtTutorial"));
+    m_page->setAccessibleName(tr("Tutorial"));
     setStretchFactor(1, 1);
     setSizes({260, 1000});
 

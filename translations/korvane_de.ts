@@ -51,15 +51,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Event Type</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>What happens</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Frame</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -228,6 +220,14 @@ Which means head shots will take 640 damage.</source>
         <source>Key Frame Action Position To Bone</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Event T&amp;ype</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F&amp;rame</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AnimBlockPage</name>
@@ -260,10 +260,6 @@ Which means head shots will take 640 damage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Frame Scale</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Scale of the animation&apos;s frames in the game; the view does not use it</source>
         <translation type="unfinished"></translation>
     </message>
@@ -272,15 +268,7 @@ Which means head shots will take 640 damage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Blend L&amp;ength</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Frames over which the game blends into this animation</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Blend S&amp;tart</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -359,6 +347,18 @@ Which means head shots will take 640 damage.</source>
         <source>%1 s</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>F&amp;rame Scale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blend Len&amp;gth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Blend Start</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AnimFilePage</name>
@@ -434,10 +434,6 @@ Which means head shots will take 640 damage.</source>
     </message>
     <message>
         <source>The bone of the open mesh that this entry moves</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Translation</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -554,6 +550,10 @@ Which means head shots will take 640 damage.</source>
     </message>
     <message>
         <source>%1° about %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trans&amp;lation</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -746,10 +746,6 @@ Which means head shots will take 640 damage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Translation</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Position of the bone on this frame relative to its parent, in game units</source>
         <translation type="unfinished"></translation>
     </message>
@@ -783,6 +779,41 @@ Which means head shots will take 640 damage.</source>
     </message>
     <message>
         <source>Animation Translation %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trans&amp;lation</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AppearanceBox</name>
+    <message>
+        <source>Appearance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Korvane speaks it when it is started the next time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The colors of all windows; the desktop&apos;s change with the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The language of menus, pages and messages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Look:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>La&amp;nguage:</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -991,6 +1022,10 @@ Which means head shots will take 640 damage.</source>
         <source>Trees</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Keys and mouse gestures</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>CrashReportDialog</name>
@@ -1109,6 +1144,10 @@ Which means head shots will take 640 damage.</source>
     </message>
     <message>
         <source>Loaded the tables again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1809,14 +1848,6 @@ away from the viewer</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Import!</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Cancel</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1935,6 +1966,10 @@ away from the viewer</source>
     </message>
     <message>
         <source>Turok 2 Folder + Texture Folder &apos;%1&apos; doesn&apos;t exist.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Import!</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2130,6 +2165,49 @@ Everything else works on.</source>
     </message>
 </context>
 <context>
+    <name>Look</name>
+    <message>
+        <source>Desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use the colors of the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show dark text on light windows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show light text on dark windows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>D&amp;ark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loo&amp;k</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Korvane</source>
@@ -2309,10 +2387,6 @@ Everything else works on.</source>
     </message>
     <message>
         <source>Ctrl+Alt+S</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Recover…</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2598,6 +2672,18 @@ Everything else works on.</source>
     </message>
     <message>
         <source>No dice!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>View of the skinned mesh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>View of the static mesh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reco&amp;ver…</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3578,15 +3664,7 @@ Hands and Feet(x0.25): %6</source>
 <context>
     <name>RecoveryPrompt</name>
     <message>
-        <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Open the newest of each kind as a modified document</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show &amp;All…</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3594,15 +3672,7 @@ Hands and Feet(x0.25): %6</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Discard</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Delete this kept work; files are not touched</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show Re&amp;port</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3629,6 +3699,22 @@ Hands and Feet(x0.25): %6</source>
         <source>%1 and %2 more</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show All…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show Report</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ReferenceTable</name>
@@ -3640,15 +3726,7 @@ Hands and Feet(x0.25): %6</source>
 <context>
     <name>ReloadPrompt</name>
     <message>
-        <source>Re&amp;load</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Open the file anew</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Keep</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3673,15 +3751,19 @@ File &gt; Recover… keeps a copy of them.</source>
         <source>Unsaved changes</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Reload</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>RotateDialog</name>
     <message>
         <source>Rotate</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Yaw</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3705,15 +3787,7 @@ File &gt; Recover… keeps a copy of them.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Pitch</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Degrees about the model&apos;s x axis</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Roll</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3721,11 +3795,47 @@ File &gt; Recover… keeps a copy of them.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Apply</source>
+        <source>&amp;Yaw</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Close</source>
+        <source>Yaw: -90 degrees</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Yaw: +90 degrees</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Pitch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pitch: -90 degrees</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pitch: +90 degrees</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Roll</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll: -90 degrees</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll: +90 degrees</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3740,11 +3850,15 @@ File &gt; Recover… keeps a copy of them.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Close</source>
+        <source>&amp;Scale</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Apply</source>
+        <source>&amp;Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3999,10 +4113,6 @@ File &gt; Recover… keeps a copy of them.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Type</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The part of the body that the bone belongs to</source>
         <translation type="unfinished"></translation>
     </message>
@@ -4154,6 +4264,10 @@ File &gt; Recover… keeps a copy of them.</source>
         <source>Bone Bounding Box Max %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>T&amp;ype</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>SkinnedMeshPage</name>
@@ -4246,15 +4360,7 @@ File &gt; Recover… keeps a copy of them.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;End Bone</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Last bone that turns when the character looks at something</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Factor</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4263,6 +4369,14 @@ File &gt; Recover… keeps a copy of them.</source>
     </message>
     <message>
         <source>Skinned Mesh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>En&amp;d Bone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fa&amp;ctor</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4571,6 +4685,10 @@ File &gt; Recover… keeps a copy of them.</source>
     <name>TutorialsTab</name>
     <message>
         <source>Tutorials</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tutorial</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -62,6 +62,7 @@ KVTreeView::KVTreeView(QWidget *parent)
 void KVTreeView::setDocument(Document *document)
 {
     m_document = document;
+    setAccessibleName(document->kind().label);
     connect(document, &Document::replaced, this, &KVTreeView::rebuild);
     connect(document, &Document::recordsChanged, this, &KVTreeView::onRecordsChanged);
     connect(document, &Document::structuresChanged, this, &KVTreeView::onStructuresChanged);

@@ -10,8 +10,6 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPixmapCache>
-#include <QStyle>
-#include <QStyleOption>
 
 #include <algorithm>
 
@@ -20,6 +18,7 @@ constexpr int Side = 24; ///< of the files, at the ratio 1
 constexpr int Ratios = 3;
 /// The part of the way to white that lines go on dark windows.
 constexpr double Lightened = 0.35;
+constexpr double DisabledOpacity = 0.4;
 
 /// The way to white, with its transparency kept.
 void lighten(QImage &image)
@@ -40,6 +39,17 @@ void paintIn(QImage &image, const QColor &color)
     QPainter painter(&image);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(image.rect(), color);
+}
+
+void fade(QImage &image)
+{
+    QImage faded(image.size(), QImage::Format_ARGB32_Premultiplied);
+    faded.fill(Qt::transparent);
+    QPainter painter(&faded);
+    painter.setOpacity(DisabledOpacity);
+    painter.drawImage(0, 0, image);
+    painter.end();
+    image = faded;
 }
 
 class IconEngine : public QIconEngine
@@ -73,12 +83,9 @@ public:
             paintIn(image, chosen);
         else if (isDark(palette))
             lighten(image);
+        if (mode == QIcon::Disabled)
+            fade(image);
         made = QPixmap::fromImage(image);
-        if (mode == QIcon::Disabled) {
-            QStyleOption option;
-            option.palette = palette;
-            made = QApplication::style()->generatedIconPixmap(mode, made, &option);
-        }
         QPixmapCache::insert(key, made);
         return made;
     }
@@ -99,8 +106,10 @@ private:
     QImage drawing(int side) const
     {
         const auto file = [this](int ratio) {
-            return QImage(m_base +
-                          (ratio == 1 ? QStringLiteral(".png") : QStringLiteral("@%1x.png").arg(ratio)));
+            QImage image(m_base +
+                         (ratio == 1 ? QStringLiteral(".png") : QStringLiteral("@%1x.png").arg(ratio)));
+            image.setDevicePixelRatio(1.0);
+            return image;
         };
         for (int ratio = 1; ratio <= Ratios; ++ratio) {
             if (side == ratio * Side)

@@ -5,7 +5,6 @@
 #include "Icons.h"
 
 #include <QApplication>
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
@@ -22,6 +21,7 @@ NoticeBar::NoticeBar(const QIcon &icon, const QString &objectName, QWidget *pare
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     takeColors();
+    connect(qApp, &QGuiApplication::paletteChanged, this, &NoticeBar::takeColors);
 
     auto *picture = new IconLabel(icon, style()->pixelMetric(QStyle::PM_SmallIconSize));
     m_text->setObjectName(QStringLiteral("lblNotice"));
@@ -44,13 +44,6 @@ void NoticeBar::takeColors()
     setPalette(colors);
     for (QPushButton *button : findChildren<QPushButton *>())
         button->setPalette(theirs);
-}
-
-void NoticeBar::changeEvent(QEvent *event)
-{
-    QFrame::changeEvent(event);
-    if (event->type() == QEvent::ApplicationPaletteChange)
-        takeColors();
 }
 
 QPushButton *NoticeBar::addButton(const QString &text, const QString &objectName, const QString &toolTip)

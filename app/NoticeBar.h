@@ -24,9 +24,6 @@ public:
     void tell(const QString &text);
     QString text() const;
 
-protected:
-    void changeEvent(QEvent *event) override;
-
 private:
     void takeColors();
 

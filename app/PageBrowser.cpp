@@ -4,7 +4,7 @@
 
 #include "WebLink.h"
 
-#include <QEvent>
+#include <QApplication>
 #include <QScrollBar>
 #include <QTextFrame>
 
@@ -25,6 +25,8 @@ PageBrowser::PageBrowser(QWidget *parent)
         "h1 { margin-top: 12px; margin-bottom: 8px; } h2 { margin-top: 20px; margin-bottom: 4px; }"
         "p { margin-top: 6px; margin-bottom: 8px; line-height: 130%; } .picture { line-height: 100%; }"
         "li { margin-bottom: 4px; line-height: 130%; }"));
+    // Links take their colour when a page is read.
+    connect(qApp, &QGuiApplication::paletteChanged, this, &PageBrowser::readAgain);
     connect(this, &QTextBrowser::anchorClicked, this, &PageBrowser::follow);
     connect(this, &QTextBrowser::textChanged, this, &PageBrowser::layOutColumn);
 }
@@ -35,12 +37,8 @@ void PageBrowser::resizeEvent(QResizeEvent *event)
     QTextBrowser::resizeEvent(event);
 }
 
-void PageBrowser::changeEvent(QEvent *event)
+void PageBrowser::readAgain()
 {
-    QTextBrowser::changeEvent(event);
-    // Links took their colour when the page was read.
-    if (event->type() != QEvent::ApplicationPaletteChange)
-        return;
     const int scrolled = verticalScrollBar()->value();
     reload();
     layOutColumn();

@@ -14,10 +14,10 @@ public:
     explicit PageBrowser(QWidget *parent = nullptr);
 
 protected:
-    void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
     void follow(const QUrl &link);
     void layOutColumn();
+    void readAgain();
 };

@@ -38,6 +38,8 @@ AppearanceBox::AppearanceBox(QWidget *parent)
     rows->addRow(QString(), m_hint);
     for (QComboBox *box : {m_look, m_language})
         box->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    m_look->setMinimumWidth(m_language->sizeHint().width());
+    m_language->setMinimumWidth(m_look->sizeHint().width());
     connect(m_language, qOverload<int>(&QComboBox::currentIndexChanged), this, &AppearanceBox::updateHint);
     updateHint();
 }

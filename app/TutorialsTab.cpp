@@ -3,6 +3,7 @@
 #include "TutorialsTab.h"
 
 #include "Icons.h"
+#include "Language.h"
 #include "PageBrowser.h"
 
 #include <QDir>
@@ -53,11 +54,12 @@ TutorialsTab::TutorialsTab(QWidget *parent)
 void TutorialsTab::fill()
 {
     // Their names begin with their places in the list.
-    const QDir guides(QStringLiteral(":/tutorials"));
+    QDir guides(QStringLiteral(":/tutorials"));
+    guides.cd(Language::installed()); // where it has some of its own
     for (const QString &name : guides.entryList({QStringLiteral("*.html")}, QDir::Files, QDir::Name)) {
         auto *item = new QListWidgetItem(namedIcon(QStringLiteral("tutorial")),
                                          titleOf(guides.filePath(name)), m_list);
-        item->setData(Qt::UserRole, QUrl(QStringLiteral("qrc:/tutorials/") + name));
+        item->setData(Qt::UserRole, QUrl(QStringLiteral("qrc") + guides.filePath(name)));
     }
     m_list->setCurrentRow(0);
 }

@@ -97,7 +97,7 @@ void tst_Reading::guidesAreWhole()
         list->setCurrentRow(row);
         titles.append(list->item(row)->text());
         QVERIFY(page->toPlainText().startsWith(titles.last()));
-        for (const ushort taken : {0xc3, 0xe2}) // UTF-8 taken for Latin-1
+        for (const char16_t taken : {u'\u00c3', u'\u00e2'}) // UTF-8 taken for Latin-1
             QVERIFY(!page->toPlainText().contains(QChar(taken)));
         const Page found(page->document());
         for (const QString &link : found.links)

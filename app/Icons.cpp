@@ -69,7 +69,7 @@ public:
         if (side <= 0)
             return {};
         const QPalette palette = QApplication::palette();
-        const QColor chosen = palette.color(QPalette::HighlightedText);
+        const QColor &chosen = palette.color(QPalette::HighlightedText);
         const QString key = QStringLiteral("korvane %1 %2 %3 %4 %5")
                                 .arg(m_base, QString::number(side), QString::number(mode),
                                      palette.color(QPalette::Window).name(), chosen.name());

@@ -11,7 +11,7 @@
 #include <memory>
 
 namespace {
-constexpr QLatin1String English("en");
+const QString English = QStringLiteral("en");
 
 QString &installedCode()
 {

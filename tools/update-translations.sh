@@ -8,7 +8,10 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 folder=$(realpath -- "$1")
-lupdate=$(command -v /usr/lib/qt5/bin/lupdate || command -v lupdate-qt5 || command -v lupdate)
+lupdate=$(command -v /usr/lib/qt5/bin/lupdate || command -v lupdate-qt5 || command -v lupdate) || {
+    echo "lupdate is missing (package qttools5-dev-tools)"
+    exit 1
+}
 # The command line tool speaks English.
 rooms=(app core import model net render undo)
 said=$("$lupdate" -silent -locations none -no-obsolete -no-ui-lines "${rooms[@]}" -ts "$folder"/*.ts 2>&1 |

@@ -4,6 +4,7 @@
 
 #include "AnimFile.h"
 #include "FrameChoice.h"
+#include "Icons.h"
 #include "Playback.h"
 #include "ReferenceTable.h"
 #include "Settings.h"
@@ -46,9 +47,7 @@ AnimTrackFrame::AnimTrackFrame(QWidget *parent)
         {m_ui.btnAnimTrackStepForward, "stepforward", Qt::Key_Period, [this] { step(1); }},
         {m_ui.btnAnimTrackMarkForward, "markforward", Qt::Key_BracketRight, [this] { stepToMark(1); }}};
     for (const auto &each : deeds) {
-        auto *action =
-            new QAction(QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(each.icon))),
-                        each.button->text(), this);
+        auto *action = new QAction(namedIcon(QLatin1String(each.icon)), each.button->text(), this);
         action->setToolTip(each.button->toolTip());
         action->setCheckable(each.button->isCheckable());
         addTrackAction(action, each.button->objectName().mid(int(qstrlen("btn"))), each.key);

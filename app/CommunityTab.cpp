@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "CommunityTab.h"
 
+#include "Language.h"
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -10,22 +12,31 @@
 CommunityTab::CommunityTab(QWidget *parent)
     : PageBrowser(parent)
 {
+    setAccessibleName(tr("Community"));
     QFile file(QStringLiteral(":/community/links.json"));
     QJsonArray groups;
     if (file.open(QIODevice::ReadOnly))
         groups = QJsonDocument::fromJson(file.readAll()).array();
 
-    QString page = QStringLiteral("<h1>%1</h1>").arg(tr("Community"));
+    // Texts in other languages stand beside the English ones: "about_de".
+    const auto textOf = [](const QJsonValue &value, const QString &key) {
+        const QString own = value[key + QLatin1Char('_') + Language::installed()].toString();
+        return (own.isEmpty() ? value[key].toString() : own).toHtmlEscaped();
+    };
+    m_html = QStringLiteral("<h1>%1</h1>").arg(tr("Community"));
     for (const QJsonValue &group : qAsConst(groups)) {
-        page += QStringLiteral("<h2>%1</h2>").arg(group[QLatin1String("title")].toString().toHtmlEscaped());
+        m_html += QStringLiteral("<h2>%1</h2>").arg(textOf(group, QStringLiteral("title")));
         const QJsonArray links = group[QLatin1String("links")].toArray();
         for (const QJsonValue &link : links) {
-            const auto text = [&link](const char *key) {
-                return link[QLatin1String(key)].toString().toHtmlEscaped();
-            };
-            page += QStringLiteral("<p><a href=\"%1\"><b>%2</b></a><br>%3<br><small>%1</small></p>")
-                        .arg(text("address"), text("name"), text("about"));
+            const auto text = [&](const char *key) { return textOf(link, QLatin1String(key)); };
+            m_html += QStringLiteral("<p><a href=\"%1\"><b>%2</b></a><br>%3<br><small>%1</small></p>")
+                          .arg(text("address"), text("name"), text("about"));
         }
     }
-    setHtml(page);
+    setHtml(m_html);
+}
+
+void CommunityTab::reload()
+{
+    setHtml(m_html);
 }

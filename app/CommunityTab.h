@@ -11,4 +11,9 @@ class CommunityTab : public PageBrowser
 
 public:
     explicit CommunityTab(QWidget *parent = nullptr);
+
+    void reload() override;
+
+private:
+    QString m_html;
 };

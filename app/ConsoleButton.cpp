@@ -3,6 +3,7 @@
 #include "ConsoleButton.h"
 
 #include "ConsoleLog.h"
+#include "Icons.h"
 
 #include <QDockWidget>
 
@@ -27,7 +28,7 @@ void ConsoleButton::showCounts()
     const int errors = m_log.errorCount();
     const int warnings = m_log.warningCount();
     const char *icon = errors > 0 ? "error" : warnings > 0 ? "warning" : "console";
-    setIcon(QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(icon))));
+    setIcon(namedIcon(QLatin1String(icon)));
     setText(errors + warnings == 0
                 ? tr("Console")
                 : tr("Errors: %1, warnings: %2").arg(QString::number(errors), QString::number(warnings)));

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ConsoleLog.h"
 
+#include "Icons.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -66,11 +68,10 @@ LogSeverity ConsoleWidgetItem::severity() const
 ConsoleLog::ConsoleLog(QListWidget *list, QObject *parent)
     : QObject(parent)
     , m_list(list)
-    , m_copyAction(new QAction(QIcon(QStringLiteral(":/Images/Icons/copy.png")), tr("&Copy"), list))
+    , m_copyAction(new QAction(namedIcon(QStringLiteral("copy")), tr("&Copy"), list))
     , m_delegate(new RowDelegate(list))
-    , m_icons{QIcon(QStringLiteral(":/Images/Icons/error.png")),
-              QIcon(QStringLiteral(":/Images/Icons/warning.png")),
-              QIcon(QStringLiteral(":/Images/Icons/info.png"))}
+    , m_icons{namedIcon(QStringLiteral("error")), namedIcon(QStringLiteral("warning")),
+              namedIcon(QStringLiteral("info"))}
 {
     m_list->setItemDelegate(m_delegate);
     m_list->setUniformItemSizes(true);

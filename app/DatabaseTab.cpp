@@ -3,6 +3,7 @@
 #include "DatabaseTab.h"
 
 #include "DatabaseTables.h"
+#include "Icons.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -38,11 +39,6 @@ const Caption captions[] = {{"Actors", QT_TRANSLATE_NOOP("DatabaseTab", "Actors"
                             {"Particles", QT_TRANSLATE_NOOP("DatabaseTab", "Particles")},
                             {"Impacts", QT_TRANSLATE_NOOP("DatabaseTab", "Impacts")}};
 
-QIcon icon(const char *name)
-{
-    return QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(name)));
-}
-
 /// "10: Ambient Explosion 1"; a name begins with its blank.
 QString rowText(const QTableWidget *table, int row)
 {
@@ -58,7 +54,7 @@ DatabaseTab::DatabaseTab(QWidget *parent)
     m_tabs->setDocumentMode(true);
 
     const auto button = [this](const char *name, const QString &text, const char *iconName) {
-        auto *made = new QPushButton(icon(iconName), text, this);
+        auto *made = new QPushButton(namedIcon(QLatin1String(iconName)), text, this);
         made->setObjectName(QLatin1String(name));
         return made;
     };
@@ -112,11 +108,13 @@ DatabaseTab::Page DatabaseTab::createPage(ReferenceKind kind)
 
     page.filter->setObjectName(named("txtDB%1Filter"));
     page.filter->setPlaceholderText(tr("Filter by id or name"));
+    page.filter->setAccessibleName(tr("Filter"));
     page.filter->setClearButtonEnabled(true);
-    page.filter->addAction(icon("search"), QLineEdit::LeadingPosition);
+    page.filter->addAction(namedIcon(QStringLiteral("search")), QLineEdit::LeadingPosition);
     page.count->setObjectName(named("lblDB%1Count"));
 
     page.table->setObjectName(named("tableDB%1"));
+    page.table->setAccessibleName(QCoreApplication::translate("DatabaseTab", caption.title));
     page.table->setHorizontalHeaderLabels({tr("ID"), tr("Name")});
     page.table->horizontalHeader()->setStretchLastSection(true);
     page.table->horizontalHeaderItem(1)->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);

@@ -201,7 +201,7 @@ bool StaticMeshDocument::readModel(const QString &path, QString *reason)
         return true;
     // Without a surface there is nothing to show, and nothing that could be saved.
     if (m_fresh.surfaces.empty())
-        *reason = tr("The model has no surfaces.");
+        *reason = Document::tr("The model has no surfaces.");
     return m_fresh.surfaces.empty();
 }
 

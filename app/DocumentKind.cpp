@@ -5,22 +5,29 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+namespace {
+struct Names
+{
+    Q_DECLARE_TR_FUNCTIONS(DocumentKind)
+};
+} // namespace
+
 const std::array<DocumentKind, 3> &documentKinds()
 {
-    const auto tr = [](const char *text) { return QCoreApplication::translate("DocumentKind", text); };
     static const std::array<DocumentKind, 3> kinds{{
-        {DocumentType::SkinnedMesh, tr("Skinned Mesh"), tr("Open Skinned Mesh"), tr("Save Skinned Mesh"),
-         tr("Skinned Mesh (*.skinnedmesh)"), QStringLiteral("skinnedmesh"), tr("Skinned Mesh Folder"),
-         Settings::SkinnedMeshLoadPath, Settings::SkinnedMeshSavePath, Settings::SkinnedMeshExplorePath,
-         Settings::SkinnedMeshQuickSelect, Settings::SkinnedMeshRecentFiles},
-        {DocumentType::Anim, tr("Animation"), tr("Open Animation"), tr("Save Animation"),
-         tr("Animation (*.anim)"), QStringLiteral("anim"), tr("Animation Folder"),
+        {DocumentType::SkinnedMesh, Names::tr("Skinned Mesh"), Names::tr("Open Skinned Mesh"),
+         Names::tr("Save Skinned Mesh"), Names::tr("Skinned Mesh (*.skinnedmesh)"),
+         QStringLiteral("skinnedmesh"), Names::tr("Skinned Mesh Folder"), Settings::SkinnedMeshLoadPath,
+         Settings::SkinnedMeshSavePath, Settings::SkinnedMeshExplorePath, Settings::SkinnedMeshQuickSelect,
+         Settings::SkinnedMeshRecentFiles},
+        {DocumentType::Anim, Names::tr("Animation"), Names::tr("Open Animation"), Names::tr("Save Animation"),
+         Names::tr("Animation (*.anim)"), QStringLiteral("anim"), Names::tr("Animation Folder"),
          Settings::AnimationLoadPath, Settings::AnimationSavePath, Settings::AnimationExplorePath,
          Settings::AnimationQuickSelect, Settings::AnimationRecentFiles},
-        {DocumentType::StaticMesh, tr("Static Mesh"), tr("Open Static Mesh"), tr("Save Static Mesh"),
-         tr("Static Mesh (*.staticmesh)"), QStringLiteral("staticmesh"), tr("Static Mesh Folder"),
-         Settings::StaticMeshLoadPath, Settings::StaticMeshSavePath, Settings::StaticMeshExplorePath,
-         Settings::StaticMeshQuickSelect, Settings::StaticMeshRecentFiles},
+        {DocumentType::StaticMesh, Names::tr("Static Mesh"), Names::tr("Open Static Mesh"),
+         Names::tr("Save Static Mesh"), Names::tr("Static Mesh (*.staticmesh)"), QStringLiteral("staticmesh"),
+         Names::tr("Static Mesh Folder"), Settings::StaticMeshLoadPath, Settings::StaticMeshSavePath,
+         Settings::StaticMeshExplorePath, Settings::StaticMeshQuickSelect, Settings::StaticMeshRecentFiles},
     }};
     return kinds;
 }

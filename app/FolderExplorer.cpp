@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "FolderExplorer.h"
 
-#include "ListIcon.h"
+#include "Icons.h"
 #include "Shortcuts.h"
 
 #include <QApplication>
@@ -41,11 +41,6 @@ const KindNames &namesOf(DocumentType type)
     return names[size_t(type)];
 }
 
-QIcon icon(const char *name)
-{
-    return QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(name)));
-}
-
 template <typename Visit>
 void forEachFile(QTreeWidget *tree, Visit visit)
 {
@@ -81,8 +76,8 @@ bool hasFewerRowsThan(QTreeWidget *tree, int limit)
 FolderExplorer::FolderExplorer(const DocumentKind &kind, QWidget *parent)
     : QWidget(parent)
     , m_kind(kind)
-    , m_icons{listIcon(QStringLiteral("folder")), listIcon(QStringLiteral("folderopen")),
-              listIcon(QLatin1String(namesOf(kind.type).icon))}
+    , m_icons{namedIcon(QStringLiteral("folder")), namedIcon(QStringLiteral("folderopen")),
+              namedIcon(QLatin1String(namesOf(kind.type).icon))}
     , m_tree(new QTreeWidget)
     , m_toolBar(new QToolBar)
     , m_pages(new QStackedLayout)
@@ -139,7 +134,7 @@ FolderExplorer::~FolderExplorer()
 QAction *FolderExplorer::addAction(const char *name, const char *iconName, const QString &text,
                                    const QString &toolTip)
 {
-    auto *action = new QAction(icon(iconName), text, this);
+    auto *action = new QAction(namedIcon(QLatin1String(iconName)), text, this);
     action->setObjectName(
         QStringLiteral("action%1%2").arg(QLatin1String(namesOf(m_kind.type).prefix), QLatin1String(name)));
     action->setToolTip(toolTip);
@@ -181,7 +176,8 @@ void FolderExplorer::createActions()
 
 void FolderExplorer::createEmptyPage()
 {
-    auto *button = new QPushButton(m_changeFolder->icon(), m_changeFolder->text());
+    // Several explorers are in sight, so none has a letter.
+    auto *button = new QPushButton(m_changeFolder->icon(), m_changeFolder->text().remove(QLatin1Char('&')));
     button->setObjectName(
         QStringLiteral("btn%1ChangeFolder").arg(QLatin1String(namesOf(m_kind.type).prefix)));
     button->setToolTip(m_changeFolder->toolTip());

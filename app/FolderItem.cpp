@@ -107,7 +107,7 @@ QVariant FolderItem::data(int column, int role) const
         }
         return {};
     case Qt::ForegroundRole:
-        return m_barren ? QApplication::palette().brush(QPalette::Disabled, QPalette::Text) : QVariant();
+        return m_barren ? QApplication::palette().brush(QPalette::PlaceholderText) : QVariant();
     case FilePathRole:
         return m_folder ? QString() : m_path;
     default:

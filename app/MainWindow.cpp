@@ -12,8 +12,10 @@
 #include "FilterLine.h"
 #include "FolderExplorer.h"
 #include "HistoryView.h"
+#include "Icons.h"
 #include "ImportExport.h"
 #include "ImportFilter.h"
+#include "LookMenu.h"
 #include "ModelTransforms.h"
 #include "PictureSaver.h"
 #include "Playback.h"
@@ -62,6 +64,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_pictures(new PictureSaver(this))
 {
     m_ui->setupUi(this);
+    setNamedIcons(*this);
     createConsole();
     createPanes();
     createProblems();
@@ -71,6 +74,7 @@ MainWindow::MainWindow(QWidget *parent)
     new StructureActions({m_skinnedMesh, m_ui->treeSkinnedMesh}, {m_anim, m_ui->treeAnim},
                          {m_staticMesh, m_ui->treeStaticMesh}, this);
     new QuestionMenu(*m_ui->tabDatabase, this);
+    addLookMenu(*m_ui->menuView);
     m_ui->menuView->addSeparator();
     m_ui->menuView->addActions({m_ui->toolBarFile->toggleViewAction(), m_ui->toolBarEdit->toggleViewAction(),
                                 m_ui->dockConsole->toggleViewAction(), m_ui->dockProblems->toggleViewAction(),

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "NoticeBar.h"
 
+#include "Icons.h"
+
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
@@ -17,15 +20,10 @@ NoticeBar::NoticeBar(const QIcon &icon, const QString &objectName, QWidget *pare
     setObjectName(objectName);
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
-    // The theme's colours of a tool tip: a notice in any theme, and readable.
-    QPalette colours = palette();
-    colours.setColor(QPalette::Window, palette().color(QPalette::ToolTipBase));
-    colours.setColor(QPalette::WindowText, palette().color(QPalette::ToolTipText));
-    setPalette(colours);
+    takeColors();
+    connect(qApp, &QGuiApplication::paletteChanged, this, &NoticeBar::takeColors);
 
-    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    auto *picture = new QLabel;
-    picture->setPixmap(icon.pixmap(size, size));
+    auto *picture = new IconLabel(icon, style()->pixelMetric(QStyle::PM_SmallIconSize));
     m_text->setObjectName(QStringLiteral("lblNotice"));
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
@@ -36,12 +34,24 @@ NoticeBar::NoticeBar(const QIcon &icon, const QString &objectName, QWidget *pare
     hide();
 }
 
+void NoticeBar::takeColors()
+{
+    // The theme's colours of a tool tip: a notice in any theme, and readable. Buttons are as elsewhere.
+    const QPalette theirs = QApplication::palette();
+    QPalette colors = theirs;
+    colors.setColor(QPalette::Window, theirs.color(QPalette::ToolTipBase));
+    colors.setColor(QPalette::WindowText, theirs.color(QPalette::ToolTipText));
+    setPalette(colors);
+    for (QPushButton *button : findChildren<QPushButton *>())
+        button->setPalette(theirs);
+}
+
 QPushButton *NoticeBar::addButton(const QString &text, const QString &objectName, const QString &toolTip)
 {
     auto *button = new QPushButton(text);
     button->setObjectName(objectName);
     button->setToolTip(toolTip);
-    button->setPalette(style()->standardPalette());
+    button->setPalette(QApplication::palette());
     m_row->addWidget(button);
     return button;
 }
@@ -50,7 +60,7 @@ void NoticeBar::addCross(const QString &toolTip)
 {
     auto *cross = new QToolButton;
     cross->setObjectName(QStringLiteral("btnNoticeClose"));
-    cross->setIcon(QIcon(QStringLiteral(":/Images/Icons/close.png")));
+    cross->setIcon(namedIcon(QStringLiteral("close")));
     cross->setAutoRaise(true);
     cross->setToolTip(toolTip);
     cross->setAccessibleName(toolTip);

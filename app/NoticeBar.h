@@ -25,6 +25,8 @@ public:
     QString text() const;
 
 private:
+    void takeColors();
+
     QHBoxLayout *m_row;
     QLabel *m_text;
 };

@@ -61,6 +61,7 @@ void OptionsDialog::on_buttonBox_accepted()
     Settings::HideAnimData.setValue(m_hideAnimData);
     Settings::AnimationAutoPlay.setValue(m_animAutoPlay);
     Settings::RestoreSession.setValue(m_restoreSession);
+    m_ui->gbAppearance->store();
     if (m_shortcuts)
         m_shortcuts->store();
     accept();

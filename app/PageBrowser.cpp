@@ -4,6 +4,7 @@
 
 #include "WebLink.h"
 
+#include <QApplication>
 #include <QScrollBar>
 #include <QTextFrame>
 
@@ -24,6 +25,8 @@ PageBrowser::PageBrowser(QWidget *parent)
         "h1 { margin-top: 12px; margin-bottom: 8px; } h2 { margin-top: 20px; margin-bottom: 4px; }"
         "p { margin-top: 6px; margin-bottom: 8px; line-height: 130%; } .picture { line-height: 100%; }"
         "li { margin-bottom: 4px; line-height: 130%; }"));
+    // Links take their colour when a page is read.
+    connect(qApp, &QGuiApplication::paletteChanged, this, &PageBrowser::readAgain);
     connect(this, &QTextBrowser::anchorClicked, this, &PageBrowser::follow);
     connect(this, &QTextBrowser::textChanged, this, &PageBrowser::layOutColumn);
 }
@@ -32,6 +35,14 @@ void PageBrowser::resizeEvent(QResizeEvent *event)
 {
     layOutColumn();
     QTextBrowser::resizeEvent(event);
+}
+
+void PageBrowser::readAgain()
+{
+    const int scrolled = verticalScrollBar()->value();
+    reload();
+    layOutColumn();
+    verticalScrollBar()->setValue(scrolled);
 }
 
 void PageBrowser::follow(const QUrl &link)

@@ -19,4 +19,5 @@ protected:
 private:
     void follow(const QUrl &link);
     void layOutColumn();
+    void readAgain();
 };

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "PictureSaver.h"
 
+#include "Icons.h"
 #include "KVOpenGLWidget.h"
 #include "Log.h"
 #include "PictureDialog.h"
@@ -19,7 +20,7 @@
 PictureSaver::PictureSaver(QWidget *window)
     : QObject(window)
     , m_window(window)
-    , m_action(new QAction(QIcon(QStringLiteral(":/Images/Icons/frame.png")), tr("Save Pictur&e…"), window))
+    , m_action(new QAction(namedIcon(QStringLiteral("frame")), tr("Save Pictur&e…"), window))
 {
     m_action->setObjectName(QStringLiteral("actionSavePicture"));
     m_action->setShortcut(Qt::Key_F12);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ProblemsButton.h"
 
+#include "Icons.h"
 #include "Problems.h"
 
 #include <QDockWidget>
@@ -28,7 +29,7 @@ void ProblemsButton::showCounts()
     const qint64 notes = m_problems.count(Severity::Note);
     const qint64 all = errors + warnings + notes;
     const char *icon = errors > 0 ? "error" : warnings > 0 ? "warning" : notes > 0 ? "info" : "checkmark";
-    setIcon(QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(icon))));
+    setIcon(namedIcon(QLatin1String(icon)));
     setText(all == 0 ? tr("No problems") : tr("Problems: %1").arg(all));
     setToolTip(tr("Show what is wrong with the open files (errors: %1, warnings: %2, notes: %3)")
                    .arg(QString::number(errors), QString::number(warnings), QString::number(notes)));

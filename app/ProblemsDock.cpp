@@ -3,6 +3,7 @@
 #include "ProblemsDock.h"
 
 #include "Document.h"
+#include "Icons.h"
 #include "KVTreeView.h"
 #include "Problems.h"
 #include "ProblemsList.h"
@@ -19,11 +20,6 @@
 #include <map>
 
 namespace {
-QIcon icon(const char *name)
-{
-    return QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(name)));
-}
-
 /// A record by the labels that lead to it in its tree, groups without their counts.
 QString placeIn(const KVTreeView &tree, RecordRef record)
 {
@@ -77,7 +73,7 @@ void ProblemsDock::createFilters()
     for (size_t i = 0; i < m_filters.size(); ++i) {
         auto *button = new QToolButton(widget());
         button->setObjectName(QLatin1String(filters[i].name));
-        button->setIcon(icon(filters[i].icon));
+        button->setIcon(namedIcon(QLatin1String(filters[i].icon)));
         button->setToolTip(filters[i].tip);
         button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         button->setCheckable(true);
@@ -94,7 +90,7 @@ void ProblemsDock::createFilters()
 QAction *ProblemsDock::addAction(const char *name, const QString &text, const char *iconName,
                                  void (ProblemsDock::*slot)())
 {
-    auto *action = new QAction(icon(iconName), text, m_list);
+    auto *action = new QAction(namedIcon(QLatin1String(iconName)), text, m_list);
     action->setObjectName(QLatin1String(name));
     action->setShortcutContext(Qt::WidgetShortcut);
     connect(action, &QAction::triggered, this, slot);

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ProblemsList.h"
 
-#include "ListIcon.h"
+#include "Icons.h"
 
 #include <QHeaderView>
 #include <QPainter>
@@ -68,7 +68,7 @@ ProblemItem::ProblemItem(DocumentType type, const Finding &finding, const QStrin
 {
     const Severity severity = severityOf(finding.rule);
     setText(SeverityColumn, nameOf(severity));
-    setIcon(SeverityColumn, listIcon(QLatin1String(iconOf(severity))));
+    setIcon(SeverityColumn, namedIcon(QLatin1String(iconOf(severity))));
     setText(DocumentColumn, document);
     setText(PlaceColumn, place);
     setToolTip(PlaceColumn, place);
@@ -184,7 +184,7 @@ void ProblemsList::paintEvent(QPaintEvent *event)
     if (topLevelItemCount() > 0)
         return;
     QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
+    painter.setPen(palette().color(QPalette::PlaceholderText));
     painter.drawText(viewport()->rect().adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap,
                      m_emptyText);
 }

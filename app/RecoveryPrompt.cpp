@@ -3,6 +3,7 @@
 #include "RecoveryPrompt.h"
 
 #include "CrashReportDialog.h"
+#include "Icons.h"
 #include "NoticeBar.h"
 #include "RecoverDialog.h"
 
@@ -19,14 +20,14 @@ RecoveryPrompt::RecoveryPrompt(Recovery &recovery, QAction *recover, QBoxLayout 
     : QObject(window)
     , m_recovery(recovery)
     , m_window(window)
-    , m_bar(new NoticeBar(QIcon(QStringLiteral(":/Images/Icons/warning.png")), QStringLiteral("barRecovery")))
-    , m_restore(m_bar->addButton(tr("&Restore"), QStringLiteral("btnRestore"),
+    , m_bar(new NoticeBar(namedIcon(QStringLiteral("warning")), QStringLiteral("barRecovery")))
+    , m_restore(m_bar->addButton(tr("Restore"), QStringLiteral("btnRestore"),
                                  tr("Open the newest of each kind as a modified document")))
-    , m_showAll(m_bar->addButton(tr("Show &All…"), QStringLiteral("btnShowAll"),
+    , m_showAll(m_bar->addButton(tr("Show All…"), QStringLiteral("btnShowAll"),
                                  tr("List all kept work, to restore or delete it")))
-    , m_discard(m_bar->addButton(tr("&Discard"), QStringLiteral("btnDiscard"),
+    , m_discard(m_bar->addButton(tr("Discard"), QStringLiteral("btnDiscard"),
                                  tr("Delete this kept work; files are not touched")))
-    , m_showReport(m_bar->addButton(tr("Show Re&port"), QStringLiteral("btnShowReport"),
+    , m_showReport(m_bar->addButton(tr("Show Report"), QStringLiteral("btnShowReport"),
                                     tr("Show what was written down when Korvane ended")))
 {
     m_bar->addCross(tr("Hide; File > Recover… lists what is kept"));

@@ -3,6 +3,7 @@
 #include "ReloadPrompt.h"
 
 #include "DocumentFiles.h"
+#include "Icons.h"
 #include "NoticeBar.h"
 
 #include <QBoxLayout>
@@ -21,11 +22,11 @@ ReloadPrompt::ReloadPrompt(DocumentFiles &files, QBoxLayout *place, QWidget *win
     int row = 0;
     for (const DocumentKind &kind : documentKinds()) {
         const DocumentType type = kind.type;
-        auto *made = new NoticeBar(QIcon(QStringLiteral(":/Images/Icons/info.png")),
+        auto *made = new NoticeBar(namedIcon(QStringLiteral("info")),
                                    QStringLiteral("barReload_%1").arg(kind.extension));
         bar(type) = {made,
-                     made->addButton(tr("Re&load"), QStringLiteral("btnReload"), tr("Open the file anew")),
-                     made->addButton(tr("&Keep"), QStringLiteral("btnKeep"),
+                     made->addButton(tr("Reload"), QStringLiteral("btnReload"), tr("Open the file anew")),
+                     made->addButton(tr("Keep"), QStringLiteral("btnKeep"),
                                      tr("Go on with what is open; saving replaces the file"))};
         place->insertWidget(row++, made);
         connect(bar(type).reload, &QPushButton::clicked, this, [this, type] { reload(type); });

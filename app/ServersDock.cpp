@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ServersDock.h"
 
+#include "Icons.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -15,15 +17,11 @@
 #include <QVBoxLayout>
 
 namespace {
-QIcon icon(const char *name)
-{
-    return QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(name)));
-}
-
-/// A push button for what the action does; its text and look are the action's.
+/// A push button for what the action does; its text and look are the action's. It is in sight with every
+/// page, so it leaves the letters to those.
 QPushButton *buttonFor(QAction *action, const char *name, QWidget *parent)
 {
-    auto *button = new QPushButton(action->icon(), action->text(), parent);
+    auto *button = new QPushButton(action->icon(), action->text().remove(QLatin1Char('&')), parent);
     button->setObjectName(QLatin1String(name));
     button->setToolTip(action->toolTip());
     QObject::connect(button, &QPushButton::clicked, action, &QAction::trigger);
@@ -39,7 +37,7 @@ ServersDock::ServersDock(QWidget *parent)
     , m_query(this)
 {
     auto *contents = new QWidget(this);
-    m_icon = new QLabel(contents);
+    m_icon = new IconLabel(namedIcon(QStringLiteral("servers")), 16, contents);
     m_status = new QLabel(contents);
     m_status->setObjectName(QStringLiteral("lblServersStatus"));
     m_status->setTextFormat(Qt::PlainText);
@@ -69,7 +67,7 @@ ServersDock::ServersDock(QWidget *parent)
     m_table->setTabKeyNavigation(false);
     m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
 
-    m_copyAction = new QAction(icon("copy"), tr("&Copy Address"), m_table);
+    m_copyAction = new QAction(namedIcon(QStringLiteral("copy")), tr("&Copy Address"), m_table);
     m_copyAction->setObjectName(QStringLiteral("actionCopyAddress"));
     m_copyAction->setShortcut(QKeySequence::Copy);
     m_copyAction->setShortcutContext(Qt::WidgetShortcut);
@@ -132,7 +130,7 @@ void ServersDock::showState()
         text = count == 0 ? tr("No server is running.") : counted;
         break;
     }
-    m_icon->setPixmap(icon(iconName).pixmap(16, 16));
+    m_icon->setIcon(namedIcon(QLatin1String(iconName)));
     m_status->setText(text);
     m_progress->setVisible(m_query.state() == State::Running);
 }

@@ -6,6 +6,7 @@
 
 #include <QDockWidget>
 
+class IconLabel;
 class QLabel;
 class QProgressBar;
 class QTableWidget;
@@ -29,7 +30,7 @@ private:
     void copySelection();
 
     ServerListQuery m_query;
-    QLabel *m_icon;
+    IconLabel *m_icon;
     QLabel *m_status;
     QProgressBar *m_progress;
     QTableWidget *m_table;

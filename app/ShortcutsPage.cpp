@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ShortcutsPage.h"
 
-#include "ListIcon.h"
+#include "Icons.h"
+#include "Look.h"
 #include "ui_ShortcutsPage.h"
 
 #include <QHash>
@@ -111,8 +112,7 @@ void ShortcutsPage::fill()
 /// Shows all keys as they are now.
 void ShortcutsPage::refresh()
 {
-    const bool isDark = palette().color(QPalette::Base).lightness() < 128;
-    const QColor red = isDark ? QColor(255, 138, 128) : QColor(176, 0, 32);
+    const QColor red = warningColor(palette());
     for (int i = 0; i < m_items.size(); ++i) {
         const ShortcutCommand &command = m_shortcuts.commands()[i];
         QTreeWidgetItem *item = m_items[i];
@@ -133,7 +133,7 @@ void ShortcutsPage::refresh()
             item->setToolTip(column, tip);
             item->setForeground(column, rivals.isEmpty() ? QBrush() : QBrush(red));
         }
-        item->setIcon(KeysColumn, rivals.isEmpty() ? QIcon() : listIcon(QStringLiteral("warning")));
+        item->setIcon(KeysColumn, rivals.isEmpty() ? QIcon() : namedIcon(QStringLiteral("warning")));
     }
     QPalette colors = m_ui->lblShortcutConflict->palette();
     colors.setColor(QPalette::WindowText, red);

@@ -22,8 +22,7 @@ constexpr int Reach = 4; ///< pixels to either side of a mark that belong to it
 /// "Action 2: 00: Play Sound, Sound ID 10": the arguments that mean something or are set.
 QString textOf(int index, const AnimAction &action)
 {
-    const auto tr = [](const char *text) { return QCoreApplication::translate("TrackSlider", text); };
-    QString text = tr("Action %1: %2")
+    QString text = TrackSlider::tr("Action %1: %2")
                        .arg(index)
                        .arg(eventTypeNames().value(action.eventType, QString::number(action.eventType)));
     for (int i = 0; i < int(action.args.size()); ++i) {
@@ -31,8 +30,9 @@ QString textOf(int index, const AnimAction &action)
         const float value = action.args[size_t(i)];
         if (!label && value == 0.0f)
             continue;
-        const QString name =
-            label ? QCoreApplication::translate("EventArguments", label) : tr("Arg %1").arg(i + 1);
+        QString name = TrackSlider::tr("Arg %1").arg(i + 1);
+        if (label)
+            name = QCoreApplication::translate("EventArguments", label);
         text += QStringLiteral(", %1 %2").arg(name).arg(double(value));
     }
     return text;
@@ -120,8 +120,9 @@ void TrackSlider::paintEvent(QPaintEvent *event)
 {
     QSlider::paintEvent(event);
     QPainter painter(this);
-    const QColor color =
-        palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::Highlight);
+    // The colour of links stands out from the window, as that of a selection need not.
+    const QColor color = isEnabled() ? palette().color(QPalette::Link)
+                                     : palette().color(QPalette::Disabled, QPalette::WindowText);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(color);

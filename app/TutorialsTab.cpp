@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "TutorialsTab.h"
 
-#include "ListIcon.h"
+#include "Icons.h"
+#include "Language.h"
 #include "PageBrowser.h"
 
 #include <QDir>
@@ -33,6 +34,7 @@ TutorialsTab::TutorialsTab(QWidget *parent)
     m_list->setWordWrap(true);
     m_list->setSpacing(2);
     m_page->setObjectName(QStringLiteral("txtTutorial"));
+    m_page->setAccessibleName(tr("Tutorial"));
     setStretchFactor(1, 1);
     setSizes({260, 1000});
 
@@ -52,11 +54,12 @@ TutorialsTab::TutorialsTab(QWidget *parent)
 void TutorialsTab::fill()
 {
     // Their names begin with their places in the list.
-    const QDir guides(QStringLiteral(":/tutorials"));
+    QDir guides(QStringLiteral(":/tutorials"));
+    guides.cd(Language::installed()); // where it has some of its own
     for (const QString &name : guides.entryList({QStringLiteral("*.html")}, QDir::Files, QDir::Name)) {
-        auto *item =
-            new QListWidgetItem(listIcon(QStringLiteral("tutorial")), titleOf(guides.filePath(name)), m_list);
-        item->setData(Qt::UserRole, QUrl(QStringLiteral("qrc:/tutorials/") + name));
+        auto *item = new QListWidgetItem(namedIcon(QStringLiteral("tutorial")),
+                                         titleOf(guides.filePath(name)), m_list);
+        item->setData(Qt::UserRole, QUrl(QStringLiteral("qrc") + guides.filePath(name)));
     }
     m_list->setCurrentRow(0);
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "UndoActions.h"
 
+#include "Icons.h"
+
 #include <QAction>
 #include <QCoreApplication>
 #include <QMenu>
@@ -13,11 +15,11 @@ void addUndoActions(const QUndoGroup &group, QMenu &menu, QToolBar &toolBar)
     QObject *window = toolBar.window();
     QAction *undo = group.createUndoAction(window, QCoreApplication::translate("UndoActions", "&Undo"));
     undo->setObjectName(QStringLiteral("actionUndo"));
-    undo->setIcon(QIcon(QStringLiteral(":/Images/Icons/undo.png")));
+    undo->setIcon(namedIcon(QStringLiteral("undo")));
     undo->setShortcut(QKeySequence::Undo);
     QAction *redo = group.createRedoAction(window, QCoreApplication::translate("UndoActions", "&Redo"));
     redo->setObjectName(QStringLiteral("actionRedo"));
-    redo->setIcon(QIcon(QStringLiteral(":Images/Icons/redo.png")));
+    redo->setIcon(fileIcon(QStringLiteral(":Images/Icons/redo.png")));
     redo->setShortcuts(
         {QKeySequence(QStringLiteral("Ctrl+Shift+Z")), QKeySequence(QStringLiteral("Ctrl+Y"))});
     menu.insertActions(menu.actions().value(0), {undo, redo});

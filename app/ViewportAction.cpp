@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ViewportAction.h"
 
+#include "Icons.h"
 #include "KVOpenGLWidget.h"
 
 #include <QAction>
@@ -12,7 +13,7 @@ QAction *viewportAction(const char *name, const char *icon, const QString &text,
     auto *action = new QAction(text, parent);
     action->setObjectName(QLatin1String(name));
     if (icon)
-        action->setIcon(QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(icon))));
+        action->setIcon(namedIcon(QLatin1String(icon)));
     action->setStatusTip(tip);
     action->setToolTip(tip);
     if (!keys.isEmpty()) {

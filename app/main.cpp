@@ -1,6 +1,9 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "Language.h"
+#include "Look.h"
 #include "MainWindow.h"
+#include "Settings.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -18,6 +21,7 @@ int main(int argc, char *argv[])
     QCoreApplication::setOrganizationDomain(QStringLiteral("korvane.local"));
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/Images/Icons/korvane.png")));
     QGuiApplication::setDesktopFileName(QStringLiteral("korvane"));
+    Language::install(Language::resolve(Settings::UiLanguage.value()));
     qDebug() << QCoreApplication::libraryPaths();
     QLoggingCategory::setFilterRules(QStringLiteral("qt.network.ssl.warning=false"));
 
@@ -29,6 +33,7 @@ int main(int argc, char *argv[])
     format.setOption(QSurfaceFormat::ResetNotification);
     QSurfaceFormat::setDefaultFormat(format);
 
+    showChosenLook();
     MainWindow window;
     window.show();
     // The desktop hands over files to open; there are no options.

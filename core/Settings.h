@@ -66,6 +66,11 @@ namespace Settings {
 inline const SettingKey<QString> GamePath{"GamePath", {}};
 inline const SettingKey<QString> OutputDir{"OutputDir", {}};
 
+// How the program looks ("desktop", "light" or "dark") and speaks (a code of Language; empty: as the
+// desktop).
+inline const SettingKey<QString> Look{"Look", "desktop"};
+inline const SettingKey<QString> UiLanguage{"Language", {}};
+
 // Network services.
 inline const SettingKey<bool> Updates{"Updates", true};
 inline const SettingKey<QDateTime> UpdateDate{"UpdateDate", {}};

@@ -5,6 +5,7 @@
 #include "SkinnedMesh.h"
 #include "StaticMesh.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -20,12 +21,14 @@ bool copyTexture(const QString &source, const QString &target, ImportMessages &m
     QSaveFile to(target);
     const bool readable = QFileInfo(source).isFile() && from.open(QIODevice::ReadOnly);
     if (readable && !to.open(QIODevice::WriteOnly) && QFileInfo::exists(target)) {
-        messages.addWarning(QStringLiteral("Could not overwrite texture '%1'").arg(target));
+        messages.addWarning(
+            QCoreApplication::translate("Import", "Could not overwrite texture '%1'").arg(target));
         return true;
     }
     if (readable && to.isOpen() && to.write(from.readAll()) == from.size() && to.commit())
         return false;
-    messages.addWarning(QStringLiteral("Could not copy texture from '%1' to '%2'").arg(source, target));
+    messages.addWarning(QCoreApplication::translate("Import", "Could not copy texture from '%1' to '%2'")
+                            .arg(source, target));
     return true;
 }
 
@@ -37,8 +40,9 @@ void warnOfSharedNames(const QStringList &files, ImportMessages &messages)
         if (first.isEmpty())
             first = file;
         else
-            messages.addWarning(
-                QStringLiteral("'%1' and '%2' have one name: only one of them can be used").arg(first, file));
+            messages.addWarning(QCoreApplication::translate(
+                                    "Import", "'%1' and '%2' have one name: only one of them can be used")
+                                    .arg(first, file));
     }
 }
 
@@ -54,9 +58,9 @@ QString copyTextures(const QStringList &textures, const QString &folder, ImportM
         const QString target = folder + QLatin1Char('/') + QFileInfo(texture).fileName();
         failed = copyTexture(texture, target, messages) || failed;
     }
-    return !any     ? QStringLiteral("Model had no textures to copy\n")
-           : failed ? QStringLiteral("Failed on copying textures\n")
-                    : QStringLiteral("Successfully copied textures\n");
+    return !any     ? QCoreApplication::translate("Import", "Model had no textures to copy\n")
+           : failed ? QCoreApplication::translate("Import", "Failed on copying textures\n")
+                    : QCoreApplication::translate("Import", "Successfully copied textures\n");
 }
 
 template <typename Surfaces>
@@ -84,14 +88,15 @@ QString createKMat(const QString &path, const MaterialTable &materials, ImportMe
         // Values of a material file end at a blank.
         if (texture.contains(QLatin1Char(' ')))
             messages.addWarning(
-                QStringLiteral("Material '%1': the texture '%2' will not be found, for the blank in its path")
+                QCoreApplication::translate(
+                    "Import", "Material '%1': the texture '%2' will not be found, for the blank in its path")
                     .arg(name, texture));
     }
     const QString error = writeKMat(path, materials);
     if (error.isEmpty())
-        return QStringLiteral("Successfully created .kmat file\n");
+        return QCoreApplication::translate("Import", "Successfully created .kmat file\n");
     messages.addWarning(error);
-    return QStringLiteral("Failed on creating .kmat file\n");
+    return QCoreApplication::translate("Import", "Failed on creating .kmat file\n");
 }
 
 QString pathInside(const QString &folder, const QString &path)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ImportWorker.h"
 
+#include "Language.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QProcessEnvironment>
@@ -24,6 +26,8 @@ ImportWorker::ImportWorker(QObject *parent)
     // File names in UTF-8 and numbers with a point, whatever the desktop speaks.
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    // Its messages are shown, so they are to be in the language of the program that starts it.
+    environment.insert(QStringLiteral("KORVANE_LANGUAGE"), Language::installed());
     m_process.setProcessEnvironment(environment);
     m_process.setStandardOutputFile(QProcess::nullDevice());
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);

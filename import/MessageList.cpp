@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "MessageList.h"
 
-#include "ListIcon.h"
+#include "Icons.h"
 
 #include <QAction>
 #include <QApplication>
@@ -11,7 +11,7 @@
 MessageList::MessageList(QWidget *parent)
     : QListWidget(parent)
 {
-    auto *action = new QAction(QIcon(QStringLiteral(":/Images/Icons/copy.png")), tr("&Copy"), this);
+    auto *action = new QAction(namedIcon(QStringLiteral("copy")), tr("&Copy"), this);
     action->setShortcut(QKeySequence::Copy);
     action->setShortcutContext(Qt::WidgetShortcut);
     addAction(action);
@@ -24,7 +24,7 @@ void MessageList::setMessages(const ImportMessages &messages, std::initializer_l
     static const char *const icons[] = {"error", "warning", "info"};
     clear();
     for (const LogSeverity severity : order) {
-        const QIcon icon = listIcon(QLatin1String(icons[int(severity)]));
+        const QIcon icon = namedIcon(QLatin1String(icons[int(severity)]));
         for (const ImportMessage &line : messages.lines) {
             if (line.severity != severity)
                 continue;

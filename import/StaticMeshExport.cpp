@@ -6,6 +6,7 @@
 #include "ImportWorker.h"
 #include "MaterialFiles.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QLoggingCategory>
@@ -25,7 +26,8 @@ QString textureFile(const QString &texture, const MaterialFiles &materials, Impo
     if (found != paths.end())
         return *found;
     const QString path = paths.isEmpty() ? texture : paths.last();
-    messages.addWarning(QStringLiteral("[Static Mesh Export] Texture not found '%1'").arg(path));
+    messages.addWarning(
+        QCoreApplication::translate("Import", "[Static Mesh Export] Texture not found '%1'").arg(path));
     return path;
 }
 
@@ -46,7 +48,7 @@ WorkerJob staticMeshExport(const StaticMesh &mesh, const QString &meshPath, Mate
     const QString base = QFileInfo(meshPath).completeBaseName();
     job.objName = (base.isEmpty() ? QStringLiteral("untitled") : base) + QStringLiteral(".obj");
     if (mesh.surfaces.empty()) {
-        messages.addError(QStringLiteral("[Static Mesh Export] Mesh has no surfaces"));
+        messages.addError(QCoreApplication::translate("Import", "[Static Mesh Export] Mesh has no surfaces"));
         return job;
     }
     QStringList names;
@@ -82,8 +84,9 @@ bool placeExport(const ImportWorker &worker, const WorkerJob &job, const QString
     const QDir target(folder);
     for (const QString &name : exportedFiles(job)) {
         if (placeFile(worker.madeFile(name), target.filePath(name))) {
-            messages.addError(QStringLiteral("[Static Mesh Export] %1 Could not write file.")
-                                  .arg(QDir::toNativeSeparators(target.filePath(name))));
+            messages.addError(
+                QCoreApplication::translate("Import", "[Static Mesh Export] %1 Could not write file.")
+                    .arg(QDir::toNativeSeparators(target.filePath(name))));
             return true;
         }
     }

@@ -7,6 +7,7 @@
 #include "SkinnedMesh.h"
 #include "StaticMesh.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <vector>
@@ -35,8 +36,10 @@ struct WorkerJob
     /// The error line for a job that could not be done.
     QString failure(const QString &reason) const
     {
-        return task == Task::ExportObj ? QStringLiteral("%1 Could not write file. %2").arg(objName, reason)
-                                       : QStringLiteral("%1 Could not read file. %2").arg(modelPath, reason);
+        return task == Task::ExportObj
+                   ? QCoreApplication::translate("Import", "%1 Could not write file. %2").arg(objName, reason)
+                   : QCoreApplication::translate("Import", "%1 Could not read file. %2")
+                         .arg(modelPath, reason);
     }
 };
 

@@ -3,6 +3,7 @@
 //
 // Reads and writes foreign model files for the editor, in a process of its own: the library that does it is
 // killed by some damaged files and never returns from others.
+#include "Language.h"
 #include "ObjExport.h"
 #include "SceneImport.h"
 #include "WorkerJob.h"
@@ -85,7 +86,8 @@ void work(const WorkerJob &job, const WorkerFolder &folder, WorkerAnswer &answer
     }
     }
     if (failed)
-        messages.addError(job.failure(QStringLiteral("The model could not be handed over.")));
+        messages.addError(
+            job.failure(QCoreApplication::translate("Import", "The model could not be handed over.")));
 }
 } // namespace
 
@@ -95,6 +97,7 @@ int main(int argc, char *argv[])
     // Importers of the library read numbers as the locale writes them.
     std::setlocale(LC_NUMERIC, "C");
     const QStringList arguments = QCoreApplication::arguments();
+    Language::install(Language::resolve(qEnvironmentVariable("KORVANE_LANGUAGE", QStringLiteral("en"))));
     WorkerJob job;
     if (arguments.size() != 2 || WorkerFolder(arguments.at(1)).read(job)) {
         std::fputs("korvane-import-worker reads model files for Korvane, which starts it.\n", stderr);

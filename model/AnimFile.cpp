@@ -5,6 +5,8 @@
 #include "BinaryFileReader.h"
 #include "BinaryFileWriter.h"
 
+#include <QCoreApplication>
+
 namespace {
 // Bytes in the file.
 constexpr qint64 BlockBytes = 44;
@@ -30,7 +32,8 @@ TrackTable<Key> readTable(BinaryFileReader &reader, qint32 trackCount, qint32 fr
     if (frameCount <= 0) {
         if (trackCount > MaxEmptyTracks) {
             reader.setErrorText(
-                QStringLiteral("Attempting to read %1 tracks without frames.").arg(trackCount));
+                QCoreApplication::translate("ModelFiles", "Attempting to read %1 tracks without frames.")
+                    .arg(trackCount));
             return {};
         }
         return {trackCount, 0};
@@ -75,8 +78,8 @@ AnimBlock readBlock(BinaryFileReader &reader)
     block.speed = reader.readFloat();
     block.loopFrame = reader.readUInt16();
     if (!reader.hasError() && nodeCount != initialNodeCount) {
-        reader.setErrorText(
-            QStringLiteral("nodeLength is different value than initialNodeLength. They should be the same."));
+        reader.setErrorText(QCoreApplication::translate(
+            "ModelFiles", "nodeLength is different value than initialNodeLength. They should be the same."));
     }
 
     readRecords(reader, nodeCount, NodeBytes, block.nodes, [](BinaryFileReader &r) {
@@ -181,7 +184,8 @@ bool AnimFile::read(BinaryFileReader &reader)
 
 QString AnimFile::refusal() const
 {
-    return blocks.empty() ? QStringLiteral("An animation file without an animation is not saved.")
+    return blocks.empty() ? QCoreApplication::translate(
+                                "ModelFiles", "An animation file without an animation is not saved.")
                           : QString();
 }
 

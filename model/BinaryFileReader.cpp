@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "BinaryFileReader.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -22,7 +23,7 @@ BinaryFileReader::BinaryFileReader(const QString &path)
         return;
     const qint64 size = m_file.size();
     if (size > MaxFileBytes) {
-        setErrorText(QStringLiteral("The file is 2 GiB or larger."));
+        setErrorText(QCoreApplication::translate("ModelFiles", "The file is 2 GiB or larger."));
         return;
     }
     m_windowBytes = std::min(size, MaxWindowBytes);
@@ -50,7 +51,8 @@ void BinaryFileReader::setErrorText(const QString &text)
 
 void BinaryFileReader::failAtEnd(const char *typeName)
 {
-    setErrorText(QStringLiteral("Attempting to read %1 value from file, but reached end of file.")
+    setErrorText(QCoreApplication::translate(
+                     "ModelFiles", "Attempting to read %1 value from file, but reached end of file.")
                      .arg(QLatin1String(typeName)));
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "KMat.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -14,7 +15,8 @@ QString declareMaterial(QTextStream &words, const QString &path, MaterialTable &
     QString name;
     words >> name;
     if (table.count(name) != 0) {
-        return QStringLiteral(
+        return QCoreApplication::translate(
+                   "ModelFiles",
                    ".kMat file has a material with the same name - %1. The file may be invalid - %2")
             .arg(name, path);
     }
@@ -31,7 +33,8 @@ QString setTexture(QTextStream &words, const QString &path, MaterialTable &table
     // A unit that is no number is not consumed: it is then the path.
     words >> samplerName >> textureUnit >> texturePath;
     if (current == table.end()) {
-        return QStringLiteral(
+        return QCoreApplication::translate(
+                   "ModelFiles",
                    ".kMat file read a texture path with no material set. The file may be invalid - %1")
             .arg(path);
     }
@@ -89,7 +92,7 @@ QString readKMat(const QStringList &candidates, MaterialTable &table)
         return readKMat(file, path, table);
     }
     table.clear();
-    return QStringLiteral("Unable to read .kMat file at %1")
+    return QCoreApplication::translate("ModelFiles", "Unable to read .kMat file at %1")
         .arg(candidates.isEmpty() ? QString() : candidates.last());
 }
 
@@ -122,6 +125,6 @@ QString writeKMat(const QString &path, const MaterialTable &table)
 {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text) || writeKMat(file, table) || !file.commit())
-        return QStringLiteral("Unable to open file for writing - %1").arg(path);
+        return QCoreApplication::translate("ModelFiles", "Unable to open file for writing - %1").arg(path);
     return {};
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "MaterialFiles.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -42,7 +43,8 @@ MaterialFiles::MaterialFile &MaterialFiles::file(const QString &relativePath)
     MaterialFile made;
     const QStringList paths = candidates(relativePath);
     if (paths.isEmpty()) {
-        made.error = QStringLiteral("Unable to read .kMat file at %1").arg(relativePath);
+        made.error =
+            QCoreApplication::translate("ModelFiles", "Unable to read .kMat file at %1").arg(relativePath);
     } else {
         made.error = readKMat(paths, made.table);
         const auto found = std::find_if(paths.begin(), paths.end(),

@@ -5,6 +5,8 @@
 #include "Transform.h"
 #include "VertexFields.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace {
@@ -106,11 +108,12 @@ bool SkinnedMesh::read(BinaryFileReader &reader)
 QString SkinnedMesh::refusal() const
 {
     if (nodes.empty())
-        return QStringLiteral("A skinned mesh without a bone is not saved.");
+        return QCoreApplication::translate("ModelFiles", "A skinned mesh without a bone is not saved.");
     const auto bad = std::find_if(surfaces.begin(), surfaces.end(), usesTerminatorAsIndex);
     return bad == surfaces.end()
                ? QString()
-               : QStringLiteral("Surface %1 has a triangle index of 65535, which would end it.")
+               : QCoreApplication::translate("ModelFiles",
+                                             "Surface %1 has a triangle index of 65535, which would end it.")
                      .arg(bad - surfaces.begin());
 }
 

@@ -5,6 +5,8 @@
 #include "Transform.h"
 #include "VertexFields.h"
 
+#include <QCoreApplication>
+
 namespace {
 // Bytes in the file; the least of those that vary.
 constexpr qint64 SurfaceBytes = 5;
@@ -58,7 +60,9 @@ bool StaticMesh::read(BinaryFileReader &reader)
 
 QString StaticMesh::refusal() const
 {
-    return surfaces.empty() ? QStringLiteral("A static mesh without a surface is not saved.") : QString();
+    return surfaces.empty()
+               ? QCoreApplication::translate("ModelFiles", "A static mesh without a surface is not saved.")
+               : QString();
 }
 
 bool StaticMesh::write(const QString &path) const

@@ -86,7 +86,7 @@ void ServerListQuery::query()
 
 void ServerListQuery::failLookup(const QString &host, const QString &error)
 {
-    Log::error(QStringLiteral("Failed to obtain address from %1 - %2").arg(host, error));
+    Log::error(tr("Failed to obtain address from %1 - %2").arg(host, error));
     Log::error(QStringLiteral("T2ServerNameToIP failed:"));
     finish(State::Failed, tr("The master server %1 was not found.").arg(host));
 }
@@ -99,7 +99,7 @@ void ServerListQuery::send(const QHostInfo &found)
         return;
     }
     for (const QHostAddress &address : found.addresses())
-        Log::info(QStringLiteral("Found address: %1").arg(address.toString()));
+        Log::info(tr("Found address: %1").arg(address.toString()));
     m_master = found.addresses().first();
     m_port = masterPort();
 
@@ -109,7 +109,7 @@ void ServerListQuery::send(const QHostInfo &found)
             [this] { Log::error(QStringLiteral("[Query Servers] %1").arg(m_socket->errorString())); });
     const bool isIPv4 = m_master.protocol() == QAbstractSocket::IPv4Protocol;
     m_socket->bind(QHostAddress(isIPv4 ? QHostAddress::AnyIPv4 : QHostAddress::AnyIPv6));
-    Log::info(QStringLiteral("sending server list request %1").arg(QLatin1String(m_request.toHex(' '))));
+    Log::info(tr("sending server list request %1").arg(QLatin1String(m_request.toHex(' '))));
     const qint64 written = m_socket->writeDatagram(m_request, m_master, m_port);
     Log::info(QStringLiteral("updResult = %1").arg(written));
     if (written != m_request.size()) {
@@ -135,7 +135,7 @@ void ServerListQuery::ReadPendingDatagrams()
     if (!fromMaster)
         return;
     m_answered = true;
-    Log::info(QStringLiteral("Received list of all Servers"));
+    Log::info(tr("Received list of all Servers"));
     if (m_servers.size() == maximumServers) {
         Log::warning(tr("[Query Servers] Stopped at %1 servers").arg(maximumServers));
         finish(State::Done);
@@ -151,7 +151,7 @@ void ServerListQuery::keep(const GameServer &server)
         return;
     m_known.insert(key);
     m_servers.append(server);
-    Log::info(QStringLiteral("Found Server: %1").arg(serverText(server)));
+    Log::info(tr("Found Server: %1").arg(serverText(server)));
     emit serverFound(server);
 }
 

@@ -140,7 +140,7 @@ void KVOpenGLWidget::onLoss()
                 "Everything else works on. Start Korvane again to see models."));
         return;
     }
-    Log::warning(QStringLiteral("[Viewport] The graphics driver was reset; the view is built anew"));
+    Log::warning(tr("[Viewport] The graphics driver was reset; the view is built anew"));
     emit contextLost();
 }
 

@@ -4,6 +4,7 @@
 
 #include "Log.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QImageReader>
 
@@ -62,7 +63,7 @@ QImage MaterialTextures::texture(const QString &name)
     }
     if (!known->isNull())
         return *known;
-    warn(QStringLiteral("Failed to load texture '%1' using blank texture instead")
+    warn(QCoreApplication::translate("Viewport", "Failed to load texture '%1' using blank texture instead")
              .arg(paths.isEmpty() ? name : paths.last()));
     return m_blank;
 }

@@ -8,6 +8,8 @@
 #include "SkinnedMesh.h"
 #include "StaticMesh.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace {
@@ -67,8 +69,9 @@ std::vector<std::vector<quint16>> drawableIndexesOf(const Model &mesh)
         if (leftOut.triangles == 0)
             continue;
         Log::warning(
-            QStringLiteral("[%1] Surface %2: %3 triangles name vertices beyond the %4 of the model and "
-                           "are not drawn, the first is triangle %5")
+            QCoreApplication::translate(
+                "Viewport", "[%1] Surface %2: %3 triangles name vertices beyond the %4 of the model and "
+                            "are not drawn, the first is triangle %5")
                 .arg(Traits<Model>::logTag(), QString::number(surface), QString::number(leftOut.triangles),
                      QString::number(mesh.vertices.size()), QString::number(leftOut.first)));
     }

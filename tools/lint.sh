@@ -110,6 +110,21 @@ links_resolve() {
     done < <(files '*.md') | none 'A link to nothing'
 }
 
+# The texts that the sources have, brought into a copy, change nothing.
+translations() {
+    local copy=$build_dir/translations file
+    rm -rf "$copy"
+    mkdir -p "$copy"
+    cp translations/*.ts "$copy"
+    tools/update-translations.sh "$copy" || return 1
+    for file in translations/*.ts; do
+        cmp -s "$file" "$copy/${file##*/}" || {
+            diff -U0 "$file" "$copy/${file##*/}" | grep '^[+-].*<source' || true
+            printf '%s\n' "$file"
+        }
+    done | none 'Not up to date, ./dev translations mends it'
+}
+
 # The project owns no domain, so its id is a plain name.
 desktop_files() {
     desktop-file-validate packaging/korvane.desktop || return 1
@@ -130,6 +145,7 @@ check 'wording' own_words
 check 'links of the documents' links_resolve
 check 'desktop entry and metainfo' desktop_files
 check 'manual pages' manual_pages
+check 'translations' translations
 check 'moc and uic' generated_headers
 check 'clang-tidy' tidy
 

@@ -23,7 +23,7 @@ struct CommandTag
     {                                                                                                        \
     public:                                                                                                  \
         static constexpr const char *name = #Class;                                                          \
-        static constexpr const char *undoText = QT_TRANSLATE_NOOP("UndoCommands", Text);                     \
+        static constexpr const char *undoText = Text;                                                        \
         using Kind::Kind;                                                                                    \
     };
 

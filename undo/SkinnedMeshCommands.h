@@ -24,36 +24,36 @@ struct HotPointEffects
 
 // clang-format off
 #define KORVANE_SKINNED_MESH_COMMANDS(ROW) \
-    ROW(UC_SkinnedMeshBBMin, FieldCommand, "Bounding Box Min", Records::SkinnedMeshRoot, Member<&SkinnedMesh::bbMin>) \
-    ROW(UC_SkinnedMeshBBMax, FieldCommand, "Bounding Box Max", Records::SkinnedMeshRoot, Member<&SkinnedMesh::bbMax>) \
-    ROW(UC_SkinnedMeshHTStart, FieldCommand, "Head Track Start Bone", Records::SkinnedMeshRoot, Member<&SkinnedMesh::headTrackStart>) \
-    ROW(UC_SkinnedMeshHTEnd, FieldCommand, "Head Track End Bone", Records::SkinnedMeshRoot, Member<&SkinnedMesh::headTrackEnd>) \
-    ROW(UC_SkinnedMeshHTFactor, FieldCommand, "Head Track Factor", Records::SkinnedMeshRoot, Member<&SkinnedMesh::headTrackFactor>) \
-    ROW(UC_SkinnedMeshCnode, FieldCommand, "Child Bone Index", Records::ChildBone, Itself) \
-    ROW(UC_SkinnedMeshHPOrigin, FieldCommand, "Hot Point Origin", Records::HotPoint, Member<&SkinnedMeshHotPoint::origin>) \
-    ROW(UC_SkinnedMeshHPFlags, FieldCommand, "Hot Point Flags", Records::HotPoint, Member<&SkinnedMeshHotPoint::flags>) \
-    ROW(UC_SkinnedMeshHPNodeID, FieldCommand, "Hot Point BoneID", Records::HotPoint, Member<&SkinnedMeshHotPoint::nodeId>) \
-    ROW(UC_SkinnedMeshHPEffect, FieldCommand, "Hot Point Particle Effect", Records::HotPoint, HotPointEffects) \
-    ROW(UC_SkinnedMeshNodeBBMin, FieldCommand, "Bone Bounding Box Min", Records::Bone, Member<&SkinnedMeshNode::bbMin>) \
-    ROW(UC_SkinnedMeshNodeBBMax, FieldCommand, "Bone Bounding Box Max", Records::Bone, Member<&SkinnedMeshNode::bbMax>) \
-    ROW(UC_SkinnedMeshNodeSFlags, FieldCommand, "Bone Symbol Flags", Records::Bone, Member<&SkinnedMeshNode::symbolFlags>) \
-    ROW(UC_SkinnedMeshNodeImpactType, FieldCommand, "Bone Impact Type", Records::Bone, Member<&SkinnedMeshNode::impactType>) \
-    ROW(UC_SkinnedMeshNodeParentNode, FieldCommand, "Parent Bone Index", Records::Bone, Member<&SkinnedMeshNode::parentNode>) \
-    ROW(UC_SkinnedMeshNodeDamageScale, FieldCommand, "Bone Damage Scale", Records::Bone, Member<&SkinnedMeshNode::damageScale>) \
-    ROW(UC_SkinnedMeshNodeFlags, FieldCommand, "Bone Flags", Records::Bone, Member<&SkinnedMeshNode::flags>) \
-    ROW(UC_SkinnedMeshSurfaceMaterial, FieldCommand, "Surface Material", Records::SkinnedSurface, Member<&SkinnedMeshSurface::materialPath>) \
-    ROW(UC_SkinnedMeshTriIndex, FieldCommand, "Triangle Index", Records::SkinnedTriangleIndex, Itself) \
-    ROW(UC_SkinnedMeshVertNodeIndex, FieldCommand, "Vertex Bone Index", Records::SkinnedVertex, Member<&SkinnedMeshVertex::nodeIndex>) \
-    ROW(UC_SkinnedMeshVertPosition, FieldCommand, "Vertex Position", Records::SkinnedVertex, Member<&SkinnedMeshVertex::position>) \
-    ROW(UC_SkinnedMeshVertUV, FieldCommand, "Vertex UV", Records::SkinnedVertex, Member<&SkinnedMeshVertex::uv>) \
-    ROW(UC_SkinnedMeshVertNormal, FieldCommand, "Vertex Normal", Records::SkinnedVertex, Member<&SkinnedMeshVertex::normal>) \
-    ROW(UC_SkinnedMeshAddHotPoint, InsertCommand, "Add Hot Point", Records::HotPoint, RecordKind::HotPoints) \
-    ROW(UC_SkinnedMeshRemoveHotPoint, RemoveCommand, "Remove Hot Point", Records::HotPoint, RecordKind::HotPoints) \
-    ROW(UC_SkinnedMeshPasteHotPoint, InsertCommand, "Paste Hot Point", Records::HotPoint, RecordKind::HotPoints) \
-    ROW(UC_SkinnedMeshAddCnode, InsertCommand, "Add Child Bone Index", Records::ChildBone, RecordKind::ChildBones) \
-    ROW(UC_SkinnedMeshRemoveCnode, RemoveCommand, "Remove Child Bone Index", Records::ChildBone, RecordKind::ChildBones) \
-    ROW(UC_SkinnedMeshRotate, RotateCommand, "Rotate Vertices", Records::SkinnedMeshRoot) \
-    ROW(UC_SkinnedMeshScale, ScaleCommand, "Scale Vertices", Records::SkinnedMeshRoot)
+    ROW(UC_SkinnedMeshBBMin, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Bounding Box Min"), Records::SkinnedMeshRoot, Member<&SkinnedMesh::bbMin>) \
+    ROW(UC_SkinnedMeshBBMax, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Bounding Box Max"), Records::SkinnedMeshRoot, Member<&SkinnedMesh::bbMax>) \
+    ROW(UC_SkinnedMeshHTStart, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Head Track Start Bone"), Records::SkinnedMeshRoot, Member<&SkinnedMesh::headTrackStart>) \
+    ROW(UC_SkinnedMeshHTEnd, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Head Track End Bone"), Records::SkinnedMeshRoot, Member<&SkinnedMesh::headTrackEnd>) \
+    ROW(UC_SkinnedMeshHTFactor, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Head Track Factor"), Records::SkinnedMeshRoot, Member<&SkinnedMesh::headTrackFactor>) \
+    ROW(UC_SkinnedMeshCnode, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Child Bone Index"), Records::ChildBone, Itself) \
+    ROW(UC_SkinnedMeshHPOrigin, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Hot Point Origin"), Records::HotPoint, Member<&SkinnedMeshHotPoint::origin>) \
+    ROW(UC_SkinnedMeshHPFlags, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Hot Point Flags"), Records::HotPoint, Member<&SkinnedMeshHotPoint::flags>) \
+    ROW(UC_SkinnedMeshHPNodeID, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Hot Point BoneID"), Records::HotPoint, Member<&SkinnedMeshHotPoint::nodeId>) \
+    ROW(UC_SkinnedMeshHPEffect, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Hot Point Particle Effect"), Records::HotPoint, HotPointEffects) \
+    ROW(UC_SkinnedMeshNodeBBMin, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Bone Bounding Box Min"), Records::Bone, Member<&SkinnedMeshNode::bbMin>) \
+    ROW(UC_SkinnedMeshNodeBBMax, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Bone Bounding Box Max"), Records::Bone, Member<&SkinnedMeshNode::bbMax>) \
+    ROW(UC_SkinnedMeshNodeSFlags, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Bone Symbol Flags"), Records::Bone, Member<&SkinnedMeshNode::symbolFlags>) \
+    ROW(UC_SkinnedMeshNodeImpactType, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Bone Impact Type"), Records::Bone, Member<&SkinnedMeshNode::impactType>) \
+    ROW(UC_SkinnedMeshNodeParentNode, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Parent Bone Index"), Records::Bone, Member<&SkinnedMeshNode::parentNode>) \
+    ROW(UC_SkinnedMeshNodeDamageScale, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Bone Damage Scale"), Records::Bone, Member<&SkinnedMeshNode::damageScale>) \
+    ROW(UC_SkinnedMeshNodeFlags, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Bone Flags"), Records::Bone, Member<&SkinnedMeshNode::flags>) \
+    ROW(UC_SkinnedMeshSurfaceMaterial, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Surface Material"), Records::SkinnedSurface, Member<&SkinnedMeshSurface::materialPath>) \
+    ROW(UC_SkinnedMeshTriIndex, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Triangle Index"), Records::SkinnedTriangleIndex, Itself) \
+    ROW(UC_SkinnedMeshVertNodeIndex, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Vertex Bone Index"), Records::SkinnedVertex, Member<&SkinnedMeshVertex::nodeIndex>) \
+    ROW(UC_SkinnedMeshVertPosition, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Vertex Position"), Records::SkinnedVertex, Member<&SkinnedMeshVertex::position>) \
+    ROW(UC_SkinnedMeshVertUV, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Vertex UV"), Records::SkinnedVertex, Member<&SkinnedMeshVertex::uv>) \
+    ROW(UC_SkinnedMeshVertNormal, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Vertex Normal"), Records::SkinnedVertex, Member<&SkinnedMeshVertex::normal>) \
+    ROW(UC_SkinnedMeshAddHotPoint, InsertCommand, QT_TRANSLATE_NOOP("UndoCommands", "Add Hot Point"), Records::HotPoint, RecordKind::HotPoints) \
+    ROW(UC_SkinnedMeshRemoveHotPoint, RemoveCommand, QT_TRANSLATE_NOOP("UndoCommands", "Remove Hot Point"), Records::HotPoint, RecordKind::HotPoints) \
+    ROW(UC_SkinnedMeshPasteHotPoint, InsertCommand, QT_TRANSLATE_NOOP("UndoCommands", "Paste Hot Point"), Records::HotPoint, RecordKind::HotPoints) \
+    ROW(UC_SkinnedMeshAddCnode, InsertCommand, QT_TRANSLATE_NOOP("UndoCommands", "Add Child Bone Index"), Records::ChildBone, RecordKind::ChildBones) \
+    ROW(UC_SkinnedMeshRemoveCnode, RemoveCommand, QT_TRANSLATE_NOOP("UndoCommands", "Remove Child Bone Index"), Records::ChildBone, RecordKind::ChildBones) \
+    ROW(UC_SkinnedMeshRotate, RotateCommand, QT_TRANSLATE_NOOP("UndoCommands", "Rotate Vertices"), Records::SkinnedMeshRoot) \
+    ROW(UC_SkinnedMeshScale, ScaleCommand, QT_TRANSLATE_NOOP("UndoCommands", "Scale Vertices"), Records::SkinnedMeshRoot)
 // clang-format on
 
 KORVANE_SKINNED_MESH_COMMANDS(KORVANE_COMMAND)

@@ -7,15 +7,15 @@
 
 // clang-format off
 #define KORVANE_STATIC_MESH_COMMANDS(ROW) \
-    ROW(UC_StaticMeshBBMin, FieldCommand, "Bounding Box Min", Records::StaticMeshRoot, Member<&StaticMesh::bbMin>) \
-    ROW(UC_StaticMeshBBMax, FieldCommand, "Bounding Box Max", Records::StaticMeshRoot, Member<&StaticMesh::bbMax>) \
-    ROW(UC_StaticMeshSurfaceMaterial, FieldCommand, "Surface Material", Records::StaticSurface, Member<&StaticMeshSurface::materialPath>) \
-    ROW(UC_StaticMeshTriIndex, FieldCommand, "Triangle Index", Records::StaticTriangleIndex, Itself) \
-    ROW(UC_StaticMeshVertPos, FieldCommand, "Vertex Position", Records::StaticVertex, Member<&StaticMeshVertex::position>) \
-    ROW(UC_StaticMeshVertNormal, FieldCommand, "Vertex Normal", Records::StaticVertex, Member<&StaticMeshVertex::normal>) \
-    ROW(UC_StaticMeshVertUV, FieldCommand, "Vertex UV", Records::StaticVertex, Member<&StaticMeshVertex::uv>) \
-    ROW(UC_StaticMeshRotate, RotateCommand, "Rotate Vertices", Records::StaticMeshRoot) \
-    ROW(UC_StaticMeshScale, ScaleCommand, "Scale Vertices", Records::StaticMeshRoot)
+    ROW(UC_StaticMeshBBMin, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Bounding Box Min"), Records::StaticMeshRoot, Member<&StaticMesh::bbMin>) \
+    ROW(UC_StaticMeshBBMax, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Bounding Box Max"), Records::StaticMeshRoot, Member<&StaticMesh::bbMax>) \
+    ROW(UC_StaticMeshSurfaceMaterial, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Surface Material"), Records::StaticSurface, Member<&StaticMeshSurface::materialPath>) \
+    ROW(UC_StaticMeshTriIndex, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Triangle Index"), Records::StaticTriangleIndex, Itself) \
+    ROW(UC_StaticMeshVertPos, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Vertex Position"), Records::StaticVertex, Member<&StaticMeshVertex::position>) \
+    ROW(UC_StaticMeshVertNormal, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Vertex Normal"), Records::StaticVertex, Member<&StaticMeshVertex::normal>) \
+    ROW(UC_StaticMeshVertUV, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Vertex UV"), Records::StaticVertex, Member<&StaticMeshVertex::uv>) \
+    ROW(UC_StaticMeshRotate, RotateCommand, QT_TRANSLATE_NOOP("UndoCommands", "Rotate Vertices"), Records::StaticMeshRoot) \
+    ROW(UC_StaticMeshScale, ScaleCommand, QT_TRANSLATE_NOOP("UndoCommands", "Scale Vertices"), Records::StaticMeshRoot)
 // clang-format on
 
 KORVANE_STATIC_MESH_COMMANDS(KORVANE_COMMAND)

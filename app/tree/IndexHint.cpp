@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "IndexHint.h"
 
+#include "Look.h"
+
 #include <QPainter>
 #include <QStyle>
 
 namespace {
 constexpr int IconGap = 4;
 constexpr int TextFlags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
-// Readable on light and on dark backgrounds.
-constexpr QRgb MissingColor = qRgb(200, 80, 0);
 } // namespace
 
 IndexHint::IndexHint(QWidget *parent)
@@ -60,7 +60,7 @@ void IndexHint::paintEvent(QPaintEvent *)
         const int side = fontMetrics().height();
         const QRect icon(0, (height() - side) / 2, side, side);
         style()->standardIcon(QStyle::SP_MessageBoxWarning).paint(&painter, icon);
-        painter.setPen(QColor(MissingColor));
+        painter.setPen(warningColor(palette()));
     } else {
         painter.setPen(palette().color(QPalette::WindowText));
     }

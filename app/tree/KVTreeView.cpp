@@ -64,6 +64,7 @@ KVTreeView::KVTreeView(QWidget *parent)
 void KVTreeView::setDocument(Document *document)
 {
     m_document = document;
+    setAccessibleName(document->kind().label);
     connect(document, &Document::replaced, this, &KVTreeView::rebuild);
     connect(document, &Document::recordsChanged, this, &KVTreeView::onRecordsChanged);
     connect(document, &Document::structuresChanged, this, &KVTreeView::onStructuresChanged);
@@ -423,7 +424,7 @@ void KVTreeView::paintEvent(QPaintEvent *event)
     else
         return;
     QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
+    painter.setPen(palette().color(QPalette::PlaceholderText));
     painter.drawText(viewport()->rect().adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap, text);
 }
 

@@ -96,7 +96,7 @@ PageStack::PageStack(QWidget *parent)
     empty->setObjectName(QStringLiteral("lblEmptyPage"));
     empty->setAlignment(Qt::AlignCenter);
     empty->setWordWrap(true);
-    empty->setEnabled(false);
+    empty->setForegroundRole(QPalette::PlaceholderText);
     m_pages->addWidget(empty);
 }
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "RecordTable.h"
 
-#include "ListIcon.h"
+#include "Icons.h"
 
 #include <QCoreApplication>
 
@@ -88,7 +88,7 @@ QIcon recordIcon(RecordKind kind)
     QIcon &icon = table[size_t(kind)];
     const RecordRow *row = icon.isNull() ? recordRow(kind) : nullptr;
     if (row)
-        icon = listIcon(QLatin1String(row->icon));
+        icon = namedIcon(QLatin1String(row->icon));
     return icon;
 }
 

@@ -22,7 +22,7 @@ struct RecordRow
     RecordKind counted; ///< a group's: the kind whose number its label gives
     const char *label;  ///< with %1 for the group's count or the record's text (or number)
     const char *icon;
-    bool meshData; ///< left out of the tree while mesh data (in an animation: animation data) is hidden
+    bool meshData;    ///< left out of the tree while mesh data (in an animation: animation data) is hidden
     const char *noun; ///< what the records of a list are called in a filter; empty for what is in none
 };
 

@@ -4,6 +4,7 @@
 
 #include "AnimCommands.h"
 #include "ChangeSizeDialog.h"
+#include "Icons.h"
 #include "KVTreeView.h"
 #include "RecordItem.h"
 #include "RecordTable.h"
@@ -17,11 +18,6 @@
 #include <algorithm>
 
 namespace {
-QIcon icon(const char *name)
-{
-    return QIcon(QStringLiteral(":/Images/Icons/%1.png").arg(QLatin1String(name)));
-}
-
 void setExpandedBelow(QTreeWidgetItem *item, bool expanded)
 {
     for (int i = 0; i < item->childCount(); ++i)
@@ -160,7 +156,7 @@ StructureActions::TreeMenu StructureActions::createMenu(Document &document, KVTr
     // The three trees share their keys.
     const auto addAction = [&made, tree](const char *iconName, const QString &text, const char *id,
                                          const QString &name) {
-        QAction *action = made.menu->addAction(icon(iconName), text);
+        QAction *action = made.menu->addAction(namedIcon(QLatin1String(iconName)), text);
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         nameShortcut(action, QLatin1String(id), tr("Trees"), name);
         tree->addAction(action);
@@ -201,9 +197,9 @@ StructureActions::TreeMenu StructureActions::createMenu(Document &document, KVTr
     // belong to the pair that follows the current document.
     made.menu->addSeparator();
     QAction *undo = document.undoStack()->createUndoAction(made.menu, tr("Undo"));
-    undo->setIcon(icon("undo"));
+    undo->setIcon(namedIcon(QStringLiteral("undo")));
     QAction *redo = document.undoStack()->createRedoAction(made.menu, tr("Redo"));
-    redo->setIcon(QIcon(QStringLiteral(":Images/Icons/redo.png")));
+    redo->setIcon(fileIcon(QStringLiteral(":Images/Icons/redo.png")));
     for (QAction *action : {undo, redo}) {
         action->setShortcuts(QKeySequence::UnknownKey);
         action->setShortcutContext(Qt::ApplicationShortcut);

@@ -4,6 +4,7 @@
 
 #include "SceneReading.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <assimp/Exporter.hpp>
@@ -115,7 +116,8 @@ void exportObj(const StaticMesh &mesh, const QStringList &textures,
         meshes.push_back(std::move(part));
     }
     if (meshes.empty()) {
-        messages.addError(QStringLiteral("[Static Mesh Export] Mesh has no triangles"));
+        messages.addError(
+            QCoreApplication::translate("Import", "[Static Mesh Export] Mesh has no triangles"));
         return;
     }
 
@@ -133,7 +135,8 @@ void exportObj(const StaticMesh &mesh, const QStringList &textures,
 
     Assimp::Exporter exporter;
     if (exporter.Export(&scene, "obj", objPath.toUtf8().constData()) != aiReturn_SUCCESS) {
-        messages.addError(QStringLiteral("[Static Mesh Export] %1 Could not write file. %2")
-                              .arg(objPath, QString::fromUtf8(exporter.GetErrorString())));
+        messages.addError(
+            QCoreApplication::translate("Import", "[Static Mesh Export] %1 Could not write file. %2")
+                .arg(objPath, QString::fromUtf8(exporter.GetErrorString())));
     }
 }

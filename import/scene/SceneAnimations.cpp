@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "SceneAnimations.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -19,7 +20,7 @@ int frameCount(const SceneSource &source, const aiAnimation &animation, unsigned
     const double frames = std::trunc(animation.mDuration) + 1.0;
     if (frames > FrameLimit) {
         source.messages.addWarning(
-            QStringLiteral("%1 Animation %2 was cut to %3 frames")
+            QCoreApplication::translate("Import", "%1 Animation %2 was cut to %3 frames")
                 .arg(source.modelPath, QString::number(index), QString::number(FrameLimit)));
         return int(FrameLimit);
     }

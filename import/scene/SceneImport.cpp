@@ -6,6 +6,8 @@
 #include "SceneReading.h"
 #include "Skeleton.h"
 
+#include <QCoreApplication>
+
 #include <assimp/Importer.hpp>
 #include <assimp/config.h>
 
@@ -40,9 +42,13 @@ void importSkinnedMesh(const QString &modelPath, const QString &kmatPath, quint3
     for (const AnimBlock &block : anim.blocks)
         frames += block.frameCount();
     messages.addInfo(QStringLiteral("%1, %2, %3, %4")
-                         .arg(countText(qint64(mesh.nodes.size()), "bone", "bones"), geometryText(mesh),
-                              countText(qint64(anim.blocks.size()), "animation", "animations"),
-                              countText(frames, "frame", "frames")));
+                         .arg(countText(qint64(mesh.nodes.size()), QT_TRANSLATE_NOOP("Import", "bone"),
+                                        QT_TRANSLATE_NOOP("Import", "bones")),
+                              geometryText(mesh),
+                              countText(qint64(anim.blocks.size()), QT_TRANSLATE_NOOP("Import", "animation"),
+                                        QT_TRANSLATE_NOOP("Import", "animations")),
+                              countText(frames, QT_TRANSLATE_NOOP("Import", "frame"),
+                                        QT_TRANSLATE_NOOP("Import", "frames"))));
 }
 
 StaticMesh importStaticMesh(const QString &modelPath, const QString &kmatPath, quint32 flags,

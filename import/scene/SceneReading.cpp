@@ -7,6 +7,7 @@
 #include "StaticMesh.h"
 #include "Transform.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QHash>
 
@@ -35,14 +36,16 @@ QVector3D vector3(const aiVector3D &vector)
 QString texturePath(const SceneSource &source, const aiMaterial &material, unsigned index)
 {
     if (material.GetTextureCount(aiTextureType_DIFFUSE) == 0) {
-        source.messages.addWarning(QStringLiteral("%1 Material %2 does not have any Diffuse textures")
-                                       .arg(source.modelPath, QString::number(index)));
+        source.messages.addWarning(
+            QCoreApplication::translate("Import", "%1 Material %2 does not have any Diffuse textures")
+                .arg(source.modelPath, QString::number(index)));
         return {};
     }
     aiString stored;
     if (material.GetTexture(aiTextureType_DIFFUSE, 0, &stored) != aiReturn_SUCCESS) {
-        source.messages.addWarning(QStringLiteral("%1 Material %2 could not get Diffuse texture path")
-                                       .arg(source.modelPath, QString::number(index)));
+        source.messages.addWarning(
+            QCoreApplication::translate("Import", "%1 Material %2 could not get Diffuse texture path")
+                .arg(source.modelPath, QString::number(index)));
         return {};
     }
     const QFileInfo joined(QFileInfo(source.modelPath).path() + QLatin1Char('/') + text(stored));
@@ -85,20 +88,23 @@ std::vector<size_t> addMaterials(const SceneSource &source, Mesh &mesh)
 void checkMesh(const SceneSource &source, const aiMesh &mesh, unsigned index)
 {
     const auto name = [&source, index](const char *sentence) {
-        return QString::fromLatin1(sentence).arg(source.modelPath, QString::number(index));
+        return QCoreApplication::translate("Import", sentence).arg(source.modelPath, QString::number(index));
     };
     if (!mesh.HasPositions())
-        source.messages.addError(name("%1 Mesh %2 does not contain any vertices"));
+        source.messages.addError(
+            name(QT_TRANSLATE_NOOP("Import", "%1 Mesh %2 does not contain any vertices")));
     if (!mesh.HasNormals())
-        source.messages.addError(name("%1 Mesh %2 does not contain any normals"));
+        source.messages.addError(
+            name(QT_TRANSLATE_NOOP("Import", "%1 Mesh %2 does not contain any normals")));
     if (!mesh.HasTextureCoords(0))
-        source.messages.addWarning(name("%1 Mesh %2 does not contain any UVs"));
+        source.messages.addWarning(name(QT_TRANSLATE_NOOP("Import", "%1 Mesh %2 does not contain any UVs")));
     if (!mesh.HasFaces())
-        source.messages.addError(name("%1 Mesh %2 does not contain any faces"));
+        source.messages.addError(name(QT_TRANSLATE_NOOP("Import", "%1 Mesh %2 does not contain any faces")));
     for (unsigned i = 0; i < mesh.mNumFaces; ++i) {
         if (mesh.mFaces[i].mNumIndices != 3) {
-            source.messages.addError(name(
-                "%1 Mesh %2 contains more than 3 indices per face. A face must contain only 3 indices."));
+            source.messages.addError(name(QT_TRANSLATE_NOOP(
+                "Import",
+                "%1 Mesh %2 contains more than 3 indices per face. A face must contain only 3 indices.")));
             return;
         }
     }
@@ -126,8 +132,8 @@ const aiScene *readScene(Assimp::Importer &importer, const char *operation, cons
     const aiScene *scene = importer.ReadFile(source.modelPath.toUtf8().constData(), flags);
     if (!scene || !scene->mRootNode) {
         source.messages.addError(
-            QStringLiteral("%1 Could not read file. %2")
-                .arg(source.modelPath, scene ? QStringLiteral("It has no root node.")
+            QCoreApplication::translate("Import", "%1 Could not read file. %2")
+                .arg(source.modelPath, scene ? QCoreApplication::translate("Import", "It has no root node.")
                                              : QString::fromUtf8(importer.GetErrorString())));
         return nullptr;
     }
@@ -138,7 +144,8 @@ const aiScene *readScene(Assimp::Importer &importer, const char *operation, cons
     qCDebug(importLog, "aiScene RootNode name: %s, numChildren: %u numMeshs: %u",
             scene->mRootNode->mName.C_Str(), scene->mRootNode->mNumChildren, scene->mRootNode->mNumMeshes);
     if (!scene->HasMeshes()) {
-        source.messages.addError(QStringLiteral("%1 does not contain any meshes").arg(source.modelPath));
+        source.messages.addError(
+            QCoreApplication::translate("Import", "%1 does not contain any meshes").arg(source.modelPath));
         return nullptr;
     }
     return scene;
@@ -153,7 +160,8 @@ bool addSurfaces(const SceneSource &source, quint32 vertexLimit, Mesh &mesh)
         vertexCount += scene.mMeshes[i]->mNumVertices;
     if (vertexCount > vertexLimit) {
         source.messages.addError(
-            QStringLiteral("%1 has %2 vertices. A model of this kind can hold no more than %3.")
+            QCoreApplication::translate("Import",
+                                        "%1 has %2 vertices. A model of this kind can hold no more than %3.")
                 .arg(source.modelPath, QString::number(vertexCount), QString::number(vertexLimit)));
         return true;
     }
@@ -166,8 +174,9 @@ bool addSurfaces(const SceneSource &source, quint32 vertexLimit, Mesh &mesh)
         const auto firstVertex = unsigned(mesh.vertices.size());
         addVertices(part, mesh);
         if (part.mMaterialIndex >= surfaceOfMaterial.size()) {
-            source.messages.addError(QStringLiteral("%1 Mesh %2 refers to a material that is not there")
-                                         .arg(source.modelPath, QString::number(i)));
+            source.messages.addError(
+                QCoreApplication::translate("Import", "%1 Mesh %2 refers to a material that is not there")
+                    .arg(source.modelPath, QString::number(i)));
             continue;
         }
         auto &triangleIndexes = mesh.surfaces[surfaceOfMaterial[part.mMaterialIndex]].triangleIndexes;
@@ -186,8 +195,9 @@ bool addSurfaces(const SceneSource &source, quint32 vertexLimit, Mesh &mesh)
                 triangleIndexes.push_back(quint16(firstVertex + face.mIndices[corner]));
         }
         if (badFaces)
-            source.messages.addError(QStringLiteral("%1 Mesh %2 refers to vertices that are not there")
-                                         .arg(source.modelPath, QString::number(i)));
+            source.messages.addError(
+                QCoreApplication::translate("Import", "%1 Mesh %2 refers to vertices that are not there")
+                    .arg(source.modelPath, QString::number(i)));
     }
     boundVertices(mesh);
     return false;
@@ -207,9 +217,12 @@ QString geometryText(const Mesh &mesh)
     qint64 indexes = 0;
     for (const auto &surface : mesh.surfaces)
         indexes += qint64(surface.triangleIndexes.size());
-    const QStringList counts{countText(qint64(mesh.surfaces.size()), "surface", "surfaces"),
-                             countText(qint64(mesh.vertices.size()), "vertex", "vertices"),
-                             countText(indexes / 3, "triangle", "triangles")};
+    const QStringList counts{countText(qint64(mesh.surfaces.size()), QT_TRANSLATE_NOOP("Import", "surface"),
+                                       QT_TRANSLATE_NOOP("Import", "surfaces")),
+                             countText(qint64(mesh.vertices.size()), QT_TRANSLATE_NOOP("Import", "vertex"),
+                                       QT_TRANSLATE_NOOP("Import", "vertices")),
+                             countText(indexes / 3, QT_TRANSLATE_NOOP("Import", "triangle"),
+                                       QT_TRANSLATE_NOOP("Import", "triangles"))};
     return counts.join(QStringLiteral(", "));
 }
 

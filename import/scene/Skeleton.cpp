@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "Skeleton.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <set>
 
@@ -48,13 +50,13 @@ Skeleton::Skeleton(const SceneSource &source)
     collect(*m_root, counter);
     if (counter > BoneLimit) {
         source.messages.addError(
-            QStringLiteral("%1 has %2 bones. A model can hold no more than %3.")
+            QCoreApplication::translate("Import", "%1 has %2 bones. A model can hold no more than %3.")
                 .arg(source.modelPath, QString::number(counter), QString::number(BoneLimit)));
     } else if (counter > NoParent) {
         source.messages.addWarning(
-            QStringLiteral(
-                "%1 has %2 bones. The parents of those whose parent is bone %3 or beyond cannot be "
-                "stored; their place in the child lists is kept.")
+            QCoreApplication::translate(
+                "Import", "%1 has %2 bones. The parents of those whose parent is bone %3 or beyond cannot be "
+                          "stored; their place in the child lists is kept.")
                 .arg(source.modelPath, QString::number(counter), QString::number(NoParent)));
     }
 }
@@ -72,7 +74,8 @@ void Skeleton::collect(const aiNode &node, int &counter)
                 node.mName.C_Str(), index, double(position.x), double(position.y), double(position.z),
                 double(rotation.x), double(rotation.y), double(rotation.z), double(rotation.w));
     } else {
-        m_source.messages.addError(QStringLiteral("Node %1 already exists.").arg(text(node.mName)));
+        m_source.messages.addError(
+            QCoreApplication::translate("Import", "Node %1 already exists.").arg(text(node.mName)));
     }
     for (unsigned i = 0; i < node.mNumChildren; ++i)
         collect(*node.mChildren[i], counter);
@@ -85,7 +88,8 @@ void Skeleton::addBones(SkinnedMesh &mesh) const
     if (!mesh.nodes.empty())
         return;
     m_source.messages.addInfo(
-        QStringLiteral("%1 has no bones. Creating a default bone.").arg(m_source.modelPath));
+        QCoreApplication::translate("Import", "%1 has no bones. Creating a default bone.")
+            .arg(m_source.modelPath));
     mesh.nodes.emplace_back();
 }
 
@@ -132,8 +136,9 @@ void Skeleton::bindVertices(SkinnedMesh &mesh) const
     }
     const auto unbound = std::count(isBound.begin(), isBound.end(), false);
     if (unbound > 0) {
-        m_source.messages.addWarning(QStringLiteral("%1 %2 vertices are not assigned to a bone")
-                                         .arg(m_source.modelPath, QString::number(unbound)));
+        m_source.messages.addWarning(
+            QCoreApplication::translate("Import", "%1 %2 vertices are not assigned to a bone")
+                .arg(m_source.modelPath, QString::number(unbound)));
     }
 }
 

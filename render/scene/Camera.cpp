@@ -51,6 +51,7 @@ void Camera::place(const QVector3D &position, float yaw, float pitch)
     m_pitch = m_targetPitch = std::clamp(pitch, -PitchLimit, PitchLimit);
     m_positionVelocity = {};
     m_yawVelocity = m_pitchVelocity = 0.0f;
+    m_framed.reset();
 }
 
 QMatrix4x4 Camera::viewMatrix() const

@@ -5,6 +5,7 @@
 #include "AnimFile.h"
 #include "FrameChoice.h"
 
+#include <QCoreApplication>
 #include <QtGlobal>
 
 #include <algorithm>
@@ -27,7 +28,7 @@ bool FrameLabel::update(const Playback &state)
         if (m_shownFrame == Invalid)
             return false;
         m_shownFrame = Invalid;
-        m_text = QStringLiteral("Invalid Animation");
+        m_text = QCoreApplication::translate("FrameLabel", "Invalid Animation");
         return true;
     }
 
@@ -40,8 +41,8 @@ bool FrameLabel::update(const Playback &state)
     m_shownCount = count;
     const int lastFrame = std::max(0, count - 1);
     m_text = state.playState == PlayState::InitialPose
-                 ? QStringLiteral("Initial Pose")
-                 : QStringLiteral("Frame: %1 / %2")
+                 ? QCoreApplication::translate("FrameLabel", "Initial Pose")
+                 : QCoreApplication::translate("FrameLabel", "Frame: %1 / %2")
                        .arg(QString::number(std::min(frame, lastFrame)), QString::number(lastFrame));
     return true;
 }

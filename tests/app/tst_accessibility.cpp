@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "EveryWindow.h"
+#include "Settings.h"
+#include "TestSupport.h"
+
+/// Whether everything can be named by a screen reader and reached by the keyboard.
+class tst_Accessibility : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void everythingHasAName();
+    void mnemonicsDoNotClash();
+    void everyDialogIsUsableByKeyboard();
+
+private:
+    /// One line each: a message of the test is cut off when it is long.
+    static void report(const QStringList &faults)
+    {
+        for (const QString &fault : faults)
+            qWarning("%s", qPrintable(fault));
+    }
+
+    QTemporaryDir m_home;
+};
+
+void tst_Accessibility::init()
+{
+    TestSupport::useSettingsHome(m_home);
+    Settings::GamePath.setValue(m_home.path());
+    Settings::OutputDir.setValue(m_home.path());
+    Settings::Updates.setValue(false);
+}
+
+void tst_Accessibility::everythingHasAName()
+{
+    EveryWindow windows(m_home.path());
+    QStringList faults;
+    for (const QWidget *window : windows.all())
+        faults << EveryWidget::withoutName(*window);
+    report(faults);
+    QCOMPARE(faults.size(), 0);
+}
+
+void tst_Accessibility::mnemonicsDoNotClash()
+{
+    EveryWindow windows(m_home.path());
+    QStringList faults;
+    for (const QWidget *window : windows.all())
+        faults << EveryWidget::mnemonicClashes(window) << EveryWidget::menuClashes(*window);
+    report(faults);
+    QCOMPARE(faults.size(), 0);
+}
+
+void tst_Accessibility::everyDialogIsUsableByKeyboard()
+{
+    EveryWindow windows(m_home.path());
+    QStringList faults;
+    for (QWidget *window : windows.all()) {
+        auto *dialog = qobject_cast<QDialog *>(window);
+        if (!dialog)
+            continue;
+        dialog->show();
+        QApplication::setActiveWindow(dialog);
+
+        // Tab goes round, through everything that takes the focus and can be seen.
+        QSet<QWidget *> expected;
+        for (QWidget *widget : dialog->findChildren<QWidget *>()) {
+            if (widget->isVisible() && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus) &&
+                EveryWidget::isInteractive(widget))
+                expected << widget;
+        }
+        for (int i = 0; i < 3 * expected.size() + 20 && !expected.isEmpty(); ++i) {
+            if (QWidget *focus = dialog->focusWidget())
+                expected.remove(focus);
+            QTest::keyClick(dialog->focusWidget() ? dialog->focusWidget() : dialog, Qt::Key_Tab);
+        }
+        for (const QWidget *widget : qAsConst(expected))
+            faults << EveryWidget::describe(widget);
+
+        QTest::keyClick(dialog, Qt::Key_Escape);
+        QVERIFY2(!dialog->isVisible(), dialog->metaObject()->className());
+    }
+    report(faults);
+    QCOMPARE(faults.size(), 0);
+}
+
+QTEST_MAIN(tst_Accessibility)
+#include "tst_accessibility.moc"

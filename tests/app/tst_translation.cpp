@@ -1,0 +1,249 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "EveryWindow.h"
+#include "Language.h"
+#include "Panes.h"
+#include "Settings.h"
+#include "TestSupport.h"
+
+#include <QLibraryInfo>
+#include <QTranslator>
+#include <QXmlStreamReader>
+
+#include <set>
+
+namespace {
+struct Message
+{
+    QString context;
+    QString source;
+    QStringList translations; ///< several of what is counted
+    bool finished = true;
+};
+
+QVector<Message> messagesOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("no %s", qPrintable(path));
+    QXmlStreamReader xml(&file);
+    QVector<Message> messages;
+    QString context;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == QLatin1String("name")) {
+            context = xml.readElementText();
+        } else if (xml.name() == QLatin1String("message")) {
+            messages.append({context, {}, {}, true});
+        } else if (xml.name() == QLatin1String("source")) {
+            messages.last().source = xml.readElementText();
+        } else if (xml.name() == QLatin1String("translation")) {
+            messages.last().finished = xml.attributes().value(QLatin1String("type")).isEmpty();
+            const QString text = xml.readElementText(QXmlStreamReader::IncludeChildElements);
+            if (!text.trimmed().isEmpty())
+                messages.last().translations << text;
+        }
+    }
+    if (xml.hasError())
+        qFatal("%s: %s", qPrintable(path), qPrintable(xml.errorString()));
+    return messages;
+}
+
+/// "%1", "%2", "%n", sorted, as often as they stand there; of a counted text that has all forms, once.
+QStringList placesIn(const QString &text)
+{
+    static const QRegularExpression place(QStringLiteral("%(?:[0-9]+|n)"));
+    std::set<QString> found;
+    for (auto it = place.globalMatch(text); it.hasNext();)
+        found.insert(it.next().captured());
+    return QStringList(found.begin(), found.end());
+}
+
+/// Writes down what is asked for and answers nothing.
+class Listener : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        asked.insert({QString::fromUtf8(context), QString::fromUtf8(source)});
+        return {};
+    }
+    bool isEmpty() const override { return false; }
+
+    mutable std::set<std::pair<QString, QString>> asked;
+};
+} // namespace
+
+/// The German program. It is German from the start, since tables of texts are made once.
+class tst_Translation : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase() { QCoreApplication::removeTranslator(&m_listener); }
+    void init();
+    void theLanguageIsResolved();
+    void everyTextIsTranslated();
+    void placesAndLettersAgree();
+    void windowsAreGerman();
+    void mnemonicsDoNotClash();
+    void filtersSpeakGerman();
+    void everythingThatIsShownWasLookedUp();
+
+private:
+    static void report(const QStringList &faults)
+    {
+        for (const QString &fault : faults)
+            qWarning("%s", qPrintable(fault));
+    }
+
+    QTemporaryDir m_home;
+    QVector<Message> m_messages;
+    Listener m_listener;
+};
+
+void tst_Translation::initTestCase()
+{
+    m_messages = messagesOf(TestSupport::source(QStringLiteral("translations/korvane_de.ts")));
+    Language::install(QStringLiteral("de"));
+    QCoreApplication::installTranslator(&m_listener);
+}
+
+void tst_Translation::init()
+{
+    TestSupport::useSettingsHome(m_home);
+    Settings::GamePath.setValue(m_home.path());
+    Settings::OutputDir.setValue(m_home.path());
+    Settings::Updates.setValue(false);
+}
+
+void tst_Translation::theLanguageIsResolved()
+{
+    QCOMPARE(Language::installed(), QStringLiteral("de"));
+    for (const Language::Choice &choice : Language::choices()) {
+        if (!choice.code.isEmpty())
+            QCOMPARE(Language::resolve(choice.code), choice.code);
+    }
+    // The desktop of the tests has no language, and one that is not there stands for the desktop's.
+    QCOMPARE(Language::resolve({}), QStringLiteral("en"));
+    QCOMPARE(Language::resolve(QStringLiteral("tlh")), QStringLiteral("en"));
+}
+
+void tst_Translation::everyTextIsTranslated()
+{
+    QVERIFY(m_messages.size() > 1000);
+    QStringList faults;
+    for (const Message &message : qAsConst(m_messages)) {
+        if (!message.finished || message.translations.isEmpty())
+            faults << message.context + QStringLiteral(": ") + message.source;
+    }
+    report(faults);
+    QCOMPARE(faults.size(), 0);
+}
+
+void tst_Translation::placesAndLettersAgree()
+{
+    QStringList faults;
+    for (const Message &message : qAsConst(m_messages)) {
+        for (const QString &text : message.translations) {
+            const auto ends = [](const QString &of) { return of.right(1) == QLatin1String("\n"); };
+            const bool sameLetter =
+                QKeySequence::mnemonic(text).isEmpty() == QKeySequence::mnemonic(message.source).isEmpty();
+            if (placesIn(text) != placesIn(message.source) || !sameLetter ||
+                ends(text) != ends(message.source))
+                faults << message.source + QStringLiteral(" -> ") + text;
+        }
+    }
+    report(faults);
+    QCOMPARE(faults.size(), 0);
+}
+
+void tst_Translation::windowsAreGerman()
+{
+    EveryWindow windows(m_home.path());
+    QCOMPARE(windows.main.menuBar()->actions().first()->text(), QStringLiteral("&Datei"));
+    QCOMPARE(windows.options.windowTitle(), QStringLiteral("Optionen"));
+    // Keys stay what they are.
+    QCOMPARE(windows.main.findChild<QAction *>(QStringLiteral("actionSave"))->shortcut(),
+             QKeySequence(QStringLiteral("Ctrl+S"), QKeySequence::PortableText));
+    if (QFile::exists(QLibraryInfo::location(QLibraryInfo::TranslationsPath) +
+                      QStringLiteral("/qtbase_de.qm")))
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Abbrechen"));
+}
+
+void tst_Translation::mnemonicsDoNotClash()
+{
+    EveryWindow windows(m_home.path());
+    QStringList faults;
+    for (const QWidget *window : windows.all())
+        faults << EveryWidget::mnemonicClashes(window) << EveryWidget::menuClashes(*window);
+    report(faults);
+    QCOMPARE(faults.size(), 0);
+}
+
+void tst_Translation::filtersSpeakGerman()
+{
+    Panes panes;
+    panes.mesh.open(SampleModels::plainMesh());
+    KVTreeView &tree = panes.mesh.tree;
+    const auto found = [&tree](const QString &text) {
+        tree.setFilter(text);
+        tree.selectFirstMatch();
+        return tree.currentRecord();
+    };
+    // Vertices are hidden until a filter asks for them by their noun.
+    QCOMPARE(found(QStringLiteral("Vertex 1")), (RecordRef{RecordKind::SkinnedVertex, {1}}));
+    QCOMPARE(found(QStringLiteral("fläche 0")), (RecordRef{RecordKind::SkinnedSurface, {0}}));
+    const QString bone = tree.label({RecordKind::Bone, {0}}).section(QStringLiteral(": "), 1);
+    QVERIFY2(bone.endsWith(QStringLiteral("links")) || bone.endsWith(QStringLiteral("rechts")),
+             qPrintable(bone));
+    QCOMPARE(found(QStringLiteral("Knochen ") + bone), (RecordRef{RecordKind::Bone, {0}}));
+
+    panes.anim.open(SampleModels::animFile());
+    panes.anim.tree.setFilter(QStringLiteral("ereignis 0-99"));
+    panes.anim.tree.selectFirstMatch();
+    QCOMPARE(panes.anim.tree.currentRecord().kind, RecordKind::AnimAction);
+}
+
+/// A text may stand in the file under another class than the one that looks it up; then it stays English.
+void tst_Translation::everythingThatIsShownWasLookedUp()
+{
+    EveryWindow windows(m_home.path());
+    Panes panes;
+    panes.mesh.open(SampleModels::skinnedMesh());
+    panes.anim.open(SampleModels::animFile());
+    panes.rigid.open(SampleModels::staticMesh());
+    const auto lookAtAll = [](KVTreeView &tree) {
+        for (QTreeWidgetItemIterator item(&tree); *item; ++item) {
+            (*item)->text(0);
+            tree.setCurrentItem(*item);
+        }
+    };
+    Settings::HideMeshData.setValue(false);
+    Settings::HideAnimData.setValue(false);
+    for (KVTreeView *tree : {&panes.mesh.tree, &panes.anim.tree, &panes.rigid.tree}) {
+        tree->rebuild();
+        lookAtAll(*tree);
+    }
+
+    QTranslator german;
+    QVERIFY(german.load(QStringLiteral(":/translations/korvane_de.qm")));
+    static const QRegularExpression toolkit(QStringLiteral("^Q[A-Z]"));
+    static const QRegularExpression word(QStringLiteral("[A-Za-z]{2}"));
+    QStringList faults;
+    for (const auto &[context, source] : m_listener.asked) {
+        // The toolkit's own, and patterns without a word.
+        if (toolkit.match(context).hasMatch() || !word.match(source).hasMatch())
+            continue;
+        if (german.translate(qPrintable(context), source.toUtf8().constData()).isEmpty())
+            faults << context + QStringLiteral(": ") + source;
+    }
+    QVERIFY(m_listener.asked.size() > 500);
+    report(faults);
+    QCOMPARE(faults.size(), 0);
+}
+
+QTEST_MAIN(tst_Translation)
+#include "tst_translation.moc"

@@ -1,0 +1,5472 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>A model and animation editor for modders.</source>
+        <translation>Ein Modell- und Animationseditor für Modder.</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>Über &amp;Qt</translation>
+    </message>
+    <message>
+        <source>Show the version of Qt and its license</source>
+        <translation>Die Version und die Lizenz von Qt anzeigen</translation>
+    </message>
+    <message>
+        <source>MIT</source>
+        <translation>MIT</translation>
+    </message>
+    <message>
+        <source>LGPL version 3</source>
+        <translation>LGPL Version 3</translation>
+    </message>
+    <message>
+        <source>BSD, 3 clauses</source>
+        <translation>BSD, 3 Klauseln</translation>
+    </message>
+    <message>
+        <source>ISC, some icons MIT</source>
+        <translation>ISC, einige Symbole MIT</translation>
+    </message>
+    <message>
+        <source>Licences of what is built in</source>
+        <translation>Lizenzen der enthaltenen Teile</translation>
+    </message>
+    <message>
+        <source>Korvane v%1</source>
+        <translation>Korvane v%1</translation>
+    </message>
+</context>
+<context>
+    <name>AnimActionPage</name>
+    <message>
+        <source>Key Frame Action</source>
+        <translation>Keyframe-Aktion</translation>
+    </message>
+    <message>
+        <source>What happens</source>
+        <translation>Was geschieht</translation>
+    </message>
+    <message>
+        <source>which frame this event occurs on</source>
+        <translation>in welchem Frame das Ereignis eintritt</translation>
+    </message>
+    <message>
+        <source>&amp;Bone</source>
+        <translation>&amp;Knochen</translation>
+    </message>
+    <message>
+        <source>which bone this event is associated with</source>
+        <translation>zu welchem Knochen das Ereignis gehört</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>&amp;Offset</source>
+        <translation>&amp;Versatz</translation>
+    </message>
+    <message>
+        <source>Where it happens, relative to the bone (or the model where there is no bone), in game units</source>
+        <translation>Wo es geschieht, relativ zum Knochen (oder zum Modell, wo es keinen Knochen gibt), in Spieleinheiten</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Offset X</source>
+        <translation>Versatz X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Offset Y</source>
+        <translation>Versatz Y</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>Offset Z</source>
+        <translation>Versatz Z</translation>
+    </message>
+    <message>
+        <source>&amp;Position To Bone</source>
+        <translation>&amp;Position auf den Knochen</translation>
+    </message>
+    <message>
+        <source>Puts the position on the bone: an offset of 0, 0, 0</source>
+        <translation>Setzt die Position auf den Knochen: ein Versatz von 0, 0, 0</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>Argumente</translation>
+    </message>
+    <message>
+        <source>Arg 1</source>
+        <translation>Arg 1</translation>
+    </message>
+    <message>
+        <source>Argument 1; what it means depends on the event type</source>
+        <translation>Argument 1; was es bedeutet, hängt vom Ereignistyp ab</translation>
+    </message>
+    <message>
+        <source>Arg 2</source>
+        <translation>Arg 2</translation>
+    </message>
+    <message>
+        <source>Argument 2; what it means depends on the event type</source>
+        <translation>Argument 2; was es bedeutet, hängt vom Ereignistyp ab</translation>
+    </message>
+    <message>
+        <source>Arg 3</source>
+        <translation>Arg 3</translation>
+    </message>
+    <message>
+        <source>Argument 3; what it means depends on the event type</source>
+        <translation>Argument 3; was es bedeutet, hängt vom Ereignistyp ab</translation>
+    </message>
+    <message>
+        <source>Arg 4</source>
+        <translation>Arg 4</translation>
+    </message>
+    <message>
+        <source>Argument 4; what it means depends on the event type</source>
+        <translation>Argument 4; was es bedeutet, hängt vom Ereignistyp ab</translation>
+    </message>
+    <message>
+        <source>Arg 5</source>
+        <translation>Arg 5</translation>
+    </message>
+    <message>
+        <source>Argument 5; what it means depends on the event type</source>
+        <translation>Argument 5; was es bedeutet, hängt vom Ereignistyp ab</translation>
+    </message>
+    <message>
+        <source>Arg 6</source>
+        <translation>Arg 6</translation>
+    </message>
+    <message>
+        <source>Argument 6; what it means depends on the event type</source>
+        <translation>Argument 6; was es bedeutet, hängt vom Ereignistyp ab</translation>
+    </message>
+    <message>
+        <source>Arg 7</source>
+        <translation>Arg 7</translation>
+    </message>
+    <message>
+        <source>Argument 7; what it means depends on the event type</source>
+        <translation>Argument 7; was es bedeutet, hängt vom Ereignistyp ab</translation>
+    </message>
+    <message>
+        <source>Arg 8</source>
+        <translation>Arg 8</translation>
+    </message>
+    <message>
+        <source>Argument 8; what it means depends on the event type</source>
+        <translation>Argument 8; was es bedeutet, hängt vom Ereignistyp ab</translation>
+    </message>
+    <message>
+        <source>Anim %1 - Key Frame Action %2 Properties</source>
+        <translation>Eigenschaften von Anim %1 - Keyframe-Aktion %2</translation>
+    </message>
+    <message>
+        <source>Key Frame Action Event Type</source>
+        <translation>Keyframe-Aktion: Ereignistyp</translation>
+    </message>
+    <message>
+        <source>Key Frame Action Frame</source>
+        <translation>Keyframe-Aktion: Frame</translation>
+    </message>
+    <message>
+        <source>Key Frame Action Node</source>
+        <translation>Keyframe-Aktion: Knochen</translation>
+    </message>
+    <message>
+        <source>Key Frame Action Offset %1</source>
+        <translation>Keyframe-Aktion: Versatz %1</translation>
+    </message>
+    <message>
+        <source>Key Frame Action Args</source>
+        <translation>Keyframe-Aktion: Argumente</translation>
+    </message>
+    <message>
+        <source>Arg %1</source>
+        <translation>Arg %1</translation>
+    </message>
+    <message>
+        <source>Damage is this value / 256. Example: 64 damage = 16384
+By default most enemies head have damage scaling of 10.
+Which means head shots will take 640 damage.</source>
+        <translation>Der Schaden ist dieser Wert / 256. Beispiel: 64 Schaden = 16384
+Die Köpfe der meisten Gegner haben einen Schadensfaktor von 10.
+Kopftreffer verursachen also 640 Schaden.</translation>
+    </message>
+    <message>
+        <source>Argument %1; what it means depends on the event type</source>
+        <translation>Argument %1; was es bedeutet, hängt vom Ereignistyp ab</translation>
+    </message>
+    <message>
+        <source>Key Frame Action Position To Bone</source>
+        <translation>Keyframe-Aktion: Position auf den Knochen</translation>
+    </message>
+    <message>
+        <source>Event T&amp;ype</source>
+        <translation>Ereignist&amp;yp</translation>
+    </message>
+    <message>
+        <source>F&amp;rame</source>
+        <translation>&amp;Frame</translation>
+    </message>
+</context>
+<context>
+    <name>AnimBlockPage</name>
+    <message>
+        <source>Animation</source>
+        <translation>Animation</translation>
+    </message>
+    <message>
+        <source>&amp;Anim ID</source>
+        <translation>Anim-&amp;ID</translation>
+    </message>
+    <message>
+        <source>Identifier by which the game starts this animation</source>
+        <translation>Kennung, unter der das Spiel diese Animation startet</translation>
+    </message>
+    <message>
+        <source>&amp;Speed</source>
+        <translation>&amp;Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Frames per second; below 1 plays as 1</source>
+        <translation>Frames pro Sekunde; unter 1 wird wie 1 abgespielt</translation>
+    </message>
+    <message>
+        <source>&amp;Loop Frame</source>
+        <translation>Sch&amp;leifen-Frame</translation>
+    </message>
+    <message>
+        <source>Frame from which the animation repeats; beyond the last frame (65535) it repeats from frame 0</source>
+        <translation>Frame, ab dem sich die Animation wiederholt; hinter dem letzten Frame (65535) wiederholt sie sich ab Frame 0</translation>
+    </message>
+    <message>
+        <source>Scale of the animation&apos;s frames in the game; the view does not use it</source>
+        <translation>Skalierung der Frames der Animation im Spiel; die Ansicht verwendet sie nicht</translation>
+    </message>
+    <message>
+        <source>Blending</source>
+        <translation>Überblendung</translation>
+    </message>
+    <message>
+        <source>Frames over which the game blends into this animation</source>
+        <translation>Frames, über die das Spiel in diese Animation überblendet</translation>
+    </message>
+    <message>
+        <source>Frame at which blending starts</source>
+        <translation>Frame, in dem die Überblendung beginnt</translation>
+    </message>
+    <message>
+        <source>Blend E&amp;nd</source>
+        <translation>Überblend&amp;ende</translation>
+    </message>
+    <message>
+        <source>Frame at which blending ends</source>
+        <translation>Frame, in dem die Überblendung endet</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Frames</source>
+        <translation>Frames</translation>
+    </message>
+    <message>
+        <source>Number of frames</source>
+        <translation>Anzahl der Frames</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Playing time at the block&apos;s speed</source>
+        <translation>Spieldauer bei der Geschwindigkeit des Blocks</translation>
+    </message>
+    <message>
+        <source>Bones</source>
+        <translation>Knochen</translation>
+    </message>
+    <message>
+        <source>Number of bones that the block animates</source>
+        <translation>Anzahl der Knochen, die der Block animiert</translation>
+    </message>
+    <message>
+        <source>Anim %1 Properties</source>
+        <translation>Eigenschaften von Anim %1</translation>
+    </message>
+    <message>
+        <source>Animation AnimID</source>
+        <translation>Animation: Anim-ID</translation>
+    </message>
+    <message>
+        <source>Animation Speed</source>
+        <translation>Animation: Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Animation Loop Frame</source>
+        <translation>Animation: Schleifen-Frame</translation>
+    </message>
+    <message>
+        <source>Animation Frame Scale</source>
+        <translation>Animation: Frame-Skalierung</translation>
+    </message>
+    <message>
+        <source>Animation Blend Length</source>
+        <translation>Animation: Überblendlänge</translation>
+    </message>
+    <message>
+        <source>Animation Blend Start</source>
+        <translation>Animation: Überblendstart</translation>
+    </message>
+    <message>
+        <source>Animation Blend End</source>
+        <translation>Animation: Überblendende</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>F&amp;rame Scale</source>
+        <translation>Frame-&amp;Skalierung</translation>
+    </message>
+    <message>
+        <source>Blend Len&amp;gth</source>
+        <translation>Überble&amp;ndlänge</translation>
+    </message>
+    <message>
+        <source>&amp;Blend Start</source>
+        <translation>Überblendsta&amp;rt</translation>
+    </message>
+</context>
+<context>
+    <name>AnimFilePage</name>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Format version, kept as it stands in the file</source>
+        <translation>Formatversion, bleibt so, wie sie in der Datei steht</translation>
+    </message>
+    <message>
+        <source>Animations</source>
+        <translation>Animationen</translation>
+    </message>
+    <message>
+        <source>Number of animations in the file</source>
+        <translation>Anzahl der Animationen in der Datei</translation>
+    </message>
+    <message>
+        <source>Animation File</source>
+        <translation>Animationsdatei</translation>
+    </message>
+</context>
+<context>
+    <name>AnimFramePage</name>
+    <message>
+        <source>Frame</source>
+        <translation>Frame</translation>
+    </message>
+    <message>
+        <source>&amp;Yaw Offset</source>
+        <translation>&amp;Gierversatz</translation>
+    </message>
+    <message>
+        <source>Turn of the whole model on this frame about its upright axis, in radians</source>
+        <translation>Drehung des ganzen Modells in diesem Frame um seine Hochachse, im Bogenmaß</translation>
+    </message>
+    <message>
+        <source>In Degrees</source>
+        <translation>In Grad</translation>
+    </message>
+    <message>
+        <source>The same turn in degrees</source>
+        <translation>Dieselbe Drehung in Grad</translation>
+    </message>
+    <message>
+        <source>Anim %1 - Frame %2 Properties</source>
+        <translation>Eigenschaften von Anim %1 - Frame %2</translation>
+    </message>
+    <message>
+        <source>Frame Yaw Offset</source>
+        <translation>Frame: Gierversatz</translation>
+    </message>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>AnimNodePage</name>
+    <message>
+        <source>Tracks</source>
+        <translation>Spuren</translation>
+    </message>
+    <message>
+        <source>Bone</source>
+        <translation>Knochen</translation>
+    </message>
+    <message>
+        <source>The bone of the open mesh that this entry moves</source>
+        <translation>Der Knochen des geöffneten Netzes, den dieser Eintrag bewegt</translation>
+    </message>
+    <message>
+        <source>Track of the translation table that moves the bone; 65535 keeps it at its initial translation</source>
+        <translation>Spur der Translationstabelle, die den Knochen bewegt; 65535 lässt ihn an seiner Anfangsposition</translation>
+    </message>
+    <message>
+        <source>&amp;Rotation</source>
+        <translation>&amp;Rotation</translation>
+    </message>
+    <message>
+        <source>Track of the rotation table that turns the bone; 65535 keeps it at its initial rotation</source>
+        <translation>Spur der Rotationstabelle, die den Knochen dreht; 65535 lässt ihn in seiner Anfangsdrehung</translation>
+    </message>
+    <message>
+        <source>Initial Translation</source>
+        <translation>Anfangstranslation</translation>
+    </message>
+    <message>
+        <source>&amp;Position</source>
+        <translation>&amp;Position</translation>
+    </message>
+    <message>
+        <source>Position of the bone relative to its parent where no track moves it, in game units</source>
+        <translation>Position des Knochens relativ zu seinem Elternknochen, wo ihn keine Spur bewegt, in Spieleinheiten</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Position X</source>
+        <translation>Position X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Position Y</source>
+        <translation>Position Y</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>Position Z</source>
+        <translation>Position Z</translation>
+    </message>
+    <message>
+        <source>Initial Rotation</source>
+        <translation>Anfangsrotation</translation>
+    </message>
+    <message>
+        <source>&amp;Quaternion</source>
+        <translation>&amp;Quaternion</translation>
+    </message>
+    <message>
+        <source>Rotation of the bone relative to its parent where no track turns it, as a quaternion (0, 0, 0, 1 for none)</source>
+        <translation>Drehung des Knochens relativ zu seinem Elternknochen, wo ihn keine Spur dreht, als Quaternion (0, 0, 0, 1 für keine)</translation>
+    </message>
+    <message>
+        <source>Quaternion X</source>
+        <translation>Quaternion X</translation>
+    </message>
+    <message>
+        <source>Quaternion Y</source>
+        <translation>Quaternion Y</translation>
+    </message>
+    <message>
+        <source>Quaternion Z</source>
+        <translation>Quaternion Z</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>Quaternion W</source>
+        <translation>Quaternion W</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Drehung</translation>
+    </message>
+    <message>
+        <source>The same rotation as an angle about an axis</source>
+        <translation>Dieselbe Drehung als Winkel um eine Achse</translation>
+    </message>
+    <message>
+        <source>Anim %1 - Bone %2 Properties</source>
+        <translation>Eigenschaften von Anim %1 - Knochen %2</translation>
+    </message>
+    <message>
+        <source>Bone Translation Index</source>
+        <translation>Knochen: Translationsindex</translation>
+    </message>
+    <message>
+        <source>Bone Rotation Index</source>
+        <translation>Knochen: Rotationsindex</translation>
+    </message>
+    <message>
+        <source>Bone Initial Translation X</source>
+        <translation>Knochen: Anfangstranslation X</translation>
+    </message>
+    <message>
+        <source>Bone Initial Translation Y</source>
+        <translation>Knochen: Anfangstranslation Y</translation>
+    </message>
+    <message>
+        <source>Bone Initial Rotation %1</source>
+        <translation>Knochen: Anfangsrotation %1</translation>
+    </message>
+    <message>
+        <source>%1° about %2</source>
+        <translation>%1° um %2</translation>
+    </message>
+    <message>
+        <source>Trans&amp;lation</source>
+        <translation>&amp;Translation</translation>
+    </message>
+</context>
+<context>
+    <name>AnimRotationPage</name>
+    <message>
+        <source>Quaternion</source>
+        <translation>Quaternion</translation>
+    </message>
+    <message>
+        <source>&amp;Quaternion</source>
+        <translation>&amp;Quaternion</translation>
+    </message>
+    <message>
+        <source>Rotation of the bone on this frame relative to its parent, as a quaternion (0, 0, 0, 1 for none)</source>
+        <translation>Drehung des Knochens in diesem Frame relativ zu seinem Elternknochen, als Quaternion (0, 0, 0, 1 für keine)</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Quaternion X</source>
+        <translation>Quaternion X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Quaternion Y</source>
+        <translation>Quaternion Y</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>Quaternion Z</source>
+        <translation>Quaternion Z</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>Quaternion W</source>
+        <translation>Quaternion W</translation>
+    </message>
+    <message>
+        <source>Axis and Angle</source>
+        <translation>Achse und Winkel</translation>
+    </message>
+    <message>
+        <source>Axis</source>
+        <translation>Achse</translation>
+    </message>
+    <message>
+        <source>The axis that the rotation turns about, of length 1; z while there is no rotation</source>
+        <translation>Die Achse, um die gedreht wird, mit der Länge 1; z, solange es keine Drehung gibt</translation>
+    </message>
+    <message>
+        <source>&amp;Angle</source>
+        <translation>&amp;Winkel</translation>
+    </message>
+    <message>
+        <source>How far the rotation turns about its axis, in degrees; an edit keeps the axis</source>
+        <translation>Wie weit um die Achse gedreht wird, in Grad; eine Änderung behält die Achse bei</translation>
+    </message>
+    <message>
+        <source>Anim %1 - Rotation Track %2 - Frame %3 Properties</source>
+        <translation>Eigenschaften von Anim %1 - Rotationsspur %2 - Frame %3</translation>
+    </message>
+    <message>
+        <source>Animation Rotation %1</source>
+        <translation>Animation: Rotation %1</translation>
+    </message>
+    <message>
+        <source>Animation Rotation Angle</source>
+        <translation>Animation: Rotationswinkel</translation>
+    </message>
+</context>
+<context>
+    <name>AnimTrackFrame</name>
+    <message>
+        <source>The animation of the file that is played</source>
+        <translation>Die Animation der Datei, die abgespielt wird</translation>
+    </message>
+    <message>
+        <source>Animation</source>
+        <translation>Animation</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message>
+        <source>Play the animation from its start</source>
+        <translation>Die Animation von Anfang an abspielen</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Stop at the current frame</source>
+        <translation>Im aktuellen Frame anhalten</translation>
+    </message>
+    <message>
+        <source>Pose</source>
+        <translation>Pose</translation>
+    </message>
+    <message>
+        <source>Show the initial pose</source>
+        <translation>Die Anfangspose zeigen</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Schleife</translation>
+    </message>
+    <message>
+        <source>Force Loop beginning to end</source>
+        <translation>Die Schleife vom Ende zum Anfang erzwingen</translation>
+    </message>
+    <message>
+        <source>Previous action</source>
+        <translation>Vorige Aktion</translation>
+    </message>
+    <message>
+        <source>Go to the previous key frame action ([)</source>
+        <translation>Zur vorigen Keyframe-Aktion gehen ([)</translation>
+    </message>
+    <message>
+        <source>Step back</source>
+        <translation>Schritt zurück</translation>
+    </message>
+    <message>
+        <source>Go back one frame (,)</source>
+        <translation>Einen Frame zurückgehen (,)</translation>
+    </message>
+    <message>
+        <source>Step forward</source>
+        <translation>Schritt vor</translation>
+    </message>
+    <message>
+        <source>Go on one frame (.)</source>
+        <translation>Einen Frame weitergehen (.)</translation>
+    </message>
+    <message>
+        <source>Next action</source>
+        <translation>Nächste Aktion</translation>
+    </message>
+    <message>
+        <source>Go to the next key frame action (])</source>
+        <translation>Zur nächsten Keyframe-Aktion gehen (])</translation>
+    </message>
+    <message>
+        <source>Frame of the animation</source>
+        <translation>Frame der Animation</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Frame</translation>
+    </message>
+    <message>
+        <source>How fast the animation plays here; the file keeps its speed</source>
+        <translation>Wie schnell die Animation hier abgespielt wird; die Datei behält ihre Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Playing speed</source>
+        <translation>Abspielgeschwindigkeit</translation>
+    </message>
+    <message>
+        <source>× </source>
+        <translation>× </translation>
+    </message>
+    <message>
+        <source>Frame: %1 / %2</source>
+        <translation>Frame: %1 / %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>AnimTranslationPage</name>
+    <message>
+        <source>Translation Key</source>
+        <translation>Translations-Key</translation>
+    </message>
+    <message>
+        <source>Position of the bone on this frame relative to its parent, in game units</source>
+        <translation>Position des Knochens in diesem Frame relativ zu seinem Elternknochen, in Spieleinheiten</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Translation X</source>
+        <translation>Translation X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Translation Y</source>
+        <translation>Translation Y</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>Translation Z</source>
+        <translation>Translation Z</translation>
+    </message>
+    <message>
+        <source>Anim %1 - Translation Track %2 - Frame %3 Properties</source>
+        <translation>Eigenschaften von Anim %1 - Translationsspur %2 - Frame %3</translation>
+    </message>
+    <message>
+        <source>Animation Translation %1</source>
+        <translation>Animation: Translation %1</translation>
+    </message>
+    <message>
+        <source>Trans&amp;lation</source>
+        <translation>&amp;Translation</translation>
+    </message>
+</context>
+<context>
+    <name>AppearanceBox</name>
+    <message>
+        <source>Appearance</source>
+        <translation>Erscheinungsbild</translation>
+    </message>
+    <message>
+        <source>Korvane speaks it when it is started the next time.</source>
+        <translation>Korvane spricht sie ab dem nächsten Start.</translation>
+    </message>
+    <message>
+        <source>The colors of all windows; the desktop&apos;s change with the desktop</source>
+        <translation>Die Farben aller Fenster; die des Desktops ändern sich mit dem Desktop</translation>
+    </message>
+    <message>
+        <source>The language of menus, pages and messages</source>
+        <translation>Die Sprache der Menüs, Seiten und Meldungen</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>&amp;Look:</source>
+        <translation>Ausse&amp;hen:</translation>
+    </message>
+    <message>
+        <source>La&amp;nguage:</source>
+        <translation>Sprach&amp;e:</translation>
+    </message>
+</context>
+<context>
+    <name>ChangeSizeDialog</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+</context>
+<context>
+    <name>CommandPalette</name>
+    <message>
+        <source>Commands</source>
+        <translation>Befehle</translation>
+    </message>
+    <message>
+        <source>What to do: a few letters of its name</source>
+        <translation>Was zu tun ist: einige Buchstaben des Namens</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Tree</source>
+        <translation>Baum</translation>
+    </message>
+    <message>
+        <source>%1    (%2)</source>
+        <translation>%1    (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>CommunityTab</name>
+    <message>
+        <source>Community</source>
+        <translation>Community</translation>
+    </message>
+</context>
+<context>
+    <name>ConsoleButton</name>
+    <message>
+        <source>Show the console</source>
+        <translation>Die Konsole zeigen</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Konsole</translation>
+    </message>
+    <message>
+        <source>Errors: %1, warnings: %2</source>
+        <translation>Fehler: %1, Warnungen: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ConsoleLog</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Konsole</translation>
+    </message>
+    <message>
+        <source>Copy the selected lines</source>
+        <translation>Die ausgewählten Zeilen kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>ControlsDialog</name>
+    <message>
+        <source>Keyboard and Mouse</source>
+        <translation>Tastatur und Maus</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Bedienung</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Aktion</translation>
+    </message>
+    <message>
+        <source>W / S</source>
+        <translation>W / S</translation>
+    </message>
+    <message>
+        <source>Fly forward / back</source>
+        <translation>Vorwärts / rückwärts fliegen</translation>
+    </message>
+    <message>
+        <source>A / D</source>
+        <translation>A / D</translation>
+    </message>
+    <message>
+        <source>Fly left / right</source>
+        <translation>Nach links / rechts fliegen</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
+    </message>
+    <message>
+        <source>Fly three times as fast</source>
+        <translation>Dreimal so schnell fliegen</translation>
+    </message>
+    <message>
+        <source>C</source>
+        <translation>C</translation>
+    </message>
+    <message>
+        <source>Reset the camera</source>
+        <translation>Die Kamera zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Left drag</source>
+        <translation>Links ziehen</translation>
+    </message>
+    <message>
+        <source>Move over the ground</source>
+        <translation>Über dem Boden bewegen</translation>
+    </message>
+    <message>
+        <source>Right drag</source>
+        <translation>Rechts ziehen</translation>
+    </message>
+    <message>
+        <source>Look around</source>
+        <translation>Umsehen</translation>
+    </message>
+    <message>
+        <source>Left + right drag</source>
+        <translation>Links + rechts ziehen</translation>
+    </message>
+    <message>
+        <source>Move up, down and sideways</source>
+        <translation>Nach oben, unten und zur Seite bewegen</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>Play the animation, or pause it</source>
+        <translation>Die Animation abspielen oder anhalten</translation>
+    </message>
+    <message>
+        <source>, / .</source>
+        <translation>, / .</translation>
+    </message>
+    <message>
+        <source>Go back / on one frame</source>
+        <translation>Einen Frame zurück / weiter gehen</translation>
+    </message>
+    <message>
+        <source>[ / ]</source>
+        <translation>[ / ]</translation>
+    </message>
+    <message>
+        <source>Go to the previous / next key frame action</source>
+        <translation>Zur vorigen / nächsten Keyframe-Aktion gehen</translation>
+    </message>
+    <message>
+        <source>3D view</source>
+        <translation>3D-Ansicht</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Ins</source>
+        <translation>Einfg</translation>
+    </message>
+    <message>
+        <source>Add a record after the current one</source>
+        <translation>Einen Datensatz hinter dem aktuellen hinzufügen</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Entf</translation>
+    </message>
+    <message>
+        <source>Remove the selected records</source>
+        <translation>Die ausgewählten Datensätze entfernen</translation>
+    </message>
+    <message>
+        <source>Ctrl+C / Ctrl+V</source>
+        <translation>Strg+C / Strg+V</translation>
+    </message>
+    <message>
+        <source>Copy / paste a hot point or an animation</source>
+        <translation>Einen Hotpoint oder eine Animation kopieren / einfügen</translation>
+    </message>
+    <message>
+        <source>Ctrl+click, Shift+click</source>
+        <translation>Strg+Klick, Umschalt+Klick</translation>
+    </message>
+    <message>
+        <source>Select several records; an edit goes to all of them</source>
+        <translation>Mehrere Datensätze auswählen; eine Änderung gilt für alle</translation>
+    </message>
+    <message>
+        <source>Trees</source>
+        <translation>Bäume</translation>
+    </message>
+    <message>
+        <source>Keys and mouse gestures</source>
+        <translation>Tasten und Mausgesten</translation>
+    </message>
+</context>
+<context>
+    <name>CrashReportDialog</name>
+    <message>
+        <source>Crash Report</source>
+        <translation>Absturzbericht</translation>
+    </message>
+    <message>
+        <source>Crash report</source>
+        <translation>Absturzbericht</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the whole report</source>
+        <translation>Den ganzen Bericht kopieren</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>Sch&amp;ließen</translation>
+    </message>
+    <message>
+        <source>Nothing was sent. The report stays on this computer, in
+%1</source>
+        <translation>Es wurde nichts gesendet. Der Bericht bleibt auf diesem Computer, in
+%1</translation>
+    </message>
+    <message>
+        <source>Unable to read &apos;%1&apos;</source>
+        <translation>„%1“ kann nicht gelesen werden</translation>
+    </message>
+</context>
+<context>
+    <name>DatabaseTab</name>
+    <message>
+        <source>Actors</source>
+        <translation>Akteure</translation>
+    </message>
+    <message>
+        <source>Sounds</source>
+        <translation>Klänge</translation>
+    </message>
+    <message>
+        <source>Animations</source>
+        <translation>Animationen</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation>Stimmen</translation>
+    </message>
+    <message>
+        <source>Particles</source>
+        <translation>Partikel</translation>
+    </message>
+    <message>
+        <source>Impacts</source>
+        <translation>Aufpralltypen</translation>
+    </message>
+    <message>
+        <source>Open Folder of O&amp;wn Tables</source>
+        <translation>Ordner eigener &amp;Tabellen öffnen</translation>
+    </message>
+    <message>
+        <source>Tables in this folder (%1) take the place of the built-in ones</source>
+        <translation>Tabellen in diesem Ordner (%1) treten an die Stelle der eingebauten</translation>
+    </message>
+    <message>
+        <source>&amp;Load Again</source>
+        <translation>&amp;Neu laden</translation>
+    </message>
+    <message>
+        <source>Read all tables anew</source>
+        <translation>Alle Tabellen neu einlesen</translation>
+    </message>
+    <message>
+        <source>What the game&apos;s numbers stand for. A double click copies a row.</source>
+        <translation>Wofür die Zahlen des Spiels stehen. Ein Doppelklick kopiert eine Zeile.</translation>
+    </message>
+    <message>
+        <source>Filter by id or name</source>
+        <translation>Nach ID oder Name filtern</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>%1 rows</source>
+        <translation>%1 Zeilen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows</source>
+        <translation>%1 von %2 Zeilen</translation>
+    </message>
+    <message>
+        <source>Copied &quot;%1&quot;</source>
+        <translation>„%1“ kopiert</translation>
+    </message>
+    <message>
+        <source>Copied %1 rows</source>
+        <translation>%1 Zeilen kopiert</translation>
+    </message>
+    <message>
+        <source>File error</source>
+        <translation>Dateifehler</translation>
+    </message>
+    <message>
+        <source>Failed to open
+%1</source>
+        <translation>Öffnen fehlgeschlagen
+%1</translation>
+    </message>
+    <message>
+        <source>Loaded the tables again</source>
+        <translation>Die Tabellen wurden neu geladen</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+</context>
+<context>
+    <name>Document</name>
+    <message>
+        <source>The model has no surfaces.</source>
+        <translation>Das Modell hat keine Flächen.</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentFiles</name>
+    <message>
+        <source>[Open] Unable to read &apos;%1&apos;</source>
+        <translation>[Öffnen] „%1“ kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>[Open] &apos;%1&apos;: %2</source>
+        <translation>[Öffnen] „%1“: %2</translation>
+    </message>
+    <message>
+        <source>File error</source>
+        <translation>Dateifehler</translation>
+    </message>
+    <message>
+        <source>Failed to open
+%1</source>
+        <translation>Öffnen fehlgeschlagen
+%1</translation>
+    </message>
+    <message>
+        <source>Would you like to save the %2?
+
+%1</source>
+        <translation>Möchten Sie die Änderungen speichern (%2)?
+
+%1</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Nicht gespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>[Save] Unable to write &apos;%1&apos;</source>
+        <translation>[Speichern] „%1“ kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>[Save] &apos;%1&apos;: %2</source>
+        <translation>[Speichern] „%1“: %2</translation>
+    </message>
+    <message>
+        <source>Failed to save
+%1</source>
+        <translation>Speichern fehlgeschlagen
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentKind</name>
+    <message>
+        <source>Skinned Mesh</source>
+        <translation>Skin-Netz</translation>
+    </message>
+    <message>
+        <source>Open Skinned Mesh</source>
+        <translation>Skin-Netz öffnen</translation>
+    </message>
+    <message>
+        <source>Save Skinned Mesh</source>
+        <translation>Skin-Netz speichern</translation>
+    </message>
+    <message>
+        <source>Skinned Mesh (*.skinnedmesh)</source>
+        <translation>Skin-Netz (*.skinnedmesh)</translation>
+    </message>
+    <message>
+        <source>Skinned Mesh Folder</source>
+        <translation>Ordner der Skin-Netze</translation>
+    </message>
+    <message>
+        <source>Animation</source>
+        <translation>Animation</translation>
+    </message>
+    <message>
+        <source>Open Animation</source>
+        <translation>Animation öffnen</translation>
+    </message>
+    <message>
+        <source>Save Animation</source>
+        <translation>Animation speichern</translation>
+    </message>
+    <message>
+        <source>Animation (*.anim)</source>
+        <translation>Animation (*.anim)</translation>
+    </message>
+    <message>
+        <source>Animation Folder</source>
+        <translation>Ordner der Animationen</translation>
+    </message>
+    <message>
+        <source>Static Mesh</source>
+        <translation>Statisches Netz</translation>
+    </message>
+    <message>
+        <source>Open Static Mesh</source>
+        <translation>Statisches Netz öffnen</translation>
+    </message>
+    <message>
+        <source>Save Static Mesh</source>
+        <translation>Statisches Netz speichern</translation>
+    </message>
+    <message>
+        <source>Static Mesh (*.staticmesh)</source>
+        <translation>Statisches Netz (*.staticmesh)</translation>
+    </message>
+    <message>
+        <source>Static Mesh Folder</source>
+        <translation>Ordner der statischen Netze</translation>
+    </message>
+</context>
+<context>
+    <name>EventArguments</name>
+    <message>
+        <source>Sound ID</source>
+        <translation>Klang-ID</translation>
+    </message>
+    <message>
+        <source>Particle ID</source>
+        <translation>Partikel-ID</translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <translation>Radius</translation>
+    </message>
+    <message>
+        <source>Damage</source>
+        <translation>Schaden</translation>
+    </message>
+    <message>
+        <source>Blood Spray X</source>
+        <translation>Blutspritzer X</translation>
+    </message>
+    <message>
+        <source>Blood Spray Y</source>
+        <translation>Blutspritzer Y</translation>
+    </message>
+    <message>
+        <source>Blood Spray Z</source>
+        <translation>Blutspritzer Z</translation>
+    </message>
+    <message>
+        <source>Alpha</source>
+        <translation>Alpha</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Attack Time</source>
+        <translation>Anstiegszeit</translation>
+    </message>
+    <message>
+        <source>Sustain Time</source>
+        <translation>Haltezeit</translation>
+    </message>
+    <message>
+        <source>Decay Time</source>
+        <translation>Abklingzeit</translation>
+    </message>
+    <message>
+        <source>X Axis</source>
+        <translation>X-Achse</translation>
+    </message>
+    <message>
+        <source>Y Axis</source>
+        <translation>Y-Achse</translation>
+    </message>
+    <message>
+        <source>Z Axis</source>
+        <translation>Z-Achse</translation>
+    </message>
+    <message>
+        <source>UserEvent Arg 1</source>
+        <translation>UserEvent-Arg 1</translation>
+    </message>
+    <message>
+        <source>UserEvent Arg 2</source>
+        <translation>UserEvent-Arg 2</translation>
+    </message>
+    <message>
+        <source>UserEvent Arg 3</source>
+        <translation>UserEvent-Arg 3</translation>
+    </message>
+    <message>
+        <source>UserEvent Arg 4</source>
+        <translation>UserEvent-Arg 4</translation>
+    </message>
+    <message>
+        <source>Model Index</source>
+        <translation>Modellindex</translation>
+    </message>
+    <message>
+        <source>Hot Point Bit</source>
+        <translation>Hotpoint-Bit</translation>
+    </message>
+    <message>
+        <source>Actor Type ID</source>
+        <translation>Akteurtyp-ID</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Skalierung</translation>
+    </message>
+    <message>
+        <source>Impact Type</source>
+        <translation>Aufpralltyp</translation>
+    </message>
+    <message>
+        <source>Voice ID</source>
+        <translation>Stimmen-ID</translation>
+    </message>
+</context>
+<context>
+    <name>FilterLine</name>
+    <message>
+        <source>Filter, such as %1</source>
+        <translation>Filter, etwa %1</translation>
+    </message>
+    <message>
+        <source>Show only the records whose text has these words, and numbers or ranges of them (Ctrl+F)</source>
+        <translation>Nur die Datensätze zeigen, deren Text diese Wörter und Zahlen oder Zahlenbereiche enthält (Strg+F)</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+</context>
+<context>
+    <name>FlagsEditor</name>
+    <message>
+        <source>Bit %1 (0x%2)</source>
+        <translation>Bit %1 (0x%2)</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+</context>
+<context>
+    <name>FolderExplorer</name>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Open this file</source>
+        <translation>Diese Datei öffnen</translation>
+    </message>
+    <message>
+        <source>Open Containing &amp;Folder</source>
+        <translation>Enthaltenden &amp;Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Show the folder in the desktop&apos;s file manager</source>
+        <translation>Den Ordner in der Dateiverwaltung des Desktops zeigen</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>&amp;Pfad kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the full path to the clipboard</source>
+        <translation>Den vollen Pfad in die Zwischenablage kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Change Folder...</source>
+        <translation>Ordner &amp;wechseln...</translation>
+    </message>
+    <message>
+        <source>Choose the folder to list</source>
+        <translation>Den Ordner wählen, der aufgelistet wird</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>&amp;Neu einlesen</translation>
+    </message>
+    <message>
+        <source>Read the folder again</source>
+        <translation>Den Ordner neu einlesen</translation>
+    </message>
+    <message>
+        <source>&amp;Load On Select</source>
+        <translation>Beim Auswählen &amp;laden</translation>
+    </message>
+    <message>
+        <source>Open a file as soon as it is selected</source>
+        <translation>Eine Datei öffnen, sobald sie ausgewählt wird</translation>
+    </message>
+    <message>
+        <source>&amp;Expand All</source>
+        <translation>Alles &amp;aufklappen</translation>
+    </message>
+    <message>
+        <source>Open all folders of the list</source>
+        <translation>Alle Ordner der Liste öffnen</translation>
+    </message>
+    <message>
+        <source>Collapse &amp;All</source>
+        <translation>Alles &amp;zuklappen</translation>
+    </message>
+    <message>
+        <source>Close all folders of the list</source>
+        <translation>Alle Ordner der Liste schließen</translation>
+    </message>
+    <message>
+        <source>No folder chosen</source>
+        <translation>Kein Ordner gewählt</translation>
+    </message>
+    <message>
+        <source>There is no folder
+%1</source>
+        <translation>Es gibt keinen Ordner
+%1</translation>
+    </message>
+    <message>
+        <source>No .%1 files in
+%2</source>
+        <translation>Keine .%1-Dateien in
+%2</translation>
+    </message>
+</context>
+<context>
+    <name>FrameLabel</name>
+    <message>
+        <source>Invalid Animation</source>
+        <translation>Ungültige Animation</translation>
+    </message>
+    <message>
+        <source>Initial Pose</source>
+        <translation>Anfangspose</translation>
+    </message>
+    <message>
+        <source>Frame: %1 / %2</source>
+        <translation>Frame: %1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>Import</name>
+    <message>
+        <source>Could not overwrite texture &apos;%1&apos;</source>
+        <translation>Die Textur „%1“ konnte nicht überschrieben werden</translation>
+    </message>
+    <message>
+        <source>Could not copy texture from &apos;%1&apos; to &apos;%2&apos;</source>
+        <translation>Die Textur konnte nicht von „%1“ nach „%2“ kopiert werden</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; and &apos;%2&apos; have one name: only one of them can be used</source>
+        <translation>„%1“ und „%2“ haben denselben Namen: nur eine davon kann verwendet werden</translation>
+    </message>
+    <message>
+        <source>Model had no textures to copy
+</source>
+        <translation>Das Modell hatte keine Texturen zu kopieren
+</translation>
+    </message>
+    <message>
+        <source>Failed on copying textures
+</source>
+        <translation>Das Kopieren der Texturen ist fehlgeschlagen
+</translation>
+    </message>
+    <message>
+        <source>Successfully copied textures
+</source>
+        <translation>Die Texturen wurden kopiert
+</translation>
+    </message>
+    <message>
+        <source>Material &apos;%1&apos;: the texture &apos;%2&apos; will not be found, for the blank in its path</source>
+        <translation>Material „%1“: die Textur „%2“ wird wegen des Leerzeichens in ihrem Pfad nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Successfully created .kmat file
+</source>
+        <translation>Die .kmat-Datei wurde erstellt
+</translation>
+    </message>
+    <message>
+        <source>Failed on creating .kmat file
+</source>
+        <translation>Das Erstellen der .kmat-Datei ist fehlgeschlagen
+</translation>
+    </message>
+    <message>
+        <source>[Static Mesh Export] Mesh has no triangles</source>
+        <translation>[Export statisches Netz] Das Netz hat keine Dreiecke</translation>
+    </message>
+    <message>
+        <source>[Static Mesh Export] %1 Could not write file. %2</source>
+        <translation>[Export statisches Netz] %1 Die Datei konnte nicht geschrieben werden. %2</translation>
+    </message>
+    <message>
+        <source>%1 Animation %2 was cut to %3 frames</source>
+        <translation>%1 Animation %2 wurde auf %3 Frames gekürzt</translation>
+    </message>
+    <message>
+        <source>bone</source>
+        <translation>Knochen</translation>
+    </message>
+    <message>
+        <source>bones</source>
+        <translation>Knochen</translation>
+    </message>
+    <message>
+        <source>animation</source>
+        <translation>Animation</translation>
+    </message>
+    <message>
+        <source>animations</source>
+        <translation>Animationen</translation>
+    </message>
+    <message>
+        <source>frame</source>
+        <translation>Frame</translation>
+    </message>
+    <message>
+        <source>frames</source>
+        <translation>Frames</translation>
+    </message>
+    <message>
+        <source>%1 Material %2 does not have any Diffuse textures</source>
+        <translation>%1 Material %2 hat keine Diffuse-Texturen</translation>
+    </message>
+    <message>
+        <source>%1 Material %2 could not get Diffuse texture path</source>
+        <translation>%1 Material %2: der Pfad der Diffuse-Textur war nicht zu ermitteln</translation>
+    </message>
+    <message>
+        <source>%1 Mesh %2 does not contain any vertices</source>
+        <translation>%1 Netz %2 enthält keine Vertices</translation>
+    </message>
+    <message>
+        <source>%1 Mesh %2 does not contain any normals</source>
+        <translation>%1 Netz %2 enthält keine Normalen</translation>
+    </message>
+    <message>
+        <source>%1 Mesh %2 does not contain any UVs</source>
+        <translation>%1 Netz %2 enthält keine UVs</translation>
+    </message>
+    <message>
+        <source>%1 Mesh %2 does not contain any faces</source>
+        <translation>%1 Netz %2 enthält keine Polygone</translation>
+    </message>
+    <message>
+        <source>%1 Mesh %2 contains more than 3 indices per face. A face must contain only 3 indices.</source>
+        <translation>%1 Netz %2 enthält mehr als 3 Indizes je Polygon. Ein Polygon darf nur 3 Indizes haben.</translation>
+    </message>
+    <message>
+        <source>%1 Could not read file. %2</source>
+        <translation>%1 Die Datei konnte nicht gelesen werden. %2</translation>
+    </message>
+    <message>
+        <source>It has no root node.</source>
+        <translation>Sie hat keinen Wurzelknoten.</translation>
+    </message>
+    <message>
+        <source>%1 does not contain any meshes</source>
+        <translation>%1 enthält keine Netze</translation>
+    </message>
+    <message>
+        <source>%1 has %2 vertices. A model of this kind can hold no more than %3.</source>
+        <translation>%1 hat %2 Vertices. Ein Modell dieser Art kann höchstens %3 enthalten.</translation>
+    </message>
+    <message>
+        <source>%1 Mesh %2 refers to a material that is not there</source>
+        <translation>%1 Netz %2 verweist auf ein Material, das es nicht gibt</translation>
+    </message>
+    <message>
+        <source>%1 Mesh %2 refers to vertices that are not there</source>
+        <translation>%1 Netz %2 verweist auf Vertices, die es nicht gibt</translation>
+    </message>
+    <message>
+        <source>surface</source>
+        <translation>Fläche</translation>
+    </message>
+    <message>
+        <source>surfaces</source>
+        <translation>Flächen</translation>
+    </message>
+    <message>
+        <source>vertex</source>
+        <translation>Vertex</translation>
+    </message>
+    <message>
+        <source>vertices</source>
+        <translation>Vertices</translation>
+    </message>
+    <message>
+        <source>triangle</source>
+        <translation>Dreieck</translation>
+    </message>
+    <message>
+        <source>triangles</source>
+        <translation>Dreiecke</translation>
+    </message>
+    <message>
+        <source>%1 has %2 bones. A model can hold no more than %3.</source>
+        <translation>%1 hat %2 Knochen. Ein Modell kann höchstens %3 enthalten.</translation>
+    </message>
+    <message>
+        <source>%1 has %2 bones. The parents of those whose parent is bone %3 or beyond cannot be stored; their place in the child lists is kept.</source>
+        <translation>%1 hat %2 Knochen. Die Elternknochen derer, deren Elternknochen Knochen %3 oder ein späterer ist, können nicht gespeichert werden; ihr Platz in den Kindlisten bleibt erhalten.</translation>
+    </message>
+    <message>
+        <source>Node %1 already exists.</source>
+        <translation>Der Knoten %1 ist schon vorhanden.</translation>
+    </message>
+    <message>
+        <source>%1 has no bones. Creating a default bone.</source>
+        <translation>%1 hat keine Knochen. Ein Standardknochen wird erzeugt.</translation>
+    </message>
+    <message>
+        <source>%1 %2 vertices are not assigned to a bone</source>
+        <translation>%1 %2 Vertices sind keinem Knochen zugeordnet</translation>
+    </message>
+    <message>
+        <source>[Static Mesh Export] Texture not found &apos;%1&apos;</source>
+        <translation>[Export statisches Netz] Textur nicht gefunden „%1“</translation>
+    </message>
+    <message>
+        <source>[Static Mesh Export] Mesh has no surfaces</source>
+        <translation>[Export statisches Netz] Das Netz hat keine Flächen</translation>
+    </message>
+    <message>
+        <source>[Static Mesh Export] %1 Could not write file.</source>
+        <translation>[Export statisches Netz] %1 Die Datei konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The model could not be handed over.</source>
+        <translation>Das Modell konnte nicht übergeben werden.</translation>
+    </message>
+    <message>
+        <source>%1 Could not write file. %2</source>
+        <translation>%1 Die Datei konnte nicht geschrieben werden. %2</translation>
+    </message>
+</context>
+<context>
+    <name>ImportDialog</name>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>&amp;Modell</translation>
+    </message>
+    <message>
+        <source>The model file to import</source>
+        <translation>Die Modelldatei, die importiert wird</translation>
+    </message>
+    <message>
+        <source>No file chosen</source>
+        <translation>Keine Datei gewählt</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>Choose the model file</source>
+        <translation>Die Modelldatei wählen</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>&amp;Generate Normals</source>
+        <translation>&amp;Normalen erzeugen</translation>
+    </message>
+    <message>
+        <source>Generates Normals if there are none in the model</source>
+        <translation>Erzeugt Normalen, wenn das Modell keine hat</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;Pitch 90</source>
+        <translation>&amp;Pitch um 90 drehen</translation>
+    </message>
+    <message>
+        <source>Turn the model about the x axis: by 90 degrees as a skinned mesh, by -90 as a static mesh</source>
+        <translation>Das Modell um die x-Achse drehen: um 90 Grad als Skin-Netz, um -90 als statisches Netz</translation>
+    </message>
+    <message>
+        <source>Flip &amp;UV Y-Axis</source>
+        <translation>&amp;UV-Y-Achse spiegeln</translation>
+    </message>
+    <message>
+        <source>Flip all UV coordinates along the y-axis</source>
+        <translation>Alle UV-Koordinaten an der y-Achse spiegeln</translation>
+    </message>
+    <message>
+        <source>&amp;left-handed coordinate space</source>
+        <translation>&amp;Linkshändiger Koordinatenraum</translation>
+    </message>
+    <message>
+        <source>By default the data is returned in a right-handed coordinate space (which
+OpenGL prefers). In this space, +X points to the right,
++Z points towards the viewer, and +Y points upwards. In the DirectX
+coordinate space +X points to the right, +Y points upwards, and +Z points
+away from the viewer</source>
+        <translation>Normalerweise werden die Daten in einem rechtshändigen Koordinatenraum geliefert
+(den OpenGL bevorzugt). Darin zeigt +X nach rechts, +Z zum Betrachter
+und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
++Y nach oben und +Z vom Betrachter weg</translation>
+    </message>
+    <message>
+        <source>Flip &amp;Winding Order</source>
+        <translation>Umlauf&amp;sinn umkehren</translation>
+    </message>
+    <message>
+        <source>Adjusts the output face winding order to be CW (Clock Wise)</source>
+        <translation>Stellt den Umlaufsinn der Polygone auf CW (im Uhrzeigersinn) um</translation>
+    </message>
+    <message>
+        <source>&amp;Scale</source>
+        <translation>Skali&amp;erung</translation>
+    </message>
+    <message>
+        <source>The factor by which the model is enlarged</source>
+        <translation>Der Faktor, um den das Modell vergrößert wird</translation>
+    </message>
+    <message>
+        <source>Output Paths</source>
+        <translation>Ausgabepfade</translation>
+    </message>
+    <message>
+        <source>Turok &amp;2 Folder</source>
+        <translation>Turok-&amp;2-Ordner</translation>
+    </message>
+    <message>
+        <source>The root folder of your mod. The paths below are relative to it.</source>
+        <translation>Der Stammordner Ihrer Mod. Die Pfade darunter sind relativ zu ihm.</translation>
+    </message>
+    <message>
+        <source>No folder chosen</source>
+        <translation>Kein Ordner gewählt</translation>
+    </message>
+    <message>
+        <source>Choose the root folder of your mod</source>
+        <translation>Den Stammordner Ihrer Mod wählen</translation>
+    </message>
+    <message>
+        <source>&amp;kmat Path</source>
+        <translation>&amp;kmat-Pfad</translation>
+    </message>
+    <message>
+        <source>The material file that the surfaces of the model refer to</source>
+        <translation>Die Materialdatei, auf die die Flächen des Modells verweisen</translation>
+    </message>
+    <message>
+        <source>materials/mat_NAME.kmat</source>
+        <translation>materials/mat_NAME.kmat</translation>
+    </message>
+    <message>
+        <source>Choose the material file</source>
+        <translation>Die Materialdatei wählen</translation>
+    </message>
+    <message>
+        <source>&amp;Texture Folder</source>
+        <translation>&amp;Texturordner</translation>
+    </message>
+    <message>
+        <source>The folder that the materials take their textures from</source>
+        <translation>Der Ordner, aus dem die Materialien ihre Texturen nehmen</translation>
+    </message>
+    <message>
+        <source>textures</source>
+        <translation>textures</translation>
+    </message>
+    <message>
+        <source>Choose the texture folder</source>
+        <translation>Den Texturordner wählen</translation>
+    </message>
+    <message>
+        <source>C&amp;reate .kmat file</source>
+        <translation>.kmat-Datei e&amp;rstellen</translation>
+    </message>
+    <message>
+        <source>Will create the .kmat file for the model in Turok 2 Folder + kmat Path</source>
+        <translation>Erstellt die .kmat-Datei für das Modell in Turok-2-Ordner + kmat-Pfad</translation>
+    </message>
+    <message>
+        <source>C&amp;opy .png textures</source>
+        <translation>.png-Texturen k&amp;opieren</translation>
+    </message>
+    <message>
+        <source>Will copy any .png textures used by the model to the Turok 2 Folder + Texture Folder</source>
+        <translation>Kopiert alle .png-Texturen des Modells nach Turok-2-Ordner + Texturordner</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>Abbre&amp;chen</translation>
+    </message>
+    <message>
+        <source>Give this import up</source>
+        <translation>Diesen Import aufgeben</translation>
+    </message>
+    <message>
+        <source>Warnings and &amp;Info</source>
+        <translation>Warnungen und &amp;Infos</translation>
+    </message>
+    <message>
+        <source>Warnings and Info</source>
+        <translation>Warnungen und Infos</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>K&amp;opieren</translation>
+    </message>
+    <message>
+        <source>Copy all lines to the clipboard</source>
+        <translation>Alle Zeilen in die Zwischenablage kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>&amp;Fertig</translation>
+    </message>
+    <message>
+        <source>Close the dialog</source>
+        <translation>Den Dialog schließen</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>Back to the options</source>
+        <translation>Zurück zu den Optionen</translation>
+    </message>
+    <message>
+        <source>Import model to %1</source>
+        <translation>Modell importieren als %1</translation>
+    </message>
+    <message>
+        <source>&amp;Import to %1!</source>
+        <translation>&amp;Importieren als %1!</translation>
+    </message>
+    <message>
+        <source>Skinned Mesh</source>
+        <translation>Skin-Netz</translation>
+    </message>
+    <message>
+        <source>Static Mesh</source>
+        <translation>Statisches Netz</translation>
+    </message>
+    <message>
+        <source>Import Model to %1</source>
+        <translation>Modell importieren als %1</translation>
+    </message>
+    <message>
+        <source>Turok 2 Output Folder</source>
+        <translation>Turok-2-Ausgabeordner</translation>
+    </message>
+    <message>
+        <source>Save .kmat</source>
+        <translation>.kmat speichern</translation>
+    </message>
+    <message>
+        <source>Material (*.kmat)</source>
+        <translation>Material (*.kmat)</translation>
+    </message>
+    <message>
+        <source>Texture Output Folder</source>
+        <translation>Texturausgabeordner</translation>
+    </message>
+    <message>
+        <source>kmat Path Error</source>
+        <translation>Fehler im kmat-Pfad</translation>
+    </message>
+    <message>
+        <source>Path must be relative to Turok 2 Folder</source>
+        <translation>Der Pfad muss relativ zum Turok-2-Ordner sein</translation>
+    </message>
+    <message>
+        <source>Output Folder Error</source>
+        <translation>Fehler im Ausgabeordner</translation>
+    </message>
+    <message>
+        <source>Reading &apos;%1&apos;</source>
+        <translation>„%1“ wird gelesen</translation>
+    </message>
+    <message>
+        <source>%1 s of at most %2 s</source>
+        <translation>%1 s von höchstens %2 s</translation>
+    </message>
+    <message>
+        <source>%1 Could not read file. The result was damaged.</source>
+        <translation>%1 Die Datei konnte nicht gelesen werden. Das Ergebnis war beschädigt.</translation>
+    </message>
+    <message>
+        <source>Successfully imported &apos;%1&apos; to %2
+</source>
+        <translation>„%1“ wurde importiert als %2
+</translation>
+    </message>
+    <message>
+        <source>Error importing &apos;%1&apos;</source>
+        <translation>Fehler beim Importieren von „%1“</translation>
+    </message>
+    <message>
+        <source>Turok 2 Folder &apos;%1&apos; doesn&apos;t exist.</source>
+        <translation>Den Turok-2-Ordner „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Turok 2 Folder + kmat Path &apos;%1&apos; doesn&apos;t exist.</source>
+        <translation>Turok-2-Ordner + kmat-Pfad „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Turok 2 Folder + Texture Folder &apos;%1&apos; doesn&apos;t exist.</source>
+        <translation>Turok-2-Ordner + Texturordner „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>&amp;Import!</source>
+        <translation>&amp;Importieren!</translation>
+    </message>
+</context>
+<context>
+    <name>ImportExport</name>
+    <message>
+        <source>Export To Folder</source>
+        <translation>In Ordner exportieren</translation>
+    </message>
+    <message>
+        <source>[Static Mesh Export] Exported &apos;%1&apos;</source>
+        <translation>[Export statisches Netz] „%1“ exportiert</translation>
+    </message>
+    <message>
+        <source>Exported &apos;%1&apos;</source>
+        <translation>„%1“ exportiert</translation>
+    </message>
+</context>
+<context>
+    <name>ImportWorker</name>
+    <message>
+        <source>It took longer than %1 s.</source>
+        <translation>Es hat länger als %1 s gedauert.</translation>
+    </message>
+    <message>
+        <source>No temporary folder could be made.</source>
+        <translation>Es konnte kein temporärer Ordner angelegt werden.</translation>
+    </message>
+    <message>
+        <source>No temporary file could be written.</source>
+        <translation>Es konnte keine temporäre Datei geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>It was cancelled.</source>
+        <translation>Es wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; could not be started: %2</source>
+        <translation>„%1“ konnte nicht gestartet werden: %2</translation>
+    </message>
+    <message>
+        <source>The process that reads foreign files crashed on it.</source>
+        <translation>Der Prozess, der fremde Dateien liest, ist daran abgestürzt.</translation>
+    </message>
+    <message>
+        <source>The process that reads foreign files gave no answer.</source>
+        <translation>Der Prozess, der fremde Dateien liest, hat keine Antwort gegeben.</translation>
+    </message>
+</context>
+<context>
+    <name>IndexTargets</name>
+    <message>
+        <source>there are none</source>
+        <translation>es gibt keine</translation>
+    </message>
+    <message>
+        <source>there are 0 to %1</source>
+        <translation>es gibt 0 bis %1</translation>
+    </message>
+    <message>
+        <source>no such vertex</source>
+        <translation>kein solcher Vertex</translation>
+    </message>
+    <message>
+        <source>The mesh has no vertex %1 (%2).</source>
+        <translation>Das Netz hat keinen Vertex %1 (%2).</translation>
+    </message>
+    <message>
+        <source>at %1</source>
+        <translation>bei %1</translation>
+    </message>
+    <message>
+        <source>Position of vertex %1: %2</source>
+        <translation>Position von Vertex %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 tracks</source>
+        <translation>%1 von %2 Spuren</translation>
+    </message>
+    <message>
+        <source>no such track</source>
+        <translation>keine solche Spur</translation>
+    </message>
+    <message>
+        <source>The table has no track %1 (%2): %3.</source>
+        <translation>Die Tabelle hat keine Spur %1 (%2): %3.</translation>
+    </message>
+    <message>
+        <source>no such bone</source>
+        <translation>kein solcher Knochen</translation>
+    </message>
+    <message>
+        <source>The mesh has no bone %1 (%2).</source>
+        <translation>Das Netz hat keinen Knochen %1 (%2).</translation>
+    </message>
+    <message>
+        <source>no parent</source>
+        <translation>kein Elternknochen</translation>
+    </message>
+    <message>
+        <source>The animation has no bone %1 (%2).</source>
+        <translation>Die Animation hat keinen Knochen %1 (%2).</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bones</source>
+        <translation>%1 von %2 Knochen</translation>
+    </message>
+    <message>
+        <source>Open the mesh that the animation belongs to and the bone&apos;s name appears here.</source>
+        <translation>Öffnen Sie das Netz, zu dem die Animation gehört, dann erscheint hier der Name des Knochens.</translation>
+    </message>
+    <message>
+        <source>no bone</source>
+        <translation>kein Knochen</translation>
+    </message>
+    <message>
+        <source>never happens</source>
+        <translation>geschieht nie</translation>
+    </message>
+    <message>
+        <source>The animation has no frame %1 (%2).</source>
+        <translation>Die Animation hat keinen Frame %1 (%2).</translation>
+    </message>
+    <message>
+        <source>%1 of %2 frames</source>
+        <translation>%1 von %2 Frames</translation>
+    </message>
+    <message>
+        <source>loops from frame 0</source>
+        <translation>Schleife ab Frame 0</translation>
+    </message>
+    <message>
+        <source>keeps initial position</source>
+        <translation>behält die Anfangsposition</translation>
+    </message>
+    <message>
+        <source>keeps initial rotation</source>
+        <translation>behält die Anfangsdrehung</translation>
+    </message>
+    <message>
+        <source>Triangle %1, corner %2 of 3</source>
+        <translation>Dreieck %1, Ecke %2 von 3</translation>
+    </message>
+</context>
+<context>
+    <name>KVOpenGLWidget</name>
+    <message>
+        <source>Models cannot be drawn: the system offers no OpenGL.
+Look for a driver of the graphics card, or install a software renderer such as Mesa.</source>
+        <translation>Modelle können nicht gezeichnet werden: das System bietet kein OpenGL.
+Suchen Sie einen Treiber für die Grafikkarte, oder installieren Sie einen Software-Renderer wie Mesa.</translation>
+    </message>
+    <message>
+        <source>Models cannot be drawn: the graphics driver does not take the program&apos;s shaders.
+It must offer OpenGL 3.0 or later.</source>
+        <translation>Modelle können nicht gezeichnet werden: der Grafiktreiber nimmt die Shader des Programms nicht an.
+Er muss OpenGL 3.0 oder neuer bieten.</translation>
+    </message>
+    <message>
+        <source>Models are not drawn any more: the graphics driver has failed several times.
+Everything else works on. Start Korvane again to see models.</source>
+        <translation>Modelle werden nicht mehr gezeichnet: der Grafiktreiber ist mehrmals ausgefallen.
+Alles andere funktioniert weiter. Starten Sie Korvane neu, um Modelle zu sehen.</translation>
+    </message>
+    <message>
+        <source>[Viewport] The graphics driver was reset; the view is built anew</source>
+        <translation>[Ansicht] Der Grafiktreiber wurde zurückgesetzt; die Ansicht wird neu aufgebaut</translation>
+    </message>
+    <message>
+        <source>Models cannot be drawn: the system has OpenGL, but gives the window no context of it.
+Everything else works on.</source>
+        <translation>Modelle können nicht gezeichnet werden: das System hat OpenGL, gibt dem Fenster aber keinen Kontext.
+Alles andere funktioniert weiter.</translation>
+    </message>
+</context>
+<context>
+    <name>KVTreeView</name>
+    <message>
+        <source>event</source>
+        <translation>Ereignis</translation>
+    </message>
+    <message>
+        <source>frame 10-20 or event 30</source>
+        <translation>Frame 10-20 oder Ereignis 30</translation>
+    </message>
+    <message>
+        <source>vertex 100-120 or left arm</source>
+        <translation>Vertex 100-120 oder Oberarm links</translation>
+    </message>
+    <message>
+        <source>No file is open. Choose one in the folder, or press %1.</source>
+        <translation>Es ist keine Datei geöffnet. Wählen Sie eine im Ordner, oder drücken Sie %1.</translation>
+    </message>
+    <message>
+        <source>Nothing matches the filter.</source>
+        <translation>Nichts entspricht dem Filter.</translation>
+    </message>
+</context>
+<context>
+    <name>Look</name>
+    <message>
+        <source>Desktop</source>
+        <translation>Desktop</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Use the colors of the desktop</source>
+        <translation>Die Farben des Desktops verwenden</translation>
+    </message>
+    <message>
+        <source>Show dark text on light windows</source>
+        <translation>Dunkle Schrift auf hellen Fenstern zeigen</translation>
+    </message>
+    <message>
+        <source>Show light text on dark windows</source>
+        <translation>Helle Schrift auf dunklen Fenstern zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Desktop</source>
+        <translation>&amp;Desktop</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>D&amp;ark</source>
+        <translation>D&amp;unkel</translation>
+    </message>
+    <message>
+        <source>Loo&amp;k</source>
+        <translation>Ausse&amp;hen</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Korvane</source>
+        <translation>Korvane</translation>
+    </message>
+    <message>
+        <source>Skinned Meshes &amp;&amp; Animations</source>
+        <translation>Skin-Netze &amp;&amp; Animationen</translation>
+    </message>
+    <message>
+        <source>Characters and their animations</source>
+        <translation>Figuren und ihre Animationen</translation>
+    </message>
+    <message>
+        <source>Skinned Mesh</source>
+        <translation>Skin-Netz</translation>
+    </message>
+    <message>
+        <source>Animation</source>
+        <translation>Animation</translation>
+    </message>
+    <message>
+        <source>Static Meshes</source>
+        <translation>Statische Netze</translation>
+    </message>
+    <message>
+        <source>Models without bones</source>
+        <translation>Modelle ohne Knochen</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>Datenbank</translation>
+    </message>
+    <message>
+        <source>What the game&apos;s numbers stand for</source>
+        <translation>Wofür die Zahlen des Spiels stehen</translation>
+    </message>
+    <message>
+        <source>Tutorials</source>
+        <translation>Anleitungen</translation>
+    </message>
+    <message>
+        <source>How to work with Korvane</source>
+        <translation>Wie man mit Korvane arbeitet</translation>
+    </message>
+    <message>
+        <source>Community</source>
+        <translation>Community</translation>
+    </message>
+    <message>
+        <source>Links to places on the web</source>
+        <translation>Links zu Orten im Web</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>E&amp;xtras</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Konsole</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Probleme</translation>
+    </message>
+    <message>
+        <source>Servers</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>Ö&amp;ffnen…</translation>
+    </message>
+    <message>
+        <source>Open a file of the current kind (Ctrl+O)</source>
+        <translation>Eine Datei der aktuellen Art öffnen (Strg+O)</translation>
+    </message>
+    <message>
+        <source>Open a file of the current kind</source>
+        <translation>Eine Datei der aktuellen Art öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save the current document (Ctrl+S)</source>
+        <translation>Das aktuelle Dokument speichern (Strg+S)</translation>
+    </message>
+    <message>
+        <source>Save the current document</source>
+        <translation>Das aktuelle Dokument speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Speichern &amp;unter…</translation>
+    </message>
+    <message>
+        <source>Save the current document under another name (Ctrl+Shift+S)</source>
+        <translation>Das aktuelle Dokument unter einem anderen Namen speichern (Strg+Umschalt+S)</translation>
+    </message>
+    <message>
+        <source>Save the current document under another name</source>
+        <translation>Das aktuelle Dokument unter einem anderen Namen speichern</translation>
+    </message>
+    <message>
+        <source>Save S&amp;kinned Mesh As…</source>
+        <translation>S&amp;kin-Netz speichern unter…</translation>
+    </message>
+    <message>
+        <source>Save the skinned mesh under another name</source>
+        <translation>Das Skin-Netz unter einem anderen Namen speichern</translation>
+    </message>
+    <message>
+        <source>Save A&amp;nimation As…</source>
+        <translation>A&amp;nimation speichern unter…</translation>
+    </message>
+    <message>
+        <source>Save the animation under another name</source>
+        <translation>Die Animation unter einem anderen Namen speichern</translation>
+    </message>
+    <message>
+        <source>Save A&amp;ll</source>
+        <translation>A&amp;lle speichern</translation>
+    </message>
+    <message>
+        <source>Save every modified document (Ctrl+Alt+S)</source>
+        <translation>Jedes geänderte Dokument speichern (Strg+Alt+S)</translation>
+    </message>
+    <message>
+        <source>Save every modified document</source>
+        <translation>Jedes geänderte Dokument speichern</translation>
+    </message>
+    <message>
+        <source>List the unsaved work that was kept</source>
+        <translation>Die aufgehobene, nicht gespeicherte Arbeit auflisten</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importieren...</translation>
+    </message>
+    <message>
+        <source>Import a model of another program to the current tab (Ctrl+I)</source>
+        <translation>Ein Modell eines anderen Programms in den aktuellen Reiter importieren (Strg+I)</translation>
+    </message>
+    <message>
+        <source>Import a model of another program to the current tab</source>
+        <translation>Ein Modell eines anderen Programms in den aktuellen Reiter importieren</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exportieren</translation>
+    </message>
+    <message>
+        <source>Export the static mesh as a Wavefront OBJ file (Ctrl+E)</source>
+        <translation>Das statische Netz als Wavefront-OBJ-Datei exportieren (Strg+E)</translation>
+    </message>
+    <message>
+        <source>Export the static mesh as a Wavefront OBJ file</source>
+        <translation>Das statische Netz als Wavefront-OBJ-Datei exportieren</translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>Close Korvane (Ctrl+Q)</source>
+        <translation>Korvane schließen (Strg+Q)</translation>
+    </message>
+    <message>
+        <source>Close Korvane</source>
+        <translation>Korvane schließen</translation>
+    </message>
+    <message>
+        <source>&amp;Ground</source>
+        <translation>&amp;Boden</translation>
+    </message>
+    <message>
+        <source>Show the ground</source>
+        <translation>Den Boden zeigen</translation>
+    </message>
+    <message>
+        <source>Axis Gi&amp;zmo</source>
+        <translation>&amp;Achsenkreuz</translation>
+    </message>
+    <message>
+        <source>Show the directions of the axes</source>
+        <translation>Die Richtungen der Achsen zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Back-Face Culling</source>
+        <translation>&amp;Rückseiten ausblenden</translation>
+    </message>
+    <message>
+        <source>Hide the faces that look away from the camera</source>
+        <translation>Die Polygone ausblenden, die von der Kamera abgewandt sind</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Camera</source>
+        <translation>&amp;Kamera zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Put the camera back in front of the model (C in the view)</source>
+        <translation>Die Kamera wieder vor das Modell stellen (C in der Ansicht)</translation>
+    </message>
+    <message>
+        <source>&amp;Full Screen</source>
+        <translation>&amp;Vollbild</translation>
+    </message>
+    <message>
+        <source>Use the whole screen (F11)</source>
+        <translation>Den ganzen Bildschirm verwenden (F11)</translation>
+    </message>
+    <message>
+        <source>Use the whole screen</source>
+        <translation>Den ganzen Bildschirm verwenden</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh Folders</source>
+        <translation>&amp;Ordner neu einlesen</translation>
+    </message>
+    <message>
+        <source>Read the folders of the explorers again (F5)</source>
+        <translation>Die Ordner der Explorer neu einlesen (F5)</translation>
+    </message>
+    <message>
+        <source>Read the folders of the explorers again</source>
+        <translation>Die Ordner der Explorer neu einlesen</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Console</source>
+        <translation>&amp;Konsole leeren</translation>
+    </message>
+    <message>
+        <source>Remove all lines from the console</source>
+        <translation>Alle Zeilen aus der Konsole entfernen</translation>
+    </message>
+    <message>
+        <source>R&amp;otate…</source>
+        <translation>&amp;Drehen…</translation>
+    </message>
+    <message>
+        <source>Turn the whole model</source>
+        <translation>Das ganze Modell drehen</translation>
+    </message>
+    <message>
+        <source>&amp;Scale…</source>
+        <translation>&amp;Skalieren…</translation>
+    </message>
+    <message>
+        <source>Make the whole model larger or smaller</source>
+        <translation>Das ganze Modell vergrößern oder verkleinern</translation>
+    </message>
+    <message>
+        <source>O&amp;ptions…</source>
+        <translation>&amp;Optionen…</translation>
+    </message>
+    <message>
+        <source>Folders, trees and playback (Ctrl+,)</source>
+        <translation>Ordner, Bäume und Wiedergabe (Strg+,)</translation>
+    </message>
+    <message>
+        <source>Folders, trees and playback</source>
+        <translation>Ordner, Bäume und Wiedergabe</translation>
+    </message>
+    <message>
+        <source>&amp;Filter Tree</source>
+        <translation>Baum &amp;filtern</translation>
+    </message>
+    <message>
+        <source>Go to the line above the tree that says which records are shown (Ctrl+F)</source>
+        <translation>Zur Zeile über dem Baum gehen, die bestimmt, welche Datensätze gezeigt werden (Strg+F)</translation>
+    </message>
+    <message>
+        <source>Go to the line above the tree that says which records are shown</source>
+        <translation>Zur Zeile über dem Baum gehen, die bestimmt, welche Datensätze gezeigt werden</translation>
+    </message>
+    <message>
+        <source>Reset &amp;Layout</source>
+        <translation>&amp;Layout zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Put docks, tool bars and panes back where they were at first</source>
+        <translation>Docks, Werkzeugleisten und Bereiche dorthin zurücksetzen, wo sie zuerst waren</translation>
+    </message>
+    <message>
+        <source>Comma&amp;nds…</source>
+        <translation>&amp;Befehle…</translation>
+    </message>
+    <message>
+        <source>Find anything that the menus can do by its name (Ctrl+Shift+P)</source>
+        <translation>Alles, was die Menüs können, nach dem Namen finden (Strg+Umschalt+P)</translation>
+    </message>
+    <message>
+        <source>Find anything that the menus can do by its name</source>
+        <translation>Alles, was die Menüs können, nach dem Namen finden</translation>
+    </message>
+    <message>
+        <source>Sync View Folder to Skinned Mesh</source>
+        <translation>Ansichtsordner mit dem Skin-Netz abgleichen</translation>
+    </message>
+    <message>
+        <source>Load the animation that belongs to a skinned mesh along with it</source>
+        <translation>Mit einem Skin-Netz die Animation laden, die zu ihm gehört</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard and Mouse</source>
+        <translation>&amp;Tastatur und Maus</translation>
+    </message>
+    <message>
+        <source>Keys and mouse gestures (F1)</source>
+        <translation>Tasten und Mausgesten (F1)</translation>
+    </message>
+    <message>
+        <source>Keys and mouse gestures</source>
+        <translation>Tasten und Mausgesten</translation>
+    </message>
+    <message>
+        <source>&amp;Query Servers</source>
+        <translation>&amp;Server abfragen</translation>
+    </message>
+    <message>
+        <source>Ask the game&apos;s master server which servers are running</source>
+        <translation>Den Master-Server des Spiels fragen, welche Server laufen</translation>
+    </message>
+    <message>
+        <source>Check for &amp;Updates</source>
+        <translation>Nach &amp;Updates suchen</translation>
+    </message>
+    <message>
+        <source>Look for a newer version of Korvane</source>
+        <translation>Nach einer neueren Version von Korvane suchen</translation>
+    </message>
+    <message>
+        <source>&amp;About Korvane</source>
+        <translation>Über &amp;Korvane</translation>
+    </message>
+    <message>
+        <source>Version and licences</source>
+        <translation>Version und Lizenzen</translation>
+    </message>
+    <message>
+        <source>As opened</source>
+        <translation>Wie geöffnet</translation>
+    </message>
+    <message>
+        <source>Skinned Mesh View</source>
+        <translation>Ansicht Skin-Netz</translation>
+    </message>
+    <message>
+        <source>Static Mesh View</source>
+        <translation>Ansicht statisches Netz</translation>
+    </message>
+    <message>
+        <source>The tree leaves such records out. The options can make it show them.</source>
+        <translation>Der Baum lässt solche Datensätze aus. Die Optionen können sie einblenden.</translation>
+    </message>
+    <message>
+        <source>File error</source>
+        <translation>Dateifehler</translation>
+    </message>
+    <message>
+        <source>Failed to open
+%1</source>
+        <translation>Öffnen fehlgeschlagen
+%1</translation>
+    </message>
+    <message>
+        <source>Setup Folder Paths</source>
+        <translation>Ordnerpfade einrichten</translation>
+    </message>
+    <message>
+        <source>Please setup your folder paths before using Korvane. Thank you!</source>
+        <translation>Bitte richten Sie Ihre Ordnerpfade ein, bevor Sie Korvane verwenden. Vielen Dank!</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>No dice!</source>
+        <translation>Das geht nicht!</translation>
+    </message>
+    <message>
+        <source>View of the skinned mesh</source>
+        <translation>Ansicht des Skin-Netzes</translation>
+    </message>
+    <message>
+        <source>View of the static mesh</source>
+        <translation>Ansicht des statischen Netzes</translation>
+    </message>
+    <message>
+        <source>Reco&amp;ver…</source>
+        <translation>&amp;Wiederherstellen…</translation>
+    </message>
+</context>
+<context>
+    <name>MessageList</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>ModelFiles</name>
+    <message>
+        <source>Attempting to read %1 tracks without frames.</source>
+        <translation>Es sollten %1 Spuren ohne Frames gelesen werden.</translation>
+    </message>
+    <message>
+        <source>nodeLength is different value than initialNodeLength. They should be the same.</source>
+        <translation>nodeLength hat einen anderen Wert als initialNodeLength. Sie sollten gleich sein.</translation>
+    </message>
+    <message>
+        <source>An animation file without an animation is not saved.</source>
+        <translation>Eine Animationsdatei ohne Animation wird nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>The file is 2 GiB or larger.</source>
+        <translation>Die Datei ist 2 GiB groß oder größer.</translation>
+    </message>
+    <message>
+        <source>Attempting to read %1 value from file, but reached end of file.</source>
+        <translation>Ein Wert vom Typ %1 sollte gelesen werden, aber die Datei war zu Ende.</translation>
+    </message>
+    <message>
+        <source>.kMat file has a material with the same name - %1. The file may be invalid - %2</source>
+        <translation>Die .kMat-Datei hat ein Material mit demselben Namen - %1. Die Datei ist vielleicht ungültig - %2</translation>
+    </message>
+    <message>
+        <source>.kMat file read a texture path with no material set. The file may be invalid - %1</source>
+        <translation>Die .kMat-Datei nennt einen Texturpfad, ohne dass ein Material begonnen hat. Die Datei ist vielleicht ungültig - %1</translation>
+    </message>
+    <message>
+        <source>Unable to read .kMat file at %1</source>
+        <translation>Die .kMat-Datei %1 kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Unable to open file for writing - %1</source>
+        <translation>Die Datei kann nicht zum Schreiben geöffnet werden - %1</translation>
+    </message>
+    <message>
+        <source>A skinned mesh without a bone is not saved.</source>
+        <translation>Ein Skin-Netz ohne Knochen wird nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Surface %1 has a triangle index of 65535, which would end it.</source>
+        <translation>Fläche %1 hat einen Dreiecksindex von 65535, der sie beenden würde.</translation>
+    </message>
+    <message>
+        <source>A static mesh without a surface is not saved.</source>
+        <translation>Ein statisches Netz ohne Fläche wird nicht gespeichert.</translation>
+    </message>
+</context>
+<context>
+    <name>NameTables</name>
+    <message>
+        <source>Body</source>
+        <translation>Rumpf</translation>
+    </message>
+    <message>
+        <source>Head</source>
+        <translation>Kopf</translation>
+    </message>
+    <message>
+        <source>Arm</source>
+        <translation>Arm</translation>
+    </message>
+    <message>
+        <source>Leg</source>
+        <translation>Bein</translation>
+    </message>
+    <message>
+        <source>Root</source>
+        <translation>Wurzel</translation>
+    </message>
+    <message>
+        <source>Upper Torso</source>
+        <translation>Oberkörper</translation>
+    </message>
+    <message>
+        <source>Lower Torso</source>
+        <translation>Unterkörper</translation>
+    </message>
+    <message>
+        <source>Pelvis</source>
+        <translation>Becken</translation>
+    </message>
+    <message>
+        <source>Skull</source>
+        <translation>Schädel</translation>
+    </message>
+    <message>
+        <source>Face</source>
+        <translation>Gesicht</translation>
+    </message>
+    <message>
+        <source>Chin</source>
+        <translation>Kinn</translation>
+    </message>
+    <message>
+        <source>Neck</source>
+        <translation>Hals</translation>
+    </message>
+    <message>
+        <source>Shoulder</source>
+        <translation>Schulter</translation>
+    </message>
+    <message>
+        <source>Upper Arm</source>
+        <translation>Oberarm</translation>
+    </message>
+    <message>
+        <source>Lower Arm</source>
+        <translation>Unterarm</translation>
+    </message>
+    <message>
+        <source>Hand</source>
+        <translation>Hand</translation>
+    </message>
+    <message>
+        <source>Hip</source>
+        <translation>Hüfte</translation>
+    </message>
+    <message>
+        <source>Upper Leg</source>
+        <translation>Oberschenkel</translation>
+    </message>
+    <message>
+        <source>Lower Leg</source>
+        <translation>Unterschenkel</translation>
+    </message>
+    <message>
+        <source>Foot</source>
+        <translation>Fuß</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Water</source>
+        <translation>Wasser</translation>
+    </message>
+    <message>
+        <source>Metal</source>
+        <translation>Metall</translation>
+    </message>
+    <message>
+        <source>Stone</source>
+        <translation>Stein</translation>
+    </message>
+    <message>
+        <source>Flesh</source>
+        <translation>Fleisch</translation>
+    </message>
+    <message>
+        <source>Creature Flesh</source>
+        <translation>Kreaturenfleisch</translation>
+    </message>
+    <message>
+        <source>Water Flesh</source>
+        <translation>Wasserfleisch</translation>
+    </message>
+    <message>
+        <source>Lava</source>
+        <translation>Lava</translation>
+    </message>
+    <message>
+        <source>Slime</source>
+        <translation>Schleim</translation>
+    </message>
+    <message>
+        <source>Forcefield</source>
+        <translation>Kraftfeld</translation>
+    </message>
+    <message>
+        <source>00: Play Sound</source>
+        <translation>00: Klang abspielen</translation>
+    </message>
+    <message>
+        <source>01: Spawn Particle</source>
+        <translation>01: Partikel erzeugen</translation>
+    </message>
+    <message>
+        <source>02: Normal Damage</source>
+        <translation>02: Normaler Schaden</translation>
+    </message>
+    <message>
+        <source>03: Normal Radial Damage</source>
+        <translation>03: Normaler Umkreisschaden</translation>
+    </message>
+    <message>
+        <source>04: Normal Radial Damage</source>
+        <translation>04: Normaler Umkreisschaden</translation>
+    </message>
+    <message>
+        <source>05: Trigger (Unused)</source>
+        <translation>05: Auslöser (unbenutzt)</translation>
+    </message>
+    <message>
+        <source>06: Unblock Region</source>
+        <translation>06: Gebiet freigeben</translation>
+    </message>
+    <message>
+        <source>07: Block Region</source>
+        <translation>07: Gebiet sperren</translation>
+    </message>
+    <message>
+        <source>08: Spawn Particle</source>
+        <translation>08: Partikel erzeugen</translation>
+    </message>
+    <message>
+        <source>09: Screen Flash</source>
+        <translation>09: Bildschirmblitz</translation>
+    </message>
+    <message>
+        <source>10: Spawn Trails (Unused)</source>
+        <translation>10: Spuren erzeugen (unbenutzt)</translation>
+    </message>
+    <message>
+        <source>11: Fire Weapon Particle</source>
+        <translation>11: Partikel der Waffe abfeuern</translation>
+    </message>
+    <message>
+        <source>12: Shake Screen Sinwave</source>
+        <translation>12: Bildschirm als Sinuswelle schütteln</translation>
+    </message>
+    <message>
+        <source>13: Shake Screen Random</source>
+        <translation>13: Bildschirm zufällig schütteln</translation>
+    </message>
+    <message>
+        <source>14: Display Text (Unused)</source>
+        <translation>14: Text zeigen (unbenutzt)</translation>
+    </message>
+    <message>
+        <source>15: Violent Radial Damage</source>
+        <translation>15: Heftiger Umkreisschaden</translation>
+    </message>
+    <message>
+        <source>16: Violent Radial Damage</source>
+        <translation>16: Heftiger Umkreisschaden</translation>
+    </message>
+    <message>
+        <source>17: Explosive Radial Damage</source>
+        <translation>17: Explosiver Umkreisschaden</translation>
+    </message>
+    <message>
+        <source>18: Explosive Radial Damage</source>
+        <translation>18: Explosiver Umkreisschaden</translation>
+    </message>
+    <message>
+        <source>19: Extreme Radial Damage</source>
+        <translation>19: Extremer Umkreisschaden</translation>
+    </message>
+    <message>
+        <source>20: Extreme Radial Damage</source>
+        <translation>20: Extremer Umkreisschaden</translation>
+    </message>
+    <message>
+        <source>21: Gamepad Rumble (Unused)</source>
+        <translation>21: Gamepad-Rütteln (unbenutzt)</translation>
+    </message>
+    <message>
+        <source>22: User/Script Event</source>
+        <translation>22: Benutzer-/Skriptereignis</translation>
+    </message>
+    <message>
+        <source>23: Play Sound On Model</source>
+        <translation>23: Klang am Modell abspielen</translation>
+    </message>
+    <message>
+        <source>24: Spawn Particle On Model</source>
+        <translation>24: Partikel am Modell erzeugen</translation>
+    </message>
+    <message>
+        <source>25: Explosive Ground Radial Damage</source>
+        <translation>25: Explosiver Umkreisschaden am Boden</translation>
+    </message>
+    <message>
+        <source>26: Turn On Hot Point</source>
+        <translation>26: Hotpoint einschalten</translation>
+    </message>
+    <message>
+        <source>27: Turn Off Hot Point</source>
+        <translation>27: Hotpoint ausschalten</translation>
+    </message>
+    <message>
+        <source>28: Spawn Actor</source>
+        <translation>28: Akteur erzeugen</translation>
+    </message>
+    <message>
+        <source>29: Play Material Sound</source>
+        <translation>29: Materialklang abspielen</translation>
+    </message>
+    <message>
+        <source>30: Play Voice</source>
+        <translation>30: Stimme abspielen</translation>
+    </message>
+    <message>
+        <source>31: Play Looping Sound</source>
+        <translation>31: Klangschleife abspielen</translation>
+    </message>
+    <message>
+        <source>32: Stop Looping Sound</source>
+        <translation>32: Klangschleife anhalten</translation>
+    </message>
+    <message>
+        <source>33: Nuke Explosion</source>
+        <translation>33: Atomexplosion</translation>
+    </message>
+    <message>
+        <source>34: Delete Actor</source>
+        <translation>34: Akteur löschen</translation>
+    </message>
+    <message>
+        <source>Left %1</source>
+        <translation>%1 links</translation>
+    </message>
+    <message>
+        <source>Right %1</source>
+        <translation>%1 rechts</translation>
+    </message>
+</context>
+<context>
+    <name>OptionsDialog</name>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Paths</source>
+        <translation>Pfade</translation>
+    </message>
+    <message>
+        <source>&amp;game Folder</source>
+        <translation>&amp;Spielordner</translation>
+    </message>
+    <message>
+        <source>the folder to the unzipped game.kpf</source>
+        <translation>der Ordner mit der entpackten game.kpf</translation>
+    </message>
+    <message>
+        <source>Textures and materials are looked for in this folder first. It is never written to.</source>
+        <translation>Texturen und Materialien werden zuerst in diesem Ordner gesucht. In ihn wird nie geschrieben.</translation>
+    </message>
+    <message>
+        <source>No folder chosen</source>
+        <translation>Kein Ordner gewählt</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>Choose the folder of the unzipped game.kpf</source>
+        <translation>Den Ordner mit der entpackten game.kpf wählen</translation>
+    </message>
+    <message>
+        <source>Browse for the game folder</source>
+        <translation>Nach dem Spielordner suchen</translation>
+    </message>
+    <message>
+        <source>There is no such folder.</source>
+        <translation>Es gibt keinen solchen Ordner.</translation>
+    </message>
+    <message>
+        <source>Turok &amp;2 Folder</source>
+        <translation>Turok-&amp;2-Ordner</translation>
+    </message>
+    <message>
+        <source>the folder to the your Turok 2 - Seeds of Evil Folder.
+This is the root folder for your mod and should contain
+a textures, materials, and anims folders.</source>
+        <translation>der Ordner Ihres Turok 2 - Seeds of Evil.
+Das ist der Stammordner Ihrer Mod; er sollte die Ordner
+textures, materials und anims enthalten.</translation>
+    </message>
+    <message>
+        <source>What the game folder does not hold is looked for in this folder, and imports write their materials and textures here.</source>
+        <translation>Was der Spielordner nicht enthält, wird in diesem Ordner gesucht, und Importe schreiben ihre Materialien und Texturen hierher.</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse...</source>
+        <translation>Du&amp;rchsuchen...</translation>
+    </message>
+    <message>
+        <source>Choose the root folder of your mod</source>
+        <translation>Den Stammordner Ihrer Mod wählen</translation>
+    </message>
+    <message>
+        <source>Browse for the mod folder</source>
+        <translation>Nach dem Mod-Ordner suchen</translation>
+    </message>
+    <message>
+        <source>Behavior</source>
+        <translation>Verhalten</translation>
+    </message>
+    <message>
+        <source>Check for &amp;updates on startup</source>
+        <translation>Beim Start nach &amp;Updates suchen</translation>
+    </message>
+    <message>
+        <source>When Korvane starts will check if there&apos;s a new version</source>
+        <translation>Beim Start sieht Korvane nach, ob es eine neue Version gibt</translation>
+    </message>
+    <message>
+        <source>Hide &amp;Mesh Data</source>
+        <translation>&amp;Netzdaten ausblenden</translation>
+    </message>
+    <message>
+        <source>Don&apos;t add all mesh data to the tree view. Performance Increase.
+Recommended to leave on.</source>
+        <translation>Nicht alle Netzdaten in den Baum aufnehmen. Das ist schneller.
+Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
+    </message>
+    <message>
+        <source>Hide &amp;Animation Data</source>
+        <translation>&amp;Animationsdaten ausblenden</translation>
+    </message>
+    <message>
+        <source>Don&apos;t add all animation data to the tree view. Performance Increase.
+Recommended to leave on.</source>
+        <translation>Nicht alle Animationsdaten in den Baum aufnehmen. Das ist schneller.
+Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
+    </message>
+    <message>
+        <source>Animation Auto &amp;Play</source>
+        <translation>Animationen automatisch abs&amp;pielen</translation>
+    </message>
+    <message>
+        <source>Play animations when selecting them</source>
+        <translation>Animationen abspielen, wenn sie ausgewählt werden</translation>
+    </message>
+    <message>
+        <source>game.kpf unzipped folder</source>
+        <translation>Ordner der entpackten game.kpf</translation>
+    </message>
+    <message>
+        <source>Turok 2(Your Mod) Folder</source>
+        <translation>Turok-2-Ordner (Ihre Mod)</translation>
+    </message>
+</context>
+<context>
+    <name>PageStack</name>
+    <message numerus="yes">
+        <source>%n child bone indexes selected</source>
+        <translation>
+            <numerusform>%n Kindknochen-Index ausgewählt</numerusform>
+            <numerusform>%n Kindknochen-Indizes ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hot points selected</source>
+        <translation>
+            <numerusform>%n Hotpoint ausgewählt</numerusform>
+            <numerusform>%n Hotpoints ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bones selected</source>
+        <translation>
+            <numerusform>%n Knochen ausgewählt</numerusform>
+            <numerusform>%n Knochen ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n surfaces selected</source>
+        <translation>
+            <numerusform>%n Fläche ausgewählt</numerusform>
+            <numerusform>%n Flächen ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n triangle indexes selected</source>
+        <translation>
+            <numerusform>%n Dreiecksindex ausgewählt</numerusform>
+            <numerusform>%n Dreiecksindizes ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n vertices selected</source>
+        <translation>
+            <numerusform>%n Vertex ausgewählt</numerusform>
+            <numerusform>%n Vertices ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n animations selected</source>
+        <translation>
+            <numerusform>%n Animation ausgewählt</numerusform>
+            <numerusform>%n Animationen ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n frames selected</source>
+        <translation>
+            <numerusform>%n Frame ausgewählt</numerusform>
+            <numerusform>%n Frames ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n translation keys selected</source>
+        <translation>
+            <numerusform>%n Translations-Key ausgewählt</numerusform>
+            <numerusform>%n Translations-Keys ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rotation keys selected</source>
+        <translation>
+            <numerusform>%n Rotations-Key ausgewählt</numerusform>
+            <numerusform>%n Rotations-Keys ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n key frame actions selected</source>
+        <translation>
+            <numerusform>%n Keyframe-Aktion ausgewählt</numerusform>
+            <numerusform>%n Keyframe-Aktionen ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Select a record in the tree to see its properties.</source>
+        <translation>Wählen Sie im Baum einen Datensatz aus, um seine Eigenschaften zu sehen.</translation>
+    </message>
+    <message>
+        <source>%1; values in italics differ</source>
+        <translation>%1; kursive Werte unterscheiden sich</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemsButton</name>
+    <message>
+        <source>No problems</source>
+        <translation>Keine Probleme</translation>
+    </message>
+    <message>
+        <source>Problems: %1</source>
+        <translation>Probleme: %1</translation>
+    </message>
+    <message>
+        <source>Show what is wrong with the open files (errors: %1, warnings: %2, notes: %3)</source>
+        <translation>Zeigen, was an den geöffneten Dateien nicht stimmt (Fehler: %1, Warnungen: %2, Hinweise: %3)</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemsDock</name>
+    <message>
+        <source>List errors: the file cannot be saved or used as it stands</source>
+        <translation>Fehler auflisten: die Datei kann so nicht gespeichert oder verwendet werden</translation>
+    </message>
+    <message>
+        <source>List warnings: a part of the model does not do what it says</source>
+        <translation>Warnungen auflisten: ein Teil des Modells tut nicht, was er angibt</translation>
+    </message>
+    <message>
+        <source>List notes: nothing goes wrong</source>
+        <translation>Hinweise auflisten: nichts geht schief</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Fix</source>
+        <translation>&amp;Beheben</translation>
+    </message>
+    <message>
+        <source>Repair what is selected, where there is only one way to do it (Ctrl+.)</source>
+        <translation>Das Ausgewählte beheben, wo es nur einen Weg dazu gibt (Strg+.)</translation>
+    </message>
+    <message>
+        <source>Fix &amp;All of This Kind</source>
+        <translation>&amp;Alle dieser Art beheben</translation>
+    </message>
+    <message>
+        <source>Repair every problem of this kind in this file</source>
+        <translation>Jedes Problem dieser Art in dieser Datei beheben</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Errors: %1</source>
+        <translation>Fehler: %1</translation>
+    </message>
+    <message>
+        <source>Warnings: %1</source>
+        <translation>Warnungen: %1</translation>
+    </message>
+    <message>
+        <source>Notes: %1</source>
+        <translation>Hinweise: %1</translation>
+    </message>
+    <message>
+        <source>No file is open.</source>
+        <translation>Es ist keine Datei geöffnet.</translation>
+    </message>
+    <message>
+        <source>All problems are hidden by the buttons above.</source>
+        <translation>Alle Probleme sind durch die Knöpfe oben ausgeblendet.</translation>
+    </message>
+    <message>
+        <source>No problems found.</source>
+        <translation>Keine Probleme gefunden.</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemsList</name>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Probleme</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Schwere</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Stelle</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyPage</name>
+    <message>
+        <source>Surface %1 Properties</source>
+        <translation>Eigenschaften von Fläche %1</translation>
+    </message>
+    <message>
+        <source>Surface %1 - Triangle Index %2 Properties</source>
+        <translation>Eigenschaften von Fläche %1 - Dreiecksindex %2</translation>
+    </message>
+    <message>
+        <source>Vertex at this corner of the triangle (0 to %1)</source>
+        <translation>Vertex an dieser Ecke des Dreiecks (0 bis %1)</translation>
+    </message>
+    <message>
+        <source>Vertex %1 Properties</source>
+        <translation>Eigenschaften von Vertex %1</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Exporting &apos;%1&apos;</source>
+        <translation>„%1“ wird exportiert</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>These files exist already. Replace them?
+
+%1</source>
+        <translation>Diese Dateien gibt es schon. Sollen sie ersetzt werden?
+
+%1</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>QuestionMenu</name>
+    <message>
+        <source>What Actor is this?</source>
+        <translation>Welcher Akteur ist das?</translation>
+    </message>
+    <message>
+        <source>Actor</source>
+        <translation>Akteur</translation>
+    </message>
+    <message>
+        <source>What Animation is this?</source>
+        <translation>Welche Animation ist das?</translation>
+    </message>
+    <message>
+        <source>Animation</source>
+        <translation>Animation</translation>
+    </message>
+    <message>
+        <source>What Sound is this?</source>
+        <translation>Welcher Klang ist das?</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Klang</translation>
+    </message>
+    <message>
+        <source>What Voice is this?</source>
+        <translation>Welche Stimme ist das?</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Stimme</translation>
+    </message>
+    <message>
+        <source>What Particle is this?</source>
+        <translation>Welcher Partikel ist das?</translation>
+    </message>
+    <message>
+        <source>Particle</source>
+        <translation>Partikel</translation>
+    </message>
+    <message>
+        <source>What Impact Type is this?</source>
+        <translation>Welcher Aufpralltyp ist das?</translation>
+    </message>
+    <message>
+        <source>Impact Types</source>
+        <translation>Aufpralltypen</translation>
+    </message>
+    <message>
+        <source>How much damage is this?</source>
+        <translation>Wie viel Schaden ist das?</translation>
+    </message>
+    <message>
+        <source>Actual Damage</source>
+        <translation>Tatsächlicher Schaden</translation>
+    </message>
+    <message>
+        <source>QObject is not a spinbox or DoubleSpinbox </source>
+        <translation>Das QObject ist weder SpinBox noch DoubleSpinBox </translation>
+    </message>
+    <message>
+        <source>Failed to check Spinbox ID</source>
+        <translation>Die SpinBox konnte nicht geprüft werden</translation>
+    </message>
+    <message>
+        <source>Failed to check DoubleSpinbox ID</source>
+        <translation>Die DoubleSpinBox konnte nicht geprüft werden</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>Schritt &amp;hoch</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>Schritt &amp;runter</translation>
+    </message>
+    <message>
+        <source>%1 is %2 damage (Value is divided by 256)
+
+Head (x10): %3
+Neck (x5): %4
+Body (x1): %2
+Arms and Legs(x0.5): %5
+Hands and Feet(x0.25): %6</source>
+        <translation>%1 ist %2 Schaden (der Wert wird durch 256 geteilt)
+
+Kopf (x10): %3
+Hals (x5): %4
+Rumpf (x1): %2
+Arme und Beine (x0.5): %5
+Hände und Füße (x0.25): %6</translation>
+    </message>
+</context>
+<context>
+    <name>RecentFiles</name>
+    <message>
+        <source>No file was opened yet</source>
+        <translation>Es wurde noch keine Datei geöffnet</translation>
+    </message>
+    <message>
+        <source>&amp;Clear This List</source>
+        <translation>Diese Liste &amp;leeren</translation>
+    </message>
+</context>
+<context>
+    <name>Records</name>
+    <message>
+        <source>Bones (%1)</source>
+        <translation>Knochen (%1)</translation>
+    </message>
+    <message>
+        <source>bone</source>
+        <translation>Knochen</translation>
+    </message>
+    <message>
+        <source>Child Bone Indexes (%1)</source>
+        <translation>Kindknochen-Indizes (%1)</translation>
+    </message>
+    <message>
+        <source>child</source>
+        <translation>Kind</translation>
+    </message>
+    <message>
+        <source>Hot Points (%1)</source>
+        <translation>Hotpoints (%1)</translation>
+    </message>
+    <message>
+        <source>hot point</source>
+        <translation>Hotpoint</translation>
+    </message>
+    <message>
+        <source>Surfaces (%1)</source>
+        <translation>Flächen (%1)</translation>
+    </message>
+    <message>
+        <source>surface</source>
+        <translation>Fläche</translation>
+    </message>
+    <message>
+        <source>Triangle Indexes (%1)</source>
+        <translation>Dreiecksindizes (%1)</translation>
+    </message>
+    <message>
+        <source>triangle index</source>
+        <translation>Dreiecksindex</translation>
+    </message>
+    <message>
+        <source>Vertices (%1)</source>
+        <translation>Vertices (%1)</translation>
+    </message>
+    <message>
+        <source>vertex</source>
+        <translation>Vertex</translation>
+    </message>
+    <message>
+        <source>Anim %1</source>
+        <translation>Anim %1</translation>
+    </message>
+    <message>
+        <source>anim</source>
+        <translation>Anim</translation>
+    </message>
+    <message>
+        <source>Frames (%1)</source>
+        <translation>Frames (%1)</translation>
+    </message>
+    <message>
+        <source>Frame %1</source>
+        <translation>Frame %1</translation>
+    </message>
+    <message>
+        <source>frame</source>
+        <translation>Frame</translation>
+    </message>
+    <message>
+        <source>Translations (%1)</source>
+        <translation>Translationen (%1)</translation>
+    </message>
+    <message>
+        <source>Track %1</source>
+        <translation>Spur %1</translation>
+    </message>
+    <message>
+        <source>translation track</source>
+        <translation>Translationsspur</translation>
+    </message>
+    <message>
+        <source>Rotations (%1)</source>
+        <translation>Rotationen (%1)</translation>
+    </message>
+    <message>
+        <source>rotation track</source>
+        <translation>Rotationsspur</translation>
+    </message>
+    <message>
+        <source>Key Frame Actions (%1)</source>
+        <translation>Keyframe-Aktionen (%1)</translation>
+    </message>
+    <message>
+        <source>action</source>
+        <translation>Aktion</translation>
+    </message>
+</context>
+<context>
+    <name>RecoverDialog</name>
+    <message>
+        <source>Recover</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Unsaved work that Korvane has kept. Restoring opens it as a modified document; its file changes only when you save.</source>
+        <translation>Nicht gespeicherte Arbeit, die Korvane aufgehoben hat. Das Wiederherstellen öffnet sie als geändertes Dokument; seine Datei ändert sich erst, wenn Sie speichern.</translation>
+    </message>
+    <message>
+        <source>Kept documents</source>
+        <translation>Aufgehobene Dokumente</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <translation>Aufgehoben</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Give up the selected documents for good</source>
+        <translation>Die ausgewählten Dokumente endgültig aufgeben</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Open the selected documents, one of a kind</source>
+        <translation>Die ausgewählten Dokumente öffnen, eines je Art</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>(never saved)</source>
+        <translation>(nie gespeichert)</translation>
+    </message>
+    <message>
+        <source>There is no unsaved work beside what is open now.</source>
+        <translation>Es gibt keine nicht gespeicherte Arbeit außer dem, was jetzt geöffnet ist.</translation>
+    </message>
+    <message>
+        <source>Delete what was kept of &apos;%1&apos;?</source>
+        <translation>Löschen, was von „%1“ aufgehoben wurde?</translation>
+    </message>
+    <message>
+        <source>Delete what was kept of %1 documents?</source>
+        <translation>Löschen, was von %1 Dokumenten aufgehoben wurde?</translation>
+    </message>
+    <message>
+        <source>This cannot be undone.</source>
+        <translation>Dies kann nicht rückgängig gemacht werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Recovery</name>
+    <message>
+        <source>[Recovery] &apos;%1&apos; is not kept as long as it cannot be saved: %2</source>
+        <translation>[Wiederherstellung] „%1“ wird nicht aufgehoben, solange es nicht gespeichert werden kann: %2</translation>
+    </message>
+    <message>
+        <source>[Recovery] Unsaved work cannot be kept: %1</source>
+        <translation>[Wiederherstellung] Nicht gespeicherte Arbeit kann nicht aufgehoben werden: %1</translation>
+    </message>
+    <message>
+        <source>[Recovery] What was kept of &apos;%1&apos; is damaged</source>
+        <translation>[Wiederherstellung] Was von „%1“ aufgehoben wurde, ist beschädigt</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryPrompt</name>
+    <message>
+        <source>Open the newest of each kind as a modified document</source>
+        <translation>Das neueste jeder Art als geändertes Dokument öffnen</translation>
+    </message>
+    <message>
+        <source>List all kept work, to restore or delete it</source>
+        <translation>Alle aufgehobene Arbeit auflisten, um sie wiederherzustellen oder zu löschen</translation>
+    </message>
+    <message>
+        <source>Delete this kept work; files are not touched</source>
+        <translation>Diese aufgehobene Arbeit löschen; Dateien bleiben unberührt</translation>
+    </message>
+    <message>
+        <source>Show what was written down when Korvane ended</source>
+        <translation>Zeigen, was festgehalten wurde, als Korvane endete</translation>
+    </message>
+    <message>
+        <source>Hide; File &gt; Recover… lists what is kept</source>
+        <translation>Ausblenden; Datei &gt; Wiederherstellen… listet auf, was aufgehoben ist</translation>
+    </message>
+    <message>
+        <source>Korvane ended unexpectedly. A report was written here; nothing was sent.</source>
+        <translation>Korvane wurde unerwartet beendet. Hier wurde ein Bericht geschrieben; gesendet wurde nichts.</translation>
+    </message>
+    <message>
+        <source>Korvane ended unexpectedly. It has kept unsaved work from %1: %2</source>
+        <translation>Korvane wurde unerwartet beendet. Es hat nicht gespeicherte Arbeit von %1 aufgehoben: %2</translation>
+    </message>
+    <message>
+        <source>Korvane has kept unsaved work from %1: %2</source>
+        <translation>Korvane hat nicht gespeicherte Arbeit von %1 aufgehoben: %2</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Show All…</source>
+        <translation>Alle zeigen…</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Show Report</source>
+        <translation>Bericht zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>ReferenceTable</name>
+    <message>
+        <source>Unable to read database file at %1</source>
+        <translation>Die Datenbankdatei %1 kann nicht gelesen werden</translation>
+    </message>
+</context>
+<context>
+    <name>ReloadPrompt</name>
+    <message>
+        <source>Open the file anew</source>
+        <translation>Die Datei neu öffnen</translation>
+    </message>
+    <message>
+        <source>Go on with what is open; saving replaces the file</source>
+        <translation>Mit dem weiterarbeiten, was geöffnet ist; Speichern ersetzt die Datei</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; was changed by another program.</source>
+        <translation>„%1“ wurde von einem anderen Programm geändert.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; was removed by another program. Saving writes it anew.</source>
+        <translation>„%1“ wurde von einem anderen Programm entfernt. Speichern schreibt es neu.</translation>
+    </message>
+    <message>
+        <source>Load &apos;%1&apos; anew, without your unsaved changes?
+
+File &gt; Recover… keeps a copy of them.</source>
+        <translation>„%1“ neu laden, ohne Ihre nicht gespeicherten Änderungen?
+
+Datei &gt; Wiederherstellen… hebt eine Kopie davon auf.</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Nicht gespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Neu laden</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behalten</translation>
+    </message>
+</context>
+<context>
+    <name>RotateDialog</name>
+    <message>
+        <source>Rotate</source>
+        <translation>Drehen</translation>
+    </message>
+    <message>
+        <source>Degrees about the model&apos;s y axis</source>
+        <translation>Grad um die y-Achse des Modells</translation>
+    </message>
+    <message>
+        <source>-90</source>
+        <translation>-90</translation>
+    </message>
+    <message>
+        <source>Turn by -90 degrees at once</source>
+        <translation>Sofort um -90 Grad drehen</translation>
+    </message>
+    <message>
+        <source>+90</source>
+        <translation>+90</translation>
+    </message>
+    <message>
+        <source>Turn by +90 degrees at once</source>
+        <translation>Sofort um +90 Grad drehen</translation>
+    </message>
+    <message>
+        <source>Degrees about the model&apos;s x axis</source>
+        <translation>Grad um die x-Achse des Modells</translation>
+    </message>
+    <message>
+        <source>Degrees about the model&apos;s z axis</source>
+        <translation>Grad um die z-Achse des Modells</translation>
+    </message>
+    <message>
+        <source>&amp;Yaw</source>
+        <translation>&amp;Gieren</translation>
+    </message>
+    <message>
+        <source>Yaw: -90 degrees</source>
+        <translation>Gieren: -90 Grad</translation>
+    </message>
+    <message>
+        <source>Yaw: +90 degrees</source>
+        <translation>Gieren: +90 Grad</translation>
+    </message>
+    <message>
+        <source>&amp;Pitch</source>
+        <translation>&amp;Nicken</translation>
+    </message>
+    <message>
+        <source>Pitch: -90 degrees</source>
+        <translation>Nicken: -90 Grad</translation>
+    </message>
+    <message>
+        <source>Pitch: +90 degrees</source>
+        <translation>Nicken: +90 Grad</translation>
+    </message>
+    <message>
+        <source>&amp;Roll</source>
+        <translation>&amp;Rollen</translation>
+    </message>
+    <message>
+        <source>Roll: -90 degrees</source>
+        <translation>Rollen: -90 Grad</translation>
+    </message>
+    <message>
+        <source>Roll: +90 degrees</source>
+        <translation>Rollen: +90 Grad</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Anwenden</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+</context>
+<context>
+    <name>ScaleDialog</name>
+    <message>
+        <source>Scale</source>
+        <translation>Skalierung</translation>
+    </message>
+    <message>
+        <source>The factor for every position and box</source>
+        <translation>Der Faktor für jede Position und Box</translation>
+    </message>
+    <message>
+        <source>&amp;Scale</source>
+        <translation>&amp;Skalierung</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Anwenden</translation>
+    </message>
+</context>
+<context>
+    <name>ServerListQuery</name>
+    <message>
+        <source>the look-up takes too long</source>
+        <translation>die Namensauflösung dauert zu lange</translation>
+    </message>
+    <message>
+        <source>The master server did not answer.</source>
+        <translation>Der Master-Server hat nicht geantwortet.</translation>
+    </message>
+    <message>
+        <source>[Query Servers] No master server is set</source>
+        <translation>[Serverabfrage] Es ist kein Master-Server eingestellt</translation>
+    </message>
+    <message>
+        <source>No master server is set. Its name belongs under MasterServerHost in %1.</source>
+        <translation>Es ist kein Master-Server eingestellt. Sein Name gehört unter MasterServerHost in %1.</translation>
+    </message>
+    <message>
+        <source>Failed to obtain address from %1 - %2</source>
+        <translation>Die Adresse von %1 war nicht zu ermitteln - %2</translation>
+    </message>
+    <message>
+        <source>The master server %1 was not found.</source>
+        <translation>Der Master-Server %1 wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>Found address: %1</source>
+        <translation>Adresse gefunden: %1</translation>
+    </message>
+    <message>
+        <source>sending server list request %1</source>
+        <translation>Anfrage nach der Serverliste wird gesendet: %1</translation>
+    </message>
+    <message>
+        <source>The request could not be sent: %1.</source>
+        <translation>Die Anfrage konnte nicht gesendet werden: %1.</translation>
+    </message>
+    <message>
+        <source>Received list of all Servers</source>
+        <translation>Liste aller Server erhalten</translation>
+    </message>
+    <message>
+        <source>[Query Servers] Stopped at %1 servers</source>
+        <translation>[Serverabfrage] Bei %1 Servern abgebrochen</translation>
+    </message>
+    <message>
+        <source>Found Server: %1</source>
+        <translation>Server gefunden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ServersDock</name>
+    <message>
+        <source>Servers</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Address</source>
+        <translation>Adresse &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the addresses and ports of the selected servers</source>
+        <translation>Die Adressen und Ports der ausgewählten Server kopieren</translation>
+    </message>
+    <message>
+        <source>1 server</source>
+        <translation>1 Server</translation>
+    </message>
+    <message>
+        <source>%1 servers</source>
+        <translation>%1 Server</translation>
+    </message>
+    <message>
+        <source>No query yet.</source>
+        <translation>Noch keine Abfrage.</translation>
+    </message>
+    <message>
+        <source>Asking the master server…</source>
+        <translation>Der Master-Server wird gefragt…</translation>
+    </message>
+    <message>
+        <source>Asking the master server… %1</source>
+        <translation>Der Master-Server wird gefragt… %1</translation>
+    </message>
+    <message>
+        <source>No server is running.</source>
+        <translation>Es läuft kein Server.</translation>
+    </message>
+    <message>
+        <source>Copied &quot;%1&quot;</source>
+        <translation>„%1“ kopiert</translation>
+    </message>
+    <message>
+        <source>Copied %1 addresses</source>
+        <translation>%1 Adressen kopiert</translation>
+    </message>
+</context>
+<context>
+    <name>SkinnedMeshCnodePage</name>
+    <message>
+        <source>Child Bone</source>
+        <translation>Kindknochen</translation>
+    </message>
+    <message>
+        <source>&amp;Index</source>
+        <translation>&amp;Index</translation>
+    </message>
+    <message>
+        <source>Bone that hangs on this one and moves with it (0 to 65535)</source>
+        <translation>Knochen, der an diesem hängt und sich mit ihm bewegt (0 bis 65535)</translation>
+    </message>
+    <message>
+        <source>Bone %1 - Child Bone Index %2 Properties</source>
+        <translation>Eigenschaften von Knochen %1 - Kindknochen-Index %2</translation>
+    </message>
+    <message>
+        <source>Child Bone Index</source>
+        <translation>Kindknochen-Index</translation>
+    </message>
+</context>
+<context>
+    <name>SkinnedMeshHPPage</name>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>&amp;Position On Bone</source>
+        <translation>&amp;Position am Knochen</translation>
+    </message>
+    <message>
+        <source>in local model space</source>
+        <translation>im lokalen Modellraum</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Position On Bone X</source>
+        <translation>Position am Knochen X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Position On Bone Y</source>
+        <translation>Position am Knochen Y</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>Position On Bone Z</source>
+        <translation>Position am Knochen Z</translation>
+    </message>
+    <message>
+        <source>Bone</source>
+        <translation>Knochen</translation>
+    </message>
+    <message>
+        <source>&amp;Bone ID</source>
+        <translation>&amp;Knochen-ID</translation>
+    </message>
+    <message>
+        <source>which bone to associate this hotpoint to</source>
+        <translation>zu welchem Knochen dieser Hotpoint gehört</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Wirkungen</translation>
+    </message>
+    <message>
+        <source>&amp;Deal Damage</source>
+        <translation>&amp;Schaden verursachen</translation>
+    </message>
+    <message>
+        <source>Deals damage instead of spawning a first particle effect</source>
+        <translation>Verursacht Schaden, statt einen ersten Partikeleffekt zu erzeugen</translation>
+    </message>
+    <message>
+        <source>Particle Effect &amp;1 ID</source>
+        <translation>ID Partikeleffekt &amp;1</translation>
+    </message>
+    <message>
+        <source>Particle that the hot point spawns (0 to 65535; 65535 deals damage instead)</source>
+        <translation>Partikel, den der Hotpoint erzeugt (0 bis 65535; 65535 verursacht stattdessen Schaden)</translation>
+    </message>
+    <message>
+        <source>Particle Effect &amp;2 ID</source>
+        <translation>ID Partikeleffekt &amp;2</translation>
+    </message>
+    <message>
+        <source>Second particle that the hot point spawns (0 to 65535), or the damage that it deals</source>
+        <translation>Zweiter Partikel, den der Hotpoint erzeugt (0 bis 65535), oder der Schaden, den er verursacht</translation>
+    </message>
+    <message>
+        <source>The Hot Point Bits</source>
+        <translation>Die Hotpoint-Bits</translation>
+    </message>
+    <message>
+        <source>The Hot Point Bits: key frame actions turn hot points on and off by them</source>
+        <translation>Die Hotpoint-Bits: Keyframe-Aktionen schalten Hotpoints damit ein und aus</translation>
+    </message>
+    <message>
+        <source>Hot Point %1 Properties</source>
+        <translation>Eigenschaften von Hotpoint %1</translation>
+    </message>
+    <message>
+        <source>Hot Point Origin %1</source>
+        <translation>Hotpoint: Ursprung %1</translation>
+    </message>
+    <message>
+        <source>Hot Point BoneID</source>
+        <translation>Hotpoint: Knochen-ID</translation>
+    </message>
+    <message>
+        <source>Hot Point Particle Effect 1</source>
+        <translation>Hotpoint: Partikeleffekt 1</translation>
+    </message>
+    <message>
+        <source>Hot Point Particle Effect 2</source>
+        <translation>Hotpoint: Partikeleffekt 2</translation>
+    </message>
+    <message>
+        <source>Hot Point Flags</source>
+        <translation>Hotpoint: Flags</translation>
+    </message>
+    <message>
+        <source>Damage</source>
+        <translation>Schaden</translation>
+    </message>
+</context>
+<context>
+    <name>SkinnedMeshNodePage</name>
+    <message>
+        <source>Symbol</source>
+        <translation>Symbol</translation>
+    </message>
+    <message>
+        <source>The part of the body that the bone belongs to</source>
+        <translation>Der Körperteil, zu dem der Knochen gehört</translation>
+    </message>
+    <message>
+        <source>&amp;Side</source>
+        <translation>&amp;Seite</translation>
+    </message>
+    <message>
+        <source>The side of the body, from the character&apos;s own view</source>
+        <translation>Die Seite des Körpers, aus der Sicht der Figur</translation>
+    </message>
+    <message>
+        <source>&amp;Part</source>
+        <translation>Te&amp;il</translation>
+    </message>
+    <message>
+        <source>Which bone of that part of the body</source>
+        <translation>Welcher Knochen dieses Körperteils</translation>
+    </message>
+    <message>
+        <source>Bone</source>
+        <translation>Knochen</translation>
+    </message>
+    <message>
+        <source>Parent &amp;Bone</source>
+        <translation>Eltern&amp;knochen</translation>
+    </message>
+    <message>
+        <source>Index of the parent bone; 255 for none</source>
+        <translation>Index des Elternknochens; 255 für keinen</translation>
+    </message>
+    <message>
+        <source>&amp;Impact Type</source>
+        <translation>Auf&amp;pralltyp</translation>
+    </message>
+    <message>
+        <source>What the bone is made of: sound and particles of a hit</source>
+        <translation>Woraus der Knochen besteht: Klang und Partikel eines Treffers</translation>
+    </message>
+    <message>
+        <source>&amp;Damage Scale</source>
+        <translation>Schadens&amp;faktor</translation>
+    </message>
+    <message>
+        <source>Factor on the damage of a hit on this bone</source>
+        <translation>Faktor für den Schaden eines Treffers an diesem Knochen</translation>
+    </message>
+    <message>
+        <source>Bounding Box</source>
+        <translation>Begrenzungsbox</translation>
+    </message>
+    <message>
+        <source>Mi&amp;n</source>
+        <translation>Mi&amp;n</translation>
+    </message>
+    <message>
+        <source>Smallest corner of the bone&apos;s box, in the bone&apos;s space</source>
+        <translation>Kleinste Ecke der Box des Knochens, im Raum des Knochens</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Min X</source>
+        <translation>Min X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Min Y</source>
+        <translation>Min Y</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>Min Z</source>
+        <translation>Min Z</translation>
+    </message>
+    <message>
+        <source>M&amp;ax</source>
+        <translation>&amp;Max</translation>
+    </message>
+    <message>
+        <source>Largest corner of the bone&apos;s box, in the bone&apos;s space</source>
+        <translation>Größte Ecke der Box des Knochens, im Raum des Knochens</translation>
+    </message>
+    <message>
+        <source>Max X</source>
+        <translation>Max X</translation>
+    </message>
+    <message>
+        <source>Max Y</source>
+        <translation>Max Y</translation>
+    </message>
+    <message>
+        <source>Max Z</source>
+        <translation>Max Z</translation>
+    </message>
+    <message>
+        <source>Flags</source>
+        <translation>Flags</translation>
+    </message>
+    <message>
+        <source>The bone&apos;s 32 flags</source>
+        <translation>Die 32 Flags des Knochens</translation>
+    </message>
+    <message>
+        <source>Bone Flags</source>
+        <translation>Knochen-Flags</translation>
+    </message>
+    <message>
+        <source>Bone %1 Properties</source>
+        <translation>Eigenschaften von Knochen %1</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Bone Symbol Flags</source>
+        <translation>Knochen: Symbol-Flags</translation>
+    </message>
+    <message>
+        <source>Parent Bone Index</source>
+        <translation>Knochen: Elternknochen-Index</translation>
+    </message>
+    <message>
+        <source>Bone Impact Type</source>
+        <translation>Knochen: Aufpralltyp</translation>
+    </message>
+    <message>
+        <source>Bone Damage Scale</source>
+        <translation>Knochen: Schadensfaktor</translation>
+    </message>
+    <message>
+        <source>Bone Bounding Box Min %1</source>
+        <translation>Knochen: Begrenzungsbox Min %1</translation>
+    </message>
+    <message>
+        <source>Bone Bounding Box Max %1</source>
+        <translation>Knochen: Begrenzungsbox Max %1</translation>
+    </message>
+    <message>
+        <source>T&amp;ype</source>
+        <translation>&amp;Typ</translation>
+    </message>
+</context>
+<context>
+    <name>SkinnedMeshPage</name>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Format version, kept as it stands in the file</source>
+        <translation>Formatversion, bleibt so, wie sie in der Datei steht</translation>
+    </message>
+    <message>
+        <source>Header Values</source>
+        <translation>Kopfwerte</translation>
+    </message>
+    <message>
+        <source>Two numbers of the file whose meaning is not known; kept as they stand</source>
+        <translation>Zwei Zahlen der Datei, deren Bedeutung nicht bekannt ist; sie bleiben, wie sie sind</translation>
+    </message>
+    <message>
+        <source>Bounding Box</source>
+        <translation>Begrenzungsbox</translation>
+    </message>
+    <message>
+        <source>Bounding Box M&amp;in</source>
+        <translation>Begrenzungsbox Mi&amp;n</translation>
+    </message>
+    <message>
+        <source>Smallest corner of the whole model, in game units (z is up)</source>
+        <translation>Kleinste Ecke des ganzen Modells, in Spieleinheiten (z zeigt nach oben)</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Bounding Box Min X</source>
+        <translation>Begrenzungsbox Min X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Bounding Box Min Y</source>
+        <translation>Begrenzungsbox Min Y</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>Bounding Box Min Z</source>
+        <translation>Begrenzungsbox Min Z</translation>
+    </message>
+    <message>
+        <source>Bounding Box M&amp;ax</source>
+        <translation>Begrenzungsbox &amp;Max</translation>
+    </message>
+    <message>
+        <source>Largest corner of the whole model, in game units (z is up)</source>
+        <translation>Größte Ecke des ganzen Modells, in Spieleinheiten (z zeigt nach oben)</translation>
+    </message>
+    <message>
+        <source>Bounding Box Max X</source>
+        <translation>Begrenzungsbox Max X</translation>
+    </message>
+    <message>
+        <source>Bounding Box Max Y</source>
+        <translation>Begrenzungsbox Max Y</translation>
+    </message>
+    <message>
+        <source>Bounding Box Max Z</source>
+        <translation>Begrenzungsbox Max Z</translation>
+    </message>
+    <message>
+        <source>Head Track</source>
+        <translation>Kopfdrehung</translation>
+    </message>
+    <message>
+        <source>&amp;Start Bone</source>
+        <translation>&amp;Startknochen</translation>
+    </message>
+    <message>
+        <source>First bone that turns when the character looks at something</source>
+        <translation>Erster Knochen, der sich dreht, wenn die Figur etwas ansieht</translation>
+    </message>
+    <message>
+        <source>Last bone that turns when the character looks at something</source>
+        <translation>Letzter Knochen, der sich dreht, wenn die Figur etwas ansieht</translation>
+    </message>
+    <message>
+        <source>How far the head turns (-128 to 127)</source>
+        <translation>Wie weit sich der Kopf dreht (-128 bis 127)</translation>
+    </message>
+    <message>
+        <source>Skinned Mesh</source>
+        <translation>Skin-Netz</translation>
+    </message>
+    <message>
+        <source>En&amp;d Bone</source>
+        <translation>&amp;Endknochen</translation>
+    </message>
+    <message>
+        <source>Fa&amp;ctor</source>
+        <translation>&amp;Faktor</translation>
+    </message>
+</context>
+<context>
+    <name>SkinnedMeshSurfacePage</name>
+    <message>
+        <source>Surface Material</source>
+        <translation>Fläche: Material</translation>
+    </message>
+</context>
+<context>
+    <name>SkinnedMeshTriIndexPage</name>
+    <message>
+        <source>Triangle Index</source>
+        <translation>Dreiecksindex</translation>
+    </message>
+</context>
+<context>
+    <name>SkinnedMeshVertPage</name>
+    <message>
+        <source>Place of the vertex in the space of its bone, in game units</source>
+        <translation>Ort des Vertex im Raum seines Knochens, in Spieleinheiten</translation>
+    </message>
+    <message>
+        <source>Vertex Position %1</source>
+        <translation>Vertex: Position %1</translation>
+    </message>
+    <message>
+        <source>Vertex Normal %1</source>
+        <translation>Vertex: Normale %1</translation>
+    </message>
+    <message>
+        <source>Vertex UV %1</source>
+        <translation>Vertex: UV %1</translation>
+    </message>
+    <message>
+        <source>Vertex Bone Index</source>
+        <translation>Vertex: Knochenindex</translation>
+    </message>
+</context>
+<context>
+    <name>SnapshotStore</name>
+    <message>
+        <source>[Recovery] Unsaved work cannot be kept in &apos;%1&apos;</source>
+        <translation>[Wiederherstellung] Nicht gespeicherte Arbeit kann in „%1“ nicht aufgehoben werden</translation>
+    </message>
+    <message>
+        <source>[Recovery] &apos;%1&apos; is damaged and was left out</source>
+        <translation>[Wiederherstellung] „%1“ ist beschädigt und wurde ausgelassen</translation>
+    </message>
+</context>
+<context>
+    <name>StaticMeshPage</name>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Format version, kept as it stands in the file</source>
+        <translation>Formatversion, bleibt so, wie sie in der Datei steht</translation>
+    </message>
+    <message>
+        <source>Bounding Box</source>
+        <translation>Begrenzungsbox</translation>
+    </message>
+    <message>
+        <source>Bounding Box M&amp;in</source>
+        <translation>Begrenzungsbox Mi&amp;n</translation>
+    </message>
+    <message>
+        <source>Smallest corner of the whole model, in game units (z is up)</source>
+        <translation>Kleinste Ecke des ganzen Modells, in Spieleinheiten (z zeigt nach oben)</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Bounding Box Min X</source>
+        <translation>Begrenzungsbox Min X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Bounding Box Min Y</source>
+        <translation>Begrenzungsbox Min Y</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>Bounding Box Min Z</source>
+        <translation>Begrenzungsbox Min Z</translation>
+    </message>
+    <message>
+        <source>Bounding Box M&amp;ax</source>
+        <translation>Begrenzungsbox &amp;Max</translation>
+    </message>
+    <message>
+        <source>Largest corner of the whole model, in game units (z is up)</source>
+        <translation>Größte Ecke des ganzen Modells, in Spieleinheiten (z zeigt nach oben)</translation>
+    </message>
+    <message>
+        <source>Bounding Box Max X</source>
+        <translation>Begrenzungsbox Max X</translation>
+    </message>
+    <message>
+        <source>Bounding Box Max Y</source>
+        <translation>Begrenzungsbox Max Y</translation>
+    </message>
+    <message>
+        <source>Bounding Box Max Z</source>
+        <translation>Begrenzungsbox Max Z</translation>
+    </message>
+    <message>
+        <source>Static Mesh</source>
+        <translation>Statisches Netz</translation>
+    </message>
+</context>
+<context>
+    <name>StaticMeshSurfacePage</name>
+    <message>
+        <source>Surface Material</source>
+        <translation>Fläche: Material</translation>
+    </message>
+</context>
+<context>
+    <name>StaticMeshTriIndexPage</name>
+    <message>
+        <source>Triangle Index</source>
+        <translation>Dreiecksindex</translation>
+    </message>
+</context>
+<context>
+    <name>StaticMeshVertPage</name>
+    <message>
+        <source>Place of the vertex in the model, in game units (z is up)</source>
+        <translation>Ort des Vertex im Modell, in Spieleinheiten (z zeigt nach oben)</translation>
+    </message>
+    <message>
+        <source>Vertex Position %1</source>
+        <translation>Vertex: Position %1</translation>
+    </message>
+    <message>
+        <source>Vertex Normal %1</source>
+        <translation>Vertex: Normale %1</translation>
+    </message>
+    <message>
+        <source>Vertex UV %1</source>
+        <translation>Vertex: UV %1</translation>
+    </message>
+</context>
+<context>
+    <name>StructureActions</name>
+    <message>
+        <source>Add Hot Point</source>
+        <translation>Hotpoint hinzufügen</translation>
+    </message>
+    <message>
+        <source>Paste Hot Point</source>
+        <translation>Hotpoint einfügen</translation>
+    </message>
+    <message>
+        <source>Remove Hot Point</source>
+        <translation>Hotpoint entfernen</translation>
+    </message>
+    <message>
+        <source>Copy Hot Point</source>
+        <translation>Hotpoint kopieren</translation>
+    </message>
+    <message>
+        <source>Copy Bone Flags</source>
+        <translation>Knochen-Flags kopieren</translation>
+    </message>
+    <message>
+        <source>Add Animation</source>
+        <translation>Animation hinzufügen</translation>
+    </message>
+    <message>
+        <source>Paste Animation</source>
+        <translation>Animation einfügen</translation>
+    </message>
+    <message>
+        <source>Remove Animation</source>
+        <translation>Animation entfernen</translation>
+    </message>
+    <message>
+        <source>Copy Animation</source>
+        <translation>Animation kopieren</translation>
+    </message>
+    <message>
+        <source>Add Key Frame Action</source>
+        <translation>Keyframe-Aktion hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove Key Frame Action</source>
+        <translation>Keyframe-Aktion entfernen</translation>
+    </message>
+    <message>
+        <source>Change Frame Count…</source>
+        <translation>Zahl der Frames ändern…</translation>
+    </message>
+    <message>
+        <source>Change Translation Count…</source>
+        <translation>Zahl der Translationen ändern…</translation>
+    </message>
+    <message>
+        <source>Change Rotation Count…</source>
+        <translation>Zahl der Rotationen ändern…</translation>
+    </message>
+    <message>
+        <source>&amp;Expand All Below</source>
+        <translation>Alles darunter &amp;aufklappen</translation>
+    </message>
+    <message>
+        <source>&amp;Collapse All Below</source>
+        <translation>Alles darunter &amp;zuklappen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Frame Count</source>
+        <translation>Zahl der Frames</translation>
+    </message>
+    <message>
+        <source>Translation Count</source>
+        <translation>Zahl der Translationen</translation>
+    </message>
+    <message>
+        <source>Rotation Count</source>
+        <translation>Zahl der Rotationen</translation>
+    </message>
+</context>
+<context>
+    <name>SurfacePage</name>
+    <message>
+        <source>Surface</source>
+        <translation>Fläche</translation>
+    </message>
+    <message>
+        <source>&amp;Material</source>
+        <translation>&amp;Material</translation>
+    </message>
+    <message>
+        <source>Folder and file of the .kmat file, then the material&apos;s name: materials/mat_house/colormap</source>
+        <translation>Ordner und Datei der .kmat-Datei, dann der Name des Materials: materials/mat_house/colormap</translation>
+    </message>
+    <message>
+        <source>Triangles</source>
+        <translation>Dreiecke</translation>
+    </message>
+    <message>
+        <source>Number of triangles of the surface</source>
+        <translation>Anzahl der Dreiecke der Fläche</translation>
+    </message>
+</context>
+<context>
+    <name>TrackSlider</name>
+    <message>
+        <source>Action %1: %2</source>
+        <translation>Aktion %1: %2</translation>
+    </message>
+    <message>
+        <source>Frame %1
+%2</source>
+        <translation>Frame %1
+%2</translation>
+    </message>
+    <message>
+        <source>Arg %1</source>
+        <translation>Arg %1</translation>
+    </message>
+</context>
+<context>
+    <name>TriIndexPage</name>
+    <message>
+        <source>Triangle Index</source>
+        <translation>Dreiecksindex</translation>
+    </message>
+    <message>
+        <source>&amp;Index</source>
+        <translation>&amp;Index</translation>
+    </message>
+    <message>
+        <source>Corner</source>
+        <translation>Ecke</translation>
+    </message>
+    <message>
+        <source>Which corner of which triangle of the surface this is; a triangle has three</source>
+        <translation>Welche Ecke welches Dreiecks der Fläche dies ist; ein Dreieck hat drei</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialsTab</name>
+    <message>
+        <source>Tutorials</source>
+        <translation>Anleitungen</translation>
+    </message>
+    <message>
+        <source>Tutorial</source>
+        <translation>Anleitung</translation>
+    </message>
+</context>
+<context>
+    <name>UndoActions</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>Wieder&amp;holen</translation>
+    </message>
+</context>
+<context>
+    <name>UndoCommands</name>
+    <message>
+        <source>Animation AnimID</source>
+        <translation>Animation: Anim-ID</translation>
+    </message>
+    <message>
+        <source>Animation Frame Scale</source>
+        <translation>Animation: Frame-Skalierung</translation>
+    </message>
+    <message>
+        <source>Animation Blend Length</source>
+        <translation>Animation: Überblendlänge</translation>
+    </message>
+    <message>
+        <source>Animation Blend Start</source>
+        <translation>Animation: Überblendstart</translation>
+    </message>
+    <message>
+        <source>Animation Blend End</source>
+        <translation>Animation: Überblendende</translation>
+    </message>
+    <message>
+        <source>Animation Speed</source>
+        <translation>Animation: Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Animation Loop Frame</source>
+        <translation>Animation: Schleifen-Frame</translation>
+    </message>
+    <message>
+        <source>Bone Translation Index</source>
+        <translation>Knochen: Translationsindex</translation>
+    </message>
+    <message>
+        <source>Bone Rotation Index</source>
+        <translation>Knochen: Rotationsindex</translation>
+    </message>
+    <message>
+        <source>Bone Initial Translation</source>
+        <translation>Knochen: Anfangstranslation</translation>
+    </message>
+    <message>
+        <source>Bone Initial Rotation</source>
+        <translation>Knochen: Anfangsrotation</translation>
+    </message>
+    <message>
+        <source>Frame Yaw Offset</source>
+        <translation>Frame: Gierversatz</translation>
+    </message>
+    <message>
+        <source>Translation</source>
+        <translation>Translation</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>Key Frame Action Frame</source>
+        <translation>Keyframe-Aktion: Frame</translation>
+    </message>
+    <message>
+        <source>Key Frame Action Bone</source>
+        <translation>Keyframe-Aktion: Knochen</translation>
+    </message>
+    <message>
+        <source>Key Frame Action Offset</source>
+        <translation>Keyframe-Aktion: Versatz</translation>
+    </message>
+    <message>
+        <source>Key Frame Action Event Type</source>
+        <translation>Keyframe-Aktion: Ereignistyp</translation>
+    </message>
+    <message>
+        <source>Key Frame Action Args</source>
+        <translation>Keyframe-Aktion: Argumente</translation>
+    </message>
+    <message>
+        <source>Add Key Frame Action</source>
+        <translation>Keyframe-Aktion hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove Key Frame Action</source>
+        <translation>Keyframe-Aktion entfernen</translation>
+    </message>
+    <message>
+        <source>Add Animation</source>
+        <translation>Animation hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove Animation</source>
+        <translation>Animation entfernen</translation>
+    </message>
+    <message>
+        <source>Paste Animation</source>
+        <translation>Animation einfügen</translation>
+    </message>
+    <message>
+        <source>Fix %1 Problems</source>
+        <translation>%1 Probleme beheben</translation>
+    </message>
+    <message>
+        <source>Bounding Box Min</source>
+        <translation>Begrenzungsbox Min</translation>
+    </message>
+    <message>
+        <source>Bounding Box Max</source>
+        <translation>Begrenzungsbox Max</translation>
+    </message>
+    <message>
+        <source>Head Track Start Bone</source>
+        <translation>Kopfdrehung: Startknochen</translation>
+    </message>
+    <message>
+        <source>Head Track End Bone</source>
+        <translation>Kopfdrehung: Endknochen</translation>
+    </message>
+    <message>
+        <source>Head Track Factor</source>
+        <translation>Kopfdrehung: Faktor</translation>
+    </message>
+    <message>
+        <source>Child Bone Index</source>
+        <translation>Kindknochen-Index</translation>
+    </message>
+    <message>
+        <source>Hot Point Origin</source>
+        <translation>Hotpoint: Ursprung</translation>
+    </message>
+    <message>
+        <source>Hot Point Flags</source>
+        <translation>Hotpoint: Flags</translation>
+    </message>
+    <message>
+        <source>Hot Point BoneID</source>
+        <translation>Hotpoint: Knochen-ID</translation>
+    </message>
+    <message>
+        <source>Hot Point Particle Effect</source>
+        <translation>Hotpoint: Partikeleffekt</translation>
+    </message>
+    <message>
+        <source>Bone Bounding Box Min</source>
+        <translation>Knochen: Begrenzungsbox Min</translation>
+    </message>
+    <message>
+        <source>Bone Bounding Box Max</source>
+        <translation>Knochen: Begrenzungsbox Max</translation>
+    </message>
+    <message>
+        <source>Bone Symbol Flags</source>
+        <translation>Knochen: Symbol-Flags</translation>
+    </message>
+    <message>
+        <source>Bone Impact Type</source>
+        <translation>Knochen: Aufpralltyp</translation>
+    </message>
+    <message>
+        <source>Parent Bone Index</source>
+        <translation>Knochen: Elternknochen-Index</translation>
+    </message>
+    <message>
+        <source>Bone Damage Scale</source>
+        <translation>Knochen: Schadensfaktor</translation>
+    </message>
+    <message>
+        <source>Bone Flags</source>
+        <translation>Knochen-Flags</translation>
+    </message>
+    <message>
+        <source>Surface Material</source>
+        <translation>Fläche: Material</translation>
+    </message>
+    <message>
+        <source>Triangle Index</source>
+        <translation>Dreiecksindex</translation>
+    </message>
+    <message>
+        <source>Vertex Bone Index</source>
+        <translation>Vertex: Knochenindex</translation>
+    </message>
+    <message>
+        <source>Vertex Position</source>
+        <translation>Vertex: Position</translation>
+    </message>
+    <message>
+        <source>Vertex UV</source>
+        <translation>Vertex: UV</translation>
+    </message>
+    <message>
+        <source>Vertex Normal</source>
+        <translation>Vertex: Normale</translation>
+    </message>
+    <message>
+        <source>Add Hot Point</source>
+        <translation>Hotpoint hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove Hot Point</source>
+        <translation>Hotpoint entfernen</translation>
+    </message>
+    <message>
+        <source>Paste Hot Point</source>
+        <translation>Hotpoint einfügen</translation>
+    </message>
+    <message>
+        <source>Add Child Bone Index</source>
+        <translation>Kindknochen-Index hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove Child Bone Index</source>
+        <translation>Kindknochen-Index entfernen</translation>
+    </message>
+    <message>
+        <source>Rotate Vertices</source>
+        <translation>Vertices drehen</translation>
+    </message>
+    <message>
+        <source>Scale Vertices</source>
+        <translation>Vertices skalieren</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateCheck</name>
+    <message>
+        <source>[Update Check] &apos;%1&apos; is no https address</source>
+        <translation>[Update-Suche] „%1“ ist keine https-Adresse</translation>
+    </message>
+    <message>
+        <source>[Update Check] No address is set to ask for releases</source>
+        <translation>[Update-Suche] Es ist keine Adresse für Veröffentlichungen eingestellt</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatePrompt</name>
+    <message>
+        <source>Checking for updates…</source>
+        <translation>Nach Updates wird gesucht…</translation>
+    </message>
+    <message>
+        <source>New Version Available</source>
+        <translation>Neue Version verfügbar</translation>
+    </message>
+    <message>
+        <source>Korvane v%1 is now available! Do you want to update?
+
+%2</source>
+        <translation>Korvane v%1 ist jetzt verfügbar! Möchten Sie aktualisieren?
+
+%2</translation>
+    </message>
+    <message>
+        <source>Updates</source>
+        <translation>Updates</translation>
+    </message>
+    <message>
+        <source>You are up to date!</source>
+        <translation>Sie sind auf dem neuesten Stand!</translation>
+    </message>
+</context>
+<context>
+    <name>Validation</name>
+    <message>
+        <source>And %1 more like these.</source>
+        <translation>Und %1 weitere wie diese.</translation>
+    </message>
+    <message>
+        <source>Action %1 of animation %2 names sound %3, which the table of sounds does not have: nothing is heard, unless your mod adds it. Choose one from the Database tab.</source>
+        <translation>Aktion %1 von Animation %2 nennt Klang %3, den die Tabelle der Klänge nicht enthält: es ist nichts zu hören, wenn Ihre Mod ihn nicht hinzufügt. Wählen Sie einen aus dem Reiter Datenbank.</translation>
+    </message>
+    <message>
+        <source>Action %1 of animation %2 names particle %3, which the table of particles does not have: nothing is seen, unless your mod adds it. Choose one from the Database tab.</source>
+        <translation>Aktion %1 von Animation %2 nennt Partikel %3, den die Tabelle der Partikel nicht enthält: es ist nichts zu sehen, wenn Ihre Mod ihn nicht hinzufügt. Wählen Sie einen aus dem Reiter Datenbank.</translation>
+    </message>
+    <message>
+        <source>Action %1 of animation %2 names actor type %3, which the table of actors does not have: nobody appears, unless your mod adds it. Choose one from the Database tab.</source>
+        <translation>Aktion %1 von Animation %2 nennt Akteurtyp %3, den die Tabelle der Akteure nicht enthält: niemand erscheint, wenn Ihre Mod ihn nicht hinzufügt. Wählen Sie einen aus dem Reiter Datenbank.</translation>
+    </message>
+    <message>
+        <source>Action %1 of animation %2 names voice %3, which the table of voices does not have: nothing is said, unless your mod adds it. Choose one from the Database tab.</source>
+        <translation>Aktion %1 von Animation %2 nennt Stimme %3, die die Tabelle der Stimmen nicht enthält: nichts wird gesagt, wenn Ihre Mod sie nicht hinzufügt. Wählen Sie eine aus dem Reiter Datenbank.</translation>
+    </message>
+    <message>
+        <source>Action %1 of animation %2 names impact type %3, which the table of impacts does not have. Choose one from the Database tab.</source>
+        <translation>Aktion %1 von Animation %2 nennt Aufpralltyp %3, den die Tabelle der Aufpralltypen nicht enthält. Wählen Sie einen aus dem Reiter Datenbank.</translation>
+    </message>
+    <message>
+        <source>Fixing it enters 65535: no loop frame.</source>
+        <translation>Beim Beheben wird 65535 eingetragen: kein Schleifen-Frame.</translation>
+    </message>
+    <message>
+        <source>Fixing it enters the last frame.</source>
+        <translation>Beim Beheben wird der letzte Frame eingetragen.</translation>
+    </message>
+    <message>
+        <source>Animation %1 loops to frame %2, which it does not have (%3), so it begins from frame 0 again. %4</source>
+        <translation>Animation %1 springt zurück zu Frame %2, den sie nicht hat (%3), und beginnt daher wieder bei Frame 0. %4</translation>
+    </message>
+    <message>
+        <source>Bone %1 of animation %2 follows translation track %3, which does not exist (%4), so it keeps its initial position. Fixing it enters 65535, which says so.</source>
+        <translation>Knochen %1 von Animation %2 folgt Translationsspur %3, die es nicht gibt (%4), und behält daher seine Anfangsposition. Beim Beheben wird 65535 eingetragen, das eben dies besagt.</translation>
+    </message>
+    <message>
+        <source>Bone %1 of animation %2 follows rotation track %3, which does not exist (%4), so it keeps its initial rotation. Fixing it enters 65535, which says so.</source>
+        <translation>Knochen %1 von Animation %2 folgt Rotationsspur %3, die es nicht gibt (%4), und behält daher seine Anfangsdrehung. Beim Beheben wird 65535 eingetragen, das eben dies besagt.</translation>
+    </message>
+    <message>
+        <source>No bone follows translation track %1 of animation %2: it does nothing but make the file larger. Give it to a bone, or leave it.</source>
+        <translation>Kein Knochen folgt Translationsspur %1 von Animation %2: sie vergrößert nur die Datei. Geben Sie sie einem Knochen, oder lassen Sie sie stehen.</translation>
+    </message>
+    <message>
+        <source>No bone follows rotation track %1 of animation %2: it does nothing but make the file larger. Give it to a bone, or leave it.</source>
+        <translation>Kein Knochen folgt Rotationsspur %1 von Animation %2: sie vergrößert nur die Datei. Geben Sie sie einem Knochen, oder lassen Sie sie stehen.</translation>
+    </message>
+    <message>
+        <source>%1 is zero, which is no rotation at all: the view shows the bone unturned; the game may let it vanish. Fixing it enters 0, 0, 0, 1: unturned.</source>
+        <translation>%1 ist null, was gar keine Drehung ist: die Ansicht zeigt den Knochen ungedreht; das Spiel lässt ihn vielleicht verschwinden. Beim Beheben wird 0, 0, 0, 1 eingetragen: ungedreht.</translation>
+    </message>
+    <message>
+        <source>%1 has the length %2 instead of 1: the view makes up for it; the game may shear the bone. Fixing it keeps the direction and makes the length 1.</source>
+        <translation>%1 hat die Länge %2 statt 1: die Ansicht gleicht das aus; das Spiel verzerrt den Knochen vielleicht. Beim Beheben bleibt die Richtung, und die Länge wird 1.</translation>
+    </message>
+    <message>
+        <source>The initial rotation of bone %1 of animation %2</source>
+        <translation>Die Anfangsrotation von Knochen %1 von Animation %2</translation>
+    </message>
+    <message>
+        <source>The rotation at frame %1 of track %2 of animation %3</source>
+        <translation>Die Rotation in Frame %1 von Spur %2 von Animation %3</translation>
+    </message>
+    <message>
+        <source>Action %1 of animation %2 is due at frame %3, which does not exist (%4): it never happens. Enter a frame of the animation, or remove the action.</source>
+        <translation>Aktion %1 von Animation %2 ist in Frame %3 fällig, den es nicht gibt (%4): sie geschieht nie. Tragen Sie einen Frame der Animation ein, oder entfernen Sie die Aktion.</translation>
+    </message>
+    <message>
+        <source>Action %1 of animation %2 happens at bone %3, which does not exist (%4). Enter a bone, or 65535 for none.</source>
+        <translation>Aktion %1 von Animation %2 geschieht an Knochen %3, den es nicht gibt (%4). Tragen Sie einen Knochen ein, oder 65535 für keinen.</translation>
+    </message>
+    <message>
+        <source>Action %1 of animation %2 has the event type %3, which the game does not know: nothing happens. Choose one from the list.</source>
+        <translation>Aktion %1 von Animation %2 hat den Ereignistyp %3, den das Spiel nicht kennt: nichts geschieht. Wählen Sie einen aus der Liste.</translation>
+    </message>
+    <message>
+        <source>The animations are for %1 bones, but the open mesh has %2: they cannot be played on it. Open the mesh and the animations that belong together.</source>
+        <translation>Die Animationen sind für %1 Knochen, aber das geöffnete Netz hat %2: sie können darauf nicht abgespielt werden. Öffnen Sie Netz und Animationen, die zusammengehören.</translation>
+    </message>
+    <message>
+        <source>Animation %1 is for %2 bones, but the mesh has %3: it cannot be played right. Replace it by one for this mesh.</source>
+        <translation>Animation %1 ist für %2 Knochen, aber das Netz hat %3: sie kann nicht richtig abgespielt werden. Ersetzen Sie sie durch eine für dieses Netz.</translation>
+    </message>
+    <message>
+        <source>Animation %1 is for %2 bones, but animation 0 for %3: they cannot be for the same mesh. Replace one of them.</source>
+        <translation>Animation %1 ist für %2 Knochen, Animation 0 aber für %3: sie können nicht für dasselbe Netz sein. Ersetzen Sie eine davon.</translation>
+    </message>
+    <message>
+        <source>Animation %1 has the id %2, as animation %3 has: the game finds only one of them. Give it an id of its own.</source>
+        <translation>Animation %1 hat die ID %2, wie auch Animation %3: das Spiel findet nur eine davon. Geben Sie ihr eine eigene ID.</translation>
+    </message>
+    <message>
+        <source>The file has no animations: there is nothing to play, and it cannot be saved. Add one.</source>
+        <translation>Die Datei hat keine Animationen: es gibt nichts abzuspielen, und sie kann nicht gespeichert werden. Fügen Sie eine hinzu.</translation>
+    </message>
+    <message>
+        <source>Surface %1 is drawn white: the file of its material &apos;%2&apos; cannot be read. %3</source>
+        <translation>Fläche %1 wird weiß gezeichnet: die Datei ihres Materials „%2“ kann nicht gelesen werden. %3</translation>
+    </message>
+    <message>
+        <source>Surface %1 is drawn white: there is no file of its material &apos;%2&apos;. Tried: %3. Correct the surface&apos;s material path, or put the file into one of these places.</source>
+        <translation>Fläche %1 wird weiß gezeichnet: es gibt keine Datei ihres Materials „%2“. Gesucht: %3. Berichtigen Sie den Materialpfad der Fläche, oder legen Sie die Datei an einen dieser Orte.</translation>
+    </message>
+    <message>
+        <source>Surface %1 is drawn white: %2. Correct the surface&apos;s material path, or add the material to the file.</source>
+        <translation>Fläche %1 wird weiß gezeichnet: %2. Berichtigen Sie den Materialpfad der Fläche, oder fügen Sie das Material der Datei hinzu.</translation>
+    </message>
+    <message>
+        <source>Surface %1 is drawn white: the texture &apos;%2&apos; of its material &apos;%3&apos; is no picture that can be read. Tried: %4. Put the picture into one of these places, or name another one in the material&apos;s file.</source>
+        <translation>Fläche %1 wird weiß gezeichnet: die Textur „%2“ ihres Materials „%3“ ist kein lesbares Bild. Gesucht: %4. Legen Sie das Bild an einen dieser Orte, oder nennen Sie in der Datei des Materials ein anderes.</translation>
+    </message>
+    <message>
+        <source>Bone %1</source>
+        <translation>Knochen %1</translation>
+    </message>
+    <message>
+        <source>Hot point %1</source>
+        <translation>Hotpoint %1</translation>
+    </message>
+    <message>
+        <source>Vertex %1</source>
+        <translation>Vertex %1</translation>
+    </message>
+    <message>
+        <source>Animation %1</source>
+        <translation>Animation %1</translation>
+    </message>
+    <message>
+        <source>Bone %2 of animation %1</source>
+        <translation>Knochen %2 von Animation %1</translation>
+    </message>
+    <message>
+        <source>Frame %2 of animation %1</source>
+        <translation>Frame %2 von Animation %1</translation>
+    </message>
+    <message>
+        <source>Frame %3 of translation track %2 of animation %1</source>
+        <translation>Frame %3 von Translationsspur %2 von Animation %1</translation>
+    </message>
+    <message>
+        <source>Frame %3 of rotation track %2 of animation %1</source>
+        <translation>Frame %3 von Rotationsspur %2 von Animation %1</translation>
+    </message>
+    <message>
+        <source>Action %2 of animation %1</source>
+        <translation>Aktion %2 von Animation %1</translation>
+    </message>
+    <message>
+        <source>The model</source>
+        <translation>Das Modell</translation>
+    </message>
+    <message>
+        <source>there are none</source>
+        <translation>es gibt keine</translation>
+    </message>
+    <message>
+        <source>there are 0 to %1</source>
+        <translation>es gibt 0 bis %1</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>UV</source>
+        <translation>UV</translation>
+    </message>
+    <message>
+        <source>normal</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>bounding box</source>
+        <translation>Begrenzungsbox</translation>
+    </message>
+    <message>
+        <source>origin</source>
+        <translation>Ursprung</translation>
+    </message>
+    <message>
+        <source>damage scale</source>
+        <translation>Schadensfaktor</translation>
+    </message>
+    <message>
+        <source>frame scale</source>
+        <translation>Frame-Skalierung</translation>
+    </message>
+    <message>
+        <source>speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>yaw offset</source>
+        <translation>Gierversatz</translation>
+    </message>
+    <message>
+        <source>initial position</source>
+        <translation>Anfangsposition</translation>
+    </message>
+    <message>
+        <source>initial rotation</source>
+        <translation>Anfangsrotation</translation>
+    </message>
+    <message>
+        <source>translation</source>
+        <translation>Translation</translation>
+    </message>
+    <message>
+        <source>rotation</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>offset</source>
+        <translation>Versatz</translation>
+    </message>
+    <message>
+        <source>arguments</source>
+        <translation>Argumente</translation>
+    </message>
+    <message>
+        <source>%1 holds what is no number, or infinite, as %2. Whatever is computed from it is lost: the part vanishes or tears. Enter a proper number.</source>
+        <translation>%1: %2 enthält etwas, das keine Zahl oder unendlich ist. Was daraus berechnet wird, ist verloren: der Teil verschwindet oder zerreißt. Tragen Sie eine richtige Zahl ein.</translation>
+    </message>
+    <message>
+        <source>Surface %1 has no triangles: nothing of it is drawn. If it is not needed, leave its object out when you import the model again.</source>
+        <translation>Fläche %1 hat keine Dreiecke: nichts von ihr wird gezeichnet. Wenn sie nicht gebraucht wird, lassen Sie ihr Objekt weg, wenn Sie das Modell wieder importieren.</translation>
+    </message>
+    <message>
+        <source>Surface %1 has %2 triangle indexes, which is not a multiple of three: the last triangle lacks a corner, and whoever counts in triangles reads on behind the list. Import the model again.</source>
+        <translation>Fläche %1 hat %2 Dreiecksindizes, was kein Vielfaches von drei ist: dem letzten Dreieck fehlt eine Ecke, und wer in Dreiecken zählt, liest über die Liste hinaus. Importieren Sie das Modell neu.</translation>
+    </message>
+    <message>
+        <source>Triangle index %1 of surface %2 is 65535, the value that ends the list in the file: the model cannot be saved. Enter the index of a vertex.</source>
+        <translation>Dreiecksindex %1 von Fläche %2 ist 65535, der Wert, der die Liste in der Datei beendet: das Modell kann nicht gespeichert werden. Tragen Sie den Index eines Vertex ein.</translation>
+    </message>
+    <message>
+        <source>Triangle index %1 of surface %2 names vertex %3, which does not exist (%4). The view leaves the triangle out; the game may crash. Enter the index of a vertex.</source>
+        <translation>Dreiecksindex %1 von Fläche %2 nennt Vertex %3, den es nicht gibt (%4). Die Ansicht lässt das Dreieck aus; das Spiel stürzt vielleicht ab. Tragen Sie den Index eines Vertex ein.</translation>
+    </message>
+    <message>
+        <source>The normal of vertex %1 is zero: it points nowhere, so light falls on the vertex from no side. Enter its direction, or import the model again with &quot;Generate Normals&quot;.</source>
+        <translation>Die Normale von Vertex %1 ist null: sie zeigt nirgendwohin, daher fällt von keiner Seite Licht auf den Vertex. Tragen Sie ihre Richtung ein, oder importieren Sie das Modell neu mit „Normalen erzeugen“.</translation>
+    </message>
+    <message>
+        <source>Child %1 of bone %2 is bone %3, which does not exist (%4). The view leaves it out; the game may crash. Fixing it removes the entry.</source>
+        <translation>Kind %1 von Knochen %2 ist Knochen %3, den es nicht gibt (%4). Die Ansicht lässt ihn aus; das Spiel stürzt vielleicht ab. Beim Beheben wird der Eintrag entfernt.</translation>
+    </message>
+    <message>
+        <source>Bone %1 lists itself as a child.</source>
+        <translation>Knochen %1 führt sich selbst als Kind.</translation>
+    </message>
+    <message>
+        <source>Bone %1 lists bone %2 as a child, but hangs on it itself.</source>
+        <translation>Knochen %1 führt Knochen %2 als Kind, hängt aber selbst an ihm.</translation>
+    </message>
+    <message>
+        <source>The hierarchy goes in a circle: the view ignores the entry; the game may hang. Fixing it removes the entry.</source>
+        <translation>Die Hierarchie läuft im Kreis: die Ansicht übergeht den Eintrag; das Spiel bleibt vielleicht hängen. Beim Beheben wird der Eintrag entfernt.</translation>
+    </message>
+    <message>
+        <source>Bone %1 lists bone %2 as a child, which another entry lists too, but a bone can move with one parent only. Fixing it removes this entry.</source>
+        <translation>Knochen %1 führt Knochen %2 als Kind, den auch ein anderer Eintrag führt, aber ein Knochen kann sich nur mit einem Elternknochen bewegen. Beim Beheben wird dieser Eintrag entfernt.</translation>
+    </message>
+    <message>
+        <source>No chain of child lists leads from bone 0 to bone %1, so neither it nor what hangs on it follows any animation.</source>
+        <translation>Keine Kette von Kindlisten führt von Knochen 0 zu Knochen %1, daher folgt weder er noch was an ihm hängt einer Animation.</translation>
+    </message>
+    <message>
+        <source>Its parent is bone %1: fixing it adds it to that bone&apos;s list.</source>
+        <translation>Sein Elternknochen ist Knochen %1: beim Beheben wird er in dessen Liste aufgenommen.</translation>
+    </message>
+    <message>
+        <source>Name it in the child list of the bone that it belongs to.</source>
+        <translation>Nennen Sie ihn in der Kindliste des Knochens, zu dem er gehört.</translation>
+    </message>
+    <message>
+        <source>The parent of bone %1 is bone %2, which does not exist (%3). The view goes by the child lists; the game may not. %4</source>
+        <translation>Der Elternknochen von Knochen %1 ist Knochen %2, den es nicht gibt (%3). Die Ansicht richtet sich nach den Kindlisten; das Spiel vielleicht nicht. %4</translation>
+    </message>
+    <message>
+        <source>no parent</source>
+        <translation>keinen Elternknochen</translation>
+    </message>
+    <message>
+        <source>bone %1 as its parent</source>
+        <translation>Knochen %1 als Elternknochen</translation>
+    </message>
+    <message>
+        <source>every model begins with bone 0</source>
+        <translation>jedes Modell beginnt mit Knochen 0</translation>
+    </message>
+    <message>
+        <source>bone %1 lists it as a child</source>
+        <translation>Knochen %1 führt ihn als Kind</translation>
+    </message>
+    <message>
+        <source>Bone %1 names %2, but %3. The view goes by the child lists; the game may not. %4</source>
+        <translation>Knochen %1 nennt %2, aber %3. Die Ansicht richtet sich nach den Kindlisten; das Spiel vielleicht nicht. %4</translation>
+    </message>
+    <message>
+        <source>Enter its parent, or 255 for none.</source>
+        <translation>Tragen Sie seinen Elternknochen ein, oder 255 für keinen.</translation>
+    </message>
+    <message>
+        <source>Fixing it sets the parent to 255: none.</source>
+        <translation>Beim Beheben wird 255 als Elternknochen eingetragen: keiner.</translation>
+    </message>
+    <message>
+        <source>Fixing it sets the parent to %1.</source>
+        <translation>Beim Beheben wird %1 als Elternknochen eingetragen.</translation>
+    </message>
+    <message>
+        <source>The head track goes from bone %1 to bone %2, which do not both exist (%3): the head cannot be turned. Enter the bones that it turns with.</source>
+        <translation>Die Kopfdrehung geht von Knochen %1 zu Knochen %2, die es nicht beide gibt (%3): der Kopf kann nicht gedreht werden. Tragen Sie die Knochen ein, mit denen er sich dreht.</translation>
+    </message>
+    <message>
+        <source>The mesh has %1 bones, but at most %2 can be posed: what belongs to the others is drawn with the wrong one. Leave bones out when you import the model again.</source>
+        <translation>Das Netz hat %1 Knochen, aber höchstens %2 können in Pose gesetzt werden: was zu den anderen gehört, wird mit dem falschen gezeichnet. Lassen Sie Knochen weg, wenn Sie das Modell neu importieren.</translation>
+    </message>
+    <message>
+        <source>Hot point %1 is on bone %2, which does not exist (%3): it has no place in the game. Enter the bone that it belongs to, or remove it.</source>
+        <translation>Hotpoint %1 ist an Knochen %2, den es nicht gibt (%3): er hat keinen Platz im Spiel. Tragen Sie den Knochen ein, zu dem er gehört, oder entfernen Sie ihn.</translation>
+    </message>
+    <message>
+        <source>Vertex %1 belongs to bone %2, which does not exist (%3): it stays behind when the model moves, and the game may crash. Enter the bone that moves it.</source>
+        <translation>Vertex %1 gehört zu Knochen %2, den es nicht gibt (%3): er bleibt zurück, wenn sich das Modell bewegt, und das Spiel stürzt vielleicht ab. Tragen Sie den Knochen ein, der ihn bewegt.</translation>
+    </message>
+    <message>
+        <source>The mesh has no bones: nothing can be posed, and it cannot be saved. Import the model again; one without a skeleton then gets one bone.</source>
+        <translation>Das Netz hat keine Knochen: nichts kann in Pose gesetzt werden, und es kann nicht gespeichert werden. Importieren Sie das Modell neu; eines ohne Skelett erhält dann einen Knochen.</translation>
+    </message>
+    <message>
+        <source>The mesh has no surfaces: there is nothing to show, and it cannot be saved. Import the model again.</source>
+        <translation>Das Netz hat keine Flächen: es gibt nichts zu zeigen, und es kann nicht gespeichert werden. Importieren Sie das Modell neu.</translation>
+    </message>
+</context>
+<context>
+    <name>VertPage</name>
+    <message>
+        <source>Vertex</source>
+        <translation>Vertex</translation>
+    </message>
+    <message>
+        <source>&amp;Position</source>
+        <translation>&amp;Position</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Position X</source>
+        <translation>Position X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Position Y</source>
+        <translation>Position Y</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>Position Z</source>
+        <translation>Position Z</translation>
+    </message>
+    <message>
+        <source>&amp;Normal</source>
+        <translation>&amp;Normale</translation>
+    </message>
+    <message>
+        <source>Direction that the surface faces here, of length 1; lights the model</source>
+        <translation>Richtung, in die die Oberfläche hier zeigt, mit der Länge 1; beleuchtet das Modell</translation>
+    </message>
+    <message>
+        <source>Normal X</source>
+        <translation>Normale X</translation>
+    </message>
+    <message>
+        <source>Normal Y</source>
+        <translation>Normale Y</translation>
+    </message>
+    <message>
+        <source>Normal Z</source>
+        <translation>Normale Z</translation>
+    </message>
+    <message>
+        <source>&amp;UV</source>
+        <translation>&amp;UV</translation>
+    </message>
+    <message>
+        <source>Place in the texture; when read in TurokEX, the y coordinate is always read as 1.0f - UV.y</source>
+        <translation>Ort in der Textur; beim Lesen in TurokEX wird die y-Koordinate immer als 1.0f - UV.y gelesen</translation>
+    </message>
+    <message>
+        <source>UV X</source>
+        <translation>UV X</translation>
+    </message>
+    <message>
+        <source>UV Y</source>
+        <translation>UV Y</translation>
+    </message>
+    <message>
+        <source>Bone</source>
+        <translation>Knochen</translation>
+    </message>
+    <message>
+        <source>&amp;Bone Index</source>
+        <translation>&amp;Knochenindex</translation>
+    </message>
+    <message>
+        <source>The node this vertex belongs to</source>
+        <translation>Der Knochen, zu dem dieser Vertex gehört</translation>
+    </message>
+</context>
+<context>
+    <name>ViewPreferences</name>
+    <message>
+        <source>Background Color</source>
+        <translation>Hintergrundfarbe</translation>
+    </message>
+</context>
+<context>
+    <name>ViewToolBar</name>
+    <message>
+        <source>Background color of the view</source>
+        <translation>Hintergrundfarbe der Ansicht</translation>
+    </message>
+    <message>
+        <source>Background color</source>
+        <translation>Hintergrundfarbe</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Linien</translation>
+    </message>
+    <message>
+        <source>Lines Hidden</source>
+        <translation>Linien verdeckt</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>Points Hidden</source>
+        <translation>Punkte verdeckt</translation>
+    </message>
+    <message>
+        <source>How the selected surface is marked; the hidden kinds show through the model</source>
+        <translation>Wie die ausgewählte Fläche markiert wird; die verdeckten Arten scheinen durch das Modell</translation>
+    </message>
+    <message>
+        <source>Selection display</source>
+        <translation>Anzeige der Auswahl</translation>
+    </message>
+    <message>
+        <source>Move Speed </source>
+        <translation>Tempo </translation>
+    </message>
+    <message>
+        <source>Brightness </source>
+        <translation>Helligkeit </translation>
+    </message>
+    <message>
+        <source>Speed of the camera: %1</source>
+        <translation>Geschwindigkeit der Kamera: %1</translation>
+    </message>
+    <message>
+        <source>Brightness of the model: %1</source>
+        <translation>Helligkeit des Modells: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Viewport</name>
+    <message>
+        <source>Failed to load texture &apos;%1&apos; using blank texture instead</source>
+        <translation>Die Textur „%1“ konnte nicht geladen werden, stattdessen wird die leere Textur verwendet</translation>
+    </message>
+    <message>
+        <source>[%1] Surface %2: %3 triangles name vertices beyond the %4 of the model and are not drawn, the first is triangle %5</source>
+        <translation>[%1] Fläche %2: %3 Dreiecke nennen Vertices jenseits der %4 des Modells und werden nicht gezeichnet, das erste ist Dreieck %5</translation>
+    </message>
+</context>
+<context>
+    <name>WebLink</name>
+    <message>
+        <source>Link</source>
+        <translation>Link</translation>
+    </message>
+    <message>
+        <source>The browser did not open
+%1</source>
+        <translation>Der Browser hat dies nicht geöffnet
+%1</translation>
+    </message>
+    <message>
+        <source>This is no web page, so it was not opened:
+%1</source>
+        <translation>Dies ist keine Webseite und wurde daher nicht geöffnet:
+%1</translation>
+    </message>
+</context>
+</TS>

@@ -6,6 +6,7 @@
 #include <QIcon>
 #include <QItemSelectionModel>
 #include <QUndoGroup>
+#include <QUndoStack>
 #include <QUndoView>
 
 void showHistory(QUndoView &view, QUndoGroup &group, const QIcon &savedIcon)

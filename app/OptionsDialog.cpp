@@ -6,6 +6,7 @@
 #include "ShortcutsPage.h"
 #include "ui_OptionsDialog.h"
 
+#include <QAbstractButton>
 #include <QDir>
 #include <QFileInfo>
 
@@ -38,6 +39,12 @@ OptionsDialog::OptionsDialog(QWidget *parent, Shortcuts *shortcuts)
     if (shortcuts) {
         m_shortcuts = new ShortcutsPage(*shortcuts);
         m_ui->tabOptions->addTab(m_shortcuts, tr("&Shortcuts"));
+        // Tab goes through the page before it comes to the buttons.
+        QWidget *last = m_shortcuts->findChild<QWidget *>(QStringLiteral("btnShortcutTake"));
+        for (QAbstractButton *button : m_ui->buttonBox->buttons()) {
+            setTabOrder(last, button);
+            last = button;
+        }
     }
     m_ui->txtGamePath->setFocus();
 }

@@ -36,6 +36,7 @@ private slots:
     void whatIsResetIsNotStored();
     void anyKeysMayBeStored();
     void placesDecideWhatCollides();
+    void tabGoesThroughThePage();
     void keysOfPanelsAndFields();
     void theListOfKeysFollows();
 
@@ -275,6 +276,29 @@ void tst_Shortcuts::anyKeysMayBeStored()
     QCOMPARE(find<QAction>(window, "actionExit")->shortcuts(), Keys{QKeySequence(QStringLiteral("Ctrl+E"))});
     QCOMPARE(find<QAction>(window, "actionAbout")->shortcuts(),
              (Keys{QKeySequence(QStringLiteral("Ctrl+K, Ctrl+B")), QKeySequence(QStringLiteral("Ctrl+="))}));
+}
+
+void tst_Shortcuts::tabGoesThroughThePage()
+{
+    MainWindow window;
+    window.show();
+    QStringList names;
+    const Hand hand({answer([&names](QDialog *dialog) {
+        QApplication::setActiveWindow(dialog);
+        QTest::keyClick(dialog, Qt::Key_S, Qt::AltModifier);
+        QCOMPARE(find<QTabWidget>(*dialog, "tabOptions")->currentIndex(), 1);
+        auto *line = find<QLineEdit>(*dialog, "txtShortcutFilter");
+        line->setFocus();
+        for (int i = 0; i < 6; ++i) {
+            QTest::keyClick(dialog->focusWidget(), Qt::Key_Tab);
+            const auto *button = qobject_cast<QPushButton *>(dialog->focusWidget());
+            names << (button ? button->text().remove(QLatin1Char('&')) : dialog->focusWidget()->objectName());
+        }
+    })});
+    find<QAction>(window, "actionPreferences")->trigger();
+    // Nothing is there to be reset.
+    QCOMPARE(names, QStringList({"treeShortcuts", "editShortcutKeys", "Clear", "OK", "Cancel",
+                                 "qt_tabwidget_tabbar"}));
 }
 
 void tst_Shortcuts::placesDecideWhatCollides()

@@ -306,11 +306,14 @@ void tst_ViewMenu::picturesAreSaved()
     QCOMPARE(clear.pixelColor(160, clear.height() / 2 + 20), QColor(Qt::white));
     QVERIFY(window->statusBar()->currentMessage().contains(QStringLiteral("shots of it.png")));
 
-    // Asked again it knows the answers.
+    // Asked again it knows the answers; the view may have had other proportions then.
+    Settings::PictureSize.setValue({320, 7});
     {
         const Hand hand(
-            {[](QDialog *dialog) {
+            {[&clear](QDialog *dialog) {
                  QCOMPARE(dialog->findChild<QSpinBox *>(QStringLiteral("sbPictureWidth"))->value(), 320);
+                 QCOMPARE(dialog->findChild<QSpinBox *>(QStringLiteral("sbPictureHeight"))->value(),
+                          clear.height());
                  auto *box = dialog->findChild<QCheckBox *>(QStringLiteral("cbTransparent"));
                  QVERIFY(box->isChecked());
                  box->click();

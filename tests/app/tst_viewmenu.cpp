@@ -14,6 +14,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QSpinBox>
 #include <QStatusBar>
@@ -33,6 +34,7 @@ private slots:
     void clicksSelect();
     void selectionIsMarkedAndFramed();
     void cameraLooksFromSides();
+    void thePaletteHasEachOnce();
     void picturesAreSaved();
     void picturesThatCannotBeSaved();
 
@@ -283,6 +285,29 @@ void tst_ViewMenu::cameraLooksFromSides()
     QCOMPARE(view->camera().pitch(), -89.0f);
     QCOMPARE(yaw(Qt::Key_7, Qt::ControlModifier), 180.0f);
     QCOMPARE(view->camera().pitch(), 89.0f);
+}
+
+void tst_ViewMenu::thePaletteHasEachOnce()
+{
+    const auto window = open();
+    const Hand hand({[](QDialog *dialog) {
+        auto *line = dialog->findChild<QLineEdit *>();
+        auto *list = dialog->findChild<QListWidget *>();
+        const auto listed = [&](const QString &name) {
+            int found = 0;
+            for (int row = 0; row < list->count(); ++row)
+                found += list->item(row)->text().contains(name) ? 1 : 0;
+            return found;
+        };
+        for (const char *name : {"Shaded Wireframe", "Skeleton", "Frame Selection", "Camera ▸ Top",
+                                 "Frame Rate", "Save Picture"}) {
+            line->setText(QString::fromUtf8(name));
+            QVERIFY2(listed(QString::fromUtf8(name)) == 1, name);
+        }
+        dialog->reject();
+    }});
+    find<QAction>(*window, "actionCommands")->trigger();
+    QCOMPARE(hand.seen.size(), 1);
 }
 
 void tst_ViewMenu::picturesAreSaved()

@@ -49,7 +49,10 @@ CommandPalette::CommandPalette(const QMenuBar &menus, const QList<QAction *> &tr
 void CommandPalette::collect(const QList<QAction *> &actions, const QString &path)
 {
     for (QAction *action : actions) {
-        if (action->isSeparator() || !action->isVisible())
+        const bool isListed =
+            std::any_of(m_commands.begin(), m_commands.end(),
+                        [action](const Command &command) { return command.action == action; });
+        if (action->isSeparator() || !action->isVisible() || isListed)
             continue;
         const QString name = path + plainText(action);
         if (action->menu()) {

@@ -21,6 +21,8 @@ PictureDialog::PictureDialog(const QSize &viewSize, QWidget *parent)
     const QSignalBlocker silence(m_ui->sbPictureHeight), silenceToo(m_ui->sbPictureWidth);
     m_ui->sbPictureWidth->setValue(stored.isEmpty() ? m_viewSize.width() : stored.width());
     m_ui->sbPictureHeight->setValue(stored.isEmpty() ? m_viewSize.height() : stored.height());
+    // The view may have other proportions than it had then.
+    on_sbPictureWidth_valueChanged(m_ui->sbPictureWidth->value());
 }
 
 PictureDialog::~PictureDialog() = default;

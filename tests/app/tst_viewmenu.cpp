@@ -14,6 +14,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QSpinBox>
 #include <QStatusBar>
@@ -33,6 +34,7 @@ private slots:
     void clicksSelect();
     void selectionIsMarkedAndFramed();
     void cameraLooksFromSides();
+    void thePaletteHasEachOnce();
     void picturesAreSaved();
     void picturesThatCannotBeSaved();
 
@@ -285,6 +287,29 @@ void tst_ViewMenu::cameraLooksFromSides()
     QCOMPARE(view->camera().pitch(), 89.0f);
 }
 
+void tst_ViewMenu::thePaletteHasEachOnce()
+{
+    const auto window = open();
+    const Hand hand({[](QDialog *dialog) {
+        auto *line = dialog->findChild<QLineEdit *>();
+        auto *list = dialog->findChild<QListWidget *>();
+        const auto listed = [&](const QString &name) {
+            int found = 0;
+            for (int row = 0; row < list->count(); ++row)
+                found += list->item(row)->text().contains(name) ? 1 : 0;
+            return found;
+        };
+        for (const char *name : {"Shaded Wireframe", "Skeleton", "Frame Selection", "Camera ▸ Top",
+                                 "Frame Rate", "Save Picture"}) {
+            line->setText(QString::fromUtf8(name));
+            QVERIFY2(listed(QString::fromUtf8(name)) == 1, name);
+        }
+        dialog->reject();
+    }});
+    find<QAction>(*window, "actionCommands")->trigger();
+    QCOMPARE(hand.seen.size(), 1);
+}
+
 void tst_ViewMenu::picturesAreSaved()
 {
     MainWindow empty;
@@ -306,11 +331,14 @@ void tst_ViewMenu::picturesAreSaved()
     QCOMPARE(clear.pixelColor(160, clear.height() / 2 + 20), QColor(Qt::white));
     QVERIFY(window->statusBar()->currentMessage().contains(QStringLiteral("shots of it.png")));
 
-    // Asked again it knows the answers.
+    // Asked again it knows the answers; the view may have had other proportions then.
+    Settings::PictureSize.setValue({320, 7});
     {
         const Hand hand(
-            {[](QDialog *dialog) {
+            {[&clear](QDialog *dialog) {
                  QCOMPARE(dialog->findChild<QSpinBox *>(QStringLiteral("sbPictureWidth"))->value(), 320);
+                 QCOMPARE(dialog->findChild<QSpinBox *>(QStringLiteral("sbPictureHeight"))->value(),
+                          clear.height());
                  auto *box = dialog->findChild<QCheckBox *>(QStringLiteral("cbTransparent"));
                  QVERIFY(box->isChecked());
                  box->click();

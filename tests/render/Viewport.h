@@ -12,6 +12,8 @@
 #include <QApplication>
 #include <QSurfaceFormat>
 
+#include <cstdlib>
+
 /// A viewport that counts its frames.
 class Viewport : public KVOpenGLWidget
 {
@@ -61,6 +63,41 @@ protected:
         KVOpenGLWidget::paintGL();
     }
 };
+
+inline bool isColor(const QColor &color, int red, int green, int blue)
+{
+    constexpr int Near = 3; // of 255
+    return std::abs(color.red() - red) <= Near && std::abs(color.green() - green) <= Near &&
+           std::abs(color.blue() - blue) <= Near;
+}
+
+/// That of a Viewport.
+inline bool isBackground(const QColor &color)
+{
+    return isColor(color, 10, 200, 30);
+}
+
+/// A square of 400 by 400 in the middle of the start view, facing the camera, two surfaces of one triangle.
+inline StaticMesh facingSquare(const QString &material)
+{
+    const auto corner = [](float x, float z) {
+        // As files have it: v counts from the bottom row.
+        return StaticMeshVertex{{x, 0.0f, z + 300.0f}, {(x + 200.0f) / 400.0f, (z + 200.0f) / 400.0f}, {}};
+    };
+    StaticMesh square;
+    square.vertices = {corner(-200.0f, -200.0f), corner(-200.0f, 200.0f), corner(200.0f, 200.0f),
+                       corner(200.0f, -200.0f)};
+    square.surfaces = {{material, {0, 1, 2}}, {material, {0, 2, 3}}};
+    return square;
+}
+
+/// A row for each context that a test is to run in.
+inline void addContexts()
+{
+    QTest::addColumn<bool>("core33");
+    QTest::newRow("no version") << false;
+    QTest::newRow("3.3 core") << true;
+}
 
 /// A context as the program sets it up, or forced to 3.3 core.
 inline void useSurfaceFormat(bool core33)

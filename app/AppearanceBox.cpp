@@ -34,7 +34,7 @@ AppearanceBox::AppearanceBox(QWidget *parent)
 
     auto *rows = new QFormLayout(this);
     rows->addRow(tr("&Look:"), m_look);
-    rows->addRow(tr("La&nguage:"), m_language);
+    rows->addRow(tr("Languag&e:"), m_language);
     rows->addRow(QString(), m_hint);
     for (QComboBox *box : {m_look, m_language})
         box->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);

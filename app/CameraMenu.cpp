@@ -44,7 +44,7 @@ void CameraMenu::addSides(QWidget *window)
         addAction(action);
     };
     // The keypad's digits are matched by the plain ones, too.
-    add("actionLookFront", tr("Fr&ont"), tr("Look at the model's front"), Qt::Key_1, Camera::Side::Front);
+    add("actionLookFront", tr("Fro&nt"), tr("Look at the model's front"), Qt::Key_1, Camera::Side::Front);
     add("actionLookBack", tr("&Back"), tr("Look at the model's back"), QKeySequence(QStringLiteral("Ctrl+1")),
         Camera::Side::Back);
     add("actionLookRight", tr("&Right"), tr("Look from the right, where +X points"), Qt::Key_3,

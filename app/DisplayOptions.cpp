@@ -14,16 +14,16 @@ DisplayOptions::DisplayOptions(const Viewports &viewports, QWidget *window)
     , m_viewports(viewports)
     , m_shadingMenu(new QMenu(tr("S&hading"), window))
     , m_shadings(new QActionGroup(this))
-    , m_skeleton(viewportAction("actionSkeleton", "bone", tr("S&keleton"),
-                                tr("Show the bones over the model; a click selects one"), {Qt::Key_B},
-                                viewports, window))
-    , m_hotPoints(viewportAction("actionHotPoints", "hotpoints", tr("Hot &Points"),
-                                 tr("Show the hot points over the model; a click selects one"), {Qt::Key_H},
-                                 viewports, window))
-    , m_statistics(viewportAction("actionStatistics", nullptr, tr("Frame Ra&te"),
-                                  tr("Show frames a second and the number of triangles"), {}, viewports,
-                                  window))
 {
+    m_skeleton = viewportAction("actionSkeleton", "bone", tr("Skelet&on"),
+                                tr("Show the bones over the model; a click selects one"), {Qt::Key_B},
+                                viewports, window);
+    m_hotPoints = viewportAction("actionHotPoints", "hotpoints", tr("Hot &Points"),
+                                 tr("Show the hot points over the model; a click selects one"), {Qt::Key_H},
+                                 viewports, window);
+    m_statistics =
+        viewportAction("actionStatistics", nullptr, tr("Frame Ra&te"),
+                       tr("Show frames a second and the number of triangles"), {}, viewports, window);
     createShadings(window);
     const auto check = [](QAction *action, bool on) {
         action->setCheckable(true);

@@ -740,6 +740,14 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>Play or Pause</source>
+        <translation>Abspielen oder anhalten</translation>
+    </message>
+    <message>
+        <source>Timeline</source>
+        <translation>Zeitleiste</translation>
+    </message>
 </context>
 <context>
     <name>AnimTranslationPage</name>
@@ -815,8 +823,87 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <translation>Ausse&amp;hen:</translation>
     </message>
     <message>
-        <source>La&amp;nguage:</source>
+        <source>Languag&amp;e:</source>
         <translation>Sprach&amp;e:</translation>
+    </message>
+</context>
+<context>
+    <name>CameraMenu</name>
+    <message>
+        <source>&amp;Camera</source>
+        <translation>Ka&amp;mera</translation>
+    </message>
+    <message>
+        <source>Frame &amp;All</source>
+        <translation>&amp;Alles einpassen</translation>
+    </message>
+    <message>
+        <source>Go where the whole model is in view</source>
+        <translation>Dorthin gehen, wo das ganze Modell zu sehen ist</translation>
+    </message>
+    <message>
+        <source>&amp;Frame Selection</source>
+        <translation>A&amp;uswahl einpassen</translation>
+    </message>
+    <message>
+        <source>Go near to what is selected in the tree</source>
+        <translation>Nahe an das gehen, was im Baum ausgewählt ist</translation>
+    </message>
+    <message>
+        <source>&amp;Orbit with the Mouse</source>
+        <translation>Mit der &amp;Maus umkreisen</translation>
+    </message>
+    <message>
+        <source>Drags turn the camera around the model, as they do with Alt held</source>
+        <translation>Ziehen dreht die Kamera um das Modell, so wie sonst mit gehaltener Alt-Taste</translation>
+    </message>
+    <message>
+        <source>Look at the model&apos;s front</source>
+        <translation>Das Modell von vorne ansehen</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Hinten</translation>
+    </message>
+    <message>
+        <source>Look at the model&apos;s back</source>
+        <translation>Das Modell von hinten ansehen</translation>
+    </message>
+    <message>
+        <source>&amp;Right</source>
+        <translation>&amp;Rechts</translation>
+    </message>
+    <message>
+        <source>Look from the right, where +X points</source>
+        <translation>Von rechts sehen, wohin +X zeigt</translation>
+    </message>
+    <message>
+        <source>&amp;Left</source>
+        <translation>&amp;Links</translation>
+    </message>
+    <message>
+        <source>Look from the left, where -X points</source>
+        <translation>Von links sehen, wohin -X zeigt</translation>
+    </message>
+    <message>
+        <source>&amp;Top</source>
+        <translation>&amp;Oben</translation>
+    </message>
+    <message>
+        <source>Look down at the model</source>
+        <translation>Von oben auf das Modell sehen</translation>
+    </message>
+    <message>
+        <source>Botto&amp;m</source>
+        <translation>U&amp;nten</translation>
+    </message>
+    <message>
+        <source>Look up at the model</source>
+        <translation>Von unten auf das Modell sehen</translation>
+    </message>
+    <message>
+        <source>Fro&amp;nt</source>
+        <translation>&amp;Vorne</translation>
     </message>
 </context>
 <context>
@@ -957,60 +1044,8 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <translation>Nach oben, unten und zur Seite bewegen</translation>
     </message>
     <message>
-        <source>Space</source>
-        <translation>Leertaste</translation>
-    </message>
-    <message>
-        <source>Play the animation, or pause it</source>
-        <translation>Die Animation abspielen oder anhalten</translation>
-    </message>
-    <message>
-        <source>, / .</source>
-        <translation>, / .</translation>
-    </message>
-    <message>
-        <source>Go back / on one frame</source>
-        <translation>Einen Frame zurück / weiter gehen</translation>
-    </message>
-    <message>
-        <source>[ / ]</source>
-        <translation>[ / ]</translation>
-    </message>
-    <message>
-        <source>Go to the previous / next key frame action</source>
-        <translation>Zur vorigen / nächsten Keyframe-Aktion gehen</translation>
-    </message>
-    <message>
         <source>3D view</source>
         <translation>3D-Ansicht</translation>
-    </message>
-    <message>
-        <source>Window</source>
-        <translation>Fenster</translation>
-    </message>
-    <message>
-        <source>Ins</source>
-        <translation>Einfg</translation>
-    </message>
-    <message>
-        <source>Add a record after the current one</source>
-        <translation>Einen Datensatz hinter dem aktuellen hinzufügen</translation>
-    </message>
-    <message>
-        <source>Del</source>
-        <translation>Entf</translation>
-    </message>
-    <message>
-        <source>Remove the selected records</source>
-        <translation>Die ausgewählten Datensätze entfernen</translation>
-    </message>
-    <message>
-        <source>Ctrl+C / Ctrl+V</source>
-        <translation>Strg+C / Strg+V</translation>
-    </message>
-    <message>
-        <source>Copy / paste a hot point or an animation</source>
-        <translation>Einen Hotpoint oder eine Animation kopieren / einfügen</translation>
     </message>
     <message>
         <source>Ctrl+click, Shift+click</source>
@@ -1021,12 +1056,44 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <translation>Mehrere Datensätze auswählen; eine Änderung gilt für alle</translation>
     </message>
     <message>
-        <source>Trees</source>
-        <translation>Bäume</translation>
-    </message>
-    <message>
         <source>Keys and mouse gestures</source>
         <translation>Tasten und Mausgesten</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>Klick</translation>
+    </message>
+    <message>
+        <source>Select the surface, bone or hot point under the mouse</source>
+        <translation>Die Fläche, den Knochen oder den Hotpoint unter der Maus auswählen</translation>
+    </message>
+    <message>
+        <source>Alt + left drag</source>
+        <translation>Alt + links ziehen</translation>
+    </message>
+    <message>
+        <source>Turn around the model</source>
+        <translation>Um das Modell drehen</translation>
+    </message>
+    <message>
+        <source>Alt + middle drag</source>
+        <translation>Alt + Mitte ziehen</translation>
+    </message>
+    <message>
+        <source>Move the model sideways, up and down</source>
+        <translation>Das Modell zur Seite, nach oben und unten schieben</translation>
+    </message>
+    <message>
+        <source>Alt + wheel</source>
+        <translation>Alt + Rad</translation>
+    </message>
+    <message>
+        <source>Go nearer or farther away</source>
+        <translation>Näher oder weiter weg gehen</translation>
+    </message>
+    <message>
+        <source>Several records</source>
+        <translation>Mehrere Datensätze</translation>
     </message>
 </context>
 <context>
@@ -1153,6 +1220,65 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <message>
         <source>Filter</source>
         <translation>Filter</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayOptions</name>
+    <message>
+        <source>S&amp;hading</source>
+        <translation>&amp;Schattierung</translation>
+    </message>
+    <message>
+        <source>Show the bones over the model; a click selects one</source>
+        <translation>Die Knochen über dem Modell zeigen; ein Klick wählt einen aus</translation>
+    </message>
+    <message>
+        <source>Hot &amp;Points</source>
+        <translation>Hot&amp;points</translation>
+    </message>
+    <message>
+        <source>Show the hot points over the model; a click selects one</source>
+        <translation>Die Hotpoints über dem Modell zeigen; ein Klick wählt einen aus</translation>
+    </message>
+    <message>
+        <source>Frame Ra&amp;te</source>
+        <translation>B&amp;ildrate</translation>
+    </message>
+    <message>
+        <source>Show frames a second and the number of triangles</source>
+        <translation>Bilder je Sekunde und die Zahl der Dreiecke zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Shaded</source>
+        <translation>&amp;Schattiert</translation>
+    </message>
+    <message>
+        <source>Draw the surfaces with their textures</source>
+        <translation>Die Flächen mit ihren Texturen zeichnen</translation>
+    </message>
+    <message>
+        <source>&amp;Wireframe</source>
+        <translation>&amp;Drahtgitter</translation>
+    </message>
+    <message>
+        <source>Draw the edges of all triangles</source>
+        <translation>Die Kanten aller Dreiecke zeichnen</translation>
+    </message>
+    <message>
+        <source>Shaded W&amp;ireframe</source>
+        <translation>Schattiertes Draht&amp;gitter</translation>
+    </message>
+    <message>
+        <source>Draw the surfaces and the edges of their triangles</source>
+        <translation>Die Flächen und die Kanten ihrer Dreiecke zeichnen</translation>
+    </message>
+    <message>
+        <source>How the surfaces are drawn</source>
+        <translation>Wie die Flächen gezeichnet werden</translation>
+    </message>
+    <message>
+        <source>Skelet&amp;on</source>
+        <translation>Sk&amp;elett</translation>
     </message>
 </context>
 <context>
@@ -1390,12 +1516,12 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <translation>Filter, etwa %1</translation>
     </message>
     <message>
-        <source>Show only the records whose text has these words, and numbers or ranges of them (Ctrl+F)</source>
-        <translation>Nur die Datensätze zeigen, deren Text diese Wörter und Zahlen oder Zahlenbereiche enthält (Strg+F)</translation>
-    </message>
-    <message>
         <source>Filter</source>
         <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Show only the records whose text has these words, and numbers or ranges of them</source>
+        <translation>Nur die Datensätze zeigen, in deren Text diese Wörter vorkommen, und Nummern oder Bereiche davon</translation>
     </message>
 </context>
 <context>
@@ -1495,6 +1621,10 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <translation>Keine .%1-Dateien in
 %2</translation>
     </message>
+    <message>
+        <source>Folders</source>
+        <translation>Ordner</translation>
+    </message>
 </context>
 <context>
     <name>FrameLabel</name>
@@ -1509,6 +1639,13 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <message>
         <source>Frame: %1 / %2</source>
         <translation>Frame: %1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryView</name>
+    <message>
+        <source>As opened</source>
+        <translation>Wie geöffnet</translation>
     </message>
 </context>
 <context>
@@ -2186,6 +2323,10 @@ Alles andere funktioniert weiter.</translation>
         <source>Nothing matches the filter.</source>
         <translation>Nichts entspricht dem Filter.</translation>
     </message>
+    <message>
+        <source>No file is open. Choose one in the folder.</source>
+        <translation>Es ist keine Datei geöffnet. Wählen Sie eine im Ordner.</translation>
+    </message>
 </context>
 <context>
     <name>Look</name>
@@ -2605,10 +2746,6 @@ Alles andere funktioniert weiter.</translation>
         <translation>Version und Lizenzen</translation>
     </message>
     <message>
-        <source>As opened</source>
-        <translation>Wie geöffnet</translation>
-    </message>
-    <message>
         <source>Skinned Mesh View</source>
         <translation>Ansicht Skin-Netz</translation>
     </message>
@@ -2657,6 +2794,10 @@ Alles andere funktioniert weiter.</translation>
     <message>
         <source>Reco&amp;ver…</source>
         <translation>&amp;Wiederherstellen…</translation>
+    </message>
+    <message>
+        <source>The filter above the tree hides %1.</source>
+        <translation>Der Filter über dem Baum blendet %1 aus.</translation>
     </message>
 </context>
 <context>
@@ -3106,6 +3247,22 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
         <source>Turok 2(Your Mod) Folder</source>
         <translation>Turok-2-Ordner (Ihre Mod)</translation>
     </message>
+    <message>
+        <source>Ge&amp;neral</source>
+        <translation>All&amp;gemein</translation>
+    </message>
+    <message>
+        <source>Open the f&amp;iles of the last session at the start</source>
+        <translation>Be&amp;im Start die Dateien der letzten Sitzung öffnen</translation>
+    </message>
+    <message>
+        <source>The files, tabs, records and cameras as they were when the window was closed</source>
+        <translation>Die Dateien, Reiter, Datensätze und Kameras, wie sie beim Schließen des Fensters waren</translation>
+    </message>
+    <message>
+        <source>&amp;Shortcuts</source>
+        <translation>&amp;Tastenkürzel</translation>
+    </message>
 </context>
 <context>
     <name>PageStack</name>
@@ -3193,6 +3350,110 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
     <message>
         <source>%1; values in italics differ</source>
         <translation>%1; kursive Werte unterscheiden sich</translation>
+    </message>
+</context>
+<context>
+    <name>PictureDialog</name>
+    <message>
+        <source>Save Picture</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Width</source>
+        <translation>&amp;Breite</translation>
+    </message>
+    <message>
+        <source>Width of the picture in pixels</source>
+        <translation>Breite des Bildes in Pixeln</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>&amp;Height</source>
+        <translation>&amp;Höhe</translation>
+    </message>
+    <message>
+        <source>Height of the picture in pixels; it shows as much from top to bottom as the view does</source>
+        <translation>Höhe des Bildes in Pixeln; es zeigt von oben bis unten so viel wie die Ansicht</translation>
+    </message>
+    <message>
+        <source>Width and height follow each other, as the view has them</source>
+        <translation>Breite und Höhe folgen einander, wie in der Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Keep proportions of the view</source>
+        <translation>&amp;Verhältnis der Ansicht beibehalten</translation>
+    </message>
+    <message>
+        <source>As large as the view is now</source>
+        <translation>So groß wie die Ansicht jetzt ist</translation>
+    </message>
+    <message>
+        <source>Size of the &amp;View</source>
+        <translation>&amp;Größe der Ansicht</translation>
+    </message>
+    <message>
+        <source>The picture can be laid over others; otherwise it has the background color of the view</source>
+        <translation>Das Bild lässt sich über andere legen; sonst hat es die Hintergrundfarbe der Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Transparent background</source>
+        <translation>&amp;Transparenter Hintergrund</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>&amp;Speichern…</translation>
+    </message>
+</context>
+<context>
+    <name>PictureSaver</name>
+    <message>
+        <source>Save Pictur&amp;e…</source>
+        <translation>Bild speicher&amp;n…</translation>
+    </message>
+    <message>
+        <source>Save what the view shows as a picture</source>
+        <translation>Speichern, was die Ansicht zeigt, als Bild</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>PNG pictures (*.png)</source>
+        <translation>PNG-Bilder (*.png)</translation>
+    </message>
+    <message>
+        <source>the graphics driver cannot paint a picture of %1 by %2 pixels</source>
+        <translation>der Grafiktreiber kann kein Bild von %1 mal %2 Pixeln malen</translation>
+    </message>
+    <message>
+        <source>The picture was saved as %1</source>
+        <translation>Das Bild wurde als %1 gespeichert</translation>
+    </message>
+    <message>
+        <source>[Save Picture] &apos;%1&apos;: %2</source>
+        <translation>[Bild speichern] &apos;%1&apos;: %2</translation>
+    </message>
+    <message>
+        <source>File error</source>
+        <translation>Dateifehler</translation>
+    </message>
+    <message>
+        <source>Failed to save
+%1
+
+%2</source>
+        <translation>Speichern fehlgeschlagen
+%1
+
+%2</translation>
     </message>
 </context>
 <context>
@@ -3447,6 +3708,10 @@ Hals (x5): %4
 Rumpf (x1): %2
 Arme und Beine (x0.5): %5
 Hände und Füße (x0.25): %6</translation>
+    </message>
+    <message>
+        <source>Number Fields</source>
+        <translation>Zahlenfelder</translation>
     </message>
 </context>
 <context>
@@ -3952,6 +4217,171 @@ Datei &gt; Wiederherstellen… hebt eine Kopie davon auf.</translation>
     <message>
         <source>Copied %1 addresses</source>
         <translation>%1 Adressen kopiert</translation>
+    </message>
+</context>
+<context>
+    <name>Session</name>
+    <message>
+        <source>[Session] &apos;%1&apos; is not there any more</source>
+        <translation>[Sitzung] &apos;%1&apos; gibt es nicht mehr</translation>
+    </message>
+    <message>
+        <source>[Session] Unable to read &apos;%1&apos;</source>
+        <translation>[Sitzung] &apos;%1&apos; kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>[Session] &apos;%1&apos;: %2</source>
+        <translation>[Sitzung] &apos;%1&apos;: %2</translation>
+    </message>
+    <message>
+        <source>[Session] &apos;%1&apos; has changed since the last session</source>
+        <translation>[Sitzung] &apos;%1&apos; hat sich seit der letzten Sitzung geändert</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Others</source>
+        <translation>Andere</translation>
+    </message>
+    <message>
+        <source>Fly Forward</source>
+        <translation>Vorwärts fliegen</translation>
+    </message>
+    <message>
+        <source>Fly Back</source>
+        <translation>Rückwärts fliegen</translation>
+    </message>
+    <message>
+        <source>Fly Left</source>
+        <translation>Nach links fliegen</translation>
+    </message>
+    <message>
+        <source>Fly Right</source>
+        <translation>Nach rechts fliegen</translation>
+    </message>
+    <message>
+        <source>Reset the Camera</source>
+        <translation>Kamera zurücksetzen</translation>
+    </message>
+    <message>
+        <source>3D View</source>
+        <translation>3D-Ansicht</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutsPage</name>
+    <message>
+        <source>&amp;Filter</source>
+        <translation>&amp;Filter</translation>
+    </message>
+    <message>
+        <source>Show only the commands with these words in their name or keys</source>
+        <translation>Nur die Befehle mit diesen Wörtern im Namen oder in den Tasten zeigen</translation>
+    </message>
+    <message>
+        <source>Part of a command or of its keys, such as Ctrl+S</source>
+        <translation>Teil eines Befehls oder seiner Tasten, etwa Strg+S</translation>
+    </message>
+    <message>
+        <source>Commands and their keys</source>
+        <translation>Befehle und ihre Tasten</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>Taste&amp;n</translation>
+    </message>
+    <message>
+        <source>Press the keys that the command is to have; Tab leaves the field</source>
+        <translation>Drücken Sie die Tasten, die der Befehl haben soll; Tab verlässt das Feld</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>&amp;Leeren</translation>
+    </message>
+    <message>
+        <source>Let the command have no keys</source>
+        <translation>Dem Befehl keine Tasten geben</translation>
+    </message>
+    <message>
+        <source>Rese&amp;t</source>
+        <translation>&amp;Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Give the command its usual keys</source>
+        <translation>Dem Befehl seine üblichen Tasten geben</translation>
+    </message>
+    <message>
+        <source>R&amp;eset All</source>
+        <translation>&amp;Alle zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Give all commands their usual keys</source>
+        <translation>Allen Befehlen ihre üblichen Tasten geben</translation>
+    </message>
+    <message>
+        <source>Take O&amp;ver</source>
+        <translation>Übe&amp;rnehmen</translation>
+    </message>
+    <message>
+        <source>Take these keys from the other command</source>
+        <translation>Dem anderen Befehl diese Tasten wegnehmen</translation>
+    </message>
+    <message>
+        <source>%1: %2 and %3</source>
+        <translation>%1: %2 und %3</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Commands that share their keys do nothing when these are pressed:
+
+%1
+
+Keep them like this?</source>
+        <translation>Befehle, die sich Tasten teilen, tun nichts, wenn diese gedrückt werden:
+
+%1
+
+So lassen?</translation>
+    </message>
+    <message>
+        <source>These keys also belong to %1</source>
+        <translation>Diese Tasten gehören auch zu %1</translation>
+    </message>
+    <message>
+        <source>These keys are always the same</source>
+        <translation>Diese Tasten sind immer dieselben</translation>
+    </message>
+    <message>
+        <source>Usually without keys</source>
+        <translation>Üblicherweise ohne Tasten</translation>
+    </message>
+    <message>
+        <source>Usually %1</source>
+        <translation>Üblicherweise %1</translation>
+    </message>
+    <message>
+        <source>These keys also belong to %1.</source>
+        <translation>Diese Tasten gehören auch zu %1.</translation>
+    </message>
+    <message>
+        <source>%1 ▸ %2</source>
+        <translation>%1 ▸ %2</translation>
+    </message>
+    <message>
+        <source> and </source>
+        <translation> und </translation>
     </message>
 </context>
 <context>
@@ -4607,6 +5037,30 @@ Datei &gt; Wiederherstellen… hebt eine Kopie davon auf.</translation>
     <message>
         <source>Rotation Count</source>
         <translation>Zahl der Rotationen</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Change Count</source>
+        <translation>Anzahl ändern</translation>
+    </message>
+    <message>
+        <source>Trees</source>
+        <translation>Bäume</translation>
     </message>
 </context>
 <context>
@@ -5382,6 +5836,17 @@ Datei &gt; Wiederherstellen… hebt eine Kopie davon auf.</translation>
     <message>
         <source>Background Color</source>
         <translation>Hintergrundfarbe</translation>
+    </message>
+</context>
+<context>
+    <name>ViewStatistics</name>
+    <message>
+        <source>%1 triangles</source>
+        <translation>%1 Dreiecke</translation>
+    </message>
+    <message>
+        <source>%1 frames/s</source>
+        <translation>%1 Bilder/s</translation>
     </message>
 </context>
 <context>

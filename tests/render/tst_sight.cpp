@@ -195,7 +195,8 @@ void tst_Sight::hostileTriangles()
     const std::vector<GLVertex> vertices{{{NaN, 0, 0}, {}, {}, 0},      {{big, -big, big}, {}, {}, 65535},
                                          {{infinite, 1, 0}, {}, {}, 3}, {{0, 0, 0}, {}, {}, 0},
                                          {{1, 0, 0}, {}, {}, 0},        {{2, 0, 0}, {}, {}, 0}};
-    SurfacePicker picker(vertices, BonePalette(2), {{0.5f, 0, -5}, {0, 0, 1}}, false);
+    const BonePalette palette(2);
+    SurfacePicker picker(vertices, palette, {{0.5f, 0, -5}, {0, 0, 1}}, false);
     picker.tryTriangles(0, {0, 1, 2, 3, 4, 5, 3, 3, 3, 0, 3, 4, 2, 3, 4, 3, 4});
     QCOMPARE(picker.surface(), SurfacePicker::None);
 }

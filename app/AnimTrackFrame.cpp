@@ -12,6 +12,7 @@
 
 #include <QAbstractItemView>
 #include <QAction>
+#include <QKeyEvent>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -79,6 +80,26 @@ void AnimTrackFrame::addTrackAction(QAction *action, const QString &name, int ke
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     nameShortcut(action, action->objectName(), tr("Timeline"), {});
     m_actions.append(action);
+}
+
+void AnimTrackFrame::serve(QWidget &panel)
+{
+    panel.addActions(m_actions);
+    for (QWidget *each : panel.findChildren<QWidget *>()) {
+        if (qobject_cast<QAbstractButton *>(each) || qobject_cast<QComboBox *>(each))
+            each->installEventFilter(this);
+    }
+}
+
+bool AnimTrackFrame::eventFilter(QObject *watched, QEvent *event)
+{
+    // Space presses what has the focus, rather than to play.
+    if (event->type() == QEvent::ShortcutOverride &&
+        static_cast<QKeyEvent *>(event)->key() == Qt::Key_Space) {
+        event->accept();
+        return true;
+    }
+    return QFrame::eventFilter(watched, event);
 }
 
 void AnimTrackFrame::openAnimation(const AnimFile *file)

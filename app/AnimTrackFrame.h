@@ -30,8 +30,9 @@ public:
     void showFrame(int frame);
     void showLabel(const QString &text);
 
-    /// What the buttons do, and play or pause, for the widget that is to hear their keys.
-    const QList<QAction *> &trackActions() const { return m_actions; }
+    /// Gives a panel the keys of the buttons, and those that play or pause. Its buttons and lists keep Space
+    /// for themselves.
+    void serve(QWidget &panel);
 
 signals:
     /// A block was chosen here.
@@ -40,6 +41,9 @@ signals:
     void actionChosen(int block, int action);
     /// The playback state was changed here: the picture is stale.
     void playbackChanged();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private slots:
     void OnAnimTrackPlayPressed();

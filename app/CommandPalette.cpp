@@ -46,13 +46,34 @@ CommandPalette::CommandPalette(const QMenuBar &menus, const QList<QAction *> &tr
     m_line->setFocus();
 }
 
+void CommandPalette::add(const QVector<ShortcutCommand> &commands)
+{
+    const auto isInSight = [](const QAction *action) {
+        const QList<QWidget *> widgets = action->associatedWidgets();
+        return std::any_of(widgets.begin(), widgets.end(),
+                           [](const QWidget *widget) { return widget->isVisible(); });
+    };
+    for (const ShortcutCommand &command : commands) {
+        for (QAction *action : command.actions) {
+            if (isInSight(action))
+                list(action, command.group + QStringLiteral(" ▸ ") + command.name);
+        }
+    }
+    fill();
+}
+
+void CommandPalette::list(QAction *action, const QString &name)
+{
+    const bool isListed = std::any_of(m_commands.begin(), m_commands.end(),
+                                      [action](const Command &command) { return command.action == action; });
+    if (!isListed && action->isVisible())
+        m_commands.append({action, name});
+}
+
 void CommandPalette::collect(const QList<QAction *> &actions, const QString &path)
 {
     for (QAction *action : actions) {
-        const bool isListed =
-            std::any_of(m_commands.begin(), m_commands.end(),
-                        [action](const Command &command) { return command.action == action; });
-        if (action->isSeparator() || !action->isVisible() || isListed)
+        if (action->isSeparator() || !action->isVisible())
             continue;
         const QString name = path + plainText(action);
         if (action->menu()) {
@@ -60,7 +81,7 @@ void CommandPalette::collect(const QList<QAction *> &actions, const QString &pat
             emit action->menu()->aboutToShow();
             collect(action->menu()->actions(), name + QStringLiteral(" ▸ "));
         } else {
-            m_commands.append({action, name});
+            list(action, name);
         }
     }
 }

@@ -5,6 +5,8 @@
 #include <QDialog>
 #include <QVector>
 
+struct ShortcutCommand;
+
 class QAction;
 class QLineEdit;
 class QListWidget;
@@ -18,6 +20,9 @@ class CommandPalette : public QDialog
 
 public:
     CommandPalette(const QMenuBar &menus, const QList<QAction *> &treeActions, QWidget *parent);
+
+    /// Those that are in no menu, where what they work on is in sight.
+    void add(const QVector<ShortcutCommand> &commands);
 
     /// How well `typed` fits a name, higher is better; below 0 it does not. Its letters have to come in
     /// order, in any case; letters that stand together or begin a word count more.
@@ -33,6 +38,7 @@ private:
         QString name; ///< with its menus before it
     };
 
+    void list(QAction *action, const QString &name);
     void collect(const QList<QAction *> &actions, const QString &path);
     void fill();
     void accept() override;

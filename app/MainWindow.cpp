@@ -268,7 +268,7 @@ void MainWindow::connectPlayback()
     connect(track, &AnimTrackFrame::actionChosen, this, [select](int block, int action) {
         select({RecordKind::AnimAction, {block, action}});
     });
-    m_ui->viewSkinnedPanel->addActions(track->trackActions());
+    track->serve(*m_ui->viewSkinnedPanel);
     track->openAnimation(nullptr);
 }
 
@@ -324,22 +324,32 @@ void MainWindow::showPane(DocumentType type)
 
 void MainWindow::showRecord(DocumentType type, const RecordRef &record)
 {
+    selectRecord(type, record);
+    pane(type).tree->setFocus();
+}
+
+void MainWindow::selectRecord(DocumentType type, const RecordRef &record)
+{
     showPane(type);
     KVTreeView *tree = pane(type).tree;
     tree->selectRecords({record}, record);
-    tree->setFocus();
-    if (tree->currentRecord() != record)
-        tell(tr("The tree leaves such records out. The options can make it show them."));
+    if (tree->currentRecord() == record)
+        return;
+    tell(tree->isFiltered() ? tr("The filter above the tree hides %1.").arg(tree->label(record))
+                            : tr("The tree leaves such records out. The options can make it show them."));
 }
 
 void MainWindow::showPicked(DocumentType type, const RecordRef &record)
 {
     // The keys stay with the view.
-    showPane(type);
-    KVTreeView *tree = pane(type).tree;
-    tree->selectRecords({record}, record);
-    if (tree->currentRecord() != record)
-        tell(tr("The filter above the tree hides %1.").arg(tree->label(record)));
+    const DocumentPane *current = currentPane();
+    if (!current || current->document != &m_anim)
+        return selectRecord(type, record);
+    // A click that gives the view the keys takes nobody away from the animation, which has bones alone.
+    const int block = playback().blockIndex;
+    if (record.kind == RecordKind::Bone &&
+        record.index[0] < m_anim.recordCount(RecordKind::AnimBone, {block}))
+        selectRecord(DocumentType::Anim, {RecordKind::AnimBone, {block, record.index[0]}});
 }
 
 void MainWindow::tell(const QString &text)

@@ -90,6 +90,7 @@ private:
     DocumentPane &pane(DocumentType type) { return m_panes[size_t(type)]; }
     std::array<KVOpenGLWidget *, 2> viewports() const;
     void showPane(DocumentType type);
+    void selectRecord(DocumentType type, const RecordRef &record);
     void showRecord(DocumentType type, const RecordRef &record);
     void showPicked(DocumentType type, const RecordRef &record);
     void tell(const QString &text);

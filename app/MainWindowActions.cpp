@@ -16,6 +16,7 @@
 #include "ModelTransforms.h"
 #include "OptionsDialog.h"
 #include "Problems.h"
+#include "Shortcuts.h"
 #include "WindowLayout.h"
 #include "ui_MainWindow.h"
 
@@ -125,7 +126,9 @@ void MainWindow::on_actionFilter_triggered()
 void MainWindow::on_actionCommands_triggered()
 {
     const DocumentPane *current = currentPane();
-    CommandPalette(*m_ui->menuBar, current ? current->tree->actions() : QList<QAction *>(), this).exec();
+    CommandPalette palette(*m_ui->menuBar, current ? current->tree->actions() : QList<QAction *>(), this);
+    palette.add(m_shortcuts->commands());
+    palette.exec();
 }
 
 void MainWindow::on_actionRotate_triggered()

@@ -54,7 +54,12 @@ void PictureSaver::on_actionSavePicture_triggered()
     files.selectFile(QFileInfo(m_name).completeBaseName() + QStringLiteral(".png"));
     if (files.exec() != QDialog::Accepted || files.selectedFiles().isEmpty())
         return;
-    const QString path = files.selectedFiles().first();
+    QString path = files.selectedFiles().first();
+    // The dialog completes only names without a dot, and asks before it replaces a file; "knight.v2" is
+    // completed here, and must not replace anything unasked.
+    const QString suffix = QStringLiteral(".png");
+    if (!path.endsWith(suffix, Qt::CaseInsensitive) && !QFileInfo::exists(path + suffix))
+        path += suffix;
     Settings::PicturePath.setValue(QFileInfo(path).absolutePath());
     save(path, dialog.pictureSize(), dialog.isTransparent());
 }

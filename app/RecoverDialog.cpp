@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "RecoverDialog.h"
 
+#include "Language.h"
 #include "Recovery.h"
 #include "ui_RecoverDialog.h"
 
@@ -30,9 +31,10 @@ void RecoverDialog::fill()
     tree->clear();
     for (const Snapshot &snapshot : qAsConst(m_snapshots)) {
         const QString path = QDir::toNativeSeparators(snapshot.sourcePath);
-        auto *item = new QTreeWidgetItem(tree, {snapshot.name, documentKind(snapshot.type).label,
-                                                QLocale().toString(snapshot.time, QLocale::ShortFormat),
-                                                path.isEmpty() ? tr("(never saved)") : path});
+        auto *item =
+            new QTreeWidgetItem(tree, {snapshot.name, documentKind(snapshot.type).label,
+                                       Language::locale().toString(snapshot.time, QLocale::ShortFormat),
+                                       path.isEmpty() ? tr("(never saved)") : path});
         item->setToolTip(3, path);
     }
     for (int column = 0; column < tree->columnCount() - 1; ++column) {

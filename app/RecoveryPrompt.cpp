@@ -4,13 +4,13 @@
 
 #include "CrashReportDialog.h"
 #include "Icons.h"
+#include "Language.h"
 #include "NoticeBar.h"
 #include "RecoverDialog.h"
 
 #include <QAction>
 #include <QBoxLayout>
 #include <QIcon>
-#include <QLocale>
 #include <QPushButton>
 #include <QSet>
 
@@ -64,7 +64,7 @@ void RecoveryPrompt::offer()
     }
     const int more = m_offered.size() - names.size();
     const QString all = names.join(QStringLiteral(", "));
-    const QString time = QLocale().toString(m_offered.first().time, QLocale::ShortFormat);
+    const QString time = Language::locale().toString(m_offered.first().time, QLocale::ShortFormat);
     const QString text = crashed ? tr("Korvane ended unexpectedly. It has kept unsaved work from %1: %2")
                                  : tr("Korvane has kept unsaved work from %1: %2");
     m_bar->tell(text.arg(time, more == 0 ? all : tr("%1 and %2 more").arg(all, QString::number(more))));

@@ -197,7 +197,10 @@ bool Session::openFile(const DocumentPane &pane, const QVariantMap &file) const
 
 bool Session::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_window && event->type() == QEvent::Close)
+    if (watched == m_window && event->type() == QEvent::Close) {
+        // Another window may have written meanwhile; the one closed last is the session.
+        m_stored.clear();
         store();
+    }
     return QObject::eventFilter(watched, event);
 }

@@ -104,7 +104,8 @@ void ShortcutsPage::fill()
         item->setData(NameColumn, CommandRole, i);
         m_items.append(item);
     }
-    tree->resizeColumnToContents(NameColumn);
+    for (const int column : {NameColumn, KeysColumn})
+        tree->resizeColumnToContents(column);
     if (!m_items.isEmpty())
         tree->setCurrentItem(m_items.first());
 }

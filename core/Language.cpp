@@ -70,3 +70,9 @@ QString Language::installed()
 {
     return installedCode();
 }
+
+QLocale Language::locale()
+{
+    const QLocale own(installed());
+    return QLocale().language() == own.language() ? QLocale() : own;
+}

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QLocale>
 #include <QString>
 #include <QVector>
 
@@ -27,4 +28,7 @@ void install(const QString &code);
 
 /// The code of the language that is installed; English at first.
 QString installed();
+
+/// What dates and numbers within texts are written by: the desktop's, if it is of the installed language.
+QLocale locale();
 } // namespace Language

@@ -61,7 +61,12 @@ MeshSource checkedSource(const Model &model)
 
 bool same(const QMatrix4x4 &a, const QMatrix4x4 &b)
 {
-    return std::memcmp(a.constData(), b.constData(), 16 * sizeof(float)) == 0;
+    // By bits, since a NaN is to be the same NaN.
+    const auto bytes = [](const QMatrix4x4 &matrix) {
+        return QByteArray::fromRawData(reinterpret_cast<const char *>(matrix.constData()),
+                                       16 * sizeof(float));
+    };
+    return bytes(a) == bytes(b);
 }
 
 /// The bones that the child lists reach from bone 0.

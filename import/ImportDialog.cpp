@@ -4,6 +4,7 @@
 
 #include "ImportFilter.h"
 #include "ImportOutput.h"
+#include "Language.h"
 #include "Settings.h"
 #include "ui_ImportDialog.h"
 
@@ -12,7 +13,6 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QKeyEvent>
-#include <QLocale>
 #include <QMessageBox>
 #include <QScreen>
 
@@ -328,7 +328,8 @@ void ImportDialog::updateElapsed()
 {
     const double seconds = double(m_worker.elapsed()) / 1000.0;
     m_ui->lblElapsed->setText(
-        tr("%1 s of at most %2 s").arg(QLocale().toString(seconds, 'f', 1), QLocale().toString(timeLimit())));
+        tr("%1 s of at most %2 s")
+            .arg(Language::locale().toString(seconds, 'f', 1), Language::locale().toString(timeLimit())));
 }
 
 void ImportDialog::on_btnStop_clicked()

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ViewStatistics.h"
 
-#include <QLocale>
+#include "Language.h"
 
 #include <cmath>
 
@@ -47,7 +47,7 @@ void ViewStatistics::tick(float dt)
 
 void ViewStatistics::showNumbers()
 {
-    const QString triangles = tr("%1 triangles").arg(QLocale().toString(m_triangles));
+    const QString triangles = tr("%1 triangles").arg(Language::locale().toString(m_triangles));
     setText(m_rate > 0 ? tr("%1 frames/s").arg(m_rate) + QStringLiteral(" · ") + triangles : triangles);
     adjustSize();
 }

@@ -2450,14 +2450,6 @@ Alles andere funktioniert weiter.</translation>
         <translation>&amp;Hilfe</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Datei</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>Bearbeiten</translation>
-    </message>
-    <message>
         <source>Console</source>
         <translation>Konsole</translation>
     </message>
@@ -2798,6 +2790,14 @@ Alles andere funktioniert weiter.</translation>
     <message>
         <source>The filter above the tree hides %1.</source>
         <translation>Der Filter über dem Baum blendet %1 aus.</translation>
+    </message>
+    <message>
+        <source>File Tool Bar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit Tool Bar</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

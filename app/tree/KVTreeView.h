@@ -41,6 +41,7 @@ public:
     /// Shows only the records that match, with what stands above and below them; an empty text shows all.
     /// The current record stays current where it is shown.
     void setFilter(const QString &text);
+    bool isFiltered() const { return !m_filter.isEmpty(); }
     /// A text that would make a useful filter of this document.
     QString filterExample() const;
     /// Makes the first record that matches current; without a filter nothing happens.

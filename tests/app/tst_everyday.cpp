@@ -132,11 +132,16 @@ void tst_Everyday::thePaletteDoesWhatIsChosen()
                          QVERIFY(dialog->isVisible());
                          QTest::keyClick(line, Qt::Key_Escape);
                      },
-                     choose(QStringLiteral("history"))});
+                     choose(QStringLiteral("history")), choose(QStringLiteral("timeline loop"))});
     find<QAction>(window, "actionCommands")->trigger();
     find<QAction>(window, "actionCommands")->trigger();
     QTRY_VERIFY(servers->isVisible());
-    QCOMPARE(hand.seen.size(), 2);
+    // Of no menu.
+    const auto *loop = find<QToolButton>(window, "btnAnimTrackLoop");
+    const bool loops = loop->isChecked();
+    find<QAction>(window, "actionCommands")->trigger();
+    QTRY_COMPARE(loop->isChecked(), !loops);
+    QCOMPARE(hand.seen.size(), 3);
 }
 
 void tst_Everyday::recentFilesAreOpenedAgain()

@@ -87,6 +87,7 @@ void tst_ViewMenu::init()
     Settings::Updates.setValue(false);
     Settings::AnimationAutoPlay.setValue(false);
     Settings::HideMeshData.setValue(false);
+    Settings::HideAnimData.setValue(false);
 }
 
 std::unique_ptr<MainWindow> tst_ViewMenu::open(const QStringList &more)
@@ -169,7 +170,7 @@ void tst_ViewMenu::clicksSelect()
     const auto window = open({path});
     auto *view = find<KVOpenGLWidget>(*window, "viewSkinned");
     auto *tree = find<KVTreeView>(*window, "treeSkinnedMesh");
-    find<QTabWidget>(*window, "tabTrees")->setCurrentIndex(1);
+    auto *tabs = find<QTabWidget>(*window, "tabTrees");
     const auto click = [](QWidget *where, const QPoint &offset) {
         QTest::mouseClick(where, Qt::LeftButton, {}, where->rect().center() + offset);
     };
@@ -177,7 +178,6 @@ void tst_ViewMenu::clicksSelect()
     view->grabFramebuffer();
     click(view, {0, 30});
     QCOMPARE(tree->currentRecord(), (RecordRef{RecordKind::SkinnedSurface, {0}}));
-    QCOMPARE(find<QTabWidget>(*window, "tabTrees")->currentIndex(), 0);
     QVERIFY(view->hasFocus());
     const RecordRef root{RecordKind::SkinnedMesh, {}};
     select(*window, "treeSkinnedMesh", {root});
@@ -191,17 +191,31 @@ void tst_ViewMenu::clicksSelect()
     select(*window, "treeSkinnedMesh", {root});
     view->grabFramebuffer();
     const int step = 6;
-    for (int y = 0; y < view->height() && tree->currentRecord() == root; y += step) {
-        QMouseEvent move(QEvent::MouseMove, QPoint(view->width() / 2, y), Qt::NoButton, Qt::NoButton, {});
+    QPoint joint(view->width() / 2, 0);
+    for (; joint.y() < view->height() && tree->currentRecord() == root; joint.ry() += step) {
+        QMouseEvent move(QEvent::MouseMove, joint, Qt::NoButton, Qt::NoButton, {});
         QApplication::sendEvent(view, &move);
         if (QToolTip::isVisible() && QToolTip::text().startsWith(QStringLiteral("0:")))
-            QTest::mouseClick(view, Qt::LeftButton, {}, {view->width() / 2, y});
+            QTest::mouseClick(view, Qt::LeftButton, {}, joint);
     }
     QCOMPARE(tree->currentRecord(), (RecordRef{RecordKind::Bone, {0}}));
 
+    // The animation stays in front, and has the bone too; it has no surfaces.
+    tabs->setCurrentIndex(1);
+    select(*window, "treeSkinnedMesh", {root});
+    joint.ry() -= step;
+    QTest::mouseClick(view, Qt::LeftButton, {}, joint);
+    const RecordRef bone{RecordKind::AnimBone, {0, 0}};
+    QCOMPARE(find<KVTreeView>(*window, "treeAnim")->currentRecord(), bone);
+    find<QAction>(*window, "actionSkeleton")->trigger();
+    click(view, {0, 30});
+    QCOMPARE(find<KVTreeView>(*window, "treeAnim")->currentRecord(), bone);
+    QCOMPARE(tree->currentRecord(), root);
+    QCOMPARE(tabs->currentIndex(), 1);
+    tabs->setCurrentIndex(0);
+
     // A record that the filter hides is named.
     tree->setFilter(QStringLiteral("bone 0"));
-    find<QAction>(*window, "actionSkeleton")->trigger();
     QTest::keyClick(view, Qt::Key_Home);
     click(view, {0, 30});
     QVERIFY(window->statusBar()->currentMessage().contains(QStringLiteral("filter")));

@@ -52,6 +52,8 @@ public:
     QVector3D sight() const;
     /// What the camera was aimed at with frame(), until it flew on.
     const std::optional<QVector3D> &framed() const { return m_framed; }
+    /// What was framed is no longer what it was.
+    void forgetFramed() { m_framed.reset(); }
 
     QMatrix4x4 viewMatrix() const;
     /// Vertical field of view 90 degrees; a width or height of 0 counts as 1.

@@ -16,7 +16,6 @@
 #include <QTabWidget>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 // Keys of the stored map; files stand under their kind's extension, cameras under their view's name.
@@ -25,9 +24,6 @@ const QString PathKey = QStringLiteral("path");
 const QString SizeKey = QStringLiteral("size");
 const QString ModifiedKey = QStringLiteral("modified");
 const QString RecordKey = QStringLiteral("record");
-
-/// Beyond any model; farther out a float has no fractions left.
-constexpr float MostDistance = 1e6f;
 
 QVariantList numbers(const RecordRef &record)
 {
@@ -59,11 +55,8 @@ void placeCamera(KVOpenGLWidget &viewport, const QVariantList &stored)
     if (stored.size() != 5)
         return;
     float value[5];
-    for (int i = 0; i < 5; ++i) {
+    for (int i = 0; i < 5; ++i)
         value[i] = stored[i].toFloat();
-        if (!(std::fabs(value[i]) <= MostDistance))
-            return;
-    }
     viewport.placeCamera({value[0], value[1], value[2]}, value[3], value[4]);
 }
 

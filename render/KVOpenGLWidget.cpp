@@ -235,6 +235,7 @@ void KVOpenGLWidget::modelReplaced(bool shown)
     m_frame.highlight = {};
     m_frame.marks.mesh = nullptr;
     setMarkedSelection({}, {});
+    m_camera.forgetFramed();
     rebuildModel();
 }
 
@@ -265,6 +266,7 @@ void KVOpenGLWidget::buildModel()
 void KVOpenGLWidget::refreshVertices()
 {
     m_verticesChanged = true;
+    m_camera.forgetFramed();
     update();
 }
 

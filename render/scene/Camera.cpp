@@ -11,7 +11,15 @@ constexpr float StartYaw = 180.0f;
 constexpr float SmoothTime = 0.05f; // seconds
 constexpr float FastFactor = 3.0f;
 constexpr float FieldOfView = 90.0f; // vertical, degrees
-constexpr float FarPlane = 100000.0f;
+/// Of a place to stand: beyond any model; farther out a float has no fractions left.
+constexpr float MostDistance = 1e6f;
+/// Of a flight, which steps of an absurd length could take out of all numbers.
+constexpr float MostFlight = 1e9f;
+
+bool isWithin(float limit, const QVector3D &place)
+{
+    return std::fabs(place.x()) <= limit && std::fabs(place.y()) <= limit && std::fabs(place.z()) <= limit;
+}
 
 /// Equal to about five digits. Towards a target of 0 only 0 itself is equal.
 bool arrived(float value, float target)
@@ -46,6 +54,8 @@ void Camera::reset()
 
 void Camera::place(const QVector3D &position, float yaw, float pitch)
 {
+    if (!isWithin(MostDistance, position) || !isWithin(MostDistance, {yaw, pitch, 0.0f}))
+        return;
     m_position = m_targetPosition = position;
     m_yaw = m_targetYaw = std::fmod(yaw, 360.0f);
     m_pitch = m_targetPitch = std::clamp(pitch, -PitchLimit, PitchLimit);
@@ -130,7 +140,8 @@ bool Camera::drag(float dx, float dy, float speed)
         else
             move -= QVector3D(forward.x(), 0.0f, forward.z()) * (dy * speed);
         move -= QVector3D(right.x(), 0.0f, right.z()) * (dx * speed);
-        m_targetPosition += move;
+        if (isWithin(MostFlight, m_targetPosition + move))
+            m_targetPosition += move;
     } else if (m_buttons[RightButton]) {
         m_targetYaw -= dx * DegreesPerPixel;
         m_targetPitch = std::clamp(m_targetPitch - dy * DegreesPerPixel, -PitchLimit, PitchLimit);
@@ -157,14 +168,17 @@ bool Camera::fly(float speed)
     const float step = speed * (m_keys[Fast] ? FastFactor : 1.0f);
     const QVector3D forward = rotation().rotatedVector({0.0f, 0.0f, 1.0f}) * step;
     const QVector3D right = rotation().rotatedVector({1.0f, 0.0f, 0.0f}) * step;
+    QVector3D position = m_position;
     if (m_keys[Forward])
-        m_position += forward;
+        position += forward;
     else if (m_keys[Back])
-        m_position -= forward;
+        position -= forward;
     if (m_keys[Right])
-        m_position -= right;
+        position -= right;
     else if (m_keys[Left])
-        m_position += right;
+        position += right;
+    if (isWithin(MostFlight, position))
+        m_position = position;
     return true;
 }
 

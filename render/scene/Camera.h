@@ -28,13 +28,15 @@ public:
     static constexpr float PitchLimit = 89.0f;     ///< degrees
     static constexpr float DegreesPerPixel = 0.5f; ///< of a drag
     static constexpr float NearPlane = 5.12f;
+    static constexpr float FarPlane = 100000.0f;
 
     Camera() { reset(); }
 
     /// In front of the origin and above the ground, looking at a model's front.
     void reset();
 
-    /// Puts the camera anywhere at once; angles in degrees, brought into their range.
+    /// Puts the camera anywhere at once; angles in degrees, brought into their range. Numbers that are not
+    /// finite or absurdly large change nothing.
     void place(const QVector3D &position, float yaw, float pitch);
 
     /// The offset applied to the world, not the eye's place.
@@ -50,6 +52,8 @@ public:
     QVector3D sight() const;
     /// What the camera was aimed at with frame(), until it flew on.
     const std::optional<QVector3D> &framed() const { return m_framed; }
+    /// What was framed is no longer what it was.
+    void forgetFramed() { m_framed.reset(); }
 
     QMatrix4x4 viewMatrix() const;
     /// Vertical field of view 90 degrees; a width or height of 0 counts as 1.
@@ -88,11 +92,11 @@ public:
     void lookFrom(Side side, const QVector3D &pivot);
     /// Follows a mouse that moved by (dx, dy) pixels in a picture of this height: `pivot` goes with it.
     void pan(const QVector3D &pivot, float dx, float dy, int height);
-    /// Makes the distance from `pivot` this many times as large; it stays before the near plane.
+    /// Makes the distance from `pivot` this many times as large; it stays between the near plane and the far.
     void dolly(const QVector3D &pivot, float factor);
 
 private:
-    /// Stands where the view has `place` at `seen`.
+    /// Stands where the view has `place` at `seen`, unless no float holds that.
     void bring(const QVector3D &place, const QVector3D &seen);
     QQuaternion rotation() const { return QQuaternion::fromEulerAngles(m_pitch, m_yaw, 0.0f); }
     bool fly(float speed);

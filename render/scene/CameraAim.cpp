@@ -5,11 +5,11 @@
 #include "Framing.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 constexpr float Room = 1.15f;                          // around what is framed
 constexpr float LeastDepth = 2.0f * Camera::NearPlane; // of what is framed or orbited
+constexpr float MostDepth = 0.5f * Camera::FarPlane;   // what lies around it is still to be seen
 
 QMatrix4x4 withoutTranslation(QMatrix4x4 matrix)
 {
@@ -22,7 +22,7 @@ QVector3D middleOf(const std::vector<QVector3D> &points)
     QVector3D low, high;
     bool any = false;
     for (const QVector3D &point : points) {
-        if (!std::isfinite(point.x()) || !std::isfinite(point.y()) || !std::isfinite(point.z()))
+        if (!isFinite(point))
             continue;
         for (int axis = 0; axis < 3; ++axis) {
             low[axis] = any ? std::min(low[axis], point[axis]) : point[axis];
@@ -47,7 +47,10 @@ QVector3D Camera::sight() const
 void Camera::bring(const QVector3D &place, const QVector3D &seen)
 {
     const QMatrix4x4 view = viewMatrix();
-    m_position += withoutTranslation(view).transposed().map(seen - view.map(place));
+    const QVector3D position = m_position + withoutTranslation(view).transposed().map(seen - view.map(place));
+    if (!isFinite(position))
+        return;
+    m_position = position;
     m_targetPosition = m_position;
     m_positionVelocity = {};
 }
@@ -58,10 +61,12 @@ void Camera::frame(const std::vector<QVector3D> &points, const QSize &size)
     const QMatrix4x4 projection = projectionMatrix(size.width(), size.height());
     const VisionExtent extent(points, turn, 1.0f / (Room * projection(0, 0)),
                               1.0f / (Room * projection(1, 1)));
-    if (extent.isEmpty())
+    const QVector3D eye = extent.eye(LeastDepth), middle = middleOf(points);
+    if (extent.isEmpty() || !isFinite(eye) || !isFinite(middle))
         return;
-    bring({}, -extent.eye(LeastDepth));
-    m_framed = middleOf(points);
+    m_position = {}; // from far away the way back would be inexact
+    bring({}, -eye);
+    m_framed = middle;
 }
 
 void Camera::orbit(const QVector3D &pivot, float yaw, float pitch)
@@ -109,7 +114,7 @@ void Camera::dolly(const QVector3D &pivot, float factor)
 {
     const QVector3D seen = viewMatrix().map(pivot);
     const float depth = -seen.z();
-    if (factor < 1.0f && !(depth > LeastDepth))
-        return;
-    bring(pivot, seen * (factor < 1.0f ? std::max(factor, LeastDepth / depth) : factor));
+    const bool mayMove = factor < 1.0f ? depth > LeastDepth : depth > 0.0f && depth < MostDepth;
+    if (mayMove)
+        bring(pivot, seen * (std::clamp(depth * factor, LeastDepth, MostDepth) / depth));
 }

@@ -4,6 +4,7 @@
 
 #include "AnimFile.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -14,10 +15,15 @@ FrameChoice wrap(int lastFrame, float rate, float duration, float &time)
     // Rounding can carry a time just below the duration onto the last frame, which has no successor.
     if (position >= float(lastFrame))
         return {lastFrame, lastFrame, 0.0f};
-    const int frame = int(position);
+    // The product can round to the frame before the one that the time was made of, or to the one after.
+    int frame = int(position);
+    if (float(frame + 1) / rate <= time)
+        ++frame;
+    if (frame >= lastFrame)
+        return {lastFrame, lastFrame, 0.0f};
     const float start = float(frame) / rate;
     const float length = float(frame + 1) / rate - start;
-    return {frame, frame + 1, length > 0.0f ? (time - start) / length : 0.0f};
+    return {frame, frame + 1, length > 0.0f ? std::max(0.0f, (time - start) / length) : 0.0f};
 }
 } // namespace
 

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace {
 // Narrower than the viewport's, which flies among models: a whole model looks less distorted so.
@@ -13,13 +14,12 @@ constexpr float FieldOfView = 30.0f; // vertical, degrees
 constexpr float Room = 1.06f;
 constexpr float LeastDistance = 1.0e-3f; // of the eye from the nearest point, relative to its place
 constexpr float DegreesPerRadian = 57.29578f;
+} // namespace
 
 bool isFinite(const QVector3D &point)
 {
     return std::isfinite(point.x()) && std::isfinite(point.y()) && std::isfinite(point.z());
 }
-
-} // namespace
 
 VisionExtent::VisionExtent(const std::vector<QVector3D> &points, const QMatrix4x4 &turn, float tangentX,
                            float tangentY)
@@ -41,14 +41,33 @@ VisionExtent::VisionExtent(const std::vector<QVector3D> &points, const QMatrix4x
         for (size_t bound = 0; bound < m_bounds.size(); ++bound)
             m_bounds[bound] = m_isEmpty ? own[bound] : std::max(m_bounds[bound], own[bound]);
         m_isEmpty = false;
+        m_points.push_back(p);
     }
 }
 
 QVector3D VisionExtent::eye(float least) const
 {
-    return {0.5f * (m_bounds[Right] - m_bounds[Left]), 0.5f * (m_bounds[Up] - m_bounds[Down]),
-            std::max({0.5f * (m_bounds[Right] + m_bounds[Left]) / m_tangentX,
-                      0.5f * (m_bounds[Up] + m_bounds[Down]) / m_tangentY, nearest() + least})};
+    const float z = std::max({0.5f * (m_bounds[Right] + m_bounds[Left]) / m_tangentX,
+                              0.5f * (m_bounds[Up] + m_bounds[Down]) / m_tangentY, nearest() + least});
+    // The side that did not decide how far away the eye stands leaves it room to either side.
+    return {middle(0, m_bounds[Right] - m_tangentX * z, m_tangentX * z - m_bounds[Left], z),
+            middle(1, m_bounds[Up] - m_tangentY * z, m_tangentY * z - m_bounds[Down], z), z};
+}
+
+float VisionExtent::middle(int axis, float low, float high, float eyeZ) const
+{
+    constexpr int Halvings = 24; // as many as a float has digits
+    for (int i = 0; i < Halvings && !m_points.empty(); ++i) {
+        const float tried = 0.5f * (low + high);
+        float least = std::numeric_limits<float>::max(), most = -least;
+        for (const QVector3D &point : m_points) {
+            const float place = (point[axis] - tried) / (eyeZ - point.z());
+            least = std::min(least, place);
+            most = std::max(most, place);
+        }
+        (most > -least ? low : high) = tried;
+    }
+    return 0.5f * (low + high);
 }
 
 Framing frameAll(const std::vector<QVector3D> &points, float yaw, float pitch, const QSize &size)

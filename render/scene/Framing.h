@@ -9,6 +9,8 @@
 #include <array>
 #include <vector>
 
+bool isFinite(const QVector3D &point);
+
 /// How far points reach beyond the sides of a pyramid of vision, whose tip then goes where it has all of them
 /// inside. Points that are not finite do not count.
 class VisionExtent
@@ -21,14 +23,19 @@ public:
 
     bool isEmpty() const { return m_isEmpty; }
     /// The nearest eye, in the turned space, that sees all points, at least `least` before the nearest one.
+    /// The points reach as far to the left of the picture as to the right, and as far up as down.
     QVector3D eye(float least) const;
     /// Turned z of the points; 0 without points.
     float nearest() const { return m_bounds[Nearest]; }
     float farthest() const { return -m_bounds[Farthest]; }
 
 private:
+    /// Where on an axis, between `low` and `high`, the eye sees as much on either side.
+    float middle(int axis, float low, float high, float eyeZ) const;
+
     enum Bound { Right, Left, Up, Down, Nearest, Farthest, BoundCount };
 
+    std::vector<QVector3D> m_points; ///< turned
     float m_tangentX;
     float m_tangentY;
     std::array<float, BoundCount> m_bounds{};

@@ -27,6 +27,7 @@ private slots:
     void orbitKeepsThePivot();
     void sides();
     void panAndDolly();
+    void staysWhereNumbersReach();
     void springArrives();
     void springAtRestKeepsNumbers();
 };
@@ -308,6 +309,49 @@ void tst_Camera::panAndDolly()
     QVERIFY(-camera.viewMatrix().map(pivot).z() > Camera::NearPlane);
     camera.dolly(pivot, 10.0f);
     QVERIFY(-camera.viewMatrix().map(pivot).z() > 10.0f * Camera::NearPlane);
+    for (int i = 0; i < 1000; ++i)
+        camera.dolly(pivot, 1.0f / 0.88f);
+    const float depth = -camera.viewMatrix().map(pivot).z();
+    QVERIFY(depth > 0.4f * Camera::FarPlane && depth < 0.9f * Camera::FarPlane);
+    camera.dolly(pivot, 0.5f);
+    QVERIFY(-camera.viewMatrix().map(pivot).z() < 0.6f * depth);
+}
+
+void tst_Camera::staysWhereNumbersReach()
+{
+    Camera camera;
+    const QVector3D start = camera.position();
+    for (float absurd : {NAN, INFINITY, -1e38f}) {
+        camera.place({0.0f, absurd, 0.0f}, 0.0f, 0.0f);
+        camera.place({}, absurd, 0.0f);
+        camera.place({}, 0.0f, absurd);
+        QCOMPARE(camera.position(), start);
+        QCOMPARE(camera.yaw(), 180.0f);
+        QCOMPARE(camera.pitch(), 0.0f);
+    }
+
+    const std::vector<QVector3D> model{{-90, 0, -100}, {110, 200, 40}};
+    Camera fresh;
+    fresh.frame(model, {400, 300});
+    for (float speed : {1e8f, 3e38f, INFINITY, NAN}) {
+        camera.setKey(Camera::Back, true);
+        for (int i = 0; i < 5; ++i)
+            camera.tick(Tick, speed);
+        QVERIFY(camera.position().z() < 1e10f);
+        camera.releaseAll();
+        startDrag(camera, {Camera::LeftButton});
+        for (int i = 0; i < 5; ++i)
+            camera.drag(0.0f, 10.0f, speed);
+        settle(camera);
+        QVERIFY(camera.position().z() > -1e10f);
+        camera.releaseAll();
+        camera.lookFrom(Camera::Side::Top, {});
+        camera.lookFrom(Camera::Side::Front, {});
+        camera.frame(model, {400, 300});
+        QVERIFY2(near(camera.position(), fresh.position()), qPrintable(QString::number(double(speed))));
+        camera.frame({{3e38f, 3e38f, 3e38f}, {-3e38f, 0.0f, 0.0f}}, {400, 300});
+        QVERIFY(near(camera.position(), fresh.position()));
+    }
 }
 
 void tst_Camera::springArrives()

@@ -14,6 +14,8 @@ class tst_Framing : public QObject
 private slots:
     void fillsThePicture_data();
     void fillsThePicture();
+    void centresTheModel_data();
+    void centresTheModel();
     void standsWhereAsked();
     void oddPoints();
 };
@@ -68,6 +70,38 @@ void tst_Framing::fillsThePicture()
         widest = qMax(widest, qMax(qAbs(place.x()), qAbs(place.y())));
     }
     QVERIFY(widest > 0.92f);
+}
+
+void tst_Framing::centresTheModel_data()
+{
+    QTest::addColumn<bool>("upright");
+    QTest::newRow("tall in a wide picture") << true;
+    QTest::newRow("broad in a high picture") << false;
+}
+
+// What reaches towards the eye beside a model does not draw it out of the middle.
+void tst_Framing::centresTheModel()
+{
+    QFETCH(bool, upright);
+    std::vector<QVector3D> points{{-20, -90, 0}, {20, -90, 0}, {-20, 90, 0}, {20, 90, 0}, {60, 10, -170}};
+    if (!upright) {
+        for (QVector3D &point : points)
+            point = {point.y(), point.x(), point.z()};
+    }
+    const Framing framing = frameAll(points, 0.0f, 0.0f, upright ? QSize(200, 100) : QSize(100, 200));
+    QVector3D low(1, 1, 1), high(-1, -1, -1);
+    for (const QVector3D &point : points) {
+        const QVector3D place = seen(framing, point);
+        for (int axis = 0; axis < 3; ++axis) {
+            low[axis] = qMin(low[axis], place[axis]);
+            high[axis] = qMax(high[axis], place[axis]);
+        }
+    }
+    for (int axis = 0; axis < 2; ++axis) {
+        QVERIFY(low[axis] > -0.96f && high[axis] < 0.96f);
+        QVERIFY2(qAbs(low[axis] + high[axis]) < 0.01f, qPrintable(QString::number(double(low[axis]))));
+    }
+    QVERIFY(high[upright ? 1 : 0] > 0.92f);
 }
 
 void tst_Framing::standsWhereAsked()

@@ -21,6 +21,7 @@ private slots:
     void frames();
     void framesStayInRange_data();
     void framesStayInRange();
+    void everyFrameCanBeAskedFor();
     void label();
     void labelOfOddTimes();
     void validity();
@@ -143,6 +144,26 @@ void tst_Playback::framesStayInRange()
     }
     if (speed == 1.5f)
         QVERIFY(carried);
+}
+
+// As the slider asks for them; and next to such a time nothing is extrapolated.
+void tst_Playback::everyFrameCanBeAskedFor()
+{
+    for (int rate = 10; rate <= 60; ++rate) {
+        const AnimBlock played = block(401, float(rate));
+        for (int frame = 0; frame <= 400; ++frame) {
+            const float asked = float(frame) / float(rate);
+            float time = asked;
+            const FrameChoice at = chooseFrame(played, PlayState::Paused, false, time);
+            QVERIFY2(at.frame == frame, qPrintable(QStringLiteral("%1 at %2").arg(frame).arg(rate)));
+            QCOMPARE(at.t, 0.0f);
+            for (float end : {0.0f, Infinity}) {
+                time = std::nextafter(asked, end);
+                const FrameChoice beside = chooseFrame(played, PlayState::Playing, true, time);
+                QVERIFY(beside.t >= 0.0f && beside.t <= 1.0f);
+            }
+        }
+    }
 }
 
 void tst_Playback::label()

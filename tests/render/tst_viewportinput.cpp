@@ -30,6 +30,7 @@ private slots:
     void clickPicksAndDragDoesNot();
     void tipsNameBones();
     void altTurnsAroundTheModel();
+    void anotherModelIsTurnedAroundItself();
     void captureHidesTheCursor();
     void lostFocusReleasesEverything();
     void pausedViewRests();
@@ -305,6 +306,26 @@ void tst_ViewportInput::altTurnsAroundTheModel()
     drag(Qt::LeftButton, {180, 0}, Qt::NoModifier);
     QCOMPARE(m_view->camera().yaw(), 180.0f);
     QCOMPARE(m_view->camera().position(), start);
+}
+
+void tst_ViewportInput::anotherModelIsTurnedAroundItself()
+{
+    showWall();
+    m_view->frameAll();
+    QVERIFY(m_view->camera().framed());
+    m_view->refreshVertices(); // scaled or rotated
+    QVERIFY(!m_view->camera().framed());
+
+    m_view->frameAll();
+    QVERIFY(m_view->camera().framed());
+    m_view->setStaticMesh(nullptr); // which is not shown
+    QVERIFY(m_view->camera().framed());
+    SkinnedMesh other = m_mesh;
+    playback().mesh = &other;
+    m_view->setSkinnedMesh(&other);
+    QVERIFY(!m_view->camera().framed());
+    playback().mesh = &m_mesh;
+    m_view->setSkinnedMesh(&m_mesh);
 }
 
 void tst_ViewportInput::captureHidesTheCursor()

@@ -2793,11 +2793,11 @@ Alles andere funktioniert weiter.</translation>
     </message>
     <message>
         <source>File Tool Bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeugleiste Datei</translation>
     </message>
     <message>
         <source>Edit Tool Bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeugleiste Bearbeiten</translation>
     </message>
 </context>
 <context>

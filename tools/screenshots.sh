@@ -136,13 +136,56 @@ command() {
     press Return
 }
 
-# for_guide NAME ARGS...: what the main window shows, cut out or scaled down by ImageMagick's ARGS.
-for_guide() {
-    local picture=$guides/$1.png whole=build/whole.png
+# part PICTURE ARGS...: what the main window shows, cut out by ImageMagick's ARGS.
+part() {
+    local picture=$1 whole=build/whole.png
     shift
     grab "$main" "$whole" >>"$log"
     convert "$whole" "$@" +repage -strip -define png:compression-level=9 "$picture"
     echo "$picture"
+}
+
+# for_guide NAME ARGS...: a part for the guides in the program.
+for_guide() { part "$guides/$1.png" "${@:2}"; }
+
+# show_record WORDS: lets the filter line of the current tree find a record and goes to it.
+show_record() {
+    press ctrl+f
+    xdotool type --delay 20 "$1"
+    # It looks when the typing is done.
+    sleep 1
+    press Return
+}
+
+# page NAME: keeps the property page of the current record for pages, without the empty room below it.
+page() {
+    local picture=build/page-$1.png box
+    part "$picture" -crop 400x534+1200+424 >>"$log"
+    box=$(convert "$picture" -format '%@' info:)
+    [[ $box =~ x([0-9]+)\+[0-9]+\+([0-9]+)$ ]]
+    convert "$picture" -crop "400x$((BASH_REMATCH[1] + BASH_REMATCH[2]))+0+0" +repage -bordercolor '#eff0f1' \
+        -border 8x10 "$picture"
+}
+
+# pages PICTURE COLUMN...: the property pages kept under the names in each column, one below another.
+pages() {
+    local picture=$1 column name columns=()
+    shift
+    for column in "$@"; do
+        columns+=('(')
+        for name in $column; do
+            columns+=("build/page-$name.png")
+        done
+        columns+=(-append ')')
+    done
+    convert -background '#eff0f1' "${columns[@]}" +append -strip -define png:compression-level=9 "$picture"
+    echo "$picture"
+}
+
+# setting NAME VALUE: what the next start finds in the settings.
+setting() {
+    local store=$XDG_CONFIG_HOME/Korvane/Korvane.conf
+    sed -i -e "/^$1=/d" -e "s/^\[General\]/&\n$1=$2/" "$store"
 }
 
 # The first file with this extension in the game folder of the samples.
@@ -195,6 +238,84 @@ model_pictures() {
     quit
 }
 
+# What the viewport can show beside textured models, and what finds and describes records.
+view_pictures() {
+    local folder=$1 samples=$2 dialog
+    setting HideAnimData false
+    korvane "$(first skinnedmesh)" "$(first anim)"
+    approach
+    press Home 6 b
+    part "$folder/skeleton.png" -crop 962x644+234+90
+    press 5 b F12
+    dialog=$(wait_for --name '^Save Picture$')
+    grab "$dialog" "$folder/picture.png"
+    press Escape
+    press ctrl+f
+    xdotool type --delay 20 'left arm'
+    sleep 1
+    part "$folder/filter.png" -crop 400x250+1200+90
+    press Escape
+    # More room for the pages.
+    command 'view console'
+    command 'view problems'
+    show_record 'tinker.skinnedmesh'
+    page mesh
+    show_record 'hot point 1'
+    page hot-point
+    show_record 'surface 1'
+    page surface
+    show_record 'triangle index 1'
+    page triangle-index
+    show_record 'vertex 100'
+    page vertex
+    pages "$folder/pages-mesh.png" mesh hot-point vertex 'surface triangle-index'
+    press ctrl+Tab
+    show_record 'anim 2'
+    page block
+    show_record 'bone 3'
+    page bone
+    show_record 'action 1'
+    page action
+    show_record 'frame 4'
+    page frame
+    show_record 'translation track 0'
+    press ctrl+f Escape Right Down
+    page translation
+    show_record 'rotation track 1'
+    press ctrl+f Escape Right Down Down
+    page rotation
+    pages "$folder/pages-animation.png" block bone action 'frame translation rotation'
+    quit
+    setting HideAnimData true
+}
+
+# What a start offers after the program could not end as it should.
+recovery_pictures() {
+    local folder=$1 samples=$2
+    korvane "$(first skinnedmesh)" "$(first anim)"
+    in_tree Down Down Right Down Insert
+    sleep 5
+    kill -KILL "$korvane_pid"
+    wait "$korvane_pid" 2>>"$log" || true
+    korvane "$(first skinnedmesh)" "$(first anim)"
+    part "$folder/notice.png" -crop 1600x130+0+0
+    command recover
+    grab "$(wait_for --name '^Recover$')" "$folder/recover.png"
+    press Escape
+    quit
+}
+
+dark_pictures() {
+    local folder=$1 samples=$2
+    setting Look dark
+    korvane "$(first skinnedmesh)" "$(first anim)"
+    approach
+    in_tree Down Right Down Down Down
+    grab "$main" "$folder/main-dark.png"
+    quit
+    setting Look light
+}
+
 # master_server: one on this machine that tells of three servers, so that the pictures need no other.
 master_server() {
     perl -MIO::Socket::INET -e '
@@ -232,6 +353,15 @@ other_pictures() {
     quit
 }
 
+problems_picture() {
+    local width=1600 height=1000
+    korvane "$(first skinnedmesh)" "$(first anim)"
+    approach
+    click $((width - 250)) $((height - 15))
+    grab "$main" "$1"
+    quit
+}
+
 # The pictures of the guides show the view and the records of a window that is hardly wider than a page.
 guide_pictures() {
     local folder=$1 samples=$2 width=1010 height=880 part=() import WIDTH
@@ -254,15 +384,15 @@ guide_pictures() {
     xdotool type --delay 20 "$samples/import/robot.fbx"
     press Tab
     grab "$import" "$guides/import.png"
+    cp "$guides/import.png" "$folder/import.png"
     press Escape
     quit
 
     rm "$samples/mod/textures/"*
-    width=1600 height=1000
-    korvane "$(first skinnedmesh)"
-    click $((width - 250)) $((height - 15))
-    grab "$main" "$folder/problems.png"
-    quit
+    problems_picture "$folder/problems.png"
+    setting Look dark
+    problems_picture "$folder/problems-dark.png"
+    setting Look light
 
     width=760 height=880
     korvane "$(first skinnedmesh)"
@@ -285,8 +415,12 @@ window)
     ;;
 all)
     model_pictures "$@"
+    view_pictures "$@"
     other_pictures "$@"
+    dark_pictures "$@"
     guide_pictures "$@"
+    # The next start would offer the same again.
+    recovery_pictures "$@"
     ;;
 *) die "unknown verb '$verb'" ;;
 esac

@@ -7,6 +7,8 @@
 #include "Settings.h"
 #include "TestSupport.h"
 
+#include <QHostInfo>
+
 /// The server list query against a master server on this machine.
 class tst_ServerListQuery : public QObject
 {

@@ -102,7 +102,8 @@ public:
     }
 
 private:
-    /// The file of this very size; of any other, the largest made smaller, which keeps the lines even.
+    /// The file of this very size; of any other, one that is some times as large, or else the largest, made
+    /// smaller, which keeps the lines even.
     QImage drawing(int side) const
     {
         const auto file = [this](int ratio) {
@@ -111,15 +112,15 @@ private:
             image.setDevicePixelRatio(1.0);
             return image;
         };
-        for (int ratio = 1; ratio <= Ratios; ++ratio) {
-            if (side == ratio * Side)
-                return file(ratio);
-        }
-        QImage largest;
-        for (int ratio = Ratios; ratio >= 1 && largest.isNull(); --ratio)
-            largest = file(ratio);
-        return largest.isNull() ? largest
-                                : largest.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        int ratio = 1;
+        while (ratio < Ratios && ratio * Side % side != 0)
+            ++ratio;
+        QImage image = file(ratio);
+        while (image.isNull() && --ratio >= 1)
+            image = file(ratio);
+        return image.isNull() || image.width() == side
+                   ? image
+                   : image.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     }
 
     QString m_base; ///< the path without ".png"

@@ -4,6 +4,7 @@
 #include "Look.h"
 #include "MainWindow.h"
 #include "Settings.h"
+#include "TexturesAhead.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -33,10 +34,12 @@ int main(int argc, char *argv[])
     format.setOption(QSurfaceFormat::ResetNotification);
     QSurfaceFormat::setDefaultFormat(format);
 
+    // The desktop hands over files to open; there are no options.
+    const QStringList files = QCoreApplication::arguments().mid(1);
+    const std::future<void> textures = loadTexturesAhead(files);
     showChosenLook();
     MainWindow window;
     window.show();
-    // The desktop hands over files to open; there are no options.
-    window.openAtStart(QCoreApplication::arguments().mid(1));
+    window.openAtStart(files);
     return QApplication::exec();
 }

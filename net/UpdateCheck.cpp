@@ -47,12 +47,10 @@ bool isReleaseRedirect(const QUrl &from, const QUrl &to)
 
 UpdateCheck::UpdateCheck(QObject *parent)
     : QObject(parent)
-    , m_manager(this)
 {
     m_timeLimit.setSingleShot(true);
     m_timeLimit.setInterval(requestTimeLimit);
     connect(&m_timeLimit, &QTimer::timeout, this, [this] { m_reply->abort(); });
-    connect(&m_manager, &QNetworkAccessManager::finished, this, &UpdateCheck::NetworkReplyFinished);
 }
 
 bool UpdateCheck::isDue() const
@@ -94,7 +92,11 @@ void UpdateCheck::get(const QUrl &url)
 {
     m_running = true;
     m_document.clear();
-    m_reply = m_manager.get(requestFor(url));
+    if (!m_manager) {
+        m_manager = new QNetworkAccessManager(this);
+        connect(m_manager, &QNetworkAccessManager::finished, this, &UpdateCheck::NetworkReplyFinished);
+    }
+    m_reply = m_manager->get(requestFor(url));
     m_reply->setReadBufferSize(maximumBytes);
     connect(m_reply, &QNetworkReply::readyRead, this, &UpdateCheck::readSome);
 }

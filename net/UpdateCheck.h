@@ -57,7 +57,7 @@ private:
     void readSome();
     void evaluate(bool failed);
 
-    QNetworkAccessManager m_manager;
+    QNetworkAccessManager *m_manager = nullptr; ///< made by the first request: it starts slowly
     QPointer<QNetworkReply> m_reply;
     int m_redirects = 0;
     QByteArray m_document;

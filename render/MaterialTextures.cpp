@@ -3,27 +3,9 @@
 #include "MaterialTextures.h"
 
 #include "Log.h"
+#include "TextureImages.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
-#include <QImageReader>
-
-namespace {
-// A picture's header is not to be trusted with more memory than this, in pixels (256 MiB as RGBA).
-constexpr qint64 PixelLimit = 64 * 1024 * 1024;
-
-QImage loadImage(const QString &path)
-{
-    // Opening a pipe would wait for a writer for ever.
-    if (!QFileInfo(path).isFile())
-        return {};
-    QImageReader reader(path);
-    const QSize size = reader.size();
-    if (size.isValid() && qint64(size.width()) * size.height() > PixelLimit)
-        return {};
-    return reader.read().convertToFormat(QImage::Format_RGBA8888);
-}
-} // namespace
 
 MaterialTextures::MaterialTextures(const QString &gamePath, const QString &outputDir, const QString &logTag)
     : m_materials(gamePath, outputDir)
@@ -33,7 +15,7 @@ MaterialTextures::MaterialTextures(const QString &gamePath, const QString &outpu
 
 QImage MaterialTextures::resourceImage(const QString &path)
 {
-    const QImage image = loadImage(path);
+    const QImage image = TextureImages::load(path);
     if (!image.isNull())
         return image;
     QImage white(1, 1, QImage::Format_RGBA8888);
@@ -58,7 +40,7 @@ QImage MaterialTextures::texture(const QString &name)
     if (known == m_images.end()) {
         QImage image;
         for (int i = 0; i < paths.size() && image.isNull(); ++i)
-            image = loadImage(paths[i]);
+            image = TextureImages::load(paths[i]);
         known = m_images.insert(name, image);
     }
     if (!known->isNull())

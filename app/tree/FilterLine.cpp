@@ -17,7 +17,6 @@ FilterLine::FilterLine(KVTreeView &tree, QWidget *parent)
     setPlaceholderText(tr("Filter, such as %1").arg(tree.filterExample()));
     setToolTip(tr("Show only the records whose text has these words, and numbers or ranges of them"));
     setAccessibleName(tr("Filter"));
-    setClearButtonEnabled(true);
 
     // While somebody types, half a million records are looked through once.
     auto *pause = new QTimer(this);
@@ -32,6 +31,13 @@ void FilterLine::setAction(const QAction *action)
     const auto show = [this, action, tip = toolTip()] { setToolTip(withKeys(tip, action)); };
     connect(action, &QAction::changed, this, show);
     show();
+}
+
+void FilterLine::focusInEvent(QFocusEvent *event)
+{
+    // Not when the line is made: finding the button's icon in the desktop's theme would slow the start.
+    setClearButtonEnabled(true);
+    QLineEdit::focusInEvent(event);
 }
 
 void FilterLine::keyPressEvent(QKeyEvent *event)

@@ -20,6 +20,7 @@ public:
     void setAction(const QAction *action);
 
 protected:
+    void focusInEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:

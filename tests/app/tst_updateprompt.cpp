@@ -170,9 +170,9 @@ void tst_UpdatePrompt::aClosedWindowIsNotAsked()
     QAction action;
     UpdatePrompt prompt(&action, &window);
     window.show();
-    QSignalSpy finished(window.findChild<QNetworkAccessManager *>(), &QNetworkAccessManager::finished);
     m_web->serve(releaseDocument("1", "https://a"));
     action.trigger();
+    QSignalSpy finished(window.findChild<QNetworkAccessManager *>(), &QNetworkAccessManager::finished);
     window.close();
     QTRY_COMPARE(finished.size(), 1);
     QCoreApplication::processEvents();

@@ -6,7 +6,9 @@
 #include "SkinnedMesh.h"
 #include "StaticMesh.h"
 #include "TestSupport.h"
+#include "TextureImages.h"
 
+#include <future>
 #include <limits>
 
 // What a mesh's graphics copy is made from: textures through materials, vertices, indexes.
@@ -23,6 +25,7 @@ private slots:
     void missingFiles();
     void whiteNeedsNoFile();
     void cachesWithinABuild();
+    void sharesDecodedFiles();
     void emptyFolders();
     void vertices();
     void indexes();
@@ -164,6 +167,30 @@ void tst_Materials::cachesWithinABuild()
     textures.image(QStringLiteral("materials/broken/x"));
     textures.image(QStringLiteral("materials/broken/y"));
     QCOMPARE(m_log.filter(QStringLiteral(".kMat")).size(), 1);
+}
+
+void tst_Materials::sharesDecodedFiles()
+{
+    save(QStringLiteral("mod"), QStringLiteral("shared.png"), Qt::red);
+    const QString path = m_folder.path() + QStringLiteral("/mod/textures/shared.png");
+    std::vector<std::future<QImage>> asked;
+    for (int i = 0; i < 8; ++i)
+        asked.push_back(std::async(std::launch::async, &TextureImages::load, path));
+    const QImage first = asked[0].get();
+    QCOMPARE(first.pixelColor(0, 0), QColor(Qt::red));
+    for (size_t i = 1; i < asked.size(); ++i)
+        QCOMPARE(asked[i].get().cacheKey(), first.cacheKey());
+
+    // What a paint program writes is seen, and a file that comes back after it was missed.
+    save(QStringLiteral("mod"), QStringLiteral("shared.png"), Qt::green);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(2), QFileDevice::FileModificationTime));
+    QCOMPARE(TextureImages::load(path).pixelColor(0, 0), QColor(Qt::green));
+    QVERIFY(file.remove());
+    QVERIFY(TextureImages::load(path).isNull());
+    save(QStringLiteral("mod"), QStringLiteral("shared.png"), Qt::blue);
+    QCOMPARE(TextureImages::load(path).pixelColor(0, 0), QColor(Qt::blue));
 }
 
 void tst_Materials::emptyFolders()

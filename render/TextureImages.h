@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QImage>
+
+/// The decoded texture files, shared by every model that the program shows. Decoding takes most of the time
+/// that opening a model takes, and models of one game share many of their textures.
+namespace TextureImages {
+/// The picture in a file, RGBA, row 0 at the top; null when there is none or it is too large. It is kept
+/// until the file changes or the room is needed. Any thread may ask; one that asks for what another thread
+/// decodes waits for that.
+QImage load(const QString &path);
+} // namespace TextureImages

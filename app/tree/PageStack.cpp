@@ -113,6 +113,8 @@ void PageStack::addPage(PropertyPage *page)
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidgetResizable(true);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    // The area sizes the page; without this it would ask the page for its own size first, which is slow.
+    page->setAttribute(Qt::WA_Resized);
     scroll->setWidget(page);
     m_pages->addWidget(scroll);
 }

@@ -4,14 +4,13 @@
 #
 # Pictures of the real program on a virtual screen that ./dev provides, large enough for the window's frame:
 #   screenshots.sh window PROGRAM PICTURE FILE...   the main window with these files open
-#   screenshots.sh all PROGRAM FOLDER SAMPLES       every picture of the documentation, of these sample folders,
-#                                                   and those of the guides in the program
+#   screenshots.sh all PROGRAM FOLDER GUIDES SAMPLES   every picture of the documentation and those of the guides
+#                                                   in the program, of these sample folders
 # Each start has the settings home that XDG_CONFIG_HOME names.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 width=1600 height=1000
-readonly guides=resources/tutorials/images
 log=build/screenshots.log
 started=()
 
@@ -117,6 +116,25 @@ press() {
     sleep 0.5
 }
 
+# grab_dialog NAME PICTURE: waits for the window with this name, and grabs it.
+grab_dialog() {
+    local dialog
+    dialog=$(wait_for --name "^$1")
+    grab "$dialog" "$2"
+}
+
+# leave_dialog: closes it, and waits until the main window has the keys again.
+leave_dialog() {
+    press Escape
+    for _ in {1..100}; do
+        if [[ $(xdotool getactivewindow 2>>"$log") == "$main" ]]; then
+            return
+        fi
+        sleep 0.1
+    done
+    die 'the dialog did not close'
+}
+
 # click X Y...: clicks at places of the main window, one after another.
 click() {
     while (($#)); do
@@ -157,14 +175,17 @@ show_record() {
     press Return
 }
 
+# background_of PICTURE: the colour of its first pixel.
+background_of() { convert "$1" -format '%[pixel:p{0,0}]' info:; }
+
 # page NAME: keeps the property page of the current record for pages, without the empty room below it.
 page() {
     local picture=build/page-$1.png box
     part "$picture" -crop 400x534+1200+424 >>"$log"
     box=$(convert "$picture" -format '%@' info:)
     [[ $box =~ x([0-9]+)\+[0-9]+\+([0-9]+)$ ]]
-    convert "$picture" -crop "400x$((BASH_REMATCH[1] + BASH_REMATCH[2]))+0+0" +repage -bordercolor '#eff0f1' \
-        -border 8x10 "$picture"
+    convert "$picture" -crop "400x$((BASH_REMATCH[1] + BASH_REMATCH[2]))+0+0" +repage \
+        -bordercolor "$(background_of "$picture")" -border 8x10 "$picture"
 }
 
 # pages PICTURE COLUMN...: the property pages kept under the names in each column, one below another.
@@ -178,7 +199,7 @@ pages() {
         done
         columns+=(-append ')')
     done
-    convert -background '#eff0f1' "${columns[@]}" +append -strip -define png:compression-level=9 "$picture"
+    convert -background "$(background_of "build/page-$name.png")" "${columns[@]}" +append -strip -define png:compression-level=9 "$picture"
     echo "$picture"
 }
 
@@ -192,7 +213,7 @@ setting() {
 first() { find "$samples/game" -name "*.$1" | sort | head -n 1; }
 
 model_pictures() {
-    local folder=$1 samples=$2 skinned_mesh animation static_mesh dialog broken=$2/mod/broken.anim
+    local skinned_mesh animation static_mesh broken=$samples/mod/broken.anim
     skinned_mesh=$(first skinnedmesh)
     animation=$(first anim)
     static_mesh=$(first staticmesh)
@@ -203,22 +224,23 @@ model_pictures() {
     in_tree Down Right Down Down Down
     grab "$main" "$folder/main.png"
     press ctrl+comma
-    dialog=$(wait_for --name '^Options$')
-    grab "$dialog" "$folder/options.png"
+    grab_dialog 'Options$' "$folder/options.png"
     cp "$folder/options.png" "$guides/options.png"
     press alt+s
-    grab "$dialog" "$folder/shortcuts.png"
-    press Escape F1
-    grab "$(wait_for --name '^Keyboard and Mouse$')" "$folder/controls.png"
-    press Escape ctrl+shift+p
-    grab "$(wait_for --name '^Commands$')" "$folder/commands.png"
-    press Escape
+    grab_dialog 'Options$' "$folder/shortcuts.png"
+    leave_dialog
+    press F1
+    grab_dialog 'Keyboard and Mouse$' "$folder/controls.png"
+    leave_dialog
+    press ctrl+shift+p
+    grab_dialog 'Commands$' "$folder/commands.png"
+    leave_dialog
     command rotate
-    grab "$(wait_for --name '^Rotate')" "$folder/rotate.png"
-    press Escape
+    grab_dialog Rotate "$folder/rotate.png"
+    leave_dialog
     command scale
-    grab "$(wait_for --name '^Scale')" "$folder/scale.png"
-    press Escape
+    grab_dialog Scale "$folder/scale.png"
+    leave_dialog
     # Some steps for the history.
     in_tree Down Left Down Right Down Insert Insert Delete
     command history
@@ -240,16 +262,14 @@ model_pictures() {
 
 # What the viewport can show beside textured models, and what finds and describes records.
 view_pictures() {
-    local folder=$1 samples=$2 dialog
     setting HideAnimData false
     korvane "$(first skinnedmesh)" "$(first anim)"
     approach
     press Home 6 b
     part "$folder/skeleton.png" -crop 962x644+234+90
     press 5 b F12
-    dialog=$(wait_for --name '^Save Picture$')
-    grab "$dialog" "$folder/picture.png"
-    press Escape
+    grab_dialog 'Save Picture$' "$folder/picture.png"
+    leave_dialog
     press ctrl+f
     xdotool type --delay 20 'left arm'
     sleep 1
@@ -291,7 +311,6 @@ view_pictures() {
 
 # What a start offers after the program could not end as it should.
 recovery_pictures() {
-    local folder=$1 samples=$2
     korvane "$(first skinnedmesh)" "$(first anim)"
     in_tree Down Down Right Down Insert
     sleep 5
@@ -300,20 +319,9 @@ recovery_pictures() {
     korvane "$(first skinnedmesh)" "$(first anim)"
     part "$folder/notice.png" -crop 1600x130+0+0
     command recover
-    grab "$(wait_for --name '^Recover$')" "$folder/recover.png"
-    press Escape
+    grab_dialog 'Recover$' "$folder/recover.png"
+    leave_dialog
     quit
-}
-
-dark_pictures() {
-    local folder=$1 samples=$2
-    setting Look dark
-    korvane "$(first skinnedmesh)" "$(first anim)"
-    approach
-    in_tree Down Right Down Down Down
-    grab "$main" "$folder/main-dark.png"
-    quit
-    setting Look light
 }
 
 # master_server: one on this machine that tells of three servers, so that the pictures need no other.
@@ -328,7 +336,6 @@ master_server() {
 
 # The tabs and windows that have nothing to do with a model.
 other_pictures() {
-    local folder=$1 samples=$2 about
     master_server
     korvane "$(first skinnedmesh)" "$(first anim)"
     press alt+t
@@ -338,9 +345,8 @@ other_pictures() {
     grab "$main" "$folder/servers.png"
     press alt+h
     press a
-    about=$(wait_for --name '^About$')
-    grab "$about" "$folder/about.png"
-    press Escape
+    grab_dialog 'About$' "$folder/about.png"
+    leave_dialog
     quit
 
     korvane
@@ -364,7 +370,7 @@ problems_picture() {
 
 # The pictures of the guides show the view and the records of a window that is hardly wider than a page.
 guide_pictures() {
-    local folder=$1 samples=$2 width=1010 height=880 part=() import WIDTH
+    local width=1010 height=880 part=() WIDTH
     korvane "$(first skinnedmesh)" "$(first anim)"
     # The window may not get as narrow.
     eval "$(xdotool getwindowgeometry --shell "$main" | grep -E '^WIDTH=[0-9]+$')"
@@ -380,19 +386,16 @@ guide_pictures() {
     in_tree Down Down Down Right Down Down Down Down Down Right Down
     for_guide action "${part[@]}"
     press ctrl+i
-    import=$(wait_for --name '^Import model')
+    wait_for --name '^Import model' >>"$log"
     xdotool type --delay 20 "$samples/import/robot.fbx"
     press Tab
-    grab "$import" "$guides/import.png"
-    cp "$guides/import.png" "$folder/import.png"
-    press Escape
+    grab_dialog 'Import model' "$folder/import.png"
+    cp "$folder/import.png" "$guides/import.png"
+    leave_dialog
     quit
 
     rm "$samples/mod/textures/"*
     problems_picture "$folder/problems.png"
-    setting Look dark
-    problems_picture "$folder/problems-dark.png"
-    setting Look light
 
     width=760 height=880
     korvane "$(first skinnedmesh)"
@@ -414,13 +417,14 @@ window)
     quit
     ;;
 all)
-    model_pictures "$@"
-    view_pictures "$@"
-    other_pictures "$@"
-    dark_pictures "$@"
-    guide_pictures "$@"
+    folder=$1 guides=$2 samples=$3
+    mkdir -p "$folder" "$guides"
+    model_pictures
+    view_pictures
+    other_pictures
+    guide_pictures
     # The next start would offer the same again.
-    recovery_pictures "$@"
+    recovery_pictures
     ;;
 *) die "unknown verb '$verb'" ;;
 esac

@@ -102,8 +102,8 @@ public:
     }
 
 private:
-    /// The file of this very size; of any other, one that is some times as large, or else the largest, made
-    /// smaller, which keeps the lines even.
+    /// The file of this very size; for any other, one that is some times as large, or else the largest,
+    /// scaled, which keeps the lines even.
     QImage drawing(int side) const
     {
         const auto file = [this](int ratio) {

@@ -10,35 +10,63 @@
 #include "TextureImages.h"
 
 namespace {
+QString lastOfKind(const QStringList &paths, DocumentType type)
+{
+    QString last;
+    for (const QString &path : paths) {
+        const DocumentKind *kind = documentKindOfFile(path);
+        if (kind && kind->type == type)
+            last = path;
+    }
+    return last;
+}
+
 template <typename Model>
-void load(const QString &path, MaterialFiles &materials)
+QStringList materialsOf(const QString &path)
 {
     Model model;
-    if (model.read(path))
-        return;
-    for (const auto &surface : model.surfaces) {
-        const QString texture = materials.find(surface.materialPath).texture;
-        if (texture.isEmpty() || texture == MaterialFiles::Blank)
-            continue;
-        for (const QString &candidate : materials.candidates(texture)) {
-            if (!TextureImages::load(candidate).isNull())
-                break;
-        }
-    }
+    QStringList materials;
+    if (path.isEmpty() || model.read(path))
+        return materials;
+    for (const auto &surface : model.surfaces)
+        materials.append(surface.materialPath);
+    return materials;
 }
 } // namespace
 
-std::future<void> loadTexturesAhead(const QStringList &paths)
+// Without a thread to be had nothing is done, and the window decodes the textures.
+TexturesAhead::TexturesAhead(const QStringList &paths)
+    : m_done(std::async(std::launch::async | std::launch::deferred,
+                        [this, skinned = lastOfKind(paths, DocumentType::SkinnedMesh),
+                         rigid = lastOfKind(paths, DocumentType::StaticMesh),
+                         gamePath = Settings::GamePath.value(), outputDir = Settings::OutputDir.value()] {
+                            load(materialsOf<SkinnedMesh>(skinned) + materialsOf<StaticMesh>(rigid), gamePath,
+                                 outputDir);
+                        }))
+{}
+
+TexturesAhead::~TexturesAhead()
 {
-    return std::async(std::launch::async, [paths, gamePath = Settings::GamePath.value(),
-                                           outputDir = Settings::OutputDir.value()] {
-        MaterialFiles materials(gamePath, outputDir);
-        for (const QString &path : paths) {
-            const DocumentKind *kind = documentKindOfFile(path);
-            if (kind && kind->type == DocumentType::SkinnedMesh)
-                load<SkinnedMesh>(path, materials);
-            else if (kind && kind->type == DocumentType::StaticMesh)
-                load<StaticMesh>(path, materials);
+    m_stopped = true;
+}
+
+void TexturesAhead::load(const QStringList &materialPaths, const QString &gamePath,
+                         const QString &outputDir) const
+{
+    MaterialFiles materials(gamePath, outputDir);
+    qint64 bytes = 0;
+    for (const QString &materialPath : materialPaths) {
+        const QString texture = materials.find(materialPath).texture;
+        if (texture.isEmpty() || texture == MaterialFiles::Blank)
+            continue;
+        for (const QString &path : materials.candidates(texture)) {
+            // Beyond the room the next would push out the first.
+            if (m_stopped || bytes > TextureImages::Room)
+                return;
+            const QImage image = TextureImages::load(path);
+            bytes += image.sizeInBytes();
+            if (!image.isNull())
+                break;
         }
-    });
+    }
 }

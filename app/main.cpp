@@ -36,7 +36,7 @@ int main(int argc, char *argv[])
 
     // The desktop hands over files to open; there are no options.
     const QStringList files = QCoreApplication::arguments().mid(1);
-    const std::future<void> textures = loadTexturesAhead(files);
+    const TexturesAhead textures(files);
     showChosenLook();
     MainWindow window;
     window.show();

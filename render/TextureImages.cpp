@@ -14,7 +14,7 @@
 namespace {
 // A picture's header is not to be trusted with more memory than this, in pixels (256 MiB as RGBA).
 constexpr qint64 PixelLimit = 64 * 1024 * 1024;
-constexpr int Room = 64 * 1024; // KiB, 16 textures of 1024 by 1024
+constexpr qint64 CostUnit = 1024; // bytes
 
 struct Texture
 {
@@ -24,16 +24,19 @@ struct Texture
     QImage image;
 };
 
+using TexturePointer = std::shared_ptr<Texture>;
+
 struct Kept
 {
     QMutex mutex;
-    QCache<QString, std::shared_ptr<Texture>> textures{Room};
+    QCache<QString, TexturePointer> textures{int(TextureImages::Room / CostUnit)};
 };
 
+/// Never destroyed: a thread may still decode when the window system ends the program.
 Kept &kept()
 {
-    static Kept all;
-    return all;
+    static auto *all = new Kept;
+    return *all;
 }
 
 QImage decode(const QString &path)
@@ -46,28 +49,32 @@ QImage decode(const QString &path)
 }
 
 /// The entry of this state of the file, which has no image until somebody decodes it.
-std::shared_ptr<Texture> textureOf(const QFileInfo &file)
+TexturePointer textureOf(const QFileInfo &file)
 {
     const QMutexLocker lock(&kept().mutex);
-    const std::shared_ptr<Texture> *known = kept().textures.object(file.filePath());
+    const TexturePointer *known = kept().textures.object(file.filePath());
     if (known && (*known)->changed == file.lastModified() && (*known)->size == file.size())
         return *known;
     const auto made = std::make_shared<Texture>();
     made->changed = file.lastModified();
     made->size = file.size();
-    kept().textures.insert(file.filePath(), new std::shared_ptr<Texture>(made));
+    kept().textures.insert(file.filePath(), new TexturePointer(made));
     return made;
 }
 
-/// Counts the memory of a decoded image, unless the file has changed meanwhile.
-void weigh(const QString &path, const std::shared_ptr<Texture> &texture)
+/// Counts the memory of what was decoded. What cannot be decoded is tried again the next time: the reason may
+/// be gone without a trace in the file.
+void settle(const QString &path, const TexturePointer &texture)
 {
     const QMutexLocker lock(&kept().mutex);
-    const std::shared_ptr<Texture> *known = kept().textures.object(path);
-    if (known && *known == texture) {
-        kept().textures.insert(path, new std::shared_ptr<Texture>(texture),
-                               int(texture->image.sizeInBytes() / 1024) + 1);
-    }
+    const TexturePointer *known = kept().textures.object(path);
+    if (!known || *known != texture)
+        return; // The file has changed meanwhile.
+    if (texture->image.isNull())
+        kept().textures.remove(path);
+    else
+        kept().textures.insert(path, new TexturePointer(texture),
+                               int(texture->image.sizeInBytes() / CostUnit));
 }
 } // namespace
 
@@ -77,10 +84,10 @@ QImage TextureImages::load(const QString &path)
     // Opening a pipe would wait for a writer for ever.
     if (!file.isFile())
         return {};
-    const std::shared_ptr<Texture> texture = textureOf(file);
+    const TexturePointer texture = textureOf(file);
     std::call_once(texture->decoded, [&] {
         texture->image = decode(path);
-        weigh(path, texture);
+        settle(path, texture);
     });
     return texture->image;
 }

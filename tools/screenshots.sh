@@ -150,6 +150,7 @@ in_tree() { press ctrl+f Escape Home "$@"; }
 # command NAME: does what the commands list under this name.
 command() {
     press ctrl+shift+p
+    wait_for --name '^Commands$' >>"$log"
     xdotool type --delay 20 "$1"
     press Return
 }
@@ -199,7 +200,8 @@ pages() {
         done
         columns+=(-append ')')
     done
-    convert -background "$(background_of "build/page-$name.png")" "${columns[@]}" +append -strip -define png:compression-level=9 "$picture"
+    convert -background "$(background_of "build/page-$name.png")" "${columns[@]}" +append -strip \
+        -define png:compression-level=9 "$picture"
     echo "$picture"
 }
 
@@ -332,6 +334,8 @@ master_server() {
             $socket->send(pack "(C4v)3", 17, 2, 0, 192, 27996, 40, 100, 51, 198, 27996, 8, 113, 0, 203, 28000);
         }' >>"$log" 2>&1 &
     started+=($!)
+    sleep 1
+    kill -0 $! || die 'the port of the server list is taken'
 }
 
 # The tabs and windows that have nothing to do with a model.

@@ -30,11 +30,11 @@ void tst_TexturesAhead::decodesWhatTheModelsShow()
         QVERIFY(copy(name));
     Settings::GamePath.setValue(home.path());
 
-    loadTexturesAhead({TestSupport::source(QStringLiteral("samples/game/models/tinker/tinker.skinnedmesh")),
-                       TestSupport::source(QStringLiteral("samples/game/models/crate/crate.staticmesh")),
-                       TestSupport::source(QStringLiteral("samples/game/anims/tinker/tinker.anim")),
-                       home.filePath(QStringLiteral("nowhere.skinnedmesh"))})
-        .get();
+    TexturesAhead({TestSupport::source(QStringLiteral("samples/game/models/tinker/tinker.skinnedmesh")),
+                   TestSupport::source(QStringLiteral("samples/game/models/crate/crate.staticmesh")),
+                   TestSupport::source(QStringLiteral("samples/game/anims/tinker/tinker.anim")),
+                   home.filePath(QStringLiteral("nowhere.txt"))})
+        .wait();
 
     // What can still be shown when the files are as they were for all that the program can tell, but hold
     // no picture any more, was decoded.

@@ -62,7 +62,7 @@ MaterialFiles::Lookup MaterialFiles::find(const QString &materialPath)
 
     const auto entry = from.table.find(material);
     if (entry != from.table.end())
-        return {entry->second, {}, {}};
+        return {entry->second, {}, {}, true};
     // Imported surfaces without a texture and the program's own meshes are named so and have no file.
     if (material.endsWith(Blank))
         return {Blank, {}, {}};

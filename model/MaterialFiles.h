@@ -20,6 +20,7 @@ public:
         QString texture; ///< relative to one of the folders, empty when there is no such material, or Blank
         QString warning; ///< the file has no such material
         QString error;   ///< the file cannot be read; said once a file
+        bool isThere = false; ///< the file has the material, which may name no texture
     };
 
     /// An empty folder is not searched.

@@ -65,6 +65,13 @@ void checkMaterials(FindingCollector &found, const QStringList &materialPaths, R
                                  "add the material to the file.")
                     .arg(surface, material.warning);
             });
+        } else if (material.isThere && material.texture.isEmpty()) {
+            found.add(Rule::TextureNotFound, place, [&] {
+                return Texts::tr(
+                           "Surface %1 is drawn white: its material '%2' names no texture. Add a sampler "
+                           "with the path of a picture to it, or name another material.")
+                    .arg(surface, path);
+            });
         } else if (!material.texture.isEmpty() && material.texture != MaterialFiles::Blank) {
             const QStringList tried = files.candidates(material.texture);
             if (std::any_of(tried.begin(), tried.end(), isImage))

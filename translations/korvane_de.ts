@@ -5747,6 +5747,10 @@ So lassen?</translation>
         <source>The mesh has no surfaces: there is nothing to show, and it cannot be saved. Import the model again.</source>
         <translation>Das Netz hat keine Flächen: es gibt nichts zu zeigen, und es kann nicht gespeichert werden. Importieren Sie das Modell neu.</translation>
     </message>
+    <message>
+        <source>Surface %1 is drawn white: its material &apos;%2&apos; names no texture. Add a sampler with the path of a picture to it, or name another material.</source>
+        <translation>Fläche %1 wird weiß gezeichnet: ihr Material „%2“ nennt keine Textur. Fügen Sie ihm einen Sampler mit dem Pfad eines Bildes hinzu, oder nennen Sie ein anderes Material.</translation>
+    </message>
 </context>
 <context>
     <name>VertPage</name>

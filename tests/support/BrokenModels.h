@@ -20,6 +20,7 @@ struct Breakage
 };
 
 inline const QString materialWithoutPicture = QStringLiteral("materials/mat_no_picture/lost");
+inline const QString materialWithoutSampler = QStringLiteral("materials/mat_no_sampler/bare");
 
 // What both kinds of meshes have.
 template <typename Mesh>
@@ -40,6 +41,7 @@ std::vector<Breakage<Mesh>> meshBreakages()
          [](Mesh &mesh) { mesh.surfaces[0].materialPath = QStringLiteral("materials/no_such_file/x"); }},
         {Rule::MaterialNotFound, [](Mesh &mesh) { mesh.surfaces[0].materialPath += QLatin1Char('x'); }},
         {Rule::TextureNotFound, [](Mesh &mesh) { mesh.surfaces[0].materialPath = materialWithoutPicture; }},
+        {Rule::TextureNotFound, [](Mesh &mesh) { mesh.surfaces[0].materialPath = materialWithoutSampler; }},
     };
 }
 
@@ -82,6 +84,7 @@ inline std::vector<Breakage<SkinnedMesh>> breakages()
              }
          }},
         {Rule::HeadTrackOutOfRange, [](Mesh &mesh) { mesh.headTrackEnd = 254; }},
+        {Rule::HeadTrackOutOfRange, [](Mesh &mesh) { mesh.headTrackStart = 254; }},
         {Rule::HotPointBoneOutOfRange, [](Mesh &mesh) { mesh.hotPoints[0].nodeId = 254; }},
         {Rule::VertexBoneOutOfRange, [](Mesh &mesh) { mesh.vertices[7].nodeIndex = 254; }},
         {Rule::TriangleIndexReserved,
@@ -188,6 +191,8 @@ public:
                                          {{QStringLiteral("lost"), QStringLiteral("textures/none.png")}});
         if (!broken.isEmpty())
             qFatal("%s", qPrintable(broken));
+        TestSupport::writeFile(m_mod.filePath(QStringLiteral("materials/mat_no_sampler.kmat")),
+                               "material bare {\n}\n");
     }
 
     MaterialFolders folders() const { return {m_folder + QStringLiteral("/game"), m_mod.path()}; }

@@ -183,14 +183,12 @@ bool ModelDocument<Model>::readModel(BinaryFileReader &reader)
 }
 
 template <typename Model>
-bool ModelDocument<Model>::write(std::vector<uchar> &bytes) const
+std::vector<uchar> ModelDocument<Model>::draft() const
 {
     // The file is seldom far off: growing a large buffer costs more than filling it.
     BinaryFileWriter writer(size_t(std::max<qint64>(fileStamp().size, 0)) + 64 * 1024);
-    if (m_model.write(writer))
-        return true;
-    bytes = writer.takeBytes();
-    return false;
+    m_model.writeDraft(writer);
+    return writer.takeBytes();
 }
 
 template <>

@@ -48,8 +48,9 @@ public:
     /// Writes the model; on success the document has that path and its undo stack is clean. Returns true on
     /// failure, with nothing changed.
     [[nodiscard]] bool save(const QString &path);
-    /// Gives the bytes that save() would write. Returns true on failure.
-    [[nodiscard]] virtual bool write(std::vector<uchar> &bytes) const = 0;
+    /// The bytes that save() would write, or, of a model that cannot be saved as it stands, the nearest ones
+    /// that can be read back.
+    virtual std::vector<uchar> draft() const = 0;
     /// Lets a model that was kept as bytes replace the current one. It counts as modified until it is saved;
     /// `path` is its file, `unsavedName` what it is called without one. Returns true on failure.
     [[nodiscard]] bool restore(const QByteArray &bytes, const QString &path, const QString &unsavedName);
@@ -111,7 +112,7 @@ public:
     Model &model() { return m_model; }
     const Model &model() const { return m_model; }
     QString refusal() const override { return m_model.refusal(); }
-    bool write(std::vector<uchar> &bytes) const override;
+    std::vector<uchar> draft() const override;
     EditTarget<Model> editTarget() { return {m_model, *this}; }
 
     /// Takes over a model that has no file yet; `name`, without extension, is what it would be saved as.

@@ -71,7 +71,7 @@ void Recovery::startAnew(Track &track)
     keep(track);
     track.timer.stop();
     track.file = m_store.newFile(track.document->kind().type);
-    track.isKept = track.isDirty = track.isRefused = false;
+    track.isKept = track.isDirty = false;
 }
 
 void Recovery::keepDue(Track &track)
@@ -85,33 +85,26 @@ void Recovery::keepDue(Track &track)
 
 void Recovery::keep(Track &track)
 {
-    if (!track.isDirty || !track.document->differsFromFile())
+    Document &document = *track.document;
+    if (!track.isDirty || !document.differsFromFile())
         return;
-    const QString refusal = track.document->refusal();
-    if (!refusal.isEmpty()) {
-        if (!track.isRefused)
-            Log::info(tr("[Recovery] '%1' is not kept as long as it cannot be saved: %2")
-                          .arg(track.document->fileName(), refusal));
-        track.isRefused = true;
+    // An animation file without animations, which many imports leave, holds nothing worth keeping.
+    if (document.kind().type == DocumentType::Anim && !document.refusal().isEmpty())
         return;
-    }
-    std::vector<uchar> bytes;
-    if (track.document->write(bytes))
-        return;
-    track.isDirty = track.isRefused = false;
+    track.isDirty = false;
     track.isKept = true;
     QSet<QString> open;
     for (const Track &each : m_tracks)
         open.insert(each.file);
-    m_store.keep({track.file, track.document->kind().type, track.document->path(), track.document->fileName(),
+    m_store.keep({track.file, document.kind().type, document.path(), document.fileName(),
                   QDateTime::currentDateTime()},
-                 std::move(bytes), open);
+                 document.draft(), open);
 }
 
 void Recovery::forget(Track &track)
 {
     track.timer.stop();
-    track.isDirty = track.isRefused = false;
+    track.isDirty = false;
     if (track.isKept)
         m_store.remove(track.file);
     track.isKept = false;

@@ -53,7 +53,6 @@ private:
         QString file;         ///< where this document is kept
         bool isKept = false;  ///< whether there is such a file, or will be
         bool isDirty = false; ///< changed since it was kept
-        bool isRefused = false;
         QTimer timer;
     };
 

@@ -198,10 +198,14 @@ bool AnimFile::write(BinaryFileWriter &writer) const
 {
     if (!refusal().isEmpty())
         return true;
+    writeDraft(writer);
+    return false;
+}
 
+void AnimFile::writeDraft(BinaryFileWriter &writer) const
+{
     writer.writeInt32(version);
     writer.writeInt32(qint32(blocks.size()));
     for (const AnimBlock &block : blocks)
         writeBlock(writer, block);
-    return false;
 }

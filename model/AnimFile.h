@@ -82,4 +82,6 @@ struct AnimFile
     /// there are no blocks or when the file cannot be written.
     [[nodiscard]] bool write(const QString &path) const;
     [[nodiscard]] bool write(BinaryFileWriter &writer) const;
+    /// Writes what can be read back whatever is wrong with the model.
+    void writeDraft(BinaryFileWriter &writer) const;
 };

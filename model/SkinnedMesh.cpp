@@ -126,7 +126,26 @@ bool SkinnedMesh::write(BinaryFileWriter &writer) const
 {
     if (!refusal().isEmpty())
         return true;
+    encode(writer);
+    return false;
+}
 
+void SkinnedMesh::writeDraft(BinaryFileWriter &writer) const
+{
+    if (std::none_of(surfaces.begin(), surfaces.end(), usesTerminatorAsIndex)) {
+        encode(writer);
+        return;
+    }
+    SkinnedMesh draft = *this;
+    for (SkinnedMeshSurface &surface : draft.surfaces) {
+        std::replace(surface.triangleIndexes.begin(), surface.triangleIndexes.end(), IndexTerminator,
+                     quint16(IndexTerminator - 1));
+    }
+    draft.encode(writer);
+}
+
+void SkinnedMesh::encode(BinaryFileWriter &writer) const
+{
     writer.writeInt32(version);
     writer.writeVec3(bbMin);
     writer.writeVec3(bbMax);
@@ -174,7 +193,6 @@ bool SkinnedMesh::write(BinaryFileWriter &writer) const
             writer.writeUInt16(vertex.nodeIndex);
         }
     }
-    return false;
 }
 
 void SkinnedMesh::rotate(float pitch, float yaw, float roll)

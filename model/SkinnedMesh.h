@@ -79,9 +79,15 @@ struct SkinnedMesh
     /// there are no bones, when a triangle index is 65535, or when the file cannot be written.
     [[nodiscard]] bool write(const QString &path) const;
     [[nodiscard]] bool write(BinaryFileWriter &writer) const;
+    /// Writes what can be read back whatever is wrong with the model. A triangle index of 65535, which
+    /// would end its list, becomes 65534.
+    void writeDraft(BinaryFileWriter &writer) const;
 
     /// Turns vertices, normals and boxes about the origin, angles in degrees; see eulerRotation().
     void rotate(float pitch, float yaw, float roll);
     /// Scales vertex positions and boxes.
     void scale(float factor);
+
+private:
+    void encode(BinaryFileWriter &writer) const;
 };

@@ -7,6 +7,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace {
 // Bytes in the file; the least of those that vary.
 constexpr qint64 SurfaceBytes = 5;
@@ -74,7 +76,29 @@ bool StaticMesh::write(BinaryFileWriter &writer) const
 {
     if (!refusal().isEmpty())
         return true;
+    encode(writer);
+    return false;
+}
 
+void StaticMesh::writeDraft(BinaryFileWriter &writer) const
+{
+    const auto isWhole = [](const StaticMeshSurface &surface) {
+        return surface.triangleIndexes.size() % 3 == 0;
+    };
+    if (std::all_of(surfaces.begin(), surfaces.end(), isWhole)) {
+        encode(writer);
+        return;
+    }
+    StaticMesh draft = *this;
+    for (StaticMeshSurface &surface : draft.surfaces) {
+        while (!isWhole(surface))
+            surface.triangleIndexes.push_back(quint16(surface.triangleIndexes.back()));
+    }
+    draft.encode(writer);
+}
+
+void StaticMesh::encode(BinaryFileWriter &writer) const
+{
     writer.writeInt32(version);
     writer.writeVec3(bbMin);
     writer.writeVec3(bbMax);
@@ -90,7 +114,6 @@ bool StaticMesh::write(BinaryFileWriter &writer) const
     writer.writeInt32(qint32(vertices.size()));
     for (const StaticMeshVertex &vertex : vertices)
         writeVertexFields(writer, vertex);
-    return false;
 }
 
 void StaticMesh::rotate(float pitch, float yaw, float roll)

@@ -46,9 +46,15 @@ struct StaticMesh
     /// there are no surfaces or when the file cannot be written.
     [[nodiscard]] bool write(const QString &path) const;
     [[nodiscard]] bool write(BinaryFileWriter &writer) const;
+    /// Writes what can be read back whatever is wrong with the model. A triangle list that is not
+    /// whole is filled up with its last index.
+    void writeDraft(BinaryFileWriter &writer) const;
 
     /// Turns vertices, normals and the box about the origin, angles in degrees; see eulerRotation().
     void rotate(float pitch, float yaw, float roll);
     /// Scales vertex positions and the box.
     void scale(float factor);
+
+private:
+    void encode(BinaryFileWriter &writer) const;
 };

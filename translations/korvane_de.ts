@@ -3898,10 +3898,6 @@ Hände und Füße (x0.25): %6</translation>
 <context>
     <name>Recovery</name>
     <message>
-        <source>[Recovery] &apos;%1&apos; is not kept as long as it cannot be saved: %2</source>
-        <translation>[Wiederherstellung] „%1“ wird nicht aufgehoben, solange es nicht gespeichert werden kann: %2</translation>
-    </message>
-    <message>
         <source>[Recovery] Unsaved work cannot be kept: %1</source>
         <translation>[Wiederherstellung] Nicht gespeicherte Arbeit kann nicht aufgehoben werden: %1</translation>
     </message>

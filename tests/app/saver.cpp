@@ -21,14 +21,11 @@ int main(int argc, char *argv[])
     const QString file = store.newFile(DocumentType::SkinnedMesh);
     for (int round = 1;; ++round) {
         document.model().headTrackFactor = qint8(round % 100);
-        std::vector<uchar> bytes;
-        if (document.write(bytes))
-            return 1;
         std::printf("%d\n", round);
         std::fflush(stdout);
         // Both at a time, as in the program.
         store.keep({file, DocumentType::SkinnedMesh, path, document.fileName(), QDateTime::currentDateTime()},
-                   std::move(bytes), {});
+                   document.draft(), {});
         if (document.save(path))
             return 1;
         store.waitForDone();

@@ -80,10 +80,8 @@ Document &Checks::document(DocumentType type) const
 
 QByteArray Checks::bytesOf(const Document &document)
 {
-    std::vector<uchar> bytes;
-    return document.write(bytes)
-               ? QByteArray()
-               : QByteArray(reinterpret_cast<const char *>(bytes.data()), int(bytes.size()));
+    const std::vector<uchar> bytes = document.draft();
+    return QByteArray(reinterpret_cast<const char *>(bytes.data()), int(bytes.size()));
 }
 
 KVTreeView *Checks::tree(DocumentType type) const

@@ -5,12 +5,23 @@
 #include "SampleModels.h"
 #include "TestSupport.h"
 
+#include <cerrno>
+#include <dlfcn.h>
 #include <unistd.h>
 
 using namespace SampleModels;
 
 namespace {
 const QByteArray OldBytes = "the work of a week";
+
+/// While one lives, no file takes another one's place.
+struct RefusedRename
+{
+    RefusedRename() { s_refused = true; }
+    ~RefusedRename() { s_refused = false; }
+    static bool s_refused;
+};
+bool RefusedRename::s_refused = false;
 
 /// A model of `suffix` ready to be saved, or a material table.
 using Save = std::function<bool(const QString &path)>;
@@ -39,6 +50,18 @@ Save saverOf(const QString &suffix, bool large)
 }
 } // namespace
 
+// Stands before the system's own function, for the libraries too.
+extern "C" int rename(const char *from, const char *to) noexcept
+{
+    if (RefusedRename::s_refused) {
+        errno = EPERM;
+        return -1;
+    }
+    static const auto next =
+        reinterpret_cast<int (*)(const char *, const char *)>(dlsym(RTLD_NEXT, "rename"));
+    return next(from, to);
+}
+
 /// Saving that cannot succeed says so, leaves the old file byte for byte and nothing beside it.
 class TestSaving : public QObject
 {
@@ -50,6 +73,8 @@ private slots:
     void fullDisk();
     void readOnlyFolder_data() { kinds(); }
     void readOnlyFolder();
+    void refusedRename_data() { kinds(); }
+    void refusedRename();
     void vanishedFolder_data() { kinds(); }
     void vanishedFolder();
 
@@ -90,7 +115,7 @@ void TestSaving::fullDisk()
         QVERIFY(QFile::remove(reference));
         QVERIFY(large ? size > 512 * 1024 : size < 4096);
 
-        const qint64 step = large ? size / 40 : 7;
+        const qint64 step = large ? size / 40 : 1;
         for (qint64 limit = 0; limit < size; limit = limit + step < size ? limit + step : size - 1) {
             bool failed = false;
             {
@@ -129,6 +154,21 @@ void TestSaving::readOnlyFolder()
         QSKIP("permissions do not hold here");
     QVERIFY(failed);
     QVERIFY(oldFileIsIntact());
+}
+
+void TestSaving::refusedRename()
+{
+    QFETCH(QString, suffix);
+    for (bool large : {false, true}) {
+        const Save save = saverOf(suffix, large);
+        {
+            const RefusedRename none;
+            QVERIFY(save(path()));
+        }
+        QVERIFY(oldFileIsIntact());
+    }
+    QVERIFY(!saverOf(suffix, false)(path()));
+    QVERIFY(TestSupport::readFile(path()) != OldBytes);
 }
 
 void TestSaving::vanishedFolder()

@@ -46,21 +46,24 @@ TrackSlider::TrackSlider(QWidget *parent)
 void TrackSlider::setActions(const AnimBlock *block)
 {
     m_marks.clear();
+    m_chosen = -1;
     const int count = block ? int(block->actions.size()) : 0;
     for (int i = 0; i < count; ++i) {
         const AnimAction &action = block->actions[size_t(i)];
         if (action.frame < block->frameCount())
-            m_marks.append({action.frame, i, textOf(i, action)});
+            m_marks.append({action.frame, {i}, textOf(i, action)});
     }
     std::stable_sort(m_marks.begin(), m_marks.end(),
                      [](const Mark &a, const Mark &b) { return a.frame < b.frame; });
     // Actions of one frame share a mark.
     QVector<Mark> merged;
     for (const Mark &mark : qAsConst(m_marks)) {
-        if (merged.isEmpty() || merged.last().frame != mark.frame)
+        if (merged.isEmpty() || merged.last().frame != mark.frame) {
             merged.append(mark);
-        else
+        } else {
+            merged.last().actions += mark.actions;
             merged.last().text += QLatin1Char('\n') + mark.text;
+        }
     }
     m_marks = merged;
     update();
@@ -136,8 +139,12 @@ void TrackSlider::paintEvent(QPaintEvent *event)
 void TrackSlider::mouseDoubleClickEvent(QMouseEvent *event)
 {
     const Mark *mark = markAt(event->pos().x());
-    if (mark && event->button() == Qt::LeftButton)
-        emit actionChosen(mark->action);
-    else
+    if (!mark || event->button() != Qt::LeftButton) {
         QSlider::mouseDoubleClickEvent(event);
+        return;
+    }
+    // From -1, of an action elsewhere, to the first.
+    const int next = (mark->actions.indexOf(m_chosen) + 1) % mark->actions.size();
+    m_chosen = mark->actions[next];
+    emit actionChosen(m_chosen);
 }

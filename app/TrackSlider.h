@@ -25,7 +25,7 @@ public:
     int xOf(int frame) const;
 
 signals:
-    /// The action of this index was double-clicked.
+    /// The mark of this action was double-clicked: the first of the frame's, then the next of them.
     void actionChosen(int action);
 
 protected:
@@ -37,11 +37,12 @@ private:
     struct Mark
     {
         int frame;
-        int action; ///< the first of the frame
+        QVector<int> actions;
         QString text;
     };
 
     const Mark *markAt(int x) const;
 
     QVector<Mark> m_marks; ///< one per frame, ascending
+    int m_chosen = -1;     ///< the action that was chosen last
 };

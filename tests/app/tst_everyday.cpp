@@ -4,9 +4,11 @@
 #include "Hand.h"
 #include "KVTreeView.h"
 #include "MainWindow.h"
+#include "NameTables.h"
 #include "Playback.h"
 #include "RecentFiles.h"
 #include "SampleModels.h"
+#include "Settings.h"
 #include "TestSupport.h"
 #include "TrackSlider.h"
 
@@ -14,11 +16,14 @@
 #include <QComboBox>
 #include <QDockWidget>
 #include <QDoubleSpinBox>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QSpinBox>
+#include <QTabWidget>
 #include <QToolButton>
+#include <QToolTip>
 #include <QTreeWidget>
 #include <QUndoGroup>
 #include <QUndoView>
@@ -34,6 +39,7 @@ private slots:
     void commandsAreFoundByTheirName();
     void thePaletteDoesWhatIsChosen();
     void recentFilesAreOpenedAgain();
+    void theKeyGoesToTheFilterOfTheTree();
     void historyShowsWhatWasSaved();
     void theLayoutIsReset();
     void theTrackIsSteppedAndMarked();
@@ -133,8 +139,9 @@ void tst_Everyday::thePaletteDoesWhatIsChosen()
                          QTest::keyClick(line, Qt::Key_Escape);
                      },
                      choose(QStringLiteral("history")), choose(QStringLiteral("timeline loop"))});
-    find<QAction>(window, "actionCommands")->trigger();
-    find<QAction>(window, "actionCommands")->trigger();
+    QApplication::setActiveWindow(&window);
+    QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+    QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
     QTRY_VERIFY(servers->isVisible());
     // Of no menu.
     const auto *loop = find<QToolButton>(window, "btnAnimTrackLoop");
@@ -170,8 +177,45 @@ void tst_Everyday::recentFilesAreOpenedAgain()
     actions[3]->trigger();
     QCOMPARE(find<QTreeWidget>(window, "treeSkinnedMesh")->topLevelItem(0)->text(0),
              QFileInfo(paths[RecentFiles::Limit - 1]).fileName());
+    // Each kind has its own list.
+    const QString anim = m_files->filePath(QStringLiteral("r.anim"));
+    const QString rigid = m_files->filePath(QStringLiteral("r.staticmesh"));
+    QVERIFY(!twoBlocks().write(anim) && !SampleModels::plainStatic().write(rigid));
+    window.openFiles({anim, rigid});
+    QCOMPARE(Settings::AnimationRecentFiles.value(), QStringList(anim));
+    QCOMPARE(Settings::StaticMeshRecentFiles.value(), QStringList(rigid));
+    QCOMPARE(filled(find<QMenu>(window, "menuRecent")).size(), actions.size() + 4);
     filled(find<QMenu>(window, "menuRecent")).last()->trigger();
     QCOMPARE(filled(find<QMenu>(window, "menuRecent")).size(), 1);
+}
+
+void tst_Everyday::theKeyGoesToTheFilterOfTheTree()
+{
+    const QString anim = m_files->filePath(QStringLiteral("a.anim"));
+    QVERIFY(!twoBlocks().write(anim));
+    MainWindow window;
+    window.show();
+    window.openFiles({write(QStringLiteral("a.skinnedmesh")), anim});
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QApplication::setActiveWindow(&window);
+    for (const char *name : {"treeSkinnedMesh", "treeAnim"}) {
+        auto *tree = find<KVTreeView>(window, name);
+        tree->setFocus();
+        QTest::keyClick(tree, Qt::Key_F, Qt::ControlModifier);
+        auto *line = find<QLineEdit>(window, (QByteArray(name) + "Filter").constData());
+        QCOMPARE(QApplication::focusWidget(), line);
+        const auto showsRecords = [tree] {
+            const QTreeWidgetItem *root = tree->topLevelItem(0);
+            return root && root->childCount() > 0 && !root->child(0)->isHidden();
+        };
+        QVERIFY(showsRecords());
+        QTest::keyClicks(line, QStringLiteral("no such record"));
+        QTRY_VERIFY(!showsRecords());
+        QTest::keyClick(line, Qt::Key_Escape);
+        QVERIFY(showsRecords() && line->text().isEmpty());
+        QCOMPARE(QApplication::focusWidget(), tree);
+        find<QTabWidget>(window, "tabTrees")->setCurrentIndex(1);
+    }
 }
 
 void tst_Everyday::historyShowsWhatWasSaved()
@@ -189,7 +233,10 @@ void tst_Everyday::historyShowsWhatWasSaved()
     const QModelIndex last = view->model()->index(view->model()->rowCount() - 1, 0);
     QVERIFY(!last.data(Qt::DecorationRole).isNull());
     QUndoStack *stack = view->group()->activeStack();
-    view->selectionModel()->setCurrentIndex(view->model()->index(0, 0), QItemSelectionModel::ClearAndSelect);
+    find<QDockWidget>(window, "dockHistory")->show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
+                      view->visualRect(view->model()->index(0, 0)).center());
     QTRY_COMPARE(stack->index(), 0);
     QVERIFY(factor->value() != 5);
     // What is done before the view's turn comes is not taken back.
@@ -224,6 +271,7 @@ void tst_Everyday::theTrackIsSteppedAndMarked()
     for (size_t i = 0; i < 4; ++i)
         file.blocks[0].actions[i].frame = quint16(frames[i]);
     file.blocks[0].actions[1].eventType = 30;
+    file.blocks[0].animId = 100;
     const QString anim = m_files->filePath(QStringLiteral("a.anim"));
     QVERIFY(!file.write(anim));
     Settings::AnimationAutoPlay.setValue(false);
@@ -254,7 +302,11 @@ void tst_Everyday::theTrackIsSteppedAndMarked()
     press(' ');
     QCOMPARE(playback().playState, PlayState::Paused);
 
-    find<QDoubleSpinBox>(window, "sbAnimTrackSpeed")->setValue(2.5);
+    auto *speed = find<QDoubleSpinBox>(window, "sbAnimTrackSpeed");
+    QCOMPARE(speed->minimum(), 0.1);
+    QCOMPARE(speed->maximum(), 4.0);
+    speed->selectAll();
+    QTest::keyClicks(speed, QStringLiteral("2.5\r"));
     Playback state = playback();
     state.playState = PlayState::Playing;
     state.time = 0.0f;
@@ -264,9 +316,20 @@ void tst_Everyday::theTrackIsSteppedAndMarked()
     QTest::mouseDClick(slider, Qt::LeftButton, {}, {slider->xOf(7), slider->height() / 2});
     auto *tree = find<KVTreeView>(window, "treeAnim");
     QCOMPARE(tree->currentRecord(), (RecordRef{RecordKind::AnimAction, {0, 0}}));
+    // The other action of the same frame, and round again.
+    for (const int action : {2, 0}) {
+        QTest::mouseDClick(slider, Qt::LeftButton, {}, {slider->xOf(7), slider->height() / 2});
+        QCOMPARE(tree->currentRecord(), (RecordRef{RecordKind::AnimAction, {0, action}}));
+    }
+    const QPoint mark(slider->xOf(2), slider->height() / 2);
+    QHelpEvent help(QEvent::ToolTip, mark, slider->mapToGlobal(mark));
+    QApplication::sendEvent(slider, &help);
+    QVERIFY2(QToolTip::text().startsWith(QStringLiteral("Frame 2\nAction 1: ") + eventTypeNames().value(30)),
+             qPrintable(QToolTip::text()));
 
     auto *blocks = find<QComboBox>(window, "cbAnimTrackBlock");
     QCOMPARE(blocks->count(), 2);
+    QCOMPARE(blocks->itemText(0), QStringLiteral("0: Unnamed animation 100"));
     blocks->setFocus();
     QTest::keyClick(blocks, Qt::Key_Down);
     QCOMPARE(tree->currentRecord(), (RecordRef{RecordKind::AnimBlock, {1}}));

@@ -237,6 +237,17 @@ void tst_ViewportInput::clickPicksAndDragDoesNot()
     QTest::mouseClick(m_view.get(), Qt::LeftButton, {}, centre + QPoint(10, 10));
     QCOMPARE(bones, QList<QVariantList>{{0}});
     QCOMPARE(surfaces.size(), 2);
+
+    // A hot point lies over the bone that it hangs on.
+    QSignalSpy hotPoints(m_view.get(), &KVOpenGLWidget::hotPointPicked);
+    m_mesh.hotPoints.resize(2);
+    m_mesh.hotPoints[0].nodeId = 60;
+    m_view->setSkinnedMesh(&m_mesh);
+    m_view->setShowHotPoints(true);
+    m_view->grabFramebuffer();
+    QTest::mouseClick(m_view.get(), Qt::LeftButton, {}, centre + QPoint(1, 2));
+    QCOMPARE(hotPoints, QList<QVariantList>{{1}});
+    QCOMPARE(bones.size(), 1);
     m_view->setSkinnedMesh(nullptr);
     QTest::mouseClick(m_view.get(), Qt::LeftButton, {}, centre);
     QCOMPARE(bones.size() + surfaces.size(), 3);
@@ -250,7 +261,7 @@ void tst_ViewportInput::tipsNameBones()
         asked << QStringLiteral("Bone %1").arg(bone);
         return asked.last();
     };
-    m_view->setMarkNames(name, {});
+    m_view->setMarkNames(name, [](int hotPoint) { return QStringLiteral("Hot point %1").arg(hotPoint); });
     m_view->setShowSkeleton(true);
     m_view->grabFramebuffer();
     sendMouse(QEvent::MouseMove, {60, 60}, Qt::NoButton, Qt::NoButton);
@@ -261,6 +272,12 @@ void tst_ViewportInput::tipsNameBones()
     QTRY_COMPARE(QToolTip::text(), QStringLiteral("Bone 0"));
     sendMouse(QEvent::MouseMove, {60, 60}, Qt::NoButton, Qt::NoButton);
     QTRY_VERIFY(!QToolTip::isVisible());
+    m_mesh.hotPoints.resize(1);
+    m_view->setSkinnedMesh(&m_mesh);
+    m_view->setShowHotPoints(true);
+    m_view->grabFramebuffer();
+    sendMouse(QEvent::MouseMove, {1, 2}, Qt::NoButton, Qt::NoButton);
+    QTRY_COMPARE(QToolTip::text(), QStringLiteral("Hot point 0"));
 }
 
 void tst_ViewportInput::altTurnsAroundTheModel()

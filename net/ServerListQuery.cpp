@@ -77,11 +77,15 @@ void ServerListQuery::query()
         return;
     }
     m_wait.start(lookupMs);
-    m_lookup = QHostInfo::lookupHost(host, this, [this](const QHostInfo &found) {
-        // An earlier look-up may have been past calling back.
-        if (found.lookupId() == m_lookup)
-            send(found);
-    });
+    // By name: of a look-up that is aborted, Qt forgets to free any other kind of callback.
+    m_lookup = QHostInfo::lookupHost(host, this, SLOT(onLookedUp(QHostInfo)));
+}
+
+void ServerListQuery::onLookedUp(const QHostInfo &found)
+{
+    // An earlier look-up may have been past calling back.
+    if (found.lookupId() == m_lookup)
+        send(found);
 }
 
 void ServerListQuery::failLookup(const QString &host, const QString &error)

@@ -51,6 +51,7 @@ signals:
 
 private slots:
     void ReadPendingDatagrams();
+    void onLookedUp(const QHostInfo &found);
 
 private:
     void send(const QHostInfo &found);

@@ -267,9 +267,13 @@ view_pictures() {
     setting HideAnimData false
     korvane "$(first skinnedmesh)" "$(first anim)"
     approach
-    press Home 6 b
+    command 'frame rate'
+    press Home 6 b h
+    # A few frames are counted.
+    sleep 2
     part "$folder/skeleton.png" -crop 962x644+234+90
-    press 5 b F12
+    command 'frame rate'
+    press 5 b h F12
     grab_dialog 'Save Picture$' "$folder/picture.png"
     leave_dialog
     press ctrl+f
@@ -284,14 +288,18 @@ view_pictures() {
     page mesh
     show_record 'hot point 1'
     page hot-point
+    show_record 'child 1'
+    page child
     show_record 'surface 1'
     page surface
     show_record 'triangle index 1'
     page triangle-index
     show_record 'vertex 100'
     page vertex
-    pages "$folder/pages-mesh.png" mesh hot-point vertex 'surface triangle-index'
+    pages "$folder/pages-mesh.png" mesh hot-point vertex 'surface triangle-index child'
     press ctrl+Tab
+    show_record 'tinker.anim'
+    page file
     show_record 'anim 2'
     page block
     show_record 'bone 3'
@@ -306,7 +314,7 @@ view_pictures() {
     show_record 'rotation track 1'
     press ctrl+f Escape Right Down Down
     page rotation
-    pages "$folder/pages-animation.png" block bone action 'frame translation rotation'
+    pages "$folder/pages-animation.png" 'file block' bone action 'frame translation rotation'
     quit
     setting HideAnimData true
 }

@@ -387,6 +387,13 @@ void TestRecovery::theBarOffers()
     RecoveryPrompt prompt(*run.recovery, &recover, &place, &run.window);
     auto *bar = run.window.findChild<NoticeBar *>(QStringLiteral("barRecovery"));
     QVERIFY(!bar->isHidden());
+    {
+        // The bar's button and the menu's command open the same list.
+        const Hand hand({Hand::reject, Hand::reject});
+        run.window.findChild<QPushButton *>(QStringLiteral("btnShowAll"))->click();
+        recover.trigger();
+        QCOMPARE(hand.seen, QStringList({QStringLiteral("Recover"), QStringLiteral("Recover")}));
+    }
     QVERIFY2(bar->text().endsWith(QStringLiteral(": box.staticmesh, man.skinnedmesh and 1 more")),
              qPrintable(bar->text()));
     run.window.findChild<QPushButton *>(QStringLiteral("btnRestore"))->click();

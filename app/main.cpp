@@ -11,6 +11,8 @@
 #include <QLoggingCategory>
 #include <QSurfaceFormat>
 
+#include <memory>
+
 int main(int argc, char *argv[])
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
@@ -37,9 +39,12 @@ int main(int argc, char *argv[])
     // The desktop hands over files to open; there are no options.
     const QStringList files = QCoreApplication::arguments().mid(1);
     const TexturesAhead textures(files);
+    // All keys are read while the window is built.
+    auto settings = std::make_unique<SettingsHold>();
     showChosenLook();
     MainWindow window;
     window.show();
     window.openAtStart(files);
+    settings.reset();
     return QApplication::exec();
 }

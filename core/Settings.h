@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Deployment.h"
+#include "SettingsHold.h"
 
 #include <QColor>
 #include <QDateTime>
@@ -18,7 +19,7 @@
 #include <type_traits>
 
 /// One typed entry of the settings store. Every access opens its own short-lived QSettings, so a value
-/// written anywhere is seen at once everywhere.
+/// written anywhere is seen at once everywhere; see SettingsHold.
 template <typename T>
 class SettingKey
 {
@@ -30,12 +31,12 @@ public:
 
     QString name() const { return m_name; }
     const T &defaultValue() const { return m_default; }
-    bool exists() const { return QSettings().contains(m_name); }
+    bool exists() const { return SettingsHold::value(m_name).isValid(); }
 
     /// The stored value; the default when there is none or when it cannot be read as a T.
     T value() const
     {
-        QVariant stored = QSettings().value(m_name);
+        QVariant stored = SettingsHold::value(m_name);
         if (!stored.isValid() || !stored.convert(qMetaTypeId<T>()))
             return m_default;
         const T result = stored.value<T>();

@@ -11,6 +11,7 @@ private slots:
     void init();
     void readingWritesNothing();
     void ensureWritesTheDefaultOnce();
+    void anOpenStoreKnowsWhatIsWritten();
     void everyTypeComesBackFromTheFile();
     void handWrittenText_data();
     void handWrittenText();
@@ -43,6 +44,25 @@ void TestSettings::readingWritesNothing()
     QVERIFY(!Settings::MainWindowSize.value().isValid());
     QVERIFY(!Settings::HideMeshData.exists());
     QVERIFY(QSettings().allKeys().isEmpty());
+}
+
+void TestSettings::anOpenStoreKnowsWhatIsWritten()
+{
+    Settings::HideMeshData.setValue(false);
+    {
+        const SettingsHold hold;
+        QCOMPARE(Settings::HideMeshData.value(), false);
+        Settings::HideMeshData.setValue(true);
+        Settings::MouseSpeed.setValue(2.0f);
+        QCOMPARE(Settings::HideMeshData.value(), true);
+        QCOMPARE(Settings::MouseSpeed.value(), 2.0f);
+        Settings::MouseSpeed.remove();
+        QVERIFY(!Settings::MouseSpeed.exists());
+        // Another process does not wait for the end of it.
+        QVERIFY(TestSupport::readFile(QSettings().fileName()).contains("HideMeshData=true"));
+    }
+    writeStore("HideMeshData=false");
+    QCOMPARE(Settings::HideMeshData.value(), false);
 }
 
 void TestSettings::ensureWritesTheDefaultOnce()

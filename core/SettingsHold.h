@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QSettings>
+#include <QVariant>
+
+/// While one lives, its thread reads settings from one open store. To open it looks at several files, which
+/// adds up where every key is read, as at the start. What this process writes is seen all the same; what
+/// another one writes is not.
+class SettingsHold
+{
+public:
+    SettingsHold();
+    ~SettingsHold();
+    SettingsHold(const SettingsHold &) = delete;
+    SettingsHold &operator=(const SettingsHold &) = delete;
+
+    /// The stored value, invalid when there is none: from the open store, or else from one of its own.
+    static QVariant value(const QString &name);
+
+private:
+    QSettings m_store;
+    const QSettings *m_outer;
+};

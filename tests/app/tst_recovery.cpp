@@ -293,44 +293,17 @@ void TestRecovery::damageIsSkipped()
 
 void TestRecovery::workThatCannotBeSavedIsKept()
 {
-    SkinnedMesh man = triangleMan();
-    man.surfaces[0].triangleIndexes[1] = SkinnedMesh::IndexTerminator;
-    SkinnedMesh boneless = triangleMan();
-    boneless.nodes.clear();
-    StaticMesh box = SampleModels::staticMesh();
-    box.surfaces[0].triangleIndexes.pop_back();
-    StaticMesh bare = box;
-    bare.surfaces.clear();
-    const auto keptOf = [this](auto change) {
-        {
-            OneRun run(root());
-            change(run);
-            run.settle();
-        }
-        OneRun next(root());
-        const QVector<Snapshot> left = next.recovery->snapshots();
-        if (left.size() != 1 || next.recovery->restore(left[0]) != Recovery::Outcome::Restored)
-            qFatal("%d kept", left.size());
-        QDir(root()).removeRecursively();
-        return std::make_pair(next.mesh.model(), next.rigid.model());
-    };
-
-    for (const SkinnedMesh &mesh : {man, boneless}) {
-        const SkinnedMesh back = keptOf([&](OneRun &run) {
-                                     run.mesh.take(mesh, QStringLiteral("man"));
-                                     run.edit(7);
-                                 }).first;
-        QCOMPARE(back.headTrackFactor, qint8(7));
-        QCOMPARE(back.nodes.size(), mesh.nodes.size());
-        QCOMPARE(back.vertices.size(), mesh.vertices.size());
-        QCOMPARE(back.surfaces[0].triangleIndexes.size(), mesh.surfaces[0].triangleIndexes.size());
+    {
+        OneRun run(root());
+        run.openMesh(manPath());
+        run.mesh.model().surfaces[0].triangleIndexes[1] = SkinnedMesh::IndexTerminator;
+        run.edit(7);
+        run.settle();
     }
-    for (const StaticMesh &mesh : {box, bare}) {
-        const StaticMesh back =
-            keptOf([&](OneRun &run) { run.rigid.take(mesh, QStringLiteral("box")); }).second;
-        QCOMPARE(back.surfaces.size(), mesh.surfaces.size());
-        QCOMPARE(back.vertices.size(), mesh.vertices.size());
-    }
+    OneRun run(root());
+    QCOMPARE(int(run.recovery->restore(run.recovery->snapshots().at(0))), int(Recovery::Outcome::Restored));
+    QCOMPARE(run.mesh.model().headTrackFactor, qint8(7));
+    QCOMPARE(run.mesh.model().surfaces[0].triangleIndexes.size(), size_t(3));
 }
 
 void TestRecovery::whatCannotBeKept()

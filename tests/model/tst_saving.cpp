@@ -77,6 +77,7 @@ private slots:
     void refusedRename();
     void vanishedFolder_data() { kinds(); }
     void vanishedFolder();
+    void draftsAreReadBack();
 
 private:
     QString path() const { return m_folder->filePath(QStringLiteral("model")); }
@@ -183,6 +184,35 @@ void TestSaving::vanishedFolder()
     QVERIFY(m_folder->remove());
     QVERIFY(save(path()));
     QVERIFY(!QFile::exists(gone));
+}
+
+void TestSaving::draftsAreReadBack()
+{
+    const auto readBack = [](const auto &model) {
+        BinaryFileWriter writer;
+        model.writeDraft(writer);
+        auto back = std::decay_t<decltype(model)>();
+        if (readBytes(back, QByteArray(reinterpret_cast<const char *>(writer.bytes().data()),
+                                       int(writer.bytes().size()))))
+            qFatal("a draft cannot be read");
+        return back;
+    };
+    SkinnedMesh mesh = skinnedMesh();
+    mesh.surfaces[0].triangleIndexes = {1, SkinnedMesh::IndexTerminator, 0, 1};
+    QVERIFY(!mesh.refusal().isEmpty());
+    QCOMPARE(readBack(mesh).surfaces[0].triangleIndexes, (std::vector<quint16>{1, 65534, 0, 1}));
+    QCOMPARE(readBack(mesh).vertices.size(), mesh.vertices.size());
+    mesh.nodes.clear();
+    QCOMPARE(readBack(mesh).surfaces.size(), mesh.surfaces.size());
+
+    StaticMesh rigid = staticMesh();
+    rigid.surfaces[0].triangleIndexes = {0, 1, 2, 1};
+    QCOMPARE(readBack(rigid).surfaces[0].triangleIndexes, (std::vector<quint16>{0, 1, 2, 1, 1, 1}));
+    QCOMPARE(readBack(rigid).vertices.size(), rigid.vertices.size());
+    rigid.surfaces.clear();
+    QVERIFY(!rigid.refusal().isEmpty());
+    QCOMPARE(readBack(rigid).vertices.size(), rigid.vertices.size());
+    QVERIFY(readBack(AnimFile()).blocks.empty());
 }
 
 QTEST_GUILESS_MAIN(TestSaving)

@@ -174,6 +174,7 @@ void tst_Materials::sharesDecodedFiles()
     save(QStringLiteral("mod"), QStringLiteral("shared.png"), Qt::red);
     const QString path = m_folder.path() + QStringLiteral("/mod/textures/shared.png");
     std::vector<std::future<QImage>> asked;
+    asked.reserve(8);
     for (int i = 0; i < 8; ++i)
         asked.push_back(std::async(std::launch::async, &TextureImages::load, path));
     const QImage first = asked[0].get();

@@ -64,10 +64,12 @@ bool RecordFilter::matches(const QString &text) const
     const Words words = wordsOf(text);
     return std::all_of(m_terms.begin(), m_terms.end(), [&words](const Term &term) {
         for (int i = 0; i < words.size(); ++i) {
-            if (!words[i].startsWith(term.word, Qt::CaseInsensitive))
-                continue;
-            if (!term.hasRange)
+            // Anywhere in a word, for "arm" is in "Oberarm"; what a number belongs to is named by its
+            // beginning.
+            if (!term.hasRange && words[i].contains(term.word, Qt::CaseInsensitive))
                 return true;
+            if (!term.hasRange || !words[i].startsWith(term.word, Qt::CaseInsensitive))
+                continue;
             const int at = term.word.isEmpty() ? i : i + 1;
             qint64 number = 0;
             if (at < words.size() && numberOf(words[at], number) && number >= term.first &&

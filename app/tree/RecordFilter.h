@@ -5,9 +5,9 @@
 #include <QString>
 #include <QVector>
 
-/// What somebody types to find records: words that all have to begin a word of the record's text, in any
+/// What somebody types to find records: words that all have to be in words of the record's text, in any
 /// case, and numbers or ranges of them ("100-120"). A number that follows a word belongs to it: "vertex
-/// 100-120" and "event 30" match where such a number stands right behind such a word.
+/// 100-120" and "event 30" match where such a number stands right behind a word that begins so.
 class RecordFilter
 {
 public:

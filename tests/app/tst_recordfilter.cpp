@@ -49,7 +49,9 @@ void tst_RecordFilter::matches_data()
     row(" ,.- ", "vertex 3", true);
     row("left arm", "bone 4 Left Upper Arm", true);
     row("ARM le", "bone 4 Left Upper Arm", true);
-    row("rm", "bone 4 Left Upper Arm", false);
+    row("rm", "bone 4 Left Upper Arm", true);
+    row("links arm", "Knochen 15: Links Oberarm", true);
+    row("ex 12", "vertex 12", false);
     row("left leg", "bone 4 Left Upper Arm", false);
     row("vertex 100-120", "vertex 100", true);
     row("vertex 100-120", "vertex 120", true);

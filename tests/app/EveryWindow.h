@@ -35,6 +35,13 @@
 #include <QStackedWidget>
 #include <QTabBar>
 
+/// Says what is wrong, a line each: a message of a test is cut off when it is long.
+inline void report(const QStringList &faults)
+{
+    for (const QString &fault : faults)
+        qWarning("%s", qPrintable(fault));
+}
+
 /// The main window and every dialog, for tests that look at all of them.
 struct EveryWindow
 {

@@ -16,13 +16,6 @@ private slots:
     void everyDialogIsUsableByKeyboard();
 
 private:
-    /// One line each: a message of the test is cut off when it is long.
-    static void report(const QStringList &faults)
-    {
-        for (const QString &fault : faults)
-            qWarning("%s", qPrintable(fault));
-    }
-
     QTemporaryDir m_home;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "CommandPalette.h"
+#include "Find.h"
 #include "Hand.h"
 #include "KVTreeView.h"
 #include "MainWindow.h"
@@ -45,14 +46,6 @@ private slots:
     void theTrackIsSteppedAndMarked();
 
 private:
-    template <typename Widget>
-    static Widget *find(const MainWindow &window, const char *name)
-    {
-        auto *found = window.findChild<Widget *>(QLatin1String(name));
-        if (!found)
-            qFatal("%s is missing", name);
-        return found;
-    }
     /// The actions of a menu as it comes up.
     static QList<QAction *> filled(QMenu *menu)
     {

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "Find.h"
 #include "Hand.h"
 #include "KVTreeView.h"
 #include "MainWindow.h"
@@ -27,14 +28,6 @@ private slots:
     void theStoreCannotBeReadNorWritten();
 
 private:
-    template <typename Widget>
-    static Widget *find(const MainWindow &window, const char *name)
-    {
-        auto *widget = window.findChild<Widget *>(QLatin1String(name));
-        if (!widget)
-            qFatal("no %s", name);
-        return widget;
-    }
     /// Opens a model, edits it and saves it, as if nothing were wrong.
     void useProgram();
 

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "Find.h"
 #include "Hand.h"
 #include "KVOpenGLWidget.h"
 #include "KVTreeView.h"
@@ -31,14 +32,6 @@ private slots:
     void noContextIsToBeHad();
 
 private:
-    template <typename Widget>
-    static Widget *find(const MainWindow &window, const char *name)
-    {
-        auto *widget = window.findChild<Widget *>(QLatin1String(name));
-        if (!widget)
-            qFatal("no %s", name);
-        return widget;
-    }
     /// Until what is to be seen is on the screen.
     static void waitForFrame(KVOpenGLWidget *view)
     {

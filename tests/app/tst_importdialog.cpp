@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "Find.h"
 #include "Hand.h"
 #include "ImportDialog.h"
 #include "ImportFilter.h"
@@ -47,21 +48,13 @@ private slots:
     void filterNamesTheFormats();
 
 private:
-    template <typename T>
-    static T *child(const QWidget &dialog, const char *name)
-    {
-        auto *found = dialog.findChild<T *>(QLatin1String(name));
-        if (!found)
-            qFatal("no %s", name);
-        return found;
-    }
     static void click(const QWidget &dialog, const char *button)
     {
-        QTest::mouseClick(child<QPushButton>(dialog, button), Qt::LeftButton);
+        QTest::mouseClick(find<QPushButton>(dialog, button), Qt::LeftButton);
     }
     static void type(const QWidget &dialog, const char *edit, const QString &text)
     {
-        auto *line = child<QLineEdit>(dialog, edit);
+        auto *line = find<QLineEdit>(dialog, edit);
         line->setFocus();
         line->selectAll();
         QTest::keyClick(line, Qt::Key_Delete);
@@ -70,7 +63,7 @@ private:
     }
     static QString page(const QWidget &dialog)
     {
-        return child<QStackedWidget>(dialog, "stackPages")->currentWidget()->objectName();
+        return find<QStackedWidget>(dialog, "stackPages")->currentWidget()->objectName();
     }
     QString write(const QString &name, const QByteArray &bytes)
     {
@@ -125,13 +118,13 @@ void tst_ImportDialog::optionsAreStoredAtOnce()
         ImportDialog dialog(ImportDialog::StaticMeshMode);
         QCOMPARE(dialog.windowTitle(), QStringLiteral("Import model to Static Mesh"));
         for (const Option &option : options) {
-            QCOMPARE(child<QCheckBox>(dialog, option.box)->isChecked(), option.byDefault);
+            QCOMPARE(find<QCheckBox>(dialog, option.box)->isChecked(), option.byDefault);
             QVERIFY(!option.key.exists());
-            QTest::keyClick(child<QCheckBox>(dialog, option.box), Qt::Key_Space);
+            QTest::keyClick(find<QCheckBox>(dialog, option.box), Qt::Key_Space);
             QVERIFY(option.key.exists());
             QCOMPARE(option.key.value(), !option.byDefault);
         }
-        auto *scale = child<QDoubleSpinBox>(dialog, "sbScale");
+        auto *scale = find<QDoubleSpinBox>(dialog, "sbScale");
         scale->selectAll();
         QTest::keyClicks(scale, QStringLiteral("2.5"));
         QCOMPARE(Settings::ImportScale.value(), 2.5f);
@@ -141,9 +134,9 @@ void tst_ImportDialog::optionsAreStoredAtOnce()
     Settings::ImportScale.setValue(-3.0f);
     const ImportDialog again(ImportDialog::SkinnedMeshMode);
     for (const Option &option : options)
-        QCOMPARE(child<QCheckBox>(again, option.box)->isChecked(), !option.byDefault);
-    QCOMPARE(child<QDoubleSpinBox>(again, "sbScale")->value(), 1e-6);
-    QCOMPARE(child<QPushButton>(again, "btnImport")->text().remove(QLatin1Char('&')),
+        QCOMPARE(find<QCheckBox>(again, option.box)->isChecked(), !option.byDefault);
+    QCOMPARE(find<QDoubleSpinBox>(again, "sbScale")->value(), 1e-6);
+    QCOMPARE(find<QPushButton>(again, "btnImport")->text().remove(QLatin1Char('&')),
              QStringLiteral("Import to Skinned Mesh!"));
 }
 
@@ -151,7 +144,7 @@ void tst_ImportDialog::choosingTheModel()
 {
     ImportDialog dialog(ImportDialog::SkinnedMeshMode);
     dialog.show();
-    QVERIFY(!child<QPushButton>(dialog, "btnImport")->isEnabled());
+    QVERIFY(!find<QPushButton>(dialog, "btnImport")->isEnabled());
     const QString path = write(QStringLiteral("box.v2.obj"), corners);
     QString filter;
     Hand hand({[&](QDialog *chooser) {
@@ -164,16 +157,16 @@ void tst_ImportDialog::choosingTheModel()
     QCOMPARE(hand.seen, QStringList(QStringLiteral("Import Model to Skinned Mesh")));
     QCOMPARE(filter, QStringLiteral("Wavefront Object (*.obj)"));
     QCOMPARE(Settings::ImportPath.value(), m_source->path());
-    QCOMPARE(child<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("materials/mat_box.v2.kmat"));
-    QVERIFY(child<QPushButton>(dialog, "btnImport")->isEnabled());
+    QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("materials/mat_box.v2.kmat"));
+    QVERIFY(find<QPushButton>(dialog, "btnImport")->isEnabled());
 
     // A typed model takes its material file along, until that was chosen.
     type(dialog, "txtModelPath", QStringLiteral("/x/crate.fbx"));
-    QCOMPARE(child<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("materials/mat_crate.kmat"));
+    QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("materials/mat_crate.kmat"));
     type(dialog, "txtKMatPath", QStringLiteral("mine"));
-    QCOMPARE(child<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("mine.kmat"));
+    QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("mine.kmat"));
     type(dialog, "txtModelPath", QStringLiteral("/x/barrel.fbx"));
-    QCOMPARE(child<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("mine.kmat"));
+    QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("mine.kmat"));
 }
 
 void tst_ImportDialog::pathsStayInTheModFolder()
@@ -183,17 +176,17 @@ void tst_ImportDialog::pathsStayInTheModFolder()
     dialog.setModelPath(QStringLiteral("/x/crate.fbx"));
     const QString refusal = QStringLiteral("kmat Path Error|Path must be relative to Turok 2 Folder");
     for (const char *edit : {"txtKMatPath", "txtTexPath"}) {
-        const QString before = child<QLineEdit>(dialog, edit)->text();
+        const QString before = find<QLineEdit>(dialog, edit)->text();
         for (const QString &path :
              {m_source->filePath(QStringLiteral("a.kmat")), m_mod->path() + QStringLiteral("2/a.kmat"),
               QStringLiteral("../a.kmat")}) {
             Hand hand({Hand::press(QMessageBox::Ok)});
             type(dialog, edit, path);
             QCOMPARE(hand.seen, QStringList(refusal));
-            QCOMPARE(child<QLineEdit>(dialog, edit)->text(), before);
+            QCOMPARE(find<QLineEdit>(dialog, edit)->text(), before);
         }
         type(dialog, edit, m_mod->filePath(QStringLiteral("sub/a.kmat")));
-        QCOMPARE(child<QLineEdit>(dialog, edit)->text(), QStringLiteral("sub/a.kmat"));
+        QCOMPARE(find<QLineEdit>(dialog, edit)->text(), QStringLiteral("sub/a.kmat"));
     }
     QStringList titles;
     dialog.setFolderChooser([&titles, this](QWidget *, const QString &title, const QString &) {
@@ -201,17 +194,17 @@ void tst_ImportDialog::pathsStayInTheModFolder()
         return m_mod->filePath(QStringLiteral("textures"));
     });
     click(dialog, "btnTextureDirBrowse");
-    QCOMPARE(child<QLineEdit>(dialog, "txtTexPath")->text(), QStringLiteral("textures"));
+    QCOMPARE(find<QLineEdit>(dialog, "txtTexPath")->text(), QStringLiteral("textures"));
     Hand hand({[this](QDialog *chooser) {
         auto *files = static_cast<QFileDialog *>(chooser);
         QTest::keyClicks(files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit")),
                          m_mod->filePath(QStringLiteral("materials/new")));
         QTest::keyClick(files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit")), Qt::Key_Return);
     }});
-    child<QLineEdit>(dialog, "txtKMatPath")->setText(QString());
+    find<QLineEdit>(dialog, "txtKMatPath")->setText(QString());
     click(dialog, "btnkmatPathBrowse");
     QCOMPARE(hand.seen, QStringList(QStringLiteral("Save .kmat")));
-    QVERIFY(child<QLineEdit>(dialog, "txtKMatPath")->text().endsWith(QLatin1String("new.kmat")));
+    QVERIFY(find<QLineEdit>(dialog, "txtKMatPath")->text().endsWith(QLatin1String("new.kmat")));
     click(dialog, "btnT2DirBrowse");
     QCOMPARE(titles,
              QStringList({QStringLiteral("Texture Output Folder"), QStringLiteral("Turok 2 Output Folder")}));
@@ -238,8 +231,8 @@ void tst_ImportDialog::outputFoldersAreChecked()
     type(dialog, "txtTexPath", QStringLiteral("nowhere"));
     click(dialog, "btnCancel");
     dialog.show();
-    child<QCheckBox>(dialog, "cbCreateKMat")->click();
-    child<QCheckBox>(dialog, "cbCopyTextures")->click();
+    find<QCheckBox>(dialog, "cbCreateKMat")->click();
+    find<QCheckBox>(dialog, "cbCopyTextures")->click();
     QCOMPARE(refused(), QStringLiteral("Output Folder Error|"
                                        "Turok 2 Folder + kmat Path '%1/none' doesn't exist.\n"
                                        "Turok 2 Folder + Texture Folder '%1/nowhere' doesn't exist.")
@@ -304,10 +297,10 @@ void tst_ImportDialog::outcomes()
         QTRY_COMPARE_WITH_TIMEOUT(page(dialog), QStringLiteral("pageSuccess"), 20000);
         const QString kind = mode == ImportDialog::SkinnedMeshMode ? QStringLiteral("Skinned Mesh")
                                                                    : QStringLiteral("Static Mesh");
-        QCOMPARE(child<QLabel>(dialog, "lblSuccess")->text(),
+        QCOMPARE(find<QLabel>(dialog, "lblSuccess")->text(),
                  QStringLiteral("Successfully imported '%1' to %2\n").arg(path, kind) + outcome);
         QCOMPARE(name, QStringLiteral("box.v2"));
-        auto *list = child<QListWidget>(dialog, "listSuccess");
+        auto *list = find<QListWidget>(dialog, "listSuccess");
         QVERIFY(list->count() > 0);
         click(dialog, "btnSuccessCopy");
         QCOMPARE(QApplication::clipboard()->text().count(QLatin1Char('\n')), list->count() - 1);
@@ -334,9 +327,8 @@ void tst_ImportDialog::texturesInTheirPlace()
     type(dialog, "txtTexPath", QFileInfo(m_source->path()).fileName());
     click(dialog, "btnImport");
     QTRY_COMPARE_WITH_TIMEOUT(page(dialog), QStringLiteral("pageSuccess"), 20000);
-    QVERIFY(child<QLabel>(dialog, "lblSuccess")
-                ->text()
-                .endsWith(QLatin1String("Successfully copied textures\n")));
+    QVERIFY(
+        find<QLabel>(dialog, "lblSuccess")->text().endsWith(QLatin1String("Successfully copied textures\n")));
     QCOMPARE(TestSupport::readFile(m_source->filePath(QStringLiteral("steel.png"))), QByteArray("picture"));
 }
 
@@ -400,8 +392,8 @@ void tst_ImportDialog::errorsLeadBack()
     QSignalSpy imported(&dialog, &ImportDialog::staticMeshImported);
     click(dialog, "btnImport");
     QTRY_COMPARE_WITH_TIMEOUT(page(dialog), QStringLiteral("pageError"), 20000);
-    QCOMPARE(child<QLabel>(dialog, "lblError")->text(), QStringLiteral("Error importing '%1'").arg(broken));
-    auto *list = child<QListWidget>(dialog, "listError");
+    QCOMPARE(find<QLabel>(dialog, "lblError")->text(), QStringLiteral("Error importing '%1'").arg(broken));
+    auto *list = find<QListWidget>(dialog, "listError");
     QCOMPARE(list->count(), 1);
     QCOMPARE(list->item(0)->data(Qt::UserRole).toInt(), int(LogSeverity::Error));
     QTest::keyClick(list, Qt::Key_C, Qt::ControlModifier);
@@ -414,8 +406,8 @@ void tst_ImportDialog::errorsLeadBack()
     click(dialog, "btnImport");
     QTRY_COMPARE_WITH_TIMEOUT(page(dialog), QStringLiteral("pageSuccess"), 20000);
     QCOMPARE(imported.count(), 1);
-    for (int row = 0; row < child<QListWidget>(dialog, "listSuccess")->count(); ++row)
-        QVERIFY(!child<QListWidget>(dialog, "listSuccess")->item(row)->text().contains(broken));
+    for (int row = 0; row < find<QListWidget>(dialog, "listSuccess")->count(); ++row)
+        QVERIFY(!find<QListWidget>(dialog, "listSuccess")->item(row)->text().contains(broken));
     // The model is in its tab by now: leaving by Escape is no refusal.
     QTest::keyClick(&dialog, Qt::Key_Escape);
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
@@ -434,7 +426,7 @@ void tst_ImportDialog::givingUp()
     for (const bool byKey : {false, true}) {
         click(dialog, "btnImport");
         QCOMPARE(page(dialog), QStringLiteral("pageProgress"));
-        auto *elapsed = child<QLabel>(dialog, "lblElapsed");
+        auto *elapsed = find<QLabel>(dialog, "lblElapsed");
         const QString first = elapsed->text();
         QTRY_VERIFY(elapsed->text() != first);
         QVERIFY(elapsed->text().endsWith(QLatin1String(" s of at most 60 s")));

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "DocumentKind.h"
+#include "Find.h"
 #include "Hand.h"
 #include "KVTreeView.h"
 #include "MainWindow.h"
@@ -48,14 +49,6 @@ private:
     {
         const QString path = m_files->filePath(name);
         return model.write(path) ? QString() : path;
-    }
-    template <typename Widget>
-    static Widget *find(const QWidget &window, const char *name)
-    {
-        auto *widget = window.findChild<Widget *>(QString::fromLatin1(name));
-        if (!widget)
-            qFatal("no %s", name);
-        return widget;
     }
     static void trigger(const MainWindow &window, const char *action)
     {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "DocumentKind.h"
+#include "Find.h"
 #include "Hand.h"
 #include "KVOpenGLWidget.h"
 #include "KVTreeView.h"
@@ -62,14 +63,6 @@ private:
     {
         Settings::GamePath.setValue(game);
         Settings::OutputDir.setValue(mod);
-    }
-    template <typename Widget>
-    static Widget *find(MainWindow &window, const char *name)
-    {
-        auto *widget = window.findChild<Widget *>(QString::fromLatin1(name));
-        if (!widget)
-            qFatal("no %s", name);
-        return widget;
     }
     static void select(MainWindow &window, const char *tree, const RecordRef &record)
     {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Session.h"
 
+#include "Find.h"
 #include "Hand.h"
 #include "KVOpenGLWidget.h"
 #include "KVTreeView.h"
@@ -36,14 +37,6 @@ private slots:
     void anySessionMayBeStored();
 
 private:
-    template <typename Widget>
-    static Widget *find(const MainWindow &window, const char *name)
-    {
-        auto *found = window.findChild<Widget *>(QLatin1String(name));
-        if (!found)
-            qFatal("%s is missing", name);
-        return found;
-    }
     static QString root(const MainWindow &window, const char *tree)
     {
         const QTreeWidgetItem *item = find<KVTreeView>(window, tree)->topLevelItem(0);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Shortcuts.h"
 
+#include "Find.h"
 #include "Hand.h"
 #include "KVTreeView.h"
 #include "MainWindow.h"
@@ -41,14 +42,6 @@ private slots:
     void theListOfKeysFollows();
 
 private:
-    template <typename Widget>
-    static Widget *find(const QWidget &window, const char *name)
-    {
-        auto *found = window.findChild<Widget *>(QLatin1String(name));
-        if (!found)
-            qFatal("%s is missing", name);
-        return found;
-    }
     static int indexOf(const Shortcuts &shortcuts, const char *id)
     {
         for (int i = 0; i < shortcuts.commands().size(); ++i) {

@@ -93,12 +93,6 @@ private slots:
     void everythingThatIsShownWasLookedUp();
 
 private:
-    static void report(const QStringList &faults)
-    {
-        for (const QString &fault : faults)
-            qWarning("%s", qPrintable(fault));
-    }
-
     QTemporaryDir m_home;
     QVector<Message> m_messages;
     Listener m_listener;

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "Find.h"
 #include "Hand.h"
 #include "KVOpenGLWidget.h"
 #include "KVTreeView.h"
@@ -39,14 +40,6 @@ private slots:
     void picturesThatCannotBeSaved();
 
 private:
-    template <typename Widget>
-    static Widget *find(const MainWindow &window, const char *name)
-    {
-        auto *found = window.findChild<Widget *>(QLatin1String(name));
-        if (!found)
-            qFatal("%s is missing", name);
-        return found;
-    }
     /// A window that shows the man with its skinned view in front, posed.
     std::unique_ptr<MainWindow> open(const QStringList &more = {});
     static void select(const MainWindow &window, const char *tree, const QVector<RecordRef> &records)

@@ -3,6 +3,7 @@
 #include "DocumentFiles.h"
 
 #include "Log.h"
+#include "SavePath.h"
 
 #include <QApplication>
 #include <QDir>
@@ -67,19 +68,10 @@ bool DocumentFiles::saveAs(DocumentType type)
         return true;
     finishTyping();
     const DocumentKind &kind = documentKind(type);
-    QFileDialog dialog(m_window, kind.saveTitle, startFolder(kind, kind.savePath), kind.filter);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    // The explorers list files by their extension; the dialog asks before it replaces the completed name.
-    dialog.setDefaultSuffix(kind.extension);
-    dialog.selectFile(document(type)->fileName());
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+    const QString path = chooseSavePath(m_window, kind.saveTitle, startFolder(kind, kind.savePath),
+                                        kind.filter, kind.extension, document(type)->fileName());
+    if (path.isEmpty())
         return true;
-    QString path = dialog.selectedFiles().first();
-    const QString suffix = QLatin1Char('.') + kind.extension;
-    // The dialog completes a name without a dot, and asks before it replaces a file. A name like "knight.v2"
-    // is completed here; it must not replace anything unasked.
-    if (!path.endsWith(suffix, Qt::CaseInsensitive) && !QFileInfo::exists(path + suffix))
-        path += suffix;
     kind.savePath.setValue(QFileInfo(path).absolutePath());
     return saveTo(type, path);
 }

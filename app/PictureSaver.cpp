@@ -6,11 +6,11 @@
 #include "KVOpenGLWidget.h"
 #include "Log.h"
 #include "PictureDialog.h"
+#include "SavePath.h"
 #include "Settings.h"
 
 #include <QAction>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QImageWriter>
@@ -25,8 +25,7 @@ PictureSaver::PictureSaver(QWidget *window)
     m_action->setObjectName(QStringLiteral("actionSavePicture"));
     m_action->setShortcut(Qt::Key_F12);
     m_action->setStatusTip(tr("Save what the view shows as a picture"));
-    m_action->setToolTip(
-        tr("%1 (%2)").arg(m_action->statusTip(), m_action->shortcut().toString(QKeySequence::NativeText)));
+    m_action->setToolTip(m_action->statusTip());
     m_action->setEnabled(false);
     connect(m_action, &QAction::triggered, this, &PictureSaver::on_actionSavePicture_triggered);
 }
@@ -47,19 +46,11 @@ void PictureSaver::on_actionSavePicture_triggered()
     PictureDialog dialog(m_viewport->size() * m_viewport->devicePixelRatioF(), m_window);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    QFileDialog files(m_window, tr("Save Picture"), Settings::PicturePath.value(),
-                      tr("PNG pictures (*.png)"));
-    files.setAcceptMode(QFileDialog::AcceptSave);
-    files.setDefaultSuffix(QStringLiteral("png"));
-    files.selectFile(QFileInfo(m_name).completeBaseName() + QStringLiteral(".png"));
-    if (files.exec() != QDialog::Accepted || files.selectedFiles().isEmpty())
+    const QString path = chooseSavePath(m_window, tr("Save Picture"), Settings::PicturePath.value(),
+                                        tr("PNG pictures (*.png)"), QStringLiteral("png"),
+                                        QFileInfo(m_name).completeBaseName() + QStringLiteral(".png"));
+    if (path.isEmpty())
         return;
-    QString path = files.selectedFiles().first();
-    // The dialog completes only names without a dot, and asks before it replaces a file; "knight.v2" is
-    // completed here, and must not replace anything unasked.
-    const QString suffix = QStringLiteral(".png");
-    if (!path.endsWith(suffix, Qt::CaseInsensitive) && !QFileInfo::exists(path + suffix))
-        path += suffix;
     Settings::PicturePath.setValue(QFileInfo(path).absolutePath());
     save(path, dialog.pictureSize(), dialog.isTransparent());
 }

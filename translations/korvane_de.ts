@@ -3418,10 +3418,6 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
         <translation>Speichern, was die Ansicht zeigt, als Bild</translation>
     </message>
     <message>
-        <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
-    </message>
-    <message>
         <source>Save Picture</source>
         <translation>Bild speichern</translation>
     </message>

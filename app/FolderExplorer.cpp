@@ -111,13 +111,14 @@ FolderExplorer::FolderExplorer(const DocumentKind &kind, QWidget *parent)
     m_toolBar->addAction(m_refresh);
     m_toolBar->addAction(m_quickSelect);
 
-    m_pages->addWidget(m_tree);
-    m_pages->addWidget(m_emptyPage);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
     layout->addWidget(m_toolBar);
     layout->addLayout(m_pages);
+    // Only now: a stack shows its first page, and one that is in no window would become a window.
+    m_pages->addWidget(m_tree);
+    m_pages->addWidget(m_emptyPage);
 
     connect(m_tree, &QTreeWidget::itemSelectionChanged, this, &FolderExplorer::OnItemSelectionChanged);
     connect(m_tree, &QTreeWidget::itemDoubleClicked, this, &FolderExplorer::OnItemDoubleClicked);

@@ -84,6 +84,8 @@ MainWindow::MainWindow(QWidget *parent)
     showHistory(*m_ui->viewHistory, m_undoGroup, m_ui->actionSave->icon());
     connectPlayback();
     m_shortcuts = new Shortcuts(*m_ui->menuBar, {m_ui->viewSkinned, m_ui->viewStatic}, this);
+    embedViewport(m_ui->viewSkinned, m_ui->vlviewSkinned);
+    embedViewport(m_ui->viewStatic, m_ui->vlviewStatic);
     setDefaultLayout(*this);
     m_defaultLayout = saveState();
     auto *geometry = new WindowGeometry(this);
@@ -235,8 +237,6 @@ void MainWindow::createViewToolBars()
     auto *rigid = new ViewToolBar(tr("Static Mesh View"), actions, m_ui->viewStaticPanel);
     m_ui->vlviewSkinned->insertWidget(0, skinned);
     m_ui->vlviewStatic->insertWidget(0, rigid);
-    showViewportFailure(m_ui->viewSkinned, m_ui->vlviewSkinned);
-    showViewportFailure(m_ui->viewStatic, m_ui->vlviewStatic);
     new ViewPreferences({skinned, rigid}, viewports(), actions, this);
     for (KVOpenGLWidget *viewport : viewports()) {
         connect(viewport, &KVOpenGLWidget::positionReadOut, this, &MainWindow::showReadOut);

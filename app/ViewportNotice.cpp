@@ -7,7 +7,7 @@
 #include <QBoxLayout>
 #include <QLabel>
 
-void showViewportFailure(KVOpenGLWidget *viewport, QBoxLayout *layout)
+void embedViewport(KVOpenGLWidget *viewport, QBoxLayout *layout)
 {
     auto *notice = new QLabel;
     notice->setObjectName(QStringLiteral("lblViewportFailure"));
@@ -17,11 +17,9 @@ void showViewportFailure(KVOpenGLWidget *viewport, QBoxLayout *layout)
     notice->setTextInteractionFlags(Qt::TextSelectableByMouse);
     notice->hide();
     layout->insertWidget(layout->indexOf(viewport) + 1, notice, 1);
-    const auto show = [viewport, notice] {
+    QObject::connect(viewport, &KVOpenGLWidget::failed, notice, [viewport, notice] {
         notice->setText(viewport->failure());
         notice->show();
-    };
-    QObject::connect(viewport, &KVOpenGLWidget::failed, notice, show);
-    if (!viewport->failure().isEmpty())
-        show();
+    });
+    viewport->embed();
 }

@@ -5,5 +5,5 @@
 class KVOpenGLWidget;
 class QBoxLayout;
 
-/// Says why a viewport shows nothing, in its place in `layout`, as soon as it cannot draw.
-void showViewportFailure(KVOpenGLWidget *viewport, QBoxLayout *layout);
+/// Gives a viewport its place in `layout`. As soon as it cannot draw, a notice there says why instead.
+void embedViewport(KVOpenGLWidget *viewport, QBoxLayout *layout);

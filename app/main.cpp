@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "GraphicsProbe.h"
 #include "Language.h"
 #include "Look.h"
 #include "MainWindow.h"
@@ -17,7 +18,16 @@ int main(int argc, char *argv[])
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    // Without a version the driver gives what it has; the core profile is asked for all the same.
+    QSurfaceFormat format;
+    format.setDepthBufferSize(24);
+    format.setProfile(QSurfaceFormat::CoreProfile);
+    // So that a reset of the graphics driver can be noticed and survived.
+    format.setOption(QSurfaceFormat::ResetNotification);
+    QSurfaceFormat::setDefaultFormat(format);
+
     const QApplication application(argc, argv);
+    GraphicsProbe::start();
     QCoreApplication::setApplicationName(QStringLiteral("Korvane"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
     QCoreApplication::setOrganizationName(QStringLiteral("Korvane"));
@@ -27,14 +37,6 @@ int main(int argc, char *argv[])
     Language::install(Language::resolve(Settings::UiLanguage.value()));
     qDebug() << QCoreApplication::libraryPaths();
     QLoggingCategory::setFilterRules(QStringLiteral("qt.network.ssl.warning=false"));
-
-    // Without a version the driver gives what it has; the core profile is asked for all the same.
-    QSurfaceFormat format;
-    format.setDepthBufferSize(24);
-    format.setProfile(QSurfaceFormat::CoreProfile);
-    // So that a reset of the graphics driver can be noticed and survived.
-    format.setOption(QSurfaceFormat::ResetNotification);
-    QSurfaceFormat::setDefaultFormat(format);
 
     // The desktop hands over files to open; there are no options.
     const QStringList files = QCoreApplication::arguments().mid(1);

@@ -3,6 +3,7 @@
 #include "KVOpenGLWidget.h"
 
 #include "CrashReport.h"
+#include "GraphicsProbe.h"
 #include "Log.h"
 #include "Settings.h"
 #include "SkinnedMesh.h"
@@ -26,15 +27,10 @@ constexpr float ReadOutInterval = 0.1f; // seconds
 constexpr int MostLosses = 3;
 constexpr int LossesInterval = 10000; // milliseconds
 
-bool canDraw()
-{
-    static const bool can = QOpenGLContext().create();
-    return can;
-}
 } // namespace
 
 KVOpenGLWidget::KVOpenGLWidget(QWidget *parent)
-    : QOpenGLWidget(parent, canDraw() ? Qt::WindowFlags() : Qt::Window)
+    : QOpenGLWidget(parent, Qt::Window)
     , m_background(Settings::BGColor.value())
     , m_moveSpeed(Settings::MouseSpeed.value())
     , m_backCull(Settings::BackCull.value())
@@ -50,10 +46,17 @@ KVOpenGLWidget::KVOpenGLWidget(QWidget *parent)
     setOrbitMode(Settings::OrbitMode.value());
     setFocusPolicy(Qt::StrongFocus);
     m_clock.start();
-    if (!canDraw())
-        m_failure =
-            tr("Models cannot be drawn: the system offers no OpenGL.\n"
-               "Look for a driver of the graphics card, or install a software renderer such as Mesa.");
+}
+
+void KVOpenGLWidget::embed()
+{
+    if (!GraphicsProbe::hasOpenGL()) {
+        fail(tr("Models cannot be drawn: the system offers no OpenGL.\n"
+                "Look for a driver of the graphics card, or install a software renderer such as Mesa."));
+        return;
+    }
+    setWindowFlags(Qt::Widget);
+    show();
 }
 
 KVOpenGLWidget::~KVOpenGLWidget()

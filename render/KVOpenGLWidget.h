@@ -30,10 +30,14 @@ class KVOpenGLWidget : public QOpenGLWidget, protected QOpenGLExtraFunctions
     Q_OBJECT
 
 public:
-    /// Where there is no OpenGL the view takes part in no layout and is never shown: a window with a view
-    /// that cannot draw stays black all over.
+    /// A view made inside another widget is in no layout and never shown before embed().
     explicit KVOpenGLWidget(QWidget *parent = nullptr);
     ~KVOpenGLWidget() override;
+
+    /// Takes the view's place in its parent, or fails where there is no OpenGL: a window with a view in it that
+    /// cannot draw would stay black all over. Waits for the driver, so it is for the end of a window's
+    /// construction.
+    void embed();
 
     /// Why the view shows nothing, for the user; empty while nothing is wrong.
     const QString &failure() const { return m_failure; }

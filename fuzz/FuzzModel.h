@@ -9,6 +9,7 @@
 namespace Fuzz {
 /// Reads `data` as a file of the model's kind and checks that
 /// - the result and the message are those of the literal reading,
+/// - the draft of what was read can be read,
 /// - what was read is written, unless the model refuses, and reads back to the same bytes,
 /// - a file that could be whole (no bytes behind its end, no negative counts) is written as it was.
 template <typename Model>
@@ -23,6 +24,12 @@ void checkModelFile(const QString &suffix, const uint8_t *data, size_t size)
     require(reader.errorText() == literal.errorText(), "the message of the literal reading");
     if (failed)
         return;
+
+    BinaryFileWriter draftWriter;
+    model.writeDraft(draftWriter);
+    const std::vector<uchar> &draft = draftWriter.bytes();
+    BinaryFileReader draftReader(draft.data(), qint64(draft.size()));
+    require(!Model().read(draftReader), "a draft can be read");
 
     const QByteArray written = SampleModels::bytesOf(model);
     if (written.isEmpty())

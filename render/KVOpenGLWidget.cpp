@@ -91,7 +91,7 @@ void KVOpenGLWidget::initializeGL()
 
 void KVOpenGLWidget::fail(const QString &reason)
 {
-    close();
+    hide();
     if (!m_failure.isEmpty())
         return;
     m_failure = reason;

@@ -111,7 +111,7 @@ signals:
     /// with it, is lost along with it: whoever owns the window has to make the native one anew, with a
     /// renewContext() of every view in it while there is none.
     void contextLost();
-    /// The view cannot draw, see failure(), and has closed.
+    /// The view cannot draw, see failure(), and has hidden itself.
     void failed();
     // What a click has hit.
     void surfacePicked(int surface);

@@ -16,6 +16,11 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <functional>
+
+namespace {
+const QString Arrow = QStringLiteral(" ▸ ");
+} // namespace
 
 CommandPalette::CommandPalette(const QMenuBar &menus, const QList<QAction *> &treeActions, QWidget *parent)
     : QDialog(parent)
@@ -39,7 +44,7 @@ CommandPalette::CommandPalette(const QMenuBar &menus, const QList<QAction *> &tr
     resize(fontMetrics().averageCharWidth() * 72, fontMetrics().height() * 22);
 
     collect(menus.actions(), {});
-    collect(treeActions, tr("Tree") + QStringLiteral(" ▸ "));
+    collect(treeActions, tr("Tree") + Arrow);
     connect(m_line, &QLineEdit::textChanged, this, &CommandPalette::fill);
     connect(m_list, &QListWidget::itemActivated, this, &CommandPalette::accept);
     fill();
@@ -54,9 +59,14 @@ void CommandPalette::add(const QVector<ShortcutCommand> &commands)
                            [](const QWidget *widget) { return widget->isVisible(); });
     };
     for (const ShortcutCommand &command : commands) {
-        for (QAction *action : command.actions) {
-            if (isInSight(action))
-                list(action, command.group + QStringLiteral(" ▸ ") + command.name);
+        QList<QAction *> actions = command.actions;
+        actions.erase(std::remove_if(actions.begin(), actions.end(), std::not_fn(isInSight)), actions.end());
+        for (QAction *action : qAsConst(actions)) {
+            QStringList name{command.group, command.name};
+            // Several panels may have it: which one?
+            if (actions.size() > 1)
+                name.insert(1, action->parentWidget()->accessibleName());
+            list(action, name.join(Arrow));
         }
     }
     fill();
@@ -79,7 +89,7 @@ void CommandPalette::collect(const QList<QAction *> &actions, const QString &pat
         if (action->menu()) {
             // Some are filled only then.
             emit action->menu()->aboutToShow();
-            collect(action->menu()->actions(), name + QStringLiteral(" ▸ "));
+            collect(action->menu()->actions(), name + Arrow);
         } else {
             list(action, name);
         }

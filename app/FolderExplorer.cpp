@@ -88,6 +88,7 @@ FolderExplorer::FolderExplorer(const DocumentKind &kind, QWidget *parent)
     const QString prefix = QLatin1String(namesOf(kind.type).prefix);
     setObjectName(QStringLiteral("explorer") + prefix);
     m_tree->setObjectName(QStringLiteral("tree%1Folder").arg(prefix));
+    setAccessibleName(m_kind.label);
     m_tree->setAccessibleName(m_kind.folderTitle);
     m_tree->setUniformRowHeights(true);
     m_tree->setColumnCount(1);

@@ -34,8 +34,8 @@ public:
     explicit KVOpenGLWidget(QWidget *parent = nullptr);
     ~KVOpenGLWidget() override;
 
-    /// Takes the view's place in its parent, or fails where there is no OpenGL: a window with a view in it that
-    /// cannot draw would stay black all over. Waits for the driver, so it is for the end of a window's
+    /// Takes the view's place in its parent, or fails where there is no OpenGL: a window with a view in it
+    /// that cannot draw would stay black all over. Waits for the driver, so it is for the end of a window's
     /// construction.
     void embed();
 

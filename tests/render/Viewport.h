@@ -4,6 +4,7 @@
 
 #include "KVOpenGLWidget.h"
 #include "Log.h"
+#include "Playback.h"
 #include "Settings.h"
 #include "SkinnedMesh.h"
 #include "StaticMesh.h"
@@ -13,6 +14,21 @@
 #include <QSurfaceFormat>
 
 #include <cstdlib>
+#include <memory>
+
+/// A square of 400 by 400 in the middle of the start view, facing the camera, two surfaces of one triangle.
+inline StaticMesh facingSquare(const QString &material)
+{
+    const auto corner = [](float x, float z) {
+        // As files have it: v counts from the bottom row.
+        return StaticMeshVertex{{x, 0.0f, z + 300.0f}, {(x + 200.0f) / 400.0f, (z + 200.0f) / 400.0f}, {}};
+    };
+    StaticMesh square;
+    square.vertices = {corner(-200.0f, -200.0f), corner(-200.0f, 200.0f), corner(200.0f, 200.0f),
+                       corner(200.0f, -200.0f)};
+    square.surfaces = {{material, {0, 1, 2}}, {material, {0, 2, 3}}};
+    return square;
+}
 
 /// A viewport that counts its frames.
 class Viewport : public KVOpenGLWidget
@@ -27,6 +43,7 @@ public:
     }
 
     int frames = 0;
+    StaticMesh square; ///< shown by openSquare()
 
     /// Shows the view in front and waits for its first frame.
     void open()
@@ -38,6 +55,23 @@ public:
         setFocus();
         QTRY_VERIFY(frames > 0);
         QVERIFY(isValid());
+    }
+
+    void openSquare(const QString &material = QStringLiteral("_white"))
+    {
+        square = facingSquare(material);
+        setBackCull(true);
+        setStaticMesh(&square);
+        open();
+    }
+
+    /// Shows a mesh in the pose of an animation.
+    void showSkinned(const SkinnedMesh &mesh, const AnimFile &anim)
+    {
+        playback().mesh = &mesh;
+        playback().anim = &anim;
+        setSkinnedMeshMode(true);
+        setSkinnedMesh(&mesh);
     }
 
     QColor pixel(int x, int y) { return grabFramebuffer().pixelColor(x, y); }
@@ -71,24 +105,15 @@ inline bool isColor(const QColor &color, int red, int green, int blue)
            std::abs(color.blue() - blue) <= Near;
 }
 
+inline bool isWhite(const QColor &color)
+{
+    return isColor(color, 255, 255, 255);
+}
+
 /// That of a Viewport.
 inline bool isBackground(const QColor &color)
 {
     return isColor(color, 10, 200, 30);
-}
-
-/// A square of 400 by 400 in the middle of the start view, facing the camera, two surfaces of one triangle.
-inline StaticMesh facingSquare(const QString &material)
-{
-    const auto corner = [](float x, float z) {
-        // As files have it: v counts from the bottom row.
-        return StaticMeshVertex{{x, 0.0f, z + 300.0f}, {(x + 200.0f) / 400.0f, (z + 200.0f) / 400.0f}, {}};
-    };
-    StaticMesh square;
-    square.vertices = {corner(-200.0f, -200.0f), corner(-200.0f, 200.0f), corner(200.0f, 200.0f),
-                       corner(200.0f, -200.0f)};
-    square.surfaces = {{material, {0, 1, 2}}, {material, {0, 2, 3}}};
-    return square;
 }
 
 /// A row for each context that a test is to run in.
@@ -99,13 +124,16 @@ inline void addContexts()
     QTest::newRow("3.3 core") << true;
 }
 
-/// A context as the program sets it up, or forced to 3.3 core.
-inline void useSurfaceFormat(bool core33)
+/// A view with nothing that plays, its context as the program sets it up or forced to 3.3 core.
+template <typename View = Viewport>
+std::unique_ptr<View> makeView(bool core33 = false)
 {
+    playback() = {};
     QSurfaceFormat format;
     format.setDepthBufferSize(24);
     format.setProfile(QSurfaceFormat::CoreProfile);
     if (core33)
         format.setVersion(3, 3);
     QSurfaceFormat::setDefaultFormat(format);
+    return std::make_unique<View>();
 }

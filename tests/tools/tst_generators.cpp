@@ -4,8 +4,10 @@
 // What the generators make is committed: it must be what they make today, and it must be sound.
 #include "AnimFile.h"
 #include "Chime.h"
+#include "FrameChoice.h"
 #include "KMat.h"
 #include "MarkerSphere.h"
+#include "Pose.h"
 #include "ReferenceTexts.h"
 #include "Samples.h"
 #include "SkinnedMesh.h"
@@ -15,8 +17,6 @@
 
 #include <QDirIterator>
 #include <QImage>
-#include <QMatrix4x4>
-#include <QQuaternion>
 
 #include <set>
 
@@ -32,24 +32,19 @@ QString sample(const QString &path)
     return TestSupport::source(QStringLiteral("samples/") + path);
 }
 
-QStringList filesBelow(const QString &folder)
-{
-    QStringList files;
-    for (const char *room : {"game", "mod"}) {
-        QDirIterator walk(folder + '/' + room, QDir::Files, QDirIterator::Subdirectories);
-        while (walk.hasNext())
-            files.append(QDir(folder).relativeFilePath(walk.next()));
-    }
-    files.sort();
-    return files;
-}
-
 /// Names of all files that the tool's output folder and its committed copy do not have alike.
 QStringList differences(const QString &made, const QString &committed)
 {
+    std::set<QString> files;
+    for (const QString &folder : {made, committed}) {
+        for (const char *room : {"/game", "/mod"}) {
+            QDirIterator walk(folder + room, QDir::Files, QDirIterator::Subdirectories);
+            while (walk.hasNext())
+                files.insert(QDir(folder).relativeFilePath(walk.next()));
+        }
+    }
     QStringList names;
-    const QStringList files = filesBelow(made) + filesBelow(committed);
-    for (const QString &file : std::set<QString>(files.begin(), files.end())) {
+    for (const QString &file : files) {
         const QString a = made + '/' + file, b = committed + '/' + file;
         const bool same = file.endsWith(".png")
                               ? !QImage(a).isNull() && QImage(a) == QImage(b)
@@ -64,7 +59,6 @@ QStringList differences(const QString &made, const QString &committed)
 struct Corner
 {
     QVector3D position, normal;
-    QVector2D uv;
 };
 
 /// The part of triangles whose winding disagrees with the normals of their corners: clockwise seen from
@@ -88,53 +82,56 @@ double wronglyWound(const Surfaces &surfaces, const std::vector<Corner> &corners
     return double(wrong) / all;
 }
 
+/// The right side out, with normals of length 1, within a box that fits.
+template <typename Mesh>
+void checkShape(const Mesh &mesh, const std::vector<Corner> &corners)
+{
+    QVERIFY(wronglyWound(mesh.surfaces, corners) < 0.001);
+    QVector3D min = corners[0].position, max = min;
+    for (const Corner &corner : corners) {
+        QVERIFY(std::abs(corner.normal.length() - 1.0f) < 1e-3f);
+        for (int axis = 0; axis < 3; ++axis) {
+            min[axis] = std::min(min[axis], corner.position[axis]);
+            max[axis] = std::max(max[axis], corner.position[axis]);
+        }
+    }
+    QVERIFY((min - mesh.bbMin).length() < 0.01f && (max - mesh.bbMax).length() < 0.01f);
+}
+
 std::vector<Corner> cornersOf(const StaticMesh &mesh)
 {
     std::vector<Corner> corners;
     for (const StaticMeshVertex &vertex : mesh.vertices)
-        corners.push_back({vertex.position, vertex.normal, vertex.uv});
+        corners.push_back({vertex.position, vertex.normal});
     return corners;
 }
 
-/// Bone matrices of a block at a frame; -1 is the initial pose.
-std::vector<QMatrix4x4> boneMatrices(const SkinnedMesh &mesh, const AnimBlock &block, int frame)
+/// Where the bones stand at a frame of a block; -1 is the initial pose.
+BonePalette bonesAt(const SkinnedMesh &mesh, const AnimBlock &block, int frame)
 {
-    std::vector<QMatrix4x4> matrices(mesh.nodes.size());
-    for (size_t bone = 0; bone < mesh.nodes.size(); ++bone) {
-        const AnimNode &node = block.nodes[bone];
-        QVector3D position = node.initialPosition;
-        QVector4D rotation = node.initialRotation;
-        if (block.translations.contains(node.translationIndex, frame))
-            position = block.translations.at(node.translationIndex, frame);
-        if (block.rotations.contains(node.rotationIndex, frame))
-            rotation = block.rotations.at(node.rotationIndex, frame);
-        // The samples' parents come before their children.
-        if (bone > 0)
-            matrices[bone] = matrices[mesh.nodes[bone].parentNode];
-        matrices[bone].translate(position);
-        matrices[bone].rotate(QQuaternion(rotation));
+    BonePalette bones(mesh.nodes.size());
+    PoseEvaluator poses;
+    if (frame < 0) {
+        poses.evaluateInitialPose(bones, mesh, block);
+    } else {
+        Playback state;
+        state.playState = PlayState::Paused;
+        state.time = float(frame) / playRate(block.speed);
+        QQuaternion yaw;
+        poses.evaluateAnimatedPose(bones, mesh, block, state, yaw);
     }
-    return matrices;
+    return bones;
 }
 
-std::vector<Corner> posed(const SkinnedMesh &mesh, const std::vector<QMatrix4x4> &matrices)
+std::vector<Corner> posed(const SkinnedMesh &mesh, const AnimBlock &block, int frame)
 {
+    const BonePalette bones = bonesAt(mesh, block, frame);
     std::vector<Corner> corners;
     for (const SkinnedMeshVertex &vertex : mesh.vertices) {
-        const QMatrix4x4 &matrix = matrices.at(vertex.nodeIndex);
-        corners.push_back({matrix * vertex.position, matrix.mapVector(vertex.normal), vertex.uv});
+        const QMatrix4x4 &matrix = bones.at(vertex.nodeIndex);
+        corners.push_back({matrix * vertex.position, matrix.mapVector(vertex.normal)});
     }
     return corners;
-}
-
-float lowest(const std::vector<Corner> &corners, const SkinnedMesh &mesh, int boneOfFoot)
-{
-    float z = 1e9f;
-    for (size_t i = 0; i < corners.size(); ++i) {
-        if (mesh.vertices[i].nodeIndex == boneOfFoot)
-            z = std::min(z, corners[i].position.z());
-    }
-    return z;
 }
 } // namespace
 
@@ -169,14 +166,6 @@ private slots:
     {
         StaticMesh sphere;
         QVERIFY(!sphere.read(":/models/spherewire.staticmesh"));
-        QCOMPARE(TestSupport::readFile(":/models/spherewire.staticmesh").size(), 154607);
-        QCOMPARE(sphere.version, 2);
-        QCOMPARE(sphere.bbMin, QVector3D());
-        QCOMPARE(sphere.bbMax, QVector3D());
-        QCOMPARE(sphere.surfaces.size(), size_t(1));
-        QCOMPARE(sphere.surfaces[0].materialPath, QStringLiteral("_white"));
-        QCOMPARE(sphere.surfaces[0].triangleIndexes.size(), size_t(3 * 2208));
-        QCOMPARE(sphere.vertices.size(), size_t(4416));
         QCOMPARE(wronglyWound(sphere.surfaces, cornersOf(sphere)), 0.0);
         for (const StaticMeshVertex &vertex : sphere.vertices)
             QVERIFY(std::abs(vertex.position.length() - 1.0f) < 0.01f);
@@ -208,79 +197,35 @@ private slots:
         QTemporaryDir folder;
         QCOMPARE(makeSamples(folder.path()), QString());
         QCOMPARE(differences(folder.path(), TestSupport::source("samples")), QStringList());
+        QVERIFY(!makeSamples(QStringLiteral("/proc")).isEmpty());
     }
 
-    void unwritableFolderIsReported()
+    void modelsAreSound()
     {
-        QTemporaryDir folder;
-        QVERIFY(TestSupport::writeFile(folder.filePath("game"), "in the way"));
-        QVERIFY(!makeSamples(folder.path()).isEmpty());
-    }
-
-    void propsAreSound_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::newRow("crate") << QString(Crate);
-        QTest::newRow("lantern") << QString(Lantern);
-    }
-
-    void propsAreSound()
-    {
-        QFETCH(QString, path);
-        StaticMesh mesh;
-        QVERIFY(!mesh.read(sample(path)));
-        QVERIFY(wronglyWound(mesh.surfaces, cornersOf(mesh)) < 0.001);
-        for (const StaticMeshVertex &vertex : mesh.vertices) {
-            for (int axis = 0; axis < 3; ++axis)
-                QVERIFY(vertex.position[axis] >= mesh.bbMin[axis] &&
-                        vertex.position[axis] <= mesh.bbMax[axis]);
-            QVERIFY(vertex.uv.x() >= 0.0f && vertex.uv.x() <= 1.0f && vertex.uv.y() >= 0.0f &&
-                    vertex.uv.y() <= 1.0f);
+        for (const char *path : {Crate, Lantern}) {
+            StaticMesh mesh;
+            QVERIFY(!mesh.read(sample(path)));
+            checkShape(mesh, cornersOf(mesh));
+            for (const StaticMeshVertex &vertex : mesh.vertices)
+                QVERIFY(QRectF(0, 0, 1, 1).contains(vertex.uv.toPointF()));
         }
-    }
-
-    void tinkerStandsOnTheFloorAtRest()
-    {
-        QVERIFY(m_tinker.nodes.size() >= 20);
-        QVERIFY(!m_tinker.hotPoints.empty());
-        const std::vector<Corner> rest = posed(m_tinker, boneMatrices(m_tinker, m_animations.blocks[0], -1));
-        QVERIFY(wronglyWound(m_tinker.surfaces, rest) < 0.001);
-        QVector3D min = rest[0].position, max = min;
-        for (const Corner &corner : rest) {
-            QVERIFY(std::abs(corner.normal.length() - 1.0f) < 1e-3f);
-            for (int axis = 0; axis < 3; ++axis) {
-                min[axis] = std::min(min[axis], corner.position[axis]);
-                max[axis] = std::max(max[axis], corner.position[axis]);
-            }
-        }
-        QVERIFY((min - m_tinker.bbMin).length() < 0.01f && (max - m_tinker.bbMax).length() < 0.01f);
-        QVERIFY(std::abs(min.z()) < 0.1f);
-        QVERIFY(max.z() > 180.0f && max.z() < 220.0f);
+        checkShape(m_tinker, posed(m_tinker, m_animations.blocks[0], -1));
+        QVERIFY(std::abs(m_tinker.bbMin.z()) < 0.1f); // it stands on the floor
     }
 
     void blocksLoopAndStayOnTheFloor()
     {
-        QCOMPARE(m_animations.blocks.size(), size_t(5));
         for (const AnimBlock &block : m_animations.blocks) {
-            QCOMPARE(block.nodes.size(), m_tinker.nodes.size());
-            QVERIFY(block.loopFrame == 0 || block.loopFrame == 0xFFFF ||
-                    block.loopFrame == block.frameCount() - 1);
-            for (const AnimAction &action : block.actions)
-                QVERIFY(action.frame < block.frameCount() &&
-                        (action.node == 0xFFFF || action.node < block.nodes.size()));
             for (int frame = 0; frame < block.frameCount(); frame += 4) {
-                const std::vector<Corner> corners = posed(m_tinker, boneMatrices(m_tinker, block, frame));
-                for (const Corner &corner : corners)
-                    QVERIFY2(corner.position.z() > -3.0f, qPrintable(QStringLiteral("block %1 frame %2: %3")
-                                                                         .arg(block.animId)
-                                                                         .arg(frame)
-                                                                         .arg(double(corner.position.z()))));
+                for (const Corner &corner : posed(m_tinker, block, frame))
+                    QVERIFY2(corner.position.z() > -3.0f,
+                             qPrintable(QStringLiteral("block %1 frame %2").arg(block.animId).arg(frame)));
             }
             if (block.loopFrame != 0)
                 continue;
             // The last frame is the first again, but for the key, which looks the same after half a turn.
-            const std::vector<QMatrix4x4> first = boneMatrices(m_tinker, block, 0);
-            const std::vector<QMatrix4x4> last = boneMatrices(m_tinker, block, block.frameCount() - 1);
+            const BonePalette first = bonesAt(m_tinker, block, 0);
+            const BonePalette last = bonesAt(m_tinker, block, block.frameCount() - 1);
             for (size_t bone = 0; bone < first.size(); ++bone)
                 QVERIFY((first[bone].column(3) - last[bone].column(3)).length() < 0.01f);
         }
@@ -291,11 +236,17 @@ private slots:
         const AnimBlock &walk = m_animations.blocks[0];
         QCOMPARE(walk.actions.size(), size_t(2));
         for (const AnimAction &step : walk.actions) {
-            const int before = (step.frame + walk.frameCount() - 3) % (walk.frameCount() - 1);
             const auto height = [&](int frame) {
-                return lowest(posed(m_tinker, boneMatrices(m_tinker, walk, frame)), m_tinker, step.node);
+                const std::vector<Corner> corners = posed(m_tinker, walk, frame);
+                float lowest = 1e9f;
+                for (size_t i = 0; i < corners.size(); ++i) {
+                    if (m_tinker.vertices[i].nodeIndex == step.node)
+                        lowest = std::min(lowest, corners[i].position.z());
+                }
+                return lowest;
             };
             QVERIFY(height(step.frame) < 0.6f);
+            const int before = (step.frame + walk.frameCount() - 3) % (walk.frameCount() - 1);
             QVERIFY(height(before) > height(step.frame) + 0.5f);
         }
     }

@@ -16,31 +16,20 @@ namespace {
 constexpr int MostWidgets = 4000;
 constexpr int MostWindows = 60;
 
-template <typename T>
-void put(const SettingKey<T> &key, T value)
-{
-    if (key.value() != value)
-        key.setValue(value);
-}
-
 /// The first difference of two branches; empty when there is none.
 QString difference(const QTreeWidgetItem *shown, const QTreeWidgetItem *fresh)
 {
-    const auto *item = static_cast<const RecordItem *>(shown);
-    const auto *other = static_cast<const RecordItem *>(fresh);
-    if (item->record() != other->record())
-        return QStringLiteral("'%1' stands for another record than '%2'").arg(shown->text(0), fresh->text(0));
-    if (shown->text(0) != fresh->text(0))
-        return QStringLiteral("'%1' should be '%2'").arg(shown->text(0), fresh->text(0));
-    if (shown->childCount() != fresh->childCount())
-        return QStringLiteral("'%1' has %2 items instead of %3")
-            .arg(shown->text(0), QString::number(shown->childCount()), QString::number(fresh->childCount()));
-    for (int i = 0; i < shown->childCount(); ++i) {
-        const QString below = difference(shown->child(i), fresh->child(i));
-        if (!below.isEmpty())
-            return below;
-    }
-    return {};
+    const auto whole = [](const QTreeWidgetItem *item) {
+        return QStringLiteral("'%1' with %2 items").arg(item->text(0)).arg(item->childCount());
+    };
+    if (static_cast<const RecordItem *>(shown)->record() != static_cast<const RecordItem *>(fresh)->record())
+        return QStringLiteral("%1 stands for another record than %2").arg(whole(shown), whole(fresh));
+    if (whole(shown) != whole(fresh))
+        return QStringLiteral("%1 should be %2").arg(whole(shown), whole(fresh));
+    QString below;
+    for (int i = 0; i < shown->childCount() && below.isEmpty(); ++i)
+        below = difference(shown->child(i), fresh->child(i));
+    return below;
 }
 
 bool hasMeshData(const KVTreeView &tree)
@@ -60,11 +49,12 @@ Checks::Checks(MainWindow &window)
     for (const DocumentKind &kind : documentKinds()) {
         Document *each = &document(kind.type);
         Track &track = m_tracks[size_t(kind.type)];
-        connect(each, &Document::replaced, this, [each, &track] {
-            track.opened = bytesOf(*each);
-            track.kept = track.opened;
+        const auto begin = [each, &track] {
+            track.opened = track.kept = bytesOf(*each);
             track.direct = false;
-        });
+        };
+        begin();
+        connect(each, &Document::replaced, this, begin);
         connect(each, &Document::saved, this, [each, &track] { track.kept = bytesOf(*each); });
         connect(each, &Document::structuresChanged, this, [&track](const QVector<StructureChange> &changes) {
             for (const StructureChange &change : changes)
@@ -93,15 +83,23 @@ KVTreeView *Checks::tree(DocumentType type) const
 QStringList Checks::findings() const
 {
     QStringList found;
+    QStringList titles{QStringLiteral("Korvane")};
     for (const DocumentKind &kind : documentKinds()) {
         checkTree(kind.type, found);
         const Document &each = document(kind.type);
         const Track &track = m_tracks[size_t(kind.type)];
         if (each.isOpen() && !each.differsFromFile() && !track.direct && bytesOf(each) != track.kept)
             found += QStringLiteral("%1 counts as saved and is something else").arg(kind.label);
+        if (each.isOpen())
+            titles += QStringLiteral("Korvane - ") + each.fileName() +
+                      QLatin1String(each.isModified() ? " * " : "");
     }
-    checkTitle(found);
-    checkWidgets(found);
+    if (!titles.contains(m_window.windowTitle()))
+        found += QStringLiteral("the title is '%1'").arg(m_window.windowTitle());
+    const int widgets = QApplication::allWidgets().size();
+    const int windows = QApplication::topLevelWidgets().size();
+    if (widgets > MostWidgets || windows > MostWindows)
+        found += QStringLiteral("there are %1 widgets, %2 of them windows").arg(widgets).arg(windows);
     if (QGuiApplication::overrideCursor())
         found += QStringLiteral("the waiting cursor was left");
     const auto &anim = static_cast<AnimDocument &>(document(DocumentType::Anim)).model();
@@ -117,11 +115,11 @@ void Checks::checkTree(DocumentType type, QStringList &found) const
         type == DocumentType::Anim ? Settings::HideAnimData : Settings::HideMeshData;
     // The tree is as the option was when it was built.
     const bool option = key.value();
-    put(key, !hasMeshData(shown));
+    key.setValue(!hasMeshData(shown));
     KVTreeView fresh;
     fresh.setDocument(&document(type));
     fresh.rebuild();
-    put(key, option);
+    key.setValue(option);
 
     QString wrong;
     if (shown.topLevelItemCount() != fresh.topLevelItemCount())
@@ -130,28 +128,6 @@ void Checks::checkTree(DocumentType type, QStringList &found) const
         wrong = difference(shown.topLevelItem(0), fresh.topLevelItem(0));
     if (!wrong.isEmpty())
         found += QStringLiteral("tree of the %1: %2").arg(documentKind(type).label, wrong);
-}
-
-void Checks::checkTitle(QStringList &found) const
-{
-    QStringList right{QStringLiteral("Korvane")};
-    for (const DocumentKind &kind : documentKinds()) {
-        const Document &each = document(kind.type);
-        if (each.isOpen())
-            right += QStringLiteral("Korvane - ") + each.fileName() +
-                     QLatin1String(each.isModified() ? " * " : "");
-    }
-    if (!right.contains(m_window.windowTitle()))
-        found += QStringLiteral("the title is '%1'").arg(m_window.windowTitle());
-}
-
-void Checks::checkWidgets(QStringList &found) const
-{
-    const int widgets = QApplication::allWidgets().size();
-    const int windows = QApplication::topLevelWidgets().size();
-    if (widgets > MostWidgets || windows > MostWindows)
-        found += QStringLiteral("there are %1 widgets, %2 of them windows")
-                     .arg(QString::number(widgets), QString::number(windows));
 }
 
 QStringList Checks::undoAndRedo(DocumentType type)

@@ -42,8 +42,6 @@ private:
     static QByteArray bytesOf(const Document &document);
     KVTreeView *tree(DocumentType type) const;
     void checkTree(DocumentType type, QStringList &found) const;
-    void checkTitle(QStringList &found) const;
-    void checkWidgets(QStringList &found) const;
 
     MainWindow &m_window;
     DocumentFiles *m_files;

@@ -12,11 +12,8 @@
 
 #include <pthread.h>
 
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer)
+#ifdef MONKEY_SANITIZED
 #include <sanitizer/common_interface_defs.h>
-#define MONKEY_SANITIZED
-#endif
 #endif
 
 namespace {

@@ -81,11 +81,8 @@ void Monkey::act()
     Dice dice(m_generator());
     QWidget *popup = QApplication::activePopupWidget();
     QWidget *modal = QApplication::activeModalWidget();
-    const bool isInFront = popup || modal;
-    for (auto it = m_patience.begin(); it != m_patience.end();) {
-        const bool isOpen = it->first == popup || it->first == modal;
-        it = isOpen || isInFront ? std::next(it) : m_patience.erase(it);
-    }
+    if (!popup && !modal)
+        m_patience.clear();
     if (auto *files = qobject_cast<QFileDialog *>(modal); files && !popup)
         answerFileDialog(files, dice);
     else if (popup)
@@ -148,9 +145,13 @@ void Monkey::check()
         tree->parentWidget()->findChild<FilterLine *>()->clear();
         tree->setFilter({});
     }
-    const QStringList found = m_checks->findings();
-    if (!found.isEmpty())
-        m_journal.fail(found.join(QStringLiteral("; ")));
+    failIfAny(m_checks->findings());
+}
+
+void Monkey::failIfAny(const QStringList &findings)
+{
+    if (!findings.isEmpty())
+        m_journal.fail(findings.join(QStringLiteral("; ")));
 }
 
 void Monkey::say(const QString &text)
@@ -214,44 +215,17 @@ void Monkey::actInDialog(QDialog *dialog, Dice &dice)
         import(dialog, dice);
         return;
     }
-    if (qobject_cast<QMessageBox *>(dialog) && dice.chance(80)) {
-        const auto buttons = Hands::usable<QAbstractButton>(dialog);
-        if (!buttons.isEmpty()) {
-            QAbstractButton *button = dice.pick(buttons);
-            say(QStringLiteral("answer '%1' with '%2'")
-                    .arg(m_playground.shortName(dialog->windowTitle()), button->text()));
-            Hands::click(button, button->rect().center(), Qt::LeftButton, Qt::NoModifier, false);
-            return;
-        }
-    }
-    const int kind = dice.below(100);
-    if (kind < 40)
-        click(dialog, dice);
-    else if (kind < 70)
-        edit(dialog, dice);
-    else if (kind < 85)
-        pressKey(dialog, dice);
-    else if (kind < 90)
-        drag(dialog, dice);
-    else if (kind < 94)
-        typeText(dialog, dice);
-    else if (kind < 97)
-        turnWheel(dialog, dice);
-    else
-        tamper(dice); // other programs do not wait
+    if (qobject_cast<QMessageBox *>(dialog) && dice.chance(80) && pressAnyButton(dialog, dice))
+        return;
+    useDialog(dialog, dice);
 }
 
 void Monkey::endDialog(QDialog *dialog, Dice &dice)
 {
-    const auto buttons = Hands::usable<QAbstractButton>(dialog);
-    if (!buttons.isEmpty() && dice.chance(60)) {
-        QAbstractButton *button = dice.pick(buttons);
-        say(QStringLiteral("press '%1' in %2").arg(button->text(), Hands::nameOf(dialog)));
-        button->click();
-    } else {
-        say(QStringLiteral("reject %1").arg(Hands::nameOf(dialog)));
-        dialog->reject();
-    }
+    if (dice.chance(60) && pressAnyButton(dialog, dice))
+        return;
+    say(QStringLiteral("reject %1").arg(Hands::nameOf(dialog)));
+    dialog->reject();
 }
 
 void Monkey::answerFileDialog(QFileDialog *dialog, Dice &dice)
@@ -266,15 +240,12 @@ void Monkey::answerFileDialog(QFileDialog *dialog, Dice &dice)
     QString path;
     if (dialog->fileMode() == QFileDialog::Directory) {
         path = m_playground.folder(dice);
-    } else if (dialog->acceptMode() == QFileDialog::AcceptOpen) {
-        path = m_playground.anyFile(dice);
-    } else if (dice.chance(40)) {
+    } else if (dialog->acceptMode() == QFileDialog::AcceptOpen || dice.chance(40)) {
         path = m_playground.anyFile(dice);
     } else {
-        static const QStringList names{QStringLiteral("new"), QStringLiteral("new.v2"),
-                                       QStringLiteral("b%1.skinnedmesh"), QStringLiteral("c.anim"),
-                                       QStringLiteral("materials/mat_new.kmat")};
-        path = m_playground.folder(dice) + QLatin1Char('/') + dice.pick(names);
+        const char *const names[] = {"/new", "/new.v2", "/b%1.skinnedmesh", "/c.anim",
+                                     "/materials/mat_new.kmat"};
+        path = m_playground.folder(dice) + QLatin1String(dice.pick(names));
     }
     say(QStringLiteral("file dialog '%1': %2").arg(dialog->windowTitle(), m_playground.shortName(path)));
     name->setText(path);

@@ -53,11 +53,13 @@ private:
     void openWindow(Dice &dice);
     void closeWindow();
     void check();
+    void failIfAny(const QStringList &findings);
 
     // One step each, in the window or in the dialog that is in front of it.
     void actInWindow(Dice &dice);
     void actInPopup(QWidget *popup, Dice &dice);
     void actInDialog(QDialog *dialog, Dice &dice);
+    void useDialog(QDialog *dialog, Dice &dice);
     void answerFileDialog(QFileDialog *dialog, Dice &dice);
     void endDialog(QDialog *dialog, Dice &dice);
 
@@ -74,6 +76,8 @@ private:
     void undoOrRedo(Dice &dice);
     void openFile(Dice &dice);
     void import(QDialog *dialog, Dice &dice);
+    /// False when there is none.
+    bool pressAnyButton(QWidget *arena, Dice &dice);
     void answerBar(Dice &dice);
     void tamper(Dice &dice);
     void resize(Dice &dice);

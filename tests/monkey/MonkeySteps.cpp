@@ -31,33 +31,23 @@ namespace {
 /// Longer than FileWatch lets a file rest, so that its bar comes before the next step.
 constexpr int FileRestsMs = 900;
 
-const QVector<int> &keys()
-{
-    static const QVector<int> all{
-        Qt::Key_Tab,      Qt::Key_Backtab,   Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space, Qt::Key_Delete,
-        Qt::Key_Insert,   Qt::Key_Backspace, Qt::Key_Left,   Qt::Key_Right,  Qt::Key_Up,    Qt::Key_Down,
-        Qt::Key_PageUp,   Qt::Key_PageDown,  Qt::Key_Home,   Qt::Key_End,    Qt::Key_F1,    Qt::Key_F2,
-        Qt::Key_F3,       Qt::Key_F4,        Qt::Key_F5,     Qt::Key_F10,    Qt::Key_F11,   Qt::Key_Menu,
-        Qt::Key_Asterisk, Qt::Key_Plus,      Qt::Key_Minus,  Qt::Key_W,      Qt::Key_A,     Qt::Key_S,
-        Qt::Key_D,        Qt::Key_Q,         Qt::Key_E,      Qt::Key_1,      Qt::Key_0};
-    return all;
-}
+constexpr Qt::Key Keys[] = {
+    Qt::Key_Tab,      Qt::Key_Backtab,   Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space, Qt::Key_Delete,
+    Qt::Key_Insert,   Qt::Key_Backspace, Qt::Key_Left,   Qt::Key_Right,  Qt::Key_Up,    Qt::Key_Down,
+    Qt::Key_PageUp,   Qt::Key_PageDown,  Qt::Key_Home,   Qt::Key_End,    Qt::Key_F1,    Qt::Key_F2,
+    Qt::Key_F3,       Qt::Key_F4,        Qt::Key_F5,     Qt::Key_F10,    Qt::Key_F11,   Qt::Key_Menu,
+    Qt::Key_Asterisk, Qt::Key_Plus,      Qt::Key_Minus,  Qt::Key_W,      Qt::Key_A,     Qt::Key_S,
+    Qt::Key_D,        Qt::Key_Q,         Qt::Key_E,      Qt::Key_1,      Qt::Key_0};
 
-const QVector<int> &controlKeys()
-{
-    static const QVector<int> all{Qt::Key_Z,    Qt::Key_Y,   Qt::Key_S,  Qt::Key_C,    Qt::Key_V,   Qt::Key_X,
-                                  Qt::Key_A,    Qt::Key_F,   Qt::Key_O,  Qt::Key_Home, Qt::Key_End, Qt::Key_R,
-                                  Qt::Key_Plus, Qt::Key_Tab, Qt::Key_Up, Qt::Key_Down, Qt::Key_I};
-    return all;
-}
+constexpr Qt::Key ControlKeys[] = {Qt::Key_Z,    Qt::Key_Y, Qt::Key_S,    Qt::Key_C,   Qt::Key_V,
+                                   Qt::Key_X,    Qt::Key_A, Qt::Key_F,    Qt::Key_O,   Qt::Key_Home,
+                                   Qt::Key_End,  Qt::Key_R, Qt::Key_Plus, Qt::Key_Tab, Qt::Key_Up,
+                                   Qt::Key_Down, Qt::Key_I};
 
 Qt::KeyboardModifiers anyModifiers(Dice &dice)
 {
-    const int kind = dice.below(10);
-    return kind == 0   ? Qt::ControlModifier
-           : kind == 1 ? Qt::ShiftModifier
-           : kind == 2 ? Qt::AltModifier
-                       : Qt::KeyboardModifiers(Qt::NoModifier);
+    constexpr Qt::KeyboardModifier some[] = {Qt::ControlModifier, Qt::ShiftModifier, Qt::AltModifier};
+    return dice.chance(30) ? dice.pick(some) : Qt::NoModifier;
 }
 
 /// Something that takes input, mostly.
@@ -74,39 +64,15 @@ QWidget *anyWidget(QWidget *arena, Dice &dice)
     }
     return chosen;
 }
-} // namespace
 
-void Monkey::actInWindow(Dice &dice)
+struct Way
 {
-    // Without a window manager nobody else gives the keys to a window.
-    if (!QApplication::activeWindow())
-        QApplication::setActiveWindow(m_window.get());
-    struct Way
-    {
-        int weight;
-        std::function<void()> go;
-    };
-    QWidget *window = m_window.get();
-    const std::vector<Way> ways{
-        {18, [&] { click(window, dice); }},
-        {5, [&] { drag(window, dice); }},
-        {4, [&] { turnWheel(window, dice); }},
-        {12, [&] { pressKey(window, dice); }},
-        {3, [&] { typeText(window, dice); }},
-        {16, [&] { edit(window, dice); }},
-        {12, [&] { selectItem(window, dice); }},
-        {4, [&] { switchTab(window, dice); }},
-        {7, [&] { triggerAction(dice); }},
-        {6, [&] { triggerTreeAction(dice); }},
-        {5, [&] { undoOrRedo(dice); }},
-        {4, [&] { openFile(dice); }},
-        {2, [&] { tamper(dice); }},
-        {2, [&] { resize(dice); }},
-        {1, [&] { moveDock(dice); }},
-        {3, [&] { playAndWait(dice); }},
-        {1, [&] { undoAll(dice); }},
-        {2, [&] { answerBar(dice); }},
-    };
+    int weight;
+    std::function<void()> go;
+};
+
+void takeOneOf(const std::vector<Way> &ways, Dice &dice)
+{
     int sum = 0;
     for (const Way &way : ways)
         sum += way.weight;
@@ -118,20 +84,93 @@ void Monkey::actInWindow(Dice &dice)
     }
 }
 
+/// Those that could be chosen in a menu now.
+QVector<QAction *> usableActions(const QList<QAction *> &actions)
+{
+    QVector<QAction *> usable;
+    for (QAction *each : actions) {
+        if (each->isEnabled() && each->isVisible() && !each->isSeparator() && !each->menu())
+            usable.append(each);
+    }
+    return usable;
+}
+
+template <typename... Kinds>
+bool isAnyOf(const QObject *object)
+{
+    return (qobject_cast<const Kinds *>(object) || ...);
+}
+
+/// How a click or a drag is made.
+struct Manner
+{
+    explicit Manner(Dice &dice)
+        : modifiers(anyModifiers(dice))
+    {
+        const int kind = dice.below(20);
+        button = kind < 14 ? Qt::LeftButton : kind < 18 ? Qt::RightButton : Qt::MiddleButton;
+    }
+    /// As the journal has it.
+    QString text() const
+    {
+        return QStringLiteral("button %1, modifiers %2")
+            .arg(QString::number(button), QString::number(int(modifiers), 16));
+    }
+
+    Qt::KeyboardModifiers modifiers;
+    Qt::MouseButton button;
+};
+} // namespace
+
+void Monkey::actInWindow(Dice &dice)
+{
+    // Without a window manager nobody else gives the keys to a window.
+    if (!QApplication::activeWindow())
+        QApplication::setActiveWindow(m_window.get());
+    QWidget *window = m_window.get();
+    takeOneOf({{18, [&] { click(window, dice); }},
+               {5, [&] { drag(window, dice); }},
+               {4, [&] { turnWheel(window, dice); }},
+               {12, [&] { pressKey(window, dice); }},
+               {3, [&] { typeText(window, dice); }},
+               {16, [&] { edit(window, dice); }},
+               {12, [&] { selectItem(window, dice); }},
+               {4, [&] { switchTab(window, dice); }},
+               {7, [&] { triggerAction(dice); }},
+               {6, [&] { triggerTreeAction(dice); }},
+               {5, [&] { undoOrRedo(dice); }},
+               {4, [&] { openFile(dice); }},
+               {2, [&] { tamper(dice); }},
+               {2, [&] { resize(dice); }},
+               {1, [&] { moveDock(dice); }},
+               {3, [&] { playAndWait(dice); }},
+               {1, [&] { undoAll(dice); }},
+               {2, [&] { answerBar(dice); }}},
+              dice);
+}
+
+void Monkey::useDialog(QDialog *dialog, Dice &dice)
+{
+    takeOneOf({{40, [&] { click(dialog, dice); }},
+               {30, [&] { edit(dialog, dice); }},
+               {15, [&] { pressKey(dialog, dice); }},
+               {5, [&] { drag(dialog, dice); }},
+               {4, [&] { typeText(dialog, dice); }},
+               {3, [&] { turnWheel(dialog, dice); }},
+               {3, [&] { tamper(dice); }}}, // other programs do not wait
+              dice);
+}
+
 void Monkey::click(QWidget *arena, Dice &dice)
 {
     QWidget *widget = anyWidget(arena, dice);
     const QPoint at = Hands::pointIn(widget, dice);
-    const int kind = dice.below(20);
-    const Qt::MouseButton button = kind < 14   ? Qt::LeftButton
-                                   : kind < 19 ? Qt::RightButton
-                                               : Qt::MiddleButton;
+    const Manner manner(dice);
     const bool twice = dice.chance(15);
-    const Qt::KeyboardModifiers modifiers = anyModifiers(dice);
-    say(QStringLiteral("%1click %2 at %3, button %4, modifiers %5")
+    say(QStringLiteral("%1click %2 at %3, %4")
             .arg(QLatin1String(twice ? "double " : ""), Hands::nameOf(widget), Hands::textOf(at),
-                 QString::number(button), QString::number(int(modifiers), 16)));
-    Hands::click(widget, at, button, modifiers, twice);
+                 manner.text()));
+    Hands::click(widget, at, manner.button, manner.modifiers, twice);
 }
 
 void Monkey::drag(QWidget *arena, Dice &dice)
@@ -140,13 +179,11 @@ void Monkey::drag(QWidget *arena, Dice &dice)
     QVector<QPoint> points{Hands::pointIn(widget, dice)};
     for (int i = dice.between(1, 6); i > 0; --i)
         points += points.last() + QPoint(dice.between(-120, 120), dice.between(-120, 120));
-    const int kind = dice.below(10);
-    const Qt::MouseButton button = kind < 6 ? Qt::LeftButton : kind < 8 ? Qt::RightButton : Qt::MiddleButton;
-    const Qt::KeyboardModifiers modifiers = anyModifiers(dice);
-    say(QStringLiteral("drag %1 from %2 to %3, button %4, modifiers %5")
+    const Manner manner(dice);
+    say(QStringLiteral("drag %1 from %2 to %3, %4")
             .arg(Hands::nameOf(widget), Hands::textOf(points.first()), Hands::textOf(points.last()),
-                 QString::number(button), QString::number(int(modifiers), 16)));
-    Hands::drag(widget, points, button, modifiers);
+                 manner.text()));
+    Hands::drag(widget, points, manner.button, manner.modifiers);
 }
 
 void Monkey::turnWheel(QWidget *arena, Dice &dice)
@@ -161,7 +198,7 @@ void Monkey::turnWheel(QWidget *arena, Dice &dice)
 void Monkey::pressKey(QWidget *arena, Dice &dice)
 {
     const bool control = dice.chance(40);
-    const int key = dice.pick(control ? controlKeys() : keys());
+    const Qt::Key key = control ? dice.pick(ControlKeys) : dice.pick(Keys);
     Qt::KeyboardModifiers modifiers = control ? Qt::ControlModifier : anyModifiers(dice);
     if (dice.chance(10))
         modifiers |= Qt::ShiftModifier;
@@ -174,34 +211,12 @@ void Monkey::pressKey(QWidget *arena, Dice &dice)
 
 QString Monkey::textToType(Dice &dice) const
 {
-    static const QStringList odd{
-        QString(),
-        QStringLiteral("0"),
-        QStringLiteral("-1"),
-        QStringLiteral("1"),
-        QStringLiteral("2"),
-        QStringLiteral("7"),
-        QStringLiteral("0.5"),
-        QStringLiteral("-0"),
-        QStringLiteral("127"),
-        QStringLiteral("128"),
-        QStringLiteral("255"),
-        QStringLiteral("256"),
-        QStringLiteral("65535"),
-        QStringLiteral("65536"),
-        QStringLiteral("2147483647"),
-        QStringLiteral("-2147483648"),
-        QStringLiteral("1e38"),
-        QStringLiteral("1e39"),
-        QStringLiteral("-1e-45"),
-        QStringLiteral("nan"),
-        QStringLiteral("inf"),
-        QStringLiteral("%1%2%n"),
-        QStringLiteral("<b>bold</b>"),
-        QStringLiteral("/"),
-        QStringLiteral("../.."),
-        QStringLiteral("materials/mat_new.kmat"),
-    };
+    // The first is empty.
+    static const QStringList odd =
+        QStringLiteral(
+            " 0 -1 1 2 7 0.5 -0 127 128 255 256 65535 65536 2147483647 -2147483648 1e38 1e39 -1e-45 nan "
+            "inf %1%2%n <b>bold</b> / ../.. materials/mat_new.kmat")
+            .split(QLatin1Char(' '));
     const int kind = dice.below(10);
     if (kind < 7)
         return dice.pick(odd);
@@ -228,22 +243,18 @@ void Monkey::edit(QWidget *arena, Dice &dice)
     QWidget *place = pages.isEmpty() || dice.chance(30) ? arena : pages.first();
     for (QWidget *each : Hands::usable(place)) {
         const bool isPart =
-            qobject_cast<QLineEdit *>(each) && (qobject_cast<QAbstractSpinBox *>(each->parentWidget()) ||
-                                                qobject_cast<QComboBox *>(each->parentWidget()));
-        if (!isPart && (qobject_cast<QAbstractSpinBox *>(each) || qobject_cast<QComboBox *>(each) ||
-                        qobject_cast<QLineEdit *>(each) || qobject_cast<QCheckBox *>(each) ||
-                        qobject_cast<QSlider *>(each)))
+            isAnyOf<QLineEdit>(each) && isAnyOf<QAbstractSpinBox, QComboBox>(each->parentWidget());
+        if (!isPart && isAnyOf<QAbstractSpinBox, QComboBox, QLineEdit, QCheckBox, QSlider>(each))
             editors.append(each);
     }
     if (editors.isEmpty())
         return click(arena, dice);
     const QPointer<QWidget> editor = dice.pick(editors);
     const QString name = Hands::nameOf(editor);
-    if (qobject_cast<QCheckBox *>(editor) || qobject_cast<QComboBox *>(editor) ||
-        qobject_cast<QSlider *>(editor)) {
-        static const QVector<int> moves{Qt::Key_Space, Qt::Key_Down, Qt::Key_Up,
-                                        Qt::Key_Home,  Qt::Key_End,  Qt::Key_PageDown};
-        const int key = qobject_cast<QCheckBox *>(editor) ? int(Qt::Key_Space) : dice.pick(moves);
+    if (isAnyOf<QCheckBox, QComboBox, QSlider>(editor)) {
+        constexpr Qt::Key moves[] = {Qt::Key_Space, Qt::Key_Down, Qt::Key_Up,
+                                     Qt::Key_Home,  Qt::Key_End,  Qt::Key_PageDown};
+        const Qt::Key key = isAnyOf<QCheckBox>(editor) ? Qt::Key_Space : dice.pick(moves);
         say(QStringLiteral("key %1 in %2").arg(QKeySequence(key).toString(), name));
         editor->setFocus(Qt::TabFocusReason);
         Hands::pressKey(editor->window(), key, Qt::NoModifier);
@@ -275,18 +286,12 @@ void Monkey::selectItem(QWidget *arena, Dice &dice)
     QTreeWidgetItem *item = tree->topLevelItem(dice.below(tree->topLevelItemCount()));
     while (item->childCount() > 0 && dice.chance(80))
         item = item->child(dice.below(item->childCount()));
-    const int kind = dice.below(10);
-    const Qt::MouseButton button = kind < 8 ? Qt::LeftButton : Qt::RightButton;
-    const Qt::KeyboardModifiers modifiers = dice.chance(15)   ? Qt::ControlModifier
-                                            : dice.chance(15) ? Qt::ShiftModifier
-                                                              : Qt::KeyboardModifiers(Qt::NoModifier);
-    say(QStringLiteral("select '%1' in %2, button %3, modifiers %4")
-            .arg(item->text(0), Hands::nameOf(tree), QString::number(button),
-                 QString::number(int(modifiers), 16)));
+    const Manner manner(dice);
+    say(QStringLiteral("select '%1' in %2, %3").arg(item->text(0), Hands::nameOf(tree), manner.text()));
     tree->scrollToItem(item);
     const QRect seen = tree->visualItemRect(item) & tree->viewport()->rect();
     if (!seen.isEmpty())
-        Hands::click(tree->viewport(), seen.center(), button, modifiers, dice.chance(5));
+        Hands::click(tree->viewport(), seen.center(), manner.button, manner.modifiers, dice.chance(5));
 }
 
 void Monkey::switchTab(QWidget *arena, Dice &dice)
@@ -302,12 +307,7 @@ void Monkey::switchTab(QWidget *arena, Dice &dice)
 
 void Monkey::triggerAction(Dice &dice)
 {
-    QVector<QAction *> actions;
-    for (QAction *each : m_window->findChildren<QAction *>()) {
-        if (each->isEnabled() && each->isVisible() && !each->isSeparator() && !each->menu())
-            actions.append(each);
-    }
-    QAction *action = dice.pick(actions);
+    QAction *action = dice.pick(usableActions(m_window->findChildren<QAction *>()));
     say(QStringLiteral("action '%1' (%2)").arg(action->text(), action->objectName()));
     action->trigger();
 }
@@ -315,14 +315,7 @@ void Monkey::triggerAction(Dice &dice)
 void Monkey::triggerTreeAction(Dice &dice)
 {
     const auto trees = Hands::usable<KVTreeView>(m_window.get());
-    QVector<QAction *> actions;
-    KVTreeView *tree = trees.isEmpty() ? nullptr : dice.pick(trees);
-    if (tree) {
-        for (QAction *each : tree->actions()) {
-            if (each->isEnabled() && each->isVisible())
-                actions.append(each);
-        }
-    }
+    const auto actions = trees.isEmpty() ? QVector<QAction *>() : usableActions(dice.pick(trees)->actions());
     if (actions.isEmpty())
         return selectItem(m_window.get(), dice);
     QAction *action = dice.pick(actions);
@@ -343,31 +336,33 @@ void Monkey::undoOrRedo(Dice &dice)
 void Monkey::openFile(Dice &dice)
 {
     const int kind = dice.below(20);
-    QStringList paths;
-    if (kind < 10) {
-        paths << m_playground.model(dice);
-    } else if (kind < 14) {
-        paths << m_playground.damagedModel(dice);
-    } else if (kind < 17) {
-        paths << m_playground.foreignModel(dice);
-    } else {
-        for (int i = dice.between(1, 2); i > 0; --i)
-            paths << m_playground.anyFile(dice);
-    }
+    QStringList paths{kind < 10   ? m_playground.model(dice)
+                      : kind < 14 ? m_playground.damagedModel(dice)
+                      : kind < 17 ? m_playground.foreignModel(dice)
+                                  : m_playground.anyFile(dice)};
+    if (kind >= 18)
+        paths << m_playground.anyFile(dice);
     say(QStringLiteral("open %1").arg(m_playground.shortName(paths.join(QStringLiteral(", ")))));
     m_window->openFiles(paths);
+}
+
+bool Monkey::pressAnyButton(QWidget *arena, Dice &dice)
+{
+    const auto buttons = Hands::usable<QAbstractButton>(arena);
+    if (buttons.isEmpty())
+        return false;
+    QAbstractButton *button = dice.pick(buttons);
+    say(QStringLiteral("press '%1', %2 of '%3'")
+            .arg(button->text(), Hands::nameOf(button), m_playground.shortName(arena->windowTitle())));
+    Hands::click(button, button->rect().center(), Qt::LeftButton, Qt::NoModifier, false);
+    return true;
 }
 
 void Monkey::answerBar(Dice &dice)
 {
     const auto bars = Hands::usable<NoticeBar>(m_window.get());
-    const auto buttons =
-        bars.isEmpty() ? QVector<QAbstractButton *>() : Hands::usable<QAbstractButton>(dice.pick(bars));
-    if (buttons.isEmpty())
-        return click(m_window.get(), dice);
-    QAbstractButton *button = dice.pick(buttons);
-    say(QStringLiteral("%1 in the bar").arg(Hands::nameOf(button)));
-    Hands::click(button, button->rect().center(), Qt::LeftButton, Qt::NoModifier, false);
+    if (bars.isEmpty() || !pressAnyButton(dice.pick(bars), dice))
+        click(m_window.get(), dice);
 }
 
 void Monkey::import(QDialog *dialog, Dice &dice)
@@ -389,9 +384,9 @@ void Monkey::tamper(Dice &dice)
 {
     const Document &document = m_checks->document(documentKinds()[size_t(dice.below(3))].type);
     const QString path = document.path();
+    QWidget *modal = QApplication::activeModalWidget();
     if (path.isEmpty() || !path.startsWith(m_playground.root()))
-        return pressKey(
-            QApplication::activeModalWidget() ? QApplication::activeModalWidget() : m_window.get(), dice);
+        return pressKey(modal ? modal : m_window.get(), dice);
     say(QStringLiteral("change %1 on disk").arg(m_playground.shortName(path)));
     m_journal.note(m_playground.tamperWith(path, dice));
     m_pause = QDeadlineTimer(FileRestsMs);
@@ -441,12 +436,8 @@ void Monkey::moveDock(Dice &dice)
 
 void Monkey::playAndWait(Dice &dice)
 {
-    const auto buttons =
-        Hands::usable<QAbstractButton>(m_window->findChild<QWidget *>(QStringLiteral("animTrackFrame")));
-    QAbstractButton *button = buttons.isEmpty() ? nullptr : dice.pick(buttons);
-    say(QStringLiteral("%1 and wait").arg(button ? Hands::nameOf(button) : QStringLiteral("nothing")));
-    if (button)
-        Hands::click(button, button->rect().center(), Qt::LeftButton, Qt::NoModifier, false);
+    if (!pressAnyButton(m_window->findChild<QWidget *>(QStringLiteral("animTrackFrame")), dice))
+        say(QStringLiteral("wait"));
     m_pause = QDeadlineTimer(dice.between(5, 120));
 }
 
@@ -454,7 +445,5 @@ void Monkey::undoAll(Dice &dice)
 {
     const DocumentKind &kind = documentKinds()[size_t(dice.below(3))];
     say(QStringLiteral("undo and redo all of the %1").arg(kind.label));
-    const QStringList found = m_checks->undoAndRedo(kind.type);
-    if (!found.isEmpty())
-        m_journal.fail(found.join(QStringLiteral("; ")));
+    failIfAny(m_checks->undoAndRedo(kind.type));
 }

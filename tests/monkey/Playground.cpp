@@ -5,26 +5,15 @@
 #include "Settings.h"
 #include "TestSupport.h"
 
-#include <QDateTime>
-
 #include <algorithm>
 
 namespace {
 constexpr qint64 LargestForeignFolder = 48 * 1024;
 
-const QStringList &ownNames()
-{
-    static const QStringList names{QStringLiteral("*.skinnedmesh"), QStringLiteral("*.anim"),
-                                   QStringLiteral("*.staticmesh")};
-    return names;
-}
-
-const QStringList &allFolders()
-{
-    static const QStringList names{QStringLiteral("/game"), QStringLiteral("/mod"), QStringLiteral("/import"),
-                                   QStringLiteral("/damaged")};
-    return names;
-}
+const QString OwnNames[] = {QStringLiteral("*.skinnedmesh"), QStringLiteral("*.anim"),
+                            QStringLiteral("*.staticmesh")};
+const QStringList ModelFolders{QStringLiteral("/game"), QStringLiteral("/mod"), QStringLiteral("/import"),
+                               QStringLiteral("/damaged")};
 
 void copyTree(const QString &from, const QString &to)
 {
@@ -82,27 +71,24 @@ Playground::Playground()
             copyTree(from + QLatin1String(name), m_root + QLatin1String(name));
     }
     const QString foreign = TestSupport::shared(QStringLiteral("models"));
-    const QStringList models = foreign.isEmpty()
-                                   ? QStringList()
-                                   : QDir(foreign).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
-    for (const QString &name : models) {
-        const QString from = foreign + QLatin1Char('/') + name;
+    QDirIterator models(foreign, QDir::Dirs | QDir::NoDotAndDotDot);
+    while (!foreign.isEmpty() && models.hasNext()) {
+        const QString from = models.next();
         if (sizeOf(from) <= LargestForeignFolder)
-            copyTree(from, m_root + QStringLiteral("/import/") + name);
+            copyTree(from, m_root + QStringLiteral("/import/") + models.fileName());
     }
     TestSupport::writeFile(m_root + QStringLiteral("/import/triangle.obj"),
                            "v 0 0 0\nv 1 0 0\nv 0 1 0\nvt 0 0\nvt 1 0\nvt 0 1\nf 1/1 2/2 3/3\n");
     TestSupport::writeFile(m_root + QStringLiteral("/import/readme.txt"), "No model.\n");
 
-    const auto setFolder = [this](const char *variable, const char *name) {
+    const std::pair<const char *, const char *> homes[] = {{"HOME", ""},
+                                                           {"XDG_CONFIG_HOME", "/config"},
+                                                           {"XDG_DATA_HOME", "/data"},
+                                                           {"XDG_CACHE_HOME", "/cache"},
+                                                           {"XDG_STATE_HOME", "/state"},
+                                                           {"TMPDIR", "/tmp"}};
+    for (const auto &[variable, name] : homes)
         qputenv(variable, QFile::encodeName(m_root + QLatin1String(name)));
-    };
-    setFolder("HOME", "");
-    setFolder("XDG_CONFIG_HOME", "/config");
-    setFolder("XDG_DATA_HOME", "/data");
-    setFolder("XDG_CACHE_HOME", "/cache");
-    setFolder("XDG_STATE_HOME", "/state");
-    setFolder("TMPDIR", "/tmp");
     QDir::setCurrent(m_root);
 }
 
@@ -128,35 +114,31 @@ void Playground::storeSettings() const
     Settings::ImportTimeLimit.setValue(15);
 }
 
-QStringList Playground::files(const QStringList &folders, const QStringList &names) const
+QString Playground::anyOf(const QStringList &folders, const QString &name, Dice &dice) const
 {
     QStringList found;
     for (const QString &folder : folders) {
-        QDirIterator walk(m_root + folder, names, QDir::Files, QDirIterator::Subdirectories);
+        QDirIterator walk(m_root + folder, {name}, QDir::Files, QDirIterator::Subdirectories);
         while (walk.hasNext())
             found += walk.next();
     }
     found.sort();
-    return found;
+    return found.isEmpty() ? m_root + QStringLiteral("/nothing") : dice.pick(found);
 }
 
 QString Playground::anyFile(Dice &dice) const
 {
-    const QStringList found =
-        files(allFolders(), dice.chance(70) ? ownNames() : QStringList{QStringLiteral("*")});
-    return found.isEmpty() ? m_root + QStringLiteral("/nothing") : dice.pick(found);
+    return dice.chance(70) ? model(dice) : anyOf(ModelFolders, QStringLiteral("*"), dice);
 }
 
 QString Playground::model(Dice &dice) const
 {
-    const QStringList found = files(allFolders(), {dice.pick(ownNames())});
-    return found.isEmpty() ? m_root + QStringLiteral("/nothing") : dice.pick(found);
+    return anyOf(ModelFolders, dice.pick(OwnNames), dice);
 }
 
 QString Playground::foreignModel(Dice &dice) const
 {
-    const QStringList found = files({QStringLiteral("/import")}, {QStringLiteral("*")});
-    return found.isEmpty() ? m_root + QStringLiteral("/nothing") : dice.pick(found);
+    return anyOf({QStringLiteral("/import")}, QStringLiteral("*"), dice);
 }
 
 QString Playground::damagedModel(Dice &dice)
@@ -171,11 +153,9 @@ QString Playground::damagedModel(Dice &dice)
 
 QString Playground::folder(Dice &dice) const
 {
-    static const QStringList names{QStringLiteral("/game"),        QStringLiteral("/mod"),
-                                   QStringLiteral("/game/models"), QStringLiteral("/game/anims"),
-                                   QStringLiteral("/mod/models"),  QStringLiteral("/damaged"),
-                                   QStringLiteral("/empty"),       QStringLiteral("/not there")};
-    return m_root + dice.pick(names);
+    const char *const names[] = {"/game",       "/mod",     "/game/models", "/game/anims",
+                                 "/mod/models", "/damaged", "/empty",       "/not there"};
+    return m_root + QLatin1String(dice.pick(names));
 }
 
 QString Playground::tamperWith(const QString &path, Dice &dice) const
@@ -191,11 +171,11 @@ QString Playground::tamperWith(const QString &path, Dice &dice) const
     case 2:
         TestSupport::writeFile(path, damaged(bytes, dice));
         return QStringLiteral("damage");
-    case 3: {
-        const QStringList same = files(allFolders(), {QStringLiteral("*.") + QFileInfo(path).suffix()});
-        TestSupport::writeFile(path, same.isEmpty() ? bytes : TestSupport::readFile(dice.pick(same)));
+    case 3:
+        TestSupport::writeFile(
+            path, TestSupport::readFile(
+                      anyOf(ModelFolders, QStringLiteral("*.") + QFileInfo(path).suffix(), dice)));
         return QStringLiteral("replace");
-    }
     default:
         QFile::remove(path);
         return QStringLiteral("remove");

@@ -36,7 +36,7 @@ public:
     QString tamperWith(const QString &path, Dice &dice) const;
 
 private:
-    QStringList files(const QStringList &folders, const QStringList &names) const;
+    QString anyOf(const QStringList &folders, const QString &name, Dice &dice) const;
 
     QTemporaryDir m_folder;
     QString m_root;

@@ -90,13 +90,6 @@ int open64(const char *path, int flags, ...)
     return guardedOpen(AT_FDCWD, path, flags, mode);
 }
 
-int rename(const char *from, const char *to) noexcept
-{
-    if (!mayWrite(from) || !mayWrite(to))
-        return -1;
-    return int(syscall(SYS_renameat2, AT_FDCWD, from, AT_FDCWD, to, 0));
-}
-
 int renameat2(int fromFolder, const char *from, int toFolder, const char *to, unsigned flags) noexcept
 {
     if (!mayWrite(from) || !mayWrite(to))
@@ -104,16 +97,19 @@ int renameat2(int fromFolder, const char *from, int toFolder, const char *to, un
     return int(syscall(SYS_renameat2, fromFolder, from, toFolder, to, flags));
 }
 
+int rename(const char *from, const char *to) noexcept
+{
+    return renameat2(AT_FDCWD, from, AT_FDCWD, to, 0);
+}
+
 int linkat(int fromFolder, const char *from, int toFolder, const char *to, int flags) noexcept
 {
-    if (!mayWrite(to))
-        return -1;
-    return int(syscall(SYS_linkat, fromFolder, from, toFolder, to, flags));
+    return mayWrite(to) ? int(syscall(SYS_linkat, fromFolder, from, toFolder, to, flags)) : -1;
 }
 
 int link(const char *from, const char *to) noexcept
 {
-    return mayWrite(to) ? int(syscall(SYS_linkat, AT_FDCWD, from, AT_FDCWD, to, 0)) : -1;
+    return linkat(AT_FDCWD, from, AT_FDCWD, to, 0);
 }
 
 int symlink(const char *target, const char *path) noexcept

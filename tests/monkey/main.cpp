@@ -26,18 +26,14 @@ void noteMessage(QtMsgType type, const QMessageLogContext &, const QString &text
         std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
-/// The value of a numeric option; ends the program when it is none.
-template <typename Number>
-Number number(const QCommandLineParser &options, const QString &name,
-              Number (QString::*read)(bool *, int) const)
+/// The value of a numeric option, 0 without it; ends the program when it is none.
+quint64 number(const QCommandLineParser &options, const QString &name)
 {
     bool ok = true;
     const QString text = options.value(name);
-    const Number value = text.isEmpty() ? Number() : (text.*read)(&ok, 10);
-    if (!ok) {
-        std::fprintf(stderr, "monkey: --%s takes a number, not '%s'\n", qPrintable(name), qPrintable(text));
-        std::exit(2);
-    }
+    const quint64 value = text.isEmpty() ? 0 : text.toULongLong(&ok);
+    if (!ok)
+        qFatal("monkey: --%s takes a number, not '%s'", qPrintable(name), qPrintable(text));
     return value;
 }
 } // namespace
@@ -80,18 +76,16 @@ int main(int argc, char *argv[])
         {QStringLiteral("seconds"), QStringLiteral("End after this time (default: 60, without --steps)."),
          QStringLiteral("S")},
         {QStringLiteral("journal"), QStringLiteral("Where the steps are written down (default: monkey.log)."),
-         QStringLiteral("FILE")},
+         QStringLiteral("FILE"), QStringLiteral("monkey.log")},
     });
     options.process(application);
-    const quint64 seed = options.isSet(QStringLiteral("seed"))
-                             ? number(options, QStringLiteral("seed"), &QString::toULongLong)
-                             : quint64(std::random_device()());
-    Monkey::Limits limits{number(options, QStringLiteral("steps"), &QString::toInt),
-                          number(options, QStringLiteral("seconds"), &QString::toInt)};
+    const quint64 seed = options.isSet(QStringLiteral("seed")) ? number(options, QStringLiteral("seed"))
+                                                               : quint64(std::random_device()());
+    Monkey::Limits limits{int(number(options, QStringLiteral("steps"))),
+                          int(number(options, QStringLiteral("seconds")))};
     if (limits.steps <= 0 && limits.seconds <= 0)
         limits.seconds = 60;
-    const QString path = options.value(QStringLiteral("journal"));
-    const QString file = QDir(called).absoluteFilePath(path.isEmpty() ? QStringLiteral("monkey.log") : path);
+    const QString file = QDir(called).absoluteFilePath(options.value(QStringLiteral("journal")));
 
     std::printf("monkey: seed %llu, journal %s\n", static_cast<unsigned long long>(seed), qPrintable(file));
     std::fflush(stdout);
@@ -106,8 +100,6 @@ int main(int argc, char *argv[])
     for (const char *scheme : {"http", "https", "file"})
         QDesktopServices::setUrlHandler(QLatin1String(scheme), &monkey, "countLink");
     monkey.run();
-    for (const char *scheme : {"http", "https", "file"})
-        QDesktopServices::unsetUrlHandler(QLatin1String(scheme));
     std::printf("monkey: clean; seed %llu, %d steps in %lld s, %d links, %d writes elsewhere refused\n",
                 static_cast<unsigned long long>(seed), monkey.steps(),
                 static_cast<long long>(clock.elapsed() / 1000), monkey.linksOpened(), WriteGuard::refusals());

@@ -9,7 +9,6 @@
 #include <QVector>
 
 #include <array>
-#include <cmath>
 
 /// One skinned triangle in a glTF file of its own, with the bones
 ///
@@ -40,34 +39,27 @@ public:
 
     QByteArray file(const QVector<Animation> &animations)
     {
-        const int positions = floats({{0, 0, 0, 0}, {10, 0, 0, 0}, {0, 20, -30, 0}}, 3,
-                                     QStringLiteral("VEC3"), {0, 0, -30}, {10, 20, 0});
-        const int joints = shorts({{0, 0, 0, 0}, {1, 0, 0, 0}, {0, 0, 0, 0}});
-        const int weights = floats({{1, 0, 0, 0}, {1, 0, 0, 0}, {0.5, 0.5, 0, 0}}, 4, QStringLiteral("VEC4"));
-        // The library crashes on a skin without them.
-        const int binds = identities(3);
+        // The accessors 0 to 3 below. The library crashes on a skin without matrices.
+        add<float, 3>("VEC3", {{0, 0, 0}, {10, 0, 0}, {0, 20, -30}});
+        add<quint16, 4>("VEC4", {{0, 0, 0, 0}, {1, 0, 0, 0}, {0, 0, 0, 0}});
+        add<float, 4>("VEC4", {{1, 0, 0, 0}, {1, 0, 0, 0}, {0.5, 0.5, 0, 0}});
+        add<float, 16>("MAT4", {3, {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1}});
+        QJsonObject root = QJsonDocument::fromJson(R"({
+            "asset": {"version": "2.0"},
+            "scene": 0,
+            "scenes": [{"nodes": [0]}],
+            "nodes": [{"name": "scene", "children": [1, 4]},
+                      {"name": "hips", "children": [2, 3], "translation": [1, 2, 3]},
+                      {"name": "arm"},
+                      {"name": "tail", "rotation": [0, 0, 0.7071067811865476, 0.7071067811865476]},
+                      {"name": "body", "mesh": 0, "skin": 0}],
+            "skins": [{"joints": [1, 2, 3], "inverseBindMatrices": 3}],
+            "meshes": [{"primitives": [{"attributes": {"POSITION": 0, "JOINTS_0": 1, "WEIGHTS_0": 2}}]}]
+        })")
+                               .object();
         QJsonArray written;
         for (const Animation &animation : animations)
             written.append(animationObject(animation));
-
-        const double half = std::sqrt(0.5);
-        QJsonObject root;
-        root["asset"] = QJsonObject{{"version", "2.0"}};
-        root["scene"] = 0;
-        root["scenes"] = QJsonArray{QJsonObject{{"nodes", QJsonArray{0}}}};
-        root["nodes"] = QJsonArray{QJsonObject{{"name", "scene"}, {"children", QJsonArray{1, 4}}},
-                                   QJsonObject{{"name", "hips"},
-                                               {"children", QJsonArray{2, 3}},
-                                               {"translation", QJsonArray{1, 2, 3}}},
-                                   QJsonObject{{"name", "arm"}},
-                                   QJsonObject{{"name", "tail"}, {"rotation", QJsonArray{0, 0, half, half}}},
-                                   QJsonObject{{"name", "body"}, {"mesh", 0}, {"skin", 0}}};
-        root["skins"] =
-            QJsonArray{QJsonObject{{"joints", QJsonArray{1, 2, 3}}, {"inverseBindMatrices", binds}}};
-        root["meshes"] = QJsonArray{QJsonObject{
-            {"primitives", QJsonArray{QJsonObject{{"attributes", QJsonObject{{"POSITION", positions},
-                                                                             {"JOINTS_0", joints},
-                                                                             {"WEIGHTS_0", weights}}}}}}}};
         if (!written.isEmpty())
             root["animations"] = written;
         root["accessors"] = m_accessors;
@@ -79,60 +71,18 @@ public:
     }
 
 private:
-    using Row = std::array<float, 4>;
-
-    template <typename T>
-    void append(T value)
+    /// Returns the number of the accessor.
+    template <typename T, size_t Width>
+    int add(const char *type, const QVector<std::array<T, Width>> &rows)
     {
-        m_bytes.append(reinterpret_cast<const char *>(&value), int(sizeof value));
-    }
-
-    /// `first` is where the rows begin in the buffer.
-    int accessor(int first, int count, int componentType, const QString &type)
-    {
-        m_views.append(
-            QJsonObject{{"buffer", 0}, {"byteOffset", first}, {"byteLength", m_bytes.size() - first}});
+        const int bytes = rows.size() * int(sizeof(T) * Width);
+        m_views.append(QJsonObject{{"buffer", 0}, {"byteOffset", m_bytes.size()}, {"byteLength", bytes}});
+        m_bytes.append(reinterpret_cast<const char *>(rows.constData()), bytes);
         m_accessors.append(QJsonObject{{"bufferView", m_views.size() - 1},
-                                       {"componentType", componentType},
-                                       {"count", count},
+                                       {"componentType", sizeof(T) == 4 ? 5126 : 5123},
+                                       {"count", rows.size()},
                                        {"type", type}});
         return m_accessors.size() - 1;
-    }
-
-    int floats(const QVector<Row> &rows, int width, const QString &type, const QJsonArray &least = {},
-               const QJsonArray &greatest = {})
-    {
-        const int first = m_bytes.size();
-        for (const Row &row : rows) {
-            for (int i = 0; i < width; ++i)
-                append(row[size_t(i)]);
-        }
-        const int index = accessor(first, rows.size(), 5126, type);
-        if (!least.isEmpty()) {
-            QJsonObject object = m_accessors[index].toObject();
-            object["min"] = least;
-            object["max"] = greatest;
-            m_accessors[index] = object;
-        }
-        return index;
-    }
-
-    int identities(int count)
-    {
-        const int first = m_bytes.size();
-        for (int i = 0; i < 16 * count; ++i)
-            append(i % 16 % 5 == 0 ? 1.0f : 0.0f);
-        return accessor(first, count, 5126, QStringLiteral("MAT4"));
-    }
-
-    int shorts(const QVector<std::array<quint16, 4>> &rows)
-    {
-        const int first = m_bytes.size();
-        for (const auto &row : rows) {
-            for (const quint16 value : row)
-                append(value);
-        }
-        return accessor(first, rows.size(), 5123, QStringLiteral("VEC4"));
     }
 
     QJsonObject animationObject(const Animation &animation)
@@ -140,21 +90,21 @@ private:
         QJsonArray channels;
         QJsonArray samplers;
         for (const Channel &channel : animation.channels) {
-            QVector<Row> times;
-            QVector<Row> values;
+            QVector<std::array<float, 1>> times;
+            QVector<std::array<float, 3>> places;
+            QVector<std::array<float, 4>> rotations;
             for (const Key &key : channel.keys) {
-                times.append({key.time / 1000.0f, 0, 0, 0});
-                values.append(key.value);
+                times.append(std::array<float, 1>{key.time / 1000.0f});
+                places.append(std::array<float, 3>{key.value[0], key.value[1], key.value[2]});
+                rotations.append(key.value);
             }
-            const int input = floats(times, 1, QStringLiteral("SCALAR"), {double(times.first()[0])},
-                                     {double(times.last()[0])});
-            const int output = channel.isRotation ? floats(values, 4, QStringLiteral("VEC4"))
-                                                  : floats(values, 3, QStringLiteral("VEC3"));
             channels.append(QJsonObject{
                 {"sampler", samplers.size()},
                 {"target", QJsonObject{{"node", channel.node},
                                        {"path", channel.isRotation ? "rotation" : "translation"}}}});
-            samplers.append(QJsonObject{{"input", input}, {"output", output}});
+            samplers.append(
+                QJsonObject{{"input", add("SCALAR", times)},
+                            {"output", channel.isRotation ? add("VEC4", rotations) : add("VEC3", places)}});
         }
         return {{"name", animation.name}, {"channels", channels}, {"samplers", samplers}};
     }

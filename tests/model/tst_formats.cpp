@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "LiteralFormat.h"
+#include "NameTables.h"
 #include "SampleModels.h"
 #include "TestSupport.h"
 
@@ -61,14 +61,6 @@ void checkBytes(const Model &model, const QByteArray &bytes)
     QVERIFY(!readBytes(read, bytes));
     QCOMPARE(bytesOf(read).toHex(), bytes.toHex());
 }
-
-/// Replaces the little-endian int32 at `offset`.
-QByteArray withInt32(QByteArray bytes, int offset, qint32 value)
-{
-    char raw[sizeof value];
-    qToLittleEndian<qint32>(value, raw);
-    return bytes.replace(offset, sizeof raw, raw, sizeof raw);
-}
 } // namespace
 
 /// What the records of the three kinds look like in a file, and the rules of reading and writing them.
@@ -80,15 +72,10 @@ private slots:
     void skinnedMeshFields();
     void animFields();
     void staticMeshFields();
-    void samplesKeepEveryByte_data();
     void samplesKeepEveryByte();
-    void negativeSurfaceCountOfSkinnedMesh();
-    void negativeCountsOfAnim();
-    void silentFailuresOfStaticMesh();
-    void nodeCountMismatch();
-    void emptyTracks();
     void modelsThatAreNotSaved();
     void staticIndexListsOfOddLength();
+    void namesOfNumbers();
 };
 
 void TestFormats::skinnedMeshFields()
@@ -145,121 +132,25 @@ void TestFormats::staticMeshFields()
     checkBytes(mesh, hex(StaticMeshBytes));
 }
 
-void TestFormats::samplesKeepEveryByte_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    for (const QString &suffix : suffixes())
-        QTest::newRow(qPrintable(suffix)) << bytesOfSample(suffix);
-}
-
 void TestFormats::samplesKeepEveryByte()
 {
-    QFETCH(QByteArray, bytes);
-    const QString suffix = QLatin1String(QTest::currentDataTag());
-    withModel(suffix, [&](auto model) {
-        QString error;
-        QVERIFY(!readBytes(model, bytes, &error));
-        QCOMPARE(error, QString());
-        QCOMPARE(bytesOf(model).toHex(), bytes.toHex());
-        const auto copy = model;
-        QCOMPARE(bytesOf(copy), bytes);
+    const QTemporaryDir folder;
+    for (const QString &suffix : suffixes()) {
+        withModel(suffix, [&](auto model) {
+            // Bytes behind the end are no failure and are dropped.
+            const QByteArray bytes = bytesOfSample(suffix);
+            const QString path = folder.filePath(QStringLiteral("longer.") + suffix);
+            QVERIFY(TestSupport::writeFile(path, bytes + "trailing"));
+            QString error;
+            QVERIFY2(!model.read(path, &error), qPrintable(error));
+            QVERIFY(!model.write(path));
+            QCOMPARE(TestSupport::readFile(path).toHex(), bytes.toHex());
 
-        // Bytes behind the end are no failure and are dropped, also by a real file.
-        const QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("longer.") + suffix);
-        QVERIFY(TestSupport::writeFile(path, bytes + "trailing"));
-        decltype(model) longer;
-        QVERIFY(!longer.read(path));
-        QVERIFY(!longer.write(path));
-        QCOMPARE(TestSupport::readFile(path), bytes);
-
-        error = QStringLiteral("of an earlier file");
-        QVERIFY(decltype(model)().read(folder.filePath(QStringLiteral("missing")), &error));
-        QCOMPARE(error, QString());
-    });
-}
-
-void TestFormats::negativeSurfaceCountOfSkinnedMesh()
-{
-    SkinnedMesh mesh = skinnedMesh();
-    mesh.surfaces.clear();
-    const QByteArray empty = bytesOf(mesh); // ends with the surface count
-    SkinnedMesh read;
-    QVERIFY(!readBytes(read, empty));
-    QVERIFY(read.vertices.empty());
-    QCOMPARE(bytesOf(read), empty);
-
-    // Below zero there are no surfaces either, but the vertices follow.
-    const QByteArray vertex = hex("01000000") + QByteArray(34, '\2');
-    const QByteArray negative = withInt32(empty, empty.size() - 4, -1);
-    QVERIFY(!readBytes(read, negative + vertex));
-    QCOMPARE(read.vertices.size(), size_t(1));
-    QCOMPARE(bytesOf(read), empty);
-    QString error;
-    QVERIFY(readBytes(read, negative, &error));
-    QVERIFY2(error.contains(QLatin1String("int32")), qPrintable(error));
-}
-
-void TestFormats::negativeCountsOfAnim()
-{
-    const QByteArray header = hex("01000000 01000000 00000000");
-    const QByteArray counts = hex("ffffffff ffffffff ffffffff feffffff 00000080 ffffffff");
-    AnimFile file;
-    QVERIFY(!readBytes(file, header + counts + QByteArray(16, '\0')));
-    QCOMPARE(file.blocks.size(), size_t(1));
-    QCOMPARE(file.blocks[0].frameCount(), 0);
-    QCOMPARE(bytesOf(file), header + QByteArray(24 + 16, '\0'));
-}
-
-void TestFormats::silentFailuresOfStaticMesh()
-{
-    const QByteArray bytes = hex(StaticMeshBytes);
-    for (const LiteralFormat::Count &count : LiteralFormat(QStringLiteral("staticmesh"), bytes).counts()) {
-        for (qint32 value : {-1, std::numeric_limits<qint32>::min()}) {
-            StaticMesh mesh;
-            QString error = QStringLiteral("of an earlier file");
-            QVERIFY2(readBytes(mesh, withInt32(bytes, count.offset, value), &error), count.name);
+            error = QStringLiteral("of an earlier file");
+            QVERIFY(model.read(folder.filePath(QStringLiteral("missing")), &error));
             QCOMPARE(error, QString());
-        }
+        });
     }
-    // Three times these counts is negative, or small, in 32 bits.
-    for (qint32 value : {0x2AAAAAAB, 0x55555556, 0x7FFFFFFF}) {
-        StaticMesh mesh;
-        QString error;
-        QVERIFY(readBytes(mesh, withInt32(bytes, 28 + 4 + 7, value), &error));
-        QVERIFY2(error.contains(QLatin1String("uint16")), qPrintable(error));
-    }
-}
-
-void TestFormats::nodeCountMismatch()
-{
-    const QString mismatch =
-        QStringLiteral("nodeLength is different value than initialNodeLength. They should be the same.");
-    const QByteArray bytes = withInt32(hex(AnimBytes), 20, 6);
-    AnimFile file;
-    QString error;
-    QVERIFY(readBytes(file, bytes, &error));
-    QCOMPARE(error, mismatch);
-    // The counts are compared after the header is read: cut within it, the file ends there.
-    QVERIFY(readBytes(file, bytes.left(8 + 43), &error));
-    QVERIFY2(error.contains(QLatin1String("uint16")), qPrintable(error));
-    QVERIFY(readBytes(file, bytes.left(8 + 44), &error));
-    QCOMPARE(error, mismatch);
-}
-
-void TestFormats::emptyTracks()
-{
-    // Tracks without keys take no bytes: only their number can be hostile.
-    const auto fileWith = [](qint32 tracks) {
-        return withInt32(hex("01000000 01000000") + QByteArray(44, '\0'), 8 + 16, tracks);
-    };
-    AnimFile file;
-    QString error;
-    QVERIFY(!readBytes(file, fileWith(1000000), &error));
-    QCOMPARE(file.blocks[0].translations.trackCount(), 1000000);
-    QCOMPARE(bytesOf(file), fileWith(1000000));
-    QVERIFY(readBytes(file, fileWith(1000001), &error));
-    QCOMPARE(error, QStringLiteral("Attempting to read 1000001 tracks without frames."));
 }
 
 void TestFormats::modelsThatAreNotSaved()
@@ -293,9 +184,28 @@ void TestFormats::staticIndexListsOfOddLength()
     QVERIFY(!readBytes(mesh, hex(StaticMeshBytes)));
     mesh.surfaces[0].triangleIndexes.pop_back();
     // One triangle is counted and all five indexes are written.
-    QByteArray expected = withInt32(hex(StaticMeshBytes), 28 + 4 + 7, 1);
+    QByteArray expected = hex(StaticMeshBytes);
+    expected[28 + 4 + 7] = 1;
     expected.remove(28 + 4 + 7 + 4 + 10, 2);
     QCOMPARE(bytesOf(mesh).toHex(), expected.toHex());
+}
+
+void TestFormats::namesOfNumbers()
+{
+    SkinnedMesh mesh;
+    mesh.nodes.resize(1);
+    const auto nameOf = [&mesh](int flags) {
+        mesh.nodes[0].symbolFlags = qint8(flags);
+        return boneSymbolName(mesh, 0);
+    };
+    QCOMPARE(nameOf(0x00), QStringLiteral("Left Root"));
+    QCOMPARE(nameOf(0x46 | 0x38), QStringLiteral("Right Upper Arm")); // bits 3 to 5 say nothing
+    QCOMPARE(nameOf(0x81), QStringLiteral("Left Chin"));              // negative as a signed byte
+    QCOMPARE(nameOf(0xFF), QStringLiteral("Right Foot"));
+    QCOMPARE(boneSymbolName(mesh, 1), QString());
+    QCOMPARE(boneSymbolName(mesh, -1), QString());
+    for (int i = 0; i < 35; ++i)
+        QVERIFY(eventTypeNames().value(i).startsWith(QStringLiteral("%1: ").arg(i, 2, 10, QLatin1Char('0'))));
 }
 
 QTEST_GUILESS_MAIN(TestFormats)

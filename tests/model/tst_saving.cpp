@@ -34,19 +34,12 @@ Save saverOf(const QString &suffix, bool large)
             table[QString::number(i)] = QStringLiteral("textures/t.png");
         return [table](const QString &path) { return !writeKMat(path, table).isEmpty(); };
     }
-    if (suffix == QLatin1String("anim")) {
-        AnimFile file = animFile();
-        file.blocks[0].setFrameCount(large ? 20000 : 3);
-        return [file](const QString &path) { return file.write(path); };
-    }
-    if (suffix == QLatin1String("skinnedmesh")) {
-        SkinnedMesh mesh = skinnedMesh();
-        mesh.vertices.resize(large ? 20000 : 2);
-        return [mesh](const QString &path) { return mesh.write(path); };
-    }
-    StaticMesh mesh = staticMesh();
-    mesh.vertices.resize(large ? 20000 : 3);
-    return [mesh](const QString &path) { return mesh.write(path); };
+    Save save;
+    withModel(suffix, [&save, large](auto model) {
+        model = large ? longModel<decltype(model)>(20000) : oddModel<decltype(model)>();
+        save = [model](const QString &path) { return model.write(path); };
+    });
+    return save;
 }
 } // namespace
 
@@ -192,8 +185,7 @@ void TestSaving::draftsAreReadBack()
         BinaryFileWriter writer;
         model.writeDraft(writer);
         auto back = std::decay_t<decltype(model)>();
-        if (readBytes(back, QByteArray(reinterpret_cast<const char *>(writer.bytes().data()),
-                                       int(writer.bytes().size()))))
+        if (readBytes(back, bytesOf(writer)))
             qFatal("a draft cannot be read");
         return back;
     };

@@ -10,7 +10,6 @@
 #include <set>
 
 using namespace BrokenModels;
-using SampleModels::bytesOf;
 using SampleModels::readBytes;
 
 namespace {
@@ -45,45 +44,9 @@ QStringList told(const std::vector<Finding> &findings)
     }
     return lines;
 }
-} // namespace
-
-class tst_Validation : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void namesOfRules();
-    void everyRuleFiresAlone();
-    void goodModelsGiveNoAlarm_data();
-    void goodModelsGiveNoAlarm();
-    void placesAndRepairs();
-    void circlesAsideOfTheRoot();
-    void manyAreCounted();
-    void withoutFoldersNoFilesAreMissed();
-    void withoutTablesNoNumberIsUnknown();
-    void animationsOfAnotherMesh();
-    void survivesAnything();
-
-private:
-    template <typename Model>
-    void checkAlone(std::set<Rule> &fired);
-};
-
-void tst_Validation::namesOfRules()
-{
-    QSet<QString> names;
-    for (size_t i = 0; i < allRules().size(); ++i) {
-        QCOMPARE(int(allRules()[i]), int(i));
-        const QString name = ruleId(allRules()[i]);
-        QVERIFY2(QRegularExpression(QStringLiteral("^[a-z]+(-[a-z]+)+$")).match(name).hasMatch(),
-                 qPrintable(name));
-        names << name;
-    }
-    QCOMPARE(names.size(), int(allRules().size()));
-}
 
 template <typename Model>
-void tst_Validation::checkAlone(std::set<Rule> &fired)
+void checkAlone(std::set<Rule> &fired)
 {
     for (const auto &base : bases()) {
         const auto mesh = base->template model<SkinnedMesh>();
@@ -100,14 +63,25 @@ void tst_Validation::checkAlone(std::set<Rule> &fired)
                          !found[0].text.contains(QRegularExpression(QStringLiteral("%\\d"))),
                      qPrintable(found[0].text));
             fired.insert(breakage.rule);
-            // A file brings the fault along, where it can hold it.
-            const QByteArray bytes = bytesOf(model);
-            Model opened;
-            if (!bytes.isEmpty() && !readBytes(opened, bytes) && breakage.rule != Rule::TriangleIncomplete)
-                QCOMPARE(told(findings(opened, base->folders(), &mesh)), told(found));
         }
     }
 }
+} // namespace
+
+class tst_Validation : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyRuleFiresAlone();
+    void goodModelsGiveNoAlarm_data();
+    void goodModelsGiveNoAlarm();
+    void placesAndRepairs();
+    void circlesAsideOfTheRoot();
+    void manyAreCounted();
+    void whatIsNotGivenIsNotMissed();
+    void survivesAnything();
+};
 
 void tst_Validation::everyRuleFiresAlone()
 {
@@ -115,8 +89,13 @@ void tst_Validation::everyRuleFiresAlone()
     checkAlone<SkinnedMesh>(fired);
     checkAlone<AnimFile>(fired);
     checkAlone<StaticMesh>(fired);
-    for (const Rule rule : allRules())
+    QSet<QString> names;
+    for (const Rule rule : allRules()) {
         QVERIFY2(fired.count(rule) == 1, ruleId(rule).latin1());
+        QCOMPARE(int(rule), names.size());
+        QVERIFY2(!names.contains(ruleId(rule)), ruleId(rule).latin1());
+        names << ruleId(rule);
+    }
 }
 
 void tst_Validation::goodModelsGiveNoAlarm_data()
@@ -160,11 +139,6 @@ void tst_Validation::placesAndRepairs()
     QCOMPARE(told(found), QStringList({"child-bone-out-of-range 2/3/1/0", "child-bone-out-of-range 2/3/2/0",
                                        "hot-point-bone-out-of-range 4/2/0/0"}));
     QVERIFY(found[0].repairable && !found[2].repairable);
-    QCOMPARE(severityOf(found[0].rule), Severity::Error);
-    QCOMPARE(severityId(severityOf(Rule::TrackUnused)), QLatin1String("note"));
-    const auto places = repairablePlaces(Rule::ChildBoneOutOfRange, mesh, 100);
-    QCOMPARE(places.size(), size_t(2));
-    QCOMPARE(places[1], found[1].place);
     QVERIFY(repairablePlaces(Rule::HotPointBoneOutOfRange, mesh, 100).empty());
     QCOMPARE(repairablePlaces(Rule::ChildBoneOutOfRange, mesh, 1).size(), size_t(1));
 
@@ -229,35 +203,30 @@ void tst_Validation::manyAreCounted()
     QCOMPARE(found.back().notListed, qint64(3 * 999999 - ListedFindings));
 }
 
-void tst_Validation::withoutFoldersNoFilesAreMissed()
+void tst_Validation::whatIsNotGivenIsNotMissed()
 {
+    // Neither folders,
     SkinnedMesh mesh = bases().front()->model<SkinnedMesh>();
     mesh.surfaces[0].materialPath.clear();
     QVERIFY(validate(mesh).empty());
     QVERIFY(validate(mesh, {QString(), QStringLiteral("/tmp")}).empty());
     QCOMPARE(validate(mesh, {QStringLiteral("/nowhere"), QString()}).size(), size_t(3));
-}
 
-void tst_Validation::withoutTablesNoNumberIsUnknown()
-{
+    // nor the mesh that is animated,
     AnimFile file = bases().front()->model<AnimFile>();
+    SkinnedMesh another;
+    another.nodes.resize(3);
+    QCOMPARE(told(validate(file, &another, ids())), QStringList("bone-count-mismatch 14/0/0/0"));
+    QVERIFY(validate(file, nullptr, ids()).empty());
+
+    // nor the tables of what actions name.
     action(0, {9999.0f})(file);
     QCOMPARE(validate(file, nullptr, ids()).size(), size_t(1));
     QVERIFY(validate(file, nullptr, {}).empty());
     ReferenceIds own;
     own.insert(ReferenceKind::Sounds, 9999);
-    // The own action is known now, what else the animation names is not.
     for (const Finding &finding : validate(file, nullptr, own))
         QVERIFY(finding.place != (RecordRef{RecordKind::AnimAction, {0, 2, 0}}));
-}
-
-void tst_Validation::animationsOfAnotherMesh()
-{
-    const AnimFile file = bases().front()->model<AnimFile>();
-    SkinnedMesh mesh;
-    mesh.nodes.resize(3);
-    QCOMPARE(told(validate(file, &mesh, ids())), QStringList("bone-count-mismatch 14/0/0/0"));
-    QVERIFY(validate(file, nullptr, ids()).empty());
 }
 
 void tst_Validation::survivesAnything()

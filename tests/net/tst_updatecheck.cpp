@@ -16,20 +16,17 @@ class tst_UpdateCheck : public QObject
 private slots:
     void initTestCase() { QNetworkProxyFactory::setUseSystemConfiguration(false); }
     void init();
-    void offers_data();
     void offers();
     void onlyAManualCheckTellsThatNothingIsNew();
     void sendsOneRequestAtATime();
     void saysNothingOfTheUser();
     void readsNoMoreThanTheLimit();
-    void stopsWaiting();
     void followsRedirects_data();
     void followsRedirects();
-    void asksOnlyWhereItMay_data();
     void asksOnlyWhereItMay();
     void oncePerDay_data();
     void oncePerDay();
-    void goesWithItsOwner();
+    void unanswered();
 
 private:
     /// The only signal of a check and its texts; "up to date" stands for the one without any.
@@ -64,37 +61,25 @@ QStringList tst_UpdateCheck::run(UpdateCheck &check, bool manual)
     return told;
 }
 
-void tst_UpdateCheck::offers_data()
-{
-    QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<QStringList>("told");
-    const QStringList nothing("up to date");
-    const QByteArray link = "https://a/b";
-    QTest::newRow("older") << releaseDocument("0.9.1", link) << nothing;
-    QTest::newRow("same") << releaseDocument("0.9.2", link) << nothing;
-    QTest::newRow("newer, by number")
-        << releaseDocument("0.9.10", link) << QStringList({"0.9.10", "News", "https://a/b"});
-    QTest::newRow("one number") << releaseDocument("1", link) << QStringList({"1", "News", "https://a/b"});
-    QTest::newRow("CR LF") << releaseDocument("1.0.0", link).replace("\n", "\r\n")
-                           << QStringList({"1.0.0", "News", "https://a/b"});
-    QTest::newRow("markup stays text") << releaseDocument("1", "file:///etc", "<b>a</b>\n%1")
-                                       << QStringList({"1", "<b>a</b> %1", "file:///etc"});
-    QTest::newRow("no link") << releaseDocument("1", "") << nothing;
-    QTest::newRow("no version") << releaseDocument("", link) << nothing;
-    QTest::newRow("no document") << QByteArray("<html>version\n1\nlink\nl</html>") << nothing;
-    QTest::newRow("empty") << QByteArray() << nothing;
-    QTest::newRow("bytes that are no text")
-        << QByteArray("!start!\n\xff\xfe\x00version\n\xc3\n", 20) << nothing;
-}
-
 void tst_UpdateCheck::offers()
 {
-    QFETCH(QByteArray, body);
-    QFETCH(QStringList, told);
-    m_web->serve(body);
-    UpdateCheck check;
-    QCOMPARE(run(check, true), told);
-    QCOMPARE(m_web->requests.size(), 1);
+    const QByteArray link = "https://a/b";
+    const QStringList nothing("up to date");
+    const std::vector<std::pair<QByteArray, QStringList>> toldOfDocuments{
+        {releaseDocument("0.9.10", link), {"0.9.10", "News", "https://a/b"}},
+        {releaseDocument("1", "file:///etc", "<b>a</b>\n%1"), {"1", "<b>a</b> %1", "file:///etc"}},
+        {releaseDocument("0.9.2", link), nothing},
+        {releaseDocument("1", ""), nothing},
+        {releaseDocument("", link), nothing},
+        {QByteArray(), nothing},
+        {QByteArray("!start!\n\xff\xfe\x00version\n\xc3\n", 20), nothing},
+    };
+    for (const auto &[body, told] : toldOfDocuments) {
+        m_web->serve(body);
+        UpdateCheck check;
+        QCOMPARE(run(check, true), told);
+    }
+    QCOMPARE(m_web->requests.size(), int(toldOfDocuments.size()));
 }
 
 void tst_UpdateCheck::onlyAManualCheckTellsThatNothingIsNew()
@@ -153,9 +138,6 @@ void tst_UpdateCheck::readsNoMoreThanTheLimit()
     UpdateCheck check;
     m_web->serve(releaseDocument("1", "https://a") + rest);
     QCOMPARE(run(check, true).value(0), QStringLiteral("1"));
-    QByteArray late = "!start!\nmsg\n" + QByteArray(limit, 'x') + "\n!msg!\nversion\n1\nlink\nl\n";
-    m_web->serve(late + rest);
-    QCOMPARE(run(check, true), QStringList("up to date"));
     // A line that the limit cuts through is none: half a link leads elsewhere.
     const QByteArray padding(limit - 40, 'x');
     m_web->serve("!start!\n" + padding + "\nversion\n1\nlink\nhttps://a/" + rest);
@@ -167,21 +149,12 @@ void tst_UpdateCheck::readsNoMoreThanTheLimit()
     QCOMPARE(run(check, true).value(0), QStringLiteral("1"));
 }
 
-void tst_UpdateCheck::stopsWaiting()
-{
-    UpdateCheck check;
-    check.setTimeLimit(50);
-    QCOMPARE(run(check, true), QStringList("up to date")); // never answered
-}
-
 void tst_UpdateCheck::followsRedirects_data()
 {
     QTest::addColumn<QString>("target"); // %1 is the port of the second server
     QTest::addColumn<bool>("followed");
     QTest::newRow("on this machine") << "http://127.0.0.1:%1/x" << true;
     QTest::newRow("elsewhere in plain text") << "http://192.0.2.1/" << false;
-    QTest::newRow("file") << "file:///etc/passwd" << false;
-    QTest::newRow("data") << "data:text/plain,!start!" << false;
     QTest::newRow("in a circle") << "%2" << false;
 }
 
@@ -200,40 +173,28 @@ void tst_UpdateCheck::followsRedirects()
     QCOMPARE(m_web->requests.size(), target == m_web->address() ? 6 : 1);
 }
 
-void tst_UpdateCheck::asksOnlyWhereItMay_data()
-{
-    QTest::addColumn<QString>("address");
-    QTest::addColumn<bool>("allowed");
-    QTest::addColumn<bool>("fromHttps"); // as a redirect
-    QTest::newRow("https") << "https://paste.example/raw/1" << true << true;
-    QTest::newRow("this machine") << "http://127.0.0.1:80/" << true << false;
-    QTest::newRow("IPv6") << "http://[::1]/" << true << false;
-    QTest::newRow("plain") << "http://paste.example/" << false << false;
-    QTest::newRow("looks local") << "http://127.0.0.1.example/" << false << false;
-    QTest::newRow("user looks local") << "http://localhost@example/" << false << false;
-    QTest::newRow("file") << "file:///etc/passwd" << false << false;
-    QTest::newRow("no host") << "https:///x" << false << false;
-    QTest::newRow("empty") << "" << false << false;
-}
-
 void tst_UpdateCheck::asksOnlyWhereItMay()
 {
-    QFETCH(QString, address);
-    QFETCH(bool, allowed);
-    QFETCH(bool, fromHttps);
-    const QUrl url(address);
-    QCOMPARE(isReleaseAddress(url), allowed);
-    QCOMPARE(isReleaseRedirect(QUrl(QStringLiteral("http://localhost")), url), allowed);
-    QCOMPARE(isReleaseRedirect(QUrl(QStringLiteral("https://a")), url), fromHttps);
-    if (allowed)
-        return;
-    Settings::UpdateUrl.setValue(address);
+    const QUrl local("http://localhost");
+    const QUrl secure("https://a");
+    const QUrl https("https://paste.example/raw/1");
+    QVERIFY(isReleaseAddress(https) && isReleaseRedirect(local, https) && isReleaseRedirect(secure, https));
+    for (const char *address : {"http://127.0.0.1:80/", "http://[::1]/"}) {
+        const QUrl url(address);
+        QVERIFY2(isReleaseAddress(url) && isReleaseRedirect(local, url), address);
+        QVERIFY2(!isReleaseRedirect(secure, url), address);
+    }
     UpdateCheck check;
-    QSignalSpy upToDate(&check, &UpdateCheck::upToDate);
-    check.DoUpdateCheck(false);
-    check.DoUpdateCheck(true);
-    QCOMPARE(upToDate.size(), 1);
-    QVERIFY(!Settings::UpdateDate.exists()); // nothing was sent
+    for (const char *address : {"http://paste.example/", "http://127.0.0.1.example/",
+                                "http://localhost@example/", "file:///etc/passwd", "https:///x", ""}) {
+        const QUrl url(address);
+        QVERIFY2(!isReleaseAddress(url) && !isReleaseRedirect(local, url), address);
+        QVERIFY2(!isReleaseRedirect(secure, url), address);
+        Settings::UpdateUrl.setValue(address);
+        QCOMPARE(run(check, false), QStringList());
+        QCOMPARE(run(check, true), QStringList("up to date"));
+        QVERIFY2(!Settings::UpdateDate.exists(), address); // nothing was sent
+    }
 }
 
 void tst_UpdateCheck::oncePerDay_data()
@@ -275,8 +236,16 @@ void tst_UpdateCheck::oncePerDay()
     QCOMPARE(Settings::UpdateDate.value(), now.addSecs(60));
 }
 
-void tst_UpdateCheck::goesWithItsOwner()
+void tst_UpdateCheck::unanswered()
 {
+    UpdateCheck impatient;
+    impatient.setTimeLimit(50);
+    QCOMPARE(run(impatient, true), QStringList("up to date"));
+    QTRY_COMPARE(m_web->requests.size(), 1);
+
+    // A check goes with its owner.
+    m_web = std::make_unique<LocalWeb>();
+    Settings::UpdateUrl.setValue(m_web->address());
     auto owner = std::make_unique<QObject>();
     auto *check = new UpdateCheck(owner.get());
     bool told = false;

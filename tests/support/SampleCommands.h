@@ -4,6 +4,7 @@
 
 #include "AllCommands.h"
 #include "SampleModels.h"
+#include "TestSupport.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,6 +12,29 @@
 
 /// Every command of the program on the records of a model.
 namespace SampleCommands {
+/// Shows nothing.
+struct BlindView : DocumentView
+{
+    void recordChanged(const RecordRef &) override {}
+    void structureChanged(const StructureChange &) override {}
+};
+
+/// The odd model of a kind, and a real one where there is one.
+template <typename Model>
+std::vector<Model> oddAndReal()
+{
+    std::vector<Model> models{SampleModels::oddModel<Model>()};
+    const QString path = TestSupport::shared(
+        std::is_same_v<Model, SkinnedMesh> ? QStringLiteral("gamedata/game/models/fox/fox.skinnedmesh")
+        : std::is_same_v<Model, AnimFile>
+            ? QStringLiteral("gamedata/game/anims/knight/knight.anim")
+            : QStringLiteral("gamedata/game/models/avocado/avocado.staticmesh"));
+    Model real;
+    if (!path.isEmpty() && !real.read(path))
+        models.push_back(std::move(real));
+    return models;
+}
+
 /// How many of the indexes a kind of record needs.
 template <typename RecordType, typename = void>
 inline constexpr size_t indexCount =

@@ -163,15 +163,42 @@ Model plainModel()
         return plainStatic();
 }
 
+/// The one of a kind with everything in it.
+template <typename Model>
+Model oddModel()
+{
+    if constexpr (std::is_same_v<Model, SkinnedMesh>)
+        return skinnedMesh();
+    else if constexpr (std::is_same_v<Model, AnimFile>)
+        return animFile();
+    else
+        return staticMesh();
+}
+
+/// The same, with so many vertices or frames.
+template <typename Model>
+Model longModel(int length)
+{
+    auto model = oddModel<Model>();
+    if constexpr (std::is_same_v<Model, AnimFile>)
+        model.blocks[0].setFrameCount(length);
+    else
+        model.vertices.resize(size_t(length));
+    return model;
+}
+
+inline QByteArray bytesOf(BinaryFileWriter &writer)
+{
+    const std::vector<uchar> &bytes = writer.bytes();
+    return QByteArray(reinterpret_cast<const char *>(bytes.data()), int(bytes.size()));
+}
+
 /// The bytes of the file that the model would be saved as; empty when it refuses.
 template <typename Model>
 QByteArray bytesOf(const Model &model)
 {
     BinaryFileWriter writer;
-    if (model.write(writer))
-        return {};
-    const std::vector<uchar> &bytes = writer.bytes();
-    return QByteArray(reinterpret_cast<const char *>(bytes.data()), int(bytes.size()));
+    return model.write(writer) ? QByteArray() : bytesOf(writer);
 }
 
 /// Reads `bytes` as a file into a fresh `model`. Returns true on failure.
@@ -209,10 +236,8 @@ inline const QStringList &suffixes()
 /// The bytes of the sample of one kind.
 inline QByteArray bytesOfSample(const QString &suffix)
 {
-    if (suffix == QLatin1String("skinnedmesh"))
-        return bytesOf(skinnedMesh());
-    if (suffix == QLatin1String("anim"))
-        return bytesOf(animFile());
-    return bytesOf(staticMesh());
+    QByteArray bytes;
+    withModel(suffix, [&bytes](auto model) { bytes = bytesOf(oddModel<decltype(model)>()); });
+    return bytes;
 }
 } // namespace SampleModels

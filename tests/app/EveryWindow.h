@@ -8,6 +8,7 @@
 #include "ControlsDialog.h"
 #include "CrashReportDialog.h"
 #include "DatabaseTab.h"
+#include "Find.h"
 #include "ImportDialog.h"
 #include "MainWindow.h"
 #include "OneRun.h"
@@ -19,7 +20,6 @@
 #include "Shortcuts.h"
 
 #include <QAbstractButton>
-#include <QAbstractItemView>
 #include <QAbstractScrollArea>
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>
@@ -36,46 +36,12 @@
 #include <QTabBar>
 
 /// Says what is wrong, a line each: a message of a test is cut off when it is long.
-inline void report(const QStringList &faults)
+inline void checkNone(const QStringList &faults)
 {
     for (const QString &fault : faults)
         qWarning("%s", qPrintable(fault));
+    QCOMPARE(faults.size(), 0);
 }
-
-/// The main window and every dialog, for tests that look at all of them.
-struct EveryWindow
-{
-    explicit EveryWindow(const QString &folder)
-        : run(folder + QStringLiteral("/recovery"))
-        , recover(*run.recovery)
-        , crash(folder + QStringLiteral("/report.txt"))
-        , palette(*main.menuBar(), QList<QAction *>(), nullptr)
-    {
-        main.findChild<DatabaseTab *>()->load();
-    }
-
-    QVector<QWidget *> all()
-    {
-        return {&main,  &options,  &importMesh, &importStatic, &rotate,  &scale,  &newSize,
-                &about, &controls, &recover,    &crash,        &palette, &picture};
-    }
-
-    OneRun run;
-    MainWindow main;
-    Shortcuts &shortcuts = *main.findChild<Shortcuts *>();
-    OptionsDialog options{nullptr, &shortcuts};
-    ImportDialog importMesh{ImportDialog::SkinnedMeshMode};
-    ImportDialog importStatic{ImportDialog::StaticMeshMode};
-    RotateDialog rotate;
-    ScaleDialog scale;
-    ChangeSizeDialog newSize{QStringLiteral("Size"), 1, 10, 5};
-    AboutDialog about;
-    ControlsDialog controls{shortcuts};
-    RecoverDialog recover;
-    CrashReportDialog crash;
-    CommandPalette palette;
-    PictureDialog picture{{640, 480}, nullptr};
-};
 
 namespace EveryWidget {
 inline QString describe(const QWidget *widget)
@@ -123,81 +89,115 @@ inline QStringList withoutName(const QWidget &window)
     return found;
 }
 
-using Mnemonics = QMap<QString, QString>; ///< whose it is, by key
-
-inline void addMnemonic(const QString &text, const QString &whose, Mnemonics &used, QStringList &clashes)
+/// Of the pages of a stack one is seen.
+inline bool areSeenTogether(const QWidget *one, const QWidget *other)
 {
-    const QString key = QKeySequence::mnemonic(text).toString();
-    if (key.isEmpty())
-        return;
-    if (used.contains(key))
-        clashes << QStringLiteral("%1: %2 and %3").arg(key, used[key], whose);
-    else
-        used.insert(key, whose);
+    for (; one->parentWidget(); one = one->parentWidget()) {
+        const auto *stack = qobject_cast<const QStackedWidget *>(one->parentWidget());
+        if (stack && stack->isAncestorOf(other))
+            return one == other || one->isAncestorOf(other);
+    }
+    return true;
 }
 
-inline QString mnemonicText(const QWidget *widget)
+/// The letters that have been come by, and which of them stand twice in what is seen together.
+class Letters
 {
-    if (const auto *label = qobject_cast<const QLabel *>(widget))
-        return label->buddy() ? label->text() : QString();
-    if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
-        return button->text();
-    if (const auto *group = qobject_cast<const QGroupBox *>(widget))
-        return group->title();
-    return {};
-}
+public:
+    void add(const QString &text, const QWidget *widget)
+    {
+        const QString key = QKeySequence::mnemonic(text).toString();
+        for (const Letter &letter : qAsConst(m_letters)) {
+            if (letter.key == key && areSeenTogether(letter.widget, widget))
+                clashes << QStringLiteral("%1 and %2 in %3").arg(letter.text, text, describe(widget));
+        }
+        if (!key.isEmpty())
+            m_letters.append({key, text, widget});
+    }
+    void add(const QList<QAction *> &actions, const QWidget *widget)
+    {
+        for (const QAction *action : actions)
+            add(action->text(), widget);
+    }
 
-inline void collectMnemonics(const QWidget *widget, Mnemonics &used, QVector<const QStackedWidget *> &stacks,
-                             QStringList &clashes)
-{
-    addMnemonic(mnemonicText(widget), describe(widget), used, clashes);
-    if (const auto *bar = qobject_cast<const QMenuBar *>(widget)) {
-        for (const QAction *action : bar->actions())
-            addMnemonic(action->text(), QStringLiteral("menu ") + action->text(), used, clashes);
-        return;
-    }
-    if (const auto *tabs = qobject_cast<const QTabBar *>(widget)) {
-        for (int i = 0; i < tabs->count(); ++i)
-            addMnemonic(tabs->tabText(i), QStringLiteral("tab ") + tabs->tabText(i), used, clashes);
-    }
-    if (const auto *stack = qobject_cast<const QStackedWidget *>(widget)) {
-        stacks << stack;
-        return;
-    }
-    for (const QObject *child : widget->children()) {
-        const auto *below = qobject_cast<const QWidget *>(child);
-        if (below && !below->isWindow())
-            collectMnemonics(below, used, stacks, clashes);
-    }
-}
-
-/// The keys that two widgets have which can be seen at the same time; of stacked pages one is seen.
-inline QStringList mnemonicClashes(const QWidget *widget, Mnemonics used = {})
-{
     QStringList clashes;
-    QVector<const QStackedWidget *> stacks;
-    const auto *stack = qobject_cast<const QStackedWidget *>(widget);
-    if (stack)
-        stacks << stack;
-    else
-        collectMnemonics(widget, used, stacks, clashes);
-    for (const QStackedWidget *each : stacks) {
-        for (int page = 0; page < each->count(); ++page)
-            clashes << mnemonicClashes(each->widget(page), used);
-    }
-    return clashes;
-}
 
-/// The same within the menus of a window.
-inline QStringList menuClashes(const QWidget &window)
+private:
+    struct Letter
+    {
+        QString key, text;
+        const QWidget *widget;
+    };
+    QVector<Letter> m_letters;
+};
+
+inline QStringList mnemonicClashes(const QWidget *window)
 {
+    Letters letters;
     QStringList clashes;
-    for (const QMenu *menu : window.findChildren<QMenu *>()) {
-        Mnemonics used;
-        for (const QAction *action : menu->actions())
-            addMnemonic(action->text(), menu->title() + QStringLiteral(" > ") + action->text(), used,
-                        clashes);
+    for (const QWidget *widget : window->findChildren<QWidget *>()) {
+        if (qobject_cast<const QMenu *>(widget)) {
+            Letters ofMenu;
+            ofMenu.add(widget->actions(), widget);
+            clashes << ofMenu.clashes;
+        }
+        if (widget->window() != window)
+            continue;
+        if (const auto *label = qobject_cast<const QLabel *>(widget); label && label->buddy())
+            letters.add(label->text(), label);
+        if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
+            letters.add(button->text(), button);
+        if (const auto *group = qobject_cast<const QGroupBox *>(widget))
+            letters.add(group->title(), group);
+        if (qobject_cast<const QMenuBar *>(widget))
+            letters.add(widget->actions(), widget);
+        const auto *tabs = qobject_cast<const QTabBar *>(widget);
+        for (int i = 0; tabs && i < tabs->count(); ++i)
+            letters.add(tabs->tabText(i), tabs);
     }
-    return clashes;
+    return clashes + letters.clashes;
 }
 } // namespace EveryWidget
+
+/// The main window and every dialog, for tests that look at all of them.
+struct EveryWindow
+{
+    explicit EveryWindow(const QString &folder)
+        : run(folder + QStringLiteral("/recovery"))
+        , recover(*run.recovery)
+        , crash(folder + QStringLiteral("/report.txt"))
+        , palette(*main.menuBar(), QList<QAction *>(), nullptr)
+    {
+        main.findChild<DatabaseTab *>()->load();
+    }
+
+    QVector<QWidget *> all()
+    {
+        return {&main,  &options,  &importMesh, &importStatic, &rotate,  &scale,  &newSize,
+                &about, &controls, &recover,    &crash,        &palette, &picture};
+    }
+    /// The letters that stand twice, in a window or in one of its menus.
+    QStringList mnemonicClashes()
+    {
+        QStringList clashes;
+        for (const QWidget *window : all())
+            clashes << EveryWidget::mnemonicClashes(window);
+        return clashes;
+    }
+
+    OneRun run;
+    MainWindow main;
+    Shortcuts &shortcuts = *main.findChild<Shortcuts *>();
+    OptionsDialog options{nullptr, &shortcuts};
+    ImportDialog importMesh{ImportDialog::SkinnedMeshMode};
+    ImportDialog importStatic{ImportDialog::StaticMeshMode};
+    RotateDialog rotate;
+    ScaleDialog scale;
+    ChangeSizeDialog newSize{QStringLiteral("Size"), 1, 10, 5};
+    AboutDialog about;
+    ControlsDialog controls{shortcuts};
+    RecoverDialog recover;
+    CrashReportDialog crash;
+    CommandPalette palette;
+    PictureDialog picture{{640, 480}, nullptr};
+};

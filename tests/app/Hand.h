@@ -3,13 +3,18 @@
 #pragma once
 
 #include "AnimFile.h"
+#include "Find.h"
+#include "KVTreeView.h"
+#include "MainWindow.h"
 #include "SkinnedMesh.h"
 
 #include <QApplication>
 #include <QDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QTimer>
 #include <QVector>
 
@@ -44,6 +49,17 @@ public:
         return [button](QDialog *dialog) { static_cast<QMessageBox *>(dialog)->button(button)->click(); };
     }
     static void reject(QDialog *dialog) { dialog->reject(); }
+    /// Types the path into a dialog of files; a folder is entered first, and chosen then.
+    static Answer file(const QString &path)
+    {
+        return [path](QDialog *dialog) {
+            auto *line = find<QLineEdit>(*dialog, "fileNameEdit");
+            line->setText(path);
+            QTest::keyClick(line, Qt::Key_Return);
+            if (dialog->isVisible())
+                QTest::keyClick(line, Qt::Key_Return);
+        };
+    }
 
     QStringList seen;
 
@@ -77,4 +93,33 @@ inline AnimFile twoBlocks()
         block.setFrameCount(11);
     }
     return file;
+}
+
+/// The whole program, in front of everything, with these files.
+struct ShownWindow : MainWindow
+{
+    explicit ShownWindow(const QStringList &paths = {})
+    {
+        show();
+        openFiles(paths);
+        if (!QTest::qWaitForWindowExposed(this))
+            qFatal("no window");
+        QApplication::setActiveWindow(this);
+    }
+};
+
+inline void typeNumber(QSpinBox *box, int number)
+{
+    box->setFocus();
+    box->selectAll();
+    QTest::keyClicks(box, QString::number(number));
+    QTest::keyClick(box, Qt::Key_Return);
+}
+
+/// An edit as the user makes it: bone 1 of the mesh that is open gets another parent.
+inline void typeParent(const QWidget &window, int parent)
+{
+    const RecordRef bone{RecordKind::Bone, {1}};
+    find<KVTreeView>(window, "treeSkinnedMesh")->selectRecords({bone}, bone);
+    typeNumber(find<QSpinBox>(window, "sbNodeParentNode"), parent);
 }

@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "EveryWindow.h"
-#include "Settings.h"
-#include "TestSupport.h"
 
 /// Whether everything can be named by a screen reader and reached by the keyboard.
 class tst_Accessibility : public QObject
@@ -10,41 +8,22 @@ class tst_Accessibility : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void everythingHasAName();
-    void mnemonicsDoNotClash();
+    void init() { useFolder(m_home); }
+    void everythingHasANameAndItsLetter();
     void everyDialogIsUsableByKeyboard();
 
 private:
     QTemporaryDir m_home;
 };
 
-void tst_Accessibility::init()
-{
-    TestSupport::useSettingsHome(m_home);
-    Settings::GamePath.setValue(m_home.path());
-    Settings::OutputDir.setValue(m_home.path());
-    Settings::Updates.setValue(false);
-}
-
-void tst_Accessibility::everythingHasAName()
+void tst_Accessibility::everythingHasANameAndItsLetter()
 {
     EveryWindow windows(m_home.path());
     QStringList faults;
     for (const QWidget *window : windows.all())
         faults << EveryWidget::withoutName(*window);
-    report(faults);
-    QCOMPARE(faults.size(), 0);
-}
-
-void tst_Accessibility::mnemonicsDoNotClash()
-{
-    EveryWindow windows(m_home.path());
-    QStringList faults;
-    for (const QWidget *window : windows.all())
-        faults << EveryWidget::mnemonicClashes(window) << EveryWidget::menuClashes(*window);
-    report(faults);
-    QCOMPARE(faults.size(), 0);
+    checkNone(faults);
+    checkNone(windows.mnemonicClashes());
 }
 
 void tst_Accessibility::everyDialogIsUsableByKeyboard()
@@ -76,8 +55,7 @@ void tst_Accessibility::everyDialogIsUsableByKeyboard()
         QTest::keyClick(dialog, Qt::Key_Escape);
         QVERIFY2(!dialog->isVisible(), dialog->metaObject()->className());
     }
-    report(faults);
-    QCOMPARE(faults.size(), 0);
+    checkNone(faults);
 }
 
 QTEST_MAIN(tst_Accessibility)

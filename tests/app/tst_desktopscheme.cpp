@@ -17,20 +17,17 @@ class Portal : public QObject
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
 
 public:
-    uint scheme = 1;
+    QStringList asked;
 
 public slots:
     QDBusVariant Read(const QString &group, const QString &key)
     {
         asked << group + QLatin1Char('/') + key;
-        return QDBusVariant(QVariant::fromValue(QDBusVariant(scheme)));
+        return QDBusVariant(QVariant::fromValue(QDBusVariant(1u)));
     }
 
 signals:
     void SettingChanged(const QString &group, const QString &key, const QDBusVariant &value);
-
-public:
-    QStringList asked;
 };
 
 /// Whether the desktop's wish for dark windows is heard, on a bus of the test's own.

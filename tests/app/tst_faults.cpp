@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "Find.h"
 #include "Hand.h"
-#include "KVTreeView.h"
-#include "MainWindow.h"
 #include "Settings.h"
 #include "TestSupport.h"
 
@@ -12,7 +10,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
-#include <QSpinBox>
 
 /// The program in surroundings that fail it. All of this runs without OpenGL.
 class TestFaults : public QObject
@@ -31,18 +28,14 @@ private:
     /// Opens a model, edits it and saves it, as if nothing were wrong.
     void useProgram();
 
-    std::unique_ptr<QTemporaryDir> m_home;
     std::unique_ptr<QTemporaryDir> m_files;
 };
 
 void TestFaults::init()
 {
-    m_home = std::make_unique<QTemporaryDir>();
     m_files = std::make_unique<QTemporaryDir>();
-    TestSupport::useSettingsHome(*m_home);
-    qputenv("XDG_DATA_HOME", QFile::encodeName(m_home->path()));
-    for (const auto *key : {&Settings::GamePath, &Settings::OutputDir})
-        key->setValue(m_files->path());
+    qputenv("XDG_DATA_HOME", QFile::encodeName(m_files->path()));
+    useFolder(*m_files);
 }
 
 void TestFaults::useProgram()
@@ -55,12 +48,7 @@ void TestFaults::useProgram()
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     window.openAtStart({path});
-    const RecordRef bone{RecordKind::Bone, {1, 0, 0}};
-    find<KVTreeView>(window, "treeSkinnedMesh")->selectRecords({bone}, bone);
-    auto *parent = find<QSpinBox>(window, "sbNodeParentNode");
-    parent->selectAll();
-    QTest::keyClicks(parent, QStringLiteral("7"));
-    QTest::keyClick(parent, Qt::Key_Return);
+    typeParent(window, 7);
     find<QAction>(window, "actionSave")->trigger();
     SkinnedMesh saved;
     QVERIFY(!saved.read(path));
@@ -72,9 +60,7 @@ void TestFaults::useProgram()
 void TestFaults::withoutOpenGLAllElseWorks()
 {
     useProgram();
-    MainWindow window;
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    ShownWindow window;
     const auto *notice =
         find<QWidget>(window, "viewSkinnedPanel")->findChild<QLabel *>(QStringLiteral("lblViewportFailure"));
     QVERIFY(notice && notice->isVisible());
@@ -103,9 +89,7 @@ void TestFaults::theFolderGoesWhileTheDialogIsOpen()
     const QString path = m_files->filePath(QStringLiteral("man.skinnedmesh"));
     QVERIFY(QDir().mkpath(folder));
     QVERIFY(!triangleMan().write(path));
-    MainWindow window;
-    window.show();
-    window.openFiles({path});
+    ShownWindow window({path});
     Hand hand({[&folder](QDialog *dialog) {
                    auto *name = dialog->findChild<QLineEdit *>();
                    name->setText(folder + QStringLiteral("/new.skinnedmesh"));
@@ -124,12 +108,10 @@ void TestFaults::anySettingMayHoldAnything_data()
 {
     QTest::addColumn<QVariant>("value");
     QTest::newRow("word") << QVariant(QStringLiteral("nonsense %1 \n"));
-    QTest::newRow("empty") << QVariant(QString());
     QTest::newRow("huge") << QVariant(QStringLiteral("99999999999999999999"));
     QTest::newRow("most") << QVariant(std::numeric_limits<int>::max());
     QTest::newRow("least") << QVariant(std::numeric_limits<int>::min());
     QTest::newRow("float") << QVariant(-1e30);
-    QTest::newRow("not a number") << QVariant(QStringLiteral("nan"));
     QTest::newRow("list") << QVariant(QStringList({QStringLiteral("a"), QStringLiteral("b")}));
     QTest::newRow("bytes") << QVariant(QByteArray("\0\xff\x01", 3));
     QTest::newRow("size") << QVariant(QSize(-5, 1 << 30));
@@ -158,12 +140,14 @@ void TestFaults::anySettingMayHoldAnything()
 void TestFaults::theStoreCannotBeReadNorWritten()
 {
     // Where the store's folder should be is a file.
-    QVERIFY(TestSupport::writeFile(m_home->filePath(QStringLiteral("file")), "x"));
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_home->filePath(QStringLiteral("file")));
+    const QString file = m_files->filePath(QStringLiteral("file"));
+    QVERIFY(TestSupport::writeFile(file, "x"));
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, file);
     QVERIFY(!Settings::HideMeshData.exists());
     useProgram();
     // Where the store should be is a folder.
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_files->path());
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
+                       m_files->filePath(QStringLiteral("other")));
     QVERIFY(QDir().mkpath(QSettings().fileName()));
     useProgram();
 }

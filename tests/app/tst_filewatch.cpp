@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "Find.h"
 #include "Hand.h"
 #include "NoticeBar.h"
 #include "OneRun.h"
 #include "ReloadPrompt.h"
-#include "TestSupport.h"
 
 #include <QVBoxLayout>
 
@@ -35,10 +35,7 @@ private slots:
 
 private:
     QString path() const { return m_folder->filePath(QStringLiteral("man.skinnedmesh")); }
-    QPushButton *button(const char *name) const
-    {
-        return m_bar->findChild<QPushButton *>(QLatin1String(name));
-    }
+    QPushButton *button(const char *name) const { return find<QPushButton>(*m_bar, name); }
     int factor() const { return m_run->mesh.model().headTrackFactor; }
     void tick() const
     {
@@ -132,7 +129,8 @@ void TestFileWatch::aFileIsWaitedFor()
     QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
     // Longer than the rest time in all, with pauses that are shorter.
     for (int i = 0; i < bytes.size(); i += bytes.size() / 6) {
-        QCOMPARE(file.write(bytes.mid(i, bytes.size() / 6)), qint64(bytes.mid(i, bytes.size() / 6).size()));
+        const QByteArray part = bytes.mid(i, bytes.size() / 6);
+        QCOMPARE(file.write(part), qint64(part.size()));
         QTest::qWait(FileWatch::RestMs / 3);
         QVERIFY(m_bar->isHidden());
     }

@@ -1,22 +1,15 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "Find.h"
 #include "Hand.h"
 #include "KVOpenGLWidget.h"
-#include "KVTreeView.h"
-#include "MainWindow.h"
-#include "Playback.h"
-#include "TestSupport.h"
 
 #include <QDockWidget>
 #include <QLabel>
 #include <QMessageBox>
 #include <QOpenGLContext>
 #include <QScreen>
-#include <QSignalSpy>
 #include <QSurfaceFormat>
 #include <QTabWidget>
-#include <QUndoStack>
 #include <QWindow>
 
 /// A reset of the graphics driver under the whole program: its window's context goes with those of the
@@ -39,20 +32,33 @@ private:
         view->update();
         QTRY_VERIFY(!swapped.isEmpty());
     }
+    static QSurfaceFormat impossibleFormat()
+    {
+        QSurfaceFormat format;
+        format.setRenderableType(QSurfaceFormat::OpenVG);
+        return format;
+    }
     /// None of the window's contexts works any more. No frame may be half way to the screen.
     static void reset(MainWindow &window)
     {
-        QSurfaceFormat impossible;
-        impossible.setRenderableType(QSurfaceFormat::OpenVG);
         for (KVOpenGLWidget *view : window.findChildren<KVOpenGLWidget *>()) {
             if (!view->isValid())
                 continue;
             for (QOpenGLContext *context : {view->context()->shareContext(), view->context()}) {
-                context->setFormat(impossible);
+                context->setFormat(impossibleFormat());
                 QVERIFY(!context->create());
             }
         }
     }
+    /// Of what is really on the screen.
+    static QImage grab(const QWidget *view, const QRect &part)
+    {
+        const QPoint corner = view->mapToGlobal(part.topLeft());
+        return QGuiApplication::primaryScreen()
+            ->grabWindow(0, corner.x(), corner.y(), part.width(), part.height())
+            .toImage();
+    }
+    static int whitePixels(const QWidget *view) { return countPixels(grab(view, view->rect()), Qt::white); }
     /// The notice is in the view's place, and really on the screen: a window that cannot be put together
     /// stays black.
     static void checkNotice(const MainWindow &window, const QString &word)
@@ -61,29 +67,9 @@ private:
                                  ->findChild<QLabel *>(QStringLiteral("lblViewportFailure"));
         QTRY_VERIFY(notice->isVisible());
         QVERIFY(notice->text().contains(word));
-        const QPoint corner = notice->mapToGlobal({10, 10});
-        QTRY_COMPARE(QGuiApplication::primaryScreen()
-                         ->grabWindow(0, corner.x(), corner.y(), 1, 1)
-                         .toImage()
-                         .pixelColor(0, 0),
-                     window.palette().color(QPalette::Window));
-    }
-    /// Of what is really on the screen.
-    static int whitePixels(const QWidget *view)
-    {
-        const QPoint corner = view->mapToGlobal({});
-        const QImage image = QGuiApplication::primaryScreen()
-                                 ->grabWindow(0, corner.x(), corner.y(), view->width(), view->height())
-                                 .toImage();
-        int white = 0;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x)
-                white += image.pixelColor(x, y) == QColor(Qt::white) ? 1 : 0;
-        }
-        return white;
+        QTRY_COMPARE(grab(notice, {10, 10, 1, 1}).pixelColor(0, 0), window.palette().color(QPalette::Window));
     }
 
-    std::unique_ptr<QTemporaryDir> m_home;
     std::unique_ptr<QTemporaryDir> m_files;
     QString m_skinned;
     QString m_rigid;
@@ -91,12 +77,9 @@ private:
 
 void TestGraphicsReset::init()
 {
-    m_home = std::make_unique<QTemporaryDir>();
     m_files = std::make_unique<QTemporaryDir>();
-    TestSupport::useSettingsHome(*m_home);
-    qputenv("XDG_DATA_HOME", QFile::encodeName(m_home->path()));
-    for (const auto *key : {&Settings::GamePath, &Settings::OutputDir})
-        key->setValue(m_files->path());
+    useFolder(*m_files);
+    qputenv("XDG_DATA_HOME", QFile::encodeName(m_files->path()));
     m_skinned = m_files->filePath(QStringLiteral("man.skinnedmesh"));
     QVERIFY(!triangleMan().write(m_skinned));
     StaticMesh rigid;
@@ -108,10 +91,7 @@ void TestGraphicsReset::init()
 
 void TestGraphicsReset::theWindowComesBackAsItWas()
 {
-    MainWindow window;
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    window.openFiles({m_rigid, m_skinned});
+    ShownWindow window({m_rigid, m_skinned});
     auto *tabs = find<QTabWidget>(window, "tabWidget");
     auto *skinned = find<KVOpenGLWidget>(window, "viewSkinned");
     auto *rigid = find<KVOpenGLWidget>(window, "viewStatic");
@@ -156,10 +136,7 @@ void TestGraphicsReset::theWindowComesBackAsItWas()
 
 void TestGraphicsReset::aDriverThatGoesOnFailingCostsTheViewOnly()
 {
-    MainWindow window;
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    window.openFiles({m_skinned});
+    ShownWindow window({m_skinned});
     auto *view = find<KVOpenGLWidget>(window, "viewSkinned");
     QSignalSpy failed(view, &KVOpenGLWidget::failed);
     QTRY_VERIFY(view->isValid());
@@ -173,13 +150,8 @@ void TestGraphicsReset::aDriverThatGoesOnFailingCostsTheViewOnly()
 void TestGraphicsReset::noContextIsToBeHad()
 {
     const QSurfaceFormat usual = QSurfaceFormat::defaultFormat();
-    QSurfaceFormat impossible;
-    impossible.setRenderableType(QSurfaceFormat::OpenVG);
-    QSurfaceFormat::setDefaultFormat(impossible);
-    MainWindow window;
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    window.openFiles({m_skinned});
+    QSurfaceFormat::setDefaultFormat(impossibleFormat());
+    ShownWindow window({m_skinned});
     checkNotice(window, QStringLiteral("OpenGL"));
     QSurfaceFormat::setDefaultFormat(usual);
 }

@@ -1,21 +1,14 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "DocumentKind.h"
 #include "Find.h"
 #include "Hand.h"
 #include "KVTreeView.h"
-#include "MainWindow.h"
 #include "TestSupport.h"
 
 #include <QAction>
 #include <QDropEvent>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QMimeData>
-#include <QSpinBox>
 #include <QStackedWidget>
-#include <QSurfaceFormat>
 #include <QTabWidget>
 
 /// Models of other programs, in and out of the whole window.
@@ -27,11 +20,9 @@ private slots:
     void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
     void init();
     void droppedFiles();
-    void importReplacesBothDocuments();
-    void failedImportTouchesNothing();
+    void onlyAnImportThatSucceedsReplacesBothDocuments();
     void unsavedChangesAreAskedFor();
     void exportAndBack();
-    void exportOnOtherTabs();
 
 private:
     QString writeBytes(const QString &name, const QByteArray &bytes)
@@ -52,12 +43,11 @@ private:
     }
     static void trigger(const MainWindow &window, const char *action)
     {
-        window.findChild<QAction *>(QString::fromLatin1(action))->trigger();
+        find<QAction>(window, action)->trigger();
     }
     static QString rootLabel(const MainWindow &window, const char *tree)
     {
-        auto *view = find<KVTreeView>(window, tree);
-        return view->model()->index(0, 0).data().toString();
+        return find<KVTreeView>(window, tree)->model()->index(0, 0).data().toString();
     }
     /// Presses Import, waits for the end, notes the page and leaves.
     Hand::Answer importing()
@@ -74,26 +64,21 @@ private:
         };
     }
 
-    QTemporaryDir m_home;
     std::unique_ptr<QTemporaryDir> m_files;
     QString m_page;
 };
 
 void tst_ImportExport::init()
 {
-    TestSupport::useSettingsHome(m_home);
     m_files = std::make_unique<QTemporaryDir>();
+    useFolder(*m_files);
     m_page.clear();
-    Settings::GamePath.setValue(m_files->path());
-    Settings::OutputDir.setValue(m_files->path());
     Settings::ImportRotPitch.setValue(false);
-    Settings::Updates.setValue(false);
 }
 
 void tst_ImportExport::droppedFiles()
 {
-    MainWindow window;
-    window.show();
+    ShownWindow window;
     const auto drop = [&window](const QStringList &paths) {
         QMimeData mime;
         QList<QUrl> urls;
@@ -124,29 +109,27 @@ void tst_ImportExport::droppedFiles()
     QCOMPARE(rootLabel(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
 }
 
-void tst_ImportExport::importReplacesBothDocuments()
+void tst_ImportExport::onlyAnImportThatSucceedsReplacesBothDocuments()
 {
-    MainWindow window;
-    window.show();
-    window.openFiles({write(QStringLiteral("man.skinnedmesh"), triangleMan()),
-                      write(QStringLiteral("man.anim"), twoBlocks())});
+    ShownWindow window({write(QStringLiteral("man.skinnedmesh"), triangleMan()),
+                        write(QStringLiteral("man.anim"), twoBlocks())});
     const QString original = m_files->filePath(QStringLiteral("man.skinnedmesh"));
     const QByteArray before = TestSupport::readFile(original);
-    Hand hand({importing(),
+    Hand hand({importing(), importing(),
                // A model without a file asks where to: the file that was open before is left alone.
-               [this](QDialog *dialog) {
-                   static_cast<QFileDialog *>(dialog)->selectFile(
-                       m_files->filePath(QStringLiteral("saved.skinnedmesh")));
-                   QTest::keyClick(dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit")),
-                                   Qt::Key_Return);
-               }});
+               Hand::file(m_files->filePath(QStringLiteral("saved.skinnedmesh")))});
+    window.openFiles({writeBytes(QStringLiteral("broken.obj"), "v")});
+    QCOMPARE(m_page, QStringLiteral("pageError"));
+    QCOMPARE(rootLabel(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
+    QCOMPARE(rootLabel(window, "treeAnim"), QStringLiteral("man.anim"));
+
     window.openFiles({writeObj(QStringLiteral("box.obj"))});
     QCOMPARE(m_page, QStringLiteral("pageSuccess"));
     QCOMPARE(rootLabel(window, "treeSkinnedMesh"), QStringLiteral("box.skinnedmesh"));
     QCOMPARE(rootLabel(window, "treeAnim"), QStringLiteral("box.anim"));
     QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - box.skinnedmesh"));
     trigger(window, "actionSave");
-    QCOMPARE(hand.seen.size(), 2);
+    QCOMPARE(hand.seen.size(), 3);
     QCOMPARE(TestSupport::readFile(original), before);
     SkinnedMesh saved;
     QVERIFY(!saved.read(m_files->filePath(QStringLiteral("saved.skinnedmesh"))));
@@ -154,30 +137,10 @@ void tst_ImportExport::importReplacesBothDocuments()
     QCOMPARE(saved.surfaces.at(0).materialPath, QStringLiteral("materials/mat_box/surf_0_white"));
 }
 
-void tst_ImportExport::failedImportTouchesNothing()
-{
-    MainWindow window;
-    window.show();
-    window.openFiles({write(QStringLiteral("man.skinnedmesh"), triangleMan())});
-    Hand hand({importing()});
-    window.openFiles({writeBytes(QStringLiteral("broken.obj"), "v")});
-    QCOMPARE(m_page, QStringLiteral("pageError"));
-    QCOMPARE(rootLabel(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
-    QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh"));
-}
-
 void tst_ImportExport::unsavedChangesAreAskedFor()
 {
-    MainWindow window;
-    window.show();
-    window.openFiles({write(QStringLiteral("man.skinnedmesh"), triangleMan())});
-    auto *tree = find<KVTreeView>(window, "treeSkinnedMesh");
-    const RecordRef bone{RecordKind::Bone, {1, 0, 0}};
-    tree->selectRecords({bone}, bone);
-    auto *parent = find<QSpinBox>(window, "sbNodeParentNode");
-    parent->selectAll();
-    QTest::keyClicks(parent, QStringLiteral("7"));
-    QTest::keyClick(parent, Qt::Key_Return);
+    ShownWindow window({write(QStringLiteral("man.skinnedmesh"), triangleMan())});
+    typeParent(window, 7);
     QVERIFY(window.windowTitle().endsWith(QLatin1String(" * ")));
     Hand hand({Hand::press(QMessageBox::Cancel), Hand::press(QMessageBox::No), Hand::reject});
     trigger(window, "actionImport");
@@ -191,24 +154,27 @@ void tst_ImportExport::unsavedChangesAreAskedFor()
 
 void tst_ImportExport::exportAndBack()
 {
-    MainWindow window;
-    window.show();
-    find<QTabWidget>(window, "tabWidget")->setCurrentWidget(find<QWidget>(window, "tabStatic"));
+    ShownWindow window;
     QVERIFY(QDir(m_files->path()).mkpath(QStringLiteral("out")));
     const QString out = m_files->filePath(QStringLiteral("out"));
-    const auto choose = [&out](QDialog *dialog) {
-        auto *files = static_cast<QFileDialog *>(dialog);
-        auto *name = files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-        name->setText(out);
-        QTest::keyClick(name, Qt::Key_Return);
-        if (dialog->isVisible())
-            QTest::keyClick(name, Qt::Key_Return);
+    Hand hand({Hand::press(QMessageBox::Ok), importing(), Hand::file(out), Hand::file(out),
+               Hand::press(QMessageBox::No)});
+    const auto showTab = [&window](const char *tab) {
+        find<QTabWidget>(window, "tabWidget")->setCurrentWidget(find<QWidget>(window, tab));
     };
-    Hand hand({importing(), choose, choose, Hand::press(QMessageBox::No)});
+    // Only static meshes leave.
+    trigger(window, "actionExport");
+    QCOMPARE(hand.seen, QStringList(QStringLiteral("Error|No dice!")));
+    showTab("tabDatabase");
+    trigger(window, "actionExport");
+    trigger(window, "actionImport");
+    QCOMPARE(hand.seen.size(), 1);
+
+    showTab("tabStatic");
     window.openFiles({writeObj(QStringLiteral("box.obj"))});
     QCOMPARE(m_page, QStringLiteral("pageSuccess"));
     trigger(window, "actionExport");
-    QCOMPARE(hand.seen.value(1), QStringLiteral("Export To Folder"));
+    QCOMPARE(hand.seen.value(2), QStringLiteral("Export To Folder"));
     QCOMPARE(Settings::StaticMeshExportPath.value(), out);
     QCOMPARE(QDir(out).entryList(QDir::Files),
              QStringList({QStringLiteral("box.mtl"), QStringLiteral("box.obj")}));
@@ -218,32 +184,10 @@ void tst_ImportExport::exportAndBack()
     // What stands there is not replaced unasked.
     QVERIFY(TestSupport::writeFile(obj, "mine"));
     trigger(window, "actionExport");
-    QCOMPARE(hand.seen.size(), 4);
-    QVERIFY(hand.seen[3].startsWith(QLatin1String("Export|These files exist already.")));
+    QCOMPARE(hand.seen.size(), 5);
+    QVERIFY(hand.seen[4].startsWith(QLatin1String("Export|These files exist already.")));
     QCOMPARE(TestSupport::readFile(obj), QByteArray("mine"));
 }
 
-void tst_ImportExport::exportOnOtherTabs()
-{
-    MainWindow window;
-    window.show();
-    Hand hand({Hand::press(QMessageBox::Ok)});
-    trigger(window, "actionExport");
-    QCOMPARE(hand.seen, QStringList(QStringLiteral("Error|No dice!")));
-    find<QTabWidget>(window, "tabWidget")->setCurrentWidget(find<QWidget>(window, "tabDatabase"));
-    trigger(window, "actionExport");
-    trigger(window, "actionImport");
-    QCOMPARE(hand.seen.size(), 1);
-}
-
-int main(int argc, char *argv[])
-{
-    QApplication application(argc, argv);
-    QSurfaceFormat format;
-    format.setDepthBufferSize(24);
-    format.setProfile(QSurfaceFormat::CoreProfile);
-    QSurfaceFormat::setDefaultFormat(format);
-    tst_ImportExport test;
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_MAIN(tst_ImportExport)
 #include "tst_importexport.moc"

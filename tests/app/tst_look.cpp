@@ -4,20 +4,19 @@
 #include "Look.h"
 #include "LookMenu.h"
 #include "NoticeBar.h"
-#include "OptionsDialog.h"
 #include "Settings.h"
 #include "TestSupport.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QComboBox>
-#include <QDialogButtonBox>
+#include <QBitmap>
 #include <QLabel>
 #include <QMenu>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyle>
 #include <QToolTip>
+#include <QVector4D>
 
 #include <algorithm>
 #include <cmath>
@@ -42,20 +41,16 @@ double contrast(const QColor &a, const QColor &b)
 /// The mean color of what is painted, weighted by how much it covers.
 QColor inkOf(const QImage &image)
 {
-    double red = 0;
-    double green = 0;
-    double blue = 0;
-    double cover = 0;
+    QVector4D ink;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
             const QColor pixel = image.pixelColor(x, y);
-            red += pixel.redF() * pixel.alphaF();
-            green += pixel.greenF() * pixel.alphaF();
-            blue += pixel.blueF() * pixel.alphaF();
-            cover += pixel.alphaF();
+            const QVector4D color(float(pixel.redF()), float(pixel.greenF()), float(pixel.blueF()), 1.0f);
+            ink += color * float(pixel.alphaF());
         }
     }
-    return cover == 0 ? QColor() : QColor::fromRgbF(red / cover, green / cover, blue / cover);
+    ink /= ink.w();
+    return QColor::fromRgbF(double(ink.x()), double(ink.y()), double(ink.z()));
 }
 
 QStringList iconNames()
@@ -77,12 +72,8 @@ class tst_Look : public QObject
 private slots:
     void init();
     void cleanup();
-    void everyTextCanBeRead_data();
     void everyTextCanBeRead();
     void looksChangeAtOnce();
-    void oddSettingsAreTheDesktop();
-    void theMenuChoosesTheLook();
-    void onlyAcceptingChanges();
     void iconsAreCrisp();
     void iconsAreSeenOnEveryLook();
     void noticesFollow();
@@ -102,46 +93,33 @@ void tst_Look::cleanup()
     chooseLook(Look::Desktop);
 }
 
-void tst_Look::everyTextCanBeRead_data()
-{
-    QTest::addColumn<bool>("dark");
-    QTest::newRow("light") << false;
-    QTest::newRow("dark") << true;
-}
-
 void tst_Look::everyTextCanBeRead()
 {
-    QFETCH(bool, dark);
-    const QPalette palette = ourPalette(dark);
-    QCOMPARE(isDark(palette), dark);
     using P = QPalette;
-    const std::pair<P::ColorRole, P::ColorRole> pairs[] = {{P::WindowText, P::Window},
-                                                           {P::Text, P::Base},
-                                                           {P::Text, P::AlternateBase},
-                                                           {P::Text, P::Window},
-                                                           {P::ButtonText, P::Button},
-                                                           {P::HighlightedText, P::Highlight},
-                                                           {P::PlaceholderText, P::Base},
-                                                           {P::PlaceholderText, P::Window},
-                                                           {P::Link, P::Base},
-                                                           {P::Link, P::Window},
-                                                           {P::LinkVisited, P::Base},
-                                                           {P::LinkVisited, P::Window},
-                                                           {P::ToolTipText, P::ToolTipBase}};
-    for (const P::ColorGroup group : {P::Active, P::Inactive, P::Disabled}) {
-        for (const auto &[text, ground] : pairs) {
-            const double found = contrast(palette.color(group, text), palette.color(group, ground));
-            QVERIFY2(found >= 4.5, qPrintable(QStringLiteral("group %1, role %2 on %3: %4")
-                                                  .arg(group)
-                                                  .arg(text)
-                                                  .arg(ground)
-                                                  .arg(found)));
+    const std::pair<P::ColorRole, QVector<P::ColorRole>> grounds[] = {
+        {P::Window, {P::WindowText, P::Text, P::PlaceholderText, P::Link, P::LinkVisited}},
+        {P::Base, {P::Text, P::PlaceholderText, P::Link, P::LinkVisited}},
+        {P::AlternateBase, {P::Text}},
+        {P::Button, {P::ButtonText}},
+        {P::Highlight, {P::HighlightedText}},
+        {P::ToolTipBase, {P::ToolTipText}}};
+    for (const bool dark : {false, true}) {
+        const QPalette palette = ourPalette(dark);
+        QCOMPARE(isDark(palette), dark);
+        for (const P::ColorGroup group : {P::Active, P::Inactive, P::Disabled}) {
+            for (const auto &[ground, texts] : grounds) {
+                for (const P::ColorRole text : texts) {
+                    const double found = contrast(palette.color(group, text), palette.color(group, ground));
+                    const QString what = QString::asprintf("%g: %d on %d in %d", found, text, ground, group);
+                    QVERIFY2(found >= 4.5, qPrintable(what));
+                }
+            }
         }
+        QVERIFY(contrast(warningColor(palette), palette.color(P::Window)) >= 4.5);
+        QVERIFY(contrast(warningColor(palette), palette.color(P::Base)) >= 4.5);
+        // What can be used and what cannot are still told apart.
+        QVERIFY(contrast(palette.color(P::Active, P::Text), palette.color(P::Disabled, P::Text)) >= 1.8);
     }
-    QVERIFY(contrast(warningColor(palette), palette.color(P::Window)) >= 4.5);
-    QVERIFY(contrast(warningColor(palette), palette.color(P::Base)) >= 4.5);
-    // What can be used and what cannot are still told apart.
-    QVERIFY(contrast(palette.color(P::Active, P::Text), palette.color(P::Disabled, P::Text)) >= 1.8);
 }
 
 void tst_Look::looksChangeAtOnce()
@@ -163,55 +141,21 @@ void tst_Look::looksChangeAtOnce()
     QCOMPARE(label.palette().color(QPalette::Window), before.color(QPalette::Window));
     QCOMPARE(label.palette().color(QPalette::Link), before.color(QPalette::Link));
     QCOMPARE(QToolTip::palette().color(QPalette::ToolTipBase), tip);
-}
+    Settings::Look.setValue(QStringLiteral("purple"));
+    QCOMPARE(chosenLook(), Look::Desktop);
 
-void tst_Look::oddSettingsAreTheDesktop()
-{
-    for (const QVariant &odd :
-         {QVariant(QStringLiteral("purple")), QVariant(7), QVariant(QByteArray("\xff"))}) {
-        QSettings().setValue(Settings::Look.name(), odd);
-        QCOMPARE(chosenLook(), Look::Desktop);
-    }
-}
-
-void tst_Look::theMenuChoosesTheLook()
-{
+    // By the menu, while others choose as well.
     QMenu view;
     addLookMenu(view);
     QMenu *looks = view.actions().first()->menu();
-    QCOMPARE(looks->actions().size(), 3);
     QVERIFY(looks->actions().at(0)->isChecked());
     looks->actions().at(2)->trigger();
     QCOMPARE(chosenLook(), Look::Dark);
     QVERIFY(isDark(QApplication::palette()));
-    // Others may choose as well.
     chooseLook(Look::Light);
     emit looks->aboutToShow();
     QVERIFY(looks->actions().at(1)->isChecked());
     QVERIFY(!looks->actions().at(2)->isChecked());
-}
-
-void tst_Look::onlyAcceptingChanges()
-{
-    for (const auto button : {QDialogButtonBox::Cancel, QDialogButtonBox::Ok}) {
-        OptionsDialog dialog;
-        dialog.show();
-        auto *look = dialog.findChild<QComboBox *>(QStringLiteral("cbLook"));
-        auto *language = dialog.findChild<QComboBox *>(QStringLiteral("cbLanguage"));
-        const auto *hint = dialog.findChild<QLabel *>(QStringLiteral("lblLanguageHint"));
-        QCOMPARE(language->count(), 3);
-        QVERIFY(!hint->isVisible());
-        QTest::keyClick(look, Qt::Key_End);
-        QTest::keyClick(language, Qt::Key_End);
-        QCOMPARE(language->currentText(), QStringLiteral("Deutsch"));
-        // That it takes effect later is said.
-        QVERIFY(hint->isVisible());
-        QVERIFY(!isDark(QApplication::palette()));
-        QTest::mouseClick(dialog.findChild<QDialogButtonBox *>()->button(button), Qt::LeftButton);
-        const bool accepted = button == QDialogButtonBox::Ok;
-        QCOMPARE(isDark(QApplication::palette()), accepted);
-        QCOMPARE(Settings::UiLanguage.value(), accepted ? QStringLiteral("de") : QString());
-    }
 }
 
 void tst_Look::iconsAreCrisp()
@@ -228,19 +172,12 @@ void tst_Look::iconsAreCrisp()
     }
     // Any other size is filled as well: nothing is left small in the middle.
     for (const int side : {16, 20, 32, 64}) {
-        QImage shown(side, side, QImage::Format_ARGB32);
+        QPixmap shown(side, side);
         shown.fill(Qt::transparent);
         QPainter painter(&shown);
         namedIcon(QStringLiteral("ground")).paint(&painter, shown.rect());
         painter.end();
-        int left = side;
-        for (int y = 0; y < side; ++y) {
-            for (int x = 0; x < left; ++x) {
-                if (qAlpha(shown.pixel(x, y)) > 64)
-                    left = x;
-            }
-        }
-        QVERIFY2(left <= side / 6, qPrintable(QString::number(side)));
+        QVERIFY2(QRegion(shown.mask()).boundingRect().left() <= side / 6, qPrintable(QString::number(side)));
     }
 }
 
@@ -255,10 +192,7 @@ void tst_Look::iconsAreSeenOnEveryLook()
             const QColor ink = inkOf(icon.pixmap(72, 72).toImage());
             for (const QPalette::ColorRole ground : {QPalette::Window, QPalette::Base}) {
                 const double found = contrast(ink, palette.color(ground));
-                QVERIFY2(
-                    found >= 2.5,
-                    qPrintable(
-                        QStringLiteral("%1 on %2: %3").arg(name, palette.color(ground).name()).arg(found)));
+                QVERIFY2(found >= 2.5, qPrintable(QStringLiteral("%1: %2").arg(name).arg(found)));
             }
             QCOMPARE(inkOf(icon.pixmap(QSize(72, 72), QIcon::Selected).toImage()),
                      palette.color(QPalette::HighlightedText));

@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "OptionsDialog.h"
 
-#include "Settings.h"
-#include "TestSupport.h"
+#include "Find.h"
+#include "Look.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLabel>
@@ -20,7 +21,6 @@ class tst_OptionsDialog : public QObject
 private slots:
     void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
     void init() { TestSupport::useSettingsHome(m_home); }
-    void showsDefaultsAndStoredValues();
     void onlyAcceptingWrites();
     void browsing();
     void chooserStartsAtNearestFolder();
@@ -28,59 +28,35 @@ private slots:
     void hintsAtMissingFolder();
 
 private:
-    template <typename T>
-    static T *child(const QWidget &dialog, const char *name)
-    {
-        return dialog.findChild<T *>(QLatin1String(name));
-    }
     static void click(const QDialog &dialog, QDialogButtonBox::StandardButton button)
     {
-        QTest::mouseClick(child<QDialogButtonBox>(dialog, "buttonBox")->button(button), Qt::LeftButton);
+        QTest::mouseClick(find<QDialogButtonBox>(dialog, "buttonBox")->button(button), Qt::LeftButton);
     }
 
     QTemporaryDir m_home;
 };
 
-void tst_OptionsDialog::showsDefaultsAndStoredValues()
-{
-    const char *boxes[] = {"cbUpdates", "cbHideMeshData", "cbHideAnimData", "cbAnimAutoPlay"};
-    {
-        const OptionsDialog dialog;
-        QCOMPARE(dialog.windowTitle(), QStringLiteral("Options"));
-        QVERIFY(child<QLineEdit>(dialog, "txtGamePath")->text().isEmpty());
-        QVERIFY(child<QLineEdit>(dialog, "txtT2Dir")->text().isEmpty());
-        for (const char *box : boxes)
-            QVERIFY2(child<QCheckBox>(dialog, box)->isChecked(), box);
-        QVERIFY(!child<QCheckBox>(dialog, "cbRestoreSession")->isChecked());
-    }
-    QVERIFY(QSettings().allKeys().isEmpty());
-
-    Settings::GamePath.setValue(QStringLiteral("/game"));
-    Settings::OutputDir.setValue(QStringLiteral("/mod"));
-    for (const auto *key :
-         {&Settings::Updates, &Settings::HideMeshData, &Settings::HideAnimData, &Settings::AnimationAutoPlay})
-        key->setValue(false);
-    const OptionsDialog dialog;
-    QCOMPARE(child<QLineEdit>(dialog, "txtGamePath")->text(),
-             QDir::toNativeSeparators(QStringLiteral("/game")));
-    QCOMPARE(child<QLineEdit>(dialog, "txtT2Dir")->text(), QDir::toNativeSeparators(QStringLiteral("/mod")));
-    for (const char *box : boxes)
-        QVERIFY2(!child<QCheckBox>(dialog, box)->isChecked(), box);
-}
-
 void tst_OptionsDialog::onlyAcceptingWrites()
 {
+    const char *boxes[] = {"cbUpdates", "cbHideMeshData", "cbHideAnimData", "cbAnimAutoPlay",
+                           "cbRestoreSession"};
     for (const bool accept : {false, true}) {
         OptionsDialog dialog;
         dialog.show();
-        QTest::keyClicks(child<QLineEdit>(dialog, "txtGamePath"), QStringLiteral("/some/game/"));
-        QTest::keyClicks(child<QLineEdit>(dialog, "txtT2Dir"), QStringLiteral("/some/mod"));
-        for (const char *box :
-             {"cbUpdates", "cbHideMeshData", "cbHideAnimData", "cbAnimAutoPlay", "cbRestoreSession"})
-            QTest::keyClick(child<QCheckBox>(dialog, box), Qt::Key_Space);
+        QTest::keyClicks(find<QLineEdit>(dialog, "txtGamePath"), QStringLiteral("/some/game/"));
+        QTest::keyClicks(find<QLineEdit>(dialog, "txtT2Dir"), QStringLiteral("/some/mod"));
+        for (const char *box : boxes)
+            QTest::keyClick(find<QCheckBox>(dialog, box), Qt::Key_Space);
+        const auto *hint = find<QLabel>(dialog, "lblLanguageHint");
+        QVERIFY(!hint->isVisible());
+        QTest::keyClick(find<QComboBox>(dialog, "cbLook"), Qt::Key_End);
+        QTest::keyClick(find<QComboBox>(dialog, "cbLanguage"), Qt::Key_End);
+        // That it takes effect later is said.
+        QVERIFY(hint->isVisible());
+        QVERIFY(!isDark(QApplication::palette()));
         click(dialog, accept ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel);
         QCOMPARE(dialog.result(), int(accept ? QDialog::Accepted : QDialog::Rejected));
-        QVERIFY(dialog.isHidden());
+        QCOMPARE(isDark(QApplication::palette()), accept);
         if (!accept)
             QVERIFY(QSettings().allKeys().isEmpty());
     }
@@ -88,10 +64,17 @@ void tst_OptionsDialog::onlyAcceptingWrites()
     QCOMPARE(Settings::OutputDir.value(), QStringLiteral("/some/mod"));
     for (const auto *key : {&Settings::Updates, &Settings::HideMeshData, &Settings::HideAnimData,
                             &Settings::AnimationAutoPlay}) {
-        QVERIFY(key->exists());
-        QVERIFY(!key->value());
+        QVERIFY(key->exists() && !key->value());
     }
     QVERIFY(Settings::RestoreSession.value());
+    QCOMPARE(Settings::UiLanguage.value(), QStringLiteral("de"));
+
+    // What is stored is shown.
+    const OptionsDialog dialog;
+    QCOMPARE(find<QLineEdit>(dialog, "txtGamePath")->text(), QDir::toNativeSeparators("/some/game"));
+    QCOMPARE(find<QLineEdit>(dialog, "txtT2Dir")->text(), QDir::toNativeSeparators("/some/mod"));
+    for (const char *box : boxes)
+        QCOMPARE(find<QCheckBox>(dialog, box)->isChecked(), !qstrcmp(box, "cbRestoreSession"));
 }
 
 void tst_OptionsDialog::browsing()
@@ -104,8 +87,8 @@ void tst_OptionsDialog::browsing()
         asked << title << start;
         return answer;
     });
-    auto *browseGame = child<QPushButton>(dialog, "btnGame");
-    auto *browseMod = child<QPushButton>(dialog, "btnT2DirBrowse");
+    auto *browseGame = find<QPushButton>(dialog, "btnGame");
+    auto *browseMod = find<QPushButton>(dialog, "btnT2DirBrowse");
 
     QTest::mouseClick(browseGame, Qt::LeftButton);
     QCOMPARE(asked, QStringList({"game.kpf unzipped folder", QDir::toNativeSeparators("/start")}));
@@ -148,8 +131,8 @@ void tst_OptionsDialog::hintsAtMissingFolder()
     dialog.show();
     QApplication::setActiveWindow(&dialog);
     QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    auto *edit = child<QLineEdit>(dialog, "txtGamePath");
-    auto *hint = child<QLabel>(dialog, "lblGamePathHint");
+    auto *edit = find<QLineEdit>(dialog, "txtGamePath");
+    auto *hint = find<QLabel>(dialog, "lblGamePathHint");
     QVERIFY(hint->isHidden()); // empty is not wrong
     QTest::keyClicks(edit, m_home.filePath("gone"));
     QVERIFY(hint->isHidden()); // nor is a path half typed

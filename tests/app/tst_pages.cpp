@@ -27,7 +27,6 @@ private slots:
     void dealDamage();
     void anglesKeepTheirAxis();
     void positionToBone();
-    void pagesFitTheirPane_data();
     void pagesFitTheirPane();
     void longPathsShowTheirStart();
 
@@ -131,40 +130,29 @@ void tst_Pages::anEditReachesAllSelectedAndOnlyItsPart()
 void tst_Pages::argumentsAreNamedByTheirEvent()
 {
     const QString damage = QStringLiteral("Radius|Damage||Blood Spray X|Blood Spray Y|Blood Spray Z");
-    const QHash<int, QString> labels{
-        {0, QStringLiteral("Sound ID")},
-        {31, QStringLiteral("Sound ID")},
-        {32, QStringLiteral("Sound ID")},
-        {1, QStringLiteral("Particle ID")},
-        {8, QStringLiteral("Particle ID")},
-        {11, QStringLiteral("Particle ID")},
+    // One with all its names, one of each question, damage, one without a name, one without a meaning.
+    const QVector<QPair<int, QString>> types{
         {9, QStringLiteral("Alpha|Red|Green|Blue|Attack Time|Sustain Time|Decay Time")},
-        {12, QStringLiteral("X Axis|Y Axis|Z Axis|Radius")},
-        {13, QStringLiteral("X Axis|Y Axis|Z Axis|Radius")},
-        {22, QStringLiteral("UserEvent Arg 1|UserEvent Arg 2|UserEvent Arg 3|UserEvent Arg 4")},
-        {23, QStringLiteral("Sound ID|Model Index")},
+        {30, QStringLiteral("Voice ID")},
+        {2, damage},
+        {33, damage},
         {24, QStringLiteral("Particle ID|Model Index")},
-        {26, QStringLiteral("Hot Point Bit")},
-        {27, QStringLiteral("Hot Point Bit")},
         {28, QStringLiteral("Actor Type ID|Scale")},
         {29, QStringLiteral("Sound ID|Impact Type")},
-        {30, QStringLiteral("Voice ID")},
-    };
-    const QSet<int> damages{2, 3, 4, 15, 16, 17, 18, 19, 20, 25, 33};
-    const QVector<int> types{9,  30, 2,  0,  1,  3,  4,  5,  6,  7,  8,  10, 11, 12, 13, 14, 15, 16,   17,
-                             18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 31, 32, 33, 34, 35, 65535};
+        {10, QString()},
+        {65535, QString()}};
     AnimFile file = plainAnim();
-    for (const int eventType : types) {
+    for (const auto &type : types) {
         AnimAction action;
-        action.eventType = quint16(eventType);
+        action.eventType = quint16(type.first);
         file.blocks[1].actions.push_back(action);
     }
     Panes panes;
     panes.anim.open(file);
     for (int i = 0; i < types.size(); ++i) {
         panes.anim.select({{RecordKind::AnimAction, {1, i + 3}}});
-        const bool isDamage = damages.contains(types[i]);
-        const QStringList expected = (isDamage ? damage : labels.value(types[i])).split(QLatin1Char('|'));
+        const bool isDamage = types[i].second == damage;
+        const QStringList expected = types[i].second.split(QLatin1Char('|'));
         for (int arg = 0; arg < 8; ++arg) {
             const auto *label =
                 panes.anim.child<QLabel>(QByteArray("lblAnimActionArg" + QByteArray::number(arg + 1)));
@@ -250,7 +238,6 @@ void tst_Pages::dealDamage()
     Panes panes;
     auto &pane = panes.mesh;
     SkinnedMesh model = plainMesh();
-    model.hotPoints[0].particleEffect1 = 12;
     model.hotPoints[0].particleEffect2 = 40;
     pane.open(model);
     pane.select({{RecordKind::HotPoint, {0}}, {RecordKind::HotPoint, {1}}});
@@ -264,10 +251,6 @@ void tst_Pages::dealDamage()
     QTest::keyClick(pane.child<QWidget>("cbHPDealDamage"), Qt::Key_Space);
     QCOMPARE(points[0].particleEffect1, quint16(0));
     QVERIFY(pane.child<QWidget>("sbHPEffect1")->isEnabled());
-    QCOMPARE(pane.undo().count(), 2);
-    pane.undo().undo();
-    pane.undo().undo();
-    QCOMPARE(points[0].particleEffect1, quint16(12));
 }
 
 void tst_Pages::anglesKeepTheirAxis()
@@ -299,7 +282,6 @@ void tst_Pages::positionToBone()
     AnimFile file = plainAnim();
     file.blocks[0].actions[0].offset = {1.0f, 2.0f, 3.0f};
     pane.open(file);
-    const QByteArray before = pane.bytes();
     pane.select({{RecordKind::AnimAction, {0, 0}}});
     auto *button = pane.child<QPushButton>("btnAnimActionPositionToBone");
     button->click();
@@ -307,25 +289,15 @@ void tst_Pages::positionToBone()
     QCOMPARE(pane.undo().count(), 1);
     QCOMPARE(pane.undo().undoText(), QStringLiteral("Key Frame Action Position To Bone"));
     QVERIFY(pane.document.model().blocks[0].actions[0].offset.isNull());
-    pane.undo().undo();
-    QVERIFY(pane.bytes() == before);
-}
-
-void tst_Pages::pagesFitTheirPane_data()
-{
-    QTest::addColumn<int>("points");
-    for (const int points : {9, 12, 15})
-        QTest::addRow("%d pt", points) << points;
 }
 
 void tst_Pages::pagesFitTheirPane()
 {
-    QFETCH(int, points);
     const QFont usual = QApplication::font();
-    QFont font = usual;
-    font.setPointSize(points);
-    QApplication::setFont(font);
-    {
+    for (const int points : {9, 15}) {
+        QFont font = usual;
+        font.setPointSize(points);
+        QApplication::setFont(font);
         Panes panes;
         panes.mesh.open(plainMesh());
         panes.anim.open(plainAnim());

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "AnimCommands.h"
+#include "Find.h"
 #include "FullDisk.h"
 #include "Hand.h"
 #include "Log.h"
@@ -15,6 +16,27 @@
 #include <QPlainTextEdit>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+
+using SampleModels::bytesOf;
+
+namespace {
+/// The bar that offers what was kept, in the window of a run.
+struct Bar
+{
+    explicit Bar(OneRun &run)
+        : window(run.window)
+        , place(&run.window)
+        , prompt(*run.recovery, &recover, &place, &run.window)
+    {}
+    void click(const char *button) const { find<QPushButton>(window, button)->click(); }
+
+    QWidget &window;
+    QAction recover;
+    QVBoxLayout place;
+    RecoveryPrompt prompt;
+    NoticeBar *notice = find<NoticeBar>(window, "barRecovery");
+};
+} // namespace
 
 using Act = std::function<void(OneRun &)>;
 Q_DECLARE_METATYPE(Act)
@@ -61,17 +83,21 @@ private:
             run.recovery->keepAll();
         }
     }
+    /// Restores what alone was kept.
+    static bool restoreOnly(OneRun &run)
+    {
+        const QVector<Snapshot> found = run.recovery->snapshots();
+        return found.size() == 1 && run.recovery->restore(found[0]) == Recovery::Outcome::Restored;
+    }
 
-    std::unique_ptr<QTemporaryDir> m_home;
     std::unique_ptr<QTemporaryDir> m_folder;
     QStringList m_log;
 };
 
 void TestRecovery::init()
 {
-    m_home = std::make_unique<QTemporaryDir>();
     m_folder = std::make_unique<QTemporaryDir>();
-    TestSupport::useSettingsHome(*m_home);
+    TestSupport::useSettingsHome(*m_folder);
     QVERIFY(!triangleMan().write(manPath()));
     m_log.clear();
     Log::setSink([this](LogSeverity, const QString &text) { m_log += text; });
@@ -85,26 +111,25 @@ void TestRecovery::cleanup()
 void TestRecovery::workIsKept_data()
 {
     QTest::addColumn<Act>("act");
-    QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("name");
-    QTest::newRow("edited") << Act([](OneRun &run) {
+    const auto row = [](const char *how, const char *name, const Act &act) {
+        QTest::newRow(how) << act << QString::fromLatin1(name);
+    };
+    row("edited", "man.skinnedmesh", [](OneRun &run) {
         run.edit(7);
         run.settle();
-    }) << "man.skinnedmesh"
-                            << "man.skinnedmesh";
-    QTest::newRow("replaced at once") << Act([this](OneRun &run) {
+    });
+    row("replaced at once", "man.skinnedmesh", [this](OneRun &run) {
         run.edit(7);
         run.openMesh(manPath());
         run.settle();
-    }) << "man.skinnedmesh"
-                                      << "man.skinnedmesh";
-    QTest::newRow("window closed at once") << Act([](OneRun &run) {
+    });
+    row("window closed at once", "man.skinnedmesh", [](OneRun &run) {
         run.edit(7);
         run.window.show();
         run.window.close();
-    }) << "man.skinnedmesh"
-                                           << "man.skinnedmesh";
-    QTest::newRow("changed without an undo step, then edited and undone") << Act([this](OneRun &run) {
+    });
+    row("changed without an undo step, then edited and undone", "walk.anim", [this](OneRun &run) {
         run.anim.take(twoBlocks(), QStringLiteral("x"));
         QVERIFY(!run.anim.save(m_folder->filePath(QStringLiteral("walk.anim"))));
         run.anim.model().blocks[0].setFrameCount(40);
@@ -112,18 +137,16 @@ void TestRecovery::workIsKept_data()
         run.anim.undoStack()->push(new UC_AnimBlockAnimID(run.anim.editTarget(), {}, 9));
         run.anim.undoStack()->undo();
         run.settle();
-    }) << "walk.anim"
-                                                                          << "walk.anim";
-    QTest::newRow("never saved") << Act([](OneRun &run) {
+    });
+    row("never saved", "box.staticmesh", [](OneRun &run) {
         run.rigid.take(SampleModels::staticMesh(), QStringLiteral("box"));
         run.settle();
-    }) << QString() << "box.staticmesh";
+    });
 }
 
 void TestRecovery::workIsKept()
 {
     QFETCH(Act, act);
-    QFETCH(QString, path);
     QFETCH(QString, name);
     {
         OneRun run(root());
@@ -134,58 +157,49 @@ void TestRecovery::workIsKept()
     const QVector<Snapshot> found = next.snapshots();
     QCOMPARE(found.size(), 1);
     QCOMPARE(found[0].name, name);
-    QCOMPARE(found[0].sourcePath, path.isEmpty() ? QString() : m_folder->filePath(path));
+    const bool isSaved = found[0].type != DocumentType::StaticMesh;
+    QCOMPARE(found[0].sourcePath, isSaved ? m_folder->filePath(name) : QString());
     QVERIFY(qAbs(found[0].time.secsTo(QDateTime::currentDateTime())) < 60);
+    SkinnedMesh man = triangleMan();
+    man.headTrackFactor = 7;
+    AnimFile walk = twoBlocks();
+    walk.blocks[0].setFrameCount(40);
+    const QByteArray expected[] = {bytesOf(man), bytesOf(walk), bytesOf(SampleModels::staticMesh())};
     QByteArray bytes;
     QVERIFY(!next.read(found[0], &bytes));
-    if (found[0].type == DocumentType::SkinnedMesh) {
-        SkinnedMesh expected = triangleMan();
-        expected.headTrackFactor = 7;
-        QCOMPARE(bytes, SampleModels::bytesOf(expected));
-    } else if (found[0].type == DocumentType::Anim) {
-        AnimFile expected = twoBlocks();
-        expected.blocks[0].setFrameCount(40);
-        QCOMPARE(bytes, SampleModels::bytesOf(expected));
-    } else {
-        QCOMPARE(bytes, SampleModels::bytesOf(SampleModels::staticMesh()));
-    }
+    QCOMPARE(bytes, expected[int(found[0].type)]);
     QCOMPARE(m_log, QStringList());
 }
 
 void TestRecovery::savedOrUndoneWorkIsNot()
 {
     OneRun run(root());
+    const auto keptNow = [&] {
+        run.settle();
+        return kept().size();
+    };
     run.openMesh(manPath());
-    run.settle();
-    QCOMPARE(kept(), QStringList());
-    run.edit(7);
-    run.settle();
-    QCOMPARE(kept().size(), 1);
+    QCOMPARE(keptNow(), 0);
     // One file for one document, however often it changes.
-    run.edit(8);
-    run.settle();
-    QCOMPARE(kept().size(), 1);
+    for (const int factor : {7, 8}) {
+        run.edit(factor);
+        QCOMPARE(keptNow(), 1);
+    }
     run.mesh.undoStack()->setIndex(0);
-    run.settle();
-    QCOMPARE(kept(), QStringList());
+    QCOMPARE(keptNow(), 0);
 
     run.mesh.undoStack()->redo();
-    run.settle();
-    QCOMPARE(kept().size(), 1);
+    QCOMPARE(keptNow(), 1);
     QVERIFY(run.mesh.save(m_folder->filePath(QStringLiteral("none/man.skinnedmesh"))));
-    run.settle();
-    QCOMPARE(kept().size(), 1);
+    QCOMPARE(keptNow(), 1);
     QVERIFY(!run.mesh.save(manPath()));
-    run.settle();
-    QCOMPARE(kept(), QStringList());
+    QCOMPARE(keptNow(), 0);
 
     // A clean stack says nothing of a model that was never saved.
     run.rigid.take(SampleModels::staticMesh(), QStringLiteral("box"));
-    run.settle();
-    QCOMPARE(kept().size(), 1);
+    QCOMPARE(keptNow(), 1);
     QVERIFY(!run.rigid.save(m_folder->filePath(QStringLiteral("box.staticmesh"))));
-    run.settle();
-    QCOMPARE(kept(), QStringList());
+    QCOMPARE(keptNow(), 0);
 }
 
 void TestRecovery::restoredWorkIsModifiedUntilSaved()
@@ -194,9 +208,7 @@ void TestRecovery::restoredWorkIsModifiedUntilSaved()
     const QByteArray before = TestSupport::readFile(manPath());
     {
         OneRun run(root());
-        const QVector<Snapshot> found = run.recovery->snapshots();
-        QCOMPARE(found.size(), 1);
-        QCOMPARE(int(run.recovery->restore(found[0])), int(Recovery::Outcome::Restored));
+        QVERIFY(restoreOnly(run));
         QCOMPARE(run.mesh.path(), manPath());
         QCOMPARE(int(run.mesh.model().headTrackFactor), 1);
         QVERIFY(run.mesh.isModified());
@@ -207,8 +219,7 @@ void TestRecovery::restoredWorkIsModifiedUntilSaved()
         // Killed again before it was saved: still there.
     }
     OneRun run(root());
-    QCOMPARE(run.recovery->snapshots().size(), 1);
-    QCOMPARE(int(run.recovery->restore(run.recovery->snapshots()[0])), int(Recovery::Outcome::Restored));
+    QVERIFY(restoreOnly(run));
     QCOMPARE(TestSupport::readFile(manPath()), before);
     QVERIFY(!run.mesh.save(manPath()));
     QVERIFY(!run.mesh.isModified());
@@ -247,9 +258,7 @@ void TestRecovery::theOldestGo()
     for (int i = 0; i < found.size(); ++i) {
         SkinnedMesh mesh;
         QByteArray bytes;
-        QVERIFY(!store.read(found[i], &bytes));
-        BinaryFileReader reader(reinterpret_cast<const uchar *>(bytes.constData()), bytes.size());
-        QVERIFY(!mesh.read(reader));
+        QVERIFY(!store.read(found[i], &bytes) && !SampleModels::readBytes(mesh, bytes));
         QCOMPARE(int(mesh.headTrackFactor), SnapshotStore::MostKept + 3 - i);
     }
 }
@@ -283,11 +292,9 @@ void TestRecovery::damageIsSkipped()
     damage(whole + 'x');
 
     // The bar's button takes the one before.
-    QAction recover;
-    QVBoxLayout place(&run.window);
-    RecoveryPrompt prompt(*run.recovery, &recover, &place, &run.window);
+    Bar bar(run);
     QVERIFY(TestSupport::writeFile(file, whole.left(whole.size() / 2)));
-    run.window.findChild<QPushButton *>(QStringLiteral("btnRestore"))->click();
+    bar.click("btnRestore");
     QCOMPARE(int(run.mesh.model().headTrackFactor), 1);
 }
 
@@ -301,7 +308,7 @@ void TestRecovery::workThatCannotBeSavedIsKept()
         run.settle();
     }
     OneRun run(root());
-    QCOMPARE(int(run.recovery->restore(run.recovery->snapshots().at(0))), int(Recovery::Outcome::Restored));
+    QVERIFY(restoreOnly(run));
     QCOMPARE(run.mesh.model().headTrackFactor, qint8(7));
     QCOMPARE(run.mesh.model().surfaces[0].triangleIndexes.size(), size_t(3));
 }
@@ -355,34 +362,23 @@ void TestRecovery::theBarOffers()
         run.recovery->keepAll();
     }
     OneRun run(root());
-    QAction recover;
-    QVBoxLayout place(&run.window);
-    RecoveryPrompt prompt(*run.recovery, &recover, &place, &run.window);
-    auto *bar = run.window.findChild<NoticeBar *>(QStringLiteral("barRecovery"));
-    QVERIFY(!bar->isHidden());
+    Bar bar(run);
+    QVERIFY(!bar.notice->isHidden());
     {
         // The bar's button and the menu's command open the same list.
         const Hand hand({Hand::reject, Hand::reject});
-        run.window.findChild<QPushButton *>(QStringLiteral("btnShowAll"))->click();
-        recover.trigger();
+        bar.click("btnShowAll");
+        bar.recover.trigger();
         QCOMPARE(hand.seen, QStringList({QStringLiteral("Recover"), QStringLiteral("Recover")}));
     }
-    QVERIFY2(bar->text().endsWith(QStringLiteral(": box.staticmesh, man.skinnedmesh and 1 more")),
-             qPrintable(bar->text()));
-    run.window.findChild<QPushButton *>(QStringLiteral("btnRestore"))->click();
-    QVERIFY(bar->isHidden());
+    QVERIFY2(bar.notice->text().endsWith(QStringLiteral(": box.staticmesh, man.skinnedmesh and 1 more")),
+             qPrintable(bar.notice->text()));
+    bar.click("btnRestore");
+    QVERIFY(bar.notice->isHidden());
     QVERIFY(run.mesh.isModified() && run.rigid.isModified());
     QCOMPARE(int(run.mesh.model().headTrackFactor), 2);
     QCOMPARE(run.rigid.fileName(), QStringLiteral("box.staticmesh"));
     QVERIFY(run.rigid.path().isEmpty());
-
-    // What is offered is what Discard takes away, and not what is open.
-    QWidget other;
-    QVBoxLayout otherPlace(&other);
-    RecoveryPrompt again(*run.recovery, &recover, &otherPlace, &other);
-    other.findChild<QPushButton *>(QStringLiteral("btnDiscard"))->click();
-    QCOMPARE(run.recovery->store().snapshots().size(), 2);
-    QVERIFY(other.findChild<NoticeBar *>()->isHidden());
 }
 
 void TestRecovery::whatIsRestoredIsNotOfferedOn()
@@ -396,22 +392,20 @@ void TestRecovery::whatIsRestoredIsNotOfferedOn()
         run.recovery->keepAll();
     }
     OneRun run(root());
-    QAction recover;
-    QVBoxLayout place(&run.window);
-    RecoveryPrompt prompt(*run.recovery, &recover, &place, &run.window);
+    Bar bar(run);
     // The box, which is newer, is restored; for the other the user thinks better of it.
     run.openMesh(manPath());
     run.edit(2);
     Hand hand({Hand::press(QMessageBox::Cancel)});
-    run.window.findChild<QPushButton *>(QStringLiteral("btnRestore"))->click();
+    bar.click("btnRestore");
     QCOMPARE(hand.seen.size(), 1);
     QVERIFY(run.rigid.isModified());
-    auto *bar = run.window.findChild<NoticeBar *>(QStringLiteral("barRecovery"));
-    QVERIFY2(bar->text().endsWith(QStringLiteral(": man.skinnedmesh")), qPrintable(bar->text()));
+    QVERIFY2(bar.notice->text().endsWith(QStringLiteral(": man.skinnedmesh")),
+             qPrintable(bar.notice->text()));
 
-    // Discard leaves what is open kept.
-    run.window.findChild<QPushButton *>(QStringLiteral("btnDiscard"))->click();
-    QVERIFY(bar->isHidden());
+    // What is offered is what Discard takes away, and not what is open.
+    bar.click("btnDiscard");
+    QVERIFY(bar.notice->isHidden());
     const QVector<Snapshot> left = run.recovery->store().snapshots();
     QVERIFY(std::any_of(left.begin(), left.end(),
                         [](const Snapshot &each) { return each.name == QLatin1String("box.staticmesh"); }));
@@ -426,17 +420,15 @@ void TestRecovery::theBarTellsOfACrash()
     }
     {
         OneRun run(root());
-        QAction recover;
-        QVBoxLayout place(&run.window);
-        RecoveryPrompt prompt(*run.recovery, &recover, &place, &run.window);
-        QVERIFY(!run.window.findChild<NoticeBar *>()->isHidden());
+        Bar bar(run);
+        QVERIFY(!bar.notice->isHidden());
         QVERIFY(run.window.findChild<QPushButton *>(QStringLiteral("btnRestore"))->isHidden());
         QString shown;
         Hand hand({[&shown](QDialog *dialog) {
             shown = dialog->findChild<QPlainTextEdit *>()->toPlainText();
             dialog->reject();
         }});
-        run.window.findChild<QPushButton *>(QStringLiteral("btnShowReport"))->click();
+        bar.click("btnShowReport");
         QCOMPARE(shown, QStringLiteral("the stack"));
     }
     // Once is enough; the file stays.
@@ -484,8 +476,7 @@ void TestRecovery::theDialogLists()
     restore->click();
     QCOMPARE(int(run.mesh.model().headTrackFactor), 1);
     // What was replaced is kept, too.
-    const QVector<Snapshot> left = run.recovery->snapshots();
-    QCOMPARE(left.size(), 2);
+    QCOMPARE(run.recovery->snapshots().size(), 2);
 }
 
 QTEST_MAIN(TestRecovery)

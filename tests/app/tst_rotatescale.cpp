@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "Find.h"
 #include "ModelTransforms.h"
+#include "RotateDialog.h"
 #include "SampleModels.h"
-#include "TestSupport.h"
+#include "ScaleDialog.h"
 
-#include <QApplication>
 #include <QDialog>
 #include <QDoubleSpinBox>
 
@@ -17,31 +18,21 @@ class tst_RotateScale : public QObject
 private slots:
     void initTestCase();
     void init();
-    void sizesAndRanges();
-    void quarterTurns_data();
+    void eachDialogIsThereOnce();
     void quarterTurns();
-    void apply_data();
     void apply();
     void anglesApplyOneAfterAnother();
     void tinyAnglesCount();
     void onlyMeshesAreTurned();
 
 private:
-    QDialog *dialog(const char *title) const
+    static void click(const QDialog *dialog, const char *button)
     {
-        for (auto *each : m_window->findChildren<QDialog *>()) {
-            if (each->windowTitle() == QLatin1String(title))
-                return each;
-        }
-        return nullptr;
+        QTest::mouseClick(find<QWidget>(*dialog, button), Qt::LeftButton);
     }
-    static void click(QDialog *dialog, const char *button)
+    void type(const char *editor, const char *text)
     {
-        QTest::mouseClick(dialog->findChild<QWidget *>(QLatin1String(button)), Qt::LeftButton);
-    }
-    static void type(QDialog *dialog, const char *editor, const char *text)
-    {
-        auto *box = dialog->findChild<QDoubleSpinBox *>(QLatin1String(editor));
+        auto *box = find<QDoubleSpinBox>(*m_window, editor);
         box->setFocus();
         box->selectAll();
         QTest::keyClicks(box, QLatin1String(text));
@@ -53,6 +44,8 @@ private:
     std::unique_ptr<StaticMeshDocument> m_static;
     Document *m_current = nullptr;
     ModelTransforms *m_transforms = nullptr;
+    QDialog *m_rotate = nullptr;
+    QDialog *m_scale = nullptr;
 };
 
 void tst_RotateScale::initTestCase()
@@ -75,109 +68,73 @@ void tst_RotateScale::init()
         *m_skinned, *m_static, [this] { return m_current; }, m_window.get());
     m_transforms->showRotateDialog();
     m_transforms->showScaleDialog();
+    m_rotate = m_window->findChild<RotateDialog *>();
+    m_scale = m_window->findChild<ScaleDialog *>();
 }
 
-void tst_RotateScale::sizesAndRanges()
+void tst_RotateScale::eachDialogIsThereOnce()
 {
-    const QDialog *rotate = dialog("Rotate");
-    const QDialog *scale = dialog("Scale");
-    QVERIFY(rotate && scale);
-    QVERIFY(!rotate->isModal() && !scale->isModal());
-    QCOMPARE(rotate->minimumSize(), QSize(341, 88));
-    QCOMPARE(rotate->maximumSize(), QSize(600, 600));
-    QCOMPARE(scale->size(), QSize(172, 72));
-    for (const auto *box : m_window->findChildren<QDoubleSpinBox *>()) {
-        const bool isFactor = box->objectName() == QLatin1String("sbScale");
-        QCOMPARE(box->decimals(), 6);
-        QCOMPARE(box->minimum(), isFactor ? 0.000001 : -1000000.0);
-        QCOMPARE(box->maximum(), 1000000.0);
-        QCOMPARE(box->value(), isFactor ? 1.0 : 0.0);
-    }
-    // One dialog of each kind, however often it is asked for.
+    QVERIFY(!m_rotate->isModal() && !m_scale->isModal());
     m_transforms->showRotateDialog();
     QCOMPARE(m_window->findChildren<QDialog *>().size(), 2);
-    click(dialog("Rotate"), "btnClose");
-    QVERIFY(!rotate->isVisible() && scale->isVisible());
-}
-
-void tst_RotateScale::quarterTurns_data()
-{
-    QTest::addColumn<QByteArray>("button");
-    QTest::addColumn<QVector3D>("axes"); // pitch, yaw, roll
-    QTest::newRow("-yaw") << QByteArray("btnYawMinus90") << QVector3D(0, -90, 0);
-    QTest::newRow("+yaw") << QByteArray("btnYawPlus90") << QVector3D(0, 90, 0);
-    QTest::newRow("-pitch") << QByteArray("btnPitchMinus90") << QVector3D(-90, 0, 0);
-    QTest::newRow("+pitch") << QByteArray("btnPitchPlus90") << QVector3D(90, 0, 0);
-    QTest::newRow("-roll") << QByteArray("btnRollMinus90") << QVector3D(0, 0, -90);
-    QTest::newRow("+roll") << QByteArray("btnRollPlus90") << QVector3D(0, 0, 90);
+    click(m_rotate, "btnClose");
+    QVERIFY(!m_rotate->isVisible() && m_scale->isVisible());
 }
 
 void tst_RotateScale::quarterTurns()
 {
-    QFETCH(QByteArray, button);
-    QFETCH(QVector3D, axes);
-    type(dialog("Rotate"), "sbRoll", "45");
+    const std::pair<const char *, QVector3D> turns[] = {
+        {"btnYawMinus90", {0, -90, 0}}, {"btnYawPlus90", {0, 90, 0}},    {"btnPitchMinus90", {-90, 0, 0}},
+        {"btnPitchPlus90", {90, 0, 0}}, {"btnRollMinus90", {0, 0, -90}}, {"btnRollPlus90", {0, 0, 90}}};
+    type("sbRoll", "45"); // which is not applied
     StaticMesh expected = m_static->model();
-    QList<QByteArray> states;
-    for (int i = 0; i < 3; ++i) {
+    for (const auto &[button, axes] : turns) {
+        const QByteArray before = bytesOf(expected);
         expected.rotate(axes.x(), axes.y(), axes.z());
-        states << bytesOf(expected);
-        click(dialog("Rotate"), button);
-        QCOMPARE(bytesOf(m_static->model()), states.last());
+        click(m_rotate, button);
+        QCOMPARE(bytesOf(m_static->model()), bytesOf(expected));
+        QVERIFY2(bytesOf(expected) != before, button);
     }
-    QCOMPARE(dialog("Rotate")->findChild<QDoubleSpinBox *>("sbRoll")->value(), 45.0);
-    m_static->undoStack()->undo();
-    QCOMPARE(bytesOf(m_static->model()), states[1]);
-}
-
-void tst_RotateScale::apply_data()
-{
-    QTest::addColumn<QByteArray>("dialog");
-    QTest::addColumn<QByteArray>("editor");
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QString>("step");
-    const auto add = [](const char *title, const char *editor, const char *text, const char *step) {
-        QTest::addRow("%s %s", editor, text)
-            << QByteArray(title) << QByteArray(editor) << QByteArray(text) << QString::fromLatin1(step);
-    };
-    add("Rotate", "sbYaw", "0", "");
-    add("Rotate", "sbYaw", "0.0000001", "");
-    add("Rotate", "sbYaw", "0.000001", "Rotate Vertices");
-    add("Rotate", "sbPitch", "-12.5", "Rotate Vertices");
-    add("Scale", "sbScale", "1", "");
-    add("Scale", "sbScale", "1.000001", "");
-    add("Scale", "sbScale", "1.00001", "Scale Vertices");
-    add("Scale", "sbScale", "0.000001", "Scale Vertices");
 }
 
 void tst_RotateScale::apply()
 {
-    QFETCH(QByteArray, dialog);
-    QFETCH(QByteArray, editor);
-    QFETCH(QByteArray, text);
-    QFETCH(QString, step);
+    const struct
+    {
+        QDialog *dialog;
+        const char *editor, *text, *step;
+    } rows[] = {{m_rotate, "sbYaw", "0.0000001", ""},
+                {m_scale, "sbScale", "1.000001", ""},
+                {m_rotate, "sbYaw", "0.000001", "Rotate Vertices"},
+                {m_rotate, "sbPitch", "-1000000", "Rotate Vertices"},
+                {m_scale, "sbScale", "1.00001", "Scale Vertices"},
+                {m_scale, "sbScale", "0.000001", "Scale Vertices"}};
     for (Document *document :
          {static_cast<Document *>(m_static.get()), static_cast<Document *>(m_skinned.get())}) {
         m_current = document;
-        type(this->dialog(dialog), editor, text);
-        click(this->dialog(dialog), "btnApply");
-        QCOMPARE(document->undoStack()->count(), step.isEmpty() ? 0 : 1);
-        QCOMPARE(document->undoStack()->undoText(), step);
+        for (const auto &row : rows) {
+            document->undoStack()->clear();
+            type(row.editor, row.text);
+            click(row.dialog, "btnApply");
+            QCOMPARE(document->undoStack()->undoText(), QString::fromLatin1(row.step));
+        }
+        type("sbPitch", "0");
+        type("sbYaw", "0");
     }
 }
 
 void tst_RotateScale::anglesApplyOneAfterAnother()
 {
-    type(dialog("Rotate"), "sbYaw", "20");
-    type(dialog("Rotate"), "sbPitch", "10");
-    type(dialog("Rotate"), "sbRoll", "30");
+    type("sbYaw", "20");
+    type("sbPitch", "10");
+    type("sbRoll", "30");
     StaticMesh expected = m_static->model();
     expected.rotate(10, 0, 0);
     expected.rotate(0, 20, 0);
     expected.rotate(0, 0, 30);
     StaticMesh atOnce = m_static->model();
     atOnce.rotate(10, 20, 30);
-    click(dialog("Rotate"), "btnApply");
+    click(m_rotate, "btnApply");
     QCOMPARE(m_static->undoStack()->count(), 1);
     QCOMPARE(bytesOf(m_static->model()), bytesOf(expected));
     QVERIFY(bytesOf(m_static->model()) != bytesOf(atOnce));
@@ -206,7 +163,7 @@ void tst_RotateScale::onlyMeshesAreTurned()
     for (Document *document : {static_cast<Document *>(&anim), static_cast<Document *>(&empty),
                                static_cast<Document *>(nullptr)}) {
         m_current = document;
-        click(dialog("Rotate"), "btnYawPlus90");
+        click(m_rotate, "btnYawPlus90");
         m_transforms->scale(2.0f);
         QVERIFY(!m_skinned->isModified() && !m_static->isModified() && !anim.isModified());
     }

@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "ServersDock.h"
 
+#include "Find.h"
 #include "LocalServers.h"
 #include "Log.h"
-#include "Settings.h"
-#include "TestSupport.h"
 
 #include <QAction>
 #include <QApplication>
@@ -23,98 +22,69 @@ class tst_ServersDock : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanupTestCase() { Log::setSink({}); }
-    void showsEveryState();
-    void copiesAddresses();
-
-private:
-    struct Shown
+    void initTestCase()
     {
-        QMainWindow window;
-        QAction action;
-        ServersDock *dock = new ServersDock(&window);
-
-        Shown()
-        {
-            window.addDockWidget(Qt::RightDockWidgetArea, dock);
-            dock->setQueryAction(&action);
-            dock->hide();
-            window.show();
-        }
-        template <typename Widget>
-        Widget *child(const char *name) const
-        {
-            return dock->findChild<Widget *>(QLatin1String(name));
-        }
-        QString status() const { return child<QLabel>("lblServersStatus")->text(); }
-        QTableWidget *table() const { return child<QTableWidget>("tableServers"); }
-    };
-
-    QTemporaryDir m_home;
-    std::unique_ptr<LocalMaster> m_master;
+        Log::setSink([](LogSeverity, const QString &) {});
+    }
+    void cleanupTestCase() { Log::setSink({}); }
+    void asksShowsAndCopies();
 };
 
-void tst_ServersDock::init()
+void tst_ServersDock::asksShowsAndCopies()
 {
-    TestSupport::useSettingsHome(m_home);
-    Log::setSink([](LogSeverity, const QString &) {});
-    m_master = std::make_unique<LocalMaster>();
+    const QTemporaryDir home;
+    TestSupport::useSettingsHome(home);
+    LocalMaster master;
     Settings::MasterServerHost.setValue(QStringLiteral("127.0.0.1"));
-    Settings::MasterServerPort.setValue(m_master->localPort());
-}
+    Settings::MasterServerPort.setValue(master.localPort());
+    QMainWindow window;
+    QAction action;
+    auto *dock = new ServersDock(&window);
+    window.addDockWidget(Qt::RightDockWidgetArea, dock);
+    dock->setQueryAction(&action);
+    dock->hide();
+    window.show();
+    auto *table = find<QTableWidget>(*dock, "tableServers");
+    const auto *bar = find<QProgressBar>(*dock, "barServers");
+    auto *copy = find<QPushButton>(*dock, "btnCopyAddress");
+    const auto status = [dock] { return find<QLabel>(*dock, "lblServersStatus")->text(); };
 
-void tst_ServersDock::showsEveryState()
-{
-    Shown shown;
-    QCOMPARE(shown.status(), QStringLiteral("No query yet."));
-    shown.action.trigger();
-    QVERIFY(shown.dock->isVisible());
-    QVERIFY(shown.child<QProgressBar>("barServers")->isVisible());
-    QCOMPARE(shown.status(), QStringLiteral("Asking the master server…"));
-    QTRY_COMPARE(m_master->requests.size(), 1);
-    m_master->send({QByteArray::fromHex("040302015C6D")});
-    QTRY_COMPARE(shown.status(), QStringLiteral("Asking the master server… 1 server"));
-    m_master->send({QByteArray::fromHex("050302015C6D000000000000")});
-    QTRY_COMPARE(shown.status(), QStringLiteral("2 servers"));
-    QVERIFY(!shown.child<QProgressBar>("barServers")->isVisible());
-    QCOMPARE(shown.table()->rowCount(), 2);
-    QCOMPARE(shown.table()->item(0, 0)->text(), QStringLiteral("1.2.3.4"));
-    QCOMPARE(shown.table()->item(0, 1)->text(), QStringLiteral("27996"));
+    QCOMPARE(status(), QStringLiteral("No query yet."));
+    action.trigger();
+    QVERIFY(dock->isVisible() && bar->isVisible());
+    QCOMPARE(status(), QStringLiteral("Asking the master server…"));
+    QTRY_COMPARE(master.requests.size(), 1);
+    master.send({QByteArray::fromHex("040302015C6D")});
+    QTRY_COMPARE(status(), QStringLiteral("Asking the master server… 1 server"));
+    QVERIFY(!copy->isEnabled());
+    master.send({QByteArray::fromHex("050302015C6D000000000000")});
+    QTRY_COMPARE(status(), QStringLiteral("2 servers"));
+    QVERIFY(!bar->isVisible());
+    QCOMPARE(table->rowCount(), 2);
+    QCOMPARE(table->item(0, 0)->text(), QStringLiteral("1.2.3.4"));
+    QCOMPARE(table->item(0, 1)->text(), QStringLiteral("27996"));
 
-    m_master->replies = {QByteArray(6, 0)};
-    QTest::mouseClick(shown.child<QPushButton>("btnQueryServers"), Qt::LeftButton);
-    QCOMPARE(shown.table()->rowCount(), 0);
-    QTRY_COMPARE(shown.status(), QStringLiteral("No server is running."));
-
-    Settings::MasterServerHost.setValue(QString());
-    shown.action.trigger();
-    QVERIFY(shown.status().startsWith(QLatin1String("No master server is set.")));
-}
-
-void tst_ServersDock::copiesAddresses()
-{
-    m_master->replies = {QByteArray::fromHex("040302015C6D050302015C6D")};
-    Shown shown;
-    QTableWidget *table = shown.table();
-    auto *button = shown.child<QPushButton>("btnCopyAddress");
-    QVERIFY(!button->isEnabled());
-    shown.action.trigger();
-    QTRY_COMPARE(table->rowCount(), 2);
     const auto place = [table](int row) { return table->visualItemRect(table->item(row, 0)).center(); };
     QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, place(1));
     QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, place(1));
     QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("1.2.3.5:27996"));
-    QCOMPARE(shown.window.statusBar()->currentMessage(), QStringLiteral("Copied \"1.2.3.5:27996\""));
-
+    QCOMPARE(window.statusBar()->currentMessage(), QStringLiteral("Copied \"1.2.3.5:27996\""));
     QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, place(0));
-    QTest::mouseClick(button, Qt::LeftButton);
+    QTest::mouseClick(copy, Qt::LeftButton);
     QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("1.2.3.4:27996"));
-    QApplication::setActiveWindow(&shown.window);
+    QApplication::setActiveWindow(&window);
     table->setFocus();
     table->selectAll();
     QTest::keySequence(table, QKeySequence::Copy);
     QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("1.2.3.4:27996\n1.2.3.5:27996"));
+
+    master.replies = {QByteArray(6, 0)};
+    QTest::mouseClick(find<QPushButton>(*dock, "btnQueryServers"), Qt::LeftButton);
+    QCOMPARE(table->rowCount(), 0);
+    QTRY_COMPARE(status(), QStringLiteral("No server is running."));
+    Settings::MasterServerHost.setValue(QString());
+    action.trigger();
+    QVERIFY(status().startsWith(QLatin1String("No master server is set.")));
 }
 
 QTEST_MAIN(tst_ServersDock)

@@ -2,21 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "Session.h"
 
-#include "Find.h"
 #include "Hand.h"
 #include "KVOpenGLWidget.h"
-#include "KVTreeView.h"
-#include "MainWindow.h"
 #include "Playback.h"
 #include "SampleModels.h"
-#include "Settings.h"
-#include "TestSupport.h"
 
-#include <QAction>
 #include <QComboBox>
 #include <QListWidget>
-#include <QPushButton>
-#include <QSpinBox>
 #include <QTabWidget>
 
 #include <limits>
@@ -50,14 +42,19 @@ private:
             lines << list->item(i)->text();
         return lines.filter(QStringLiteral("[Session]"));
     }
-    /// A start with these files, and a window that is closed when everything is open.
-    void run(const QStringList &paths)
+    static void selectBone(const MainWindow &window)
     {
-        MainWindow window;
-        window.show();
-        window.openAtStart(paths);
-        window.close();
+        const RecordRef bone{RecordKind::Bone, {1}};
+        find<KVTreeView>(window, "treeSkinnedMesh")->selectRecords({bone}, bone);
     }
+    struct Started : MainWindow
+    {
+        explicit Started(const QStringList &paths = {})
+        {
+            show();
+            openAtStart(paths);
+        }
+    };
 
     std::unique_ptr<QTemporaryDir> m_files;
     QString m_mesh;
@@ -68,11 +65,8 @@ private:
 void tst_Session::init()
 {
     m_files = std::make_unique<QTemporaryDir>();
-    TestSupport::useSettingsHome(*m_files);
+    useFolder(*m_files);
     qputenv("XDG_DATA_HOME", QFile::encodeName(m_files->path()));
-    Settings::GamePath.setValue(m_files->path());
-    Settings::OutputDir.setValue(m_files->path());
-    Settings::Updates.setValue(false);
     Settings::RestoreSession.setValue(true);
     m_mesh = m_files->filePath(QStringLiteral("man.skinnedmesh"));
     m_anim = m_files->filePath(QStringLiteral("man.anim"));
@@ -86,12 +80,9 @@ void tst_Session::theNextStartGoesOn()
 {
     QVector3D place;
     {
-        MainWindow window;
-        window.show();
-        window.openAtStart({m_mesh, m_anim, m_rigid});
+        Started window({m_mesh, m_anim, m_rigid});
         QVERIFY(QTest::qWaitForWindowExposed(&window));
-        find<KVTreeView>(window, "treeSkinnedMesh")
-            ->selectRecords({{RecordKind::Bone, {1}}}, {RecordKind::Bone, {1}});
+        selectBone(window);
         auto *blocks = find<QComboBox>(window, "cbAnimTrackBlock");
         blocks->setFocus();
         QTest::keyClick(blocks, Qt::Key_Down);
@@ -104,9 +95,7 @@ void tst_Session::theNextStartGoesOn()
         find<QTabWidget>(window, "tabWidget")->setCurrentWidget(find<QWidget>(window, "tabDatabase"));
         window.close();
     }
-    MainWindow window;
-    window.show();
-    window.openAtStart({});
+    Started window;
     QCOMPARE(root(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
     QCOMPARE(root(window, "treeAnim"), QStringLiteral("man.anim"));
     QCOMPARE(root(window, "treeStaticMesh"), QStringLiteral("box.staticmesh"));
@@ -125,14 +114,13 @@ void tst_Session::theNextStartGoesOn()
 void tst_Session::aSessionIsKeptWhereItIsWanted()
 {
     Settings::RestoreSession.setValue(false);
-    run({m_mesh});
+    Started({m_mesh}).close();
     QVERIFY(!Settings::Session.exists());
     Settings::RestoreSession.setValue(true);
-    run({m_mesh});
+    Started({m_mesh}).close();
     QVERIFY(Settings::Session.exists());
     Settings::RestoreSession.setValue(false);
-    MainWindow window;
-    window.openAtStart({});
+    Started window;
     QCOMPARE(root(window, "treeSkinnedMesh"), QString());
 }
 
@@ -141,23 +129,19 @@ void tst_Session::aCrashKeepsIt()
     {
         MainWindow window;
         window.show();
-        auto *session = window.findChild<Session *>();
-        session->setDelay(0);
+        window.findChild<Session *>()->setDelay(0);
         window.openAtStart({m_rigid});
         QTRY_VERIFY(Settings::Session.value().contains(QStringLiteral("staticmesh")));
     }
-    MainWindow window;
-    window.openAtStart({});
+    Started window;
     QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - box.staticmesh"));
 }
 
 void tst_Session::filesThatChangedOrWent()
 {
     {
-        MainWindow window;
-        window.openAtStart({m_mesh, m_anim, m_rigid});
-        find<KVTreeView>(window, "treeSkinnedMesh")
-            ->selectRecords({{RecordKind::Bone, {1}}}, {RecordKind::Bone, {1}});
+        Started window({m_mesh, m_anim, m_rigid});
+        selectBone(window);
         window.close();
     }
     SkinnedMesh other = triangleMan();
@@ -166,9 +150,7 @@ void tst_Session::filesThatChangedOrWent()
     QVERIFY(QFile::remove(m_anim));
     QVERIFY(TestSupport::writeFile(m_rigid, QByteArray(3, 'x')));
     const Hand hand({});
-    MainWindow window;
-    window.show();
-    window.openAtStart({});
+    Started window;
     QTest::qWait(50);
     QCOMPARE(hand.seen, QStringList());
     QCOMPARE(find<KVTreeView>(window, "treeSkinnedMesh")->currentRecord().kind, RecordKind::SkinnedMesh);
@@ -182,12 +164,10 @@ void tst_Session::filesThatChangedOrWent()
 
 void tst_Session::filesOfTheCommandLineWin()
 {
-    run({m_mesh, m_anim, m_rigid});
+    Started({m_mesh, m_anim, m_rigid}).close();
     const QString other = m_files->filePath(QStringLiteral("other.skinnedmesh"));
     QVERIFY(!triangleMan().write(other));
-    MainWindow window;
-    window.show();
-    window.openAtStart({other});
+    Started window({other});
     QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - other.skinnedmesh"));
     // The animation belonged to another mesh; the other tab has nothing to do with it.
     QCOMPARE(root(window, "treeAnim"), QString());
@@ -197,15 +177,11 @@ void tst_Session::filesOfTheCommandLineWin()
 void tst_Session::keptWorkComesBackOverTheSession()
 {
     {
-        MainWindow window;
-        window.show();
-        window.openAtStart({m_mesh});
+        Started window({m_mesh});
         find<QSpinBox>(window, "sbSMHTFactor")->setValue(9);
         window.close();
     }
-    MainWindow window;
-    window.show();
-    window.openAtStart({});
+    Started window;
     QCOMPARE(find<QSpinBox>(window, "sbSMHTFactor")->value(), 0);
     find<QPushButton>(window, "btnRestore")->click();
     QCOMPARE(find<QSpinBox>(window, "sbSMHTFactor")->value(), 9);
@@ -218,60 +194,61 @@ void tst_Session::keptWorkComesBackOverTheSession()
 
 void tst_Session::anySessionMayBeStored_data()
 {
-    QTest::addColumn<QVariantMap>("damage");
-    QTest::addColumn<QVariantList>("record"); ///< of the animation; empty: as it was
+    QTest::addColumn<QVariantMap>("damage"); ///< instead of what was stored, whole or within a file's map
     const double infinity = std::numeric_limits<double>::infinity();
     constexpr int most = std::numeric_limits<int>::max();
     constexpr int least = std::numeric_limits<int>::min();
+    const auto record = [](const QVariantList &numbers) {
+        return QVariantMap{{"record", QVariant(numbers)}};
+    };
     QTest::newRow("values of other types")
         << QVariantMap{{"viewSkinned", QVariantList{"a", "b", "c", "d", "e"}},
                        {"viewStatic", "far"},
                        {"block", "first"},
                        {"tabWidget", "tabNone"},
                        {"tabTrees", QVariantList{1, 2}},
-                       {"anim", 17}}
-        << QVariantList();
-    QTest::newRow("beyond the end") << QVariantMap{{"viewSkinned", QVariantList{infinity, 0, qQNaN(), 0, 0}},
-                                                   {"viewStatic", QVariantList{1e30, 0, 0, 0, 0}},
-                                                   {"block", most}}
-                                    << QVariantList{int(RecordKind::AnimAction), most, -1, 0};
-    QTest::newRow("below the start") << QVariantMap{{"viewSkinned", QVariantList{1}},
-                                                    {"viewStatic", QVariantList()},
-                                                    {"block", least}}
-                                     << QVariantList{int(RecordKind::AnimBlock), least, least, least};
-    QTest::newRow("a folder") << QVariantMap{{"anim", QVariantMap{{"path", "/"}}}} << QVariantList();
-    QTest::newRow("a device") << QVariantMap{{"anim", QVariantMap{{"path", "/dev/zero"}}}} << QVariantList();
-    QTest::newRow("no kind") << QVariantMap() << QVariantList{0, 0, 0, 0};
-    QTest::newRow("an unknown kind") << QVariantMap() << QVariantList{999, 0, 0, 0};
-    QTest::newRow("another tree") << QVariantMap() << QVariantList{int(RecordKind::Bone), 1, 0, 0};
+                       {"anim", 17}};
+    QTest::newRow("beyond the end") << QVariantMap{
+        {"viewSkinned", QVariantList{infinity, 0, qQNaN(), 0, 0}},
+        {"viewStatic", QVariantList{1e30, 0, 0, 0, 0}},
+        {"block", most},
+        {"anim", record({int(RecordKind::AnimAction), most, -1, 0})}};
+    QTest::newRow("below the start") << QVariantMap{
+        {"viewSkinned", QVariantList{1}},
+        {"viewStatic", QVariantList()},
+        {"block", least},
+        {"anim", record({int(RecordKind::AnimBlock), least, least, least})}};
+    for (const char *path : {"/", "/dev/zero"})
+        QTest::newRow(path) << QVariantMap{{"anim", QVariantMap{{"path", path}}}};
+    // None, an unknown one, and one of another tree.
+    QTest::newRow("odd kinds") << QVariantMap{{"skinnedmesh", record({0, 0, 0, 0})},
+                                              {"anim", record({999, 0, 0, 0})},
+                                              {"staticmesh", record({int(RecordKind::Bone), 1, 0, 0})}};
 }
 
 void tst_Session::anySessionMayBeStored()
 {
     QFETCH(QVariantMap, damage);
-    QFETCH(QVariantList, record);
-    run({m_mesh, m_anim, m_rigid});
+    Started({m_mesh, m_anim, m_rigid}).close();
     QVariantMap state = Settings::Session.value();
-    if (!record.isEmpty()) {
-        QVariantMap file = state.value(QStringLiteral("anim")).toMap();
-        QVERIFY(file.contains(QStringLiteral("record")));
-        file.insert(QStringLiteral("record"), record);
-        damage.insert(QStringLiteral("anim"), file);
-    }
     for (auto it = damage.constBegin(); it != damage.constEnd(); ++it) {
         QVERIFY2(state.contains(it.key()), qPrintable(it.key()));
-        state.insert(it.key(), it.value());
+        QVariantMap file = state[it.key()].toMap();
+        const QVariantMap instead = it.value().toMap();
+        for (auto part = instead.constBegin(); part != instead.constEnd(); ++part) {
+            QVERIFY2(file.contains(part.key()), qPrintable(part.key()));
+            file.insert(part.key(), part.value());
+        }
+        state.insert(it.key(), instead.isEmpty() ? it.value() : file);
     }
     Settings::Session.setValue(state);
     const Hand hand({});
-    MainWindow window;
-    window.show();
-    window.openAtStart({});
+    Started window;
     QTest::qWait(20);
     QCOMPARE(hand.seen, QStringList());
     QCOMPARE(root(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
-    if (!record.isEmpty())
-        QVERIFY(find<KVTreeView>(window, "treeAnim")->currentRecord().kind != RecordKind::None);
+    for (auto *tree : window.findChildren<KVTreeView *>())
+        QVERIFY(!tree->topLevelItem(0) || tree->currentRecord().kind != RecordKind::None);
     for (const char *view : {"viewSkinned", "viewStatic"}) {
         const QVector3D place = find<KVOpenGLWidget>(window, view)->camera().position();
         QVERIFY(std::isfinite(place.x()) && place.length() < 1e7f);

@@ -18,9 +18,9 @@ struct LookRow
     const char *name;
 };
 
-const LookRow rows[] = {{"desktop", QT_TRANSLATE_NOOP("Look", "Desktop")},
-                        {"light", QT_TRANSLATE_NOOP("Look", "Light")},
-                        {"dark", QT_TRANSLATE_NOOP("Look", "Dark")}};
+const LookRow lookRows[] = {{"desktop", QT_TRANSLATE_NOOP("Look", "Desktop")},
+                            {"light", QT_TRANSLATE_NOOP("Look", "Light")},
+                            {"dark", QT_TRANSLATE_NOOP("Look", "Dark")}};
 
 struct Colors
 {
@@ -75,12 +75,12 @@ void showDesktops()
 
 QString lookKey(Look look)
 {
-    return QLatin1String(rows[size_t(look)].key);
+    return QLatin1String(lookRows[size_t(look)].key);
 }
 
 QString lookName(Look look)
 {
-    return QCoreApplication::translate("Look", rows[size_t(look)].name);
+    return QCoreApplication::translate("Look", lookRows[size_t(look)].name);
 }
 
 Look chosenLook()

@@ -15,7 +15,7 @@ struct EventRow
     std::vector<EventArgument> arguments;
 };
 
-const EventRow rows[] = {
+const EventRow eventRows[] = {
     {{0, 31, 32}, {{QT_TRANSLATE_NOOP("EventArguments", "Sound ID"), Question::Sound}}},
     {{1, 8, 11}, {{QT_TRANSLATE_NOOP("EventArguments", "Particle ID"), Question::Particle}}},
     {{2, 3, 4, 15, 16, 17, 18, 19, 20, 25, 33},
@@ -62,10 +62,11 @@ const EventRow rows[] = {
 
 EventArgument eventArgument(int eventType, int argument)
 {
-    const auto *row = std::find_if(std::begin(rows), std::end(rows), [eventType](const EventRow &each) {
-        return std::find(each.types.begin(), each.types.end(), eventType) != each.types.end();
-    });
-    if (row == std::end(rows) || argument < 0 || size_t(argument) >= row->arguments.size())
+    const auto *row =
+        std::find_if(std::begin(eventRows), std::end(eventRows), [eventType](const EventRow &each) {
+            return std::find(each.types.begin(), each.types.end(), eventType) != each.types.end();
+        });
+    if (row == std::end(eventRows) || argument < 0 || size_t(argument) >= row->arguments.size())
         return {nullptr, {}};
     return row->arguments[size_t(argument)];
 }

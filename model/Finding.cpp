@@ -10,7 +10,7 @@ struct RuleRow
     Severity severity;
 };
 
-const RuleRow rows[] = {
+const RuleRow ruleRows[] = {
     {Rule::NoBones, "no-bones", Severity::Error},
     {Rule::NoAnimations, "no-animations", Severity::Error},
     {Rule::NoSurfaces, "no-surfaces", Severity::Error},
@@ -49,7 +49,7 @@ const RuleRow rows[] = {
     {Rule::ImpactTypeUnknown, "impact-type-unknown", Severity::Warning},
     {Rule::NotFinite, "not-finite", Severity::Error},
 };
-constexpr size_t RuleCount = sizeof rows / sizeof rows[0];
+constexpr size_t RuleCount = sizeof ruleRows / sizeof ruleRows[0];
 static_assert(RuleCount == size_t(Rule::NotFinite) + 1, "every rule has its row");
 } // namespace
 
@@ -57,7 +57,7 @@ const std::vector<Rule> &allRules()
 {
     static const std::vector<Rule> all = [] {
         std::vector<Rule> rules;
-        for (const RuleRow &row : rows)
+        for (const RuleRow &row : ruleRows)
             rules.push_back(row.rule);
         return rules;
     }();
@@ -66,12 +66,12 @@ const std::vector<Rule> &allRules()
 
 QLatin1String ruleId(Rule rule)
 {
-    return QLatin1String(rows[size_t(rule)].id);
+    return QLatin1String(ruleRows[size_t(rule)].id);
 }
 
 Severity severityOf(Rule rule)
 {
-    return rows[size_t(rule)].severity;
+    return ruleRows[size_t(rule)].severity;
 }
 
 QLatin1String severityId(Severity severity)

@@ -11,10 +11,10 @@
 
 namespace {
 // Bytes in the file; the least of those that vary.
-constexpr qint64 SurfaceBytes = 5;
-constexpr qint64 VertexBytes = 32;
+constexpr qint64 StaticSurfaceBytes = 5;
+constexpr qint64 StaticVertexBytes = 32;
 
-StaticMeshVertex readVertex(BinaryFileReader &reader)
+StaticMeshVertex readStaticVertex(BinaryFileReader &reader)
 {
     StaticMeshVertex vertex;
     readVertexFields(reader, vertex);
@@ -37,7 +37,7 @@ bool StaticMesh::read(BinaryFileReader &reader)
     if (surfaceCount < 0)
         return true;
     surfaces.clear();
-    const bool held = reader.holds(surfaceCount, SurfaceBytes);
+    const bool held = reader.holds(surfaceCount, StaticSurfaceBytes);
     if (held)
         surfaces.reserve(size_t(surfaceCount));
     for (qint32 i = 0; i < surfaceCount && !reader.hasError(); ++i) {
@@ -56,7 +56,7 @@ bool StaticMesh::read(BinaryFileReader &reader)
     if (vertexCount < 0)
         return true;
     vertices.clear();
-    readRecords(reader, vertexCount, VertexBytes, vertices, readVertex);
+    readRecords(reader, vertexCount, StaticVertexBytes, vertices, readStaticVertex);
     return reader.hasError();
 }
 

@@ -13,7 +13,7 @@ using K = RecordKind;
 constexpr int N = RecordRow::FromIndex;
 
 // clang-format off
-const RecordRow rows[] = {
+const RecordRow recordRows[] = {
     {K::SkinnedMesh,            K::None,                   0, 0, K::None,                 "%1",                          "filemesh",    false, ""},
     {K::Bones,                  K::SkinnedMesh,            0, 0, K::Bone,                 QT_TRANSLATE_NOOP("Records", "Bones (%1)"),              "bones",       false, ""},
     {K::Bone,                   K::Bones,                  N, 0, K::None,                 "%1: %2",                      "bone",        false, QT_TRANSLATE_NOOP("Records", "bone")},
@@ -59,7 +59,7 @@ template <typename Value, typename Make>
 std::array<Value, KindCount> byKind(Make make)
 {
     std::array<Value, KindCount> table{};
-    for (const RecordRow &row : rows)
+    for (const RecordRow &row : recordRows)
         make(table, row);
     return table;
 }

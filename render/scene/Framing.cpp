@@ -3,6 +3,7 @@
 #include "Framing.h"
 
 #include <QQuaternion>
+#include <QtMath>
 
 #include <algorithm>
 #include <cmath>
@@ -10,10 +11,9 @@
 
 namespace {
 // Narrower than the viewport's, which flies among models: a whole model looks less distorted so.
-constexpr float FieldOfView = 30.0f; // vertical, degrees
-constexpr float Room = 1.06f;
+constexpr float LensAngle = 30.0f; // vertical, degrees
+constexpr float FrameRoom = 1.06f;
 constexpr float LeastDistance = 1.0e-3f; // of the eye from the nearest point, relative to its place
-constexpr float DegreesPerRadian = 57.29578f;
 } // namespace
 
 bool isFinite(const QVector3D &point)
@@ -73,14 +73,14 @@ float VisionExtent::middle(int axis, float low, float high, float eyeZ) const
 Framing frameAll(const std::vector<QVector3D> &points, float yaw, float pitch, const QSize &size)
 {
     const QQuaternion around = QQuaternion::fromAxisAndAngle({0.0f, 1.0f, 0.0f}, yaw);
-    const float height = std::clamp(pitch, -90.0f, 90.0f) / DegreesPerRadian;
+    const float height = qDegreesToRadians(std::clamp(pitch, -90.0f, 90.0f));
     QMatrix4x4 turn;
     turn.lookAt(around.rotatedVector({0.0f, std::sin(height), -std::cos(height)}), {},
                 around.rotatedVector({0.0f, std::cos(height), std::sin(height)}));
     turn.setColumn(3, {0.0f, 0.0f, 0.0f, 1.0f});
 
     const float aspect = float(std::max(1, size.width())) / float(std::max(1, size.height()));
-    const float tangentY = std::tan(0.5f * FieldOfView / DegreesPerRadian) / Room;
+    const float tangentY = std::tan(qDegreesToRadians(0.5f * LensAngle)) / FrameRoom;
     const VisionExtent extent(points, turn, tangentY * aspect, tangentY);
     const QVector3D eye = extent.eye(LeastDistance * std::max(1.0f, std::fabs(extent.nearest())));
 
@@ -88,7 +88,7 @@ Framing frameAll(const std::vector<QVector3D> &points, float yaw, float pitch, c
     // Beyond a few thousand to one the depth buffer could not tell the model's parts apart.
     const float nearPlane = std::max(0.5f * (eye.z() - extent.nearest()), depth / 4096.0f);
     Framing framing;
-    framing.projection.perspective(FieldOfView, aspect, nearPlane, 1.1f * depth + nearPlane);
+    framing.projection.perspective(LensAngle, aspect, nearPlane, 1.1f * depth + nearPlane);
     framing.view.translate(-eye);
     framing.view *= turn;
     return framing;

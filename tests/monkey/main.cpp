@@ -15,13 +15,13 @@
 #include <memory>
 
 namespace {
-Journal *journal = nullptr;
+Journal *openJournal = nullptr;
 
 /// What Qt complains about stands in the journal, at the step that it is about.
 void noteMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
-    if (journal && type != QtDebugMsg && type != QtInfoMsg)
-        journal->note(QStringLiteral("says: ") + text);
+    if (openJournal && type != QtDebugMsg && type != QtInfoMsg)
+        openJournal->note(QStringLiteral("says: ") + text);
     if (type == QtFatalMsg)
         std::fprintf(stderr, "%s\n", qPrintable(text));
 }
@@ -90,7 +90,7 @@ int main(int argc, char *argv[])
     std::printf("monkey: seed %llu, journal %s\n", static_cast<unsigned long long>(seed), qPrintable(file));
     std::fflush(stdout);
     Journal steps(file, seed);
-    journal = &steps;
+    openJournal = &steps;
     qInstallMessageHandler(noteMessage);
     WriteGuard::confineTo(playground->root());
 
@@ -104,6 +104,6 @@ int main(int argc, char *argv[])
                 static_cast<unsigned long long>(seed), monkey.steps(),
                 static_cast<long long>(clock.elapsed() / 1000), monkey.linksOpened(), WriteGuard::refusals());
     qInstallMessageHandler(nullptr);
-    journal = nullptr;
+    openJournal = nullptr;
     return 0;
 }

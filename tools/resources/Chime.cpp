@@ -11,7 +11,6 @@
 namespace {
 constexpr int SampleRate = 22050;
 constexpr int SampleCount = SampleRate * 6 / 10;
-constexpr double Pi = 3.14159265358979323846;
 
 /// A struck bar: its overtones lie near 4 and 9.2 times the ground note and die away sooner.
 double bell(double hertz, double seconds)
@@ -19,7 +18,7 @@ double bell(double hertz, double seconds)
     if (seconds < 0.0)
         return 0.0;
     const double attack = std::min(1.0, seconds / 0.006);
-    const double phase = 2.0 * Pi * hertz * seconds;
+    const double phase = 2.0 * M_PI * hertz * seconds;
     return attack * (std::sin(phase) * std::exp(-7.0 * seconds) +
                      0.25 * std::sin(4.0 * phase) * std::exp(-18.0 * seconds) +
                      0.05 * std::sin(9.2 * phase) * std::exp(-40.0 * seconds));

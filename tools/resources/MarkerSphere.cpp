@@ -7,15 +7,14 @@
 namespace {
 constexpr int Segments = 48;
 constexpr int Rings = 12;
-constexpr double Pi = 3.14159265358979323846;
 /// Wide enough for a pixel or two at the sizes the viewport draws markers in.
 constexpr float EdgeWidth = 0.02f;
 
 /// A point of the unit sphere; ring 0 is the north pole, ring 12 the south pole.
 QVector3D globePoint(int segment, int ring)
 {
-    const double longitude = 2.0 * Pi * segment / Segments;
-    const double polar = Pi * ring / Rings;
+    const double longitude = 2.0 * M_PI * segment / Segments;
+    const double polar = M_PI * ring / Rings;
     return {float(std::sin(polar) * std::cos(longitude)), float(std::sin(polar) * std::sin(longitude)),
             float(std::cos(polar))};
 }

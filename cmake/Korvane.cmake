@@ -35,7 +35,7 @@ function(korvane_library name)
 endfunction()
 
 # The toolkit's headers take most of a compiler's time, so the rooms with the most files read them once. A file
-# still includes what it uses: fuzz targets and the package are compiled without this.
+# still includes what it uses: the package and the benchmarks are compiled without this.
 function(korvane_precompile target)
     if(NOT KORVANE_PCH)
         return()

@@ -26,7 +26,6 @@ constexpr float ReadOutInterval = 0.1f; // seconds
 // A driver that loses the context again at once will go on doing so.
 constexpr int MostLosses = 3;
 constexpr int LossesInterval = 10000; // milliseconds
-
 } // namespace
 
 KVOpenGLWidget::KVOpenGLWidget(QWidget *parent)
@@ -48,6 +47,13 @@ KVOpenGLWidget::KVOpenGLWidget(QWidget *parent)
     m_clock.start();
 }
 
+KVOpenGLWidget::~KVOpenGLWidget()
+{
+    if (context())
+        disconnect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &KVOpenGLWidget::releaseGL);
+    releaseGL();
+}
+
 void KVOpenGLWidget::embed()
 {
     if (!GraphicsProbe::hasOpenGL()) {
@@ -57,13 +63,6 @@ void KVOpenGLWidget::embed()
     }
     setWindowFlags(Qt::Widget);
     show();
-}
-
-KVOpenGLWidget::~KVOpenGLWidget()
-{
-    if (context())
-        disconnect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &KVOpenGLWidget::releaseGL);
-    releaseGL();
 }
 
 void KVOpenGLWidget::initializeGL()

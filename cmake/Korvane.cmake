@@ -34,30 +34,45 @@ function(korvane_library name)
     korvane_target_options(${name})
 endfunction()
 
-# The toolkit's headers take most of a compiler's time, so the rooms with the most files read them once. A file
-# still includes what it uses: the package and the benchmarks are compiled without this.
-function(korvane_precompile target)
+# The toolkit's headers take most of a compiler's time, so they are read once for all rooms that have widgets and
+# once for those that have none. A file still includes what it uses: the package and the benchmarks are compiled
+# without this. A set has a target of its own, whose command line has no more than every room's.
+function(korvane_header_set name)
+    cmake_parse_arguments(ARG "" "" "LINK;HEADERS" ${ARGN})
     if(NOT KORVANE_PCH)
         return()
     endif()
-    target_precompile_headers(${target} PRIVATE ${ARGN})
+    file(GENERATE OUTPUT ${PROJECT_BINARY_DIR}/headers/${name}.cpp CONTENT "")
+    add_library(${name} OBJECT ${PROJECT_BINARY_DIR}/headers/${name}.cpp)
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+    target_link_libraries(${name} PRIVATE ${ARG_LINK})
+    korvane_target_options(${name})
+    target_precompile_headers(${name} PRIVATE ${ARG_HEADERS})
+    korvane_keep_times_out(${name})
+endfunction()
+
+# ccache compares contents, not times.
+function(korvane_keep_times_out target)
     if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
-        # ccache compares contents, not times.
         target_compile_options(${target} PRIVATE "SHELL:-Xclang -fno-pch-timestamp")
     endif()
 endfunction()
 
-# Takes over the headers of a library that `target` links, where that library has them and nothing else on the
-# command line differs.
+# Lets a target have the headers of a set.
+function(korvane_precompile target set)
+    if(KORVANE_PCH)
+        target_precompile_headers(${target} REUSE_FROM ${set})
+        korvane_keep_times_out(${target})
+    endif()
+endfunction()
+
+# The same set as a library that `target` links has.
 function(korvane_precompile_as target library)
-    get_target_property(headers ${library} PRECOMPILE_HEADERS)
-    if(headers)
-        target_precompile_headers(${target} REUSE_FROM ${library})
+    get_target_property(set ${library} PRECOMPILE_HEADERS_REUSE_FROM)
+    if(set)
+        korvane_precompile(${target} ${set})
         # Nothing is in it: a test includes what moc makes of it.
         set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/mocs_compilation.cpp
                                     PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
-        if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
-            target_compile_options(${target} PRIVATE "SHELL:-Xclang -fno-pch-timestamp")
-        endif()
     endif()
 endfunction()

@@ -4,6 +4,7 @@
 
 #include "Document.h"
 #include "RecordFilter.h"
+#include "RecordSelection.h"
 
 #include <QTreeWidget>
 
@@ -11,7 +12,7 @@ class RecordItem;
 struct RecordRow;
 
 /// The structure tree of one document: its records as RecordItems, several of which may be selected.
-class KVTreeView : public QTreeWidget
+class KVTreeView : public QTreeWidget, public RecordSelection
 {
     Q_OBJECT
 
@@ -27,16 +28,14 @@ public:
     /// Builds the items anew and makes the root current. Mesh data is left out while it is hidden.
     void rebuild();
 
-    RecordRef currentRecord() const;
-    /// The selected records of one kind, ascending by index.
-    QVector<RecordIndex> selectedRecords(RecordKind kind) const;
+    RecordRef currentRecord() const override;
+    QVector<RecordIndex> selectedRecords(RecordKind kind) const override;
+    QString label(const RecordRef &record) const override;
 
     /// The item of a record, or of the deepest of its owners that has one; null in an empty tree.
     RecordItem *findItem(const RecordRef &record) const;
     /// Selects just these records and makes `current` the current one.
     void selectRecords(const QVector<RecordRef> &records, const RecordRef &current);
-
-    QString label(const RecordRef &record) const;
 
     /// Shows only the records that match, with what stands above and below them; an empty text shows all.
     /// The current record stays current where it is shown.

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "RecordItem.h"
 
-#include "KVTreeView.h"
+#include "RecordSelection.h"
 #include "RecordTable.h"
+
+#include <QTreeWidget>
 
 namespace {
 QVariantList userData(const RecordRef &record)
@@ -38,8 +40,8 @@ QVariant RecordItem::data(int column, int role) const
         return userData(record());
     case Qt::DisplayRole:
     case Qt::EditRole: {
-        const auto *tree = static_cast<const KVTreeView *>(treeWidget());
-        return tree ? tree->label(record()) : QString();
+        const auto *labels = dynamic_cast<const RecordSelection *>(treeWidget());
+        return labels ? labels->label(record()) : QString();
     }
     case Qt::DecorationRole:
         return recordIcon(m_kind);

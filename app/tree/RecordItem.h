@@ -7,8 +7,8 @@
 #include <QTreeWidgetItem>
 
 /// The tree item of one record or group. It keeps the record's kind and its number in its list; its owners'
-/// numbers are its parents', text and icon come from the tree's document when asked. So half a million of
-/// them are cheap and no label can be stale.
+/// numbers are its parents', the text comes from its tree (a RecordSelection) when asked. So half a million
+/// of them are cheap and no label can be stale.
 class RecordItem final : public QTreeWidgetItem
 {
 public:

@@ -1,0 +1,167 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "QuestionMenu.h"
+
+#include "DatabaseTab.h"
+#include "DatabaseTables.h"
+#include "EventArguments.h"
+#include "FloatSpinBox.h"
+#include "Log.h"
+#include "Questions.h"
+#include "Shortcuts.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QDoubleSpinBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPointer>
+#include <QSpinBox>
+
+#include <optional>
+
+namespace {
+struct QuestionText
+{
+    QLatin1String key;
+    const char *text;
+    const char *title;
+    ReferenceKind table; ///< of no meaning for damage, which is calculated
+};
+
+const QuestionText questions[] = {
+    {Question::Actor, QT_TRANSLATE_NOOP("QuestionMenu", "What Actor is this?"),
+     QT_TRANSLATE_NOOP("QuestionMenu", "Actor"), ReferenceKind::Actors},
+    {Question::Animation, QT_TRANSLATE_NOOP("QuestionMenu", "What Animation is this?"),
+     QT_TRANSLATE_NOOP("QuestionMenu", "Animation"), ReferenceKind::Animations},
+    {Question::Sound, QT_TRANSLATE_NOOP("QuestionMenu", "What Sound is this?"),
+     QT_TRANSLATE_NOOP("QuestionMenu", "Sound"), ReferenceKind::Sounds},
+    {Question::Voice, QT_TRANSLATE_NOOP("QuestionMenu", "What Voice is this?"),
+     QT_TRANSLATE_NOOP("QuestionMenu", "Voice"), ReferenceKind::Voices},
+    {Question::Particle, QT_TRANSLATE_NOOP("QuestionMenu", "What Particle is this?"),
+     QT_TRANSLATE_NOOP("QuestionMenu", "Particle"), ReferenceKind::Particles},
+    {Question::Impact, QT_TRANSLATE_NOOP("QuestionMenu", "What Impact Type is this?"),
+     QT_TRANSLATE_NOOP("QuestionMenu", "Impact Types"), ReferenceKind::Impacts},
+    {Question::Damage, QT_TRANSLATE_NOOP("QuestionMenu", "How much damage is this?"),
+     QT_TRANSLATE_NOOP("QuestionMenu", "Actual Damage"), ReferenceKind::Actors},
+};
+
+/// The value of any of the three kinds of spin boxes.
+std::optional<double> valueOf(const QObject *editor)
+{
+    if (const auto *whole = qobject_cast<const QSpinBox *>(editor))
+        return whole->value();
+    if (const auto *real = qobject_cast<const QDoubleSpinBox *>(editor))
+        return real->value();
+    if (const auto *real = qobject_cast<const FloatSpinBox *>(editor))
+        return double(real->value());
+    return std::nullopt;
+}
+} // namespace
+
+QuestionMenu::QuestionMenu(DatabaseTab &tables, QWidget *fields)
+    : QObject(fields)
+    , m_tables(tables)
+{
+    for (QAbstractSpinBox *editor : fields->findChildren<QAbstractSpinBox *>())
+        editor->installEventFilter(this);
+    for (int i = 0; i < int(std::size(questions)); ++i) {
+        auto *action = new QAction(tr(questions[i].text), fields);
+        nameShortcut(action, QLatin1String("actionAsk_") + questions[i].key, tr("Number Fields"), {});
+        fields->addAction(action);
+        connect(action, &QAction::triggered, this, [this, i] { askFocused(i); });
+        m_actions.append(action);
+    }
+}
+
+bool QuestionMenu::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::ContextMenu || Questions::of(watched).isEmpty())
+        return QObject::eventFilter(watched, event);
+    QMenu *menu = createMenu(watched);
+    if (!menu)
+        return false;
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->popup(static_cast<QContextMenuEvent *>(event)->globalPos());
+    event->accept();
+    return true;
+}
+
+QMenu *QuestionMenu::createMenu(QObject *editor)
+{
+    auto *box = qobject_cast<QAbstractSpinBox *>(editor);
+    auto *text = box ? box->findChild<QLineEdit *>() : nullptr;
+    if (!text || !valueOf(editor)) {
+        Log::error(tr("QObject is not a spinbox or DoubleSpinbox "));
+        return nullptr;
+    }
+    QMenu *menu = text->createStandardContextMenu();
+    QAction *first = menu->actions().value(0);
+    const bool isWhole = qobject_cast<QSpinBox *>(editor);
+    const QStringList keys = Questions::of(editor);
+    for (const QString &key : keys) {
+        for (int i = 0; i < int(std::size(questions)); ++i) {
+            if (key != questions[i].key)
+                continue;
+            // Shown with the keys, but without having them: they would be ambiguous while the menu is up.
+            const QString shown = keysText(m_actions[i]->shortcuts());
+            auto *action = new QAction(tr(questions[i].text), menu);
+            if (!shown.isEmpty())
+                action->setText(action->text() + QLatin1Char('\t') + shown);
+            menu->insertAction(first, action);
+            // Queued, so that the answer's box does not run from within the menu. The menu is no part of the
+            // field and may outlive it.
+            const auto answer = [this, i, isWhole, field = QPointer<QObject>(editor)] {
+                if (field)
+                    ask(i, field);
+                else
+                    Log::error(isWhole ? tr("Failed to check Spinbox ID")
+                                       : tr("Failed to check DoubleSpinbox ID"));
+            };
+            connect(action, &QAction::triggered, this, answer, Qt::QueuedConnection);
+        }
+    }
+    if (menu->actions().value(0) != first)
+        menu->insertSeparator(first);
+
+    menu->addSeparator();
+    const auto addStep = [menu, box](const QString &title, int steps) {
+        QAction *action = menu->addAction(title);
+        action->setEnabled(!box->isReadOnly());
+        connect(action, &QAction::triggered, box, [box, steps] { box->stepBy(steps); });
+    };
+    addStep(tr("&Step up"), 1);
+    addStep(tr("Step &down"), -1);
+    return menu;
+}
+
+void QuestionMenu::askFocused(int question) const
+{
+    QWidget *editor = QApplication::focusWidget();
+    while (editor && !Questions::of(editor).contains(questions[question].key))
+        editor = editor->parentWidget();
+    if (editor && valueOf(editor))
+        ask(question, editor);
+}
+
+void QuestionMenu::ask(int question, QObject *editor) const
+{
+    const QuestionText &asked = questions[question];
+    const double value = *valueOf(editor);
+    const QString answer = asked.key == Question::Damage
+                               ? damageText(float(value))
+                               : lookupDatabaseName(m_tables.table(asked.table), value);
+    QMessageBox::information(static_cast<QWidget *>(editor)->window(), tr(asked.title), answer);
+}
+
+QString QuestionMenu::damageText(float value)
+{
+    constexpr float unit = 0.00390625f;
+    const float damage = value * unit;
+    const auto number = [](float each) { return QString::number(double(each)); };
+    return tr("%1 is %2 damage (Value is divided by 256)\n\nHead (x10): %3\nNeck (x5): %4\nBody (x1): "
+              "%2\nArms and Legs(x0.5): %5\nHands and Feet(x0.25): %6")
+        .arg(number(value), number(damage), number(damage * 10.0f), number(damage * 5.0f),
+             number(damage * 0.5f), number(damage * 0.25f));
+}

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Records.h"
+
+#include <QString>
+#include <QVector>
+
+/// What lists the records of a document and lets the user select some of them, for those who need not know
+/// that it is a tree.
+class RecordSelection
+{
+public:
+    virtual RecordRef currentRecord() const = 0;
+    /// The selected records of one kind, ascending by index.
+    virtual QVector<RecordIndex> selectedRecords(RecordKind kind) const = 0;
+    /// What a record is called in the list.
+    virtual QString label(const RecordRef &record) const = 0;
+
+protected:
+    RecordSelection() = default;
+    RecordSelection(const RecordSelection &) = default;
+    RecordSelection &operator=(const RecordSelection &) = default;
+    ~RecordSelection() = default;
+};

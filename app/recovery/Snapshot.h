@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "DocumentKind.h"
+
+#include <QDateTime>
+
+/// What is known of a kept model without reading it.
+struct Snapshot
+{
+    QString file; ///< its name in the store's folder
+    DocumentType type = DocumentType::SkinnedMesh;
+    QString sourcePath; ///< the document's file; empty when it was never saved
+    QString name;       ///< the document's file name, also of one without a file
+    QDateTime time;
+};

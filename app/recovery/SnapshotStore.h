@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Snapshot.h"
+
+#include <QObject>
+#include <QSet>
+#include <QThreadPool>
+#include <QVector>
+
+#include <atomic>
+#include <memory>
+#include <vector>
+
+class FolderLock;
+
+/// Models kept on disk, each a file of its own: a small header, the bytes of the model's own format, a hash
+/// of both. A file is there whole or not at all.
+///
+/// Every running program has a folder of its own below the root, which nobody else touches while it runs.
+/// What programs that ended have left is taken over when a store is made, by the first that comes.
+///
+/// Files are written and removed one after another by a thread of the store; all else is for the GUI thread.
+class SnapshotStore : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr int MostKept = 20;
+
+    /// Says so in the log when nothing can be kept below `root`.
+    explicit SnapshotStore(const QString &root, QObject *parent = nullptr);
+    ~SnapshotStore() override;
+
+    /// Where a program of this user keeps its snapshots.
+    static QString defaultRoot();
+    /// Where a report of a crash is to be written.
+    QString crashReportPath() const;
+    /// Reports of programs that crashed since the last start, the newest first.
+    const QStringList &crashReports() const { return m_crashReports; }
+
+    /// A name that no snapshot of any program has.
+    QString newFile(DocumentType type);
+    /// Keeps a model under `snapshot.file`, in place of what is kept there. Then the oldest of more than
+    /// MostKept snapshots go, those of `spared` aside.
+    void keep(const Snapshot &snapshot, std::vector<uchar> model, const QSet<QString> &spared);
+    void remove(const QString &file);
+    /// Whether files wait to be written.
+    bool isBusy() const { return m_jobs > 0; }
+    void waitForDone();
+
+    /// All that are kept, the newest first. Damaged ones are left out, with a line in the log.
+    QVector<Snapshot> snapshots();
+    /// The model's bytes. Returns true when the file is not what was kept.
+    [[nodiscard]] bool read(const Snapshot &snapshot, QByteArray *model);
+
+signals:
+    /// A snapshot could not be written.
+    void failed(const QString &file, const QString &reason);
+
+private:
+    bool createFolder();
+    void takeOver();
+    void takeOver(const QString &folder);
+    void takeOverReport(const QString &report);
+    void run(const std::function<void()> &job);
+    QString pathOf(const QString &file) const { return m_folder + QLatin1Char('/') + file; }
+
+    const QString m_root;
+    QString m_folder; ///< empty when nothing can be kept
+    std::unique_ptr<FolderLock> m_lock;
+    QStringList m_crashReports;
+    int m_files = 0;
+    std::atomic<int> m_jobs{0};
+    QThreadPool m_thread;
+};

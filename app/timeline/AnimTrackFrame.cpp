@@ -1,0 +1,243 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "AnimTrackFrame.h"
+
+#include "AnimFile.h"
+#include "FrameChoice.h"
+#include "Icons.h"
+#include "Playback.h"
+#include "ReferenceTable.h"
+#include "Settings.h"
+#include "Shortcuts.h"
+#include "ui_AnimTrackFrame.h"
+
+#include <QAbstractItemView>
+#include <QAction>
+#include <QKeyEvent>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <functional>
+
+namespace {
+const AnimBlock *currentBlock()
+{
+    const Playback &state = playback();
+    const int count = state.anim ? int(state.anim->blocks.size()) : 0;
+    return state.blockIndex >= 0 && state.blockIndex < count ? &state.anim->blocks[size_t(state.blockIndex)]
+                                                             : nullptr;
+}
+} // namespace
+
+AnimTrackFrame::AnimTrackFrame(QWidget *parent)
+    : QFrame(parent)
+    , m_ui(std::make_unique<Ui::AnimTrackFrame>())
+{
+    m_ui->setupUi(this);
+    const struct
+    {
+        QToolButton *button;
+        const char *icon;
+        int key;
+        std::function<void()> deed; ///< none for what is switched
+    } deeds[] = {
+        {m_ui->btnAnimTrackPlay, "play", 0, [this] { OnAnimTrackPlayPressed(); }},
+        {m_ui->btnAnimTrackStop, "stop", 0, [this] { OnAnimTrackStopPressed(); }},
+        {m_ui->btnAnimTrackPose, "pose", 0, [this] { OnAnimTrackPosePressed(); }},
+        {m_ui->btnAnimTrackLoop, "loop", 0, {}},
+        {m_ui->btnAnimTrackMarkBack, "markback", Qt::Key_BracketLeft, [this] { stepToMark(-1); }},
+        {m_ui->btnAnimTrackStepBack, "stepback", Qt::Key_Comma, [this] { step(-1); }},
+        {m_ui->btnAnimTrackStepForward, "stepforward", Qt::Key_Period, [this] { step(1); }},
+        {m_ui->btnAnimTrackMarkForward, "markforward", Qt::Key_BracketRight, [this] { stepToMark(1); }}};
+    for (const auto &each : deeds) {
+        auto *action = new QAction(namedIcon(QLatin1String(each.icon)), each.button->text(), this);
+        action->setToolTip(each.button->toolTip());
+        action->setCheckable(each.button->isCheckable());
+        addTrackAction(action, each.button->objectName().mid(int(qstrlen("btn"))), each.key);
+        each.button->setDefaultAction(action);
+        if (each.deed)
+            connect(action, &QAction::triggered, this, each.deed);
+    }
+    auto *playOrPause = new QAction(tr("Play or Pause"), this);
+    addTrackAction(playOrPause, QStringLiteral("AnimTrackPlayOrPause"), Qt::Key_Space);
+    connect(playOrPause, &QAction::triggered, this, &AnimTrackFrame::playOrPause);
+    // Wide enough for four digits, so that the slider does not move under the mouse while playing.
+    m_ui->lblAnimTrackFrames->setMinimumWidth(
+        fontMetrics().horizontalAdvance(tr("Frame: %1 / %2").arg(8888).arg(8888)));
+
+    connect(m_ui->btnAnimTrackLoop, &QToolButton::toggled, this, &AnimTrackFrame::OnAnimTrackLoopToggled);
+    connect(m_ui->sliderAnimTrack, &QSlider::valueChanged, this, &AnimTrackFrame::OnAnimTrackSliderChanged);
+    connect(m_ui->sliderAnimTrack, &TrackSlider::actionChosen, this,
+            [this](int action) { emit actionChosen(playback().blockIndex, action); });
+    connect(m_ui->cbAnimTrackBlock, qOverload<int>(&QComboBox::activated), this,
+            &AnimTrackFrame::blockChosen);
+    connect(m_ui->sbAnimTrackSpeed, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
+            [](double factor) { playback().speedFactor = float(factor); });
+    playback().speedFactor = float(m_ui->sbAnimTrackSpeed->value());
+}
+
+AnimTrackFrame::~AnimTrackFrame() = default;
+
+void AnimTrackFrame::addTrackAction(QAction *action, const QString &name, int key)
+{
+    action->setObjectName(QLatin1String("action") + name);
+    action->setShortcut(key);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    nameShortcut(action, action->objectName(), tr("Timeline"), {});
+    m_actions.append(action);
+}
+
+void AnimTrackFrame::serve(QWidget &panel)
+{
+    panel.addActions(m_actions);
+    for (QWidget *each : panel.findChildren<QWidget *>()) {
+        if (qobject_cast<QAbstractButton *>(each) || qobject_cast<QComboBox *>(each))
+            each->installEventFilter(this);
+    }
+}
+
+bool AnimTrackFrame::eventFilter(QObject *watched, QEvent *event)
+{
+    // Space presses what has the focus, rather than to play.
+    if (event->type() == QEvent::ShortcutOverride &&
+        static_cast<QKeyEvent *>(event)->key() == Qt::Key_Space) {
+        event->accept();
+        return true;
+    }
+    return QFrame::eventFilter(watched, event);
+}
+
+void AnimTrackFrame::openAnimation(const AnimFile *file)
+{
+    playback().anim = file;
+    selectBlock(0);
+}
+
+void AnimTrackFrame::selectBlock(int blockIndex)
+{
+    Playback &state = playback();
+    state.blockIndex = blockIndex;
+    state.playState = Settings::AnimationAutoPlay.value() ? PlayState::Playing : PlayState::InitialPose;
+    updateRange();
+    showFrame(0);
+    state.time = 0.0f;
+    emit playbackChanged();
+}
+
+void AnimTrackFrame::updateRange()
+{
+    // A clamped slider must not set a play time.
+    const QSignalBlocker blocker(m_ui->sliderAnimTrack);
+    const AnimBlock *block = currentBlock();
+    m_ui->sliderAnimTrack->setMaximum(block ? std::max(0, block->frameCount() - 1) : 0);
+    m_ui->sliderAnimTrack->setActions(block);
+    const bool hasActions = block && !block->actions.empty();
+    for (const QToolButton *button : {m_ui->btnAnimTrackMarkBack, m_ui->btnAnimTrackMarkForward})
+        button->defaultAction()->setEnabled(hasActions);
+    listBlocks();
+    setEnabled(playback().anim != nullptr);
+}
+
+void AnimTrackFrame::listBlocks()
+{
+    const AnimFile *file = playback().anim;
+    if (file && m_animationNames.isEmpty()) {
+        ReferenceTable table;
+        if (!table.read(referencePath(ReferenceKind::Animations))) {
+            for (const ReferenceRow &row : table.rows)
+                m_animationNames.insert(row.number, row.name.trimmed());
+        }
+    }
+    QStringList names;
+    const int count = file ? int(file->blocks.size()) : 0;
+    for (int i = 0; i < count; ++i) {
+        const QString name = m_animationNames.value(file->blocks[size_t(i)].animId);
+        names << (name.isEmpty() ? QString::number(i) : tr("%1: %2").arg(i).arg(name));
+    }
+    QComboBox *box = m_ui->cbAnimTrackBlock;
+    QStringList shown;
+    for (int i = 0; i < box->count(); ++i)
+        shown << box->itemText(i);
+    if (shown != names) {
+        box->clear();
+        box->addItems(names);
+        box->view()->setMinimumWidth(box->view()->sizeHintForColumn(0) + box->view()->frameWidth() * 2);
+    }
+    box->setCurrentIndex(playback().blockIndex);
+}
+
+void AnimTrackFrame::showFrame(int frame)
+{
+    const QSignalBlocker blocker(m_ui->sliderAnimTrack);
+    m_ui->sliderAnimTrack->setValue(frame);
+}
+
+void AnimTrackFrame::showLabel(const QString &text)
+{
+    m_ui->lblAnimTrackFrames->setText(text);
+}
+
+void AnimTrackFrame::playOrPause()
+{
+    PlayState &state = playback().playState;
+    if (state == PlayState::InitialPose)
+        return OnAnimTrackPlayPressed();
+    state = state == PlayState::Playing ? PlayState::Paused : PlayState::Playing;
+    emit playbackChanged();
+}
+
+void AnimTrackFrame::goTo(int frame)
+{
+    if (frame < 0 || frame > m_ui->sliderAnimTrack->maximum())
+        return;
+    playback().playState = PlayState::Paused;
+    m_ui->sliderAnimTrack->setValue(frame);
+    // The slider says nothing where it stands already.
+    OnAnimTrackSliderChanged(frame);
+}
+
+void AnimTrackFrame::step(int direction)
+{
+    goTo(m_ui->sliderAnimTrack->value() + direction);
+}
+
+void AnimTrackFrame::stepToMark(int direction)
+{
+    goTo(m_ui->sliderAnimTrack->markedFrame(m_ui->sliderAnimTrack->value(), direction));
+}
+
+void AnimTrackFrame::OnAnimTrackPlayPressed()
+{
+    playback().playState = PlayState::Playing;
+    playback().time = 0.0f;
+    emit playbackChanged();
+}
+
+void AnimTrackFrame::OnAnimTrackStopPressed()
+{
+    playback().playState = PlayState::Paused;
+    emit playbackChanged();
+}
+
+void AnimTrackFrame::OnAnimTrackPosePressed()
+{
+    playback().playState = PlayState::InitialPose;
+    m_ui->sliderAnimTrack->setValue(0);
+    playback().time = 0.0f;
+    emit playbackChanged();
+}
+
+void AnimTrackFrame::OnAnimTrackLoopToggled(bool on)
+{
+    playback().forceLoop = on;
+    emit playbackChanged();
+}
+
+void AnimTrackFrame::OnAnimTrackSliderChanged(int frame)
+{
+    const AnimBlock *block = currentBlock();
+    if (!block || frame >= block->frameCount())
+        return;
+    playback().time = float(frame) / playRate(block->speed);
+    emit playbackChanged();
+}

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QFrame>
+#include <QHash>
+
+#include <memory>
+
+class QAction;
+struct AnimFile;
+
+namespace Ui {
+class AnimTrackFrame;
+}
+
+/// The track controls: the block, play, stop, pose, forced loop, single steps, the frame slider with the
+/// marks of the actions, the frame label and the playing speed. They set the process-wide playback state,
+/// which the viewport plays.
+class AnimTrackFrame : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit AnimTrackFrame(QWidget *parent = nullptr);
+    ~AnimTrackFrame() override;
+
+    /// Another animation file was opened (or none): its first block becomes current.
+    void openAnimation(const AnimFile *file);
+    /// Makes a block the current one and starts it, or shows its initial pose, as the option says.
+    void selectBlock(int blockIndex);
+    /// Fits slider, marks and the list of blocks to the file, which may have changed.
+    void updateRange();
+
+    /// Follows the frame that was painted; sets no time.
+    void showFrame(int frame);
+    void showLabel(const QString &text);
+
+    /// Gives a panel the keys of the buttons, and those that play or pause. Its buttons and lists keep Space
+    /// for themselves.
+    void serve(QWidget &panel);
+
+signals:
+    /// A block was chosen here.
+    void blockChosen(int block);
+    /// An action of the current block was chosen here.
+    void actionChosen(int block, int action);
+    /// The playback state was changed here: the picture is stale.
+    void playbackChanged();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private slots:
+    void OnAnimTrackPlayPressed();
+    void OnAnimTrackStopPressed();
+    void OnAnimTrackPosePressed();
+    void OnAnimTrackLoopToggled(bool on);
+    void OnAnimTrackSliderChanged(int frame);
+
+private:
+    void addTrackAction(QAction *action, const QString &name, int key);
+    void playOrPause();
+    void goTo(int frame);
+    void step(int direction);
+    void stepToMark(int direction);
+    void listBlocks();
+
+    std::unique_ptr<Ui::AnimTrackFrame> m_ui;
+    QList<QAction *> m_actions;
+    QHash<int, QString> m_animationNames; ///< by id; read when there is something to name
+};

@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "AnimActionPage.h"
+
+#include "AnimCommands.h"
+#include "EventArguments.h"
+#include "IndexTargets.h"
+#include "NameTables.h"
+#include "Questions.h"
+
+using namespace Parts;
+
+namespace {
+/// Every question, the fitting one (if any) first.
+QStringList questionsAfter(QLatin1String fitting)
+{
+    QStringList questions{Question::Actor,    Question::Animation, Question::Sound, Question::Voice,
+                          Question::Particle, Question::Impact,    Question::Damage};
+    if (!fitting.isNull()) {
+        questions.removeOne(fitting);
+        questions.prepend(fitting);
+    }
+    return questions;
+}
+} // namespace
+
+AnimActionPage::AnimActionPage(ModelDocument<Model> &document, const KVTreeView &tree,
+                               const SkinnedMeshDocument &mesh, QWidget *parent)
+    : RecordPage(document, tree, tr("Anim %1 - Key Frame Action %2 Properties"), parent)
+    , m_mesh(mesh)
+{
+    m_ui.setupUi(this);
+    m_ui.cbAnimActionEventType->setNames(eventTypeNames());
+
+    connect(&mesh, &Document::replaced, this, &AnimActionPage::recordShown);
+    connect(&mesh, &Document::recordsChanged, this, &AnimActionPage::recordShown);
+
+    using Page = AnimActionPage;
+    bind<UC_AnimActionEventType>(m_ui.cbAnimActionEventType, Whole, tr("Key Frame Action Event Type"),
+                                 &Page::OnAnimActionEventTypeChanged);
+    bind<UC_AnimActionFrame>(m_ui.sbAnimActionFrame, Whole, tr("Key Frame Action Frame"),
+                             &Page::OnAnimActionFrameChanged);
+    bind<UC_AnimActionNode>(m_ui.sbAnimActionNode, Whole, tr("Key Frame Action Node"),
+                            &Page::OnAnimActionNodeChanged);
+    bindVector<UC_AnimActionOffset, Page>(tr("Key Frame Action Offset %1"),
+                                          {{m_ui.sbAnimActionOffsetX, &Page::OnAnimActionOffsetXChanged},
+                                           {m_ui.sbAnimActionOffsetY, &Page::OnAnimActionOffsetYChanged},
+                                           {m_ui.sbAnimActionOffsetZ, &Page::OnAnimActionOffsetZChanged}});
+    m_arguments = {{{m_ui.lblAnimActionArg1, m_ui.sbAnimActionArg1},
+                    {m_ui.lblAnimActionArg2, m_ui.sbAnimActionArg2},
+                    {m_ui.lblAnimActionArg3, m_ui.sbAnimActionArg3},
+                    {m_ui.lblAnimActionArg4, m_ui.sbAnimActionArg4},
+                    {m_ui.lblAnimActionArg5, m_ui.sbAnimActionArg5},
+                    {m_ui.lblAnimActionArg6, m_ui.sbAnimActionArg6},
+                    {m_ui.lblAnimActionArg7, m_ui.sbAnimActionArg7},
+                    {m_ui.lblAnimActionArg8, m_ui.sbAnimActionArg8}}};
+    for (int i = 0; i < int(m_arguments.size()); ++i)
+        bind<UC_AnimActionArgs>(m_arguments[size_t(i)].editor, Component{i}, tr("Key Frame Action Args"),
+                                &Page::OnAnimActionArgsChanged);
+    connect(m_ui.btnAnimActionPositionToBone, &QPushButton::clicked, this, &Page::OnAnimActionPositionToBone);
+}
+
+void AnimActionPage::recordShown()
+{
+    const AnimAction *action = record();
+    if (!action)
+        return;
+    const AnimBlock &block = model().blocks[size_t(index()[0])];
+    m_ui.hintAnimActionFrame->setTarget(IndexTargets::actionFrame(block, action->frame));
+    m_ui.hintAnimActionNode->setTarget(IndexTargets::actionBone(block, m_mesh.model(), action->node));
+    nameArguments(action->eventType);
+}
+
+void AnimActionPage::nameArguments(int eventType)
+{
+    for (int i = 0; i < int(m_arguments.size()); ++i) {
+        const auto &[label, editor] = m_arguments[size_t(i)];
+        const EventArgument meaning = eventArgument(eventType, i);
+        const bool isDamage = meaning.question == Question::Damage;
+        label->setText(meaning.label ? QCoreApplication::translate("EventArguments", meaning.label)
+                                     : tr("Arg %1").arg(i + 1));
+        const QString toolTip = isDamage
+                                    ? tr("Damage is this value / 256. Example: 64 damage = 16384\n"
+                                         "By default most enemies head have damage scaling of 10.\n"
+                                         "Which means head shots will take 640 damage.")
+                                    : tr("Argument %1; what it means depends on the event type").arg(i + 1);
+        label->setToolTip(toolTip);
+        editor->setToolTip(toolTip);
+        Questions::set(editor, questionsAfter(meaning.question));
+    }
+}
+
+void AnimActionPage::OnAnimActionPositionToBone()
+{
+    // Offsets are relative to the bone that carries them, whatever its pose: its own place is the origin.
+    edit<UC_AnimActionOffset>(Whole, QVector3D(), tr("Key Frame Action Position To Bone"));
+}

@@ -1399,6 +1399,17 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
 </context>
 <context>
+    <name>DocumentPanes</name>
+    <message>
+        <source>The filter above the tree hides %1.</source>
+        <translation>Der Filter über dem Baum blendet %1 aus.</translation>
+    </message>
+    <message>
+        <source>The tree leaves such records out. The options can make it show them.</source>
+        <translation>Der Baum lässt solche Datensätze aus. Die Optionen können sie einblenden.</translation>
+    </message>
+</context>
+<context>
     <name>EventArguments</name>
     <message>
         <source>Sound ID</source>
@@ -2143,6 +2154,14 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
         <source>Exported &apos;%1&apos;</source>
         <translation>„%1“ exportiert</translation>
     </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>No dice!</source>
+        <translation>Das geht nicht!</translation>
+    </message>
 </context>
 <context>
     <name>ImportWorker</name>
@@ -2470,10 +2489,6 @@ Alles andere funktioniert weiter.</translation>
         <translation>Ö&amp;ffnen…</translation>
     </message>
     <message>
-        <source>Open a file of the current kind (Ctrl+O)</source>
-        <translation>Eine Datei der aktuellen Art öffnen (Strg+O)</translation>
-    </message>
-    <message>
         <source>Open a file of the current kind</source>
         <translation>Eine Datei der aktuellen Art öffnen</translation>
     </message>
@@ -2482,20 +2497,12 @@ Alles andere funktioniert weiter.</translation>
         <translation>&amp;Speichern</translation>
     </message>
     <message>
-        <source>Save the current document (Ctrl+S)</source>
-        <translation>Das aktuelle Dokument speichern (Strg+S)</translation>
-    </message>
-    <message>
         <source>Save the current document</source>
         <translation>Das aktuelle Dokument speichern</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
         <translation>Speichern &amp;unter…</translation>
-    </message>
-    <message>
-        <source>Save the current document under another name (Ctrl+Shift+S)</source>
-        <translation>Das aktuelle Dokument unter einem anderen Namen speichern (Strg+Umschalt+S)</translation>
     </message>
     <message>
         <source>Save the current document under another name</source>
@@ -2522,10 +2529,6 @@ Alles andere funktioniert weiter.</translation>
         <translation>A&amp;lle speichern</translation>
     </message>
     <message>
-        <source>Save every modified document (Ctrl+Alt+S)</source>
-        <translation>Jedes geänderte Dokument speichern (Strg+Alt+S)</translation>
-    </message>
-    <message>
         <source>Save every modified document</source>
         <translation>Jedes geänderte Dokument speichern</translation>
     </message>
@@ -2538,10 +2541,6 @@ Alles andere funktioniert weiter.</translation>
         <translation>&amp;Importieren...</translation>
     </message>
     <message>
-        <source>Import a model of another program to the current tab (Ctrl+I)</source>
-        <translation>Ein Modell eines anderen Programms in den aktuellen Reiter importieren (Strg+I)</translation>
-    </message>
-    <message>
         <source>Import a model of another program to the current tab</source>
         <translation>Ein Modell eines anderen Programms in den aktuellen Reiter importieren</translation>
     </message>
@@ -2550,20 +2549,12 @@ Alles andere funktioniert weiter.</translation>
         <translation>&amp;Exportieren</translation>
     </message>
     <message>
-        <source>Export the static mesh as a Wavefront OBJ file (Ctrl+E)</source>
-        <translation>Das statische Netz als Wavefront-OBJ-Datei exportieren (Strg+E)</translation>
-    </message>
-    <message>
         <source>Export the static mesh as a Wavefront OBJ file</source>
         <translation>Das statische Netz als Wavefront-OBJ-Datei exportieren</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
         <translation>&amp;Beenden</translation>
-    </message>
-    <message>
-        <source>Close Korvane (Ctrl+Q)</source>
-        <translation>Korvane schließen (Strg+Q)</translation>
     </message>
     <message>
         <source>Close Korvane</source>
@@ -2606,20 +2597,12 @@ Alles andere funktioniert weiter.</translation>
         <translation>&amp;Vollbild</translation>
     </message>
     <message>
-        <source>Use the whole screen (F11)</source>
-        <translation>Den ganzen Bildschirm verwenden (F11)</translation>
-    </message>
-    <message>
         <source>Use the whole screen</source>
         <translation>Den ganzen Bildschirm verwenden</translation>
     </message>
     <message>
         <source>&amp;Refresh Folders</source>
         <translation>&amp;Ordner neu einlesen</translation>
-    </message>
-    <message>
-        <source>Read the folders of the explorers again (F5)</source>
-        <translation>Die Ordner der Explorer neu einlesen (F5)</translation>
     </message>
     <message>
         <source>Read the folders of the explorers again</source>
@@ -2654,20 +2637,12 @@ Alles andere funktioniert weiter.</translation>
         <translation>&amp;Optionen…</translation>
     </message>
     <message>
-        <source>Folders, trees and playback (Ctrl+,)</source>
-        <translation>Ordner, Bäume und Wiedergabe (Strg+,)</translation>
-    </message>
-    <message>
         <source>Folders, trees and playback</source>
         <translation>Ordner, Bäume und Wiedergabe</translation>
     </message>
     <message>
         <source>&amp;Filter Tree</source>
         <translation>Baum &amp;filtern</translation>
-    </message>
-    <message>
-        <source>Go to the line above the tree that says which records are shown (Ctrl+F)</source>
-        <translation>Zur Zeile über dem Baum gehen, die bestimmt, welche Datensätze gezeigt werden (Strg+F)</translation>
     </message>
     <message>
         <source>Go to the line above the tree that says which records are shown</source>
@@ -2686,10 +2661,6 @@ Alles andere funktioniert weiter.</translation>
         <translation>&amp;Befehle…</translation>
     </message>
     <message>
-        <source>Find anything that the menus can do by its name (Ctrl+Shift+P)</source>
-        <translation>Alles, was die Menüs können, nach dem Namen finden (Strg+Umschalt+P)</translation>
-    </message>
-    <message>
         <source>Find anything that the menus can do by its name</source>
         <translation>Alles, was die Menüs können, nach dem Namen finden</translation>
     </message>
@@ -2704,10 +2675,6 @@ Alles andere funktioniert weiter.</translation>
     <message>
         <source>&amp;Keyboard and Mouse</source>
         <translation>&amp;Tastatur und Maus</translation>
-    </message>
-    <message>
-        <source>Keys and mouse gestures (F1)</source>
-        <translation>Tasten und Mausgesten (F1)</translation>
     </message>
     <message>
         <source>Keys and mouse gestures</source>
@@ -2746,10 +2713,6 @@ Alles andere funktioniert weiter.</translation>
         <translation>Ansicht statisches Netz</translation>
     </message>
     <message>
-        <source>The tree leaves such records out. The options can make it show them.</source>
-        <translation>Der Baum lässt solche Datensätze aus. Die Optionen können sie einblenden.</translation>
-    </message>
-    <message>
         <source>File error</source>
         <translation>Dateifehler</translation>
     </message>
@@ -2758,22 +2721,6 @@ Alles andere funktioniert weiter.</translation>
 %1</source>
         <translation>Öffnen fehlgeschlagen
 %1</translation>
-    </message>
-    <message>
-        <source>Setup Folder Paths</source>
-        <translation>Ordnerpfade einrichten</translation>
-    </message>
-    <message>
-        <source>Please setup your folder paths before using Korvane. Thank you!</source>
-        <translation>Bitte richten Sie Ihre Ordnerpfade ein, bevor Sie Korvane verwenden. Vielen Dank!</translation>
-    </message>
-    <message>
-        <source>Error</source>
-        <translation>Fehler</translation>
-    </message>
-    <message>
-        <source>No dice!</source>
-        <translation>Das geht nicht!</translation>
     </message>
     <message>
         <source>View of the skinned mesh</source>
@@ -2786,10 +2733,6 @@ Alles andere funktioniert weiter.</translation>
     <message>
         <source>Reco&amp;ver…</source>
         <translation>&amp;Wiederherstellen…</translation>
-    </message>
-    <message>
-        <source>The filter above the tree hides %1.</source>
-        <translation>Der Filter über dem Baum blendet %1 aus.</translation>
     </message>
     <message>
         <source>File Tool Bar</source>
@@ -3453,6 +3396,17 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
     </message>
 </context>
 <context>
+    <name>Preferences</name>
+    <message>
+        <source>Setup Folder Paths</source>
+        <translation>Ordnerpfade einrichten</translation>
+    </message>
+    <message>
+        <source>Please setup your folder paths before using Korvane. Thank you!</source>
+        <translation>Bitte richten Sie Ihre Ordnerpfade ein, bevor Sie Korvane verwenden. Vielen Dank!</translation>
+    </message>
+</context>
+<context>
     <name>ProblemsButton</name>
     <message>
         <source>No problems</source>
@@ -3490,10 +3444,6 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
         <translation>&amp;Beheben</translation>
     </message>
     <message>
-        <source>Repair what is selected, where there is only one way to do it (Ctrl+.)</source>
-        <translation>Das Ausgewählte beheben, wo es nur einen Weg dazu gibt (Strg+.)</translation>
-    </message>
-    <message>
         <source>Fix &amp;All of This Kind</source>
         <translation>&amp;Alle dieser Art beheben</translation>
     </message>
@@ -3528,6 +3478,10 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
     <message>
         <source>No problems found.</source>
         <translation>Keine Probleme gefunden.</translation>
+    </message>
+    <message>
+        <source>Repair what is selected, where there is only one way to do it</source>
+        <translation>Das Ausgewählte beheben, wo es nur einen Weg dazu gibt</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,7 @@
 #include <QClipboard>
 #include <QFontMetrics>
 #include <QListWidget>
+#include <QMenu>
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyledItemDelegate>
@@ -116,6 +117,21 @@ void ConsoleLog::clear()
     m_counts.fill(0);
     updateCopyAction();
     emit countsChanged();
+}
+
+void ConsoleLog::setClearAction(QAction *action)
+{
+    m_clearAction = action;
+    connect(action, &QAction::triggered, this, &ConsoleLog::on_actionConsoleClear_triggered);
+    m_list->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_list, &QWidget::customContextMenuRequested, this, &ConsoleLog::OnConsoleCustomContextMenu);
+}
+
+void ConsoleLog::OnConsoleCustomContextMenu(const QPoint &position)
+{
+    QMenu menu(m_list);
+    menu.addActions({m_copyAction, m_clearAction});
+    menu.exec(m_list->viewport()->mapToGlobal(position));
 }
 
 bool ConsoleLog::isAtEnd() const

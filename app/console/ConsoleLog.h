@@ -38,6 +38,8 @@ public:
     void error(const QString &text) { log(LogSeverity::Error, text); }
     /// Zeroes the counters and empties the list.
     void clear();
+    /// Offers this action, which clears the console, in the list's context menu too.
+    void setClearAction(QAction *action);
 
     bool hasErrors() const { return errorCount() > 0; }
     // Since the last clear.
@@ -53,6 +55,10 @@ public:
 signals:
     void countsChanged();
 
+private slots:
+    void on_actionConsoleClear_triggered() { clear(); }
+    void OnConsoleCustomContextMenu(const QPoint &position);
+
 private:
     enum Counter { Rows, Infos, Errors, Warnings };
 
@@ -62,6 +68,7 @@ private:
 
     QListWidget *m_list;
     QAction *m_copyAction;
+    QAction *m_clearAction = nullptr;
     class RowDelegate *m_delegate;
     std::array<int, 4> m_counts{};
     std::array<QIcon, 3> m_icons; ///< by severity

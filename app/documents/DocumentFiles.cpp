@@ -26,6 +26,24 @@ DocumentFiles::DocumentFiles(const std::array<Document *, 3> &documents, QWidget
     , m_window(window)
 {}
 
+void DocumentFiles::on_actionOpen_triggered()
+{
+    if (m_current)
+        openChosen(m_current->kind().type);
+}
+
+void DocumentFiles::on_actionSave_triggered()
+{
+    if (m_current)
+        save(m_current->kind().type);
+}
+
+void DocumentFiles::on_actionSaveAs_triggered()
+{
+    if (m_current)
+        saveAs(m_current->kind().type);
+}
+
 bool DocumentFiles::open(DocumentType type, const QString &path)
 {
     QString reason;

@@ -21,6 +21,8 @@ public:
     DocumentFiles(const std::array<Document *, 3> &documents, QWidget *window);
 
     Document *document(DocumentType type) const { return m_documents[size_t(type)]; }
+    /// The document that the current tab shows, which Open, Save and Save As act on; null for none.
+    void setCurrent(const Document *document) { m_current = document; }
 
     /// Loads a file without asking about unsaved changes. Returns true on failure, after saying so.
     bool open(DocumentType type, const QString &path);
@@ -41,6 +43,14 @@ public:
     /// Takes what is typed in the editor with the focus to the document.
     void finishTyping() const;
 
+public slots:
+    void on_actionOpen_triggered();
+    void on_actionSave_triggered();
+    void on_actionSaveAs_triggered();
+    void on_actionSkinnedSaveAs_triggered() { saveAs(DocumentType::SkinnedMesh); }
+    void on_actionAnimSaveAs_triggered() { saveAs(DocumentType::Anim); }
+    void on_actionSaveAll_triggered() { saveAll(); }
+
 signals:
     /// The document was written: its path or its modified mark may be new.
     void saved(DocumentType type);
@@ -49,5 +59,6 @@ private:
     bool saveTo(DocumentType type, const QString &path);
 
     std::array<Document *, 3> m_documents;
+    const Document *m_current = nullptr;
     QWidget *m_window;
 };

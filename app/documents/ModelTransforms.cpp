@@ -19,15 +19,14 @@ void bringUp(QDialog *dialog)
 } // namespace
 
 ModelTransforms::ModelTransforms(SkinnedMeshDocument &skinnedMesh, StaticMeshDocument &staticMesh,
-                                 CurrentDocument current, QWidget *window)
+                                 QWidget *window)
     : QObject(window)
     , m_skinnedMesh(skinnedMesh)
     , m_staticMesh(staticMesh)
-    , m_current(std::move(current))
     , m_window(window)
 {}
 
-void ModelTransforms::showRotateDialog()
+void ModelTransforms::on_actionRotate_triggered()
 {
     if (!m_rotateDialog) {
         auto *dialog = new RotateDialog(m_window);
@@ -38,7 +37,7 @@ void ModelTransforms::showRotateDialog()
     bringUp(m_rotateDialog);
 }
 
-void ModelTransforms::showScaleDialog()
+void ModelTransforms::on_actionScale_triggered()
 {
     if (!m_scaleDialog) {
         auto *dialog = new ScaleDialog(m_window);
@@ -49,10 +48,15 @@ void ModelTransforms::showScaleDialog()
     bringUp(m_scaleDialog);
 }
 
-void ModelTransforms::setAvailable(bool available)
+void ModelTransforms::setCurrent(const Document *document)
 {
-    m_available = available;
+    m_current = document;
     updateButtons();
+}
+
+bool ModelTransforms::isAvailable() const
+{
+    return m_current && m_current->isOpen() && (m_current == &m_skinnedMesh || m_current == &m_staticMesh);
 }
 
 void ModelTransforms::updateButtons()
@@ -61,7 +65,7 @@ void ModelTransforms::updateButtons()
         if (!dialog)
             continue;
         for (QAbstractButton *button : dialog->findChildren<QAbstractButton *>())
-            button->setEnabled(m_available || button->objectName() == QLatin1String("btnClose"));
+            button->setEnabled(isAvailable() || button->objectName() == QLatin1String("btnClose"));
     }
 }
 
@@ -78,11 +82,10 @@ void ModelTransforms::scale(float factor)
 template <typename SkinnedCommand, typename StaticCommand, typename... Arguments>
 void ModelTransforms::push(Arguments... arguments)
 {
-    const Document *current = m_current();
-    if (!current || !current->isOpen())
+    if (!isAvailable())
         return;
-    if (current == &m_skinnedMesh)
+    if (m_current == &m_skinnedMesh)
         m_skinnedMesh.undoStack()->push(new SkinnedCommand(m_skinnedMesh.editTarget(), arguments...));
-    else if (current == &m_staticMesh)
+    else
         m_staticMesh.undoStack()->push(new StaticCommand(m_staticMesh.editTarget(), arguments...));
 }

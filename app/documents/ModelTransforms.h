@@ -4,8 +4,6 @@
 
 #include "Document.h"
 
-#include <functional>
-
 class QDialog;
 class QWidget;
 
@@ -15,34 +13,32 @@ class ModelTransforms : public QObject
     Q_OBJECT
 
 public:
-    /// Gives the document that the current tab shows; null on a tab without one.
-    using CurrentDocument = std::function<Document *()>;
+    ModelTransforms(SkinnedMeshDocument &skinnedMesh, StaticMeshDocument &staticMesh, QWidget *window);
 
-    ModelTransforms(SkinnedMeshDocument &skinnedMesh, StaticMeshDocument &staticMesh, CurrentDocument current,
-                    QWidget *window);
-
-    /// Opens a dialog, or brings the open one to the front. It does not block the window.
-    void showRotateDialog();
-    void showScaleDialog();
-
-    /// Whether there is a model to transform: without one the dialogs can only be closed.
-    void setAvailable(bool available);
+    /// The document that the current tab shows; null for none. Without a mesh in it the dialogs can only be
+    /// closed.
+    void setCurrent(const Document *document);
+    /// Whether the current document is a mesh to transform.
+    bool isAvailable() const;
 
     /// In degrees. Without an open mesh in the current tab nothing happens.
     void rotate(float pitch, float roll, float yaw);
     void scale(float factor);
 
+public slots:
+    // Each opens a dialog, or brings the open one to the front. It does not block the window.
+    void on_actionRotate_triggered();
+    void on_actionScale_triggered();
+
 private:
     template <typename SkinnedCommand, typename StaticCommand, typename... Arguments>
     void push(Arguments... arguments);
+    void updateButtons();
 
     SkinnedMeshDocument &m_skinnedMesh;
     StaticMeshDocument &m_staticMesh;
-    CurrentDocument m_current;
+    const Document *m_current = nullptr;
     QWidget *m_window;
-    void updateButtons();
-
-    bool m_available = true;
     QDialog *m_rotateDialog = nullptr;
     QDialog *m_scaleDialog = nullptr;
 };

@@ -36,6 +36,12 @@ void ExplorerFiles::OnActionAnimSyncSkinSelect(bool on)
     Settings::AnimationSyncSkin.setValue(on);
 }
 
+void ExplorerFiles::on_actionRefreshExplorers_triggered()
+{
+    for (FolderExplorer *each : m_explorers)
+        each->refill();
+}
+
 void ExplorerFiles::open(DocumentType type, const QString &path)
 {
     // Picked while the question about an earlier pick was still open.

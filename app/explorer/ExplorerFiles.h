@@ -24,6 +24,10 @@ public:
 signals:
     void opened(DocumentType type);
 
+public slots:
+    /// Reads the folders of all explorers again.
+    void on_actionRefreshExplorers_triggered();
+
 private slots:
     void OnActionAnimSyncSkinSelect(bool on);
 

@@ -119,6 +119,25 @@ void ImportExport::importModel(DocumentType type, const QString &modelPath)
     dialog.exec();
 }
 
+void ImportExport::importToCurrent(const QString &modelPath)
+{
+    importModel(m_current == &m_staticMesh ? DocumentType::StaticMesh : DocumentType::SkinnedMesh, modelPath);
+}
+
+void ImportExport::on_actionImport_triggered()
+{
+    if (m_current)
+        importToCurrent({});
+}
+
+void ImportExport::on_actionExport_triggered()
+{
+    if (m_current == &m_staticMesh)
+        exportStaticMesh();
+    else if (m_current)
+        QMessageBox::information(m_window, tr("Error"), tr("No dice!"));
+}
+
 void ImportExport::exportStaticMesh()
 {
     const QString folder =

@@ -23,6 +23,15 @@ public:
     /// Asks for a folder and exports the static mesh to it, as OBJ with its materials and textures.
     void exportStaticMesh();
 
+    /// The document that the current tab shows, whose kind of mesh is imported and exported; null for none.
+    void setCurrent(const Document *document) { m_current = document; }
+    /// Imports a model of a foreign format to the current tab, or to the skinned mesh on a tab without one.
+    void importToCurrent(const QString &modelPath);
+
+public slots:
+    void on_actionImport_triggered();
+    void on_actionExport_triggered();
+
 signals:
     /// An imported model has taken the place of a document.
     void imported(DocumentType type);
@@ -32,5 +41,6 @@ private:
     AnimDocument &m_anim;
     StaticMeshDocument &m_staticMesh;
     DocumentFiles &m_files;
+    const Document *m_current = nullptr;
     QMainWindow *m_window;
 };

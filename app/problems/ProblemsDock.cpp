@@ -104,7 +104,7 @@ void ProblemsDock::createActions()
     m_show = addAction("actionProblemShow", tr("&Show"), "search", &ProblemsDock::showCurrent);
     m_repair = addAction("actionProblemFix", tr("&Fix"), "checkmark", &ProblemsDock::repairSelected);
     m_repair->setShortcut(QKeySequence(QStringLiteral("Ctrl+.")));
-    m_repair->setToolTip(tr("Repair what is selected, where there is only one way to do it (Ctrl+.)"));
+    m_repair->setToolTip(tr("Repair what is selected, where there is only one way to do it"));
     m_repairAll = addAction("actionProblemFixAll", tr("Fix &All of This Kind"), "checkmark",
                             &ProblemsDock::repairAllOfKind);
     m_repairAll->setToolTip(tr("Repair every problem of this kind in this file"));

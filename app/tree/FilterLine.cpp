@@ -30,7 +30,16 @@ void FilterLine::setAction(const QAction *action)
 {
     const auto show = [this, action, tip = toolTip()] { setToolTip(withKeys(tip, action)); };
     connect(action, &QAction::changed, this, show);
+    connect(action, &QAction::triggered, this, &FilterLine::on_actionFilter_triggered);
     show();
+}
+
+void FilterLine::on_actionFilter_triggered()
+{
+    if (!isVisible())
+        return;
+    setFocus(Qt::ShortcutFocusReason);
+    selectAll();
 }
 
 void FilterLine::focusInEvent(QFocusEvent *event)

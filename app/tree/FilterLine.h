@@ -16,8 +16,11 @@ class FilterLine : public QLineEdit
 public:
     explicit FilterLine(KVTreeView &tree, QWidget *parent = nullptr);
 
-    /// The action that goes here, for its keys.
+    /// The action that goes here from anywhere, as long as the line is in sight.
     void setAction(const QAction *action);
+
+private slots:
+    void on_actionFilter_triggered();
 
 protected:
     void focusInEvent(QFocusEvent *event) override;

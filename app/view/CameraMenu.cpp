@@ -56,6 +56,12 @@ void CameraMenu::addSides(QWidget *window)
         Camera::Side::Bottom);
 }
 
+void CameraMenu::on_actionResetCamera_triggered()
+{
+    if (KVOpenGLWidget *viewport = m_current())
+        viewport->resetCamera();
+}
+
 void CameraMenu::OnFrameAll()
 {
     if (KVOpenGLWidget *viewport = m_current())

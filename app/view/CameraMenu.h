@@ -24,6 +24,9 @@ public:
     /// Also for the keyboard of the trees, where records are selected.
     QAction *frameSelection() const { return m_frameSelection; }
 
+public slots:
+    void on_actionResetCamera_triggered();
+
 private slots:
     void OnFrameAll();
     void OnFrameSelection();

@@ -53,8 +53,7 @@ QString tipOfText(const QAction *action)
     return plainText(action).remove(QLatin1String("..."));
 }
 
-/// `first` is what stands behind the tip when it is seen for the first time.
-void showInToolTip(QAction *action, const QString &first)
+void showInToolTip(QAction *action)
 {
     const QVariant shown = action->property(SuffixProperty);
     QString tip = action->toolTip();
@@ -71,9 +70,8 @@ void showInToolTip(QAction *action, const QString &first)
     }
     if (shown.type() == QVariant::Bool)
         return;
-    const QString old = shown.isValid() ? shown.toString() : first;
-    if (tip.endsWith(old))
-        tip.chop(old.size());
+    if (tip.endsWith(shown.toString()))
+        tip.chop(shown.toString().size());
     const QString added = suffix(action->shortcuts());
     action->setProperty(SuffixProperty, added);
     action->setToolTip(tip + added);
@@ -274,7 +272,7 @@ void Shortcuts::apply()
     for (int i = 0; i < m_commands.size(); ++i) {
         for (QAction *action : qAsConst(m_commands[i].actions)) {
             action->setShortcuts(m_keys[i]);
-            showInToolTip(action, suffix(m_commands[i].defaults));
+            showInToolTip(action);
         }
     }
 }

@@ -66,8 +66,8 @@ bool isStaticMesh(const DocumentPane &pane)
 }
 } // namespace
 
-Session::Session(const DocumentPanes &panes, const std::array<QTabWidget *, 2> &tabs, AnimTrackFrame &track,
-                 QWidget *window)
+Session::Session(const std::array<DocumentPane, 3> &panes, const std::array<QTabWidget *, 2> &tabs,
+                 AnimTrackFrame &track, QWidget *window)
     : QObject(window)
     , m_panes(panes)
     , m_tabs(tabs)

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "DocumentPane.h"
+#include "DocumentPanes.h"
 
 #include <QObject>
 #include <QTimer>
@@ -26,8 +26,8 @@ public:
     static constexpr int DelayMs = 3000;
 
     /// `tabs` are told apart by their pages' object names. Everything outlives the session.
-    Session(const DocumentPanes &panes, const std::array<QTabWidget *, 2> &tabs, AnimTrackFrame &track,
-            QWidget *window);
+    Session(const std::array<DocumentPane, 3> &panes, const std::array<QTabWidget *, 2> &tabs,
+            AnimTrackFrame &track, QWidget *window);
 
     /// Opens what was stored last, unless the user does not want it. Documents that are open stay, and so
     /// does what `paths`, files that are opened next, are going to fill: the session leaves the whole tab of
@@ -47,7 +47,7 @@ private:
     /// Returns true when the pane shows the file as it was.
     bool openFile(const DocumentPane &pane, const QVariantMap &file) const;
 
-    const DocumentPanes m_panes;
+    const std::array<DocumentPane, 3> m_panes;
     const std::array<QTabWidget *, 2> m_tabs;
     AnimTrackFrame &m_track;
     QWidget *m_window;

@@ -8,10 +8,18 @@
 #include <QMainWindow>
 #include <QSplitter>
 
-void setDefaultLayout(QMainWindow &window)
+WindowLayout::WindowLayout(QMainWindow *window)
+    : QObject(window)
+    , m_window(window)
 {
-    const auto splitter = [&window](const char *name) {
-        return window.findChild<QSplitter *>(QLatin1String(name));
+    setDefaults();
+    m_defaults = m_window->saveState();
+}
+
+void WindowLayout::setDefaults()
+{
+    const auto splitter = [this](const char *name) {
+        return m_window->findChild<QSplitter *>(QLatin1String(name));
     };
     for (const char *name : {"splitterSkinnedRecords", "splitterStaticRecords"})
         splitter(name)->setSizes({300, 500});
@@ -19,29 +27,41 @@ void setDefaultLayout(QMainWindow &window)
         splitter(name)->setStretchFactor(1, 1);
         splitter(name)->setSizes({230, 800, 400});
     }
-    auto *console = window.findChild<QDockWidget *>(QStringLiteral("dockConsole"));
-    window.tabifyDockWidget(console, window.findChild<QDockWidget *>(QStringLiteral("dockProblems")));
+    auto *console = m_window->findChild<QDockWidget *>(QStringLiteral("dockConsole"));
+    m_window->tabifyDockWidget(console, m_window->findChild<QDockWidget *>(QStringLiteral("dockProblems")));
     console->raise();
-    window.resizeDocks({console}, {200}, Qt::Vertical);
+    m_window->resizeDocks({console}, {200}, Qt::Vertical);
 }
 
-void storeLayout(const QMainWindow &window)
+void WindowLayout::store() const
 {
     QVariantMap splitters;
-    for (const QSplitter *splitter : window.findChildren<QSplitter *>()) {
+    for (const QSplitter *splitter : m_window->findChildren<QSplitter *>()) {
         if (!splitter->objectName().isEmpty())
             splitters.insert(splitter->objectName(), splitter->saveState());
     }
     Settings::MainWindowSplitters.setValue(splitters);
-    Settings::MainWindowState.setValue(window.saveState());
+    Settings::MainWindowState.setValue(m_window->saveState());
 }
 
-void restoreLayout(QMainWindow &window)
+void WindowLayout::restore()
 {
     const QVariantMap splitters = Settings::MainWindowSplitters.value();
-    for (QSplitter *splitter : window.findChildren<QSplitter *>()) {
+    for (QSplitter *splitter : m_window->findChildren<QSplitter *>()) {
         if (splitters.contains(splitter->objectName()))
             splitter->restoreState(splitters.value(splitter->objectName()).toByteArray());
     }
-    window.restoreState(Settings::MainWindowState.value());
+    m_window->restoreState(Settings::MainWindowState.value());
+}
+
+void WindowLayout::on_actionResetLayout_triggered()
+{
+    m_window->restoreState(m_defaults);
+    setDefaults();
+}
+
+void WindowLayout::on_actionFullScreen_triggered(bool on)
+{
+    const Qt::WindowStates state = m_window->windowState();
+    m_window->setWindowState(on ? state | Qt::WindowFullScreen : state & ~Qt::WindowFullScreen);
 }

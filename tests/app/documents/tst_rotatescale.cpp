@@ -42,7 +42,6 @@ private:
     std::unique_ptr<QWidget> m_window;
     std::unique_ptr<SkinnedMeshDocument> m_skinned;
     std::unique_ptr<StaticMeshDocument> m_static;
-    Document *m_current = nullptr;
     ModelTransforms *m_transforms = nullptr;
     QDialog *m_rotate = nullptr;
     QDialog *m_scale = nullptr;
@@ -63,11 +62,10 @@ void tst_RotateScale::init()
     QString reason;
     QVERIFY(!SampleModels::skinnedMesh().write(mesh) && !m_skinned->open(mesh, &reason));
     QVERIFY(!SampleModels::staticMesh().write(rigid) && !m_static->open(rigid, &reason));
-    m_current = m_static.get();
-    m_transforms = new ModelTransforms(
-        *m_skinned, *m_static, [this] { return m_current; }, m_window.get());
-    m_transforms->showRotateDialog();
-    m_transforms->showScaleDialog();
+    m_transforms = new ModelTransforms(*m_skinned, *m_static, m_window.get());
+    m_transforms->setCurrent(m_static.get());
+    m_transforms->on_actionRotate_triggered();
+    m_transforms->on_actionScale_triggered();
     m_rotate = m_window->findChild<RotateDialog *>();
     m_scale = m_window->findChild<ScaleDialog *>();
 }
@@ -75,7 +73,7 @@ void tst_RotateScale::init()
 void tst_RotateScale::eachDialogIsThereOnce()
 {
     QVERIFY(!m_rotate->isModal() && !m_scale->isModal());
-    m_transforms->showRotateDialog();
+    m_transforms->on_actionRotate_triggered();
     QCOMPARE(m_window->findChildren<QDialog *>().size(), 2);
     click(m_rotate, "btnClose");
     QVERIFY(!m_rotate->isVisible() && m_scale->isVisible());
@@ -111,7 +109,7 @@ void tst_RotateScale::apply()
                 {m_scale, "sbScale", "0.000001", "Scale Vertices"}};
     for (Document *document :
          {static_cast<Document *>(m_static.get()), static_cast<Document *>(m_skinned.get())}) {
-        m_current = document;
+        m_transforms->setCurrent(document);
         for (const auto &row : rows) {
             document->undoStack()->clear();
             type(row.editor, row.text);
@@ -162,7 +160,7 @@ void tst_RotateScale::onlyMeshesAreTurned()
     StaticMeshDocument empty(DocumentType::StaticMesh, RecordKind::StaticMesh);
     for (Document *document : {static_cast<Document *>(&anim), static_cast<Document *>(&empty),
                                static_cast<Document *>(nullptr)}) {
-        m_current = document;
+        m_transforms->setCurrent(document);
         click(m_rotate, "btnYawPlus90");
         m_transforms->scale(2.0f);
         QVERIFY(!m_skinned->isModified() && !m_static->isModified() && !anim.isModified());

@@ -685,32 +685,32 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <translation>Vorige Aktion</translation>
     </message>
     <message>
-        <source>Go to the previous key frame action ([)</source>
-        <translation>Zur vorigen Keyframe-Aktion gehen ([)</translation>
+        <source>Go to the previous key frame action</source>
+        <translation>Zur vorigen Keyframe-Aktion gehen</translation>
     </message>
     <message>
         <source>Step back</source>
         <translation>Schritt zurück</translation>
     </message>
     <message>
-        <source>Go back one frame (,)</source>
-        <translation>Einen Frame zurückgehen (,)</translation>
+        <source>Go back one frame</source>
+        <translation>Einen Frame zurückgehen</translation>
     </message>
     <message>
         <source>Step forward</source>
         <translation>Schritt vor</translation>
     </message>
     <message>
-        <source>Go on one frame (.)</source>
-        <translation>Einen Frame weitergehen (.)</translation>
+        <source>Go on one frame</source>
+        <translation>Einen Frame weitergehen</translation>
     </message>
     <message>
         <source>Next action</source>
         <translation>Nächste Aktion</translation>
     </message>
     <message>
-        <source>Go to the next key frame action (])</source>
-        <translation>Zur nächsten Keyframe-Aktion gehen (])</translation>
+        <source>Go to the next key frame action</source>
+        <translation>Zur nächsten Keyframe-Aktion gehen</translation>
     </message>
     <message>
         <source>Frame of the animation</source>

@@ -2110,10 +2110,6 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
         <translation>%1 s von höchstens %2 s</translation>
     </message>
     <message>
-        <source>%1 Could not read file. The result was damaged.</source>
-        <translation>%1 Die Datei konnte nicht gelesen werden. Das Ergebnis war beschädigt.</translation>
-    </message>
-    <message>
         <source>Successfully imported &apos;%1&apos; to %2
 </source>
         <translation>„%1“ wurde importiert als %2
@@ -2161,6 +2157,13 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
     <message>
         <source>No dice!</source>
         <translation>Das geht nicht!</translation>
+    </message>
+</context>
+<context>
+    <name>ImportRun</name>
+    <message>
+        <source>%1 Could not read file. The result was damaged.</source>
+        <translation>%1 Die Datei konnte nicht gelesen werden. Das Ergebnis war beschädigt.</translation>
     </message>
 </context>
 <context>
@@ -2322,10 +2325,6 @@ Alles andere funktioniert weiter.</translation>
 </context>
 <context>
     <name>KVTreeView</name>
-    <message>
-        <source>event</source>
-        <translation>Ereignis</translation>
-    </message>
     <message>
         <source>frame 10-20 or event 30</source>
         <translation>Frame 10-20 oder Ereignis 30</translation>
@@ -3772,6 +3771,10 @@ Hände und Füße (x0.25): %6</translation>
     <message>
         <source>action</source>
         <translation>Aktion</translation>
+    </message>
+    <message>
+        <source>event</source>
+        <translation>Ereignis</translation>
     </message>
 </context>
 <context>

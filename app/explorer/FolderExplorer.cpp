@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "FolderExplorer.h"
 
+#include "FolderTree.h"
 #include "Icons.h"
 #include "Shortcuts.h"
 
@@ -16,18 +17,12 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QSet>
 #include <QStackedLayout>
 #include <QToolBar>
-#include <QTreeWidget>
-#include <QTreeWidgetItemIterator>
 #include <QUrl>
 #include <QVBoxLayout>
 
 namespace {
-/// A folder with fewer rows than this opens with all of them in sight.
-constexpr int OpenWholeLimit = 200;
-
 struct KindNames
 {
     const char *prefix; ///< of object names
@@ -41,44 +36,13 @@ const KindNames &namesOf(DocumentType type)
     return names[size_t(type)];
 }
 
-template <typename Visit>
-void forEachFile(QTreeWidget *tree, Visit visit)
-{
-    for (QTreeWidgetItemIterator it(tree); *it; ++it) {
-        auto *item = static_cast<FolderItem *>(*it);
-        if (!item->isFolder())
-            visit(item);
-    }
-}
-
-/// Folders stand before files, so the thousands of files of a folder are not even looked at.
-template <typename Visit>
-void forEachFolder(QTreeWidgetItem *parent, Visit visit)
-{
-    for (int i = 0; i < parent->childCount(); ++i) {
-        auto *item = static_cast<FolderItem *>(parent->child(i));
-        if (!item->isFolder())
-            break;
-        visit(item);
-        forEachFolder(item, visit);
-    }
-}
-
-bool hasFewerRowsThan(QTreeWidget *tree, int limit)
-{
-    int rows = 0;
-    for (QTreeWidgetItemIterator it(tree); *it && rows < limit; ++it)
-        ++rows;
-    return rows < limit;
-}
 } // namespace
 
 FolderExplorer::FolderExplorer(const DocumentKind &kind, QWidget *parent)
     : QWidget(parent)
     , m_kind(kind)
-    , m_icons{namedIcon(QStringLiteral("folder")), namedIcon(QStringLiteral("folderopen")),
-              namedIcon(QLatin1String(namesOf(kind.type).icon))}
-    , m_tree(new QTreeWidget)
+    , m_tree(new FolderTree({namedIcon(QStringLiteral("folder")), namedIcon(QStringLiteral("folderopen")),
+                             namedIcon(QLatin1String(namesOf(kind.type).icon))}))
     , m_toolBar(new QToolBar)
     , m_pages(new QStackedLayout)
     , m_emptyPage(new QFrame)
@@ -126,11 +90,6 @@ FolderExplorer::FolderExplorer(const DocumentKind &kind, QWidget *parent)
     connect(m_tree, &QTreeWidget::customContextMenuRequested, this, &FolderExplorer::OnContextMenu);
     connect(m_tree, &QTreeWidget::currentItemChanged, this, &FolderExplorer::updateActions);
     refill();
-}
-
-FolderExplorer::~FolderExplorer()
-{
-    m_tree->clear(); // before the icons that its items share
 }
 
 QAction *FolderExplorer::addAction(const char *name, const char *iconName, const QString &text,
@@ -224,38 +183,33 @@ void FolderExplorer::addExtraAction(QAction *action)
     m_contextMenu->insertAction(m_extraBefore, action);
 }
 
+QTreeWidget *FolderExplorer::tree() const
+{
+    return m_tree;
+}
+
+void FolderExplorer::setLoadedPath(const QString &path)
+{
+    m_tree->setLoadedPath(path);
+}
+
+QString FolderExplorer::findMatching(const QString &folderName, const QString &baseName) const
+{
+    return m_tree->findMatching(folderName, baseName);
+}
+
 void FolderExplorer::refill()
 {
     const QString folder = normalizedFolder(m_kind.explorePath.value());
-    const bool sameFolder = folder == m_filledFolder;
+    const bool sameFolder = folder == m_tree->folder();
     const QString selected = selectedPath();
     const int scrolled = m_tree->verticalScrollBar()->value();
-    QSet<QString> expanded;
-    forEachFolder(m_tree->invisibleRootItem(), [&expanded](const FolderItem *branch) {
-        if (branch->isExpanded())
-            expanded.insert(branch->path());
-    });
-
     {
         const QSignalBlocker silence(m_tree);
-        m_tree->clear();
         const QString ownName = QDir(folder).dirName();
         m_tree->setHeaderLabel(folder.isEmpty() ? m_kind.label : ownName.isEmpty() ? folder : ownName);
         m_tree->header()->setToolTip(QDir::toNativeSeparators(folder));
-        if (!folder.isEmpty() && QFileInfo(folder).isDir()) {
-            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-            m_tree->addTopLevelItems(readFolder(folder, m_kind.extension, &m_icons));
-            QGuiApplication::restoreOverrideCursor();
-        }
-        m_filledFolder = folder;
-
-        const bool openWhole = !sameFolder && hasFewerRowsThan(m_tree, OpenWholeLimit);
-        forEachFolder(m_tree->invisibleRootItem(), [&expanded, openWhole](FolderItem *item) {
-            if (openWhole || expanded.contains(item->path()))
-                item->setExpanded(true);
-        });
-        if (FolderItem *loaded = findItem(m_loadedPath))
-            loaded->setLoaded(true);
+        m_tree->fill(folder, m_kind.extension);
     }
 
     m_emptyLabel->setText(emptyText(folder));
@@ -301,47 +255,13 @@ QString FolderExplorer::selectedPath() const
 
 bool FolderExplorer::selectPath(const QString &path)
 {
-    FolderItem *item = findItem(path);
+    FolderItem *item = m_tree->findItem(path);
     const QSignalBlocker silence(m_tree);
     m_tree->setCurrentItem(item, 0, QItemSelectionModel::ClearAndSelect);
     if (item)
         m_tree->scrollToItem(item);
     updateActions();
     return item != nullptr;
-}
-
-void FolderExplorer::setLoadedPath(const QString &path)
-{
-    if (FolderItem *item = findItem(m_loadedPath))
-        item->setLoaded(false);
-    m_loadedPath = QDir::cleanPath(path);
-    if (FolderItem *item = findItem(m_loadedPath))
-        item->setLoaded(true);
-}
-
-QString FolderExplorer::findMatching(const QString &folderName, const QString &baseName) const
-{
-    const auto same = [](const QString &a, const QString &b) {
-        return a.compare(b, Qt::CaseInsensitive) == 0;
-    };
-    QStringList both;
-    QStringList byName;
-    QStringList byFolder;
-    forEachFile(m_tree, [&](const FolderItem *item) {
-        const bool nameFits = same(item->name(), baseName);
-        const bool folderFits = same(QFileInfo(item->path()).dir().dirName(), folderName);
-        if (nameFits && folderFits)
-            both << item->path();
-        if (nameFits)
-            byName << item->path();
-        if (folderFits)
-            byFolder << item->path();
-    });
-    if (!both.isEmpty())
-        return both.first();
-    if (byName.size() == 1)
-        return byName.first();
-    return byFolder.size() == 1 ? byFolder.first() : QString();
 }
 
 bool FolderExplorer::eventFilter(QObject *watched, QEvent *event)
@@ -377,7 +297,7 @@ void FolderExplorer::OnItemDoubleClicked(QTreeWidgetItem *item)
     if (path.isEmpty())
         return;
     // The first of the two clicks may have opened it already.
-    if (path == m_clickedPath && path == m_loadedPath)
+    if (path == m_clickedPath && path == m_tree->loadedPath())
         return;
     emit fileChosen(path);
 }
@@ -387,14 +307,16 @@ void FolderExplorer::OnContextMenu(const QPoint &position)
     // Current without being selected: the menu's target, not the user's choice.
     m_tree->setCurrentItem(m_tree->itemAt(position), 0, QItemSelectionModel::NoUpdate);
     // Taken now: when the menu closes, the tree makes its first row current if none is.
-    const FolderItem *item = currentItem();
-    m_menuFolder = !item ? m_filledFolder : item->isFolder() ? item->path() : QFileInfo(item->path()).path();
+    const FolderItem *item = m_tree->current();
+    m_menuFolder = !item              ? m_tree->folder()
+                   : item->isFolder() ? item->path()
+                                      : QFileInfo(item->path()).path();
     m_contextMenu->popup(m_tree->viewport()->mapToGlobal(position));
 }
 
 void FolderExplorer::OnActionOpen()
 {
-    FolderItem *item = currentItem();
+    FolderItem *item = m_tree->current();
     if (!item)
         return;
     if (item->isFolder())
@@ -410,26 +332,8 @@ void FolderExplorer::OnActionOpenFolder()
 
 void FolderExplorer::OnActionCopyPath()
 {
-    if (const FolderItem *item = currentItem())
+    if (const FolderItem *item = m_tree->current())
         QApplication::clipboard()->setText(QDir::toNativeSeparators(item->path()));
-}
-
-FolderItem *FolderExplorer::currentItem() const
-{
-    return static_cast<FolderItem *>(m_tree->currentItem());
-}
-
-FolderItem *FolderExplorer::findItem(const QString &path) const
-{
-    if (path.isEmpty())
-        return nullptr;
-    const QString wanted = QDir::cleanPath(path);
-    for (QTreeWidgetItemIterator it(m_tree); *it; ++it) {
-        auto *item = static_cast<FolderItem *>(*it);
-        if (!item->isFolder() && item->path() == wanted)
-            return item;
-    }
-    return nullptr;
 }
 
 QString FolderExplorer::emptyText(const QString &folder) const
@@ -445,11 +349,11 @@ QString FolderExplorer::emptyText(const QString &folder) const
 
 void FolderExplorer::updateActions()
 {
-    const FolderItem *item = currentItem();
+    const FolderItem *item = m_tree->current();
     const bool listed = m_tree->topLevelItemCount() > 0;
     m_open->setEnabled(item != nullptr);
     m_copyPath->setEnabled(item != nullptr);
-    m_openFolder->setEnabled(!m_filledFolder.isEmpty());
+    m_openFolder->setEnabled(!m_tree->folder().isEmpty());
     m_expandAll->setEnabled(listed);
     m_collapseAll->setEnabled(listed);
 }

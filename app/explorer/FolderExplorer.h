@@ -4,10 +4,10 @@
 
 #include "DocumentKind.h"
 #include "FolderChooser.h"
-#include "FolderItem.h"
 
 #include <QWidget>
 
+class FolderTree;
 class QAction;
 class QFrame;
 class QLabel;
@@ -15,6 +15,7 @@ class QMenu;
 class QStackedLayout;
 class QToolBar;
 class QTreeWidget;
+class QTreeWidgetItem;
 
 /// The files of one document kind in a folder of the user's choice, as a tree of its sub-folders. It opens
 /// nothing itself: it says which file the user chose.
@@ -25,10 +26,9 @@ class FolderExplorer : public QWidget
 public:
     /// Starts with the stored folder and switch; writes no setting. `kind` must outlive the explorer.
     explicit FolderExplorer(const DocumentKind &kind, QWidget *parent = nullptr);
-    ~FolderExplorer() override;
 
     const DocumentKind &kind() const { return m_kind; }
-    QTreeWidget *tree() const { return m_tree; }
+    QTreeWidget *tree() const;
     QToolBar *toolBar() const { return m_toolBar; }
     QAction *changeFolderAction() const { return m_changeFolder; }
     QAction *refreshAction() const { return m_refresh; }
@@ -56,9 +56,7 @@ public:
     /// Which file the editor has open: shown as such.
     void setLoadedPath(const QString &path);
 
-    /// The file that belongs to a model of this folder name and complete base name, compared without case:
-    /// the one with both names, else the only one of that base name, else the only one in the only folder of
-    /// that name that holds files. Empty when none does.
+    /// The file that belongs to a model, as FolderTree::findMatching().
     QString findMatching(const QString &folderName, const QString &baseName) const;
 
 signals:
@@ -81,15 +79,12 @@ private:
     void createEmptyPage();
     void createContextMenu();
     QAction *addAction(const char *name, const char *icon, const QString &text, const QString &toolTip);
-    FolderItem *currentItem() const;
-    FolderItem *findItem(const QString &path) const;
     QString emptyText(const QString &folder) const;
     void updateActions();
 
     const DocumentKind &m_kind;
     FolderChooser m_chooseFolder = chooseFolder;
-    FolderIcons m_icons;
-    QTreeWidget *m_tree;
+    FolderTree *m_tree;
     QToolBar *m_toolBar;
     QStackedLayout *m_pages;
     QFrame *m_emptyPage;
@@ -104,8 +99,6 @@ private:
     QAction *m_expandAll;
     QAction *m_collapseAll;
     QAction *m_extraBefore; ///< where the context menu takes the owner's actions
-    QString m_filledFolder;
-    QString m_menuFolder; ///< what the context menu was opened on, or in
-    QString m_loadedPath;
-    QString m_clickedPath; ///< what the mouse press at hand has chosen already
+    QString m_menuFolder;   ///< what the context menu was opened on, or in
+    QString m_clickedPath;  ///< what the mouse press at hand has chosen already
 };

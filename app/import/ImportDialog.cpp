@@ -27,12 +27,6 @@ void store(T &field, const SettingKey<T> &key, const T &value)
     key.setValue(value);
 }
 
-/// Of an import, in seconds; an hour at most.
-int timeLimit()
-{
-    return qBound(1, Settings::ImportTimeLimit.value(), 3600);
-}
-
 float storedScale(const QDoubleSpinBox &box)
 {
     return float(qBound(box.minimum(), double(Settings::ImportScale.value()), box.maximum()));
@@ -59,7 +53,9 @@ ImportDialog::ImportDialog(Mode mode, QWidget *parent)
     fitToScreen();
     fillEditors();
     connectEditors();
-    connect(&m_worker, &ImportWorker::finished, this, &ImportDialog::onWorkerFinished);
+    connect(&m_run, &ImportRun::skinnedMeshImported, this, &ImportDialog::skinnedMeshImported);
+    connect(&m_run, &ImportRun::staticMeshImported, this, &ImportDialog::staticMeshImported);
+    connect(&m_run, &ImportRun::finished, this, &ImportDialog::onFinished);
     m_tick.setInterval(100);
     connect(&m_tick, &QTimer::timeout, this, &ImportDialog::updateElapsed);
     m_ui->stackPages->setCurrentWidget(m_ui->pageOptions);
@@ -314,27 +310,25 @@ void ImportDialog::on_btnImport_clicked()
         QMessageBox::warning(this, tr("Output Folder Error"), problems.join(QLatin1Char('\n')));
         return;
     }
-    m_worker.setTimeLimit(timeLimit() * 1000);
-
     m_ui->lblProgress->setText(tr("Reading '%1'").arg(nativeModelPath()));
     m_ui->stackPages->setCurrentWidget(m_ui->pageProgress);
     m_ui->btnStop->setFocus();
     m_tick.start();
-    m_worker.start(importJob(m_choices));
+    m_run.start(m_choices);
     updateElapsed();
 }
 
 void ImportDialog::updateElapsed()
 {
-    const double seconds = double(m_worker.elapsed()) / 1000.0;
-    m_ui->lblElapsed->setText(
-        tr("%1 s of at most %2 s")
-            .arg(Language::locale().toString(seconds, 'f', 1), Language::locale().toString(timeLimit())));
+    const double seconds = double(m_run.elapsed()) / 1000.0;
+    m_ui->lblElapsed->setText(tr("%1 s of at most %2 s")
+                                  .arg(Language::locale().toString(seconds, 'f', 1),
+                                       Language::locale().toString(ImportRun::timeLimit())));
 }
 
 void ImportDialog::on_btnStop_clicked()
 {
-    m_worker.cancel();
+    m_run.cancel();
 }
 
 void ImportDialog::on_btnCancel_clicked()
@@ -355,9 +349,9 @@ void ImportDialog::on_btnErrorBack_clicked()
 
 void ImportDialog::reject()
 {
-    m_leaving = !m_worker.isRunning();
-    if (m_worker.isRunning())
-        m_worker.cancel();
+    m_leaving = !m_run.isRunning();
+    if (m_run.isRunning())
+        m_run.cancel();
     else if (m_ui->stackPages->currentWidget() == m_ui->pageSuccess)
         accept();
     else
@@ -366,47 +360,13 @@ void ImportDialog::reject()
 
 // --- Result ------------------------------------------------------------------------------------------------
 
-void ImportDialog::onWorkerFinished()
+void ImportDialog::onFinished(const ImportMessages &messages, const QString &outcome)
 {
     m_tick.stop();
-    ImportMessages messages = m_worker.messages();
-    QString outcome;
-    if (!messages.hasError()) {
-        if (m_mode == SkinnedMeshMode)
-            finishSkinnedMesh(messages, outcome);
-        else
-            finishStaticMesh(messages, outcome);
-    }
-    m_worker.discard();
     if (messages.hasError())
         showError(messages);
     else
         showSuccess(messages, outcome);
-}
-
-void ImportDialog::finishSkinnedMesh(ImportMessages &messages, QString &outcome)
-{
-    SkinnedMesh mesh;
-    AnimFile anim;
-    if (m_worker.read(mesh, anim)) {
-        messages.addError(tr("%1 Could not read file. The result was damaged.").arg(m_choices.modelPath));
-        return;
-    }
-    outcome = writeOutputs(m_choices, mesh, m_worker.textures(), messages);
-    transformImported(mesh, m_choices);
-    emit skinnedMeshImported(mesh, anim, QFileInfo(m_choices.modelPath).completeBaseName());
-}
-
-void ImportDialog::finishStaticMesh(ImportMessages &messages, QString &outcome)
-{
-    StaticMesh mesh;
-    if (m_worker.read(mesh)) {
-        messages.addError(tr("%1 Could not read file. The result was damaged.").arg(m_choices.modelPath));
-        return;
-    }
-    outcome = writeOutputs(m_choices, mesh, m_worker.textures(), messages);
-    transformImported(mesh, m_choices);
-    emit staticMeshImported(mesh, QFileInfo(m_choices.modelPath).completeBaseName());
 }
 
 void ImportDialog::showSuccess(const ImportMessages &messages, const QString &outcome)

@@ -3,8 +3,7 @@
 #pragma once
 
 #include "FolderChooser.h"
-#include "ImportSteps.h"
-#include "ImportWorker.h"
+#include "ImportRun.h"
 
 #include <QDialog>
 #include <QTimer>
@@ -78,16 +77,14 @@ private:
     void updateImportButton();
     bool refusePath(const QString &path);
 
-    void onWorkerFinished();
-    void finishSkinnedMesh(ImportMessages &messages, QString &outcome);
-    void finishStaticMesh(ImportMessages &messages, QString &outcome);
+    void onFinished(const ImportMessages &messages, const QString &outcome);
     void showSuccess(const ImportMessages &messages, const QString &outcome);
     void showError(const ImportMessages &messages);
 
     std::unique_ptr<Ui::ImportDialog> m_ui;
     const Mode m_mode;
     FolderChooser m_chooseFolder = chooseFolder;
-    ImportWorker m_worker;
+    ImportRun m_run;
     QTimer m_tick; ///< of the elapsed time
     ImportChoices m_choices;
     bool m_swapYZ = false;      ///< kept, and of no effect

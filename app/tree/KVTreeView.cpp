@@ -2,19 +2,19 @@
 // SPDX-License-Identifier: MIT
 #include "KVTreeView.h"
 
+#include "RecordFilling.h"
 #include "RecordItem.h"
 #include "RecordTable.h"
+#include "RecordTexts.h"
 #include "Shortcuts.h"
 
 #include <QAction>
-#include <QCoreApplication>
 #include <QItemSelection>
 #include <QPainter>
 #include <QSet>
 #include <QSignalBlocker>
 
 #include <algorithm>
-#include <memory>
 #include <tuple>
 
 namespace {
@@ -89,9 +89,9 @@ void KVTreeView::build()
         // First into the tree, then filled: a list then finds its way into the view once, not twice.
         addTopLevelItem(root);
         if (m_filter.isEmpty())
-            fillItem(root, root->record());
+            filling().fill(root, root->record());
         else
-            fillFiltered(root, root->record());
+            filling().fillMatching(root, root->record());
         root->setExpanded(true);
         expandToMatches();
         // Whatever modifier keys are down.
@@ -100,81 +100,14 @@ void KVTreeView::build()
     setUpdatesEnabled(true);
 }
 
-void KVTreeView::fillItem(RecordItem *item, const RecordRef &owner) const
+RecordFilling KVTreeView::filling() const
 {
-    for (const RecordRow *row : childRows(owner.kind)) {
-        if (m_hideData && row->meshData)
-            continue;
-        if (row->position != RecordRow::FromIndex) {
-            auto *group = new RecordItem(row->kind);
-            item->addChild(group);
-            fillItem(group, {row->kind, owner.index});
-            continue;
-        }
-        const int count = m_document->recordCount(row->kind, owner.index);
-        const bool isLeaf = childRows(row->kind).isEmpty();
-        QList<QTreeWidgetItem *> children;
-        children.reserve(count);
-        RecordIndex index = owner.index;
-        for (int i = 0; i < count; ++i) {
-            index[size_t(row->component)] = i;
-            auto *child = new RecordItem(row->kind, i);
-            if (!isLeaf)
-                fillItem(child, {row->kind, index});
-            children.append(child);
-        }
-        item->addChildren(children);
-    }
+    return {*m_document, m_filter, m_hideData};
 }
 
-void KVTreeView::fillFiltered(RecordItem *item, const RecordRef &owner) const
+QString KVTreeView::label(const RecordRef &record) const
 {
-    QList<QTreeWidgetItem *> children;
-    for (const RecordRow *row : childRows(owner.kind)) {
-        if (m_hideData && row->meshData && !isAskedFor(*row))
-            continue;
-        const bool isList = row->position == RecordRow::FromIndex;
-        const bool isLeaf = childRows(row->kind).isEmpty();
-        RecordRef record{row->kind, owner.index};
-        const int count = isList ? m_document->recordCount(row->kind, owner.index) : 1;
-        for (int i = 0; i < count; ++i) {
-            if (isList)
-                record.index[size_t(row->component)] = i;
-            const bool isMatch = m_filter.matches(searchText(record));
-            if (isLeaf && !isMatch)
-                continue;
-            auto child = std::make_unique<RecordItem>(row->kind, isList ? i : 0);
-            if (isMatch)
-                fillItem(child.get(), record);
-            else
-                fillFiltered(child.get(), record);
-            if (isMatch || child->childCount() > 0)
-                children.append(child.release());
-        }
-    }
-    item->addChildren(children);
-}
-
-bool KVTreeView::isAskedFor(const RecordRow &row) const
-{
-    // What a list is hidden in has no noun of its own.
-    const RecordRow &list = row.position == RecordRow::FromIndex ? row : *childRows(row.kind).first();
-    return m_filter.names(QCoreApplication::translate("Records", list.noun));
-}
-
-QString KVTreeView::searchText(const RecordRef &record) const
-{
-    const RecordRow *row = recordRow(record.kind);
-    if (row->position != RecordRow::FromIndex)
-        return QCoreApplication::translate("Records", row->label).remove(QLatin1String("%1"));
-    QString text = QCoreApplication::translate("Records", row->noun) + QLatin1Char(' ') +
-                   QString::number(record.index[size_t(row->component)]);
-    const QString more = m_document->recordText(record);
-    if (more.isEmpty())
-        return text;
-    // The text of an action is its event, number first.
-    return text + QLatin1Char(' ') +
-           (record.kind == RecordKind::AnimAction ? tr("event") + QLatin1Char(' ') + more : more);
+    return m_document ? recordLabel(*m_document, record) : QString();
 }
 
 void KVTreeView::expandToMatches()
@@ -183,7 +116,8 @@ void KVTreeView::expandToMatches()
         return;
     for (QTreeWidgetItemIterator it(this, QTreeWidgetItemIterator::HasChildren); *it; ++it) {
         const RecordRef record = static_cast<RecordItem *>(*it)->record();
-        if (recordRow(record.kind)->position != RecordRow::FromIndex || !m_filter.matches(searchText(record)))
+        if (recordRow(record.kind)->position != RecordRow::FromIndex ||
+            !m_filter.matches(searchText(*m_document, record)))
             (*it)->setExpanded(true);
     }
 }
@@ -220,7 +154,7 @@ void KVTreeView::selectFirstMatch()
         return;
     for (QTreeWidgetItemIterator it(this); *it; ++it) {
         const RecordRef record = static_cast<RecordItem *>(*it)->record();
-        if (*it != topLevelItem(0) && m_filter.matches(searchText(record))) {
+        if (*it != topLevelItem(0) && m_filter.matches(searchText(*m_document, record))) {
             setCurrentItem(*it, 0, QItemSelectionModel::ClearAndSelect);
             return;
         }
@@ -302,24 +236,6 @@ void KVTreeView::selectRecords(const QVector<RecordRef> &records, const RecordRe
     notifyCurrent();
 }
 
-QString KVTreeView::label(const RecordRef &record) const
-{
-    const RecordRow *row = recordRow(record.kind);
-    if (!row || !m_document)
-        return {};
-    if (row->parent == RecordKind::None)
-        return m_document->fileName();
-    const QString text = QCoreApplication::translate("Records", row->label);
-    if (row->counted != RecordKind::None)
-        return text.arg(m_document->recordCount(row->counted, record.index));
-    const QString number = QString::number(record.index[size_t(row->component)]);
-    return text.contains(QLatin1String("%2"))
-               ? QString(text)
-                     .replace(QLatin1String("%1"), number)
-                     .replace(QLatin1String("%2"), m_document->recordText(record))
-               : text.arg(number);
-}
-
 void KVTreeView::onRecordsChanged(const QVector<RecordRef> &records)
 {
     // Labels are made when painted.
@@ -380,7 +296,7 @@ void KVTreeView::rebuildBelow(const RecordRef &owner, const QVector<StructureCha
             shift(expanded, change);
     }
     qDeleteAll(item->takeChildren());
-    fillItem(item, owner);
+    filling().fill(item, owner);
     expand(expanded);
 }
 

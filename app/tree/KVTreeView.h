@@ -8,8 +8,8 @@
 
 #include <QTreeWidget>
 
+class RecordFilling;
 class RecordItem;
-struct RecordRow;
 
 /// The structure tree of one document: its records as RecordItems, several of which may be selected.
 class KVTreeView : public QTreeWidget, public RecordSelection
@@ -54,15 +54,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    /// Gives an item that stands for `owner` its groups and records.
-    void fillItem(RecordItem *item, const RecordRef &owner) const;
-    /// The same where a filter hides some: only matches, what is below them and what leads to them.
-    void fillFiltered(RecordItem *item, const RecordRef &owner) const;
-    /// Whether a list that is usually hidden is what the filter is about.
-    bool isAskedFor(const RecordRow &row) const;
     static RecordItem *childAt(QTreeWidgetItem *item, int position);
-    /// What a filter looks at: the label, the record's noun before its number, and the document's text.
-    QString searchText(const RecordRef &record) const;
+    RecordFilling filling() const;
     void build();
     void refill(const RecordRef &current);
     void expandToMatches();

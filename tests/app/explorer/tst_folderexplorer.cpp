@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "FolderExplorer.h"
+#include "FolderItem.h"
 
 #include "TestSupport.h"
 

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ImportSteps.h"
+#include "ImportWorker.h"
+
+#include <QObject>
+
+/// One import after another: the worker reads the model, then its materials and textures are written, and it
+/// is turned and scaled.
+class ImportRun : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ImportRun(QObject *parent = nullptr);
+
+    /// That an import may take, in seconds; an hour at most.
+    static int timeLimit();
+
+    /// Begins an import, whose outputs were found to be possible.
+    void start(const ImportChoices &choices);
+    bool isRunning() const { return m_worker.isRunning(); }
+    /// Milliseconds since the start.
+    qint64 elapsed() const { return m_worker.elapsed(); }
+    void cancel() { m_worker.cancel(); }
+
+signals:
+    /// The import has succeeded; `name` is the source's complete base name.
+    void skinnedMeshImported(const SkinnedMesh &mesh, const AnimFile &anim, const QString &name);
+    void staticMeshImported(const StaticMesh &mesh, const QString &name);
+    /// Comes once for each start, after those. There is a model unless the messages hold an error; `outcome`
+    /// says what was written.
+    void finished(const ImportMessages &messages, const QString &outcome);
+
+private:
+    void onWorkerFinished();
+    template <typename Mesh, typename... More>
+    QString finish(Mesh &mesh, ImportMessages &messages, More &...more);
+
+    ImportChoices m_choices;
+    ImportWorker m_worker;
+};

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Document.h"
+#include "RecordFilter.h"
+
+class RecordItem;
+struct RecordRow;
+
+/// Gives tree items that stand for records or groups what belongs below them.
+class RecordFilling
+{
+public:
+    /// With `hideData` lists of mesh or animation data are left out. What is named outlives the filling.
+    RecordFilling(const Document &document, const RecordFilter &filter, bool hideData)
+        : m_document(document)
+        , m_filter(filter)
+        , m_hideData(hideData)
+    {}
+
+    /// All groups and records below `owner`, which `item` stands for.
+    void fill(RecordItem *item, const RecordRef &owner) const;
+    /// Only those that match the filter, what is below them and what leads to them.
+    void fillMatching(RecordItem *item, const RecordRef &owner) const;
+
+private:
+    /// Whether a list that is usually hidden is what the filter is about.
+    bool isAskedFor(const RecordRow &row) const;
+
+    const Document &m_document;
+    const RecordFilter &m_filter;
+    const bool m_hideData;
+};

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "RecordTexts.h"
+
+#include "RecordTable.h"
+
+#include <QCoreApplication>
+
+QString recordLabel(const Document &document, const RecordRef &record)
+{
+    const RecordRow *row = recordRow(record.kind);
+    if (!row)
+        return {};
+    if (row->parent == RecordKind::None)
+        return document.fileName();
+    const QString text = QCoreApplication::translate("Records", row->label);
+    if (row->counted != RecordKind::None)
+        return text.arg(document.recordCount(row->counted, record.index));
+    const QString number = QString::number(record.index[size_t(row->component)]);
+    return text.contains(QLatin1String("%2")) ? QString(text)
+                                                    .replace(QLatin1String("%1"), number)
+                                                    .replace(QLatin1String("%2"), document.recordText(record))
+                                              : text.arg(number);
+}
+
+QString searchText(const Document &document, const RecordRef &record)
+{
+    const RecordRow *row = recordRow(record.kind);
+    if (row->position != RecordRow::FromIndex)
+        return QCoreApplication::translate("Records", row->label).remove(QLatin1String("%1"));
+    QString text = QCoreApplication::translate("Records", row->noun) + QLatin1Char(' ') +
+                   QString::number(record.index[size_t(row->component)]);
+    const QString more = document.recordText(record);
+    if (more.isEmpty())
+        return text;
+    // The text of an action is its event, number first.
+    return text + QLatin1Char(' ') +
+           (record.kind == RecordKind::AnimAction
+                ? QCoreApplication::translate("Records", "event") + QLatin1Char(' ') + more
+                : more);
+}

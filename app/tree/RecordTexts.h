@@ -1,0 +1,10 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Document.h"
+
+/// What a tree calls a record or group of its document; the root is called by the file's name.
+QString recordLabel(const Document &document, const RecordRef &record);
+/// What a filter looks at: the label, the record's noun before its number, and the document's text.
+QString searchText(const Document &document, const RecordRef &record);

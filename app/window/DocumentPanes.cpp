@@ -2,54 +2,51 @@
 // SPDX-License-Identifier: MIT
 #include "DocumentPanes.h"
 
-#include "FilterLine.h"
+#include "AnimTrackFrame.h"
 #include "FolderExplorer.h"
+#include "KVOpenGLWidget.h"
+#include "KVTreeView.h"
+#include "PageStack.h"
 #include "Playback.h"
 #include "PropertyPages.h"
 #include "ViewSelection.h"
 #include "ViewportMarks.h"
-#include "ui_MainWindow.h"
 
-#include <QBoxLayout>
+#include <QStackedWidget>
+#include <QTabWidget>
 
 namespace {
-FolderExplorer *newExplorer(DocumentType type, QSplitter *splitter)
+ShownRecords shownRecords(const DocumentPane &pane)
 {
-    auto *explorer = new FolderExplorer(documentKind(type));
-    splitter->addWidget(explorer);
-    return explorer;
+    return {pane.tree, pane.viewport};
 }
 } // namespace
 
-DocumentPanes::DocumentPanes(Ui::MainWindow &ui, SkinnedMeshDocument &skinnedMesh, AnimDocument &anim,
-                             StaticMeshDocument &staticMesh, QObject *parent)
+DocumentPanes::DocumentPanes(const std::array<DocumentPane, 3> &panes, SkinnedMeshDocument &skinnedMesh,
+                             AnimDocument &anim, StaticMeshDocument &staticMesh, const DocumentTabs &tabs,
+                             AnimTrackFrame &track, QObject *parent)
     : QObject(parent)
-    , m_ui(ui)
+    , m_panes(panes)
     , m_skinnedMesh(skinnedMesh)
     , m_anim(anim)
     , m_staticMesh(staticMesh)
-    , m_panes{{{&skinnedMesh, ui.treeSkinnedMesh, ui.pagesSkinnedMesh,
-                newExplorer(DocumentType::SkinnedMesh, ui.splitterSkinnedExplorers), ui.viewSkinned},
-               {&anim, ui.treeAnim, ui.pagesAnim,
-                newExplorer(DocumentType::Anim, ui.splitterSkinnedExplorers), ui.viewSkinned},
-               {&staticMesh, ui.treeStaticMesh, ui.pagesStaticMesh,
-                newExplorer(DocumentType::StaticMesh, ui.splitterStaticExplorer), ui.viewStatic}}}
+    , m_tabs(tabs)
+    , m_track(track)
     , m_selection(new ViewSelection(skinnedMesh, staticMesh,
-                                    {{{ui.treeSkinnedMesh, ui.viewSkinned},
-                                      {ui.treeAnim, ui.viewSkinned},
-                                      {ui.treeStaticMesh, ui.viewStatic}}},
+                                    {shownRecords(panes[0]), shownRecords(panes[1]), shownRecords(panes[2])},
                                     this))
 {
-    addPages(*ui.pagesSkinnedMesh, skinnedMesh, *ui.treeSkinnedMesh);
-    addPages(*ui.pagesAnim, anim, *ui.treeAnim, skinnedMesh);
-    addPages(*ui.pagesStaticMesh, staticMesh, *ui.treeStaticMesh);
-    ui.viewSkinned->setSkinnedMeshMode(true);
+    const auto &[meshPane, animPane, rigidPane] = m_panes;
+    addPages(*meshPane.pages, skinnedMesh, *meshPane.tree);
+    addPages(*animPane.pages, anim, *animPane.tree, skinnedMesh);
+    addPages(*rigidPane.pages, staticMesh, *rigidPane.tree);
+    meshPane.viewport->setSkinnedMeshMode(true);
     for (const DocumentPane &each : m_panes)
         connectPane(each);
     connect(m_selection, &ViewSelection::picked, this, &DocumentPanes::showPicked);
     connectPlayback();
-    connect(ui.tabWidget, &QTabWidget::currentChanged, this, &DocumentPanes::on_tabWidget_currentChanged);
-    connect(ui.tabTrees, &QTabWidget::currentChanged, this, &DocumentPanes::on_tabTrees_currentChanged);
+    connect(m_tabs.tabs, &QTabWidget::currentChanged, this, &DocumentPanes::on_tabWidget_currentChanged);
+    connect(m_tabs.trees, &QTabWidget::currentChanged, this, &DocumentPanes::on_tabTrees_currentChanged);
     updateViewports();
 }
 
@@ -60,11 +57,6 @@ void DocumentPanes::connectPane(const DocumentPane &pane)
     connect(pane.document, &Document::structuresChanged, this, [this, type] { m_shown[size_t(type)] = {}; });
     pane.tree->setDocument(pane.document);
     pane.pages->setTree(pane.tree);
-    auto *column = static_cast<QBoxLayout *>(pane.tree->parentWidget()->layout());
-    auto *filter = new FilterLine(*pane.tree, pane.tree->parentWidget());
-    filter->setAction(m_ui.actionFilter);
-    column->insertWidget(0, filter);
-    pane.tree->setOpenAction(m_ui.actionOpen);
     connect(pane.document, &Document::replaced, this, [this, type] { OnReplaced(type); });
     connect(pane.document, &Document::recordsChanged, this,
             [this, type](const QVector<RecordRef> &records) { OnRecordsChanged(type, records); });
@@ -75,13 +67,14 @@ void DocumentPanes::connectPane(const DocumentPane &pane)
 
 void DocumentPanes::connectPlayback()
 {
-    AnimTrackFrame *track = m_ui.animTrackFrame;
-    connect(m_ui.viewSkinned, &KVOpenGLWidget::frameShown, track, &AnimTrackFrame::showFrame);
-    connect(m_ui.viewSkinned, &KVOpenGLWidget::frameLabelChanged, track, &AnimTrackFrame::showLabel);
-    connect(track, &AnimTrackFrame::playbackChanged, m_ui.viewSkinned, &KVOpenGLWidget::playbackChanged);
+    KVOpenGLWidget *view = pane(DocumentType::SkinnedMesh).viewport;
+    AnimTrackFrame *track = &m_track;
+    connect(view, &KVOpenGLWidget::frameShown, track, &AnimTrackFrame::showFrame);
+    connect(view, &KVOpenGLWidget::frameLabelChanged, track, &AnimTrackFrame::showLabel);
+    connect(track, &AnimTrackFrame::playbackChanged, view, &KVOpenGLWidget::playbackChanged);
     const auto select = [this](const RecordRef &record) {
         showPane(DocumentType::Anim);
-        m_ui.treeAnim->selectRecords({record}, record);
+        pane(DocumentType::Anim).tree->selectRecords({record}, record);
     };
     connect(track, &AnimTrackFrame::blockChosen, this, [select](int block) {
         select({RecordKind::AnimBlock, {block}});
@@ -94,14 +87,14 @@ void DocumentPanes::connectPlayback()
 
 std::array<KVOpenGLWidget *, 2> DocumentPanes::viewports() const
 {
-    return {m_ui.viewSkinned, m_ui.viewStatic};
+    return {pane(DocumentType::SkinnedMesh).viewport, pane(DocumentType::StaticMesh).viewport};
 }
 
 const DocumentPane *DocumentPanes::current() const
 {
-    if (m_ui.tabWidget->currentWidget() == m_ui.tabSkinned)
-        return &pane(m_ui.tabTrees->currentIndex() == 0 ? DocumentType::SkinnedMesh : DocumentType::Anim);
-    if (m_ui.tabWidget->currentWidget() == m_ui.tabStatic)
+    if (m_tabs.tabs->currentWidget() == m_tabs.skinned)
+        return &pane(m_tabs.trees->currentIndex() == 0 ? DocumentType::SkinnedMesh : DocumentType::Anim);
+    if (m_tabs.tabs->currentWidget() == m_tabs.rigid)
         return &pane(DocumentType::StaticMesh);
     return nullptr;
 }
@@ -126,9 +119,9 @@ ModelSelection DocumentPanes::currentSelection() const
 
 void DocumentPanes::showPane(DocumentType type)
 {
-    m_ui.tabWidget->setCurrentWidget(type == DocumentType::StaticMesh ? m_ui.tabStatic : m_ui.tabSkinned);
+    m_tabs.tabs->setCurrentWidget(type == DocumentType::StaticMesh ? m_tabs.rigid : m_tabs.skinned);
     if (type != DocumentType::StaticMesh)
-        m_ui.tabTrees->setCurrentIndex(type == DocumentType::SkinnedMesh ? 0 : 1);
+        m_tabs.trees->setCurrentIndex(type == DocumentType::SkinnedMesh ? 0 : 1);
 }
 
 void DocumentPanes::showRecord(DocumentType type, const RecordRef &record)
@@ -176,7 +169,7 @@ void DocumentPanes::on_tabWidget_currentChanged()
 
 void DocumentPanes::on_tabTrees_currentChanged(int index)
 {
-    m_ui.stackSkinned->setCurrentIndex(index);
+    m_tabs.pages->setCurrentIndex(index);
     const DocumentType type = index == 0 ? DocumentType::SkinnedMesh : DocumentType::Anim;
     showInViewport(type, pane(type).tree->currentRecord());
     emit currentChanged();
@@ -187,13 +180,13 @@ void DocumentPanes::OnReplaced(DocumentType type)
     switch (type) {
     case DocumentType::SkinnedMesh:
         playback().mesh = &m_skinnedMesh.model();
-        m_ui.viewSkinned->setSkinnedMesh(&m_skinnedMesh.model());
+        pane(type).viewport->setSkinnedMesh(&m_skinnedMesh.model());
         break;
     case DocumentType::Anim:
-        m_ui.animTrackFrame->openAnimation(&m_anim.model());
+        m_track.openAnimation(&m_anim.model());
         break;
     case DocumentType::StaticMesh:
-        m_ui.viewStatic->setStaticMesh(&m_staticMesh.model());
+        pane(type).viewport->setStaticMesh(&m_staticMesh.model());
         break;
     }
     const DocumentPane &replaced = pane(type);
@@ -215,7 +208,7 @@ void DocumentPanes::OnRecordsChanged(DocumentType type, const QVector<RecordRef>
 {
     refreshChanged(*pane(type).viewport, records);
     if (type == DocumentType::Anim)
-        m_ui.animTrackFrame->updateRange();
+        m_track.updateRange();
 }
 
 void DocumentPanes::showInViewport(DocumentType type, const RecordRef &record)
@@ -225,18 +218,18 @@ void DocumentPanes::showInViewport(DocumentType type, const RecordRef &record)
     m_shown[size_t(type)] = record;
     switch (type) {
     case DocumentType::SkinnedMesh:
-        markRecord(*m_ui.viewSkinned, m_skinnedMesh.model(), record);
+        markRecord(*pane(type).viewport, m_skinnedMesh.model(), record);
         break;
     case DocumentType::Anim: {
-        markRecord(*m_ui.viewSkinned, m_anim.model(), record);
+        markRecord(*pane(type).viewport, m_anim.model(), record);
         const bool underBlock = record.kind != RecordKind::None && record.kind != RecordKind::AnimFile;
         const int block = record.index[0];
         if (underBlock && isNew && (record.kind == RecordKind::AnimBlock || block != playback().blockIndex))
-            m_ui.animTrackFrame->selectBlock(block);
+            m_track.selectBlock(block);
         break;
     }
     case DocumentType::StaticMesh:
-        markRecord(*m_ui.viewStatic, m_staticMesh.model(), record);
+        markRecord(*pane(type).viewport, m_staticMesh.model(), record);
         break;
     }
 }

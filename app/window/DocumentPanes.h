@@ -13,12 +13,10 @@ class FolderExplorer;
 class KVOpenGLWidget;
 class KVTreeView;
 class PageStack;
-class QAction;
+class QStackedWidget;
+class QTabWidget;
+class AnimTrackFrame;
 class ViewSelection;
-
-namespace Ui {
-class MainWindow;
-}
 
 /// What belongs to one document in the window.
 struct DocumentPane
@@ -30,6 +28,16 @@ struct DocumentPane
     KVOpenGLWidget *viewport;
 };
 
+/// What brings the one or the other document to the front.
+struct DocumentTabs
+{
+    QTabWidget *tabs;
+    QWidget *skinned;      ///< the tab of skinned mesh and animation
+    QWidget *rigid;        ///< the tab of the static mesh
+    QTabWidget *trees;     ///< skinned mesh or animation
+    QStackedWidget *pages; ///< the property pages that belong to those
+};
+
 /// The three documents in the window: what is opened, edited, selected or picked in one place shows in all of
 /// them, and the tabs say which document is the current one.
 class DocumentPanes : public QObject
@@ -37,9 +45,10 @@ class DocumentPanes : public QObject
     Q_OBJECT
 
 public:
-    /// The form and the documents outlive the panes.
-    DocumentPanes(Ui::MainWindow &ui, SkinnedMeshDocument &skinnedMesh, AnimDocument &anim,
-                  StaticMeshDocument &staticMesh, QObject *parent);
+    /// `panes` in the order of DocumentType, for these documents. Everything outlives this.
+    DocumentPanes(const std::array<DocumentPane, 3> &panes, SkinnedMeshDocument &skinnedMesh,
+                  AnimDocument &anim, StaticMeshDocument &staticMesh, const DocumentTabs &tabs,
+                  AnimTrackFrame &track, QObject *parent);
 
     /// In the order of DocumentType.
     const std::array<DocumentPane, 3> &all() const { return m_panes; }
@@ -78,11 +87,12 @@ private:
     void showPicked(DocumentType type, const RecordRef &record);
     void showInViewport(DocumentType type, const RecordRef &record);
 
-    Ui::MainWindow &m_ui;
+    const std::array<DocumentPane, 3> m_panes;
     SkinnedMeshDocument &m_skinnedMesh;
     AnimDocument &m_anim;
     StaticMeshDocument &m_staticMesh;
-    std::array<DocumentPane, 3> m_panes;
+    const DocumentTabs m_tabs;
+    AnimTrackFrame &m_track;
     std::array<RecordRef, 3> m_shown{}; ///< what the viewport marks of each
     ViewSelection *m_selection;
 };

@@ -13,6 +13,8 @@
 #include "DocumentPanes.h"
 #include "ExplorerFiles.h"
 #include "FileDrop.h"
+#include "FilterLine.h"
+#include "FolderExplorer.h"
 #include "HistoryView.h"
 #include "Icons.h"
 #include "ImportExport.h"
@@ -42,6 +44,7 @@
 #include "WindowLayout.h"
 #include "ui_MainWindow.h"
 
+#include <QBoxLayout>
 #include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -113,12 +116,29 @@ void MainWindow::createConsole()
 
 void MainWindow::createDocuments()
 {
-    m_panes = new DocumentPanes(*m_ui, m_skinnedMesh, m_anim, m_staticMesh, this);
+    const auto explorer = [](DocumentType type, QSplitter *splitter) {
+        auto *made = new FolderExplorer(documentKind(type));
+        splitter->addWidget(made);
+        return made;
+    };
+    const std::array<FolderExplorer *, 3> explorers{
+        explorer(DocumentType::SkinnedMesh, m_ui->splitterSkinnedExplorers),
+        explorer(DocumentType::Anim, m_ui->splitterSkinnedExplorers),
+        explorer(DocumentType::StaticMesh, m_ui->splitterStaticExplorer)};
+    m_panes = new DocumentPanes(
+        {{{&m_skinnedMesh, m_ui->treeSkinnedMesh, m_ui->pagesSkinnedMesh, explorers[0], m_ui->viewSkinned},
+          {&m_anim, m_ui->treeAnim, m_ui->pagesAnim, explorers[1], m_ui->viewSkinned},
+          {&m_staticMesh, m_ui->treeStaticMesh, m_ui->pagesStaticMesh, explorers[2], m_ui->viewStatic}}},
+        m_skinnedMesh, m_anim, m_staticMesh,
+        {m_ui->tabWidget, m_ui->tabSkinned, m_ui->tabStatic, m_ui->tabTrees, m_ui->stackSkinned},
+        *m_ui->animTrackFrame, this);
     connect(m_panes, &DocumentPanes::told, this, &MainWindow::tell);
     connect(m_panes, &DocumentPanes::currentChanged, this, &MainWindow::updateCurrentDocument);
-    std::array<FolderExplorer *, 3> explorers{};
     for (const DocumentPane &each : m_panes->all()) {
-        explorers[size_t(each.document->kind().type)] = each.explorer;
+        auto *filter = new FilterLine(*each.tree, each.tree->parentWidget());
+        filter->setAction(m_ui->actionFilter);
+        static_cast<QBoxLayout *>(each.tree->parentWidget()->layout())->insertWidget(0, filter);
+        each.tree->setOpenAction(m_ui->actionOpen);
         m_undoGroup.addStack(each.document->undoStack());
         connect(each.document->undoStack(), &QUndoStack::cleanChanged, this, &MainWindow::OnUndoCleanChanged);
         connect(each.document, &Document::replaced, this, &MainWindow::updateCurrentDocument);

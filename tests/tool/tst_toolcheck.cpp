@@ -14,7 +14,7 @@ class tst_ToolCheck : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { m_folder = std::make_unique<ToolFolder>(); }
+    void init() { m_folder.emplace(); }
     void unreadableFiles_data();
     void unreadableFiles();
     void checkWalksFolders();
@@ -25,7 +25,7 @@ private:
     QString path(const QString &name = {}) const { return m_folder->path(name); }
     QString put(const QString &name, const QByteArray &bytes) const { return m_folder->put(name, bytes); }
 
-    std::unique_ptr<ToolFolder> m_folder;
+    std::optional<TestFolder> m_folder;
 };
 
 void tst_ToolCheck::unreadableFiles_data()

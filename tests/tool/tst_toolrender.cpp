@@ -38,7 +38,7 @@ private:
         return found;
     }
 
-    ToolFolder m_folder;
+    TestFolder m_folder;
 };
 
 namespace {

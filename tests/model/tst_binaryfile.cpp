@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "BinaryFileReader.h"
-#include "BinaryFileWriter.h"
+#include "LiteralFormat.h"
 #include "SampleModels.h"
 #include "TestSupport.h"
 
@@ -17,13 +16,6 @@ BinaryFileReader readerOf(const QByteArray &bytes)
 {
     return BinaryFileReader(reinterpret_cast<const uchar *>(bytes.constData()), bytes.size());
 }
-
-QString endOf(const char *type)
-{
-    return QStringLiteral("Attempting to read %1 value from file, but reached end of file.")
-        .arg(QLatin1String(type));
-}
-
 } // namespace
 
 /// The typed reads and writes below all three formats.
@@ -76,7 +68,7 @@ void TestBinaryFile::latin1Strings()
         QCOMPARE(reader.readString(), text);
     QVERIFY(!reader.hasError());
     QCOMPARE(reader.readString(), QStringLiteral("cut"));
-    QCOMPARE(reader.errorText(), endOf("uint8"));
+    QCOMPARE(reader.errorText(), LiteralFormat::endOfFile("uint8"));
 }
 
 void TestBinaryFile::firstErrorStays()
@@ -86,7 +78,7 @@ void TestBinaryFile::firstErrorStays()
     const std::vector<uchar> bytes = writer.bytes();
     BinaryFileReader cut(bytes.data(), 8);
     QCOMPARE(cut.readVec3(), QVector3D(1.0f, 2.0f, 0.0f));
-    QCOMPARE(cut.errorText(), endOf("float"));
+    QCOMPARE(cut.errorText(), LiteralFormat::endOfFile("float"));
 
     QCOMPARE(BinaryFileReader(bytes.data(), 6).readVec2(), QVector2D(1.0f, 0.0f));
     cut.readInt32();
@@ -95,7 +87,7 @@ void TestBinaryFile::firstErrorStays()
     cut.readUInt16s(values, 1);
     QVERIFY(values.empty());
     cut.setErrorText(QStringLiteral("later"));
-    QCOMPARE(cut.errorText(), endOf("float"));
+    QCOMPARE(cut.errorText(), LiteralFormat::endOfFile("float"));
 }
 
 void TestBinaryFile::acrossTheWindow()
@@ -186,7 +178,7 @@ void TestBinaryFile::fileCutOffWhileRead()
     std::vector<quint16> values;
     reader.readUInt16s(values, 600000);
     QVERIFY(values.empty());
-    QCOMPARE(reader.errorText(), endOf("uint16"));
+    QCOMPARE(reader.errorText(), LiteralFormat::endOfFile("uint16"));
     QVERIFY(!reader.holds(1, 1));
 }
 

@@ -4,8 +4,6 @@
 #include "SampleModels.h"
 #include "TestSupport.h"
 
-#include <QHash>
-
 #include <cstdlib>
 #include <malloc.h>
 #include <new>

@@ -56,33 +56,28 @@ class TestModelEdits : public QObject
     Q_OBJECT
 
 private slots:
-    void rotate_data();
     void rotate();
     void scale();
     void frameCount();
     void trackCounts();
 };
 
-void TestModelEdits::rotate_data()
-{
-    QTest::addColumn<QVector3D>("angles"); // pitch about x, yaw about y, roll about z
-    QTest::addColumn<QVector3D>("position");
-    QTest::addColumn<QVector3D>("normal");
-    QTest::newRow("pitch") << QVector3D(90, 0, 0) << QVector3D(1, -3, 2) << QVector3D(0, 0, 1);
-    QTest::newRow("yaw") << QVector3D(0, 90, 0) << QVector3D(3, 2, -1) << QVector3D(0, 1, 0);
-    QTest::newRow("roll") << QVector3D(0, 0, 90) << QVector3D(-2, 1, 3) << QVector3D(-1, 0, 0);
-    // Roll first: (-2, 1, 3); then pitch: (-2, -3, 1); then yaw.
-    QTest::newRow("all") << QVector3D(90, 90, 90) << QVector3D(1, -3, 2) << QVector3D(0, 0, 1);
-    QTest::newRow("roll, then pitch") << QVector3D(90, 0, 90) << QVector3D(-2, -3, 1) << QVector3D(-1, 0, 0);
-}
-
 void TestModelEdits::rotate()
 {
-    QFETCH(QVector3D, angles);
-    QFETCH(QVector3D, position);
-    QFETCH(QVector3D, normal);
-    checkRotation<SkinnedMesh>(angles, position, normal);
-    checkRotation<StaticMesh>(angles, position, normal);
+    const struct
+    {
+        QVector3D angles; // pitch about x, yaw about y, roll about z
+        QVector3D position, normal;
+    } rows[] = {{{90, 0, 0}, {1, -3, 2}, {0, 0, 1}},
+                {{0, 90, 0}, {3, 2, -1}, {0, 1, 0}},
+                {{0, 0, 90}, {-2, 1, 3}, {-1, 0, 0}},
+                // Roll first: (-2, 1, 3); then pitch: (-2, -3, 1); then yaw.
+                {{90, 90, 90}, {1, -3, 2}, {0, 0, 1}},
+                {{90, 0, 90}, {-2, -3, 1}, {-1, 0, 0}}};
+    for (const auto &row : rows) {
+        checkRotation<SkinnedMesh>(row.angles, row.position, row.normal);
+        checkRotation<StaticMesh>(row.angles, row.position, row.normal);
+    }
 }
 
 void TestModelEdits::scale()

@@ -3,10 +3,6 @@
 #include "SampleModels.h"
 #include "TestSupport.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-
 using namespace SampleModels;
 
 namespace {
@@ -73,34 +69,22 @@ class TestRealModels : public QObject
     Q_OBJECT
 
 private slots:
-    void savedUnedited_data();
     void savedUnedited();
     void facts_data();
     void facts();
 };
 
-void TestRealModels::savedUnedited_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("suffix");
-    for (const QString &suffix : suffixes()) {
-        for (const QString &path : TestSupport::modelFiles(suffix))
-            QTest::newRow(qPrintable(path)) << path << suffix;
-    }
-}
-
 void TestRealModels::savedUnedited()
 {
-    QFETCH(QString, path);
-    QFETCH(QString, suffix);
-    withModel(suffix, [&](auto model) {
-        QString error;
-        QVERIFY2(!model.read(path, &error), qPrintable(error));
-        const QTemporaryDir folder;
-        const QString copy = folder.filePath(QStringLiteral("copy"));
-        QVERIFY(!model.write(copy));
-        QVERIFY(TestSupport::readFile(copy) == TestSupport::readFile(path));
-    });
+    const TestFolder folder;
+    for (const QString &path : TestSupport::allModelFiles()) {
+        withModel(QFileInfo(path).suffix(), [&](auto model) {
+            QString error;
+            QVERIFY2(!model.read(path, &error), qPrintable(path + error));
+            const QByteArray bytes = TestSupport::readFile(folder.save("copy", model));
+            QVERIFY2(bytes == TestSupport::readFile(path), qPrintable(path));
+        });
+    }
 }
 
 void TestRealModels::facts_data()

@@ -61,14 +61,11 @@ class TestSaving : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase_data();
     void init();
-    void fullDisk_data() { kinds(); }
     void fullDisk();
-    void readOnlyFolder_data() { kinds(); }
     void readOnlyFolder();
-    void refusedRename_data() { kinds(); }
     void refusedRename();
-    void vanishedFolder_data() { kinds(); }
     void vanishedFolder();
     void draftsAreReadBack();
 
@@ -79,12 +76,11 @@ private:
         return TestSupport::readFile(path()) == OldBytes &&
                QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden) == QStringList("model");
     }
-    static void kinds();
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-void TestSaving::kinds()
+void TestSaving::initTestCase_data()
 {
     QTest::addColumn<QString>("suffix");
     for (const QString &suffix : suffixes() + QStringList("kmat"))
@@ -99,7 +95,7 @@ void TestSaving::init()
 
 void TestSaving::fullDisk()
 {
-    QFETCH(QString, suffix);
+    QFETCH_GLOBAL(QString, suffix);
     // A small file goes out in one piece at the very end, a large one in several.
     for (bool large : {false, true}) {
         const Save save = saverOf(suffix, large);
@@ -130,7 +126,7 @@ void TestSaving::fullDisk()
 
 void TestSaving::readOnlyFolder()
 {
-    QFETCH(QString, suffix);
+    QFETCH_GLOBAL(QString, suffix);
     const Save save = saverOf(suffix, false);
     // The file itself may be written: it is still not overwritten in place.
     QFile::setPermissions(path(), QFile::Permissions(0x6666));
@@ -152,7 +148,7 @@ void TestSaving::readOnlyFolder()
 
 void TestSaving::refusedRename()
 {
-    QFETCH(QString, suffix);
+    QFETCH_GLOBAL(QString, suffix);
     for (bool large : {false, true}) {
         const Save save = saverOf(suffix, large);
         {
@@ -167,7 +163,7 @@ void TestSaving::refusedRename()
 
 void TestSaving::vanishedFolder()
 {
-    QFETCH(QString, suffix);
+    QFETCH_GLOBAL(QString, suffix);
     const Save save = saverOf(suffix, false);
     QVERIFY(save(path() + QStringLiteral("/below a file")));
     QVERIFY(save(QString()));

@@ -39,46 +39,41 @@ void tst_importoutput::insideOrOutside()
 
 void tst_importoutput::copying()
 {
-    QTemporaryDir source;
-    QTemporaryDir target;
-    const QString a = source.filePath(QStringLiteral("a.png"));
-    const QString b = source.filePath(QStringLiteral("b.png"));
-    QVERIFY(TestSupport::writeFile(a, "new"));
-    QVERIFY(TestSupport::writeFile(b, "other"));
-    QVERIFY(TestSupport::writeFile(target.filePath(QStringLiteral("a.png")), "old"));
+    const TestFolder source, target;
+    const QString a = source.put("a.png", "new");
+    const QString b = source.put("b.png", "other");
+    const QString there = target.put("a.png", "old");
     ImportMessages messages;
     const QString copied = QStringLiteral("Successfully copied textures\n");
     const QString failed = QStringLiteral("Failed on copying textures\n");
     QCOMPARE(copyTextures({a, QString(), b}, target.path(), messages), copied);
-    QCOMPARE(TestSupport::readFile(target.filePath(QStringLiteral("a.png"))), QByteArray("new"));
+    QCOMPARE(TestSupport::readFile(there), QByteArray("new"));
 
     // Onto itself, also by another way.
-    QVERIFY(QFile::link(source.path(), target.filePath(QStringLiteral("link"))));
-    QCOMPARE(copyTextures({a}, target.filePath(QStringLiteral("link")), messages), copied);
+    QVERIFY(QFile::link(source.path(), target.path("link")));
+    QCOMPARE(copyTextures({a}, target.path("link"), messages), copied);
     QCOMPARE(TestSupport::readFile(a), QByteArray("new"));
     QVERIFY(messages.lines.isEmpty());
     QCOMPARE(copyTextures({QString()}, target.path(), messages),
              QStringLiteral("Model had no textures to copy\n"));
 
     // Two of one name cannot both stand there.
-    QVERIFY(QDir(source.path()).mkpath(QStringLiteral("other")));
-    const QString alike = source.filePath(QStringLiteral("other/a.png"));
-    QVERIFY(TestSupport::writeFile(alike, "new"));
+    const QString alike = source.put("other/a.png", "new");
     QCOMPARE(copyTextures({a, alike}, target.path(), messages), copied);
     QCOMPARE(messages.lines.size(), 1);
     QCOMPARE(messages.lines.takeFirst().text,
              QStringLiteral("'%1' and '%2' have one name: only one of them can be used").arg(a, alike));
 
     // What cannot be read leaves the file that stands there; what cannot be written says so.
-    const QString gone = source.filePath(QStringLiteral("sub/a.png"));
+    const QString gone = source.path("sub/a.png");
     QCOMPARE(copyTextures({gone}, target.path(), messages), failed);
-    QCOMPARE(TestSupport::readFile(target.filePath(QStringLiteral("a.png"))), QByteArray("new"));
-    QVERIFY(QDir(target.path()).mkpath(QStringLiteral("b.png.d/b.png")));
-    const QString inTheWay = target.filePath(QStringLiteral("b.png.d"));
+    QCOMPARE(TestSupport::readFile(there), QByteArray("new"));
+    const QString inTheWay = target.path("b.png.d");
+    QVERIFY(QDir().mkpath(inTheWay + "/b.png"));
     QCOMPARE(copyTextures({a, b}, inTheWay, messages), failed);
     QCOMPARE(messages.lines.size(), 2);
-    QCOMPARE(messages.lines[0].text, QStringLiteral("Could not copy texture from '%1' to '%2'")
-                                         .arg(gone, target.filePath(QStringLiteral("a.png"))));
+    QCOMPARE(messages.lines[0].text,
+             QStringLiteral("Could not copy texture from '%1' to '%2'").arg(gone, there));
     QCOMPARE(messages.lines[1].text, QStringLiteral("Could not overwrite texture '%1/b.png'").arg(inTheWay));
     QVERIFY(!messages.hasError());
 }

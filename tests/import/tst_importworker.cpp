@@ -27,7 +27,7 @@ private:
     void run(ImportWorker &worker, const WorkerJob &job);
 
     QTemporaryDir m_temporary; ///< stands for the system's folder of temporary files
-    QTemporaryDir m_models;
+    TestFolder m_models;
 };
 
 namespace {
@@ -147,7 +147,7 @@ void tst_importworker::everyRealFile()
 void tst_importworker::workerFails()
 {
     ImportWorker worker;
-    const QString missing = m_models.filePath(QStringLiteral("none"));
+    const QString missing = m_models.path("none");
     for (const auto &[program, reason] : {std::pair<QString, QString>(missing, "none' could not be started"),
                                           {"/bin/true", "gave no answer."},
                                           {"/bin/false", "gave no answer."}}) {
@@ -162,8 +162,7 @@ void tst_importworker::workerFails()
 
 void tst_importworker::cancel()
 {
-    const QString script = m_models.filePath(QStringLiteral("sleeper"));
-    QVERIFY(TestSupport::writeFile(script, "#!/bin/sh\nexec sleep 100\n"));
+    const QString script = m_models.put("sleeper", "#!/bin/sh\nexec sleep 100\n");
     QFile(script).setPermissions(QFile::ReadOwner | QFile::ExeOwner);
     {
         ImportWorker worker;
@@ -183,10 +182,8 @@ void tst_importworker::cancel()
 
 void tst_importworker::awkwardPath()
 {
-    const QString folder = m_models.filePath(QStringLiteral("m\u00f6d %1 \u2603"));
-    QVERIFY(QDir().mkpath(folder));
-    const QString path = folder + QStringLiteral("/a %2 \u00e9.obj");
-    QVERIFY(TestSupport::writeFile(path, "v 0 0 0\nv 1.5 0 0\nv 0 1 0\nvt 0.25 0\nf 1/1 2/1 3/1\n"));
+    const QString path = m_models.put(QStringLiteral("m\u00f6d %1 \u2603/a %2 \u00e9.obj"),
+                                      "v 0 0 0\nv 1.5 0 0\nv 0 1 0\nvt 0.25 0\nf 1/1 2/1 3/1\n");
     ImportWorker worker;
     run(worker, importJob(path, false));
     StaticMesh mesh;

@@ -18,7 +18,6 @@ class tst_objexport : public QObject
     Q_OBJECT
 
 private slots:
-    void roundTrip_data();
     void roundTrip();
     void badTriangles();
     void texturesAndNames();
@@ -26,6 +25,15 @@ private slots:
 
 namespace {
 using Triangle = std::array<StaticMeshVertex, 3>;
+
+StaticMesh threeCorners()
+{
+    StaticMesh mesh;
+    mesh.vertices.resize(3);
+    mesh.vertices[1].position = {1, 0, 0};
+    mesh.vertices[2].position = {0, 1, 0};
+    return mesh;
+}
 
 StaticMesh readBack(const QString &path)
 {
@@ -81,39 +89,32 @@ void compare(const StaticMesh &actual, const StaticMesh &expected)
 }
 } // namespace
 
-void tst_objexport::roundTrip_data()
-{
-    QTest::addColumn<QString>("path");
-    for (const QString &path : TestSupport::modelFiles(QStringLiteral("staticmesh")))
-        QTest::newRow(qPrintable(QFileInfo(path).fileName())) << path;
-    const QString spider = TestSupport::shared(QStringLiteral("models/obj_spider/spider.obj"));
-    if (!spider.isEmpty())
-        QTest::newRow("imported") << spider;
-}
-
 void tst_objexport::roundTrip()
 {
-    QFETCH(QString, path);
-    StaticMesh mesh;
-    if (path.endsWith(QLatin1String(".obj")))
-        mesh = readBack(path);
-    else
-        QVERIFY(!mesh.read(path));
-    QVERIFY(!mesh.vertices.empty());
-    QTemporaryDir folder;
-    const QString obj = folder.filePath(QStringLiteral("m\u00f6del.obj"));
-    ImportMessages messages;
-    exportObj(mesh, {}, {}, obj, messages);
-    QVERIFY(!messages.hasError());
-    compare(readBack(obj), mesh);
+    QStringList paths = TestSupport::modelFiles(QStringLiteral("staticmesh"));
+    const QString spider = TestSupport::shared(QStringLiteral("models/obj_spider/spider.obj"));
+    if (!spider.isEmpty())
+        paths << spider;
+    for (const QString &path : qAsConst(paths)) {
+        StaticMesh mesh;
+        if (path == spider)
+            mesh = readBack(path);
+        else
+            QVERIFY(!mesh.read(path));
+        QVERIFY(!mesh.vertices.empty());
+        QTemporaryDir folder;
+        const QString obj = folder.filePath(QStringLiteral("m\u00f6del.obj"));
+        ImportMessages messages;
+        exportObj(mesh, {}, {}, obj, messages);
+        QVERIFY(!messages.hasError());
+        compare(readBack(obj), mesh);
+        QVERIFY2(!QTest::currentTestFailed(), qPrintable(path));
+    }
 }
 
 void tst_objexport::badTriangles()
 {
-    StaticMesh mesh;
-    mesh.vertices.resize(3);
-    mesh.vertices[1].position = {1, 0, 0};
-    mesh.vertices[2].position = {0, 1, 0};
+    StaticMesh mesh = threeCorners();
     mesh.surfaces = {{QStringLiteral("a/b/c"), {0, 1, 2, 0, 1, 3, 65535, 1, 2, 0}},
                      {QStringLiteral("d"), {9}}};
     QTemporaryDir folder;
@@ -131,21 +132,15 @@ void tst_objexport::badTriangles()
 
 void tst_objexport::texturesAndNames()
 {
-    QTemporaryDir game;
-    QTemporaryDir mod;
-    QTemporaryDir target;
-    QVERIFY(QDir(game.path()).mkpath(QStringLiteral("materials")));
-    QVERIFY(QDir(mod.path()).mkpath(QStringLiteral("textures")));
+    const TestFolder game, mod, target;
+    const QString kmat = game.put("materials/m.kmat", {});
+    mod.put("textures/wall.v2.png", "picture");
     const MaterialTable table{{QStringLiteral("brick"), QStringLiteral("textures/wall.v2.png")},
                               {QStringLiteral("other"), QStringLiteral("textures/wall.v2.png")},
                               {QStringLiteral("lost"), QStringLiteral("textures/lost.png")}};
-    QCOMPARE(writeKMat(game.filePath(QStringLiteral("materials/m.kmat")), table), QString());
-    QVERIFY(TestSupport::writeFile(mod.filePath(QStringLiteral("textures/wall.v2.png")), "picture"));
+    QCOMPARE(writeKMat(kmat, table), QString());
 
-    StaticMesh mesh;
-    mesh.vertices.resize(3);
-    mesh.vertices[1].position = {1, 0, 0};
-    mesh.vertices[2].position = {0, 1, 0};
+    StaticMesh mesh = threeCorners();
     for (const char *name : {"brick", "_white", "other", "lost", "none"})
         mesh.surfaces.push_back({QStringLiteral("materials/m/") + QLatin1String(name), {0, 1, 2}});
     ImportMessages messages;
@@ -154,10 +149,11 @@ void tst_objexport::texturesAndNames()
     QCOMPARE(job.objName, QStringLiteral("untitled.obj"));
     QCOMPARE(job.textureOfSurface, (std::vector<qint32>{0, -1, 0, 1, -1}));
     QCOMPARE(messages.lines.size(), 2);
-    QCOMPARE(messages.lines[0].text, QStringLiteral("[Static Mesh Export] Texture not found '%1'")
-                                         .arg(mod.filePath(QStringLiteral("textures/lost.png"))));
-    QCOMPARE(messages.lines[1].text, QStringLiteral("[Static Mesh Export] No material 'none' in '%1'")
-                                         .arg(game.filePath(QStringLiteral("materials/m.kmat"))));
+    QCOMPARE(
+        messages.lines[0].text,
+        QStringLiteral("[Static Mesh Export] Texture not found '%1'").arg(mod.path("textures/lost.png")));
+    QCOMPARE(messages.lines[1].text,
+             QStringLiteral("[Static Mesh Export] No material 'none' in '%1'").arg(kmat));
 
     ImportWorker worker;
     QSignalSpy finished(&worker, &ImportWorker::finished);
@@ -168,7 +164,7 @@ void tst_objexport::texturesAndNames()
     QCOMPARE(QDir(target.path()).entryList(QDir::Files),
              QStringList({QStringLiteral("untitled.mtl"), QStringLiteral("untitled.obj"),
                           QStringLiteral("wall.v2.png")}));
-    const QByteArray mtl = TestSupport::readFile(target.filePath(QStringLiteral("untitled.mtl")));
+    const QByteArray mtl = TestSupport::readFile(target.path("untitled.mtl"));
     QCOMPARE(mtl.count("newmtl wall.v2\n"), 1);
     QCOMPARE(mtl.count("map_Kd wall.v2.png\n"), 1);
     QCOMPARE(mtl.count("map_Kd"), 2);
@@ -176,7 +172,7 @@ void tst_objexport::texturesAndNames()
 
     // A folder that went away in the meantime.
     messages.lines.clear();
-    QVERIFY(placeExport(worker, job, target.filePath(QStringLiteral("none")), messages));
+    QVERIFY(placeExport(worker, job, target.path("none"), messages));
     QVERIFY(messages.hasError());
     messages.lines.clear();
     staticMeshExport(StaticMesh(), QStringLiteral("/a/b.v2.staticmesh"), materials, messages);

@@ -5,8 +5,6 @@
 #include "SmallGltf.h"
 #include "TestSupport.h"
 
-#include <QRegularExpression>
-
 #include <algorithm>
 #include <cmath>
 
@@ -27,13 +25,12 @@ private slots:
     void realFiles();
 
 private:
-    /// Writes the file and imports it; `textures` and `lines` tell the rest.
+    /// Imports the file; `textures` and `lines` tell the rest.
     void importSkinned(const QString &path, quint32 moreFlags = ImportFlags::GenerateNormals);
     void importStatic(const QString &path, quint32 moreFlags = ImportFlags::GenerateNormals);
-    QString write(const char *name, const QByteArray &bytes);
     QStringList lines(LogSeverity severity) const;
 
-    QTemporaryDir m_folder;
+    const TestFolder m_folder;
     QString m_kmatPath = QStringLiteral("materials/mat_x.kmat");
     SkinnedMesh m_mesh;
     AnimFile m_anim;
@@ -50,13 +47,6 @@ bool isClose(const QVector4D &a, const QVector4D &b)
     return (a - b).length() < 1e-5f;
 }
 } // namespace
-
-QString tst_sceneimport::write(const char *name, const QByteArray &bytes)
-{
-    const QString path = m_folder.filePath(QLatin1String(name));
-    TestSupport::writeFile(path, bytes);
-    return path;
-}
 
 void tst_sceneimport::importSkinned(const QString &path, quint32 moreFlags)
 {
@@ -88,7 +78,7 @@ QStringList tst_sceneimport::lines(LogSeverity severity) const
 
 void tst_sceneimport::skeleton()
 {
-    importSkinned(write("small.gltf", SmallGltf().file({})));
+    importSkinned(m_folder.put("small.gltf", SmallGltf().file({})));
     QCOMPARE(lines(LogSeverity::Error), QStringList());
     QVERIFY(lines(LogSeverity::Warning)
                 .contains(QStringLiteral("small.gltf 1 vertices are not assigned to a bone")));
@@ -122,7 +112,7 @@ void tst_sceneimport::animations()
         {QStringLiteral("turned"), {{3, true, {{0, {half, 0, 0, half}}}}}},
         {QStringLiteral("endless"), {{2, true, {{0, {0, 0, 0, 1}}, {1e8f, {0, 0, 0, 1}}}}}},
     };
-    importSkinned(write("anim.gltf", SmallGltf().file(made)));
+    importSkinned(m_folder.put("anim.gltf", SmallGltf().file(made)));
     QCOMPARE(lines(LogSeverity::Error), QStringList());
     QCOMPARE(m_anim.blocks.size(), size_t(5));
     const AnimBlock &walk = m_anim.blocks[0];
@@ -162,7 +152,7 @@ void tst_sceneimport::animations()
 
 void tst_sceneimport::noBones()
 {
-    importSkinned(write("flat.obj", triangle + "f 1/1 2/1 3/1\n"));
+    importSkinned(m_folder.put("flat.obj", triangle + "f 1/1 2/1 3/1\n"));
     QCOMPARE(lines(LogSeverity::Info).value(0),
              QStringLiteral("flat.obj has no bones. Creating a default bone."));
     QCOMPARE(m_mesh.nodes.size(), size_t(1));
@@ -173,13 +163,13 @@ void tst_sceneimport::noBones()
 
 void tst_sceneimport::surfacesAndTextures()
 {
-    write("m.mtl", "newmtl a\nKd 1 0 0\nmap_Kd tex/steel.v2.jpeg\n"
-                   "newmtl b\nKd 0 1 0\n"
-                   "newmtl c\nKd 0 0 1\nmap_Kd tex/steel.v2.jpeg\n"
-                   "newmtl d\nKd 0 1 1\nmap_Kd wood.tga\n");
-    const QString path = write("m.obj", "mtllib m.mtl\n" + triangle +
-                                            "usemtl a\nf 1/1 2/1 3/1\nusemtl b\nf 1/1 2/1 3/1\n"
-                                            "usemtl c\nf 1/1 3/1 2/1\nusemtl d\nf 1/1 2/1 3/1\n");
+    m_folder.put("m.mtl", "newmtl a\nKd 1 0 0\nmap_Kd tex/steel.v2.jpeg\n"
+                          "newmtl b\nKd 0 1 0\n"
+                          "newmtl c\nKd 0 0 1\nmap_Kd tex/steel.v2.jpeg\n"
+                          "newmtl d\nKd 0 1 1\nmap_Kd wood.tga\n");
+    const QString path = m_folder.put("m.obj", "mtllib m.mtl\n" + triangle +
+                                                   "usemtl a\nf 1/1 2/1 3/1\nusemtl b\nf 1/1 2/1 3/1\n"
+                                                   "usemtl c\nf 1/1 3/1 2/1\nusemtl d\nf 1/1 2/1 3/1\n");
     importStatic(path);
     QCOMPARE(lines(LogSeverity::Error), QStringList());
     QCOMPARE(lines(LogSeverity::Warning).size(), 1);
@@ -191,8 +181,7 @@ void tst_sceneimport::surfacesAndTextures()
     QCOMPARE(names.filter(QLatin1String("_white")).size(), 1);
     for (int i = 0; i < 3; ++i)
         QVERIFY2(names[i].startsWith(QStringLiteral("materials/mat_x/surf_%1").arg(i)), qPrintable(names[i]));
-    QCOMPARE(m_textures, QStringList({m_folder.filePath(QStringLiteral("tex/steel.v2.png")),
-                                      m_folder.filePath(QStringLiteral("wood.png"))}));
+    QCOMPARE(m_textures, QStringList({m_folder.path("tex/steel.v2.png"), m_folder.path("wood.png")}));
     // The two materials of one texture share a surface.
     QCOMPARE(m_static.surfaces[0].triangleIndexes.size(), size_t(6));
 
@@ -224,7 +213,7 @@ void tst_sceneimport::complaints()
     QFETCH(QByteArray, obj);
     QFETCH(quint32, flags);
     QFETCH(QString, errors);
-    importSkinned(write("c.obj", obj), flags);
+    importSkinned(m_folder.put("c.obj", obj), flags);
     QStringList found = lines(LogSeverity::Error);
     // Points and lines come before or after the triangles as the library likes.
     found.replaceInStrings(QRegularExpression(QStringLiteral("Mesh \\d")), QStringLiteral("Mesh N"));
@@ -242,7 +231,7 @@ void tst_sceneimport::vertexLimits()
         obj += "f " + n(0) + n(1) + n(2) + '\n';
     }
     obj += "f 65535 65536 1\n";
-    const QString path = write("big.obj", obj);
+    const QString path = m_folder.put("big.obj", obj);
     importSkinned(path);
     QCOMPARE(lines(LogSeverity::Error),
              QStringList(QStringLiteral(

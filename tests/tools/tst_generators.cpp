@@ -15,7 +15,6 @@
 #include "TestSupport.h"
 #include "Textures.h"
 
-#include <QDirIterator>
 #include <QImage>
 
 #include <set>

@@ -12,21 +12,6 @@
 #include "PageStack.h"
 #include "Playground.h"
 
-#include <QAbstractButton>
-#include <QAbstractSpinBox>
-#include <QAction>
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDialog>
-#include <QDockWidget>
-#include <QFileInfo>
-#include <QLineEdit>
-#include <QSlider>
-#include <QTabBar>
-#include <QToolBar>
-#include <QTreeWidget>
-
 namespace {
 /// Longer than FileWatch lets a file rest, so that its bar comes before the next step.
 constexpr int FileRestsMs = 900;

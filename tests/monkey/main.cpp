@@ -5,12 +5,6 @@
 #include "Playground.h"
 #include "WriteGuard.h"
 
-#include <QApplication>
-#include <QCommandLineParser>
-#include <QDesktopServices>
-#include <QElapsedTimer>
-#include <QSurfaceFormat>
-
 #include <cstdio>
 #include <memory>
 

@@ -8,12 +8,11 @@ class tst_Accessibility : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { useFolder(m_home); }
     void everythingHasANameAndItsLetter();
     void everyDialogIsUsableByKeyboard();
 
 private:
-    QTemporaryDir m_home;
+    const ProgramFolder m_home;
 };
 
 void tst_Accessibility::everythingHasANameAndItsLetter()

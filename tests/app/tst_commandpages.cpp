@@ -6,10 +6,7 @@
 #include "Panes.h"
 #include "RecordItem.h"
 #include "SampleCommands.h"
-#include "Settings.h"
-#include "TestSupport.h"
 
-#include <functional>
 #include <typeinfo>
 
 using namespace SampleCommands;
@@ -48,19 +45,13 @@ void checkText(const QString &editor, const QString &text)
 }
 } // namespace
 
-class tst_CommandPages;
-using Check = std::function<void(tst_CommandPages *)>;
-Q_DECLARE_METATYPE(Check)
-
 class tst_CommandPages : public QObject
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
-    void everyCommandIsFollowed_data();
     void everyCommandIsFollowed();
-    void everyEditorMakesOneStep_data();
     void everyEditorMakesOneStep();
 
 private:
@@ -127,19 +118,13 @@ void tst_CommandPages::checkCommand()
     checkScreen(pane, record);
 }
 
-void tst_CommandPages::everyCommandIsFollowed_data()
-{
-    QTest::addColumn<Check>("check");
-    forEach([](auto tag) {
-        using Command = typename decltype(tag)::Type;
-        QTest::newRow(Command::name) << Check(&tst_CommandPages::checkCommand<Command>);
-    });
-}
-
 void tst_CommandPages::everyCommandIsFollowed()
 {
-    QFETCH(Check, check);
-    check(this);
+    forEach([this](auto tag) {
+        using Command = typename decltype(tag)::Type;
+        checkCommand<Command>();
+        QVERIFY2(!QTest::currentTestFailed(), Command::name);
+    });
 }
 
 /// Each editor of each page, with that many records of its kind selected where there are so many.
@@ -197,29 +182,21 @@ void tst_CommandPages::driveAll(Pane<Model> &pane, int selected)
     }
 }
 
-void tst_CommandPages::everyEditorMakesOneStep_data()
-{
-    QTest::addColumn<int>("selected");
-    QTest::newRow("one record") << 1;
-    QTest::newRow("three records") << 3;
-}
-
 void tst_CommandPages::everyEditorMakesOneStep()
 {
-    QFETCH(int, selected);
-    m_types.clear();
-    m_panes->mesh.open(SampleModels::plainMesh());
-    m_panes->anim.open(SampleModels::plainAnim());
-    m_panes->rigid.open(SampleModels::plainStatic());
-    driveAll(m_panes->mesh, selected);
-    driveAll(m_panes->anim, selected);
-    driveAll(m_panes->rigid, selected);
+    for (const int selected : {1, 3}) {
+        m_types.clear();
+        m_panes->openPlain();
+        driveAll(m_panes->mesh, selected);
+        driveAll(m_panes->anim, selected);
+        driveAll(m_panes->rigid, selected);
 
-    // Every field's command has an editor.
-    forEach([this](auto tag) {
-        using Command = typename decltype(tag)::Type;
-        QVERIFY2(!isField<Command> || m_types.contains(typeid(Command).name()), Command::name);
-    });
+        // Every field's command has an editor.
+        forEach([this](auto tag) {
+            using Command = typename decltype(tag)::Type;
+            QVERIFY2(!isField<Command> || m_types.contains(typeid(Command).name()), Command::name);
+        });
+    }
 }
 
 QTEST_MAIN(tst_CommandPages)

@@ -8,15 +8,6 @@
 #include "QuestionMenu.h"
 #include "Questions.h"
 
-#include <QApplication>
-#include <QClipboard>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QSpinBox>
-#include <QTabWidget>
-#include <QTableWidget>
-
 #include <limits>
 #include <memory>
 

@@ -1,14 +1,10 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "DesktopScheme.h"
+#include "Find.h"
 #include "Look.h"
-#include "Settings.h"
-#include "TestSupport.h"
 
-#include <QApplication>
 #include <QDBusConnection>
-#include <QProcess>
-#include <QStandardPaths>
 
 /// Stands for the desktop's portal.
 class Portal : public QObject

@@ -1,31 +1,12 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "CommandPalette.h"
-#include "Find.h"
 #include "Hand.h"
-#include "KVTreeView.h"
-#include "MainWindow.h"
 #include "NameTables.h"
 #include "Playback.h"
 #include "RecentFiles.h"
 #include "SampleModels.h"
 #include "TrackSlider.h"
-
-#include <QAction>
-#include <QComboBox>
-#include <QDockWidget>
-#include <QDoubleSpinBox>
-#include <QHelpEvent>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMenu>
-#include <QSpinBox>
-#include <QTabWidget>
-#include <QToolButton>
-#include <QToolTip>
-#include <QTreeWidget>
-#include <QUndoGroup>
-#include <QUndoView>
 
 /// What a window that is open all day offers beside its documents.
 class tst_Everyday : public QObject
@@ -33,7 +14,7 @@ class tst_Everyday : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() { m_files.emplace(); }
     void commandsAreFoundByTheirName();
     void thePaletteDoesWhatIsChosen();
     void recentFilesAreOpenedAgain();
@@ -48,20 +29,10 @@ private:
         emit menu->aboutToShow();
         return menu->actions();
     }
-    QString write(const QString &name)
-    {
-        const QString path = m_files->filePath(name);
-        return triangleMan().write(path) ? QString() : path;
-    }
+    QString write(const QString &name) { return m_files->save(name, triangleMan()); }
 
-    std::unique_ptr<QTemporaryDir> m_files;
+    std::optional<ProgramFolder> m_files;
 };
-
-void tst_Everyday::init()
-{
-    m_files = std::make_unique<QTemporaryDir>();
-    useFolder(*m_files);
-}
 
 void tst_Everyday::commandsAreFoundByTheirName()
 {
@@ -95,13 +66,21 @@ void tst_Everyday::thePaletteDoesWhatIsChosen()
             QTest::keyClick(line, Qt::Key_Return);
         };
     };
-    // What cannot be done now is listed, but not done. Each command is told from all others.
+    // What cannot be done now is listed, but not done. Each command is told from all others, one of the View
+    // menu even without its menu.
     const Hand hand({[](QDialog *dialog) {
-                         QSet<QString> names;
+                         QStringList names, commands;
                          auto *list = dialog->findChild<QListWidget *>();
-                         for (int row = 0; row < list->count(); ++row)
-                             names.insert(list->item(row)->text());
-                         QCOMPARE(names.size(), list->count());
+                         for (int row = 0; row < list->count(); ++row) {
+                             names << list->item(row)->text();
+                             commands << names.last().section(QStringLiteral("▸"), -1);
+                         }
+                         QCOMPARE(QStringList(names).removeDuplicates(), 0);
+                         const QStringList ofView = names.filter(QStringLiteral("View ▸"));
+                         QVERIFY(ofView.size() > 20);
+                         for (const QString &name : ofView)
+                             QVERIFY2(commands.count(name.section(QStringLiteral("▸"), -1)) == 1,
+                                      qPrintable(name));
                          auto *line = dialog->findChild<QLineEdit *>();
                          QTest::keyClicks(line, QStringLiteral("rotate"));
                          QVERIFY(list->count() > 0);
@@ -148,9 +127,8 @@ void tst_Everyday::recentFilesAreOpenedAgain()
     QCOMPARE(find<QTreeWidget>(window, "treeSkinnedMesh")->topLevelItem(0)->text(0),
              QFileInfo(paths[RecentFiles::Limit - 1]).fileName());
     // Each kind has its own list.
-    const QString anim = m_files->filePath(QStringLiteral("r.anim"));
-    const QString rigid = m_files->filePath(QStringLiteral("r.staticmesh"));
-    QVERIFY(!twoBlocks().write(anim) && !SampleModels::plainStatic().write(rigid));
+    const QString anim = m_files->save("r.anim", twoBlocks());
+    const QString rigid = m_files->save("r.staticmesh", SampleModels::plainStatic());
     window.openFiles({anim, rigid});
     QCOMPARE(Settings::AnimationRecentFiles.value(), QStringList(anim));
     QCOMPARE(Settings::StaticMeshRecentFiles.value(), QStringList(rigid));
@@ -161,9 +139,7 @@ void tst_Everyday::recentFilesAreOpenedAgain()
 
 void tst_Everyday::theKeyGoesToTheFilterOfTheTree()
 {
-    const QString anim = m_files->filePath(QStringLiteral("a.anim"));
-    QVERIFY(!twoBlocks().write(anim));
-    ShownWindow window({write(QStringLiteral("a.skinnedmesh")), anim});
+    ShownWindow window({write("a.skinnedmesh"), m_files->save("a.anim", twoBlocks())});
     for (const char *name : {"treeSkinnedMesh", "treeAnim"}) {
         auto *tree = find<KVTreeView>(window, name);
         tree->setFocus();
@@ -213,10 +189,8 @@ void tst_Everyday::theTrackIsSteppedAndMarked()
         file.blocks[0].actions[i].frame = quint16(frames[i]);
     file.blocks[0].actions[1].eventType = 30;
     file.blocks[0].animId = 100;
-    const QString anim = m_files->filePath(QStringLiteral("a.anim"));
-    QVERIFY(!file.write(anim));
     Settings::AnimationAutoPlay.setValue(false);
-    ShownWindow window({write(QStringLiteral("a.skinnedmesh")), anim});
+    ShownWindow window({write("a.skinnedmesh"), m_files->save("a.anim", file)});
     auto *slider = find<TrackSlider>(window, "sliderAnimTrack");
     auto *view = find<QWidget>(window, "viewSkinned");
     view->setFocus();

@@ -1,15 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "Find.h"
 #include "Hand.h"
-#include "Settings.h"
-#include "TestSupport.h"
-
-#include <QAction>
-#include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QScreen>
 
 /// The program in surroundings that fail it. All of this runs without OpenGL.
 class TestFaults : public QObject
@@ -17,7 +8,7 @@ class TestFaults : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() { m_files.emplace(); }
     void withoutOpenGLAllElseWorks();
     void theFolderGoesWhileTheDialogIsOpen();
     void anySettingMayHoldAnything_data();
@@ -28,20 +19,12 @@ private:
     /// Opens a model, edits it and saves it, as if nothing were wrong.
     void useProgram();
 
-    std::unique_ptr<QTemporaryDir> m_files;
+    std::optional<ProgramFolder> m_files;
 };
-
-void TestFaults::init()
-{
-    m_files = std::make_unique<QTemporaryDir>();
-    qputenv("XDG_DATA_HOME", QFile::encodeName(m_files->path()));
-    useFolder(*m_files);
-}
 
 void TestFaults::useProgram()
 {
-    const QString path = m_files->filePath(QStringLiteral("man.skinnedmesh"));
-    QVERIFY(!triangleMan().write(path));
+    const QString path = m_files->save("man.skinnedmesh", triangleMan());
     // Such boxes as the setup of the folders are put away.
     Hand hand({});
     MainWindow window;
@@ -67,29 +50,20 @@ void TestFaults::withoutOpenGLAllElseWorks()
     QVERIFY(notice->height() > window.height() / 4);
     QVERIFY(notice->text().contains(QStringLiteral("OpenGL")));
     // What the view would do is refused or does nothing.
-    const QString path = m_files->filePath(QStringLiteral("man.skinnedmesh"));
-    QVERIFY(!triangleMan().write(path));
-    window.openFiles({path});
+    window.openFiles({m_files->save("man.skinnedmesh", triangleMan())});
     QVERIFY(!find<QAction>(window, "actionSavePicture")->isEnabled());
     for (const char *name : {"actionFrameAll", "actionFrameSelection", "actionLookTop", "actionSkeleton",
                              "actionStatistics", "actionWireframe"})
         find<QAction>(window, name)->trigger();
     // What really is on the screen: a window that cannot be put together stays black.
-    const QPoint corner = notice->mapToGlobal({10, 10});
-    QTRY_COMPARE(QGuiApplication::primaryScreen()
-                     ->grabWindow(0, corner.x(), corner.y(), 1, 1)
-                     .toImage()
-                     .pixelColor(0, 0),
-                 window.palette().color(QPalette::Window));
+    QTRY_COMPARE(onScreen(notice, {10, 10, 1, 1}).pixelColor(0, 0), window.palette().color(QPalette::Window));
 }
 
 void TestFaults::theFolderGoesWhileTheDialogIsOpen()
 {
-    const QString folder = m_files->filePath(QStringLiteral("folder"));
-    const QString path = m_files->filePath(QStringLiteral("man.skinnedmesh"));
+    const QString folder = m_files->path("folder");
     QVERIFY(QDir().mkpath(folder));
-    QVERIFY(!triangleMan().write(path));
-    ShownWindow window({path});
+    ShownWindow window({m_files->save("man.skinnedmesh", triangleMan())});
     Hand hand({[&folder](QDialog *dialog) {
                    auto *name = dialog->findChild<QLineEdit *>();
                    name->setText(folder + QStringLiteral("/new.skinnedmesh"));
@@ -140,14 +114,11 @@ void TestFaults::anySettingMayHoldAnything()
 void TestFaults::theStoreCannotBeReadNorWritten()
 {
     // Where the store's folder should be is a file.
-    const QString file = m_files->filePath(QStringLiteral("file"));
-    QVERIFY(TestSupport::writeFile(file, "x"));
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, file);
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_files->put("file", "x"));
     QVERIFY(!Settings::HideMeshData.exists());
     useProgram();
     // Where the store should be is a folder.
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
-                       m_files->filePath(QStringLiteral("other")));
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_files->path("other"));
     QVERIFY(QDir().mkpath(QSettings().fileName()));
     useProgram();
 }

@@ -1,12 +1,9 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "Find.h"
 #include "Hand.h"
 #include "NoticeBar.h"
 #include "OneRun.h"
 #include "ReloadPrompt.h"
-
-#include <QVBoxLayout>
 
 namespace {
 SkinnedMesh manWithFactor(int factor)

@@ -1,12 +1,9 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "ChoiceBox.h"
+#include "Find.h"
 #include "FloatSpinBox.h"
 #include "SampleModels.h"
-#include "TestSupport.h"
-
-#include <QLineEdit>
-#include <QSignalSpy>
 
 #include <cstring>
 #include <limits>

@@ -2,16 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "FolderExplorer.h"
 
-#include "TestSupport.h"
-
-#include <QAction>
-#include <QApplication>
-#include <QClipboard>
-#include <QDesktopServices>
-#include <QLabel>
-#include <QMenu>
-#include <QPushButton>
-#include <QTreeWidget>
+#include "Find.h"
 
 class tst_FolderExplorer : public QObject
 {
@@ -35,12 +26,8 @@ private slots:
     void findMatching();
 
 private:
-    void touch(const QString &relativePath) const
-    {
-        QVERIFY(QDir().mkpath(QFileInfo(path(relativePath)).path()));
-        QVERIFY(TestSupport::writeFile(path(relativePath), {}));
-    }
-    QString path(const QString &relativePath) const { return m_folder->filePath(relativePath); }
+    void touch(const QString &relativePath) const { m_folder->put(relativePath, {}); }
+    QString path(const QString &relativePath) const { return m_folder->path(relativePath); }
     std::unique_ptr<FolderExplorer> createExplorer() const;
     static QStringList rows(QTreeWidgetItem *parent);
     static QTreeWidgetItem *find(const FolderExplorer &explorer, const QString &text)
@@ -54,14 +41,14 @@ private:
     }
 
     QTemporaryDir m_home;
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::optional<TestFolder> m_folder;
     QUrl m_url;
 };
 
 void tst_FolderExplorer::init()
 {
     TestSupport::useSettingsHome(m_home);
-    m_folder = std::make_unique<QTemporaryDir>();
+    m_folder.emplace();
     Settings::SkinnedMeshExplorePath.setValue(m_folder->path());
 }
 

@@ -3,15 +3,6 @@
 #include "Hand.h"
 #include "KVOpenGLWidget.h"
 
-#include <QDockWidget>
-#include <QLabel>
-#include <QMessageBox>
-#include <QOpenGLContext>
-#include <QScreen>
-#include <QSurfaceFormat>
-#include <QTabWidget>
-#include <QWindow>
-
 /// A reset of the graphics driver under the whole program: its window's context goes with those of the
 /// viewports.
 class TestGraphicsReset : public QObject
@@ -50,15 +41,10 @@ private:
             }
         }
     }
-    /// Of what is really on the screen.
-    static QImage grab(const QWidget *view, const QRect &part)
+    static int whitePixels(const QWidget *view)
     {
-        const QPoint corner = view->mapToGlobal(part.topLeft());
-        return QGuiApplication::primaryScreen()
-            ->grabWindow(0, corner.x(), corner.y(), part.width(), part.height())
-            .toImage();
+        return countPixels(onScreen(view, view->rect()), Qt::white);
     }
-    static int whitePixels(const QWidget *view) { return countPixels(grab(view, view->rect()), Qt::white); }
     /// The notice is in the view's place, and really on the screen: a window that cannot be put together
     /// stays black.
     static void checkNotice(const MainWindow &window, const QString &word)
@@ -67,26 +53,20 @@ private:
                                  ->findChild<QLabel *>(QStringLiteral("lblViewportFailure"));
         QTRY_VERIFY(notice->isVisible());
         QVERIFY(notice->text().contains(word));
-        QTRY_COMPARE(grab(notice, {10, 10, 1, 1}).pixelColor(0, 0), window.palette().color(QPalette::Window));
+        QTRY_COMPARE(onScreen(notice, {10, 10, 1, 1}).pixelColor(0, 0),
+                     window.palette().color(QPalette::Window));
     }
 
-    std::unique_ptr<QTemporaryDir> m_files;
+    std::optional<ProgramFolder> m_files;
     QString m_skinned;
     QString m_rigid;
 };
 
 void TestGraphicsReset::init()
 {
-    m_files = std::make_unique<QTemporaryDir>();
-    useFolder(*m_files);
-    qputenv("XDG_DATA_HOME", QFile::encodeName(m_files->path()));
-    m_skinned = m_files->filePath(QStringLiteral("man.skinnedmesh"));
-    QVERIFY(!triangleMan().write(m_skinned));
-    StaticMesh rigid;
-    rigid.surfaces = {{QStringLiteral("m/a/_white"), {0, 1, 2}}};
-    rigid.vertices = {{{-100, 0, 0}, {}, {}}, {{0, 0, 200}, {}, {}}, {{100, 0, 0}, {}, {}}};
-    m_rigid = m_files->filePath(QStringLiteral("stone.staticmesh"));
-    QVERIFY(!rigid.write(m_rigid));
+    m_files.emplace();
+    m_skinned = m_files->save("man.skinnedmesh", triangleMan());
+    m_rigid = m_files->save("stone.staticmesh", wall({{QStringLiteral("m/a/_white"), {0, 1, 2}}}));
 }
 
 void TestGraphicsReset::theWindowComesBackAsItWas()
@@ -98,7 +78,7 @@ void TestGraphicsReset::theWindowComesBackAsItWas()
     QTRY_VERIFY(rigid->isVisible() && whitePixels(rigid) > 100);
     tabs->setCurrentIndex(0);
     const RecordRef bone{RecordKind::Bone, {1, 0, 0}};
-    find<KVTreeView>(window, "treeSkinnedMesh")->selectRecords({bone}, bone);
+    select(window, "treeSkinnedMesh", {bone});
     waitForFrame(skinned);
     const int before = whitePixels(skinned);
     QVERIFY(before > 100);

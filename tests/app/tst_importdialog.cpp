@@ -1,17 +1,9 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "Find.h"
 #include "Hand.h"
 #include "ImportDialog.h"
 #include "ImportFilter.h"
 #include "KMat.h"
-
-#include <QCheckBox>
-#include <QClipboard>
-#include <QDoubleSpinBox>
-#include <QLabel>
-#include <QListWidget>
-#include <QStackedWidget>
 
 #include <algorithm>
 #include <memory>
@@ -57,17 +49,12 @@ private:
     {
         return find<QStackedWidget>(dialog, "stackPages")->currentWidget()->objectName();
     }
-    QString write(const QString &name, const QByteArray &bytes)
-    {
-        const QString path = m_source->filePath(name);
-        TestSupport::writeFile(path, bytes);
-        return path;
-    }
+    QString write(const QString &name, const QByteArray &bytes) { return m_source->put(name, bytes); }
     QString writeTextured();
 
     QTemporaryDir m_home;
-    std::unique_ptr<QTemporaryDir> m_source;
-    std::unique_ptr<QTemporaryDir> m_mod;
+    std::optional<TestFolder> m_source;
+    std::optional<TestFolder> m_mod;
 };
 
 namespace {
@@ -77,8 +64,8 @@ const QByteArray corners = "v 0 0 0\nv 2 0 0\nv 0 4 0\nvt 0 0.25\n";
 void tst_ImportDialog::init()
 {
     TestSupport::useSettingsHome(m_home);
-    m_source = std::make_unique<QTemporaryDir>();
-    m_mod = std::make_unique<QTemporaryDir>();
+    m_source.emplace();
+    m_mod.emplace();
     QDir(m_mod->path()).mkpath(QStringLiteral("materials"));
     QDir(m_mod->path()).mkpath(QStringLiteral("textures"));
     Settings::OutputDir.setValue(m_mod->path());
@@ -158,17 +145,17 @@ void tst_ImportDialog::pathsStayInTheModFolder()
         type(dialog, edit, QStringLiteral("../a.kmat"));
         QCOMPARE(hand.seen, QStringList(refusal));
         QCOMPARE(find<QLineEdit>(dialog, edit)->text(), before);
-        type(dialog, edit, m_mod->filePath(QStringLiteral("sub/a.kmat")));
+        type(dialog, edit, m_mod->path(QStringLiteral("sub/a.kmat")));
         QCOMPARE(find<QLineEdit>(dialog, edit)->text(), QStringLiteral("sub/a.kmat"));
     }
     QStringList titles;
     dialog.setFolderChooser([&titles, this](QWidget *, const QString &title, const QString &) {
         titles += title;
-        return m_mod->filePath(QStringLiteral("textures"));
+        return m_mod->path(QStringLiteral("textures"));
     });
     click(dialog, "btnTextureDirBrowse");
     QCOMPARE(find<QLineEdit>(dialog, "txtTexPath")->text(), QStringLiteral("textures"));
-    Hand hand({Hand::file(m_mod->filePath(QStringLiteral("materials/new")))});
+    Hand hand({Hand::file(m_mod->path(QStringLiteral("materials/new")))});
     find<QLineEdit>(dialog, "txtKMatPath")->setText(QString());
     click(dialog, "btnkmatPathBrowse");
     QCOMPARE(hand.seen, QStringList(QStringLiteral("Save .kmat")));
@@ -176,7 +163,7 @@ void tst_ImportDialog::pathsStayInTheModFolder()
     click(dialog, "btnT2DirBrowse");
     QCOMPARE(titles,
              QStringList({QStringLiteral("Texture Output Folder"), QStringLiteral("Turok 2 Output Folder")}));
-    QCOMPARE(Settings::OutputDir.value(), m_mod->filePath(QStringLiteral("textures")));
+    QCOMPARE(Settings::OutputDir.value(), m_mod->path(QStringLiteral("textures")));
 }
 
 void tst_ImportDialog::outputFoldersAreChecked()
@@ -236,7 +223,7 @@ void tst_ImportDialog::outcomes()
             break;
         // A folder in which nobody can make a file, not even the administrator.
         QVERIFY(QDir(m_mod->path()).rmdir(QLatin1String(name)));
-        QVERIFY(QFile::link(QStringLiteral("/proc/self"), m_mod->filePath(QLatin1String(name))));
+        QVERIFY(QFile::link(QStringLiteral("/proc/self"), m_mod->path(QLatin1String(name))));
     }
     const QString path = writeTextured();
     SkinnedMesh skinned;
@@ -289,9 +276,9 @@ void tst_ImportDialog::outcomes()
     QCOMPARE(rigid.bbMax.z(), rigidCorner.z());
     if (changed && !failing) {
         MaterialTable table;
-        QCOMPARE(readKMat(m_mod->filePath(QStringLiteral("materials/mat_box.v2.kmat")), table), QString());
+        QCOMPARE(readKMat(m_mod->path(QStringLiteral("materials/mat_box.v2.kmat")), table), QString());
         QCOMPARE(table, (MaterialTable{{QStringLiteral("surf_0"), QStringLiteral("textures/steel.png")}}));
-        QCOMPARE(TestSupport::readFile(m_mod->filePath(QStringLiteral("textures/steel.png"))),
+        QCOMPARE(TestSupport::readFile(m_mod->path(QStringLiteral("textures/steel.png"))),
                  QByteArray("picture"));
     }
 }

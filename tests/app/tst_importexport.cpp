@@ -1,15 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "Find.h"
 #include "Hand.h"
-#include "KVTreeView.h"
-#include "TestSupport.h"
-
-#include <QAction>
-#include <QDropEvent>
-#include <QMimeData>
-#include <QStackedWidget>
-#include <QTabWidget>
 
 /// Models of other programs, in and out of the whole window.
 class tst_ImportExport : public QObject
@@ -25,29 +16,13 @@ private slots:
     void exportAndBack();
 
 private:
-    QString writeBytes(const QString &name, const QByteArray &bytes)
-    {
-        const QString path = m_files->filePath(name);
-        TestSupport::writeFile(path, bytes);
-        return path;
-    }
     QString writeObj(const QString &name)
     {
-        return writeBytes(name, "v 0 0 0\nv 2 0 0\nv 0 4 0\nvt 0.5 0.25\nf 1/1 2/1 3/1\n");
-    }
-    template <typename Model>
-    QString write(const QString &name, const Model &model)
-    {
-        const QString path = m_files->filePath(name);
-        return model.write(path) ? QString() : path;
+        return m_files->put(name, "v 0 0 0\nv 2 0 0\nv 0 4 0\nvt 0.5 0.25\nf 1/1 2/1 3/1\n");
     }
     static void trigger(const MainWindow &window, const char *action)
     {
         find<QAction>(window, action)->trigger();
-    }
-    static QString rootLabel(const MainWindow &window, const char *tree)
-    {
-        return find<KVTreeView>(window, tree)->model()->index(0, 0).data().toString();
     }
     /// Presses Import, waits for the end, notes the page and leaves.
     Hand::Answer importing()
@@ -64,14 +39,13 @@ private:
         };
     }
 
-    std::unique_ptr<QTemporaryDir> m_files;
+    std::optional<ProgramFolder> m_files;
     QString m_page;
 };
 
 void tst_ImportExport::init()
 {
-    m_files = std::make_unique<QTemporaryDir>();
-    useFolder(*m_files);
+    m_files.emplace();
     m_page.clear();
     Settings::ImportRotPitch.setValue(false);
 }
@@ -94,52 +68,50 @@ void tst_ImportExport::droppedFiles()
         return event.isAccepted();
     };
     QVERIFY(!drop({}));
-    QVERIFY(drop({write(QStringLiteral("man.skinnedmesh"), triangleMan())}));
-    QTRY_COMPARE(rootLabel(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
+    QVERIFY(drop({m_files->save("man.skinnedmesh", triangleMan())}));
+    QTRY_COMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
 
     // On the static tab a foreign model becomes a static mesh.
     find<QTabWidget>(window, "tabWidget")->setCurrentWidget(find<QWidget>(window, "tabStatic"));
     Hand hand({importing()});
     QVERIFY(drop({writeObj(QStringLiteral("crate %1.obj"))}));
-    QTRY_COMPARE_WITH_TIMEOUT(rootLabel(window, "treeStaticMesh"), QStringLiteral("crate %1.staticmesh"),
-                              20000);
+    QTRY_COMPARE_WITH_TIMEOUT(rootOf(window, "treeStaticMesh"), QStringLiteral("crate %1.staticmesh"), 20000);
     QTRY_VERIFY(!QApplication::activeModalWidget());
     QCOMPARE(hand.seen, QStringList(QStringLiteral("Import model to Static Mesh")));
     QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - crate %1.staticmesh"));
-    QCOMPARE(rootLabel(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
+    QCOMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
 }
 
 void tst_ImportExport::onlyAnImportThatSucceedsReplacesBothDocuments()
 {
-    ShownWindow window({write(QStringLiteral("man.skinnedmesh"), triangleMan()),
-                        write(QStringLiteral("man.anim"), twoBlocks())});
-    const QString original = m_files->filePath(QStringLiteral("man.skinnedmesh"));
+    const QString original = m_files->save("man.skinnedmesh", triangleMan());
+    ShownWindow window({original, m_files->save("man.anim", twoBlocks())});
     const QByteArray before = TestSupport::readFile(original);
     Hand hand({importing(), importing(),
                // A model without a file asks where to: the file that was open before is left alone.
-               Hand::file(m_files->filePath(QStringLiteral("saved.skinnedmesh")))});
-    window.openFiles({writeBytes(QStringLiteral("broken.obj"), "v")});
+               Hand::file(m_files->path(QStringLiteral("saved.skinnedmesh")))});
+    window.openFiles({m_files->put("broken.obj", "v")});
     QCOMPARE(m_page, QStringLiteral("pageError"));
-    QCOMPARE(rootLabel(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
-    QCOMPARE(rootLabel(window, "treeAnim"), QStringLiteral("man.anim"));
+    QCOMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
+    QCOMPARE(rootOf(window, "treeAnim"), QStringLiteral("man.anim"));
 
     window.openFiles({writeObj(QStringLiteral("box.obj"))});
     QCOMPARE(m_page, QStringLiteral("pageSuccess"));
-    QCOMPARE(rootLabel(window, "treeSkinnedMesh"), QStringLiteral("box.skinnedmesh"));
-    QCOMPARE(rootLabel(window, "treeAnim"), QStringLiteral("box.anim"));
+    QCOMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("box.skinnedmesh"));
+    QCOMPARE(rootOf(window, "treeAnim"), QStringLiteral("box.anim"));
     QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - box.skinnedmesh"));
     trigger(window, "actionSave");
     QCOMPARE(hand.seen.size(), 3);
     QCOMPARE(TestSupport::readFile(original), before);
     SkinnedMesh saved;
-    QVERIFY(!saved.read(m_files->filePath(QStringLiteral("saved.skinnedmesh"))));
+    QVERIFY(!saved.read(m_files->path(QStringLiteral("saved.skinnedmesh"))));
     QCOMPARE(saved.vertices.size(), size_t(3));
     QCOMPARE(saved.surfaces.at(0).materialPath, QStringLiteral("materials/mat_box/surf_0_white"));
 }
 
 void tst_ImportExport::unsavedChangesAreAskedFor()
 {
-    ShownWindow window({write(QStringLiteral("man.skinnedmesh"), triangleMan())});
+    ShownWindow window({m_files->save("man.skinnedmesh", triangleMan())});
     typeParent(window, 7);
     QVERIFY(window.windowTitle().endsWith(QLatin1String(" * ")));
     Hand hand({Hand::press(QMessageBox::Cancel), Hand::press(QMessageBox::No), Hand::reject});
@@ -156,7 +128,7 @@ void tst_ImportExport::exportAndBack()
 {
     ShownWindow window;
     QVERIFY(QDir(m_files->path()).mkpath(QStringLiteral("out")));
-    const QString out = m_files->filePath(QStringLiteral("out"));
+    const QString out = m_files->path(QStringLiteral("out"));
     Hand hand({Hand::press(QMessageBox::Ok), importing(), Hand::file(out), Hand::file(out),
                Hand::press(QMessageBox::No)});
     const auto showTab = [&window](const char *tab) {

@@ -1,22 +1,10 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "Find.h"
 #include "Icons.h"
 #include "Look.h"
 #include "LookMenu.h"
 #include "NoticeBar.h"
-#include "Settings.h"
-#include "TestSupport.h"
-
-#include <QAction>
-#include <QApplication>
-#include <QBitmap>
-#include <QLabel>
-#include <QMenu>
-#include <QPainter>
-#include <QPushButton>
-#include <QStyle>
-#include <QToolTip>
-#include <QVector4D>
 
 #include <algorithm>
 #include <cmath>

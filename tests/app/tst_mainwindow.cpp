@@ -1,28 +1,9 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "Find.h"
 #include "FullDisk.h"
 #include "Hand.h"
 #include "KVOpenGLWidget.h"
-#include "KVTreeView.h"
-#include "MainWindow.h"
 #include "Playback.h"
-#include "TestSupport.h"
-
-#include <QAction>
-#include <QComboBox>
-#include <QDirIterator>
-#include <QDockWidget>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMessageBox>
-#include <QSlider>
-#include <QSpinBox>
-#include <QSplitter>
-#include <QTabWidget>
-#include <QToolButton>
-#include <QTreeWidget>
 
 class tst_MainWindow : public QObject
 {
@@ -32,43 +13,20 @@ private slots:
     void init();
     void firstStartAsksForTheFolders();
     void editUndoSave();
-    void aModifiedDocumentGoesWithTheWindow();
     void whatFailsKeepsDocumentAndFile();
     void theExplorerOpensAndAsks();
     void playingShowsTheFrame();
-    void viewControlsAreStored();
     void everyRealModelOpensAndPlays();
     void theLayoutComesBackAndIsReset();
 
 private:
-    template <typename Model>
-    QString write(const QString &name, const Model &model)
-    {
-        const QString path = m_files->filePath(name);
-        QDir().mkpath(QFileInfo(path).path());
-        return model.write(path) ? QString() : path;
-    }
-    static void select(MainWindow &window, const char *tree, const RecordRef &record)
-    {
-        find<KVTreeView>(window, tree)->selectRecords({record}, record);
-    }
-    static QStringList errors(MainWindow &window)
-    {
-        QStringList texts;
-        const auto *list = find<QListWidget>(window, "listConsole");
-        for (int i = 0; i < list->count(); ++i)
-            texts.append(list->item(i)->text());
-        return texts;
-    }
-
-    std::unique_ptr<QTemporaryDir> m_files;
+    std::optional<ProgramFolder> m_files;
 };
 
 void tst_MainWindow::init()
 {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    m_files = std::make_unique<QTemporaryDir>();
-    useFolder(*m_files);
+    m_files.emplace();
 }
 
 void tst_MainWindow::firstStartAsksForTheFolders()
@@ -88,12 +46,12 @@ void tst_MainWindow::firstStartAsksForTheFolders()
 
 void tst_MainWindow::editUndoSave()
 {
-    const QString path = write(QStringLiteral("man.skinnedmesh"), triangleMan());
+    const QString path = m_files->save("man.skinnedmesh", triangleMan());
     const QByteArray before = TestSupport::readFile(path);
     ShownWindow window({path});
     QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh"));
 
-    select(window, "treeSkinnedMesh", {RecordKind::Bone, {1, 0, 0}});
+    select(window, "treeSkinnedMesh", {{RecordKind::Bone, {1, 0, 0}}});
     const auto *title =
         find<QWidget>(window, "pagesSkinnedMesh")->findChild<QLabel *>(QStringLiteral("lblPageTitle"));
     QCOMPARE(title->text(), QStringLiteral("Bone 1 Properties"));
@@ -108,7 +66,7 @@ void tst_MainWindow::editUndoSave()
     QTest::keyClick(parent, Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(parent->value(), 255);
     QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh"));
-    select(window, "treeSkinnedMesh", {RecordKind::SkinnedMesh, {}});
+    select(window, "treeSkinnedMesh", {{RecordKind::SkinnedMesh, {}}});
     QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     QCOMPARE(parent->value(), 0);
     QCOMPARE(title->text(), QStringLiteral("Bone 1 Properties"));
@@ -121,7 +79,7 @@ void tst_MainWindow::editUndoSave()
     QCOMPARE(TestSupport::readFile(path), before);
 
     // What is typed and not ended is saved, too.
-    select(window, "treeSkinnedMesh", {RecordKind::SkinnedMesh, {}});
+    select(window, "treeSkinnedMesh", {{RecordKind::SkinnedMesh, {}}});
     auto *minimum = find<QWidget>(window, "sbSMBBMinX");
     minimum->setFocus();
     auto *line = minimum->findChild<QLineEdit *>();
@@ -135,36 +93,13 @@ void tst_MainWindow::editUndoSave()
     QVERIFY(minimum->hasFocus());
 }
 
-void tst_MainWindow::aModifiedDocumentGoesWithTheWindow()
-{
-    StaticMesh rigid;
-    rigid.surfaces.resize(1);
-    ShownWindow window({write(QStringLiteral("man.skinnedmesh"), triangleMan()),
-                        write(QStringLiteral("man.anim"), twoBlocks()),
-                        write(QStringLiteral("box.staticmesh"), rigid)});
-    typeParent(window, 7);
-    find<QTabWidget>(window, "tabTrees")->setCurrentIndex(1);
-    select(window, "treeAnim", {RecordKind::AnimBlock, {1, 0, 0}});
-    typeNumber(find<QSpinBox>(window, "sbAnimLoopFrame"), 7);
-    QVERIFY(find<QAction>(window, "actionUndo")->isEnabled());
-
-    // What is typed and not ended, too.
-    find<QTabWidget>(window, "tabWidget")->setCurrentIndex(1);
-    select(window, "treeStaticMesh", {RecordKind::StaticSurface, {0, 0, 0}});
-    auto *material = find<QWidget>(window, "pagesStaticMesh")->findChild<QLineEdit *>("txtSurfaceMaterial");
-    material->setFocus();
-    QTest::keyClicks(material, QStringLiteral("typed"));
-}
-
 void tst_MainWindow::whatFailsKeepsDocumentAndFile()
 {
-    const QString good = write(QStringLiteral("folder/man.skinnedmesh"), triangleMan());
+    const QString good = m_files->save("folder/man.skinnedmesh", triangleMan());
     const QByteArray before = TestSupport::readFile(good);
     // The name holds what a text's place holders look like.
-    const QString bad = m_files->filePath(QStringLiteral("%1 cut.skinnedmesh"));
-    QVERIFY(TestSupport::writeFile(bad, before.left(40)));
-    const QString rigid = m_files->filePath(QStringLiteral("cut.staticmesh"));
-    QVERIFY(TestSupport::writeFile(rigid, QByteArray(3, 'x')));
+    const QString bad = m_files->put("%1 cut.skinnedmesh", before.left(40));
+    const QString rigid = m_files->put("cut.staticmesh", "xxx");
     ShownWindow window({good});
     Hand hand(QVector<Hand::Answer>(3, Hand::press(QMessageBox::Ok)));
     window.openFiles({bad, rigid});
@@ -172,7 +107,7 @@ void tst_MainWindow::whatFailsKeepsDocumentAndFile()
     QStringList boxes("File error|Failed to open\n" + QDir::toNativeSeparators(bad));
     QCOMPARE(hand.seen, boxes);
     QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh"));
-    const QStringList lines = errors(window);
+    const QStringList lines = consoleOf(window);
     QVERIFY(lines.filter("%1 cut.skinnedmesh").join(QString()).contains("reached end of file."));
     QVERIFY(!lines.filter("cut.staticmesh").isEmpty());
 
@@ -182,7 +117,7 @@ void tst_MainWindow::whatFailsKeepsDocumentAndFile()
         if (isDiskFull)
             disk = std::make_unique<FullDisk>(16);
         else
-            QVERIFY(QDir(m_files->filePath(QStringLiteral("folder"))).removeRecursively());
+            QVERIFY(QDir(m_files->path(QStringLiteral("folder"))).removeRecursively());
         find<QAction>(window, "actionSave")->trigger();
         disk.reset();
         boxes += "File error|Failed to save\n" + QDir::toNativeSeparators(good);
@@ -190,24 +125,27 @@ void tst_MainWindow::whatFailsKeepsDocumentAndFile()
         QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh * "));
         QCOMPARE(TestSupport::readFile(good), isDiskFull ? before : QByteArray());
     }
+    // A modified document goes with its window, and so does what is typed and not ended.
+    auto *minimum = find<QWidget>(window, "sbNodeBBMinX");
+    minimum->setFocus();
+    QTest::keyClicks(minimum, QStringLiteral("7"));
 }
 
 void tst_MainWindow::theExplorerOpensAndAsks()
 {
-    const QString first = write(QStringLiteral("models/a/a.skinnedmesh"), triangleMan());
-    const QString second = write(QStringLiteral("models/b/b.skinnedmesh"), triangleMan());
-    write(QStringLiteral("anims/a/a.anim"), twoBlocks());
-    write(QStringLiteral("anims/other/other.anim"), twoBlocks());
-    Settings::SkinnedMeshExplorePath.setValue(m_files->filePath(QStringLiteral("models")));
-    Settings::AnimationExplorePath.setValue(m_files->filePath(QStringLiteral("anims")));
+    const QString first = m_files->save("models/a/a.skinnedmesh", triangleMan());
+    const QString second = m_files->save("models/b/b.skinnedmesh", triangleMan());
+    m_files->save("anims/a/a.anim", twoBlocks());
+    m_files->save("anims/other/other.anim", twoBlocks());
+    Settings::SkinnedMeshExplorePath.setValue(m_files->path(QStringLiteral("models")));
+    Settings::AnimationExplorePath.setValue(m_files->path(QStringLiteral("anims")));
     ShownWindow window;
     auto *tree = find<QTreeWidget>(window, "treeSkinnedMeshFolder");
     const auto pick = [tree](int row) { tree->setCurrentItem(tree->topLevelItem(row)->child(0)); };
     pick(0);
     QTRY_COMPARE(window.windowTitle(), QStringLiteral("Korvane - a.skinnedmesh"));
     // The animation follows the mesh.
-    QTRY_COMPARE(find<KVTreeView>(window, "treeAnim")->topLevelItemCount(), 1);
-    QCOMPARE(find<KVTreeView>(window, "treeAnim")->topLevelItem(0)->text(0), QStringLiteral("a.anim"));
+    QTRY_COMPARE(rootOf(window, "treeAnim"), QStringLiteral("a.anim"));
     QCOMPARE(playback().playState, PlayState::Playing);
     QVERIFY(playback().anim && playback().mesh);
 
@@ -226,8 +164,8 @@ void tst_MainWindow::theExplorerOpensAndAsks()
 
 void tst_MainWindow::playingShowsTheFrame()
 {
-    ShownWindow window({write(QStringLiteral("man.skinnedmesh"), triangleMan()),
-                        write(QStringLiteral("man.anim"), twoBlocks())});
+    ShownWindow window(
+        {m_files->save("man.skinnedmesh", triangleMan()), m_files->save("man.anim", twoBlocks())});
     auto *label = find<QLabel>(window, "lblAnimTrackFrames");
     auto *slider = find<QSlider>(window, "sliderAnimTrack");
     QCOMPARE(slider->maximum(), 10);
@@ -244,37 +182,13 @@ void tst_MainWindow::playingShowsTheFrame()
     QCOMPARE(slider->value(), 0);
 
     // Another block starts anew; looking at the same block again does not.
-    select(window, "treeAnim", {RecordKind::AnimBlock, {1, 0, 0}});
+    select(window, "treeAnim", {{RecordKind::AnimBlock, {1, 0, 0}}});
     QCOMPARE(playback().blockIndex, 1);
     QCOMPARE(playback().playState, PlayState::Playing);
     find<QToolButton>(window, "btnAnimTrackStop")->click();
     find<QTabWidget>(window, "tabTrees")->setCurrentIndex(1);
     typeNumber(find<QSpinBox>(window, "sbAnimLoopFrame"), 3);
     QCOMPARE(playback().playState, PlayState::Paused);
-}
-
-void tst_MainWindow::viewControlsAreStored()
-{
-    {
-        ShownWindow window;
-        for (const char *action : {"actionGround", "actionTransGizmo", "actionCullBack"})
-            find<QAction>(window, action)->trigger();
-        const auto bars = window.findChildren<QComboBox *>(QStringLiteral("cbSurfSelect"));
-        QCOMPARE(bars.size(), 2);
-        bars.at(0)->setFocus();
-        QTest::keyClick(bars.at(0), Qt::Key_End);
-        QCOMPARE(bars.at(1)->currentIndex(), 4);
-        const auto speeds = window.findChildren<QSlider *>(QStringLiteral("sliderMoveSpeed"));
-        speeds.at(1)->setValue(250);
-        QCOMPARE(speeds.at(0)->value(), 250);
-        window.findChildren<QSlider *>(QStringLiteral("sliderBrightness")).at(0)->setValue(4);
-    }
-    QCOMPARE(Settings::MouseSpeed.value(), 2.5f);
-    QCOMPARE(Settings::Brightness.value(), 2.0f);
-    QCOMPARE(Settings::SurfSelectType.value(), 4);
-    MainWindow window;
-    for (const char *action : {"actionGround", "actionTransGizmo", "actionCullBack"})
-        QVERIFY2(find<QAction>(window, action)->isChecked(), action);
 }
 
 void tst_MainWindow::everyRealModelOpensAndPlays()
@@ -310,7 +224,7 @@ void tst_MainWindow::everyRealModelOpensAndPlays()
             window.openFiles({anim});
             const int blocks = int(playback().anim->blocks.size());
             for (int block = 0; block < blocks; ++block) {
-                select(window, "treeAnim", {RecordKind::AnimBlock, {block, 0, 0}});
+                select(window, "treeAnim", {{RecordKind::AnimBlock, {block, 0, 0}}});
                 playback().time = 0.1f;
                 view->grabFramebuffer();
                 QTRY_VERIFY(find<QLabel>(window, "lblAnimTrackFrames")->text().startsWith("Frame: "));
@@ -339,8 +253,8 @@ void tst_MainWindow::everyRealModelOpensAndPlays()
     }
     QCOMPARE(opened, 10);
     // One image of the barrel lies in neither folder.
-    QCOMPARE(errors(window), QStringList("[GLMesh From Static Mesh] Failed to load texture '" + root +
-                                         "/mod/textures/barrel_metal.png' using blank texture instead"));
+    QCOMPARE(consoleOf(window), QStringList("[GLMesh From Static Mesh] Failed to load texture '" + root +
+                                            "/mod/textures/barrel_metal.png' using blank texture instead"));
 }
 
 void tst_MainWindow::theLayoutComesBackAndIsReset()

@@ -5,15 +5,6 @@
 #include "Find.h"
 #include "Look.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDialogButtonBox>
-#include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTimer>
-
 class tst_OptionsDialog : public QObject
 {
     Q_OBJECT

@@ -3,16 +3,6 @@
 #include "BrokenModels.h"
 #include "Hand.h"
 
-#include <QClipboard>
-#include <QDockWidget>
-#include <QHeaderView>
-#include <QImage>
-#include <QSpinBox>
-#include <QStatusBar>
-#include <QTabWidget>
-#include <QToolButton>
-#include <QTreeWidget>
-
 using namespace BrokenModels;
 
 /// The window with sample models in it, and the list of what is wrong with them.

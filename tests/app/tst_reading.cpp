@@ -7,11 +7,6 @@
 #include "TutorialsTab.h"
 #include "WebLink.h"
 
-#include <QDesktopServices>
-#include <QDir>
-#include <QLabel>
-#include <QListWidget>
-
 /// What there is to read: the guides, the links of the community, the about dialog.
 class tst_Reading : public QObject
 {

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "AnimCommands.h"
-#include "Find.h"
 #include "FullDisk.h"
 #include "Hand.h"
 #include "Log.h"
@@ -10,12 +9,6 @@
 #include "RecoverDialog.h"
 #include "RecoveryPrompt.h"
 #include "SampleModels.h"
-#include "TestSupport.h"
-
-#include <QAction>
-#include <QPlainTextEdit>
-#include <QTreeWidget>
-#include <QVBoxLayout>
 
 using SampleModels::bytesOf;
 

@@ -6,9 +6,6 @@
 #include "SampleModels.h"
 #include "ScaleDialog.h"
 
-#include <QDialog>
-#include <QDoubleSpinBox>
-
 using SampleModels::bytesOf;
 
 class tst_RotateScale : public QObject

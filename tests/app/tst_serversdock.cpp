@@ -6,16 +6,6 @@
 #include "LocalServers.h"
 #include "Log.h"
 
-#include <QAction>
-#include <QApplication>
-#include <QClipboard>
-#include <QLabel>
-#include <QMainWindow>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QStatusBar>
-#include <QTableWidget>
-
 /// The dock of running servers, against a master server on this machine.
 class tst_ServersDock : public QObject
 {

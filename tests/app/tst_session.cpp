@@ -7,10 +7,6 @@
 #include "Playback.h"
 #include "SampleModels.h"
 
-#include <QComboBox>
-#include <QListWidget>
-#include <QTabWidget>
-
 #include <limits>
 
 class tst_Session : public QObject
@@ -29,24 +25,6 @@ private slots:
     void anySessionMayBeStored();
 
 private:
-    static QString root(const MainWindow &window, const char *tree)
-    {
-        const QTreeWidgetItem *item = find<KVTreeView>(window, tree)->topLevelItem(0);
-        return item ? item->text(0) : QString();
-    }
-    static QStringList console(const MainWindow &window)
-    {
-        QStringList lines;
-        const auto *list = find<QListWidget>(window, "listConsole");
-        for (int i = 0; i < list->count(); ++i)
-            lines << list->item(i)->text();
-        return lines.filter(QStringLiteral("[Session]"));
-    }
-    static void selectBone(const MainWindow &window)
-    {
-        const RecordRef bone{RecordKind::Bone, {1}};
-        find<KVTreeView>(window, "treeSkinnedMesh")->selectRecords({bone}, bone);
-    }
     struct Started : MainWindow
     {
         explicit Started(const QStringList &paths = {})
@@ -56,7 +34,7 @@ private:
         }
     };
 
-    std::unique_ptr<QTemporaryDir> m_files;
+    std::optional<ProgramFolder> m_files;
     QString m_mesh;
     QString m_anim;
     QString m_rigid;
@@ -64,16 +42,11 @@ private:
 
 void tst_Session::init()
 {
-    m_files = std::make_unique<QTemporaryDir>();
-    useFolder(*m_files);
-    qputenv("XDG_DATA_HOME", QFile::encodeName(m_files->path()));
+    m_files.emplace();
     Settings::RestoreSession.setValue(true);
-    m_mesh = m_files->filePath(QStringLiteral("man.skinnedmesh"));
-    m_anim = m_files->filePath(QStringLiteral("man.anim"));
-    m_rigid = m_files->filePath(QStringLiteral("box.staticmesh"));
-    QVERIFY(!triangleMan().write(m_mesh));
-    QVERIFY(!twoBlocks().write(m_anim));
-    QVERIFY(!SampleModels::plainStatic().write(m_rigid));
+    m_mesh = m_files->save("man.skinnedmesh", triangleMan());
+    m_anim = m_files->save("man.anim", twoBlocks());
+    m_rigid = m_files->save("box.staticmesh", SampleModels::plainStatic());
 }
 
 void tst_Session::theNextStartGoesOn()
@@ -82,7 +55,7 @@ void tst_Session::theNextStartGoesOn()
     {
         Started window({m_mesh, m_anim, m_rigid});
         QVERIFY(QTest::qWaitForWindowExposed(&window));
-        selectBone(window);
+        select(window, "treeSkinnedMesh", {{RecordKind::Bone, {1}}});
         auto *blocks = find<QComboBox>(window, "cbAnimTrackBlock");
         blocks->setFocus();
         QTest::keyClick(blocks, Qt::Key_Down);
@@ -96,9 +69,9 @@ void tst_Session::theNextStartGoesOn()
         window.close();
     }
     Started window;
-    QCOMPARE(root(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
-    QCOMPARE(root(window, "treeAnim"), QStringLiteral("man.anim"));
-    QCOMPARE(root(window, "treeStaticMesh"), QStringLiteral("box.staticmesh"));
+    QCOMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
+    QCOMPARE(rootOf(window, "treeAnim"), QStringLiteral("man.anim"));
+    QCOMPARE(rootOf(window, "treeStaticMesh"), QStringLiteral("box.staticmesh"));
     QCOMPARE(find<KVTreeView>(window, "treeSkinnedMesh")->currentRecord(),
              (RecordRef{RecordKind::Bone, {1}}));
     QCOMPARE(find<KVTreeView>(window, "treeAnim")->currentRecord(), (RecordRef{RecordKind::AnimBlock, {1}}));
@@ -106,7 +79,7 @@ void tst_Session::theNextStartGoesOn()
     QCOMPARE(find<KVOpenGLWidget>(window, "viewSkinned")->camera().position(), place);
     QCOMPARE(find<QTabWidget>(window, "tabWidget")->currentWidget(), find<QWidget>(window, "tabDatabase"));
     QCOMPARE(find<QTabWidget>(window, "tabTrees")->currentIndex(), 1);
-    QCOMPARE(console(window), QStringList());
+    QCOMPARE(consoleOf(window).filter(QStringLiteral("[Session]")), QStringList());
     // Until it is stored anew there is none: what brought this start down would bring down the next.
     QVERIFY(Settings::Session.value().isEmpty());
 }
@@ -121,7 +94,7 @@ void tst_Session::aSessionIsKeptWhereItIsWanted()
     QVERIFY(Settings::Session.exists());
     Settings::RestoreSession.setValue(false);
     Started window;
-    QCOMPARE(root(window, "treeSkinnedMesh"), QString());
+    QCOMPARE(rootOf(window, "treeSkinnedMesh"), QString());
 }
 
 void tst_Session::aCrashKeepsIt()
@@ -141,7 +114,7 @@ void tst_Session::filesThatChangedOrWent()
 {
     {
         Started window({m_mesh, m_anim, m_rigid});
-        selectBone(window);
+        select(window, "treeSkinnedMesh", {{RecordKind::Bone, {1}}});
         window.close();
     }
     SkinnedMesh other = triangleMan();
@@ -154,8 +127,8 @@ void tst_Session::filesThatChangedOrWent()
     QTest::qWait(50);
     QCOMPARE(hand.seen, QStringList());
     QCOMPARE(find<KVTreeView>(window, "treeSkinnedMesh")->currentRecord().kind, RecordKind::SkinnedMesh);
-    QCOMPARE(root(window, "treeAnim"), QString());
-    const QStringList lines = console(window);
+    QCOMPARE(rootOf(window, "treeAnim"), QString());
+    const QStringList lines = consoleOf(window).filter(QStringLiteral("[Session]"));
     QCOMPARE(lines.size(), 3);
     QCOMPARE(lines[0], QStringLiteral("[Session] '%1' has changed since the last session").arg(m_mesh));
     QCOMPARE(lines[1], QStringLiteral("[Session] '%1' is not there any more").arg(m_anim));
@@ -165,13 +138,11 @@ void tst_Session::filesThatChangedOrWent()
 void tst_Session::filesOfTheCommandLineWin()
 {
     Started({m_mesh, m_anim, m_rigid}).close();
-    const QString other = m_files->filePath(QStringLiteral("other.skinnedmesh"));
-    QVERIFY(!triangleMan().write(other));
-    Started window({other});
+    Started window({m_files->save("other.skinnedmesh", triangleMan())});
     QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - other.skinnedmesh"));
     // The animation belonged to another mesh; the other tab has nothing to do with it.
-    QCOMPARE(root(window, "treeAnim"), QString());
-    QCOMPARE(root(window, "treeStaticMesh"), QStringLiteral("box.staticmesh"));
+    QCOMPARE(rootOf(window, "treeAnim"), QString());
+    QCOMPARE(rootOf(window, "treeStaticMesh"), QStringLiteral("box.staticmesh"));
 }
 
 void tst_Session::keptWorkComesBackOverTheSession()
@@ -246,7 +217,7 @@ void tst_Session::anySessionMayBeStored()
     Started window;
     QTest::qWait(20);
     QCOMPARE(hand.seen, QStringList());
-    QCOMPARE(root(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
+    QCOMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
     for (auto *tree : window.findChildren<KVTreeView *>())
         QVERIFY(!tree->topLevelItem(0) || tree->currentRecord().kind != RecordKind::None);
     for (const char *view : {"viewSkinned", "viewStatic"}) {

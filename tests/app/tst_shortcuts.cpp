@@ -2,24 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "Shortcuts.h"
 
-#include "Find.h"
 #include "Hand.h"
-#include "KVTreeView.h"
-#include "MainWindow.h"
 #include "Playback.h"
-
-#include <QAbstractSpinBox>
-#include <QAction>
-#include <QDialogButtonBox>
-#include <QKeySequenceEdit>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenuBar>
-#include <QShortcut>
-#include <QTabWidget>
-#include <QTimer>
-#include <QToolButton>
-#include <QTreeWidget>
 
 /// The list of all keys, and the page of the options that changes them.
 class tst_Shortcuts : public QObject
@@ -27,7 +11,7 @@ class tst_Shortcuts : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() { m_files.emplace(); }
     void nothingWithKeysIsLeftOutOrCollides();
     void keysAreChangedByHand();
     void collidingKeysAreNotTakenSilently();
@@ -84,14 +68,8 @@ private:
         return item->text(0) + QLatin1Char('|') + item->text(1);
     }
 
-    std::unique_ptr<QTemporaryDir> m_files;
+    std::optional<ProgramFolder> m_files;
 };
-
-void tst_Shortcuts::init()
-{
-    m_files = std::make_unique<QTemporaryDir>();
-    useFolder(*m_files);
-}
 
 void tst_Shortcuts::nothingWithKeysIsLeftOutOrCollides()
 {
@@ -286,14 +264,10 @@ void tst_Shortcuts::keysOfPanelsAndFields()
         {QStringLiteral("actionAnimTrackPlayOrPause=P"), QStringLiteral("actionAsk_damage=Ctrl+D"),
          QStringLiteral("actionTreeExpand=Ctrl+Right"), QStringLiteral("actionSave=F2"),
          QStringLiteral("actionFilter=Ctrl+Shift+F")});
-    const QString mesh = m_files->filePath(QStringLiteral("a.skinnedmesh"));
-    const QString anim = m_files->filePath(QStringLiteral("a.anim"));
-    QVERIFY(!triangleMan().write(mesh));
     AnimFile file = twoBlocks();
     file.blocks[0].actions.resize(1);
-    QVERIFY(!file.write(anim));
     Settings::AnimationAutoPlay.setValue(false);
-    ShownWindow window({mesh, anim});
+    ShownWindow window({m_files->save("a.skinnedmesh", triangleMan()), m_files->save("a.anim", file)});
     auto *view = find<QWidget>(window, "viewSkinned");
     view->setFocus();
     QTest::keyClick(view, Qt::Key_Space);
@@ -313,7 +287,7 @@ void tst_Shortcuts::keysOfPanelsAndFields()
     // The question goes to the field with the focus, and to no other.
     find<QTabWidget>(window, "tabTrees")->setCurrentIndex(1);
     tree = find<KVTreeView>(window, "treeAnim");
-    tree->selectRecords({{RecordKind::AnimAction, {0, 0}}}, {RecordKind::AnimAction, {0, 0}});
+    select(window, "treeAnim", {{RecordKind::AnimAction, {0, 0}}});
     tree->setFocus();
     QStringList keys;
     const Hand hand({Hand::press(QMessageBox::Ok), [&keys](QDialog *dialog) {

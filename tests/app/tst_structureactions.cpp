@@ -2,16 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Panes.h"
 #include "RecordItem.h"
-#include "Settings.h"
 #include "StructureActions.h"
-
-#include <QApplication>
-#include <QClipboard>
-#include <QDialog>
-#include <QMenu>
-#include <QSpinBox>
-#include <QTimer>
-#include <QVBoxLayout>
 
 using SampleModels::bytesOf;
 using K = RecordKind;
@@ -57,7 +48,6 @@ private slots:
     void menus_data();
     void menus();
     void branches();
-    void counts_data();
     void counts();
     void boneFlags();
 
@@ -295,54 +285,46 @@ void tst_StructureActions::branches()
     QVERIFY(!tree->findItem(ref(K::TranslationTrack, 1, 0))->isExpanded());
 }
 
-void tst_StructureActions::counts_data()
-{
-    QTest::addColumn<RecordRef>("group");
-    QTest::addColumn<int>("least");
-    QTest::addColumn<int>("current");
-    QTest::newRow("frames") << ref(K::AnimFrames, 1) << 1 << 4;
-    QTest::newRow("translations") << ref(K::Translations, 1) << 0 << 1;
-    QTest::newRow("rotations") << ref(K::Rotations, 1) << 0 << 0;
-}
-
 void tst_StructureActions::counts()
 {
-    QFETCH(RecordRef, group);
-    QFETCH(int, least);
-    QFETCH(int, current);
+    const struct
+    {
+        RecordRef group;
+        int least, current;
+        void (AnimBlock::*resize)(int);
+    } rows[] = {{ref(K::AnimFrames, 1), 1, 4, &AnimBlock::setFrameCount},
+                {ref(K::Translations, 1), 0, 1, &AnimBlock::setTranslationCount},
+                {ref(K::Rotations, 1), 0, 0, &AnimBlock::setRotationCount}};
     AnimFile expected = animFile();
-    if (group.kind == K::AnimFrames)
-        expected.blocks[1].setFrameCount(7);
-    else if (group.kind == K::Translations)
-        expected.blocks[1].setTranslationCount(7);
-    else
-        expected.blocks[1].setRotationCount(7);
-
     int notices = 0;
     connect(&anim().document, &Document::structuresChanged, this, [&notices] { ++notices; });
-    for (const char *text : {"", "7"}) {
-        bool asked = false;
-        QTimer::singleShot(0, this, [&] {
-            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-            auto *box = dialog->findChild<QSpinBox *>(QStringLiteral("sbSize"));
-            asked = box->minimum() == least && box->maximum() == 65535 && box->value() == current;
-            // The number is selected: typing replaces it.
-            QTest::keyClicks(box, QLatin1String(text));
-            QTest::keyClick(box, Qt::Key_Return);
-        });
-        select(group);
-        QMenu *menu = openMenu(&anim().tree);
-        menu->setActiveAction(menu->actions().at(4));
-        QTest::keyClick(menu, Qt::Key_Return);
-        QVERIFY(asked);
-        QCOMPARE(notices, text[0] ? 1 : 0);
+    for (const auto &row : rows) {
+        notices = 0;
+        for (const char *text : {"", "7"}) {
+            bool asked = false;
+            QTimer::singleShot(0, this, [&] {
+                auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+                auto *box = dialog->findChild<QSpinBox *>(QStringLiteral("sbSize"));
+                asked = box->minimum() == row.least && box->maximum() == 65535 && box->value() == row.current;
+                // The number is selected: typing replaces it.
+                QTest::keyClicks(box, QLatin1String(text));
+                QTest::keyClick(box, Qt::Key_Return);
+            });
+            select(row.group);
+            QMenu *menu = openMenu(&anim().tree);
+            menu->setActiveAction(menu->actions().at(4));
+            QTest::keyClick(menu, Qt::Key_Return);
+            QVERIFY(asked);
+            QCOMPARE(notices, text[0] ? 1 : 0);
+        }
+        (expected.blocks[1].*row.resize)(7);
+        QCOMPARE(anim().bytes(), bytesOf(expected));
+        QCOMPARE(anim().tree.currentRecord(), row.group);
+        const QTreeWidgetItem *item = anim().tree.currentItem();
+        QVERIFY(item->isExpanded() && item->text(0).endsWith(QLatin1String("(7)")));
+        QCOMPARE(item->childCount(), 7);
+        QVERIFY(anim().undo().isClean());
     }
-    QCOMPARE(anim().bytes(), bytesOf(expected));
-    QCOMPARE(anim().tree.currentRecord(), group);
-    QVERIFY(anim().tree.currentItem()->isExpanded());
-    QVERIFY(anim().tree.currentItem()->text(0).endsWith(QLatin1String("(7)")));
-    QCOMPARE(anim().tree.currentItem()->childCount(), 7);
-    QVERIFY(anim().undo().isClean());
 }
 
 void tst_StructureActions::boneFlags()

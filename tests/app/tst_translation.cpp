@@ -4,10 +4,6 @@
 #include "Language.h"
 #include "Panes.h"
 
-#include <QLibraryInfo>
-#include <QTranslator>
-#include <QXmlStreamReader>
-
 #include <set>
 
 namespace {
@@ -80,7 +76,6 @@ class tst_Translation : public QObject
 private slots:
     void initTestCase();
     void cleanupTestCase() { QCoreApplication::removeTranslator(&m_listener); }
-    void init();
     void theLanguageIsResolved();
     void everyTextIsTranslated();
     void windowsAreGerman();
@@ -88,7 +83,7 @@ private slots:
     void everythingThatIsShownWasLookedUp();
 
 private:
-    QTemporaryDir m_home;
+    const ProgramFolder m_home;
     QVector<Message> m_messages;
     Listener m_listener;
 };
@@ -98,11 +93,6 @@ void tst_Translation::initTestCase()
     m_messages = messagesOf(TestSupport::source(QStringLiteral("translations/korvane_de.ts")));
     Language::install(QStringLiteral("de"));
     QCoreApplication::installTranslator(&m_listener);
-}
-
-void tst_Translation::init()
-{
-    useFolder(m_home);
 }
 
 void tst_Translation::theLanguageIsResolved()

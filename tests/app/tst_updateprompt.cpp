@@ -4,12 +4,7 @@
 
 #include "Hand.h"
 #include "LocalServers.h"
-#include "Settings.h"
-#include "TestSupport.h"
 
-#include <QAction>
-#include <QDesktopServices>
-#include <QMainWindow>
 #include <QNetworkProxyFactory>
 #include <QNetworkReply>
 

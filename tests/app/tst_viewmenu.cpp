@@ -2,16 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "Hand.h"
 #include "KVOpenGLWidget.h"
-#include "StaticMesh.h"
-
-#include <QAction>
-#include <QCheckBox>
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QSpinBox>
-#include <QStatusBar>
 
 #include <cmath>
 
@@ -26,16 +16,11 @@ private slots:
     void keysBelongToTheView();
     void clicksSelect();
     void selectionIsMarkedAndFramed();
-    void thePaletteHasEachOnce();
     void picturesAreSaved();
 
 private:
     /// A window that shows the man with its skinned view in front, posed.
     std::unique_ptr<MainWindow> open(const QStringList &more = {});
-    static void select(const MainWindow &window, const char *tree, const QVector<RecordRef> &records)
-    {
-        find<KVTreeView>(window, tree)->selectRecords(records, records.last());
-    }
     static Hand::Answer pictureOf(int width, bool transparent)
     {
         return [width, transparent](QDialog *dialog) {
@@ -49,14 +34,13 @@ private:
         };
     }
 
-    std::unique_ptr<QTemporaryDir> m_files;
+    std::optional<ProgramFolder> m_files;
 };
 
 void tst_ViewMenu::init()
 {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    m_files = std::make_unique<QTemporaryDir>();
-    useFolder(*m_files);
+    m_files.emplace();
     Settings::AnimationAutoPlay.setValue(false);
     Settings::HideMeshData.setValue(false);
     Settings::HideAnimData.setValue(false);
@@ -64,17 +48,14 @@ void tst_ViewMenu::init()
 
 std::unique_ptr<MainWindow> tst_ViewMenu::open(const QStringList &more)
 {
-    const QString man = m_files->filePath(QStringLiteral("man.skinnedmesh"));
-    const QString anim = m_files->filePath(QStringLiteral("man.anim"));
     SkinnedMesh mesh = triangleMan();
     mesh.surfaces.push_back({QStringLiteral("materials/m/_white"), {}});
     mesh.hotPoints.resize(2);
     mesh.hotPoints[1].origin = {0, 0, 150};
     AnimFile file = twoBlocks();
     file.blocks[0].nodes[1].initialPosition = {0, 0, 60};
-    if (mesh.write(man) || file.write(anim))
-        qFatal("cannot write");
-    auto window = std::make_unique<ShownWindow>(QStringList{man, anim} + more);
+    const QStringList man{m_files->save("man.skinnedmesh", mesh), m_files->save("man.anim", file)};
+    auto window = std::make_unique<ShownWindow>(man + more);
     auto *view = find<KVOpenGLWidget>(*window, "viewSkinned");
     view->setFocus();
     view->grabFramebuffer();
@@ -90,14 +71,27 @@ void tst_ViewMenu::displayIsRemembered()
         QTest::keyClick(view, Qt::Key_4);
         QTest::keyClick(view, Qt::Key_B);
         QTest::keyClick(view, Qt::Key_H);
-        find<QAction>(*window, "actionStatistics")->trigger();
-        find<QAction>(*window, "actionOrbit")->trigger();
+        for (const char *name :
+             {"actionStatistics", "actionOrbit", "actionGround", "actionTransGizmo", "actionCullBack"})
+            find<QAction>(*window, name)->trigger();
+        // The bars of both views show the same.
+        const auto bars = window->findChildren<QComboBox *>(QStringLiteral("cbSurfSelect"));
+        bars.at(0)->setFocus();
+        QTest::keyClick(bars.at(0), Qt::Key_End);
+        QCOMPARE(bars.at(1)->currentIndex(), 4);
+        const auto speeds = window->findChildren<QSlider *>(QStringLiteral("sliderMoveSpeed"));
+        speeds.at(1)->setValue(250);
+        QCOMPARE(speeds.at(0)->value(), 250);
+        find<QSlider>(*window, "sliderBrightness")->setValue(4);
         QVERIFY(view->findChild<QLabel *>(QStringLiteral("lblViewStatistics")));
     }
     QCOMPARE(Settings::Shading.value(), 1);
+    QCOMPARE(Settings::MouseSpeed.value(), 2.5f);
+    QCOMPARE(Settings::Brightness.value(), 2.0f);
+    QCOMPARE(Settings::SurfSelectType.value(), 4);
     const auto window = open();
-    for (const char *name :
-         {"actionWireframe", "actionSkeleton", "actionHotPoints", "actionStatistics", "actionOrbit"})
+    for (const char *name : {"actionWireframe", "actionSkeleton", "actionHotPoints", "actionStatistics",
+                             "actionOrbit", "actionGround", "actionTransGizmo", "actionCullBack"})
         QVERIFY2(find<QAction>(*window, name)->isChecked(), name);
     QVERIFY(!find<QAction>(*window, "actionShaded")->isChecked());
     QVERIFY(find<KVOpenGLWidget>(*window, "viewStatic")->findChild<QLabel *>());
@@ -136,12 +130,8 @@ void tst_ViewMenu::keysBelongToTheView()
 
 void tst_ViewMenu::clicksSelect()
 {
-    StaticMesh wall;
-    wall.surfaces = {{QStringLiteral("_white"), {}}, {QStringLiteral("_white"), {0, 1, 2}}};
-    wall.vertices = {{{-100, 0, 0}, {}, {}}, {{0, 0, 200}, {}, {}}, {{100, 0, 0}, {}, {}}};
-    const QString path = m_files->filePath(QStringLiteral("wall.staticmesh"));
-    QVERIFY(!wall.write(path));
-    const auto window = open({path});
+    const StaticMesh second = wall({{QStringLiteral("_white"), {}}, {QStringLiteral("_white"), {0, 1, 2}}});
+    const auto window = open({m_files->save("wall.staticmesh", second)});
     auto *view = find<KVOpenGLWidget>(*window, "viewSkinned");
     auto *tree = find<KVTreeView>(*window, "treeSkinnedMesh");
     auto *tabs = find<QTabWidget>(*window, "tabTrees");
@@ -240,26 +230,6 @@ void tst_ViewMenu::selectionIsMarkedAndFramed()
     QVERIFY(orange() > one);
 }
 
-void tst_ViewMenu::thePaletteHasEachOnce()
-{
-    const auto window = open();
-    QStringList names;
-    QStringList commands; ///< without the menus that they stand in
-    const Hand hand({[&](QDialog *dialog) {
-        const auto *list = dialog->findChild<QListWidget *>();
-        for (int row = 0; row < list->count(); ++row) {
-            names << list->item(row)->text();
-            commands << names.last().section(QStringLiteral("▸"), -1);
-        }
-        dialog->reject();
-    }});
-    find<QAction>(*window, "actionCommands")->trigger();
-    names = names.filter(QStringLiteral("View ▸"));
-    QVERIFY(names.size() > 20);
-    for (const QString &name : qAsConst(names))
-        QVERIFY2(commands.count(name.section(QStringLiteral("▸"), -1)) == 1, qPrintable(name));
-}
-
 void tst_ViewMenu::picturesAreSaved()
 {
     MainWindow empty;
@@ -268,7 +238,7 @@ void tst_ViewMenu::picturesAreSaved()
     auto *action = find<QAction>(*window, "actionSavePicture");
     auto *view = find<KVOpenGLWidget>(*window, "viewSkinned");
     QTest::keyClick(view, Qt::Key_Home);
-    const QString path = m_files->filePath(QStringLiteral("shots of it.png"));
+    const QString path = m_files->path(QStringLiteral("shots of it.png"));
     {
         const Hand hand({pictureOf(320, true), Hand::file(path)});
         action->trigger();
@@ -292,10 +262,10 @@ void tst_ViewMenu::picturesAreSaved()
                              box->click();
                              dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save)->click();
                          },
-                         Hand::file(m_files->filePath(QStringLiteral("second")))});
+                         Hand::file(m_files->path("second"))});
         action->trigger();
     }
-    const QImage whole(m_files->filePath(QStringLiteral("second.png")));
+    const QImage whole(m_files->path("second.png"));
     QVERIFY(!whole.hasAlphaChannel());
     QCOMPARE(whole.pixelColor(1, 1), Settings::BGColor.value());
 

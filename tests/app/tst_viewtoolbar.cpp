@@ -2,13 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ViewToolBar.h"
 
-#include "Settings.h"
-#include "TestSupport.h"
-
-#include <QAction>
-#include <QComboBox>
-#include <QPushButton>
-#include <QSlider>
+#include "Find.h"
 
 class tst_ViewToolBar : public QObject
 {

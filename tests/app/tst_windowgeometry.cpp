@@ -2,12 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "WindowGeometry.h"
 
-#include "Settings.h"
-#include "TestSupport.h"
-
-#include <QMainWindow>
-#include <QScreen>
-#include <QWindow>
+#include "Find.h"
 
 class tst_WindowGeometry : public QObject
 {

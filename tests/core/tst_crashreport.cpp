@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "TestSupport.h"
 
-#include <QProcess>
-
 #include <csignal>
 
 class TestCrashReport : public QObject

@@ -18,10 +18,8 @@ private slots:
     void animations();
     void noBones();
     void surfacesAndTextures();
-    void complaints_data();
     void complaints();
     void vertexLimits();
-    void realFiles_data();
     void realFiles();
 
 private:
@@ -191,34 +189,24 @@ void tst_sceneimport::surfacesAndTextures()
     m_kmatPath = QStringLiteral("materials/mat_x.kmat");
 }
 
-void tst_sceneimport::complaints_data()
-{
-    QTest::addColumn<QByteArray>("obj");
-    QTest::addColumn<quint32>("flags");
-    QTest::addColumn<QString>("errors"); ///< a line each, by the alphabet
-    const auto row = [](const char *name, const QByteArray &obj, quint32 flags, const QString &errors) {
-        QTest::newRow(name) << obj << flags << errors;
-    };
-    row("source normals go", triangle + "vn 0 0 1\nf 1/1/1 2/1/1 3/1/1\n", 0,
-        "c.obj Mesh N does not contain any normals");
-    row("stray edges", triangle + "f 1/1 2/1 3/1\nl 1 2\nl 2 3\n", ImportFlags::GenerateNormals,
-        "c.obj Mesh N contains more than 3 indices per face. A face must contain only 3 indices.\n"
-        "c.obj Mesh N does not contain any normals");
-    row("nothing", "# only words, but many of them\n", 0, "c.obj does not contain any meshes");
-    row("no model", "v", 0, "c.obj Could not read file. OBJ-file is too small.");
-}
-
 void tst_sceneimport::complaints()
 {
-    QFETCH(QByteArray, obj);
-    QFETCH(quint32, flags);
-    QFETCH(QString, errors);
-    importSkinned(m_folder.put("c.obj", obj), flags);
-    QStringList found = lines(LogSeverity::Error);
-    // Points and lines come before or after the triangles as the library likes.
-    found.replaceInStrings(QRegularExpression(QStringLiteral("Mesh \\d")), QStringLiteral("Mesh N"));
-    found.sort();
-    QCOMPARE(found.join(QLatin1Char('\n')), errors);
+    // A line each, by the alphabet.
+    const auto check = [this](const QByteArray &obj, quint32 flags, const QString &errors) {
+        importSkinned(m_folder.put("c.obj", obj), flags);
+        QStringList found = lines(LogSeverity::Error);
+        // Points and lines come before or after the triangles as the library likes.
+        found.replaceInStrings(QRegularExpression(QStringLiteral("Mesh \\d")), QStringLiteral("Mesh N"));
+        found.sort();
+        QCOMPARE(found.join(QLatin1Char('\n')), errors);
+    };
+    // Its own normals go.
+    check(triangle + "vn 0 0 1\nf 1/1/1 2/1/1 3/1/1\n", 0, "c.obj Mesh N does not contain any normals");
+    check(triangle + "f 1/1 2/1 3/1\nl 1 2\nl 2 3\n", ImportFlags::GenerateNormals,
+          "c.obj Mesh N contains more than 3 indices per face. A face must contain only 3 indices.\n"
+          "c.obj Mesh N does not contain any normals");
+    check("# only words, but many of them\n", 0, "c.obj does not contain any meshes");
+    check("v", 0, "c.obj Could not read file. OBJ-file is too small.");
 }
 
 void tst_sceneimport::vertexLimits()
@@ -245,47 +233,39 @@ void tst_sceneimport::vertexLimits()
     QCOMPARE(int(last), 65535);
 }
 
-void tst_sceneimport::realFiles_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<int>("bones");
-    QTest::addColumn<int>("animations");
-    QTest::addColumn<int>("frames");
-    QTest::addColumn<int>("twice"); ///< nodes that bear the name of a bone, so that the import fails
-    // Nodes 2 to 25 of the file, below _rootJoint, the child of the scene's root. 3.4166667, 0.7083333 and
-    // 1.1583333 seconds, in whole milliseconds, plus one each.
-    QTest::newRow("fox") << "gltf_fox/Fox.gltf" << 24 << 3 << 3417 + 709 + 1159 << 0;
-    // Nodes 0 to 49 hang on "root": 41 joints, five things in the left hand, two in the right, a helmet and a
-    // cape.
-    QTest::newRow("knight") << "glb_knight/Knight.glb" << 50 << 76 << 91452 << 0;
-    // The file's 73 models are RobotArmature with 70 below it and two hands beside it. The stop times of its
-    // animation stacks are in twenty-fourths of a second.
-    QTest::newRow("robot") << "fbx_bin_robot/Robot.fbx" << 71 << 14
-                           << 14 + 80 + 23 + 80 + 17 + 40 + 20 + 23 + 10 + 10 + 38 + 23 + 20 + 44 + 40 << 8;
-}
-
 void tst_sceneimport::realFiles()
 {
     SKIP_WITHOUT_SHARED("models");
-    QFETCH(QString, path);
-    QFETCH(int, twice);
-    importSkinned(TestSupport::shared(QStringLiteral("models/") + path));
-    QCOMPARE(lines(LogSeverity::Error).filter(QRegularExpression("^Node .* already exists\\.$")).size(),
-             twice);
-    QCOMPARE(lines(LogSeverity::Error).size(), twice);
-    QTEST(int(m_mesh.nodes.size()), "bones");
-    // The bones are listed depth first.
-    for (size_t i = 0; i < m_mesh.nodes.size(); ++i) {
-        const std::vector<quint16> &children = m_mesh.nodes[i].childNodes;
-        QVERIFY(children.empty() || children.front() == i + 1);
-        for (const quint16 child : children)
-            QVERIFY(child < m_mesh.nodes.size() && (twice || m_mesh.nodes[child].parentNode == i));
-    }
-    QTEST(int(m_anim.blocks.size()), "animations");
-    int frames = 0;
-    for (const AnimBlock &block : m_anim.blocks)
-        frames += block.frameCount();
-    QTEST(frames, "frames");
+    // `twice` is the number of nodes that bear the name of a bone, so that the import fails.
+    const auto check = [this](const char *path, size_t bones, size_t animations, int frames, int twice) {
+        importSkinned(TestSupport::shared(QStringLiteral("models/") + path));
+        const QStringList errors = lines(LogSeverity::Error);
+        QCOMPARE(errors.filter(QRegularExpression("^Node .* already exists\\.$")).size(), twice);
+        QCOMPARE(errors.size(), twice);
+        QCOMPARE(m_mesh.nodes.size(), bones);
+        // The bones are listed depth first.
+        for (size_t i = 0; i < bones; ++i) {
+            const std::vector<quint16> &children = m_mesh.nodes[i].childNodes;
+            QVERIFY(children.empty() || children.front() == i + 1);
+            for (const quint16 child : children)
+                QVERIFY(child < bones && (twice || m_mesh.nodes[child].parentNode == i));
+        }
+        QCOMPARE(m_anim.blocks.size(), animations);
+        int all = 0;
+        for (const AnimBlock &block : m_anim.blocks)
+            all += block.frameCount();
+        QCOMPARE(all, frames);
+    };
+    // Nodes 2 to 25 of the file, below _rootJoint, the child of the scene's root. 3.4166667, 0.7083333 and
+    // 1.1583333 seconds, in whole milliseconds, plus one each.
+    check("gltf_fox/Fox.gltf", 24, 3, 3417 + 709 + 1159, 0);
+    // Nodes 0 to 49 hang on "root": 41 joints, five things in the left hand, two in the right, a helmet and a
+    // cape.
+    check("glb_knight/Knight.glb", 50, 76, 91452, 0);
+    // The file's 73 models are RobotArmature with 70 below it and two hands beside it. The stop times of its
+    // animation stacks are in twenty-fourths of a second.
+    const int frames = 14 + 80 + 23 + 80 + 17 + 40 + 20 + 23 + 10 + 10 + 38 + 23 + 20 + 44 + 40;
+    check("fbx_bin_robot/Robot.fbx", 71, 14, frames, 8);
 }
 
 QTEST_GUILESS_MAIN(tst_sceneimport)

@@ -3,34 +3,36 @@
 #include "KMat.h"
 #include "TestSupport.h"
 
-Q_DECLARE_METATYPE(MaterialTable)
-
 /// .kmat files: which words make a material and its texture, and the exact text written.
 class TestKMat : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void reads_data();
     void reads();
     void candidates();
     void writesTheTemplate();
 
 private:
-    QTemporaryDir m_folder;
+    const TestFolder m_folder;
 };
 
-void TestKMat::reads_data()
+void TestKMat::reads()
 {
-    // The path of the file follows an error.
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<MaterialTable>("table");
-    QTest::addColumn<QString>("error");
-    const auto good = [](const char *name, const QByteArray &text, const MaterialTable &table) {
-        QTest::newRow(name) << text << table << QString();
+    const QString path = m_folder.path("%2 mat.kmat");
+    const auto check = [&](const char *name, const QByteArray &text, const MaterialTable &table,
+                           const QString &error) {
+        m_folder.put("%2 mat.kmat", text);
+        MaterialTable read{{QStringLiteral("of an earlier file"), QString()}};
+        QCOMPARE(name + readKMat(path, read), name + error);
+        QVERIFY2(read == table, name);
     };
-    const auto bad = [](const char *name, const QByteArray &text, const QByteArray &error) {
-        QTest::newRow(name) << text << MaterialTable() << QString::fromUtf8(error);
+    const auto good = [&](const char *name, const QByteArray &text, const MaterialTable &table) {
+        check(name, text, table, {});
+    };
+    // The path of the file follows an error.
+    const auto bad = [&](const char *name, const QByteArray &text, const QByteArray &error) {
+        check(name, text, {}, error + path);
     };
     const auto twice = [](const char *name) {
         return QByteArray(".kMat file has a material with the same name - ") + name +
@@ -78,33 +80,20 @@ void TestKMat::reads_data()
     good("ordered by text", "material surf_2\nmaterial surf_10", {{"surf_10", ""}, {"surf_2", ""}});
 }
 
-void TestKMat::reads()
-{
-    QFETCH(QByteArray, text);
-    QFETCH(MaterialTable, table);
-    QFETCH(QString, error);
-    const QString path = m_folder.filePath(QStringLiteral("%2 mat.kmat"));
-    QVERIFY(TestSupport::writeFile(path, text));
-    MaterialTable read{{QStringLiteral("of an earlier file"), QString()}};
-    QCOMPARE(readKMat(path, read), error.isEmpty() ? QString() : error + path);
-    QVERIFY(read == table);
-}
-
 void TestKMat::candidates()
 {
-    const QString first = m_folder.filePath(QStringLiteral("first.kmat"));
-    const QString second = m_folder.filePath(QStringLiteral("second.kmat"));
-    QVERIFY(TestSupport::writeFile(second, "material second"));
+    const QString first = m_folder.path("first.kmat");
+    const QString second = m_folder.put("second.kmat", "material second");
     MaterialTable table;
     QCOMPARE(readKMat(QStringList{first, second}, table), QString());
     QCOMPARE(table.count(QStringLiteral("second")), size_t(1));
 
     // An invalid first file is not passed over.
-    QVERIFY(TestSupport::writeFile(first, "sampler d 0 t"));
+    m_folder.put("first.kmat", "sampler d 0 t");
     QVERIFY(readKMat(QStringList{first, second}, table).endsWith(first));
     QVERIFY(table.empty());
 
-    const QString missing = m_folder.filePath(QStringLiteral("missing.kmat"));
+    const QString missing = m_folder.path(QStringLiteral("missing.kmat"));
     for (const QStringList &paths : {QStringList{missing}, QStringList{missing + "1", m_folder.path()}}) {
         QCOMPARE(readKMat(paths, table), QStringLiteral("Unable to read .kMat file at %1").arg(paths.last()));
     }
@@ -112,7 +101,7 @@ void TestKMat::candidates()
 
 void TestKMat::writesTheTemplate()
 {
-    const QString path = m_folder.filePath(QStringLiteral("written.kmat"));
+    const QString path = m_folder.path(QStringLiteral("written.kmat"));
     const auto entry = [](const QByteArray &name, const QByteArray &texture) {
         return "material " + name +
                " {\n"

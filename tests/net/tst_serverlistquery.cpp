@@ -20,7 +20,6 @@ private slots:
     void asksAndCollects();
     void onlyServersOfTheMasterCount();
     void floodIsCapped();
-    void failures_data();
     void failures();
     void beginsAnew();
 
@@ -141,40 +140,31 @@ void tst_ServerListQuery::floodIsCapped()
     QCOMPARE(m_log.last(), QStringLiteral("1 [Query Servers] Stopped at 4096 servers"));
 }
 
-void tst_ServerListQuery::failures_data()
-{
-    QTest::addColumn<QString>("host");
-    QTest::addColumn<QString>("failure");
-    QTest::addColumn<QStringList>("log"); // how its lines begin
-    const auto row = [](const char *name, const char *host, const char *failure, const QStringList &log) {
-        QTest::newRow(name) << QString(host) << QString(failure) << log;
-    };
-    row("no host", "", "No master server is set.", {"1 [Query Servers] No master server is set"});
-    row("unknown host", "no%1such.invalid", "The master server no%1such.invalid was not found.",
-        {"0 Failed to obtain address from no%1such.invalid - ", "0 T2ServerNameToIP failed:"});
-    row("no answer", "localhost", "The master server did not answer.",
-        {"2 Found address: ", "2 sending server list request 0b", "2 updResult = 11"});
-}
-
 void tst_ServerListQuery::failures()
 {
-    QFETCH(QString, host);
-    QFETCH(QString, failure);
-    QFETCH(QStringList, log);
-    m_master->close();
-    Settings::MasterServerHost.setValue(host);
-    ServerListQuery query;
-    query.setPatience(50, 50);
-    query.query();
-    QVERIFY(end(query, 30000));
-    QCOMPARE(query.state(), State::Failed);
-    QVERIFY2(query.failure().startsWith(failure), qPrintable(query.failure()));
-    // A name may stand for several addresses.
-    while (m_log.size() > log.size() && m_log[1].startsWith(QLatin1String("2 Found address")))
-        m_log.removeAt(1);
-    QCOMPARE(m_log.size(), log.size());
-    for (int i = 0; i < log.size(); ++i)
-        QVERIFY2(m_log[i].startsWith(log[i]), qPrintable(m_log[i]));
+    // How the lines of the log begin.
+    const auto check = [this](const QString &host, const char *failure, const QStringList &log) {
+        init();
+        m_master->close();
+        Settings::MasterServerHost.setValue(host);
+        ServerListQuery query;
+        query.setPatience(50, 50);
+        query.query();
+        QVERIFY(end(query, 30000));
+        QCOMPARE(query.state(), State::Failed);
+        QVERIFY2(query.failure().startsWith(failure), qPrintable(query.failure()));
+        // A name may stand for several addresses.
+        while (m_log.size() > log.size() && m_log[1].startsWith(QLatin1String("2 Found address")))
+            m_log.removeAt(1);
+        QCOMPARE(m_log.size(), log.size());
+        for (int i = 0; i < log.size(); ++i)
+            QVERIFY2(m_log[i].startsWith(log[i]), qPrintable(m_log[i]));
+    };
+    check("", "No master server is set.", {"1 [Query Servers] No master server is set"});
+    check("no%1such.invalid", "The master server no%1such.invalid was not found.",
+          {"0 Failed to obtain address from no%1such.invalid - ", "0 T2ServerNameToIP failed:"});
+    check("localhost", "The master server did not answer.",
+          {"2 Found address: ", "2 sending server list request 0b", "2 updResult = 11"});
 }
 
 void tst_ServerListQuery::beginsAnew()

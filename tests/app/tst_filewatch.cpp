@@ -4,6 +4,7 @@
 #include "NoticeBar.h"
 #include "OneRun.h"
 #include "ReloadPrompt.h"
+#include "SampleModels.h"
 
 namespace {
 SkinnedMesh manWithFactor(int factor)
@@ -14,16 +15,12 @@ SkinnedMesh manWithFactor(int factor)
 }
 } // namespace
 
-using Change = std::function<void(const QString &path)>;
-Q_DECLARE_METATYPE(Change)
-
 class TestFileWatch : public QObject
 {
     Q_OBJECT
 
 private slots:
     void init();
-    void anotherProgramsChangeIsTold_data();
     void anotherProgramsChangeIsTold();
     void ownSavesAreNot();
     void aFileIsWaitedFor();
@@ -31,8 +28,9 @@ private slots:
     void aFileThatCannotBeReadChangesNothing();
 
 private:
-    QString path() const { return m_folder->filePath(QStringLiteral("man.skinnedmesh")); }
+    QString path() const { return m_folder->path(QStringLiteral("man.skinnedmesh")); }
     QPushButton *button(const char *name) const { return find<QPushButton>(*m_bar, name); }
+    void writeWithFactor(int factor) const { m_folder->save("man.skinnedmesh", manWithFactor(factor)); }
     int factor() const { return m_run->mesh.model().headTrackFactor; }
     void tick() const
     {
@@ -40,16 +38,17 @@ private:
         QTest::qWait(20);
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::optional<TestFolder> m_folder;
     std::unique_ptr<OneRun> m_run;
     NoticeBar *m_bar = nullptr;
 };
 
 void TestFileWatch::init()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(!manWithFactor(1).write(path()));
-    m_run = std::make_unique<OneRun>(m_folder->filePath(QStringLiteral("recovery")));
+    m_run.reset();
+    m_folder.emplace();
+    writeWithFactor(1);
+    m_run = std::make_unique<OneRun>(m_folder->path(QStringLiteral("recovery")));
     auto *place = new QVBoxLayout(&m_run->window);
     new ReloadPrompt(m_run->files, place, &m_run->window);
     m_bar = m_run->window.findChild<NoticeBar *>(QStringLiteral("barReload_skinnedmesh"));
@@ -58,45 +57,37 @@ void TestFileWatch::init()
     tick();
 }
 
-void TestFileWatch::anotherProgramsChangeIsTold_data()
-{
-    QTest::addColumn<Change>("change");
-    QTest::newRow("another file in its place")
-        << Change([](const QString &path) { QVERIFY(!manWithFactor(2).write(path)); });
-    QTest::newRow("written in place") << Change([](const QString &path) {
-        QVERIFY(!manWithFactor(2).write(path + QLatin1Char('x')));
-        QVERIFY(TestSupport::writeFile(path, TestSupport::readFile(path + QLatin1Char('x'))));
-    });
-    QTest::newRow("removed and made anew") << Change([](const QString &path) {
-        QVERIFY(QFile::remove(path));
-        QTest::qWait(50);
-        QVERIFY(!manWithFactor(2).write(path));
-    });
-    QTest::newRow("removed, seen, made anew") << Change([](const QString &path) {
-        QVERIFY(QFile::remove(path));
-        QTest::qWait(2 * FileWatch::RestMs);
-        QVERIFY(!manWithFactor(2).write(path));
-    });
-}
-
 void TestFileWatch::anotherProgramsChangeIsTold()
 {
-    QFETCH(Change, change);
-    change(path());
-    QTRY_VERIFY(m_bar->text().endsWith(QStringLiteral("' was changed by another program.")));
-    QVERIFY(m_bar->isVisible() && button("btnReload")->isVisible());
-    QCOMPARE(factor(), 1);
-    // What was kept, or reloaded, is watched on.
-    button("btnKeep")->click();
-    QVERIFY(m_bar->isHidden());
-    QVERIFY(m_run->mesh.isModified());
-    tick();
-    QVERIFY(!manWithFactor(3).write(path()));
-    QTRY_VERIFY(m_bar->isVisible());
-    Hand hand({Hand::press(QMessageBox::Yes)});
-    button("btnReload")->click();
-    QCOMPARE(factor(), 3);
-    QVERIFY(m_bar->isHidden() && !m_run->mesh.isModified());
+    const auto check = [this](const std::function<void()> &change) {
+        init();
+        change();
+        QTRY_VERIFY(m_bar->text().endsWith(QStringLiteral("' was changed by another program.")));
+        QVERIFY(m_bar->isVisible() && button("btnReload")->isVisible());
+        QCOMPARE(factor(), 1);
+        // What was kept, or reloaded, is watched on.
+        button("btnKeep")->click();
+        QVERIFY(m_bar->isHidden());
+        QVERIFY(m_run->mesh.isModified());
+        tick();
+        writeWithFactor(3);
+        QTRY_VERIFY(m_bar->isVisible());
+        Hand hand({Hand::press(QMessageBox::Yes)});
+        button("btnReload")->click();
+        QCOMPARE(factor(), 3);
+        QVERIFY(m_bar->isHidden() && !m_run->mesh.isModified());
+    };
+    // Another file in its place, and the same file written.
+    check([this] { writeWithFactor(2); });
+    check([this] { m_folder->put("man.skinnedmesh", SampleModels::bytesOf(manWithFactor(2))); });
+    // Removed and made anew, at once and after that was seen.
+    for (const int rest : {50, 2 * FileWatch::RestMs}) {
+        check([this, rest] {
+            QVERIFY(QFile::remove(path()));
+            QTest::qWait(rest);
+            writeWithFactor(2);
+        });
+    }
 }
 
 void TestFileWatch::ownSavesAreNot()
@@ -120,8 +111,7 @@ void TestFileWatch::ownSavesAreNot()
 
 void TestFileWatch::aFileIsWaitedFor()
 {
-    QVERIFY(!manWithFactor(2).write(m_folder->filePath(QStringLiteral("new"))));
-    const QByteArray bytes = TestSupport::readFile(m_folder->filePath(QStringLiteral("new")));
+    const QByteArray bytes = SampleModels::bytesOf(manWithFactor(2));
     QFile file(path());
     QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
     // Longer than the rest time in all, with pauses that are shorter.
@@ -140,7 +130,7 @@ void TestFileWatch::aFileIsWaitedFor()
 void TestFileWatch::reloadAsksAboutChanges()
 {
     m_run->edit(9);
-    QVERIFY(!manWithFactor(2).write(path()));
+    writeWithFactor(2);
     QTRY_VERIFY(m_bar->isVisible());
     {
         Hand hand({Hand::press(QMessageBox::No)});
@@ -158,7 +148,7 @@ void TestFileWatch::reloadAsksAboutChanges()
 
 void TestFileWatch::aFileThatCannotBeReadChangesNothing()
 {
-    QVERIFY(TestSupport::writeFile(path(), "not a mesh"));
+    m_folder->put("man.skinnedmesh", "not a mesh");
     QTRY_VERIFY(m_bar->isVisible());
     Hand hand({Hand::press(QMessageBox::Ok)});
     button("btnReload")->click();

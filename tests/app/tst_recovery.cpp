@@ -31,9 +31,6 @@ struct Bar
 };
 } // namespace
 
-using Act = std::function<void(OneRun &)>;
-Q_DECLARE_METATYPE(Act)
-
 class TestRecovery : public QObject
 {
     Q_OBJECT
@@ -41,7 +38,6 @@ class TestRecovery : public QObject
 private slots:
     void init();
     void cleanup();
-    void workIsKept_data();
     void workIsKept();
     void savedOrUndoneWorkIsNot();
     void restoredWorkIsModifiedUntilSaved();
@@ -56,8 +52,8 @@ private slots:
     void theDialogLists();
 
 private:
-    QString root() const { return m_folder->filePath(QStringLiteral("state/recovery")); }
-    QString manPath() const { return m_folder->filePath(QStringLiteral("man.skinnedmesh")); }
+    QString root() const { return m_folder->path(QStringLiteral("state/recovery")); }
+    QString manPath() const { return m_folder->path(QStringLiteral("man.skinnedmesh")); }
     QStringList kept() const
     {
         QStringList files;
@@ -83,15 +79,14 @@ private:
         return found.size() == 1 && run.recovery->restore(found[0]) == Recovery::Outcome::Restored;
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::optional<ProgramFolder> m_folder;
     QStringList m_log;
 };
 
 void TestRecovery::init()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
-    TestSupport::useSettingsHome(*m_folder);
-    QVERIFY(!triangleMan().write(manPath()));
+    m_folder.emplace();
+    m_folder->save("man.skinnedmesh", triangleMan());
     m_log.clear();
     Log::setSink([this](LogSeverity, const QString &text) { m_log += text; });
 }
@@ -101,67 +96,60 @@ void TestRecovery::cleanup()
     Log::setSink({});
 }
 
-void TestRecovery::workIsKept_data()
+void TestRecovery::workIsKept()
 {
-    QTest::addColumn<Act>("act");
-    QTest::addColumn<QString>("name");
-    const auto row = [](const char *how, const char *name, const Act &act) {
-        QTest::newRow(how) << act << QString::fromLatin1(name);
+    const auto check = [this](const char *how, const QString &name,
+                              const std::function<void(OneRun &)> &act) {
+        init();
+        {
+            OneRun run(root());
+            run.openMesh(manPath());
+            act(run);
+        }
+        SnapshotStore next(root());
+        const QVector<Snapshot> found = next.snapshots();
+        QVERIFY2(found.size() == 1, how);
+        QCOMPARE(found[0].name, name);
+        const bool isSaved = found[0].type != DocumentType::StaticMesh;
+        QCOMPARE(found[0].sourcePath, isSaved ? m_folder->path(name) : QString());
+        QVERIFY(qAbs(found[0].time.secsTo(QDateTime::currentDateTime())) < 60);
+        SkinnedMesh man = triangleMan();
+        man.headTrackFactor = 7;
+        AnimFile walk = twoBlocks();
+        walk.blocks[0].setFrameCount(40);
+        const QByteArray expected[] = {bytesOf(man), bytesOf(walk), bytesOf(SampleModels::staticMesh())};
+        QByteArray bytes;
+        QVERIFY2(!next.read(found[0], &bytes), how);
+        QVERIFY2(bytes == expected[int(found[0].type)], how);
+        QCOMPARE(m_log, QStringList());
     };
-    row("edited", "man.skinnedmesh", [](OneRun &run) {
+    check("edited", "man.skinnedmesh", [](OneRun &run) {
         run.edit(7);
         run.settle();
     });
-    row("replaced at once", "man.skinnedmesh", [this](OneRun &run) {
+    check("replaced at once", "man.skinnedmesh", [this](OneRun &run) {
         run.edit(7);
         run.openMesh(manPath());
         run.settle();
     });
-    row("window closed at once", "man.skinnedmesh", [](OneRun &run) {
+    check("window closed at once", "man.skinnedmesh", [](OneRun &run) {
         run.edit(7);
         run.window.show();
         run.window.close();
     });
-    row("changed without an undo step, then edited and undone", "walk.anim", [this](OneRun &run) {
+    check("changed without an undo step, then edited and undone", "walk.anim", [this](OneRun &run) {
         run.anim.take(twoBlocks(), QStringLiteral("x"));
-        QVERIFY(!run.anim.save(m_folder->filePath(QStringLiteral("walk.anim"))));
+        QVERIFY(!run.anim.save(m_folder->path(QStringLiteral("walk.anim"))));
         run.anim.model().blocks[0].setFrameCount(40);
         run.anim.changedDirectly({{RecordKind::AnimBlock, {}}, 0, {}});
         run.anim.undoStack()->push(new UC_AnimBlockAnimID(run.anim.editTarget(), {}, 9));
         run.anim.undoStack()->undo();
         run.settle();
     });
-    row("never saved", "box.staticmesh", [](OneRun &run) {
+    check("never saved", "box.staticmesh", [](OneRun &run) {
         run.rigid.take(SampleModels::staticMesh(), QStringLiteral("box"));
         run.settle();
     });
-}
-
-void TestRecovery::workIsKept()
-{
-    QFETCH(Act, act);
-    QFETCH(QString, name);
-    {
-        OneRun run(root());
-        run.openMesh(manPath());
-        act(run);
-    }
-    SnapshotStore next(root());
-    const QVector<Snapshot> found = next.snapshots();
-    QCOMPARE(found.size(), 1);
-    QCOMPARE(found[0].name, name);
-    const bool isSaved = found[0].type != DocumentType::StaticMesh;
-    QCOMPARE(found[0].sourcePath, isSaved ? m_folder->filePath(name) : QString());
-    QVERIFY(qAbs(found[0].time.secsTo(QDateTime::currentDateTime())) < 60);
-    SkinnedMesh man = triangleMan();
-    man.headTrackFactor = 7;
-    AnimFile walk = twoBlocks();
-    walk.blocks[0].setFrameCount(40);
-    const QByteArray expected[] = {bytesOf(man), bytesOf(walk), bytesOf(SampleModels::staticMesh())};
-    QByteArray bytes;
-    QVERIFY(!next.read(found[0], &bytes));
-    QCOMPARE(bytes, expected[int(found[0].type)]);
-    QCOMPARE(m_log, QStringList());
 }
 
 void TestRecovery::savedOrUndoneWorkIsNot()
@@ -183,7 +171,7 @@ void TestRecovery::savedOrUndoneWorkIsNot()
 
     run.mesh.undoStack()->redo();
     QCOMPARE(keptNow(), 1);
-    QVERIFY(run.mesh.save(m_folder->filePath(QStringLiteral("none/man.skinnedmesh"))));
+    QVERIFY(run.mesh.save(m_folder->path(QStringLiteral("none/man.skinnedmesh"))));
     QCOMPARE(keptNow(), 1);
     QVERIFY(!run.mesh.save(manPath()));
     QCOMPARE(keptNow(), 0);
@@ -191,7 +179,7 @@ void TestRecovery::savedOrUndoneWorkIsNot()
     // A clean stack says nothing of a model that was never saved.
     run.rigid.take(SampleModels::staticMesh(), QStringLiteral("box"));
     QCOMPARE(keptNow(), 1);
-    QVERIFY(!run.rigid.save(m_folder->filePath(QStringLiteral("box.staticmesh"))));
+    QVERIFY(!run.rigid.save(m_folder->path(QStringLiteral("box.staticmesh"))));
     QCOMPARE(keptNow(), 0);
 }
 

@@ -21,7 +21,6 @@ private slots:
     void filesThatChangedOrWent();
     void filesOfTheCommandLineWin();
     void keptWorkComesBackOverTheSession();
-    void anySessionMayBeStored_data();
     void anySessionMayBeStored();
 
 private:
@@ -163,67 +162,62 @@ void tst_Session::keptWorkComesBackOverTheSession()
     QCOMPARE(find<QSpinBox>(window, "sbSMHTFactor")->value(), 9);
 }
 
-void tst_Session::anySessionMayBeStored_data()
+void tst_Session::anySessionMayBeStored()
 {
-    QTest::addColumn<QVariantMap>("damage"); ///< instead of what was stored, whole or within a file's map
+    // What stands there instead of what was stored, whole or within a file's map.
+    const auto check = [this](const char *name, const QVariantMap &damage) {
+        init();
+        Started({m_mesh, m_anim, m_rigid}).close();
+        QVariantMap state = Settings::Session.value();
+        for (auto it = damage.constBegin(); it != damage.constEnd(); ++it) {
+            QVERIFY2(state.contains(it.key()), qPrintable(it.key()));
+            QVariantMap file = state[it.key()].toMap();
+            const QVariantMap instead = it.value().toMap();
+            for (auto part = instead.constBegin(); part != instead.constEnd(); ++part) {
+                QVERIFY2(file.contains(part.key()), qPrintable(part.key()));
+                file.insert(part.key(), part.value());
+            }
+            state.insert(it.key(), instead.isEmpty() ? it.value() : file);
+        }
+        Settings::Session.setValue(state);
+        const Hand hand({});
+        Started window;
+        QTest::qWait(20);
+        QVERIFY2(hand.seen.isEmpty(), name);
+        QCOMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
+        for (auto *tree : window.findChildren<KVTreeView *>())
+            QVERIFY2(!tree->topLevelItem(0) || tree->currentRecord().kind != RecordKind::None, name);
+        for (const char *view : {"viewSkinned", "viewStatic"}) {
+            const QVector3D place = find<KVOpenGLWidget>(window, view)->camera().position();
+            QVERIFY2(std::isfinite(place.x()) && place.length() < 1e7f, name);
+        }
+    };
     const double infinity = std::numeric_limits<double>::infinity();
     constexpr int most = std::numeric_limits<int>::max();
     constexpr int least = std::numeric_limits<int>::min();
     const auto record = [](const QVariantList &numbers) {
         return QVariantMap{{"record", QVariant(numbers)}};
     };
-    QTest::newRow("values of other types")
-        << QVariantMap{{"viewSkinned", QVariantList{"a", "b", "c", "d", "e"}},
-                       {"viewStatic", "far"},
-                       {"block", "first"},
-                       {"tabWidget", "tabNone"},
-                       {"tabTrees", QVariantList{1, 2}},
-                       {"anim", 17}};
-    QTest::newRow("beyond the end") << QVariantMap{
-        {"viewSkinned", QVariantList{infinity, 0, qQNaN(), 0, 0}},
-        {"viewStatic", QVariantList{1e30, 0, 0, 0, 0}},
-        {"block", most},
-        {"anim", record({int(RecordKind::AnimAction), most, -1, 0})}};
-    QTest::newRow("below the start") << QVariantMap{
-        {"viewSkinned", QVariantList{1}},
-        {"viewStatic", QVariantList()},
-        {"block", least},
-        {"anim", record({int(RecordKind::AnimBlock), least, least, least})}};
+    check("values of other types", {{"viewSkinned", QVariantList{"a", "b", "c", "d", "e"}},
+                                    {"viewStatic", "far"},
+                                    {"block", "first"},
+                                    {"tabWidget", "tabNone"},
+                                    {"tabTrees", QVariantList{1, 2}},
+                                    {"anim", 17}});
+    check("beyond the end", {{"viewSkinned", QVariantList{infinity, 0, qQNaN(), 0, 0}},
+                             {"viewStatic", QVariantList{1e30, 0, 0, 0, 0}},
+                             {"block", most},
+                             {"anim", record({int(RecordKind::AnimAction), most, -1, 0})}});
+    check("below the start", {{"viewSkinned", QVariantList{1}},
+                              {"viewStatic", QVariantList()},
+                              {"block", least},
+                              {"anim", record({int(RecordKind::AnimBlock), least, least, least})}});
     for (const char *path : {"/", "/dev/zero"})
-        QTest::newRow(path) << QVariantMap{{"anim", QVariantMap{{"path", path}}}};
+        check(path, {{"anim", QVariantMap{{"path", path}}}});
     // None, an unknown one, and one of another tree.
-    QTest::newRow("odd kinds") << QVariantMap{{"skinnedmesh", record({0, 0, 0, 0})},
-                                              {"anim", record({999, 0, 0, 0})},
-                                              {"staticmesh", record({int(RecordKind::Bone), 1, 0, 0})}};
-}
-
-void tst_Session::anySessionMayBeStored()
-{
-    QFETCH(QVariantMap, damage);
-    Started({m_mesh, m_anim, m_rigid}).close();
-    QVariantMap state = Settings::Session.value();
-    for (auto it = damage.constBegin(); it != damage.constEnd(); ++it) {
-        QVERIFY2(state.contains(it.key()), qPrintable(it.key()));
-        QVariantMap file = state[it.key()].toMap();
-        const QVariantMap instead = it.value().toMap();
-        for (auto part = instead.constBegin(); part != instead.constEnd(); ++part) {
-            QVERIFY2(file.contains(part.key()), qPrintable(part.key()));
-            file.insert(part.key(), part.value());
-        }
-        state.insert(it.key(), instead.isEmpty() ? it.value() : file);
-    }
-    Settings::Session.setValue(state);
-    const Hand hand({});
-    Started window;
-    QTest::qWait(20);
-    QCOMPARE(hand.seen, QStringList());
-    QCOMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
-    for (auto *tree : window.findChildren<KVTreeView *>())
-        QVERIFY(!tree->topLevelItem(0) || tree->currentRecord().kind != RecordKind::None);
-    for (const char *view : {"viewSkinned", "viewStatic"}) {
-        const QVector3D place = find<KVOpenGLWidget>(window, view)->camera().position();
-        QVERIFY(std::isfinite(place.x()) && place.length() < 1e7f);
-    }
+    check("odd kinds", {{"skinnedmesh", record({0, 0, 0, 0})},
+                        {"anim", record({999, 0, 0, 0})},
+                        {"staticmesh", record({int(RecordKind::Bone), 1, 0, 0})}});
 }
 
 QTEST_MAIN(tst_Session)

@@ -31,21 +31,17 @@ AnimFile animFile()
 }
 } // namespace
 
-Q_DECLARE_METATYPE(RecordRef)
-
 class tst_StructureActions : public QObject
 {
     Q_OBJECT
 
 private slots:
     void init();
-    void keys_data();
     void keys();
     void newBlocks();
     void oneNoticeAStep();
     void copiesSurviveAnotherDocument();
     void openBranchesStayOpen();
-    void menus_data();
     void menus();
     void branches();
     void counts();
@@ -100,65 +96,52 @@ void tst_StructureActions::init()
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
 }
 
-void tst_StructureActions::keys_data()
-{
-    QTest::addColumn<RecordRef>("copied"); // with Ctrl+C, before the rest
-    QTest::addColumn<RecordRef>("current");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("step");   // empty: nothing happens
-    QTest::addColumn<RecordRef>("next"); // what is current then
-    const auto add = [](const char *name, const RecordRef &copied, const RecordRef &current, const char *key,
-                        const char *step, const RecordRef &next) {
-        QTest::newRow(name) << copied << current << QString::fromLatin1(key) << QString::fromLatin1(step)
-                            << next;
-    };
-    const RecordRef nothing;
-    add("hot point, group", nothing, ref(K::HotPoints), "Ins", "Add Hot Point", ref(K::HotPoint, 0));
-    add("hot point, behind", nothing, ref(K::HotPoint, 1), "Ins", "Add Hot Point", ref(K::HotPoint, 2));
-    add("hot point, remove", nothing, ref(K::HotPoint, 0), "Del", "Remove Hot Point", ref(K::HotPoint, 0));
-    add("hot point, paste", ref(K::HotPoint, 1), ref(K::HotPoint, 0), "Ctrl+V", "Paste Hot Point",
-        ref(K::HotPoint, 1));
-    add("hot point, paste first", ref(K::HotPoint, 1), ref(K::HotPoints), "Ctrl+V", "Paste Hot Point",
-        ref(K::HotPoint, 0));
-    add("hot point, nothing copied", nothing, ref(K::HotPoint, 0), "Ctrl+V", "", ref(K::HotPoint, 0));
-    add("bone, remove", nothing, ref(K::Bone, 1), "Del", "", ref(K::Bone, 1));
-
-    add("block, root", nothing, ref(K::AnimFile), "Ins", "Add Animation", ref(K::AnimBlock, 0));
-    add("block, behind", nothing, ref(K::AnimBlock, 1), "Ins", "Add Animation", ref(K::AnimBlock, 2));
-    add("block, remove", nothing, ref(K::AnimBlock, 2), "Del", "Remove Animation", ref(K::AnimBlock, 1));
-    add("block, paste first", ref(K::AnimBlock, 2), ref(K::AnimFile), "Ctrl+V", "Paste Animation",
-        ref(K::AnimBlock, 0));
-    add("block, paste", ref(K::AnimBlock, 0), ref(K::AnimBlock, 2), "Ctrl+V", "Paste Animation",
-        ref(K::AnimBlock, 3));
-    add("block, on a frame", ref(K::AnimBlock, 0), ref(K::AnimFrame, 1, 2), "Ctrl+V", "",
-        ref(K::AnimFrame, 1, 2));
-    add("action, group", nothing, ref(K::AnimActions, 1), "Ins", "Add Key Frame Action",
-        ref(K::AnimAction, 1, 0));
-    add("action, behind", nothing, ref(K::AnimAction, 1, 1), "Ins", "Add Key Frame Action",
-        ref(K::AnimAction, 1, 2));
-    add("action, remove", nothing, ref(K::AnimAction, 2, 0), "Del", "Remove Key Frame Action",
-        ref(K::AnimAction, 2, 0));
-}
-
 void tst_StructureActions::keys()
 {
-    QFETCH(RecordRef, copied);
-    QFETCH(RecordRef, current);
-    QFETCH(QString, key);
-    QFETCH(QString, step);
-    QFETCH(RecordRef, next);
-    if (copied.kind != K::None)
-        QTest::keySequence(select(copied), QKeySequence::Copy);
-    KVTreeView *tree = select(current);
-    const QUndoStack &stack = isOfMesh(current) ? mesh().undo() : anim().undo();
-    const auto bytes = [&] { return isOfMesh(current) ? mesh().bytes() : anim().bytes(); };
-    const QByteArray before = bytes();
-    QTest::keySequence(tree, QKeySequence(key));
-    QCOMPARE(stack.undoText(), step);
-    QCOMPARE(stack.count(), step.isEmpty() ? 0 : 1);
-    QCOMPARE(tree->currentRecord(), next);
-    QCOMPARE(tree->selectedItems(), QList<QTreeWidgetItem *>{tree->currentItem()});
-    QCOMPARE(bytes() == before, step.isEmpty());
+    // What is copied with Ctrl+C before the rest, what is current then, the key, the step that it makes (none
+    // when nothing happens), and what is current after it.
+    const auto check = [this](const char *name, const RecordRef &copied, const RecordRef &current,
+                              const char *key, const char *step, const RecordRef &next) {
+        init();
+        if (copied.kind != K::None)
+            QTest::keySequence(select(copied), QKeySequence::Copy);
+        KVTreeView *tree = select(current);
+        const QUndoStack &stack = isOfMesh(current) ? mesh().undo() : anim().undo();
+        const auto bytes = [&] { return isOfMesh(current) ? mesh().bytes() : anim().bytes(); };
+        const QByteArray before = bytes();
+        QTest::keySequence(tree, QKeySequence(QLatin1String(key)));
+        QCOMPARE(name + stack.undoText(), QLatin1String(name) + QLatin1String(step));
+        QVERIFY2(stack.count() == (*step ? 1 : 0), name);
+        QVERIFY2(tree->currentRecord() == next, name);
+        QCOMPARE(tree->selectedItems(), QList<QTreeWidgetItem *>{tree->currentItem()});
+        QVERIFY2((bytes() == before) == !*step, name);
+    };
+    const RecordRef nothing;
+    check("hot point, group", nothing, ref(K::HotPoints), "Ins", "Add Hot Point", ref(K::HotPoint, 0));
+    check("hot point, behind", nothing, ref(K::HotPoint, 1), "Ins", "Add Hot Point", ref(K::HotPoint, 2));
+    check("hot point, remove", nothing, ref(K::HotPoint, 0), "Del", "Remove Hot Point", ref(K::HotPoint, 0));
+    check("hot point, paste", ref(K::HotPoint, 1), ref(K::HotPoint, 0), "Ctrl+V", "Paste Hot Point",
+          ref(K::HotPoint, 1));
+    check("hot point, paste first", ref(K::HotPoint, 1), ref(K::HotPoints), "Ctrl+V", "Paste Hot Point",
+          ref(K::HotPoint, 0));
+    check("hot point, nothing copied", nothing, ref(K::HotPoint, 0), "Ctrl+V", "", ref(K::HotPoint, 0));
+    check("bone, remove", nothing, ref(K::Bone, 1), "Del", "", ref(K::Bone, 1));
+
+    check("block, root", nothing, ref(K::AnimFile), "Ins", "Add Animation", ref(K::AnimBlock, 0));
+    check("block, behind", nothing, ref(K::AnimBlock, 1), "Ins", "Add Animation", ref(K::AnimBlock, 2));
+    check("block, remove", nothing, ref(K::AnimBlock, 2), "Del", "Remove Animation", ref(K::AnimBlock, 1));
+    check("block, paste first", ref(K::AnimBlock, 2), ref(K::AnimFile), "Ctrl+V", "Paste Animation",
+          ref(K::AnimBlock, 0));
+    check("block, paste", ref(K::AnimBlock, 0), ref(K::AnimBlock, 2), "Ctrl+V", "Paste Animation",
+          ref(K::AnimBlock, 3));
+    check("block, on a frame", ref(K::AnimBlock, 0), ref(K::AnimFrame, 1, 2), "Ctrl+V", "",
+          ref(K::AnimFrame, 1, 2));
+    check("action, group", nothing, ref(K::AnimActions, 1), "Ins", "Add Key Frame Action",
+          ref(K::AnimAction, 1, 0));
+    check("action, behind", nothing, ref(K::AnimAction, 1, 1), "Ins", "Add Key Frame Action",
+          ref(K::AnimAction, 1, 2));
+    check("action, remove", nothing, ref(K::AnimAction, 2, 0), "Del", "Remove Key Frame Action",
+          ref(K::AnimAction, 2, 0));
 }
 
 void tst_StructureActions::newBlocks()
@@ -233,36 +216,26 @@ void tst_StructureActions::openBranchesStayOpen()
     QCOMPARE(open(), QStringList({"14-0", "15-1", "21-1"}));
 }
 
-void tst_StructureActions::menus_data()
-{
-    QTest::addColumn<RecordRef>("current");
-    QTest::addColumn<QStringList>("texts");
-    const QStringList branch{"&Expand All Below", "&Collapse All Below"};
-    QTest::newRow("bone") << ref(K::Bone, 1) << QStringList("Copy Bone Flags");
-    QTest::newRow("hot point") << ref(K::HotPoint, 1)
-                               << QStringList({"Add Hot Point", "Remove Hot Point", "Copy Hot Point",
-                                               "Paste Hot Point (off)"});
-    QTest::newRow("surface") << ref(K::SkinnedSurface, 0) << QStringList();
-    QTest::newRow("block") << ref(K::AnimBlock, 1)
-                           << QStringList({"Add Animation", "Remove Animation", "Copy Animation",
-                                           "Paste Animation (off)"}) +
-                                  branch;
-    QTest::newRow("rotations") << ref(K::Rotations, 1) << QStringList("Change Rotation Count…");
-}
-
 void tst_StructureActions::menus()
 {
-    QFETCH(RecordRef, current);
-    QFETCH(QStringList, texts);
-    QMenu *menu = openMenu(select(current));
-    QVERIFY(menu);
-    QStringList offered;
-    for (const QAction *action : menu->actions()) {
-        if (action->isVisible() && !action->isSeparator())
-            offered << action->text() + QLatin1String(action->isEnabled() ? "" : " (off)");
-    }
-    QCOMPARE(offered, texts + QStringList({"Undo (off)", "Redo (off)"}));
-    menu->close();
+    const auto check = [this](const RecordRef &current, const QStringList &texts) {
+        QMenu *menu = openMenu(select(current));
+        QVERIFY(menu);
+        QStringList offered;
+        for (const QAction *action : menu->actions()) {
+            if (action->isVisible() && !action->isSeparator())
+                offered << action->text() + QLatin1String(action->isEnabled() ? "" : " (off)");
+        }
+        QCOMPARE(offered, texts + QStringList({"Undo (off)", "Redo (off)"}));
+        menu->close();
+    };
+    check(ref(K::Bone, 1), {"Copy Bone Flags"});
+    check(ref(K::HotPoint, 1),
+          {"Add Hot Point", "Remove Hot Point", "Copy Hot Point", "Paste Hot Point (off)"});
+    check(ref(K::SkinnedSurface, 0), {});
+    check(ref(K::AnimBlock, 1), {"Add Animation", "Remove Animation", "Copy Animation",
+                                 "Paste Animation (off)", "&Expand All Below", "&Collapse All Below"});
+    check(ref(K::Rotations, 1), {"Change Rotation Count…"});
 }
 
 void tst_StructureActions::branches()

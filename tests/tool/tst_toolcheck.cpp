@@ -13,10 +13,112 @@ class tst_ToolCheck : public QObject
 
 private slots:
     void init() { m_folder.emplace(); }
-    void unreadableFiles();
-    void checkWalksFolders();
-    void checkFindsFaultsOfEachKind();
-    void checkListsAndCounts();
+    void unreadableFiles()
+    {
+        const auto check = [this](const QString &name, const QByteArray &bytes, const QString &complaint) {
+            const QString file = bytes.isEmpty() ? path(name) : put(name, bytes);
+            const ToolRun text("info", {file});
+            QCOMPARE(text.exitCode, 1);
+            QCOMPARE(text.out, QString());
+            QVERIFY2(text.err.contains(file) && text.err.contains(complaint), qUtf8Printable(text.err));
+
+            const ToolRun json("info --json", {file});
+            QCOMPARE(json.exitCode, 1);
+            QVERIFY2(json.first()["error"].toString().contains(complaint), qUtf8Printable(file));
+
+            const ToolRun checked("check", {file});
+            QCOMPARE(checked.exitCode, 1);
+            QVERIFY2(checked.out.contains(complaint), qUtf8Printable(checked.out));
+        };
+        for (const QString &suffix : SampleModels::suffixes()) {
+            const QByteArray half = SampleModels::bytesOfSample(suffix).left(50);
+            QString reason;
+            SampleModels::withModel(
+                suffix, [&](auto model) { QVERIFY(SampleModels::readBytes(model, half, &reason)); });
+            QVERIFY(!reason.isEmpty());
+            check("half." + suffix, half, reason);
+        }
+        check("n.staticmesh", QByteArray(28, '\0') + QByteArray(4, '\xff'), "negative");
+        check("m.kmat", "material a\nmaterial a\n", "same name");
+        check("a.txt", "text", ".skinnedmesh, .anim");
+        check("*.anim", {}, "no such file");
+    }
+
+    void checkWalksFolders()
+    {
+        QCOMPARE(ToolRun("check", {path()}).exitCode, 1);
+        put("a/good.staticmesh", readFile(source("samples/game/models/crate/crate.staticmesh")));
+        put("a/notes.txt", "nothing to do with it");
+        const QString broken = put("a/ü ñ/deep/BROKEN.ANIM", "nothing");
+
+        const ToolRun bad("check --json", {path()});
+        QCOMPARE(bad.exitCode, 1);
+        QCOMPARE(bad.json().size(), 2);
+        QStringList unreadable;
+        for (const QJsonValue file : bad.json()) {
+            for (const QJsonValue finding : file["findings"].toArray()) {
+                if (finding["rule"] == "unreadable")
+                    unreadable << file["file"].toString() + ' ' + finding["severity"].toString();
+            }
+        }
+        QCOMPARE(unreadable, QStringList{broken + " error"});
+        QCOMPARE(ToolRun("check", {source("samples")}).exitCode, 0);
+    }
+
+    /// Each kind of file is checked against what belongs to it: folders, and the mesh beside an animation.
+    void checkFindsFaultsOfEachKind()
+    {
+        const auto base = std::move(BrokenModels::bases().front());
+        const auto mesh = base->model<SkinnedMesh>();
+        auto broken = mesh;
+        broken.hotPoints[0].nodeId = 254;
+        auto anim = base->model<AnimFile>();
+        for (AnimBlock &block : anim.blocks)
+            block.nodes.emplace_back();
+        auto rigid = base->model<StaticMesh>();
+        rigid.surfaces[0].materialPath = BrokenModels::materialWithoutPicture;
+        put("a/x.skinnedmesh", SampleModels::bytesOf(mesh));
+        const QStringList expected{
+            put("a/x.anim", SampleModels::bytesOf(anim)) + " bone-count-mismatch",
+            put("b/x.skinnedmesh", SampleModels::bytesOf(broken)) + " hot-point-bone-out-of-range",
+            put("c/x.staticmesh", SampleModels::bytesOf(rigid)) + " texture-not-found"};
+
+        const MaterialFolders folders = base->folders();
+        const ToolRun run("check --json --game-path",
+                          {folders.gamePath, "--mod-path", folders.outputDir, path()});
+        QCOMPARE(run.exitCode, 1);
+        QStringList found;
+        for (const QJsonValue file : run.json()) {
+            for (const QJsonValue finding : file["findings"].toArray()) {
+                found << file["file"].toString() + ' ' + finding["rule"].toString();
+                QVERIFY(!finding["text"].toString().isEmpty());
+                QVERIFY(finding["record"].toObject().contains("kind"));
+            }
+        }
+        found.sort();
+        QCOMPARE(found, expected);
+    }
+
+    void checkListsAndCounts()
+    {
+        StaticMesh mesh = SampleModels::plainStatic();
+        mesh.surfaces.resize(1);
+        mesh.vertices.resize(100);
+        for (StaticMeshVertex &vertex : mesh.vertices)
+            vertex.normal = {};
+        const QString file = put("x.staticmesh", SampleModels::bytesOf(mesh));
+
+        const ToolRun text("check", {file});
+        QCOMPARE(text.exitCode, 0);
+        QCOMPARE(text.out.count("[normal-zero]"), ListedFindings + 1);
+        QVERIFY(text.out.endsWith("1 file checked: 0 errors, 100 warnings, 0 notes\n"));
+        QVERIFY(text.err.contains("--game-path"));
+
+        const QJsonArray all = ToolRun("check --json --all", {file}).first()["findings"].toArray();
+        QCOMPARE(all.size(), 100);
+        QCOMPARE(all.at(30)["record"].toObject(),
+                 (QJsonObject{{"kind", "vertex"}, {"index", QJsonArray{30}}}));
+    }
 
 private:
     QString path(const QString &name = {}) const { return m_folder->path(name); }
@@ -24,112 +126,6 @@ private:
 
     std::optional<TestFolder> m_folder;
 };
-
-void tst_ToolCheck::unreadableFiles()
-{
-    const auto check = [this](const QString &name, const QByteArray &bytes, const QString &complaint) {
-        const QString file = bytes.isEmpty() ? path(name) : put(name, bytes);
-        const ToolRun text("info", {file});
-        QCOMPARE(text.exitCode, 1);
-        QCOMPARE(text.out, QString());
-        QVERIFY2(text.err.contains(file) && text.err.contains(complaint), qUtf8Printable(text.err));
-
-        const ToolRun json("info --json", {file});
-        QCOMPARE(json.exitCode, 1);
-        QVERIFY2(json.first()["error"].toString().contains(complaint), qUtf8Printable(file));
-
-        const ToolRun checked("check", {file});
-        QCOMPARE(checked.exitCode, 1);
-        QVERIFY2(checked.out.contains(complaint), qUtf8Printable(checked.out));
-    };
-    for (const QString &suffix : SampleModels::suffixes()) {
-        const QByteArray half = SampleModels::bytesOfSample(suffix).left(50);
-        QString reason;
-        SampleModels::withModel(suffix,
-                                [&](auto model) { QVERIFY(SampleModels::readBytes(model, half, &reason)); });
-        QVERIFY(!reason.isEmpty());
-        check("half." + suffix, half, reason);
-    }
-    check("n.staticmesh", QByteArray(28, '\0') + QByteArray(4, '\xff'), "negative");
-    check("m.kmat", "material a\nmaterial a\n", "same name");
-    check("a.txt", "text", ".skinnedmesh, .anim");
-    check("*.anim", {}, "no such file");
-}
-
-void tst_ToolCheck::checkWalksFolders()
-{
-    QCOMPARE(ToolRun("check", {path()}).exitCode, 1);
-    put("a/good.staticmesh", readFile(source("samples/game/models/crate/crate.staticmesh")));
-    put("a/notes.txt", "nothing to do with it");
-    const QString broken = put("a/ü ñ/deep/BROKEN.ANIM", "nothing");
-
-    const ToolRun bad("check --json", {path()});
-    QCOMPARE(bad.exitCode, 1);
-    QCOMPARE(bad.json().size(), 2);
-    QStringList unreadable;
-    for (const QJsonValue file : bad.json()) {
-        for (const QJsonValue finding : file["findings"].toArray()) {
-            if (finding["rule"] == "unreadable")
-                unreadable << file["file"].toString() + ' ' + finding["severity"].toString();
-        }
-    }
-    QCOMPARE(unreadable, QStringList{broken + " error"});
-    QCOMPARE(ToolRun("check", {source("samples")}).exitCode, 0);
-}
-
-/// Each kind of file is checked against what belongs to it: folders, and the mesh beside an animation.
-void tst_ToolCheck::checkFindsFaultsOfEachKind()
-{
-    const auto base = std::move(BrokenModels::bases().front());
-    const auto mesh = base->model<SkinnedMesh>();
-    auto broken = mesh;
-    broken.hotPoints[0].nodeId = 254;
-    auto anim = base->model<AnimFile>();
-    for (AnimBlock &block : anim.blocks)
-        block.nodes.emplace_back();
-    auto rigid = base->model<StaticMesh>();
-    rigid.surfaces[0].materialPath = BrokenModels::materialWithoutPicture;
-    put("a/x.skinnedmesh", SampleModels::bytesOf(mesh));
-    const QStringList expected{put("a/x.anim", SampleModels::bytesOf(anim)) + " bone-count-mismatch",
-                               put("b/x.skinnedmesh", SampleModels::bytesOf(broken)) +
-                                   " hot-point-bone-out-of-range",
-                               put("c/x.staticmesh", SampleModels::bytesOf(rigid)) + " texture-not-found"};
-
-    const MaterialFolders folders = base->folders();
-    const ToolRun run("check --json --game-path",
-                      {folders.gamePath, "--mod-path", folders.outputDir, path()});
-    QCOMPARE(run.exitCode, 1);
-    QStringList found;
-    for (const QJsonValue file : run.json()) {
-        for (const QJsonValue finding : file["findings"].toArray()) {
-            found << file["file"].toString() + ' ' + finding["rule"].toString();
-            QVERIFY(!finding["text"].toString().isEmpty());
-            QVERIFY(finding["record"].toObject().contains("kind"));
-        }
-    }
-    found.sort();
-    QCOMPARE(found, expected);
-}
-
-void tst_ToolCheck::checkListsAndCounts()
-{
-    StaticMesh mesh = SampleModels::plainStatic();
-    mesh.surfaces.resize(1);
-    mesh.vertices.resize(100);
-    for (StaticMeshVertex &vertex : mesh.vertices)
-        vertex.normal = {};
-    const QString file = put("x.staticmesh", SampleModels::bytesOf(mesh));
-
-    const ToolRun text("check", {file});
-    QCOMPARE(text.exitCode, 0);
-    QCOMPARE(text.out.count("[normal-zero]"), ListedFindings + 1);
-    QVERIFY(text.out.endsWith("1 file checked: 0 errors, 100 warnings, 0 notes\n"));
-    QVERIFY(text.err.contains("--game-path"));
-
-    const QJsonArray all = ToolRun("check --json --all", {file}).first()["findings"].toArray();
-    QCOMPARE(all.size(), 100);
-    QCOMPARE(all.at(30)["record"].toObject(), (QJsonObject{{"kind", "vertex"}, {"index", QJsonArray{30}}}));
-}
 
 QTEST_GUILESS_MAIN(tst_ToolCheck)
 #include "tst_toolcheck.moc"

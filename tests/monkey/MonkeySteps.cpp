@@ -198,9 +198,8 @@ QString Monkey::textToType(Dice &dice) const
 {
     // The first is empty.
     static const QStringList odd =
-        QStringLiteral(
-            " 0 -1 1 2 7 0.5 -0 127 128 255 256 65535 65536 2147483647 -2147483648 1e38 1e39 -1e-45 nan "
-            "inf %1%2%n <b>bold</b> / ../.. materials/mat_new.kmat")
+        QString(" 0 -1 1 2 7 0.5 -0 127 128 255 256 65535 65536 2147483647 -2147483648 1e38 1e39 -1e-45 nan "
+                "inf %1%2%n <b>bold</b> / ../.. materials/mat_new.kmat")
             .split(QLatin1Char(' '));
     const int kind = dice.below(10);
     if (kind < 7)

@@ -146,8 +146,7 @@ inline void enterOther(QWidget *editor)
     else if (qobject_cast<QLineEdit *>(editor))
         type(editor, shownText(editor) + QLatin1Char('x'));
     else if (qobject_cast<FloatSpinBox *>(editor))
-        type(editor,
-             shownText(editor) == QLatin1String("0.25") ? QStringLiteral("0.5") : QStringLiteral("0.25"));
+        type(editor, shownText(editor) == QLatin1String("0.25") ? QString("0.5") : QString("0.25"));
     else if (shownText(editor) == QLatin1String("7"))
         type(editor, QStringLiteral("8"));
     else

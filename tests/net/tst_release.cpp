@@ -15,8 +15,8 @@ private slots:
         // Version, link and message.
         const auto check = [](const char *name, const char *document, const QStringList &expected) {
             const Release release = readRelease(document);
-            QCOMPARE(QStringList({name, release.version, release.link, release.message}),
-                     QStringList(name) + expected);
+            const QStringList found{name, release.version, release.link, release.message};
+            QCOMPARE(found.join('|'), (QStringList(name) + expected).join('|'));
         };
         check("usual",
               "hello\n!start!\nversion\n1.2.3\nlink\nhttps://a/b\nmsg\none\ntwo\n!msg!\n!end!\nversion\n9\n",

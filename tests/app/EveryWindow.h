@@ -8,7 +8,6 @@
 #include "ControlsDialog.h"
 #include "CrashReportDialog.h"
 #include "DatabaseTab.h"
-#include "Find.h"
 #include "ImportDialog.h"
 #include "MainWindow.h"
 #include "OneRun.h"
@@ -18,22 +17,6 @@
 #include "RotateDialog.h"
 #include "ScaleDialog.h"
 #include "Shortcuts.h"
-
-#include <QAbstractButton>
-#include <QAbstractScrollArea>
-#include <QAbstractSlider>
-#include <QAbstractSpinBox>
-#include <QAccessible>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMenuBar>
-#include <QOpenGLWidget>
-#include <QStackedWidget>
-#include <QTabBar>
 
 /// Says what is wrong, a line each: a message of a test is cut off when it is long.
 inline void checkNone(const QStringList &faults)

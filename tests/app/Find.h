@@ -5,8 +5,7 @@
 #include "Settings.h"
 #include "TestSupport.h"
 
-#include <QImage>
-#include <QWidget>
+#include <QtWidgets>
 
 /// What belongs to a window, by its object name.
 template <typename Part>
@@ -18,13 +17,25 @@ Part *find(const QWidget &window, const char *name)
     return part;
 }
 
-/// Settings of a test's own, with its folder for the game and the mod. The net is left alone.
-inline void useFolder(const QTemporaryDir &folder)
+/// The game, the mod and all that the program keeps, in a folder of a test's own. The net is left alone.
+struct ProgramFolder : TestFolder
 {
-    TestSupport::useSettingsHome(folder);
-    Settings::GamePath.setValue(folder.path());
-    Settings::OutputDir.setValue(folder.path());
-    Settings::Updates.setValue(false);
+    ProgramFolder()
+    {
+        qputenv("XDG_DATA_HOME", QFile::encodeName(path()));
+        TestSupport::useSettingsHome(folder());
+        Settings::GamePath.setValue(path());
+        Settings::OutputDir.setValue(path());
+        Settings::Updates.setValue(false);
+    }
+};
+
+/// A part of a widget as it really is on the screen.
+inline QImage onScreen(const QWidget *widget, const QRect &part)
+{
+    const QPoint corner = widget->mapToGlobal(part.topLeft());
+    QScreen *screen = QGuiApplication::primaryScreen();
+    return screen->grabWindow(0, corner.x(), corner.y(), part.width(), part.height()).toImage();
 }
 
 inline int countPixels(const QImage &image, const QColor &color)

@@ -7,16 +7,7 @@
 #include "KVTreeView.h"
 #include "MainWindow.h"
 #include "SkinnedMesh.h"
-
-#include <QApplication>
-#include <QDialog>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPointer>
-#include <QPushButton>
-#include <QSpinBox>
-#include <QTimer>
-#include <QVector>
+#include "StaticMesh.h"
 
 #include <functional>
 
@@ -82,6 +73,15 @@ inline SkinnedMesh triangleMan()
     return mesh;
 }
 
+/// One triangle that faces the camera.
+inline StaticMesh wall(const std::vector<StaticMeshSurface> &surfaces)
+{
+    StaticMesh mesh;
+    mesh.surfaces = surfaces;
+    mesh.vertices = {{{-100, 0, 0}, {}, {}}, {{0, 0, 200}, {}, {}}, {{100, 0, 0}, {}, {}}};
+    return mesh;
+}
+
 /// Two blocks of 11 frames for it, at 10 frames per second.
 inline AnimFile twoBlocks()
 {
@@ -108,6 +108,26 @@ struct ShownWindow : MainWindow
     }
 };
 
+inline void select(const QWidget &window, const char *tree, const QVector<RecordRef> &records)
+{
+    find<KVTreeView>(window, tree)->selectRecords(records, records.last());
+}
+
+/// The text at the root of a tree; empty when the tree is.
+inline QString rootOf(const QWidget &window, const char *tree)
+{
+    return find<KVTreeView>(window, tree)->model()->index(0, 0).data().toString();
+}
+
+inline QStringList consoleOf(const QWidget &window)
+{
+    QStringList lines;
+    const auto *list = find<QListWidget>(window, "listConsole");
+    for (int i = 0; i < list->count(); ++i)
+        lines << list->item(i)->text();
+    return lines;
+}
+
 inline void typeNumber(QSpinBox *box, int number)
 {
     box->setFocus();
@@ -119,7 +139,6 @@ inline void typeNumber(QSpinBox *box, int number)
 /// An edit as the user makes it: bone 1 of the mesh that is open gets another parent.
 inline void typeParent(const QWidget &window, int parent)
 {
-    const RecordRef bone{RecordKind::Bone, {1}};
-    find<KVTreeView>(window, "treeSkinnedMesh")->selectRecords({bone}, bone);
+    select(window, "treeSkinnedMesh", {{RecordKind::Bone, {1}}});
     typeNumber(find<QSpinBox>(window, "sbNodeParentNode"), parent);
 }

@@ -3,11 +3,9 @@
 #pragma once
 
 #include "DocumentFiles.h"
+#include "Find.h"
 #include "Recovery.h"
 #include "SkinnedMeshCommands.h"
-
-#include <QWidget>
-#include <QtTest>
 
 /// A window with the three documents and what keeps them: one run of the program. It ends like one that is
 /// killed: nothing is kept on the way.

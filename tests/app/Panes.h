@@ -2,19 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Find.h"
 #include "FlagsEditor.h"
 #include "FloatSpinBox.h"
 #include "PageStack.h"
 #include "PropertyPages.h"
 #include "SampleModels.h"
-#include "TestSupport.h"
-
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QScrollArea>
 
 /// A document with its tree and its pages.
 template <typename Model>
@@ -73,6 +66,12 @@ struct Panes
         addPages(rigid.stack, rigid.document, rigid.tree);
     }
 
+    void openPlain()
+    {
+        mesh.open(SampleModels::plainMesh());
+        anim.open(SampleModels::plainAnim());
+        rigid.open(SampleModels::plainStatic());
+    }
     template <typename Model>
     Pane<Model> &of()
     {
@@ -147,8 +146,7 @@ inline void enterOther(QWidget *editor)
     else if (qobject_cast<QLineEdit *>(editor))
         type(editor, shownText(editor) + QLatin1Char('x'));
     else if (qobject_cast<FloatSpinBox *>(editor))
-        type(editor,
-             shownText(editor) == QLatin1String("0.25") ? QStringLiteral("0.5") : QStringLiteral("0.25"));
+        type(editor, shownText(editor) == QLatin1String("0.25") ? QString("0.5") : QString("0.25"));
     else if (shownText(editor) == QLatin1String("7"))
         type(editor, QStringLiteral("8"));
     else

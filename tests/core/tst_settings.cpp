@@ -8,12 +8,104 @@ class TestSettings : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void onlyEnsureWritesTheDefault();
-    void anOpenStoreKnowsWhatIsWritten();
-    void everyTypeComesBackFromTheFile();
-    void handWrittenText();
-    void unreadableValueGivesTheDefault();
+    void init()
+    {
+        QVERIFY(m_home.isValid());
+        TestSupport::useSettingsHome(m_home);
+    }
+
+    void onlyEnsureWritesTheDefault()
+    {
+        QCOMPARE(Settings::HideMeshData.value(), true);
+        QVERIFY(!Settings::HideMeshData.exists());
+        QVERIFY(QSettings().allKeys().isEmpty());
+        Settings::HideMeshData.ensure();
+        QCOMPARE(QSettings().value(QStringLiteral("HideMeshData")), QVariant(true));
+
+        Settings::HideMeshData.setValue(false);
+        Settings::HideMeshData.ensure();
+        QCOMPARE(Settings::HideMeshData.value(), false);
+    }
+
+    void anOpenStoreKnowsWhatIsWritten()
+    {
+        Settings::HideMeshData.setValue(false);
+        {
+            const SettingsHold hold;
+            QCOMPARE(Settings::HideMeshData.value(), false);
+            Settings::HideMeshData.setValue(true);
+            Settings::MouseSpeed.setValue(2.0f);
+            QCOMPARE(Settings::HideMeshData.value(), true);
+            QCOMPARE(Settings::MouseSpeed.value(), 2.0f);
+            Settings::MouseSpeed.remove();
+            QVERIFY(!Settings::MouseSpeed.exists());
+            // Another process does not wait for the end of it.
+            QVERIFY(TestSupport::readFile(QSettings().fileName()).contains("HideMeshData=true"));
+        }
+        writeStore("HideMeshData=false");
+        QCOMPARE(Settings::HideMeshData.value(), false);
+    }
+
+    void everyTypeComesBackFromTheFile()
+    {
+        const QString folder = QStringLiteral("/tmp/mods, \"mine\"; %41 é ü 漢/ending\\");
+        const QDateTime date(QDate(2024, 2, 29), QTime(23, 59, 58, 7), Qt::UTC);
+        const QByteArray state("\0\xff;,\"@x", 7);
+        // Neither has a short decimal form; both must come back bit for bit.
+        constexpr float speed = 0.1234567f;
+        constexpr float tiny = 1e-7f;
+
+        Settings::GamePath.setValue(folder);
+        Settings::UpdateDate.setValue(date);
+        Settings::BGColor.setValue(QColor(1, 2, 3));
+        Settings::MouseSpeed.setValue(speed);
+        Settings::Brightness.setValue(tiny);
+        Settings::SurfSelectType.setValue(-4);
+        Settings::MainWindowSize.setValue(QSize(1600, 1000));
+        Settings::MainWindowPos.setValue(QPoint(-5, 7));
+        Settings::MainWindowState.setValue(state);
+
+        // Read back through the file's text and not through the values that the store may still hold.
+        const QString path = QSettings().fileName();
+        const QByteArray text = TestSupport::readFile(path);
+        QVERIFY(text.contains("SurfSelectType=-4"));
+        TestSupport::useSettingsHome(m_home);
+        QVERIFY(!Settings::GamePath.exists());
+        QVERIFY(TestSupport::writeFile(path, text));
+
+        QCOMPARE(Settings::GamePath.value(), folder);
+        QCOMPARE(Settings::UpdateDate.value(), date);
+        QCOMPARE(Settings::BGColor.value(), QColor(1, 2, 3));
+        QVERIFY(Settings::MouseSpeed.value() == speed);
+        QVERIFY(Settings::Brightness.value() == tiny);
+        QCOMPARE(Settings::SurfSelectType.value(), -4);
+        QCOMPARE(Settings::MainWindowSize.value(), QSize(1600, 1000));
+        QCOMPARE(Settings::MainWindowPos.value(), QPoint(-5, 7));
+        QCOMPARE(Settings::MainWindowState.value(), state);
+    }
+
+    void handWrittenText()
+    {
+        writeStore("MouseSpeed=3\nBrightness=1e-3\nSurfSelectType=4\nShowGround=true\nBackCull=1");
+        QCOMPARE(Settings::MouseSpeed.value(), 3.0f);
+        QCOMPARE(Settings::Brightness.value(), 0.001f);
+        QCOMPARE(Settings::SurfSelectType.value(), 4);
+        QCOMPARE(Settings::ShowGround.value(), true);
+        QCOMPARE(Settings::BackCull.value(), true);
+    }
+
+    void unreadableValueGivesTheDefault()
+    {
+        for (const char *text : {"fast", "", "1, 2", "@Size(3 4)", "@Invalid()", "nan", "-inf", "1e300"}) {
+            init();
+            writeStore(QByteArray("MouseSpeed=X\nCount=X\nBGColor=X\nMainWindowSize=@Point(1 2)")
+                           .replace("X", text));
+            QCOMPARE(Settings::MouseSpeed.value(), 0.15f);
+            QCOMPARE(SettingKey<int>("Count", 7).value(), 7);
+            QCOMPARE(Settings::BGColor.value(), QColor(0, 170, 255, 255));
+            QVERIFY(!Settings::MainWindowSize.value().isValid());
+        }
+    }
 
 private:
     /// Replaces the store by this text below its [General] line.
@@ -26,105 +118,6 @@ private:
 
     QTemporaryDir m_home;
 };
-
-void TestSettings::init()
-{
-    QVERIFY(m_home.isValid());
-    TestSupport::useSettingsHome(m_home);
-}
-
-void TestSettings::anOpenStoreKnowsWhatIsWritten()
-{
-    Settings::HideMeshData.setValue(false);
-    {
-        const SettingsHold hold;
-        QCOMPARE(Settings::HideMeshData.value(), false);
-        Settings::HideMeshData.setValue(true);
-        Settings::MouseSpeed.setValue(2.0f);
-        QCOMPARE(Settings::HideMeshData.value(), true);
-        QCOMPARE(Settings::MouseSpeed.value(), 2.0f);
-        Settings::MouseSpeed.remove();
-        QVERIFY(!Settings::MouseSpeed.exists());
-        // Another process does not wait for the end of it.
-        QVERIFY(TestSupport::readFile(QSettings().fileName()).contains("HideMeshData=true"));
-    }
-    writeStore("HideMeshData=false");
-    QCOMPARE(Settings::HideMeshData.value(), false);
-}
-
-void TestSettings::onlyEnsureWritesTheDefault()
-{
-    QCOMPARE(Settings::HideMeshData.value(), true);
-    QVERIFY(!Settings::HideMeshData.exists());
-    QVERIFY(QSettings().allKeys().isEmpty());
-    Settings::HideMeshData.ensure();
-    QCOMPARE(QSettings().value(QStringLiteral("HideMeshData")), QVariant(true));
-
-    Settings::HideMeshData.setValue(false);
-    Settings::HideMeshData.ensure();
-    QCOMPARE(Settings::HideMeshData.value(), false);
-}
-
-void TestSettings::everyTypeComesBackFromTheFile()
-{
-    const QString folder = QStringLiteral("/tmp/mods, \"mine\"; %41 é ü 漢/ending\\");
-    const QDateTime date(QDate(2024, 2, 29), QTime(23, 59, 58, 7), Qt::UTC);
-    const QByteArray state("\0\xff;,\"@x", 7);
-    // Neither has a short decimal form; both must come back bit for bit.
-    constexpr float speed = 0.1234567f;
-    constexpr float tiny = 1e-7f;
-
-    Settings::GamePath.setValue(folder);
-    Settings::UpdateDate.setValue(date);
-    Settings::BGColor.setValue(QColor(1, 2, 3));
-    Settings::MouseSpeed.setValue(speed);
-    Settings::Brightness.setValue(tiny);
-    Settings::SurfSelectType.setValue(-4);
-    Settings::MainWindowSize.setValue(QSize(1600, 1000));
-    Settings::MainWindowPos.setValue(QPoint(-5, 7));
-    Settings::MainWindowState.setValue(state);
-
-    // Read back through the file's text and not through the values that the store may still hold.
-    const QString path = QSettings().fileName();
-    const QByteArray text = TestSupport::readFile(path);
-    QVERIFY(text.contains("SurfSelectType=-4"));
-    TestSupport::useSettingsHome(m_home);
-    QVERIFY(!Settings::GamePath.exists());
-    QVERIFY(TestSupport::writeFile(path, text));
-
-    QCOMPARE(Settings::GamePath.value(), folder);
-    QCOMPARE(Settings::UpdateDate.value(), date);
-    QCOMPARE(Settings::BGColor.value(), QColor(1, 2, 3));
-    QVERIFY(Settings::MouseSpeed.value() == speed);
-    QVERIFY(Settings::Brightness.value() == tiny);
-    QCOMPARE(Settings::SurfSelectType.value(), -4);
-    QCOMPARE(Settings::MainWindowSize.value(), QSize(1600, 1000));
-    QCOMPARE(Settings::MainWindowPos.value(), QPoint(-5, 7));
-    QCOMPARE(Settings::MainWindowState.value(), state);
-}
-
-void TestSettings::handWrittenText()
-{
-    writeStore("MouseSpeed=3\nBrightness=1e-3\nSurfSelectType=4\nShowGround=true\nBackCull=1");
-    QCOMPARE(Settings::MouseSpeed.value(), 3.0f);
-    QCOMPARE(Settings::Brightness.value(), 0.001f);
-    QCOMPARE(Settings::SurfSelectType.value(), 4);
-    QCOMPARE(Settings::ShowGround.value(), true);
-    QCOMPARE(Settings::BackCull.value(), true);
-}
-
-void TestSettings::unreadableValueGivesTheDefault()
-{
-    for (const char *text : {"fast", "", "1, 2", "@Size(3 4)", "@Invalid()", "nan", "-inf", "1e300"}) {
-        init();
-        writeStore(
-            QByteArray("MouseSpeed=X\nCount=X\nBGColor=X\nMainWindowSize=@Point(1 2)").replace("X", text));
-        QCOMPARE(Settings::MouseSpeed.value(), 0.15f);
-        QCOMPARE(SettingKey<int>("Count", 7).value(), 7);
-        QCOMPARE(Settings::BGColor.value(), QColor(0, 170, 255, 255));
-        QVERIFY(!Settings::MainWindowSize.value().isValid());
-    }
-}
 
 QTEST_GUILESS_MAIN(TestSettings)
 #include "tst_settings.moc"

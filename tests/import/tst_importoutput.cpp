@@ -10,108 +10,97 @@ class tst_importoutput : public QObject
     Q_OBJECT
 
 private slots:
-    void insideOrOutside();
-    void copying();
-    void materials();
-};
-
-void tst_importoutput::insideOrOutside()
-{
-    const std::vector<std::pair<QString, QString>> relativePaths{
-        {"materials/a.kmat", "materials/a.kmat"},
-        {"/mod/materials/a.kmat", "materials/a.kmat"},
-        {"materials/../textures/./a", "textures/a"},
-        {"/mod/", ""},
-        {"/mod2/a.kmat", QString()}, // a name that only begins alike
-        {"materials/../../a.kmat", QString()},
-        {"/tmp/a.kmat", QString()},
-        {"..a/b", "..a/b"},
-    };
-    for (const auto &[path, relative] : relativePaths) {
-        const QString found = pathInside(QStringLiteral("/mod/"), path);
-        QCOMPARE(found, relative);
-        QCOMPARE(found.isNull(), relative.isNull());
-        // Without a folder only what is relative already can be inside.
-        QCOMPARE(pathInside(QString(), path).isNull(),
-                 relative.isNull() || path.startsWith(QLatin1Char('/')));
+    void insideOrOutside()
+    {
+        const std::vector<std::pair<QString, QString>> relativePaths{
+            {"materials/a.kmat", "materials/a.kmat"},
+            {"/mod/materials/a.kmat", "materials/a.kmat"},
+            {"materials/../textures/./a", "textures/a"},
+            {"/mod/", ""},
+            {"/mod2/a.kmat", QString()}, // a name that only begins alike
+            {"materials/../../a.kmat", QString()},
+            {"/tmp/a.kmat", QString()},
+            {"..a/b", "..a/b"},
+        };
+        for (const auto &[path, relative] : relativePaths) {
+            const QString found = pathInside(QStringLiteral("/mod/"), path);
+            QCOMPARE(found, relative);
+            QCOMPARE(found.isNull(), relative.isNull());
+            // Without a folder only what is relative already can be inside.
+            QCOMPARE(pathInside(QString(), path).isNull(),
+                     relative.isNull() || path.startsWith(QLatin1Char('/')));
+        }
     }
-}
 
-void tst_importoutput::copying()
-{
-    QTemporaryDir source;
-    QTemporaryDir target;
-    const QString a = source.filePath(QStringLiteral("a.png"));
-    const QString b = source.filePath(QStringLiteral("b.png"));
-    QVERIFY(TestSupport::writeFile(a, "new"));
-    QVERIFY(TestSupport::writeFile(b, "other"));
-    QVERIFY(TestSupport::writeFile(target.filePath(QStringLiteral("a.png")), "old"));
-    ImportMessages messages;
-    const QString copied = QStringLiteral("Successfully copied textures\n");
-    const QString failed = QStringLiteral("Failed on copying textures\n");
-    QCOMPARE(copyTextures({a, QString(), b}, target.path(), messages), copied);
-    QCOMPARE(TestSupport::readFile(target.filePath(QStringLiteral("a.png"))), QByteArray("new"));
+    void copying()
+    {
+        const TestFolder source, target;
+        const QString a = source.put("a.png", "new");
+        const QString b = source.put("b.png", "other");
+        const QString there = target.put("a.png", "old");
+        ImportMessages messages;
+        const QString copied = QStringLiteral("Successfully copied textures\n");
+        const QString failed = QStringLiteral("Failed on copying textures\n");
+        QCOMPARE(copyTextures({a, QString(), b}, target.path(), messages), copied);
+        QCOMPARE(TestSupport::readFile(there), QByteArray("new"));
 
-    // Onto itself, also by another way.
-    QVERIFY(QFile::link(source.path(), target.filePath(QStringLiteral("link"))));
-    QCOMPARE(copyTextures({a}, target.filePath(QStringLiteral("link")), messages), copied);
-    QCOMPARE(TestSupport::readFile(a), QByteArray("new"));
-    QVERIFY(messages.lines.isEmpty());
-    QCOMPARE(copyTextures({QString()}, target.path(), messages),
-             QStringLiteral("Model had no textures to copy\n"));
+        // Onto itself, also by another way.
+        QVERIFY(QFile::link(source.path(), target.path("link")));
+        QCOMPARE(copyTextures({a}, target.path("link"), messages), copied);
+        QCOMPARE(TestSupport::readFile(a), QByteArray("new"));
+        QVERIFY(messages.lines.isEmpty());
+        QCOMPARE(copyTextures({QString()}, target.path(), messages),
+                 QStringLiteral("Model had no textures to copy\n"));
 
-    // Two of one name cannot both stand there.
-    QVERIFY(QDir(source.path()).mkpath(QStringLiteral("other")));
-    const QString alike = source.filePath(QStringLiteral("other/a.png"));
-    QVERIFY(TestSupport::writeFile(alike, "new"));
-    QCOMPARE(copyTextures({a, alike}, target.path(), messages), copied);
-    QCOMPARE(messages.lines.size(), 1);
-    QCOMPARE(messages.lines.takeFirst().text,
-             QStringLiteral("'%1' and '%2' have one name: only one of them can be used").arg(a, alike));
+        // Two of one name cannot both stand there.
+        const QString alike = source.put("other/a.png", "new");
+        QCOMPARE(copyTextures({a, alike}, target.path(), messages), copied);
+        QCOMPARE(messages.lines.size(), 1);
+        QCOMPARE(messages.lines.takeFirst().text,
+                 QStringLiteral("'%1' and '%2' have one name: only one of them can be used").arg(a, alike));
 
-    // What cannot be read leaves the file that stands there; what cannot be written says so.
-    const QString gone = source.filePath(QStringLiteral("sub/a.png"));
-    QCOMPARE(copyTextures({gone}, target.path(), messages), failed);
-    QCOMPARE(TestSupport::readFile(target.filePath(QStringLiteral("a.png"))), QByteArray("new"));
-    QVERIFY(QDir(target.path()).mkpath(QStringLiteral("b.png.d/b.png")));
-    const QString inTheWay = target.filePath(QStringLiteral("b.png.d"));
-    QCOMPARE(copyTextures({a, b}, inTheWay, messages), failed);
-    QCOMPARE(messages.lines.size(), 2);
-    QCOMPARE(messages.lines[0].text, QStringLiteral("Could not copy texture from '%1' to '%2'")
-                                         .arg(gone, target.filePath(QStringLiteral("a.png"))));
-    QCOMPARE(messages.lines[1].text, QStringLiteral("Could not overwrite texture '%1/b.png'").arg(inTheWay));
-    QVERIFY(!messages.hasError());
-}
+        // What cannot be read leaves the file that stands there; what cannot be written says so.
+        const QString gone = source.path("sub/a.png");
+        QCOMPARE(copyTextures({gone}, target.path(), messages), failed);
+        QCOMPARE(TestSupport::readFile(there), QByteArray("new"));
+        const QString inTheWay = target.path("b.png.d");
+        QVERIFY(QDir().mkpath(inTheWay + "/b.png"));
+        QCOMPARE(copyTextures({a, b}, inTheWay, messages), failed);
+        QCOMPARE(messages.lines.size(), 2);
+        QCOMPARE(messages.lines[0].text,
+                 QString("Could not copy texture from '%1' to '%2'").arg(gone, there));
+        QCOMPARE(messages.lines[1].text, QString("Could not overwrite texture '%1/b.png'").arg(inTheWay));
+        QVERIFY(!messages.hasError());
+    }
 
-void tst_importoutput::materials()
-{
-    const std::vector<StaticMeshSurface> surfaces{{QStringLiteral("materials/m/surf_0"), {}},
-                                                  {QStringLiteral("materials/m/surf_1_white"), {}},
-                                                  {QStringLiteral("materials/m/surf_2"), {}}};
-    const QStringList textures{QStringLiteral("/x/steel.v2.png"), QStringLiteral("/x/wood.png")};
-    MaterialTable table = materialsOf(surfaces, textures, QStringLiteral("textures/mine"));
-    QCOMPARE(table, (MaterialTable{{"surf_0", "textures/mine/steel.v2.png"},
-                                   {"surf_1_white", "_white"},
-                                   {"surf_2", "textures/mine/wood.png"}}));
-    QCOMPARE(materialsOf(surfaces, textures, QString())[QStringLiteral("surf_2")],
-             QStringLiteral("wood.png"));
+    void materials()
+    {
+        const std::vector<StaticMeshSurface> surfaces{
+            {"materials/m/surf_0", {}}, {"materials/m/surf_1_white", {}}, {"materials/m/surf_2", {}}};
+        const QStringList textures{"/x/steel.v2.png", "/x/wood.png"};
+        MaterialTable table = materialsOf(surfaces, textures, "textures/mine");
+        QCOMPARE(table, (MaterialTable{{"surf_0", "textures/mine/steel.v2.png"},
+                                       {"surf_1_white", "_white"},
+                                       {"surf_2", "textures/mine/wood.png"}}));
+        QCOMPARE(materialsOf(surfaces, textures, QString())[QString("surf_2")], QString("wood.png"));
 
-    QTemporaryDir folder;
-    ImportMessages messages;
-    const QString path = folder.filePath(QStringLiteral("m.kmat"));
-    const QString created = QStringLiteral("Successfully created .kmat file\n");
-    QCOMPARE(createKMat(path, table, messages), created);
-    MaterialTable written;
-    QCOMPARE(readKMat(path, written), QString());
-    QCOMPARE(written, table);
-    QVERIFY(messages.lines.isEmpty());
-    table[QStringLiteral("surf_2")] = QStringLiteral("textures/my wood.png");
-    QCOMPARE(createKMat(path, table, messages), created);
-    QVERIFY(messages.lines.takeFirst().text.contains(QLatin1String("my wood.png")));
-    QCOMPARE(createKMat(folder.filePath(QStringLiteral("none/m.kmat")), table, messages),
-             QStringLiteral("Failed on creating .kmat file\n"));
-    QCOMPARE(messages.lines.size(), 2);
-}
+        QTemporaryDir folder;
+        ImportMessages messages;
+        const QString path = folder.filePath(QStringLiteral("m.kmat"));
+        const QString created = QStringLiteral("Successfully created .kmat file\n");
+        QCOMPARE(createKMat(path, table, messages), created);
+        MaterialTable written;
+        QCOMPARE(readKMat(path, written), QString());
+        QCOMPARE(written, table);
+        QVERIFY(messages.lines.isEmpty());
+        table[QStringLiteral("surf_2")] = QStringLiteral("textures/my wood.png");
+        QCOMPARE(createKMat(path, table, messages), created);
+        QVERIFY(messages.lines.takeFirst().text.contains(QLatin1String("my wood.png")));
+        QCOMPARE(createKMat(folder.filePath(QStringLiteral("none/m.kmat")), table, messages),
+                 QStringLiteral("Failed on creating .kmat file\n"));
+        QCOMPARE(messages.lines.size(), 2);
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_importoutput)
 #include "tst_importoutput.moc"

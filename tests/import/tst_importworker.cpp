@@ -8,28 +8,6 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-/// Whatever a file does to the worker, the editor gets an answer and no temporary file stays.
-class tst_importworker : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void initTestCase();
-    void cleanup();
-    void everyRealFile_data();
-    void everyRealFile();
-    void workerFails();
-    void cancel();
-    void awkwardPath();
-    void foldersOfKilledEditorsGo();
-
-private:
-    void run(ImportWorker &worker, const WorkerJob &job);
-
-    QTemporaryDir m_temporary; ///< stands for the system's folder of temporary files
-    QTemporaryDir m_models;
-};
-
 namespace {
 WorkerJob importJob(const QString &path, bool skinned)
 {
@@ -65,174 +43,184 @@ bool isWhole(const Mesh &mesh)
 }
 } // namespace
 
-void tst_importworker::initTestCase()
+/// Whatever a file does to the worker, the editor gets an answer and no temporary file stays.
+class tst_importworker : public QObject
 {
-    qputenv("TMPDIR", m_temporary.path().toUtf8());
-    // The worker may end in any way; what the library leaves behind then is no leak of ours.
-    qputenv("ASAN_OPTIONS",
-            "detect_leaks=0:allocator_may_return_null=1:max_allocation_size_mb=4096:symbolize=0");
-}
+    Q_OBJECT
 
-void tst_importworker::cleanup()
-{
-    QCOMPARE(QDir(m_temporary.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
-}
+private slots:
+    void initTestCase()
+    {
+        qputenv("TMPDIR", m_temporary.path().toUtf8());
+        // The worker may end in any way; what the library leaves behind then is no leak of ours.
+        qputenv("ASAN_OPTIONS",
+                "detect_leaks=0:allocator_may_return_null=1:max_allocation_size_mb=4096:symbolize=0");
+    }
 
-void tst_importworker::run(ImportWorker &worker, const WorkerJob &job)
-{
-    QSignalSpy finished(&worker, &ImportWorker::finished);
-    worker.start(job);
-    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 60000);
-    QVERIFY(!worker.isRunning());
-}
+    void cleanup()
+    {
+        QCOMPARE(QDir(m_temporary.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+    }
 
-void tst_importworker::everyRealFile_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<bool>("isGood");
-    QTest::addColumn<QString>("reading"); ///< how the reading library fares on its own
-    const QString folder = TestSupport::shared(QStringLiteral("models"));
-    const QList<QByteArray> rows = TestSupport::readFile(folder + QStringLiteral("/index.tsv")).split('\n');
-    const QList<QByteArray> columns = rows.value(0).split('\t');
-    for (int row = 1; row < rows.size(); ++row) {
-        const QList<QByteArray> cells = rows[row].split('\t');
-        const auto cell = [&cells, &columns](const char *name) { return cells.value(columns.indexOf(name)); };
-        if (cells.size() > 1) {
-            QTest::newRow(cell("path"))
-                << folder + QLatin1Char('/') + QString::fromUtf8(cell("path")) << (cell("class") == "core")
-                << QString::fromUtf8(cell("assimp_info_status"));
+    void everyRealFile_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("isGood");
+        QTest::addColumn<QString>("reading"); ///< how the reading library fares on its own
+        const QString folder = TestSupport::shared(QString("models"));
+        const QList<QByteArray> rows = TestSupport::readFile(folder + QString("/index.tsv")).split('\n');
+        const QList<QByteArray> columns = rows.value(0).split('\t');
+        for (int row = 1; row < rows.size(); ++row) {
+            const QList<QByteArray> cells = rows[row].split('\t');
+            const auto cell = [&cells, &columns](const char *name) {
+                return cells.value(columns.indexOf(name));
+            };
+            if (cells.size() > 1) {
+                QTest::newRow(cell("path"))
+                    << folder + QLatin1Char('/') + QString::fromUtf8(cell("path"))
+                    << (cell("class") == "core") << QString::fromUtf8(cell("assimp_info_status"));
+            }
+        }
+        if (folder.isEmpty())
+            QTest::newRow("none") << QString() << false << QString();
+    }
+
+    void everyRealFile()
+    {
+        SKIP_WITHOUT_SHARED("models");
+        QFETCH(QString, path);
+        QFETCH(bool, isGood);
+        QFETCH(QString, reading);
+        const bool hangs = reading.startsWith(QLatin1String("HANG"));
+        for (const bool skinned : {true, false}) {
+            ImportWorker worker;
+            worker.setTimeLimit(hangs ? 2000 : 50000);
+            run(worker, importJob(path, skinned));
+            const QString errors = errorsOf(worker.messages());
+            if (hangs)
+                QVERIFY2(errors.contains(QLatin1String("longer than 2 s.")), qPrintable(errors));
+            // Where memory lies otherwise, a file may be refused that else kills the process.
+            if (reading.startsWith(QLatin1String("CRASH")))
+                QVERIFY(worker.messages().hasError());
+            SkinnedMesh skin;
+            AnimFile anim;
+            StaticMesh rigid;
+            const bool unreadable = skinned ? worker.read(skin, anim) : worker.read(rigid);
+            QCOMPARE(unreadable, worker.messages().hasError());
+            if (unreadable) {
+                // Good models fail for what they hold: too many vertices, or two nodes of one name.
+                QVERIFY2(!isGood || errors.contains(QLatin1String("can hold no more than")) ||
+                             (skinned && errors.contains(QLatin1String("already exists"))),
+                         qPrintable(errors));
+                continue;
+            }
+            QVERIFY(skinned ? isWhole(skin) : isWhole(rigid));
+            for (const SkinnedMeshVertex &vertex : skin.vertices)
+                QVERIFY(vertex.nodeIndex < skin.nodes.size());
+            for (const AnimBlock &block : anim.blocks)
+                QCOMPARE(block.nodes.size(), skin.nodes.size());
         }
     }
-    if (folder.isEmpty())
-        QTest::newRow("none") << QString() << false << QString();
-}
 
-void tst_importworker::everyRealFile()
-{
-    SKIP_WITHOUT_SHARED("models");
-    QFETCH(QString, path);
-    QFETCH(bool, isGood);
-    QFETCH(QString, reading);
-    const bool hangs = reading.startsWith(QLatin1String("HANG"));
-    for (const bool skinned : {true, false}) {
-        ImportWorker worker;
-        worker.setTimeLimit(hangs ? 2000 : 50000);
-        run(worker, importJob(path, skinned));
-        const QString errors = errorsOf(worker.messages());
-        if (hangs)
-            QVERIFY2(errors.contains(QLatin1String("longer than 2 s.")), qPrintable(errors));
-        // Where memory lies otherwise, a file may be refused that else kills the process.
-        if (reading.startsWith(QLatin1String("CRASH")))
-            QVERIFY(worker.messages().hasError());
-        SkinnedMesh skin;
-        AnimFile anim;
-        StaticMesh rigid;
-        const bool unreadable = skinned ? worker.read(skin, anim) : worker.read(rigid);
-        QCOMPARE(unreadable, worker.messages().hasError());
-        if (unreadable) {
-            // Good models fail for what they hold: too many vertices, or two nodes of one name.
-            QVERIFY2(!isGood || errors.contains(QLatin1String("can hold no more than")) ||
-                         (skinned && errors.contains(QLatin1String("already exists"))),
-                     qPrintable(errors));
-            continue;
-        }
-        QVERIFY(skinned ? isWhole(skin) : isWhole(rigid));
-        for (const SkinnedMeshVertex &vertex : skin.vertices)
-            QVERIFY(vertex.nodeIndex < skin.nodes.size());
-        for (const AnimBlock &block : anim.blocks)
-            QCOMPARE(block.nodes.size(), skin.nodes.size());
-    }
-}
-
-void tst_importworker::workerFails()
-{
-    ImportWorker worker;
-    const QString missing = m_models.filePath(QStringLiteral("none"));
-    for (const auto &[program, reason] : {std::pair<QString, QString>(missing, "none' could not be started"),
-                                          {"/bin/true", "gave no answer."},
-                                          {"/bin/false", "gave no answer."}}) {
-        worker.setProgram(program);
-        run(worker, importJob(QStringLiteral("/a%1/b.obj"), false));
-        const QString error = errorsOf(worker.messages());
-        QVERIFY2(error.startsWith(QLatin1String("/a%1/b.obj Could not read file. ")), qPrintable(error));
-        QVERIFY2(error.contains(reason), qPrintable(error));
-        cleanup();
-    }
-}
-
-void tst_importworker::cancel()
-{
-    const QString script = m_models.filePath(QStringLiteral("sleeper"));
-    QVERIFY(TestSupport::writeFile(script, "#!/bin/sh\nexec sleep 100\n"));
-    QFile(script).setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    void workerFails()
     {
         ImportWorker worker;
-        worker.setProgram(script);
-        QSignalSpy finished(&worker, &ImportWorker::finished);
-        worker.start(importJob(QStringLiteral("a.obj"), true));
-        QVERIFY(worker.isRunning());
-        worker.cancel();
-        QTRY_COMPARE(finished.count(), 1);
-        QVERIFY(errorsOf(worker.messages()).endsWith(QLatin1String("It was cancelled.")));
+        const QString missing = m_models.path("none");
+        for (const auto &[program, reason] :
+             {std::pair<QString, QString>(missing, "none' could not be started"),
+              {"/bin/true", "gave no answer."},
+              {"/bin/false", "gave no answer."}}) {
+            worker.setProgram(program);
+            run(worker, importJob(QStringLiteral("/a%1/b.obj"), false));
+            const QString error = errorsOf(worker.messages());
+            QVERIFY2(error.startsWith(QLatin1String("/a%1/b.obj Could not read file. ")), qPrintable(error));
+            QVERIFY2(error.contains(reason), qPrintable(error));
+            cleanup();
+        }
     }
-    // One that goes while its process runs takes everything with it; cleanup() looks.
-    ImportWorker abandoned;
-    abandoned.setProgram(script);
-    abandoned.start(importJob(QStringLiteral("a.obj"), true));
-}
 
-void tst_importworker::awkwardPath()
-{
-    const QString folder = m_models.filePath(QStringLiteral("m\u00f6d %1 \u2603"));
-    QVERIFY(QDir().mkpath(folder));
-    const QString path = folder + QStringLiteral("/a %2 \u00e9.obj");
-    QVERIFY(TestSupport::writeFile(path, "v 0 0 0\nv 1.5 0 0\nv 0 1 0\nvt 0.25 0\nf 1/1 2/1 3/1\n"));
-    ImportWorker worker;
-    run(worker, importJob(path, false));
-    StaticMesh mesh;
-    QVERIFY2(!worker.read(mesh), qPrintable(errorsOf(worker.messages())));
-    QCOMPARE(mesh.bbMax, QVector3D(1.5f, 1.0f, 0.0f));
-    QCOMPARE(mesh.vertices.at(0).uv.x(), 0.25f);
-    QCOMPARE(worker.messages().lines.at(0).text,
-             path + QStringLiteral(" Material 0 does not have any Diffuse textures"));
-}
+    void cancel()
+    {
+        const QString script = m_models.put("sleeper", "#!/bin/sh\nexec sleep 100\n");
+        QFile(script).setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+        {
+            ImportWorker worker;
+            worker.setProgram(script);
+            QSignalSpy finished(&worker, &ImportWorker::finished);
+            worker.start(importJob(QStringLiteral("a.obj"), true));
+            QVERIFY(worker.isRunning());
+            worker.cancel();
+            QTRY_COMPARE(finished.count(), 1);
+            QVERIFY(errorsOf(worker.messages()).endsWith(QLatin1String("It was cancelled.")));
+        }
+        // One that goes while its process runs takes everything with it; cleanup() looks.
+        ImportWorker abandoned;
+        abandoned.setProgram(script);
+        abandoned.start(importJob(QStringLiteral("a.obj"), true));
+    }
 
-// Only folders of ours that no process holds, and none that may just have been made.
-void tst_importworker::foldersOfKilledEditorsGo()
-{
-    const auto makeFolder = [this](const QString &name, bool old) {
-        const QString path = m_temporary.filePath(name);
-        if (!QDir().mkpath(path + QStringLiteral("/sub")) ||
-            !TestSupport::writeFile(path + "/sub/model", "x"))
-            qFatal("no folder to leave behind");
-        const timespec hourAgo{time(nullptr) - 3600, 0};
-        const timespec times[2] = {hourAgo, hourAgo};
-        if (old && utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0) != 0)
-            qFatal("no time to set");
-        return path;
-    };
-    const QString outside = makeFolder(QStringLiteral("outside"), true);
-    const QString used = makeFolder(QStringLiteral("korvane-import-used"), false);
-    auto lock = std::make_unique<FolderLock>(used + QStringLiteral("/lock"));
-    makeFolder(QStringLiteral("korvane-import-used"), true);
-    makeFolder(QStringLiteral("korvane-import-young"), false);
-    makeFolder(QStringLiteral("korvane-import-old"), true);
-    QVERIFY(QFile::link(outside, m_temporary.filePath(QStringLiteral("korvane-import-link"))));
-    const auto left = [this] {
-        return QDir(m_temporary.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name);
-    };
-    TemporaryFolder::removeAbandoned();
-    const QStringList spared{QStringLiteral("korvane-import-link"), QStringLiteral("korvane-import-used"),
-                             QStringLiteral("korvane-import-young"), QStringLiteral("outside")};
-    QCOMPARE(left(), spared);
-    QVERIFY(QFile::exists(outside + QStringLiteral("/sub/model")));
-    lock.reset();
-    TemporaryFolder::removeAbandoned();
-    QVERIFY(!QFile::exists(used));
-    for (const QString &name : left())
-        QVERIFY(QFile::remove(m_temporary.filePath(name)) ||
-                QDir(m_temporary.filePath(name)).removeRecursively());
-}
+    void awkwardPath()
+    {
+        const QString path = m_models.put(QStringLiteral("m\u00f6d %1 \u2603/a %2 \u00e9.obj"),
+                                          "v 0 0 0\nv 1.5 0 0\nv 0 1 0\nvt 0.25 0\nf 1/1 2/1 3/1\n");
+        ImportWorker worker;
+        run(worker, importJob(path, false));
+        StaticMesh mesh;
+        QVERIFY2(!worker.read(mesh), qPrintable(errorsOf(worker.messages())));
+        QCOMPARE(mesh.bbMax, QVector3D(1.5f, 1.0f, 0.0f));
+        QCOMPARE(mesh.vertices.at(0).uv.x(), 0.25f);
+        QCOMPARE(worker.messages().lines.at(0).text,
+                 path + QStringLiteral(" Material 0 does not have any Diffuse textures"));
+    }
+
+    // Only folders of ours that no process holds, and none that may just have been made.
+    void foldersOfKilledEditorsGo()
+    {
+        const auto makeFolder = [this](const QString &name, bool old) {
+            const QString path = m_temporary.filePath(name);
+            if (!QDir().mkpath(path + QString("/sub")) || !TestSupport::writeFile(path + "/sub/model", "x"))
+                qFatal("no folder to leave behind");
+            const timespec hourAgo{time(nullptr) - 3600, 0};
+            const timespec times[2] = {hourAgo, hourAgo};
+            if (old && utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0) != 0)
+                qFatal("no time to set");
+            return path;
+        };
+        const QString outside = makeFolder(QStringLiteral("outside"), true);
+        const QString used = makeFolder(QStringLiteral("korvane-import-used"), false);
+        auto lock = std::make_unique<FolderLock>(used + QStringLiteral("/lock"));
+        makeFolder(QStringLiteral("korvane-import-used"), true);
+        makeFolder(QStringLiteral("korvane-import-young"), false);
+        makeFolder(QStringLiteral("korvane-import-old"), true);
+        QVERIFY(QFile::link(outside, m_temporary.filePath(QStringLiteral("korvane-import-link"))));
+        const auto left = [this] {
+            return QDir(m_temporary.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name);
+        };
+        TemporaryFolder::removeAbandoned();
+        const QStringList spared{QStringLiteral("korvane-import-link"), QStringLiteral("korvane-import-used"),
+                                 QStringLiteral("korvane-import-young"), QStringLiteral("outside")};
+        QCOMPARE(left(), spared);
+        QVERIFY(QFile::exists(outside + QStringLiteral("/sub/model")));
+        lock.reset();
+        TemporaryFolder::removeAbandoned();
+        QVERIFY(!QFile::exists(used));
+        for (const QString &name : left())
+            QVERIFY(QFile::remove(m_temporary.filePath(name)) ||
+                    QDir(m_temporary.filePath(name)).removeRecursively());
+    }
+
+private:
+    void run(ImportWorker &worker, const WorkerJob &job)
+    {
+        QSignalSpy finished(&worker, &ImportWorker::finished);
+        worker.start(job);
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 60000);
+        QVERIFY(!worker.isRunning());
+    }
+
+    QTemporaryDir m_temporary; ///< stands for the system's folder of temporary files
+    TestFolder m_models;
+};
 
 QTEST_GUILESS_MAIN(tst_importworker)
 #include "tst_importworker.moc"

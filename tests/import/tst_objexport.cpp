@@ -12,27 +12,23 @@
 #include <array>
 #include <cmath>
 
-/// What is exported reads back as it was.
-class tst_objexport : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void roundTrip_data();
-    void roundTrip();
-    void badTriangles();
-    void texturesAndNames();
-};
-
 namespace {
 using Triangle = std::array<StaticMeshVertex, 3>;
+
+StaticMesh threeCorners()
+{
+    StaticMesh mesh;
+    mesh.vertices.resize(3);
+    mesh.vertices[1].position = {1, 0, 0};
+    mesh.vertices[2].position = {0, 1, 0};
+    return mesh;
+}
 
 StaticMesh readBack(const QString &path)
 {
     QStringList textures;
     ImportMessages messages;
-    StaticMesh mesh =
-        importStaticMesh(path, QStringLiteral("m.kmat"), ImportFlags::StaticMesh, textures, messages);
+    StaticMesh mesh = importStaticMesh(path, "m.kmat", ImportFlags::StaticMesh, textures, messages);
     for (const ImportMessage &line : messages.lines) {
         if (line.severity == LogSeverity::Error)
             qWarning("%s", qUtf8Printable(line.text));
@@ -81,108 +77,100 @@ void compare(const StaticMesh &actual, const StaticMesh &expected)
 }
 } // namespace
 
-void tst_objexport::roundTrip_data()
+/// What is exported reads back as it was.
+class tst_objexport : public QObject
 {
-    QTest::addColumn<QString>("path");
-    for (const QString &path : TestSupport::modelFiles(QStringLiteral("staticmesh")))
-        QTest::newRow(qPrintable(QFileInfo(path).fileName())) << path;
-    const QString spider = TestSupport::shared(QStringLiteral("models/obj_spider/spider.obj"));
-    if (!spider.isEmpty())
-        QTest::newRow("imported") << spider;
-}
+    Q_OBJECT
 
-void tst_objexport::roundTrip()
-{
-    QFETCH(QString, path);
-    StaticMesh mesh;
-    if (path.endsWith(QLatin1String(".obj")))
-        mesh = readBack(path);
-    else
-        QVERIFY(!mesh.read(path));
-    QVERIFY(!mesh.vertices.empty());
-    QTemporaryDir folder;
-    const QString obj = folder.filePath(QStringLiteral("m\u00f6del.obj"));
-    ImportMessages messages;
-    exportObj(mesh, {}, {}, obj, messages);
-    QVERIFY(!messages.hasError());
-    compare(readBack(obj), mesh);
-}
+private slots:
+    void roundTrip()
+    {
+        QStringList paths = TestSupport::modelFiles(QStringLiteral("staticmesh"));
+        const QString spider = TestSupport::shared(QStringLiteral("models/obj_spider/spider.obj"));
+        if (!spider.isEmpty())
+            paths << spider;
+        for (const QString &path : qAsConst(paths)) {
+            StaticMesh mesh;
+            if (path == spider)
+                mesh = readBack(path);
+            else
+                QVERIFY(!mesh.read(path));
+            QVERIFY(!mesh.vertices.empty());
+            QTemporaryDir folder;
+            const QString obj = folder.filePath(QStringLiteral("m\u00f6del.obj"));
+            ImportMessages messages;
+            exportObj(mesh, {}, {}, obj, messages);
+            QVERIFY(!messages.hasError());
+            compare(readBack(obj), mesh);
+            QVERIFY2(!QTest::currentTestFailed(), qPrintable(path));
+        }
+    }
 
-void tst_objexport::badTriangles()
-{
-    StaticMesh mesh;
-    mesh.vertices.resize(3);
-    mesh.vertices[1].position = {1, 0, 0};
-    mesh.vertices[2].position = {0, 1, 0};
-    mesh.surfaces = {{QStringLiteral("a/b/c"), {0, 1, 2, 0, 1, 3, 65535, 1, 2, 0}},
-                     {QStringLiteral("d"), {9}}};
-    QTemporaryDir folder;
-    const QString obj = folder.filePath(QStringLiteral("a.obj"));
-    ImportMessages messages;
-    exportObj(mesh, {}, {0, 7}, obj, messages);
-    QVERIFY(!messages.hasError());
-    QCOMPARE(trianglesOf(readBack(obj)).size(), size_t(1));
+    void badTriangles()
+    {
+        StaticMesh mesh = threeCorners();
+        mesh.surfaces = {{"a/b/c", {0, 1, 2, 0, 1, 3, 65535, 1, 2, 0}}, {"d", {9}}};
+        QTemporaryDir folder;
+        const QString obj = folder.filePath(QStringLiteral("a.obj"));
+        ImportMessages messages;
+        exportObj(mesh, {}, {0, 7}, obj, messages);
+        QVERIFY(!messages.hasError());
+        QCOMPARE(trianglesOf(readBack(obj)).size(), size_t(1));
 
-    mesh.surfaces[0].triangleIndexes = {0, 1};
-    exportObj(mesh, {}, {}, folder.filePath(QStringLiteral("b.obj")), messages);
-    QCOMPARE(messages.lines.size(), 1);
-    QVERIFY(messages.hasError());
-}
+        mesh.surfaces[0].triangleIndexes = {0, 1};
+        exportObj(mesh, {}, {}, folder.filePath(QStringLiteral("b.obj")), messages);
+        QCOMPARE(messages.lines.size(), 1);
+        QVERIFY(messages.hasError());
+    }
 
-void tst_objexport::texturesAndNames()
-{
-    QTemporaryDir game;
-    QTemporaryDir mod;
-    QTemporaryDir target;
-    QVERIFY(QDir(game.path()).mkpath(QStringLiteral("materials")));
-    QVERIFY(QDir(mod.path()).mkpath(QStringLiteral("textures")));
-    const MaterialTable table{{QStringLiteral("brick"), QStringLiteral("textures/wall.v2.png")},
-                              {QStringLiteral("other"), QStringLiteral("textures/wall.v2.png")},
-                              {QStringLiteral("lost"), QStringLiteral("textures/lost.png")}};
-    QCOMPARE(writeKMat(game.filePath(QStringLiteral("materials/m.kmat")), table), QString());
-    QVERIFY(TestSupport::writeFile(mod.filePath(QStringLiteral("textures/wall.v2.png")), "picture"));
+    void texturesAndNames()
+    {
+        const TestFolder game, mod, target;
+        const QString kmat = game.put("materials/m.kmat", {});
+        mod.put("textures/wall.v2.png", "picture");
+        const MaterialTable table{{QStringLiteral("brick"), QStringLiteral("textures/wall.v2.png")},
+                                  {QStringLiteral("other"), QStringLiteral("textures/wall.v2.png")},
+                                  {QStringLiteral("lost"), QStringLiteral("textures/lost.png")}};
+        QCOMPARE(writeKMat(kmat, table), QString());
 
-    StaticMesh mesh;
-    mesh.vertices.resize(3);
-    mesh.vertices[1].position = {1, 0, 0};
-    mesh.vertices[2].position = {0, 1, 0};
-    for (const char *name : {"brick", "_white", "other", "lost", "none"})
-        mesh.surfaces.push_back({QStringLiteral("materials/m/") + QLatin1String(name), {0, 1, 2}});
-    ImportMessages messages;
-    MaterialFiles materials(game.path(), mod.path());
-    const WorkerJob job = staticMeshExport(mesh, QString(), materials, messages);
-    QCOMPARE(job.objName, QStringLiteral("untitled.obj"));
-    QCOMPARE(job.textureOfSurface, (std::vector<qint32>{0, -1, 0, 1, -1}));
-    QCOMPARE(messages.lines.size(), 2);
-    QCOMPARE(messages.lines[0].text, QStringLiteral("[Static Mesh Export] Texture not found '%1'")
-                                         .arg(mod.filePath(QStringLiteral("textures/lost.png"))));
-    QCOMPARE(messages.lines[1].text, QStringLiteral("[Static Mesh Export] No material 'none' in '%1'")
-                                         .arg(game.filePath(QStringLiteral("materials/m.kmat"))));
+        StaticMesh mesh = threeCorners();
+        for (const char *name : {"brick", "_white", "other", "lost", "none"})
+            mesh.surfaces.push_back({QStringLiteral("materials/m/") + QLatin1String(name), {0, 1, 2}});
+        ImportMessages messages;
+        MaterialFiles materials(game.path(), mod.path());
+        const WorkerJob job = staticMeshExport(mesh, QString(), materials, messages);
+        QCOMPARE(job.objName, QStringLiteral("untitled.obj"));
+        QCOMPARE(job.textureOfSurface, (std::vector<qint32>{0, -1, 0, 1, -1}));
+        QCOMPARE(messages.lines.size(), 2);
+        QCOMPARE(messages.lines[0].text,
+                 QString("[Static Mesh Export] Texture not found '%1'").arg(mod.path("textures/lost.png")));
+        QCOMPARE(messages.lines[1].text,
+                 QStringLiteral("[Static Mesh Export] No material 'none' in '%1'").arg(kmat));
 
-    ImportWorker worker;
-    QSignalSpy finished(&worker, &ImportWorker::finished);
-    worker.start(job, mesh);
-    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 20000);
-    QVERIFY(!worker.messages().hasError());
-    QVERIFY(!placeExport(worker, job, target.path(), messages));
-    QCOMPARE(QDir(target.path()).entryList(QDir::Files),
-             QStringList({QStringLiteral("untitled.mtl"), QStringLiteral("untitled.obj"),
-                          QStringLiteral("wall.v2.png")}));
-    const QByteArray mtl = TestSupport::readFile(target.filePath(QStringLiteral("untitled.mtl")));
-    QCOMPARE(mtl.count("newmtl wall.v2\n"), 1);
-    QCOMPARE(mtl.count("map_Kd wall.v2.png\n"), 1);
-    QCOMPARE(mtl.count("map_Kd"), 2);
-    QVERIFY(mtl.contains("Kd 1 1 1\n"));
+        ImportWorker worker;
+        QSignalSpy finished(&worker, &ImportWorker::finished);
+        worker.start(job, mesh);
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 20000);
+        QVERIFY(!worker.messages().hasError());
+        QVERIFY(!placeExport(worker, job, target.path(), messages));
+        QCOMPARE(QDir(target.path()).entryList(QDir::Files),
+                 QStringList({QString("untitled.mtl"), QString("untitled.obj"), QString("wall.v2.png")}));
+        const QByteArray mtl = TestSupport::readFile(target.path("untitled.mtl"));
+        QCOMPARE(mtl.count("newmtl wall.v2\n"), 1);
+        QCOMPARE(mtl.count("map_Kd wall.v2.png\n"), 1);
+        QCOMPARE(mtl.count("map_Kd"), 2);
+        QVERIFY(mtl.contains("Kd 1 1 1\n"));
 
-    // A folder that went away in the meantime.
-    messages.lines.clear();
-    QVERIFY(placeExport(worker, job, target.filePath(QStringLiteral("none")), messages));
-    QVERIFY(messages.hasError());
-    messages.lines.clear();
-    staticMeshExport(StaticMesh(), QStringLiteral("/a/b.v2.staticmesh"), materials, messages);
-    QCOMPARE(messages.lines.size(), 1);
-    QCOMPARE(messages.lines[0].text, QStringLiteral("[Static Mesh Export] Mesh has no surfaces"));
-}
+        // A folder that went away in the meantime.
+        messages.lines.clear();
+        QVERIFY(placeExport(worker, job, target.path("none"), messages));
+        QVERIFY(messages.hasError());
+        messages.lines.clear();
+        staticMeshExport(StaticMesh(), QStringLiteral("/a/b.v2.staticmesh"), materials, messages);
+        QCOMPARE(messages.lines.size(), 1);
+        QCOMPARE(messages.lines[0].text, QStringLiteral("[Static Mesh Export] Mesh has no surfaces"));
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_objexport)
 #include "tst_objexport.moc"

@@ -69,144 +69,136 @@ class TestFormats : public QObject
     Q_OBJECT
 
 private slots:
-    void skinnedMeshFields();
-    void animFields();
-    void staticMeshFields();
-    void samplesKeepEveryByte();
-    void modelsThatAreNotSaved();
-    void staticIndexListsOfOddLength();
-    void namesOfNumbers();
-};
-
-void TestFormats::skinnedMeshFields()
-{
-    SkinnedMesh mesh;
-    mesh.version = 2;
-    mesh.bbMin = {-1.0f, -1.0f, -1.0f};
-    mesh.bbMax = {1.0f, 1.0f, 2.0f};
-    mesh.headTrackStart = 1;
-    mesh.headTrackEnd = 2;
-    mesh.headTrackFactor = -2;
-    mesh.nodes = {{{1, 65535}, {0.0f, 0.0f, 0.0f}, {1.0f, 1.0f, 1.0f}, 5, -71, 255, 2.0f, -1}};
-    mesh.unknownA = 10;
-    mesh.hotPoints = {{{1.0f, 2.0f, -1.0f}, 3, 4, 0xFFFF, 16384}};
-    mesh.unknownB = 11;
-    mesh.surfaces = {{QStringLiteral("a\u00e9"), {0, 1, 2}}, {}};
-    mesh.vertices = {{{1.0f, 2.0f, -1.0f}, {2.0f, -1.0f}, {0.0f, 1.0f, 0.0f}, 7}};
-    checkBytes(mesh, hex(SkinnedMeshBytes));
-}
-
-void TestFormats::animFields()
-{
-    AnimBlock block;
-    block.animId = -1;
-    block.frameScale = 1.0f;
-    block.blendLength = 1;
-    block.blendStart = 2;
-    block.blendEnd = 3;
-    block.speed = 15.0f;
-    block.loopFrame = 4;
-    block.nodes = {{{1.0f, 2.0f, -1.0f}, {0.0f, 0.0f, 0.0f, 1.0f}, 5, 6}};
-    block.frames = {{1.0f}, {2.0f}};
-    block.translations = TrackTable<QVector3D>(1, 2);
-    block.translations.at(0, 0) = {1.0f, 0.0f, 0.0f};
-    block.translations.at(0, 1) = {2.0f, 0.0f, 0.0f};
-    block.rotations = TrackTable<QVector4D>(1, 2);
-    block.rotations.at(0, 0) = {0.0f, 0.0f, 0.0f, 1.0f};
-    block.rotations.at(0, 1) = {1.0f, 0.0f, 0.0f, 0.0f};
-    block.actions = {{1, 2, 0xFFFF, {1.0f, 2.0f, -1.0f}, {16384.0f, 1.0f, 0, 0, 0, 0, 0, -1.0f}}};
-    AnimFile file;
-    file.version = 1;
-    file.blocks = {block};
-    checkBytes(file, hex(AnimBytes));
-}
-
-void TestFormats::staticMeshFields()
-{
-    StaticMesh mesh;
-    mesh.version = 2;
-    mesh.bbMin = {-1.0f, -1.0f, -1.0f};
-    mesh.bbMax = {1.0f, 1.0f, 2.0f};
-    mesh.surfaces = {{QStringLiteral("_white"), {0, 1, 2, 2, 1, 65535}}};
-    mesh.vertices = {{{1.0f, 2.0f, -1.0f}, {2.0f, -1.0f}, {0.0f, 1.0f, 0.0f}}};
-    checkBytes(mesh, hex(StaticMeshBytes));
-}
-
-void TestFormats::samplesKeepEveryByte()
-{
-    const QTemporaryDir folder;
-    for (const QString &suffix : suffixes()) {
-        withModel(suffix, [&](auto model) {
-            // Bytes behind the end are no failure and are dropped.
-            const QByteArray bytes = bytesOfSample(suffix);
-            const QString path = folder.filePath(QStringLiteral("longer.") + suffix);
-            QVERIFY(TestSupport::writeFile(path, bytes + "trailing"));
-            QString error;
-            QVERIFY2(!model.read(path, &error), qPrintable(error));
-            QVERIFY(!model.write(path));
-            QCOMPARE(TestSupport::readFile(path).toHex(), bytes.toHex());
-
-            error = QStringLiteral("of an earlier file");
-            QVERIFY(model.read(folder.filePath(QStringLiteral("missing")), &error));
-            QCOMPARE(error, QString());
-        });
+    void skinnedMeshFields()
+    {
+        SkinnedMesh mesh;
+        mesh.version = 2;
+        mesh.bbMin = {-1.0f, -1.0f, -1.0f};
+        mesh.bbMax = {1.0f, 1.0f, 2.0f};
+        mesh.headTrackStart = 1;
+        mesh.headTrackEnd = 2;
+        mesh.headTrackFactor = -2;
+        mesh.nodes = {{{1, 65535}, {0.0f, 0.0f, 0.0f}, {1.0f, 1.0f, 1.0f}, 5, -71, 255, 2.0f, -1}};
+        mesh.unknownA = 10;
+        mesh.hotPoints = {{{1.0f, 2.0f, -1.0f}, 3, 4, 0xFFFF, 16384}};
+        mesh.unknownB = 11;
+        mesh.surfaces = {{QStringLiteral("a\u00e9"), {0, 1, 2}}, {}};
+        mesh.vertices = {{{1.0f, 2.0f, -1.0f}, {2.0f, -1.0f}, {0.0f, 1.0f, 0.0f}, 7}};
+        checkBytes(mesh, hex(SkinnedMeshBytes));
     }
-}
 
-void TestFormats::modelsThatAreNotSaved()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("old"));
-    QVERIFY(TestSupport::writeFile(path, "old bytes"));
+    void animFields()
+    {
+        AnimBlock block;
+        block.animId = -1;
+        block.frameScale = 1.0f;
+        block.blendLength = 1;
+        block.blendStart = 2;
+        block.blendEnd = 3;
+        block.speed = 15.0f;
+        block.loopFrame = 4;
+        block.nodes = {{{1.0f, 2.0f, -1.0f}, {0.0f, 0.0f, 0.0f, 1.0f}, 5, 6}};
+        block.frames = {{1.0f}, {2.0f}};
+        block.translations = TrackTable<QVector3D>(1, 2);
+        block.translations.at(0, 0) = {1.0f, 0.0f, 0.0f};
+        block.translations.at(0, 1) = {2.0f, 0.0f, 0.0f};
+        block.rotations = TrackTable<QVector4D>(1, 2);
+        block.rotations.at(0, 0) = {0.0f, 0.0f, 0.0f, 1.0f};
+        block.rotations.at(0, 1) = {1.0f, 0.0f, 0.0f, 0.0f};
+        block.actions = {{1, 2, 0xFFFF, {1.0f, 2.0f, -1.0f}, {16384.0f, 1.0f, 0, 0, 0, 0, 0, -1.0f}}};
+        AnimFile file;
+        file.version = 1;
+        file.blocks = {block};
+        checkBytes(file, hex(AnimBytes));
+    }
 
-    SkinnedMesh boneless = skinnedMesh();
-    boneless.nodes.clear();
-    QVERIFY(boneless.write(path));
-    // 65535 would end the index list early and shift everything behind it.
-    SkinnedMesh shifted = skinnedMesh();
-    shifted.surfaces[2].triangleIndexes = {0, 1, 65535};
-    QVERIFY(shifted.write(path));
-    AnimFile blockless = animFile();
-    blockless.blocks.clear();
-    QVERIFY(blockless.write(path));
-    StaticMesh surfaceless = staticMesh();
-    surfaceless.surfaces.clear();
-    QVERIFY(surfaceless.write(path));
-    QVERIFY(!readBytes(surfaceless, hex("02000000") + QByteArray(32, '\0')));
+    void staticMeshFields()
+    {
+        StaticMesh mesh;
+        mesh.version = 2;
+        mesh.bbMin = {-1.0f, -1.0f, -1.0f};
+        mesh.bbMax = {1.0f, 1.0f, 2.0f};
+        mesh.surfaces = {{QStringLiteral("_white"), {0, 1, 2, 2, 1, 65535}}};
+        mesh.vertices = {{{1.0f, 2.0f, -1.0f}, {2.0f, -1.0f}, {0.0f, 1.0f, 0.0f}}};
+        checkBytes(mesh, hex(StaticMeshBytes));
+    }
 
-    QCOMPARE(TestSupport::readFile(path), QByteArray("old bytes"));
-    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
-}
+    void samplesKeepEveryByte()
+    {
+        const QTemporaryDir folder;
+        for (const QString &suffix : suffixes()) {
+            withModel(suffix, [&](auto model) {
+                // Bytes behind the end are no failure and are dropped.
+                const QByteArray bytes = bytesOfSample(suffix);
+                const QString path = folder.filePath(QStringLiteral("longer.") + suffix);
+                QVERIFY(TestSupport::writeFile(path, bytes + "trailing"));
+                QString error;
+                QVERIFY2(!model.read(path, &error), qPrintable(error));
+                QVERIFY(!model.write(path));
+                QCOMPARE(TestSupport::readFile(path).toHex(), bytes.toHex());
 
-void TestFormats::staticIndexListsOfOddLength()
-{
-    StaticMesh mesh;
-    QVERIFY(!readBytes(mesh, hex(StaticMeshBytes)));
-    mesh.surfaces[0].triangleIndexes.pop_back();
-    // One triangle is counted and all five indexes are written.
-    QByteArray expected = hex(StaticMeshBytes);
-    expected[28 + 4 + 7] = 1;
-    expected.remove(28 + 4 + 7 + 4 + 10, 2);
-    QCOMPARE(bytesOf(mesh).toHex(), expected.toHex());
-}
+                error = QStringLiteral("of an earlier file");
+                QVERIFY(model.read(folder.filePath(QStringLiteral("missing")), &error));
+                QCOMPARE(error, QString());
+            });
+        }
+    }
 
-void TestFormats::namesOfNumbers()
-{
-    SkinnedMesh mesh;
-    mesh.nodes.resize(1);
-    const auto nameOf = [&mesh](int flags) {
-        mesh.nodes[0].symbolFlags = qint8(flags);
-        return boneSymbolName(mesh, 0);
-    };
-    QCOMPARE(nameOf(0x00), QStringLiteral("Left Root"));
-    QCOMPARE(nameOf(0x46 | 0x38), QStringLiteral("Right Upper Arm")); // bits 3 to 5 say nothing
-    QCOMPARE(nameOf(0x81), QStringLiteral("Left Chin"));              // negative as a signed byte
-    QCOMPARE(nameOf(0xFF), QStringLiteral("Right Foot"));
-    QCOMPARE(boneSymbolName(mesh, 1), QString());
-    QCOMPARE(boneSymbolName(mesh, -1), QString());
-    for (int i = 0; i < 35; ++i)
-        QVERIFY(eventTypeNames().value(i).startsWith(QStringLiteral("%1: ").arg(i, 2, 10, QLatin1Char('0'))));
-}
+    void modelsThatAreNotSaved()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("old"));
+        QVERIFY(TestSupport::writeFile(path, "old bytes"));
+
+        SkinnedMesh boneless = skinnedMesh();
+        boneless.nodes.clear();
+        QVERIFY(boneless.write(path));
+        // 65535 would end the index list early and shift everything behind it.
+        SkinnedMesh shifted = skinnedMesh();
+        shifted.surfaces[2].triangleIndexes = {0, 1, 65535};
+        QVERIFY(shifted.write(path));
+        AnimFile blockless = animFile();
+        blockless.blocks.clear();
+        QVERIFY(blockless.write(path));
+        StaticMesh surfaceless = staticMesh();
+        surfaceless.surfaces.clear();
+        QVERIFY(surfaceless.write(path));
+        QVERIFY(!readBytes(surfaceless, hex("02000000") + QByteArray(32, '\0')));
+
+        QCOMPARE(TestSupport::readFile(path), QByteArray("old bytes"));
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    }
+
+    void staticIndexListsOfOddLength()
+    {
+        StaticMesh mesh;
+        QVERIFY(!readBytes(mesh, hex(StaticMeshBytes)));
+        mesh.surfaces[0].triangleIndexes.pop_back();
+        // One triangle is counted and all five indexes are written.
+        QByteArray expected = hex(StaticMeshBytes);
+        expected[28 + 4 + 7] = 1;
+        expected.remove(28 + 4 + 7 + 4 + 10, 2);
+        QCOMPARE(bytesOf(mesh).toHex(), expected.toHex());
+    }
+
+    void namesOfNumbers()
+    {
+        SkinnedMesh mesh;
+        mesh.nodes.resize(1);
+        const auto nameOf = [&mesh](int flags) {
+            mesh.nodes[0].symbolFlags = qint8(flags);
+            return boneSymbolName(mesh, 0);
+        };
+        QCOMPARE(nameOf(0x00), QStringLiteral("Left Root"));
+        QCOMPARE(nameOf(0x46 | 0x38), QStringLiteral("Right Upper Arm")); // bits 3 to 5 say nothing
+        QCOMPARE(nameOf(0x81), QStringLiteral("Left Chin"));              // negative as a signed byte
+        QCOMPARE(nameOf(0xFF), QStringLiteral("Right Foot"));
+        QCOMPARE(boneSymbolName(mesh, 1), QString());
+        QCOMPARE(boneSymbolName(mesh, -1), QString());
+        for (int i = 0; i < 35; ++i)
+            QVERIFY(eventTypeNames().value(i).startsWith(QString("%1: ").arg(i, 2, 10, QLatin1Char('0'))));
+    }
+};
 
 QTEST_GUILESS_MAIN(TestFormats)
 #include "tst_formats.moc"

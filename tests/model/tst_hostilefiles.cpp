@@ -4,8 +4,6 @@
 #include "SampleModels.h"
 #include "TestSupport.h"
 
-#include <QHash>
-
 #include <cstdlib>
 #include <malloc.h>
 #include <new>
@@ -77,116 +75,106 @@ class TestHostileFiles : public QObject
     Q_OBJECT
 
 private slots:
-    void cutAtEveryByte_data();
-    void cutAtEveryByte();
-    void hostileCounts_data();
-    void hostileCounts();
-    void longFilesOfHostileCounts_data();
-    void longFilesOfHostileCounts();
-};
-
-void TestHostileFiles::cutAtEveryByte_data()
-{
-    QTest::addColumn<QString>("suffix");
-    QTest::addColumn<QByteArray>("bytes");
-    for (const QString &suffix : suffixes()) {
-        QTest::newRow(qPrintable(suffix)) << suffix << bytesOfSample(suffix);
-        for (const QString &path : TestSupport::modelFiles(suffix))
-            QTest::newRow(qPrintable(path)) << suffix << TestSupport::readFile(path);
+    void cutAtEveryByte_data()
+    {
+        QTest::addColumn<QString>("suffix");
+        QTest::addColumn<QByteArray>("bytes");
+        for (const QString &suffix : suffixes()) {
+            QTest::newRow(qPrintable(suffix)) << suffix << bytesOfSample(suffix);
+            for (const QString &path : TestSupport::modelFiles(suffix))
+                QTest::newRow(qPrintable(path)) << suffix << TestSupport::readFile(path);
+        }
     }
-}
 
-void TestHostileFiles::cutAtEveryByte()
-{
-    QFETCH(QString, suffix);
-    QFETCH(QByteArray, bytes);
-    const LiteralFormat literal(suffix, bytes);
-    QCOMPARE(literal.length(), bytes.size());
+    void cutAtEveryByte()
+    {
+        QFETCH(QString, suffix);
+        QFETCH(QByteArray, bytes);
+        const LiteralFormat literal(suffix, bytes);
+        QCOMPARE(literal.length(), bytes.size());
 
-    // Every byte of a short file. A long one is cut at every byte of its start and its end, and in steps
-    // between; reading half a megabyte half a million times would take the test its time limit.
-    // KORVANE_CUT_EVERY_BYTE in the environment does it all the same.
-    const bool everyByte = bytes.size() <= 20000 || qEnvironmentVariableIsSet("KORVANE_CUT_EVERY_BYTE");
-    const int ends = 256;
-    const int step = everyByte ? 1 : bytes.size() / 60 | 1;
-    // Exactly as long as the part that is left, so that a sanitizer sees a read beyond it.
-    std::vector<uchar> part;
-    withModel(suffix, [&](auto model) {
-        int length = 0;
-        while (length < bytes.size()) {
-            part.assign(bytes.begin(), bytes.begin() + length);
-            part.shrink_to_fit();
-            BinaryFileReader reader(part.data(), length);
-            const bool failed = model.read(reader);
-            if (!failed || reader.errorText() != literal.errorTextWhenCutAt(length)) {
-                QFAIL(qPrintable(QStringLiteral("cut after %1 bytes: %2, not %3")
-                                     .arg(QString::number(length), reader.errorText(),
-                                          literal.errorTextWhenCutAt(length))));
+        // Every byte of a short file. A long one is cut at every byte of its start and its end, and in steps
+        // between; reading half a megabyte half a million times would take the test its time limit.
+        // KORVANE_CUT_EVERY_BYTE in the environment does it all the same.
+        const bool everyByte = bytes.size() <= 20000 || qEnvironmentVariableIsSet("KORVANE_CUT_EVERY_BYTE");
+        const int ends = 256;
+        const int step = everyByte ? 1 : bytes.size() / 60 | 1;
+        // Exactly as long as the part that is left, so that a sanitizer sees a read beyond it.
+        std::vector<uchar> part;
+        withModel(suffix, [&](auto model) {
+            int length = 0;
+            while (length < bytes.size()) {
+                part.assign(bytes.begin(), bytes.begin() + length);
+                part.shrink_to_fit();
+                BinaryFileReader reader(part.data(), length);
+                const bool failed = model.read(reader);
+                if (!failed || reader.errorText() != literal.errorTextWhenCutAt(length)) {
+                    QFAIL(qPrintable(QStringLiteral("cut after %1 bytes: %2, not %3")
+                                         .arg(QString::number(length), reader.errorText(),
+                                              literal.errorTextWhenCutAt(length))));
+                }
+                length += length < ends || length >= bytes.size() - ends
+                              ? 1
+                              : std::min(step, bytes.size() - ends - length);
             }
-            length += length < ends || length >= bytes.size() - ends
-                          ? 1
-                          : std::min(step, bytes.size() - ends - length);
-        }
-    });
-}
-
-void TestHostileFiles::hostileCounts_data()
-{
-    cutAtEveryByte_data();
-}
-
-void TestHostileFiles::hostileCounts()
-{
-    QFETCH(QString, suffix);
-    QFETCH(QByteArray, bytes);
-    const LiteralFormat literal(suffix, bytes);
-    QVERIFY(literal.counts().size() >= 3);
-    size_t most = 0;
-    QHash<QByteArray, int> seen;
-    for (const LiteralFormat::Count &count : literal.counts()) {
-        // Hundreds of child lists or blocks are all read by the same lines.
-        if (++seen[count.name] > 2)
-            continue;
-        const qint32 honest = qFromLittleEndian<qint32>(bytes.constData() + count.offset);
-        for (qint32 value : {0x7FFFFFFF, -1, std::numeric_limits<qint32>::min(), 0x2AAAAAAB, 0x55555556,
-                             0x40000000, 0x00FFFFFF, 1000000, 1000001, 0, honest - 1, honest + 1}) {
-            QByteArray patched = bytes;
-            qToLittleEndian<qint32>(value, patched.data() + count.offset);
-            const QString what = QStringLiteral("%1 of %2").arg(QLatin1String(count.name)).arg(value);
-            const size_t taken = checkAgainstLiteral(suffix, patched, what);
-            if (QTest::currentTestFailed())
-                return;
-            most = std::max(most, taken);
-        }
+        });
     }
-    QVERIFY2(most <= MaxHostileBytes, qPrintable(QString::number(most)));
-}
 
-void TestHostileFiles::longFilesOfHostileCounts_data()
-{
-    QTest::addColumn<QString>("suffix");
-    QTest::addColumn<int>("countOffset");
-    QTest::newRow("bones without bodies") << suffixes()[0] << 31;
-    QTest::newRow("blocks") << suffixes()[1] << 4;
-    QTest::newRow("bones of a block") << suffixes()[1] << 16;
-    QTest::newRow("surfaces") << suffixes()[2] << 28;
-}
+    void hostileCounts_data() { cutAtEveryByte_data(); }
 
-void TestHostileFiles::longFilesOfHostileCounts()
-{
-    QFETCH(QString, suffix);
-    QFETCH(int, countOffset);
-    // The file holds much, but not as much as the count says: nothing of it is kept.
-    QByteArray bytes(8 * 1024 * 1024, '\0');
-    const qint32 tooMany = countOffset == 31 ? 1000000 : 0x7FFFFFFF;
-    qToLittleEndian<qint32>(tooMany, bytes.data() + countOffset);
-    if (countOffset == 16) {
-        qToLittleEndian<qint32>(1, bytes.data() + 4);
-        qToLittleEndian<qint32>(tooMany, bytes.data() + 20);
+    void hostileCounts()
+    {
+        QFETCH(QString, suffix);
+        QFETCH(QByteArray, bytes);
+        const LiteralFormat literal(suffix, bytes);
+        QVERIFY(literal.counts().size() >= 3);
+        size_t most = 0;
+        QHash<QByteArray, int> seen;
+        for (const LiteralFormat::Count &count : literal.counts()) {
+            // Hundreds of child lists or blocks are all read by the same lines.
+            if (++seen[count.name] > 2)
+                continue;
+            const qint32 honest = qFromLittleEndian<qint32>(bytes.constData() + count.offset);
+            for (qint32 value : {0x7FFFFFFF, -1, std::numeric_limits<qint32>::min(), 0x2AAAAAAB, 0x55555556,
+                                 0x40000000, 0x00FFFFFF, 1000000, 1000001, 0, honest - 1, honest + 1}) {
+                QByteArray patched = bytes;
+                qToLittleEndian<qint32>(value, patched.data() + count.offset);
+                const QString what = QStringLiteral("%1 of %2").arg(QLatin1String(count.name)).arg(value);
+                const size_t taken = checkAgainstLiteral(suffix, patched, what);
+                if (QTest::currentTestFailed())
+                    return;
+                most = std::max(most, taken);
+            }
+        }
+        QVERIFY2(most <= MaxHostileBytes, qPrintable(QString::number(most)));
     }
-    const size_t taken = checkAgainstLiteral(suffix, bytes, QLatin1String(QTest::currentDataTag()));
-    QVERIFY2(taken <= 64 * 1024, qPrintable(QString::number(taken)));
-}
+
+    void longFilesOfHostileCounts_data()
+    {
+        QTest::addColumn<QString>("suffix");
+        QTest::addColumn<int>("countOffset");
+        QTest::newRow("bones without bodies") << suffixes()[0] << 31;
+        QTest::newRow("blocks") << suffixes()[1] << 4;
+        QTest::newRow("bones of a block") << suffixes()[1] << 16;
+        QTest::newRow("surfaces") << suffixes()[2] << 28;
+    }
+
+    void longFilesOfHostileCounts()
+    {
+        QFETCH(QString, suffix);
+        QFETCH(int, countOffset);
+        // The file holds much, but not as much as the count says: nothing of it is kept.
+        QByteArray bytes(8 * 1024 * 1024, '\0');
+        const qint32 tooMany = countOffset == 31 ? 1000000 : 0x7FFFFFFF;
+        qToLittleEndian<qint32>(tooMany, bytes.data() + countOffset);
+        if (countOffset == 16) {
+            qToLittleEndian<qint32>(1, bytes.data() + 4);
+            qToLittleEndian<qint32>(tooMany, bytes.data() + 20);
+        }
+        const size_t taken = checkAgainstLiteral(suffix, bytes, QLatin1String(QTest::currentDataTag()));
+        QVERIFY2(taken <= 64 * 1024, qPrintable(QString::number(taken)));
+    }
+};
 
 QTEST_GUILESS_MAIN(TestHostileFiles)
 #include "tst_hostilefiles.moc"

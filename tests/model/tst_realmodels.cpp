@@ -3,10 +3,6 @@
 #include "SampleModels.h"
 #include "TestSupport.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-
 using namespace SampleModels;
 
 namespace {
@@ -73,78 +69,61 @@ class TestRealModels : public QObject
     Q_OBJECT
 
 private slots:
-    void savedUnedited_data();
-    void savedUnedited();
-    void facts_data();
-    void facts();
+    void savedUnedited()
+    {
+        const TestFolder folder;
+        for (const QString &path : TestSupport::allModelFiles()) {
+            withModel(QFileInfo(path).suffix(), [&](auto model) {
+                QString error;
+                QVERIFY2(!model.read(path, &error), qPrintable(path + error));
+                const QByteArray bytes = TestSupport::readFile(folder.save("copy", model));
+                QVERIFY2(bytes == TestSupport::readFile(path), qPrintable(path));
+            });
+        }
+    }
+
+    void facts_data()
+    {
+        QTest::addColumn<QJsonObject>("expected");
+        const QByteArray json = TestSupport::readFile(TestSupport::shared("gamedata/expected.json"));
+        const QJsonObject models = QJsonDocument::fromJson(json).object();
+        for (auto model = models.begin(); model != models.end(); ++model)
+            QTest::newRow(qPrintable(model.key())) << model.value().toObject();
+        if (models.isEmpty())
+            QTest::newRow("none") << QJsonObject();
+    }
+
+    void facts()
+    {
+        SKIP_WITHOUT_SHARED("gamedata/expected.json");
+        QFETCH(QJsonObject, expected);
+        QVERIFY(!expected.isEmpty());
+        SkinnedMesh skinned;
+        AnimFile anim;
+        StaticMesh rigid;
+        const QJsonObject files = expected["files"].toObject();
+        for (auto file = files.begin(); file != files.end(); ++file) {
+            const QString path = TestSupport::shared(QLatin1String("gamedata/") + file.key());
+            if (path.endsWith(QLatin1String(".skinnedmesh")))
+                QVERIFY(!skinned.read(path));
+            else if (path.endsWith(QLatin1String(".anim")))
+                QVERIFY(!anim.read(path));
+            else if (path.endsWith(QLatin1String(".staticmesh")))
+                QVERIFY(!rigid.read(path));
+        }
+        if (expected["kind"].toString() == QLatin1String("static")) {
+            compareMesh(rigid, expected);
+            return;
+        }
+        compareMesh(skinned, expected);
+        compareBones(skinned, expected["bones"].toArray());
+        QCOMPARE(int(skinned.hotPoints.size()), expected["hotPoints"].toInt());
+        const QJsonArray blocks = expected["blocks"].toArray();
+        QCOMPARE(int(anim.blocks.size()), blocks.size());
+        for (int i = 0; i < blocks.size(); ++i)
+            compareBlock(anim.blocks[size_t(i)], blocks[i], skinned.nodes.size());
+    }
 };
-
-void TestRealModels::savedUnedited_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("suffix");
-    for (const QString &suffix : suffixes()) {
-        for (const QString &path : TestSupport::modelFiles(suffix))
-            QTest::newRow(qPrintable(path)) << path << suffix;
-    }
-}
-
-void TestRealModels::savedUnedited()
-{
-    QFETCH(QString, path);
-    QFETCH(QString, suffix);
-    withModel(suffix, [&](auto model) {
-        QString error;
-        QVERIFY2(!model.read(path, &error), qPrintable(error));
-        const QTemporaryDir folder;
-        const QString copy = folder.filePath(QStringLiteral("copy"));
-        QVERIFY(!model.write(copy));
-        QVERIFY(TestSupport::readFile(copy) == TestSupport::readFile(path));
-    });
-}
-
-void TestRealModels::facts_data()
-{
-    QTest::addColumn<QJsonObject>("expected");
-    const QByteArray json =
-        TestSupport::readFile(TestSupport::shared(QStringLiteral("gamedata/expected.json")));
-    const QJsonObject models = QJsonDocument::fromJson(json).object();
-    for (auto model = models.begin(); model != models.end(); ++model)
-        QTest::newRow(qPrintable(model.key())) << model.value().toObject();
-    if (models.isEmpty())
-        QTest::newRow("none") << QJsonObject();
-}
-
-void TestRealModels::facts()
-{
-    SKIP_WITHOUT_SHARED("gamedata/expected.json");
-    QFETCH(QJsonObject, expected);
-    QVERIFY(!expected.isEmpty());
-    SkinnedMesh skinned;
-    AnimFile anim;
-    StaticMesh rigid;
-    const QJsonObject files = expected["files"].toObject();
-    for (auto file = files.begin(); file != files.end(); ++file) {
-        const QString path = TestSupport::shared(QLatin1String("gamedata/") + file.key());
-        if (path.endsWith(QLatin1String(".skinnedmesh")))
-            QVERIFY(!skinned.read(path));
-        else if (path.endsWith(QLatin1String(".anim")))
-            QVERIFY(!anim.read(path));
-        else if (path.endsWith(QLatin1String(".staticmesh")))
-            QVERIFY(!rigid.read(path));
-    }
-    if (expected["kind"].toString() == QLatin1String("static")) {
-        compareMesh(rigid, expected);
-        return;
-    }
-    compareMesh(skinned, expected);
-    compareBones(skinned, expected["bones"].toArray());
-    QCOMPARE(int(skinned.hotPoints.size()), expected["hotPoints"].toInt());
-    const QJsonArray blocks = expected["blocks"].toArray();
-    QCOMPARE(int(anim.blocks.size()), blocks.size());
-    for (int i = 0; i < blocks.size(); ++i)
-        compareBlock(anim.blocks[size_t(i)], blocks[i], skinned.nodes.size());
-}
 
 QTEST_GUILESS_MAIN(TestRealModels)
 #include "tst_realmodels.moc"

@@ -61,16 +61,128 @@ class TestSaving : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void fullDisk_data() { kinds(); }
-    void fullDisk();
-    void readOnlyFolder_data() { kinds(); }
-    void readOnlyFolder();
-    void refusedRename_data() { kinds(); }
-    void refusedRename();
-    void vanishedFolder_data() { kinds(); }
-    void vanishedFolder();
-    void draftsAreReadBack();
+    void initTestCase_data()
+    {
+        QTest::addColumn<QString>("suffix");
+        for (const QString &suffix : suffixes() + QStringList("kmat"))
+            QTest::newRow(qPrintable(suffix)) << suffix;
+    }
+
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(TestSupport::writeFile(path(), OldBytes));
+    }
+
+    void fullDisk()
+    {
+        QFETCH_GLOBAL(QString, suffix);
+        // A small file goes out in one piece at the very end, a large one in several.
+        for (bool large : {false, true}) {
+            const Save save = saverOf(suffix, large);
+            const QString reference = m_folder->filePath(QStringLiteral("reference"));
+            QVERIFY(!save(reference));
+            const qint64 size = QFileInfo(reference).size();
+            QVERIFY(QFile::remove(reference));
+            QVERIFY(large ? size > 512 * 1024 : size < 4096);
+
+            const qint64 step = large ? size / 40 : 1;
+            for (qint64 limit = 0; limit < size; limit = limit + step < size ? limit + step : size - 1) {
+                bool failed = false;
+                {
+                    const FullDisk disk(limit);
+                    QVERIFY(disk.isSet());
+                    failed = save(path());
+                }
+                QVERIFY2(failed, qPrintable(QString::number(limit)));
+                QVERIFY2(oldFileIsIntact(), qPrintable(QString::number(limit)));
+                if (limit == size - 1)
+                    break;
+            }
+            const FullDisk justEnough(size);
+            QVERIFY(!save(m_folder->filePath(QStringLiteral("fits"))));
+            QVERIFY(QFile::remove(m_folder->filePath(QStringLiteral("fits"))));
+        }
+    }
+
+    void readOnlyFolder()
+    {
+        QFETCH_GLOBAL(QString, suffix);
+        const Save save = saverOf(suffix, false);
+        // The file itself may be written: it is still not overwritten in place.
+        QFile::setPermissions(path(), QFile::Permissions(0x6666));
+        QFile::setPermissions(m_folder->path(), QFile::Permissions(0x5555));
+        // Root may write everywhere, so someone else does the saving.
+        const bool root = geteuid() == 0;
+        if (root && seteuid(65534) != 0)
+            QSKIP("runs as root and cannot be anybody else");
+        const bool writable = access(QFile::encodeName(m_folder->path()).constData(), W_OK) == 0 && !root;
+        const bool failed = save(path());
+        if (root)
+            QCOMPARE(seteuid(0), 0);
+        QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7777));
+        if (writable)
+            QSKIP("permissions do not hold here");
+        QVERIFY(failed);
+        QVERIFY(oldFileIsIntact());
+    }
+
+    void refusedRename()
+    {
+        QFETCH_GLOBAL(QString, suffix);
+        for (bool large : {false, true}) {
+            const Save save = saverOf(suffix, large);
+            {
+                const RefusedRename none;
+                QVERIFY(save(path()));
+            }
+            QVERIFY(oldFileIsIntact());
+        }
+        QVERIFY(!saverOf(suffix, false)(path()));
+        QVERIFY(TestSupport::readFile(path()) != OldBytes);
+    }
+
+    void vanishedFolder()
+    {
+        QFETCH_GLOBAL(QString, suffix);
+        const Save save = saverOf(suffix, false);
+        QVERIFY(save(path() + QStringLiteral("/below a file")));
+        QVERIFY(save(QString()));
+        QVERIFY(oldFileIsIntact());
+        QVERIFY(save(m_folder->path()));
+        const QString gone = m_folder->path();
+        QVERIFY(m_folder->remove());
+        QVERIFY(save(path()));
+        QVERIFY(!QFile::exists(gone));
+    }
+
+    void draftsAreReadBack()
+    {
+        const auto readBack = [](const auto &model) {
+            BinaryFileWriter writer;
+            model.writeDraft(writer);
+            auto back = std::decay_t<decltype(model)>();
+            if (readBytes(back, bytesOf(writer)))
+                qFatal("a draft cannot be read");
+            return back;
+        };
+        SkinnedMesh mesh = skinnedMesh();
+        mesh.surfaces[0].triangleIndexes = {1, SkinnedMesh::IndexTerminator, 0, 1};
+        QVERIFY(!mesh.refusal().isEmpty());
+        QCOMPARE(readBack(mesh).surfaces[0].triangleIndexes, (std::vector<quint16>{1, 65534, 0, 1}));
+        QCOMPARE(readBack(mesh).vertices.size(), mesh.vertices.size());
+        mesh.nodes.clear();
+        QCOMPARE(readBack(mesh).surfaces.size(), mesh.surfaces.size());
+
+        StaticMesh rigid = staticMesh();
+        rigid.surfaces[0].triangleIndexes = {0, 1, 2, 1};
+        QCOMPARE(readBack(rigid).surfaces[0].triangleIndexes, (std::vector<quint16>{0, 1, 2, 1, 1, 1}));
+        QCOMPARE(readBack(rigid).vertices.size(), rigid.vertices.size());
+        rigid.surfaces.clear();
+        QVERIFY(!rigid.refusal().isEmpty());
+        QCOMPARE(readBack(rigid).vertices.size(), rigid.vertices.size());
+        QVERIFY(readBack(AnimFile()).blocks.empty());
+    }
 
 private:
     QString path() const { return m_folder->filePath(QStringLiteral("model")); }
@@ -79,133 +191,9 @@ private:
         return TestSupport::readFile(path()) == OldBytes &&
                QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden) == QStringList("model");
     }
-    static void kinds();
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
-
-void TestSaving::kinds()
-{
-    QTest::addColumn<QString>("suffix");
-    for (const QString &suffix : suffixes() + QStringList("kmat"))
-        QTest::newRow(qPrintable(suffix)) << suffix;
-}
-
-void TestSaving::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(TestSupport::writeFile(path(), OldBytes));
-}
-
-void TestSaving::fullDisk()
-{
-    QFETCH(QString, suffix);
-    // A small file goes out in one piece at the very end, a large one in several.
-    for (bool large : {false, true}) {
-        const Save save = saverOf(suffix, large);
-        const QString reference = m_folder->filePath(QStringLiteral("reference"));
-        QVERIFY(!save(reference));
-        const qint64 size = QFileInfo(reference).size();
-        QVERIFY(QFile::remove(reference));
-        QVERIFY(large ? size > 512 * 1024 : size < 4096);
-
-        const qint64 step = large ? size / 40 : 1;
-        for (qint64 limit = 0; limit < size; limit = limit + step < size ? limit + step : size - 1) {
-            bool failed = false;
-            {
-                const FullDisk disk(limit);
-                QVERIFY(disk.isSet());
-                failed = save(path());
-            }
-            QVERIFY2(failed, qPrintable(QString::number(limit)));
-            QVERIFY2(oldFileIsIntact(), qPrintable(QString::number(limit)));
-            if (limit == size - 1)
-                break;
-        }
-        const FullDisk justEnough(size);
-        QVERIFY(!save(m_folder->filePath(QStringLiteral("fits"))));
-        QVERIFY(QFile::remove(m_folder->filePath(QStringLiteral("fits"))));
-    }
-}
-
-void TestSaving::readOnlyFolder()
-{
-    QFETCH(QString, suffix);
-    const Save save = saverOf(suffix, false);
-    // The file itself may be written: it is still not overwritten in place.
-    QFile::setPermissions(path(), QFile::Permissions(0x6666));
-    QFile::setPermissions(m_folder->path(), QFile::Permissions(0x5555));
-    // Root may write everywhere, so someone else does the saving.
-    const bool root = geteuid() == 0;
-    if (root && seteuid(65534) != 0)
-        QSKIP("runs as root and cannot be anybody else");
-    const bool writable = access(QFile::encodeName(m_folder->path()).constData(), W_OK) == 0 && !root;
-    const bool failed = save(path());
-    if (root)
-        QCOMPARE(seteuid(0), 0);
-    QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7777));
-    if (writable)
-        QSKIP("permissions do not hold here");
-    QVERIFY(failed);
-    QVERIFY(oldFileIsIntact());
-}
-
-void TestSaving::refusedRename()
-{
-    QFETCH(QString, suffix);
-    for (bool large : {false, true}) {
-        const Save save = saverOf(suffix, large);
-        {
-            const RefusedRename none;
-            QVERIFY(save(path()));
-        }
-        QVERIFY(oldFileIsIntact());
-    }
-    QVERIFY(!saverOf(suffix, false)(path()));
-    QVERIFY(TestSupport::readFile(path()) != OldBytes);
-}
-
-void TestSaving::vanishedFolder()
-{
-    QFETCH(QString, suffix);
-    const Save save = saverOf(suffix, false);
-    QVERIFY(save(path() + QStringLiteral("/below a file")));
-    QVERIFY(save(QString()));
-    QVERIFY(oldFileIsIntact());
-    QVERIFY(save(m_folder->path()));
-    const QString gone = m_folder->path();
-    QVERIFY(m_folder->remove());
-    QVERIFY(save(path()));
-    QVERIFY(!QFile::exists(gone));
-}
-
-void TestSaving::draftsAreReadBack()
-{
-    const auto readBack = [](const auto &model) {
-        BinaryFileWriter writer;
-        model.writeDraft(writer);
-        auto back = std::decay_t<decltype(model)>();
-        if (readBytes(back, bytesOf(writer)))
-            qFatal("a draft cannot be read");
-        return back;
-    };
-    SkinnedMesh mesh = skinnedMesh();
-    mesh.surfaces[0].triangleIndexes = {1, SkinnedMesh::IndexTerminator, 0, 1};
-    QVERIFY(!mesh.refusal().isEmpty());
-    QCOMPARE(readBack(mesh).surfaces[0].triangleIndexes, (std::vector<quint16>{1, 65534, 0, 1}));
-    QCOMPARE(readBack(mesh).vertices.size(), mesh.vertices.size());
-    mesh.nodes.clear();
-    QCOMPARE(readBack(mesh).surfaces.size(), mesh.surfaces.size());
-
-    StaticMesh rigid = staticMesh();
-    rigid.surfaces[0].triangleIndexes = {0, 1, 2, 1};
-    QCOMPARE(readBack(rigid).surfaces[0].triangleIndexes, (std::vector<quint16>{0, 1, 2, 1, 1, 1}));
-    QCOMPARE(readBack(rigid).vertices.size(), rigid.vertices.size());
-    rigid.surfaces.clear();
-    QVERIFY(!rigid.refusal().isEmpty());
-    QCOMPARE(readBack(rigid).vertices.size(), rigid.vertices.size());
-    QVERIFY(readBack(AnimFile()).blocks.empty());
-}
 
 QTEST_GUILESS_MAIN(TestSaving)
 #include "tst_saving.moc"

@@ -2,9 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "Hands.h"
 
-#include <QPointer>
-#include <QWheelEvent>
-#include <QWindow>
 #include <QtTest>
 
 namespace {

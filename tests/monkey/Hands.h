@@ -4,10 +4,7 @@
 
 #include "Dice.h"
 
-#include <QPoint>
-#include <QString>
-#include <QVector>
-#include <QWidget>
+#include <QtWidgets>
 
 /// Mouse and keyboard, by way of the windows, as the window system delivers them.
 namespace Hands {

@@ -12,18 +12,6 @@
 #include "Playground.h"
 #include "Settings.h"
 
-#include <QAbstractButton>
-#include <QAbstractItemView>
-#include <QApplication>
-#include <QFileDialog>
-#include <QFileInfo>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMessageBox>
-#include <QScopedValueRollback>
-#include <QThread>
-#include <QTimer>
-
 #include <algorithm>
 
 namespace {

@@ -4,11 +4,7 @@
 
 #include "Dice.h"
 
-#include <QDeadlineTimer>
-#include <QObject>
-#include <QPointer>
-#include <QUrl>
-#include <QVector>
+#include <QtWidgets>
 
 #include <map>
 #include <memory>
@@ -17,8 +13,6 @@ class Checks;
 class Journal;
 class MainWindow;
 class Playground;
-class QDialog;
-class QFileDialog;
 
 /// Uses the program as someone would who knows nothing and stops at nothing. One step a turn of the event
 /// loop, whichever loop runs: a dialog that a step opens is answered by the following ones.

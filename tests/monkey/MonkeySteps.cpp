@@ -12,21 +12,6 @@
 #include "PageStack.h"
 #include "Playground.h"
 
-#include <QAbstractButton>
-#include <QAbstractSpinBox>
-#include <QAction>
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDialog>
-#include <QDockWidget>
-#include <QFileInfo>
-#include <QLineEdit>
-#include <QSlider>
-#include <QTabBar>
-#include <QToolBar>
-#include <QTreeWidget>
-
 namespace {
 /// Longer than FileWatch lets a file rest, so that its bar comes before the next step.
 constexpr int FileRestsMs = 900;
@@ -213,9 +198,8 @@ QString Monkey::textToType(Dice &dice) const
 {
     // The first is empty.
     static const QStringList odd =
-        QStringLiteral(
-            " 0 -1 1 2 7 0.5 -0 127 128 255 256 65535 65536 2147483647 -2147483648 1e38 1e39 -1e-45 nan "
-            "inf %1%2%n <b>bold</b> / ../.. materials/mat_new.kmat")
+        QString(" 0 -1 1 2 7 0.5 -0 127 128 255 256 65535 65536 2147483647 -2147483648 1e38 1e39 -1e-45 nan "
+                "inf %1%2%n <b>bold</b> / ../.. materials/mat_new.kmat")
             .split(QLatin1Char(' '));
     const int kind = dice.below(10);
     if (kind < 7)

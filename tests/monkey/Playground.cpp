@@ -10,10 +10,8 @@
 namespace {
 constexpr qint64 LargestForeignFolder = 48 * 1024;
 
-const QString OwnNames[] = {QStringLiteral("*.skinnedmesh"), QStringLiteral("*.anim"),
-                            QStringLiteral("*.staticmesh")};
-const QStringList ModelFolders{QStringLiteral("/game"), QStringLiteral("/mod"), QStringLiteral("/import"),
-                               QStringLiteral("/damaged")};
+const QString OwnNames[] = {"*.skinnedmesh", "*.anim", "*.staticmesh"};
+const QStringList ModelFolders{"/game", "/mod", "/import", "/damaged"};
 
 void copyTree(const QString &from, const QString &to)
 {
@@ -173,9 +171,8 @@ QString Playground::tamperWith(const QString &path, Dice &dice) const
         return QStringLiteral("damage");
     case 3:
         TestSupport::writeFile(
-            path, TestSupport::readFile(
-                      anyOf(ModelFolders, QStringLiteral("*.") + QFileInfo(path).suffix(), dice)));
-        return QStringLiteral("replace");
+            path, TestSupport::readFile(anyOf(ModelFolders, QString("*.") + QFileInfo(path).suffix(), dice)));
+        return "replace";
     default:
         QFile::remove(path);
         return QStringLiteral("remove");

@@ -5,12 +5,6 @@
 #include "Playground.h"
 #include "WriteGuard.h"
 
-#include <QApplication>
-#include <QCommandLineParser>
-#include <QDesktopServices>
-#include <QElapsedTimer>
-#include <QSurfaceFormat>
-
 #include <cstdio>
 #include <memory>
 
@@ -70,19 +64,14 @@ int main(int argc, char *argv[])
         "With --seconds the number of steps depends on the machine; replay with --steps."));
     options.addHelpOption();
     options.addOptions({
-        {QStringLiteral("seed"), QStringLiteral("Number to begin with (default: another each time)."),
-         QStringLiteral("N")},
-        {QStringLiteral("steps"), QStringLiteral("End after this many steps."), QStringLiteral("K")},
-        {QStringLiteral("seconds"), QStringLiteral("End after this time (default: 60, without --steps)."),
-         QStringLiteral("S")},
-        {QStringLiteral("journal"), QStringLiteral("Where the steps are written down (default: monkey.log)."),
-         QStringLiteral("FILE"), QStringLiteral("monkey.log")},
+        {"seed", "Number to begin with (default: another each time).", "N"},
+        {"steps", "End after this many steps.", "K"},
+        {"seconds", "End after this time (default: 60, without --steps).", "S"},
+        {"journal", "Where the steps are written down (default: monkey.log).", "FILE", "monkey.log"},
     });
     options.process(application);
-    const quint64 seed = options.isSet(QStringLiteral("seed")) ? number(options, QStringLiteral("seed"))
-                                                               : quint64(std::random_device()());
-    Monkey::Limits limits{int(number(options, QStringLiteral("steps"))),
-                          int(number(options, QStringLiteral("seconds")))};
+    const quint64 seed = options.isSet("seed") ? number(options, "seed") : quint64(std::random_device()());
+    Monkey::Limits limits{int(number(options, "steps")), int(number(options, "seconds"))};
     if (limits.steps <= 0 && limits.seconds <= 0)
         limits.seconds = 60;
     const QString file = QDir(called).absoluteFilePath(options.value(QStringLiteral("journal")));

@@ -191,8 +191,7 @@ public:
                                          {{QStringLiteral("lost"), QStringLiteral("textures/none.png")}});
         if (!broken.isEmpty())
             qFatal("%s", qPrintable(broken));
-        TestSupport::writeFile(m_mod.filePath(QStringLiteral("materials/mat_no_sampler.kmat")),
-                               "material bare {\n}\n");
+        TestSupport::writeFile(m_mod.filePath("materials/mat_no_sampler.kmat"), "material bare {\n}\n");
     }
 
     MaterialFolders folders() const { return {m_folder + QStringLiteral("/game"), m_mod.path()}; }
@@ -222,9 +221,8 @@ private:
 inline std::vector<std::unique_ptr<Base>> bases()
 {
     std::vector<std::unique_ptr<Base>> all;
-    all.push_back(std::make_unique<Base>(TestSupport::source(QStringLiteral("samples")),
-                                         QStringLiteral("tinker"), QStringLiteral("crate")));
-    const QString real = TestSupport::shared(QStringLiteral("gamedata"));
+    all.push_back(std::make_unique<Base>(TestSupport::source("samples"), "tinker", "crate"));
+    const QString real = TestSupport::shared("gamedata");
     if (!real.isEmpty())
         all.push_back(std::make_unique<Base>(real, QStringLiteral("fox"), QStringLiteral("avocado")));
     return all;

@@ -39,22 +39,17 @@ public:
     /// A negative count stood where the file holds a list, so that it is not written back as it was.
     bool hasNegativeCount() const { return m_negative; }
 
+    /// The message for a file that ends within a scalar of that type.
+    static QString endOfFile(const char *type)
+    {
+        return QStringLiteral("Attempting to read %1 value from file, but reached end of file.")
+            .arg(QLatin1String(type));
+    }
     /// The message for a file cut off after `length` bytes of this one.
     QString errorTextWhenCutAt(int length) const { return endOfFile(m_types.at(length)); }
 
 private:
-    static QString endOfFile(char type)
-    {
-        const char *name = type == 'f'   ? "float"
-                           : type == 'i' ? "int32"
-                           : type == 'b' ? "int8"
-                           : type == 'B' ? "uint8"
-                                         : "uint16";
-        return QStringLiteral("Attempting to read %1 value from file, but reached end of file.")
-            .arg(QLatin1String(name));
-    }
-
-    quint32 scalar(char type, int width)
+    quint32 scalar(const char *type, int width)
     {
         if (failed())
             return 0;
@@ -65,22 +60,23 @@ private:
         quint32 value = 0;
         for (int i = 0; i < width; ++i)
             value |= quint32(quint8(m_bytes.at(m_types.size() + i))) << (8 * i);
-        m_types.append(width, type);
+        m_types.resize(m_types.size() + width);
+        std::fill(m_types.end() - width, m_types.end(), type);
         return value;
     }
 
     void floats(qint64 count)
     {
         for (qint64 i = 0; i < count && !failed(); ++i)
-            scalar('f', 4);
+            scalar("float", 4);
     }
-    qint32 int32() { return qint32(scalar('i', 4)); }
-    quint32 uint16() { return scalar('H', 2); }
-    void int8() { scalar('b', 1); }
-    void uint8() { scalar('B', 1); }
+    qint32 int32() { return qint32(scalar("int32", 4)); }
+    quint32 uint16() { return scalar("uint16", 2); }
+    void int8() { scalar("int8", 1); }
+    quint32 uint8() { return scalar("uint8", 1); }
     void string()
     {
-        while (scalar('B', 1) != 0) {
+        while (uint8() != 0) {
         }
     }
 
@@ -197,7 +193,7 @@ private:
     }
 
     QByteArray m_bytes;
-    QByteArray m_types;
+    QVector<const char *> m_types; ///< of the scalar that each byte belongs to
     QVector<Count> m_counts;
     QString m_error;
     bool m_silent = false;

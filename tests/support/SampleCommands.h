@@ -25,10 +25,9 @@ std::vector<Model> oddAndReal()
 {
     std::vector<Model> models{SampleModels::oddModel<Model>()};
     const QString path = TestSupport::shared(
-        std::is_same_v<Model, SkinnedMesh> ? QStringLiteral("gamedata/game/models/fox/fox.skinnedmesh")
-        : std::is_same_v<Model, AnimFile>
-            ? QStringLiteral("gamedata/game/anims/knight/knight.anim")
-            : QStringLiteral("gamedata/game/models/avocado/avocado.staticmesh"));
+        std::is_same_v<Model, SkinnedMesh> ? QString("gamedata/game/models/fox/fox.skinnedmesh")
+        : std::is_same_v<Model, AnimFile>  ? QString("gamedata/game/anims/knight/knight.anim")
+                                           : QString("gamedata/game/models/avocado/avocado.staticmesh"));
     Model real;
     if (!path.isEmpty() && !real.read(path))
         models.push_back(std::move(real));

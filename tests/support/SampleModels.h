@@ -228,8 +228,7 @@ void withModel(const QString &suffix, Body body)
 
 inline const QStringList &suffixes()
 {
-    static const QStringList list{QStringLiteral("skinnedmesh"), QStringLiteral("anim"),
-                                  QStringLiteral("staticmesh")};
+    static const QStringList list{"skinnedmesh", "anim", "staticmesh"};
     return list;
 }
 

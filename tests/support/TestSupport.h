@@ -2,14 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
-#include <QCoreApplication>
-#include <QDir>
-#include <QDirIterator>
-#include <QFile>
-#include <QSettings>
-#include <QTemporaryDir>
 #include <QtTest>
+
+#include <optional>
 
 #ifdef __clang__
 // QSKIP() leaves its variable arguments out.
@@ -69,7 +64,41 @@ inline QStringList modelFiles(const QString &suffix)
     files.sort();
     return files;
 }
+
+/// Those of the three kinds of models.
+inline QStringList allModelFiles()
+{
+    return modelFiles("skinnedmesh") + modelFiles("anim") + modelFiles("staticmesh");
+}
 } // namespace TestSupport
+
+/// A folder for the files of one test.
+class TestFolder
+{
+public:
+    const QTemporaryDir &folder() const { return m_folder; }
+    QString path(const QString &name = {}) const { return m_folder.filePath(name); }
+    /// The path of a file with these bytes; its folder is made.
+    QString put(const QString &name, const QByteArray &bytes) const
+    {
+        QDir(path()).mkpath(QFileInfo(name).path());
+        if (!TestSupport::writeFile(path(name), bytes))
+            qFatal("cannot write %s", qPrintable(name));
+        return path(name);
+    }
+    /// The path of a file with this model.
+    template <typename Model>
+    QString save(const QString &name, const Model &model) const
+    {
+        QDir(path()).mkpath(QFileInfo(name).path());
+        if (model.write(path(name)))
+            qFatal("cannot write %s", qPrintable(name));
+        return path(name);
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
 
 /// Skips the test function when the folder of real models is not there.
 #define SKIP_WITHOUT_SHARED(relativePath)                                                                    \

@@ -4,12 +4,6 @@
 
 #include "TestSupport.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
-#include <QProcessEnvironment>
-
 /// One run of korvane-tool, and what came of it.
 class ToolRun
 {
@@ -34,21 +28,4 @@ public:
     int exitCode;
     QString out;
     QString err;
-};
-
-/// A folder for the files of one test.
-class ToolFolder
-{
-public:
-    QString path(const QString &name = {}) const { return m_folder.filePath(name); }
-    /// The path of a file with these bytes.
-    QString put(const QString &name, const QByteArray &bytes) const
-    {
-        QDir(path()).mkpath(QFileInfo(name).path());
-        TestSupport::writeFile(path(name), bytes);
-        return path(name);
-    }
-
-private:
-    QTemporaryDir m_folder;
 };

@@ -5,38 +5,8 @@
 #include "SmallGltf.h"
 #include "ToolRun.h"
 
-#include <QRegularExpression>
-
 using TestSupport::readFile;
 using TestSupport::source;
-
-/// The command line, as a shell would call it. What needs a display is in tst_toolrender.
-class tst_Tool : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void init() { m_folder = std::make_unique<ToolFolder>(); }
-    void wrongUsage();
-    void optionsAreDescribedEverywhere();
-    void completesVerbsAndFiles();
-    void infoCountsRecords_data();
-    void infoCountsRecords();
-    void resaveKeepsBytes();
-    void resaveLosesNothing();
-    void importStatic();
-    void importSkinnedWithAnimation();
-    void importFailures();
-    void exportAsObj();
-    void rendersNothingWithoutDisplay();
-    void namesInUtf8();
-
-private:
-    QString path(const QString &name = {}) const { return m_folder->path(name); }
-    QString put(const QString &name, const QByteArray &bytes) const { return m_folder->put(name, bytes); }
-
-    std::unique_ptr<ToolFolder> m_folder;
-};
 
 namespace {
 /// What bash offers for the last of `words` behind the program's name, in a folder.
@@ -53,294 +23,304 @@ QStringList completed(const QString &words, const QString &folder = {})
 }
 } // namespace
 
-void tst_Tool::wrongUsage()
+/// The command line, as a shell would call it. What needs a display is in tst_toolrender.
+class tst_Tool : public QObject
 {
-    struct Row
+    Q_OBJECT
+
+private slots:
+    void init() { m_folder.emplace(); }
+    void wrongUsage()
     {
-        const char *arguments, *complaint;
-    };
-    const Row rows[] = {
-        {"", "verb is missing"},
-        {"inform x.anim", "no verb 'inform'"},
-        {"help inform", "no verb 'inform'"},
-        {"info --jason x.anim", "jason"},
-        {"check --json", "PATH... is missing"},
-        {"resave x.anim -o /nowhere", "/nowhere"},
-        {"import x.obj", "-o FOLDER is missing"},
-        {"import x.obj y.obj -o /", "y.obj"},
-        {"import x.obj -o / --scale big", "'big'"},
-        {"import x.obj -o / --mod-path /tmp --kmat /etc/x.kmat", "/etc/x.kmat"},
-        {"import x.obj -o / --mod-path /nowhere --create-kmat", "/nowhere"},
-        {"export x.staticmesh -o x.fbx", "x.fbx"},
-        {"render x.staticmesh", "-o FILE is missing"},
-        {"render x.staticmesh -o x.png --size 0x200", "0x200"},
-        {"render x.staticmesh -o x.png --background bleu", "bleu"},
-        {"render x.staticmesh -o x.png --frame -1", "'-1'"},
-        {"render x.staticmesh -o x.png --pitch 91", "'91'"},
-    };
-    for (const Row &row : rows) {
-        const ToolRun run(row.arguments);
-        QVERIFY2(run.exitCode == 2 && run.out.isEmpty(), row.arguments);
-        QVERIFY2(run.err.contains(row.complaint), qUtf8Printable(row.arguments + run.err));
+        struct Row
+        {
+            const char *arguments, *complaint;
+        };
+        const Row rows[] = {
+            {"", "verb is missing"},
+            {"inform x.anim", "no verb 'inform'"},
+            {"help inform", "no verb 'inform'"},
+            {"info --jason x.anim", "jason"},
+            {"check --json", "PATH... is missing"},
+            {"resave x.anim -o /nowhere", "/nowhere"},
+            {"import x.obj", "-o FOLDER is missing"},
+            {"import x.obj y.obj -o /", "y.obj"},
+            {"import x.obj -o / --scale big", "'big'"},
+            {"import x.obj -o / --mod-path /tmp --kmat /etc/x.kmat", "/etc/x.kmat"},
+            {"import x.obj -o / --mod-path /nowhere --create-kmat", "/nowhere"},
+            {"export x.staticmesh -o x.fbx", "x.fbx"},
+            {"render x.staticmesh", "-o FILE is missing"},
+            {"render x.staticmesh -o x.png --size 0x200", "0x200"},
+            {"render x.staticmesh -o x.png --background bleu", "bleu"},
+            {"render x.staticmesh -o x.png --frame -1", "'-1'"},
+            {"render x.staticmesh -o x.png --pitch 91", "'91'"},
+        };
+        for (const Row &row : rows) {
+            const ToolRun run(row.arguments);
+            QVERIFY2(run.exitCode == 2 && run.out.isEmpty(), row.arguments);
+            QVERIFY2(run.err.contains(row.complaint), qUtf8Printable(row.arguments + run.err));
+        }
     }
-}
 
-void tst_Tool::optionsAreDescribedEverywhere()
-{
-    QString manual = QString::fromUtf8(readFile(source("packaging/korvane-tool.1")));
-    manual.remove('\\');
-    const QByteArray zsh = readFile(source("packaging/completions/_korvane-tool"));
-    const QRegularExpression line("^  (?:-[a-z], )?(--[a-z-]+)", QRegularExpression::MultilineOption);
-    for (const QString verb : {"info", "check", "resave", "import", "export", "render"}) {
-        const ToolRun run(verb, {"--help"});
+    void optionsAreDescribedEverywhere()
+    {
+        QString manual = QString::fromUtf8(readFile(source("packaging/korvane-tool.1")));
+        manual.remove('\\');
+        const QByteArray zsh = readFile(source("packaging/completions/_korvane-tool"));
+        const QRegularExpression line("^  (?:-[a-z], )?(--[a-z-]+)", QRegularExpression::MultilineOption);
+        for (const QString verb : {"info", "check", "resave", "import", "export", "render"}) {
+            const ToolRun run(verb, {"--help"});
+            QCOMPARE(run.exitCode, 0);
+            QVERIFY(run.out.startsWith(QStringLiteral("Usage: korvane-tool %1 ").arg(verb)));
+            QCOMPARE(ToolRun("help", {verb}).out, run.out);
+
+            const QString section =
+                manual.mid(manual.indexOf(".SH " + verb.toUpper())).section("\n.SH ", 0, 0);
+            QStringList options;
+            for (auto found = line.globalMatch(run.out); found.hasNext();)
+                options += found.next().captured(1);
+            QVERIFY(options.size() >= 2);
+            for (const QString &option : qAsConst(options)) {
+                const QString which = verb + ' ' + option;
+                QVERIFY2(zsh.contains(option.toUtf8()), qUtf8Printable(which));
+                QVERIFY2(option == "--help" || section.contains(option), qUtf8Printable(which));
+            }
+            options.sort();
+            QCOMPARE(completed(verb + " --"), options);
+        }
+    }
+
+    void completesVerbsAndFiles()
+    {
+        for (const char *name : {"a fox.anim", "fox.staticmesh", "fox.txt", "folder/x"})
+            put(name, "x");
+        const auto complete = [this](const char *words) { return completed(words, path()); };
+        QCOMPARE(complete("re"), QStringList({"render", "resave"}));
+        QCOMPARE(complete("info ''"), QStringList({"a fox.anim", "folder", "fox.staticmesh"}));
+        QCOMPARE(complete("export ''"), QStringList({"folder", "fox.staticmesh"}));
+        QCOMPARE(complete("render fox.staticmesh --anim ''"), QStringList({"a fox.anim", "folder"}));
+        QCOMPARE(complete("render --game-path f"), QStringList({"folder"}));
+    }
+
+    void infoCountsRecords()
+    {
+        QStringList files;
+        for (const QString &suffix : SampleModels::suffixes() + QStringList("kmat"))
+            files += TestSupport::modelFiles(suffix);
+        const ToolRun run("info --json", files);
         QCOMPARE(run.exitCode, 0);
-        QVERIFY(run.out.startsWith(QStringLiteral("Usage: korvane-tool %1 ").arg(verb)));
-        QCOMPARE(ToolRun("help", {verb}).out, run.out);
-
-        const QString section = manual.mid(manual.indexOf(".SH " + verb.toUpper())).section("\n.SH ", 0, 0);
-        QStringList options;
-        for (auto found = line.globalMatch(run.out); found.hasNext();)
-            options += found.next().captured(1);
-        QVERIFY(options.size() >= 2);
-        for (const QString &option : qAsConst(options)) {
-            const QString which = verb + ' ' + option;
-            QVERIFY2(zsh.contains(option.toUtf8()), qUtf8Printable(which));
-            QVERIFY2(option == "--help" || section.contains(option), qUtf8Printable(which));
+        QCOMPARE(run.err, QString());
+        const QJsonArray array = run.json();
+        QCOMPARE(array.size(), files.size());
+        for (int i = 0; i < array.size(); ++i) {
+            const QString &file = files[i];
+            const QString suffix = QFileInfo(file).suffix();
+            const QJsonObject object = array.at(i).toObject();
+            const auto count = [&object](const char *key) {
+                return size_t(object["counts"].toObject().value(key).toInt(-1));
+            };
+            QCOMPARE(object["file"].toString(), file);
+            QCOMPARE(object["kind"].toString(), suffix);
+            QCOMPARE(qint64(object["size"].toDouble()), QFileInfo(file).size());
+            const auto countsMesh = [&](const auto &mesh) {
+                QCOMPARE(count("surfaces"), mesh.surfaces.size());
+                QCOMPARE(count("vertices"), mesh.vertices.size());
+                const QJsonObject surface = object["surfaces"].toArray().at(0).toObject();
+                QCOMPARE(surface["material"].toString(), mesh.surfaces[0].materialPath);
+                QCOMPARE(size_t(surface["triangles"].toInt()), mesh.surfaces[0].triangleIndexes.size() / 3);
+                const QJsonArray corner = object["bounds"].toObject().value("max").toArray();
+                QCOMPARE(float(corner.at(2).toDouble()), mesh.bbMax.z());
+            };
+            if (suffix == "kmat") {
+                MaterialTable table;
+                QCOMPARE(readKMat(file, table), QString());
+                QCOMPARE(count("materials"), table.size());
+            } else if (suffix == "anim") {
+                AnimFile anim;
+                QVERIFY(!anim.read(file));
+                QCOMPARE(count("blocks"), anim.blocks.size());
+                const QJsonObject last = object["blocks"].toArray().last().toObject();
+                QCOMPARE(last["id"].toInt(), anim.blocks.back().animId);
+                QCOMPARE(last["frames"].toInt(), anim.blocks.back().frameCount());
+                QCOMPARE(last["actions"].toInt(), int(anim.blocks.back().actions.size()));
+            } else if (suffix == "skinnedmesh") {
+                SkinnedMesh mesh;
+                QVERIFY(!mesh.read(file));
+                QCOMPARE(count("bones"), mesh.nodes.size());
+                QCOMPARE(count("hotPoints"), mesh.hotPoints.size());
+                countsMesh(mesh);
+            } else {
+                StaticMesh mesh;
+                QVERIFY(!mesh.read(file));
+                countsMesh(mesh);
+            }
         }
-        options.sort();
-        QCOMPARE(completed(verb + " --"), options);
+        const ToolRun text("info", {files.first()});
+        QCOMPARE(text.exitCode, 0);
+        QVERIFY(text.out.startsWith(files.first() + '\n'));
     }
-}
 
-void tst_Tool::completesVerbsAndFiles()
-{
-    for (const char *name : {"a fox.anim", "fox.staticmesh", "fox.txt", "folder/x"})
-        put(name, "x");
-    const auto complete = [this](const char *words) { return completed(words, path()); };
-    QCOMPARE(complete("re"), QStringList({"render", "resave"}));
-    QCOMPARE(complete("info ''"), QStringList({"a fox.anim", "folder", "fox.staticmesh"}));
-    QCOMPARE(complete("export ''"), QStringList({"folder", "fox.staticmesh"}));
-    QCOMPARE(complete("render fox.staticmesh --anim ''"), QStringList({"a fox.anim", "folder"}));
-    QCOMPARE(complete("render --game-path f"), QStringList({"folder"}));
-}
-
-void tst_Tool::infoCountsRecords_data()
-{
-    QTest::addColumn<QString>("suffix");
-    for (const QString &suffix : SampleModels::suffixes())
-        QTest::newRow(qUtf8Printable(suffix)) << suffix;
-    QTest::newRow("kmat") << "kmat";
-}
-
-void tst_Tool::infoCountsRecords()
-{
-    QFETCH(QString, suffix);
-    const QStringList files = TestSupport::modelFiles(suffix);
-    QVERIFY(!files.isEmpty());
-    const ToolRun run("info --json", files);
-    QCOMPARE(run.exitCode, 0);
-    QCOMPARE(run.err, QString());
-    const QJsonArray array = run.json();
-    QCOMPARE(array.size(), files.size());
-    for (int i = 0; i < array.size(); ++i) {
-        const QString &file = files[i];
-        const QJsonObject object = array.at(i).toObject();
-        const auto count = [&object](const char *key) {
-            return size_t(object["counts"].toObject().value(key).toInt(-1));
-        };
-        QCOMPARE(object["file"].toString(), file);
-        QCOMPARE(object["kind"].toString(), suffix);
-        QCOMPARE(qint64(object["size"].toDouble()), QFileInfo(file).size());
-        const auto countsMesh = [&](const auto &mesh) {
-            QCOMPARE(count("surfaces"), mesh.surfaces.size());
-            QCOMPARE(count("vertices"), mesh.vertices.size());
-            const QJsonObject surface = object["surfaces"].toArray().at(0).toObject();
-            QCOMPARE(surface["material"].toString(), mesh.surfaces[0].materialPath);
-            QCOMPARE(size_t(surface["triangles"].toInt()), mesh.surfaces[0].triangleIndexes.size() / 3);
-            const QJsonArray corner = object["bounds"].toObject().value("max").toArray();
-            QCOMPARE(float(corner.at(2).toDouble()), mesh.bbMax.z());
-        };
-        if (suffix == "kmat") {
-            MaterialTable table;
-            QCOMPARE(readKMat(file, table), QString());
-            QCOMPARE(count("materials"), table.size());
-        } else if (suffix == "anim") {
-            AnimFile anim;
-            QVERIFY(!anim.read(file));
-            QCOMPARE(count("blocks"), anim.blocks.size());
-            const QJsonObject last = object["blocks"].toArray().last().toObject();
-            QCOMPARE(last["id"].toInt(), anim.blocks.back().animId);
-            QCOMPARE(last["frames"].toInt(), anim.blocks.back().frameCount());
-            QCOMPARE(last["actions"].toInt(), int(anim.blocks.back().actions.size()));
-        } else if (suffix == "skinnedmesh") {
-            SkinnedMesh mesh;
-            QVERIFY(!mesh.read(file));
-            QCOMPARE(count("bones"), mesh.nodes.size());
-            QCOMPARE(count("hotPoints"), mesh.hotPoints.size());
-            countsMesh(mesh);
-        } else {
-            StaticMesh mesh;
-            QVERIFY(!mesh.read(file));
-            countsMesh(mesh);
+    void resaveKeepsBytes()
+    {
+        const QString out = path("out");
+        QDir().mkdir(out);
+        for (const QString &suffix : SampleModels::suffixes()) {
+            const QByteArray bytes = SampleModels::bytesOfSample(suffix);
+            const QString file = put("odd." + suffix, bytes);
+            const ToolRun inPlace("resave", {file});
+            QCOMPARE(inPlace.exitCode, 0);
+            QVERIFY(inPlace.out.contains("the same bytes"));
+            QCOMPARE(readFile(file), bytes);
+            QCOMPARE(ToolRun("resave -o", {out, file}).exitCode, 0);
+            QCOMPARE(readFile(path("out/odd." + suffix)), bytes);
         }
+
+        // Another file is not replaced unasked.
+        const QByteArray other = SampleModels::bytesOf(SampleModels::plainAnim());
+        const QStringList arguments{out, put("b/odd.anim", other)};
+        QCOMPARE(ToolRun("resave -o", arguments).exitCode, 1);
+        QCOMPARE(readFile(path("out/odd.anim")), SampleModels::bytesOfSample("anim"));
+        QCOMPARE(ToolRun("resave --force -o", arguments).exitCode, 0);
+        QCOMPARE(readFile(path("out/odd.anim")), other);
+
+        // A count below zero is read as none, and written so.
+        AnimFile anim;
+        anim.blocks.resize(1);
+        const QByteArray none = SampleModels::bytesOf(anim);
+        QByteArray negative = none;
+        negative.replace(32, 4, "\xff\xff\xff\xff");
+        const QString file = put("negative.anim", negative);
+        const ToolRun changed("resave", {file});
+        QCOMPARE(changed.exitCode, 0);
+        QCOMPARE(changed.out, file + ": changed\n");
+        QCOMPARE(readFile(file), none);
     }
-    const ToolRun text("info", {files.first()});
-    QCOMPARE(text.exitCode, 0);
-    QVERIFY(text.out.startsWith(files.first() + '\n'));
-}
 
-void tst_Tool::resaveKeepsBytes()
-{
-    const QString out = path("out");
-    QDir().mkdir(out);
-    for (const QString &suffix : SampleModels::suffixes()) {
-        const QByteArray bytes = SampleModels::bytesOfSample(suffix);
-        const QString file = put("odd." + suffix, bytes);
-        const ToolRun inPlace("resave", {file});
-        QCOMPARE(inPlace.exitCode, 0);
-        QVERIFY(inPlace.out.contains("the same bytes"));
-        QCOMPARE(readFile(file), bytes);
-        QCOMPARE(ToolRun("resave -o", {out, file}).exitCode, 0);
-        QCOMPARE(readFile(path("out/odd." + suffix)), bytes);
+    void resaveLosesNothing()
+    {
+        const QByteArray whole = SampleModels::bytesOf(SampleModels::plainStatic());
+        for (const QByteArray &bytes : {whole.left(whole.size() - 1), whole + "more"}) {
+            const QString file = put("x.staticmesh", bytes);
+            const ToolRun run("resave", {file});
+            QCOMPARE(run.exitCode, 1);
+            QVERIFY(run.err.contains(file));
+            QCOMPARE(readFile(file), bytes);
+        }
+        // Two files of one name go into one folder only once.
+        QDir().mkdir(path("out"));
+        const ToolRun twice("resave --force -o",
+                            {path("out"), put("a/y.staticmesh", whole), put("b/y.staticmesh", whole)});
+        QCOMPARE(twice.exitCode, 1);
+        QCOMPARE(twice.out.count('\n'), 1);
     }
 
-    // Another file is not replaced unasked.
-    const QByteArray other = SampleModels::bytesOf(SampleModels::plainAnim());
-    const QStringList arguments{out, put("b/odd.anim", other)};
-    QCOMPARE(ToolRun("resave -o", arguments).exitCode, 1);
-    QCOMPARE(readFile(path("out/odd.anim")), SampleModels::bytesOfSample("anim"));
-    QCOMPARE(ToolRun("resave --force -o", arguments).exitCode, 0);
-    QCOMPARE(readFile(path("out/odd.anim")), other);
+    void importStatic()
+    {
+        QDir().mkpath(path("mod/materials"));
+        const QString words = "import --static --no-rotate --scale 2 --create-kmat --mod-path";
+        const QStringList more{path("mod"), "-o", path(),
+                               put("wedge.obj", "v 0 0 0\nv 2 0 0\nv 0 4 0\nvt 0.5 0.25\nf 1/1 2/1 3/1\n")};
+        QCOMPARE(ToolRun(words, more).exitCode, 0);
+        StaticMesh mesh;
+        QVERIFY(!mesh.read(path("wedge.staticmesh")));
+        QCOMPARE(mesh.vertices.size(), size_t(3));
+        QCOMPARE(mesh.bbMax, QVector3D(4, 8, 0));
+        QCOMPARE(mesh.surfaces[0].materialPath, QString("materials/mat_wedge/surf_0_white"));
+        QVERIFY(QFileInfo::exists(path("mod/materials/mat_wedge.kmat")));
 
-    // A count below zero is read as none, and written so.
-    AnimFile anim;
-    anim.blocks.resize(1);
-    const QByteArray none = SampleModels::bytesOf(anim);
-    QByteArray negative = none;
-    negative.replace(32, 4, "\xff\xff\xff\xff");
-    const QString file = put("negative.anim", negative);
-    const ToolRun changed("resave", {file});
-    QCOMPARE(changed.exitCode, 0);
-    QCOMPARE(changed.out, file + ": changed\n");
-    QCOMPARE(readFile(file), none);
-}
-
-void tst_Tool::resaveLosesNothing()
-{
-    const QByteArray whole = SampleModels::bytesOf(SampleModels::plainStatic());
-    for (const QByteArray &bytes : {whole.left(whole.size() - 1), whole + "more"}) {
-        const QString file = put("x.staticmesh", bytes);
-        const ToolRun run("resave", {file});
-        QCOMPARE(run.exitCode, 1);
-        QVERIFY(run.err.contains(file));
-        QCOMPARE(readFile(file), bytes);
+        // Nothing of that is replaced unasked.
+        const QString result = put("wedge.staticmesh", "mine");
+        const ToolRun again(words, more);
+        QCOMPARE(again.exitCode, 1);
+        QVERIFY(again.err.contains(result) && again.err.contains("mat_wedge.kmat"));
+        QCOMPARE(readFile(result), QByteArray("mine"));
+        QCOMPARE(ToolRun(words, more + QStringList("--force")).exitCode, 0);
+        QVERIFY(readFile(result) != QByteArray("mine"));
     }
-    // Two files of one name go into one folder only once.
-    QDir().mkdir(path("out"));
-    const ToolRun twice("resave --force -o",
-                        {path("out"), put("a/y.staticmesh", whole), put("b/y.staticmesh", whole)});
-    QCOMPARE(twice.exitCode, 1);
-    QCOMPARE(twice.out.count('\n'), 1);
-}
 
-void tst_Tool::importStatic()
-{
-    QDir().mkpath(path("mod/materials"));
-    const QString words = "import --static --no-rotate --scale 2 --create-kmat --mod-path";
-    const QStringList more{path("mod"), "-o", path(),
-                           put("wedge.obj", "v 0 0 0\nv 2 0 0\nv 0 4 0\nvt 0.5 0.25\nf 1/1 2/1 3/1\n")};
-    QCOMPARE(ToolRun(words, more).exitCode, 0);
-    StaticMesh mesh;
-    QVERIFY(!mesh.read(path("wedge.staticmesh")));
-    QCOMPARE(mesh.vertices.size(), size_t(3));
-    QCOMPARE(mesh.bbMax, QVector3D(4, 8, 0));
-    QCOMPARE(mesh.surfaces[0].materialPath, QString("materials/mat_wedge/surf_0_white"));
-    QVERIFY(QFileInfo::exists(path("mod/materials/mat_wedge.kmat")));
+    void importSkinnedWithAnimation()
+    {
+        const QString model =
+            put("small.gltf",
+                SmallGltf().file({{"walk [7]", {{2, false, {{0.0f, {1, 2, 3}}, {40.0f, {1, 2, 5}}}}}}}));
+        const ToolRun run("import -o", {path(), model});
+        QVERIFY2(run.exitCode == 0, qUtf8Printable(run.err));
+        SkinnedMesh mesh;
+        QVERIFY(!mesh.read(path("small.skinnedmesh")));
+        QCOMPARE(mesh.nodes.size(), size_t(3));
+        AnimFile anim;
+        QVERIFY(!anim.read(path("small.anim")));
+        QCOMPARE(anim.blocks[0].animId, 7);
+        QCOMPARE(anim.blocks[0].frameCount(), 41);
+    }
 
-    // Nothing of that is replaced unasked.
-    const QString result = put("wedge.staticmesh", "mine");
-    const ToolRun again(words, more);
-    QCOMPARE(again.exitCode, 1);
-    QVERIFY(again.err.contains(result) && again.err.contains("mat_wedge.kmat"));
-    QCOMPARE(readFile(result), QByteArray("mine"));
-    QCOMPARE(ToolRun(words, more + QStringList("--force")).exitCode, 0);
-    QVERIFY(readFile(result) != QByteArray("mine"));
-}
+    void importFailures()
+    {
+        const ToolRun broken("import -o", {path(), put("x.gltf", "{")});
+        QCOMPARE(broken.exitCode, 1);
+        QVERIFY2(broken.err.contains("Could not read file"), qUtf8Printable(broken.err));
+        QVERIFY(!QFileInfo::exists(path("x.skinnedmesh")));
+        const ToolRun missing("import -o", {path(), path("none.obj")});
+        QCOMPARE(missing.exitCode, 1);
+        QVERIFY(missing.err.contains("none.obj: There is no such file"));
+    }
 
-void tst_Tool::importSkinnedWithAnimation()
-{
-    const QString model =
-        put("small.gltf",
-            SmallGltf().file({{"walk [7]", {{2, false, {{0.0f, {1, 2, 3}}, {40.0f, {1, 2, 5}}}}}}}));
-    const ToolRun run("import -o", {path(), model});
-    QVERIFY2(run.exitCode == 0, qUtf8Printable(run.err));
-    SkinnedMesh mesh;
-    QVERIFY(!mesh.read(path("small.skinnedmesh")));
-    QCOMPARE(mesh.nodes.size(), size_t(3));
-    AnimFile anim;
-    QVERIFY(!anim.read(path("small.anim")));
-    QCOMPARE(anim.blocks[0].animId, 7);
-    QCOMPARE(anim.blocks[0].frameCount(), 41);
-}
+    void exportAsObj()
+    {
+        const QStringList more{source("samples/game/models/crate/crate.staticmesh"), "-o", path("box.obj")};
+        const ToolRun run("export", more);
+        QVERIFY2(run.exitCode == 0, qUtf8Printable(run.err));
+        QVERIFY(readFile(path("box.obj")).contains("mtllib box.mtl"));
+        QVERIFY(readFile(path("box.mtl")).contains("crate.png"));
+        // The folder that the file lies in was found to be the game's.
+        QVERIFY(QFileInfo::exists(path("crate.png")));
 
-void tst_Tool::importFailures()
-{
-    const ToolRun broken("import -o", {path(), put("x.gltf", "{")});
-    QCOMPARE(broken.exitCode, 1);
-    QVERIFY2(broken.err.contains("Could not read file"), qUtf8Printable(broken.err));
-    QVERIFY(!QFileInfo::exists(path("x.skinnedmesh")));
-    const ToolRun missing("import -o", {path(), path("none.obj")});
-    QCOMPARE(missing.exitCode, 1);
-    QVERIFY(missing.err.contains("none.obj: There is no such file"));
-}
+        put("box.mtl", "mine");
+        QCOMPARE(ToolRun("export", more).exitCode, 1);
+        QCOMPARE(readFile(path("box.mtl")), QByteArray("mine"));
+        QCOMPARE(ToolRun("export --force", more).exitCode, 0);
 
-void tst_Tool::exportAsObj()
-{
-    const QStringList more{source("samples/game/models/crate/crate.staticmesh"), "-o", path("box.obj")};
-    const ToolRun run("export", more);
-    QVERIFY2(run.exitCode == 0, qUtf8Printable(run.err));
-    QVERIFY(readFile(path("box.obj")).contains("mtllib box.mtl"));
-    QVERIFY(readFile(path("box.mtl")).contains("crate.png"));
-    // The folder that the file lies in was found to be the game's.
-    QVERIFY(QFileInfo::exists(path("crate.png")));
+        const ToolRun anim("export -o", {path(), source("samples/game/anims/tinker/tinker.anim")});
+        QCOMPARE(anim.exitCode, 1);
+        QVERIFY(anim.err.contains("Only static meshes"));
+    }
 
-    put("box.mtl", "mine");
-    QCOMPARE(ToolRun("export", more).exitCode, 1);
-    QCOMPARE(readFile(path("box.mtl")), QByteArray("mine"));
-    QCOMPARE(ToolRun("export --force", more).exitCode, 0);
+    void rendersNothingWithoutDisplay()
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(variable);
+        const auto refuses = [&] {
+            const ToolRun run("render -o",
+                              {path("x.png"), source("samples/game/models/crate/crate.staticmesh")},
+                              environment);
+            return run.exitCode == 3 && run.err.contains("xvfb-run");
+        };
+        QVERIFY(refuses());
+        QCOMPARE(ToolRun("render --help", {}, environment).exitCode, 0);
+        // One that is named and not there must not abort it.
+        environment.insert("DISPLAY", ":9999");
+        QVERIFY(refuses());
+        QVERIFY(!QFileInfo::exists(path("x.png")));
+    }
 
-    const ToolRun anim("export -o", {path(), source("samples/game/anims/tinker/tinker.anim")});
-    QCOMPARE(anim.exitCode, 1);
-    QVERIFY(anim.err.contains("Only static meshes"));
-}
+    void namesInUtf8()
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("LC_ALL", "C");
+        const QString file =
+            put("größe/クレート.staticmesh", SampleModels::bytesOf(SampleModels::plainStatic()));
+        const ToolRun run("info --json", {file}, environment);
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.first()["file"].toString(), file);
+    }
 
-void tst_Tool::rendersNothingWithoutDisplay()
-{
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-        environment.remove(variable);
-    const auto refuses = [&] {
-        const ToolRun run("render -o", {path("x.png"), source("samples/game/models/crate/crate.staticmesh")},
-                          environment);
-        return run.exitCode == 3 && run.err.contains("xvfb-run");
-    };
-    QVERIFY(refuses());
-    QCOMPARE(ToolRun("render --help", {}, environment).exitCode, 0);
-    // One that is named and not there must not abort it.
-    environment.insert("DISPLAY", ":9999");
-    QVERIFY(refuses());
-    QVERIFY(!QFileInfo::exists(path("x.png")));
-}
+private:
+    QString path(const QString &name = {}) const { return m_folder->path(name); }
+    QString put(const QString &name, const QByteArray &bytes) const { return m_folder->put(name, bytes); }
 
-void tst_Tool::namesInUtf8()
-{
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("LC_ALL", "C");
-    const QString file = put("größe/クレート.staticmesh", SampleModels::bytesOf(SampleModels::plainStatic()));
-    const ToolRun run("info --json", {file}, environment);
-    QCOMPARE(run.exitCode, 0);
-    QCOMPARE(run.first()["file"].toString(), file);
-}
+    std::optional<TestFolder> m_folder;
+};
 
 QTEST_GUILESS_MAIN(tst_Tool)
 #include "tst_tool.moc"

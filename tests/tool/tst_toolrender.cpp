@@ -4,43 +4,6 @@
 
 #include <QImage>
 
-/// Pictures that korvane-tool draws.
-class tst_ToolRender : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void framesTheWholeModel();
-    void posesByBlockAndFrame();
-    void coloursAndFormats();
-    void turnsAround();
-    void failures();
-
-private:
-    /// The picture of a run, of a sample or with one; null when it failed.
-    QImage draw(const QString &words, const QString &name = "x.png")
-    {
-        const QString picture = m_folder.path(name);
-        QFile::remove(picture);
-        const ToolRun run("render -o", QStringList{picture} + withSamples(words));
-        if (run.exitCode != 0)
-            qWarning("%d: %s", run.exitCode, qUtf8Printable(run.err));
-        return QImage(picture);
-    }
-    /// The words, of which those with a point name samples.
-    static QStringList withSamples(const QString &words)
-    {
-        QStringList found = words.split(' ');
-        for (QString &word : found) {
-            if (word.contains('.'))
-                word = TestSupport::source("samples/" + word);
-        }
-        return found;
-    }
-
-    ToolFolder m_folder;
-};
-
 namespace {
 const QString Crate = "game/models/crate/crate.staticmesh";
 const QString Tinker = "game/models/tinker/tinker.skinnedmesh";
@@ -72,89 +35,123 @@ int distinctColours(const QImage &image)
 }
 } // namespace
 
-void tst_ToolRender::framesTheWholeModel()
+/// Pictures that korvane-tool draws.
+class tst_ToolRender : public QObject
 {
-    struct Row
+    Q_OBJECT
+
+private slots:
+    void framesTheWholeModel()
     {
-        QString file;
-        QSize size;
-    };
-    // Mesh and animation each bring what belongs to them.
-    for (const Row &row : {Row{Crate, {256, 256}}, Row{TinkerAnim, {256, 256}}, Row{Crate, {300, 100}},
-                           Row{Tinker, {100, 300}}}) {
-        const QImage image = draw(
-            QStringLiteral("%1 --size %2x%3").arg(row.file).arg(row.size.width()).arg(row.size.height()));
-        QCOMPARE(image.size(), row.size);
-        // Nothing is cut off, and the picture is filled in one direction.
-        const QRect rectangle = covered(image);
-        QVERIFY(image.rect().adjusted(1, 1, -1, -1).contains(rectangle));
-        QVERIFY(rectangle.width() > 0.85 * image.width() || rectangle.height() > 0.85 * image.height());
-        // A model without its textures has but a few.
-        QVERIFY2(distinctColours(image) > 200, qUtf8Printable(row.file));
+        struct Row
+        {
+            QString file;
+            QSize size;
+        };
+        // Mesh and animation each bring what belongs to them.
+        for (const Row &row : {Row{Crate, {256, 256}}, Row{TinkerAnim, {256, 256}}, Row{Crate, {300, 100}},
+                               Row{Tinker, {100, 300}}}) {
+            const QImage image = draw(
+                QStringLiteral("%1 --size %2x%3").arg(row.file).arg(row.size.width()).arg(row.size.height()));
+            QCOMPARE(image.size(), row.size);
+            // Nothing is cut off, and the picture is filled in one direction.
+            const QRect rectangle = covered(image);
+            QVERIFY(image.rect().adjusted(1, 1, -1, -1).contains(rectangle));
+            QVERIFY(rectangle.width() > 0.85 * image.width() || rectangle.height() > 0.85 * image.height());
+            // A model without its textures has but a few.
+            QVERIFY2(distinctColours(image) > 200, qUtf8Printable(row.file));
+        }
     }
-}
 
-void tst_ToolRender::posesByBlockAndFrame()
-{
-    const auto at = [this](const char *pose) {
-        return draw(Tinker + " --size 128 --anim " + TinkerAnim + pose);
-    };
-    const QImage start = at(" --block 0 --frame 0");
-    QVERIFY(!start.isNull());
-    QCOMPARE(draw(Tinker + " --size 128"), start);
-    QVERIFY(at(" --block 0 --frame 6") != start);
-    QVERIFY(at(" --block 2 --frame 0") != start);
-    // In the last one it has sat down.
-    const QRect standing = covered(start);
-    const QRect sitting = covered(at(" --block 4 --frame 60"));
-    QVERIFY(sitting.width() * standing.height() > 1.3 * standing.width() * sitting.height());
-}
-
-void tst_ToolRender::coloursAndFormats()
-{
-    const QString blue = Crate + " --size 64 --background #0000ff";
-    const QImage png = draw(blue);
-    QCOMPARE(png.pixelColor(0, 0), QColor(0, 0, 255));
-    QVERIFY(png.pixelColor(32, 32) != QColor(0, 0, 255));
-    QCOMPARE(qAlpha(draw(Crate + " --size 64").pixel(0, 0)), 0);
-
-    QVERIFY(!draw(blue, "x.jpg").isNull());
-    QVERIFY(TestSupport::readFile(m_folder.path("x.jpg")).startsWith("\xff\xd8"));
-    // File managers ask for a name without an extension.
-    QVERIFY(!draw(blue, "thumbnail.X1").isNull());
-    QVERIFY(TestSupport::readFile(m_folder.path("thumbnail.X1")).startsWith("\x89PNG"));
-}
-
-void tst_ToolRender::turnsAround()
-{
-    const auto seenFrom = [this](const char *direction) { return draw(Tinker + " --size 128 " + direction); };
-    const QImage front = seenFrom("--yaw 0 --pitch 0");
-    QVERIFY(!front.isNull());
-    QVERIFY(seenFrom("--yaw 180 --pitch 0") != front);
-    QVERIFY(covered(seenFrom("--yaw 0 --pitch 90")).height() < covered(front).height());
-}
-
-void tst_ToolRender::failures()
-{
-    struct Row
+    void posesByBlockAndFrame()
     {
-        QString words, complaint;
-    };
-    const Row rows[] = {
-        {"nowhere.staticmesh", "nowhere.staticmesh: There is no such file"},
-        {"game/materials/mat_crate.kmat", "no mesh"},
-        {Tinker + " --block 5", "no block 5, only 5"},
-        {Tinker + " --frame 25", "no frame 25, only 25"},
-        {Crate + " --frame 1", "no animation"},
-        {Tinker + " --anim " + Tinker, "no animation"},
-    };
-    const QString picture = m_folder.path("none.png");
-    for (const Row &row : rows) {
-        const ToolRun run("render -o", QStringList{picture} + withSamples(row.words));
-        QVERIFY2(run.exitCode == 1 && run.err.contains(row.complaint), qUtf8Printable(row.words + run.err));
-        QVERIFY(!QFileInfo::exists(picture));
+        const auto at = [this](const char *pose) {
+            return draw(Tinker + " --size 128 --anim " + TinkerAnim + pose);
+        };
+        const QImage start = at(" --block 0 --frame 0");
+        QVERIFY(!start.isNull());
+        QCOMPARE(draw(Tinker + " --size 128"), start);
+        QVERIFY(at(" --block 0 --frame 6") != start);
+        QVERIFY(at(" --block 2 --frame 0") != start);
+        // In the last one it has sat down.
+        const QRect standing = covered(start);
+        const QRect sitting = covered(at(" --block 4 --frame 60"));
+        QVERIFY(sitting.width() * standing.height() > 1.3 * standing.width() * sitting.height());
     }
-}
+
+    void coloursAndFormats()
+    {
+        const QString blue = Crate + " --size 64 --background #0000ff";
+        const QImage png = draw(blue);
+        QCOMPARE(png.pixelColor(0, 0), QColor(0, 0, 255));
+        QVERIFY(png.pixelColor(32, 32) != QColor(0, 0, 255));
+        QCOMPARE(qAlpha(draw(Crate + " --size 64").pixel(0, 0)), 0);
+
+        QVERIFY(!draw(blue, "x.jpg").isNull());
+        QVERIFY(TestSupport::readFile(m_folder.path("x.jpg")).startsWith("\xff\xd8"));
+        // File managers ask for a name without an extension.
+        QVERIFY(!draw(blue, "thumbnail.X1").isNull());
+        QVERIFY(TestSupport::readFile(m_folder.path("thumbnail.X1")).startsWith("\x89PNG"));
+    }
+
+    void turnsAround()
+    {
+        const auto seenFrom = [this](const char *direction) {
+            return draw(Tinker + " --size 128 " + direction);
+        };
+        const QImage front = seenFrom("--yaw 0 --pitch 0");
+        QVERIFY(!front.isNull());
+        QVERIFY(seenFrom("--yaw 180 --pitch 0") != front);
+        QVERIFY(covered(seenFrom("--yaw 0 --pitch 90")).height() < covered(front).height());
+    }
+
+    void failures()
+    {
+        struct Row
+        {
+            QString words, complaint;
+        };
+        const Row rows[] = {
+            {"nowhere.staticmesh", "nowhere.staticmesh: There is no such file"},
+            {"game/materials/mat_crate.kmat", "no mesh"},
+            {Tinker + " --block 5", "no block 5, only 5"},
+            {Tinker + " --frame 25", "no frame 25, only 25"},
+            {Crate + " --frame 1", "no animation"},
+            {Tinker + " --anim " + Tinker, "no animation"},
+        };
+        const QString picture = m_folder.path("none.png");
+        for (const Row &row : rows) {
+            const ToolRun run("render -o", QStringList{picture} + withSamples(row.words));
+            QVERIFY2(run.exitCode == 1 && run.err.contains(row.complaint),
+                     qUtf8Printable(row.words + run.err));
+            QVERIFY(!QFileInfo::exists(picture));
+        }
+    }
+
+private:
+    /// The picture of a run, of a sample or with one; null when it failed.
+    QImage draw(const QString &words, const QString &name = "x.png")
+    {
+        const QString picture = m_folder.path(name);
+        QFile::remove(picture);
+        const ToolRun run("render -o", QStringList{picture} + withSamples(words));
+        if (run.exitCode != 0)
+            qWarning("%d: %s", run.exitCode, qUtf8Printable(run.err));
+        return QImage(picture);
+    }
+    /// The words, of which those with a point name samples.
+    static QStringList withSamples(const QString &words)
+    {
+        QStringList found = words.split(' ');
+        for (QString &word : found) {
+            if (word.contains('.'))
+                word = TestSupport::source("samples/" + word);
+        }
+        return found;
+    }
+
+    TestFolder m_folder;
+};
 
 QTEST_GUILESS_MAIN(tst_ToolRender)
 #include "tst_toolrender.moc"

@@ -15,7 +15,6 @@
 #include "TestSupport.h"
 #include "Textures.h"
 
-#include <QDirIterator>
 #include <QImage>
 
 #include <set>
@@ -185,8 +184,7 @@ private slots:
         for (const QString &name : names) {
             for (const auto &[suffix, size] :
                  {std::pair("", 24), std::pair("@2x", 48), std::pair("@3x", 72)}) {
-                const QString path =
-                    QStringLiteral(":/Images/Icons/%1%2.png").arg(name, QLatin1String(suffix));
+                const QString path = QString(":/Images/Icons/%1%2.png").arg(name, QLatin1String(suffix));
                 QVERIFY2(QImage(path).size() == QSize(size, size), qPrintable(path));
             }
         }

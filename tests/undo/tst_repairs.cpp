@@ -76,68 +76,63 @@ class tst_Repairs : public QObject
     Q_OBJECT
 
 private slots:
-    void eachGoesInOneStep();
-    void manyGoInOneStep();
-    void rotationsKeepTheirDirection();
-    void anythingIsRepaired();
+    void eachGoesInOneStep()
+    {
+        std::set<Rule> repaired;
+        checkEach<SkinnedMesh>(repaired);
+        checkEach<AnimFile>(repaired);
+        QCOMPARE(repaired, (std::set<Rule>{Rule::ChildBoneOutOfRange, Rule::BoneCycle, Rule::BoneListedTwice,
+                                           Rule::BoneUnreachable, Rule::ParentBoneOutOfRange,
+                                           Rule::ParentBoneMismatch, Rule::TranslationTrackOutOfRange,
+                                           Rule::RotationTrackOutOfRange, Rule::QuaternionZero,
+                                           Rule::QuaternionUnnormalised, Rule::LoopFrameBeyondEnd}));
+    }
+
+    void manyGoInOneStep()
+    {
+        // More than are listed, several in one list, and some that nothing is wrong with between them.
+        auto mesh = bases().front()->model<SkinnedMesh>();
+        for (SkinnedMeshNode &bone : mesh.nodes) {
+            bone.childNodes.insert(bone.childNodes.begin(), 500);
+            bone.childNodes.push_back(501);
+        }
+        const QByteArray before = bytesOf(mesh);
+        const auto places = repairablePlaces(Rule::ChildBoneOutOfRange, mesh, 1000);
+        QCOMPARE(places.size(), 2 * mesh.nodes.size());
+        BlindView screen;
+        QUndoStack stack;
+        QCOMPARE(repair(Rule::ChildBoneOutOfRange, places, {mesh, screen}, stack), int(places.size()));
+        QCOMPARE(stack.count(), 1);
+        QCOMPARE(bytesOf(mesh), bytesOf(bases().front()->model<SkinnedMesh>()));
+        stack.undo();
+        QCOMPARE(bytesOf(mesh), before);
+        QCOMPARE(repair(Rule::TooManyBones, {{RecordKind::SkinnedMesh, {}}}, {mesh, screen}, stack), 0);
+        QCOMPARE(stack.count(), 1);
+    }
+
+    void rotationsKeepTheirDirection()
+    {
+        auto file = bases().front()->model<AnimFile>();
+        BlindView screen;
+        QUndoStack stack;
+        const QVector4D turned(-3.0f, 0.0f, 0.0f, 4.0f);
+        // The squares of the second are beyond what a float holds.
+        for (const QVector4D &rotation : {turned, turned * 1.0e25f, turned * 1.0e-3f}) {
+            file.blocks[0].rotations.at(1, 2) = rotation;
+            const RecordRef place{RecordKind::RotationKey, {0, 1, 2}};
+            QCOMPARE(repair(Rule::QuaternionUnnormalised, {place}, {file, screen}, stack), 1);
+            QVERIFY(qFuzzyCompare(file.blocks[0].rotations.at(1, 2), QVector4D(-0.6f, 0.0f, 0.0f, 0.8f)));
+        }
+    }
+
+    void anythingIsRepaired()
+    {
+        repairAll(SampleModels::plainMesh());
+        repairAll(SampleModels::skinnedMesh());
+        repairAll(SampleModels::plainAnim());
+        repairAll(SampleModels::animFile());
+    }
 };
-
-void tst_Repairs::eachGoesInOneStep()
-{
-    std::set<Rule> repaired;
-    checkEach<SkinnedMesh>(repaired);
-    checkEach<AnimFile>(repaired);
-    QCOMPARE(repaired,
-             (std::set<Rule>{Rule::ChildBoneOutOfRange, Rule::BoneCycle, Rule::BoneListedTwice,
-                             Rule::BoneUnreachable, Rule::ParentBoneOutOfRange, Rule::ParentBoneMismatch,
-                             Rule::TranslationTrackOutOfRange, Rule::RotationTrackOutOfRange,
-                             Rule::QuaternionZero, Rule::QuaternionUnnormalised, Rule::LoopFrameBeyondEnd}));
-}
-
-void tst_Repairs::manyGoInOneStep()
-{
-    // More than are listed, several in one list, and some that nothing is wrong with between them.
-    auto mesh = bases().front()->model<SkinnedMesh>();
-    for (SkinnedMeshNode &bone : mesh.nodes) {
-        bone.childNodes.insert(bone.childNodes.begin(), 500);
-        bone.childNodes.push_back(501);
-    }
-    const QByteArray before = bytesOf(mesh);
-    const auto places = repairablePlaces(Rule::ChildBoneOutOfRange, mesh, 1000);
-    QCOMPARE(places.size(), 2 * mesh.nodes.size());
-    BlindView screen;
-    QUndoStack stack;
-    QCOMPARE(repair(Rule::ChildBoneOutOfRange, places, {mesh, screen}, stack), int(places.size()));
-    QCOMPARE(stack.count(), 1);
-    QCOMPARE(bytesOf(mesh), bytesOf(bases().front()->model<SkinnedMesh>()));
-    stack.undo();
-    QCOMPARE(bytesOf(mesh), before);
-    QCOMPARE(repair(Rule::TooManyBones, {{RecordKind::SkinnedMesh, {}}}, {mesh, screen}, stack), 0);
-    QCOMPARE(stack.count(), 1);
-}
-
-void tst_Repairs::rotationsKeepTheirDirection()
-{
-    auto file = bases().front()->model<AnimFile>();
-    BlindView screen;
-    QUndoStack stack;
-    const QVector4D turned(-3.0f, 0.0f, 0.0f, 4.0f);
-    // The squares of the second are beyond what a float holds.
-    for (const QVector4D &rotation : {turned, turned * 1.0e25f, turned * 1.0e-3f}) {
-        file.blocks[0].rotations.at(1, 2) = rotation;
-        const RecordRef place{RecordKind::RotationKey, {0, 1, 2}};
-        QCOMPARE(repair(Rule::QuaternionUnnormalised, {place}, {file, screen}, stack), 1);
-        QVERIFY(qFuzzyCompare(file.blocks[0].rotations.at(1, 2), QVector4D(-0.6f, 0.0f, 0.0f, 0.8f)));
-    }
-}
-
-void tst_Repairs::anythingIsRepaired()
-{
-    repairAll(SampleModels::plainMesh());
-    repairAll(SampleModels::skinnedMesh());
-    repairAll(SampleModels::plainAnim());
-    repairAll(SampleModels::animFile());
-}
 
 QTEST_GUILESS_MAIN(tst_Repairs)
 #include "tst_repairs.moc"

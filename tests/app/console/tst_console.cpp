@@ -1,110 +1,91 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "ConsoleLog.h"
-
-#include <QAction>
-#include <QApplication>
-#include <QClipboard>
-#include <QListWidget>
-#include <QScrollBar>
-#include <QtTest>
+#include "Find.h"
 
 class tst_Console : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void rowsAndCounters();
-    void followsTheEndOnlyWhenThere();
-    void copiesSelectedLines();
+    void rowsAndCounters()
+    {
+        QListWidget list;
+        ConsoleLog console(&list);
+        QSignalSpy counts(&console, &ConsoleLog::countsChanged);
+        console.info(QStringLiteral("a"));
+        console.info(QStringLiteral("b"));
+        console.warning(QStringLiteral("c"));
+        QVERIFY(!console.hasErrors());
+
+        Log::setSink([&console](LogSeverity severity, const QString &text) { console.log(severity, text); });
+        Log::error(QStringLiteral("d\ne"));
+        Log::setSink({});
+        QTest::ignoreMessage(QtDebugMsg, "a \"quoted\" line");
+        Log::info(QStringLiteral("a \"quoted\" line"));
+        QVERIFY(console.hasErrors());
+        const auto numbers = [&console] {
+            return QVector<int>{console.rowCount(), console.infoCount(), console.warningCount(),
+                                console.errorCount()};
+        };
+        QCOMPARE(numbers(), QVector<int>({4, 2, 1, 1}));
+        QCOMPARE(counts.count(), 4);
+
+        QStringList rows;
+        for (int row = 0; row < list.count(); ++row)
+            rows << list.item(row)->text() + list.item(row)->data(Qt::UserRole).toString();
+        QCOMPARE(rows, QStringList({"a2", "b2", "c1", "d\ne0"}));
+
+        // Selected from the bottom up, copied from the top down.
+        QVERIFY(!console.copyAction()->isEnabled());
+        list.show();
+        const auto click = [&list](int row, Qt::KeyboardModifiers modifiers) {
+            QTest::mouseClick(list.viewport(), Qt::LeftButton, modifiers,
+                              list.visualItemRect(list.item(row)).center());
+        };
+        click(2, Qt::NoModifier);
+        click(0, Qt::ControlModifier);
+        console.copyAction()->trigger();
+        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("a\nc"));
+        console.clear();
+        QVERIFY(!console.copyAction()->isEnabled());
+        QCOMPARE(list.count(), 0);
+        QCOMPARE(numbers(), QVector<int>(4));
+        QVERIFY(!console.hasErrors());
+    }
+
+    void followsTheEndOnlyWhenThere()
+    {
+        QListWidget list;
+        ConsoleLog console(&list);
+        list.resize(300, 100);
+        list.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&list));
+        QScrollBar *bar = list.verticalScrollBar();
+        for (int i = 0; i < 10000; ++i)
+            console.info(QString::number(i));
+        QTRY_VERIFY(bar->maximum() > 0);
+        QTRY_COMPARE(bar->value(), bar->maximum());
+        QVERIFY(list.viewport()->rect().contains(list.visualItemRect(list.item(9999)).center()));
+
+        bar->setValue(10);
+        const int before = bar->maximum();
+        console.error(QStringLiteral("unseen"));
+        QTRY_VERIFY(bar->maximum() > before);
+        QCOMPARE(bar->value(), 10);
+
+        bar->setValue(bar->maximum());
+        console.info(QStringLiteral("seen"));
+        QTRY_VERIFY(bar->maximum() > before + 1);
+        QTRY_COMPARE(bar->value(), bar->maximum());
+
+        // The longest line can be read to its end.
+        console.error(QString(400, QLatin1Char('w')));
+        console.info(QStringLiteral("short"));
+        QTRY_VERIFY(list.horizontalScrollBar()->maximum() + list.viewport()->width() >=
+                    list.fontMetrics().horizontalAdvance(QString(400, QLatin1Char('w'))));
+    }
 };
-
-void tst_Console::rowsAndCounters()
-{
-    QListWidget list;
-    ConsoleLog console(&list);
-    QSignalSpy counts(&console, &ConsoleLog::countsChanged);
-    console.info(QStringLiteral("a"));
-    console.info(QStringLiteral("b"));
-    console.warning(QStringLiteral("c"));
-    QVERIFY(!console.hasErrors());
-
-    Log::setSink([&console](LogSeverity severity, const QString &text) { console.log(severity, text); });
-    Log::error(QStringLiteral("d\ne"));
-    Log::setSink({});
-    QVERIFY(console.hasErrors());
-    const auto numbers = [&console] {
-        return QVector<int>{console.rowCount(), console.infoCount(), console.warningCount(),
-                            console.errorCount()};
-    };
-    QCOMPARE(numbers(), QVector<int>({4, 2, 1, 1}));
-    QCOMPARE(counts.count(), 4);
-
-    QStringList rows;
-    for (int row = 0; row < list.count(); ++row)
-        rows << list.item(row)->text() + list.item(row)->data(Qt::UserRole).toString();
-    QCOMPARE(rows, QStringList({"a2", "b2", "c1", "d\ne0"}));
-
-    console.clear();
-    QCOMPARE(list.count(), 0);
-    QCOMPARE(numbers(), QVector<int>(4));
-    QVERIFY(!console.hasErrors());
-}
-
-void tst_Console::followsTheEndOnlyWhenThere()
-{
-    QListWidget list;
-    ConsoleLog console(&list);
-    list.resize(300, 100);
-    list.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&list));
-    QScrollBar *bar = list.verticalScrollBar();
-    for (int i = 0; i < 10000; ++i)
-        console.info(QString::number(i));
-    QTRY_VERIFY(bar->maximum() > 0);
-    QTRY_COMPARE(bar->value(), bar->maximum());
-    QVERIFY(list.viewport()->rect().contains(list.visualItemRect(list.item(9999)).center()));
-
-    bar->setValue(10);
-    const int before = bar->maximum();
-    console.error(QStringLiteral("unseen"));
-    QTRY_VERIFY(bar->maximum() > before);
-    QCOMPARE(bar->value(), 10);
-
-    bar->setValue(bar->maximum());
-    console.info(QStringLiteral("seen"));
-    QTRY_VERIFY(bar->maximum() > before + 1);
-    QTRY_COMPARE(bar->value(), bar->maximum());
-
-    // The longest line can be read to its end.
-    console.error(QString(400, QLatin1Char('w')));
-    console.info(QStringLiteral("short"));
-    QTRY_VERIFY(list.horizontalScrollBar()->maximum() + list.viewport()->width() >=
-                list.fontMetrics().horizontalAdvance(QString(400, QLatin1Char('w'))));
-}
-
-void tst_Console::copiesSelectedLines()
-{
-    QListWidget list;
-    ConsoleLog console(&list);
-    QVERIFY(!console.copyAction()->isEnabled());
-    for (const char *text : {"one", "two", "three"})
-        console.info(QLatin1String(text));
-    list.show();
-    QApplication::setActiveWindow(&list);
-    QVERIFY(QTest::qWaitForWindowActive(&list));
-    list.setFocus();
-
-    // Selected from the bottom up, copied from the top down.
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(2)).center());
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier,
-                      list.visualItemRect(list.item(0)).center());
-    QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
-    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("one\nthree"));
-
-    console.clear();
-    QVERIFY(!console.copyAction()->isEnabled());
-}
 
 QTEST_MAIN(tst_Console)
 #include "tst_console.moc"

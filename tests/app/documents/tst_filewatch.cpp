@@ -1,12 +1,10 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "Find.h"
 #include "Hand.h"
 #include "NoticeBar.h"
 #include "OneRun.h"
 #include "ReloadPrompt.h"
-
-#include <QVBoxLayout>
+#include "SampleModels.h"
 
 namespace {
 SkinnedMesh manWithFactor(int factor)
@@ -17,25 +15,129 @@ SkinnedMesh manWithFactor(int factor)
 }
 } // namespace
 
-using Change = std::function<void(const QString &path)>;
-Q_DECLARE_METATYPE(Change)
-
 class TestFileWatch : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void anotherProgramsChangeIsTold_data();
-    void anotherProgramsChangeIsTold();
-    void ownSavesAreNot();
-    void aFileIsWaitedFor();
-    void reloadAsksAboutChanges();
-    void aFileThatCannotBeReadChangesNothing();
+    void init()
+    {
+        m_run.reset();
+        m_folder.emplace();
+        writeWithFactor(1);
+        m_run = std::make_unique<OneRun>(m_folder->path(QStringLiteral("recovery")));
+        auto *place = new QVBoxLayout(&m_run->window);
+        new ReloadPrompt(m_run->files, place, &m_run->window);
+        m_bar = m_run->window.findChild<NoticeBar *>(QStringLiteral("barReload_skinnedmesh"));
+        m_run->window.show();
+        m_run->openMesh(path());
+        tick();
+    }
+
+    void anotherProgramsChangeIsTold()
+    {
+        const auto check = [this](const std::function<void()> &change) {
+            init();
+            change();
+            QTRY_VERIFY(m_bar->text().endsWith(QStringLiteral("' was changed by another program.")));
+            QVERIFY(m_bar->isVisible() && button("btnReload")->isVisible());
+            QCOMPARE(factor(), 1);
+            // What was kept, or reloaded, is watched on.
+            button("btnKeep")->click();
+            QVERIFY(m_bar->isHidden());
+            QVERIFY(m_run->mesh.isModified());
+            tick();
+            writeWithFactor(3);
+            QTRY_VERIFY(m_bar->isVisible());
+            Hand hand({Hand::press(QMessageBox::Yes)});
+            button("btnReload")->click();
+            QCOMPARE(factor(), 3);
+            QVERIFY(m_bar->isHidden() && !m_run->mesh.isModified());
+        };
+        // Another file in its place, and the same file written.
+        check([this] { writeWithFactor(2); });
+        check([this] { m_folder->put("man.skinnedmesh", SampleModels::bytesOf(manWithFactor(2))); });
+        // Removed and made anew, at once and after that was seen.
+        for (const int rest : {50, 2 * FileWatch::RestMs}) {
+            check([this, rest] {
+                QVERIFY(QFile::remove(path()));
+                QTest::qWait(rest);
+                writeWithFactor(2);
+            });
+        }
+    }
+
+    void ownSavesAreNot()
+    {
+        for (int i = 2; i < 5; ++i) {
+            m_run->edit(i);
+            QVERIFY(!m_run->mesh.save(path()));
+            tick();
+        }
+        QTest::qWait(2 * FileWatch::RestMs);
+        QVERIFY(m_bar->isHidden());
+
+        // One that is gone is all there is, and a save brings it back.
+        QVERIFY(QFile::remove(path()));
+        QTRY_VERIFY(m_bar->isVisible());
+        QVERIFY(!button("btnReload")->isVisible());
+        QVERIFY(m_run->mesh.isModified());
+        QVERIFY(!m_run->mesh.save(path()));
+        QVERIFY(m_bar->isHidden());
+    }
+
+    void aFileIsWaitedFor()
+    {
+        const QByteArray bytes = SampleModels::bytesOf(manWithFactor(2));
+        QFile file(path());
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+        // Longer than the rest time in all, with pauses that are shorter.
+        for (int i = 0; i < bytes.size(); i += bytes.size() / 6) {
+            const QByteArray part = bytes.mid(i, bytes.size() / 6);
+            QCOMPARE(file.write(part), qint64(part.size()));
+            QTest::qWait(FileWatch::RestMs / 3);
+            QVERIFY(m_bar->isHidden());
+        }
+        file.close();
+        QTRY_VERIFY(m_bar->isVisible());
+        button("btnReload")->click();
+        QCOMPARE(factor(), 2);
+    }
+
+    void reloadAsksAboutChanges()
+    {
+        m_run->edit(9);
+        writeWithFactor(2);
+        QTRY_VERIFY(m_bar->isVisible());
+        {
+            Hand hand({Hand::press(QMessageBox::No)});
+            button("btnReload")->click();
+            QCOMPARE(hand.seen.size(), 1);
+        }
+        QCOMPARE(factor(), 9);
+        QVERIFY(m_bar->isVisible());
+        Hand hand({Hand::press(QMessageBox::Yes)});
+        button("btnReload")->click();
+        QCOMPARE(factor(), 2);
+        // As the question promised.
+        QCOMPARE(m_run->recovery->snapshots().size(), 1);
+    }
+
+    void aFileThatCannotBeReadChangesNothing()
+    {
+        m_folder->put("man.skinnedmesh", "not a mesh");
+        QTRY_VERIFY(m_bar->isVisible());
+        Hand hand({Hand::press(QMessageBox::Ok)});
+        button("btnReload")->click();
+        QCOMPARE(hand.seen.size(), 1);
+        QCOMPARE(factor(), 1);
+        QVERIFY(m_run->mesh.isModified() && m_bar->isHidden());
+    }
 
 private:
-    QString path() const { return m_folder->filePath(QStringLiteral("man.skinnedmesh")); }
+    QString path() const { return m_folder->path(QStringLiteral("man.skinnedmesh")); }
     QPushButton *button(const char *name) const { return find<QPushButton>(*m_bar, name); }
+    void writeWithFactor(int factor) const { m_folder->save("man.skinnedmesh", manWithFactor(factor)); }
     int factor() const { return m_run->mesh.model().headTrackFactor; }
     void tick() const
     {
@@ -43,132 +145,10 @@ private:
         QTest::qWait(20);
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::optional<TestFolder> m_folder;
     std::unique_ptr<OneRun> m_run;
     NoticeBar *m_bar = nullptr;
 };
-
-void TestFileWatch::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(!manWithFactor(1).write(path()));
-    m_run = std::make_unique<OneRun>(m_folder->filePath(QStringLiteral("recovery")));
-    auto *place = new QVBoxLayout(&m_run->window);
-    new ReloadPrompt(m_run->files, place, &m_run->window);
-    m_bar = m_run->window.findChild<NoticeBar *>(QStringLiteral("barReload_skinnedmesh"));
-    m_run->window.show();
-    m_run->openMesh(path());
-    tick();
-}
-
-void TestFileWatch::anotherProgramsChangeIsTold_data()
-{
-    QTest::addColumn<Change>("change");
-    QTest::newRow("another file in its place")
-        << Change([](const QString &path) { QVERIFY(!manWithFactor(2).write(path)); });
-    QTest::newRow("written in place") << Change([](const QString &path) {
-        QVERIFY(!manWithFactor(2).write(path + QLatin1Char('x')));
-        QVERIFY(TestSupport::writeFile(path, TestSupport::readFile(path + QLatin1Char('x'))));
-    });
-    QTest::newRow("removed and made anew") << Change([](const QString &path) {
-        QVERIFY(QFile::remove(path));
-        QTest::qWait(50);
-        QVERIFY(!manWithFactor(2).write(path));
-    });
-    QTest::newRow("removed, seen, made anew") << Change([](const QString &path) {
-        QVERIFY(QFile::remove(path));
-        QTest::qWait(2 * FileWatch::RestMs);
-        QVERIFY(!manWithFactor(2).write(path));
-    });
-}
-
-void TestFileWatch::anotherProgramsChangeIsTold()
-{
-    QFETCH(Change, change);
-    change(path());
-    QTRY_VERIFY(m_bar->text().endsWith(QStringLiteral("' was changed by another program.")));
-    QVERIFY(m_bar->isVisible() && button("btnReload")->isVisible());
-    QCOMPARE(factor(), 1);
-    // What was kept, or reloaded, is watched on.
-    button("btnKeep")->click();
-    QVERIFY(m_bar->isHidden());
-    QVERIFY(m_run->mesh.isModified());
-    tick();
-    QVERIFY(!manWithFactor(3).write(path()));
-    QTRY_VERIFY(m_bar->isVisible());
-    Hand hand({Hand::press(QMessageBox::Yes)});
-    button("btnReload")->click();
-    QCOMPARE(factor(), 3);
-    QVERIFY(m_bar->isHidden() && !m_run->mesh.isModified());
-}
-
-void TestFileWatch::ownSavesAreNot()
-{
-    for (int i = 2; i < 5; ++i) {
-        m_run->edit(i);
-        QVERIFY(!m_run->mesh.save(path()));
-        tick();
-    }
-    QTest::qWait(2 * FileWatch::RestMs);
-    QVERIFY(m_bar->isHidden());
-
-    // One that is gone is all there is, and a save brings it back.
-    QVERIFY(QFile::remove(path()));
-    QTRY_VERIFY(m_bar->isVisible());
-    QVERIFY(!button("btnReload")->isVisible());
-    QVERIFY(m_run->mesh.isModified());
-    QVERIFY(!m_run->mesh.save(path()));
-    QVERIFY(m_bar->isHidden());
-}
-
-void TestFileWatch::aFileIsWaitedFor()
-{
-    QVERIFY(!manWithFactor(2).write(m_folder->filePath(QStringLiteral("new"))));
-    const QByteArray bytes = TestSupport::readFile(m_folder->filePath(QStringLiteral("new")));
-    QFile file(path());
-    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
-    // Longer than the rest time in all, with pauses that are shorter.
-    for (int i = 0; i < bytes.size(); i += bytes.size() / 6) {
-        const QByteArray part = bytes.mid(i, bytes.size() / 6);
-        QCOMPARE(file.write(part), qint64(part.size()));
-        QTest::qWait(FileWatch::RestMs / 3);
-        QVERIFY(m_bar->isHidden());
-    }
-    file.close();
-    QTRY_VERIFY(m_bar->isVisible());
-    button("btnReload")->click();
-    QCOMPARE(factor(), 2);
-}
-
-void TestFileWatch::reloadAsksAboutChanges()
-{
-    m_run->edit(9);
-    QVERIFY(!manWithFactor(2).write(path()));
-    QTRY_VERIFY(m_bar->isVisible());
-    {
-        Hand hand({Hand::press(QMessageBox::No)});
-        button("btnReload")->click();
-        QCOMPARE(hand.seen.size(), 1);
-    }
-    QCOMPARE(factor(), 9);
-    QVERIFY(m_bar->isVisible());
-    Hand hand({Hand::press(QMessageBox::Yes)});
-    button("btnReload")->click();
-    QCOMPARE(factor(), 2);
-    // As the question promised.
-    QCOMPARE(m_run->recovery->snapshots().size(), 1);
-}
-
-void TestFileWatch::aFileThatCannotBeReadChangesNothing()
-{
-    QVERIFY(TestSupport::writeFile(path(), "not a mesh"));
-    QTRY_VERIFY(m_bar->isVisible());
-    Hand hand({Hand::press(QMessageBox::Ok)});
-    button("btnReload")->click();
-    QCOMPARE(hand.seen.size(), 1);
-    QCOMPARE(factor(), 1);
-    QVERIFY(m_run->mesh.isModified() && m_bar->isHidden());
-}
 
 QTEST_MAIN(TestFileWatch)
 #include "tst_filewatch.moc"

@@ -1,22 +1,18 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "Find.h"
 #include "Hand.h"
 #include "ImportDialog.h"
 #include "ImportFilter.h"
 #include "KMat.h"
 
-#include <QCheckBox>
-#include <QClipboard>
-#include <QDoubleSpinBox>
-#include <QLabel>
-#include <QListWidget>
-#include <QStackedWidget>
-
 #include <algorithm>
 #include <memory>
 
 Q_DECLARE_METATYPE(StaticMesh)
+
+namespace {
+const QByteArray corners = "v 0 0 0\nv 2 0 0\nv 0 4 0\nvt 0 0.25\n";
+}
 
 class tst_ImportDialog : public QObject
 {
@@ -28,16 +24,284 @@ private slots:
         QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         qRegisterMetaType<StaticMesh>("StaticMesh");
     }
-    void init();
-    void optionsAreStoredAtOnce();
-    void choosingTheModel();
-    void pathsStayInTheModFolder();
-    void outputFoldersAreChecked();
-    void outcomes_data();
-    void outcomes();
-    void errorsLeadBack();
-    void givingUp();
-    void droppedFilesAreKnownByTheirNames();
+    void init()
+    {
+        TestSupport::useSettingsHome(m_home);
+        m_source.emplace();
+        m_mod.emplace();
+        QDir(m_mod->path()).mkpath(QStringLiteral("materials"));
+        QDir(m_mod->path()).mkpath(QStringLiteral("textures"));
+        Settings::OutputDir.setValue(m_mod->path());
+    }
+
+    void optionsAreStoredAtOnce()
+    {
+        const QVector<QPair<const char *, const SettingKey<bool> *>> options{
+            {"cbSwapYZ", &Settings::ImportSwapYZ},
+            {"cbGenNormals", &Settings::ImportGenNormals},
+            {"cbFlipUV", &Settings::ImportFlipUV},
+            {"cbFlipWindingOrder", &Settings::ImportFlipWindingOrder},
+            {"cbCreateKMat", &Settings::ImportKMat},
+            {"cbCopyTextures", &Settings::ImportTextures},
+            {"cbRotatePitch", &Settings::ImportRotPitch}};
+        {
+            ImportDialog dialog(ImportDialog::StaticMeshMode);
+            for (const auto &[name, key] : options) {
+                auto *box = find<QCheckBox>(dialog, name);
+                const bool before = key->value();
+                QCOMPARE(box->isChecked(), before);
+                QTest::keyClick(box, Qt::Key_Space);
+                QCOMPARE(key->value(), !before);
+            }
+            auto *scale = find<QDoubleSpinBox>(dialog, "sbScale");
+            scale->selectAll();
+            QTest::keyClicks(scale, QStringLiteral("2.5"));
+            QCOMPARE(Settings::ImportScale.value(), 2.5f);
+            type(dialog, "txtT2Dir", m_source->path() + QLatin1Char('/'));
+            QCOMPARE(Settings::OutputDir.value(), m_source->path());
+        }
+        Settings::ImportScale.setValue(-3.0f);
+        const ImportDialog again(ImportDialog::SkinnedMeshMode);
+        for (const auto &[name, key] : options)
+            QCOMPARE(find<QCheckBox>(again, name)->isChecked(), key->value());
+        QCOMPARE(find<QDoubleSpinBox>(again, "sbScale")->value(), 1e-6);
+    }
+
+    void choosingTheModel()
+    {
+        ImportDialog dialog(ImportDialog::SkinnedMeshMode);
+        dialog.show();
+        QVERIFY(!find<QPushButton>(dialog, "btnImport")->isEnabled());
+        const QString path = write(QStringLiteral("box.v2.obj"), corners);
+        Hand hand({Hand::file(path)});
+        click(dialog, "btnModelBrowse");
+        QCOMPARE(hand.seen, QStringList(QStringLiteral("Import Model to Skinned Mesh")));
+        QCOMPARE(Settings::ImportPath.value(), m_source->path());
+        QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("materials/mat_box.v2.kmat"));
+        QVERIFY(find<QPushButton>(dialog, "btnImport")->isEnabled());
+
+        // A typed model takes its material file along, until that was chosen.
+        type(dialog, "txtModelPath", QStringLiteral("/x/crate.fbx"));
+        QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("materials/mat_crate.kmat"));
+        type(dialog, "txtKMatPath", QStringLiteral("mine"));
+        QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("mine.kmat"));
+        type(dialog, "txtModelPath", QStringLiteral("/x/barrel.fbx"));
+        QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("mine.kmat"));
+    }
+
+    void pathsStayInTheModFolder()
+    {
+        ImportDialog dialog(ImportDialog::StaticMeshMode);
+        dialog.show();
+        dialog.setModelPath(QStringLiteral("/x/crate.fbx"));
+        const QString refusal = QStringLiteral("kmat Path Error|Path must be relative to Turok 2 Folder");
+        for (const char *edit : {"txtKMatPath", "txtTexPath"}) {
+            const QString before = find<QLineEdit>(dialog, edit)->text();
+            Hand hand({Hand::press(QMessageBox::Ok)});
+            type(dialog, edit, QStringLiteral("../a.kmat"));
+            QCOMPARE(hand.seen, QStringList(refusal));
+            QCOMPARE(find<QLineEdit>(dialog, edit)->text(), before);
+            type(dialog, edit, m_mod->path(QStringLiteral("sub/a.kmat")));
+            QCOMPARE(find<QLineEdit>(dialog, edit)->text(), QStringLiteral("sub/a.kmat"));
+        }
+        QStringList titles;
+        dialog.setFolderChooser([&titles, this](QWidget *, const QString &title, const QString &) {
+            titles += title;
+            return m_mod->path(QStringLiteral("textures"));
+        });
+        click(dialog, "btnTextureDirBrowse");
+        QCOMPARE(find<QLineEdit>(dialog, "txtTexPath")->text(), QStringLiteral("textures"));
+        Hand hand({Hand::file(m_mod->path(QStringLiteral("materials/new")))});
+        find<QLineEdit>(dialog, "txtKMatPath")->setText(QString());
+        click(dialog, "btnkmatPathBrowse");
+        QCOMPARE(hand.seen, QStringList(QStringLiteral("Save .kmat")));
+        QVERIFY(find<QLineEdit>(dialog, "txtKMatPath")->text().endsWith(QLatin1String("new.kmat")));
+        click(dialog, "btnT2DirBrowse");
+        QCOMPARE(titles, QStringList({QString("Texture Output Folder"), QString("Turok 2 Output Folder")}));
+        QCOMPARE(Settings::OutputDir.value(), m_mod->path(QString("textures")));
+    }
+
+    void outputFoldersAreChecked()
+    {
+        ImportDialog dialog(ImportDialog::StaticMeshMode);
+        dialog.show();
+        dialog.setModelPath(writeTextured());
+        QSignalSpy imported(&dialog, &ImportDialog::staticMeshImported);
+        const auto refused = [&dialog] {
+            Hand hand({Hand::press(QMessageBox::Ok)});
+            click(dialog, "btnImport");
+            return hand.seen.value(0);
+        };
+        // The folder is asked for even when nothing is to be written to it.
+        type(dialog, "txtT2Dir", QString());
+        QCOMPARE(refused(), QStringLiteral("Output Folder Error|Turok 2 Folder '' doesn't exist."));
+
+        type(dialog, "txtT2Dir", m_mod->path());
+        type(dialog, "txtKMatPath", QStringLiteral("none/m.kmat"));
+        type(dialog, "txtTexPath", QStringLiteral("nowhere"));
+        click(dialog, "btnCancel");
+        dialog.show();
+        find<QCheckBox>(dialog, "cbCreateKMat")->click();
+        find<QCheckBox>(dialog, "cbCopyTextures")->click();
+        QCOMPARE(refused(), QStringLiteral("Output Folder Error|"
+                                           "Turok 2 Folder + kmat Path '%1/none' doesn't exist.\n"
+                                           "Turok 2 Folder + Texture Folder '%1/nowhere' doesn't exist.")
+                                .arg(m_mod->path()));
+        QCOMPARE(page(dialog), QStringLiteral("pageOptions"));
+        QCOMPARE(imported.count(), 0);
+    }
+
+    void outcomes_data()
+    {
+        QTest::addColumn<bool>("changed"); ///< turned and scaled, with textures and a material file
+        QTest::addColumn<bool>("failing");
+        QTest::addColumn<QString>("outcome");
+        QTest::newRow("the model as it is") << false << false << QString();
+        QTest::newRow("everything") << true << false
+                                    << QStringLiteral("Successfully copied textures\n"
+                                                      "Successfully created .kmat file\n");
+        QTest::newRow("no folder to write to") << true << true
+                                               << QStringLiteral("Failed on copying textures\n"
+                                                                 "Failed on creating .kmat file\n");
+    }
+
+    void outcomes()
+    {
+        QFETCH(bool, changed);
+        QFETCH(bool, failing);
+        QFETCH(QString, outcome);
+        for (const auto *key : {&Settings::ImportTextures, &Settings::ImportKMat, &Settings::ImportRotPitch})
+            key->setValue(changed);
+        Settings::ImportScale.setValue(changed ? 2.5f : 1.0f);
+        for (const char *name : {"materials", "textures"}) {
+            if (!failing)
+                break;
+            // A folder in which nobody can make a file, not even the administrator.
+            QVERIFY(QDir(m_mod->path()).rmdir(QLatin1String(name)));
+            QVERIFY(QFile::link(QStringLiteral("/proc/self"), m_mod->path(QLatin1String(name))));
+        }
+        const QString path = writeTextured();
+        SkinnedMesh skinned;
+        StaticMesh rigid;
+        for (const auto mode : {ImportDialog::SkinnedMeshMode, ImportDialog::StaticMeshMode}) {
+            ImportDialog dialog(mode);
+            dialog.setVersions(11, 12);
+            dialog.show();
+            dialog.setModelPath(path);
+            QString name;
+            connect(&dialog, &ImportDialog::skinnedMeshImported, this,
+                    [&](const SkinnedMesh &mesh, const AnimFile &anim, const QString &from) {
+                        skinned = mesh;
+                        name = from;
+                        QCOMPARE(anim.version, 12);
+                        QVERIFY(anim.blocks.empty());
+                    });
+            connect(&dialog, &ImportDialog::staticMeshImported, this,
+                    [&](const StaticMesh &mesh, const QString &from) {
+                        rigid = mesh;
+                        name = from;
+                    });
+            click(dialog, "btnImport");
+            QTRY_COMPARE_WITH_TIMEOUT(page(dialog), QStringLiteral("pageSuccess"), 20000);
+            const QString kind = mode == ImportDialog::SkinnedMeshMode ? QStringLiteral("Skinned Mesh")
+                                                                       : QStringLiteral("Static Mesh");
+            QCOMPARE(find<QLabel>(dialog, "lblSuccess")->text(),
+                     QStringLiteral("Successfully imported '%1' to %2\n").arg(path, kind) + outcome);
+            QCOMPARE(name, QStringLiteral("box.v2"));
+            auto *list = find<QListWidget>(dialog, "listSuccess");
+            QVERIFY(list->count() > 0);
+            click(dialog, "btnSuccessCopy");
+            QCOMPARE(QApplication::clipboard()->text().count(QLatin1Char('\n')), list->count() - 1);
+            click(dialog, "btnSuccess");
+            QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        }
+        const auto contains = [](const auto &vertices, const QVector3D &position) {
+            return std::any_of(vertices.begin(), vertices.end(), [&position](const auto &vertex) {
+                return (vertex.position - position).length() < 1e-4f;
+            });
+        };
+        // Where the corner at (0, 4, 0) goes.
+        const QVector3D skinnedCorner = changed ? QVector3D(0, 0, 10) : QVector3D(0, 4, 0);
+        const QVector3D rigidCorner = changed ? QVector3D(0, 0, -10) : QVector3D(0, 4, 0);
+        QVERIFY(contains(skinned.vertices, skinnedCorner) && contains(rigid.vertices, rigidCorner));
+        QCOMPARE(skinned.version, 11);
+        QCOMPARE(rigid.version, 11);
+        // The box is one around the vertices for the one, the turned corners for the other.
+        QCOMPARE(skinned.bbMax.z(), skinnedCorner.z());
+        QCOMPARE(rigid.bbMax.z(), rigidCorner.z());
+        if (changed && !failing) {
+            MaterialTable table;
+            QCOMPARE(readKMat(m_mod->path(QString("materials/mat_box.v2.kmat")), table), QString());
+            QCOMPARE(table, (MaterialTable{{QString("surf_0"), QString("textures/steel.png")}}));
+            QCOMPARE(TestSupport::readFile(m_mod->path(QString("textures/steel.png"))),
+                     QByteArray("picture"));
+        }
+    }
+
+    void errorsLeadBack()
+    {
+        ImportDialog dialog(ImportDialog::StaticMeshMode);
+        dialog.show();
+        const QString broken = write(QStringLiteral("broken.obj"), "v");
+        dialog.setModelPath(broken);
+        QSignalSpy imported(&dialog, &ImportDialog::staticMeshImported);
+        click(dialog, "btnImport");
+        QTRY_COMPARE_WITH_TIMEOUT(page(dialog), QString("pageError"), 20000);
+        QCOMPARE(find<QLabel>(dialog, "lblError")->text(), QString("Error importing '%1'").arg(broken));
+        auto *list = find<QListWidget>(dialog, "listError");
+        QCOMPARE(list->count(), 1);
+        QCOMPARE(list->item(0)->data(Qt::UserRole).toInt(), int(LogSeverity::Error));
+        QTest::keyClick(list, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QApplication::clipboard()->text(), list->item(0)->text());
+        QCOMPARE(imported.count(), 0);
+
+        click(dialog, "btnErrorBack");
+        QCOMPARE(page(dialog), QStringLiteral("pageOptions"));
+        dialog.setModelPath(write(QStringLiteral("good.obj"), corners + "f 1/1 2/1 3/1\n"));
+        click(dialog, "btnImport");
+        QTRY_COMPARE_WITH_TIMEOUT(page(dialog), QStringLiteral("pageSuccess"), 20000);
+        QCOMPARE(imported.count(), 1);
+        for (int row = 0; row < find<QListWidget>(dialog, "listSuccess")->count(); ++row)
+            QVERIFY(!find<QListWidget>(dialog, "listSuccess")->item(row)->text().contains(broken));
+        // The model is in its tab by now: leaving by Escape is no refusal.
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    }
+
+    void givingUp()
+    {
+        const QString sleeper = write(QStringLiteral("sleeper"), "#!/bin/sh\nexec sleep 100\n");
+        QFile(sleeper).setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+        const QByteArray worker = qgetenv("KORVANE_IMPORT_WORKER");
+        qputenv("KORVANE_IMPORT_WORKER", sleeper.toUtf8());
+        ImportDialog dialog(ImportDialog::StaticMeshMode);
+        qputenv("KORVANE_IMPORT_WORKER", worker);
+        dialog.show();
+        dialog.setModelPath(write(QStringLiteral("a.obj"), corners));
+        for (const bool byKey : {false, true}) {
+            click(dialog, "btnImport");
+            QCOMPARE(page(dialog), QStringLiteral("pageProgress"));
+            auto *elapsed = find<QLabel>(dialog, "lblElapsed");
+            const QString first = elapsed->text();
+            QTRY_VERIFY(elapsed->text() != first);
+            QVERIFY(elapsed->text().endsWith(QLatin1String(" s of at most 60 s")));
+            if (byKey)
+                QTest::keyClick(&dialog, Qt::Key_Escape);
+            else
+                click(dialog, "btnStop");
+            QTRY_COMPARE(page(dialog), QStringLiteral("pageError"));
+            QVERIFY(dialog.isVisible());
+            click(dialog, "btnErrorBack");
+        }
+    }
+
+    void droppedFilesAreKnownByTheirNames()
+    {
+        for (const char *name : {"a.obj", "A.FBX", "a.b.gltf", "a.md5mesh"})
+            QVERIFY2(isImportable(QLatin1String(name)), name);
+        for (const char *name : {"a.skinnedmesh", "a.png", "a", "obj", "a.kmat"})
+            QVERIFY2(!isImportable(QLatin1String(name)), name);
+    }
 
 private:
     static void click(const QWidget &dialog, const char *button)
@@ -57,309 +321,18 @@ private:
     {
         return find<QStackedWidget>(dialog, "stackPages")->currentWidget()->objectName();
     }
-    QString write(const QString &name, const QByteArray &bytes)
+    QString write(const QString &name, const QByteArray &bytes) { return m_source->put(name, bytes); }
+    QString writeTextured()
     {
-        const QString path = m_source->filePath(name);
-        TestSupport::writeFile(path, bytes);
-        return path;
+        write(QStringLiteral("m.mtl"), "newmtl a\nmap_Kd steel.jpg\n");
+        write(QStringLiteral("steel.png"), "picture");
+        return write(QStringLiteral("box.v2.obj"), "mtllib m.mtl\nusemtl a\n" + corners + "f 1/1 2/1 3/1\n");
     }
-    QString writeTextured();
 
     QTemporaryDir m_home;
-    std::unique_ptr<QTemporaryDir> m_source;
-    std::unique_ptr<QTemporaryDir> m_mod;
+    std::optional<TestFolder> m_source;
+    std::optional<TestFolder> m_mod;
 };
-
-namespace {
-const QByteArray corners = "v 0 0 0\nv 2 0 0\nv 0 4 0\nvt 0 0.25\n";
-}
-
-void tst_ImportDialog::init()
-{
-    TestSupport::useSettingsHome(m_home);
-    m_source = std::make_unique<QTemporaryDir>();
-    m_mod = std::make_unique<QTemporaryDir>();
-    QDir(m_mod->path()).mkpath(QStringLiteral("materials"));
-    QDir(m_mod->path()).mkpath(QStringLiteral("textures"));
-    Settings::OutputDir.setValue(m_mod->path());
-}
-
-QString tst_ImportDialog::writeTextured()
-{
-    write(QStringLiteral("m.mtl"), "newmtl a\nmap_Kd steel.jpg\n");
-    write(QStringLiteral("steel.png"), "picture");
-    return write(QStringLiteral("box.v2.obj"), "mtllib m.mtl\nusemtl a\n" + corners + "f 1/1 2/1 3/1\n");
-}
-
-void tst_ImportDialog::optionsAreStoredAtOnce()
-{
-    const QVector<QPair<const char *, const SettingKey<bool> *>> options{
-        {"cbSwapYZ", &Settings::ImportSwapYZ},
-        {"cbGenNormals", &Settings::ImportGenNormals},
-        {"cbFlipUV", &Settings::ImportFlipUV},
-        {"cbFlipWindingOrder", &Settings::ImportFlipWindingOrder},
-        {"cbCreateKMat", &Settings::ImportKMat},
-        {"cbCopyTextures", &Settings::ImportTextures},
-        {"cbRotatePitch", &Settings::ImportRotPitch}};
-    {
-        ImportDialog dialog(ImportDialog::StaticMeshMode);
-        for (const auto &[name, key] : options) {
-            auto *box = find<QCheckBox>(dialog, name);
-            const bool before = key->value();
-            QCOMPARE(box->isChecked(), before);
-            QTest::keyClick(box, Qt::Key_Space);
-            QCOMPARE(key->value(), !before);
-        }
-        auto *scale = find<QDoubleSpinBox>(dialog, "sbScale");
-        scale->selectAll();
-        QTest::keyClicks(scale, QStringLiteral("2.5"));
-        QCOMPARE(Settings::ImportScale.value(), 2.5f);
-        type(dialog, "txtT2Dir", m_source->path() + QLatin1Char('/'));
-        QCOMPARE(Settings::OutputDir.value(), m_source->path());
-    }
-    Settings::ImportScale.setValue(-3.0f);
-    const ImportDialog again(ImportDialog::SkinnedMeshMode);
-    for (const auto &[name, key] : options)
-        QCOMPARE(find<QCheckBox>(again, name)->isChecked(), key->value());
-    QCOMPARE(find<QDoubleSpinBox>(again, "sbScale")->value(), 1e-6);
-}
-
-void tst_ImportDialog::choosingTheModel()
-{
-    ImportDialog dialog(ImportDialog::SkinnedMeshMode);
-    dialog.show();
-    QVERIFY(!find<QPushButton>(dialog, "btnImport")->isEnabled());
-    const QString path = write(QStringLiteral("box.v2.obj"), corners);
-    Hand hand({Hand::file(path)});
-    click(dialog, "btnModelBrowse");
-    QCOMPARE(hand.seen, QStringList(QStringLiteral("Import Model to Skinned Mesh")));
-    QCOMPARE(Settings::ImportPath.value(), m_source->path());
-    QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("materials/mat_box.v2.kmat"));
-    QVERIFY(find<QPushButton>(dialog, "btnImport")->isEnabled());
-
-    // A typed model takes its material file along, until that was chosen.
-    type(dialog, "txtModelPath", QStringLiteral("/x/crate.fbx"));
-    QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("materials/mat_crate.kmat"));
-    type(dialog, "txtKMatPath", QStringLiteral("mine"));
-    QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("mine.kmat"));
-    type(dialog, "txtModelPath", QStringLiteral("/x/barrel.fbx"));
-    QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("mine.kmat"));
-}
-
-void tst_ImportDialog::pathsStayInTheModFolder()
-{
-    ImportDialog dialog(ImportDialog::StaticMeshMode);
-    dialog.show();
-    dialog.setModelPath(QStringLiteral("/x/crate.fbx"));
-    const QString refusal = QStringLiteral("kmat Path Error|Path must be relative to Turok 2 Folder");
-    for (const char *edit : {"txtKMatPath", "txtTexPath"}) {
-        const QString before = find<QLineEdit>(dialog, edit)->text();
-        Hand hand({Hand::press(QMessageBox::Ok)});
-        type(dialog, edit, QStringLiteral("../a.kmat"));
-        QCOMPARE(hand.seen, QStringList(refusal));
-        QCOMPARE(find<QLineEdit>(dialog, edit)->text(), before);
-        type(dialog, edit, m_mod->filePath(QStringLiteral("sub/a.kmat")));
-        QCOMPARE(find<QLineEdit>(dialog, edit)->text(), QStringLiteral("sub/a.kmat"));
-    }
-    QStringList titles;
-    dialog.setFolderChooser([&titles, this](QWidget *, const QString &title, const QString &) {
-        titles += title;
-        return m_mod->filePath(QStringLiteral("textures"));
-    });
-    click(dialog, "btnTextureDirBrowse");
-    QCOMPARE(find<QLineEdit>(dialog, "txtTexPath")->text(), QStringLiteral("textures"));
-    Hand hand({Hand::file(m_mod->filePath(QStringLiteral("materials/new")))});
-    find<QLineEdit>(dialog, "txtKMatPath")->setText(QString());
-    click(dialog, "btnkmatPathBrowse");
-    QCOMPARE(hand.seen, QStringList(QStringLiteral("Save .kmat")));
-    QVERIFY(find<QLineEdit>(dialog, "txtKMatPath")->text().endsWith(QLatin1String("new.kmat")));
-    click(dialog, "btnT2DirBrowse");
-    QCOMPARE(titles,
-             QStringList({QStringLiteral("Texture Output Folder"), QStringLiteral("Turok 2 Output Folder")}));
-    QCOMPARE(Settings::OutputDir.value(), m_mod->filePath(QStringLiteral("textures")));
-}
-
-void tst_ImportDialog::outputFoldersAreChecked()
-{
-    ImportDialog dialog(ImportDialog::StaticMeshMode);
-    dialog.show();
-    dialog.setModelPath(writeTextured());
-    QSignalSpy imported(&dialog, &ImportDialog::staticMeshImported);
-    const auto refused = [&dialog] {
-        Hand hand({Hand::press(QMessageBox::Ok)});
-        click(dialog, "btnImport");
-        return hand.seen.value(0);
-    };
-    // The folder is asked for even when nothing is to be written to it.
-    type(dialog, "txtT2Dir", QString());
-    QCOMPARE(refused(), QStringLiteral("Output Folder Error|Turok 2 Folder '' doesn't exist."));
-
-    type(dialog, "txtT2Dir", m_mod->path());
-    type(dialog, "txtKMatPath", QStringLiteral("none/m.kmat"));
-    type(dialog, "txtTexPath", QStringLiteral("nowhere"));
-    click(dialog, "btnCancel");
-    dialog.show();
-    find<QCheckBox>(dialog, "cbCreateKMat")->click();
-    find<QCheckBox>(dialog, "cbCopyTextures")->click();
-    QCOMPARE(refused(), QStringLiteral("Output Folder Error|"
-                                       "Turok 2 Folder + kmat Path '%1/none' doesn't exist.\n"
-                                       "Turok 2 Folder + Texture Folder '%1/nowhere' doesn't exist.")
-                            .arg(m_mod->path()));
-    QCOMPARE(page(dialog), QStringLiteral("pageOptions"));
-    QCOMPARE(imported.count(), 0);
-}
-
-void tst_ImportDialog::outcomes_data()
-{
-    QTest::addColumn<bool>("changed"); ///< turned and scaled, with textures and a material file
-    QTest::addColumn<bool>("failing");
-    QTest::addColumn<QString>("outcome");
-    QTest::newRow("the model as it is") << false << false << QString();
-    QTest::newRow("everything") << true << false
-                                << QStringLiteral("Successfully copied textures\n"
-                                                  "Successfully created .kmat file\n");
-    QTest::newRow("no folder to write to") << true << true
-                                           << QStringLiteral("Failed on copying textures\n"
-                                                             "Failed on creating .kmat file\n");
-}
-
-void tst_ImportDialog::outcomes()
-{
-    QFETCH(bool, changed);
-    QFETCH(bool, failing);
-    QFETCH(QString, outcome);
-    for (const auto *key : {&Settings::ImportTextures, &Settings::ImportKMat, &Settings::ImportRotPitch})
-        key->setValue(changed);
-    Settings::ImportScale.setValue(changed ? 2.5f : 1.0f);
-    for (const char *name : {"materials", "textures"}) {
-        if (!failing)
-            break;
-        // A folder in which nobody can make a file, not even the administrator.
-        QVERIFY(QDir(m_mod->path()).rmdir(QLatin1String(name)));
-        QVERIFY(QFile::link(QStringLiteral("/proc/self"), m_mod->filePath(QLatin1String(name))));
-    }
-    const QString path = writeTextured();
-    SkinnedMesh skinned;
-    StaticMesh rigid;
-    for (const auto mode : {ImportDialog::SkinnedMeshMode, ImportDialog::StaticMeshMode}) {
-        ImportDialog dialog(mode);
-        dialog.setVersions(11, 12);
-        dialog.show();
-        dialog.setModelPath(path);
-        QString name;
-        connect(&dialog, &ImportDialog::skinnedMeshImported, this,
-                [&](const SkinnedMesh &mesh, const AnimFile &anim, const QString &from) {
-                    skinned = mesh;
-                    name = from;
-                    QCOMPARE(anim.version, 12);
-                    QVERIFY(anim.blocks.empty());
-                });
-        connect(&dialog, &ImportDialog::staticMeshImported, this,
-                [&](const StaticMesh &mesh, const QString &from) {
-                    rigid = mesh;
-                    name = from;
-                });
-        click(dialog, "btnImport");
-        QTRY_COMPARE_WITH_TIMEOUT(page(dialog), QStringLiteral("pageSuccess"), 20000);
-        const QString kind = mode == ImportDialog::SkinnedMeshMode ? QStringLiteral("Skinned Mesh")
-                                                                   : QStringLiteral("Static Mesh");
-        QCOMPARE(find<QLabel>(dialog, "lblSuccess")->text(),
-                 QStringLiteral("Successfully imported '%1' to %2\n").arg(path, kind) + outcome);
-        QCOMPARE(name, QStringLiteral("box.v2"));
-        auto *list = find<QListWidget>(dialog, "listSuccess");
-        QVERIFY(list->count() > 0);
-        click(dialog, "btnSuccessCopy");
-        QCOMPARE(QApplication::clipboard()->text().count(QLatin1Char('\n')), list->count() - 1);
-        click(dialog, "btnSuccess");
-        QCOMPARE(dialog.result(), int(QDialog::Accepted));
-    }
-    const auto contains = [](const auto &vertices, const QVector3D &position) {
-        return std::any_of(vertices.begin(), vertices.end(), [&position](const auto &vertex) {
-            return (vertex.position - position).length() < 1e-4f;
-        });
-    };
-    // Where the corner at (0, 4, 0) goes.
-    const QVector3D skinnedCorner = changed ? QVector3D(0, 0, 10) : QVector3D(0, 4, 0);
-    const QVector3D rigidCorner = changed ? QVector3D(0, 0, -10) : QVector3D(0, 4, 0);
-    QVERIFY(contains(skinned.vertices, skinnedCorner) && contains(rigid.vertices, rigidCorner));
-    QCOMPARE(skinned.version, 11);
-    QCOMPARE(rigid.version, 11);
-    // The box is one around the vertices for the one, the turned corners for the other.
-    QCOMPARE(skinned.bbMax.z(), skinnedCorner.z());
-    QCOMPARE(rigid.bbMax.z(), rigidCorner.z());
-    if (changed && !failing) {
-        MaterialTable table;
-        QCOMPARE(readKMat(m_mod->filePath(QStringLiteral("materials/mat_box.v2.kmat")), table), QString());
-        QCOMPARE(table, (MaterialTable{{QStringLiteral("surf_0"), QStringLiteral("textures/steel.png")}}));
-        QCOMPARE(TestSupport::readFile(m_mod->filePath(QStringLiteral("textures/steel.png"))),
-                 QByteArray("picture"));
-    }
-}
-
-void tst_ImportDialog::errorsLeadBack()
-{
-    ImportDialog dialog(ImportDialog::StaticMeshMode);
-    dialog.show();
-    const QString broken = write(QStringLiteral("broken.obj"), "v");
-    dialog.setModelPath(broken);
-    QSignalSpy imported(&dialog, &ImportDialog::staticMeshImported);
-    click(dialog, "btnImport");
-    QTRY_COMPARE_WITH_TIMEOUT(page(dialog), QStringLiteral("pageError"), 20000);
-    QCOMPARE(find<QLabel>(dialog, "lblError")->text(), QStringLiteral("Error importing '%1'").arg(broken));
-    auto *list = find<QListWidget>(dialog, "listError");
-    QCOMPARE(list->count(), 1);
-    QCOMPARE(list->item(0)->data(Qt::UserRole).toInt(), int(LogSeverity::Error));
-    QTest::keyClick(list, Qt::Key_C, Qt::ControlModifier);
-    QCOMPARE(QApplication::clipboard()->text(), list->item(0)->text());
-    QCOMPARE(imported.count(), 0);
-
-    click(dialog, "btnErrorBack");
-    QCOMPARE(page(dialog), QStringLiteral("pageOptions"));
-    dialog.setModelPath(write(QStringLiteral("good.obj"), corners + "f 1/1 2/1 3/1\n"));
-    click(dialog, "btnImport");
-    QTRY_COMPARE_WITH_TIMEOUT(page(dialog), QStringLiteral("pageSuccess"), 20000);
-    QCOMPARE(imported.count(), 1);
-    for (int row = 0; row < find<QListWidget>(dialog, "listSuccess")->count(); ++row)
-        QVERIFY(!find<QListWidget>(dialog, "listSuccess")->item(row)->text().contains(broken));
-    // The model is in its tab by now: leaving by Escape is no refusal.
-    QTest::keyClick(&dialog, Qt::Key_Escape);
-    QCOMPARE(dialog.result(), int(QDialog::Accepted));
-}
-
-void tst_ImportDialog::givingUp()
-{
-    const QString sleeper = write(QStringLiteral("sleeper"), "#!/bin/sh\nexec sleep 100\n");
-    QFile(sleeper).setPermissions(QFile::ReadOwner | QFile::ExeOwner);
-    const QByteArray worker = qgetenv("KORVANE_IMPORT_WORKER");
-    qputenv("KORVANE_IMPORT_WORKER", sleeper.toUtf8());
-    ImportDialog dialog(ImportDialog::StaticMeshMode);
-    qputenv("KORVANE_IMPORT_WORKER", worker);
-    dialog.show();
-    dialog.setModelPath(write(QStringLiteral("a.obj"), corners));
-    for (const bool byKey : {false, true}) {
-        click(dialog, "btnImport");
-        QCOMPARE(page(dialog), QStringLiteral("pageProgress"));
-        auto *elapsed = find<QLabel>(dialog, "lblElapsed");
-        const QString first = elapsed->text();
-        QTRY_VERIFY(elapsed->text() != first);
-        QVERIFY(elapsed->text().endsWith(QLatin1String(" s of at most 60 s")));
-        if (byKey)
-            QTest::keyClick(&dialog, Qt::Key_Escape);
-        else
-            click(dialog, "btnStop");
-        QTRY_COMPARE(page(dialog), QStringLiteral("pageError"));
-        QVERIFY(dialog.isVisible());
-        click(dialog, "btnErrorBack");
-    }
-}
-
-void tst_ImportDialog::droppedFilesAreKnownByTheirNames()
-{
-    for (const char *name : {"a.obj", "A.FBX", "a.b.gltf", "a.md5mesh"})
-        QVERIFY2(isImportable(QLatin1String(name)), name);
-    for (const char *name : {"a.skinnedmesh", "a.png", "a", "obj", "a.kmat"})
-        QVERIFY2(!isImportable(QLatin1String(name)), name);
-}
 
 QTEST_MAIN(tst_ImportDialog)
 #include "tst_importdialog.moc"

@@ -1,15 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "Find.h"
 #include "Hand.h"
-#include "KVTreeView.h"
-#include "TestSupport.h"
-
-#include <QAction>
-#include <QDropEvent>
-#include <QMimeData>
-#include <QStackedWidget>
-#include <QTabWidget>
 
 /// Models of other programs, in and out of the whole window.
 class tst_ImportExport : public QObject
@@ -18,36 +9,131 @@ class tst_ImportExport : public QObject
 
 private slots:
     void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
-    void init();
-    void droppedFiles();
-    void onlyAnImportThatSucceedsReplacesBothDocuments();
-    void unsavedChangesAreAskedFor();
-    void exportAndBack();
+    void init()
+    {
+        m_files.emplace();
+        m_page.clear();
+        Settings::ImportRotPitch.setValue(false);
+    }
+
+    void droppedFiles()
+    {
+        ShownWindow window;
+        const auto drop = [&window](const QStringList &paths) {
+            QMimeData mime;
+            QList<QUrl> urls;
+            for (const QString &path : paths)
+                urls += QUrl::fromLocalFile(path);
+            mime.setUrls(urls);
+            QDragEnterEvent enter({5, 5}, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(&window, &enter);
+            if (!enter.isAccepted())
+                return false;
+            QDropEvent event({5, 5}, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(&window, &event);
+            return event.isAccepted();
+        };
+        QVERIFY(!drop({}));
+        QVERIFY(drop({m_files->save("man.skinnedmesh", triangleMan())}));
+        QTRY_COMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
+
+        // On the static tab a foreign model becomes a static mesh.
+        find<QTabWidget>(window, "tabWidget")->setCurrentWidget(find<QWidget>(window, "tabStatic"));
+        Hand hand({importing()});
+        QVERIFY(drop({writeObj(QString("crate %1.obj"))}));
+        QTRY_COMPARE_WITH_TIMEOUT(rootOf(window, "treeStaticMesh"), QString("crate %1.staticmesh"), 20000);
+        QTRY_VERIFY(!QApplication::activeModalWidget());
+        QCOMPARE(hand.seen, QStringList(QStringLiteral("Import model to Static Mesh")));
+        QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - crate %1.staticmesh"));
+        QCOMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
+    }
+
+    void onlyAnImportThatSucceedsReplacesBothDocuments()
+    {
+        const QString original = m_files->save("man.skinnedmesh", triangleMan());
+        ShownWindow window({original, m_files->save("man.anim", twoBlocks())});
+        const QByteArray before = TestSupport::readFile(original);
+        Hand hand({importing(), importing(),
+                   // A model without a file asks where to: the file that was open before is left alone.
+                   Hand::file(m_files->path(QStringLiteral("saved.skinnedmesh")))});
+        window.openFiles({m_files->put("broken.obj", "v")});
+        QCOMPARE(m_page, QStringLiteral("pageError"));
+        QCOMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
+        QCOMPARE(rootOf(window, "treeAnim"), QStringLiteral("man.anim"));
+
+        window.openFiles({writeObj(QStringLiteral("box.obj"))});
+        QCOMPARE(m_page, QStringLiteral("pageSuccess"));
+        QCOMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("box.skinnedmesh"));
+        QCOMPARE(rootOf(window, "treeAnim"), QStringLiteral("box.anim"));
+        QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - box.skinnedmesh"));
+        trigger(window, "actionSave");
+        QCOMPARE(hand.seen.size(), 3);
+        QCOMPARE(TestSupport::readFile(original), before);
+        SkinnedMesh saved;
+        QVERIFY(!saved.read(m_files->path(QStringLiteral("saved.skinnedmesh"))));
+        QCOMPARE(saved.vertices.size(), size_t(3));
+        QCOMPARE(saved.surfaces.at(0).materialPath, QStringLiteral("materials/mat_box/surf_0_white"));
+    }
+
+    void unsavedChangesAreAskedFor()
+    {
+        ShownWindow window({m_files->save("man.skinnedmesh", triangleMan())});
+        typeParent(window, 7);
+        QVERIFY(window.windowTitle().endsWith(QLatin1String(" * ")));
+        Hand hand({Hand::press(QMessageBox::Cancel), Hand::press(QMessageBox::No), Hand::reject});
+        trigger(window, "actionImport");
+        QCOMPARE(hand.seen.size(), 1);
+        QVERIFY(hand.seen[0].startsWith(QLatin1String("Unsaved changes|")));
+        trigger(window, "actionImport");
+        QCOMPARE(hand.seen.size(), 3);
+        QCOMPARE(hand.seen[2], QStringLiteral("Import model to Skinned Mesh"));
+        QVERIFY(window.windowTitle().endsWith(QLatin1String(" * ")));
+    }
+
+    void exportAndBack()
+    {
+        ShownWindow window;
+        QVERIFY(QDir(m_files->path()).mkpath(QStringLiteral("out")));
+        const QString out = m_files->path(QStringLiteral("out"));
+        Hand hand({Hand::press(QMessageBox::Ok), importing(), Hand::file(out), Hand::file(out),
+                   Hand::press(QMessageBox::No)});
+        const auto showTab = [&window](const char *tab) {
+            find<QTabWidget>(window, "tabWidget")->setCurrentWidget(find<QWidget>(window, tab));
+        };
+        // Only static meshes leave.
+        trigger(window, "actionExport");
+        QCOMPARE(hand.seen, QStringList(QStringLiteral("Error|No dice!")));
+        showTab("tabDatabase");
+        trigger(window, "actionExport");
+        trigger(window, "actionImport");
+        QCOMPARE(hand.seen.size(), 1);
+
+        showTab("tabStatic");
+        window.openFiles({writeObj(QStringLiteral("box.obj"))});
+        QCOMPARE(m_page, QStringLiteral("pageSuccess"));
+        trigger(window, "actionExport");
+        QCOMPARE(hand.seen.value(2), QStringLiteral("Export To Folder"));
+        QCOMPARE(Settings::StaticMeshExportPath.value(), out);
+        QCOMPARE(QDir(out).entryList(QDir::Files), QStringList({QString("box.mtl"), QString("box.obj")}));
+        const QString obj = out + QString("/box.obj");
+        QVERIFY(TestSupport::readFile(obj).contains("vt 0.5 0.25"));
+
+        // What stands there is not replaced unasked.
+        QVERIFY(TestSupport::writeFile(obj, "mine"));
+        trigger(window, "actionExport");
+        QCOMPARE(hand.seen.size(), 5);
+        QVERIFY(hand.seen[4].startsWith(QLatin1String("Export|These files exist already.")));
+        QCOMPARE(TestSupport::readFile(obj), QByteArray("mine"));
+    }
 
 private:
-    QString writeBytes(const QString &name, const QByteArray &bytes)
-    {
-        const QString path = m_files->filePath(name);
-        TestSupport::writeFile(path, bytes);
-        return path;
-    }
     QString writeObj(const QString &name)
     {
-        return writeBytes(name, "v 0 0 0\nv 2 0 0\nv 0 4 0\nvt 0.5 0.25\nf 1/1 2/1 3/1\n");
-    }
-    template <typename Model>
-    QString write(const QString &name, const Model &model)
-    {
-        const QString path = m_files->filePath(name);
-        return model.write(path) ? QString() : path;
+        return m_files->put(name, "v 0 0 0\nv 2 0 0\nv 0 4 0\nvt 0.5 0.25\nf 1/1 2/1 3/1\n");
     }
     static void trigger(const MainWindow &window, const char *action)
     {
         find<QAction>(window, action)->trigger();
-    }
-    static QString rootLabel(const MainWindow &window, const char *tree)
-    {
-        return find<KVTreeView>(window, tree)->model()->index(0, 0).data().toString();
     }
     /// Presses Import, waits for the end, notes the page and leaves.
     Hand::Answer importing()
@@ -55,8 +141,7 @@ private:
         return [this](QDialog *dialog) {
             auto *pages = find<QStackedWidget>(*dialog, "stackPages");
             QTest::mouseClick(find<QPushButton>(*dialog, "btnImport"), Qt::LeftButton);
-            QTRY_VERIFY_WITH_TIMEOUT(pages->currentWidget()->objectName() != QLatin1String("pageProgress"),
-                                     20000);
+            QTRY_VERIFY_WITH_TIMEOUT(pages->currentWidget()->objectName() != "pageProgress", 20000);
             m_page = pages->currentWidget()->objectName();
             QTest::keyClick(dialog, Qt::Key_Escape);
             if (dialog->isVisible())
@@ -64,130 +149,9 @@ private:
         };
     }
 
-    std::unique_ptr<QTemporaryDir> m_files;
+    std::optional<ProgramFolder> m_files;
     QString m_page;
 };
-
-void tst_ImportExport::init()
-{
-    m_files = std::make_unique<QTemporaryDir>();
-    useFolder(*m_files);
-    m_page.clear();
-    Settings::ImportRotPitch.setValue(false);
-}
-
-void tst_ImportExport::droppedFiles()
-{
-    ShownWindow window;
-    const auto drop = [&window](const QStringList &paths) {
-        QMimeData mime;
-        QList<QUrl> urls;
-        for (const QString &path : paths)
-            urls += QUrl::fromLocalFile(path);
-        mime.setUrls(urls);
-        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&window, &enter);
-        if (!enter.isAccepted())
-            return false;
-        QDropEvent event({5, 5}, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&window, &event);
-        return event.isAccepted();
-    };
-    QVERIFY(!drop({}));
-    QVERIFY(drop({write(QStringLiteral("man.skinnedmesh"), triangleMan())}));
-    QTRY_COMPARE(rootLabel(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
-
-    // On the static tab a foreign model becomes a static mesh.
-    find<QTabWidget>(window, "tabWidget")->setCurrentWidget(find<QWidget>(window, "tabStatic"));
-    Hand hand({importing()});
-    QVERIFY(drop({writeObj(QStringLiteral("crate %1.obj"))}));
-    QTRY_COMPARE_WITH_TIMEOUT(rootLabel(window, "treeStaticMesh"), QStringLiteral("crate %1.staticmesh"),
-                              20000);
-    QTRY_VERIFY(!QApplication::activeModalWidget());
-    QCOMPARE(hand.seen, QStringList(QStringLiteral("Import model to Static Mesh")));
-    QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - crate %1.staticmesh"));
-    QCOMPARE(rootLabel(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
-}
-
-void tst_ImportExport::onlyAnImportThatSucceedsReplacesBothDocuments()
-{
-    ShownWindow window({write(QStringLiteral("man.skinnedmesh"), triangleMan()),
-                        write(QStringLiteral("man.anim"), twoBlocks())});
-    const QString original = m_files->filePath(QStringLiteral("man.skinnedmesh"));
-    const QByteArray before = TestSupport::readFile(original);
-    Hand hand({importing(), importing(),
-               // A model without a file asks where to: the file that was open before is left alone.
-               Hand::file(m_files->filePath(QStringLiteral("saved.skinnedmesh")))});
-    window.openFiles({writeBytes(QStringLiteral("broken.obj"), "v")});
-    QCOMPARE(m_page, QStringLiteral("pageError"));
-    QCOMPARE(rootLabel(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
-    QCOMPARE(rootLabel(window, "treeAnim"), QStringLiteral("man.anim"));
-
-    window.openFiles({writeObj(QStringLiteral("box.obj"))});
-    QCOMPARE(m_page, QStringLiteral("pageSuccess"));
-    QCOMPARE(rootLabel(window, "treeSkinnedMesh"), QStringLiteral("box.skinnedmesh"));
-    QCOMPARE(rootLabel(window, "treeAnim"), QStringLiteral("box.anim"));
-    QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - box.skinnedmesh"));
-    trigger(window, "actionSave");
-    QCOMPARE(hand.seen.size(), 3);
-    QCOMPARE(TestSupport::readFile(original), before);
-    SkinnedMesh saved;
-    QVERIFY(!saved.read(m_files->filePath(QStringLiteral("saved.skinnedmesh"))));
-    QCOMPARE(saved.vertices.size(), size_t(3));
-    QCOMPARE(saved.surfaces.at(0).materialPath, QStringLiteral("materials/mat_box/surf_0_white"));
-}
-
-void tst_ImportExport::unsavedChangesAreAskedFor()
-{
-    ShownWindow window({write(QStringLiteral("man.skinnedmesh"), triangleMan())});
-    typeParent(window, 7);
-    QVERIFY(window.windowTitle().endsWith(QLatin1String(" * ")));
-    Hand hand({Hand::press(QMessageBox::Cancel), Hand::press(QMessageBox::No), Hand::reject});
-    trigger(window, "actionImport");
-    QCOMPARE(hand.seen.size(), 1);
-    QVERIFY(hand.seen[0].startsWith(QLatin1String("Unsaved changes|")));
-    trigger(window, "actionImport");
-    QCOMPARE(hand.seen.size(), 3);
-    QCOMPARE(hand.seen[2], QStringLiteral("Import model to Skinned Mesh"));
-    QVERIFY(window.windowTitle().endsWith(QLatin1String(" * ")));
-}
-
-void tst_ImportExport::exportAndBack()
-{
-    ShownWindow window;
-    QVERIFY(QDir(m_files->path()).mkpath(QStringLiteral("out")));
-    const QString out = m_files->filePath(QStringLiteral("out"));
-    Hand hand({Hand::press(QMessageBox::Ok), importing(), Hand::file(out), Hand::file(out),
-               Hand::press(QMessageBox::No)});
-    const auto showTab = [&window](const char *tab) {
-        find<QTabWidget>(window, "tabWidget")->setCurrentWidget(find<QWidget>(window, tab));
-    };
-    // Only static meshes leave.
-    trigger(window, "actionExport");
-    QCOMPARE(hand.seen, QStringList(QStringLiteral("Error|No dice!")));
-    showTab("tabDatabase");
-    trigger(window, "actionExport");
-    trigger(window, "actionImport");
-    QCOMPARE(hand.seen.size(), 1);
-
-    showTab("tabStatic");
-    window.openFiles({writeObj(QStringLiteral("box.obj"))});
-    QCOMPARE(m_page, QStringLiteral("pageSuccess"));
-    trigger(window, "actionExport");
-    QCOMPARE(hand.seen.value(2), QStringLiteral("Export To Folder"));
-    QCOMPARE(Settings::StaticMeshExportPath.value(), out);
-    QCOMPARE(QDir(out).entryList(QDir::Files),
-             QStringList({QStringLiteral("box.mtl"), QStringLiteral("box.obj")}));
-    const QString obj = out + QStringLiteral("/box.obj");
-    QVERIFY(TestSupport::readFile(obj).contains("vt 0.5 0.25"));
-
-    // What stands there is not replaced unasked.
-    QVERIFY(TestSupport::writeFile(obj, "mine"));
-    trigger(window, "actionExport");
-    QCOMPARE(hand.seen.size(), 5);
-    QVERIFY(hand.seen[4].startsWith(QLatin1String("Export|These files exist already.")));
-    QCOMPARE(TestSupport::readFile(obj), QByteArray("mine"));
-}
 
 QTEST_MAIN(tst_ImportExport)
 #include "tst_importexport.moc"

@@ -3,17 +3,9 @@
 #include "BrokenModels.h"
 #include "Hand.h"
 
-#include <QClipboard>
-#include <QDockWidget>
-#include <QHeaderView>
-#include <QImage>
-#include <QSpinBox>
-#include <QStatusBar>
-#include <QTabWidget>
-#include <QToolButton>
-#include <QTreeWidget>
-
 using namespace BrokenModels;
+
+enum Column { SeverityColumn, FileColumn, PlaceColumn, TextColumn };
 
 /// The window with sample models in it, and the list of what is wrong with them.
 class tst_Problems : public QObject
@@ -21,13 +13,189 @@ class tst_Problems : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void countsAndLeadsToTheRecords();
-    void repairsInOneStep();
-    void filtersAndSorts();
-    void followsTheDocument();
-    void followsTheFolders();
+    void init()
+    {
+        TestSupport::useSettingsHome(m_home);
+        m_base = std::move(bases().front());
+        m_files = std::make_unique<QTemporaryDir>();
+        Settings::GamePath.setValue(m_base->folders().gamePath);
+        Settings::OutputDir.setValue(m_base->folders().outputDir);
+        Settings::HideMeshData.setValue(false);
+        Settings::HideAnimData.setValue(false);
+        Settings::AnimationAutoPlay.setValue(false);
+        m_window = std::make_unique<ShownWindow>();
+        m_window->resize(1400, 1000);
+        m_window->resizeDocks({find<QDockWidget>("dockProblems")}, {400}, Qt::Vertical);
+    }
+
+    void cleanup() { m_window.reset(); }
+
+    void countsAndLeadsToTheRecords()
+    {
+        QCOMPARE(list()->accessibleDescription(), QStringLiteral("No file is open."));
+        QCOMPARE(find<QToolButton>("btnProblems")->text(), QStringLiteral("No problems"));
+        SkinnedMesh mesh = goodMesh();
+        mesh.hotPoints[1].nodeId = 254;
+        mesh.vertices[700].normal = {};
+        AnimFile file = goodAnim();
+        file.blocks[2].rotations.at(3, 7) *= 2.0f;
+        open(mesh, file);
+        QTRY_COMPARE(column(PlaceColumn), QStringList({"Hot Points › 1", "Vertices › 700",
+                                                       "Anim 2 › Rotations › Track 3 › Frame 7"}));
+        QCOMPARE(column(SeverityColumn), QStringList({"Error", "Warning", "Warning"}));
+        QCOMPARE(column(FileColumn),
+                 QStringList({"tinker.skinnedmesh", "tinker.skinnedmesh", "tinker.anim"}));
+        QCOMPARE(find<QToolButton>("btnProblems")->text(), QStringLiteral("Problems: 3"));
+        QCOMPARE(find<QToolButton>("btnProblemErrors")->text(), QStringLiteral("Errors: 1"));
+        QCOMPARE(find<QToolButton>("btnProblemNotes")->text(), QStringLiteral("Notes: 0"));
+
+        auto *dock = find<QDockWidget>("dockProblems");
+        dock->close();
+        press("btnProblems");
+        QVERIFY(dock->isVisible());
+
+        // By double click to the animation, by Enter back to the mesh.
+        QTreeWidgetItem *last = click(2);
+        QTest::mouseDClick(list()->viewport(), Qt::LeftButton, {}, list()->visualItemRect(last).center());
+        auto *animTree = find<KVTreeView>("treeAnim");
+        QVERIFY(animTree->isVisible() && animTree->hasFocus());
+        QCOMPARE(animTree->currentRecord(), (RecordRef{RecordKind::RotationKey, {2, 3, 7}}));
+        click(0);
+        QTest::keyClick(list(), Qt::Key_Return);
+        auto *meshTree = find<KVTreeView>("treeSkinnedMesh");
+        QVERIFY(meshTree->isVisible() && meshTree->hasFocus());
+        QCOMPARE(meshTree->currentRecord(), (RecordRef{RecordKind::HotPoint, {1, 0, 0}}));
+        QCOMPARE(find<QSpinBox>("sbHPNodeID")->value(), 254);
+
+        click(1, Qt::ShiftModifier);
+        trigger("Ctrl+C");
+        const QStringList lines = QApplication::clipboard()->text().split(QLatin1Char('\n'));
+        QCOMPARE(lines.size(), 2);
+        QVERIFY(lines[1].startsWith(QStringLiteral("Warning\ttinker.skinnedmesh\tVertices › 700\t")));
+    }
+
+    void repairsInOneStep()
+    {
+        SkinnedMesh mesh = goodMesh();
+        mesh.nodes[0].childNodes.push_back(900);
+        mesh.hotPoints[0].nodeId = 254;
+        AnimFile file = goodAnim();
+        for (int frame = 0; frame < 40; ++frame)
+            file.blocks[3].rotations.at(1, frame) *= 3.0f;
+        open(mesh, file);
+        QTRY_COMPARE(list()->topLevelItemCount(), 2 + ListedFindings + 1);
+        QVERIFY(column(TextColumn).last().contains(QStringLiteral("20 more")));
+        auto *fix = find<QToolButton>("btnProblemFix");
+        auto *fixAll = find<QToolButton>("btnProblemFixAll");
+
+        // What there is more than one way to repair is left to the user.
+        click(1);
+        QVERIFY(!fix->isEnabled() && !fixAll->isEnabled());
+        click(0);
+        QVERIFY(fix->isEnabled() && fixAll->isEnabled());
+        trigger("Ctrl+.");
+        QCOMPARE(list()->topLevelItemCount(), 1 + ListedFindings + 1);
+        QVERIFY(isModified());
+        undo();
+        QVERIFY(!isModified());
+        QTRY_COMPARE(list()->topLevelItemCount(), 2 + ListedFindings + 1);
+
+        // Two of the listed, then all forty that are left or not listed at all, from the closing line.
+        click(2);
+        click(3, Qt::ShiftModifier);
+        press("btnProblemFix");
+        QCOMPARE(find<QToolButton>("btnProblemWarnings")->text(), QStringLiteral("Warnings: 38"));
+        click(list()->topLevelItemCount() - 1);
+        QVERIFY(!fix->isEnabled() && fixAll->isEnabled());
+        press("btnProblemFixAll");
+        QCOMPARE(list()->topLevelItemCount(), 2);
+        find<QTabWidget>("tabTrees")->setCurrentIndex(1);
+        undo();
+        QTRY_COMPARE(find<QToolButton>("btnProblemWarnings")->text(), QStringLiteral("Warnings: 38"));
+        undo();
+        QTRY_COMPARE(find<QToolButton>("btnProblemWarnings")->text(), QStringLiteral("Warnings: 40"));
+        QVERIFY(!isModified());
+    }
+
+    void filtersAndSorts()
+    {
+        AnimFile file = goodAnim();
+        file.blocks[0].setTranslationCount(file.blocks[0].translations.trackCount() + 1);
+        file.blocks[1].frames[5].yawOffset = std::numeric_limits<float>::infinity();
+        file.blocks[1].loopFrame = 500;
+        open(file);
+        QTRY_COMPARE(column(SeverityColumn), QStringList({"Error", "Warning", "Note"}));
+        press("btnProblemWarnings");
+        QCOMPARE(column(SeverityColumn), QStringList({"Error", "Note"}));
+        press("btnProblemErrors");
+        press("btnProblemNotes");
+        QCOMPARE(list()->topLevelItemCount(), 0);
+        QCOMPARE(list()->accessibleDescription(), QString("All problems are hidden by the buttons above."));
+        for (const char *button : {"btnProblemErrors", "btnProblemWarnings", "btnProblemNotes"})
+            press(button);
+
+        const auto clickHeader = [this](int section) {
+            QHeaderView *header = list()->header();
+            QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
+                              {header->sectionViewportPosition(section) + 10, header->height() / 2});
+        };
+        clickHeader(SeverityColumn);
+        QCOMPARE(column(SeverityColumn), QStringList({"Note", "Warning", "Error"}));
+        clickHeader(PlaceColumn);
+        QCOMPARE(column(PlaceColumn),
+                 QStringList({"Anim 1", "Anim 1 › Frames › Frame 5", "Anim 0 › Translations › Track 1"}));
+    }
+
+    void followsTheDocument()
+    {
+        open(goodMesh(), goodAnim());
+        QTRY_COMPARE(list()->accessibleDescription(), QStringLiteral("No problems found."));
+        auto *tree = find<KVTreeView>("treeSkinnedMesh");
+        const RecordRef point{RecordKind::HotPoint, {2, 0, 0}};
+        tree->selectRecords({point}, point);
+        typeNumber(find<QSpinBox>("sbHPNodeID"), 200);
+        QCOMPARE(list()->topLevelItemCount(), 0); // not while one types
+        QTRY_COMPARE(column(PlaceColumn), QStringList(QStringLiteral("Hot Points › 2")));
+        undo();
+        QTRY_COMPARE(list()->topLevelItemCount(), 0);
+
+        // Animations of another mesh are told of, whichever of the two comes last; and a model that goes
+        // takes its problems along at once.
+        SkinnedMesh other = goodMesh();
+        other.nodes.emplace_back().parentNode = 0;
+        other.nodes[0].childNodes.push_back(quint16(other.nodes.size() - 1));
+        open(other);
+        QTRY_COMPARE(column(FileColumn), QStringList("tinker.anim"));
+        open(goodMesh());
+        QTRY_COMPARE(list()->topLevelItemCount(), 0);
+        other.hotPoints[0].nodeId = 300;
+        open(other);
+        QTRY_COMPARE(list()->topLevelItemCount(), 2);
+        open(goodMesh());
+        QCOMPARE(column(FileColumn), QStringList("tinker.anim"));
+    }
+
+    void followsTheFolders()
+    {
+        Settings::HideMeshData.setValue(true);
+        SkinnedMesh mesh = goodMesh();
+        mesh.surfaces[0].materialPath = materialWithoutPicture;
+        mesh.vertices[3].normal = {};
+        open(mesh);
+        QTRY_COMPARE(column(PlaceColumn), QStringList({"Vertices › 3", "Surfaces › 0"}));
+        QVERIFY(column(TextColumn)[1].contains(QStringLiteral("textures/none.png")));
+        QVERIFY(QImage(2, 2, QImage::Format_RGB32)
+                    .save(m_base->folders().outputDir + QStringLiteral("/textures/none.png")));
+        emit qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+        QTRY_COMPARE(list()->topLevelItemCount(), 1);
+
+        // The tree leaves the vertices out.
+        click(0);
+        QTest::keyClick(list(), Qt::Key_Return);
+        QCOMPARE(find<KVTreeView>("treeSkinnedMesh")->currentRecord(),
+                 (RecordRef{RecordKind::SkinnedVertices, {}}));
+        QVERIFY(m_window->statusBar()->currentMessage().contains(QStringLiteral("options")));
+    }
 
 private:
     template <typename Widget>
@@ -83,195 +251,6 @@ private:
     std::unique_ptr<QTemporaryDir> m_files;
     std::unique_ptr<MainWindow> m_window;
 };
-
-enum Column { SeverityColumn, FileColumn, PlaceColumn, TextColumn };
-
-void tst_Problems::init()
-{
-    TestSupport::useSettingsHome(m_home);
-    m_base = std::move(bases().front());
-    m_files = std::make_unique<QTemporaryDir>();
-    Settings::GamePath.setValue(m_base->folders().gamePath);
-    Settings::OutputDir.setValue(m_base->folders().outputDir);
-    Settings::HideMeshData.setValue(false);
-    Settings::HideAnimData.setValue(false);
-    Settings::AnimationAutoPlay.setValue(false);
-    m_window = std::make_unique<ShownWindow>();
-    m_window->resize(1400, 1000);
-    m_window->resizeDocks({find<QDockWidget>("dockProblems")}, {400}, Qt::Vertical);
-}
-
-void tst_Problems::cleanup()
-{
-    m_window.reset();
-}
-
-void tst_Problems::countsAndLeadsToTheRecords()
-{
-    QCOMPARE(list()->accessibleDescription(), QStringLiteral("No file is open."));
-    QCOMPARE(find<QToolButton>("btnProblems")->text(), QStringLiteral("No problems"));
-    SkinnedMesh mesh = goodMesh();
-    mesh.hotPoints[1].nodeId = 254;
-    mesh.vertices[700].normal = {};
-    AnimFile file = goodAnim();
-    file.blocks[2].rotations.at(3, 7) *= 2.0f;
-    open(mesh, file);
-    QTRY_COMPARE(column(PlaceColumn),
-                 QStringList({"Hot Points › 1", "Vertices › 700", "Anim 2 › Rotations › Track 3 › Frame 7"}));
-    QCOMPARE(column(SeverityColumn), QStringList({"Error", "Warning", "Warning"}));
-    QCOMPARE(column(FileColumn), QStringList({"tinker.skinnedmesh", "tinker.skinnedmesh", "tinker.anim"}));
-    QCOMPARE(find<QToolButton>("btnProblems")->text(), QStringLiteral("Problems: 3"));
-    QCOMPARE(find<QToolButton>("btnProblemErrors")->text(), QStringLiteral("Errors: 1"));
-    QCOMPARE(find<QToolButton>("btnProblemNotes")->text(), QStringLiteral("Notes: 0"));
-
-    auto *dock = find<QDockWidget>("dockProblems");
-    dock->close();
-    press("btnProblems");
-    QVERIFY(dock->isVisible());
-
-    // By double click to the animation, by Enter back to the mesh.
-    QTreeWidgetItem *last = click(2);
-    QTest::mouseDClick(list()->viewport(), Qt::LeftButton, {}, list()->visualItemRect(last).center());
-    auto *animTree = find<KVTreeView>("treeAnim");
-    QVERIFY(animTree->isVisible() && animTree->hasFocus());
-    QCOMPARE(animTree->currentRecord(), (RecordRef{RecordKind::RotationKey, {2, 3, 7}}));
-    click(0);
-    QTest::keyClick(list(), Qt::Key_Return);
-    auto *meshTree = find<KVTreeView>("treeSkinnedMesh");
-    QVERIFY(meshTree->isVisible() && meshTree->hasFocus());
-    QCOMPARE(meshTree->currentRecord(), (RecordRef{RecordKind::HotPoint, {1, 0, 0}}));
-    QCOMPARE(find<QSpinBox>("sbHPNodeID")->value(), 254);
-
-    click(1, Qt::ShiftModifier);
-    trigger("Ctrl+C");
-    const QStringList lines = QApplication::clipboard()->text().split(QLatin1Char('\n'));
-    QCOMPARE(lines.size(), 2);
-    QVERIFY(lines[1].startsWith(QStringLiteral("Warning\ttinker.skinnedmesh\tVertices › 700\t")));
-}
-
-void tst_Problems::repairsInOneStep()
-{
-    SkinnedMesh mesh = goodMesh();
-    mesh.nodes[0].childNodes.push_back(900);
-    mesh.hotPoints[0].nodeId = 254;
-    AnimFile file = goodAnim();
-    for (int frame = 0; frame < 40; ++frame)
-        file.blocks[3].rotations.at(1, frame) *= 3.0f;
-    open(mesh, file);
-    QTRY_COMPARE(list()->topLevelItemCount(), 2 + ListedFindings + 1);
-    QVERIFY(column(TextColumn).last().contains(QStringLiteral("20 more")));
-    auto *fix = find<QToolButton>("btnProblemFix");
-    auto *fixAll = find<QToolButton>("btnProblemFixAll");
-
-    // What there is more than one way to repair is left to the user.
-    click(1);
-    QVERIFY(!fix->isEnabled() && !fixAll->isEnabled());
-    click(0);
-    QVERIFY(fix->isEnabled() && fixAll->isEnabled());
-    trigger("Ctrl+.");
-    QCOMPARE(list()->topLevelItemCount(), 1 + ListedFindings + 1);
-    QVERIFY(isModified());
-    undo();
-    QVERIFY(!isModified());
-    QTRY_COMPARE(list()->topLevelItemCount(), 2 + ListedFindings + 1);
-
-    // Two of the listed, then all forty that are left or not listed at all, from the closing line.
-    click(2);
-    click(3, Qt::ShiftModifier);
-    press("btnProblemFix");
-    QCOMPARE(find<QToolButton>("btnProblemWarnings")->text(), QStringLiteral("Warnings: 38"));
-    click(list()->topLevelItemCount() - 1);
-    QVERIFY(!fix->isEnabled() && fixAll->isEnabled());
-    press("btnProblemFixAll");
-    QCOMPARE(list()->topLevelItemCount(), 2);
-    find<QTabWidget>("tabTrees")->setCurrentIndex(1);
-    undo();
-    QTRY_COMPARE(find<QToolButton>("btnProblemWarnings")->text(), QStringLiteral("Warnings: 38"));
-    undo();
-    QTRY_COMPARE(find<QToolButton>("btnProblemWarnings")->text(), QStringLiteral("Warnings: 40"));
-    QVERIFY(!isModified());
-}
-
-void tst_Problems::filtersAndSorts()
-{
-    AnimFile file = goodAnim();
-    file.blocks[0].setTranslationCount(file.blocks[0].translations.trackCount() + 1);
-    file.blocks[1].frames[5].yawOffset = std::numeric_limits<float>::infinity();
-    file.blocks[1].loopFrame = 500;
-    open(file);
-    QTRY_COMPARE(column(SeverityColumn), QStringList({"Error", "Warning", "Note"}));
-    press("btnProblemWarnings");
-    QCOMPARE(column(SeverityColumn), QStringList({"Error", "Note"}));
-    press("btnProblemErrors");
-    press("btnProblemNotes");
-    QCOMPARE(list()->topLevelItemCount(), 0);
-    QCOMPARE(list()->accessibleDescription(),
-             QStringLiteral("All problems are hidden by the buttons above."));
-    for (const char *button : {"btnProblemErrors", "btnProblemWarnings", "btnProblemNotes"})
-        press(button);
-
-    const auto clickHeader = [this](int section) {
-        QHeaderView *header = list()->header();
-        QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
-                          {header->sectionViewportPosition(section) + 10, header->height() / 2});
-    };
-    clickHeader(SeverityColumn);
-    QCOMPARE(column(SeverityColumn), QStringList({"Note", "Warning", "Error"}));
-    clickHeader(PlaceColumn);
-    QCOMPARE(column(PlaceColumn),
-             QStringList({"Anim 1", "Anim 1 › Frames › Frame 5", "Anim 0 › Translations › Track 1"}));
-}
-
-void tst_Problems::followsTheDocument()
-{
-    open(goodMesh(), goodAnim());
-    QTRY_COMPARE(list()->accessibleDescription(), QStringLiteral("No problems found."));
-    auto *tree = find<KVTreeView>("treeSkinnedMesh");
-    const RecordRef point{RecordKind::HotPoint, {2, 0, 0}};
-    tree->selectRecords({point}, point);
-    typeNumber(find<QSpinBox>("sbHPNodeID"), 200);
-    QCOMPARE(list()->topLevelItemCount(), 0); // not while one types
-    QTRY_COMPARE(column(PlaceColumn), QStringList(QStringLiteral("Hot Points › 2")));
-    undo();
-    QTRY_COMPARE(list()->topLevelItemCount(), 0);
-
-    // Animations of another mesh are told of, whichever of the two comes last; and a model that goes takes
-    // its problems along at once.
-    SkinnedMesh other = goodMesh();
-    other.nodes.emplace_back().parentNode = 0;
-    other.nodes[0].childNodes.push_back(quint16(other.nodes.size() - 1));
-    open(other);
-    QTRY_COMPARE(column(FileColumn), QStringList("tinker.anim"));
-    open(goodMesh());
-    QTRY_COMPARE(list()->topLevelItemCount(), 0);
-    other.hotPoints[0].nodeId = 300;
-    open(other);
-    QTRY_COMPARE(list()->topLevelItemCount(), 2);
-    open(goodMesh());
-    QCOMPARE(column(FileColumn), QStringList("tinker.anim"));
-}
-
-void tst_Problems::followsTheFolders()
-{
-    Settings::HideMeshData.setValue(true);
-    SkinnedMesh mesh = goodMesh();
-    mesh.surfaces[0].materialPath = materialWithoutPicture;
-    mesh.vertices[3].normal = {};
-    open(mesh);
-    QTRY_COMPARE(column(PlaceColumn), QStringList({"Vertices › 3", "Surfaces › 0"}));
-    QVERIFY(column(TextColumn)[1].contains(QStringLiteral("textures/none.png")));
-    QVERIFY(QImage(2, 2, QImage::Format_RGB32)
-                .save(m_base->folders().outputDir + QStringLiteral("/textures/none.png")));
-    emit qGuiApp->applicationStateChanged(Qt::ApplicationActive);
-    QTRY_COMPARE(list()->topLevelItemCount(), 1);
-
-    // The tree leaves the vertices out.
-    click(0);
-    QTest::keyClick(list(), Qt::Key_Return);
-    QCOMPARE(find<KVTreeView>("treeSkinnedMesh")->currentRecord(),
-             (RecordRef{RecordKind::SkinnedVertices, {}}));
-    QVERIFY(m_window->statusBar()->currentMessage().contains(QStringLiteral("options")));
-}
 
 QTEST_MAIN(tst_Problems)
 #include "tst_problems.moc"

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "AnimCommands.h"
-#include "Find.h"
 #include "FullDisk.h"
 #include "Hand.h"
 #include "Log.h"
@@ -10,12 +9,6 @@
 #include "RecoverDialog.h"
 #include "RecoveryPrompt.h"
 #include "SampleModels.h"
-#include "TestSupport.h"
-
-#include <QAction>
-#include <QPlainTextEdit>
-#include <QTreeWidget>
-#include <QVBoxLayout>
 
 using SampleModels::bytesOf;
 
@@ -38,33 +31,388 @@ struct Bar
 };
 } // namespace
 
-using Act = std::function<void(OneRun &)>;
-Q_DECLARE_METATYPE(Act)
-
 class TestRecovery : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void workIsKept_data();
-    void workIsKept();
-    void savedOrUndoneWorkIsNot();
-    void restoredWorkIsModifiedUntilSaved();
-    void eachRunHasItsOwn();
-    void theOldestGo();
-    void damageIsSkipped();
-    void workThatCannotBeSavedIsKept();
-    void whatCannotBeKept();
-    void theBarOffers();
-    void whatIsRestoredIsNotOfferedOn();
-    void theBarTellsOfACrash();
-    void theDialogLists();
+    void init()
+    {
+        m_folder.emplace();
+        m_folder->save("man.skinnedmesh", triangleMan());
+        m_log.clear();
+        Log::setSink([this](LogSeverity, const QString &text) { m_log += text; });
+    }
+
+    void cleanup() { Log::setSink({}); }
+
+    void workIsKept()
+    {
+        const auto check = [this](const char *how, const QString &name,
+                                  const std::function<void(OneRun &)> &act) {
+            init();
+            {
+                OneRun run(root());
+                run.openMesh(manPath());
+                act(run);
+            }
+            SnapshotStore next(root());
+            const QVector<Snapshot> found = next.snapshots();
+            QVERIFY2(found.size() == 1, how);
+            QCOMPARE(found[0].name, name);
+            const bool isSaved = found[0].type != DocumentType::StaticMesh;
+            QCOMPARE(found[0].sourcePath, isSaved ? m_folder->path(name) : QString());
+            QVERIFY(qAbs(found[0].time.secsTo(QDateTime::currentDateTime())) < 60);
+            SkinnedMesh man = triangleMan();
+            man.headTrackFactor = 7;
+            AnimFile walk = twoBlocks();
+            walk.blocks[0].setFrameCount(40);
+            const QByteArray expected[] = {bytesOf(man), bytesOf(walk), bytesOf(SampleModels::staticMesh())};
+            QByteArray bytes;
+            QVERIFY2(!next.read(found[0], &bytes), how);
+            QVERIFY2(bytes == expected[int(found[0].type)], how);
+            QCOMPARE(m_log, QStringList());
+        };
+        check("edited", "man.skinnedmesh", [](OneRun &run) {
+            run.edit(7);
+            run.settle();
+        });
+        check("replaced at once", "man.skinnedmesh", [this](OneRun &run) {
+            run.edit(7);
+            run.openMesh(manPath());
+            run.settle();
+        });
+        check("window closed at once", "man.skinnedmesh", [](OneRun &run) {
+            run.edit(7);
+            run.window.show();
+            run.window.close();
+        });
+        check("changed without an undo step, then edited and undone", "walk.anim", [this](OneRun &run) {
+            run.anim.take(twoBlocks(), QStringLiteral("x"));
+            QVERIFY(!run.anim.save(m_folder->path(QStringLiteral("walk.anim"))));
+            run.anim.model().blocks[0].setFrameCount(40);
+            run.anim.changedDirectly({{RecordKind::AnimBlock, {}}, 0, {}});
+            run.anim.undoStack()->push(new UC_AnimBlockAnimID(run.anim.editTarget(), {}, 9));
+            run.anim.undoStack()->undo();
+            run.settle();
+        });
+        check("never saved", "box.staticmesh", [](OneRun &run) {
+            run.rigid.take(SampleModels::staticMesh(), QStringLiteral("box"));
+            run.settle();
+        });
+    }
+
+    void savedOrUndoneWorkIsNot()
+    {
+        OneRun run(root());
+        const auto keptNow = [&] {
+            run.settle();
+            return kept().size();
+        };
+        run.openMesh(manPath());
+        QCOMPARE(keptNow(), 0);
+        // One file for one document, however often it changes.
+        for (const int factor : {7, 8}) {
+            run.edit(factor);
+            QCOMPARE(keptNow(), 1);
+        }
+        run.mesh.undoStack()->setIndex(0);
+        QCOMPARE(keptNow(), 0);
+
+        run.mesh.undoStack()->redo();
+        QCOMPARE(keptNow(), 1);
+        QVERIFY(run.mesh.save(m_folder->path(QStringLiteral("none/man.skinnedmesh"))));
+        QCOMPARE(keptNow(), 1);
+        QVERIFY(!run.mesh.save(manPath()));
+        QCOMPARE(keptNow(), 0);
+
+        // A clean stack says nothing of a model that was never saved.
+        run.rigid.take(SampleModels::staticMesh(), QStringLiteral("box"));
+        QCOMPARE(keptNow(), 1);
+        QVERIFY(!run.rigid.save(m_folder->path(QStringLiteral("box.staticmesh"))));
+        QCOMPARE(keptNow(), 0);
+    }
+
+    void restoredWorkIsModifiedUntilSaved()
+    {
+        leave(1);
+        const QByteArray before = TestSupport::readFile(manPath());
+        {
+            OneRun run(root());
+            QVERIFY(restoreOnly(run));
+            QCOMPARE(run.mesh.path(), manPath());
+            QCOMPARE(int(run.mesh.model().headTrackFactor), 1);
+            QVERIFY(run.mesh.isModified());
+            run.edit(5);
+            run.mesh.undoStack()->undo();
+            QVERIFY(run.mesh.isModified());
+            QCOMPARE(run.recovery->snapshots().size(), 0);
+            // Killed again before it was saved: still there.
+        }
+        OneRun run(root());
+        QVERIFY(restoreOnly(run));
+        QCOMPARE(TestSupport::readFile(manPath()), before);
+        QVERIFY(!run.mesh.save(manPath()));
+        QVERIFY(!run.mesh.isModified());
+        run.settle();
+        QCOMPARE(kept(), QStringList());
+    }
+
+    void eachRunHasItsOwn()
+    {
+        auto first = std::make_unique<OneRun>(root());
+        first->openMesh(manPath());
+        first->edit(1);
+        first->settle();
+        {
+            const OneRun second(root());
+            QCOMPARE(second.recovery->snapshots().size(), 0);
+        }
+        QCOMPARE(kept().size(), 1);
+        first.reset();
+        auto second = std::make_unique<OneRun>(root());
+        const OneRun third(root());
+        QCOMPARE(second->recovery->snapshots().size(), 1);
+        QCOMPARE(third.recovery->snapshots().size(), 0);
+        second.reset();
+        // A run that leaves nothing leaves no folder.
+        QCOMPARE(OneRun(root()).recovery->snapshots().size(), 1);
+        QCOMPARE(QDir(root()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 2);
+    }
+
+    void theOldestGo()
+    {
+        leave(SnapshotStore::MostKept + 3);
+        SnapshotStore store(root());
+        const QVector<Snapshot> found = store.snapshots();
+        QCOMPARE(found.size(), SnapshotStore::MostKept);
+        for (int i = 0; i < found.size(); ++i) {
+            SkinnedMesh mesh;
+            QByteArray bytes;
+            QVERIFY(!store.read(found[i], &bytes) && !SampleModels::readBytes(mesh, bytes));
+            QCOMPARE(int(mesh.headTrackFactor), SnapshotStore::MostKept + 3 - i);
+        }
+    }
+
+    void damageIsSkipped()
+    {
+        leave(2);
+        OneRun run(root());
+        const Snapshot newest = run.recovery->snapshots().at(0);
+        const QString file = kept().filter(newest.file).value(0);
+        const QByteArray whole = TestSupport::readFile(file);
+        const auto damage = [&](const QByteArray &bytes) {
+            QVERIFY(TestSupport::writeFile(file, bytes));
+            m_log.clear();
+            const QVector<Snapshot> found = run.recovery->snapshots();
+            if (found.size() == 2) {
+                QCOMPARE(int(run.recovery->restore(newest)), int(Recovery::Outcome::Damaged));
+                QVERIFY(!run.mesh.isOpen());
+            } else {
+                QCOMPARE(found.size(), 1);
+            }
+            QCOMPARE(m_log.size(), 1);
+        };
+        for (int length = 0; length < whole.size(); ++length)
+            damage(whole.left(length));
+        for (int i = 0; i < whole.size(); ++i) {
+            QByteArray changed = whole;
+            changed[i] = char(changed[i] ^ 0x40);
+            damage(changed);
+        }
+        damage(whole + 'x');
+
+        // The bar's button takes the one before.
+        Bar bar(run);
+        QVERIFY(TestSupport::writeFile(file, whole.left(whole.size() / 2)));
+        bar.click("btnRestore");
+        QCOMPARE(int(run.mesh.model().headTrackFactor), 1);
+    }
+
+    void workThatCannotBeSavedIsKept()
+    {
+        {
+            OneRun run(root());
+            run.openMesh(manPath());
+            run.mesh.model().surfaces[0].triangleIndexes[1] = SkinnedMesh::IndexTerminator;
+            run.edit(7);
+            run.settle();
+        }
+        OneRun run(root());
+        QVERIFY(restoreOnly(run));
+        QCOMPARE(run.mesh.model().headTrackFactor, qint8(7));
+        QCOMPARE(run.mesh.model().surfaces[0].triangleIndexes.size(), size_t(3));
+    }
+
+    void whatCannotBeKept()
+    {
+        {
+            OneRun run(root());
+            AnimFile empty;
+            run.anim.take(empty, QStringLiteral("none"));
+            run.settle();
+            run.anim.changedDirectly({{RecordKind::AnimFile, {}}, 0, {}});
+            run.settle();
+            QCOMPARE(kept(), QStringList());
+
+            // A disk that is full for a while.
+            m_log.clear();
+            run.openMesh(manPath());
+            const qint64 size = QFileInfo(manPath()).size();
+            for (qint64 limit = 0; limit < size; limit += 16) {
+                const FullDisk disk(limit);
+                run.edit(int(limit / 16) + 1);
+                run.settle();
+                QVERIFY2(kept().isEmpty(), qPrintable(QString::number(limit)));
+            }
+            QCOMPARE(m_log.size(), 1);
+            QTRY_COMPARE(kept().size(), 1);
+            QCOMPARE(run.recovery->store().snapshots().size(), 1);
+            run.mesh.undoStack()->setIndex(0);
+        }
+        // Where the folder should be is a file: the program works, and says that it keeps nothing.
+        m_log.clear();
+        QVERIFY(QDir(root()).removeRecursively());
+        QVERIFY(TestSupport::writeFile(root(), "x"));
+        OneRun run(root());
+        QCOMPARE(m_log.size(), 1);
+        run.openMesh(manPath());
+        run.edit(3);
+        run.settle();
+        run.recovery->keepAll();
+        QCOMPARE(run.recovery->snapshots().size(), 0);
+        QVERIFY(!run.mesh.save(manPath()));
+    }
+
+    void theBarOffers()
+    {
+        leave(2);
+        {
+            OneRun run(root());
+            run.rigid.take(SampleModels::staticMesh(), QStringLiteral("box"));
+            run.recovery->keepAll();
+        }
+        OneRun run(root());
+        Bar bar(run);
+        QVERIFY(!bar.notice->isHidden());
+        {
+            // The bar's button and the menu's command open the same list.
+            const Hand hand({Hand::reject, Hand::reject});
+            bar.click("btnShowAll");
+            bar.recover.trigger();
+            QCOMPARE(hand.seen, QStringList({QStringLiteral("Recover"), QStringLiteral("Recover")}));
+        }
+        QVERIFY2(bar.notice->text().endsWith(QStringLiteral(": box.staticmesh, man.skinnedmesh and 1 more")),
+                 qPrintable(bar.notice->text()));
+        bar.click("btnRestore");
+        QVERIFY(bar.notice->isHidden());
+        QVERIFY(run.mesh.isModified() && run.rigid.isModified());
+        QCOMPARE(int(run.mesh.model().headTrackFactor), 2);
+        QCOMPARE(run.rigid.fileName(), QStringLiteral("box.staticmesh"));
+        QVERIFY(run.rigid.path().isEmpty());
+    }
+
+    void whatIsRestoredIsNotOfferedOn()
+    {
+        {
+            OneRun run(root());
+            run.openMesh(manPath());
+            run.edit(1);
+            run.recovery->keepAll();
+            run.rigid.take(SampleModels::staticMesh(), QStringLiteral("box"));
+            run.recovery->keepAll();
+        }
+        OneRun run(root());
+        Bar bar(run);
+        // The box, which is newer, is restored; for the other the user thinks better of it.
+        run.openMesh(manPath());
+        run.edit(2);
+        Hand hand({Hand::press(QMessageBox::Cancel)});
+        bar.click("btnRestore");
+        QCOMPARE(hand.seen.size(), 1);
+        QVERIFY(run.rigid.isModified());
+        QVERIFY2(bar.notice->text().endsWith(QString(": man.skinnedmesh")), qPrintable(bar.notice->text()));
+
+        // What is offered is what Discard takes away, and not what is open.
+        bar.click("btnDiscard");
+        QVERIFY(bar.notice->isHidden());
+        const QVector<Snapshot> left = run.recovery->store().snapshots();
+        QVERIFY(std::any_of(left.begin(), left.end(), [](const Snapshot &each) {
+            return each.name == QLatin1String("box.staticmesh");
+        }));
+        QVERIFY(run.recovery->snapshots().isEmpty());
+    }
+
+    void theBarTellsOfACrash()
+    {
+        {
+            const OneRun run(root());
+            QVERIFY(TestSupport::writeFile(run.recovery->store().crashReportPath(), "the stack"));
+        }
+        {
+            OneRun run(root());
+            Bar bar(run);
+            QVERIFY(!bar.notice->isHidden());
+            QVERIFY(run.window.findChild<QPushButton *>(QStringLiteral("btnRestore"))->isHidden());
+            QString shown;
+            Hand hand({[&shown](QDialog *dialog) {
+                shown = dialog->findChild<QPlainTextEdit *>()->toPlainText();
+                dialog->reject();
+            }});
+            bar.click("btnShowReport");
+            QCOMPARE(shown, QStringLiteral("the stack"));
+        }
+        // Once is enough; the file stays.
+        const OneRun run(root());
+        QCOMPARE(run.recovery->store().crashReports(), QStringList());
+        QCOMPARE(QDir(root()).entryList({QStringLiteral("crash-*.txt")}).size(), 1);
+    }
+
+    void theDialogLists()
+    {
+        leave(3);
+        OneRun run(root());
+        run.openMesh(manPath());
+        run.edit(100);
+        RecoverDialog dialog(*run.recovery);
+        auto *tree = dialog.findChild<QTreeWidget *>();
+        const auto selectRow = [tree](int row) {
+            tree->setCurrentItem(tree->topLevelItem(row), 0,
+                                 QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        };
+        auto *restore = dialog.findChild<QPushButton *>(QStringLiteral("btnRecoverRestore"));
+        QCOMPARE(tree->topLevelItemCount(), 3);
+        QCOMPARE(tree->topLevelItem(0)->text(3), QDir::toNativeSeparators(manPath()));
+        tree->selectAll();
+        QVERIFY(!restore->isEnabled());
+
+        selectRow(1);
+        {
+            Hand hand({Hand::press(QMessageBox::Yes)});
+            dialog.findChild<QPushButton *>(QStringLiteral("btnRecoverDelete"))->click();
+            QCOMPARE(hand.seen.size(), 1);
+        }
+        QCOMPARE(tree->topLevelItemCount(), 2);
+
+        // The open document is modified: giving up its question gives up the restoring.
+        selectRow(1);
+        {
+            Hand hand({Hand::press(QMessageBox::Cancel)});
+            restore->click();
+            QCOMPARE(hand.seen.size(), 1);
+        }
+        QCOMPARE(int(run.mesh.model().headTrackFactor), 100);
+        selectRow(1);
+        Hand hand({Hand::press(QMessageBox::No)});
+        restore->click();
+        QCOMPARE(int(run.mesh.model().headTrackFactor), 1);
+        // What was replaced is kept, too.
+        QCOMPARE(run.recovery->snapshots().size(), 2);
+    }
 
 private:
-    QString root() const { return m_folder->filePath(QStringLiteral("state/recovery")); }
-    QString manPath() const { return m_folder->filePath(QStringLiteral("man.skinnedmesh")); }
+    QString root() const { return m_folder->path(QStringLiteral("state/recovery")); }
+    QString manPath() const { return m_folder->path(QStringLiteral("man.skinnedmesh")); }
     QStringList kept() const
     {
         QStringList files;
@@ -90,394 +438,9 @@ private:
         return found.size() == 1 && run.recovery->restore(found[0]) == Recovery::Outcome::Restored;
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::optional<ProgramFolder> m_folder;
     QStringList m_log;
 };
-
-void TestRecovery::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    TestSupport::useSettingsHome(*m_folder);
-    QVERIFY(!triangleMan().write(manPath()));
-    m_log.clear();
-    Log::setSink([this](LogSeverity, const QString &text) { m_log += text; });
-}
-
-void TestRecovery::cleanup()
-{
-    Log::setSink({});
-}
-
-void TestRecovery::workIsKept_data()
-{
-    QTest::addColumn<Act>("act");
-    QTest::addColumn<QString>("name");
-    const auto row = [](const char *how, const char *name, const Act &act) {
-        QTest::newRow(how) << act << QString::fromLatin1(name);
-    };
-    row("edited", "man.skinnedmesh", [](OneRun &run) {
-        run.edit(7);
-        run.settle();
-    });
-    row("replaced at once", "man.skinnedmesh", [this](OneRun &run) {
-        run.edit(7);
-        run.openMesh(manPath());
-        run.settle();
-    });
-    row("window closed at once", "man.skinnedmesh", [](OneRun &run) {
-        run.edit(7);
-        run.window.show();
-        run.window.close();
-    });
-    row("changed without an undo step, then edited and undone", "walk.anim", [this](OneRun &run) {
-        run.anim.take(twoBlocks(), QStringLiteral("x"));
-        QVERIFY(!run.anim.save(m_folder->filePath(QStringLiteral("walk.anim"))));
-        run.anim.model().blocks[0].setFrameCount(40);
-        run.anim.changedDirectly({{RecordKind::AnimBlock, {}}, 0, {}});
-        run.anim.undoStack()->push(new UC_AnimBlockAnimID(run.anim.editTarget(), {}, 9));
-        run.anim.undoStack()->undo();
-        run.settle();
-    });
-    row("never saved", "box.staticmesh", [](OneRun &run) {
-        run.rigid.take(SampleModels::staticMesh(), QStringLiteral("box"));
-        run.settle();
-    });
-}
-
-void TestRecovery::workIsKept()
-{
-    QFETCH(Act, act);
-    QFETCH(QString, name);
-    {
-        OneRun run(root());
-        run.openMesh(manPath());
-        act(run);
-    }
-    SnapshotStore next(root());
-    const QVector<Snapshot> found = next.snapshots();
-    QCOMPARE(found.size(), 1);
-    QCOMPARE(found[0].name, name);
-    const bool isSaved = found[0].type != DocumentType::StaticMesh;
-    QCOMPARE(found[0].sourcePath, isSaved ? m_folder->filePath(name) : QString());
-    QVERIFY(qAbs(found[0].time.secsTo(QDateTime::currentDateTime())) < 60);
-    SkinnedMesh man = triangleMan();
-    man.headTrackFactor = 7;
-    AnimFile walk = twoBlocks();
-    walk.blocks[0].setFrameCount(40);
-    const QByteArray expected[] = {bytesOf(man), bytesOf(walk), bytesOf(SampleModels::staticMesh())};
-    QByteArray bytes;
-    QVERIFY(!next.read(found[0], &bytes));
-    QCOMPARE(bytes, expected[int(found[0].type)]);
-    QCOMPARE(m_log, QStringList());
-}
-
-void TestRecovery::savedOrUndoneWorkIsNot()
-{
-    OneRun run(root());
-    const auto keptNow = [&] {
-        run.settle();
-        return kept().size();
-    };
-    run.openMesh(manPath());
-    QCOMPARE(keptNow(), 0);
-    // One file for one document, however often it changes.
-    for (const int factor : {7, 8}) {
-        run.edit(factor);
-        QCOMPARE(keptNow(), 1);
-    }
-    run.mesh.undoStack()->setIndex(0);
-    QCOMPARE(keptNow(), 0);
-
-    run.mesh.undoStack()->redo();
-    QCOMPARE(keptNow(), 1);
-    QVERIFY(run.mesh.save(m_folder->filePath(QStringLiteral("none/man.skinnedmesh"))));
-    QCOMPARE(keptNow(), 1);
-    QVERIFY(!run.mesh.save(manPath()));
-    QCOMPARE(keptNow(), 0);
-
-    // A clean stack says nothing of a model that was never saved.
-    run.rigid.take(SampleModels::staticMesh(), QStringLiteral("box"));
-    QCOMPARE(keptNow(), 1);
-    QVERIFY(!run.rigid.save(m_folder->filePath(QStringLiteral("box.staticmesh"))));
-    QCOMPARE(keptNow(), 0);
-}
-
-void TestRecovery::restoredWorkIsModifiedUntilSaved()
-{
-    leave(1);
-    const QByteArray before = TestSupport::readFile(manPath());
-    {
-        OneRun run(root());
-        QVERIFY(restoreOnly(run));
-        QCOMPARE(run.mesh.path(), manPath());
-        QCOMPARE(int(run.mesh.model().headTrackFactor), 1);
-        QVERIFY(run.mesh.isModified());
-        run.edit(5);
-        run.mesh.undoStack()->undo();
-        QVERIFY(run.mesh.isModified());
-        QCOMPARE(run.recovery->snapshots().size(), 0);
-        // Killed again before it was saved: still there.
-    }
-    OneRun run(root());
-    QVERIFY(restoreOnly(run));
-    QCOMPARE(TestSupport::readFile(manPath()), before);
-    QVERIFY(!run.mesh.save(manPath()));
-    QVERIFY(!run.mesh.isModified());
-    run.settle();
-    QCOMPARE(kept(), QStringList());
-}
-
-void TestRecovery::eachRunHasItsOwn()
-{
-    auto first = std::make_unique<OneRun>(root());
-    first->openMesh(manPath());
-    first->edit(1);
-    first->settle();
-    {
-        const OneRun second(root());
-        QCOMPARE(second.recovery->snapshots().size(), 0);
-    }
-    QCOMPARE(kept().size(), 1);
-    first.reset();
-    auto second = std::make_unique<OneRun>(root());
-    const OneRun third(root());
-    QCOMPARE(second->recovery->snapshots().size(), 1);
-    QCOMPARE(third.recovery->snapshots().size(), 0);
-    second.reset();
-    // A run that leaves nothing leaves no folder.
-    QCOMPARE(OneRun(root()).recovery->snapshots().size(), 1);
-    QCOMPARE(QDir(root()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 2);
-}
-
-void TestRecovery::theOldestGo()
-{
-    leave(SnapshotStore::MostKept + 3);
-    SnapshotStore store(root());
-    const QVector<Snapshot> found = store.snapshots();
-    QCOMPARE(found.size(), SnapshotStore::MostKept);
-    for (int i = 0; i < found.size(); ++i) {
-        SkinnedMesh mesh;
-        QByteArray bytes;
-        QVERIFY(!store.read(found[i], &bytes) && !SampleModels::readBytes(mesh, bytes));
-        QCOMPARE(int(mesh.headTrackFactor), SnapshotStore::MostKept + 3 - i);
-    }
-}
-
-void TestRecovery::damageIsSkipped()
-{
-    leave(2);
-    OneRun run(root());
-    const Snapshot newest = run.recovery->snapshots().at(0);
-    const QString file = kept().filter(newest.file).value(0);
-    const QByteArray whole = TestSupport::readFile(file);
-    const auto damage = [&](const QByteArray &bytes) {
-        QVERIFY(TestSupport::writeFile(file, bytes));
-        m_log.clear();
-        const QVector<Snapshot> found = run.recovery->snapshots();
-        if (found.size() == 2) {
-            QCOMPARE(int(run.recovery->restore(newest)), int(Recovery::Outcome::Damaged));
-            QVERIFY(!run.mesh.isOpen());
-        } else {
-            QCOMPARE(found.size(), 1);
-        }
-        QCOMPARE(m_log.size(), 1);
-    };
-    for (int length = 0; length < whole.size(); ++length)
-        damage(whole.left(length));
-    for (int i = 0; i < whole.size(); ++i) {
-        QByteArray changed = whole;
-        changed[i] = char(changed[i] ^ 0x40);
-        damage(changed);
-    }
-    damage(whole + 'x');
-
-    // The bar's button takes the one before.
-    Bar bar(run);
-    QVERIFY(TestSupport::writeFile(file, whole.left(whole.size() / 2)));
-    bar.click("btnRestore");
-    QCOMPARE(int(run.mesh.model().headTrackFactor), 1);
-}
-
-void TestRecovery::workThatCannotBeSavedIsKept()
-{
-    {
-        OneRun run(root());
-        run.openMesh(manPath());
-        run.mesh.model().surfaces[0].triangleIndexes[1] = SkinnedMesh::IndexTerminator;
-        run.edit(7);
-        run.settle();
-    }
-    OneRun run(root());
-    QVERIFY(restoreOnly(run));
-    QCOMPARE(run.mesh.model().headTrackFactor, qint8(7));
-    QCOMPARE(run.mesh.model().surfaces[0].triangleIndexes.size(), size_t(3));
-}
-
-void TestRecovery::whatCannotBeKept()
-{
-    {
-        OneRun run(root());
-        AnimFile empty;
-        run.anim.take(empty, QStringLiteral("none"));
-        run.settle();
-        run.anim.changedDirectly({{RecordKind::AnimFile, {}}, 0, {}});
-        run.settle();
-        QCOMPARE(kept(), QStringList());
-
-        // A disk that is full for a while.
-        m_log.clear();
-        run.openMesh(manPath());
-        const qint64 size = QFileInfo(manPath()).size();
-        for (qint64 limit = 0; limit < size; limit += 16) {
-            const FullDisk disk(limit);
-            run.edit(int(limit / 16) + 1);
-            run.settle();
-            QVERIFY2(kept().isEmpty(), qPrintable(QString::number(limit)));
-        }
-        QCOMPARE(m_log.size(), 1);
-        QTRY_COMPARE(kept().size(), 1);
-        QCOMPARE(run.recovery->store().snapshots().size(), 1);
-        run.mesh.undoStack()->setIndex(0);
-    }
-    // Where the folder should be is a file: the program works, and says that it keeps nothing.
-    m_log.clear();
-    QVERIFY(QDir(root()).removeRecursively());
-    QVERIFY(TestSupport::writeFile(root(), "x"));
-    OneRun run(root());
-    QCOMPARE(m_log.size(), 1);
-    run.openMesh(manPath());
-    run.edit(3);
-    run.settle();
-    run.recovery->keepAll();
-    QCOMPARE(run.recovery->snapshots().size(), 0);
-    QVERIFY(!run.mesh.save(manPath()));
-}
-
-void TestRecovery::theBarOffers()
-{
-    leave(2);
-    {
-        OneRun run(root());
-        run.rigid.take(SampleModels::staticMesh(), QStringLiteral("box"));
-        run.recovery->keepAll();
-    }
-    OneRun run(root());
-    Bar bar(run);
-    QVERIFY(!bar.notice->isHidden());
-    {
-        // The bar's button and the menu's command open the same list.
-        const Hand hand({Hand::reject, Hand::reject});
-        bar.click("btnShowAll");
-        bar.recover.trigger();
-        QCOMPARE(hand.seen, QStringList({QStringLiteral("Recover"), QStringLiteral("Recover")}));
-    }
-    QVERIFY2(bar.notice->text().endsWith(QStringLiteral(": box.staticmesh, man.skinnedmesh and 1 more")),
-             qPrintable(bar.notice->text()));
-    bar.click("btnRestore");
-    QVERIFY(bar.notice->isHidden());
-    QVERIFY(run.mesh.isModified() && run.rigid.isModified());
-    QCOMPARE(int(run.mesh.model().headTrackFactor), 2);
-    QCOMPARE(run.rigid.fileName(), QStringLiteral("box.staticmesh"));
-    QVERIFY(run.rigid.path().isEmpty());
-}
-
-void TestRecovery::whatIsRestoredIsNotOfferedOn()
-{
-    {
-        OneRun run(root());
-        run.openMesh(manPath());
-        run.edit(1);
-        run.recovery->keepAll();
-        run.rigid.take(SampleModels::staticMesh(), QStringLiteral("box"));
-        run.recovery->keepAll();
-    }
-    OneRun run(root());
-    Bar bar(run);
-    // The box, which is newer, is restored; for the other the user thinks better of it.
-    run.openMesh(manPath());
-    run.edit(2);
-    Hand hand({Hand::press(QMessageBox::Cancel)});
-    bar.click("btnRestore");
-    QCOMPARE(hand.seen.size(), 1);
-    QVERIFY(run.rigid.isModified());
-    QVERIFY2(bar.notice->text().endsWith(QStringLiteral(": man.skinnedmesh")),
-             qPrintable(bar.notice->text()));
-
-    // What is offered is what Discard takes away, and not what is open.
-    bar.click("btnDiscard");
-    QVERIFY(bar.notice->isHidden());
-    const QVector<Snapshot> left = run.recovery->store().snapshots();
-    QVERIFY(std::any_of(left.begin(), left.end(),
-                        [](const Snapshot &each) { return each.name == QLatin1String("box.staticmesh"); }));
-    QVERIFY(run.recovery->snapshots().isEmpty());
-}
-
-void TestRecovery::theBarTellsOfACrash()
-{
-    {
-        const OneRun run(root());
-        QVERIFY(TestSupport::writeFile(run.recovery->store().crashReportPath(), "the stack"));
-    }
-    {
-        OneRun run(root());
-        Bar bar(run);
-        QVERIFY(!bar.notice->isHidden());
-        QVERIFY(run.window.findChild<QPushButton *>(QStringLiteral("btnRestore"))->isHidden());
-        QString shown;
-        Hand hand({[&shown](QDialog *dialog) {
-            shown = dialog->findChild<QPlainTextEdit *>()->toPlainText();
-            dialog->reject();
-        }});
-        bar.click("btnShowReport");
-        QCOMPARE(shown, QStringLiteral("the stack"));
-    }
-    // Once is enough; the file stays.
-    const OneRun run(root());
-    QCOMPARE(run.recovery->store().crashReports(), QStringList());
-    QCOMPARE(QDir(root()).entryList({QStringLiteral("crash-*.txt")}).size(), 1);
-}
-
-void TestRecovery::theDialogLists()
-{
-    leave(3);
-    OneRun run(root());
-    run.openMesh(manPath());
-    run.edit(100);
-    RecoverDialog dialog(*run.recovery);
-    auto *tree = dialog.findChild<QTreeWidget *>();
-    const auto selectRow = [tree](int row) {
-        tree->setCurrentItem(tree->topLevelItem(row), 0,
-                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    };
-    auto *restore = dialog.findChild<QPushButton *>(QStringLiteral("btnRecoverRestore"));
-    QCOMPARE(tree->topLevelItemCount(), 3);
-    QCOMPARE(tree->topLevelItem(0)->text(3), QDir::toNativeSeparators(manPath()));
-    tree->selectAll();
-    QVERIFY(!restore->isEnabled());
-
-    selectRow(1);
-    {
-        Hand hand({Hand::press(QMessageBox::Yes)});
-        dialog.findChild<QPushButton *>(QStringLiteral("btnRecoverDelete"))->click();
-        QCOMPARE(hand.seen.size(), 1);
-    }
-    QCOMPARE(tree->topLevelItemCount(), 2);
-
-    // The open document is modified: giving up its question gives up the restoring.
-    selectRow(1);
-    {
-        Hand hand({Hand::press(QMessageBox::Cancel)});
-        restore->click();
-        QCOMPARE(hand.seen.size(), 1);
-    }
-    QCOMPARE(int(run.mesh.model().headTrackFactor), 100);
-    selectRow(1);
-    Hand hand({Hand::press(QMessageBox::No)});
-    restore->click();
-    QCOMPARE(int(run.mesh.model().headTrackFactor), 1);
-    // What was replaced is kept, too.
-    QCOMPARE(run.recovery->snapshots().size(), 2);
-}
 
 QTEST_MAIN(TestRecovery)
 #include "tst_recovery.moc"

@@ -13,10 +13,100 @@ class tst_RecordFilter : public QObject
 
 private slots:
     void init() { TestSupport::useSettingsHome(m_home); }
-    void matches();
-    void aLineShowsMatchesAndTheirParents();
-    void hiddenRecordsAreFoundByTheirNoun();
-    void editsUnderAFilter();
+    void matches()
+    {
+        const auto check = [](const char *filter, const char *text, bool expected) {
+            QVERIFY2(RecordFilter(QString::fromUtf8(filter)).matches(QString::fromUtf8(text)) == expected,
+                     filter);
+        };
+        check(" ,.- ", "vertex 3", true);
+        check("ARM le", "bone 4 Left Upper Arm", true);
+        check("left leg", "bone 4 Left Upper Arm", false);
+        check("links arm", "Knochen 15: Links Oberarm", true);
+        check("été", "surface 0 materials/ÉTÉ", true);
+        check("ex 12", "vertex 12", false);
+        check("ver 12", "vertex 12", true);
+        check("vertex 1", "vertex 12", false);
+        check("vertex 100-120", "vertex 100", true);
+        check("vertex 120 .. 100", "vertex 120", true);
+        check("vertex 100–120", "vertex 99", false);
+        check("vertex 100-120", "vertex 121", false);
+        check("event 30", "action 2 event 30: Play Voice", true);
+        check("event 2", "action 2 event 30: Play Voice", false);
+        check("action 2 voice", "action 2 event 30: Play Voice", true);
+        check("2-3 30", "action 2 event 30: Play Voice", true);
+        check("4", "action 2 event 30: Play Voice", false);
+        check("999999999999999999999", "vertex 3", false);
+        check("0-999999999999999999", "vertex 3", true);
+    }
+
+    void aLineShowsMatchesAndTheirParents()
+    {
+        Pane<SkinnedMesh> pane(DocumentType::SkinnedMesh, RecordKind::SkinnedMesh);
+        FilterLine line(pane.tree);
+        pane.open(SampleModels::plainMesh());
+        pane.tree.show();
+        line.show();
+        const QStringList all = rows(pane.tree);
+        pane.tree.findItem({RecordKind::HotPoints, {}})->setExpanded(true);
+        const RecordRef bone{RecordKind::Bone, {2}};
+        pane.select({bone});
+
+        QTest::keyClicks(&line, "bone 1-2");
+        const QStringList expected{pane.tree.label({RecordKind::SkinnedMesh, {}}), "Bones (4)",
+                                   QString("1: ") + boneSymbolName(pane.document.model(), 1),
+                                   QString("2: ") + boneSymbolName(pane.document.model(), 2)};
+        QTRY_COMPARE(rows(pane.tree), expected);
+        QCOMPARE(pane.tree.currentRecord(), bone);
+        QCOMPARE(pane.tree.findItem({RecordKind::Bone, {1}})->record(), (RecordRef{RecordKind::Bone, {1}}));
+        QCOMPARE(pane.tree.findItem({RecordKind::Bone, {3}})->record(), (RecordRef{RecordKind::Bones, {}}));
+
+        QTest::keyClick(&line, Qt::Key_Return);
+        QCOMPARE(pane.tree.currentRecord(), (RecordRef{RecordKind::Bone, {1}}));
+
+        QTest::keyClick(&line, Qt::Key_Escape);
+        QVERIFY(line.text().isEmpty());
+        QCOMPARE(rows(pane.tree), all);
+        QVERIFY(pane.tree.findItem({RecordKind::HotPoints, {}})->isExpanded());
+        QCOMPARE(pane.tree.currentRecord(), (RecordRef{RecordKind::Bone, {1}}));
+    }
+
+    void hiddenRecordsAreFoundByTheirNoun()
+    {
+        Pane<SkinnedMesh> pane(DocumentType::SkinnedMesh, RecordKind::SkinnedMesh);
+        pane.open(SampleModels::plainMesh());
+        QCOMPARE(pane.tree.findItem({RecordKind::SkinnedVertex, {1}})->record().kind,
+                 RecordKind::SkinnedVertices);
+        pane.tree.setFilter(QStringLiteral("vertex 1"));
+        QCOMPARE(pane.tree.findItem({RecordKind::SkinnedVertex, {1}})->record().kind,
+                 RecordKind::SkinnedVertex);
+        QCOMPARE(rows(pane.tree).size(), 3);
+        // A bare number does not bring out every list that is hidden.
+        pane.tree.setFilter(QStringLiteral("1"));
+        QCOMPARE(pane.tree.findItem({RecordKind::SkinnedVertex, {1}})->record().kind,
+                 RecordKind::SkinnedMesh);
+        pane.tree.setFilter(QStringLiteral("materials/a"));
+        QCOMPARE(rows(pane.tree).size(), 2 + int(pane.document.model().surfaces.size()));
+    }
+
+    void editsUnderAFilter()
+    {
+        Pane<AnimFile> pane(DocumentType::Anim, RecordKind::AnimFile);
+        AnimFile file = SampleModels::plainAnim();
+        file.blocks[1].actions[2].eventType = 30;
+        pane.open(file);
+        pane.tree.setFilter(QStringLiteral("event 30"));
+        QCOMPARE(rows(pane.tree).size(), 4);
+        const RecordRef action{RecordKind::AnimAction, {1, 2}};
+        QCOMPARE(pane.tree.findItem(action)->record(), action);
+
+        // A block is taken out before it.
+        pane.document.model().blocks.erase(pane.document.model().blocks.begin());
+        pane.document.changedDirectly({{RecordKind::AnimBlock, {0}}, -1, {RecordKind::AnimFile, {}}});
+        const RecordRef moved{RecordKind::AnimAction, {0, 2}};
+        QCOMPARE(pane.tree.findItem(moved)->record(), moved);
+        QCOMPARE(pane.tree.findItem(action)->record().kind, RecordKind::AnimFile);
+    }
 
 private:
     /// The texts of everything in the tree, in order.
@@ -30,99 +120,6 @@ private:
 
     QTemporaryDir m_home;
 };
-
-void tst_RecordFilter::matches()
-{
-    const auto check = [](const char *filter, const char *text, bool expected) {
-        QVERIFY2(RecordFilter(QString::fromUtf8(filter)).matches(QString::fromUtf8(text)) == expected,
-                 filter);
-    };
-    check(" ,.- ", "vertex 3", true);
-    check("ARM le", "bone 4 Left Upper Arm", true);
-    check("left leg", "bone 4 Left Upper Arm", false);
-    check("links arm", "Knochen 15: Links Oberarm", true);
-    check("été", "surface 0 materials/ÉTÉ", true);
-    check("ex 12", "vertex 12", false);
-    check("ver 12", "vertex 12", true);
-    check("vertex 1", "vertex 12", false);
-    check("vertex 100-120", "vertex 100", true);
-    check("vertex 120 .. 100", "vertex 120", true);
-    check("vertex 100–120", "vertex 99", false);
-    check("vertex 100-120", "vertex 121", false);
-    check("event 30", "action 2 event 30: Play Voice", true);
-    check("event 2", "action 2 event 30: Play Voice", false);
-    check("action 2 voice", "action 2 event 30: Play Voice", true);
-    check("2-3 30", "action 2 event 30: Play Voice", true);
-    check("4", "action 2 event 30: Play Voice", false);
-    check("999999999999999999999", "vertex 3", false);
-    check("0-999999999999999999", "vertex 3", true);
-}
-
-void tst_RecordFilter::aLineShowsMatchesAndTheirParents()
-{
-    Pane<SkinnedMesh> pane(DocumentType::SkinnedMesh, RecordKind::SkinnedMesh);
-    FilterLine line(pane.tree);
-    pane.open(SampleModels::plainMesh());
-    pane.tree.show();
-    line.show();
-    const QStringList all = rows(pane.tree);
-    pane.tree.findItem({RecordKind::HotPoints, {}})->setExpanded(true);
-    const RecordRef bone{RecordKind::Bone, {2}};
-    pane.select({bone});
-
-    QTest::keyClicks(&line, QStringLiteral("bone 1-2"));
-    const QStringList expected{pane.tree.label({RecordKind::SkinnedMesh, {}}), QStringLiteral("Bones (4)"),
-                               QStringLiteral("1: ") + boneSymbolName(pane.document.model(), 1),
-                               QStringLiteral("2: ") + boneSymbolName(pane.document.model(), 2)};
-    QTRY_COMPARE(rows(pane.tree), expected);
-    QCOMPARE(pane.tree.currentRecord(), bone);
-    QCOMPARE(pane.tree.findItem({RecordKind::Bone, {1}})->record(), (RecordRef{RecordKind::Bone, {1}}));
-    QCOMPARE(pane.tree.findItem({RecordKind::Bone, {3}})->record(), (RecordRef{RecordKind::Bones, {}}));
-
-    QTest::keyClick(&line, Qt::Key_Return);
-    QCOMPARE(pane.tree.currentRecord(), (RecordRef{RecordKind::Bone, {1}}));
-
-    QTest::keyClick(&line, Qt::Key_Escape);
-    QVERIFY(line.text().isEmpty());
-    QCOMPARE(rows(pane.tree), all);
-    QVERIFY(pane.tree.findItem({RecordKind::HotPoints, {}})->isExpanded());
-    QCOMPARE(pane.tree.currentRecord(), (RecordRef{RecordKind::Bone, {1}}));
-}
-
-void tst_RecordFilter::hiddenRecordsAreFoundByTheirNoun()
-{
-    Pane<SkinnedMesh> pane(DocumentType::SkinnedMesh, RecordKind::SkinnedMesh);
-    pane.open(SampleModels::plainMesh());
-    QCOMPARE(pane.tree.findItem({RecordKind::SkinnedVertex, {1}})->record().kind,
-             RecordKind::SkinnedVertices);
-    pane.tree.setFilter(QStringLiteral("vertex 1"));
-    QCOMPARE(pane.tree.findItem({RecordKind::SkinnedVertex, {1}})->record().kind, RecordKind::SkinnedVertex);
-    QCOMPARE(rows(pane.tree).size(), 3);
-    // A bare number does not bring out every list that is hidden.
-    pane.tree.setFilter(QStringLiteral("1"));
-    QCOMPARE(pane.tree.findItem({RecordKind::SkinnedVertex, {1}})->record().kind, RecordKind::SkinnedMesh);
-    pane.tree.setFilter(QStringLiteral("materials/a"));
-    QCOMPARE(rows(pane.tree).size(), 2 + int(pane.document.model().surfaces.size()));
-}
-
-void tst_RecordFilter::editsUnderAFilter()
-{
-    Pane<AnimFile> pane(DocumentType::Anim, RecordKind::AnimFile);
-    AnimFile file = SampleModels::plainAnim();
-    file.blocks[1].actions[2].eventType = 30;
-    pane.open(file);
-    pane.tree.setFilter(QStringLiteral("event 30"));
-    QCOMPARE(rows(pane.tree).size(), 4);
-    const RecordRef action{RecordKind::AnimAction, {1, 2}};
-    QCOMPARE(pane.tree.findItem(action)->record(), action);
-
-    // A block is taken out before it.
-    pane.document.model().blocks.erase(pane.document.model().blocks.begin());
-    pane.document.changedDirectly({{RecordKind::AnimBlock, {0}}, -1, {RecordKind::AnimFile, {}}});
-    const RecordRef moved{RecordKind::AnimAction, {0, 2}};
-    QCOMPARE(pane.tree.findItem(moved)->record(), moved);
-    QCOMPARE(pane.tree.findItem(action)->record().kind, RecordKind::AnimFile);
-}
 
 QTEST_MAIN(tst_RecordFilter)
 #include "tst_recordfilter.moc"

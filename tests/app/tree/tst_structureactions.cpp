@@ -2,16 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Panes.h"
 #include "RecordItem.h"
-#include "Settings.h"
 #include "StructureActions.h"
-
-#include <QApplication>
-#include <QClipboard>
-#include <QDialog>
-#include <QMenu>
-#include <QSpinBox>
-#include <QTimer>
-#include <QVBoxLayout>
 
 using SampleModels::bytesOf;
 using K = RecordKind;
@@ -40,26 +31,246 @@ AnimFile animFile()
 }
 } // namespace
 
-Q_DECLARE_METATYPE(RecordRef)
-
 class tst_StructureActions : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void keys_data();
-    void keys();
-    void newBlocks();
-    void oneNoticeAStep();
-    void copiesSurviveAnotherDocument();
-    void openBranchesStayOpen();
-    void menus_data();
-    void menus();
-    void branches();
-    void counts_data();
-    void counts();
-    void boneFlags();
+    void init()
+    {
+        TestSupport::useSettingsHome(m_home);
+        Settings::HideAnimData.setValue(false);
+        m_panes.reset();
+        m_window = std::make_unique<QWidget>();
+        m_panes = std::make_unique<Panes>();
+        auto *layout = new QVBoxLayout(m_window.get());
+        for (KVTreeView *tree : {&mesh().tree, &anim().tree, &m_panes->rigid.tree})
+            layout->addWidget(tree);
+        m_actions = new StructureActions({mesh().document, &mesh().tree}, {anim().document, &anim().tree},
+                                         {m_panes->rigid.document, &m_panes->rigid.tree}, m_window.get());
+        SkinnedMesh model = SampleModels::skinnedMesh();
+        model.nodes[2].symbolFlags = 5;
+        mesh().open(model);
+        anim().open(animFile());
+        m_window->resize(500, 900);
+        m_window->show();
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
+    void keys()
+    {
+        // What is copied with Ctrl+C before the rest, what is current then, the key, the step that it makes
+        // (none when nothing happens), and what is current after it.
+        const auto check = [this](const char *name, const RecordRef &copied, const RecordRef &current,
+                                  const char *key, const char *step, const RecordRef &next) {
+            init();
+            if (copied.kind != K::None)
+                QTest::keySequence(select(copied), QKeySequence::Copy);
+            KVTreeView *tree = select(current);
+            const QUndoStack &stack = isOfMesh(current) ? mesh().undo() : anim().undo();
+            const auto bytes = [&] { return isOfMesh(current) ? mesh().bytes() : anim().bytes(); };
+            const QByteArray before = bytes();
+            QTest::keySequence(tree, QKeySequence(QLatin1String(key)));
+            QCOMPARE(name + stack.undoText(), QLatin1String(name) + QLatin1String(step));
+            QVERIFY2(stack.count() == (*step ? 1 : 0), name);
+            QVERIFY2(tree->currentRecord() == next, name);
+            QCOMPARE(tree->selectedItems(), QList<QTreeWidgetItem *>{tree->currentItem()});
+            QVERIFY2((bytes() == before) == !*step, name);
+        };
+        const RecordRef nothing;
+        check("hot point, group", nothing, ref(K::HotPoints), "Ins", "Add Hot Point", ref(K::HotPoint, 0));
+        check("hot point, behind", nothing, ref(K::HotPoint, 1), "Ins", "Add Hot Point", ref(K::HotPoint, 2));
+        check("hot point, remove", nothing, ref(K::HotPoint, 0), "Del", "Remove Hot Point",
+              ref(K::HotPoint, 0));
+        check("hot point, paste", ref(K::HotPoint, 1), ref(K::HotPoint, 0), "Ctrl+V", "Paste Hot Point",
+              ref(K::HotPoint, 1));
+        check("hot point, paste first", ref(K::HotPoint, 1), ref(K::HotPoints), "Ctrl+V", "Paste Hot Point",
+              ref(K::HotPoint, 0));
+        check("hot point, nothing copied", nothing, ref(K::HotPoint, 0), "Ctrl+V", "", ref(K::HotPoint, 0));
+        check("bone, remove", nothing, ref(K::Bone, 1), "Del", "", ref(K::Bone, 1));
+
+        check("block, root", nothing, ref(K::AnimFile), "Ins", "Add Animation", ref(K::AnimBlock, 0));
+        check("block, behind", nothing, ref(K::AnimBlock, 1), "Ins", "Add Animation", ref(K::AnimBlock, 2));
+        check("block, remove", nothing, ref(K::AnimBlock, 2), "Del", "Remove Animation",
+              ref(K::AnimBlock, 1));
+        check("block, paste first", ref(K::AnimBlock, 2), ref(K::AnimFile), "Ctrl+V", "Paste Animation",
+              ref(K::AnimBlock, 0));
+        check("block, paste", ref(K::AnimBlock, 0), ref(K::AnimBlock, 2), "Ctrl+V", "Paste Animation",
+              ref(K::AnimBlock, 3));
+        check("block, on a frame", ref(K::AnimBlock, 0), ref(K::AnimFrame, 1, 2), "Ctrl+V", "",
+              ref(K::AnimFrame, 1, 2));
+        check("action, group", nothing, ref(K::AnimActions, 1), "Ins", "Add Key Frame Action",
+              ref(K::AnimAction, 1, 0));
+        check("action, behind", nothing, ref(K::AnimAction, 1, 1), "Ins", "Add Key Frame Action",
+              ref(K::AnimAction, 1, 2));
+        check("action, remove", nothing, ref(K::AnimAction, 2, 0), "Del", "Remove Key Frame Action",
+              ref(K::AnimAction, 2, 0));
+    }
+
+    void newBlocks()
+    {
+        // As many bones as the first block, in its pose, and a frame.
+        select(ref(K::AnimFile));
+        m_actions->OnActionAddAnimBlock();
+        const AnimBlock added = anim().document.model().blocks[0];
+        QCOMPARE(added.nodes.size(), size_t(2));
+        QCOMPARE(added.nodes[1].initialPosition, QVector3D(1.0f, 2.0f, 3.0f));
+        QCOMPARE(int(added.nodes[1].translationIndex), 0xFFFF);
+        QCOMPARE(added.frameCount(), 1);
+
+        // Without a block as many as the mesh.
+        while (!anim().document.model().blocks.empty())
+            m_actions->OnActionRemoveAnimBlock();
+        QCOMPARE(anim().tree.currentRecord(), ref(K::AnimFile));
+        m_actions->OnActionAddAnimBlock();
+        QCOMPARE(anim().document.model().blocks[0].nodes.size(), mesh().document.model().nodes.size());
+    }
+
+    void oneNoticeAStep()
+    {
+        int notices = 0;
+        connect(&mesh().document, &Document::structuresChanged, this, [&notices] { ++notices; });
+        const QByteArray before = mesh().bytes();
+        mesh().tree.selectRecords({ref(K::HotPoint, 0), ref(K::HotPoint, 1)}, ref(K::HotPoint, 1));
+        m_actions->OnActionRemoveHotPoint();
+        QVERIFY(mesh().document.model().hotPoints.empty());
+        QCOMPARE(notices, 1);
+        QCOMPARE(mesh().undo().count(), 1);
+        mesh().undo().undo();
+        QCOMPARE(notices, 2);
+        QCOMPARE(mesh().bytes(), before);
+    }
+
+    void copiesSurviveAnotherDocument()
+    {
+        select(ref(K::AnimBlock, 1));
+        m_actions->OnActionCopyAnimBlock();
+        AnimFile other;
+        other.blocks.resize(1);
+        anim().open(other);
+        select(ref(K::AnimFile));
+        m_actions->OnActionPasteAnimBlock();
+        QCOMPARE(anim().document.model().blocks.size(), size_t(2));
+        QCOMPARE(anim().document.model().blocks[0].animId, 101);
+    }
+
+    void openBranchesStayOpen()
+    {
+        const auto open = [this] {
+            QStringList all;
+            for (QTreeWidgetItemIterator it(&anim().tree); *it; ++it) {
+                if ((*it)->isExpanded())
+                    all << (*it)->data(0, Qt::UserRole).toStringList().mid(0, 2).join('-');
+            }
+            return all;
+        };
+        anim().tree.findItem(ref(K::AnimBlock, 0))->setExpanded(true);
+        anim().tree.findItem(ref(K::AnimBlock, 2))->setExpanded(true);
+        anim().tree.findItem(ref(K::Translations, 2))->setExpanded(true);
+        const QStringList before = open();
+        QCOMPARE(before, QStringList({"14-0", "15-0", "15-2", "21-2"}));
+        select(ref(K::AnimBlock, 0));
+        m_actions->OnActionAddAnimBlock();
+        QCOMPARE(open(), QStringList({"14-0", "15-0", "15-3", "21-3"}));
+        anim().undo().undo();
+        QCOMPARE(open(), before);
+        select(ref(K::AnimBlock, 0));
+        m_actions->OnActionRemoveAnimBlock();
+        QCOMPARE(open(), QStringList({"14-0", "15-1", "21-1"}));
+    }
+
+    void menus()
+    {
+        const auto check = [this](const RecordRef &current, const QStringList &texts) {
+            QMenu *menu = openMenu(select(current));
+            QVERIFY(menu);
+            QStringList offered;
+            for (const QAction *action : menu->actions()) {
+                if (action->isVisible() && !action->isSeparator())
+                    offered << action->text() + QLatin1String(action->isEnabled() ? "" : " (off)");
+            }
+            QCOMPARE(offered, texts + QStringList({"Undo (off)", "Redo (off)"}));
+            menu->close();
+        };
+        check(ref(K::Bone, 1), {"Copy Bone Flags"});
+        check(ref(K::HotPoint, 1),
+              {"Add Hot Point", "Remove Hot Point", "Copy Hot Point", "Paste Hot Point (off)"});
+        check(ref(K::SkinnedSurface, 0), {});
+        check(ref(K::AnimBlock, 1), {"Add Animation", "Remove Animation", "Copy Animation",
+                                     "Paste Animation (off)", "&Expand All Below", "&Collapse All Below"});
+        check(ref(K::Rotations, 1), {"Change Rotation Count…"});
+    }
+
+    void branches()
+    {
+        KVTreeView *tree = select(ref(K::AnimBlock, 1));
+        const auto choose = [tree](const QString &text) {
+            QMenu *menu = openMenu(tree);
+            for (QAction *action : menu->actions()) {
+                if (action->text() == text)
+                    action->trigger();
+            }
+            menu->close();
+        };
+        choose(QStringLiteral("&Expand All Below"));
+        QVERIFY(tree->findItem(ref(K::AnimBlock, 1))->isExpanded());
+        QVERIFY(tree->findItem(ref(K::TranslationTrack, 1, 0))->isExpanded());
+        QVERIFY(!tree->findItem(ref(K::AnimBlock, 0))->isExpanded());
+        choose(QStringLiteral("&Collapse All Below"));
+        QVERIFY(!tree->findItem(ref(K::AnimBlock, 1))->isExpanded());
+        QVERIFY(!tree->findItem(ref(K::TranslationTrack, 1, 0))->isExpanded());
+    }
+
+    void counts()
+    {
+        const struct
+        {
+            RecordRef group;
+            int least, current;
+            void (AnimBlock::*resize)(int);
+        } rows[] = {{ref(K::AnimFrames, 1), 1, 4, &AnimBlock::setFrameCount},
+                    {ref(K::Translations, 1), 0, 1, &AnimBlock::setTranslationCount},
+                    {ref(K::Rotations, 1), 0, 0, &AnimBlock::setRotationCount}};
+        AnimFile expected = animFile();
+        int notices = 0;
+        connect(&anim().document, &Document::structuresChanged, this, [&notices] { ++notices; });
+        for (const auto &row : rows) {
+            notices = 0;
+            for (const char *text : {"", "7"}) {
+                bool asked = false;
+                QTimer::singleShot(0, this, [&] {
+                    auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+                    auto *box = dialog->findChild<QSpinBox *>(QStringLiteral("sbSize"));
+                    asked =
+                        box->minimum() == row.least && box->maximum() == 65535 && box->value() == row.current;
+                    // The number is selected: typing replaces it.
+                    QTest::keyClicks(box, QLatin1String(text));
+                    QTest::keyClick(box, Qt::Key_Return);
+                });
+                select(row.group);
+                QMenu *menu = openMenu(&anim().tree);
+                menu->setActiveAction(menu->actions().at(4));
+                QTest::keyClick(menu, Qt::Key_Return);
+                QVERIFY(asked);
+                QCOMPARE(notices, text[0] ? 1 : 0);
+            }
+            (expected.blocks[1].*row.resize)(7);
+            QCOMPARE(anim().bytes(), bytesOf(expected));
+            QCOMPARE(anim().tree.currentRecord(), row.group);
+            const QTreeWidgetItem *item = anim().tree.currentItem();
+            QVERIFY(item->isExpanded() && item->text(0).endsWith(QLatin1String("(7)")));
+            QCOMPARE(item->childCount(), 7);
+            QVERIFY(anim().undo().isClean());
+        }
+    }
+
+    void boneFlags()
+    {
+        m_actions->OnSkinMeshCopyBoneFlags();
+        QCOMPARE(QApplication::clipboard()->text(),
+                 QStringLiteral("BoneSFlags_0 0\nBoneSFlags_1 -71\nBoneSFlags_2 5\n"));
+    }
 
 private:
     Pane<SkinnedMesh> &mesh() const { return m_panes->mesh; }
@@ -87,270 +298,6 @@ private:
     std::unique_ptr<Panes> m_panes;
     StructureActions *m_actions = nullptr;
 };
-
-void tst_StructureActions::init()
-{
-    TestSupport::useSettingsHome(m_home);
-    Settings::HideAnimData.setValue(false);
-    m_panes.reset();
-    m_window = std::make_unique<QWidget>();
-    m_panes = std::make_unique<Panes>();
-    auto *layout = new QVBoxLayout(m_window.get());
-    for (KVTreeView *tree : {&mesh().tree, &anim().tree, &m_panes->rigid.tree})
-        layout->addWidget(tree);
-    m_actions = new StructureActions({mesh().document, &mesh().tree}, {anim().document, &anim().tree},
-                                     {m_panes->rigid.document, &m_panes->rigid.tree}, m_window.get());
-    SkinnedMesh model = SampleModels::skinnedMesh();
-    model.nodes[2].symbolFlags = 5;
-    mesh().open(model);
-    anim().open(animFile());
-    m_window->resize(500, 900);
-    m_window->show();
-    m_window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-}
-
-void tst_StructureActions::keys_data()
-{
-    QTest::addColumn<RecordRef>("copied"); // with Ctrl+C, before the rest
-    QTest::addColumn<RecordRef>("current");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("step");   // empty: nothing happens
-    QTest::addColumn<RecordRef>("next"); // what is current then
-    const auto add = [](const char *name, const RecordRef &copied, const RecordRef &current, const char *key,
-                        const char *step, const RecordRef &next) {
-        QTest::newRow(name) << copied << current << QString::fromLatin1(key) << QString::fromLatin1(step)
-                            << next;
-    };
-    const RecordRef nothing;
-    add("hot point, group", nothing, ref(K::HotPoints), "Ins", "Add Hot Point", ref(K::HotPoint, 0));
-    add("hot point, behind", nothing, ref(K::HotPoint, 1), "Ins", "Add Hot Point", ref(K::HotPoint, 2));
-    add("hot point, remove", nothing, ref(K::HotPoint, 0), "Del", "Remove Hot Point", ref(K::HotPoint, 0));
-    add("hot point, paste", ref(K::HotPoint, 1), ref(K::HotPoint, 0), "Ctrl+V", "Paste Hot Point",
-        ref(K::HotPoint, 1));
-    add("hot point, paste first", ref(K::HotPoint, 1), ref(K::HotPoints), "Ctrl+V", "Paste Hot Point",
-        ref(K::HotPoint, 0));
-    add("hot point, nothing copied", nothing, ref(K::HotPoint, 0), "Ctrl+V", "", ref(K::HotPoint, 0));
-    add("bone, remove", nothing, ref(K::Bone, 1), "Del", "", ref(K::Bone, 1));
-
-    add("block, root", nothing, ref(K::AnimFile), "Ins", "Add Animation", ref(K::AnimBlock, 0));
-    add("block, behind", nothing, ref(K::AnimBlock, 1), "Ins", "Add Animation", ref(K::AnimBlock, 2));
-    add("block, remove", nothing, ref(K::AnimBlock, 2), "Del", "Remove Animation", ref(K::AnimBlock, 1));
-    add("block, paste first", ref(K::AnimBlock, 2), ref(K::AnimFile), "Ctrl+V", "Paste Animation",
-        ref(K::AnimBlock, 0));
-    add("block, paste", ref(K::AnimBlock, 0), ref(K::AnimBlock, 2), "Ctrl+V", "Paste Animation",
-        ref(K::AnimBlock, 3));
-    add("block, on a frame", ref(K::AnimBlock, 0), ref(K::AnimFrame, 1, 2), "Ctrl+V", "",
-        ref(K::AnimFrame, 1, 2));
-    add("action, group", nothing, ref(K::AnimActions, 1), "Ins", "Add Key Frame Action",
-        ref(K::AnimAction, 1, 0));
-    add("action, behind", nothing, ref(K::AnimAction, 1, 1), "Ins", "Add Key Frame Action",
-        ref(K::AnimAction, 1, 2));
-    add("action, remove", nothing, ref(K::AnimAction, 2, 0), "Del", "Remove Key Frame Action",
-        ref(K::AnimAction, 2, 0));
-}
-
-void tst_StructureActions::keys()
-{
-    QFETCH(RecordRef, copied);
-    QFETCH(RecordRef, current);
-    QFETCH(QString, key);
-    QFETCH(QString, step);
-    QFETCH(RecordRef, next);
-    if (copied.kind != K::None)
-        QTest::keySequence(select(copied), QKeySequence::Copy);
-    KVTreeView *tree = select(current);
-    const QUndoStack &stack = isOfMesh(current) ? mesh().undo() : anim().undo();
-    const auto bytes = [&] { return isOfMesh(current) ? mesh().bytes() : anim().bytes(); };
-    const QByteArray before = bytes();
-    QTest::keySequence(tree, QKeySequence(key));
-    QCOMPARE(stack.undoText(), step);
-    QCOMPARE(stack.count(), step.isEmpty() ? 0 : 1);
-    QCOMPARE(tree->currentRecord(), next);
-    QCOMPARE(tree->selectedItems(), QList<QTreeWidgetItem *>{tree->currentItem()});
-    QCOMPARE(bytes() == before, step.isEmpty());
-}
-
-void tst_StructureActions::newBlocks()
-{
-    // As many bones as the first block, in its pose, and a frame.
-    select(ref(K::AnimFile));
-    m_actions->OnActionAddAnimBlock();
-    const AnimBlock added = anim().document.model().blocks[0];
-    QCOMPARE(added.nodes.size(), size_t(2));
-    QCOMPARE(added.nodes[1].initialPosition, QVector3D(1.0f, 2.0f, 3.0f));
-    QCOMPARE(int(added.nodes[1].translationIndex), 0xFFFF);
-    QCOMPARE(added.frameCount(), 1);
-
-    // Without a block as many as the mesh.
-    while (!anim().document.model().blocks.empty())
-        m_actions->OnActionRemoveAnimBlock();
-    QCOMPARE(anim().tree.currentRecord(), ref(K::AnimFile));
-    m_actions->OnActionAddAnimBlock();
-    QCOMPARE(anim().document.model().blocks[0].nodes.size(), mesh().document.model().nodes.size());
-}
-
-void tst_StructureActions::oneNoticeAStep()
-{
-    int notices = 0;
-    connect(&mesh().document, &Document::structuresChanged, this, [&notices] { ++notices; });
-    const QByteArray before = mesh().bytes();
-    mesh().tree.selectRecords({ref(K::HotPoint, 0), ref(K::HotPoint, 1)}, ref(K::HotPoint, 1));
-    m_actions->OnActionRemoveHotPoint();
-    QVERIFY(mesh().document.model().hotPoints.empty());
-    QCOMPARE(notices, 1);
-    QCOMPARE(mesh().undo().count(), 1);
-    mesh().undo().undo();
-    QCOMPARE(notices, 2);
-    QCOMPARE(mesh().bytes(), before);
-}
-
-void tst_StructureActions::copiesSurviveAnotherDocument()
-{
-    select(ref(K::AnimBlock, 1));
-    m_actions->OnActionCopyAnimBlock();
-    AnimFile other;
-    other.blocks.resize(1);
-    anim().open(other);
-    select(ref(K::AnimFile));
-    m_actions->OnActionPasteAnimBlock();
-    QCOMPARE(anim().document.model().blocks.size(), size_t(2));
-    QCOMPARE(anim().document.model().blocks[0].animId, 101);
-}
-
-void tst_StructureActions::openBranchesStayOpen()
-{
-    const auto open = [this] {
-        QStringList all;
-        for (QTreeWidgetItemIterator it(&anim().tree); *it; ++it) {
-            if ((*it)->isExpanded())
-                all << (*it)->data(0, Qt::UserRole).toStringList().mid(0, 2).join('-');
-        }
-        return all;
-    };
-    anim().tree.findItem(ref(K::AnimBlock, 0))->setExpanded(true);
-    anim().tree.findItem(ref(K::AnimBlock, 2))->setExpanded(true);
-    anim().tree.findItem(ref(K::Translations, 2))->setExpanded(true);
-    const QStringList before = open();
-    QCOMPARE(before, QStringList({"14-0", "15-0", "15-2", "21-2"}));
-    select(ref(K::AnimBlock, 0));
-    m_actions->OnActionAddAnimBlock();
-    QCOMPARE(open(), QStringList({"14-0", "15-0", "15-3", "21-3"}));
-    anim().undo().undo();
-    QCOMPARE(open(), before);
-    select(ref(K::AnimBlock, 0));
-    m_actions->OnActionRemoveAnimBlock();
-    QCOMPARE(open(), QStringList({"14-0", "15-1", "21-1"}));
-}
-
-void tst_StructureActions::menus_data()
-{
-    QTest::addColumn<RecordRef>("current");
-    QTest::addColumn<QStringList>("texts");
-    const QStringList branch{"&Expand All Below", "&Collapse All Below"};
-    QTest::newRow("bone") << ref(K::Bone, 1) << QStringList("Copy Bone Flags");
-    QTest::newRow("hot point") << ref(K::HotPoint, 1)
-                               << QStringList({"Add Hot Point", "Remove Hot Point", "Copy Hot Point",
-                                               "Paste Hot Point (off)"});
-    QTest::newRow("surface") << ref(K::SkinnedSurface, 0) << QStringList();
-    QTest::newRow("block") << ref(K::AnimBlock, 1)
-                           << QStringList({"Add Animation", "Remove Animation", "Copy Animation",
-                                           "Paste Animation (off)"}) +
-                                  branch;
-    QTest::newRow("rotations") << ref(K::Rotations, 1) << QStringList("Change Rotation Count…");
-}
-
-void tst_StructureActions::menus()
-{
-    QFETCH(RecordRef, current);
-    QFETCH(QStringList, texts);
-    QMenu *menu = openMenu(select(current));
-    QVERIFY(menu);
-    QStringList offered;
-    for (const QAction *action : menu->actions()) {
-        if (action->isVisible() && !action->isSeparator())
-            offered << action->text() + QLatin1String(action->isEnabled() ? "" : " (off)");
-    }
-    QCOMPARE(offered, texts + QStringList({"Undo (off)", "Redo (off)"}));
-    menu->close();
-}
-
-void tst_StructureActions::branches()
-{
-    KVTreeView *tree = select(ref(K::AnimBlock, 1));
-    const auto choose = [tree](const QString &text) {
-        QMenu *menu = openMenu(tree);
-        for (QAction *action : menu->actions()) {
-            if (action->text() == text)
-                action->trigger();
-        }
-        menu->close();
-    };
-    choose(QStringLiteral("&Expand All Below"));
-    QVERIFY(tree->findItem(ref(K::AnimBlock, 1))->isExpanded());
-    QVERIFY(tree->findItem(ref(K::TranslationTrack, 1, 0))->isExpanded());
-    QVERIFY(!tree->findItem(ref(K::AnimBlock, 0))->isExpanded());
-    choose(QStringLiteral("&Collapse All Below"));
-    QVERIFY(!tree->findItem(ref(K::AnimBlock, 1))->isExpanded());
-    QVERIFY(!tree->findItem(ref(K::TranslationTrack, 1, 0))->isExpanded());
-}
-
-void tst_StructureActions::counts_data()
-{
-    QTest::addColumn<RecordRef>("group");
-    QTest::addColumn<int>("least");
-    QTest::addColumn<int>("current");
-    QTest::newRow("frames") << ref(K::AnimFrames, 1) << 1 << 4;
-    QTest::newRow("translations") << ref(K::Translations, 1) << 0 << 1;
-    QTest::newRow("rotations") << ref(K::Rotations, 1) << 0 << 0;
-}
-
-void tst_StructureActions::counts()
-{
-    QFETCH(RecordRef, group);
-    QFETCH(int, least);
-    QFETCH(int, current);
-    AnimFile expected = animFile();
-    if (group.kind == K::AnimFrames)
-        expected.blocks[1].setFrameCount(7);
-    else if (group.kind == K::Translations)
-        expected.blocks[1].setTranslationCount(7);
-    else
-        expected.blocks[1].setRotationCount(7);
-
-    int notices = 0;
-    connect(&anim().document, &Document::structuresChanged, this, [&notices] { ++notices; });
-    for (const char *text : {"", "7"}) {
-        bool asked = false;
-        QTimer::singleShot(0, this, [&] {
-            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-            auto *box = dialog->findChild<QSpinBox *>(QStringLiteral("sbSize"));
-            asked = box->minimum() == least && box->maximum() == 65535 && box->value() == current;
-            // The number is selected: typing replaces it.
-            QTest::keyClicks(box, QLatin1String(text));
-            QTest::keyClick(box, Qt::Key_Return);
-        });
-        select(group);
-        QMenu *menu = openMenu(&anim().tree);
-        menu->setActiveAction(menu->actions().at(4));
-        QTest::keyClick(menu, Qt::Key_Return);
-        QVERIFY(asked);
-        QCOMPARE(notices, text[0] ? 1 : 0);
-    }
-    QCOMPARE(anim().bytes(), bytesOf(expected));
-    QCOMPARE(anim().tree.currentRecord(), group);
-    QVERIFY(anim().tree.currentItem()->isExpanded());
-    QVERIFY(anim().tree.currentItem()->text(0).endsWith(QLatin1String("(7)")));
-    QCOMPARE(anim().tree.currentItem()->childCount(), 7);
-    QVERIFY(anim().undo().isClean());
-}
-
-void tst_StructureActions::boneFlags()
-{
-    m_actions->OnSkinMeshCopyBoneFlags();
-    QCOMPARE(QApplication::clipboard()->text(),
-             QStringLiteral("BoneSFlags_0 0\nBoneSFlags_1 -71\nBoneSFlags_2 5\n"));
-}
 
 QTEST_MAIN(tst_StructureActions)
 #include "tst_structureactions.moc"

@@ -26,119 +26,104 @@ class tst_Tree : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void skinnedMesh();
-    void animation();
-    void everyItemIsFoundByItsRecord();
-    void changesAreSelected();
+    void init()
+    {
+        TestSupport::useSettingsHome(m_home);
+        m_mesh = SkinnedMesh();
+        m_mesh.nodes.resize(3);
+        m_mesh.nodes[0].childNodes = {2, 1};
+        m_mesh.nodes[1].symbolFlags = 0x46;
+        m_mesh.hotPoints.resize(1);
+        m_mesh.surfaces = {{QStringLiteral("m/a/b"), {0, 2, 1}}};
+        m_mesh.vertices.resize(4);
+    }
+
+    void skinnedMesh()
+    {
+        for (const bool hidden : {true, false}) {
+            Settings::HideMeshData.setValue(hidden);
+            MeshPane pane;
+            const QString path = m_home.filePath(QStringLiteral("a.b.skinnedmesh"));
+            QVERIFY(!m_mesh.write(path));
+            pane.openFile(path);
+            const KVTreeView &tree = pane.tree;
+            QCOMPARE(tree.topLevelItemCount(), 1);
+            const QTreeWidgetItem *root = tree.topLevelItem(0);
+            QCOMPARE(root->text(0), QStringLiteral("a.b.skinnedmesh"));
+            QVERIFY(root->isExpanded());
+            QCOMPARE(tree.currentItem(), root);
+            QCOMPARE(texts(root),
+                     QStringList({"Bones (3)", "Hot Points (1)", "Surfaces (1)", "Vertices (4)"}));
+            QCOMPARE(texts(root->child(0)),
+                     QStringList({"0: Left Root", "1: Right Upper Arm", "2: Left Root"}));
+            const QTreeWidgetItem *bone = root->child(0)->child(0);
+            const QTreeWidgetItem *surface = root->child(2)->child(0);
+            if (hidden) {
+                QCOMPARE(bone->childCount() + surface->childCount() + root->child(3)->childCount(), 0);
+                // What has no item leads to the deepest that has.
+                QCOMPARE(tree.findItem({RecordKind::SkinnedVertex, {3}}), root->child(3));
+            } else {
+                QCOMPARE(texts(bone), QStringList("Child Bone Indexes (2)"));
+                QCOMPARE(texts(bone->child(0)), QStringList({"2", "1"}));
+                QCOMPARE(texts(surface->child(0)), QStringList({"0", "2", "1"}));
+                QCOMPARE(root->child(3)->childCount(), 4);
+                for (QTreeWidgetItemIterator it(&pane.tree); *it; ++it)
+                    QCOMPARE(tree.findItem(static_cast<RecordItem *>(*it)->record()), *it);
+            }
+        }
+    }
+
+    void animation()
+    {
+        AnimFile file;
+        file.blocks.resize(2);
+        file.blocks[1].nodes.resize(2);
+        file.blocks[1].setTranslationCount(2);
+        file.blocks[1].setRotationCount(1);
+        file.blocks[1].setFrameCount(3);
+        file.blocks[1].actions.resize(2);
+        for (const bool hidden : {true, false}) {
+            Settings::HideAnimData.setValue(hidden);
+            Pane<AnimFile> pane(DocumentType::Anim, RecordKind::AnimFile);
+            pane.open(file);
+            const QTreeWidgetItem *root = pane.tree.topLevelItem(0);
+            QCOMPARE(texts(root), QStringList({"Anim 0", "Anim 1"}));
+            const QTreeWidgetItem *block = root->child(1);
+            QCOMPARE(texts(block), QStringList({"Bones (2)", "Frames (3)", "Translations (2)",
+                                                "Rotations (1)", "Key Frame Actions (2)"}));
+            QCOMPARE(block->child(0)->childCount(), hidden ? 0 : 2);
+            QCOMPARE(block->child(4)->childCount(), 2);
+            if (!hidden)
+                QCOMPARE(texts(block->child(1)), QStringList({"Frame 0", "Frame 1", "Frame 2"}));
+        }
+    }
+
+    void changesAreSelected()
+    {
+        Settings::HideMeshData.setValue(false);
+        MeshPane pane;
+        pane.open(m_mesh);
+        const QVector<RecordRef> vertices{{RecordKind::SkinnedVertex, {0}},
+                                          {RecordKind::SkinnedVertex, {1}},
+                                          {RecordKind::SkinnedVertex, {3}}};
+        pane.select(vertices);
+        int shown = 0;
+        connect(&pane.tree, &KVTreeView::currentRecordChanged, this, [&shown] { ++shown; });
+        emit pane.document.recordsChanged(vertices);
+        QCOMPARE(pane.tree.selectedRecords(RecordKind::SkinnedVertex), QVector<RecordIndex>({{0}, {1}, {3}}));
+        QCOMPARE(pane.tree.currentRecord(), vertices.first());
+        QCOMPARE(shown, 1);
+
+        emit pane.document.recordsChanged({{RecordKind::Bone, {2}}, {RecordKind::Bone, {1}}});
+        QCOMPARE(pane.tree.selectedRecords(RecordKind::Bone), QVector<RecordIndex>({{1}, {2}}));
+        // The one that single steps would have ended with.
+        QCOMPARE(pane.tree.currentRecord(), (RecordRef{RecordKind::Bone, {1}}));
+    }
 
 private:
     QTemporaryDir m_home;
     SkinnedMesh m_mesh;
 };
-
-void tst_Tree::init()
-{
-    TestSupport::useSettingsHome(m_home);
-    m_mesh = SkinnedMesh();
-    m_mesh.nodes.resize(3);
-    m_mesh.nodes[0].childNodes = {2, 1};
-    m_mesh.nodes[1].symbolFlags = 0x46;
-    m_mesh.hotPoints.resize(1);
-    m_mesh.surfaces = {{QStringLiteral("m/a/b"), {0, 2, 1}}};
-    m_mesh.vertices.resize(4);
-}
-
-void tst_Tree::skinnedMesh()
-{
-    for (const bool hidden : {true, false}) {
-        Settings::HideMeshData.setValue(hidden);
-        MeshPane pane;
-        const QString path = m_home.filePath(QStringLiteral("a.b.skinnedmesh"));
-        QVERIFY(!m_mesh.write(path));
-        pane.openFile(path);
-        const KVTreeView &tree = pane.tree;
-        QCOMPARE(tree.topLevelItemCount(), 1);
-        const QTreeWidgetItem *root = tree.topLevelItem(0);
-        QCOMPARE(root->text(0), QStringLiteral("a.b.skinnedmesh"));
-        QVERIFY(root->isExpanded());
-        QCOMPARE(tree.currentItem(), root);
-        QCOMPARE(texts(root), QStringList({"Bones (3)", "Hot Points (1)", "Surfaces (1)", "Vertices (4)"}));
-        QCOMPARE(texts(root->child(0)), QStringList({"0: Left Root", "1: Right Upper Arm", "2: Left Root"}));
-        const QTreeWidgetItem *bone = root->child(0)->child(0);
-        const QTreeWidgetItem *surface = root->child(2)->child(0);
-        if (hidden) {
-            QCOMPARE(bone->childCount() + surface->childCount() + root->child(3)->childCount(), 0);
-            // What has no item leads to the deepest that has.
-            QCOMPARE(tree.findItem({RecordKind::SkinnedVertex, {3}}), root->child(3));
-        } else {
-            QCOMPARE(texts(bone), QStringList("Child Bone Indexes (2)"));
-            QCOMPARE(texts(bone->child(0)), QStringList({"2", "1"}));
-            QCOMPARE(texts(surface->child(0)), QStringList({"0", "2", "1"}));
-            QCOMPARE(root->child(3)->childCount(), 4);
-        }
-    }
-}
-
-void tst_Tree::animation()
-{
-    AnimFile file;
-    file.blocks.resize(2);
-    file.blocks[1].nodes.resize(2);
-    file.blocks[1].setTranslationCount(2);
-    file.blocks[1].setRotationCount(1);
-    file.blocks[1].setFrameCount(3);
-    file.blocks[1].actions.resize(2);
-    for (const bool hidden : {true, false}) {
-        Settings::HideAnimData.setValue(hidden);
-        Pane<AnimFile> pane(DocumentType::Anim, RecordKind::AnimFile);
-        pane.open(file);
-        const QTreeWidgetItem *root = pane.tree.topLevelItem(0);
-        QCOMPARE(texts(root), QStringList({"Anim 0", "Anim 1"}));
-        const QTreeWidgetItem *block = root->child(1);
-        QCOMPARE(texts(block), QStringList({"Bones (2)", "Frames (3)", "Translations (2)", "Rotations (1)",
-                                            "Key Frame Actions (2)"}));
-        QCOMPARE(block->child(0)->childCount(), hidden ? 0 : 2);
-        QCOMPARE(block->child(4)->childCount(), 2);
-        if (!hidden)
-            QCOMPARE(texts(block->child(1)), QStringList({"Frame 0", "Frame 1", "Frame 2"}));
-    }
-}
-
-void tst_Tree::everyItemIsFoundByItsRecord()
-{
-    Settings::HideMeshData.setValue(false);
-    MeshPane pane;
-    pane.open(m_mesh);
-    int count = 0;
-    for (QTreeWidgetItemIterator it(&pane.tree); *it; ++it, ++count)
-        QCOMPARE(pane.tree.findItem(static_cast<RecordItem *>(*it)->record()), *it);
-    QCOMPARE(count, 1 + 4 + 3 + 3 + 2 + 1 + 1 + 1 + 3 + 4);
-    // The numbers that stand for a record in an item.
-    const QTreeWidgetItem *bone = pane.tree.findItem({RecordKind::Bone, {0}});
-    QCOMPARE(bone->child(0)->child(1)->data(0, Qt::UserRole).toList(), QVariantList({2, 0, 1, 0}));
-}
-
-void tst_Tree::changesAreSelected()
-{
-    Settings::HideMeshData.setValue(false);
-    MeshPane pane;
-    pane.open(m_mesh);
-    const QVector<RecordRef> vertices{
-        {RecordKind::SkinnedVertex, {0}}, {RecordKind::SkinnedVertex, {1}}, {RecordKind::SkinnedVertex, {3}}};
-    pane.select(vertices);
-    int shown = 0;
-    connect(&pane.tree, &KVTreeView::currentRecordChanged, this, [&shown] { ++shown; });
-    emit pane.document.recordsChanged(vertices);
-    QCOMPARE(pane.tree.selectedRecords(RecordKind::SkinnedVertex), QVector<RecordIndex>({{0}, {1}, {3}}));
-    QCOMPARE(pane.tree.currentRecord(), vertices.first());
-    QCOMPARE(shown, 1);
-
-    emit pane.document.recordsChanged({{RecordKind::Bone, {2}}, {RecordKind::Bone, {1}}});
-    QCOMPARE(pane.tree.selectedRecords(RecordKind::Bone), QVector<RecordIndex>({{1}, {2}}));
-    // The one that single steps would have ended with.
-    QCOMPARE(pane.tree.currentRecord(), (RecordRef{RecordKind::Bone, {1}}));
-}
 
 QTEST_MAIN(tst_Tree)
 #include "tst_tree.moc"

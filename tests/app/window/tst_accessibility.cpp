@@ -8,55 +8,51 @@ class tst_Accessibility : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { useFolder(m_home); }
-    void everythingHasANameAndItsLetter();
-    void everyDialogIsUsableByKeyboard();
+    void everythingHasANameAndItsLetter()
+    {
+        EveryWindow windows(m_home.path());
+        QStringList faults;
+        for (const QWidget *window : windows.all())
+            faults << EveryWidget::withoutName(*window);
+        checkNone(faults);
+        checkNone(windows.mnemonicClashes());
+    }
+
+    void everyDialogIsUsableByKeyboard()
+    {
+        EveryWindow windows(m_home.path());
+        QStringList faults;
+        for (QWidget *window : windows.all()) {
+            auto *dialog = qobject_cast<QDialog *>(window);
+            if (!dialog)
+                continue;
+            dialog->show();
+            QApplication::setActiveWindow(dialog);
+
+            // Tab goes round, through everything that takes the focus and can be seen.
+            QSet<QWidget *> expected;
+            for (QWidget *widget : dialog->findChildren<QWidget *>()) {
+                if (widget->isVisible() && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus) &&
+                    EveryWidget::isInteractive(widget))
+                    expected << widget;
+            }
+            for (int i = 0; i < 3 * expected.size() + 20 && !expected.isEmpty(); ++i) {
+                if (QWidget *focus = dialog->focusWidget())
+                    expected.remove(focus);
+                QTest::keyClick(dialog->focusWidget() ? dialog->focusWidget() : dialog, Qt::Key_Tab);
+            }
+            for (const QWidget *widget : qAsConst(expected))
+                faults << EveryWidget::describe(widget);
+
+            QTest::keyClick(dialog, Qt::Key_Escape);
+            QVERIFY2(!dialog->isVisible(), dialog->metaObject()->className());
+        }
+        checkNone(faults);
+    }
 
 private:
-    QTemporaryDir m_home;
+    const ProgramFolder m_home;
 };
-
-void tst_Accessibility::everythingHasANameAndItsLetter()
-{
-    EveryWindow windows(m_home.path());
-    QStringList faults;
-    for (const QWidget *window : windows.all())
-        faults << EveryWidget::withoutName(*window);
-    checkNone(faults);
-    checkNone(windows.mnemonicClashes());
-}
-
-void tst_Accessibility::everyDialogIsUsableByKeyboard()
-{
-    EveryWindow windows(m_home.path());
-    QStringList faults;
-    for (QWidget *window : windows.all()) {
-        auto *dialog = qobject_cast<QDialog *>(window);
-        if (!dialog)
-            continue;
-        dialog->show();
-        QApplication::setActiveWindow(dialog);
-
-        // Tab goes round, through everything that takes the focus and can be seen.
-        QSet<QWidget *> expected;
-        for (QWidget *widget : dialog->findChildren<QWidget *>()) {
-            if (widget->isVisible() && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus) &&
-                EveryWidget::isInteractive(widget))
-                expected << widget;
-        }
-        for (int i = 0; i < 3 * expected.size() + 20 && !expected.isEmpty(); ++i) {
-            if (QWidget *focus = dialog->focusWidget())
-                expected.remove(focus);
-            QTest::keyClick(dialog->focusWidget() ? dialog->focusWidget() : dialog, Qt::Key_Tab);
-        }
-        for (const QWidget *widget : qAsConst(expected))
-            faults << EveryWidget::describe(widget);
-
-        QTest::keyClick(dialog, Qt::Key_Escape);
-        QVERIFY2(!dialog->isVisible(), dialog->metaObject()->className());
-    }
-    checkNone(faults);
-}
 
 QTEST_MAIN(tst_Accessibility)
 #include "tst_accessibility.moc"

@@ -1,31 +1,12 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "CommandPalette.h"
-#include "Find.h"
 #include "Hand.h"
-#include "KVTreeView.h"
-#include "MainWindow.h"
 #include "NameTables.h"
 #include "Playback.h"
 #include "RecentFiles.h"
 #include "SampleModels.h"
 #include "TrackSlider.h"
-
-#include <QAction>
-#include <QComboBox>
-#include <QDockWidget>
-#include <QDoubleSpinBox>
-#include <QHelpEvent>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMenu>
-#include <QSpinBox>
-#include <QTabWidget>
-#include <QToolButton>
-#include <QToolTip>
-#include <QTreeWidget>
-#include <QUndoGroup>
-#include <QUndoView>
 
 /// What a window that is open all day offers beside its documents.
 class tst_Everyday : public QObject
@@ -33,13 +14,216 @@ class tst_Everyday : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void commandsAreFoundByTheirName();
-    void thePaletteDoesWhatIsChosen();
-    void recentFilesAreOpenedAgain();
-    void theKeyGoesToTheFilterOfTheTree();
-    void historyShowsWhatWasSaved();
-    void theTrackIsSteppedAndMarked();
+    void init() { m_files.emplace(); }
+    void commandsAreFoundByTheirName()
+    {
+        // What is typed, what fits it, and what fits it worse; without that the first does not fit at all.
+        const char *const all[][3] = {
+            {"save", "File ▸ Save", "View ▸ Sampled Average"},   // together before apart
+            {"sa", "File ▸ Save All", "Tools ▸ Increase Gamma"}, // the beginnings of words
+            {"FI sa", "File ▸ Save", "Off ▸ Lists ▸ Data"},      // in any case, blanks between words
+            {"ave as", "File ▸ Save As", "File ▸ Average Xs"},   // a word's middle before its beginning
+            {"evas", "File ▸ Save", nullptr},
+            {"Save As Well", "File ▸ Save As", nullptr},
+        };
+        const auto fit = [](const char *typed, const char *command) {
+            return CommandPalette::fit(QString::fromUtf8(typed), QString::fromUtf8(command));
+        };
+        for (const auto &[typed, better, worse] : all) {
+            QVERIFY2(worse ? fit(typed, better) > fit(typed, worse) : fit(typed, better) < 0, typed);
+            QVERIFY2(fit("", better) >= 0, better);
+        }
+    }
+
+    void thePaletteDoesWhatIsChosen()
+    {
+        ShownWindow window;
+        auto *history = find<QDockWidget>(window, "dockHistory");
+        QVERIFY(!history->isVisible());
+        const auto choose = [](const QString &typed) {
+            return [typed](QDialog *dialog) {
+                auto *line = dialog->findChild<QLineEdit *>();
+                QTest::keyClicks(line, typed);
+                QTest::keyClick(line, Qt::Key_Return);
+            };
+        };
+        // What cannot be done now is listed, but not done. Each command is told from all others, one of the
+        // View menu even without its menu.
+        const Hand hand({[](QDialog *dialog) {
+                             QStringList names, commands;
+                             auto *list = dialog->findChild<QListWidget *>();
+                             for (int row = 0; row < list->count(); ++row) {
+                                 names << list->item(row)->text();
+                                 commands << names.last().section(QStringLiteral("▸"), -1);
+                             }
+                             QCOMPARE(QStringList(names).removeDuplicates(), 0);
+                             const QStringList ofView = names.filter(QStringLiteral("View ▸"));
+                             QVERIFY(ofView.size() > 20);
+                             for (const QString &name : ofView)
+                                 QVERIFY2(commands.count(name.section(QStringLiteral("▸"), -1)) == 1,
+                                          qPrintable(name));
+                             auto *line = dialog->findChild<QLineEdit *>();
+                             QTest::keyClicks(line, QStringLiteral("rotate"));
+                             QVERIFY(list->count() > 0);
+                             QTest::keyClick(line, Qt::Key_Return);
+                             QVERIFY(dialog->isVisible());
+                             QTest::keyClick(line, Qt::Key_Escape);
+                         },
+                         choose(QStringLiteral("history")), choose(QStringLiteral("timeline loop"))});
+        QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+        QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+        QTRY_VERIFY(history->isVisible());
+        // Of no menu.
+        const auto *loop = find<QToolButton>(window, "btnAnimTrackLoop");
+        const bool loops = loop->isChecked();
+        find<QAction>(window, "actionCommands")->trigger();
+        QTRY_COMPARE(loop->isChecked(), !loops);
+        QCOMPARE(hand.seen.size(), 3);
+    }
+
+    void recentFilesAreOpenedAgain()
+    {
+        QStringList paths;
+        for (int i = 0; i <= RecentFiles::Limit; ++i)
+            paths << write(QStringLiteral("r&d %1.skinnedmesh").arg(i));
+        {
+            MainWindow window;
+            QMenu *menu = find<QMenu>(window, "menuRecent");
+            QCOMPARE(filled(menu).size(), 1);
+            QVERIFY(!filled(menu).first()->isEnabled());
+            for (const QString &path : qAsConst(paths))
+                window.openFiles({path});
+            window.openFiles({paths[4]});
+        }
+        QVERIFY(QFile::remove(paths.last()));
+        MainWindow window;
+        const QList<QAction *> actions = filled(find<QMenu>(window, "menuRecent"));
+        // A heading, the files, a line, the command that clears the list.
+        QCOMPARE(actions.size(), RecentFiles::Limit + 3);
+        QCOMPARE(actions[1]->toolTip(), QDir::toNativeSeparators(paths[4]));
+        QCOMPARE(actions[2]->toolTip(), QDir::toNativeSeparators(paths.last()));
+        QVERIFY(actions[1]->text().endsWith(QStringLiteral("r&&d 4.skinnedmesh")));
+        QVERIFY(!actions[2]->isEnabled());
+        actions[3]->trigger();
+        QCOMPARE(find<QTreeWidget>(window, "treeSkinnedMesh")->topLevelItem(0)->text(0),
+                 QFileInfo(paths[RecentFiles::Limit - 1]).fileName());
+        // Each kind has its own list.
+        const QString anim = m_files->save("r.anim", twoBlocks());
+        const QString rigid = m_files->save("r.staticmesh", SampleModels::plainStatic());
+        window.openFiles({anim, rigid});
+        QCOMPARE(Settings::AnimationRecentFiles.value(), QStringList(anim));
+        QCOMPARE(Settings::StaticMeshRecentFiles.value(), QStringList(rigid));
+        QCOMPARE(filled(find<QMenu>(window, "menuRecent")).size(), actions.size() + 4);
+        filled(find<QMenu>(window, "menuRecent")).last()->trigger();
+        QCOMPARE(filled(find<QMenu>(window, "menuRecent")).size(), 1);
+    }
+
+    void theKeyGoesToTheFilterOfTheTree()
+    {
+        ShownWindow window({write("a.skinnedmesh"), m_files->save("a.anim", twoBlocks())});
+        for (const char *name : {"treeSkinnedMesh", "treeAnim"}) {
+            auto *tree = find<KVTreeView>(window, name);
+            tree->setFocus();
+            QTest::keyClick(tree, Qt::Key_F, Qt::ControlModifier);
+            auto *line = find<QLineEdit>(window, (QByteArray(name) + "Filter").constData());
+            QCOMPARE(QApplication::focusWidget(), line);
+            QTest::keyClick(line, Qt::Key_Escape);
+            QCOMPARE(QApplication::focusWidget(), tree);
+            find<QTabWidget>(window, "tabTrees")->setCurrentIndex(1);
+        }
+    }
+
+    void historyShowsWhatWasSaved()
+    {
+        ShownWindow window({write(QStringLiteral("a.skinnedmesh"))});
+        auto *view = find<QUndoView>(window, "viewHistory");
+        QCOMPARE(view->model()->rowCount(), 1);
+        auto *factor = find<QSpinBox>(window, "sbSMHTFactor");
+        factor->setValue(3);
+        factor->setValue(5);
+        QVERIFY(view->model()->rowCount() > 1);
+        find<QAction>(window, "actionSave")->trigger();
+        const QModelIndex last = view->model()->index(view->model()->rowCount() - 1, 0);
+        QVERIFY(!last.data(Qt::DecorationRole).isNull());
+        QUndoStack *stack = view->group()->activeStack();
+        find<QDockWidget>(window, "dockHistory")->show();
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
+                          view->visualRect(view->model()->index(0, 0)).center());
+        QTRY_COMPARE(stack->index(), 0);
+        QVERIFY(factor->value() != 5);
+        // What is done before the view's turn comes is not taken back.
+        stack->redo();
+        stack->redo();
+        stack->undo();
+        const int index = stack->index();
+        QTest::qWait(10);
+        QCOMPARE(stack->index(), index);
+        QCOMPARE(view->currentIndex().row(), index);
+    }
+
+    void theTrackIsSteppedAndMarked()
+    {
+        AnimFile file = twoBlocks();
+        file.blocks[0].actions.resize(4);
+        const int frames[] = {7, 2, 7, 50};
+        for (size_t i = 0; i < 4; ++i)
+            file.blocks[0].actions[i].frame = quint16(frames[i]);
+        file.blocks[0].actions[1].eventType = 30;
+        file.blocks[0].animId = 100;
+        Settings::AnimationAutoPlay.setValue(false);
+        ShownWindow window({write("a.skinnedmesh"), m_files->save("a.anim", file)});
+        auto *slider = find<TrackSlider>(window, "sliderAnimTrack");
+        auto *view = find<QWidget>(window, "viewSkinned");
+        view->setFocus();
+
+        const auto press = [&](char key) { QTest::keyClick(view, key); };
+        press(']');
+        QCOMPARE(slider->value(), 2);
+        QCOMPARE(playback().playState, PlayState::Paused);
+        QCOMPARE(playback().time, 0.2f);
+        press(']');
+        press('.');
+        QCOMPARE(slider->value(), 8);
+        press(']');
+        QCOMPARE(slider->value(), 8);
+        press(',');
+        press('[');
+        QCOMPARE(slider->value(), 2);
+        press(' ');
+        QCOMPARE(playback().playState, PlayState::Playing);
+        press(' ');
+        QCOMPARE(playback().playState, PlayState::Paused);
+
+        auto *speed = find<QDoubleSpinBox>(window, "sbAnimTrackSpeed");
+        speed->selectAll();
+        QTest::keyClicks(speed, QStringLiteral("2.5\r"));
+        Playback state = playback();
+        state.playState = PlayState::Playing;
+        state.time = 0.0f;
+        advanceClock(state, 0.1f);
+        QCOMPARE(state.time, 0.25f);
+
+        auto *tree = find<KVTreeView>(window, "treeAnim");
+        // One action of the frame, the other one, and round again.
+        for (const int action : {0, 2, 0}) {
+            QTest::mouseDClick(slider, Qt::LeftButton, {}, {slider->xOf(7), slider->height() / 2});
+            QCOMPARE(tree->currentRecord(), (RecordRef{RecordKind::AnimAction, {0, action}}));
+        }
+        const QPoint mark(slider->xOf(2), slider->height() / 2);
+        QHelpEvent help(QEvent::ToolTip, mark, slider->mapToGlobal(mark));
+        QApplication::sendEvent(slider, &help);
+        QVERIFY2(QToolTip::text().startsWith(QString("Frame 2\nAction 1: ") + eventTypeNames().value(30)),
+                 qPrintable(QToolTip::text()));
+
+        auto *blocks = find<QComboBox>(window, "cbAnimTrackBlock");
+        QCOMPARE(blocks->count(), 2);
+        QCOMPARE(blocks->itemText(0), QStringLiteral("0: Unnamed animation 100"));
+        blocks->setFocus();
+        QTest::keyClick(blocks, Qt::Key_Down);
+        QCOMPARE(tree->currentRecord(), (RecordRef{RecordKind::AnimBlock, {1}}));
+        QCOMPARE(playback().blockIndex, 1);
+        QVERIFY(!find<QToolButton>(window, "btnAnimTrackMarkBack")->isEnabled());
+    }
 
 private:
     /// The actions of a menu as it comes up.
@@ -48,227 +232,10 @@ private:
         emit menu->aboutToShow();
         return menu->actions();
     }
-    QString write(const QString &name)
-    {
-        const QString path = m_files->filePath(name);
-        return triangleMan().write(path) ? QString() : path;
-    }
+    QString write(const QString &name) { return m_files->save(name, triangleMan()); }
 
-    std::unique_ptr<QTemporaryDir> m_files;
+    std::optional<ProgramFolder> m_files;
 };
-
-void tst_Everyday::init()
-{
-    m_files = std::make_unique<QTemporaryDir>();
-    useFolder(*m_files);
-}
-
-void tst_Everyday::commandsAreFoundByTheirName()
-{
-    // What is typed, what fits it, and what fits it worse; without that the first does not fit at all.
-    const char *const all[][3] = {
-        {"save", "File ▸ Save", "View ▸ Sampled Average"},   // together before apart
-        {"sa", "File ▸ Save All", "Tools ▸ Increase Gamma"}, // the beginnings of words
-        {"FI sa", "File ▸ Save", "Off ▸ Lists ▸ Data"},      // in any case, blanks between words
-        {"ave as", "File ▸ Save As", "File ▸ Average Xs"},   // a word's middle before its beginning
-        {"evas", "File ▸ Save", nullptr},
-        {"Save As Well", "File ▸ Save As", nullptr},
-    };
-    const auto fit = [](const char *typed, const char *command) {
-        return CommandPalette::fit(QString::fromUtf8(typed), QString::fromUtf8(command));
-    };
-    for (const auto &[typed, better, worse] : all) {
-        QVERIFY2(worse ? fit(typed, better) > fit(typed, worse) : fit(typed, better) < 0, typed);
-        QVERIFY2(fit("", better) >= 0, better);
-    }
-}
-
-void tst_Everyday::thePaletteDoesWhatIsChosen()
-{
-    ShownWindow window;
-    auto *history = find<QDockWidget>(window, "dockHistory");
-    QVERIFY(!history->isVisible());
-    const auto choose = [](const QString &typed) {
-        return [typed](QDialog *dialog) {
-            auto *line = dialog->findChild<QLineEdit *>();
-            QTest::keyClicks(line, typed);
-            QTest::keyClick(line, Qt::Key_Return);
-        };
-    };
-    // What cannot be done now is listed, but not done. Each command is told from all others.
-    const Hand hand({[](QDialog *dialog) {
-                         QSet<QString> names;
-                         auto *list = dialog->findChild<QListWidget *>();
-                         for (int row = 0; row < list->count(); ++row)
-                             names.insert(list->item(row)->text());
-                         QCOMPARE(names.size(), list->count());
-                         auto *line = dialog->findChild<QLineEdit *>();
-                         QTest::keyClicks(line, QStringLiteral("rotate"));
-                         QVERIFY(list->count() > 0);
-                         QTest::keyClick(line, Qt::Key_Return);
-                         QVERIFY(dialog->isVisible());
-                         QTest::keyClick(line, Qt::Key_Escape);
-                     },
-                     choose(QStringLiteral("history")), choose(QStringLiteral("timeline loop"))});
-    QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
-    QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
-    QTRY_VERIFY(history->isVisible());
-    // Of no menu.
-    const auto *loop = find<QToolButton>(window, "btnAnimTrackLoop");
-    const bool loops = loop->isChecked();
-    find<QAction>(window, "actionCommands")->trigger();
-    QTRY_COMPARE(loop->isChecked(), !loops);
-    QCOMPARE(hand.seen.size(), 3);
-}
-
-void tst_Everyday::recentFilesAreOpenedAgain()
-{
-    QStringList paths;
-    for (int i = 0; i <= RecentFiles::Limit; ++i)
-        paths << write(QStringLiteral("r&d %1.skinnedmesh").arg(i));
-    {
-        MainWindow window;
-        QMenu *menu = find<QMenu>(window, "menuRecent");
-        QCOMPARE(filled(menu).size(), 1);
-        QVERIFY(!filled(menu).first()->isEnabled());
-        for (const QString &path : qAsConst(paths))
-            window.openFiles({path});
-        window.openFiles({paths[4]});
-    }
-    QVERIFY(QFile::remove(paths.last()));
-    MainWindow window;
-    const QList<QAction *> actions = filled(find<QMenu>(window, "menuRecent"));
-    // A heading, the files, a line, the command that clears the list.
-    QCOMPARE(actions.size(), RecentFiles::Limit + 3);
-    QCOMPARE(actions[1]->toolTip(), QDir::toNativeSeparators(paths[4]));
-    QCOMPARE(actions[2]->toolTip(), QDir::toNativeSeparators(paths.last()));
-    QVERIFY(actions[1]->text().endsWith(QStringLiteral("r&&d 4.skinnedmesh")));
-    QVERIFY(!actions[2]->isEnabled());
-    actions[3]->trigger();
-    QCOMPARE(find<QTreeWidget>(window, "treeSkinnedMesh")->topLevelItem(0)->text(0),
-             QFileInfo(paths[RecentFiles::Limit - 1]).fileName());
-    // Each kind has its own list.
-    const QString anim = m_files->filePath(QStringLiteral("r.anim"));
-    const QString rigid = m_files->filePath(QStringLiteral("r.staticmesh"));
-    QVERIFY(!twoBlocks().write(anim) && !SampleModels::plainStatic().write(rigid));
-    window.openFiles({anim, rigid});
-    QCOMPARE(Settings::AnimationRecentFiles.value(), QStringList(anim));
-    QCOMPARE(Settings::StaticMeshRecentFiles.value(), QStringList(rigid));
-    QCOMPARE(filled(find<QMenu>(window, "menuRecent")).size(), actions.size() + 4);
-    filled(find<QMenu>(window, "menuRecent")).last()->trigger();
-    QCOMPARE(filled(find<QMenu>(window, "menuRecent")).size(), 1);
-}
-
-void tst_Everyday::theKeyGoesToTheFilterOfTheTree()
-{
-    const QString anim = m_files->filePath(QStringLiteral("a.anim"));
-    QVERIFY(!twoBlocks().write(anim));
-    ShownWindow window({write(QStringLiteral("a.skinnedmesh")), anim});
-    for (const char *name : {"treeSkinnedMesh", "treeAnim"}) {
-        auto *tree = find<KVTreeView>(window, name);
-        tree->setFocus();
-        QTest::keyClick(tree, Qt::Key_F, Qt::ControlModifier);
-        auto *line = find<QLineEdit>(window, (QByteArray(name) + "Filter").constData());
-        QCOMPARE(QApplication::focusWidget(), line);
-        QTest::keyClick(line, Qt::Key_Escape);
-        QCOMPARE(QApplication::focusWidget(), tree);
-        find<QTabWidget>(window, "tabTrees")->setCurrentIndex(1);
-    }
-}
-
-void tst_Everyday::historyShowsWhatWasSaved()
-{
-    ShownWindow window({write(QStringLiteral("a.skinnedmesh"))});
-    auto *view = find<QUndoView>(window, "viewHistory");
-    QCOMPARE(view->model()->rowCount(), 1);
-    auto *factor = find<QSpinBox>(window, "sbSMHTFactor");
-    factor->setValue(3);
-    factor->setValue(5);
-    QVERIFY(view->model()->rowCount() > 1);
-    find<QAction>(window, "actionSave")->trigger();
-    const QModelIndex last = view->model()->index(view->model()->rowCount() - 1, 0);
-    QVERIFY(!last.data(Qt::DecorationRole).isNull());
-    QUndoStack *stack = view->group()->activeStack();
-    find<QDockWidget>(window, "dockHistory")->show();
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
-                      view->visualRect(view->model()->index(0, 0)).center());
-    QTRY_COMPARE(stack->index(), 0);
-    QVERIFY(factor->value() != 5);
-    // What is done before the view's turn comes is not taken back.
-    stack->redo();
-    stack->redo();
-    stack->undo();
-    const int index = stack->index();
-    QTest::qWait(10);
-    QCOMPARE(stack->index(), index);
-    QCOMPARE(view->currentIndex().row(), index);
-}
-
-void tst_Everyday::theTrackIsSteppedAndMarked()
-{
-    AnimFile file = twoBlocks();
-    file.blocks[0].actions.resize(4);
-    const int frames[] = {7, 2, 7, 50};
-    for (size_t i = 0; i < 4; ++i)
-        file.blocks[0].actions[i].frame = quint16(frames[i]);
-    file.blocks[0].actions[1].eventType = 30;
-    file.blocks[0].animId = 100;
-    const QString anim = m_files->filePath(QStringLiteral("a.anim"));
-    QVERIFY(!file.write(anim));
-    Settings::AnimationAutoPlay.setValue(false);
-    ShownWindow window({write(QStringLiteral("a.skinnedmesh")), anim});
-    auto *slider = find<TrackSlider>(window, "sliderAnimTrack");
-    auto *view = find<QWidget>(window, "viewSkinned");
-    view->setFocus();
-
-    const auto press = [&](char key) { QTest::keyClick(view, key); };
-    press(']');
-    QCOMPARE(slider->value(), 2);
-    QCOMPARE(playback().playState, PlayState::Paused);
-    QCOMPARE(playback().time, 0.2f);
-    press(']');
-    press('.');
-    QCOMPARE(slider->value(), 8);
-    press(']');
-    QCOMPARE(slider->value(), 8);
-    press(',');
-    press('[');
-    QCOMPARE(slider->value(), 2);
-    press(' ');
-    QCOMPARE(playback().playState, PlayState::Playing);
-    press(' ');
-    QCOMPARE(playback().playState, PlayState::Paused);
-
-    auto *speed = find<QDoubleSpinBox>(window, "sbAnimTrackSpeed");
-    speed->selectAll();
-    QTest::keyClicks(speed, QStringLiteral("2.5\r"));
-    Playback state = playback();
-    state.playState = PlayState::Playing;
-    state.time = 0.0f;
-    advanceClock(state, 0.1f);
-    QCOMPARE(state.time, 0.25f);
-
-    auto *tree = find<KVTreeView>(window, "treeAnim");
-    // One action of the frame, the other one, and round again.
-    for (const int action : {0, 2, 0}) {
-        QTest::mouseDClick(slider, Qt::LeftButton, {}, {slider->xOf(7), slider->height() / 2});
-        QCOMPARE(tree->currentRecord(), (RecordRef{RecordKind::AnimAction, {0, action}}));
-    }
-    const QPoint mark(slider->xOf(2), slider->height() / 2);
-    QHelpEvent help(QEvent::ToolTip, mark, slider->mapToGlobal(mark));
-    QApplication::sendEvent(slider, &help);
-    QVERIFY2(QToolTip::text().startsWith(QStringLiteral("Frame 2\nAction 1: ") + eventTypeNames().value(30)),
-             qPrintable(QToolTip::text()));
-
-    auto *blocks = find<QComboBox>(window, "cbAnimTrackBlock");
-    QCOMPARE(blocks->count(), 2);
-    QCOMPARE(blocks->itemText(0), QStringLiteral("0: Unnamed animation 100"));
-    blocks->setFocus();
-    QTest::keyClick(blocks, Qt::Key_Down);
-    QCOMPARE(tree->currentRecord(), (RecordRef{RecordKind::AnimBlock, {1}}));
-    QCOMPARE(playback().blockIndex, 1);
-    QVERIFY(!find<QToolButton>(window, "btnAnimTrackMarkBack")->isEnabled());
-}
 
 QTEST_MAIN(tst_Everyday)
 #include "tst_everyday.moc"

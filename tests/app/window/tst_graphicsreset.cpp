@@ -3,15 +3,6 @@
 #include "Hand.h"
 #include "KVOpenGLWidget.h"
 
-#include <QDockWidget>
-#include <QLabel>
-#include <QMessageBox>
-#include <QOpenGLContext>
-#include <QScreen>
-#include <QSurfaceFormat>
-#include <QTabWidget>
-#include <QWindow>
-
 /// A reset of the graphics driver under the whole program: its window's context goes with those of the
 /// viewports.
 class TestGraphicsReset : public QObject
@@ -19,10 +10,78 @@ class TestGraphicsReset : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void theWindowComesBackAsItWas();
-    void aDriverThatGoesOnFailingCostsTheViewOnly();
-    void noContextIsToBeHad();
+    void init()
+    {
+        m_files.emplace();
+        m_skinned = m_files->save("man.skinnedmesh", triangleMan());
+        m_rigid = m_files->save("stone.staticmesh", wall({{QStringLiteral("m/a/_white"), {0, 1, 2}}}));
+    }
+
+    void theWindowComesBackAsItWas()
+    {
+        ShownWindow window({m_rigid, m_skinned});
+        auto *tabs = find<QTabWidget>(window, "tabWidget");
+        auto *skinned = find<KVOpenGLWidget>(window, "viewSkinned");
+        auto *rigid = find<KVOpenGLWidget>(window, "viewStatic");
+        QTRY_VERIFY(rigid->isVisible() && whitePixels(rigid) > 100);
+        tabs->setCurrentIndex(0);
+        const RecordRef bone{RecordKind::Bone, {1, 0, 0}};
+        select(window, "treeSkinnedMesh", {bone});
+        waitForFrame(skinned);
+        const int before = whitePixels(skinned);
+        QVERIFY(before > 100);
+        const QRect geometry = window.geometry();
+        const QString title = window.windowTitle();
+
+        // A question that is open meanwhile goes on being asked.
+        QMessageBox box(QMessageBox::Question, QString("Question"), QString("?"), QMessageBox::Ok, &window);
+        box.setWindowModality(Qt::ApplicationModal);
+        box.move(window.geometry().bottomRight() - QPoint(20, 20));
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        QSignalSpy lost(skinned, &KVOpenGLWidget::contextLost);
+        const QWindow *handle = window.windowHandle();
+        waitForFrame(skinned);
+        reset(window);
+        QTRY_COMPARE(lost.count(), 1);
+        QVERIFY(window.windowHandle() != handle);
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QTRY_COMPARE(whitePixels(skinned), before);
+        QVERIFY(box.isVisible() && QApplication::activeModalWidget() == &box);
+        QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
+        QVERIFY(!box.isVisible());
+
+        QCOMPARE(window.geometry(), geometry);
+        QCOMPARE(window.windowTitle(), title);
+        QVERIFY(find<KVTreeView>(window, "treeSkinnedMesh")->currentRecord() == bone);
+        QVERIFY(find<QDockWidget>(window, "dockConsole")->isVisible());
+        // The view that was not in sight, too.
+        tabs->setCurrentIndex(1);
+        QTRY_VERIFY(whitePixels(rigid) > 100);
+        QCOMPARE(lost.count(), 1);
+    }
+
+    void aDriverThatGoesOnFailingCostsTheViewOnly()
+    {
+        ShownWindow window({m_skinned});
+        auto *view = find<KVOpenGLWidget>(window, "viewSkinned");
+        QSignalSpy failed(view, &KVOpenGLWidget::failed);
+        QTRY_VERIFY(view->isValid());
+        connect(
+            view, &QOpenGLWidget::frameSwapped, &window, [&window] { reset(window); }, Qt::QueuedConnection);
+        view->update();
+        QTRY_COMPARE(failed.count(), 1);
+        checkNotice(window, QStringLiteral("driver"));
+    }
+
+    void noContextIsToBeHad()
+    {
+        const QSurfaceFormat usual = QSurfaceFormat::defaultFormat();
+        QSurfaceFormat::setDefaultFormat(impossibleFormat());
+        ShownWindow window({m_skinned});
+        checkNotice(window, QStringLiteral("OpenGL"));
+        QSurfaceFormat::setDefaultFormat(usual);
+    }
 
 private:
     /// Until what is to be seen is on the screen.
@@ -50,15 +109,10 @@ private:
             }
         }
     }
-    /// Of what is really on the screen.
-    static QImage grab(const QWidget *view, const QRect &part)
+    static int whitePixels(const QWidget *view)
     {
-        const QPoint corner = view->mapToGlobal(part.topLeft());
-        return QGuiApplication::primaryScreen()
-            ->grabWindow(0, corner.x(), corner.y(), part.width(), part.height())
-            .toImage();
+        return countPixels(onScreen(view, view->rect()), Qt::white);
     }
-    static int whitePixels(const QWidget *view) { return countPixels(grab(view, view->rect()), Qt::white); }
     /// The notice is in the view's place, and really on the screen: a window that cannot be put together
     /// stays black.
     static void checkNotice(const MainWindow &window, const QString &word)
@@ -67,94 +121,14 @@ private:
                                  ->findChild<QLabel *>(QStringLiteral("lblViewportFailure"));
         QTRY_VERIFY(notice->isVisible());
         QVERIFY(notice->text().contains(word));
-        QTRY_COMPARE(grab(notice, {10, 10, 1, 1}).pixelColor(0, 0), window.palette().color(QPalette::Window));
+        QTRY_COMPARE(onScreen(notice, {10, 10, 1, 1}).pixelColor(0, 0),
+                     window.palette().color(QPalette::Window));
     }
 
-    std::unique_ptr<QTemporaryDir> m_files;
+    std::optional<ProgramFolder> m_files;
     QString m_skinned;
     QString m_rigid;
 };
-
-void TestGraphicsReset::init()
-{
-    m_files = std::make_unique<QTemporaryDir>();
-    useFolder(*m_files);
-    qputenv("XDG_DATA_HOME", QFile::encodeName(m_files->path()));
-    m_skinned = m_files->filePath(QStringLiteral("man.skinnedmesh"));
-    QVERIFY(!triangleMan().write(m_skinned));
-    StaticMesh rigid;
-    rigid.surfaces = {{QStringLiteral("m/a/_white"), {0, 1, 2}}};
-    rigid.vertices = {{{-100, 0, 0}, {}, {}}, {{0, 0, 200}, {}, {}}, {{100, 0, 0}, {}, {}}};
-    m_rigid = m_files->filePath(QStringLiteral("stone.staticmesh"));
-    QVERIFY(!rigid.write(m_rigid));
-}
-
-void TestGraphicsReset::theWindowComesBackAsItWas()
-{
-    ShownWindow window({m_rigid, m_skinned});
-    auto *tabs = find<QTabWidget>(window, "tabWidget");
-    auto *skinned = find<KVOpenGLWidget>(window, "viewSkinned");
-    auto *rigid = find<KVOpenGLWidget>(window, "viewStatic");
-    QTRY_VERIFY(rigid->isVisible() && whitePixels(rigid) > 100);
-    tabs->setCurrentIndex(0);
-    const RecordRef bone{RecordKind::Bone, {1, 0, 0}};
-    find<KVTreeView>(window, "treeSkinnedMesh")->selectRecords({bone}, bone);
-    waitForFrame(skinned);
-    const int before = whitePixels(skinned);
-    QVERIFY(before > 100);
-    const QRect geometry = window.geometry();
-    const QString title = window.windowTitle();
-
-    // A question that is open meanwhile goes on being asked.
-    QMessageBox box(QMessageBox::Question, QStringLiteral("Question"), QStringLiteral("?"), QMessageBox::Ok,
-                    &window);
-    box.setWindowModality(Qt::ApplicationModal);
-    box.move(window.geometry().bottomRight() - QPoint(20, 20));
-    box.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&box));
-    QSignalSpy lost(skinned, &KVOpenGLWidget::contextLost);
-    const QWindow *handle = window.windowHandle();
-    waitForFrame(skinned);
-    reset(window);
-    QTRY_COMPARE(lost.count(), 1);
-    QVERIFY(window.windowHandle() != handle);
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QTRY_COMPARE(whitePixels(skinned), before);
-    QVERIFY(box.isVisible() && QApplication::activeModalWidget() == &box);
-    QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
-    QVERIFY(!box.isVisible());
-
-    QCOMPARE(window.geometry(), geometry);
-    QCOMPARE(window.windowTitle(), title);
-    QVERIFY(find<KVTreeView>(window, "treeSkinnedMesh")->currentRecord() == bone);
-    QVERIFY(find<QDockWidget>(window, "dockConsole")->isVisible());
-    // The view that was not in sight, too.
-    tabs->setCurrentIndex(1);
-    QTRY_VERIFY(whitePixels(rigid) > 100);
-    QCOMPARE(lost.count(), 1);
-}
-
-void TestGraphicsReset::aDriverThatGoesOnFailingCostsTheViewOnly()
-{
-    ShownWindow window({m_skinned});
-    auto *view = find<KVOpenGLWidget>(window, "viewSkinned");
-    QSignalSpy failed(view, &KVOpenGLWidget::failed);
-    QTRY_VERIFY(view->isValid());
-    connect(
-        view, &QOpenGLWidget::frameSwapped, &window, [&window] { reset(window); }, Qt::QueuedConnection);
-    view->update();
-    QTRY_COMPARE(failed.count(), 1);
-    checkNotice(window, QStringLiteral("driver"));
-}
-
-void TestGraphicsReset::noContextIsToBeHad()
-{
-    const QSurfaceFormat usual = QSurfaceFormat::defaultFormat();
-    QSurfaceFormat::setDefaultFormat(impossibleFormat());
-    ShownWindow window({m_skinned});
-    checkNotice(window, QStringLiteral("OpenGL"));
-    QSurfaceFormat::setDefaultFormat(usual);
-}
 
 int main(int argc, char *argv[])
 {

@@ -1,22 +1,10 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "Find.h"
 #include "Icons.h"
 #include "Look.h"
 #include "LookMenu.h"
 #include "NoticeBar.h"
-#include "Settings.h"
-#include "TestSupport.h"
-
-#include <QAction>
-#include <QApplication>
-#include <QBitmap>
-#include <QLabel>
-#include <QMenu>
-#include <QPainter>
-#include <QPushButton>
-#include <QStyle>
-#include <QToolTip>
-#include <QVector4D>
 
 #include <algorithm>
 #include <cmath>
@@ -70,150 +58,142 @@ class tst_Look : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void everyTextCanBeRead();
-    void looksChangeAtOnce();
-    void iconsAreCrisp();
-    void iconsAreSeenOnEveryLook();
-    void noticesFollow();
+    void init()
+    {
+        TestSupport::useSettingsHome(m_home);
+        showChosenLook();
+    }
+
+    void cleanup() { chooseLook(Look::Desktop); }
+
+    void everyTextCanBeRead()
+    {
+        using P = QPalette;
+        const std::pair<P::ColorRole, QVector<P::ColorRole>> grounds[] = {
+            {P::Window, {P::WindowText, P::Text, P::PlaceholderText, P::Link, P::LinkVisited}},
+            {P::Base, {P::Text, P::PlaceholderText, P::Link, P::LinkVisited}},
+            {P::AlternateBase, {P::Text}},
+            {P::Button, {P::ButtonText}},
+            {P::Highlight, {P::HighlightedText}},
+            {P::ToolTipBase, {P::ToolTipText}}};
+        for (const bool dark : {false, true}) {
+            const QPalette palette = ourPalette(dark);
+            QCOMPARE(isDark(palette), dark);
+            for (const P::ColorGroup group : {P::Active, P::Inactive, P::Disabled}) {
+                for (const auto &[ground, texts] : grounds) {
+                    for (const P::ColorRole text : texts) {
+                        const double found =
+                            contrast(palette.color(group, text), palette.color(group, ground));
+                        const QString what =
+                            QString::asprintf("%g: %d on %d in %d", found, text, ground, group);
+                        QVERIFY2(found >= 4.5, qPrintable(what));
+                    }
+                }
+            }
+            QVERIFY(contrast(warningColor(palette), palette.color(P::Window)) >= 4.5);
+            QVERIFY(contrast(warningColor(palette), palette.color(P::Base)) >= 4.5);
+            // What can be used and what cannot are still told apart.
+            QVERIFY(contrast(palette.color(P::Active, P::Text), palette.color(P::Disabled, P::Text)) >= 1.8);
+        }
+    }
+
+    void looksChangeAtOnce()
+    {
+        const QPalette before = QApplication::palette();
+        const QString style = QApplication::style()->objectName();
+        const QColor tip = QToolTip::palette().color(QPalette::ToolTipBase);
+        QLabel label(QStringLiteral("text"));
+        label.show();
+        for (const Look look : {Look::Dark, Look::Light, Look::Dark}) {
+            chooseLook(look);
+            QCOMPARE(chosenLook(), look);
+            QCOMPARE(isDark(label.palette()), look == Look::Dark);
+            QCOMPARE(QToolTip::palette().color(QPalette::ToolTipBase),
+                     ourPalette(look == Look::Dark).color(QPalette::ToolTipBase));
+        }
+        chooseLook(Look::Desktop);
+        QCOMPARE(QApplication::style()->objectName(), style);
+        QCOMPARE(label.palette().color(QPalette::Window), before.color(QPalette::Window));
+        QCOMPARE(label.palette().color(QPalette::Link), before.color(QPalette::Link));
+        QCOMPARE(QToolTip::palette().color(QPalette::ToolTipBase), tip);
+        Settings::Look.setValue(QStringLiteral("purple"));
+        QCOMPARE(chosenLook(), Look::Desktop);
+
+        // By the menu, while others choose as well.
+        QMenu view;
+        addLookMenu(view);
+        QMenu *looks = view.actions().first()->menu();
+        QVERIFY(looks->actions().at(0)->isChecked());
+        looks->actions().at(2)->trigger();
+        QCOMPARE(chosenLook(), Look::Dark);
+        QVERIFY(isDark(QApplication::palette()));
+        chooseLook(Look::Light);
+        emit looks->aboutToShow();
+        QVERIFY(looks->actions().at(1)->isChecked());
+        QVERIFY(!looks->actions().at(2)->isChecked());
+    }
+
+    void iconsAreCrisp()
+    {
+        chooseLook(Look::Light);
+        // At each ratio the file that was drawn for it, pixel for pixel.
+        for (const auto &[side, suffix] : {std::pair(24, ""), {48, "@2x"}, {72, "@3x"}}) {
+            QImage file(QStringLiteral(":/Images/Icons/save%1.png").arg(QLatin1String(suffix)));
+            file.setDevicePixelRatio(1.0);
+            const QImage shown = namedIcon(QStringLiteral("save")).pixmap(side, side).toImage();
+            QCOMPARE(shown.size(), QSize(side, side));
+            QCOMPARE(shown.convertToFormat(QImage::Format_ARGB32_Premultiplied),
+                     file.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+        }
+        // Any other size is filled as well: nothing is left small in the middle.
+        for (const int side : {16, 20, 32, 64}) {
+            QPixmap shown(side, side);
+            shown.fill(Qt::transparent);
+            QPainter painter(&shown);
+            namedIcon(QStringLiteral("ground")).paint(&painter, shown.rect());
+            painter.end();
+            QVERIFY2(QRegion(shown.mask()).boundingRect().left() <= side / 6,
+                     qPrintable(QString::number(side)));
+        }
+    }
+
+    void iconsAreSeenOnEveryLook()
+    {
+        QVERIFY(iconNames().size() > 60);
+        for (const Look look : {Look::Light, Look::Dark}) {
+            chooseLook(look);
+            const QPalette palette = QApplication::palette();
+            for (const QString &name : iconNames()) {
+                const QIcon icon = namedIcon(name);
+                const QColor ink = inkOf(icon.pixmap(72, 72).toImage());
+                for (const QPalette::ColorRole ground : {QPalette::Window, QPalette::Base}) {
+                    const double found = contrast(ink, palette.color(ground));
+                    QVERIFY2(found >= 2.5, qPrintable(QStringLiteral("%1: %2").arg(name).arg(found)));
+                }
+                QCOMPARE(inkOf(icon.pixmap(QSize(72, 72), QIcon::Selected).toImage()),
+                         palette.color(QPalette::HighlightedText));
+            }
+        }
+    }
+
+    void noticesFollow()
+    {
+        NoticeBar bar(namedIcon(QStringLiteral("info")), QStringLiteral("bar"));
+        const QPushButton *button = bar.addButton(QStringLiteral("OK"), QStringLiteral("btn"), {});
+        bar.tell(QStringLiteral("text"));
+        for (const Look look : {Look::Dark, Look::Light}) {
+            chooseLook(look);
+            const QPalette ours = ourPalette(look == Look::Dark);
+            QCOMPARE(bar.palette().color(QPalette::Window), ours.color(QPalette::ToolTipBase));
+            QCOMPARE(bar.palette().color(QPalette::WindowText), ours.color(QPalette::ToolTipText));
+            QCOMPARE(button->palette().color(QPalette::Button), ours.color(QPalette::Button));
+            QCOMPARE(button->palette().color(QPalette::ButtonText), ours.color(QPalette::ButtonText));
+        }
+    }
 
 private:
     QTemporaryDir m_home;
 };
-
-void tst_Look::init()
-{
-    TestSupport::useSettingsHome(m_home);
-    showChosenLook();
-}
-
-void tst_Look::cleanup()
-{
-    chooseLook(Look::Desktop);
-}
-
-void tst_Look::everyTextCanBeRead()
-{
-    using P = QPalette;
-    const std::pair<P::ColorRole, QVector<P::ColorRole>> grounds[] = {
-        {P::Window, {P::WindowText, P::Text, P::PlaceholderText, P::Link, P::LinkVisited}},
-        {P::Base, {P::Text, P::PlaceholderText, P::Link, P::LinkVisited}},
-        {P::AlternateBase, {P::Text}},
-        {P::Button, {P::ButtonText}},
-        {P::Highlight, {P::HighlightedText}},
-        {P::ToolTipBase, {P::ToolTipText}}};
-    for (const bool dark : {false, true}) {
-        const QPalette palette = ourPalette(dark);
-        QCOMPARE(isDark(palette), dark);
-        for (const P::ColorGroup group : {P::Active, P::Inactive, P::Disabled}) {
-            for (const auto &[ground, texts] : grounds) {
-                for (const P::ColorRole text : texts) {
-                    const double found = contrast(palette.color(group, text), palette.color(group, ground));
-                    const QString what = QString::asprintf("%g: %d on %d in %d", found, text, ground, group);
-                    QVERIFY2(found >= 4.5, qPrintable(what));
-                }
-            }
-        }
-        QVERIFY(contrast(warningColor(palette), palette.color(P::Window)) >= 4.5);
-        QVERIFY(contrast(warningColor(palette), palette.color(P::Base)) >= 4.5);
-        // What can be used and what cannot are still told apart.
-        QVERIFY(contrast(palette.color(P::Active, P::Text), palette.color(P::Disabled, P::Text)) >= 1.8);
-    }
-}
-
-void tst_Look::looksChangeAtOnce()
-{
-    const QPalette before = QApplication::palette();
-    const QString style = QApplication::style()->objectName();
-    const QColor tip = QToolTip::palette().color(QPalette::ToolTipBase);
-    QLabel label(QStringLiteral("text"));
-    label.show();
-    for (const Look look : {Look::Dark, Look::Light, Look::Dark}) {
-        chooseLook(look);
-        QCOMPARE(chosenLook(), look);
-        QCOMPARE(isDark(label.palette()), look == Look::Dark);
-        QCOMPARE(QToolTip::palette().color(QPalette::ToolTipBase),
-                 ourPalette(look == Look::Dark).color(QPalette::ToolTipBase));
-    }
-    chooseLook(Look::Desktop);
-    QCOMPARE(QApplication::style()->objectName(), style);
-    QCOMPARE(label.palette().color(QPalette::Window), before.color(QPalette::Window));
-    QCOMPARE(label.palette().color(QPalette::Link), before.color(QPalette::Link));
-    QCOMPARE(QToolTip::palette().color(QPalette::ToolTipBase), tip);
-    Settings::Look.setValue(QStringLiteral("purple"));
-    QCOMPARE(chosenLook(), Look::Desktop);
-
-    // By the menu, while others choose as well.
-    QMenu view;
-    addLookMenu(view);
-    QMenu *looks = view.actions().first()->menu();
-    QVERIFY(looks->actions().at(0)->isChecked());
-    looks->actions().at(2)->trigger();
-    QCOMPARE(chosenLook(), Look::Dark);
-    QVERIFY(isDark(QApplication::palette()));
-    chooseLook(Look::Light);
-    emit looks->aboutToShow();
-    QVERIFY(looks->actions().at(1)->isChecked());
-    QVERIFY(!looks->actions().at(2)->isChecked());
-}
-
-void tst_Look::iconsAreCrisp()
-{
-    chooseLook(Look::Light);
-    // At each ratio the file that was drawn for it, pixel for pixel.
-    for (const auto &[side, suffix] : {std::pair(24, ""), {48, "@2x"}, {72, "@3x"}}) {
-        QImage file(QStringLiteral(":/Images/Icons/save%1.png").arg(QLatin1String(suffix)));
-        file.setDevicePixelRatio(1.0);
-        const QImage shown = namedIcon(QStringLiteral("save")).pixmap(side, side).toImage();
-        QCOMPARE(shown.size(), QSize(side, side));
-        QCOMPARE(shown.convertToFormat(QImage::Format_ARGB32_Premultiplied),
-                 file.convertToFormat(QImage::Format_ARGB32_Premultiplied));
-    }
-    // Any other size is filled as well: nothing is left small in the middle.
-    for (const int side : {16, 20, 32, 64}) {
-        QPixmap shown(side, side);
-        shown.fill(Qt::transparent);
-        QPainter painter(&shown);
-        namedIcon(QStringLiteral("ground")).paint(&painter, shown.rect());
-        painter.end();
-        QVERIFY2(QRegion(shown.mask()).boundingRect().left() <= side / 6, qPrintable(QString::number(side)));
-    }
-}
-
-void tst_Look::iconsAreSeenOnEveryLook()
-{
-    QVERIFY(iconNames().size() > 60);
-    for (const Look look : {Look::Light, Look::Dark}) {
-        chooseLook(look);
-        const QPalette palette = QApplication::palette();
-        for (const QString &name : iconNames()) {
-            const QIcon icon = namedIcon(name);
-            const QColor ink = inkOf(icon.pixmap(72, 72).toImage());
-            for (const QPalette::ColorRole ground : {QPalette::Window, QPalette::Base}) {
-                const double found = contrast(ink, palette.color(ground));
-                QVERIFY2(found >= 2.5, qPrintable(QStringLiteral("%1: %2").arg(name).arg(found)));
-            }
-            QCOMPARE(inkOf(icon.pixmap(QSize(72, 72), QIcon::Selected).toImage()),
-                     palette.color(QPalette::HighlightedText));
-        }
-    }
-}
-
-void tst_Look::noticesFollow()
-{
-    NoticeBar bar(namedIcon(QStringLiteral("info")), QStringLiteral("bar"));
-    const QPushButton *button = bar.addButton(QStringLiteral("OK"), QStringLiteral("btn"), {});
-    bar.tell(QStringLiteral("text"));
-    for (const Look look : {Look::Dark, Look::Light}) {
-        chooseLook(look);
-        const QPalette ours = ourPalette(look == Look::Dark);
-        QCOMPARE(bar.palette().color(QPalette::Window), ours.color(QPalette::ToolTipBase));
-        QCOMPARE(bar.palette().color(QPalette::WindowText), ours.color(QPalette::ToolTipText));
-        QCOMPARE(button->palette().color(QPalette::Button), ours.color(QPalette::Button));
-        QCOMPARE(button->palette().color(QPalette::ButtonText), ours.color(QPalette::ButtonText));
-    }
-}
 
 QTEST_MAIN(tst_Look)
 #include "tst_look.moc"

@@ -1,370 +1,281 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "Find.h"
 #include "FullDisk.h"
 #include "Hand.h"
 #include "KVOpenGLWidget.h"
-#include "KVTreeView.h"
-#include "MainWindow.h"
 #include "Playback.h"
-#include "TestSupport.h"
-
-#include <QAction>
-#include <QComboBox>
-#include <QDirIterator>
-#include <QDockWidget>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMessageBox>
-#include <QSlider>
-#include <QSpinBox>
-#include <QSplitter>
-#include <QTabWidget>
-#include <QToolButton>
-#include <QTreeWidget>
 
 class tst_MainWindow : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void firstStartAsksForTheFolders();
-    void editUndoSave();
-    void aModifiedDocumentGoesWithTheWindow();
-    void whatFailsKeepsDocumentAndFile();
-    void theExplorerOpensAndAsks();
-    void playingShowsTheFrame();
-    void viewControlsAreStored();
-    void everyRealModelOpensAndPlays();
-    void theLayoutComesBackAndIsReset();
+    void init()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        m_files.emplace();
+    }
+
+    void firstStartAsksForTheFolders()
+    {
+        QSettings().clear();
+        MainWindow window;
+        window.show();
+        Hand hand({Hand::press(QMessageBox::Ok), Hand::reject});
+        QTRY_COMPARE(hand.seen,
+                     QStringList({"Setup Folder Paths|Please setup your folder paths before using Korvane. "
+                                  "Thank you!",
+                                  "Options"}));
+        for (const char *key :
+             {"HideMeshData", "HideAnimData", "SkinnedMeshQuickSelect", "AnimationQuickSelect",
+              "StaticMeshQuickSelect", "AnimationSyncSkin", "AnimationAutoPlay"})
+            QCOMPARE(QSettings().value(key), QVariant(true));
+    }
+
+    void editUndoSave()
+    {
+        const QString path = m_files->save("man.skinnedmesh", triangleMan());
+        const QByteArray before = TestSupport::readFile(path);
+        ShownWindow window({path});
+        QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh"));
+
+        select(window, "treeSkinnedMesh", {{RecordKind::Bone, {1, 0, 0}}});
+        const auto *title =
+            find<QWidget>(window, "pagesSkinnedMesh")->findChild<QLabel *>(QStringLiteral("lblPageTitle"));
+        QCOMPARE(title->text(), QStringLiteral("Bone 1 Properties"));
+        auto *parent = find<QSpinBox>(window, "sbNodeParentNode");
+        QCOMPARE(parent->value(), 255);
+        typeNumber(parent, 0);
+        QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh * "));
+        auto *undo = find<QAction>(window, "actionUndo");
+        QCOMPARE(undo->text(), QStringLiteral("&Undo Parent Bone Index"));
+
+        // Ctrl+Z in the editor that was just used takes the edit back, not the keys.
+        QTest::keyClick(parent, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(parent->value(), 255);
+        QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh"));
+        select(window, "treeSkinnedMesh", {{RecordKind::SkinnedMesh, {}}});
+        QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(parent->value(), 0);
+        QCOMPARE(title->text(), QStringLiteral("Bone 1 Properties"));
+
+        QTest::keyClick(&window, Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh"));
+        QVERIFY(TestSupport::readFile(path) != before);
+        undo->trigger();
+        QTest::keyClick(&window, Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(TestSupport::readFile(path), before);
+
+        // What is typed and not ended is saved, too.
+        select(window, "treeSkinnedMesh", {{RecordKind::SkinnedMesh, {}}});
+        auto *minimum = find<QWidget>(window, "sbSMBBMinX");
+        minimum->setFocus();
+        auto *line = minimum->findChild<QLineEdit *>();
+        line->selectAll();
+        QTest::keyClicks(line, QStringLiteral("70.5"));
+        QTest::keyClick(&window, Qt::Key_S, Qt::ControlModifier);
+        SkinnedMesh saved;
+        QVERIFY(!saved.read(path));
+        QCOMPARE(saved.bbMin.x(), 70.5f);
+        QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh"));
+        QVERIFY(minimum->hasFocus());
+    }
+
+    void whatFailsKeepsDocumentAndFile()
+    {
+        const QString good = m_files->save("folder/man.skinnedmesh", triangleMan());
+        const QByteArray before = TestSupport::readFile(good);
+        // The name holds what a text's place holders look like.
+        const QString bad = m_files->put("%1 cut.skinnedmesh", before.left(40));
+        const QString rigid = m_files->put("cut.staticmesh", "xxx");
+        ShownWindow window({good});
+        Hand hand(QVector<Hand::Answer>(3, Hand::press(QMessageBox::Ok)));
+        window.openFiles({bad, rigid});
+        // A static mesh that cannot be read is dropped without a box.
+        QStringList boxes("File error|Failed to open\n" + QDir::toNativeSeparators(bad));
+        QCOMPARE(hand.seen, boxes);
+        QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh"));
+        const QStringList lines = consoleOf(window);
+        QVERIFY(lines.filter("%1 cut.skinnedmesh").join(QString()).contains("reached end of file."));
+        QVERIFY(!lines.filter("cut.staticmesh").isEmpty());
+
+        typeParent(window, 7);
+        for (const bool isDiskFull : {true, false}) {
+            std::unique_ptr<FullDisk> disk;
+            if (isDiskFull)
+                disk = std::make_unique<FullDisk>(16);
+            else
+                QVERIFY(QDir(m_files->path(QStringLiteral("folder"))).removeRecursively());
+            find<QAction>(window, "actionSave")->trigger();
+            disk.reset();
+            boxes += "File error|Failed to save\n" + QDir::toNativeSeparators(good);
+            QCOMPARE(hand.seen, boxes);
+            QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh * "));
+            QCOMPARE(TestSupport::readFile(good), isDiskFull ? before : QByteArray());
+        }
+        // A modified document goes with its window, and so does what is typed and not ended.
+        auto *minimum = find<QWidget>(window, "sbNodeBBMinX");
+        minimum->setFocus();
+        QTest::keyClicks(minimum, QStringLiteral("7"));
+    }
+
+    void theExplorerOpensAndAsks()
+    {
+        const QString first = m_files->save("models/a/a.skinnedmesh", triangleMan());
+        const QString second = m_files->save("models/b/b.skinnedmesh", triangleMan());
+        m_files->save("anims/a/a.anim", twoBlocks());
+        m_files->save("anims/other/other.anim", twoBlocks());
+        Settings::SkinnedMeshExplorePath.setValue(m_files->path(QStringLiteral("models")));
+        Settings::AnimationExplorePath.setValue(m_files->path(QStringLiteral("anims")));
+        ShownWindow window;
+        auto *tree = find<QTreeWidget>(window, "treeSkinnedMeshFolder");
+        const auto pick = [tree](int row) { tree->setCurrentItem(tree->topLevelItem(row)->child(0)); };
+        pick(0);
+        QTRY_COMPARE(window.windowTitle(), QStringLiteral("Korvane - a.skinnedmesh"));
+        // The animation follows the mesh.
+        QTRY_COMPARE(rootOf(window, "treeAnim"), QStringLiteral("a.anim"));
+        QCOMPARE(playback().playState, PlayState::Playing);
+        QVERIFY(playback().anim && playback().mesh);
+
+        typeParent(window, 7);
+        const QString question = "Unsaved changes|Would you like to save the Skinned Mesh?\n\n" + first;
+        Hand hand({Hand::press(QMessageBox::Cancel), Hand::press(QMessageBox::Yes)});
+        pick(1);
+        QTRY_COMPARE(hand.seen, QStringList(question));
+        QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - a.skinnedmesh * "));
+        QCOMPARE(tree->currentItem(), tree->topLevelItem(0)->child(0));
+        pick(1);
+        QTRY_COMPARE(window.windowTitle(), QStringLiteral("Korvane - b.skinnedmesh"));
+        QCOMPARE(hand.seen, QStringList({question, question}));
+        QVERIFY(TestSupport::readFile(first) != TestSupport::readFile(second));
+    }
+
+    void playingShowsTheFrame()
+    {
+        ShownWindow window(
+            {m_files->save("man.skinnedmesh", triangleMan()), m_files->save("man.anim", twoBlocks())});
+        auto *label = find<QLabel>(window, "lblAnimTrackFrames");
+        auto *slider = find<QSlider>(window, "sliderAnimTrack");
+        QCOMPARE(slider->maximum(), 10);
+        QTRY_VERIFY(slider->value() > 0);
+
+        find<QToolButton>(window, "btnAnimTrackStop")->click();
+        // It may have played on to the very frame, and a slider that is not moved sets no time.
+        slider->setValue(9);
+        slider->setValue(4);
+        QTRY_COMPARE(label->text(), QStringLiteral("Frame: 4 / 10"));
+        QCOMPARE(playback().time, 0.4f);
+        find<QToolButton>(window, "btnAnimTrackPose")->click();
+        QTRY_COMPARE(label->text(), QStringLiteral("Initial Pose"));
+        QCOMPARE(slider->value(), 0);
+
+        // Another block starts anew; looking at the same block again does not.
+        select(window, "treeAnim", {{RecordKind::AnimBlock, {1, 0, 0}}});
+        QCOMPARE(playback().blockIndex, 1);
+        QCOMPARE(playback().playState, PlayState::Playing);
+        find<QToolButton>(window, "btnAnimTrackStop")->click();
+        find<QTabWidget>(window, "tabTrees")->setCurrentIndex(1);
+        typeNumber(find<QSpinBox>(window, "sbAnimLoopFrame"), 3);
+        QCOMPARE(playback().playState, PlayState::Paused);
+    }
+
+    void everyRealModelOpensAndPlays()
+    {
+        SKIP_WITHOUT_SHARED("gamedata");
+        // Copies, since they are saved.
+        const QString original = TestSupport::shared(QStringLiteral("gamedata"));
+        const QString root = m_files->path();
+        for (QDirIterator it(original, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
+            const QString copy = root + it.next().mid(original.size());
+            QDir().mkpath(QFileInfo(copy).path());
+            QVERIFY(QFile::copy(it.filePath(), copy));
+        }
+        Settings::GamePath.setValue(root + "/game");
+        Settings::OutputDir.setValue(root + "/mod");
+        Settings::BackCull.setValue(true);
+        Settings::HideMeshData.setValue(false);
+        Settings::HideAnimData.setValue(false);
+        ShownWindow window;
+        int opened = 0;
+        for (QDirIterator it(root, {"*.skinnedmesh", "*.staticmesh"}, QDir::Files,
+                             QDirIterator::Subdirectories);
+             it.hasNext(); ++opened) {
+            const QString path = it.next();
+            window.openFiles({path});
+            QCOMPARE(window.windowTitle(), "Korvane - " + QFileInfo(path).fileName());
+            const bool isRigid = path.endsWith(".staticmesh");
+            QVector<QPair<const char *, QString>> files{
+                {isRigid ? "treeStaticMesh" : "treeSkinnedMesh", path}};
+            auto *view = find<KVOpenGLWidget>(window, isRigid ? "viewStatic" : "viewSkinned");
+            if (!isRigid) {
+                const QString anim =
+                    QString(path).replace("/models/", "/anims/").replace(".skinnedmesh", ".anim");
+                files.append({"treeAnim", anim});
+                window.openFiles({anim});
+                const int blocks = int(playback().anim->blocks.size());
+                for (int block = 0; block < blocks; ++block) {
+                    select(window, "treeAnim", {{RecordKind::AnimBlock, {block, 0, 0}}});
+                    playback().time = 0.1f;
+                    view->grabFramebuffer();
+                    QTRY_VERIFY(find<QLabel>(window, "lblAnimTrackFrames")->text().startsWith("Frame: "));
+                }
+            }
+            view->grabFramebuffer();
+
+            // Looking at every record changes nothing, and the files are saved as they were.
+            for (const auto &[name, file] : qAsConst(files)) {
+                auto *tree = find<KVTreeView>(window, name);
+                int shown = 0;
+                for (QTreeWidgetItemIterator item(tree); *item; ++item) {
+                    // Each of the few, and some of the very many keys and vertices.
+                    if ((*item)->childCount() > 0 || shown % 7 == 0)
+                        tree->setCurrentItem(*item, 0, QItemSelectionModel::ClearAndSelect);
+                    ++shown;
+                }
+                find<QTabWidget>(window, "tabTrees")->setCurrentIndex(file.endsWith(".anim") ? 1 : 0);
+                QVERIFY(!find<QAction>(window, "actionUndo")->isEnabled());
+                const QByteArray before = TestSupport::readFile(file);
+                QVERIFY(QFile::remove(file));
+                find<QAction>(window, "actionSave")->trigger();
+                QVERIFY2(TestSupport::readFile(file) == before, qPrintable(file));
+            }
+            find<QTabWidget>(window, "tabTrees")->setCurrentIndex(0);
+        }
+        QCOMPARE(opened, 10);
+        // One image of the barrel lies in neither folder.
+        QCOMPARE(consoleOf(window),
+                 QStringList("[GLMesh From Static Mesh] Failed to load texture '" + root +
+                             "/mod/textures/barrel_metal.png' using blank texture instead"));
+    }
+
+    void theLayoutComesBackAndIsReset()
+    {
+        const auto sizes = [](MainWindow &window) {
+            return find<QSplitter>(window, "splitterSkinned")->sizes();
+        };
+        QList<int> stored;
+        {
+            ShownWindow window;
+            find<QSplitter>(window, "splitterSkinned")->setSizes({300, 700, 440});
+            find<QDockWidget>(window, "dockConsole")->hide();
+            QVERIFY(!find<QDockWidget>(window, "dockServers")->isVisible());
+            find<QAction>(window, "actionQueryServers")->trigger();
+            stored = sizes(window);
+            window.close();
+        }
+        ShownWindow window;
+        QCOMPARE(sizes(window), stored);
+        auto *console = find<QDockWidget>(window, "dockConsole");
+        auto *servers = find<QDockWidget>(window, "dockServers");
+        QVERIFY(!console->isVisible() && servers->isVisible());
+        console->setFloating(true);
+        find<QAction>(window, "actionResetLayout")->trigger();
+        QVERIFY(!console->isFloating() && console->isVisible() && !servers->isVisible());
+    }
 
 private:
-    template <typename Model>
-    QString write(const QString &name, const Model &model)
-    {
-        const QString path = m_files->filePath(name);
-        QDir().mkpath(QFileInfo(path).path());
-        return model.write(path) ? QString() : path;
-    }
-    static void select(MainWindow &window, const char *tree, const RecordRef &record)
-    {
-        find<KVTreeView>(window, tree)->selectRecords({record}, record);
-    }
-    static QStringList errors(MainWindow &window)
-    {
-        QStringList texts;
-        const auto *list = find<QListWidget>(window, "listConsole");
-        for (int i = 0; i < list->count(); ++i)
-            texts.append(list->item(i)->text());
-        return texts;
-    }
-
-    std::unique_ptr<QTemporaryDir> m_files;
+    std::optional<ProgramFolder> m_files;
 };
-
-void tst_MainWindow::init()
-{
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    m_files = std::make_unique<QTemporaryDir>();
-    useFolder(*m_files);
-}
-
-void tst_MainWindow::firstStartAsksForTheFolders()
-{
-    QSettings().clear();
-    MainWindow window;
-    window.show();
-    Hand hand({Hand::press(QMessageBox::Ok), Hand::reject});
-    QTRY_COMPARE(hand.seen,
-                 QStringList({"Setup Folder Paths|Please setup your folder paths before using Korvane. "
-                              "Thank you!",
-                              "Options"}));
-    for (const char *key : {"HideMeshData", "HideAnimData", "SkinnedMeshQuickSelect", "AnimationQuickSelect",
-                            "StaticMeshQuickSelect", "AnimationSyncSkin", "AnimationAutoPlay"})
-        QCOMPARE(QSettings().value(key), QVariant(true));
-}
-
-void tst_MainWindow::editUndoSave()
-{
-    const QString path = write(QStringLiteral("man.skinnedmesh"), triangleMan());
-    const QByteArray before = TestSupport::readFile(path);
-    ShownWindow window({path});
-    QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh"));
-
-    select(window, "treeSkinnedMesh", {RecordKind::Bone, {1, 0, 0}});
-    const auto *title =
-        find<QWidget>(window, "pagesSkinnedMesh")->findChild<QLabel *>(QStringLiteral("lblPageTitle"));
-    QCOMPARE(title->text(), QStringLiteral("Bone 1 Properties"));
-    auto *parent = find<QSpinBox>(window, "sbNodeParentNode");
-    QCOMPARE(parent->value(), 255);
-    typeNumber(parent, 0);
-    QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh * "));
-    auto *undo = find<QAction>(window, "actionUndo");
-    QCOMPARE(undo->text(), QStringLiteral("&Undo Parent Bone Index"));
-
-    // Ctrl+Z in the editor that was just used takes the edit back, not the keys.
-    QTest::keyClick(parent, Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(parent->value(), 255);
-    QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh"));
-    select(window, "treeSkinnedMesh", {RecordKind::SkinnedMesh, {}});
-    QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-    QCOMPARE(parent->value(), 0);
-    QCOMPARE(title->text(), QStringLiteral("Bone 1 Properties"));
-
-    QTest::keyClick(&window, Qt::Key_S, Qt::ControlModifier);
-    QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh"));
-    QVERIFY(TestSupport::readFile(path) != before);
-    undo->trigger();
-    QTest::keyClick(&window, Qt::Key_S, Qt::ControlModifier);
-    QCOMPARE(TestSupport::readFile(path), before);
-
-    // What is typed and not ended is saved, too.
-    select(window, "treeSkinnedMesh", {RecordKind::SkinnedMesh, {}});
-    auto *minimum = find<QWidget>(window, "sbSMBBMinX");
-    minimum->setFocus();
-    auto *line = minimum->findChild<QLineEdit *>();
-    line->selectAll();
-    QTest::keyClicks(line, QStringLiteral("70.5"));
-    QTest::keyClick(&window, Qt::Key_S, Qt::ControlModifier);
-    SkinnedMesh saved;
-    QVERIFY(!saved.read(path));
-    QCOMPARE(saved.bbMin.x(), 70.5f);
-    QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh"));
-    QVERIFY(minimum->hasFocus());
-}
-
-void tst_MainWindow::aModifiedDocumentGoesWithTheWindow()
-{
-    StaticMesh rigid;
-    rigid.surfaces.resize(1);
-    ShownWindow window({write(QStringLiteral("man.skinnedmesh"), triangleMan()),
-                        write(QStringLiteral("man.anim"), twoBlocks()),
-                        write(QStringLiteral("box.staticmesh"), rigid)});
-    typeParent(window, 7);
-    find<QTabWidget>(window, "tabTrees")->setCurrentIndex(1);
-    select(window, "treeAnim", {RecordKind::AnimBlock, {1, 0, 0}});
-    typeNumber(find<QSpinBox>(window, "sbAnimLoopFrame"), 7);
-    QVERIFY(find<QAction>(window, "actionUndo")->isEnabled());
-
-    // What is typed and not ended, too.
-    find<QTabWidget>(window, "tabWidget")->setCurrentIndex(1);
-    select(window, "treeStaticMesh", {RecordKind::StaticSurface, {0, 0, 0}});
-    auto *material = find<QWidget>(window, "pagesStaticMesh")->findChild<QLineEdit *>("txtSurfaceMaterial");
-    material->setFocus();
-    QTest::keyClicks(material, QStringLiteral("typed"));
-}
-
-void tst_MainWindow::whatFailsKeepsDocumentAndFile()
-{
-    const QString good = write(QStringLiteral("folder/man.skinnedmesh"), triangleMan());
-    const QByteArray before = TestSupport::readFile(good);
-    // The name holds what a text's place holders look like.
-    const QString bad = m_files->filePath(QStringLiteral("%1 cut.skinnedmesh"));
-    QVERIFY(TestSupport::writeFile(bad, before.left(40)));
-    const QString rigid = m_files->filePath(QStringLiteral("cut.staticmesh"));
-    QVERIFY(TestSupport::writeFile(rigid, QByteArray(3, 'x')));
-    ShownWindow window({good});
-    Hand hand(QVector<Hand::Answer>(3, Hand::press(QMessageBox::Ok)));
-    window.openFiles({bad, rigid});
-    // A static mesh that cannot be read is dropped without a box.
-    QStringList boxes("File error|Failed to open\n" + QDir::toNativeSeparators(bad));
-    QCOMPARE(hand.seen, boxes);
-    QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh"));
-    const QStringList lines = errors(window);
-    QVERIFY(lines.filter("%1 cut.skinnedmesh").join(QString()).contains("reached end of file."));
-    QVERIFY(!lines.filter("cut.staticmesh").isEmpty());
-
-    typeParent(window, 7);
-    for (const bool isDiskFull : {true, false}) {
-        std::unique_ptr<FullDisk> disk;
-        if (isDiskFull)
-            disk = std::make_unique<FullDisk>(16);
-        else
-            QVERIFY(QDir(m_files->filePath(QStringLiteral("folder"))).removeRecursively());
-        find<QAction>(window, "actionSave")->trigger();
-        disk.reset();
-        boxes += "File error|Failed to save\n" + QDir::toNativeSeparators(good);
-        QCOMPARE(hand.seen, boxes);
-        QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh * "));
-        QCOMPARE(TestSupport::readFile(good), isDiskFull ? before : QByteArray());
-    }
-}
-
-void tst_MainWindow::theExplorerOpensAndAsks()
-{
-    const QString first = write(QStringLiteral("models/a/a.skinnedmesh"), triangleMan());
-    const QString second = write(QStringLiteral("models/b/b.skinnedmesh"), triangleMan());
-    write(QStringLiteral("anims/a/a.anim"), twoBlocks());
-    write(QStringLiteral("anims/other/other.anim"), twoBlocks());
-    Settings::SkinnedMeshExplorePath.setValue(m_files->filePath(QStringLiteral("models")));
-    Settings::AnimationExplorePath.setValue(m_files->filePath(QStringLiteral("anims")));
-    ShownWindow window;
-    auto *tree = find<QTreeWidget>(window, "treeSkinnedMeshFolder");
-    const auto pick = [tree](int row) { tree->setCurrentItem(tree->topLevelItem(row)->child(0)); };
-    pick(0);
-    QTRY_COMPARE(window.windowTitle(), QStringLiteral("Korvane - a.skinnedmesh"));
-    // The animation follows the mesh.
-    QTRY_COMPARE(find<KVTreeView>(window, "treeAnim")->topLevelItemCount(), 1);
-    QCOMPARE(find<KVTreeView>(window, "treeAnim")->topLevelItem(0)->text(0), QStringLiteral("a.anim"));
-    QCOMPARE(playback().playState, PlayState::Playing);
-    QVERIFY(playback().anim && playback().mesh);
-
-    typeParent(window, 7);
-    const QString question = "Unsaved changes|Would you like to save the Skinned Mesh?\n\n" + first;
-    Hand hand({Hand::press(QMessageBox::Cancel), Hand::press(QMessageBox::Yes)});
-    pick(1);
-    QTRY_COMPARE(hand.seen, QStringList(question));
-    QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - a.skinnedmesh * "));
-    QCOMPARE(tree->currentItem(), tree->topLevelItem(0)->child(0));
-    pick(1);
-    QTRY_COMPARE(window.windowTitle(), QStringLiteral("Korvane - b.skinnedmesh"));
-    QCOMPARE(hand.seen, QStringList({question, question}));
-    QVERIFY(TestSupport::readFile(first) != TestSupport::readFile(second));
-}
-
-void tst_MainWindow::playingShowsTheFrame()
-{
-    ShownWindow window({write(QStringLiteral("man.skinnedmesh"), triangleMan()),
-                        write(QStringLiteral("man.anim"), twoBlocks())});
-    auto *label = find<QLabel>(window, "lblAnimTrackFrames");
-    auto *slider = find<QSlider>(window, "sliderAnimTrack");
-    QCOMPARE(slider->maximum(), 10);
-    QTRY_VERIFY(slider->value() > 0);
-
-    find<QToolButton>(window, "btnAnimTrackStop")->click();
-    // It may have played on to the very frame, and a slider that is not moved sets no time.
-    slider->setValue(9);
-    slider->setValue(4);
-    QTRY_COMPARE(label->text(), QStringLiteral("Frame: 4 / 10"));
-    QCOMPARE(playback().time, 0.4f);
-    find<QToolButton>(window, "btnAnimTrackPose")->click();
-    QTRY_COMPARE(label->text(), QStringLiteral("Initial Pose"));
-    QCOMPARE(slider->value(), 0);
-
-    // Another block starts anew; looking at the same block again does not.
-    select(window, "treeAnim", {RecordKind::AnimBlock, {1, 0, 0}});
-    QCOMPARE(playback().blockIndex, 1);
-    QCOMPARE(playback().playState, PlayState::Playing);
-    find<QToolButton>(window, "btnAnimTrackStop")->click();
-    find<QTabWidget>(window, "tabTrees")->setCurrentIndex(1);
-    typeNumber(find<QSpinBox>(window, "sbAnimLoopFrame"), 3);
-    QCOMPARE(playback().playState, PlayState::Paused);
-}
-
-void tst_MainWindow::viewControlsAreStored()
-{
-    {
-        ShownWindow window;
-        for (const char *action : {"actionGround", "actionTransGizmo", "actionCullBack"})
-            find<QAction>(window, action)->trigger();
-        const auto bars = window.findChildren<QComboBox *>(QStringLiteral("cbSurfSelect"));
-        QCOMPARE(bars.size(), 2);
-        bars.at(0)->setFocus();
-        QTest::keyClick(bars.at(0), Qt::Key_End);
-        QCOMPARE(bars.at(1)->currentIndex(), 4);
-        const auto speeds = window.findChildren<QSlider *>(QStringLiteral("sliderMoveSpeed"));
-        speeds.at(1)->setValue(250);
-        QCOMPARE(speeds.at(0)->value(), 250);
-        window.findChildren<QSlider *>(QStringLiteral("sliderBrightness")).at(0)->setValue(4);
-    }
-    QCOMPARE(Settings::MouseSpeed.value(), 2.5f);
-    QCOMPARE(Settings::Brightness.value(), 2.0f);
-    QCOMPARE(Settings::SurfSelectType.value(), 4);
-    MainWindow window;
-    for (const char *action : {"actionGround", "actionTransGizmo", "actionCullBack"})
-        QVERIFY2(find<QAction>(window, action)->isChecked(), action);
-}
-
-void tst_MainWindow::everyRealModelOpensAndPlays()
-{
-    SKIP_WITHOUT_SHARED("gamedata");
-    // Copies, since they are saved.
-    const QString original = TestSupport::shared(QStringLiteral("gamedata"));
-    const QString root = m_files->path();
-    for (QDirIterator it(original, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
-        const QString copy = root + it.next().mid(original.size());
-        QDir().mkpath(QFileInfo(copy).path());
-        QVERIFY(QFile::copy(it.filePath(), copy));
-    }
-    Settings::GamePath.setValue(root + "/game");
-    Settings::OutputDir.setValue(root + "/mod");
-    Settings::BackCull.setValue(true);
-    Settings::HideMeshData.setValue(false);
-    Settings::HideAnimData.setValue(false);
-    ShownWindow window;
-    int opened = 0;
-    for (QDirIterator it(root, {"*.skinnedmesh", "*.staticmesh"}, QDir::Files, QDirIterator::Subdirectories);
-         it.hasNext(); ++opened) {
-        const QString path = it.next();
-        window.openFiles({path});
-        QCOMPARE(window.windowTitle(), "Korvane - " + QFileInfo(path).fileName());
-        const bool isRigid = path.endsWith(".staticmesh");
-        QVector<QPair<const char *, QString>> files{{isRigid ? "treeStaticMesh" : "treeSkinnedMesh", path}};
-        auto *view = find<KVOpenGLWidget>(window, isRigid ? "viewStatic" : "viewSkinned");
-        if (!isRigid) {
-            const QString anim =
-                QString(path).replace("/models/", "/anims/").replace(".skinnedmesh", ".anim");
-            files.append({"treeAnim", anim});
-            window.openFiles({anim});
-            const int blocks = int(playback().anim->blocks.size());
-            for (int block = 0; block < blocks; ++block) {
-                select(window, "treeAnim", {RecordKind::AnimBlock, {block, 0, 0}});
-                playback().time = 0.1f;
-                view->grabFramebuffer();
-                QTRY_VERIFY(find<QLabel>(window, "lblAnimTrackFrames")->text().startsWith("Frame: "));
-            }
-        }
-        view->grabFramebuffer();
-
-        // Looking at every record changes nothing, and the files are saved as they were.
-        for (const auto &[name, file] : qAsConst(files)) {
-            auto *tree = find<KVTreeView>(window, name);
-            int shown = 0;
-            for (QTreeWidgetItemIterator item(tree); *item; ++item) {
-                // Each of the few, and some of the very many keys and vertices.
-                if ((*item)->childCount() > 0 || shown % 7 == 0)
-                    tree->setCurrentItem(*item, 0, QItemSelectionModel::ClearAndSelect);
-                ++shown;
-            }
-            find<QTabWidget>(window, "tabTrees")->setCurrentIndex(file.endsWith(".anim") ? 1 : 0);
-            QVERIFY(!find<QAction>(window, "actionUndo")->isEnabled());
-            const QByteArray before = TestSupport::readFile(file);
-            QVERIFY(QFile::remove(file));
-            find<QAction>(window, "actionSave")->trigger();
-            QVERIFY2(TestSupport::readFile(file) == before, qPrintable(file));
-        }
-        find<QTabWidget>(window, "tabTrees")->setCurrentIndex(0);
-    }
-    QCOMPARE(opened, 10);
-    // One image of the barrel lies in neither folder.
-    QCOMPARE(errors(window), QStringList("[GLMesh From Static Mesh] Failed to load texture '" + root +
-                                         "/mod/textures/barrel_metal.png' using blank texture instead"));
-}
-
-void tst_MainWindow::theLayoutComesBackAndIsReset()
-{
-    const auto sizes = [](MainWindow &window) { return find<QSplitter>(window, "splitterSkinned")->sizes(); };
-    QList<int> stored;
-    {
-        ShownWindow window;
-        find<QSplitter>(window, "splitterSkinned")->setSizes({300, 700, 440});
-        find<QDockWidget>(window, "dockConsole")->hide();
-        QVERIFY(!find<QDockWidget>(window, "dockServers")->isVisible());
-        find<QAction>(window, "actionQueryServers")->trigger();
-        stored = sizes(window);
-        window.close();
-    }
-    ShownWindow window;
-    QCOMPARE(sizes(window), stored);
-    auto *console = find<QDockWidget>(window, "dockConsole");
-    auto *servers = find<QDockWidget>(window, "dockServers");
-    QVERIFY(!console->isVisible() && servers->isVisible());
-    console->setFloating(true);
-    find<QAction>(window, "actionResetLayout")->trigger();
-    QVERIFY(!console->isFloating() && console->isVisible() && !servers->isVisible());
-}
 
 QTEST_MAIN(tst_MainWindow)
 #include "tst_mainwindow.moc"

@@ -7,10 +7,6 @@
 #include "Playback.h"
 #include "SampleModels.h"
 
-#include <QComboBox>
-#include <QListWidget>
-#include <QTabWidget>
-
 #include <limits>
 
 class tst_Session : public QObject
@@ -18,35 +14,190 @@ class tst_Session : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void theNextStartGoesOn();
-    void aSessionIsKeptWhereItIsWanted();
-    void aCrashKeepsIt();
-    void filesThatChangedOrWent();
-    void filesOfTheCommandLineWin();
-    void keptWorkComesBackOverTheSession();
-    void anySessionMayBeStored_data();
-    void anySessionMayBeStored();
+    void init()
+    {
+        m_files.emplace();
+        Settings::RestoreSession.setValue(true);
+        m_mesh = m_files->save("man.skinnedmesh", triangleMan());
+        m_anim = m_files->save("man.anim", twoBlocks());
+        m_rigid = m_files->save("box.staticmesh", SampleModels::plainStatic());
+    }
+
+    void theNextStartGoesOn()
+    {
+        QVector3D place;
+        {
+            Started window({m_mesh, m_anim, m_rigid});
+            QVERIFY(QTest::qWaitForWindowExposed(&window));
+            select(window, "treeSkinnedMesh", {{RecordKind::Bone, {1}}});
+            auto *blocks = find<QComboBox>(window, "cbAnimTrackBlock");
+            blocks->setFocus();
+            QTest::keyClick(blocks, Qt::Key_Down);
+            auto *view = find<KVOpenGLWidget>(window, "viewSkinned");
+            const QVector3D start = view->camera().position();
+            QTest::keyPress(view, Qt::Key_W);
+            QTRY_VERIFY(view->camera().position() != start);
+            QTest::keyRelease(view, Qt::Key_W);
+            place = view->camera().position();
+            find<QTabWidget>(window, "tabWidget")->setCurrentWidget(find<QWidget>(window, "tabDatabase"));
+            window.close();
+        }
+        Started window;
+        QCOMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
+        QCOMPARE(rootOf(window, "treeAnim"), QStringLiteral("man.anim"));
+        QCOMPARE(rootOf(window, "treeStaticMesh"), QStringLiteral("box.staticmesh"));
+        QCOMPARE(find<KVTreeView>(window, "treeSkinnedMesh")->currentRecord(),
+                 (RecordRef{RecordKind::Bone, {1}}));
+        QCOMPARE(find<KVTreeView>(window, "treeAnim")->currentRecord(),
+                 (RecordRef{RecordKind::AnimBlock, {1}}));
+        QCOMPARE(playback().blockIndex, 1);
+        QCOMPARE(find<KVOpenGLWidget>(window, "viewSkinned")->camera().position(), place);
+        QCOMPARE(find<QTabWidget>(window, "tabWidget")->currentWidget(),
+                 find<QWidget>(window, "tabDatabase"));
+        QCOMPARE(find<QTabWidget>(window, "tabTrees")->currentIndex(), 1);
+        QCOMPARE(consoleOf(window).filter(QStringLiteral("[Session]")), QStringList());
+        // Until it is stored anew there is none: what brought this start down would bring down the next.
+        QVERIFY(Settings::Session.value().isEmpty());
+    }
+
+    void aSessionIsKeptWhereItIsWanted()
+    {
+        Settings::RestoreSession.setValue(false);
+        Started({m_mesh}).close();
+        QVERIFY(!Settings::Session.exists());
+        Settings::RestoreSession.setValue(true);
+        Started({m_mesh}).close();
+        QVERIFY(Settings::Session.exists());
+        Settings::RestoreSession.setValue(false);
+        Started window;
+        QCOMPARE(rootOf(window, "treeSkinnedMesh"), QString());
+    }
+
+    void aCrashKeepsIt()
+    {
+        {
+            MainWindow window;
+            window.show();
+            window.findChild<Session *>()->setDelay(0);
+            window.openAtStart({m_rigid});
+            QTRY_VERIFY(Settings::Session.value().contains(QStringLiteral("staticmesh")));
+        }
+        Started window;
+        QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - box.staticmesh"));
+    }
+
+    void filesThatChangedOrWent()
+    {
+        {
+            Started window({m_mesh, m_anim, m_rigid});
+            select(window, "treeSkinnedMesh", {{RecordKind::Bone, {1}}});
+            window.close();
+        }
+        SkinnedMesh other = triangleMan();
+        other.nodes.resize(1);
+        QVERIFY(!other.write(m_mesh));
+        QVERIFY(QFile::remove(m_anim));
+        QVERIFY(TestSupport::writeFile(m_rigid, QByteArray(3, 'x')));
+        const Hand hand({});
+        Started window;
+        QTest::qWait(50);
+        QCOMPARE(hand.seen, QStringList());
+        QCOMPARE(find<KVTreeView>(window, "treeSkinnedMesh")->currentRecord().kind, RecordKind::SkinnedMesh);
+        QCOMPARE(rootOf(window, "treeAnim"), QString());
+        const QStringList lines = consoleOf(window).filter(QStringLiteral("[Session]"));
+        QCOMPARE(lines.size(), 3);
+        QCOMPARE(lines[0], QStringLiteral("[Session] '%1' has changed since the last session").arg(m_mesh));
+        QCOMPARE(lines[1], QStringLiteral("[Session] '%1' is not there any more").arg(m_anim));
+        QVERIFY2(lines[2].contains(m_rigid), qPrintable(lines[2]));
+    }
+
+    void filesOfTheCommandLineWin()
+    {
+        Started({m_mesh, m_anim, m_rigid}).close();
+        Started window({m_files->save("other.skinnedmesh", triangleMan())});
+        QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - other.skinnedmesh"));
+        // The animation belonged to another mesh; the other tab has nothing to do with it.
+        QCOMPARE(rootOf(window, "treeAnim"), QString());
+        QCOMPARE(rootOf(window, "treeStaticMesh"), QStringLiteral("box.staticmesh"));
+    }
+
+    void keptWorkComesBackOverTheSession()
+    {
+        {
+            Started window({m_mesh});
+            find<QSpinBox>(window, "sbSMHTFactor")->setValue(9);
+            window.close();
+        }
+        Started window;
+        QCOMPARE(find<QSpinBox>(window, "sbSMHTFactor")->value(), 0);
+        find<QPushButton>(window, "btnRestore")->click();
+        QCOMPARE(find<QSpinBox>(window, "sbSMHTFactor")->value(), 9);
+        QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh * "));
+        // Whatever else is done: what is open stays.
+        window.findChild<Session *>()->store();
+        window.openAtStart({});
+        QCOMPARE(find<QSpinBox>(window, "sbSMHTFactor")->value(), 9);
+    }
+
+    void anySessionMayBeStored()
+    {
+        // What stands there instead of what was stored, whole or within a file's map.
+        const auto check = [this](const char *name, const QVariantMap &damage) {
+            init();
+            Started({m_mesh, m_anim, m_rigid}).close();
+            QVariantMap state = Settings::Session.value();
+            for (auto it = damage.constBegin(); it != damage.constEnd(); ++it) {
+                QVERIFY2(state.contains(it.key()), qPrintable(it.key()));
+                QVariantMap file = state[it.key()].toMap();
+                const QVariantMap instead = it.value().toMap();
+                for (auto part = instead.constBegin(); part != instead.constEnd(); ++part) {
+                    QVERIFY2(file.contains(part.key()), qPrintable(part.key()));
+                    file.insert(part.key(), part.value());
+                }
+                state.insert(it.key(), instead.isEmpty() ? it.value() : file);
+            }
+            Settings::Session.setValue(state);
+            const Hand hand({});
+            Started window;
+            QTest::qWait(20);
+            QVERIFY2(hand.seen.isEmpty(), name);
+            QCOMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
+            for (auto *tree : window.findChildren<KVTreeView *>())
+                QVERIFY2(!tree->topLevelItem(0) || tree->currentRecord().kind != RecordKind::None, name);
+            for (const char *view : {"viewSkinned", "viewStatic"}) {
+                const QVector3D place = find<KVOpenGLWidget>(window, view)->camera().position();
+                QVERIFY2(std::isfinite(place.x()) && place.length() < 1e7f, name);
+            }
+        };
+        const double infinity = std::numeric_limits<double>::infinity();
+        constexpr int most = std::numeric_limits<int>::max();
+        constexpr int least = std::numeric_limits<int>::min();
+        const auto record = [](const QVariantList &numbers) {
+            return QVariantMap{{"record", QVariant(numbers)}};
+        };
+        check("values of other types", {{"viewSkinned", QVariantList{"a", "b", "c", "d", "e"}},
+                                        {"viewStatic", "far"},
+                                        {"block", "first"},
+                                        {"tabWidget", "tabNone"},
+                                        {"tabTrees", QVariantList{1, 2}},
+                                        {"anim", 17}});
+        check("beyond the end", {{"viewSkinned", QVariantList{infinity, 0, qQNaN(), 0, 0}},
+                                 {"viewStatic", QVariantList{1e30, 0, 0, 0, 0}},
+                                 {"block", most},
+                                 {"anim", record({int(RecordKind::AnimAction), most, -1, 0})}});
+        check("below the start", {{"viewSkinned", QVariantList{1}},
+                                  {"viewStatic", QVariantList()},
+                                  {"block", least},
+                                  {"anim", record({int(RecordKind::AnimBlock), least, least, least})}});
+        for (const char *path : {"/", "/dev/zero"})
+            check(path, {{"anim", QVariantMap{{"path", path}}}});
+        // None, an unknown one, and one of another tree.
+        check("odd kinds", {{"skinnedmesh", record({0, 0, 0, 0})},
+                            {"anim", record({999, 0, 0, 0})},
+                            {"staticmesh", record({int(RecordKind::Bone), 1, 0, 0})}});
+    }
 
 private:
-    static QString root(const MainWindow &window, const char *tree)
-    {
-        const QTreeWidgetItem *item = find<KVTreeView>(window, tree)->topLevelItem(0);
-        return item ? item->text(0) : QString();
-    }
-    static QStringList console(const MainWindow &window)
-    {
-        QStringList lines;
-        const auto *list = find<QListWidget>(window, "listConsole");
-        for (int i = 0; i < list->count(); ++i)
-            lines << list->item(i)->text();
-        return lines.filter(QStringLiteral("[Session]"));
-    }
-    static void selectBone(const MainWindow &window)
-    {
-        const RecordRef bone{RecordKind::Bone, {1}};
-        find<KVTreeView>(window, "treeSkinnedMesh")->selectRecords({bone}, bone);
-    }
     struct Started : MainWindow
     {
         explicit Started(const QStringList &paths = {})
@@ -56,204 +207,11 @@ private:
         }
     };
 
-    std::unique_ptr<QTemporaryDir> m_files;
+    std::optional<ProgramFolder> m_files;
     QString m_mesh;
     QString m_anim;
     QString m_rigid;
 };
-
-void tst_Session::init()
-{
-    m_files = std::make_unique<QTemporaryDir>();
-    useFolder(*m_files);
-    qputenv("XDG_DATA_HOME", QFile::encodeName(m_files->path()));
-    Settings::RestoreSession.setValue(true);
-    m_mesh = m_files->filePath(QStringLiteral("man.skinnedmesh"));
-    m_anim = m_files->filePath(QStringLiteral("man.anim"));
-    m_rigid = m_files->filePath(QStringLiteral("box.staticmesh"));
-    QVERIFY(!triangleMan().write(m_mesh));
-    QVERIFY(!twoBlocks().write(m_anim));
-    QVERIFY(!SampleModels::plainStatic().write(m_rigid));
-}
-
-void tst_Session::theNextStartGoesOn()
-{
-    QVector3D place;
-    {
-        Started window({m_mesh, m_anim, m_rigid});
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        selectBone(window);
-        auto *blocks = find<QComboBox>(window, "cbAnimTrackBlock");
-        blocks->setFocus();
-        QTest::keyClick(blocks, Qt::Key_Down);
-        auto *view = find<KVOpenGLWidget>(window, "viewSkinned");
-        const QVector3D start = view->camera().position();
-        QTest::keyPress(view, Qt::Key_W);
-        QTRY_VERIFY(view->camera().position() != start);
-        QTest::keyRelease(view, Qt::Key_W);
-        place = view->camera().position();
-        find<QTabWidget>(window, "tabWidget")->setCurrentWidget(find<QWidget>(window, "tabDatabase"));
-        window.close();
-    }
-    Started window;
-    QCOMPARE(root(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
-    QCOMPARE(root(window, "treeAnim"), QStringLiteral("man.anim"));
-    QCOMPARE(root(window, "treeStaticMesh"), QStringLiteral("box.staticmesh"));
-    QCOMPARE(find<KVTreeView>(window, "treeSkinnedMesh")->currentRecord(),
-             (RecordRef{RecordKind::Bone, {1}}));
-    QCOMPARE(find<KVTreeView>(window, "treeAnim")->currentRecord(), (RecordRef{RecordKind::AnimBlock, {1}}));
-    QCOMPARE(playback().blockIndex, 1);
-    QCOMPARE(find<KVOpenGLWidget>(window, "viewSkinned")->camera().position(), place);
-    QCOMPARE(find<QTabWidget>(window, "tabWidget")->currentWidget(), find<QWidget>(window, "tabDatabase"));
-    QCOMPARE(find<QTabWidget>(window, "tabTrees")->currentIndex(), 1);
-    QCOMPARE(console(window), QStringList());
-    // Until it is stored anew there is none: what brought this start down would bring down the next.
-    QVERIFY(Settings::Session.value().isEmpty());
-}
-
-void tst_Session::aSessionIsKeptWhereItIsWanted()
-{
-    Settings::RestoreSession.setValue(false);
-    Started({m_mesh}).close();
-    QVERIFY(!Settings::Session.exists());
-    Settings::RestoreSession.setValue(true);
-    Started({m_mesh}).close();
-    QVERIFY(Settings::Session.exists());
-    Settings::RestoreSession.setValue(false);
-    Started window;
-    QCOMPARE(root(window, "treeSkinnedMesh"), QString());
-}
-
-void tst_Session::aCrashKeepsIt()
-{
-    {
-        MainWindow window;
-        window.show();
-        window.findChild<Session *>()->setDelay(0);
-        window.openAtStart({m_rigid});
-        QTRY_VERIFY(Settings::Session.value().contains(QStringLiteral("staticmesh")));
-    }
-    Started window;
-    QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - box.staticmesh"));
-}
-
-void tst_Session::filesThatChangedOrWent()
-{
-    {
-        Started window({m_mesh, m_anim, m_rigid});
-        selectBone(window);
-        window.close();
-    }
-    SkinnedMesh other = triangleMan();
-    other.nodes.resize(1);
-    QVERIFY(!other.write(m_mesh));
-    QVERIFY(QFile::remove(m_anim));
-    QVERIFY(TestSupport::writeFile(m_rigid, QByteArray(3, 'x')));
-    const Hand hand({});
-    Started window;
-    QTest::qWait(50);
-    QCOMPARE(hand.seen, QStringList());
-    QCOMPARE(find<KVTreeView>(window, "treeSkinnedMesh")->currentRecord().kind, RecordKind::SkinnedMesh);
-    QCOMPARE(root(window, "treeAnim"), QString());
-    const QStringList lines = console(window);
-    QCOMPARE(lines.size(), 3);
-    QCOMPARE(lines[0], QStringLiteral("[Session] '%1' has changed since the last session").arg(m_mesh));
-    QCOMPARE(lines[1], QStringLiteral("[Session] '%1' is not there any more").arg(m_anim));
-    QVERIFY2(lines[2].contains(m_rigid), qPrintable(lines[2]));
-}
-
-void tst_Session::filesOfTheCommandLineWin()
-{
-    Started({m_mesh, m_anim, m_rigid}).close();
-    const QString other = m_files->filePath(QStringLiteral("other.skinnedmesh"));
-    QVERIFY(!triangleMan().write(other));
-    Started window({other});
-    QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - other.skinnedmesh"));
-    // The animation belonged to another mesh; the other tab has nothing to do with it.
-    QCOMPARE(root(window, "treeAnim"), QString());
-    QCOMPARE(root(window, "treeStaticMesh"), QStringLiteral("box.staticmesh"));
-}
-
-void tst_Session::keptWorkComesBackOverTheSession()
-{
-    {
-        Started window({m_mesh});
-        find<QSpinBox>(window, "sbSMHTFactor")->setValue(9);
-        window.close();
-    }
-    Started window;
-    QCOMPARE(find<QSpinBox>(window, "sbSMHTFactor")->value(), 0);
-    find<QPushButton>(window, "btnRestore")->click();
-    QCOMPARE(find<QSpinBox>(window, "sbSMHTFactor")->value(), 9);
-    QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh * "));
-    // Whatever else is done: what is open stays.
-    window.findChild<Session *>()->store();
-    window.openAtStart({});
-    QCOMPARE(find<QSpinBox>(window, "sbSMHTFactor")->value(), 9);
-}
-
-void tst_Session::anySessionMayBeStored_data()
-{
-    QTest::addColumn<QVariantMap>("damage"); ///< instead of what was stored, whole or within a file's map
-    const double infinity = std::numeric_limits<double>::infinity();
-    constexpr int most = std::numeric_limits<int>::max();
-    constexpr int least = std::numeric_limits<int>::min();
-    const auto record = [](const QVariantList &numbers) {
-        return QVariantMap{{"record", QVariant(numbers)}};
-    };
-    QTest::newRow("values of other types")
-        << QVariantMap{{"viewSkinned", QVariantList{"a", "b", "c", "d", "e"}},
-                       {"viewStatic", "far"},
-                       {"block", "first"},
-                       {"tabWidget", "tabNone"},
-                       {"tabTrees", QVariantList{1, 2}},
-                       {"anim", 17}};
-    QTest::newRow("beyond the end") << QVariantMap{
-        {"viewSkinned", QVariantList{infinity, 0, qQNaN(), 0, 0}},
-        {"viewStatic", QVariantList{1e30, 0, 0, 0, 0}},
-        {"block", most},
-        {"anim", record({int(RecordKind::AnimAction), most, -1, 0})}};
-    QTest::newRow("below the start") << QVariantMap{
-        {"viewSkinned", QVariantList{1}},
-        {"viewStatic", QVariantList()},
-        {"block", least},
-        {"anim", record({int(RecordKind::AnimBlock), least, least, least})}};
-    for (const char *path : {"/", "/dev/zero"})
-        QTest::newRow(path) << QVariantMap{{"anim", QVariantMap{{"path", path}}}};
-    // None, an unknown one, and one of another tree.
-    QTest::newRow("odd kinds") << QVariantMap{{"skinnedmesh", record({0, 0, 0, 0})},
-                                              {"anim", record({999, 0, 0, 0})},
-                                              {"staticmesh", record({int(RecordKind::Bone), 1, 0, 0})}};
-}
-
-void tst_Session::anySessionMayBeStored()
-{
-    QFETCH(QVariantMap, damage);
-    Started({m_mesh, m_anim, m_rigid}).close();
-    QVariantMap state = Settings::Session.value();
-    for (auto it = damage.constBegin(); it != damage.constEnd(); ++it) {
-        QVERIFY2(state.contains(it.key()), qPrintable(it.key()));
-        QVariantMap file = state[it.key()].toMap();
-        const QVariantMap instead = it.value().toMap();
-        for (auto part = instead.constBegin(); part != instead.constEnd(); ++part) {
-            QVERIFY2(file.contains(part.key()), qPrintable(part.key()));
-            file.insert(part.key(), part.value());
-        }
-        state.insert(it.key(), instead.isEmpty() ? it.value() : file);
-    }
-    Settings::Session.setValue(state);
-    const Hand hand({});
-    Started window;
-    QTest::qWait(20);
-    QCOMPARE(hand.seen, QStringList());
-    QCOMPARE(root(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
-    for (auto *tree : window.findChildren<KVTreeView *>())
-        QVERIFY(!tree->topLevelItem(0) || tree->currentRecord().kind != RecordKind::None);
-    for (const char *view : {"viewSkinned", "viewStatic"}) {
-        const QVector3D place = find<KVOpenGLWidget>(window, view)->camera().position();
-        QVERIFY(std::isfinite(place.x()) && place.length() < 1e7f);
-    }
-}
 
 QTEST_MAIN(tst_Session)
 #include "tst_session.moc"

@@ -4,12 +4,7 @@
 
 #include "Hand.h"
 #include "LocalServers.h"
-#include "Settings.h"
-#include "TestSupport.h"
 
-#include <QAction>
-#include <QDesktopServices>
-#include <QMainWindow>
 #include <QNetworkProxyFactory>
 #include <QNetworkReply>
 
@@ -22,13 +17,102 @@ public slots:
     void take(const QUrl &url) { m_opened.append(url.toString()); }
 
 private slots:
-    void initTestCase();
-    void init();
-    void boxes_data();
-    void boxes();
-    void checksAtStart();
-    void standsAboveWhatIsOpen();
-    void aClosedWindowIsNotAsked();
+    void initTestCase()
+    {
+        QNetworkProxyFactory::setUseSystemConfiguration(false);
+        qRegisterMetaType<QNetworkReply *>();
+        QCoreApplication::setApplicationVersion(QStringLiteral("0.9.2"));
+        for (const char *scheme : {"http", "https", "file"})
+            QDesktopServices::setUrlHandler(QLatin1String(scheme), this, "take");
+    }
+
+    void init()
+    {
+        TestSupport::useSettingsHome(m_home);
+        m_web = std::make_unique<LocalWeb>();
+        m_opened.clear();
+        Settings::UpdateUrl.setValue(m_web->address());
+        Settings::UpdateDate.setValue(QDateTime::currentDateTime());
+    }
+
+    void boxes()
+    {
+        const auto check = [this](const QByteArray &body, Box::StandardButton answer, const QStringList &seen,
+                                  const QStringList &opened = {}) {
+            init();
+            m_web->serve(body);
+            Shown shown;
+            Qt::TextFormat format = Qt::AutoText;
+            bool yesIsDefault = false;
+            Hand hand({[&](QDialog *dialog) {
+                           auto *box = static_cast<Box *>(dialog);
+                           format = box->textFormat();
+                           yesIsDefault =
+                               box->button(Box::Yes) && box->defaultButton() == box->button(Box::Yes);
+                           box->button(answer)->click();
+                       },
+                       Hand::press(Box::Ok)});
+            shown.action.trigger();
+            QTRY_COMPARE(hand.seen, seen);
+            QTRY_VERIFY(!QApplication::activeModalWidget());
+            QCOMPARE(m_opened, opened);
+            QVERIFY(answer == Box::Ok || (format == Qt::PlainText && yesIsDefault));
+        };
+        const auto offer = [](const QString &version, const QString &message) {
+            return "New Version Available|Korvane v" + version +
+                   " is now available! Do you want to update?\n\n" + message;
+        };
+        check(releaseDocument("1", "https://a/b?c=d"), Box::Yes, {offer("1", "News")}, {"https://a/b?c=d"});
+        // Markup and place markers stay what they are.
+        check(releaseDocument("1.%2", "https://a", "<b>bold</b>\n<img src='file:///x'>%1"), Box::No,
+              {offer("1.%2", "<b>bold</b> <img src='file:///x'>%1")});
+        check(releaseDocument("1", "file:///bin/sh"), Box::Yes,
+              {offer("1", "News"), "Link|This is no web page, so it was not opened:\nfile:///bin/sh"});
+        check(releaseDocument("1", "https://a", QByteArray(50000, 'x')), Box::No,
+              {offer("1", QString(2000, 'x'))});
+        check(releaseDocument("0.9.2", "https://a"), Box::Ok, {"Updates|You are up to date!"});
+    }
+
+    void checksAtStart()
+    {
+        QSettings().remove(Settings::UpdateDate.name());
+        m_web->serve(releaseDocument("1", "https://a"));
+        const Shown shown;
+        const Hand hand({});
+        QTRY_COMPARE(hand.seen.size(), 1);
+        QCOMPARE(m_web->requests.size(), 1);
+        QVERIFY(m_opened.isEmpty());
+    }
+
+    void standsAboveWhatIsOpen()
+    {
+        Shown shown;
+        QDialog open(&shown.window);
+        open.open();
+        QWidget *parent = nullptr;
+        m_web->serve(releaseDocument("1", "https://a"));
+        const Hand hand({[](QDialog *) {},
+                         [&parent](QDialog *box) {
+                             parent = box->parentWidget();
+                             box->reject();
+                         }});
+        QTRY_COMPARE(hand.seen.size(), 1);
+        shown.action.trigger();
+        QTRY_COMPARE(parent, &open);
+    }
+
+    void aClosedWindowIsNotAsked()
+    {
+        Shown shown;
+        m_web->serve(releaseDocument("1", "https://a"));
+        shown.action.trigger();
+        QSignalSpy finished(shown.window.findChild<QNetworkAccessManager *>(),
+                            &QNetworkAccessManager::finished);
+        shown.window.close();
+        QTRY_COMPARE(finished.size(), 1);
+        QCoreApplication::processEvents();
+        QVERIFY(!QApplication::activeModalWidget());
+    }
 
 private:
     using Box = QMessageBox;
@@ -44,115 +128,6 @@ private:
     std::unique_ptr<LocalWeb> m_web;
     QStringList m_opened;
 };
-
-void tst_UpdatePrompt::initTestCase()
-{
-    QNetworkProxyFactory::setUseSystemConfiguration(false);
-    qRegisterMetaType<QNetworkReply *>();
-    QCoreApplication::setApplicationVersion(QStringLiteral("0.9.2"));
-    for (const char *scheme : {"http", "https", "file"})
-        QDesktopServices::setUrlHandler(QLatin1String(scheme), this, "take");
-}
-
-void tst_UpdatePrompt::init()
-{
-    TestSupport::useSettingsHome(m_home);
-    m_web = std::make_unique<LocalWeb>();
-    m_opened.clear();
-    Settings::UpdateUrl.setValue(m_web->address());
-    Settings::UpdateDate.setValue(QDateTime::currentDateTime());
-}
-
-void tst_UpdatePrompt::boxes_data()
-{
-    QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<QStringList>("seen");
-    QTest::addColumn<QString>("opened");
-    const auto offer = [](const QString &version, const QString &message) {
-        return "New Version Available|Korvane v" + version + " is now available! Do you want to update?\n\n" +
-               message;
-    };
-    const QString refused = "Link|This is no web page, so it was not opened:\n";
-    QTest::newRow("yes") << releaseDocument("1", "https://a/b?c=d") << int(Box::Yes)
-                         << QStringList(offer("1", "News")) << "https://a/b?c=d";
-    QTest::newRow("markup and place markers")
-        << releaseDocument("1.%2", "https://a", "<b>bold</b>\n<img src='file:///x'>%1") << int(Box::No)
-        << QStringList(offer("1.%2", "<b>bold</b> <img src='file:///x'>%1")) << "";
-    QTest::newRow("file") << releaseDocument("1", "file:///bin/sh") << int(Box::Yes)
-                          << QStringList({offer("1", "News"), refused + "file:///bin/sh"}) << "";
-    QTest::newRow("endless message") << releaseDocument("1", "https://a", QByteArray(50000, 'x'))
-                                     << int(Box::No) << QStringList(offer("1", QString(2000, 'x'))) << "";
-    QTest::newRow("nothing new") << releaseDocument("0.9.2", "https://a") << int(Box::Ok)
-                                 << QStringList("Updates|You are up to date!") << "";
-}
-
-void tst_UpdatePrompt::boxes()
-{
-    QFETCH(QByteArray, body);
-    QFETCH(int, answer);
-    QFETCH(QStringList, seen);
-    QFETCH(QString, opened);
-    m_web->serve(body);
-    Shown shown;
-    Qt::TextFormat format = Qt::AutoText;
-    bool yesIsDefault = false;
-    Hand hand({[&](QDialog *dialog) {
-                   auto *box = static_cast<Box *>(dialog);
-                   format = box->textFormat();
-                   yesIsDefault = box->button(Box::Yes) && box->defaultButton() == box->button(Box::Yes);
-                   box->button(Box::StandardButton(answer))->click();
-               },
-               Hand::press(Box::Ok)});
-    shown.action.trigger();
-    QTRY_COMPARE(hand.seen, seen);
-    QTRY_VERIFY(!QApplication::activeModalWidget());
-    QCOMPARE(m_opened, opened.isEmpty() ? QStringList() : QStringList(opened));
-    if (answer == Box::Ok)
-        return;
-    QCOMPARE(format, Qt::PlainText);
-    QVERIFY(yesIsDefault);
-}
-
-void tst_UpdatePrompt::checksAtStart()
-{
-    QSettings().remove(Settings::UpdateDate.name());
-    m_web->serve(releaseDocument("1", "https://a"));
-    const Shown shown;
-    const Hand hand({});
-    QTRY_COMPARE(hand.seen.size(), 1);
-    QCOMPARE(m_web->requests.size(), 1);
-    QVERIFY(m_opened.isEmpty());
-}
-
-void tst_UpdatePrompt::standsAboveWhatIsOpen()
-{
-    Shown shown;
-    QDialog open(&shown.window);
-    open.open();
-    QWidget *parent = nullptr;
-    m_web->serve(releaseDocument("1", "https://a"));
-    const Hand hand({[](QDialog *) {},
-                     [&parent](QDialog *box) {
-                         parent = box->parentWidget();
-                         box->reject();
-                     }});
-    QTRY_COMPARE(hand.seen.size(), 1);
-    shown.action.trigger();
-    QTRY_COMPARE(parent, &open);
-}
-
-void tst_UpdatePrompt::aClosedWindowIsNotAsked()
-{
-    Shown shown;
-    m_web->serve(releaseDocument("1", "https://a"));
-    shown.action.trigger();
-    QSignalSpy finished(shown.window.findChild<QNetworkAccessManager *>(), &QNetworkAccessManager::finished);
-    shown.window.close();
-    QTRY_COMPARE(finished.size(), 1);
-    QCoreApplication::processEvents();
-    QVERIFY(!QApplication::activeModalWidget());
-}
 
 QTEST_MAIN(tst_UpdatePrompt)
 #include "tst_updateprompt.moc"

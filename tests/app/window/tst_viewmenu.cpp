@@ -2,16 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "Hand.h"
 #include "KVOpenGLWidget.h"
-#include "StaticMesh.h"
-
-#include <QAction>
-#include <QCheckBox>
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QSpinBox>
-#include <QStatusBar>
 
 #include <cmath>
 
@@ -21,20 +11,248 @@ class tst_ViewMenu : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void displayIsRemembered();
-    void keysBelongToTheView();
-    void clicksSelect();
-    void selectionIsMarkedAndFramed();
-    void thePaletteHasEachOnce();
-    void picturesAreSaved();
+    void init()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        m_files.emplace();
+        Settings::AnimationAutoPlay.setValue(false);
+        Settings::HideMeshData.setValue(false);
+        Settings::HideAnimData.setValue(false);
+    }
+
+    void displayIsRemembered()
+    {
+        {
+            const auto window = open();
+            auto *view = find<KVOpenGLWidget>(*window, "viewSkinned");
+            QVERIFY(!view->findChild<QLabel *>(QStringLiteral("lblViewStatistics")));
+            QTest::keyClick(view, Qt::Key_4);
+            QTest::keyClick(view, Qt::Key_B);
+            QTest::keyClick(view, Qt::Key_H);
+            for (const char *name :
+                 {"actionStatistics", "actionOrbit", "actionGround", "actionTransGizmo", "actionCullBack"})
+                find<QAction>(*window, name)->trigger();
+            // The bars of both views show the same.
+            const auto bars = window->findChildren<QComboBox *>(QStringLiteral("cbSurfSelect"));
+            bars.at(0)->setFocus();
+            QTest::keyClick(bars.at(0), Qt::Key_End);
+            QCOMPARE(bars.at(1)->currentIndex(), 4);
+            const auto speeds = window->findChildren<QSlider *>(QStringLiteral("sliderMoveSpeed"));
+            speeds.at(1)->setValue(250);
+            QCOMPARE(speeds.at(0)->value(), 250);
+            find<QSlider>(*window, "sliderBrightness")->setValue(4);
+            QVERIFY(view->findChild<QLabel *>(QStringLiteral("lblViewStatistics")));
+        }
+        QCOMPARE(Settings::Shading.value(), 1);
+        QCOMPARE(Settings::MouseSpeed.value(), 2.5f);
+        QCOMPARE(Settings::Brightness.value(), 2.0f);
+        QCOMPARE(Settings::SurfSelectType.value(), 4);
+        const auto window = open();
+        for (const char *name : {"actionWireframe", "actionSkeleton", "actionHotPoints", "actionStatistics",
+                                 "actionOrbit", "actionGround", "actionTransGizmo", "actionCullBack"})
+            QVERIFY2(find<QAction>(*window, name)->isChecked(), name);
+        QVERIFY(!find<QAction>(*window, "actionShaded")->isChecked());
+        QVERIFY(find<KVOpenGLWidget>(*window, "viewStatic")->findChild<QLabel *>());
+    }
+
+    // Letters and digits are typed elsewhere.
+    void keysBelongToTheView()
+    {
+        const auto window = open();
+        auto *filter = find<KVTreeView>(*window, "treeSkinnedMesh")->parentWidget()->findChild<QLineEdit *>();
+        filter->setFocus();
+        QTest::keyClicks(filter, QStringLiteral("bone 14f"));
+        QCOMPARE(filter->text(), QStringLiteral("bone 14f"));
+        QVERIFY(!find<QAction>(*window, "actionWireframe")->isChecked());
+        auto *speed = find<QDoubleSpinBox>(*window, "sbAnimTrackSpeed");
+        speed->setFocus();
+        speed->selectAll();
+        QTest::keyClicks(speed, QStringLiteral("3"));
+        auto *view = find<KVOpenGLWidget>(*window, "viewSkinned");
+        QCOMPARE(view->camera().yaw(), 180.0f);
+
+        const auto yaw = [view](int key, Qt::KeyboardModifiers keys) {
+            view->setFocus();
+            QTest::keyClick(view, Qt::Key(key), keys);
+            return view->camera().yaw();
+        };
+        QCOMPARE(yaw(Qt::Key_3, Qt::NoModifier), 270.0f);
+        QCOMPARE(yaw(Qt::Key_3, Qt::ControlModifier), 90.0f);
+        QCOMPARE(yaw(Qt::Key_1, Qt::KeypadModifier), 180.0f);
+        QCOMPARE(yaw(Qt::Key_1, Qt::ControlModifier | Qt::KeypadModifier), 0.0f);
+        QCOMPARE(yaw(Qt::Key_7, Qt::KeypadModifier), 180.0f);
+        QCOMPARE(view->camera().pitch(), -89.0f);
+        QCOMPARE(yaw(Qt::Key_7, Qt::ControlModifier), 180.0f);
+        QCOMPARE(view->camera().pitch(), 89.0f);
+    }
+
+    void clicksSelect()
+    {
+        const StaticMesh second = wall({{"_white", {}}, {"_white", {0, 1, 2}}});
+        const auto window = open({m_files->save("wall.staticmesh", second)});
+        auto *view = find<KVOpenGLWidget>(*window, "viewSkinned");
+        auto *tree = find<KVTreeView>(*window, "treeSkinnedMesh");
+        auto *tabs = find<QTabWidget>(*window, "tabTrees");
+        const auto click = [](QWidget *where, const QPoint &offset) {
+            QTest::mouseClick(where, Qt::LeftButton, {}, where->rect().center() + offset);
+        };
+        QTest::keyClick(view, Qt::Key_Home);
+        view->grabFramebuffer();
+        click(view, {0, 30});
+        QCOMPARE(tree->currentRecord(), (RecordRef{RecordKind::SkinnedSurface, {0}}));
+        QVERIFY(view->hasFocus());
+        const RecordRef root{RecordKind::SkinnedMesh, {}};
+        select(*window, "treeSkinnedMesh", {root});
+        click(view, {-view->width() / 2 + 5, 0});
+        QCOMPARE(tree->currentRecord(), root);
+
+        // Bone 0 stands in the middle of its vertices.
+        find<QAction>(*window, "actionSkeleton")->trigger();
+        select(*window, "treeSkinnedMesh", {{RecordKind::Bone, {0}}});
+        QTest::keyClick(view, Qt::Key_F);
+        select(*window, "treeSkinnedMesh", {root});
+        view->grabFramebuffer();
+        click(view, {});
+        QCOMPARE(tree->currentRecord(), (RecordRef{RecordKind::Bone, {0}}));
+
+        // The animation stays in front, and has the bone too; it has no surfaces.
+        tabs->setCurrentIndex(1);
+        select(*window, "treeSkinnedMesh", {root});
+        click(view, {});
+        const RecordRef bone{RecordKind::AnimBone, {0, 0}};
+        QCOMPARE(find<KVTreeView>(*window, "treeAnim")->currentRecord(), bone);
+        find<QAction>(*window, "actionSkeleton")->trigger();
+        click(view, {0, 30});
+        QCOMPARE(find<KVTreeView>(*window, "treeAnim")->currentRecord(), bone);
+        QCOMPARE(tree->currentRecord(), root);
+        QCOMPARE(tabs->currentIndex(), 1);
+        tabs->setCurrentIndex(0);
+
+        // A record that the filter hides is named.
+        tree->setFilter(QStringLiteral("bone 0"));
+        QTest::keyClick(view, Qt::Key_Home);
+        click(view, {0, 30});
+        QVERIFY(window->statusBar()->currentMessage().contains(QStringLiteral("filter")));
+
+        find<QTabWidget>(*window, "tabWidget")->setCurrentIndex(1);
+        auto *rigid = find<KVOpenGLWidget>(*window, "viewStatic");
+        QTRY_VERIFY(rigid->isValid());
+        rigid->grabFramebuffer();
+        rigid->setFocus();
+        QTest::keyClick(rigid, Qt::Key_Home);
+        click(rigid, {0, 30});
+        QCOMPARE(find<KVTreeView>(*window, "treeStaticMesh")->currentRecord(),
+                 (RecordRef{RecordKind::StaticSurface, {1}}));
+    }
+
+    void selectionIsMarkedAndFramed()
+    {
+        const auto window = open();
+        auto *view = find<KVOpenGLWidget>(*window, "viewSkinned");
+        auto *tree = find<KVTreeView>(*window, "treeSkinnedMesh");
+        const auto eyeAfter = [&](Qt::Key key, QWidget *where) {
+            where->setFocus();
+            QTest::keyClick(where, key);
+            return view->camera().eye();
+        };
+        const QVector3D all = eyeAfter(Qt::Key_Home, view);
+        const auto framed = [&](const QVector<RecordRef> &records) {
+            select(*window, "treeSkinnedMesh", records);
+            return eyeAfter(Qt::Key_F, tree);
+        };
+        // Without anything that has a place it is the whole model.
+        for (const RecordRef &record :
+             {RecordRef{RecordKind::SkinnedMesh, {}}, RecordRef{RecordKind::SkinnedSurface, {1}},
+              RecordRef{RecordKind::SkinnedSurface, {0}},
+              RecordRef{RecordKind::SkinnedTriangleIndex, {0, 1}}})
+            QVERIFY((framed({record}) - all).length() < 1.0f);
+        // The view has a model's +x at -x, its y at z and its z at y.
+        const QVector3D vertex = framed({{RecordKind::SkinnedVertex, {1}}});
+        QVERIFY(std::fabs(vertex.x() + 100.0f) < 1.0f && std::fabs(vertex.y()) < 1.0f &&
+                vertex.z() > all.z());
+        const QVector3D point = framed({{RecordKind::HotPoint, {1}}});
+        QVERIFY(std::fabs(point.y() - 150.0f) < 1.0f && point.z() > all.z());
+        const QVector3D bone = framed({{RecordKind::Bone, {1}}}); // with the vertex at its end, 200 above it
+        QVERIFY(std::fabs(bone.y() - 160.0f) < 1.0f);
+        const QVector3D both = framed({{RecordKind::SkinnedVertex, {0}}, {RecordKind::SkinnedVertex, {1}}});
+        QVERIFY(std::fabs(both.x()) < 1.0f && both.z() < vertex.z());
+
+        // Selected bones are orange.
+        find<QAction>(*window, "actionSkeleton")->trigger();
+        QTest::keyClick(view, Qt::Key_Home);
+        const auto orange = [view] { return countPixels(view->grabFramebuffer(), QColor(0xffff8c00)); };
+        select(*window, "treeSkinnedMesh", {{RecordKind::SkinnedVertex, {0}}});
+        QCOMPARE(orange(), 0);
+        select(*window, "treeSkinnedMesh", {{RecordKind::Bone, {1}}});
+        const int one = orange();
+        QVERIFY(one > 0);
+        select(*window, "treeSkinnedMesh", {{RecordKind::Bone, {1}}, {RecordKind::Bone, {0}}});
+        QVERIFY(orange() > one);
+    }
+
+    void picturesAreSaved()
+    {
+        MainWindow empty;
+        QVERIFY(!find<QAction>(empty, "actionSavePicture")->isEnabled());
+        const auto window = open();
+        auto *action = find<QAction>(*window, "actionSavePicture");
+        auto *view = find<KVOpenGLWidget>(*window, "viewSkinned");
+        QTest::keyClick(view, Qt::Key_Home);
+        const QString path = m_files->path(QStringLiteral("shots of it.png"));
+        {
+            const Hand hand({pictureOf(320, true), Hand::file(path)});
+            action->trigger();
+            QCOMPARE(hand.seen.size(), 2);
+        }
+        const QImage clear(path);
+        QCOMPARE(clear.width(), 320);
+        QCOMPARE(clear.height(), qRound(320.0 * view->height() / view->width()));
+        QCOMPARE(clear.pixelColor(1, 1).alpha(), 0);
+        QCOMPARE(clear.pixelColor(160, clear.height() / 2 + 20), QColor(Qt::white));
+        QVERIFY(window->statusBar()->currentMessage().contains(QStringLiteral("shots of it.png")));
+
+        // Asked again it knows the answers; the view may have had other proportions then.
+        Settings::PictureSize.setValue({320, 7});
+        {
+            const Hand hand(
+                {[&clear](QDialog *dialog) {
+                     QCOMPARE(find<QSpinBox>(*dialog, "sbPictureWidth")->value(), 320);
+                     QCOMPARE(find<QSpinBox>(*dialog, "sbPictureHeight")->value(), clear.height());
+                     auto *box = find<QCheckBox>(*dialog, "cbTransparent");
+                     QVERIFY(box->isChecked());
+                     box->click();
+                     dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save)->click();
+                 },
+                 Hand::file(m_files->path("second"))});
+            action->trigger();
+        }
+        const QImage whole(m_files->path("second.png"));
+        QVERIFY(!whole.hasAlphaChannel());
+        QCOMPARE(whole.pixelColor(1, 1), Settings::BGColor.value());
+
+        const Hand hand({pictureOf(64, false), Hand::file("/proc/no.png"), Hand::press(QMessageBox::Ok)});
+        action->trigger();
+        QCOMPARE(hand.seen.size(), 3);
+        QVERIFY2(hand.seen[2].startsWith(QStringLiteral("File error|Failed to save\n/proc/no.png")),
+                 qPrintable(hand.seen[2]));
+    }
 
 private:
     /// A window that shows the man with its skinned view in front, posed.
-    std::unique_ptr<MainWindow> open(const QStringList &more = {});
-    static void select(const MainWindow &window, const char *tree, const QVector<RecordRef> &records)
+    std::unique_ptr<MainWindow> open(const QStringList &more = {})
     {
-        find<KVTreeView>(window, tree)->selectRecords(records, records.last());
+        SkinnedMesh mesh = triangleMan();
+        mesh.surfaces.push_back({QStringLiteral("materials/m/_white"), {}});
+        mesh.hotPoints.resize(2);
+        mesh.hotPoints[1].origin = {0, 0, 150};
+        AnimFile file = twoBlocks();
+        file.blocks[0].nodes[1].initialPosition = {0, 0, 60};
+        const QStringList man{m_files->save("man.skinnedmesh", mesh), m_files->save("man.anim", file)};
+        auto window = std::make_unique<ShownWindow>(man + more);
+        auto *view = find<KVOpenGLWidget>(*window, "viewSkinned");
+        view->setFocus();
+        view->grabFramebuffer();
+        return window;
     }
     static Hand::Answer pictureOf(int width, bool transparent)
     {
@@ -49,263 +267,8 @@ private:
         };
     }
 
-    std::unique_ptr<QTemporaryDir> m_files;
+    std::optional<ProgramFolder> m_files;
 };
-
-void tst_ViewMenu::init()
-{
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    m_files = std::make_unique<QTemporaryDir>();
-    useFolder(*m_files);
-    Settings::AnimationAutoPlay.setValue(false);
-    Settings::HideMeshData.setValue(false);
-    Settings::HideAnimData.setValue(false);
-}
-
-std::unique_ptr<MainWindow> tst_ViewMenu::open(const QStringList &more)
-{
-    const QString man = m_files->filePath(QStringLiteral("man.skinnedmesh"));
-    const QString anim = m_files->filePath(QStringLiteral("man.anim"));
-    SkinnedMesh mesh = triangleMan();
-    mesh.surfaces.push_back({QStringLiteral("materials/m/_white"), {}});
-    mesh.hotPoints.resize(2);
-    mesh.hotPoints[1].origin = {0, 0, 150};
-    AnimFile file = twoBlocks();
-    file.blocks[0].nodes[1].initialPosition = {0, 0, 60};
-    if (mesh.write(man) || file.write(anim))
-        qFatal("cannot write");
-    auto window = std::make_unique<ShownWindow>(QStringList{man, anim} + more);
-    auto *view = find<KVOpenGLWidget>(*window, "viewSkinned");
-    view->setFocus();
-    view->grabFramebuffer();
-    return window;
-}
-
-void tst_ViewMenu::displayIsRemembered()
-{
-    {
-        const auto window = open();
-        auto *view = find<KVOpenGLWidget>(*window, "viewSkinned");
-        QVERIFY(!view->findChild<QLabel *>(QStringLiteral("lblViewStatistics")));
-        QTest::keyClick(view, Qt::Key_4);
-        QTest::keyClick(view, Qt::Key_B);
-        QTest::keyClick(view, Qt::Key_H);
-        find<QAction>(*window, "actionStatistics")->trigger();
-        find<QAction>(*window, "actionOrbit")->trigger();
-        QVERIFY(view->findChild<QLabel *>(QStringLiteral("lblViewStatistics")));
-    }
-    QCOMPARE(Settings::Shading.value(), 1);
-    const auto window = open();
-    for (const char *name :
-         {"actionWireframe", "actionSkeleton", "actionHotPoints", "actionStatistics", "actionOrbit"})
-        QVERIFY2(find<QAction>(*window, name)->isChecked(), name);
-    QVERIFY(!find<QAction>(*window, "actionShaded")->isChecked());
-    QVERIFY(find<KVOpenGLWidget>(*window, "viewStatic")->findChild<QLabel *>());
-}
-
-// Letters and digits are typed elsewhere.
-void tst_ViewMenu::keysBelongToTheView()
-{
-    const auto window = open();
-    auto *filter = find<KVTreeView>(*window, "treeSkinnedMesh")->parentWidget()->findChild<QLineEdit *>();
-    filter->setFocus();
-    QTest::keyClicks(filter, QStringLiteral("bone 14f"));
-    QCOMPARE(filter->text(), QStringLiteral("bone 14f"));
-    QVERIFY(!find<QAction>(*window, "actionWireframe")->isChecked());
-    auto *speed = find<QDoubleSpinBox>(*window, "sbAnimTrackSpeed");
-    speed->setFocus();
-    speed->selectAll();
-    QTest::keyClicks(speed, QStringLiteral("3"));
-    auto *view = find<KVOpenGLWidget>(*window, "viewSkinned");
-    QCOMPARE(view->camera().yaw(), 180.0f);
-
-    const auto yaw = [view](int key, Qt::KeyboardModifiers keys) {
-        view->setFocus();
-        QTest::keyClick(view, Qt::Key(key), keys);
-        return view->camera().yaw();
-    };
-    QCOMPARE(yaw(Qt::Key_3, Qt::NoModifier), 270.0f);
-    QCOMPARE(yaw(Qt::Key_3, Qt::ControlModifier), 90.0f);
-    QCOMPARE(yaw(Qt::Key_1, Qt::KeypadModifier), 180.0f);
-    QCOMPARE(yaw(Qt::Key_1, Qt::ControlModifier | Qt::KeypadModifier), 0.0f);
-    QCOMPARE(yaw(Qt::Key_7, Qt::KeypadModifier), 180.0f);
-    QCOMPARE(view->camera().pitch(), -89.0f);
-    QCOMPARE(yaw(Qt::Key_7, Qt::ControlModifier), 180.0f);
-    QCOMPARE(view->camera().pitch(), 89.0f);
-}
-
-void tst_ViewMenu::clicksSelect()
-{
-    StaticMesh wall;
-    wall.surfaces = {{QStringLiteral("_white"), {}}, {QStringLiteral("_white"), {0, 1, 2}}};
-    wall.vertices = {{{-100, 0, 0}, {}, {}}, {{0, 0, 200}, {}, {}}, {{100, 0, 0}, {}, {}}};
-    const QString path = m_files->filePath(QStringLiteral("wall.staticmesh"));
-    QVERIFY(!wall.write(path));
-    const auto window = open({path});
-    auto *view = find<KVOpenGLWidget>(*window, "viewSkinned");
-    auto *tree = find<KVTreeView>(*window, "treeSkinnedMesh");
-    auto *tabs = find<QTabWidget>(*window, "tabTrees");
-    const auto click = [](QWidget *where, const QPoint &offset) {
-        QTest::mouseClick(where, Qt::LeftButton, {}, where->rect().center() + offset);
-    };
-    QTest::keyClick(view, Qt::Key_Home);
-    view->grabFramebuffer();
-    click(view, {0, 30});
-    QCOMPARE(tree->currentRecord(), (RecordRef{RecordKind::SkinnedSurface, {0}}));
-    QVERIFY(view->hasFocus());
-    const RecordRef root{RecordKind::SkinnedMesh, {}};
-    select(*window, "treeSkinnedMesh", {root});
-    click(view, {-view->width() / 2 + 5, 0});
-    QCOMPARE(tree->currentRecord(), root);
-
-    // Bone 0 stands in the middle of its vertices.
-    find<QAction>(*window, "actionSkeleton")->trigger();
-    select(*window, "treeSkinnedMesh", {{RecordKind::Bone, {0}}});
-    QTest::keyClick(view, Qt::Key_F);
-    select(*window, "treeSkinnedMesh", {root});
-    view->grabFramebuffer();
-    click(view, {});
-    QCOMPARE(tree->currentRecord(), (RecordRef{RecordKind::Bone, {0}}));
-
-    // The animation stays in front, and has the bone too; it has no surfaces.
-    tabs->setCurrentIndex(1);
-    select(*window, "treeSkinnedMesh", {root});
-    click(view, {});
-    const RecordRef bone{RecordKind::AnimBone, {0, 0}};
-    QCOMPARE(find<KVTreeView>(*window, "treeAnim")->currentRecord(), bone);
-    find<QAction>(*window, "actionSkeleton")->trigger();
-    click(view, {0, 30});
-    QCOMPARE(find<KVTreeView>(*window, "treeAnim")->currentRecord(), bone);
-    QCOMPARE(tree->currentRecord(), root);
-    QCOMPARE(tabs->currentIndex(), 1);
-    tabs->setCurrentIndex(0);
-
-    // A record that the filter hides is named.
-    tree->setFilter(QStringLiteral("bone 0"));
-    QTest::keyClick(view, Qt::Key_Home);
-    click(view, {0, 30});
-    QVERIFY(window->statusBar()->currentMessage().contains(QStringLiteral("filter")));
-
-    find<QTabWidget>(*window, "tabWidget")->setCurrentIndex(1);
-    auto *rigid = find<KVOpenGLWidget>(*window, "viewStatic");
-    QTRY_VERIFY(rigid->isValid());
-    rigid->grabFramebuffer();
-    rigid->setFocus();
-    QTest::keyClick(rigid, Qt::Key_Home);
-    click(rigid, {0, 30});
-    QCOMPARE(find<KVTreeView>(*window, "treeStaticMesh")->currentRecord(),
-             (RecordRef{RecordKind::StaticSurface, {1}}));
-}
-
-void tst_ViewMenu::selectionIsMarkedAndFramed()
-{
-    const auto window = open();
-    auto *view = find<KVOpenGLWidget>(*window, "viewSkinned");
-    auto *tree = find<KVTreeView>(*window, "treeSkinnedMesh");
-    const auto eyeAfter = [&](Qt::Key key, QWidget *where) {
-        where->setFocus();
-        QTest::keyClick(where, key);
-        return view->camera().eye();
-    };
-    const QVector3D all = eyeAfter(Qt::Key_Home, view);
-    const auto framed = [&](const QVector<RecordRef> &records) {
-        select(*window, "treeSkinnedMesh", records);
-        return eyeAfter(Qt::Key_F, tree);
-    };
-    // Without anything that has a place it is the whole model.
-    for (const RecordRef &record :
-         {RecordRef{RecordKind::SkinnedMesh, {}}, RecordRef{RecordKind::SkinnedSurface, {1}},
-          RecordRef{RecordKind::SkinnedSurface, {0}}, RecordRef{RecordKind::SkinnedTriangleIndex, {0, 1}}})
-        QVERIFY((framed({record}) - all).length() < 1.0f);
-    // The view has a model's +x at -x, its y at z and its z at y.
-    const QVector3D vertex = framed({{RecordKind::SkinnedVertex, {1}}});
-    QVERIFY(std::fabs(vertex.x() + 100.0f) < 1.0f && std::fabs(vertex.y()) < 1.0f && vertex.z() > all.z());
-    const QVector3D point = framed({{RecordKind::HotPoint, {1}}});
-    QVERIFY(std::fabs(point.y() - 150.0f) < 1.0f && point.z() > all.z());
-    const QVector3D bone = framed({{RecordKind::Bone, {1}}}); // with the vertex at its end, 200 above it
-    QVERIFY(std::fabs(bone.y() - 160.0f) < 1.0f);
-    const QVector3D both = framed({{RecordKind::SkinnedVertex, {0}}, {RecordKind::SkinnedVertex, {1}}});
-    QVERIFY(std::fabs(both.x()) < 1.0f && both.z() < vertex.z());
-
-    // Selected bones are orange.
-    find<QAction>(*window, "actionSkeleton")->trigger();
-    QTest::keyClick(view, Qt::Key_Home);
-    const auto orange = [view] { return countPixels(view->grabFramebuffer(), QColor(0xffff8c00)); };
-    select(*window, "treeSkinnedMesh", {{RecordKind::SkinnedVertex, {0}}});
-    QCOMPARE(orange(), 0);
-    select(*window, "treeSkinnedMesh", {{RecordKind::Bone, {1}}});
-    const int one = orange();
-    QVERIFY(one > 0);
-    select(*window, "treeSkinnedMesh", {{RecordKind::Bone, {1}}, {RecordKind::Bone, {0}}});
-    QVERIFY(orange() > one);
-}
-
-void tst_ViewMenu::thePaletteHasEachOnce()
-{
-    const auto window = open();
-    QStringList names;
-    QStringList commands; ///< without the menus that they stand in
-    const Hand hand({[&](QDialog *dialog) {
-        const auto *list = dialog->findChild<QListWidget *>();
-        for (int row = 0; row < list->count(); ++row) {
-            names << list->item(row)->text();
-            commands << names.last().section(QStringLiteral("▸"), -1);
-        }
-        dialog->reject();
-    }});
-    find<QAction>(*window, "actionCommands")->trigger();
-    names = names.filter(QStringLiteral("View ▸"));
-    QVERIFY(names.size() > 20);
-    for (const QString &name : qAsConst(names))
-        QVERIFY2(commands.count(name.section(QStringLiteral("▸"), -1)) == 1, qPrintable(name));
-}
-
-void tst_ViewMenu::picturesAreSaved()
-{
-    MainWindow empty;
-    QVERIFY(!find<QAction>(empty, "actionSavePicture")->isEnabled());
-    const auto window = open();
-    auto *action = find<QAction>(*window, "actionSavePicture");
-    auto *view = find<KVOpenGLWidget>(*window, "viewSkinned");
-    QTest::keyClick(view, Qt::Key_Home);
-    const QString path = m_files->filePath(QStringLiteral("shots of it.png"));
-    {
-        const Hand hand({pictureOf(320, true), Hand::file(path)});
-        action->trigger();
-        QCOMPARE(hand.seen.size(), 2);
-    }
-    const QImage clear(path);
-    QCOMPARE(clear.width(), 320);
-    QCOMPARE(clear.height(), qRound(320.0 * view->height() / view->width()));
-    QCOMPARE(clear.pixelColor(1, 1).alpha(), 0);
-    QCOMPARE(clear.pixelColor(160, clear.height() / 2 + 20), QColor(Qt::white));
-    QVERIFY(window->statusBar()->currentMessage().contains(QStringLiteral("shots of it.png")));
-
-    // Asked again it knows the answers; the view may have had other proportions then.
-    Settings::PictureSize.setValue({320, 7});
-    {
-        const Hand hand({[&clear](QDialog *dialog) {
-                             QCOMPARE(find<QSpinBox>(*dialog, "sbPictureWidth")->value(), 320);
-                             QCOMPARE(find<QSpinBox>(*dialog, "sbPictureHeight")->value(), clear.height());
-                             auto *box = find<QCheckBox>(*dialog, "cbTransparent");
-                             QVERIFY(box->isChecked());
-                             box->click();
-                             dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save)->click();
-                         },
-                         Hand::file(m_files->filePath(QStringLiteral("second")))});
-        action->trigger();
-    }
-    const QImage whole(m_files->filePath(QStringLiteral("second.png")));
-    QVERIFY(!whole.hasAlphaChannel());
-    QCOMPARE(whole.pixelColor(1, 1), Settings::BGColor.value());
-
-    const Hand hand(
-        {pictureOf(64, false), Hand::file(QStringLiteral("/proc/no.png")), Hand::press(QMessageBox::Ok)});
-    action->trigger();
-    QCOMPARE(hand.seen.size(), 3);
-    QVERIFY2(hand.seen[2].startsWith(QStringLiteral("File error|Failed to save\n/proc/no.png")),
-             qPrintable(hand.seen[2]));
-}
 
 QTEST_MAIN(tst_ViewMenu)
 #include "tst_viewmenu.moc"

@@ -6,10 +6,7 @@
 #include "Panes.h"
 #include "RecordItem.h"
 #include "SampleCommands.h"
-#include "Settings.h"
-#include "TestSupport.h"
 
-#include <functional>
 #include <typeinfo>
 
 using namespace SampleCommands;
@@ -48,28 +45,141 @@ void checkText(const QString &editor, const QString &text)
 }
 } // namespace
 
-class tst_CommandPages;
-using Check = std::function<void(tst_CommandPages *)>;
-Q_DECLARE_METATYPE(Check)
-
 class tst_CommandPages : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void everyCommandIsFollowed_data();
-    void everyCommandIsFollowed();
-    void everyEditorMakesOneStep_data();
-    void everyEditorMakesOneStep();
+    void initTestCase()
+    {
+        TestSupport::useSettingsHome(m_home);
+        Settings::HideMeshData.setValue(false);
+        Settings::HideAnimData.setValue(false);
+        m_panes = std::make_unique<Panes>();
+        m_fresh = std::make_unique<Panes>();
+    }
+
+    void everyCommandIsFollowed()
+    {
+        forEach([this](auto tag) {
+            using Command = typename decltype(tag)::Type;
+            checkCommand<Command>();
+            QVERIFY2(!QTest::currentTestFailed(), Command::name);
+        });
+    }
+
+    void everyEditorMakesOneStep()
+    {
+        for (const int selected : {1, 3}) {
+            m_types.clear();
+            m_panes->openPlain();
+            driveAll(m_panes->mesh, selected);
+            driveAll(m_panes->anim, selected);
+            driveAll(m_panes->rigid, selected);
+
+            // Every field's command has an editor.
+            forEach([this](auto tag) {
+                using Command = typename decltype(tag)::Type;
+                QVERIFY2(!isField<Command> || m_types.contains(typeid(Command).name()), Command::name);
+            });
+        }
+    }
 
 private:
     template <typename Command>
-    void checkCommand();
+    void checkCommand()
+    {
+        using Place = typename Command::Place;
+        auto &pane = m_panes->of<typename Command::Model>();
+        pane.open(SampleModels::plainModel<typename Command::Model>());
+        auto &document = pane.document;
+        const RecordRef root{document.rootKind(), {}};
+        const RecordRef record{Place::kind, someIndex<Place>(document.model())};
+        pane.select({record});
+        const QStringList shown = shownBy(pane);
+
+        // From wherever the user is.
+        pane.select({root});
+        pane.undo().push(make<Command>(document.editTarget(), record.index));
+        checkScreen(pane, record);
+        if (isField<Command>)
+            QVERIFY(shownBy(pane) != shown);
+        pane.select({root});
+        pane.undo().undo();
+        checkScreen(pane, record);
+        QCOMPARE(shownBy(pane), shown);
+        pane.select({root});
+        pane.undo().redo();
+        checkScreen(pane, record);
+    }
+
+    /// The record alone is selected, and all is shown as if the model had come from a file like that.
     template <typename Model>
-    void checkScreen(Pane<Model> &pane, const RecordRef &record);
+    void checkScreen(Pane<Model> &pane, const RecordRef &record)
+    {
+        QCOMPARE(pane.tree.currentRecord(), record);
+        QCOMPARE(pane.tree.selectedItems().size(), 1);
+        QCOMPARE(pane.tree.selectedRecords(record.kind), QVector<RecordIndex>{record.index});
+        Pane<Model> &fresh = m_fresh->of<Model>();
+        fresh.open(pane.document.model());
+        fresh.select({record});
+        QCOMPARE(shownBy(pane), shownBy(fresh));
+    }
+
+    /// Each editor of each page, with that many records of its kind selected where there are so many.
     template <typename Model>
-    void driveAll(Pane<Model> &pane, int selected);
+    void driveAll(Pane<Model> &pane, int selected)
+    {
+        QVector<RecordKind> seen;
+        for (QTreeWidgetItemIterator item(&pane.tree); *item; ++item) {
+            const auto *parent = (*item)->parent();
+            QVector<RecordRef> records{static_cast<RecordItem *>(*item)->record()};
+            pane.select(records);
+            const RecordKind kind = records.first().kind;
+            if (!pane.page() || seen.contains(kind))
+                continue;
+            seen.append(kind);
+            for (int i = 1; parent && i < selected; ++i)
+                records << static_cast<RecordItem *>(parent->child(i))->record();
+            pane.select(records);
+            for (const IndexHint *hint : pane.page()->template findChildren<IndexHint *>())
+                QVERIFY2(!hint->text().isEmpty(), qPrintable(hint->objectName()));
+            for (QWidget *editor : editorsOf(pane.page())) {
+                const QString name = editor->objectName();
+                QVERIFY2(!editor->toolTip().isEmpty(), qPrintable(name));
+                const QByteArray before = pane.bytes();
+                const QStringList shown = shownBy(pane);
+                enterSame(editor);
+                QVERIFY2(pane.undo().count() == 0 && pane.undo().isClean(), qPrintable(name));
+
+                enterOther(editor);
+                QVERIFY2(pane.undo().count() == 1, qPrintable(name));
+                checkText(name, pane.undo().undoText());
+                const QUndoCommand &step = *pane.undo().command(0);
+                QCOMPARE(step.childCount(), parent ? records.size() : 0);
+                const QUndoCommand &first = parent ? *step.child(0) : step;
+                m_types << typeid(first).name();
+                const QByteArray after = pane.bytes();
+                QVERIFY2(after != before, qPrintable(name));
+                QCOMPARE(pane.tree.selectedItems().size(), records.size());
+                const QString text = shownText(editor);
+                for (const RecordRef &record : qAsConst(records)) {
+                    pane.select({record});
+                    QCOMPARE(shownText(editor), text);
+                }
+
+                pane.undo().undo();
+                QVERIFY2(pane.bytes() == before, qPrintable(name));
+                QCOMPARE(pane.tree.selectedItems().size(), records.size());
+                pane.undo().redo();
+                QVERIFY2(pane.bytes() == after, qPrintable(name));
+                pane.undo().undo();
+                pane.select(records);
+                QCOMPARE(shownBy(pane), shown);
+                pane.undo().clear();
+            }
+        }
+    }
 
     QTemporaryDir m_home;
     /// One to work in, and one in which the result is opened afresh.
@@ -77,150 +187,6 @@ private:
     std::unique_ptr<Panes> m_fresh;
     QSet<QByteArray> m_types; ///< of the commands that editors have made
 };
-
-void tst_CommandPages::initTestCase()
-{
-    TestSupport::useSettingsHome(m_home);
-    Settings::HideMeshData.setValue(false);
-    Settings::HideAnimData.setValue(false);
-    m_panes = std::make_unique<Panes>();
-    m_fresh = std::make_unique<Panes>();
-}
-
-/// The record alone is selected, and all is shown as if the model had come from a file like that.
-template <typename Model>
-void tst_CommandPages::checkScreen(Pane<Model> &pane, const RecordRef &record)
-{
-    QCOMPARE(pane.tree.currentRecord(), record);
-    QCOMPARE(pane.tree.selectedItems().size(), 1);
-    QCOMPARE(pane.tree.selectedRecords(record.kind), QVector<RecordIndex>{record.index});
-    Pane<Model> &fresh = m_fresh->of<Model>();
-    fresh.open(pane.document.model());
-    fresh.select({record});
-    QCOMPARE(shownBy(pane), shownBy(fresh));
-}
-
-template <typename Command>
-void tst_CommandPages::checkCommand()
-{
-    using Place = typename Command::Place;
-    auto &pane = m_panes->of<typename Command::Model>();
-    pane.open(SampleModels::plainModel<typename Command::Model>());
-    auto &document = pane.document;
-    const RecordRef root{document.rootKind(), {}};
-    const RecordRef record{Place::kind, someIndex<Place>(document.model())};
-    pane.select({record});
-    const QStringList shown = shownBy(pane);
-
-    // From wherever the user is.
-    pane.select({root});
-    pane.undo().push(make<Command>(document.editTarget(), record.index));
-    checkScreen(pane, record);
-    if (isField<Command>)
-        QVERIFY(shownBy(pane) != shown);
-    pane.select({root});
-    pane.undo().undo();
-    checkScreen(pane, record);
-    QCOMPARE(shownBy(pane), shown);
-    pane.select({root});
-    pane.undo().redo();
-    checkScreen(pane, record);
-}
-
-void tst_CommandPages::everyCommandIsFollowed_data()
-{
-    QTest::addColumn<Check>("check");
-    forEach([](auto tag) {
-        using Command = typename decltype(tag)::Type;
-        QTest::newRow(Command::name) << Check(&tst_CommandPages::checkCommand<Command>);
-    });
-}
-
-void tst_CommandPages::everyCommandIsFollowed()
-{
-    QFETCH(Check, check);
-    check(this);
-}
-
-/// Each editor of each page, with that many records of its kind selected where there are so many.
-template <typename Model>
-void tst_CommandPages::driveAll(Pane<Model> &pane, int selected)
-{
-    QVector<RecordKind> seen;
-    for (QTreeWidgetItemIterator item(&pane.tree); *item; ++item) {
-        const auto *parent = (*item)->parent();
-        QVector<RecordRef> records{static_cast<RecordItem *>(*item)->record()};
-        pane.select(records);
-        const RecordKind kind = records.first().kind;
-        if (!pane.page() || seen.contains(kind))
-            continue;
-        seen.append(kind);
-        for (int i = 1; parent && i < selected; ++i)
-            records << static_cast<RecordItem *>(parent->child(i))->record();
-        pane.select(records);
-        for (const IndexHint *hint : pane.page()->template findChildren<IndexHint *>())
-            QVERIFY2(!hint->text().isEmpty(), qPrintable(hint->objectName()));
-        for (QWidget *editor : editorsOf(pane.page())) {
-            const QString name = editor->objectName();
-            QVERIFY2(!editor->toolTip().isEmpty(), qPrintable(name));
-            const QByteArray before = pane.bytes();
-            const QStringList shown = shownBy(pane);
-            enterSame(editor);
-            QVERIFY2(pane.undo().count() == 0 && pane.undo().isClean(), qPrintable(name));
-
-            enterOther(editor);
-            QVERIFY2(pane.undo().count() == 1, qPrintable(name));
-            checkText(name, pane.undo().undoText());
-            const QUndoCommand &step = *pane.undo().command(0);
-            QCOMPARE(step.childCount(), parent ? records.size() : 0);
-            const QUndoCommand &first = parent ? *step.child(0) : step;
-            m_types << typeid(first).name();
-            const QByteArray after = pane.bytes();
-            QVERIFY2(after != before, qPrintable(name));
-            QCOMPARE(pane.tree.selectedItems().size(), records.size());
-            const QString text = shownText(editor);
-            for (const RecordRef &record : qAsConst(records)) {
-                pane.select({record});
-                QCOMPARE(shownText(editor), text);
-            }
-
-            pane.undo().undo();
-            QVERIFY2(pane.bytes() == before, qPrintable(name));
-            QCOMPARE(pane.tree.selectedItems().size(), records.size());
-            pane.undo().redo();
-            QVERIFY2(pane.bytes() == after, qPrintable(name));
-            pane.undo().undo();
-            pane.select(records);
-            QCOMPARE(shownBy(pane), shown);
-            pane.undo().clear();
-        }
-    }
-}
-
-void tst_CommandPages::everyEditorMakesOneStep_data()
-{
-    QTest::addColumn<int>("selected");
-    QTest::newRow("one record") << 1;
-    QTest::newRow("three records") << 3;
-}
-
-void tst_CommandPages::everyEditorMakesOneStep()
-{
-    QFETCH(int, selected);
-    m_types.clear();
-    m_panes->mesh.open(SampleModels::plainMesh());
-    m_panes->anim.open(SampleModels::plainAnim());
-    m_panes->rigid.open(SampleModels::plainStatic());
-    driveAll(m_panes->mesh, selected);
-    driveAll(m_panes->anim, selected);
-    driveAll(m_panes->rigid, selected);
-
-    // Every field's command has an editor.
-    forEach([this](auto tag) {
-        using Command = typename decltype(tag)::Type;
-        QVERIFY2(!isField<Command> || m_types.contains(typeid(Command).name()), Command::name);
-    });
-}
 
 QTEST_MAIN(tst_CommandPages)
 #include "tst_commandpages.moc"

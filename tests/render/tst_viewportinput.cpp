@@ -9,8 +9,10 @@
 #include <QWheelEvent>
 
 #include <cmath>
+#include <tuple>
 
-// Keys, mouse, the ticking clock and what the view tells the window.
+// Real keys and a real mouse, the ticking clock and what the view tells the window. What each of them does to
+// the camera, tst_viewtools says.
 class tst_ViewportInput : public QObject
 {
     Q_OBJECT
@@ -21,7 +23,6 @@ private slots:
     void cleanup();
     void storedSettings();
     void keysFly();
-    void commandsBelongToTheWindow();
     void dragTurnsTheViewAndHidesTheCursor();
     void clickPicksAndDragDoesNot();
     void tipsNameWhatIsMarked();
@@ -99,15 +100,8 @@ void tst_ViewportInput::keysFly()
 {
     m_view->open();
     const QVector3D start = m_view->camera().position();
-    const auto repeat = [this](QEvent::Type type) {
-        QKeyEvent event(type, Qt::Key_A, Qt::NoModifier, QStringLiteral("a"), true);
-        QApplication::sendEvent(m_view.get(), &event);
-    };
-    repeat(QEvent::KeyPress);
-    QVERIFY(!m_view->camera().flies());
     const int frames = m_view->frames;
     QTest::keyPress(m_view.get(), Qt::Key_A);
-    repeat(QEvent::KeyRelease);
     QTRY_VERIFY(m_view->camera().position().x() < start.x());
     QTRY_VERIFY(m_view->frames > frames);
     QTest::keyRelease(m_view.get(), Qt::Key_A);
@@ -115,30 +109,19 @@ void tst_ViewportInput::keysFly()
     QTest::qWait(30);
     QCOMPARE(m_view->camera().position(), stopped);
 
-    // Not while the left button is held.
-    press(Qt::LeftButton);
-    QTest::keyPress(m_view.get(), Qt::Key_W);
-    QTest::qWait(30);
-    QCOMPARE(m_view->camera().position(), stopped);
-    release(Qt::LeftButton);
-    QTRY_VERIFY(m_view->camera().position() != stopped);
-    QTest::keyRelease(m_view.get(), Qt::Key_W);
-
     QSignalSpy shown(m_view.get(), &KVOpenGLWidget::positionReadOut);
     QTest::keyClick(m_view.get(), Qt::Key_C);
     QVERIFY(shown.wait());
     QCOMPARE(shown.last()[0].toString(), QStringLiteral("X: 0.000000 Y: 600.000000 Z: -300.000000"));
-}
 
-void tst_ViewportInput::commandsBelongToTheWindow()
-{
-    QKeyEvent save(QEvent::KeyPress, Qt::Key_S, Qt::ControlModifier);
-    QApplication::sendEvent(m_view.get(), &save);
-    QVERIFY(!save.isAccepted());
-    QVERIFY(!m_view->camera().flies());
-    QKeyEvent other(QEvent::KeyPress, Qt::Key_F5, Qt::NoModifier);
-    QApplication::sendEvent(m_view.get(), &other);
-    QVERIFY(!other.isAccepted());
+    // Commands belong to the window, and so does all that the view has no use for.
+    for (const auto &[key, modifiers, mine] : {std::tuple{Qt::Key_S, Qt::ControlModifier, false},
+                                               {Qt::Key_F5, Qt::NoModifier, false},
+                                               {Qt::Key_Shift, Qt::ShiftModifier, true}}) {
+        QKeyEvent event(QEvent::KeyPress, key, modifiers);
+        QApplication::sendEvent(m_view.get(), &event);
+        QCOMPARE(event.isAccepted(), mine);
+    }
 }
 
 void tst_ViewportInput::dragTurnsTheViewAndHidesTheCursor()
@@ -149,14 +132,13 @@ void tst_ViewportInput::dragTurnsTheViewAndHidesTheCursor()
     press(Qt::RightButton);
     QCOMPARE(m_view->cursor().shape(), Qt::BlankCursor);
     QCOMPARE(QCursor::pos(), m_view->mapToGlobal(QPoint(200, 150)));
-    // The cursor may still be on its way to the middle.
-    sendMouse(QEvent::MouseMove, {40, 0}, Qt::NoButton, Qt::RightButton);
-    QCOMPARE(m_view->camera().targetYaw(), 180.0f);
     QTest::qWait(20);
-    const float target = m_view->camera().targetYaw();
     sendMouse(QEvent::MouseMove, {40, 2000}, Qt::NoButton, Qt::RightButton);
-    QCOMPARE(m_view->camera().targetYaw(), target - 20.0f);
     QTRY_VERIFY(std::fabs(m_view->camera().pitch() + 89.0f) < 0.1f);
+    QTRY_VERIFY(std::fabs(m_view->camera().yaw() - 160.0f) < 0.1f);
+    QCursor::setPos(cursor);
+    sendMouse(QEvent::MouseMove, {1, 0}, Qt::NoButton, Qt::RightButton);
+    QCOMPARE(QCursor::pos(), m_view->mapToGlobal(QPoint(200, 150)));
     press(Qt::LeftButton);
     release(Qt::LeftButton);
     QCOMPARE(m_view->cursor().shape(), Qt::BlankCursor);
@@ -192,12 +174,6 @@ void tst_ViewportInput::clickPicksAndDragDoesNot()
     QTest::mouseClick(m_view.get(), Qt::LeftButton, {}, centre + QPoint(8, 8));
     QCOMPARE(surfaces, QList<QVariantList>{{1}});
     QTest::mouseClick(m_view.get(), Qt::LeftButton, {}, centre + QPoint(80, 0)); // beside it
-    QTest::mouseClick(m_view.get(), Qt::RightButton, {}, centre);
-    press(Qt::LeftButton);
-    QTest::qWait(20);
-    sendMouse(QEvent::MouseMove, {6, 0}, Qt::NoButton, Qt::LeftButton);
-    sendMouse(QEvent::MouseMove, {-6, 0}, Qt::NoButton, Qt::LeftButton); // there and back is a drag
-    release(Qt::LeftButton);
     QCOMPARE(surfaces.size(), 1);
 
     // A hot point lies over the bone that it hangs on, and both over the surface.
@@ -240,14 +216,7 @@ void tst_ViewportInput::tipsNameWhatIsMarked()
 void tst_ViewportInput::altTurnsAroundTheModel()
 {
     showWall();
-    const QVector3D start = m_view->camera().position();
     const QVector3D wall(0.0f, 300.0f, 0.0f);
-    const auto drag = [this](Qt::MouseButton button, QPoint way, Qt::KeyboardModifiers keys) {
-        sendMouse(QEvent::MouseButtonPress, {}, button, button, keys);
-        sendMouse(QEvent::MouseMove, way / 2, Qt::NoButton, button, keys);
-        sendMouse(QEvent::MouseMove, way, Qt::NoButton, button, keys);
-        sendMouse(QEvent::MouseButtonRelease, way, button, Qt::NoButton, keys);
-    };
     const auto wheel = [this](QPoint turn, Qt::KeyboardModifiers keys) {
         QWheelEvent event({200, 150}, m_view->mapToGlobal({200, 150}), {}, turn, Qt::NoButton, keys,
                           Qt::NoScrollPhase, false);
@@ -255,30 +224,20 @@ void tst_ViewportInput::altTurnsAroundTheModel()
         return event.isAccepted();
     };
     // The wall in the middle of the view is what it turns around.
-    drag(Qt::LeftButton, {180, 0}, Qt::AltModifier);
+    sendMouse(QEvent::MouseButtonPress, {}, Qt::LeftButton, Qt::LeftButton, Qt::AltModifier);
+    QCOMPARE(m_view->cursor().shape(), Qt::ClosedHandCursor);
+    sendMouse(QEvent::MouseMove, {180, 0}, Qt::NoButton, Qt::LeftButton, Qt::AltModifier);
+    sendMouse(QEvent::MouseButtonRelease, {180, 0}, Qt::LeftButton, Qt::NoButton, Qt::AltModifier);
+    QCOMPARE(m_view->cursor().shape(), Qt::ArrowCursor);
     QCOMPARE(m_view->camera().yaw(), 90.0f);
     const QVector3D seen = m_view->camera().viewMatrix().map(wall);
     QVERIFY(std::fabs(seen.x()) < 5.0f && std::fabs(seen.z() + 601.0f) < 5.0f); // a pixel or two
-    QCOMPARE(m_view->cursor().shape(), Qt::ArrowCursor);
 
     QVERIFY(!wheel({0, 120}, Qt::NoModifier));
-    QVERIFY(wheel({120, 0}, Qt::AltModifier)); // turned sideways by the system
-    QVERIFY(m_view->camera().viewMatrix().map(wall).z() > seen.z() + 20.0f);
-    const QVector3D before = m_view->camera().position();
-    drag(Qt::MiddleButton, {0, 50}, Qt::AltModifier);
-    QVERIFY(m_view->camera().position().y() < before.y() - 20.0f);
-
-    // The same without Alt in orbit mode, and no flight.
-    m_view->resetCamera();
+    QVERIFY(wheel({0, 120}, Qt::AltModifier));
     m_view->setOrbitMode(true);
-    drag(Qt::LeftButton, {-180, 0}, Qt::NoModifier);
-    QCOMPARE(m_view->camera().yaw(), 270.0f);
-    QVERIFY(wheel({0, -120}, Qt::NoModifier));
-    m_view->setOrbitMode(false);
-    m_view->resetCamera();
-    drag(Qt::LeftButton, {180, 0}, Qt::NoModifier);
-    QCOMPARE(m_view->camera().yaw(), 180.0f);
-    QCOMPARE(m_view->camera().position(), start);
+    QVERIFY(wheel({0, 120}, Qt::NoModifier));
+    QVERIFY(m_view->camera().viewMatrix().map(wall).z() > seen.z() + 100.0f);
 }
 
 void tst_ViewportInput::anotherModelIsTurnedAroundItself()
@@ -301,11 +260,12 @@ void tst_ViewportInput::lostFocusReleasesEverything()
     m_view->open();
     QTest::keyPress(m_view.get(), Qt::Key_W);
     press(Qt::RightButton);
-    QVERIFY(m_view->camera().flies());
+    QCOMPARE(m_view->cursor().shape(), Qt::BlankCursor);
     m_view->clearFocus();
-    QVERIFY(!m_view->camera().flies());
-    QVERIFY(!m_view->camera().isCaptured());
     QCOMPARE(m_view->cursor().shape(), Qt::ArrowCursor);
+    const QVector3D stopped = m_view->camera().position();
+    QTest::qWait(30);
+    QCOMPARE(m_view->camera().position(), stopped);
 }
 
 void tst_ViewportInput::pausedOrHiddenViewRests()

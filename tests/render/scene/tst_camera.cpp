@@ -1,10 +1,13 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "Camera.h"
+#include "Framing.h"
 #include "TestSupport.h"
 
 #include <cmath>
+#include <limits>
 
+/// Where the viewport looks from, and the camera that has a whole model in its picture.
 class tst_Camera : public QObject
 {
     Q_OBJECT
@@ -12,15 +15,36 @@ class tst_Camera : public QObject
 private slots:
     void startSeesTheFront();
     void framesWhatItIsGiven();
-    void orbitKeepsThePivot();
-    void panAndDolly();
+    void goesAroundThePivot();
     void staysWhereNumbersReach();
+    void fillsThePicture();
+    void centresTheModel();
+    void standsWhereAsked();
+    void oddPoints();
 };
 
 namespace {
 bool near(const QVector3D &a, const QVector3D &b)
 {
     return (a - b).length() < 1e-3f;
+}
+
+/// The corners of a box that is long in x and lies off the origin.
+std::vector<QVector3D> box(float scale)
+{
+    std::vector<QVector3D> points;
+    points.reserve(8);
+    for (int corner = 0; corner < 8; ++corner) {
+        points.push_back(scale * QVector3D(corner & 1 ? 90.0f : -10.0f, corner & 2 ? 40.0f : 20.0f,
+                                           corner & 4 ? 5.0f : -5.0f));
+    }
+    return points;
+}
+
+/// Where a point comes to lie in the picture, -1 to 1 from left to right, bottom to top and near to far.
+QVector3D seen(const Framing &framing, const QVector3D &point)
+{
+    return (framing.projection * framing.view).map(point);
 }
 } // namespace
 
@@ -41,44 +65,34 @@ void tst_Camera::startSeesTheFront()
 
 void tst_Camera::framesWhatItIsGiven()
 {
-    const std::vector<QVector3D> models[] = {{{-90, 0, -100}, {110, 200, 40}, {0, 100, -120}},
-                                             {{5000, 9000, -3000}, {5100, 9050, -3000}},
-                                             {{1, 2, 3}},
-                                             {{1, 2, 3}, {10, 20, 30}, {NAN, 5, INFINITY}}};
     const QSize size(640, 400);
-    for (const auto &points : models) {
+    const std::vector<QVector3D> point{{1, 2, 3}}, far{{5000, 9000, -3000}, {NAN, 5, INFINITY}};
+    for (const auto &points : {point, far, box(4.0f), box(100.0f)}) {
         Camera camera;
         camera.orbit({}, 130.0f, -25.0f);
         camera.frame(points, size);
         QCOMPARE(camera.yaw(), 130.0f);
-        QVERIFY(camera.framed());
-        const QMatrix4x4 toPicture =
-            Camera::projectionMatrix(size.width(), size.height()) * camera.viewMatrix();
         float widest = 0.0f;
-        for (const QVector3D &point : points) {
-            const QVector3D seen = toPicture.map(point);
-            if (!std::isfinite(point.x() + point.z()))
-                continue;
-            QVERIFY(std::fabs(seen.z()) <= 1.0f);
-            widest = std::max({widest, std::fabs(seen.x()), std::fabs(seen.y())});
+        for (const QVector3D &place : points) {
+            const QVector3D at = seen({camera.viewMatrix(), Camera::projectionMatrix(640, 400)}, place);
+            QVERIFY(std::fabs(at.z()) < 1.0f || std::isnan(place.x()));
+            widest = std::max({widest, std::fabs(at.x()), std::fabs(at.y())});
         }
-        QVERIFY2(widest < 0.9f, qPrintable(QString::number(double(widest))));
-        QVERIFY(widest > 0.8f || &points != models);
+        QVERIFY(widest < 0.9f && (widest > 0.8f || points.size() < 8));
 
         // What was framed is forgotten by flying, and nothing to frame changes nothing.
         const QVector3D stands = camera.position();
         camera.frame({}, size);
-        QCOMPARE(camera.position(), stands);
-        QVERIFY(camera.framed());
+        QVERIFY(camera.position() == stands && camera.framed());
         camera.flyTo(stands);
         QVERIFY(!camera.framed());
     }
 }
 
-void tst_Camera::orbitKeepsThePivot()
+void tst_Camera::goesAroundThePivot()
 {
     Camera camera;
-    const QVector3D pivot(30.0f, 100.0f, -50.0f);
+    const QVector3D pivot(30.0f, 200.0f, -50.0f);
     const QVector3D seen = camera.viewMatrix().map(pivot);
     for (int i = 0; i < 500; ++i)
         camera.orbitDrag(pivot, 7.0f, i % 5 == 0 ? -3.0f : 1.0f);
@@ -87,12 +101,8 @@ void tst_Camera::orbitKeepsThePivot()
     QCOMPARE(camera.pitch(), -89.0f);
     // What is near follows the mouse: the eye goes up when it is dragged down.
     QVERIFY(camera.eye().y() > pivot.y());
-}
 
-void tst_Camera::panAndDolly()
-{
-    Camera camera;
-    const QVector3D pivot(30.0f, 250.0f, -50.0f);
+    camera.reset();
     const QMatrix4x4 projection = Camera::projectionMatrix(400, 300);
     const QVector3D before = (projection * camera.viewMatrix()).map(pivot);
     camera.pan(pivot, 40.0f, -30.0f, 300);
@@ -100,9 +110,6 @@ void tst_Camera::panAndDolly()
     QVERIFY(std::fabs((after.x() - before.x()) * 200.0f - 40.0f) < 0.01f);
     QVERIFY(std::fabs((after.y() - before.y()) * 150.0f - 30.0f) < 0.01f);
 
-    const float distance = (camera.eye() - pivot).length();
-    camera.dolly(pivot, 0.5f);
-    QVERIFY(std::fabs((camera.eye() - pivot).length() - 0.5f * distance) < 0.1f);
     // However far it goes either way, it comes back.
     const auto depthAfter = [&](float factor, int times) {
         for (int i = 0; i < times; ++i)
@@ -133,6 +140,90 @@ void tst_Camera::staysWhereNumbersReach()
     const QVector3D framed = camera.position();
     camera.frame({{3e38f, 3e38f, 3e38f}, {-3e38f, 0.0f, 0.0f}}, {400, 300});
     QVERIFY(near(camera.position(), framed));
+}
+
+void tst_Camera::fillsThePicture()
+{
+    struct Row
+    {
+        const char *name;
+        float yaw, pitch;
+        QSize size;
+        float scale;
+    };
+    const Row rows[] = {
+        {"askew, wide", 30.0f, 15.0f, {400, 100}, 1.0f}, {"behind, high", 200.0f, -40.0f, {100, 300}, 1.0f},
+        {"above", 0.0f, 90.0f, {100, 100}, 1.0f},        {"tiny", 30.0f, 15.0f, {100, 100}, 0.001f},
+        {"huge", 30.0f, 15.0f, {100, 100}, 10000.0f},
+    };
+    for (const Row &row : rows) {
+        const std::vector<QVector3D> points = box(row.scale);
+        const Framing framing = frameAll(points, row.yaw, row.pitch, row.size);
+        float widest = 0.0f;
+        for (const QVector3D &point : points) {
+            const QVector3D place = seen(framing, point);
+            for (int axis = 0; axis < 3; ++axis)
+                QVERIFY2(qAbs(place[axis]) < 1.0f, row.name);
+            widest = qMax(widest, qMax(qAbs(place.x()), qAbs(place.y())));
+        }
+        QVERIFY2(widest > 0.92f, row.name);
+    }
+}
+
+// What reaches towards the eye beside a model does not draw it out of the middle, be it tall in a wide
+// picture or broad in a high one.
+void tst_Camera::centresTheModel()
+{
+    for (const bool upright : {true, false}) {
+        std::vector<QVector3D> points{{-20, -90, 0}, {20, -90, 0}, {-20, 90, 0}, {20, 90, 0}, {60, 10, -170}};
+        if (!upright) {
+            for (QVector3D &point : points)
+                point = {point.y(), point.x(), point.z()};
+        }
+        const Framing framing = frameAll(points, 0.0f, 0.0f, upright ? QSize(200, 100) : QSize(100, 200));
+        for (int axis = 0; axis < 2; ++axis) {
+            float low = 1.0f, high = -1.0f;
+            for (const QVector3D &point : points) {
+                low = qMin(low, seen(framing, point)[axis]);
+                high = qMax(high, seen(framing, point)[axis]);
+            }
+            QVERIFY(low > -0.96f && high < 0.96f);
+            QVERIFY2(qAbs(low + high) < 0.01f, qPrintable(QString::number(double(low))));
+            QVERIFY(high > 0.92f || (axis == 1) != upright);
+        }
+    }
+}
+
+void tst_Camera::standsWhereAsked()
+{
+    // A model's left side, at +x of its own space, lies at -x of the view's.
+    const std::vector<QVector3D> sides{{-10.0f, 0.0f, 0.0f}, {10.0f, 0.0f, 0.0f}};
+    const QSize size(100, 100);
+    const Framing front = frameAll(sides, 0.0f, 0.0f, size);
+    QVERIFY(seen(front, sides[0]).x() > seen(front, sides[1]).x());
+    const Framing left = frameAll(sides, 90.0f, 0.0f, size);
+    QVERIFY(seen(left, sides[0]).z() < seen(left, sides[1]).z());
+    const std::vector<QVector3D> heights{{0.0f, 10.0f, 0.0f}, {0.0f, -10.0f, 0.0f}};
+    const Framing above = frameAll(heights, 0.0f, 60.0f, size);
+    QVERIFY(seen(above, heights[0]).z() < seen(above, heights[1]).z());
+}
+
+void tst_Camera::oddPoints()
+{
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    const QSize size(100, 100);
+    std::vector<QVector3D> points = box(1.0f);
+    const Framing plain = frameAll(points, 30.0f, 15.0f, size);
+    points.push_back({nan, 0.0f, 0.0f});
+    points.push_back({0.0f, std::numeric_limits<float>::infinity(), 0.0f});
+    const Framing withOdd = frameAll(points, 30.0f, 15.0f, size);
+    QCOMPARE(withOdd.view, plain.view);
+    QCOMPARE(withOdd.projection, plain.projection);
+
+    const QVector3D alone(7.0f, 8.0f, 9.0f);
+    const QVector3D middle = seen(frameAll({alone}, 30.0f, 15.0f, size), alone);
+    QVERIFY(qAbs(middle.x()) < 0.01f && qAbs(middle.y()) < 0.01f);
+    QVERIFY(qAbs(seen(frameAll({}, 0.0f, 0.0f, size), {}).x()) < 0.01f);
 }
 
 QTEST_GUILESS_MAIN(tst_Camera)

@@ -154,7 +154,6 @@ int main(int argc, char **argv)
     ScenePainter painter([] { std::abort(); });
     painter.setModel(source);
     painter.setUpState(Qt::darkCyan);
-    painter.setBackFaceCulling(true);
 
     const Camera camera;
     SceneFrame frame;
@@ -162,6 +161,7 @@ int main(int argc, char **argv)
     frame.view = camera.viewMatrix();
     frame.viewport = FrameSize;
     frame.skinned = true;
+    frame.backCull = true;
     PoseEvaluator poses;
     Playback state;
     state.playState = PlayState::Playing;

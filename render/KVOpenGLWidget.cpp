@@ -3,48 +3,33 @@
 #include "KVOpenGLWidget.h"
 
 #include "CrashReport.h"
-#include "GraphicsProbe.h"
-#include "Log.h"
+#include "FlightTool.h"
+#include "OrbitTool.h"
 #include "Settings.h"
-#include "SkinnedMesh.h"
-#include "StaticMesh.h"
 #include "ViewStatistics.h"
 
 #include <QOpenGLContext>
-#include <QTimer>
 #include <QTimerEvent>
+#include <QToolTip>
 
-#include <algorithm>
 #include <utility>
 
-namespace {
-// A moving view ticks every millisecond: keys fly the camera by a step a tick. An idle one only looks for
-// changes of the playback now and then, which costs nothing.
-constexpr int MovingInterval = 1;
-constexpr int IdleInterval = 30;
-constexpr float ReadOutInterval = 0.1f; // seconds
-// A driver that loses the context again at once will go on doing so.
-constexpr int MostLosses = 3;
-constexpr int LossesInterval = 10000; // milliseconds
-} // namespace
-
 KVOpenGLWidget::KVOpenGLWidget(QWidget *parent)
-    : QOpenGLWidget(parent, Qt::Window)
-    , m_background(Settings::BGColor.value())
-    , m_moveSpeed(Settings::MouseSpeed.value())
-    , m_backCull(Settings::BackCull.value())
+    : RenewableGLWidget(parent)
+    , m_sight(m_scene, m_camera)
+    , m_tools(
+          m_camera, m_sight, [this](PickTool::Kind kind, int index) { tellPicked(kind, index); },
+          [this](const QPoint &pixel, const QString &text) {
+              QToolTip::showText(mapToGlobal(pixel), text, this);
+          })
+    , m_recorder(*this, m_tools)
+    , m_timer(*this)
 {
-    m_frame.showGround = Settings::ShowGround.value();
-    m_frame.showAxisGizmo = Settings::ShowAxisGizmo.value();
-    m_frame.brightness = Settings::Brightness.value();
-    setSurfSelectType(Settings::SurfSelectType.value());
-    setShading(Settings::Shading.value());
-    setShowSkeleton(Settings::ShowSkeleton.value());
-    setShowHotPoints(Settings::ShowHotPoints.value());
+    setMoveSpeed(Settings::MouseSpeed.value());
     setShowStatistics(Settings::ShowStatistics.value());
     setOrbitMode(Settings::OrbitMode.value());
+    trackMarks();
     setFocusPolicy(Qt::StrongFocus);
-    m_clock.start();
 }
 
 KVOpenGLWidget::~KVOpenGLWidget()
@@ -52,17 +37,6 @@ KVOpenGLWidget::~KVOpenGLWidget()
     if (context())
         disconnect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &KVOpenGLWidget::releaseGL);
     releaseGL();
-}
-
-void KVOpenGLWidget::embed()
-{
-    if (!GraphicsProbe::hasOpenGL()) {
-        fail(tr("Models cannot be drawn: the system offers no OpenGL.\n"
-                "Look for a driver of the graphics card, or install a software renderer such as Mesa."));
-        return;
-    }
-    setWindowFlags(Qt::Widget);
-    show();
 }
 
 void KVOpenGLWidget::initializeGL()
@@ -73,235 +47,209 @@ void KVOpenGLWidget::initializeGL()
     };
     CrashReport::setGraphics(driverText(GL_VENDOR) + QStringLiteral(", ") + driverText(GL_RENDERER) +
                              QStringLiteral(", ") + driverText(GL_VERSION));
-    m_painter = std::make_unique<ScenePainter>([this] {
+    m_scene.makeCopy([this] {
         fail(tr("Models cannot be drawn: the graphics driver does not take the program's shaders.\n"
                 "It must offer OpenGL 3.0 or later."));
     });
-    m_painter->setUpState(QColor(m_background.rgb()));
-    m_painter->setBackFaceCulling(m_backCull);
-    m_appliedBackCull = m_backCull;
     resizeGL(width(), height());
-    buildModel();
+    showTriangles();
     connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &KVOpenGLWidget::releaseGL,
             Qt::UniqueConnection);
-    if (isVisible())
-        setPace(Pace::Moving);
-}
-
-void KVOpenGLWidget::fail(const QString &reason)
-{
-    hide();
-    if (!m_failure.isEmpty())
-        return;
-    m_failure = reason;
-    emit failed();
+    playbackChanged();
 }
 
 void KVOpenGLWidget::releaseGL()
 {
-    if (!m_painter)
+    if (!m_scene.model())
         return;
     makeCurrent();
-    m_painter.reset();
+    m_scene.dropCopy();
     doneCurrent();
-}
-
-// A context that is lost or cannot be made current must not reach Qt's own drawing, which takes it for
-// granted.
-bool KVOpenGLWidget::takeContext()
-{
-    makeCurrent();
-    if (QOpenGLContext::currentContext() == context() && !isContextLost())
-        return true;
-    noticeLoss();
-    return false;
-}
-
-bool KVOpenGLWidget::isContextLost() const
-{
-    const QOpenGLContext *windows = context()->shareContext();
-    return !context()->isValid() || (windows && !windows->isValid());
-}
-
-void KVOpenGLWidget::noticeLoss()
-{
-    if (std::exchange(m_lossNoticed, true))
-        return;
-    // The window cannot be made anew while it is being painted.
-    QTimer::singleShot(0, this, &KVOpenGLWidget::onLoss);
-}
-
-void KVOpenGLWidget::onLoss()
-{
-    m_lossNoticed = false;
-    const qint64 now = m_clock.elapsed();
-    m_losses = now - m_lastLoss < LossesInterval ? m_losses + 1 : 1;
-    m_lastLoss = now;
-    if (m_losses > MostLosses) {
-        fail(tr("Models are not drawn any more: the graphics driver has failed several times.\n"
-                "Everything else works on. Start Korvane again to see models."));
-        return;
-    }
-    Log::warning(tr("[Viewport] The graphics driver was reset; the view is built anew"));
-    emit contextLost();
-}
-
-void KVOpenGLWidget::renewContext()
-{
-    // What Qt does with a view that comes into another window.
-    QEvent change(QEvent::WindowChangeInternal);
-    QOpenGLWidget::event(&change);
-}
-
-void KVOpenGLWidget::paintEvent(QPaintEvent *event)
-{
-    if (!context() || takeContext())
-        QOpenGLWidget::paintEvent(event);
-}
-
-void KVOpenGLWidget::resizeEvent(QResizeEvent *event)
-{
-    if (!context() || takeContext())
-        QOpenGLWidget::resizeEvent(event);
 }
 
 void KVOpenGLWidget::resizeGL(int width, int height)
 {
-    m_frame.projection = Camera::projectionMatrix(width, height);
-    m_frame.viewport = QSize(width, height);
+    m_scene.frame.projection = Camera::projectionMatrix(width, height);
+    m_scene.frame.viewport = QSize(width, height);
 }
 
 void KVOpenGLWidget::paintGL()
 {
-    if (!m_painter)
+    if (!m_scene.model())
         return;
-    if (m_backCull != m_appliedBackCull) {
-        m_appliedBackCull = m_backCull;
-        m_painter->setBackFaceCulling(m_backCull);
-    }
-    refreshModel();
-    pose();
-    m_frame.view = m_camera.viewMatrix();
-    m_frame.marks.mesh = m_frame.skinned ? m_skinnedMesh : nullptr;
-    m_painter->paint(m_frame);
+    if (m_scene.refresh())
+        showTriangles();
+    m_scene.frame.yaw = QQuaternion();
+    const int frame = m_playback.pose(m_scene.palette(), m_scene.frame.yaw);
+    if (frame != PoseEvaluator::NoFrame)
+        emit frameShown(frame);
+    m_scene.paint(m_camera.viewMatrix());
     if (m_statistics)
         m_statistics->countFrame();
 }
 
-void KVOpenGLWidget::pose()
+QImage KVOpenGLWidget::picture(const QSize &size, const QColor &background)
 {
-    m_frame.yaw = QQuaternion();
-    Playback &state = playback();
-    if (m_frame.skinned && m_skinnedMesh) {
-        BonePalette &palette = m_painter->model().palette;
-        if (const AnimBlock *block = playableBlock(state)) {
-            if (state.playState == PlayState::InitialPose) {
-                m_poses.evaluateInitialPose(palette, *state.mesh, *block);
-            } else {
-                const int frame =
-                    m_poses.evaluateAnimatedPose(palette, *state.mesh, *block, state, m_frame.yaw);
-                if (frame != PoseEvaluator::NoFrame)
-                    emit frameShown(frame);
-            }
-        }
+    QImage image;
+    changeCopy([&] { image = m_scene.picture(size, background, m_camera.viewMatrix(), height()); });
+    return image;
+}
+
+/// Without a copy there is nothing to change: it is made in initializeGL.
+template <typename Change>
+void KVOpenGLWidget::changeCopy(Change change)
+{
+    if (m_scene.model() && takeContext()) {
+        change();
+        showTriangles();
+        doneCurrent();
     }
-    m_shownPlayback = state;
+    update();
 }
 
 void KVOpenGLWidget::setSkinnedMeshMode(bool on)
 {
-    if (on == m_frame.skinned)
-        return;
-    m_frame.skinned = on;
-    modelReplaced(true);
+    replaceModel(m_scene.setSkinned(on));
 }
 
 void KVOpenGLWidget::setSkinnedMesh(const SkinnedMesh *mesh)
 {
-    m_skinnedMesh = mesh;
-    modelReplaced(m_frame.skinned);
+    replaceModel(m_scene.setMesh(mesh));
 }
 
 void KVOpenGLWidget::setStaticMesh(const StaticMesh *mesh)
 {
-    m_staticMesh = mesh;
-    modelReplaced(!m_frame.skinned);
+    replaceModel(m_scene.setMesh(mesh));
 }
 
-void KVOpenGLWidget::modelReplaced(bool shown)
+void KVOpenGLWidget::replaceModel(bool shown)
 {
     if (!shown)
         return;
-    m_selectedSurface = GLMesh::NoSurface;
-    m_frame.selectedBone = -1;
-    m_frame.highlight = {};
-    m_frame.marks.mesh = nullptr;
-    setMarkedSelection({}, {});
     m_camera.forgetFramed();
     rebuildModel();
 }
 
 void KVOpenGLWidget::rebuildModel()
 {
-    // Without a context the copy is made in initializeGL.
-    if (!m_painter || !takeContext())
-        return;
-    buildModel();
-    doneCurrent();
-    update();
-}
-
-void KVOpenGLWidget::buildModel()
-{
-    m_verticesChanged = m_indexesChanged = false;
-    if (m_frame.skinned && m_skinnedMesh)
-        m_painter->setModel(MeshSource::from(*m_skinnedMesh));
-    else if (!m_frame.skinned && m_staticMesh)
-        m_painter->setModel(MeshSource::from(*m_staticMesh));
-    else
-        m_painter->clearModel();
-    m_painter->model().selectedSurface = m_selectedSurface;
-    m_frame.groundHeight = groundHeight();
-    showStatistics();
+    changeCopy([this] { m_scene.rebuild(); });
 }
 
 void KVOpenGLWidget::refreshVertices()
 {
-    m_verticesChanged = true;
+    m_scene.verticesChanged();
     m_camera.forgetFramed();
     update();
 }
 
 void KVOpenGLWidget::refreshIndexes()
 {
-    m_indexesChanged = true;
+    m_scene.indexesChanged();
     update();
 }
 
-void KVOpenGLWidget::refreshModel()
+void KVOpenGLWidget::setBackgroundColor(const QColor &color)
 {
-    if (!m_verticesChanged && !m_indexesChanged)
-        return;
-    GLMesh &model = m_painter->model();
-    if (m_frame.skinned && m_skinnedMesh)
-        model.refresh(*m_skinnedMesh, m_indexesChanged);
-    else if (!m_frame.skinned && m_staticMesh)
-        model.refresh(*m_staticMesh, m_indexesChanged);
-    m_verticesChanged = m_indexesChanged = false;
-    m_frame.groundHeight = groundHeight();
-    showStatistics();
+    m_scene.setBackground(color);
+    changeCopy([this] { m_scene.applyBackground(); });
 }
 
-// A skinned mesh's vertices lie in their bones' spaces and say nothing about the posed model, so its own box
-// counts; files of static meshes often hold an empty one. A box that was rotated has no order.
-float KVOpenGLWidget::groundHeight() const
+void KVOpenGLWidget::setMoveSpeed(float speed)
 {
-    float height = 0.0f;
-    if (m_frame.skinned && m_skinnedMesh)
-        height = std::min(m_skinnedMesh->bbMin.z(), m_skinnedMesh->bbMax.z());
-    else if (!m_frame.skinned && m_staticMesh)
-        height = m_painter->model().boxMin().z();
-    return height < 0.0f ? height : 0.0f;
+    m_tools.flight->setSpeed(speed);
+}
+
+void KVOpenGLWidget::setOrbitMode(bool on)
+{
+    m_tools.orbit->setAlways(on);
+}
+
+void KVOpenGLWidget::setSelectedSurface(int surface)
+{
+    m_scene.selectSurface(surface);
+    update();
+}
+
+void KVOpenGLWidget::setMarkedSelection(std::vector<int> bones, std::vector<int> hotPoints)
+{
+    change(m_scene.frame.marks.selectedBones, std::move(bones));
+    change(m_scene.frame.marks.selectedHotPoints, std::move(hotPoints));
+}
+
+void KVOpenGLWidget::setShowSkeleton(bool on)
+{
+    change(m_scene.frame.marks.skeleton, on);
+    trackMarks();
+}
+
+void KVOpenGLWidget::setShowHotPoints(bool on)
+{
+    change(m_scene.frame.marks.hotPoints, on);
+    trackMarks();
+}
+
+// Their tips come up without a button held.
+void KVOpenGLWidget::trackMarks()
+{
+    setMouseTracking(m_scene.frame.marks.skeleton || m_scene.frame.marks.hotPoints);
+}
+
+void KVOpenGLWidget::setMarkNames(MarkName bone, MarkName hotPoint)
+{
+    m_tools.hover->setNames(std::move(bone), std::move(hotPoint));
+}
+
+void KVOpenGLWidget::setShowStatistics(bool on)
+{
+    if (on == (m_statistics != nullptr))
+        return;
+    delete std::exchange(m_statistics, on ? new ViewStatistics(this) : nullptr);
+    if (!m_statistics)
+        return;
+    m_statistics->show();
+    showTriangles();
+}
+
+void KVOpenGLWidget::showTriangles()
+{
+    if (m_statistics)
+        m_statistics->setTriangles(m_scene.triangleCount());
+}
+
+void KVOpenGLWidget::cameraMoved()
+{
+    playbackChanged();
+    update();
+}
+
+void KVOpenGLWidget::resetCamera()
+{
+    m_tools.flight->reset();
+    cameraMoved();
+}
+
+void KVOpenGLWidget::placeCamera(const QVector3D &position, float yaw, float pitch)
+{
+    m_camera.place(position, yaw, pitch);
+    cameraMoved();
+}
+
+void KVOpenGLWidget::frameAll()
+{
+    m_camera.frame(m_sight.modelPlaces(), size());
+    cameraMoved();
+}
+
+void KVOpenGLWidget::frameSelection(const ModelSelection &selection)
+{
+    m_camera.frame(m_sight.selectedPlaces(selection), size());
+    cameraMoved();
+}
+
+void KVOpenGLWidget::lookFrom(Camera::Side side)
+{
+    m_camera.lookFrom(side, m_sight.pivot());
+    cameraMoved();
 }
 
 void KVOpenGLWidget::setActive(bool current)
@@ -313,100 +261,76 @@ void KVOpenGLWidget::setActive(bool current)
 void KVOpenGLWidget::playbackChanged()
 {
     if (isVisible())
-        setPace(Pace::Moving);
+        m_timer.setPace(TickTimer::Pace::Moving);
 }
 
 void KVOpenGLWidget::timerEvent(QTimerEvent *event)
 {
-    if (event->timerId() != m_timer.timerId()) {
-        QOpenGLWidget::timerEvent(event);
-        return;
-    }
-    if (!context() && !size().isEmpty()) {
-        fail(tr("Models cannot be drawn: the system has OpenGL, but gives the window no context of it.\n"
-                "Everything else works on."));
-        return;
-    }
-    if (context() && isContextLost())
-        noticeLoss();
-    const qint64 now = m_clock.elapsed();
-    const float dt = float(now - m_previousTick) / 1000.0f;
-    m_previousTick = now;
-    tick(dt);
-    setPace(mustKeepMoving() ? Pace::Moving : Pace::Idle);
+    if (!m_timer.isMine(*event))
+        RenewableGLWidget::timerEvent(event);
+    else if (checkContext())
+        m_timer.setPace(tick(m_timer.step()) ? TickTimer::Pace::Moving : TickTimer::Pace::Idle);
 }
 
-void KVOpenGLWidget::tick(float dt)
+bool KVOpenGLWidget::tick(float dt)
 {
-    if (m_active && m_frame.skinned) {
+    const bool skinned = m_scene.frame.skinned;
+    if (m_active && skinned) {
         // What started between two idle looks starts now.
-        if (m_pace == Pace::Moving)
+        if (m_timer.isMoving())
             advanceClock(playback(), dt);
-        if (m_frameLabel.update(playback()))
-            emit frameLabelChanged(m_frameLabel.text());
+        if (m_playback.label.update(playback()))
+            emit frameLabelChanged(m_playback.label.text());
     }
     if (m_statistics)
         m_statistics->tick(dt);
-    readOut(dt);
-    const bool moved = m_camera.tick(dt, m_moveSpeed);
-    if (moved || (m_frame.skinned && playbackDiffers()))
+    if (m_readOut.tick(dt, m_active, m_camera.position()))
+        emit positionReadOut(m_readOut.text());
+    const bool moved = m_tools.tick(dt);
+    if (moved || (skinned && m_playback.isBehind()))
         update();
-}
-
-void KVOpenGLWidget::readOut(float dt)
-{
-    m_sinceReadOut += dt;
-    if (!m_active || !(m_sinceReadOut > ReadOutInterval))
-        return;
-    m_sinceReadOut = 0.0f;
-    m_readOutPosition = m_camera.position();
-    // Shown in the game's order, with z up.
-    emit positionReadOut(QStringLiteral("X: %1 Y: %2 Z: %3")
-                             .arg(QString::number(double(m_readOutPosition.x()), 'f', 6),
-                                  QString::number(double(m_readOutPosition.z()), 'f', 6),
-                                  QString::number(double(m_readOutPosition.y()), 'f', 6)));
-}
-
-bool KVOpenGLWidget::playbackDiffers() const
-{
-    const Playback &now = playback();
-    const Playback &shown = m_shownPlayback;
-    return now.mesh != shown.mesh || now.anim != shown.anim || now.blockIndex != shown.blockIndex ||
-           now.playState != shown.playState || now.time != shown.time || now.forceLoop != shown.forceLoop;
-}
-
-bool KVOpenGLWidget::mustKeepMoving() const
-{
-    if (m_camera.isCaptured() || m_camera.flies())
+    if (moved || m_tools.cursor() == ViewCursor::Captured)
         return true;
-    if (!m_active)
-        return false;
-    return m_readOutPosition != m_camera.position() || (m_frame.skinned && clockRuns(playback()));
-}
-
-void KVOpenGLWidget::setPace(Pace pace)
-{
-    if (m_timer.isActive() && pace == m_pace)
-        return;
-    // The time asleep is not time that anything moved.
-    if (pace == Pace::Moving)
-        m_previousTick = m_clock.elapsed();
-    m_pace = pace;
-    if (pace == Pace::Moving)
-        m_timer.start(MovingInterval, Qt::PreciseTimer, this);
-    else
-        m_timer.start(IdleInterval, Qt::CoarseTimer, this);
+    return m_active && (m_readOut.shown() != m_camera.position() || (skinned && clockRuns(playback())));
 }
 
 void KVOpenGLWidget::showEvent(QShowEvent *event)
 {
-    QOpenGLWidget::showEvent(event);
-    setPace(Pace::Moving);
+    RenewableGLWidget::showEvent(event);
+    m_timer.setPace(TickTimer::Pace::Moving);
 }
 
 void KVOpenGLWidget::hideEvent(QHideEvent *event)
 {
     m_timer.stop();
-    releaseInput();
-    QOpenGLWidget::hideEvent(event);
+    m_recorder.cancel();
+    RenewableGLWidget::hideEvent(event);
+}
+
+bool KVOpenGLWidget::event(QEvent *event)
+{
+    switch (m_recorder.handle(*event)) {
+    case InputRecorder::Outcome::Passed:
+        return RenewableGLWidget::event(event);
+    case InputRecorder::Outcome::Used:
+        playbackChanged();
+        break;
+    case InputRecorder::Outcome::Changed:
+        cameraMoved();
+        break;
+    }
+    return true;
+}
+
+void KVOpenGLWidget::tellPicked(PickTool::Kind kind, int index)
+{
+    m_recorder.showCursor(); // whoever is told may open something
+    switch (kind) {
+    case PickTool::Kind::Surface:
+        return emit surfacePicked(index);
+    case PickTool::Kind::Bone:
+        return emit bonePicked(index);
+    case PickTool::Kind::HotPoint:
+        return emit hotPointPicked(index);
+    }
 }

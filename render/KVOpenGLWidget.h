@@ -3,18 +3,21 @@
 #pragma once
 
 #include "Camera.h"
-#include "FrameLabel.h"
+#include "InputRecorder.h"
 #include "ModelPlaces.h"
-#include "Pose.h"
-#include "ScenePainter.h"
+#include "PositionReadOut.h"
+#include "RenewableGLWidget.h"
+#include "SceneSight.h"
+#include "ShownPlayback.h"
+#include "ShownScene.h"
+#include "TickTimer.h"
+#include "ViewTools.h"
 
-#include <QBasicTimer>
-#include <QColor>
-#include <QElapsedTimer>
 #include <QOpenGLExtraFunctions>
-#include <QOpenGLWidget>
 
 #include <functional>
+#include <utility>
+#include <vector>
 
 class ViewStatistics;
 
@@ -25,22 +28,13 @@ class ViewStatistics;
 ///
 /// Models are borrowed and must outlive their stay in the view. View settings are read from the settings
 /// store once, at construction; storing them is the caller's part. A hidden view does no work.
-class KVOpenGLWidget : public QOpenGLWidget, protected QOpenGLExtraFunctions
+class KVOpenGLWidget : public RenewableGLWidget, protected QOpenGLExtraFunctions
 {
     Q_OBJECT
 
 public:
-    /// A view made inside another widget is in no layout and never shown before embed().
     explicit KVOpenGLWidget(QWidget *parent = nullptr);
     ~KVOpenGLWidget() override;
-
-    /// Takes the view's place in its parent, or fails where there is no OpenGL: a window with a view in it
-    /// that cannot draw would stay black all over. Waits for the driver, so it is for the end of a window's
-    /// construction.
-    void embed();
-
-    /// Why the view shows nothing, for the user; empty while nothing is wrong.
-    const QString &failure() const { return m_failure; }
 
     /// Whether the view shows its skinned mesh, with pose and playback, or its static one. Off at first.
     void setSkinnedMeshMode(bool on);
@@ -64,23 +58,29 @@ public:
 
     void setBackgroundColor(const QColor &color);
     void setMoveSpeed(float speed); ///< units per pixel, or per tick of a held key
-    void setBrightness(float factor);
-    void setShowGround(bool on);
-    void setShowAxisGizmo(bool on);
-    void setBackCull(bool on);
-    void setSurfSelectType(int type); ///< 0 to 4, see SurfaceOverlay; anything else is 0
-    void setShading(int shading);     ///< 0 to 2, see Shading; anything else is 0
+    void setOrbitMode(bool on);     ///< the mouse turns the camera around the model without Alt, too
+    void setBrightness(float factor) { change(m_scene.frame.brightness, factor); }
+    void setShowGround(bool on) { change(m_scene.frame.showGround, on); }
+    void setShowAxisGizmo(bool on) { change(m_scene.frame.showAxisGizmo, on); }
+    void setBackCull(bool on) { change(m_scene.frame.backCull, on); }
+    /// 0 to 4, see SurfaceOverlay; anything else is 0.
+    void setSurfSelectType(int type) { change(m_scene.frame.overlay, ShownScene::overlay(type)); }
+    /// 0 to 2, see Shading; anything else is 0.
+    void setShading(int shading) { change(m_scene.frame.shading, ShownScene::shading(shading)); }
     void setShowSkeleton(bool on);
     void setShowHotPoints(bool on);
     void setShowStatistics(bool on); ///< frames a second and the number of triangles, in a corner
-    void setOrbitMode(bool on);      ///< the mouse turns the camera around the model without Alt, too
 
     void setSelectedSurface(int surface); ///< -1: none
-    void setSelectedBone(int bone);       ///< -1: none
+    /// -1: none.
+    void setSelectedBone(int bone) { change(m_scene.frame.selectedBone, bone); }
     /// Marks a point, relative to a bone or, where there is no such bone, to the model. `flag` stands the
     /// square on its corner.
-    void setHighlightPoint(const QVector3D &position, bool flag, int bone);
-    void clearHighlightPoint();
+    void setHighlightPoint(const QVector3D &position, bool flag, int bone)
+    {
+        change(m_scene.frame.highlight, {true, position, flag, bone});
+    }
+    void clearHighlightPoint() { change(m_scene.frame.highlight, {}); }
     /// The selected ones among the marked bones and hot points, ascending.
     void setMarkedSelection(std::vector<int> bones, std::vector<int> hotPoints);
     /// What the tips of bones and hot points say, by their indexes.
@@ -98,21 +98,11 @@ public:
 
     /// What the view shows as a picture of another size; null when it cannot be painted.
     QImage picture(const QSize &size, const QColor &background);
-    QColor backgroundColor() const { return m_background; }
+    QColor backgroundColor() const { return m_scene.background(); }
 
     const Camera &camera() const { return m_camera; }
 
-    /// Gives up the context with all that is in it. The view makes another one and builds the model's copy
-    /// anew as soon as its window is on the screen; what it shows, and how, stays.
-    void renewContext();
-
 signals:
-    /// The graphics driver has dropped the view's context, as after a reset. That of the window, which shares
-    /// with it, is lost along with it: whoever owns the window has to make the native one anew, with a
-    /// renewContext() of every view in it while there is none.
-    void contextLost();
-    /// The view cannot draw, see failure(), and has hidden itself.
-    void failed();
     // What a click has hit.
     void surfacePicked(int surface);
     void bonePicked(int bone);
@@ -128,114 +118,39 @@ protected:
     void initializeGL() override;
     void resizeGL(int width, int height) override;
     void paintGL() override;
-    /// Whether the driver has dropped the context, or the window's. Drivers tell where the surface format
-    /// asks for it (QSurfaceFormat::ResetNotification); Qt then looks whenever it makes a context current.
-    virtual bool isContextLost() const;
-
-    void paintEvent(QPaintEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
     void timerEvent(QTimerEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
-    void keyReleaseEvent(QKeyEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
-    void mouseMoveEvent(QMouseEvent *event) override;
-    void wheelEvent(QWheelEvent *event) override;
-    void leaveEvent(QEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
+    bool event(QEvent *event) override;
 
 private:
-    enum class Pace { Idle, Moving };
-    /// What the mouse does with the camera while a button is down, beside flight.
-    enum class Aiming { None, Orbit, Pan };
-    /// One of the two at most.
-    struct HitMarks
+    template <typename Field>
+    void change(Field &field, Field value)
     {
-        int bone = SceneMarks::None;
-        int hotPoint = SceneMarks::None;
-    };
-
-    // Meshes on the graphics card.
-    void fail(const QString &reason);
+        field = std::move(value);
+        update();
+    }
+    template <typename Change>
+    void changeCopy(Change change);
     void releaseGL();
-    bool takeContext();
-    void noticeLoss();
-    void onLoss();
-    void modelReplaced(bool shown);
-    void buildModel();
-    void refreshModel();
-    float groundHeight() const;
-    void showStatistics();
-
-    // One tick: clock, label, read-out, camera.
-    void tick(float dt);
-    void readOut(float dt);
-    bool playbackDiffers() const;
-    bool mustKeepMoving() const;
-    void setPace(Pace pace);
-
-    void pose();
-    // Aim and hits.
-    void showMarks();
-    void framePlaces(std::vector<QVector3D> places);
-    ScreenMap screenMap() const;
-    int surfaceAt(const QPoint &pixel, QVector3D *place = nullptr) const;
-    /// What the camera turns around: what it was aimed at, else what it looks at, in the view's space.
-    QVector3D pivot() const;
+    void replaceModel(bool shown);
+    void showTriangles();
+    void trackMarks();
     void cameraMoved();
-    HitMarks marksAt(const QPoint &pixel) const;
-    void pick(const QPoint &pixel);
-    void hover(const QPoint &pixel);
+    /// One tick. Returns whether something goes on moving.
+    bool tick(float dt);
+    void tellPicked(PickTool::Kind kind, int index);
 
-    bool startAiming(const QMouseEvent &event);
-    bool setKey(const QKeyEvent &event, bool held);
-    void releaseInput();
-    QPoint centre() const { return {width() / 2, height() / 2}; }
+    ShownScene m_scene;
+    Camera m_camera;
+    SceneSight m_sight;
 
-    QString m_failure;
-    std::unique_ptr<ScenePainter> m_painter; ///< made in initializeGL for its context
-    SceneFrame m_frame;                      ///< of the next paint
-    QColor m_background;
-    float m_moveSpeed = 0.0f;
-    bool m_backCull = false;
-    bool m_appliedBackCull = false;
-    bool m_lossNoticed = false;
-    int m_losses = 0;      ///< of a context, in close succession
-    qint64 m_lastLoss = 0; ///< milliseconds of m_clock
+    ViewTools m_tools;
+    InputRecorder m_recorder;
 
     bool m_active = false;
-    const SkinnedMesh *m_skinnedMesh = nullptr;
-    const StaticMesh *m_staticMesh = nullptr;
-    int m_selectedSurface = GLMesh::NoSurface;
-    bool m_verticesChanged = false;
-    bool m_indexesChanged = false;
-    PoseEvaluator m_poses;
-
-    QBasicTimer m_timer;
-    Pace m_pace = Pace::Idle;
-    QElapsedTimer m_clock;
-    qint64 m_previousTick = 0; ///< milliseconds of m_clock
-    Playback m_shownPlayback;  ///< as it was after the last paint
-    FrameLabel m_frameLabel;
-    float m_sinceReadOut = 0.0f; ///< seconds
-    QVector3D m_readOutPosition;
-
-    Camera m_camera;
-    QPoint m_savedCursor; ///< where the mouse was captured, on the screen
-    bool m_orbitMode = false;
-    Aiming m_aiming = Aiming::None;
-    Qt::MouseButton m_aimingButton = Qt::NoButton;
-    QVector3D m_pivot;      ///< of the aiming
-    QPoint m_aimingCursor;  ///< where the mouse was last
-    bool m_isClick = false; ///< a press without a drag so far
-    QPoint m_clickPixel;
-    int m_clickTravel = 0; ///< pixels
-
+    TickTimer m_timer;
+    ShownPlayback m_playback;
+    PositionReadOut m_readOut;
     ViewStatistics *m_statistics = nullptr; ///< null while they are not shown
-    MarkName m_boneName;
-    MarkName m_hotPointName;
-    int m_hoveredBone = SceneMarks::None;
-    int m_hoveredHotPoint = SceneMarks::None;
 };

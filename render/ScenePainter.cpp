@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace {
 // Sizes of markers at a distance of 1: they look equally big from everywhere.
@@ -92,6 +93,8 @@ void ScenePainter::setBackground(const QColor &color)
 
 void ScenePainter::setBackFaceCulling(bool on)
 {
+    if (std::exchange(m_culls, on) == on)
+        return;
     if (on) {
         m_gl.glEnable(GL_CULL_FACE);
         m_gl.glCullFace(GL_BACK);
@@ -118,6 +121,7 @@ void ScenePainter::paint(const SceneFrame &frame)
 {
     m_gl.glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
     m_gl.glActiveTexture(GL_TEXTURE0);
+    setBackFaceCulling(frame.backCull);
     m_modelMatrix = modelMatrix(frame);
 
     beginTextured(m_programs.plain, frame);

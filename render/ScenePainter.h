@@ -36,6 +36,7 @@ struct SceneFrame
     QSize viewport;  ///< in the widget's own pixels
     QQuaternion yaw; ///< turn of the whole model about its z
     bool skinned = false;
+    bool backCull = false; ///< clockwise triangles are front faces, and the others are not seen
     bool showGround = false;
     bool showAxisGizmo = false;
     float brightness = 1.0f;
@@ -64,9 +65,6 @@ public:
     /// Depth test, blending, point size and clear colour. Over a transparent background the frame comes out
     /// premultiplied.
     void setUpState(const QColor &background);
-    void setBackground(const QColor &color);
-    /// Clockwise triangles are front faces.
-    void setBackFaceCulling(bool on);
 
     void paint(const SceneFrame &frame);
     /// The bones and hot points of the frame painted last.
@@ -78,6 +76,8 @@ public:
     static QQuaternion uprightRotation();
 
 private:
+    void setBackground(const QColor &color);
+    void setBackFaceCulling(bool on);
     void beginTextured(TexturedProgram &textured, const SceneFrame &frame);
     void drawTextured(TexturedProgram &textured, GLMesh &mesh, const QMatrix4x4 &mvp,
                       GLenum mode = GL_TRIANGLES);
@@ -97,6 +97,7 @@ private:
     QOpenGLExtraFunctions &m_gl;
     PolygonMode m_polygonMode; ///< null in an embedded context, which draws no wires
     QVector3D m_wireColor;     ///< that shows on the background
+    bool m_culls = false;
     ShaderPrograms m_programs;
     std::unique_ptr<GLMesh> m_model;
     std::unique_ptr<GLMesh> m_ground; ///< made when it is first shown

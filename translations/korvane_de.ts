@@ -2295,32 +2295,10 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
 <context>
     <name>KVOpenGLWidget</name>
     <message>
-        <source>Models cannot be drawn: the system offers no OpenGL.
-Look for a driver of the graphics card, or install a software renderer such as Mesa.</source>
-        <translation>Modelle können nicht gezeichnet werden: das System bietet kein OpenGL.
-Suchen Sie einen Treiber für die Grafikkarte, oder installieren Sie einen Software-Renderer wie Mesa.</translation>
-    </message>
-    <message>
         <source>Models cannot be drawn: the graphics driver does not take the program&apos;s shaders.
 It must offer OpenGL 3.0 or later.</source>
         <translation>Modelle können nicht gezeichnet werden: der Grafiktreiber nimmt die Shader des Programms nicht an.
 Er muss OpenGL 3.0 oder neuer bieten.</translation>
-    </message>
-    <message>
-        <source>Models are not drawn any more: the graphics driver has failed several times.
-Everything else works on. Start Korvane again to see models.</source>
-        <translation>Modelle werden nicht mehr gezeichnet: der Grafiktreiber ist mehrmals ausgefallen.
-Alles andere funktioniert weiter. Starten Sie Korvane neu, um Modelle zu sehen.</translation>
-    </message>
-    <message>
-        <source>[Viewport] The graphics driver was reset; the view is built anew</source>
-        <translation>[Ansicht] Der Grafiktreiber wurde zurückgesetzt; die Ansicht wird neu aufgebaut</translation>
-    </message>
-    <message>
-        <source>Models cannot be drawn: the system has OpenGL, but gives the window no context of it.
-Everything else works on.</source>
-        <translation>Modelle können nicht gezeichnet werden: das System hat OpenGL, gibt dem Fenster aber keinen Kontext.
-Alles andere funktioniert weiter.</translation>
     </message>
 </context>
 <context>
@@ -3958,6 +3936,31 @@ Datei &gt; Wiederherstellen… hebt eine Kopie davon auf.</translation>
     <message>
         <source>Keep</source>
         <translation>Behalten</translation>
+    </message>
+</context>
+<context>
+    <name>RenewableGLWidget</name>
+    <message>
+        <source>Models cannot be drawn: the system offers no OpenGL.
+Look for a driver of the graphics card, or install a software renderer such as Mesa.</source>
+        <translation>Modelle können nicht gezeichnet werden: das System bietet kein OpenGL.
+Suchen Sie einen Treiber für die Grafikkarte, oder installieren Sie einen Software-Renderer wie Mesa.</translation>
+    </message>
+    <message>
+        <source>Models are not drawn any more: the graphics driver has failed several times.
+Everything else works on. Start Korvane again to see models.</source>
+        <translation>Modelle werden nicht mehr gezeichnet: der Grafiktreiber ist mehrmals ausgefallen.
+Alles andere funktioniert weiter. Starten Sie Korvane neu, um Modelle zu sehen.</translation>
+    </message>
+    <message>
+        <source>[Viewport] The graphics driver was reset; the view is built anew</source>
+        <translation>[Ansicht] Der Grafiktreiber wurde zurückgesetzt; die Ansicht wird neu aufgebaut</translation>
+    </message>
+    <message>
+        <source>Models cannot be drawn: the system has OpenGL, but gives the window no context of it.
+Everything else works on.</source>
+        <translation>Modelle können nicht gezeichnet werden: das System hat OpenGL, gibt dem Fenster aber keinen Kontext.
+Alles andere funktioniert weiter.</translation>
     </message>
 </context>
 <context>

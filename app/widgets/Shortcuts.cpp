@@ -159,7 +159,7 @@ QString withKeys(const QString &tip, const QAction *action)
     return tip + suffix(action->shortcuts());
 }
 
-Shortcuts::Shortcuts(const QMenuBar &menus, const QList<QWidget *> &views, QWidget *window)
+Shortcuts::Shortcuts(const QMenuBar &menus, const QVector<ShortcutCommand> &fixed, QWidget *window)
     : QObject(window)
 {
     for (QDockWidget *dock : window->findChildren<QDockWidget *>())
@@ -174,7 +174,7 @@ Shortcuts::Shortcuts(const QMenuBar &menus, const QList<QWidget *> &views, QWidg
         for (QAction *action : widget->actions())
             add(action, widget->accessibleName());
     }
-    addFlight(views);
+    m_commands += fixed;
     for (const ShortcutCommand &command : qAsConst(m_commands))
         m_keys.append(command.defaults);
     read();
@@ -218,17 +218,6 @@ void Shortcuts::add(QAction *action, const QString &group)
     while (command.name.endsWith(QLatin1Char('.')) || command.name.endsWith(QChar(0x2026)))
         command.name.chop(1);
     m_commands.append(command);
-}
-
-void Shortcuts::addFlight(const QList<QWidget *> &views)
-{
-    const QPair<Qt::Key, QString> keys[] = {{Qt::Key_W, tr("Fly Forward")},
-                                            {Qt::Key_S, tr("Fly Back")},
-                                            {Qt::Key_A, tr("Fly Left")},
-                                            {Qt::Key_D, tr("Fly Right")},
-                                            {Qt::Key_C, tr("Reset the Camera")}};
-    for (const auto &[key, name] : keys)
-        m_commands.append({{}, tr("3D View"), name, {QKeySequence(key)}, {}, views});
 }
 
 void Shortcuts::read()

@@ -45,8 +45,8 @@ class Shortcuts : public QObject
     Q_OBJECT
 
 public:
-    /// Collects the actions that there are now. `views` fly a camera by keys of their own.
-    Shortcuts(const QMenuBar &menus, const QList<QWidget *> &views, QWidget *window);
+    /// Collects the actions that there are now. `fixed` are keys of widgets that have no action.
+    Shortcuts(const QMenuBar &menus, const QVector<ShortcutCommand> &fixed, QWidget *window);
 
     const QVector<ShortcutCommand> &commands() const { return m_commands; }
     /// By command.
@@ -61,7 +61,6 @@ public:
 private:
     void addMenu(const QList<QAction *> &actions, const QString &path);
     void add(QAction *action, const QString &group);
-    void addFlight(const QList<QWidget *> &views);
     void read();
     void apply();
 

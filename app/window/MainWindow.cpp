@@ -14,6 +14,7 @@
 #include "ExplorerFiles.h"
 #include "FileDrop.h"
 #include "FilterLine.h"
+#include "FlightCommands.h"
 #include "FolderExplorer.h"
 #include "HistoryView.h"
 #include "Icons.h"
@@ -23,7 +24,6 @@
 #include "ModelTransforms.h"
 #include "PictureSaver.h"
 #include "Playback.h"
-#include "PositionReadOut.h"
 #include "Preferences.h"
 #include "Problems.h"
 #include "ProblemsButton.h"
@@ -33,6 +33,7 @@
 #include "ReloadPrompt.h"
 #include "Session.h"
 #include "Shortcuts.h"
+#include "StatusReadOut.h"
 #include "StructureActions.h"
 #include "TemporaryFolder.h"
 #include "UndoActions.h"
@@ -77,7 +78,7 @@ MainWindow::MainWindow(QWidget *parent)
     new QuestionMenu(*m_ui->tabDatabase, this);
     createDocks();
     // All actions are there by now.
-    m_shortcuts = new Shortcuts(*m_ui->menuBar, {m_ui->viewSkinned, m_ui->viewStatic}, this);
+    m_shortcuts = new Shortcuts(*m_ui->menuBar, flightCommands({m_ui->viewSkinned, m_ui->viewStatic}), this);
     m_preferences = new Preferences(*m_shortcuts, this);
     embedViewport(m_ui->viewSkinned, m_ui->vlviewSkinned);
     embedViewport(m_ui->viewStatic, m_ui->vlviewStatic);
@@ -190,7 +191,7 @@ void MainWindow::createViewToolBars(const DisplayOptions &display)
     m_ui->vlviewStatic->insertWidget(0, rigid);
     m_ui->animTrackFrame->serve(*m_ui->viewSkinnedPanel); // tool bar and all
     new ViewPreferences({skinned, rigid}, m_panes->viewports(), actions, this);
-    new PositionReadOut(m_panes->viewports(), m_ui->statusBar);
+    new StatusReadOut(m_panes->viewports(), m_ui->statusBar);
     for (const KVOpenGLWidget *viewport : m_panes->viewports())
         connect(viewport, &KVOpenGLWidget::contextLost, this, &MainWindow::OnContextLost);
 }

@@ -10,20 +10,14 @@
 #include <optional>
 #include <vector>
 
-/// One step of a critically damped spring from `current` towards `target`. `velocity` (units per second) is
-/// carried from step to step; times are in seconds. Never overshoots.
-float smoothDamp(float current, float target, float &velocity, float smoothTime, float dt);
-
-/// The viewport's camera: keys fly it at once, mouse drags set targets that it is smoothed towards. Knows no
-/// window: the widget hands in keys, buttons, mouse offsets and ticks.
+/// Where the viewport looks from, and whither. Whoever flies it there little by little uses flyTo() and
+/// turnTo(); all else puts it elsewhere at once.
 class Camera
 {
 public:
-    enum Key { Forward, Back, Left, Right, Fast, KeyCount };
     /// From where a model is looked at, as drawings name it: the right side of a model that faces the viewer
     /// is that on the viewer's right.
     enum class Side { Front, Back, Left, Right, Top, Bottom };
-    enum Button { LeftButton, RightButton, MiddleButton, ButtonCount };
 
     static constexpr float PitchLimit = 89.0f;     ///< degrees
     static constexpr float DegreesPerPixel = 0.5f; ///< of a drag
@@ -41,11 +35,9 @@ public:
 
     /// The offset applied to the world, not the eye's place.
     const QVector3D &position() const { return m_position; }
-    const QVector3D &targetPosition() const { return m_targetPosition; }
     float yaw() const { return m_yaw; }     ///< degrees
     float pitch() const { return m_pitch; } ///< degrees, -89 to 89
-    float targetYaw() const { return m_targetYaw; }
-    float targetPitch() const { return m_targetPitch; }
+    QQuaternion rotation() const { return QQuaternion::fromEulerAngles(m_pitch, m_yaw, 0.0f); }
 
     /// Where the eye stands, and where it looks.
     QVector3D eye() const;
@@ -59,26 +51,17 @@ public:
     /// Vertical field of view 90 degrees; a width or height of 0 counts as 1.
     static QMatrix4x4 projectionMatrix(int width, int height);
 
-    void setKey(Key key, bool held) { m_keys[key] = held; }
-    /// True while a key is held that moves the camera.
-    bool flies() const;
+    /// The next step of a flight. What was framed is left behind.
+    void flyTo(const QVector3D &position);
+    void turnTo(float yaw, float pitch);
 
-    /// A button went down. Returns true when this press captures the mouse.
-    bool press(Button button);
-    /// A button went up. Returns true when this release gives the mouse back: left and right are both up.
-    bool release(Button button);
-    /// Lets go of every key and button. Returns true when the mouse was captured.
-    bool releaseAll();
-    bool isCaptured() const { return m_captured; }
-
-    /// The captured mouse moved by (dx, dy) pixels; `speed` is in units per pixel. Does nothing before the
-    /// first tick of a capture, when the cursor may not stand in the centre yet; returns whether it did
-    /// anything.
-    bool drag(float dx, float dy, float speed);
-
-    /// One timer tick, `dt` seconds after the one before. A held key moves by `speed` units a tick, whatever
-    /// the time. Returns true when anything moved.
-    bool tick(float dt, float speed);
+    /// How often the camera was put elsewhere at once: where a flight was bound for does not count any more.
+    struct Jumps
+    {
+        int position = 0;
+        int angles = 0;
+    };
+    const Jumps &jumps() const { return m_jumps; }
 
     // At once, and without losing what was framed.
 
@@ -98,22 +81,10 @@ public:
 private:
     /// Stands where the view has `place` at `seen`, unless no float holds that.
     void bring(const QVector3D &place, const QVector3D &seen);
-    QQuaternion rotation() const { return QQuaternion::fromEulerAngles(m_pitch, m_yaw, 0.0f); }
-    bool fly(float speed);
-    bool smooth(float dt);
 
     QVector3D m_position;
-    QVector3D m_targetPosition;
-    QVector3D m_positionVelocity;
     std::optional<QVector3D> m_framed;
     float m_yaw = 0.0f;
     float m_pitch = 0.0f;
-    float m_targetYaw = 0.0f;
-    float m_targetPitch = 0.0f;
-    float m_yawVelocity = 0.0f;
-    float m_pitchVelocity = 0.0f;
-    bool m_keys[KeyCount] = {};
-    bool m_buttons[ButtonCount] = {};
-    bool m_captured = false;
-    int m_ticksSinceCapture = 0;
+    Jumps m_jumps;
 };

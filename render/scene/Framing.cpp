@@ -21,6 +21,11 @@ bool isFinite(const QVector3D &point)
     return std::isfinite(point.x()) && std::isfinite(point.y()) && std::isfinite(point.z());
 }
 
+bool isWithin(float limit, const QVector3D &point)
+{
+    return std::fabs(point.x()) <= limit && std::fabs(point.y()) <= limit && std::fabs(point.z()) <= limit;
+}
+
 VisionExtent::VisionExtent(const std::vector<QVector3D> &points, const QMatrix4x4 &turn, float tangentX,
                            float tangentY)
     : m_tangentX(tangentX)

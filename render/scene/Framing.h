@@ -10,6 +10,8 @@
 #include <vector>
 
 bool isFinite(const QVector3D &point);
+/// Whether no coordinate is farther from 0; false for what is no place.
+bool isWithin(float limit, const QVector3D &point);
 
 /// How far points reach beyond the sides of a pyramid of vision, whose tip then goes where it has all of them
 /// inside. Points that are not finite do not count.

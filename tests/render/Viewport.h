@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "AnimFile.h"
 #include "KVOpenGLWidget.h"
 #include "Log.h"
 #include "Playback.h"
@@ -44,6 +45,8 @@ public:
 
     int frames = 0;
     StaticMesh square; ///< shown by openSquare()
+    SkinnedMesh mesh;  ///< shown by showBones(), with the animation
+    AnimFile anim;
 
     /// Shows the view in front and waits for its first frame.
     void open()
@@ -66,13 +69,28 @@ public:
     }
 
     /// Shows a mesh in the pose of an animation.
-    void showSkinned(const SkinnedMesh &mesh, const AnimFile &anim)
+    void showSkinned(const SkinnedMesh &shown, const AnimFile &played)
     {
-        playback().mesh = &mesh;
-        playback().anim = &anim;
+        playback().mesh = &shown;
+        playback().anim = &played;
         setSkinnedMeshMode(true);
-        setSkinnedMesh(&mesh);
+        setSkinnedMesh(&shown);
     }
+
+    /// Shows bones, each the child of the one before and that far from it.
+    void showBones(const std::vector<QVector3D> &offsets)
+    {
+        mesh.nodes.resize(offsets.size());
+        anim.blocks.resize(1);
+        anim.blocks[0].nodes.resize(offsets.size());
+        for (size_t bone = 0; bone < offsets.size(); ++bone) {
+            offset(bone) = offsets[bone];
+            if (bone > 0)
+                mesh.nodes[bone - 1].childNodes = {quint16(bone)};
+        }
+        showSkinned(mesh, anim);
+    }
+    QVector3D &offset(size_t bone) { return anim.blocks[0].nodes[bone].initialPosition; }
 
     QColor pixel(int x, int y) { return grabFramebuffer().pixelColor(x, y); }
     QColor centrePixel() { return pixel(width() / 2, height() / 2); }

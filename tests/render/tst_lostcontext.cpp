@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "AnimFile.h"
 #include "Viewport.h"
 
 #include <QHBoxLayout>
@@ -32,7 +31,7 @@ class tst_LostContext : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { TestSupport::useSettingsHome(m_home); }
     void init();
     void cleanup();
     void theViewComesBack_data();
@@ -47,32 +46,21 @@ private:
     void renewWhenLost();
 
     QTemporaryDir m_home;
-    SkinnedMesh m_mesh;
-    AnimFile m_anim;
     QStringList m_log;
     std::unique_ptr<FailingViewport> m_view;
 };
-
-void tst_LostContext::initTestCase()
-{
-    TestSupport::useSettingsHome(m_home);
-    m_mesh.nodes.resize(2);
-    m_mesh.nodes[0].childNodes = {1};
-    m_mesh.surfaces = {{QStringLiteral("m/a/_white"), {0, 1, 2}}, {QStringLiteral("m/a/_white"), {2, 1, 3}}};
-    m_mesh.vertices = {{{-100, 0, 0}, {}, {}, 0},
-                       {{0, 0, 150}, {}, {}, 0},
-                       {{100, 0, 0}, {}, {}, 0},
-                       {{150, 0, 100}, {}, {}, 1}};
-    m_anim.blocks.resize(1);
-    m_anim.blocks[0].nodes.resize(2);
-    m_anim.blocks[0].nodes[0].initialPosition = {0.0f, 0.0f, 250.0f};
-}
 
 void tst_LostContext::init()
 {
     m_log.clear();
     Log::setSink([this](LogSeverity, const QString &text) { m_log += text; });
     m_view = makeView<FailingViewport>();
+    const QString white = QStringLiteral("m/a/_white");
+    m_view->mesh.surfaces = {{white, {0, 1, 2}}, {white, {2, 1, 3}}};
+    m_view->mesh.vertices = {{{-100, 0, 0}, {}, {}, 0},
+                             {{0, 0, 150}, {}, {}, 0},
+                             {{100, 0, 0}, {}, {}, 0},
+                             {{150, 0, 100}, {}, {}, 1}};
 }
 
 void tst_LostContext::cleanup()
@@ -111,7 +99,7 @@ void tst_LostContext::theViewComesBack_data()
 void tst_LostContext::theViewComesBack()
 {
     QFETCH(QString, loss);
-    m_view->showSkinned(m_mesh, m_anim);
+    m_view->showBones({{0.0f, 0.0f, 250.0f}, {}});
     m_view->setSelectedSurface(1);
     m_view->setHighlightPoint({-50.0f, 0.0f, 100.0f}, false, 0);
     m_view->setSelectedBone(1);
@@ -175,7 +163,7 @@ void tst_LostContext::aModelOpenedMeanwhileIsShown()
     m_view->open();
     destroyContext();
     renewWhenLost();
-    SkinnedMesh other = m_mesh;
+    SkinnedMesh other = m_view->mesh;
     for (SkinnedMeshVertex &vertex : other.vertices)
         vertex.position += {0.0f, 0.0f, 250.0f};
     m_view->setSkinnedMesh(&other);

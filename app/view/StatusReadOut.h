@@ -10,12 +10,12 @@
 class QStatusBar;
 
 /// Shows in the status bar where the camera of the current viewport stands.
-class PositionReadOut : public QObject
+class StatusReadOut : public QObject
 {
     Q_OBJECT
 
 public:
-    PositionReadOut(const Viewports &viewports, QStatusBar *statusBar);
+    StatusReadOut(const Viewports &viewports, QStatusBar *statusBar);
 
 private:
     void show(const QString &text);

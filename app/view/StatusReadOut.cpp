@@ -1,20 +1,20 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "PositionReadOut.h"
+#include "StatusReadOut.h"
 
 #include "KVOpenGLWidget.h"
 
 #include <QStatusBar>
 
-PositionReadOut::PositionReadOut(const Viewports &viewports, QStatusBar *statusBar)
+StatusReadOut::StatusReadOut(const Viewports &viewports, QStatusBar *statusBar)
     : QObject(statusBar)
     , m_statusBar(statusBar)
 {
     for (KVOpenGLWidget *viewport : viewports)
-        connect(viewport, &KVOpenGLWidget::positionReadOut, this, &PositionReadOut::show);
+        connect(viewport, &KVOpenGLWidget::positionReadOut, this, &StatusReadOut::show);
 }
 
-void PositionReadOut::show(const QString &text)
+void StatusReadOut::show(const QString &text)
 {
     // Tips and notes of others are left to be read.
     const QString message = m_statusBar->currentMessage();

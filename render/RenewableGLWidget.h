@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QElapsedTimer>
+#include <QOpenGLWidget>
+
+/// A view that survives the loss of its OpenGL context, and says why where it cannot draw. What it shows has
+/// to be kept apart from what lies in the context.
+class RenewableGLWidget : public QOpenGLWidget
+{
+    Q_OBJECT
+
+public:
+    /// A view made inside another widget is in no layout and never shown before embed().
+    explicit RenewableGLWidget(QWidget *parent = nullptr);
+
+    /// Takes the view's place in its parent, or fails where there is no OpenGL: a window with a view in it
+    /// that cannot draw would stay black all over. Waits for the driver, so it is for the end of a window's
+    /// construction.
+    void embed();
+
+    /// Why the view shows nothing, for the user; empty while nothing is wrong.
+    const QString &failure() const { return m_failure; }
+
+    /// Gives up the context with all that is in it. The view makes another one as soon as its window is on
+    /// the screen.
+    void renewContext();
+
+signals:
+    /// The graphics driver has dropped the view's context, as after a reset. That of the window, which shares
+    /// with it, is lost along with it: whoever owns the window has to make the native one anew, with a
+    /// renewContext() of every view in it while there is none.
+    void contextLost();
+    /// The view cannot draw, see failure(), and has hidden itself.
+    void failed();
+
+protected:
+    /// Whether the driver has dropped the context, or the window's. Drivers tell where the surface format
+    /// asks for it (QSurfaceFormat::ResetNotification); Qt then looks whenever it makes a context current.
+    virtual bool isContextLost() const;
+    /// Makes the context current. False, and a loss is noticed, where there is none to draw with.
+    bool takeContext();
+    /// Looks between paints. False, and the view has failed, where it is on the screen without a context.
+    bool checkContext();
+    void fail(const QString &reason);
+
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void noticeLoss();
+    void onLoss();
+
+    QString m_failure;
+    bool m_lossNoticed = false;
+    int m_losses = 0; ///< of a context, in close succession
+    QElapsedTimer m_sinceLoss;
+};

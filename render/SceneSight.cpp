@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "SceneSight.h"
+
+#include "Camera.h"
+#include "Picking.h"
+#include "ShownScene.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+/// A single point or a small part is not gone nearer to than this share of the model's size.
+constexpr float LeastShare = 0.06f;
+/// How far away the point looked at is where there is nothing.
+constexpr float EmptyDistance = 500.0f;
+
+void widen(QVector3D &low, QVector3D &high, const std::vector<QVector3D> &places)
+{
+    for (const QVector3D &place : places) {
+        for (int axis = 0; axis < 3; ++axis) {
+            low[axis] = std::min(low[axis], place[axis]);
+            high[axis] = std::max(high[axis], place[axis]);
+        }
+    }
+}
+} // namespace
+
+SceneSight::SceneSight(const ShownScene &scene, const Camera &camera)
+    : m_scene(scene)
+    , m_camera(camera)
+{}
+
+HitMarks SceneSight::marksAt(const QPoint &pixel) const
+{
+    HitMarks hit;
+    const SceneMarks *marks = m_scene.marks();
+    if (!marks)
+        return hit;
+    hit.hotPoint = marks->hotPointAt(pixel);
+    if (hit.hotPoint == HitMarks::None)
+        hit.bone = marks->boneAt(pixel);
+    return hit;
+}
+
+int SceneSight::surfaceAt(const QPoint &pixel) const
+{
+    return surfaceAt(pixel, nullptr);
+}
+
+int SceneSight::surfaceAt(const QPoint &pixel, QVector3D *place) const
+{
+    const GLMesh *model = m_scene.model();
+    if (!model)
+        return HitMarks::None;
+    const SceneFrame &frame = m_scene.frame;
+    const ScreenMap map(frame.projection, m_camera.viewMatrix() * ScenePainter::modelMatrix(frame),
+                        frame.viewport);
+    // Through the middle of the pixel.
+    SurfacePicker picker(model->vertices().vertices, model->palette,
+                         map.ray(QPointF(pixel) + QPointF(0.5, 0.5)), frame.backCull);
+    for (int surface = 0; surface < model->surfaceCount(); ++surface)
+        picker.tryTriangles(surface, model->indexes(surface));
+    if (place && picker.surface() != SurfacePicker::None)
+        *place = picker.place();
+    return picker.surface();
+}
+
+QVector3D SceneSight::pivot() const
+{
+    if (m_camera.framed())
+        return *m_camera.framed();
+    const QMatrix4x4 toView = ScenePainter::modelMatrix(m_scene.frame);
+    const QSize size = m_scene.frame.viewport;
+    QVector3D place;
+    if (surfaceAt({size.width() / 2, size.height() / 2}, &place) != HitMarks::None)
+        return toView.map(place);
+    // Beside the model: as deep as its middle.
+    const QVector3D eye = m_camera.eye(), sight = m_camera.sight();
+    float distance = EmptyDistance;
+    const std::vector<QVector3D> places =
+        m_scene.model() ? cornersOf(*m_scene.model()) : std::vector<QVector3D>();
+    if (!places.empty()) {
+        QVector3D low = places.front(), high = low;
+        widen(low, high, places);
+        const float depth = QVector3D::dotProduct(toView.map(0.5f * (low + high)) - eye, sight);
+        if (depth > Camera::NearPlane)
+            distance = depth;
+    }
+    return eye + sight * distance;
+}
+
+std::vector<QVector3D> SceneSight::upright(std::vector<QVector3D> places) const
+{
+    const QMatrix4x4 toView = ScenePainter::modelMatrix(m_scene.frame);
+    for (QVector3D &place : places)
+        place = toView.map(place);
+    return places;
+}
+
+std::vector<QVector3D> SceneSight::modelPlaces() const
+{
+    return m_scene.model() ? upright(cornersOf(*m_scene.model())) : std::vector<QVector3D>();
+}
+
+std::vector<QVector3D> SceneSight::selectedPlaces(const ModelSelection &selection) const
+{
+    if (!m_scene.model())
+        return {};
+    const GLMesh &model = *m_scene.model();
+    std::vector<QVector3D> places = placesOf(model, m_scene.skinnedMesh(), selection);
+    if (places.empty())
+        return modelPlaces();
+    QVector3D low = places.front(), high = low, lowest = low, highest = low;
+    widen(low, high, places);
+    widen(lowest, highest, cornersOf(model));
+    const float least = LeastShare * (highest - lowest).length();
+    const QVector3D middle = 0.5f * (low + high);
+    for (int axis = 0; axis < 3; ++axis) {
+        QVector3D reach;
+        reach[axis] = least;
+        places.push_back(middle - reach);
+        places.push_back(middle + reach);
+    }
+    return upright(std::move(places));
+}

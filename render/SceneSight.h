@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ModelPlaces.h"
+#include "ScreenMap.h"
+#include "ViewSight.h"
+
+#include <QVector3D>
+
+class Camera;
+class ShownScene;
+
+/// What a camera sees of a scene: what stands where in the picture, and where to look.
+class SceneSight : public ViewSight
+{
+public:
+    SceneSight(const ShownScene &scene, const Camera &camera);
+
+    HitMarks marksAt(const QPoint &pixel) const override;
+    int surfaceAt(const QPoint &pixel) const override;
+    QVector3D pivot() const override;
+
+    // Places in the view's space, for a camera that is to have them in its picture: of the whole model, or of
+    // what is selected of it, with a little room around it. Where nothing is selected that has a place it is
+    // the whole model.
+    std::vector<QVector3D> modelPlaces() const;
+    std::vector<QVector3D> selectedPlaces(const ModelSelection &selection) const;
+
+private:
+    int surfaceAt(const QPoint &pixel, QVector3D *place) const;
+    std::vector<QVector3D> upright(std::vector<QVector3D> places) const;
+
+    const ShownScene &m_scene;
+    const Camera &m_camera;
+};

@@ -1,0 +1,168 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "ShownScene.h"
+
+#include "Camera.h"
+#include "Picture.h"
+#include "Settings.h"
+#include "SkinnedMesh.h"
+#include "StaticMesh.h"
+
+#include <algorithm>
+
+ShownScene::ShownScene()
+    : m_background(Settings::BGColor.value())
+{
+    frame.showGround = Settings::ShowGround.value();
+    frame.showAxisGizmo = Settings::ShowAxisGizmo.value();
+    frame.brightness = Settings::Brightness.value();
+    frame.backCull = Settings::BackCull.value();
+    frame.marks.skeleton = Settings::ShowSkeleton.value();
+    frame.marks.hotPoints = Settings::ShowHotPoints.value();
+    frame.overlay = overlay(Settings::SurfSelectType.value());
+    frame.shading = shading(Settings::Shading.value());
+}
+
+bool ShownScene::setSkinned(bool on)
+{
+    if (on == frame.skinned)
+        return false;
+    frame.skinned = on;
+    modelReplaced();
+    return true;
+}
+
+bool ShownScene::setMesh(const SkinnedMesh *mesh)
+{
+    m_skinnedMesh = mesh;
+    if (frame.skinned)
+        modelReplaced();
+    return frame.skinned;
+}
+
+bool ShownScene::setMesh(const StaticMesh *mesh)
+{
+    m_staticMesh = mesh;
+    if (!frame.skinned)
+        modelReplaced();
+    return !frame.skinned;
+}
+
+void ShownScene::modelReplaced()
+{
+    m_selectedSurface = GLMesh::NoSurface;
+    frame.selectedBone = -1;
+    frame.highlight = {};
+    frame.marks.mesh = nullptr;
+    frame.marks.selectedBones.clear();
+    frame.marks.selectedHotPoints.clear();
+}
+
+void ShownScene::selectSurface(int surface)
+{
+    m_selectedSurface = surface;
+    if (m_painter)
+        m_painter->model().selectedSurface = surface;
+}
+
+SurfaceOverlay ShownScene::overlay(int number)
+{
+    const bool known = number >= 0 && number <= int(SurfaceOverlay::PointsHidden);
+    return known ? SurfaceOverlay(number) : SurfaceOverlay::None;
+}
+
+Shading ShownScene::shading(int number)
+{
+    const bool known = number >= 0 && number <= int(Shading::ShadedWireframe);
+    return known ? Shading(number) : Shading::Shaded;
+}
+
+void ShownScene::makeCopy(const std::function<void()> &stepFailed)
+{
+    m_painter = std::make_unique<ScenePainter>(stepFailed);
+    applyBackground();
+    rebuild();
+}
+
+void ShownScene::applyBackground()
+{
+    m_painter->setUpState(QColor(m_background.rgb()));
+}
+
+void ShownScene::rebuild()
+{
+    m_verticesChanged = m_indexesChanged = false;
+    if (skinnedMesh())
+        m_painter->setModel(MeshSource::from(*m_skinnedMesh));
+    else if (!frame.skinned && m_staticMesh)
+        m_painter->setModel(MeshSource::from(*m_staticMesh));
+    else
+        m_painter->clearModel();
+    m_painter->model().selectedSurface = m_selectedSurface;
+    frame.groundHeight = groundHeight();
+}
+
+bool ShownScene::refresh()
+{
+    if (!m_verticesChanged && !m_indexesChanged)
+        return false;
+    GLMesh &copy = m_painter->model();
+    if (skinnedMesh())
+        copy.refresh(*m_skinnedMesh, m_indexesChanged);
+    else if (!frame.skinned && m_staticMesh)
+        copy.refresh(*m_staticMesh, m_indexesChanged);
+    m_verticesChanged = m_indexesChanged = false;
+    frame.groundHeight = groundHeight();
+    return true;
+}
+
+// A skinned mesh's vertices lie in their bones' spaces and say nothing about the posed model, so its own box
+// counts; files of static meshes often hold an empty one. A box that was rotated has no order.
+float ShownScene::groundHeight() const
+{
+    float height = 0.0f;
+    if (skinnedMesh())
+        height = std::min(m_skinnedMesh->bbMin.z(), m_skinnedMesh->bbMax.z());
+    else if (!frame.skinned && m_staticMesh)
+        height = model()->boxMin().z();
+    return height < 0.0f ? height : 0.0f;
+}
+
+void ShownScene::paint(const QMatrix4x4 &view)
+{
+    frame.view = view;
+    frame.marks.mesh = skinnedMesh();
+    m_painter->paint(frame);
+}
+
+QImage ShownScene::picture(const QSize &size, const QColor &color, const QMatrix4x4 &view, int viewHeight)
+{
+    refresh();
+    SceneFrame still = frame;
+    still.view = view;
+    still.projection = Camera::projectionMatrix(size.width(), size.height());
+    // Marks are as large beside the model as they are in the view.
+    still.viewport = QSize(size.width() * viewHeight / std::max(1, size.height()), viewHeight);
+    const QImage image = paintPicture(*m_painter, still, size, color);
+    applyBackground();
+    return image;
+}
+
+// Those of a model that was replaced since they were painted are nobody's.
+const SceneMarks *ShownScene::marks() const
+{
+    return m_painter && frame.marks.mesh ? &m_painter->marks() : nullptr;
+}
+
+BonePalette *ShownScene::palette()
+{
+    return m_painter && skinnedMesh() ? &m_painter->model().palette : nullptr;
+}
+
+int ShownScene::triangleCount() const
+{
+    size_t triangles = 0;
+    for (int surface = 0; m_painter && surface < model()->surfaceCount(); ++surface)
+        triangles += model()->indexes(surface).size() / 3;
+    return int(triangles);
+}

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ScenePainter.h"
+
+#include <QColor>
+#include <QImage>
+
+#include <functional>
+#include <memory>
+
+struct SkinnedMesh;
+struct StaticMesh;
+
+/// What a view shows: one of two borrowed models, how it is to look, and its copy on the graphics card. The
+/// copy is made, used and dropped with its context current; everything else needs none, and stays when the
+/// copy goes.
+class ShownScene
+{
+public:
+    /// As the settings want it.
+    ShownScene();
+
+    // What is shown. Each returns whether another model is shown than before, which is built anew then; what
+    // was selected and marked of the other one is forgotten.
+    bool setSkinned(bool on);
+    bool setMesh(const SkinnedMesh *mesh);
+    bool setMesh(const StaticMesh *mesh);
+    /// The skinned mesh, where it is shown.
+    const SkinnedMesh *skinnedMesh() const { return frame.skinned ? m_skinnedMesh : nullptr; }
+
+    void selectSurface(int surface);
+    /// The model has changed: the copy follows with the next refresh().
+    void verticesChanged() { m_verticesChanged = true; }
+    void indexesChanged() { m_indexesChanged = true; }
+
+    static SurfaceOverlay overlay(int number); ///< None where there is no such
+    static Shading shading(int number);        ///< Shaded where there is no such
+    const QColor &background() const { return m_background; }
+    void setBackground(const QColor &color) { m_background = color; }
+
+    // The copy.
+
+    /// Makes a copy of everything; `stepFailed` is called for each shader step that fails.
+    void makeCopy(const std::function<void()> &stepFailed);
+    void dropCopy() { m_painter.reset(); }
+    /// Makes the copy of the model, with its textures, anew.
+    void rebuild();
+    /// Lets it follow the model. False when there was nothing to follow.
+    bool refresh();
+    void applyBackground();
+    /// Paints the frame as it is seen from a camera.
+    void paint(const QMatrix4x4 &view);
+    /// The same as a picture of another size, beside a view of this height. Null when there is no memory.
+    QImage picture(const QSize &size, const QColor &color, const QMatrix4x4 &view, int viewHeight);
+
+    /// Null while there is none.
+    const GLMesh *model() const { return m_painter ? &m_painter->model() : nullptr; }
+    /// The bones and hot points of the frame painted last. Null while there is none of the model shown.
+    const SceneMarks *marks() const;
+    /// Of the skinned mesh that is shown; null while there is none.
+    BonePalette *palette();
+    int triangleCount() const;
+
+    SceneFrame frame; ///< of the next paint
+
+private:
+    void modelReplaced();
+    float groundHeight() const;
+
+    const SkinnedMesh *m_skinnedMesh = nullptr;
+    const StaticMesh *m_staticMesh = nullptr;
+    int m_selectedSurface = GLMesh::NoSurface;
+    bool m_verticesChanged = false;
+    bool m_indexesChanged = false;
+    QColor m_background;
+    std::unique_ptr<ScenePainter> m_painter;
+};

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "OrbitTool.h"
+
+#include "Camera.h"
+#include "ViewInput.h"
+#include "ViewSight.h"
+
+#include <cmath>
+#include <utility>
+
+namespace {
+constexpr double WheelNotch = 120.0; // eighths of a degree
+constexpr double FactorPerNotch = 0.88;
+} // namespace
+
+OrbitTool::OrbitTool(Camera &camera, const ViewSight &sight)
+    : m_camera(camera)
+    , m_sight(sight)
+{}
+
+bool OrbitTool::isMeant(const ViewInput &input) const
+{
+    return m_always || (input.modifiers & Qt::AltModifier) != 0;
+}
+
+bool OrbitTool::press(const ViewInput &input)
+{
+    if (m_drag != Drag::None)
+        return true;
+    if (input.mouseHeld || !isMeant(input))
+        return false;
+    if (input.button != Qt::LeftButton && input.button != Qt::MiddleButton)
+        return false;
+    m_drag = input.button == Qt::LeftButton ? Drag::Orbit : Drag::Pan;
+    m_button = input.button;
+    m_last = input.position;
+    m_pivot = m_sight.pivot();
+    return true;
+}
+
+std::optional<int> OrbitTool::move(const ViewInput &input)
+{
+    if (m_drag == Drag::None)
+        return std::nullopt;
+    const QPoint moved = input.position - std::exchange(m_last, input.position);
+    if (m_drag == Drag::Orbit)
+        m_camera.orbitDrag(m_pivot, float(moved.x()), float(moved.y()));
+    else
+        m_camera.pan(m_pivot, float(moved.x()), float(moved.y()), input.size.height());
+    return moved.manhattanLength();
+}
+
+bool OrbitTool::release(const ViewInput &input)
+{
+    return m_drag != Drag::None && input.button == m_button;
+}
+
+bool OrbitTool::wheel(const ViewInput &input)
+{
+    if (!isMeant(input))
+        return false;
+    // With Alt held many systems turn the wheel sideways.
+    const QPoint turn = input.wheelTurn;
+    const double notches = double(turn.y() != 0 ? turn.y() : turn.x()) / WheelNotch;
+    m_camera.dolly(m_sight.pivot(), float(std::pow(FactorPerNotch, notches)));
+    return true;
+}
+
+ViewCursor OrbitTool::cursor() const
+{
+    return m_drag == Drag::None ? ViewCursor::Arrow : ViewCursor::ClosedHand;
+}

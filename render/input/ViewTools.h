@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "HoverTool.h"
+#include "PickTool.h"
+#include "ToolChain.h"
+
+class Camera;
+class FlightTool;
+class OrbitTool;
+
+/// All that mouse and keys do in the 3D view.
+class ViewTools : public ToolChain
+{
+public:
+    /// Camera and sight outlive the tools.
+    ViewTools(Camera &camera, const ViewSight &sight, PickTool::Picked picked, HoverTool::ShowTip showTip);
+
+    // Those that can be told something.
+    OrbitTool *orbit;
+    FlightTool *flight;
+    HoverTool *hover;
+};

@@ -24,14 +24,22 @@ function(korvane_target_options target)
     endif()
 endfunction()
 
-# One room: korvane_library(<name> SOURCES ... LINK ... [LINK_PRIVATE ...]).
+# One room: korvane_library(<name> [PLAIN] SOURCES ... LINK ... [LINK_PRIVATE ...]).
 # A room's own folder is its only include directory, so a header of a room that is not linked cannot be found.
+# A PLAIN one has neither a QObject nor a form, so the toolkit's generators are not asked.
 function(korvane_library name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LINK;LINK_PRIVATE" ${ARGN})
+    cmake_parse_arguments(ARG "PLAIN" "" "SOURCES;LINK;LINK_PRIVATE" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
     target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
     target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE ${ARG_LINK_PRIVATE})
     korvane_target_options(${name})
+    if(ARG_PLAIN)
+        korvane_plain(${name})
+    endif()
+endfunction()
+
+function(korvane_plain target)
+    set_target_properties(${target} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
 endfunction()
 
 # The toolkit's headers take most of a compiler's time, so they are read once for all rooms that have widgets and
@@ -44,7 +52,7 @@ function(korvane_header_set name)
     endif()
     file(GENERATE OUTPUT ${PROJECT_BINARY_DIR}/headers/${name}.cpp CONTENT "")
     add_library(${name} OBJECT ${PROJECT_BINARY_DIR}/headers/${name}.cpp)
-    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+    korvane_plain(${name})
     target_link_libraries(${name} PRIVATE ${ARG_LINK})
     korvane_target_options(${name})
     target_precompile_headers(${name} PRIVATE ${ARG_HEADERS})

@@ -25,7 +25,8 @@ function(korvane_target_options target)
 endfunction()
 
 # One room: korvane_library(<name> [PLAIN] SOURCES ... LINK ... [LINK_PRIVATE ...]).
-# A room's own folder is its only include directory, so a header of a room that is not linked cannot be found.
+# A room's own folder is its only include directory, so headers are found of the rooms that it links and of those
+# below them; lint sees to it that a room includes only what its own line names.
 # A PLAIN one has neither a QObject nor a form, so the toolkit's generators are not asked.
 function(korvane_library name)
     cmake_parse_arguments(ARG "PLAIN" "" "SOURCES;LINK;LINK_PRIVATE" ${ARGN})

@@ -43,12 +43,12 @@ InputRecorder::Outcome InputRecorder::handleInput(QEvent &event)
     case QEvent::MouseButtonRelease:
         m_tools.release(record(static_cast<QMouseEvent &>(event)));
         showCursor();
-        return Outcome::Used;
+        return Outcome::Taken;
     case QEvent::MouseMove: {
         const auto &mouse = static_cast<QMouseEvent &>(event);
         const bool moved = m_tools.move(record(mouse));
         m_cursor.moved(mouse.pos());
-        return moved ? Outcome::Changed : Outcome::Used;
+        return moved ? Outcome::Changed : Outcome::Taken;
     }
     case QEvent::Wheel:
         if (!m_tools.wheel(record(static_cast<QWheelEvent &>(event))))
@@ -59,7 +59,7 @@ InputRecorder::Outcome InputRecorder::handleInput(QEvent &event)
         const auto &key = static_cast<QKeyEvent &>(event);
         if (!m_tools.keyPress(record(key)))
             return Outcome::Passed;
-        return key.isAutoRepeat() ? Outcome::Used : Outcome::Changed;
+        return key.isAutoRepeat() ? Outcome::Taken : Outcome::Changed;
     }
     case QEvent::KeyRelease:
         return m_tools.keyRelease(record(static_cast<QKeyEvent &>(event))) ? Outcome::Used : Outcome::Passed;

@@ -15,7 +15,8 @@ public:
     /// What has become of an event.
     enum class Outcome {
         Passed,  ///< it is for the toolkit to deal with
-        Used,    ///< the tools have it, and may have something to do at the next ticks
+        Taken,   ///< the tools have it, and nothing comes of it by itself
+        Used,    ///< they have something to do at the next ticks
         Changed, ///< and the view looks different
     };
 

@@ -194,11 +194,6 @@ void KVOpenGLWidget::trackMarks()
     setMouseTracking(m_scene.frame.marks.skeleton || m_scene.frame.marks.hotPoints);
 }
 
-void KVOpenGLWidget::setMarkNames(MarkName bone, MarkName hotPoint)
-{
-    m_tools.hover->setNames(std::move(bone), std::move(hotPoint));
-}
-
 void KVOpenGLWidget::setShowStatistics(bool on)
 {
     if (on == (m_statistics != nullptr))
@@ -312,6 +307,8 @@ bool KVOpenGLWidget::event(QEvent *event)
     switch (m_recorder.handle(*event)) {
     case InputRecorder::Outcome::Passed:
         return RenewableGLWidget::event(event);
+    case InputRecorder::Outcome::Taken:
+        break;
     case InputRecorder::Outcome::Used:
         playbackChanged();
         break;

@@ -83,9 +83,8 @@ public:
     void clearHighlightPoint() { change(m_scene.frame.highlight, {}); }
     /// The selected ones among the marked bones and hot points, ascending.
     void setMarkedSelection(std::vector<int> bones, std::vector<int> hotPoints);
-    /// What the tips of bones and hot points say, by their indexes.
-    using MarkName = std::function<QString(int)>;
-    void setMarkNames(MarkName bone, MarkName hotPoint);
+    /// What mouse and keys do. Whoever has something to tell a tool, or to hear of it, asks here.
+    ViewTools &tools() { return m_tools; }
 
     void resetCamera();
     void placeCamera(const QVector3D &position, float yaw, float pitch); ///< as Camera::place()

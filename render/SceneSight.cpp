@@ -53,17 +53,20 @@ int SceneSight::surfaceAt(const QPoint &pixel, QVector3D *place) const
     const GLMesh *model = m_scene.model();
     if (!model)
         return HitMarks::None;
-    const SceneFrame &frame = m_scene.frame;
-    const ScreenMap map(frame.projection, m_camera.viewMatrix() * ScenePainter::modelMatrix(frame),
-                        frame.viewport);
     // Through the middle of the pixel.
     SurfacePicker picker(model->vertices().vertices, model->palette,
-                         map.ray(QPointF(pixel) + QPointF(0.5, 0.5)), frame.backCull);
+                         screenMap().ray(QPointF(pixel) + QPointF(0.5, 0.5)), m_scene.frame.backCull);
     for (int surface = 0; surface < model->surfaceCount(); ++surface)
         picker.tryTriangles(surface, model->indexes(surface));
     if (place && picker.surface() != SurfacePicker::None)
         *place = picker.place();
     return picker.surface();
+}
+
+ScreenMap SceneSight::screenMap() const
+{
+    const SceneFrame &frame = m_scene.frame;
+    return {frame.projection, m_camera.viewMatrix() * ScenePainter::modelMatrix(frame), frame.viewport};
 }
 
 QVector3D SceneSight::pivot() const

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "ModelPlaces.h"
-#include "ScreenMap.h"
 #include "ViewSight.h"
 
 #include <QVector3D>
@@ -20,6 +19,7 @@ public:
     HitMarks marksAt(const QPoint &pixel) const override;
     int surfaceAt(const QPoint &pixel) const override;
     QVector3D pivot() const override;
+    ScreenMap screenMap() const override;
 
     // Places in the view's space, for a camera that is to have them in its picture: of the whole model, or of
     // what is selected of it, with a little room around it. Where nothing is selected that has a place it is

@@ -150,6 +150,7 @@ check 'circles of files' rooms cycles
 check 'large classes' rooms classes
 check 'crowded folders' rooms folders
 check 'picture of the rooms' rooms plan
+check 'faults of rooms are found' tools/test-rooms.sh
 check 'open ends' nothing_left_open
 check 'links of the documents' links_resolve
 check 'desktop entry and metainfo' desktop_files

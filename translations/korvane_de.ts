@@ -988,16 +988,8 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <translation>Aktion</translation>
     </message>
     <message>
-        <source>W / S</source>
-        <translation>W / S</translation>
-    </message>
-    <message>
         <source>Fly forward / back</source>
         <translation>Vorwärts / rückwärts fliegen</translation>
-    </message>
-    <message>
-        <source>A / D</source>
-        <translation>A / D</translation>
     </message>
     <message>
         <source>Fly left / right</source>
@@ -1010,10 +1002,6 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <message>
         <source>Fly three times as fast</source>
         <translation>Dreimal so schnell fliegen</translation>
-    </message>
-    <message>
-        <source>C</source>
-        <translation>C</translation>
     </message>
     <message>
         <source>Reset the camera</source>
@@ -1548,6 +1536,33 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <message>
         <source>None</source>
         <translation>Keine</translation>
+    </message>
+</context>
+<context>
+    <name>FlightKeys</name>
+    <message>
+        <source>3D View</source>
+        <translation>3D-Ansicht</translation>
+    </message>
+    <message>
+        <source>Fly Forward</source>
+        <translation>Vorwärts fliegen</translation>
+    </message>
+    <message>
+        <source>Fly Back</source>
+        <translation>Rückwärts fliegen</translation>
+    </message>
+    <message>
+        <source>Fly Left</source>
+        <translation>Nach links fliegen</translation>
+    </message>
+    <message>
+        <source>Fly Right</source>
+        <translation>Nach rechts fliegen</translation>
+    </message>
+    <message>
+        <source>Reset the Camera</source>
+        <translation>Kamera zurücksetzen</translation>
     </message>
 </context>
 <context>
@@ -4195,30 +4210,6 @@ Alles andere funktioniert weiter.</translation>
     <message>
         <source>Others</source>
         <translation>Andere</translation>
-    </message>
-    <message>
-        <source>Fly Forward</source>
-        <translation>Vorwärts fliegen</translation>
-    </message>
-    <message>
-        <source>Fly Back</source>
-        <translation>Rückwärts fliegen</translation>
-    </message>
-    <message>
-        <source>Fly Left</source>
-        <translation>Nach links fliegen</translation>
-    </message>
-    <message>
-        <source>Fly Right</source>
-        <translation>Nach rechts fliegen</translation>
-    </message>
-    <message>
-        <source>Reset the Camera</source>
-        <translation>Kamera zurücksetzen</translation>
-    </message>
-    <message>
-        <source>3D View</source>
-        <translation>3D-Ansicht</translation>
     </message>
 </context>
 <context>

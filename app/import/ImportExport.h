@@ -16,20 +16,16 @@ public:
     ImportExport(SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticMeshDocument &staticMesh,
                  DocumentFiles &files, QMainWindow *window);
 
-    /// Opens the import dialog for a mesh of this kind, with `modelPath` chosen if there is one. Unsaved
-    /// changes of the documents that the import would replace are asked for before.
-    void importModel(DocumentType type, const QString &modelPath = {});
-
-    /// Asks for a folder and exports the static mesh to it, as OBJ with its materials and textures.
-    void exportStaticMesh();
-
     /// The document that the current tab shows, whose kind of mesh is imported and exported; null for none.
     void setCurrent(const Document *document) { m_current = document; }
-    /// Imports a model of a foreign format to the current tab, or to the skinned mesh on a tab without one.
+    /// Opens the import dialog for the current tab's kind of mesh, a skinned one on a tab without, with
+    /// `modelPath` chosen if there is one. Unsaved changes of the documents that the import would replace are
+    /// asked for before.
     void importToCurrent(const QString &modelPath);
 
 public slots:
     void on_actionImport_triggered();
+    /// Asks for a folder and exports the static mesh to it, as OBJ with its materials and textures.
     void on_actionExport_triggered();
 
 signals:
@@ -37,6 +33,9 @@ signals:
     void imported(DocumentType type);
 
 private:
+    void importModel(DocumentType type, const QString &modelPath);
+    void exportStaticMesh();
+
     SkinnedMeshDocument &m_skinnedMesh;
     AnimDocument &m_anim;
     StaticMeshDocument &m_staticMesh;

@@ -8,13 +8,13 @@
 
 QVector<ShortcutCommand> flightCommands(const QList<QWidget *> &views)
 {
-    const QString group = QCoreApplication::translate("Shortcuts", "3D View");
+    const QString group = QCoreApplication::translate("FlightKeys", "3D View");
     QVector<ShortcutCommand> commands;
     for (const FlightKey &each : FlightKeys) {
         if (each.name)
             commands.append({{},
                              group,
-                             QCoreApplication::translate("Shortcuts", each.name),
+                             QCoreApplication::translate("FlightKeys", each.name),
                              {QKeySequence(each.key)},
                              {},
                              views});

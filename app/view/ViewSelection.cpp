@@ -34,7 +34,7 @@ ViewSelection::ViewSelection(const SkinnedMeshDocument &skinned, const StaticMes
     const auto name = [records = records](RecordKind kind) {
         return [records, kind](int index) { return records->label({kind, {index}}); };
     };
-    view->setMarkNames(name(RecordKind::Bone), name(RecordKind::HotPoint));
+    view->tools().hover->setNames(name(RecordKind::Bone), name(RecordKind::HotPoint));
     const auto pick = [this](DocumentType type, RecordKind kind) {
         return [this, type, kind](int index) { emit picked(type, {kind, {index}}); };
     };

@@ -190,7 +190,7 @@ void DocumentPanes::OnReplaced(DocumentType type)
         break;
     }
     const DocumentPane &replaced = pane(type);
-    replaced.viewport->playbackChanged();
+    replaced.viewport->playbackChanged(); // at once, rather than at the next idle look
     replaced.explorer->setLoadedPath(replaced.document->path());
 }
 

@@ -52,7 +52,6 @@ public:
 
     /// In the order of DocumentType.
     const std::array<DocumentPane, 3> &all() const { return m_panes; }
-    const DocumentPane &pane(DocumentType type) const { return m_panes[size_t(type)]; }
     std::array<KVOpenGLWidget *, 2> viewports() const;
 
     // Of the tab that is shown; null or empty on a tab without a document.
@@ -78,6 +77,7 @@ signals:
     void told(const QString &text);
 
 private:
+    const DocumentPane &pane(DocumentType type) const { return m_panes[size_t(type)]; }
     void connectPane(const DocumentPane &pane);
     void connectPlayback();
     void updateViewports();

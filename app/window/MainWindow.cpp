@@ -68,15 +68,19 @@ MainWindow::MainWindow(QWidget *parent)
 {
     m_ui->setupUi(this);
     setNamedIcons(*this);
+    for (QAction *action : findChildren<QAction *>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (!action->objectName().isEmpty())
+            action->setStatusTip(action->toolTip());
+    }
     createConsole();
     createDocuments();
+    createDocks();
     createViewMenu();
     readSettings();
     addUndoActions(m_undoGroup, *m_ui->menuEdit, *m_ui->toolBarEdit);
     new StructureActions({m_skinnedMesh, m_ui->treeSkinnedMesh}, {m_anim, m_ui->treeAnim},
                          {m_staticMesh, m_ui->treeStaticMesh}, this);
     new QuestionMenu(*m_ui->tabDatabase, this);
-    createDocks();
     // All actions are there by now.
     m_shortcuts = new Shortcuts(*m_ui->menuBar, flightCommands({m_ui->viewSkinned, m_ui->viewStatic}), this);
     m_preferences = new Preferences(*m_shortcuts, this);
@@ -176,6 +180,11 @@ void MainWindow::createViewMenu()
     menu->insertAction(m_ui->actionFullScreen, m_pictures->action());
     menu->insertSeparator(m_ui->actionFullScreen);
     connect(m_pictures, &PictureSaver::told, this, &MainWindow::tell);
+    addLookMenu(*menu);
+    menu->addSeparator();
+    menu->addActions({m_ui->toolBarFile->toggleViewAction(), m_ui->toolBarEdit->toggleViewAction(),
+                      m_ui->dockConsole->toggleViewAction(), m_ui->dockProblems->toggleViewAction(),
+                      m_ui->dockHistory->toggleViewAction(), m_ui->dockServers->toggleViewAction()});
     createViewToolBars(*display);
 }
 
@@ -189,7 +198,7 @@ void MainWindow::createViewToolBars(const DisplayOptions &display)
     auto *rigid = new ViewToolBar(tr("Static Mesh View"), actions, m_ui->viewStaticPanel);
     m_ui->vlviewSkinned->insertWidget(0, skinned);
     m_ui->vlviewStatic->insertWidget(0, rigid);
-    m_ui->animTrackFrame->serve(*m_ui->viewSkinnedPanel); // tool bar and all
+    m_ui->animTrackFrame->serve(*m_ui->viewSkinnedPanel); // whose tool bar is in it by now
     new ViewPreferences({skinned, rigid}, m_panes->viewports(), actions, this);
     new StatusReadOut(m_panes->viewports(), m_ui->statusBar);
     for (const KVOpenGLWidget *viewport : m_panes->viewports())
@@ -216,12 +225,6 @@ void MainWindow::createDocks()
             [this] { m_problems->setReferenceIds(m_ui->tabDatabase->ids()); });
     m_ui->dockServers->setQueryAction(m_ui->actionQueryServers);
     showHistory(*m_ui->viewHistory, m_undoGroup, m_ui->actionSave->icon());
-    addLookMenu(*m_ui->menuView);
-    m_ui->menuView->addSeparator();
-    m_ui->menuView->addActions({m_ui->toolBarFile->toggleViewAction(), m_ui->toolBarEdit->toggleViewAction(),
-                                m_ui->dockConsole->toggleViewAction(), m_ui->dockProblems->toggleViewAction(),
-                                m_ui->dockHistory->toggleViewAction(),
-                                m_ui->dockServers->toggleViewAction()});
 }
 
 void MainWindow::createPrompts()
@@ -244,6 +247,8 @@ void MainWindow::connectActions()
     wire(m_ui->actionSkinnedSaveAs, m_files, &DocumentFiles::on_actionSkinnedSaveAs_triggered);
     wire(m_ui->actionAnimSaveAs, m_files, &DocumentFiles::on_actionAnimSaveAs_triggered);
     wire(m_ui->actionSaveAll, m_files, &DocumentFiles::on_actionSaveAll_triggered);
+    // What an import writes depends on the folders.
+    wire(m_ui->actionImport, m_preferences, &Preferences::OnStartSetupPaths);
     wire(m_ui->actionImport, m_importExport, &ImportExport::on_actionImport_triggered);
     wire(m_ui->actionExport, m_importExport, &ImportExport::on_actionExport_triggered);
     wire(m_ui->actionRotate, m_transforms, &ModelTransforms::on_actionRotate_triggered);

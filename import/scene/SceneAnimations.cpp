@@ -46,17 +46,17 @@ QVector4D relativeRotation(const aiMatrix4x4 &inverseRest, const aiQuaternion &r
 struct BoneChannel
 {
     const aiNodeAnim &keys;
-    const Skeleton::Node &bone;
+    const SceneSkeleton::Node &bone;
     const aiNode &sceneNode;
 };
 
-std::vector<BoneChannel> boneChannels(const SceneSource &source, const Skeleton &skeleton,
+std::vector<BoneChannel> boneChannels(const SceneSource &source, const SceneSkeleton &skeleton,
                                       const aiAnimation &animation)
 {
     std::vector<BoneChannel> channels;
     for (unsigned i = 0; i < animation.mNumChannels; ++i) {
         const aiNodeAnim &channel = *animation.mChannels[i];
-        const Skeleton::Node *bone = skeleton.find(channel.mNodeName);
+        const SceneSkeleton::Node *bone = skeleton.find(channel.mNodeName);
         const aiNode *sceneNode = source.scene->mRootNode->FindNode(channel.mNodeName);
         if (bone && sceneNode) {
             channels.push_back({channel, *bone, *sceneNode});
@@ -100,7 +100,7 @@ void fillTrack(const BoneChannel &channel, int track, AnimBlock &block)
 }
 } // namespace
 
-void addAnimations(const SceneSource &source, const Skeleton &skeleton, size_t boneCount, AnimFile &file)
+void addAnimations(const SceneSource &source, const SceneSkeleton &skeleton, size_t boneCount, AnimFile &file)
 {
     for (unsigned i = 0; i < source.scene->mNumAnimations; ++i) {
         const aiAnimation &animation = *source.scene->mAnimations[i];

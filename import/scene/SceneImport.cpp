@@ -4,7 +4,7 @@
 
 #include "SceneAnimations.h"
 #include "SceneReading.h"
-#include "Skeleton.h"
+#include "SceneSkeleton.h"
 
 #include <QCoreApplication>
 
@@ -33,7 +33,7 @@ void importSkinnedMesh(const QString &modelPath, const QString &kmatPath, quint3
     source.scene = readScene(importer, "Skinned Mesh Import", source, flags);
     if (!source.scene || addSurfaces(source, SkinnedVertexLimit, mesh))
         return;
-    const Skeleton skeleton(source);
+    const SceneSkeleton skeleton(source);
     skeleton.addBones(mesh);
     skeleton.bindVertices(mesh);
     addAnimations(source, skeleton, mesh.nodes.size(), anim);

@@ -49,8 +49,8 @@ private:
     Camera &m_camera;
     Camera::Jumps m_jumps; ///< of the camera, which the targets know about
     float m_speed = 0.0f;
-    std::array<bool, std::size(FlightKeys)> m_held{}; ///< by motion
-    bool m_left = false;                              ///< the button
+    std::array<bool, size_t(FlightMotion::Count)> m_held{}; ///< by motion
+    bool m_left = false;                                    ///< the button
     bool m_right = false;
     bool m_captured = false;
     int m_ticksSinceCapture = 0;

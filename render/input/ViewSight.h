@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ScreenMap.h"
+
 class QPoint;
 class QVector3D;
 
@@ -25,4 +27,6 @@ public:
     virtual int surfaceAt(const QPoint &pixel) const = 0;
     /// What the camera turns around: what it was aimed at, else what it looks at, in the view's space.
     virtual QVector3D pivot() const = 0;
+    /// From the model's space to the view's pixels and back.
+    virtual ScreenMap screenMap() const = 0;
 };

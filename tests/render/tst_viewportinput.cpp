@@ -179,7 +179,7 @@ void tst_ViewportInput::clicksPick()
 void tst_ViewportInput::tipsNameWhatIsMarked()
 {
     showWall();
-    m_view->setMarkNames([](int bone) { return QStringLiteral("Bone %1").arg(bone); }, {});
+    m_view->tools().hover->setNames([](int bone) { return QStringLiteral("Bone %1").arg(bone); }, {});
     m_view->setShowSkeleton(true);
     m_view->grabFramebuffer();
     sendMouse(QEvent::MouseMove, {1, 2}, Qt::NoButton, Qt::NoButton);

@@ -41,6 +41,7 @@ public:
     }
     int surfaceAt(const QPoint &pixel) const override { return pixel == QPoint(40, 0) ? 7 : HitMarks::None; }
     QVector3D pivot() const override { return Pivot; }
+    ScreenMap screenMap() const override { return {{}, {}, {400, 300}}; }
 };
 
 /// A hand at mouse and keys of a view of 400 by 300.

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "Skeleton.h"
+#include "SceneSkeleton.h"
 
 #include <QCoreApplication>
 
@@ -30,7 +30,7 @@ const aiNode *firstNamed(const aiNode &node, const std::set<std::string> &names)
 }
 } // namespace
 
-Skeleton::Skeleton(const SceneSource &source)
+SceneSkeleton::SceneSkeleton(const SceneSource &source)
     : m_source(source)
 {
     std::set<std::string> boneNames;
@@ -61,7 +61,7 @@ Skeleton::Skeleton(const SceneSource &source)
     }
 }
 
-void Skeleton::collect(const aiNode &node, int &counter)
+void SceneSkeleton::collect(const aiNode &node, int &counter)
 {
     // A second node of one name takes an index too, so that indexes stay positions in the list of bones.
     const int index = counter++;
@@ -81,7 +81,7 @@ void Skeleton::collect(const aiNode &node, int &counter)
         collect(*node.mChildren[i], counter);
 }
 
-void Skeleton::addBones(SkinnedMesh &mesh) const
+void SceneSkeleton::addBones(SkinnedMesh &mesh) const
 {
     if (m_root)
         append(*m_root, mesh);
@@ -93,7 +93,7 @@ void Skeleton::addBones(SkinnedMesh &mesh) const
     mesh.nodes.emplace_back();
 }
 
-void Skeleton::append(const aiNode &node, SkinnedMesh &mesh) const
+void SceneSkeleton::append(const aiNode &node, SkinnedMesh &mesh) const
 {
     const size_t index = mesh.nodes.size();
     const Node *parent = &node != m_root ? find(node.mParent->mName) : nullptr;
@@ -105,7 +105,7 @@ void Skeleton::append(const aiNode &node, SkinnedMesh &mesh) const
     }
 }
 
-void Skeleton::bindVertices(SkinnedMesh &mesh) const
+void SceneSkeleton::bindVertices(SkinnedMesh &mesh) const
 {
     std::vector<bool> isBound(mesh.vertices.size());
     size_t firstVertex = 0;
@@ -142,7 +142,7 @@ void Skeleton::bindVertices(SkinnedMesh &mesh) const
     }
 }
 
-const Skeleton::Node *Skeleton::find(const aiString &name) const
+const SceneSkeleton::Node *SceneSkeleton::find(const aiString &name) const
 {
     const auto found = m_nodes.find(key(name));
     return found != m_nodes.end() ? &found->second : nullptr;

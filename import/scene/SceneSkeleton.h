@@ -9,7 +9,7 @@
 #include <string>
 
 /// The scene nodes that become bones: the tree of the first node that a mesh names as a bone.
-class Skeleton
+class SceneSkeleton
 {
 public:
     struct Node
@@ -19,7 +19,7 @@ public:
     };
 
     /// Finds the skeleton; adds an error for every name that occurs twice in it.
-    explicit Skeleton(const SceneSource &source);
+    explicit SceneSkeleton(const SceneSource &source);
 
     /// Appends the bones to `mesh`; a single neutral one, with a word about it, when there is no skeleton.
     void addBones(SkinnedMesh &mesh) const;

@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "ControlsDialog.h"
 
+#include "FlightKeys.h"
 #include "Shortcuts.h"
 #include "ui_ControlsDialog.h"
 
 #include <QHash>
+
+#include <algorithm>
 
 namespace {
 QTreeWidgetItem *addGroup(QTreeWidget *tree, const QString &title)
@@ -19,6 +22,18 @@ QTreeWidgetItem *addGroup(QTreeWidget *tree, const QString &title)
     group->setExpanded(true);
     return group;
 }
+
+QString keyOf(FlightMotion motion)
+{
+    const auto *key = std::find_if(std::begin(FlightKeys), std::end(FlightKeys),
+                                   [motion](const FlightKey &each) { return each.motion == motion; });
+    return QKeySequence(key->key).toString(QKeySequence::NativeText);
+}
+
+QString keysOf(FlightMotion one, FlightMotion other)
+{
+    return keyOf(one) + QStringLiteral(" / ") + keyOf(other);
+}
 } // namespace
 
 ControlsDialog::ControlsDialog(const Shortcuts &shortcuts, QWidget *parent)
@@ -29,10 +44,10 @@ ControlsDialog::ControlsDialog(const Shortcuts &shortcuts, QWidget *parent)
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 
     const QString viewRows[][2] = {
-        {tr("W / S"), tr("Fly forward / back")},
-        {tr("A / D"), tr("Fly left / right")},
+        {keysOf(FlightMotion::Forward, FlightMotion::Back), tr("Fly forward / back")},
+        {keysOf(FlightMotion::Left, FlightMotion::Right), tr("Fly left / right")},
         {tr("Shift"), tr("Fly three times as fast")},
-        {tr("C"), tr("Reset the camera")},
+        {keyOf(FlightMotion::ResetCamera), tr("Reset the camera")},
         {tr("Left drag"), tr("Move over the ground")},
         {tr("Right drag"), tr("Look around")},
         {tr("Left + right drag"), tr("Move up, down and sideways")},

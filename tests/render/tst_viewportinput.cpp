@@ -80,12 +80,21 @@ void tst_ViewportInput::keysFly()
 {
     m_view->open();
     const QVector3D start = m_view->camera().position();
+    // What the system sends while a key is held neither presses nor lets go.
+    const auto repeat = [this](QEvent::Type type, Qt::Key key) {
+        QKeyEvent event(type, key, Qt::NoModifier, {}, true);
+        QApplication::sendEvent(m_view.get(), &event);
+    };
     const int frames = m_view->frames;
     QTest::keyPress(m_view.get(), Qt::Key_A);
+    repeat(QEvent::KeyRelease, Qt::Key_A);
+    repeat(QEvent::KeyPress, Qt::Key_W);
     QTRY_VERIFY(m_view->camera().position().x() < start.x());
+    QCOMPARE(m_view->camera().position().z(), start.z());
     QTRY_VERIFY(m_view->frames > frames);
     QTest::keyRelease(m_view.get(), Qt::Key_A);
     const QVector3D stopped = m_view->camera().position();
+    repeat(QEvent::KeyPress, Qt::Key_C);
     QTest::qWait(30);
     QCOMPARE(m_view->camera().position(), stopped);
 
@@ -179,13 +188,20 @@ void tst_ViewportInput::clicksPick()
 void tst_ViewportInput::tipsNameWhatIsMarked()
 {
     showWall();
-    m_view->tools().hover->setNames([](int bone) { return QStringLiteral("Bone %1").arg(bone); }, {});
+    m_view->tools().hover->setNames(
+        [](int bone) { return QStringLiteral("Bone %1").arg(bone); },
+        [](int hotPoint) { return QStringLiteral("Hot point %1").arg(hotPoint); });
+    m_view->mesh.hotPoints.resize(1);
+    m_view->setSkinnedMesh(&m_view->mesh);
     m_view->setShowSkeleton(true);
-    m_view->grabFramebuffer();
-    sendMouse(QEvent::MouseMove, {1, 2}, Qt::NoButton, Qt::NoButton);
-    QTRY_COMPARE(QToolTip::text(), QStringLiteral("Bone 0"));
-    sendMouse(QEvent::MouseMove, {60, 60}, Qt::NoButton, Qt::NoButton);
-    QTRY_VERIFY(!QToolTip::isVisible());
+    for (const char *name : {"Bone 0", "Hot point 0"}) {
+        m_view->grabFramebuffer();
+        sendMouse(QEvent::MouseMove, {1, 2}, Qt::NoButton, Qt::NoButton);
+        QTRY_COMPARE(QToolTip::text(), QLatin1String(name));
+        sendMouse(QEvent::MouseMove, {60, 60}, Qt::NoButton, Qt::NoButton);
+        QTRY_VERIFY(!QToolTip::isVisible());
+        m_view->setShowHotPoints(true);
+    }
 }
 
 void tst_ViewportInput::altTurnsAroundTheModel()

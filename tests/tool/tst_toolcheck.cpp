@@ -3,6 +3,8 @@
 #include "BrokenModels.h"
 #include "ToolRun.h"
 
+#include <set>
+
 using TestSupport::readFile;
 using TestSupport::source;
 
@@ -65,23 +67,37 @@ private slots:
         QCOMPARE(ToolRun("check", {source("samples")}).exitCode, 0);
     }
 
-    /// Each kind of file is checked against what belongs to it: folders, and the mesh beside an animation.
-    void checkFindsFaultsOfEachKind()
+    /// Files of which each has one fault. Each is checked against what belongs to it: folders, and the mesh
+    /// beside an animation.
+    void checkFindsEveryFault()
     {
         const auto base = std::move(BrokenModels::bases().front());
-        const auto mesh = base->model<SkinnedMesh>();
-        auto broken = mesh;
-        broken.hotPoints[0].nodeId = 254;
-        auto anim = base->model<AnimFile>();
-        for (AnimBlock &block : anim.blocks)
-            block.nodes.emplace_back();
-        auto rigid = base->model<StaticMesh>();
-        rigid.surfaces[0].materialPath = BrokenModels::materialWithoutPicture;
-        put("a/x.skinnedmesh", SampleModels::bytesOf(mesh));
-        const QStringList expected{
-            put("a/x.anim", SampleModels::bytesOf(anim)) + " bone-count-mismatch",
-            put("b/x.skinnedmesh", SampleModels::bytesOf(broken)) + " hot-point-bone-out-of-range",
-            put("c/x.staticmesh", SampleModels::bytesOf(rigid)) + " texture-not-found"};
+        const QByteArray mesh = SampleModels::bytesOf(base->model<SkinnedMesh>());
+        QStringList expected;
+        // Empty models cannot be saved, and the reserved index ends the list that it stands in.
+        std::set<Rule> written{Rule::NoBones, Rule::NoAnimations, Rule::NoSurfaces,
+                               Rule::TriangleIndexReserved};
+        const auto putBroken = [&](const QString &suffix, auto model) {
+            using Model = decltype(model);
+            for (const auto &breakage : BrokenModels::breakages<Model>()) {
+                model = base->template model<Model>();
+                breakage.apply(model);
+                const QByteArray bytes = SampleModels::bytesOf(model);
+                Model back;
+                if (bytes.isEmpty() || SampleModels::readBytes(back, bytes) ||
+                    SampleModels::bytesOf(back) != bytes)
+                    continue;
+                const QString name = QStringLiteral("%1/x.").arg(expected.size());
+                if (suffix == QLatin1String("anim"))
+                    put(name + "skinnedmesh", mesh);
+                expected << put(name + suffix, bytes) + ' ' + ruleId(breakage.rule);
+                written.insert(breakage.rule);
+            }
+        };
+        putBroken("skinnedmesh", SkinnedMesh());
+        putBroken("anim", AnimFile());
+        putBroken("staticmesh", StaticMesh());
+        QCOMPARE(written.size(), allRules().size());
 
         const MaterialFolders folders = base->folders();
         const ToolRun run("check --json --game-path",
@@ -95,6 +111,7 @@ private slots:
                 QVERIFY(finding["record"].toObject().contains("kind"));
             }
         }
+        expected.sort();
         found.sort();
         QCOMPARE(found, expected);
     }

@@ -81,6 +81,27 @@ private slots:
         QVERIFY(minimum->hasFocus());
     }
 
+    void aModifiedDocumentGoesWithTheWindow()
+    {
+        ShownWindow window({m_files->save("man.skinnedmesh", triangleMan()),
+                            m_files->save("man.anim", twoBlocks()),
+                            m_files->save("box.staticmesh", wall({{"_white", {0, 1, 2}}}))});
+        typeParent(window, 7);
+        find<QTabWidget>(window, "tabTrees")->setCurrentIndex(1);
+        select(window, "treeAnim", {{RecordKind::AnimBlock, {1}}});
+        typeNumber(find<QSpinBox>(window, "sbAnimLoopFrame"), 7);
+        QVERIFY(find<QAction>(window, "actionUndo")->isEnabled());
+
+        // What is typed and not ended, too.
+        find<QTabWidget>(window, "tabWidget")->setCurrentIndex(1);
+        select(window, "treeStaticMesh", {{RecordKind::StaticSurface, {0}}});
+        auto *pages = find<QWidget>(window, "pagesStaticMesh");
+        auto *material = find<QLineEdit>(*pages, "txtSurfaceMaterial");
+        material->setFocus();
+        QTest::keyClicks(material, QStringLiteral("typed"));
+        QVERIFY(material->hasFocus() && material->text().contains("typed"));
+    }
+
     void whatFailsKeepsDocumentAndFile()
     {
         const QString good = m_files->save("folder/man.skinnedmesh", triangleMan());
@@ -113,7 +134,7 @@ private slots:
             QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh * "));
             QCOMPARE(TestSupport::readFile(good), isDiskFull ? before : QByteArray());
         }
-        // A modified document goes with its window, and so does what is typed and not ended.
+        // A number that is typed and not ended goes with its window.
         auto *minimum = find<QWidget>(window, "sbNodeBBMinX");
         minimum->setFocus();
         QTest::keyClicks(minimum, QStringLiteral("7"));

@@ -280,6 +280,7 @@ void tst_ViewTools::clicksAndTips()
         {"@40,0 L . 5,4 l", "s7 "},
         {"@40,0 L . 6,4 l", ""},
         {"@40,0 L . 6,0 -6,0 l", ""}, // there and back is a drag
+        {"@40,0 R r", ""},
         {"@40,0 R . 50,0 r @40,0 L . l", "s7 "},
         {"@40,0 alt L l", ""},
         {"@40,0 L R l r", ""},

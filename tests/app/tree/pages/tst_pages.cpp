@@ -33,6 +33,12 @@ private slots:
         lookAtAll(panes.mesh);
         lookAtAll(panes.anim);
         lookAtAll(panes.rigid);
+
+        // A number without a name stands for itself.
+        panes.anim.select({{RecordKind::AnimAction, {0, 1}}});
+        QCOMPARE(shownText(panes.anim.child<QComboBox>("cbAnimActionEventType")), QStringLiteral("77"));
+        panes.mesh.select({{RecordKind::Bone, {1}}});
+        QCOMPARE(shownText(panes.mesh.child<QComboBox>("cbNodeImpactType")), QStringLiteral("200"));
     }
 
     void anEditReachesAllSelectedAndOnlyItsPart()

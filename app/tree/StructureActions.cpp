@@ -72,32 +72,32 @@ int mostEntries(const AnimBlock &block, RecordKind group)
 
 const std::vector<StructureActions::Offer> &StructureActions::offers()
 {
-    using K = RecordKind;
+    using R = RecordKind;
     using A = StructureActions;
     // clang-format off
     static const std::vector<Offer> all{
-        {K::HotPoints,    Add,        QT_TR_NOOP("Add Hot Point"),              &A::OnActionAddHotPoint},
-        {K::HotPoints,    Paste,      QT_TR_NOOP("Paste Hot Point"),            &A::OnActionPasteHotPoint},
-        {K::HotPoint,     Add,        QT_TR_NOOP("Add Hot Point"),              &A::OnActionAddHotPoint},
-        {K::HotPoint,     Remove,     QT_TR_NOOP("Remove Hot Point"),           &A::OnActionRemoveHotPoint},
-        {K::HotPoint,     Copy,       QT_TR_NOOP("Copy Hot Point"),             &A::OnActionCopyHotPoint},
-        {K::HotPoint,     Paste,      QT_TR_NOOP("Paste Hot Point"),            &A::OnActionPasteHotPoint},
-        {K::SkinnedMesh,  CopyFlags,  QT_TR_NOOP("Copy Bone Flags"),            &A::OnSkinMeshCopyBoneFlags},
-        {K::Bones,        CopyFlags,  QT_TR_NOOP("Copy Bone Flags"),            &A::OnSkinMeshCopyBoneFlags},
-        {K::Bone,         CopyFlags,  QT_TR_NOOP("Copy Bone Flags"),            &A::OnSkinMeshCopyBoneFlags},
+        {R::HotPoints,    Add,        QT_TR_NOOP("Add Hot Point"),              &A::OnActionAddHotPoint},
+        {R::HotPoints,    Paste,      QT_TR_NOOP("Paste Hot Point"),            &A::OnActionPasteHotPoint},
+        {R::HotPoint,     Add,        QT_TR_NOOP("Add Hot Point"),              &A::OnActionAddHotPoint},
+        {R::HotPoint,     Remove,     QT_TR_NOOP("Remove Hot Point"),           &A::OnActionRemoveHotPoint},
+        {R::HotPoint,     Copy,       QT_TR_NOOP("Copy Hot Point"),             &A::OnActionCopyHotPoint},
+        {R::HotPoint,     Paste,      QT_TR_NOOP("Paste Hot Point"),            &A::OnActionPasteHotPoint},
+        {R::SkinnedMesh,  CopyFlags,  QT_TR_NOOP("Copy Bone Flags"),            &A::OnSkinMeshCopyBoneFlags},
+        {R::Bones,        CopyFlags,  QT_TR_NOOP("Copy Bone Flags"),            &A::OnSkinMeshCopyBoneFlags},
+        {R::Bone,         CopyFlags,  QT_TR_NOOP("Copy Bone Flags"),            &A::OnSkinMeshCopyBoneFlags},
 
-        {K::AnimFile,     Add,        QT_TR_NOOP("Add Animation"),              &A::OnActionAddAnimBlock},
-        {K::AnimFile,     Paste,      QT_TR_NOOP("Paste Animation"),            &A::OnActionPasteAnimBlock},
-        {K::AnimBlock,    Add,        QT_TR_NOOP("Add Animation"),              &A::OnActionAddAnimBlock},
-        {K::AnimBlock,    Remove,     QT_TR_NOOP("Remove Animation"),           &A::OnActionRemoveAnimBlock},
-        {K::AnimBlock,    Copy,       QT_TR_NOOP("Copy Animation"),             &A::OnActionCopyAnimBlock},
-        {K::AnimBlock,    Paste,      QT_TR_NOOP("Paste Animation"),            &A::OnActionPasteAnimBlock},
-        {K::AnimActions,  Add,        QT_TR_NOOP("Add Key Frame Action"),       &A::OnActionAddAnimAction},
-        {K::AnimAction,   Add,        QT_TR_NOOP("Add Key Frame Action"),       &A::OnActionAddAnimAction},
-        {K::AnimAction,   Remove,     QT_TR_NOOP("Remove Key Frame Action"),    &A::OnActionRemoveAnimAction},
-        {K::AnimFrames,   ChangeSize, QT_TR_NOOP("Change Frame Count…"),       &A::OnActionEditFrameCount},
-        {K::Translations, ChangeSize, QT_TR_NOOP("Change Translation Count…"), &A::OnActionEditTranslationCount},
-        {K::Rotations,    ChangeSize, QT_TR_NOOP("Change Rotation Count…"),    &A::OnActionEditRotationCount},
+        {R::AnimFile,     Add,        QT_TR_NOOP("Add Animation"),              &A::OnActionAddAnimBlock},
+        {R::AnimFile,     Paste,      QT_TR_NOOP("Paste Animation"),            &A::OnActionPasteAnimBlock},
+        {R::AnimBlock,    Add,        QT_TR_NOOP("Add Animation"),              &A::OnActionAddAnimBlock},
+        {R::AnimBlock,    Remove,     QT_TR_NOOP("Remove Animation"),           &A::OnActionRemoveAnimBlock},
+        {R::AnimBlock,    Copy,       QT_TR_NOOP("Copy Animation"),             &A::OnActionCopyAnimBlock},
+        {R::AnimBlock,    Paste,      QT_TR_NOOP("Paste Animation"),            &A::OnActionPasteAnimBlock},
+        {R::AnimActions,  Add,        QT_TR_NOOP("Add Key Frame Action"),       &A::OnActionAddAnimAction},
+        {R::AnimAction,   Add,        QT_TR_NOOP("Add Key Frame Action"),       &A::OnActionAddAnimAction},
+        {R::AnimAction,   Remove,     QT_TR_NOOP("Remove Key Frame Action"),    &A::OnActionRemoveAnimAction},
+        {R::AnimFrames,   ChangeSize, QT_TR_NOOP("Change Frame Count…"),       &A::OnActionEditFrameCount},
+        {R::Translations, ChangeSize, QT_TR_NOOP("Change Translation Count…"), &A::OnActionEditTranslationCount},
+        {R::Rotations,    ChangeSize, QT_TR_NOOP("Change Rotation Count…"),    &A::OnActionEditRotationCount},
     };
     // clang-format on
     return all;

@@ -244,7 +244,7 @@ private:
         return texts;
     }
 
-    const TestFolder m_folder;
+    const TestFolder m_folder{};
     QString m_kmatPath = QStringLiteral("materials/mat_x.kmat");
     SkinnedMesh m_mesh;
     AnimFile m_anim;

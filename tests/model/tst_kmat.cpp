@@ -129,7 +129,7 @@ private slots:
     }
 
 private:
-    const TestFolder m_folder;
+    const TestFolder m_folder{};
 };
 
 QTEST_GUILESS_MAIN(TestKMat)

@@ -51,7 +51,7 @@ private slots:
     }
 
 private:
-    const ProgramFolder m_home;
+    const ProgramFolder m_home{};
 };
 
 QTEST_MAIN(tst_Accessibility)

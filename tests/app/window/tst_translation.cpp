@@ -178,7 +178,7 @@ private slots:
     }
 
 private:
-    const ProgramFolder m_home;
+    const ProgramFolder m_home{};
     QVector<Message> m_messages;
     Listener m_listener;
 };

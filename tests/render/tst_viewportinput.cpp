@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Viewport.h"
 
+#include <QAbstractEventDispatcher>
 #include <QMouseEvent>
 #include <QSignalSpy>
 #include <QToolTip>
@@ -252,6 +253,14 @@ void tst_ViewportInput::pausedOrHiddenViewRests()
     const int frames = m_view->frames;
     QTest::qWait(500);
     QCOMPARE(m_view->frames, frames);
+    // Looking does not wake it.
+    const auto interval = [this] {
+        return QAbstractEventDispatcher::instance()->registeredTimers(m_view.get()).first().interval;
+    };
+    const int idle = interval();
+    sendMouse(QEvent::MouseMove, {5, 5}, Qt::NoButton, Qt::NoButton);
+    QCOMPARE(interval(), idle);
+    QVERIFY(idle > 1);
 
     // It notices the slider by itself.
     QSignalSpy shown(m_view.get(), &KVOpenGLWidget::frameShown);

@@ -247,13 +247,14 @@ void tst_ViewportInput::altTurnsAroundTheModel()
 void tst_ViewportInput::pausedOrHiddenViewRests()
 {
     playBlock(10.0f, 11);
+    m_view->setShowSkeleton(true); // so that the mouse is followed
     m_view->open();
     playback().playState = PlayState::Paused;
     QTest::qWait(200);
     const int frames = m_view->frames;
     QTest::qWait(500);
     QCOMPARE(m_view->frames, frames);
-    // Looking does not wake it.
+    // Nor does it wake while the mouse goes over it.
     const auto interval = [this] {
         return QAbstractEventDispatcher::instance()->registeredTimers(m_view.get()).first().interval;
     };

@@ -81,7 +81,7 @@ void RenewableGLWidget::noticeLoss()
 void RenewableGLWidget::onLoss()
 {
     m_lossNoticed = false;
-    const bool again = m_sinceLoss.isValid() && !m_sinceLoss.hasExpired(LossesInterval - 1);
+    const bool again = m_sinceLoss.isValid() && m_sinceLoss.elapsed() < LossesInterval;
     m_losses = again ? m_losses + 1 : 1;
     m_sinceLoss.start();
     if (m_losses > MostLosses) {

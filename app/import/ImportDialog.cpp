@@ -16,7 +16,6 @@
 #include <QMessageBox>
 #include <QScreen>
 
-#include <algorithm>
 #include <utility>
 
 namespace {

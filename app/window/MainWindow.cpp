@@ -51,7 +51,7 @@
 #include <QMessageBox>
 #include <QTimer>
 
-#include <algorithm>
+#include <array>
 #include <utility>
 
 MainWindow::MainWindow(QWidget *parent)

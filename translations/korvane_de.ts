@@ -2697,24 +2697,6 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <translation>Version und Lizenzen</translation>
     </message>
     <message>
-        <source>Skinned Mesh View</source>
-        <translation>Ansicht Skin-Netz</translation>
-    </message>
-    <message>
-        <source>Static Mesh View</source>
-        <translation>Ansicht statisches Netz</translation>
-    </message>
-    <message>
-        <source>File error</source>
-        <translation>Dateifehler</translation>
-    </message>
-    <message>
-        <source>Failed to open
-%1</source>
-        <translation>Öffnen fehlgeschlagen
-%1</translation>
-    </message>
-    <message>
         <source>View of the skinned mesh</source>
         <translation>Ansicht des Skin-Netzes</translation>
     </message>
@@ -3062,6 +3044,19 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>Right %1</source>
         <translation>%1 rechts</translation>
+    </message>
+</context>
+<context>
+    <name>NamedFiles</name>
+    <message>
+        <source>File error</source>
+        <translation>Dateifehler</translation>
+    </message>
+    <message>
+        <source>Failed to open
+%1</source>
+        <translation>Öffnen fehlgeschlagen
+%1</translation>
     </message>
 </context>
 <context>
@@ -5776,6 +5771,17 @@ So lassen?</translation>
     <message>
         <source>The node this vertex belongs to</source>
         <translation>Der Knochen, zu dem dieser Vertex gehört</translation>
+    </message>
+</context>
+<context>
+    <name>ViewMenu</name>
+    <message>
+        <source>Skinned Mesh View</source>
+        <translation>Ansicht Skin-Netz</translation>
+    </message>
+    <message>
+        <source>Static Mesh View</source>
+        <translation>Ansicht statisches Netz</translation>
     </message>
 </context>
 <context>

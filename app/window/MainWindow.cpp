@@ -3,25 +3,21 @@
 #include "MainWindow.h"
 
 #include "AboutDialog.h"
-#include "CameraMenu.h"
 #include "CommandPalette.h"
 #include "ConsoleButton.h"
 #include "ConsoleLog.h"
 #include "ControlsDialog.h"
-#include "DisplayOptions.h"
 #include "DocumentFiles.h"
 #include "DocumentPanes.h"
 #include "ExplorerFiles.h"
-#include "FileDrop.h"
 #include "FilterLine.h"
 #include "FlightCommands.h"
 #include "FolderExplorer.h"
 #include "HistoryView.h"
 #include "Icons.h"
 #include "ImportExport.h"
-#include "ImportFilter.h"
-#include "LookMenu.h"
 #include "ModelTransforms.h"
+#include "NamedFiles.h"
 #include "PictureSaver.h"
 #include "Playback.h"
 #include "Preferences.h"
@@ -33,22 +29,17 @@
 #include "ReloadPrompt.h"
 #include "Session.h"
 #include "Shortcuts.h"
-#include "StatusReadOut.h"
 #include "StructureActions.h"
 #include "TemporaryFolder.h"
 #include "UndoActions.h"
 #include "UpdatePrompt.h"
-#include "ViewPreferences.h"
-#include "ViewToolBar.h"
+#include "ViewMenu.h"
 #include "ViewportNotice.h"
 #include "WindowGeometry.h"
 #include "WindowLayout.h"
 #include "ui_MainWindow.h"
 
 #include <QBoxLayout>
-#include <QDir>
-#include <QFileInfo>
-#include <QMessageBox>
 #include <QTimer>
 
 #include <array>
@@ -75,7 +66,7 @@ MainWindow::MainWindow(QWidget *parent)
     createConsole();
     createDocuments();
     createDocks();
-    createViewMenu();
+    new ViewMenu(*m_ui, *m_panes, m_pictures->action(), this);
     readSettings();
     addUndoActions(m_undoGroup, *m_ui->menuEdit, *m_ui->toolBarEdit);
     new StructureActions({m_skinnedMesh, m_ui->treeSkinnedMesh}, {m_anim, m_ui->treeAnim},
@@ -84,6 +75,7 @@ MainWindow::MainWindow(QWidget *parent)
     // All actions are there by now.
     m_shortcuts = new Shortcuts(*m_ui->menuBar, flightCommands({m_ui->viewSkinned, m_ui->viewStatic}), this);
     m_preferences = new Preferences(*m_shortcuts, this);
+    m_named = new NamedFiles(*m_files, *m_importExport, *m_preferences, *m_panes, this);
     embedViewport(m_ui->viewSkinned, m_ui->vlviewSkinned);
     embedViewport(m_ui->viewStatic, m_ui->vlviewStatic);
     m_layout = new WindowLayout(this);
@@ -138,6 +130,9 @@ void MainWindow::createDocuments()
         {m_ui->tabWidget, m_ui->tabSkinned, m_ui->tabStatic, m_ui->tabTrees, m_ui->stackSkinned},
         *m_ui->animTrackFrame, this);
     connect(m_panes, &DocumentPanes::told, this, &MainWindow::tell);
+    connect(m_pictures, &PictureSaver::told, this, &MainWindow::tell);
+    for (const KVOpenGLWidget *viewport : m_panes->viewports())
+        connect(viewport, &KVOpenGLWidget::contextLost, this, &MainWindow::OnContextLost);
     connect(m_panes, &DocumentPanes::currentChanged, this, &MainWindow::updateCurrentDocument);
     for (const DocumentPane &each : m_panes->all()) {
         auto *filter = new FilterLine(*each.tree, each.tree->parentWidget());
@@ -158,51 +153,6 @@ void MainWindow::createDocuments()
             &ExplorerFiles::on_actionRefreshExplorers_triggered);
     auto *recent = new RecentFiles(*m_files, *m_ui->menuRecent, this);
     connect(recent, &RecentFiles::opened, m_panes, &DocumentPanes::showPane);
-    connect(new FileDrop(this), &FileDrop::dropped, this, &MainWindow::openFiles);
-}
-
-void MainWindow::createViewMenu()
-{
-    const auto *display = new DisplayOptions(m_panes->viewports(), this);
-    QMenu *menu = m_ui->menuView;
-    menu->insertMenu(m_ui->actionResetCamera, display->shadingMenu());
-    menu->insertActions(m_ui->actionResetCamera,
-                        {display->skeleton(), display->hotPoints(), display->statistics()});
-    menu->insertSeparator(m_ui->actionResetCamera);
-    auto *camera = new CameraMenu(
-        m_panes->viewports(), [this] { return m_panes->currentViewport(); },
-        [this] { return m_panes->currentSelection(); }, this);
-    connect(m_ui->actionResetCamera, &QAction::triggered, camera,
-            &CameraMenu::on_actionResetCamera_triggered);
-    menu->insertMenu(m_ui->actionResetCamera, camera);
-    for (const DocumentPane &each : m_panes->all())
-        each.tree->addAction(camera->frameSelection());
-    menu->insertAction(m_ui->actionFullScreen, m_pictures->action());
-    menu->insertSeparator(m_ui->actionFullScreen);
-    connect(m_pictures, &PictureSaver::told, this, &MainWindow::tell);
-    addLookMenu(*menu);
-    menu->addSeparator();
-    menu->addActions({m_ui->toolBarFile->toggleViewAction(), m_ui->toolBarEdit->toggleViewAction(),
-                      m_ui->dockConsole->toggleViewAction(), m_ui->dockProblems->toggleViewAction(),
-                      m_ui->dockHistory->toggleViewAction(), m_ui->dockServers->toggleViewAction()});
-    createViewToolBars(*display);
-}
-
-void MainWindow::createViewToolBars(const DisplayOptions &display)
-{
-    const ViewActions actions{m_ui->actionGround, m_ui->actionTransGizmo, m_ui->actionCullBack,
-                              m_ui->actionResetCamera, display.shadingMenu()};
-    ViewActions skinnedActions = actions;
-    skinnedActions.marks = {display.skeleton(), display.hotPoints()};
-    auto *skinned = new ViewToolBar(tr("Skinned Mesh View"), skinnedActions, m_ui->viewSkinnedPanel);
-    auto *rigid = new ViewToolBar(tr("Static Mesh View"), actions, m_ui->viewStaticPanel);
-    m_ui->vlviewSkinned->insertWidget(0, skinned);
-    m_ui->vlviewStatic->insertWidget(0, rigid);
-    m_ui->animTrackFrame->serve(*m_ui->viewSkinnedPanel); // whose tool bar is in it by now
-    new ViewPreferences({skinned, rigid}, m_panes->viewports(), actions, this);
-    new StatusReadOut(m_panes->viewports(), m_ui->statusBar);
-    for (const KVOpenGLWidget *viewport : m_panes->viewports())
-        connect(viewport, &KVOpenGLWidget::contextLost, this, &MainWindow::OnContextLost);
 }
 
 void MainWindow::readSettings()
@@ -283,23 +233,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
 
 void MainWindow::openFiles(const QStringList &paths)
 {
-    const DocumentKind *first = nullptr;
-    for (const QString &path : paths) {
-        const DocumentKind *kind = documentKindOfFile(path);
-        if (!kind && isImportable(path)) {
-            // A model on the command line comes before the question that its output folder depends on.
-            m_preferences->OnStartSetupPaths();
-            m_importExport->importToCurrent(path);
-        } else if (!kind) {
-            QMessageBox::warning(this, tr("File error"),
-                                 tr("Failed to open\n%1").arg(QDir::toNativeSeparators(path)));
-        } else if (m_files->promptUnsaved(kind->type) &&
-                   !m_files->open(kind->type, QFileInfo(path).absoluteFilePath()) && !first) {
-            first = kind;
-        }
-    }
-    if (first)
-        m_panes->showPane(first->type);
+    m_named->open(paths);
 }
 
 void MainWindow::openAtStart(const QStringList &paths)

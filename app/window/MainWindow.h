@@ -10,11 +10,11 @@
 #include <memory>
 
 class ConsoleLog;
-class DisplayOptions;
 class DocumentFiles;
 class DocumentPanes;
 class ImportExport;
 class ModelTransforms;
+class NamedFiles;
 class PictureSaver;
 class Preferences;
 class Problems;
@@ -36,8 +36,8 @@ public:
     explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
 
-    /// Opens files by their extension, each in its tab; the first one's tab becomes current. A model of a
-    /// foreign format goes to the import dialog.
+    /// Opens files by their extension, each in its tab; a model of a foreign format goes to the import
+    /// dialog.
     void openFiles(const QStringList &paths);
     /// Opens what the last session left, where that is wanted, and then these files.
     void openAtStart(const QStringList &paths);
@@ -57,8 +57,6 @@ private slots:
 private:
     void createConsole();
     void createDocuments();
-    void createViewMenu();
-    void createViewToolBars(const DisplayOptions &display);
     void createDocks();
     void createPrompts();
     void connectActions();
@@ -80,6 +78,7 @@ private:
     DocumentPanes *m_panes = nullptr;
     Shortcuts *m_shortcuts = nullptr;
     Preferences *m_preferences = nullptr;
+    NamedFiles *m_named = nullptr;
     WindowLayout *m_layout = nullptr;
     Session *m_session = nullptr;
     bool m_painted = false;

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+
+class DocumentFiles;
+class DocumentPanes;
+class ImportExport;
+class Preferences;
+class QWidget;
+
+/// Opens files that were named from outside: on the command line, or by dropping them on the window.
+class NamedFiles : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The window owns this; the others outlive it.
+    NamedFiles(DocumentFiles &files, ImportExport &importExport, Preferences &preferences,
+               DocumentPanes &panes, QWidget *window);
+
+    /// Opens files by their extension, each in its tab; the first one's tab becomes current. A model of a
+    /// foreign format goes to the import dialog.
+    void open(const QStringList &paths);
+
+private:
+    DocumentFiles &m_files;
+    ImportExport &m_importExport;
+    Preferences &m_preferences;
+    DocumentPanes &m_panes;
+    QWidget *m_window;
+};

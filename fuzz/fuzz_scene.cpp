@@ -5,6 +5,7 @@
 #include "FrameLabel.h"
 #include "Log.h"
 #include "MeshSource.h"
+#include "PlayClock.h"
 #include "Pose.h"
 #include "PosedVertices.h"
 #include "ReferenceIds.h"

@@ -5,6 +5,7 @@
 #include "CrashReport.h"
 #include "FlightTool.h"
 #include "OrbitTool.h"
+#include "PlayClock.h"
 #include "Settings.h"
 #include "ViewStatistics.h"
 
@@ -75,6 +76,8 @@ void KVOpenGLWidget::resizeGL(int width, int height)
 
 void KVOpenGLWidget::paintGL()
 {
+    m_repaintWanted = false;
+    m_timer.paints();
     if (!m_scene.model())
         return;
     if (m_scene.refresh())
@@ -213,8 +216,8 @@ void KVOpenGLWidget::showTriangles()
 
 void KVOpenGLWidget::cameraMoved()
 {
+    m_repaintWanted = true;
     playbackChanged();
-    update();
 }
 
 void KVOpenGLWidget::resetCamera()
@@ -264,27 +267,37 @@ void KVOpenGLWidget::timerEvent(QTimerEvent *event)
     if (!m_timer.isMine(*event))
         RenewableGLWidget::timerEvent(event);
     else if (checkContext())
-        m_timer.setPace(tick(m_timer.step()) ? TickTimer::Pace::Moving : TickTimer::Pace::Idle);
+        m_timer.setPace(tick(m_timer.take()) ? TickTimer::Pace::Moving : TickTimer::Pace::Idle);
 }
 
-bool KVOpenGLWidget::tick(float dt)
+bool KVOpenGLWidget::moveBy(TickTimer::Due due)
+{
+    bool moved = false;
+    for (int step = 0; step < due.steps; ++step)
+        moved = m_tools.tick(due.seconds / float(due.steps)) || moved;
+    return moved;
+}
+
+bool KVOpenGLWidget::tick(TickTimer::Due due)
 {
     const bool skinned = m_scene.frame.skinned;
     if (m_active && skinned) {
         // What started between two idle looks starts now.
         if (m_timer.isMoving())
-            advanceClock(playback(), dt);
+            advanceClock(playback(), due.seconds);
         if (m_playback.label.update(playback()))
             emit frameLabelChanged(m_playback.label.text());
     }
     if (m_statistics)
-        m_statistics->tick(dt);
-    if (m_readOut.tick(dt, m_active, m_camera.position()))
+        m_statistics->tick(due.seconds);
+    if (m_readOut.tick(due.seconds, m_active, m_camera.position()))
         emit positionReadOut(m_readOut.text());
-    const bool moved = m_tools.tick(dt);
-    if (moved || (skinned && m_playback.isBehind()))
+    const bool moved = moveBy(due);
+    m_repaintWanted = m_repaintWanted || moved || (skinned && m_playback.isBehind());
+    const bool waitsToPaint = m_repaintWanted && !m_timer.mayPaint();
+    if (m_repaintWanted && !waitsToPaint)
         update();
-    if (moved || m_tools.cursor() == ViewCursor::Captured)
+    if (moved || waitsToPaint || m_tools.cursor() == ViewCursor::Captured)
         return true;
     return m_active && (m_readOut.shown() != m_camera.position() || (skinned && clockRuns(playback())));
 }
@@ -329,5 +342,7 @@ void KVOpenGLWidget::tellPicked(PickTool::Kind kind, int index)
         return emit bonePicked(index);
     case PickTool::Kind::HotPoint:
         return emit hotPointPicked(index);
+    case PickTool::Kind::Nothing:
+        return emit nothingPicked();
     }
 }

@@ -106,6 +106,7 @@ signals:
     void surfacePicked(int surface);
     void bonePicked(int bone);
     void hotPointPicked(int hotPoint);
+    void nothingPicked();
     /// The camera position for the status bar, about ten times a second: "X: 0.000000 Y: ... Z: ...".
     void positionReadOut(const QString &text);
     /// The frame that the painted pose starts from; emitted while painting.
@@ -137,7 +138,8 @@ private:
     void trackMarks();
     void cameraMoved();
     /// One tick. Returns whether something goes on moving.
-    bool tick(float dt);
+    bool tick(TickTimer::Due due);
+    bool moveBy(TickTimer::Due due);
     void tellPicked(PickTool::Kind kind, int index);
 
     ShownScene m_scene;
@@ -148,6 +150,7 @@ private:
     InputRecorder m_recorder;
 
     bool m_active = false;
+    bool m_repaintWanted = false; ///< as soon as the timer lets it paint
     TickTimer m_timer;
     ShownPlayback m_playback;
     PositionReadOut m_readOut;

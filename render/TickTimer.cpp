@@ -4,11 +4,15 @@
 
 #include <QTimerEvent>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
-constexpr int MovingInterval = 1; // milliseconds
+// Milliseconds.
+constexpr int MovingInterval = 1;
 constexpr int IdleInterval = 30;
+constexpr int PaintInterval = 16;
+constexpr qint64 MostSteps = 50;
 } // namespace
 
 TickTimer::TickTimer(QObject &owner)
@@ -22,7 +26,7 @@ void TickTimer::setPace(Pace pace)
     if (m_timer.isActive() && pace == m_pace)
         return;
     if (pace == Pace::Moving)
-        m_previous = m_clock.elapsed();
+        m_previous = m_stepped = m_clock.elapsed();
     m_pace = pace;
     if (pace == Pace::Moving)
         m_timer.start(MovingInterval, Qt::PreciseTimer, &m_owner);
@@ -35,8 +39,16 @@ bool TickTimer::isMine(const QTimerEvent &event) const
     return event.timerId() == m_timer.timerId();
 }
 
-float TickTimer::step()
+TickTimer::Due TickTimer::take()
 {
     const qint64 now = m_clock.elapsed();
-    return float(now - std::exchange(m_previous, now)) / 1000.0f;
+    const int steps = int(std::clamp(now - m_stepped, qint64(1), MostSteps));
+    // The step of a tick that came early is one that the next has not to do.
+    m_stepped = std::max(now, m_stepped + 1);
+    return {float(now - std::exchange(m_previous, now)) / 1000.0f, steps};
+}
+
+bool TickTimer::mayPaint() const
+{
+    return !m_sincePaint.isValid() || m_sincePaint.elapsed() >= PaintInterval;
 }

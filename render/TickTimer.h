@@ -7,8 +7,8 @@
 
 class QTimerEvent;
 
-/// The ticks of a view. A moving one ticks every millisecond: keys fly the camera by a step a tick. An idle
-/// one only looks for changes of the playback now and then, which costs nothing.
+/// The ticks of a view, and when it may paint. A moving one ticks every millisecond: keys fly the camera by a
+/// step a tick. An idle one only looks for changes of the playback now and then, which costs nothing.
 class TickTimer
 {
 public:
@@ -22,13 +22,25 @@ public:
     void stop() { m_timer.stop(); }
     bool isMoving() const { return m_pace == Pace::Moving; }
     bool isMine(const QTimerEvent &event) const;
-    /// Seconds since the tick before. The time asleep is not time that anything moved.
-    float step();
+    /// What has come due with a tick. The time asleep is not time that anything moved.
+    struct Due
+    {
+        float seconds; ///< since the tick before
+        int steps;     ///< at least 1: a late tick does those of the milliseconds that it missed, but not all
+                       ///< of a long wait
+    };
+    Due take();
+
+    /// A frame is being painted: the next one has to wait, so that painting leaves time for ticks.
+    void paints() { m_sincePaint.start(); }
+    bool mayPaint() const;
 
 private:
     QObject &m_owner;
     QBasicTimer m_timer;
     Pace m_pace = Pace::Idle;
     QElapsedTimer m_clock;
+    QElapsedTimer m_sincePaint;
     qint64 m_previous = 0; ///< milliseconds of the clock
+    qint64 m_stepped = 0;  ///< the same, up to which steps were done
 };

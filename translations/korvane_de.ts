@@ -1396,6 +1396,14 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>The tree leaves such records out. The options can make it show them.</source>
         <translation>Der Baum lässt solche Datensätze aus. Die Optionen können sie einblenden.</translation>
     </message>
+    <message>
+        <source>%1 belongs to the skinned mesh, whose tree can select it.</source>
+        <translation>%1 gehört zum Modell; auswählen lässt es sich in dessen Baum.</translation>
+    </message>
+    <message>
+        <source>The animation that plays does not have %1.</source>
+        <translation>%1 gibt es in der laufenden Animation nicht.</translation>
+    </message>
 </context>
 <context>
     <name>EventArguments</name>

@@ -70,7 +70,7 @@ AnimTrackFrame::AnimTrackFrame(QWidget *parent)
     connect(m_ui->sliderAnimTrack, &TrackSlider::actionChosen, this,
             [this](int action) { emit actionChosen(playback().blockIndex, action); });
     connect(m_ui->cbAnimTrackBlock, qOverload<int>(&QComboBox::activated), this,
-            &AnimTrackFrame::blockChosen);
+            &AnimTrackFrame::selectBlock);
     connect(m_ui->sbAnimTrackSpeed, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
             [](double factor) { playback().speedFactor = float(factor); });
     playback().speedFactor = float(m_ui->sbAnimTrackSpeed->value());

@@ -41,8 +41,6 @@ public:
     void serve(QWidget &panel);
 
 signals:
-    /// A block was chosen here.
-    void blockChosen(int block);
     /// An action of the current block was chosen here.
     void actionChosen(int block, int action);
     /// The playback state was changed here: the picture is stale.

@@ -45,6 +45,9 @@ ViewSelection::ViewSelection(const SkinnedMeshDocument &skinned, const StaticMes
             pick(DocumentType::SkinnedMesh, RecordKind::HotPoint));
     connect(m_shown[size_t(DocumentType::StaticMesh)].viewport, &KVOpenGLWidget::surfacePicked, this,
             pick(DocumentType::StaticMesh, RecordKind::StaticSurface));
+    for (const DocumentType type : {DocumentType::SkinnedMesh, DocumentType::StaticMesh})
+        connect(m_shown[size_t(type)].viewport, &KVOpenGLWidget::nothingPicked, this,
+                [this, type] { emit picked(type, {}); });
 }
 
 std::vector<int> ViewSelection::numbers(DocumentType type, RecordKind kind, size_t component) const

@@ -35,7 +35,7 @@ public:
     void mark(DocumentType type);
 
 signals:
-    /// A click in a viewport has hit this record.
+    /// A click in a viewport has hit this record; none where it shows the background.
     void picked(DocumentType type, const RecordRef &record);
 
 private:

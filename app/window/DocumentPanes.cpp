@@ -12,8 +12,11 @@
 #include "ViewSelection.h"
 #include "ViewportMarks.h"
 
+#include <QApplication>
 #include <QStackedWidget>
 #include <QTabWidget>
+
+#include <utility>
 
 namespace {
 ShownRecords shownRecords(const DocumentPane &pane)
@@ -72,15 +75,10 @@ void DocumentPanes::connectPlayback()
     connect(view, &KVOpenGLWidget::frameShown, track, &AnimTrackFrame::showFrame);
     connect(view, &KVOpenGLWidget::frameLabelChanged, track, &AnimTrackFrame::showLabel);
     connect(track, &AnimTrackFrame::playbackChanged, view, &KVOpenGLWidget::playbackChanged);
-    const auto select = [this](const RecordRef &record) {
+    connect(track, &AnimTrackFrame::actionChosen, this, [this](int block, int action) {
+        const RecordRef record{RecordKind::AnimAction, {block, action}};
         showPane(DocumentType::Anim);
         pane(DocumentType::Anim).tree->selectRecords({record}, record);
-    };
-    connect(track, &AnimTrackFrame::blockChosen, this, [select](int block) {
-        select({RecordKind::AnimBlock, {block}});
-    });
-    connect(track, &AnimTrackFrame::actionChosen, this, [select](int block, int action) {
-        select({RecordKind::AnimAction, {block, action}});
     });
     track->openAnimation(nullptr);
 }
@@ -145,13 +143,19 @@ void DocumentPanes::selectRecord(DocumentType type, const RecordRef &record)
 void DocumentPanes::showPicked(DocumentType type, const RecordRef &record)
 {
     // The keys stay with the view.
+    if (record.kind == RecordKind::None)
+        return current()->tree->selectRecords({}, {});
     if (currentDocument() != &m_anim)
         return selectRecord(type, record);
     // A click that gives the view the keys takes nobody away from the animation, which has bones alone.
     const int block = playback().blockIndex;
-    if (record.kind == RecordKind::Bone &&
-        record.index[0] < m_anim.recordCount(RecordKind::AnimBone, {block}))
+    const QString label = pane(type).tree->label(record);
+    if (record.kind != RecordKind::Bone)
+        emit told(tr("%1 belongs to the skinned mesh, whose tree can select it.").arg(label));
+    else if (record.index[0] < m_anim.recordCount(RecordKind::AnimBone, {block}))
         selectRecord(DocumentType::Anim, {RecordKind::AnimBone, {block, record.index[0]}});
+    else
+        emit told(tr("The animation that plays does not have %1.").arg(label));
 }
 
 void DocumentPanes::updateViewports()
@@ -164,6 +168,9 @@ void DocumentPanes::updateViewports()
 void DocumentPanes::on_tabWidget_currentChanged()
 {
     updateViewports();
+    KVOpenGLWidget *opened = std::exchange(m_wantsKeys, nullptr);
+    if (opened && opened == currentViewport())
+        opened->setFocus();
     emit currentChanged();
 }
 
@@ -191,12 +198,29 @@ void DocumentPanes::OnReplaced(DocumentType type)
     }
     const DocumentPane &replaced = pane(type);
     replaced.viewport->playbackChanged(); // at once, rather than at the next idle look
+    const QString path = replaced.document->path();
+    if (std::exchange(m_paths[size_t(type)], path) != path || path.isEmpty())
+        giveKeysToView(replaced);
     replaced.explorer->setLoadedPath(replaced.document->path());
+}
+
+// What was opened is flown around. The keys that go through a folder, file by file, stay there.
+void DocumentPanes::giveKeysToView(const DocumentPane &opened)
+{
+    m_wantsKeys = nullptr;
+    if (opened.document->kind().quickSelect.value() &&
+        opened.explorer->isAncestorOf(QApplication::focusWidget()))
+        return;
+    if (opened.viewport == currentViewport())
+        opened.viewport->setFocus();
+    else
+        m_wantsKeys = opened.viewport; // as soon as its tab is in front
 }
 
 void DocumentPanes::OnSaved(DocumentType type)
 {
     const DocumentPane &written = pane(type);
+    m_paths[size_t(type)] = written.document->path();
     written.explorer->setLoadedPath(written.document->path());
     if (!written.explorer->selectPath(written.document->path())) {
         written.explorer->refill();

@@ -82,6 +82,7 @@ private:
     void connectPlayback();
     void updateViewports();
     void OnReplaced(DocumentType type);
+    void giveKeysToView(const DocumentPane &opened);
     void OnRecordsChanged(DocumentType type, const QVector<RecordRef> &records);
     void selectRecord(DocumentType type, const RecordRef &record);
     void showPicked(DocumentType type, const RecordRef &record);
@@ -93,6 +94,8 @@ private:
     StaticMeshDocument &m_staticMesh;
     const DocumentTabs m_tabs;
     AnimTrackFrame &m_track;
+    std::array<QString, 3> m_paths; ///< of what was opened, to tell it from what is only read again
+    KVOpenGLWidget *m_wantsKeys = nullptr;
     std::array<RecordRef, 3> m_shown{}; ///< what the viewport marks of each
     ViewSelection *m_selection;
 };

@@ -29,8 +29,7 @@ bool PickTool::release(const ViewInput &input)
         m_picked(Kind::Bone, marks.bone);
     } else {
         const int surface = m_sight.surfaceAt(input.pressPosition);
-        if (surface != HitMarks::None)
-            m_picked(Kind::Surface, surface);
+        m_picked(surface != HitMarks::None ? Kind::Surface : Kind::Nothing, surface);
     }
     return false;
 }

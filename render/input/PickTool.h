@@ -8,12 +8,12 @@
 
 class ViewSight;
 
-/// Says what a click of the left button has hit. It takes nothing, so the other tools get the same press; one
-/// that drags, or has Alt held, is no click.
+/// Says what a click of the left button has hit, be it nothing. It takes nothing, so the other tools get the
+/// same press; one that drags, or has Alt held, is no click.
 class PickTool : public ViewTool
 {
 public:
-    enum class Kind { Surface, Bone, HotPoint };
+    enum class Kind { Surface, Bone, HotPoint, Nothing };
     using Picked = std::function<void(Kind kind, int index)>;
 
     PickTool(const ViewSight &sight, Picked picked);

@@ -24,17 +24,3 @@ const AnimBlock *playableBlock(const Playback &state)
         return nullptr;
     return &state.anim->blocks[size_t(state.blockIndex)];
 }
-
-bool clockRuns(const Playback &state)
-{
-    if (state.playState != PlayState::Playing)
-        return false;
-    const AnimBlock *block = playableBlock(state);
-    return block && block->frameCount() > 1;
-}
-
-void advanceClock(Playback &state, float dt)
-{
-    if (clockRuns(state))
-        state.time += dt * state.speedFactor;
-}

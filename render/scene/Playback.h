@@ -30,9 +30,3 @@ bool animationMatchesMesh(const AnimFile &anim, const SkinnedMesh &mesh);
 /// The block that plays; null when mesh or animation is missing, when they do not match, or when the block
 /// index is out of range.
 const AnimBlock *playableBlock(const Playback &state);
-
-/// True when the clock of `state` runs: a playable block of two or more frames in state Playing.
-bool clockRuns(const Playback &state);
-
-/// Adds `dt` seconds, at the speed factor, to the play time when the clock runs.
-void advanceClock(Playback &state, float dt);

@@ -13,6 +13,7 @@
 
 #include <QApplication>
 #include <QSurfaceFormat>
+#include <QThread>
 
 #include <cstdlib>
 #include <memory>
@@ -44,8 +45,9 @@ public:
     }
 
     int frames = 0;
-    StaticMesh square; ///< shown by openSquare()
-    SkinnedMesh mesh;  ///< shown by showBones(), with the animation
+    unsigned long paintCost = 0; ///< milliseconds
+    StaticMesh square;           ///< shown by openSquare()
+    SkinnedMesh mesh;            ///< shown by showBones(), with the animation
     AnimFile anim;
 
     /// Shows the view in front and waits for its first frame.
@@ -112,6 +114,7 @@ protected:
     void paintGL() override
     {
         ++frames;
+        QThread::msleep(paintCost);
         KVOpenGLWidget::paintGL();
     }
 };

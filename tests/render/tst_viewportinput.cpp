@@ -22,6 +22,7 @@ private slots:
     void cleanup() { m_view.reset(); }
     void storedSettings();
     void keysFly();
+    void flightKeepsItsSpeed();
     void dragTurnsTheViewAndHidesTheCursor();
     void clicksPick();
     void tipsNameWhatIsMarked();
@@ -114,6 +115,31 @@ void tst_ViewportInput::keysFly()
     }
 }
 
+// Whatever a frame costs, the camera flies a step a millisecond, short of a long wait; and frames leave time
+// for ticks.
+void tst_ViewportInput::flightKeepsItsSpeed()
+{
+    m_view->setMoveSpeed(1.0f);
+    m_view->open();
+    for (const unsigned long cost : {0ul, 30ul, 200ul}) {
+        m_view->paintCost = cost;
+        m_view->resetCamera();
+        const int before = m_view->frames;
+        QElapsedTimer clock;
+        clock.start();
+        QTest::keyPress(m_view.get(), Qt::Key_W);
+        QTest::qWait(600);
+        const auto flown = double(600.0f - m_view->camera().position().z());
+        const double frames = m_view->frames - before, time = double(clock.elapsed());
+        QTest::keyRelease(m_view.get(), Qt::Key_W);
+        const QString numbers =
+            QStringLiteral("%1 units, %2 frames in %3 ms").arg(flown).arg(frames).arg(time);
+        QVERIFY2(cost > 50 ? flown < 0.7 * time : flown > 0.3 * time, qPrintable(numbers));
+        QVERIFY2(flown < time + 60.0, qPrintable(numbers));
+        QVERIFY2(frames < time / 16.0 + 3.0, qPrintable(numbers));
+    }
+}
+
 void tst_ViewportInput::dragTurnsTheViewAndHidesTheCursor()
 {
     m_view->open();
@@ -161,11 +187,13 @@ void tst_ViewportInput::clicksPick()
     showWall();
     QSignalSpy surfaces(m_view.get(), &KVOpenGLWidget::surfacePicked);
     QSignalSpy bones(m_view.get(), &KVOpenGLWidget::bonePicked);
+    QSignalSpy nothing(m_view.get(), &KVOpenGLWidget::nothingPicked);
     const QPoint centre(m_view->width() / 2, m_view->height() / 2);
     QTest::mouseClick(m_view.get(), Qt::LeftButton, {}, centre + QPoint(8, 8));
     QCOMPARE(surfaces, QList<QVariantList>{{1}});
     QTest::mouseClick(m_view.get(), Qt::LeftButton, {}, centre + QPoint(80, 0)); // beside it
     QCOMPARE(surfaces.size(), 1);
+    QCOMPARE(nothing.size(), 1);
 
     // A hot point lies over the bone that it hangs on, and both over the surface.
     QSignalSpy hotPoints(m_view.get(), &KVOpenGLWidget::hotPointPicked);
@@ -251,7 +279,7 @@ void tst_ViewportInput::pausedOrHiddenViewRests()
     m_view->open();
     playback().playState = PlayState::Paused;
     QTest::qWait(200);
-    const int frames = m_view->frames;
+    int frames = m_view->frames;
     QTest::qWait(500);
     QCOMPARE(m_view->frames, frames);
     // Nor does it wake while the mouse goes over it.
@@ -262,6 +290,17 @@ void tst_ViewportInput::pausedOrHiddenViewRests()
     sendMouse(QEvent::MouseMove, {5, 5}, Qt::NoButton, Qt::NoButton);
     QCOMPARE(interval(), idle);
     QVERIFY(idle > 1);
+
+    // Nor does what plays but stands on its last frame keep it up.
+    m_view->anim.blocks[0].loopFrame = 10;
+    playback().time = 0.5f;
+    playback().playState = PlayState::Playing;
+    QTRY_COMPARE(interval(), 1);
+    QTRY_COMPARE(interval(), idle);
+    QCOMPARE(playback().time, 1.0f);
+    playback().playState = PlayState::Paused;
+    m_view->grabFramebuffer();
+    frames = m_view->frames;
 
     // It notices the slider by itself.
     QSignalSpy shown(m_view.get(), &KVOpenGLWidget::frameShown);

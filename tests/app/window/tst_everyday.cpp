@@ -3,6 +3,7 @@
 #include "CommandPalette.h"
 #include "Hand.h"
 #include "NameTables.h"
+#include "PlayClock.h"
 #include "Playback.h"
 #include "RecentFiles.h"
 #include "SampleModels.h"
@@ -218,10 +219,16 @@ private slots:
         auto *blocks = find<QComboBox>(window, "cbAnimTrackBlock");
         QCOMPARE(blocks->count(), 2);
         QCOMPARE(blocks->itemText(0), QStringLiteral("0: Unnamed animation 100"));
+        // Another one plays, and whatever is edited stays in front.
+        auto *trees = find<QTabWidget>(window, "tabTrees");
+        const RecordRef edited = tree->currentRecord();
+        trees->setCurrentIndex(0);
+        const QString title = window.windowTitle();
         blocks->setFocus();
         QTest::keyClick(blocks, Qt::Key_Down);
-        QCOMPARE(tree->currentRecord(), (RecordRef{RecordKind::AnimBlock, {1}}));
         QCOMPARE(playback().blockIndex, 1);
+        QVERIFY(trees->currentIndex() == 0 && window.windowTitle() == title);
+        QCOMPARE(tree->currentRecord(), edited);
         QVERIFY(!find<QToolButton>(window, "btnAnimTrackMarkBack")->isEnabled());
     }
 

@@ -30,6 +30,8 @@ private slots:
             Started window({m_mesh, m_anim, m_rigid});
             QVERIFY(QTest::qWaitForWindowExposed(&window));
             select(window, "treeSkinnedMesh", {{RecordKind::Bone, {1}}});
+            find<QTabWidget>(window, "tabTrees")->setCurrentIndex(1);
+            select(window, "treeAnim", {{RecordKind::AnimBlock, {0}}});
             auto *blocks = find<QComboBox>(window, "cbAnimTrackBlock");
             blocks->setFocus();
             QTest::keyClick(blocks, Qt::Key_Down);
@@ -49,7 +51,7 @@ private slots:
         QCOMPARE(find<KVTreeView>(window, "treeSkinnedMesh")->currentRecord(),
                  (RecordRef{RecordKind::Bone, {1}}));
         QCOMPARE(find<KVTreeView>(window, "treeAnim")->currentRecord(),
-                 (RecordRef{RecordKind::AnimBlock, {1}}));
+                 (RecordRef{RecordKind::AnimBlock, {0}}));
         QCOMPARE(playback().blockIndex, 1);
         QCOMPARE(find<KVOpenGLWidget>(window, "viewSkinned")->camera().position(), place);
         QCOMPARE(find<QTabWidget>(window, "tabWidget")->currentWidget(),

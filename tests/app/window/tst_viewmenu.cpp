@@ -86,6 +86,37 @@ private slots:
         QCOMPARE(view->camera().pitch(), 89.0f);
     }
 
+    void whatIsOpenedHasTheKeys()
+    {
+        Settings::SkinnedMeshExplorePath.setValue(m_files->path(QString()));
+        const auto window = open();
+        auto *view = find<KVOpenGLWidget>(*window, "viewSkinned");
+        auto *tree = find<KVTreeView>(*window, "treeSkinnedMesh");
+        tree->setFocus();
+        window->openFiles({m_files->save("wall.staticmesh", wall({{"_white", {0, 1, 2}}}))});
+        QCOMPARE(QApplication::focusWidget(), find<KVOpenGLWidget>(*window, "viewStatic"));
+        window->openFiles({m_files->save("other.skinnedmesh", triangleMan())});
+        QCOMPARE(QApplication::focusWidget(), view);
+        tree->setFocus();
+        window->openFiles({m_files->path("other.skinnedmesh")}); // again
+        QVERIFY(tree->hasFocus());
+
+        // Whoever goes through a folder file by file goes on; one that is chosen there is left for the view.
+        auto *folder = find<QTreeWidget>(*window, "treeSkinnedMeshFolder");
+        find<QAction>(*window, "actionSkinnedMeshRefresh")->trigger();
+        folder->setFocus();
+        const auto opens = [&](Qt::Key key, const char *name) {
+            QTest::keyClick(folder, key);
+            return QTest::qWaitFor([&] { return window->windowTitle().contains(QLatin1String(name)); });
+        };
+        QVERIFY(opens(Qt::Key_M, "man"));
+        QVERIFY(folder->hasFocus());
+        find<QAction>(*window, "actionSkinnedMeshQuickSelect")->setChecked(false);
+        QTest::keyClick(folder, Qt::Key_End);
+        QVERIFY(opens(Qt::Key_Return, "other"));
+        QCOMPARE(QApplication::focusWidget(), view);
+    }
+
     void clicksSelect()
     {
         const StaticMesh second = wall({{"_white", {}}, {"_white", {0, 1, 2}}});
@@ -102,9 +133,9 @@ private slots:
         QCOMPARE(tree->currentRecord(), (RecordRef{RecordKind::SkinnedSurface, {0}}));
         QVERIFY(view->hasFocus());
         const RecordRef root{RecordKind::SkinnedMesh, {}};
-        select(*window, "treeSkinnedMesh", {root});
-        click(view, {-view->width() / 2 + 5, 0});
-        QCOMPARE(tree->currentRecord(), root);
+        click(view, {-view->width() / 2 + 5, 0}); // the background
+        QCOMPARE(tree->currentRecord().kind, RecordKind::None);
+        QVERIFY(tree->selectedItems().isEmpty());
 
         // Bone 0 stands in the middle of its vertices.
         find<QAction>(*window, "actionSkeleton")->trigger();
@@ -122,8 +153,11 @@ private slots:
         const RecordRef bone{RecordKind::AnimBone, {0, 0}};
         QCOMPARE(find<KVTreeView>(*window, "treeAnim")->currentRecord(), bone);
         find<QAction>(*window, "actionSkeleton")->trigger();
+        QTest::keyClick(view, Qt::Key_Home);
         click(view, {0, 30});
         QCOMPARE(find<KVTreeView>(*window, "treeAnim")->currentRecord(), bone);
+        QVERIFY(
+            window->statusBar()->currentMessage().startsWith(tree->label({RecordKind::SkinnedSurface, {0}})));
         QCOMPARE(tree->currentRecord(), root);
         QCOMPARE(tabs->currentIndex(), 1);
         tabs->setCurrentIndex(0);

@@ -78,11 +78,15 @@ public:
     Camera camera;
     std::string told; ///< what was hit, and inputs that nobody took
     std::string tips;
+    int nothing = 0; ///< clicks that hit nothing
 
 private:
     void pick(PickTool::Kind kind, int index)
     {
         // The mouse has to be given back by then.
+        nothing += kind == PickTool::Kind::Nothing ? 1 : 0;
+        if (kind == PickTool::Kind::Nothing)
+            return;
         told += tools.cursor() == ViewCursor::Arrow ? "sbh"[int(kind)] : '!';
         told += std::to_string(index) + ' ';
     }
@@ -295,6 +299,8 @@ void tst_ViewTools::clicksAndTips()
             QVERIFY2(hand.told == told, words);
         }
     }
+    QCOMPARE(Hand("@30,0 L . 5,4 l @40,0 L l").nothing, 1);
+    QCOMPARE(Hand("@30,0 R r @30,0 L . 6,4 l @30,0 alt L l").nothing, 0);
     QVERIFY(Hand("@40,0 L 50,0 l").told == "s7 "); // the cursor was on its way to the middle
 
     Hand hand;

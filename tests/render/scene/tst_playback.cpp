@@ -3,6 +3,7 @@
 #include "AnimFile.h"
 #include "FrameChoice.h"
 #include "FrameLabel.h"
+#include "PlayClock.h"
 #include "SkinnedMesh.h"
 #include "TestSupport.h"
 
@@ -212,6 +213,17 @@ void tst_Playback::clock()
     scene.anim.blocks[0].setFrameCount(1);
     advanceClock(scene.state, 0.25f);
     QCOMPARE(scene.state.time, 0.0f);
+
+    // What has come to stand on its last frame, or takes no time, does not run.
+    const auto runs = [&scene](quint16 loopFrame, float time, float speed = 10.0f) {
+        scene.anim.blocks = {block(11, speed, loopFrame)};
+        scene.state.time = time;
+        return clockRuns(scene.state);
+    };
+    QVERIFY(runs(10, 0.9f) && !runs(10, 1.0f) && runs(9, 1.0f) && runs(NoLoop, 1.0f));
+    QVERIFY(!runs(NoLoop, 0.0f, Infinity));
+    scene.state.forceLoop = true;
+    QVERIFY(runs(10, 1.0f));
 }
 
 QTEST_GUILESS_MAIN(tst_Playback)

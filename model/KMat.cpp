@@ -2,13 +2,32 @@
 // SPDX-License-Identifier: MIT
 #include "KMat.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QTextCodec>
 #include <QTextStream>
 
+#include <algorithm>
+#include <optional>
+
 namespace {
+/// The text of a file in UTF-8, or what its byte order mark says; none when it is in neither.
+std::optional<QString> unicodeText(const QByteArray &bytes)
+{
+    QTextCodec::ConverterState state;
+    QTextCodec *codec = QTextCodec::codecForUtfText(bytes, QTextCodec::codecForName("UTF-8"));
+    const QString text = codec->toUnicode(bytes.constData(), bytes.size(), &state);
+    return state.invalidChars == 0 && state.remainingChars == 0 ? std::optional(text) : std::nullopt;
+}
+
+QString textOf(const QByteArray &bytes)
+{
+    return unicodeText(bytes).value_or(QString::fromLatin1(bytes));
+}
+
 QString declareMaterial(QTextStream &words, const QString &path, MaterialTable &table,
                         MaterialTable::iterator &current)
 {
@@ -44,8 +63,8 @@ QString setTexture(QTextStream &words, const QString &path, MaterialTable &table
 
 QString readMaterials(QIODevice &text, const QString &path, MaterialTable &table)
 {
-    QTextStream lines(&text);
-    lines.setCodec("UTF-8");
+    QString all = textOf(text.readAll());
+    QTextStream lines(&all, QIODevice::ReadOnly);
     auto current = table.end();
     QString line;
     QString word;
@@ -65,6 +84,130 @@ QString readMaterials(QIODevice &text, const QString &path, MaterialTable &table
         }
     }
     return {};
+}
+
+/// Where a material stands in a text: from its word "material", with the blanks before it on its line, to
+/// behind its closing brace; without one to the next material.
+struct MaterialBlock
+{
+    QString name;
+    int begin;
+    int end;
+};
+
+class MaterialBlocks
+{
+public:
+    explicit MaterialBlocks(const QString &text)
+        : m_text(text)
+    {
+        for (int at = 0; at < text.size();) {
+            const int lineEnd = text.indexOf(QLatin1Char('\n'), at);
+            const int next = lineEnd < 0 ? text.size() : lineEnd + 1;
+            if (!text.midRef(at).startsWith(QLatin1String("//")))
+                scanLine(at, next);
+            at = next;
+        }
+    }
+
+    const std::vector<MaterialBlock> &found() const { return m_found; }
+
+private:
+    void scanLine(int begin, int end)
+    {
+        bool quoted = false;
+        int nameOf = -1; // where the material begins whose name comes next
+        for (int at = begin; at < end;) {
+            if (m_text[at].isSpace()) {
+                ++at;
+                continue;
+            }
+            int wordEnd = at;
+            while (wordEnd < end && !m_text[wordEnd].isSpace())
+                ++wordEnd;
+            const QString word = m_text.mid(at, wordEnd - at);
+            if (nameOf >= 0) {
+                m_found.push_back({word, nameOf, m_text.size()});
+                m_depth = 0;
+                m_isOpen = true;
+                nameOf = -1;
+            } else if (word == QLatin1String("material")) {
+                const bool leads = m_text.midRef(begin, at - begin).trimmed().isEmpty();
+                nameOf = leads ? begin : at;
+                close(nameOf);
+            }
+            for (; at < wordEnd; ++at)
+                take(m_text[at], at, quoted);
+        }
+    }
+
+    void take(QChar character, int at, bool &quoted)
+    {
+        if (character == QLatin1Char('"'))
+            quoted = !quoted;
+        else if (!quoted && character == QLatin1Char('{'))
+            ++m_depth;
+        else if (!quoted && character == QLatin1Char('}') && --m_depth <= 0)
+            close(at + 1);
+    }
+
+    void close(int end)
+    {
+        if (m_isOpen)
+            m_found.back().end = end;
+        m_isOpen = false;
+    }
+
+    const QString &m_text;
+    std::vector<MaterialBlock> m_found;
+    int m_depth = 0;
+    bool m_isOpen = false;
+};
+
+/// `from`, or behind the blank lines that follow there: one, and the rest of the line itself.
+int behindBlankLines(const QString &text, int from)
+{
+    for (int lines = 0; lines < 2; ++lines) {
+        int at = from;
+        while (at < text.size() && text[at] != QLatin1Char('\n') && text[at].isSpace())
+            ++at;
+        if (at < text.size() && text[at] != QLatin1Char('\n'))
+            break;
+        from = qMin(at + 1, text.size());
+    }
+    return from;
+}
+
+QByteArray fileBytes(const QString &path)
+{
+    QFile file(path);
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// A file's bytes with the materials of the table in place of those of their names. The others stay.
+QByteArray mergedBytes(const QByteArray &bytes, const MaterialTable &table)
+{
+    const std::optional<QString> unicode = unicodeText(bytes);
+    const QString text = unicode.value_or(QString::fromLatin1(bytes));
+    const MaterialBlocks blocks(text);
+    QString merged;
+    int at = 0;
+    for (const MaterialBlock &block : blocks.found()) {
+        if (table.count(block.name) == 0)
+            continue;
+        merged += text.midRef(at, block.begin - at);
+        at = behindBlankLines(text, block.end);
+    }
+    merged += text.midRef(at);
+    if (!merged.isEmpty() && !merged.endsWith(QLatin1Char('\n')))
+        merged += QLatin1Char('\n');
+    QString added = QString::fromUtf8(kmatBytes(table));
+    if (text.contains(QLatin1String("\r\n")))
+        added.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
+    merged += added;
+    const bool isLatin1 = !unicode && std::all_of(merged.begin(), merged.end(),
+                                                  [](QChar each) { return each.unicode() < 256; });
+    return isLatin1 ? merged.toLatin1() : merged.toUtf8();
 }
 } // namespace
 
@@ -119,6 +262,35 @@ bool writeKMat(QIODevice &text, const MaterialTable &table)
     }
     out.flush();
     return out.status() != QTextStream::Ok;
+}
+
+QByteArray kmatBytes(const MaterialTable &table)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly | QIODevice::Text);
+    (void)!writeKMat(buffer, table); // memory takes all
+    return buffer.data();
+}
+
+QStringList otherMaterials(const QString &path, const MaterialTable &table)
+{
+    const QString text = textOf(fileBytes(path));
+    const MaterialBlocks blocks(text);
+    QStringList names;
+    for (const MaterialBlock &block : blocks.found()) {
+        if (table.count(block.name) == 0)
+            names += block.name;
+    }
+    return names;
+}
+
+QString mergeKMat(const QString &path, const MaterialTable &table)
+{
+    const QByteArray bytes = mergedBytes(fileBytes(path), table);
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        return QCoreApplication::translate("ModelFiles", "Unable to open file for writing - %1").arg(path);
+    return {};
 }
 
 QString writeKMat(const QString &path, const MaterialTable &table)

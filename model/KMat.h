@@ -12,8 +12,8 @@ class QIODevice;
 /// Material name to diffuse texture path, ascending by name.
 using MaterialTable = std::map<QString, QString>;
 
-/// Reads the materials of one .kmat file (UTF-8 text). Returns an error message, and then leaves `table`
-/// empty; an empty text means success.
+/// Reads the materials of one .kmat file: text in UTF-8, or in Latin-1 where it is none. Returns an error
+/// message, and then leaves `table` empty; an empty text means success.
 [[nodiscard]] QString readKMat(const QString &path, MaterialTable &table);
 
 /// Reads the first of `candidates` that can be opened. An invalid first file is an error, not a reason to
@@ -26,6 +26,14 @@ using MaterialTable = std::map<QString, QString>;
 /// Writes a .kmat file with one material per entry of `table` in one step. Returns an error message; an
 /// empty text means success.
 [[nodiscard]] QString writeKMat(const QString &path, const MaterialTable &table);
+
+/// The same into a file whose materials of other names stay, byte for byte; comments too.
+[[nodiscard]] QString mergeKMat(const QString &path, const MaterialTable &table);
+/// The names of the materials of a file that the table does not have, in the order of the file.
+QStringList otherMaterials(const QString &path, const MaterialTable &table);
+
+/// What writeKMat() would write.
+QByteArray kmatBytes(const MaterialTable &table);
 
 /// Writes to a device opened in text mode. Returns true on failure.
 [[nodiscard]] bool writeKMat(QIODevice &text, const MaterialTable &table);

@@ -66,10 +66,39 @@ private slots:
 
         good("UTF-8", "material \xc3\xa4\nsampler d 0 \"\xe3\x83\x86.png\"",
              {{QString(QChar(0xE4)), QString(QChar(0x30C6)) + ".png"}});
+        good("no UTF-8 is Latin-1", "material \xe4\xc3\nsampler d 0 \"\xfc.png\"",
+             {{QString::fromLatin1("\xe4\xc3"), QString::fromLatin1("\xfc.png")}});
         good("byte order mark", "\xef\xbb\xbfmaterial m", {{"m", ""}});
         good("carriage returns", "material a\r\nsampler d 0 t.png\r\nmate\rrial b\r\n",
              {{"a", "t.png"}, {"b", ""}});
         good("ordered by text", "material surf_2\nmaterial surf_10", {{"surf_10", ""}, {"surf_2", ""}});
+    }
+
+    void mergesIntoAFile()
+    {
+        const MaterialTable table{{"b", "new.png"}};
+        const QByteArray b = kmatBytes(table);
+        const auto check = [&](const QByteArray &text, const QByteArray &kept, const QStringList &others) {
+            const QString path = m_folder.put("merged.kmat", text);
+            QCOMPARE(otherMaterials(path, table), others);
+            QCOMPARE(mergeKMat(path, table), QString());
+            QCOMPARE(TestSupport::readFile(path), kept);
+        };
+        const QByteArray a =
+            "material a {\n\tparam \"x{\" 0 \"0\"\n\tsampler \"diffuse\" 0 \"a.png\" {\n\t}\n}\n\n";
+        const QByteArray old = "\tmaterial b {\n\tcull none\n\tsampler \"diffuse\" 0 \"b.png\" {\n\t}\n}\n\n";
+        const QByteArray c = "// mine\n//material b {\nmaterial c\n{\n}";
+        check(a + old + c, a + c + '\n' + b, {"a", "c"});
+        check(old, b, {});
+        check("", b, {});
+        // Braces that are left out, or share a line.
+        check("material b {\nsampler d 0 x\n" + a, a + b, {"a"});
+        check("material a { } material b { { } } material c { }", "material a { }  material c { }\n" + b,
+              {"a", "c"});
+        // As the file's text is: its line ends, and its encoding.
+        check("material a\r\n{\r\n}\r\n", "material a\r\n{\r\n}\r\n" + QByteArray(b).replace("\n", "\r\n"),
+              {"a"});
+        check("material \xe4 { }\n", "material \xe4 { }\n" + b, {QString::fromLatin1("\xe4")});
     }
 
     void candidates()

@@ -2,9 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "ImportOutput.h"
 
-#include "SkinnedMesh.h"
-#include "StaticMesh.h"
-
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -46,43 +43,35 @@ void warnOfSharedNames(const QStringList &files, ImportMessages &messages)
     }
 }
 
-QString copyTextures(const QStringList &textures, const QString &folder, ImportMessages &messages)
+QString copyTextures(const std::vector<FileCopy> &textures, ImportMessages &messages)
 {
-    warnOfSharedNames(textures, messages);
-    bool any = false;
+    QStringList sources;
+    for (const FileCopy &texture : textures)
+        sources += texture.source;
+    warnOfSharedNames(sources, messages);
+    const bool any = !textures.empty();
     bool failed = false;
-    for (const QString &texture : textures) {
-        if (texture.isEmpty())
-            continue;
-        any = true;
-        const QString target = folder + QLatin1Char('/') + QFileInfo(texture).fileName();
-        failed = copyTexture(texture, target, messages) || failed;
-    }
+    for (const FileCopy &texture : textures)
+        failed = copyTexture(texture.source, texture.target, messages) || failed;
     return !any     ? QCoreApplication::translate("Import", "Model had no textures to copy\n")
            : failed ? QCoreApplication::translate("Import", "Failed on copying textures\n")
                     : QCoreApplication::translate("Import", "Successfully copied textures\n");
 }
 
-template <typename Surfaces>
-MaterialTable materialsOf(const Surfaces &surfaces, const QStringList &textures, const QString &textureFolder)
+MaterialTable materialsOf(const QStringList &names, const QStringList &textures, const QString &textureFolder)
 {
     const QString folder = textureFolder.isEmpty() ? QString() : textureFolder + QLatin1Char('/');
     MaterialTable table;
     auto texture = textures.begin();
-    for (const auto &surface : surfaces) {
-        const QString name = QFileInfo(surface.materialPath).fileName();
+    for (const QString &name : names) {
         const bool isWhite = name.endsWith(QLatin1String("_white")) || texture == textures.end();
-        table[name] = isWhite ? QStringLiteral("_white") : folder + QFileInfo(*texture++).fileName();
+        table[name] = isWhite ? QStringLiteral("_white") : folder + *texture++;
     }
     return table;
 }
 
-template MaterialTable materialsOf(const std::vector<SkinnedMeshSurface> &, const QStringList &,
-                                   const QString &);
-template MaterialTable materialsOf(const std::vector<StaticMeshSurface> &, const QStringList &,
-                                   const QString &);
-
-QString createKMat(const QString &path, const MaterialTable &materials, ImportMessages &messages)
+QString createKMat(const QString &path, const MaterialTable &materials, bool keepsOthers,
+                   ImportMessages &messages)
 {
     for (const auto &[name, texture] : materials) {
         // Values of a material file end at a blank.
@@ -92,7 +81,7 @@ QString createKMat(const QString &path, const MaterialTable &materials, ImportMe
                     "Import", "Material '%1': the texture '%2' will not be found, for the blank in its path")
                     .arg(name, texture));
     }
-    const QString error = writeKMat(path, materials);
+    const QString error = keepsOthers ? mergeKMat(path, materials) : writeKMat(path, materials);
     if (error.isEmpty())
         return QCoreApplication::translate("Import", "Successfully created .kmat file\n");
     messages.addWarning(error);

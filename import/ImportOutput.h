@@ -4,6 +4,7 @@
 
 #include "ImportMessages.h"
 #include "KMat.h"
+#include "ReplacedFiles.h"
 
 #include <QStringList>
 
@@ -14,18 +15,17 @@ bool copyTexture(const QString &source, const QString &target, ImportMessages &m
 /// Warns of files of one name, of which only one can stand in a folder.
 void warnOfSharedNames(const QStringList &files, ImportMessages &messages);
 
-/// Copies textures into a folder; gives the line that says how that ended.
-[[nodiscard]] QString copyTextures(const QStringList &textures, const QString &folder,
-                                   ImportMessages &messages);
+/// Copies textures; gives the line that says how that ended.
+[[nodiscard]] QString copyTextures(const std::vector<FileCopy> &textures, ImportMessages &messages);
 
-/// The materials that the surfaces of an imported mesh refer to. `textures` are those of the surfaces that
-/// have one, in their order; the materials name them in `textureFolder`.
-template <typename Surfaces>
-MaterialTable materialsOf(const Surfaces &surfaces, const QStringList &textures,
+/// The materials of these names, which the surfaces of an imported mesh refer to. `textures` are the file
+/// names for those that have one, in their order; the materials name them in `textureFolder`.
+MaterialTable materialsOf(const QStringList &names, const QStringList &textures,
                           const QString &textureFolder);
 
 /// Writes the material file; gives the line that says how that ended, after a warning line if it failed.
-[[nodiscard]] QString createKMat(const QString &path, const MaterialTable &materials,
+/// `keepsOthers`: what a file that stands there has of other materials stays in it.
+[[nodiscard]] QString createKMat(const QString &path, const MaterialTable &materials, bool keepsOthers,
                                  ImportMessages &messages);
 
 /// Where `path` stands inside `folder`, with forward slashes; null when it stands outside and

@@ -4,35 +4,15 @@
 
 #include "Fuzzy.h"
 #include "ImportFlags.h"
-#include "ImportOutput.h"
 #include "Transform.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QLoggingCategory>
-
-Q_LOGGING_CATEGORY(importStepsLog, "korvane.import", QtInfoMsg)
 
 namespace {
 constexpr float PitchOfSkinnedMesh = 90.0f;
 constexpr float PitchOfStaticMesh = -90.0f;
-
-template <typename Mesh>
-QString outputsOf(const ImportChoices &choices, const Mesh &mesh, const QStringList &textures,
-                  ImportMessages &messages)
-{
-    const QString root = choices.modFolder + QLatin1Char('/');
-    QString outcome;
-    if (choices.copyTextures)
-        outcome += copyTextures(textures, root + choices.textureFolder, messages);
-    if (choices.createKMat) {
-        qCDebug(importStepsLog, "[Write to .kmat] %s", qUtf8Printable(root + choices.kmatPath));
-        outcome += createKMat(root + choices.kmatPath,
-                              materialsOf(mesh.surfaces, textures, choices.textureFolder), messages);
-    }
-    return outcome;
-}
 
 template <typename Mesh>
 void scaleImported(Mesh &mesh, float factor)
@@ -51,6 +31,13 @@ QString withKMatSuffix(const QString &path)
 {
     const QString suffix = QStringLiteral(".kmat");
     return path.endsWith(suffix) ? path : path + suffix;
+}
+
+QString materialFolder(const QString &kmatPath)
+{
+    const QFileInfo kmat(kmatPath);
+    const QString folder = kmat.path() == QLatin1String(".") ? QString() : kmat.path() + QLatin1Char('/');
+    return folder + kmat.completeBaseName();
 }
 
 QStringList outputProblems(const ImportChoices &choices)
@@ -87,18 +74,6 @@ WorkerJob importJob(const ImportChoices &choices)
     job.meshVersion = choices.meshVersion;
     job.animVersion = choices.animVersion;
     return job;
-}
-
-QString writeOutputs(const ImportChoices &choices, const SkinnedMesh &mesh, const QStringList &textures,
-                     ImportMessages &messages)
-{
-    return outputsOf(choices, mesh, textures, messages);
-}
-
-QString writeOutputs(const ImportChoices &choices, const StaticMesh &mesh, const QStringList &textures,
-                     ImportMessages &messages)
-{
-    return outputsOf(choices, mesh, textures, messages);
 }
 
 void transformImported(SkinnedMesh &mesh, const ImportChoices &choices)

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ImportMessages.h"
 #include "WorkerJob.h"
 
 #include <QString>
@@ -33,17 +32,13 @@ QString defaultKMatPath(const QString &modelPath);
 /// Surfaces refer to the material file by its name without the extension, which so has to be this one.
 QString withKMatSuffix(const QString &path);
 
+/// What the materials of that file begin with in a surface: "materials/mat_a" for "materials/mat_a.kmat".
+QString materialFolder(const QString &kmatPath);
+
 /// Which folders the import would need are not there, a line each.
 QStringList outputProblems(const ImportChoices &choices);
 
 WorkerJob importJob(const ImportChoices &choices);
-
-/// Copies textures and writes the material file as far as that was chosen; gives the lines that say how that
-/// ended. `textures` are those of the surfaces that have one, in their order.
-[[nodiscard]] QString writeOutputs(const ImportChoices &choices, const SkinnedMesh &mesh,
-                                   const QStringList &textures, ImportMessages &messages);
-[[nodiscard]] QString writeOutputs(const ImportChoices &choices, const StaticMesh &mesh,
-                                   const QStringList &textures, ImportMessages &messages);
 
 /// Turns and scales what was read, the last step of an import.
 void transformImported(SkinnedMesh &mesh, const ImportChoices &choices);

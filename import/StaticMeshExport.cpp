@@ -72,28 +72,67 @@ WorkerJob staticMeshExport(const StaticMesh &mesh, const QString &meshPath, Mate
     return job;
 }
 
-QStringList exportedFiles(const WorkerJob &job)
+ExportedFiles::ExportedFiles(const WorkerJob &job, const QString &folder)
+    : m_job(job)
+    , m_folder(folder)
 {
-    // The materials first, so that an OBJ file never stands without them.
-    return {QFileInfo(job.objName).completeBaseName() + QStringLiteral(".mtl"), job.objName};
+    for (const QString &texture : job.textures)
+        m_textures.push_back({texture, path(QFileInfo(texture).fileName())});
 }
 
-bool placeExport(const ImportWorker &worker, const WorkerJob &job, const QString &folder,
-                 ImportMessages &messages)
+QStringList ExportedFiles::made() const
 {
-    const QDir target(folder);
-    for (const QString &name : exportedFiles(job)) {
-        if (placeFile(worker.madeFile(name), target.filePath(name))) {
+    // The materials first, so that an OBJ file never stands without them.
+    return {QFileInfo(m_job.objName).completeBaseName() + QStringLiteral(".mtl"), m_job.objName};
+}
+
+QStringList ExportedFiles::replaced() const
+{
+    QStringList files;
+    for (const QString &name : made()) {
+        if (isTaken(path(name)))
+            files += path(name);
+    }
+    return files + replacedTargets(m_textures);
+}
+
+void ExportedFiles::useFreeNames()
+{
+    const QFileInfo wanted(m_job.objName);
+    const auto isFree = [this] {
+        const QStringList names = made();
+        return std::none_of(names.begin(), names.end(),
+                            [this](const QString &name) { return isTaken(path(name)); });
+    };
+    for (int number = 2; !isFree(); ++number)
+        m_job.objName = QStringLiteral("%1_%2.%3")
+                            .arg(wanted.completeBaseName(), QString::number(number), wanted.suffix());
+    useFreeTargets(m_textures);
+}
+
+WorkerJob ExportedFiles::job() const
+{
+    WorkerJob job = m_job;
+    job.textures.clear();
+    for (const FileCopy &texture : m_textures)
+        job.textures += texture.target;
+    return job;
+}
+
+bool ExportedFiles::place(const ImportWorker &worker, ImportMessages &messages) const
+{
+    for (const QString &name : made()) {
+        if (placeFile(worker.madeFile(name), path(name))) {
             messages.addError(
                 QCoreApplication::translate("Import", "[Static Mesh Export] %1 Could not write file.")
-                    .arg(QDir::toNativeSeparators(target.filePath(name))));
+                    .arg(QDir::toNativeSeparators(path(name))));
             return true;
         }
     }
-    warnOfSharedNames(job.textures, messages);
-    for (const QString &texture : job.textures) {
-        if (QFileInfo(texture).isFile())
-            copyTexture(texture, target.filePath(QFileInfo(texture).fileName()), messages);
+    warnOfSharedNames(m_job.textures, messages);
+    for (const FileCopy &texture : m_textures) {
+        if (QFileInfo(texture.source).isFile())
+            copyTexture(texture.source, texture.target, messages);
     }
     return false;
 }

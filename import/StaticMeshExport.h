@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ReplacedFiles.h"
 #include "WorkerJob.h"
 
 class ImportWorker;
@@ -13,10 +14,30 @@ class MaterialFiles;
 WorkerJob staticMeshExport(const StaticMesh &mesh, const QString &meshPath, MaterialFiles &materials,
                            ImportMessages &messages);
 
-/// The names of the files that the job makes, textures aside.
-QStringList exportedFiles(const WorkerJob &job);
+/// The files that such a job puts into a folder: OBJ and MTL, which the worker makes, and the textures.
+class ExportedFiles
+{
+public:
+    ExportedFiles(const WorkerJob &job, const QString &folder);
 
-/// Puts the files that `worker` has made for `job`, and the textures, into `folder`. Returns true on failure,
-/// after an error line; a texture that cannot be copied is worth a warning only.
-[[nodiscard]] bool placeExport(const ImportWorker &worker, const WorkerJob &job, const QString &folder,
-                               ImportMessages &messages);
+    /// Those whose content would be lost.
+    QStringList replaced() const;
+    /// What would replace something gets a name at which nothing stands, OBJ and MTL one.
+    void useFreeNames();
+
+    /// The job that makes them as they are called.
+    WorkerJob job() const;
+    QString objPath() const { return path(m_job.objName); }
+
+    /// Puts them there. Returns true on failure, after an error line; a texture that cannot be copied is
+    /// worth a warning only.
+    [[nodiscard]] bool place(const ImportWorker &worker, ImportMessages &messages) const;
+
+private:
+    QString path(const QString &name) const { return m_folder + QLatin1Char('/') + name; }
+    QStringList made() const;
+
+    WorkerJob m_job;
+    QString m_folder;
+    std::vector<FileCopy> m_textures;
+};

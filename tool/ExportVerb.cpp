@@ -31,7 +31,7 @@ int exportModel(const QStringList &arguments)
         QStringLiteral("Writes a static mesh as OBJ, with an MTL file and the textures beside it."));
     line.option({QStringLiteral("o"), QStringLiteral("output")}, QStringLiteral("file"),
                 QStringLiteral("The OBJ file, or a folder for it."));
-    line.flag(QStringLiteral("force"), QStringLiteral("Replace OBJ and MTL files that exist."));
+    line.flag(QStringLiteral("force"), QStringLiteral("Replace files that exist, textures too."));
     line.folderOptions(CommandLine::GameFolder::AroundFile);
     if (const auto end = line.parse(arguments, false))
         return *end;
@@ -58,23 +58,15 @@ int exportModel(const QStringList &arguments)
     const MaterialFolders folders = foldersAround(file, line);
     MaterialFiles materials(folders.gamePath, folders.outputDir);
     ImportMessages messages;
-    const WorkerJob job = staticMeshExport(*mesh, target, materials, messages);
-    bool exists = false;
-    for (const QString &name : exportedFiles(job)) {
-        if (line.isSet(QStringLiteral("force")) || !folder.exists(name))
-            continue;
-        exists = true;
-        Output::complain(
-            QStringLiteral("%1: The file exists already; --force replaces it.").arg(folder.filePath(name)));
-    }
-    if (exists)
+    const ExportedFiles files(staticMeshExport(*mesh, target, materials, messages), folder.path());
+    if (!line.isSet(QStringLiteral("force")) && Output::refuseToReplace(files.replaced()))
         return Failed;
     if (!messages.hasError()) {
         ImportWorker worker;
-        runJob(worker, TimeLimit, job, *mesh);
+        runJob(worker, TimeLimit, files.job(), *mesh);
         messages.lines += worker.messages().lines;
-        if (!messages.hasError() && !placeExport(worker, job, folder.path(), messages))
-            Output::line(folder.filePath(job.objName));
+        if (!messages.hasError() && !files.place(worker, messages))
+            Output::line(files.objPath());
     }
     Output::tell(messages);
     return messages.hasError() ? Failed : Fine;

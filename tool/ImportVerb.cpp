@@ -4,6 +4,7 @@
 #include "ImportFilter.h"
 #include "ImportOutput.h"
 #include "ImportSteps.h"
+#include "ImportedFiles.h"
 #include "Output.h"
 #include "Settings.h"
 #include "Verbs.h"
@@ -11,6 +12,8 @@
 
 #include <QDir>
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace {
 constexpr int LongestTime = 3600; // seconds
@@ -26,6 +29,8 @@ void addOptions(CommandLine &line)
     line.flag(QStringLiteral("static"), QStringLiteral("Make a static mesh."));
     line.flag(QStringLiteral("force"),
               QStringLiteral("Replace files that exist, materials and textures too."));
+    line.flag(QStringLiteral("keep-materials"),
+              QStringLiteral("Keep the other materials of a material file that --force replaces."));
     line.flag(QStringLiteral("no-normals"),
               QStringLiteral("Generate no normals. A skinned mesh cannot do without."));
     line.flag(QStringLiteral("flip-uv"), QStringLiteral("Flip all UV coordinates along the y-axis."));
@@ -88,31 +93,17 @@ struct Results
     QString target; ///< without the extension
 };
 
-/// Says which files the import would replace; there are none where that is wanted.
-bool wouldReplace(const Results &results, const ImportChoices &choices, const QStringList &textures)
+/// The models that the import would replace.
+QStringList replacedModels(const Results &results, bool isStatic)
 {
-    const QDir mod(choices.modFolder);
     QStringList files{results.target +
-                      (choices.isStatic ? QStringLiteral(".staticmesh") : QStringLiteral(".skinnedmesh"))};
+                      (isStatic ? QStringLiteral(".staticmesh") : QStringLiteral(".skinnedmesh"))};
     if (!results.anim.blocks.empty())
         files += results.target + QStringLiteral(".anim");
-    if (choices.createKMat)
-        files += mod.filePath(choices.kmatPath);
-    for (const QString &texture : choices.copyTextures ? textures : QStringList()) {
-        const QString copy =
-            mod.filePath(choices.textureFolder + QLatin1Char('/') + QFileInfo(texture).fileName());
-        // One that is in its place already is left alone.
-        if (QFileInfo(copy).canonicalFilePath() != QFileInfo(texture).canonicalFilePath())
-            files += copy;
-    }
-    bool any = false;
-    for (const QString &file : qAsConst(files)) {
-        if (!QFileInfo::exists(file))
-            continue;
-        any = true;
-        Output::complain(QStringLiteral("%1: The file exists already; --force replaces it.").arg(file));
-    }
-    return any;
+    files.erase(
+        std::remove_if(files.begin(), files.end(), [](const QString &file) { return !isTaken(file); }),
+        files.end());
+    return files;
 }
 
 /// Returns true on failure.
@@ -129,26 +120,35 @@ bool write(const Model &model, const QString &path)
     return true;
 }
 
+/// What may be replaced.
+struct Replacing
+{
+    bool allowed;
+    bool keepsMaterials; ///< that a material file has beside the new ones
+};
+
 /// Takes the last steps with what the worker has read. Returns true on failure.
-bool finish(const ImportWorker &worker, const ImportChoices &choices, Results &results, bool replaces)
+bool finish(const ImportWorker &worker, const ImportChoices &choices, Results &results, Replacing replacing)
 {
     if (choices.isStatic ? worker.read(results.rigid) : worker.read(results.skinned, results.anim)) {
         Output::complain(QStringLiteral("%1: The result was damaged.").arg(choices.modelPath));
         return true;
     }
-    const QStringList &textures = worker.textures();
-    if (!replaces && wouldReplace(results, choices, textures))
+    ImportedFiles files = choices.isStatic ? ImportedFiles(choices, results.rigid, worker.textures())
+                                           : ImportedFiles(choices, results.skinned, worker.textures());
+    if (!replacing.allowed &&
+        Output::refuseToReplace(replacedModels(results, choices.isStatic) + files.replaced()))
         return true;
+    if (replacing.keepsMaterials)
+        files.keepOtherMaterials();
 
     ImportMessages messages = worker.messages();
-    QString outcome;
+    const QString outcome = files.write(messages);
     bool failed = false;
     if (choices.isStatic) {
-        outcome = writeOutputs(choices, results.rigid, textures, messages);
         transformImported(results.rigid, choices);
         failed = write(results.rigid, results.target + QStringLiteral(".staticmesh"));
     } else {
-        outcome = writeOutputs(choices, results.skinned, textures, messages);
         transformImported(results.skinned, choices);
         failed = write(results.skinned, results.target + QStringLiteral(".skinnedmesh"));
         if (!results.anim.blocks.empty())
@@ -211,5 +211,7 @@ int importModel(const QStringList &arguments)
     }
     Results results;
     results.target = folder.filePath(QFileInfo(choices.modelPath).completeBaseName());
-    return finish(worker, choices, results, line.isSet(QStringLiteral("force"))) ? Failed : Fine;
+    const Replacing replacing{line.isSet(QStringLiteral("force")),
+                              line.isSet(QStringLiteral("keep-materials"))};
+    return finish(worker, choices, results, replacing) ? Failed : Fine;
 }

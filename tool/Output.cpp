@@ -31,6 +31,13 @@ void Output::complain(const QString &text)
     write(stderr, "korvane-tool: " + text.toUtf8() + '\n');
 }
 
+bool Output::refuseToReplace(const QStringList &files)
+{
+    for (const QString &file : files)
+        complain(QStringLiteral("%1: The file exists already; --force replaces it.").arg(file));
+    return !files.isEmpty();
+}
+
 void Output::tell(const ImportMessages &messages)
 {
     for (const ImportMessage &message : messages.lines) {

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <QJsonArray>
-#include <QString>
+#include <QStringList>
 
 class ImportMessages;
 
@@ -12,6 +12,8 @@ namespace Output {
 void line(const QString &text);
 void json(const QJsonArray &array);
 void complain(const QString &text);
+/// Says of each of these files that it exists already. Returns false when there are none.
+bool refuseToReplace(const QStringList &files);
 /// The account of an import or an export: what went well as results, the rest as complaints.
 void tell(const ImportMessages &messages);
 } // namespace Output

@@ -2181,6 +2181,10 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
         <source>No dice!</source>
         <translation>Das geht nicht!</translation>
     </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
 </context>
 <context>
     <name>ImportRun</name>
@@ -3544,18 +3548,6 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>Export</source>
-        <translation>Export</translation>
-    </message>
-    <message>
-        <source>These files exist already. Replace them?
-
-%1</source>
-        <translation>Diese Dateien gibt es schon. Sollen sie ersetzt werden?
-
-%1</translation>
-    </message>
-    <message>
         <source>Error</source>
         <translation>Fehler</translation>
     </message>
@@ -3979,6 +3971,35 @@ Alles andere funktioniert weiter. Starten Sie Korvane neu, um Modelle zu sehen.<
 Everything else works on.</source>
         <translation>Modelle können nicht gezeichnet werden: das System hat OpenGL, gibt dem Fenster aber keinen Kontext.
 Alles andere funktioniert weiter.</translation>
+    </message>
+</context>
+<context>
+    <name>ReplacePrompt</name>
+    <message>
+        <source>%1
+… and %2 more</source>
+        <translation>%1
+… und %2 weitere</translation>
+    </message>
+    <message>
+        <source>Use &amp;Free Names</source>
+        <translation>&amp;Freie Namen verwenden</translation>
+    </message>
+    <message>
+        <source>These files exist already. Replace them?
+
+%1</source>
+        <translation>Diese Dateien gibt es schon. Sollen sie ersetzt werden?
+
+%1</translation>
+    </message>
+    <message>
+        <source>Leaves these files alone and puts a number to the new names: steel_2.png</source>
+        <translation>Lässt diese Dateien in Ruhe und hängt den neuen Namen eine Zahl an: steel_2.png</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the other materials of the .kmat file (%1)</source>
+        <translation>Die &amp;übrigen Materialien der .kmat-Datei behalten (%1)</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,7 @@
 #include "ImportFilter.h"
 #include "ImportOutput.h"
 #include "Language.h"
+#include "ReplacePrompt.h"
 #include "Settings.h"
 #include "ui_ImportDialog.h"
 
@@ -55,6 +56,11 @@ ImportDialog::ImportDialog(Mode mode, QWidget *parent)
     connect(&m_run, &ImportRun::skinnedMeshImported, this, &ImportDialog::skinnedMeshImported);
     connect(&m_run, &ImportRun::staticMeshImported, this, &ImportDialog::staticMeshImported);
     connect(&m_run, &ImportRun::finished, this, &ImportDialog::onFinished);
+    connect(&m_run, &ImportRun::declined, this, &ImportDialog::on_btnErrorBack_clicked);
+    m_run.setDecision([this](ImportedFiles &files) {
+        m_tick.stop();
+        return ReplacePrompt::settle(files, windowTitle(), this);
+    });
     m_tick.setInterval(100);
     connect(&m_tick, &QTimer::timeout, this, &ImportDialog::updateElapsed);
     m_ui->stackPages->setCurrentWidget(m_ui->pageOptions);
@@ -195,16 +201,16 @@ void ImportDialog::on_btnTextureDirBrowse_clicked()
 
 void ImportDialog::LoseWidgetFocus()
 {
+    const int before = m_refusals;
     if (QWidget *editor = focusWidget())
         editor->clearFocus();
-    m_pathEntered = true;
+    m_staysPut = m_refusals != before;
 }
 
 void ImportDialog::keyPressEvent(QKeyEvent *event)
 {
-    // Enter in a path ends the typing only; the next one imports.
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!std::exchange(m_pathEntered, false) || !isEnter)
+    if (!std::exchange(m_staysPut, false) || !isEnter)
         QDialog::keyPressEvent(event);
 }
 
@@ -245,6 +251,7 @@ bool ImportDialog::refusePath(const QString &path)
 {
     if (!pathInside(m_choices.modFolder, path).isNull())
         return false;
+    ++m_refusals;
     if (!m_leaving)
         QMessageBox::warning(this, tr("kmat Path Error"), tr("Path must be relative to Turok 2 Folder"));
     return true;

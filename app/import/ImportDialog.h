@@ -87,7 +87,9 @@ private:
     ImportRun m_run;
     QTimer m_tick; ///< of the elapsed time
     ImportChoices m_choices;
-    bool m_swapYZ = false;      ///< kept, and of no effect
-    bool m_leaving = false;     ///< what is typed does not matter any more
-    bool m_pathEntered = false; ///< the Enter key that comes next has ended the typing of a path
+    bool m_swapYZ = false;  ///< kept, and of no effect
+    bool m_leaving = false; ///< what is typed does not matter any more
+    int m_refusals = 0;     ///< of typed paths
+    bool m_staysPut =
+        false; ///< the Enter key that comes next has ended the typing of a path that was refused
 };

@@ -7,12 +7,12 @@
 #include "ImportDialog.h"
 #include "Log.h"
 #include "MaterialFiles.h"
+#include "ReplacePrompt.h"
 #include "Settings.h"
 #include "StaticMeshExport.h"
 
 #include <QDir>
 #include <QEventLoop>
-#include <QFileInfo>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QProgressDialog>
@@ -43,21 +43,6 @@ bool runJob(ImportWorker &worker, const WorkerJob &job, const StaticMesh &mesh, 
     if (worker.isRunning())
         loop.exec();
     return !worker.isRunning();
-}
-
-/// Asks before the export takes the place of files of its names.
-bool mayReplace(const WorkerJob &job, const QString &folder, QWidget *window)
-{
-    QStringList existing;
-    for (const QString &name : exportedFiles(job)) {
-        if (QFileInfo::exists(QDir(folder).filePath(name)))
-            existing += QDir::toNativeSeparators(QDir(folder).filePath(name));
-    }
-    return existing.isEmpty() ||
-           QMessageBox::question(window, QObject::tr("Export"),
-                                 QObject::tr("These files exist already. Replace them?\n\n%1")
-                                     .arg(existing.join(QLatin1Char('\n'))),
-                                 QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
 /// To the console; errors in a box as well.
@@ -148,17 +133,17 @@ void ImportExport::exportStaticMesh()
 
     ImportMessages messages;
     MaterialFiles materials(Settings::GamePath.value(), Settings::OutputDir.value());
-    const WorkerJob job =
-        staticMeshExport(m_staticMesh.model(), m_staticMesh.fileName(), materials, messages);
+    ExportedFiles files(staticMeshExport(m_staticMesh.model(), m_staticMesh.fileName(), materials, messages),
+                        folder);
     if (!messages.hasError()) {
-        if (!mayReplace(job, folder, m_window))
+        if (!ReplacePrompt::settle(files, tr("Export"), m_window))
             return;
         ImportWorker worker;
-        if (!runJob(worker, job, m_staticMesh.model(), m_window))
+        if (!runJob(worker, files.job(), m_staticMesh.model(), m_window))
             return;
         messages.lines += worker.messages().lines;
-        if (!messages.hasError() && !placeExport(worker, job, folder, messages)) {
-            const QString path = QDir::toNativeSeparators(QDir(folder).filePath(job.objName));
+        if (!messages.hasError() && !files.place(worker, messages)) {
+            const QString path = QDir::toNativeSeparators(files.objPath());
             messages.addInfo(tr("[Static Mesh Export] Exported '%1'").arg(path));
             m_window->statusBar()->showMessage(tr("Exported '%1'").arg(path), 5000);
         }

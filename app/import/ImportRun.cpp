@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ImportRun.h"
 
-#include "ImportOutput.h"
+#include "ImportedFiles.h"
 #include "Settings.h"
 
 #include <QFileInfo>
@@ -29,34 +29,42 @@ void ImportRun::onWorkerFinished()
 {
     ImportMessages messages = m_worker.messages();
     QString outcome;
+    bool goesOn = true;
     const QString name = QFileInfo(m_choices.modelPath).completeBaseName();
     if (messages.hasError()) {
         // There is nothing to go on with.
     } else if (m_choices.isStatic) {
         StaticMesh mesh;
-        outcome = finish(mesh, messages);
-        if (!messages.hasError())
+        goesOn = finish(mesh, messages, outcome);
+        if (goesOn && !messages.hasError())
             emit staticMeshImported(mesh, name);
     } else {
         SkinnedMesh mesh;
         AnimFile anim;
-        outcome = finish(mesh, messages, anim);
-        if (!messages.hasError())
+        goesOn = finish(mesh, messages, outcome, anim);
+        if (goesOn && !messages.hasError())
             emit skinnedMeshImported(mesh, anim, name);
     }
     m_worker.discard();
-    emit finished(messages, outcome);
+    if (goesOn)
+        emit finished(messages, outcome);
+    else
+        emit declined();
 }
 
-/// Gives what was written.
+/// Says in `outcome` what was written. Returns false when nothing is to be replaced and so to be imported.
 template <typename Mesh, typename... More>
-QString ImportRun::finish(Mesh &mesh, ImportMessages &messages, More &...more)
+bool ImportRun::finish(Mesh &mesh, ImportMessages &messages, QString &outcome, More &...more)
 {
     if (m_worker.read(mesh, more...)) {
         messages.addError(tr("%1 Could not read file. The result was damaged.").arg(m_choices.modelPath));
-        return {};
+        return true;
     }
-    const QString outcome = writeOutputs(m_choices, mesh, m_worker.textures(), messages);
+    ImportedFiles files(m_choices, mesh, m_worker.textures());
+    if (m_decide && !files.replaced().isEmpty() && !m_decide(files))
+        return false;
+    files.nameMaterials(mesh);
+    outcome = files.write(messages);
     transformImported(mesh, m_choices);
-    return outcome;
+    return true;
 }

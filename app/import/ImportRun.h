@@ -7,6 +7,10 @@
 
 #include <QObject>
 
+#include <functional>
+
+class ImportedFiles;
+
 /// One import after another: the worker reads the model, then its materials and textures are written, and it
 /// is turned and scaled.
 class ImportRun : public QObject
@@ -18,6 +22,11 @@ public:
 
     /// That an import may take, in seconds; an hour at most.
     static int timeLimit();
+
+    /// Decides about files that would be replaced, and changes the names if need be. False: nothing is to be
+    /// imported. Without it they are replaced.
+    using Decision = std::function<bool(ImportedFiles &files)>;
+    void setDecision(Decision decide) { m_decide = std::move(decide); }
 
     /// Begins an import, whose outputs were found to be possible.
     void start(const ImportChoices &choices);
@@ -33,12 +42,15 @@ signals:
     /// Comes once for each start, after those. There is a model unless the messages hold an error; `outcome`
     /// says what was written.
     void finished(const ImportMessages &messages, const QString &outcome);
+    /// Comes in place of those where nothing was to be replaced.
+    void declined();
 
 private:
     void onWorkerFinished();
     template <typename Mesh, typename... More>
-    QString finish(Mesh &mesh, ImportMessages &messages, More &...more);
+    bool finish(Mesh &mesh, ImportMessages &messages, QString &outcome, More &...more);
 
+    Decision m_decide;
     ImportChoices m_choices;
     ImportWorker m_worker;
 };

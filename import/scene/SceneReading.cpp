@@ -3,6 +3,7 @@
 #include "SceneReading.h"
 
 #include "ImportFlags.h"
+#include "ImportSteps.h"
 #include "SkinnedMesh.h"
 #include "StaticMesh.h"
 #include "Transform.h"
@@ -56,9 +57,7 @@ QString texturePath(const SceneSource &source, const aiMaterial &material, unsig
 template <typename Mesh>
 std::vector<size_t> addMaterials(const SceneSource &source, Mesh &mesh)
 {
-    const QFileInfo kmat(source.kmatPath);
-    const QString folder = kmat.path() == QLatin1String(".") ? QString() : kmat.path() + QLatin1Char('/');
-    const QString reference = folder + kmat.completeBaseName() + QStringLiteral("/surf_");
+    const QString reference = materialFolder(source.kmatPath) + QStringLiteral("/surf_");
 
     std::vector<size_t> surfaceOfMaterial;
     QHash<QString, size_t> surfaceOfTexture;

@@ -57,8 +57,8 @@ _korvane_tool() {
     check) options='--json --all --game-path --mod-path --help' ;;
     resave) options='--output --force --help' ;;
     import)
-        options='--output --static --force --no-normals --flip-uv --flip-winding --no-rotate --scale --mod-path
-            --create-kmat --copy-textures --kmat --texture-folder --time-limit --help'
+        options='--output --static --force --keep-materials --no-normals --flip-uv --flip-winding --no-rotate --scale
+            --mod-path --create-kmat --copy-textures --kmat --texture-folder --time-limit --help'
         ;;
     export) options='--output --force --game-path --mod-path --help' ;;
     render)

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "ImportOutput.h"
+#include "ImportedFiles.h"
 #include "StaticMesh.h"
 #include "TestSupport.h"
 
@@ -41,31 +42,36 @@ private slots:
         ImportMessages messages;
         const QString copied = QStringLiteral("Successfully copied textures\n");
         const QString failed = QStringLiteral("Failed on copying textures\n");
-        QCOMPARE(copyTextures({a, QString(), b}, target.path(), messages), copied);
+        const auto copy = [&](const QStringList &textures, const QString &folder) {
+            std::vector<FileCopy> copies;
+            for (const QString &texture : textures)
+                copies.push_back({texture, folder + '/' + QFileInfo(texture).fileName()});
+            return copyTextures(copies, messages);
+        };
+        QCOMPARE(copy({a, b}, target.path()), copied);
         QCOMPARE(TestSupport::readFile(there), QByteArray("new"));
 
         // Onto itself, also by another way.
         QVERIFY(QFile::link(source.path(), target.path("link")));
-        QCOMPARE(copyTextures({a}, target.path("link"), messages), copied);
+        QCOMPARE(copy({a}, target.path("link")), copied);
         QCOMPARE(TestSupport::readFile(a), QByteArray("new"));
         QVERIFY(messages.lines.isEmpty());
-        QCOMPARE(copyTextures({QString()}, target.path(), messages),
-                 QStringLiteral("Model had no textures to copy\n"));
+        QCOMPARE(copy({}, target.path()), QStringLiteral("Model had no textures to copy\n"));
 
         // Two of one name cannot both stand there.
         const QString alike = source.put("other/a.png", "new");
-        QCOMPARE(copyTextures({a, alike}, target.path(), messages), copied);
+        QCOMPARE(copy({a, alike}, target.path()), copied);
         QCOMPARE(messages.lines.size(), 1);
         QCOMPARE(messages.lines.takeFirst().text,
                  QStringLiteral("'%1' and '%2' have one name: only one of them can be used").arg(a, alike));
 
         // What cannot be read leaves the file that stands there; what cannot be written says so.
         const QString gone = source.path("sub/a.png");
-        QCOMPARE(copyTextures({gone}, target.path(), messages), failed);
+        QCOMPARE(copy({gone}, target.path()), failed);
         QCOMPARE(TestSupport::readFile(there), QByteArray("new"));
         const QString inTheWay = target.path("b.png.d");
         QVERIFY(QDir().mkpath(inTheWay + "/b.png"));
-        QCOMPARE(copyTextures({a, b}, inTheWay, messages), failed);
+        QCOMPARE(copy({a, b}, inTheWay), failed);
         QCOMPARE(messages.lines.size(), 2);
         QCOMPARE(messages.lines[0].text,
                  QString("Could not copy texture from '%1' to '%2'").arg(gone, there));
@@ -75,9 +81,8 @@ private slots:
 
     void materials()
     {
-        const std::vector<StaticMeshSurface> surfaces{
-            {"materials/m/surf_0", {}}, {"materials/m/surf_1_white", {}}, {"materials/m/surf_2", {}}};
-        const QStringList textures{"/x/steel.v2.png", "/x/wood.png"};
+        const QStringList surfaces{"surf_0", "surf_1_white", "surf_2"};
+        const QStringList textures{"steel.v2.png", "wood.png"};
         MaterialTable table = materialsOf(surfaces, textures, "textures/mine");
         QCOMPARE(table, (MaterialTable{{"surf_0", "textures/mine/steel.v2.png"},
                                        {"surf_1_white", "_white"},
@@ -88,17 +93,56 @@ private slots:
         ImportMessages messages;
         const QString path = folder.filePath(QStringLiteral("m.kmat"));
         const QString created = QStringLiteral("Successfully created .kmat file\n");
-        QCOMPARE(createKMat(path, table, messages), created);
+        QCOMPARE(createKMat(path, table, false, messages), created);
         MaterialTable written;
         QCOMPARE(readKMat(path, written), QString());
         QCOMPARE(written, table);
         QVERIFY(messages.lines.isEmpty());
         table[QStringLiteral("surf_2")] = QStringLiteral("textures/my wood.png");
-        QCOMPARE(createKMat(path, table, messages), created);
+        QCOMPARE(createKMat(path, table, false, messages), created);
         QVERIFY(messages.lines.takeFirst().text.contains(QLatin1String("my wood.png")));
-        QCOMPARE(createKMat(folder.filePath(QStringLiteral("none/m.kmat")), table, messages),
+        QCOMPARE(createKMat(folder.filePath(QStringLiteral("none/m.kmat")), table, false, messages),
                  QStringLiteral("Failed on creating .kmat file\n"));
         QCOMPARE(messages.lines.size(), 2);
+    }
+
+    void onlyOtherContentIsReplaced()
+    {
+        const TestFolder source, mod;
+        const QString steel = source.put("steel.png", "steel"), wood = source.put("wood.png", "wood");
+        StaticMesh mesh;
+        mesh.surfaces = {{"materials/mat_x/surf_0", {}}, {"materials/mat_x/surf_1", {}}};
+        ImportChoices choices;
+        choices.modFolder = mod.path();
+        choices.kmatPath = "materials/mat_x.kmat";
+        choices.copyTextures = choices.createKMat = true;
+        mod.put("textures/wood.png", "wood");
+        mod.put("materials/none", "");
+        ImportMessages messages;
+        const QString written = "Successfully copied textures\nSuccessfully created .kmat file\n";
+        for (int round = 0; round < 2; ++round) { // the second time all of it is there
+            const ImportedFiles files(choices, mesh, {steel, wood, source.path("gone.png")});
+            QCOMPARE(files.replaced(), QStringList());
+            QCOMPARE(ImportedFiles(choices, mesh, {steel, wood}).write(messages), written);
+        }
+
+        const QString mine = mod.put("textures/steel.png", "mine");
+        mod.put("textures/steel_2.png", "mine too");
+        const QString kmat = mod.put("materials/mat_x.kmat", "material surf_0 { }\nmaterial glow { }\n");
+        ImportedFiles files(choices, mesh, {steel, wood});
+        QCOMPARE(files.replaced(), QStringList({kmat, mine}));
+        QCOMPARE(files.otherMaterials(), QStringList("glow"));
+        files.useFreeNames();
+        QCOMPARE(files.replaced(), QStringList());
+        files.nameMaterials(mesh);
+        QCOMPARE(mesh.surfaces[1].materialPath, QString("materials/mat_x_2/surf_1"));
+        QCOMPARE(files.write(messages), written);
+        QVERIFY(messages.lines.isEmpty());
+        MaterialTable table;
+        QCOMPARE(readKMat(mod.path("materials/mat_x_2.kmat"), table), QString());
+        QCOMPARE(table, (MaterialTable{{"surf_0", "textures/steel_3.png"}, {"surf_1", "textures/wood.png"}}));
+        QCOMPARE(TestSupport::readFile(mine), QByteArray("mine"));
+        QCOMPARE(TestSupport::readFile(mod.path("textures/steel_3.png")), QByteArray("steel"));
     }
 };
 

@@ -149,10 +149,15 @@ private slots:
 
         ImportWorker worker;
         QSignalSpy finished(&worker, &ImportWorker::finished);
-        worker.start(job, mesh);
-        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 20000);
-        QVERIFY(!worker.messages().hasError());
-        QVERIFY(!placeExport(worker, job, target.path(), messages));
+        ExportedFiles files(job, target.path());
+        const auto place = [&](int runs) {
+            worker.start(files.job(), mesh);
+            QTRY_COMPARE_WITH_TIMEOUT(finished.count(), runs, 20000);
+            QVERIFY(!worker.messages().hasError());
+            QVERIFY(!files.place(worker, messages));
+        };
+        QCOMPARE(files.replaced(), QStringList());
+        place(1);
         QCOMPARE(QDir(target.path()).entryList(QDir::Files),
                  QStringList({QString("untitled.mtl"), QString("untitled.obj"), QString("wall.v2.png")}));
         const QByteArray mtl = TestSupport::readFile(target.path("untitled.mtl"));
@@ -161,9 +166,22 @@ private slots:
         QCOMPARE(mtl.count("map_Kd"), 2);
         QVERIFY(mtl.contains("Kd 1 1 1\n"));
 
+        // Once more: the texture is the same, another one would be lost.
+        QCOMPARE(files.replaced().size(), 2);
+        const QString mine = target.put("wall.v2.png", "mine");
+        QCOMPARE(files.replaced(),
+                 QStringList({target.path("untitled.mtl"), target.path("untitled.obj"), mine}));
+        files.useFreeNames();
+        QCOMPARE(files.replaced(), QStringList());
+        place(2);
+        QCOMPARE(TestSupport::readFile(mine), QByteArray("mine"));
+        QCOMPARE(TestSupport::readFile(target.path("wall.v2_2.png")), QByteArray("picture"));
+        QVERIFY(TestSupport::readFile(target.path("untitled_2.obj")).contains("mtllib untitled_2.mtl"));
+        QVERIFY(TestSupport::readFile(target.path("untitled_2.mtl")).contains("map_Kd wall.v2_2.png\n"));
+
         // A folder that went away in the meantime.
         messages.lines.clear();
-        QVERIFY(placeExport(worker, job, target.path("none"), messages));
+        QVERIFY(ExportedFiles(job, target.path("none")).place(worker, messages));
         QVERIFY(messages.hasError());
         messages.lines.clear();
         staticMeshExport(StaticMesh(), QStringLiteral("/a/b.v2.staticmesh"), materials, messages);

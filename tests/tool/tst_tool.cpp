@@ -230,12 +230,16 @@ private slots:
 
         // Nothing of that is replaced unasked.
         const QString result = put("wedge.staticmesh", "mine");
+        const QString kmat = put("mod/materials/mat_wedge.kmat", "material glow { }\n");
         const ToolRun again(words, more);
         QCOMPARE(again.exitCode, 1);
         QVERIFY(again.err.contains(result) && again.err.contains("mat_wedge.kmat"));
         QCOMPARE(readFile(result), QByteArray("mine"));
-        QCOMPARE(ToolRun(words, more + QStringList("--force")).exitCode, 0);
+        QCOMPARE(ToolRun(words, more + QStringList{"--force", "--keep-materials"}).exitCode, 0);
         QVERIFY(readFile(result) != QByteArray("mine"));
+        QVERIFY(readFile(kmat).startsWith("material glow { }\nmaterial surf_0_white {"));
+        QCOMPARE(ToolRun(words, more + QStringList("--force")).exitCode, 0);
+        QVERIFY(!readFile(kmat).contains("glow"));
     }
 
     void importSkinnedWithAnimation()
@@ -275,10 +279,18 @@ private slots:
         // The folder that the file lies in was found to be the game's.
         QVERIFY(QFileInfo::exists(path("crate.png")));
 
-        put("box.mtl", "mine");
-        QCOMPARE(ToolRun("export", more).exitCode, 1);
-        QCOMPARE(readFile(path("box.mtl")), QByteArray("mine"));
-        QCOMPARE(ToolRun("export --force", more).exitCode, 0);
+        for (const QString name : {"box.mtl", "crate.png"}) {
+            QDir(path()).remove("box.obj");
+            QDir(path()).remove("box.mtl");
+            put(name, "mine");
+            const ToolRun refused("export", more);
+            QCOMPARE(refused.exitCode, 1);
+            QVERIFY(refused.err.contains(name + ": The file exists already"));
+            QCOMPARE(readFile(path(name)), QByteArray("mine"));
+            QVERIFY(!QFileInfo::exists(path("box.obj")));
+            QCOMPARE(ToolRun("export --force", more).exitCode, 0);
+            QVERIFY(readFile(path(name)) != QByteArray("mine"));
+        }
 
         const ToolRun anim("export -o", {path(), source("samples/game/anims/tinker/tinker.anim")});
         QCOMPARE(anim.exitCode, 1);

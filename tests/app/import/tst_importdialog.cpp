@@ -238,6 +238,89 @@ private slots:
         }
     }
 
+    void nothingIsReplacedUnasked()
+    {
+        Settings::ImportTextures.setValue(true);
+        Settings::ImportKMat.setValue(true);
+        const QString model = writeTextured();
+        const QByteArray glow = "material glow {\n}\n";
+        const QString texture = m_mod->put(QString("textures/steel.png"), "mine");
+        const QString kmat = m_mod->put(QString("materials/mat_box.v2.kmat"), glow);
+        ImportDialog dialog(ImportDialog::StaticMeshMode);
+        dialog.show();
+        dialog.setModelPath(model);
+        QString material;
+        int imported = 0;
+        connect(&dialog, &ImportDialog::staticMeshImported, this, [&](const StaticMesh &mesh) {
+            material = mesh.surfaces.at(0).materialPath;
+            ++imported;
+        });
+        const auto answer = [&](const Hand::Answer &given, const char *endsOn) {
+            Hand hand({given});
+            click(dialog, "btnImport");
+            QTRY_COMPARE_WITH_TIMEOUT(page(dialog), QString(endsOn), 20000);
+            QCOMPARE(hand.seen,
+                     QStringList(QStringLiteral("Import model to Static Mesh|These files exist already. "
+                                                "Replace them?\n\n%1\n%2")
+                                     .arg(kmat, texture)));
+            find<QStackedWidget>(dialog, "stackPages")->setCurrentIndex(0);
+        };
+        // Enter and Escape say no, and lead back to the choices.
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape})
+            answer([key](QDialog *box) { QTest::keyClick(box, key); }, "pageOptions");
+        QCOMPARE(imported, 0);
+        QCOMPARE(TestSupport::readFile(kmat), glow);
+        QCOMPARE(TestSupport::readFile(texture), QByteArray("mine"));
+
+        answer(
+            [](QDialog *box) {
+                for (auto *button : box->findChildren<QPushButton *>()) {
+                    if (button->text() == QLatin1String("Use &Free Names"))
+                        QTest::mouseClick(button, Qt::LeftButton);
+                }
+            },
+            "pageSuccess");
+        QCOMPARE(material, QString("materials/mat_box.v2_2/surf_0"));
+        QVERIFY(TestSupport::readFile(m_mod->path(QString("materials/mat_box.v2_2.kmat")))
+                    .contains("steel_2.png"));
+        QCOMPARE(TestSupport::readFile(m_mod->path(QString("textures/steel_2.png"))), QByteArray("picture"));
+        QCOMPARE(TestSupport::readFile(kmat), glow);
+
+        // The other materials stay unless that is taken back.
+        for (const bool keeps : {true, false}) {
+            answer(
+                [keeps](QDialog *box) {
+                    if (!keeps)
+                        static_cast<QMessageBox *>(box)->checkBox()->click();
+                    Hand::press(QMessageBox::Yes)(box);
+                },
+                "pageSuccess");
+            QCOMPARE(material, QString("materials/mat_box.v2/surf_0"));
+            QCOMPARE(TestSupport::readFile(kmat).startsWith(glow + "material surf_0 {"), keeps);
+            QCOMPARE(TestSupport::readFile(texture), QByteArray("picture"));
+            m_mod->put(QString("textures/steel.png"), "mine");
+        }
+    }
+
+    void enterImports()
+    {
+        ImportDialog dialog(ImportDialog::StaticMeshMode);
+        dialog.show();
+        dialog.setModelPath(write(QStringLiteral("b.obj"), corners));
+        {
+            // Not after a path that is refused; there is nothing to import without one.
+            Hand hand({Hand::press(QMessageBox::Ok)});
+            type(dialog, "txtTexPath", QStringLiteral("../a"), Qt::Key_Return);
+            QCOMPARE(hand.seen.size(), 1);
+            type(dialog, "txtModelPath", QString(), Qt::Key_Return);
+            QCOMPARE(page(dialog), QStringLiteral("pageOptions"));
+        }
+        type(dialog, "txtModelPath", write(QStringLiteral("a.obj"), corners + "f 1/1 2/1 3/1\n"),
+             Qt::Key_Return);
+        QCOMPARE(page(dialog), QStringLiteral("pageProgress"));
+        QTRY_COMPARE_WITH_TIMEOUT(page(dialog), QStringLiteral("pageSuccess"), 20000);
+    }
+
     void errorsLeadBack()
     {
         ImportDialog dialog(ImportDialog::StaticMeshMode);
@@ -308,14 +391,16 @@ private:
     {
         QTest::mouseClick(find<QPushButton>(dialog, button), Qt::LeftButton);
     }
-    static void type(const QWidget &dialog, const char *edit, const QString &text)
+    static void type(QWidget &dialog, const char *edit, const QString &text, Qt::Key end = Qt::Key_Tab)
     {
         auto *line = find<QLineEdit>(dialog, edit);
+        dialog.show();
+        QApplication::setActiveWindow(&dialog);
         line->setFocus();
         line->selectAll();
         QTest::keyClick(line, Qt::Key_Delete);
         QTest::keyClicks(line, text);
-        QTest::keyClick(line, Qt::Key_Return);
+        QTest::keyClick(line, end);
     }
     static QString page(const QWidget &dialog)
     {

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QDirIterator>
+#include <QEventLoop>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTreeWidgetItemIterator>
@@ -48,7 +49,13 @@ int main(int argc, char *argv[])
     explorer.resize(300, 600);
     explorer.show();
     Bench::ratio(
-        "explorer_10000_files", 2.0, Repetitions, [&explorer] { explorer.refill(); },
+        "explorer_10000_files", 2.0, Repetitions,
+        [&explorer] {
+            QEventLoop loop;
+            QObject::connect(&explorer, &FolderExplorer::filled, &loop, &QEventLoop::quit);
+            explorer.refill();
+            loop.exec();
+        },
         [root = files.path()] {
             int found = 0;
             for (QDirIterator it(root, QDirIterator::Subdirectories); it.hasNext(); it.next())

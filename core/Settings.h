@@ -94,6 +94,11 @@ inline const SettingKey<bool> AnimationSyncSkin{"AnimationSyncSkin", true};
 inline const SettingKey<QString> SkinnedMeshExplorePath{"SkinnedMeshExplorePath", {}};
 inline const SettingKey<QString> AnimationExplorePath{"AnimationExplorePath", {}};
 inline const SettingKey<QString> StaticMeshExplorePath{"StaticMeshExplorePath", {}};
+// The folder that is neither the game's nor the mod's, chosen last.
+inline const SettingKey<QString> SkinnedMeshExploreOther{"SkinnedMeshExploreOther", {}};
+inline const SettingKey<QString> AnimationExploreOther{"AnimationExploreOther", {}};
+inline const SettingKey<QString> StaticMeshExploreOther{"StaticMeshExploreOther", {}};
+inline const SettingKey<bool> ExplorerEmptyFolders{"ExplorerEmptyFolders", false};
 
 // The files last opened or saved, newest first.
 inline const SettingKey<QStringList> SkinnedMeshRecentFiles{"SkinnedMeshRecentFiles", {}};

@@ -1517,6 +1517,17 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
 </context>
 <context>
+    <name>ExplorerFiles</name>
+    <message>
+        <source>Show folders that hold no file for the list, too</source>
+        <translation>Auch Ordner anzeigen, die keine Datei für die Liste enthalten</translation>
+    </message>
+    <message>
+        <source>Show Emp&amp;ty Folders</source>
+        <translation>Lee&amp;re Ordner anzeigen</translation>
+    </message>
+</context>
+<context>
     <name>FilterLine</name>
     <message>
         <source>Filter, such as %1</source>
@@ -1576,30 +1587,6 @@ Kopftreffer verursachen also 640 Schaden.</translation>
 <context>
     <name>FolderExplorer</name>
     <message>
-        <source>&amp;Open</source>
-        <translation>Ö&amp;ffnen</translation>
-    </message>
-    <message>
-        <source>Open this file</source>
-        <translation>Diese Datei öffnen</translation>
-    </message>
-    <message>
-        <source>Open Containing &amp;Folder</source>
-        <translation>Enthaltenden &amp;Ordner öffnen</translation>
-    </message>
-    <message>
-        <source>Show the folder in the desktop&apos;s file manager</source>
-        <translation>Den Ordner in der Dateiverwaltung des Desktops zeigen</translation>
-    </message>
-    <message>
-        <source>Copy &amp;Path</source>
-        <translation>&amp;Pfad kopieren</translation>
-    </message>
-    <message>
-        <source>Copy the full path to the clipboard</source>
-        <translation>Den vollen Pfad in die Zwischenablage kopieren</translation>
-    </message>
-    <message>
         <source>&amp;Change Folder...</source>
         <translation>Ordner &amp;wechseln...</translation>
     </message>
@@ -1624,22 +1611,6 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <translation>Eine Datei öffnen, sobald sie ausgewählt wird</translation>
     </message>
     <message>
-        <source>&amp;Expand All</source>
-        <translation>Alles &amp;aufklappen</translation>
-    </message>
-    <message>
-        <source>Open all folders of the list</source>
-        <translation>Alle Ordner der Liste öffnen</translation>
-    </message>
-    <message>
-        <source>Collapse &amp;All</source>
-        <translation>Alles &amp;zuklappen</translation>
-    </message>
-    <message>
-        <source>Close all folders of the list</source>
-        <translation>Alle Ordner der Liste schließen</translation>
-    </message>
-    <message>
         <source>No folder chosen</source>
         <translation>Kein Ordner gewählt</translation>
     </message>
@@ -1658,6 +1629,117 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <message>
         <source>Folders</source>
         <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Stopped reading
+%1</source>
+        <translation>Abgebrochen beim Lesen von
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>FolderFilter</name>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Show only the files that have these words in their name or in their folders&apos; names</source>
+        <translation>Nur die Dateien anzeigen, in deren Namen oder in den Namen ihrer Ordner diese Wörter vorkommen</translation>
+    </message>
+</context>
+<context>
+    <name>FolderMenu</name>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Open this file</source>
+        <translation>Diese Datei öffnen</translation>
+    </message>
+    <message>
+        <source>Open Containing &amp;Folder</source>
+        <translation>Enthaltenden &amp;Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Show the folder in the desktop&apos;s file manager</source>
+        <translation>Den Ordner in der Dateiverwaltung des Desktops zeigen</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>&amp;Pfad kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the full path to the clipboard</source>
+        <translation>Den vollen Pfad in die Zwischenablage kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Expand All</source>
+        <translation>Alles &amp;aufklappen</translation>
+    </message>
+    <message>
+        <source>Open all folders of the list</source>
+        <translation>Alle Ordner der Liste öffnen</translation>
+    </message>
+    <message>
+        <source>Collapse &amp;All</source>
+        <translation>Alles &amp;zuklappen</translation>
+    </message>
+    <message>
+        <source>Close all folders of the list</source>
+        <translation>Alle Ordner der Liste schließen</translation>
+    </message>
+</context>
+<context>
+    <name>FolderSwitch</name>
+    <message>
+        <source>&amp;Game Folder</source>
+        <translation>&amp;Spielordner</translation>
+    </message>
+    <message>
+        <source>&amp;Mod Folder</source>
+        <translation>&amp;Mod-Ordner</translation>
+    </message>
+    <message>
+        <source>&amp;Other Folder</source>
+        <translation>&amp;Anderer Ordner</translation>
+    </message>
+    <message>
+        <source>No other folder was chosen yet</source>
+        <translation>Es wurde noch kein anderer Ordner gewählt</translation>
+    </message>
+    <message>
+        <source>The options name no such folder</source>
+        <translation>Die Optionen nennen keinen solchen Ordner</translation>
+    </message>
+    <message>
+        <source>List %1</source>
+        <translation>%1 auflisten</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Spiel</translation>
+    </message>
+    <message>
+        <source>Mod</source>
+        <translation>Mod</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Anderer</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Choose the folder to list</source>
+        <translation>Den Ordner wählen, der aufgelistet wird</translation>
+    </message>
+    <message>
+        <source>Folder: %1</source>
+        <translation>Ordner: %1</translation>
     </message>
 </context>
 <context>
@@ -3649,6 +3731,17 @@ Hände und Füße (x0.25): %6</translation>
     <message>
         <source>Number Fields</source>
         <translation>Zahlenfelder</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingSign</name>
+    <message>
+        <source>Reading the folder</source>
+        <translation>Der Ordner wird gelesen</translation>
+    </message>
+    <message>
+        <source>Stop reading the folder</source>
+        <translation>Das Lesen des Ordners abbrechen</translation>
     </message>
 </context>
 <context>

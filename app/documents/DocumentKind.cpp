@@ -17,17 +17,20 @@ const std::array<DocumentKind, 3> &documentKinds()
     static const std::array<DocumentKind, 3> kinds{{
         {DocumentType::SkinnedMesh, Names::tr("Skinned Mesh"), Names::tr("Open Skinned Mesh"),
          Names::tr("Save Skinned Mesh"), Names::tr("Skinned Mesh (*.skinnedmesh)"),
-         QStringLiteral("skinnedmesh"), Names::tr("Skinned Mesh Folder"), Settings::SkinnedMeshLoadPath,
-         Settings::SkinnedMeshSavePath, Settings::SkinnedMeshExplorePath, Settings::SkinnedMeshQuickSelect,
+         QStringLiteral("skinnedmesh"), Names::tr("Skinned Mesh Folder"), QStringLiteral("models"),
+         Settings::SkinnedMeshLoadPath, Settings::SkinnedMeshSavePath, Settings::SkinnedMeshExplorePath,
+         Settings::SkinnedMeshExploreOther, Settings::SkinnedMeshQuickSelect,
          Settings::SkinnedMeshRecentFiles},
         {DocumentType::Anim, Names::tr("Animation"), Names::tr("Open Animation"), Names::tr("Save Animation"),
          Names::tr("Animation (*.anim)"), QStringLiteral("anim"), Names::tr("Animation Folder"),
-         Settings::AnimationLoadPath, Settings::AnimationSavePath, Settings::AnimationExplorePath,
-         Settings::AnimationQuickSelect, Settings::AnimationRecentFiles},
+         QStringLiteral("anims"), Settings::AnimationLoadPath, Settings::AnimationSavePath,
+         Settings::AnimationExplorePath, Settings::AnimationExploreOther, Settings::AnimationQuickSelect,
+         Settings::AnimationRecentFiles},
         {DocumentType::StaticMesh, Names::tr("Static Mesh"), Names::tr("Open Static Mesh"),
          Names::tr("Save Static Mesh"), Names::tr("Static Mesh (*.staticmesh)"), QStringLiteral("staticmesh"),
-         Names::tr("Static Mesh Folder"), Settings::StaticMeshLoadPath, Settings::StaticMeshSavePath,
-         Settings::StaticMeshExplorePath, Settings::StaticMeshQuickSelect, Settings::StaticMeshRecentFiles},
+         Names::tr("Static Mesh Folder"), QStringLiteral("models"), Settings::StaticMeshLoadPath,
+         Settings::StaticMeshSavePath, Settings::StaticMeshExplorePath, Settings::StaticMeshExploreOther,
+         Settings::StaticMeshQuickSelect, Settings::StaticMeshRecentFiles},
     }};
     return kinds;
 }

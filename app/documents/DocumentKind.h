@@ -21,9 +21,11 @@ struct DocumentKind
     QString filter;
     QString extension; ///< without the dot
     QString folderTitle;
+    QString gameFolder; ///< where the game keeps such files, within its own folder
     const SettingKey<QString> &loadPath;
     const SettingKey<QString> &savePath;
     const SettingKey<QString> &explorePath;
+    const SettingKey<QString> &otherFolder;
     const SettingKey<bool> &quickSelect;
     const SettingKey<QStringList> &recentFiles;
 };

@@ -5,6 +5,7 @@
 #include "DocumentFiles.h"
 #include "FolderExplorer.h"
 #include "Settings.h"
+#include "Shortcuts.h"
 
 #include <QAction>
 #include <QApplication>
@@ -29,6 +30,35 @@ ExplorerFiles::ExplorerFiles(DocumentFiles &files, const std::array<FolderExplor
     syncAnimation->setChecked(Settings::AnimationSyncSkin.value());
     explorer(DocumentType::Anim).addExtraAction(syncAnimation);
     connect(syncAnimation, &QAction::triggered, this, &ExplorerFiles::OnActionAnimSyncSkinSelect);
+
+    // One for all explorers.
+    auto *emptyFolders = new QAction(tr("Show Emp&ty Folders"), this);
+    emptyFolders->setObjectName(QStringLiteral("actionExplorerEmptyFolders"));
+    emptyFolders->setToolTip(tr("Show folders that hold no file for the list, too"));
+    emptyFolders->setStatusTip(emptyFolders->toolTip());
+    emptyFolders->setCheckable(true);
+    emptyFolders->setChecked(Settings::ExplorerEmptyFolders.value());
+    emptyFolders->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    nameShortcut(emptyFolders, emptyFolders->objectName(),
+                 QCoreApplication::translate("FolderExplorer", "Folders"), QString());
+    for (FolderExplorer *each : m_explorers) {
+        each->addAction(emptyFolders);
+        each->addMenuAction(emptyFolders);
+    }
+    connect(emptyFolders, &QAction::triggered, this, &ExplorerFiles::OnActionEmptyFolders);
+}
+
+void ExplorerFiles::OnOptionsAccepted()
+{
+    for (FolderExplorer *each : m_explorers)
+        each->followOptions();
+}
+
+void ExplorerFiles::OnActionEmptyFolders(bool on)
+{
+    Settings::ExplorerEmptyFolders.setValue(on);
+    for (FolderExplorer *each : m_explorers)
+        each->showEmptyFolders(on);
 }
 
 void ExplorerFiles::OnActionAnimSyncSkinSelect(bool on)
@@ -47,10 +77,15 @@ void ExplorerFiles::open(DocumentType type, const QString &path)
     // Picked while the question about an earlier pick was still open.
     if (QApplication::activeModalWidget())
         return;
-    if (!m_files.promptUnsaved(type) || m_files.open(type, path)) {
+    if (!m_files.promptUnsaved(type)) {
         explorer(type).selectPath(m_files.document(type)->path());
         return;
     }
+    // The answer may have saved another file, which was selected then. The selection stays on one that cannot
+    // be read, too: the arrow keys would never get past it.
+    explorer(type).selectPath(path);
+    if (m_files.open(type, path))
+        return;
     emit opened(type);
     if (type == DocumentType::SkinnedMesh && m_syncAnimation->isChecked())
         openMatchingAnimation(path);

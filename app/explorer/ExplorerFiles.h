@@ -27,9 +27,12 @@ signals:
 public slots:
     /// Reads the folders of all explorers again.
     void on_actionRefreshExplorers_triggered();
+    /// The options were accepted.
+    void OnOptionsAccepted();
 
 private slots:
     void OnActionAnimSyncSkinSelect(bool on);
+    void OnActionEmptyFolders(bool on);
 
 private:
     FolderExplorer &explorer(DocumentType type) { return *m_explorers[size_t(type)]; }

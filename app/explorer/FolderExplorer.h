@@ -3,22 +3,26 @@
 #pragma once
 
 #include "DocumentKind.h"
+#include "FolderAction.h"
 #include "FolderChooser.h"
 
 #include <QWidget>
 
+class FolderFilter;
+class FolderMenu;
+class FolderSwitch;
 class FolderTree;
 class QAction;
 class QFrame;
 class QLabel;
-class QMenu;
 class QStackedLayout;
 class QToolBar;
 class QTreeWidget;
 class QTreeWidgetItem;
+class ReadingSign;
 
-/// The files of one document kind in a folder of the user's choice, as a tree of its sub-folders. It opens
-/// nothing itself: it says which file the user chose.
+/// The files of one document kind in the game's folder, the mod's or another one, as a tree of its
+/// sub-folders. It opens nothing itself: it says which file the user chose.
 class FolderExplorer : public QWidget
 {
     Q_OBJECT
@@ -35,15 +39,22 @@ public:
     QAction *quickSelectAction() const { return m_quickSelect; }
     /// Adds an action of the owner's to the tool bar and the context menu.
     void addExtraAction(QAction *action);
+    /// Adds one to the context menu alone.
+    void addMenuAction(QAction *action);
     void setFolderChooser(FolderChooser chooser) { m_chooseFolder = std::move(chooser); }
 
-    /// Reads the stored folder again. Says nothing about the selection meanwhile; open branches, selection
-    /// and scroll position stay where they can.
+    /// Reads the stored folder again, as FolderTree::fill(); filled() tells when that is done.
     void refill();
+    bool isReading() const;
     /// Stores the folder and refills.
     void setFolder(const QString &folder);
     /// Asks for a folder, starting at the stored one; a cancelled question changes nothing.
     void changeFolder();
+    /// The options were accepted: follows the game's or the mod's folder to where it is now, and takes one of
+    /// them where there is no folder yet.
+    void followOptions();
+    /// Shows sub-folders without a file for the list, too.
+    void showEmptyFolders(bool on);
 
     bool quickSelect() const;
     /// Stores whether selecting a file chooses it.
@@ -51,54 +62,52 @@ public:
 
     /// The selected file; empty when none is selected.
     QString selectedPath() const;
-    /// Selects a file without choosing it; false when it is not listed, and then nothing is selected.
+    /// Selects a file without choosing it, as FolderTree::selectFile().
     bool selectPath(const QString &path);
+    /// A file was written: selects it, after the folder was read again should it be new there.
+    void showWritten(const QString &path);
     /// Which file the editor has open: shown as such.
     void setLoadedPath(const QString &path);
-
+    /// The files that are listed.
+    QStringList files() const;
     /// The file that belongs to a model, as FolderTree::findMatching().
     QString findMatching(const QString &folderName, const QString &baseName) const;
 
 signals:
     /// By selection while quick select is on, by double click and by Enter.
     void fileChosen(const QString &path);
+    void filled();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private slots:
+    void OnFilled();
+    void OnReadingStopped();
     void OnItemSelectionChanged();
     void OnItemDoubleClicked(QTreeWidgetItem *item);
-    void OnContextMenu(const QPoint &position);
-    void OnActionOpen();
-    void OnActionOpenFolder();
-    void OnActionCopyPath();
 
 private:
     void createActions();
+    void createToolBar();
     void createEmptyPage();
-    void createContextMenu();
-    QAction *addAction(const char *name, const char *icon, const QString &text, const QString &toolTip);
-    QString emptyText(const QString &folder) const;
-    void updateActions();
+    QString emptyText() const;
+    void showPage(const QString &emptyText);
 
     const DocumentKind &m_kind;
+    const FolderNames m_names;
     FolderChooser m_chooseFolder = chooseFolder;
     FolderTree *m_tree;
     QToolBar *m_toolBar;
-    QStackedLayout *m_pages;
-    QFrame *m_emptyPage;
-    QLabel *m_emptyLabel;
-    QMenu *m_contextMenu;
-    QAction *m_open;
-    QAction *m_openFolder;
-    QAction *m_copyPath;
     QAction *m_changeFolder;
     QAction *m_refresh;
     QAction *m_quickSelect;
-    QAction *m_expandAll;
-    QAction *m_collapseAll;
-    QAction *m_extraBefore; ///< where the context menu takes the owner's actions
-    QString m_menuFolder;   ///< what the context menu was opened on, or in
-    QString m_clickedPath;  ///< what the mouse press at hand has chosen already
+    FolderSwitch *m_switch;
+    FolderFilter *m_filter;
+    ReadingSign *m_reading;
+    FolderMenu *m_menu;
+    QStackedLayout *m_pages;
+    QFrame *m_emptyPage;
+    QLabel *m_emptyLabel;
+    QString m_clickedPath; ///< what the mouse press at hand has chosen already
 };

@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "FolderItem.h"
 
+#include "FolderWalk.h"
+
 #include <QApplication>
 #include <QDir>
-#include <QDirIterator>
+#include <QFileInfo>
 #include <QFont>
-#include <QHash>
 #include <QPalette>
 
 #include <algorithm>
@@ -15,7 +16,7 @@
 namespace {
 struct Branch
 {
-    FolderItem *item; ///< none for the folder that is read itself
+    FolderItem *item = nullptr; ///< none for the folder that is read itself
     std::vector<FolderItem *> folders;
     std::vector<FolderItem *> files;
 };
@@ -133,49 +134,34 @@ void FolderItem::setLoaded(bool loaded)
     emitDataChanged();
 }
 
-QList<QTreeWidgetItem *> readFolder(const QString &folder, const QString &extension, const FolderIcons *icons)
+FolderContents::~FolderContents()
 {
-    const QString suffix = QLatin1Char('.') + extension;
-    std::vector<Branch> branches{{nullptr, {}, {}}};
-    QHash<QString, size_t> branchOfPath;
-    QString root = QDir::cleanPath(folder);
-    if (root.endsWith(QLatin1Char('/')))
-        root.chop(1); // of the file system: its entries' folder is then empty
-    branchOfPath.insert(root, 0);
+    qDeleteAll(items);
+}
 
-    QDirIterator it(folder, QDir::Dirs | QDir::Files | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
-    QString currentFolder = root; // entries of one folder mostly come in a row
-    size_t current = 0;
-    while (it.hasNext()) {
-        const QString path = it.next();
-        const int here = currentFolder.size();
-        if (path.size() <= here || !path.startsWith(currentFolder) || path.at(here) != QLatin1Char('/') ||
-            path.indexOf(QLatin1Char('/'), here + 1) >= 0) {
-            const auto known = branchOfPath.constFind(path.left(path.lastIndexOf(QLatin1Char('/'))));
-            if (known == branchOfPath.constEnd())
-                continue;
-            current = *known;
-            currentFolder = known.key();
-        }
-        const int nameStart = currentFolder.size() + 1;
-        const int nameLength = path.size() - nameStart;
-        const QFileInfo info = it.fileInfo();
-        if (info.isDir()) {
-            if (info.isSymLink())
-                continue;
-            auto *item = new FolderItem(path, nameStart, nameLength, true, icons);
-            branches[current].folders.push_back(item);
-            branchOfPath.insert(path, branches.size());
+FolderContents readFolder(const QString &folder, const QString &extension, const FolderIcons *icons,
+                          const std::atomic_bool &cancelled)
+{
+    FolderContents contents;
+    contents.isFolder = QFileInfo(folder).isDir();
+    const QString suffix = QLatin1Char('.') + extension;
+    std::vector<Branch> branches(1);
+    walkFolder(folder, [&](const FolderEntry &entry) {
+        const int nameStart = entry.path.lastIndexOf(QLatin1Char('/')) + 1;
+        const int nameLength = entry.path.size() - nameStart;
+        if (entry.isFolder) {
+            auto *item = new FolderItem(entry.path, nameStart, nameLength, true, icons);
+            branches[size_t(entry.parent)].folders.push_back(item);
             branches.push_back({item, {}, {}});
-        } else if (nameLength > suffix.size() && path.endsWith(suffix, Qt::CaseInsensitive)) {
-            branches[current].files.push_back(
-                new FolderItem(path, nameStart, nameLength - suffix.size(), false, icons));
+        } else if (nameLength > suffix.size() && entry.path.endsWith(suffix, Qt::CaseInsensitive)) {
+            branches[size_t(entry.parent)].files.push_back(
+                new FolderItem(entry.path, nameStart, nameLength - suffix.size(), false, icons));
         }
-    }
+        return !cancelled;
+    });
 
     // A folder stands before its sub-folders, so that from behind each knows its contents when its turn
     // comes.
-    QList<QTreeWidgetItem *> top;
     for (auto branch = branches.rbegin(); branch != branches.rend(); ++branch) {
         QList<QTreeWidgetItem *> items;
         items.reserve(int(branch->folders.size() + branch->files.size()));
@@ -187,8 +173,8 @@ QList<QTreeWidgetItem *> readFolder(const QString &folder, const QString &extens
                                     std::all_of(branch->folders.begin(), branch->folders.end(),
                                                 [](const FolderItem *item) { return item->isBarren(); }));
         } else {
-            top = items;
+            contents.items = items;
         }
     }
-    return top;
+    return contents;
 }

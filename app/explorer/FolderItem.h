@@ -6,6 +6,9 @@
 #include <QString>
 #include <QTreeWidgetItem>
 
+#include <atomic>
+#include <utility>
+
 /// The icons that the items of one explorer share.
 struct FolderIcons
 {
@@ -33,11 +36,16 @@ public:
     QString name() const;
     /// The same, valid as long as the item.
     QStringView nameView() const;
+    /// The path without the extension, from its character `from` on.
+    QStringView pathFrom(int from) const
+    {
+        return QStringView(m_path).mid(from, m_nameStart + m_nameLength - from);
+    }
     bool isLoaded() const { return m_loaded; }
     /// Marks the file that is open in the editor.
     void setLoaded(bool loaded);
     bool isBarren() const { return m_barren; }
-    /// Greys a folder that holds no file at any depth.
+    /// Greys a folder that holds no file at any depth, should it be shown.
     void setBarren(bool barren) { m_barren = barren; }
 
 private:
@@ -50,8 +58,23 @@ private:
     bool m_barren = false;
 };
 
+/// What a folder holds, until a tree takes it.
+struct FolderContents
+{
+    FolderContents() = default;
+    FolderContents(FolderContents &&other) noexcept
+        : items(std::exchange(other.items, {}))
+        , isFolder(other.isFolder)
+    {}
+    FolderContents &operator=(FolderContents &&) = delete;
+    ~FolderContents();
+
+    QList<QTreeWidgetItem *> items;
+    bool isFolder = false; ///< whether there is such a folder
+};
+
 /// The contents of `folder`, all levels down: every sub-folder, and the files of that extension (in any
-/// case). Folders come before files, each in natural order. Links to folders are left out, since one may lead
-/// back up.
-QList<QTreeWidgetItem *> readFolder(const QString &folder, const QString &extension,
-                                    const FolderIcons *icons);
+/// case). Folders come before files, each in natural order; links as walkFolder() has them. Runs in any
+/// thread, and gives up what it has so far when it is cancelled.
+FolderContents readFolder(const QString &folder, const QString &extension, const FolderIcons *icons,
+                          const std::atomic_bool &cancelled);

@@ -222,10 +222,7 @@ void DocumentPanes::OnSaved(DocumentType type)
     const DocumentPane &written = pane(type);
     m_paths[size_t(type)] = written.document->path();
     written.explorer->setLoadedPath(written.document->path());
-    if (!written.explorer->selectPath(written.document->path())) {
-        written.explorer->refill();
-        written.explorer->selectPath(written.document->path());
-    }
+    written.explorer->showWritten(written.document->path());
 }
 
 void DocumentPanes::OnRecordsChanged(DocumentType type, const QVector<RecordRef> &records)

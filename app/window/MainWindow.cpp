@@ -147,9 +147,9 @@ void MainWindow::createDocuments()
     connect(m_files, &DocumentFiles::saved, this, &MainWindow::updateCurrentDocument);
     connect(m_importExport, &ImportExport::imported, m_panes, &DocumentPanes::showPane);
 
-    auto *explorerFiles = new ExplorerFiles(*m_files, explorers, m_ui->actionAnimSyncSkin, this);
-    connect(explorerFiles, &ExplorerFiles::opened, m_panes, &DocumentPanes::showPane);
-    connect(m_ui->actionRefreshExplorers, &QAction::triggered, explorerFiles,
+    m_explorerFiles = new ExplorerFiles(*m_files, explorers, m_ui->actionAnimSyncSkin, this);
+    connect(m_explorerFiles, &ExplorerFiles::opened, m_panes, &DocumentPanes::showPane);
+    connect(m_ui->actionRefreshExplorers, &QAction::triggered, m_explorerFiles,
             &ExplorerFiles::on_actionRefreshExplorers_triggered);
     auto *recent = new RecentFiles(*m_files, *m_ui->menuRecent, this);
     connect(recent, &RecentFiles::opened, m_panes, &DocumentPanes::showPane);
@@ -209,6 +209,7 @@ void MainWindow::connectActions()
     for (KVOpenGLWidget *viewport : m_panes->viewports())
         connect(m_preferences, &Preferences::foldersChanged, viewport, &KVOpenGLWidget::rebuildModel);
     connect(m_preferences, &Preferences::foldersChanged, m_problems, &Problems::recheck);
+    connect(m_preferences, &Preferences::accepted, m_explorerFiles, &ExplorerFiles::OnOptionsAccepted);
 }
 
 void MainWindow::paintEvent(QPaintEvent *event)

@@ -12,6 +12,7 @@
 class ConsoleLog;
 class DocumentFiles;
 class DocumentPanes;
+class ExplorerFiles;
 class ImportExport;
 class ModelTransforms;
 class NamedFiles;
@@ -76,6 +77,7 @@ private:
     Problems *m_problems;
     PictureSaver *m_pictures;
     DocumentPanes *m_panes = nullptr;
+    ExplorerFiles *m_explorerFiles = nullptr;
     Shortcuts *m_shortcuts = nullptr;
     Preferences *m_preferences = nullptr;
     NamedFiles *m_named = nullptr;

@@ -33,6 +33,9 @@ void Preferences::on_actionPreferences_triggered()
     OptionsDialog dialog(m_window, &m_shortcuts);
     const auto folders = [] { return qMakePair(Settings::GamePath.value(), Settings::OutputDir.value()); };
     const auto before = folders();
-    if (dialog.exec() == QDialog::Accepted && folders() != before)
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    emit accepted();
+    if (folders() != before)
         emit foldersChanged();
 }

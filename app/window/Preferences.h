@@ -22,6 +22,8 @@ public slots:
     void on_actionPreferences_triggered();
 
 signals:
+    /// The options may be others now.
+    void accepted();
     /// Materials and textures are looked up in other folders now.
     void foldersChanged();
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "FolderExplorer.h"
 #include "FolderItem.h"
+#include "ReadingSign.h"
 
 #include "Find.h"
 
@@ -32,13 +33,28 @@ private slots:
               "m10.skinnedmesh", "M2.skinnedmesh", "m1.skinnedmesh", ".skinnedmesh", "m02b.skinnedmesh",
               "z.skinnedmesh", "\u00e4z.skinnedmesh", "xskinnedmesh", "empty/readme.txt", "a%1.skinnedmesh"})
             touch(QString::fromUtf8(file));
-        QVERIFY(QFile::link(m_folder->path(), path("raptor/loop")));
-        QVERIFY(QFile::link(path("m1.skinnedmesh"), path("linked.skinnedmesh")));
+        // A link to a folder counts once, and none leads up.
+        const TestFolder elsewhere;
+        elsewhere.put("sub/far.skinnedmesh", {});
+        const QVector<QPair<QString, QString>> links{{m_folder->path(), "raptor/loop"},
+                                                     {path("raptor"), "inside"},
+                                                     {QFileInfo(m_folder->path()).path(), "up"},
+                                                     {"/", "root"},
+                                                     {elsewhere.path("sub"), "Link 2"},
+                                                     {elsewhere.path(), "Link 1"},
+                                                     {path("m1.skinnedmesh"), "linked.skinnedmesh"}};
+        for (const auto &[target, name] : links)
+            QVERIFY(QFile::link(target, path(name)));
 
         const auto explorer = createExplorer();
         QCOMPARE(rows(explorer->tree()->invisibleRootItem()),
-                 QStringList({"empty/", "raptor/", " deep/", "  er/", "   tail", " Raptor.v2", "a%1",
-                              "\u00e4z", "linked", "m1", "M2", "m02b", "m10", "z"}));
+                 QStringList({"empty/", "Link 1/", " sub/", "  far", "raptor/", " deep/", "  er/", "   tail",
+                              " Raptor.v2", "a%1", "\u00e4z", "linked", "m1", "M2", "m02b", "m10", "z"}));
+        // Folders without a file are there, and shown when they are wanted.
+        QVERIFY(find(*explorer, "empty")->isHidden());
+        QVERIFY(!find(*explorer, "deep")->isHidden());
+        explorer->showEmptyFolders(true);
+        QVERIFY(!find(*explorer, "empty")->isHidden());
         QCOMPARE(explorer->tree()->headerItem()->text(0), QFileInfo(m_folder->path()).fileName());
         QCOMPARE(find(*explorer, "tail")->data(0, FolderItem::FilePathRole).toString(),
                  path("raptor/deep/er/tail.skinnedmesh"));
@@ -58,6 +74,8 @@ private slots:
         for (const QString &folder : {QString(), path("gone"), path("here.skinnedmesh")}) {
             explorer->setFolder(folder);
             QCOMPARE(explorer->tree()->topLevelItemCount(), 0);
+            settle(*explorer);
+            QCOMPARE(explorer->tree()->topLevelItemCount(), 0);
             QVERIFY(label->isVisible());
             QVERIFY(folder.isEmpty() || label->text().contains(QDir::toNativeSeparators(folder)));
         }
@@ -75,6 +93,7 @@ private slots:
         answer = path("sub/");
         QTest::mouseClick(explorer->findChild<QPushButton *>("btnSkinnedMeshChangeFolder"), Qt::LeftButton);
         QCOMPARE(Settings::SkinnedMeshExplorePath.value(), path("sub"));
+        settle(*explorer);
         QCOMPARE(rows(explorer->tree()->invisibleRootItem()), QStringList("one"));
         QVERIFY(explorer->tree()->isVisible() && !label->isVisible());
     }
@@ -132,6 +151,7 @@ private slots:
         QSignalSpy chosen(explorer.get(), &FolderExplorer::fileChosen);
         touch("open/new.skinnedmesh");
         explorer->refreshAction()->trigger();
+        settle(*explorer);
         QCOMPARE(rows(explorer->tree()->invisibleRootItem()),
                  QStringList({"open/", " a", " new", "shut/", " b"}));
         QVERIFY(find(*explorer, "open")->isExpanded());
@@ -141,6 +161,7 @@ private slots:
 
         QVERIFY(QFile::remove(path("open/a.skinnedmesh")));
         explorer->refill();
+        settle(*explorer);
         QVERIFY(explorer->selectedPath().isEmpty());
 
         // Whatever is selected by the program is opened to, but not chosen.
@@ -150,6 +171,127 @@ private slots:
         QVERIFY(!explorer->selectPath(path("shut")));
         QVERIFY(explorer->selectedPath().isEmpty());
         QCOMPARE(chosen.count(), 0);
+        QApplication::processEvents();
+
+        // What is written elsewhere reads nothing; what is new here is found, and selected unless the user
+        // selects something else meanwhile.
+        const TestFolder elsewhere;
+        explorer->showWritten(elsewhere.put("c.skinnedmesh", {}));
+        explorer->showWritten(path("shut/c.anim"));
+        QVERIFY(!explorer->isReading() && explorer->selectedPath().isEmpty());
+        touch("shut/c.skinnedmesh");
+        explorer->showWritten(path("shut/c.skinnedmesh"));
+        QVERIFY(explorer->isReading() && !find(*explorer, "c"));
+        settle(*explorer);
+        QCOMPARE(explorer->selectedPath(), path("shut/c.skinnedmesh"));
+        touch("shut/d.skinnedmesh");
+        explorer->showWritten(path("shut/d.skinnedmesh"));
+        click(find(*explorer, "b"));
+        settle(*explorer);
+        QCOMPARE(explorer->selectedPath(), path("shut/b.skinnedmesh"));
+        QCOMPARE(chosen.count(), 1);
+    }
+
+    void anotherChoiceCancelsReading()
+    {
+        touch("one/a.skinnedmesh");
+        touch("two/b.skinnedmesh");
+        const auto explorer = createExplorer();
+        QSignalSpy filled(explorer.get(), &FolderExplorer::filled);
+        explorer->setFolder(path("one"));
+        QVERIFY(explorer->isReading());
+        explorer->setFolder(path("two"));
+        QCOMPARE(explorer->tree()->headerItem()->text(0), QStringLiteral("two"));
+        settle(*explorer);
+        QCOMPARE(rows(explorer->tree()->invisibleRootItem()), QStringList("b"));
+        QCOMPARE(filled.count(), 1);
+
+        // The sign of a reading that takes its time stops it.
+        ReadingSign sign;
+        sign.begin();
+        QTRY_VERIFY(sign.isVisible());
+        QSignalSpy stopped(&sign, &ReadingSign::stopped);
+        QTest::mouseClick(::find<QWidget>(sign, "btnStopReading"), Qt::LeftButton);
+        QCOMPARE(stopped.count(), 1);
+        explorer->setFolder(path("one"));
+        emit explorer->findChild<ReadingSign *>()->stopped();
+        QVERIFY(!explorer->isReading());
+        QVERIFY(::find<QLabel>(*explorer, "lblSkinnedMeshFolderEmpty")->text().startsWith("Stopped"));
+    }
+
+    void switchesBetweenGameModAndOther()
+    {
+        touch("game/models/g.skinnedmesh");
+        touch("mod/m.skinnedmesh");
+        touch("other/o.skinnedmesh");
+        Settings::SkinnedMeshExplorePath.setValue({});
+        const auto explorer = createExplorer();
+        const auto *button = ::find<QToolButton>(*explorer, "btnSkinnedMeshFolderSource");
+        const auto pick = [&](const char *action) {
+            ::find<QMenu>(*explorer, "menuSkinnedMeshFolderSource"); // where the button leads to
+            auto *chosen = explorer->findChild<QAction *>(QLatin1String(action));
+            if (!chosen->isEnabled())
+                return QStringLiteral("nothing");
+            chosen->trigger();
+            settle(*explorer);
+            return button->text() + ": " + rows(explorer->tree()->invisibleRootItem()).join(' ');
+        };
+        QCOMPARE(pick("actionSkinnedMeshGame"), QStringLiteral("nothing"));
+        // The options name folders: the list gets the game's own.
+        Settings::OutputDir.setValue(path("mod"));
+        Settings::GamePath.setValue(path("game"));
+        explorer->followOptions();
+        settle(*explorer);
+        QCOMPARE(Settings::SkinnedMeshExplorePath.value(), path("game/models"));
+        QCOMPARE(button->text(), QStringLiteral("Game"));
+        QCOMPARE(pick("actionSkinnedMeshMod"), QStringLiteral("Mod: m"));
+        QCOMPARE(pick("actionSkinnedMeshOther"), QStringLiteral("nothing"));
+        explorer->setFolder(path("other"));
+        QCOMPARE(pick("actionSkinnedMeshGame"), QStringLiteral("Game: g"));
+        QCOMPARE(pick("actionSkinnedMeshOther"), QStringLiteral("Other: o"));
+        // What is listed follows to where it is now, a folder of one's own does not.
+        Settings::OutputDir.setValue(path("other"));
+        explorer->followOptions();
+        QCOMPARE(explorer->files(), QStringList(path("other/o.skinnedmesh")));
+        QCOMPARE(pick("actionSkinnedMeshGame"), QStringLiteral("Game: g"));
+        Settings::GamePath.setValue(path("mod"));
+        explorer->followOptions();
+        settle(*explorer);
+        QCOMPARE(explorer->files(), QStringList(path("mod/m.skinnedmesh")));
+    }
+
+    void theFilterHides()
+    {
+        for (const char *file : {"raptor/walk.skinnedmesh", "raptor/old/run.skinnedmesh",
+                                 "flier/walk.skinnedmesh", "trex.skinnedmesh"})
+            touch(QLatin1String(file));
+        const auto explorer = createExplorer();
+        QSignalSpy chosen(explorer.get(), &FolderExplorer::fileChosen);
+        find(*explorer, "raptor")->setExpanded(false);
+        auto *line = ::find<QLineEdit>(*explorer, "txtSkinnedMeshFolderFilter");
+        const auto shown = [&] {
+            QStringList names;
+            for (QTreeWidgetItem *item = explorer->tree()->itemAt(1, 1); item;
+                 item = explorer->tree()->itemBelow(item))
+                names << item->text(0);
+            return names;
+        };
+        line->setFocus();
+        QTest::keyClicks(line, QStringLiteral("RAP r"));
+        QTRY_COMPARE(shown(), QStringList({"raptor", "old", "run", "walk"}));
+        QTest::keyClicks(line, QStringLiteral("un"));
+        QTRY_COMPARE(shown(), QStringList({"raptor", "old", "run"}));
+        explorer->refill();
+        settle(*explorer);
+        QCOMPARE(shown(), QStringList({"raptor", "old", "run"}));
+        QCOMPARE(chosen.count(), 0);
+        QTest::keyClick(line, Qt::Key_Return);
+        QCOMPARE(chosen, QList<QVariantList>{{path("raptor/old/run.skinnedmesh")}});
+        QVERIFY(explorer->tree()->hasFocus());
+        QTest::keyClick(line, Qt::Key_Escape);
+        QVERIFY(line->text().isEmpty());
+        find(*explorer, "flier")->setExpanded(true);
+        QVERIFY(shown().contains("trex") && shown().contains("flier"));
     }
 
     void rightClickOpensOnlyTheMenu()
@@ -203,6 +345,7 @@ private slots:
             touch(QLatin1String(file));
         Settings::AnimationExplorePath.setValue(m_folder->path());
         const FolderExplorer explorer(documentKind(DocumentType::Anim));
+        settle(explorer);
         const auto check = [&](const char *folder, const char *baseName, const char *match) {
             QCOMPARE(explorer.findMatching(QLatin1String(folder), QLatin1String(baseName)),
                      *match ? path(QLatin1String(match)) : QString());
@@ -227,7 +370,13 @@ private:
         explorer->show();
         QApplication::setActiveWindow(explorer.get());
         explorer->setFocus();
+        settle(*explorer);
         return explorer;
+    }
+    /// Lets the folder be read.
+    static void settle(const FolderExplorer &explorer)
+    {
+        QVERIFY(QTest::qWaitFor([&explorer] { return !explorer.isReading(); }));
     }
 
     /// Every row below `parent`, branches with a slash behind them, children indented.

@@ -144,12 +144,15 @@ private slots:
     {
         const QString first = m_files->save("models/a/a.skinnedmesh", triangleMan());
         const QString second = m_files->save("models/b/b.skinnedmesh", triangleMan());
+        m_files->put("models/c/c.skinnedmesh", "cut");
+        m_files->put("models/c/d.skinnedmesh", "cut");
         m_files->save("anims/a/a.anim", twoBlocks());
         m_files->save("anims/other/other.anim", twoBlocks());
         Settings::SkinnedMeshExplorePath.setValue(m_files->path(QStringLiteral("models")));
         Settings::AnimationExplorePath.setValue(m_files->path(QStringLiteral("anims")));
         ShownWindow window;
         auto *tree = find<QTreeWidget>(window, "treeSkinnedMeshFolder");
+        QTRY_COMPARE(tree->topLevelItemCount(), 3);
         const auto pick = [tree](int row) { tree->setCurrentItem(tree->topLevelItem(row)->child(0)); };
         pick(0);
         QTRY_COMPARE(window.windowTitle(), QStringLiteral("Korvane - a.skinnedmesh"));
@@ -160,7 +163,8 @@ private slots:
 
         typeParent(window, 7);
         const QString question = "Unsaved changes|Would you like to save the Skinned Mesh?\n\n" + first;
-        Hand hand({Hand::press(QMessageBox::Cancel), Hand::press(QMessageBox::Yes)});
+        Hand hand({Hand::press(QMessageBox::Cancel), Hand::press(QMessageBox::Yes),
+                   Hand::press(QMessageBox::Ok), Hand::press(QMessageBox::Ok)});
         pick(1);
         QTRY_COMPARE(hand.seen, QStringList(question));
         QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - a.skinnedmesh * "));
@@ -169,6 +173,34 @@ private slots:
         QTRY_COMPARE(window.windowTitle(), QStringLiteral("Korvane - b.skinnedmesh"));
         QCOMPARE(hand.seen, QStringList({question, question}));
         QVERIFY(TestSupport::readFile(first) != TestSupport::readFile(second));
+
+        // The arrow keys pass what cannot be read, and open what can be on the other side.
+        tree->setFocus();
+        for (const char *name : {"c", "c", "d"}) { // the folder, its files
+            QTest::keyClick(tree, Qt::Key_Down);
+            QTRY_COMPARE(tree->currentItem()->text(0), QLatin1String(name));
+            QCoreApplication::processEvents();
+        }
+        QTRY_COMPARE(hand.seen.size(), 4);
+        QCOMPARE(tree->selectedItems().value(0), tree->currentItem());
+        pick(0);
+        QTRY_COMPARE(window.windowTitle(), QStringLiteral("Korvane - a.skinnedmesh"));
+    }
+
+    void acceptedOptionsFillTheExplorers()
+    {
+        m_files->save("models/a/a.skinnedmesh", triangleMan());
+        m_files->save("anims/a/a.anim", twoBlocks());
+        ShownWindow window;
+        QVERIFY(find<QLabel>(window, "lblSkinnedMeshFolderEmpty")->isVisible());
+        Hand hand({[](QDialog *options) {
+            find<QDialogButtonBox>(*options, "buttonBox")->button(QDialogButtonBox::Ok)->click();
+        }});
+        find<QAction>(window, "actionPreferences")->trigger();
+        for (const char *name : {"treeSkinnedMeshFolder", "treeAnimFolder"})
+            QTRY_COMPARE(find<QTreeWidget>(window, name)->topLevelItemCount(), 1);
+        QCOMPARE(Settings::AnimationExplorePath.value(), m_files->path(QStringLiteral("anims")));
+        QCOMPARE(Settings::StaticMeshExplorePath.value(), m_files->path(QStringLiteral("models")));
     }
 
     void playingShowsTheFrame()

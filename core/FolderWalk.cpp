@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "FolderWalk.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QSet>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+struct Place
+{
+    QString path;
+    QString canonical;
+    int number;
+};
+
+struct Link
+{
+    QString path;
+    int parent;
+};
+
+class Walk
+{
+public:
+    explicit Walk(const std::function<bool(const FolderEntry &)> &visit)
+        : m_visit(visit)
+    {}
+
+    void go(const QString &folder)
+    {
+        if (!QFileInfo(folder).isDir())
+            return;
+        const auto withoutSlash = [](const QString &path) {
+            return path == QLatin1String("/") ? QString() : path;
+        };
+        const QString root = withoutSlash(QFileInfo(folder).canonicalFilePath());
+        if (!tree({withoutSlash(QDir::cleanPath(folder)), root, m_folders}))
+            return;
+        // What a link leads to may hold further ones.
+        while (!m_links.empty()) {
+            std::vector<Link> links;
+            links.swap(m_links);
+            std::sort(links.begin(), links.end(),
+                      [](const Link &a, const Link &b) { return a.path < b.path; });
+            for (const Link &link : links) {
+                const QString target = QFileInfo(link.path).canonicalFilePath();
+                const bool leadsUp = target == QLatin1String("/") ||
+                                     (root + QLatin1Char('/')).startsWith(target + QLatin1Char('/'));
+                if (leadsUp || m_seen.contains(target))
+                    continue;
+                if (!m_visit({link.path, link.parent, true}) || !tree({link.path, target, ++m_folders}))
+                    return;
+            }
+        }
+    }
+
+private:
+    /// A folder with everything below it but links to folders, which are noted.
+    bool tree(const Place &top)
+    {
+        std::vector<Place> places{top};
+        while (!places.empty()) {
+            const Place place = std::move(places.back());
+            places.pop_back();
+            m_seen.insert(place.canonical);
+            const int nameStart = place.path.size() + 1;
+            QDirIterator it(place.path.isEmpty() ? QStringLiteral("/") : place.path,
+                            QDir::Dirs | QDir::Files | QDir::NoDotAndDotDot);
+            while (it.hasNext()) {
+                const QString path = it.next();
+                const QFileInfo info = it.fileInfo();
+                const bool isFolder = info.isDir();
+                if (isFolder && info.isSymLink()) {
+                    m_links.push_back({path, place.number});
+                    continue;
+                }
+                if (isFolder) {
+                    QString canonical = place.canonical + QLatin1Char('/') + path.midRef(nameStart);
+                    if (m_seen.contains(canonical)) // by a link before
+                        continue;
+                    places.push_back({path, std::move(canonical), ++m_folders});
+                }
+                if (!m_visit({path, place.number, isFolder}))
+                    return false;
+            }
+        }
+        return true;
+    }
+
+    const std::function<bool(const FolderEntry &)> &m_visit;
+    int m_folders = 0;
+    QSet<QString> m_seen; ///< canonical paths
+    std::vector<Link> m_links;
+};
+} // namespace
+
+void walkFolder(const QString &folder, const std::function<bool(const FolderEntry &)> &visit)
+{
+    Walk(visit).go(folder);
+}

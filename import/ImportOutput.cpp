@@ -2,30 +2,39 @@
 // SPDX-License-Identifier: MIT
 #include "ImportOutput.h"
 
+#include "WholeFile.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
-#include <QSaveFile>
+
+Copied copyWhole(const QString &source, const QString &target)
+{
+    QFile from(source);
+    // Opening a pipe would wait for a writer for ever.
+    if (!QFileInfo(source).isFile() || !from.open(QIODevice::ReadOnly))
+        return Copied::NotRead;
+    const QByteArray bytes = from.readAll();
+    if (from.error() != QFile::NoError)
+        return Copied::NotRead;
+    return writeWholeFile(target, bytes).isEmpty() ? Copied::Yes : Copied::NotWritten;
+}
 
 bool copyTexture(const QString &source, const QString &target, ImportMessages &messages)
 {
     const QString there = QFileInfo(target).canonicalFilePath();
     if (!there.isEmpty() && there == QFileInfo(source).canonicalFilePath())
         return false;
-    QFile from(source);
-    QSaveFile to(target);
-    const bool readable = QFileInfo(source).isFile() && from.open(QIODevice::ReadOnly);
-    if (readable && !to.open(QIODevice::WriteOnly) && QFileInfo::exists(target)) {
-        messages.addWarning(
-            QCoreApplication::translate("Import", "Could not overwrite texture '%1'").arg(target));
-        return true;
-    }
-    if (readable && to.isOpen() && to.write(from.readAll()) == from.size() && to.commit())
+    const Copied copied = copyWhole(source, target);
+    if (copied == Copied::Yes)
         return false;
-    messages.addWarning(QCoreApplication::translate("Import", "Could not copy texture from '%1' to '%2'")
-                            .arg(source, target));
+    messages.addWarning(
+        copied == Copied::NotWritten && QFileInfo::exists(target)
+            ? QCoreApplication::translate("Import", "Could not overwrite texture '%1'").arg(target)
+            : QCoreApplication::translate("Import", "Could not copy texture from '%1' to '%2'")
+                  .arg(source, target));
     return true;
 }
 

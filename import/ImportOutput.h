@@ -8,7 +8,12 @@
 
 #include <QStringList>
 
-/// Copies a file over what stands at `target`, in one step: a failure leaves the old file. A file copied
+enum class Copied { Yes, NotRead, NotWritten };
+
+/// Copies a file over what stands at `target`, in one step: a failure leaves the old file.
+[[nodiscard]] Copied copyWhole(const QString &source, const QString &target);
+
+/// Copies a texture over what stands at `target`, in one step: a failure leaves the old file. A file copied
 /// onto itself is left alone. Returns true on failure, after a warning line.
 bool copyTexture(const QString &source, const QString &target, ImportMessages &messages);
 

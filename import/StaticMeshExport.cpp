@@ -10,7 +10,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLoggingCategory>
-#include <QSaveFile>
 
 #include <algorithm>
 
@@ -29,14 +28,6 @@ QString textureFile(const QString &texture, const MaterialFiles &materials, Impo
     messages.addWarning(
         QCoreApplication::translate("Import", "[Static Mesh Export] Texture not found '%1'").arg(path));
     return path;
-}
-
-bool placeFile(const QString &source, const QString &target)
-{
-    QFile made(source);
-    QSaveFile file(target);
-    return !made.open(QIODevice::ReadOnly) || !file.open(QIODevice::WriteOnly) ||
-           file.write(made.readAll()) != made.size() || !file.commit();
 }
 } // namespace
 
@@ -122,7 +113,7 @@ WorkerJob ExportedFiles::job() const
 bool ExportedFiles::place(const ImportWorker &worker, ImportMessages &messages) const
 {
     for (const QString &name : made()) {
-        if (placeFile(worker.madeFile(name), path(name))) {
+        if (copyWhole(worker.madeFile(name), path(name)) != Copied::Yes) {
             messages.addError(
                 QCoreApplication::translate("Import", "[Static Mesh Export] %1 Could not write file.")
                     .arg(QDir::toNativeSeparators(path(name))));
@@ -130,9 +121,13 @@ bool ExportedFiles::place(const ImportWorker &worker, ImportMessages &messages) 
         }
     }
     warnOfSharedNames(m_job.textures, messages);
-    for (const FileCopy &texture : m_textures) {
-        if (QFileInfo(texture.source).isFile())
-            copyTexture(texture.source, texture.target, messages);
-    }
-    return false;
+    bool failed = false;
+    for (const FileCopy &texture : m_textures)
+        failed =
+            (QFileInfo(texture.source).isFile() && copyTexture(texture.source, texture.target, messages)) ||
+            failed;
+    if (failed)
+        messages.addError(
+            QCoreApplication::translate("Import", "[Static Mesh Export] Not all textures could be copied."));
+    return failed;
 }

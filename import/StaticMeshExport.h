@@ -29,8 +29,8 @@ public:
     WorkerJob job() const;
     QString objPath() const { return path(m_job.objName); }
 
-    /// Puts them there. Returns true on failure, after an error line; a texture that cannot be copied is
-    /// worth a warning only.
+    /// Puts them there. Returns true on failure, after an error line; a texture that was not found is worth a
+    /// warning only.
     [[nodiscard]] bool place(const ImportWorker &worker, ImportMessages &messages) const;
 
 private:

@@ -189,9 +189,9 @@ QString AnimFile::refusal() const
                           : QString();
 }
 
-bool AnimFile::write(const QString &path) const
+bool AnimFile::write(const QString &path, QString *reason) const
 {
-    return writeModelFile(*this, path);
+    return writeModelFile(*this, path, reason);
 }
 
 bool AnimFile::write(BinaryFileWriter &writer) const

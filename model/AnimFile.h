@@ -80,7 +80,7 @@ struct AnimFile
 
     /// Writes the model to `path` in one step. Returns true on failure, with the old file untouched: when
     /// there are no blocks or when the file cannot be written.
-    [[nodiscard]] bool write(const QString &path) const;
+    [[nodiscard]] bool write(const QString &path, QString *reason = nullptr) const;
     [[nodiscard]] bool write(BinaryFileWriter &writer) const;
     /// Writes what can be read back whatever is wrong with the model.
     void writeDraft(BinaryFileWriter &writer) const;

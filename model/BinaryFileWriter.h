@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QSaveFile>
+#include "WholeFile.h"
+
 #include <QString>
 #include <QVector2D>
 #include <QVector3D>
@@ -43,6 +44,9 @@ public:
     /// file is then untouched.
     [[nodiscard]] bool commit();
 
+    /// Why commit() failed.
+    const QString &reason() const { return m_file.reason(); }
+
     /// What was written into memory.
     const std::vector<uchar> &bytes();
     /// The same, handed over; the writer is empty then.
@@ -82,20 +86,25 @@ private:
     void makeRoom();
     void flush();
 
-    QSaveFile m_file;
+    WholeFile m_file;
     bool m_toFile;
-    bool m_failed = false;
     std::vector<uchar> m_buffer;
     size_t m_used = 0;
 };
 
-/// Writes a model to `path` in one step. Returns true on failure.
+/// Writes a model to `path` in one step. Returns true on failure; `reason`, if given, then says why.
 template <typename Model>
-[[nodiscard]] bool writeModelFile(const Model &model, const QString &path)
+[[nodiscard]] bool writeModelFile(const Model &model, const QString &path, QString *reason)
 {
     // Before a save file is opened.
-    if (!model.refusal().isEmpty())
-        return true;
-    BinaryFileWriter writer(path);
-    return model.write(writer) || writer.commit();
+    QString failure = model.refusal();
+    if (failure.isEmpty()) {
+        BinaryFileWriter writer(path);
+        if (!model.write(writer) && !writer.commit())
+            return false;
+        failure = writer.reason();
+    }
+    if (reason)
+        *reason = failure;
+    return true;
 }

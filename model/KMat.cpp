@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "KMat.h"
 
+#include "WholeFile.h"
+
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QTextCodec>
 #include <QTextStream>
 
@@ -272,6 +273,15 @@ QByteArray kmatBytes(const MaterialTable &table)
     return buffer.data();
 }
 
+namespace {
+QString writeText(const QString &path, const QByteArray &text)
+{
+    return writeWholeFile(path, text).isEmpty()
+               ? QString()
+               : QCoreApplication::translate("ModelFiles", "Unable to open file for writing - %1").arg(path);
+}
+} // namespace
+
 QStringList otherMaterials(const QString &path, const MaterialTable &table)
 {
     const QString text = textOf(fileBytes(path));
@@ -286,17 +296,10 @@ QStringList otherMaterials(const QString &path, const MaterialTable &table)
 
 QString mergeKMat(const QString &path, const MaterialTable &table)
 {
-    const QByteArray bytes = mergedBytes(fileBytes(path), table);
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        return QCoreApplication::translate("ModelFiles", "Unable to open file for writing - %1").arg(path);
-    return {};
+    return writeText(path, mergedBytes(fileBytes(path), table));
 }
 
 QString writeKMat(const QString &path, const MaterialTable &table)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text) || writeKMat(file, table) || !file.commit())
-        return QCoreApplication::translate("ModelFiles", "Unable to open file for writing - %1").arg(path);
-    return {};
+    return writeText(path, kmatBytes(table));
 }

@@ -117,9 +117,9 @@ QString SkinnedMesh::refusal() const
                      .arg(bad - surfaces.begin());
 }
 
-bool SkinnedMesh::write(const QString &path) const
+bool SkinnedMesh::write(const QString &path, QString *reason) const
 {
-    return writeModelFile(*this, path);
+    return writeModelFile(*this, path, reason);
 }
 
 bool SkinnedMesh::write(BinaryFileWriter &writer) const

@@ -77,7 +77,7 @@ struct SkinnedMesh
 
     /// Writes the model to `path` in one step. Returns true on failure, with the old file untouched: when
     /// there are no bones, when a triangle index is 65535, or when the file cannot be written.
-    [[nodiscard]] bool write(const QString &path) const;
+    [[nodiscard]] bool write(const QString &path, QString *reason = nullptr) const;
     [[nodiscard]] bool write(BinaryFileWriter &writer) const;
     /// Writes what can be read back whatever is wrong with the model. A triangle index of 65535, which
     /// would end its list, becomes 65534.

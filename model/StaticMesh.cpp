@@ -67,9 +67,9 @@ QString StaticMesh::refusal() const
                : QString();
 }
 
-bool StaticMesh::write(const QString &path) const
+bool StaticMesh::write(const QString &path, QString *reason) const
 {
-    return writeModelFile(*this, path);
+    return writeModelFile(*this, path, reason);
 }
 
 bool StaticMesh::write(BinaryFileWriter &writer) const

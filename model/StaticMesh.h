@@ -44,7 +44,7 @@ struct StaticMesh
 
     /// Writes the model to `path` in one step. Returns true on failure, with the old file untouched: when
     /// there are no surfaces or when the file cannot be written.
-    [[nodiscard]] bool write(const QString &path) const;
+    [[nodiscard]] bool write(const QString &path, QString *reason = nullptr) const;
     [[nodiscard]] bool write(BinaryFileWriter &writer) const;
     /// Writes what can be read back whatever is wrong with the model. A triangle list that is not
     /// whole is filled up with its last index.

@@ -110,13 +110,12 @@ QStringList replacedModels(const Results &results, bool isStatic)
 template <typename Model>
 bool write(const Model &model, const QString &path)
 {
-    const QString refusal = model.refusal();
-    if (refusal.isEmpty() && !model.write(path)) {
+    QString reason;
+    if (!model.write(path, &reason)) {
         Output::line(path);
         return false;
     }
-    Output::complain(QStringLiteral("%1: %2").arg(
-        path, refusal.isEmpty() ? QStringLiteral("The file cannot be written.") : refusal));
+    Output::complain(QStringLiteral("%1: The file cannot be written: %2").arg(path, reason));
     return true;
 }
 

@@ -12,11 +12,12 @@
 #include "Pose.h"
 #include "Settings.h"
 #include "Verbs.h"
+#include "WholeFile.h"
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QImageWriter>
 #include <QRegularExpression>
-#include <QSaveFile>
 
 #include <climits>
 
@@ -174,16 +175,16 @@ std::optional<Wishes> wishesOf(const CommandLine &line)
     return wishes;
 }
 
-/// Writes the picture in one step. Returns true on failure.
-bool write(const QImage &image, const QString &path)
+/// Writes the picture in one step. Returns what went wrong; empty when nothing did.
+QString write(const QImage &image, const QString &path)
 {
     // Thumbnailers are given names without an extension.
     QByteArray format = QFileInfo(path).suffix().toLower().toLatin1();
     if (!QImageWriter::supportedImageFormats().contains(format))
         format = "png";
-    QSaveFile file(path);
-    QImageWriter writer(&file, format);
-    return !file.open(QIODevice::WriteOnly) || !writer.write(image) || !file.commit();
+    QBuffer bytes;
+    QImageWriter writer(&bytes, format);
+    return writer.write(image) ? writeWholeFile(path, bytes.data()) : writer.errorString();
 }
 } // namespace
 
@@ -257,11 +258,13 @@ int render(const QStringList &arguments)
     frame.view = framing.view;
     frame.projection = framing.projection;
     const QImage image = scene.paint(frame, wishes->size, wishes->background);
-    if (image.isNull() || write(image, output)) {
-        Output::complain(image.isNull()
-                             ? QStringLiteral("render: The graphics driver cannot draw a picture this big.")
-                             : QStringLiteral("%1: The picture cannot be written.").arg(output));
+    if (image.isNull()) {
+        Output::complain(QStringLiteral("render: The graphics driver cannot draw a picture this big."));
         return Failed;
     }
-    return Fine;
+    error = write(image, output);
+    if (error.isEmpty())
+        return Fine;
+    Output::complain(QStringLiteral("%1: The picture cannot be written: %2").arg(output, error));
+    return Failed;
 }

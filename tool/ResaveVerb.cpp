@@ -44,8 +44,9 @@ Resaved resaveModel(const Model &model, const QString &from, const QString &to)
         return {QStringLiteral(
                     "The last %1 bytes belong to no record and would be lost; the file was not written.")
                     .arg(before.size() - after.size())};
-    if (model.write(to))
-        return {QStringLiteral("'%1' cannot be written.").arg(to)};
+    QString reason;
+    if (model.write(to, &reason))
+        return {QStringLiteral("'%1' cannot be written: %2").arg(to, reason)};
     return {{}, before != after};
 }
 

@@ -1309,18 +1309,8 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <translation>Nicht gespeicherte Änderungen</translation>
     </message>
     <message>
-        <source>[Save] Unable to write &apos;%1&apos;</source>
-        <translation>[Speichern] „%1“ kann nicht geschrieben werden</translation>
-    </message>
-    <message>
         <source>[Save] &apos;%1&apos;: %2</source>
         <translation>[Speichern] „%1“: %2</translation>
-    </message>
-    <message>
-        <source>Failed to save
-%1</source>
-        <translation>Speichern fehlgeschlagen
-%1</translation>
     </message>
 </context>
 <context>
@@ -1963,6 +1953,10 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <message>
         <source>%1 Could not write file. %2</source>
         <translation>%1 Die Datei konnte nicht geschrieben werden. %2</translation>
+    </message>
+    <message>
+        <source>[Static Mesh Export] Not all textures could be copied.</source>
+        <translation>[Export statisches Netz] Nicht alle Texturen konnten kopiert werden.</translation>
     </message>
 </context>
 <context>
@@ -3461,20 +3455,6 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
         <source>[Save Picture] &apos;%1&apos;: %2</source>
         <translation>[Bild speichern] &apos;%1&apos;: %2</translation>
     </message>
-    <message>
-        <source>File error</source>
-        <translation>Dateifehler</translation>
-    </message>
-    <message>
-        <source>Failed to save
-%1
-
-%2</source>
-        <translation>Speichern fehlgeschlagen
-%1
-
-%2</translation>
-    </message>
 </context>
 <context>
     <name>Preferences</name>
@@ -4172,6 +4152,19 @@ Alles andere funktioniert weiter.</translation>
     <message>
         <source>&amp;Close</source>
         <translation>S&amp;chließen</translation>
+    </message>
+</context>
+<context>
+    <name>SavePath</name>
+    <message>
+        <source>File error</source>
+        <translation>Dateifehler</translation>
+    </message>
+    <message>
+        <source>Failed to save
+%1</source>
+        <translation>Speichern fehlgeschlagen
+%1</translation>
     </message>
 </context>
 <context>
@@ -6007,6 +6000,13 @@ So lassen?</translation>
 %1</source>
         <translation>Dies ist keine Webseite und wurde daher nicht geöffnet:
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>This is a device or a pipe, which would be replaced by a file.</source>
+        <translation>Das ist ein Gerät oder eine Pipe, an deren Stelle eine Datei träte.</translation>
     </message>
 </context>
 </TS>

@@ -81,9 +81,9 @@ void Document::replace(const QString &path, const QString &unsavedName, const Fi
     emit replaced();
 }
 
-bool Document::save(const QString &path)
+bool Document::save(const QString &path, QString *reason)
 {
-    if (writeModel(path))
+    if (writeModel(path, reason))
         return true;
     m_path = path;
     m_fileStamp = FileStamp::of(path);

@@ -46,8 +46,8 @@ public:
     /// Why the model as it stands cannot be stored in a file at all; empty when it can.
     virtual QString refusal() const = 0;
     /// Writes the model; on success the document has that path and its undo stack is clean. Returns true on
-    /// failure, with nothing changed.
-    [[nodiscard]] bool save(const QString &path);
+    /// failure, with nothing changed; `reason`, if given, then says why.
+    [[nodiscard]] bool save(const QString &path, QString *reason = nullptr);
     /// The bytes that save() would write, or, of a model that cannot be saved as it stands, the nearest ones
     /// that can be read back.
     virtual std::vector<uchar> draft() const = 0;
@@ -88,7 +88,7 @@ protected:
     virtual bool readModel(const QString &path, QString *reason) = 0;
     virtual bool readModel(BinaryFileReader &reader) = 0;
     virtual void adoptModel() = 0;
-    virtual bool writeModel(const QString &path) const = 0;
+    virtual bool writeModel(const QString &path, QString *reason) const = 0;
 
 private:
     const DocumentType m_type;
@@ -136,7 +136,10 @@ protected:
         m_model = std::move(m_fresh);
         m_fresh = Model();
     }
-    bool writeModel(const QString &path) const override { return m_model.write(path); }
+    bool writeModel(const QString &path, QString *reason) const override
+    {
+        return m_model.write(path, reason);
+    }
 
 private:
     Model m_model;

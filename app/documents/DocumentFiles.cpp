@@ -128,12 +128,10 @@ bool DocumentFiles::promptUnsaved(DocumentType type, QEvent *event)
 
 bool DocumentFiles::saveTo(DocumentType type, const QString &path)
 {
-    if (document(type)->save(path)) {
-        const QString nativePath = QDir::toNativeSeparators(path);
-        const QString refusal = document(type)->refusal();
-        Log::error(refusal.isEmpty() ? tr("[Save] Unable to write '%1'").arg(nativePath)
-                                     : tr("[Save] '%1': %2").arg(nativePath, refusal));
-        QMessageBox::warning(m_window, tr("File error"), tr("Failed to save\n%1").arg(nativePath));
+    QString reason;
+    if (document(type)->save(path, &reason)) {
+        Log::error(tr("[Save] '%1': %2").arg(QDir::toNativeSeparators(path), reason));
+        warnOfFailedSave(m_window, path, reason);
         return true;
     }
     emit saved(type);

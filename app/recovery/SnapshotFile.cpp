@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "SnapshotFile.h"
 
+#include "WholeFile.h"
+
 #include <QCryptographicHash>
 #include <QDataStream>
 #include <QFile>
-#include <QSaveFile>
 
 // The file: Magic, the header's length in 4 bytes and the header, the model's length in 8 bytes and the
 // model, the SHA-1 of all that. Numbers are big-endian.
@@ -67,14 +68,11 @@ QString SnapshotFile::write(const QString &path, const Snapshot &snapshot, const
     hash.addData(start);
     hash.addData(modelBytes, int(model.size()));
 
-    // Unbuffered: a failure to write out what is still in a buffer would go unnoticed.
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        return file.errorString();
-    const bool written = file.write(start) == start.size() &&
-                         file.write(modelBytes, qint64(model.size())) == qint64(model.size()) &&
-                         file.write(hash.result()) == HashBytes;
-    return written && file.commit() ? QString() : file.errorString();
+    WholeFile file(path);
+    const bool failed = file.write(start.constData(), start.size()) ||
+                        file.write(modelBytes, qint64(model.size())) ||
+                        file.write(hash.result().constData(), HashBytes) || file.commit();
+    return failed ? file.reason() : QString();
 }
 
 bool SnapshotFile::readHeader(const QString &path, Snapshot *snapshot)

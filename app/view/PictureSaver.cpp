@@ -8,14 +8,14 @@
 #include "PictureDialog.h"
 #include "SavePath.h"
 #include "Settings.h"
+#include "WholeFile.h"
 
 #include <QAction>
+#include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QImageWriter>
-#include <QMessageBox>
-#include <QSaveFile>
 
 PictureSaver::PictureSaver(QWidget *window)
     : QObject(window)
@@ -66,22 +66,20 @@ bool PictureSaver::save(const QString &path, const QSize &size, bool transparent
                                 .arg(QString::number(size.width()), QString::number(size.height())));
     if (!transparent)
         picture = picture.convertToFormat(QImage::Format_RGB32);
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return refuse(path, file.errorString());
-    QImageWriter writer(&file, "png");
+    QBuffer bytes;
+    QImageWriter writer(&bytes, "png");
     if (!writer.write(picture))
         return refuse(path, writer.errorString());
-    if (!file.commit())
-        return refuse(path, file.errorString());
+    const QString reason = writeWholeFile(path, bytes.data());
+    if (!reason.isEmpty())
+        return refuse(path, reason);
     emit told(tr("The picture was saved as %1").arg(QDir::toNativeSeparators(path)));
     return false;
 }
 
 bool PictureSaver::refuse(const QString &path, const QString &reason)
 {
-    const QString nativePath = QDir::toNativeSeparators(path);
-    Log::error(tr("[Save Picture] '%1': %2").arg(nativePath, reason));
-    QMessageBox::warning(m_window, tr("File error"), tr("Failed to save\n%1\n\n%2").arg(nativePath, reason));
+    Log::error(tr("[Save Picture] '%1': %2").arg(QDir::toNativeSeparators(path), reason));
+    warnOfFailedSave(m_window, path, reason);
     return true;
 }

@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "SavePath.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMessageBox>
 
 QString chooseSavePath(QWidget *window, const QString &title, const QString &folder, const QString &filter,
                        const QString &extension, const QString &name)
@@ -21,4 +24,14 @@ QString chooseSavePath(QWidget *window, const QString &title, const QString &fol
     if (!path.endsWith(suffix, Qt::CaseInsensitive) && !QFileInfo::exists(path + suffix))
         path += suffix;
     return path;
+}
+
+void warnOfFailedSave(QWidget *window, const QString &path, const QString &reason)
+{
+    QMessageBox box(
+        QMessageBox::Warning, QCoreApplication::translate("SavePath", "File error"),
+        QCoreApplication::translate("SavePath", "Failed to save\n%1").arg(QDir::toNativeSeparators(path)),
+        QMessageBox::Ok, window);
+    box.setInformativeText(reason);
+    box.exec();
 }

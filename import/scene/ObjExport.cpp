@@ -3,13 +3,17 @@
 #include "ObjExport.h"
 
 #include "SceneReading.h"
+#include "WholeFile.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
 
 #include <assimp/Exporter.hpp>
+#include <assimp/IOStream.hpp>
+#include <assimp/IOSystem.hpp>
 
 #include <algorithm>
+#include <map>
 #include <memory>
 
 namespace {
@@ -85,6 +89,46 @@ std::unique_ptr<aiMesh> makeMesh(const StaticMesh &from, const StaticMeshSurface
     return mesh;
 }
 
+/// Keeps what the library writes: its own files do not miss what a full disk has no room for.
+class KeptFile : public Assimp::IOStream
+{
+public:
+    explicit KeptFile(QByteArray &bytes)
+        : m_bytes(bytes)
+    {}
+    size_t Write(const void *bytes, size_t size, size_t count) override
+    {
+        m_bytes.append(static_cast<const char *>(bytes), int(size * count));
+        return count;
+    }
+    size_t Read(void *, size_t, size_t) override { return 0; }
+    aiReturn Seek(size_t, aiOrigin) override { return aiReturn_FAILURE; }
+    size_t Tell() const override { return FileSize(); }
+    size_t FileSize() const override { return size_t(m_bytes.size()); }
+    void Flush() override {}
+
+private:
+    QByteArray &m_bytes;
+};
+
+class KeptFiles : public Assimp::IOSystem
+{
+public:
+    explicit KeptFiles(std::map<QString, QByteArray> &files)
+        : m_files(files)
+    {}
+    bool Exists(const char *) const override { return false; }
+    char getOsSeparator() const override { return '/'; }
+    Assimp::IOStream *Open(const char *path, const char *) override
+    {
+        return new KeptFile(m_files[QString::fromUtf8(path)]);
+    }
+    void Close(Assimp::IOStream *file) override { delete file; }
+
+private:
+    std::map<QString, QByteArray> &m_files; ///< by their paths
+};
+
 /// An array as the library frees it, of what the scene takes over.
 template <typename T>
 T **released(std::vector<std::unique_ptr<T>> &owned)
@@ -133,10 +177,17 @@ void exportObj(const StaticMesh &mesh, const QStringList &textures,
     scene.mNumMeshes = unsigned(meshes.size());
     scene.mMeshes = released(meshes);
 
+    std::map<QString, QByteArray> files;
     Assimp::Exporter exporter;
-    if (exporter.Export(&scene, "obj", objPath.toUtf8().constData()) != aiReturn_SUCCESS) {
+    exporter.SetIOHandler(new KeptFiles(files)); // which is the exporter's now
+    QString reason;
+    if (exporter.Export(&scene, "obj", objPath.toUtf8().constData()) != aiReturn_SUCCESS)
+        reason = QString::fromUtf8(exporter.GetErrorString());
+    for (auto file = files.begin(); reason.isEmpty() && file != files.end(); ++file)
+        reason = writeWholeFile(file->first, file->second);
+    if (!reason.isEmpty()) {
         messages.addError(
             QCoreApplication::translate("Import", "[Static Mesh Export] %1 Could not write file. %2")
-                .arg(objPath, QString::fromUtf8(exporter.GetErrorString())));
+                .arg(objPath, reason));
     }
 }

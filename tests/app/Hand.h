@@ -27,6 +27,8 @@ public:
             m_last = dialog;
             const auto *box = qobject_cast<QMessageBox *>(dialog);
             seen.append(box ? box->windowTitle() + QLatin1Char('|') + box->text() : dialog->windowTitle());
+            if (box && !box->informativeText().isEmpty())
+                seen.last() += QLatin1Char('|') + box->informativeText();
             if (m_answers.isEmpty())
                 dialog->reject();
             else

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "FullDisk.h"
 #include "ImportOutput.h"
 #include "ImportedFiles.h"
 #include "StaticMesh.h"
@@ -77,6 +78,25 @@ private slots:
                  QString("Could not copy texture from '%1' to '%2'").arg(gone, there));
         QCOMPARE(messages.lines[1].text, QString("Could not overwrite texture '%1/b.png'").arg(inTheWay));
         QVERIFY(!messages.hasError());
+    }
+
+    void copyingOntoAFullDisk()
+    {
+        const TestFolder source, target;
+        const QString there = target.put("a.png", "old");
+        for (const int size : {600, 60000}) {
+            const QString a = source.put("a.png", QByteArray(size, 'x'));
+            for (const int limit : {0, size / 2, size - 1, size}) {
+                const FullDisk disk(limit);
+                ImportMessages messages;
+                const bool fits = limit == size;
+                const QString outcome = copyTextures({{a, there}}, messages);
+                QCOMPARE(outcome.startsWith(QLatin1String("Successfully")), fits);
+                QCOMPARE(messages.lines.isEmpty(), fits);
+                QCOMPARE(TestSupport::readFile(there), fits ? TestSupport::readFile(a) : QByteArray("old"));
+            }
+            target.put("a.png", "old");
+        }
     }
 
     void materials()

@@ -4,9 +4,11 @@
 #include "KMat.h"
 #include "SampleModels.h"
 #include "TestSupport.h"
+#include "WholeFile.h"
 
 #include <cerrno>
 #include <dlfcn.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace SampleModels;
@@ -14,16 +16,24 @@ using namespace SampleModels;
 namespace {
 const QByteArray OldBytes = "the work of a week";
 
-/// While one lives, no file takes another one's place.
-struct RefusedRename
+/// While one lives, the last step fails: no file takes another one's place, or there turns out to be no room
+/// for what was taken.
+struct Refusal
 {
-    RefusedRename() { s_refused = true; }
-    ~RefusedRename() { s_refused = false; }
-    static bool s_refused;
-};
-bool RefusedRename::s_refused = false;
+    explicit Refusal(bool &what)
+        : m_what(what)
+    {
+        m_what = true;
+    }
+    ~Refusal() { m_what = false; }
 
-/// A model of `suffix` ready to be saved, or a material table.
+private:
+    bool &m_what;
+};
+bool s_noRename = false;
+bool s_noRoom = false;
+
+/// A model of `suffix` ready to be saved, a material table, or mere bytes, as of a picture.
 using Save = std::function<bool(const QString &path)>;
 
 Save saverOf(const QString &suffix, bool large)
@@ -33,6 +43,10 @@ Save saverOf(const QString &suffix, bool large)
         for (int i = 0; i < (large ? 3000 : 1); ++i)
             table[QString::number(i)] = QStringLiteral("textures/t.png");
         return [table](const QString &path) { return !writeKMat(path, table).isEmpty(); };
+    }
+    if (suffix == QLatin1String("png")) {
+        const QByteArray bytes(large ? 600000 : 600, 'x');
+        return [bytes](const QString &path) { return !writeWholeFile(path, bytes).isEmpty(); };
     }
     Save save;
     withModel(suffix, [&save, large](auto model) {
@@ -46,13 +60,19 @@ Save saverOf(const QString &suffix, bool large)
 // Stands before the system's own function, for the libraries too.
 extern "C" int rename(const char *from, const char *to) noexcept
 {
-    if (RefusedRename::s_refused) {
+    if (s_noRename) {
         errno = EPERM;
         return -1;
     }
     static const auto next =
         reinterpret_cast<int (*)(const char *, const char *)>(dlsym(RTLD_NEXT, "rename"));
     return next(from, to);
+}
+
+extern "C" int fsync(int)
+{
+    errno = ENOSPC;
+    return s_noRoom ? -1 : 0;
 }
 
 /// Saving that cannot succeed says so, leaves the old file byte for byte and nothing beside it.
@@ -64,7 +84,7 @@ private slots:
     void initTestCase_data()
     {
         QTest::addColumn<QString>("suffix");
-        for (const QString &suffix : suffixes() + QStringList("kmat"))
+        for (const QString &suffix : suffixes() + QStringList{"kmat", "png"})
             QTest::newRow(qPrintable(suffix)) << suffix;
     }
 
@@ -127,25 +147,30 @@ private slots:
         QVERIFY(oldFileIsIntact());
     }
 
-    void refusedRename()
+    void refusedAtTheEnd()
     {
         QFETCH_GLOBAL(QString, suffix);
         for (bool large : {false, true}) {
             const Save save = saverOf(suffix, large);
-            {
-                const RefusedRename none;
+            for (bool *what : {&s_noRename, &s_noRoom}) {
+                const Refusal none(*what);
                 QVERIFY(save(path()));
+                QVERIFY(oldFileIsIntact());
             }
-            QVERIFY(oldFileIsIntact());
         }
         QVERIFY(!saverOf(suffix, false)(path()));
         QVERIFY(TestSupport::readFile(path()) != OldBytes);
     }
 
-    void vanishedFolder()
+    void noFileToReplace()
     {
         QFETCH_GLOBAL(QString, suffix);
         const Save save = saverOf(suffix, false);
+        const QString pipe = m_folder->filePath(QStringLiteral("pipe"));
+        QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        QVERIFY(save(pipe) && !QFileInfo(pipe).isFile());
+        QVERIFY(QFile::remove(pipe));
+        QVERIFY(save(QStringLiteral("/dev/null")));
         QVERIFY(save(path() + QStringLiteral("/below a file")));
         QVERIFY(save(QString()));
         QVERIFY(oldFileIsIntact());

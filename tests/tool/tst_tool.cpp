@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "FullDisk.h"
 #include "KMat.h"
 #include "SampleModels.h"
 #include "SmallGltf.h"
@@ -295,6 +296,30 @@ private slots:
         const ToolRun anim("export -o", {path(), source("samples/game/anims/tinker/tinker.anim")});
         QCOMPARE(anim.exitCode, 1);
         QVERIFY(anim.err.contains("Only static meshes"));
+    }
+
+    void fullDisk()
+    {
+        QDir().mkpath(path("game/materials"));
+        QCOMPARE(writeKMat(path("game/materials/m.kmat"), {{"a", "big.png"}}), QString());
+        const QByteArray texture(100000, 'x');
+        put("game/big.png", texture);
+        StaticMesh mesh = SampleModels::plainStatic();
+        mesh.surfaces = {{QStringLiteral("materials/m/a"), {0, 1, 2}}};
+        const QStringList more{path("game"), put("x.staticmesh", SampleModels::bytesOf(mesh)), "-o", path()};
+        const QStringList names{"x.obj", "x.mtl", "big.png"};
+        // Room for nothing, for the job, for the OBJ file, for all but the end of the texture.
+        for (const int limit : {0, 700, 5000, texture.size() - 1}) {
+            for (const QString &name : names)
+                put(name, "old");
+            const FullDisk disk(limit);
+            const ToolRun run("export --force --game-path", more);
+            QVERIFY2(run.exitCode == 1 && !run.err.isEmpty(), qUtf8Printable(QString::number(limit)));
+            QCOMPARE(readFile(path("big.png")), QByteArray("old"));
+            QVERIFY(limit < 5000 || readFile(path("x.obj")).contains("mtllib"));
+        }
+        QCOMPARE(ToolRun("export --force --game-path", more).exitCode, 0);
+        QCOMPARE(readFile(path("big.png")), texture);
     }
 
     void rendersNothingWithoutDisplay()

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "FullDisk.h"
 #include "ToolRun.h"
 
 #include <QImage>
@@ -126,6 +127,18 @@ private slots:
                      qUtf8Printable(row.words + run.err));
             QVERIFY(!QFileInfo::exists(picture));
         }
+    }
+
+    void fullDisk()
+    {
+        const QImage whole = draw(Crate);
+        const QString picture = m_folder.path("x.png");
+        const QByteArray before = TestSupport::readFile(picture);
+        const FullDisk disk(before.size() - 1);
+        const ToolRun run("render -o", QStringList{picture} + withSamples(Crate));
+        QVERIFY2(run.exitCode == 1 && run.err.contains("The picture cannot be written: File too large"),
+                 qUtf8Printable(run.err));
+        QCOMPARE(TestSupport::readFile(picture), before);
     }
 
 private:

@@ -129,7 +129,8 @@ private slots:
                 QVERIFY(QDir(m_files->path(QStringLiteral("folder"))).removeRecursively());
             find<QAction>(window, "actionSave")->trigger();
             disk.reset();
-            boxes += "File error|Failed to save\n" + QDir::toNativeSeparators(good);
+            boxes += "File error|Failed to save\n" + QDir::toNativeSeparators(good) +
+                     (isDiskFull ? "|File too large" : "|No such file or directory");
             QCOMPARE(hand.seen, boxes);
             QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh * "));
             QCOMPARE(TestSupport::readFile(good), isDiskFull ? before : QByteArray());

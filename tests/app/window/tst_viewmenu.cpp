@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "FullDisk.h"
 #include "Hand.h"
 #include "KVOpenGLWidget.h"
 
@@ -264,11 +265,17 @@ private slots:
         QVERIFY(!whole.hasAlphaChannel());
         QCOMPARE(whole.pixelColor(1, 1), Settings::BGColor.value());
 
-        const Hand hand({pictureOf(64, false), Hand::file("/proc/no.png"), Hand::press(QMessageBox::Ok)});
+        const QString small = m_files->path("small.png");
+        std::optional<FullDisk> disk;
+        const Hand hand({pictureOf(64, false),
+                         [&disk, &small](QDialog *dialog) {
+                             disk.emplace(100);
+                             Hand::file(small)(dialog);
+                         },
+                         Hand::press(QMessageBox::Ok)});
         action->trigger();
-        QCOMPARE(hand.seen.size(), 3);
-        QVERIFY2(hand.seen[2].startsWith(QStringLiteral("File error|Failed to save\n/proc/no.png")),
-                 qPrintable(hand.seen[2]));
+        QCOMPARE(hand.seen.last(), "File error|Failed to save\n" + small + "|File too large");
+        QVERIFY(!QFileInfo::exists(small));
     }
 
 private:

@@ -10,6 +10,7 @@
 #include "ViewStatistics.h"
 
 #include <QOpenGLContext>
+#include <QTimer>
 #include <QTimerEvent>
 #include <QToolTip>
 
@@ -48,15 +49,19 @@ void KVOpenGLWidget::initializeGL()
     };
     CrashReport::setGraphics(driverText(GL_VENDOR) + QStringLiteral(", ") + driverText(GL_RENDERER) +
                              QStringLiteral(", ") + driverText(GL_VERSION));
-    m_scene.makeCopy([this] {
-        fail(tr("Models cannot be drawn: the graphics driver does not take the program's shaders.\n"
-                "It must offer OpenGL 3.0 or later."));
-    });
+    m_scene.makeCopy([this] { QTimer::singleShot(0, this, &KVOpenGLWidget::onShaderFailed); });
     resizeGL(width(), height());
     showTriangles();
     connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &KVOpenGLWidget::releaseGL,
             Qt::UniqueConnection);
     playbackChanged();
+}
+
+// Not while the view is being shown: it would come up all the same, and tick and paint for nobody.
+void KVOpenGLWidget::onShaderFailed()
+{
+    fail(tr("Models cannot be drawn: the graphics driver does not take the program's shaders.\n"
+            "It must offer OpenGL 3.0 or later."));
 }
 
 void KVOpenGLWidget::releaseGL()

@@ -132,6 +132,7 @@ private:
     }
     template <typename Change>
     void changeCopy(Change change);
+    void onShaderFailed();
     void releaseGL();
     void replaceModel(bool shown);
     void showTriangles();

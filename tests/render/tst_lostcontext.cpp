@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Viewport.h"
 
+#include <QAbstractEventDispatcher>
 #include <QHBoxLayout>
 #include <QOpenGLContext>
 #include <QSignalSpy>
@@ -15,6 +16,14 @@ public:
 protected:
     bool isContextLost() const override { return lost || Viewport::isContextLost(); }
 };
+
+template <typename Deed>
+static void withoutShaders(Deed deed)
+{
+    Q_CLEANUP_RESOURCE(shaders);
+    deed();
+    Q_INIT_RESOURCE(shaders);
+}
 
 namespace {
 QSurfaceFormat impossibleFormat()
@@ -39,6 +48,7 @@ private slots:
     void aModelOpenedMeanwhileIsShown();
     void aDriverThatGoesOnFailing();
     void noContextIsToBeHad();
+    void noShadersAreToBeHad();
 
 private:
     /// A real one: the context is destroyed under the view's feet, and it cannot be made current any more.
@@ -200,6 +210,27 @@ void tst_LostContext::noContextIsToBeHad()
     QTRY_COMPARE(failed.count(), 1);
     QVERIFY(!m_view->failure().isEmpty());
     QVERIFY(!m_view->isVisible());
+}
+
+// Whatever plays, a view that cannot draw ticks no more.
+void tst_LostContext::noShadersAreToBeHad()
+{
+    m_view->showBones({{}, {}});
+    m_view->anim.blocks[0].speed = 10.0f;
+    m_view->anim.blocks[0].setFrameCount(11);
+    playback().playState = PlayState::Playing;
+    QSignalSpy failed(m_view.get(), &KVOpenGLWidget::failed);
+    withoutShaders([&] {
+        m_view->show();
+        QTRY_COMPARE(failed.count(), 1);
+    });
+    QVERIFY(!m_view->isVisible());
+    const auto ticks = [this] {
+        return QAbstractEventDispatcher::instance()->registeredTimers(m_view.get()).size();
+    };
+    QTRY_COMPARE(ticks(), 0);
+    m_view->playbackChanged();
+    QCOMPARE(ticks(), 0);
 }
 
 QTEST_MAIN(tst_LostContext)

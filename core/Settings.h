@@ -138,6 +138,7 @@ inline const SettingKey<bool> ShowSkeleton{"ShowSkeleton", false};
 inline const SettingKey<bool> ShowHotPoints{"ShowHotPoints", false};
 inline const SettingKey<bool> ShowStatistics{"ShowStatistics", false};
 inline const SettingKey<bool> OrbitMode{"OrbitMode", false};
+inline const SettingKey<bool> FrameOnOpen{"FrameOnOpen", true};
 inline const SettingKey<float> MouseSpeed{"MouseSpeed", 0.15f};
 inline const SettingKey<float> Brightness{"Brightness", 1.0f};
 

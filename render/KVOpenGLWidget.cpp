@@ -4,6 +4,7 @@
 
 #include "CrashReport.h"
 #include "FlightTool.h"
+#include "Log.h"
 #include "OrbitTool.h"
 #include "PlayClock.h"
 #include "Settings.h"
@@ -87,13 +88,20 @@ void KVOpenGLWidget::paintGL()
         return;
     if (m_scene.refresh())
         showTriangles();
-    m_scene.frame.yaw = QQuaternion();
-    const int frame = m_playback.pose(m_scene.palette(), m_scene.frame.yaw);
-    if (frame != PoseEvaluator::NoFrame)
-        emit frameShown(frame);
+    const int shown = poseModel();
+    if (shown != PoseEvaluator::NoFrame)
+        emit frameShown(shown);
+    if (m_frameWanted)
+        frameAll();
     m_scene.paint(m_camera.viewMatrix());
     if (m_statistics)
         m_statistics->countFrame();
+}
+
+int KVOpenGLWidget::poseModel()
+{
+    m_scene.frame.yaw = QQuaternion();
+    return m_playback.pose(m_scene.palette(), m_scene.frame.yaw);
 }
 
 QImage KVOpenGLWidget::picture(const QSize &size, const QColor &background)
@@ -227,26 +235,53 @@ void KVOpenGLWidget::cameraMoved()
 
 void KVOpenGLWidget::resetCamera()
 {
+    m_frameWanted = false;
     m_tools.flight->reset();
     cameraMoved();
 }
 
 void KVOpenGLWidget::placeCamera(const QVector3D &position, float yaw, float pitch)
 {
+    m_frameWanted = false;
     m_camera.place(position, yaw, pitch);
     cameraMoved();
 }
 
 void KVOpenGLWidget::frameAll()
 {
-    m_camera.frame(m_sight.modelPlaces(), size());
+    if (!m_scene.model())
+        return frameWhenShown();
+    int strays = 0;
+    poseModel();
+    const std::vector<QVector3D> places = m_sight.modelPlaces(&strays);
+    frame(places, strays);
+}
+
+void KVOpenGLWidget::frameWhenShown()
+{
+    m_frameWanted = true;
+    update();
+}
+
+void KVOpenGLWidget::frame(const std::vector<QVector3D> &places, int strays)
+{
+    m_frameWanted = false;
+    const bool isNear = m_camera.frame(places, size());
     cameraMoved();
+    const auto tell = [this](const QString &text) {
+        Log::warning(QStringLiteral("[Viewport] ") + text);
+        emit told(text);
+    };
+    if (strays > 0)
+        tell(tr("Left out of the picture: vertices that stand far away from all others (%1)").arg(strays));
+    if (!isNear)
+        tell(tr("The model reaches farther than the view can show: %1 units").arg(double(Camera::FarPlane)));
 }
 
 void KVOpenGLWidget::frameSelection(const ModelSelection &selection)
 {
-    m_camera.frame(m_sight.selectedPlaces(selection), size());
-    cameraMoved();
+    poseModel();
+    frame(m_sight.selectedPlaces(selection), 0);
 }
 
 void KVOpenGLWidget::lookFrom(Camera::Side side)

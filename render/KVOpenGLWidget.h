@@ -88,9 +88,11 @@ public:
 
     void resetCamera();
     void placeCamera(const QVector3D &position, float yaw, float pitch); ///< as Camera::place()
-    /// Goes where the whole model, or the selected part of it, is in the picture. Where nothing is selected
-    /// that has a place it is the whole model.
+    /// Goes where the whole model, or the selected part of it, is in the picture, as it is posed. Where
+    /// nothing is selected that has a place it is the whole model.
     void frameAll();
+    /// The same with the next frame that is painted, unless the camera is put elsewhere before.
+    void frameWhenShown();
     void frameSelection(const ModelSelection &selection);
     /// Turns around the point that is looked at.
     void lookFrom(Camera::Side side);
@@ -111,6 +113,8 @@ signals:
     void positionReadOut(const QString &text);
     /// The frame that the painted pose starts from; emitted while painting.
     void frameShown(int frame);
+    /// Something about the picture, for the user.
+    void told(const QString &text);
     /// The text beside the track slider.
     void frameLabelChanged(const QString &text);
 
@@ -137,6 +141,8 @@ private:
     void replaceModel(bool shown);
     void showTriangles();
     void trackMarks();
+    int poseModel();
+    void frame(const std::vector<QVector3D> &places, int strays);
     void cameraMoved();
     /// One tick. Returns whether something goes on moving.
     bool tick(TickTimer::Due due);
@@ -151,6 +157,7 @@ private:
     InputRecorder m_recorder;
 
     bool m_active = false;
+    bool m_frameWanted = false;   ///< see frameWhenShown()
     bool m_repaintWanted = false; ///< as soon as the timer lets it paint
     TickTimer m_timer;
     ShownPlayback m_playback;

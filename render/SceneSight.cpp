@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "SceneSight.h"
 
+#include "BoundingSphere.h"
 #include "Camera.h"
 #include "Picking.h"
 #include "ShownScene.h"
@@ -14,6 +15,14 @@ namespace {
 constexpr float LeastShare = 0.06f;
 /// How far away the point looked at is where there is nothing.
 constexpr float EmptyDistance = 500.0f;
+
+/// Those of the model that are not strays.
+std::vector<QVector3D> cornersTogether(const GLMesh &model)
+{
+    std::vector<QVector3D> places = cornersOf(model);
+    dropStrays(places);
+    return places;
+}
 
 void widen(QVector3D &low, QVector3D &high, const std::vector<QVector3D> &places)
 {
@@ -82,7 +91,7 @@ QVector3D SceneSight::pivot() const
     const QVector3D eye = m_camera.eye(), sight = m_camera.sight();
     float distance = EmptyDistance;
     const std::vector<QVector3D> places =
-        m_scene.model() ? cornersOf(*m_scene.model()) : std::vector<QVector3D>();
+        m_scene.model() ? cornersTogether(*m_scene.model()) : std::vector<QVector3D>();
     if (!places.empty()) {
         QVector3D low = places.front(), high = low;
         widen(low, high, places);
@@ -101,9 +110,15 @@ std::vector<QVector3D> SceneSight::upright(std::vector<QVector3D> places) const
     return places;
 }
 
-std::vector<QVector3D> SceneSight::modelPlaces() const
+std::vector<QVector3D> SceneSight::modelPlaces(int *strays) const
 {
-    return m_scene.model() ? upright(cornersOf(*m_scene.model())) : std::vector<QVector3D>();
+    if (!m_scene.model())
+        return {};
+    std::vector<QVector3D> places = cornersOf(*m_scene.model());
+    const int dropped = dropStrays(places);
+    if (strays)
+        *strays = dropped;
+    return upright(std::move(places));
 }
 
 std::vector<QVector3D> SceneSight::selectedPlaces(const ModelSelection &selection) const
@@ -116,7 +131,7 @@ std::vector<QVector3D> SceneSight::selectedPlaces(const ModelSelection &selectio
         return modelPlaces();
     QVector3D low = places.front(), high = low, lowest = low, highest = low;
     widen(low, high, places);
-    widen(lowest, highest, cornersOf(model));
+    widen(lowest, highest, cornersTogether(model));
     const float least = LeastShare * (highest - lowest).length();
     const QVector3D middle = 0.5f * (low + high);
     for (int axis = 0; axis < 3; ++axis) {

@@ -21,10 +21,10 @@ public:
     QVector3D pivot() const override;
     ScreenMap screenMap() const override;
 
-    // Places in the view's space, for a camera that is to have them in its picture: of the whole model, or of
-    // what is selected of it, with a little room around it. Where nothing is selected that has a place it is
-    // the whole model.
-    std::vector<QVector3D> modelPlaces() const;
+    // Places in the view's space, for a camera that is to have them in its picture: of the whole model, but
+    // for strays, or of what is selected of it, with a little room around it. Where nothing is selected that
+    // has a place it is the whole model.
+    std::vector<QVector3D> modelPlaces(int *strays = nullptr) const;
     std::vector<QVector3D> selectedPlaces(const ModelSelection &selection) const;
 
 private:

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "BoundingSphere.h"
 #include "CommandLine.h"
 #include "Companion.h"
 #include "FrameChoice.h"
@@ -254,7 +255,13 @@ int render(const QStringList &arguments)
                        : MeshSource::from(*subject.skinned(), folders.gamePath, folders.outputDir));
     SceneFrame frame;
     pose(scene.model(), frame, subject, *wishes);
-    const Framing framing = frameAll(scene.corners(frame), wishes->yaw, wishes->pitch, wishes->size);
+    std::vector<QVector3D> corners = scene.corners(frame);
+    if (const int strays = dropStrays(corners))
+        Output::complain(
+            QStringLiteral("warning: %1: Left out of the picture: vertices that stand far away from "
+                           "all others (%2).")
+                .arg(subject.meshPath, QString::number(strays)));
+    const Framing framing = frameAll(corners, wishes->yaw, wishes->pitch, wishes->size);
     frame.view = framing.view;
     frame.projection = framing.projection;
     const QImage image = scene.paint(frame, wishes->size, wishes->background);

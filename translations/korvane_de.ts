@@ -905,6 +905,14 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>Fro&amp;nt</source>
         <translation>&amp;Vorne</translation>
     </message>
+    <message>
+        <source>Frame Models &amp;When They Open</source>
+        <translation>Modelle beim Öffnen &amp;einpassen</translation>
+    </message>
+    <message>
+        <source>Go where the whole model is in view as soon as it is opened</source>
+        <translation>Das ganze Modell ins Bild rücken, sobald es geöffnet ist</translation>
+    </message>
 </context>
 <context>
     <name>ChangeSizeDialog</name>
@@ -2402,6 +2410,14 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
 It must offer OpenGL 3.0 or later.</source>
         <translation>Modelle können nicht gezeichnet werden: der Grafiktreiber nimmt die Shader des Programms nicht an.
 Er muss OpenGL 3.0 oder neuer bieten.</translation>
+    </message>
+    <message>
+        <source>Left out of the picture: vertices that stand far away from all others (%1)</source>
+        <translation>Nicht im Bild: Vertices, die weit von allen anderen entfernt sind (%1)</translation>
+    </message>
+    <message>
+        <source>The model reaches farther than the view can show: %1 units</source>
+        <translation>Das Modell reicht weiter, als die Ansicht zeigen kann: %1 Einheiten</translation>
     </message>
 </context>
 <context>

@@ -30,9 +30,16 @@ CameraMenu::CameraMenu(const Viewports &viewports, std::function<KVOpenGLWidget 
     orbit->setCheckable(true);
     orbit->setChecked(Settings::OrbitMode.value());
     addAction(orbit);
+    QAction *frameOnOpen = viewportAction("actionFrameOnOpen", nullptr, tr("Frame Models &When They Open"),
+                                          tr("Go where the whole model is in view as soon as it is opened"),
+                                          {}, viewports, window);
+    frameOnOpen->setCheckable(true);
+    frameOnOpen->setChecked(Settings::FrameOnOpen.value());
+    addAction(frameOnOpen);
     connect(all, &QAction::triggered, this, &CameraMenu::OnFrameAll);
     connect(m_frameSelection, &QAction::triggered, this, &CameraMenu::OnFrameSelection);
     connect(orbit, &QAction::triggered, this, &CameraMenu::OnOrbitToggled);
+    connect(frameOnOpen, &QAction::triggered, this, &CameraMenu::OnFrameOnOpenToggled);
 }
 
 void CameraMenu::addSides(QWidget *window)
@@ -85,4 +92,9 @@ void CameraMenu::OnOrbitToggled(bool on)
     Settings::OrbitMode.setValue(on);
     for (KVOpenGLWidget *viewport : m_viewports)
         viewport->setOrbitMode(on);
+}
+
+void CameraMenu::OnFrameOnOpenToggled(bool on)
+{
+    Settings::FrameOnOpen.setValue(on);
 }

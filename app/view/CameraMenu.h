@@ -32,6 +32,7 @@ private slots:
     void OnFrameSelection();
     void OnLookFrom(Camera::Side side);
     void OnOrbitToggled(bool on);
+    void OnFrameOnOpenToggled(bool on);
 
 private:
     void addSides(QWidget *window);

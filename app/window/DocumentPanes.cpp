@@ -48,6 +48,8 @@ DocumentPanes::DocumentPanes(const std::array<DocumentPane, 3> &panes, SkinnedMe
         connectPane(each);
     connect(m_selection, &ViewSelection::picked, this, &DocumentPanes::showPicked);
     connectPlayback();
+    for (const KVOpenGLWidget *viewport : viewports())
+        connect(viewport, &KVOpenGLWidget::told, this, &DocumentPanes::told);
     connect(m_tabs.tabs, &QTabWidget::currentChanged, this, &DocumentPanes::on_tabWidget_currentChanged);
     connect(m_tabs.trees, &QTabWidget::currentChanged, this, &DocumentPanes::on_tabTrees_currentChanged);
     updateViewports();
@@ -199,8 +201,11 @@ void DocumentPanes::OnReplaced(DocumentType type)
     const DocumentPane &replaced = pane(type);
     replaced.viewport->playbackChanged(); // at once, rather than at the next idle look
     const QString path = replaced.document->path();
-    if (std::exchange(m_paths[size_t(type)], path) != path || path.isEmpty())
-        giveKeysToView(replaced);
+    if (std::exchange(m_paths[size_t(type)], path) == path && !path.isEmpty())
+        return; // only read again
+    giveKeysToView(replaced);
+    if (type != DocumentType::Anim && Settings::FrameOnOpen.value())
+        replaced.viewport->frameWhenShown();
     replaced.explorer->setLoadedPath(replaced.document->path());
 }
 

@@ -143,9 +143,9 @@ void Session::restore(const QStringList &paths)
     for (const DocumentPane &pane : m_panes) {
         if (leftAlone(pane) || pane.document->isOpen())
             continue;
+        const bool opened = openFile(pane, state.value(pane.document->kind().extension).toMap());
         placeCamera(*pane.viewport, state.value(pane.viewport->objectName()).toList());
-        if (!openFile(pane, state.value(pane.document->kind().extension).toMap()) ||
-            pane.document->kind().type != DocumentType::Anim)
+        if (!opened || pane.document->kind().type != DocumentType::Anim)
             continue;
         const int block = state.value(BlockKey).toInt();
         if (block != playback().blockIndex && block >= 0 &&

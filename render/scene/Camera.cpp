@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Camera.h"
 
+#include "BoundingSphere.h"
 #include "Framing.h"
 
 #include <algorithm>
@@ -13,7 +14,7 @@ constexpr float StartYaw = 180.0f;
 constexpr float FieldOfView = 90.0f; // vertical, degrees
 /// Of a place to stand: beyond any model; farther out a float has no fractions left.
 constexpr float MostDistance = 1e6f;
-constexpr float Room = 1.15f;                          // around what is framed
+constexpr float Room = 1.05f;                          // around what is framed
 constexpr float LeastDepth = 2.0f * Camera::NearPlane; // of what is framed or orbited
 constexpr float MostDepth = 0.5f * Camera::FarPlane;   // what lies around it is still to be seen
 
@@ -21,22 +22,6 @@ QMatrix4x4 withoutTranslation(QMatrix4x4 matrix)
 {
     matrix.setColumn(3, {0.0f, 0.0f, 0.0f, 1.0f});
     return matrix;
-}
-
-QVector3D middleOf(const std::vector<QVector3D> &points)
-{
-    QVector3D low, high;
-    bool any = false;
-    for (const QVector3D &point : points) {
-        if (!isFinite(point))
-            continue;
-        for (int axis = 0; axis < 3; ++axis) {
-            low[axis] = any ? std::min(low[axis], point[axis]) : point[axis];
-            high[axis] = any ? std::max(high[axis], point[axis]) : point[axis];
-        }
-        any = true;
-    }
-    return 0.5f * (low + high);
 }
 } // namespace
 
@@ -111,18 +96,20 @@ void Camera::bring(const QVector3D &place, const QVector3D &seen)
     ++m_jumps.position;
 }
 
-void Camera::frame(const std::vector<QVector3D> &points, const QSize &size)
+bool Camera::frame(const std::vector<QVector3D> &points, const QSize &size)
 {
-    const QMatrix4x4 turn = withoutTranslation(viewMatrix());
+    const BoundingSphere sphere = BoundingSphere::of(points);
+    // Of the angle to the nearer sides of the picture.
     const QMatrix4x4 projection = projectionMatrix(size.width(), size.height());
-    const VisionExtent extent(points, turn, 1.0f / (Room * projection(0, 0)),
-                              1.0f / (Room * projection(1, 1)));
-    const QVector3D eye = extent.eye(LeastDepth), middle = middleOf(points);
-    if (extent.isEmpty() || !isFinite(eye) || !isFinite(middle))
-        return;
+    const float tangent = std::min(1.0f / projection(0, 0), 1.0f / projection(1, 1));
+    const float sine = tangent / std::hypot(1.0f, tangent);
+    const float distance = std::max(Room * sphere.radius / sine, sphere.radius + LeastDepth);
+    if (sphere.radius < 0.0f || !isFinite(sphere.middle) || !std::isfinite(distance))
+        return true;
     m_position = {}; // from far away the way back would be inexact
-    bring({}, -eye);
-    m_framed = middle;
+    bring(sphere.middle, {0.0f, 0.0f, -distance});
+    m_framed = sphere.middle;
+    return distance + sphere.radius < FarPlane;
 }
 
 void Camera::orbit(const QVector3D &pivot, float yaw, float pitch)

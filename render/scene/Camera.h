@@ -65,9 +65,10 @@ public:
 
     // At once, and without losing what was framed.
 
-    /// Goes as near as it can with all of `points` in a picture of this size, and keeps its direction.
-    /// Without a finite point nothing happens.
-    void frame(const std::vector<QVector3D> &points, const QSize &size);
+    /// Goes as near as it can with the sphere around all of `points` in a picture of this size, and keeps its
+    /// direction: from another one it is as far away. Without a finite point nothing happens. Returns whether
+    /// all of it lies before the far plane.
+    bool frame(const std::vector<QVector3D> &points, const QSize &size);
     /// Turns around `pivot`, which keeps its place in the picture. The pitch stops as that of a drag.
     void orbit(const QVector3D &pivot, float yaw, float pitch);
     /// The same for a mouse that moved by (dx, dy) pixels: what is near follows it.

@@ -118,6 +118,40 @@ private slots:
         QCOMPARE(QApplication::focusWidget(), view);
     }
 
+    void modelsAreFramedWhenTheyOpen()
+    {
+        AnimFile high = twoBlocks();
+        for (AnimBlock &block : high.blocks)
+            block.nodes[0].initialPosition = {0, 0, 3000};
+        const QString man = m_files->save("man.skinnedmesh", triangleMan());
+        ShownWindow window({man, m_files->save("man.anim", high)});
+        auto *view = find<KVOpenGLWidget>(window, "viewSkinned");
+        const auto opened = [&](const QString &path) {
+            window.openFiles({path});
+            view->grabFramebuffer();
+            return view->camera().framed();
+        };
+        QTRY_VERIFY(view->camera().framed());
+        QVERIFY(std::fabs(view->camera().framed()->y() - 3000.0f) < 200.0f); // where it is posed
+        QTest::keyClick(view, Qt::Key_C);
+        QVERIFY(!opened(man)); // read again
+        QCOMPARE(view->camera().position(), Camera().position());
+        auto *framing = find<QAction>(window, "actionFrameOnOpen");
+        framing->trigger();
+        QVERIFY(!opened(m_files->save("other.skinnedmesh", triangleMan())));
+        framing->trigger();
+
+        SkinnedMesh stray = triangleMan();
+        for (int i = 0; i < 30; ++i) {
+            stray.vertices.push_back({{float(i), 0, float(i % 7)}, {}, {}, 0});
+            stray.surfaces[0].triangleIndexes.push_back(quint16(i + 3));
+        }
+        stray.vertices[5].position = {1e6f, 0, 0};
+        const auto middle = opened(m_files->save("stray.skinnedmesh", stray));
+        QVERIFY(middle && middle->length() < 4000.0f);
+        QVERIFY(window.statusBar()->currentMessage().contains(QStringLiteral("(1)")));
+    }
+
     void clicksSelect()
     {
         const StaticMesh second = wall({{"_white", {}}, {"_white", {0, 1, 2}}});

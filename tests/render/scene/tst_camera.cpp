@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "BoundingSphere.h"
 #include "Camera.h"
 #include "Framing.h"
 #include "TestSupport.h"
@@ -15,6 +16,7 @@ class tst_Camera : public QObject
 private slots:
     void startSeesTheFront();
     void framesWhatItIsGiven();
+    void leavesStraysOut();
     void goesAroundThePivot();
     void staysWhereNumbersReach();
     void fillsThePicture();
@@ -78,7 +80,14 @@ void tst_Camera::framesWhatItIsGiven()
             QVERIFY(std::fabs(at.z()) < 1.0f || std::isnan(place.x()));
             widest = std::max({widest, std::fabs(at.x()), std::fabs(at.y())});
         }
-        QVERIFY(widest < 0.9f && (widest > 0.8f || points.size() < 8));
+        QVERIFY(widest < 0.95f && (widest > 0.4f || points.size() < 8));
+        // As far away from every side, so that the model can be turned.
+        const float distance = (camera.eye() - *camera.framed()).length();
+        camera.orbit({}, 40.0f, 60.0f);
+        camera.frame(points, size);
+        QVERIFY(std::fabs((camera.eye() - *camera.framed()).length() / distance - 1.0f) < 1e-3f);
+        camera.orbit({}, 130.0f, -25.0f);
+        camera.frame(points, size);
 
         // What was framed is forgotten by flying, and nothing to frame changes nothing.
         const QVector3D stands = camera.position();
@@ -87,6 +96,31 @@ void tst_Camera::framesWhatItIsGiven()
         camera.flyTo(stands);
         QVERIFY(!camera.framed());
     }
+}
+
+void tst_Camera::leavesStraysOut()
+{
+    const auto strays = [](const std::vector<QVector3D> &odd, int boxes = 3) {
+        std::vector<QVector3D> points = odd;
+        for (int i = 0; i < boxes; ++i) {
+            const auto more = box(1.0f + 0.1f * float(i));
+            points.insert(points.end(), more.begin(), more.end());
+        }
+        const size_t all = points.size();
+        const int dropped = dropStrays(points);
+        return size_t(dropped) + points.size() == all ? dropped : -1;
+    };
+    QCOMPARE(strays({{1e5f, 0, 0}, {0, -3e38f, 0}}), 2);
+    QCOMPARE(strays({{NAN, 0, 0}}), 1);
+    QCOMPARE(strays({{900, 0, 0}}), 0);                                            // to be seen
+    QCOMPARE(strays({{1e5f, 0, 0}, {1e5f, 9, 0}, {1e5f, 0, 9}, {1e5f, 9, 9}}), 0); // no longer a few
+    QCOMPARE(strays({{0, 0, 0}, {0, 0, 10}, {0, 0, 2000}}, 0), 0);
+    QCOMPARE(strays(std::vector<QVector3D>(50, {7, 7, 7})), 0);
+    QCOMPARE(strays({}, 0), 0);
+
+    Camera camera;
+    QVERIFY(camera.frame(box(100.0f), {640, 400}));
+    QVERIFY(!camera.frame(box(2000.0f), {640, 400})); // beyond the far plane
 }
 
 void tst_Camera::goesAroundThePivot()

@@ -1404,6 +1404,13 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
 </context>
 <context>
+    <name>DocumentTitle</name>
+    <message>
+        <source>%1 (never saved)</source>
+        <translation>%1 (nie gespeichert)</translation>
+    </message>
+</context>
+<context>
     <name>EventArguments</name>
     <message>
         <source>Sound ID</source>
@@ -2820,6 +2827,14 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <source>Edit Tool Bar</source>
         <translation>Werkzeugleiste Bearbeiten</translation>
     </message>
+    <message>
+        <source>Save to Mo&amp;d Folder</source>
+        <translation>In den Mo&amp;d-Ordner speichern</translation>
+    </message>
+    <message>
+        <source>Save a file of the game folder at the same place of the mod folder</source>
+        <translation>Eine Datei des Spielordners an derselben Stelle des Mod-Ordners speichern</translation>
+    </message>
 </context>
 <context>
     <name>MessageList</name>
@@ -3182,10 +3197,6 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <translation>der Ordner mit der entpackten game.kpf</translation>
     </message>
     <message>
-        <source>Textures and materials are looked for in this folder first. It is never written to.</source>
-        <translation>Texturen und Materialien werden zuerst in diesem Ordner gesucht. In ihn wird nie geschrieben.</translation>
-    </message>
-    <message>
         <source>No folder chosen</source>
         <translation>Kein Ordner gewählt</translation>
     </message>
@@ -3296,6 +3307,10 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
     <message>
         <source>&amp;Shortcuts</source>
         <translation>&amp;Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Textures and materials are looked for in this folder first. Saving a file of it asks first.</source>
+        <translation>Texturen und Materialien werden zuerst in diesem Ordner gesucht. Vor dem Speichern einer Datei darin wird gefragt.</translation>
     </message>
 </context>
 <context>
@@ -4171,6 +4186,39 @@ Alles andere funktioniert weiter.</translation>
     </message>
 </context>
 <context>
+    <name>SaveGuard</name>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; was changed by another program. Replace it by what is open here?</source>
+        <translation>„%1“ wurde von einem anderen Programm geändert. Durch das ersetzen, was hier offen ist?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; belongs to the game folder.</source>
+        <translation>„%1“ gehört zum Spielordner.</translation>
+    </message>
+    <message>
+        <source>There is no mod folder that it could be saved into; the options set one.</source>
+        <translation>Es gibt keinen Mod-Ordner, in den gespeichert werden könnte; die Optionen legen einen fest.</translation>
+    </message>
+    <message>
+        <source>In the mod folder it would be
+%1</source>
+        <translation>Im Mod-Ordner wäre es
+%1</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite</source>
+        <translation>Ü&amp;berschreiben</translation>
+    </message>
+    <message>
+        <source>Save into the &amp;Mod</source>
+        <translation>In den &amp;Mod speichern</translation>
+    </message>
+</context>
+<context>
     <name>SavePath</name>
     <message>
         <source>File error</source>
@@ -4181,6 +4229,10 @@ Alles andere funktioniert weiter.</translation>
 %1</source>
         <translation>Speichern fehlgeschlagen
 %1</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; exists already. Replace it?</source>
+        <translation>„%1“ gibt es schon. Ersetzen?</translation>
     </message>
 </context>
 <context>

@@ -62,8 +62,24 @@ bool Document::restore(const QByteArray &bytes, const QString &path, const QStri
 
 void Document::keepModel()
 {
-    m_fileStamp = FileStamp::of(m_path);
+    const FileStamp now = FileStamp::of(m_path);
+    if (now.exists()) {
+        m_fileStamp = now;
+        m_cleanIndex = -1;
+    }
     m_undoStack.resetClean();
+}
+
+void Document::fileWent()
+{
+    m_cleanIndex = m_undoStack.cleanIndex();
+    m_undoStack.resetClean();
+}
+
+void Document::fileReturned()
+{
+    if (std::exchange(m_cleanIndex, -1) == m_undoStack.index())
+        m_undoStack.setClean();
 }
 
 void Document::replace(const QString &path, const QString &unsavedName, const FileStamp &stamp)
@@ -71,6 +87,7 @@ void Document::replace(const QString &path, const QString &unsavedName, const Fi
     emit aboutToBeReplaced();
     // Commands name records of the model that goes: they go with it.
     m_undoStack.clear();
+    m_cleanIndex = -1;
     m_undoStack.setClean(); // an empty stack can be unclean
     adoptModel();
     m_path = path;
@@ -88,6 +105,7 @@ bool Document::save(const QString &path, QString *reason)
     m_path = path;
     m_fileStamp = FileStamp::of(path);
     m_changedDirectly = false;
+    m_cleanIndex = -1;
     m_undoStack.setClean();
     emit saved();
     return false;

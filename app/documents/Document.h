@@ -57,6 +57,9 @@ public:
     /// Goes on with the model although its file is not the one any more that it was read from: it counts as
     /// modified.
     void keepModel();
+    /// The same while the file is away; fileReturned() takes it back when the file is there as it was.
+    void fileWent();
+    void fileReturned();
 
     /// How many records of a list kind stand under the owner named by `index`.
     virtual int recordCount(RecordKind kind, const RecordIndex &index) const = 0;
@@ -96,6 +99,7 @@ private:
     bool m_open = false;
     bool m_changedDirectly = false;
     FileStamp m_fileStamp;
+    int m_cleanIndex = -1; ///< of the stack when the file went; -1 for none
     QString m_path;
     QString m_unsavedName;
     QUndoStack m_undoStack;

@@ -18,12 +18,40 @@ QString startFolder(const DocumentKind &kind, const SettingKey<QString> &lastFol
     const QString folder = lastFolder.value();
     return folder.isEmpty() ? kind.explorePath.value() : folder;
 }
+
+/// The folder of a file that a dialog begins with. It is made, and goes again if nothing came to be there.
+class ModFolder
+{
+public:
+    explicit ModFolder(const QString &file)
+        : m_path(file.isEmpty() ? QString() : QFileInfo(file).path())
+    {
+        for (QString made = m_path; !isEmpty() && !QFileInfo::exists(made); made = QFileInfo(made).path())
+            m_made.append(made);
+        if (!isEmpty())
+            QDir().mkpath(m_path);
+    }
+    ~ModFolder()
+    {
+        for (const QString &made : m_made)
+            QDir().rmdir(made); // not one with something in it
+    }
+    /// Something is going to be there.
+    void keep() { m_made.clear(); }
+    bool isEmpty() const { return m_path.isEmpty(); }
+    const QString &path() const { return m_path; }
+
+private:
+    QString m_path;
+    QStringList m_made; ///< the innermost first
+};
 } // namespace
 
 DocumentFiles::DocumentFiles(const std::array<Document *, 3> &documents, QWidget *window)
     : QObject(window)
     , m_documents(documents)
     , m_window(window)
+    , m_guard(window)
 {}
 
 void DocumentFiles::on_actionOpen_triggered()
@@ -42,6 +70,12 @@ void DocumentFiles::on_actionSaveAs_triggered()
 {
     if (m_current)
         saveAs(m_current->kind().type);
+}
+
+void DocumentFiles::on_actionSaveToMod_triggered()
+{
+    if (m_current)
+        saveToMod(m_current->kind().type);
 }
 
 bool DocumentFiles::open(DocumentType type, const QString &path)
@@ -77,7 +111,7 @@ bool DocumentFiles::save(DocumentType type)
     if (!document(type)->isOpen())
         return true;
     finishTyping();
-    return document(type)->path().isEmpty() ? saveAs(type) : saveTo(type, document(type)->path());
+    return saveTo(type, targetOfSave(type));
 }
 
 bool DocumentFiles::saveAs(DocumentType type)
@@ -85,31 +119,64 @@ bool DocumentFiles::saveAs(DocumentType type)
     if (!document(type)->isOpen())
         return true;
     finishTyping();
-    const DocumentKind &kind = documentKind(type);
-    const QString path = chooseSavePath(m_window, kind.saveTitle, startFolder(kind, kind.savePath),
-                                        kind.filter, kind.extension, document(type)->fileName());
-    if (path.isEmpty())
+    return saveTo(type, chooseTarget(type));
+}
+
+bool DocumentFiles::saveToMod(DocumentType type)
+{
+    if (!document(type)->isOpen())
         return true;
-    kind.savePath.setValue(QFileInfo(path).absolutePath());
-    return saveTo(type, path);
+    finishTyping();
+    const QString path = SaveGuard::modPath(document(type)->path());
+    return path.isEmpty() ? saveAs(type) : saveTo(type, m_guard.intoMod(path));
 }
 
 void DocumentFiles::saveAll()
 {
     finishTyping();
+    QVector<FailedSave> failures;
     for (const DocumentKind &kind : documentKinds()) {
-        const Document *candidate = document(kind.type);
-        // An import without animations leaves an animation file that cannot be saved, and need not be.
-        const bool isEmptyImport = candidate->path().isEmpty() && !candidate->refusal().isEmpty();
-        if (candidate->differsFromFile() && !isEmptyImport && save(kind.type))
-            return;
+        const QString path = hasUnsavedWork(kind.type) ? targetOfSave(kind.type) : QString();
+        if (!path.isEmpty())
+            write(kind.type, path, failures);
     }
+    warnOfFailedSaves(m_window, failures);
+}
+
+bool DocumentFiles::hasUnsavedWork(DocumentType type) const
+{
+    const Document *candidate = document(type);
+    // An import without animations leaves an animation file that cannot be saved, and need not be.
+    const bool isEmptyImport = candidate->path().isEmpty() && !candidate->refusal().isEmpty();
+    return candidate->differsFromFile() && (candidate->isModified() || !isEmptyImport);
+}
+
+/// Where Save writes; empty when the user thought better of it.
+QString DocumentFiles::targetOfSave(DocumentType type)
+{
+    const QString path = document(type)->path();
+    return path.isEmpty() ? chooseTarget(type) : m_guard.allowed(*document(type), path);
+}
+
+QString DocumentFiles::chooseTarget(DocumentType type)
+{
+    const DocumentKind &kind = documentKind(type);
+    ModFolder mod(SaveGuard::modPath(document(type)->path()));
+    const QString path = chooseSavePath(m_window, kind.saveTitle,
+                                        mod.isEmpty() ? startFolder(kind, kind.savePath) : mod.path(),
+                                        kind.filter, kind.extension, document(type)->fileName());
+    if (path.isEmpty())
+        return {};
+    if (QFileInfo(path).absolutePath() == mod.path())
+        mod.keep();
+    kind.savePath.setValue(QFileInfo(path).absolutePath());
+    return m_guard.allowed(*document(type), path);
 }
 
 bool DocumentFiles::promptUnsaved(DocumentType type, QEvent *event)
 {
     finishTyping();
-    if (!document(type)->isModified())
+    if (!hasUnsavedWork(type))
         return true;
     const QString path = document(type)->path();
     const QString text =
@@ -128,14 +195,22 @@ bool DocumentFiles::promptUnsaved(DocumentType type, QEvent *event)
 
 bool DocumentFiles::saveTo(DocumentType type, const QString &path)
 {
+    QVector<FailedSave> failures;
+    if (!path.isEmpty())
+        write(type, path, failures);
+    warnOfFailedSaves(m_window, failures);
+    return path.isEmpty() || !failures.isEmpty();
+}
+
+void DocumentFiles::write(DocumentType type, const QString &path, QVector<FailedSave> &failures)
+{
     QString reason;
-    if (document(type)->save(path, &reason)) {
-        Log::error(tr("[Save] '%1': %2").arg(QDir::toNativeSeparators(path), reason));
-        warnOfFailedSave(m_window, path, reason);
-        return true;
+    if (!document(type)->save(path, &reason)) {
+        emit saved(type);
+        return;
     }
-    emit saved(type);
-    return false;
+    Log::error(tr("[Save] '%1': %2").arg(QDir::toNativeSeparators(path), reason));
+    failures.append({path, reason});
 }
 
 void DocumentFiles::finishTyping() const

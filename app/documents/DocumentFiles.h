@@ -3,6 +3,8 @@
 #pragma once
 
 #include "Document.h"
+#include "SaveGuard.h"
+#include "SavePath.h"
 
 #include <QEvent>
 #include <QObject>
@@ -33,11 +35,12 @@ public:
     /// was not saved: after a failure, which was then said, or because the user thought better of it.
     bool save(DocumentType type);
     bool saveAs(DocumentType type);
-    /// Saves every document that differs from its file, in the order of their kinds; stops at the first
-    /// failure.
+    /// Saves a document of the game folder at the same place of the mod folder; others as saveAs().
+    bool saveToMod(DocumentType type);
+    /// Saves every document with unsaved work, in the order of their kinds. What failed is told at the end.
     void saveAll();
 
-    /// Asks whether unsaved changes shall be saved before the document is replaced. Returns true when the
+    /// Asks whether unsaved work shall be saved before the document is replaced. Returns true when the
     /// replacement may go on; otherwise `event`, if given, is marked ignored.
     [[nodiscard]] bool promptUnsaved(DocumentType type, QEvent *event = nullptr);
     /// Takes what is typed in the editor with the focus to the document.
@@ -49,6 +52,7 @@ public slots:
     void on_actionSaveAs_triggered();
     void on_actionSkinnedSaveAs_triggered() { saveAs(DocumentType::SkinnedMesh); }
     void on_actionAnimSaveAs_triggered() { saveAs(DocumentType::Anim); }
+    void on_actionSaveToMod_triggered();
     void on_actionSaveAll_triggered() { saveAll(); }
 
 signals:
@@ -56,9 +60,14 @@ signals:
     void saved(DocumentType type);
 
 private:
+    bool hasUnsavedWork(DocumentType type) const;
+    QString targetOfSave(DocumentType type);
+    QString chooseTarget(DocumentType type);
     bool saveTo(DocumentType type, const QString &path);
+    void write(DocumentType type, const QString &path, QVector<FailedSave> &failures);
 
     std::array<Document *, 3> m_documents;
     const Document *m_current = nullptr;
     QWidget *m_window;
+    SaveGuard m_guard;
 };

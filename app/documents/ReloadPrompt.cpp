@@ -34,7 +34,10 @@ ReloadPrompt::ReloadPrompt(DocumentFiles &files, QBoxLayout *place, QWidget *win
     }
     connect(&m_watch, &FileWatch::changed, this, &ReloadPrompt::tellChanged);
     connect(&m_watch, &FileWatch::removed, this, &ReloadPrompt::tellRemoved);
-    connect(&m_watch, &FileWatch::settled, this, [this](DocumentType type) { bar(type).bar->hide(); });
+    connect(&m_watch, &FileWatch::settled, this, [this](DocumentType type) {
+        m_files.document(type)->fileReturned();
+        bar(type).bar->hide();
+    });
 }
 
 void ReloadPrompt::tellChanged(DocumentType type)
@@ -47,7 +50,7 @@ void ReloadPrompt::tellChanged(DocumentType type)
 void ReloadPrompt::tellRemoved(DocumentType type)
 {
     // What is open is all that is left of it.
-    m_files.document(type)->keepModel();
+    m_files.document(type)->fileWent();
     bar(type).reload->hide();
     bar(type).bar->tell(tr("'%1' was removed by another program. Saving writes it anew.")
                             .arg(QDir::toNativeSeparators(m_files.document(type)->path())));

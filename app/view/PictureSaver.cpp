@@ -80,6 +80,6 @@ bool PictureSaver::save(const QString &path, const QSize &size, bool transparent
 bool PictureSaver::refuse(const QString &path, const QString &reason)
 {
     Log::error(tr("[Save Picture] '%1': %2").arg(QDir::toNativeSeparators(path), reason));
-    warnOfFailedSave(m_window, path, reason);
+    warnOfFailedSaves(m_window, {{path, reason}});
     return true;
 }

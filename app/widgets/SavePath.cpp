@@ -15,23 +15,43 @@ QString chooseSavePath(QWidget *window, const QString &title, const QString &fol
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(extension);
     dialog.selectFile(name);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return {};
-    QString path = dialog.selectedFiles().first();
     const QString suffix = QLatin1Char('.') + extension;
-    // The dialog completes a name without a dot, and asks before it replaces a file. A name like "knight.v2"
-    // is completed here; it must not replace anything unasked.
-    if (!path.endsWith(suffix, Qt::CaseInsensitive) && !QFileInfo::exists(path + suffix))
-        path += suffix;
-    return path;
+    while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
+        const QString path = dialog.selectedFiles().first();
+        if (path.endsWith(suffix, Qt::CaseInsensitive))
+            return path;
+        // The dialog completes a name without a dot, and asks before it replaces a file. A name like
+        // "knight.v2" is completed here, and asked about.
+        if (!QFileInfo::exists(path + suffix) || mayReplace(window, title, path + suffix))
+            return path + suffix;
+    }
+    return {};
 }
 
-void warnOfFailedSave(QWidget *window, const QString &path, const QString &reason)
+bool mayReplace(QWidget *window, const QString &title, const QString &path)
 {
+    const QString question = QCoreApplication::translate("SavePath", "'%1' exists already. Replace it?")
+                                 .arg(QDir::toNativeSeparators(path));
+    return QMessageBox::question(window, title, question, QMessageBox::Yes | QMessageBox::No,
+                                 QMessageBox::No) == QMessageBox::Yes;
+}
+
+void warnOfFailedSaves(QWidget *window, const QVector<FailedSave> &failures)
+{
+    if (failures.isEmpty())
+        return;
+    QStringList paths;
+    QStringList reasons;
+    for (const FailedSave &failure : failures) {
+        paths += QDir::toNativeSeparators(failure.path);
+        reasons += failures.size() == 1
+                       ? failure.reason
+                       : QFileInfo(failure.path).fileName() + QStringLiteral(": ") + failure.reason;
+    }
     QMessageBox box(
         QMessageBox::Warning, QCoreApplication::translate("SavePath", "File error"),
-        QCoreApplication::translate("SavePath", "Failed to save\n%1").arg(QDir::toNativeSeparators(path)),
+        QCoreApplication::translate("SavePath", "Failed to save\n%1").arg(paths.join(QLatin1Char('\n'))),
         QMessageBox::Ok, window);
-    box.setInformativeText(reason);
+    box.setInformativeText(reasons.join(QLatin1Char('\n')));
     box.exec();
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <QVector>
 
 class QWidget;
 
@@ -11,5 +12,15 @@ class QWidget;
 QString chooseSavePath(QWidget *window, const QString &title, const QString &folder, const QString &filter,
                        const QString &extension, const QString &name);
 
-/// Says in a box that a file was not written, and why.
-void warnOfFailedSave(QWidget *window, const QString &path, const QString &reason);
+/// Asks whether a file that is there already may be replaced.
+[[nodiscard]] bool mayReplace(QWidget *window, const QString &title, const QString &path);
+
+/// A file that was not written, and why.
+struct FailedSave
+{
+    QString path;
+    QString reason;
+};
+
+/// Says so in a box, if there are any.
+void warnOfFailedSaves(QWidget *window, const QVector<FailedSave> &failures);

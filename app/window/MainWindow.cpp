@@ -9,6 +9,7 @@
 #include "ControlsDialog.h"
 #include "DocumentFiles.h"
 #include "DocumentPanes.h"
+#include "DocumentTitle.h"
 #include "ExplorerFiles.h"
 #include "FilterLine.h"
 #include "FlightCommands.h"
@@ -65,6 +66,9 @@ MainWindow::MainWindow(QWidget *parent)
     }
     createConsole();
     createDocuments();
+    m_title =
+        new DocumentTitle({&m_skinnedMesh, &m_anim, &m_staticMesh}, *m_ui->tabWidget, *m_ui->tabTrees, this);
+    m_ui->statusBar->insertPermanentWidget(0, m_title);
     createDocks();
     new ViewMenu(*m_ui, *m_panes, m_pictures->action(), this);
     readSettings();
@@ -196,6 +200,7 @@ void MainWindow::connectActions()
     wire(m_ui->actionSaveAs, m_files, &DocumentFiles::on_actionSaveAs_triggered);
     wire(m_ui->actionSkinnedSaveAs, m_files, &DocumentFiles::on_actionSkinnedSaveAs_triggered);
     wire(m_ui->actionAnimSaveAs, m_files, &DocumentFiles::on_actionAnimSaveAs_triggered);
+    wire(m_ui->actionSaveToMod, m_files, &DocumentFiles::on_actionSaveToMod_triggered);
     wire(m_ui->actionSaveAll, m_files, &DocumentFiles::on_actionSaveAll_triggered);
     // What an import writes depends on the folders.
     wire(m_ui->actionImport, m_preferences, &Preferences::OnStartSetupPaths);
@@ -261,14 +266,13 @@ void MainWindow::updateCurrentDocument()
         action->setEnabled(document);
     m_ui->actionSave->setEnabled(isOpen);
     m_ui->actionSaveAs->setEnabled(isOpen);
+    m_ui->actionSaveToMod->setEnabled(isOpen);
     m_ui->actionRotate->setEnabled(m_transforms->isAvailable());
     m_ui->actionScale->setEnabled(m_transforms->isAvailable());
     m_ui->actionSkinnedSaveAs->setEnabled(m_skinnedMesh.isOpen());
     m_ui->actionAnimSaveAs->setEnabled(m_anim.isOpen());
     m_ui->actionSaveAll->setEnabled(m_skinnedMesh.isOpen() || m_anim.isOpen() || m_staticMesh.isOpen());
-    setWindowTitle(isOpen ? QStringLiteral("Korvane - ") + document->fileName() +
-                                (document->isModified() ? QStringLiteral(" * ") : QString())
-                          : QStringLiteral("Korvane"));
+    m_title->show(isOpen ? document : nullptr);
 }
 
 void MainWindow::OnUndoCleanChanged()

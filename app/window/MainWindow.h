@@ -12,6 +12,7 @@
 class ConsoleLog;
 class DocumentFiles;
 class DocumentPanes;
+class DocumentTitle;
 class ExplorerFiles;
 class ImportExport;
 class ModelTransforms;
@@ -77,6 +78,7 @@ private:
     Problems *m_problems;
     PictureSaver *m_pictures;
     DocumentPanes *m_panes = nullptr;
+    DocumentTitle *m_title = nullptr;
     ExplorerFiles *m_explorerFiles = nullptr;
     Shortcuts *m_shortcuts = nullptr;
     Preferences *m_preferences = nullptr;

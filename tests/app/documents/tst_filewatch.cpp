@@ -86,6 +86,36 @@ private slots:
         QVERIFY(m_bar->isHidden());
     }
 
+    void aFileThatComesBackIsTheSame()
+    {
+        const QString away = path() + ".away";
+        for (const bool keeps : {false, true}) {
+            QVERIFY(QFile::rename(path(), away));
+            QTRY_VERIFY(m_bar->isVisible());
+            QVERIFY(m_run->mesh.isModified());
+            if (keeps)
+                button("btnKeep")->click();
+            QVERIFY(QFile::rename(away, path()));
+            QTRY_VERIFY(m_bar->isHidden() && !m_run->mesh.isModified());
+        }
+    }
+
+    void savingOverAnotherProgramsChangeAsks()
+    {
+        m_run->edit(9);
+        writeWithFactor(2); // at once: before it was told of
+        const QByteArray theirs = TestSupport::readFile(path());
+        Hand hand({Hand::press(QMessageBox::No), Hand::press(QMessageBox::Yes)});
+        QVERIFY(m_run->files.save(DocumentType::SkinnedMesh));
+        QCOMPARE(TestSupport::readFile(path()), theirs);
+        QVERIFY(m_run->mesh.isModified());
+        QVERIFY(!m_run->files.save(DocumentType::SkinnedMesh));
+        QVERIFY(TestSupport::readFile(path()) != theirs && m_bar->isHidden());
+        m_run->edit(8);
+        QVERIFY(!m_run->files.save(DocumentType::SkinnedMesh));
+        QCOMPARE(hand.seen.size(), 2);
+    }
+
     void aFileIsWaitedFor()
     {
         const QByteArray bytes = SampleModels::bytesOf(manWithFactor(2));

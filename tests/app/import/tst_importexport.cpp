@@ -44,7 +44,7 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(rootOf(window, "treeStaticMesh"), QString("crate %1.staticmesh"), 20000);
         QTRY_VERIFY(!QApplication::activeModalWidget());
         QCOMPARE(hand.seen, QStringList(QStringLiteral("Import model to Static Mesh")));
-        QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - crate %1.staticmesh"));
+        QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - crate %1.staticmesh (never saved)"));
         QCOMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
     }
 
@@ -65,7 +65,7 @@ private slots:
         QCOMPARE(m_page, QStringLiteral("pageSuccess"));
         QCOMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("box.skinnedmesh"));
         QCOMPARE(rootOf(window, "treeAnim"), QStringLiteral("box.anim"));
-        QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - box.skinnedmesh"));
+        QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - box.skinnedmesh (never saved)"));
         trigger(window, "actionSave");
         QCOMPARE(hand.seen.size(), 3);
         QCOMPARE(TestSupport::readFile(original), before);

@@ -250,6 +250,13 @@ private slots:
         Settings::HideMeshData.setValue(false);
         Settings::HideAnimData.setValue(false);
         ShownWindow window;
+        const Hand hand(QVector<Hand::Answer>(50, [](QDialog *dialog) {
+            // The question about the game folder.
+            for (auto *button : dialog->findChildren<QPushButton *>()) {
+                if (button->text() == "&Overwrite")
+                    button->click();
+            }
+        }));
         int opened = 0;
         for (QDirIterator it(root, {"*.skinnedmesh", "*.staticmesh"}, QDir::Files,
                              QDirIterator::Subdirectories);

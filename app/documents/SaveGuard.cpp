@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "SaveGuard.h"
+
+#include "Document.h"
+#include "SavePath.h"
+#include "Settings.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace {
+/// The file that would be written, links followed.
+QString realPath(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.exists() ? file.canonicalFilePath()
+                         : file.dir().canonicalPath() + QLatin1Char('/') + file.fileName();
+}
+
+/// Where a file stands below a folder; empty when it stands elsewhere.
+QString below(const QString &folder, const QString &file)
+{
+    if (folder.isEmpty())
+        return {};
+    const QString relative = QDir(folder).relativeFilePath(file);
+    return relative.startsWith(QLatin1String("../")) || QDir::isAbsolutePath(relative) ? QString() : relative;
+}
+
+QString realFolder(const SettingKey<QString> &key)
+{
+    const QString folder = key.value();
+    return folder.isEmpty() ? QString() : QFileInfo(folder).canonicalFilePath();
+}
+
+/// Where a file stands in the game folder; empty when it stands elsewhere. A mod folder in there is the
+/// mod's.
+QString placeInGame(const QString &path)
+{
+    const QString file = realPath(path);
+    const QString game = realFolder(Settings::GamePath);
+    const QString mod = realFolder(Settings::OutputDir);
+    const bool isMods = mod.size() >= game.size() && !below(mod, file).isEmpty();
+    return isMods ? QString() : below(game, file);
+}
+} // namespace
+
+SaveGuard::SaveGuard(QWidget *window)
+    : m_window(window)
+{}
+
+bool SaveGuard::isInGame(const QString &path)
+{
+    return !placeInGame(path).isEmpty();
+}
+
+QString SaveGuard::modPath(const QString &path)
+{
+    const QString place = placeInGame(path);
+    const QString mod = Settings::OutputDir.value();
+    return place.isEmpty() || mod.isEmpty() || !QFileInfo(mod).isDir() ? QString()
+                                                                       : QDir(mod).filePath(place);
+}
+
+QString SaveGuard::allowed(const Document &document, const QString &path)
+{
+    if (isInGame(path) && !m_overwritten.contains(realPath(path))) {
+        const QString answer = askAboutGame(path);
+        if (answer != path)
+            return answer;
+    }
+    const FileStamp now = FileStamp::of(path);
+    if (path == document.path() && now.exists() && now != document.fileStamp() && !mayReplaceChanged(path))
+        return {};
+    return path;
+}
+
+QString SaveGuard::intoMod(const QString &path)
+{
+    if (QFileInfo::exists(path) && !mayReplace(m_window, tr("Save"), path))
+        return {};
+    QDir().mkpath(QFileInfo(path).path()); // or saving says why not
+    return path;
+}
+
+bool SaveGuard::mayReplaceChanged(const QString &path) const
+{
+    const QString question = tr("'%1' was changed by another program. Replace it by what is open here?")
+                                 .arg(QDir::toNativeSeparators(path));
+    return QMessageBox::question(m_window, tr("Save"), question, QMessageBox::Yes | QMessageBox::No,
+                                 QMessageBox::No) == QMessageBox::Yes;
+}
+
+QString SaveGuard::askAboutGame(const QString &path)
+{
+    const QString mod = modPath(path);
+    QMessageBox box(QMessageBox::Question, tr("Save"),
+                    tr("'%1' belongs to the game folder.").arg(QDir::toNativeSeparators(path)),
+                    QMessageBox::Cancel, m_window);
+    box.setInformativeText(
+        mod.isEmpty() ? tr("There is no mod folder that it could be saved into; the options set one.")
+                      : tr("In the mod folder it would be\n%1").arg(QDir::toNativeSeparators(mod)));
+    QPushButton *overwrite = box.addButton(tr("&Overwrite"), QMessageBox::DestructiveRole);
+    const QPushButton *save = nullptr;
+    if (!mod.isEmpty()) {
+        auto *button = box.addButton(tr("Save into the &Mod"), QMessageBox::AcceptRole);
+        box.setDefaultButton(button);
+        save = button;
+    }
+    box.exec();
+    if (save && box.clickedButton() == save)
+        return intoMod(mod);
+    if (box.clickedButton() != overwrite)
+        return {};
+    m_overwritten.insert(realPath(path));
+    return path;
+}

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QCoreApplication>
+#include <QSet>
+#include <QString>
+
+class Document;
+class QWidget;
+
+/// Asks before a save replaces what nobody meant to replace: a file of the game folder, one that another
+/// program has changed, one that stands in the mod folder already.
+class SaveGuard
+{
+    Q_DECLARE_TR_FUNCTIONS(SaveGuard)
+
+public:
+    /// The questions stand on `window`.
+    explicit SaveGuard(QWidget *window);
+
+    /// Where a document that is to be saved at `path` may be written; empty when the user thought better of
+    /// it. The game folder is asked about once for a file.
+    QString allowed(const Document &document, const QString &path);
+    /// `path` in the mod folder, with its folders made, unless the user keeps the file that stands there.
+    QString intoMod(const QString &path);
+
+    /// Where in the mod folder a file of the game folder belongs, links followed; empty for any other file,
+    /// and without a mod folder.
+    static QString modPath(const QString &path);
+    static bool isInGame(const QString &path);
+
+private:
+    bool mayReplaceChanged(const QString &path) const;
+    QString askAboutGame(const QString &path);
+
+    QWidget *m_window;
+    QSet<QString> m_overwritten; ///< of the game folder
+};

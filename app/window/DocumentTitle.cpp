@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "DocumentTitle.h"
+
+#include "Document.h"
+
+#include <QDir>
+#include <QTabWidget>
+
+namespace {
+constexpr int MostChars = 40;
+
+QString placeOf(const Document &document)
+{
+    if (!document.isOpen())
+        return {};
+    return document.path().isEmpty() ? DocumentTitle::tr("%1 (never saved)").arg(document.fileName())
+                                     : QDir::toNativeSeparators(document.path());
+}
+
+QString titleOf(const Document *document)
+{
+    if (!document || !document->isOpen())
+        return QStringLiteral("Korvane");
+    const QString name = document->path().isEmpty() ? placeOf(*document) : document->fileName();
+    return QStringLiteral("Korvane - ") + name + (document->isModified() ? QStringLiteral(" * ") : QString());
+}
+} // namespace
+
+DocumentTitle::DocumentTitle(const std::array<const Document *, 3> &documents, QTabWidget &tabs,
+                             QTabWidget &trees, QWidget *window)
+    : QLabel(window)
+    , m_documents(documents)
+    , m_tabs(tabs)
+    , m_trees(trees)
+    , m_window(window)
+{
+    setObjectName(QStringLiteral("lblDocumentPath"));
+    setTextFormat(Qt::PlainText);
+}
+
+void DocumentTitle::show(const Document *current)
+{
+    m_window->setWindowTitle(titleOf(current));
+    const QString path = current ? placeOf(*current) : QString();
+    const QFontMetrics metrics = fontMetrics();
+    setText(metrics.elidedText(path, Qt::ElideLeft, MostChars * metrics.averageCharWidth()));
+    setToolTip(path);
+    m_trees.setTabToolTip(0, placeOf(*m_documents[0]));
+    m_trees.setTabToolTip(1, placeOf(*m_documents[1]));
+    m_tabs.setTabToolTip(1, placeOf(*m_documents[2]));
+}

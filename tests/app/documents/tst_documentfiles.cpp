@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "Hand.h"
+#include "OneRun.h"
+#include "SampleModels.h"
+
+namespace {
+/// Clicks the button whose text begins so.
+Hand::Answer clickOn(const char *text)
+{
+    return [text](QDialog *dialog) {
+        for (auto *button : dialog->findChildren<QAbstractButton *>()) {
+            if (button->text().remove('&').startsWith(QLatin1String(text)))
+                return button->click();
+        }
+        qFatal("no button %s", text);
+    };
+}
+
+void enter(QDialog *dialog)
+{
+    QTest::keyClick(dialog, Qt::Key_Return);
+}
+
+void escape(QDialog *dialog)
+{
+    QTest::keyClick(dialog, Qt::Key_Escape);
+}
+} // namespace
+
+/// What saving asks before it writes, and where it writes then.
+class tst_DocumentFiles : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        m_files.emplace();
+        QDir().mkpath(m_files->path("mod"));
+        Settings::GamePath.setValue(m_files->path("game"));
+        Settings::OutputDir.setValue(m_files->path("mod"));
+    }
+
+    void theGameFolderIsAskedAbout()
+    {
+        const QString game = m_files->save("game/models/man.skinnedmesh", triangleMan());
+        const QString mod = m_files->path("mod/models/man.skinnedmesh");
+        const QByteArray before = TestSupport::readFile(game);
+        const QString question =
+            "Save|'" + game + "' belongs to the game folder.|In the mod folder it would be\n" + mod;
+        ShownWindow window({game});
+        int parent = 5;
+        const auto save = [&](const QVector<Hand::Answer> &answers, int key = Qt::Key_S) {
+            typeParent(window, ++parent);
+            QApplication::setActiveWindow(&window); // after a box it may be nobody
+            Hand hand(answers);
+            if (key)
+                QTest::keyClick(&window, Qt::Key(key), Qt::ControlModifier);
+            else
+                find<QAction>(window, "actionSaveToMod")->trigger();
+            return hand.seen;
+        };
+        const auto path = [&window] { return find<QLabel>(window, "lblDocumentPath")->toolTip(); };
+
+        QCOMPARE(save({escape}), QStringList(question));
+        QVERIFY(window.windowTitle().endsWith(" * ") && !QFileInfo::exists(mod));
+        QCOMPARE(path(), game);
+        // The mod folder is what Enter takes; from then on the document is there.
+        QCOMPARE(save({enter}), QStringList(question));
+        QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh"));
+        QCOMPARE(path(), mod);
+        QCOMPARE(find<QTabWidget>(window, "tabTrees")->tabToolTip(0), mod);
+        QCOMPARE(save({}), QStringList());
+        const QByteArray saved = TestSupport::readFile(mod);
+        QVERIFY(saved != before && TestSupport::readFile(game) == before);
+
+        // What the mod has is not replaced unasked.
+        const QString replace = "Save|'" + mod + "' exists already. Replace it?";
+        window.openFiles({game});
+        QCOMPARE(save({enter}, 0), QStringList(replace)); // No
+        QCOMPARE(save({enter, escape}), QStringList({question, replace}));
+        QCOMPARE(TestSupport::readFile(mod), saved);
+        QCOMPARE(save({clickOn("Yes")}, 0), QStringList(replace));
+        QVERIFY(TestSupport::readFile(mod) != saved);
+
+        // One that is overwritten is asked about once, also by another way that leads there.
+        const QString link = m_files->path("mod/link.skinnedmesh");
+        QVERIFY(QFile::link(game, link));
+        window.openFiles({link});
+        QCOMPARE(path(), link);
+        QCOMPARE(save({clickOn("Overwrite")}).size(), 1);
+        QVERIFY(TestSupport::readFile(game) != before && QFileInfo(link).isSymLink());
+        window.openFiles({game});
+        QCOMPARE(save({}), QStringList());
+    }
+
+    void saveAsStartsInTheModFolder()
+    {
+        OneRun run(m_files->path("recovery"));
+        run.openMesh(m_files->save("game/models/deep/man.skinnedmesh", triangleMan()));
+        const QString folder = m_files->path("mod/models/deep");
+        const auto look = [&folder](QDialog *dialog) {
+            QCOMPARE(static_cast<QFileDialog *>(dialog)->directory().path(), folder);
+            dialog->reject();
+        };
+        Hand hand({look, Hand::file(folder + "/man.skinnedmesh")});
+        QVERIFY(run.files.saveAs(DocumentType::SkinnedMesh));
+        QVERIFY(!QFileInfo::exists(m_files->path("mod/models")));
+        QVERIFY(!run.files.saveAs(DocumentType::SkinnedMesh));
+        QCOMPARE(run.mesh.path(), folder + "/man.skinnedmesh");
+    }
+
+    void aCompletedNameReplacesNothingUnasked()
+    {
+        OneRun run(m_files->path("recovery"));
+        run.openMesh(m_files->save("mod/n.skinnedmesh", triangleMan()));
+        const QString there = m_files->put("mod/n2.v2.skinnedmesh", "old");
+        const QString typed = m_files->path("mod/n2.v2");
+        Hand hand({Hand::file(typed), enter, Hand::reject, Hand::file(typed), clickOn("Yes")});
+        QVERIFY(run.files.saveAs(DocumentType::SkinnedMesh));
+        QCOMPARE(TestSupport::readFile(there), QByteArray("old"));
+        QVERIFY(!run.files.saveAs(DocumentType::SkinnedMesh));
+        QCOMPARE(run.mesh.path(), there);
+        QVERIFY(!QFileInfo::exists(typed));
+        QCOMPARE(hand.seen.size(), 5);
+    }
+
+    void saveAllGoesOnAndTellsAllAtTheEnd()
+    {
+        OneRun run(m_files->path("recovery"));
+        const QStringList paths{m_files->save("mod/a/x.skinnedmesh", triangleMan()),
+                                m_files->save("mod/b/x.anim", twoBlocks()),
+                                m_files->save("mod/c/x.staticmesh", SampleModels::plainStatic())};
+        QString reason;
+        run.openMesh(paths[0]);
+        QVERIFY(!run.anim.open(paths[1], &reason) && !run.rigid.open(paths[2], &reason));
+        for (Document *document : {static_cast<Document *>(&run.mesh), static_cast<Document *>(&run.anim),
+                                   static_cast<Document *>(&run.rigid)})
+            document->keepModel();
+        for (const char *gone : {"mod/a", "mod/c"})
+            QVERIFY(QDir(m_files->path(gone)).removeRecursively());
+        Hand hand({enter});
+        run.files.saveAll();
+        QCOMPARE(hand.seen, QStringList("File error|Failed to save\n" + paths[0] + '\n' + paths[2] +
+                                        "|x.skinnedmesh: No such file or directory\n"
+                                        "x.staticmesh: No such file or directory"));
+        QVERIFY(run.mesh.isModified() && !run.anim.isModified() && run.rigid.isModified());
+    }
+
+    void whateverDiffersFromItsFileIsAskedFor()
+    {
+        OneRun run(m_files->path("recovery"));
+        const auto asked = [&run](DocumentType type) {
+            Hand hand({escape});
+            const bool goesOn = run.files.promptUnsaved(type);
+            return hand.seen.size() == 1 && !goesOn;
+        };
+        // An import; the animation file without animations that comes with it holds nothing.
+        run.mesh.take(triangleMan(), "box");
+        run.anim.take(AnimFile(), "box");
+        QVERIFY(asked(DocumentType::SkinnedMesh) && !asked(DocumentType::Anim));
+        // A count that was changed.
+        QString reason;
+        QVERIFY(!run.anim.open(m_files->save("mod/x.anim", twoBlocks()), &reason));
+        QVERIFY(!asked(DocumentType::Anim));
+        run.anim.changedDirectly({});
+        QVERIFY(!run.anim.isModified() && asked(DocumentType::Anim));
+    }
+
+private:
+    std::optional<ProgramFolder> m_files;
+};
+
+QTEST_MAIN(tst_DocumentFiles)
+#include "tst_documentfiles.moc"

@@ -58,12 +58,11 @@ bool OrbitTool::release(const ViewInput &input)
 
 bool OrbitTool::wheel(const ViewInput &input)
 {
-    if (!isMeant(input))
-        return false;
     // With Alt held many systems turn the wheel sideways.
-    const QPoint turn = input.wheelTurn;
-    const double notches = double(turn.y() != 0 ? turn.y() : turn.x()) / WheelNotch;
-    m_camera.dolly(m_sight.pivot(), float(std::pow(FactorPerNotch, notches)));
+    const bool sideways = input.wheelTurn.y() == 0 && (input.modifiers & Qt::AltModifier) != 0;
+    const int turn = sideways ? input.wheelTurn.x() : input.wheelTurn.y();
+    if (turn != 0)
+        m_camera.dolly(m_sight.pivot(), float(std::pow(FactorPerNotch, double(turn) / WheelNotch)));
     return true;
 }
 

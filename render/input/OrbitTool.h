@@ -12,7 +12,7 @@ class Camera;
 class ViewSight;
 
 /// Turns the camera around what it looks at, with Alt held or always: the left button turns, the middle one
-/// takes what is looked at along, the wheel goes nearer and farther.
+/// takes what is looked at along. The wheel goes nearer and farther in any case.
 class OrbitTool : public ViewTool
 {
 public:

@@ -87,6 +87,27 @@ private slots:
         QCOMPARE(view->camera().pitch(), 89.0f);
     }
 
+    // Through the native window, where the menu bar looks at the key of its own.
+    void theWheelLeavesTheMenuBarAlone()
+    {
+        const auto window = open();
+        auto *view = find<KVOpenGLWidget>(*window, "viewSkinned");
+        QWindow *native = window->windowHandle();
+        const QPoint centre = view->mapTo(window.get(), view->rect().center());
+        for (const bool turns : {true, false}) {
+            view->setFocus();
+            const QVector3D eye = view->camera().eye();
+            QTest::keyPress(native, Qt::Key_Alt, Qt::AltModifier);
+            QWheelEvent wheel(centre, window->mapToGlobal(centre), {}, {0, 120}, Qt::NoButton,
+                              Qt::AltModifier, Qt::NoScrollPhase, false);
+            if (turns)
+                QApplication::sendEvent(native, &wheel);
+            QTest::keyRelease(native, Qt::Key_Alt);
+            QCOMPARE(view->hasFocus(), turns);
+            QCOMPARE(view->camera().eye() != eye, turns);
+        }
+    }
+
     void whatIsOpenedHasTheKeys()
     {
         Settings::SkinnedMeshExplorePath.setValue(m_files->path(QString()));

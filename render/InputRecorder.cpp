@@ -37,6 +37,7 @@ InputRecorder::Outcome InputRecorder::handleInput(QEvent &event)
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         QToolTip::hideText();
+        m_cursor.follow(static_cast<QMouseEvent &>(event).pos());
         m_tools.press(record(static_cast<QMouseEvent &>(event)));
         showCursor();
         return Outcome::Used;
@@ -45,10 +46,9 @@ InputRecorder::Outcome InputRecorder::handleInput(QEvent &event)
         showCursor();
         return Outcome::Taken;
     case QEvent::MouseMove: {
-        const auto &mouse = static_cast<QMouseEvent &>(event);
-        const bool moved = m_tools.move(record(mouse));
-        m_cursor.moved(mouse.pos());
-        return moved ? Outcome::Changed : Outcome::Taken;
+        ViewInput input = record(static_cast<QMouseEvent &>(event));
+        input.step = m_cursor.follow(input.position);
+        return m_tools.move(input) ? Outcome::Changed : Outcome::Taken;
     }
     case QEvent::Wheel:
         if (!m_tools.wheel(record(static_cast<QWheelEvent &>(event))))

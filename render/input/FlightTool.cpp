@@ -127,8 +127,7 @@ std::optional<int> FlightTool::move(const ViewInput &input)
     if (m_ticksSinceCapture < 1)
         return 0;
     followJumps();
-    const QPoint offset = input.position - input.centre();
-    const auto dx = float(offset.x()), dy = float(offset.y());
+    const auto dx = float(input.step.x()), dy = float(input.step.y());
     if (m_left) {
         const QVector3D right = m_camera.rotation().rotatedVector({1.0f, 0.0f, 0.0f});
         const QVector3D forward = m_camera.rotation().rotatedVector({0.0f, 0.0f, 1.0f});
@@ -146,7 +145,7 @@ std::optional<int> FlightTool::move(const ViewInput &input)
         m_targetPitch =
             std::clamp(m_targetPitch - dy * Camera::DegreesPerPixel, -Camera::PitchLimit, Camera::PitchLimit);
     }
-    return offset.manhattanLength();
+    return input.step.manhattanLength();
 }
 
 bool FlightTool::setHeld(const ViewInput &input, bool held)

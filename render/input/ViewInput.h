@@ -22,7 +22,8 @@ struct ViewInput
     bool isDrag() const { return travel >= dragDistance; }
 
     QPoint position;
-    QSize size; ///< of the view
+    QPoint step; ///< pixels that the mouse has moved since the event before, beside what it was put back
+    QSize size;  ///< of the view
     Qt::MouseButton button = Qt::NoButton;
     Qt::MouseButtons buttons; ///< held, with the one that was pressed and without the one that was released
     Qt::KeyboardModifiers modifiers;

@@ -200,9 +200,11 @@ void ScenePainter::paintWires(TexturedProgram &textured, const QMatrix4x4 &mvp, 
         m_gl.glDisable(GL_POLYGON_OFFSET_FILL);
     }
     m_gl.glUniform4f(textured.wireColor, color.x(), color.y(), color.z(), color.w());
+    m_gl.glUniform1i(textured.edges, 1);
     m_polygonMode(GL_FRONT_AND_BACK, GL_LINE);
     drawTextured(textured, *m_model, mvp);
     m_polygonMode(GL_FRONT_AND_BACK, GL_FILL);
+    m_gl.glUniform1i(textured.edges, 0);
     m_gl.glUniform4f(textured.wireColor, 0.0f, 0.0f, 0.0f, 0.0f);
 }
 

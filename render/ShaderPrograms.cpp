@@ -28,6 +28,7 @@ void locateUniforms(TexturedProgram &textured)
     textured.tiling = program.uniformLocation("tiling");
     textured.colorHighlight = program.uniformLocation("color_highlight");
     textured.wireColor = program.uniformLocation("wire_color");
+    textured.edges = program.uniformLocation("edges");
 }
 } // namespace
 

@@ -27,6 +27,7 @@ struct TexturedProgram
     int tiling = -1;
     int colorHighlight = -1;
     int wireColor = -1; ///< laid over the texture by its alpha
+    int edges = -1;     ///< draws edges, where the texture is transparent too
 };
 
 /// The shader programs of one context. Made and destroyed with the context current.

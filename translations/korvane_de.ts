@@ -1080,16 +1080,16 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <translation>Das Modell zur Seite, nach oben und unten schieben</translation>
     </message>
     <message>
-        <source>Alt + wheel</source>
-        <translation>Alt + Rad</translation>
-    </message>
-    <message>
         <source>Go nearer or farther away</source>
         <translation>Näher oder weiter weg gehen</translation>
     </message>
     <message>
         <source>Several records</source>
         <translation>Mehrere Datensätze</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>Mausrad</translation>
     </message>
 </context>
 <context>

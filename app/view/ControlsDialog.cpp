@@ -54,7 +54,7 @@ ControlsDialog::ControlsDialog(const Shortcuts &shortcuts, QWidget *parent)
         {tr("Click"), tr("Select the surface, bone or hot point under the mouse")},
         {tr("Alt + left drag"), tr("Turn around the model")},
         {tr("Alt + middle drag"), tr("Move the model sideways, up and down")},
-        {tr("Alt + wheel"), tr("Go nearer or farther away")},
+        {tr("Wheel"), tr("Go nearer or farther away")},
     };
     QTreeWidget *tree = m_ui->treeControls;
     QTreeWidgetItem *view = addGroup(tree, tr("3D view"));

@@ -19,6 +19,7 @@ private slots:
 
     void texturedSquare_data() { addContexts(); }
     void texturedSquare();
+    void holesShowWhatIsBehind();
     void overlays();
     void posedOverlay();
     void groundAndGizmo();
@@ -116,6 +117,42 @@ void tst_Viewport::texturedSquare()
     QVERIFY(isBackground(m_view->pixel(left, upper)));
     m_view->setBackgroundColor(QColor(1, 2, 3));
     QVERIFY(isColor(m_view->pixel(left, upper), 1, 2, 3));
+}
+
+// What is drawn later and lies behind a transparent texel is there, in a picture too; edges cross holes.
+void tst_Viewport::holesShowWhatIsBehind()
+{
+    m_view->openSquare(QStringLiteral("m/a/quarters"));
+    const QPoint hole(225, 175);
+    QVERIFY(isBackground(m_view->pixel(hole.x(), hole.y())));
+    StaticMesh walled = m_view->square;
+    for (StaticMeshVertex vertex : m_view->square.vertices) {
+        vertex.position.setY(100.0f);
+        walled.vertices.push_back(vertex);
+    }
+    walled.surfaces.push_back({QStringLiteral("_white"), {4, 5, 6, 4, 6, 7}});
+    SkinnedMesh skinned;
+    skinned.nodes.resize(1);
+    for (const StaticMeshVertex &vertex : walled.vertices)
+        skinned.vertices.push_back({vertex.position, vertex.uv, {}, 0});
+    for (const StaticMeshSurface &surface : walled.surfaces)
+        skinned.surfaces.push_back({surface.materialPath, surface.triangleIndexes});
+    m_view->setStaticMesh(&walled);
+    m_view->setSkinnedMesh(&skinned);
+    for (const bool bones : {false, true}) {
+        m_view->setSkinnedMeshMode(bones);
+        QVERIFY(isWhite(m_view->pixel(hole.x(), hole.y())));
+        QVERIFY(isWhite(m_view->picture(m_view->size(), Qt::black).pixelColor(hole)));
+    }
+    m_view->setSkinnedMeshMode(false);
+    m_view->setStaticMesh(&m_view->square);
+    m_view->setShading(int(Shading::Wireframe));
+    int dark = 0; // of the lower edge, half of which is transparent
+    for (int x = 210; x < 240; ++x)
+        dark += m_view->pixel(x, 199).green() < 130 || m_view->pixel(x, 200).green() < 130 ? 1 : 0;
+    QVERIFY(dark > 20);
+    m_view->setSkinnedMesh(nullptr);
+    m_view->setStaticMesh(nullptr);
 }
 
 void tst_Viewport::overlays()

@@ -4,6 +4,7 @@
 #include "Language.h"
 #include "Look.h"
 #include "MainWindow.h"
+#include "ScreenScale.h"
 #include "Settings.h"
 #include "TexturesAhead.h"
 
@@ -16,8 +17,7 @@
 
 int main(int argc, char *argv[])
 {
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    useScreenScale();
     // Without a version the driver gives what it has; the core profile is asked for all the same.
     QSurfaceFormat format;
     format.setDepthBufferSize(24);

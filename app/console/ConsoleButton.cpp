@@ -7,6 +7,8 @@
 
 #include <QDockWidget>
 
+#include <utility>
+
 ConsoleButton::ConsoleButton(const ConsoleLog &log, QDockWidget &dock, QWidget *parent)
     : QToolButton(parent)
     , m_log(log)
@@ -20,6 +22,11 @@ ConsoleButton::ConsoleButton(const ConsoleLog &log, QDockWidget &dock, QWidget *
         dock.raise();
     });
     connect(&log, &ConsoleLog::countsChanged, this, &ConsoleButton::showCounts);
+    // The first error is worth a look; who closes the console then has seen it.
+    connect(&log, &ConsoleLog::countsChanged, &dock, [this, &dock] {
+        if (m_log.hasErrors() && !std::exchange(m_opened, true) && !dock.isVisible())
+            click();
+    });
     showCounts();
 }
 

@@ -20,4 +20,5 @@ private:
     void showCounts();
 
     const ConsoleLog &m_log;
+    bool m_opened = false; ///< by an error
 };

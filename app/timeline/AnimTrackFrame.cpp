@@ -107,6 +107,23 @@ bool AnimTrackFrame::eventFilter(QObject *watched, QEvent *event)
     return QFrame::eventFilter(watched, event);
 }
 
+QSize AnimTrackFrame::minimumSizeHint() const
+{
+    const QMargins margins = m_ui->hlAnimTrack->contentsMargins();
+    const int widest = std::max(m_ui->hlAnimTrackButtons->minimumSize().width(),
+                                m_ui->hlAnimTrackFrames->minimumSize().width());
+    return {widest + margins.left() + margins.right(), m_ui->hlAnimTrack->minimumSize().height()};
+}
+
+void AnimTrackFrame::resizeEvent(QResizeEvent *event)
+{
+    QFrame::resizeEvent(event);
+    const QMargins margins = m_ui->hlAnimTrack->contentsMargins();
+    const int oneRow = m_ui->hlAnimTrackButtons->sizeHint().width() + m_ui->hlAnimTrack->spacing() +
+                       m_ui->hlAnimTrackFrames->sizeHint().width() + margins.left() + margins.right();
+    m_ui->hlAnimTrack->setDirection(width() < oneRow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+}
+
 void AnimTrackFrame::openAnimation(const AnimFile *file)
 {
     playback().anim = file;

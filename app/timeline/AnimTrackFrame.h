@@ -40,6 +40,9 @@ public:
     /// for themselves.
     void serve(QWidget &panel);
 
+    /// Of the two rows that there are where one has no room.
+    QSize minimumSizeHint() const override;
+
 signals:
     /// An action of the current block was chosen here.
     void actionChosen(int block, int action);
@@ -48,6 +51,7 @@ signals:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private slots:
     void OnAnimTrackPlayPressed();

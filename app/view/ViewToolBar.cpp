@@ -13,6 +13,7 @@
 #include <QSlider>
 #include <QToolButton>
 #include <QToolTip>
+#include <QWidgetAction>
 
 #include <algorithm>
 #include <cmath>
@@ -23,22 +24,23 @@ constexpr int MaxMoveSpeed = 1000;
 constexpr int MaxBrightness = 4;
 constexpr int Gap = 4; ///< between the controls, in pixels
 
-QSlider *addSlider(QToolBar *bar, const char *name, const QString &labelText, int min, int max, int maxWidth)
+/// A slider with its label before it, both in a panel.
+QSlider *labelledSlider(const QString &text, int min, int max, QWidget *panel)
 {
-    auto *label = new QLabel(labelText);
     auto *slider = new QSlider(Qt::Horizontal);
-    slider->setObjectName(QLatin1String(name));
-    slider->setRange(min, max);
-    slider->setMaximumWidth(maxWidth);
-    slider->setPageStep(std::max(1, (max - min) / 20));
-    slider->setAccessibleName(labelText.trimmed());
-    slider->setFocusPolicy(Qt::TabFocus);
-    label->setContentsMargins(Gap, 0, 0, 0);
+    auto *label = new QLabel(text);
+    auto *layout = new QHBoxLayout(panel);
+    layout->setContentsMargins(Gap, 0, 0, 0);
+    layout->addWidget(label);
+    layout->addWidget(slider);
     label->setBuddy(slider);
-    bar->addWidget(label);
-    bar->addWidget(slider);
+    slider->setAccessibleName(text.trimmed());
+    slider->setRange(min, max);
+    slider->setPageStep(std::max(1, (max - min) / 20));
+    slider->setFocusPolicy(Qt::TabFocus);
     return slider;
 }
+
 } // namespace
 
 ViewToolBar::ViewToolBar(const QString &title, const ViewActions &actions, QWidget *parent)
@@ -72,10 +74,20 @@ ViewToolBar::ViewToolBar(const QString &title, const ViewActions &actions, QWidg
     m_surfSelect->setToolTip(
         tr("How the selected surface is marked; the hidden kinds show through the model"));
     m_surfSelect->setAccessibleName(tr("Selection display"));
-    addWidget(m_surfSelect);
+    addRoomy(m_surfSelect, [this](QWidget *menu) {
+        auto *twin = new QComboBox(menu);
+        twin->setModel(m_surfSelect->model());
+        twin->setAccessibleName(m_surfSelect->accessibleName());
+        twin->setCurrentIndex(m_surfSelect->currentIndex());
+        connect(twin, QOverload<int>::of(&QComboBox::currentIndexChanged), m_surfSelect,
+                &QComboBox::setCurrentIndex);
+        connect(m_surfSelect, QOverload<int>::of(&QComboBox::currentIndexChanged), twin,
+                &QComboBox::setCurrentIndex);
+        return twin;
+    });
     addSeparator();
-    m_moveSpeed = addSlider(this, "sliderMoveSpeed", tr("Move Speed "), MinMoveSpeed, MaxMoveSpeed, 128);
-    m_brightness = addSlider(this, "sliderBrightness", tr("Brightness "), 0, MaxBrightness, 32);
+    m_moveSpeed = addSlider("sliderMoveSpeed", tr("Move Speed "), MinMoveSpeed, MaxMoveSpeed, 128);
+    m_brightness = addSlider("sliderBrightness", tr("Brightness "), 0, MaxBrightness, 32);
 
     setBackgroundColor(Settings::BGColor.value());
     setSurfSelectType(Settings::SurfSelectType.value());
@@ -89,6 +101,55 @@ ViewToolBar::ViewToolBar(const QString &title, const ViewActions &actions, QWidg
     connect(m_brightness, &QSlider::valueChanged, this, &ViewToolBar::brightnessChanged);
     connect(m_moveSpeed, &QSlider::valueChanged, this, &ViewToolBar::updateToolTips);
     connect(m_brightness, &QSlider::valueChanged, this, &ViewToolBar::updateToolTips);
+}
+
+void ViewToolBar::addRoomy(QWidget *control, const MakeTwin &makeTwin)
+{
+    addWidget(control);
+    m_roomy.append({control, makeTwin});
+}
+
+QSlider *ViewToolBar::addSlider(const char *name, const QString &label, int min, int max, int maxWidth)
+{
+    auto *panel = new QWidget;
+    panel->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+    QSlider *shown = labelledSlider(label, min, max, panel);
+    shown->setObjectName(QLatin1String(name));
+    shown->setMaximumWidth(maxWidth);
+    addRoomy(panel, [=](QWidget *menu) {
+        auto *twinPanel = new QWidget(menu);
+        QSlider *twin = labelledSlider(label, min, max, twinPanel);
+        twin->setValue(shown->value());
+        connect(twin, &QSlider::valueChanged, shown, &QSlider::setValue);
+        connect(shown, &QSlider::valueChanged, twin, &QSlider::setValue);
+        return twinPanel;
+    });
+    return shown;
+}
+
+bool ViewToolBar::event(QEvent *event)
+{
+    const bool isHandled = QToolBar::event(event);
+    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest)
+        fillMore();
+    return isHandled;
+}
+
+void ViewToolBar::fillMore()
+{
+    auto *more = findChild<QToolButton *>(QStringLiteral("qt_toolbar_ext_button"));
+    QMenu *menu = more ? more->menu() : nullptr;
+    if (!menu)
+        return;
+    qDeleteAll(menu->findChildren<QWidgetAction *>(QString(), Qt::FindDirectChildrenOnly));
+    for (const Roomy &each : qAsConst(m_roomy)) {
+        if (!each.control->isHidden())
+            continue;
+        auto *action = new QWidgetAction(menu);
+        action->setDefaultWidget(each.makeTwin(menu));
+        menu->addAction(action);
+        more->setEnabled(true); // which the toolkit does for the sake of buttons alone
+    }
 }
 
 void ViewToolBar::addMenu(QMenu *menu)

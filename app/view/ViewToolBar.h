@@ -3,6 +3,9 @@
 #pragma once
 
 #include <QToolBar>
+#include <QVector>
+
+#include <functional>
 
 class QAction;
 class QColor;
@@ -52,13 +55,27 @@ signals:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    bool event(QEvent *event) override;
 
 private:
+    using MakeTwin = std::function<QWidget *(QWidget *menu)>;
+    /// A control that takes room, and what makes one that does the same in the menu of what has none.
+    struct Roomy
+    {
+        QWidget *control;
+        MakeTwin makeTwin;
+    };
+
     void addMenu(QMenu *menu);
+    void addRoomy(QWidget *control, const MakeTwin &makeTwin);
+    QSlider *addSlider(const char *name, const QString &label, int min, int max, int maxWidth);
+    /// Puts twins of the controls that have no room into the menu that the toolkit offers for buttons.
+    void fillMore();
     void updateToolTips();
 
     QPushButton *m_bgColor;
     QComboBox *m_surfSelect;
     QSlider *m_moveSpeed;
     QSlider *m_brightness;
+    QVector<Roomy> m_roomy;
 };

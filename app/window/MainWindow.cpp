@@ -215,6 +215,8 @@ void MainWindow::connectActions()
         connect(m_preferences, &Preferences::foldersChanged, viewport, &KVOpenGLWidget::rebuildModel);
     connect(m_preferences, &Preferences::foldersChanged, m_problems, &Problems::recheck);
     connect(m_preferences, &Preferences::accepted, m_explorerFiles, &ExplorerFiles::OnOptionsAccepted);
+    connect(m_panes, &DocumentPanes::currentChanged, m_layout,
+            [this] { m_layout->setModelShown(m_panes->current()); });
 }
 
 void MainWindow::paintEvent(QPaintEvent *event)

@@ -24,6 +24,9 @@ constexpr int FrameWidth = 24;
 constexpr int FrameHeight = 72;
 /// Beyond any desktop, and far from the end of an int.
 constexpr int CoordinateLimit = 1 << 20;
+/// What the frame of a window that was never shown may take; nobody knows it yet.
+constexpr int NewFrameWidth = 8;
+constexpr int NewFrameHeight = 40;
 } // namespace
 
 WindowGeometry::WindowGeometry(QWidget *window)
@@ -55,9 +58,11 @@ void WindowGeometry::restore()
     const QPoint stored = hasPosition ? Settings::MainWindowPos.value() : m_window->pos();
     const QPoint position(std::clamp(stored.x(), -CoordinateLimit, CoordinateLimit),
                           std::clamp(stored.y(), -CoordinateLimit, CoordinateLimit));
-    const QRect placed = onScreen({position, wanted}, screens);
-    if (!size.isEmpty())
-        m_window->resize(placed.size());
+    QRect placed = onScreen({position, wanted}, screens);
+    if (size.isEmpty() && !screens.isEmpty())
+        placed.setSize(
+            placed.size().boundedTo(screens.first().size() - QSize(NewFrameWidth, NewFrameHeight)));
+    m_window->resize(placed.size());
     if (hasPosition)
         m_window->move(placed.topLeft());
     m_normal = m_previous = {m_window->pos(), m_window->size()};

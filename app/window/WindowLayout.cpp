@@ -8,6 +8,8 @@
 #include <QMainWindow>
 #include <QSplitter>
 
+#include <utility>
+
 WindowLayout::WindowLayout(QMainWindow *window)
     : QObject(window)
     , m_window(window)
@@ -16,16 +18,31 @@ WindowLayout::WindowLayout(QMainWindow *window)
     m_defaults = m_window->saveState();
 }
 
+void WindowLayout::setModelShown(bool shown)
+{
+    if (shown) {
+        for (QDockWidget *dock : std::exchange(m_aside, {}))
+            dock->show();
+        return;
+    }
+    for (QDockWidget *dock : m_window->findChildren<QDockWidget *>()) {
+        if (!dock->isHidden() && !dock->isFloating()) {
+            m_aside.append(dock);
+            dock->hide();
+        }
+    }
+}
+
 void WindowLayout::setDefaults()
 {
     const auto splitter = [this](const char *name) {
         return m_window->findChild<QSplitter *>(QLatin1String(name));
     };
     for (const char *name : {"splitterSkinnedRecords", "splitterStaticRecords"})
-        splitter(name)->setSizes({300, 500});
+        splitter(name)->setSizes({400, 400});
     for (const char *name : {"splitterSkinned", "splitterStatic"}) {
         splitter(name)->setStretchFactor(1, 1);
-        splitter(name)->setSizes({230, 800, 400});
+        splitter(name)->setSizes({186, 922, 320});
     }
     auto *console = m_window->findChild<QDockWidget *>(QStringLiteral("dockConsole"));
     m_window->tabifyDockWidget(console, m_window->findChild<QDockWidget *>(QStringLiteral("dockProblems")));
@@ -33,8 +50,9 @@ void WindowLayout::setDefaults()
     m_window->resizeDocks({console}, {200}, Qt::Vertical);
 }
 
-void WindowLayout::store() const
+void WindowLayout::store()
 {
+    setModelShown(true); // which is how the window comes back
     QVariantMap splitters;
     for (const QSplitter *splitter : m_window->findChildren<QSplitter *>()) {
         if (!splitter->objectName().isEmpty())

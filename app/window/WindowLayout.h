@@ -3,11 +3,14 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QObject>
 
+class QDockWidget;
 class QMainWindow;
 
-/// Where the docks, tool bars and splitters of the main window stand; they are told apart by object name.
+/// Where the docks, tool bars and splitters of the main window stand; they are told apart by object name. Docks
+/// are about models: while a tab without models is shown, they give it their room.
 class WindowLayout : public QObject
 {
     Q_OBJECT
@@ -17,9 +20,13 @@ public:
     explicit WindowLayout(QMainWindow *window);
 
     /// Stores their places.
-    void store() const;
+    void store();
     /// Puts them where they were; what was never stored stays as it is.
     void restore();
+
+    /// Takes the docks out of sight where no model is shown, and brings the same ones back. What is opened on
+    /// purpose is there all the same.
+    void setModelShown(bool shown);
 
 public slots:
     void on_actionResetLayout_triggered();
@@ -29,5 +36,6 @@ private:
     void setDefaults();
 
     QMainWindow *m_window;
+    QList<QDockWidget *> m_aside; ///< hidden as long as no model is shown
     QByteArray m_defaults; ///< of docks and tool bars
 };

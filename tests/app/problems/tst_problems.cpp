@@ -25,6 +25,7 @@ private slots:
         Settings::AnimationAutoPlay.setValue(false);
         m_window = std::make_unique<ShownWindow>();
         m_window->resize(1400, 1000);
+        find<QDockWidget>("dockProblems")->show();
         m_window->resizeDocks({find<QDockWidget>("dockProblems")}, {400}, Qt::Vertical);
     }
 

@@ -318,9 +318,9 @@ private slots:
         {
             ShownWindow window;
             find<QSplitter>(window, "splitterSkinned")->setSizes({300, 700, 440});
-            find<QDockWidget>(window, "dockConsole")->hide();
             QVERIFY(!find<QDockWidget>(window, "dockServers")->isVisible());
             find<QAction>(window, "actionQueryServers")->trigger();
+            find<QDockWidget>(window, "dockConsole")->show();
             stored = sizes(window);
             window.close();
         }
@@ -328,10 +328,10 @@ private slots:
         QCOMPARE(sizes(window), stored);
         auto *console = find<QDockWidget>(window, "dockConsole");
         auto *servers = find<QDockWidget>(window, "dockServers");
-        QVERIFY(!console->isVisible() && servers->isVisible());
+        QVERIFY(console->isVisible() && servers->isVisible());
         console->setFloating(true);
         find<QAction>(window, "actionResetLayout")->trigger();
-        QVERIFY(!console->isFloating() && console->isVisible() && !servers->isVisible());
+        QVERIFY(!console->isFloating() && !console->isVisible() && !servers->isVisible());
     }
 
 private:

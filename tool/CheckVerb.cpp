@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
+#include "Companions.h"
 #include "Faults.h"
 #include "GameFolders.h"
 #include "ModelFile.h"
@@ -95,7 +96,8 @@ int check(const QStringList &arguments)
 
     const bool json = line.isSet(QStringLiteral("json"));
     const MaterialFolders folders = chosenFolders(line);
-    const CheckBasis basis{ReferenceIds::load(),
+    Companions companions(folders);
+    const CheckBasis basis{ReferenceIds::load(), companions,
                            line.isSet(QStringLiteral("all")) ? INT_MAX : ListedFindings};
     if (folders.gamePath.isEmpty())
         Output::complain(

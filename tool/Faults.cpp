@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Faults.h"
 
-#include "Companion.h"
+#include "Companions.h"
 #include "ModelFile.h"
 #include "Validation.h"
 
@@ -71,7 +71,7 @@ struct Validator
     std::vector<Finding> operator()(const AnimFile &anim) const
     {
         FileContent companion;
-        const QString path = companionOf(file, folders);
+        const QString path = basis.companions.find(file).path;
         // One that cannot be read has faults of its own, and says nothing about the animation.
         const bool readable = !path.isEmpty() && readFile(path, companion).isEmpty();
         return validate(anim, readable ? std::get_if<SkinnedMesh>(&companion) : nullptr, basis.ids,

@@ -10,6 +10,7 @@
 #include <optional>
 #include <vector>
 
+class Companions;
 struct MaterialFolders;
 
 /// One thing that is wrong with a file.
@@ -26,6 +27,7 @@ struct Fault
 struct CheckBasis
 {
     ReferenceIds ids;
+    Companions &companions;
     int listed = 0; ///< faults of one rule in one file
 };
 

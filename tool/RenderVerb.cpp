@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "BoundingSphere.h"
 #include "CommandLine.h"
-#include "Companion.h"
+#include "Companions.h"
 #include "FrameChoice.h"
 #include "Framing.h"
 #include "GameFolders.h"
@@ -67,7 +67,7 @@ QString read(const QString &file, const QString &animPath, const MaterialFolders
     if (std::holds_alternative<AnimFile>(subject.mesh) && animPath.isEmpty()) {
         subject.anim = std::move(subject.mesh);
         subject.animPath = file;
-        subject.meshPath = companionOf(file, folders);
+        subject.meshPath = Companions(folders).find(file).path;
         if (subject.meshPath.isEmpty())
             return QStringLiteral("%1: There is no skinned mesh of this name for the animation.").arg(file);
         error = load(subject.meshPath, subject.mesh);
@@ -82,7 +82,7 @@ QString read(const QString &file, const QString &animPath, const MaterialFolders
         return {};
     const bool asked = !animPath.isEmpty();
     if (!asked)
-        subject.animPath = companionOf(file, folders);
+        subject.animPath = Companions(folders).find(file).path;
     if (subject.animPath.isEmpty())
         return {};
     error = load(subject.animPath, subject.anim);

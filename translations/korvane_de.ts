@@ -797,6 +797,49 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
 </context>
 <context>
+    <name>AnimationFollower</name>
+    <message>
+        <source>Animations Found</source>
+        <translation>Gefundene Animationen</translation>
+    </message>
+    <message>
+        <source>Open Animation…</source>
+        <translation>Animation öffnen…</translation>
+    </message>
+    <message>
+        <source>Choose an animation file</source>
+        <translation>Eine Animationsdatei wählen</translation>
+    </message>
+    <message>
+        <source>Hide this notice</source>
+        <translation>Diesen Hinweis ausblenden</translation>
+    </message>
+    <message>
+        <source>Open What Was Found</source>
+        <translation>Gefundene öffnen</translation>
+    </message>
+    <message>
+        <source>Animation files that may belong to the mesh</source>
+        <translation>Animationsdateien, die zum Netz gehören könnten</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; was opened without its animation.</source>
+        <translation>„%1“ wurde ohne die zugehörige Animation geöffnet.</translation>
+    </message>
+    <message>
+        <source>It is not certain which animation belongs to &apos;%1&apos;.</source>
+        <translation>Es ist nicht sicher, welche Animation zu „%1“ gehört.</translation>
+    </message>
+    <message>
+        <source>No animation was found for &apos;%1&apos;; &apos;%2&apos; stays open.</source>
+        <translation>Für „%1“ wurde keine Animation gefunden, „%2“ bleibt geöffnet.</translation>
+    </message>
+    <message>
+        <source>No animation was found for &apos;%1&apos;.</source>
+        <translation>Für „%1“ wurde keine Animation gefunden.</translation>
+    </message>
+</context>
+<context>
     <name>AppearanceBox</name>
     <message>
         <source>Appearance</source>

@@ -80,6 +80,19 @@ void DocumentFiles::on_actionSaveToMod_triggered()
 
 bool DocumentFiles::open(DocumentType type, const QString &path)
 {
+    const bool failed = load(type, path);
+    if (!failed)
+        emit opened(type);
+    return failed;
+}
+
+bool DocumentFiles::reload(DocumentType type)
+{
+    return load(type, document(type)->path());
+}
+
+bool DocumentFiles::load(DocumentType type, const QString &path)
+{
     QString reason;
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const bool failed = document(type)->open(path, &reason);

@@ -28,6 +28,8 @@ public:
 
     /// Loads a file without asking about unsaved changes. Returns true on failure, after saying so.
     bool open(DocumentType type, const QString &path);
+    /// The same with the file that is open.
+    bool reload(DocumentType type);
     /// Lets the user choose a file and loads it.
     void openChosen(DocumentType type);
 
@@ -56,10 +58,13 @@ public slots:
     void on_actionSaveAll_triggered() { saveAll(); }
 
 signals:
+    /// The user has opened a file, by whatever way.
+    void opened(DocumentType type);
     /// The document was written: its path or its modified mark may be new.
     void saved(DocumentType type);
 
 private:
+    bool load(DocumentType type, const QString &path);
     bool hasUnsavedWork(DocumentType type) const;
     QString targetOfSave(DocumentType type);
     QString chooseTarget(DocumentType type);

@@ -69,7 +69,7 @@ void ReloadPrompt::reload(DocumentType type)
             return;
     }
     // A file that cannot be read leaves the document as it is.
-    if (m_files.open(type, document->path()))
+    if (m_files.reload(type))
         keep(type);
 }
 

@@ -9,15 +9,12 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QDir>
-#include <QFileInfo>
 
 ExplorerFiles::ExplorerFiles(DocumentFiles &files, const std::array<FolderExplorer *, 3> &explorers,
-                             QAction *syncAnimation, QObject *parent)
+                             QObject *parent)
     : QObject(parent)
     , m_files(files)
     , m_explorers(explorers)
-    , m_syncAnimation(syncAnimation)
 {
     for (const DocumentKind &kind : documentKinds()) {
         const DocumentType type = kind.type;
@@ -26,11 +23,6 @@ ExplorerFiles::ExplorerFiles(DocumentFiles &files, const std::array<FolderExplor
             &explorer(type), &FolderExplorer::fileChosen, this,
             [this, type](const QString &path) { open(type, path); }, Qt::QueuedConnection);
     }
-    Settings::AnimationSyncSkin.ensure();
-    syncAnimation->setChecked(Settings::AnimationSyncSkin.value());
-    explorer(DocumentType::Anim).addExtraAction(syncAnimation);
-    connect(syncAnimation, &QAction::triggered, this, &ExplorerFiles::OnActionAnimSyncSkinSelect);
-
     // One for all explorers.
     auto *emptyFolders = new QAction(tr("Show Emp&ty Folders"), this);
     emptyFolders->setObjectName(QStringLiteral("actionExplorerEmptyFolders"));
@@ -61,11 +53,6 @@ void ExplorerFiles::OnActionEmptyFolders(bool on)
         each->showEmptyFolders(on);
 }
 
-void ExplorerFiles::OnActionAnimSyncSkinSelect(bool on)
-{
-    Settings::AnimationSyncSkin.setValue(on);
-}
-
 void ExplorerFiles::on_actionRefreshExplorers_triggered()
 {
     for (FolderExplorer *each : m_explorers)
@@ -87,19 +74,4 @@ void ExplorerFiles::open(DocumentType type, const QString &path)
     if (m_files.open(type, path))
         return;
     emit opened(type);
-    if (type == DocumentType::SkinnedMesh && m_syncAnimation->isChecked())
-        openMatchingAnimation(path);
-}
-
-void ExplorerFiles::openMatchingAnimation(const QString &meshPath)
-{
-    const QFileInfo mesh(meshPath);
-    FolderExplorer &animations = explorer(DocumentType::Anim);
-    const QString path = animations.findMatching(mesh.dir().dirName(), mesh.completeBaseName());
-    if (path.isEmpty())
-        return;
-    if (path != m_files.document(DocumentType::Anim)->path() &&
-        (!m_files.promptUnsaved(DocumentType::Anim) || m_files.open(DocumentType::Anim, path)))
-        return;
-    animations.selectPath(path);
 }

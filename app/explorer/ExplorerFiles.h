@@ -8,18 +8,15 @@
 
 class DocumentFiles;
 class FolderExplorer;
-class QAction;
 
-/// Opens what is picked in the folder explorers, after asking for unsaved changes, and the animation that
-/// belongs to a skinned mesh along with it.
+/// Opens what is picked in the folder explorers, after asking for unsaved changes.
 class ExplorerFiles : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `explorers` in the order of documentKinds(); `syncAnimation` switches the following on and off.
-    ExplorerFiles(DocumentFiles &files, const std::array<FolderExplorer *, 3> &explorers,
-                  QAction *syncAnimation, QObject *parent);
+    /// `explorers` in the order of documentKinds().
+    ExplorerFiles(DocumentFiles &files, const std::array<FolderExplorer *, 3> &explorers, QObject *parent);
 
 signals:
     void opened(DocumentType type);
@@ -31,15 +28,12 @@ public slots:
     void OnOptionsAccepted();
 
 private slots:
-    void OnActionAnimSyncSkinSelect(bool on);
     void OnActionEmptyFolders(bool on);
 
 private:
     FolderExplorer &explorer(DocumentType type) { return *m_explorers[size_t(type)]; }
     void open(DocumentType type, const QString &path);
-    void openMatchingAnimation(const QString &meshPath);
 
     DocumentFiles &m_files;
     std::array<FolderExplorer *, 3> m_explorers;
-    QAction *m_syncAnimation;
 };

@@ -172,11 +172,6 @@ QStringList FolderExplorer::files() const
     return m_tree->files();
 }
 
-QString FolderExplorer::findMatching(const QString &folderName, const QString &baseName) const
-{
-    return m_tree->findMatching(folderName, baseName);
-}
-
 void FolderExplorer::refill()
 {
     const QString folder = normalizedFolder(m_kind.explorePath.value());

@@ -70,8 +70,6 @@ public:
     void setLoadedPath(const QString &path);
     /// The files that are listed.
     QStringList files() const;
-    /// The file that belongs to a model, as FolderTree::findMatching().
-    QString findMatching(const QString &folderName, const QString &baseName) const;
 
 signals:
     /// By selection while quick select is on, by double click and by Enter.

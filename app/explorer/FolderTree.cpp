@@ -3,7 +3,6 @@
 #include "FolderTree.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QScrollBar>
 #include <QTreeWidgetItemIterator>
 
@@ -263,29 +262,4 @@ QStringList FolderTree::files() const
             paths << item->path();
     }
     return paths;
-}
-
-QString FolderTree::findMatching(const QString &folderName, const QString &baseName) const
-{
-    const auto same = [](const QString &a, const QString &b) {
-        return a.compare(b, Qt::CaseInsensitive) == 0;
-    };
-    QStringList both;
-    QStringList byName;
-    QStringList byFolder;
-    for (const QString &path : files()) {
-        const bool nameFits = same(QFileInfo(path).completeBaseName(), baseName);
-        const bool folderFits = same(QFileInfo(path).dir().dirName(), folderName);
-        if (nameFits && folderFits)
-            both << path;
-        if (nameFits)
-            byName << path;
-        if (folderFits)
-            byFolder << path;
-    }
-    if (!both.isEmpty())
-        return both.first();
-    if (byName.size() == 1)
-        return byName.first();
-    return byFolder.size() == 1 ? byFolder.first() : QString();
 }

@@ -45,10 +45,6 @@ public:
     FolderItem *findItem(const QString &path) const;
     /// The files that are listed.
     QStringList files() const;
-    /// The file that belongs to a model of this folder name and complete base name, compared without case:
-    /// the one with both names, else the only one of that base name, else the only one in the only folder of
-    /// that name that holds files. Empty when none does.
-    QString findMatching(const QString &folderName, const QString &baseName) const;
 
     /// Makes a file the selected one, as soon as it is listed if the folder is being read; false when it is
     /// not listed yet, and then nothing is selected.

@@ -3,6 +3,7 @@
 #include "MainWindow.h"
 
 #include "AboutDialog.h"
+#include "AnimationFollower.h"
 #include "CommandPalette.h"
 #include "ConsoleButton.h"
 #include "ConsoleLog.h"
@@ -151,7 +152,8 @@ void MainWindow::createDocuments()
     connect(m_files, &DocumentFiles::saved, this, &MainWindow::updateCurrentDocument);
     connect(m_importExport, &ImportExport::imported, m_panes, &DocumentPanes::showPane);
 
-    m_explorerFiles = new ExplorerFiles(*m_files, explorers, m_ui->actionAnimSyncSkin, this);
+    m_explorerFiles = new ExplorerFiles(*m_files, explorers, this);
+    new AnimationFollower(*m_files, *explorers[1], *m_ui->actionAnimSyncSkin, *m_ui->vlviewSkinned, this);
     connect(m_explorerFiles, &ExplorerFiles::opened, m_panes, &DocumentPanes::showPane);
     connect(m_ui->actionRefreshExplorers, &QAction::triggered, m_explorerFiles,
             &ExplorerFiles::on_actionRefreshExplorers_triggered);

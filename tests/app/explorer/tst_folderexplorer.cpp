@@ -337,29 +337,6 @@ private slots:
         QDesktopServices::unsetUrlHandler("file");
     }
 
-    void findMatching()
-    {
-        for (const char *file : {"anims/raptor/raptor.anim", "anims/raptor/raptor_old.anim", "a/same.anim",
-                                 "b/same.anim", "b/unique.anim", "single/walk.anim", "x/twice/one.anim",
-                                 "y/twice/two.anim", "b/mesh.skinnedmesh"})
-            touch(QLatin1String(file));
-        Settings::AnimationExplorePath.setValue(m_folder->path());
-        const FolderExplorer explorer(documentKind(DocumentType::Anim));
-        settle(explorer);
-        const auto check = [&](const char *folder, const char *baseName, const char *match) {
-            QCOMPARE(explorer.findMatching(QLatin1String(folder), QLatin1String(baseName)),
-                     *match ? path(QLatin1String(match)) : QString());
-        };
-        check("Raptor", "RAPTOR", "anims/raptor/raptor.anim");
-        check("b", "same", "b/same.anim"); // there is one elsewhere, too
-        check("nowhere", "unique", "b/unique.anim");
-        check("nowhere", "same", "");
-        check("single", "mesh", "single/walk.anim"); // the only one there
-        check("b", "mesh", "");
-        check("twice", "mesh", "");
-        check("nowhere", "nothing", "");
-    }
-
 private:
     void touch(const QString &relativePath) const { m_folder->put(relativePath, {}); }
     QString path(const QString &relativePath) const { return m_folder->path(relativePath); }

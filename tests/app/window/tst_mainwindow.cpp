@@ -3,6 +3,7 @@
 #include "FullDisk.h"
 #include "Hand.h"
 #include "KVOpenGLWidget.h"
+#include "NoticeBar.h"
 #include "Playback.h"
 
 class tst_MainWindow : public QObject
@@ -186,6 +187,67 @@ private slots:
         QCOMPARE(tree->selectedItems().value(0), tree->currentItem());
         pick(0);
         QTRY_COMPARE(window.windowTitle(), QStringLiteral("Korvane - a.skinnedmesh"));
+    }
+
+    void theAnimationFollowsHoweverTheMeshIsOpened()
+    {
+        const QString a = m_files->save("models/a/a.skinnedmesh", triangleMan());
+        const QString own = m_files->save("anims/a/a.anim", twoBlocks());
+        const QString b = m_files->save("models/b/b.skinnedmesh", triangleMan());
+        const QString other = m_files->save("anims/other/walk.anim", twoBlocks());
+        ShownWindow window;
+        auto *bar = find<NoticeBar>(window, "barNoAnimation");
+        auto *offer = find<QPushButton>(window, "btnOfferedAnimation");
+        auto *sync = find<QAction>(window, "actionAnimSyncSkin");
+        const auto animation = [&window] { return rootOf(window, "treeAnim"); };
+        // From the command line, or dropped. A file without one says so, and what was open stays.
+        window.openFiles({a});
+        QTRY_COMPARE(animation(), QStringLiteral("a.anim"));
+        QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - a.skinnedmesh"));
+        window.openFiles({b});
+        QTRY_VERIFY(bar->isVisible());
+        QCOMPARE(bar->text(),
+                 QStringLiteral("No animation was found for 'b.skinnedmesh'; 'a.anim' stays open."));
+        QVERIFY(!offer->isVisible());
+        QTest::mouseClick(find<QWidget>(*bar, "btnNoticeClose"), Qt::LeftButton);
+        QVERIFY(!bar->isVisible());
+
+        // An animation that is opened along is the wanted one, on whichever side of the mesh it is named.
+        window.openFiles({other, a});
+        QTest::qWait(100);
+        QCOMPARE(animation(), QStringLiteral("walk.anim"));
+
+        // By Open; several to choose from.
+        m_files->save("anims/b/run.anim", twoBlocks());
+        m_files->save("anims/b/walk.anim", twoBlocks());
+        Hand hand({Hand::file(b)});
+        find<QTabWidget>(window, "tabTrees")->setCurrentIndex(0);
+        find<QAction>(window, "actionOpen")->trigger();
+        QTRY_VERIFY(offer->isVisible());
+        QCOMPARE(animation(), QStringLiteral("walk.anim"));
+        offer->menu()->popup(QPoint());
+        QTest::keyClick(offer->menu(), Qt::Key_Down);
+        QTest::keyClick(offer->menu(), Qt::Key_Return);
+        QTRY_COMPARE(animation(), QStringLiteral("run.anim"));
+        QVERIFY(!bar->isVisible());
+
+        // By the list of recent files; without following it is offered where what is open does not fit.
+        AnimFile longer = twoBlocks();
+        longer.blocks[0].nodes.resize(3);
+        sync->trigger();
+        window.openFiles({m_files->save("anims/other/longer.anim", longer)});
+        QTest::qWait(1); // not at once with the next
+        auto *recent = find<QMenu>(window, "menuRecent");
+        emit recent->aboutToShow();
+        for (QAction *action : recent->actions()) {
+            if (action->toolTip() == QDir::toNativeSeparators(a))
+                action->trigger();
+        }
+        QTRY_VERIFY(offer->isVisible());
+        QCOMPARE(bar->text(), QStringLiteral("'a.skinnedmesh' was opened without its animation."));
+        QTest::mouseClick(offer, Qt::LeftButton);
+        QCOMPARE(animation(), QStringLiteral("a.anim"));
+        sync->trigger();
     }
 
     void acceptedOptionsFillTheExplorers()

@@ -1,0 +1,159 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "Companions.h"
+
+#include "FolderWalk.h"
+#include "Validation.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+constexpr int MostOthers = 12;
+
+bool isSame(const QString &a, const QString &b)
+{
+    return a.compare(b, Qt::CaseInsensitive) == 0;
+}
+
+/// The candidates of one place, by what fits.
+struct Fitting
+{
+    QStringList both;
+    QStringList byName;
+    QStringList byFolder;
+};
+
+/// What the search compares of a file; `path` is absolute.
+Companions::Candidate candidateOf(const QString &path)
+{
+    const int name = path.lastIndexOf(QLatin1Char('/')) + 1;
+    const int dot = std::max(path.lastIndexOf(QLatin1Char('.')), name);
+    const int folder = path.lastIndexOf(QLatin1Char('/'), name - 2) + 1;
+    return {path, path.mid(folder, std::max(name - 1 - folder, 0)), path.mid(name, dot - name),
+            path.mid(dot + 1)};
+}
+
+/// Where the other kind stands: ".../models/a/b" becomes ".../anims".
+QString folderApart(const QString &folder, const QString &here, const QString &there)
+{
+    QStringList parts = folder.split(QLatin1Char('/'));
+    while (!parts.isEmpty() && !isSame(parts.last(), here))
+        parts.removeLast();
+    if (parts.isEmpty())
+        return {};
+    parts.last() = there;
+    return parts.join(QLatin1Char('/'));
+}
+} // namespace
+
+Companions::Companions(const MaterialFolders &folders, QStringList listed, std::function<bool()> isCancelled)
+    : m_listed(std::move(listed))
+    , m_isCancelled(std::move(isCancelled))
+{
+    for (const QString &folder : {folders.gamePath, folders.outputDir}) {
+        if (!folder.isEmpty())
+            m_roots += QDir(folder).absolutePath();
+    }
+}
+
+bool Companions::haveOneName(const QString &file, const QString &other)
+{
+    return isSame(QFileInfo(file).completeBaseName(), QFileInfo(other).completeBaseName());
+}
+
+const QVector<Companions::Candidate> &Companions::filesBelow(const QString &folder)
+{
+    const auto known = m_files.constFind(folder);
+    if (known != m_files.constEnd())
+        return *known;
+    QStringList paths;
+    walkFolder(folder, [&](const FolderEntry &entry) {
+        if (!entry.isFolder && (entry.path.endsWith(QLatin1String(".anim"), Qt::CaseInsensitive) ||
+                                entry.path.endsWith(QLatin1String(".skinnedmesh"), Qt::CaseInsensitive)))
+            paths += entry.path;
+        return !m_isCancelled || !m_isCancelled();
+    });
+    paths.sort(Qt::CaseInsensitive);
+    QVector<Candidate> files;
+    for (const QString &path : qAsConst(paths))
+        files += candidateOf(path);
+    return *m_files.insert(folder, files);
+}
+
+CompanionFile Companions::find(const QString &file)
+{
+    const Candidate known = candidateOf(QDir::cleanPath(QFileInfo(file).absoluteFilePath()));
+    const bool isAnim = isSame(known.suffix, QStringLiteral("anim"));
+    const QString suffix = isAnim ? QStringLiteral("skinnedmesh") : QStringLiteral("anim");
+    const QString here = isAnim ? QStringLiteral("anims") : QStringLiteral("models");
+    const QString there = isAnim ? QStringLiteral("models") : QStringLiteral("anims");
+    const QString folder = QFileInfo(known.path).path();
+    const QString apart = folderApart(folder, here, there);
+    // The place of the file among its kind: "/a/b.anim".
+    const QString place =
+        (apart.isEmpty() ? QString() : folder.mid(apart.size() - there.size() + here.size())) +
+        QLatin1Char('/') + known.base + QLatin1Char('.') + suffix;
+
+    QVector<Candidate> beside;
+    int alike = 0;
+    for (const QString &name : QDir(folder).entryList(QDir::Files, QDir::Name)) {
+        beside += candidateOf(QDir(folder).filePath(name));
+        alike += isSame(beside.last().suffix, known.suffix) ? 1 : 0;
+    }
+    QVector<Candidate> listed;
+    for (const QString &path : qAsConst(m_listed))
+        listed += candidateOf(path);
+    QStringList roots{apart};
+    for (const QString &root : qAsConst(m_roots))
+        roots += root + QLatin1Char('/') + there;
+    roots.removeDuplicates();
+    QVector<QVector<Candidate>> places{beside};
+    for (const QString &root : qAsConst(roots))
+        places += root.isEmpty() ? QVector<Candidate>() : filesBelow(root);
+    places.insert(2, listed);
+
+    QVector<Fitting> fitting;
+    QSet<QString> seen;
+    for (const QVector<Candidate> &files : qAsConst(places)) {
+        Fitting fits;
+        for (const Candidate &each : files) {
+            const bool nameFits = isSame(each.base, known.base);
+            const bool folderFits = isSame(each.folder, known.folder);
+            if (!(nameFits || folderFits) || !isSame(each.suffix, suffix) || seen.contains(each.path))
+                continue;
+            seen.insert(each.path);
+            QStringList &list = nameFits && folderFits ? fits.both : nameFits ? fits.byName : fits.byFolder;
+            if (nameFits && each.path.endsWith(place, Qt::CaseInsensitive))
+                list.prepend(each.path);
+            else
+                list += each.path;
+        }
+        fitting += fits;
+    }
+
+    CompanionFile found;
+    const auto decide = [&found, &fitting](QStringList Fitting::*list, int first, bool takesFirst) {
+        for (int i = first; i < fitting.size(); ++i) {
+            const QStringList &files = fitting[i].*list;
+            if (files.isEmpty())
+                continue;
+            if (takesFirst || files.size() == 1)
+                found.path = files.first();
+            return true;
+        }
+        return false;
+    };
+    if (!decide(&Fitting::both, 0, true) && !decide(&Fitting::byName, 0, false))
+        decide(&Fitting::byFolder, alike == 1 ? 0 : 1, false);
+    for (QStringList Fitting::*list : {&Fitting::both, &Fitting::byName, &Fitting::byFolder}) {
+        for (const Fitting &fits : qAsConst(fitting))
+            found.others += fits.*list;
+    }
+    found.others.removeAll(found.path);
+    found.others = found.others.mid(0, MostOthers);
+    return found;
+}

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <functional>
+
+struct MaterialFolders;
+
+/// The file that belongs to another one, and what else there is.
+struct CompanionFile
+{
+    QString path;       ///< empty when there is none, or no telling which
+    QStringList others; ///< files that it could be as well, the likelier first
+};
+
+/// Which animation file belongs to a skinned mesh, and the other way about.
+///
+/// Both have the same complete base name, in any case, and stand beside each other or where game and mod keep
+/// the two apart: in folders of one name below "models" and below "anims". Looked at are, in this order, the
+/// file's own folder; the "anims" beside the "models" around it, or the other way about; the files of a list;
+/// those of the game's folder and those of the mod's. A file in a folder of the same name comes first, then
+/// the only one of that name. Only where no file has it, the folder's name decides, if there is but one file
+/// in it; and beside the file, if the two are alone of their kinds. Of several none is taken.
+class Companions
+{
+public:
+    /// `listed` are files that somebody looks at, of any kind. A search ends early, without a result, when
+    /// `isCancelled` says so.
+    explicit Companions(const MaterialFolders &folders, QStringList listed = {},
+                        std::function<bool()> isCancelled = {});
+
+    /// Looks through the folders, each once for all calls.
+    CompanionFile find(const QString &file);
+    /// Whether `file` may be the companion of `other` by its names, wherever the two are.
+    static bool haveOneName(const QString &file, const QString &other);
+
+    /// A file by what is compared: its folder's name, complete base name, suffix.
+    struct Candidate
+    {
+        QString path, folder, base, suffix;
+    };
+
+private:
+    const QVector<Candidate> &filesBelow(const QString &folder);
+
+    QStringList m_roots; ///< of the game and the mod
+    QStringList m_listed;
+    std::function<bool()> m_isCancelled;
+    QHash<QString, QVector<Candidate>> m_files; ///< by the folder that they were looked for in
+};

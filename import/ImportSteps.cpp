@@ -2,17 +2,32 @@
 // SPDX-License-Identifier: MIT
 #include "ImportSteps.h"
 
+#include "BinaryFileWriter.h"
 #include "Fuzzy.h"
 #include "ImportFlags.h"
 #include "Transform.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
 
 namespace {
 constexpr float PitchOfSkinnedMesh = 90.0f;
 constexpr float PitchOfStaticMesh = -90.0f;
+
+/// What there is of it in ASCII, without accents, and a number that only this name gives.
+QString asciiName(const QString &name)
+{
+    QString ascii;
+    for (const QChar each : name.normalized(QString::NormalizationForm_KD)) {
+        if (each.unicode() >= ' ' && each.unicode() < 127)
+            ascii += each;
+    }
+    const QByteArray hash = QCryptographicHash::hash(name.toUtf8(), QCryptographicHash::Sha1);
+    return (QStringList(ascii.trimmed()) << QString::fromLatin1(hash.left(3).toHex()))
+        .join(ascii.trimmed().isEmpty() ? QString() : QStringLiteral("_"));
+}
 
 template <typename Mesh>
 void scaleImported(Mesh &mesh, float factor)
@@ -24,7 +39,19 @@ void scaleImported(Mesh &mesh, float factor)
 
 QString defaultKMatPath(const QString &modelPath)
 {
-    return QStringLiteral("materials/mat_%1.kmat").arg(QFileInfo(modelPath).completeBaseName());
+    const QString name =
+        QFileInfo(modelPath).completeBaseName().normalized(QString::NormalizationForm_C); // é in one
+    return QStringLiteral("materials/mat_%1.kmat")
+        .arg(BinaryFileWriter::canWrite(name) ? name : asciiName(name));
+}
+
+QString kmatPathProblem(const QString &path)
+{
+    if (BinaryFileWriter::canWrite(path))
+        return {};
+    return QCoreApplication::translate("ImportDialog",
+                                       "A model cannot name '%1': it holds characters outside of Latin-1.")
+        .arg(path);
 }
 
 QString withKMatSuffix(const QString &path)

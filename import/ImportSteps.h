@@ -26,8 +26,12 @@ struct ImportChoices
     qint32 animVersion = 2;
 };
 
-/// The material file named after a model, relative to the mod folder.
+/// The material file named after a model, relative to the mod folder. Surfaces name it in Latin-1: for
+/// another name stands one in ASCII, which no other model's is.
 QString defaultKMatPath(const QString &modelPath);
+
+/// Why surfaces cannot refer to that file; empty when they can.
+QString kmatPathProblem(const QString &path);
 
 /// Surfaces refer to the material file by its name without the extension, which so has to be this one.
 QString withKMatSuffix(const QString &path);

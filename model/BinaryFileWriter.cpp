@@ -39,6 +39,12 @@ void BinaryFileWriter::writeVec4(const QVector4D &value)
     writeFloats(v, 4);
 }
 
+bool BinaryFileWriter::canWrite(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(),
+                       [](QChar each) { return each.unicode() > 0 && each.unicode() < 256; });
+}
+
 void BinaryFileWriter::writeString(const QString &text)
 {
     const QByteArray latin1 = text.toLatin1();

@@ -36,6 +36,8 @@ public:
     /// Latin-1 bytes and a 0 byte. A character outside Latin-1 becomes "?"; a null character ends the text,
     /// as it would when read back.
     void writeString(const QString &text);
+    /// Whether it reads back as it was.
+    static bool canWrite(const QString &text);
 
     void writeFloats(const float *values, size_t count) { writeArray(values, count); }
     void writeUInt16s(const std::vector<quint16> &values) { writeArray(values.data(), values.size()); }

@@ -75,6 +75,11 @@ bool choosePaths(ImportChoices &choices, const CommandLine &line)
         inside(choices.textureFolder, QStringLiteral("texture-folder"),
                line.value(QStringLiteral("texture-folder"))))
         return true;
+    const QString problem = kmatPathProblem(choices.kmatPath);
+    if (!problem.isEmpty()) {
+        line.refuse(QStringLiteral("--kmat: ") + problem);
+        return true;
+    }
     // Nothing goes into the mod folder otherwise, so there need not be one.
     if (!choices.copyTextures && !choices.createKMat)
         return false;

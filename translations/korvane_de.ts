@@ -2292,6 +2292,10 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
         <source>&amp;Import!</source>
         <translation>&amp;Importieren!</translation>
     </message>
+    <message>
+        <source>A model cannot name &apos;%1&apos;: it holds characters outside of Latin-1.</source>
+        <translation>Ein Modell kann „%1“ nicht nennen: Es enthält Zeichen außerhalb von Latin-1.</translation>
+    </message>
 </context>
 <context>
     <name>ImportExport</name>

@@ -233,7 +233,7 @@ void ImportDialog::OnTxtKMatPathChanged()
     const QString typed = QDir::fromNativeSeparators(m_ui->txtKMatPath->text());
     if (typed.isEmpty())
         m_choices.kmatPath = defaultKMatPath(m_choices.modelPath);
-    else if (typed != m_choices.kmatPath && !refusePath(typed))
+    else if (typed != m_choices.kmatPath && !refusePath(typed, kmatPathProblem(typed)))
         m_choices.kmatPath = withKMatSuffix(pathInside(m_choices.modFolder, typed));
     m_ui->txtKMatPath->setText(QDir::toNativeSeparators(m_choices.kmatPath));
 }
@@ -246,14 +246,16 @@ void ImportDialog::OnTxtTexPathChanged()
     m_ui->txtTexPath->setText(QDir::toNativeSeparators(m_choices.textureFolder));
 }
 
-/// Says so and returns true when the path is not inside the mod folder.
-bool ImportDialog::refusePath(const QString &path)
+/// Says so and returns true when the path is not inside the mod folder, or models cannot name it.
+bool ImportDialog::refusePath(const QString &path, const QString &problem)
 {
-    if (!pathInside(m_choices.modFolder, path).isNull())
+    const bool isInside = !pathInside(m_choices.modFolder, path).isNull();
+    if (isInside && problem.isEmpty())
         return false;
     ++m_refusals;
     if (!m_leaving)
-        QMessageBox::warning(this, tr("kmat Path Error"), tr("Path must be relative to Turok 2 Folder"));
+        QMessageBox::warning(this, tr("kmat Path Error"),
+                             isInside ? problem : tr("Path must be relative to Turok 2 Folder"));
     return true;
 }
 

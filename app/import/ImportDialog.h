@@ -75,7 +75,7 @@ private:
     void connectEditors();
     void updateElapsed();
     void updateImportButton();
-    bool refusePath(const QString &path);
+    bool refusePath(const QString &path, const QString &problem = {});
 
     void onFinished(const ImportMessages &messages, const QString &outcome);
     void showSuccess(const ImportMessages &messages, const QString &outcome);

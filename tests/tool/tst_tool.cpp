@@ -266,6 +266,9 @@ private slots:
         QVERIFY2(broken.err.contains("Could not read file"), qUtf8Printable(broken.err));
         QVERIFY(!QFileInfo::exists(path("x.skinnedmesh")));
         const ToolRun missing("import -o", {path(), path("none.obj")});
+        const ToolRun unnamed("import --kmat materials/кот -o", {path(), path("x.gltf")});
+        QCOMPARE(unnamed.exitCode, 2);
+        QVERIFY(unnamed.err.contains("outside of Latin-1"));
         QCOMPARE(missing.exitCode, 1);
         QVERIFY(missing.err.contains("none.obj: There is no such file"));
     }

@@ -3,6 +3,7 @@
 #include "Hand.h"
 #include "ImportDialog.h"
 #include "ImportFilter.h"
+#include "ImportSteps.h"
 #include "KMat.h"
 
 #include <algorithm>
@@ -104,6 +105,30 @@ private slots:
             type(dialog, edit, m_mod->path(QStringLiteral("sub/a.kmat")));
             QCOMPARE(find<QLineEdit>(dialog, edit)->text(), QStringLiteral("sub/a.kmat"));
         }
+        // Nor does a model name a file that its text cannot; a name of its own is proposed for such a model.
+        {
+            Hand hand({Hand::press(QMessageBox::Ok)});
+            const QString before = find<QLineEdit>(dialog, "txtKMatPath")->text();
+            QApplication::clipboard()->setText(QString::fromUtf8("materials/кот.kmat"));
+            auto *line = find<QLineEdit>(dialog, "txtKMatPath");
+            line->setFocus();
+            line->selectAll();
+            QTest::keyClick(line, Qt::Key_V, Qt::ControlModifier);
+            QTest::keyClick(line, Qt::Key_Tab);
+            QVERIFY(hand.seen.value(0).contains(QString::fromUtf8("'materials/кот.kmat': it holds")));
+            QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), before);
+        }
+        QStringList proposed;
+        for (const char *model : {"Größe",
+                                  "Gro\xcc\x88\xc3\x9f"
+                                  "e",
+                                  "кот", "пёс", "Кот é2"})
+            proposed << defaultKMatPath(QString::fromUtf8(model) + QLatin1String(".obj"));
+        QCOMPARE(proposed[0], QString::fromUtf8("materials/mat_Größe.kmat"));
+        QCOMPARE(proposed[1], proposed[0]);
+        QCOMPARE(proposed[2], QString("materials/mat_9e7f48.kmat"));
+        QVERIFY(proposed[3] != proposed[2] && proposed[4].startsWith(QString("materials/mat_e2_")));
+
         QStringList titles;
         dialog.setFolderChooser([&titles, this](QWidget *, const QString &title, const QString &) {
             titles += title;

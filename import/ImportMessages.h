@@ -25,6 +25,9 @@ public:
     void addWarning(const QString &text) { lines.append({LogSeverity::Warning, text}); }
     void addError(const QString &text) { lines.append({LogSeverity::Error, text}); }
 
+    /// Makes one of the warnings that say the same, be it of other numbers; it tells how many there were.
+    void foldWarnings();
+
     bool hasError() const
     {
         return std::any_of(lines.begin(), lines.end(),

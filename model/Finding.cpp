@@ -47,6 +47,8 @@ const RuleRow ruleRows[] = {
     {Rule::ActorUnknown, "actor-unknown", Severity::Warning},
     {Rule::VoiceUnknown, "voice-unknown", Severity::Warning},
     {Rule::ImpactTypeUnknown, "impact-type-unknown", Severity::Warning},
+    {Rule::BoxInverted, "box-inverted", Severity::Warning},
+    {Rule::TextNotKept, "text-not-kept", Severity::Warning},
     {Rule::NotFinite, "not-finite", Severity::Error},
 };
 constexpr size_t RuleCount = sizeof ruleRows / sizeof ruleRows[0];

@@ -53,6 +53,8 @@ enum class Rule {
     ActorUnknown,
     VoiceUnknown,
     ImpactTypeUnknown,
+    BoxInverted,
+    TextNotKept,
     NotFinite,
 };
 

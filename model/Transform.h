@@ -7,6 +7,9 @@
 #include <QVector3D>
 
 #include <algorithm>
+#include <cmath>
+#include <optional>
+#include <vector>
 
 /// The rotation by Euler angles in degrees: roll about z first, then pitch about x, then yaw about y.
 inline QMatrix4x4 eulerRotation(float pitch, float yaw, float roll)
@@ -47,6 +50,48 @@ void scaleBox(float factor, Boxed &boxed)
 {
     boxed.bbMin *= factor;
     boxed.bbMax *= factor;
+}
+
+/// The smallest box around points.
+struct Box
+{
+    QVector3D min;
+    QVector3D max;
+};
+
+/// Widens the box, or makes it. A point that is nowhere changes nothing.
+inline void widen(std::optional<Box> &box, const QVector3D &point)
+{
+    if (!std::isfinite(point.x()) || !std::isfinite(point.y()) || !std::isfinite(point.z()))
+        return;
+    if (!box)
+        box = Box{point, point};
+    for (int axis = 0; axis < 3; ++axis) {
+        box->min[axis] = std::min(box->min[axis], point[axis]);
+        box->max[axis] = std::max(box->max[axis], point[axis]);
+    }
+}
+
+/// The box around the vertices of a mesh; none without.
+template <typename Mesh>
+std::optional<Box> meshBox(const Mesh &mesh)
+{
+    std::optional<Box> box;
+    for (const auto &vertex : mesh.vertices)
+        widen(box, vertex.position);
+    return box;
+}
+
+/// For each bone the box around its vertices.
+template <typename Mesh>
+std::vector<std::optional<Box>> boneBoxes(const Mesh &mesh)
+{
+    std::vector<std::optional<Box>> boxes(mesh.nodes.size());
+    for (const auto &vertex : mesh.vertices) {
+        if (vertex.nodeIndex < boxes.size())
+            widen(boxes[vertex.nodeIndex], vertex.position);
+    }
+    return boxes;
 }
 
 /// Makes the box of a mesh the smallest one around its vertices; without vertices it is left as it is.

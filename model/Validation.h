@@ -3,8 +3,8 @@
 #pragma once
 
 #include "Finding.h"
-
-class ReferenceIds;
+#include "KMat.h"
+#include "ReferenceIds.h"
 
 /// Where materials and their textures are looked for, in this order; see MaterialFiles. Without a game folder
 /// nothing is looked for, because most materials are the game's.
@@ -20,13 +20,17 @@ inline constexpr int ListedFindings = 20;
 /// What is wrong with a model, rule by rule. The time is linear in the model's size, however broken it is.
 /// Only materials make it read files.
 std::vector<Finding> validate(const SkinnedMesh &mesh, const MaterialFolders &folders = {},
-                              int listed = ListedFindings);
+                              const ReferenceIds &ids = {}, int listed = ListedFindings);
 /// `mesh`: the one that the animations are for, if it is known.
 std::vector<Finding> validate(const AnimFile &file, const SkinnedMesh *mesh, const ReferenceIds &ids,
                               int listed = ListedFindings);
 std::vector<Finding> validate(const StaticMesh &mesh, const MaterialFolders &folders = {},
                               int listed = ListedFindings);
+/// The textures of a material file. There is no record for a place.
+std::vector<Finding> validate(const MaterialTable &materials, const MaterialFolders &folders,
+                              int listed = ListedFindings);
 
 /// Where in the model a rule's findings can be repaired, at most `most` places.
 std::vector<RecordRef> repairablePlaces(Rule rule, const SkinnedMesh &mesh, int most);
 std::vector<RecordRef> repairablePlaces(Rule rule, const AnimFile &file, int most);
+std::vector<RecordRef> repairablePlaces(Rule rule, const StaticMesh &mesh, int most);

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "BinaryFileWriter.h"
 #include "MaterialFiles.h"
 #include "ValidationParts.h"
 
@@ -85,4 +86,48 @@ void checkMaterials(FindingCollector &found, const QStringList &materialPaths, R
         }
     }
 }
+
+void checkTexts(FindingCollector &found, const QStringList &materialPaths, RecordKind surfaceKind)
+{
+    for (int s = 0; s < materialPaths.size(); ++s) {
+        const QString &path = materialPaths[s];
+        if (BinaryFileWriter::canWrite(path))
+            continue;
+        found.add(Rule::TextNotKept, {surfaceKind, {s, 0, 0}}, [&] {
+            return Texts::tr(
+                       "The material path '%2' of surface %1 holds characters outside of Latin-1, which "
+                       "the file cannot: saving makes question marks of them. Give the material and its "
+                       "file another name.")
+                .arg(number(s), path);
+        });
+    }
+}
 } // namespace Validation
+
+std::vector<Finding> validate(const MaterialTable &materials, const MaterialFolders &folders, int listed)
+{
+    using namespace Validation;
+    FindingCollector found(listed);
+    if (folders.gamePath.isEmpty())
+        return {};
+    const MaterialFiles files(folders.gamePath, folders.outputDir);
+    for (const auto &[name, texture] : materials) {
+        const QStringList tried = files.candidates(texture);
+        if (texture == MaterialFiles::Blank ||
+            (!texture.isEmpty() && std::any_of(tried.begin(), tried.end(), isImage)))
+            continue;
+        found.add(Rule::TextureNotFound, {}, [&name = name, &texture = texture, &tried] {
+            return texture.isEmpty()
+                       ? Texts::tr(
+                             "Material '%1' names no texture: what has it is drawn white. Add a sampler "
+                             "with the path of a picture to it.")
+                             .arg(name)
+                       : Texts::tr(
+                             "Material '%1' is drawn white: its texture '%2' is no picture that can be "
+                             "read. Tried: %3. Put the picture into one of these places, or name another "
+                             "one.")
+                             .arg(name, texture, list(tried));
+        });
+    }
+    return found.take();
+}

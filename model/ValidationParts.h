@@ -102,6 +102,25 @@ void checkFinite(FindingCollector &found, const RecordRef &place, const Fields &
     });
 }
 
+/// Whether the minimum of a box is above its maximum.
+inline bool isInverted(const QVector3D &min, const QVector3D &max)
+{
+    return min.x() > max.x() || min.y() > max.y() || min.z() > max.z();
+}
+/// Such a box can be repaired where there are vertices.
+inline void addInvertedBox(FindingCollector &found, const RecordRef &place, bool repairable)
+{
+    found.add(Rule::BoxInverted, place, repairable, [&] {
+        const QString text =
+            Texts::tr("%1 has a bounding box whose minimum is above its maximum: the game may "
+                      "take it for empty, hide the model at the edge of the screen, or miss it.")
+                .arg(recordName(place));
+        return text + QLatin1Char(' ') +
+               (repairable ? Texts::tr("Fixing it makes it the box around the vertices.")
+                           : Texts::tr("Exchange the numbers that are the wrong way round."));
+    });
+}
+
 /// The index lists of the surfaces. A skinned mesh ends each list in its file by `terminator`, which a
 /// static mesh does not have: -1.
 template <typename Mesh>
@@ -166,6 +185,9 @@ void checkVertices(FindingCollector &found, const Mesh &mesh, RecordKind vertexK
         }
     }
 }
+
+/// Whether the file can hold the paths of the surfaces' materials.
+void checkTexts(FindingCollector &found, const QStringList &materialPaths, RecordKind surfaceKind);
 
 /// The materials that the surfaces name, and their textures.
 void checkMaterials(FindingCollector &found, const QStringList &materialPaths, RecordKind surfaceKind,

@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "ReferenceIds.h"
+#include "Transform.h"
 #include "ValidationParts.h"
 
 using namespace Validation;
@@ -251,6 +253,57 @@ void checkBones(FindingCollector &found, const SkinnedMesh &mesh)
     }
 }
 
+void checkIds(FindingCollector &found, const SkinnedMesh &mesh, const ReferenceIds &ids)
+{
+    for (size_t b = 0; b < mesh.nodes.size(); ++b) {
+        const int type = mesh.nodes[b].impactType;
+        if (ids.knows(ReferenceKind::Impacts, type))
+            continue;
+        found.add(Rule::ImpactTypeUnknown, {RecordKind::Bone, {int(b), 0, 0}}, [&] {
+            return Texts::tr(
+                       "Bone %1 has impact type %2, which the table of impact types does not have: hits "
+                       "there look and sound like nothing. Enter one of the table.")
+                .arg(number(b), number(type));
+        });
+    }
+    constexpr int DealsDamage = 0xFFFF;
+    const auto knows = [&ids](int particle) {
+        // 65535 is -1 in 16 bits, which the table has.
+        return ids.knows(ReferenceKind::Particles, particle) ||
+               (particle == 0xFFFF && ids.knows(ReferenceKind::Particles, -1));
+    };
+    for (size_t h = 0; h < mesh.hotPoints.size(); ++h) {
+        const SkinnedMeshHotPoint &point = mesh.hotPoints[h];
+        // The second number of a hot point that deals damage is the damage.
+        if (point.particleEffect1 == DealsDamage)
+            continue;
+        for (const int particle : {point.particleEffect1, point.particleEffect2}) {
+            if (knows(particle))
+                continue;
+            found.add(Rule::ParticleUnknown, {RecordKind::HotPoint, {int(h), 0, 0}}, [&] {
+                return Texts::tr(
+                           "Hot point %1 spawns particle %2, which the table of particles does not have: "
+                           "nothing is seen of it. Enter one of the table.")
+                    .arg(number(h), number(particle));
+            });
+        }
+    }
+}
+
+void checkBoxes(FindingCollector &found, const SkinnedMesh &mesh)
+{
+    if (isInverted(mesh.bbMin, mesh.bbMax))
+        addInvertedBox(found, {RecordKind::SkinnedMesh, {}}, meshBox(mesh).has_value());
+    std::vector<std::optional<Box>> boxes;
+    for (size_t b = 0; b < mesh.nodes.size(); ++b) {
+        if (!isInverted(mesh.nodes[b].bbMin, mesh.nodes[b].bbMax))
+            continue;
+        if (boxes.empty())
+            boxes = boneBoxes(mesh);
+        addInvertedBox(found, {RecordKind::Bone, {int(b), 0, 0}}, boxes[b].has_value());
+    }
+}
+
 void checkNumbers(FindingCollector &found, const SkinnedMesh &mesh)
 {
     checkFinite(found, {RecordKind::SkinnedMesh, {}}, std::pair(Field::boundingBox, mesh.bbMin),
@@ -278,16 +331,20 @@ void check(FindingCollector &found, const SkinnedMesh &mesh)
         checkBones(found, mesh);
     }
     checkNumbers(found, mesh);
+    checkBoxes(found, mesh);
     checkTriangles(found, mesh, RecordKind::SkinnedSurface, RecordKind::SkinnedTriangleIndex,
                    SkinnedMesh::IndexTerminator);
     checkVertices(found, mesh, RecordKind::SkinnedVertex);
+    checkTexts(found, materialPaths(mesh), RecordKind::SkinnedSurface);
 }
 } // namespace
 
-std::vector<Finding> validate(const SkinnedMesh &mesh, const MaterialFolders &folders, int listed)
+std::vector<Finding> validate(const SkinnedMesh &mesh, const MaterialFolders &folders,
+                              const ReferenceIds &ids, int listed)
 {
     FindingCollector found(listed);
     check(found, mesh);
+    checkIds(found, mesh, ids);
     checkMaterials(found, materialPaths(mesh), RecordKind::SkinnedSurface, folders);
     return found.take();
 }

@@ -1,13 +1,14 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "Transform.h"
 #include "ValidationParts.h"
 
 using namespace Validation;
 
-std::vector<Finding> validate(const StaticMesh &mesh, const MaterialFolders &folders, int listed)
+namespace {
+void check(FindingCollector &found, const StaticMesh &mesh)
 {
     constexpr int NoTerminator = -1;
-    FindingCollector found(listed);
     const RecordRef root{RecordKind::StaticMesh, {}};
     if (mesh.surfaces.empty()) {
         found.add(Rule::NoSurfaces, root, [] {
@@ -17,8 +18,25 @@ std::vector<Finding> validate(const StaticMesh &mesh, const MaterialFolders &fol
     }
     checkFinite(found, root, std::pair(Field::boundingBox, mesh.bbMin),
                 std::pair(Field::boundingBox, mesh.bbMax));
+    if (isInverted(mesh.bbMin, mesh.bbMax))
+        addInvertedBox(found, root, meshBox(mesh).has_value());
     checkTriangles(found, mesh, RecordKind::StaticSurface, RecordKind::StaticTriangleIndex, NoTerminator);
     checkVertices(found, mesh, RecordKind::StaticVertex);
+    checkTexts(found, materialPaths(mesh), RecordKind::StaticSurface);
+}
+} // namespace
+
+std::vector<Finding> validate(const StaticMesh &mesh, const MaterialFolders &folders, int listed)
+{
+    FindingCollector found(listed);
+    check(found, mesh);
     checkMaterials(found, materialPaths(mesh), RecordKind::StaticSurface, folders);
     return found.take();
+}
+
+std::vector<RecordRef> repairablePlaces(Rule rule, const StaticMesh &mesh, int most)
+{
+    FindingCollector found(rule, most);
+    check(found, mesh);
+    return found.takePlaces();
 }

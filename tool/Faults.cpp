@@ -62,7 +62,11 @@ struct Validator
 
     std::vector<Finding> operator()(const SkinnedMesh &mesh) const
     {
-        return validate(mesh, folders, basis.listed);
+        return validate(mesh, folders, basis.ids, basis.listed);
+    }
+    std::vector<Finding> operator()(const MaterialTable &materials) const
+    {
+        return validate(materials, folders, basis.listed);
     }
     std::vector<Finding> operator()(const StaticMesh &mesh) const
     {

@@ -2016,6 +2016,14 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>[Static Mesh Export] Not all textures could be copied.</source>
         <translation>[Export statisches Netz] Nicht alle Texturen konnten kopiert werden.</translation>
     </message>
+    <message>
+        <source>%1 (and %2 more like this)</source>
+        <translation>%1 (und %2 weitere dieser Art)</translation>
+    </message>
+    <message>
+        <source>%1 %2 vertices have a position, normal or UV that is no number</source>
+        <translation>%1 %2 Vertices haben eine Position, Normale oder UV-Koordinate, die keine Zahl ist</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -5534,6 +5542,10 @@ So lassen?</translation>
         <source>Scale Vertices</source>
         <translation>Vertices skalieren</translation>
     </message>
+    <message>
+        <source>Fix Bounding Box</source>
+        <translation>Begrenzungsbox beheben</translation>
+    </message>
 </context>
 <context>
     <name>UpdateCheck</name>
@@ -5918,6 +5930,38 @@ So lassen?</translation>
     <message>
         <source>Surface %1 is drawn white: its material &apos;%2&apos; names no texture. Add a sampler with the path of a picture to it, or name another material.</source>
         <translation>Fläche %1 wird weiß gezeichnet: ihr Material „%2“ nennt keine Textur. Fügen Sie ihm einen Sampler mit dem Pfad eines Bildes hinzu, oder nennen Sie ein anderes Material.</translation>
+    </message>
+    <message>
+        <source>The material path &apos;%2&apos; of surface %1 holds characters outside of Latin-1, which the file cannot: saving makes question marks of them. Give the material and its file another name.</source>
+        <translation>Der Materialpfad „%2“ der Fläche %1 enthält Zeichen außerhalb von Latin-1, die die Datei nicht aufnehmen kann: Beim Speichern werden Fragezeichen daraus. Geben Sie dem Material und seiner Datei einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>Material &apos;%1&apos; names no texture: what has it is drawn white. Add a sampler with the path of a picture to it.</source>
+        <translation>Das Material „%1“ nennt keine Textur: Was es trägt, wird weiß gezeichnet. Fügen Sie ihm einen Sampler mit dem Pfad eines Bildes hinzu.</translation>
+    </message>
+    <message>
+        <source>Material &apos;%1&apos; is drawn white: its texture &apos;%2&apos; is no picture that can be read. Tried: %3. Put the picture into one of these places, or name another one.</source>
+        <translation>Das Material „%1“ wird weiß gezeichnet: Seine Textur „%2“ ist kein lesbares Bild. Gesucht: %3. Legen Sie das Bild an einen dieser Orte, oder nennen Sie ein anderes.</translation>
+    </message>
+    <message>
+        <source>%1 has a bounding box whose minimum is above its maximum: the game may take it for empty, hide the model at the edge of the screen, or miss it.</source>
+        <translation>%1 hat eine Begrenzungsbox, deren Minimum über ihrem Maximum liegt: Das Spiel hält sie vielleicht für leer, lässt das Modell am Bildrand verschwinden oder trifft es nicht.</translation>
+    </message>
+    <message>
+        <source>Fixing it makes it the box around the vertices.</source>
+        <translation>Beim Beheben wird daraus die Box um die Vertices.</translation>
+    </message>
+    <message>
+        <source>Exchange the numbers that are the wrong way round.</source>
+        <translation>Vertauschen Sie die Zahlen, die verkehrt herum stehen.</translation>
+    </message>
+    <message>
+        <source>Bone %1 has impact type %2, which the table of impact types does not have: hits there look and sound like nothing. Enter one of the table.</source>
+        <translation>Knochen %1 hat den Aufpralltyp %2, der in der Tabelle der Aufpralltypen fehlt: Treffer sind dort weder zu sehen noch zu hören. Tragen Sie einen aus der Tabelle ein.</translation>
+    </message>
+    <message>
+        <source>Hot point %1 spawns particle %2, which the table of particles does not have: nothing is seen of it. Enter one of the table.</source>
+        <translation>Hotpoint %1 erzeugt den Partikel %2, der in der Tabelle der Partikel fehlt: Von ihm ist nichts zu sehen. Tragen Sie einen aus der Tabelle ein.</translation>
     </message>
 </context>
 <context>

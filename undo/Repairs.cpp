@@ -4,6 +4,8 @@
 
 #include "AnimCommands.h"
 #include "SkinnedMeshCommands.h"
+#include "StaticMeshCommands.h"
+#include "Transform.h"
 #include "Validation.h"
 
 #include <QUndoStack>
@@ -19,12 +21,14 @@ constexpr quint8 NoParent = 255;
 class Step
 {
 public:
-    Step(QUndoStack &stack, size_t places)
+    Step(QUndoStack &stack, Rule rule, size_t places)
         : m_stack(stack)
-        , m_isMacro(places > 1)
+        , m_isMacro(places > 1 || rule == Rule::BoxInverted)
     {
         if (m_isMacro)
-            stack.beginMacro(QCoreApplication::translate("UndoCommands", "Fix %1 Problems").arg(places));
+            stack.beginMacro(places > 1
+                                 ? QCoreApplication::translate("UndoCommands", "Fix %1 Problems").arg(places)
+                                 : QCoreApplication::translate("UndoCommands", "Fix Bounding Box"));
     }
     Step(const Step &) = delete;
     Step &operator=(const Step &) = delete;
@@ -38,6 +42,12 @@ public:
     {
         m_stack.push(command);
         ++count;
+    }
+    /// Two commands for one place.
+    void push(QUndoCommand *command, QUndoCommand *second)
+    {
+        m_stack.push(command);
+        push(second);
     }
 
     int count = 0;
@@ -96,7 +106,8 @@ int repair(Rule rule, std::vector<RecordRef> places, EditTarget<SkinnedMesh> tar
     std::sort(places.begin(), places.end(),
               [](const RecordRef &a, const RecordRef &b) { return a.index > b.index; });
     const std::vector<size_t> listing = listingBones(mesh);
-    Step step(stack, places.size());
+    const auto boxes = rule == Rule::BoxInverted ? boneBoxes(mesh) : std::vector<std::optional<Box>>();
+    Step step(stack, rule, places.size());
     for (const RecordRef &place : places) {
         const int bone = place.index[0];
         switch (rule) {
@@ -119,6 +130,17 @@ int repair(Rule rule, std::vector<RecordRef> places, EditTarget<SkinnedMesh> tar
                 step.push(
                     new UC_SkinnedMeshNodeParentNode(target, place.index, quint8(listing[size_t(bone)])));
             break;
+        case Rule::BoxInverted:
+            if (place.kind == RecordKind::Bone) {
+                const std::optional<Box> *box = Records::element(boxes, bone);
+                if (box && *box)
+                    step.push(new UC_SkinnedMeshNodeBBMin(target, place.index, (*box)->min),
+                              new UC_SkinnedMeshNodeBBMax(target, place.index, (*box)->max));
+            } else if (const auto box = meshBox(mesh)) {
+                step.push(new UC_SkinnedMeshBBMin(target, {}, box->min),
+                          new UC_SkinnedMeshBBMax(target, {}, box->max));
+            }
+            break;
         default:
             break;
         }
@@ -130,7 +152,7 @@ int repair(Rule rule, const std::vector<RecordRef> &places, EditTarget<AnimFile>
 {
     if (places.empty())
         return 0;
-    Step step(stack, places.size());
+    Step step(stack, rule, places.size());
     for (const RecordRef &place : places) {
         const RecordIndex &index = place.index;
         switch (rule) {
@@ -156,5 +178,15 @@ int repair(Rule rule, const std::vector<RecordRef> &places, EditTarget<AnimFile>
             break;
         }
     }
+    return step.count;
+}
+
+int repair(Rule rule, const std::vector<RecordRef> &places, EditTarget<StaticMesh> target, QUndoStack &stack)
+{
+    const auto box = meshBox(target.model);
+    if (places.empty() || rule != Rule::BoxInverted || !box)
+        return 0;
+    Step step(stack, rule, places.size());
+    step.push(new UC_StaticMeshBBMin(target, {}, box->min), new UC_StaticMeshBBMax(target, {}, box->max));
     return step.count;
 }

@@ -12,3 +12,4 @@ class QUndoStack;
 /// there is no step.
 int repair(Rule rule, std::vector<RecordRef> places, EditTarget<SkinnedMesh> target, QUndoStack &stack);
 int repair(Rule rule, const std::vector<RecordRef> &places, EditTarget<AnimFile> target, QUndoStack &stack);
+int repair(Rule rule, const std::vector<RecordRef> &places, EditTarget<StaticMesh> target, QUndoStack &stack);

@@ -59,7 +59,7 @@ qint64 Problems::count(Severity severity) const
 void Problems::setReferenceIds(const ReferenceIds &ids)
 {
     m_ids = ids;
-    markChanged(DocumentType::Anim);
+    markChanged(DocumentType::SkinnedMesh); // and with it the animations
 }
 
 void Problems::recheck()
@@ -93,7 +93,7 @@ std::vector<Finding> Problems::findingsNow(DocumentType type) const
     const MaterialFolders folders{Settings::GamePath.value(), Settings::OutputDir.value()};
     switch (type) {
     case DocumentType::SkinnedMesh:
-        return validate(m_skinnedMesh.model(), folders);
+        return validate(m_skinnedMesh.model(), folders, m_ids);
     case DocumentType::Anim:
         return validate(m_anim.model(),
                         m_skinnedMesh.isOpen() ? &std::as_const(m_skinnedMesh).model() : nullptr, m_ids);
@@ -111,9 +111,9 @@ std::vector<RecordRef> Problems::repairable(DocumentType type, Rule rule) const
     case DocumentType::Anim:
         return repairablePlaces(rule, m_anim.model(), MostRepairs);
     case DocumentType::StaticMesh:
-        break; // nothing that leaves no choice
+        break;
     }
-    return {};
+    return repairablePlaces(rule, m_staticMesh.model(), MostRepairs);
 }
 
 void Problems::repairPlaces(DocumentType type, Rule rule, const QVector<RecordRef> &places)
@@ -138,5 +138,7 @@ void Problems::repairNow(DocumentType type, Rule rule, const std::vector<RecordR
         repair(rule, places, m_skinnedMesh.editTarget(), *m_skinnedMesh.undoStack());
     else if (type == DocumentType::Anim)
         repair(rule, places, m_anim.editTarget(), *m_anim.undoStack());
+    else
+        repair(rule, places, m_staticMesh.editTarget(), *m_staticMesh.undoStack());
     check();
 }

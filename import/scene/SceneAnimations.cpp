@@ -57,7 +57,7 @@ std::vector<BoneChannel> boneChannels(const SceneSource &source, const SceneSkel
     for (unsigned i = 0; i < animation.mNumChannels; ++i) {
         const aiNodeAnim &channel = *animation.mChannels[i];
         const SceneSkeleton::Node *bone = skeleton.find(channel.mNodeName);
-        const aiNode *sceneNode = source.scene->mRootNode->FindNode(channel.mNodeName);
+        const aiNode *sceneNode = SceneSkeleton::sceneNode(source, channel.mNodeName);
         if (bone && sceneNode) {
             channels.push_back({channel, *bone, *sceneNode});
         } else {

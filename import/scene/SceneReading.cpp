@@ -16,6 +16,7 @@
 #include <assimp/postprocess.h>
 
 #include <algorithm>
+#include <cmath>
 
 Q_LOGGING_CATEGORY(importLog, "korvane.import", QtInfoMsg)
 
@@ -199,6 +200,16 @@ bool addSurfaces(const SceneSource &source, quint32 vertexLimit, Mesh &mesh)
                     .arg(source.modelPath, QString::number(i)));
     }
     boundVertices(mesh);
+    const auto isLost = [](const auto &vertex) {
+        const QVector3D sum = vertex.position + vertex.normal + QVector3D(vertex.uv);
+        return !std::isfinite(sum.x()) || !std::isfinite(sum.y()) || !std::isfinite(sum.z());
+    };
+    const auto lost = std::count_if(mesh.vertices.begin(), mesh.vertices.end(), isLost);
+    if (lost > 0)
+        source.messages.addWarning(
+            QCoreApplication::translate("Import",
+                                        "%1 %2 vertices have a position, normal or UV that is no number")
+                .arg(source.modelPath, QString::number(lost)));
     return false;
 }
 

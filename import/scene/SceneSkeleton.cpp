@@ -17,13 +17,21 @@ std::string key(const aiString &name)
     return {name.data, name.length};
 }
 
+/// Scenes of damaged files have children that are null.
+std::vector<const aiNode *> childrenOf(const aiNode &node)
+{
+    std::vector<const aiNode *> children(node.mChildren, node.mChildren + node.mNumChildren);
+    children.erase(std::remove(children.begin(), children.end(), nullptr), children.end());
+    return children;
+}
+
 /// Depth first, in the order of the children.
 const aiNode *firstNamed(const aiNode &node, const std::set<std::string> &names)
 {
     if (names.count(key(node.mName)) != 0)
         return &node;
-    for (unsigned i = 0; i < node.mNumChildren; ++i) {
-        if (const aiNode *found = firstNamed(*node.mChildren[i], names))
+    for (const aiNode *child : childrenOf(node)) {
+        if (const aiNode *found = firstNamed(*child, names))
             return found;
     }
     return nullptr;
@@ -77,8 +85,8 @@ void SceneSkeleton::collect(const aiNode &node, int &counter)
         m_source.messages.addError(
             QCoreApplication::translate("Import", "Node %1 already exists.").arg(text(node.mName)));
     }
-    for (unsigned i = 0; i < node.mNumChildren; ++i)
-        collect(*node.mChildren[i], counter);
+    for (const aiNode *child : childrenOf(node))
+        collect(*child, counter);
 }
 
 void SceneSkeleton::addBones(SkinnedMesh &mesh) const
@@ -99,9 +107,9 @@ void SceneSkeleton::append(const aiNode &node, SkinnedMesh &mesh) const
     const Node *parent = &node != m_root ? find(node.mParent->mName) : nullptr;
     mesh.nodes.emplace_back().parentNode =
         parent && parent->index < NoParent ? quint8(parent->index) : NoParent;
-    for (unsigned i = 0; i < node.mNumChildren; ++i) {
+    for (const aiNode *child : childrenOf(node)) {
         mesh.nodes[index].childNodes.push_back(quint16(mesh.nodes.size()));
-        append(*node.mChildren[i], mesh);
+        append(*child, mesh);
     }
 }
 
@@ -134,12 +142,20 @@ void SceneSkeleton::bindVertices(SkinnedMesh &mesh) const
         }
         firstVertex += part.mNumVertices;
     }
+    // Without a skeleton the default bone has them all.
+    if (!m_root)
+        return;
     const auto unbound = std::count(isBound.begin(), isBound.end(), false);
     if (unbound > 0) {
         m_source.messages.addWarning(
             QCoreApplication::translate("Import", "%1 %2 vertices are not assigned to a bone")
                 .arg(m_source.modelPath, QString::number(unbound)));
     }
+}
+
+const aiNode *SceneSkeleton::sceneNode(const SceneSource &source, const aiString &name)
+{
+    return firstNamed(*source.scene->mRootNode, {key(name)});
 }
 
 const SceneSkeleton::Node *SceneSkeleton::find(const aiString &name) const

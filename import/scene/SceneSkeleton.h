@@ -26,6 +26,9 @@ public:
     /// Binds every vertex to the bone with the last weight above one half; the others stay at bone 0.
     void bindVertices(SkinnedMesh &mesh) const;
 
+    /// The first node of that name in the whole scene, depth first; null for none.
+    static const aiNode *sceneNode(const SceneSource &source, const aiString &name);
+
     /// The node that became a bone, by its name; none when there is no such.
     const Node *find(const aiString &name) const;
 

@@ -113,6 +113,7 @@ int main(int argc, char *argv[])
     } catch (const std::exception &exception) {
         messages.addError(job.failure(QLatin1String(exception.what())));
     }
+    messages.foldWarnings();
     answer.messages = messages.lines;
     return folder.write(answer) ? EXIT_FAILURE : EXIT_SUCCESS;
 }

@@ -173,6 +173,26 @@ private slots:
                  path + QStringLiteral(" Material 0 does not have any Diffuse textures"));
     }
 
+    void equalWarningsAreOne()
+    {
+        m_models.put("m.mtl", "newmtl a\nKd 1 0 0\nnewmtl b\nKd 0 1 0\nnewmtl c\nKd 0 0 1\n");
+        QByteArray obj = "mtllib m.mtl\nv 0 0 0\nv 1 0 0\nv 0 1 0\nv nan 0 0\n";
+        for (const char *material : {"a", "b", "c"})
+            obj += QByteArray("usemtl ") + material + "\nf 1 2 3\nf 1 2 4\n";
+        const QString path = m_models.put("m.obj", obj);
+        ImportWorker worker;
+        run(worker, importJob(path, true));
+        QStringList warnings;
+        for (const ImportMessage &line : worker.messages().lines) {
+            if (line.severity == LogSeverity::Warning)
+                warnings << QString(line.text).remove(path + ' ');
+        }
+        QCOMPARE(warnings,
+                 QStringList({"Material 0 does not have any Diffuse textures (and 2 more like this)",
+                              "Mesh 0 does not contain any UVs (and 2 more like this)",
+                              "3 vertices have a position, normal or UV that is no number"}));
+    }
+
     // Only folders of ours that no process holds, and none that may just have been made.
     void foldersOfKilledEditorsGo()
     {

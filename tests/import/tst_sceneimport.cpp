@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ImportFlags.h"
 #include "SceneImport.h"
+#include "SceneSkeleton.h"
 #include "SmallGltf.h"
 #include "TestSupport.h"
 
@@ -40,6 +41,40 @@ private slots:
         QCOMPARE(m_mesh.bbMin, QVector3D(0, 0, -30));
         QCOMPARE(m_mesh.bbMax, QVector3D(10, 20, 0));
         QVERIFY(m_anim.blocks.empty());
+    }
+
+    void damagedScenes()
+    {
+        // A scene as damaged files give it: a child that is not there, before and in the skeleton.
+        aiScene scene;
+        scene.mRootNode = new aiNode("scene");
+        auto *bone = new aiNode("bone");
+        auto *tip = new aiNode("tip");
+        bone->addChildren(1, &tip);
+        scene.mRootNode->addChildren(1, &bone);
+        for (aiNode *node : {scene.mRootNode, bone}) {
+            auto **children = new aiNode *[2] { nullptr, node->mChildren[0] };
+            delete[] node->mChildren;
+            node->mChildren = children;
+            node->mNumChildren = 2;
+        }
+        auto *part = new aiMesh;
+        part->mNumBones = 1;
+        part->mBones = new aiBone *[1] { new aiBone };
+        part->mBones[0]->mName = "tip";
+        scene.mNumMeshes = 1;
+        scene.mMeshes = new aiMesh *[1] { part };
+        QStringList textures;
+        ImportMessages messages;
+        const QString path;
+        SkinnedMesh mesh;
+        const SceneSource source{path, path, textures, messages, &scene};
+        const SceneSkeleton skeleton(source);
+        skeleton.addBones(mesh);
+        QCOMPARE(mesh.nodes.size(), size_t(2));
+        QCOMPARE(mesh.nodes[0].childNodes, (std::vector<quint16>{1}));
+        QCOMPARE(SceneSkeleton::sceneNode(source, aiString("tip")), tip);
+        QVERIFY(!SceneSkeleton::sceneNode(source, aiString("none")));
     }
 
     void animations()
@@ -103,6 +138,7 @@ private slots:
         QCOMPARE(int(m_mesh.nodes[0].parentNode), 255);
         QVERIFY(!m_messages.hasError());
         QVERIFY(m_mesh.refusal().isEmpty());
+        QCOMPARE(lines(LogSeverity::Warning).filter("assigned"), QStringList());
     }
 
     void surfacesAndTextures()

@@ -17,7 +17,7 @@ const ReferenceIds &ids()
 
 std::vector<Finding> findings(const SkinnedMesh &mesh, const MaterialFolders &folders, const SkinnedMesh *)
 {
-    return validate(mesh, folders);
+    return validate(mesh, folders, ids());
 }
 std::vector<Finding> findings(const StaticMesh &mesh, const MaterialFolders &folders, const SkinnedMesh *)
 {

@@ -37,6 +37,9 @@ std::vector<Breakage<Mesh>> meshBreakages()
         {Rule::NotFinite,
          [](Mesh &mesh) { mesh.vertices[7].uv.setX(std::numeric_limits<float>::infinity()); }},
         {Rule::NotFinite, [](Mesh &mesh) { mesh.bbMax.setZ(std::numeric_limits<float>::quiet_NaN()); }},
+        {Rule::BoxInverted, [](Mesh &mesh) { std::swap(mesh.bbMin, mesh.bbMax); }},
+        {Rule::TextNotKept,
+         [](Mesh &mesh) { mesh.surfaces[0].materialPath = QString::fromUtf8("materials/кот/_white"); }},
         {Rule::MaterialNotFound,
          [](Mesh &mesh) { mesh.surfaces[0].materialPath = QStringLiteral("materials/no_such_file/x"); }},
         {Rule::MaterialNotFound, [](Mesh &mesh) { mesh.surfaces[0].materialPath += QLatin1Char('x'); }},
@@ -86,6 +89,17 @@ inline std::vector<Breakage<SkinnedMesh>> breakages()
         {Rule::HeadTrackOutOfRange, [](Mesh &mesh) { mesh.headTrackEnd = 254; }},
         {Rule::HeadTrackOutOfRange, [](Mesh &mesh) { mesh.headTrackStart = 254; }},
         {Rule::HotPointBoneOutOfRange, [](Mesh &mesh) { mesh.hotPoints[0].nodeId = 254; }},
+        {Rule::BoxInverted,
+         [](Mesh &mesh) {
+             SkinnedMeshNode &bone = mesh.nodes[mesh.vertices[7].nodeIndex];
+             bone.bbMin.setY(bone.bbMax.y() + 1.0f);
+         }},
+        {Rule::ImpactTypeUnknown, [](Mesh &mesh) { mesh.nodes[1].impactType = 10; }},
+        {Rule::ParticleUnknown,
+         [](Mesh &mesh) {
+             mesh.hotPoints[0].particleEffect1 = 0;
+             mesh.hotPoints[0].particleEffect2 = 999;
+         }},
         {Rule::VertexBoneOutOfRange, [](Mesh &mesh) { mesh.vertices[7].nodeIndex = 254; }},
         {Rule::TriangleIndexReserved,
          [](Mesh &mesh) { mesh.surfaces[0].triangleIndexes[4] = Mesh::IndexTerminator; }},

@@ -20,6 +20,10 @@ std::vector<Finding> findings(const SkinnedMesh &mesh)
 {
     return validate(mesh);
 }
+std::vector<Finding> findings(const StaticMesh &mesh)
+{
+    return validate(mesh);
+}
 std::vector<Finding> findings(const AnimFile &file)
 {
     return validate(file, nullptr, {});
@@ -81,11 +85,13 @@ private slots:
         std::set<Rule> repaired;
         checkEach<SkinnedMesh>(repaired);
         checkEach<AnimFile>(repaired);
-        QCOMPARE(repaired, (std::set<Rule>{Rule::ChildBoneOutOfRange, Rule::BoneCycle, Rule::BoneListedTwice,
-                                           Rule::BoneUnreachable, Rule::ParentBoneOutOfRange,
-                                           Rule::ParentBoneMismatch, Rule::TranslationTrackOutOfRange,
-                                           Rule::RotationTrackOutOfRange, Rule::QuaternionZero,
-                                           Rule::QuaternionUnnormalised, Rule::LoopFrameBeyondEnd}));
+        checkEach<StaticMesh>(repaired);
+        QCOMPARE(repaired,
+                 (std::set<Rule>{Rule::ChildBoneOutOfRange, Rule::BoneCycle, Rule::BoneListedTwice,
+                                 Rule::BoneUnreachable, Rule::ParentBoneOutOfRange, Rule::ParentBoneMismatch,
+                                 Rule::TranslationTrackOutOfRange, Rule::RotationTrackOutOfRange,
+                                 Rule::QuaternionZero, Rule::QuaternionUnnormalised, Rule::LoopFrameBeyondEnd,
+                                 Rule::BoxInverted}));
     }
 
     void manyGoInOneStep()
@@ -131,6 +137,7 @@ private slots:
         repairAll(SampleModels::skinnedMesh());
         repairAll(SampleModels::plainAnim());
         repairAll(SampleModels::animFile());
+        repairAll(SampleModels::staticMesh());
     }
 };
 

@@ -1633,6 +1633,17 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
 </context>
 <context>
+    <name>FloatSpinBox</name>
+    <message>
+        <source>&apos;%1&apos; is no number that can be stored here.</source>
+        <translation>„%1“ ist keine Zahl, die hier gespeichert werden kann.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <translation>„%1“ ist keine Zahl von %2 bis %3.</translation>
+    </message>
+</context>
+<context>
     <name>FolderExplorer</name>
     <message>
         <source>&amp;Change Folder...</source>
@@ -2466,6 +2477,13 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
     </message>
 </context>
 <context>
+    <name>IntSpinBox</name>
+    <message>
+        <source>&apos;%1&apos; is no whole number from %2 to %3.</source>
+        <translation>„%1“ ist keine ganze Zahl von %2 bis %3.</translation>
+    </message>
+</context>
+<context>
     <name>KVOpenGLWidget</name>
     <message>
         <source>Models cannot be drawn: the graphics driver does not take the program&apos;s shaders.
@@ -3234,6 +3252,13 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
 </context>
 <context>
+    <name>NumberField</name>
+    <message>
+        <source>%1 It is not stored; Esc brings %2 back.</source>
+        <translation>%1 Sie wird nicht gespeichert; Esc bringt %2 zurück.</translation>
+    </message>
+</context>
+<context>
     <name>OptionsDialog</name>
     <message>
         <source>Options</source>
@@ -3683,6 +3708,10 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
     <message>
         <source>Vertex %1 Properties</source>
         <translation>Eigenschaften von Vertex %1</translation>
+    </message>
+    <message>
+        <source>The file format cannot hold &apos;%1&apos;: only characters of Latin-1. The path is not stored; Esc brings the old one back.</source>
+        <translation>Das Dateiformat kann „%1“ nicht aufnehmen, sondern nur Zeichen aus Latin-1. Der Pfad wird nicht gespeichert; Esc bringt den alten zurück.</translation>
     </message>
 </context>
 <context>

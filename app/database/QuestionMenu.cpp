@@ -6,18 +6,17 @@
 #include "DatabaseTables.h"
 #include "EventArguments.h"
 #include "FloatSpinBox.h"
+#include "IntSpinBox.h"
 #include "Log.h"
 #include "Questions.h"
 #include "Shortcuts.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
-#include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
-#include <QSpinBox>
 
 #include <optional>
 
@@ -47,13 +46,11 @@ const QuestionText questions[] = {
      QT_TRANSLATE_NOOP("QuestionMenu", "Actual Damage"), ReferenceKind::Actors},
 };
 
-/// The value of any of the three kinds of spin boxes.
+/// The value of either kind of spin box.
 std::optional<double> valueOf(const QObject *editor)
 {
-    if (const auto *whole = qobject_cast<const QSpinBox *>(editor))
+    if (const auto *whole = qobject_cast<const IntSpinBox *>(editor))
         return whole->value();
-    if (const auto *real = qobject_cast<const QDoubleSpinBox *>(editor))
-        return real->value();
     if (const auto *real = qobject_cast<const FloatSpinBox *>(editor))
         return double(real->value());
     return std::nullopt;
@@ -98,7 +95,7 @@ QMenu *QuestionMenu::createMenu(QObject *editor)
     }
     QMenu *menu = text->createStandardContextMenu();
     QAction *first = menu->actions().value(0);
-    const bool isWhole = qobject_cast<QSpinBox *>(editor);
+    const bool isWhole = qobject_cast<IntSpinBox *>(editor);
     const QStringList keys = Questions::of(editor);
     for (const QString &key : keys) {
         for (int i = 0; i < int(std::size(questions)); ++i) {

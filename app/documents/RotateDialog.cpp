@@ -30,9 +30,11 @@ RotateDialog::~RotateDialog() = default;
 
 void RotateDialog::on_btnApply_clicked()
 {
-    const auto pitch = float(m_ui->sbPitch->value());
-    const auto roll = float(m_ui->sbRoll->value());
-    const auto yaw = float(m_ui->sbYaw->value());
+    if (NumberField::hasRefused(*this))
+        return;
+    const float pitch = m_ui->sbPitch->value();
+    const float roll = m_ui->sbRoll->value();
+    const float yaw = m_ui->sbYaw->value();
     if (!fuzzyEqual(pitch, 0.0f) || !fuzzyEqual(roll, 0.0f) || !fuzzyEqual(yaw, 0.0f))
         emit rotate(pitch, roll, yaw);
 }

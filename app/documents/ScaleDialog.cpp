@@ -18,7 +18,9 @@ ScaleDialog::~ScaleDialog() = default;
 
 void ScaleDialog::on_btnApply_clicked()
 {
-    const auto factor = float(m_ui->sbScale->value());
+    if (NumberField::hasRefused(*this))
+        return;
+    const float factor = m_ui->sbScale->value();
     if (!fuzzyEqual(factor, 1.0f))
         emit scale(factor);
 }

@@ -27,9 +27,9 @@ void store(T &field, const SettingKey<T> &key, const T &value)
     key.setValue(value);
 }
 
-float storedScale(const QDoubleSpinBox &box)
+float storedScale(const FloatSpinBox &box)
 {
-    return float(qBound(box.minimum(), double(Settings::ImportScale.value()), box.maximum()));
+    return qBound(box.minimum(), Settings::ImportScale.value(), box.maximum());
 }
 } // namespace
 
@@ -129,7 +129,7 @@ void ImportDialog::fillEditors()
     m_ui->cbCopyTextures->setChecked(m_choices.copyTextures);
     m_ui->cbCreateKMat->setChecked(m_choices.createKMat);
     m_ui->cbRotatePitch->setChecked(m_choices.rotatePitch);
-    m_ui->sbScale->setValue(double(m_choices.scale));
+    m_ui->sbScale->setValue(m_choices.scale);
 }
 
 void ImportDialog::connectEditors()
@@ -149,8 +149,7 @@ void ImportDialog::connectEditors()
     connect(m_ui->cbCopyTextures, &QCheckBox::toggled, this, &ImportDialog::OnCBCopyTexturesChanged);
     connect(m_ui->cbCreateKMat, &QCheckBox::toggled, this, &ImportDialog::OnCBCreateKMatChanged);
     connect(m_ui->cbRotatePitch, &QCheckBox::toggled, this, &ImportDialog::OnCBRotatePitchChanged);
-    connect(m_ui->sbScale, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
-            &ImportDialog::OnScaleChanged);
+    connect(m_ui->sbScale, &FloatSpinBox::valueEdited, this, &ImportDialog::OnScaleChanged);
 }
 
 // --- Choices -----------------------------------------------------------------------------------------------
@@ -299,9 +298,9 @@ void ImportDialog::OnCBRotatePitchChanged(bool on)
     store(m_choices.rotatePitch, Settings::ImportRotPitch, on);
 }
 
-void ImportDialog::OnScaleChanged(double scale)
+void ImportDialog::OnScaleChanged(float scale)
 {
-    store(m_choices.scale, Settings::ImportScale, float(scale));
+    store(m_choices.scale, Settings::ImportScale, scale);
 }
 
 void ImportDialog::updateImportButton()
@@ -313,6 +312,8 @@ void ImportDialog::updateImportButton()
 
 void ImportDialog::on_btnImport_clicked()
 {
+    if (NumberField::hasRefused(*this))
+        return;
     const QStringList problems = outputProblems(m_choices);
     if (!problems.isEmpty()) {
         QMessageBox::warning(this, tr("Output Folder Error"), problems.join(QLatin1Char('\n')));

@@ -64,7 +64,7 @@ private slots:
     void OnCBCopyTexturesChanged(bool on);
     void OnCBCreateKMatChanged(bool on);
     void OnCBRotatePitchChanged(bool on);
-    void OnScaleChanged(double scale);
+    void OnScaleChanged(float scale);
 
 private:
     QString modeName() const;

@@ -71,9 +71,9 @@ AnimTrackFrame::AnimTrackFrame(QWidget *parent)
             [this](int action) { emit actionChosen(playback().blockIndex, action); });
     connect(m_ui->cbAnimTrackBlock, qOverload<int>(&QComboBox::activated), this,
             &AnimTrackFrame::selectBlock);
-    connect(m_ui->sbAnimTrackSpeed, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
-            [](double factor) { playback().speedFactor = float(factor); });
-    playback().speedFactor = float(m_ui->sbAnimTrackSpeed->value());
+    connect(m_ui->sbAnimTrackSpeed, &FloatSpinBox::valueEdited, this,
+            [](float factor) { playback().speedFactor = factor; });
+    playback().speedFactor = m_ui->sbAnimTrackSpeed->value();
 }
 
 AnimTrackFrame::~AnimTrackFrame() = default;

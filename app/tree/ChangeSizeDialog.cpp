@@ -14,7 +14,8 @@ ChangeSizeDialog::ChangeSizeDialog(const QString &title, int least, int most, in
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowTitle(title);
     m_ui->lblSize->setText(title);
-    m_ui->sbSize->setRange(least, std::max(most, current));
+    m_ui->sbSize->setMinimum(least);
+    m_ui->sbSize->setMaximum(std::max(most, current));
     m_ui->sbSize->setValue(current);
     m_ui->sbSize->setToolTip(tr("%1 to %2").arg(least).arg(m_ui->sbSize->maximum()));
     m_ui->sbSize->selectAll();
@@ -22,6 +23,12 @@ ChangeSizeDialog::ChangeSizeDialog(const QString &title, int least, int most, in
 }
 
 ChangeSizeDialog::~ChangeSizeDialog() = default;
+
+void ChangeSizeDialog::accept()
+{
+    if (!NumberField::hasRefused(*this))
+        QDialog::accept();
+}
 
 int ChangeSizeDialog::size() const
 {

@@ -22,6 +22,8 @@ public:
 
     int size() const;
 
+    void accept() override;
+
 private:
     std::unique_ptr<Ui::ChangeSizeDialog> m_ui;
 };

@@ -5,7 +5,12 @@
 #include "Settings.h"
 #include "ui_PictureDialog.h"
 
-#include <QSignalBlocker>
+namespace {
+void fill(IntSpinBox *box, int length)
+{
+    box->setValue(qBound(box->minimum(), length, box->maximum()));
+}
+} // namespace
 
 PictureDialog::PictureDialog(const QSize &viewSize, QWidget *parent)
     : QDialog(parent)
@@ -18,11 +23,10 @@ PictureDialog::PictureDialog(const QSize &viewSize, QWidget *parent)
     m_ui->cbKeepProportions->setChecked(Settings::PictureKeepProportions.value());
     m_ui->cbTransparent->setChecked(Settings::PictureTransparent.value());
     const QSize stored = Settings::PictureSize.value();
-    const QSignalBlocker silence(m_ui->sbPictureHeight), silenceToo(m_ui->sbPictureWidth);
-    m_ui->sbPictureWidth->setValue(stored.isEmpty() ? m_viewSize.width() : stored.width());
-    m_ui->sbPictureHeight->setValue(stored.isEmpty() ? m_viewSize.height() : stored.height());
+    fill(m_ui->sbPictureWidth, stored.isEmpty() ? m_viewSize.width() : stored.width());
+    fill(m_ui->sbPictureHeight, stored.isEmpty() ? m_viewSize.height() : stored.height());
     // The view may have other proportions than it had then.
-    on_sbPictureWidth_valueChanged(m_ui->sbPictureWidth->value());
+    on_sbPictureWidth_valueEdited(m_ui->sbPictureWidth->value());
 }
 
 PictureDialog::~PictureDialog() = default;
@@ -37,31 +41,30 @@ bool PictureDialog::isTransparent() const
     return m_ui->cbTransparent->isChecked();
 }
 
-void PictureDialog::on_sbPictureWidth_valueChanged(int width)
+void PictureDialog::on_sbPictureWidth_valueEdited(int width)
 {
     if (!m_ui->cbKeepProportions->isChecked())
         return;
-    const QSignalBlocker silence(m_ui->sbPictureHeight);
-    m_ui->sbPictureHeight->setValue(qRound(double(width) * m_viewSize.height() / m_viewSize.width()));
+    fill(m_ui->sbPictureHeight, qRound(double(width) * m_viewSize.height() / m_viewSize.width()));
 }
 
-void PictureDialog::on_sbPictureHeight_valueChanged(int height)
+void PictureDialog::on_sbPictureHeight_valueEdited(int height)
 {
     if (!m_ui->cbKeepProportions->isChecked())
         return;
-    const QSignalBlocker silence(m_ui->sbPictureWidth);
-    m_ui->sbPictureWidth->setValue(qRound(double(height) * m_viewSize.width() / m_viewSize.height()));
+    fill(m_ui->sbPictureWidth, qRound(double(height) * m_viewSize.width() / m_viewSize.height()));
 }
 
 void PictureDialog::on_btnViewSize_clicked()
 {
-    const QSignalBlocker silence(m_ui->sbPictureHeight), silenceToo(m_ui->sbPictureWidth);
-    m_ui->sbPictureWidth->setValue(m_viewSize.width());
-    m_ui->sbPictureHeight->setValue(m_viewSize.height());
+    fill(m_ui->sbPictureWidth, m_viewSize.width());
+    fill(m_ui->sbPictureHeight, m_viewSize.height());
 }
 
 void PictureDialog::accept()
 {
+    if (NumberField::hasRefused(*this))
+        return;
     // The view's own size is followed wherever the view goes.
     Settings::PictureSize.setValue(pictureSize() == m_viewSize ? QSize() : pictureSize());
     Settings::PictureKeepProportions.setValue(m_ui->cbKeepProportions->isChecked());

@@ -25,8 +25,8 @@ public:
     bool isTransparent() const;
 
 private slots:
-    void on_sbPictureWidth_valueChanged(int width);
-    void on_sbPictureHeight_valueChanged(int height);
+    void on_sbPictureWidth_valueEdited(int width);
+    void on_sbPictureHeight_valueEdited(int height);
     void on_btnViewSize_clicked();
     void accept() override;
 

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "ChoiceBox.h"
 
+#include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QStylePainter>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -13,12 +15,18 @@ ChoiceBox::ChoiceBox(QWidget *parent)
     setFocusPolicy(Qt::StrongFocus);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     connect(this, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this](int) {
-        const int chosen = currentData().toInt();
-        if (chosen == m_value)
-            return;
-        setValue(chosen);
-        emit valueEdited(chosen);
+        if (!m_isSearching)
+            commit();
     });
+}
+
+void ChoiceBox::commit()
+{
+    const int chosen = currentData().toInt();
+    if (chosen == m_value)
+        return;
+    setValue(chosen);
+    emit valueEdited(chosen);
 }
 
 void ChoiceBox::setNames(const QStringList &names)
@@ -37,6 +45,55 @@ void ChoiceBox::setValue(int value)
 {
     m_value = value;
     fill();
+}
+
+bool ChoiceBox::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride && isTyping() &&
+        static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
+        event->accept();
+        return true;
+    }
+    return QComboBox::event(event);
+}
+
+void ChoiceBox::keyPressEvent(QKeyEvent *event)
+{
+    const QString text = event->text();
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        commit();
+        break;
+    case Qt::Key_Escape:
+        if (!isTyping())
+            break;
+        setValue(m_value);
+        return;
+    default:
+        m_isSearching = !text.isEmpty() && text.at(0).isPrint() && event->key() != Qt::Key_Space;
+    }
+    QComboBox::keyPressEvent(event);
+    m_isSearching = false;
+}
+
+void ChoiceBox::focusOutEvent(QFocusEvent *event)
+{
+    if (event->reason() != Qt::PopupFocusReason)
+        commit();
+    QComboBox::focusOutEvent(event);
+}
+
+void ChoiceBox::wheelEvent(QWheelEvent *event)
+{
+    // Scrolling past the box must not change the file.
+    if (!(event->modifiers() & Qt::ControlModifier)) {
+        event->ignore();
+        return;
+    }
+    // What is typed in another field is stored first.
+    setFocus(Qt::MouseFocusReason);
+    QComboBox::wheelEvent(event);
 }
 
 void ChoiceBox::paintEvent(QPaintEvent *)

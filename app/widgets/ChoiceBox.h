@@ -5,7 +5,8 @@
 #include <QComboBox>
 
 /// A choice of named numbers that can also show a number without a name: as the bare number, until a named
-/// one is chosen.
+/// one is chosen. A name that is looked for by typing its first letters is stored with Enter, or when the box
+/// is left; Escape gives it up. The wheel changes nothing unless Ctrl is held.
 class ChoiceBox : public QComboBox
 {
     Q_OBJECT
@@ -27,10 +28,17 @@ signals:
 protected:
     /// A name that does not fit ends in an ellipsis.
     void paintEvent(QPaintEvent *event) override;
+    bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
 
 private:
     void fill();
+    bool isTyping() const { return currentData().toInt() != m_value; }
+    void commit();
 
     QStringList m_names;
     int m_value = 0;
+    bool m_isSearching = false; ///< a typed letter is looked for
 };

@@ -5,11 +5,11 @@
 #include "ChoiceBox.h"
 #include "FlagsEditor.h"
 #include "FloatSpinBox.h"
+#include "IntSpinBox.h"
+#include "TextField.h"
 
 #include <QCheckBox>
-#include <QLineEdit>
 #include <QSignalBlocker>
-#include <QSpinBox>
 
 #include <array>
 #include <type_traits>
@@ -22,7 +22,7 @@ inline float value(const FloatSpinBox *editor)
 {
     return editor->value();
 }
-inline int value(const QSpinBox *editor)
+inline int value(const IntSpinBox *editor)
 {
     return editor->value();
 }
@@ -38,22 +38,18 @@ inline bool value(const QCheckBox *editor)
 {
     return editor->isChecked();
 }
-inline QString value(const QLineEdit *editor)
+inline QString value(const TextField *editor)
 {
-    return editor->text();
+    return editor->value();
 }
 
 inline void show(FloatSpinBox *editor, float value)
 {
     editor->setValue(value);
 }
-inline void show(QSpinBox *editor, int value)
+inline void show(IntSpinBox *editor, int value)
 {
-    const QSignalBlocker blocker(editor);
     editor->setValue(value);
-    // Forget the typing that led here: Ctrl+Z is to undo the edit, not the keys.
-    auto *line = editor->findChild<QLineEdit *>();
-    line->setText(line->text());
 }
 inline void show(ChoiceBox *editor, int value)
 {
@@ -68,12 +64,9 @@ inline void show(QCheckBox *editor, bool value)
     const QSignalBlocker blocker(editor);
     editor->setChecked(value);
 }
-inline void show(QLineEdit *editor, const QString &value)
+inline void show(TextField *editor, const QString &value)
 {
-    // A path that does not fit shows its start, unless the cursor is where the user works.
-    const int cursor = editor->hasFocus() ? editor->cursorPosition() : 0;
-    editor->setText(value);
-    editor->setCursorPosition(cursor);
+    editor->setValue(value);
 }
 
 template <typename Receiver>
@@ -82,11 +75,9 @@ void onEdited(FloatSpinBox *editor, Receiver *receiver, void (Receiver::*slot)()
     QObject::connect(editor, &FloatSpinBox::valueEdited, receiver, slot);
 }
 template <typename Receiver>
-void onEdited(QSpinBox *editor, Receiver *receiver, void (Receiver::*slot)())
+void onEdited(IntSpinBox *editor, Receiver *receiver, void (Receiver::*slot)())
 {
-    // One step per number, not per key.
-    editor->setKeyboardTracking(false);
-    QObject::connect(editor, QOverload<int>::of(&QSpinBox::valueChanged), receiver, slot);
+    QObject::connect(editor, &IntSpinBox::valueEdited, receiver, slot);
 }
 template <typename Receiver>
 void onEdited(ChoiceBox *editor, Receiver *receiver, void (Receiver::*slot)())
@@ -104,9 +95,9 @@ void onEdited(QCheckBox *editor, Receiver *receiver, void (Receiver::*slot)())
     QObject::connect(editor, &QCheckBox::clicked, receiver, slot);
 }
 template <typename Receiver>
-void onEdited(QLineEdit *editor, Receiver *receiver, void (Receiver::*slot)())
+void onEdited(TextField *editor, Receiver *receiver, void (Receiver::*slot)())
 {
-    QObject::connect(editor, &QLineEdit::editingFinished, receiver, slot);
+    QObject::connect(editor, &TextField::valueEdited, receiver, slot);
 }
 
 } // namespace Editors

@@ -2,18 +2,38 @@
 // SPDX-License-Identifier: MIT
 #include "FloatSpinBox.h"
 
-#include <QKeyEvent>
-#include <QLineEdit>
-#include <QStyleOptionSpinBox>
-
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
-FloatSpinBox::FloatSpinBox(QWidget *parent)
-    : QAbstractSpinBox(parent)
+namespace {
+/// The decimals of the shortest text of a number.
+int decimalsOf(double value)
 {
-    lineEdit()->setText(textOf(m_value));
-    setFocusPolicy(Qt::StrongFocus);
+    char buffer[32];
+    const auto [end, error] =
+        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::scientific);
+    Q_ASSERT(error == std::errc());
+    const QByteArray text(buffer, int(end - buffer));
+    const int exponent = text.indexOf('e');
+    const int point = text.indexOf('.');
+    const int digits = point < 0 ? 0 : exponent - point - 1;
+    return std::max(0, digits - text.mid(exponent + 1).toInt());
+}
+
+double roundedTo(double value, int decimals)
+{
+    // Beyond that a double has no such digits to round away.
+    constexpr double mostExact = 9007199254740992.0;
+    const double scale = std::pow(10.0, decimals);
+    return std::fabs(value) * scale < mostExact ? std::round(value * scale) / scale : value;
+}
+} // namespace
+
+FloatSpinBox::FloatSpinBox(QWidget *parent)
+    : NumberField(parent)
+{
+    showValue();
 }
 
 QString FloatSpinBox::textOf(float value)
@@ -46,91 +66,81 @@ bool FloatSpinBox::parse(const QString &text, float &value)
 
 void FloatSpinBox::setValue(float value)
 {
+    const bool isSame = value == m_value;
     m_value = value;
-    lineEdit()->setText(textOf(value));
-    // A number that does not fit shows its sign and its first digits.
-    lineEdit()->setCursorPosition(0);
+    showValue(isSame);
 }
 
-void FloatSpinBox::stepBy(int steps)
+void FloatSpinBox::setDecimals(int decimals)
 {
-    commitText();
-    const float stepped = m_value + float(steps) * m_step;
-    if (!std::isfinite(stepped) || stepped == m_value)
-        return;
-    setValue(stepped);
-    selectAll();
-    emit valueEdited(stepped);
+    m_decimals = decimals;
+    showValue();
 }
 
-QValidator::State FloatSpinBox::validate(QString &text, int &) const
+QString FloatSpinBox::valueText() const
+{
+    return m_decimals < 0 || !std::isfinite(m_value) ? textOf(m_value)
+                                                     : QString::number(double(m_value), 'f', m_decimals);
+}
+
+QString FloatSpinBox::widestText() const
+{
+    // All digits of an ordinary value.
+    return m_decimals < 0 ? QStringLiteral("-0.0012345678")
+                          : QString::number(double(m_maximum), 'f', m_decimals);
+}
+
+bool FloatSpinBox::read(const QString &text, float &value) const
+{
+    if (!parse(text, value))
+        return false;
+    if (m_decimals >= 0)
+        value = float(roundedTo(double(value), m_decimals));
+    return value >= m_minimum && value <= m_maximum;
+}
+
+QString FloatSpinBox::refusalOf(const QString &text) const
 {
     float value = 0.0f;
-    if (parse(text, value) || text == textOf(m_value))
-        return QValidator::Acceptable;
-    for (const QChar c : text) {
-        if (!c.isDigit() && !QStringLiteral("+-.,eE nafi").contains(c))
-            return QValidator::Invalid;
-    }
-    return QValidator::Intermediate;
+    if (read(text, value))
+        return {};
+    if (m_maximum == std::numeric_limits<float>::max())
+        return tr("'%1' is no number that can be stored here.").arg(text);
+    return tr("'%1' is no number from %2 to %3.").arg(text, textOf(m_minimum), textOf(m_maximum));
 }
 
-void FloatSpinBox::fixup(QString &text) const
+void FloatSpinBox::change(float value)
 {
-    text = textOf(m_value);
+    // A NaN differs from everything, so that it can be typed away.
+    const bool isOther = value != m_value;
+    if (isOther)
+        m_value = value;
+    showValue();
+    if (isOther)
+        emit valueEdited(value);
 }
 
-void FloatSpinBox::commitText()
+void FloatSpinBox::store(const QString &text)
 {
     float typed = 0.0f;
-    const QString text = lineEdit()->text();
-    if (text == textOf(m_value))
-        return;
-    if (!parse(text, typed) || typed == m_value) {
-        setValue(m_value);
-        return;
-    }
-    setValue(typed);
-    emit valueEdited(typed);
+    if (read(text, typed))
+        change(typed);
 }
 
-QAbstractSpinBox::StepEnabled FloatSpinBox::stepEnabled() const
+bool FloatSpinBox::step(int steps)
 {
-    return isReadOnly() ? StepNone : StepUpEnabled | StepDownEnabled;
+    // In decimals, as a hand would: a float is seldom the number that its text says.
+    const double before = std::isfinite(m_value) ? textOf(m_value).toDouble() : double(m_value);
+    const int decimals = std::isfinite(before) ? std::max(decimalsOf(before), decimalsOf(m_step)) : 0;
+    const auto wanted = float(roundedTo(before + steps * m_step, decimals));
+    const float stepped = std::clamp(wanted, m_minimum, m_maximum);
+    if (!std::isfinite(wanted) || stepped == m_value)
+        return false;
+    change(stepped);
+    return true;
 }
 
-void FloatSpinBox::focusOutEvent(QFocusEvent *event)
+bool FloatSpinBox::canStep(int direction) const
 {
-    commitText();
-    QAbstractSpinBox::focusOutEvent(event);
-}
-
-void FloatSpinBox::keyPressEvent(QKeyEvent *event)
-{
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        commitText();
-        selectAll();
-        return;
-    }
-    if (event->key() == Qt::Key_Escape && lineEdit()->text() != textOf(m_value)) {
-        setValue(m_value);
-        selectAll();
-        return;
-    }
-    QAbstractSpinBox::keyPressEvent(event);
-}
-
-QSize FloatSpinBox::sizeHint() const
-{
-    QStyleOptionSpinBox option;
-    initStyleOption(&option);
-    // All digits of an ordinary value.
-    const int width = fontMetrics().horizontalAdvance(QStringLiteral("-0.0012345678")) + 4;
-    const QSize content(width, lineEdit()->sizeHint().height());
-    return style()->sizeFromContents(QStyle::CT_SpinBox, &option, content, this);
-}
-
-QSize FloatSpinBox::minimumSizeHint() const
-{
-    return sizeHint();
+    return std::isnan(m_value) || (direction > 0 ? m_value < m_maximum : m_value > m_minimum);
 }

@@ -30,6 +30,17 @@ struct ProgramFolder : TestFolder
     }
 };
 
+/// Turns the wheel over a widget as the window system tells of it: made-up events give no focus.
+inline void turnWheel(QWidget *over, int delta, Qt::KeyboardModifiers keys = {})
+{
+    QWidget *window = over->window();
+    const QPoint place = over->mapTo(window, over->rect().center());
+    QWheelEvent event(place, window->mapToGlobal(place), {}, {0, delta}, Qt::NoButton, keys,
+                      Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(window->windowHandle(), &event);
+}
+
 /// A part of a widget as it really is on the screen.
 inline QImage onScreen(const QWidget *widget, const QRect &part)
 {

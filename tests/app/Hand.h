@@ -4,6 +4,7 @@
 
 #include "AnimFile.h"
 #include "Find.h"
+#include "IntSpinBox.h"
 #include "KVTreeView.h"
 #include "MainWindow.h"
 #include "SkinnedMesh.h"
@@ -130,7 +131,7 @@ inline QStringList consoleOf(const QWidget &window)
     return lines;
 }
 
-inline void typeNumber(QSpinBox *box, int number)
+inline void typeNumber(IntSpinBox *box, int number)
 {
     box->setFocus();
     box->selectAll();
@@ -142,5 +143,5 @@ inline void typeNumber(QSpinBox *box, int number)
 inline void typeParent(const QWidget &window, int parent)
 {
     select(window, "treeSkinnedMesh", {{RecordKind::Bone, {1}}});
-    typeNumber(find<QSpinBox>(window, "sbNodeParentNode"), parent);
+    typeNumber(find<IntSpinBox>(window, "sbNodeParentNode"), parent);
 }

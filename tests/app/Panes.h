@@ -5,6 +5,7 @@
 #include "Find.h"
 #include "FlagsEditor.h"
 #include "FloatSpinBox.h"
+#include "IntSpinBox.h"
 #include "PageStack.h"
 #include "PropertyPages.h"
 #include "SampleModels.h"

@@ -15,7 +15,7 @@ AnimBlockPage::AnimBlockPage(ModelDocument<Model> &document, const KVTreeView &t
 {
     m_ui.setupUi(this);
     Questions::set(m_ui.sbAnimAnimID, {Question::Animation});
-    m_ui.sbAnimFrameScale->setSingleStep(0.1f);
+    m_ui.sbAnimFrameScale->setSingleStep(0.1);
 
     using Page = AnimBlockPage;
     bind<UC_AnimBlockAnimID>(m_ui.sbAnimAnimID, Whole, tr("Animation AnimID"),

@@ -12,7 +12,7 @@ AnimFramePage::AnimFramePage(ModelDocument<Model> &document, const KVTreeView &t
     : RecordPage(document, tree, tr("Anim %1 - Frame %2 Properties"), parent)
 {
     m_ui.setupUi(this);
-    m_ui.sbAnimFrameYaw->setSingleStep(0.1f);
+    m_ui.sbAnimFrameYaw->setSingleStep(0.1);
 
     using Page = AnimFramePage;
     bind<UC_AnimFrameYaw>(m_ui.sbAnimFrameYaw, Whole, tr("Frame Yaw Offset"), &Page::OnAnimFrameYawChanged);

@@ -16,7 +16,7 @@ AnimNodePage::AnimNodePage(ModelDocument<Model> &document, const KVTreeView &tre
     m_ui.setupUi(this);
     for (FloatSpinBox *editor :
          {m_ui.sbAnimNodeInitRotX, m_ui.sbAnimNodeInitRotY, m_ui.sbAnimNodeInitRotZ, m_ui.sbAnimNodeInitRotW})
-        editor->setSingleStep(0.01f);
+        editor->setSingleStep(0.01);
 
     connect(&mesh, &Document::replaced, this, &AnimNodePage::recordShown);
     connect(&mesh, &Document::recordsChanged, this, &AnimNodePage::recordShown);

@@ -29,7 +29,7 @@ AnimRotationPage::AnimRotationPage(ModelDocument<Model> &document, const KVTreeV
     m_ui.setupUi(this);
     for (FloatSpinBox *editor :
          {m_ui.sbAnimRotationX, m_ui.sbAnimRotationY, m_ui.sbAnimRotationZ, m_ui.sbAnimRotationW})
-        editor->setSingleStep(0.01f);
+        editor->setSingleStep(0.01);
 
     using Page = AnimRotationPage;
     bindVector<UC_AnimRotation, Page>(tr("Animation Rotation %1"),

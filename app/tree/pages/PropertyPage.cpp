@@ -5,7 +5,6 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QKeySequence>
-#include <QRegularExpressionValidator>
 
 #include <limits>
 
@@ -25,6 +24,9 @@ QString PropertyPage::title() const
 
 void PropertyPage::showRecord(const RecordIndex &index, const QVector<RecordIndex> &selected)
 {
+    // What was typed for another record goes.
+    if (index != m_index)
+        discardTyping();
     m_index = index;
     m_showsDifferences = false;
     for (const Binding &binding : qAsConst(m_bindings)) {
@@ -32,6 +34,14 @@ void PropertyPage::showRecord(const RecordIndex &index, const QVector<RecordInde
         m_showsDifferences |= binding.mark(selected);
     }
     recordShown();
+}
+
+void PropertyPage::discardTyping()
+{
+    for (NumberField *editor : findChildren<NumberField *>())
+        editor->discardText();
+    for (TextField *editor : findChildren<TextField *>())
+        editor->discardText();
 }
 
 void PropertyPage::addBinding(Binding binding)
@@ -50,21 +60,22 @@ void PropertyPage::commit(const QWidget *editor)
     }
 }
 
-void PropertyPage::setUpMaterialEditor(QLineEdit *editor)
+void PropertyPage::setUpMaterialEditor(TextField *editor)
 {
     // A longer path in a file must not be cut by being shown.
     editor->setMaxLength(std::numeric_limits<int>::max());
-    static const QRegularExpression latin1(QStringLiteral("[\\x{01}-\\x{ff}]*"));
-    editor->setValidator(new QRegularExpressionValidator(latin1, editor));
+    editor->setCheck([](const QString &text) {
+        const auto *other = std::find_if(text.begin(), text.end(),
+                                         [](QChar c) { return c.unicode() < 1 || c.unicode() > 0xff; });
+        return other == text.end() ? QString()
+                                   : tr("The file format cannot hold '%1': only characters of Latin-1. "
+                                        "The path is not stored; Esc brings the old one back.")
+                                         .arg(*other);
+    });
 }
 
 bool PropertyPage::eventFilter(QObject *watched, QEvent *event)
 {
-    // Scrolling the page past an editor must not change the file.
-    if (event->type() == QEvent::Wheel && !static_cast<QWidget *>(watched)->hasFocus()) {
-        event->ignore();
-        return true;
-    }
     // A text field without typing of its own to take back leaves Ctrl+Z to the document.
     if (event->type() == QEvent::ShortcutOverride) {
         const auto *line = qobject_cast<QLineEdit *>(watched);

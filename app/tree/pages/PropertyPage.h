@@ -36,13 +36,16 @@ public:
     QString title() const;
 
 protected:
-    /// Prepares an editor of a material path: files hold Latin-1, so nothing else can be typed.
-    static void setUpMaterialEditor(QLineEdit *editor);
+    /// Prepares an editor of a material path: files hold Latin-1, so nothing else is stored.
+    static void setUpMaterialEditor(TextField *editor);
 
     /// Called after the editors were filled, for what depends on them.
     virtual void recordShown() {}
 
     bool eventFilter(QObject *watched, QEvent *event) override;
+
+    /// Forgets what stands in editors and is not stored.
+    void discardTyping();
 
     struct Binding
     {
@@ -75,7 +78,11 @@ public:
         : PropertyPage(RecordType::kind, title, parent)
         , m_document(document)
         , m_tree(tree)
-    {}
+    {
+        // The same indexes may name another record afterwards.
+        connect(&document, &Document::aboutToBeReplaced, this, &RecordPage::discardTyping);
+        connect(&document, &Document::structuresChanged, this, &RecordPage::discardTyping);
+    }
 
 protected:
     const Model &model() const { return m_document.model(); }

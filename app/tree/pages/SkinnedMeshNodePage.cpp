@@ -23,7 +23,7 @@ SkinnedMeshNodePage::SkinnedMeshNodePage(ModelDocument<Model> &document, const K
     m_ui.cbNodeSymbolType->setNames(boneTypeNames());
     m_ui.cbNodeSymbolSide->setNames({tr("Left"), tr("Right")});
     m_ui.cbNodeImpactType->setNames(impactTypeNames());
-    m_ui.sbNodeDamageScale->setSingleStep(0.1f);
+    m_ui.sbNodeDamageScale->setSingleStep(0.1);
 
     using Page = SkinnedMeshNodePage;
     bind<UC_SkinnedMeshNodeSFlags>(m_ui.cbNodeSymbolType, SymbolType, tr("Bone Symbol Flags"),

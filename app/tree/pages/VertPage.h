@@ -21,7 +21,7 @@ protected:
             editor->setToolTip(place);
         for (FloatSpinBox *editor :
              {m_ui.sbVertNormalX, m_ui.sbVertNormalY, m_ui.sbVertNormalZ, m_ui.sbVertUVX, m_ui.sbVertUVY})
-            editor->setSingleStep(0.01f);
+            editor->setSingleStep(0.01);
     }
 
     Ui::VertPage m_ui;

@@ -159,13 +159,11 @@ private slots:
                       {"particle", "What Particle is this?", "Particle", "4:  Unnamed_Particle_4.particle"},
                       {"impact", "What Impact Type is this?", "Impact Types", "4:  Flesh"}};
         QWidget window;
-        auto *whole = new QSpinBox(&window);
-        auto *real = new QDoubleSpinBox(&window);
-        auto *single = new FloatSpinBox(&window);
+        auto *whole = new IntSpinBox(&window);
+        auto *real = new FloatSpinBox(&window);
         whole->setValue(4);
-        real->setValue(4.5);
-        single->setValue(4.25f);
-        const QList<QWidget *> editors{whole, real, single};
+        real->setValue(4.25f);
+        const QList<QWidget *> editors{whole, real};
         QuestionMenu menu(*m_tab, &window);
         window.show();
         for (const auto &table : tables) {
@@ -190,7 +188,7 @@ private slots:
 
         // An editor may go while its menu is open.
         m_errors.clear();
-        auto whole = std::make_unique<QSpinBox>();
+        auto whole = std::make_unique<IntSpinBox>();
         auto real = std::make_unique<FloatSpinBox>();
         std::vector<std::unique_ptr<QMenu>> menus;
         for (QWidget *editor : {static_cast<QWidget *>(whole.get()), static_cast<QWidget *>(real.get())}) {

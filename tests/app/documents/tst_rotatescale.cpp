@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "Find.h"
+#include "FloatSpinBox.h"
 #include "ModelTransforms.h"
 #include "RotateDialog.h"
 #include "SampleModels.h"
@@ -138,7 +139,7 @@ private:
     }
     void type(const char *editor, const char *text)
     {
-        auto *box = find<QDoubleSpinBox>(*m_window, editor);
+        auto *box = find<FloatSpinBox>(*m_window, editor);
         box->setFocus();
         box->selectAll();
         QTest::keyClicks(box, QLatin1String(text));

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "FloatSpinBox.h"
 #include "Hand.h"
 #include "ImportDialog.h"
 #include "ImportFilter.h"
@@ -54,9 +55,9 @@ private slots:
                 QTest::keyClick(box, Qt::Key_Space);
                 QCOMPARE(key->value(), !before);
             }
-            auto *scale = find<QDoubleSpinBox>(dialog, "sbScale");
+            auto *scale = find<FloatSpinBox>(dialog, "sbScale");
             scale->selectAll();
-            QTest::keyClicks(scale, QStringLiteral("2.5"));
+            QTest::keyClicks(scale, QStringLiteral("2,5\r"));
             QCOMPARE(Settings::ImportScale.value(), 2.5f);
             type(dialog, "txtT2Dir", m_source->path() + QLatin1Char('/'));
             QCOMPARE(Settings::OutputDir.value(), m_source->path());
@@ -65,7 +66,7 @@ private slots:
         const ImportDialog again(ImportDialog::SkinnedMeshMode);
         for (const auto &[name, key] : options)
             QCOMPARE(find<QCheckBox>(again, name)->isChecked(), key->value());
-        QCOMPARE(find<QDoubleSpinBox>(again, "sbScale")->value(), 1e-6);
+        QCOMPARE(find<FloatSpinBox>(again, "sbScale")->value(), 1e-6f);
     }
 
     void choosingTheModel()

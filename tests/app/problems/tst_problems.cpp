@@ -66,7 +66,7 @@ private slots:
         auto *meshTree = find<KVTreeView>("treeSkinnedMesh");
         QVERIFY(meshTree->isVisible() && meshTree->hasFocus());
         QCOMPARE(meshTree->currentRecord(), (RecordRef{RecordKind::HotPoint, {1, 0, 0}}));
-        QCOMPARE(find<QSpinBox>("sbHPNodeID")->value(), 254);
+        QCOMPARE(find<IntSpinBox>("sbHPNodeID")->value(), 254);
 
         click(1, Qt::ShiftModifier);
         trigger("Ctrl+C");
@@ -154,7 +154,7 @@ private slots:
         auto *tree = find<KVTreeView>("treeSkinnedMesh");
         const RecordRef point{RecordKind::HotPoint, {2, 0, 0}};
         tree->selectRecords({point}, point);
-        typeNumber(find<QSpinBox>("sbHPNodeID"), 200);
+        typeNumber(find<IntSpinBox>("sbHPNodeID"), 200);
         QCOMPARE(list()->topLevelItemCount(), 0); // not while one types
         QTRY_COMPARE(column(PlaceColumn), QStringList(QStringLiteral("Hot Points › 2")));
         undo();

@@ -241,7 +241,7 @@ private slots:
                 bool asked = false;
                 QTimer::singleShot(0, this, [&] {
                     auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-                    auto *box = dialog->findChild<QSpinBox *>(QStringLiteral("sbSize"));
+                    auto *box = dialog->findChild<IntSpinBox *>(QStringLiteral("sbSize"));
                     asked =
                         box->minimum() == row.least && box->maximum() == 65535 && box->value() == row.current;
                     // The number is selected: typing replaces it.

@@ -3,6 +3,7 @@
 #include "ChoiceBox.h"
 #include "Find.h"
 #include "FloatSpinBox.h"
+#include "IntSpinBox.h"
 #include "SampleModels.h"
 
 #include <cstring>
@@ -51,39 +52,90 @@ private slots:
 
     void typing()
     {
-        const auto check = [](float shown, const char *typed, float result, Qt::Key end = Qt::Key_Return) {
-            FloatSpinBox box;
-            QSignalSpy edited(&box, &FloatSpinBox::valueEdited);
+        // The keys, and the value and the text that they leave; "" as text: that of the value.
+        const auto check = [](auto &&box, auto shown, const char *typed, auto result, const char *text = "") {
+            using Box = std::decay_t<decltype(box)>;
+            QSignalSpy edited(&box, &Box::valueEdited);
             box.setValue(shown);
-            type(box, QString::fromLatin1(typed), end);
+            auto *line = box.template findChild<QLineEdit *>();
+            const QString before = line->text();
+            type(box, QString::fromLatin1(typed));
+            QCOMPARE(box.isRefused(), *text != '\0');
+            QCOMPARE(box.accessibleDescription().isEmpty(), *text == '\0');
+            QTest::keyClick(&box, Qt::Key_Return);
             QCOMPARE(box.value(), result);
             QCOMPARE(edited.count(), shown == result ? 0 : 1);
-            QCOMPARE(box.findChild<QLineEdit *>()->text(), FloatSpinBox::textOf(result));
+            QCOMPARE(box.isRefused(), *text != '\0');
+            if (!*text)
+                return;
+            // It stays when the field is left and shown again, until Escape.
+            box.clearFocus();
+            box.setValue(shown);
+            QCOMPARE(line->text(), QString::fromLatin1(text));
+            QTest::keyClick(&box, Qt::Key_Up);
+            QCOMPARE(box.value(), shown);
+            QTest::keyClick(&box, Qt::Key_Escape);
+            QVERIFY(!box.isRefused() && line->text() == before);
         };
-        check(1.0f, "2,5", 2.5f);
-        check(1.0f, "-1e-7", -1e-7f);
-        check(2.5f, "2.50", 2.5f);
-        check(std::numeric_limits<float>::quiet_NaN(), "3", 3.0f);
-        check(1.0f, "e", 1.0f);
-        check(1.0f, "1e39", 1.0f); // too large for a float
-        check(1.0f, "inf", 1.0f);
-        check(1.0f, "7", 1.0f, Qt::Key_Escape);
+        const QLocale german(QLocale::German);
+        QLocale::setDefault(german);
+        const auto real = [](double least, double most) {
+            auto box = std::make_unique<FloatSpinBox>();
+            box->setMinimum(least);
+            box->setMaximum(most);
+            box->setDecimals(6);
+            return box;
+        };
+        check(FloatSpinBox(), 1.0f, "2,5", 2.5f);
+        check(FloatSpinBox(), 1.0f, "2.5", 2.5f);
+        check(FloatSpinBox(), 1.0f, "-1e-7", -1e-7f);
+        check(FloatSpinBox(), 2.5f, "2.50", 2.5f);
+        check(FloatSpinBox(), std::numeric_limits<float>::quiet_NaN(), "3", 3.0f);
+        check(FloatSpinBox(), 1.0f, "1e39", 1.0f, "1e39"); // too large for a float
+        check(FloatSpinBox(), 1.0f, "inf", 1.0f, "inf");
+        check(FloatSpinBox(), 1.0f, "=2*3", 1.0f, "=2*3");
+        check(*real(1e-6, 1e6), 1.0f, "2.5", 2.5f);
+        check(*real(1e-6, 1e6), 1.0f, "0,01", 0.01f);
+        check(*real(1e-6, 1e6), 1.0f, "1.0000000001", 1.0f);
+        check(*real(1e-6, 1e6), 1.0f, "-5", 1.0f, "-5");
+        check(*real(0.1, 4), 1.0f, "1.000,5", 1.0f, "1.000,5");
+        const auto whole = [](int most) {
+            auto box = std::make_unique<IntSpinBox>();
+            box->setMaximum(most);
+            return box;
+        };
+        check(*whole(255), 7, "30", 30);
+        check(*whole(255), 7, " +4", 4);
+        check(*whole(65535), 7, "1000", 1000);
+        for (const char *typed : {"300", "-5", "1.9", "1,000", "=2*3", "0x10", "99999999999"})
+            check(*whole(255), 7, typed, 7, typed);
+        QLocale::setDefault(QLocale::c());
+
+        // What is not finished is not marked yet, and not stored either.
+        FloatSpinBox box;
+        type(box, QStringLiteral("1e-"));
+        QVERIFY(!box.isRefused() && box.value() == 0.0f);
     }
 
     void stepping()
     {
-        FloatSpinBox box;
-        box.setValue(0.1f);
-        QSignalSpy edited(&box, &FloatSpinBox::valueEdited);
-        QTest::keyClick(&box, Qt::Key_Up);
-        QCOMPARE(box.value(), 0.1f + 1.0f);
-        QTest::keyClick(&box, Qt::Key_PageDown);
-        QCOMPARE(box.value(), 0.1f + 1.0f - 10.0f);
-        QCOMPARE(edited.count(), 2);
+        const auto check = [](float value, double step, int key, int times, float result) {
+            FloatSpinBox box;
+            box.setSingleStep(step);
+            box.setValue(value);
+            QSignalSpy edited(&box, &FloatSpinBox::valueEdited);
+            for (int i = 0; i < times; ++i)
+                QTest::keyClick(&box, Qt::Key(key));
+            QCOMPARE(box.value(), result);
+            QCOMPARE(edited.count(), value == result ? 0 : times);
+        };
+        check(2.5f, 0.1, Qt::Key_Up, 2, 2.7f);
+        check(0.3f, 0.1, Qt::Key_Down, 3, 0.0f);
+        check(0.1f, 1.0, Qt::Key_PageDown, 1, -9.9f);
+        check(2.547f, 0.1, Qt::Key_Up, 1, 2.647f);
+        check(1e-7f, 0.01, Qt::Key_Up, 1, 0.0100001f);
         // A step that the float cannot hold is none.
-        box.setValue(std::numeric_limits<float>::max());
-        QTest::keyClick(&box, Qt::Key_Up);
-        QCOMPARE(edited.count(), 2);
+        check(std::numeric_limits<float>::max(), 1.0, Qt::Key_Up, 1, std::numeric_limits<float>::max());
     }
 
     void aChoiceWithoutANameIsShownAsItsNumber()
@@ -100,6 +152,18 @@ private slots:
         QCOMPARE(box.value(), 0);
         QCOMPARE(box.count(), 2);
         QCOMPARE(edited.count(), 1);
+        // A name that is looked for by its letters is given up by Escape, and stored once.
+        QTest::keyClicks(&box, QStringLiteral("ei"));
+        QCOMPARE(box.currentText(), QStringLiteral("eins"));
+        QTest::keyClick(&box, Qt::Key_Escape);
+        QVERIFY(box.currentIndex() == 0 && edited.count() == 1);
+        ChoiceBox other;
+        other.setNames({"null", "eins"});
+        QSignalSpy chosen(&other, &ChoiceBox::valueEdited);
+        QTest::keyClicks(&other, QStringLiteral("ei"));
+        QCOMPARE(chosen.count(), 0);
+        QTest::keyClick(&other, Qt::Key_Return);
+        QVERIFY(other.value() == 1 && chosen.count() == 1);
     }
 
 private:
@@ -109,12 +173,10 @@ private:
         std::memcpy(&bits, &value, sizeof bits);
         return bits;
     }
-    static void type(QWidget &editor, const QString &text, Qt::Key end)
+    static void type(QWidget &editor, const QString &text)
     {
-        auto *line = editor.findChild<QLineEdit *>();
-        line->selectAll();
-        QTest::keyClicks(line, text);
-        QTest::keyClick(&editor, end);
+        editor.findChild<QLineEdit *>()->selectAll();
+        QTest::keyClicks(&editor, text);
     }
 };
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "CommandPalette.h"
+#include "FloatSpinBox.h"
 #include "Hand.h"
 #include "NameTables.h"
 #include "PlayClock.h"
@@ -139,9 +140,9 @@ private slots:
         ShownWindow window({write(QStringLiteral("a.skinnedmesh"))});
         auto *view = find<QUndoView>(window, "viewHistory");
         QCOMPARE(view->model()->rowCount(), 1);
-        auto *factor = find<QSpinBox>(window, "sbSMHTFactor");
-        factor->setValue(3);
-        factor->setValue(5);
+        auto *factor = find<IntSpinBox>(window, "sbSMHTFactor");
+        typeNumber(factor, 3);
+        typeNumber(factor, 5);
         QVERIFY(view->model()->rowCount() > 1);
         find<QAction>(window, "actionSave")->trigger();
         const QModelIndex last = view->model()->index(view->model()->rowCount() - 1, 0);
@@ -195,7 +196,7 @@ private slots:
         press(' ');
         QCOMPARE(playback().playState, PlayState::Paused);
 
-        auto *speed = find<QDoubleSpinBox>(window, "sbAnimTrackSpeed");
+        auto *speed = find<FloatSpinBox>(window, "sbAnimTrackSpeed");
         speed->selectAll();
         QTest::keyClicks(speed, QStringLiteral("2.5\r"));
         Playback state = playback();

@@ -44,7 +44,7 @@ private slots:
         const auto *title =
             find<QWidget>(window, "pagesSkinnedMesh")->findChild<QLabel *>(QStringLiteral("lblPageTitle"));
         QCOMPARE(title->text(), QStringLiteral("Bone 1 Properties"));
-        auto *parent = find<QSpinBox>(window, "sbNodeParentNode");
+        auto *parent = find<IntSpinBox>(window, "sbNodeParentNode");
         QCOMPARE(parent->value(), 255);
         typeNumber(parent, 0);
         QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh * "));
@@ -90,7 +90,7 @@ private slots:
         typeParent(window, 7);
         find<QTabWidget>(window, "tabTrees")->setCurrentIndex(1);
         select(window, "treeAnim", {{RecordKind::AnimBlock, {1}}});
-        typeNumber(find<QSpinBox>(window, "sbAnimLoopFrame"), 7);
+        typeNumber(find<IntSpinBox>(window, "sbAnimLoopFrame"), 7);
         QVERIFY(find<QAction>(window, "actionUndo")->isEnabled());
 
         // What is typed and not ended, too.
@@ -291,7 +291,7 @@ private slots:
         QCOMPARE(playback().playState, PlayState::Playing);
         find<QToolButton>(window, "btnAnimTrackStop")->click();
         find<QTabWidget>(window, "tabTrees")->setCurrentIndex(1);
-        typeNumber(find<QSpinBox>(window, "sbAnimLoopFrame"), 3);
+        typeNumber(find<IntSpinBox>(window, "sbAnimLoopFrame"), 3);
         QCOMPARE(playback().playState, PlayState::Paused);
     }
 

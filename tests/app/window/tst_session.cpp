@@ -127,18 +127,18 @@ private slots:
     {
         {
             Started window({m_mesh});
-            find<QSpinBox>(window, "sbSMHTFactor")->setValue(9);
+            typeNumber(find<IntSpinBox>(window, "sbSMHTFactor"), 9);
             window.close();
         }
         Started window;
-        QCOMPARE(find<QSpinBox>(window, "sbSMHTFactor")->value(), 0);
+        QCOMPARE(find<IntSpinBox>(window, "sbSMHTFactor")->value(), 0);
         find<QPushButton>(window, "btnRestore")->click();
-        QCOMPARE(find<QSpinBox>(window, "sbSMHTFactor")->value(), 9);
+        QCOMPARE(find<IntSpinBox>(window, "sbSMHTFactor")->value(), 9);
         QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh * "));
         // Whatever else is done: what is open stays.
         window.findChild<Session *>()->store();
         window.openAtStart({});
-        QCOMPARE(find<QSpinBox>(window, "sbSMHTFactor")->value(), 9);
+        QCOMPARE(find<IntSpinBox>(window, "sbSMHTFactor")->value(), 9);
     }
 
     void anySessionMayBeStored()

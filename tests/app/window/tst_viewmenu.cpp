@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "FloatSpinBox.h"
 #include "FullDisk.h"
 #include "Hand.h"
 #include "KVOpenGLWidget.h"
@@ -65,7 +66,7 @@ private slots:
         QTest::keyClicks(filter, QStringLiteral("bone 14f"));
         QCOMPARE(filter->text(), QStringLiteral("bone 14f"));
         QVERIFY(!find<QAction>(*window, "actionWireframe")->isChecked());
-        auto *speed = find<QDoubleSpinBox>(*window, "sbAnimTrackSpeed");
+        auto *speed = find<FloatSpinBox>(*window, "sbAnimTrackSpeed");
         speed->setFocus();
         speed->selectAll();
         QTest::keyClicks(speed, QStringLiteral("3"));
@@ -306,8 +307,8 @@ private slots:
         {
             const Hand hand(
                 {[&clear](QDialog *dialog) {
-                     QCOMPARE(find<QSpinBox>(*dialog, "sbPictureWidth")->value(), 320);
-                     QCOMPARE(find<QSpinBox>(*dialog, "sbPictureHeight")->value(), clear.height());
+                     QCOMPARE(find<IntSpinBox>(*dialog, "sbPictureWidth")->value(), 320);
+                     QCOMPARE(find<IntSpinBox>(*dialog, "sbPictureHeight")->value(), clear.height());
                      auto *box = find<QCheckBox>(*dialog, "cbTransparent");
                      QVERIFY(box->isChecked());
                      box->click();
@@ -353,7 +354,7 @@ private:
     static Hand::Answer pictureOf(int width, bool transparent)
     {
         return [width, transparent](QDialog *dialog) {
-            auto *box = find<QSpinBox>(*dialog, "sbPictureWidth");
+            auto *box = find<IntSpinBox>(*dialog, "sbPictureWidth");
             box->setFocus();
             box->selectAll();
             QTest::keyClicks(box, QString::number(width));

@@ -41,6 +41,54 @@ private slots:
         QCOMPARE(shownText(panes.mesh.child<QComboBox>("cbNodeImpactType")), QStringLiteral("200"));
     }
 
+    void theWheelScrolls()
+    {
+        Panes panes;
+        panes.openPlain();
+        wheelOverAll(panes.mesh);
+        wheelOverAll(panes.anim);
+        wheelOverAll(panes.rigid);
+
+        // With Ctrl it is a hand at the editor: one step a tick.
+        auto &pane = panes.mesh;
+        pane.stack.resize(400, 700);
+        pane.select({{RecordKind::Bone, {1}}});
+        QCoreApplication::processEvents();
+        auto *parent = pane.child<IntSpinBox>("sbNodeParentNode");
+        static_cast<QScrollArea *>(pane.stack.pages()->currentWidget())->ensureWidgetVisible(parent);
+        const int before = parent->value();
+        turnWheel(parent, 120, Qt::ControlModifier);
+        QCOMPARE(parent->value(), before + 1);
+        QCOMPARE(pane.undo().count(), 1);
+    }
+
+    void whatCannotBeAValueIsNotStored()
+    {
+        Panes panes;
+        auto &pane = panes.mesh;
+        pane.open(plainMesh());
+        pane.select({{RecordKind::Bone, {1}}, {RecordKind::Bone, {2}}});
+        auto *parent = pane.child<IntSpinBox>("sbNodeParentNode");
+        type(parent, QStringLiteral("300"));
+        QCOMPARE(pane.undo().count(), 0);
+        // An edit of another field leaves it where it is; another record does not.
+        type(pane.child<QWidget>("sbNodeDamageScale"), QStringLiteral("0.25"));
+        QVERIFY(shownText(parent) == QLatin1String("300") && parent->isRefused());
+        pane.select({{RecordKind::Bone, {2}}});
+        QVERIFY(!parent->isRefused());
+
+        pane.select({{RecordKind::SkinnedSurface, {0}}});
+        auto *path = pane.child<TextField>("txtSurfaceMaterial");
+        const QString before = path->text();
+        QTest::keyClick(path, Qt::Key_End);
+        QTest::sendKeyEvent(QTest::Click, path, Qt::Key_unknown, QString(QChar(0x442)), Qt::NoModifier);
+        QTest::keyClick(path, Qt::Key_Return);
+        QVERIFY(path->isRefused() && path->text().endsWith(QChar(0x442)));
+        QCOMPARE(pane.undo().count(), 1);
+        QTest::keyClick(path, Qt::Key_Escape);
+        QVERIFY(!path->isRefused() && path->text() == before);
+    }
+
     void anEditReachesAllSelectedAndOnlyItsPart()
     {
         Panes panes;
@@ -174,7 +222,7 @@ private slots:
         type(mesh.child<QWidget>("sbTIIndex"), QStringLiteral("3"));
         says(mesh, "hintTIIndex", "no such vertex", true);
         // 65535 ends the list in a file.
-        QCOMPARE(mesh.child<QSpinBox>("sbTIIndex")->maximum(), 65534);
+        QCOMPARE(mesh.child<IntSpinBox>("sbTIIndex")->maximum(), 65534);
 
         auto &anim = panes.anim;
         anim.select({{RecordKind::AnimBone, {0, 1}}});
@@ -300,6 +348,40 @@ private:
         for (QTreeWidgetItemIterator item(&pane.tree); *item; ++item)
             pane.tree.setCurrentItem(*item);
         QVERIFY(pane.undo().isClean());
+        QCOMPARE(pane.undo().count(), 0);
+        QVERIFY(pane.bytes() == before);
+    }
+
+    template <typename Model>
+    void wheelOverAll(Pane<Model> &pane)
+    {
+        pane.stack.resize(300, 160);
+        QApplication::setActiveWindow(&pane.stack);
+        const QByteArray before = pane.bytes();
+        QSet<QWidget *> done;
+        for (QTreeWidgetItemIterator item(&pane.tree); *item; ++item) {
+            pane.tree.setCurrentItem(*item);
+            if (!pane.page() || done.contains(pane.page()))
+                continue;
+            done.insert(pane.page());
+            QCoreApplication::processEvents();
+            auto *scroll = static_cast<QScrollArea *>(pane.stack.pages()->currentWidget());
+            for (QWidget *editor : editorsOf(pane.page())) {
+                for (const bool hasKeys : {false, true}) {
+                    if (hasKeys)
+                        editor->setFocus();
+                    else if (QWidget *other = QApplication::focusWidget())
+                        other->clearFocus();
+                    scroll->ensureWidgetVisible(editor);
+                    const int place = scroll->verticalScrollBar()->value();
+                    turnWheel(editor, place < scroll->verticalScrollBar()->maximum() ? -120 : 120);
+                    QVERIFY2(scroll->verticalScrollBar()->maximum() == 0 ||
+                                 scroll->verticalScrollBar()->value() != place,
+                             qPrintable(editor->objectName()));
+                    QVERIFY2(hasKeys || !QApplication::focusWidget(), qPrintable(editor->objectName()));
+                }
+            }
+        }
         QCOMPARE(pane.undo().count(), 0);
         QVERIFY(pane.bytes() == before);
     }

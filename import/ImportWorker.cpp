@@ -36,8 +36,10 @@ ImportWorker::ImportWorker(QObject *parent)
     connect(&m_process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
             &ImportWorker::onProcessFinished);
     connect(&m_process, &QProcess::errorOccurred, this, &ImportWorker::onProcessError);
-    connect(&m_limit, &QTimer::timeout, this,
-            [this] { stop(tr("It took longer than %1 s.").arg(m_timeLimit / 1000)); });
+    connect(&m_limit, &QTimer::timeout, this, [this] {
+        const QString reason = tr("It took longer than %1 s.").arg(m_timeLimit / 1000);
+        stop(m_timeAdvice.isEmpty() ? reason : reason + QLatin1Char(' ') + m_timeAdvice);
+    });
 }
 
 ImportWorker::~ImportWorker()

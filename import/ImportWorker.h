@@ -26,8 +26,12 @@ public:
     /// The worker's executable; by default the one beside the running program, or
     /// the one that the environment names in KORVANE_IMPORT_WORKER.
     void setProgram(const QString &path) { m_program = path; }
-    /// In milliseconds, for one job.
-    void setTimeLimit(int limit) { m_timeLimit = limit; }
+    /// In milliseconds, for one job. `advice` is a sentence for whoever runs into it: where it is set.
+    void setTimeLimit(int limit, const QString &advice = {})
+    {
+        m_timeLimit = limit;
+        m_timeAdvice = advice;
+    }
 
     void start(const WorkerJob &job);
     /// The same, with the model to be exported.
@@ -61,6 +65,7 @@ private:
 
     QString m_program;
     int m_timeLimit = 60000;
+    QString m_timeAdvice;
     WorkerJob m_job;
     std::unique_ptr<TemporaryFolder> m_folder;
     QProcess m_process;

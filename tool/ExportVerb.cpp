@@ -63,7 +63,7 @@ int exportModel(const QStringList &arguments)
         return Failed;
     if (!messages.hasError()) {
         ImportWorker worker;
-        runJob(worker, TimeLimit, files.job(), *mesh);
+        runJob(worker, TimeLimit, {}, files.job(), *mesh);
         messages.lines += worker.messages().lines;
         if (!messages.hasError() && !files.place(worker, messages))
             Output::line(files.objPath());

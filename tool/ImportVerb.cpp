@@ -208,7 +208,7 @@ int importModel(const QStringList &arguments)
     }
 
     ImportWorker worker;
-    runJob(worker, *timeLimit, importJob(choices));
+    runJob(worker, *timeLimit, QStringLiteral("--time-limit grants more."), importJob(choices));
     if (worker.messages().hasError()) {
         Output::tell(worker.messages());
         return Failed;

@@ -2349,6 +2349,10 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
         <source>%1 Could not read file. The result was damaged.</source>
         <translation>%1 Die Datei konnte nicht gelesen werden. Das Ergebnis war beschädigt.</translation>
     </message>
+    <message>
+        <source>Edit ▸ Options… sets this time limit.</source>
+        <translation>Bearbeiten ▸ Optionen… legt diese Zeitgrenze fest.</translation>
+    </message>
 </context>
 <context>
     <name>ImportWorker</name>
@@ -3391,6 +3395,18 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
     <message>
         <source>Textures and materials are looked for in this folder first. Saving a file of it asks first.</source>
         <translation>Texturen und Materialien werden zuerst in diesem Ordner gesucht. Vor dem Speichern einer Datei darin wird gefragt.</translation>
+    </message>
+    <message>
+        <source>Imports and exports &amp;take at most</source>
+        <translation>&amp;Zeitgrenze für Importe und Exporte</translation>
+    </message>
+    <message>
+        <source>An import or export that takes longer is given up (1 to 3600 seconds). Some damaged files would never end.</source>
+        <translation>Ein Import oder Export, der länger dauert, wird aufgegeben (1 bis 3600 Sekunden). Manche beschädigten Dateien fänden sonst kein Ende.</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
     </message>
 </context>
 <context>

@@ -139,6 +139,7 @@ void ImportExport::exportStaticMesh()
         if (!ReplacePrompt::settle(files, tr("Export"), m_window))
             return;
         ImportWorker worker;
+        ImportRun::limit(worker);
         if (!runJob(worker, files.job(), m_staticMesh.model(), m_window))
             return;
         messages.lines += worker.messages().lines;

@@ -18,10 +18,15 @@ int ImportRun::timeLimit()
     return qBound(1, Settings::ImportTimeLimit.value(), 3600);
 }
 
+void ImportRun::limit(ImportWorker &worker)
+{
+    worker.setTimeLimit(timeLimit() * 1000, tr("Edit ▸ Options… sets this time limit."));
+}
+
 void ImportRun::start(const ImportChoices &choices)
 {
     m_choices = choices;
-    m_worker.setTimeLimit(timeLimit() * 1000);
+    limit(m_worker);
     m_worker.start(importJob(m_choices));
 }
 

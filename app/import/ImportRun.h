@@ -20,8 +20,10 @@ class ImportRun : public QObject
 public:
     explicit ImportRun(QObject *parent = nullptr);
 
-    /// That an import may take, in seconds; an hour at most.
+    /// That an import or an export may take, in seconds; an hour at most.
     static int timeLimit();
+    /// Gives it to the worker, with a word about where it can be changed.
+    static void limit(ImportWorker &worker);
 
     /// Decides about files that would be replaced, and changes the names if need be. False: nothing is to be
     /// imported. Without it they are replaced.

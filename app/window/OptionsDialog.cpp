@@ -31,6 +31,7 @@ OptionsDialog::OptionsDialog(QWidget *parent, Shortcuts *shortcuts)
     m_ui->cbHideAnimData->setChecked(m_hideAnimData);
     m_ui->cbAnimAutoPlay->setChecked(m_animAutoPlay);
     m_ui->cbRestoreSession->setChecked(m_restoreSession);
+    m_ui->sbImportTimeLimit->setValue(Settings::ImportTimeLimit.value());
 
     connect(m_ui->txtGamePath, &QLineEdit::editingFinished, this, &OptionsDialog::OnTxtGamePathChanged);
     connect(m_ui->txtT2Dir, &QLineEdit::editingFinished, this, &OptionsDialog::OnTxtT2DirChanged);
@@ -68,6 +69,7 @@ void OptionsDialog::on_buttonBox_accepted()
     Settings::HideAnimData.setValue(m_hideAnimData);
     Settings::AnimationAutoPlay.setValue(m_animAutoPlay);
     Settings::RestoreSession.setValue(m_restoreSession);
+    Settings::ImportTimeLimit.setValue(m_ui->sbImportTimeLimit->value());
     m_ui->gbAppearance->store();
     if (m_shortcuts)
         m_shortcuts->store();

@@ -387,21 +387,35 @@ private slots:
         qputenv("KORVANE_IMPORT_WORKER", worker);
         dialog.show();
         dialog.setModelPath(write(QStringLiteral("a.obj"), corners));
-        for (const bool byKey : {false, true}) {
+        const auto start = [&] {
             click(dialog, "btnImport");
             QCOMPARE(page(dialog), QStringLiteral("pageProgress"));
             auto *elapsed = find<QLabel>(dialog, "lblElapsed");
             const QString first = elapsed->text();
             QTRY_VERIFY(elapsed->text() != first);
-            QVERIFY(elapsed->text().endsWith(QLatin1String(" s of at most 60 s")));
-            if (byKey)
-                QTest::keyClick(&dialog, Qt::Key_Escape);
-            else
-                click(dialog, "btnStop");
+            QVERIFY(elapsed->text().endsWith(
+                QStringLiteral(" s of at most %1 s").arg(Settings::ImportTimeLimit.value())));
+        };
+        const auto end = [&] {
             QTRY_COMPARE(page(dialog), QStringLiteral("pageError"));
             QVERIFY(dialog.isVisible());
             click(dialog, "btnErrorBack");
-        }
+        };
+        start();
+        click(dialog, "btnStop");
+        end();
+        start();
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        end();
+        // The end that the options set, of which the message tells.
+        Settings::ImportTimeLimit.setValue(1);
+        start();
+        end();
+        QVERIFY(find<QListWidget>(dialog, "listError")
+                    ->item(0)
+                    ->text()
+                    .endsWith(
+                        QString::fromUtf8("It took longer than 1 s. Edit ▸ Options… sets this time limit.")));
     }
 
     void droppedFilesAreKnownByTheirNames()

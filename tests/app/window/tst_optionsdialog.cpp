@@ -23,6 +23,10 @@ private slots:
             QTest::keyClicks(find<QLineEdit>(dialog, "txtT2Dir"), QStringLiteral("/some/mod"));
             for (const char *box : boxes)
                 QTest::keyClick(find<QCheckBox>(dialog, box), Qt::Key_Space);
+            auto *limit = find<QSpinBox>(dialog, "sbImportTimeLimit");
+            QCOMPARE(limit->value(), 60);
+            limit->selectAll();
+            QTest::keyClicks(limit, QStringLiteral("300"));
             const auto *hint = find<QLabel>(dialog, "lblLanguageHint");
             QVERIFY(!hint->isVisible());
             QTest::keyClick(find<QComboBox>(dialog, "cbLook"), Qt::Key_End);
@@ -43,6 +47,7 @@ private slots:
             QVERIFY(key->exists() && !key->value());
         }
         QVERIFY(Settings::RestoreSession.value());
+        QCOMPARE(Settings::ImportTimeLimit.value(), 300);
         QCOMPARE(Settings::UiLanguage.value(), QStringLiteral("de"));
 
         // What is stored is shown.

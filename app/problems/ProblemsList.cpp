@@ -158,17 +158,29 @@ void ProblemsList::setProblems(const QList<QTreeWidgetItem *> &items)
 {
     const int row = indexOfTopLevelItem(currentItem());
     const ProblemItem *old = currentProblem();
+    const QList<ProblemItem *> oldSelected = selectedProblems();
     QTreeWidgetItem *current = nullptr;
+    QList<QTreeWidgetItem *> selected;
     for (QTreeWidgetItem *item : items) {
-        if (old && static_cast<ProblemItem *>(item)->isAbout(*old))
+        const auto *problem = static_cast<ProblemItem *>(item);
+        if (old && problem->isAbout(*old))
             current = item;
+        if (std::any_of(oldSelected.begin(), oldSelected.end(),
+                        [problem](const ProblemItem *each) { return problem->isAbout(*each); }))
+            selected << item;
     }
+    // A row that was taken out of the selection stays out.
+    const bool selects = !current || old->isSelected();
     clear();
     addTopLevelItems(items);
     if (!current && row >= 0)
         current = topLevelItem(std::min(row, topLevelItemCount() - 1));
     if (current)
-        setCurrentItem(current, 0, QItemSelectionModel::ClearAndSelect);
+        setCurrentItem(current, 0,
+                       selects ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
+                               : QItemSelectionModel::NoUpdate);
+    for (QTreeWidgetItem *item : selected)
+        item->setSelected(true);
 }
 
 void ProblemsList::setEmptyText(const QString &text)

@@ -37,7 +37,8 @@ public:
 
     ProblemItem *currentProblem() const { return static_cast<ProblemItem *>(currentItem()); }
     QList<ProblemItem *> selectedProblems() const;
-    /// Puts other rows into the list; the current one stays current where it is still there.
+    /// Puts other rows into the list; the current one and the selected ones stay so where they are still
+    /// there, or the one at its place comes after it.
     void setProblems(const QList<QTreeWidgetItem *> &items);
     /// What stands in the list while it is empty.
     void setEmptyText(const QString &text);

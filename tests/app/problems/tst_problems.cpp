@@ -96,6 +96,10 @@ private slots:
         QVERIFY(fix->isEnabled() && fixAll->isEnabled());
         trigger("Ctrl+.");
         QCOMPARE(list()->topLevelItemCount(), 1 + ListedFindings + 1);
+        // The next row, the whole of it.
+        const QItemSelectionModel *selection = list()->selectionModel();
+        QCOMPARE(selection->selectedRows().size(), 1);
+        QCOMPARE(selection->selectedRows().first().row(), 0);
         QVERIFY(isModified());
         undo();
         QVERIFY(!isModified());
@@ -104,6 +108,9 @@ private slots:
         // Two of the listed, then all forty that are left or not listed at all, from the closing line.
         click(2);
         click(3, Qt::ShiftModifier);
+        find<QToolButton>("btnProblemErrors")->click();
+        QCOMPARE(selection->selectedRows().size(), 2);
+        find<QToolButton>("btnProblemErrors")->click();
         press("btnProblemFix");
         QCOMPARE(find<QToolButton>("btnProblemWarnings")->text(), QStringLiteral("Warnings: 38"));
         click(list()->topLevelItemCount() - 1);

@@ -19,7 +19,7 @@
 #include <QStatusBar>
 
 namespace {
-// What the game's own files hold, for a model of which no document is open.
+// What the files hold that come with the program, for a model of which no document is open.
 constexpr qint32 UsualVersion = 2;
 
 template <typename Model>

@@ -31,6 +31,9 @@ OptionsDialog::OptionsDialog(QWidget *parent, Shortcuts *shortcuts)
     m_ui->cbHideAnimData->setChecked(m_hideAnimData);
     m_ui->cbAnimAutoPlay->setChecked(m_animAutoPlay);
     m_ui->cbRestoreSession->setChecked(m_restoreSession);
+    m_ui->sbImportTimeLimit->setMinimum(1);
+    m_ui->sbImportTimeLimit->setMaximum(3600);
+    m_ui->sbImportTimeLimit->setSuffix(tr(" s"));
     m_ui->sbImportTimeLimit->setValue(Settings::ImportTimeLimit.value());
 
     connect(m_ui->txtGamePath, &QLineEdit::editingFinished, this, &OptionsDialog::OnTxtGamePathChanged);
@@ -56,6 +59,10 @@ void OptionsDialog::on_buttonBox_accepted()
 {
     if (m_shortcuts && !m_shortcuts->confirm()) {
         m_ui->tabOptions->setCurrentWidget(m_shortcuts);
+        return;
+    }
+    if (NumberField::hasRefused(*this)) {
+        m_ui->tabOptions->setCurrentWidget(m_ui->pageGeneral);
         return;
     }
     // A text set by the program finishes no edit.

@@ -3,6 +3,7 @@
 #include "OptionsDialog.h"
 
 #include "Find.h"
+#include "IntSpinBox.h"
 #include "Look.h"
 
 class tst_OptionsDialog : public QObject
@@ -23,7 +24,7 @@ private slots:
             QTest::keyClicks(find<QLineEdit>(dialog, "txtT2Dir"), QStringLiteral("/some/mod"));
             for (const char *box : boxes)
                 QTest::keyClick(find<QCheckBox>(dialog, box), Qt::Key_Space);
-            auto *limit = find<QSpinBox>(dialog, "sbImportTimeLimit");
+            auto *limit = find<IntSpinBox>(dialog, "sbImportTimeLimit");
             QCOMPARE(limit->value(), 60);
             limit->selectAll();
             QTest::keyClicks(limit, QStringLiteral("300"));

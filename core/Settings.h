@@ -45,9 +45,9 @@ public:
         return result;
     }
 
-    void setValue(const T &value) const { QSettings().setValue(m_name, QVariant::fromValue(value)); }
+    void setValue(const T &value) const { SettingsHold::setValue(m_name, QVariant::fromValue(value)); }
 
-    void remove() const { QSettings().remove(m_name); }
+    void remove() const { SettingsHold::setValue(m_name, {}); }
 
     /// Writes the default unless the key is there already.
     void ensure() const

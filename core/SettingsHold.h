@@ -18,6 +18,9 @@ public:
 
     /// The stored value, invalid when there is none: from the open store, or else from one of its own.
     static QVariant value(const QString &name);
+    /// Stores a value; an invalid one removes it. Where the store cannot be written, the value counts until
+    /// the program ends, and the log says so once.
+    static void setValue(const QString &name, const QVariant &value);
 
 private:
     QSettings m_store;

@@ -179,6 +179,7 @@ bool AnimFile::read(BinaryFileReader &reader)
     const qint32 blockCount = reader.readInt32();
     blocks.clear();
     readRecords(reader, blockCount, BlockBytes, blocks, readBlock);
+    bytesBehind = reader.bytesLeft();
     return reader.hasError();
 }
 

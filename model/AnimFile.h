@@ -69,6 +69,7 @@ struct AnimFile
 {
     qint32 version = 0;
     std::vector<AnimBlock> blocks;
+    qint64 bytesBehind = 0; ///< behind the last record of the file that was read; not saved
 
     /// Reads `path` into this (fresh) model. Returns true on failure; `errorText`, if given, then says why
     /// and is empty when the file could not be opened. A partly read model is to be thrown away.
@@ -79,7 +80,8 @@ struct AnimFile
     QString refusal() const;
 
     /// Writes the model to `path` in one step. Returns true on failure, with the old file untouched: when
-    /// there are no blocks or when the file cannot be written.
+    /// there are no blocks or when the file cannot be written. `reason`, if
+    /// given, then says why.
     [[nodiscard]] bool write(const QString &path, QString *reason = nullptr) const;
     [[nodiscard]] bool write(BinaryFileWriter &writer) const;
     /// Writes what can be read back whatever is wrong with the model.

@@ -35,6 +35,9 @@ public:
     /// Records a failure found by a format reader. Only the first failure of a file is kept.
     void setErrorText(const QString &text);
 
+    /// How many bytes were not read; none after a failure.
+    qint64 bytesLeft() const { return m_end - m_cursor + m_unread; }
+
     /// True when `count` records of `recordBytes` bytes each are left. Decided by division: no count from a
     /// file can overflow it.
     bool holds(qint64 count, qint64 recordBytes) const
@@ -86,7 +89,6 @@ private:
         return value;
     }
 
-    qint64 bytesLeft() const { return m_end - m_cursor + m_unread; }
     bool fillWindow(qint64 bytes);
     qint64 readFile(uchar *to, qint64 bytes);
     qint64 readBytes(uchar *to, qint64 bytes);

@@ -49,6 +49,7 @@ const RuleRow ruleRows[] = {
     {Rule::ImpactTypeUnknown, "impact-type-unknown", Severity::Warning},
     {Rule::BoxInverted, "box-inverted", Severity::Warning},
     {Rule::TextNotKept, "text-not-kept", Severity::Warning},
+    {Rule::BytesBehindEnd, "bytes-behind-end", Severity::Warning},
     {Rule::NotFinite, "not-finite", Severity::Error},
 };
 constexpr size_t RuleCount = sizeof ruleRows / sizeof ruleRows[0];

@@ -55,6 +55,7 @@ enum class Rule {
     ImpactTypeUnknown,
     BoxInverted,
     TextNotKept,
+    BytesBehindEnd,
     NotFinite,
 };
 

@@ -102,6 +102,7 @@ bool SkinnedMesh::read(BinaryFileReader &reader)
         const qint32 vertexCount = reader.readInt32();
         readRecords(reader, vertexCount, VertexBytes, vertices, readVertex);
     }
+    bytesBehind = reader.bytesLeft();
     return reader.hasError();
 }
 

@@ -66,6 +66,7 @@ struct SkinnedMesh
     qint32 unknownB = 0;
     std::vector<SkinnedMeshSurface> surfaces;
     std::vector<SkinnedMeshVertex> vertices;
+    qint64 bytesBehind = 0; ///< behind the last record of the file that was read; not saved
 
     /// Reads `path` into this (fresh) model. Returns true on failure; `errorText`, if given, then says why
     /// and is empty when the file could not be opened. A partly read model is to be thrown away.
@@ -76,7 +77,8 @@ struct SkinnedMesh
     QString refusal() const;
 
     /// Writes the model to `path` in one step. Returns true on failure, with the old file untouched: when
-    /// there are no bones, when a triangle index is 65535, or when the file cannot be written.
+    /// there are no bones, when a triangle index is 65535, or when the file cannot be written. `reason`, if
+    /// given, then says why.
     [[nodiscard]] bool write(const QString &path, QString *reason = nullptr) const;
     [[nodiscard]] bool write(BinaryFileWriter &writer) const;
     /// Writes what can be read back whatever is wrong with the model. A triangle index of 65535, which

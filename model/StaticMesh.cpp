@@ -57,6 +57,7 @@ bool StaticMesh::read(BinaryFileReader &reader)
         return true;
     vertices.clear();
     readRecords(reader, vertexCount, StaticVertexBytes, vertices, readStaticVertex);
+    bytesBehind = reader.bytesLeft();
     return reader.hasError();
 }
 

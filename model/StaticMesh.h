@@ -32,6 +32,7 @@ struct StaticMesh
     QVector3D bbMax;
     std::vector<StaticMeshSurface> surfaces;
     std::vector<StaticMeshVertex> vertices;
+    qint64 bytesBehind = 0; ///< behind the last record of the file that was read; not saved
 
     /// Reads `path` (a file or a toolkit resource) into this (fresh) model. Returns true on failure;
     /// `errorText`, if given, then says why and is empty when the file could not be opened or holds a
@@ -43,7 +44,8 @@ struct StaticMesh
     QString refusal() const;
 
     /// Writes the model to `path` in one step. Returns true on failure, with the old file untouched: when
-    /// there are no surfaces or when the file cannot be written.
+    /// there are no surfaces or when the file cannot be written. `reason`, if
+    /// given, then says why.
     [[nodiscard]] bool write(const QString &path, QString *reason = nullptr) const;
     [[nodiscard]] bool write(BinaryFileWriter &writer) const;
     /// Writes what can be read back whatever is wrong with the model. A triangle list that is not

@@ -373,6 +373,7 @@ std::vector<Finding> validate(const AnimFile &file, const SkinnedMesh *mesh, con
 {
     FindingCollector found(listed);
     check(found, file, mesh, ids);
+    checkEnd(found, {RecordKind::AnimFile, {}}, file.bytesBehind);
     return found.take();
 }
 

@@ -32,4 +32,16 @@ QString recordName(const RecordRef &place)
         return Texts::tr("The model");
     }
 }
+
+void checkEnd(FindingCollector &found, const RecordRef &root, qint64 bytesBehind)
+{
+    if (bytesBehind <= 0)
+        return;
+    found.add(Rule::BytesBehindEnd, root, [&] {
+        return Texts::tr(
+                   "The file goes on for %1 bytes behind the end of the model, which belong to no record. "
+                   "Saving drops them: keep a copy of the file if something else needs them.")
+            .arg(bytesBehind);
+    });
+}
 } // namespace Validation

@@ -86,6 +86,9 @@ inline constexpr const char *arguments = QT_TRANSLATE_NOOP("Validation", "argume
 /// How a sentence begins that is about the record: "Vertex 12".
 QString recordName(const RecordRef &place);
 
+/// Adds a finding for what the file of a model holds behind its end.
+void checkEnd(FindingCollector &found, const RecordRef &root, qint64 bytesBehind);
+
 /// Adds a finding for a record some of whose fields (name, value) hold what is no number.
 template <typename... Fields>
 void checkFinite(FindingCollector &found, const RecordRef &place, const Fields &...fields)

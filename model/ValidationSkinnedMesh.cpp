@@ -345,6 +345,7 @@ std::vector<Finding> validate(const SkinnedMesh &mesh, const MaterialFolders &fo
     FindingCollector found(listed);
     check(found, mesh);
     checkIds(found, mesh, ids);
+    checkEnd(found, {RecordKind::SkinnedMesh, {}}, mesh.bytesBehind);
     checkMaterials(found, materialPaths(mesh), RecordKind::SkinnedSurface, folders);
     return found.take();
 }

@@ -30,6 +30,7 @@ std::vector<Finding> validate(const StaticMesh &mesh, const MaterialFolders &fol
 {
     FindingCollector found(listed);
     check(found, mesh);
+    checkEnd(found, {RecordKind::StaticMesh, {}}, mesh.bytesBehind);
     checkMaterials(found, materialPaths(mesh), RecordKind::StaticSurface, folders);
     return found.take();
 }

@@ -4062,10 +4062,6 @@ Hände und Füße (x0.25): %6</translation>
         <translation>Alle aufgehobene Arbeit auflisten, um sie wiederherzustellen oder zu löschen</translation>
     </message>
     <message>
-        <source>Delete this kept work; files are not touched</source>
-        <translation>Diese aufgehobene Arbeit löschen; Dateien bleiben unberührt</translation>
-    </message>
-    <message>
         <source>Show what was written down when Korvane ended</source>
         <translation>Zeigen, was festgehalten wurde, als Korvane endete</translation>
     </message>
@@ -4104,6 +4100,14 @@ Hände und Füße (x0.25): %6</translation>
     <message>
         <source>Show Report</source>
         <translation>Bericht zeigen</translation>
+    </message>
+    <message>
+        <source>Delete all of this kept work; files are not touched</source>
+        <translation>All diese aufgehobene Arbeit löschen; Dateien bleiben unberührt</translation>
+    </message>
+    <message>
+        <source>The newest was restored. Older unsaved work is kept, too: %1</source>
+        <translation>Das Neueste ist wiederhergestellt. Auch ältere nicht gespeicherte Arbeit ist aufgehoben: %1</translation>
     </message>
 </context>
 <context>
@@ -4481,6 +4485,13 @@ Alles andere funktioniert weiter.</translation>
     <message>
         <source>[Session] &apos;%1&apos; has changed since the last session</source>
         <translation>[Sitzung] &apos;%1&apos; hat sich seit der letzten Sitzung geändert</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsHold</name>
+    <message>
+        <source>[Settings] &apos;%1&apos; cannot be written: what is set from now on is forgotten at the end.</source>
+        <translation>[Einstellungen] „%1“ kann nicht geschrieben werden: was von jetzt an eingestellt wird, ist am Ende vergessen.</translation>
     </message>
 </context>
 <context>
@@ -6007,6 +6018,10 @@ So lassen?</translation>
     <message>
         <source>Hot point %1 spawns particle %2, which the table of particles does not have: nothing is seen of it. Enter one of the table.</source>
         <translation>Hotpoint %1 erzeugt den Partikel %2, der in der Tabelle der Partikel fehlt: Von ihm ist nichts zu sehen. Tragen Sie einen aus der Tabelle ein.</translation>
+    </message>
+    <message>
+        <source>The file goes on for %1 bytes behind the end of the model, which belong to no record. Saving drops them: keep a copy of the file if something else needs them.</source>
+        <translation>Die Datei geht hinter dem Ende des Modells noch %1 Bytes weiter, die zu keinem Datensatz gehören. Speichern lässt sie weg: heben Sie eine Kopie der Datei auf, falls etwas anderes sie braucht.</translation>
     </message>
 </context>
 <context>

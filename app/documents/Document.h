@@ -91,7 +91,7 @@ protected:
     virtual bool readModel(const QString &path, QString *reason) = 0;
     virtual bool readModel(BinaryFileReader &reader) = 0;
     virtual void adoptModel() = 0;
-    virtual bool writeModel(const QString &path, QString *reason) const = 0;
+    virtual bool writeModel(const QString &path, QString *reason) = 0;
 
 private:
     const DocumentType m_type;
@@ -140,9 +140,12 @@ protected:
         m_model = std::move(m_fresh);
         m_fresh = Model();
     }
-    bool writeModel(const QString &path, QString *reason) const override
+    bool writeModel(const QString &path, QString *reason) override
     {
-        return m_model.write(path, reason);
+        if (m_model.write(path, reason))
+            return true;
+        m_model.bytesBehind = 0;
+        return false;
     }
 
 private:

@@ -34,8 +34,11 @@ Problems::Problems(SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticM
         });
         connect(&document(type), &Document::recordsChanged, this, [this, type] { markChanged(type); });
         connect(&document(type), &Document::structuresChanged, this, [this, type] { markChanged(type); });
-        // The document's name may be another one.
-        connect(&document(type), &Document::saved, this, &Problems::changed);
+        // The document's name may be another one, and what stood behind its end is gone.
+        connect(&document(type), &Document::saved, this, [this, type] {
+            emit changed();
+            markChanged(type);
+        });
     }
     // Whoever comes back from a file manager may have put the missing texture into its place.
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {

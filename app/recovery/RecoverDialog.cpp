@@ -82,15 +82,23 @@ void RecoverDialog::on_btnRecoverRestore_clicked()
         fill();
 }
 
+bool RecoverDialog::mayDelete(const QVector<Snapshot> &snapshots, QWidget *parent)
+{
+    QString question = snapshots.size() == 1
+                           ? tr("Delete what was kept of '%1'?").arg(snapshots.first().name)
+                           : tr("Delete what was kept of %1 documents?").arg(snapshots.size());
+    for (int i = 0; i < snapshots.size() && snapshots.size() > 1; ++i)
+        question += QLatin1Char('\n') + snapshots.at(i).name + QStringLiteral(", ") +
+                    Language::locale().toString(snapshots.at(i).time, QLocale::ShortFormat);
+    return QMessageBox::question(parent, tr("Recover"),
+                                 question + QLatin1Char('\n') + tr("This cannot be undone."),
+                                 QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
 void RecoverDialog::on_btnRecoverDelete_clicked()
 {
     const QVector<Snapshot> chosen = selected();
-    const QString question = chosen.size() == 1
-                                 ? tr("Delete what was kept of '%1'?").arg(chosen.first().name)
-                                 : tr("Delete what was kept of %1 documents?").arg(chosen.size());
-    if (QMessageBox::question(this, tr("Recover"),
-                              question + QLatin1Char('\n') + tr("This cannot be undone."),
-                              QMessageBox::Yes | QMessageBox::No, QMessageBox::No) != QMessageBox::Yes)
+    if (!mayDelete(chosen, this))
         return;
     m_recovery.remove(chosen);
     fill();

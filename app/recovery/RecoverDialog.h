@@ -23,6 +23,9 @@ public:
     explicit RecoverDialog(Recovery &recovery, QWidget *parent = nullptr);
     ~RecoverDialog() override;
 
+    /// Asks whether these shall be deleted, and names them.
+    [[nodiscard]] static bool mayDelete(const QVector<Snapshot> &snapshots, QWidget *parent);
+
 private slots:
     void on_btnRecoverRestore_clicked();
     void on_btnRecoverDelete_clicked();

@@ -26,7 +26,7 @@ RecoveryPrompt::RecoveryPrompt(Recovery &recovery, QAction *recover, QBoxLayout 
     , m_showAll(m_bar->addButton(tr("Show All…"), QStringLiteral("btnShowAll"),
                                  tr("List all kept work, to restore or delete it")))
     , m_discard(m_bar->addButton(tr("Discard"), QStringLiteral("btnDiscard"),
-                                 tr("Delete this kept work; files are not touched")))
+                                 tr("Delete all of this kept work; files are not touched")))
     , m_showReport(m_bar->addButton(tr("Show Report"), QStringLiteral("btnShowReport"),
                                     tr("Show what was written down when Korvane ended")))
 {
@@ -68,6 +68,11 @@ void RecoveryPrompt::offer()
     const QString text = crashed ? tr("Korvane ended unexpectedly. It has kept unsaved work from %1: %2")
                                  : tr("Korvane has kept unsaved work from %1: %2");
     m_bar->tell(text.arg(time, more == 0 ? all : tr("%1 and %2 more").arg(all, QString::number(more))));
+    if (m_hasRestored) {
+        // What is left is older than what is open now.
+        m_restore->hide();
+        m_bar->tell(tr("The newest was restored. Older unsaved work is kept, too: %1").arg(m_offered.size()));
+    }
 }
 
 void RecoveryPrompt::on_btnRestore_clicked()
@@ -83,12 +88,14 @@ void RecoveryPrompt::on_btnRestore_clicked()
         if (outcome == Recovery::Outcome::Restored)
             done.insert(int(snapshot.type));
     }
-    m_offered.clear();
-    offer();
+    m_hasRestored = true;
+    offerWhatIsLeft();
 }
 
 void RecoveryPrompt::on_btnDiscard_clicked()
 {
+    if (!RecoverDialog::mayDelete(m_offered, m_window))
+        return;
     m_recovery.remove(m_offered);
     m_offered.clear();
     offer();

@@ -37,4 +37,5 @@ private:
     QPushButton *m_discard;
     QPushButton *m_showReport;
     QVector<Snapshot> m_offered; ///< the newest first
+    bool m_hasRestored = false;
 };

@@ -14,4 +14,7 @@ struct Snapshot
     QString sourcePath; ///< the document's file; empty when it was never saved
     QString name;       ///< the document's file name, also of one without a file
     QDateTime time;
+    /// Grows from one snapshot to the next, also of another program and when the clock is set back: the time
+    /// in milliseconds since 1970, or one more than the last.
+    qint64 sequence = 0;
 };

@@ -20,7 +20,8 @@ QByteArray headerOf(const Snapshot &snapshot)
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream.setVersion(QDataStream::Qt_5_15);
-    stream << documentKind(snapshot.type).extension << snapshot.sourcePath << snapshot.name << snapshot.time;
+    stream << documentKind(snapshot.type).extension << snapshot.sourcePath << snapshot.name << snapshot.time
+           << snapshot.sequence;
     return bytes;
 }
 
@@ -30,6 +31,10 @@ bool readHeaderBytes(const QByteArray &bytes, Snapshot *snapshot)
     QDataStream stream(bytes);
     stream.setVersion(QDataStream::Qt_5_15);
     stream >> extension >> snapshot->sourcePath >> snapshot->name >> snapshot->time;
+    // Files of older programs have none.
+    snapshot->sequence = snapshot->time.toMSecsSinceEpoch();
+    if (!stream.atEnd())
+        stream >> snapshot->sequence;
     const DocumentKind *kind = documentKindOfFile(QLatin1Char('.') + extension);
     if (stream.status() != QDataStream::Ok || !kind || !snapshot->time.isValid())
         return true;

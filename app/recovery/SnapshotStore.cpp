@@ -42,14 +42,31 @@ private:
     std::function<void()> m_work;
 };
 
+/// What a folder keeps, the newest first; what is damaged has no sequence.
+QVector<Snapshot> snapshotsIn(const QString &folder)
+{
+    QVector<Snapshot> all;
+    const QFileInfoList files = filesOf(folder, QLatin1Char('*') + Suffix);
+    for (const QFileInfo &file : files) {
+        Snapshot snapshot;
+        if (SnapshotFile::readHeader(file.filePath(), &snapshot))
+            snapshot = {};
+        snapshot.file = file.fileName();
+        all.append(snapshot);
+    }
+    std::stable_sort(all.begin(), all.end(),
+                     [](const Snapshot &a, const Snapshot &b) { return a.sequence > b.sequence; });
+    return all;
+}
+
 /// Of what is left after `spared`, the oldest go.
 void removeOldest(const QString &folder, const QSet<QString> &spared)
 {
-    const QFileInfoList files = filesOf(folder, QLatin1Char('*') + Suffix);
-    int surplus = files.size() - SnapshotStore::MostKept;
-    for (int i = files.size() - 1; i >= 0 && surplus > 0; --i) {
-        if (!spared.contains(files.at(i).fileName())) {
-            QFile::remove(files.at(i).filePath());
+    const QVector<Snapshot> all = snapshotsIn(folder);
+    int surplus = all.size() - SnapshotStore::MostKept;
+    for (int i = all.size() - 1; i >= 0 && surplus > 0; --i) {
+        if (!spared.contains(all.at(i).file)) {
+            QFile::remove(folder + QLatin1Char('/') + all.at(i).file);
             --surplus;
         }
     }
@@ -129,6 +146,18 @@ void SnapshotStore::takeOver()
     for (int i = MostReports; i < reports.size(); ++i)
         QFile::remove(reports.at(i).filePath());
     removeOldest(m_folder, {});
+    findLast();
+}
+
+void SnapshotStore::findLast()
+{
+    // Those of programs that run are later offered beside ours.
+    const QFileInfoList folders = QDir(m_root).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QFileInfo &folder : folders) {
+        const QVector<Snapshot> all = snapshotsIn(folder.filePath());
+        if (!all.isEmpty())
+            m_last = std::max(m_last, all.first().sequence);
+    }
 }
 
 void SnapshotStore::takeOver(const QString &folder)
@@ -186,12 +215,15 @@ void SnapshotStore::keep(const Snapshot &snapshot, std::vector<uchar> model, con
         return;
     const auto bytes = std::make_shared<const std::vector<uchar>>(std::move(model));
     const QString path = pathOf(snapshot.file);
-    run([this, snapshot, bytes, path, spared] {
-        const QString reason = SnapshotFile::write(path, snapshot, *bytes);
+    m_last = std::max(QDateTime::currentMSecsSinceEpoch(), m_last + 1);
+    Snapshot kept = snapshot;
+    kept.sequence = m_last;
+    run([this, kept, bytes, path, spared] {
+        const QString reason = SnapshotFile::write(path, kept, *bytes);
         if (reason.isEmpty())
             removeOldest(m_folder, spared);
         else
-            emit failed(snapshot.file, reason);
+            emit failed(kept.file, reason);
     });
 }
 
@@ -209,21 +241,13 @@ void SnapshotStore::waitForDone()
 QVector<Snapshot> SnapshotStore::snapshots()
 {
     waitForDone();
-    QVector<Snapshot> all;
     if (m_folder.isEmpty())
-        return all;
-    const QFileInfoList files = filesOf(m_folder, QLatin1Char('*') + Suffix);
-    for (const QFileInfo &file : files) {
-        Snapshot snapshot;
-        snapshot.file = file.fileName();
-        if (SnapshotFile::readHeader(file.filePath(), &snapshot))
-            Log::warning(tr("[Recovery] '%1' is damaged and was left out")
-                             .arg(QDir::toNativeSeparators(file.filePath())));
-        else
-            all.append(snapshot);
+        return {};
+    QVector<Snapshot> all = snapshotsIn(m_folder);
+    while (!all.isEmpty() && !all.last().time.isValid()) {
+        Log::warning(tr("[Recovery] '%1' is damaged and was left out")
+                         .arg(QDir::toNativeSeparators(pathOf(all.takeLast().file))));
     }
-    std::stable_sort(all.begin(), all.end(),
-                     [](const Snapshot &a, const Snapshot &b) { return a.time > b.time; });
     return all;
 }
 

@@ -42,15 +42,16 @@ public:
 
     /// A name that no snapshot of any program has.
     QString newFile(DocumentType type);
-    /// Keeps a model under `snapshot.file`, in place of what is kept there. Then the oldest of more than
-    /// MostKept snapshots go, those of `spared` aside.
+    /// Keeps a model under `snapshot.file`, in place of what is kept there, with the next sequence. Then the
+    /// oldest of more than MostKept snapshots go, those of `spared` aside.
     void keep(const Snapshot &snapshot, std::vector<uchar> model, const QSet<QString> &spared);
     void remove(const QString &file);
     /// Whether files wait to be written.
     bool isBusy() const { return m_jobs > 0; }
     void waitForDone();
 
-    /// All that are kept, the newest first. Damaged ones are left out, with a line in the log.
+    /// All that are kept, the newest first by their sequence. Damaged ones are left out, with a line in the
+    /// log.
     QVector<Snapshot> snapshots();
     /// The model's bytes. Returns true when the file is not what was kept.
     [[nodiscard]] bool read(const Snapshot &snapshot, QByteArray *model);
@@ -64,6 +65,7 @@ private:
     void takeOver();
     void takeOver(const QString &folder);
     void takeOverReport(const QString &report);
+    void findLast();
     void run(const std::function<void()> &job);
     QString pathOf(const QString &file) const { return m_folder + QLatin1Char('/') + file; }
 
@@ -72,6 +74,7 @@ private:
     std::unique_ptr<FolderLock> m_lock;
     QStringList m_crashReports;
     int m_files = 0;
+    qint64 m_last = 0; ///< the newest snapshot's sequence
     std::atomic<int> m_jobs{0};
     QThreadPool m_thread;
 };

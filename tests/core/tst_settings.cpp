@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "FullDisk.h"
+#include "Log.h"
 #include "Settings.h"
 #include "TestSupport.h"
 
@@ -82,6 +84,38 @@ private slots:
         QCOMPARE(Settings::MainWindowSize.value(), QSize(1600, 1000));
         QCOMPARE(Settings::MainWindowPos.value(), QPoint(-5, 7));
         QCOMPARE(Settings::MainWindowState.value(), state);
+    }
+
+    void aStoreThatCannotBeWrittenIsToldOfOnce()
+    {
+        QStringList log;
+        Log::setSink([&log](LogSeverity, const QString &text) { log += text; });
+        Settings::GamePath.setValue("/game");
+        const QString path = QSettings().fileName();
+        const QByteArray before = TestSupport::readFile(path);
+        {
+            const FullDisk disk(before.size());
+            Settings::GamePath.setValue("/other");
+            Settings::ImportPath.setValue("/import");
+            // What is set counts on, and nothing of what was there is lost.
+            QCOMPARE(Settings::GamePath.value(), QString("/other"));
+            QCOMPARE(TestSupport::readFile(path), before);
+        }
+        QVERIFY2(log.size() == 1 && log[0].contains(path), qPrintable(log.join('\n')));
+        Settings::GamePath.setValue("/third");
+        QCOMPARE(Settings::GamePath.value(), QString("/third"));
+        QVERIFY(TestSupport::readFile(path).contains("GamePath=/third"));
+        Settings::ImportPath.remove();
+
+        // A folder stands where the store should be.
+        QVERIFY(QFile::remove(path) && QDir().mkpath(path + "/x"));
+        Settings::GamePath.setValue("/fourth");
+        QCOMPARE(Settings::GamePath.value(), QString("/fourth"));
+        QVERIFY(QDir(path).removeRecursively());
+        Settings::GamePath.setValue("/fifth");
+        QVERIFY(TestSupport::readFile(path).contains("GamePath=/fifth"));
+        QCOMPARE(log.size(), 1);
+        Log::setSink({});
     }
 
     void handWrittenText()

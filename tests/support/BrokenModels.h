@@ -34,6 +34,7 @@ std::vector<Breakage<Mesh>> meshBreakages()
          [](Mesh &mesh) {
              mesh.vertices[7].normal = {0.0f, -0.0f, 0.0f};
          }},
+        {Rule::BytesBehindEnd, [](Mesh &mesh) { mesh.bytesBehind = 5; }},
         {Rule::NotFinite,
          [](Mesh &mesh) { mesh.vertices[7].uv.setX(std::numeric_limits<float>::infinity()); }},
         {Rule::NotFinite, [](Mesh &mesh) { mesh.bbMax.setZ(std::numeric_limits<float>::quiet_NaN()); }},
@@ -175,6 +176,7 @@ inline std::vector<Breakage<AnimFile>> breakages()
         {Rule::ActorUnknown, action(28, {353.0f})},
         {Rule::VoiceUnknown, action(30, {1.0f})},
         {Rule::ImpactTypeUnknown, action(29, {10.0f, 10.0f})},
+        {Rule::BytesBehindEnd, [](AnimFile &file) { file.bytesBehind = 5; }},
         {Rule::NotFinite, action(28, {nan})},
         {Rule::NotFinite, [](AnimFile &file) { file.blocks[1].frames[3].yawOffset = nan; }},
         {Rule::NotFinite, [](AnimFile &file) { file.blocks[1].speed = nan; }},

@@ -205,6 +205,21 @@ private slots:
         QVERIFY(m_window->statusBar()->currentMessage().contains(QStringLiteral("options")));
     }
 
+    void bytesBehindTheEndAreToldUntilTheyAreDropped()
+    {
+        const SkinnedMesh mesh = goodMesh();
+        open(mesh);
+        QCOMPARE(list()->topLevelItemCount(), 0);
+        const QString path = m_files->filePath(QStringLiteral("tinker.skinnedmesh"));
+        QVERIFY(TestSupport::writeFile(path, SampleModels::bytesOf(mesh) + "more"));
+        m_window->openFiles({path});
+        QTRY_COMPARE(list()->topLevelItemCount(), 1);
+        QVERIFY(column(3)[0].contains("4 bytes"));
+        trigger("Ctrl+S");
+        QTRY_COMPARE(list()->topLevelItemCount(), 0);
+        QCOMPARE(TestSupport::readFile(path), SampleModels::bytesOf(mesh));
+    }
+
 private:
     template <typename Widget>
     Widget *find(const char *name) const

@@ -9,6 +9,7 @@
 #include "RecoverDialog.h"
 #include "RecoveryPrompt.h"
 #include "SampleModels.h"
+#include "SnapshotFile.h"
 
 using SampleModels::bytesOf;
 
@@ -305,7 +306,8 @@ private slots:
         QVERIFY2(bar.notice->text().endsWith(QStringLiteral(": box.staticmesh, man.skinnedmesh and 1 more")),
                  qPrintable(bar.notice->text()));
         bar.click("btnRestore");
-        QVERIFY(bar.notice->isHidden());
+        QVERIFY(bar.notice->text().endsWith(QStringLiteral("is kept, too: 1")));
+        QVERIFY(find<QPushButton>(run.window, "btnRestore")->isHidden());
         QVERIFY(run.mesh.isModified() && run.rigid.isModified());
         QCOMPARE(int(run.mesh.model().headTrackFactor), 2);
         QCOMPARE(run.rigid.fileName(), QStringLiteral("box.staticmesh"));
@@ -327,20 +329,50 @@ private slots:
         // The box, which is newer, is restored; for the other the user thinks better of it.
         run.openMesh(manPath());
         run.edit(2);
-        Hand hand({Hand::press(QMessageBox::Cancel)});
+        Hand hand(
+            {Hand::press(QMessageBox::Cancel), Hand::press(QMessageBox::No), Hand::press(QMessageBox::Yes)});
         bar.click("btnRestore");
         QCOMPARE(hand.seen.size(), 1);
         QVERIFY(run.rigid.isModified());
         QVERIFY2(bar.notice->text().endsWith(QString(": man.skinnedmesh")), qPrintable(bar.notice->text()));
 
-        // What is offered is what Discard takes away, and not what is open.
+        // What is offered is what Discard takes away when it was asked, and not what is open.
         bar.click("btnDiscard");
+        QCOMPARE(run.recovery->snapshots().size(), 1);
+        QVERIFY(bar.notice->isVisibleTo(&run.window));
+        bar.click("btnDiscard");
+        const QString question = "Recover|Delete what was kept of 'man.skinnedmesh'?\nThis cannot be undone.";
+        QCOMPARE(hand.seen.mid(1), QStringList({question, question}));
         QVERIFY(bar.notice->isHidden());
         const QVector<Snapshot> left = run.recovery->store().snapshots();
         QVERIFY(std::any_of(left.begin(), left.end(), [](const Snapshot &each) {
             return each.name == QLatin1String("box.staticmesh");
         }));
         QVERIFY(run.recovery->snapshots().isEmpty());
+    }
+
+    void theNewestIsNewestThoughTheClockWasSetBack()
+    {
+        const QDateTime before = QDateTime::currentDateTime().addYears(1);
+        QVERIFY(QDir().mkpath(root() + "/left"));
+        QCOMPARE(SnapshotFile::write(
+                     root() + "/left/1.skinnedmesh.snapshot",
+                     {{}, DocumentType::SkinnedMesh, {}, "old", before, before.toMSecsSinceEpoch()}, {1}),
+                 QString());
+        SnapshotStore store(root());
+        for (int i = 0; i <= SnapshotStore::MostKept; ++i) {
+            const QDateTime time = before.addDays(-1 - i);
+            const QString file = store.newFile(DocumentType::SkinnedMesh);
+            store.keep({file, DocumentType::SkinnedMesh, {}, QString::number(i), time}, {1}, {});
+            store.waitForDone();
+            QFile written(kept().filter(file).value(0));
+            QVERIFY(written.open(QIODevice::ReadWrite));
+            QVERIFY(written.setFileTime(time, QFileDevice::FileModificationTime));
+        }
+        const QVector<Snapshot> all = store.snapshots();
+        QCOMPARE(all.size(), SnapshotStore::MostKept);
+        QCOMPARE(all.first().name, QString::number(SnapshotStore::MostKept));
+        QCOMPARE(all.last().name, QString("1"));
     }
 
     void theBarTellsOfACrash()

@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "EventArguments.h"
 
+#include "ReferenceTables.h"
+
 #include <QtGlobal>
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -69,4 +72,23 @@ EventArgument eventArgument(int eventType, int argument)
     if (row == std::end(eventRows) || argument < 0 || size_t(argument) >= row->arguments.size())
         return {nullptr, {}};
     return row->arguments[size_t(argument)];
+}
+
+std::optional<ReferenceKind> referenceOf(QLatin1String question)
+{
+    constexpr std::pair<QLatin1String, ReferenceKind> tables[] = {
+        {Question::Actor, ReferenceKind::Actors},         {Question::Sound, ReferenceKind::Sounds},
+        {Question::Animation, ReferenceKind::Animations}, {Question::Voice, ReferenceKind::Voices},
+        {Question::Particle, ReferenceKind::Particles},   {Question::Impact, ReferenceKind::Impacts}};
+    for (const auto &[key, kind] : tables) {
+        if (key == question)
+            return kind;
+    }
+    return std::nullopt;
+}
+
+QString argumentName(int eventType, int argument, float value)
+{
+    const auto kind = referenceOf(eventArgument(eventType, argument).question);
+    return kind ? ReferenceTables::shared().name(*kind, double(value)) : QString();
 }

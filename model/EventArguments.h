@@ -2,7 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ReferenceTable.h"
+
 #include <QLatin1String>
+
+#include <optional>
 
 /// What one of the arguments of a key frame action means to its event.
 struct EventArgument
@@ -22,5 +26,10 @@ inline constexpr QLatin1String Impact{"impact", 6};
 inline constexpr QLatin1String Damage{"damage", 6}; ///< 256 times the damage
 } // namespace Question
 
+/// The table with the names of what a question asks for; none for damage, which is calculated.
+std::optional<ReferenceKind> referenceOf(QLatin1String question);
+
 /// The meaning of argument 0 to 7 of any event type.
 EventArgument eventArgument(int eventType, int argument);
+/// What the value of an argument is called, as ReferenceTables::name().
+QString argumentName(int eventType, int argument, float value);

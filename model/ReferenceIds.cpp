@@ -2,17 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "ReferenceIds.h"
 
+#include "ReferenceTables.h"
+
 ReferenceIds ReferenceIds::load()
 {
     ReferenceIds ids;
     for (const ReferenceKind kind : referenceKinds) {
-        ReferenceTable table;
-        const QString path = referencePath(kind);
-        const QString builtIn = builtInReferencePath(kind);
-        if (table.read(path) && (path == builtIn || table.read(builtIn)))
-            continue;
-        for (const ReferenceRow &row : table.rows)
-            ids.insert(kind, row.number);
+        for (const ReferenceRow &row : ReferenceTables::shared().table(kind).rows) {
+            // An id of another look, such as 007, names no number.
+            if (row.id == QString::number(row.number))
+                ids.insert(kind, row.number);
+        }
     }
     return ids;
 }

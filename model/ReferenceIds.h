@@ -10,7 +10,7 @@
 class ReferenceIds
 {
 public:
-    /// Those of the tables that the program would show now; see referencePath().
+    /// Those of the tables that the program has; see ReferenceTables.
     static ReferenceIds load();
 
     void insert(ReferenceKind kind, int id) { m_ids[size_t(kind)].insert(id); }

@@ -25,6 +25,7 @@ void ReferenceTable::append(QIODevice &text)
     while (!text.atEnd()) {
         const QStringList words = QString::fromUtf8(text.readLine())
                                       .remove(QLatin1Char('\n'))
+                                      .replace(QLatin1Char('\t'), QLatin1Char(' '))
                                       .split(QLatin1Char(' '), Qt::SkipEmptyParts);
         if (words.isEmpty())
             continue;

@@ -29,8 +29,8 @@ struct ReferenceTable
 {
     std::vector<ReferenceRow> rows;
 
-    /// Appends the lines of a text, which is open: an id, blanks, a name of words. Lines without a word are
-    /// left out.
+    /// Appends the lines of a text, which is open: an id, blanks or tabs, a name of words. Lines without a
+    /// word are left out.
     void append(QIODevice &text);
     /// The same from a file. Returns true on failure, after an error in the log, when it cannot be opened.
     [[nodiscard]] bool read(const QString &path);

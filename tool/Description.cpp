@@ -3,7 +3,7 @@
 #include "Description.h"
 
 #include "FrameChoice.h"
-#include "ReferenceTable.h"
+#include "ReferenceTables.h"
 #include "Transform.h"
 
 #include <QJsonArray>
@@ -65,26 +65,11 @@ int triangleIndexCount(const Surfaces &surfaces)
     return jsonSize(count);
 }
 
-QString animationName(int id)
-{
-    static const ReferenceTable table = [] {
-        ReferenceTable read;
-        if (read.read(referencePath(ReferenceKind::Animations)))
-            read.rows.clear();
-        return read;
-    }();
-    for (const ReferenceRow &row : table.rows) {
-        if (row.number == id)
-            return row.name.trimmed();
-    }
-    return {};
-}
-
 QJsonObject describeBlock(const AnimBlock &block)
 {
     return {
         {QStringLiteral("id"), block.animId},
-        {QStringLiteral("name"), animationName(block.animId)},
+        {QStringLiteral("name"), ReferenceTables::shared().name(ReferenceKind::Animations, block.animId)},
         {QStringLiteral("frames"), block.frameCount()},
         {QStringLiteral("speed"), jsonNumber(block.speed)},
         {QStringLiteral("duration"), jsonNumber(block.frameCount() > 0 ? playDuration(block) : 0.0f)},

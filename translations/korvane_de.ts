@@ -2479,6 +2479,10 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
         <source>Triangle %1, corner %2 of 3</source>
         <translation>Dreieck %1, Ecke %2 von 3</translation>
     </message>
+    <message>
+        <source>not in the table</source>
+        <translation>nicht in der Tabelle</translation>
+    </message>
 </context>
 <context>
     <name>IntSpinBox</name>

@@ -4,6 +4,7 @@
 
 #include "DatabaseTables.h"
 #include "Icons.h"
+#include "ReferenceTables.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -81,7 +82,7 @@ DatabaseTab::DatabaseTab(QWidget *parent)
 void DatabaseTab::load()
 {
     if (!m_loaded)
-        reload();
+        fill();
 }
 
 const QTableWidget *DatabaseTab::table(ReferenceKind kind)
@@ -132,8 +133,7 @@ DatabaseTab::Page DatabaseTab::createPage(ReferenceKind kind)
 
     connect(page.filter, &QLineEdit::textChanged, this, [this, page] { applyFilter(page); });
     // Rows are hidden by their place, which sorting gives to others.
-    connect(page.table->model(), &QAbstractItemModel::layoutChanged, this,
-            [this, page] { applyFilter(page); });
+    connect(page.table->model(), &QAbstractItemModel::layoutChanged, this, [this, kind] { OnSorted(kind); });
     connect(page.table, &QTableWidget::cellDoubleClicked, this, [this, page] { copyRows(page.table); });
 
     auto *row = new QHBoxLayout;
@@ -148,36 +148,38 @@ DatabaseTab::Page DatabaseTab::createPage(ReferenceKind kind)
 
 void DatabaseTab::reload()
 {
+    ReferenceTables::shared().reload();
+    fill();
+}
+
+void DatabaseTab::fill()
+{
     if (!std::exchange(m_loaded, true)) {
         for (const ReferenceKind kind : referenceKinds)
             m_pages[size_t(kind)] = createPage(kind);
     }
+    m_isFilling = true;
     for (const ReferenceKind kind : referenceKinds) {
         const Page &page = m_pages[size_t(kind)];
-        page.table->setRowCount(0);
-        const QString path = referencePath(kind);
-        const QString builtIn = builtInReferencePath(kind);
-        if (loadDatabase(path, page.table) && path != builtIn)
-            loadDatabase(builtIn, page.table);
+        loadDatabase(ReferenceTables::shared().table(kind), page.table);
+        ReferenceTables::shared().setOrder(kind, shownOrder(page.table));
         page.table->resizeColumnToContents(0);
         page.table->setColumnWidth(
             0, std::max(page.table->columnWidth(0), 8 * fontMetrics().averageCharWidth()));
         applyFilter(page);
     }
-    emit reloaded();
+    m_isFilling = false;
+    emit namesChanged();
 }
 
-ReferenceIds DatabaseTab::ids() const
+void DatabaseTab::OnSorted(ReferenceKind kind)
 {
-    ReferenceIds ids;
-    if (!m_loaded)
-        return ids;
-    for (const ReferenceKind kind : referenceKinds) {
-        const QTableWidget *table = m_pages[size_t(kind)].table;
-        for (int row = 0; row < table->rowCount(); ++row)
-            ids.insert(kind, table->item(row, 0)->data(Qt::UserRole).toInt());
-    }
-    return ids;
+    const Page &page = m_pages[size_t(kind)];
+    applyFilter(page);
+    if (m_isFilling)
+        return;
+    ReferenceTables::shared().setOrder(kind, shownOrder(page.table));
+    emit namesChanged();
 }
 
 void DatabaseTab::applyFilter(const Page &page)

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ReferenceIds.h"
+#include "ReferenceTable.h"
 
 #include <QWidget>
 
@@ -29,13 +29,11 @@ public:
     /// Loads all tables anew, each from its overriding file if there is one.
     void reload();
 
-    /// The numbers that the tables have a name for; none before they are loaded.
-    ReferenceIds ids() const;
-
     const QTableWidget *table(ReferenceKind kind);
 
 signals:
-    void reloaded();
+    /// Numbers may have other names: the tables were loaded, or one was sorted.
+    void namesChanged();
     /// A short word to the user about what was just done.
     void told(const QString &text);
 
@@ -55,11 +53,14 @@ private:
         QLabel *count;
     };
 
+    void fill();
+    void OnSorted(ReferenceKind kind);
     Page createPage(ReferenceKind kind);
     void applyFilter(const Page &page);
     void copyRows(const QTableWidget *table);
 
     QTabWidget *m_tabs;
     bool m_loaded = false;
+    bool m_isFilling = false;
     std::array<Page, referenceKinds.size()> m_pages{};
 };

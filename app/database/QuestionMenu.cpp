@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "QuestionMenu.h"
 
-#include "DatabaseTab.h"
-#include "DatabaseTables.h"
 #include "EventArguments.h"
 #include "FloatSpinBox.h"
 #include "IntSpinBox.h"
 #include "Log.h"
 #include "Questions.h"
+#include "ReferenceTables.h"
 #include "Shortcuts.h"
 
 #include <QApplication>
@@ -26,24 +25,23 @@ struct QuestionText
     QLatin1String key;
     const char *text;
     const char *title;
-    ReferenceKind table; ///< of no meaning for damage, which is calculated
 };
 
 const QuestionText questions[] = {
     {Question::Actor, QT_TRANSLATE_NOOP("QuestionMenu", "What Actor is this?"),
-     QT_TRANSLATE_NOOP("QuestionMenu", "Actor"), ReferenceKind::Actors},
+     QT_TRANSLATE_NOOP("QuestionMenu", "Actor")},
     {Question::Animation, QT_TRANSLATE_NOOP("QuestionMenu", "What Animation is this?"),
-     QT_TRANSLATE_NOOP("QuestionMenu", "Animation"), ReferenceKind::Animations},
+     QT_TRANSLATE_NOOP("QuestionMenu", "Animation")},
     {Question::Sound, QT_TRANSLATE_NOOP("QuestionMenu", "What Sound is this?"),
-     QT_TRANSLATE_NOOP("QuestionMenu", "Sound"), ReferenceKind::Sounds},
+     QT_TRANSLATE_NOOP("QuestionMenu", "Sound")},
     {Question::Voice, QT_TRANSLATE_NOOP("QuestionMenu", "What Voice is this?"),
-     QT_TRANSLATE_NOOP("QuestionMenu", "Voice"), ReferenceKind::Voices},
+     QT_TRANSLATE_NOOP("QuestionMenu", "Voice")},
     {Question::Particle, QT_TRANSLATE_NOOP("QuestionMenu", "What Particle is this?"),
-     QT_TRANSLATE_NOOP("QuestionMenu", "Particle"), ReferenceKind::Particles},
+     QT_TRANSLATE_NOOP("QuestionMenu", "Particle")},
     {Question::Impact, QT_TRANSLATE_NOOP("QuestionMenu", "What Impact Type is this?"),
-     QT_TRANSLATE_NOOP("QuestionMenu", "Impact Types"), ReferenceKind::Impacts},
+     QT_TRANSLATE_NOOP("QuestionMenu", "Impact Types")},
     {Question::Damage, QT_TRANSLATE_NOOP("QuestionMenu", "How much damage is this?"),
-     QT_TRANSLATE_NOOP("QuestionMenu", "Actual Damage"), ReferenceKind::Actors},
+     QT_TRANSLATE_NOOP("QuestionMenu", "Actual Damage")},
 };
 
 /// The value of either kind of spin box.
@@ -57,9 +55,8 @@ std::optional<double> valueOf(const QObject *editor)
 }
 } // namespace
 
-QuestionMenu::QuestionMenu(DatabaseTab &tables, QWidget *fields)
+QuestionMenu::QuestionMenu(QWidget *fields)
     : QObject(fields)
-    , m_tables(tables)
 {
     for (QAbstractSpinBox *editor : fields->findChildren<QAbstractSpinBox *>())
         editor->installEventFilter(this);
@@ -146,9 +143,8 @@ void QuestionMenu::ask(int question, QObject *editor) const
 {
     const QuestionText &asked = questions[question];
     const double value = *valueOf(editor);
-    const QString answer = asked.key == Question::Damage
-                               ? damageText(float(value))
-                               : lookupDatabaseName(m_tables.table(asked.table), value);
+    const auto table = referenceOf(asked.key);
+    const QString answer = table ? ReferenceTables::shared().answer(*table, value) : damageText(float(value));
     QMessageBox::information(static_cast<QWidget *>(editor)->window(), tr(asked.title), answer);
 }
 

@@ -5,7 +5,6 @@
 #include <QObject>
 #include <QPoint>
 
-class DatabaseTab;
 class QAction;
 class QMenu;
 
@@ -18,8 +17,8 @@ class QuestionMenu : public QObject
     Q_OBJECT
 
 public:
-    /// For the spin boxes in `fields`, which owns the menu. `tables` answers; it outlives the menu.
-    QuestionMenu(DatabaseTab &tables, QWidget *fields);
+    /// For the spin boxes in `fields`, which owns the menu.
+    explicit QuestionMenu(QWidget *fields);
 
     /// The menu of an editor: its questions first, then what every spin box offers. Null, after an error in
     /// the log, for an object that is no spin box. The caller owns it.
@@ -35,6 +34,5 @@ private:
     void ask(int question, QObject *editor) const;
     void askFocused(int question) const;
 
-    DatabaseTab &m_tables;
     QList<QAction *> m_actions; ///< one for each question, for those who give it keys
 };

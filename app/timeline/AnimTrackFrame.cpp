@@ -6,7 +6,7 @@
 #include "FrameChoice.h"
 #include "Icons.h"
 #include "Playback.h"
-#include "ReferenceTable.h"
+#include "ReferenceTables.h"
 #include "Settings.h"
 #include "Shortcuts.h"
 #include "ui_AnimTrackFrame.h"
@@ -158,17 +158,11 @@ void AnimTrackFrame::updateRange()
 void AnimTrackFrame::listBlocks()
 {
     const AnimFile *file = playback().anim;
-    if (file && m_animationNames.isEmpty()) {
-        ReferenceTable table;
-        if (!table.read(referencePath(ReferenceKind::Animations))) {
-            for (const ReferenceRow &row : table.rows)
-                m_animationNames.insert(row.number, row.name.trimmed());
-        }
-    }
     QStringList names;
     const int count = file ? int(file->blocks.size()) : 0;
     for (int i = 0; i < count; ++i) {
-        const QString name = m_animationNames.value(file->blocks[size_t(i)].animId);
+        const QString name =
+            ReferenceTables::shared().name(ReferenceKind::Animations, file->blocks[size_t(i)].animId);
         names << (name.isEmpty() ? QString::number(i) : tr("%1: %2").arg(i).arg(name));
     }
     QComboBox *box = m_ui->cbAnimTrackBlock;

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QFrame>
-#include <QHash>
 
 #include <memory>
 
@@ -29,7 +28,8 @@ public:
     void openAnimation(const AnimFile *file);
     /// Makes a block the current one and starts it, or shows its initial pose, as the option says.
     void selectBlock(int blockIndex);
-    /// Fits slider, marks and the list of blocks to the file, which may have changed.
+    /// Fits slider, marks and the list of blocks to the file, which may have changed, and to what its numbers
+    /// are called.
     void updateRange();
 
     /// Follows the frame that was painted; sets no time.
@@ -70,5 +70,4 @@ private:
 
     std::unique_ptr<Ui::AnimTrackFrame> m_ui;
     QList<QAction *> m_actions;
-    QHash<int, QString> m_animationNames; ///< by id; read when there is something to name
 };

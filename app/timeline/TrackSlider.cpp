@@ -19,7 +19,8 @@ namespace {
 constexpr int MarkHeight = 5;
 constexpr int Reach = 4; ///< pixels to either side of a mark that belong to it
 
-/// "Action 2: 00: Play Sound, Sound ID 10": the arguments that mean something or are set.
+/// "Action 2: 00: Play Sound, Sound ID 10 (Ambient Explosion 1)": the arguments that mean something or are
+/// set.
 QString textOf(int index, const AnimAction &action)
 {
     QString text = TrackSlider::tr("Action %1: %2")
@@ -34,6 +35,9 @@ QString textOf(int index, const AnimAction &action)
         if (label)
             name = QCoreApplication::translate("EventArguments", label);
         text += QStringLiteral(", %1 %2").arg(name).arg(double(value));
+        const QString called = argumentName(action.eventType, i, value);
+        if (!called.isEmpty())
+            text += QStringLiteral(" (%1)").arg(called);
     }
     return text;
 }

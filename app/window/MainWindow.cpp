@@ -76,7 +76,7 @@ MainWindow::MainWindow(QWidget *parent)
     addUndoActions(m_undoGroup, *m_ui->menuEdit, *m_ui->toolBarEdit);
     new StructureActions({m_skinnedMesh, m_ui->treeSkinnedMesh}, {m_anim, m_ui->treeAnim},
                          {m_staticMesh, m_ui->treeStaticMesh}, this);
-    new QuestionMenu(*m_ui->tabDatabase, this);
+    new QuestionMenu(this);
     // All actions are there by now.
     m_shortcuts = new Shortcuts(*m_ui->menuBar, flightCommands({m_ui->viewSkinned, m_ui->viewStatic}), this);
     m_preferences = new Preferences(*m_shortcuts, this);
@@ -177,8 +177,11 @@ void MainWindow::createDocks()
     connect(m_ui->dockProblems, &ProblemsDock::activated, m_panes, &DocumentPanes::showRecord);
     m_ui->statusBar->insertPermanentWidget(0, new ProblemsButton(*m_problems, *m_ui->dockProblems, this));
     connect(m_ui->tabDatabase, &DatabaseTab::told, this, &MainWindow::tell);
-    connect(m_ui->tabDatabase, &DatabaseTab::reloaded, m_problems,
-            [this] { m_problems->setReferenceIds(m_ui->tabDatabase->ids()); });
+    connect(m_ui->tabDatabase, &DatabaseTab::namesChanged, m_problems,
+            [this] { m_problems->setReferenceIds(ReferenceIds::load()); });
+    connect(m_ui->tabDatabase, &DatabaseTab::namesChanged, m_ui->animTrackFrame,
+            &AnimTrackFrame::updateRange);
+    connect(m_ui->tabDatabase, &DatabaseTab::namesChanged, m_ui->pagesAnim, &PageStack::refresh);
     m_ui->dockServers->setQueryAction(m_ui->actionQueryServers);
     showHistory(*m_ui->viewHistory, m_undoGroup, m_ui->actionSave->icon());
 }

@@ -39,6 +39,7 @@ void AnimBlockPage::recordShown()
     const AnimBlock *block = record();
     if (!block)
         return;
+    m_ui.hintAnimAnimID->setTarget(IndexTargets::animation(block->animId));
     m_ui.hintAnimLoopFrame->setTarget(IndexTargets::loopFrame(*block, block->loopFrame));
     m_ui.lblAnimFrames->setNum(block->frameCount());
     m_ui.lblAnimBones->setNum(int(block->nodes.size()));

@@ -5,6 +5,7 @@
 #include "AnimFile.h"
 #include "NameTables.h"
 #include "Records.h"
+#include "ReferenceTables.h"
 
 #include <QCoreApplication>
 
@@ -110,6 +111,12 @@ IndexTarget IndexTargets::loopFrame(const AnimBlock &block, int index)
     if (index >= block.frameCount())
         return {Texts::tr("loops from frame 0"), false, {}};
     return {Texts::tr("%1 of %2 frames").arg(index).arg(block.frameCount()), false, {}};
+}
+
+IndexTarget IndexTargets::animation(int id)
+{
+    const QString name = ReferenceTables::shared().name(ReferenceKind::Animations, id);
+    return {name.isEmpty() ? Texts::tr("not in the table") : name, false, {}};
 }
 
 IndexTarget IndexTargets::translationTrack(const AnimBlock &block, int index)

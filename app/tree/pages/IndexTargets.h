@@ -28,6 +28,8 @@ IndexTarget actionBone(const AnimBlock &block, const SkinnedMesh &mesh, int inde
 IndexTarget actionFrame(const AnimBlock &block, int index);
 /// The frame that a block loops to; any beyond the last means that it does not.
 IndexTarget loopFrame(const AnimBlock &block, int index);
+/// What the reference table calls an animation; one that it does not know may still be the mod's own.
+IndexTarget animation(int id);
 /// A track of the block's tables; 65535 stands for the bone's initial position or rotation.
 IndexTarget translationTrack(const AnimBlock &block, int index);
 IndexTarget rotationTrack(const AnimBlock &block, int index);

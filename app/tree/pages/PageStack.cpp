@@ -106,6 +106,11 @@ void PageStack::setTree(KVTreeView *tree)
     connect(tree, &KVTreeView::currentRecordChanged, this, &PageStack::showRecord);
 }
 
+void PageStack::refresh()
+{
+    showRecord(m_tree->currentRecord());
+}
+
 void PageStack::addPage(PropertyPage *page)
 {
     arrangeForms(*page);

@@ -21,6 +21,9 @@ public:
     void setTree(KVTreeView *tree);
     void addPage(PropertyPage *page);
 
+    /// Shows the current record anew: what it says by numbers may be called otherwise.
+    void refresh();
+
     QStackedWidget *pages() const { return m_pages; }
 
     /// Wide enough that no page has to be scrolled sideways.

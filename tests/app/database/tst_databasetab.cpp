@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "DatabaseTab.h"
 #include "DatabaseTables.h"
+#include "EventArguments.h"
 #include "FloatSpinBox.h"
 #include "Hand.h"
 #include "Log.h"
 #include "QuestionMenu.h"
 #include "Questions.h"
+#include "ReferenceIds.h"
+#include "ReferenceTables.h"
 
 #include <limits>
 #include <memory>
@@ -32,7 +35,7 @@ private slots:
         m_tab = std::make_unique<DatabaseTab>();
         // Long before anybody could wait for it.
         QCOMPARE(m_tab->findChildren<QTableWidget *>().size(), 0);
-        m_tab->load();
+        m_tab->reload();
         m_errors.clear();
     }
 
@@ -51,10 +54,13 @@ private slots:
     void linesBecomeRows()
     {
         const QString path = m_home.filePath(QStringLiteral("lines.txt"));
-        QVERIFY(TestSupport::writeFile(path, "7  two   blanks\r\n\r\n 8 led\nx9 no number\r\n10\r\n-3 last"));
+        QVERIFY(
+            TestSupport::writeFile(path, "7  two \t blanks\r\n\r\n 8\tled\nx9 no number\r\n10\r\n-3 last"));
+        ReferenceTable read;
+        QVERIFY(!read.read(path));
         QTableWidget table(0, 2);
         table.setSortingEnabled(true);
-        QVERIFY(!loadDatabase(path, &table));
+        loadDatabase(read, &table);
         QVERIFY(table.isSortingEnabled());
         table.sortByColumn(0, Qt::AscendingOrder);
         QStringList rows;
@@ -66,15 +72,15 @@ private slots:
                  QStringList({"-3|-3| last", "x9|0| no number", "7|7| two blanks", "8|8| led", "10|10|"}));
 
         const QString nowhere = m_home.filePath(QStringLiteral("nowhere.txt"));
-        QVERIFY(loadDatabase(nowhere, &table));
+        QVERIFY(read.read(nowhere));
         QCOMPARE(m_errors, QStringList("Unable to read database file at " + nowhere));
-        QCOMPARE(table.rowCount(), rows.size());
+        QCOMPARE(int(read.rows.size()), rows.size());
     }
 
     void lookup()
     {
-        const auto check = [this](ReferenceKind kind, double value, const char *text) {
-            QCOMPARE(lookupDatabaseName(m_tab->table(kind), value), QString::fromLatin1(text));
+        const auto check = [](ReferenceKind kind, double value, const char *text) {
+            QCOMPARE(ReferenceTables::shared().answer(kind, value), QString::fromLatin1(text));
         };
         check(ReferenceKind::Sounds, 10.9, "10:  Ambient Explosion 1");
         check(ReferenceKind::Impacts, 10, "10: N/A");
@@ -89,8 +95,8 @@ private slots:
         auto *sounds = find<QTableWidget>(*m_tab, "tableDBSounds");
         sounds->sortByColumn(1, Qt::DescendingOrder);
         check(ReferenceKind::Sounds, 10, "10:  Unnamed sound 10 variant 3");
-        // Texts are compared, not numbers.
-        QCOMPARE(lookupDatabaseName(sounds, QStringLiteral("010")), QStringLiteral("010: N/A"));
+        // The same for all who ask, what the arguments of an action are called among them.
+        QCOMPARE(argumentName(0, 0, 10.0f), QStringLiteral("Unnamed sound 10 variant 3"));
     }
 
     void filterStaysOnItsRowsWhenSorted()
@@ -136,11 +142,15 @@ private slots:
     {
         const QDir folder(referenceOverrideFolder());
         QVERIFY(folder.mkpath(QStringLiteral(".")));
-        QVERIFY(TestSupport::writeFile(folder.filePath(QStringLiteral("actors.txt")), "5 Raptor\r\n6 Flier"));
+        QVERIFY(TestSupport::writeFile(folder.filePath(QStringLiteral("actors.txt")),
+                                       "5 Raptor\r\n6 Flier\r\n007 Spy"));
         QVERIFY(folder.mkpath(QStringLiteral("voices.txt")));
         QTest::mouseClick(find<QWidget>(*m_tab, "btnDBReload"), Qt::LeftButton);
-        QCOMPARE(m_tab->table(ReferenceKind::Actors)->rowCount(), 2);
-        QCOMPARE(lookupDatabaseName(m_tab->table(ReferenceKind::Actors), 6), QStringLiteral("6:  Flier"));
+        QCOMPARE(m_tab->table(ReferenceKind::Actors)->rowCount(), 3);
+        // An id is a text: this one names no number, nowhere.
+        QCOMPARE(ReferenceTables::shared().answer(ReferenceKind::Actors, 7), QStringLiteral("7: N/A"));
+        QVERIFY(!ReferenceIds::load().knows(ReferenceKind::Actors, 7));
+        QCOMPARE(ReferenceTables::shared().answer(ReferenceKind::Actors, 6), QStringLiteral("6:  Flier"));
         QCOMPARE(m_tab->table(ReferenceKind::Sounds)->rowCount(), 1266);
         // One that cannot be read is named, and the built-in one stays.
         QCOMPARE(m_errors, QStringList("Unable to read database file at " + folder.filePath("voices.txt")));
@@ -164,7 +174,7 @@ private slots:
         whole->setValue(4);
         real->setValue(4.25f);
         const QList<QWidget *> editors{whole, real};
-        QuestionMenu menu(*m_tab, &window);
+        QuestionMenu menu(&window);
         window.show();
         for (const auto &table : tables) {
             for (QWidget *editor : editors) {
@@ -180,7 +190,7 @@ private slots:
     void questionsOfOtherEditors()
     {
         QWidget window;
-        QuestionMenu menu(*m_tab, &window);
+        QuestionMenu menu(&window);
         QLineEdit line(&window);
         line.setProperty(Questions::Property, QStringList("actor"));
         QVERIFY(!menu.createMenu(&line));

@@ -50,7 +50,9 @@ QString texturePath(const SceneSource &source, const aiMaterial &material, unsig
                 .arg(source.modelPath, QString::number(index)));
         return {};
     }
-    const QFileInfo joined(QFileInfo(source.modelPath).path() + QLatin1Char('/') + text(stored));
+    // Models from other systems part folders by backslashes.
+    const QString named = text(stored).replace(QLatin1Char('\\'), QLatin1Char('/'));
+    const QFileInfo joined(QFileInfo(source.modelPath).path() + QLatin1Char('/') + named);
     return joined.path() + QLatin1Char('/') + joined.completeBaseName() + QStringLiteral(".png");
 }
 

@@ -145,7 +145,7 @@ private slots:
     {
         m_folder.put("m.mtl", "newmtl a\nKd 1 0 0\nmap_Kd tex/steel.v2.jpeg\n"
                               "newmtl b\nKd 0 1 0\n"
-                              "newmtl c\nKd 0 0 1\nmap_Kd tex/steel.v2.jpeg\n"
+                              "newmtl c\nKd 0 0 1\nmap_Kd tex\\steel.v2.jpeg\n"
                               "newmtl d\nKd 0 1 1\nmap_Kd wood.tga\n");
         const QString path = m_folder.put("m.obj", "mtllib m.mtl\n" + triangle +
                                                        "usemtl a\nf 1/1 2/1 3/1\nusemtl b\nf 1/1 2/1 3/1\n"

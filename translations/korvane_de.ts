@@ -3502,6 +3502,37 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
     </message>
 </context>
 <context>
+    <name>PaneKeys</name>
+    <message>
+        <source>&amp;Next Pane</source>
+        <translation>&amp;Nächster Bereich</translation>
+    </message>
+    <message>
+        <source>Give the keys to the next part of the window</source>
+        <translation>Die Tasten dem nächsten Teil des Fensters geben</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Pane</source>
+        <translation>&amp;Voriger Bereich</translation>
+    </message>
+    <message>
+        <source>Give the keys to the part of the window before</source>
+        <translation>Die Tasten dem Teil des Fensters davor geben</translation>
+    </message>
+    <message>
+        <source>&amp;Other Tree</source>
+        <translation>&amp;Anderer Baum</translation>
+    </message>
+    <message>
+        <source>Go to the tree of the animation, or of the skinned mesh</source>
+        <translation>Zum Baum der Animation gehen oder zu dem des Skin-Netzes</translation>
+    </message>
+    <message>
+        <source>&amp;Jump To</source>
+        <translation>&amp;Gehe zu</translation>
+    </message>
+</context>
+<context>
     <name>PictureDialog</name>
     <message>
         <source>Save Picture</source>

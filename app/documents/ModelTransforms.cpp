@@ -6,17 +6,13 @@
 #include "ScaleDialog.h"
 #include "SkinnedMeshCommands.h"
 #include "StaticMeshCommands.h"
+#include "TypingUndo.h"
 
 #include <QAbstractButton>
 
 namespace {
-void bringUp(QDialog *dialog)
-{
-    dialog->show();
-    dialog->raise();
-    dialog->activateWindow();
+constexpr int Margin = 12; ///< between a dialog and the window's edge, about as wide as a frame
 }
-} // namespace
 
 ModelTransforms::ModelTransforms(SkinnedMeshDocument &skinnedMesh, StaticMeshDocument &staticMesh,
                                  QWidget *window)
@@ -46,6 +42,30 @@ void ModelTransforms::on_actionScale_triggered()
     }
     updateButtons();
     bringUp(m_scaleDialog);
+}
+
+void ModelTransforms::bringUp(QDialog *dialog)
+{
+    if (!dialog->isVisible()) {
+        for (QAbstractSpinBox *field : dialog->findChildren<QAbstractSpinBox *>())
+            field->installEventFilter(this);
+        // At the right end of the window, where no model is covered.
+        const QWidget *window = m_window->window();
+        const QSize size = dialog->sizeHint();
+        const QPoint corner = window->mapToGlobal(window->rect().bottomRight());
+        dialog->move(corner.x() - size.width() - Margin, corner.y() - size.height() - 4 * Margin);
+    }
+    dialog->show();
+    dialog->raise();
+    dialog->activateWindow();
+}
+
+bool ModelTransforms::eventFilter(QObject *watched, QEvent *event)
+{
+    if (!isUndoOfDocument(watched, event))
+        return QObject::eventFilter(watched, event);
+    event->ignore();
+    return true;
 }
 
 void ModelTransforms::setCurrent(const Document *document)

@@ -30,7 +30,11 @@ public slots:
     void on_actionRotate_triggered();
     void on_actionScale_triggered();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
+    void bringUp(QDialog *dialog);
     template <typename SkinnedCommand, typename StaticCommand, typename... Arguments>
     void push(Arguments... arguments);
     void updateButtons();

@@ -59,7 +59,6 @@ FolderExplorer::FolderExplorer(const DocumentKind &kind, QWidget *parent)
     m_tree->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_tree->installEventFilter(this);
     m_tree->viewport()->installEventFilter(this);
-    setFocusProxy(m_tree);
 
     createActions();
     createEmptyPage();
@@ -332,4 +331,7 @@ void FolderExplorer::showPage(const QString &emptyText)
 {
     m_emptyLabel->setText(emptyText);
     m_pages->setCurrentWidget(emptyText.isEmpty() ? static_cast<QWidget *>(m_tree) : m_emptyPage);
+    // Never to what cannot be seen: Tab would not get past it.
+    setFocusProxy(emptyText.isEmpty() ? static_cast<QWidget *>(m_tree)
+                                      : m_emptyPage->findChild<QPushButton *>());
 }

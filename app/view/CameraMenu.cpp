@@ -52,14 +52,14 @@ void CameraMenu::addSides(QWidget *window)
     };
     // The keypad's digits are matched by the plain ones, too.
     add("actionLookFront", tr("Fro&nt"), tr("Look at the model's front"), Qt::Key_1, Camera::Side::Front);
-    add("actionLookBack", tr("&Back"), tr("Look at the model's back"), QKeySequence(QStringLiteral("Ctrl+1")),
+    add("actionLookBack", tr("&Back"), tr("Look at the model's back"), QKeySequence(QStringLiteral("Alt+1")),
         Camera::Side::Back);
     add("actionLookRight", tr("&Right"), tr("Look from the right, where +X points"), Qt::Key_3,
         Camera::Side::Right);
     add("actionLookLeft", tr("&Left"), tr("Look from the left, where -X points"),
-        QKeySequence(QStringLiteral("Ctrl+3")), Camera::Side::Left);
+        QKeySequence(QStringLiteral("Alt+3")), Camera::Side::Left);
     add("actionLookTop", tr("&Top"), tr("Look down at the model"), Qt::Key_7, Camera::Side::Top);
-    add("actionLookBottom", tr("Botto&m"), tr("Look up at the model"), QKeySequence(QStringLiteral("Ctrl+7")),
+    add("actionLookBottom", tr("Botto&m"), tr("Look up at the model"), QKeySequence(QStringLiteral("Alt+7")),
         Camera::Side::Bottom);
 }
 

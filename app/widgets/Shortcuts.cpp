@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QDockWidget>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
@@ -159,9 +160,12 @@ QString withKeys(const QString &tip, const QAction *action)
     return tip + suffix(action->shortcuts());
 }
 
-Shortcuts::Shortcuts(const QMenuBar &menus, const QVector<ShortcutCommand> &fixed, QWidget *window)
+Shortcuts::Shortcuts(QMenuBar &menus, const QVector<ShortcutCommand> &fixed, QWidget *window)
     : QObject(window)
 {
+    menus.installEventFilter(this);
+    for (QMenu *menu : window->findChildren<QMenu *>())
+        menu->installEventFilter(this);
     for (QDockWidget *dock : window->findChildren<QDockWidget *>())
         dock->toggleViewAction()->setObjectName(QStringLiteral("actionShow_") + dock->objectName());
     for (QToolBar *bar : window->findChildren<QToolBar *>())
@@ -179,6 +183,17 @@ Shortcuts::Shortcuts(const QMenuBar &menus, const QVector<ShortcutCommand> &fixe
         m_keys.append(command.defaults);
     read();
     apply();
+}
+
+bool Shortcuts::eventFilter(QObject *watched, QEvent *event)
+{
+    // In a menu a letter leads to an item. Keys of views would come first: their actions stand in menus, too.
+    if (event->type() == QEvent::ShortcutOverride &&
+        !(static_cast<QKeyEvent *>(event)->modifiers() & ~Qt::ShiftModifier)) {
+        event->accept();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void Shortcuts::addMenu(const QList<QAction *> &actions, const QString &path)

@@ -46,7 +46,7 @@ class Shortcuts : public QObject
 
 public:
     /// Collects the actions that there are now. `fixed` are keys of widgets that have no action.
-    Shortcuts(const QMenuBar &menus, const QVector<ShortcutCommand> &fixed, QWidget *window);
+    Shortcuts(QMenuBar &menus, const QVector<ShortcutCommand> &fixed, QWidget *window);
 
     const QVector<ShortcutCommand> &commands() const { return m_commands; }
     /// By command.
@@ -57,6 +57,9 @@ public:
     /// The commands that would get in each other's way with `command`, as they have keys that
     /// collide, in a place where both can be reached.
     QVector<int> rivals(int command, const QVector<Keys> &keys) const;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void addMenu(const QList<QAction *> &actions, const QString &path);

@@ -20,6 +20,7 @@
 #include "ImportExport.h"
 #include "ModelTransforms.h"
 #include "NamedFiles.h"
+#include "PaneKeys.h"
 #include "PictureSaver.h"
 #include "Playback.h"
 #include "Preferences.h"
@@ -77,6 +78,8 @@ MainWindow::MainWindow(QWidget *parent)
     new StructureActions({m_skinnedMesh, m_ui->treeSkinnedMesh}, {m_anim, m_ui->treeAnim},
                          {m_staticMesh, m_ui->treeStaticMesh}, this);
     new QuestionMenu(this);
+    m_paneKeys = new PaneKeys(*m_ui, this);
+    m_ui->menuView->insertMenu(m_ui->actionFullScreen, m_paneKeys);
     // All actions are there by now.
     m_shortcuts = new Shortcuts(*m_ui->menuBar, flightCommands({m_ui->viewSkinned, m_ui->viewStatic}), this);
     m_preferences = new Preferences(*m_shortcuts, this);
@@ -222,6 +225,11 @@ void MainWindow::connectActions()
     connect(m_preferences, &Preferences::accepted, m_explorerFiles, &ExplorerFiles::OnOptionsAccepted);
     connect(m_panes, &DocumentPanes::currentChanged, m_layout,
             [this] { m_layout->setModelShown(m_panes->current()); });
+}
+
+bool MainWindow::focusNextPrevChild(bool next)
+{
+    return m_paneKeys && m_paneKeys->focusNext(next);
 }
 
 void MainWindow::paintEvent(QPaintEvent *event)

@@ -17,6 +17,7 @@ class ExplorerFiles;
 class ImportExport;
 class ModelTransforms;
 class NamedFiles;
+class PaneKeys;
 class PictureSaver;
 class Preferences;
 class Problems;
@@ -45,6 +46,7 @@ public:
     void openAtStart(const QStringList &paths);
 
 protected:
+    bool focusNextPrevChild(bool next) override;
     void paintEvent(QPaintEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
@@ -83,6 +85,7 @@ private:
     Shortcuts *m_shortcuts = nullptr;
     Preferences *m_preferences = nullptr;
     NamedFiles *m_named = nullptr;
+    PaneKeys *m_paneKeys = nullptr;
     WindowLayout *m_layout = nullptr;
     Session *m_session = nullptr;
     bool m_painted = false;

@@ -22,6 +22,9 @@ void addUndoActions(const QUndoGroup &group, QMenu &menu, QToolBar &toolBar)
     redo->setIcon(fileIcon(QStringLiteral(":Images/Icons/redo.png")));
     redo->setShortcuts(
         {QKeySequence(QStringLiteral("Ctrl+Shift+Z")), QKeySequence(QStringLiteral("Ctrl+Y"))});
+    // While a dialog that blocks nothing is in front, too.
+    for (QAction *action : {undo, redo})
+        action->setShortcutContext(Qt::ApplicationShortcut);
     menu.insertActions(menu.actions().value(0), {undo, redo});
     toolBar.addActions({undo, redo});
 }

@@ -115,6 +115,7 @@ void PageStack::addPage(PropertyPage *page)
 {
     arrangeForms(*page);
     auto *scroll = new QScrollArea(m_pages);
+    scroll->setFocusPolicy(Qt::NoFocus); // its editors have the keys
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidgetResizable(true);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);

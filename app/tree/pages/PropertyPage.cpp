@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "PropertyPage.h"
 
+#include "TypingUndo.h"
+
 #include <QEvent>
-#include <QKeyEvent>
-#include <QKeySequence>
 
 #include <limits>
 
@@ -77,16 +77,9 @@ void PropertyPage::setUpMaterialEditor(TextField *editor)
 bool PropertyPage::eventFilter(QObject *watched, QEvent *event)
 {
     // A text field without typing of its own to take back leaves Ctrl+Z to the document.
-    if (event->type() == QEvent::ShortcutOverride) {
-        const auto *line = qobject_cast<QLineEdit *>(watched);
-        if (!line && watched->inherits("QAbstractSpinBox"))
-            line = watched->findChild<QLineEdit *>();
-        const auto *key = static_cast<QKeyEvent *>(event);
-        if (line && ((key->matches(QKeySequence::Undo) && !line->isUndoAvailable()) ||
-                     (key->matches(QKeySequence::Redo) && !line->isRedoAvailable()))) {
-            event->ignore();
-            return true;
-        }
+    if (isUndoOfDocument(watched, event)) {
+        event->ignore();
+        return true;
     }
     return QWidget::eventFilter(watched, event);
 }

@@ -60,11 +60,6 @@ Companions::Companions(const MaterialFolders &folders, QStringList listed, std::
     }
 }
 
-bool Companions::haveOneName(const QString &file, const QString &other)
-{
-    return isSame(QFileInfo(file).completeBaseName(), QFileInfo(other).completeBaseName());
-}
-
 const QVector<Companions::Candidate> &Companions::filesBelow(const QString &folder)
 {
     const auto known = m_files.constFind(folder);

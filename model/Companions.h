@@ -36,8 +36,6 @@ public:
 
     /// Looks through the folders, each once for all calls.
     CompanionFile find(const QString &file);
-    /// Whether `file` may be the companion of `other` by its names, wherever the two are.
-    static bool haveOneName(const QString &file, const QString &other);
 
     /// A file by what is compared: its folder's name, complete base name, suffix.
     struct Candidate

@@ -123,14 +123,14 @@ void AnimationFollower::offer(const CompanionFile &found)
 {
     const Document *mesh = m_files.document(DocumentType::SkinnedMesh);
     const Document *anim = m_files.document(DocumentType::Anim);
-    // Who has switched the following off may want to see one animation on several meshes.
-    if (!m_sync.isChecked() && anim->isOpen() &&
-        anim->recordCount(RecordKind::AnimBone, {0}) == mesh->recordCount(RecordKind::Bone, {}))
-        return;
-
     QStringList offers = found.others;
     if (!found.path.isEmpty())
         offers.prepend(found.path);
+    // Who has switched the following off may want to see one animation on several meshes.
+    const bool fits = anim->isOpen() &&
+                      anim->recordCount(RecordKind::AnimBone, {0}) == mesh->recordCount(RecordKind::Bone, {});
+    if (offers.contains(anim->path()) || (fits && !m_sync.isChecked()))
+        return;
     m_onlyOffer = offers.size() == 1 ? offers.first() : QString();
     m_offers->clear();
     for (const QString &path : qAsConst(offers)) {

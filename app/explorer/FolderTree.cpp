@@ -91,7 +91,7 @@ void FolderTree::take(FolderContents contents, bool isSameFolder)
     const int scrolled = verticalScrollBar()->value();
     const QString currentPath = current() ? current()->path() : QString();
     const QString selectedPath = m_wantedPath.isEmpty() ? selectedFile() : m_wantedPath;
-    const QSet<QString> open = openBranches();
+    const QSet<QString> branches = openBranches();
     m_isFolderThere = contents.isFolder;
     clear();
     addTopLevelItems(std::exchange(contents.items, {}));
@@ -100,7 +100,7 @@ void FolderTree::take(FolderContents contents, bool isSameFolder)
     if (isFiltered() || (!isSameFolder && hasFewerRowsThan(this, OpenWholeLimit)))
         expandAll();
     else
-        openOnly(open);
+        open(branches);
     markLoaded(true);
     if (isSameFolder)
         setCurrentItem(findRow(currentPath), 0, QItemSelectionModel::NoUpdate);
@@ -120,10 +120,12 @@ void FolderTree::setFilter(const QString &words)
         m_openBefore = openBranches();
     m_words = wanted;
     updateShown();
-    if (isFiltered())
+    if (isFiltered()) {
         expandAll();
-    else
-        openOnly(m_openBefore);
+    } else {
+        collapseAll();
+        open(m_openBefore);
+    }
     if (currentItem())
         scrollToItem(currentItem());
 }
@@ -197,10 +199,14 @@ QSet<QString> FolderTree::openBranches() const
     return open;
 }
 
-void FolderTree::openOnly(const QSet<QString> &branches)
+void FolderTree::open(const QSet<QString> &branches)
 {
-    forEachFolder(invisibleRootItem(),
-                  [&branches](FolderItem *item) { item->setExpanded(branches.contains(item->path())); });
+    if (branches.isEmpty())
+        return;
+    forEachFolder(invisibleRootItem(), [&branches](FolderItem *item) {
+        if (branches.contains(item->path()))
+            item->setExpanded(true);
+    });
 }
 
 bool FolderTree::selectFile(const QString &path)

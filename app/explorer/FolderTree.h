@@ -64,7 +64,7 @@ private:
     FolderItem *findRow(const QString &path) const;
     void markLoaded(bool on);
     QSet<QString> openBranches() const;
-    void openOnly(const QSet<QString> &branches);
+    void open(const QSet<QString> &branches);
     void updateShown();
     bool updateShown(const QTreeWidgetItem &parent, const QModelIndex &index);
     bool matches(const FolderItem &file) const;

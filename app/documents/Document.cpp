@@ -65,20 +65,20 @@ void Document::keepModel()
     const FileStamp now = FileStamp::of(m_path);
     if (now.exists()) {
         m_fileStamp = now;
-        m_cleanIndex = -1;
+        m_wasClean = false;
     }
     m_undoStack.resetClean();
 }
 
 void Document::fileWent()
 {
-    m_cleanIndex = m_undoStack.cleanIndex();
+    m_wasClean = m_undoStack.isClean();
     m_undoStack.resetClean();
 }
 
 void Document::fileReturned()
 {
-    if (std::exchange(m_cleanIndex, -1) == m_undoStack.index())
+    if (std::exchange(m_wasClean, false))
         m_undoStack.setClean();
 }
 
@@ -87,7 +87,7 @@ void Document::replace(const QString &path, const QString &unsavedName, const Fi
     emit aboutToBeReplaced();
     // Commands name records of the model that goes: they go with it.
     m_undoStack.clear();
-    m_cleanIndex = -1;
+    m_wasClean = false;
     m_undoStack.setClean(); // an empty stack can be unclean
     adoptModel();
     m_path = path;
@@ -105,7 +105,7 @@ bool Document::save(const QString &path, QString *reason)
     m_path = path;
     m_fileStamp = FileStamp::of(path);
     m_changedDirectly = false;
-    m_cleanIndex = -1;
+    m_wasClean = false;
     m_undoStack.setClean();
     emit saved();
     return false;
@@ -130,6 +130,7 @@ void Document::changedDirectly(const StructureChange &change)
 
 void Document::flushChanges()
 {
+    m_wasClean = false;
     const auto structures = std::exchange(m_structureChanges, {});
     const auto records = std::exchange(m_changes, {});
     if (!structures.isEmpty())

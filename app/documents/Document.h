@@ -57,7 +57,8 @@ public:
     /// Goes on with the model although its file is not the one any more that it was read from: it counts as
     /// modified.
     void keepModel();
-    /// The same while the file is away; fileReturned() takes it back when the file is there as it was.
+    /// The same while the file is away; fileReturned() takes it back when the file is there as it was, unless
+    /// something was changed meanwhile.
     void fileWent();
     void fileReturned();
 
@@ -99,7 +100,7 @@ private:
     bool m_open = false;
     bool m_changedDirectly = false;
     FileStamp m_fileStamp;
-    int m_cleanIndex = -1; ///< of the stack when the file went; -1 for none
+    bool m_wasClean = false; ///< when the file went, and still was since
     QString m_path;
     QString m_unsavedName;
     QUndoStack m_undoStack;

@@ -68,10 +68,10 @@ MainWindow::MainWindow(QWidget *parent)
     }
     createConsole();
     createDocuments();
+    createDocks();
     m_title =
         new DocumentTitle({&m_skinnedMesh, &m_anim, &m_staticMesh}, *m_ui->tabWidget, *m_ui->tabTrees, this);
     m_ui->statusBar->insertPermanentWidget(0, m_title);
-    createDocks();
     new ViewMenu(*m_ui, *m_panes, m_pictures->action(), this);
     readSettings();
     addUndoActions(m_undoGroup, *m_ui->menuEdit, *m_ui->toolBarEdit);

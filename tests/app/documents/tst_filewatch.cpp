@@ -98,6 +98,16 @@ private slots:
             QVERIFY(QFile::rename(away, path()));
             QTRY_VERIFY(m_bar->isHidden() && !m_run->mesh.isModified());
         }
+        // What was changed meanwhile is in no file, also at the same place of the history.
+        m_run->edit(7);
+        QVERIFY(!m_run->mesh.save(path()));
+        QVERIFY(QFile::rename(path(), away));
+        QTRY_VERIFY(m_bar->isVisible());
+        m_run->mesh.undoStack()->undo();
+        m_run->edit(8);
+        QVERIFY(QFile::rename(away, path()));
+        QTRY_VERIFY(m_bar->isHidden());
+        QVERIFY(m_run->mesh.isModified());
     }
 
     void savingOverAnotherProgramsChangeAsks()

@@ -38,6 +38,7 @@ void loadDatabase(const ReferenceTable &rows, QTableWidget *table)
 std::vector<int> shownOrder(const QTableWidget *table)
 {
     std::vector<int> order;
+    order.reserve(size_t(table->rowCount()));
     for (int row = 0; row < table->rowCount(); ++row)
         order.push_back(table->item(row, 0)->data(DBWidgetItem::RowRole).toInt());
     return order;

@@ -178,6 +178,7 @@ void ImportDialog::on_btnkmatPathBrowse_clicked()
     QFileDialog dialog(this, tr("Save .kmat"), m_choices.modFolder, tr("Material (*.kmat)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("kmat"));
+    dialog.setOption(QFileDialog::DontConfirmOverwrite); // the import asks, with what it would keep
     const QFileInfo current(m_choices.modFolder + QLatin1Char('/') + m_choices.kmatPath);
     if (current.dir().exists())
         dialog.setDirectory(current.path());

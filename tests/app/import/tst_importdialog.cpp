@@ -137,6 +137,8 @@ private slots:
         });
         click(dialog, "btnTextureDirBrowse");
         QCOMPARE(find<QLineEdit>(dialog, "txtTexPath")->text(), QStringLiteral("textures"));
+        // That there is such a file is asked about when it would be replaced.
+        m_mod->put(QStringLiteral("materials/new.kmat"), "");
         Hand hand({Hand::file(m_mod->path(QStringLiteral("materials/new")))});
         find<QLineEdit>(dialog, "txtKMatPath")->setText(QString());
         click(dialog, "btnkmatPathBrowse");

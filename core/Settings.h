@@ -160,4 +160,5 @@ inline const SettingKey<QPoint> MainWindowPos{"MainWindowPos", {}};
 inline const SettingKey<bool> MainWindowMaximized{"MainWindowMaximized", false};
 inline const SettingKey<QByteArray> MainWindowState{"MainWindowState", {}};
 inline const SettingKey<QVariantMap> MainWindowSplitters{"MainWindowSplitters", {}};
+inline const SettingKey<QByteArray> MainWindowChecksum{"MainWindowChecksum", {}}; // of these two
 } // namespace Settings

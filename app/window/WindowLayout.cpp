@@ -4,11 +4,24 @@
 
 #include "Settings.h"
 
+#include <QCryptographicHash>
+#include <QDataStream>
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QSplitter>
 
 #include <utility>
+
+namespace {
+/// Tells what was stored here from what somebody or something else made of it.
+QByteArray checksumOf(const QByteArray &state, const QVariantMap &splitters)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream << state << splitters;
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex();
+}
+} // namespace
 
 WindowLayout::WindowLayout(QMainWindow *window)
     : QObject(window)
@@ -58,18 +71,24 @@ void WindowLayout::store()
         if (!splitter->objectName().isEmpty())
             splitters.insert(splitter->objectName(), splitter->saveState());
     }
+    const QByteArray state = m_window->saveState();
     Settings::MainWindowSplitters.setValue(splitters);
-    Settings::MainWindowState.setValue(m_window->saveState());
+    Settings::MainWindowState.setValue(state);
+    Settings::MainWindowChecksum.setValue(checksumOf(state, splitters));
 }
 
 void WindowLayout::restore()
 {
     const QVariantMap splitters = Settings::MainWindowSplitters.value();
+    const QByteArray state = Settings::MainWindowState.value();
+    // The toolkit trusts the numbers in it with its memory.
+    if (Settings::MainWindowChecksum.value() != checksumOf(state, splitters))
+        return;
     for (QSplitter *splitter : m_window->findChildren<QSplitter *>()) {
         if (splitters.contains(splitter->objectName()))
             splitter->restoreState(splitters.value(splitter->objectName()).toByteArray());
     }
-    m_window->restoreState(Settings::MainWindowState.value());
+    m_window->restoreState(state);
 }
 
 void WindowLayout::on_actionResetLayout_triggered()

@@ -21,7 +21,7 @@ public:
 
     /// Stores their places.
     void store();
-    /// Puts them where they were; what was never stored stays as it is.
+    /// Puts them where they were; what was never stored, or was damaged since, stays as it is.
     void restore();
 
     /// Takes the docks out of sight where no model is shown, and brings the same ones back. What is opened on

@@ -418,6 +418,16 @@ private slots:
             stored = sizes(window);
             window.close();
         }
+        {
+            // What is not as it was stored is left alone, good as it may look.
+            const QVariantMap good = Settings::MainWindowSplitters.value();
+            QVariantMap damaged = good;
+            damaged.insert("splitterSkinned", damaged.value("splitterStatic"));
+            Settings::MainWindowSplitters.setValue(damaged);
+            const MainWindow window;
+            QVERIFY(find<QDockWidget>(window, "dockServers")->isHidden());
+            Settings::MainWindowSplitters.setValue(good);
+        }
         ShownWindow window;
         QCOMPARE(sizes(window), stored);
         auto *console = find<QDockWidget>(window, "dockConsole");

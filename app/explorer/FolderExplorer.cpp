@@ -93,7 +93,7 @@ FolderExplorer::FolderExplorer(const DocumentKind &kind, QWidget *parent)
 void FolderExplorer::createActions()
 {
     m_menu = new FolderMenu(*m_tree, *this, m_names);
-    m_changeFolder = addFolderAction(*this, m_names, "ChangeFolder", "changefolder", tr("&Change Folder..."),
+    m_changeFolder = addFolderAction(*this, m_names, "ChangeFolder", "changefolder", tr("&Change Folder…"),
                                      tr("Choose the folder to list"));
     m_refresh =
         addFolderAction(*this, m_names, "Refresh", "refresh", tr("&Refresh"), tr("Read the folder again"));
@@ -133,6 +133,7 @@ void FolderExplorer::createEmptyPage()
     m_emptyLabel->setObjectName(m_names.of("lbl%1FolderEmpty"));
     m_emptyLabel->setAlignment(Qt::AlignCenter);
     m_emptyLabel->setWordWrap(true);
+    m_emptyLabel->setMinimumWidth(1); // however long a folder's name is
     m_emptyLabel->setTextFormat(Qt::PlainText);
 
     m_emptyPage->setFrameStyle(m_tree->frameStyle());
@@ -329,7 +330,8 @@ QString FolderExplorer::emptyText() const
 
 void FolderExplorer::showPage(const QString &emptyText)
 {
-    m_emptyLabel->setText(emptyText);
+    m_emptyLabel->setText(
+        QString(emptyText).replace(QDir::separator(), QString(QDir::separator()) + QChar(0x200b)));
     m_pages->setCurrentWidget(emptyText.isEmpty() ? static_cast<QWidget *>(m_tree) : m_emptyPage);
     // Never to what cannot be seen: Tab would not get past it.
     setFocusProxy(emptyText.isEmpty() ? static_cast<QWidget *>(m_tree)

@@ -74,6 +74,9 @@ AnimTrackFrame::AnimTrackFrame(QWidget *parent)
     connect(m_ui->sbAnimTrackSpeed, &FloatSpinBox::valueEdited, this,
             [](float factor) { playback().speedFactor = factor; });
     playback().speedFactor = m_ui->sbAnimTrackSpeed->value();
+    for (const QToolButton *button : {m_ui->btnAnimTrackPlay, m_ui->btnAnimTrackStop, m_ui->btnAnimTrackPose})
+        button->defaultAction()->setCheckable(true);
+    connect(this, &AnimTrackFrame::playbackChanged, this, &AnimTrackFrame::showState);
 }
 
 AnimTrackFrame::~AnimTrackFrame() = default;
@@ -181,6 +184,15 @@ void AnimTrackFrame::showFrame(int frame)
 {
     const QSignalBlocker blocker(m_ui->sliderAnimTrack);
     m_ui->sliderAnimTrack->setValue(frame);
+}
+
+void AnimTrackFrame::showState()
+{
+    const PlayState state = playback().playState;
+    const bool isOpen = playback().anim != nullptr;
+    m_ui->btnAnimTrackPlay->defaultAction()->setChecked(isOpen && state == PlayState::Playing);
+    m_ui->btnAnimTrackStop->defaultAction()->setChecked(isOpen && state == PlayState::Paused);
+    m_ui->btnAnimTrackPose->defaultAction()->setChecked(isOpen && state == PlayState::InitialPose);
 }
 
 void AnimTrackFrame::showLabel(const QString &text)

@@ -63,6 +63,7 @@ private slots:
 private:
     void addTrackAction(QAction *action, const QString &name, int key);
     void playOrPause();
+    void showState();
     void goTo(int frame);
     void step(int direction);
     void stepToMark(int direction);

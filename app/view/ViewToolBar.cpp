@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLayout>
 #include <QMenu>
+#include <QPainter>
 #include <QPushButton>
 #include <QSlider>
 #include <QToolButton>
@@ -23,6 +24,22 @@ constexpr int MinMoveSpeed = 15;
 constexpr int MaxMoveSpeed = 1000;
 constexpr int MaxBrightness = 4;
 constexpr int Gap = 4; ///< between the controls, in pixels
+
+/// A button that is its color, which a style would shade.
+class ColorButton : public QPushButton
+{
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        const QRect inner = rect().adjusted(1, 3, -2, -4);
+        painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Shadow));
+        painter.setBrush(palette().button());
+        painter.drawRect(inner);
+        if (hasFocus())
+            painter.drawRect(inner.adjusted(1, 1, -1, -1));
+    }
+};
 
 /// A slider with its label before it, both in a panel.
 QSlider *labelledSlider(const QString &text, int min, int max, QWidget *panel)
@@ -45,7 +62,7 @@ QSlider *labelledSlider(const QString &text, int min, int max, QWidget *panel)
 
 ViewToolBar::ViewToolBar(const QString &title, const ViewActions &actions, QWidget *parent)
     : QToolBar(title, parent)
-    , m_bgColor(new QPushButton)
+    , m_bgColor(new ColorButton)
     , m_surfSelect(new QComboBox)
 {
     // A click on a control leaves the keys with the viewport, so that one can fly on.

@@ -11,7 +11,9 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPainter>
 #include <QPointer>
+#include <QStyledItemDelegate>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -20,6 +22,37 @@
 
 namespace {
 const QString Arrow = QStringLiteral(" ▸ ");
+constexpr int KeysRole = Qt::UserRole + 1;
+constexpr int IconSide = 16;
+constexpr int Gap = 8; ///< around the keys
+
+/// A row with the command's keys at its right end.
+class CommandDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        const QString keys = index.data(KeysRole).toString();
+        QStyleOptionViewItem row(option);
+        initStyleOption(&row, index);
+        const int width = keys.isEmpty() ? 0 : row.fontMetrics.horizontalAdvance(keys) + 2 * Gap;
+        // Long names end before the keys.
+        row.text = row.fontMetrics.elidedText(row.text, Qt::ElideRight,
+                                              row.rect.width() - width - IconSide - 2 * Gap);
+        row.widget->style()->drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
+        const bool isSelected = row.state & QStyle::State_Selected;
+        const auto group = row.state & QStyle::State_Enabled ? QPalette::Active : QPalette::Disabled;
+        painter->setPen(
+            row.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::PlaceholderText));
+        painter->drawText(row.rect.adjusted(0, 0, -Gap, 0), int(Qt::AlignRight | Qt::AlignVCenter), keys);
+    }
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const override
+    {
+        return {1, std::max(IconSide, option.fontMetrics.height()) + 4};
+    }
+};
 } // namespace
 
 CommandPalette::CommandPalette(const QMenuBar &menus, const QList<QAction *> &treeActions, QWidget *parent)
@@ -38,6 +71,8 @@ CommandPalette::CommandPalette(const QMenuBar &menus, const QList<QAction *> &tr
     m_list->setObjectName(QStringLiteral("listCommands"));
     m_list->setAccessibleName(tr("Commands"));
     m_list->setUniformItemSizes(true);
+    m_list->setIconSize({IconSide, IconSide});
+    m_list->setItemDelegate(new CommandDelegate(m_list));
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_line);
     layout->addWidget(m_list);
@@ -145,9 +180,9 @@ void CommandPalette::fill()
     for (const Row &row : qAsConst(rows)) {
         const QAction *action = row.command->action;
         const QString keys = action->shortcut().toString(QKeySequence::NativeText);
-        auto *item = new QListWidgetItem(action->icon(), keys.isEmpty()
-                                                             ? row.command->name
-                                                             : tr("%1    (%2)").arg(row.command->name, keys));
+        auto *item = new QListWidgetItem(action->icon(), row.command->name);
+        item->setData(KeysRole, keys);
+        item->setData(Qt::AccessibleDescriptionRole, keys);
         item->setData(Qt::UserRole, int(row.command - m_commands.constData()));
         item->setToolTip(action->statusTip());
         if (!action->isEnabled())

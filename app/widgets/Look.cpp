@@ -7,9 +7,12 @@
 
 #include <QApplication>
 #include <QCoreApplication>
+#include <QProxyStyle>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 #include <QToolTip>
+#include <QWidget>
 
 namespace {
 struct LookRow
@@ -51,10 +54,40 @@ const Desktop &desktop()
     return found;
 }
 
+/// Draws the icon of the menu item under the mouse in the colour of its text.
+class MenuIconStyle : public QProxyStyle
+{
+public:
+    explicit MenuIconStyle(const QString &name)
+        : QProxyStyle(QStyleFactory::create(name))
+    {
+        setObjectName(name);
+    }
+
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override
+    {
+        const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
+        if (element != CE_MenuItem || !item || item->icon.isNull() || !(item->state & State_Selected) ||
+            !(item->state & State_Enabled)) {
+            QProxyStyle::drawControl(element, option, painter, widget);
+            return;
+        }
+        QStyleOptionMenuItem chosen(*item);
+        const int side = pixelMetric(PM_SmallIconSize, option, widget);
+        const QPixmap icon = item->icon.pixmap(widget ? widget->window()->windowHandle() : nullptr,
+                                               QSize(side, side), QIcon::Selected);
+        chosen.icon = QIcon(icon);
+        chosen.icon.addPixmap(icon, QIcon::Active);
+        QProxyStyle::drawControl(element, &chosen, painter, widget);
+    }
+};
+
 void useStyle(const QString &name)
 {
-    if (QApplication::style()->objectName().compare(name, Qt::CaseInsensitive) != 0)
-        QApplication::setStyle(QStyleFactory::create(name));
+    if (QApplication::style()->objectName().compare(name, Qt::CaseInsensitive) != 0 ||
+        !dynamic_cast<const MenuIconStyle *>(QApplication::style()))
+        QApplication::setStyle(new MenuIconStyle(name));
 }
 
 void show(bool dark)

@@ -27,6 +27,7 @@ NoticeBar::NoticeBar(const QIcon &icon, const QString &objectName, QWidget *pare
     m_text->setObjectName(QStringLiteral("lblNotice"));
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
+    m_text->setMinimumWidth(1); // however long a word is
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_row->setContentsMargins(8, 4, 6, 4);
     m_row->addWidget(picture);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "UpdatePrompt.h"
 
+#include "Settings.h"
 #include "WebLink.h"
 
 #include <QAction>
@@ -32,6 +33,10 @@ UpdatePrompt::UpdatePrompt(QAction *action, QMainWindow *window)
 
 void UpdatePrompt::on_actionCheckForUpdates_triggered()
 {
+    if (Settings::UpdateUrl.value().trimmed().isEmpty()) {
+        QMessageBox::information(owner(), tr("Updates"), tr("No address is set that tells of new versions."));
+        return;
+    }
     m_window->statusBar()->showMessage(tr("Checking for updates…"));
     m_check.DoUpdateCheck(true);
 }

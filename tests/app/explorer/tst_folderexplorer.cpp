@@ -77,7 +77,8 @@ private slots:
             settle(*explorer);
             QCOMPARE(explorer->tree()->topLevelItemCount(), 0);
             QVERIFY(label->isVisible());
-            QVERIFY(folder.isEmpty() || label->text().contains(QDir::toNativeSeparators(folder)));
+            QVERIFY(folder.isEmpty() ||
+                    label->text().remove(QChar(0x200b)).contains(QDir::toNativeSeparators(folder)));
         }
 
         touch("sub/one.skinnedmesh");

@@ -32,6 +32,7 @@ private slots:
         const auto bar = createBar();
         auto *color = bar->findChild<QPushButton *>("btnBGColor");
         QCOMPARE(color->styleSheet(), QStringLiteral("background-color: #010203"));
+        QCOMPARE(color->grab().toImage().pixelColor(color->rect().center()), QColor(1, 2, 3));
         const QSignalSpy clicked(bar.get(), &ViewToolBar::backgroundColorClicked);
         color->click();
         QCOMPARE(clicked.count(), 1);

@@ -191,10 +191,14 @@ private slots:
         press(',');
         press('[');
         QCOMPARE(slider->value(), 2);
-        press(' ');
-        QCOMPARE(playback().playState, PlayState::Playing);
-        press(' ');
-        QCOMPARE(playback().playState, PlayState::Paused);
+        // What is on is seen.
+        for (const auto &[state, name] : {std::pair(PlayState::Playing, "btnAnimTrackPlay"),
+                                          std::pair(PlayState::Paused, "btnAnimTrackStop")}) {
+            QVERIFY(!find<QToolButton>(window, name)->isChecked());
+            press(' ');
+            QCOMPARE(playback().playState, state);
+            QVERIFY(find<QToolButton>(window, name)->isChecked());
+        }
 
         auto *speed = find<FloatSpinBox>(window, "sbAnimTrackSpeed");
         speed->selectAll();

@@ -58,6 +58,20 @@ class tst_Look : public QObject
     Q_OBJECT
 
 private slots:
+    void theIconUnderTheMouseIsReadable()
+    {
+        for (const Look look : {Look::Light, Look::Dark}) {
+            chooseLook(look);
+            QMenu menu;
+            QAction *save = menu.addAction(namedIcon(QStringLiteral("save")), QStringLiteral("Save"));
+            menu.popup({});
+            menu.setActiveAction(save);
+            const QRect item = menu.actionGeometry(save);
+            const QImage shown = menu.grab({item.topLeft(), QSize(item.height(), item.height())}).toImage();
+            QVERIFY(countPixels(shown, QApplication::palette().color(QPalette::HighlightedText)) > 9);
+        }
+    }
+
     void init()
     {
         TestSupport::useSettingsHome(m_home);

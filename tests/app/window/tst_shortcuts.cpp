@@ -75,7 +75,7 @@ private slots:
                              Hand::reject});
             find<QAction>(window, "actionPreferences")->trigger();
             QCOMPARE(about->shortcut(), QKeySequence(QStringLiteral("Ctrl+F9")));
-            QCOMPARE(about->toolTip(), QStringLiteral("Version and licences (Ctrl+F9)"));
+            QCOMPARE(about->toolTip(), QStringLiteral("Version and licenses (Ctrl+F9)"));
             QVERIFY(fullScreen->shortcut().isEmpty());
             QCOMPARE(fullScreen->toolTip(), QStringLiteral("Use the whole screen"));
             QCOMPARE(Settings::Shortcuts.value(), QStringList({"actionFullScreen=", "actionAbout=Ctrl+F9"}));
@@ -86,7 +86,7 @@ private slots:
             QCOMPARE(hand.seen.last(), QStringLiteral("About"));
         }
         const MainWindow window;
-        QCOMPARE(find<QAction>(window, "actionAbout")->toolTip(), QString("Version and licences (Ctrl+F9)"));
+        QCOMPARE(find<QAction>(window, "actionAbout")->toolTip(), QString("Version and licenses (Ctrl+F9)"));
         QVERIFY(find<QAction>(window, "actionFullScreen")->shortcut().isEmpty());
     }
 

@@ -71,6 +71,11 @@ private slots:
         check(releaseDocument("1", "https://a", QByteArray(50000, 'x')), Box::No,
               {offer("1", QString(2000, 'x'))});
         check(releaseDocument("0.9.2", "https://a"), Box::Ok, {"Updates|You are up to date!"});
+        Settings::UpdateUrl.setValue(QStringLiteral(" "));
+        Shown shown;
+        const Hand hand({Hand::press(Box::Ok)});
+        shown.action.trigger();
+        QCOMPARE(hand.seen, QStringList("Updates|No address is set that tells of new versions."));
     }
 
     void checksAtStart()

@@ -3,6 +3,7 @@
 #include "Hand.h"
 #include "Language.h"
 #include "Log.h"
+#include "NoticeBar.h"
 #include "ScreenScale.h"
 
 /// How the window uses the screen that it is shown on; runs on several.
@@ -20,11 +21,14 @@ private slots:
         // One and a half is not rounded to two.
         const bool fine = qAbs(screen->geometry().width() - 1280) < 5;
         QVERIFY(qAbs(screen->devicePixelRatio() - (fine ? 1.5 : 1.0)) < 0.01);
+        Settings::SkinnedMeshExplorePath.setValue(QStringLiteral("/no/") + QString(200, QLatin1Char('x')));
         for (const char *language : {"en", "de"}) {
             Language::install(QLatin1String(language));
             ShownWindow window(
                 {m_files->save("long names of files, which widen nothing.skinnedmesh", triangleMan()),
                  m_files->save("a.anim", twoBlocks())});
+            for (NoticeBar *bar : window.findChildren<NoticeBar *>())
+                bar->tell(QString(400, QLatin1Char('x')));
             QVERIFY(screen->availableSize().width() > window.frameGeometry().width());
             QVERIFY(screen->availableSize().height() > window.frameGeometry().height());
             QVERIFY2(window.minimumSizeHint().width() <= 960, language);

@@ -126,8 +126,9 @@ private:
         if (loop == None || loop < m_block.frameCount())
             return;
         m_found.add(Rule::LoopFrameBeyondEnd, place(RecordKind::AnimBlock), true, [&] {
-            const QString mend = m_block.frames.empty() ? Texts::tr("Fixing it enters 65535: no loop frame.")
-                                                        : Texts::tr("Fixing it enters the last frame.");
+            const QString mend = m_block.frames.empty()
+                                     ? Texts::tr("Fixing it enters 65535: it loops from frame 0.")
+                                     : Texts::tr("Fixing it enters the last frame.");
             return Texts::tr("Animation %1 loops to frame %2, which it does not have (%3), so it begins from "
                              "frame 0 again. %4")
                 .arg(number(m_index), number(loop), range(m_block.frames.size()), mend);

@@ -244,7 +244,8 @@ QString blockText(const QJsonObject &block)
         .arg(QString::number(block.value(QStringLiteral("id")).toInt()),
              name.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(name), countText(block, "frames"),
              numberText(block.value(QStringLiteral("duration"))),
-             loop.isNull() ? QStringLiteral("no loop") : QStringLiteral("loop to frame %1").arg(loop.toInt()),
+             loop.isNull() ? QStringLiteral("loops from frame 0")
+                           : QStringLiteral("loops from frame %1").arg(loop.toInt()),
              countText(block, "bones"), countText(block, "translationTracks"),
              countText(block, "rotationTracks"), countText(block, "actions"));
 }

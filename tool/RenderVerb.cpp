@@ -208,9 +208,8 @@ int render(const QStringList &arguments)
     line.option({QStringLiteral("size")}, QStringLiteral("WxH"),
                 QStringLiteral("Width and height in pixels, or the side of a square."),
                 QStringLiteral("512x512"));
-    line.option({QStringLiteral("background")}, QStringLiteral("colour"),
-                QStringLiteral("A colour's name, #RRGGBB or \"transparent\"."),
-                QStringLiteral("transparent"));
+    line.option({QStringLiteral("background")}, QStringLiteral("color"),
+                QStringLiteral("A color's name, #RRGGBB or \"transparent\"."), QStringLiteral("transparent"));
     line.option(
         {QStringLiteral("yaw")}, QStringLiteral("degrees"),
         QStringLiteral("Where the camera stands around the model: 0 before its front, 90 at its left side."),

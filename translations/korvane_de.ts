@@ -36,12 +36,12 @@
         <translation>ISC, einige Symbole MIT</translation>
     </message>
     <message>
-        <source>Licences of what is built in</source>
-        <translation>Lizenzen der enthaltenen Teile</translation>
-    </message>
-    <message>
         <source>Korvane v%1</source>
         <translation>Korvane v%1</translation>
+    </message>
+    <message>
+        <source>Licenses of what is built in</source>
+        <translation>Lizenzen der enthaltenen Teile</translation>
     </message>
 </context>
 <context>
@@ -436,7 +436,7 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
     <message>
         <source>The bone of the open mesh that this entry moves</source>
-        <translation>Der Knochen des geöffneten Netzes, den dieser Eintrag bewegt</translation>
+        <translation>Der Knochen des geöffneten Meshs, den dieser Eintrag bewegt</translation>
     </message>
     <message>
         <source>Track of the translation table that moves the bone; 65535 keeps it at its initial translation</source>
@@ -678,7 +678,7 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
     <message>
         <source>Force Loop beginning to end</source>
-        <translation>Die Schleife vom Ende zum Anfang erzwingen</translation>
+        <translation>Die Schleife vom Anfang bis zum Ende erzwingen</translation>
     </message>
     <message>
         <source>Previous action</source>
@@ -820,7 +820,7 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
     <message>
         <source>Animation files that may belong to the mesh</source>
-        <translation>Animationsdateien, die zum Netz gehören könnten</translation>
+        <translation>Animationsdateien, die zum Mesh gehören könnten</translation>
     </message>
     <message>
         <source>&apos;%1&apos; was opened without its animation.</source>
@@ -981,10 +981,6 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <message>
         <source>Tree</source>
         <translation>Baum</translation>
-    </message>
-    <message>
-        <source>%1    (%2)</source>
-        <translation>%1    (%2)</translation>
     </message>
 </context>
 <context>
@@ -1176,7 +1172,7 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
     <message>
         <source>Sounds</source>
-        <translation>Klänge</translation>
+        <translation>Sounds</translation>
     </message>
     <message>
         <source>Animations</source>
@@ -1368,23 +1364,23 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <name>DocumentKind</name>
     <message>
         <source>Skinned Mesh</source>
-        <translation>Skin-Netz</translation>
+        <translation>Skin-Mesh</translation>
     </message>
     <message>
         <source>Open Skinned Mesh</source>
-        <translation>Skin-Netz öffnen</translation>
+        <translation>Skin-Mesh öffnen</translation>
     </message>
     <message>
         <source>Save Skinned Mesh</source>
-        <translation>Skin-Netz speichern</translation>
+        <translation>Skin-Mesh speichern</translation>
     </message>
     <message>
         <source>Skinned Mesh (*.skinnedmesh)</source>
-        <translation>Skin-Netz (*.skinnedmesh)</translation>
+        <translation>Skin-Mesh (*.skinnedmesh)</translation>
     </message>
     <message>
         <source>Skinned Mesh Folder</source>
-        <translation>Ordner der Skin-Netze</translation>
+        <translation>Ordner der Skin-Meshes</translation>
     </message>
     <message>
         <source>Animation</source>
@@ -1408,23 +1404,23 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
     <message>
         <source>Static Mesh</source>
-        <translation>Statisches Netz</translation>
+        <translation>Statisches Mesh</translation>
     </message>
     <message>
         <source>Open Static Mesh</source>
-        <translation>Statisches Netz öffnen</translation>
+        <translation>Statisches Mesh öffnen</translation>
     </message>
     <message>
         <source>Save Static Mesh</source>
-        <translation>Statisches Netz speichern</translation>
+        <translation>Statisches Mesh speichern</translation>
     </message>
     <message>
         <source>Static Mesh (*.staticmesh)</source>
-        <translation>Statisches Netz (*.staticmesh)</translation>
+        <translation>Statisches Mesh (*.staticmesh)</translation>
     </message>
     <message>
         <source>Static Mesh Folder</source>
-        <translation>Ordner der statischen Netze</translation>
+        <translation>Ordner der statischen Meshes</translation>
     </message>
 </context>
 <context>
@@ -1457,7 +1453,7 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <name>EventArguments</name>
     <message>
         <source>Sound ID</source>
-        <translation>Klang-ID</translation>
+        <translation>Sound-ID</translation>
     </message>
     <message>
         <source>Particle ID</source>
@@ -1646,10 +1642,6 @@ Kopftreffer verursachen also 640 Schaden.</translation>
 <context>
     <name>FolderExplorer</name>
     <message>
-        <source>&amp;Change Folder...</source>
-        <translation>Ordner &amp;wechseln...</translation>
-    </message>
-    <message>
         <source>Choose the folder to list</source>
         <translation>Den Ordner wählen, der aufgelistet wird</translation>
     </message>
@@ -1694,6 +1686,10 @@ Kopftreffer verursachen also 640 Schaden.</translation>
 %1</source>
         <translation>Abgebrochen beim Lesen von
 %1</translation>
+    </message>
+    <message>
+        <source>&amp;Change Folder…</source>
+        <translation>Ordner &amp;wechseln…</translation>
     </message>
 </context>
 <context>
@@ -1835,7 +1831,7 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; and &apos;%2&apos; have one name: only one of them can be used</source>
-        <translation>„%1“ und „%2“ haben denselben Namen: nur eine davon kann verwendet werden</translation>
+        <translation>„%1“ und „%2“ haben denselben Namen: Nur eine davon kann verwendet werden</translation>
     </message>
     <message>
         <source>Model had no textures to copy
@@ -1857,7 +1853,7 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
     <message>
         <source>Material &apos;%1&apos;: the texture &apos;%2&apos; will not be found, for the blank in its path</source>
-        <translation>Material „%1“: die Textur „%2“ wird wegen des Leerzeichens in ihrem Pfad nicht gefunden</translation>
+        <translation>Material „%1“: Die Textur „%2“ wird wegen des Leerzeichens in ihrem Pfad nicht gefunden</translation>
     </message>
     <message>
         <source>Successfully created .kmat file
@@ -1873,11 +1869,11 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
     <message>
         <source>[Static Mesh Export] Mesh has no triangles</source>
-        <translation>[Export statisches Netz] Das Netz hat keine Dreiecke</translation>
+        <translation>[Export statisches Mesh] Das Mesh hat keine Dreiecke</translation>
     </message>
     <message>
         <source>[Static Mesh Export] %1 Could not write file. %2</source>
-        <translation>[Export statisches Netz] %1 Die Datei konnte nicht geschrieben werden. %2</translation>
+        <translation>[Export statisches Mesh] %1 Die Datei konnte nicht geschrieben werden. %2</translation>
     </message>
     <message>
         <source>%1 Animation %2 was cut to %3 frames</source>
@@ -1913,27 +1909,27 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
     <message>
         <source>%1 Material %2 could not get Diffuse texture path</source>
-        <translation>%1 Material %2: der Pfad der Diffuse-Textur war nicht zu ermitteln</translation>
+        <translation>%1 Material %2: Der Pfad der Diffuse-Textur war nicht zu ermitteln</translation>
     </message>
     <message>
         <source>%1 Mesh %2 does not contain any vertices</source>
-        <translation>%1 Netz %2 enthält keine Vertices</translation>
+        <translation>%1 Mesh %2 enthält keine Vertices</translation>
     </message>
     <message>
         <source>%1 Mesh %2 does not contain any normals</source>
-        <translation>%1 Netz %2 enthält keine Normalen</translation>
+        <translation>%1 Mesh %2 enthält keine Normalen</translation>
     </message>
     <message>
         <source>%1 Mesh %2 does not contain any UVs</source>
-        <translation>%1 Netz %2 enthält keine UVs</translation>
+        <translation>%1 Mesh %2 enthält keine UVs</translation>
     </message>
     <message>
         <source>%1 Mesh %2 does not contain any faces</source>
-        <translation>%1 Netz %2 enthält keine Polygone</translation>
+        <translation>%1 Mesh %2 enthält keine Polygone</translation>
     </message>
     <message>
         <source>%1 Mesh %2 contains more than 3 indices per face. A face must contain only 3 indices.</source>
-        <translation>%1 Netz %2 enthält mehr als 3 Indizes je Polygon. Ein Polygon darf nur 3 Indizes haben.</translation>
+        <translation>%1 Mesh %2 enthält mehr als 3 Indizes je Polygon. Ein Polygon darf nur 3 Indizes haben.</translation>
     </message>
     <message>
         <source>%1 Could not read file. %2</source>
@@ -1945,7 +1941,7 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
     <message>
         <source>%1 does not contain any meshes</source>
-        <translation>%1 enthält keine Netze</translation>
+        <translation>%1 enthält keine Meshes</translation>
     </message>
     <message>
         <source>%1 has %2 vertices. A model of this kind can hold no more than %3.</source>
@@ -1953,11 +1949,11 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
     <message>
         <source>%1 Mesh %2 refers to a material that is not there</source>
-        <translation>%1 Netz %2 verweist auf ein Material, das es nicht gibt</translation>
+        <translation>%1 Mesh %2 verweist auf ein Material, das es nicht gibt</translation>
     </message>
     <message>
         <source>%1 Mesh %2 refers to vertices that are not there</source>
-        <translation>%1 Netz %2 verweist auf Vertices, die es nicht gibt</translation>
+        <translation>%1 Mesh %2 verweist auf Vertices, die es nicht gibt</translation>
     </message>
     <message>
         <source>surface</source>
@@ -2005,15 +2001,15 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
     <message>
         <source>[Static Mesh Export] Texture not found &apos;%1&apos;</source>
-        <translation>[Export statisches Netz] Textur nicht gefunden „%1“</translation>
+        <translation>[Export statisches Mesh] Textur nicht gefunden „%1“</translation>
     </message>
     <message>
         <source>[Static Mesh Export] Mesh has no surfaces</source>
-        <translation>[Export statisches Netz] Das Netz hat keine Flächen</translation>
+        <translation>[Export statisches Mesh] Das Mesh hat keine Flächen</translation>
     </message>
     <message>
         <source>[Static Mesh Export] %1 Could not write file.</source>
-        <translation>[Export statisches Netz] %1 Die Datei konnte nicht geschrieben werden.</translation>
+        <translation>[Export statisches Mesh] %1 Die Datei konnte nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>The model could not be handed over.</source>
@@ -2025,7 +2021,7 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
     <message>
         <source>[Static Mesh Export] Not all textures could be copied.</source>
-        <translation>[Export statisches Netz] Nicht alle Texturen konnten kopiert werden.</translation>
+        <translation>[Export statisches Mesh] Nicht alle Texturen konnten kopiert werden.</translation>
     </message>
     <message>
         <source>%1 (and %2 more like this)</source>
@@ -2055,10 +2051,6 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <translation>Keine Datei gewählt</translation>
     </message>
     <message>
-        <source>Browse...</source>
-        <translation>Durchsuchen...</translation>
-    </message>
-    <message>
         <source>Choose the model file</source>
         <translation>Die Modelldatei wählen</translation>
     </message>
@@ -2080,7 +2072,7 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
     <message>
         <source>Turn the model about the x axis: by 90 degrees as a skinned mesh, by -90 as a static mesh</source>
-        <translation>Das Modell um die x-Achse drehen: um 90 Grad als Skin-Netz, um -90 als statisches Netz</translation>
+        <translation>Das Modell um die x-Achse drehen: um 90 Grad als Skin-Mesh, um -90 als statisches Mesh</translation>
     </message>
     <message>
         <source>Flip &amp;UV Y-Axis</source>
@@ -2239,11 +2231,11 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
     </message>
     <message>
         <source>Skinned Mesh</source>
-        <translation>Skin-Netz</translation>
+        <translation>Skin-Mesh</translation>
     </message>
     <message>
         <source>Static Mesh</source>
-        <translation>Statisches Netz</translation>
+        <translation>Statisches Mesh</translation>
     </message>
     <message>
         <source>Import Model to %1</source>
@@ -2315,6 +2307,10 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
         <source>A model cannot name &apos;%1&apos;: it holds characters outside of Latin-1.</source>
         <translation>Ein Modell kann „%1“ nicht nennen: Es enthält Zeichen außerhalb von Latin-1.</translation>
     </message>
+    <message>
+        <source>Browse…</source>
+        <translation>Durchsuchen…</translation>
+    </message>
 </context>
 <context>
     <name>ImportExport</name>
@@ -2324,7 +2320,7 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
     </message>
     <message>
         <source>[Static Mesh Export] Exported &apos;%1&apos;</source>
-        <translation>[Export statisches Netz] „%1“ exportiert</translation>
+        <translation>[Export statisches Mesh] „%1“ exportiert</translation>
     </message>
     <message>
         <source>Exported &apos;%1&apos;</source>
@@ -2401,7 +2397,7 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
     </message>
     <message>
         <source>The mesh has no vertex %1 (%2).</source>
-        <translation>Das Netz hat keinen Vertex %1 (%2).</translation>
+        <translation>Das Mesh hat keinen Vertex %1 (%2).</translation>
     </message>
     <message>
         <source>at %1</source>
@@ -2429,7 +2425,7 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
     </message>
     <message>
         <source>The mesh has no bone %1 (%2).</source>
-        <translation>Das Netz hat keinen Knochen %1 (%2).</translation>
+        <translation>Das Mesh hat keinen Knochen %1 (%2).</translation>
     </message>
     <message>
         <source>no parent</source>
@@ -2445,7 +2441,7 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
     </message>
     <message>
         <source>Open the mesh that the animation belongs to and the bone&apos;s name appears here.</source>
-        <translation>Öffnen Sie das Netz, zu dem die Animation gehört, dann erscheint hier der Name des Knochens.</translation>
+        <translation>Öffnen Sie das Mesh, zu dem die Animation gehört, dann erscheint hier der Name des Knochens.</translation>
     </message>
     <message>
         <source>no bone</source>
@@ -2496,7 +2492,7 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
     <message>
         <source>Models cannot be drawn: the graphics driver does not take the program&apos;s shaders.
 It must offer OpenGL 3.0 or later.</source>
-        <translation>Modelle können nicht gezeichnet werden: der Grafiktreiber nimmt die Shader des Programms nicht an.
+        <translation>Modelle können nicht gezeichnet werden: Der Grafiktreiber nimmt die Shader des Programms nicht an.
 Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
     <message>
@@ -2582,7 +2578,7 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
     <message>
         <source>Skinned Meshes &amp;&amp; Animations</source>
-        <translation>Skin-Netze &amp;&amp; Animationen</translation>
+        <translation>Skin-Meshes &amp;&amp; Animationen</translation>
     </message>
     <message>
         <source>Characters and their animations</source>
@@ -2590,7 +2586,7 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
     <message>
         <source>Skinned Mesh</source>
-        <translation>Skin-Netz</translation>
+        <translation>Skin-Mesh</translation>
     </message>
     <message>
         <source>Animation</source>
@@ -2598,7 +2594,7 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
     <message>
         <source>Static Meshes</source>
-        <translation>Statische Netze</translation>
+        <translation>Statische Meshes</translation>
     </message>
     <message>
         <source>Models without bones</source>
@@ -2694,11 +2690,11 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
     <message>
         <source>Save S&amp;kinned Mesh As…</source>
-        <translation>S&amp;kin-Netz speichern unter…</translation>
+        <translation>S&amp;kin-Mesh speichern unter…</translation>
     </message>
     <message>
         <source>Save the skinned mesh under another name</source>
-        <translation>Das Skin-Netz unter einem anderen Namen speichern</translation>
+        <translation>Das Skin-Mesh unter einem anderen Namen speichern</translation>
     </message>
     <message>
         <source>Save A&amp;nimation As…</source>
@@ -2718,11 +2714,7 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
     <message>
         <source>List the unsaved work that was kept</source>
-        <translation>Die aufgehobene, nicht gespeicherte Arbeit auflisten</translation>
-    </message>
-    <message>
-        <source>&amp;Import...</source>
-        <translation>&amp;Importieren...</translation>
+        <translation>Die gesicherte, nicht gespeicherte Arbeit auflisten</translation>
     </message>
     <message>
         <source>Import a model of another program to the current tab</source>
@@ -2734,7 +2726,7 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
     <message>
         <source>Export the static mesh as a Wavefront OBJ file</source>
-        <translation>Das statische Netz als Wavefront-OBJ-Datei exportieren</translation>
+        <translation>Das statische Mesh als Wavefront-OBJ-Datei exportieren</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
@@ -2850,11 +2842,11 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
     <message>
         <source>Sync View Folder to Skinned Mesh</source>
-        <translation>Ansichtsordner mit dem Skin-Netz abgleichen</translation>
+        <translation>Ansichtsordner mit dem Skin-Mesh abgleichen</translation>
     </message>
     <message>
         <source>Load the animation that belongs to a skinned mesh along with it</source>
-        <translation>Mit einem Skin-Netz die Animation laden, die zu ihm gehört</translation>
+        <translation>Mit einem Skin-Mesh die Animation laden, die zu ihm gehört</translation>
     </message>
     <message>
         <source>&amp;Keyboard and Mouse</source>
@@ -2885,16 +2877,12 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <translation>Über &amp;Korvane</translation>
     </message>
     <message>
-        <source>Version and licences</source>
-        <translation>Version und Lizenzen</translation>
-    </message>
-    <message>
         <source>View of the skinned mesh</source>
-        <translation>Ansicht des Skin-Netzes</translation>
+        <translation>Ansicht des Skin-Meshs</translation>
     </message>
     <message>
         <source>View of the static mesh</source>
-        <translation>Ansicht des statischen Netzes</translation>
+        <translation>Ansicht des statischen Meshs</translation>
     </message>
     <message>
         <source>Reco&amp;ver…</source>
@@ -2915,6 +2903,14 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>Save a file of the game folder at the same place of the mod folder</source>
         <translation>Eine Datei des Spielordners an derselben Stelle des Mod-Ordners speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>&amp;Importieren…</translation>
+    </message>
+    <message>
+        <source>Version and licenses</source>
+        <translation>Version und Lizenzen</translation>
     </message>
 </context>
 <context>
@@ -2964,7 +2960,7 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
     <message>
         <source>A skinned mesh without a bone is not saved.</source>
-        <translation>Ein Skin-Netz ohne Knochen wird nicht gespeichert.</translation>
+        <translation>Ein Skin-Mesh ohne Knochen wird nicht gespeichert.</translation>
     </message>
     <message>
         <source>Surface %1 has a triangle index of 65535, which would end it.</source>
@@ -2972,7 +2968,7 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
     <message>
         <source>A static mesh without a surface is not saved.</source>
-        <translation>Ein statisches Netz ohne Fläche wird nicht gespeichert.</translation>
+        <translation>Ein statisches Mesh ohne Fläche wird nicht gespeichert.</translation>
     </message>
 </context>
 <context>
@@ -3099,7 +3095,7 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
     <message>
         <source>00: Play Sound</source>
-        <translation>00: Klang abspielen</translation>
+        <translation>00: Sound abspielen</translation>
     </message>
     <message>
         <source>01: Spawn Particle</source>
@@ -3191,7 +3187,7 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
     <message>
         <source>23: Play Sound On Model</source>
-        <translation>23: Klang am Modell abspielen</translation>
+        <translation>23: Sound am Modell abspielen</translation>
     </message>
     <message>
         <source>24: Spawn Particle On Model</source>
@@ -3215,7 +3211,7 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
     <message>
         <source>29: Play Material Sound</source>
-        <translation>29: Materialklang abspielen</translation>
+        <translation>29: Materialsound abspielen</translation>
     </message>
     <message>
         <source>30: Play Voice</source>
@@ -3223,11 +3219,11 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
     <message>
         <source>31: Play Looping Sound</source>
-        <translation>31: Klangschleife abspielen</translation>
+        <translation>31: Soundschleife abspielen</translation>
     </message>
     <message>
         <source>32: Stop Looping Sound</source>
-        <translation>32: Klangschleife anhalten</translation>
+        <translation>32: Soundschleife anhalten</translation>
     </message>
     <message>
         <source>33: Nuke Explosion</source>
@@ -3289,10 +3285,6 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <translation>Kein Ordner gewählt</translation>
     </message>
     <message>
-        <source>&amp;Browse...</source>
-        <translation>&amp;Durchsuchen...</translation>
-    </message>
-    <message>
         <source>Choose the folder of the unzipped game.kpf</source>
         <translation>Den Ordner mit der entpackten game.kpf wählen</translation>
     </message>
@@ -3321,10 +3313,6 @@ textures, materials und anims enthalten.</translation>
         <translation>Was der Spielordner nicht enthält, wird in diesem Ordner gesucht, und Importe schreiben ihre Materialien und Texturen hierher.</translation>
     </message>
     <message>
-        <source>B&amp;rowse...</source>
-        <translation>Du&amp;rchsuchen...</translation>
-    </message>
-    <message>
         <source>Choose the root folder of your mod</source>
         <translation>Den Stammordner Ihrer Mod wählen</translation>
     </message>
@@ -3346,12 +3334,12 @@ textures, materials und anims enthalten.</translation>
     </message>
     <message>
         <source>Hide &amp;Mesh Data</source>
-        <translation>&amp;Netzdaten ausblenden</translation>
+        <translation>&amp;Mesh-Daten ausblenden</translation>
     </message>
     <message>
         <source>Don&apos;t add all mesh data to the tree view. Performance Increase.
 Recommended to leave on.</source>
-        <translation>Nicht alle Netzdaten in den Baum aufnehmen. Das ist schneller.
+        <translation>Nicht alle Mesh-Daten in den Baum aufnehmen. Das ist schneller.
 Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
     </message>
     <message>
@@ -3411,6 +3399,14 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
     <message>
         <source> s</source>
         <translation> s</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation>&amp;Durchsuchen…</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse…</source>
+        <translation>Du&amp;rchsuchen…</translation>
     </message>
 </context>
 <context>
@@ -3525,7 +3521,7 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
     </message>
     <message>
         <source>Go to the tree of the animation, or of the skinned mesh</source>
-        <translation>Zum Baum der Animation gehen oder zu dem des Skin-Netzes</translation>
+        <translation>Zum Baum der Animation gehen oder zu dem des Skin-Meshs</translation>
     </message>
     <message>
         <source>&amp;Jump To</source>
@@ -3648,15 +3644,15 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
     <name>ProblemsDock</name>
     <message>
         <source>List errors: the file cannot be saved or used as it stands</source>
-        <translation>Fehler auflisten: die Datei kann so nicht gespeichert oder verwendet werden</translation>
+        <translation>Fehler auflisten: Die Datei kann so nicht gespeichert oder verwendet werden</translation>
     </message>
     <message>
         <source>List warnings: a part of the model does not do what it says</source>
-        <translation>Warnungen auflisten: ein Teil des Modells tut nicht, was er angibt</translation>
+        <translation>Warnungen auflisten: Ein Teil des Modells tut nicht, was er angibt</translation>
     </message>
     <message>
         <source>List notes: nothing goes wrong</source>
-        <translation>Hinweise auflisten: nichts geht schief</translation>
+        <translation>Hinweise auflisten: Nichts geht schief</translation>
     </message>
     <message>
         <source>&amp;Show</source>
@@ -3800,11 +3796,11 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
     </message>
     <message>
         <source>What Sound is this?</source>
-        <translation>Welcher Klang ist das?</translation>
+        <translation>Welcher Sound ist das?</translation>
     </message>
     <message>
         <source>Sound</source>
-        <translation>Klang</translation>
+        <translation>Sound</translation>
     </message>
     <message>
         <source>What Voice is this?</source>
@@ -4012,11 +4008,11 @@ Hände und Füße (x0.25): %6</translation>
     </message>
     <message>
         <source>Unsaved work that Korvane has kept. Restoring opens it as a modified document; its file changes only when you save.</source>
-        <translation>Nicht gespeicherte Arbeit, die Korvane aufgehoben hat. Das Wiederherstellen öffnet sie als geändertes Dokument; seine Datei ändert sich erst, wenn Sie speichern.</translation>
+        <translation>Nicht gespeicherte Arbeit, die Korvane gesichert hat. Das Wiederherstellen öffnet sie als geändertes Dokument; seine Datei ändert sich erst, wenn Sie speichern.</translation>
     </message>
     <message>
         <source>Kept documents</source>
-        <translation>Aufgehobene Dokumente</translation>
+        <translation>Gesicherte Dokumente</translation>
     </message>
     <message>
         <source>Name</source>
@@ -4028,7 +4024,7 @@ Hände und Füße (x0.25): %6</translation>
     </message>
     <message>
         <source>Kept</source>
-        <translation>Aufgehoben</translation>
+        <translation>Gesichert</translation>
     </message>
     <message>
         <source>File</source>
@@ -4064,11 +4060,11 @@ Hände und Füße (x0.25): %6</translation>
     </message>
     <message>
         <source>Delete what was kept of &apos;%1&apos;?</source>
-        <translation>Löschen, was von „%1“ aufgehoben wurde?</translation>
+        <translation>Löschen, was von „%1“ gesichert wurde?</translation>
     </message>
     <message>
         <source>Delete what was kept of %1 documents?</source>
-        <translation>Löschen, was von %1 Dokumenten aufgehoben wurde?</translation>
+        <translation>Löschen, was von %1 Dokumenten gesichert wurde?</translation>
     </message>
     <message>
         <source>This cannot be undone.</source>
@@ -4079,11 +4075,11 @@ Hände und Füße (x0.25): %6</translation>
     <name>Recovery</name>
     <message>
         <source>[Recovery] Unsaved work cannot be kept: %1</source>
-        <translation>[Wiederherstellung] Nicht gespeicherte Arbeit kann nicht aufgehoben werden: %1</translation>
+        <translation>[Wiederherstellung] Nicht gespeicherte Arbeit kann nicht gesichert werden: %1</translation>
     </message>
     <message>
         <source>[Recovery] What was kept of &apos;%1&apos; is damaged</source>
-        <translation>[Wiederherstellung] Was von „%1“ aufgehoben wurde, ist beschädigt</translation>
+        <translation>[Wiederherstellung] Was von „%1“ gesichert wurde, ist beschädigt</translation>
     </message>
 </context>
 <context>
@@ -4094,7 +4090,7 @@ Hände und Füße (x0.25): %6</translation>
     </message>
     <message>
         <source>List all kept work, to restore or delete it</source>
-        <translation>Alle aufgehobene Arbeit auflisten, um sie wiederherzustellen oder zu löschen</translation>
+        <translation>Alle gesicherte Arbeit auflisten, um sie wiederherzustellen oder zu löschen</translation>
     </message>
     <message>
         <source>Show what was written down when Korvane ended</source>
@@ -4102,7 +4098,7 @@ Hände und Füße (x0.25): %6</translation>
     </message>
     <message>
         <source>Hide; File &gt; Recover… lists what is kept</source>
-        <translation>Ausblenden; Datei &gt; Wiederherstellen… listet auf, was aufgehoben ist</translation>
+        <translation>Ausblenden; Datei &gt; Wiederherstellen… listet auf, was gesichert ist</translation>
     </message>
     <message>
         <source>Korvane ended unexpectedly. A report was written here; nothing was sent.</source>
@@ -4110,11 +4106,11 @@ Hände und Füße (x0.25): %6</translation>
     </message>
     <message>
         <source>Korvane ended unexpectedly. It has kept unsaved work from %1: %2</source>
-        <translation>Korvane wurde unerwartet beendet. Es hat nicht gespeicherte Arbeit von %1 aufgehoben: %2</translation>
+        <translation>Korvane wurde unerwartet beendet. Es hat nicht gespeicherte Arbeit vom %1 gesichert: %2</translation>
     </message>
     <message>
         <source>Korvane has kept unsaved work from %1: %2</source>
-        <translation>Korvane hat nicht gespeicherte Arbeit von %1 aufgehoben: %2</translation>
+        <translation>Korvane hat nicht gespeicherte Arbeit vom %1 gesichert: %2</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
@@ -4138,11 +4134,11 @@ Hände und Füße (x0.25): %6</translation>
     </message>
     <message>
         <source>Delete all of this kept work; files are not touched</source>
-        <translation>All diese aufgehobene Arbeit löschen; Dateien bleiben unberührt</translation>
+        <translation>All diese gesicherte Arbeit löschen; Dateien bleiben unberührt</translation>
     </message>
     <message>
         <source>The newest was restored. Older unsaved work is kept, too: %1</source>
-        <translation>Das Neueste ist wiederhergestellt. Auch ältere nicht gespeicherte Arbeit ist aufgehoben: %1</translation>
+        <translation>Das Neueste ist wiederhergestellt. Auch ältere nicht gespeicherte Arbeit ist gesichert: %1</translation>
     </message>
 </context>
 <context>
@@ -4176,7 +4172,7 @@ Hände und Füße (x0.25): %6</translation>
 File &gt; Recover… keeps a copy of them.</source>
         <translation>„%1“ neu laden, ohne Ihre nicht gespeicherten Änderungen?
 
-Datei &gt; Wiederherstellen… hebt eine Kopie davon auf.</translation>
+Datei &gt; Wiederherstellen… sichert eine Kopie davon.</translation>
     </message>
     <message>
         <source>Unsaved changes</source>
@@ -4196,13 +4192,13 @@ Datei &gt; Wiederherstellen… hebt eine Kopie davon auf.</translation>
     <message>
         <source>Models cannot be drawn: the system offers no OpenGL.
 Look for a driver of the graphics card, or install a software renderer such as Mesa.</source>
-        <translation>Modelle können nicht gezeichnet werden: das System bietet kein OpenGL.
+        <translation>Modelle können nicht gezeichnet werden: Das System bietet kein OpenGL.
 Suchen Sie einen Treiber für die Grafikkarte, oder installieren Sie einen Software-Renderer wie Mesa.</translation>
     </message>
     <message>
         <source>Models are not drawn any more: the graphics driver has failed several times.
 Everything else works on. Start Korvane again to see models.</source>
-        <translation>Modelle werden nicht mehr gezeichnet: der Grafiktreiber ist mehrmals ausgefallen.
+        <translation>Modelle werden nicht mehr gezeichnet: Der Grafiktreiber ist mehrmals ausgefallen.
 Alles andere funktioniert weiter. Starten Sie Korvane neu, um Modelle zu sehen.</translation>
     </message>
     <message>
@@ -4212,7 +4208,7 @@ Alles andere funktioniert weiter. Starten Sie Korvane neu, um Modelle zu sehen.<
     <message>
         <source>Models cannot be drawn: the system has OpenGL, but gives the window no context of it.
 Everything else works on.</source>
-        <translation>Modelle können nicht gezeichnet werden: das System hat OpenGL, gibt dem Fenster aber keinen Kontext.
+        <translation>Modelle können nicht gezeichnet werden: Das System hat OpenGL, gibt dem Fenster aber keinen Kontext.
 Alles andere funktioniert weiter.</translation>
     </message>
 </context>
@@ -4526,7 +4522,7 @@ Alles andere funktioniert weiter.</translation>
     <name>SettingsHold</name>
     <message>
         <source>[Settings] &apos;%1&apos; cannot be written: what is set from now on is forgotten at the end.</source>
-        <translation>[Einstellungen] „%1“ kann nicht geschrieben werden: was von jetzt an eingestellt wird, ist am Ende vergessen.</translation>
+        <translation>[Einstellungen] „%1“ kann nicht geschrieben werden: Was von jetzt an eingestellt wird, ist am Ende vergessen.</translation>
     </message>
 </context>
 <context>
@@ -4833,7 +4829,7 @@ So lassen?</translation>
     </message>
     <message>
         <source>What the bone is made of: sound and particles of a hit</source>
-        <translation>Woraus der Knochen besteht: Klang und Partikel eines Treffers</translation>
+        <translation>Woraus der Knochen besteht: Sound und Partikel eines Treffers</translation>
     </message>
     <message>
         <source>&amp;Damage Scale</source>
@@ -5052,7 +5048,7 @@ So lassen?</translation>
     </message>
     <message>
         <source>Skinned Mesh</source>
-        <translation>Skin-Netz</translation>
+        <translation>Skin-Mesh</translation>
     </message>
     <message>
         <source>En&amp;d Bone</source>
@@ -5104,7 +5100,7 @@ So lassen?</translation>
     <name>SnapshotStore</name>
     <message>
         <source>[Recovery] Unsaved work cannot be kept in &apos;%1&apos;</source>
-        <translation>[Wiederherstellung] Nicht gespeicherte Arbeit kann in „%1“ nicht aufgehoben werden</translation>
+        <translation>[Wiederherstellung] Nicht gespeicherte Arbeit kann in „%1“ nicht gesichert werden</translation>
     </message>
     <message>
         <source>[Recovery] &apos;%1&apos; is damaged and was left out</source>
@@ -5183,7 +5179,7 @@ So lassen?</translation>
     </message>
     <message>
         <source>Static Mesh</source>
-        <translation>Statisches Netz</translation>
+        <translation>Statisches Mesh</translation>
     </message>
 </context>
 <context>
@@ -5675,6 +5671,10 @@ So lassen?</translation>
         <source>You are up to date!</source>
         <translation>Sie sind auf dem neuesten Stand!</translation>
     </message>
+    <message>
+        <source>No address is set that tells of new versions.</source>
+        <translation>Es ist keine Adresse eingestellt, die neue Versionen nennt.</translation>
+    </message>
 </context>
 <context>
     <name>Validation</name>
@@ -5684,27 +5684,23 @@ So lassen?</translation>
     </message>
     <message>
         <source>Action %1 of animation %2 names sound %3, which the table of sounds does not have: nothing is heard, unless your mod adds it. Choose one from the Database tab.</source>
-        <translation>Aktion %1 von Animation %2 nennt Klang %3, den die Tabelle der Klänge nicht enthält: es ist nichts zu hören, wenn Ihre Mod ihn nicht hinzufügt. Wählen Sie einen aus dem Reiter Datenbank.</translation>
+        <translation>Aktion %1 von Animation %2 nennt Sound %3, den die Tabelle der Sounds nicht enthält: Es ist nichts zu hören, wenn Ihre Mod ihn nicht hinzufügt. Wählen Sie einen aus dem Reiter Datenbank.</translation>
     </message>
     <message>
         <source>Action %1 of animation %2 names particle %3, which the table of particles does not have: nothing is seen, unless your mod adds it. Choose one from the Database tab.</source>
-        <translation>Aktion %1 von Animation %2 nennt Partikel %3, den die Tabelle der Partikel nicht enthält: es ist nichts zu sehen, wenn Ihre Mod ihn nicht hinzufügt. Wählen Sie einen aus dem Reiter Datenbank.</translation>
+        <translation>Aktion %1 von Animation %2 nennt Partikel %3, den die Tabelle der Partikel nicht enthält: Es ist nichts zu sehen, wenn Ihre Mod ihn nicht hinzufügt. Wählen Sie einen aus dem Reiter Datenbank.</translation>
     </message>
     <message>
         <source>Action %1 of animation %2 names actor type %3, which the table of actors does not have: nobody appears, unless your mod adds it. Choose one from the Database tab.</source>
-        <translation>Aktion %1 von Animation %2 nennt Akteurtyp %3, den die Tabelle der Akteure nicht enthält: niemand erscheint, wenn Ihre Mod ihn nicht hinzufügt. Wählen Sie einen aus dem Reiter Datenbank.</translation>
+        <translation>Aktion %1 von Animation %2 nennt Akteurtyp %3, den die Tabelle der Akteure nicht enthält: Niemand erscheint, wenn Ihre Mod ihn nicht hinzufügt. Wählen Sie einen aus dem Reiter Datenbank.</translation>
     </message>
     <message>
         <source>Action %1 of animation %2 names voice %3, which the table of voices does not have: nothing is said, unless your mod adds it. Choose one from the Database tab.</source>
-        <translation>Aktion %1 von Animation %2 nennt Stimme %3, die die Tabelle der Stimmen nicht enthält: nichts wird gesagt, wenn Ihre Mod sie nicht hinzufügt. Wählen Sie eine aus dem Reiter Datenbank.</translation>
+        <translation>Aktion %1 von Animation %2 nennt Stimme %3, die die Tabelle der Stimmen nicht enthält: Nichts wird gesagt, wenn Ihre Mod sie nicht hinzufügt. Wählen Sie eine aus dem Reiter Datenbank.</translation>
     </message>
     <message>
         <source>Action %1 of animation %2 names impact type %3, which the table of impacts does not have. Choose one from the Database tab.</source>
         <translation>Aktion %1 von Animation %2 nennt Aufpralltyp %3, den die Tabelle der Aufpralltypen nicht enthält. Wählen Sie einen aus dem Reiter Datenbank.</translation>
-    </message>
-    <message>
-        <source>Fixing it enters 65535: no loop frame.</source>
-        <translation>Beim Beheben wird 65535 eingetragen: kein Schleifen-Frame.</translation>
     </message>
     <message>
         <source>Fixing it enters the last frame.</source>
@@ -5724,19 +5720,19 @@ So lassen?</translation>
     </message>
     <message>
         <source>No bone follows translation track %1 of animation %2: it does nothing but make the file larger. Give it to a bone, or leave it.</source>
-        <translation>Kein Knochen folgt Translationsspur %1 von Animation %2: sie vergrößert nur die Datei. Geben Sie sie einem Knochen, oder lassen Sie sie stehen.</translation>
+        <translation>Kein Knochen folgt Translationsspur %1 von Animation %2: Sie vergrößert nur die Datei. Geben Sie sie einem Knochen, oder lassen Sie sie stehen.</translation>
     </message>
     <message>
         <source>No bone follows rotation track %1 of animation %2: it does nothing but make the file larger. Give it to a bone, or leave it.</source>
-        <translation>Kein Knochen folgt Rotationsspur %1 von Animation %2: sie vergrößert nur die Datei. Geben Sie sie einem Knochen, oder lassen Sie sie stehen.</translation>
+        <translation>Kein Knochen folgt Rotationsspur %1 von Animation %2: Sie vergrößert nur die Datei. Geben Sie sie einem Knochen, oder lassen Sie sie stehen.</translation>
     </message>
     <message>
         <source>%1 is zero, which is no rotation at all: the view shows the bone unturned; the game may let it vanish. Fixing it enters 0, 0, 0, 1: unturned.</source>
-        <translation>%1 ist null, was gar keine Drehung ist: die Ansicht zeigt den Knochen ungedreht; das Spiel lässt ihn vielleicht verschwinden. Beim Beheben wird 0, 0, 0, 1 eingetragen: ungedreht.</translation>
+        <translation>%1 ist null, was gar keine Drehung ist: Die Ansicht zeigt den Knochen ungedreht; das Spiel lässt ihn vielleicht verschwinden. Beim Beheben wird 0, 0, 0, 1 eingetragen: ungedreht.</translation>
     </message>
     <message>
         <source>%1 has the length %2 instead of 1: the view makes up for it; the game may shear the bone. Fixing it keeps the direction and makes the length 1.</source>
-        <translation>%1 hat die Länge %2 statt 1: die Ansicht gleicht das aus; das Spiel verzerrt den Knochen vielleicht. Beim Beheben bleibt die Richtung, und die Länge wird 1.</translation>
+        <translation>%1 hat die Länge %2 statt 1: Die Ansicht gleicht das aus; das Spiel verzerrt den Knochen vielleicht. Beim Beheben bleibt die Richtung, und die Länge wird 1.</translation>
     </message>
     <message>
         <source>The initial rotation of bone %1 of animation %2</source>
@@ -5748,7 +5744,7 @@ So lassen?</translation>
     </message>
     <message>
         <source>Action %1 of animation %2 is due at frame %3, which does not exist (%4): it never happens. Enter a frame of the animation, or remove the action.</source>
-        <translation>Aktion %1 von Animation %2 ist in Frame %3 fällig, den es nicht gibt (%4): sie geschieht nie. Tragen Sie einen Frame der Animation ein, oder entfernen Sie die Aktion.</translation>
+        <translation>Aktion %1 von Animation %2 ist in Frame %3 fällig, den es nicht gibt (%4): Sie geschieht nie. Tragen Sie einen Frame der Animation ein, oder entfernen Sie die Aktion.</translation>
     </message>
     <message>
         <source>Action %1 of animation %2 happens at bone %3, which does not exist (%4). Enter a bone, or 65535 for none.</source>
@@ -5756,35 +5752,35 @@ So lassen?</translation>
     </message>
     <message>
         <source>Action %1 of animation %2 has the event type %3, which the game does not know: nothing happens. Choose one from the list.</source>
-        <translation>Aktion %1 von Animation %2 hat den Ereignistyp %3, den das Spiel nicht kennt: nichts geschieht. Wählen Sie einen aus der Liste.</translation>
+        <translation>Aktion %1 von Animation %2 hat den Ereignistyp %3, den das Spiel nicht kennt: Nichts geschieht. Wählen Sie einen aus der Liste.</translation>
     </message>
     <message>
         <source>The animations are for %1 bones, but the open mesh has %2: they cannot be played on it. Open the mesh and the animations that belong together.</source>
-        <translation>Die Animationen sind für %1 Knochen, aber das geöffnete Netz hat %2: sie können darauf nicht abgespielt werden. Öffnen Sie Netz und Animationen, die zusammengehören.</translation>
+        <translation>Die Animationen sind für %1 Knochen, aber das geöffnete Mesh hat %2: Sie können darauf nicht abgespielt werden. Öffnen Sie Mesh und Animationen, die zusammengehören.</translation>
     </message>
     <message>
         <source>Animation %1 is for %2 bones, but the mesh has %3: it cannot be played right. Replace it by one for this mesh.</source>
-        <translation>Animation %1 ist für %2 Knochen, aber das Netz hat %3: sie kann nicht richtig abgespielt werden. Ersetzen Sie sie durch eine für dieses Netz.</translation>
+        <translation>Animation %1 ist für %2 Knochen, aber das Mesh hat %3: Sie kann nicht richtig abgespielt werden. Ersetzen Sie sie durch eine für dieses Mesh.</translation>
     </message>
     <message>
         <source>Animation %1 is for %2 bones, but animation 0 for %3: they cannot be for the same mesh. Replace one of them.</source>
-        <translation>Animation %1 ist für %2 Knochen, Animation 0 aber für %3: sie können nicht für dasselbe Netz sein. Ersetzen Sie eine davon.</translation>
+        <translation>Animation %1 ist für %2 Knochen, Animation 0 aber für %3: Sie können nicht für dasselbe Mesh sein. Ersetzen Sie eine davon.</translation>
     </message>
     <message>
         <source>Animation %1 has the id %2, as animation %3 has: the game finds only one of them. Give it an id of its own.</source>
-        <translation>Animation %1 hat die ID %2, wie auch Animation %3: das Spiel findet nur eine davon. Geben Sie ihr eine eigene ID.</translation>
+        <translation>Animation %1 hat die ID %2, wie auch Animation %3: Das Spiel findet nur eine davon. Geben Sie ihr eine eigene ID.</translation>
     </message>
     <message>
         <source>The file has no animations: there is nothing to play, and it cannot be saved. Add one.</source>
-        <translation>Die Datei hat keine Animationen: es gibt nichts abzuspielen, und sie kann nicht gespeichert werden. Fügen Sie eine hinzu.</translation>
+        <translation>Die Datei hat keine Animationen: Es gibt nichts abzuspielen, und sie kann nicht gespeichert werden. Fügen Sie eine hinzu.</translation>
     </message>
     <message>
         <source>Surface %1 is drawn white: the file of its material &apos;%2&apos; cannot be read. %3</source>
-        <translation>Fläche %1 wird weiß gezeichnet: die Datei ihres Materials „%2“ kann nicht gelesen werden. %3</translation>
+        <translation>Fläche %1 wird weiß gezeichnet: Die Datei ihres Materials „%2“ kann nicht gelesen werden. %3</translation>
     </message>
     <message>
         <source>Surface %1 is drawn white: there is no file of its material &apos;%2&apos;. Tried: %3. Correct the surface&apos;s material path, or put the file into one of these places.</source>
-        <translation>Fläche %1 wird weiß gezeichnet: es gibt keine Datei ihres Materials „%2“. Gesucht: %3. Berichtigen Sie den Materialpfad der Fläche, oder legen Sie die Datei an einen dieser Orte.</translation>
+        <translation>Fläche %1 wird weiß gezeichnet: Es gibt keine Datei ihres Materials „%2“. Gesucht: %3. Berichtigen Sie den Materialpfad der Fläche, oder legen Sie die Datei an einen dieser Orte.</translation>
     </message>
     <message>
         <source>Surface %1 is drawn white: %2. Correct the surface&apos;s material path, or add the material to the file.</source>
@@ -5792,7 +5788,7 @@ So lassen?</translation>
     </message>
     <message>
         <source>Surface %1 is drawn white: the texture &apos;%2&apos; of its material &apos;%3&apos; is no picture that can be read. Tried: %4. Put the picture into one of these places, or name another one in the material&apos;s file.</source>
-        <translation>Fläche %1 wird weiß gezeichnet: die Textur „%2“ ihres Materials „%3“ ist kein lesbares Bild. Gesucht: %4. Legen Sie das Bild an einen dieser Orte, oder nennen Sie in der Datei des Materials ein anderes.</translation>
+        <translation>Fläche %1 wird weiß gezeichnet: Die Textur „%2“ ihres Materials „%3“ ist kein lesbares Bild. Gesucht: %4. Legen Sie das Bild an einen dieser Orte, oder nennen Sie in der Datei des Materials ein anderes.</translation>
     </message>
     <message>
         <source>Bone %1</source>
@@ -5904,19 +5900,19 @@ So lassen?</translation>
     </message>
     <message>
         <source>%1 holds what is no number, or infinite, as %2. Whatever is computed from it is lost: the part vanishes or tears. Enter a proper number.</source>
-        <translation>%1: %2 enthält etwas, das keine Zahl oder unendlich ist. Was daraus berechnet wird, ist verloren: der Teil verschwindet oder zerreißt. Tragen Sie eine richtige Zahl ein.</translation>
+        <translation>%1: %2 enthält etwas, das keine Zahl oder unendlich ist. Was daraus berechnet wird, ist verloren: Der Teil verschwindet oder zerreißt. Tragen Sie eine richtige Zahl ein.</translation>
     </message>
     <message>
         <source>Surface %1 has no triangles: nothing of it is drawn. If it is not needed, leave its object out when you import the model again.</source>
-        <translation>Fläche %1 hat keine Dreiecke: nichts von ihr wird gezeichnet. Wenn sie nicht gebraucht wird, lassen Sie ihr Objekt weg, wenn Sie das Modell wieder importieren.</translation>
+        <translation>Fläche %1 hat keine Dreiecke: Nichts von ihr wird gezeichnet. Wenn sie nicht gebraucht wird, lassen Sie ihr Objekt weg, wenn Sie das Modell wieder importieren.</translation>
     </message>
     <message>
         <source>Surface %1 has %2 triangle indexes, which is not a multiple of three: the last triangle lacks a corner, and whoever counts in triangles reads on behind the list. Import the model again.</source>
-        <translation>Fläche %1 hat %2 Dreiecksindizes, was kein Vielfaches von drei ist: dem letzten Dreieck fehlt eine Ecke, und wer in Dreiecken zählt, liest über die Liste hinaus. Importieren Sie das Modell neu.</translation>
+        <translation>Fläche %1 hat %2 Dreiecksindizes, was kein Vielfaches von drei ist: Dem letzten Dreieck fehlt eine Ecke, und wer in Dreiecken zählt, liest über die Liste hinaus. Importieren Sie das Modell neu.</translation>
     </message>
     <message>
         <source>Triangle index %1 of surface %2 is 65535, the value that ends the list in the file: the model cannot be saved. Enter the index of a vertex.</source>
-        <translation>Dreiecksindex %1 von Fläche %2 ist 65535, der Wert, der die Liste in der Datei beendet: das Modell kann nicht gespeichert werden. Tragen Sie den Index eines Vertex ein.</translation>
+        <translation>Dreiecksindex %1 von Fläche %2 ist 65535, der Wert, der die Liste in der Datei beendet: Das Modell kann nicht gespeichert werden. Tragen Sie den Index eines Vertex ein.</translation>
     </message>
     <message>
         <source>Triangle index %1 of surface %2 names vertex %3, which does not exist (%4). The view leaves the triangle out; the game may crash. Enter the index of a vertex.</source>
@@ -5924,7 +5920,7 @@ So lassen?</translation>
     </message>
     <message>
         <source>The normal of vertex %1 is zero: it points nowhere, so light falls on the vertex from no side. Enter its direction, or import the model again with &quot;Generate Normals&quot;.</source>
-        <translation>Die Normale von Vertex %1 ist null: sie zeigt nirgendwohin, daher fällt von keiner Seite Licht auf den Vertex. Tragen Sie ihre Richtung ein, oder importieren Sie das Modell neu mit „Normalen erzeugen“.</translation>
+        <translation>Die Normale von Vertex %1 ist null: Sie zeigt nirgendwohin, daher fällt von keiner Seite Licht auf den Vertex. Tragen Sie ihre Richtung ein, oder importieren Sie das Modell neu mit „Normalen erzeugen“.</translation>
     </message>
     <message>
         <source>Child %1 of bone %2 is bone %3, which does not exist (%4). The view leaves it out; the game may crash. Fixing it removes the entry.</source>
@@ -5940,7 +5936,7 @@ So lassen?</translation>
     </message>
     <message>
         <source>The hierarchy goes in a circle: the view ignores the entry; the game may hang. Fixing it removes the entry.</source>
-        <translation>Die Hierarchie läuft im Kreis: die Ansicht übergeht den Eintrag; das Spiel bleibt vielleicht hängen. Beim Beheben wird der Eintrag entfernt.</translation>
+        <translation>Die Hierarchie läuft im Kreis: Die Ansicht übergeht den Eintrag; das Spiel bleibt vielleicht hängen. Beim Beheben wird der Eintrag entfernt.</translation>
     </message>
     <message>
         <source>Bone %1 lists bone %2 as a child, which another entry lists too, but a bone can move with one parent only. Fixing it removes this entry.</source>
@@ -5996,31 +5992,31 @@ So lassen?</translation>
     </message>
     <message>
         <source>The head track goes from bone %1 to bone %2, which do not both exist (%3): the head cannot be turned. Enter the bones that it turns with.</source>
-        <translation>Die Kopfdrehung geht von Knochen %1 zu Knochen %2, die es nicht beide gibt (%3): der Kopf kann nicht gedreht werden. Tragen Sie die Knochen ein, mit denen er sich dreht.</translation>
+        <translation>Die Kopfdrehung geht von Knochen %1 zu Knochen %2, die es nicht beide gibt (%3): Der Kopf kann nicht gedreht werden. Tragen Sie die Knochen ein, mit denen er sich dreht.</translation>
     </message>
     <message>
         <source>The mesh has %1 bones, but at most %2 can be posed: what belongs to the others is drawn with the wrong one. Leave bones out when you import the model again.</source>
-        <translation>Das Netz hat %1 Knochen, aber höchstens %2 können in Pose gesetzt werden: was zu den anderen gehört, wird mit dem falschen gezeichnet. Lassen Sie Knochen weg, wenn Sie das Modell neu importieren.</translation>
+        <translation>Das Mesh hat %1 Knochen, aber höchstens %2 können in Pose gesetzt werden: Was zu den anderen gehört, wird mit dem falschen gezeichnet. Lassen Sie Knochen weg, wenn Sie das Modell neu importieren.</translation>
     </message>
     <message>
         <source>Hot point %1 is on bone %2, which does not exist (%3): it has no place in the game. Enter the bone that it belongs to, or remove it.</source>
-        <translation>Hotpoint %1 ist an Knochen %2, den es nicht gibt (%3): er hat keinen Platz im Spiel. Tragen Sie den Knochen ein, zu dem er gehört, oder entfernen Sie ihn.</translation>
+        <translation>Hotpoint %1 ist an Knochen %2, den es nicht gibt (%3): Er hat keinen Platz im Spiel. Tragen Sie den Knochen ein, zu dem er gehört, oder entfernen Sie ihn.</translation>
     </message>
     <message>
         <source>Vertex %1 belongs to bone %2, which does not exist (%3): it stays behind when the model moves, and the game may crash. Enter the bone that moves it.</source>
-        <translation>Vertex %1 gehört zu Knochen %2, den es nicht gibt (%3): er bleibt zurück, wenn sich das Modell bewegt, und das Spiel stürzt vielleicht ab. Tragen Sie den Knochen ein, der ihn bewegt.</translation>
+        <translation>Vertex %1 gehört zu Knochen %2, den es nicht gibt (%3): Er bleibt zurück, wenn sich das Modell bewegt, und das Spiel stürzt vielleicht ab. Tragen Sie den Knochen ein, der ihn bewegt.</translation>
     </message>
     <message>
         <source>The mesh has no bones: nothing can be posed, and it cannot be saved. Import the model again; one without a skeleton then gets one bone.</source>
-        <translation>Das Netz hat keine Knochen: nichts kann in Pose gesetzt werden, und es kann nicht gespeichert werden. Importieren Sie das Modell neu; eines ohne Skelett erhält dann einen Knochen.</translation>
+        <translation>Das Mesh hat keine Knochen: Nichts kann in Pose gesetzt werden, und es kann nicht gespeichert werden. Importieren Sie das Modell neu; eines ohne Skelett erhält dann einen Knochen.</translation>
     </message>
     <message>
         <source>The mesh has no surfaces: there is nothing to show, and it cannot be saved. Import the model again.</source>
-        <translation>Das Netz hat keine Flächen: es gibt nichts zu zeigen, und es kann nicht gespeichert werden. Importieren Sie das Modell neu.</translation>
+        <translation>Das Mesh hat keine Flächen: Es gibt nichts zu zeigen, und es kann nicht gespeichert werden. Importieren Sie das Modell neu.</translation>
     </message>
     <message>
         <source>Surface %1 is drawn white: its material &apos;%2&apos; names no texture. Add a sampler with the path of a picture to it, or name another material.</source>
-        <translation>Fläche %1 wird weiß gezeichnet: ihr Material „%2“ nennt keine Textur. Fügen Sie ihm einen Sampler mit dem Pfad eines Bildes hinzu, oder nennen Sie ein anderes Material.</translation>
+        <translation>Fläche %1 wird weiß gezeichnet: Ihr Material „%2“ nennt keine Textur. Fügen Sie ihm einen Sampler mit dem Pfad eines Bildes hinzu, oder nennen Sie ein anderes Material.</translation>
     </message>
     <message>
         <source>The material path &apos;%2&apos; of surface %1 holds characters outside of Latin-1, which the file cannot: saving makes question marks of them. Give the material and its file another name.</source>
@@ -6056,7 +6052,11 @@ So lassen?</translation>
     </message>
     <message>
         <source>The file goes on for %1 bytes behind the end of the model, which belong to no record. Saving drops them: keep a copy of the file if something else needs them.</source>
-        <translation>Die Datei geht hinter dem Ende des Modells noch %1 Bytes weiter, die zu keinem Datensatz gehören. Speichern lässt sie weg: heben Sie eine Kopie der Datei auf, falls etwas anderes sie braucht.</translation>
+        <translation>Die Datei geht hinter dem Ende des Modells noch %1 Bytes weiter, die zu keinem Datensatz gehören. Speichern lässt sie weg: sichern Sie eine Kopie der Datei, falls etwas anderes sie braucht.</translation>
+    </message>
+    <message>
+        <source>Fixing it enters 65535: it loops from frame 0.</source>
+        <translation>Beim Beheben wird 65535 eingetragen: Die Schleife beginnt bei Frame 0.</translation>
     </message>
 </context>
 <context>
@@ -6146,11 +6146,11 @@ So lassen?</translation>
     <name>ViewMenu</name>
     <message>
         <source>Skinned Mesh View</source>
-        <translation>Ansicht Skin-Netz</translation>
+        <translation>Ansicht Skin-Mesh</translation>
     </message>
     <message>
         <source>Static Mesh View</source>
-        <translation>Ansicht statisches Netz</translation>
+        <translation>Ansicht statisches Mesh</translation>
     </message>
 </context>
 <context>

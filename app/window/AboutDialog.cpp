@@ -39,7 +39,7 @@ QString licenceTable()
         rows += QStringLiteral("<tr>%1%2</tr>").arg(cell(name), cell(translated(part.licence)));
     }
     return QStringLiteral("<p><b>%1</b></p><table>%2</table>")
-        .arg(translated(QT_TRANSLATE_NOOP("AboutDialog", "Licences of what is built in")), rows);
+        .arg(translated(QT_TRANSLATE_NOOP("AboutDialog", "Licenses of what is built in")), rows);
 }
 } // namespace
 

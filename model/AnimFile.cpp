@@ -7,6 +7,8 @@
 
 #include <QCoreApplication>
 
+#include <numeric>
+
 namespace {
 // Bytes in the file.
 constexpr qint64 BlockBytes = 44;
@@ -15,11 +17,23 @@ constexpr qint64 FrameBytes = 4;
 constexpr qint64 ActionBytes = 50;
 
 /// Tracks without keys take no bytes, so no end of file stops a hostile count. Bones name tracks by 16-bit
-/// indexes: more than this is no animation.
-constexpr qint32 MaxEmptyTracks = 1000000;
+/// indexes: more than these are no table, and as many in each of many blocks are no animation.
+constexpr qint32 MaxEmptyTracks = 65536;
+constexpr qint64 MaxEmptyTracksOfFile = 4 * qint64(MaxEmptyTracks);
+
+qint64 emptyTracks(const AnimBlock &block)
+{
+    return block.frames.empty() ? qint64(block.translations.trackCount()) + block.rotations.trackCount() : 0;
+}
 
 const QVector3D NeutralTranslation;
 const QVector4D NeutralRotation(0.0f, 0.0f, 0.0f, 1.0f);
+
+QString tracksWithoutFrames(qint64 count)
+{
+    return QCoreApplication::translate("ModelFiles", "Attempting to read %1 tracks without frames.")
+        .arg(count);
+}
 
 template <typename Key>
 constexpr qint64 KeyFloats = qint64(sizeof(Key) / sizeof(float));
@@ -31,9 +45,7 @@ TrackTable<Key> readTable(BinaryFileReader &reader, qint32 trackCount, qint32 fr
         return {0, std::max(frameCount, 0)};
     if (frameCount <= 0) {
         if (trackCount > MaxEmptyTracks) {
-            reader.setErrorText(
-                QCoreApplication::translate("ModelFiles", "Attempting to read %1 tracks without frames.")
-                    .arg(trackCount));
+            reader.setErrorText(tracksWithoutFrames(trackCount));
             return {};
         }
         return {trackCount, 0};
@@ -178,16 +190,31 @@ bool AnimFile::read(BinaryFileReader &reader)
     version = reader.readInt32();
     const qint32 blockCount = reader.readInt32();
     blocks.clear();
-    readRecords(reader, blockCount, BlockBytes, blocks, readBlock);
+    qint64 empty = 0;
+    readRecords(reader, blockCount, BlockBytes, blocks, [&empty](BinaryFileReader &r) {
+        AnimBlock block = readBlock(r);
+        empty += emptyTracks(block);
+        if (empty > MaxEmptyTracksOfFile && !r.hasError())
+            r.setErrorText(tracksWithoutFrames(empty));
+        return block;
+    });
     bytesBehind = reader.bytesLeft();
     return reader.hasError();
 }
 
 QString AnimFile::refusal() const
 {
-    return blocks.empty() ? QCoreApplication::translate(
-                                "ModelFiles", "An animation file without an animation is not saved.")
-                          : QString();
+    if (blocks.empty())
+        return QCoreApplication::translate("ModelFiles",
+                                           "An animation file without an animation is not saved.");
+    const qint64 empty =
+        std::accumulate(blocks.begin(), blocks.end(), qint64(0),
+                        [](qint64 sum, const AnimBlock &block) { return sum + emptyTracks(block); });
+    return empty > MaxEmptyTracksOfFile
+               ? QCoreApplication::translate("ModelFiles",
+                                             "%1 tracks without frames are more than can be read back.")
+                     .arg(empty)
+               : QString();
 }
 
 bool AnimFile::write(const QString &path, QString *reason) const

@@ -136,7 +136,7 @@ private slots:
                 continue;
             const qint32 honest = qFromLittleEndian<qint32>(bytes.constData() + count.offset);
             for (qint32 value : {0x7FFFFFFF, -1, std::numeric_limits<qint32>::min(), 0x2AAAAAAB, 0x55555556,
-                                 0x40000000, 0x00FFFFFF, 1000000, 1000001, 0, honest - 1, honest + 1}) {
+                                 0x40000000, 0x00FFFFFF, 65536, 65537, 0, honest - 1, honest + 1}) {
                 QByteArray patched = bytes;
                 qToLittleEndian<qint32>(value, patched.data() + count.offset);
                 const QString what = QStringLiteral("%1 of %2").arg(QLatin1String(count.name)).arg(value);
@@ -173,6 +173,26 @@ private slots:
         }
         const size_t taken = checkAgainstLiteral(suffix, bytes, QLatin1String(QTest::currentDataTag()));
         QVERIFY2(taken <= 64 * 1024, qPrintable(QString::number(taken)));
+    }
+
+    void emptyTracksAreCountedOverTheFile()
+    {
+        // As many as an index can name in both tables of each block: two blocks are read, three are not.
+        for (const int blocks : {2, 3}) {
+            AnimFile file;
+            file.blocks.resize(size_t(blocks));
+            for (AnimBlock &block : file.blocks) {
+                block.setTranslationCount(65536);
+                block.setRotationCount(65536);
+            }
+            BinaryFileWriter writer;
+            file.writeDraft(writer);
+            const std::vector<uchar> bytes = writer.takeBytes();
+            BinaryFileReader reader(bytes.data(), qint64(bytes.size()));
+            AnimFile read;
+            QCOMPARE(read.read(reader), blocks == 3);
+            QCOMPARE(file.refusal().isEmpty(), blocks == 2);
+        }
     }
 };
 

@@ -162,6 +162,8 @@ private:
                 list(3, [this] { uint16(); });
                 floats(11);
             });
+            if (!failed() && m_emptyTracks > 4 * 65536)
+                m_error = QStringLiteral("Attempting to read %1 tracks without frames.").arg(m_emptyTracks);
         });
     }
 
@@ -169,8 +171,10 @@ private:
     {
         if (frames > 0)
             list(count, [=] { floats(qint64(frames) * components); });
-        else if (!failed() && count > 1000000)
+        else if (!failed() && count > 65536)
             m_error = QStringLiteral("Attempting to read %1 tracks without frames.").arg(count);
+        else if (!failed())
+            m_emptyTracks += count > 0 ? count : 0;
     }
 
     void staticMesh()
@@ -196,6 +200,7 @@ private:
     QVector<const char *> m_types; ///< of the scalar that each byte belongs to
     QVector<Count> m_counts;
     QString m_error;
+    qint64 m_emptyTracks = 0;
     bool m_silent = false;
     bool m_negative = false;
 };

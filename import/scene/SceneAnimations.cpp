@@ -36,9 +36,10 @@ int animationId(const QString &name, int fallback)
 }
 
 /// Rotation of key `rotation` relative to the rest pose, with y and z exchanged as the game has them.
-QVector4D relativeRotation(const aiMatrix4x4 &inverseRest, const aiQuaternion &rotation)
+QVector4D relativeRotation(const aiMatrix3x3 &inverseRest, const aiQuaternion &rotation)
 {
-    const aiQuaternion relative(aiMatrix3x3(inverseRest * aiMatrix4x4(rotation.GetMatrix())));
+    aiQuaternion relative(inverseRest * rotation.GetMatrix());
+    relative.Normalize();
     return {relative.x, relative.z, relative.y, relative.w};
 }
 
@@ -76,8 +77,12 @@ void fillTrack(const BoneChannel &channel, int track, AnimBlock &block)
     node.translationIndex = quint16(track);
     node.rotationIndex = quint16(track);
 
-    aiMatrix4x4 inverseRest = channel.sceneNode.mTransformation;
-    inverseRest.Inverse();
+    // The scale of the rest pose turns nothing.
+    aiVector3D restScale;
+    aiVector3D restPlace;
+    aiQuaternion restTurn;
+    channel.sceneNode.mTransformation.Decompose(restScale, restTurn, restPlace);
+    const aiMatrix3x3 inverseRest = restTurn.GetMatrix().Transpose();
     const aiMatrix4x4 &transform = channel.bone.transform;
     const aiVector3D rest(transform.a4, transform.b4, transform.c4);
     QVector4D rotation(0.0f, 0.0f, 0.0f, 1.0f);

@@ -13,7 +13,7 @@
 /// One skinned triangle in a glTF file of its own, with the bones
 ///
 ///     scene ─┬─ hips at (1, 2, 3) ─┬─ arm
-///            │                     └─ tail, turned by 90 degrees about z
+///            │                     └─ tail, turned by 90 degrees about z, and scaled
 ///            └─ body (the triangle)
 ///
 /// whose corners belong to hips, arm and nobody. Times are in milliseconds, the format's ticks.
@@ -51,7 +51,8 @@ public:
             "nodes": [{"name": "scene", "children": [1, 4]},
                       {"name": "hips", "children": [2, 3], "translation": [1, 2, 3]},
                       {"name": "arm"},
-                      {"name": "tail", "rotation": [0, 0, 0.7071067811865476, 0.7071067811865476]},
+                      {"name": "tail", "scale": [2, 1, 4],
+                       "rotation": [0, 0, 0.7071067811865476, 0.7071067811865476]},
                       {"name": "body", "mesh": 0, "skin": 0}],
             "skins": [{"joints": [1, 2, 3], "inverseBindMatrices": 3}],
             "meshes": [{"primitives": [{"attributes": {"POSITION": 0, "JOINTS_0": 1, "WEIGHTS_0": 2}}]}]

@@ -121,9 +121,9 @@ private slots:
         QCOMPARE(still.translations.at(0, 0), QVector3D());
         QVERIFY(isClose(still.rotations.at(0, 0), {0, 1, 0, 0}));
         QCOMPARE(m_anim.blocks[2].animId, 0);
-        // The tail's rest is a quarter turn about z, n = (0, 0, h, h), its key one about x, k = (h, 0, 0, h),
-        // with h the root of one half. The inverse of n times k is (1, -1, -1, 1) / 2, and so is that with y
-        // and z exchanged; k times the inverse of n would be (1, 1, -1, 1) / 2.
+        // The tail's rest is a quarter turn about z, whatever its scale, n = (0, 0, h, h), its key one about
+        // x, k = (h, 0, 0, h), with h the root of one half. The inverse of n times k is (1, -1, -1, 1) / 2,
+        // and so is that with y and z exchanged; k times the inverse of n would be (1, 1, -1, 1) / 2.
         QVERIFY(isClose(m_anim.blocks[3].rotations.at(0, 0), {0.5f, -0.5f, -0.5f, 0.5f}));
         QCOMPARE(m_anim.blocks[4].frameCount(), 65535);
         QVERIFY(lines(LogSeverity::Warning).contains("anim.gltf Animation 4 was cut to 65535 frames"));

@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPushButton>
 
 namespace {
@@ -29,6 +30,8 @@ FlagsEditor::FlagsEditor(QWidget *parent)
             m_editedBits = qint32(1u << bit);
             emit valueEdited(value());
         });
+        box->setFocusPolicy(bit == m_stop ? Qt::StrongFocus : Qt::ClickFocus);
+        box->installEventFilter(this);
         grid->addWidget(box, bit / Columns, bit % Columns);
         m_bits.append(box);
     }
@@ -46,6 +49,50 @@ FlagsEditor::FlagsEditor(QWidget *parent)
     connect(all, &QPushButton::clicked, this, [this] { editAll(true); });
     connect(none, &QPushButton::clicked, this, [this] { editAll(false); });
     setFocusProxy(m_bits.first());
+}
+
+void FlagsEditor::moveStop(int bit)
+{
+    m_bits.at(m_stop)->setFocusPolicy(Qt::ClickFocus);
+    m_stop = bit;
+    m_bits.at(m_stop)->setFocusPolicy(Qt::StrongFocus);
+    setFocusProxy(m_bits.at(m_stop));
+}
+
+bool FlagsEditor::eventFilter(QObject *watched, QEvent *event)
+{
+    const int bit = m_bits.indexOf(static_cast<QCheckBox *>(watched));
+    if (event->type() == QEvent::FocusIn)
+        moveStop(bit);
+    if (event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    int next = bit;
+    switch (static_cast<QKeyEvent *>(event)->key()) {
+    case Qt::Key_Left:
+        next -= 1;
+        break;
+    case Qt::Key_Right:
+        next += 1;
+        break;
+    case Qt::Key_Up:
+        next -= Columns;
+        break;
+    case Qt::Key_Down:
+        next += Columns;
+        break;
+    case Qt::Key_Home:
+        next = 0;
+        break;
+    case Qt::Key_End:
+        next = BitCount - 1;
+        break;
+    default:
+        return QWidget::eventFilter(watched, event);
+    }
+    // At an edge the keys stay.
+    if (next >= 0 && next < BitCount)
+        m_bits.at(next)->setFocus(Qt::TabFocusReason);
+    return true;
 }
 
 qint32 FlagsEditor::value() const

@@ -7,7 +7,8 @@
 
 class QCheckBox;
 
-/// The 32 bits of a flags field as check boxes, with buttons for all and none.
+/// The 32 bits of a flags field as check boxes, with buttons for all and none. The boxes are one stop on the
+/// way with Tab: the arrow keys, Home and End move inside.
 class FlagsEditor : public QWidget
 {
     Q_OBJECT
@@ -23,13 +24,17 @@ public:
     /// The bits that the last edit was about: one, or all.
     qint32 editedBits() const { return m_editedBits; }
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 signals:
     /// The user has switched bits.
     void valueEdited(qint32 value);
 
 private:
     void editAll(bool on);
+    void moveStop(int bit);
 
     QVector<QCheckBox *> m_bits;
     qint32 m_editedBits = 0;
+    int m_stop = 0; ///< the bit whose box Tab leads to
 };

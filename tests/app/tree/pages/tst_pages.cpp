@@ -132,6 +132,27 @@ private slots:
         pane.undo().undo();
         QCOMPARE(flags(), QVector<qint32>({0x11, 0x21}));
 
+        // The boxes are one stop on the way with Tab, from which arrow keys move.
+        QApplication::setActiveWindow(&pane.stack);
+        auto *all = pane.child<QPushButton>("btnFlagsAll");
+        all->setFocus();
+        QTest::keyClick(all, Qt::Key_Backtab);
+        const auto focused = [] { return QApplication::focusWidget()->objectName(); };
+        QCOMPARE(focused(), QStringLiteral("cbBit0"));
+        for (const int key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Right})
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
+        QCOMPARE(focused(), QStringLiteral("cbBit6"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(focused(), QStringLiteral("btnFlagsAll"));
+        QTest::keyClick(all, Qt::Key_Backtab);
+        QCOMPARE(focused(), QStringLiteral("cbBit6"));
+
+        // What Ctrl+click took out of the selection is not edited.
+        pane.select({{RecordKind::Bone, {0}}, {RecordKind::Bone, {1}}});
+        pane.tree.findItem({RecordKind::Bone, {0}})->setSelected(false);
+        type(pane.child<QWidget>("sbNodeDamageScale"), QStringLiteral("0.125"));
+        QVERIFY(nodes[0].damageScale != 0.125f && nodes[1].damageScale == 0.125f);
+
         // A symbol's bits without a meaning stay.
         pane.select({{RecordKind::Bone, {1}}});
         QTest::keyClick(pane.child<QWidget>("cbNodeSymbolPart"), Qt::Key_End);

@@ -4,6 +4,7 @@
 
 #include "Log.h"
 #include "SavePath.h"
+#include "Typing.h"
 
 #include <QApplication>
 #include <QDir>
@@ -228,10 +229,7 @@ void DocumentFiles::write(DocumentType type, const QString &path, QVector<Failed
 
 void DocumentFiles::finishTyping() const
 {
-    // A shortcut or a tool button leaves the focus, and so the typing, in the editor.
-    QWidget *editor = QApplication::focusWidget();
-    if (!editor || !m_window->isAncestorOf(editor))
-        return;
-    editor->clearFocus();
-    editor->setFocus();
+    const QWidget *editor = QApplication::focusWidget();
+    if (editor && m_window->isAncestorOf(editor))
+        ::finishTyping();
 }

@@ -8,4 +8,4 @@ class QUndoGroup;
 
 /// Adds undo and redo of the group's active stack, with the keys that people expect, to the top of a menu and
 /// to a tool bar.
-void addUndoActions(const QUndoGroup &group, QMenu &menu, QToolBar &toolBar);
+void addUndoActions(QUndoGroup &group, QMenu &menu, QToolBar &toolBar);

@@ -69,6 +69,17 @@ private slots:
         QTest::keyClick(&window, Qt::Key_S, Qt::ControlModifier);
         QCOMPARE(TestSupport::readFile(path), before);
 
+        // Undo on the tool bar takes back what is typed and not ended, and redo brings it again.
+        typeNumber(parent, 0);
+        parent->selectAll();
+        QTest::keyClicks(parent, QStringLiteral("7"));
+        QTest::mouseClick(find<QToolBar>(window, "toolBarEdit")->widgetForAction(undo), Qt::LeftButton);
+        QCOMPARE(parent->value(), 0);
+        find<QAction>(window, "actionRedo")->trigger();
+        QCOMPARE(parent->value(), 7);
+        undo->trigger();
+        undo->trigger();
+
         // What is typed and not ended is saved, too.
         select(window, "treeSkinnedMesh", {{RecordKind::SkinnedMesh, {}}});
         auto *minimum = find<QWidget>(window, "sbSMBBMinX");

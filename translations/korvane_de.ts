@@ -963,6 +963,10 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>%1 to %2</source>
         <translation>%1 bis %2</translation>
     </message>
+    <message>
+        <source>%1 This cannot be undone.</source>
+        <translation>%1 Das lässt sich nicht rückgängig machen.</translation>
+    </message>
 </context>
 <context>
     <name>CommandPalette</name>
@@ -2526,6 +2530,10 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <source>No file is open. Choose one in the folder.</source>
         <translation>Es ist keine Datei geöffnet. Wählen Sie eine im Ordner.</translation>
     </message>
+    <message>
+        <source>The filter does not match %1, which is shown all the same: it was changed.</source>
+        <translation>Der Filter passt nicht auf %1; der Eintrag wird trotzdem gezeigt, weil er geändert wurde.</translation>
+    </message>
 </context>
 <context>
     <name>Look</name>
@@ -2969,6 +2977,10 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>A static mesh without a surface is not saved.</source>
         <translation>Ein statisches Mesh ohne Fläche wird nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>%1 tracks without frames are more than can be read back.</source>
+        <translation>%1 Spuren ohne Frames sind mehr, als wieder gelesen werden können.</translation>
     </message>
 </context>
 <context>
@@ -5324,6 +5336,14 @@ So lassen?</translation>
     <message>
         <source>Trees</source>
         <translation>Bäume</translation>
+    </message>
+    <message>
+        <source>Fewer tracks: the last ones go, with all their keys; bones keep their track numbers. More: the last track is repeated.</source>
+        <translation>Weniger Spuren: Die letzten fallen weg, mit allen ihren Keys; Knochen behalten ihre Spurnummern. Mehr: Die letzte Spur wird wiederholt.</translation>
+    </message>
+    <message>
+        <source>Fewer frames: the last ones go, with their keys in all tracks. More: the last keys are repeated.</source>
+        <translation>Weniger Frames: Die letzten fallen weg, mit ihren Keys in allen Spuren. Mehr: Die letzten Keys werden wiederholt.</translation>
     </message>
 </context>
 <context>

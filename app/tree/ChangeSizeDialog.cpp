@@ -6,7 +6,8 @@
 
 #include <algorithm>
 
-ChangeSizeDialog::ChangeSizeDialog(const QString &title, int least, int most, int current, QWidget *parent)
+ChangeSizeDialog::ChangeSizeDialog(const QString &title, const QString &consequence, int least, int most,
+                                   int current, QWidget *parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::ChangeSizeDialog>())
 {
@@ -14,6 +15,7 @@ ChangeSizeDialog::ChangeSizeDialog(const QString &title, int least, int most, in
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowTitle(title);
     m_ui->lblSize->setText(title);
+    m_ui->lblConsequence->setText(tr("%1 This cannot be undone.").arg(consequence));
     m_ui->sbSize->setMinimum(least);
     m_ui->sbSize->setMaximum(std::max(most, current));
     m_ui->sbSize->setValue(current);

@@ -16,8 +16,10 @@ class ChangeSizeDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// `least` and `most`: the lengths allowed; `current`: the length the list has, allowed in any case.
-    ChangeSizeDialog(const QString &title, int least, int most, int current, QWidget *parent = nullptr);
+    /// `consequence`: what another length takes away and adds. `least` and `most`: the lengths allowed;
+    /// `current`: the length the list has, allowed in any case.
+    ChangeSizeDialog(const QString &title, const QString &consequence, int least, int most, int current,
+                     QWidget *parent = nullptr);
     ~ChangeSizeDialog() override;
 
     int size() const;

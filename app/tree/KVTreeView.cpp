@@ -4,6 +4,7 @@
 
 #include "RecordFilling.h"
 #include "RecordItem.h"
+#include "RecordOrder.h"
 #include "RecordTable.h"
 #include "RecordTexts.h"
 #include "Shortcuts.h"
@@ -11,41 +12,10 @@
 #include <QAction>
 #include <QItemSelection>
 #include <QPainter>
-#include <QSet>
 #include <QSignalBlocker>
 
 #include <algorithm>
-#include <tuple>
-
-namespace {
-QSet<RecordRef> refsOf(const QList<QTreeWidgetItem *> &items)
-{
-    QSet<RecordRef> refs;
-    refs.reserve(items.size());
-    for (const QTreeWidgetItem *item : items)
-        refs.insert(static_cast<const RecordItem *>(item)->record());
-    return refs;
-}
-
-/// Renumbers the records that stand in the list, or below a record of the list, that a change is about.
-void shift(QVector<RecordRef> &records, const StructureChange &change)
-{
-    const auto component = size_t(recordRow(change.record.kind)->component);
-    const RecordIndex &at = change.record.index;
-    const auto isInList = [&](const RecordRef &record) {
-        return std::equal(at.begin(), at.begin() + component, record.index.begin()) &&
-               record.index[component] >= at[component];
-    };
-    const auto isTakenOut = [&](const RecordRef &record) {
-        return change.added < 0 && isInList(record) && record.index[component] == at[component];
-    };
-    records.erase(std::remove_if(records.begin(), records.end(), isTakenOut), records.end());
-    for (RecordRef &record : records) {
-        if (isInList(record))
-            record.index[component] += change.added;
-    }
-}
-} // namespace
+#include <iterator>
 
 KVTreeView::KVTreeView(QWidget *parent)
     : QTreeWidget(parent)
@@ -73,6 +43,7 @@ void KVTreeView::setDocument(Document *document)
 void KVTreeView::rebuild()
 {
     m_expandedUnfiltered.clear();
+    m_letThrough.clear();
     build();
     notifyCurrent();
 }
@@ -83,8 +54,7 @@ void KVTreeView::build()
     setUpdatesEnabled(false);
     clear();
     if (m_document->isOpen()) {
-        m_hideData = m_document->rootKind() == RecordKind::AnimFile ? Settings::HideAnimData.value()
-                                                                    : Settings::HideMeshData.value();
+        m_hideData = hidesData(*m_document);
         auto *root = new RecordItem(m_document->rootKind());
         // First into the tree, then filled: a list then finds its way into the view once, not twice.
         addTopLevelItem(root);
@@ -100,9 +70,30 @@ void KVTreeView::build()
     setUpdatesEnabled(true);
 }
 
+bool KVTreeView::hidesData(const Document &document)
+{
+    return document.rootKind() == RecordKind::AnimFile ? Settings::HideAnimData.value()
+                                                       : Settings::HideMeshData.value();
+}
+
+void KVTreeView::updateHiding()
+{
+    if (!m_document || !m_document->isOpen() || hidesData(*m_document) == m_hideData)
+        return;
+    const QVector<RecordRef> expanded = expandedBelow(topLevelItem(0));
+    refill(selectedRefs(), currentRecord());
+    expand(expanded);
+}
+
 RecordFilling KVTreeView::filling() const
 {
-    return {*m_document, m_filter, m_hideData};
+    return {*m_document, m_filter, m_letThrough, m_hideData};
+}
+
+bool KVTreeView::isShown(const RecordRef &record) const
+{
+    const RecordItem *item = findItem(record);
+    return item && item->record() == record;
 }
 
 QString KVTreeView::label(const RecordRef &record) const
@@ -127,19 +118,46 @@ void KVTreeView::setFilter(const QString &text)
     if (text == m_filter.text() || !m_document)
         return;
     const RecordRef current = currentRecord();
+    const QVector<RecordRef> selected = selectedRefs();
     if (m_filter.isEmpty())
         m_expandedUnfiltered = expandedBelow(topLevelItem(0));
     m_filter = RecordFilter(text);
-    refill(current);
+    m_letThrough.clear();
+    refill(selected, current);
 }
 
-void KVTreeView::refill(const RecordRef &current)
+void KVTreeView::refill(const QVector<RecordRef> &selected, const RecordRef &current)
 {
     build();
     if (m_filter.isEmpty())
         expand(m_expandedUnfiltered);
-    if (topLevelItemCount() > 0)
-        selectRecords({current}, current);
+    if (topLevelItemCount() == 0)
+        return;
+    QVector<RecordRef> shown;
+    std::copy_if(selected.begin(), selected.end(), std::back_inserter(shown),
+                 [this](const RecordRef &record) { return isShown(record); });
+    if (shown.isEmpty())
+        shown = {current};
+    selectRecords(shown, shown.contains(current) ? current : shown.first());
+}
+
+void KVTreeView::letThrough(const QVector<RecordRef> &records)
+{
+    if (m_filter.isEmpty())
+        return;
+    QVector<RecordRef> hidden;
+    std::copy_if(records.begin(), records.end(), std::back_inserter(hidden),
+                 [this](const RecordRef &record) { return !isShown(record); });
+    if (hidden.isEmpty())
+        return;
+    for (const RecordRef &record : qAsConst(hidden))
+        m_letThrough.insert(record);
+    const QVector<RecordRef> expanded = expandedBelow(topLevelItem(0));
+    build();
+    expand(expanded);
+    if (isShown(hidden.last()))
+        emit told(tr("The filter does not match %1, which is shown all the same: it was changed.")
+                      .arg(label(hidden.last())));
 }
 
 QString KVTreeView::filterExample() const
@@ -164,7 +182,25 @@ void KVTreeView::selectFirstMatch()
 RecordRef KVTreeView::currentRecord() const
 {
     const auto *item = static_cast<const RecordItem *>(currentItem());
-    return item ? item->record() : RecordRef();
+    if (!item || item->isSelected())
+        return item ? item->record() : RecordRef();
+    // What was taken out of the selection has the keys still, but nothing is done to it.
+    const QVector<RecordRef> selected = selectedRefs();
+    const RecordKind kind = item->record().kind;
+    const auto *alike = std::find_if(selected.begin(), selected.end(),
+                                     [kind](const RecordRef &each) { return each.kind == kind; });
+    if (alike != selected.end())
+        return *alike;
+    return selected.isEmpty() ? RecordRef() : selected.first();
+}
+
+QVector<RecordRef> KVTreeView::selectedRefs() const
+{
+    QVector<RecordRef> refs;
+    for (const QTreeWidgetItem *item : selectedItems())
+        refs.append(static_cast<const RecordItem *>(item)->record());
+    std::sort(refs.begin(), refs.end(), isBefore);
+    return refs;
 }
 
 QVector<RecordIndex> KVTreeView::selectedRecords(RecordKind kind) const
@@ -242,27 +278,37 @@ void KVTreeView::onRecordsChanged(const QVector<RecordRef> &records)
     viewport()->update();
 
     // An edit of what is selected keeps the selection; anything else is brought into view.
-    const QSet<RecordRef> selected = refsOf(selectedItems());
+    const QVector<RecordRef> refs = selectedRefs();
+    const QSet<RecordRef> selected(refs.begin(), refs.end());
     const auto isSelected = [&selected](const RecordRef &record) { return selected.contains(record); };
     if (records.contains(currentRecord()) && std::all_of(records.begin(), records.end(), isSelected)) {
         notifyCurrent();
         return;
     }
-    QVector<RecordRef> sorted = records;
-    std::sort(sorted.begin(), sorted.end(), [](const RecordRef &a, const RecordRef &b) {
-        return std::tie(a.kind, a.index) < std::tie(b.kind, b.index);
-    });
+    // A jump over several steps changes records of several kinds: a page shows those of one.
+    QVector<RecordRef> sorted;
+    std::copy_if(records.begin(), records.end(), std::back_inserter(sorted),
+                 [&records](const RecordRef &record) { return record.kind == records.last().kind; });
+    std::sort(sorted.begin(), sorted.end(), isBefore);
+    letThrough(sorted);
     selectRecords(sorted, records.last());
 }
 
 void KVTreeView::onStructuresChanged(const QVector<StructureChange> &changes)
 {
     if (!m_filter.isEmpty()) {
+        QVector<RecordRef> through(m_letThrough.begin(), m_letThrough.end());
         for (const StructureChange &change : changes) {
-            if (change.added != 0)
-                shift(m_expandedUnfiltered, change);
+            if (change.added == 0)
+                continue;
+            shift(m_expandedUnfiltered, change);
+            shift(through, change);
         }
-        refill(changes.last().select);
+        m_letThrough = QSet<RecordRef>(through.begin(), through.end());
+        const RecordRef select = changes.last().select;
+        build();
+        letThrough({select});
+        selectRecords({select}, select);
         return;
     }
     // Only what stands below the owners of the changed lists is made anew.

@@ -6,6 +6,7 @@
 #include "RecordFilter.h"
 #include "RecordSelection.h"
 
+#include <QSet>
 #include <QTreeWidget>
 
 class RecordFilling;
@@ -28,6 +29,8 @@ public:
     /// Builds the items anew and makes the root current. Mesh data is left out while it is hidden.
     void rebuild();
 
+    /// The record that is worked on: the current one or, where that was taken out of the selection, one that
+    /// is selected. None while nothing is.
     RecordRef currentRecord() const override;
     QVector<RecordIndex> selectedRecords(RecordKind kind) const override;
     QString label(const RecordRef &record) const override;
@@ -38,7 +41,8 @@ public:
     void selectRecords(const QVector<RecordRef> &records, const RecordRef &current);
 
     /// Shows only the records that match, with what stands above and below them; an empty text shows all.
-    /// The current record stays current where it is shown.
+    /// What is selected stays so where it is shown. A record that an edit is to show is let through until the
+    /// filter changes.
     void setFilter(const QString &text);
     bool isFiltered() const { return !m_filter.isEmpty(); }
     /// A text that would make a useful filter of this document.
@@ -46,9 +50,14 @@ public:
     /// Makes the first record that matches current; without a filter nothing happens.
     void selectFirstMatch();
 
+    /// Follows the settings that hide mesh and animation data.
+    void updateHiding();
+
 signals:
     /// Another record is current, or the current one was changed or joined by others: show its page.
     void currentRecordChanged(const RecordRef &record);
+    /// Something for the status bar.
+    void told(const QString &text);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -57,7 +66,14 @@ private:
     static RecordItem *childAt(QTreeWidgetItem *item, int position);
     RecordFilling filling() const;
     void build();
-    void refill(const RecordRef &current);
+    /// In their order.
+    QVector<RecordRef> selectedRefs() const;
+    static bool hidesData(const Document &document);
+    bool isShown(const RecordRef &record) const;
+    /// Builds the items anew, with these selected as far as they are shown.
+    void refill(const QVector<RecordRef> &selected, const RecordRef &current);
+    /// Shows records that the filter hides.
+    void letThrough(const QVector<RecordRef> &records);
     void expandToMatches();
     static QVector<RecordRef> expandedBelow(QTreeWidgetItem *item);
     void expand(const QVector<RecordRef> &records);
@@ -70,5 +86,6 @@ private:
     const QAction *m_openAction = nullptr;
     bool m_hideData = true; ///< as it was when the tree was built
     RecordFilter m_filter;
+    QSet<RecordRef> m_letThrough;            ///< shown though the filter does not match them
     QVector<RecordRef> m_expandedUnfiltered; ///< what was open before there was a filter
 };

@@ -50,7 +50,8 @@ void RecordFilling::fillMatching(RecordItem *item, const RecordRef &owner) const
         for (int i = 0; i < count; ++i) {
             if (isList)
                 record.index[size_t(row->component)] = i;
-            const bool isMatch = m_filter.matches(searchText(m_document, record));
+            const bool isMatch =
+                m_letThrough.contains(record) || m_filter.matches(searchText(m_document, record));
             if (isLeaf && !isMatch)
                 continue;
             auto child = std::make_unique<RecordItem>(row->kind, isList ? i : 0);

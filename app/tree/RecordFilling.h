@@ -5,6 +5,8 @@
 #include "Document.h"
 #include "RecordFilter.h"
 
+#include <QSet>
+
 class RecordItem;
 struct RecordRow;
 
@@ -12,10 +14,13 @@ struct RecordRow;
 class RecordFilling
 {
 public:
-    /// With `hideData` lists of mesh or animation data are left out. What is named outlives the filling.
-    RecordFilling(const Document &document, const RecordFilter &filter, bool hideData)
+    /// With `hideData` lists of mesh or animation data are left out; `letThrough` counts as matching. What is
+    /// named outlives the filling.
+    RecordFilling(const Document &document, const RecordFilter &filter, const QSet<RecordRef> &letThrough,
+                  bool hideData)
         : m_document(document)
         , m_filter(filter)
+        , m_letThrough(letThrough)
         , m_hideData(hideData)
     {}
 
@@ -30,5 +35,6 @@ private:
 
     const Document &m_document;
     const RecordFilter &m_filter;
+    const QSet<RecordRef> &m_letThrough;
     const bool m_hideData;
 };

@@ -3,6 +3,7 @@
 #include "StructureActions.h"
 
 #include "AnimCommands.h"
+#include "BlockSizes.h"
 #include "ChangeSizeDialog.h"
 #include "Icons.h"
 #include "KVTreeView.h"
@@ -33,40 +34,11 @@ bool belongsTo(RecordKind kind, RecordKind root)
     return kind == root;
 }
 
-/// One bone for each of the mesh's, in the pose that the first block starts from, and one frame: as little as
-/// a block needs to play.
-AnimBlock newBlock(const AnimFile &file, const SkinnedMesh &mesh)
+QString trackConsequence()
 {
-    AnimBlock block;
-    if (file.blocks.empty()) {
-        block.nodes.resize(mesh.nodes.size());
-    } else {
-        for (const AnimNode &node : file.blocks.front().nodes) {
-            AnimNode bone;
-            bone.initialPosition = node.initialPosition;
-            bone.initialRotation = node.initialRotation;
-            block.nodes.push_back(bone);
-        }
-    }
-    block.setFrameCount(1);
-    return block;
-}
-
-/// The longest that a table of the block may be made: as many entries as a 16-bit index can name, unless its
-/// keys would take more than this much memory.
-int mostEntries(const AnimBlock &block, RecordKind group)
-{
-    constexpr qint64 MostBytes = 256 << 20;
-    constexpr qint64 MostIndexes = 65535;
-    const qint64 frames = block.frameCount();
-    qint64 entryBytes = 0;
-    if (group == RecordKind::AnimFrames)
-        entryBytes = qint64(sizeof(QVector3D)) * block.translations.trackCount() +
-                     qint64(sizeof(QVector4D)) * block.rotations.trackCount();
-    else
-        entryBytes =
-            frames * qint64(group == RecordKind::Translations ? sizeof(QVector3D) : sizeof(QVector4D));
-    return int(std::min(MostIndexes, MostBytes / std::max<qint64>(entryBytes, 1)));
+    return StructureActions::tr(
+        "Fewer tracks: the last ones go, with all their keys; bones keep their track numbers. "
+        "More: the last track is repeated.");
 }
 } // namespace
 
@@ -184,7 +156,7 @@ StructureActions::TreeMenu StructureActions::createMenu(Document &document, KVTr
         QAction *action = addAction(iconName, text, id, QString());
         QObject::connect(action, &QAction::triggered, tree, [tree, expanded] {
             tree->setUpdatesEnabled(false);
-            if (QTreeWidgetItem *item = tree->currentItem())
+            if (QTreeWidgetItem *item = tree->findItem(tree->currentRecord()))
                 setExpandedBelow(item, expanded);
             tree->setUpdatesEnabled(true);
         });
@@ -222,7 +194,7 @@ void StructureActions::updateMenu(const TreeMenu &menu) const
         if (offer)
             action->setText(tr(offer->text));
     }
-    const QTreeWidgetItem *item = menu.tree->currentItem();
+    const QTreeWidgetItem *item = menu.tree->findItem(menu.tree->currentRecord());
     for (QAction *action : {menu.expand, menu.collapse})
         action->setVisible(item && item->childCount() > 0);
 }
@@ -271,9 +243,7 @@ void StructureActions::remove(const Shown<DocumentType> &shown)
     const RecordRef current = shown.tree->currentRecord();
     if (current.kind != Command::Place::kind)
         return;
-    QVector<RecordIndex> records = shown.tree->selectedRecords(current.kind);
-    if (!records.contains(current.index))
-        records = {current.index};
+    const QVector<RecordIndex> records = shown.tree->selectedRecords(current.kind);
     QUndoStack *stack = shown.document.undoStack();
     if (records.size() == 1) {
         stack->push(new Command(shown.document.editTarget(), current.index));
@@ -354,28 +324,33 @@ void StructureActions::OnActionRemoveAnimAction()
 
 void StructureActions::OnActionEditFrameCount()
 {
-    editCount(RecordKind::AnimFrames, tr("Frame Count"), 1, &AnimBlock::setFrameCount);
+    editCount(RecordKind::AnimFrames, tr("Frame Count"),
+              tr("Fewer frames: the last ones go, with their keys in all tracks. More: the last keys are "
+                 "repeated."),
+              1, &AnimBlock::setFrameCount);
 }
 
 void StructureActions::OnActionEditTranslationCount()
 {
-    editCount(RecordKind::Translations, tr("Translation Count"), 0, &AnimBlock::setTranslationCount);
+    editCount(RecordKind::Translations, tr("Translation Count"), trackConsequence(), 0,
+              &AnimBlock::setTranslationCount);
 }
 
 void StructureActions::OnActionEditRotationCount()
 {
-    editCount(RecordKind::Rotations, tr("Rotation Count"), 0, &AnimBlock::setRotationCount);
+    editCount(RecordKind::Rotations, tr("Rotation Count"), trackConsequence(), 0,
+              &AnimBlock::setRotationCount);
 }
 
-void StructureActions::editCount(RecordKind group, const QString &title, int least,
-                                 void (AnimBlock::*resize)(int))
+void StructureActions::editCount(RecordKind group, const QString &title, const QString &consequence,
+                                 int least, void (AnimBlock::*resize)(int))
 {
     const RecordRef current = m_anim.tree->currentRecord();
     if (current.kind != group)
         return;
     const int count = m_anim.document.recordCount(recordRow(group)->counted, current.index);
     const AnimBlock &resized = m_anim.document.model().blocks[size_t(current.index[0])];
-    ChangeSizeDialog dialog(title, least, mostEntries(resized, group), count, m_window);
+    ChangeSizeDialog dialog(title, consequence, least, mostEntries(resized, group), count, m_window);
     if (dialog.exec() != QDialog::Accepted || dialog.size() == count)
         return;
     // Not an undo step, on purpose. Commands on the stack leave records alone that are gone.

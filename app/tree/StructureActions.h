@@ -89,7 +89,8 @@ private:
     template <typename RecordType, typename DocumentType>
     void copy(const Shown<DocumentType> &shown, std::optional<typename RecordType::Record> &buffer,
               const TreeMenu &menu);
-    void editCount(RecordKind group, const QString &title, int least, void (AnimBlock::*resize)(int));
+    void editCount(RecordKind group, const QString &title, const QString &consequence, int least,
+                   void (AnimBlock::*resize)(int));
 
     Shown<SkinnedMeshDocument> m_skinnedMesh;
     Shown<AnimDocument> m_anim;

@@ -68,6 +68,13 @@ void DocumentPanes::connectPane(const DocumentPane &pane)
     connect(pane.document, &Document::structuresChanged, this, [this, type] { OnRecordsChanged(type, {}); });
     connect(pane.tree, &KVTreeView::currentRecordChanged, this,
             [this, type](const RecordRef &record) { showInViewport(type, record); });
+    connect(pane.tree, &KVTreeView::told, this, &DocumentPanes::told);
+}
+
+void DocumentPanes::OnOptionsAccepted()
+{
+    for (const DocumentPane &each : m_panes)
+        each.tree->updateHiding();
 }
 
 void DocumentPanes::connectPlayback()

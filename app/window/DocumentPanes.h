@@ -67,6 +67,7 @@ public slots:
     /// The same, with the record current in its tree, which gets the keys.
     void showRecord(DocumentType type, const RecordRef &record);
     void OnSaved(DocumentType type);
+    void OnOptionsAccepted();
     void on_tabWidget_currentChanged();
     void on_tabTrees_currentChanged(int index);
 

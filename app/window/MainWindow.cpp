@@ -222,6 +222,7 @@ void MainWindow::connectActions()
     for (KVOpenGLWidget *viewport : m_panes->viewports())
         connect(m_preferences, &Preferences::foldersChanged, viewport, &KVOpenGLWidget::rebuildModel);
     connect(m_preferences, &Preferences::foldersChanged, m_problems, &Problems::recheck);
+    connect(m_preferences, &Preferences::accepted, m_panes, &DocumentPanes::OnOptionsAccepted);
     connect(m_preferences, &Preferences::accepted, m_explorerFiles, &ExplorerFiles::OnOptionsAccepted);
     connect(m_panes, &DocumentPanes::currentChanged, m_layout,
             [this] { m_layout->setModelShown(m_panes->current()); });

@@ -176,7 +176,7 @@ struct EveryWindow
     ImportDialog importStatic{ImportDialog::StaticMeshMode};
     RotateDialog rotate;
     ScaleDialog scale;
-    ChangeSizeDialog newSize{QStringLiteral("Size"), 1, 10, 5};
+    ChangeSizeDialog newSize{QStringLiteral("Size"), QStringLiteral("Some go."), 1, 10, 5};
     AboutDialog about;
     ControlsDialog controls{shortcuts};
     RecoverDialog recover;

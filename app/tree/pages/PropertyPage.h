@@ -137,13 +137,14 @@ protected:
         if (part.get(Command::Field::get(*shown)) == wanted)
             return;
 
-        QVector<RecordIndex> records = m_tree.selectedRecords(RecordType::kind);
-        if (!records.contains(index()))
-            records = {index()};
+        // What is highlighted is edited, and nothing else.
+        const QVector<RecordIndex> records = m_tree.selectedRecords(RecordType::kind);
+        if (records.isEmpty())
+            return;
         QUndoStack *stack = m_document.undoStack();
         if (!macroText.isEmpty())
             stack->beginMacro(macroText);
-        for (const RecordIndex &target : qAsConst(records)) {
+        for (const RecordIndex &target : records) {
             auto value = Command::Field::get(*RecordType::find(m_document.model(), target));
             part.set(value, wanted);
             stack->push(new Command(m_document.editTarget(), target, value));

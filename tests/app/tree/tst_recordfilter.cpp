@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "AnimCommands.h"
 #include "FilterLine.h"
 #include "KVTreeView.h"
 #include "NameTables.h"
 #include "Panes.h"
 #include "RecordFilter.h"
 #include "RecordItem.h"
+#include "RecordOrder.h"
 
 class tst_RecordFilter : public QObject
 {
@@ -106,6 +108,35 @@ private slots:
         const RecordRef moved{RecordKind::AnimAction, {0, 2}};
         QCOMPARE(pane.tree.findItem(moved)->record(), moved);
         QCOMPARE(pane.tree.findItem(action)->record().kind, RecordKind::AnimFile);
+
+        // What an edit is to show is let through, with a word, until the filter is another one.
+        const RecordRef hidden{RecordKind::AnimAction, {0, 0}};
+        QSignalSpy told(&pane.tree, &KVTreeView::told);
+        pane.document.undoStack()->push(new UC_AnimActionFrame(pane.document.editTarget(), hidden.index, 1));
+        QCOMPARE(pane.tree.currentRecord(), hidden);
+        QCOMPARE(told.count(), 1);
+        pane.document.undoStack()->push(new UC_AnimAddAction(pane.document.editTarget(), {0, 0, 0}, {}));
+        QCOMPARE(pane.tree.currentRecord(), hidden);
+        const RecordRef later{RecordKind::AnimAction, {0, 1}};
+        QVERIFY(pane.tree.findItem(later)->record() == later);
+        pane.tree.setFilter(QStringLiteral("event"));
+        pane.tree.setFilter(QStringLiteral("event 30"));
+        QCOMPARE(pane.tree.findItem(later)->record().kind, RecordKind::AnimActions);
+    }
+
+    void clearingTheFilterKeepsWhatIsSelectedAndOpen()
+    {
+        Pane<SkinnedMesh> pane(DocumentType::SkinnedMesh, RecordKind::SkinnedMesh);
+        pane.open(SampleModels::plainMesh());
+        pane.tree.setFilter(QStringLiteral("bone 1-2"));
+        pane.select({{RecordKind::Bone, {1}}, {RecordKind::Bone, {2}}});
+        pane.tree.setFilter({});
+        QCOMPARE(pane.tree.selectedRecords(RecordKind::Bone), QVector<RecordIndex>({{1}, {2}}));
+
+        QVector<RecordRef> records{
+            {RecordKind::Bone, {1}}, {RecordKind::HotPoint, {1}}, {RecordKind::SkinnedTriangleIndexes, {1}}};
+        shift(records, {{RecordKind::HotPoint, {0}}, -1, {}});
+        QCOMPARE(records[0].index[0] * 100 + records[1].index[0] * 10 + records[2].index[0], 101);
     }
 
 private:

@@ -108,6 +108,34 @@ private slots:
               ref(K::AnimAction, 2, 0));
     }
 
+    void onlyWhatIsHighlightedGoes()
+    {
+        SkinnedMesh model = SampleModels::skinnedMesh();
+        model.hotPoints.resize(5);
+        for (size_t i = 0; i < 5; ++i)
+            model.hotPoints[i].nodeId = qint16(i);
+        mesh().open(model);
+        KVTreeView *tree = select(ref(K::HotPoint, 1));
+        const auto click = [tree](int point, Qt::KeyboardModifiers keys) {
+            const QRect place = tree->visualItemRect(tree->findItem(ref(K::HotPoint, point)));
+            QTest::mouseClick(tree->viewport(), Qt::LeftButton, keys, place.center());
+        };
+        click(1, {});
+        click(4, Qt::ShiftModifier);
+        click(3, Qt::ControlModifier);
+        QCOMPARE(tree->currentRecord(), ref(K::HotPoint, 1));
+        QTest::keyClick(tree, Qt::Key_Delete);
+        const auto &points = mesh().document.model().hotPoints;
+        QCOMPARE(points.size(), size_t(2));
+        QVERIFY(points[0].nodeId == 0 && points[1].nodeId == 3);
+        // Nothing is highlighted: nothing is edited or removed.
+        click(1, {});
+        click(1, Qt::ControlModifier);
+        QCOMPARE(tree->currentRecord(), RecordRef());
+        QTest::keyClick(tree, Qt::Key_Delete);
+        QCOMPARE(points.size(), size_t(2));
+    }
+
     void newBlocks()
     {
         // As many bones as the first block, in its pose, and a frame.
@@ -242,6 +270,9 @@ private slots:
                 QTimer::singleShot(0, this, [&] {
                     auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
                     auto *box = dialog->findChild<IntSpinBox *>(QStringLiteral("sbSize"));
+                    QVERIFY(dialog->findChild<QLabel *>(QStringLiteral("lblConsequence"))
+                                ->text()
+                                .endsWith(QLatin1String("cannot be undone.")));
                     asked =
                         box->minimum() == row.least && box->maximum() == 65535 && box->value() == row.current;
                     // The number is selected: typing replaces it.

@@ -118,6 +118,33 @@ private slots:
         QCOMPARE(pane.tree.selectedRecords(RecordKind::Bone), QVector<RecordIndex>({{1}, {2}}));
         // The one that single steps would have ended with.
         QCOMPARE(pane.tree.currentRecord(), (RecordRef{RecordKind::Bone, {1}}));
+
+        // A jump in the history goes over steps of several kinds: those of the last one are selected.
+        emit pane.document.recordsChanged({{RecordKind::HotPoint, {0}},
+                                           {RecordKind::SkinnedVertex, {2}},
+                                           {RecordKind::SkinnedVertex, {1}}});
+        QCOMPARE(pane.tree.selectedItems().size(), 2);
+        QCOMPARE(pane.tree.currentRecord(), (RecordRef{RecordKind::SkinnedVertex, {1}}));
+    }
+
+    void hidingTakesEffectAtOnce()
+    {
+        Settings::HideMeshData.setValue(false);
+        MeshPane pane;
+        pane.open(m_mesh);
+        pane.tree.findItem({RecordKind::Bones, {}})->setExpanded(true);
+        pane.select({{RecordKind::Bone, {1}}, {RecordKind::Bone, {2}}});
+        for (const bool hidden : {true, false}) {
+            Settings::HideMeshData.setValue(hidden);
+            pane.tree.updateHiding();
+            QCOMPARE(pane.tree.findItem({RecordKind::SkinnedVertices, {}})->childCount(), hidden ? 0 : 4);
+            QVERIFY(pane.tree.findItem({RecordKind::Bones, {}})->isExpanded());
+            QCOMPARE(pane.tree.selectedRecords(RecordKind::Bone), QVector<RecordIndex>({{1}, {2}}));
+        }
+        pane.select({{RecordKind::SkinnedVertex, {3}}});
+        Settings::HideMeshData.setValue(true);
+        pane.tree.updateHiding();
+        QCOMPARE(pane.tree.currentRecord(), (RecordRef{RecordKind::SkinnedVertices, {}}));
     }
 
 private:

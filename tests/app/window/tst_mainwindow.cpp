@@ -6,6 +6,7 @@
 #include "KVOpenGLWidget.h"
 #include "NoticeBar.h"
 #include "Playback.h"
+#include "RecordItem.h"
 #include "ReferenceTable.h"
 
 class tst_MainWindow : public QObject
@@ -33,6 +34,23 @@ private slots:
              {"HideMeshData", "HideAnimData", "SkinnedMeshQuickSelect", "AnimationQuickSelect",
               "StaticMeshQuickSelect", "AnimationSyncSkin", "AnimationAutoPlay"})
             QCOMPARE(QSettings().value(key), QVariant(true));
+    }
+
+    void hidingTakesEffectWithTheOptions()
+    {
+        ShownWindow window({m_files->save("man.skinnedmesh", triangleMan())});
+        const auto *tree = find<KVTreeView>(window, "treeSkinnedMesh");
+        const auto vertices = [tree] {
+            return tree->findItem({RecordKind::SkinnedVertices, {}})->childCount();
+        };
+        const int before = vertices();
+        const Hand hand({[](QDialog *dialog) {
+            find<QCheckBox>(*dialog, "cbHideMeshData")->click();
+            dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->click();
+        }});
+        find<QAction>(window, "actionPreferences")->trigger();
+        QCOMPARE(vertices(), 3 - before);
+        Settings::HideMeshData.setValue(before == 0);
     }
 
     void editUndoSave()

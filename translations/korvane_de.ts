@@ -748,6 +748,10 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>Timeline</source>
         <translation>Zeitleiste</translation>
     </message>
+    <message>
+        <source>The frame that is shown, and the last frame; the first one is 0</source>
+        <translation>Der gezeigte Frame und der letzte; der erste ist 0</translation>
+    </message>
 </context>
 <context>
     <name>AnimTranslationPage</name>

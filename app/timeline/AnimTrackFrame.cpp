@@ -67,6 +67,7 @@ AnimTrackFrame::AnimTrackFrame(QWidget *parent)
 
     connect(m_ui->btnAnimTrackLoop, &QToolButton::toggled, this, &AnimTrackFrame::OnAnimTrackLoopToggled);
     connect(m_ui->sliderAnimTrack, &QSlider::valueChanged, this, &AnimTrackFrame::OnAnimTrackSliderChanged);
+    connect(m_ui->sliderAnimTrack, &TrackSlider::frameAsked, this, &AnimTrackFrame::OnAnimTrackFrameAsked);
     connect(m_ui->sliderAnimTrack, &TrackSlider::actionChosen, this,
             [this](int action) { emit actionChosen(playback().blockIndex, action); });
     connect(m_ui->cbAnimTrackBlock, qOverload<int>(&QComboBox::activated), this,
@@ -213,10 +214,8 @@ void AnimTrackFrame::goTo(int frame)
 {
     if (frame < 0 || frame > m_ui->sliderAnimTrack->maximum())
         return;
-    playback().playState = PlayState::Paused;
     m_ui->sliderAnimTrack->setValue(frame);
-    // The slider says nothing where it stands already.
-    OnAnimTrackSliderChanged(frame);
+    OnAnimTrackFrameAsked(frame);
 }
 
 void AnimTrackFrame::step(int direction)
@@ -263,4 +262,12 @@ void AnimTrackFrame::OnAnimTrackSliderChanged(int frame)
         return;
     playback().time = float(frame) / playRate(block->speed);
     emit playbackChanged();
+}
+
+void AnimTrackFrame::OnAnimTrackFrameAsked(int frame)
+{
+    // What plays would go on from there, and the initial pose would hide it.
+    playback().playState = PlayState::Paused;
+    // The slider says nothing where it stands already.
+    OnAnimTrackSliderChanged(frame);
 }

@@ -59,6 +59,7 @@ private slots:
     void OnAnimTrackPosePressed();
     void OnAnimTrackLoopToggled(bool on);
     void OnAnimTrackSliderChanged(int frame);
+    void OnAnimTrackFrameAsked(int frame);
 
 private:
     void addTrackAction(QAction *action, const QString &name, int key);

@@ -45,7 +45,11 @@ QString textOf(int index, const AnimAction &action)
 
 TrackSlider::TrackSlider(QWidget *parent)
     : QSlider(parent)
-{}
+{
+    const auto ask = [this] { emit frameAsked(sliderPosition()); };
+    connect(this, &QSlider::sliderPressed, this, ask);
+    connect(this, &QSlider::actionTriggered, this, ask);
+}
 
 void TrackSlider::setActions(const AnimBlock *block)
 {
@@ -85,16 +89,20 @@ int TrackSlider::markedFrame(int frame, int direction) const
     return nearest;
 }
 
-int TrackSlider::xOf(int frame) const
+QRect TrackSlider::frames() const
 {
     QStyleOptionSlider option;
     initStyleOption(&option);
     const QRect groove = style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, this);
     const int handle =
         style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this).width();
-    return groove.x() + handle / 2 +
-           QStyle::sliderPositionFromValue(minimum(), maximum(), frame, groove.width() - handle,
-                                           option.upsideDown);
+    return {groove.x() + handle / 2, 0, groove.width() - handle, height()};
+}
+
+int TrackSlider::xOf(int frame) const
+{
+    const QRect track = frames();
+    return track.x() + QStyle::sliderPositionFromValue(minimum(), maximum(), frame, track.width());
 }
 
 const TrackSlider::Mark *TrackSlider::markAt(int x) const
@@ -138,6 +146,20 @@ void TrackSlider::paintEvent(QPaintEvent *event)
         const double x = xOf(mark.frame) + 0.5;
         painter.drawPolygon(QPolygonF({{x - 3.5, 0.0}, {x + 3.5, 0.0}, {x, double(MarkHeight)}}));
     }
+}
+
+void TrackSlider::mousePressEvent(QMouseEvent *event)
+{
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    const QRect track = frames();
+    // Brings the handle under the mouse, which drags it on.
+    if (event->button() == Qt::LeftButton &&
+        style()->hitTestComplexControl(QStyle::CC_Slider, &option, event->pos(), this) !=
+            QStyle::SC_SliderHandle)
+        setSliderPosition(QStyle::sliderValueFromPosition(minimum(), maximum(), event->pos().x() - track.x(),
+                                                          track.width()));
+    QSlider::mousePressEvent(event);
 }
 
 void TrackSlider::mouseDoubleClickEvent(QMouseEvent *event)

@@ -7,8 +7,9 @@
 
 struct AnimBlock;
 
-/// A slider over the frames of an animation, with a mark where each of its key frame actions stands. The tool
-/// tip of a mark says what its actions do, a double click chooses the first of them.
+/// A slider over the frames of an animation, with a mark where each of its key frame actions stands. A press
+/// goes to the frame under the mouse. The tool tip of a mark says what its actions do, a double click chooses
+/// the first of them.
 class TrackSlider : public QSlider
 {
     Q_OBJECT
@@ -27,10 +28,13 @@ public:
 signals:
     /// The mark of this action was double-clicked: the first of the frame's, then the next of them.
     void actionChosen(int action);
+    /// A hand has taken the slider, or moved it: it asks for this frame.
+    void frameAsked(int frame);
 
 protected:
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
 
 private:
@@ -42,6 +46,8 @@ private:
     };
 
     const Mark *markAt(int x) const;
+    /// Where frames stand: from the first at the left to the last at the right.
+    QRect frames() const;
 
     QVector<Mark> m_marks; ///< one per frame, ascending
     int m_chosen = -1;     ///< the action that was chosen last

@@ -4,9 +4,11 @@
 
 #include "Settings.h"
 
+#include <QAction>
 #include <QCryptographicHash>
 #include <QDataStream>
 #include <QDockWidget>
+#include <QEvent>
 #include <QMainWindow>
 #include <QSplitter>
 
@@ -26,7 +28,9 @@ QByteArray checksumOf(const QByteArray &state, const QVariantMap &splitters)
 WindowLayout::WindowLayout(QMainWindow *window)
     : QObject(window)
     , m_window(window)
+    , m_fullScreen(window->findChild<QAction *>(QStringLiteral("actionFullScreen")))
 {
+    window->installEventFilter(this);
     setDefaults();
     m_defaults = m_window->saveState();
 }
@@ -101,4 +105,12 @@ void WindowLayout::on_actionFullScreen_triggered(bool on)
 {
     const Qt::WindowStates state = m_window->windowState();
     m_window->setWindowState(on ? state | Qt::WindowFullScreen : state & ~Qt::WindowFullScreen);
+}
+
+bool WindowLayout::eventFilter(QObject *watched, QEvent *event)
+{
+    // Window managers take and leave the full screen too.
+    if (watched == m_window && event->type() == QEvent::WindowStateChange)
+        m_fullScreen->setChecked(m_window->isFullScreen());
+    return QObject::eventFilter(watched, event);
 }

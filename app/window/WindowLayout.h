@@ -6,6 +6,7 @@
 #include <QList>
 #include <QObject>
 
+class QAction;
 class QDockWidget;
 class QMainWindow;
 
@@ -32,10 +33,14 @@ public slots:
     void on_actionResetLayout_triggered();
     void on_actionFullScreen_triggered(bool on);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void setDefaults();
 
     QMainWindow *m_window;
     QList<QDockWidget *> m_aside; ///< hidden as long as no model is shown
+    QAction *m_fullScreen;
     QByteArray m_defaults; ///< of docks and tool bars
 };

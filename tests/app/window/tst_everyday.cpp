@@ -163,6 +163,16 @@ private slots:
         QCOMPARE(view->currentIndex().row(), index);
     }
 
+    // As when the window manager takes the full screen.
+    void fullScreenIsLeftWhoeverTookIt()
+    {
+        ShownWindow window;
+        window.showFullScreen();
+        QVERIFY(find<QAction>(window, "actionFullScreen")->isChecked());
+        QTest::keyClick(&window, Qt::Key_F11);
+        QVERIFY(!window.isFullScreen() && !find<QAction>(window, "actionFullScreen")->isChecked());
+    }
+
     void theTrackIsSteppedAndMarked()
     {
         AnimFile file = twoBlocks();
@@ -198,6 +208,26 @@ private slots:
             press(' ');
             QCOMPARE(playback().playState, state);
             QVERIFY(find<QToolButton>(window, name)->isChecked());
+        }
+
+        // A hand at the slider pauses what plays, and shows a frame instead of the initial pose.
+        for (const PlayState before : {PlayState::InitialPose, PlayState::Playing}) {
+            playback().playState = before;
+            QTest::mousePress(slider, Qt::LeftButton, {}, {slider->xOf(6), slider->height() / 2});
+            QCOMPARE(playback().playState, PlayState::Paused);
+            QCOMPARE(playback().time, 0.6f);
+            const QPoint end(slider->xOf(4), slider->height() / 2);
+            QMouseEvent move(QEvent::MouseMove, end, slider->mapToGlobal(end), Qt::NoButton, Qt::LeftButton,
+                             {});
+            QApplication::sendEvent(slider, &move);
+            QTest::mouseRelease(slider, Qt::LeftButton, {}, end);
+            QCOMPARE(playback().time, 0.4f);
+            playback().playState = before;
+            QTest::mouseClick(slider, Qt::LeftButton, {}, end); // the handle
+            QVERIFY(playback().playState == PlayState::Paused && playback().time == 0.4f);
+            playback().playState = before;
+            QTest::keyClick(slider, Qt::Key_Right);
+            QVERIFY(playback().playState == PlayState::Paused && playback().time == 0.5f);
         }
 
         auto *speed = find<FloatSpinBox>(window, "sbAnimTrackSpeed");

@@ -134,6 +134,7 @@ inline const SettingKey<bool> ShowAxisGizmo{"ShowAxisGizmo", false};
 inline const SettingKey<bool> BackCull{"BackCull", false};
 inline const SettingKey<int> SurfSelectType{"SurfSelectType", 0};
 inline const SettingKey<int> Shading{"Shading", 0};
+inline const SettingKey<bool> ShowSurfaceTint{"ShowSurfaceTint", true};
 inline const SettingKey<bool> ShowSkeleton{"ShowSkeleton", false};
 inline const SettingKey<bool> ShowHotPoints{"ShowHotPoints", false};
 inline const SettingKey<bool> ShowStatistics{"ShowStatistics", false};

@@ -124,13 +124,24 @@ void GLMesh::setIndexes(const std::vector<std::vector<quint16>> &indexes)
 void GLMesh::draw(const TexturedProgram &program, GLenum mode)
 {
     m_vertexArray.bind();
-    for (size_t i = 0; i < m_surfaces.size() && i < m_textures.size(); ++i) {
-        m_gl.glUniform4f(program.colorHighlight, 0.0f, 0.0f, int(i) == selectedSurface ? SelectionBlue : 0.0f,
-                         1.0f);
-        m_gl.glBindTexture(GL_TEXTURE_2D, m_textures[i]->textureId());
-        drawIndexes(int(i), mode);
-    }
+    for (size_t i = 0; i < m_surfaces.size() && i < m_textures.size(); ++i)
+        drawSurface(i, program, mode);
     m_vertexArray.release();
+}
+
+void GLMesh::drawSelected(const TexturedProgram &program)
+{
+    m_vertexArray.bind();
+    drawSurface(size_t(selectedSurface), program, GL_TRIANGLES);
+    m_vertexArray.release();
+}
+
+void GLMesh::drawSurface(size_t surface, const TexturedProgram &program, GLenum mode)
+{
+    const bool tinted = tintsSelected && int(surface) == selectedSurface;
+    m_gl.glUniform4f(program.colorHighlight, 0.0f, 0.0f, tinted ? SelectionBlue : 0.0f, 1.0f);
+    m_gl.glBindTexture(GL_TEXTURE_2D, m_textures[surface]->textureId());
+    drawIndexes(int(surface), mode);
 }
 
 void GLMesh::drawPlain(int surface, GLenum mode)

@@ -44,15 +44,20 @@ public:
     const std::vector<quint16> &indexes(int surface) const { return m_surfaces[size_t(surface)].indexes; }
     bool hasSelectedSurface() const { return selectedSurface >= 0 && selectedSurface < surfaceCount(); }
 
-    /// Draws all surfaces with `program`, which is bound and has its matrix set; tints the selected one.
+    // With `program`, which is bound and has its matrix set; the selected one tinted, where that is wanted.
+
+    /// Draws all surfaces.
     void draw(const TexturedProgram &program, GLenum mode = GL_TRIANGLES);
+    /// Draws the selected surface; there has to be one.
+    void drawSelected(const TexturedProgram &program);
     /// Draws the index list of a surface as triangles, lines or points over this mesh's vertices.
     void drawPlain(int surface, GLenum mode);
     /// The same over the vertices of whatever vertex array object is bound.
     void drawIndexes(int surface, GLenum mode);
 
-    BonePalette palette;             ///< one matrix per bone of a skinned mesh, identity until posed
-    int selectedSurface = NoSurface; ///< drawn with a blue tint
+    BonePalette palette; ///< one matrix per bone of a skinned mesh, identity until posed
+    int selectedSurface = NoSurface;
+    bool tintsSelected = true; ///< with blue
 
 private:
     struct Surface
@@ -63,6 +68,7 @@ private:
 
     template <typename Model>
     void refreshFrom(const Model &mesh, bool indexesToo);
+    void drawSurface(size_t surface, const TexturedProgram &program, GLenum mode);
     void addTexture(const QImage &image);
     void uploadVertices();
     void setIndexes(const std::vector<std::vector<quint16>> &indexes);

@@ -67,6 +67,7 @@ public:
     void setSurfSelectType(int type) { change(m_scene.frame.overlay, ShownScene::overlay(type)); }
     /// 0 to 2, see Shading; anything else is 0.
     void setShading(int shading) { change(m_scene.frame.shading, ShownScene::shading(shading)); }
+    void setShowSurfaceTint(bool on) { change(m_scene.frame.showSurfaceTint, on); }
     void setShowSkeleton(bool on);
     void setShowHotPoints(bool on);
     void setShowStatistics(bool on); ///< frames a second and the number of triangles, in a corner

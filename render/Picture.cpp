@@ -20,7 +20,7 @@ constexpr int OversampledSide = 4096;
 QImage paintOnce(ScenePainter &painter, const SceneFrame &frame, const QSize &size)
 {
     QOpenGLFramebufferObjectFormat format;
-    format.setAttachment(QOpenGLFramebufferObject::Depth);
+    format.setAttachment(QOpenGLFramebufferObject::CombinedDepthStencil);
     format.setSamples(std::max(size.width(), size.height()) > OversampledSide ? 0 : Samples);
     QOpenGLFramebufferObject target(size, format);
     if (!target.isValid() || !target.bind())

@@ -20,8 +20,8 @@ namespace {
 constexpr float SphereRadius = 0.028f;
 constexpr float QuadRadius = 0.014f;
 constexpr float NearestMarker = 5.12f; // the near plane: behind it nothing is seen
-/// The overlay is drawn this much nearer to the eye, in the same place on the screen, so that the surface it
-/// lies on does not hide it.
+/// The overlay and the outline are drawn this much nearer to the eye, in the same place on the screen, so
+/// that the surface they lie on does not hide them.
 constexpr float OverlayPull = 0.998f;
 constexpr QVector3D DarkWires(0.08f, 0.08f, 0.1f);
 constexpr QVector3D LightWires(0.65f, 0.68f, 0.72f);
@@ -53,6 +53,7 @@ ScenePainter::ScenePainter(const std::function<void()> &stepFailed)
     , m_axisGizmo(FixedMeshes::axisGizmo())
     , m_redQuad(FixedMeshes::redQuad())
     , m_wireSphere(FixedMeshes::wireSphere())
+    , m_outline(m_gl)
 {
     m_posedArray.create();
     m_posedBuffer.create();
@@ -182,10 +183,12 @@ void ScenePainter::paintModel(const SceneFrame &frame)
         beginTextured(textured, frame);
         uploadPalette();
     }
-    if (frame.shading == Shading::Shaded || !m_polygonMode)
-        drawTextured(textured, *m_model, mvp);
-    else
-        paintWires(textured, mvp, frame.shading);
+    m_model->tintsSelected = frame.showSurfaceTint;
+    if (frame.shading != Shading::Shaded && m_polygonMode)
+        return paintWires(textured, mvp, frame.shading); // whose edges are of another colour
+    drawTextured(textured, *m_model, mvp);
+    if (frame.showSurfaceTint && m_model->hasSelectedSurface())
+        m_outline.paint(textured, *m_model, pulledMatrix(frame), frame.viewport);
 }
 
 void ScenePainter::paintWires(TexturedProgram &textured, const QMatrix4x4 &mvp, Shading shading)
@@ -234,9 +237,7 @@ void ScenePainter::paintOverlay(const SceneFrame &frame)
         return;
 
     m_programs.highlight.bind();
-    QMatrix4x4 pull;
-    pull.scale(OverlayPull);
-    const QMatrix4x4 mvp = frame.projection * pull * frame.view * m_modelMatrix;
+    const QMatrix4x4 mvp = pulledMatrix(frame);
     m_gl.glUniformMatrix4fv(m_programs.highlightMvpMatrix, 1, GL_FALSE, mvp.constData());
     const bool lines = kind == SurfaceOverlay::Lines || kind == SurfaceOverlay::LinesHidden;
     // Lines join the indexes two by two as they stand: not the triangles' edges.
@@ -245,6 +246,13 @@ void ScenePainter::paintOverlay(const SceneFrame &frame)
         drawPosedSurface(m_model->selectedSurface, mode);
     else
         m_model->drawPlain(m_model->selectedSurface, mode);
+}
+
+QMatrix4x4 ScenePainter::pulledMatrix(const SceneFrame &frame) const
+{
+    QMatrix4x4 pull;
+    pull.scale(OverlayPull);
+    return frame.projection * pull * frame.view * m_modelMatrix;
 }
 
 void ScenePainter::drawPosedSurface(int surface, GLenum mode)

@@ -5,6 +5,7 @@
 #include "GLMesh.h"
 #include "SceneOverlay.h"
 #include "ShaderPrograms.h"
+#include "SurfaceOutline.h"
 
 #include <QQuaternion>
 #include <QSize>
@@ -42,6 +43,7 @@ struct SceneFrame
     float brightness = 1.0f;
     float groundHeight = 0.0f; ///< model z, 0 or below
     Shading shading = Shading::Shaded;
+    bool showSurfaceTint = true; ///< with its outline
     SurfaceOverlay overlay = SurfaceOverlay::None;
     int selectedBone = -1;
     HighlightPoint highlight;
@@ -86,6 +88,7 @@ private:
     void paintWires(TexturedProgram &textured, const QMatrix4x4 &mvp, Shading shading);
     void uploadPalette();
     void paintOverlay(const SceneFrame &frame);
+    QMatrix4x4 pulledMatrix(const SceneFrame &frame) const;
     void drawPosedSurface(int surface, GLenum mode);
     void paintBoneMarker(const SceneFrame &frame);
     void paintMarks(const SceneFrame &frame);
@@ -104,6 +107,7 @@ private:
     GLMesh m_axisGizmo;
     GLMesh m_redQuad;
     GLMesh m_wireSphere;
+    SurfaceOutline m_outline;
     SceneOverlay m_overlay;
     QMatrix4x4 m_modelMatrix; ///< of the frame being painted
     std::array<float, 16 * ShaderPrograms::BoneLimit> m_boneUpload{};

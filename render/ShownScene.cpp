@@ -21,6 +21,7 @@ ShownScene::ShownScene()
     frame.marks.hotPoints = Settings::ShowHotPoints.value();
     frame.overlay = overlay(Settings::SurfSelectType.value());
     frame.shading = shading(Settings::Shading.value());
+    frame.showSurfaceTint = Settings::ShowSurfaceTint.value();
 }
 
 bool ShownScene::setSkinned(bool on)

@@ -21,6 +21,10 @@ DisplayOptions::DisplayOptions(const Viewports &viewports, QWidget *window)
     m_hotPoints = viewportAction("actionHotPoints", "hotpoints", tr("Hot &Points"),
                                  tr("Show the hot points over the model; a click selects one"), {Qt::Key_H},
                                  viewports, window);
+    m_surfaceTint =
+        viewportAction("actionSurfaceTint", nullptr, tr("&Selection Tint"),
+                       tr("Tint and outline the selected surface; without, its material can be judged"),
+                       {Qt::Key_T}, viewports, window);
     m_statistics =
         viewportAction("actionStatistics", nullptr, tr("Frame Ra&te"),
                        tr("Show frames a second and the number of triangles"), {}, viewports, window);
@@ -31,9 +35,11 @@ DisplayOptions::DisplayOptions(const Viewports &viewports, QWidget *window)
     };
     check(m_skeleton, Settings::ShowSkeleton.value());
     check(m_hotPoints, Settings::ShowHotPoints.value());
+    check(m_surfaceTint, Settings::ShowSurfaceTint.value());
     check(m_statistics, Settings::ShowStatistics.value());
     connect(m_skeleton, &QAction::triggered, this, &DisplayOptions::OnSkeletonToggled);
     connect(m_hotPoints, &QAction::triggered, this, &DisplayOptions::OnHotPointsToggled);
+    connect(m_surfaceTint, &QAction::triggered, this, &DisplayOptions::OnSurfaceTintToggled);
     connect(m_statistics, &QAction::triggered, this, &DisplayOptions::OnStatisticsToggled);
 }
 
@@ -82,6 +88,13 @@ void DisplayOptions::OnHotPointsToggled(bool on)
     Settings::ShowHotPoints.setValue(on);
     for (KVOpenGLWidget *viewport : m_viewports)
         viewport->setShowHotPoints(on);
+}
+
+void DisplayOptions::OnSurfaceTintToggled(bool on)
+{
+    Settings::ShowSurfaceTint.setValue(on);
+    for (KVOpenGLWidget *viewport : m_viewports)
+        viewport->setShowSurfaceTint(on);
 }
 
 void DisplayOptions::OnStatisticsToggled(bool on)

@@ -24,6 +24,7 @@ public:
     QMenu *shadingMenu() const { return m_shadingMenu; }
     QAction *skeleton() const { return m_skeleton; }
     QAction *hotPoints() const { return m_hotPoints; }
+    QAction *surfaceTint() const { return m_surfaceTint; }
     /// Frames a second and the number of triangles.
     QAction *statistics() const { return m_statistics; }
 
@@ -31,6 +32,7 @@ private slots:
     void OnShadingChosen(QAction *action);
     void OnSkeletonToggled(bool on);
     void OnHotPointsToggled(bool on);
+    void OnSurfaceTintToggled(bool on);
     void OnStatisticsToggled(bool on);
 
 private:
@@ -41,5 +43,6 @@ private:
     QActionGroup *m_shadings;
     QAction *m_skeleton;
     QAction *m_hotPoints;
+    QAction *m_surfaceTint;
     QAction *m_statistics;
 };

@@ -244,23 +244,31 @@ void DocumentPanes::OnRecordsChanged(DocumentType type, const QVector<RecordRef>
         m_track.updateRange();
 }
 
+// A view that two trees share marks what is selected in the one in front.
+bool DocumentPanes::isMarked(DocumentType type) const
+{
+    return type == DocumentType::StaticMesh ||
+           (m_tabs.trees->currentIndex() == 0) == (type == DocumentType::SkinnedMesh);
+}
+
 void DocumentPanes::showInViewport(DocumentType type, const RecordRef &record)
 {
+    const bool isNew = std::exchange(m_shown[size_t(type)], record) != record;
+    const bool underBlock =
+        type == DocumentType::Anim && record.kind != RecordKind::None && record.kind != RecordKind::AnimFile;
+    const int block = record.index[0];
+    if (underBlock && isNew && (record.kind == RecordKind::AnimBlock || block != playback().blockIndex))
+        m_track.selectBlock(block);
+    if (!isMarked(type))
+        return;
     m_selection->mark(type);
-    const bool isNew = m_shown[size_t(type)] != record;
-    m_shown[size_t(type)] = record;
     switch (type) {
     case DocumentType::SkinnedMesh:
         markRecord(*pane(type).viewport, m_skinnedMesh.model(), record);
         break;
-    case DocumentType::Anim: {
+    case DocumentType::Anim:
         markRecord(*pane(type).viewport, m_anim.model(), record);
-        const bool underBlock = record.kind != RecordKind::None && record.kind != RecordKind::AnimFile;
-        const int block = record.index[0];
-        if (underBlock && isNew && (record.kind == RecordKind::AnimBlock || block != playback().blockIndex))
-            m_track.selectBlock(block);
         break;
-    }
     case DocumentType::StaticMesh:
         markRecord(*pane(type).viewport, m_staticMesh.model(), record);
         break;

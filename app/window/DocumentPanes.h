@@ -87,6 +87,7 @@ private:
     void OnRecordsChanged(DocumentType type, const QVector<RecordRef> &records);
     void selectRecord(DocumentType type, const RecordRef &record);
     void showPicked(DocumentType type, const RecordRef &record);
+    bool isMarked(DocumentType type) const;
     void showInViewport(DocumentType type, const RecordRef &record);
 
     const std::array<DocumentPane, 3> m_panes;

@@ -18,8 +18,8 @@ ViewMenu::ViewMenu(const Ui::MainWindow &ui, const DocumentPanes &panes, QAction
     const auto *display = new DisplayOptions(panes.viewports(), window);
     QMenu *menu = ui.menuView;
     menu->insertMenu(ui.actionResetCamera, display->shadingMenu());
-    menu->insertActions(ui.actionResetCamera,
-                        {display->skeleton(), display->hotPoints(), display->statistics()});
+    menu->insertActions(ui.actionResetCamera, {display->skeleton(), display->hotPoints(),
+                                               display->surfaceTint(), display->statistics()});
     menu->insertSeparator(ui.actionResetCamera);
     auto *camera = new CameraMenu(
         panes.viewports(), [&panes] { return panes.currentViewport(); },

@@ -20,6 +20,8 @@ private slots:
     void texturedSquare_data() { addContexts(); }
     void texturedSquare();
     void holesShowWhatIsBehind();
+    void theSelectedSurfaceIsOutlined_data() { addContexts(); }
+    void theSelectedSurfaceIsOutlined();
     void overlays();
     void posedOverlay();
     void groundAndGizmo();
@@ -87,7 +89,7 @@ void tst_Viewport::texturedSquare()
              core33);
 
     // A model's right (-x) is on the viewer's left, and the picture stands on its feet.
-    const int left = 175, right = 225, upper = 125, lower = 175;
+    const int left = 165, right = 225, upper = 125, lower = 165;
     QVERIFY(isRed(m_view->pixel(left, upper)));
     QVERIFY(isColor(m_view->pixel(right, upper), 0, 0, 255));
     QVERIFY(isWhite(m_view->pixel(left, lower)));
@@ -152,6 +154,40 @@ void tst_Viewport::holesShowWhatIsBehind()
         dark += m_view->pixel(x, 199).green() < 130 || m_view->pixel(x, 200).green() < 130 ? 1 : 0;
     QVERIFY(dark > 20);
     m_view->setSkinnedMesh(nullptr);
+    m_view->setStaticMesh(nullptr);
+}
+
+// Blue added to white is white: there is a line around the surface, where it is seen.
+void tst_Viewport::theSelectedSurfaceIsOutlined()
+{
+    QFETCH(bool, core33);
+    m_view = makeView(core33);
+    m_view->openSquare();
+    const auto isOutline = [](const QColor &color) { return isColor(color, 255, 140, 0); };
+    QCOMPARE(m_view->count(isOutline), 0);
+    m_view->setSelectedSurface(0);
+    const int line = m_view->count(isOutline); // three sides of about 100, 100 and 140 pixels
+    QVERIFY2(line > 400 && line < 900, qPrintable(QString::number(line)));
+    QVERIFY(isWhite(m_view->pixel(170, 120)));
+    QVERIFY(isWhite(m_view->pixel(230, 180)));
+    const QImage picture = m_view->picture(m_view->size() * 2, Qt::black);
+    int inPicture = 0;
+    for (int x = 0; x < picture.width(); ++x)
+        inPicture += isOutline(picture.pixelColor(x, 250)) ? 1 : 0;
+    QVERIFY(inPicture >= 2);
+
+    m_view->setShowSurfaceTint(false);
+    QCOMPARE(m_view->count(isOutline), 0);
+    m_view->setShowSurfaceTint(true);
+    StaticMesh walled = m_view->square;
+    for (StaticMeshVertex vertex : m_view->square.vertices) {
+        vertex.position = {vertex.position.x() * 2.0f, -20.0f, vertex.position.z() * 2.0f - 300.0f};
+        walled.vertices.push_back(vertex);
+    }
+    walled.surfaces.push_back({QStringLiteral("_white"), {4, 5, 6, 4, 6, 7}});
+    m_view->setStaticMesh(&walled);
+    m_view->setSelectedSurface(0);
+    QCOMPARE(m_view->count(isOutline), 0); // the wall hides it
     m_view->setStaticMesh(nullptr);
 }
 

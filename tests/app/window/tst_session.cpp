@@ -62,6 +62,21 @@ private slots:
         QVERIFY(Settings::Session.value().isEmpty());
     }
 
+    // The animation, which comes after it, has no say in what the view marks while the mesh is in front.
+    void whatIsSelectedIsMarked()
+    {
+        {
+            Started window({m_mesh, m_anim});
+            find<QTabWidget>(window, "tabTrees")->setCurrentIndex(0);
+            select(window, "treeSkinnedMesh", {{RecordKind::SkinnedSurface, {0}}});
+            window.close();
+        }
+        Started window;
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        auto *view = find<KVOpenGLWidget>(window, "viewSkinned");
+        QTRY_VERIFY(countPixels(view->grabFramebuffer(), QColor(255, 140, 0)) > 50);
+    }
+
     void aSessionIsKeptWhereItIsWanted()
     {
         Settings::RestoreSession.setValue(false);

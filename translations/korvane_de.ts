@@ -1323,6 +1323,14 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>Skelet&amp;on</source>
         <translation>Sk&amp;elett</translation>
     </message>
+    <message>
+        <source>&amp;Selection Tint</source>
+        <translation>Aus&amp;wahl einfärben</translation>
+    </message>
+    <message>
+        <source>Tint and outline the selected surface; without, its material can be judged</source>
+        <translation>Die ausgewählte Fläche einfärben und umranden; ohne beides lässt sich ihr Material beurteilen</translation>
+    </message>
 </context>
 <context>
     <name>Document</name>
@@ -2793,10 +2801,6 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <translation>&amp;Ordner neu einlesen</translation>
     </message>
     <message>
-        <source>Read the folders of the explorers again</source>
-        <translation>Die Ordner der Explorer neu einlesen</translation>
-    </message>
-    <message>
         <source>&amp;Clear Console</source>
         <translation>&amp;Konsole leeren</translation>
     </message>
@@ -2923,6 +2927,10 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>Version and licenses</source>
         <translation>Version und Lizenzen</translation>
+    </message>
+    <message>
+        <source>Read the folders of the explorers and the textures again</source>
+        <translation>Die Ordner der Explorer und die Texturen neu einlesen</translation>
     </message>
 </context>
 <context>

@@ -34,6 +34,7 @@
 #include "Shortcuts.h"
 #include "StructureActions.h"
 #include "TemporaryFolder.h"
+#include "TextureWatch.h"
 #include "UndoActions.h"
 #include "UpdatePrompt.h"
 #include "ViewMenu.h"
@@ -219,9 +220,10 @@ void MainWindow::connectActions()
     wire(m_ui->actionPreferences, m_preferences, &Preferences::on_actionPreferences_triggered);
     wire(m_ui->actionFullScreen, m_layout, &WindowLayout::on_actionFullScreen_triggered);
     wire(m_ui->actionResetLayout, m_layout, &WindowLayout::on_actionResetLayout_triggered);
-    for (KVOpenGLWidget *viewport : m_panes->viewports())
-        connect(m_preferences, &Preferences::foldersChanged, viewport, &KVOpenGLWidget::rebuildModel);
-    connect(m_preferences, &Preferences::foldersChanged, m_problems, &Problems::recheck);
+    auto *textures = new TextureWatch(m_skinnedMesh, m_staticMesh, m_panes->viewports(), this);
+    wire(m_ui->actionRefreshExplorers, textures, &TextureWatch::reload);
+    connect(m_preferences, &Preferences::foldersChanged, textures, &TextureWatch::reload);
+    connect(textures, &TextureWatch::reloaded, m_problems, &Problems::recheck);
     connect(m_preferences, &Preferences::accepted, m_panes, &DocumentPanes::OnOptionsAccepted);
     connect(m_preferences, &Preferences::accepted, m_explorerFiles, &ExplorerFiles::OnOptionsAccepted);
     connect(m_panes, &DocumentPanes::currentChanged, m_layout,

@@ -31,6 +31,7 @@ private slots:
             QTest::keyClick(view, Qt::Key_4);
             QTest::keyClick(view, Qt::Key_B);
             QTest::keyClick(view, Qt::Key_H);
+            QTest::keyClick(view, Qt::Key_T);
             for (const char *name :
                  {"actionStatistics", "actionOrbit", "actionGround", "actionTransGizmo", "actionCullBack"})
                 find<QAction>(*window, name)->trigger();
@@ -54,6 +55,7 @@ private slots:
                                  "actionOrbit", "actionGround", "actionTransGizmo", "actionCullBack"})
             QVERIFY2(find<QAction>(*window, name)->isChecked(), name);
         QVERIFY(!find<QAction>(*window, "actionShaded")->isChecked());
+        QVERIFY(!find<QAction>(*window, "actionSurfaceTint")->isChecked());
         QVERIFY(find<KVOpenGLWidget>(*window, "viewStatic")->findChild<QLabel *>());
     }
 
@@ -135,7 +137,8 @@ private slots:
         QVERIFY(opens(Qt::Key_M, "man"));
         QVERIFY(folder->hasFocus());
         find<QAction>(*window, "actionSkinnedMeshQuickSelect")->setChecked(false);
-        QTest::keyClick(folder, Qt::Key_End);
+        QTRY_COMPARE(folder->findItems(QStringLiteral("other"), Qt::MatchExactly).size(), 1);
+        folder->setCurrentItem(folder->findItems(QStringLiteral("other"), Qt::MatchExactly).first());
         QVERIFY(opens(Qt::Key_Return, "other"));
         QCOMPARE(QApplication::focusWidget(), view);
     }
@@ -172,6 +175,37 @@ private slots:
         const auto middle = opened(m_files->save("stray.skinnedmesh", stray));
         QVERIFY(middle && middle->length() < 4000.0f);
         QVERIFY(window.statusBar()->currentMessage().contains(QStringLiteral("(1)")));
+    }
+
+    void texturesThatChangeShowAtOnce()
+    {
+        const auto paint = [this](const char *name, const QColor &color) {
+            QImage image(8, 8, QImage::Format_RGB32);
+            image.fill(color);
+            QVERIFY(image.save(m_files->path(name)));
+        };
+        const auto use = [this](const QByteArray &texture) {
+            QVERIFY(
+                TestSupport::writeFile(m_files->path("m.kmat"),
+                                       "material a {\n sampler \"diffuse\" 0 \"" + texture + "\" {\n}\n}\n"));
+        };
+        use("missing.png");
+        ShownWindow window({m_files->save("wall.staticmesh", wall({{"m/a", {0, 1, 2}}}))});
+        auto *view = find<KVOpenGLWidget>(window, "viewStatic");
+        const auto shows = [view](const QColor &color) {
+            return countPixels(view->grabFramebuffer(), color) > 100;
+        };
+        QTRY_VERIFY(shows(Qt::white));
+        paint("missing.png", Qt::red); // is there now
+        QTRY_VERIFY(shows(Qt::red));
+        paint("missing.png", Qt::green);
+        QTRY_VERIFY(shows(Qt::green));
+        paint("other.png", Qt::yellow);
+        use("other.png");
+        QTRY_VERIFY(shows(Qt::yellow));
+        paint("other.png", Qt::magenta);
+        QTest::keyClick(&window, Qt::Key_F5);
+        QVERIFY(shows(Qt::magenta)); // without waiting
     }
 
     void clicksSelect()

@@ -1,0 +1,135 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "TextureWatch.h"
+
+#include "KVOpenGLWidget.h"
+#include "MaterialFiles.h"
+#include "Settings.h"
+
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+/// A file of nonsense may name any number.
+constexpr int MostMaterials = 500;
+
+template <typename Model>
+QStringList shownMaterials(const ModelDocument<Model> &document)
+{
+    QStringList materials;
+    for (const auto &surface : document.model().surfaces) {
+        if (materials.size() < MostMaterials && !materials.contains(surface.materialPath))
+            materials.append(surface.materialPath);
+    }
+    return materials;
+}
+
+QMap<QString, FileStamp> filesOf(const QStringList &materialPaths)
+{
+    MaterialFiles materials(Settings::GamePath.value(), Settings::OutputDir.value());
+    QMap<QString, FileStamp> files;
+    const auto add = [&](const QString &relativePath) {
+        for (const QString &path : materials.candidates(relativePath))
+            files.insert(path, FileStamp::of(path));
+    };
+    for (const QString &materialPath : materialPaths) {
+        add(QFileInfo(materialPath).path() + QStringLiteral(".kmat"));
+        const QString texture = materials.find(materialPath).texture;
+        if (!texture.isEmpty() && texture != MaterialFiles::Blank)
+            add(texture);
+    }
+    return files;
+}
+
+QMap<QString, FileStamp> stampsNow(QMap<QString, FileStamp> files)
+{
+    for (auto file = files.begin(); file != files.end(); ++file)
+        *file = FileStamp::of(file.key());
+    return files;
+}
+} // namespace
+
+TextureWatch::TextureWatch(const SkinnedMeshDocument &skinned, const StaticMeshDocument &rigid,
+                           const Viewports &viewports, QObject *parent)
+    : QObject(parent)
+    , m_shown{{{viewports[0], [&skinned] { return shownMaterials(skinned); }, {}},
+               {viewports[1], [&rigid] { return shownMaterials(rigid); }, {}}}}
+{
+    m_collect.setSingleShot(true);
+    connect(&m_collect, &QTimer::timeout, this, &TextureWatch::collect);
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(RestMs);
+    connect(&m_rest, &QTimer::timeout, this, &TextureWatch::look);
+    follow(skinned);
+    follow(rigid);
+    // What is still being written is looked at again with its next change.
+    const auto changes = [this] {
+        if (!m_rest.isActive())
+            m_rest.start();
+    };
+    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, changes);
+    // New files, and those that are replaced by others of their names, are seen in their folders only.
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, changes);
+    // Folders of other machines notify nobody.
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, changes);
+}
+
+void TextureWatch::follow(const Document &document)
+{
+    const auto collectSoon = [this] { m_collect.start(0); };
+    connect(&document, &Document::replaced, this, collectSoon);
+    connect(&document, &Document::structuresChanged, this, collectSoon);
+    connect(&document, &Document::recordsChanged, this, [collectSoon](const QVector<RecordRef> &records) {
+        const auto isSurface = [](const RecordRef &record) {
+            return record.kind == RecordKind::SkinnedSurface || record.kind == RecordKind::StaticSurface;
+        };
+        if (std::any_of(records.begin(), records.end(), isSurface))
+            collectSoon();
+    });
+}
+
+void TextureWatch::collect()
+{
+    for (Shown &each : m_shown)
+        each.files = filesOf(each.materials());
+    watchPaths();
+}
+
+void TextureWatch::watchPaths()
+{
+    QSet<QString> wanted;
+    for (const Shown &each : m_shown) {
+        for (auto file = each.files.begin(); file != each.files.end(); ++file) {
+            wanted.insert(file.key());
+            wanted.insert(QFileInfo(file.key()).absolutePath());
+        }
+    }
+    const QStringList watched = m_watcher.files() + m_watcher.directories();
+    for (const QString &path : watched) {
+        if (!wanted.remove(path))
+            m_watcher.removePath(path);
+    }
+    for (const QString &path : qAsConst(wanted)) {
+        if (QFileInfo::exists(path))
+            m_watcher.addPath(path);
+    }
+}
+
+void TextureWatch::look()
+{
+    watchPaths();
+    if (std::any_of(m_shown.begin(), m_shown.end(),
+                    [](const Shown &each) { return stampsNow(each.files) != each.files; }))
+        reload();
+}
+
+void TextureWatch::reload()
+{
+    collect();
+    for (const Shown &each : m_shown)
+        each.viewport->rebuildModel();
+    emit reloaded();
+}

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Document.h"
+#include "ViewportAction.h"
+
+#include <QFileSystemWatcher>
+#include <QMap>
+#include <QStringList>
+#include <QTimer>
+
+#include <array>
+#include <functional>
+
+/// Lets the viewports follow the material files and textures of what they show, which other programs change.
+class TextureWatch : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Changes are looked at together, this long after the first.
+    static constexpr int RestMs = 500;
+
+    /// The viewports show the models of the documents; all of them outlive this.
+    TextureWatch(const SkinnedMeshDocument &skinned, const StaticMeshDocument &rigid,
+                 const Viewports &viewports, QObject *parent);
+
+public slots:
+    /// Looks all textures up again, now.
+    void reload();
+
+signals:
+    void reloaded();
+
+private:
+    struct Shown
+    {
+        KVOpenGLWidget *viewport;
+        std::function<QStringList()> materials;
+        QMap<QString, FileStamp>
+            files; ///< where they and their textures are, or would be, as they were drawn
+    };
+
+    void follow(const Document &document);
+    void collect();
+    void watchPaths();
+    void look();
+
+    std::array<Shown, 2> m_shown;
+    QTimer m_collect;
+    QTimer m_rest;
+    QFileSystemWatcher m_watcher;
+};

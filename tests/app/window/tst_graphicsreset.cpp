@@ -20,11 +20,13 @@ private slots:
     void theWindowComesBackAsItWas()
     {
         ShownWindow window({m_rigid, m_skinned});
+        find<QDockWidget>(window, "dockConsole")->show();
         auto *tabs = find<QTabWidget>(window, "tabWidget");
         auto *skinned = find<KVOpenGLWidget>(window, "viewSkinned");
         auto *rigid = find<KVOpenGLWidget>(window, "viewStatic");
         QTRY_VERIFY(rigid->isVisible() && whitePixels(rigid) > 100);
         tabs->setCurrentIndex(0);
+        waitForNotice(window);
         const RecordRef bone{RecordKind::Bone, {1, 0, 0}};
         select(window, "treeSkinnedMesh", {bone});
         waitForFrame(skinned);
@@ -67,6 +69,8 @@ private slots:
         auto *view = find<KVOpenGLWidget>(window, "viewSkinned");
         QSignalSpy failed(view, &KVOpenGLWidget::failed);
         QTRY_VERIFY(view->isValid());
+        waitForNotice(window);
+        waitForFrame(view);
         connect(
             view, &QOpenGLWidget::frameSwapped, &window, [&window] { reset(window); }, Qt::QueuedConnection);
         view->update();
@@ -84,6 +88,12 @@ private slots:
     }
 
 private:
+    /// Until the view has the size that the word on a missing animation leaves it.
+    static void waitForNotice(const MainWindow &window)
+    {
+        QTRY_VERIFY(find<QWidget>(window, "barNoAnimation")->isVisible());
+        QCoreApplication::processEvents();
+    }
     /// Until what is to be seen is on the screen.
     static void waitForFrame(KVOpenGLWidget *view)
     {

@@ -65,7 +65,7 @@ void PaneKeys::addTabs()
         action->setObjectName(QStringLiteral("actionGoTo_") + m_tabs->widget(i)->objectName());
         action->setToolTip(m_tabs->tabToolTip(i));
         action->setStatusTip(m_tabs->tabToolTip(i));
-        action->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_1 + i));
+        action->setShortcut(QKeySequence(QStringLiteral("Ctrl+%1").arg(i + 1)));
         connect(action, &QAction::triggered, m_tabs, [this, i] { m_tabs->setCurrentIndex(i); });
     }
 }

@@ -10,8 +10,8 @@ class QAction;
 class QDockWidget;
 class QMainWindow;
 
-/// Where the docks, tool bars and splitters of the main window stand; they are told apart by object name. Docks
-/// are about models: while a tab without models is shown, they give it their room.
+/// Where the docks, tool bars and splitters of the main window stand; they are told apart by object name.
+/// Docks are about models: while a tab without models is shown, they give it their room.
 class WindowLayout : public QObject
 {
     Q_OBJECT

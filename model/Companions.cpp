@@ -13,6 +13,8 @@
 
 namespace {
 constexpr int MostOthers = 12;
+/// Somebody may have named a whole disk.
+constexpr int MostEntries = 500000;
 
 bool isSame(const QString &a, const QString &b)
 {
@@ -22,6 +24,8 @@ bool isSame(const QString &a, const QString &b)
 /// The candidates of one place, by what fits.
 struct Fitting
 {
+    bool isEmpty() const { return both.isEmpty() && byName.isEmpty() && byFolder.isEmpty(); }
+
     QStringList both;
     QStringList byName;
     QStringList byFolder;
@@ -35,6 +39,19 @@ Companions::Candidate candidateOf(const QString &path)
     const int folder = path.lastIndexOf(QLatin1Char('/'), name - 2) + 1;
     return {path, path.mid(folder, std::max(name - 1 - folder, 0)), path.mid(name, dot - name),
             path.mid(dot + 1)};
+}
+
+/// A folder by its name in any case; the exact one first, and empty where there is none.
+QString folderIn(const QString &parent, const QString &name)
+{
+    const QDir dir(parent);
+    if (QFileInfo(dir.filePath(name)).isDir())
+        return dir.filePath(name);
+    for (const QString &each : dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
+        if (isSame(each, name))
+            return dir.filePath(each);
+    }
+    return {};
 }
 
 /// Where the other kind stands: ".../models/a/b" becomes ".../anims".
@@ -66,11 +83,12 @@ const QVector<Companions::Candidate> &Companions::filesBelow(const QString &fold
     if (known != m_files.constEnd())
         return *known;
     QStringList paths;
+    int entries = 0;
     walkFolder(folder, [&](const FolderEntry &entry) {
         if (!entry.isFolder && (entry.path.endsWith(QLatin1String(".anim"), Qt::CaseInsensitive) ||
                                 entry.path.endsWith(QLatin1String(".skinnedmesh"), Qt::CaseInsensitive)))
             paths += entry.path;
-        return !m_isCancelled || !m_isCancelled();
+        return ++entries < MostEntries && (!m_isCancelled || !m_isCancelled());
     });
     paths.sort(Qt::CaseInsensitive);
     QVector<Candidate> files;
@@ -102,9 +120,9 @@ CompanionFile Companions::find(const QString &file)
     QVector<Candidate> listed;
     for (const QString &path : qAsConst(m_listed))
         listed += candidateOf(path);
-    QStringList roots{apart};
+    QStringList roots{apart.isEmpty() ? QString() : folderIn(QFileInfo(apart).path(), there)};
     for (const QString &root : qAsConst(m_roots))
-        roots += root + QLatin1Char('/') + there;
+        roots += folderIn(root, there);
     roots.removeDuplicates();
     QVector<QVector<Candidate>> places{beside};
     for (const QString &root : qAsConst(roots))
@@ -113,7 +131,7 @@ CompanionFile Companions::find(const QString &file)
 
     QVector<Fitting> fitting;
     QSet<QString> seen;
-    for (const QVector<Candidate> &files : qAsConst(places)) {
+    const auto fit = [&](const QVector<Candidate> &files) {
         Fitting fits;
         for (const Candidate &each : files) {
             const bool nameFits = isSame(each.base, known.base);
@@ -127,7 +145,15 @@ CompanionFile Companions::find(const QString &file)
             else
                 list += each.path;
         }
-        fitting += fits;
+        return fits;
+    };
+    for (const QVector<Candidate> &files : qAsConst(places))
+        fitting += fit(files);
+    if (std::all_of(fitting.begin(), fitting.end(), [](const Fitting &fits) { return fits.isEmpty(); })) {
+        for (const QString &root : qAsConst(m_roots)) {
+            fitting += fit(filesBelow(root));
+            fitting.last().byFolder.clear();
+        }
     }
 
     CompanionFile found;

@@ -23,7 +23,9 @@ struct CompanionFile
 /// Both have the same complete base name, in any case, and stand beside each other or where game and mod keep
 /// the two apart: in folders of one name below "models" and below "anims". Looked at are, in this order, the
 /// file's own folder; the "anims" beside the "models" around it, or the other way about; the files of a list;
-/// those of the game's folder and those of the mod's. A file in a folder of the same name comes first, then
+/// those below "anims" in the game's folder and in the mod's. Where none of these has a file that fits, those
+/// of the same name anywhere in the two folders count, as far as a walk through a number of entries gets.
+/// Names of folders may have any case. A file in a folder of the same name comes first, then
 /// the only one of that name. Only where no file has it, the folder's name decides, if there is but one file
 /// in it; and beside the file, if the two are alone of their kinds. Of several none is taken.
 class Companions

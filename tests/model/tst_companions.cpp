@@ -48,8 +48,14 @@ private slots:
         row("what happens to stand beside", {"x/walk.anim", "x/trex.skinnedmesh"}, "x/raptor.skinnedmesh", {},
             {"x/walk.anim"});
         row("the other way about", {mesh, "x/other.skinnedmesh"}, "game/anims/raptor/raptor.anim", mesh);
-        row("nothing", {"game/anims/trex/trex.anim", "game/raptor.anim", "mod/anims/raptor/raptor.txt"}, mesh,
-            {});
+        row("in other case", {"mod/Anims/raptor/raptor.anim"}, "mod/Models/raptor/raptor.skinnedmesh",
+            "mod/Anims/raptor/raptor.anim");
+        row("elsewhere in the game", {"game/anims/trex/trex.anim", "game/x/raptor.anim", "mod/walk.anim"},
+            mesh, "game/x/raptor.anim");
+        row("elsewhere in the mod", {"mod/raptor.anim", "mod/raptor/walk.anim"}, "x/raptor.skinnedmesh",
+            "mod/raptor.anim");
+        row("nothing", {"game/anims/trex/trex.anim", "game/raptor/walk.anim", "mod/anims/raptor/raptor.txt"},
+            mesh, {});
     }
 
     void find()

@@ -8,6 +8,8 @@
 #include "ShownScene.h"
 
 #include <algorithm>
+#include <cmath>
+#include <cstddef>
 #include <utility>
 
 namespace {
@@ -87,17 +89,20 @@ QVector3D SceneSight::pivot() const
     QVector3D place;
     if (surfaceAt({size.width() / 2, size.height() / 2}, &place) != HitMarks::None)
         return toView.map(place);
-    // Beside the model: as deep as its middle.
+    // Beside the model: as deep as half of its corners, which strays do not move.
     const QVector3D eye = m_camera.eye(), sight = m_camera.sight();
     float distance = EmptyDistance;
-    const std::vector<QVector3D> places =
-        m_scene.model() ? cornersTogether(*m_scene.model()) : std::vector<QVector3D>();
-    if (!places.empty()) {
-        QVector3D low = places.front(), high = low;
-        widen(low, high, places);
-        const float depth = QVector3D::dotProduct(toView.map(0.5f * (low + high)) - eye, sight);
-        if (depth > Camera::NearPlane)
-            distance = depth;
+    std::vector<float> depths;
+    for (const QVector3D &corner : m_scene.model() ? cornersOf(*m_scene.model()) : std::vector<QVector3D>()) {
+        const float depth = QVector3D::dotProduct(toView.map(corner) - eye, sight);
+        if (std::isfinite(depth))
+            depths.push_back(depth);
+    }
+    if (!depths.empty()) {
+        const auto middle = depths.begin() + std::ptrdiff_t(depths.size() / 2);
+        std::nth_element(depths.begin(), middle, depths.end());
+        if (*middle > Camera::NearPlane)
+            distance = *middle;
     }
     return eye + sight * distance;
 }

@@ -255,12 +255,19 @@ void KVOpenGLWidget::frameAll()
     poseModel();
     const std::vector<QVector3D> places = m_sight.modelPlaces(&strays);
     frame(places, strays);
+    m_framedJump = m_camera.jumps().position;
 }
 
 void KVOpenGLWidget::frameWhenShown()
 {
     m_frameWanted = true;
     update();
+}
+
+void KVOpenGLWidget::frameAgain()
+{
+    if (m_camera.framed() && m_camera.jumps().position == m_framedJump)
+        frameWhenShown();
 }
 
 void KVOpenGLWidget::frame(const std::vector<QVector3D> &places, int strays)

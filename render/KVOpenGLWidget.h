@@ -94,6 +94,8 @@ public:
     void frameAll();
     /// The same with the next frame that is painted, unless the camera is put elsewhere before.
     void frameWhenShown();
+    /// The same, if the camera stands as frameAll() left it for this model.
+    void frameAgain();
     void frameSelection(const ModelSelection &selection);
     /// Turns around the point that is looked at.
     void lookFrom(Camera::Side side);
@@ -159,6 +161,7 @@ private:
 
     bool m_active = false;
     bool m_frameWanted = false;   ///< see frameWhenShown()
+    int m_framedJump = -1;        ///< the camera's, when it got the whole model into the picture
     bool m_repaintWanted = false; ///< as soon as the timer lets it paint
     TickTimer m_timer;
     ShownPlayback m_playback;

@@ -28,6 +28,8 @@ public:
 
     /// Loads a file without asking about unsaved changes. Returns true on failure, after saying so.
     bool open(DocumentType type, const QString &path);
+    /// The same with a file that goes with another one and was not asked for.
+    bool openAlong(DocumentType type, const QString &path) { return load(type, path); }
     /// The same with the file that is open.
     bool reload(DocumentType type);
     /// Lets the user choose a file and loads it.

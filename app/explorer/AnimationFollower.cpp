@@ -40,7 +40,7 @@ AnimationFollower::AnimationFollower(DocumentFiles &files, FolderExplorer &anima
     m_offers->setObjectName(QStringLiteral("menuOfferedAnimations"));
     m_offers->setToolTipsVisible(true);
     view.insertWidget(0, m_bar);
-    connect(m_offer, &QPushButton::clicked, this, [this] { open(m_onlyOffer); });
+    connect(m_offer, &QPushButton::clicked, this, [this] { openOffered(m_onlyOffer); });
     connect(other, &QPushButton::clicked, this, [this] { m_files.openChosen(DocumentType::Anim); });
 
     m_turn.setSingleShot(true);
@@ -104,19 +104,28 @@ void AnimationFollower::search(const QString &mesh)
 void AnimationFollower::follow(const CompanionFile &found)
 {
     const bool isOpen = !found.path.isEmpty() && found.path == m_files.document(DocumentType::Anim)->path();
-    if (isOpen || (m_sync.isChecked() && !found.path.isEmpty() && open(found.path)))
+    if (isOpen || (m_sync.isChecked() && !found.path.isEmpty() && openAlong(found.path)))
         m_animations.selectPath(found.path);
     else
         offer(found);
 }
 
-bool AnimationFollower::open(const QString &path)
+bool AnimationFollower::openAlong(const QString &path)
 {
-    if (!m_files.promptUnsaved(DocumentType::Anim) || m_files.open(DocumentType::Anim, path))
+    if (!m_files.promptUnsaved(DocumentType::Anim) || m_files.openAlong(DocumentType::Anim, path))
         return false;
-    m_isChosen = false; // but by this
-    m_animations.selectPath(path);
+    emit posed();
     return true;
+}
+
+void AnimationFollower::openOffered(const QString &path)
+{
+    // A button that has a menu can be clicked by what is no mouse.
+    if (path.isEmpty() || !m_files.promptUnsaved(DocumentType::Anim) ||
+        m_files.open(DocumentType::Anim, path))
+        return;
+    m_animations.selectPath(path);
+    emit posed();
 }
 
 void AnimationFollower::offer(const CompanionFile &found)
@@ -138,7 +147,7 @@ void AnimationFollower::offer(const CompanionFile &found)
         QString text = QDir::toNativeSeparators(file.dir().dirName() + QLatin1Char('/') + file.fileName());
         QAction *action = m_offers->addAction(text.replace(QLatin1Char('&'), QLatin1String("&&")));
         action->setToolTip(QDir::toNativeSeparators(path));
-        connect(action, &QAction::triggered, this, [this, path] { open(path); });
+        connect(action, &QAction::triggered, this, [this, path] { openOffered(path); });
     }
     m_offer->setVisible(!offers.isEmpty());
     m_offer->setMenu(offers.size() > 1 ? m_offers : nullptr);

@@ -30,6 +30,13 @@ public:
     AnimationFollower(DocumentFiles &files, FolderExplorer &animations, QAction &sync, QBoxLayout &view,
                       QObject *parent);
 
+    /// Whether the animation of a mesh is still being looked for.
+    bool isSearching() const { return m_turn.isActive() || m_search.isRunning(); }
+
+signals:
+    /// The view shows the mesh with the animation that was found for it.
+    void posed();
+
 private slots:
     void OnActionAnimSyncSkinSelect(bool on);
     void OnOpened(DocumentType type);
@@ -39,7 +46,8 @@ private slots:
 private:
     void search(const QString &mesh);
     void follow(const CompanionFile &found);
-    bool open(const QString &path);
+    bool openAlong(const QString &path);
+    void openOffered(const QString &path);
     void offer(const CompanionFile &found);
 
     DocumentFiles &m_files;

@@ -131,6 +131,21 @@ void DocumentPanes::showPane(DocumentType type)
         m_tabs.trees->setCurrentIndex(type == DocumentType::SkinnedMesh ? 0 : 1);
 }
 
+// The keys that go through a folder, file by file, stay there.
+bool DocumentPanes::staysInFolder(const DocumentPane &opened)
+{
+    return opened.document->kind().quickSelect.value() &&
+           opened.explorer->isAncestorOf(QApplication::focusWidget());
+}
+
+void DocumentPanes::showOpened(DocumentType type)
+{
+    const bool stays = staysInFolder(pane(type)); // before another tab has them
+    showPane(type);
+    if (!stays)
+        pane(type).viewport->setFocus();
+}
+
 void DocumentPanes::showRecord(DocumentType type, const RecordRef &record)
 {
     selectRecord(type, record);
@@ -177,9 +192,6 @@ void DocumentPanes::updateViewports()
 void DocumentPanes::on_tabWidget_currentChanged()
 {
     updateViewports();
-    KVOpenGLWidget *opened = std::exchange(m_wantsKeys, nullptr);
-    if (opened && opened == currentViewport())
-        opened->setFocus();
     emit currentChanged();
 }
 
@@ -210,23 +222,27 @@ void DocumentPanes::OnReplaced(DocumentType type)
     const QString path = replaced.document->path();
     if (std::exchange(m_paths[size_t(type)], path) == path && !path.isEmpty())
         return; // only read again
-    giveKeysToView(replaced);
-    if (type != DocumentType::Anim && Settings::FrameOnOpen.value())
-        replaced.viewport->frameWhenShown();
+    frame(type);
     replaced.explorer->setLoadedPath(replaced.document->path());
 }
 
-// What was opened is flown around. The keys that go through a folder, file by file, stay there.
-void DocumentPanes::giveKeysToView(const DocumentPane &opened)
+void DocumentPanes::frame(DocumentType type)
 {
-    m_wantsKeys = nullptr;
-    if (opened.document->kind().quickSelect.value() &&
-        opened.explorer->isAncestorOf(QApplication::focusWidget()))
-        return;
-    if (opened.viewport == currentViewport())
-        opened.viewport->setFocus();
-    else
-        m_wantsKeys = opened.viewport; // as soon as its tab is in front
+    if (type != DocumentType::Anim && Settings::FrameOnOpen.value())
+        pane(type).viewport->frameWhenShown();
+}
+
+void DocumentPanes::OnOpened(DocumentType type)
+{
+    frame(type);
+    if (pane(type).viewport == currentViewport() && !staysInFolder(pane(type)))
+        pane(type).viewport->setFocus();
+}
+
+void DocumentPanes::OnPosed()
+{
+    if (Settings::FrameOnOpen.value())
+        pane(DocumentType::SkinnedMesh).viewport->frameAgain();
 }
 
 void DocumentPanes::OnSaved(DocumentType type)

@@ -64,8 +64,15 @@ public:
 public slots:
     /// Brings a document's tab to the front.
     void showPane(DocumentType type);
+    /// The same with what was just opened, which is flown around: its view gets the keys.
+    void showOpened(DocumentType type);
     /// The same, with the record current in its tree, which gets the keys.
     void showRecord(DocumentType type, const RecordRef &record);
+    /// The user has opened a file, maybe the same one again, maybe in a tab that stays behind.
+    void OnOpened(DocumentType type);
+    /// The skinned mesh was posed by the animation that came after it: if its view stands as it was framed
+    /// for it, it is framed as it stands now.
+    void OnPosed();
     void OnSaved(DocumentType type);
     void OnOptionsAccepted();
     void on_tabWidget_currentChanged();
@@ -83,7 +90,8 @@ private:
     void connectPlayback();
     void updateViewports();
     void OnReplaced(DocumentType type);
-    void giveKeysToView(const DocumentPane &opened);
+    void frame(DocumentType type);
+    static bool staysInFolder(const DocumentPane &opened);
     void OnRecordsChanged(DocumentType type, const QVector<RecordRef> &records);
     void selectRecord(DocumentType type, const RecordRef &record);
     void showPicked(DocumentType type, const RecordRef &record);
@@ -96,8 +104,7 @@ private:
     StaticMeshDocument &m_staticMesh;
     const DocumentTabs m_tabs;
     AnimTrackFrame &m_track;
-    std::array<QString, 3> m_paths; ///< of what was opened, to tell it from what is only read again
-    KVOpenGLWidget *m_wantsKeys = nullptr;
+    std::array<QString, 3> m_paths;     ///< of what was opened, to tell it from what is only read again
     std::array<RecordRef, 3> m_shown{}; ///< what the viewport marks of each
     ViewSelection *m_selection;
 };

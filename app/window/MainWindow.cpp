@@ -152,17 +152,20 @@ void MainWindow::createDocuments()
         connect(each.document->undoStack(), &QUndoStack::cleanChanged, this, &MainWindow::OnUndoCleanChanged);
         connect(each.document, &Document::replaced, this, &MainWindow::updateCurrentDocument);
     }
+    connect(m_files, &DocumentFiles::opened, m_panes, &DocumentPanes::OnOpened);
     connect(m_files, &DocumentFiles::saved, m_panes, &DocumentPanes::OnSaved);
     connect(m_files, &DocumentFiles::saved, this, &MainWindow::updateCurrentDocument);
-    connect(m_importExport, &ImportExport::imported, m_panes, &DocumentPanes::showPane);
+    connect(m_importExport, &ImportExport::imported, m_panes, &DocumentPanes::showOpened);
 
     m_explorerFiles = new ExplorerFiles(*m_files, explorers, this);
-    new AnimationFollower(*m_files, *explorers[1], *m_ui->actionAnimSyncSkin, *m_ui->vlviewSkinned, this);
-    connect(m_explorerFiles, &ExplorerFiles::opened, m_panes, &DocumentPanes::showPane);
+    const auto *follower =
+        new AnimationFollower(*m_files, *explorers[1], *m_ui->actionAnimSyncSkin, *m_ui->vlviewSkinned, this);
+    connect(follower, &AnimationFollower::posed, m_panes, &DocumentPanes::OnPosed);
+    connect(m_explorerFiles, &ExplorerFiles::opened, m_panes, &DocumentPanes::showOpened);
     connect(m_ui->actionRefreshExplorers, &QAction::triggered, m_explorerFiles,
             &ExplorerFiles::on_actionRefreshExplorers_triggered);
     auto *recent = new RecentFiles(*m_files, *m_ui->menuRecent, this);
-    connect(recent, &RecentFiles::opened, m_panes, &DocumentPanes::showPane);
+    connect(recent, &RecentFiles::opened, m_panes, &DocumentPanes::showOpened);
 }
 
 void MainWindow::readSettings()
@@ -195,7 +198,7 @@ void MainWindow::createPrompts()
     new UpdatePrompt(m_ui->actionCheckForUpdates, this);
     new ReloadPrompt(*m_files, m_ui->vlCentral, this);
     auto *recovery = new Recovery(*m_files, SnapshotStore::defaultRoot(), this);
-    connect(recovery, &Recovery::restored, m_panes, &DocumentPanes::showPane);
+    connect(recovery, &Recovery::restored, m_panes, &DocumentPanes::showOpened);
     new RecoveryPrompt(*recovery, m_ui->actionRecover, m_ui->vlCentral, this);
 }
 
@@ -263,6 +266,10 @@ void MainWindow::openFiles(const QStringList &paths)
 void MainWindow::openAtStart(const QStringList &paths)
 {
     m_session->restore(paths);
+    for (const DocumentPane &each : m_panes->all()) {
+        if (each.document->isOpen() && each.viewport == m_panes->currentViewport())
+            each.viewport->setFocus();
+    }
     openFiles(paths);
 }
 

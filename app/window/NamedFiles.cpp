@@ -43,5 +43,5 @@ void NamedFiles::open(const QStringList &paths)
         }
     }
     if (first)
-        m_panes.showPane(first->type);
+        m_panes.showOpened(first->type);
 }

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "AnimationFollower.h"
 #include "FullDisk.h"
 #include "Hand.h"
 #include "IndexHint.h"
@@ -245,7 +246,9 @@ private slots:
 
         // An animation that is opened along is the wanted one, on whichever side of the mesh it is named.
         window.openFiles({other, a});
-        QTest::qWait(100);
+        const auto *follower = window.findChild<AnimationFollower *>();
+        QVERIFY(follower->isSearching());
+        QTRY_VERIFY(!follower->isSearching());
         QCOMPARE(animation(), QStringLiteral("walk.anim"));
 
         // By Open; several to choose from.
@@ -256,6 +259,10 @@ private slots:
         find<QAction>(window, "actionOpen")->trigger();
         QTRY_VERIFY(offer->isVisible());
         QCOMPARE(animation(), QStringLiteral("walk.anim"));
+        QTimer::singleShot(0, offer->menu(), &QWidget::close);
+        offer->click(); // by no mouse: the menu, and what the button does itself
+        QCOMPARE(animation(), QStringLiteral("walk.anim"));
+        QCOMPARE(hand.seen.size(), 1); // the dialog that Open asked with
         offer->menu()->popup(QPoint());
         QTest::keyClick(offer->menu(), Qt::Key_Down);
         QTest::keyClick(offer->menu(), Qt::Key_Return);

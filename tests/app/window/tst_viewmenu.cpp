@@ -1,9 +1,12 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "AnimationFollower.h"
 #include "FloatSpinBox.h"
 #include "FullDisk.h"
 #include "Hand.h"
 #include "KVOpenGLWidget.h"
+#include "NoticeBar.h"
+#include "TextureWatch.h"
 
 #include <cmath>
 
@@ -124,17 +127,33 @@ private slots:
         QCOMPARE(QApplication::focusWidget(), view);
         tree->setFocus();
         window->openFiles({m_files->path("other.skinnedmesh")}); // again
-        QVERIFY(tree->hasFocus());
+        QVERIFY(view->hasFocus());
+        tree->setFocus();
+        window->openFiles({m_files->save("walk.anim", twoBlocks())});
+        QVERIFY(view->hasFocus());
+        // A file that stays behind does not take them whenever its tab is visited.
+        auto *tabs = find<QTabWidget>(*window, "tabWidget");
+        tabs->setCurrentIndex(1);
+        find<KVTreeView>(*window, "treeStaticMesh")->setFocus();
+        tabs->setCurrentIndex(0);
+        window->openFiles({m_files->path("other.skinnedmesh"), m_files->path("wall.staticmesh")});
+        QVERIFY(view->hasFocus());
+        tabs->setCurrentIndex(1);
+        QVERIFY(find<KVTreeView>(*window, "treeStaticMesh")->hasFocus());
+        tabs->setCurrentIndex(0);
 
         // Whoever goes through a folder file by file goes on; one that is chosen there is left for the view.
         auto *folder = find<QTreeWidget>(*window, "treeSkinnedMeshFolder");
         find<QAction>(*window, "actionSkinnedMeshRefresh")->trigger();
+        QTRY_VERIFY(!window->findChild<AnimationFollower *>()->isSearching());
         folder->setFocus();
         const auto opens = [&](Qt::Key key, const char *name) {
             QTest::keyClick(folder, key);
             return QTest::qWaitFor([&] { return window->windowTitle().contains(QLatin1String(name)); });
         };
         QVERIFY(opens(Qt::Key_M, "man"));
+        QVERIFY(folder->hasFocus());
+        QTRY_COMPARE(rootOf(*window, "treeAnim"), QStringLiteral("man.anim")); // follows
         QVERIFY(folder->hasFocus());
         find<QAction>(*window, "actionSkinnedMeshQuickSelect")->setChecked(false);
         QTRY_COMPARE(folder->findItems(QStringLiteral("other"), Qt::MatchExactly).size(), 1);
@@ -159,8 +178,11 @@ private slots:
         QTRY_VERIFY(view->camera().framed());
         QVERIFY(std::fabs(view->camera().framed()->y() - 3000.0f) < 200.0f); // where it is posed
         QTest::keyClick(view, Qt::Key_C);
-        QVERIFY(!opened(man)); // read again
+        find<QPushButton>(*find<NoticeBar>(window, "barReload_skinnedmesh"), "btnReload")->click();
+        view->grabFramebuffer();
+        QVERIFY(!view->camera().framed()); // read again
         QCOMPARE(view->camera().position(), Camera().position());
+        QVERIFY(opened(man));
         auto *framing = find<QAction>(window, "actionFrameOnOpen");
         framing->trigger();
         QVERIFY(!opened(m_files->save("other.skinnedmesh", triangleMan())));
@@ -175,6 +197,29 @@ private slots:
         const auto middle = opened(m_files->save("stray.skinnedmesh", stray));
         QVERIFY(middle && middle->length() < 4000.0f);
         QVERIFY(window.statusBar()->currentMessage().contains(QStringLiteral("(1)")));
+    }
+
+    void theFramedModelIsThePosedOne()
+    {
+        AnimFile high = twoBlocks();
+        for (AnimBlock &block : high.blocks)
+            block.nodes[0].initialPosition = {0, 0, 3000};
+        m_files->save("man.anim", high);
+        const QString man = m_files->save("man.skinnedmesh", triangleMan());
+        for (const bool moves : {false, true}) {
+            ShownWindow window;
+            auto *view = find<KVOpenGLWidget>(window, "viewSkinned");
+            window.openFiles({man});
+            view->grabFramebuffer(); // before its animation comes
+            QVERIFY(view->camera().framed()->y() < 200.0f);
+            if (moves)
+                QTest::keyClick(view, Qt::Key_3);
+            const QVector3D eye = view->camera().eye();
+            QTRY_COMPARE(rootOf(window, "treeAnim"), QStringLiteral("man.anim"));
+            view->grabFramebuffer();
+            QCOMPARE(std::fabs(view->camera().framed()->y() - 3000.0f) < 200.0f, !moves);
+            QCOMPARE(view->camera().eye() == eye, moves);
+        }
     }
 
     void texturesThatChangeShowAtOnce()

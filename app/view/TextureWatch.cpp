@@ -11,10 +11,13 @@
 #include <QSet>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 /// A file of nonsense may name any number.
 constexpr int MostMaterials = 500;
+/// Notifications that come at once are taken together.
+constexpr int TogetherMs = 50;
 
 template <typename Model>
 QStringList shownMaterials(const ModelDocument<Model> &document)
@@ -55,20 +58,18 @@ QMap<QString, FileStamp> stampsNow(QMap<QString, FileStamp> files)
 TextureWatch::TextureWatch(const SkinnedMeshDocument &skinned, const StaticMeshDocument &rigid,
                            const Viewports &viewports, QObject *parent)
     : QObject(parent)
-    , m_shown{{{viewports[0], [&skinned] { return shownMaterials(skinned); }, {}},
-               {viewports[1], [&rigid] { return shownMaterials(rigid); }, {}}}}
+    , m_shown{{{viewports[0], [&skinned] { return shownMaterials(skinned); }, {}, {}, {}},
+               {viewports[1], [&rigid] { return shownMaterials(rigid); }, {}, {}, {}}}}
 {
     m_collect.setSingleShot(true);
     connect(&m_collect, &QTimer::timeout, this, &TextureWatch::collect);
     m_rest.setSingleShot(true);
-    m_rest.setInterval(RestMs);
     connect(&m_rest, &QTimer::timeout, this, &TextureWatch::look);
     follow(skinned);
     follow(rigid);
-    // What is still being written is looked at again with its next change.
     const auto changes = [this] {
         if (!m_rest.isActive())
-            m_rest.start();
+            m_rest.start(TogetherMs);
     };
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, changes);
     // New files, and those that are replaced by others of their names, are seen in their folders only.
@@ -93,9 +94,23 @@ void TextureWatch::follow(const Document &document)
 
 void TextureWatch::collect()
 {
-    for (Shown &each : m_shown)
-        each.files = filesOf(each.materials());
-    watchPaths();
+    bool isOther = false;
+    for (Shown &each : m_shown) {
+        QStringList materials = each.materials();
+        if (materials == each.listed)
+            continue;
+        each.listed = std::move(materials);
+        // What is not drawn anew may have changed since it was.
+        const auto drawn = std::exchange(each.files, filesOf(each.listed));
+        for (auto file = drawn.begin(); file != drawn.end(); ++file) {
+            const auto known = each.files.find(file.key());
+            if (known != each.files.end())
+                *known = *file;
+        }
+        isOther = true;
+    }
+    if (isOther)
+        watchPaths();
 }
 
 void TextureWatch::watchPaths()
@@ -121,14 +136,27 @@ void TextureWatch::watchPaths()
 void TextureWatch::look()
 {
     watchPaths();
-    if (std::any_of(m_shown.begin(), m_shown.end(),
-                    [](const Shown &each) { return stampsNow(each.files) != each.files; }))
+    bool isChanged = false, rests = true;
+    for (Shown &each : m_shown) {
+        auto now = stampsNow(each.files);
+        isChanged = isChanged || now != each.files;
+        rests = rests && now == each.seen;
+        each.seen = std::move(now);
+    }
+    if (isChanged && rests)
         reload();
+    else if (isChanged)
+        m_rest.start(RestMs);
 }
 
 void TextureWatch::reload()
 {
-    collect();
+    m_rest.stop();
+    for (Shown &each : m_shown) {
+        each.listed = each.materials();
+        each.files = filesOf(each.listed);
+    }
+    watchPaths();
     for (const Shown &each : m_shown)
         each.viewport->rebuildModel();
     emit reloaded();

@@ -19,7 +19,7 @@ class TextureWatch : public QObject
     Q_OBJECT
 
 public:
-    /// Changes are looked at together, this long after the first.
+    /// A file counts as written when its size and time have rested for this long.
     static constexpr int RestMs = 500;
 
     /// The viewports show the models of the documents; all of them outlive this.
@@ -38,8 +38,10 @@ private:
     {
         KVOpenGLWidget *viewport;
         std::function<QStringList()> materials;
-        QMap<QString, FileStamp>
-            files; ///< where they and their textures are, or would be, as they were drawn
+        QStringList listed; ///< of the materials
+        /// Where these and their textures are, or would be, as they were drawn.
+        QMap<QString, FileStamp> files;
+        QMap<QString, FileStamp> seen; ///< the same at the last look
     };
 
     void follow(const Document &document);

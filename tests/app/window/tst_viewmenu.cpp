@@ -251,6 +251,22 @@ private slots:
         paint("other.png", Qt::magenta);
         QTest::keyClick(&window, Qt::Key_F5);
         QVERIFY(shows(Qt::magenta)); // without waiting
+
+        // What else happens meanwhile hides no change.
+        paint("other.png", Qt::cyan);
+        window.openFiles({m_files->save("man.skinnedmesh", triangleMan())});
+        find<QTabWidget>(window, "tabWidget")->setCurrentIndex(1);
+        QTRY_VERIFY(shows(Qt::cyan));
+        // A file is read when it is whole.
+        QSignalSpy reloaded(window.findChild<TextureWatch *>(), &TextureWatch::reloaded);
+        for (int part = 1; part <= 10; ++part) {
+            QVERIFY(TestSupport::writeFile(m_files->path("other.png"), QByteArray(part, 'x')));
+            QTest::qWait(TextureWatch::RestMs / 5);
+        }
+        QCOMPARE(reloaded.size(), 0);
+        paint("other.png", Qt::blue);
+        QTRY_VERIFY(shows(Qt::blue));
+        QCOMPARE(reloaded.size(), 1);
     }
 
     void clicksSelect()

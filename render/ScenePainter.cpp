@@ -185,7 +185,7 @@ void ScenePainter::paintModel(const SceneFrame &frame)
     }
     m_model->tintsSelected = frame.showSurfaceTint;
     if (frame.shading != Shading::Shaded && m_polygonMode)
-        return paintWires(textured, mvp, frame.shading); // whose edges are of another colour
+        return paintWires(textured, mvp, frame.shading); // whose edges are of another color
     drawTextured(textured, *m_model, mvp);
     if (frame.showSurfaceTint && m_model->hasSelectedSurface())
         m_outline.paint(textured, *m_model, pulledMatrix(frame), frame.viewport);

@@ -54,7 +54,7 @@ const Desktop &desktop()
     return found;
 }
 
-/// Draws the icon of the menu item under the mouse in the colour of its text.
+/// Draws the icon of the menu item under the mouse in the color of its text.
 class MenuIconStyle : public QProxyStyle
 {
 public:

@@ -5,6 +5,7 @@
 #include <QTimerEvent>
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace {
@@ -15,10 +16,17 @@ constexpr int PaintInterval = 16;
 constexpr qint64 MostSteps = 50;
 } // namespace
 
-TickTimer::TickTimer(QObject &owner)
+TickTimer::TickTimer(QObject &owner, Clock clock)
     : m_owner(owner)
+    , m_clock(std::move(clock))
+    , m_previous(m_clock())
+    , m_stepped(m_previous)
+{}
+
+qint64 TickTimer::steadyClock()
 {
-    m_clock.start();
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
 }
 
 void TickTimer::setPace(Pace pace)
@@ -26,7 +34,7 @@ void TickTimer::setPace(Pace pace)
     if (m_timer.isActive() && pace == m_pace)
         return;
     if (pace == Pace::Moving)
-        m_previous = m_stepped = m_clock.elapsed();
+        m_previous = m_stepped = m_clock();
     m_pace = pace;
     if (pace == Pace::Moving)
         m_timer.start(MovingInterval, Qt::PreciseTimer, &m_owner);
@@ -41,7 +49,7 @@ bool TickTimer::isMine(const QTimerEvent &event) const
 
 TickTimer::Due TickTimer::take()
 {
-    const qint64 now = m_clock.elapsed();
+    const qint64 now = m_clock();
     const int steps = int(std::clamp(now - m_stepped, qint64(1), MostSteps));
     // The step of a tick that came early is one that the next has not to do.
     m_stepped = std::max(now, m_stepped + 1);
@@ -50,5 +58,5 @@ TickTimer::Due TickTimer::take()
 
 bool TickTimer::mayPaint() const
 {
-    return !m_sincePaint.isValid() || m_sincePaint.elapsed() >= PaintInterval;
+    return !m_painted || m_clock() - *m_painted >= PaintInterval;
 }

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <QBasicTimer>
-#include <QElapsedTimer>
+
+#include <functional>
+#include <optional>
 
 class QTimerEvent;
 
@@ -14,8 +16,11 @@ class TickTimer
 public:
     enum class Pace { Idle, Moving };
 
+    /// Milliseconds since whenever; never goes back.
+    using Clock = std::function<qint64()>;
+
     /// The owner gets the timer events.
-    explicit TickTimer(QObject &owner);
+    explicit TickTimer(QObject &owner, Clock clock = steadyClock);
 
     /// Starts, or goes on at another pace.
     void setPace(Pace pace);
@@ -32,15 +37,17 @@ public:
     Due take();
 
     /// A frame is being painted: the next one has to wait, so that painting leaves time for ticks.
-    void paints() { m_sincePaint.start(); }
+    void paints() { m_painted = m_clock(); }
     bool mayPaint() const;
 
 private:
+    static qint64 steadyClock();
+
     QObject &m_owner;
     QBasicTimer m_timer;
     Pace m_pace = Pace::Idle;
-    QElapsedTimer m_clock;
-    QElapsedTimer m_sincePaint;
-    qint64 m_previous = 0; ///< milliseconds of the clock
-    qint64 m_stepped = 0;  ///< the same, up to which steps were done
+    const Clock m_clock;
+    std::optional<qint64> m_painted; ///< by the clock; none before the first frame
+    qint64 m_previous;               ///< the tick before, by the clock
+    qint64 m_stepped;                ///< the same, up to which steps were done
 };

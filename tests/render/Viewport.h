@@ -13,7 +13,6 @@
 
 #include <QApplication>
 #include <QSurfaceFormat>
-#include <QThread>
 
 #include <cstdlib>
 #include <memory>
@@ -45,9 +44,8 @@ public:
     }
 
     int frames = 0;
-    unsigned long paintCost = 0; ///< milliseconds
-    StaticMesh square;           ///< shown by openSquare()
-    SkinnedMesh mesh;            ///< shown by showBones(), with the animation
+    StaticMesh square; ///< shown by openSquare()
+    SkinnedMesh mesh;  ///< shown by showBones(), with the animation
     AnimFile anim;
 
     /// Shows the view in front and waits for its first frame.
@@ -114,7 +112,6 @@ protected:
     void paintGL() override
     {
         ++frames;
-        QThread::msleep(paintCost);
         KVOpenGLWidget::paintGL();
     }
 };

@@ -31,6 +31,8 @@ WindowLayout::WindowLayout(QMainWindow *window)
     , m_fullScreen(window->findChild<QAction *>(QStringLiteral("actionFullScreen")))
 {
     window->installEventFilter(this);
+    for (QDockWidget *dock : window->findChildren<QDockWidget *>())
+        dock->installEventFilter(this);
     setDefaults();
     m_defaults = m_window->saveState();
 }
@@ -97,6 +99,7 @@ void WindowLayout::restore()
 
 void WindowLayout::on_actionResetLayout_triggered()
 {
+    m_aside.clear();
     m_window->restoreState(m_defaults);
     setDefaults();
 }
@@ -112,5 +115,8 @@ bool WindowLayout::eventFilter(QObject *watched, QEvent *event)
     // Window managers take and leave the full screen too.
     if (watched == m_window && event->type() == QEvent::WindowStateChange)
         m_fullScreen->setChecked(m_window->isFullScreen());
+    // What a hand closes, unlike what is hidden, does not come back.
+    if (event->type() == QEvent::Close)
+        m_aside.removeAll(qobject_cast<QDockWidget *>(watched));
     return QObject::eventFilter(watched, event);
 }

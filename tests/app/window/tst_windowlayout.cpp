@@ -102,6 +102,14 @@ private slots:
         QVERIFY(console->isVisible());
         tabs->setCurrentIndex(3);
         QVERIFY(!console->isVisible());
+        // One that a hand closes there stays closed.
+        button->click();
+        console->close();
+        tabs->setCurrentIndex(0);
+        QVERIFY(!console->isVisible());
+        button->click();
+        tabs->setCurrentIndex(3);
+        QVERIFY(!console->isVisible());
         window.close();
         MainWindow next;
         QVERIFY(!find<QDockWidget>(next, "dockConsole")->isHidden());

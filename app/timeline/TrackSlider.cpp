@@ -152,14 +152,28 @@ void TrackSlider::mousePressEvent(QMouseEvent *event)
 {
     QStyleOptionSlider option;
     initStyleOption(&option);
+    const bool isOther = event->button() != Qt::LeftButton || event->buttons() != Qt::LeftButton;
+    if (isOther || minimum() == maximum() ||
+        style()->hitTestComplexControl(QStyle::CC_Slider, &option, event->pos(), this) ==
+            QStyle::SC_SliderHandle) {
+        QSlider::mousePressEvent(event);
+        // The toolkit has no use for a slider with a single place, but that frame is asked for all the same.
+        if (!isOther && minimum() == maximum())
+            emit frameAsked(sliderPosition());
+        return;
+    }
     const QRect track = frames();
-    // Brings the handle under the mouse, which drags it on.
-    if (event->button() == Qt::LeftButton &&
-        style()->hitTestComplexControl(QStyle::CC_Slider, &option, event->pos(), this) !=
-            QStyle::SC_SliderHandle)
-        setSliderPosition(QStyle::sliderValueFromPosition(minimum(), maximum(), event->pos().x() - track.x(),
-                                                          track.width()));
-    QSlider::mousePressEvent(event);
+    setSliderPosition(
+        QStyle::sliderValueFromPosition(minimum(), maximum(), event->pos().x() - track.x(), track.width()));
+    // Takes the handle by its middle, which then follows the mouse: where frames are far apart the mouse may
+    // be in the gap beside it.
+    initStyleOption(&option);
+    const QPoint middle =
+        style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this).center();
+    QMouseEvent onHandle(event->type(), middle, mapToGlobal(middle), event->button(), event->buttons(),
+                         event->modifiers());
+    QSlider::mousePressEvent(&onHandle);
+    event->setAccepted(onHandle.isAccepted());
 }
 
 void TrackSlider::mouseDoubleClickEvent(QMouseEvent *event)

@@ -228,6 +228,19 @@ private slots:
             playback().playState = before;
             QTest::keyClick(slider, Qt::Key_Right);
             QVERIFY(playback().playState == PlayState::Paused && playback().time == 0.5f);
+            // Frames are farther apart than the handle is wide: one beside it is the one nearest to the
+            // mouse, whichever was shown, and follows it.
+            const int beside = slider->xOf(6) + (slider->xOf(7) - slider->xOf(6)) * 4 / 10;
+            for (const int shown : {6, 2}) {
+                slider->setValue(shown);
+                playback().playState = before;
+                playback().time = 0.0f;
+                QTest::mousePress(slider, Qt::LeftButton, {}, {beside, slider->height() / 2});
+                QVERIFY(playback().playState == PlayState::Paused && playback().time == 0.6f);
+                QApplication::sendEvent(slider, &move);
+                QTest::mouseRelease(slider, Qt::LeftButton, {}, end);
+                QCOMPARE(playback().time, 0.4f);
+            }
         }
 
         auto *speed = find<FloatSpinBox>(window, "sbAnimTrackSpeed");

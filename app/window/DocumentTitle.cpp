@@ -25,6 +25,16 @@ QString titleOf(const Document *document)
     const QString name = document->path().isEmpty() ? placeOf(*document) : document->fileName();
     return QStringLiteral("Korvane - ") + name + (document->isModified() ? QStringLiteral(" * ") : QString());
 }
+
+/// The tip of a tab, and below it where the documents stand that it shows.
+QString tipOf(const QString &tip, std::initializer_list<const Document *> documents)
+{
+    QStringList lines(tip);
+    for (const Document *each : documents)
+        lines << placeOf(*each);
+    lines.removeAll(QString());
+    return lines.join(QLatin1Char('\n'));
+}
 } // namespace
 
 DocumentTitle::DocumentTitle(const std::array<const Document *, 3> &documents, QTabWidget &tabs,
@@ -34,6 +44,7 @@ DocumentTitle::DocumentTitle(const std::array<const Document *, 3> &documents, Q
     , m_tabs(tabs)
     , m_trees(trees)
     , m_window(window)
+    , m_tips{tabs.tabToolTip(0), tabs.tabToolTip(1)}
 {
     setObjectName(QStringLiteral("lblDocumentPath"));
     setTextFormat(Qt::PlainText);
@@ -48,5 +59,6 @@ void DocumentTitle::show(const Document *current)
     setToolTip(path);
     m_trees.setTabToolTip(0, placeOf(*m_documents[0]));
     m_trees.setTabToolTip(1, placeOf(*m_documents[1]));
-    m_tabs.setTabToolTip(1, placeOf(*m_documents[2]));
+    m_tabs.setTabToolTip(0, tipOf(m_tips[0], {m_documents[0], m_documents[1]}));
+    m_tabs.setTabToolTip(1, tipOf(m_tips[1], {m_documents[2]}));
 }

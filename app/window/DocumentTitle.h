@@ -16,8 +16,8 @@ class DocumentTitle : public QLabel
     Q_OBJECT
 
 public:
-    /// `documents` in the order of DocumentType; the first two have the tabs of `trees`, the last has one of
-    /// `tabs`. Everything outlives this.
+    /// `documents` in the order of DocumentType; the first two have the tabs of `trees` and share the first
+    /// of `tabs`, the last has the second. Everything outlives this.
     DocumentTitle(const std::array<const Document *, 3> &documents, QTabWidget &tabs, QTabWidget &trees,
                   QWidget *window);
 
@@ -29,4 +29,5 @@ private:
     QTabWidget &m_tabs;
     QTabWidget &m_trees;
     QWidget *m_window;
+    const std::array<QString, 2> m_tips; ///< what the form says of the first two tabs
 };

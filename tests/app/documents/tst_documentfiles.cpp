@@ -72,6 +72,9 @@ private slots:
         QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh"));
         QCOMPARE(path(), mod);
         QCOMPARE(find<QTabWidget>(window, "tabTrees")->tabToolTip(0), mod);
+        QCOMPARE(find<QTabWidget>(window, "tabWidget")->tabToolTip(0),
+                 "Characters and their animations\n" + mod);
+        QCOMPARE(find<QTabWidget>(window, "tabWidget")->tabToolTip(1), QString("Models without bones"));
         QCOMPARE(save({}), QStringList());
         const QByteArray saved = TestSupport::readFile(mod);
         QVERIFY(saved != before && TestSupport::readFile(game) == before);

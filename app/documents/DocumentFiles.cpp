@@ -101,11 +101,16 @@ bool DocumentFiles::load(DocumentType type, const QString &path)
     if (!failed)
         return false;
     const QString nativePath = QDir::toNativeSeparators(path);
-    Log::error(reason.isEmpty() ? tr("[Open] Unable to read '%1'").arg(nativePath)
-                                : tr("[Open] '%1': %2").arg(nativePath, reason));
-    // A static mesh that cannot be read is dropped without a box: many files of that kind are only tried.
-    if (type != DocumentType::StaticMesh)
-        QMessageBox::warning(m_window, tr("File error"), tr("Failed to open\n%1").arg(nativePath));
+    const QString text = reason.isEmpty() ? tr("[Open] Unable to read '%1'").arg(nativePath)
+                                          : tr("[Open] '%1': %2").arg(nativePath, reason);
+    // A static mesh that cannot be read is dropped without a box, and without an error, which would open the
+    // console: many files of that kind are only tried.
+    if (type == DocumentType::StaticMesh) {
+        Log::warning(text);
+        return true;
+    }
+    Log::error(text);
+    QMessageBox::warning(m_window, tr("File error"), tr("Failed to open\n%1").arg(nativePath));
     return true;
 }
 

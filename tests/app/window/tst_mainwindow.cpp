@@ -152,6 +152,8 @@ private slots:
         const QStringList lines = consoleOf(window);
         QVERIFY(lines.filter("%1 cut.skinnedmesh").join(QString()).contains("reached end of file."));
         QVERIFY(!lines.filter("cut.staticmesh").isEmpty());
+        // The console came for the other.
+        QVERIFY(find<QToolButton>(window, "btnConsole")->text().startsWith(QStringLiteral("Errors: 1, ")));
 
         typeParent(window, 7);
         for (const bool isDiskFull : {true, false}) {
@@ -470,7 +472,11 @@ private slots:
         auto *servers = find<QDockWidget>(window, "dockServers");
         QVERIFY(console->isVisible() && servers->isVisible());
         console->setFloating(true);
+        auto *tabs = find<QTabWidget>(window, "tabWidget");
+        tabs->setCurrentIndex(3);
+        QVERIFY(!servers->isVisible());
         find<QAction>(window, "actionResetLayout")->trigger();
+        tabs->setCurrentIndex(0);
         QVERIFY(!console->isFloating() && !console->isVisible() && !servers->isVisible());
     }
 

@@ -1451,7 +1451,7 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
     <message>
         <source>%1 belongs to the skinned mesh, whose tree can select it.</source>
-        <translation>%1 gehört zum Modell; auswählen lässt es sich in dessen Baum.</translation>
+        <translation>%1 gehört zum Skin-Mesh; auswählen lässt es sich in dessen Baum.</translation>
     </message>
     <message>
         <source>The animation that plays does not have %1.</source>
@@ -1706,6 +1706,10 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <message>
         <source>&amp;Change Folder…</source>
         <translation>Ordner &amp;wechseln…</translation>
+    </message>
+    <message>
+        <source>No file matches</source>
+        <translation>Keine Datei passt</translation>
     </message>
 </context>
 <context>
@@ -5980,7 +5984,7 @@ So lassen?</translation>
     </message>
     <message>
         <source>Its parent is bone %1: fixing it adds it to that bone&apos;s list.</source>
-        <translation>Sein Elternknochen ist Knochen %1: beim Beheben wird er in dessen Liste aufgenommen.</translation>
+        <translation>Sein Elternknochen ist Knochen %1: Beim Beheben wird er in dessen Liste aufgenommen.</translation>
     </message>
     <message>
         <source>Name it in the child list of the bone that it belongs to.</source>
@@ -6084,7 +6088,7 @@ So lassen?</translation>
     </message>
     <message>
         <source>The file goes on for %1 bytes behind the end of the model, which belong to no record. Saving drops them: keep a copy of the file if something else needs them.</source>
-        <translation>Die Datei geht hinter dem Ende des Modells noch %1 Bytes weiter, die zu keinem Datensatz gehören. Speichern lässt sie weg: sichern Sie eine Kopie der Datei, falls etwas anderes sie braucht.</translation>
+        <translation>Die Datei geht hinter dem Ende des Modells noch %1 Bytes weiter, die zu keinem Datensatz gehören. Speichern lässt sie weg: Sichern Sie eine Kopie der Datei, falls etwas anderes sie braucht.</translation>
     </message>
     <message>
         <source>Fixing it enters 65535: it loops from frame 0.</source>
@@ -6131,7 +6135,7 @@ So lassen?</translation>
     </message>
     <message>
         <source>Direction that the surface faces here, of length 1; lights the model</source>
-        <translation>Richtung, in die die Oberfläche hier zeigt, mit der Länge 1; beleuchtet das Modell</translation>
+        <translation>Richtung, in die die Fläche hier zeigt, mit der Länge 1; beleuchtet das Modell</translation>
     </message>
     <message>
         <source>Normal X</source>

@@ -82,6 +82,7 @@ FolderExplorer::FolderExplorer(const DocumentKind &kind, QWidget *parent)
     connect(m_tree, &QTreeWidget::itemSelectionChanged, this, &FolderExplorer::OnItemSelectionChanged);
     connect(m_tree, &QTreeWidget::itemDoubleClicked, this, &FolderExplorer::OnItemDoubleClicked);
     connect(m_tree, &FolderTree::filled, this, &FolderExplorer::OnFilled);
+    connect(m_tree, &FolderTree::filterChanged, this, &FolderExplorer::showShownRows);
     connect(m_menu, &FolderMenu::fileChosen, this, &FolderExplorer::fileChosen);
     connect(m_filter, &FolderFilter::fileChosen, this, &FolderExplorer::fileChosen);
     connect(m_switch, &FolderSwitch::folderChosen, this, &FolderExplorer::setFolder);
@@ -179,6 +180,7 @@ void FolderExplorer::refill()
     m_tree->setHeaderLabel(folder.isEmpty() ? m_kind.label : ownName.isEmpty() ? folder : ownName);
     m_tree->header()->setToolTip(QDir::toNativeSeparators(folder));
     m_switch->setFolder(folder);
+    m_isStopped = false;
     m_tree->fill(folder, m_kind.extension);
     m_reading->begin();
     // Rows that stand there already stay while they are read again.
@@ -203,8 +205,8 @@ void FolderExplorer::OnReadingStopped()
 {
     m_tree->stopReading();
     m_reading->end();
-    if (m_tree->topLevelItemCount() == 0)
-        showPage(tr("Stopped reading\n%1").arg(QDir::toNativeSeparators(m_tree->folder())));
+    m_isStopped = true;
+    showShownRows();
 }
 
 void FolderExplorer::setFolder(const QString &folder)
@@ -238,7 +240,13 @@ void FolderExplorer::followOptions()
 void FolderExplorer::showEmptyFolders(bool on)
 {
     m_tree->showEmptyFolders(on);
-    if (!isReading())
+    showShownRows();
+}
+
+void FolderExplorer::showShownRows()
+{
+    // What is being read for the first time may yet come.
+    if (!isReading() || m_tree->topLevelItemCount() > 0)
         showPage(emptyText());
 }
 
@@ -321,10 +329,14 @@ QString FolderExplorer::emptyText() const
     const QString folder = m_tree->folder();
     if (folder.isEmpty())
         return tr("No folder chosen");
+    if (m_isStopped && m_tree->topLevelItemCount() == 0)
+        return tr("Stopped reading\n%1").arg(QDir::toNativeSeparators(folder));
     if (!m_tree->isFolderThere())
         return tr("There is no folder\n%1").arg(QDir::toNativeSeparators(folder));
     if (!m_tree->hasShownRows())
         return tr("No .%1 files in\n%2").arg(m_kind.extension, QDir::toNativeSeparators(folder));
+    if (m_tree->isFiltered() && !m_tree->firstShownFile())
+        return tr("No file matches");
     return {};
 }
 

@@ -91,6 +91,8 @@ private:
     void createEmptyPage();
     QString emptyText() const;
     void showPage(const QString &emptyText);
+    /// The list, or why it would be blank.
+    void showShownRows();
 
     const DocumentKind &m_kind;
     const FolderNames m_names;
@@ -104,6 +106,7 @@ private:
     FolderFilter *m_filter;
     ReadingSign *m_reading;
     FolderMenu *m_menu;
+    bool m_isStopped = false; ///< the folder was not read to its end
     QStackedLayout *m_pages;
     QFrame *m_emptyPage;
     QLabel *m_emptyLabel;

@@ -128,6 +128,7 @@ void FolderTree::setFilter(const QString &words)
     }
     if (currentItem())
         scrollToItem(currentItem());
+    emit filterChanged();
 }
 
 void FolderTree::showEmptyFolders(bool on)

@@ -58,6 +58,8 @@ public:
 
 signals:
     void filled();
+    /// Other files are shown than before.
+    void filterChanged();
 
 private:
     void take(FolderContents contents, bool isSameFolder);

@@ -217,7 +217,12 @@ private slots:
         explorer->setFolder(path("one"));
         emit explorer->findChild<ReadingSign *>()->stopped();
         QVERIFY(!explorer->isReading());
-        QVERIFY(::find<QLabel>(*explorer, "lblSkinnedMeshFolderEmpty")->text().startsWith("Stopped"));
+        explorer->showEmptyFolders(true);
+        const auto *label = ::find<QLabel>(*explorer, "lblSkinnedMeshFolderEmpty");
+        QVERIFY(label->text().startsWith("Stopped"));
+        explorer->refreshAction()->trigger();
+        settle(*explorer);
+        QVERIFY(!label->isVisible());
     }
 
     void switchesBetweenGameModAndOther()
@@ -293,6 +298,13 @@ private slots:
         QVERIFY(line->text().isEmpty());
         find(*explorer, "flier")->setExpanded(true);
         QVERIFY(shown().contains("trex") && shown().contains("flier"));
+        line->setFocus();
+        QTest::keyClicks(line, QStringLiteral("rex xyz"));
+        const auto *label = ::find<QLabel>(*explorer, "lblSkinnedMeshFolderEmpty");
+        QTRY_COMPARE(label->text(), QStringLiteral("No file matches"));
+        QVERIFY(label->isVisible() && line->hasFocus());
+        QTest::keyClick(line, Qt::Key_Escape);
+        QVERIFY(!label->isVisible() && explorer->tree()->hasFocus());
     }
 
     void rightClickOpensOnlyTheMenu()

@@ -48,6 +48,14 @@ bool isKnown(const QKeySequence &keys)
     return !keys.isEmpty();
 }
 
+/// In a menu a letter or a digit leads to an item, also while Alt that opened the menu is still held.
+bool isKeyOfMenus(const QKeyEvent &event)
+{
+    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::ShiftModifier;
+    return !modifiers || (modifiers == Qt::AltModifier && event.text().size() == 1 &&
+                          event.text().front().isLetterOrNumber());
+}
+
 /// The tip that an action without one of its own has.
 QString tipOfText(const QAction *action)
 {
@@ -187,9 +195,8 @@ Shortcuts::Shortcuts(QMenuBar &menus, const QVector<ShortcutCommand> &fixed, QWi
 
 bool Shortcuts::eventFilter(QObject *watched, QEvent *event)
 {
-    // In a menu a letter leads to an item. Keys of views would come first: their actions stand in menus, too.
-    if (event->type() == QEvent::ShortcutOverride &&
-        !(static_cast<QKeyEvent *>(event)->modifiers() & ~Qt::ShiftModifier)) {
+    // Keys of views would come first: their actions stand in menus, too.
+    if (event->type() == QEvent::ShortcutOverride && isKeyOfMenus(*static_cast<QKeyEvent *>(event))) {
         event->accept();
         return true;
     }

@@ -38,6 +38,28 @@ private slots:
         }
     }
 
+    void altMayBeHeldThroughMenus()
+    {
+        ShownWindow window({m_files->save("a.staticmesh", wall({{QStringLiteral("_white"), {0, 1, 2}}}))});
+        const auto *tabs = find<QTabWidget>(window, "tabWidget");
+        find<QWidget>(window, "viewStatic")->setFocus();
+        const QSignalSpy looked(find<QAction>(window, "actionLookBack"), &QAction::triggered);
+        const auto key = [&window](bool down, int code, Qt::KeyboardModifiers held) {
+            const QString text = code == Qt::Key_Alt ? QString() : QString(QChar(code).toLower());
+            QTest::simulateEvent(window.windowHandle(), down, code, held, text, false);
+        };
+        key(true, Qt::Key_Alt, {});
+        for (const int each : {Qt::Key_V, Qt::Key_J, Qt::Key_1}) {
+            const QWidget *before = QApplication::activePopupWidget();
+            key(true, each, Qt::AltModifier);
+            key(false, each, Qt::AltModifier);
+            QTRY_VERIFY(QApplication::activePopupWidget() != before);
+        }
+        key(false, Qt::Key_Alt, Qt::AltModifier);
+        QTRY_COMPARE(tabs->currentIndex(), 0);
+        QCOMPARE(looked.count(), 0);
+    }
+
     void tabGoesRoundInTheOrderOfWork()
     {
         // Without folders, as on a first start, when nothing is to be got stuck in.

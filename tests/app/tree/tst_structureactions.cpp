@@ -113,7 +113,7 @@ private slots:
         SkinnedMesh model = SampleModels::skinnedMesh();
         model.hotPoints.resize(5);
         for (size_t i = 0; i < 5; ++i)
-            model.hotPoints[i].nodeId = qint16(i);
+            model.hotPoints[i].nodeId = quint16(i);
         mesh().open(model);
         KVTreeView *tree = select(ref(K::HotPoint, 1));
         const auto click = [tree](int point, Qt::KeyboardModifiers keys) {

@@ -72,7 +72,21 @@ inline void widen(std::optional<Box> &box, const QVector3D &point)
     }
 }
 
-/// The box around the vertices of a mesh; none without.
+/// The box between two corners, whichever of them is the lower one along an axis.
+inline Box boxBetween(const QVector3D &corner, const QVector3D &other)
+{
+    Box box{corner, other};
+    for (int axis = 0; axis < 3; ++axis) {
+        if (corner[axis] > other[axis]) {
+            box.min[axis] = other[axis];
+            box.max[axis] = corner[axis];
+        }
+    }
+    return box;
+}
+
+/// The box around the vertices of a mesh as they are stored, which for a skinned mesh is in the spaces of
+/// their bones; none without.
 template <typename Mesh>
 std::optional<Box> meshBox(const Mesh &mesh)
 {

@@ -110,17 +110,25 @@ inline bool isInverted(const QVector3D &min, const QVector3D &max)
 {
     return min.x() > max.x() || min.y() > max.y() || min.z() > max.z();
 }
-/// Such a box can be repaired where there are vertices.
-inline void addInvertedBox(FindingCollector &found, const RecordRef &place, bool repairable)
+/// What a fix makes of such a box.
+enum class BoxRepair { None, AroundVertices, InOrder };
+inline BoxRepair aroundVertices(bool hasVertices)
 {
-    found.add(Rule::BoxInverted, place, repairable, [&] {
+    return hasVertices ? BoxRepair::AroundVertices : BoxRepair::None;
+}
+inline void addInvertedBox(FindingCollector &found, const RecordRef &place, BoxRepair repair)
+{
+    found.add(Rule::BoxInverted, place, repair != BoxRepair::None, [&] {
         const QString text =
             Texts::tr("%1 has a bounding box whose minimum is above its maximum: the game may "
                       "take it for empty, hide the model at the edge of the screen, or miss it.")
                 .arg(recordName(place));
         return text + QLatin1Char(' ') +
-               (repairable ? Texts::tr("Fixing it makes it the box around the vertices.")
-                           : Texts::tr("Exchange the numbers that are the wrong way round."));
+               (repair == BoxRepair::AroundVertices
+                    ? Texts::tr("Fixing it makes it the box around the vertices.")
+                : repair == BoxRepair::InOrder
+                    ? Texts::tr("Fixing it exchanges the numbers that are the wrong way round.")
+                    : Texts::tr("Exchange the numbers that are the wrong way round."));
     });
 }
 

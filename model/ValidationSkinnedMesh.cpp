@@ -293,14 +293,14 @@ void checkIds(FindingCollector &found, const SkinnedMesh &mesh, const ReferenceI
 void checkBoxes(FindingCollector &found, const SkinnedMesh &mesh)
 {
     if (isInverted(mesh.bbMin, mesh.bbMax))
-        addInvertedBox(found, {RecordKind::SkinnedMesh, {}}, meshBox(mesh).has_value());
+        addInvertedBox(found, {RecordKind::SkinnedMesh, {}}, BoxRepair::InOrder);
     std::vector<std::optional<Box>> boxes;
     for (size_t b = 0; b < mesh.nodes.size(); ++b) {
         if (!isInverted(mesh.nodes[b].bbMin, mesh.nodes[b].bbMax))
             continue;
         if (boxes.empty())
             boxes = boneBoxes(mesh);
-        addInvertedBox(found, {RecordKind::Bone, {int(b), 0, 0}}, boxes[b].has_value());
+        addInvertedBox(found, {RecordKind::Bone, {int(b), 0, 0}}, aroundVertices(boxes[b].has_value()));
     }
 }
 

@@ -19,7 +19,7 @@ void check(FindingCollector &found, const StaticMesh &mesh)
     checkFinite(found, root, std::pair(Field::boundingBox, mesh.bbMin),
                 std::pair(Field::boundingBox, mesh.bbMax));
     if (isInverted(mesh.bbMin, mesh.bbMax))
-        addInvertedBox(found, root, meshBox(mesh).has_value());
+        addInvertedBox(found, root, aroundVertices(meshBox(mesh).has_value()));
     checkTriangles(found, mesh, RecordKind::StaticSurface, RecordKind::StaticTriangleIndex, NoTerminator);
     checkVertices(found, mesh, RecordKind::StaticVertex);
     checkTexts(found, materialPaths(mesh), RecordKind::StaticSurface);

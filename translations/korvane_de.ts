@@ -6094,6 +6094,10 @@ So lassen?</translation>
         <source>Fixing it enters 65535: it loops from frame 0.</source>
         <translation>Beim Beheben wird 65535 eingetragen: Die Schleife beginnt bei Frame 0.</translation>
     </message>
+    <message>
+        <source>Fixing it exchanges the numbers that are the wrong way round.</source>
+        <translation>Beim Beheben werden die vertauschten Zahlen ausgetauscht.</translation>
+    </message>
 </context>
 <context>
     <name>VertPage</name>

@@ -136,9 +136,11 @@ int repair(Rule rule, std::vector<RecordRef> places, EditTarget<SkinnedMesh> tar
                 if (box && *box)
                     step.push(new UC_SkinnedMeshNodeBBMin(target, place.index, (*box)->min),
                               new UC_SkinnedMeshNodeBBMax(target, place.index, (*box)->max));
-            } else if (const auto box = meshBox(mesh)) {
-                step.push(new UC_SkinnedMeshBBMin(target, {}, box->min),
-                          new UC_SkinnedMeshBBMax(target, {}, box->max));
+            } else {
+                // That of the whole model, which its vertices are not stored in.
+                const Box box = boxBetween(mesh.bbMin, mesh.bbMax);
+                step.push(new UC_SkinnedMeshBBMin(target, {}, box.min),
+                          new UC_SkinnedMeshBBMax(target, {}, box.max));
             }
             break;
         default:

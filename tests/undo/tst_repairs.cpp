@@ -116,6 +116,19 @@ private slots:
         QCOMPARE(stack.count(), 1);
     }
 
+    void theBoxOfASkinnedMeshIsPutInOrder()
+    {
+        // Its vertices are in the spaces of their bones and say nothing of it.
+        auto mesh = bases().front()->model<SkinnedMesh>();
+        mesh.bbMin = {4.0f, -5.0f, 6.0f};
+        mesh.bbMax = {-1.0f, 2.0f, -3.0f};
+        BlindView screen;
+        QUndoStack stack;
+        QCOMPARE(repair(Rule::BoxInverted, {{RecordKind::SkinnedMesh, {}}}, {mesh, screen}, stack), 1);
+        QCOMPARE(mesh.bbMin, QVector3D(-1.0f, -5.0f, -3.0f));
+        QCOMPARE(mesh.bbMax, QVector3D(4.0f, 2.0f, 6.0f));
+    }
+
     void rotationsKeepTheirDirection()
     {
         auto file = bases().front()->model<AnimFile>();

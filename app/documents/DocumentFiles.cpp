@@ -20,32 +20,15 @@ QString startFolder(const DocumentKind &kind, const SettingKey<QString> &lastFol
     return folder.isEmpty() ? kind.explorePath.value() : folder;
 }
 
-/// The folder of a file that a dialog begins with. It is made, and goes again if nothing came to be there.
-class ModFolder
+/// Makes a folder, with those around it that are missing. Gives what was made, the innermost first.
+QStringList makeFolder(const QString &path)
 {
-public:
-    explicit ModFolder(const QString &file)
-        : m_path(file.isEmpty() ? QString() : QFileInfo(file).path())
-    {
-        for (QString made = m_path; !isEmpty() && !QFileInfo::exists(made); made = QFileInfo(made).path())
-            m_made.append(made);
-        if (!isEmpty())
-            QDir().mkpath(m_path);
-    }
-    ~ModFolder()
-    {
-        for (const QString &made : m_made)
-            QDir().rmdir(made); // not one with something in it
-    }
-    /// Something is going to be there.
-    void keep() { m_made.clear(); }
-    bool isEmpty() const { return m_path.isEmpty(); }
-    const QString &path() const { return m_path; }
-
-private:
-    QString m_path;
-    QStringList m_made; ///< the innermost first
-};
+    QStringList made;
+    for (QString missing = path; !QFileInfo::exists(missing); missing = QFileInfo(missing).path())
+        made.append(missing);
+    QDir().mkpath(path);
+    return made;
+}
 } // namespace
 
 DocumentFiles::DocumentFiles(const std::array<Document *, 3> &documents, QWidget *window)
@@ -180,14 +163,18 @@ QString DocumentFiles::targetOfSave(DocumentType type)
 QString DocumentFiles::chooseTarget(DocumentType type)
 {
     const DocumentKind &kind = documentKind(type);
-    ModFolder mod(SaveGuard::modPath(document(type)->path()));
+    const QString inMod = SaveGuard::modPath(document(type)->path());
+    const QString modFolder = inMod.isEmpty() ? QString() : QDir::cleanPath(QFileInfo(inMod).absolutePath());
+    const QStringList made = inMod.isEmpty() ? QStringList() : makeFolder(modFolder);
     const QString path = chooseSavePath(m_window, kind.saveTitle,
-                                        mod.isEmpty() ? startFolder(kind, kind.savePath) : mod.path(),
+                                        inMod.isEmpty() ? startFolder(kind, kind.savePath) : modFolder,
                                         kind.filter, kind.extension, document(type)->fileName());
+    for (const QString &folder : made)
+        QDir().rmdir(folder); // not one with something in it
     if (path.isEmpty())
         return {};
-    if (QFileInfo(path).absolutePath() == mod.path())
-        mod.keep();
+    if (made.contains(QDir::cleanPath(QFileInfo(path).absolutePath())))
+        makeFolder(QFileInfo(path).path()); // which was there to be chosen
     kind.savePath.setValue(QFileInfo(path).absolutePath());
     return m_guard.allowed(*document(type), path);
 }

@@ -39,6 +39,8 @@ QString realFolder(const SettingKey<QString> &key)
 /// mod's.
 QString placeInGame(const QString &path)
 {
+    if (path.isEmpty())
+        return {}; // never saved
     const QString file = realPath(path);
     const QString game = realFolder(Settings::GamePath);
     const QString mod = realFolder(Settings::OutputDir);
@@ -104,6 +106,8 @@ QString SaveGuard::askAboutGame(const QString &path)
                       : tr("In the mod folder it would be\n%1").arg(QDir::toNativeSeparators(mod)));
     QPushButton *overwrite = box.addButton(tr("&Overwrite"), QMessageBox::DestructiveRole);
     const QPushButton *save = nullptr;
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.setEscapeButton(QMessageBox::Cancel);
     if (!mod.isEmpty()) {
         auto *button = box.addButton(tr("Save into the &Mod"), QMessageBox::AcceptRole);
         box.setDefaultButton(button);

@@ -88,7 +88,7 @@ void RecoveryPrompt::on_btnRestore_clicked()
         if (outcome == Recovery::Outcome::Restored)
             done.insert(int(snapshot.type));
     }
-    m_hasRestored = true;
+    m_hasRestored = m_hasRestored || !done.isEmpty();
     offerWhatIsLeft();
 }
 

@@ -67,6 +67,12 @@ private slots:
         QCOMPARE(save({escape}), QStringList(question));
         QVERIFY(window.windowTitle().endsWith(" * ") && !QFileInfo::exists(mod));
         QCOMPARE(path(), game);
+        // Without a mod folder Enter takes nothing.
+        const QString modFolder = Settings::OutputDir.value();
+        Settings::OutputDir.setValue(QString());
+        QCOMPARE(save({enter}).size(), 1);
+        QVERIFY(window.windowTitle().endsWith(" * ") && TestSupport::readFile(game) == before);
+        Settings::OutputDir.setValue(modFolder);
         // The mod folder is what Enter takes; from then on the document is there.
         QCOMPARE(save({enter}), QStringList(question));
         QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh"));
@@ -108,11 +114,17 @@ private slots:
             QCOMPARE(static_cast<QFileDialog *>(dialog)->directory().path(), folder);
             dialog->reject();
         };
-        Hand hand({look, Hand::file(folder + "/man.skinnedmesh")});
+        const QString above = m_files->path("mod/props/box.skinnedmesh");
+        Hand hand({look, Hand::file(folder + "/man.skinnedmesh"), Hand::file(above)});
         QVERIFY(run.files.saveAs(DocumentType::SkinnedMesh));
         QVERIFY(!QFileInfo::exists(m_files->path("mod/models")));
         QVERIFY(!run.files.saveAs(DocumentType::SkinnedMesh));
         QCOMPARE(run.mesh.path(), folder + "/man.skinnedmesh");
+
+        // One folder up from where the dialog begins, which is made for it too.
+        run.openMesh(m_files->save("game/props/deep/box.skinnedmesh", triangleMan()));
+        QVERIFY(!run.files.saveAs(DocumentType::SkinnedMesh));
+        QVERIFY(QFileInfo::exists(above) && !QFileInfo::exists(m_files->path("mod/props/deep")));
     }
 
     void aCompletedNameReplacesNothingUnasked()

@@ -4,9 +4,9 @@
 #
 # Pictures of the real program on a virtual screen that ./dev provides, large enough for the window's frame:
 #   screenshots.sh window PROGRAM PICTURE FILE...   the main window with these files open
-#   screenshots.sh all PROGRAM FOLDER GUIDES SAMPLES   every picture of the documentation and those of the guides
-#                                                   in the program, of these sample folders
-# Each start has the settings home that XDG_CONFIG_HOME names.
+#   screenshots.sh guides PROGRAM GUIDES SAMPLES    those of the guides in the program, of these sample folders
+#   screenshots.sh all PROGRAM FOLDER GUIDES SAMPLES   the same, and every picture of the documentation
+# Each start has the settings home that XDG_CONFIG_HOME names, and speaks its language.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -94,23 +94,6 @@ quit() {
     wait "$korvane_pid" || true
 }
 
-# approach: flies the camera up to the model with the mouse, the same way each time.
-approach() {
-    xdotool mousemove --window "$main" $((width / 2 - 100)) 450 mousedown 1 mousedown 3
-    sleep 0.3
-    xdotool mousemove_relative -- 0 90
-    sleep 0.6
-    xdotool mousemove_relative -- 0 90
-    sleep 0.6
-    xdotool mouseup 3
-    for _ in 1 2 3; do
-        xdotool mousemove_relative -- 0 -100
-        sleep 0.6
-    done
-    xdotool mouseup 1
-    sleep 0.3
-}
-
 press() {
     xdotool key --clearmodifiers "$@"
     sleep 0.5
@@ -182,10 +165,10 @@ background_of() { convert "$1" -format '%[pixel:p{0,0}]' info:; }
 # page NAME: keeps the property page of the current record for pages, without the empty room below it.
 page() {
     local picture=build/page-$1.png box
-    part "$picture" -crop 400x534+1200+424 >>"$log"
+    part "$picture" -crop 328x690+1272+280 >>"$log"
     box=$(convert "$picture" -format '%@' info:)
     [[ $box =~ x([0-9]+)\+[0-9]+\+([0-9]+)$ ]]
-    convert "$picture" -crop "400x$((BASH_REMATCH[1] + BASH_REMATCH[2]))+0+0" +repage \
+    convert "$picture" -crop "328x$((BASH_REMATCH[1] + BASH_REMATCH[2]))+0+0" +repage \
         -bordercolor "$(background_of "$picture")" -border 8x10 "$picture"
 }
 
@@ -221,13 +204,10 @@ model_pictures() {
     static_mesh=$(first staticmesh)
 
     korvane "$skinned_mesh" "$animation"
-    approach
-    for_guide window -filter Lanczos -resize 760x
     in_tree Down Right Down Down Down
     grab "$main" "$folder/main.png"
     press ctrl+comma
     grab_dialog 'Options$' "$folder/options.png"
-    cp "$folder/options.png" "$guides/options.png"
     press alt+s
     grab_dialog 'Options$' "$folder/shortcuts.png"
     leave_dialog
@@ -250,7 +230,6 @@ model_pictures() {
     quit
 
     korvane "$static_mesh"
-    approach
     grab "$main" "$folder/static-mesh.png"
     quit
 
@@ -266,12 +245,11 @@ model_pictures() {
 view_pictures() {
     setting HideAnimData false
     korvane "$(first skinnedmesh)" "$(first anim)"
-    approach
     command 'frame rate'
     press Home 6 b h
     # A few frames are counted.
     sleep 2
-    part "$folder/skeleton.png" -crop 962x644+234+90
+    part "$folder/skeleton.png" -crop 1062x840+206+90
     command 'frame rate'
     press 5 b h F12
     grab_dialog 'Save Picture$' "$folder/picture.png"
@@ -279,11 +257,15 @@ view_pictures() {
     press ctrl+f
     xdotool type --delay 20 'left arm'
     sleep 1
-    part "$folder/filter.png" -crop 400x250+1200+90
+    part "$folder/filter.png" -crop 330x250+1270+90
     press Escape
     # More room for the pages.
-    command 'view console'
-    command 'view problems'
+    xdotool mousemove --window "$main" 1430 530 mousedown 1
+    for _ in 1 2; do
+        xdotool mousemove_relative -- 0 -130
+        sleep 0.2
+    done
+    xdotool mouseup 1
     show_record 'tinker.skinnedmesh'
     page mesh
     show_record 'hot point 1'
@@ -374,20 +356,27 @@ other_pictures() {
 problems_picture() {
     local width=1600 height=1000
     korvane "$(first skinnedmesh)" "$(first anim)"
-    approach
-    click $((width - 250)) $((height - 15))
+    command 'view problems'
     grab "$main" "$1"
     quit
 }
 
-# The pictures of the guides show the view and the records of a window that is hardly wider than a page.
+# The pictures of the guides in English and German. Most show the view and the records of a window that is hardly
+# wider than a page.
 guide_pictures() {
-    local width=1010 height=880 part=() WIDTH
+    local width=1600 height=1000 part=() WIDTH
+    korvane "$(first skinnedmesh)" "$(first anim)"
+    for_guide window -filter Lanczos -resize 760x
+    press ctrl+comma
+    grab_dialog '(Options|Optionen)$' "$guides/options.png"
+    leave_dialog
+    quit
+
+    width=1010 height=880
     korvane "$(first skinnedmesh)" "$(first anim)"
     # The window may not get as narrow.
     eval "$(xdotool getwindowgeometry --shell "$main" | grep -E '^WIDTH=[0-9]+$')"
-    part=(-crop "$((WIDTH - 240))x$(((WIDTH - 240) * 530 / 760))+240+90" -filter Lanczos -resize 760x)
-    approach
+    part=(-crop "$((WIDTH - 240))x$(((WIDTH - 240) * 680 / 760))+240+90" -filter Lanczos -resize 760x)
     in_tree Down Right Down Down Down
     for_guide bone "${part[@]}"
     in_tree Down Left Down Right Down
@@ -398,20 +387,19 @@ guide_pictures() {
     in_tree Down Down Down Right Down Down Down Down Down Right Down
     for_guide action "${part[@]}"
     press ctrl+i
-    wait_for --name '^Import model' >>"$log"
+    wait_for --name '^(Import model|Modell importieren)' >>"$log"
     xdotool type --delay 20 "$samples/import/robot.fbx"
     press Tab
-    grab_dialog 'Import model' "$folder/import.png"
-    cp "$folder/import.png" "$guides/import.png"
+    grab_dialog '(Import model|Modell importieren)' "$guides/import.png"
     leave_dialog
     quit
 
     rm "$samples/mod/textures/"*
-    problems_picture "$folder/problems.png"
-
-    width=760 height=880
+    width=840
     korvane "$(first skinnedmesh)"
-    for_guide console -gravity SouthWest -crop 760x230+0+0
+    # The console, from the status bar.
+    click $((width - 40)) $((height - 12))
+    for_guide console -gravity SouthWest -crop 840x232+0+0 -filter Lanczos -resize 760x
     quit
 }
 
@@ -421,6 +409,11 @@ mkdir -p "$(dirname "$log")"
 : >"$log"
 window_manager
 case $verb in
+guides)
+    guides=$1 samples=$2
+    mkdir -p "$guides"
+    guide_pictures
+    ;;
 window)
     picture=$1
     shift
@@ -435,6 +428,8 @@ all)
     view_pictures
     other_pictures
     guide_pictures
+    cp "$guides/import.png" "$folder/import.png"
+    problems_picture "$folder/problems.png"
     # The next start would offer the same again.
     recovery_pictures
     ;;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "PageBrowser.h"
 
+#include "Look.h"
 #include "WebLink.h"
 
 #include <QApplication>
@@ -35,6 +36,14 @@ void PageBrowser::resizeEvent(QResizeEvent *event)
 {
     layOutColumn();
     QTextBrowser::resizeEvent(event);
+}
+
+QVariant PageBrowser::loadResource(int type, const QUrl &name)
+{
+    QUrl shown = name;
+    if (type == QTextDocument::ImageResource && isDark(palette()))
+        shown.setPath(name.path().replace(QLatin1String("/light/"), QLatin1String("/dark/")));
+    return QTextBrowser::loadResource(type, shown);
 }
 
 void PageBrowser::readAgain()

@@ -4,6 +4,7 @@
 #include "CommunityTab.h"
 #include "Find.h"
 #include "Language.h"
+#include "Look.h"
 #include "TutorialsTab.h"
 #include "WebLink.h"
 
@@ -46,14 +47,22 @@ private slots:
                 for (const QString &link : found.links)
                     QVERIFY2(QFile::exists(folder + link), qPrintable(link));
                 for (const QString &picture : found.pictures) {
-                    const QImage image(QDir::cleanPath(folder + picture));
-                    QVERIFY2(!image.isNull() && image.width() <= 760, qPrintable(picture));
+                    const QUrl address("qrc" + folder + picture);
+                    const auto shown = [&](bool dark) {
+                        page->setPalette(ourPalette(dark));
+                        return page->loadResource(QTextDocument::ImageResource, address);
+                    };
+                    const QByteArray bytes[] = {shown(false).toByteArray(), shown(true).toByteArray()};
+                    for (const QByteArray &looked : bytes)
+                        QVERIFY2(QImage::fromData(looked).width() > 500, qPrintable(picture));
+                    QVERIFY2(bytes[0] != bytes[1], qPrintable(picture));
                     pictures.append(picture.section('/', -1));
                 }
             }
-            // Each picture is used, once.
+            // Each picture is used, once, and stands there in both looks.
             pictures.sort();
-            QCOMPARE(pictures, QDir(QStringLiteral(":/tutorials/images")).entryList(QDir::Files, QDir::Name));
+            for (const char *look : {"light", "dark"})
+                QCOMPARE(pictures, QDir(folder + "images/" + look).entryList(QDir::Files, QDir::Name));
         }
     }
 

@@ -91,7 +91,9 @@ QStringList Checks::findings() const
         if (each.isOpen() && !each.differsFromFile() && !track.direct && bytesOf(each) != track.kept)
             found += QStringLiteral("%1 counts as saved and is something else").arg(kind.label);
         if (each.isOpen())
-            titles += QString("Korvane - ") + each.fileName() + QLatin1String(each.isModified() ? " * " : "");
+            titles += QString("Korvane - ") + each.fileName() +
+                      QLatin1String(each.path().isEmpty() ? " (never saved)" : "") +
+                      QLatin1String(each.isModified() ? " * " : "");
     }
     if (!titles.contains(m_window.windowTitle()))
         found += QStringLiteral("the title is '%1'").arg(m_window.windowTitle());

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "FileWatch.h"
 
-#include <QFileInfo>
+#include "WatchedPaths.h"
+
 #include <QGuiApplication>
 #include <QSet>
 
@@ -29,21 +30,10 @@ void FileWatch::watchPaths()
 {
     QSet<QString> wanted;
     for (const Track &track : m_tracks) {
-        const QString path = track.document->path();
-        if (path.isEmpty())
-            continue;
-        wanted.insert(path);
-        wanted.insert(QFileInfo(path).absolutePath());
+        if (!track.document->path().isEmpty())
+            wanted.insert(track.document->path());
     }
-    const QStringList watched = m_watcher.files() + m_watcher.directories();
-    for (const QString &path : watched) {
-        if (!wanted.remove(path))
-            m_watcher.removePath(path);
-    }
-    for (const QString &path : qAsConst(wanted)) {
-        if (QFileInfo::exists(path))
-            m_watcher.addPath(path);
-    }
+    watchFiles(m_watcher, wanted);
 }
 
 void FileWatch::startAnew(Track &track)

@@ -5,6 +5,7 @@
 #include "KVOpenGLWidget.h"
 #include "MaterialFiles.h"
 #include "Settings.h"
+#include "WatchedPaths.h"
 
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -117,20 +118,10 @@ void TextureWatch::watchPaths()
 {
     QSet<QString> wanted;
     for (const Shown &each : m_shown) {
-        for (auto file = each.files.begin(); file != each.files.end(); ++file) {
+        for (auto file = each.files.begin(); file != each.files.end(); ++file)
             wanted.insert(file.key());
-            wanted.insert(QFileInfo(file.key()).absolutePath());
-        }
     }
-    const QStringList watched = m_watcher.files() + m_watcher.directories();
-    for (const QString &path : watched) {
-        if (!wanted.remove(path))
-            m_watcher.removePath(path);
-    }
-    for (const QString &path : qAsConst(wanted)) {
-        if (QFileInfo::exists(path))
-            m_watcher.addPath(path);
-    }
+    watchFiles(m_watcher, wanted);
 }
 
 void TextureWatch::look()

@@ -27,7 +27,8 @@ using MaterialTable = std::map<QString, QString>;
 /// empty text means success.
 [[nodiscard]] QString writeKMat(const QString &path, const MaterialTable &table);
 
-/// The same into a file whose materials of other names stay, byte for byte; comments too.
+/// The same into a file whose materials of other names stay as they are written, comments too. It is written
+/// in UTF-8 without a byte order mark, or in Latin-1 where it was no UTF-8 and the new names allow it.
 [[nodiscard]] QString mergeKMat(const QString &path, const MaterialTable &table);
 /// The names of the materials of a file that the table does not have, in the order of the file.
 QStringList otherMaterials(const QString &path, const MaterialTable &table);

@@ -7,8 +7,88 @@
 
 namespace {
 // Changes with the fields: an editor and a worker of different builds must not misunderstand each other.
-constexpr quint32 JobMark = 0x4B564A31;
-constexpr quint32 AnswerMark = 0x4B564131;
+constexpr quint32 JobMark = 0x4B564A32;
+constexpr quint32 AnswerMark = 0x4B564132;
+
+QDataStream &operator<<(QDataStream &out, const ReadyClip &clip)
+{
+    return out << clip.clip << qint32(clip.loop);
+}
+
+QDataStream &operator>>(QDataStream &in, ReadyClip &clip)
+{
+    qint32 loop = 0;
+    in >> clip.clip >> loop;
+    clip.loop = ReadyClip::Loop(loop);
+    return in;
+}
+
+QDataStream &operator<<(QDataStream &out, const SceneSummary::Clip &clip)
+{
+    return out << clip.name << clip.seconds << clip.rate;
+}
+
+QDataStream &operator>>(QDataStream &in, SceneSummary::Clip &clip)
+{
+    return in >> clip.name >> clip.seconds >> clip.rate;
+}
+
+QDataStream &operator<<(QDataStream &out, const SceneSummary::Texture &texture)
+{
+    return out << texture.name << texture.file << texture.isEmbedded;
+}
+
+QDataStream &operator>>(QDataStream &in, SceneSummary::Texture &texture)
+{
+    return in >> texture.name >> texture.file >> texture.isEmbedded;
+}
+
+template <typename Item>
+void writeList(QDataStream &out, const std::vector<Item> &items)
+{
+    out << qint32(items.size());
+    for (const Item &item : items)
+        out << item;
+}
+
+/// Whatever the count says, a list holds no more than the stream.
+template <typename Item>
+void readList(QDataStream &in, std::vector<Item> &items)
+{
+    qint32 count = 0;
+    in >> count;
+    items.clear();
+    for (qint32 i = 0; i < count && in.status() == QDataStream::Ok; ++i)
+        in >> items.emplace_back();
+}
+
+void writeReady(QDataStream &out, const ReadyChoices &ready)
+{
+    out << ready.scale << ready.rate << ready.allClips;
+    writeList(out, ready.clips);
+}
+
+void readReady(QDataStream &in, ReadyChoices &ready)
+{
+    in >> ready.scale >> ready.rate >> ready.allClips;
+    readList(in, ready.clips);
+}
+
+void writeSummary(QDataStream &out, const SceneSummary &summary)
+{
+    out << summary.objects << summary.vertices << summary.triangles << summary.bones << summary.size
+        << summary.proposedScale << summary.losses;
+    writeList(out, summary.clips);
+    writeList(out, summary.textures);
+}
+
+void readSummary(QDataStream &in, SceneSummary &summary)
+{
+    in >> summary.objects >> summary.vertices >> summary.triangles >> summary.bones >> summary.size >>
+        summary.proposedScale >> summary.losses;
+    readList(in, summary.clips);
+    readList(in, summary.textures);
+}
 
 template <typename Write>
 bool writeStream(const QString &path, quint32 mark, Write write)
@@ -46,6 +126,7 @@ bool WorkerFolder::write(const WorkerJob &job) const
         out << qint32(job.task) << qint32(job.memoryLimitMiB) << job.modelPath << job.kmatPath << job.flags
             << job.meshVersion << job.animVersion << job.objName << job.textures
             << QVector<qint32>(job.textureOfSurface.begin(), job.textureOfSurface.end());
+        writeReady(out, job.ready);
     });
 }
 
@@ -57,6 +138,7 @@ bool WorkerFolder::read(WorkerJob &job) const
         QVector<qint32> textureOfSurface;
         in >> task >> limit >> job.modelPath >> job.kmatPath >> job.flags >> job.meshVersion >>
             job.animVersion >> job.objName >> job.textures >> textureOfSurface;
+        readReady(in, job.ready);
         job.task = WorkerJob::Task(task);
         job.memoryLimitMiB = limit;
         job.textureOfSurface.assign(textureOfSurface.begin(), textureOfSurface.end());
@@ -66,7 +148,9 @@ bool WorkerFolder::read(WorkerJob &job) const
 bool WorkerFolder::write(const WorkerAnswer &answer) const
 {
     return writeStream(path(QStringLiteral("answer")), AnswerMark, [&answer](QDataStream &out) {
-        out << answer.textures << qint32(answer.messages.size());
+        out << answer.textures << answer.names.toJson();
+        writeSummary(out, answer.summary);
+        out << qint32(answer.messages.size());
         for (const ImportMessage &message : answer.messages)
             out << qint32(message.severity) << message.text;
     });
@@ -75,8 +159,13 @@ bool WorkerFolder::write(const WorkerAnswer &answer) const
 bool WorkerFolder::read(WorkerAnswer &answer) const
 {
     return readStream(path(QStringLiteral("answer")), AnswerMark, [&answer](QDataStream &in) {
+        QByteArray names;
+        in >> answer.textures >> names;
+        if (answer.names.fromJson(names))
+            in.setStatus(QDataStream::ReadCorruptData);
+        readSummary(in, answer.summary);
         qint32 count = 0;
-        in >> answer.textures >> count;
+        in >> count;
         for (qint32 i = 0; i < count && in.status() == QDataStream::Ok; ++i) {
             qint32 severity = 0;
             QString text;

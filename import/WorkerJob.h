@@ -4,6 +4,9 @@
 
 #include "AnimFile.h"
 #include "ImportMessages.h"
+#include "ModelNames.h"
+#include "ReadyChoices.h"
+#include "SceneSummary.h"
 #include "SkinnedMesh.h"
 #include "StaticMesh.h"
 
@@ -27,6 +30,7 @@ struct WorkerJob
     quint32 flags = 0; ///< see ImportFlags
     qint32 meshVersion = 2;
     qint32 animVersion = 2;
+    ReadyChoices ready; ///< for what arrives ready for the game
 
     // Export. `mesh` travels in the task's model file; the result is OBJ and MTL text.
     QString objName;                      ///< of the file to be made, as "crate.obj"
@@ -47,6 +51,8 @@ struct WorkerAnswer
 {
     QVector<ImportMessage> messages;
     QStringList textures; ///< distinct, in the order of the surfaces that have one
+    ModelNames names;     ///< of a skinned mesh that arrives ready for the game
+    SceneSummary summary; ///< of a file that was only looked at
 };
 
 /// The files of one job in `folder`. All functions return true on failure.

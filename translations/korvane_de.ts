@@ -3000,6 +3000,17 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
 </context>
 <context>
+    <name>ModelNames</name>
+    <message>
+        <source>The names in &apos;%1&apos; could not be read.</source>
+        <translation>Die Namen in „%1“ konnten nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The names in &apos;%1&apos; are damaged.</source>
+        <translation>Die Namen in „%1“ sind beschädigt.</translation>
+    </message>
+</context>
+<context>
     <name>NameTables</name>
     <message>
         <source>Body</source>

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QVector3D>
+
+#include <vector>
+
+/// What a foreign file holds, before anything is taken of it.
+struct SceneSummary
+{
+    struct Clip
+    {
+        QString name;
+        double seconds = 0.0;
+        double rate = 0.0; ///< keys a second as the source says it; 0 when it does not
+    };
+
+    struct Texture
+    {
+        QString name; ///< as the source names it
+        QString file; ///< where it was found; empty for one that is missing or in the model itself
+        bool isEmbedded = false;
+    };
+
+    qint32 objects = 0; ///< meshes as they stand in the scene: each instance counts
+    qint32 vertices = 0;
+    qint32 triangles = 0;
+    qint32 bones = 0; ///< nodes that a skin names
+    QVector3D size;   ///< of the whole at rest, in the source's units, in the game's axes: z is the height
+    float proposedScale = 1.0f;
+    std::vector<Clip> clips;
+    std::vector<Texture> textures;
+    QStringList losses; ///< what of it cannot come along, a sentence each
+};

@@ -26,7 +26,7 @@ picture=docs/images/rooms.svg
 floors='core resources translations
 model net app/widgets
 undo import render/scene
-app/documents import/scene render/input
+app/documents gltf import/scene render/input
 render
 app/tree app/view app/timeline app/explorer app/recovery app/console
 app/tree/pages app/problems app/database app/import

@@ -44,6 +44,8 @@ public:
     // What the last job gave. The models are read from its files at the call.
     const ImportMessages &messages() const { return m_messages; }
     const QStringList &textures() const { return m_answer.textures; }
+    const ModelNames &names() const { return m_answer.names; }
+    const SceneSummary &summary() const { return m_answer.summary; }
     /// These return true on failure. An animation file without blocks stands for no animation.
     [[nodiscard]] bool read(SkinnedMesh &mesh, AnimFile &anim) const;
     [[nodiscard]] bool read(StaticMesh &mesh) const;

@@ -14,8 +14,8 @@ struct SceneSummary
     struct Clip
     {
         QString name;
-        double seconds = 0.0;
-        double rate = 0.0; ///< keys a second as the source says it; 0 when it does not
+        double seconds = 0.0; ///< from the first key to the last
+        double rate = 0.0;    ///< ticks a second as the source says it; 0 when it does not
     };
 
     struct Texture
@@ -25,7 +25,7 @@ struct SceneSummary
         bool isEmbedded = false;
     };
 
-    qint32 objects = 0; ///< meshes as they stand in the scene: each instance counts
+    qint32 objects = 0; ///< nodes of the scene that show something
     qint32 vertices = 0;
     qint32 triangles = 0;
     qint32 bones = 0; ///< nodes that a skin names

@@ -19,7 +19,7 @@
 /// temporary folder, the models in the game's own formats.
 struct WorkerJob
 {
-    enum class Task { ImportSkinnedMesh, ImportStaticMesh, ExportObj };
+    enum class Task { ImportSkinnedMesh, ImportStaticMesh, ExportObj, Summarize };
 
     Task task = Task::ImportSkinnedMesh;
     int memoryLimitMiB = 4096; ///< of address space

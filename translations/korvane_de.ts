@@ -2051,6 +2051,10 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>%1 %2 vertices have a position, normal or UV that is no number</source>
         <translation>%1 %2 Vertices haben eine Position, Normale oder UV-Koordinate, die keine Zahl ist</translation>
     </message>
+    <message>
+        <source>%1 does not contain any triangles</source>
+        <translation>%1 enthält keine Dreiecke</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -5394,6 +5398,49 @@ So lassen?</translation>
     <message>
         <source>Number of triangles of the surface</source>
         <translation>Anzahl der Dreiecke der Fläche</translation>
+    </message>
+</context>
+<context>
+    <name>Survey</name>
+    <message>
+        <source>Vertices: %1. A model can hold no more than %2.</source>
+        <translation>Vertices: %1. Ein Modell kann höchstens %2 enthalten.</translation>
+    </message>
+    <message>
+        <source>Bones: %1. The game poses %2, so bones that nothing follows or nothing moves have to go.</source>
+        <translation>Knochen: %1. Das Spiel bewegt %2, also müssen Knochen weichen, denen nichts folgt oder die nichts bewegt.</translation>
+    </message>
+    <message>
+        <source>Vertices that follow several bones: %1 of %2. Each will follow the one with the greatest weight.</source>
+        <translation>Vertices, die mehreren Knochen folgen: %1 von %2. Jeder folgt dann dem mit dem größten Gewicht.</translation>
+    </message>
+    <message>
+        <source>Bones or objects that change their size in animations: %1. In the game they keep it.</source>
+        <translation>Knochen oder Objekte, die in Animationen ihre Größe ändern: %1. Im Spiel behalten sie sie.</translation>
+    </message>
+    <message>
+        <source>Objects with shapes to blend (morph targets): %1. They keep the shape that they have at rest.</source>
+        <translation>Objekte mit Formen zum Überblenden (Morph Targets): %1. Sie behalten die Form der Ruhelage.</translation>
+    </message>
+    <message>
+        <source>Animations that jump from key to key: %1. They will glide.</source>
+        <translation>Animationen, die von Key zu Key springen: %1. Sie werden gleiten.</translation>
+    </message>
+    <message>
+        <source>Points and lines: %1. They are left out.</source>
+        <translation>Punkte und Linien: %1. Sie bleiben weg.</translation>
+    </message>
+    <message>
+        <source>Objects with more than one set of texture coordinates: %1. The first one comes along.</source>
+        <translation>Objekte mit mehr als einem Satz Texturkoordinaten: %1. Der erste kommt mit.</translation>
+    </message>
+    <message>
+        <source>Objects with colored vertices: %1. The colors are left out.</source>
+        <translation>Objekte mit farbigen Vertices: %1. Die Farben bleiben weg.</translation>
+    </message>
+    <message>
+        <source>Textures beside those of the color, such as relief or shine: %1. They are left out.</source>
+        <translation>Texturen neben denen der Farbe, etwa für Relief oder Glanz: %1. Sie bleiben weg.</translation>
     </message>
 </context>
 <context>

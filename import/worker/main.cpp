@@ -6,6 +6,7 @@
 #include "Language.h"
 #include "ObjExport.h"
 #include "SceneImport.h"
+#include "SceneSurvey.h"
 #include "WorkerJob.h"
 
 #include <QCoreApplication>
@@ -84,6 +85,9 @@ void work(const WorkerJob &job, const WorkerFolder &folder, WorkerAnswer &answer
             exportObj(mesh, job.textures, job.textureOfSurface, folder.path(job.objName), messages);
         break;
     }
+    case WorkerJob::Task::Summarize:
+        answer.summary = surveyScene(job.modelPath, messages);
+        break;
     }
     if (failed)
         messages.addError(

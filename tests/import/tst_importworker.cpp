@@ -92,6 +92,17 @@ private slots:
         QFETCH(bool, isGood);
         QFETCH(QString, reading);
         const bool hangs = reading.startsWith(QLatin1String("HANG"));
+        {
+            WorkerJob look = importJob(path, true);
+            look.task = WorkerJob::Task::Summarize;
+            ImportWorker worker;
+            worker.setTimeLimit(hangs ? 2000 : 50000);
+            run(worker, look);
+            const QString errors = errorsOf(worker.messages());
+            QVERIFY2(!isGood || errors.isEmpty(), qPrintable(errors));
+            QVERIFY2(errors.isEmpty() || errors.startsWith(path), qPrintable(errors));
+            QCOMPARE(errors.isEmpty(), worker.summary().triangles > 0);
+        }
         for (const bool skinned : {true, false}) {
             ImportWorker worker;
             worker.setTimeLimit(hangs ? 2000 : 50000);

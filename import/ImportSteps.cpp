@@ -100,11 +100,14 @@ WorkerJob importJob(const ImportChoices &choices)
                 (choices.flipWindingOrder ? ImportFlags::FlipWindingOrder : 0);
     job.meshVersion = choices.meshVersion;
     job.animVersion = choices.animVersion;
+    job.ready = choices.ready;
     return job;
 }
 
 void transformImported(SkinnedMesh &mesh, const ImportChoices &choices)
 {
+    if (choices.arrival == Arrival::Ready)
+        return;
     if (choices.rotatePitch) {
         mesh.rotate(PitchOfSkinnedMesh, 0.0f, 0.0f);
         boundVertices(mesh);
@@ -114,6 +117,8 @@ void transformImported(SkinnedMesh &mesh, const ImportChoices &choices)
 
 void transformImported(StaticMesh &mesh, const ImportChoices &choices)
 {
+    if (choices.arrival == Arrival::Ready)
+        return;
     if (choices.rotatePitch)
         mesh.rotate(PitchOfStaticMesh, 0.0f, 0.0f);
     scaleImported(mesh, choices.scale);

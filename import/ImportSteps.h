@@ -11,6 +11,8 @@
 struct ImportChoices
 {
     bool isStatic = false;
+    Arrival arrival = Arrival::AsStored;
+    ReadyChoices ready; ///< what counts of a model that arrives ready for the game, beside where its files go
     QString modelPath;
     QString modFolder;
     QString kmatPath;                                   ///< relative to the mod folder
@@ -44,6 +46,6 @@ QStringList outputProblems(const ImportChoices &choices);
 
 WorkerJob importJob(const ImportChoices &choices);
 
-/// Turns and scales what was read, the last step of an import.
+/// Turns and scales what was read as it is stored, the last step of an import.
 void transformImported(SkinnedMesh &mesh, const ImportChoices &choices);
 void transformImported(StaticMesh &mesh, const ImportChoices &choices);

@@ -57,11 +57,9 @@ QQuaternion yawOf(const AnimFrame &frame)
 // Walking every child list backwards and posing each bone once leaves every bone as the last of its visits
 // in list order would, in linear time: a plain recursion takes one visit per path, which is exponential in
 // a mesh that names children twice, and as deep as the longest chain.
-template <typename LocalMatrix>
-void PoseEvaluator::walk(BonePalette &palette, const SkinnedMesh &mesh, const AnimBlock &block,
-                         LocalMatrix local)
+template <typename Take>
+void PoseEvaluator::walk(const SkinnedMesh &mesh, size_t bones, Take take)
 {
-    const size_t bones = std::min({mesh.nodes.size(), block.nodes.size(), palette.size()});
     if (bones == 0)
         return;
     m_visited.resize(bones, 0);
@@ -76,7 +74,7 @@ void PoseEvaluator::walk(BonePalette &palette, const SkinnedMesh &mesh, const An
         m_path.push_back({quint32(bone), quint32(mesh.nodes[bone].childNodes.size())});
     };
     m_path.clear();
-    palette[0] = local(block.nodes[0]);
+    take(size_t(0), NoParent);
     enter(0);
     while (!m_path.empty()) {
         Visit &visit = m_path.back();
@@ -87,9 +85,20 @@ void PoseEvaluator::walk(BonePalette &palette, const SkinnedMesh &mesh, const An
         const size_t child = mesh.nodes[visit.bone].childNodes[--visit.childrenLeft];
         if (child >= bones || m_visited[child] == m_walk)
             continue;
-        palette[child] = palette[visit.bone] * local(block.nodes[child]);
+        take(child, int(visit.bone));
         enter(child);
     }
+}
+
+template <typename LocalMatrix>
+void PoseEvaluator::compose(BonePalette &palette, const SkinnedMesh &mesh, const AnimBlock &block,
+                            LocalMatrix local)
+{
+    const size_t bones = std::min({mesh.nodes.size(), block.nodes.size(), palette.size()});
+    walk(mesh, bones, [&](size_t bone, int parent) {
+        palette[bone] = parent == NoParent ? local(block.nodes[bone])
+                                           : palette[size_t(parent)] * local(block.nodes[bone]);
+    });
 }
 
 int PoseEvaluator::evaluateAnimatedPose(BonePalette &palette, const SkinnedMesh &mesh, const AnimBlock &block,
@@ -102,11 +111,18 @@ int PoseEvaluator::evaluateAnimatedPose(BonePalette &palette, const SkinnedMesh 
     const FrameChoice at = chooseFrame(block, state.playState, state.forceLoop, state.time);
     yaw =
         QQuaternion::nlerp(yawOf(block.frames[size_t(at.frame)]), yawOf(block.frames[size_t(at.next)]), at.t);
-    walk(palette, mesh, block, [&](const AnimNode &node) { return animatedMatrix(block, node, at); });
+    compose(palette, mesh, block, [&](const AnimNode &node) { return animatedMatrix(block, node, at); });
     return at.frame;
 }
 
 void PoseEvaluator::evaluateInitialPose(BonePalette &palette, const SkinnedMesh &mesh, const AnimBlock &block)
 {
-    walk(palette, mesh, block, [](const AnimNode &node) { return initialMatrix(node); });
+    compose(palette, mesh, block, [](const AnimNode &node) { return initialMatrix(node); });
+}
+
+std::vector<int> PoseEvaluator::parents(const SkinnedMesh &mesh)
+{
+    std::vector<int> found(mesh.nodes.size(), NotReached);
+    walk(mesh, mesh.nodes.size(), [&](size_t bone, int parent) { found[bone] = parent; });
+    return found;
 }

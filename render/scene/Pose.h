@@ -35,6 +35,11 @@ public:
     /// Poses the bones at their initial positions and rotations.
     void evaluateInitialPose(BonePalette &palette, const SkinnedMesh &mesh, const AnimBlock &block);
 
+    static constexpr int NoParent = -1;
+    static constexpr int NotReached = -2;
+    /// For each bone of the mesh the bone that a pose composes it with, NoParent for bone 0, or NotReached.
+    std::vector<int> parents(const SkinnedMesh &mesh);
+
 private:
     struct Visit
     {
@@ -42,8 +47,10 @@ private:
         quint32 childrenLeft;
     };
 
+    template <typename Take>
+    void walk(const SkinnedMesh &mesh, size_t bones, Take take);
     template <typename LocalMatrix>
-    void walk(BonePalette &palette, const SkinnedMesh &mesh, const AnimBlock &block, LocalMatrix local);
+    void compose(BonePalette &palette, const SkinnedMesh &mesh, const AnimBlock &block, LocalMatrix local);
 
     std::vector<Visit> m_path;
     std::vector<quint32> m_visited; ///< the walk that saw the bone last

@@ -3,19 +3,27 @@
 #pragma once
 
 #include <QJsonArray>
-#include <QJsonValue>
-#include <QVector3D>
+
+#include <array>
+#include <vector>
 
 /// The fewest digits that read back to the same float. It has to be finite; minus zero becomes zero.
 double shortestNumber(float value);
 
-/// A JSON number for what is written into a glTF file's own properties.
-inline QJsonValue gltfNumber(float value)
+/// For a list of the file's own properties.
+template <size_t Count>
+QJsonArray gltfNumbers(const std::array<float, Count> &values)
 {
-    return shortestNumber(value);
+    QJsonArray array;
+    for (const float value : values)
+        array.append(shortestNumber(value));
+    return array;
 }
 
-inline QJsonArray gltfVector(const QVector3D &vector)
+inline QJsonArray gltfIndexes(const std::vector<int> &indexes)
 {
-    return {gltfNumber(vector.x()), gltfNumber(vector.y()), gltfNumber(vector.z())};
+    QJsonArray array;
+    for (const int index : indexes)
+        array.append(index);
+    return array;
 }

@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "GltfTextures.h"
+
+#include "GltfWriter.h"
+#include "ImportMessages.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+
+namespace {
+// A picture's header is not to be trusted with more memory than this, in pixels (256 MiB as RGBA).
+constexpr qint64 PixelLimit = 64 * 1024 * 1024;
+// As the view has it, of 255: what is fainter is a hole.
+constexpr int HoleAlpha = 2;
+
+enum GlFilter { Linear = 9729, LinearMipmapLinear = 9987 };
+constexpr int Repeat = 10497;
+
+struct Picture
+{
+    GltfImage file;
+    bool hasHoles = false;
+};
+
+bool hasHolesIn(QImage image)
+{
+    if (!image.hasAlphaChannel())
+        return false;
+    image = image.convertToFormat(QImage::Format_RGBA8888);
+    for (int y = 0; y < image.height(); ++y) {
+        const uchar *line = image.constScanLine(y);
+        for (int x = 0; x < image.width(); ++x) {
+            if (line[4 * x + 3] <= HoleAlpha)
+                return true;
+        }
+    }
+    return false;
+}
+
+/// Returns true on failure.
+bool readPicture(const QString &path, Picture &picture)
+{
+    QFile file(path);
+    // Opening a pipe would wait for a writer for ever.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return true;
+    picture.file.bytes = file.readAll();
+    QBuffer bytes(&picture.file.bytes);
+    QImageReader reader(&bytes);
+    reader.setDecideFormatFromContent(true);
+    const QSize size = reader.size();
+    if (size.isValid() && qint64(size.width()) * size.height() > PixelLimit)
+        return true;
+    const QByteArray format = reader.format();
+    const QImage image = reader.read();
+    if (image.isNull())
+        return true;
+    bytes.close();
+    picture.hasHoles = hasHolesIn(image);
+    picture.file.fileName = QFileInfo(path).fileName();
+    if (format == "jpeg" || format == "jpg") {
+        picture.file.mimeType = QStringLiteral("image/jpeg");
+        return false;
+    }
+    picture.file.mimeType = QStringLiteral("image/png");
+    if (format == "png")
+        return false;
+    picture.file.fileName = QFileInfo(path).completeBaseName() + QStringLiteral(".png");
+    picture.file.bytes.clear();
+    bytes.open(QIODevice::WriteOnly);
+    return !image.save(&bytes, "PNG");
+}
+
+QString warning(const QString &text)
+{
+    return QStringLiteral("[glTF Export] %1").arg(text);
+}
+} // namespace
+
+GltfTextures::GltfTextures(const QString &gamePath, const QString &outputDir, GltfWriter &writer,
+                           ImportMessages &messages)
+    : m_materials(gamePath, outputDir)
+    , m_writer(writer)
+    , m_messages(messages)
+{}
+
+GltfTextures::Texture GltfTextures::find(const QString &materialPath)
+{
+    const MaterialFiles::Lookup found = m_materials.find(materialPath);
+    for (const QString &problem : {found.error, found.warning}) {
+        if (!problem.isEmpty())
+            m_messages.addWarning(warning(problem));
+    }
+    if (found.texture.isEmpty() || found.texture == MaterialFiles::Blank)
+        return {};
+    const auto known = m_textures.constFind(found.texture);
+    return known != m_textures.constEnd() ? *known : *m_textures.insert(found.texture, add(found.texture));
+}
+
+GltfTextures::Texture GltfTextures::add(const QString &name)
+{
+    const QStringList paths = m_materials.candidates(name);
+    Picture picture;
+    const auto isPicture = [&picture](const QString &path) { return !readPicture(path, picture); };
+    if (std::none_of(paths.begin(), paths.end(), isPicture)) {
+        m_messages.addWarning(
+            warning(QCoreApplication::translate("Import", "Texture '%1' not found, or it cannot be read")
+                        .arg(paths.isEmpty() ? name : paths.last())));
+        return {};
+    }
+    if (m_writer.count("samplers") == 0) {
+        m_writer.append("samplers", {{QStringLiteral("magFilter"), Linear},
+                                     {QStringLiteral("minFilter"), LinearMipmapLinear},
+                                     {QStringLiteral("wrapS"), Repeat},
+                                     {QStringLiteral("wrapT"), Repeat}});
+    }
+    const int image = m_writer.addImage(picture.file);
+    const int texture =
+        m_writer.append("textures", {{QStringLiteral("sampler"), 0}, {QStringLiteral("source"), image}});
+    return {texture, picture.hasHoles};
+}

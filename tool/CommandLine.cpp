@@ -57,12 +57,17 @@ std::optional<int> CommandLine::parse(const QStringList &arguments, bool many)
 
 std::optional<int> CommandLine::integer(const QString &name, int least, int most) const
 {
+    return integer(name, value(name), least, most);
+}
+
+std::optional<int> CommandLine::integer(const QString &name, const QString &text, int least, int most) const
+{
     bool isNumber = false;
-    const int given = value(name).toInt(&isNumber);
+    const int given = text.toInt(&isNumber);
     if (isNumber && given >= least && given <= most)
         return given;
     refuse(QStringLiteral("--%1 takes a whole number from %2 to %3, not '%4'.")
-               .arg(name, QString::number(least), QString::number(most), value(name)));
+               .arg(name, QString::number(least), QString::number(most), text));
     return {};
 }
 

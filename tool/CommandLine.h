@@ -30,10 +30,12 @@ public:
 
     bool isSet(const QString &name) const { return m_parser.isSet(name); }
     QString value(const QString &name) const { return m_parser.value(name); }
+    QStringList values(const QString &name) const { return m_parser.values(name); }
     QStringList operands() const { return m_parser.positionalArguments(); }
 
     /// A number within bounds; none when the value is not one, which standard error then says.
     std::optional<int> integer(const QString &name, int least, int most) const;
+    std::optional<int> integer(const QString &name, const QString &text, int least, int most) const;
     std::optional<float> number(const QString &name, float least, float most) const;
 
     /// Says what is wrong with the usage; gives the exit code.

@@ -2,15 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "BoundingSphere.h"
 #include "CommandLine.h"
-#include "Companions.h"
 #include "FrameChoice.h"
 #include "Framing.h"
 #include "GameFolders.h"
-#include "ModelFile.h"
 #include "OffscreenScene.h"
 #include "Output.h"
 #include "Playback.h"
 #include "Pose.h"
+#include "PosedModel.h"
 #include "Settings.h"
 #include "Verbs.h"
 #include "WholeFile.h"
@@ -26,19 +25,6 @@ namespace {
 constexpr int DefaultYaw = 30;
 constexpr int DefaultPitch = 15;
 
-/// What the picture shows: a mesh, and for a skinned one the animation that poses it.
-struct Subject
-{
-    FileContent mesh;
-    QString meshPath;
-    FileContent anim;
-    QString animPath;
-
-    const SkinnedMesh *skinned() const { return std::get_if<SkinnedMesh>(&mesh); }
-    const StaticMesh *rigid() const { return std::get_if<StaticMesh>(&mesh); }
-    const AnimFile *animFile() const { return std::get_if<AnimFile>(&anim); }
-};
-
 /// What is wanted of the picture.
 struct Wishes
 {
@@ -50,77 +36,14 @@ struct Wishes
     int frame = 0;
 };
 
-QString load(const QString &path, FileContent &content)
-{
-    const QString error = readFile(path, content);
-    return error.isEmpty() ? QString() : QStringLiteral("%1: %2").arg(path, error);
-}
-
-/// Reads the files. Returns why there is nothing to draw.
-QString read(const QString &file, const QString &animPath, const MaterialFolders &folders, Subject &subject)
-{
-    subject.meshPath = file;
-    subject.animPath = animPath;
-    QString error = load(file, subject.mesh);
-    if (!error.isEmpty())
-        return error;
-    if (std::holds_alternative<AnimFile>(subject.mesh) && animPath.isEmpty()) {
-        subject.anim = std::move(subject.mesh);
-        subject.animPath = file;
-        subject.meshPath = Companions(folders).find(file).path;
-        if (subject.meshPath.isEmpty())
-            return QStringLiteral("%1: There is no skinned mesh of this name for the animation.").arg(file);
-        error = load(subject.meshPath, subject.mesh);
-        if (!error.isEmpty())
-            return error;
-    }
-    if (!subject.skinned() && !subject.rigid())
-        return QStringLiteral("%1: This is no mesh.").arg(file);
-    if (subject.rigid() && !animPath.isEmpty())
-        return QStringLiteral("%1: A static mesh has no animation.").arg(file);
-    if (!subject.skinned() || subject.animFile())
-        return {};
-    const bool asked = !animPath.isEmpty();
-    if (!asked)
-        subject.animPath = Companions(folders).find(file).path;
-    if (subject.animPath.isEmpty())
-        return {};
-    error = load(subject.animPath, subject.anim);
-    if (error.isEmpty() && !subject.animFile())
-        error = QStringLiteral("%1: This is no animation.").arg(subject.animPath);
-    if (error.isEmpty() && !animationMatchesMesh(*subject.animFile(), *subject.skinned()))
-        error = QStringLiteral("%1: The animation does not have as many bones as '%2'.")
-                    .arg(subject.animPath, subject.meshPath);
-    if (error.isEmpty() || asked)
-        return error;
-    // Nobody named this file, so the model is drawn without it.
-    Output::complain(QStringLiteral("warning: ") + error);
-    subject.anim = std::monostate();
-    return {};
-}
-
 /// Why the block and the frame cannot be shown.
-QString posingProblem(const Subject &subject, const CommandLine &line, const Wishes &wishes)
+QString posingProblem(const PosedModel &subject, const CommandLine &line, const Wishes &wishes)
 {
-    const AnimFile *anim = subject.animFile();
-    if (!anim) {
-        return line.isSet(QStringLiteral("block")) || line.isSet(QStringLiteral("frame"))
-                   ? QStringLiteral("%1: There is no animation to take a block or a frame of.")
-                         .arg(subject.meshPath)
-                   : QString();
-    }
-    if (size_t(wishes.block) >= anim->blocks.size())
-        return QStringLiteral("%1: There is no block %2, only %3 of them.")
-            .arg(subject.animPath, QString::number(wishes.block), QString::number(anim->blocks.size()));
-    const int frames = anim->blocks[size_t(wishes.block)].frameCount();
-    if (wishes.frame > 0 && wishes.frame >= frames)
-        return QStringLiteral("%1: Block %2 has no frame %3, only %4 of them.")
-            .arg(subject.animPath, QString::number(wishes.block), QString::number(wishes.frame),
-                 QString::number(frames));
-    return {};
+    const bool isAsked = line.isSet(QStringLiteral("block")) || line.isSet(QStringLiteral("frame"));
+    return subject.animFile() || isAsked ? subject.problem(wishes.block, wishes.frame) : QString();
 }
 
-void pose(GLMesh &model, SceneFrame &frame, const Subject &subject, const Wishes &wishes)
+void pose(GLMesh &model, SceneFrame &frame, const PosedModel &subject, const Wishes &wishes)
 {
     frame.skinned = subject.skinned() != nullptr;
     if (!frame.skinned || !subject.animFile())
@@ -228,8 +151,8 @@ int render(const QStringList &arguments)
 
     const QString file = line.operands().constFirst();
     const MaterialFolders folders = foldersAround(file, line);
-    Subject subject;
-    QString error = read(file, line.value(QStringLiteral("anim")), folders, subject);
+    PosedModel subject;
+    QString error = subject.read(file, line.value(QStringLiteral("anim")), folders);
     if (error.isEmpty())
         error = posingProblem(subject, line, *wishes);
     if (!error.isEmpty()) {

@@ -17,7 +17,7 @@ constexpr Verb verbs[] = {
     {"check", "look for faults in files and folders", check},
     {"resave", "read files and write them back", resave},
     {"import", "turn a model of another program into game files", importModel},
-    {"export", "turn a static mesh into an OBJ file", exportModel},
+    {"export", "turn a mesh into a glTF or OBJ file", exportModel},
     {"render", "draw a model into a picture", render, true},
 };
 

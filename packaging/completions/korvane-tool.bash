@@ -60,7 +60,9 @@ _korvane_tool() {
         options='--output --static --force --keep-materials --no-normals --flip-uv --flip-winding --no-rotate --scale
             --mod-path --create-kmat --copy-textures --kmat --texture-folder --time-limit --help'
         ;;
-    export) options='--output --force --game-path --mod-path --help' ;;
+    export)
+        options='--output --gltf --anim --block --pose --frame --force --game-path --mod-path --help'
+        ;;
     render)
         options='--output --anim --block --frame --size --background --yaw --pitch --game-path --mod-path --help'
         ;;
@@ -72,8 +74,7 @@ _korvane_tool() {
 
     case $verb in
     info | check) _korvane_tool_files 'skinnedmesh|anim|staticmesh|kmat' ;;
-    resave | render) _korvane_tool_files 'skinnedmesh|anim|staticmesh' ;;
-    export) _korvane_tool_files staticmesh ;;
+    resave | export | render) _korvane_tool_files 'skinnedmesh|anim|staticmesh' ;;
     import) _korvane_tool_files ;;
     esac
 }

@@ -50,6 +50,11 @@ private slots:
             {"import x.obj -o / --mod-path /tmp --kmat /etc/x.kmat", "/etc/x.kmat"},
             {"import x.obj -o / --mod-path /nowhere --create-kmat", "/nowhere"},
             {"export x.staticmesh -o x.fbx", "x.fbx"},
+            {"export x.staticmesh -o x.obj --gltf", "x.obj"},
+            {"export x.skinnedmesh -o x.glb --pose", "OBJ, not glTF"},
+            {"export x.skinnedmesh -o x.glb --block 0 --block -1", "'-1'"},
+            {"export x.skinnedmesh -o x.glb --frame 1", "--pose"},
+            {"export x.skinnedmesh -o /nowhere/x.glb", "/nowhere"},
             {"render x.staticmesh", "-o FILE is missing"},
             {"render x.staticmesh -o x.png --size 0x200", "0x200"},
             {"render x.staticmesh -o x.png --background bleu", "bleu"},
@@ -98,7 +103,7 @@ private slots:
         const auto complete = [this](const char *words) { return completed(words, path()); };
         QCOMPARE(complete("re"), QStringList({"render", "resave"}));
         QCOMPARE(complete("info ''"), QStringList({"a fox.anim", "folder", "fox.staticmesh"}));
-        QCOMPARE(complete("export ''"), QStringList({"folder", "fox.staticmesh"}));
+        QCOMPARE(complete("export ''"), QStringList({"a fox.anim", "folder", "fox.staticmesh"}));
         QCOMPARE(complete("render fox.staticmesh --anim ''"), QStringList({"a fox.anim", "folder"}));
         QCOMPARE(complete("render --game-path f"), QStringList({"folder"}));
     }
@@ -298,7 +303,46 @@ private slots:
 
         const ToolRun anim("export -o", {path(), source("samples/game/anims/tinker/tinker.anim")});
         QCOMPARE(anim.exitCode, 1);
-        QVERIFY(anim.err.contains("Only static meshes"));
+        QVERIFY(anim.err.contains("with --pose; glTF has all"));
+    }
+
+    void exportAsGltf()
+    {
+        const QString mesh = source("samples/game/models/tinker/tinker.skinnedmesh");
+        const auto clips = [this] {
+            return QJsonDocument::fromJson(readFile(path("t.gltf")))["animations"].toArray().size();
+        };
+        const ToolRun all("export --gltf", {mesh, "-o", path()});
+        QVERIFY2(all.exitCode == 0, qUtf8Printable(all.err));
+        QCOMPARE(all.out, path("tinker.glb") + '\n');
+        QVERIFY(readFile(path("tinker.glb")).startsWith("glTF"));
+        // With the files beside it and one of the blocks, of the animation's mesh.
+        const QStringList more{source("samples/game/anims/tinker/tinker.anim"), "-o", path("t.gltf")};
+        QCOMPARE(ToolRun("export --block 1", more).exitCode, 0);
+        QCOMPARE(clips(), 1);
+        QVERIFY(QFileInfo::exists(path("t.bin")) && QFileInfo::exists(path("tinker.png")));
+        // What stands there stays; the same again takes nothing's place.
+        QCOMPARE(ToolRun("export --block 1", more).exitCode, 0);
+        const ToolRun refused("export --block 0", more);
+        QCOMPARE(refused.exitCode, 1);
+        QVERIFY(refused.err.contains("t.gltf: The file exists already"));
+        QCOMPARE(ToolRun("export --force --block 0 --block 1", more).exitCode, 0);
+        QCOMPARE(clips(), 2);
+        QVERIFY(ToolRun("export --force --block 99", more).err.contains("no block 99"));
+        QCOMPARE(ToolRun("export --gltf -o", {path(), source("samples/game/models/crate/crate.staticmesh")})
+                     .exitCode,
+                 0);
+
+        const QStringList pose{mesh, "-o", path("pose.obj"), "--pose"};
+        QCOMPARE(ToolRun("export --block 1 --frame 3", pose).exitCode, 0);
+        const QByteArray third = readFile(path("pose.obj"));
+        QCOMPARE(ToolRun("export --force --block 1", pose).exitCode, 0);
+        QVERIFY(third.contains("\nv ") && third != readFile(path("pose.obj")));
+        QVERIFY(ToolRun("export --force --block 1 --frame 9999", pose).err.contains("no frame 9999"));
+        QCOMPARE(
+            ToolRun("export --pose -o", {path("x.obj"), source("samples/game/models/crate/crate.staticmesh")})
+                .exitCode,
+            1);
     }
 
     void fullDisk()

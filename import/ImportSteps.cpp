@@ -91,7 +91,10 @@ QStringList outputProblems(const ImportChoices &choices)
 WorkerJob importJob(const ImportChoices &choices)
 {
     WorkerJob job;
-    job.task = choices.isStatic ? WorkerJob::Task::ImportStaticMesh : WorkerJob::Task::ImportSkinnedMesh;
+    const bool isReady = choices.arrival == Arrival::Ready;
+    job.task = choices.isStatic
+                   ? (isReady ? WorkerJob::Task::ImportReadyStaticMesh : WorkerJob::Task::ImportStaticMesh)
+                   : (isReady ? WorkerJob::Task::ImportReadySkinnedMesh : WorkerJob::Task::ImportSkinnedMesh);
     job.modelPath = choices.modelPath;
     job.kmatPath = choices.kmatPath;
     job.flags = (choices.isStatic ? ImportFlags::StaticMesh : ImportFlags::SkinnedMesh) |

@@ -19,7 +19,14 @@
 /// temporary folder, the models in the game's own formats.
 struct WorkerJob
 {
-    enum class Task { ImportSkinnedMesh, ImportStaticMesh, ExportObj, Summarize };
+    enum class Task {
+        ImportSkinnedMesh,
+        ImportStaticMesh,
+        ExportObj,
+        Summarize,
+        ImportReadySkinnedMesh,
+        ImportReadyStaticMesh
+    };
 
     Task task = Task::ImportSkinnedMesh;
     int memoryLimitMiB = 4096; ///< of address space

@@ -6,8 +6,10 @@
 #include "ImportSteps.h"
 #include "ImportedFiles.h"
 #include "Output.h"
+#include "ReadyOptions.h"
 #include "Settings.h"
 #include "Verbs.h"
+#include "WholeFile.h"
 #include "WorkerRun.h"
 
 #include <QDir>
@@ -17,8 +19,6 @@
 
 namespace {
 constexpr int LongestTime = 3600; // seconds
-constexpr float LeastScale = 1.0e-6f;
-constexpr float GreatestScale = 1.0e6f;
 
 void addOptions(CommandLine &line)
 {
@@ -39,8 +39,7 @@ void addOptions(CommandLine &line)
     line.flag(QStringLiteral("no-rotate"),
               QStringLiteral("Leave out the turn by 90 degrees that sets a y-up model "
                              "upright."));
-    line.option({QStringLiteral("scale")}, QStringLiteral("factor"), QStringLiteral("Scale the model."),
-                QStringLiteral("1"));
+    ReadyOptions::add(line);
     line.option(
         {QStringLiteral("mod-path")}, QStringLiteral("folder"),
         QStringLiteral("Mod folder that takes materials and textures; by default the one of the editor's "
@@ -95,7 +94,14 @@ struct Results
     SkinnedMesh skinned;
     AnimFile anim;
     StaticMesh rigid;
+    ModelNames names;
     QString target; ///< without the extension
+
+    /// The file of the names; empty when there are none.
+    QString namesFile() const
+    {
+        return names.isEmpty() ? QString() : ModelNames::pathFor(target + QStringLiteral(".skinnedmesh"));
+    }
 };
 
 /// The models that the import would replace.
@@ -105,6 +111,8 @@ QStringList replacedModels(const Results &results, bool isStatic)
                       (isStatic ? QStringLiteral(".staticmesh") : QStringLiteral(".skinnedmesh"))};
     if (!results.anim.blocks.empty())
         files += results.target + QStringLiteral(".anim");
+    if (!results.namesFile().isEmpty())
+        files += results.namesFile();
     files.erase(
         std::remove_if(files.begin(), files.end(), [](const QString &file) { return !isTaken(file); }),
         files.end());
@@ -124,6 +132,18 @@ bool write(const Model &model, const QString &path)
     return true;
 }
 
+/// Returns true on failure.
+bool writeNames(const Results &results)
+{
+    const QString reason = writeWholeFile(results.namesFile(), results.names.toJson());
+    if (reason.isEmpty()) {
+        Output::line(results.namesFile());
+        return false;
+    }
+    Output::complain(QStringLiteral("%1: The file cannot be written: %2").arg(results.namesFile(), reason));
+    return true;
+}
+
 /// What may be replaced.
 struct Replacing
 {
@@ -138,6 +158,7 @@ bool finish(const ImportWorker &worker, const ImportChoices &choices, Results &r
         Output::complain(QStringLiteral("%1: The result was damaged.").arg(choices.modelPath));
         return true;
     }
+    results.names = worker.names();
     ImportedFiles files = choices.isStatic ? ImportedFiles(choices, results.rigid, worker.textures())
                                            : ImportedFiles(choices, results.skinned, worker.textures());
     if (!replacing.allowed &&
@@ -157,6 +178,8 @@ bool finish(const ImportWorker &worker, const ImportChoices &choices, Results &r
         failed = write(results.skinned, results.target + QStringLiteral(".skinnedmesh"));
         if (!results.anim.blocks.empty())
             failed = write(results.anim, results.target + QStringLiteral(".anim")) || failed;
+        if (!results.names.isEmpty())
+            failed = writeNames(results) || failed;
     }
     Output::tell(messages);
     for (const QString &text : outcome.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
@@ -180,9 +203,8 @@ int importModel(const QStringList &arguments)
     addOptions(line);
     if (const auto end = line.parse(arguments, false))
         return *end;
-    const auto scale = line.number(QStringLiteral("scale"), LeastScale, GreatestScale);
     const auto timeLimit = line.integer(QStringLiteral("time-limit"), 1, LongestTime);
-    if (!scale || !timeLimit)
+    if (!timeLimit)
         return WrongUsage;
     if (!line.isSet(QStringLiteral("output")))
         return line.refuse(QStringLiteral("-o FOLDER is missing."));
@@ -199,13 +221,16 @@ int importModel(const QStringList &arguments)
     choices.copyTextures = line.isSet(QStringLiteral("copy-textures"));
     choices.createKMat = line.isSet(QStringLiteral("create-kmat"));
     choices.rotatePitch = !line.isSet(QStringLiteral("no-rotate"));
-    choices.scale = *scale;
+    if (const auto end = ReadyOptions::read(line, choices))
+        return *end;
     if (choosePaths(choices, line))
         return WrongUsage;
     if (!QFileInfo(choices.modelPath).isFile()) {
         Output::complain(QStringLiteral("%1: There is no such file.").arg(choices.modelPath));
         return Failed;
     }
+    if (const auto end = ReadyOptions::lookUp(line, *timeLimit, choices))
+        return *end;
 
     ImportWorker worker;
     runJob(worker, *timeLimit, QStringLiteral("--time-limit grants more."), importJob(choices));

@@ -27,7 +27,7 @@ floors='core resources translations
 model net app/widgets
 undo import render/scene
 app/documents gltf import/scene render/input
-render
+render import/ready
 app/tree app/view app/timeline app/explorer app/recovery app/console
 app/tree/pages app/problems app/database app/import
 app/window
@@ -135,7 +135,7 @@ arrows() {
         part=named <(named_headers)
     # Qt 5 keeps its undo commands among the widgets.
     graph | rooms | awk '
-        $2 == "Qt5::Widgets" && $1 !~ "^(app/.*|render|undo)$" || $2 ~ /assimp/ && $1 != "import/scene" {
+        $2 == "Qt5::Widgets" && $1 !~ "^(app/.*|render|undo)$" || $2 ~ /assimp/ && $1 !~ "^import/(scene|ready)$" {
             print $1 " links " $2
         }'
     files '*.cpp' '*.h' | xargs grep -nE '#include <Qt[A-Z][A-Za-z]+/' || true

@@ -2055,6 +2055,34 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>%1 does not contain any triangles</source>
         <translation>%1 enthält keine Dreiecke</translation>
     </message>
+    <message>
+        <source>%1 has no animation %2</source>
+        <translation>%1 hat keine Animation %2</translation>
+    </message>
+    <message>
+        <source>%1 %2 points and lines were left out</source>
+        <translation>%1 %2 Punkte und Linien wurden ausgelassen</translation>
+    </message>
+    <message>
+        <source>%1 has %2 bones, of which %3 are left when those go that nothing hangs on or that clips hardly move. A model can be posed with %4.</source>
+        <translation>%1 hat %2 Knochen, von denen %3 bleiben, wenn die wegfallen, an denen nichts hängt oder die sich kaum bewegen. Ein Modell kann mit %4 bewegt werden.</translation>
+    </message>
+    <message>
+        <source>%1 has %2 bones, of which a model can be posed with %4: those that nothing hangs on or that clips hardly move went with their parents, %3 are left</source>
+        <translation>%1 hat %2 Knochen, von denen ein Modell mit %4 bewegt werden kann: die, an denen nichts hängt oder die sich kaum bewegen, sind in ihren Elternknochen aufgegangen, %3 bleiben</translation>
+    </message>
+    <message>
+        <source>%1 Material &apos;%2&apos;: its texture &apos;%3&apos; was not found</source>
+        <translation>%1 Material „%2“: Seine Textur „%3“ wurde nicht gefunden</translation>
+    </message>
+    <message>
+        <source>%1 Material &apos;%2&apos;: its texture &apos;%3&apos; is no picture that can be read</source>
+        <translation>%1 Material „%2“: Seine Textur „%3“ ist kein lesbares Bild</translation>
+    </message>
+    <message>
+        <source>Bone symbol &apos;%1&apos;, guessed from names, to be reviewed: %2</source>
+        <translation>Knochensymbol „%1“, nach Namen geraten, bitte prüfen: %2</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>

@@ -6,8 +6,6 @@
 #include "SceneReading.h"
 #include "SceneSkeleton.h"
 
-#include <QCoreApplication>
-
 #include <assimp/Importer.hpp>
 #include <assimp/config.h>
 
@@ -37,18 +35,7 @@ void importSkinnedMesh(const QString &modelPath, const QString &kmatPath, quint3
     skeleton.addBones(mesh);
     skeleton.bindVertices(mesh);
     addAnimations(source, skeleton, mesh.nodes.size(), anim);
-
-    qint64 frames = 0;
-    for (const AnimBlock &block : anim.blocks)
-        frames += block.frameCount();
-    messages.addInfo(QStringLiteral("%1, %2, %3, %4")
-                         .arg(countText(qint64(mesh.nodes.size()), QT_TRANSLATE_NOOP("Import", "bone"),
-                                        QT_TRANSLATE_NOOP("Import", "bones")),
-                              geometryText(mesh),
-                              countText(qint64(anim.blocks.size()), QT_TRANSLATE_NOOP("Import", "animation"),
-                                        QT_TRANSLATE_NOOP("Import", "animations")),
-                              countText(frames, QT_TRANSLATE_NOOP("Import", "frame"),
-                                        QT_TRANSLATE_NOOP("Import", "frames"))));
+    messages.addInfo(contentText(mesh, anim));
 }
 
 StaticMesh importStaticMesh(const QString &modelPath, const QString &kmatPath, quint32 flags,

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "SceneReading.h"
 
+#include "AnimFile.h"
 #include "ImportFlags.h"
 #include "ImportSteps.h"
 #include "SkinnedMesh.h"
@@ -240,3 +241,17 @@ QString geometryText(const Mesh &mesh)
 
 template QString geometryText(const SkinnedMesh &mesh);
 template QString geometryText(const StaticMesh &mesh);
+
+QString contentText(const SkinnedMesh &mesh, const AnimFile &anim)
+{
+    qint64 frames = 0;
+    for (const AnimBlock &block : anim.blocks)
+        frames += block.frameCount();
+    return QStringLiteral("%1, %2, %3, %4")
+        .arg(countText(qint64(mesh.nodes.size()), QT_TRANSLATE_NOOP("Import", "bone"),
+                       QT_TRANSLATE_NOOP("Import", "bones")),
+             geometryText(mesh),
+             countText(qint64(anim.blocks.size()), QT_TRANSLATE_NOOP("Import", "animation"),
+                       QT_TRANSLATE_NOOP("Import", "animations")),
+             countText(frames, QT_TRANSLATE_NOOP("Import", "frame"), QT_TRANSLATE_NOOP("Import", "frames")));
+}

@@ -11,6 +11,9 @@
 
 Q_DECLARE_LOGGING_CATEGORY(importLog)
 
+struct AnimFile;
+struct SkinnedMesh;
+
 namespace Assimp {
 class Importer;
 }
@@ -45,3 +48,5 @@ QString countText(qint64 count, const char *one, const char *many);
 /// "2 surfaces, 24 vertices, 12 triangles"
 template <typename Mesh>
 QString geometryText(const Mesh &mesh);
+/// The same with bones, animations and frames.
+QString contentText(const SkinnedMesh &mesh, const AnimFile &anim);

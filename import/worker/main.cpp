@@ -5,6 +5,7 @@
 // killed by some damaged files and never returns from others.
 #include "Language.h"
 #include "ObjExport.h"
+#include "ReadyImport.h"
 #include "SceneImport.h"
 #include "SceneSurvey.h"
 #include "WorkerJob.h"
@@ -56,35 +57,53 @@ void confine(int memoryLimitMiB)
 #endif
 }
 
+/// Hands a model over, if there is one. Returns true on failure.
+bool handOver(SkinnedMesh &mesh, AnimFile &anim, const WorkerJob &job, const WorkerFolder &folder,
+              const ImportMessages &messages)
+{
+    mesh.version = job.meshVersion;
+    anim.version = job.animVersion;
+    // A file of no animation cannot be written: none stands for it.
+    return !messages.hasError() &&
+           (mesh.write(folder.skinnedMesh()) || (!anim.blocks.empty() && anim.write(folder.anim())));
+}
+
+bool handOver(StaticMesh &mesh, const WorkerJob &job, const WorkerFolder &folder,
+              const ImportMessages &messages)
+{
+    mesh.version = job.meshVersion;
+    return !messages.hasError() && mesh.write(folder.staticMesh());
+}
+
 void work(const WorkerJob &job, const WorkerFolder &folder, WorkerAnswer &answer, ImportMessages &messages)
 {
+    const ReadySource ready{job.modelPath, job.kmatPath, folder.path(QStringLiteral("textures")), job.ready};
+    SkinnedMesh skinned;
+    AnimFile anim;
+    StaticMesh rigid;
     bool failed = false;
     switch (job.task) {
-    case WorkerJob::Task::ImportSkinnedMesh: {
-        SkinnedMesh mesh;
-        AnimFile anim;
-        mesh.version = job.meshVersion;
-        anim.version = job.animVersion;
-        importSkinnedMesh(job.modelPath, job.kmatPath, job.flags, answer.textures, mesh, anim, messages);
-        // A file of no animation cannot be written: none stands for it.
-        if (!messages.hasError())
-            failed = mesh.write(folder.skinnedMesh()) || (!anim.blocks.empty() && anim.write(folder.anim()));
+    case WorkerJob::Task::ImportSkinnedMesh:
+        importSkinnedMesh(job.modelPath, job.kmatPath, job.flags, answer.textures, skinned, anim, messages);
+        failed = handOver(skinned, anim, job, folder, messages);
         break;
-    }
-    case WorkerJob::Task::ImportStaticMesh: {
-        StaticMesh mesh = importStaticMesh(job.modelPath, job.kmatPath, job.flags, answer.textures, messages);
-        mesh.version = job.meshVersion;
-        if (!messages.hasError())
-            failed = mesh.write(folder.staticMesh());
+    case WorkerJob::Task::ImportStaticMesh:
+        rigid = importStaticMesh(job.modelPath, job.kmatPath, job.flags, answer.textures, messages);
+        failed = handOver(rigid, job, folder, messages);
         break;
-    }
-    case WorkerJob::Task::ExportObj: {
-        StaticMesh mesh;
-        failed = mesh.read(folder.staticMesh());
+    case WorkerJob::Task::ImportReadySkinnedMesh:
+        importReadySkinnedMesh(ready, answer.textures, skinned, anim, answer.names, messages);
+        failed = handOver(skinned, anim, job, folder, messages);
+        break;
+    case WorkerJob::Task::ImportReadyStaticMesh:
+        rigid = importReadyStaticMesh(ready, answer.textures, messages);
+        failed = handOver(rigid, job, folder, messages);
+        break;
+    case WorkerJob::Task::ExportObj:
+        failed = rigid.read(folder.staticMesh());
         if (!failed)
-            exportObj(mesh, job.textures, job.textureOfSurface, folder.path(job.objName), messages);
+            exportObj(rigid, job.textures, job.textureOfSurface, folder.path(job.objName), messages);
         break;
-    }
     case WorkerJob::Task::Summarize:
         answer.summary = surveyScene(job.modelPath, messages);
         break;

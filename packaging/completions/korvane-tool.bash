@@ -47,7 +47,7 @@ _korvane_tool() {
         mapfile -t COMPREPLY < <(compgen -W 'transparent black white gray' -- "$cur")
         return
         ;;
-    --scale | --time-limit | --block | --frame | --size | --yaw | --pitch)
+    --scale | --rate | --clips | --time-limit | --block | --frame | --size | --yaw | --pitch)
         return
         ;;
     esac
@@ -58,7 +58,7 @@ _korvane_tool() {
     resave) options='--output --force --help' ;;
     import)
         options='--output --static --force --keep-materials --no-normals --flip-uv --flip-winding --no-rotate --scale
-            --mod-path --create-kmat --copy-textures --kmat --texture-folder --time-limit --help'
+            --ready --rate --clips --mod-path --create-kmat --copy-textures --kmat --texture-folder --time-limit --help'
         ;;
     export)
         options='--output --gltf --anim --block --pose --frame --force --game-path --mod-path --help'

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "AnimFile.h"
+#include "ModelNames.h"
+#include "ReadyChoices.h"
+#include "ReadySkeleton.h"
+#include "SceneParts.h"
+#include "SceneReading.h"
+#include "SkinnedMesh.h"
+
+/// Makes animation blocks of the clips of a scene.
+class ReadyClips
+{
+public:
+    /// Takes those clips that were chosen, with a warning for each that is not there.
+    ReadyClips(const SceneSource &source, const SceneNodes &nodes, const ReadyChoices &choices);
+
+    /// Marks the nodes that any clip of the scene moves, taken or not: so the bones depend on the file alone.
+    std::vector<bool> moved() const;
+    bool isEmpty() const { return m_taken.empty(); }
+    void clear() { m_taken.clear(); }
+    /// How far each bone's own movement takes what hangs on it from where its parent alone would, at most
+    /// over all taken clips: an upper bound, in parts of the model's size.
+    std::vector<double> movements(const ReadySkeleton &skeleton, const SceneParts &parts) const;
+
+    /// Appends a block for each taken clip, for `mesh`, which stands in `rest`, and names them. Without any
+    /// it is one block of one frame, for the rest pose stands nowhere else.
+    void addBlocks(const ReadySkeleton &skeleton, const SkeletonPose &rest, const SkinnedMesh &mesh,
+                   AnimFile &file, ModelNames &names) const;
+
+private:
+    struct Taken
+    {
+        ReadyClip choice;
+        QString name;
+        qint32 id;
+        double rate;
+        int frames;
+    };
+
+    void number();
+    int frameCount(int clip, double rate) const;
+    double rateOf(const ClipSampler &clip) const;
+    /// Calls look(frame, pose) for each frame.
+    template <typename Look>
+    void eachPose(const Taken &taken, int frames, const ReadySkeleton &skeleton, Look look) const;
+
+    const SceneSource &m_source;
+    const SceneNodes &m_nodes;
+    const ReadyChoices &m_choices;
+    std::vector<ClipSampler> m_clips; ///< of the scene
+    std::vector<Taken> m_taken;
+};

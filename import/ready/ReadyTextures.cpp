@@ -1,0 +1,173 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "ReadyTextures.h"
+
+#include "TextureSearch.h"
+
+#include <QBuffer>
+#include <QColor>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QImageReader>
+
+#include <assimp/material.h>
+
+#include <cmath>
+
+namespace {
+constexpr int SwatchSize = 8; // texels; a size that every card takes
+/// What a file says of itself is believed up to here: decoded it is 1 GiB.
+constexpr int LargestSide = 16384;
+
+QImage decoded(QIODevice &device)
+{
+    QImageReader reader(&device);
+    const QSize size = reader.size();
+    if (size.width() > LargestSide || size.height() > LargestSide)
+        return {};
+    return reader.read();
+}
+
+/// The texture that gives a material its color.
+bool colorTexture(const aiMaterial &material, aiString &stored)
+{
+    for (const aiTextureType type : {aiTextureType_DIFFUSE, aiTextureType_BASE_COLOR}) {
+        if (material.GetTextureCount(type) > 0 && material.GetTexture(type, 0, &stored) == aiReturn_SUCCESS)
+            return true;
+    }
+    return false;
+}
+
+/// Whether the file's colors are amounts of light, as renderers reckon, and not what goes to a screen.
+bool isLinear(const QString &modelPath)
+{
+    const QString suffix = QFileInfo(modelPath).suffix().toLower();
+    return suffix == QLatin1String("gltf") || suffix == QLatin1String("glb") ||
+           suffix == QLatin1String("fbx");
+}
+
+int channelOf(float value, bool isLinear)
+{
+    const float amount = std::isfinite(value) ? qBound(0.0f, value, 1.0f) : 1.0f;
+    // IEC 61966-2-1, the curve of sRGB.
+    const float shown = !isLinear              ? amount
+                        : amount <= 0.0031308f ? amount * 12.92f
+                                               : 1.055f * std::pow(amount, 1.0f / 2.4f) - 0.055f;
+    return qRound(shown * 255.0f);
+}
+} // namespace
+
+QString plainName(const QString &name)
+{
+    QString plain;
+    for (const QChar each : name.normalized(QString::NormalizationForm_C)) {
+        const bool isPlain =
+            each.unicode() < 256 && (each.isLetterOrNumber() || QStringLiteral("_-.+").contains(each));
+        plain += isPlain ? each : QLatin1Char('_');
+    }
+    return plain;
+}
+
+ReadyTextures::ReadyTextures(const SceneSource &source, const QString &folder)
+    : m_source(source)
+    , m_folder(folder)
+    , m_model(plainName(QFileInfo(source.modelPath).completeBaseName()))
+{}
+
+QString ReadyTextures::fileFor(const aiMaterial &material, const QString &name)
+{
+    aiString stored;
+    if (colorTexture(material, stored)) {
+        const QString file = fileOf(stored, name);
+        if (!file.isEmpty())
+            return file;
+    }
+    return swatch(material, name);
+}
+
+QString ReadyTextures::fileOf(const aiString &stored, const QString &name)
+{
+    const QString key = text(stored);
+    const auto known = m_known.constFind(key);
+    if (known != m_known.constEnd())
+        return *known;
+    QString &file = m_known[key];
+    if (const aiTexture *embedded = m_source.scene->GetEmbeddedTexture(stored.C_Str())) {
+        const QString own = QFileInfo(text(embedded->mFilename)).completeBaseName();
+        file = writeEmbedded(*embedded, own.isEmpty() ? name : own);
+        return file;
+    }
+    const QString found = foundTexture(m_source.modelPath, key);
+    const QString base = QFileInfo(found).completeBaseName();
+    if (found.isEmpty()) {
+        m_source.messages.addWarning(
+            QCoreApplication::translate("Import", "%1 Material '%2': its texture '%3' was not found")
+                .arg(m_source.modelPath, name, key));
+    } else if (found.endsWith(QLatin1String(".png")) && plainName(base) == base) {
+        file = found;
+    } else {
+        QFile bytes(found);
+        const QImage image = bytes.open(QIODevice::ReadOnly) ? decoded(bytes) : QImage();
+        if (image.isNull())
+            m_source.messages.addWarning(
+                QCoreApplication::translate(
+                    "Import", "%1 Material '%2': its texture '%3' is no picture that can be read")
+                    .arg(m_source.modelPath, name, found));
+        else
+            file = write(image, plainName(base));
+    }
+    return file;
+}
+
+QString ReadyTextures::writeEmbedded(const aiTexture &texture, const QString &name)
+{
+    QImage image;
+    if (texture.mHeight == 0) {
+        QByteArray bytes =
+            QByteArray::fromRawData(reinterpret_cast<const char *>(texture.pcData), int(texture.mWidth));
+        QBuffer buffer(&bytes);
+        if (buffer.open(QIODevice::ReadOnly))
+            image = decoded(buffer);
+    } else if (texture.mWidth <= unsigned(LargestSide) && texture.mHeight <= unsigned(LargestSide)) {
+        // Texels are blue, green, red, alpha, which in memory is what the toolkit calls ARGB.
+        image = QImage(reinterpret_cast<const uchar *>(texture.pcData), int(texture.mWidth),
+                       int(texture.mHeight), QImage::Format_ARGB32);
+    }
+    if (image.isNull()) {
+        m_source.messages.addWarning(
+            QCoreApplication::translate("Import",
+                                        "%1 Material '%2': its texture '%3' is no picture that can be read")
+                .arg(m_source.modelPath, name, text(texture.mFilename)));
+        return {};
+    }
+    return write(image, plainName(name));
+}
+
+QString ReadyTextures::swatch(const aiMaterial &material, const QString &name)
+{
+    aiColor3D color(1.0f, 1.0f, 1.0f);
+    if (material.Get(AI_MATKEY_COLOR_DIFFUSE, color) != aiReturn_SUCCESS)
+        return {};
+    const bool linear = isLinear(m_source.modelPath);
+    const QColor shown(channelOf(color.r, linear), channelOf(color.g, linear), channelOf(color.b, linear));
+    if (shown == QColor(Qt::white))
+        return {};
+    QImage image(SwatchSize, SwatchSize, QImage::Format_RGB32);
+    image.fill(shown);
+    // Textures of all models share a folder, and many a model has a material "Material".
+    return write(image, m_model + QLatin1Char('_') + plainName(name));
+}
+
+QString ReadyTextures::write(const QImage &image, const QString &base)
+{
+    QString name = base;
+    for (int number = 2; m_names.contains(name.toLower()); ++number)
+        name = base + QLatin1Char('_') + QString::number(number);
+    m_names.insert(name.toLower());
+    QDir().mkpath(m_folder);
+    const QString path = m_folder + QLatin1Char('/') + name + QStringLiteral(".png");
+    return image.save(path, "PNG") ? path : QString();
+}

@@ -8,7 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QHash>
+#include <QSet>
 
 Copied copyWhole(const QString &source, const QString &target)
 {
@@ -24,8 +24,7 @@ Copied copyWhole(const QString &source, const QString &target)
 
 bool copyTexture(const QString &source, const QString &target, ImportMessages &messages)
 {
-    const QString there = QFileInfo(target).canonicalFilePath();
-    if (!there.isEmpty() && there == QFileInfo(source).canonicalFilePath())
+    if (isOneFile(source, target))
         return false;
     const Copied copied = copyWhole(source, target);
     if (copied == Copied::Yes)
@@ -38,29 +37,28 @@ bool copyTexture(const QString &source, const QString &target, ImportMessages &m
     return true;
 }
 
-void warnOfSharedNames(const QStringList &files, ImportMessages &messages)
+std::vector<FileCopy> distinctCopies(const std::vector<FileCopy> &textures, ImportMessages &messages)
 {
-    QHash<QString, QString> known;
-    for (const QString &file : files) {
-        QString &first = known[QFileInfo(file).fileName()];
-        if (first.isEmpty())
-            first = file;
-        else
-            messages.addWarning(QCoreApplication::translate(
-                                    "Import", "'%1' and '%2' have one name: only one of them can be used")
-                                    .arg(first, file));
+    std::vector<FileCopy> copies;
+    QSet<QString> targets;
+    for (const FileCopy &texture : textures) {
+        if (targets.contains(texture.target))
+            continue;
+        targets.insert(texture.target);
+        copies.push_back(texture);
+        const QString name = QFileInfo(texture.target).fileName();
+        if (name != QFileInfo(texture.source).fileName())
+            messages.addInfo(QCoreApplication::translate("Import", "'%1' is named '%2' in the new place")
+                                 .arg(texture.source, name));
     }
+    return copies;
 }
 
 QString copyTextures(const std::vector<FileCopy> &textures, ImportMessages &messages)
 {
-    QStringList sources;
-    for (const FileCopy &texture : textures)
-        sources += texture.source;
-    warnOfSharedNames(sources, messages);
     const bool any = !textures.empty();
     bool failed = false;
-    for (const FileCopy &texture : textures)
+    for (const FileCopy &texture : distinctCopies(textures, messages))
         failed = copyTexture(texture.source, texture.target, messages) || failed;
     return !any     ? QCoreApplication::translate("Import", "Model had no textures to copy\n")
            : failed ? QCoreApplication::translate("Import", "Failed on copying textures\n")

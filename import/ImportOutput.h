@@ -17,8 +17,9 @@ enum class Copied { Yes, NotRead, NotWritten };
 /// onto itself is left alone. Returns true on failure, after a warning line.
 bool copyTexture(const QString &source, const QString &target, ImportMessages &messages);
 
-/// Warns of files of one name, of which only one can stand in a folder.
-void warnOfSharedNames(const QStringList &files, ImportMessages &messages);
+/// The copies that put something into the folder, with a line for each that gets another name than its
+/// source.
+std::vector<FileCopy> distinctCopies(const std::vector<FileCopy> &textures, ImportMessages &messages);
 
 /// Copies textures; gives the line that says how that ended.
 [[nodiscard]] QString copyTextures(const std::vector<FileCopy> &textures, ImportMessages &messages);

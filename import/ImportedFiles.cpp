@@ -21,8 +21,13 @@ ImportedFiles::ImportedFiles(const ImportChoices &choices, const Mesh &mesh, con
     for (const auto &surface : mesh.surfaces)
         m_materialNames += QFileInfo(surface.materialPath).fileName();
     const QString folder = choices.modFolder + QLatin1Char('/') + choices.textureFolder;
-    for (const QString &texture : textures)
-        m_textures.push_back({texture, folder + QLatin1Char('/') + QFileInfo(texture).fileName()});
+    if (choices.copyTextures)
+        m_textures = copiesInto(folder, textures);
+    else {
+        // Who copies none has them there, by their own names.
+        for (const QString &texture : textures)
+            m_textures.push_back({texture, folder + QLatin1Char('/') + QFileInfo(texture).fileName()});
+    }
 }
 
 template ImportedFiles::ImportedFiles(const ImportChoices &, const SkinnedMesh &, const QStringList &);

@@ -4,8 +4,18 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 
 namespace {
+/// "steel_2.png" of "steel.png".
+QString numbered(const QString &path, int number)
+{
+    const QFileInfo parts(path);
+    const QString suffix = parts.suffix().isEmpty() ? QString() : QLatin1Char('.') + parts.suffix();
+    return parts.path() + QLatin1Char('/') + parts.completeBaseName() + QLatin1Char('_') +
+           QString::number(number) + suffix;
+}
+
 /// False when either cannot be read.
 bool haveSameBytes(const QString &one, const QString &other)
 {
@@ -16,6 +26,40 @@ bool haveSameBytes(const QString &one, const QString &other)
            a.open(QIODevice::ReadOnly) && b.open(QIODevice::ReadOnly) && a.readAll() == b.readAll();
 }
 } // namespace
+
+std::vector<FileCopy> copiesInto(const QString &folder, const QStringList &files)
+{
+    const auto ownTarget = [&folder](const QString &file) {
+        return folder + QLatin1Char('/') + QFileInfo(file).fileName();
+    };
+    QHash<QString, QString> sources; // by their targets
+    // What stands there already must not be replaced before it was copied.
+    for (const QString &file : files) {
+        if (isOneFile(file, ownTarget(file)))
+            sources.insert(ownTarget(file), file);
+    }
+    const auto fits = [&sources, &ownTarget](const FileCopy &copy) {
+        const auto other = sources.constFind(copy.target);
+        if (other != sources.constEnd())
+            return *other == copy.source || haveSameBytes(*other, copy.source);
+        return copy.target == ownTarget(copy.source) || !wouldReplace(copy);
+    };
+    std::vector<FileCopy> copies;
+    for (const QString &file : files) {
+        FileCopy copy{file, ownTarget(file)};
+        for (int number = 2; !fits(copy); ++number)
+            copy.target = numbered(ownTarget(file), number);
+        sources.insert(copy.target, file);
+        copies.push_back(copy);
+    }
+    return copies;
+}
+
+bool isOneFile(const QString &path, const QString &other)
+{
+    const QString real = QFileInfo(path).canonicalFilePath();
+    return !real.isEmpty() && real == QFileInfo(other).canonicalFilePath();
+}
 
 bool isTaken(const QString &path)
 {
@@ -47,14 +91,11 @@ QStringList replacedTargets(const std::vector<FileCopy> &copies)
     return targets;
 }
 
-QString freePath(const QString &path, const QStringList &taken)
+QString freePath(const QString &path)
 {
-    const QFileInfo parts(path);
-    const QString base = parts.path() + QLatin1Char('/') + parts.completeBaseName();
-    const QString suffix = parts.suffix().isEmpty() ? QString() : QLatin1Char('.') + parts.suffix();
     QString free = path;
-    for (int number = 2; isTaken(free) || taken.contains(free); ++number)
-        free = base + QLatin1Char('_') + QString::number(number) + suffix;
+    for (int number = 2; isTaken(free); ++number)
+        free = numbered(path, number);
     return free;
 }
 
@@ -63,10 +104,18 @@ void useFreeTargets(std::vector<FileCopy> &copies)
     QStringList taken;
     for (const FileCopy &copy : copies)
         taken += copy.target;
+    QHash<QString, QString> moved; // copies of one target are of one content
     for (FileCopy &copy : copies) {
-        if (!wouldReplace(copy))
+        const QString target = copy.target;
+        const auto known = moved.constFind(target);
+        if (known != moved.constEnd()) {
+            copy.target = *known;
             continue;
-        copy.target = freePath(copy.target, taken);
+        }
+        for (int number = 2; wouldReplace(copy) || (copy.target != target && taken.contains(copy.target));
+             ++number)
+            copy.target = numbered(target, number);
+        moved.insert(target, copy.target);
         taken += copy.target;
     }
 }

@@ -66,10 +66,8 @@ WorkerJob staticMeshExport(const StaticMesh &mesh, const QString &meshPath, Mate
 ExportedFiles::ExportedFiles(const WorkerJob &job, const QString &folder)
     : m_job(job)
     , m_folder(folder)
-{
-    for (const QString &texture : job.textures)
-        m_textures.push_back({texture, path(QFileInfo(texture).fileName())});
-}
+    , m_textures(copiesInto(folder, job.textures))
+{}
 
 QStringList ExportedFiles::made() const
 {
@@ -105,8 +103,14 @@ WorkerJob ExportedFiles::job() const
 {
     WorkerJob job = m_job;
     job.textures.clear();
-    for (const FileCopy &texture : m_textures)
-        job.textures += texture.target;
+    std::vector<qint32> newIndex;
+    for (const FileCopy &texture : m_textures) {
+        if (!job.textures.contains(texture.target))
+            job.textures += texture.target;
+        newIndex.push_back(qint32(job.textures.indexOf(texture.target)));
+    }
+    for (qint32 &texture : job.textureOfSurface)
+        texture = texture < 0 ? texture : newIndex[size_t(texture)];
     return job;
 }
 
@@ -120,9 +124,8 @@ bool ExportedFiles::place(const ImportWorker &worker, ImportMessages &messages) 
             return true;
         }
     }
-    warnOfSharedNames(m_job.textures, messages);
     bool failed = false;
-    for (const FileCopy &texture : m_textures)
+    for (const FileCopy &texture : distinctCopies(m_textures, messages))
         failed =
             (QFileInfo(texture.source).isFile() && copyTexture(texture.source, texture.target, messages)) ||
             failed;

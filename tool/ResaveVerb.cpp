@@ -4,6 +4,7 @@
 #include "CommandLine.h"
 #include "ModelFile.h"
 #include "Output.h"
+#include "ReplacedFiles.h"
 #include "Verbs.h"
 
 #include <QDir>
@@ -69,11 +70,6 @@ Resaved resaveFile(const QString &from, const QString &to)
         content);
 }
 
-bool isOtherFile(const QString &file, const QString &target)
-{
-    const QString there = QFileInfo(target).canonicalFilePath();
-    return !there.isEmpty() && there != QFileInfo(file).canonicalFilePath();
-}
 } // namespace
 
 int resave(const QStringList &arguments)
@@ -99,7 +95,7 @@ int resave(const QStringList &arguments)
         Resaved result;
         if (written.contains(target))
             result.error = QStringLiteral("Another file was written to '%1' already.").arg(target);
-        else if (!line.isSet(QStringLiteral("force")) && isOtherFile(file, target))
+        else if (!line.isSet(QStringLiteral("force")) && isTaken(target) && !isOneFile(file, target))
             result.error = QStringLiteral("'%1' exists already; --force replaces it.").arg(target);
         else
             result = resaveFile(file, target);

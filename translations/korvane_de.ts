@@ -1850,10 +1850,6 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <translation>Die Textur konnte nicht von „%1“ nach „%2“ kopiert werden</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; and &apos;%2&apos; have one name: only one of them can be used</source>
-        <translation>„%1“ und „%2“ haben denselben Namen: Nur eine davon kann verwendet werden</translation>
-    </message>
-    <message>
         <source>Model had no textures to copy
 </source>
         <translation>Das Modell hatte keine Texturen zu kopieren
@@ -2082,6 +2078,10 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <message>
         <source>Bone symbol &apos;%1&apos;, guessed from names, to be reviewed: %2</source>
         <translation>Knochensymbol „%1“, nach Namen geraten, bitte prüfen: %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is named &apos;%2&apos; in the new place</source>
+        <translation>„%1“ heißt am neuen Ort „%2“</translation>
     </message>
 </context>
 <context>

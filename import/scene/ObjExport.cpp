@@ -25,12 +25,17 @@ aiString libraryText(const QString &text)
     return aiString(std::string(bytes.constData(), size_t(bytes.size())));
 }
 
-/// `texture` is empty for the material of surfaces without one.
-std::unique_ptr<aiMaterial> makeMaterial(const QString &texture)
+/// `texture` is empty for the material of surfaces without one. `names` are those of the other materials.
+std::unique_ptr<aiMaterial> makeMaterial(const QString &texture, QStringList &names)
 {
     auto material = std::make_unique<aiMaterial>();
-    const aiString name =
-        libraryText(texture.isEmpty() ? QStringLiteral("_white") : QFileInfo(texture).completeBaseName());
+    const QString base = texture.isEmpty() ? QStringLiteral("_white") : QFileInfo(texture).completeBaseName();
+    // Of "steel.png" and "steel.tga" it is the same.
+    QString wanted = base;
+    for (int number = 2; names.contains(wanted); ++number)
+        wanted = base + QLatin1Char('_') + QString::number(number);
+    names += wanted;
+    const aiString name = libraryText(wanted);
     material->AddProperty(&name, AI_MATKEY_NAME);
     const aiColor3D white(1.0f, 1.0f, 1.0f);
     material->AddProperty(&white, 1, AI_MATKEY_COLOR_DIFFUSE);
@@ -143,8 +148,9 @@ void exportObj(const StaticMesh &mesh, const QStringList &textures,
                const std::vector<qint32> &textureOfSurface, const QString &objPath, ImportMessages &messages)
 {
     std::vector<std::unique_ptr<aiMaterial>> materials;
+    QStringList names;
     for (const QString &texture : textures)
-        materials.push_back(makeMaterial(texture));
+        materials.push_back(makeMaterial(texture, names));
     const auto white = unsigned(materials.size());
 
     std::vector<std::unique_ptr<aiMesh>> meshes;
@@ -155,7 +161,7 @@ void exportObj(const StaticMesh &mesh, const QStringList &textures,
         const qint32 texture = i < textureOfSurface.size() ? textureOfSurface[i] : -1;
         part->mMaterialIndex = texture >= 0 && texture < textures.size() ? unsigned(texture) : white;
         if (part->mMaterialIndex == materials.size())
-            materials.push_back(makeMaterial({}));
+            materials.push_back(makeMaterial({}, names));
         part->mName = libraryText(QStringLiteral("surface_%1").arg(i));
         meshes.push_back(std::move(part));
     }

@@ -59,13 +59,6 @@ private slots:
         QVERIFY(messages.lines.isEmpty());
         QCOMPARE(copy({}, target.path()), QStringLiteral("Model had no textures to copy\n"));
 
-        // Two of one name cannot both stand there.
-        const QString alike = source.put("other/a.png", "new");
-        QCOMPARE(copy({a, alike}, target.path()), copied);
-        QCOMPARE(messages.lines.size(), 1);
-        QCOMPARE(messages.lines.takeFirst().text,
-                 QStringLiteral("'%1' and '%2' have one name: only one of them can be used").arg(a, alike));
-
         // What cannot be read leaves the file that stands there; what cannot be written says so.
         const QString gone = source.path("sub/a.png");
         QCOMPARE(copy({gone}, target.path()), failed);
@@ -78,6 +71,53 @@ private slots:
                  QString("Could not copy texture from '%1' to '%2'").arg(gone, there));
         QCOMPARE(messages.lines[1].text, QString("Could not overwrite texture '%1/b.png'").arg(inTheWay));
         QVERIFY(!messages.hasError());
+    }
+
+    void allOfOneNameArrive()
+    {
+        const TestFolder source, mod;
+        const QString one = source.put("a/wood.png", "1"), two = source.put("b/wood.png", "2"),
+                      oneToo = source.put("c/wood.png", "1"), gone = source.path("d/wood.png");
+        const auto names = [&mod](const QStringList &files) {
+            QStringList targets;
+            for (const FileCopy &copy : copiesInto(mod.path("textures"), files))
+                targets += QFileInfo(copy.target).completeBaseName();
+            return targets.join(' ');
+        };
+        QCOMPARE(names({one, two, oneToo, two, gone}), QString("wood wood_2 wood wood_2 wood_3"));
+        mod.put("textures/wood_2.png", "mine");
+        const QString there = mod.put("textures/wood.png", "3");
+        // The file that is there gives its name to nobody else, and another free name is taken.
+        QCOMPARE(names({one, two, there}), QString("wood_3 wood_4 wood"));
+
+        StaticMesh mesh;
+        mesh.surfaces = {{"materials/m/surf_0", {}}, {"materials/m/surf_1", {}}, {"materials/m/surf_2", {}}};
+        ImportChoices choices;
+        choices.modFolder = mod.path();
+        choices.textureFolder = "textures";
+        choices.kmatPath = "m.kmat";
+        choices.copyTextures = choices.createKMat = true;
+        const auto textures = [&](bool free, const QStringList &replaced) {
+            ImportMessages messages;
+            ImportedFiles files(choices, mesh, {one, two, oneToo});
+            QCOMPARE(files.replaced(), replaced);
+            if (free)
+                files.useFreeNames();
+            QVERIFY(files.write(messages).startsWith("Successfully copied"));
+            QVERIFY(!messages.lines.isEmpty()); // which tell the names
+            MaterialTable table;
+            QCOMPARE(readKMat(mod.path("m.kmat"), table), QString());
+            QStringList contents;
+            for (const auto &[name, texture] : table)
+                contents += texture.section('/', -1) + ' ' + TestSupport::readFile(mod.path(texture));
+            const QString first = free ? "wood_4.png 1" : "wood.png 1";
+            QCOMPARE(contents, QStringList({first, "wood_3.png 2", first}));
+        };
+        textures(true, {there});
+        QVERIFY(QFile::remove(mod.path("m.kmat")));
+        textures(false, {there});
+        textures(false, {}); // again: all is there, by the same names
+        QCOMPARE(TestSupport::readFile(mod.path("textures/wood_2.png")), QByteArray("mine"));
     }
 
     void copyingOntoAFullDisk()
@@ -156,8 +196,8 @@ private slots:
         QCOMPARE(files.replaced(), QStringList());
         files.nameMaterials(mesh);
         QCOMPARE(mesh.surfaces[1].materialPath, QString("materials/mat_x_2/surf_1"));
-        QCOMPARE(files.write(messages), written);
         QVERIFY(messages.lines.isEmpty());
+        QCOMPARE(files.write(messages), written);
         MaterialTable table;
         QCOMPARE(readKMat(mod.path("materials/mat_x_2.kmat"), table), QString());
         QCOMPARE(table, (MaterialTable{{"surf_0", "textures/steel_3.png"}, {"surf_1", "textures/wood.png"}}));

@@ -179,6 +179,30 @@ private slots:
         QVERIFY(TestSupport::readFile(target.path("untitled_2.obj")).contains("mtllib untitled_2.mtl"));
         QVERIFY(TestSupport::readFile(target.path("untitled_2.mtl")).contains("map_Kd wall.v2_2.png\n"));
 
+        // Others of its name come along, each once.
+        const TestFolder others, parted;
+        WorkerJob three = job;
+        three.textures =
+            QStringList{job.textures[0], others.put("a/wall.v2.png", "another"),
+                        others.put("b/wall.v2.png", "picture"), others.put("wall.v2.tga", "third")};
+        three.textureOfSurface = {0, 1, 2, 3, -1};
+        ImportMessages told;
+        const ExportedFiles alike(three, parted.path());
+        worker.start(alike.job(), mesh);
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 3, 20000);
+        QVERIFY(!alike.place(worker, told));
+        QCOMPARE(told.lines.size(), 1);
+        QCOMPARE(TestSupport::readFile(parted.path("wall.v2_2.png")), QByteArray("another"));
+        QStringList used;
+        for (const QByteArray &line : TestSupport::readFile(parted.path("untitled.obj")).split('\n')) {
+            if (line.startsWith("usemtl "))
+                used += line.mid(7);
+        }
+        QCOMPARE(used.join(' '), QString("wall.v2 wall.v2_2 wall.v2 wall.v2_3 _white"));
+        const QByteArray all = TestSupport::readFile(parted.path("untitled.mtl"));
+        QVERIFY(all.contains("newmtl wall.v2_3\n") && all.contains("map_Kd wall.v2.tga\n"));
+        QCOMPARE(all.count("newmtl wall.v2\n"), 1);
+
         // A folder that went away in the meantime.
         messages.lines.clear();
         QVERIFY(ExportedFiles(job, target.path("none")).place(worker, messages));

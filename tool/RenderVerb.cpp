@@ -10,6 +10,7 @@
 #include "Playback.h"
 #include "Pose.h"
 #include "PosedModel.h"
+#include "ReplacedFiles.h"
 #include "Settings.h"
 #include "Verbs.h"
 #include "WholeFile.h"
@@ -122,6 +123,7 @@ int render(const QStringList &arguments)
                        "with xvfb-run."));
     line.option({QStringLiteral("o"), QStringLiteral("output")}, QStringLiteral("file"),
                 QStringLiteral("The picture; PNG unless its name says another format."));
+    line.flag(QStringLiteral("force"), QStringLiteral("Replace a picture that exists."));
     line.option({QStringLiteral("anim")}, QStringLiteral("file"),
                 QStringLiteral("Animation file to pose by."));
     line.option({QStringLiteral("block")}, QStringLiteral("number"),
@@ -148,6 +150,8 @@ int render(const QStringList &arguments)
     const QString output = line.value(QStringLiteral("output"));
     if (output.isEmpty())
         return line.refuse(QStringLiteral("-o FILE is missing."));
+    if (!line.isSet(QStringLiteral("force")) && isTaken(output) && Output::refuseToReplace({output}))
+        return Failed;
 
     const QString file = line.operands().constFirst();
     const MaterialFolders folders = foldersAround(file, line);
@@ -155,6 +159,8 @@ int render(const QStringList &arguments)
     QString error = subject.read(file, line.value(QStringLiteral("anim")), folders);
     if (error.isEmpty())
         error = posingProblem(subject, line, *wishes);
+    if (error.isEmpty() && (isOneFile(output, subject.meshPath) || isOneFile(output, subject.animPath)))
+        error = QStringLiteral("%1: The picture would replace what it is drawn of.").arg(output);
     if (!error.isEmpty()) {
         Output::complain(error);
         return Failed;

@@ -129,13 +129,35 @@ private slots:
         }
     }
 
+    void replacesNothingUnasked()
+    {
+        const QString there = m_folder.put("there.png", "mine");
+        const QString model = m_folder.put("m.staticmesh", TestSupport::readFile(withSamples(Crate)[0]));
+        const auto refuses = [](const char *words, const QStringList &files, const char *complaint) {
+            const QByteArray before = TestSupport::readFile(files[0]);
+            const ToolRun run(words, files);
+            QVERIFY2(run.exitCode == 1 && run.err.contains(complaint), qUtf8Printable(run.err));
+            QCOMPARE(TestSupport::readFile(files[0]), before);
+        };
+        refuses("render -o", {there, model}, "there.png: The file exists already; --force replaces it.");
+        refuses("render --force -o", {model, model}, "would replace what it is drawn of");
+        QCOMPARE(ToolRun("render --force --size 32 -o", {there, model}).exitCode, 0);
+        QCOMPARE(QImage(there).width(), 32);
+
+        // File managers make the file before they have it drawn.
+        QString entry = TestSupport::readFile(TestSupport::source("packaging/korvane.thumbnailer"));
+        entry = entry.section("Exec=korvane-tool ", 1).section('\n', 0, 0);
+        const ToolRun run(entry.remove("%i").replace("%s", "48").replace("%o", there), {model});
+        QVERIFY2(run.exitCode == 0 && QImage(there).width() == 48, qUtf8Printable(entry + run.err));
+    }
+
     void fullDisk()
     {
         const QImage whole = draw(Crate);
         const QString picture = m_folder.path("x.png");
         const QByteArray before = TestSupport::readFile(picture);
         const FullDisk disk(before.size() - 1);
-        const ToolRun run("render -o", QStringList{picture} + withSamples(Crate));
+        const ToolRun run("render --force -o", QStringList{picture} + withSamples(Crate));
         QVERIFY2(run.exitCode == 1 && run.err.contains("The picture cannot be written: File too large"),
                  qUtf8Printable(run.err));
         QCOMPARE(TestSupport::readFile(picture), before);

@@ -4398,10 +4398,6 @@ Alles andere funktioniert weiter.</translation>
         <translation>Speichern</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; was changed by another program. Replace it by what is open here?</source>
-        <translation>„%1“ wurde von einem anderen Programm geändert. Durch das ersetzen, was hier offen ist?</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; belongs to the game folder.</source>
         <translation>„%1“ gehört zum Spielordner.</translation>
     </message>
@@ -4441,6 +4437,20 @@ Alles andere funktioniert weiter.</translation>
         <translation>„%1“ gibt es schon. Ersetzen?</translation>
     </message>
 </context>
+    <message>
+        <source>&apos;%1&apos; has changed since it was opened. Replace it by what is open here?</source>
+        <translation>„%1“ hat sich geändert, seit es geöffnet wurde. Durch das ersetzen, was hier geöffnet ist?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; may have changed since this work was kept. Replace it by what is open here?</source>
+        <translation>„%1“ kann sich geändert haben, seit diese Arbeit gesichert wurde. Durch das ersetzen, was hier geöffnet ist?</translation>
+    </message>
+    <message>
+        <source>In the mod folder a link in its place leads back there:
+%1</source>
+        <translation>Im Mod-Ordner führt an dieser Stelle ein Link dorthin zurück:
+%1</translation>
+    </message>
 <context>
     <name>ScaleDialog</name>
     <message>

@@ -50,13 +50,15 @@ bool Document::open(const QString &path, QString *reason)
     return false;
 }
 
-bool Document::restore(const QByteArray &bytes, const QString &path, const QString &unsavedName)
+bool Document::restore(const QByteArray &bytes, const QString &path, const QString &unsavedName,
+                       const FileStamp &stamp)
 {
     BinaryFileReader reader(reinterpret_cast<const uchar *>(bytes.constData()), bytes.size());
     if (readModel(reader))
         return true;
-    replace(path, unsavedName, path.isEmpty() ? FileStamp() : FileStamp::of(path));
+    replace(path, unsavedName, stamp);
     m_undoStack.resetClean();
+    emit restored();
     return false;
 }
 

@@ -37,7 +37,8 @@ public:
     /// The file's name; for a document that was never saved, the name that it would get.
     QString fileName() const;
     QUndoStack *undoStack() { return &m_undoStack; }
-    /// The file as it was when the model was read from it or written to it.
+    /// The file as it was when the model was read from it or written to it; of a restored one it may be
+    /// unknown.
     const FileStamp &fileStamp() const { return m_fileStamp; }
 
     /// Reads `path` into a new model, which replaces the current one only when that succeeds. Returns true on
@@ -52,8 +53,10 @@ public:
     /// that can be read back.
     virtual std::vector<uchar> draft() const = 0;
     /// Lets a model that was kept as bytes replace the current one. It counts as modified until it is saved;
-    /// `path` is its file, `unsavedName` what it is called without one. Returns true on failure.
-    [[nodiscard]] bool restore(const QByteArray &bytes, const QString &path, const QString &unsavedName);
+    /// `path` is its file, which was as `stamp` says when the model was read from it, `unsavedName` what it
+    /// is called without one. Returns true on failure.
+    [[nodiscard]] bool restore(const QByteArray &bytes, const QString &path, const QString &unsavedName,
+                               const FileStamp &stamp);
     /// Goes on with the model although its file is not the one any more that it was read from: it counts as
     /// modified.
     void keepModel();
@@ -79,6 +82,8 @@ signals:
     /// Another model is about to take the place of the current one: the one passage for every replacement.
     void aboutToBeReplaced();
     void replaced();
+    /// The model that has just replaced another was kept as bytes: its file may be another one meanwhile.
+    void restored();
     void saved();
     /// The records that one undo step has changed, in the order of the changes.
     void recordsChanged(const QVector<RecordRef> &records);

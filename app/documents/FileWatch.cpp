@@ -18,6 +18,11 @@ FileWatch::FileWatch(const std::array<Document *, 3> &documents, QObject *parent
         connect(&track.rest, &QTimer::timeout, this, [this, &track] { lookAgain(track); });
         connect(track.document, &Document::replaced, this, [this, &track] { startAnew(track); });
         connect(track.document, &Document::saved, this, [this, &track] { startAnew(track); });
+        connect(track.document, &Document::restored, this, [&track] {
+            // What became of the file before, perhaps by this program, is what saving asks about.
+            track.told = FileStamp::of(track.document->path());
+            track.isTold = true;
+        });
     }
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &FileWatch::check);
     // A file that is replaced by another of its name is seen in its folder only.

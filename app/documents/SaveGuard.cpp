@@ -74,7 +74,8 @@ QString SaveGuard::allowed(const Document &document, const QString &path)
             return answer;
     }
     const FileStamp now = FileStamp::of(path);
-    if (path == document.path() && now.exists() && now != document.fileStamp() && !mayReplaceChanged(path))
+    if (path == document.path() && now.exists() && now != document.fileStamp() &&
+        !mayReplaceChanged(document))
         return {};
     return path;
 }
@@ -87,10 +88,14 @@ QString SaveGuard::intoMod(const QString &path)
     return path;
 }
 
-bool SaveGuard::mayReplaceChanged(const QString &path) const
+bool SaveGuard::mayReplaceChanged(const Document &document) const
 {
-    const QString question = tr("'%1' was changed by another program. Replace it by what is open here?")
-                                 .arg(QDir::toNativeSeparators(path));
+    // Work that was restored can come from a file that this program has written since.
+    const QString text =
+        document.fileStamp().exists()
+            ? tr("'%1' has changed since it was opened. Replace it by what is open here?")
+            : tr("'%1' may have changed since this work was kept. Replace it by what is open here?");
+    const QString question = text.arg(QDir::toNativeSeparators(document.path()));
     return QMessageBox::question(m_window, tr("Save"), question, QMessageBox::Yes | QMessageBox::No,
                                  QMessageBox::No) == QMessageBox::Yes;
 }

@@ -31,7 +31,7 @@ public:
     static bool isInGame(const QString &path);
 
 private:
-    bool mayReplaceChanged(const QString &path) const;
+    bool mayReplaceChanged(const Document &document) const;
     QString askAboutGame(const QString &path);
 
     QWidget *m_window;

@@ -96,9 +96,10 @@ void Recovery::keep(Track &track)
     QSet<QString> open;
     for (const Track &each : m_tracks)
         open.insert(each.file);
-    m_store.keep({track.file, document.kind().type, document.path(), document.fileName(),
-                  QDateTime::currentDateTime()},
-                 document.draft(), open);
+    Snapshot snapshot{track.file, document.kind().type, document.path(), document.fileName(),
+                      QDateTime::currentDateTime()};
+    snapshot.stamp = document.fileStamp();
+    m_store.keep(snapshot, document.draft(), open);
 }
 
 void Recovery::forget(Track &track)
@@ -140,7 +141,7 @@ Recovery::Outcome Recovery::restore(const Snapshot &snapshot)
     QByteArray bytes;
     Track &track = m_tracks[size_t(snapshot.type)];
     if (m_store.read(snapshot, &bytes) ||
-        track.document->restore(bytes, snapshot.sourcePath, snapshot.name)) {
+        track.document->restore(bytes, snapshot.sourcePath, snapshot.name, snapshot.stamp)) {
         Log::warning(tr("[Recovery] What was kept of '%1' is damaged").arg(snapshot.name));
         return Outcome::Damaged;
     }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "DocumentKind.h"
+#include "FileStamp.h"
 
 #include <QDateTime>
 
@@ -17,4 +18,6 @@ struct Snapshot
     /// Grows from one snapshot to the next, also of another program and when the clock is set back: the time
     /// in milliseconds since 1970, or one more than the last.
     qint64 sequence = 0;
+    /// The document's file as it was when the model was last the file's; none in snapshots of older programs.
+    FileStamp stamp{};
 };

@@ -21,7 +21,7 @@ QByteArray headerOf(const Snapshot &snapshot)
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream.setVersion(QDataStream::Qt_5_15);
     stream << documentKind(snapshot.type).extension << snapshot.sourcePath << snapshot.name << snapshot.time
-           << snapshot.sequence;
+           << snapshot.sequence << snapshot.stamp.size << snapshot.stamp.modified;
     return bytes;
 }
 
@@ -31,10 +31,12 @@ bool readHeaderBytes(const QByteArray &bytes, Snapshot *snapshot)
     QDataStream stream(bytes);
     stream.setVersion(QDataStream::Qt_5_15);
     stream >> extension >> snapshot->sourcePath >> snapshot->name >> snapshot->time;
-    // Files of older programs have none.
+    // Files of older programs end before these.
     snapshot->sequence = snapshot->time.toMSecsSinceEpoch();
     if (!stream.atEnd())
         stream >> snapshot->sequence;
+    if (!stream.atEnd())
+        stream >> snapshot->stamp.size >> snapshot->stamp.modified;
     const DocumentKind *kind = documentKindOfFile(QLatin1Char('.') + extension);
     if (stream.status() != QDataStream::Ok || !kind || !snapshot->time.isValid())
         return true;

@@ -12,10 +12,14 @@
 #include <QPushButton>
 
 namespace {
-/// The file that would be written, links followed.
+constexpr int MostLinks = 40; // as the system follows them
+
+/// The file that would be written, links followed, those too that lead to where nothing stands yet.
 QString realPath(const QString &path)
 {
-    const QFileInfo file(path);
+    QFileInfo file(path);
+    for (int links = 0; !file.exists() && file.isSymLink() && links < MostLinks; ++links)
+        file = QFileInfo(file.symLinkTarget());
     return file.exists() ? file.canonicalFilePath()
                          : file.dir().canonicalPath() + QLatin1Char('/') + file.fileName();
 }
@@ -82,6 +86,9 @@ QString SaveGuard::allowed(const Document &document, const QString &path)
 
 QString SaveGuard::intoMod(const QString &path)
 {
+    // A link there can lead back.
+    if (isInGame(path))
+        return askAboutGame(path);
     if (QFileInfo::exists(path) && !mayReplace(m_window, tr("Save"), path))
         return {};
     QDir().mkpath(QFileInfo(path).path()); // or saving says why not
@@ -102,13 +109,17 @@ bool SaveGuard::mayReplaceChanged(const Document &document) const
 
 QString SaveGuard::askAboutGame(const QString &path)
 {
-    const QString mod = modPath(path);
+    const QString inMod = modPath(path);
+    const bool leadsBack = isInGame(inMod);
+    const QString mod = leadsBack ? QString() : inMod;
     QMessageBox box(QMessageBox::Question, tr("Save"),
                     tr("'%1' belongs to the game folder.").arg(QDir::toNativeSeparators(path)),
                     QMessageBox::Cancel, m_window);
+    const QString native = QDir::toNativeSeparators(inMod);
     box.setInformativeText(
-        mod.isEmpty() ? tr("There is no mod folder that it could be saved into; the options set one.")
-                      : tr("In the mod folder it would be\n%1").arg(QDir::toNativeSeparators(mod)));
+        leadsBack       ? tr("In the mod folder a link in its place leads back there:\n%1").arg(native)
+        : mod.isEmpty() ? tr("There is no mod folder that it could be saved into; the options set one.")
+                        : tr("In the mod folder it would be\n%1").arg(native));
     QPushButton *overwrite = box.addButton(tr("&Overwrite"), QMessageBox::DestructiveRole);
     const QPushButton *save = nullptr;
     box.setDefaultButton(QMessageBox::Cancel);

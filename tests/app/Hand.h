@@ -42,6 +42,17 @@ public:
     {
         return [button](QDialog *dialog) { static_cast<QMessageBox *>(dialog)->button(button)->click(); };
     }
+    /// Clicks the button whose text begins so.
+    static Answer clickOn(const char *text)
+    {
+        return [text](QDialog *dialog) {
+            for (auto *button : dialog->findChildren<QAbstractButton *>()) {
+                if (button->text().remove('&').startsWith(QLatin1String(text)))
+                    return button->click();
+            }
+            qFatal("no button %s", text);
+        };
+    }
     static void reject(QDialog *dialog) { dialog->reject(); }
     /// Types the path into a dialog of files; a folder is entered first, and chosen then.
     static Answer file(const QString &path)

@@ -5,18 +5,6 @@
 #include "SampleModels.h"
 
 namespace {
-/// Clicks the button whose text begins so.
-Hand::Answer clickOn(const char *text)
-{
-    return [text](QDialog *dialog) {
-        for (auto *button : dialog->findChildren<QAbstractButton *>()) {
-            if (button->text().remove('&').startsWith(QLatin1String(text)))
-                return button->click();
-        }
-        qFatal("no button %s", text);
-    };
-}
-
 void enter(QDialog *dialog)
 {
     QTest::keyClick(dialog, Qt::Key_Return);
@@ -91,7 +79,7 @@ private slots:
         QCOMPARE(save({enter}, 0), QStringList(replace)); // No
         QCOMPARE(save({enter, escape}), QStringList({question, replace}));
         QCOMPARE(TestSupport::readFile(mod), saved);
-        QCOMPARE(save({clickOn("Yes")}, 0), QStringList(replace));
+        QCOMPARE(save({Hand::clickOn("Yes")}, 0), QStringList(replace));
         QVERIFY(TestSupport::readFile(mod) != saved);
 
         // One that is overwritten is asked about once, also by another way that leads there.
@@ -99,10 +87,39 @@ private slots:
         QVERIFY(QFile::link(game, link));
         window.openFiles({link});
         QCOMPARE(path(), link);
-        QCOMPARE(save({clickOn("Overwrite")}).size(), 1);
+        QCOMPARE(save({Hand::clickOn("Overwrite")}).size(), 1);
         QVERIFY(TestSupport::readFile(game) != before && QFileInfo(link).isSymLink());
         window.openFiles({game});
         QCOMPARE(save({}), QStringList());
+    }
+
+    void aLinkToNowhereLeadsIntoTheGameFolder()
+    {
+        const QString game = m_files->save("game/models/man.skinnedmesh", triangleMan());
+        const QString other = m_files->path("game/models/other.skinnedmesh");
+        const QString link = m_files->path("mod/link.skinnedmesh");
+        QVERIFY(QFile::link(m_files->path("mod/chain.skinnedmesh"), link));
+        QVERIFY(QFile::link("../game/models/other.skinnedmesh", m_files->path("mod/chain.skinnedmesh")));
+        OneRun run(m_files->path("recovery"));
+        run.openMesh(game);
+        run.edit(5);
+        {
+            Hand hand({Hand::file(link), escape});
+            QVERIFY(run.files.saveAs(DocumentType::SkinnedMesh));
+            QVERIFY2(hand.seen[1].contains("belongs to the game folder"), qPrintable(hand.seen.join('\n')));
+            QVERIFY(!QFileInfo::exists(other));
+        }
+        // One in the very place of the mod folder leaves no other way than over the original.
+        QVERIFY(QDir().mkpath(m_files->path("mod/models")));
+        QVERIFY(QFile::link(game, m_files->path("mod/models/man.skinnedmesh")));
+        const QByteArray before = TestSupport::readFile(game);
+        Hand hand({escape, enter, Hand::clickOn("Overwrite")});
+        QVERIFY(run.files.saveToMod(DocumentType::SkinnedMesh));
+        QVERIFY(run.files.save(DocumentType::SkinnedMesh));
+        QCOMPARE(TestSupport::readFile(game), before);
+        QVERIFY(hand.seen[0].contains("leads back") && hand.seen[1].contains("leads back"));
+        QVERIFY(!run.files.saveToMod(DocumentType::SkinnedMesh));
+        QVERIFY(TestSupport::readFile(game) != before);
     }
 
     void saveAsStartsInTheModFolder()
@@ -133,7 +150,7 @@ private slots:
         run.openMesh(m_files->save("mod/n.skinnedmesh", triangleMan()));
         const QString there = m_files->put("mod/n2.v2.skinnedmesh", "old");
         const QString typed = m_files->path("mod/n2.v2");
-        Hand hand({Hand::file(typed), enter, Hand::reject, Hand::file(typed), clickOn("Yes")});
+        Hand hand({Hand::file(typed), enter, Hand::reject, Hand::file(typed), Hand::clickOn("Yes")});
         QVERIFY(run.files.saveAs(DocumentType::SkinnedMesh));
         QCOMPARE(TestSupport::readFile(there), QByteArray("old"));
         QVERIFY(!run.files.saveAs(DocumentType::SkinnedMesh));

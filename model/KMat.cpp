@@ -15,18 +15,48 @@
 #include <optional>
 
 namespace {
-/// The text of a file in UTF-8, or what its byte order mark says; none when it is in neither.
-std::optional<QString> unicodeText(const QByteArray &bytes)
+/// What the bytes of a file are a text in.
+struct Encoding
 {
-    QTextCodec::ConverterState state;
-    QTextCodec *codec = QTextCodec::codecForUtfText(bytes, QTextCodec::codecForName("UTF-8"));
-    const QString text = codec->toUnicode(bytes.constData(), bytes.size(), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0 ? std::optional(text) : std::nullopt;
+    QByteArray mark; ///< of the byte order, at the file's begin
+    QTextCodec *codec;
+};
+
+QString decoded(const QByteArray &bytes, const Encoding &encoding)
+{
+    // What begins like another mark is a character.
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    const int start = encoding.mark.size();
+    return encoding.codec->toUnicode(bytes.constData() + start, bytes.size() - start, &state);
+}
+
+QByteArray encoded(const QString &text, const Encoding &encoding)
+{
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    return encoding.mark + encoding.codec->fromUnicode(text.constData(), text.size(), &state);
+}
+
+/// What the byte order mark says, or else UTF-8; Latin-1 where that would not give the same bytes again.
+Encoding encodingOf(const QByteArray &bytes)
+{
+    // The longer ones begin like the shorter.
+    static const Encoding marked[] = {
+        {QByteArrayLiteral("\xff\xfe\0\0"), QTextCodec::codecForName("UTF-32LE")},
+        {QByteArrayLiteral("\0\0\xfe\xff"), QTextCodec::codecForName("UTF-32BE")},
+        {QByteArrayLiteral("\xff\xfe"), QTextCodec::codecForName("UTF-16LE")},
+        {QByteArrayLiteral("\xfe\xff"), QTextCodec::codecForName("UTF-16BE")},
+        {QByteArrayLiteral("\xef\xbb\xbf"), QTextCodec::codecForName("UTF-8")},
+        {{}, QTextCodec::codecForName("UTF-8")},
+    };
+    const auto *likely = std::find_if(std::begin(marked), std::end(marked),
+                                      [&bytes](const Encoding &each) { return bytes.startsWith(each.mark); });
+    const bool is = encoded(decoded(bytes, *likely), *likely) == bytes;
+    return is ? *likely : Encoding{{}, QTextCodec::codecForName("ISO-8859-1")};
 }
 
 QString textOf(const QByteArray &bytes)
 {
-    return unicodeText(bytes).value_or(QString::fromLatin1(bytes));
+    return decoded(bytes, encodingOf(bytes));
 }
 
 QString declareMaterial(QTextStream &words, const QString &path, MaterialTable &table,
@@ -64,7 +94,8 @@ QString setTexture(QTextStream &words, const QString &path, MaterialTable &table
 
 QString readMaterials(QIODevice &text, const QString &path, MaterialTable &table)
 {
-    QString all = textOf(text.readAll());
+    // A lone carriage return ends no line; in bytes there is more than one way of writing it.
+    QString all = textOf(text.readAll()).remove(QLatin1Char('\r'));
     QTextStream lines(&all, QIODevice::ReadOnly);
     auto current = table.end();
     QString line;
@@ -185,11 +216,13 @@ QByteArray fileBytes(const QString &path)
     return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// A file's bytes with the materials of the table in place of those of their names. The others stay.
-QByteArray mergedBytes(const QByteArray &bytes, const MaterialTable &table)
+/// A file's bytes with the materials of the table in place of those of their names; the others stay. None
+/// when the file's encoding lacks a letter.
+std::optional<QByteArray> mergedBytes(const QByteArray &bytes, const MaterialTable &table)
 {
-    const std::optional<QString> unicode = unicodeText(bytes);
-    const QString text = unicode.value_or(QString::fromLatin1(bytes));
+    const Encoding encoding = encodingOf(bytes);
+    const QString text = decoded(bytes, encoding);
+    const QLatin1String lineEnd(text.contains(QLatin1String("\r\n")) ? "\r\n" : "\n");
     const MaterialBlocks blocks(text);
     QString merged;
     int at = 0;
@@ -201,14 +234,10 @@ QByteArray mergedBytes(const QByteArray &bytes, const MaterialTable &table)
     }
     merged += text.midRef(at);
     if (!merged.isEmpty() && !merged.endsWith(QLatin1Char('\n')))
-        merged += QLatin1Char('\n');
-    QString added = QString::fromUtf8(kmatBytes(table));
-    if (text.contains(QLatin1String("\r\n")))
-        added.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
-    merged += added;
-    const bool isLatin1 = !unicode && std::all_of(merged.begin(), merged.end(),
-                                                  [](QChar each) { return each.unicode() < 256; });
-    return isLatin1 ? merged.toLatin1() : merged.toUtf8();
+        merged += lineEnd;
+    merged += QString::fromUtf8(kmatBytes(table)).replace(QLatin1Char('\n'), lineEnd);
+    const QByteArray result = encoded(merged, encoding);
+    return decoded(result, encoding) == merged ? std::optional(result) : std::nullopt;
 }
 } // namespace
 
@@ -231,7 +260,7 @@ QString readKMat(const QStringList &candidates, MaterialTable &table)
     for (const QString &path : candidates) {
         QFile file(path);
         // Opening a pipe would wait for a writer for ever.
-        if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
+        if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
             continue;
         return readKMat(file, path, table);
     }
@@ -296,7 +325,12 @@ QStringList otherMaterials(const QString &path, const MaterialTable &table)
 
 QString mergeKMat(const QString &path, const MaterialTable &table)
 {
-    return writeText(path, mergedBytes(fileBytes(path), table));
+    const std::optional<QByteArray> merged = mergedBytes(fileBytes(path), table);
+    return merged ? writeText(path, *merged)
+                  : QCoreApplication::translate(
+                        "ModelFiles",
+                        "'%1' is in Latin-1, which does not have all letters of the new materials.")
+                        .arg(path);
 }
 
 QString writeKMat(const QString &path, const MaterialTable &table)

@@ -12,23 +12,23 @@ class QIODevice;
 /// Material name to diffuse texture path, ascending by name.
 using MaterialTable = std::map<QString, QString>;
 
-/// Reads the materials of one .kmat file: text in UTF-8, or in Latin-1 where it is none. Returns an error
-/// message, and then leaves `table` empty; an empty text means success.
+/// Reads the materials of one .kmat file: text in UTF-8, in what its byte order mark says, or else in
+/// Latin-1. Returns an error message, and then leaves `table` empty; an empty text means success.
 [[nodiscard]] QString readKMat(const QString &path, MaterialTable &table);
 
 /// Reads the first of `candidates` that can be opened. An invalid first file is an error, not a reason to
 /// try the next; when none opens the message names the last.
 [[nodiscard]] QString readKMat(const QStringList &candidates, MaterialTable &table);
 
-/// Reads from a device opened in text mode; `path` only names it in messages.
+/// Reads from an open device; `path` only names it in messages.
 [[nodiscard]] QString readKMat(QIODevice &text, const QString &path, MaterialTable &table);
 
 /// Writes a .kmat file with one material per entry of `table` in one step. Returns an error message; an
 /// empty text means success.
 [[nodiscard]] QString writeKMat(const QString &path, const MaterialTable &table);
 
-/// The same into a file whose materials of other names stay as they are written, comments too. It is written
-/// in UTF-8 without a byte order mark, or in Latin-1 where it was no UTF-8 and the new names allow it.
+/// The same into a file whose materials of other names stay as they are written, comments too. Its encoding
+/// and its line ends stay; where the encoding lacks a letter of the new ones, nothing is written.
 [[nodiscard]] QString mergeKMat(const QString &path, const MaterialTable &table);
 /// The names of the materials of a file that the table does not have, in the order of the file.
 QStringList otherMaterials(const QString &path, const MaterialTable &table);

@@ -3030,6 +3030,10 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <source>%1 tracks without frames are more than can be read back.</source>
         <translation>%1 Spuren ohne Frames sind mehr, als wieder gelesen werden können.</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; is in Latin-1, which does not have all letters of the new materials.</source>
+        <translation>„%1“ ist in Latin-1, worin nicht alle Zeichen der neuen Materialien stehen.</translation>
+    </message>
 </context>
 <context>
     <name>ModelNames</name>

@@ -3,6 +3,8 @@
 #include "KMat.h"
 #include "TestSupport.h"
 
+#include <QTextCodec>
+
 /// .kmat files: which words make a material and its texture, and the exact text written.
 class TestKMat : public QObject
 {
@@ -99,6 +101,21 @@ private slots:
         check("material a\r\n{\r\n}\r\n", "material a\r\n{\r\n}\r\n" + QByteArray(b).replace("\n", "\r\n"),
               {"a"});
         check("material \xe4 { }\n", "material \xe4 { }\n" + b, {QString::fromLatin1("\xe4")});
+        check("\xef\xbb\xbf" + a, "\xef\xbb\xbf" + a + b, {"a"});
+        for (const char *name : {"UTF-16LE", "UTF-16BE", "UTF-32LE", "UTF-32BE"}) {
+            const auto in = [name](const QByteArray &text) {
+                return QTextCodec::codecForName(name)->fromUnicode(QString::fromUtf8(text));
+            };
+            check(in("material \xc3\xa4 { }\r\n// c"),
+                  in("material \xc3\xa4 { }\r\n// c\r\n" + QByteArray(b).replace("\n", "\r\n")),
+                  {QString(QChar(0xE4))});
+            MaterialTable read;
+            QCOMPARE(readKMat(m_folder.path("merged.kmat"), read), QString());
+            QCOMPARE(read, (MaterialTable{{QString(QChar(0xE4)), ""}, {"b", "new.png"}}));
+        }
+        const QString latin1 = m_folder.put("merged.kmat", "material \xe4 { }\n");
+        QVERIFY(mergeKMat(latin1, {{"b", QString(QChar(0x416)) + ".png"}}).contains("Latin-1"));
+        QCOMPARE(TestSupport::readFile(latin1), QByteArray("material \xe4 { }\n"));
     }
 
     void candidates()

@@ -7,7 +7,8 @@
 
 #include <QCoreApplication>
 
-#include <numeric>
+#include <algorithm>
+#include <utility>
 
 namespace {
 // Bytes in the file.
@@ -24,6 +25,29 @@ constexpr qint64 MaxEmptyTracksOfFile = 4 * qint64(MaxEmptyTracks);
 qint64 emptyTracks(const AnimBlock &block)
 {
     return block.frames.empty() ? qint64(block.translations.trackCount()) + block.rotations.trackCount() : 0;
+}
+
+/// Of translations and of rotations.
+using TrackCounts = std::pair<int, int>;
+
+TrackCounts trackCounts(const AnimBlock &block)
+{
+    return {block.translations.trackCount(), block.rotations.trackCount()};
+}
+
+/// How many of a block's tracks can be read back when the blocks before it leave `left` ones without keys,
+/// and takes them from these.
+TrackCounts readableTracks(const AnimBlock &block, qint64 &left)
+{
+    const auto readable = [&left](int count) {
+        const qint64 taken = std::min<qint64>({count, MaxEmptyTracks, left});
+        left -= taken;
+        return int(taken);
+    };
+    if (!block.frames.empty())
+        return trackCounts(block);
+    const int translations = readable(block.translations.trackCount());
+    return {translations, readable(block.rotations.trackCount())};
 }
 
 const QVector3D NeutralTranslation;
@@ -207,14 +231,17 @@ QString AnimFile::refusal() const
     if (blocks.empty())
         return QCoreApplication::translate("ModelFiles",
                                            "An animation file without an animation is not saved.");
-    const qint64 empty =
-        std::accumulate(blocks.begin(), blocks.end(), qint64(0),
-                        [](qint64 sum, const AnimBlock &block) { return sum + emptyTracks(block); });
-    return empty > MaxEmptyTracksOfFile
-               ? QCoreApplication::translate("ModelFiles",
+    qint64 left = MaxEmptyTracksOfFile;
+    qint64 empty = 0;
+    bool all = true;
+    for (const AnimBlock &block : blocks) {
+        empty += emptyTracks(block);
+        all = readableTracks(block, left) == trackCounts(block) && all;
+    }
+    return all ? QString()
+               : QCoreApplication::translate("ModelFiles",
                                              "%1 tracks without frames are more than can be read back.")
-                     .arg(empty)
-               : QString();
+                     .arg(empty);
 }
 
 bool AnimFile::write(const QString &path, QString *reason) const
@@ -234,6 +261,17 @@ void AnimFile::writeDraft(BinaryFileWriter &writer) const
 {
     writer.writeInt32(version);
     writer.writeInt32(qint32(blocks.size()));
-    for (const AnimBlock &block : blocks)
-        writeBlock(writer, block);
+    qint64 left = MaxEmptyTracksOfFile;
+    for (const AnimBlock &block : blocks) {
+        const TrackCounts readable = readableTracks(block, left);
+        if (readable == trackCounts(block)) {
+            writeBlock(writer, block);
+            continue;
+        }
+        // Tracks without keys hold nothing: those that reading would refuse are left out.
+        AnimBlock cut = block;
+        cut.setTranslationCount(readable.first);
+        cut.setRotationCount(readable.second);
+        writeBlock(writer, cut);
+    }
 }

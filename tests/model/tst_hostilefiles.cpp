@@ -177,22 +177,42 @@ private slots:
 
     void emptyTracksAreCountedOverTheFile()
     {
-        // As many as an index can name in both tables of each block: two blocks are read, three are not.
-        for (const int blocks : {2, 3}) {
-            AnimFile file;
-            file.blocks.resize(size_t(blocks));
-            for (AnimBlock &block : file.blocks) {
-                block.setTranslationCount(65536);
-                block.setRotationCount(65536);
-            }
+        const auto bytesOf = [](const AnimFile &file) {
             BinaryFileWriter writer;
             file.writeDraft(writer);
-            const std::vector<uchar> bytes = writer.takeBytes();
+            return writer.takeBytes();
+        };
+        const auto read = [](const std::vector<uchar> &bytes, AnimFile &file) {
             BinaryFileReader reader(bytes.data(), qint64(bytes.size()));
-            AnimFile read;
-            QCOMPARE(read.read(reader), blocks == 3);
-            QCOMPARE(file.refusal().isEmpty(), blocks == 2);
+            return file.read(reader);
+        };
+        // As many as an index can name in both tables of each block: two blocks are read, three are not.
+        AnimFile file, back;
+        file.blocks.resize(2);
+        for (AnimBlock &block : file.blocks) {
+            block.setTranslationCount(65536);
+            block.setRotationCount(65536);
         }
+        std::vector<uchar> bytes = bytesOf(file);
+        QVERIFY(file.refusal().isEmpty() && !read(bytes, back));
+        bytes.resize(8 + 3 * 44);
+        std::copy_n(bytes.begin() + 8, 44, bytes.end() - 44);
+        bytes[4] = 3;
+        QVERIFY(read(bytes, back));
+
+        // What is kept of a model with more can be read back, but for tracks that hold nothing.
+        file.blocks.insert(file.blocks.begin(), 2, AnimBlock());
+        file.blocks[0].setFrameCount(1);
+        file.blocks[0].setRotationCount(70000);
+        file.blocks[1].setRotationCount(70000);
+        QVERIFY(!file.refusal().isEmpty() && !read(bytesOf(file), back));
+        QCOMPARE(back.blocks.size(), size_t(4));
+        QCOMPARE(back.blocks[0].rotations.trackCount(), 70000);
+        QCOMPARE(back.blocks[1].rotations.trackCount(), 65536);
+        QCOMPARE(back.blocks[3].translations.trackCount(), 65536);
+        QCOMPARE(back.blocks[3].rotations.trackCount(), 0);
+        file.blocks.resize(2); // one table alone can be too many
+        QVERIFY(!file.refusal().isEmpty());
     }
 };
 

@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QMap>
 #include <QTemporaryFile>
@@ -28,9 +29,20 @@ QMap<QString, QVariant> &unstored()
 /// settings with it. A folder in which nothing can be made is for the toolkit to complain of.
 bool hasRoom(const QString &path)
 {
-    QTemporaryFile probe(path + QStringLiteral(".XXXXXX"));
-    const QByteArray bytes(int(QFileInfo(path).size()) + MostAtOnce, ' ');
-    return !probe.open() || (probe.write(bytes) == bytes.size() && probe.flush());
+    // Many values are stored at once, as when the window closes.
+    static QElapsedTimer s_sinceLook;
+    static QString s_path;
+    static qint64 s_most = 0; // bytes of the store up to which the look counts
+    const qint64 size = QFileInfo(path).size();
+    if (s_path == path && size <= s_most && !s_sinceLook.hasExpired(SettingsHold::RoomMs))
+        return true;
+    QTemporaryFile probe(path + QStringLiteral(".room.XXXXXX"));
+    const QByteArray bytes(int(size) + 2 * MostAtOnce, ' ');
+    const bool has = !probe.open() || (probe.write(bytes) == bytes.size() && probe.flush());
+    s_path = has ? path : QString();
+    s_most = size + MostAtOnce;
+    s_sinceLook.start();
+    return has;
 }
 
 /// Returns true on failure.

@@ -4145,6 +4145,20 @@ Hände und Füße (x0.25): %6</translation>
         <source>This cannot be undone.</source>
         <translation>Dies kann nicht rückgängig gemacht werden.</translation>
     </message>
+    <message>
+        <source>What was kept of &apos;%1&apos; is damaged and cannot be opened.</source>
+        <translation>Was von „%1“ gesichert war, ist beschädigt und lässt sich nicht öffnen.</translation>
+    </message>
+    <message>
+        <source>It can be kept, to see what can be saved of it, and is not offered any more:
+%1</source>
+        <translation>Es kann behalten werden, falls daran etwas zu retten ist, und wird nicht mehr angeboten:
+%1</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;Behalten</translation>
+    </message>
 </context>
 <context>
     <name>Recovery</name>
@@ -4214,6 +4228,10 @@ Hände und Füße (x0.25): %6</translation>
     <message>
         <source>The newest was restored. Older unsaved work is kept, too: %1</source>
         <translation>Das Neueste ist wiederhergestellt. Auch ältere nicht gespeicherte Arbeit ist gesichert: %1</translation>
+    </message>
+    <message>
+        <source>Korvane has kept unsaved work, but it is damaged.</source>
+        <translation>Korvane hat nicht gespeicherte Arbeit gesichert, aber sie ist beschädigt.</translation>
     </message>
 </context>
 <context>
@@ -4423,6 +4441,20 @@ Alles andere funktioniert weiter.</translation>
         <source>Save into the &amp;Mod</source>
         <translation>In den &amp;Mod speichern</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; has changed since it was opened. Replace it by what is open here?</source>
+        <translation>„%1“ hat sich geändert, seit es geöffnet wurde. Durch das ersetzen, was hier geöffnet ist?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; may have changed since this work was kept. Replace it by what is open here?</source>
+        <translation>„%1“ kann sich geändert haben, seit diese Arbeit gesichert wurde. Durch das ersetzen, was hier geöffnet ist?</translation>
+    </message>
+    <message>
+        <source>In the mod folder a link in its place leads back there:
+%1</source>
+        <translation>Im Mod-Ordner führt an dieser Stelle ein Link dorthin zurück:
+%1</translation>
+    </message>
 </context>
 <context>
     <name>SavePath</name>
@@ -4441,20 +4473,6 @@ Alles andere funktioniert weiter.</translation>
         <translation>„%1“ gibt es schon. Ersetzen?</translation>
     </message>
 </context>
-    <message>
-        <source>&apos;%1&apos; has changed since it was opened. Replace it by what is open here?</source>
-        <translation>„%1“ hat sich geändert, seit es geöffnet wurde. Durch das ersetzen, was hier geöffnet ist?</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; may have changed since this work was kept. Replace it by what is open here?</source>
-        <translation>„%1“ kann sich geändert haben, seit diese Arbeit gesichert wurde. Durch das ersetzen, was hier geöffnet ist?</translation>
-    </message>
-    <message>
-        <source>In the mod folder a link in its place leads back there:
-%1</source>
-        <translation>Im Mod-Ordner führt an dieser Stelle ein Link dorthin zurück:
-%1</translation>
-    </message>
 <context>
     <name>ScaleDialog</name>
     <message>

@@ -76,6 +76,7 @@ void RecoverDialog::on_btnRecoverRestore_clicked()
     bool allRestored = true;
     for (const Snapshot &snapshot : selected())
         allRestored &= m_recovery.restore(snapshot) == Recovery::Outcome::Restored;
+    tellOfDamaged(m_recovery.store(), this);
     if (allRestored)
         accept();
     else
@@ -93,6 +94,32 @@ bool RecoverDialog::mayDelete(const QVector<Snapshot> &snapshots, QWidget *paren
     return QMessageBox::question(parent, tr("Recover"),
                                  question + QLatin1Char('\n') + tr("This cannot be undone."),
                                  QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
+void RecoverDialog::tellOfDamaged(SnapshotStore &store, QWidget *parent)
+{
+    const QVector<SnapshotStore::Damaged> damaged = store.takeDamaged();
+    if (damaged.isEmpty())
+        return;
+    QStringList names, files;
+    for (const SnapshotStore::Damaged &each : damaged) {
+        names += each.name.isEmpty() ? QFileInfo(each.path).fileName() : each.name;
+        files += QDir::toNativeSeparators(each.path);
+    }
+    QMessageBox box(
+        QMessageBox::Warning, tr("Recover"),
+        tr("What was kept of '%1' is damaged and cannot be opened.").arg(names.join(QStringLiteral("', '"))),
+        QMessageBox::NoButton, parent);
+    box.setInformativeText(
+        tr("It can be kept, to see what can be saved of it, and is not offered any more:\n%1")
+            .arg(files.join(QLatin1Char('\n'))));
+    auto *keep = box.addButton(tr("&Keep"), QMessageBox::RejectRole);
+    const QPushButton *discard = box.addButton(tr("&Delete"), QMessageBox::DestructiveRole);
+    box.setDefaultButton(keep);
+    box.setEscapeButton(keep);
+    box.exec();
+    for (int i = 0; i < damaged.size() && box.clickedButton() == discard; ++i)
+        QFile::remove(damaged.at(i).path);
 }
 
 void RecoverDialog::on_btnRecoverDelete_clicked()

@@ -25,6 +25,8 @@ public:
 
     /// Asks whether these shall be deleted, and names them.
     [[nodiscard]] static bool mayDelete(const QVector<Snapshot> &snapshots, QWidget *parent);
+    /// Tells of what turned out to be damaged, if anything did, and asks whether these files shall be kept.
+    static void tellOfDamaged(SnapshotStore &store, QWidget *parent);
 
 private slots:
     void on_btnRecoverRestore_clicked();

@@ -143,6 +143,7 @@ Recovery::Outcome Recovery::restore(const Snapshot &snapshot)
     if (m_store.read(snapshot, &bytes) ||
         track.document->restore(bytes, snapshot.sourcePath, snapshot.name, snapshot.stamp)) {
         Log::warning(tr("[Recovery] What was kept of '%1' is damaged").arg(snapshot.name));
+        m_store.setAside(snapshot);
         return Outcome::Damaged;
     }
     // Its file stays where it is, so that nothing is ever without one.

@@ -33,7 +33,7 @@ public:
     /// All that is kept beside what is open now, the newest first.
     QVector<Snapshot> snapshots();
     /// Opens a snapshot as a modified document, after asking about the one that it replaces; from then on it
-    /// is that document's. Damage is told in the log.
+    /// is that document's. What is damaged is set aside, with a line in the log.
     Outcome restore(const Snapshot &snapshot);
     void remove(const QVector<Snapshot> &snapshots);
 

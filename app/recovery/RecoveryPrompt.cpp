@@ -45,12 +45,16 @@ RecoveryPrompt::RecoveryPrompt(Recovery &recovery, QAction *recover, QBoxLayout 
 void RecoveryPrompt::offer()
 {
     const bool crashed = !m_recovery.store().crashReports().isEmpty();
-    for (QPushButton *button : {m_restore, m_showAll, m_discard})
+    const bool damaged = !m_recovery.store().damaged().isEmpty();
+    m_restore->setVisible(damaged || !m_offered.isEmpty());
+    for (QPushButton *button : {m_showAll, m_discard})
         button->setVisible(!m_offered.isEmpty());
     m_showReport->setVisible(crashed);
     if (m_offered.isEmpty()) {
-        m_bar->setVisible(crashed);
-        if (crashed)
+        m_bar->setVisible(crashed || damaged);
+        if (damaged)
+            m_bar->tell(tr("Korvane has kept unsaved work, but it is damaged."));
+        else if (crashed)
             m_bar->tell(tr("Korvane ended unexpectedly. A report was written here; nothing was sent."));
         return;
     }
@@ -79,16 +83,19 @@ void RecoveryPrompt::on_btnRestore_clicked()
 {
     // The newest that is whole.
     QSet<int> done;
+    bool givenUp = false;
     for (const Snapshot &snapshot : qAsConst(m_offered)) {
         if (done.contains(int(snapshot.type)))
             continue;
         const Recovery::Outcome outcome = m_recovery.restore(snapshot);
-        if (outcome == Recovery::Outcome::GivenUp)
-            return offerWhatIsLeft();
+        givenUp = outcome == Recovery::Outcome::GivenUp;
+        if (givenUp)
+            break;
         if (outcome == Recovery::Outcome::Restored)
             done.insert(int(snapshot.type));
     }
-    m_hasRestored = m_hasRestored || !done.isEmpty();
+    RecoverDialog::tellOfDamaged(m_recovery.store(), m_window);
+    m_hasRestored = m_hasRestored || (!givenUp && !done.isEmpty());
     offerWhatIsLeft();
 }
 

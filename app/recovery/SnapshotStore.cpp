@@ -245,10 +245,20 @@ QVector<Snapshot> SnapshotStore::snapshots()
         return {};
     QVector<Snapshot> all = snapshotsIn(m_folder);
     while (!all.isEmpty() && !all.last().time.isValid()) {
+        setAside(all.takeLast());
         Log::warning(tr("[Recovery] '%1' is damaged and was left out")
-                         .arg(QDir::toNativeSeparators(pathOf(all.takeLast().file))));
+                         .arg(QDir::toNativeSeparators(m_damaged.constLast().path)));
     }
     return all;
+}
+
+void SnapshotStore::setAside(const Snapshot &snapshot)
+{
+    waitForDone();
+    const QString path = m_root + QLatin1Char('/') + snapshot.file + QStringLiteral(".damaged");
+    QFile::remove(path);
+    const bool moved = QFile::rename(pathOf(snapshot.file), path);
+    m_damaged.append({snapshot.name, moved ? path : pathOf(snapshot.file)});
 }
 
 bool SnapshotStore::read(const Snapshot &snapshot, QByteArray *model)

@@ -11,6 +11,7 @@
 
 #include <atomic>
 #include <memory>
+#include <utility>
 #include <vector>
 
 class FolderLock;
@@ -50,11 +51,23 @@ public:
     bool isBusy() const { return m_jobs > 0; }
     void waitForDone();
 
-    /// All that are kept, the newest first by their sequence. Damaged ones are left out, with a line in the
+    /// All that are kept, the newest first by their sequence. Damaged ones are set aside, with a line in the
     /// log.
     QVector<Snapshot> snapshots();
     /// The model's bytes. Returns true when the file is not what was kept.
     [[nodiscard]] bool read(const Snapshot &snapshot, QByteArray *model);
+
+    /// A file that cannot be opened any more.
+    struct Damaged
+    {
+        QString name; ///< of the document, where that can be read
+        QString path;
+    };
+    /// Moves a snapshot to where none is listed and none goes to make room.
+    void setAside(const Snapshot &snapshot);
+    /// What was set aside and nobody was told of.
+    const QVector<Damaged> &damaged() const { return m_damaged; }
+    QVector<Damaged> takeDamaged() { return std::exchange(m_damaged, {}); }
 
 signals:
     /// A snapshot could not be written.
@@ -73,6 +86,7 @@ private:
     QString m_folder; ///< empty when nothing can be kept
     std::unique_ptr<FolderLock> m_lock;
     QStringList m_crashReports;
+    QVector<Damaged> m_damaged;
     int m_files = 0;
     qint64 m_last = 0; ///< the newest snapshot's sequence
     std::atomic<int> m_jobs{0};

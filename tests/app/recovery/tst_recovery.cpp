@@ -3,48 +3,18 @@
 #include "AnimCommands.h"
 #include "FullDisk.h"
 #include "Hand.h"
-#include "Log.h"
-#include "NoticeBar.h"
-#include "OneRun.h"
+#include "KeptWork.h"
 #include "RecoverDialog.h"
-#include "RecoveryPrompt.h"
-#include "SampleModels.h"
 #include "SnapshotFile.h"
 
 using SampleModels::bytesOf;
 
-namespace {
-/// The bar that offers what was kept, in the window of a run.
-struct Bar
-{
-    explicit Bar(OneRun &run)
-        : window(run.window)
-        , place(&run.window)
-        , prompt(*run.recovery, &recover, &place, &run.window)
-    {}
-    void click(const char *button) const { find<QPushButton>(window, button)->click(); }
-
-    QWidget &window;
-    QAction recover;
-    QVBoxLayout place;
-    RecoveryPrompt prompt;
-    NoticeBar *notice = find<NoticeBar>(window, "barRecovery");
-};
-} // namespace
-
-class TestRecovery : public QObject
+class TestRecovery : public QObject, KeptWork
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_folder.emplace();
-        m_folder->save("man.skinnedmesh", triangleMan());
-        m_log.clear();
-        Log::setSink([this](LogSeverity, const QString &text) { m_log += text; });
-    }
-
+    void init() { begin(); }
     void cleanup() { Log::setSink({}); }
 
     void workIsKept()
@@ -193,41 +163,6 @@ private slots:
             QVERIFY(!store.read(found[i], &bytes) && !SampleModels::readBytes(mesh, bytes));
             QCOMPARE(int(mesh.headTrackFactor), SnapshotStore::MostKept + 3 - i);
         }
-    }
-
-    void damageIsSkipped()
-    {
-        leave(2);
-        OneRun run(root());
-        const Snapshot newest = run.recovery->snapshots().at(0);
-        const QString file = kept().filter(newest.file).value(0);
-        const QByteArray whole = TestSupport::readFile(file);
-        const auto damage = [&](const QByteArray &bytes) {
-            QVERIFY(TestSupport::writeFile(file, bytes));
-            m_log.clear();
-            const QVector<Snapshot> found = run.recovery->snapshots();
-            if (found.size() == 2) {
-                QCOMPARE(int(run.recovery->restore(newest)), int(Recovery::Outcome::Damaged));
-                QVERIFY(!run.mesh.isOpen());
-            } else {
-                QCOMPARE(found.size(), 1);
-            }
-            QCOMPARE(m_log.size(), 1);
-        };
-        for (int length = 0; length < whole.size(); ++length)
-            damage(whole.left(length));
-        for (int i = 0; i < whole.size(); ++i) {
-            QByteArray changed = whole;
-            changed[i] = char(changed[i] ^ 0x40);
-            damage(changed);
-        }
-        damage(whole + 'x');
-
-        // The bar's button takes the one before.
-        Bar bar(run);
-        QVERIFY(TestSupport::writeFile(file, whole.left(whole.size() / 2)));
-        bar.click("btnRestore");
-        QCOMPARE(int(run.mesh.model().headTrackFactor), 1);
     }
 
     void workThatCannotBeSavedIsKept()
@@ -441,37 +376,6 @@ private slots:
         // What was replaced is kept, too.
         QCOMPARE(run.recovery->snapshots().size(), 2);
     }
-
-private:
-    QString root() const { return m_folder->path(QStringLiteral("state/recovery")); }
-    QString manPath() const { return m_folder->path(QStringLiteral("man.skinnedmesh")); }
-    QStringList kept() const
-    {
-        QStringList files;
-        QDirIterator walk(root(), {QStringLiteral("*.snapshot")}, QDir::Files, QDirIterator::Subdirectories);
-        while (walk.hasNext())
-            files += walk.next();
-        return files;
-    }
-    /// A run that left this many skinned meshes, each with its own head track factor, 1 the oldest.
-    void leave(int count)
-    {
-        OneRun run(root());
-        for (int i = 1; i <= count; ++i) {
-            run.openMesh(manPath());
-            run.edit(i);
-            run.recovery->keepAll();
-        }
-    }
-    /// Restores what alone was kept.
-    static bool restoreOnly(OneRun &run)
-    {
-        const QVector<Snapshot> found = run.recovery->snapshots();
-        return found.size() == 1 && run.recovery->restore(found[0]) == Recovery::Outcome::Restored;
-    }
-
-    std::optional<ProgramFolder> m_folder;
-    QStringList m_log;
 };
 
 QTEST_MAIN(TestRecovery)

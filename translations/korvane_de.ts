@@ -1375,6 +1375,18 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>[Save] &apos;%1&apos;: %2</source>
         <translation>[Speichern] „%1“: %2</translation>
     </message>
+    <message>
+        <source>%1
+
+Go on without it?</source>
+        <translation>%1
+
+Ohne diese Eingabe fortfahren?</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Nicht gespeichert</translation>
+    </message>
 </context>
 <context>
     <name>DocumentKind</name>
@@ -3333,8 +3345,8 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
 <context>
     <name>NumberField</name>
     <message>
-        <source>%1 It is not stored; Esc brings %2 back.</source>
-        <translation>%1 Sie wird nicht gespeichert; Esc bringt %2 zurück.</translation>
+        <source>It is not stored; Esc brings %1 back.</source>
+        <translation>Die Eingabe wird nicht gespeichert; Esc bringt %1 zurück.</translation>
     </message>
 </context>
 <context>
@@ -3832,8 +3844,12 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
         <translation>Eigenschaften von Vertex %1</translation>
     </message>
     <message>
-        <source>The file format cannot hold &apos;%1&apos;: only characters of Latin-1. The path is not stored; Esc brings the old one back.</source>
-        <translation>Das Dateiformat kann „%1“ nicht aufnehmen, sondern nur Zeichen aus Latin-1. Der Pfad wird nicht gespeichert; Esc bringt den alten zurück.</translation>
+        <source>Not stored. %1</source>
+        <translation>Nicht gespeichert. %1</translation>
+    </message>
+    <message>
+        <source>The file format cannot hold &apos;%1&apos;: only characters of Latin-1.</source>
+        <translation>Das Dateiformat kann „%1“ nicht aufnehmen, sondern nur Zeichen aus Latin-1.</translation>
     </message>
 </context>
 <context>
@@ -5504,6 +5520,13 @@ So lassen?</translation>
     </message>
 </context>
 <context>
+    <name>TextField</name>
+    <message>
+        <source>It is not stored; Esc brings the old one back.</source>
+        <translation>Die Eingabe wird nicht gespeichert; Esc bringt den alten Text zurück.</translation>
+    </message>
+</context>
+<context>
     <name>TrackSlider</name>
     <message>
         <source>Action %1: %2</source>
@@ -5548,6 +5571,13 @@ So lassen?</translation>
     <message>
         <source>Tutorial</source>
         <translation>Anleitung</translation>
+    </message>
+</context>
+<context>
+    <name>TypingField</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

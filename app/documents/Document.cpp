@@ -5,6 +5,7 @@
 #include "BinaryFileReader.h"
 #include "BinaryFileWriter.h"
 #include "NameTables.h"
+#include "TypingField.h"
 
 #include <QFileInfo>
 
@@ -111,6 +112,32 @@ bool Document::save(const QString &path, QString *reason)
     m_undoStack.setClean();
     emit saved();
     return false;
+}
+
+QStringList Document::refusedTyping() const
+{
+    QStringList refusals;
+    for (TypingField *field : m_editors ? TypingField::in(*m_editors) : QVector<TypingField *>()) {
+        if (field->commitText())
+            refusals.append(field->refusal());
+    }
+    return refusals;
+}
+
+bool Document::returnToTyping()
+{
+    TypingField *refused = m_editors ? TypingField::refusedIn(*m_editors) : nullptr;
+    if (!refused)
+        return false;
+    emit typingRefused(refused->refusal()); // which brings its tab to the front
+    refused->returnTo();
+    return true;
+}
+
+void Document::discardTyping()
+{
+    for (TypingField *field : m_editors ? TypingField::in(*m_editors) : QVector<TypingField *>())
+        field->discardText();
 }
 
 void Document::recordChanged(const RecordRef &record)

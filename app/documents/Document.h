@@ -7,8 +7,10 @@
 #include "FileStamp.h"
 #include "Records.h"
 
+#include <QPointer>
 #include <QUndoStack>
 #include <QVector>
+#include <QWidget>
 
 #include <vector>
 
@@ -65,6 +67,16 @@ public:
     void fileWent();
     void fileReturned();
 
+    /// Where its fields are edited.
+    void setEditors(QWidget *editors) { m_editors = editors; }
+    /// Stores what is typed there. Says what cannot be stored, and why.
+    QStringList refusedTyping() const;
+    /// The same for what is not to be done while something is refused: goes back to the first such field,
+    /// which tells why, and returns true.
+    [[nodiscard]] bool returnToTyping();
+    /// Gives up what is typed there.
+    void discardTyping();
+
     /// How many records of a list kind stand under the owner named by `index`.
     virtual int recordCount(RecordKind kind, const RecordIndex &index) const = 0;
     /// What a tree says of one record, or finds it by, beside the kind's own label: a bone's name, the index
@@ -85,6 +97,8 @@ signals:
     /// The model that has just replaced another was kept as bytes: its file may be another one meanwhile.
     void restored();
     void saved();
+    /// The user is led back to a field that refuses what is typed in it.
+    void typingRefused(const QString &refusal);
     /// The records that one undo step has changed, in the order of the changes.
     void recordsChanged(const QVector<RecordRef> &records);
     /// Lists of which one undo step has changed, in the order of the changes; comes before recordsChanged().
@@ -109,6 +123,7 @@ private:
     QString m_path;
     QString m_unsavedName;
     QUndoStack m_undoStack;
+    QPointer<QWidget> m_editors;
     QVector<RecordRef> m_changes;
     QVector<StructureChange> m_structureChanges;
 };

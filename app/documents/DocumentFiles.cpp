@@ -4,13 +4,13 @@
 
 #include "Log.h"
 #include "SavePath.h"
-#include "Typing.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+
+#include <algorithm>
 
 namespace {
 /// Where a file dialog starts: the folder it was left in, else the explorer's.
@@ -110,32 +110,31 @@ void DocumentFiles::openChosen(DocumentType type)
 
 bool DocumentFiles::save(DocumentType type)
 {
-    if (!document(type)->isOpen())
+    if (!document(type)->isOpen() || document(type)->returnToTyping())
         return true;
-    finishTyping();
     return saveTo(type, targetOfSave(type));
 }
 
 bool DocumentFiles::saveAs(DocumentType type)
 {
-    if (!document(type)->isOpen())
+    if (!document(type)->isOpen() || document(type)->returnToTyping())
         return true;
-    finishTyping();
     return saveTo(type, chooseTarget(type));
 }
 
 bool DocumentFiles::saveToMod(DocumentType type)
 {
-    if (!document(type)->isOpen())
+    if (!document(type)->isOpen() || document(type)->returnToTyping())
         return true;
-    finishTyping();
     const QString path = SaveGuard::modPath(document(type)->path());
     return path.isEmpty() ? saveAs(type) : saveTo(type, m_guard.intoMod(path));
 }
 
 void DocumentFiles::saveAll()
 {
-    finishTyping();
+    if (std::any_of(m_documents.begin(), m_documents.end(),
+                    [](Document *each) { return each->returnToTyping(); }))
+        return;
     QVector<FailedSave> failures;
     for (const DocumentKind &kind : documentKinds()) {
         const QString path = hasUnsavedWork(kind.type) ? targetOfSave(kind.type) : QString();
@@ -181,7 +180,11 @@ QString DocumentFiles::chooseTarget(DocumentType type)
 
 bool DocumentFiles::promptUnsaved(DocumentType type, QEvent *event)
 {
-    finishTyping();
+    if (!settleTyping(type)) {
+        if (event)
+            event->ignore();
+        return false;
+    }
     if (!hasUnsavedWork(type))
         return true;
     const QString path = document(type)->path();
@@ -219,9 +222,22 @@ void DocumentFiles::write(DocumentType type, const QString &path, QVector<Failed
     failures.append({path, reason});
 }
 
-void DocumentFiles::finishTyping() const
+bool DocumentFiles::settleTyping(DocumentType type)
 {
-    const QWidget *editor = QApplication::focusWidget();
-    if (editor && m_window->isAncestorOf(editor))
-        ::finishTyping();
+    const QStringList refused = document(type)->refusedTyping();
+    if (refused.isEmpty())
+        return true;
+    const QString question = tr("%1\n\nGo on without it?").arg(refused.join(QLatin1Char('\n')));
+    const auto answer = QMessageBox::question(m_window, tr("Not stored"), question,
+                                              QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
+    if (answer != QMessageBox::Yes)
+        return !document(type)->returnToTyping();
+    document(type)->discardTyping();
+    return true;
+}
+
+bool DocumentFiles::settleTyping()
+{
+    return std::all_of(m_documents.begin(), m_documents.end(),
+                       [this](const Document *each) { return settleTyping(each->kind().type); });
 }

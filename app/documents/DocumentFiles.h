@@ -24,7 +24,8 @@ public:
 
     Document *document(DocumentType type) const { return m_documents[size_t(type)]; }
     /// The document that the current tab shows, which Open, Save and Save As act on; null for none.
-    void setCurrent(const Document *document) { m_current = document; }
+    void setCurrent(Document *document) { m_current = document; }
+    Document *current() const { return m_current; }
 
     /// Loads a file without asking about unsaved changes. Returns true on failure, after saying so.
     bool open(DocumentType type, const QString &path);
@@ -36,7 +37,8 @@ public:
     void openChosen(DocumentType type);
 
     /// Saves to the document's file, or to a chosen one when it has none yet. Returns true when the document
-    /// was not saved: after a failure, which was then said, or because the user thought better of it.
+    /// was not saved: after a failure, which was then said, because the user thought better of it, or because
+    /// something is typed that cannot be stored, whose field has the keys then.
     bool save(DocumentType type);
     bool saveAs(DocumentType type);
     /// Saves a document of the game folder at the same place of the mod folder; others as saveAs().
@@ -47,8 +49,11 @@ public:
     /// Asks whether unsaved work shall be saved before the document is replaced. Returns true when the
     /// replacement may go on; otherwise `event`, if given, is marked ignored.
     [[nodiscard]] bool promptUnsaved(DocumentType type, QEvent *event = nullptr);
-    /// Takes what is typed in the editor with the focus to the document.
-    void finishTyping() const;
+    /// Stores what is typed for a document. What cannot be stored is given up, after a question: returns
+    /// false when the user goes back to it.
+    [[nodiscard]] bool settleTyping(DocumentType type);
+    /// The same for all documents.
+    [[nodiscard]] bool settleTyping();
 
 public slots:
     void on_actionOpen_triggered();
@@ -74,7 +79,7 @@ private:
     void write(DocumentType type, const QString &path, QVector<FailedSave> &failures);
 
     std::array<Document *, 3> m_documents;
-    const Document *m_current = nullptr;
+    Document *m_current = nullptr;
     QWidget *m_window;
     SaveGuard m_guard;
 };

@@ -58,7 +58,8 @@ void ReloadPrompt::tellRemoved(DocumentType type)
 
 void ReloadPrompt::reload(DocumentType type)
 {
-    m_files.finishTyping();
+    if (!m_files.settleTyping(type))
+        return;
     Document *document = m_files.document(type);
     if (document->differsFromFile()) {
         const QString question = tr("Load '%1' anew, without your unsaved changes?\n\nFile > Recover… keeps "

@@ -30,7 +30,7 @@ RotateDialog::~RotateDialog() = default;
 
 void RotateDialog::on_btnApply_clicked()
 {
-    if (NumberField::hasRefused(*this))
+    if (TypingField::returnToRefused(*this))
         return;
     const float pitch = m_ui->sbPitch->value();
     const float roll = m_ui->sbRoll->value();

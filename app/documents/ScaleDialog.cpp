@@ -18,7 +18,7 @@ ScaleDialog::~ScaleDialog() = default;
 
 void ScaleDialog::on_btnApply_clicked()
 {
-    if (NumberField::hasRefused(*this))
+    if (TypingField::returnToRefused(*this))
         return;
     const float factor = m_ui->sbScale->value();
     if (!fuzzyEqual(factor, 1.0f))

@@ -118,10 +118,10 @@ void ImportDialog::setModelPath(const QString &path)
 
 void ImportDialog::fillEditors()
 {
-    m_ui->txtModelPath->setText(nativeModelPath());
-    m_ui->txtKMatPath->setText(QDir::toNativeSeparators(m_choices.kmatPath));
-    m_ui->txtTexPath->setText(QDir::toNativeSeparators(m_choices.textureFolder));
-    m_ui->txtT2Dir->setText(QDir::toNativeSeparators(m_choices.modFolder));
+    m_ui->txtModelPath->setValue(nativeModelPath());
+    m_ui->txtKMatPath->setValue(QDir::toNativeSeparators(m_choices.kmatPath));
+    m_ui->txtTexPath->setValue(QDir::toNativeSeparators(m_choices.textureFolder));
+    m_ui->txtT2Dir->setValue(QDir::toNativeSeparators(m_choices.modFolder));
     m_ui->cbSwapYZ->setChecked(m_swapYZ);
     m_ui->cbGenNormals->setChecked(m_choices.genNormals);
     m_ui->cbFlipUV->setChecked(m_choices.flipUV);
@@ -169,7 +169,7 @@ void ImportDialog::on_btnT2DirBrowse_clicked()
     const QString folder = m_chooseFolder(this, tr("Turok 2 Output Folder"), m_choices.modFolder);
     if (folder.isEmpty())
         return;
-    m_ui->txtT2Dir->setText(QDir::toNativeSeparators(folder));
+    m_ui->txtT2Dir->setValue(QDir::toNativeSeparators(folder));
     OnTxtT2DirChanged();
 }
 
@@ -185,7 +185,7 @@ void ImportDialog::on_btnkmatPathBrowse_clicked()
     dialog.selectFile(current.fileName());
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return;
-    m_ui->txtKMatPath->setText(dialog.selectedFiles().first());
+    m_ui->txtKMatPath->setValue(dialog.selectedFiles().first());
     OnTxtKMatPathChanged();
 }
 
@@ -195,7 +195,7 @@ void ImportDialog::on_btnTextureDirBrowse_clicked()
                                           m_choices.modFolder + QLatin1Char('/') + m_choices.textureFolder);
     if (folder.isEmpty())
         return;
-    m_ui->txtTexPath->setText(folder);
+    m_ui->txtTexPath->setValue(folder);
     OnTxtTexPathChanged();
 }
 
@@ -225,7 +225,7 @@ void ImportDialog::OnTxtModelPathChanged()
     m_choices.modelPath = path;
     if (follows)
         m_choices.kmatPath = defaultKMatPath(path);
-    m_ui->txtKMatPath->setText(QDir::toNativeSeparators(m_choices.kmatPath));
+    m_ui->txtKMatPath->setValue(QDir::toNativeSeparators(m_choices.kmatPath));
 }
 
 void ImportDialog::OnTxtKMatPathChanged()
@@ -235,7 +235,7 @@ void ImportDialog::OnTxtKMatPathChanged()
         m_choices.kmatPath = defaultKMatPath(m_choices.modelPath);
     else if (typed != m_choices.kmatPath && !refusePath(typed, kmatPathProblem(typed)))
         m_choices.kmatPath = withKMatSuffix(pathInside(m_choices.modFolder, typed));
-    m_ui->txtKMatPath->setText(QDir::toNativeSeparators(m_choices.kmatPath));
+    m_ui->txtKMatPath->setValue(QDir::toNativeSeparators(m_choices.kmatPath));
 }
 
 void ImportDialog::OnTxtTexPathChanged()
@@ -243,7 +243,7 @@ void ImportDialog::OnTxtTexPathChanged()
     const QString typed = QDir::fromNativeSeparators(m_ui->txtTexPath->text());
     if (typed != m_choices.textureFolder && !refusePath(typed))
         m_choices.textureFolder = pathInside(m_choices.modFolder, typed);
-    m_ui->txtTexPath->setText(QDir::toNativeSeparators(m_choices.textureFolder));
+    m_ui->txtTexPath->setValue(QDir::toNativeSeparators(m_choices.textureFolder));
 }
 
 /// Says so and returns true when the path is not inside the mod folder, or models cannot name it.
@@ -313,7 +313,7 @@ void ImportDialog::updateImportButton()
 
 void ImportDialog::on_btnImport_clicked()
 {
-    if (NumberField::hasRefused(*this))
+    if (TypingField::returnToRefused(*this))
         return;
     const QStringList problems = outputProblems(m_choices);
     if (!problems.isEmpty()) {

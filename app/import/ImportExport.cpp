@@ -117,9 +117,10 @@ void ImportExport::on_actionImport_triggered()
 
 void ImportExport::on_actionExport_triggered()
 {
-    if (m_current == &m_staticMesh)
-        exportStaticMesh();
-    else if (m_current)
+    if (m_current == &m_staticMesh) {
+        if (!m_staticMesh.returnToTyping())
+            exportStaticMesh();
+    } else if (m_current)
         QMessageBox::information(m_window, tr("Error"), tr("No dice!"));
 }
 

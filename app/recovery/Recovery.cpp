@@ -5,6 +5,7 @@
 #include "CrashReport.h"
 #include "DocumentFiles.h"
 #include "Log.h"
+#include "TypingField.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -163,7 +164,7 @@ void Recovery::remove(const QVector<Snapshot> &snapshots)
 
 void Recovery::keepAll()
 {
-    m_files.finishTyping();
+    finishTyping();
     for (Track &track : m_tracks)
         keep(track);
     m_store.waitForDone();

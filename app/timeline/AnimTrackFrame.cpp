@@ -203,10 +203,22 @@ void AnimTrackFrame::showLabel(const QString &text)
 
 void AnimTrackFrame::playOrPause()
 {
-    PlayState &state = playback().playState;
-    if (state == PlayState::InitialPose)
+    switch (playback().playState) {
+    case PlayState::InitialPose:
         return OnAnimTrackPlayPressed();
-    state = state == PlayState::Playing ? PlayState::Paused : PlayState::Playing;
+    case PlayState::Playing:
+        return OnAnimTrackStopPressed();
+    case PlayState::Paused:
+        play(playback().time);
+    }
+}
+
+void AnimTrackFrame::play(float time)
+{
+    if (m_mayPlay()) {
+        playback().playState = PlayState::Playing;
+        playback().time = time;
+    }
     emit playbackChanged();
 }
 
@@ -230,9 +242,7 @@ void AnimTrackFrame::stepToMark(int direction)
 
 void AnimTrackFrame::OnAnimTrackPlayPressed()
 {
-    playback().playState = PlayState::Playing;
-    playback().time = 0.0f;
-    emit playbackChanged();
+    play(0.0f);
 }
 
 void AnimTrackFrame::OnAnimTrackStopPressed()

@@ -4,6 +4,7 @@
 
 #include <QFrame>
 
+#include <functional>
 #include <memory>
 
 class QAction;
@@ -36,6 +37,8 @@ public:
     void showFrame(int frame);
     void showLabel(const QString &text);
 
+    /// Asked before playing is begun or gone on with by hand, which it can forbid by false.
+    void setPlayGuard(std::function<bool()> mayPlay) { m_mayPlay = std::move(mayPlay); }
     /// Gives a panel the keys of the buttons, and those that play or pause. Its buttons and lists keep Space
     /// for themselves.
     void serve(QWidget &panel);
@@ -64,6 +67,7 @@ private slots:
 private:
     void addTrackAction(QAction *action, const QString &name, int key);
     void playOrPause();
+    void play(float time);
     void showState();
     void goTo(int frame);
     void step(int direction);
@@ -72,4 +76,5 @@ private:
 
     std::unique_ptr<Ui::AnimTrackFrame> m_ui;
     QList<QAction *> m_actions;
+    std::function<bool()> m_mayPlay = [] { return true; };
 };

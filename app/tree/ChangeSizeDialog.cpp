@@ -28,7 +28,7 @@ ChangeSizeDialog::~ChangeSizeDialog() = default;
 
 void ChangeSizeDialog::accept()
 {
-    if (!NumberField::hasRefused(*this))
+    if (!TypingField::returnToRefused(*this))
         QDialog::accept();
 }
 

@@ -8,6 +8,7 @@
 #include "RecordTable.h"
 #include "RecordTexts.h"
 #include "Shortcuts.h"
+#include "TypingField.h"
 
 #include <QAction>
 #include <QItemSelection>
@@ -138,7 +139,7 @@ void KVTreeView::refill(const QVector<RecordRef> &selected, const RecordRef &cur
                  [this](const RecordRef &record) { return isShown(record); });
     if (shown.isEmpty())
         shown = {current};
-    selectRecords(shown, shown.contains(current) ? current : shown.first());
+    setSelected(shown, shown.contains(current) ? current : shown.first());
 }
 
 void KVTreeView::letThrough(const QVector<RecordRef> &records)
@@ -250,6 +251,13 @@ RecordItem *KVTreeView::childAt(QTreeWidgetItem *item, int position)
 
 void KVTreeView::selectRecords(const QVector<RecordRef> &records, const RecordRef &current)
 {
+    // For what is selected still.
+    finishTyping();
+    setSelected(records, current);
+}
+
+void KVTreeView::setSelected(const QVector<RecordRef> &records, const RecordRef &current)
+{
     // Neighbours become one range: the selection model is slow with many.
     QItemSelection selection;
     for (const RecordRef &record : records) {
@@ -291,7 +299,7 @@ void KVTreeView::onRecordsChanged(const QVector<RecordRef> &records)
                  [&records](const RecordRef &record) { return record.kind == records.last().kind; });
     std::sort(sorted.begin(), sorted.end(), isBefore);
     letThrough(sorted);
-    selectRecords(sorted, records.last());
+    setSelected(sorted, records.last());
 }
 
 void KVTreeView::onStructuresChanged(const QVector<StructureChange> &changes)
@@ -308,7 +316,7 @@ void KVTreeView::onStructuresChanged(const QVector<StructureChange> &changes)
         const RecordRef select = changes.last().select;
         build();
         letThrough({select});
-        selectRecords({select}, select);
+        setSelected({select}, select);
         return;
     }
     // Only what stands below the owners of the changed lists is made anew.
@@ -327,7 +335,7 @@ void KVTreeView::onStructuresChanged(const QVector<StructureChange> &changes)
     for (const RecordRef &owner : qAsConst(owners))
         rebuildBelow(owner, changes);
     setUpdatesEnabled(true);
-    selectRecords({changes.last().select}, changes.last().select);
+    setSelected({changes.last().select}, changes.last().select);
 }
 
 void KVTreeView::rebuildBelow(const RecordRef &owner, const QVector<StructureChange> &changes)

@@ -37,7 +37,7 @@ public:
 
     /// The item of a record, or of the deepest of its owners that has one; null in an empty tree.
     RecordItem *findItem(const RecordRef &record) const;
-    /// Selects just these records and makes `current` the current one.
+    /// Selects just these records and makes `current` the current one. What is being typed is stored first.
     void selectRecords(const QVector<RecordRef> &records, const RecordRef &current);
 
     /// Shows only the records that match, with what stands above and below them; an empty text shows all.
@@ -72,6 +72,7 @@ private:
     bool isShown(const RecordRef &record) const;
     /// Builds the items anew, with these selected as far as they are shown.
     void refill(const QVector<RecordRef> &selected, const RecordRef &current);
+    void setSelected(const QVector<RecordRef> &records, const RecordRef &current);
     /// Shows records that the filter hides.
     void letThrough(const QVector<RecordRef> &records);
     void expandToMatches();

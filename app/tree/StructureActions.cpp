@@ -11,6 +11,7 @@
 #include "RecordTable.h"
 #include "Shortcuts.h"
 #include "SkinnedMeshCommands.h"
+#include "UndoSteps.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -176,6 +177,9 @@ StructureActions::TreeMenu StructureActions::createMenu(Document &document, KVTr
         action->setShortcuts(QKeySequence::UnknownKey);
         action->setShortcutContext(Qt::ApplicationShortcut);
     }
+    const auto own = [&document] { return &document; };
+    stepWithoutTyping(undo, *document.undoStack(), &QUndoStack::undo, own);
+    stepWithoutTyping(redo, *document.undoStack(), &QUndoStack::redo, own);
     made.menu->addActions({undo, redo});
     return made;
 }

@@ -63,7 +63,7 @@ void PictureDialog::on_btnViewSize_clicked()
 
 void PictureDialog::accept()
 {
-    if (NumberField::hasRefused(*this))
+    if (TypingField::returnToRefused(*this))
         return;
     // The view's own size is followed wherever the view goes.
     Settings::PictureSize.setValue(pictureSize() == m_viewSize ? QSize() : pictureSize());

@@ -11,22 +11,24 @@
 
 ChoiceBox::ChoiceBox(QWidget *parent)
     : QComboBox(parent)
+    , TypingField(static_cast<QWidget &>(*this))
 {
     setFocusPolicy(Qt::StrongFocus);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     connect(this, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this](int) {
         if (!m_isSearching)
-            commit();
+            commitText();
     });
 }
 
-void ChoiceBox::commit()
+bool ChoiceBox::commitText()
 {
     const int chosen = currentData().toInt();
-    if (chosen == m_value)
-        return;
-    setValue(chosen);
-    emit valueEdited(chosen);
+    if (chosen != m_value) {
+        setValue(chosen);
+        emit valueEdited(chosen);
+    }
+    return false;
 }
 
 void ChoiceBox::setNames(const QStringList &names)
@@ -49,27 +51,21 @@ void ChoiceBox::setValue(int value)
 
 bool ChoiceBox::event(QEvent *event)
 {
-    if (event->type() == QEvent::ShortcutOverride && isTyping() &&
-        static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
-        event->accept();
-        return true;
-    }
-    return QComboBox::event(event);
+    return answer(event) || QComboBox::event(event);
 }
 
 void ChoiceBox::keyPressEvent(QKeyEvent *event)
 {
+    if (giveUp(event))
+        return;
     const QString text = event->text();
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        commit();
+        commitText();
         break;
     case Qt::Key_Escape:
-        if (!isTyping())
-            break;
-        setValue(m_value);
-        return;
+        break;
     default:
         m_isSearching = !text.isEmpty() && text.at(0).isPrint() && event->key() != Qt::Key_Space;
     }
@@ -80,7 +76,7 @@ void ChoiceBox::keyPressEvent(QKeyEvent *event)
 void ChoiceBox::focusOutEvent(QFocusEvent *event)
 {
     if (event->reason() != Qt::PopupFocusReason)
-        commit();
+        commitText();
     QComboBox::focusOutEvent(event);
 }
 

@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "TypingField.h"
+
 #include <QComboBox>
 
 /// A choice of named numbers that can also show a number without a name: as the bare number, until a named
 /// one is chosen. A name that is looked for by typing its first letters is stored with Enter, or when the box
 /// is left; Escape gives it up. The wheel changes nothing unless Ctrl is held.
-class ChoiceBox : public QComboBox
+class ChoiceBox : public QComboBox, public TypingField
 {
     Q_OBJECT
 
@@ -20,6 +22,10 @@ public:
     int value() const { return m_value; }
     /// Shows a value; emits nothing.
     void setValue(int value);
+
+    bool isTyping() const override { return currentData().toInt() != m_value; }
+    bool commitText() override;
+    void discardText() override { setValue(m_value); }
 
 signals:
     /// The user has chosen another value.
@@ -35,8 +41,6 @@ protected:
 
 private:
     void fill();
-    bool isTyping() const { return currentData().toInt() != m_value; }
-    void commit();
 
     QStringList m_names;
     int m_value = 0;

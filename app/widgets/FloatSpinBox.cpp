@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <limits>
 
 namespace {
 /// The decimals of the shortest text of a number.
@@ -31,9 +32,9 @@ double roundedTo(double value, int decimals)
 } // namespace
 
 FloatSpinBox::FloatSpinBox(QWidget *parent)
-    : NumberField(parent)
+    : RangeField(parent, std::numeric_limits<float>::lowest(), std::numeric_limits<float>::max())
 {
-    showValue();
+    setValue(0.0f);
 }
 
 QString FloatSpinBox::textOf(float value)
@@ -64,13 +65,6 @@ bool FloatSpinBox::parse(const QString &text, float &value)
     return error == std::errc() && stop == end && std::isfinite(value);
 }
 
-void FloatSpinBox::setValue(float value)
-{
-    const bool isSame = value == m_value;
-    m_value = value;
-    showValue(isSame);
-}
-
 void FloatSpinBox::setDecimals(int decimals)
 {
     m_decimals = decimals;
@@ -79,15 +73,15 @@ void FloatSpinBox::setDecimals(int decimals)
 
 QString FloatSpinBox::valueText() const
 {
-    return m_decimals < 0 || !std::isfinite(m_value) ? textOf(m_value)
-                                                     : QString::number(double(m_value), 'f', m_decimals);
+    return m_decimals < 0 || !std::isfinite(value()) ? textOf(value())
+                                                     : QString::number(double(value()), 'f', m_decimals);
 }
 
 QString FloatSpinBox::widestText() const
 {
     // All digits of an ordinary value.
     return m_decimals < 0 ? QStringLiteral("-0.0012345678")
-                          : QString::number(double(m_maximum), 'f', m_decimals);
+                          : QString::number(double(maximum()), 'f', m_decimals);
 }
 
 bool FloatSpinBox::read(const QString &text, float &value) const
@@ -96,7 +90,7 @@ bool FloatSpinBox::read(const QString &text, float &value) const
         return false;
     if (m_decimals >= 0)
         value = float(roundedTo(double(value), m_decimals));
-    return value >= m_minimum && value <= m_maximum;
+    return isInRange(value);
 }
 
 QString FloatSpinBox::refusalOf(const QString &text) const
@@ -104,43 +98,16 @@ QString FloatSpinBox::refusalOf(const QString &text) const
     float value = 0.0f;
     if (read(text, value))
         return {};
-    if (m_maximum == std::numeric_limits<float>::max())
+    if (maximum() == std::numeric_limits<float>::max())
         return tr("'%1' is no number that can be stored here.").arg(text);
-    return tr("'%1' is no number from %2 to %3.").arg(text, textOf(m_minimum), textOf(m_maximum));
-}
-
-void FloatSpinBox::change(float value)
-{
-    // A NaN differs from everything, so that it can be typed away.
-    const bool isOther = value != m_value;
-    if (isOther)
-        m_value = value;
-    showValue();
-    if (isOther)
-        emit valueEdited(value);
-}
-
-void FloatSpinBox::store(const QString &text)
-{
-    float typed = 0.0f;
-    if (read(text, typed))
-        change(typed);
+    return tr("'%1' is no number from %2 to %3.").arg(text, textOf(minimum()), textOf(maximum()));
 }
 
 bool FloatSpinBox::step(int steps)
 {
     // In decimals, as a hand would: a float is seldom the number that its text says.
-    const double before = std::isfinite(m_value) ? textOf(m_value).toDouble() : double(m_value);
+    const double before = std::isfinite(value()) ? textOf(value()).toDouble() : double(value());
     const int decimals = std::isfinite(before) ? std::max(decimalsOf(before), decimalsOf(m_step)) : 0;
     const auto wanted = float(roundedTo(before + steps * m_step, decimals));
-    const float stepped = std::clamp(wanted, m_minimum, m_maximum);
-    if (!std::isfinite(wanted) || stepped == m_value)
-        return false;
-    change(stepped);
-    return true;
-}
-
-bool FloatSpinBox::canStep(int direction) const
-{
-    return std::isnan(m_value) || (direction > 0 ? m_value < m_maximum : m_value > m_minimum);
+    return std::isfinite(wanted) && change(std::clamp(wanted, minimum(), maximum()));
 }

@@ -2,29 +2,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "NumberField.h"
-
-#include <limits>
+#include "RangeField.h"
 
 /// An editor of one single-precision value that never changes what it only shows: every finite value appears
 /// as the shortest text that reads back the same, NaN and infinities appear as such and stay until a number
-/// is typed. Decimals are written with a point in every locale; a typed comma is understood.
-class FloatSpinBox : public NumberField
+/// is typed. Decimals are written with a point in every locale; a typed comma is understood. Everything that
+/// a float can hold is taken, unless set.
+class FloatSpinBox : public RangeField<float>
 {
     Q_OBJECT
 
 public:
     explicit FloatSpinBox(QWidget *parent = nullptr);
-
-    float value() const { return m_value; }
-    /// Shows a value, within the range or not; emits nothing.
-    void setValue(float value);
-
-    // What can be typed, and stepped to; everything that a float can hold, unless set.
-    float minimum() const { return m_minimum; }
-    float maximum() const { return m_maximum; }
-    void setMinimum(double minimum) { m_minimum = float(minimum); }
-    void setMaximum(double maximum) { m_maximum = float(maximum); }
 
     /// What one step of the arrows adds; ten steps with Page Up and Page Down. A result is written with as
     /// many decimals as the step or the value before has, whichever has more.
@@ -38,24 +27,17 @@ public:
     static bool parse(const QString &text, float &value);
 
 signals:
-    /// The user has entered another value, or stepped.
     void valueEdited(float value);
 
 protected:
     QString valueText() const override;
     QString widestText() const override;
     QString refusalOf(const QString &text) const override;
-    void store(const QString &text) override;
+    bool read(const QString &text, float &value) const override;
+    void tell(float value) override { emit valueEdited(value); }
     bool step(int steps) override;
-    bool canStep(int direction) const override;
 
 private:
-    bool read(const QString &text, float &value) const;
-    void change(float value);
-
-    float m_value = 0.0f;
-    float m_minimum = std::numeric_limits<float>::lowest();
-    float m_maximum = std::numeric_limits<float>::max();
     double m_step = 1.0;
     int m_decimals = -1; ///< negative: as many as it takes
 };

@@ -11,6 +11,7 @@
 
 NumberField::NumberField(QWidget *parent)
     : QAbstractSpinBox(parent)
+    , TypingField(static_cast<QWidget &>(*this))
 {
     // Not by the wheel.
     setFocusPolicy(Qt::StrongFocus);
@@ -36,7 +37,7 @@ bool NumberField::commitText()
 {
     if (isTyping()) {
         const QString text = typedText();
-        m_refusal.set(whyRefused(text));
+        refuse(text);
         if (!isRefused())
             store(text);
     }
@@ -47,19 +48,6 @@ void NumberField::discardText()
 {
     if (isTyping())
         showValue();
-}
-
-bool NumberField::hasRefused(const QWidget &fields)
-{
-    for (NumberField *field : fields.findChildren<NumberField *>()) {
-        if (!field->commitText())
-            continue;
-        field->setFocus();
-        field->selectAll();
-        field->m_refusal.tell();
-        return true;
-    }
-    return false;
 }
 
 void NumberField::setPrefix(const QString &prefix)
@@ -78,7 +66,7 @@ void NumberField::showValue(bool isSame)
 {
     if (isSame && isRefused())
         return;
-    m_refusal.set({});
+    setRefusal({});
     // Forgets the typing that led here, too: Ctrl+Z is to undo the edit, not the keys.
     lineEdit()->setText(shownText());
     // A number that does not fit shows its sign and its first digits.
@@ -87,11 +75,9 @@ void NumberField::showValue(bool isSame)
 
 void NumberField::stepBy(int steps)
 {
-    if (commitText()) {
-        m_refusal.tell();
-        return;
-    }
-    if (step(steps))
+    if (commitText())
+        tellRefusal();
+    else if (step(steps))
         selectAll();
 }
 
@@ -108,11 +94,9 @@ NumberField::StepEnabled NumberField::stepEnabled() const
     return (canStep(1) ? StepUpEnabled : StepNone) | (canStep(-1) ? StepDownEnabled : StepNone);
 }
 
-QString NumberField::whyRefused(const QString &text) const
+void NumberField::refuse(const QString &text)
 {
-    const QString refusal = refusalOf(text);
-    return refusal.isEmpty() ? QString()
-                             : tr("%1 It is not stored; Esc brings %2 back.").arg(refusal, valueText());
+    setRefusal(refusalOf(text), tr("It is not stored; Esc brings %1 back.").arg(valueText()));
 }
 
 bool NumberField::canBecomeValue(const QString &text) const
@@ -127,20 +111,15 @@ bool NumberField::canBecomeValue(const QString &text) const
 void NumberField::onTextEdited()
 {
     const QString text = typedText();
-    m_refusal.set(canBecomeValue(text) ? QString() : whyRefused(text));
+    if (canBecomeValue(text))
+        setRefusal({});
+    else
+        refuse(text);
 }
 
 bool NumberField::event(QEvent *event)
 {
-    if (m_refusal.answer(event))
-        return true;
-    // What is being typed is given up before anything else that Escape is for.
-    if (event->type() == QEvent::ShortcutOverride && isTyping() &&
-        static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
-        event->accept();
-        return true;
-    }
-    return QAbstractSpinBox::event(event);
+    return answer(event) || QAbstractSpinBox::event(event);
 }
 
 void NumberField::focusOutEvent(QFocusEvent *event)
@@ -153,26 +132,16 @@ void NumberField::focusOutEvent(QFocusEvent *event)
 
 void NumberField::keyPressEvent(QKeyEvent *event)
 {
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (commitText()) {
-            m_refusal.tell();
-        } else {
-            selectAll();
-            event->ignore(); // for the default button of a dialog
-        }
+    if (giveUp(event))
         return;
-    case Qt::Key_Escape:
-        if (!isTyping())
-            break;
-        showValue();
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        QAbstractSpinBox::keyPressEvent(event);
+    } else if (commitText()) {
+        tellRefusal();
+    } else {
         selectAll();
-        return;
-    default:
-        break;
+        event->ignore(); // for the default button of a dialog
     }
-    QAbstractSpinBox::keyPressEvent(event);
 }
 
 void NumberField::wheelEvent(QWheelEvent *event)
@@ -195,7 +164,7 @@ void NumberField::wheelEvent(QWheelEvent *event)
 void NumberField::paintEvent(QPaintEvent *event)
 {
     QAbstractSpinBox::paintEvent(event);
-    m_refusal.paint();
+    paintRefusal();
 }
 
 QSize NumberField::sizeHint() const

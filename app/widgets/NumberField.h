@@ -2,30 +2,23 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Refusal.h"
+#include "TypingField.h"
 
 #include <QAbstractSpinBox>
 
 /// What all editors of one number have in common.
 ///
-/// Every key is taken. What is typed is stored with Enter, or when the field is left; what cannot be a value
-/// then stays where it is, marked, and nothing is stored. Escape brings the value back. The wheel changes
+/// Every key is taken: one that is refused would make another number of those that are not. The wheel changes
 /// nothing unless Ctrl is held. Numbers look the same in every locale: no separators of thousands, a point
 /// before decimals.
-class NumberField : public QAbstractSpinBox
+class NumberField : public QAbstractSpinBox, public TypingField
 {
     Q_OBJECT
 
 public:
-    /// Whether what was typed cannot be a value.
-    bool isRefused() const { return m_refusal.isActive(); }
-    /// Stores what is typed. Returns true when it cannot be a value; the mark tells why.
-    bool commitText();
-    /// Shows the value again, whatever was typed.
-    void discardText();
-    /// Stores what is typed in these fields. When something cannot be a value, its field gets the keys and
-    /// tells why, and true is returned.
-    static bool hasRefused(const QWidget &fields);
+    bool isTyping() const override;
+    bool commitText() override;
+    void discardText() override;
 
     /// Shown before and behind the number; need not be typed.
     void setPrefix(const QString &prefix);
@@ -56,6 +49,7 @@ protected:
     void showValue(bool isSame = false);
 
     StepEnabled stepEnabled() const final;
+    void selectText() override { selectAll(); }
     bool event(QEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -65,12 +59,10 @@ protected:
 private:
     QString shownText() const { return m_prefix + valueText() + m_suffix; }
     QString typedText() const;
-    bool isTyping() const;
     bool canBecomeValue(const QString &text) const;
-    QString whyRefused(const QString &text) const;
+    void refuse(const QString &text);
     void onTextEdited();
 
-    Refusal m_refusal{*this};
     QString m_prefix;
     QString m_suffix;
     int m_wheel = 0; ///< turned, but not yet a step, in eighths of a degree

@@ -6,6 +6,7 @@
 
 TextField::TextField(QWidget *parent)
     : QLineEdit(parent)
+    , TypingField(static_cast<QWidget &>(*this))
 {
     connect(this, &QLineEdit::textEdited, this, &TextField::updateRefusal);
     connect(this, &QLineEdit::editingFinished, this, &TextField::commitText);
@@ -20,57 +21,49 @@ void TextField::setValue(const QString &value)
     const int cursor = hasFocus() ? cursorPosition() : 0;
     setText(value);
     setCursorPosition(cursor);
-    m_refusal.set({});
+    setRefusal({});
 }
 
 void TextField::updateRefusal()
 {
-    m_refusal.set(m_check && text() != m_value ? m_check(text()) : QString());
+    setRefusal(m_check && isTyping() ? m_check(text()) : QString(),
+               tr("It is not stored; Esc brings the old one back."));
 }
 
-void TextField::commitText()
+bool TextField::commitText()
 {
     updateRefusal();
-    if (isRefused() || text() == m_value)
-        return;
-    m_value = text();
-    emit valueEdited(m_value);
+    if (!isRefused() && isTyping()) {
+        m_value = text();
+        emit valueEdited(m_value);
+    }
+    return isRefused();
 }
 
 void TextField::discardText()
 {
-    if (text() == m_value)
+    if (!isTyping())
         return;
     setText(m_value);
-    m_refusal.set({});
+    setRefusal({});
 }
 
 bool TextField::event(QEvent *event)
 {
-    if (m_refusal.answer(event))
-        return true;
-    if (event->type() == QEvent::ShortcutOverride && text() != m_value &&
-        static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
-        event->accept();
-        return true;
-    }
-    return QLineEdit::event(event);
+    return answer(event) || QLineEdit::event(event);
 }
 
 void TextField::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Escape && text() != m_value) {
-        discardText();
-        selectAll();
+    if (giveUp(event))
         return;
-    }
     QLineEdit::keyPressEvent(event);
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        m_refusal.tell();
+        tellRefusal();
 }
 
 void TextField::paintEvent(QPaintEvent *event)
 {
     QLineEdit::paintEvent(event);
-    m_refusal.paint();
+    paintRefusal();
 }

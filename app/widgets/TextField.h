@@ -2,15 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Refusal.h"
+#include "TypingField.h"
 
 #include <QLineEdit>
 
 #include <functional>
 
-/// An editor of one text. What is typed is stored with Enter, or when the field is left; what cannot be
-/// stored then stays where it is, marked. Escape brings the stored text back.
-class TextField : public QLineEdit
+/// An editor of one text.
+class TextField : public QLineEdit, public TypingField
 {
     Q_OBJECT
 
@@ -24,10 +23,9 @@ public:
     /// Shows a text; emits nothing. What stands there refused is kept while the stored text is the same.
     void setValue(const QString &value);
 
-    bool isRefused() const { return m_refusal.isActive(); }
-    void commitText();
-    /// Shows the stored text again, whatever was typed.
-    void discardText();
+    bool isTyping() const override { return text() != m_value; }
+    bool commitText() override;
+    void discardText() override;
 
 signals:
     /// The user has entered another text.
@@ -37,11 +35,11 @@ protected:
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void selectText() override { selectAll(); }
 
 private:
     void updateRefusal();
 
     std::function<QString(const QString &)> m_check;
-    Refusal m_refusal{*this};
     QString m_value;
 };

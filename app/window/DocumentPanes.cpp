@@ -69,6 +69,12 @@ void DocumentPanes::connectPane(const DocumentPane &pane)
     connect(pane.tree, &KVTreeView::currentRecordChanged, this,
             [this, type](const RecordRef &record) { showInViewport(type, record); });
     connect(pane.tree, &KVTreeView::told, this, &DocumentPanes::told);
+    connect(pane.pages, &PageStack::told, this, &DocumentPanes::told);
+    pane.document->setEditors(pane.pages);
+    connect(pane.document, &Document::typingRefused, this, [this, type](const QString &refusal) {
+        showPane(type);
+        emit told(refusal);
+    });
 }
 
 void DocumentPanes::OnOptionsAccepted()
@@ -89,6 +95,7 @@ void DocumentPanes::connectPlayback()
         showPane(DocumentType::Anim);
         pane(DocumentType::Anim).tree->selectRecords({record}, record);
     });
+    track->setPlayGuard([this] { return !m_anim.returnToTyping() && !m_skinnedMesh.returnToTyping(); });
     track->openAnimation(nullptr);
 }
 

@@ -75,7 +75,7 @@ MainWindow::MainWindow(QWidget *parent)
     m_ui->statusBar->insertPermanentWidget(0, m_title);
     new ViewMenu(*m_ui, *m_panes, m_pictures->action(), this);
     readSettings();
-    addUndoActions(m_undoGroup, *m_ui->menuEdit, *m_ui->toolBarEdit);
+    addUndoActions(m_undoGroup, *m_files, *m_ui->menuEdit, *m_ui->toolBarEdit);
     new StructureActions({m_skinnedMesh, m_ui->treeSkinnedMesh}, {m_anim, m_ui->treeAnim},
                          {m_staticMesh, m_ui->treeStaticMesh}, this);
     new QuestionMenu(this);
@@ -190,7 +190,7 @@ void MainWindow::createDocks()
             &AnimTrackFrame::updateRange);
     connect(m_ui->tabDatabase, &DatabaseTab::namesChanged, m_ui->pagesAnim, &PageStack::refresh);
     m_ui->dockServers->setQueryAction(m_ui->actionQueryServers);
-    showHistory(*m_ui->viewHistory, m_undoGroup, m_ui->actionSave->icon());
+    showHistory(*m_ui->viewHistory, m_undoGroup, *m_files, m_ui->actionSave->icon());
 }
 
 void MainWindow::createPrompts()
@@ -252,6 +252,8 @@ void MainWindow::paintEvent(QPaintEvent *event)
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
+    if (!m_files->settleTyping())
+        return event->ignore();
     m_layout->store();
     QMainWindow::closeEvent(event);
 }

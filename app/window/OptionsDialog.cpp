@@ -61,10 +61,8 @@ void OptionsDialog::on_buttonBox_accepted()
         m_ui->tabOptions->setCurrentWidget(m_shortcuts);
         return;
     }
-    if (NumberField::hasRefused(*this)) {
-        m_ui->tabOptions->setCurrentWidget(m_ui->pageGeneral);
+    if (TypingField::returnToRefused(*this))
         return;
-    }
     // A text set by the program finishes no edit.
     OnTxtGamePathChanged();
     OnTxtT2DirChanged();

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "UndoActions.h"
 
+#include "DocumentFiles.h"
 #include "Icons.h"
-#include "Typing.h"
+#include "UndoSteps.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -11,28 +12,17 @@
 #include <QToolBar>
 #include <QUndoGroup>
 
-namespace {
-/// What is being typed becomes an edit first: a tool button leaves it in its field, where it would be lost.
-void finishTypingBefore(QAction *action, QUndoGroup &group, void (QUndoGroup::*step)())
-{
-    action->disconnect(&group);
-    QObject::connect(action, &QAction::triggered, &group, [&group, step] {
-        finishTyping();
-        (group.*step)();
-    });
-}
-} // namespace
-
-void addUndoActions(QUndoGroup &group, QMenu &menu, QToolBar &toolBar)
+void addUndoActions(QUndoGroup &group, const DocumentFiles &files, QMenu &menu, QToolBar &toolBar)
 {
     QObject *window = toolBar.window();
     QAction *undo = group.createUndoAction(window, QCoreApplication::translate("UndoActions", "&Undo"));
-    finishTypingBefore(undo, group, &QUndoGroup::undo);
+    const auto current = [&files] { return files.current(); };
+    stepWithoutTyping(undo, group, &QUndoGroup::undo, current);
     undo->setObjectName(QStringLiteral("actionUndo"));
     undo->setIcon(namedIcon(QStringLiteral("undo")));
     undo->setShortcut(QKeySequence::Undo);
     QAction *redo = group.createRedoAction(window, QCoreApplication::translate("UndoActions", "&Redo"));
-    finishTypingBefore(redo, group, &QUndoGroup::redo);
+    stepWithoutTyping(redo, group, &QUndoGroup::redo, current);
     redo->setObjectName(QStringLiteral("actionRedo"));
     redo->setIcon(fileIcon(QStringLiteral(":Images/Icons/redo.png")));
     redo->setShortcuts(

@@ -123,6 +123,7 @@ void PageStack::addPage(PropertyPage *page)
     page->setAttribute(Qt::WA_Resized);
     scroll->setWidget(page);
     m_pages->addWidget(scroll);
+    connect(page, &PropertyPage::told, this, &PageStack::told);
 }
 
 PropertyPage *PageStack::page(int index) const
@@ -161,10 +162,18 @@ void PageStack::showRecord(const RecordRef &record)
         const QString count = selectedText(record.kind, selected.size());
         m_count->setText(page->showsDifferences() ? tr("%1; values in italics differ").arg(count) : count);
         m_count->setVisible(!count.isEmpty());
-        m_pages->setCurrentIndex(i);
+        showPage(i);
         return;
     }
     m_title->clear();
     m_count->hide();
-    m_pages->setCurrentIndex(0);
+    showPage(0);
+}
+
+void PageStack::showPage(int index)
+{
+    const int before = m_pages->currentIndex();
+    if (before > 0 && before != index)
+        page(before)->leave();
+    m_pages->setCurrentIndex(index);
 }

@@ -29,6 +29,10 @@ public:
     /// Wide enough that no page has to be scrolled sideways.
     QSize minimumSizeHint() const override;
 
+signals:
+    /// Something for the status bar.
+    void told(const QString &text);
+
 protected:
     void changeEvent(QEvent *event) override;
 
@@ -36,6 +40,7 @@ private:
     /// One of the pages behind the empty one.
     PropertyPage *page(int index) const;
     void showRecord(const RecordRef &record);
+    void showPage(int index);
 
     KVTreeView *m_tree = nullptr;
     QLabel *m_title;

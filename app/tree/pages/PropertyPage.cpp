@@ -24,9 +24,8 @@ QString PropertyPage::title() const
 
 void PropertyPage::showRecord(const RecordIndex &index, const QVector<RecordIndex> &selected)
 {
-    // What was typed for another record goes.
     if (index != m_index)
-        discardTyping();
+        leave();
     m_index = index;
     m_showsDifferences = false;
     for (const Binding &binding : qAsConst(m_bindings)) {
@@ -36,12 +35,16 @@ void PropertyPage::showRecord(const RecordIndex &index, const QVector<RecordInde
     recordShown();
 }
 
-void PropertyPage::discardTyping()
+void PropertyPage::leave()
 {
-    for (NumberField *editor : findChildren<NumberField *>())
-        editor->discardText();
-    for (TextField *editor : findChildren<TextField *>())
-        editor->discardText();
+    QStringList refusals;
+    for (TypingField *field : TypingField::in(*this)) {
+        if (field->isRefused())
+            refusals.append(field->refusal());
+        field->discardText();
+    }
+    if (!refusals.isEmpty())
+        emit told(tr("Not stored. %1").arg(refusals.join(QLatin1Char(' '))));
 }
 
 void PropertyPage::addBinding(Binding binding)
@@ -67,10 +70,9 @@ void PropertyPage::setUpMaterialEditor(TextField *editor)
     editor->setCheck([](const QString &text) {
         const auto *other = std::find_if(text.begin(), text.end(),
                                          [](QChar c) { return c.unicode() < 1 || c.unicode() > 0xff; });
-        return other == text.end() ? QString()
-                                   : tr("The file format cannot hold '%1': only characters of Latin-1. "
-                                        "The path is not stored; Esc brings the old one back.")
-                                         .arg(*other);
+        return other == text.end()
+                   ? QString()
+                   : tr("The file format cannot hold '%1': only characters of Latin-1.").arg(*other);
     });
 }
 

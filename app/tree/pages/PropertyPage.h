@@ -35,6 +35,13 @@ public:
     /// "Bone 3 Properties".
     QString title() const;
 
+    /// Gives up what is typed and not stored, and tells what it was: another record is shown next, or none.
+    void leave();
+
+signals:
+    /// Something for the status bar.
+    void told(const QString &text);
+
 protected:
     /// Prepares an editor of a material path: files hold Latin-1, so nothing else is stored.
     static void setUpMaterialEditor(TextField *editor);
@@ -43,9 +50,6 @@ protected:
     virtual void recordShown() {}
 
     bool eventFilter(QObject *watched, QEvent *event) override;
-
-    /// Forgets what stands in editors and is not stored.
-    void discardTyping();
 
     struct Binding
     {
@@ -80,8 +84,8 @@ public:
         , m_tree(tree)
     {
         // The same indexes may name another record afterwards.
-        connect(&document, &Document::aboutToBeReplaced, this, &RecordPage::discardTyping);
-        connect(&document, &Document::structuresChanged, this, &RecordPage::discardTyping);
+        connect(&document, &Document::aboutToBeReplaced, this, &RecordPage::leave);
+        connect(&document, &Document::structuresChanged, this, &RecordPage::leave);
     }
 
 protected:

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Hand.h"
 #include "OneRun.h"
+#include "Playback.h"
 #include "SampleModels.h"
 
 namespace {
@@ -26,7 +27,8 @@ private slots:
     {
         QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         m_files.emplace();
-        QDir().mkpath(m_files->path("mod"));
+        for (const char *folder : {"game", "mod"})
+            QDir().mkpath(m_files->path(folder));
         Settings::GamePath.setValue(m_files->path("game"));
         Settings::OutputDir.setValue(m_files->path("mod"));
     }
@@ -199,6 +201,78 @@ private slots:
         QVERIFY(!asked(DocumentType::Anim));
         run.anim.changedDirectly({});
         QVERIFY(!run.anim.isModified() && asked(DocumentType::Anim));
+    }
+
+    void whatIsRefusedIsNotPassedOver()
+    {
+        const QString path = m_files->save("mod/man.skinnedmesh", triangleMan());
+        const QString other = m_files->save("mod/other.skinnedmesh", triangleMan());
+        ShownWindow window({path, m_files->save("mod/man.anim", twoBlocks())});
+        const QByteArray before = TestSupport::readFile(path);
+        typeParent(window, 0);
+        auto *field = find<IntSpinBox>(window, "sbNodeParentNode");
+        auto *tree = find<KVTreeView>(window, "treeSkinnedMesh");
+        auto *tabs = find<QTabWidget>(window, "tabWidget");
+        auto *trees = find<QTabWidget>(window, "tabTrees");
+        const QString why = "Parent Bone: '300' is no whole number from 0 to 255.";
+        field->selectAll();
+        QTest::keyClicks(field, "300");
+        auto *undo = find<QAction>(window, "actionUndo");
+        const auto press = [&window](Qt::Key key, Qt::KeyboardModifiers keys = Qt::ControlModifier) {
+            QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : &window, key, keys);
+        };
+        const QVector<std::function<void()>> ways{
+            [&] { press(Qt::Key_S); },
+            [&] { press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier); },
+            [&] { find<QAction>(window, "actionSaveToMod")->trigger(); },
+            [&] {
+                tabs->setCurrentIndex(1);
+                find<QAction>(window, "actionSaveAll")->trigger();
+            },
+            [&] {
+                QTest::mouseClick(find<QToolBar>(window, "toolBarEdit")->widgetForAction(undo),
+                                  Qt::LeftButton);
+            },
+            [&] {
+                tree->setFocus();
+                press(Qt::Key_Z);
+            },
+            [&] {
+                find<QUndoView>(window, "viewHistory")
+                    ->setCurrentIndex(find<QUndoView>(window, "viewHistory")->model()->index(0, 0));
+            },
+            [&] {
+                trees->setCurrentIndex(1);
+                find<QWidget>(window, "viewSkinned")->setFocus();
+                playback().playState = PlayState::Paused;
+                press(Qt::Key_Space, Qt::NoModifier);
+            },
+        };
+        for (const auto &way : ways) {
+            window.statusBar()->clearMessage();
+            Hand hand({});
+            way();
+            QCOMPARE(hand.seen, QStringList());
+            QTRY_COMPARE(window.statusBar()->currentMessage(), why);
+            QVERIFY(field->hasFocus() && tabs->currentIndex() == 0 && trees->currentIndex() == 0);
+            QVERIFY(field->isRefused() && undo->isEnabled());
+            QVERIFY(TestSupport::readFile(path) == before);
+        }
+        QCOMPARE(playback().playState, PlayState::Paused);
+
+        // Where the document would go, there is a choice.
+        const auto asked = [&](QMessageBox::StandardButton answer, const std::function<void()> &leave) {
+            Hand hand({Hand::press(answer)});
+            leave();
+            return hand.seen;
+        };
+        const QStringList question{"Not stored|" + why + "\n\nGo on without it?"};
+        QCOMPARE(asked(QMessageBox::No, [&] { window.close(); }), question);
+        QVERIFY(window.isVisible() && field->hasFocus() && field->isRefused());
+        QCOMPARE(asked(QMessageBox::No, [&] { window.openFiles({other}); }), question);
+        QVERIFY(window.windowTitle().contains("man.skinnedmesh"));
+        QCOMPARE(asked(QMessageBox::Yes, [&] { window.close(); }), question);
+        QVERIFY(!window.isVisible() && !field->isRefused());
     }
 
 private:

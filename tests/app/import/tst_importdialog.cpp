@@ -119,6 +119,19 @@ private slots:
             QVERIFY(hand.seen.value(0).contains(QString::fromUtf8("'materials/кот.kmat': it holds")));
             QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), before);
         }
+        // Escape gives up what is typed before it closes the dialog.
+        for (const char *edit : {"txtModelPath", "txtT2Dir", "txtKMatPath", "txtTexPath"}) {
+            auto *line = find<QLineEdit>(dialog, edit);
+            const QString before = line->text();
+            line->setFocus();
+            QTest::keyClicks(line, QStringLiteral("zz"));
+            QVERIFY(line->text() != before);
+            QTest::keyClick(line, Qt::Key_Escape);
+            QVERIFY(dialog.isVisible() && line->text() == before);
+        }
+        QTest::keyClick(find<QLineEdit>(dialog, "txtTexPath"), Qt::Key_Escape);
+        QVERIFY(!dialog.isVisible());
+        dialog.show();
         QStringList proposed;
         for (const char *model : {"Größe",
                                   "Gro\xcc\x88\xc3\x9f"

@@ -71,11 +71,30 @@ private slots:
         auto *parent = pane.child<IntSpinBox>("sbNodeParentNode");
         type(parent, QStringLiteral("300"));
         QCOMPARE(pane.undo().count(), 0);
-        // An edit of another field leaves it where it is; another record does not.
+        // An edit of another field leaves it where it is; another record does not, and says so.
         type(pane.child<QWidget>("sbNodeDamageScale"), QStringLiteral("0.25"));
         QVERIFY(shownText(parent) == QLatin1String("300") && parent->isRefused());
+        QSignalSpy told(&pane.stack, &PageStack::told);
         pane.select({{RecordKind::Bone, {2}}});
         QVERIFY(!parent->isRefused());
+        QCOMPARE(told.takeFirst().first().toString(),
+                 QString("Not stored. Parent Bone: '300' is no whole number from 0 to 255."));
+        // What can be one is stored for the record that it was typed for.
+        QApplication::setActiveWindow(&pane.stack);
+        for (const RecordRef &next : {RecordRef{RecordKind::Bone, {3}}, {RecordKind::SkinnedSurface, {0}}}) {
+            const int bone = pane.tree.currentRecord().index[0];
+            parent->setFocus();
+            parent->selectAll();
+            QTest::keyClicks(parent, QStringLiteral("17"));
+            pane.select({next});
+            QCOMPARE(pane.tree.currentRecord(), next);
+            QCOMPARE(int(pane.document.model().nodes[size_t(bone)].parentNode), 17);
+        }
+        // A page of another kind forgets it as well.
+        pane.select({{RecordKind::Bone, {1}}});
+        type(parent, QStringLiteral("300"));
+        pane.select({{RecordKind::SkinnedMesh, {}}});
+        QVERIFY(!parent->isRefused() && told.size() == 1);
 
         pane.select({{RecordKind::SkinnedSurface, {0}}});
         auto *path = pane.child<TextField>("txtSurfaceMaterial");
@@ -84,7 +103,7 @@ private slots:
         QTest::sendKeyEvent(QTest::Click, path, Qt::Key_unknown, QString(QChar(0x442)), Qt::NoModifier);
         QTest::keyClick(path, Qt::Key_Return);
         QVERIFY(path->isRefused() && path->text().endsWith(QChar(0x442)));
-        QCOMPARE(pane.undo().count(), 1);
+        QCOMPARE(pane.undo().count(), 3);
         QTest::keyClick(path, Qt::Key_Escape);
         QVERIFY(!path->isRefused() && path->text() == before);
     }

@@ -1600,14 +1600,17 @@ Ohne diese Eingabe fortfahren?</translation>
     </message>
 </context>
 <context>
+    <name>FilterEdit</name>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+</context>
+<context>
     <name>FilterLine</name>
     <message>
         <source>Filter, such as %1</source>
         <translation>Filter, etwa %1</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filter</translation>
     </message>
     <message>
         <source>Show only the records whose text has these words, and numbers or ranges of them</source>
@@ -1723,9 +1726,6 @@ Ohne diese Eingabe fortfahren?</translation>
         <source>No file matches</source>
         <translation>Keine Datei passt</translation>
     </message>
-</context>
-<context>
-    <name>FolderFilter</name>
     <message>
         <source>Filter</source>
         <translation>Filter</translation>

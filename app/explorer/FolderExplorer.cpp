@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "FolderExplorer.h"
 
-#include "FolderFilter.h"
+#include "FilterEdit.h"
 #include "FolderMenu.h"
 #include "FolderSource.h"
 #include "FolderTree.h"
@@ -42,7 +42,9 @@ FolderExplorer::FolderExplorer(const DocumentKind &kind, QWidget *parent)
     , m_names{prefixOf(kind.type)}
     , m_tree(new FolderTree(iconsOf(kind.type)))
     , m_toolBar(new QToolBar)
-    , m_filter(new FolderFilter(*m_tree))
+    , m_filter(new FilterEdit(
+          tr("Filter"),
+          tr("Show only the files that have these words in their name or in their folders' names")))
     , m_reading(new ReadingSign)
     , m_pages(new QStackedLayout)
     , m_emptyPage(new QFrame)
@@ -84,11 +86,28 @@ FolderExplorer::FolderExplorer(const DocumentKind &kind, QWidget *parent)
     connect(m_tree, &FolderTree::filled, this, &FolderExplorer::OnFilled);
     connect(m_tree, &FolderTree::filterChanged, this, &FolderExplorer::showShownRows);
     connect(m_menu, &FolderMenu::fileChosen, this, &FolderExplorer::fileChosen);
-    connect(m_filter, &FolderFilter::fileChosen, this, &FolderExplorer::fileChosen);
+    connect(m_filter, &FilterEdit::filtered, m_tree, &FolderTree::setFilter);
+    connect(m_filter, &FilterEdit::left, m_tree, qOverload<>(&QWidget::setFocus));
+    connect(m_filter, &FilterEdit::entered, this, &FolderExplorer::goToFirst);
     connect(m_switch, &FolderSwitch::folderChosen, this, &FolderExplorer::setFolder);
     connect(m_reading, &ReadingSign::stopped, this, &FolderExplorer::OnReadingStopped);
     m_tree->showEmptyFolders(Settings::ExplorerEmptyFolders.value());
     refill();
+}
+
+/// Of the files that the filter has left.
+void FolderExplorer::goToFirst(bool opens)
+{
+    FolderItem *first = m_tree->firstShownFile();
+    if (!first)
+        return;
+    m_tree->setFocus();
+    if (opens) {
+        m_tree->selectFile(first->path());
+        emit fileChosen(first->path());
+    } else {
+        m_tree->setCurrentItem(first);
+    }
 }
 
 void FolderExplorer::createActions()

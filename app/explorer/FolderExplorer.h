@@ -8,7 +8,7 @@
 
 #include <QWidget>
 
-class FolderFilter;
+class FilterEdit;
 class FolderMenu;
 class FolderSwitch;
 class FolderTree;
@@ -93,6 +93,7 @@ private:
     void showPage(const QString &emptyText);
     /// The list, or why it would be blank.
     void showShownRows();
+    void goToFirst(bool opens);
 
     const DocumentKind &m_kind;
     const FolderNames m_names;
@@ -103,7 +104,7 @@ private:
     QAction *m_refresh;
     QAction *m_quickSelect;
     FolderSwitch *m_switch;
-    FolderFilter *m_filter;
+    FilterEdit *m_filter;
     ReadingSign *m_reading;
     FolderMenu *m_menu;
     bool m_isStopped = false; ///< the folder was not read to its end

@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QLineEdit>
+#include "FilterEdit.h"
 
 class KVTreeView;
 class QAction;
 
-/// The line above a structure tree that says which of its records are shown. Escape shows all of them again
-/// and goes back to the tree, Return and the arrow keys go to the tree.
-class FilterLine : public QLineEdit
+/// The line above a structure tree that says which of its records are shown.
+class FilterLine : public FilterEdit
 {
     Q_OBJECT
 
@@ -21,11 +20,4 @@ public:
 
 private slots:
     void on_actionFilter_triggered();
-
-protected:
-    void focusInEvent(QFocusEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
-
-private:
-    KVTreeView &m_tree;
 };

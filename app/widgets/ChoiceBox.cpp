@@ -82,14 +82,8 @@ void ChoiceBox::focusOutEvent(QFocusEvent *event)
 
 void ChoiceBox::wheelEvent(QWheelEvent *event)
 {
-    // Scrolling past the box must not change the file.
-    if (!(event->modifiers() & Qt::ControlModifier)) {
-        event->ignore();
-        return;
-    }
-    // What is typed in another field is stored first.
-    setFocus(Qt::MouseFocusReason);
-    QComboBox::wheelEvent(event);
+    if (isMeant(event))
+        QComboBox::wheelEvent(event);
 }
 
 void ChoiceBox::paintEvent(QPaintEvent *)

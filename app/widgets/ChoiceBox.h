@@ -8,7 +8,7 @@
 
 /// A choice of named numbers that can also show a number without a name: as the bare number, until a named
 /// one is chosen. A name that is looked for by typing its first letters is stored with Enter, or when the box
-/// is left; Escape gives it up. The wheel changes nothing unless Ctrl is held.
+/// is left; Escape gives it up.
 class ChoiceBox : public QComboBox, public TypingField
 {
     Q_OBJECT

@@ -146,14 +146,8 @@ void NumberField::keyPressEvent(QKeyEvent *event)
 
 void NumberField::wheelEvent(QWheelEvent *event)
 {
-    // Scrolling past a field must not change the file.
-    if (!(event->modifiers() & Qt::ControlModifier)) {
-        event->ignore();
+    if (!isMeant(event))
         return;
-    }
-    event->accept();
-    // What is typed in another field is stored first.
-    setFocus(Qt::MouseFocusReason);
     m_wheel += event->angleDelta().y();
     const int steps = m_wheel / QWheelEvent::DefaultDeltasPerStep;
     m_wheel %= QWheelEvent::DefaultDeltasPerStep;

@@ -8,9 +8,8 @@
 
 /// What all editors of one number have in common.
 ///
-/// Every key is taken: one that is refused would make another number of those that are not. The wheel changes
-/// nothing unless Ctrl is held. Numbers look the same in every locale: no separators of thousands, a point
-/// before decimals.
+/// Every key is taken: one that is refused would make another number of those that are not. Numbers look the
+/// same in every locale: no separators of thousands, a point before decimals.
 class NumberField : public QAbstractSpinBox, public TypingField
 {
     Q_OBJECT

@@ -12,6 +12,7 @@
 #include <QScrollArea>
 #include <QTabWidget>
 #include <QToolTip>
+#include <QWheelEvent>
 
 namespace {
 /// What a form calls a field.
@@ -125,6 +126,15 @@ bool TypingField::giveUp(const QKeyEvent *event)
     discardText();
     selectText();
     return true;
+}
+
+bool TypingField::isMeant(QWheelEvent *event)
+{
+    event->setAccepted(event->modifiers() & Qt::ControlModifier);
+    // What is typed in another field is stored first.
+    if (event->isAccepted())
+        m_field.setFocus(Qt::MouseFocusReason);
+    return event->isAccepted();
 }
 
 void finishTyping()

@@ -6,10 +6,12 @@
 #include <QWidget>
 
 class QKeyEvent;
+class QWheelEvent;
 
 /// What all fields have in common in which something is typed before it is stored: with Enter, or when the
 /// field is left. Escape gives the typing up, before it does anything else. What cannot be stored stays where
-/// it is, marked: a frame around the field, a tool tip, and words for screen readers.
+/// it is, marked: a frame around the field, a tool tip, and words for screen readers. The wheel changes
+/// nothing unless Ctrl is held: who scrolls past a field changes no file.
 class TypingField
 {
 public:
@@ -53,6 +55,8 @@ protected:
     bool answer(QEvent *event) const;
     /// Gives up the typing, if there is any and the key is Escape: for its keyPressEvent().
     bool giveUp(const QKeyEvent *event);
+    /// Whether the wheel is meant for the field, which has the keys then: for its wheelEvent().
+    bool isMeant(QWheelEvent *event);
 
 private:
     QString tip() const { return m_reason + QLatin1Char(' ') + m_wayOut; }

@@ -1,0 +1,223 @@
+# SPDX-FileCopyrightText: The Korvane developers
+# SPDX-License-Identifier: MIT
+"""Judges imports and exports by Blender; `./dev judge` calls it, docs/judge.md tells of it.
+
+    judge.py BUILD SHARED OUT [rigs] [exports] [trips] [broken] [pictures]
+"""
+import json
+import os
+import shutil
+import subprocess
+import sys
+import time
+from concurrent.futures import ThreadPoolExecutor
+from pathlib import Path
+
+import models
+from compare import compare
+from poses import Poses
+
+HERE = Path(__file__).resolve().parent
+
+# Name, file, whether Blender reads it. The others are judged by the textbook pose of what the library reads.
+RIGS = [
+    ("fox", "gltf_fox/Fox.gltf", True),
+    ("knight", "glb_knight/Knight.glb", True),
+    ("robot", "fbx_bin_robot/Robot.fbx", True),
+    ("kenney", "glb_kenney_character/character.glb", True),
+    ("figure", "dae_riggedfigure/RiggedFigure.dae", True),
+    ("wuson", "x_wuson/Testwuson.X", False),
+    ("sausage", "fbx_ascii_sausage/maya_game_sausage_7500_ascii_combined.fbx", False),
+    ("man", "mdl_hl1_man/man.mdl", False),
+    ("ase", "ase_anim2/anim2.ASE", False),
+    ("bvh", "bvh_212bones/benchmark.bvh", False),
+]
+CHARACTERS = ["game fox", "game knight", "game trex", "mod mannequin"]
+STATICS = ["game avocado", "game barrel", "game boombox", "game chair", "game house", "mod tree"]
+TIME_LIMIT = 120  # seconds for a broken file
+
+
+class Judge:
+    def __init__(self, build, shared, out):
+        self.build, self.shared, self.out = Path(build), Path(shared), Path(out)
+        self.tool = self.build / "app/korvane-tool"
+        self.poses = self.build / "tools/judge-poses"
+        self.failed = False
+        self.out.mkdir(parents=True, exist_ok=True)
+        # A settings home of its own, and no screen.
+        for kind in ("CONFIG", "DATA", "CACHE"):
+            os.environ[f"XDG_{kind}_HOME"] = str(self.out / "home" / kind.lower())
+
+    # --- What is called ------------------------------------------------------------------------------------
+
+    def call(self, *command, limit=1800):
+        done = subprocess.run([str(word) for word in command], capture_output=True, text=True, errors="replace",
+                              stdin=subprocess.DEVNULL, timeout=limit)
+        if done.returncode != 0:
+            raise Failure(f"{' '.join(map(str, command))}\n{done.stdout[-2000:]}{done.stderr[-2000:]}")
+        return done.stdout
+
+    def blender(self, script, *arguments):
+        # Blender ends well when a script does not.
+        said = self.call("blender", "-b", "--factory-startup", "--python-exit-code", "1", "--python",
+                         HERE / f"{script}.py", "--", *arguments)
+        for line in said.splitlines():
+            if line.startswith("judge: "):
+                print(line)
+
+    def verdict(self, good):
+        self.failed = self.failed or not good
+        return "good" if good else "BAD"
+
+    # --- Imports of rigs -----------------------------------------------------------------------------------
+
+    def import_ready(self, name, source, *options):
+        folder = self.fresh_mod(f"rigs/{name}")
+        self.call(self.tool, "import", "--ready", "--scale", "auto", "--force", "--create-kmat", "--copy-textures",
+                  "--mod-path", folder, "-o", folder, *options, source)
+        return folder, folder / Path(source).stem
+
+    def rigs(self):
+        rows = [("rig", "judge", "vertices", "bones", "clips", "frames", "mean %", "max %", "solid max %",
+                 "own max %", ".anim kB", "check", "verdict")]
+        clips = {}
+
+        def judged(rig):
+            name, file, readable = rig
+            source = self.shared / "models" / file
+            try:
+                folder, base = self.import_ready(name, source)
+                ours = self.out / f"{name}.ours"
+                self.call(self.poses, "model", f"{base}.skinnedmesh", f"{base}.anim", ours)
+                scene = self.out / f"{name}.scene"
+                self.call(self.poses, "scene", source, scene, ours)
+                alone = self.out / f"{name}.onebone"
+                self.call(self.poses, "onebone", source, alone, ours)
+                found = compare(Poses(scene), Poses(ours))
+                found["alone"] = compare(Poses(alone), Poses(ours), found["scale"])["max"]
+                found["judge"] = "textbook"
+                if readable:
+                    blender = self.out / f"{name}.blender"
+                    self.blender("blender_poses", source, blender, scene)
+                    found = {**compare(Poses(blender), Poses(ours)), "alone": found["alone"], "judge": "Blender"}
+                return name, base, found, self.findings(folder)
+            except (Failure, subprocess.TimeoutExpired) as failure:
+                return name, None, str(failure), None
+
+        with ThreadPoolExecutor(os.cpu_count()) as threads:
+            for name, base, found, findings in threads.map(judged, RIGS):
+                if not base:
+                    print(found)
+                    rows.append((name, *["-"] * 11, self.verdict(False)))
+                    continue
+                mesh = models.skinned_mesh(f"{base}.skinnedmesh")
+                good = (found["mean"] <= 0.2 and found["max"] <= 3.5 and found["alone"] <= 0.01
+                        and found["offset"] <= 3.5 and found["uv"] <= 1e-3 and found["lost"] == 0 and findings == "none")
+                rows.append((name, found["judge"], found["vertices"], len(mesh.bones), found["clips"], found["frames"],
+                             f"{found['mean']:.4f}", f"{found['max']:.3f}", f"{found['solidMax']:.4f}",
+                             f"{found['alone']:.4f}", f"{os.path.getsize(f'{base}.anim') / 1000:.1f}", findings,
+                             self.verdict(good)))
+                clips[name] = found
+        table("Imports ready for the game", rows)
+        (self.out / "rigs.json").write_text(json.dumps(clips, indent=1))
+
+    def findings(self, folder, mod=None):
+        """What the check finds in an import, "none" when nothing."""
+        done = subprocess.run([str(self.tool), "check", "--json", "--game-path", str(mod or folder), "--mod-path", str(mod or folder),
+                               str(folder)], capture_output=True, text=True)
+        rules = {}
+        for file in json.loads(done.stdout):
+            for finding in file["findings"]:
+                rule = f"{finding['severity']} {finding['rule']}"
+                rules[rule] = rules.get(rule, 0) + max(finding.get("notListed", 0), 1)
+        return ", ".join(f"{count} {rule}" for rule, count in rules.items()) or "none"
+
+    # --- Broken files --------------------------------------------------------------------------------------
+
+    def broken(self):
+        rows = [("file", "as stored", "ready", "verdict")]
+        kinds = ("as stored", "ready")
+        with open(self.shared / "models/index.tsv", encoding="utf-8") as index:
+            head = index.readline().rstrip("\n").split("\t")
+            listed = [dict(zip(head, line.rstrip("\n").split("\t"))) for line in index]
+        files = [entry[head[0]] for entry in listed if "nasty" in entry.values()]
+        messages = []
+
+        def tried(file):
+            return [self.tried(file, kind == "ready") for kind in kinds]
+
+        with ThreadPoolExecutor(os.cpu_count()) as threads:
+            for file, results in zip(files, threads.map(tried, files)):
+                good = True
+                cells = []
+                for kind, (code, seconds, said, made, left) in zip(kinds, results):
+                    cells.append(f"{'made' if made else 'refused'} {seconds:.1f} s")
+                    # Either there is a model that reads, or a message that names the file, and nothing is left.
+                    # Beside a model, exit code 1 says that something of it could not be copied.
+                    fine = code in (0, 1) and (made or code == 1 and not left and Path(file).name in said)
+                    good = good and fine
+                    messages.append(f"{file}, {kind}: exit {code}{'' if fine else '  <-- BAD'}\n" +
+                                    "".join(f"    {line}\n" for line in said.splitlines()))
+                rows.append((file, *cells, self.verdict(good)))
+        table("Broken files", rows)
+        (self.out / "broken.txt").write_text("".join(messages))
+
+    def tried(self, file, ready):
+        folder = self.fresh(f"broken/{'ready' if ready else 'stored'}/{file.replace('/', '_')}")
+        mod = self.fresh_mod(f"{folder.relative_to(self.out)}.mod")
+        start = time.monotonic()
+        try:
+            done = subprocess.run([self.tool, "import", *(["--ready"] if ready else []), "--create-kmat", "--copy-textures",
+                                   "--mod-path", mod, "-o", folder, self.shared / "models" / file],
+                                  capture_output=True, text=True, errors="replace", timeout=TIME_LIMIT)
+            code, said = done.returncode, done.stdout + done.stderr
+        except subprocess.TimeoutExpired:
+            code, said = 124, "hangs"
+        seconds = time.monotonic() - start
+        meshes = list(folder.glob("*.skinnedmesh"))
+        made = bool(meshes) and subprocess.run([self.tool, "info", *meshes], capture_output=True).returncode == 0
+        if made and ready:
+            errors = [finding for finding in self.findings(folder, mod).split(", ") if " error " in finding]
+            said += "".join(f"check: {error}\n" for error in errors)
+            code = 3 if errors else code
+        left = not made and [p for p in (*folder.rglob("*"), *mod.rglob("*")) if p.is_file()]
+        return code, seconds, said, made, left
+
+    def fresh(self, name):
+        folder = self.out / name
+        shutil.rmtree(folder, ignore_errors=True)
+        folder.mkdir(parents=True)
+        return folder
+
+    def fresh_mod(self, name):
+        folder = self.fresh(name)
+        for below in ("materials", "textures"):
+            (folder / below).mkdir()
+        return folder
+
+
+class Failure(Exception):
+    pass
+
+
+def table(title, rows):
+    widths = [max(len(str(row[i])) for row in rows) for i in range(len(rows[0]))]
+    print(f"\n{title}\n")
+    for row in rows:
+        print("  ".join(f"{str(cell):{width}}" if i == 0 else f"{str(cell):>{width}}"
+                        for i, (cell, width) in enumerate(zip(row, widths))).rstrip())
+    sys.stdout.flush()
+
+
+def main():
+    build, shared, out, *asked = sys.argv[1:]
+    judge = Judge(build, shared, out)
+    start = time.monotonic()
+    for what in asked or ("rigs", "broken"):
+        getattr(judge, what)()
+    print(f"\n{time.monotonic() - start:.0f} s")
+    return 1 if judge.failed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

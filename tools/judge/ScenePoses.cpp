@@ -69,6 +69,26 @@ Value valueAt(const Key *keys, unsigned count, double time)
                    (time - before.mTime) / (next->mTime - before.mTime));
 }
 
+Matrix moved(const aiMatrix3x3t<double> &turn, const Place &place)
+{
+    Matrix m(turn);
+    m.a4 = place.x;
+    m.b4 = place.y;
+    m.c4 = place.z;
+    return m;
+}
+
+/// Scales, then turns; the library's own constructor does it the other way round.
+Matrix composed(const Place &scale, const Turn &turn, const Place &place)
+{
+    aiMatrix3x3t<double> m = turn.GetMatrix();
+    for (unsigned row = 0; row < 3; ++row) {
+        for (unsigned axis = 0; axis < 3; ++axis)
+            m[row][axis] *= scale[axis];
+    }
+    return moved(m, place);
+}
+
 /// The place and the turn of a matrix, mirrored if it is: the orthogonal matrix that is nearest to its own.
 /// What is flat has no turn.
 Matrix stiff(const Matrix &m)
@@ -82,11 +102,7 @@ Matrix stiff(const Matrix &m)
                 turn[row][column] = (turn[row][column] + other[row][column]) / 2.0;
         }
     }
-    Matrix found(turn);
-    found.a4 = m.a4;
-    found.b4 = m.b4;
-    found.c4 = m.c4;
-    return found;
+    return moved(turn, {m.a4, m.b4, m.c4});
 }
 
 class PosedScene
@@ -125,8 +141,7 @@ public:
                 const aiVector3D uv = mesh.HasTextureCoords(0) ? mesh.mTextureCoords[0][v] : aiVector3D();
                 file.uvs.emplace_back(uv.x, uv.y);
                 const Place normal = mesh.HasNormals() ? toDouble(mesh.mNormals[v]) : Place();
-                const aiMatrix3x3t<double> turn(strongest(each, v).Inverse().Transpose());
-                file.normals.push_back(upright((turn * normal).NormalizeSafe()));
+                file.normals.push_back(upright((normalMatrix(each, v) * normal).NormalizeSafe()));
             }
         }
         for (unsigned i = 0; i < m_scene.mNumAnimations; ++i) {
@@ -247,12 +262,6 @@ private:
                         {named->second, weight.mWeight, m_offsets.size() - 1});
             }
         }
-        if (m_single) {
-            for (std::vector<Influence> &each : instance.influences) {
-                if (!each.empty())
-                    each = {*std::max_element(each.begin(), each.end(), isWeaker)};
-            }
-        }
     }
 
     void pose(const aiAnimation *animation, double time)
@@ -275,17 +284,15 @@ private:
                 turn = valueAt<Turn>(channel.mRotationKeys, channel.mNumRotationKeys, time);
             if (channel.mNumScalingKeys > 0)
                 scale = valueAt<Place>(channel.mScalingKeys, channel.mNumScalingKeys, time);
-            locals[named->second] = Matrix(scale, turn, place);
+            locals[named->second] = composed(scale, turn, place);
         }
         m_worlds.resize(m_nodes.size());
         for (size_t n = 0; n < m_nodes.size(); ++n)
             m_worlds[n] = m_nodes[n].parent < 0 ? locals[n] : m_worlds[size_t(m_nodes[n].parent)] * locals[n];
         if (!animation)
             m_rest = m_worlds;
-        else if (m_single) {
-            for (size_t n = 0; n < m_nodes.size(); ++n)
-                m_worlds[n] = stiff(m_worlds[n]) * stiff(m_rest[n]).Inverse() * m_rest[n];
-        }
+        for (size_t n = 0; animation && m_single && n < m_nodes.size(); ++n)
+            m_worlds[n] = stiff(m_worlds[n]) * stiff(m_rest[n]).Inverse() * m_rest[n];
     }
 
     /// Of two that weigh the same the one further down the hierarchy is.
@@ -294,14 +301,38 @@ private:
         return a.weight != b.weight ? a.weight < b.weight : a.node > b.node;
     }
 
-    /// What brings the vertex to its place, for the greater part.
-    Matrix strongest(const Instance &instance, unsigned v) const
+    /// The node that moves the vertex most.
+    static size_t strongest(const Instance &instance, unsigned v)
     {
         if (instance.influences.empty() || instance.influences[v].empty())
-            return m_worlds[instance.node];
+            return instance.node;
         const std::vector<Influence> &all = instance.influences[v];
-        const Influence &most = *std::max_element(all.begin(), all.end(), isWeaker);
-        return m_worlds[most.node] * m_offsets[most.offset];
+        return std::max_element(all.begin(), all.end(), isWeaker)->node;
+    }
+
+    Place blended(const Instance &instance, unsigned v, const std::vector<Matrix> &worlds) const
+    {
+        const Place at = toDouble(instance.mesh->mVertices[v]);
+        Place sum;
+        double weights = 0.0;
+        if (!instance.influences.empty()) {
+            for (const Influence &each : instance.influences[v]) {
+                sum += worlds[each.node] * (m_offsets[each.offset] * at) * each.weight;
+                weights += each.weight;
+            }
+        }
+        return weights > 0.0 ? sum / weights : worlds[instance.node] * at;
+    }
+
+    aiMatrix3x3t<double> normalMatrix(const Instance &instance, unsigned v) const
+    {
+        Matrix place = m_worlds[instance.node];
+        if (!instance.influences.empty() && !instance.influences[v].empty()) {
+            const std::vector<Influence> &all = instance.influences[v];
+            const Influence &most = *std::max_element(all.begin(), all.end(), isWeaker);
+            place = m_worlds[most.node] * m_offsets[most.offset];
+        }
+        return aiMatrix3x3t<double>(place.Inverse().Transpose());
     }
 
     Places places() const
@@ -311,16 +342,13 @@ private:
             found.push_back(upright(m_worlds[n] * Place()));
         for (const Instance &instance : m_instances) {
             for (unsigned v = 0; v < instance.mesh->mNumVertices; ++v) {
-                const Place at = toDouble(instance.mesh->mVertices[v]);
-                Place sum;
-                double weights = 0.0;
-                if (!instance.influences.empty()) {
-                    for (const Influence &each : instance.influences[v]) {
-                        sum += m_worlds[each.node] * (m_offsets[each.offset] * at) * each.weight;
-                        weights += each.weight;
-                    }
+                if (!m_single) {
+                    found.push_back(upright(blended(instance, v, m_worlds)));
+                    continue;
                 }
-                found.push_back(upright(weights > 0.0 ? sum / weights : m_worlds[instance.node] * at));
+                const size_t node = strongest(instance, v);
+                const Matrix move = m_worlds[node] * Matrix(m_rest[node]).Inverse();
+                found.push_back(upright(move * blended(instance, v, m_rest)));
             }
         }
         return found;

@@ -89,7 +89,9 @@ std::unique_ptr<aiMesh> makeMesh(const StaticMesh &from, const StaticMeshSurface
         aiFace &face = mesh->mFaces[f];
         face.mNumIndices = 3;
         face.mIndices = new unsigned[3];
-        std::copy_n(corners.begin() + std::ptrdiff_t(f) * 3, 3, face.mIndices);
+        // Clockwise is front in the game, and the normals point there; elsewhere counter-clockwise is.
+        std::reverse_copy(corners.begin() + std::ptrdiff_t(f) * 3,
+                          corners.begin() + std::ptrdiff_t(f + 1) * 3, face.mIndices);
     }
     return mesh;
 }

@@ -2095,6 +2095,10 @@ Ohne diese Eingabe fortfahren?</translation>
         <source>&apos;%1&apos; is named &apos;%2&apos; in the new place</source>
         <translation>„%1“ heißt am neuen Ort „%2“</translation>
     </message>
+    <message>
+        <source>%1 Bones that change their size in animations, which in the game they keep: %2</source>
+        <translation>%1 Knochen, die in Animationen ihre Größe ändern, was sie im Spiel nicht tun: %2</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>

@@ -168,20 +168,9 @@ Value ClipSampler::valueAt(const Keys<Value> &keys, const Value &rest, double ti
 
 Matrix4 ClipSampler::placeAt(const Channel &channel, double time)
 {
-    const Vector3 scale = valueAt(channel.scales, channel.restScale, time);
-    const Vector3 origin = valueAt(channel.places, channel.restPlace, time);
-    Matrix3 turn = valueAt(channel.turns, channel.restTurn, time).GetMatrix();
-    // Scaled first and turned then. The library's constructor does it the other way round, which is another
-    // thing where scales are unequal.
-    for (unsigned row = 0; row < 3; ++row) {
-        for (unsigned axis = 0; axis < 3; ++axis)
-            turn[row][axis] *= scale[axis];
-    }
-    Matrix4 place(turn);
-    place.a4 = origin.x;
-    place.b4 = origin.y;
-    place.c4 = origin.z;
-    return place;
+    return composed(valueAt(channel.scales, channel.restScale, time),
+                    valueAt(channel.turns, channel.restTurn, time),
+                    valueAt(channel.places, channel.restPlace, time));
 }
 
 void ClipSampler::place(double seconds, std::vector<Matrix4> &places) const

@@ -27,6 +27,7 @@ constexpr double LoopTolerance = 0.01;
 /// file leaves some 1e-7, and a chain of bones some times that.
 constexpr double PlaceTolerance = 2e-6;
 constexpr double TurnTolerance = 2e-6;
+constexpr double StretchTolerance = 0.005; // of a bone's size: what nobody sees
 
 /// The number in the first pair of brackets that holds digits only: "walk [12]" is 12. None for one that does
 /// not fit.
@@ -80,6 +81,21 @@ private:
     std::vector<std::vector<Key>> m_tracks;
     QHash<QByteArray, quint16> m_numbers;
 };
+
+/// A block in which nothing moves.
+AnimBlock restBlock(const SkeletonPose &rest, int frames)
+{
+    AnimBlock block;
+    for (const RigidFrame &frame : rest.local) {
+        AnimNode &node = block.nodes.emplace_back();
+        node.initialPosition = single(frame.origin);
+        node.initialRotation = single(frame.turn);
+    }
+    block.blendLength = BlendLength;
+    block.blendEnd = quint16(frames - 1);
+    block.setFrameCount(frames);
+    return block;
+}
 
 /// How far apart both poses have any vertex.
 double greatestDistance(const SkinnedMesh &mesh, const SkeletonPose &a, const SkeletonPose &b)
@@ -159,10 +175,15 @@ int ReadyClips::frameCount(int clip, double rate) const
     const double frames = std::round(m_clips[size_t(clip)].length() * rate) + 1.0;
     if (frames <= double(FrameLimit))
         return int(frames);
+    warnOfCut(clip, FrameLimit);
+    return FrameLimit;
+}
+
+void ReadyClips::warnOfCut(int clip, int frames) const
+{
     m_source.messages.addWarning(
         QCoreApplication::translate("Import", "%1 Animation %2 was cut to %3 frames")
-            .arg(m_source.modelPath, QString::number(clip), QString::number(FrameLimit)));
-    return FrameLimit;
+            .arg(m_source.modelPath, QString::number(clip), QString::number(frames)));
 }
 
 std::vector<bool> ReadyClips::moved() const
@@ -174,14 +195,14 @@ std::vector<bool> ReadyClips::moved() const
 }
 
 template <typename Look>
-void ReadyClips::eachPose(const Taken &taken, int frames, const ReadySkeleton &skeleton, Look look) const
+void ReadyClips::eachPose(const Taken &taken, const ReadySkeleton &skeleton, Look look) const
 {
     std::vector<Matrix4> places = m_nodes.restPlaces();
     SkeletonPose pose;
     // From the rest pose on, so that quaternions keep their signs and what is flattened its last rotation.
     const double scale = double(m_choices.scale);
     skeleton.pose(m_nodes.worldPlaces(places, skeleton.wanted(), scale), pose);
-    for (int frame = 0; frame < frames; ++frame) {
+    for (int frame = 0; frame < taken.frames; ++frame) {
         m_clips[size_t(taken.choice.clip)].place(frame / taken.rate, places);
         skeleton.pose(m_nodes.worldPlaces(places, skeleton.wanted(), scale), pose);
         look(frame, pose);
@@ -207,7 +228,7 @@ std::vector<double> ReadyClips::movements(const ReadySkeleton &skeleton, const S
     const double size = box ? greatestSide(*box) : 0.0;
     std::vector<double> movements(bones);
     for (const Taken &taken : m_taken) {
-        eachPose(taken, taken.frames, skeleton, [&](int, const SkeletonPose &pose) {
+        eachPose(taken, skeleton, [&](int, const SkeletonPose &pose) {
             for (size_t b = 0; b < bones; ++b) {
                 const Turn apart = difference(pose.local[b].turn, rest.local[b].turn);
                 // The chord of twice the angle whose half's sine stands in a quaternion.
@@ -223,79 +244,83 @@ std::vector<double> ReadyClips::movements(const ReadySkeleton &skeleton, const S
 void ReadyClips::addBlocks(const ReadySkeleton &skeleton, const SkeletonPose &rest, const SkinnedMesh &mesh,
                            AnimFile &file, ModelNames &names) const
 {
-    const size_t bones = mesh.nodes.size();
-    const double size = greatestSide({mesh.bbMin, mesh.bbMax});
-    const auto emptyBlock = [&](int frames) -> AnimBlock & {
-        AnimBlock &block = file.blocks.emplace_back();
-        block.nodes.resize(bones);
-        for (size_t b = 0; b < bones; ++b) {
-            block.nodes[b].initialPosition = single(rest.local[b].origin);
-            block.nodes[b].initialRotation = single(rest.local[b].turn);
-        }
-        block.blendLength = BlendLength;
-        block.setFrameCount(frames);
-        return block;
-    };
-    if (m_taken.empty() && bones > 1) {
-        emptyBlock(1).speed = float(ReadyChoices::UsualRate);
+    if (m_taken.empty() && mesh.nodes.size() > 1) {
+        file.blocks.push_back(restBlock(rest, 1));
+        file.blocks.back().speed = float(ReadyChoices::UsualRate);
         return;
     }
-    qint64 posesLeft = PoseLimit / qint64(bones);
-    for (const Taken &taken : m_taken) {
-        const int frames = int(std::min<qint64>(taken.frames, posesLeft));
-        posesLeft -= frames;
-        if (frames < taken.frames)
-            m_source.messages.addWarning(
-                QCoreApplication::translate("Import", "%1 Animation %2 was cut to %3 frames")
-                    .arg(m_source.modelPath, QString::number(taken.choice.clip), QString::number(frames)));
-        if (frames == 0)
-            continue;
-        std::vector<std::vector<QVector3D>> places(bones);
-        std::vector<std::vector<QVector4D>> turns(bones);
-        std::vector<bool> isShifted(bones);
-        std::vector<bool> isTurned(bones);
-        SkeletonPose first;
-        SkeletonPose last;
-        eachPose(taken, frames, skeleton, [&](int frame, const SkeletonPose &pose) {
-            for (size_t b = 0; b < bones; ++b) {
-                const RigidFrame &frameOfBone = pose.local[b];
-                places[b].push_back(single(frameOfBone.origin));
-                turns[b].push_back(single(frameOfBone.turn));
-                if ((frameOfBone.origin - rest.local[b].origin).Length() > size * PlaceTolerance)
-                    isShifted[b] = true;
-                if (!frameOfBone.turn.Equal(rest.local[b].turn, TurnTolerance))
-                    isTurned[b] = true;
-            }
-            if (frame == 0)
-                first = pose;
-            if (frame == frames - 1)
-                last = pose;
-        });
-        // A block of one frame shows its initial pose, which is at rest. A clip that is one pose is held over
-        // two frames.
-        const bool isPose =
-            frames == 1 && (std::find(isShifted.begin(), isShifted.end(), true) != isShifted.end() ||
-                            std::find(isTurned.begin(), isTurned.end(), true) != isTurned.end());
-        const int held = isPose ? 2 : frames;
-        AnimBlock &block = emptyBlock(held);
-        block.animId = taken.id;
-        block.speed = float(taken.rate);
-        block.blendEnd = quint16(held - 1);
-        const bool closes = greatestDistance(mesh, first, last) <= size * LoopTolerance;
-        const bool loops = taken.choice.loop == ReadyClip::Loop::Always ||
-                           (taken.choice.loop == ReadyClip::Loop::WhereItCloses && closes);
-        block.loopFrame = loops ? 0 : NoLoop;
-        TrackCollector<QVector3D> translations;
-        TrackCollector<QVector4D> rotations;
-        for (size_t b = 0; b < bones; ++b) {
-            places[b].resize(size_t(held), places[b].back());
-            turns[b].resize(size_t(held), turns[b].back());
-            block.nodes[b].translationIndex = isShifted[b] ? translations.add(places[b]) : NoTrack;
-            block.nodes[b].rotationIndex = isTurned[b] ? rotations.add(turns[b]) : NoTrack;
+    qint64 framesLeft = PoseLimit / qint64(mesh.nodes.size());
+    std::vector<bool> isStretched(mesh.nodes.size());
+    for (Taken taken : m_taken) {
+        if (taken.frames > framesLeft) {
+            taken.frames = int(framesLeft);
+            warnOfCut(taken.choice.clip, taken.frames);
         }
-        block.translations = translations.table(held);
-        block.rotations = rotations.table(held);
+        framesLeft -= taken.frames;
+        if (taken.frames == 0)
+            continue;
+        file.blocks.push_back(makeBlock(taken, skeleton, rest, mesh, isStretched));
         if (!taken.name.isEmpty())
             names.animations.insert(taken.id, taken.name);
     }
+    const auto stretched = std::count(isStretched.begin(), isStretched.end(), true);
+    if (stretched > 0)
+        m_source.messages.addWarning(
+            QCoreApplication::translate(
+                "Import", "%1 Bones that change their size in animations, which in the game they keep: %2")
+                .arg(m_source.modelPath, QString::number(stretched)));
+}
+
+AnimBlock ReadyClips::makeBlock(const Taken &taken, const ReadySkeleton &skeleton, const SkeletonPose &rest,
+                                const SkinnedMesh &mesh, std::vector<bool> &isStretched) const
+{
+    const size_t bones = mesh.nodes.size();
+    const double size = greatestSide({mesh.bbMin, mesh.bbMax});
+    std::vector<std::vector<QVector3D>> places(bones);
+    std::vector<std::vector<QVector4D>> turns(bones);
+    std::vector<bool> isShifted(bones);
+    std::vector<bool> isTurned(bones);
+    SkeletonPose first;
+    SkeletonPose last;
+    eachPose(taken, skeleton, [&](int frame, const SkeletonPose &pose) {
+        for (size_t b = 0; b < bones; ++b) {
+            const RigidFrame &local = pose.local[b];
+            places[b].push_back(single(local.origin));
+            turns[b].push_back(single(local.turn));
+            if ((local.origin - rest.local[b].origin).Length() > size * PlaceTolerance)
+                isShifted[b] = true;
+            if (!local.turn.Equal(rest.local[b].turn, TurnTolerance))
+                isTurned[b] = true;
+            if ((pose.sizes[b] - rest.sizes[b]).Length() > rest.sizes[b].Length() * StretchTolerance)
+                isStretched[b] = true;
+        }
+        if (frame == 0)
+            first = pose;
+        last = pose;
+    });
+    // A block of one frame shows its initial pose, which is at rest. A clip that is one other pose is held
+    // over two frames.
+    const auto any = [](const std::vector<bool> &marks) {
+        return std::find(marks.begin(), marks.end(), true) != marks.end();
+    };
+    const int frames = taken.frames == 1 && (any(isShifted) || any(isTurned)) ? 2 : taken.frames;
+    AnimBlock block = restBlock(rest, frames);
+    block.animId = taken.id;
+    block.speed = float(taken.rate);
+    const bool loops = taken.choice.loop == ReadyClip::Loop::Always ||
+                       (taken.choice.loop == ReadyClip::Loop::WhereItCloses &&
+                        greatestDistance(mesh, first, last) <= size * LoopTolerance);
+    block.loopFrame = loops ? 0 : NoLoop;
+    // What rests needs no track: without one a bone keeps its initial place or rotation.
+    TrackCollector<QVector3D> translations;
+    TrackCollector<QVector4D> rotations;
+    for (size_t b = 0; b < bones; ++b) {
+        places[b].resize(size_t(frames), places[b].back());
+        turns[b].resize(size_t(frames), turns[b].back());
+        block.nodes[b].translationIndex = isShifted[b] ? translations.add(places[b]) : NoTrack;
+        block.nodes[b].rotationIndex = isTurned[b] ? rotations.add(turns[b]) : NoTrack;
+    }
+    block.translations = translations.table(frames);
+    block.rotations = rotations.table(frames);
+    return block;
 }

@@ -43,9 +43,12 @@ private:
     void number();
     int frameCount(int clip, double rate) const;
     double rateOf(const ClipSampler &clip) const;
+    void warnOfCut(int clip, int frames) const;
     /// Calls look(frame, pose) for each frame.
     template <typename Look>
-    void eachPose(const Taken &taken, int frames, const ReadySkeleton &skeleton, Look look) const;
+    void eachPose(const Taken &taken, const ReadySkeleton &skeleton, Look look) const;
+    AnimBlock makeBlock(const Taken &taken, const ReadySkeleton &skeleton, const SkeletonPose &rest,
+                        const SkinnedMesh &mesh, std::vector<bool> &isStretched) const;
 
     const SceneSource &m_source;
     const SceneNodes &m_nodes;

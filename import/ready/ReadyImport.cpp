@@ -14,6 +14,7 @@
 #include <assimp/config.h>
 #include <assimp/postprocess.h>
 
+#include <algorithm>
 #include <map>
 
 namespace {
@@ -27,19 +28,27 @@ constexpr unsigned Steps =
     aiProcess_Triangulate | aiProcess_SortByPType | aiProcess_GenSmoothNormals | aiProcess_RemoveComponent;
 
 /// Points and lines cannot be drawn in the game. They are no fault of the rest of the model, so they are left
-/// out with a word.
-void countLoose(const SceneSource &source)
+/// out with a word. Returns true, after an error line, when nothing else is there.
+bool hasNoTriangles(const SceneSource &source)
 {
     qint64 loose = 0;
+    qint64 all = 0;
     for (unsigned m = 0; m < source.scene->mNumMeshes; ++m) {
         const aiMesh &mesh = *source.scene->mMeshes[m];
-        for (unsigned f = 0; f < mesh.mNumFaces; ++f)
-            loose += mesh.mFaces[f].mNumIndices < 3 ? 1 : 0;
+        loose += std::count_if(mesh.mFaces, mesh.mFaces + mesh.mNumFaces,
+                               [](const aiFace &face) { return face.mNumIndices < 3; });
+        all += mesh.mNumFaces;
+    }
+    if (loose == all) {
+        source.messages.addError(
+            QCoreApplication::translate("Import", "%1 does not contain any triangles").arg(source.modelPath));
+        return true;
     }
     if (loose > 0)
         source.messages.addWarning(
             QCoreApplication::translate("Import", "%1 %2 points and lines were left out")
                 .arg(source.modelPath, QString::number(loose)));
+    return false;
 }
 
 const aiScene *readReady(Assimp::Importer &importer, const char *operation, SceneSource &source)
@@ -47,9 +56,8 @@ const aiScene *readReady(Assimp::Importer &importer, const char *operation, Scen
     importer.SetPropertyInteger(AI_CONFIG_PP_RVC_FLAGS, Removals);
     importer.SetPropertyInteger(AI_CONFIG_PP_SBP_REMOVE, aiPrimitiveType_POINT | aiPrimitiveType_LINE);
     source.scene = readScene(importer, operation, source, 0);
-    if (!source.scene)
+    if (!source.scene || hasNoTriangles(source))
         return nullptr;
-    countLoose(source);
     source.scene = importer.ApplyPostProcessing(Steps);
     if (!source.scene)
         source.messages.addError(QCoreApplication::translate("Import", "%1 Could not read file. %2")
@@ -161,7 +169,7 @@ void importReadySkinnedMesh(const ReadySource &ready, QStringList &textures, Ski
     if (skeleton.count() == 0)
         clips.clear();
     if (mesh.nodes.size() == 1 && clips.isEmpty())
-        rest = {{RigidFrame()}, {RigidFrame()}};
+        rest = {{RigidFrame()}, {RigidFrame()}, {Vector3(1.0)}};
 
     const std::vector<size_t> surfaceOf = addSurfaces(source, parts, ready.textureFolder, mesh);
     if (messages.hasError() || addGeometry(source, parts, surfaceOf, skeleton, rest, mesh))

@@ -134,6 +134,7 @@ void ReadySkeleton::pose(const std::vector<Matrix4> &world, SkeletonPose &pose) 
 {
     pose.local.resize(m_bones.size());
     pose.world.resize(m_bones.size());
+    pose.sizes.resize(m_bones.size());
     for (size_t b = 0; b < m_bones.size(); ++b) {
         const Matrix4 &place = world[size_t(m_bones[b].node)];
         const RigidFrame parent = b == 0 ? RigidFrame() : pose.world[size_t(m_bones[b].parent)];
@@ -149,5 +150,8 @@ void ReadySkeleton::pose(const std::vector<Matrix4> &world, SkeletonPose &pose) 
         if (isFinite(originOf(place)))
             local.origin = parent.unmap(originOf(place));
         frame.origin = parent.map(local.origin);
+        pose.sizes[b] = {Vector3(place.a1, place.b1, place.c1).Length(),
+                         Vector3(place.a2, place.b2, place.c2).Length(),
+                         Vector3(place.a3, place.b3, place.c3).Length()};
     }
 }

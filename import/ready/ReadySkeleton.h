@@ -9,6 +9,7 @@ struct SkeletonPose
 {
     std::vector<RigidFrame> local;
     std::vector<RigidFrame> world;
+    std::vector<Vector3> sizes; ///< of the nodes along their axes, which bones cannot have
 };
 
 /// The nodes of a scene that become bones. Bone 0 is the root of all others; a parent's number is lower than

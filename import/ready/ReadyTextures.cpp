@@ -35,7 +35,7 @@ QImage decoded(QIODevice &device)
 bool colorTexture(const aiMaterial &material, aiString &stored)
 {
     for (const aiTextureType type : {aiTextureType_DIFFUSE, aiTextureType_BASE_COLOR}) {
-        if (material.GetTextureCount(type) > 0 && material.GetTexture(type, 0, &stored) == aiReturn_SUCCESS)
+        if (material.GetTexture(type, 0, &stored) == aiReturn_SUCCESS && stored.length > 0)
             return true;
     }
     return false;
@@ -97,7 +97,7 @@ QString ReadyTextures::fileOf(const aiString &stored, const QString &name)
     QString &file = m_known[key];
     if (const aiTexture *embedded = m_source.scene->GetEmbeddedTexture(stored.C_Str())) {
         const QString own = QFileInfo(text(embedded->mFilename)).completeBaseName();
-        file = writeEmbedded(*embedded, own.isEmpty() ? name : own);
+        file = writeEmbedded(*embedded, own.isEmpty() ? m_model + QLatin1Char('_') + name : own);
         return file;
     }
     const QString found = foundTexture(m_source.modelPath, key);

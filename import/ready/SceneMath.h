@@ -69,6 +69,28 @@ inline Matrix3 normalMatrix(const Matrix4 &m)
             sign * (m.a1 * m.b2 - m.a2 * m.b1)};
 }
 
+/// Scales, then turns, then shifts. The library's own matrix of these three turns before it scales.
+inline Matrix4 composed(const Vector3 &scale, const Turn &turn, const Vector3 &place)
+{
+    const Matrix3 r = turn.GetMatrix();
+    return {r.a1 * scale.x,
+            r.a2 * scale.y,
+            r.a3 * scale.z,
+            place.x, //
+            r.b1 * scale.x,
+            r.b2 * scale.y,
+            r.b3 * scale.z,
+            place.y, //
+            r.c1 * scale.x,
+            r.c2 * scale.y,
+            r.c3 * scale.z,
+            place.z, //
+            0.0,
+            0.0,
+            0.0,
+            1.0};
+}
+
 /// The identity for a matrix that holds what is no number.
 inline Matrix4 exact(const aiMatrix4x4 &m)
 {

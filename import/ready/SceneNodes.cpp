@@ -16,20 +16,60 @@ std::string keyOf(const aiString &name)
 
 SceneNodes::SceneNodes(const aiScene &scene)
 {
-    // Not by recursion: a file may hang nodes on nodes until the stack ends.
-    std::vector<std::pair<const aiNode *, int>> open{{scene.mRootNode, None}};
-    while (!open.empty()) {
-        const auto [node, parent] = open.back();
-        open.pop_back();
-        const int index = count();
-        m_nodes.push_back({node, parent, keyOf(node->mName).find(HelperMark) != std::string::npos,
-                           exact(node->mTransformation)});
-        for (unsigned child = node->mNumChildren; child-- > 0;) {
-            if (node->mChildren[child]) // scenes of damaged files have some that are not there
-                open.emplace_back(node->mChildren[child], index);
-        }
+    // Whose child a node is it says itself as well, and one reader (of Half-Life's models) lists all bones as
+    // children of one node but has them name their parents: where both differ, the node is right.
+    const std::vector<Listed> listed = listedNodes(*scene.mRootNode);
+    std::unordered_map<const aiNode *, int> numbers;
+    for (size_t i = 0; i < listed.size(); ++i)
+        numbers.emplace(listed[i].node, int(i));
+    std::vector<std::vector<int>> children(listed.size());
+    for (size_t i = 1; i < listed.size(); ++i) {
+        const auto named = numbers.find(listed[i].node->mParent);
+        const int parent = named != numbers.end() ? named->second : listed[i].parent;
+        children[size_t(parent)].push_back(int(i));
+    }
+    addNodes(listed, children);
+    if (m_nodes.size() < listed.size()) {
+        // Some name each other in a circle.
+        children.assign(listed.size(), {});
+        for (size_t i = 1; i < listed.size(); ++i)
+            children[size_t(listed[i].parent)].push_back(int(i));
+        addNodes(listed, children);
     }
     learnNames();
+}
+
+// Neither of these by recursion: a file may hang nodes on nodes until the stack ends.
+std::vector<SceneNodes::Listed> SceneNodes::listedNodes(const aiNode &root)
+{
+    std::vector<Listed> listed;
+    std::vector<Listed> open{{&root, None}};
+    while (!open.empty()) {
+        const Listed next = open.back();
+        open.pop_back();
+        for (unsigned child = next.node->mNumChildren; child-- > 0;) {
+            if (next.node->mChildren[child]) // scenes of damaged files have some that are not there
+                open.push_back({next.node->mChildren[child], int(listed.size())});
+        }
+        listed.push_back(next);
+    }
+    return listed;
+}
+
+void SceneNodes::addNodes(const std::vector<Listed> &listed, const std::vector<std::vector<int>> &children)
+{
+    m_nodes.clear();
+    std::vector<std::pair<int, int>> open{{0, None}}; // with the parent's number in the result
+    while (!open.empty()) {
+        const auto [number, parent] = open.back();
+        open.pop_back();
+        const aiNode &node = *listed[size_t(number)].node;
+        const std::vector<int> &below = children[size_t(number)];
+        for (auto child = below.rbegin(); child != below.rend(); ++child)
+            open.emplace_back(*child, count());
+        m_nodes.push_back({&node, parent, keyOf(node.mName).find(HelperMark) != std::string::npos,
+                           exact(node.mTransformation)});
+    }
 }
 
 void SceneNodes::learnNames()

@@ -46,6 +46,14 @@ public:
                                      double scale) const;
 
 private:
+    struct Listed
+    {
+        const aiNode *node;
+        int parent; ///< whose child it is listed as
+    };
+
+    static std::vector<Listed> listedNodes(const aiNode &root);
+    void addNodes(const std::vector<Listed> &listed, const std::vector<std::vector<int>> &children);
     void learnNames();
 
     std::vector<Node> m_nodes;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "FullDisk.h"
 #include "KMat.h"
+#include "ModelNames.h"
 #include "SampleModels.h"
 #include "SmallGltf.h"
 #include "ToolRun.h"
@@ -47,6 +48,10 @@ private slots:
             {"import x.obj", "-o FOLDER is missing"},
             {"import x.obj y.obj -o /", "y.obj"},
             {"import x.obj -o / --scale big", "'big'"},
+            {"import x.obj -o / --scale auto", "'auto'"},
+            {"import x.obj -o / --clips 1", "need --ready"},
+            {"import x.obj -o / --ready --rate 0", "--rate"},
+            {"import x.obj -o / --ready --flip-uv", "--flip-uv"},
             {"import x.obj -o / --mod-path /tmp --kmat /etc/x.kmat", "/etc/x.kmat"},
             {"import x.obj -o / --mod-path /nowhere --create-kmat", "/nowhere"},
             {"export x.staticmesh -o x.fbx", "x.fbx"},
@@ -262,6 +267,37 @@ private slots:
         QVERIFY(!anim.read(path("small.anim")));
         QCOMPARE(anim.blocks[0].animId, 7);
         QCOMPARE(anim.blocks[0].frameCount(), 41);
+    }
+
+    void importReady()
+    {
+        const QString model =
+            put("rig.gltf", SmallGltf().file({{"walk [7]", {{2, false, {{0, {0, 0, 0}}, {500, {0, 0, 5}}}}}},
+                                              {"run", {{2, false, {{0, {0, 0, 0}}, {100, {0, 0, 5}}}}}}}));
+        const QString mine = put("rig.names.json", "{\"bones\": {\"0\": \"mine\"}}");
+        const ToolRun refused("import --ready -o", {path(), model});
+        QCOMPARE(refused.exitCode, 1);
+        QVERIFY2(refused.err.contains("rig.names.json"), qUtf8Printable(refused.err));
+        QVERIFY(readFile(mine).contains("mine") && !QFileInfo::exists(path("rig.skinnedmesh")));
+
+        const ToolRun unknown("import --ready --force --clips 1,crawl -o", {path(), model});
+        QCOMPARE(unknown.exitCode, 2);
+        QVERIFY2(unknown.err.contains("'crawl'. It has 2: walk [7], run"), qUtf8Printable(unknown.err));
+        // By number and by name.
+        const ToolRun taken("import --ready --force --scale auto --rate 20 --clips",
+                            {"1,walk [7]", "-o", path(), model});
+        QVERIFY2(taken.exitCode == 0, qUtf8Printable(taken.err));
+        SkinnedMesh mesh;
+        AnimFile anim;
+        ModelNames names;
+        QVERIFY(!mesh.read(path("rig.skinnedmesh")) && !anim.read(path("rig.anim")) && !names.read(mine));
+        QCOMPARE(anim.blocks.size(), size_t(2));
+        QCOMPARE(anim.blocks[0].frameCount(), 3);
+        QCOMPARE(anim.blocks[1].frameCount(), 11);
+        QCOMPARE(anim.blocks[1].animId, 7);
+        QCOMPARE(names.bones.value(1), QString("arm"));
+        QCOMPARE(names.animations.value(7), QString("walk [7]"));
+        QVERIFY((mesh.bbMax - mesh.bbMin).length() > 100.0f);
     }
 
     void importFailures()

@@ -1,0 +1,545 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "BoneSymbolGuess.h"
+#include "NameTables.h"
+#include "ReadyImport.h"
+#include "ReadySkeleton.h"
+#include "SceneParts.h"
+#include "SmallGltf.h"
+#include "TestSupport.h"
+
+#include <QImage>
+
+#include <limits>
+#include <map>
+
+namespace {
+constexpr float NaN = std::numeric_limits<float>::quiet_NaN();
+const float half = std::sqrt(0.5f);
+
+bool isClose(const QVector3D &a, const QVector3D &b)
+{
+    return (a - b).length() < 1e-4f;
+}
+
+bool isClose(const Turn &a, const Turn &b)
+{
+    return std::abs(std::abs(dot(a, b)) - 1.0) < 1e-9;
+}
+
+Matrix4 placed(const Vector3 &scale, const Turn &turn)
+{
+    return composed(scale, turn, Vector3(1, 2, 3));
+}
+
+/// A scene made by hand, as readers of damaged and of odd files make them.
+struct HandScene
+{
+    aiScene scene;
+
+    HandScene() { scene.mRootNode = new aiNode("scene"); }
+
+    aiNode *node(const char *name, aiNode *parent = nullptr, bool bearsMesh = false)
+    {
+        auto *made = new aiNode(name);
+        (parent ? parent : scene.mRootNode)->addChildren(1, &made);
+        if (bearsMesh) {
+            made->mNumMeshes = 1;
+            made->mMeshes = new unsigned[1]{0};
+        }
+        return made;
+    }
+
+    /// The marks of the nodes of these names.
+    static std::vector<bool> marks(const SceneNodes &nodes, const QByteArrayList &names)
+    {
+        std::vector<bool> found;
+        for (int i = 0; i < nodes.count(); ++i)
+            found.push_back(names.contains(nodes[i].source->mName.C_Str()));
+        return found;
+    }
+};
+
+/// "root hips(0) arm(1)": the bones, with the numbers of their parents.
+QByteArray shape(const SceneNodes &nodes, const ReadySkeleton &skeleton)
+{
+    QByteArrayList words;
+    for (int b = 0; b < skeleton.count(); ++b) {
+        words += nodes[skeleton.node(b)].source->mName.C_Str();
+        if (b > 0)
+            words.back() += '(' + QByteArray::number(skeleton.parent(b)) + ')';
+    }
+    return words.join(' ');
+}
+} // namespace
+
+/// Foreign scenes become what the game can pose and draw.
+class tst_readyimport : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_choices = {}; }
+
+    void rotationOfAnyMatrix()
+    {
+        const Turn turn = Turn(0.3, -0.4, 0.5, 0.6).Normalize();
+        const Turn other = Turn(0.8, 0.1, -0.5, 0.2).Normalize();
+        QVERIFY(isClose(*turnOf(placed({1, 1, 1}, turn)), turn));
+        QVERIFY(isClose(*turnOf(placed({1000, 0.01, 3}, turn)), turn));
+        // What is mirrored turns with what turns it, though it is no rotation itself.
+        const Matrix4 sheared = placed({1, 2, 1}, other) * placed({-1, 3, 0.5}, turn);
+        QVERIFY(isClose(*turnOf(placed({1, 1, 1}, turn) * sheared), turn * *turnOf(sheared)));
+        QVERIFY(!turnOf(placed({1, 0, 1}, turn)));
+        QVERIFY(!turnOf(placed({0, 0, 0}, turn)));
+        Matrix4 lost;
+        lost.b2 = double(NaN);
+        QVERIFY(!turnOf(lost));
+    }
+
+    void nodesOfOddScenes()
+    {
+        HandScene made;
+        aiNode *object = made.node("foot", nullptr, true);
+        aiNode *first = made.node("foot_$AssimpFbx$_Rotation");
+        made.node("foot", first, true);
+        aiNode *second = made.node("foot_$AssimpFbx$_Rotation");
+        aiNode *bone = made.node("foot", second);
+        aiNode *flat = made.node("flat");
+        flat->mParent = bone; // listed at the root, as the bones of a Half-Life model are
+        bone->mTransformation.a4 = NaN;
+        const SceneNodes nodes(made.scene);
+        QCOMPARE(nodes.count(), 7);
+        // Of one name, the bone is meant and not the object that it moves; so too where helpers stand for
+        // them.
+        QCOMPARE(nodes[nodes.find(aiString("foot"))].source, bone);
+        QCOMPARE(nodes[nodes.find(aiString("foot_$AssimpFbx$_Rotation"))].source, second);
+        QVERIFY(nodes[nodes.find(aiString("foot_$AssimpFbx$_Rotation"))].isHelper);
+        QCOMPARE(nodes.find(aiString("hand")), SceneNodes::None);
+        QCOMPARE(nodes[nodes[nodes.find(aiString("flat"))].parent].source, bone);
+        QCOMPARE(nodes[nodes.find(aiString("foot"))].rest, Matrix4());
+
+        // Nodes that name each other as parents are where they are listed.
+        flat->mParent = object;
+        object->mParent = flat;
+        const SceneNodes circle(made.scene);
+        QCOMPARE(circle.count(), 7);
+        QCOMPARE(circle[circle.find(aiString("flat"))].parent, 0);
+    }
+
+    void whichNodesBecomeBones()
+    {
+        struct Row
+        {
+            const char *skinned, *bare, *moved, *bones;
+        };
+        // scene ─┬─ rig ─┬─ helper ─── hips ─┬─ spine ─── hand ─── sword
+        //        │       └─ floor            └─ camera
+        const Row rows[] = {
+            {"spine hand", "", "", "spine hand(0)"},
+            {"hips hand", "", "", "hips spine(0) hand(1)"}, // and what is between them
+            {"", "floor", "", ""},
+            {"hips", "sword", "hand", "hips spine(0) hand(1)"},
+            {"hips", "", "camera hand", "hips"},  // nothing hangs on them
+            {"", "sword", "helper", "hips"},      // the helped node is the one that has a name
+            {"hips", "floor", "", "rig hips(0)"}, // the floor must not go with the hips
+            {"", "sword floor", "hips", "rig hips(0)"},
+        };
+        for (const Row &row : rows) {
+            HandScene made;
+            aiNode *rig = made.node("rig");
+            aiNode *helper = made.node("helper", rig);
+            aiNode *hips = made.node("hips", helper);
+            made.node("sword", made.node("hand", made.node("spine", hips)));
+            made.node("camera", hips);
+            made.node("floor", rig);
+            helper->mName = "hips_$AssimpFbx$_Rotation";
+            const SceneNodes nodes(made.scene);
+            const auto marks = [&nodes](QByteArray names) {
+                return HandScene::marks(nodes,
+                                        names.replace("helper", "hips_$AssimpFbx$_Rotation").split(' '));
+            };
+            std::vector<bool> shows = marks(row.bare);
+            const std::vector<bool> skinned = marks(row.skinned);
+            std::transform(shows.begin(), shows.end(), skinned.begin(), shows.begin(), std::logical_or<>());
+            const ReadySkeleton skeleton(nodes, skinned, shows, marks(row.moved));
+            QCOMPARE(shape(nodes, skeleton), QByteArray(row.bones));
+        }
+    }
+
+    void tooManyBones()
+    {
+        HandScene made;
+        aiNode *root = made.node("root");
+        aiNode *chain = root;
+        QByteArrayList names{"root"};
+        for (int i = 0; i < 140; ++i) {
+            names += "link" + QByteArray::number(i);
+            chain = made.node(names.back(), i < 100 ? chain : root); // the last 40 are leaves
+        }
+        const SceneNodes nodes(made.scene);
+        const std::vector<bool> all = HandScene::marks(nodes, names);
+        const std::vector<bool> none(all.size());
+        ReadySkeleton leafless(nodes, all, all, none);
+        leafless.dropLeaves(none, none);
+        QCOMPARE(leafless.count(), 128);
+        QCOMPARE(nodes[leafless.node(127)].source->mName.C_Str(), "link126"); // the last ones went
+        QCOMPARE(leafless.boneOf(nodes.find(aiString("link139"))), 0);
+
+        ReadySkeleton skeleton(nodes, all, all, none);
+        skeleton.dropLeaves(all, none);
+        QCOMPARE(skeleton.count(), 141);
+        std::vector<double> movements(141, 0.5);
+        std::fill_n(movements.begin() + 30, 5, 0.0);
+        std::fill_n(movements.begin() + 60, 20, 0.003);
+        skeleton.mergeStill(movements);
+        QCOMPARE(skeleton.count(), 128);
+        // Link 29 is bone 30 and still, so what it carried goes with bone 29 now.
+        const int after = skeleton.boneOf(nodes.find(aiString("link34")));
+        QCOMPARE(skeleton.boneOf(nodes.find(aiString("link29"))), 29);
+        QCOMPARE(skeleton.parent(after), 29);
+        ReadySkeleton busy(nodes, all, all, none);
+        busy.mergeStill(std::vector<double>(141, 0.5));
+        QCOMPARE(busy.count(), 141);
+    }
+
+    void flattenedBonesKeepTheirTurn()
+    {
+        HandScene made;
+        aiNode *hips = made.node("hips");
+        made.node("arm", hips);
+        const SceneNodes nodes(made.scene);
+        const std::vector<bool> all(3, true);
+        const std::vector<bool> bones = HandScene::marks(nodes, {"hips", "arm"});
+        const ReadySkeleton skeleton(nodes, bones, bones, {false, false, false});
+        const Turn turn = Turn(0.5, 0.5, 0.5, 0.5);
+        std::vector<Matrix4> places{Matrix4(), placed({1, 1, 1}, turn), placed({2, 1, 1}, turn)};
+        SkeletonPose pose;
+        skeleton.pose(nodes.worldPlaces(places, all, 1.0), pose);
+        places[2] = placed({0, 0, 0}, Turn());
+        places[1] = placed({1, 1, 1}, Turn(-1, 0, 0, 0));
+        skeleton.pose(nodes.worldPlaces(places, all, 1.0), pose);
+        QVERIFY(isClose(pose.local[1].turn, turn));
+        QVERIFY(isClose(single(pose.local[1].origin), {1, 2, 3}));
+        QVERIFY(dot(pose.local[0].turn, Turn(half, half, 0, 0)) > 0.99); // upright, by the sign that it had
+    }
+
+    void samplesByTime()
+    {
+        HandScene made;
+        made.node("hips");
+        const SceneNodes nodes(made.scene);
+        aiNodeAnim *channel = new aiNodeAnim;
+        channel->mNodeName = "hips";
+        const auto key = [](double time, float x) { return aiVectorKey(time, aiVector3D(x, 0, 0)); };
+        // Out of order, twice at one time, nowhere, and at no time.
+        channel->mNumPositionKeys = 6;
+        channel->mPositionKeys = new aiVectorKey[6]{key(40, 4), key(10, 1),   key(20, 2),
+                                                    key(20, 3), key(30, NaN), key(double(NaN), 9)};
+        channel->mNumRotationKeys = 2;
+        channel->mRotationKeys = new aiQuatKey[2]{aiQuatKey(0, aiQuaternion(0, 0, 0, 0)),
+                                                  aiQuatKey(0, aiQuaternion(half, 0, 0, half))};
+        channel->mNumScalingKeys = 1;
+        channel->mScalingKeys = new aiVectorKey[1]{aiVectorKey(0, aiVector3D(2, 3, 4))};
+        aiAnimation clip;
+        clip.mTicksPerSecond = 20;
+        clip.mNumChannels = 1;
+        clip.mChannels = new aiNodeAnim *[1] { channel };
+        const ClipSampler sampler(nodes, clip);
+        QCOMPARE(sampler.length(), 1.5);
+        QCOMPARE(sampler.ownRate(), 20.0);
+        std::vector<Matrix4> places = nodes.restPlaces();
+        for (const auto &[seconds, x] : std::map<double, double>{
+                 {-1, 1}, {0, 1}, {0.25, 1.5}, {0.5, 3}, {1.0, 3.5}, {1.5, 4}, {99, 4}}) {
+            sampler.place(seconds, places);
+            QCOMPARE(places[1].a4, x);
+            // Twice as long along its own x, which looks along y.
+            const Vector3 end = Matrix3(places[1]) * Vector3(1, 0, 0);
+            QVERIFY(isClose(single(end), {0, 2, 0}));
+        }
+        // Ticks that are milliseconds say nothing; the keys lie ten of them apart, then.
+        clip.mTicksPerSecond = 240;
+        QCOMPARE(ClipSampler(nodes, clip).ownRate(), 24.0);
+        clip.mTicksPerSecond = 0;
+        QCOMPARE(ClipSampler(nodes, clip).length(), 1.2);
+        clip.mTicksPerSecond = double(NaN);
+        QCOMPARE(ClipSampler(nodes, clip).ownRate(), 25.0);
+    }
+
+    void bonesAndClips()
+    {
+        const SmallGltf::Channel turn{
+            2, true, {{0, {0, 0, 0, 1}}, {400, {half, 0, 0, half}}, {1000, {0, 0, 0, -1}}}};
+        const SmallGltf::Channel shift{2, false, {{500, {0, 0, 0}}, {1016, {0, 0, 50}}}};
+        importSkinned(m_folder.put(
+            "rig.gltf", SmallGltf().file({{"turn", {turn}},
+                                          {"walk [3]", {shift}},
+                                          {"pose", {{1, false, {{0, {9, 2, 3}}}}}},
+                                          {"rest", {{1, false, {{0, {1, 2, 3}}}}}},
+                                          {"again [3]", {turn}},
+                                          {"[0]", {{2, true, turn.keys}, {3, true, turn.keys}}}})));
+        QCOMPARE(lines(LogSeverity::Error), QStringList());
+        QCOMPARE(m_mesh.nodes.size(), size_t(3));
+        QCOMPARE(m_mesh.nodes[0].childNodes, (std::vector<quint16>{1, 2}));
+        QCOMPARE(int(m_mesh.nodes[2].parentNode), 0);
+        QCOMPARE(m_names.bones, (QHash<int, QString>{{0, "hips"}, {1, "arm"}, {2, "tail"}}));
+        QCOMPARE(boneSymbolName(m_mesh, 0), QStringLiteral("Left Pelvis"));
+
+        QCOMPARE(m_anim.blocks.size(), size_t(6));
+        const AnimBlock &turned = m_anim.blocks[0];
+        // hips at (1, 2, 3) upright; the tail's turn about z stays, its size goes.
+        QVERIFY(isClose(turned.nodes[0].initialPosition, {1, -3, 2}));
+        QVERIFY(isClose(turned.nodes[0].initialRotation.toVector3D(), {half, 0, 0}));
+        QVERIFY(isClose(turned.nodes[2].initialRotation.toVector3D(), {0, 0, half}));
+        QCOMPARE(turned.frameCount(), 31);
+        QCOMPARE(turned.speed, 30.0f);
+        QCOMPARE(int(turned.blendLength), 5);
+        QCOMPARE(int(turned.blendEnd), 30);
+        QCOMPARE(int(turned.loopFrame), 0); // back where it began
+        QCOMPARE(turned.translations.trackCount(), 0);
+        QCOMPARE(turned.rotations.trackCount(), 1);
+        QCOMPARE(int(turned.nodes[0].rotationIndex), 0xFFFF);
+        QCOMPARE(int(turned.nodes[1].rotationIndex), 0);
+        // The last key's sign is that of the keys before.
+        QVERIFY(isClose(turned.rotations.at(0, 12).toVector3D(), {half, 0, 0}));
+        QVERIFY(turned.rotations.at(0, 30).w() > 0.99f);
+        const AnimBlock &walk = m_anim.blocks[1];
+        QCOMPARE(walk.frameCount(), 16); // from its first key; 15.48 frames are 15 and one
+        QVERIFY(isClose(walk.translations.at(0, 0), {}));
+        QCOMPARE(int(walk.loopFrame), 0xFFFF);
+        // A block of one frame shows its initial pose, so a pose takes two; the rest pose takes one.
+        QCOMPARE(m_anim.blocks[2].frameCount(), 2);
+        QVERIFY(isClose(m_anim.blocks[2].translations.at(0, 0), {9, -3, 2}));
+        QCOMPARE(m_anim.blocks[3].frameCount(), 1);
+        QCOMPARE(m_anim.blocks[3].translations.trackCount(), 0);
+        QCOMPARE(m_anim.blocks[5].rotations.trackCount(), 1); // arm and tail turn alike
+        QCOMPARE(int(m_anim.blocks[5].nodes[2].rotationIndex), 0);
+        QList<int> ids;
+        for (const AnimBlock &block : m_anim.blocks)
+            ids += block.animId;
+        QCOMPARE(ids, (QList<int>{1, 3, 2, 4, 5, 0}));
+        QCOMPARE(m_names.animations.value(3), QStringLiteral("walk [3]"));
+        QVERIFY(m_anim.refusal().isEmpty() && m_mesh.refusal().isEmpty());
+
+        m_choices.allClips = false;
+        m_choices.clips = {{1, ReadyClip::Loop::Always}, {9}, {0, ReadyClip::Loop::Never}};
+        m_choices.rate = 0.0;
+        m_choices.scale = 10.0f;
+        importSkinned(m_folder.path("rig.gltf"));
+        QVERIFY(lines(LogSeverity::Warning).contains("rig.gltf has no animation 9"));
+        QCOMPARE(m_anim.blocks.size(), size_t(2));
+        QCOMPARE(int(m_anim.blocks[0].loopFrame), 0);
+        QCOMPARE(int(m_anim.blocks[1].loopFrame), 0xFFFF);
+        QVERIFY(isClose(m_anim.blocks[0].nodes[0].initialPosition, {10, -30, 20}));
+        QCOMPARE(m_mesh.nodes.size(), size_t(3)); // bones depend on the file, not on what is taken
+
+        // Without any, the rest pose stands in a block: nothing else holds it.
+        m_choices.clips.clear();
+        importSkinned(m_folder.path("rig.gltf"));
+        QCOMPARE(m_anim.blocks.size(), size_t(1));
+        QCOMPARE(m_anim.blocks[0].frameCount(), 1);
+        QVERIFY(isClose(m_anim.blocks[0].nodes[0].initialPosition, {10, -30, 20}));
+    }
+
+    void endlessClips()
+    {
+        const QVector<SmallGltf::Key> long_{{0, {0, 0, 0, 1}}, {1e9f, {half, 0, 0, half}}};
+        importSkinned(m_folder.put("long.gltf", SmallGltf().file({{"a", {{2, true, long_}}}})));
+        QCOMPARE(m_anim.blocks.at(0).frameCount(), 65535);
+        QCOMPARE(lines(LogSeverity::Warning).filter("Animation 0 was cut to 65535 frames").size(), 1);
+        QVERIFY(m_anim.refusal().isEmpty());
+    }
+
+    void upright()
+    {
+        // A wedge before the origin, its front face counter-clockwise seen from +z.
+        const QString path =
+            m_folder.put("wedge.obj", "v 0 0 1\nv 2 0 1\nv 0 4 1\nvt 0.25 0.75\nf 1/1 2/1 3/1\nl 1 2\np 3\n");
+        const StaticMesh rigid = importStatic(path);
+        QCOMPARE(lines(LogSeverity::Warning).filter("2 points and lines were left out").size(), 1);
+        importSkinned(path);
+        QCOMPARE(m_mesh.nodes.size(), size_t(1)); // for the vertices to be on
+        QVERIFY(m_anim.blocks.empty());
+        const auto check = [](const auto &mesh) {
+            QCOMPARE(mesh.bbMin, QVector3D(0, -1, 0));
+            QCOMPARE(mesh.bbMax, QVector3D(2, -1, 4));
+            QCOMPARE(mesh.vertices.size(), size_t(3));
+            QCOMPARE(mesh.vertices[0].uv, QVector2D(0.25f, 0.75f));
+            QCOMPARE(mesh.vertices[0].normal, QVector3D(0, -1, 0));
+            std::array<QVector3D, 3> corners;
+            for (size_t i = 0; i < 3; ++i)
+                corners[i] = mesh.vertices[mesh.surfaces.at(0).triangleIndexes.at(i)].position;
+            // Clockwise from the front, which is where the normal points.
+            QVERIFY(QVector3D::crossProduct(corners[1] - corners[0], corners[2] - corners[0]).y() > 0.0f);
+        };
+        check(rigid);
+        check(m_mesh);
+        QCOMPARE(m_mesh.nodes[0].bbMax, m_mesh.bbMax);
+
+        importSkinned(m_folder.put("line.obj", "v 0 0 1\nv 2 0 1\nv 2 1 1\nl 1 2\nl 2 3\n"));
+        QCOMPARE(lines(LogSeverity::Error), QStringList("line.obj does not contain any triangles"));
+    }
+
+    void instancesAndMirrors()
+    {
+        // Two nodes show one mesh, one of them in a mirror, below a bone and beside it.
+        HandScene made;
+        aiNode *hips = made.node("hips");
+        made.node("left", hips, true);
+        aiNode *right = made.node("right", nullptr, true);
+        right->mTransformation.a1 = -2.0f;
+        auto *mesh = new aiMesh;
+        made.scene.mNumMeshes = 1;
+        made.scene.mMeshes = new aiMesh *[1] { mesh };
+        const SceneNodes nodes(made.scene);
+        const std::vector<bool> all(size_t(nodes.count()), true);
+        const SceneParts parts(made.scene, nodes, nodes.worldPlaces(nodes.restPlaces(), all, 1.0));
+        QCOMPARE(parts.parts().size(), size_t(2));
+        QVERIFY(Matrix3(parts.parts()[1].movers[0].place).Determinant() < 0.0);
+        const Vector3 normal = normalMatrix(parts.parts()[1].movers[0].place) * Vector3(1, 0, 0);
+        QVERIFY(normal.x < 0.0 && std::abs(normal.y) < 1e-9);
+        QVERIFY(SceneParts::bareNodes(made.scene, nodes) == HandScene::marks(nodes, {"left", "right"}));
+    }
+
+    void materialsAndTextures()
+    {
+        QImage red(4, 4, QImage::Format_RGB32);
+        red.fill(Qt::red);
+        QVERIFY(red.save(m_folder.path("Rote Wand.jpg")));
+        QVERIFY(red.save(m_folder.path("steel.png")));
+        m_folder.put(
+            "m.mtl",
+            "newmtl a\nmap_Kd C:\\old\\disk\\Rote Wand.jpg\n"
+            "newmtl b\nKd 0 0.5 0\nnewmtl c\nKd 0 0.5 0\n" // differ by their names only
+            "newmtl \xD0\xBA\xD0\xBE\xD1\x82\nmap_Kd steel.png\nnewmtl snow_white\nmap_Kd steel.png\n"
+            "newmtl plain\nKd 1 1 1\nnewmtl unused\nKd 1 0 0\nnewmtl gone\nKd 1 1 1\nmap_Kd gone.png\n");
+        QByteArray obj = "mtllib m.mtl\nv 0 0 0\nv 1 0 0\nv 0 1 0\nvt 0 0\n";
+        for (const char *name : {"a", "b", "c", "\xD0\xBA\xD0\xBE\xD1\x82", "snow_white", "plain", "gone"})
+            obj += QByteArray("usemtl ") + name + "\nf 1/1 2/1 3/1\n";
+        const StaticMesh mesh = importStatic(m_folder.put("two words.obj", obj));
+        QStringList names;
+        for (const StaticMeshSurface &surface : mesh.surfaces)
+            names += surface.materialPath.section('/', -1);
+        names.sort();
+        // Material files end a value at a blank, and a name in "_white" says that there is no texture.
+        QCOMPARE(names, QStringList({"___", "a", "b", "c", "gone_white", "plain_white", "snow_white_1"}));
+        QStringList files;
+        for (const QString &texture : m_textures) {
+            files += QFileInfo(texture).fileName();
+            QVERIFY(!QImage(texture).isNull());
+        }
+        files.sort();
+        QCOMPARE(files, QStringList({"Rote_Wand.png", "steel.png", "steel.png", "two_words_b.png",
+                                     "two_words_c.png"}));
+        QVERIFY(m_textures.contains(m_folder.path("steel.png"))); // as it is
+        QCOMPARE(QImage(m_folder.path("job/two_words_b.png")).pixelColor(0, 0), QColor(0, 128, 0));
+        QCOMPARE(lines(LogSeverity::Warning),
+                 QStringList("two words.obj Material 'gone': its texture 'gone.png' was not found"));
+    }
+
+    void symbolsByName()
+    {
+        const std::map<QString, QString> expected{{"Hips", "Left Pelvis"},
+                                                  {"mixamorig:LeftUpLeg", "Left Upper Leg"},
+                                                  {"mixamorig:LeftLeg", "Left Lower Leg"},
+                                                  {"Bip01 R UpperArm", "Right Upper Arm"},
+                                                  {"forearm.L", "Left Lower Arm"},
+                                                  {"b_RightForeArm_07", "Right Lower Arm"},
+                                                  {"hand_r", "Right Hand"},
+                                                  {"RightHandIndex1", "Right Hand"},
+                                                  {"ForearmTwist_R", "Right Lower Arm"},
+                                                  {"foot.r.001", "Right Foot"},
+                                                  {"head", "Left Skull"},
+                                                  {"jaw", "Left Chin"},
+                                                  {"hip_l", "Left Hip"},
+                                                  {"spine", "Left Lower Torso"},
+                                                  {"Spine2", "Left Upper Torso"},
+                                                  {"lefthand", "Left Hand"},
+                                                  {"hand.ik.l", ""},
+                                                  {"Bone.012", ""},
+                                                  {"RobotArmature", ""},
+                                                  {"slider", ""}};
+        SkinnedMesh mesh;
+        mesh.nodes.resize(1);
+        for (const auto &[name, symbol] : expected) {
+            const auto flags = guessedSymbolFlags(name);
+            mesh.nodes[0].symbolFlags = flags.value_or(0);
+            QCOMPARE(name + ": " + (flags ? boneSymbolName(mesh, 0) : QString()), name + ": " + symbol);
+        }
+    }
+
+    void realRigs()
+    {
+        SKIP_WITHOUT_SHARED("models");
+        struct Row
+        {
+            const char *path;
+            size_t bones, surfaces;
+            int frames, merged;
+        };
+        const Row rows[] = {{"gltf_fox/Fox.gltf", 24, 1, 104 + 22 + 36, 0},
+                            {"glb_kenney_character/character.glb", 7, 1, 4 + 21 + 14 + 16, 0},
+                            {"mdl_hl1_man/man.mdl", 7, 3, 36, 0},
+                            {"bvh_212bones/benchmark.bvh", 128, 1, 2, 1},
+                            {"fbx_bin_robot/Robot.fbx", 44, 3, 601, 0}};
+        for (const Row &row : rows) {
+            importSkinned(TestSupport::shared(QStringLiteral("models/") + row.path));
+            QCOMPARE(lines(LogSeverity::Error), QStringList());
+            QCOMPARE(m_mesh.nodes.size(), row.bones);
+            QCOMPARE(m_mesh.surfaces.size(), row.surfaces);
+            QCOMPARE(lines(LogSeverity::Warning).filter("went with their parents").size(), row.merged);
+            int frames = 0;
+            for (const AnimBlock &block : m_anim.blocks)
+                frames += block.frameCount();
+            QCOMPARE(frames, row.frames);
+        }
+        // The man stands: his head is above his feet, though the library lists his bones flat.
+        importSkinned(TestSupport::shared("models/mdl_hl1_man/man.mdl"));
+        QVERIFY(m_mesh.bbMin.z() > -0.1f && m_mesh.bbMax.z() > 9.0f);
+    }
+
+private:
+    ReadySource source(const QString &path) const
+    {
+        return {path, m_kmatPath, m_folder.path("job"), m_choices};
+    }
+
+    void importSkinned(const QString &path)
+    {
+        m_mesh = {};
+        m_anim = {};
+        m_names = {};
+        m_textures.clear();
+        m_messages = {};
+        importReadySkinnedMesh(source(path), m_textures, m_mesh, m_anim, m_names, m_messages);
+    }
+
+    StaticMesh importStatic(const QString &path)
+    {
+        m_textures.clear();
+        m_messages = {};
+        return importReadyStaticMesh(source(path), m_textures, m_messages);
+    }
+
+    QStringList lines(LogSeverity severity) const
+    {
+        QStringList texts;
+        for (const ImportMessage &line : m_messages.lines) {
+            if (line.severity == severity)
+                texts += QString(line.text).remove(m_folder.path() + QLatin1Char('/'));
+        }
+        return texts;
+    }
+
+    const TestFolder m_folder{};
+    const QString m_kmatPath = QStringLiteral("materials/mat_x.kmat");
+    ReadyChoices m_choices;
+    SkinnedMesh m_mesh;
+    AnimFile m_anim;
+    ModelNames m_names;
+    QStringList m_textures;
+    ImportMessages m_messages;
+};
+
+QTEST_GUILESS_MAIN(tst_readyimport)
+#include "tst_readyimport.moc"

@@ -235,11 +235,25 @@ private:
             m_instances.push_back({m_scene.mMeshes[node.mMeshes[m]], size_t(index), {}});
         for (unsigned c = 0; c < node.mNumChildren; ++c)
             collect(*node.mChildren[c], index);
+        if (parent < 0)
+            followOwnParents();
         if (parent < 0 && m_joints)
             m_instances.clear();
         if (parent < 0) {
             for (Instance &instance : m_instances)
                 bind(instance);
+        }
+    }
+
+    /// The reader of Half-Life models lists all bones below one node, but has them name their parents.
+    void followOwnParents()
+    {
+        std::map<const aiNode *, int> numbers;
+        for (size_t n = 0; n < m_nodes.size(); ++n) {
+            const auto named = numbers.find(m_nodes[n].node->mParent);
+            if (named != numbers.end())
+                m_nodes[n].parent = named->second;
+            numbers.emplace(m_nodes[n].node, int(n));
         }
     }
 

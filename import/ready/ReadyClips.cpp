@@ -9,7 +9,6 @@
 #include <QSet>
 
 #include <algorithm>
-#include <cstring>
 
 namespace {
 constexpr double LeastRate = 1.0; // the game plays nothing slower
@@ -18,6 +17,8 @@ constexpr double GreatestRate = 240.0;
 constexpr int FrameLimit = 65535;
 /// Bones times frames of all clips together: some 500 MB at most while they are made.
 constexpr qint64 PoseLimit = 16'000'000;
+/// The same where movements are only looked at; of longer clips only every n-th frame is.
+constexpr qint64 SeenPoseLimit = 2'000'000;
 constexpr quint16 BlendLength = 5;
 constexpr quint16 NoTrack = 0xFFFF;
 constexpr quint16 NoLoop = 0xFFFF;
@@ -195,14 +196,14 @@ std::vector<bool> ReadyClips::moved() const
 }
 
 template <typename Look>
-void ReadyClips::eachPose(const Taken &taken, const ReadySkeleton &skeleton, Look look) const
+void ReadyClips::eachPose(const Taken &taken, const ReadySkeleton &skeleton, int step, Look look) const
 {
     std::vector<Matrix4> places = m_nodes.restPlaces();
     SkeletonPose pose;
     // From the rest pose on, so that quaternions keep their signs and what is flattened its last rotation.
     const double scale = double(m_choices.scale);
     skeleton.pose(m_nodes.worldPlaces(places, skeleton.wanted(), scale), pose);
-    for (int frame = 0; frame < taken.frames; ++frame) {
+    for (int frame = 0; frame < taken.frames; frame += step) {
         m_clips[size_t(taken.choice.clip)].place(frame / taken.rate, places);
         skeleton.pose(m_nodes.worldPlaces(places, skeleton.wanted(), scale), pose);
         look(frame, pose);
@@ -227,8 +228,12 @@ std::vector<double> ReadyClips::movements(const ReadySkeleton &skeleton, const S
     });
     const double size = box ? greatestSide(*box) : 0.0;
     std::vector<double> movements(bones);
+    qint64 frames = 0;
+    for (const Taken &taken : m_taken)
+        frames += taken.frames;
+    const int step = int(frames * qint64(bones) / SeenPoseLimit) + 1;
     for (const Taken &taken : m_taken) {
-        eachPose(taken, skeleton, [&](int, const SkeletonPose &pose) {
+        eachPose(taken, skeleton, step, [&](int, const SkeletonPose &pose) {
             for (size_t b = 0; b < bones; ++b) {
                 const Turn apart = difference(pose.local[b].turn, rest.local[b].turn);
                 // The chord of twice the angle whose half's sine stands in a quaternion.
@@ -282,7 +287,7 @@ AnimBlock ReadyClips::makeBlock(const Taken &taken, const ReadySkeleton &skeleto
     std::vector<bool> isTurned(bones);
     SkeletonPose first;
     SkeletonPose last;
-    eachPose(taken, skeleton, [&](int frame, const SkeletonPose &pose) {
+    eachPose(taken, skeleton, 1, [&](int frame, const SkeletonPose &pose) {
         for (size_t b = 0; b < bones; ++b) {
             const RigidFrame &local = pose.local[b];
             places[b].push_back(single(local.origin));

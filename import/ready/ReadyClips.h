@@ -44,9 +44,9 @@ private:
     int frameCount(int clip, double rate) const;
     double rateOf(const ClipSampler &clip) const;
     void warnOfCut(int clip, int frames) const;
-    /// Calls look(frame, pose) for each frame.
+    /// Calls look(frame, pose) for every `step`-th frame.
     template <typename Look>
-    void eachPose(const Taken &taken, const ReadySkeleton &skeleton, Look look) const;
+    void eachPose(const Taken &taken, const ReadySkeleton &skeleton, int step, Look look) const;
     AnimBlock makeBlock(const Taken &taken, const ReadySkeleton &skeleton, const SkeletonPose &rest,
                         const SkinnedMesh &mesh, std::vector<bool> &isStretched) const;
 

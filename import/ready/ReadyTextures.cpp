@@ -106,7 +106,8 @@ QString ReadyTextures::fileOf(const aiString &stored, const QString &name)
         m_source.messages.addWarning(
             QCoreApplication::translate("Import", "%1 Material '%2': its texture '%3' was not found")
                 .arg(m_source.modelPath, name, key));
-    } else if (found.endsWith(QLatin1String(".png")) && plainName(base) == base) {
+    } else if (found.endsWith(QLatin1String(".png")) && plainName(base) == base &&
+               QImageReader(found).canRead()) {
         file = found;
     } else {
         QFile bytes(found);

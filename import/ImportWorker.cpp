@@ -65,6 +65,16 @@ void ImportWorker::start(const WorkerJob &job, const StaticMesh &mesh)
         launch();
 }
 
+void ImportWorker::start(const WorkerJob &job, const SkinnedMesh &mesh, const AnimFile &anim)
+{
+    const bool failed = prepare(job) || mesh.write(WorkerFolder(m_folder->path()).skinnedMesh()) ||
+                        (!anim.blocks.empty() && anim.write(WorkerFolder(m_folder->path()).anim()));
+    if (failed)
+        finish(tr("No temporary file could be written."));
+    else
+        launch();
+}
+
 bool ImportWorker::prepare(const WorkerJob &job)
 {
     Q_ASSERT(!m_running);

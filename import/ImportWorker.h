@@ -36,6 +36,8 @@ public:
     void start(const WorkerJob &job);
     /// The same, with the model to be exported.
     void start(const WorkerJob &job, const StaticMesh &mesh);
+    /// The same, with the models to be updated; an animation without blocks stands for none.
+    void start(const WorkerJob &job, const SkinnedMesh &mesh, const AnimFile &anim);
     bool isRunning() const { return m_running; }
     /// Of the running job, in milliseconds.
     qint64 elapsed() const { return m_elapsed.elapsed(); }
@@ -46,6 +48,7 @@ public:
     const QStringList &textures() const { return m_answer.textures; }
     const ModelNames &names() const { return m_answer.names; }
     const SceneSummary &summary() const { return m_answer.summary; }
+    const UpdateAccount &update() const { return m_answer.update; }
     /// These return true on failure. An animation file without blocks stands for no animation.
     [[nodiscard]] bool read(SkinnedMesh &mesh, AnimFile &anim) const;
     [[nodiscard]] bool read(StaticMesh &mesh) const;

@@ -90,6 +90,28 @@ void readSummary(QDataStream &in, SceneSummary &summary)
     readList(in, summary.textures);
 }
 
+void writeUpdate(QDataStream &out, const UpdateAccount &update)
+{
+    out << update.model << update.missingBlocks << update.changesMesh << update.changesAnim
+        << qint32(update.lines.size());
+    for (const UpdateLine &line : update.lines)
+        out << qint32(line.kind) << line.text;
+}
+
+void readUpdate(QDataStream &in, UpdateAccount &update)
+{
+    qint32 count = 0;
+    in >> update.model >> update.missingBlocks >> update.changesMesh >> update.changesAnim >> count;
+    for (qint32 i = 0; i < count && in.status() == QDataStream::Ok; ++i) {
+        qint32 kind = 0;
+        QString text;
+        in >> kind >> text;
+        if (kind < int(UpdateLine::Changed) || kind > int(UpdateLine::Note))
+            in.setStatus(QDataStream::ReadCorruptData);
+        update.add(UpdateLine::Kind(kind), text);
+    }
+}
+
 template <typename Write>
 bool writeStream(const QString &path, quint32 mark, Write write)
 {
@@ -150,6 +172,7 @@ bool WorkerFolder::write(const WorkerAnswer &answer) const
     return writeStream(path(QStringLiteral("answer")), AnswerMark, [&answer](QDataStream &out) {
         out << answer.textures << answer.names.toJson();
         writeSummary(out, answer.summary);
+        writeUpdate(out, answer.update);
         out << qint32(answer.messages.size());
         for (const ImportMessage &message : answer.messages)
             out << qint32(message.severity) << message.text;
@@ -164,6 +187,7 @@ bool WorkerFolder::read(WorkerAnswer &answer) const
         if (answer.names.fromJson(names))
             in.setStatus(QDataStream::ReadCorruptData);
         readSummary(in, answer.summary);
+        readUpdate(in, answer.update);
         qint32 count = 0;
         in >> count;
         for (qint32 i = 0; i < count && in.status() == QDataStream::Ok; ++i) {

@@ -9,6 +9,7 @@
 #include "SceneSummary.h"
 #include "SkinnedMesh.h"
 #include "StaticMesh.h"
+#include "UpdateAccount.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -25,13 +26,15 @@ struct WorkerJob
         ExportObj,
         Summarize,
         ImportReadySkinnedMesh,
-        ImportReadyStaticMesh
+        ImportReadyStaticMesh,
+        UpdateSkinnedMesh,
+        UpdateStaticMesh
     };
 
     Task task = Task::ImportSkinnedMesh;
     int memoryLimitMiB = 4096; ///< of address space
 
-    // Import.
+    // Import. An update takes the models that are open out of the folder and leaves what becomes of them.
     QString modelPath;
     QString kmatPath;  ///< relative to the mod folder; surfaces refer to it
     quint32 flags = 0; ///< see ImportFlags
@@ -60,6 +63,7 @@ struct WorkerAnswer
     QStringList textures; ///< distinct, in the order of the surfaces that have one
     ModelNames names;     ///< of a skinned mesh that arrives ready for the game
     SceneSummary summary; ///< of a file that was only looked at
+    UpdateAccount update; ///< of an open model
 };
 
 /// The files of one job in `folder`. All functions return true on failure.

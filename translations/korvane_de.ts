@@ -1845,6 +1845,157 @@ Ohne diese Eingabe fortfahren?</translation>
     </message>
 </context>
 <context>
+    <name>Gltf</name>
+    <message>
+        <source>The file is damaged, or no glTF 2.0: %1</source>
+        <translation>Die Datei ist beschädigt oder kein glTF 2.0: %1</translation>
+    </message>
+    <message>
+        <source>The file needs the extension %1, which cannot be read.</source>
+        <translation>Die Datei braucht die Erweiterung %1, die nicht gelesen werden kann.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos;, which belongs to it, cannot be read.</source>
+        <translation>Die Datei „%1“, die dazugehört, kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The file cannot be opened.</source>
+        <translation>Die Datei kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Surface %1: &apos;%2&apos;</source>
+        <translation>Fläche %1: „%2“</translation>
+    </message>
+    <message>
+        <source>It has more vertices than a model can.</source>
+        <translation>Sie hat mehr Vertices, als ein Modell haben kann.</translation>
+    </message>
+    <message>
+        <source>Vertices with other values: %1</source>
+        <translation>Vertices mit anderen Werten: %1</translation>
+    </message>
+    <message>
+        <source>Vertices: %1</source>
+        <translation>Vertices: %1</translation>
+    </message>
+    <message>
+        <source>Triangles: %1</source>
+        <translation>Dreiecke: %1</translation>
+    </message>
+    <message>
+        <source>Vertices that go: %1</source>
+        <translation>Vertices, die entfallen: %1</translation>
+    </message>
+    <message>
+        <source>Triangles that go: %1</source>
+        <translation>Dreiecke, die entfallen: %1</translation>
+    </message>
+    <message>
+        <source>Objects that hang on no bone, left out: %1</source>
+        <translation>Objekte, die an keinem Knochen hängen, ausgelassen: %1</translation>
+    </message>
+    <message>
+        <source>Bone %1 &apos;%2&apos; on bone %3</source>
+        <translation>Knochen %1 „%2“ an Knochen %3</translation>
+    </message>
+    <message>
+        <source>Hot point %1</source>
+        <translation>Hotpoint %1</translation>
+    </message>
+    <message>
+        <source>Hot point %1: moved on its bone</source>
+        <translation>Hotpoint %1: auf seinem Knochen verschoben</translation>
+    </message>
+    <message>
+        <source>Bone %1</source>
+        <translation>Knochen %1</translation>
+    </message>
+    <message>
+        <source>Bones that start elsewhere: %1</source>
+        <translation>Knochen, die woanders ansetzen: %1</translation>
+    </message>
+    <message>
+        <source>Bones without vertices, left out: %1</source>
+        <translation>Knochen ohne Vertices, ausgelassen: %1</translation>
+    </message>
+    <message>
+        <source>Vertices with several bones, of which each follows the strongest: %1</source>
+        <translation>Vertices mit mehreren Knochen, die jeweils dem stärksten folgen: %1</translation>
+    </message>
+    <message>
+        <source>Vertices without a bone, which follow bone 0: %1</source>
+        <translation>Vertices ohne Knochen, die Knochen 0 folgen: %1</translation>
+    </message>
+    <message>
+        <source>More bones than the game can pose: %1, at most %2</source>
+        <translation>Mehr Knochen, als das Spiel bewegen kann: %1, höchstens %2</translation>
+    </message>
+    <message>
+        <source>Lists of points or lines, left out: %1</source>
+        <translation>Listen von Punkten oder Linien, ausgelassen: %1</translation>
+    </message>
+    <message>
+        <source>With its new bones the model has %1, more than %2.</source>
+        <translation>Mit seinen neuen Knochen hat das Modell %1, mehr als %2.</translation>
+    </message>
+    <message>
+        <source>Animations, left out since none of the model&apos;s is open: %1</source>
+        <translation>Animationen, ausgelassen, da keine des Modells geöffnet ist: %1</translation>
+    </message>
+    <message>
+        <source>The file has lost what the export noted in it (custom properties), so bones and animations were found by their names.</source>
+        <translation>Die Datei hat verloren, was der Export in ihr vermerkt hat (Custom Properties); Knochen und Animationen wurden deshalb an ihren Namen erkannt.</translation>
+    </message>
+    <message>
+        <source>Nothing in it comes from the model that is open.</source>
+        <translation>Nichts in ihr stammt aus dem geöffneten Modell.</translation>
+    </message>
+    <message>
+        <source>Objects that are no part of the model, left out: %1</source>
+        <translation>Objekte, die nicht zum Modell gehören, ausgelassen: %1</translation>
+    </message>
+    <message>
+        <source>The bone &apos;%1&apos; has no size in the file.</source>
+        <translation>Der Knochen „%1“ hat in der Datei keine Ausdehnung.</translation>
+    </message>
+    <message>
+        <source>None of its bones is one of the model that is open.</source>
+        <translation>Keiner ihrer Knochen ist einer des geöffneten Modells.</translation>
+    </message>
+    <message>
+        <source>Animation %1 [%2]</source>
+        <translation>Animation %1 [%2]</translation>
+    </message>
+    <message>
+        <source>Bones that are scaled, which the format has no place for: %1</source>
+        <translation>Skalierte Knochen, wofür das Format keinen Platz hat: %1</translation>
+    </message>
+    <message>
+        <source>The animations have more than %1 frames.</source>
+        <translation>Die Animationen haben mehr als %1 Frames.</translation>
+    </message>
+    <message>
+        <source>%1 frames, not %2</source>
+        <translation>%1 Frames, nicht %2</translation>
+    </message>
+    <message>
+        <source>bones that move otherwise: %1</source>
+        <translation>Knochen, die sich anders bewegen: %1</translation>
+    </message>
+    <message>
+        <source>other yaw offsets</source>
+        <translation>anderer Gierversatz</translation>
+    </message>
+    <message>
+        <source>Animation %1 &apos;%2&apos;: %3</source>
+        <translation>Animation %1 „%2“: %3</translation>
+    </message>
+    <message>
+        <source>Animation %1 &apos;%2&apos;: %3 frames</source>
+        <translation>Animation %1 „%2“: %3 Frames</translation>
+    </message>
+</context>
+<context>
     <name>HistoryView</name>
     <message>
         <source>As opened</source>
@@ -2098,6 +2249,38 @@ Ohne diese Eingabe fortfahren?</translation>
     <message>
         <source>%1 Bones that change their size in animations, which in the game they keep: %2</source>
         <translation>%1 Knochen, die in Animationen ihre Größe ändern, was sie im Spiel nicht tun: %2</translation>
+    </message>
+    <message>
+        <source>[glTF Export] %1 is too fast for times of its frames; it is written with 30 a second</source>
+        <translation>[glTF-Export] %1 ist zu schnell für Zeiten der einzelnen Frames und wird mit 30 je Sekunde geschrieben</translation>
+    </message>
+    <message>
+        <source>[glTF Export] The file would be larger than %1 MiB. Export fewer animations at a time.</source>
+        <translation>[glTF-Export] Die Datei würde größer als %1 MiB. Exportieren Sie weniger Animationen auf einmal.</translation>
+    </message>
+    <message>
+        <source>[glTF Export] %1 vertices belong to bones that are not there, and move with bone 0</source>
+        <translation>[glTF-Export] %1 Vertices gehören zu Knochen, die es nicht gibt, und bewegen sich mit Knochen 0</translation>
+    </message>
+    <message>
+        <source>[glTF Export] The animation has another number of bones than the mesh, and is left out</source>
+        <translation>[glTF-Export] Die Animation hat eine andere Knochenzahl als das Mesh und wird ausgelassen</translation>
+    </message>
+    <message>
+        <source>[glTF Export] The mesh has no triangles</source>
+        <translation>[glTF-Export] Das Mesh hat keine Dreiecke</translation>
+    </message>
+    <message>
+        <source>[glTF Export] Surface %1: %2 triangles name vertices that are not there and are left out</source>
+        <translation>[glTF-Export] Fläche %1: %2 Dreiecke nennen Vertices, die es nicht gibt, und werden ausgelassen</translation>
+    </message>
+    <message>
+        <source>[glTF Export] %1 numbers of vertices are none, and are written as 0</source>
+        <translation>[glTF-Export] %1 Zahlen von Vertices sind keine und werden als 0 geschrieben</translation>
+    </message>
+    <message>
+        <source>Texture &apos;%1&apos; not found, or it cannot be read</source>
+        <translation>Textur „%1“ nicht gefunden oder nicht lesbar</translation>
     </message>
 </context>
 <context>

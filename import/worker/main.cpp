@@ -3,7 +3,9 @@
 //
 // Reads and writes foreign model files for the editor, in a process of its own: the library that does it is
 // killed by some damaged files and never returns from others.
+#include "GltfReader.h"
 #include "Language.h"
+#include "ModelUpdate.h"
 #include "ObjExport.h"
 #include "ReadyImport.h"
 #include "SceneImport.h"
@@ -11,6 +13,7 @@
 #include "WorkerJob.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 #include <clocale>
 #include <cstdio>
@@ -58,21 +61,31 @@ void confine(int memoryLimitMiB)
 }
 
 /// Hands a model over, if there is one. Returns true on failure.
-bool handOver(SkinnedMesh &mesh, AnimFile &anim, const WorkerJob &job, const WorkerFolder &folder,
+bool handOver(const SkinnedMesh &mesh, const AnimFile &anim, const WorkerFolder &folder,
               const ImportMessages &messages)
 {
-    mesh.version = job.meshVersion;
-    anim.version = job.animVersion;
     // A file of no animation cannot be written: none stands for it.
     return !messages.hasError() &&
            (mesh.write(folder.skinnedMesh()) || (!anim.blocks.empty() && anim.write(folder.anim())));
 }
 
-bool handOver(StaticMesh &mesh, const WorkerJob &job, const WorkerFolder &folder,
-              const ImportMessages &messages)
+bool handOver(const StaticMesh &mesh, const WorkerFolder &folder, const ImportMessages &messages)
 {
-    mesh.version = job.meshVersion;
     return !messages.hasError() && mesh.write(folder.staticMesh());
+}
+
+/// The models that are open become what the file makes of them, unless they could not be read.
+template <typename... Models>
+bool update(bool unread, const WorkerJob &job, const WorkerFolder &folder, WorkerAnswer &answer,
+            ImportMessages &messages, Models &...models)
+{
+    GltfScene scene;
+    QString reason;
+    if (unread)
+        return true;
+    if (readGltf(job.modelPath, scene, reason) || updateModel(scene, models..., answer.update, reason))
+        messages.addError(job.failure(reason));
+    return handOver(models..., folder, messages);
 }
 
 void work(const WorkerJob &job, const WorkerFolder &folder, WorkerAnswer &answer, ImportMessages &messages)
@@ -81,23 +94,27 @@ void work(const WorkerJob &job, const WorkerFolder &folder, WorkerAnswer &answer
     SkinnedMesh skinned;
     AnimFile anim;
     StaticMesh rigid;
+    skinned.version = job.meshVersion;
+    anim.version = job.animVersion;
     bool failed = false;
     switch (job.task) {
     case WorkerJob::Task::ImportSkinnedMesh:
         importSkinnedMesh(job.modelPath, job.kmatPath, job.flags, answer.textures, skinned, anim, messages);
-        failed = handOver(skinned, anim, job, folder, messages);
+        failed = handOver(skinned, anim, folder, messages);
         break;
     case WorkerJob::Task::ImportStaticMesh:
         rigid = importStaticMesh(job.modelPath, job.kmatPath, job.flags, answer.textures, messages);
-        failed = handOver(rigid, job, folder, messages);
+        rigid.version = job.meshVersion;
+        failed = handOver(rigid, folder, messages);
         break;
     case WorkerJob::Task::ImportReadySkinnedMesh:
         importReadySkinnedMesh(ready, answer.textures, skinned, anim, answer.names, messages);
-        failed = handOver(skinned, anim, job, folder, messages);
+        failed = handOver(skinned, anim, folder, messages);
         break;
     case WorkerJob::Task::ImportReadyStaticMesh:
         rigid = importReadyStaticMesh(ready, answer.textures, messages);
-        failed = handOver(rigid, job, folder, messages);
+        rigid.version = job.meshVersion;
+        failed = handOver(rigid, folder, messages);
         break;
     case WorkerJob::Task::ExportObj:
         failed = rigid.read(folder.staticMesh());
@@ -106,6 +123,14 @@ void work(const WorkerJob &job, const WorkerFolder &folder, WorkerAnswer &answer
         break;
     case WorkerJob::Task::Summarize:
         answer.summary = surveyScene(job.modelPath, messages);
+        break;
+    case WorkerJob::Task::UpdateSkinnedMesh:
+        failed = skinned.read(folder.skinnedMesh()) ||
+                 (QFileInfo::exists(folder.anim()) && anim.read(folder.anim()));
+        failed = update(failed, job, folder, answer, messages, skinned, anim);
+        break;
+    case WorkerJob::Task::UpdateStaticMesh:
+        failed = update(rigid.read(folder.staticMesh()), job, folder, answer, messages, rigid);
         break;
     }
     if (failed)

@@ -8,6 +8,7 @@
 #include "Output.h"
 #include "ReadyOptions.h"
 #include "Settings.h"
+#include "UpdateImport.h"
 #include "Verbs.h"
 #include "WholeFile.h"
 #include "WorkerRun.h"
@@ -54,6 +55,7 @@ void addOptions(CommandLine &line)
                 QStringLiteral("Folder for textures, inside the mod folder."), QStringLiteral("textures"));
     line.option({QStringLiteral("time-limit")}, QStringLiteral("seconds"),
                 QStringLiteral("Give up after this long."), QStringLiteral("60"));
+    addUpdateOptions(line);
 }
 
 /// Returns true when a path is wrong, which standard error then says.
@@ -211,6 +213,8 @@ int importModel(const QStringList &arguments)
     const QDir folder(line.value(QStringLiteral("output")));
     if (!folder.exists())
         return line.refuse(QStringLiteral("There is no folder '%1'.").arg(folder.path()));
+    if (line.isSet(QStringLiteral("update")))
+        return updateFromFile(line, *timeLimit);
 
     ImportChoices choices;
     choices.isStatic = line.isSet(QStringLiteral("static"));

@@ -314,6 +314,41 @@ private slots:
         QVERIFY(missing.err.contains("none.obj: There is no such file"));
     }
 
+    void exportAndUpdate()
+    {
+        QDir().mkdir(path("back"));
+        const QString mesh = source("samples/game/models/tinker/tinker.skinnedmesh");
+        const QString anim = source("samples/game/anims/tinker/tinker.anim");
+        QCOMPARE(ToolRun("export --gltf", {mesh, "-o", path("tinker.glb")}).exitCode, 0);
+        const QStringList more{mesh, path("tinker.glb"), "-o", path("back")};
+        const ToolRun run("import --update", more);
+        QVERIFY2(run.exitCode == 0, qUtf8Printable(run.err));
+        QCOMPARE(run.out, path("back/tinker.skinnedmesh") + '\n' + path("back/tinker.anim") + '\n');
+        QCOMPARE(readFile(path("back/tinker.skinnedmesh")), readFile(mesh));
+        QCOMPARE(readFile(path("back/tinker.anim")), readFile(anim));
+        const ToolRun refused("import --update", more);
+        QCOMPARE(refused.exitCode, 1);
+        QVERIFY(refused.err.contains("tinker.anim: The file exists already"));
+
+        // One animation alone says nothing of the others; a model of another name is told of.
+        QCOMPARE(ToolRun("export --gltf --force --block 1", {mesh, "-o", path("tinker.glb")}).exitCode, 0);
+        QVERIFY(QFile::copy(mesh, path("other.skinnedmesh")));
+        const ToolRun other(
+            "import --drop-missing --update",
+            {path("other.skinnedmesh"), "--anim", anim, path("tinker.glb"), "--force", "-o", path("back")});
+        QCOMPARE(other.exitCode, 0);
+        QVERIFY(other.err.contains("exported from 'tinker', not from 'other'"));
+        QCOMPARE(readFile(path("back/tinker.anim")), readFile(anim));
+
+        const QString crate = source("samples/game/models/crate/crate.staticmesh");
+        QCOMPARE(ToolRun("export --gltf", {crate, "-o", path("crate.glb")}).exitCode, 0);
+        QCOMPARE(ToolRun("import --update", {crate, path("crate.glb"), "-o", path("back")}).exitCode, 0);
+        QCOMPARE(readFile(path("back/crate.staticmesh")), readFile(crate));
+        const ToolRun wrong("import --force --update", {crate, path("tinker.glb"), "-o", path("back")});
+        QCOMPARE(wrong.exitCode, 1);
+        QVERIFY2(wrong.err.contains("Nothing in it comes from the model"), qUtf8Printable(wrong.err));
+    }
+
     void exportAsObj()
     {
         const QStringList more{source("samples/game/models/crate/crate.staticmesh"), "-o", path("box.obj")};

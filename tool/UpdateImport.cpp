@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "UpdateImport.h"
+
+#include "CommandLine.h"
+#include "Output.h"
+#include "PosedModel.h"
+#include "ReplacedFiles.h"
+#include "Settings.h"
+#include "Verbs.h"
+#include "WorkerRun.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+const QString TimeAdvice = QStringLiteral("--time-limit grants more.");
+
+QString lineText(const UpdateLine &line)
+{
+    switch (line.kind) {
+    case UpdateLine::Changed:
+        return QStringLiteral("changed: ") + line.text;
+    case UpdateLine::New:
+        return QStringLiteral("new: ") + line.text;
+    case UpdateLine::Missing:
+        return QStringLiteral("missing: ") + line.text;
+    case UpdateLine::Note:
+        break;
+    }
+    return line.text;
+}
+
+/// Returns true on failure.
+template <typename Model>
+bool writeUpdated(const Model &model, const QString &path)
+{
+    QString reason;
+    if (!model.write(path, &reason)) {
+        Output::line(path);
+        return false;
+    }
+    Output::complain(QStringLiteral("%1: The file cannot be written: %2").arg(path, reason));
+    return true;
+}
+} // namespace
+
+void addUpdateOptions(CommandLine &line)
+{
+    line.option(
+        {QStringLiteral("update")}, QStringLiteral("mesh"),
+        QStringLiteral("Bring a glTF file back over the mesh that it was exported from: what the game's "
+                       "records say stays, vertices, triangles and keys come from the file. The results "
+                       "have the names of the mesh and of its animation."));
+    line.option(
+        {QStringLiteral("anim")}, QStringLiteral("file"),
+        QStringLiteral("With --update, the animation of the mesh; by default the one that belongs to it."));
+    line.flag(QStringLiteral("drop-missing"),
+              QStringLiteral("With --update, remove the animations that the file does not have any more."));
+}
+
+int updateFromFile(const CommandLine &line, int timeLimit)
+{
+    const QString meshFile = line.value(QStringLiteral("update"));
+    PosedModel model;
+    const MaterialFolders folders{Settings::GamePath.value(), Settings::OutputDir.value()};
+    const QString error = model.read(meshFile, line.value(QStringLiteral("anim")), folders);
+    if (!error.isEmpty()) {
+        Output::complain(error);
+        return Failed;
+    }
+    const QDir folder(line.value(QStringLiteral("output")));
+    const auto target = [&folder](const QString &file) {
+        return folder.filePath(QFileInfo(file).fileName());
+    };
+    QStringList targets{target(model.meshPath)};
+    if (model.animFile())
+        targets += target(model.animPath);
+    QStringList taken;
+    for (const QString &each : targets) {
+        if (isTaken(each))
+            taken += each;
+    }
+    if (!line.isSet(QStringLiteral("force")) && Output::refuseToReplace(taken))
+        return Failed;
+
+    WorkerJob job;
+    job.task = model.rigid() ? WorkerJob::Task::UpdateStaticMesh : WorkerJob::Task::UpdateSkinnedMesh;
+    job.modelPath = line.operands().constFirst();
+    ImportWorker worker;
+    if (model.rigid())
+        runJob(worker, timeLimit, TimeAdvice, job, *model.rigid());
+    else
+        runJob(worker, timeLimit, TimeAdvice, job, *model.skinned(),
+               model.animFile() ? *model.animFile() : AnimFile());
+    StaticMesh rigid;
+    SkinnedMesh skinned;
+    AnimFile anim;
+    ImportMessages messages = worker.messages();
+    if (!messages.hasError() && (model.rigid() ? worker.read(rigid) : worker.read(skinned, anim)))
+        messages.addError(job.failure(QStringLiteral("The result was damaged.")));
+    Output::tell(messages);
+    if (messages.hasError())
+        return Failed;
+    const UpdateAccount account = worker.update();
+    const QString name = QFileInfo(meshFile).completeBaseName();
+    if (!account.model.isEmpty() && account.model != name)
+        Output::complain(QStringLiteral("warning: %1: The file was exported from '%2', not from '%3'.")
+                             .arg(job.modelPath, account.model, name));
+    if (line.isSet(QStringLiteral("drop-missing")))
+        account.dropMissing(anim);
+    for (const UpdateLine &each : account.lines)
+        Output::line(lineText(each));
+    if (model.rigid())
+        return writeUpdated(rigid, targets[0]) ? Failed : Fine;
+    const bool failed = writeUpdated(skinned, targets[0]);
+    return (model.animFile() && writeUpdated(anim, targets[1])) || failed ? Failed : Fine;
+}

@@ -1,0 +1,10 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class CommandLine;
+
+/// The options of `import` that bring a file back over the model that it was exported from.
+void addUpdateOptions(CommandLine &line);
+/// Does that, for the operand of a line that has `--update`. Returns the exit code.
+int updateFromFile(const CommandLine &line, int timeLimit);

@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "GltfExport.h"
+#include "ImportMessages.h"
 #include "KMat.h"
 #include "SampleModels.h"
 
@@ -29,6 +31,14 @@ bool sceneSeed(const QDir &folder, const char *name, const QByteArray &controls,
     return written;
 }
 
+bool gltfSeed(const QDir &folder, const char *name, const GltfWriter &content)
+{
+    QFile file(folder.filePath(QStringLiteral("fuzz_gltf/%1").arg(QLatin1String(name))));
+    const QByteArray bytes = content.glb();
+    return folder.mkpath(QStringLiteral("fuzz_gltf")) && file.open(QIODevice::WriteOnly) &&
+           file.write(bytes) == bytes.size();
+}
+
 SkinnedMesh withoutSurfaces()
 {
     SkinnedMesh mesh;
@@ -49,7 +59,12 @@ int main(int argc, char **argv)
     surface.surfaces.resize(1);
     const MaterialTable materials{{QStringLiteral("a"), QStringLiteral("textures/a.png")},
                                   {QStringLiteral("b"), QString()}};
+    const AnimFile anim = plainAnim();
+    ImportMessages messages;
     const bool written =
+        gltfSeed(folder, "skinned",
+                 exportGltf(plainMesh(), &anim, allBlocks(anim), GltfSource(), messages)) &&
+        gltfSeed(folder, "static", exportGltf(plainStatic(), GltfSource(), messages)) &&
         seed(folder, "fuzz_skinnedmesh", "everything", skinnedMesh()) &&
         seed(folder, "fuzz_skinnedmesh", "no_surfaces", withoutSurfaces()) &&
         seed(folder, "fuzz_anim", "everything", animFile()) &&

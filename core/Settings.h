@@ -127,6 +127,12 @@ inline const SettingKey<bool> ImportRotPitch{"ImportRotPitch", true};
 inline const SettingKey<float> ImportScale{"ImportScale", 1.0f};
 inline const SettingKey<int> ImportTimeLimit{"ImportTimeLimit", 60};
 
+// Import of models that arrive ready for the game. A rate of 0 is the source's.
+inline const SettingKey<bool> ImportReady{"ImportReady", false};
+inline const SettingKey<bool> ImportReadyTextures{"ImportReadyTextures", true};
+inline const SettingKey<bool> ImportReadyKMat{"ImportReadyKMat", true};
+inline const SettingKey<float> ImportReadyRate{"ImportReadyRate", 30.0f};
+
 // Viewport. MouseSpeed is in units per pixel (or per 1 ms tick of a held key), Brightness a factor.
 inline const SettingKey<QColor> BGColor{"BGColor", QColor(0, 170, 255, 255)};
 inline const SettingKey<bool> ShowGround{"ShowGround", false};

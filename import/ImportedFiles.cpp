@@ -6,12 +6,24 @@
 #include "SkinnedMesh.h"
 #include "StaticMesh.h"
 
+#include <QCryptographicHash>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QLoggingCategory>
 
+#include <algorithm>
+
 namespace {
 Q_LOGGING_CATEGORY(importedFilesLog, "korvane.import", QtInfoMsg)
+
+/// Of a file's content; nothing of one that cannot be read.
+QByteArray hashOfFile(const QString &path)
+{
+    QFile file(path);
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    return file.open(QIODevice::ReadOnly) && hash.addData(&file) ? hash.result() : QByteArray();
+}
 } // namespace
 
 template <typename Mesh>
@@ -49,6 +61,28 @@ QStringList ImportedFiles::replaced() const
     if (m_choices.copyTextures)
         files += replacedTargets(m_textures);
     return files;
+}
+
+bool ImportedFiles::replaceOnly(const WrittenFiles &written) const
+{
+    const QStringList files = replaced();
+    return std::all_of(files.begin(), files.end(), [&written](const QString &file) {
+        const QByteArray hash = written.hashes.value(file);
+        return !hash.isEmpty() && hash == hashOfFile(file);
+    });
+}
+
+WrittenFiles ImportedFiles::written() const
+{
+    WrittenFiles written;
+    if (m_choices.createKMat)
+        written.hashes.insert(kmatFile(), hashOfFile(kmatFile()));
+    for (const FileCopy &texture : m_textures) {
+        if (m_choices.copyTextures)
+            written.hashes.insert(texture.target, hashOfFile(texture.target));
+    }
+    written.keptOthers = m_keepsOthers;
+    return written;
 }
 
 QStringList ImportedFiles::otherMaterials() const

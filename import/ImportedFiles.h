@@ -7,6 +7,15 @@
 #include "KMat.h"
 #include "ReplacedFiles.h"
 
+#include <QHash>
+
+/// What an import has written, by path, with a hash of its content.
+struct WrittenFiles
+{
+    QHash<QString, QByteArray> hashes;
+    bool keptOthers = false; ///< see ImportedFiles::keepOtherMaterials()
+};
+
 /// The files that an import puts into the mod folder: textures and materials, as far as they were chosen.
 class ImportedFiles
 {
@@ -20,6 +29,9 @@ public:
     /// The materials of the file that would be replaced which the import does not have.
     QStringList otherMaterials() const;
 
+    /// Whether nothing else would be replaced than what an import before has written, as it wrote it.
+    bool replaceOnly(const WrittenFiles &written) const;
+
     /// What would replace something gets a name at which nothing stands. Surfaces have to be named anew then.
     void useFreeNames();
     /// The materials that a replaced file has beside the new ones stay in it.
@@ -30,6 +42,8 @@ public:
     void nameMaterials(Mesh &mesh) const;
     /// Writes them; gives the lines that say how that ended.
     [[nodiscard]] QString write(ImportMessages &messages) const;
+    /// What stands where it has written.
+    WrittenFiles written() const;
 
 private:
     QString kmatFile() const { return m_choices.modFolder + QLatin1Char('/') + m_choices.kmatPath; }

@@ -875,6 +875,29 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
 </context>
 <context>
+    <name>ArrivalChoice</name>
+    <message>
+        <source>Arrives</source>
+        <translation>Kommt an</translation>
+    </message>
+    <message>
+        <source>As store&amp;d</source>
+        <translation>Wie &amp;gespeichert</translation>
+    </message>
+    <message>
+        <source>Its numbers as they are, turned and scaled as you say below.</source>
+        <translation>Die Zahlen, wie sie sind, gedreht und skaliert, wie Sie es unten angeben.</translation>
+    </message>
+    <message>
+        <source>Read&amp;y for the game</source>
+        <translation>Spiel&amp;fertig</translation>
+    </message>
+    <message>
+        <source>Upright and in one piece, with the bones and animations that it has in its program.</source>
+        <translation>Aufrecht und in einem Stück, mit den Knochen und Animationen, die es in seinem Programm hat.</translation>
+    </message>
+</context>
+<context>
     <name>CameraMenu</name>
     <message>
         <source>&amp;Camera</source>
@@ -2365,74 +2388,6 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
         <translation>Der Faktor, um den das Modell vergrößert wird</translation>
     </message>
     <message>
-        <source>Output Paths</source>
-        <translation>Ausgabepfade</translation>
-    </message>
-    <message>
-        <source>Turok &amp;2 Folder</source>
-        <translation>Turok-&amp;2-Ordner</translation>
-    </message>
-    <message>
-        <source>The root folder of your mod. The paths below are relative to it.</source>
-        <translation>Der Stammordner Ihrer Mod. Die Pfade darunter sind relativ zu ihm.</translation>
-    </message>
-    <message>
-        <source>No folder chosen</source>
-        <translation>Kein Ordner gewählt</translation>
-    </message>
-    <message>
-        <source>Choose the root folder of your mod</source>
-        <translation>Den Stammordner Ihrer Mod wählen</translation>
-    </message>
-    <message>
-        <source>&amp;kmat Path</source>
-        <translation>&amp;kmat-Pfad</translation>
-    </message>
-    <message>
-        <source>The material file that the surfaces of the model refer to</source>
-        <translation>Die Materialdatei, auf die die Flächen des Modells verweisen</translation>
-    </message>
-    <message>
-        <source>materials/mat_NAME.kmat</source>
-        <translation>materials/mat_NAME.kmat</translation>
-    </message>
-    <message>
-        <source>Choose the material file</source>
-        <translation>Die Materialdatei wählen</translation>
-    </message>
-    <message>
-        <source>&amp;Texture Folder</source>
-        <translation>&amp;Texturordner</translation>
-    </message>
-    <message>
-        <source>The folder that the materials take their textures from</source>
-        <translation>Der Ordner, aus dem die Materialien ihre Texturen nehmen</translation>
-    </message>
-    <message>
-        <source>textures</source>
-        <translation>textures</translation>
-    </message>
-    <message>
-        <source>Choose the texture folder</source>
-        <translation>Den Texturordner wählen</translation>
-    </message>
-    <message>
-        <source>C&amp;reate .kmat file</source>
-        <translation>.kmat-Datei e&amp;rstellen</translation>
-    </message>
-    <message>
-        <source>Will create the .kmat file for the model in Turok 2 Folder + kmat Path</source>
-        <translation>Erstellt die .kmat-Datei für das Modell in Turok-2-Ordner + kmat-Pfad</translation>
-    </message>
-    <message>
-        <source>C&amp;opy .png textures</source>
-        <translation>.png-Texturen k&amp;opieren</translation>
-    </message>
-    <message>
-        <source>Will copy any .png textures used by the model to the Turok 2 Folder + Texture Folder</source>
-        <translation>Kopiert alle .png-Texturen des Modells nach Turok-2-Ordner + Texturordner</translation>
-    </message>
-    <message>
         <source>&amp;Cancel</source>
         <translation>Abbre&amp;chen</translation>
     </message>
@@ -2493,30 +2448,6 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
         <translation>Modell importieren als %1</translation>
     </message>
     <message>
-        <source>Turok 2 Output Folder</source>
-        <translation>Turok-2-Ausgabeordner</translation>
-    </message>
-    <message>
-        <source>Save .kmat</source>
-        <translation>.kmat speichern</translation>
-    </message>
-    <message>
-        <source>Material (*.kmat)</source>
-        <translation>Material (*.kmat)</translation>
-    </message>
-    <message>
-        <source>Texture Output Folder</source>
-        <translation>Texturausgabeordner</translation>
-    </message>
-    <message>
-        <source>kmat Path Error</source>
-        <translation>Fehler im kmat-Pfad</translation>
-    </message>
-    <message>
-        <source>Path must be relative to Turok 2 Folder</source>
-        <translation>Der Pfad muss relativ zum Turok-2-Ordner sein</translation>
-    </message>
-    <message>
         <source>Output Folder Error</source>
         <translation>Fehler im Ausgabeordner</translation>
     </message>
@@ -2561,6 +2492,18 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
     <message>
         <source>Browse…</source>
         <translation>Durchsuchen…</translation>
+    </message>
+    <message>
+        <source>What the file &amp;holds</source>
+        <translation>Was die Datei ent&amp;hält</translation>
+    </message>
+    <message>
+        <source>Import a&amp;gain, ready for the game</source>
+        <translation>Noch einmal &amp;spielfertig importieren</translation>
+    </message>
+    <message>
+        <source>Take the same file once more, upright and in one piece, with the bones and animations that it has in its program. It replaces what was just imported.</source>
+        <translation>Dieselbe Datei noch einmal nehmen, aufrecht und in einem Stück, mit den Knochen und Animationen, die sie in ihrem Programm hat. Sie ersetzt, was eben importiert wurde.</translation>
     </message>
 </context>
 <context>
@@ -3176,6 +3119,25 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
 </context>
 <context>
+    <name>ModelContents</name>
+    <message>
+        <source>What the file holds</source>
+        <translation>Was die Datei enthält</translation>
+    </message>
+    <message>
+        <source>Choose a model, and what it holds is shown here.</source>
+        <translation>Wählen Sie ein Modell; hier steht dann, was es enthält.</translation>
+    </message>
+    <message>
+        <source>Looking into the file…</source>
+        <translation>Die Datei wird angesehen…</translation>
+    </message>
+    <message>
+        <source>This file cannot be imported.</source>
+        <translation>Diese Datei kann nicht importiert werden.</translation>
+    </message>
+</context>
+<context>
     <name>ModelFiles</name>
     <message>
         <source>Attempting to read %1 tracks without frames.</source>
@@ -3684,6 +3646,113 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
     </message>
 </context>
 <context>
+    <name>OutputPaths</name>
+    <message>
+        <source>Output Paths</source>
+        <translation>Ausgabepfade</translation>
+    </message>
+    <message>
+        <source>Turok &amp;2 Folder</source>
+        <translation>Turok-&amp;2-Ordner</translation>
+    </message>
+    <message>
+        <source>The root folder of your mod. The paths below are relative to it.</source>
+        <translation>Der Stammordner Ihrer Mod. Die Pfade darunter sind relativ zu ihm.</translation>
+    </message>
+    <message>
+        <source>No folder chosen</source>
+        <translation>Kein Ordner gewählt</translation>
+    </message>
+    <message>
+        <source>Browse…</source>
+        <translation>Durchsuchen…</translation>
+    </message>
+    <message>
+        <source>Choose the root folder of your mod</source>
+        <translation>Den Stammordner Ihrer Mod wählen</translation>
+    </message>
+    <message>
+        <source>&amp;kmat Path</source>
+        <translation>&amp;kmat-Pfad</translation>
+    </message>
+    <message>
+        <source>The material file that the surfaces of the model refer to</source>
+        <translation>Die Materialdatei, auf die die Flächen des Modells verweisen</translation>
+    </message>
+    <message>
+        <source>materials/mat_NAME.kmat</source>
+        <translation>materials/mat_NAME.kmat</translation>
+    </message>
+    <message>
+        <source>Choose the material file</source>
+        <translation>Die Materialdatei wählen</translation>
+    </message>
+    <message>
+        <source>&amp;Texture Folder</source>
+        <translation>&amp;Texturordner</translation>
+    </message>
+    <message>
+        <source>The folder that the materials take their textures from</source>
+        <translation>Der Ordner, aus dem die Materialien ihre Texturen nehmen</translation>
+    </message>
+    <message>
+        <source>textures</source>
+        <translation>textures</translation>
+    </message>
+    <message>
+        <source>Choose the texture folder</source>
+        <translation>Den Texturordner wählen</translation>
+    </message>
+    <message>
+        <source>C&amp;reate .kmat file</source>
+        <translation>.kmat-Datei e&amp;rstellen</translation>
+    </message>
+    <message>
+        <source>Will create the .kmat file for the model in Turok 2 Folder + kmat Path</source>
+        <translation>Erstellt die .kmat-Datei für das Modell in Turok-2-Ordner + kmat-Pfad</translation>
+    </message>
+    <message>
+        <source>C&amp;opy .png textures</source>
+        <translation>.png-Texturen k&amp;opieren</translation>
+    </message>
+    <message>
+        <source>Will copy any .png textures used by the model to the Turok 2 Folder + Texture Folder</source>
+        <translation>Kopiert alle .png-Texturen des Modells nach Turok-2-Ordner + Texturordner</translation>
+    </message>
+    <message>
+        <source>Write te&amp;xtures as .png</source>
+        <translation>Te&amp;xturen als .png schreiben</translation>
+    </message>
+    <message>
+        <source>Will write the textures of the model, whatever their format, to the Turok 2 Folder + Texture Folder</source>
+        <translation>Schreibt die Texturen des Modells, gleich welchen Formats, in Turok-2-Ordner + Texturordner</translation>
+    </message>
+    <message>
+        <source>kmat Path Error</source>
+        <translation>Fehler im kmat-Pfad</translation>
+    </message>
+    <message>
+        <source>Path must be relative to Turok 2 Folder</source>
+        <translation>Der Pfad muss relativ zum Turok-2-Ordner sein</translation>
+    </message>
+    <message>
+        <source>Turok 2 Output Folder</source>
+        <translation>Turok-2-Ausgabeordner</translation>
+    </message>
+    <message>
+        <source>Save .kmat</source>
+        <translation>.kmat speichern</translation>
+    </message>
+    <message>
+        <source>Material (*.kmat)</source>
+        <translation>Material (*.kmat)</translation>
+    </message>
+    <message>
+        <source>Texture Output Folder</source>
+        <translation>Texturausgabeordner</translation>
+    </message>
+</context>
+<context>
     <name>PageStack</name>
     <message numerus="yes">
         <source>%n child bone indexes selected</source>
@@ -4162,6 +4231,101 @@ Hände und Füße (x0.25): %6</translation>
     <message>
         <source>Stop reading the folder</source>
         <translation>Das Lesen des Ordners abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>ReadyOptions</name>
+    <message>
+        <source>Ready for the game</source>
+        <translation>Spielfertig</translation>
+    </message>
+    <message>
+        <source>&amp;Scale</source>
+        <translation>Skali&amp;erung</translation>
+    </message>
+    <message>
+        <source>Units of the game to one of the file. It is proposed for each file.</source>
+        <translation>Einheiten des Spiels auf eine der Datei. Sie wird für jede Datei vorgeschlagen.</translation>
+    </message>
+    <message>
+        <source>&amp;Frames a second</source>
+        <translation>Frames pro Sekun&amp;de</translation>
+    </message>
+    <message>
+        <source>How many poses of a second are kept</source>
+        <translation>Wie viele Posen einer Sekunde behalten werden</translation>
+    </message>
+    <message>
+        <source>As in the fil&amp;e</source>
+        <translation>&amp;Wie in der Datei</translation>
+    </message>
+    <message>
+        <source>What each animation says, if it is between 10 and 60; 30 else</source>
+        <translation>Was jede Animation angibt, wenn es zwischen 10 und 60 liegt; sonst 30</translation>
+    </message>
+    <message>
+        <source>&amp;Animations</source>
+        <translation>&amp;Animationen</translation>
+    </message>
+    <message>
+        <source>A&amp;ll</source>
+        <translation>A&amp;lle</translation>
+    </message>
+    <message>
+        <source>Take all animations</source>
+        <translation>Alle Animationen nehmen</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>Kei&amp;ne</translation>
+    </message>
+    <message>
+        <source>Take no animation</source>
+        <translation>Keine Animation nehmen</translation>
+    </message>
+    <message>
+        <source>Those with a mark are taken. Space changes the mark of the selected ones.</source>
+        <translation>Die mit einem Haken werden genommen. Die Leertaste ändert den Haken der ausgewählten.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Schleife</translation>
+    </message>
+    <message>
+        <source>Loo&amp;p of the selected</source>
+        <translation>Schleife &amp;bei Auswahl</translation>
+    </message>
+    <message>
+        <source>Whether the selected animations begin anew at their end</source>
+        <translation>Ob die ausgewählten Animationen an ihrem Ende von vorn beginnen</translation>
+    </message>
+    <message>
+        <source>Where it closes</source>
+        <translation>Wo sie sich schließt</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Immer</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>Animation %1</source>
+        <translation>Animation %1</translation>
+    </message>
+    <message>
+        <source>%1 units; a person is about 200 high</source>
+        <translation>%1 Einheiten; eine Person ist etwa 200 hoch</translation>
     </message>
 </context>
 <context>
@@ -5638,6 +5802,61 @@ So lassen?</translation>
     <message>
         <source>Fewer frames: the last ones go, with their keys in all tracks. More: the last keys are repeated.</source>
         <translation>Weniger Frames: Die letzten fallen weg, mit ihren Keys in allen Spuren. Mehr: Die letzten Keys werden wiederholt.</translation>
+    </message>
+</context>
+<context>
+    <name>SummaryText</name>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>%1 (in the model)</source>
+        <translation>%1 (im Modell)</translation>
+    </message>
+    <message>
+        <source>%1 (missing)</source>
+        <translation>%1 (fehlt)</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Objects</source>
+        <translation>Objekte</translation>
+    </message>
+    <message>
+        <source>Bones</source>
+        <translation>Knochen</translation>
+    </message>
+    <message>
+        <source>Vertices</source>
+        <translation>Vertices</translation>
+    </message>
+    <message>
+        <source>Triangles</source>
+        <translation>Dreiecke</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>%1 high, %2 in all</source>
+        <translation>%1 hoch, insgesamt %2</translation>
+    </message>
+    <message>
+        <source>Animations</source>
+        <translation>Animationen</translation>
+    </message>
+    <message>
+        <source>Textures</source>
+        <translation>Texturen</translation>
+    </message>
+    <message>
+        <source>What cannot come along</source>
+        <translation>Was nicht mitkommen kann</translation>
     </message>
 </context>
 <context>

@@ -3,7 +3,6 @@
 #include "ImportDialog.h"
 
 #include "ImportFilter.h"
-#include "ImportOutput.h"
 #include "Language.h"
 #include "ReplacePrompt.h"
 #include "Settings.h"
@@ -16,20 +15,18 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QScreen>
+#include <QStyle>
 
 #include <utility>
 
 namespace {
+constexpr int RoomForLists = 6; // lines, beside what they need
+
 template <typename T>
 void store(T &field, const SettingKey<T> &key, const T &value)
 {
     field = value;
     key.setValue(value);
-}
-
-float storedScale(const FloatSpinBox &box)
-{
-    return qBound(box.minimum(), Settings::ImportScale.value(), box.maximum());
 }
 } // namespace
 
@@ -39,6 +36,7 @@ ImportDialog::ImportDialog(Mode mode, QWidget *parent)
     , m_mode(mode)
 {
     m_ui->setupUi(this);
+    m_paths = m_ui->gbOutputPaths;
     readChoices();
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowTitle(tr("Import model to %1").arg(modeName()));
@@ -53,6 +51,10 @@ ImportDialog::ImportDialog(Mode mode, QWidget *parent)
     fitToScreen();
     fillEditors();
     connectEditors();
+    connect(&m_run, &ImportRun::skinnedMeshImported, this,
+            [this](const SkinnedMesh &mesh, const AnimFile &anim) {
+                m_hasRig = mesh.nodes.size() > 1 || !anim.blocks.empty();
+            });
     connect(&m_run, &ImportRun::skinnedMeshImported, this, &ImportDialog::skinnedMeshImported);
     connect(&m_run, &ImportRun::staticMeshImported, this, &ImportDialog::staticMeshImported);
     connect(&m_run, &ImportRun::finished, this, &ImportDialog::onFinished);
@@ -72,24 +74,29 @@ ImportDialog::~ImportDialog() = default;
 void ImportDialog::readChoices()
 {
     m_choices.isStatic = m_mode == StaticMeshMode;
-    m_choices.modFolder = Settings::OutputDir.value();
+    m_choices.arrival = Settings::ImportReady.value() ? Arrival::Ready : Arrival::AsStored;
     m_swapYZ = Settings::ImportSwapYZ.value();
     m_choices.genNormals = Settings::ImportGenNormals.value();
     m_choices.flipUV = Settings::ImportFlipUV.value();
     m_choices.flipWindingOrder = Settings::ImportFlipWindingOrder.value();
-    m_choices.copyTextures = Settings::ImportTextures.value();
-    m_choices.createKMat = Settings::ImportKMat.value();
     m_choices.rotatePitch = Settings::ImportRotPitch.value();
-    m_choices.scale = storedScale(*m_ui->sbScale);
+    m_choices.scale =
+        qBound(m_ui->sbScale->minimum(), Settings::ImportScale.value(), m_ui->sbScale->maximum());
+    m_paths->edit(m_choices);
+    m_ui->pageReady->setHasAnimations(!m_choices.isStatic);
 }
 
-/// On a small screen the banner makes room for the buttons.
+/// As large as the options are; on a small screen the banner makes room for them first, and then they scroll.
 void ImportDialog::fitToScreen()
 {
     const QSize frame(60, 60);
     const QSize available = QGuiApplication::primaryScreen()->availableSize() - frame;
-    m_ui->lblBanner->setVisible(size().expandedTo(sizeHint()).height() <= available.height());
-    resize(size().boundedTo(available));
+    const QSize scrolled = m_ui->scrolledOptions->sizeHint() - m_ui->scrollOptions->sizeHint();
+    QSize wanted = sizeHint() + scrolled.expandedTo({0, 0});
+    wanted.rheight() += RoomForLists * fontMetrics().height();
+    m_ui->lblBanner->setVisible(wanted.height() <= available.height());
+    wanted.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    resize(wanted.boundedTo(available));
 }
 
 QString ImportDialog::modeName() const
@@ -112,22 +119,36 @@ void ImportDialog::setModelPath(const QString &path)
 {
     m_choices.modelPath = QFileInfo(path).absoluteFilePath();
     m_choices.kmatPath = defaultKMatPath(m_choices.modelPath);
-    fillEditors();
+    showPaths();
     updateImportButton();
+    lookInside();
+}
+
+void ImportDialog::showPaths()
+{
+    m_ui->txtModelPath->setValue(nativeModelPath());
+    m_paths->showPaths();
+}
+
+/// What was looked into already is not again, unless it was written since.
+void ImportDialog::lookInside()
+{
+    const QFileInfo file(m_choices.modelPath);
+    const QString looked = file.filePath() + file.lastModified().toString(Qt::ISODateWithMs);
+    if (looked == m_lookedInto)
+        return;
+    m_lookedInto = looked;
+    m_ui->contents->look(m_choices.modelPath);
 }
 
 void ImportDialog::fillEditors()
 {
-    m_ui->txtModelPath->setValue(nativeModelPath());
-    m_ui->txtKMatPath->setValue(QDir::toNativeSeparators(m_choices.kmatPath));
-    m_ui->txtTexPath->setValue(QDir::toNativeSeparators(m_choices.textureFolder));
-    m_ui->txtT2Dir->setValue(QDir::toNativeSeparators(m_choices.modFolder));
+    m_ui->gbArrives->setArrival(m_choices.arrival);
+    showArrival();
     m_ui->cbSwapYZ->setChecked(m_swapYZ);
     m_ui->cbGenNormals->setChecked(m_choices.genNormals);
     m_ui->cbFlipUV->setChecked(m_choices.flipUV);
     m_ui->cbFlipWindingOrder->setChecked(m_choices.flipWindingOrder);
-    m_ui->cbCopyTextures->setChecked(m_choices.copyTextures);
-    m_ui->cbCreateKMat->setChecked(m_choices.createKMat);
     m_ui->cbRotatePitch->setChecked(m_choices.rotatePitch);
     m_ui->sbScale->setValue(m_choices.scale);
 }
@@ -136,18 +157,20 @@ void ImportDialog::connectEditors()
 {
     connect(m_ui->txtModelPath, &QLineEdit::editingFinished, this, &ImportDialog::OnTxtModelPathChanged);
     connect(m_ui->txtModelPath, &QLineEdit::textChanged, this, &ImportDialog::updateImportButton);
-    connect(m_ui->txtKMatPath, &QLineEdit::editingFinished, this, &ImportDialog::OnTxtKMatPathChanged);
-    connect(m_ui->txtTexPath, &QLineEdit::editingFinished, this, &ImportDialog::OnTxtTexPathChanged);
-    connect(m_ui->txtT2Dir, &QLineEdit::editingFinished, this, &ImportDialog::OnTxtT2DirChanged);
-    for (QLineEdit *edit : {m_ui->txtModelPath, m_ui->txtKMatPath, m_ui->txtTexPath, m_ui->txtT2Dir})
-        connect(edit, &QLineEdit::returnPressed, this, &ImportDialog::LoseWidgetFocus);
+    connect(m_ui->txtModelPath, &QLineEdit::returnPressed, this, &ImportDialog::LoseWidgetFocus);
+    connect(m_paths, &OutputPaths::kmatPathEdited, this, &ImportDialog::OnTxtKMatPathChanged);
+    connect(m_paths, &OutputPaths::textureFolderEdited, this, &ImportDialog::OnTxtTexPathChanged);
+    connect(m_paths, &OutputPaths::modFolderEdited, this, &ImportDialog::OnTxtT2DirChanged);
+    connect(m_paths, &OutputPaths::entered, this, &ImportDialog::LoseWidgetFocus);
+    connect(m_paths, &OutputPaths::copyTexturesToggled, this, &ImportDialog::OnCBCopyTexturesChanged);
+    connect(m_paths, &OutputPaths::createKMatToggled, this, &ImportDialog::OnCBCreateKMatChanged);
+    connect(m_ui->gbArrives, &ArrivalChoice::chosen, this, &ImportDialog::OnArrivalChanged);
+    connect(m_ui->contents, &ModelContents::looked, this, &ImportDialog::OnContentsLooked);
     connect(m_ui->cbSwapYZ, &QCheckBox::toggled, this, &ImportDialog::OnSwapYZChanged);
     connect(m_ui->cbGenNormals, &QCheckBox::toggled, this, &ImportDialog::OnGenNormalsChanged);
     connect(m_ui->cbFlipUV, &QCheckBox::toggled, this, &ImportDialog::OnFlipUVChanged);
     connect(m_ui->cbFlipWindingOrder, &QCheckBox::toggled, this,
             &ImportDialog::OnCBcbFlipWindingOrderChanged);
-    connect(m_ui->cbCopyTextures, &QCheckBox::toggled, this, &ImportDialog::OnCBCopyTexturesChanged);
-    connect(m_ui->cbCreateKMat, &QCheckBox::toggled, this, &ImportDialog::OnCBCreateKMatChanged);
     connect(m_ui->cbRotatePitch, &QCheckBox::toggled, this, &ImportDialog::OnCBRotatePitchChanged);
     connect(m_ui->sbScale, &FloatSpinBox::valueEdited, this, &ImportDialog::OnScaleChanged);
 }
@@ -164,47 +187,12 @@ void ImportDialog::on_btnModelBrowse_clicked()
     setModelPath(path);
 }
 
-void ImportDialog::on_btnT2DirBrowse_clicked()
-{
-    const QString folder = m_chooseFolder(this, tr("Turok 2 Output Folder"), m_choices.modFolder);
-    if (folder.isEmpty())
-        return;
-    m_ui->txtT2Dir->setValue(QDir::toNativeSeparators(folder));
-    OnTxtT2DirChanged();
-}
-
-void ImportDialog::on_btnkmatPathBrowse_clicked()
-{
-    QFileDialog dialog(this, tr("Save .kmat"), m_choices.modFolder, tr("Material (*.kmat)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("kmat"));
-    dialog.setOption(QFileDialog::DontConfirmOverwrite); // the import asks, with what it would keep
-    const QFileInfo current(m_choices.modFolder + QLatin1Char('/') + m_choices.kmatPath);
-    if (current.dir().exists())
-        dialog.setDirectory(current.path());
-    dialog.selectFile(current.fileName());
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return;
-    m_ui->txtKMatPath->setValue(dialog.selectedFiles().first());
-    OnTxtKMatPathChanged();
-}
-
-void ImportDialog::on_btnTextureDirBrowse_clicked()
-{
-    const QString folder = m_chooseFolder(this, tr("Texture Output Folder"),
-                                          m_choices.modFolder + QLatin1Char('/') + m_choices.textureFolder);
-    if (folder.isEmpty())
-        return;
-    m_ui->txtTexPath->setValue(folder);
-    OnTxtTexPathChanged();
-}
-
 void ImportDialog::LoseWidgetFocus()
 {
-    const int before = m_refusals;
+    const int before = m_paths->refusals();
     if (QWidget *editor = focusWidget())
         editor->clearFocus();
-    m_staysPut = m_refusals != before;
+    m_staysPut = m_paths->refusals() != before;
 }
 
 void ImportDialog::keyPressEvent(QKeyEvent *event)
@@ -225,43 +213,8 @@ void ImportDialog::OnTxtModelPathChanged()
     m_choices.modelPath = path;
     if (follows)
         m_choices.kmatPath = defaultKMatPath(path);
-    m_ui->txtKMatPath->setValue(QDir::toNativeSeparators(m_choices.kmatPath));
-}
-
-void ImportDialog::OnTxtKMatPathChanged()
-{
-    const QString typed = QDir::fromNativeSeparators(m_ui->txtKMatPath->text());
-    if (typed.isEmpty())
-        m_choices.kmatPath = defaultKMatPath(m_choices.modelPath);
-    else if (typed != m_choices.kmatPath && !refusePath(typed, kmatPathProblem(typed)))
-        m_choices.kmatPath = withKMatSuffix(pathInside(m_choices.modFolder, typed));
-    m_ui->txtKMatPath->setValue(QDir::toNativeSeparators(m_choices.kmatPath));
-}
-
-void ImportDialog::OnTxtTexPathChanged()
-{
-    const QString typed = QDir::fromNativeSeparators(m_ui->txtTexPath->text());
-    if (typed != m_choices.textureFolder && !refusePath(typed))
-        m_choices.textureFolder = pathInside(m_choices.modFolder, typed);
-    m_ui->txtTexPath->setValue(QDir::toNativeSeparators(m_choices.textureFolder));
-}
-
-/// Says so and returns true when the path is not inside the mod folder, or models cannot name it.
-bool ImportDialog::refusePath(const QString &path, const QString &problem)
-{
-    const bool isInside = !pathInside(m_choices.modFolder, path).isNull();
-    if (isInside && problem.isEmpty())
-        return false;
-    ++m_refusals;
-    if (!m_leaving)
-        QMessageBox::warning(this, tr("kmat Path Error"),
-                             isInside ? problem : tr("Path must be relative to Turok 2 Folder"));
-    return true;
-}
-
-void ImportDialog::OnTxtT2DirChanged()
-{
-    store(m_choices.modFolder, Settings::OutputDir, normalizedFolder(m_ui->txtT2Dir->text()));
+    showPaths();
+    lookInside();
 }
 
 void ImportDialog::OnSwapYZChanged(bool on)
@@ -284,16 +237,6 @@ void ImportDialog::OnCBcbFlipWindingOrderChanged(bool on)
     store(m_choices.flipWindingOrder, Settings::ImportFlipWindingOrder, on);
 }
 
-void ImportDialog::OnCBCopyTexturesChanged(bool on)
-{
-    store(m_choices.copyTextures, Settings::ImportTextures, on);
-}
-
-void ImportDialog::OnCBCreateKMatChanged(bool on)
-{
-    store(m_choices.createKMat, Settings::ImportKMat, on);
-}
-
 void ImportDialog::OnCBRotatePitchChanged(bool on)
 {
     store(m_choices.rotatePitch, Settings::ImportRotPitch, on);
@@ -302,6 +245,19 @@ void ImportDialog::OnCBRotatePitchChanged(bool on)
 void ImportDialog::OnScaleChanged(float scale)
 {
     store(m_choices.scale, Settings::ImportScale, scale);
+}
+
+void ImportDialog::OnArrivalChanged(Arrival arrival)
+{
+    m_choices.arrival = arrival;
+    Settings::ImportReady.setValue(arrival == Arrival::Ready);
+    showArrival();
+}
+
+void ImportDialog::showArrival()
+{
+    m_paths->setArrival(m_choices.arrival);
+    m_ui->stackArrival->setCurrentIndex(int(m_choices.arrival));
 }
 
 void ImportDialog::updateImportButton()
@@ -323,9 +279,30 @@ void ImportDialog::on_btnImport_clicked()
     m_ui->lblProgress->setText(tr("Reading '%1'").arg(nativeModelPath()));
     m_ui->stackPages->setCurrentWidget(m_ui->pageProgress);
     m_ui->btnStop->setFocus();
+    // Its scale is proposed by what the file holds.
+    m_ui->lblElapsed->clear();
+    m_isWaiting = m_choices.arrival == Arrival::Ready && m_ui->contents->isLooking();
+    if (!m_isWaiting)
+        start();
+}
+
+void ImportDialog::start()
+{
+    m_choices.ready = m_ui->pageReady->choices();
+    m_hasRig = false;
     m_tick.start();
     m_run.start(m_choices);
     updateElapsed();
+}
+
+void ImportDialog::OnContentsLooked()
+{
+    m_ui->pageReady->setSummary(m_ui->contents->summary());
+    m_ui->btnSuccessAgain->setVisible(gainsFromReady());
+    if (m_isWaiting && !m_ui->contents->isLooking()) {
+        m_isWaiting = false;
+        start();
+    }
 }
 
 void ImportDialog::updateElapsed()
@@ -338,7 +315,12 @@ void ImportDialog::updateElapsed()
 
 void ImportDialog::on_btnStop_clicked()
 {
-    m_run.cancel();
+    if (!m_isWaiting) {
+        m_run.cancel();
+        return;
+    }
+    m_isWaiting = false;
+    on_btnErrorBack_clicked();
 }
 
 void ImportDialog::on_btnCancel_clicked()
@@ -351,6 +333,14 @@ void ImportDialog::on_btnSuccess_clicked()
     accept();
 }
 
+void ImportDialog::on_btnSuccessAgain_clicked()
+{
+    m_ui->gbArrives->setArrival(Arrival::Ready);
+    OnArrivalChanged(Arrival::Ready);
+    m_ui->stackPages->setCurrentWidget(m_ui->pageOptions); // there is what a refusal is about
+    on_btnImport_clicked();
+}
+
 void ImportDialog::on_btnErrorBack_clicked()
 {
     m_ui->stackPages->setCurrentWidget(m_ui->pageOptions);
@@ -359,8 +349,10 @@ void ImportDialog::on_btnErrorBack_clicked()
 
 void ImportDialog::reject()
 {
-    m_leaving = !m_run.isRunning();
-    if (m_run.isRunning())
+    m_paths->setLeaving(!m_run.isRunning());
+    if (m_isWaiting)
+        on_btnStop_clicked();
+    else if (m_run.isRunning())
         m_run.cancel();
     else if (m_ui->stackPages->currentWidget() == m_ui->pageSuccess)
         accept();
@@ -379,11 +371,19 @@ void ImportDialog::onFinished(const ImportMessages &messages, const QString &out
         showSuccess(messages, outcome);
 }
 
+/// Whether what came as it is stored may be more than its numbers.
+bool ImportDialog::gainsFromReady() const
+{
+    const SceneSummary *summary = m_ui->contents->summary();
+    return m_choices.arrival == Arrival::AsStored && (m_hasRig || (summary && summary->objects > 1));
+}
+
 void ImportDialog::showSuccess(const ImportMessages &messages, const QString &outcome)
 {
     m_ui->lblSuccess->setText(tr("Successfully imported '%1' to %2\n").arg(nativeModelPath(), modeName()) +
                               outcome);
     m_ui->listSuccess->setMessages(messages, {LogSeverity::Info, LogSeverity::Warning});
+    m_ui->btnSuccessAgain->setVisible(gainsFromReady());
     m_ui->stackPages->setCurrentWidget(m_ui->pageSuccess);
     m_ui->btnSuccess->setFocus();
 }

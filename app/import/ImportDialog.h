@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "FolderChooser.h"
 #include "ImportRun.h"
+#include "OutputPaths.h"
 
 #include <QDialog>
 #include <QTimer>
@@ -30,7 +30,7 @@ public:
     void setModelPath(const QString &path);
     /// What the new model's `version` field shall hold.
     void setVersions(qint32 meshVersion, qint32 animVersion);
-    void setFolderChooser(FolderChooser chooser) { m_chooseFolder = std::move(chooser); }
+    void setFolderChooser(FolderChooser chooser) { m_paths->setFolderChooser(std::move(chooser)); }
 
     void reject() override;
 
@@ -39,7 +39,8 @@ protected:
 
 signals:
     /// The import has succeeded; `name` is the source's complete base name.
-    void skinnedMeshImported(const SkinnedMesh &mesh, const AnimFile &anim, const QString &name);
+    void skinnedMeshImported(const SkinnedMesh &mesh, const AnimFile &anim, const QString &name,
+                             const ModelNames &names);
     void staticMeshImported(const StaticMesh &mesh, const QString &name);
 
 private slots:
@@ -47,24 +48,27 @@ private slots:
     void on_btnCancel_clicked();
     void on_btnStop_clicked();
     void on_btnSuccess_clicked();
+    void on_btnSuccessAgain_clicked();
     void on_btnErrorBack_clicked();
     void on_btnModelBrowse_clicked();
-    void on_btnT2DirBrowse_clicked();
-    void on_btnkmatPathBrowse_clicked();
-    void on_btnTextureDirBrowse_clicked();
+    void on_btnT2DirBrowse_clicked() { m_paths->browseModFolder(); }
+    void on_btnkmatPathBrowse_clicked() { m_paths->browseKMatPath(); }
+    void on_btnTextureDirBrowse_clicked() { m_paths->browseTextureFolder(); }
     void LoseWidgetFocus();
     void OnTxtModelPathChanged();
-    void OnTxtKMatPathChanged();
-    void OnTxtTexPathChanged();
-    void OnTxtT2DirChanged();
+    void OnTxtKMatPathChanged() { m_paths->takeKMatPath(); }
+    void OnTxtTexPathChanged() { m_paths->takeTextureFolder(); }
+    void OnTxtT2DirChanged() { m_paths->takeModFolder(); }
     void OnSwapYZChanged(bool on);
     void OnGenNormalsChanged(bool on);
     void OnFlipUVChanged(bool on);
     void OnCBcbFlipWindingOrderChanged(bool on);
-    void OnCBCopyTexturesChanged(bool on);
-    void OnCBCreateKMatChanged(bool on);
+    void OnCBCopyTexturesChanged(bool on) { m_paths->storeCopyTextures(on); }
+    void OnCBCreateKMatChanged(bool on) { m_paths->storeCreateKMat(on); }
     void OnCBRotatePitchChanged(bool on);
     void OnScaleChanged(float scale);
+    void OnArrivalChanged(Arrival arrival);
+    void OnContentsLooked();
 
 private:
     QString modeName() const;
@@ -75,21 +79,26 @@ private:
     void connectEditors();
     void updateElapsed();
     void updateImportButton();
-    bool refusePath(const QString &path, const QString &problem = {});
+    void showPaths();
+    void showArrival();
+    void lookInside();
+    void start();
+    bool gainsFromReady() const;
 
     void onFinished(const ImportMessages &messages, const QString &outcome);
     void showSuccess(const ImportMessages &messages, const QString &outcome);
     void showError(const ImportMessages &messages);
 
     std::unique_ptr<Ui::ImportDialog> m_ui;
+    OutputPaths *m_paths = nullptr; ///< in the form
     const Mode m_mode;
-    FolderChooser m_chooseFolder = chooseFolder;
     ImportRun m_run;
     QTimer m_tick; ///< of the elapsed time
     ImportChoices m_choices;
-    bool m_swapYZ = false;  ///< kept, and of no effect
-    bool m_leaving = false; ///< what is typed does not matter any more
-    int m_refusals = 0;     ///< of typed paths
+    bool m_swapYZ = false;    ///< kept, and of no effect
+    bool m_isWaiting = false; ///< for what the file holds, to begin the import
+    bool m_hasRig = false;    ///< what was imported last, or its animations
+    QString m_lookedInto;     ///< path and time of the file
     bool m_staysPut =
         false; ///< the Enter key that comes next has ended the typing of a path that was refused
 };

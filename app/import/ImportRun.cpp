@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "ImportRun.h"
 
-#include "ImportedFiles.h"
 #include "Settings.h"
 
 #include <QFileInfo>
@@ -25,6 +24,8 @@ void ImportRun::limit(ImportWorker &worker)
 
 void ImportRun::start(const ImportChoices &choices)
 {
+    if (choices.modelPath != m_choices.modelPath)
+        m_written = {};
     m_choices = choices;
     limit(m_worker);
     m_worker.start(importJob(m_choices));
@@ -48,7 +49,7 @@ void ImportRun::onWorkerFinished()
         AnimFile anim;
         goesOn = finish(mesh, messages, outcome, anim);
         if (goesOn && !messages.hasError())
-            emit skinnedMeshImported(mesh, anim, name);
+            emit skinnedMeshImported(mesh, anim, name, m_worker.names());
     }
     m_worker.discard();
     if (goesOn)
@@ -66,10 +67,15 @@ bool ImportRun::finish(Mesh &mesh, ImportMessages &messages, QString &outcome, M
         return true;
     }
     ImportedFiles files(m_choices, mesh, m_worker.textures());
-    if (m_decide && !files.replaced().isEmpty() && !m_decide(files))
+    if (files.replaceOnly(m_written)) {
+        if (m_written.keptOthers)
+            files.keepOtherMaterials();
+    } else if (m_decide && !m_decide(files)) {
         return false;
+    }
     files.nameMaterials(mesh);
     outcome = files.write(messages);
+    m_written = files.written();
     transformImported(mesh, m_choices);
     return true;
 }

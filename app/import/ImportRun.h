@@ -4,12 +4,11 @@
 
 #include "ImportSteps.h"
 #include "ImportWorker.h"
+#include "ImportedFiles.h"
 
 #include <QObject>
 
 #include <functional>
-
-class ImportedFiles;
 
 /// One import after another: the worker reads the model, then its materials and textures are written, and it
 /// is turned and scaled.
@@ -26,7 +25,7 @@ public:
     static void limit(ImportWorker &worker);
 
     /// Decides about files that would be replaced, and changes the names if need be. False: nothing is to be
-    /// imported. Without it they are replaced.
+    /// imported. Without it they are replaced, and so is what the import before wrote for the same model.
     using Decision = std::function<bool(ImportedFiles &files)>;
     void setDecision(Decision decide) { m_decide = std::move(decide); }
 
@@ -39,7 +38,8 @@ public:
 
 signals:
     /// The import has succeeded; `name` is the source's complete base name.
-    void skinnedMeshImported(const SkinnedMesh &mesh, const AnimFile &anim, const QString &name);
+    void skinnedMeshImported(const SkinnedMesh &mesh, const AnimFile &anim, const QString &name,
+                             const ModelNames &names);
     void staticMeshImported(const StaticMesh &mesh, const QString &name);
     /// Comes once for each start, after those. There is a model unless the messages hold an error; `outcome`
     /// says what was written.
@@ -55,4 +55,5 @@ private:
     Decision m_decide;
     ImportChoices m_choices;
     ImportWorker m_worker;
+    WrittenFiles m_written;
 };

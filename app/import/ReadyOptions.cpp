@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "ReadyOptions.h"
+
+#include "SceneSummary.h"
+#include "Settings.h"
+#include "SummaryText.h"
+#include "ui_ReadyOptions.h"
+
+#include <QHeaderView>
+#include <QSignalBlocker>
+
+namespace {
+enum ClipColumn { ClipName, ClipLength, ClipLoop };
+constexpr int LoopRole = Qt::UserRole;
+
+QStringList loopNames()
+{
+    return {ReadyOptions::tr("Where it closes"), ReadyOptions::tr("Always"), ReadyOptions::tr("Never")};
+}
+} // namespace
+
+ReadyOptions::ReadyOptions(QWidget *parent)
+    : QWidget(parent)
+    , m_ui(std::make_unique<Ui::ReadyOptions>())
+{
+    m_ui->setupUi(this);
+    m_ui->treeClips->header()->setSectionResizeMode(ClipName, QHeaderView::Stretch);
+    m_ui->treeClips->header()->setSectionResizeMode(ClipLength, QHeaderView::ResizeToContents);
+    m_ui->treeClips->header()->setSectionResizeMode(ClipLoop, QHeaderView::ResizeToContents);
+    m_ui->cbClipLoop->setNames(loopNames());
+    const float rate = Settings::ImportReadyRate.value();
+    m_ui->cbReadyOwnRate->setChecked(rate <= 0.0f);
+    m_ui->sbReadyRate->setEnabled(rate > 0.0f);
+    m_ui->sbReadyRate->setValue(rate > 0.0f
+                                    ? qBound(m_ui->sbReadyRate->minimum(), rate, m_ui->sbReadyRate->maximum())
+                                    : float(ReadyChoices::UsualRate));
+    connect(m_ui->sbReadyScale, &FloatSpinBox::valueEdited, this, &ReadyOptions::showSize);
+    connect(m_ui->sbReadyRate, &FloatSpinBox::valueEdited, this, &ReadyOptions::storeRate);
+    connect(m_ui->cbReadyOwnRate, &QCheckBox::toggled, this, &ReadyOptions::storeRate);
+    connect(m_ui->btnClipsAll, &QPushButton::clicked, this, [this] { checkAll(Qt::Checked); });
+    connect(m_ui->btnClipsNone, &QPushButton::clicked, this, [this] { checkAll(Qt::Unchecked); });
+    connect(m_ui->treeClips, &QTreeWidget::itemSelectionChanged, this, &ReadyOptions::showLoop);
+    connect(m_ui->treeClips, &QTreeWidget::itemChanged, this, &ReadyOptions::spreadMark);
+    connect(m_ui->cbClipLoop, &ChoiceBox::valueEdited, this, &ReadyOptions::setLoop);
+    setSummary(nullptr);
+}
+
+ReadyOptions::~ReadyOptions() = default;
+
+void ReadyOptions::setHasAnimations(bool on)
+{
+    for (QWidget *widget :
+         {static_cast<QWidget *>(m_ui->lblReadyRate), static_cast<QWidget *>(m_ui->sbReadyRate),
+          static_cast<QWidget *>(m_ui->cbReadyOwnRate), static_cast<QWidget *>(m_ui->lblClips),
+          static_cast<QWidget *>(m_ui->btnClipsAll), static_cast<QWidget *>(m_ui->btnClipsNone),
+          static_cast<QWidget *>(m_ui->treeClips), static_cast<QWidget *>(m_ui->lblClipLoop),
+          static_cast<QWidget *>(m_ui->cbClipLoop)})
+        widget->setVisible(on);
+}
+
+void ReadyOptions::setSummary(const SceneSummary *summary)
+{
+    const QSignalBlocker blocker(m_ui->treeClips);
+    m_isKnown = summary;
+    m_size = summary ? summary->size : QVector3D();
+    m_ui->treeClips->clear();
+    const size_t clips = summary ? summary->clips.size() : 0;
+    for (size_t i = 0; i < clips; ++i) {
+        const SceneSummary::Clip &clip = summary->clips[i];
+        auto *row = new QTreeWidgetItem(m_ui->treeClips);
+        row->setText(ClipName, clip.name.isEmpty() ? tr("Animation %1").arg(i) : clip.name);
+        row->setText(ClipLength, secondsText(clip.seconds));
+        row->setTextAlignment(ClipLength, int(Qt::AlignRight | Qt::AlignVCenter));
+        row->setCheckState(ClipName, Qt::Checked);
+        row->setData(ClipLoop, LoopRole, int(ReadyClip::Loop::WhereItCloses));
+        tell(*row);
+    }
+    m_ui->sbReadyScale->setValue(summary ? summary->proposedScale : 1.0f);
+    setEnabled(summary);
+    showSize();
+    showLoop();
+}
+
+ReadyChoices ReadyOptions::choices() const
+{
+    ReadyChoices choices;
+    choices.scale = m_ui->sbReadyScale->value();
+    choices.rate = m_ui->cbReadyOwnRate->isChecked() ? 0.0 : double(m_ui->sbReadyRate->value());
+    choices.allClips = !m_isKnown;
+    for (int i = 0; i < m_ui->treeClips->topLevelItemCount(); ++i) {
+        const QTreeWidgetItem &row = *m_ui->treeClips->topLevelItem(i);
+        if (row.checkState(ClipName) == Qt::Checked)
+            choices.clips.push_back({i, ReadyClip::Loop(row.data(ClipLoop, LoopRole).toInt())});
+    }
+    return choices;
+}
+
+void ReadyOptions::showSize()
+{
+    m_ui->lblReadySize->setText(
+        m_isKnown
+            ? tr("%1 units; a person is about 200 high").arg(sizeText(m_size * m_ui->sbReadyScale->value()))
+            : QString());
+}
+
+void ReadyOptions::storeRate()
+{
+    const bool isOwn = m_ui->cbReadyOwnRate->isChecked();
+    m_ui->sbReadyRate->setEnabled(!isOwn);
+    Settings::ImportReadyRate.setValue(isOwn ? 0.0f : m_ui->sbReadyRate->value());
+}
+
+void ReadyOptions::checkAll(Qt::CheckState state)
+{
+    const QSignalBlocker blocker(m_ui->treeClips);
+    for (int i = 0; i < m_ui->treeClips->topLevelItemCount(); ++i)
+        m_ui->treeClips->topLevelItem(i)->setCheckState(ClipName, state);
+    m_ui->treeClips->viewport()->update();
+}
+
+/// What is done to the mark of one selected row is done to all of them.
+void ReadyOptions::spreadMark(QTreeWidgetItem *row)
+{
+    const QSignalBlocker blocker(m_ui->treeClips);
+    for (QTreeWidgetItem *other : m_ui->treeClips->selectedItems()) {
+        if (row->isSelected())
+            other->setCheckState(ClipName, row->checkState(ClipName));
+    }
+    m_ui->treeClips->viewport()->update();
+}
+
+/// Of several rows the current one's.
+void ReadyOptions::showLoop()
+{
+    const QList<QTreeWidgetItem *> rows = m_ui->treeClips->selectedItems();
+    m_ui->cbClipLoop->setEnabled(!rows.isEmpty());
+    if (!rows.isEmpty())
+        m_ui->cbClipLoop->setValue(rows.first()->data(ClipLoop, LoopRole).toInt());
+}
+
+void ReadyOptions::setLoop(int loop)
+{
+    for (QTreeWidgetItem *row : m_ui->treeClips->selectedItems()) {
+        row->setData(ClipLoop, LoopRole, loop);
+        tell(*row);
+    }
+}
+
+void ReadyOptions::tell(QTreeWidgetItem &row) const
+{
+    row.setText(ClipLoop, loopNames().value(row.data(ClipLoop, LoopRole).toInt()));
+}

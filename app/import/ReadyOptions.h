@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ReadyChoices.h"
+
+#include <QVector3D>
+#include <QWidget>
+
+#include <memory>
+
+class QTreeWidgetItem;
+struct SceneSummary;
+
+namespace Ui {
+class ReadyOptions;
+}
+
+/// The choices for a model that arrives ready for the game: its scale, which of its animations come along,
+/// and how they are sampled and looped.
+class ReadyOptions : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ReadyOptions(QWidget *parent = nullptr);
+    ~ReadyOptions() override;
+
+    /// Animations are none of a static mesh's.
+    void setHasAnimations(bool on);
+    /// Proposes what suits this file; nothing is known of another one, or none, when it is null.
+    void setSummary(const SceneSummary *summary);
+
+    ReadyChoices choices() const;
+
+private:
+    void showSize();
+    void storeRate();
+    void checkAll(Qt::CheckState state);
+    void showLoop();
+    void setLoop(int loop);
+    void spreadMark(QTreeWidgetItem *row);
+    void tell(QTreeWidgetItem &row) const;
+
+    std::unique_ptr<Ui::ReadyOptions> m_ui;
+    bool m_isKnown = false; ///< what the file holds
+    QVector3D m_size;       ///< of the file
+};

@@ -4280,10 +4280,6 @@ Hände und Füße (x0.25): %6</translation>
         <translation>Kei&amp;ne</translation>
     </message>
     <message>
-        <source>Take no animation</source>
-        <translation>Keine Animation nehmen</translation>
-    </message>
-    <message>
         <source>Those with a mark are taken. Space changes the mark of the selected ones.</source>
         <translation>Die mit einem Haken werden genommen. Die Leertaste ändert den Haken der ausgewählten.</translation>
     </message>
@@ -4326,6 +4322,14 @@ Hände und Füße (x0.25): %6</translation>
     <message>
         <source>%1 units; a person is about 200 high</source>
         <translation>%1 Einheiten; eine Person ist etwa 200 hoch</translation>
+    </message>
+    <message>
+        <source>Take no animation, just the pose at rest</source>
+        <translation>Keine Animation nehmen, nur die Ruhepose</translation>
+    </message>
+    <message>
+        <source>Animations</source>
+        <translation>Animationen</translation>
     </message>
 </context>
 <context>

@@ -49,12 +49,11 @@ void ModelContents::look(const QString &path)
     m_isKnown = false;
     m_worker.reset();
     m_progress->setVisible(!path.isEmpty());
-    if (path.isEmpty()) {
-        say(tr("Choose a model, and what it holds is shown here."));
-        emit looked();
+    say(path.isEmpty() ? tr("Choose a model, and what it holds is shown here.")
+                       : tr("Looking into the file…"));
+    emit looked();
+    if (path.isEmpty())
         return;
-    }
-    say(tr("Looking into the file…"));
     WorkerJob job;
     job.task = WorkerJob::Task::Summarize;
     job.modelPath = path;

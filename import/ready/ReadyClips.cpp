@@ -226,7 +226,7 @@ std::vector<double> ReadyClips::movements(const ReadySkeleton &skeleton, const S
             most = std::max(most, (place - rest.world[size_t(bone)].origin).Length());
         }
     });
-    const double size = box ? greatestSide(*box) : 0.0;
+    const double size = box && greatestSide(*box) > 0.0 ? greatestSide(*box) : 1.0;
     std::vector<double> movements(bones);
     qint64 frames = 0;
     for (const Taken &taken : m_taken)

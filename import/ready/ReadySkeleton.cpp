@@ -147,8 +147,9 @@ void ReadySkeleton::pose(const std::vector<Matrix4> &world, SkeletonPose &pose) 
         }
         frame.turn = parent.turn * local.turn;
         frame.turn.Normalize();
-        if (isFinite(originOf(place)))
-            local.origin = parent.unmap(originOf(place));
+        const Vector3 origin = parent.unmap(originOf(place));
+        if (isFinite(origin))
+            local.origin = origin;
         frame.origin = parent.map(local.origin);
         pose.sizes[b] = {Vector3(place.a1, place.b1, place.c1).Length(),
                          Vector3(place.a2, place.b2, place.c2).Length(),

@@ -8,6 +8,7 @@
 #include <assimp/types.h>
 
 #include <cmath>
+#include <limits>
 #include <optional>
 
 // A model's places come of chains of matrices, some dozens deep: single precision would show in the fingers.
@@ -37,9 +38,10 @@ inline QVector4D single(const Turn &q)
     return {float(q.x), float(q.y), float(q.z), float(q.w)};
 }
 
+/// Whether all are numbers that single precision can hold.
 inline bool isFinite(const Vector3 &v)
 {
-    return std::isfinite(v.x + v.y + v.z);
+    return std::abs(v.x) + std::abs(v.y) + std::abs(v.z) < double(std::numeric_limits<float>::max());
 }
 
 inline double dot(const Turn &a, const Turn &b)

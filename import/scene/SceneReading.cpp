@@ -221,7 +221,8 @@ template bool addSurfaces(const SceneSource &source, quint32 vertexLimit, Static
 
 QString countText(qint64 count, const char *one, const char *many)
 {
-    return QStringLiteral("%1 %2").arg(count).arg(QLatin1String(count == 1 ? one : many));
+    return QStringLiteral("%1 %2").arg(QString::number(count),
+                                       QCoreApplication::translate("Import", count == 1 ? one : many));
 }
 
 template <typename Mesh>

@@ -4234,7 +4234,7 @@ Hände und Füße (x0.25): %6</translation>
     </message>
 </context>
 <context>
-    <name>ReadyOptions</name>
+    <name>ReadyPage</name>
     <message>
         <source>Ready for the game</source>
         <translation>Spielfertig</translation>
@@ -4280,6 +4280,14 @@ Hände und Füße (x0.25): %6</translation>
         <translation>Kei&amp;ne</translation>
     </message>
     <message>
+        <source>Take no animation, just the pose at rest</source>
+        <translation>Keine Animation nehmen, nur die Ruhepose</translation>
+    </message>
+    <message>
+        <source>Animations</source>
+        <translation>Animationen</translation>
+    </message>
+    <message>
         <source>Those with a mark are taken. Space changes the mark of the selected ones.</source>
         <translation>Die mit einem Haken werden genommen. Die Leertaste ändert den Haken der ausgewählten.</translation>
     </message>
@@ -4322,14 +4330,6 @@ Hände und Füße (x0.25): %6</translation>
     <message>
         <source>%1 units; a person is about 200 high</source>
         <translation>%1 Einheiten; eine Person ist etwa 200 hoch</translation>
-    </message>
-    <message>
-        <source>Take no animation, just the pose at rest</source>
-        <translation>Keine Animation nehmen, nur die Ruhepose</translation>
-    </message>
-    <message>
-        <source>Animations</source>
-        <translation>Animationen</translation>
     </message>
 </context>
 <context>

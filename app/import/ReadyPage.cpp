@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "ReadyOptions.h"
+#include "ReadyPage.h"
 
 #include "SceneSummary.h"
 #include "Settings.h"
 #include "SummaryText.h"
-#include "ui_ReadyOptions.h"
+#include "ui_ReadyPage.h"
 
 #include <QHeaderView>
 #include <QSignalBlocker>
@@ -16,13 +16,13 @@ constexpr int LoopRole = Qt::UserRole;
 
 QStringList loopNames()
 {
-    return {ReadyOptions::tr("Where it closes"), ReadyOptions::tr("Always"), ReadyOptions::tr("Never")};
+    return {ReadyPage::tr("Where it closes"), ReadyPage::tr("Always"), ReadyPage::tr("Never")};
 }
 } // namespace
 
-ReadyOptions::ReadyOptions(QWidget *parent)
+ReadyPage::ReadyPage(QWidget *parent)
     : QWidget(parent)
-    , m_ui(std::make_unique<Ui::ReadyOptions>())
+    , m_ui(std::make_unique<Ui::ReadyPage>())
 {
     m_ui->setupUi(this);
     m_ui->treeClips->header()->setSectionResizeMode(ClipName, QHeaderView::Stretch);
@@ -35,20 +35,20 @@ ReadyOptions::ReadyOptions(QWidget *parent)
     m_ui->sbReadyRate->setValue(rate > 0.0f
                                     ? qBound(m_ui->sbReadyRate->minimum(), rate, m_ui->sbReadyRate->maximum())
                                     : float(ReadyChoices::UsualRate));
-    connect(m_ui->sbReadyScale, &FloatSpinBox::valueEdited, this, &ReadyOptions::showSize);
-    connect(m_ui->sbReadyRate, &FloatSpinBox::valueEdited, this, &ReadyOptions::storeRate);
-    connect(m_ui->cbReadyOwnRate, &QCheckBox::toggled, this, &ReadyOptions::storeRate);
+    connect(m_ui->sbReadyScale, &FloatSpinBox::valueEdited, this, &ReadyPage::showSize);
+    connect(m_ui->sbReadyRate, &FloatSpinBox::valueEdited, this, &ReadyPage::storeRate);
+    connect(m_ui->cbReadyOwnRate, &QCheckBox::toggled, this, &ReadyPage::storeRate);
     connect(m_ui->btnClipsAll, &QPushButton::clicked, this, [this] { checkAll(Qt::Checked); });
     connect(m_ui->btnClipsNone, &QPushButton::clicked, this, [this] { checkAll(Qt::Unchecked); });
-    connect(m_ui->treeClips, &QTreeWidget::itemSelectionChanged, this, &ReadyOptions::showLoop);
-    connect(m_ui->treeClips, &QTreeWidget::itemChanged, this, &ReadyOptions::spreadMark);
-    connect(m_ui->cbClipLoop, &ChoiceBox::valueEdited, this, &ReadyOptions::setLoop);
+    connect(m_ui->treeClips, &QTreeWidget::itemSelectionChanged, this, &ReadyPage::showLoop);
+    connect(m_ui->treeClips, &QTreeWidget::itemChanged, this, &ReadyPage::spreadMark);
+    connect(m_ui->cbClipLoop, &ChoiceBox::valueEdited, this, &ReadyPage::setLoop);
     setSummary(nullptr);
 }
 
-ReadyOptions::~ReadyOptions() = default;
+ReadyPage::~ReadyPage() = default;
 
-void ReadyOptions::setHasAnimations(bool on)
+void ReadyPage::setHasAnimations(bool on)
 {
     for (QWidget *widget :
          {static_cast<QWidget *>(m_ui->lblReadyRate), static_cast<QWidget *>(m_ui->sbReadyRate),
@@ -59,7 +59,7 @@ void ReadyOptions::setHasAnimations(bool on)
         widget->setVisible(on);
 }
 
-void ReadyOptions::setSummary(const SceneSummary *summary)
+void ReadyPage::setSummary(const SceneSummary *summary)
 {
     const QSignalBlocker blocker(m_ui->treeClips);
     m_isKnown = summary;
@@ -82,7 +82,7 @@ void ReadyOptions::setSummary(const SceneSummary *summary)
     showLoop();
 }
 
-ReadyChoices ReadyOptions::choices() const
+ReadyChoices ReadyPage::choices() const
 {
     ReadyChoices choices;
     choices.scale = m_ui->sbReadyScale->value();
@@ -96,7 +96,7 @@ ReadyChoices ReadyOptions::choices() const
     return choices;
 }
 
-void ReadyOptions::showSize()
+void ReadyPage::showSize()
 {
     m_ui->lblReadySize->setText(
         m_isKnown
@@ -104,14 +104,14 @@ void ReadyOptions::showSize()
             : QString());
 }
 
-void ReadyOptions::storeRate()
+void ReadyPage::storeRate()
 {
     const bool isOwn = m_ui->cbReadyOwnRate->isChecked();
     m_ui->sbReadyRate->setEnabled(!isOwn);
     Settings::ImportReadyRate.setValue(isOwn ? 0.0f : m_ui->sbReadyRate->value());
 }
 
-void ReadyOptions::checkAll(Qt::CheckState state)
+void ReadyPage::checkAll(Qt::CheckState state)
 {
     const QSignalBlocker blocker(m_ui->treeClips);
     for (int i = 0; i < m_ui->treeClips->topLevelItemCount(); ++i)
@@ -120,7 +120,7 @@ void ReadyOptions::checkAll(Qt::CheckState state)
 }
 
 /// What is done to the mark of one selected row is done to all of them.
-void ReadyOptions::spreadMark(QTreeWidgetItem *row)
+void ReadyPage::spreadMark(QTreeWidgetItem *row)
 {
     const QSignalBlocker blocker(m_ui->treeClips);
     for (QTreeWidgetItem *other : m_ui->treeClips->selectedItems()) {
@@ -131,7 +131,7 @@ void ReadyOptions::spreadMark(QTreeWidgetItem *row)
 }
 
 /// Of several rows the current one's.
-void ReadyOptions::showLoop()
+void ReadyPage::showLoop()
 {
     const QList<QTreeWidgetItem *> rows = m_ui->treeClips->selectedItems();
     m_ui->cbClipLoop->setEnabled(!rows.isEmpty());
@@ -139,7 +139,7 @@ void ReadyOptions::showLoop()
         m_ui->cbClipLoop->setValue(rows.first()->data(ClipLoop, LoopRole).toInt());
 }
 
-void ReadyOptions::setLoop(int loop)
+void ReadyPage::setLoop(int loop)
 {
     for (QTreeWidgetItem *row : m_ui->treeClips->selectedItems()) {
         row->setData(ClipLoop, LoopRole, loop);
@@ -147,7 +147,7 @@ void ReadyOptions::setLoop(int loop)
     }
 }
 
-void ReadyOptions::tell(QTreeWidgetItem &row) const
+void ReadyPage::tell(QTreeWidgetItem &row) const
 {
     row.setText(ClipLoop, loopNames().value(row.data(ClipLoop, LoopRole).toInt()));
 }

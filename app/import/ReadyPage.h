@@ -13,18 +13,18 @@ class QTreeWidgetItem;
 struct SceneSummary;
 
 namespace Ui {
-class ReadyOptions;
+class ReadyPage;
 }
 
 /// The choices for a model that arrives ready for the game: its scale, which of its animations come along,
 /// and how they are sampled and looped.
-class ReadyOptions : public QWidget
+class ReadyPage : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit ReadyOptions(QWidget *parent = nullptr);
-    ~ReadyOptions() override;
+    explicit ReadyPage(QWidget *parent = nullptr);
+    ~ReadyPage() override;
 
     /// Animations are none of a static mesh's.
     void setHasAnimations(bool on);
@@ -42,7 +42,7 @@ private:
     void spreadMark(QTreeWidgetItem *row);
     void tell(QTreeWidgetItem &row) const;
 
-    std::unique_ptr<Ui::ReadyOptions> m_ui;
+    std::unique_ptr<Ui::ReadyPage> m_ui;
     bool m_isKnown = false; ///< what the file holds
     QVector3D m_size;       ///< of the file
 };

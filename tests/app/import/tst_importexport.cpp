@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "Hand.h"
+#include "KVOpenGLWidget.h"
+#include "SmallGltf.h"
 
 /// Models of other programs, in and out of the whole window.
 class tst_ImportExport : public QObject
@@ -73,6 +75,26 @@ private slots:
         QVERIFY(!saved.read(m_files->path(QStringLiteral("saved.skinnedmesh"))));
         QCOMPARE(saved.vertices.size(), size_t(3));
         QCOMPARE(saved.surfaces.at(0).materialPath, QStringLiteral("materials/mat_box/surf_0_white"));
+    }
+
+    void whatArrivesReadyIsSeenAtOnce()
+    {
+        Settings::ImportReady.setValue(true);
+        Settings::ImportReadyTextures.setValue(false);
+        Settings::ImportReadyKMat.setValue(false);
+        ShownWindow window;
+        auto *view = find<KVOpenGLWidget>(window, "viewSkinned");
+        Hand hand({importing()});
+        // In the animation it is a thousand units away from where it rests.
+        window.openFiles(
+            {m_files->put("rig.gltf", SmallGltf().file({{"far", {{1, false, {{0, {100, 0, 0, 0}}}}}}}))});
+        Settings::ImportReady.setValue(false);
+        QCOMPARE(m_page, QStringLiteral("pageSuccess"));
+        const auto shown = [view] {
+            const QImage picture = view->grabFramebuffer();
+            return picture.width() * picture.height() - countPixels(picture, picture.pixelColor(0, 0));
+        };
+        QTRY_VERIFY(shown() * 50 > view->width() * view->height());
     }
 
     void unsavedChangesAreAskedFor()

@@ -31,7 +31,6 @@ ReadyPage::ReadyPage(QWidget *parent)
     m_ui->cbClipLoop->setNames(loopNames());
     const float rate = Settings::ImportReadyRate.value();
     m_ui->cbReadyOwnRate->setChecked(rate <= 0.0f);
-    m_ui->sbReadyRate->setEnabled(rate > 0.0f);
     m_ui->sbReadyRate->setValue(rate > 0.0f
                                     ? qBound(m_ui->sbReadyRate->minimum(), rate, m_ui->sbReadyRate->maximum())
                                     : float(ReadyChoices::UsualRate));
@@ -48,14 +47,15 @@ ReadyPage::ReadyPage(QWidget *parent)
 
 ReadyPage::~ReadyPage() = default;
 
+std::vector<QWidget *> ReadyPage::ofAnimations() const
+{
+    return {m_ui->lblReadyRate, m_ui->sbReadyRate, m_ui->cbReadyOwnRate, m_ui->lblClips,  m_ui->btnClipsAll,
+            m_ui->btnClipsNone, m_ui->treeClips,   m_ui->lblClipLoop,    m_ui->cbClipLoop};
+}
+
 void ReadyPage::setHasAnimations(bool on)
 {
-    for (QWidget *widget :
-         {static_cast<QWidget *>(m_ui->lblReadyRate), static_cast<QWidget *>(m_ui->sbReadyRate),
-          static_cast<QWidget *>(m_ui->cbReadyOwnRate), static_cast<QWidget *>(m_ui->lblClips),
-          static_cast<QWidget *>(m_ui->btnClipsAll), static_cast<QWidget *>(m_ui->btnClipsNone),
-          static_cast<QWidget *>(m_ui->treeClips), static_cast<QWidget *>(m_ui->lblClipLoop),
-          static_cast<QWidget *>(m_ui->cbClipLoop)})
+    for (QWidget *widget : ofAnimations())
         widget->setVisible(on);
 }
 
@@ -78,6 +78,9 @@ void ReadyPage::setSummary(const SceneSummary *summary)
     }
     m_ui->sbReadyScale->setValue(summary ? summary->proposedScale : 1.0f);
     setEnabled(summary);
+    for (QWidget *widget : ofAnimations())
+        widget->setEnabled(clips > 0);
+    m_ui->sbReadyRate->setEnabled(clips > 0 && !m_ui->cbReadyOwnRate->isChecked());
     showSize();
     showLoop();
 }

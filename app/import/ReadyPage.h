@@ -34,6 +34,7 @@ public:
     ReadyChoices choices() const;
 
 private:
+    std::vector<QWidget *> ofAnimations() const;
     void showSize();
     void storeRate();
     void checkAll(Qt::CheckState state);

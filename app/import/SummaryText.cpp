@@ -22,44 +22,46 @@ QString count(qint64 number)
     return Language::locale().toString(number);
 }
 
+QString lengthText(float length)
+{
+    const bool isLong = length >= 1000.0f; // four digits tell enough
+    return Language::locale().toString(double(length), isLong ? 'f' : 'g', isLong ? 0 : 4);
+}
+
 QString row(const char *label, const QString &value)
 {
     return QStringLiteral("<tr><td style=\"padding-right: 12px\">%1</td><td>%2</td></tr>")
         .arg(said(label), value);
 }
 
-/// The names that `describe` gives, as a text that is safe within others.
-template <typename Item, typename Describe>
-QString listed(const std::vector<Item> &items, Describe describe)
-{
-    QStringList names;
-    for (size_t i = 0; i < std::min(items.size(), NamesShown); ++i)
-        names += describe(items[i]).toHtmlEscaped();
-    if (items.size() > NamesShown)
-        names += said(QT_TRANSLATE_NOOP("SummaryText", "and %1 more"))
-                     .arg(count(qint64(items.size() - NamesShown)));
-    return names.join(QStringLiteral(", "));
-}
-
 QString described(const SceneSummary::Clip &clip)
 {
-    return clip.name.isEmpty() ? secondsText(clip.seconds)
-                               : QStringLiteral("%1 (%2)").arg(clip.name, secondsText(clip.seconds));
+    const QString length = secondsText(clip.seconds);
+    return clip.name.isEmpty() ? length : QStringLiteral("%1 (%2)").arg(clip.name.toHtmlEscaped(), length);
 }
 
 QString described(const SceneSummary::Texture &texture)
 {
+    const QString name = texture.name.toHtmlEscaped();
     if (texture.isEmbedded)
-        return said(QT_TRANSLATE_NOOP("SummaryText", "%1 (in the model)")).arg(texture.name);
-    return texture.file.isEmpty() ? said(QT_TRANSLATE_NOOP("SummaryText", "%1 (missing)")).arg(texture.name)
-                                  : texture.name;
+        return said(QT_TRANSLATE_NOOP("SummaryText", "%1 (in the model)")).arg(name);
+    return texture.file.isEmpty() ? QStringLiteral("<b>%1</b>")
+                                        .arg(said(QT_TRANSLATE_NOOP("SummaryText", "%1 (missing)")).arg(name))
+                                  : name;
 }
 
 template <typename Item>
 QString counted(const std::vector<Item> &items)
 {
-    const QString names = listed(items, [](const Item &item) { return described(item); });
-    return items.empty() ? count(0) : QStringLiteral("%1: %2").arg(count(qint64(items.size())), names);
+    if (items.empty())
+        return count(0);
+    QStringList names;
+    for (size_t i = 0; i < std::min(items.size(), NamesShown); ++i)
+        names += described(items[i]);
+    if (items.size() > NamesShown)
+        names += said(QT_TRANSLATE_NOOP("SummaryText", "and %1 more"))
+                     .arg(count(qint64(items.size() - NamesShown)));
+    return QStringLiteral("%1: %2").arg(count(qint64(items.size())), names.join(QStringLiteral(", ")));
 }
 } // namespace
 
@@ -67,7 +69,7 @@ QString sizeText(const QVector3D &size)
 {
     QStringList sides;
     for (const float side : {size.x(), size.y(), size.z()})
-        sides += Language::locale().toString(double(side), 'g', side < 1000.0f ? 4 : 7);
+        sides += lengthText(side);
     return sides.join(QString::fromUtf8(" × "));
 }
 

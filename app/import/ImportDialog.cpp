@@ -5,7 +5,6 @@
 #include "ImportFilter.h"
 #include "Language.h"
 #include "ReplacePrompt.h"
-#include "Settings.h"
 #include "ui_ImportDialog.h"
 
 #include <QDir>
@@ -21,13 +20,6 @@
 
 namespace {
 constexpr int RoomForLists = 6; // lines, beside what they need
-
-template <typename T>
-void store(T &field, const SettingKey<T> &key, const T &value)
-{
-    field = value;
-    key.setValue(value);
-}
 } // namespace
 
 ImportDialog::ImportDialog(Mode mode, QWidget *parent)
@@ -215,36 +207,6 @@ void ImportDialog::OnTxtModelPathChanged()
         m_choices.kmatPath = defaultKMatPath(path);
     showPaths();
     lookInside();
-}
-
-void ImportDialog::OnSwapYZChanged(bool on)
-{
-    store(m_swapYZ, Settings::ImportSwapYZ, on);
-}
-
-void ImportDialog::OnGenNormalsChanged(bool on)
-{
-    store(m_choices.genNormals, Settings::ImportGenNormals, on);
-}
-
-void ImportDialog::OnFlipUVChanged(bool on)
-{
-    store(m_choices.flipUV, Settings::ImportFlipUV, on);
-}
-
-void ImportDialog::OnCBcbFlipWindingOrderChanged(bool on)
-{
-    store(m_choices.flipWindingOrder, Settings::ImportFlipWindingOrder, on);
-}
-
-void ImportDialog::OnCBRotatePitchChanged(bool on)
-{
-    store(m_choices.rotatePitch, Settings::ImportRotPitch, on);
-}
-
-void ImportDialog::OnScaleChanged(float scale)
-{
-    store(m_choices.scale, Settings::ImportScale, scale);
 }
 
 void ImportDialog::OnArrivalChanged(Arrival arrival)

@@ -4,6 +4,7 @@
 
 #include "ImportRun.h"
 #include "OutputPaths.h"
+#include "Settings.h"
 
 #include <QDialog>
 #include <QTimer>
@@ -59,18 +60,28 @@ private slots:
     void OnTxtKMatPathChanged() { m_paths->takeKMatPath(); }
     void OnTxtTexPathChanged() { m_paths->takeTextureFolder(); }
     void OnTxtT2DirChanged() { m_paths->takeModFolder(); }
-    void OnSwapYZChanged(bool on);
-    void OnGenNormalsChanged(bool on);
-    void OnFlipUVChanged(bool on);
-    void OnCBcbFlipWindingOrderChanged(bool on);
+    void OnSwapYZChanged(bool on) { store(m_swapYZ, Settings::ImportSwapYZ, on); }
+    void OnGenNormalsChanged(bool on) { store(m_choices.genNormals, Settings::ImportGenNormals, on); }
+    void OnFlipUVChanged(bool on) { store(m_choices.flipUV, Settings::ImportFlipUV, on); }
+    void OnCBcbFlipWindingOrderChanged(bool on)
+    {
+        store(m_choices.flipWindingOrder, Settings::ImportFlipWindingOrder, on);
+    }
     void OnCBCopyTexturesChanged(bool on) { m_paths->storeCopyTextures(on); }
     void OnCBCreateKMatChanged(bool on) { m_paths->storeCreateKMat(on); }
-    void OnCBRotatePitchChanged(bool on);
-    void OnScaleChanged(float scale);
+    void OnCBRotatePitchChanged(bool on) { store(m_choices.rotatePitch, Settings::ImportRotPitch, on); }
+    void OnScaleChanged(float scale) { store(m_choices.scale, Settings::ImportScale, scale); }
     void OnArrivalChanged(Arrival arrival);
     void OnContentsLooked();
 
 private:
+    template <typename T>
+    static void store(T &field, const SettingKey<T> &key, const T &value)
+    {
+        field = value;
+        key.setValue(value);
+    }
+
     QString modeName() const;
     QString nativeModelPath() const;
     void readChoices();

@@ -44,6 +44,7 @@
 #include "ui_MainWindow.h"
 
 #include <QBoxLayout>
+#include <QCloseEvent>
 #include <QTimer>
 
 #include <array>

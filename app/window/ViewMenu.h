@@ -6,6 +6,7 @@
 
 class DisplayOptions;
 class DocumentPanes;
+class QAction;
 class QMainWindow;
 
 namespace Ui {

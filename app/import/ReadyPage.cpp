@@ -123,17 +123,17 @@ void ReadyPage::checkAll(Qt::CheckState state)
 }
 
 /// What is done to the mark of one selected row is done to all of them.
-void ReadyPage::spreadMark(QTreeWidgetItem *row)
+void ReadyPage::spreadMark(QTreeWidgetItem *row, int column)
 {
+    if (column != ClipName || !row->isSelected())
+        return;
     const QSignalBlocker blocker(m_ui->treeClips);
-    for (QTreeWidgetItem *other : m_ui->treeClips->selectedItems()) {
-        if (row->isSelected())
-            other->setCheckState(ClipName, row->checkState(ClipName));
-    }
+    for (QTreeWidgetItem *other : m_ui->treeClips->selectedItems())
+        other->setCheckState(ClipName, row->checkState(ClipName));
     m_ui->treeClips->viewport()->update();
 }
 
-/// Of several rows the current one's.
+/// Of several rows the first one's.
 void ReadyPage::showLoop()
 {
     const QList<QTreeWidgetItem *> rows = m_ui->treeClips->selectedItems();

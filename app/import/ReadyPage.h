@@ -40,7 +40,7 @@ private:
     void checkAll(Qt::CheckState state);
     void showLoop();
     void setLoop(int loop);
-    void spreadMark(QTreeWidgetItem *row);
+    void spreadMark(QTreeWidgetItem *row, int column);
     void tell(QTreeWidgetItem &row) const;
 
     std::unique_ptr<Ui::ReadyPage> m_ui;

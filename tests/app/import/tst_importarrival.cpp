@@ -143,6 +143,11 @@ private slots:
         QCOMPARE(marks(), QStringLiteral("-x"));
         QCOMPARE(tree->topLevelItem(1)->text(2), QStringLiteral("Always"));
         QCOMPARE(tree->topLevelItem(0)->text(2), QStringLiteral("Where it closes"));
+        QTest::keyClick(tree, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(loop, Qt::Key_End);
+        QCOMPARE(tree->topLevelItem(0)->text(2), QStringLiteral("Never"));
+        QTest::keyClick(loop, Qt::Key_Up);
+        QCOMPARE(marks(), QStringLiteral("-x"));
         QTest::keyClick(find<QCheckBox>(dialog, "cbReadyOwnRate"), Qt::Key_Space);
         QCOMPARE(Settings::ImportReadyRate.value(), 0.0f);
         QTest::keyClick(find<QCheckBox>(dialog, "cbReadyOwnRate"), Qt::Key_Space);

@@ -5,6 +5,7 @@
 #include "ImportWorker.h"
 #include "TestSupport.h"
 
+#include <cmath>
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -103,10 +104,16 @@ private slots:
             QVERIFY2(errors.isEmpty() || errors.startsWith(path), qPrintable(errors));
             QCOMPARE(errors.isEmpty(), worker.summary().triangles > 0);
         }
-        for (const bool skinned : {true, false}) {
+        using Task = WorkerJob::Task;
+        for (const Task task : {Task::ImportSkinnedMesh, Task::ImportStaticMesh, Task::ImportReadySkinnedMesh,
+                                Task::ImportReadyStaticMesh}) {
+            const bool isReady = task == Task::ImportReadySkinnedMesh || task == Task::ImportReadyStaticMesh;
+            const bool skinned = task == Task::ImportSkinnedMesh || task == Task::ImportReadySkinnedMesh;
             ImportWorker worker;
             worker.setTimeLimit(hangs ? 2000 : 50000);
-            run(worker, importJob(path, skinned));
+            WorkerJob job = importJob(path, skinned);
+            job.task = task;
+            run(worker, job);
             const QString errors = errorsOf(worker.messages());
             if (hangs)
                 QVERIFY2(errors.contains(QLatin1String("longer than 2 s.")), qPrintable(errors));
@@ -120,14 +127,19 @@ private slots:
             QCOMPARE(unreadable, worker.messages().hasError());
             if (unreadable) {
                 // Good models fail for what they hold: too many vertices, or two nodes of one name.
-                QVERIFY2(!isGood || errors.contains(QLatin1String("can hold no more than")) ||
-                             (skinned && errors.contains(QLatin1String("already exists"))),
-                         qPrintable(errors));
+                QVERIFY2(
+                    !isGood || errors.contains(QLatin1String("can hold no more than")) ||
+                        (task == Task::ImportSkinnedMesh && errors.contains(QLatin1String("already exists"))),
+                    qPrintable(errors));
+                QVERIFY2(!isReady || errors.contains(QFileInfo(path).fileName()), qPrintable(errors));
                 continue;
             }
             QVERIFY(skinned ? isWhole(skin) : isWhole(rigid));
-            for (const SkinnedMeshVertex &vertex : skin.vertices)
+            for (const SkinnedMeshVertex &vertex : skin.vertices) {
                 QVERIFY(vertex.nodeIndex < skin.nodes.size());
+                QVERIFY(!isReady ||
+                        std::isfinite(vertex.position.lengthSquared() + vertex.normal.lengthSquared()));
+            }
             for (const AnimBlock &block : anim.blocks)
                 QCOMPARE(block.nodes.size(), skin.nodes.size());
         }

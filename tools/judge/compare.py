@@ -16,6 +16,7 @@ import numpy as np
 from poses import Poses
 
 CHUNK = 256
+NEAR = 3.5  # per cent; beyond it the nearest vertex is looked for
 TIES = 4  # of one place, UV and normal
 
 
@@ -82,8 +83,24 @@ def distances(match, source, ours, clips):
     """Of each clip the distances [frames, vertices, ties] in per cent."""
     for theirs, mine in clips:
         for frame in range(ours.clips[mine]["frames"]):
-            pose = np.asarray(source.poses[theirs][frame], np.float64)[match.candidates] * match.scale
-            yield mine, np.linalg.norm(pose - np.asarray(ours.poses[mine][frame])[:, None], axis=2) / match.size * 100
+            pose = np.asarray(source.poses[theirs][shown(source, theirs, frame)], np.float64)[match.candidates] * match.scale
+            yield theirs, mine, frame, np.linalg.norm(pose - np.asarray(ours.poses[mine][frame])[:, None], axis=2) / match.size * 100
+
+
+def to_nearest(match, source, ours, theirs, mine, frame, distance):
+    """The greatest distance of our vertices, of those that are far from where they belong to the nearest vertex."""
+    far = np.flatnonzero(distance > NEAR)
+    most = distance[distance <= NEAR].max(initial=0.0)
+    if len(far):
+        places = np.asarray(source.poses[theirs][shown(source, theirs, frame)], np.float64) * match.scale
+        for place in np.asarray(ours.poses[mine][frame])[far]:
+            most = max(most, np.linalg.norm(places - place, axis=1).min() / match.size * 100)
+    return float(most)
+
+
+def shown(source, clip, frame):
+    """A pose may be held in ours."""
+    return min(frame, source.clips[clip]["frames"] - 1)
 
 
 def pairs(source, ours):
@@ -99,16 +116,18 @@ def compare(source, ours, scale=None):
     clips = pairs(source, ours)
     sums = np.zeros(match.candidates.shape)
     frames = 0
-    for _, distance in distances(match, source, ours, clips):
+    for _, _, _, distance in distances(match, source, ours, clips):
         sums += distance
         frames += 1
     best = np.argmin(sums, axis=1)[:, None]
     solid = np.asarray(source.solid)[np.take_along_axis(match.candidates, best, axis=1)[:, 0]] > 0
     highest = np.zeros(ours.vertices)
     of_clip = {}
-    for mine, distance in distances(match, source, ours, clips):
+    nearest = 0.0
+    for theirs, mine, frame, distance in distances(match, source, ours, clips):
         distance = np.take_along_axis(distance, best, axis=1)[:, 0]
         highest = np.maximum(highest, distance)
+        nearest = max(nearest, to_nearest(match, source, ours, theirs, mine, frame, distance))
         mean, most, count = of_clip.get(mine, (0.0, 0.0, 0))
         of_clip[mine] = (mean + distance.mean(), max(most, distance.max()), count + 1)
     mean = sums.min(axis=1) / max(frames, 1)
@@ -125,6 +144,7 @@ def compare(source, ours, scale=None):
         "lost": match.lost,
         "mean": float(mean.mean()),
         "max": float(highest.max()),
+        "nearest": nearest,
         "maxUnits": float(highest.max()) * match.size / 100,
         "solid": int(solid.sum()),
         "solidMax": float(highest[solid].max()) if solid.any() else 0.0,

@@ -13,6 +13,8 @@ import time
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
+import numpy as np
+
 import models
 from compare import compare
 from poses import Poses
@@ -34,6 +36,8 @@ RIGS = [
 ]
 CHARACTERS = ["game fox", "game knight", "game trex", "mod mannequin"]
 STATICS = ["game avocado", "game barrel", "game boombox", "game chair", "game house", "mod tree"]
+# Of their animations. Blender exports at the rate of its scene, which has to be set before the import.
+RATES = {"game fox": 30, "game knight": 15, "game trex": 30, "mod mannequin": 30}
 TIME_LIMIT = 120  # seconds for a broken file
 
 
@@ -78,7 +82,8 @@ class Judge:
         return folder, folder / Path(source).stem
 
     def rigs(self):
-        rows = [("rig", "judge", "vertices", "bones", "clips", "frames", "mean %", "max %", "solid max %",
+        rows = [("rig", "judge", "vertices", "bones", "clips", "frames", "mean %", "max %", "nearest %",
+                 "solid max %",
                  "own max %", ".anim kB", "check", "verdict")]
         clips = {}
 
@@ -108,13 +113,13 @@ class Judge:
             for name, base, found, findings in threads.map(judged, RIGS):
                 if not base:
                     print(found)
-                    rows.append((name, *["-"] * 11, self.verdict(False)))
+                    rows.append((name, *["-"] * 12, self.verdict(False)))
                     continue
                 mesh = models.skinned_mesh(f"{base}.skinnedmesh")
-                good = (found["mean"] <= 0.2 and found["max"] <= 3.5 and found["alone"] <= 0.01
+                good = (found["mean"] <= 0.2 and found["nearest"] <= 3.5 and found["alone"] <= 0.01
                         and found["offset"] <= 3.5 and found["uv"] <= 1e-3 and found["lost"] == 0 and findings == "none")
                 rows.append((name, found["judge"], found["vertices"], len(mesh.bones), found["clips"], found["frames"],
-                             f"{found['mean']:.4f}", f"{found['max']:.3f}", f"{found['solidMax']:.4f}",
+                             f"{found['mean']:.4f}", f"{found['max']:.3f}", f"{found['nearest']:.3f}", f"{found['solidMax']:.4f}",
                              f"{found['alone']:.4f}", f"{os.path.getsize(f'{base}.anim') / 1000:.1f}", findings,
                              self.verdict(good)))
                 clips[name] = found
@@ -131,6 +136,95 @@ class Judge:
                 rule = f"{finding['severity']} {finding['rule']}"
                 rules[rule] = rules.get(rule, 0) + max(finding.get("notListed", 0), 1)
         return ", ".join(f"{count} {rule}" for rule, count in rules.items()) or "none"
+
+    # --- Exports -------------------------------------------------------------------------------------------
+
+    def exported(self, place, name, suffix):
+        """Exports one of the game's models. Its file, its animation or None, and the glTF file."""
+        data = self.shared / "gamedata"
+        mesh = data / place / f"models/{name}/{name}.{suffix}"
+        anim = data / place / f"anims/{name}/{name}.anim" if suffix == "skinnedmesh" else None
+        target = self.out / f"exports/{name}.glb"
+        target.parent.mkdir(exist_ok=True)
+        self.call(self.tool, "export", "--force", "--game-path", data / "game", "--mod-path", data / "mod",
+                  *(["--anim", anim] if anim else []), "-o", target, mesh)
+        return mesh, anim, target
+
+    def posed(self, mesh, anim, out):
+        if anim:
+            self.call(self.poses, "model", mesh, anim, out)
+        else:
+            self.call(self.poses, "static", mesh, out)
+        return Poses(out)
+
+    def exports(self):
+        rows = [("model", "vertices", "clips", "frames", "most units", "UV", "normal, degrees", "gltfpack", "verdict")]
+
+        def judged(model):
+            suffix = "skinnedmesh" if model in CHARACTERS else "staticmesh"
+            mesh, anim, target = self.exported(*model.split(), suffix)
+            ours = self.posed(mesh, anim, target.with_suffix(".ours"))
+            self.blender("blender_poses", target, target.with_suffix(".blender"), target.with_suffix(".ours"))
+            theirs = Poses(target.with_suffix(".blender"))
+            packed = self.call("gltfpack", "-i", target, "-o", target.with_suffix(".packed.glb"))
+            order = models.export_order(mesh)
+            if len(order) != theirs.vertices or len(ours.clips) != len(theirs.clips):
+                raise Failure(f"{model}: {len(order)} vertices and {len(ours.clips)} clips, in Blender "
+                              f"{theirs.vertices} and {len(theirs.clips)}")
+            most = np.linalg.norm(ours.rest[order] - theirs.rest, axis=1).max()
+            for mine, blenders in zip(ours.poses, theirs.poses):
+                for pose, other in zip(mine, blenders):
+                    most = max(most, np.linalg.norm(pose[order] - other, axis=1).max())
+            corners = order[theirs.vertex]
+            uv = np.abs(ours.uv[corners] - theirs.uv).max()
+            # Blender gives none to the corners of triangles without an area.
+            shown = np.linalg.norm(theirs.normal, axis=1) > 0.5
+            cosine = (ours.normal[corners] * theirs.normal).sum(axis=1)[shown].min()
+            good = most <= 0.002 and uv <= 1e-4 and cosine >= 0.999 and "Error" not in packed
+            return (model, len(order), len(ours.clips), sum(clip["frames"] for clip in ours.clips), f"{most:.5f}",
+                    f"{uv:.6f}", f"{np.degrees(np.arccos(min(cosine, 1))):.2f}", "accepts", self.verdict(good))
+
+        for model in CHARACTERS + STATICS:
+            rows.append(self.row(model, len(rows[0]), judged))
+        table("Exports posed by Blender", rows)
+
+    def row(self, name, columns, judged):
+        try:
+            return judged(name)
+        except (Failure, subprocess.TimeoutExpired) as failure:
+            print(failure)
+            return (name, *["-"] * (columns - 2), self.verdict(False))
+
+    # --- There and back ------------------------------------------------------------------------------------
+
+    def trips(self):
+        rows = [("model", "frames a second", "most units", "as the game shows", "differences", "verdict")]
+
+        def judged(trip):
+            model, rate = trip
+            suffix = "skinnedmesh" if model in CHARACTERS else "staticmesh"
+            mesh, anim, target = self.exported(*model.split(), suffix)
+            back = target.with_suffix(f".back{rate}.glb")
+            self.blender("blender_round", target, back, rate)
+            folder = self.fresh(f"trips/{target.stem}{rate}")
+            self.call(self.tool, "import", "--update", mesh, *(["--anim", anim] if anim else []), "-o", folder, back)
+            new_mesh = folder / mesh.name
+            new_anim = anim and folder / anim.name
+            differences = models.differences(mesh, new_mesh, anim, new_anim)
+            before = self.posed(mesh, anim, folder / "before.poses")
+            after = self.posed(new_mesh, new_anim, folder / "after.poses")
+            scale = 200 / np.ptp(before.rest, axis=0).max()
+            most = np.linalg.norm(before.rest - after.rest, axis=1).max()
+            for old, new in zip(before.poses, after.poses):
+                most = max(most, np.linalg.norm(old - new, axis=2).max())
+            good = most * scale <= 0.02 and not differences
+            return (model, rate, f"{most:.5f}", f"{most * scale:.5f} of 200", ", ".join(differences) or "none",
+                    self.verdict(good))
+
+        for model in CHARACTERS + STATICS:
+            for rate in (RATES[model],) if model in RATES else (24,):
+                rows.append(self.row((model, rate), len(rows[0]), judged))
+        table("Through Blender and back", rows)
 
     # --- Broken files --------------------------------------------------------------------------------------
 

@@ -233,80 +233,87 @@ def set_time(frame):
     bpy.context.scene.frame_set(int(np.floor(frame)), subframe=float(frame - np.floor(frame)))
 
 
-def main(source, out, plan=None):
-    wanted = None
-    if plan:
-        with open(plan, "rb") as file:
-            planned = json.loads(file.readline())["clips"]
-        names = clip_names(source)
-        if len(names) != len(planned):
-            names = [clip["name"] for clip in planned]
-        wanted = dict(zip(names, planned))
-    load(source, False)
-    rest_transforms = transforms()
-    load(source, True)
-    clips = take_clips(wanted or {})
-    if wanted and len(wanted) == len(clips) == 1:  # the readers of some formats name it themselves
-        clips = {name: clip for name, clip in zip(wanted, clips.values())}
-    fps = bpy.context.scene.render.fps / bpy.context.scene.render.fps_base
-    if source.lower().endswith((".dae", ".bvh")):
-        rest_transforms = {}
-        for thing in bpy.data.objects:
-            if thing.pose:
-                for bone in thing.pose.bones:
+class Model:
+    """A model file in the scene, and what its clips do to it; `plan` is a file of posed vertices."""
+
+    def __init__(self, source, plan=None):
+        planned = []
+        if plan:
+            with open(plan, "rb") as file:
+                planned = json.loads(file.readline())["clips"]
+        self.names = clip_names(source)
+        if plan and len(self.names) != len(planned):
+            self.names = [clip["name"] for clip in planned]
+        load(source, False)
+        self._rest = transforms()
+        load(source, True)
+        self._clips = take_clips(self.names)
+        if len(self.names) == len(self._clips) == 1:  # the readers of some formats name it themselves
+            self._clips = dict(zip(self.names, self._clips.values()))
+        self.names = self.names or list(self._clips)
+        self._plan = dict(zip(self.names, planned))
+        if source.lower().endswith((".dae", ".bvh")):
+            self._rest = {}
+            for thing in bpy.data.objects:
+                for bone in thing.pose.bones if thing.pose else []:
                     bone.matrix_basis.identity()
-    to_rest(rest_transforms)
-    set_time(0)
+        to_rest(self._rest)
+        set_time(0)
+        self.things = meshes()
+        self.armatures = [o for o in bpy.context.scene.objects if o.type == "ARMATURE"]
 
-    things = meshes()
-    armatures = [o for o in bpy.context.scene.objects if o.type == "ARMATURE"]
-    if things:
-        parts, first = [], 0
-        for thing in things:
-            parts.append({"name": thing.name, "first": first, "count": len(thing.data.vertices)})
-            first += len(thing.data.vertices)
+    def pose(self):
+        """Of a motion without a body its joints."""
+        return posed(self.things) if self.things else joints(self.armatures)
 
-        def pose():
-            return posed(things)
+    def clips(self):
+        """Name, rate, frames and poses of each clip."""
+        fps = bpy.context.scene.render.fps / bpy.context.scene.render.fps_base
+        for name in self.names:
+            actions = [action for _, action in self._clips.get(name, [])]
+            if not actions:
+                print(f"judge: Blender has no clip {name}; it has {sorted(self._clips)[:80]}")
+                continue
+            begin = min(action.frame_range[0] for action in actions)
+            end = max(action.frame_range[1] for action in actions)
+            rate = self._plan[name]["rate"] if self._plan else RATE
+            frames = self._plan[name]["frames"] if self._plan else round((end - begin) / fps * rate) + 1
+            yield name, rate, frames, self._poses(name, [begin + frame * fps / rate for frame in range(frames)])
 
-        vertex, uv, normal = corners(things)
-        triangles = faces(things)
-        solid = np.concatenate([moved_by_one(thing) for thing in things])
-    else:  # a motion without a body: its joints
-        names = [bone.name for armature in armatures for bone in armature.pose.bones]
-        parts = [{"name": name, "first": i, "count": 1} for i, name in enumerate(names)]
-
-        def pose():
-            return joints(armatures)
-
-        vertex, uv, normal = np.arange(len(names)), np.zeros((len(names), 2)), np.zeros((len(names), 3))
-        solid, triangles = np.ones(len(names)), np.zeros((0, 3))
-
-    rest = pose()
-
-    def frames_of(name, rate, frames, begin):
-        to_rest(rest_transforms)
+    def _poses(self, name, times):
+        to_rest(self._rest)
         for thing in [*bpy.data.objects, *bpy.data.shape_keys]:
             if thing.animation_data:
                 thing.animation_data.action = None
-        for thing, action in clips[name]:
-            add_turns(action, [begin + frame * fps / rate for frame in range(frames)])
+        for thing, action in self._clips[name]:
+            add_turns(action, times)
             thing.animation_data_create().action = action
-        for frame in range(frames):
-            set_time(begin + frame * fps / rate)
-            yield pose()
+        for time in times:
+            set_time(time)
+            yield self.pose()
 
-    written = []
-    for name in clips if wanted is None else wanted:
-        if name not in clips:
-            print(f"Blender has no clip {name}; it has {sorted(clips)[:80]}", file=sys.stderr)
-            continue
-        begin = min(action.frame_range[0] for _, action in clips[name])
-        end = max(action.frame_range[1] for _, action in clips[name])
-        rate = wanted[name]["rate"] if wanted else RATE
-        frames = wanted[name]["frames"] if wanted else round((end - begin) / fps * rate) + 1
-        written.append((name, rate, frames, frames_of(name, rate, frames, begin)))
-    poses.write(out, parts, rest, vertex, uv, normal, solid, triangles, written)
+    def write(self, out):
+        rest, things = self.pose(), self.things
+        names = [bone.name for armature in self.armatures for bone in armature.pose.bones]
+        vertex, uv, normal = np.arange(len(names)), np.zeros((len(names), 2)), np.zeros((len(names), 3))
+        solid, triangles = np.ones(len(names)), np.zeros((0, 3))
+        counts = [1 for _ in names]
+        if things:
+            names, counts = [thing.name for thing in things], [len(thing.data.vertices) for thing in things]
+            vertex, uv, normal = corners(things)
+            solid = np.concatenate([moved_by_one(thing) for thing in things])
+            triangles = faces(things)
+        parts = [{"name": name, "first": sum(counts[:i]), "count": counts[i]} for i, name in enumerate(names)]
+        poses.write(out, parts, rest, vertex, uv, normal, solid, triangles, self.clips())
 
 
-main(*sys.argv[sys.argv.index("--") + 1:])
+def arguments():
+    return sys.argv[sys.argv.index("--") + 1:]
+
+
+def main(source, out, plan=None):
+    Model(source, plan).write(out)
+
+
+if __name__ == "__main__":
+    main(*arguments())

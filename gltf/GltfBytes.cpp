@@ -131,6 +131,7 @@ bool GltfBytes::fail(const QString &place)
 
 bool GltfBytes::open(const QByteArray &file, const FileReader &readFile)
 {
+    m_file = file; // buffers are parts of it
     QByteArray json = file;
     QByteArray chunk;
     if (file.startsWith("glTF") && openBinary(file, json, chunk))

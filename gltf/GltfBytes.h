@@ -71,6 +71,7 @@ private:
     template <typename Number>
     bool applySparse(const Layout &layout, std::vector<Number> &numbers);
 
+    QByteArray m_file;
     QJsonObject m_root;
     QJsonArray m_accessors;
     QJsonArray m_views;

@@ -378,7 +378,7 @@ bool readGltf(const QByteArray &file, const GltfBytes::FileReader &readFile, Glt
     return failed;
 }
 
-bool readGltf(const QString &path, GltfScene &scene, QString &reason)
+bool openGltf(const QString &path, GltfBytes &bytes, QString &reason)
 {
     const auto read = [](const QString &name) -> QByteArray {
         QFile file(name);
@@ -394,6 +394,18 @@ bool readGltf(const QString &path, GltfScene &scene, QString &reason)
         return true;
     }
     const QDir folder = QFileInfo(path).dir();
-    return readGltf(
-        file, [&](const QString &uri) { return read(folder.filePath(uri)); }, scene, reason);
+    const bool failed = bytes.open(file, [&](const QString &uri) { return read(folder.filePath(uri)); });
+    reason = bytes.error();
+    return failed;
+}
+
+bool readGltf(const QString &path, GltfScene &scene, QString &reason)
+{
+    GltfBytes bytes;
+    scene = {};
+    if (openGltf(path, bytes, reason))
+        return true;
+    const bool failed = SceneReader(bytes, scene).read();
+    reason = bytes.error();
+    return failed;
 }

@@ -3,6 +3,7 @@
 #include "ReadyImport.h"
 
 #include "BoneSymbolGuess.h"
+#include "GltfWeights.h"
 #include "NameTables.h"
 #include "ReadyClips.h"
 #include "ReadyGeometry.h"
@@ -58,6 +59,7 @@ const aiScene *readReady(Assimp::Importer &importer, const char *operation, Scen
     source.scene = readScene(importer, operation, source, 0);
     if (!source.scene || hasNoTriangles(source))
         return nullptr;
+    readGltfWeights(source.modelPath, *source.scene);
     source.scene = importer.ApplyPostProcessing(Steps);
     if (!source.scene)
         source.messages.addError(QCoreApplication::translate("Import", "%1 Could not read file. %2")

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "BoneSymbolGuess.h"
+#include "GltfExport.h"
 #include "NameTables.h"
 #include "ReadyImport.h"
 #include "ReadySkeleton.h"
@@ -339,6 +340,31 @@ private slots:
         QCOMPARE(m_anim.blocks.size(), size_t(1));
         QCOMPARE(m_anim.blocks[0].frameCount(), 1);
         QVERIFY(isClose(m_anim.blocks[0].nodes[0].initialPosition, {10, -30, 20}));
+    }
+
+    void weightsInWholeNumbers()
+    {
+        // Our own files have them; the reading library would bind all to the first bone.
+        SkinnedMesh made;
+        made.nodes.resize(2);
+        made.nodes[0].childNodes = {1};
+        made.surfaces.push_back({QStringLiteral("_white"), {0, 1, 2}});
+        made.vertices.resize(3);
+        for (int i = 0; i < 3; ++i) {
+            made.vertices[size_t(i)].position = QVector3D(float(i), 0, float(i * i));
+            made.vertices[size_t(i)].normal = QVector3D(0, 1, 0);
+            made.vertices[size_t(i)].nodeIndex = quint16(i % 2);
+        }
+        ImportMessages messages;
+        importSkinned(
+            m_folder.put("ours.glb", exportGltf(made, nullptr, {}, {"ours", {}, {}, {}}, messages).glb()));
+        QCOMPARE(lines(LogSeverity::Error), QStringList());
+        QCOMPARE(m_mesh.vertices.size(), size_t(3));
+        for (const SkinnedMeshVertex &vertex : m_mesh.vertices) {
+            QCOMPARE(m_names.bones.value(vertex.nodeIndex),
+                     QStringLiteral("bone_00%1").arg(vertex.position.x() == 1.0f ? 1 : 0));
+            QVERIFY(isClose(vertex.normal, {0, 1, 0}));
+        }
     }
 
     void endlessClips()

@@ -113,7 +113,10 @@ inline const SettingKey<QString> SkinnedMeshSavePath{"SkinnedMeshSavePath", {}};
 inline const SettingKey<QString> AnimationSavePath{"AnimationSavePath", {}};
 inline const SettingKey<QString> StaticMeshSavePath{"StaticMeshSavePath", {}};
 inline const SettingKey<QString> StaticMeshExportPath{"StaticMeshExportPath", {}};
+inline const SettingKey<QString> GltfExportPath{"GltfExportPath", {}};
+inline const SettingKey<QString> GltfExportFormat{"GltfExportFormat", "glb"}; // or "gltf"
 inline const SettingKey<QString> ImportPath{"ImportPath", {}};
+inline const SettingKey<QString> ImportFilter{"ImportFilter", {}}; // of its file dialog, chosen last
 inline const SettingKey<QString> PicturePath{"PicturePath", {}};
 
 // Import. The time limit is in seconds.

@@ -27,16 +27,30 @@ QString importFilter()
         "GameStudio (3DGS) Terrain (*.hmp);;Izware Nendo (*.ndo);;All (*.*)");
 }
 
+namespace {
+QSet<QString> importExtensions()
+{
+    // Quick3D files of which the filter does not tell.
+    QSet<QString> found{QStringLiteral("q3o")};
+    static const QRegularExpression pattern(QStringLiteral("\\.([a-z0-9]+)"));
+    for (auto match = pattern.globalMatch(importFilter()); match.hasNext();)
+        found.insert(match.next().captured(1));
+    return found;
+}
+} // namespace
+
+QString importPatterns()
+{
+    QStringList patterns;
+    for (const QString &extension : importExtensions())
+        patterns += QStringLiteral("*.") + extension + QLatin1String(extension == "md5" ? "*" : "");
+    patterns.sort();
+    return patterns.join(QLatin1Char(' '));
+}
+
 bool isImportable(const QString &path)
 {
-    static const QSet<QString> extensions = [] {
-        // Quick3D files of which the filter does not tell.
-        QSet<QString> found{QStringLiteral("q3o")};
-        static const QRegularExpression pattern(QStringLiteral("\\.([a-z0-9]+)"));
-        for (auto match = pattern.globalMatch(importFilter()); match.hasNext();)
-            found.insert(match.next().captured(1));
-        return found;
-    }();
+    static const QSet<QString> extensions = importExtensions();
     const QString suffix = QFileInfo(path).suffix().toLower();
     return extensions.contains(suffix) || suffix.startsWith(QLatin1String("md5"));
 }

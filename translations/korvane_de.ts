@@ -2505,21 +2505,13 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
         <source>Take the same file once more, upright and in one piece, with the bones and animations that it has in its program. It replaces what was just imported.</source>
         <translation>Dieselbe Datei noch einmal nehmen, aufrecht und in einem Stück, mit den Knochen und Animationen, die sie in ihrem Programm hat. Sie ersetzt, was eben importiert wurde.</translation>
     </message>
+    <message>
+        <source>All models (%1)</source>
+        <translation>Alle Modelle (%1)</translation>
+    </message>
 </context>
 <context>
     <name>ImportExport</name>
-    <message>
-        <source>Export To Folder</source>
-        <translation>In Ordner exportieren</translation>
-    </message>
-    <message>
-        <source>[Static Mesh Export] Exported &apos;%1&apos;</source>
-        <translation>[Export statisches Mesh] „%1“ exportiert</translation>
-    </message>
-    <message>
-        <source>Exported &apos;%1&apos;</source>
-        <translation>„%1“ exportiert</translation>
-    </message>
     <message>
         <source>Error</source>
         <translation>Fehler</translation>
@@ -2527,10 +2519,6 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
     <message>
         <source>No dice!</source>
         <translation>Das geht nicht!</translation>
-    </message>
-    <message>
-        <source>Export</source>
-        <translation>Exportieren</translation>
     </message>
 </context>
 <context>
@@ -3135,6 +3123,85 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>This file cannot be imported.</source>
         <translation>Diese Datei kann nicht importiert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>ModelExport</name>
+    <message>
+        <source>Export as &amp;glTF…</source>
+        <translation>Als &amp;glTF exportieren…</translation>
+    </message>
+    <message>
+        <source>Export the model as a glTF file, with its bones and all animations</source>
+        <translation>Das Modell als glTF-Datei exportieren, mit seinen Knochen und allen Animationen</translation>
+    </message>
+    <message>
+        <source>Export Ani&amp;mation as glTF…</source>
+        <translation>Ani&amp;mation als glTF exportieren…</translation>
+    </message>
+    <message>
+        <source>Export the model as a glTF file, with the selected animation alone</source>
+        <translation>Das Modell als glTF-Datei exportieren, nur mit der ausgewählten Animation</translation>
+    </message>
+    <message>
+        <source>Export &amp;Pose as OBJ…</source>
+        <translation>&amp;Pose als OBJ exportieren…</translation>
+    </message>
+    <message>
+        <source>Export the model as an OBJ file, in the pose that the view shows</source>
+        <translation>Das Modell als OBJ-Datei exportieren, in der Pose, die die Ansicht zeigt</translation>
+    </message>
+    <message>
+        <source>Export as glTF</source>
+        <translation>Als glTF exportieren</translation>
+    </message>
+    <message>
+        <source>Export Animation as glTF</source>
+        <translation>Animation als glTF exportieren</translation>
+    </message>
+    <message>
+        <source>glTF, one file (*.glb)</source>
+        <translation>glTF, eine Datei (*.glb)</translation>
+    </message>
+    <message>
+        <source>glTF, textures beside it (*.gltf)</source>
+        <translation>glTF, Texturen daneben (*.gltf)</translation>
+    </message>
+    <message>
+        <source>Exporting &apos;%1&apos;</source>
+        <translation>„%1“ wird exportiert</translation>
+    </message>
+    <message>
+        <source>[glTF Export] Exported &apos;%1&apos;</source>
+        <translation>[glTF-Export] „%1“ exportiert</translation>
+    </message>
+    <message>
+        <source>Export Pose as OBJ</source>
+        <translation>Pose als OBJ exportieren</translation>
+    </message>
+    <message>
+        <source>Wavefront OBJ (*.obj)</source>
+        <translation>Wavefront OBJ (*.obj)</translation>
+    </message>
+    <message>
+        <source>Export To Folder</source>
+        <translation>In Ordner exportieren</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>[Static Mesh Export] Exported &apos;%1&apos;</source>
+        <translation>[Export statisches Mesh] „%1“ exportiert</translation>
+    </message>
+    <message>
+        <source>Exported &apos;%1&apos;</source>
+        <translation>„%1“ exportiert</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
     </message>
 </context>
 <context>
@@ -3872,6 +3939,13 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
     </message>
 </context>
 <context>
+    <name>Patience</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>PictureDialog</name>
     <message>
         <source>Save Picture</source>
@@ -4117,10 +4191,6 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>Error</source>
-        <translation>Fehler</translation>
     </message>
 </context>
 <context>

@@ -5,7 +5,11 @@
 #include "Document.h"
 
 class DocumentFiles;
+class ModelExport;
+class QAction;
 class QMainWindow;
+class QMenu;
+class RecordSelection;
 
 /// Brings models of foreign formats in and out, with the dialogs that belong to it.
 class ImportExport : public QObject
@@ -17,7 +21,10 @@ public:
                  DocumentFiles &files, QMainWindow *window);
 
     /// The document that the current tab shows, whose kind of mesh is imported and exported; null for none.
-    void setCurrent(const Document *document) { m_current = document; }
+    void setCurrent(const Document *document);
+    /// Puts the other ways out into the menu, below this action of it; `blocks` lists the animations. Comes
+    /// before setCurrent().
+    void addExports(QMenu &menu, QAction &above, const RecordSelection &blocks);
     /// Opens the import dialog for the current tab's kind of mesh, a skinned one on a tab without, with
     /// `modelPath` chosen if there is one. Unsaved changes of the documents that the import would replace are
     /// asked for before.
@@ -25,7 +32,7 @@ public:
 
 public slots:
     void on_actionImport_triggered();
-    /// Asks for a folder and exports the static mesh to it, as OBJ with its materials and textures.
+    /// Exports the static mesh as OBJ; a skinned one has none of that.
     void on_actionExport_triggered();
 
 signals:
@@ -34,12 +41,12 @@ signals:
 
 private:
     void importModel(DocumentType type, const QString &modelPath);
-    void exportStaticMesh();
 
     SkinnedMeshDocument &m_skinnedMesh;
     AnimDocument &m_anim;
     StaticMeshDocument &m_staticMesh;
     DocumentFiles &m_files;
     const Document *m_current = nullptr;
+    ModelExport *m_exports = nullptr;
     QMainWindow *m_window;
 };

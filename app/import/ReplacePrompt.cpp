@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ReplacePrompt.h"
 
+#include "GltfFiles.h"
 #include "ImportedFiles.h"
 #include "StaticMeshExport.h"
 
@@ -79,7 +80,8 @@ bool ReplacePrompt::settle(ImportedFiles &files, const QString &title, QWidget *
     return answer != Nothing;
 }
 
-bool ReplacePrompt::settle(ExportedFiles &files, const QString &title, QWidget *parent)
+template <typename Files>
+bool ReplacePrompt::settleNames(Files &files, const QString &title, QWidget *parent)
 {
     const QStringList replaced = files.replaced();
     if (replaced.isEmpty())
@@ -88,4 +90,14 @@ bool ReplacePrompt::settle(ExportedFiles &files, const QString &title, QWidget *
     if (answer == UseFreeNames)
         files.useFreeNames();
     return answer != Nothing;
+}
+
+bool ReplacePrompt::settle(ExportedFiles &files, const QString &title, QWidget *parent)
+{
+    return settleNames(files, title, parent);
+}
+
+bool ReplacePrompt::settle(GltfFiles &files, const QString &title, QWidget *parent)
+{
+    return settleNames(files, title, parent);
 }

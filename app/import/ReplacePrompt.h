@@ -5,6 +5,7 @@
 #include <QMessageBox>
 
 class ExportedFiles;
+class GltfFiles;
 class ImportedFiles;
 
 /// The one question before an import or an export takes the place of files: all of them or none, or names at
@@ -20,10 +21,13 @@ public:
     /// to be written; whoever gives up wants nothing replaced.
     static bool settle(ImportedFiles &files, const QString &title, QWidget *parent);
     static bool settle(ExportedFiles &files, const QString &title, QWidget *parent);
+    static bool settle(GltfFiles &files, const QString &title, QWidget *parent);
 
 private:
     enum Answer { Nothing, Replace, UseFreeNames };
 
+    template <typename Files>
+    static bool settleNames(Files &files, const QString &title, QWidget *parent);
     void offerToKeep(const QStringList &materials);
     bool keepsMaterials() const;
     Answer ask();

@@ -75,9 +75,23 @@ private slots:
         dialog.show();
         QVERIFY(!find<QPushButton>(dialog, "btnImport")->isEnabled());
         const QString path = write(QStringLiteral("box.v2.obj"), corners);
-        Hand hand({Hand::file(path)});
+        // All models first, then what was chosen last.
+        const auto browsing = [](QString &shown, const QString &next, const Hand::Answer &answer) {
+            return [&shown, next, answer](QDialog *files) {
+                auto *filters = find<QComboBox>(*files, "fileTypeCombo");
+                shown = filters->currentText();
+                filters->setCurrentIndex(filters->findText(next, Qt::MatchStartsWith));
+                answer(files);
+            };
+        };
+        QString first, second;
+        Hand hand({browsing(first, "Collada", Hand::file(path)), browsing(second, "All (*", Hand::reject)});
         click(dialog, "btnModelBrowse");
         QCOMPARE(hand.seen, QStringList(QStringLiteral("Import Model to Skinned Mesh")));
+        QVERIFY(first.contains("*.glb") && first.contains("*.lwo") && first.contains("*.md5*"));
+        click(dialog, "btnModelBrowse");
+        QCOMPARE(second, QStringLiteral("Collada (*.dae)"));
+        QVERIFY(Settings::ImportFilter.value().startsWith("Collada"));
         QCOMPARE(Settings::ImportPath.value(), m_source->path());
         QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("materials/mat_box.v2.kmat"));
         QVERIFY(find<QPushButton>(dialog, "btnImport")->isEnabled());

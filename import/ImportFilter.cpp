@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ImportFilter.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSet>
@@ -39,13 +40,15 @@ QSet<QString> importExtensions()
 }
 } // namespace
 
-QString importPatterns()
+QString importChoices()
 {
     QStringList patterns;
     for (const QString &extension : importExtensions())
         patterns += QStringLiteral("*.") + extension + QLatin1String(extension == "md5" ? "*" : "");
     patterns.sort();
-    return patterns.join(QLatin1Char(' '));
+    return QCoreApplication::translate("ImportFilter", "All models (%1)")
+               .arg(patterns.join(QLatin1Char(' '))) +
+           QStringLiteral(";;") + importFilter();
 }
 
 bool isImportable(const QString &path)

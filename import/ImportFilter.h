@@ -7,8 +7,8 @@
 /// The open dialog's filter of all interchange formats.
 QString importFilter();
 
-/// The patterns of all of them in one, as "*.3d *.3ds".
-QString importPatterns();
+/// The same behind one of all of them together.
+QString importChoices();
 
 /// Whether a file has the extension of one of them.
 bool isImportable(const QString &path);

@@ -2505,10 +2505,6 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
         <source>Take the same file once more, upright and in one piece, with the bones and animations that it has in its program. It replaces what was just imported.</source>
         <translation>Dieselbe Datei noch einmal nehmen, aufrecht und in einem Stück, mit den Knochen und Animationen, die sie in ihrem Programm hat. Sie ersetzt, was eben importiert wurde.</translation>
     </message>
-    <message>
-        <source>All models (%1)</source>
-        <translation>Alle Modelle (%1)</translation>
-    </message>
 </context>
 <context>
     <name>ImportExport</name>
@@ -2519,6 +2515,13 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
     <message>
         <source>No dice!</source>
         <translation>Das geht nicht!</translation>
+    </message>
+</context>
+<context>
+    <name>ImportFilter</name>
+    <message>
+        <source>All models (%1)</source>
+        <translation>Alle Modelle (%1)</translation>
     </message>
 </context>
 <context>

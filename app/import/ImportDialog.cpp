@@ -171,12 +171,9 @@ void ImportDialog::connectEditors()
 
 void ImportDialog::on_btnModelBrowse_clicked()
 {
-    // What was chosen last comes first, else whatever can be imported.
-    const QString filters =
-        tr("All models (%1)").arg(importPatterns()) + QStringLiteral(";;") + importFilter();
     QString chosen = Settings::ImportFilter.value();
     const QString path = QFileDialog::getOpenFileName(this, tr("Import Model to %1").arg(modeName()),
-                                                      Settings::ImportPath.value(), filters, &chosen);
+                                                      Settings::ImportPath.value(), importChoices(), &chosen);
     if (path.isEmpty())
         return;
     Settings::ImportFilter.setValue(chosen);

@@ -124,7 +124,6 @@ void addBones(const SceneSource &source, const SceneNodes &nodes, const ReadySke
         return;
     }
     mesh.nodes.resize(size_t(skeleton.count()));
-    std::map<QString, QStringList> guesses; // bones by their symbols
     for (int b = 0; b < skeleton.count(); ++b) {
         SkinnedMeshNode &bone = mesh.nodes[size_t(b)];
         if (b > 0) {
@@ -135,15 +134,23 @@ void addBones(const SceneSource &source, const SceneNodes &nodes, const ReadySke
         if (name.isEmpty())
             continue;
         names.bones.insert(b, name);
-        if (const auto flags = guessedSymbolFlags(name)) {
-            bone.symbolFlags = *flags;
-            guesses[boneSymbolName(mesh, b)] += QStringLiteral("%1 %2").arg(QString::number(b), name);
-        }
+        bone.symbolFlags = guessedSymbolFlags(name).value_or(bone.symbolFlags);
     }
-    for (const auto &[symbol, bones] : guesses)
+}
+
+/// Names tell no more than what is likely, so somebody has to look.
+void listSymbols(const SceneSource &source, const SkinnedMesh &mesh, const ModelNames &names)
+{
+    std::map<QString, QStringList> bones; // by their symbols
+    for (int b = 0; b < int(mesh.nodes.size()); ++b) {
+        const QString name = names.bones.value(b);
+        if (guessedSymbolFlags(name))
+            bones[boneSymbolName(mesh, b)] += QStringLiteral("%1 %2").arg(QString::number(b), name);
+    }
+    for (const auto &[symbol, list] : bones)
         source.messages.addInfo(
             QCoreApplication::translate("Import", "Bone symbol '%1', guessed from names, to be reviewed: %2")
-                .arg(symbol, bones.join(QStringLiteral(", "))));
+                .arg(symbol, list.join(QStringLiteral(", "))));
 }
 } // namespace
 
@@ -181,6 +188,7 @@ void importReadySkinnedMesh(const ReadySource &ready, QStringList &textures, Ski
                                 .arg(source.modelPath, QString::number(parts.unbound())));
     clips.addBlocks(skeleton, rest, mesh, anim, names);
     messages.addInfo(contentText(mesh, anim));
+    listSymbols(source, mesh, names);
 }
 
 StaticMesh importReadyStaticMesh(const ReadySource &ready, QStringList &textures, ImportMessages &messages)

@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "ModelNames.h"
 
+#include "NameTables.h"
+#include "ReferenceTables.h"
+#include "SkinnedMesh.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -52,6 +56,23 @@ QByteArray linesOf(const QJsonObject &object)
 }
 } // namespace
 
+ModelNames ModelNames::of(const SkinnedMesh &mesh)
+{
+    ModelNames names{{}, mesh.animationNames};
+    for (size_t i = 0; i < mesh.nodes.size(); ++i) {
+        if (!mesh.nodes[i].name.isEmpty())
+            names.bones.insert(int(i), mesh.nodes[i].name);
+    }
+    return names;
+}
+
+void ModelNames::giveTo(SkinnedMesh &mesh) const
+{
+    for (size_t i = 0; i < mesh.nodes.size(); ++i)
+        mesh.nodes[i].name = bones.value(int(i));
+    mesh.animationNames = animations;
+}
+
 QString ModelNames::pathFor(const QString &modelPath)
 {
     const QFileInfo file(modelPath);
@@ -91,4 +112,19 @@ bool ModelNames::read(const QString &path, QString *errorText)
     if (file.size() > LargestFile || fromJson(file.read(LargestFile)))
         return fail(QCoreApplication::translate("ModelNames", "The names in '%1' are damaged.").arg(path));
     return false;
+}
+
+QString animationName(const SkinnedMesh &mesh, qint32 id)
+{
+    const QString own = mesh.animationNames.value(id);
+    return own.isEmpty() ? ReferenceTables::shared().name(ReferenceKind::Animations, id) : own;
+}
+
+QString boneTitle(const SkinnedMesh &mesh, int bone)
+{
+    const QString symbol = boneSymbolName(mesh, bone);
+    if (symbol.isEmpty())
+        return {};
+    const QString &own = mesh.nodes[size_t(bone)].name;
+    return QStringLiteral("%1: %2").arg(QString::number(bone), own.isEmpty() ? symbol : own);
 }

@@ -6,6 +6,8 @@
 #include <QHash>
 #include <QString>
 
+struct SkinnedMesh;
+
 /// What the bones and animations of a model are called, for which the game's formats have no place. It stands
 /// beside the model as NAME.names.json: {"bones": {"0": "hips"}, "animations": {"12": "walk"}}, and the game
 /// does not look at it.
@@ -20,6 +22,10 @@ struct ModelNames
         return bones == other.bones && animations == other.animations;
     }
 
+    /// Those that a mesh holds, and giving it such; bones that it does not have are left out.
+    static ModelNames of(const SkinnedMesh &mesh);
+    void giveTo(SkinnedMesh &mesh) const;
+
     /// Where the names of the model stand that is saved at `modelPath`.
     static QString pathFor(const QString &modelPath);
 
@@ -33,3 +39,8 @@ struct ModelNames
     /// given, then says why.
     [[nodiscard]] bool read(const QString &path, QString *errorText = nullptr);
 };
+
+/// What an animation is called by the model's own names, else by the reference table; empty when by neither.
+QString animationName(const SkinnedMesh &mesh, qint32 id);
+/// "12: head"; "12: Left Upper Arm" for a bone without a name of its own. Empty when there is no such bone.
+QString boneTitle(const SkinnedMesh &mesh, int bone);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QHash>
 #include <QString>
 #include <QVector2D>
 #include <QVector3D>
@@ -22,6 +23,7 @@ struct SkinnedMeshNode
     quint8 parentNode = 255; ///< a byte: wraps beyond 255 bones and also means "none"; nothing relies on it
     float damageScale = 1.0f;
     qint32 flags = 0;
+    QString name{}; ///< not in the file, see ModelNames
 };
 
 /// A point on a bone where the game spawns particles or deals damage.
@@ -66,7 +68,8 @@ struct SkinnedMesh
     qint32 unknownB = 0;
     std::vector<SkinnedMeshSurface> surfaces;
     std::vector<SkinnedMeshVertex> vertices;
-    qint64 bytesBehind = 0; ///< behind the last record of the file that was read; not saved
+    QHash<qint32, QString> animationNames; ///< by id; not in the file, see ModelNames
+    qint64 bytesBehind = 0;                ///< behind the last record of the file that was read; not saved
 
     /// Reads `path` into this (fresh) model. Returns true on failure; `errorText`, if given, then says why
     /// and is empty when the file could not be opened. A partly read model is to be thrown away.

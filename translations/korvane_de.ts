@@ -5494,6 +5494,18 @@ So lassen?</translation>
         <source>T&amp;ype</source>
         <translation>&amp;Typ</translation>
     </message>
+    <message>
+        <source>Na&amp;me</source>
+        <translation>Nam&amp;e</translation>
+    </message>
+    <message>
+        <source>What you call the bone. It is kept in a file beside the model, which the game does not look at.</source>
+        <translation>Wie Sie den Knochen nennen. Das steht in einer Datei neben dem Modell, die das Spiel nicht beachtet.</translation>
+    </message>
+    <message>
+        <source>Bone Name</source>
+        <translation>Knochen: Name</translation>
+    </message>
 </context>
 <context>
     <name>SkinnedMeshPage</name>
@@ -6299,6 +6311,10 @@ So lassen?</translation>
     <message>
         <source>Fix Bounding Box</source>
         <translation>Begrenzungsbox beheben</translation>
+    </message>
+    <message>
+        <source>Bone Name</source>
+        <translation>Knochen: Name</translation>
     </message>
 </context>
 <context>

@@ -13,6 +13,24 @@
 #include <utility>
 
 namespace {
+QString boneName(const SkinnedMesh &mesh, int index)
+{
+    const SkinnedMeshNode *bone = Records::element(mesh.nodes, index);
+    return bone ? bone->name : QString();
+}
+
+/// The first bone that follows a track; -1 when none does.
+int boneOfTrack(const AnimBlock &block, quint16 AnimNode::*track, int number)
+{
+    // A skeleton of the game has some dozens; a damaged file, with as many tracks, must not be slow.
+    constexpr size_t mostBones = 1024;
+    if (block.nodes.size() > mostBones)
+        return -1;
+    const auto found = std::find_if(block.nodes.begin(), block.nodes.end(),
+                                    [track, number](const auto &bone) { return int(bone.*track) == number; });
+    return found == block.nodes.end() ? -1 : int(found - block.nodes.begin());
+}
+
 /// The index that an entry of a list holds.
 QString entryText(const std::vector<quint16> &list, int entry)
 {
@@ -54,8 +72,7 @@ bool Document::open(const QString &path, QString *reason)
 bool Document::restore(const QByteArray &bytes, const QString &path, const QString &unsavedName,
                        const FileStamp &stamp)
 {
-    BinaryFileReader reader(reinterpret_cast<const uchar *>(bytes.constData()), bytes.size());
-    if (readModel(reader))
+    if (readDraft(bytes, path))
         return true;
     replace(path, unsavedName, stamp);
     m_undoStack.resetClean();
@@ -216,6 +233,62 @@ QString StaticMeshDocument::recordText(const RecordRef &record) const
     return isSurface ? surface->materialPath : entryText(surface->triangleIndexes, record.index[1]);
 }
 
+template <>
+QString SkinnedMeshDocument::recordName(const RecordRef &record) const
+{
+    const RecordIndex &index = record.index;
+    switch (record.kind) {
+    case RecordKind::Bone:
+        return boneName(m_model, index[0]);
+    case RecordKind::ChildBone: {
+        const SkinnedMeshNode *bone = Records::element(m_model.nodes, index[0]);
+        const quint16 *child = bone ? Records::element(bone->childNodes, index[1]) : nullptr;
+        return child ? boneName(m_model, *child) : QString();
+    }
+    case RecordKind::HotPoint: {
+        const SkinnedMeshHotPoint *point = Records::element(m_model.hotPoints, index[0]);
+        return point ? boneName(m_model, point->nodeId) : QString();
+    }
+    default:
+        return {};
+    }
+}
+
+template <>
+QString AnimDocument::recordName(const RecordRef &record) const
+{
+    const AnimBlock *block = Records::element(m_model.blocks, record.index[0]);
+    if (!block || !namingMesh())
+        return {};
+    const SkinnedMesh &mesh = *namingMesh();
+    if (record.kind == RecordKind::AnimBlock)
+        return mesh.animationNames.value(block->animId);
+    // Another mesh's bones would be called wrongly.
+    if (mesh.nodes.size() != block->nodes.size())
+        return {};
+    const int entry = record.index[1];
+    switch (record.kind) {
+    case RecordKind::AnimBone:
+        return boneName(mesh, entry);
+    case RecordKind::TranslationTrack:
+        return boneName(mesh, boneOfTrack(*block, &AnimNode::translationIndex, entry));
+    case RecordKind::RotationTrack:
+        return boneName(mesh, boneOfTrack(*block, &AnimNode::rotationIndex, entry));
+    case RecordKind::AnimAction: {
+        const AnimAction *action = Records::element(block->actions, entry);
+        return action ? boneName(mesh, action->node) : QString();
+    }
+    default:
+        return {};
+    }
+}
+
+template <>
+QString StaticMeshDocument::recordName(const RecordRef &) const
+{
+    return {};
+}
+
 template <typename Model>
 bool ModelDocument<Model>::readModel(const QString &path, QString *reason)
 {
@@ -223,11 +296,58 @@ bool ModelDocument<Model>::readModel(const QString &path, QString *reason)
     return m_fresh.read(path, reason);
 }
 
-template <typename Model>
-bool ModelDocument<Model>::readModel(BinaryFileReader &reader)
+template <>
+bool SkinnedMeshDocument::readModel(const QString &path, QString *reason)
 {
+    m_fresh = SkinnedMesh();
+    if (m_fresh.read(path, reason))
+        return true;
+    m_names.read(path, m_fresh);
+    return false;
+}
+
+template <typename Model>
+bool ModelDocument<Model>::readDraft(const QByteArray &bytes, const QString &path)
+{
+    BinaryFileReader reader(reinterpret_cast<const uchar *>(bytes.constData()), bytes.size());
     m_fresh = Model();
-    return m_fresh.read(reader);
+    if (m_fresh.read(reader))
+        return true;
+    if constexpr (std::is_same_v<Model, SkinnedMesh>) {
+        m_names.note(path);
+        ModelNames names;
+        if (!names.fromJson(bytes.right(int(m_fresh.bytesBehind)))) {
+            names.giveTo(m_fresh);
+            m_fresh.bytesBehind = 0;
+        }
+    }
+    return false;
+}
+
+template <typename Model>
+bool ModelDocument<Model>::writeModel(const QString &path, QString *reason)
+{
+    if constexpr (std::is_same_v<Model, SkinnedMesh>) {
+        const QString failure = m_names.write(path, m_model);
+        if (!failure.isEmpty()) {
+            if (reason)
+                *reason = failure;
+            return true;
+        }
+    }
+    if (m_model.write(path, reason))
+        return true;
+    m_model.bytesBehind = 0;
+    return false;
+}
+
+template <typename Model>
+QString ModelDocument<Model>::replacedBeside(const QString &path) const
+{
+    if constexpr (std::is_same_v<Model, SkinnedMesh>)
+        return m_names.replaced(path, m_model);
+    else
+        return {};
 }
 
 template <typename Model>
@@ -236,7 +356,13 @@ std::vector<uchar> ModelDocument<Model>::draft() const
     // The file is seldom far off: growing a large buffer costs more than filling it.
     BinaryFileWriter writer(size_t(std::max<qint64>(fileStamp().size, 0)) + 64 * 1024);
     m_model.writeDraft(writer);
-    return writer.takeBytes();
+    std::vector<uchar> bytes = writer.takeBytes();
+    if constexpr (std::is_same_v<Model, SkinnedMesh>) {
+        const ModelNames names = ModelNames::of(m_model);
+        const QByteArray json = names.isEmpty() ? QByteArray() : names.toJson();
+        bytes.insert(bytes.end(), json.begin(), json.end());
+    }
+    return bytes;
 }
 
 template <>

@@ -5,6 +5,7 @@
 #include "DocumentKind.h"
 #include "DocumentView.h"
 #include "FileStamp.h"
+#include "NamesFile.h"
 #include "Records.h"
 
 #include <QPointer>
@@ -13,8 +14,6 @@
 #include <QWidget>
 
 #include <vector>
-
-class BinaryFileReader;
 
 /// The current document of one kind: its model, its file, its undo stack. The object lives as long as the
 /// window; opening a file replaces what it holds.
@@ -52,7 +51,7 @@ public:
     /// failure, with nothing changed; `reason`, if given, then says why.
     [[nodiscard]] bool save(const QString &path, QString *reason = nullptr);
     /// The bytes that save() would write, or, of a model that cannot be saved as it stands, the nearest ones
-    /// that can be read back.
+    /// that can be read back. Names that would go into a file of their own follow behind.
     virtual std::vector<uchar> draft() const = 0;
     /// Lets a model that was kept as bytes replace the current one. It counts as modified until it is saved;
     /// `path` is its file, which was as `stamp` says when the model was read from it, `unsavedName` what it
@@ -82,6 +81,15 @@ public:
     /// What a tree says of one record, or finds it by, beside the kind's own label: a bone's name, the index
     /// an entry holds, a surface's material, an action's event.
     virtual QString recordText(const RecordRef &record) const = 0;
+    /// What a tree says of one record more quietly, behind its label: what the model's own names call the
+    /// bone or the animation that it is, or is about. Empty when nothing does.
+    virtual QString recordName(const RecordRef &record) const = 0;
+    /// Lets the names of another document's mesh count for this one.
+    void setNamingMesh(const SkinnedMesh *mesh) { m_namingMesh = mesh; }
+
+    /// The file that save() would write beside `path` in the place of one that is not the document's; empty
+    /// when there is none.
+    virtual QString replacedBeside(const QString &path) const = 0;
 
     void recordChanged(const RecordRef &record) override;
     void structureChanged(const StructureChange &change) override;
@@ -109,9 +117,11 @@ protected:
     void replace(const QString &path, const QString &unsavedName, const FileStamp &stamp = {});
     /// Reads a new model beside the current one; returns true on failure.
     virtual bool readModel(const QString &path, QString *reason) = 0;
-    virtual bool readModel(BinaryFileReader &reader) = 0;
+    /// The same with what draft() gave, of a document whose file is `path`.
+    virtual bool readDraft(const QByteArray &bytes, const QString &path) = 0;
     virtual void adoptModel() = 0;
     virtual bool writeModel(const QString &path, QString *reason) = 0;
+    const SkinnedMesh *namingMesh() const { return m_namingMesh; }
 
 private:
     const DocumentType m_type;
@@ -124,6 +134,7 @@ private:
     QString m_unsavedName;
     QUndoStack m_undoStack;
     QPointer<QWidget> m_editors;
+    const SkinnedMesh *m_namingMesh = nullptr;
     QVector<RecordRef> m_changes;
     QVector<StructureChange> m_structureChanges;
 };
@@ -144,6 +155,7 @@ public:
     void take(Model model, const QString &name)
     {
         m_fresh = std::move(model);
+        m_names.note({});
         replace({}, name + QLatin1Char('.') + kind().extension);
     }
 
@@ -152,26 +164,23 @@ public:
         return ::recordCount(m_model, kind, index);
     }
     QString recordText(const RecordRef &record) const override;
+    QString recordName(const RecordRef &record) const override;
+    QString replacedBeside(const QString &path) const override;
 
 protected:
     bool readModel(const QString &path, QString *reason) override;
-    bool readModel(BinaryFileReader &reader) override;
+    bool readDraft(const QByteArray &bytes, const QString &path) override;
     void adoptModel() override
     {
         m_model = std::move(m_fresh);
         m_fresh = Model();
     }
-    bool writeModel(const QString &path, QString *reason) override
-    {
-        if (m_model.write(path, reason))
-            return true;
-        m_model.bytesBehind = 0;
-        return false;
-    }
+    bool writeModel(const QString &path, QString *reason) override;
 
 private:
     Model m_model;
     Model m_fresh;
+    NamesFile m_names; ///< of a skinned mesh
 };
 
 using SkinnedMeshDocument = ModelDocument<SkinnedMesh>;

@@ -128,7 +128,7 @@ bool DocumentFiles::saveToMod(DocumentType type)
     if (!document(type)->isOpen() || document(type)->returnToTyping())
         return true;
     const QString path = SaveGuard::modPath(document(type)->path());
-    return path.isEmpty() ? saveAs(type) : saveTo(type, m_guard.intoMod(path));
+    return path.isEmpty() ? saveAs(type) : saveTo(type, m_guard.intoMod(*document(type), path));
 }
 
 void DocumentFiles::saveAll()

@@ -17,6 +17,8 @@ public:
     virtual QVector<RecordIndex> selectedRecords(RecordKind kind) const = 0;
     /// What a record is called in the list.
     virtual QString label(const RecordRef &record) const = 0;
+    /// What the model's own names call it; empty when they do not.
+    virtual QString name(const RecordRef &record) const = 0;
 
 protected:
     RecordSelection() = default;

@@ -72,6 +72,22 @@ QString SaveGuard::modPath(const QString &path)
 
 QString SaveGuard::allowed(const Document &document, const QString &path)
 {
+    return withNames(document, allowedModel(document, path));
+}
+
+QString SaveGuard::intoMod(const Document &document, const QString &path)
+{
+    return withNames(document, freeForModel(path));
+}
+
+QString SaveGuard::withNames(const Document &document, const QString &path) const
+{
+    const QString names = path.isEmpty() ? QString() : document.replacedBeside(path);
+    return names.isEmpty() || mayReplace(m_window, tr("Save"), names) ? path : QString();
+}
+
+QString SaveGuard::allowedModel(const Document &document, const QString &path)
+{
     if (isInGame(path) && !m_overwritten.contains(realPath(path))) {
         const QString answer = askAboutGame(path);
         if (answer != path)
@@ -84,7 +100,7 @@ QString SaveGuard::allowed(const Document &document, const QString &path)
     return path;
 }
 
-QString SaveGuard::intoMod(const QString &path)
+QString SaveGuard::freeForModel(const QString &path)
 {
     // A link there can lead back.
     if (isInGame(path))
@@ -131,7 +147,7 @@ QString SaveGuard::askAboutGame(const QString &path)
     }
     box.exec();
     if (save && box.clickedButton() == save)
-        return intoMod(mod);
+        return freeForModel(mod);
     if (box.clickedButton() != overwrite)
         return {};
     m_overwritten.insert(realPath(path));

@@ -23,7 +23,7 @@ public:
     /// it. The game folder is asked about once for a file.
     QString allowed(const Document &document, const QString &path);
     /// `path` in the mod folder, with its folders made, unless the user keeps the file that stands there.
-    QString intoMod(const QString &path);
+    QString intoMod(const Document &document, const QString &path);
 
     /// Where in the mod folder a file of the game folder belongs, links followed; empty for any other file,
     /// and without a mod folder.
@@ -31,6 +31,10 @@ public:
     static bool isInGame(const QString &path);
 
 private:
+    QString allowedModel(const Document &document, const QString &path);
+    QString freeForModel(const QString &path);
+    /// Where the names that go beside the model would replace others.
+    QString withNames(const Document &document, const QString &path) const;
     bool mayReplaceChanged(const Document &document) const;
     QString askAboutGame(const QString &path);
 

@@ -48,6 +48,7 @@ void ImportRun::onWorkerFinished()
         SkinnedMesh mesh;
         AnimFile anim;
         goesOn = finish(mesh, messages, outcome, anim);
+        m_worker.names().giveTo(mesh);
         if (goesOn && !messages.hasError())
             emit skinnedMeshImported(mesh, anim, name, m_worker.names());
     }

@@ -5,10 +5,11 @@
 #include "AnimFile.h"
 #include "FrameChoice.h"
 #include "Icons.h"
+#include "ModelNames.h"
 #include "Playback.h"
-#include "ReferenceTables.h"
 #include "Settings.h"
 #include "Shortcuts.h"
+#include "SkinnedMesh.h"
 #include "ui_AnimTrackFrame.h"
 
 #include <QAbstractItemView>
@@ -162,11 +163,11 @@ void AnimTrackFrame::updateRange()
 void AnimTrackFrame::listBlocks()
 {
     const AnimFile *file = playback().anim;
+    const SkinnedMesh *mesh = playback().mesh;
     QStringList names;
     const int count = file ? int(file->blocks.size()) : 0;
     for (int i = 0; i < count; ++i) {
-        const QString name =
-            ReferenceTables::shared().name(ReferenceKind::Animations, file->blocks[size_t(i)].animId);
+        const QString name = animationName(mesh ? *mesh : SkinnedMesh(), file->blocks[size_t(i)].animId);
         names << (name.isEmpty() ? QString::number(i) : tr("%1: %2").arg(i).arg(name));
     }
     QComboBox *box = m_ui->cbAnimTrackBlock;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "KVTreeView.h"
 
+#include "NamedRows.h"
 #include "RecordFilling.h"
 #include "RecordItem.h"
 #include "RecordOrder.h"
@@ -28,6 +29,7 @@ KVTreeView::KVTreeView(QWidget *parent)
     setUniformRowHeights(true);
     setContextMenuPolicy(Qt::CustomContextMenu);
     setIconSize({16, 16});
+    setItemDelegate(new NamedRows(this));
     connect(this, &QTreeWidget::itemSelectionChanged, this, &KVTreeView::notifyCurrent);
     connect(this, &QTreeWidget::currentItemChanged, this, &KVTreeView::notifyCurrent);
 }
@@ -81,7 +83,7 @@ void KVTreeView::updateHiding()
 {
     if (!m_document || !m_document->isOpen() || hidesData(*m_document) == m_hideData)
         return;
-    const QVector<RecordRef> expanded = expandedBelow(topLevelItem(0));
+    const QVector<RecordRef> expanded = expandedBelow();
     refill(selectedRefs(), currentRecord());
     expand(expanded);
 }
@@ -100,6 +102,11 @@ bool KVTreeView::isShown(const RecordRef &record) const
 QString KVTreeView::label(const RecordRef &record) const
 {
     return m_document ? recordLabel(*m_document, record) : QString();
+}
+
+QString KVTreeView::name(const RecordRef &record) const
+{
+    return m_document ? m_document->recordName(record) : QString();
 }
 
 void KVTreeView::expandToMatches()
@@ -121,7 +128,7 @@ void KVTreeView::setFilter(const QString &text)
     const RecordRef current = currentRecord();
     const QVector<RecordRef> selected = selectedRefs();
     if (m_filter.isEmpty())
-        m_expandedUnfiltered = expandedBelow(topLevelItem(0));
+        m_expandedUnfiltered = expandedBelow();
     m_filter = RecordFilter(text);
     m_letThrough.clear();
     refill(selected, current);
@@ -153,7 +160,7 @@ void KVTreeView::letThrough(const QVector<RecordRef> &records)
         return;
     for (const RecordRef &record : qAsConst(hidden))
         m_letThrough.insert(record);
-    const QVector<RecordRef> expanded = expandedBelow(topLevelItem(0));
+    const QVector<RecordRef> expanded = expandedBelow();
     build();
     expand(expanded);
     if (isShown(hidden.last()))
@@ -218,35 +225,14 @@ QVector<RecordIndex> KVTreeView::selectedRecords(RecordKind kind) const
 
 RecordItem *KVTreeView::findItem(const RecordRef &record) const
 {
-    QTreeWidgetItem *item = nullptr;
+    RecordItem *item = nullptr;
     for (const int position : indexPath(record)) {
-        QTreeWidgetItem *next = item ? childAt(item, position) : topLevelItem(position);
+        RecordItem *next = item ? item->childAt(position) : static_cast<RecordItem *>(topLevelItem(position));
         if (!next)
             break;
         item = next;
     }
-    return static_cast<RecordItem *>(item);
-}
-
-RecordItem *KVTreeView::childAt(QTreeWidgetItem *item, int position)
-{
-    auto *child = static_cast<RecordItem *>(item->child(position));
-    if (child && child->position() == position)
-        return child;
-    // A filter left some out.
-    int begin = 0;
-    int end = item->childCount();
-    while (begin < end) {
-        const int middle = begin + (end - begin) / 2;
-        child = static_cast<RecordItem *>(item->child(middle));
-        if (child->position() == position)
-            return child;
-        if (child->position() < position)
-            begin = middle + 1;
-        else
-            end = middle;
-    }
-    return nullptr;
+    return item;
 }
 
 void KVTreeView::selectRecords(const QVector<RecordRef> &records, const RecordRef &current)
@@ -344,7 +330,7 @@ void KVTreeView::rebuildBelow(const RecordRef &owner, const QVector<StructureCha
     if (!item || item->record() != owner)
         return;
     const QSignalBlocker blocker(this);
-    QVector<RecordRef> expanded = expandedBelow(item);
+    QVector<RecordRef> expanded = item->expandedBelow();
     for (const StructureChange &change : changes) {
         if (change.added != 0)
             shift(expanded, change);
@@ -354,22 +340,10 @@ void KVTreeView::rebuildBelow(const RecordRef &owner, const QVector<StructureCha
     expand(expanded);
 }
 
-QVector<RecordRef> KVTreeView::expandedBelow(QTreeWidgetItem *item)
+QVector<RecordRef> KVTreeView::expandedBelow() const
 {
-    QVector<RecordRef> expanded;
-    if (!item)
-        return expanded;
-    for (QTreeWidgetItemIterator it(item, QTreeWidgetItemIterator::HasChildren); *it; ++it) {
-        // The iterator goes on behind the last child.
-        const QTreeWidgetItem *ancestor = *it;
-        while (ancestor && ancestor != item)
-            ancestor = ancestor->parent();
-        if (!ancestor)
-            break;
-        if (*it != item && (*it)->isExpanded())
-            expanded.append(static_cast<RecordItem *>(*it)->record());
-    }
-    return expanded;
+    const auto *root = static_cast<const RecordItem *>(topLevelItem(0));
+    return root ? root->expandedBelow() : QVector<RecordRef>();
 }
 
 void KVTreeView::expand(const QVector<RecordRef> &records)

@@ -34,6 +34,7 @@ public:
     RecordRef currentRecord() const override;
     QVector<RecordIndex> selectedRecords(RecordKind kind) const override;
     QString label(const RecordRef &record) const override;
+    QString name(const RecordRef &record) const override;
 
     /// The item of a record, or of the deepest of its owners that has one; null in an empty tree.
     RecordItem *findItem(const RecordRef &record) const;
@@ -63,7 +64,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    static RecordItem *childAt(QTreeWidgetItem *item, int position);
     RecordFilling filling() const;
     void build();
     /// In their order.
@@ -76,7 +76,7 @@ private:
     /// Shows records that the filter hides.
     void letThrough(const QVector<RecordRef> &records);
     void expandToMatches();
-    static QVector<RecordRef> expandedBelow(QTreeWidgetItem *item);
+    QVector<RecordRef> expandedBelow() const;
     void expand(const QVector<RecordRef> &records);
     void onRecordsChanged(const QVector<RecordRef> &records);
     void onStructuresChanged(const QVector<StructureChange> &changes);

@@ -31,18 +31,61 @@ int RecordItem::position() const
     return position == RecordRow::FromIndex ? m_number : position;
 }
 
+RecordItem *RecordItem::childAt(int position) const
+{
+    auto *found = static_cast<RecordItem *>(child(position));
+    if (found && found->position() == position)
+        return found;
+    // A filter left some out.
+    int begin = 0;
+    int end = childCount();
+    while (begin < end) {
+        const int middle = begin + (end - begin) / 2;
+        found = static_cast<RecordItem *>(child(middle));
+        if (found->position() == position)
+            return found;
+        if (found->position() < position)
+            begin = middle + 1;
+        else
+            end = middle;
+    }
+    return nullptr;
+}
+
+QVector<RecordRef> RecordItem::expandedBelow() const
+{
+    QVector<RecordRef> expanded;
+    for (QTreeWidgetItemIterator it(const_cast<RecordItem *>(this), QTreeWidgetItemIterator::HasChildren);
+         *it; ++it) {
+        // The iterator goes on behind the last child.
+        const QTreeWidgetItem *ancestor = *it;
+        while (ancestor && ancestor != this)
+            ancestor = ancestor->parent();
+        if (!ancestor)
+            break;
+        if (*it != this && (*it)->isExpanded())
+            expanded.append(static_cast<RecordItem *>(*it)->record());
+    }
+    return expanded;
+}
+
 QVariant RecordItem::data(int column, int role) const
 {
     if (column != 0)
         return {};
+    const auto texts = [this] { return dynamic_cast<const RecordSelection *>(treeWidget()); };
     switch (role) {
     case Qt::UserRole:
         return userData(record());
     case Qt::DisplayRole:
-    case Qt::EditRole: {
-        const auto *labels = dynamic_cast<const RecordSelection *>(treeWidget());
-        return labels ? labels->label(record()) : QString();
-    }
+    case Qt::EditRole:
+        return texts() ? texts()->label(record()) : QString();
+    case NameRole:
+        return texts() ? texts()->name(record()) : QString();
+    case Qt::AccessibleTextRole:
+        return QString(data(column, Qt::DisplayRole).toString() + QLatin1Char(' ') +
+                       data(column, NameRole).toString())
+            .trimmed();
     case Qt::DecorationRole:
         return recordIcon(m_kind);
     default:

@@ -5,6 +5,7 @@
 #include "Records.h"
 
 #include <QTreeWidgetItem>
+#include <QVector>
 
 /// The tree item of one record or group. It keeps the record's kind and its number in its list; its owners'
 /// numbers are its parents', the text comes from its tree (a RecordSelection) when asked. So half a million
@@ -24,8 +25,16 @@ public:
     /// The record, for an item that stands in its tree.
     RecordRef record() const;
 
+    /// The child that stands there while no filter leaves any out; null when there is none.
+    RecordItem *childAt(int position) const;
+    /// What is open below it.
+    QVector<RecordRef> expandedBelow() const;
+
     /// Where it stands among its siblings while no filter leaves any of them out.
     int position() const;
+
+    /// What the model's own names call it, for a quieter text behind the label.
+    static constexpr int NameRole = Qt::UserRole + 1;
 
     /// Under Qt::UserRole the kind code and the three indexes as a list.
     QVariant data(int column, int role) const override;

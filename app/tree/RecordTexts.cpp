@@ -30,12 +30,13 @@ QString searchText(const Document &document, const RecordRef &record)
         return QCoreApplication::translate("Records", row->label).remove(QLatin1String("%1"));
     QString text = QCoreApplication::translate("Records", row->noun) + QLatin1Char(' ') +
                    QString::number(record.index[size_t(row->component)]);
-    const QString more = document.recordText(record);
-    if (more.isEmpty())
-        return text;
+    QString more = document.recordText(record);
     // The text of an action is its event, number first.
-    return text + QLatin1Char(' ') +
-           (record.kind == RecordKind::AnimAction
-                ? QCoreApplication::translate("Records", "event") + QLatin1Char(' ') + more
-                : more);
+    if (record.kind == RecordKind::AnimAction && !more.isEmpty())
+        more.prepend(QCoreApplication::translate("Records", "event") + QLatin1Char(' '));
+    for (const QString &part : {more, document.recordName(record)}) {
+        if (!part.isEmpty())
+            text += QLatin1Char(' ') + part;
+    }
+    return text;
 }

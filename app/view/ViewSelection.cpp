@@ -32,7 +32,12 @@ ViewSelection::ViewSelection(const SkinnedMeshDocument &skinned, const StaticMes
 {
     const auto [records, view] = m_shown[size_t(DocumentType::SkinnedMesh)];
     const auto name = [records = records](RecordKind kind) {
-        return [records, kind](int index) { return records->label({kind, {index}}); };
+        return [records, kind](int index) {
+            const RecordRef record{kind, {index}};
+            const QString own = records->name(record);
+            return own.isEmpty() ? records->label(record)
+                                 : QStringLiteral("%1 (%2)").arg(records->label(record), own);
+        };
     };
     view->tools().hover->setNames(name(RecordKind::Bone), name(RecordKind::HotPoint));
     const auto pick = [this](DocumentType type, RecordKind kind) {

@@ -44,6 +44,7 @@ DocumentPanes::DocumentPanes(const std::array<DocumentPane, 3> &panes, SkinnedMe
     addPages(*animPane.pages, anim, *animPane.tree, skinnedMesh);
     addPages(*rigidPane.pages, staticMesh, *rigidPane.tree);
     meshPane.viewport->setSkinnedMeshMode(true);
+    anim.setNamingMesh(&skinnedMesh.model());
     for (const DocumentPane &each : m_panes)
         connectPane(each);
     connect(m_selection, &ViewSelection::picked, this, &DocumentPanes::showPicked);
@@ -216,6 +217,7 @@ void DocumentPanes::OnReplaced(DocumentType type)
     case DocumentType::SkinnedMesh:
         playback().mesh = &m_skinnedMesh.model();
         pane(type).viewport->setSkinnedMesh(&m_skinnedMesh.model());
+        showNames();
         break;
     case DocumentType::Anim:
         m_track.openAnimation(&m_anim.model());
@@ -265,6 +267,18 @@ void DocumentPanes::OnRecordsChanged(DocumentType type, const QVector<RecordRef>
     refreshChanged(*pane(type).viewport, records);
     if (type == DocumentType::Anim)
         m_track.updateRange();
+    if (type == DocumentType::SkinnedMesh)
+        showNames();
+}
+
+// Bones and animations are called by the names of the mesh.
+void DocumentPanes::showNames()
+{
+    const DocumentPane &anim = pane(DocumentType::Anim);
+    anim.tree->viewport()->update();
+    if (anim.document->isOpen())
+        anim.pages->refresh();
+    m_track.updateRange();
 }
 
 // A view that two trees share marks what is selected in the one in front.

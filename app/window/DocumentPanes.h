@@ -91,6 +91,7 @@ private:
     void updateViewports();
     void OnReplaced(DocumentType type);
     void frame(DocumentType type);
+    void showNames();
     static bool staysInFolder(const DocumentPane &opened);
     void OnRecordsChanged(DocumentType type, const QVector<RecordRef> &records);
     void selectRecord(DocumentType type, const RecordRef &record);

@@ -5,6 +5,7 @@
 #include "AnimFile.h"
 #include "BinaryFileReader.h"
 #include "BinaryFileWriter.h"
+#include "ModelNames.h"
 #include "SkinnedMesh.h"
 #include "StaticMesh.h"
 
@@ -193,12 +194,19 @@ inline QByteArray bytesOf(BinaryFileWriter &writer)
     return QByteArray(reinterpret_cast<const char *>(bytes.data()), int(bytes.size()));
 }
 
-/// The bytes of the file that the model would be saved as; empty when it refuses.
+/// The bytes of the file that the model would be saved as, and of names beside it; empty when it refuses.
 template <typename Model>
 QByteArray bytesOf(const Model &model)
 {
     BinaryFileWriter writer;
-    return model.write(writer) ? QByteArray() : bytesOf(writer);
+    if (model.write(writer))
+        return {};
+    if constexpr (std::is_same_v<Model, SkinnedMesh>) {
+        const ModelNames names = ModelNames::of(model);
+        if (!names.isEmpty())
+            return bytesOf(writer) + names.toJson();
+    }
+    return bytesOf(writer);
 }
 
 /// Reads `bytes` as a file into a fresh `model`. Returns true on failure.

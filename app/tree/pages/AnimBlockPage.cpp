@@ -10,8 +10,10 @@
 
 using namespace Parts;
 
-AnimBlockPage::AnimBlockPage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent)
+AnimBlockPage::AnimBlockPage(ModelDocument<Model> &document, const KVTreeView &tree,
+                             const SkinnedMeshDocument &mesh, QWidget *parent)
     : RecordPage(document, tree, tr("Anim %1 Properties"), parent)
+    , m_mesh(mesh)
 {
     m_ui.setupUi(this);
     Questions::set(m_ui.sbAnimAnimID, {Question::Animation});
@@ -39,7 +41,7 @@ void AnimBlockPage::recordShown()
     const AnimBlock *block = record();
     if (!block)
         return;
-    m_ui.hintAnimAnimID->setTarget(IndexTargets::animation(block->animId));
+    m_ui.hintAnimAnimID->setTarget(IndexTargets::animation(m_mesh.model(), block->animId));
     m_ui.hintAnimLoopFrame->setTarget(IndexTargets::loopFrame(*block, block->loopFrame));
     m_ui.lblAnimFrames->setNum(block->frameCount());
     m_ui.lblAnimBones->setNum(int(block->nodes.size()));

@@ -11,7 +11,8 @@ class AnimBlockPage : public RecordPage<Records::Block>
     Q_OBJECT
 
 public:
-    AnimBlockPage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent = nullptr);
+    AnimBlockPage(ModelDocument<Model> &document, const KVTreeView &tree, const SkinnedMeshDocument &mesh,
+                  QWidget *parent = nullptr);
 
 protected:
     void recordShown() override;
@@ -26,5 +27,6 @@ private slots:
     void OnAnimBlockBlendEndChanged() { commit(m_ui.sbAnimBlendEnd); }
 
 private:
+    const SkinnedMeshDocument &m_mesh;
     Ui::AnimBlockPage m_ui;
 };

@@ -3,9 +3,9 @@
 #include "IndexTargets.h"
 
 #include "AnimFile.h"
+#include "ModelNames.h"
 #include "NameTables.h"
 #include "Records.h"
-#include "ReferenceTables.h"
 
 #include <QCoreApplication>
 
@@ -54,12 +54,13 @@ IndexTarget track(int count, int index, const QString &withoutTrack)
 
 IndexTarget IndexTargets::bone(const SkinnedMesh &mesh, int index)
 {
-    const QString name = boneSymbolName(mesh, index);
-    if (name.isEmpty())
+    const QString title = boneTitle(mesh, index);
+    if (title.isEmpty())
         return {
             Texts::tr("no such bone"), true,
             Texts::tr("The mesh has no bone %1 (%2).").arg(QString::number(index), range(mesh.nodes.size()))};
-    return {QStringLiteral("%1: %2").arg(QString::number(index), name), false, {}};
+    const QString symbol = boneSymbolName(mesh, index);
+    return {title, false, title.endsWith(symbol) ? QString() : title + QLatin1String(", ") + symbol};
 }
 
 IndexTarget IndexTargets::parentBone(const SkinnedMesh &mesh, int index)
@@ -113,9 +114,9 @@ IndexTarget IndexTargets::loopFrame(const AnimBlock &block, int index)
     return {Texts::tr("%1 of %2 frames").arg(index).arg(block.frameCount()), false, {}};
 }
 
-IndexTarget IndexTargets::animation(int id)
+IndexTarget IndexTargets::animation(const SkinnedMesh &mesh, int id)
 {
-    const QString name = ReferenceTables::shared().name(ReferenceKind::Animations, id);
+    const QString name = animationName(mesh, id);
     return {name.isEmpty() ? Texts::tr("not in the table") : name, false, {}};
 }
 

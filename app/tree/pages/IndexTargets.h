@@ -13,7 +13,7 @@ struct StaticMesh;
 /// What the indexes of records point at, for IndexHint.
 namespace IndexTargets {
 
-/// "12: Left Upper Arm".
+/// "12: Left Upper Arm", or "12: head" by the bone's own name.
 IndexTarget bone(const SkinnedMesh &mesh, int index);
 /// As bone(); 255 is no parent where there are not that many bones.
 IndexTarget parentBone(const SkinnedMesh &mesh, int index);
@@ -28,8 +28,9 @@ IndexTarget actionBone(const AnimBlock &block, const SkinnedMesh &mesh, int inde
 IndexTarget actionFrame(const AnimBlock &block, int index);
 /// The frame that a block loops to; any beyond the last means that it does not.
 IndexTarget loopFrame(const AnimBlock &block, int index);
-/// What the reference table calls an animation; one that it does not know may still be the mod's own.
-IndexTarget animation(int id);
+/// What the model's own names or the reference table call an animation; one without a name may still be the
+/// mod's own.
+IndexTarget animation(const SkinnedMesh &mesh, int id);
 /// A track of the block's tables; 65535 stands for the bone's initial position or rotation.
 IndexTarget translationTrack(const AnimBlock &block, int index);
 IndexTarget rotationTrack(const AnimBlock &block, int index);

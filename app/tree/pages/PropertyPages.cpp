@@ -42,7 +42,7 @@ void addPages(PageStack &stack, AnimDocument &document, const KVTreeView &tree,
               const SkinnedMeshDocument &mesh)
 {
     add<AnimFilePage>(stack, document, tree);
-    add<AnimBlockPage>(stack, document, tree);
+    add<AnimBlockPage>(stack, document, tree, mesh);
     add<AnimNodePage>(stack, document, tree, mesh);
     add<AnimFramePage>(stack, document, tree);
     add<AnimTranslationPage>(stack, document, tree);

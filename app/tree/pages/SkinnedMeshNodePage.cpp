@@ -32,6 +32,7 @@ SkinnedMeshNodePage::SkinnedMeshNodePage(ModelDocument<Model> &document, const K
                                    &Page::OnSkinMeshNodeSFlagsSideChanged);
     bind<UC_SkinnedMeshNodeSFlags>(m_ui.cbNodeSymbolPart, SymbolPart, tr("Bone Symbol Flags"),
                                    &Page::OnSkinMeshNodeSFlagsPartChanged);
+    bind<UC_SkinnedMeshNodeName>(m_ui.txtNodeName, Whole, tr("Bone Name"), &Page::OnSkinMeshNodeNameChanged);
     bind<UC_SkinnedMeshNodeParentNode>(m_ui.sbNodeParentNode, Whole, tr("Parent Bone Index"),
                                        &Page::OnSkinMeshNodeParentNodeChanged);
     bind<UC_SkinnedMeshNodeImpactType>(m_ui.cbNodeImpactType, Whole, tr("Bone Impact Type"),

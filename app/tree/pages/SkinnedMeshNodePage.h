@@ -20,6 +20,7 @@ private slots:
     void OnSkinMeshNodeSFlagsTypeChanged() { commit(m_ui.cbNodeSymbolType); }
     void OnSkinMeshNodeSFlagsSideChanged() { commit(m_ui.cbNodeSymbolSide); }
     void OnSkinMeshNodeSFlagsPartChanged() { commit(m_ui.cbNodeSymbolPart); }
+    void OnSkinMeshNodeNameChanged() { commit(m_ui.txtNodeName); }
     void OnSkinMeshNodeParentNodeChanged() { commit(m_ui.sbNodeParentNode); }
     void OnSkinMeshNodeImpactTypeChanged() { commit(m_ui.cbNodeImpactType); }
     void OnSkinMeshNodeDamageScaleChanged() { commit(m_ui.sbNodeDamageScale); }

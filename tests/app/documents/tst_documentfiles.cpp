@@ -203,6 +203,68 @@ private slots:
         QVERIFY(!run.anim.isModified() && asked(DocumentType::Anim));
     }
 
+    void namesGoWithTheMesh()
+    {
+        OneRun run(m_files->path("recovery"));
+        const auto nameOf = [&run] { return run.mesh.model().nodes[1].name; };
+        const auto rename = [&run](const char *name) {
+            run.mesh.undoStack()->push(new UC_SkinnedMeshNodeName(run.mesh.editTarget(), {1}, QString(name)));
+        };
+        const QString names = m_files->path("mod/man.names.json");
+        const QString path = m_files->save("mod/man.skinnedmesh", triangleMan());
+        run.openMesh(path);
+        QVERIFY(!run.files.save(DocumentType::SkinnedMesh));
+        QVERIFY(!QFileInfo::exists(names)); // nothing has a name
+        m_files->put("mod/man.names.json", R"({"bones":{"1":"head","7":"gone"},"animations":{"5":"walk"}})");
+        const QByteArray byHand = TestSupport::readFile(names);
+        run.openMesh(path);
+        QCOMPARE(nameOf(), QString("head"));
+        run.edit(3);
+        QVERIFY(!run.files.save(DocumentType::SkinnedMesh));
+        QCOMPARE(TestSupport::readFile(names), byHand);
+
+        // What is kept of unsaved work has them, and a file that it never had gets them.
+        rename("skull");
+        const std::vector<uchar> kept = run.mesh.draft();
+        const QByteArray draft(reinterpret_cast<const char *>(kept.data()), int(kept.size()));
+        run.openMesh(path);
+        QVERIFY(!run.mesh.restore(draft, path, {}, run.mesh.fileStamp()));
+        QVERIFY(nameOf() == "skull" && run.mesh.model().bytesBehind == 0);
+        QVERIFY(!run.files.save(DocumentType::SkinnedMesh));
+        ModelNames saved;
+        QVERIFY(!saved.read(names) && saved.bones.value(1) == "skull" && saved.animations.value(5) == "walk");
+        run.mesh.undoStack()->setClean();
+
+        // An import brings names along. Another model's are asked about, and those that another program
+        // wrote.
+        const QString other = m_files->put("mod/other.names.json", R"({"bones":{"0":"tail"}})");
+        const QByteArray tail = TestSupport::readFile(other);
+        const auto saveAs = [&](const char *file, const QVector<Hand::Answer> &answers) {
+            Hand hand(QVector<Hand::Answer>{Hand::file(m_files->path(file))} + answers);
+            run.mesh.take(SkinnedMesh(run.mesh.model()), QStringLiteral("imported"));
+            run.files.saveAs(DocumentType::SkinnedMesh);
+            return hand.seen.mid(1);
+        };
+        const QStringList question("Save|'" + other + "' exists already. Replace it?");
+        QCOMPARE(saveAs("mod/other.skinnedmesh", {enter}), question);
+        QVERIFY(TestSupport::readFile(other) == tail &&
+                !QFileInfo::exists(m_files->path("mod/other.skinnedmesh")));
+        QCOMPARE(saveAs("mod/other.skinnedmesh", {Hand::clickOn("Yes")}), question);
+        QVERIFY(!saved.read(other) && saved.bones.value(1) == "skull");
+        QCOMPARE(saveAs("mod/new.skinnedmesh", {}), QStringList());
+        QVERIFY(!saved.read(m_files->path("mod/new.names.json")) && saved.bones.value(1) == "skull");
+        rename("");
+        m_files->put("mod/new.names.json", "{");
+        {
+            Hand hand({enter});
+            QVERIFY(run.files.save(DocumentType::SkinnedMesh));
+            QCOMPARE(hand.seen.size(), 1);
+        }
+        // A file that cannot be read is no hindrance.
+        run.openMesh(m_files->path("mod/new.skinnedmesh"));
+        QVERIFY(nameOf().isEmpty());
+    }
+
     void whatIsRefusedIsNotPassedOver()
     {
         const QString path = m_files->save("mod/man.skinnedmesh", triangleMan());
@@ -268,7 +330,7 @@ private slots:
         };
         const QStringList question{"Not stored|" + why + "\n\nGo on without it?"};
         QCOMPARE(asked(QMessageBox::No, [&] { window.close(); }), question);
-        QVERIFY(window.isVisible() && field->hasFocus() && field->isRefused());
+        QVERIFY(window.isVisible() && window.focusWidget() == field && field->isRefused());
         QCOMPARE(asked(QMessageBox::No, [&] { window.openFiles({other}); }), question);
         QVERIFY(window.windowTitle().contains("man.skinnedmesh"));
         QCOMPARE(asked(QMessageBox::Yes, [&] { window.close(); }), question);

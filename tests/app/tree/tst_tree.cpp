@@ -73,6 +73,49 @@ private slots:
         }
     }
 
+    void namesStandBehindLabels()
+    {
+        Panes panes;
+        m_mesh.nodes[1].name = QStringLiteral("upper arm.L");
+        m_mesh.animationNames = {{9, QStringLiteral("walk")}};
+        m_mesh.hotPoints[0].nodeId = 1;
+        AnimFile file;
+        file.blocks.resize(2);
+        for (AnimBlock &block : file.blocks)
+            block.nodes.resize(3);
+        file.blocks[1].nodes.resize(2);
+        file.blocks[0].animId = 9;
+        file.blocks[0].setRotationCount(1);
+        file.blocks[0].nodes[1].rotationIndex = 0;
+        file.blocks[0].actions.resize(1);
+        file.blocks[0].actions[0].node = 1;
+        Settings::HideMeshData.setValue(false);
+        Settings::HideAnimData.setValue(false);
+        panes.mesh.document.take(m_mesh, QStringLiteral("man"));
+        panes.anim.document.take(file, QStringLiteral("man"));
+        panes.anim.document.setNamingMesh(&panes.mesh.document.model());
+        const auto name = [](const auto &pane, const RecordRef &record) {
+            const RecordItem *item = pane.tree.findItem(record);
+            const bool isIt = item->record() == record && !item->text(0).contains("upper arm.L");
+            return isIt ? item->data(0, RecordItem::NameRole).toString() : QStringLiteral("another");
+        };
+        for (const RecordRef &record :
+             {RecordRef{RecordKind::Bone, {1}}, {RecordKind::ChildBone, {0, 1}}, {RecordKind::HotPoint, {0}}})
+            QCOMPARE(name(panes.mesh, record), QStringLiteral("upper arm.L"));
+        QCOMPARE(name(panes.mesh, {RecordKind::Bone, {2}}), QString());
+        for (const RecordRef &record : {RecordRef{RecordKind::AnimBone, {0, 1}},
+                                        {RecordKind::RotationTrack, {0, 0}},
+                                        {RecordKind::AnimAction, {0, 0}}})
+            QCOMPARE(name(panes.anim, record), QStringLiteral("upper arm.L"));
+        QCOMPARE(name(panes.anim, {RecordKind::AnimBlock, {0}}), QStringLiteral("walk"));
+        // A block with other bones is another model's.
+        QCOMPARE(name(panes.anim, {RecordKind::AnimBone, {1, 1}}), QString());
+        panes.mesh.tree.setFilter(QStringLiteral("bone upper arm.l"));
+        QCOMPARE(texts(panes.mesh.tree.topLevelItem(0)->child(0)), QStringList("1: Right Upper Arm"));
+        panes.anim.tree.setFilter(QStringLiteral("walk"));
+        QCOMPARE(panes.anim.tree.topLevelItem(0)->childCount(), 1);
+    }
+
     void animation()
     {
         AnimFile file;

@@ -311,6 +311,13 @@ private slots:
         QCOMPARE(shown(), QStringList({"1: Walk", "Walk"}));
         find<QTableWidget>(window, "tableDBAnimations")->sortByColumn(1, Qt::AscendingOrder);
         QCOMPARE(shown(), QStringList({"1: Run", "Run"}));
+        // The model's own names come first.
+        m_files->put("man.names.json", R"({"animations": {"7": "stroll"}})");
+        window.openFiles({m_files->save("man.skinnedmesh", triangleMan())});
+        QCOMPARE(shown(), QStringList({"1: stroll", "stroll"}));
+        QVERIFY(QFile::remove(m_files->path("man.names.json")));
+        window.openFiles({m_files->path("man.skinnedmesh")});
+        QCOMPARE(shown(), QStringList({"1: Run", "Run"}));
         // One that cannot be read is left alone by all.
         QVERIFY(QFile::remove(own) && QDir().mkpath(own));
         again->click();

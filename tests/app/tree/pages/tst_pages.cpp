@@ -255,6 +255,15 @@ private slots:
         says(mesh, "hintNodeParentNode", "0: Left Root");
         type(mesh.child<QWidget>("sbNodeParentNode"), QStringLiteral("4"));
         says(mesh, "hintNodeParentNode", "no such bone", true);
+        // A bone's own name, which is typed on its page and can be taken back.
+        mesh.select({{RecordKind::Bone, {0}}});
+        type(mesh.child<TextField>("txtNodeName"), QStringLiteral("hips"));
+        mesh.select({{RecordKind::Bone, {1}}});
+        type(mesh.child<IntSpinBox>("sbNodeParentNode"), QStringLiteral("0"));
+        says(mesh, "hintNodeParentNode", "0: hips");
+        mesh.undo().undo();
+        mesh.undo().undo();
+        mesh.select({{RecordKind::Bone, {1}}});
         type(mesh.child<QWidget>("sbNodeParentNode"), QStringLiteral("255"));
         says(mesh, "hintNodeParentNode", "no parent");
         mesh.select({{RecordKind::SkinnedTriangleIndex, {0, 2}}});

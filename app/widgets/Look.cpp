@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QCoreApplication>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QStyle>
 #include <QStyleFactory>
@@ -54,14 +55,32 @@ const Desktop &desktop()
     return found;
 }
 
-/// Draws the icon of the menu item under the mouse in the color of its text.
-class MenuIconStyle : public QProxyStyle
+/// Mends what cannot be read well: the icon of the menu item under the mouse gets the color of its text, an
+/// empty box in a dark look a frame.
+class ReadableStyle : public QProxyStyle
 {
 public:
-    explicit MenuIconStyle(const QString &name)
+    explicit ReadableStyle(const QString &name)
         : QProxyStyle(QStyleFactory::create(name))
     {
         setObjectName(name);
+    }
+
+    // The frame that Fusion draws is darker than the window.
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override
+    {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        const bool isDark = option->palette.color(QPalette::Window).lightness() < 128;
+        if (element != PE_IndicatorCheckBox || !isDark)
+            return;
+        QColor frame = option->palette.color(QPalette::WindowText);
+        frame.setAlphaF(0.4);
+        painter->save();
+        painter->setPen(frame);
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+        painter->restore();
     }
 
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
@@ -86,8 +105,8 @@ public:
 void useStyle(const QString &name)
 {
     if (QApplication::style()->objectName().compare(name, Qt::CaseInsensitive) != 0 ||
-        !dynamic_cast<const MenuIconStyle *>(QApplication::style()))
-        QApplication::setStyle(new MenuIconStyle(name));
+        !dynamic_cast<const ReadableStyle *>(QApplication::style()))
+        QApplication::setStyle(new ReadableStyle(name));
 }
 
 void show(bool dark)

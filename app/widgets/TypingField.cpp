@@ -81,6 +81,8 @@ bool TypingField::returnToRefused(const QWidget &fields)
 
 void TypingField::setRefusal(const QString &reason, const QString &wayOut)
 {
+    if (reason.isEmpty() && isRefused() && QToolTip::text() == tip())
+        QToolTip::hideText();
     m_wayOut = wayOut;
     if (reason == m_reason)
         return;

@@ -30,7 +30,6 @@ AppearanceBox::AppearanceBox(QWidget *parent)
         m_language->addItem(choice.code.isEmpty() ? tr("System") : choice.name, choice.code);
     m_language->setCurrentIndex(std::max(0, m_language->findData(Settings::UiLanguage.value())));
     m_hint->setObjectName(QStringLiteral("lblLanguageHint"));
-    m_hint->setWordWrap(true);
     QSizePolicy room = m_hint->sizePolicy();
     room.setRetainSizeWhenHidden(true); // so that nothing jumps
     m_hint->setSizePolicy(room);

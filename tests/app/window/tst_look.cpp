@@ -58,6 +58,23 @@ class tst_Look : public QObject
     Q_OBJECT
 
 private slots:
+    void anEmptyBoxIsSeen()
+    {
+        for (const Look look : {Look::Light, Look::Dark}) {
+            chooseLook(look);
+            QCheckBox box;
+            box.show();
+            QStyleOptionButton option;
+            option.initFrom(&box);
+            const QRect square = box.style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, &box);
+            const QImage shown = box.grab().toImage();
+            const int around = shown.pixelColor(shown.width() - 1, 0).lightness();
+            int most = 0;
+            for (int x = square.left(); x < square.left() + 3; ++x)
+                most = std::max(most, qAbs(shown.pixelColor(x, square.center().y()).lightness() - around));
+            QVERIFY2(most > 40, qPrintable(lookKey(look) + QString::number(most)));
+        }
+    }
     void theIconUnderTheMouseIsReadable()
     {
         for (const Look look : {Look::Light, Look::Dark}) {

@@ -102,10 +102,11 @@ private slots:
         QTest::keyClick(path, Qt::Key_End);
         QTest::sendKeyEvent(QTest::Click, path, Qt::Key_unknown, QString(QChar(0x442)), Qt::NoModifier);
         QTest::keyClick(path, Qt::Key_Return);
-        QVERIFY(path->isRefused() && path->text().endsWith(QChar(0x442)));
+        QVERIFY(path->isRefused() && path->text().endsWith(QChar(0x442)) && QToolTip::isVisible());
         QCOMPARE(pane.undo().count(), 3);
         QTest::keyClick(path, Qt::Key_Escape);
         QVERIFY(!path->isRefused() && path->text() == before);
+        QTRY_VERIFY(!QToolTip::isVisible());
     }
 
     void anEditReachesAllSelectedAndOnlyItsPart()

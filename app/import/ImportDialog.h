@@ -40,8 +40,7 @@ protected:
 
 signals:
     /// The import has succeeded; `name` is the source's complete base name.
-    void skinnedMeshImported(const SkinnedMesh &mesh, const AnimFile &anim, const QString &name,
-                             const ModelNames &names);
+    void skinnedMeshImported(const SkinnedMesh &mesh, const AnimFile &anim, const QString &name);
     void staticMeshImported(const StaticMesh &mesh, const QString &name);
 
 private slots:

@@ -50,7 +50,7 @@ void ImportRun::onWorkerFinished()
         goesOn = finish(mesh, messages, outcome, anim);
         m_worker.names().giveTo(mesh);
         if (goesOn && !messages.hasError())
-            emit skinnedMeshImported(mesh, anim, name, m_worker.names());
+            emit skinnedMeshImported(mesh, anim, name);
     }
     m_worker.discard();
     if (goesOn)

@@ -38,8 +38,7 @@ public:
 
 signals:
     /// The import has succeeded; `name` is the source's complete base name.
-    void skinnedMeshImported(const SkinnedMesh &mesh, const AnimFile &anim, const QString &name,
-                             const ModelNames &names);
+    void skinnedMeshImported(const SkinnedMesh &mesh, const AnimFile &anim, const QString &name);
     void staticMeshImported(const StaticMesh &mesh, const QString &name);
     /// Comes once for each start, after those. There is a model unless the messages hold an error; `outcome`
     /// says what was written.

@@ -10,7 +10,6 @@
 #include <optional>
 
 Q_DECLARE_METATYPE(AnimFile)
-Q_DECLARE_METATYPE(ModelNames)
 Q_DECLARE_METATYPE(SkinnedMesh)
 
 /// The choice how a model arrives, and what the dialog tells of a file before it is imported.
@@ -24,7 +23,6 @@ private slots:
         QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         qRegisterMetaType<SkinnedMesh>("SkinnedMesh");
         qRegisterMetaType<AnimFile>("AnimFile");
-        qRegisterMetaType<ModelNames>("ModelNames");
     }
     void init()
     {
@@ -288,12 +286,11 @@ private:
     QPair<SkinnedMesh, AnimFile> imported(ImportDialog &dialog, const char *button = "btnImport")
     {
         QPair<SkinnedMesh, AnimFile> result;
-        const auto connection = connect(
-            &dialog, &ImportDialog::skinnedMeshImported, this,
-            [&](const SkinnedMesh &mesh, const AnimFile &anim, const QString &, const ModelNames &names) {
-                result = {mesh, anim};
-                m_names = names;
-            });
+        const auto connection = connect(&dialog, &ImportDialog::skinnedMeshImported, this,
+                                        [&](const SkinnedMesh &mesh, const AnimFile &anim) {
+                                            result = {mesh, anim};
+                                            m_names = ModelNames::of(mesh);
+                                        });
         find<QStackedWidget>(dialog, "stackPages")
             ->setCurrentIndex(qstrcmp(button, "btnImport") == 0 ? 0 : 2);
         click(dialog, button);

@@ -80,8 +80,10 @@ void readGltfWeights(const QString &modelPath, const aiScene &scene)
     if ((!isNamed(".gltf") && !isNamed(".glb")) || openGltf(modelPath, bytes, reason))
         return;
     std::vector<QJsonObject> open; // primitives that no mesh was found for yet
-    for (const QJsonValue &mesh : bytes.list("meshes")) {
-        for (const QJsonValue &primitive : mesh.toObject().value(QLatin1String("primitives")).toArray())
+    const QJsonArray meshes = bytes.list("meshes");
+    for (const QJsonValue &mesh : meshes) {
+        const QJsonArray primitives = mesh.toObject().value(QLatin1String("primitives")).toArray();
+        for (const QJsonValue &primitive : primitives)
             open.push_back(primitive.toObject().value(QLatin1String("attributes")).toObject());
     }
     for (unsigned m = 0; m < scene.mNumMeshes; ++m) {

@@ -14,7 +14,7 @@ using JsonValues::toJson;
 
 const QLatin1String Property("korvane");
 // More than a block can have in a file whose frame numbers have 16 bits.
-constexpr int MostFrames = 1 << 20;
+constexpr int MostRecordFrames = 1 << 20;
 
 // Both are declared before the lists of them.
 QJsonValue toJson(const AnimAction &action);
@@ -190,7 +190,7 @@ bool fromJson(const QJsonValue &json, Block &block)
     std::vector<float> yaw;
     reader("frames", frames);
     reader("yaw", yaw);
-    if (!json.isObject() || !reader.fits || frames < 0 || frames > MostFrames ||
+    if (!json.isObject() || !reader.fits || frames < 0 || frames > MostRecordFrames ||
         (!yaw.empty() && yaw.size() != size_t(frames)))
         return false;
     block.record.frames.resize(size_t(frames));

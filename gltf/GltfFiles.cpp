@@ -53,6 +53,7 @@ std::vector<GltfFiles::File> GltfFiles::files() const
     if (isBinary())
         return {{m_path, m_content.glb()}};
     std::vector<File> files;
+    files.reserve(size_t(m_imageNames.size()) + 2);
     for (int i = 0; i < m_imageNames.size(); ++i)
         files.push_back({beside(m_imageNames[i]), m_content.images()[size_t(i)].bytes});
     const QString buffer = QFileInfo(m_path).completeBaseName() + QStringLiteral(".bin");

@@ -13,14 +13,14 @@
 static_assert(Q_BYTE_ORDER == Q_LITTLE_ENDIAN, "numbers go into the buffer as they lie in memory");
 
 namespace {
-enum ComponentType { UnsignedByte = 5121, UnsignedShort = 5123, UnsignedInt = 5125, Float = 5126 };
+enum WrittenType { WrittenBytes = 5121, WrittenShorts = 5123, WrittenInts = 5125, WrittenFloats = 5126 };
 
 constexpr int Alignment = 4;
 constexpr quint32 GlbMagic = 0x46546C67; // "glTF"
 constexpr quint32 GlbVersion = 2;
 constexpr int HeaderSize = 12;
-constexpr quint32 JsonChunk = 0x4E4F534A;
-constexpr quint32 BinaryChunk = 0x004E4942;
+constexpr quint32 JsonChunkType = 0x4E4F534A;
+constexpr quint32 BinaryChunkType = 0x004E4942;
 
 int componentsOf(const char *type)
 {
@@ -144,12 +144,12 @@ int GltfWriter::addFloats(const std::vector<float> &values, const char *type, Pu
         bounds = {{QStringLiteral("min"), least}, {QStringLiteral("max"), most}};
     }
     return addAccessor(reinterpret_cast<const char *>(values.data()), qint64(values.size() * sizeof(float)),
-                       Float, int(values.size() / components), type, purpose, bounds);
+                       WrittenFloats, int(values.size() / components), type, purpose, bounds);
 }
 
 int GltfWriter::addBytes(const std::vector<quint8> &values, const char *type, bool normalized)
 {
-    return addAccessor(reinterpret_cast<const char *>(values.data()), qint64(values.size()), UnsignedByte,
+    return addAccessor(reinterpret_cast<const char *>(values.data()), qint64(values.size()), WrittenBytes,
                        int(values.size()) / componentsOf(type), type, Purpose::Vertices,
                        normalized ? QJsonObject{{QStringLiteral("normalized"), true}} : QJsonObject());
 }
@@ -157,7 +157,7 @@ int GltfWriter::addBytes(const std::vector<quint8> &values, const char *type, bo
 int GltfWriter::addShorts(const std::vector<quint16> &values, const char *type)
 {
     return addAccessor(reinterpret_cast<const char *>(values.data()), qint64(values.size() * 2),
-                       UnsignedShort, int(values.size()) / componentsOf(type), type, Purpose::Vertices);
+                       WrittenShorts, int(values.size()) / componentsOf(type), type, Purpose::Vertices);
 }
 
 int GltfWriter::addIndexes(const std::vector<quint32> &values, size_t vertexCount)
@@ -166,9 +166,9 @@ int GltfWriter::addIndexes(const std::vector<quint32> &values, size_t vertexCoun
     if (vertexCount <= 0xFFFF) {
         const std::vector<quint16> shorts(values.begin(), values.end());
         return addAccessor(reinterpret_cast<const char *>(shorts.data()), qint64(shorts.size() * 2),
-                           UnsignedShort, int(shorts.size()), "SCALAR", Purpose::Indexes);
+                           WrittenShorts, int(shorts.size()), "SCALAR", Purpose::Indexes);
     }
-    return addAccessor(reinterpret_cast<const char *>(values.data()), qint64(values.size() * 4), UnsignedInt,
+    return addAccessor(reinterpret_cast<const char *>(values.data()), qint64(values.size() * 4), WrittenInts,
                        int(values.size()), "SCALAR", Purpose::Indexes);
 }
 
@@ -225,9 +225,9 @@ QByteArray GltfWriter::glb() const
     }
 
     QByteArray chunks;
-    appendChunk(chunks, JsonChunk, QJsonDocument(whole).toJson(QJsonDocument::Compact), ' ');
+    appendChunk(chunks, JsonChunkType, QJsonDocument(whole).toJson(QJsonDocument::Compact), ' ');
     if (!bytes.isEmpty())
-        appendChunk(chunks, BinaryChunk, bytes, '\0');
+        appendChunk(chunks, BinaryChunkType, bytes, '\0');
     QByteArray file;
     appendNumber(file, GlbMagic);
     appendNumber(file, GlbVersion);

@@ -195,12 +195,8 @@ GltfWriter exportGltf(const StaticMesh &mesh, const GltfSource &source, ImportMe
     return writer;
 }
 
-ModelNames namesFor(const QString &meshPath, const AnimFile *anim, ImportMessages &messages)
+ModelNames namesFor(ModelNames names, const AnimFile *anim)
 {
-    ModelNames names;
-    QString reason;
-    if (!meshPath.isEmpty() && names.read(ModelNames::pathFor(meshPath), &reason))
-        messages.addWarning(QStringLiteral("[glTF Export] %1").arg(reason));
     if (!anim)
         return names;
     for (const AnimBlock &block : anim->blocks) {

@@ -36,6 +36,6 @@ GltfWriter exportGltf(const StaticMesh &mesh, const GltfSource &source, ImportMe
 /// The numbers of all blocks.
 std::vector<int> allBlocks(const AnimFile &anim);
 
-/// What the bones and animations of a model are called: by the names beside the mesh, and animations that
-/// have none there by the reference tables. Main thread only.
-ModelNames namesFor(const QString &meshPath, const AnimFile *anim, ImportMessages &messages);
+/// What the bones and animations of a model are called: by the model's own names, and animations that have
+/// none there by the reference tables. Main thread only.
+ModelNames namesFor(ModelNames names, const AnimFile *anim);

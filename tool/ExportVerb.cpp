@@ -101,7 +101,10 @@ bool writeGltf(const PosedModel &model, const ExportWishes &wishes, const Materi
 {
     GltfSource source;
     source.name = QFileInfo(model.meshPath).completeBaseName();
-    source.names = namesFor(model.meshPath, model.animFile(), messages);
+    QString reason;
+    if (!model.meshPath.isEmpty() && source.names.read(ModelNames::pathFor(model.meshPath), &reason))
+        messages.addWarning(QStringLiteral("[glTF Export] %1").arg(reason));
+    source.names = namesFor(source.names, model.animFile());
     source.gamePath = folders.gamePath;
     source.outputDir = folders.outputDir;
     const AnimFile *anim = model.animFile();

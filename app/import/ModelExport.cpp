@@ -199,8 +199,7 @@ void ModelExport::on_actionExportAnimation_triggered()
     const std::vector<int> blocks = chosenBlocks();
     if (blocks.empty() || returnsToTyping())
         return;
-    ImportMessages unsaid; // the export says it
-    const ModelNames names = namesFor(m_skinnedMesh.path(), &m_anim.model(), unsaid);
+    const ModelNames names = namesFor(ModelNames::of(m_skinnedMesh.model()), &m_anim.model());
     QString name = QFileInfo(m_skinnedMesh.fileName()).completeBaseName();
     const std::vector<GltfClip> clips = clipsFor(m_anim.model(), blocks, names);
     for (size_t i = 0; i < clips.size() && i < MostNamed; ++i)
@@ -229,7 +228,8 @@ void ModelExport::exportGltf(const std::vector<int> &blocks, const QString &titl
     source.outputDir = Settings::OutputDir.value();
     ImportMessages messages;
     const bool animated = !isStatic && m_anim.isOpen();
-    source.names = namesFor(document.path(), animated ? &m_anim.model() : nullptr, messages);
+    source.names = namesFor(isStatic ? ModelNames() : ModelNames::of(m_skinnedMesh.model()),
+                            animated ? &m_anim.model() : nullptr);
     // The thread works on models of its own: what is open may be replaced meanwhile.
     auto work = [=, skinned = isStatic ? SkinnedMesh() : m_skinnedMesh.model(),
                  anim = animated ? m_anim.model() : AnimFile(),

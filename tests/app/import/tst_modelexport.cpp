@@ -120,13 +120,17 @@ void tst_ModelExport::skinnedMesh()
 
     QCOMPARE(hand.seen.size(), 2);
     typeParent(window, 7);
+    auto *name = find<QLineEdit>(window, "txtNodeName");
+    name->setFocus();
+    QTest::keyClicks(name, QStringLiteral("skull"));
     exportNow();
     QCOMPARE(hand.seen.size(), 4);
     QVERIFY(hand.seen[3].startsWith("Export as glTF|These files exist already. Replace them?"));
     QCOMPARE(TestSupport::readFile(path("out/man.glb")), first);
     exportNow();
     QCOMPARE(hand.seen.size(), 6);
-    QVERIFY(QFile::exists(path("out/man_2.glb")));
+    // Names that are saved nowhere yet go out, too.
+    QVERIFY(TestSupport::readFile(path("out/man_2.glb")).contains("bone_001 skull"));
     exportNow();
 
     QVERIFY(QFile::exists(path("out/man.gltf")) && QFile::exists(path("out/man.bin")));

@@ -3,10 +3,12 @@
 #pragma once
 
 #include "FieldCommand.h"
+#include "ReplaceCommand.h"
 #include "StructureCommand.h"
 
 // clang-format off
 #define KORVANE_ANIM_COMMANDS(ROW) \
+    ROW(UC_AnimUpdate, ReplaceCommand, QT_TRANSLATE_NOOP("UndoCommands", "Update from %1"), Records::AnimFileRoot) \
     ROW(UC_AnimBlockAnimID, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Animation AnimID"), Records::Block, Member<&AnimBlock::animId>) \
     ROW(UC_AnimBlockFrameScale, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Animation Frame Scale"), Records::Block, Member<&AnimBlock::frameScale>) \
     ROW(UC_AnimBlockBlendLength, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Animation Blend Length"), Records::Block, Member<&AnimBlock::blendLength>) \

@@ -9,9 +9,9 @@ struct StructureChange
 {
     /// The record put in or taken out, or the one below which lists changed their lengths.
     RecordRef record;
-    /// 1: put in, -1: taken out, 0: lists below `record` have other lengths.
+    /// 1: put in, -1: taken out, 0: lists below `record` have other lengths; of the root, all is new.
     int added;
-    /// The record, or the group, that is to be shown afterwards.
+    /// The record, or the group, that is to be shown afterwards; none when what is shown stays.
     RecordRef select;
 };
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "FieldCommand.h"
+#include "ReplaceCommand.h"
 #include "StructureCommand.h"
 #include "TransformCommand.h"
 
@@ -53,6 +54,7 @@ struct HotPointEffects
     ROW(UC_SkinnedMeshPasteHotPoint, InsertCommand, QT_TRANSLATE_NOOP("UndoCommands", "Paste Hot Point"), Records::HotPoint, RecordKind::HotPoints) \
     ROW(UC_SkinnedMeshAddCnode, InsertCommand, QT_TRANSLATE_NOOP("UndoCommands", "Add Child Bone Index"), Records::ChildBone, RecordKind::ChildBones) \
     ROW(UC_SkinnedMeshRemoveCnode, RemoveCommand, QT_TRANSLATE_NOOP("UndoCommands", "Remove Child Bone Index"), Records::ChildBone, RecordKind::ChildBones) \
+    ROW(UC_SkinnedMeshUpdate, ReplaceCommand, QT_TRANSLATE_NOOP("UndoCommands", "Update from %1"), Records::SkinnedMeshRoot) \
     ROW(UC_SkinnedMeshRotate, RotateCommand, QT_TRANSLATE_NOOP("UndoCommands", "Rotate Vertices"), Records::SkinnedMeshRoot) \
     ROW(UC_SkinnedMeshScale, ScaleCommand, QT_TRANSLATE_NOOP("UndoCommands", "Scale Vertices"), Records::SkinnedMeshRoot)
 // clang-format on

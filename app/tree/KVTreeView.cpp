@@ -290,6 +290,12 @@ void KVTreeView::onRecordsChanged(const QVector<RecordRef> &records)
 
 void KVTreeView::onStructuresChanged(const QVector<StructureChange> &changes)
 {
+    if (changes.last().select.kind == RecordKind::None) {
+        if (m_filter.isEmpty())
+            m_expandedUnfiltered = expandedBelow();
+        refill(selectedRefs(), currentRecord());
+        return;
+    }
     if (!m_filter.isEmpty()) {
         QVector<RecordRef> through(m_letThrough.begin(), m_letThrough.end());
         for (const StructureChange &change : changes) {

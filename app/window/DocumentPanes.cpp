@@ -16,6 +16,7 @@
 #include <QStackedWidget>
 #include <QTabWidget>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -66,7 +67,8 @@ void DocumentPanes::connectPane(const DocumentPane &pane)
     connect(pane.document, &Document::replaced, this, [this, type] { OnReplaced(type); });
     connect(pane.document, &Document::recordsChanged, this,
             [this, type](const QVector<RecordRef> &records) { OnRecordsChanged(type, records); });
-    connect(pane.document, &Document::structuresChanged, this, [this, type] { OnRecordsChanged(type, {}); });
+    connect(pane.document, &Document::structuresChanged, this,
+            [this, type](const QVector<StructureChange> &changes) { OnStructuresChanged(type, changes); });
     connect(pane.tree, &KVTreeView::currentRecordChanged, this,
             [this, type](const RecordRef &record) { showInViewport(type, record); });
     connect(pane.tree, &KVTreeView::told, this, &DocumentPanes::told);
@@ -279,6 +281,17 @@ void DocumentPanes::showNames()
     if (anim.document->isOpen())
         anim.pages->refresh();
     m_track.updateRange();
+}
+
+void DocumentPanes::OnStructuresChanged(DocumentType type, const QVector<StructureChange> &changes)
+{
+    const Document &document = *pane(type).document;
+    const bool isWhole = std::any_of(changes.begin(), changes.end(), [&](const StructureChange &change) {
+        return change.record.kind == document.rootKind();
+    });
+    if (isWhole)
+        pane(type).viewport->rebuildModel();
+    OnRecordsChanged(type, {});
 }
 
 // A view that two trees share marks what is selected in the one in front.

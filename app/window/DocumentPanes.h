@@ -94,6 +94,7 @@ private:
     void showNames();
     static bool staysInFolder(const DocumentPane &opened);
     void OnRecordsChanged(DocumentType type, const QVector<RecordRef> &records);
+    void OnStructuresChanged(DocumentType type, const QVector<StructureChange> &changes);
     void selectRecord(DocumentType type, const RecordRef &record);
     void showPicked(DocumentType type, const RecordRef &record);
     bool isMarked(DocumentType type) const;

@@ -58,7 +58,7 @@ Checks::Checks(MainWindow &window)
         connect(each, &Document::saved, this, [each, &track] { track.kept = bytesOf(*each); });
         connect(each, &Document::structuresChanged, this, [&track](const QVector<StructureChange> &changes) {
             for (const StructureChange &change : changes)
-                track.direct = track.direct || change.added == 0;
+                track.direct = track.direct || (change.added == 0 && change.select.kind != RecordKind::None);
         });
     }
 }

@@ -60,6 +60,11 @@ constexpr bool isInsertion()
     return false;
 }
 
+/// Whether the command exchanges the whole model for another one.
+template <typename Command>
+inline constexpr bool isReplacement =
+    std::is_constructible_v<Command, EditTarget<typename Command::Model>, typename Command::Model, QString>;
+
 /// A record of the kind, not the first where there is a choice.
 template <typename RecordType>
 RecordIndex someIndex(typename RecordType::Model &model)
@@ -110,6 +115,10 @@ Command *make(EditTarget<typename Command::Model> target, const RecordIndex &ind
         return new Command(target, index, list.empty() ? typename Command::Record() : list.back());
     } else if constexpr (isStructure<Command>) {
         return new Command(target, index);
+    } else if constexpr (isReplacement<Command>) {
+        auto model = target.model;
+        model.version = other(model.version);
+        return new Command(target, model, QStringLiteral("a.glb"));
     } else if constexpr (std::is_constructible_v<Command, EditTarget<typename Command::Model>, float>) {
         return new Command(target, 3.0f);
     } else {

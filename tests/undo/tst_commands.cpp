@@ -44,7 +44,7 @@ void checkAt(typename Command::Model model, const RecordIndex &index)
     const QByteArray before = bytesOf(model);
     auto *command = make<Command>({model, view}, index);
     QCOMPARE(bytesOf(model), before);
-    QCOMPARE(command->text(), QString::fromLatin1(Command::undoText));
+    QCOMPARE(command->text(), QString::fromLatin1(Command::undoText).replace("%1", "a.glb"));
     stack.push(command);
     const QByteArray after = bytesOf(model);
     QVERIFY(after != before);
@@ -65,7 +65,13 @@ void checkAt(typename Command::Model model, const RecordIndex &index)
         stack.redo();
         QCOMPARE(bytesOf(model), after);
     }
-    if constexpr (isStructure<Command>) {
+    if constexpr (isReplacement<Command>) {
+        QVERIFY(view.records.isEmpty());
+        QCOMPARE(view.structures.size(), 5);
+        QCOMPARE(view.structures.last().record, (RecordRef{Place::kind, {}}));
+        QCOMPARE(view.structures.last().added, 0);
+        QCOMPARE(view.structures.last().select.kind, RecordKind::None);
+    } else if constexpr (isStructure<Command>) {
         QVERIFY(view.records.isEmpty());
         QCOMPARE(view.structures.size(), 5);
         const StructureChange &change = view.structures.last();

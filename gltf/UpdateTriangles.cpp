@@ -341,8 +341,10 @@ private:
         const Vertex before = vertex;
         vertex = from;
         const bool sameBone = boneOf(before) == boneOf(from);
-        if (sameBone && (before.position - from.position).length() <= m_nearby)
-            vertex.position = before.position;
+        for (int axis = 0; sameBone && axis < 3; ++axis) {
+            if (std::abs(before.position[axis] - from.position[axis]) <= m_nearby)
+                vertex.position[axis] = before.position[axis];
+        }
         if (isSameUV(before.uv, from.uv))
             vertex.uv = before.uv;
         if (sameBone && isSameNormal(before.normal, from.normal))

@@ -3278,6 +3278,100 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
 </context>
 <context>
+    <name>ModelUpdateDialog</name>
+    <message>
+        <source>Update</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>What it would &amp;change</source>
+        <translation>Was sie ä&amp;ndern würde</translation>
+    </message>
+    <message>
+        <source>What the update would change</source>
+        <translation>Was die Aktualisierung ändern würde</translation>
+    </message>
+    <message>
+        <source>&amp;Remove the animations that are missing in the file</source>
+        <translation>Animationen &amp;entfernen, die in der Datei fehlen</translation>
+    </message>
+    <message>
+        <source>Otherwise they stay. Bones, hot points and surfaces always do, since the game knows them by their numbers.</source>
+        <translation>Sonst bleiben sie. Knochen, Hotpoints und Flächen bleiben immer, da das Spiel sie an ihren Nummern kennt.</translation>
+    </message>
+    <message>
+        <source>Flags, boxes, hot points, actions and ids stay. Undo takes the update back.</source>
+        <translation>Flags, Boxen, Hotpoints, Aktionen und IDs bleiben. „Rückgängig“ nimmt die Aktualisierung zurück.</translation>
+    </message>
+    <message>
+        <source>&amp;Update</source>
+        <translation>&amp;Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Import as &amp;New</source>
+        <translation>Als ne&amp;ues Modell importieren</translation>
+    </message>
+    <message>
+        <source>Imports the file as a model of its own, in place of the one that is open</source>
+        <translation>Importiert die Datei als eigenes Modell anstelle des geöffneten</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Update %1</source>
+        <translation>%1 aktualisieren</translation>
+    </message>
+    <message>
+        <source>%1 comes from this program. It can update %2, which is open.</source>
+        <translation>%1 stammt aus diesem Programm. Die Datei kann das geöffnete Modell %2 aktualisieren.</translation>
+    </message>
+    <message>
+        <source>%1 comes from this program, and holds %2 just as it is open.</source>
+        <translation>%1 stammt aus diesem Programm und enthält %2 genau so, wie es geöffnet ist.</translation>
+    </message>
+    <message>
+        <source>It was exported from &apos;%1&apos;, not from &apos;%2&apos;.</source>
+        <translation>Sie wurde aus „%1“ exportiert, nicht aus „%2“.</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Missing in the file, stays</source>
+        <translation>Fehlt in der Datei, bleibt</translation>
+    </message>
+    <message>
+        <source>To be known</source>
+        <translation>Zu beachten</translation>
+    </message>
+</context>
+<context>
+    <name>ModelUpdater</name>
+    <message>
+        <source>%1 Could not read file. The result was damaged.</source>
+        <translation>%1 Die Datei konnte nicht gelesen werden. Das Ergebnis war beschädigt.</translation>
+    </message>
+    <message>
+        <source>Updated %1 from %2</source>
+        <translation>%1 aus %2 aktualisiert</translation>
+    </message>
+    <message>
+        <source>Reading &apos;%1&apos;</source>
+        <translation>„%1“ wird gelesen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>NameTables</name>
     <message>
         <source>Body</source>
@@ -6315,6 +6409,10 @@ So lassen?</translation>
     <message>
         <source>Bone Name</source>
         <translation>Knochen: Name</translation>
+    </message>
+    <message>
+        <source>Update from %1</source>
+        <translation>Aktualisierung aus %1</translation>
     </message>
 </context>
 <context>

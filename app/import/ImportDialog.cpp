@@ -235,6 +235,12 @@ void ImportDialog::on_btnImport_clicked()
 {
     if (TypingField::returnToRefused(*this))
         return;
+    const ModelUpdater::Answer answer =
+        m_offerUpdate ? m_offerUpdate(m_choices.modelPath) : ModelUpdater::Answer::ImportAsNew;
+    if (answer == ModelUpdater::Answer::Updated)
+        QDialog::accept();
+    if (answer != ModelUpdater::Answer::ImportAsNew)
+        return;
     const QStringList problems = outputProblems(m_choices);
     if (!problems.isEmpty()) {
         QMessageBox::warning(this, tr("Output Folder Error"), problems.join(QLatin1Char('\n')));

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "ImportRun.h"
+#include "ModelUpdater.h"
 #include "OutputPaths.h"
 #include "Settings.h"
 
@@ -31,6 +32,9 @@ public:
     void setModelPath(const QString &path);
     /// What the new model's `version` field shall hold.
     void setVersions(qint32 meshVersion, qint32 animVersion);
+    /// Who is asked about a model before it is imported: it may come back over the one that is open.
+    using UpdateOffer = std::function<ModelUpdater::Answer(const QString &path)>;
+    void setUpdateOffer(UpdateOffer offer) { m_offerUpdate = std::move(offer); }
     void setFolderChooser(FolderChooser chooser) { m_paths->setFolderChooser(std::move(chooser)); }
 
     void reject() override;
@@ -102,6 +106,7 @@ private:
     std::unique_ptr<Ui::ImportDialog> m_ui;
     OutputPaths *m_paths = nullptr; ///< in the form
     const Mode m_mode;
+    UpdateOffer m_offerUpdate;
     ImportRun m_run;
     QTimer m_tick; ///< of the elapsed time
     ImportChoices m_choices;

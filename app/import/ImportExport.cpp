@@ -6,6 +6,7 @@
 #include "ImportDialog.h"
 #include "ModelExport.h"
 
+#include <QFileInfo>
 #include <QMainWindow>
 #include <QMessageBox>
 
@@ -28,6 +29,7 @@ ImportExport::ImportExport(SkinnedMeshDocument &skinnedMesh, AnimDocument &anim,
     , m_staticMesh(staticMesh)
     , m_files(files)
     , m_window(window)
+    , m_updater(skinnedMesh, anim, staticMesh, window)
 {}
 
 void ImportExport::addExports(QMenu &menu, QAction &above, const RecordSelection &blocks)
@@ -54,6 +56,11 @@ void ImportExport::importModel(DocumentType type, const QString &modelPath)
     dialog.setVersions(isStatic ? versionFor(m_staticMesh) : versionFor(m_skinnedMesh), versionFor(m_anim));
     if (!modelPath.isEmpty())
         dialog.setModelPath(modelPath);
+    // About that one it was asked already.
+    const QString known = QFileInfo(modelPath).absoluteFilePath();
+    dialog.setUpdateOffer([this, type, known](const QString &path) {
+        return path == known ? ModelUpdater::Answer::ImportAsNew : m_updater.offer(type, path);
+    });
     connect(&dialog, &ImportDialog::skinnedMeshImported, this,
             [this](const SkinnedMesh &mesh, const AnimFile &anim, const QString &name) {
                 m_skinnedMesh.take(mesh, name);
@@ -70,7 +77,10 @@ void ImportExport::importModel(DocumentType type, const QString &modelPath)
 
 void ImportExport::importToCurrent(const QString &modelPath)
 {
-    importModel(m_current == &m_staticMesh ? DocumentType::StaticMesh : DocumentType::SkinnedMesh, modelPath);
+    const DocumentType type =
+        m_current == &m_staticMesh ? DocumentType::StaticMesh : DocumentType::SkinnedMesh;
+    if (modelPath.isEmpty() || m_updater.offer(type, modelPath) == ModelUpdater::Answer::ImportAsNew)
+        importModel(type, modelPath);
 }
 
 void ImportExport::on_actionImport_triggered()

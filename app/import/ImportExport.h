@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Document.h"
+#include "ModelUpdater.h"
 
 class DocumentFiles;
 class ModelExport;
@@ -49,4 +49,5 @@ private:
     const Document *m_current = nullptr;
     ModelExport *m_exports = nullptr;
     QMainWindow *m_window;
+    ModelUpdater m_updater;
 };

@@ -10,6 +10,7 @@
 #include "DatabaseTab.h"
 #include "ImportDialog.h"
 #include "MainWindow.h"
+#include "ModelUpdateDialog.h"
 #include "OneRun.h"
 #include "OptionsDialog.h"
 #include "PictureDialog.h"
@@ -156,8 +157,8 @@ struct EveryWindow
 
     QVector<QWidget *> all()
     {
-        return {&main,  &options,  &importMesh, &importStatic, &rotate,  &scale,  &newSize,
-                &about, &controls, &recover,    &crash,        &palette, &picture};
+        return {&main,  &options,  &importMesh, &importStatic, &rotate,  &scale,   &newSize,
+                &about, &controls, &recover,    &crash,        &palette, &picture, &update};
     }
     /// The letters that stand twice, in a window or in one of its menus.
     QStringList mnemonicClashes()
@@ -183,4 +184,15 @@ struct EveryWindow
     CrashReportDialog crash;
     CommandPalette palette;
     PictureDialog picture{{640, 480}, nullptr};
+    ModelUpdateDialog update{QStringLiteral("a.glb"), QStringLiteral("a.skinnedmesh"), someUpdate(), nullptr};
+
+private:
+    static UpdateAccount someUpdate()
+    {
+        UpdateAccount account;
+        account.changesMesh = true;
+        account.missingBlocks = {1};
+        account.add(UpdateLine::Changed, QStringLiteral("Some"));
+        return account;
+    }
 };

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "GltfExport.h"
 #include "Hand.h"
+#include "ImportMessages.h"
 #include "KVOpenGLWidget.h"
 #include "SmallGltf.h"
 
@@ -110,6 +112,77 @@ private slots:
         QCOMPARE(hand.seen.size(), 3);
         QCOMPARE(hand.seen[2], QStringLiteral("Import model to Skinned Mesh"));
         QVERIFY(window.windowTitle().endsWith(QLatin1String(" * ")));
+    }
+
+    void comesBackOverTheOpenModel()
+    {
+        // What another program made of an export: a vertex is elsewhere, a bone turns.
+        SkinnedMesh edited = triangleMan();
+        AnimFile moved = twoBlocks();
+        moved.blocks[1].animId = 7;
+        const AnimFile original = moved;
+        edited.vertices[0].position = {-100, 0, 50};
+        moved.blocks[0].setRotationCount(1);
+        moved.blocks[0].nodes[1].rotationIndex = 0;
+        moved.blocks[0].rotations.at(0, 5) = {0, 0.6f, 0, 0.8f};
+        GltfSource source;
+        source.name = QStringLiteral("man");
+        ImportMessages messages;
+        const QString glb =
+            m_files->put("man.glb", exportGltf(edited, &moved, {0, 1}, source, messages).glb());
+
+        ShownWindow window(
+            {m_files->save("man.skinnedmesh", triangleMan()), m_files->save("man.anim", original)});
+        typeParent(window, 0); // unsaved work, which an update does not touch
+        const auto *tree = find<KVTreeView>(window, "treeSkinnedMesh");
+        const QVector<RecordIndex> selected = tree->selectedRecords(RecordKind::Bone);
+        const auto savedPlace = [&] {
+            trigger(window, "actionSave");
+            SkinnedMesh saved;
+            const bool failed = saved.read(m_files->path(QStringLiteral("man.skinnedmesh")));
+            return failed || saved.nodes[1].parentNode != 0 ? QVector3D() : saved.vertices[0].position;
+        };
+        QStringList lines;
+        const Hand::Answer update = [&lines](QDialog *dialog) {
+            lines.clear();
+            for (QTreeWidgetItemIterator it(find<QTreeWidget>(*dialog, "listChanges")); *it; ++it)
+                lines += (*it)->text(0);
+            QTest::keyClick(dialog, Qt::Key_Return);
+        };
+        const Hand::Answer importFile = [&glb](QDialog *dialog) {
+            auto *path = find<QLineEdit>(*dialog, "txtModelPath");
+            path->setFocus();
+            path->selectAll();
+            QTest::keyClicks(path, glb);
+            // What comes up then is to be answered, too.
+            QTimer::singleShot(0, dialog, [dialog] {
+                QTest::mouseClick(find<QPushButton>(*dialog, "btnImport"), Qt::LeftButton);
+            });
+        };
+        Hand hand({Hand::reject, update, Hand::press(QMessageBox::No), importFile, update});
+        const auto *undo = find<QAction>(window, "actionUndo");
+        window.openFiles({glb});
+        QCOMPARE(undo->text(), QStringLiteral("&Undo Parent Bone Index"));
+        window.openFiles({glb});
+        QCOMPARE(hand.seen, QStringList({"Update man.skinnedmesh", "Update man.skinnedmesh"}));
+        QCOMPARE(lines, QStringList({"Changed", "Vertices with other values: 1",
+                                     "Animation 0 '[0]': bones that move otherwise: 1"}));
+        QCOMPARE(undo->text(), QStringLiteral("&Undo Update from man.glb"));
+        QCOMPARE(tree->selectedRecords(RecordKind::Bone), selected);
+        QVERIFY((savedPlace() - QVector3D(-100, 0, 50)).length() < 1.0e-3f);
+        trigger(window, "actionUndo");
+        QCOMPARE(tree->selectedRecords(RecordKind::Bone), selected);
+        QVERIFY((savedPlace() - QVector3D(-100, 0, 0)).length() < 1.0e-3f);
+        find<QTabWidget>(window, "tabTrees")->setCurrentIndex(1);
+        QCOMPARE(undo->text(), QStringLiteral("&Undo Update from man.glb"));
+        find<QTabWidget>(window, "tabTrees")->setCurrentIndex(0);
+
+        // By the import dialog, which asks about unsaved work first, since it may bring another model.
+        trigger(window, "actionImport");
+        QCOMPARE(hand.seen.mid(3), QStringList({"Import model to Skinned Mesh", "Update man.skinnedmesh"}));
+        QCOMPARE(lines.size(), 2);
+        QVERIFY((savedPlace() - QVector3D(-100, 0, 50)).length() < 1.0e-3f);
+        QCOMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
     }
 
     void exportAndBack()

@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "ModelUpdater.h"
+
+#include "AnimCommands.h"
+#include "ImportRun.h"
+#include "Log.h"
+#include "ModelUpdate.h"
+#include "ModelUpdateDialog.h"
+#include "SkinnedMeshCommands.h"
+#include "StaticMeshCommands.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <QStatusBar>
+#include <QTimer>
+
+namespace {
+constexpr int Unnoticed = 500; ///< milliseconds that nobody is told of
+} // namespace
+
+ModelUpdater::ModelUpdater(SkinnedMeshDocument &skinnedMesh, AnimDocument &anim,
+                           StaticMeshDocument &staticMesh, QMainWindow *window)
+    : QObject(window)
+    , m_skinnedMesh(skinnedMesh)
+    , m_anim(anim)
+    , m_staticMesh(staticMesh)
+    , m_window(window)
+{}
+
+/// The import dialog may be open.
+QWidget *ModelUpdater::dialogParent() const
+{
+    QWidget *modal = QApplication::activeModalWidget();
+    return modal ? modal : m_window;
+}
+
+Document &ModelUpdater::document(DocumentType type) const
+{
+    return type == DocumentType::StaticMesh ? static_cast<Document &>(m_staticMesh) : m_skinnedMesh;
+}
+
+ModelUpdater::Answer ModelUpdater::offer(DocumentType type, const QString &path)
+{
+    Document &open = document(type);
+    if (!open.isOpen() || !mayComeBack(path))
+        return Answer::ImportAsNew;
+    if (open.returnToTyping() || (type != DocumentType::StaticMesh && m_anim.returnToTyping()))
+        return Answer::Cancelled;
+    // Should a document become another one meanwhile, nothing of this is about it.
+    bool isStale = false;
+    QObject watch;
+    for (Document *each : {static_cast<Document *>(&m_skinnedMesh), static_cast<Document *>(&m_anim),
+                           static_cast<Document *>(&m_staticMesh)})
+        connect(each, &Document::replaced, &watch, [&isStale] { isStale = true; });
+
+    ImportWorker worker;
+    if (!read(worker, type, path))
+        return Answer::Cancelled;
+    if (worker.messages().hasError()) {
+        // The import says what is wrong with the file itself.
+        Log::info(worker.messages().lines.constFirst().text);
+        return Answer::ImportAsNew;
+    }
+    const QString source = QFileInfo(path).fileName();
+    ModelUpdateDialog dialog(source, open.fileName(), worker.update(), dialogParent());
+    const int answer = dialog.exec();
+    if (answer == ModelUpdateDialog::ImportAsNew)
+        return Answer::ImportAsNew;
+    if (answer != ModelUpdateDialog::Update || isStale)
+        return Answer::Cancelled;
+    if (update(worker, type, worker.update(), dialog.dropsMissing(), source)) {
+        QMessageBox::warning(
+            dialogParent(), dialog.windowTitle(),
+            tr("%1 Could not read file. The result was damaged.").arg(QDir::toNativeSeparators(path)));
+        return Answer::Cancelled;
+    }
+    m_window->statusBar()->showMessage(tr("Updated %1 from %2").arg(open.fileName(), source), 5000);
+    return Answer::Updated;
+}
+
+/// Lets the worker find out what the file makes of the model. Returns false when that was given up.
+bool ModelUpdater::read(ImportWorker &worker, DocumentType type, const QString &path)
+{
+    ImportRun::limit(worker);
+    QEventLoop loop;
+    connect(&worker, &ImportWorker::finished, &loop, &QEventLoop::quit);
+    WorkerJob job;
+    job.modelPath = path;
+    if (type == DocumentType::StaticMesh) {
+        job.task = WorkerJob::Task::UpdateStaticMesh;
+        worker.start(job, m_staticMesh.model());
+    } else {
+        job.task = WorkerJob::Task::UpdateSkinnedMesh;
+        const AnimFile &anim = m_anim.model();
+        const bool fits = m_anim.isOpen() && !anim.blocks.empty() &&
+                          anim.blocks[0].nodes.size() == m_skinnedMesh.model().nodes.size();
+        worker.start(job, m_skinnedMesh.model(), fits ? anim : AnimFile());
+    }
+    QTimer::singleShot(Unnoticed, &loop, &QEventLoop::quit);
+    if (worker.isRunning())
+        loop.exec(QEventLoop::ExcludeUserInputEvents);
+    if (!worker.isRunning())
+        return true;
+    QProgressDialog progress(tr("Reading '%1'").arg(QDir::toNativeSeparators(path)), tr("Cancel"), 0, 0,
+                             dialogParent());
+    progress.setWindowModality(Qt::WindowModal);
+    progress.setMinimumDuration(0);
+    bool isCancelled = false;
+    connect(&progress, &QProgressDialog::canceled, &worker, [&] {
+        isCancelled = true;
+        worker.cancel();
+    });
+    progress.show();
+    loop.exec();
+    return !worker.isRunning() && !isCancelled;
+}
+
+/// Returns true when the result cannot be read.
+bool ModelUpdater::update(const ImportWorker &worker, DocumentType type, const UpdateAccount &account,
+                          bool dropsMissing, const QString &source)
+{
+    if (type == DocumentType::StaticMesh) {
+        StaticMesh mesh;
+        if (worker.read(mesh))
+            return true;
+        m_staticMesh.undoStack()->push(new UC_StaticMeshUpdate(m_staticMesh.editTarget(), mesh, source));
+        return false;
+    }
+    SkinnedMesh mesh;
+    AnimFile anim;
+    if (worker.read(mesh, anim))
+        return true;
+    if (dropsMissing)
+        account.dropMissing(anim);
+    if (account.changesMesh)
+        m_skinnedMesh.undoStack()->push(new UC_SkinnedMeshUpdate(m_skinnedMesh.editTarget(), mesh, source));
+    if (account.changesAnim || dropsMissing)
+        m_anim.undoStack()->push(new UC_AnimUpdate(m_anim.editTarget(), anim, source));
+    return false;
+}

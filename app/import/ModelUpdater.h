@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Document.h"
+
+class ImportWorker;
+class QMainWindow;
+struct UpdateAccount;
+
+/// Offers to bring a file back over the model that is open, where it is an export of one, and does it as one
+/// undo step of each document.
+class ModelUpdater : public QObject
+{
+    Q_OBJECT
+
+public:
+    ModelUpdater(SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticMeshDocument &staticMesh,
+                 QMainWindow *window);
+
+    enum class Answer {
+        ImportAsNew, ///< it is no export of this kind of mesh, or shall be a model of its own
+        Updated,
+        Cancelled,
+    };
+    /// `type`: of the mesh that is open and shown, of which an import would make another one.
+    Answer offer(DocumentType type, const QString &path);
+
+private:
+    QWidget *dialogParent() const;
+    Document &document(DocumentType type) const;
+    bool read(ImportWorker &worker, DocumentType type, const QString &path);
+    bool update(const ImportWorker &worker, DocumentType type, const UpdateAccount &account,
+                bool dropsMissing, const QString &source);
+
+    SkinnedMeshDocument &m_skinnedMesh;
+    AnimDocument &m_anim;
+    StaticMeshDocument &m_staticMesh;
+    QMainWindow *m_window;
+};

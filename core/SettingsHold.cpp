@@ -6,7 +6,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QMap>
 #include <QTemporaryFile>
@@ -26,23 +25,13 @@ QMap<QString, QVariant> &unstored()
 }
 
 /// Whether the store can be written anew. The toolkit does not notice when a full disk cuts it, and all other
-/// settings with it. A folder in which nothing can be made is for the toolkit to complain of.
+/// settings with it. A folder in which nothing can be made is for the toolkit to complain of. Looked at for
+/// each value: that takes a hundredth of the time of writing it, and the disk may fill up in between.
 bool hasRoom(const QString &path)
 {
-    // Many values are stored at once, as when the window closes.
-    static QElapsedTimer s_sinceLook;
-    static QString s_path;
-    static qint64 s_most = 0; // bytes of the store up to which the look counts
-    const qint64 size = QFileInfo(path).size();
-    if (s_path == path && size <= s_most && !s_sinceLook.hasExpired(SettingsHold::RoomMs))
-        return true;
     QTemporaryFile probe(path + QStringLiteral(".room.XXXXXX"));
-    const QByteArray bytes(int(size) + 2 * MostAtOnce, ' ');
-    const bool has = !probe.open() || (probe.write(bytes) == bytes.size() && probe.flush());
-    s_path = has ? path : QString();
-    s_most = size + MostAtOnce;
-    s_sinceLook.start();
-    return has;
+    const QByteArray bytes(int(QFileInfo(path).size()) + MostAtOnce, ' ');
+    return !probe.open() || (probe.write(bytes) == bytes.size() && probe.flush());
 }
 
 /// Returns true on failure.

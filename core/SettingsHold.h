@@ -11,9 +11,6 @@
 class SettingsHold
 {
 public:
-    /// So long a look at the disk counts that found room for more settings.
-    static constexpr int RoomMs = 1000;
-
     SettingsHold();
     ~SettingsHold();
     SettingsHold(const SettingsHold &) = delete;

@@ -6,10 +6,6 @@
 #include "SettingsHold.h"
 #include "TestSupport.h"
 
-#include <array>
-#include <sys/inotify.h>
-#include <unistd.h>
-
 class TestSettings : public QObject
 {
     Q_OBJECT
@@ -98,7 +94,6 @@ private slots:
         Settings::GamePath.setValue("/game");
         const QString path = QSettings().fileName();
         const QByteArray before = TestSupport::readFile(path);
-        QTest::qSleep(SettingsHold::RoomMs + 100);
         {
             const FullDisk disk(before.size());
             Settings::GamePath.setValue("/other");
@@ -122,25 +117,6 @@ private slots:
         QVERIFY(TestSupport::readFile(path).contains("GamePath=/fifth"));
         QCOMPARE(log.size(), 1);
         Log::setSink({});
-    }
-
-    void theDiskIsLookedAtOnceForManyValues()
-    {
-        Settings::MouseSpeed.setValue(1.0f);
-        const int watch = inotify_init1(IN_NONBLOCK);
-        inotify_add_watch(watch, QFile::encodeName(QFileInfo(QSettings().fileName()).path()), IN_CREATE);
-        QElapsedTimer timer;
-        timer.start();
-        int stores = 0;
-        for (; stores < 20; ++stores)
-            Settings::MouseSpeed.setValue(float(stores));
-        const qint64 most = timer.elapsed() / SettingsHold::RoomMs + 1;
-        std::array<char, 65536> events;
-        const QByteArray seen(events.data(), int(read(watch, events.data(), events.size())));
-        close(watch);
-        QVERIFY(seen.count(".lock") >= stores); // nothing was missed
-        QVERIFY2(seen.count(".room.") <= most, qPrintable(QString::number(seen.count(".room."))));
-        QCOMPARE(Settings::MouseSpeed.value(), 19.0f);
     }
 
     void handWrittenText()

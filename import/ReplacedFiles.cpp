@@ -47,9 +47,11 @@ std::vector<FileCopy> copiesInto(const QString &folder, const QStringList &files
     std::vector<FileCopy> copies;
     for (const QString &file : files) {
         FileCopy copy{file, ownTarget(file)};
-        for (int number = 2; !fits(copy); ++number)
+        // One that is not there keeps its name: what stands at another is none of its business.
+        for (int number = 2; QFileInfo(file).isFile() && !fits(copy); ++number)
             copy.target = numbered(ownTarget(file), number);
-        sources.insert(copy.target, file);
+        if (!sources.contains(copy.target))
+            sources.insert(copy.target, file);
         copies.push_back(copy);
     }
     return copies;

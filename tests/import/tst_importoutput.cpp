@@ -84,8 +84,10 @@ private slots:
                 targets += QFileInfo(copy.target).completeBaseName();
             return targets.join(' ');
         };
-        QCOMPARE(names({one, two, oneToo, two, gone}), QString("wood wood_2 wood wood_2 wood_3"));
+        QCOMPARE(names({one, two, oneToo, two, gone}), QString("wood wood_2 wood wood_2 wood"));
         mod.put("textures/wood_2.png", "mine");
+        // What is not there keeps its name, rather than to pass for the mod's own.
+        QCOMPARE(names({one, gone, two, oneToo}), QString("wood wood wood_3 wood"));
         const QString there = mod.put("textures/wood.png", "3");
         // The file that is there gives its name to nobody else, and another free name is taken.
         QCOMPARE(names({one, two, there}), QString("wood_3 wood_4 wood"));

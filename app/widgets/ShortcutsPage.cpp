@@ -267,6 +267,11 @@ bool ShortcutsPage::eventFilter(QObject *watched, QEvent *event)
         m_ui->treeShortcuts->setFocus();
         return true;
     }
+    if (watched == m_ui->txtShortcutFilter && key == Qt::Key_Escape &&
+        !m_ui->txtShortcutFilter->text().isEmpty()) {
+        m_ui->txtShortcutFilter->clear(); // and the dialog stays
+        return true;
+    }
     if (watched == m_ui->treeShortcuts && isReturn) {
         m_ui->editShortcutKeys->setFocus();
         return true;

@@ -24,8 +24,8 @@ OptionsDialog::OptionsDialog(QWidget *parent, Shortcuts *shortcuts)
     m_ui->setupUi(this);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 
-    m_ui->txtGamePath->setText(QDir::toNativeSeparators(m_gamePath));
-    m_ui->txtT2Dir->setText(QDir::toNativeSeparators(m_outputDir));
+    m_ui->txtGamePath->setValue(QDir::toNativeSeparators(m_gamePath));
+    m_ui->txtT2Dir->setValue(QDir::toNativeSeparators(m_outputDir));
     m_ui->cbUpdates->setChecked(m_updates);
     m_ui->cbHideMeshData->setChecked(m_hideMeshData);
     m_ui->cbHideAnimData->setChecked(m_hideAnimData);
@@ -86,7 +86,7 @@ void OptionsDialog::on_btnGame_clicked()
     const QString folder = m_chooseFolder(this, tr("game.kpf unzipped folder"), m_ui->txtGamePath->text());
     if (folder.isEmpty())
         return;
-    m_ui->txtGamePath->setText(QDir::toNativeSeparators(folder));
+    m_ui->txtGamePath->setValue(QDir::toNativeSeparators(folder));
     OnTxtGamePathChanged();
 }
 
@@ -95,7 +95,7 @@ void OptionsDialog::on_btnT2DirBrowse_clicked()
     const QString folder = m_chooseFolder(this, tr("Turok 2(Your Mod) Folder"), m_ui->txtT2Dir->text());
     if (folder.isEmpty())
         return;
-    m_ui->txtT2Dir->setText(QDir::toNativeSeparators(folder));
+    m_ui->txtT2Dir->setValue(QDir::toNativeSeparators(folder));
     OnTxtT2DirChanged();
 }
 

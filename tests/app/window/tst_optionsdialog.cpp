@@ -59,6 +59,23 @@ private slots:
             QCOMPARE(find<QCheckBox>(dialog, box)->isChecked(), !qstrcmp(box, "cbRestoreSession"));
     }
 
+    void escapeGivesUpTypingFirst()
+    {
+        Settings::GamePath.setValue("/start");
+        OptionsDialog dialog;
+        dialog.show();
+        for (const char *name : {"txtGamePath", "txtT2Dir"}) {
+            auto *edit = find<QLineEdit>(dialog, name);
+            const QString before = edit->text();
+            QTest::keyClicks(edit, "x");
+            QTest::keyClick(edit, Qt::Key_Escape);
+            QVERIFY(dialog.isVisible());
+            QCOMPARE(edit->text(), before);
+        }
+        QTest::keyClick(find<QLineEdit>(dialog, "txtGamePath"), Qt::Key_Escape);
+        QVERIFY(!dialog.isVisible());
+    }
+
     void browsing()
     {
         Settings::GamePath.setValue(QStringLiteral("/start"));

@@ -281,6 +281,9 @@ private:
         auto *line = find<QLineEdit>(*dialog, "txtShortcutFilter");
         line->setFocus();
         line->selectAll();
+        QTest::keyClicks(line, "x");
+        QTest::keyClick(line, Qt::Key_Escape);
+        QVERIFY(dialog->isVisible() && line->text().isEmpty());
         QTest::keyClicks(line, filter);
         QTest::keyClick(line, Qt::Key_Return);
         QTest::keyClick(find<QTreeWidget>(*dialog, "treeShortcuts"), Qt::Key_Return);

@@ -4775,6 +4775,18 @@ Hände und Füße (x0.25): %6</translation>
 <context>
     <name>ReferenceTable</name>
     <message>
+    <message>
+        <source>Show Damaged…</source>
+        <translation>Beschädigte anzeigen…</translation>
+    </message>
+    <message>
+        <source>Say what is damaged, to keep its files or delete them</source>
+        <translation>Sagen, was beschädigt ist, um die Dateien zu behalten oder zu löschen</translation>
+    </message>
+    <message>
+        <source>%1. Other work that was kept is damaged.</source>
+        <translation>%1. Andere gesicherte Arbeit ist beschädigt.</translation>
+    </message>
         <source>Unable to read database file at %1</source>
         <translation>Die Datenbankdatei %1 kann nicht gelesen werden</translation>
     </message>

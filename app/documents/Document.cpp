@@ -353,8 +353,10 @@ QString ModelDocument<Model>::replacedBeside(const QString &path) const
 template <typename Model>
 std::vector<uchar> ModelDocument<Model>::draft() const
 {
-    // The file is seldom far off: growing a large buffer costs more than filling it.
-    BinaryFileWriter writer(size_t(std::max<qint64>(fileStamp().size, 0)) + 64 * 1024);
+    // The file is seldom far off: growing a large buffer costs more than filling it. What kept work says of
+    // its file may be anything.
+    constexpr qint64 most = 256 << 20;
+    BinaryFileWriter writer(size_t(std::clamp<qint64>(fileStamp().size, 0, most)) + 64 * 1024);
     m_model.writeDraft(writer);
     std::vector<uchar> bytes = writer.takeBytes();
     if constexpr (std::is_same_v<Model, SkinnedMesh>) {

@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QMessageBox>
+#include <QTimer>
 
 RecoverDialog::RecoverDialog(Recovery &recovery, QWidget *parent)
     : QDialog(parent)
@@ -23,6 +24,14 @@ RecoverDialog::RecoverDialog(Recovery &recovery, QWidget *parent)
 }
 
 RecoverDialog::~RecoverDialog() = default;
+
+void RecoverDialog::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    // What is not in the list is told of over it.
+    if (!event->spontaneous())
+        QTimer::singleShot(0, this, [this] { tellOfDamaged(m_recovery.store(), this); });
+}
 
 void RecoverDialog::fill()
 {
@@ -76,11 +85,11 @@ void RecoverDialog::on_btnRecoverRestore_clicked()
     bool allRestored = true;
     for (const Snapshot &snapshot : selected())
         allRestored &= m_recovery.restore(snapshot) == Recovery::Outcome::Restored;
+    if (!allRestored)
+        fill();
     tellOfDamaged(m_recovery.store(), this);
     if (allRestored)
         accept();
-    else
-        fill();
 }
 
 bool RecoverDialog::mayDelete(const QVector<Snapshot> &snapshots, QWidget *parent)
@@ -129,4 +138,5 @@ void RecoverDialog::on_btnRecoverDelete_clicked()
         return;
     m_recovery.remove(chosen);
     fill();
+    tellOfDamaged(m_recovery.store(), this);
 }

@@ -28,6 +28,9 @@ public:
     /// Tells of what turned out to be damaged, if anything did, and asks whether these files shall be kept.
     static void tellOfDamaged(SnapshotStore &store, QWidget *parent);
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private slots:
     void on_btnRecoverRestore_clicked();
     void on_btnRecoverDelete_clicked();

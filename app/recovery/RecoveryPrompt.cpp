@@ -27,6 +27,8 @@ RecoveryPrompt::RecoveryPrompt(Recovery &recovery, QAction *recover, QBoxLayout 
                                  tr("List all kept work, to restore or delete it")))
     , m_discard(m_bar->addButton(tr("Discard"), QStringLiteral("btnDiscard"),
                                  tr("Delete all of this kept work; files are not touched")))
+    , m_showDamaged(m_bar->addButton(tr("Show Damaged…"), QStringLiteral("btnShowDamaged"),
+                                     tr("Say what is damaged, to keep its files or delete them")))
     , m_showReport(m_bar->addButton(tr("Show Report"), QStringLiteral("btnShowReport"),
                                     tr("Show what was written down when Korvane ended")))
 {
@@ -35,6 +37,7 @@ RecoveryPrompt::RecoveryPrompt(Recovery &recovery, QAction *recover, QBoxLayout 
     connect(m_restore, &QPushButton::clicked, this, &RecoveryPrompt::on_btnRestore_clicked);
     connect(m_showAll, &QPushButton::clicked, this, &RecoveryPrompt::on_actionRecover_triggered);
     connect(m_discard, &QPushButton::clicked, this, &RecoveryPrompt::on_btnDiscard_clicked);
+    connect(m_showDamaged, &QPushButton::clicked, this, &RecoveryPrompt::on_btnShowDamaged_clicked);
     connect(m_showReport, &QPushButton::clicked, this, &RecoveryPrompt::on_btnShowReport_clicked);
     connect(recover, &QAction::triggered, this, &RecoveryPrompt::on_actionRecover_triggered);
 
@@ -46,9 +49,9 @@ void RecoveryPrompt::offer()
 {
     const bool crashed = !m_recovery.store().crashReports().isEmpty();
     const bool damaged = !m_recovery.store().damaged().isEmpty();
-    m_restore->setVisible(damaged || !m_offered.isEmpty());
-    for (QPushButton *button : {m_showAll, m_discard})
+    for (QPushButton *button : {m_restore, m_showAll, m_discard})
         button->setVisible(!m_offered.isEmpty());
+    m_showDamaged->setVisible(damaged);
     m_showReport->setVisible(crashed);
     if (m_offered.isEmpty()) {
         m_bar->setVisible(crashed || damaged);
@@ -71,12 +74,13 @@ void RecoveryPrompt::offer()
     const QString time = Language::locale().toString(m_offered.first().time, QLocale::ShortFormat);
     const QString text = crashed ? tr("Korvane ended unexpectedly. It has kept unsaved work from %1: %2")
                                  : tr("Korvane has kept unsaved work from %1: %2");
-    m_bar->tell(text.arg(time, more == 0 ? all : tr("%1 and %2 more").arg(all, QString::number(more))));
+    QString told = text.arg(time, more == 0 ? all : tr("%1 and %2 more").arg(all, QString::number(more)));
     if (m_hasRestored) {
         // What is left is older than what is open now.
         m_restore->hide();
-        m_bar->tell(tr("The newest was restored. Older unsaved work is kept, too: %1").arg(m_offered.size()));
+        told = tr("The newest was restored. Older unsaved work is kept, too: %1").arg(m_offered.size());
     }
+    m_bar->tell(damaged ? tr("%1. Other work that was kept is damaged.").arg(told) : told);
 }
 
 void RecoveryPrompt::on_btnRestore_clicked()
@@ -106,6 +110,12 @@ void RecoveryPrompt::on_btnDiscard_clicked()
     m_recovery.remove(m_offered);
     m_offered.clear();
     offer();
+}
+
+void RecoveryPrompt::on_btnShowDamaged_clicked()
+{
+    RecoverDialog::tellOfDamaged(m_recovery.store(), m_window);
+    offerWhatIsLeft();
 }
 
 void RecoveryPrompt::on_btnShowReport_clicked()

@@ -22,6 +22,7 @@ public:
 private slots:
     void on_btnRestore_clicked();
     void on_btnDiscard_clicked();
+    void on_btnShowDamaged_clicked();
     void on_btnShowReport_clicked();
     void on_actionRecover_triggered();
 
@@ -35,6 +36,7 @@ private:
     QPushButton *m_restore;
     QPushButton *m_showAll;
     QPushButton *m_discard;
+    QPushButton *m_showDamaged;
     QPushButton *m_showReport;
     QVector<Snapshot> m_offered; ///< the newest first
     bool m_hasRestored = false;

@@ -16,6 +16,7 @@
 namespace {
 constexpr int MostReports = 5;
 const QString Suffix = QStringLiteral(".snapshot");
+const QString DamagedSuffix = QStringLiteral(".damaged");
 const QString LockFile = QStringLiteral("lock");
 const QString ReportFile = QStringLiteral("crash.txt");
 
@@ -142,11 +143,17 @@ void SnapshotStore::takeOver()
         if (root.isHeld() && folder.filePath() != m_folder)
             takeOver(folder.filePath());
     }
-    const QFileInfoList reports = filesOf(m_root, QStringLiteral("crash-*.txt"));
-    for (int i = MostReports; i < reports.size(); ++i)
-        QFile::remove(reports.at(i).filePath());
+    keepNewest(QStringLiteral("crash-*.txt"), MostReports);
+    keepNewest(QLatin1Char('*') + DamagedSuffix, MostKept);
     removeOldest(m_folder, {});
     findLast();
+}
+
+void SnapshotStore::keepNewest(const QString &pattern, int count)
+{
+    const QFileInfoList files = filesOf(m_root, pattern);
+    for (int i = count; i < files.size(); ++i)
+        QFile::remove(files.at(i).filePath());
 }
 
 void SnapshotStore::findLast()
@@ -245,7 +252,10 @@ QVector<Snapshot> SnapshotStore::snapshots()
         return {};
     QVector<Snapshot> all = snapshotsIn(m_folder);
     while (!all.isEmpty() && !all.last().time.isValid()) {
-        setAside(all.takeLast());
+        const Snapshot damaged = all.takeLast();
+        if (m_stuck.contains(damaged.file))
+            continue;
+        setAside(damaged);
         Log::warning(tr("[Recovery] '%1' is damaged and was left out")
                          .arg(QDir::toNativeSeparators(m_damaged.constLast().path)));
     }
@@ -255,10 +265,16 @@ QVector<Snapshot> SnapshotStore::snapshots()
 void SnapshotStore::setAside(const Snapshot &snapshot)
 {
     waitForDone();
-    const QString path = m_root + QLatin1Char('/') + snapshot.file + QStringLiteral(".damaged");
+    const QString path = m_root + QLatin1Char('/') + snapshot.file + DamagedSuffix;
     QFile::remove(path);
     const bool moved = QFile::rename(pathOf(snapshot.file), path);
-    m_damaged.append({snapshot.name, moved ? path : pathOf(snapshot.file)});
+    if (!moved)
+        m_stuck.insert(snapshot.file);
+    const QString where = moved ? path : pathOf(snapshot.file);
+    const bool isKnown = std::any_of(m_damaged.cbegin(), m_damaged.cend(),
+                                     [&where](const Damaged &each) { return each.path == where; });
+    if (!isKnown)
+        m_damaged.append({snapshot.name, where});
 }
 
 bool SnapshotStore::read(const Snapshot &snapshot, QByteArray *model)

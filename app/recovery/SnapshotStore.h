@@ -51,8 +51,8 @@ public:
     bool isBusy() const { return m_jobs > 0; }
     void waitForDone();
 
-    /// All that are kept, the newest first by their sequence. Damaged ones are set aside, with a line in the
-    /// log.
+    /// All that are kept, the newest first by their sequence. Damaged ones are set aside, each once and with
+    /// a line in the log.
     QVector<Snapshot> snapshots();
     /// The model's bytes. Returns true when the file is not what was kept.
     [[nodiscard]] bool read(const Snapshot &snapshot, QByteArray *model);
@@ -63,7 +63,8 @@ public:
         QString name; ///< of the document, where that can be read
         QString path;
     };
-    /// Moves a snapshot to where none is listed and none goes to make room.
+    /// Moves a snapshot to where none is listed. MostKept stay there, too, when the next program starts. One
+    /// that cannot be moved stays where it is.
     void setAside(const Snapshot &snapshot);
     /// What was set aside and nobody was told of.
     const QVector<Damaged> &damaged() const { return m_damaged; }
@@ -78,6 +79,7 @@ private:
     void takeOver();
     void takeOver(const QString &folder);
     void takeOverReport(const QString &report);
+    void keepNewest(const QString &pattern, int count);
     void findLast();
     void run(const std::function<void()> &job);
     QString pathOf(const QString &file) const { return m_folder + QLatin1Char('/') + file; }
@@ -87,6 +89,7 @@ private:
     std::unique_ptr<FolderLock> m_lock;
     QStringList m_crashReports;
     QVector<Damaged> m_damaged;
+    QSet<QString> m_stuck; ///< damaged files that cannot be moved, and are known
     int m_files = 0;
     qint64 m_last = 0; ///< the newest snapshot's sequence
     std::atomic<int> m_jobs{0};

@@ -3,6 +3,7 @@
 #include "Hand.h"
 #include "KeptWork.h"
 #include "RecoverDialog.h"
+#include "SnapshotFile.h"
 
 /// Kept work that cannot be opened any more.
 class tst_DamagedWork : public QObject, KeptWork
@@ -62,7 +63,7 @@ private slots:
                    file;
         };
         const auto keep = [](QDialog *dialog) { QTest::keyClick(dialog, Qt::Key_Escape); };
-        Hand hand({keep, Hand::clickOn("Delete"), Hand::clickOn("Delete")});
+        Hand hand({keep, Hand::clickOn("Delete"), Hand::clickOn("Delete"), keep});
         {
             // The bar's button takes the one before.
             const QString aside = leaveDamaged(2, false);
@@ -88,9 +89,61 @@ private slots:
         Bar bar(run);
         QVERIFY2(bar.notice->text().endsWith("damaged."), qPrintable(bar.notice->text()));
         QVERIFY(QFile::exists(aside));
-        bar.click("btnRestore");
+        QVERIFY(find<QPushButton>(bar.window, "btnRestore")->isHidden());
+        bar.click("btnShowDamaged");
         QCOMPARE(hand.seen.value(2), question(QFileInfo(aside).fileName(), aside));
         QVERIFY(bar.notice->isHidden() && !QFile::exists(aside));
+
+        // Beside whole work it is told of as well, by the bar and when the list is opened.
+        const QString beside = leaveDamaged(2, true);
+        OneRun next(root());
+        Bar other(next);
+        QVERIFY2(other.notice->text().endsWith(": man.skinnedmesh. Other work that was kept is damaged."),
+                 qPrintable(other.notice->text()));
+        QVERIFY(!find<QPushButton>(other.window, "btnRestore")->isHidden());
+        RecoverDialog list(*next.recovery);
+        list.show();
+        QTRY_COMPARE(hand.seen.value(3), question(QFileInfo(beside).fileName(), beside));
+        QVERIFY(QFile::exists(beside) && next.recovery->store().damaged().isEmpty());
+    }
+
+    void damagedFilesDoNotPileUp()
+    {
+        leave(1);
+        for (int i = 0; i < 25; ++i)
+            m_folder->put(
+                QStringLiteral("state/recovery/%1.snapshot.damaged").arg(i, 2, 10, QLatin1Char('0')), "x");
+        // In the way of one stands what cannot be replaced.
+        const QString file = kept().value(0);
+        QVERIFY(TestSupport::writeFile(file, "x"));
+        QVERIFY(QDir().mkpath(root() + '/' + QFileInfo(file).fileName() + ".damaged/x"));
+        OneRun run(root());
+        QCOMPARE(QDir(root()).entryList({"*.damaged"}, QDir::Files).size(), SnapshotStore::MostKept);
+        for (int i = 0; i < 3; ++i) {
+            QVERIFY(run.recovery->snapshots().isEmpty());
+            QCOMPARE(run.recovery->store().damaged().size(), i < 2 ? 1 : 0);
+            if (i == 1)
+                run.recovery->store().takeDamaged();
+        }
+        QCOMPARE(m_log.size(), 1);
+    }
+
+    void aHeaderCanSayAnything()
+    {
+        leave(1);
+        const QString file = kept().value(0);
+        Snapshot snapshot;
+        QByteArray model;
+        QVERIFY(!SnapshotFile::readHeader(file, &snapshot) && !SnapshotFile::readModel(file, &model));
+        for (const qint64 size : {std::numeric_limits<qint64>::max() / 2, qint64(-5)}) {
+            snapshot.stamp.size = size;
+            QCOMPARE(SnapshotFile::write(kept().value(0), snapshot, {model.begin(), model.end()}), QString());
+            OneRun run(root());
+            QVERIFY(restoreOnly(run));
+            run.edit(3);
+            run.recovery->keepAll();
+            QCOMPARE(kept().size(), 1);
+        }
     }
 };
 

@@ -165,18 +165,23 @@ QString DocumentFiles::chooseTarget(DocumentType type)
     const DocumentKind &kind = documentKind(type);
     const QString inMod = SaveGuard::modPath(document(type)->path());
     const QString modFolder = inMod.isEmpty() ? QString() : QDir::cleanPath(QFileInfo(inMod).absolutePath());
-    const QStringList made = inMod.isEmpty() ? QStringList() : makeFolder(modFolder);
-    const QString path = chooseSavePath(m_window, kind.saveTitle,
-                                        inMod.isEmpty() ? startFolder(kind, kind.savePath) : modFolder,
-                                        kind.filter, kind.extension, document(type)->fileName());
+    // None through a link that leads back to the game.
+    const bool isMade = !inMod.isEmpty() && !SaveGuard::isInGame(modFolder);
+    const QStringList made = isMade ? makeFolder(modFolder) : QStringList();
+    const QString chosen = chooseSavePath(m_window, kind.saveTitle,
+                                          isMade            ? modFolder
+                                          : inMod.isEmpty() ? startFolder(kind, kind.savePath)
+                                                            : Settings::OutputDir.value(),
+                                          kind.filter, kind.extension, document(type)->fileName());
     for (const QString &folder : made)
         QDir().rmdir(folder); // not one with something in it
-    if (path.isEmpty())
+    if (chosen.isEmpty())
         return {};
-    if (made.contains(QDir::cleanPath(QFileInfo(path).absolutePath())))
+    kind.savePath.setValue(QFileInfo(chosen).absolutePath());
+    const QString path = m_guard.allowed(*document(type), chosen);
+    if (!path.isEmpty() && made.contains(QDir::cleanPath(QFileInfo(path).absolutePath())))
         makeFolder(QFileInfo(path).path()); // which was there to be chosen
-    kind.savePath.setValue(QFileInfo(path).absolutePath());
-    return m_guard.allowed(*document(type), path);
+    return path;
 }
 
 bool DocumentFiles::promptUnsaved(DocumentType type, QEvent *event)

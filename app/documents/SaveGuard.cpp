@@ -14,14 +14,18 @@
 namespace {
 constexpr int MostLinks = 40; // as the system follows them
 
-/// The file that would be written, links followed, those too that lead to where nothing stands yet.
-QString realPath(const QString &path)
+/// The file that would be written, links followed, those too that lead to where nothing stands yet, and those
+/// of the folders around it.
+QString realPath(const QString &path, int links = MostLinks)
 {
-    QFileInfo file(path);
-    for (int links = 0; !file.exists() && file.isSymLink() && links < MostLinks; ++links)
-        file = QFileInfo(file.symLinkTarget());
-    return file.exists() ? file.canonicalFilePath()
-                         : file.dir().canonicalPath() + QLatin1Char('/') + file.fileName();
+    const QFileInfo file(QDir().absoluteFilePath(path));
+    if (file.exists())
+        return file.canonicalFilePath();
+    if (links > 0 && file.isSymLink())
+        return realPath(file.symLinkTarget(), links - 1);
+    if (file.path() == file.filePath())
+        return file.filePath(); // a root that is away
+    return QDir::cleanPath(realPath(file.path(), links) + QLatin1Char('/') + file.fileName());
 }
 
 /// Where a file stands below a folder; empty when it stands elsewhere.
@@ -30,7 +34,9 @@ QString below(const QString &folder, const QString &file)
     if (folder.isEmpty())
         return {};
     const QString relative = QDir(folder).relativeFilePath(file);
-    return relative.startsWith(QLatin1String("../")) || QDir::isAbsolutePath(relative) ? QString() : relative;
+    const bool isElsewhere = relative == QLatin1String("..") || relative.startsWith(QLatin1String("../")) ||
+                             QDir::isAbsolutePath(relative);
+    return isElsewhere ? QString() : relative;
 }
 
 QString realFolder(const SettingKey<QString> &key)
@@ -89,7 +95,7 @@ QString SaveGuard::withNames(const Document &document, const QString &path) cons
 QString SaveGuard::allowedModel(const Document &document, const QString &path)
 {
     if (isInGame(path) && !m_overwritten.contains(realPath(path))) {
-        const QString answer = askAboutGame(path);
+        const QString answer = askAboutGame(path, modPath(path));
         if (answer != path)
             return answer;
     }
@@ -102,13 +108,14 @@ QString SaveGuard::allowedModel(const Document &document, const QString &path)
 
 QString SaveGuard::freeForModel(const QString &path)
 {
-    // A link there can lead back.
-    if (isInGame(path))
-        return askAboutGame(path);
-    if (QFileInfo::exists(path) && !mayReplace(m_window, tr("Save"), path))
+    // A link there, of the file or of a folder, can lead back.
+    const bool leadsBack = isInGame(path);
+    if (!leadsBack && QFileInfo::exists(path) && !mayReplace(m_window, tr("Save"), path))
         return {};
-    QDir().mkpath(QFileInfo(path).path()); // or saving says why not
-    return path;
+    const QString target = leadsBack ? askAboutGame(path, path) : path;
+    if (!target.isEmpty())
+        QDir().mkpath(QFileInfo(target).path()); // or saving says why not
+    return target;
 }
 
 bool SaveGuard::mayReplaceChanged(const Document &document) const
@@ -123,9 +130,8 @@ bool SaveGuard::mayReplaceChanged(const Document &document) const
                                  QMessageBox::No) == QMessageBox::Yes;
 }
 
-QString SaveGuard::askAboutGame(const QString &path)
+QString SaveGuard::askAboutGame(const QString &path, const QString &inMod)
 {
-    const QString inMod = modPath(path);
     const bool leadsBack = isInGame(inMod);
     const QString mod = leadsBack ? QString() : inMod;
     QMessageBox box(QMessageBox::Question, tr("Save"),

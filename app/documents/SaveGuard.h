@@ -36,7 +36,8 @@ private:
     /// Where the names that go beside the model would replace others.
     QString withNames(const Document &document, const QString &path) const;
     bool mayReplaceChanged(const Document &document) const;
-    QString askAboutGame(const QString &path);
+    /// `inMod` is its place in the mod folder, if there is one.
+    QString askAboutGame(const QString &path, const QString &inMod);
 
     QWidget *m_window;
     QSet<QString> m_overwritten; ///< of the game folder

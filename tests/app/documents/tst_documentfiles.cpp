@@ -124,6 +124,31 @@ private slots:
         QVERIFY(TestSupport::readFile(game) != before);
     }
 
+    void aLinkedFolderLeadsIntoTheGameFolder()
+    {
+        const QString game = m_files->save("game/models/sub/man.skinnedmesh", triangleMan());
+        const QString other = m_files->path("game/other");
+        QVERIFY(QDir().mkpath(other) && QFile::link(other, m_files->path("mod/models")));
+        OneRun run(m_files->path("recovery"));
+        run.openMesh(game);
+        run.edit(5);
+        const auto isEmpty = [&other] { return QDir(other).isEmpty(); };
+        bool wasEmpty = false;
+        const auto look = [&](QDialog *dialog) {
+            wasEmpty = isEmpty();
+            dialog->reject();
+        };
+        Hand hand({escape, look, Hand::clickOn("Overwrite")});
+        QVERIFY(run.files.saveToMod(DocumentType::SkinnedMesh));
+        QVERIFY2(hand.seen.value(0).contains("leads back"), qPrintable(hand.seen.join('\n')));
+        QVERIFY(isEmpty());
+        QVERIFY(run.files.saveAs(DocumentType::SkinnedMesh));
+        QVERIFY(wasEmpty && isEmpty());
+        // Who wants it there has the folders made, too.
+        QVERIFY(!run.files.saveToMod(DocumentType::SkinnedMesh));
+        QVERIFY(QFileInfo::exists(other + "/sub/man.skinnedmesh"));
+    }
+
     void saveAsStartsInTheModFolder()
     {
         OneRun run(m_files->path("recovery"));

@@ -4992,14 +4992,6 @@ Alles andere funktioniert weiter.</translation>
         <translation>In den &amp;Mod speichern</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has changed since it was opened. Replace it by what is open here?</source>
-        <translation>„%1“ hat sich geändert, seit es geöffnet wurde. Durch das ersetzen, was hier geöffnet ist?</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; may have changed since this work was kept. Replace it by what is open here?</source>
-        <translation>„%1“ kann sich geändert haben, seit diese Arbeit gesichert wurde. Durch das ersetzen, was hier geöffnet ist?</translation>
-    </message>
-    <message>
         <source>In the mod folder a link in its place leads back there:
 %1</source>
         <translation>Im Mod-Ordner führt an dieser Stelle ein Link dorthin zurück:
@@ -5009,6 +5001,10 @@ Alles andere funktioniert weiter.</translation>
 <context>
     <name>SavePath</name>
     <message>
+    <message>
+        <source>&apos;%1&apos; has changed since this work began. Replace it by what is open here?</source>
+        <translation>„%1“ hat sich geändert, seit diese Arbeit begonnen wurde. Durch das ersetzen, was hier geöffnet ist?</translation>
+    </message>
         <source>File error</source>
         <translation>Dateifehler</translation>
     </message>

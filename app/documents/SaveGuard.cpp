@@ -120,12 +120,9 @@ QString SaveGuard::freeForModel(const QString &path)
 
 bool SaveGuard::mayReplaceChanged(const Document &document) const
 {
-    // Work that was restored can come from a file that this program has written since.
-    const QString text =
-        document.fileStamp().exists()
-            ? tr("'%1' has changed since it was opened. Replace it by what is open here?")
-            : tr("'%1' may have changed since this work was kept. Replace it by what is open here?");
-    const QString question = text.arg(QDir::toNativeSeparators(document.path()));
+    // By this program, too, where the work was restored.
+    const QString question = tr("'%1' has changed since this work began. Replace it by what is open here?")
+                                 .arg(QDir::toNativeSeparators(document.path()));
     return QMessageBox::question(m_window, tr("Save"), question, QMessageBox::Yes | QMessageBox::No,
                                  QMessageBox::No) == QMessageBox::Yes;
 }

@@ -1410,6 +1410,10 @@ Ohne diese Eingabe fortfahren?</translation>
         <source>Not stored</source>
         <translation>Nicht gespeichert</translation>
     </message>
+    <message>
+        <source>[Close] &apos;%1&apos;: Not stored. %2</source>
+        <translation>[Schließen] „%1“: Nicht gespeichert. %2</translation>
+    </message>
 </context>
 <context>
     <name>DocumentKind</name>
@@ -4771,10 +4775,6 @@ Hände und Füße (x0.25): %6</translation>
         <source>Korvane has kept unsaved work, but it is damaged.</source>
         <translation>Korvane hat nicht gespeicherte Arbeit gesichert, aber sie ist beschädigt.</translation>
     </message>
-</context>
-<context>
-    <name>ReferenceTable</name>
-    <message>
     <message>
         <source>Show Damaged…</source>
         <translation>Beschädigte anzeigen…</translation>
@@ -4787,6 +4787,10 @@ Hände und Füße (x0.25): %6</translation>
         <source>%1. Other work that was kept is damaged.</source>
         <translation>%1. Andere gesicherte Arbeit ist beschädigt.</translation>
     </message>
+</context>
+<context>
+    <name>ReferenceTable</name>
+    <message>
         <source>Unable to read database file at %1</source>
         <translation>Die Datenbankdatei %1 kann nicht gelesen werden</translation>
     </message>
@@ -4997,14 +5001,14 @@ Alles andere funktioniert weiter.</translation>
         <translation>Im Mod-Ordner führt an dieser Stelle ein Link dorthin zurück:
 %1</translation>
     </message>
-</context>
-<context>
-    <name>SavePath</name>
-    <message>
     <message>
         <source>&apos;%1&apos; has changed since this work began. Replace it by what is open here?</source>
         <translation>„%1“ hat sich geändert, seit diese Arbeit begonnen wurde. Durch das ersetzen, was hier geöffnet ist?</translation>
     </message>
+</context>
+<context>
+    <name>SavePath</name>
+    <message>
         <source>File error</source>
         <translation>Dateifehler</translation>
     </message>

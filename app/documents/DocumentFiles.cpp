@@ -100,6 +100,8 @@ bool DocumentFiles::load(DocumentType type, const QString &path)
 
 void DocumentFiles::openChosen(DocumentType type)
 {
+    if (!settleTyping(type))
+        return;
     const DocumentKind &kind = documentKind(type);
     const QString path =
         QFileDialog::getOpenFileName(m_window, kind.openTitle, startFolder(kind, kind.loadPath), kind.filter);
@@ -242,8 +244,11 @@ bool DocumentFiles::settleTyping(DocumentType type)
     return true;
 }
 
-bool DocumentFiles::settleTyping()
+void DocumentFiles::finishAllTyping()
 {
-    return std::all_of(m_documents.begin(), m_documents.end(),
-                       [this](const Document *each) { return settleTyping(each->kind().type); });
+    for (const Document *each : m_documents) {
+        const QStringList refused = each->refusedTyping();
+        for (const QString &refusal : refused)
+            Log::warning(tr("[Close] '%1': Not stored. %2").arg(each->fileName(), refusal));
+    }
 }

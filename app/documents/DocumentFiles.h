@@ -33,7 +33,7 @@ public:
     bool openAlong(DocumentType type, const QString &path) { return load(type, path); }
     /// The same with the file that is open.
     bool reload(DocumentType type);
-    /// Lets the user choose a file and loads it.
+    /// Lets the user choose a file and loads it. Asks about typing that cannot be stored, and nothing else.
     void openChosen(DocumentType type);
 
     /// Saves to the document's file, or to a chosen one when it has none yet. Returns true when the document
@@ -52,8 +52,8 @@ public:
     /// Stores what is typed for a document. What cannot be stored is given up, after a question: returns
     /// false when the user goes back to it.
     [[nodiscard]] bool settleTyping(DocumentType type);
-    /// The same for all documents.
-    [[nodiscard]] bool settleTyping();
+    /// Stores what is typed for any document, unasked. What cannot be stored is told in the log.
+    void finishAllTyping();
 
 public slots:
     void on_actionOpen_triggered();

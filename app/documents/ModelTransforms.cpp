@@ -68,7 +68,7 @@ bool ModelTransforms::eventFilter(QObject *watched, QEvent *event)
     return true;
 }
 
-void ModelTransforms::setCurrent(const Document *document)
+void ModelTransforms::setCurrent(Document *document)
 {
     m_current = document;
     updateButtons();
@@ -102,7 +102,8 @@ void ModelTransforms::scale(float factor)
 template <typename SkinnedCommand, typename StaticCommand, typename... Arguments>
 void ModelTransforms::push(Arguments... arguments)
 {
-    if (!isAvailable())
+    // Pages show other numbers then, in place of what is typed.
+    if (!isAvailable() || m_current->returnToTyping())
         return;
     if (m_current == &m_skinnedMesh)
         m_skinnedMesh.undoStack()->push(new SkinnedCommand(m_skinnedMesh.editTarget(), arguments...));

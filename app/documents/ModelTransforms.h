@@ -17,11 +17,12 @@ public:
 
     /// The document that the current tab shows; null for none. Without a mesh in it the dialogs can only be
     /// closed.
-    void setCurrent(const Document *document);
+    void setCurrent(Document *document);
     /// Whether the current document is a mesh to transform.
     bool isAvailable() const;
 
-    /// In degrees. Without an open mesh in the current tab nothing happens.
+    /// In degrees. Without an open mesh in the current tab nothing happens, and while something is typed for
+    /// it that cannot be stored the user is led back to that.
     void rotate(float pitch, float roll, float yaw);
     void scale(float factor);
 
@@ -41,7 +42,7 @@ private:
 
     SkinnedMeshDocument &m_skinnedMesh;
     StaticMeshDocument &m_staticMesh;
-    const Document *m_current = nullptr;
+    Document *m_current = nullptr;
     QWidget *m_window;
     QDialog *m_rotateDialog = nullptr;
     QDialog *m_scaleDialog = nullptr;

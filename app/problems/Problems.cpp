@@ -121,6 +121,8 @@ std::vector<RecordRef> Problems::repairable(DocumentType type, Rule rule) const
 
 void Problems::repairPlaces(DocumentType type, Rule rule, const QVector<RecordRef> &places)
 {
+    if (document(type).returnToTyping())
+        return;
     // The list may be a moment behind the model.
     const QSet<RecordRef> wanted(places.begin(), places.end());
     const std::vector<RecordRef> now = repairable(type, rule);
@@ -132,7 +134,8 @@ void Problems::repairPlaces(DocumentType type, Rule rule, const QVector<RecordRe
 
 void Problems::repairAll(DocumentType type, Rule rule)
 {
-    repairNow(type, rule, repairable(type, rule));
+    if (!document(type).returnToTyping())
+        repairNow(type, rule, repairable(type, rule));
 }
 
 void Problems::repairNow(DocumentType type, Rule rule, const std::vector<RecordRef> &places)

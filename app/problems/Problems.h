@@ -34,6 +34,9 @@ public:
     /// Looks again, soon: the folders or what is in them may have changed.
     void recheck();
 
+    // While something is typed for the document that cannot be stored, neither repairs anything: each leads
+    // back to it.
+
     /// Repairs those of the places where the rule still has something to repair, as one undo step.
     void repairPlaces(DocumentType type, Rule rule, const QVector<RecordRef> &places);
     /// Repairs what the rule has to repair in the whole document, as one undo step.

@@ -216,10 +216,8 @@ void AnimTrackFrame::playOrPause()
 
 void AnimTrackFrame::play(float time)
 {
-    if (m_mayPlay()) {
-        playback().playState = PlayState::Playing;
-        playback().time = time;
-    }
+    playback().playState = PlayState::Playing;
+    playback().time = time;
     emit playbackChanged();
 }
 

@@ -4,7 +4,6 @@
 
 #include <QFrame>
 
-#include <functional>
 #include <memory>
 
 class QAction;
@@ -37,8 +36,6 @@ public:
     void showFrame(int frame);
     void showLabel(const QString &text);
 
-    /// Asked before playing is begun or gone on with by hand, which it can forbid by false.
-    void setPlayGuard(std::function<bool()> mayPlay) { m_mayPlay = std::move(mayPlay); }
     /// Gives a panel the keys of the buttons, and those that play or pause. Its buttons and lists keep Space
     /// for themselves.
     void serve(QWidget &panel);
@@ -76,5 +73,4 @@ private:
 
     std::unique_ptr<Ui::AnimTrackFrame> m_ui;
     QList<QAction *> m_actions;
-    std::function<bool()> m_mayPlay = [] { return true; };
 };

@@ -46,6 +46,7 @@ void TypingField::returnTo()
         if (auto *area = qobject_cast<QScrollArea *>(around))
             area->ensureWidgetVisible(&m_field);
     }
+    m_field.activateWindow(); // another one of the program may be in front
     m_field.setFocus();
     selectText();
     tellRefusal();

@@ -98,7 +98,6 @@ void DocumentPanes::connectPlayback()
         showPane(DocumentType::Anim);
         pane(DocumentType::Anim).tree->selectRecords({record}, record);
     });
-    track->setPlayGuard([this] { return !m_anim.returnToTyping() && !m_skinnedMesh.returnToTyping(); });
     track->openAnimation(nullptr);
 }
 

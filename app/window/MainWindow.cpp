@@ -254,8 +254,7 @@ void MainWindow::paintEvent(QPaintEvent *event)
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    if (!m_files->settleTyping())
-        return event->ignore();
+    m_files->finishAllTyping();
     m_layout->store();
     QMainWindow::closeEvent(event);
 }

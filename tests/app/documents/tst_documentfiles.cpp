@@ -328,12 +328,13 @@ private slots:
                 find<QUndoView>(window, "viewHistory")
                     ->setCurrentIndex(find<QUndoView>(window, "viewHistory")->model()->index(0, 0));
             },
+            // With another window of the program in front.
             [&] {
-                trees->setCurrentIndex(1);
-                find<QWidget>(window, "viewSkinned")->setFocus();
-                playback().playState = PlayState::Paused;
-                press(Qt::Key_Space, Qt::NoModifier);
+                find<QAction>(window, "actionRotate")->trigger();
+                QTRY_VERIFY(window.findChild<QDialog *>("RotateDialog")->isActiveWindow());
+                press(Qt::Key_S);
             },
+            [&] { find<QPushButton>(window, "btnYawPlus90")->click(); },
         };
         for (const auto &way : ways) {
             window.statusBar()->clearMessage();
@@ -341,11 +342,16 @@ private slots:
             way();
             QCOMPARE(hand.seen, QStringList());
             QTRY_COMPARE(window.statusBar()->currentMessage(), why);
-            QVERIFY(field->hasFocus() && tabs->currentIndex() == 0 && trees->currentIndex() == 0);
+            QTRY_VERIFY(field->hasFocus());
+            QVERIFY(tabs->currentIndex() == 0 && trees->currentIndex() == 0);
             QVERIFY(field->isRefused() && undo->isEnabled());
             QVERIFY(TestSupport::readFile(path) == before);
         }
-        QCOMPARE(playback().playState, PlayState::Paused);
+        // Playing changes nothing of it.
+        find<QWidget>(window, "viewSkinned")->setFocus();
+        playback().playState = PlayState::InitialPose;
+        press(Qt::Key_Space, Qt::NoModifier);
+        QVERIFY(playback().playState == PlayState::Playing && field->isRefused());
 
         // Where the document would go, there is a choice.
         const auto asked = [&](QMessageBox::StandardButton answer, const std::function<void()> &leave) {
@@ -354,12 +360,14 @@ private slots:
             return hand.seen;
         };
         const QStringList question{"Not stored|" + why + "\n\nGo on without it?"};
-        QCOMPARE(asked(QMessageBox::No, [&] { window.close(); }), question);
-        QVERIFY(window.isVisible() && window.focusWidget() == field && field->isRefused());
+        QCOMPARE(asked(QMessageBox::No, [&] { find<QAction>(window, "actionOpen")->trigger(); }), question);
+        QVERIFY(window.focusWidget() == field && field->isRefused());
         QCOMPARE(asked(QMessageBox::No, [&] { window.openFiles({other}); }), question);
         QVERIFY(window.windowTitle().contains("man.skinnedmesh"));
-        QCOMPARE(asked(QMessageBox::Yes, [&] { window.close(); }), question);
-        QVERIFY(!window.isVisible() && !field->isRefused());
+        // The window closes without a question.
+        QCOMPARE(asked(QMessageBox::No, [&] { window.close(); }), QStringList());
+        QVERIFY(!window.isVisible());
+        QCOMPARE(consoleOf(window).last(), "[Close] 'man.skinnedmesh': Not stored. " + why);
     }
 
 private:

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "BrokenModels.h"
+#include "FloatSpinBox.h"
 #include "Hand.h"
 
 using namespace BrokenModels;
@@ -123,6 +124,28 @@ private slots:
         undo();
         QTRY_COMPARE(find<QToolButton>("btnProblemWarnings")->text(), QStringLiteral("Warnings: 40"));
         QVERIFY(!isModified());
+    }
+
+    void refusedTypingIsNotRepairedAway()
+    {
+        SkinnedMesh mesh = goodMesh();
+        std::swap(mesh.bbMin, mesh.bbMax);
+        open(mesh);
+        QTRY_COMPARE(list()->topLevelItemCount(), 1);
+        select(*m_window, "treeSkinnedMesh", {{RecordKind::SkinnedMesh, {}}});
+        auto *field = find<FloatSpinBox>("sbSMBBMinX");
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, "1x");
+        click(0);
+        for (const char *button : {"btnProblemFix", "btnProblemFixAll"}) {
+            press(button);
+            QVERIFY(field->hasFocus() && field->isRefused() && !isModified());
+        }
+        QTest::keyClick(field, Qt::Key_Escape);
+        press("btnProblemFix");
+        QCOMPARE(list()->topLevelItemCount(), 0);
+        QCOMPARE(field->value(), goodMesh().bbMin.x());
     }
 
     void filtersAndSorts()

@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QOpenGLContext>
 #include <QTimer>
+#include <QWindow>
 
 #include <utility>
 
@@ -102,12 +103,19 @@ void RenewableGLWidget::renewContext()
 
 void RenewableGLWidget::paintEvent(QPaintEvent *event)
 {
+    // The toolkit paints with every change of the size, before it paints the window. While a layout is still
+    // at work, and the window not on the screen, these are frames for nobody.
+    const QWindow *shown = window()->windowHandle();
+    if (m_isResizing && !(shown && shown->isExposed()))
+        return;
     if (!context() || takeContext())
         QOpenGLWidget::paintEvent(event);
 }
 
 void RenewableGLWidget::resizeEvent(QResizeEvent *event)
 {
+    m_isResizing = true;
     if (!context() || takeContext())
         QOpenGLWidget::resizeEvent(event);
+    m_isResizing = false;
 }

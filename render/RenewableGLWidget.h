@@ -54,6 +54,7 @@ private:
 
     QString m_failure;
     bool m_lossNoticed = false;
+    bool m_isResizing = false;
     int m_losses = 0; ///< of a context, in close succession
     QElapsedTimer m_sinceLoss;
 };

@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QSignalSpy>
 #include <QToolTip>
+#include <QVBoxLayout>
 #include <QWheelEvent>
 
 #include <cmath>
@@ -30,6 +31,7 @@ private slots:
     void clicksPick();
     void tipsNameWhatIsMarked();
     void altTurnsAroundTheModel();
+    void aWindowThatIsNotOnTheScreenCostsNoFrames();
     void pausedOrHiddenViewRests();
     void playingFollowsTheClock();
 
@@ -299,6 +301,26 @@ void tst_ViewportInput::altTurnsAroundTheModel()
     QVERIFY(m_view->camera().framed());
     m_view->setSkinnedMesh(&m_view->mesh);
     QVERIFY(!m_view->camera().framed());
+}
+
+void tst_ViewportInput::aWindowThatIsNotOnTheScreenCostsNoFrames()
+{
+    QWidget window;
+    auto *view = new Viewport(&window);
+    (new QVBoxLayout(&window))->addWidget(view);
+    view->embed();
+    for (const int width : {500, 600, 700}) { // as layouts do while they settle
+        window.resize(width, 400);
+        window.show();
+        QCOMPARE(view->frames, 0);
+    }
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QTRY_VERIFY(view->frames > 0);
+    QTest::qWait(100);
+    const int before = view->frames;
+    window.resize(800, 500);
+    QTRY_VERIFY(view->frames > before);
+    QTRY_COMPARE(view->grabFramebuffer().size(), view->size());
 }
 
 void tst_ViewportInput::pausedOrHiddenViewRests()

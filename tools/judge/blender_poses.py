@@ -71,6 +71,15 @@ def clip_names(path):
     return [clip.get("name", "") for clip in json.loads(text).get("animations", [])]
 
 
+def ordered(names, planned):
+    """The names in the order of the plan, which has some as "[12]" for "walk [12]"; those of the plan if they fit
+    nothing."""
+    fitting = [[name for name in names if name == plan] or [name for name in names if plan in name] for plan in planned]
+    if all(len(found) == 1 for found in fitting):
+        return [found[0] for found in fitting]
+    return names if len(names) == len(planned) else planned
+
+
 def transforms():
     """Location, rotation and scale of every object and bone, by name."""
     found = {}
@@ -241,9 +250,7 @@ class Model:
         if plan:
             with open(plan, "rb") as file:
                 planned = json.loads(file.readline())["clips"]
-        self.names = clip_names(source)
-        if plan and len(self.names) != len(planned):
-            self.names = [clip["name"] for clip in planned]
+        self.names = ordered(clip_names(source), [clip["name"] for clip in planned]) if plan else clip_names(source)
         load(source, False)
         self._rest = transforms()
         load(source, True)

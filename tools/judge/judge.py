@@ -239,7 +239,8 @@ class Judge:
     # --- There and back ------------------------------------------------------------------------------------
 
     def trips(self):
-        rows = [("model", "frames a second", "most units", "as the game shows", "differences", "verdict")]
+        rows = [("model", "frames a second", "most units", "as of a person", "differences", "edited: most units",
+                 "verdict")]
 
         def judged(trip):
             model, rate = trip
@@ -259,13 +260,23 @@ class Judge:
             for old, new in zip(before.poses, after.poses):
                 most = max(most, np.linalg.norm(old - new, axis=2).max())
             good = most * scale <= 0.02 and not differences
+            edited = self.edited(mesh, anim, target, rate) if anim else 0.0
             return (model, rate, f"{most:.5f}", f"{most * scale:.5f} of 200", ", ".join(differences) or "none",
-                    self.verdict(good))
+                    f"{edited:.5f}" if anim else "-", self.verdict(good and edited <= 0.02))
 
         for model in CHARACTERS + STATICS:
             for rate in (RATES[model],) if model in RATES else (24,):
                 rows.append(self.row((model, rate), len(rows[0]), judged))
         table("Through Blender and back", rows)
+
+    def edited(self, mesh, anim, target, rate):
+        """How far what was edited in Blender is in ours from where it is there."""
+        back, folder = target.with_suffix(".edited.glb"), self.fresh(f"trips/{target.stem}.edited")
+        self.blender("blender_round", target, back, rate, "edit")
+        self.call(self.tool, "import", "--update", mesh, "--anim", anim, "-o", folder, back)
+        ours = self.posed(folder / mesh.name, folder / anim.name, folder / "after.poses")
+        self.blender("blender_poses", back, folder / "blender.poses", folder / "after.poses")
+        return compare(Poses(folder / "blender.poses"), ours, 1.0)["maxUnits"]
 
     # --- Pictures ------------------------------------------------------------------------------------------
 

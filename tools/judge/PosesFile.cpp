@@ -57,7 +57,7 @@ QString PosesFile::readClips(const QString &path, std::vector<PosesClip> &clips)
     if (!file.open(QIODevice::ReadOnly))
         return file.errorString();
     const QJsonObject head = QJsonDocument::fromJson(file.readLine()).object();
-    for (const QJsonValue &each : head["clips"].toArray()) {
+    for (const auto &each : head["clips"].toArray()) {
         const QJsonObject clip = each.toObject();
         clips.push_back({clip["name"].toString(), clip["rate"].toDouble(), clip["frames"].toInt()});
     }

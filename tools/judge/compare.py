@@ -99,8 +99,10 @@ def distances(match, source, ours, clips):
     """Of each clip the distances [frames, vertices, ties] in per cent."""
     for theirs, mine in clips:
         for frame in range(ours.clips[mine]["frames"]):
-            pose = np.asarray(source.poses[theirs][shown(source, theirs, frame)], np.float64)[match.candidates] * match.scale
-            yield theirs, mine, frame, np.linalg.norm(pose - np.asarray(ours.poses[mine][frame])[:, None], axis=2) / match.size * 100
+            places = np.asarray(source.poses[theirs][shown(source, theirs, frame)], np.float64)
+            pose = places[match.candidates] * match.scale
+            apart = np.linalg.norm(pose - np.asarray(ours.poses[mine][frame])[:, None], axis=2)
+            yield theirs, mine, frame, apart / match.size * 100
 
 
 def to_nearest(match, source, ours, theirs, mine, frame, distance):

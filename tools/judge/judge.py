@@ -84,8 +84,7 @@ class Judge:
 
     def rigs(self):
         rows = [("rig", "judge", "vertices", "bones", "clips", "frames", "mean %", "max %", "nearest %",
-                 "solid max %",
-                 "own max %", ".anim kB", "check", "verdict")]
+                 "solid %", "own %", ".anim kB", "check", "verdict")]
         clips = {}
 
         def judged(rig):
@@ -121,9 +120,10 @@ class Judge:
                 follows = found["mean"] <= 0.2 and found["nearest"] <= 3.5 and found["solidMax"] <= 0.01
                 good = ((follows or lost) and (found["alone"] <= 0.01 or "moving" in lost) and found["uv"] <= 1e-3
                         and found["lost"] == 0 and findings == "none")
+                anim_size = os.path.getsize(f"{base}.anim") / 1000
                 rows.append((name, found["judge"], found["vertices"], len(mesh.bones), found["clips"], found["frames"],
-                             f"{found['mean']:.4f}", f"{found['max']:.3f}", f"{found['nearest']:.3f}", f"{found['solidMax']:.4f}",
-                             f"{found['alone']:.4f}", f"{os.path.getsize(f'{base}.anim') / 1000:.1f}", findings,
+                             f"{found['mean']:.4f}", f"{found['max']:.3f}", f"{found['nearest']:.3f}",
+                             f"{found['solidMax']:.4f}", f"{found['alone']:.4f}", f"{anim_size:.1f}", findings,
                              self.verdict(good) + (f", {lost}" if lost else "")))
                 clips[name] = found
         table("Imports ready for the game", rows)
@@ -131,8 +131,9 @@ class Judge:
 
     def findings(self, folder, mod=None):
         """What the check finds in an import, "none" when nothing."""
-        done = subprocess.run([str(self.tool), "check", "--json", "--game-path", str(mod or folder), "--mod-path", str(mod or folder),
-                               str(folder)], capture_output=True, text=True)
+        mod = str(mod or folder)
+        done = subprocess.run([str(self.tool), "check", "--json", "--game-path", mod, "--mod-path", mod, str(folder)],
+                              capture_output=True, text=True)
         rules = {}
         for file in json.loads(done.stdout):
             for finding in file["findings"]:
@@ -162,10 +163,10 @@ class Judge:
             theirs.clips = []
             found = compare(theirs, ours)
             shares = [outside(poses) for poses in (theirs, ours)]
-            good = (found["rest"] <= 0.01 and found["uv"] <= 1e-3 and found["lost"] == 0 and shares[1] > shares[0] - 0.01
-                    and abs(found["scale"] - 1) < 1e-4)
-            return (file, ours.vertices, len(ours.triangles), f"{found['rest']:.4f}", f"{found['uv']:.5f}", found["lost"],
-                    *(f"{100 * share:.1f}" for share in shares), self.verdict(good))
+            good = (found["rest"] <= 0.01 and found["uv"] <= 1e-3 and found["lost"] == 0
+                    and shares[1] > shares[0] - 0.01 and abs(found["scale"] - 1) < 1e-4)
+            return (file, ours.vertices, len(ours.triangles), f"{found['rest']:.4f}", f"{found['uv']:.5f}",
+                    found["lost"], *(f"{100 * share:.1f}" for share in shares), self.verdict(good))
 
         with ThreadPoolExecutor(os.cpu_count()) as threads:
             rows += threads.map(judged, self.listed("core"))
@@ -295,7 +296,7 @@ class Judge:
             drawn = [self.out / f"{name}.{who}.png" for who in ("source", "ours")]
             scene = self.out / f"{name}.scene"
             self.blender("blender_picture", source if readable else scene, scene, drawn[0], clip, frame)
-            self.call(self.tool, "render", "--anim", f"{mesh}.anim", "--block", clip, "--frame", frame, "--yaw", 30,
+            self.call(self.tool, "render", "--force", "--anim", f"{mesh}.anim", "--block", clip, "--frame", frame, "--yaw", 30,
                       "--pitch", 15, "--size", 400, "--background", "#6C7E95", "--game-path", folder, "--mod-path",
                       folder, "-o", drawn[1], f"{mesh}.skinnedmesh")
             pairs += [f"{name} {clips[clip]['name']}, {frame}: source", drawn[0], "ours", drawn[1]]
@@ -336,8 +337,8 @@ class Judge:
         mod = self.fresh_mod(f"{folder.relative_to(self.out)}.mod")
         start = time.monotonic()
         try:
-            done = subprocess.run([self.tool, "import", *(["--ready"] if ready else []), "--create-kmat", "--copy-textures",
-                                   "--mod-path", mod, "-o", folder, self.shared / "models" / file],
+            done = subprocess.run([self.tool, "import", *(["--ready"] if ready else []), "--create-kmat",
+                                   "--copy-textures", "--mod-path", mod, "-o", folder, self.shared / "models" / file],
                                   capture_output=True, text=True, errors="replace", timeout=TIME_LIMIT)
             code, said = done.returncode, done.stdout + done.stderr
         except subprocess.TimeoutExpired:

@@ -12,7 +12,8 @@ A line of JSON, then the blocks that it tells of, little-endian and one after th
     triangles int32   [triangles, 3]  vertices, counter-clockwise seen from outside
     poses     float32 [frames, vertices, 3] of each clip, at (frame / rate) seconds from its first key
 
-The JSON has `vertices`, `corners`, `triangles`, `parts` (name, first, count: ranges of vertices) and `clips` (name, rate in 1/s, frames).
+The JSON has `vertices`, `corners`, `triangles`, `parts` (name, first, count: ranges of vertices) and `clips` (name,
+rate in 1/s, frames).
 """
 import json
 

@@ -146,7 +146,7 @@ bool GltfBytes::open(const QByteArray &file, const FileReader &readFile)
              .toString()
              .startsWith(QLatin1String("2.")))
         return fail(QStringLiteral("asset"));
-    for (const QJsonValue &each : list("extensionsRequired")) {
+    for (const QJsonValue each : list("extensionsRequired")) {
         const QString name = each.toString();
         if (name != QLatin1String("KHR_mesh_quantization") &&
             !name.startsWith(QLatin1String("KHR_materials_")))

@@ -93,7 +93,7 @@ private:
             node.hasMatrix = object.contains(QLatin1String("matrix"));
             if (node.hasMatrix)
                 node.matrix = QMatrix4x4(matrix.data()).transposed(); // stored by columns
-            for (const QJsonValue &each : object.value(QLatin1String("children")).toArray()) {
+            for (const QJsonValue each : object.value(QLatin1String("children")).toArray()) {
                 const int child = each.toInt(-1);
                 if (child < 0 || child >= list.size() || m_scene.nodes[size_t(child)].parent >= 0)
                     return m_bytes.fail(where);
@@ -115,7 +115,7 @@ private:
             if (index(m_bytes.root(), "scene", size_t(scenes.size()), number, QStringLiteral("scene")))
                 return true;
             isRoot.assign(count, false);
-            for (const QJsonValue &each :
+            for (const QJsonValue each :
                  scenes.at(std::max(number, 0)).toObject().value(QLatin1String("nodes")).toArray()) {
                 const int node = each.toInt(-1);
                 if (node < 0 || size_t(node) >= count)
@@ -140,7 +140,7 @@ private:
 
     bool readMaterials()
     {
-        for (const QJsonValue &each : m_bytes.list("materials")) {
+        for (const QJsonValue each : m_bytes.list("materials")) {
             const QJsonObject object = each.toObject();
             m_scene.materials.push_back({object.value(QLatin1String("name")).toString(),
                                          object.value(QLatin1String("extras")).toObject()});
@@ -153,8 +153,7 @@ private:
         const QJsonArray list = m_bytes.list("meshes");
         for (int i = 0; i < list.size(); ++i) {
             m_scene.meshes.emplace_back();
-            for (const QJsonValue &each :
-                 list.at(i).toObject().value(QLatin1String("primitives")).toArray()) {
+            for (const QJsonValue each : list.at(i).toObject().value(QLatin1String("primitives")).toArray()) {
                 GltfScene::Primitive primitive;
                 const QJsonObject object = each.toObject();
                 const int mode = object.value(QLatin1String("mode")).toInt(Triangles);
@@ -273,7 +272,7 @@ private:
         for (int i = 0; i < list.size(); ++i) {
             const QJsonObject object = list.at(i).toObject();
             GltfScene::Skin skin;
-            for (const QJsonValue &each : object.value(QLatin1String("joints")).toArray()) {
+            for (const QJsonValue each : object.value(QLatin1String("joints")).toArray()) {
                 const int node = each.toInt(-1);
                 if (node < 0 || size_t(node) >= m_scene.nodes.size())
                     return m_bytes.fail(place("skins", i));
@@ -315,7 +314,7 @@ private:
             animation.name = object.value(QLatin1String("name")).toString();
             animation.extras = object.value(QLatin1String("extras")).toObject();
             const QJsonArray samplers = object.value(QLatin1String("samplers")).toArray();
-            for (const QJsonValue &each : object.value(QLatin1String("channels")).toArray()) {
+            for (const QJsonValue each : object.value(QLatin1String("channels")).toArray()) {
                 GltfScene::Channel channel;
                 bool counts = false;
                 if (readChannel(each.toObject(), samplers, channel, counts, place("animations", i)))

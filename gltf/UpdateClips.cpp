@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace {
 // More than the longest files have; a clip of a few keys may say that it takes a year.
@@ -369,13 +370,13 @@ bool UpdateClips::addBlock(const GltfScene::Animation &animation)
     block.animId = id.value_or(0);
     while (!id && taken.contains(block.animId))
         ++block.animId;
-    for (const Rigid &rest : m_restLocals)
-        block.nodes.push_back(initialNode(rest));
+    std::transform(m_restLocals.begin(), m_restLocals.end(), std::back_inserter(block.nodes), initialNode);
     block.setFrameCount(count);
     block.blendLength = 5;
     block.blendEnd = quint16(std::min(count - 1, 0xFFFF));
 
     std::vector<float> times;
+    times.reserve(size_t(count));
     for (int i = 0; i < count; ++i)
         times.push_back(timing.keys.front() + float(i) / block.speed);
     const Poses poses = posesAt(animation, times, nullptr);

@@ -296,8 +296,8 @@ class Judge:
             drawn = [self.out / f"{name}.{who}.png" for who in ("source", "ours")]
             scene = self.out / f"{name}.scene"
             self.blender("blender_picture", source if readable else scene, scene, drawn[0], clip, frame)
-            self.call(self.tool, "render", "--force", "--anim", f"{mesh}.anim", "--block", clip, "--frame", frame, "--yaw", 30,
-                      "--pitch", 15, "--size", 400, "--background", "#6C7E95", "--game-path", folder, "--mod-path",
+            self.call(self.tool, "render", "--force", "--anim", f"{mesh}.anim", "--block", clip, "--frame", frame,
+                      "--yaw", 30, "--pitch", 15, "--size", 400, "--background", "#6C7E95", "--game-path", folder, "--mod-path",
                       folder, "-o", drawn[1], f"{mesh}.skinnedmesh")
             pairs += [f"{name} {clips[clip]['name']}, {frame}: source", drawn[0], "ours", drawn[1]]
         sheet = self.out / "sheet.png"

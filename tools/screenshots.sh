@@ -388,9 +388,12 @@ guide_pictures() {
     for_guide action "${part[@]}"
     press ctrl+i
     wait_for --name '^(Import model|Modell importieren)' >>"$log"
-    xdotool type --delay 20 "$samples/import/robot.fbx"
+    xdotool type --delay 20 "$samples/import/tinker.glb"
     press Tab
+    # It looks into the file.
+    sleep 4
     grab_dialog '(Import model|Modell importieren)' "$guides/import.png"
+    mogrify -filter Lanczos -resize '760x>' "$guides/import.png"
     leave_dialog
     quit
 

@@ -33,7 +33,6 @@ def edit():
             for key in curve.keyframe_points:
                 key.co[1] += SHIFT
             curve.update()
-    print(f"judge: edited {action.name}, {root}")
 
 
 def main(source, out, rate="24", *edits):

@@ -4777,7 +4777,7 @@ Hände und Füße (x0.25): %6</translation>
     </message>
     <message>
         <source>Show Damaged…</source>
-        <translation>Beschädigte anzeigen…</translation>
+        <translation>Beschädigte zeigen…</translation>
     </message>
     <message>
         <source>Say what is damaged, to keep its files or delete them</source>

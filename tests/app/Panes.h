@@ -6,6 +6,7 @@
 #include "FlagsEditor.h"
 #include "FloatSpinBox.h"
 #include "IntSpinBox.h"
+#include "NamesFile.h"
 #include "PageStack.h"
 #include "PropertyPages.h"
 #include "SampleModels.h"
@@ -26,6 +27,10 @@ struct Pane
     {
         const QString path = home.filePath(QStringLiteral("opened"));
         QVERIFY(!model.write(path));
+        if constexpr (std::is_same_v<Model, SkinnedMesh>) {
+            QFile::remove(ModelNames::pathFor(path));
+            QCOMPARE(NamesFile().write(path, model), QString());
+        }
         openFile(path);
     }
     void openFile(const QString &path)

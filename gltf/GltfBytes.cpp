@@ -17,6 +17,7 @@ namespace {
 constexpr quint32 BinaryMagic = 0x46546C67; // "glTF"
 constexpr quint32 JsonChunk = 0x4E4F534A;
 constexpr quint32 BinChunk = 0x004E4942;
+constexpr qint64 LargestSum = qint64(1) << 30; // bytes of all buffers
 
 enum ComponentType { Byte = 5120, UnsignedByte, Short, UnsignedShort, UnsignedInt = 5125, Float };
 
@@ -129,6 +130,14 @@ bool GltfBytes::fail(const QString &place)
     return refuse(Gltf::tr("The file is damaged, or no glTF 2.0: %1").arg(place));
 }
 
+bool GltfBytes::spend(size_t bytes, const QString &place)
+{
+    if (bytes > size_t(m_copyBudget))
+        return fail(place);
+    m_copyBudget -= qint64(bytes);
+    return false;
+}
+
 bool GltfBytes::open(const QByteArray &file, const FileReader &readFile)
 {
     m_file = file; // buffers are parts of it
@@ -187,6 +196,10 @@ bool GltfBytes::openBuffers(const QByteArray &chunk, const FileReader &readFile)
     // An integer of one byte becomes a float of four, and a part of a view may be shared.
     constexpr qint64 Growth = 16;
     m_budget = 1 << 20;
+    // Primitives may well share their vertices: twice what the largest model has.
+    m_copyBudget = 64 << 20;
+    QHash<QString, QByteArray> files; // by uri
+    qint64 sum = 0;
     const QJsonArray buffers = list("buffers");
     for (int i = 0; i < buffers.size(); ++i) {
         const QJsonObject buffer = buffers.at(i).toObject();
@@ -194,6 +207,8 @@ bool GltfBytes::openBuffers(const QByteArray &chunk, const FileReader &readFile)
         QByteArray bytes;
         if (uri.isEmpty())
             bytes = i == 0 ? chunk : QByteArray();
+        else if (files.contains(uri))
+            bytes = files.value(uri);
         else if (uri.startsWith(QLatin1String("data:")))
             bytes = dataOfUri(uri);
         else if (!QUrl(uri).isRelative() ||
@@ -202,8 +217,16 @@ bool GltfBytes::openBuffers(const QByteArray &chunk, const FileReader &readFile)
         const qint64 length = wholeNumber(buffer.value(QLatin1String("byteLength")), -1);
         if (length < 0 || length > bytes.size())
             return fail(QStringLiteral("buffers/%1").arg(i));
-        m_budget += Growth * bytes.size();
         m_buffers.push_back(bytes);
+        if (files.contains(uri))
+            continue;
+        if (!uri.isEmpty())
+            files.insert(uri, bytes);
+        sum += bytes.size();
+        m_budget += Growth * bytes.size();
+        m_copyBudget += Growth * bytes.size();
+        if (sum > LargestSum)
+            return refuse(Gltf::tr("The files that belong to it are too large."));
     }
     return false;
 }

@@ -15,7 +15,8 @@
 /// The container of a glTF file: its JSON text, its buffers, and the numbers that accessors find in them.
 ///
 /// Nothing that a file says is believed: counts, offsets and strides are checked against the bytes that are
-/// there, and all accessors together may make no more than a few times as many bytes as the buffers have.
+/// there, and all accessors together may make no more than a few times as many bytes as the buffers have, and
+/// so may all that is copied from them.
 class GltfBytes
 {
 public:
@@ -35,6 +36,10 @@ public:
     /// Those of unsigned integers.
     using Integers = std::shared_ptr<const std::vector<quint32>>;
     Integers integers(const QJsonValue &accessor, int components);
+
+    /// Before `bytes` are made for what stands at `place` from accessors that others may use too. Returns
+    /// true on failure.
+    [[nodiscard]] bool spend(size_t bytes, const QString &place);
 
     /// Of the first failure; empty without one.
     const QString &error() const { return m_error; }
@@ -76,7 +81,8 @@ private:
     QJsonArray m_accessors;
     QJsonArray m_views;
     std::vector<QByteArray> m_buffers;
-    qint64 m_budget = 0;            ///< bytes that may still be made
+    qint64 m_budget = 0;            ///< bytes that accessors may still make
+    qint64 m_copyBudget = 0;        ///< bytes that may still be made from those
     QHash<qint64, Floats> m_floats; ///< by accessor and components
     QHash<qint64, Integers> m_integers;
     QString m_error;

@@ -14,6 +14,7 @@
 namespace {
 constexpr qint64 LargestFile = qint64(1) << 30;
 constexpr int WeightSets = 4; ///< of four joints a vertex each
+constexpr size_t BytesOfVertex = 2 * sizeof(QVector3D) + sizeof(QVector2D) + sizeof(int);
 
 enum PrimitiveMode { Triangles = 4, TriangleStrip, TriangleFan };
 
@@ -182,6 +183,8 @@ private:
             read("POSITION", 3, values))
             return true;
         const size_t count = values->size() / 3;
+        if (m_bytes.spend(count * BytesOfVertex, where))
+            return true;
         for (size_t i = 0; i < count; ++i)
             primitive.positions.emplace_back((*values)[3 * i], (*values)[3 * i + 1], (*values)[3 * i + 2]);
         if (attributes.contains(QLatin1String("NORMAL"))) {
@@ -241,10 +244,17 @@ private:
                        const QString &where)
     {
         std::vector<quint32> corners;
+        GltfBytes::Integers indices;
         if (object.contains(QLatin1String("indices"))) {
-            const GltfBytes::Integers indices = m_bytes.integers(object.value(QLatin1String("indices")), 1);
+            indices = m_bytes.integers(object.value(QLatin1String("indices")), 1);
             if (!indices)
                 return true;
+        }
+        // Of a strip, each corner begins a triangle.
+        const size_t bytesOfCorner = (mode == Triangles ? 1 : 3) * sizeof(quint32);
+        if (m_bytes.spend((indices ? indices->size() : count) * bytesOfCorner, where))
+            return true;
+        if (indices) {
             corners = *indices;
         } else {
             for (size_t i = 0; i < count; ++i)

@@ -349,6 +349,12 @@ void tst_GltfReader::cutAnywhere()
     file.root["accessors"] = accessors;
     file.set("meshes/0/primitives", primitives);
     QVERIFY(file.read(scene).contains("accessors/"));
+    // So would be a thousand uses of one list that make vertices or triangles of it.
+    QJsonArray sharers;
+    for (int i = 0; i < 10000; ++i)
+        sharers.append(primitives.at(0));
+    file.set("meshes/0/primitives", sharers);
+    QVERIFY(file.read(scene).endsWith("meshes/0"));
 }
 
 void tst_GltfReader::otherFiles()
@@ -365,6 +371,23 @@ void tst_GltfReader::otherFiles()
     QVERIFY(TestSupport::writeFile(folder.filePath("some bytes.bin"), file.buffer));
     QVERIFY2(!readGltf(path, scene, reason), qPrintable(reason));
     QCOMPARE(scene.nodes.size(), size_t(3));
+    // A file that is named often is read once, and they may not be without end.
+    int reads = 0;
+    const QByteArray half(600 << 20, Qt::Uninitialized);
+    const auto readsAll = [&](const char *second, const QByteArray &content) {
+        reads = 0;
+        const QJsonObject buffer{{"byteLength", 4}, {"uri", "a.bin"}};
+        const QJsonObject other{{"byteLength", 4}, {"uri", second}};
+        const QJsonObject root{{"asset", QJsonObject{{"version", "2.0"}}},
+                               {"buffers", QJsonArray{buffer, buffer, other}}};
+        GltfBytes bytes;
+        return !bytes.open(QJsonDocument(root).toJson(), [&](const QString &) {
+            ++reads;
+            return content;
+        });
+    };
+    QVERIFY(readsAll("a.bin", half) && reads == 1);
+    QVERIFY(!readsAll("b.bin", half) && readsAll("b.bin", "1234") && reads == 2);
     QVERIFY(readGltf(folder.path(), scene, reason));
     QVERIFY(readGltf(folder.filePath("none.glb"), scene, reason));
 }

@@ -3,6 +3,7 @@
 #include "BlockTracks.h"
 
 #include "GltfSkeleton.h"
+#include "GltfText.h"
 #include "Polar.h"
 
 #include <algorithm>
@@ -15,6 +16,7 @@ constexpr double SameAngle = 2.0e-5; ///< radians
 constexpr double SameYaw = 2.0e-5;   ///< radians
 constexpr double LoopPart = 0.01;    ///< of the way that the bones go, about
 constexpr int MostTracks = 0xFFFF;   ///< the index of none
+constexpr quint16 LoopOfNone = 0xFFFF;
 
 /// As an export writes it: what is no number is 0, and does not turn.
 Rigid rigidOf(const QVector3D &position, const QVector4D &rotation)
@@ -124,6 +126,22 @@ AnimNode initialNode(const Rigid &local)
     node.initialPosition = local.position();
     node.initialRotation = keyOf(local.rotation, {});
     return node;
+}
+
+QStringList beyondEnd(const AnimBlock &block)
+{
+    QStringList beyond;
+    const int count = block.frameCount();
+    if (block.loopFrame != LoopOfNone && block.loopFrame >= count)
+        beyond += Gltf::tr("loop frame %1").arg(block.loopFrame);
+    if (block.blendEnd >= count)
+        beyond += Gltf::tr("blend end %1").arg(block.blendEnd);
+    const auto actions =
+        std::count_if(block.actions.begin(), block.actions.end(),
+                      [count](const AnimAction &action) { return int(action.frame) >= count; });
+    if (actions > 0)
+        beyond += Gltf::tr("actions: %1").arg(actions);
+    return beyond;
 }
 
 BlockTracks::BlockTracks(AnimBlock &block, const KeyTolerance &tolerance)

@@ -5,6 +5,8 @@
 #include "AnimFile.h"
 #include "Rigid.h"
 
+#include <QStringList>
+
 #include <vector>
 
 /// How far two keys may be from each other and still be the same: what arithmetic on the way to another
@@ -31,6 +33,8 @@ enum class Between { Slerp, Nlerp };
 Rigid initialLocal(const AnimNode &node);
 Rigid localAt(const AnimBlock &block, size_t bone, double frame, Between between);
 AnimNode initialNode(const Rigid &local);
+/// What of a block that has become shorter says something of frames that it does not have.
+QStringList beyondEnd(const AnimBlock &block);
 
 /// Puts keys of another program into the tracks of a block, where they say something else.
 ///

@@ -3,6 +3,7 @@
 #include "GltfClips.h"
 
 #include "AnimFile.h"
+#include "ExportNames.h"
 #include "FrameChoice.h"
 #include "GltfExtras.h"
 #include "GltfSkeleton.h"
@@ -244,7 +245,7 @@ private:
 
 QString clipName(const AnimBlock &block, const ModelNames &names)
 {
-    const QString name = names.animations.value(block.animId).simplified().left(LongestName);
+    const QString name = bareClipName(names.animations.value(block.animId)).left(LongestName);
     const QString id = QStringLiteral("[%1]").arg(block.animId);
     return name.isEmpty() ? id : name + QLatin1Char(' ') + id;
 }

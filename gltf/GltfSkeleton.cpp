@@ -3,6 +3,7 @@
 #include "GltfSkeleton.h"
 
 #include "AnimFile.h"
+#include "ExportNames.h"
 #include "GltfExtras.h"
 #include "GltfNumbers.h"
 #include "GltfWriter.h"
@@ -38,8 +39,9 @@ QString numbered(const char *kind, int number)
 /// "bone_012 head".
 QString jointName(int bone, const ModelNames &names)
 {
-    const QString name = names.bones.value(bone);
-    return name.isEmpty() ? numbered("bone", bone) : numbered("bone", bone) + QLatin1Char(' ') + name;
+    const QString name = bareBoneName(names.bones.value(bone));
+    const QString number = numbered("bone", bone);
+    return name.isEmpty() || name == number ? number : number + QLatin1Char(' ') + name;
 }
 } // namespace
 

@@ -3,10 +3,12 @@
 #include "ModelUpdate.h"
 
 #include "BinaryFileWriter.h"
+#include "ExportNames.h"
 #include "GltfExtras.h"
 #include "GltfPose.h"
 #include "GltfText.h"
 #include "Polar.h"
+#include "SurfaceNumbers.h"
 #include "Transform.h"
 #include "UpdateBones.h"
 #include "UpdateClips.h"
@@ -14,17 +16,15 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 #include <algorithm>
 
 namespace {
 constexpr size_t MostBones = 255;  ///< a parent is a byte, and 255 is none
-constexpr size_t ShownBones = 127; ///< whose vertices the view and the game can pose
+constexpr size_t ShownBones = 128; ///< whose vertices the view and the game can pose
 // A few times what indexes of 16 bits can use.
 constexpr size_t MostFileVertices = 1 << 20;
 constexpr size_t MostFileCorners = 1 << 22;
-constexpr size_t MostSurfaces = 4096;
 
 std::optional<GltfExtras::Model> modelExtras(const GltfScene &scene, bool isStatic)
 {
@@ -35,85 +35,6 @@ std::optional<GltfExtras::Model> modelExtras(const GltfScene &scene, bool isStat
     }
     return {};
 }
-
-/// Which surface of a mesh a material of the file is; those that are none become surfaces behind the others.
-template <typename Mesh>
-class SurfaceNumbers
-{
-public:
-    SurfaceNumbers(const GltfScene &scene, Mesh &mesh, UpdateAccount &account)
-        : m_scene(scene)
-        , m_mesh(mesh)
-        , m_account(account)
-        , m_numbers(scene.materials.size() + 1, -1)
-    {}
-
-    size_t of(int material)
-    {
-        int &number = m_numbers[size_t(material + 1)];
-        if (number < 0)
-            number = find(material);
-        return size_t(number);
-    }
-
-private:
-    int find(int material)
-    {
-        const GltfScene::Material none;
-        const GltfScene::Material &each = material < 0 ? none : m_scene.materials[size_t(material)];
-        const auto surface = GltfExtras::read<GltfExtras::Surface>(each.extras);
-        if (surface && surface->number >= 0 && size_t(surface->number) < m_mesh.surfaces.size())
-            return surface->number;
-        const int named = findByName(material);
-        if (named >= 0)
-            return named;
-        if (m_mesh.surfaces.size() >= MostSurfaces)
-            return 0;
-        m_mesh.surfaces.push_back({pathFor(each.name), {}});
-        m_account.add(UpdateLine::New, Gltf::tr("Surface %1: '%2'")
-                                           .arg(QString::number(m_mesh.surfaces.size() - 1),
-                                                m_mesh.surfaces.back().materialPath));
-        return int(m_mesh.surfaces.size()) - 1;
-    }
-
-    /// Materials of one name get numbers behind it from other programs: the second one is the second surface.
-    int findByName(int material) const
-    {
-        static const QRegularExpression number(QStringLiteral("\\.\\d{3,}$"));
-        if (material < 0)
-            return -1;
-        const auto nameOf = [&](int index) {
-            return QString(m_scene.materials[size_t(index)].name).remove(number);
-        };
-        const QString name = nameOf(material);
-        int before = 0;
-        for (int i = 0; i < material; ++i)
-            before += nameOf(i) == name ? 1 : 0;
-        for (size_t i = 0; i < m_mesh.surfaces.size() && !name.isEmpty(); ++i) {
-            const QString &path = m_mesh.surfaces[i].materialPath;
-            if ((path == name || path.endsWith(QLatin1Char('/') + name)) && before-- == 0)
-                return int(i);
-        }
-        return -1;
-    }
-
-    /// Beside the materials of the others, in characters that a model can hold.
-    QString pathFor(const QString &name) const
-    {
-        QString usable;
-        for (const QChar each : name)
-            usable +=
-                each.isSpace() || each.unicode() < ' ' || each.unicode() > 255 ? QLatin1Char('_') : each;
-        if (usable.isEmpty() || m_mesh.surfaces.empty() || usable.contains(QLatin1Char('/')))
-            return usable.isEmpty() ? QStringLiteral("_white") : usable;
-        return m_mesh.surfaces[0].materialPath.section(QLatin1Char('/'), 0, -2) + QLatin1Char('/') + usable;
-    }
-
-    const GltfScene &m_scene;
-    Mesh &m_mesh;
-    UpdateAccount &m_account;
-    std::vector<int> m_numbers; ///< by material, the one of none first
-};
 
 /// Takes the triangles of a node's mesh over. `toModel` maps from the node's mesh to the model's space;
 /// `place` finishes a vertex, whose joint it is given.
@@ -266,10 +187,13 @@ private:
         std::vector<Rigid> toBone;
         for (const UpdateBones::Bone &bone : m_bones.bones())
             toBone.push_back(bone.rest.inverse());
+        std::vector<int> boneOfJoint;
+        for (size_t i = 0; node.skin >= 0 && i < m_scene.skins[size_t(node.skin)].joints.size(); ++i)
+            boneOfJoint.push_back(m_bones.boneOf(m_scene.skins[size_t(node.skin)].joints[i]));
         takeTriangles(m_scene, node, toModel, numbers, file, [&](SkinnedMeshVertex &vertex, int joint) {
             int bone = hangsOn;
             if (node.skin >= 0 && joint >= 0)
-                bone = m_bones.boneOf(m_scene.skins[size_t(node.skin)].joints[size_t(joint)]);
+                bone = boneOfJoint[size_t(joint)];
             m_boneless += bone < 0 ? 1 : 0;
             vertex.nodeIndex = quint16(std::max(bone, 0));
             const Rigid &local = toBone[vertex.nodeIndex];
@@ -286,6 +210,7 @@ private:
             const UpdateBones::Bone &bone = m_bones.bones()[i];
             SkinnedMeshNode node;
             node.parentNode = quint8(bone.parent);
+            node.name = bareBoneName(bone.name);
             m_mesh.nodes.push_back(node);
             m_mesh.nodes[size_t(bone.parent)].childNodes.push_back(quint16(i));
             m_account.add(UpdateLine::New,
@@ -420,6 +345,8 @@ bool updateModel(const GltfScene &scene, SkinnedMesh &mesh, AnimFile &anim, Upda
             reason = clips.error();
             return true;
         }
+        for (auto it = clips.names().cbegin(); it != clips.names().cend(); ++it)
+            mesh.animationNames.insert(it.key(), it.value());
     } else if (!scene.animations.empty()) {
         account.add(UpdateLine::Note, Gltf::tr("Animations, left out since none of the model's is open: %1")
                                           .arg(scene.animations.size()));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "UpdateBones.h"
 
+#include "ExportNames.h"
 #include "GltfExtras.h"
 #include "GltfPose.h"
 #include "GltfSkeleton.h"
@@ -10,6 +11,7 @@
 #include "Transform.h"
 
 #include <QRegularExpression>
+#include <QSet>
 
 #include <algorithm>
 #include <utility>
@@ -24,13 +26,6 @@ QMatrix4x4 matrixOf(const Rigid &rigid)
     matrix.translate(rigid.position());
     matrix.rotate(rigid.turn());
     return matrix;
-}
-
-/// What other programs call the copy of a thing.
-bool isCopyName(const QString &name)
-{
-    static const QRegularExpression copy(QStringLiteral("\\.\\d{3,}$"));
-    return copy.match(name).hasMatch();
 }
 
 double distance(const QMatrix4x4 &matrix, const Rigid &rigid)
@@ -230,6 +225,16 @@ bool UpdateBones::placeBones()
 std::vector<bool> UpdateBones::carriers() const
 {
     std::vector<bool> carries(m_scene.nodes.size(), false);
+    // Many nodes may show a mesh, which is looked through once.
+    std::vector<std::vector<int>> jointsOfMesh(m_scene.meshes.size());
+    for (size_t i = 0; i < jointsOfMesh.size(); ++i) {
+        std::vector<int> &joints = jointsOfMesh[i];
+        for (const GltfScene::Primitive &primitive : m_scene.meshes[i])
+            joints.insert(joints.end(), primitive.joints.begin(), primitive.joints.end());
+        std::sort(joints.begin(), joints.end());
+        joints.erase(std::unique(joints.begin(), joints.end()), joints.end());
+    }
+    QSet<QPair<int, int>> seen; // meshes with skins
     for (const int index : m_scene.order) {
         const GltfScene::Node &node = m_scene.nodes[size_t(index)];
         if (node.mesh < 0)
@@ -238,12 +243,13 @@ std::vector<bool> UpdateBones::carriers() const
             carries[size_t(index)] = true;
             continue;
         }
+        if (seen.contains({node.mesh, node.skin}))
+            continue;
+        seen.insert({node.mesh, node.skin});
         const GltfScene::Skin &skin = m_scene.skins[size_t(node.skin)];
-        for (const GltfScene::Primitive &primitive : m_scene.meshes[size_t(node.mesh)]) {
-            for (const int joint : primitive.joints) {
-                if (joint >= 0)
-                    carries[size_t(skin.joints[size_t(joint)])] = true;
-            }
+        for (const int joint : jointsOfMesh[size_t(node.mesh)]) {
+            if (joint >= 0)
+                carries[size_t(skin.joints[size_t(joint)])] = true;
         }
     }
     for (auto node = m_scene.order.rbegin(); node != m_scene.order.rend(); ++node) {

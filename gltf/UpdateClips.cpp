@@ -3,20 +3,22 @@
 #include "UpdateClips.h"
 
 #include "BlockTracks.h"
+#include "ExportNames.h"
 #include "FrameChoice.h"
 #include "GltfText.h"
 #include "Polar.h"
 
-#include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <limits>
 
 namespace {
 // More than the longest files have; a clip of a few keys may say that it takes a year.
 constexpr int MostFrames = 100000;
+constexpr qint64 MostPoses = 50'000'000; ///< of nodes, in all frames
 constexpr float LeastRate = 10.0f;
 constexpr float GreatestRate = 60.0f;
 constexpr float UsualRate = 30.0f;
@@ -28,14 +30,6 @@ float rateOf(const AnimBlock &block)
 {
     const float rate = playRate(block.speed);
     return std::isfinite(rate) ? rate : UsualRate;
-}
-
-/// The number in brackets of a clip's name.
-std::optional<qint32> idInName(const QString &name)
-{
-    static const QRegularExpression pattern(QStringLiteral("\\[(-?\\d{1,9})\\]"));
-    const QRegularExpressionMatch match = pattern.match(name);
-    return match.hasMatch() ? std::optional(match.captured(1).toInt()) : std::nullopt;
 }
 } // namespace
 
@@ -50,7 +44,8 @@ UpdateClips::UpdateClips(const GltfScene &scene, const UpdateBones &bones,
     , m_pose(scene)
     , m_clipOfBlock(anim.blocks.size(), -1)
     , m_isMatched(scene.animations.size(), false)
-    , m_framesLeft(MostFrames)
+    , m_mostFrames(int(std::min<qint64>(MostFrames, MostPoses / qint64(scene.nodes.size() + 1))))
+    , m_framesLeft(m_mostFrames)
 {
     std::vector<bool> isOrdered(bones.bones().size(), false);
     for (size_t start = 0; start < isOrdered.size(); ++start) {
@@ -105,8 +100,7 @@ bool UpdateClips::run()
     return false;
 }
 
-// --- Which clip is which block
-// ------------------------------------------------------------------------------
+// --- Which clip is which block -----------------------------------------------------------------------------
 
 /// Where the block is that had a number at the export: the same one, unless its id has gone elsewhere.
 int UpdateClips::blockNow(int number) const
@@ -147,7 +141,7 @@ int UpdateClips::blockNamed(const QString &name) const
             bestLength = block.clip.size();
         }
     }
-    const std::optional<qint32> id = idInName(name);
+    const std::optional<qint32> id = bracketedId(name);
     for (size_t i = 0; best < 0 && id && i < m_anim.blocks.size(); ++i) {
         if (m_anim.blocks[i].animId == id && m_clipOfBlock[i] < 0)
             best = int(i);
@@ -182,8 +176,7 @@ void UpdateClips::matchClips()
     }
 }
 
-// --- The pose that nothing moves
-// ----------------------------------------------------------------------------
+// --- The pose that nothing moves ---------------------------------------------------------------------------
 
 void UpdateClips::addBones()
 {
@@ -215,8 +208,7 @@ void UpdateClips::moveInitialPoses()
     }
 }
 
-// --- Times and poses
-// ----------------------------------------------------------------------------------------
+// --- Times and poses ---------------------------------------------------------------------------------------
 
 UpdateClips::Timing UpdateClips::timingOf(const GltfScene::Animation &animation) const
 {
@@ -239,9 +231,11 @@ UpdateClips::Timing UpdateClips::timingOf(const GltfScene::Animation &animation)
     timing.keys.erase(std::unique(timing.keys.begin(), timing.keys.end(), isSame), timing.keys.end());
     if (timing.keys.empty())
         timing.keys.push_back(0.0f);
-    // A program that leaves the first frame out begins one late; whoever moves a clip moves it further.
-    timing.start =
-        timing.keys.front() > 2.5f * std::max(timing.gap, 1.0f / UsualRate) ? timing.keys.front() : 0.0f;
+    // A program that leaves the first frame out begins one late; whoever moves a clip moves it further, or to
+    // before the beginning.
+    const bool isMoved =
+        timing.keys.front() < 0.0f || timing.keys.front() > 2.5f * std::max(timing.gap, 1.0f / UsualRate);
+    timing.start = isMoved ? timing.keys.front() : 0.0f;
     timing.first = timing.keys.front() - timing.start;
     timing.last = timing.keys.back() - timing.start;
     return timing;
@@ -288,12 +282,11 @@ bool UpdateClips::spendFrames(int count)
 {
     m_framesLeft -= count;
     if (m_framesLeft < 0)
-        m_error = Gltf::tr("The animations have more than %1 frames.").arg(MostFrames);
+        m_error = Gltf::tr("The animations have more than %1 frames.").arg(m_mostFrames);
     return m_framesLeft < 0;
 }
 
-// --- Blocks
-// -------------------------------------------------------------------------------------------------
+// --- Blocks ------------------------------------------------------------------------------------------------
 
 bool UpdateClips::updateBlock(size_t number, const GltfScene::Animation &animation)
 {
@@ -302,8 +295,10 @@ bool UpdateClips::updateBlock(size_t number, const GltfScene::Animation &animati
     const Timing timing = timingOf(animation);
     const int oldCount = block.frameCount();
     const float oldEnd = float(std::max(0, oldCount - 1)) / rate;
-    if (timing.last * rate > float(MostFrames))
-        return spendFrames(MostFrames + 1);
+    if (timing.last * rate > float(m_mostFrames))
+        return spendFrames(m_mostFrames + 1);
+    if (spendFrames(int(timing.keys.size())))
+        return true;
 
     // A program that samples at a rate of its own ends at its last sample before the end.
     const float lasting = float(std::lround(timing.last * rate)) + 1.0f;
@@ -314,7 +309,7 @@ bool UpdateClips::updateBlock(size_t number, const GltfScene::Animation &animati
     BlockTracks tracks(block, KeyTolerance(m_bones.size()));
     if (oldCount < 2 && timing.last > 0.0f && !tracks.holdsStill(atKeys.locals))
         count = int(lasting);
-    if (spendFrames(count + int(timing.keys.size())))
+    if (spendFrames(count))
         return true;
 
     std::vector<float> times;
@@ -346,6 +341,11 @@ bool UpdateClips::updateBlock(size_t number, const GltfScene::Animation &animati
     m_account.add(UpdateLine::Changed,
                   Gltf::tr("Animation %1 '%2': %3")
                       .arg(QString::number(number), animation.name, what.join(QStringLiteral(", "))));
+    const QStringList beyond = count < oldCount ? beyondEnd(block) : QStringList();
+    if (!beyond.isEmpty())
+        m_account.add(UpdateLine::Note,
+                      Gltf::tr("Animation %1 '%2' ends before what it has: %3")
+                          .arg(QString::number(number), animation.name, beyond.join(QStringLiteral(", "))));
     return false;
 }
 
@@ -356,20 +356,19 @@ bool UpdateClips::addBlock(const GltfScene::Animation &animation)
     const float own = timing.gap > 0.0f ? std::round(1.0f / timing.gap) : 0.0f;
     AnimBlock block;
     block.speed = own >= LeastRate && own <= GreatestRate ? own : UsualRate;
-    if (animation.channels.empty() || length * block.speed > float(MostFrames))
-        return animation.channels.empty() ? false : spendFrames(MostFrames + 1);
+    if (animation.channels.empty() || length * block.speed > float(m_mostFrames))
+        return animation.channels.empty() ? false : spendFrames(m_mostFrames + 1);
     const int count = int(std::lround(length * block.speed)) + 1;
     if (spendFrames(count))
         return true;
 
-    // The number of its name, else the next one that is free.
+    // The number of its name, which a copy has as well, else the next one that is free.
     QSet<qint32> taken;
     for (const AnimBlock &each : m_anim.blocks)
         taken.insert(each.animId);
-    const std::optional<qint32> id = idInName(animation.name);
-    block.animId = id.value_or(0);
-    while (!id && taken.contains(block.animId))
-        ++block.animId;
+    block.animId = bracketedId(animation.name).value_or(0);
+    while (taken.contains(block.animId))
+        block.animId = block.animId == std::numeric_limits<qint32>::max() ? 0 : block.animId + 1;
     std::transform(m_restLocals.begin(), m_restLocals.end(), std::back_inserter(block.nodes), initialNode);
     block.setFrameCount(count);
     block.blendLength = 5;
@@ -393,6 +392,9 @@ bool UpdateClips::addBlock(const GltfScene::Animation &animation)
     m_account.add(UpdateLine::New,
                   Gltf::tr("Animation %1 '%2': %3 frames")
                       .arg(QString::number(m_anim.blocks.size()), animation.name, QString::number(count)));
+    const QString name = bareClipName(animation.name);
+    if (!name.isEmpty())
+        m_names.insert(block.animId, name);
     m_anim.blocks.push_back(std::move(block));
     return false;
 }

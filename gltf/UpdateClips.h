@@ -19,6 +19,8 @@ public:
     /// Returns true on failure, which error() explains.
     [[nodiscard]] bool run();
     const QString &error() const { return m_error; }
+    /// What the new animations are called, by id; only those that have a name.
+    const QHash<qint32, QString> &names() const { return m_names; }
 
 private:
     /// The times of a clip, and how far it reaches, in seconds from the beginning of its block.
@@ -63,6 +65,8 @@ private:
     std::vector<int> m_clipOfBlock;  ///< animations of the file, -1: none
     std::vector<bool> m_isMatched;   ///< animations of the file
     int m_scaledBones = 0;           ///< that a clip scales
+    const int m_mostFrames;          ///< of all clips, keys as well
     int m_framesLeft;
+    QHash<qint32, QString> m_names; ///< of new blocks
     QString m_error;
 };

@@ -2021,6 +2021,26 @@ Ohne diese Eingabe fortfahren?</translation>
         <source>Animation %1 &apos;%2&apos;: %3 frames</source>
         <translation>Animation %1 „%2“: %3 Frames</translation>
     </message>
+    <message>
+        <source>loop frame %1</source>
+        <translation>Schleifen-Frame %1</translation>
+    </message>
+    <message>
+        <source>blend end %1</source>
+        <translation>Überblendende %1</translation>
+    </message>
+    <message>
+        <source>actions: %1</source>
+        <translation>Aktionen: %1</translation>
+    </message>
+    <message>
+        <source>The files that belong to it are too large.</source>
+        <translation>Die Dateien, die dazugehören, sind zu groß.</translation>
+    </message>
+    <message>
+        <source>Animation %1 &apos;%2&apos; ends before what it has: %3</source>
+        <translation>Animation %1 „%2“ endet vor dem, was sie hat: %3</translation>
+    </message>
 </context>
 <context>
     <name>HistoryView</name>

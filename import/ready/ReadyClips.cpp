@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "ReadyClips.h"
 
+#include "ExportNames.h"
 #include "Transform.h"
 
 #include <QCoreApplication>
-#include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
@@ -29,16 +29,6 @@ constexpr double LoopTolerance = 0.01;
 constexpr double PlaceTolerance = 2e-6;
 constexpr double TurnTolerance = 2e-6;
 constexpr double StretchTolerance = 0.005; // of a bone's size: what nobody sees
-
-/// The number in the first pair of brackets that holds digits only: "walk [12]" is 12. None for one that does
-/// not fit.
-std::optional<qint32> bracketedId(const QString &name)
-{
-    static const QRegularExpression pattern(QStringLiteral("\\[(\\d+)\\]"));
-    bool fits = false;
-    const qint32 id = pattern.match(name).captured(1).toInt(&fits);
-    return fits ? std::optional(id) : std::nullopt;
-}
 
 double greatestSide(const Box &box)
 {
@@ -265,8 +255,9 @@ void ReadyClips::addBlocks(const ReadySkeleton &skeleton, const SkeletonPose &re
         if (taken.frames == 0)
             continue;
         file.blocks.push_back(makeBlock(taken, skeleton, rest, mesh, isStretched));
-        if (!taken.name.isEmpty())
-            names.animations.insert(taken.id, taken.name);
+        const QString name = bareClipName(taken.name);
+        if (!name.isEmpty())
+            names.animations.insert(taken.id, name);
     }
     const auto stretched = std::count(isStretched.begin(), isStretched.end(), true);
     if (stretched > 0)

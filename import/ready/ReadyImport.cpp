@@ -3,6 +3,7 @@
 #include "ReadyImport.h"
 
 #include "BoneSymbolGuess.h"
+#include "ExportNames.h"
 #include "GltfWeights.h"
 #include "NameTables.h"
 #include "ReadyClips.h"
@@ -130,7 +131,7 @@ void addBones(const SceneSource &source, const SceneNodes &nodes, const ReadySke
             bone.parentNode = quint8(skeleton.parent(b));
             mesh.nodes[size_t(skeleton.parent(b))].childNodes.push_back(quint16(b));
         }
-        const QString name = text(nodes[skeleton.node(b)].source->mName).simplified();
+        const QString name = bareBoneName(text(nodes[skeleton.node(b)].source->mName));
         if (name.isEmpty())
             continue;
         names.bones.insert(b, name);

@@ -128,6 +128,7 @@ void work(const WorkerJob &job, const WorkerFolder &folder, WorkerAnswer &answer
         failed = skinned.read(folder.skinnedMesh()) ||
                  (QFileInfo::exists(folder.anim()) && anim.read(folder.anim()));
         failed = update(failed, job, folder, answer, messages, skinned, anim);
+        answer.names = ModelNames::of(skinned);
         break;
     case WorkerJob::Task::UpdateStaticMesh:
         failed = update(rigid.read(folder.staticMesh()), job, folder, answer, messages, rigid);

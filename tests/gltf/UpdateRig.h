@@ -7,7 +7,10 @@
 #include "Playback.h"
 #include "PosedMesh.h"
 #include "StaticMesh.h"
+#include "UpdateAccount.h"
 #include "UpdateBones.h"
+
+#include <functional>
 
 /// Hip, spine and arm, each with two triangles; of the clips one walks and turns, the other one nods. All
 /// numbers are such as rigs have.
@@ -72,6 +75,43 @@ inline AnimFile clips()
     return anim;
 }
 
+inline int nodeNamed(const GltfScene &scene, const QString &name)
+{
+    for (size_t i = 0; i < scene.nodes.size(); ++i) {
+        if (scene.nodes[i].name == name)
+            return int(i);
+    }
+    return -1;
+}
+
+/// What is left of a line's kind and text, to be looked for.
+inline QStringList told(const UpdateAccount &account)
+{
+    static const char *const kinds[] = {"changed ", "new ", "missing ", "note "};
+    QStringList lines;
+    for (const UpdateLine &line : account.lines)
+        lines += QLatin1String(kinds[line.kind]) + line.text;
+    return lines;
+}
+
+inline void setKeys(GltfScene::Channel &channel, const std::function<void(std::vector<float> &)> &change)
+{
+    std::vector<float> values = *channel.values;
+    change(values);
+    channel.values = std::make_shared<const std::vector<float>>(values);
+}
+
+/// Plays a clip `factor` times as long, and later by `shift` seconds.
+inline void setTimes(GltfScene::Animation &clip, float factor, float shift)
+{
+    for (GltfScene::Channel &channel : clip.channels) {
+        std::vector<float> times = *channel.times;
+        for (float &time : times)
+            time = factor * time + shift;
+        channel.times = std::make_shared<const std::vector<float>>(times);
+    }
+}
+
 /// How far any vertex of a clip, skinned by the book, is from the nearest one of the model in its block.
 inline float distance(const GltfScene &scene, size_t clip, const SkinnedMesh &mesh, const AnimFile &anim,
                       int block)
@@ -84,10 +124,13 @@ inline float distance(const GltfScene &scene, size_t clip, const SkinnedMesh &me
     state.blockIndex = block;
     state.playState = PlayState::Paused;
     float worst = 0.0f;
+    float start = 0.0f;
+    for (const GltfScene::Channel &channel : scene.animations[clip].channels)
+        start = std::min(start, channel.times->front());
     for (int frame = 0; frame < anim.blocks[size_t(block)].frameCount(); ++frame) {
         state.time = float(frame) / anim.blocks[size_t(block)].speed;
         const StaticMesh shown = posedMesh(mesh, state);
-        const std::vector<QMatrix4x4> &worlds = pose.at(state.time);
+        const std::vector<QMatrix4x4> &worlds = pose.at(start + state.time);
         for (const GltfScene::Node &node : scene.nodes) {
             if (node.mesh < 0 || node.skin < 0)
                 continue;

@@ -34,32 +34,6 @@ GltfScene read(const QByteArray &glb)
         qFatal("%s", qPrintable(reason));
     return scene;
 }
-
-int nodeNamed(const GltfScene &scene, const QString &name)
-{
-    for (size_t i = 0; i < scene.nodes.size(); ++i) {
-        if (scene.nodes[i].name == name)
-            return int(i);
-    }
-    return -1;
-}
-
-/// What is left of a line's kind and text, to be looked for.
-QStringList told(const UpdateAccount &account)
-{
-    static const char *const kinds[] = {"changed ", "new ", "missing ", "note "};
-    QStringList lines;
-    for (const UpdateLine &line : account.lines)
-        lines += QLatin1String(kinds[line.kind]) + line.text;
-    return lines;
-}
-
-void setKeys(GltfScene::Channel &channel, const std::function<void(std::vector<float> &)> &change)
-{
-    std::vector<float> values = *channel.values;
-    change(values);
-    channel.values = std::make_shared<const std::vector<float>>(values);
-}
 } // namespace
 
 class tst_ModelUpdate : public QObject
@@ -296,11 +270,42 @@ void tst_ModelUpdate::edits_data()
         },
         {"new Bone 3 'tail' on bone 1", "note Bones without vertices, left out: handle"}, false,
         [](const SkinnedMesh &mesh, const AnimFile &anim) {
-            return mesh.nodes.size() == 4 && mesh.nodes[3].parentNode == 1 &&
+            return mesh.nodes.size() == 4 && mesh.nodes[3].parentNode == 1 && mesh.nodes[3].name == "tail" &&
                    mesh.nodes[1].childNodes == std::vector<quint16>({2, 3}) &&
                    mesh.vertices[4].nodeIndex == 3 && anim.blocks[0].nodes.size() == 4 &&
                    anim.blocks[0].nodes[3].rotationIndex == 0xFFFF &&
                    qAbs(anim.blocks[0].nodes[3].initialPosition.length() - std::sqrt(14.0f)) < 1.0e-3f;
+        });
+    row(
+        "clips begin before the beginning",
+        [](GltfScene &scene) {
+            setTimes(scene.animations[0], 1.0f, -3.5f);
+            setTimes(scene.animations[1], 1.0f, -0.1f);
+        },
+        {}, true, [](const SkinnedMesh &, const AnimFile &) { return true; });
+    row(
+        "a clip ends early", [](GltfScene &scene) { setTimes(scene.animations[1], 0.125f, 0.0f); },
+        {"changed Animation 1 '[40]_Armature': 2 frames, not 9",
+         "note Animation 1 '[40]_Armature' ends before what it has: loop frame 3, actions: 1"},
+        false,
+        [](const SkinnedMesh &, const AnimFile &anim) {
+            return anim.blocks[1].loopFrame == 3 && anim.blocks[1].actions.size() == 1;
+        });
+    row(
+        "copies come",
+        [](GltfScene &scene) {
+            // The copy of the second material stands before it.
+            scene.materials.push_back(scene.materials[1]);
+            scene.materials[1].name += ".001";
+            scene.meshes[0].push_back(scene.meshes[0][1]);
+            scene.meshes[0][1].material = int(scene.materials.size()) - 1;
+            scene.animations.push_back(scene.animations[1]);
+            scene.animations.back().name = "walk [40].001";
+        },
+        {"new Surface 2: 'materials/mat_rig/cloth.001'", "new Animation 2 'walk [40].001'"}, false,
+        [=](const SkinnedMesh &mesh, const AnimFile &anim) {
+            return sameTriangles(mesh) && mesh.surfaces[2].triangleIndexes.size() == 6 &&
+                   anim.blocks[2].animId == 41 && mesh.animationNames.value(41) == "walk.001";
         });
     row(
         "the hot point moves",
@@ -355,14 +360,8 @@ void tst_ModelUpdate::clipsComeAndGo()
     // The second one is gone; a copy of the first one, faster, has come; the first one is longer by a frame.
     scene.animations[1] = scene.animations[0];
     scene.animations[1].name = QStringLiteral("dance");
-    for (size_t clip = 0; clip < 2; ++clip) {
-        for (GltfScene::Channel &channel : scene.animations[clip].channels) {
-            std::vector<float> times = *channel.times;
-            for (float &time : times)
-                time *= clip == 0 ? 9.0f / 8.0f : 0.5f;
-            channel.times = std::make_shared<const std::vector<float>>(times);
-        }
-    }
+    setTimes(scene.animations[0], 9.0f / 8.0f, 0.0f);
+    setTimes(scene.animations[1], 0.5f, 0.0f);
     SkinnedMesh mesh = rig();
     AnimFile anim = clips();
     UpdateAccount account;
@@ -411,6 +410,15 @@ void tst_ModelUpdate::openModelHasChanged()
     QVERIFY(!updateModel(scene, mesh, anim, account, reason));
     QVERIFY2(bytesOf(mesh) + bytesOf(anim) == before, qPrintable(told(account).join('\n')));
     QVERIFY(account.missingBlocks.isEmpty());
+
+    // A new surface beside one that lies in no folder.
+    GltfScene more = scene;
+    more.materials.push_back({"leather", {}});
+    more.meshes[0].push_back(more.meshes[0][1]);
+    more.meshes[0].back().material = int(more.materials.size()) - 1;
+    mesh.surfaces[0].materialPath = "_white";
+    QVERIFY(!updateModel(more, mesh, anim, account, reason));
+    QCOMPARE(mesh.surfaces.at(2).materialPath, QString("leather"));
 }
 
 void tst_ModelUpdate::numbersThatAreNone()
@@ -459,6 +467,8 @@ void tst_ModelUpdate::refusals()
         setKeys(channel, [&](std::vector<float> &values) { values.resize(values.size() / 9 * 2); });
     }
     QVERIFY(refused(scene, "more than 100000 frames"));
+    scene.nodes.resize(scene.nodes.size() + 20000);
+    QVERIFY(refused(scene, "frames") && !refused(scene, "100000"));
     scene = good;
     scene.meshes[0].resize(1);
     scene.meshes[0][0].positions.resize(2000000);

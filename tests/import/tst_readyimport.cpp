@@ -319,7 +319,7 @@ private slots:
         for (const AnimBlock &block : m_anim.blocks)
             ids += block.animId;
         QCOMPARE(ids, (QList<int>{1, 3, 2, 4, 5, 0}));
-        QCOMPARE(m_names.animations.value(3), QStringLiteral("walk [3]"));
+        QCOMPARE(m_names.animations.value(3), QStringLiteral("walk"));
         QVERIFY(m_anim.refusal().isEmpty() && m_mesh.refusal().isEmpty());
 
         m_choices.allClips = false;

@@ -296,7 +296,7 @@ private slots:
         QCOMPARE(anim.blocks[1].frameCount(), 11);
         QCOMPARE(anim.blocks[1].animId, 7);
         QCOMPARE(names.bones.value(1), QString("arm"));
-        QCOMPARE(names.animations.value(7), QString("walk [7]"));
+        QCOMPARE(names.animations.value(7), QString("walk"));
         QVERIFY((mesh.bbMax - mesh.bbMin).length() > 100.0f);
     }
 

@@ -205,6 +205,8 @@ int importModel(const QStringList &arguments)
     addOptions(line);
     if (const auto end = line.parse(arguments, false))
         return *end;
+    if (const auto end = checkUpdateOptions(line))
+        return *end;
     const auto timeLimit = line.integer(QStringLiteral("time-limit"), 1, LongestTime);
     if (!timeLimit)
         return WrongUsage;

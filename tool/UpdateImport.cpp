@@ -59,6 +59,21 @@ void addUpdateOptions(CommandLine &line)
               QStringLiteral("With --update, remove the animations that the file does not have any more."));
 }
 
+std::optional<int> checkUpdateOptions(const CommandLine &line)
+{
+    const bool isUpdate = line.isSet(QStringLiteral("update"));
+    if (!isUpdate && (line.isSet(QStringLiteral("anim")) || line.isSet(QStringLiteral("drop-missing"))))
+        return line.refuse(QStringLiteral("--anim and --drop-missing need --update."));
+    for (const char *option :
+         {"static", "keep-materials", "no-normals", "flip-uv", "flip-winding", "no-rotate", "ready", "scale",
+          "rate", "clips", "mod-path", "create-kmat", "copy-textures", "kmat", "texture-folder"}) {
+        if (isUpdate && line.isSet(QLatin1String(option)))
+            return line.refuse(
+                QStringLiteral("--%1 means nothing with --update.").arg(QLatin1String(option)));
+    }
+    return {};
+}
+
 int updateFromFile(const CommandLine &line, int timeLimit)
 {
     const QString meshFile = line.value(QStringLiteral("update"));

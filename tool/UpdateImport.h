@@ -2,9 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
+
 class CommandLine;
 
 /// The options of `import` that bring a file back over the model that it was exported from.
 void addUpdateOptions(CommandLine &line);
+/// Refuses what of the other options means nothing with them, and them without `--update`; gives the exit
+/// code then.
+[[nodiscard]] std::optional<int> checkUpdateOptions(const CommandLine &line);
 /// Does that, for the operand of a line that has `--update`. Returns the exit code.
 int updateFromFile(const CommandLine &line, int timeLimit);

@@ -329,6 +329,12 @@ private slots:
         const ToolRun refused("import --update", more);
         QCOMPARE(refused.exitCode, 1);
         QVERIFY(refused.err.contains("tinker.anim: The file exists already"));
+        const ToolRun turned("import --force --flip-uv --update", more);
+        QCOMPARE(turned.exitCode, 2);
+        QVERIFY2(turned.err.contains("--flip-uv means nothing with --update"), qUtf8Printable(turned.err));
+        const ToolRun alone("import --force --drop-missing", more.mid(1));
+        QCOMPARE(alone.exitCode, 2);
+        QVERIFY2(alone.err.contains("need --update"), qUtf8Printable(alone.err));
 
         // One animation alone says nothing of the others; a model of another name is told of.
         QCOMPARE(ToolRun("export --gltf --force --block 1", {mesh, "-o", path("tinker.glb")}).exitCode, 0);

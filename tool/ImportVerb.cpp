@@ -10,7 +10,6 @@
 #include "Settings.h"
 #include "UpdateImport.h"
 #include "Verbs.h"
-#include "WholeFile.h"
 #include "WorkerRun.h"
 
 #include <QDir>
@@ -134,18 +133,6 @@ bool write(const Model &model, const QString &path)
     return true;
 }
 
-/// Returns true on failure.
-bool writeNames(const Results &results)
-{
-    const QString reason = writeWholeFile(results.namesFile(), results.names.toJson());
-    if (reason.isEmpty()) {
-        Output::line(results.namesFile());
-        return false;
-    }
-    Output::complain(QStringLiteral("%1: The file cannot be written: %2").arg(results.namesFile(), reason));
-    return true;
-}
-
 /// What may be replaced.
 struct Replacing
 {
@@ -181,7 +168,7 @@ bool finish(const ImportWorker &worker, const ImportChoices &choices, Results &r
         if (!results.anim.blocks.empty())
             failed = write(results.anim, results.target + QStringLiteral(".anim")) || failed;
         if (!results.names.isEmpty())
-            failed = writeNames(results) || failed;
+            failed = writeNames(results.names, results.namesFile()) || failed;
     }
     Output::tell(messages);
     for (const QString &text : outcome.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {

@@ -8,6 +8,7 @@
 #include "ReplacedFiles.h"
 #include "Settings.h"
 #include "Verbs.h"
+#include "WholeFile.h"
 #include "WorkerRun.h"
 
 #include <QDir>
@@ -43,7 +44,35 @@ bool writeUpdated(const Model &model, const QString &path)
     Output::complain(QStringLiteral("%1: The file cannot be written: %2").arg(path, reason));
     return true;
 }
+
+/// Adds what the model is called already, which `added` stands beside. Returns true on failure.
+bool addOwnNames(ModelNames &added, const QString &meshPath)
+{
+    ModelNames names;
+    QString reason;
+    if (names.read(ModelNames::pathFor(meshPath), &reason)) {
+        Output::complain(reason);
+        return true;
+    }
+    for (auto it = added.bones.cbegin(); it != added.bones.cend(); ++it)
+        names.bones.insert(it.key(), it.value());
+    for (auto it = added.animations.cbegin(); it != added.animations.cend(); ++it)
+        names.animations.insert(it.key(), it.value());
+    added = names;
+    return false;
+}
 } // namespace
+
+bool writeNames(const ModelNames &names, const QString &path)
+{
+    const QString reason = writeWholeFile(path, names.toJson());
+    if (reason.isEmpty()) {
+        Output::line(path);
+        return false;
+    }
+    Output::complain(QStringLiteral("%1: The file cannot be written: %2").arg(path, reason));
+    return true;
+}
 
 void addUpdateOptions(CommandLine &line)
 {
@@ -128,6 +157,14 @@ int updateFromFile(const CommandLine &line, int timeLimit)
         Output::line(lineText(each));
     if (model.rigid())
         return writeUpdated(rigid, targets[0]) ? Failed : Fine;
-    const bool failed = writeUpdated(skinned, targets[0]);
+    ModelNames names = worker.names();
+    const QString namesFile = names.isEmpty() ? QString() : ModelNames::pathFor(targets[0]);
+    if (!namesFile.isEmpty() && !line.isSet(QStringLiteral("force")) && isTaken(namesFile) &&
+        Output::refuseToReplace({namesFile}))
+        return Failed;
+    bool failed = !namesFile.isEmpty() && addOwnNames(names, model.meshPath);
+    if (!namesFile.isEmpty() && !failed)
+        failed = writeNames(names, namesFile);
+    failed = writeUpdated(skinned, targets[0]) || failed;
     return (model.animFile() && writeUpdated(anim, targets[1])) || failed ? Failed : Fine;
 }

@@ -5,9 +5,13 @@
 #include <optional>
 
 class CommandLine;
+struct ModelNames;
+class QString;
 
 /// The options of `import` that bring a file back over the model that it was exported from.
 void addUpdateOptions(CommandLine &line);
+/// Writes the file of a model's names and says which. Returns true on failure.
+[[nodiscard]] bool writeNames(const ModelNames &names, const QString &path);
 /// Refuses what of the other options means nothing with them, and them without `--update`; gives the exit
 /// code then.
 [[nodiscard]] std::optional<int> checkUpdateOptions(const CommandLine &line);

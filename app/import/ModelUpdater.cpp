@@ -5,6 +5,7 @@
 #include "AnimCommands.h"
 #include "ImportRun.h"
 #include "Log.h"
+#include "ModelNames.h"
 #include "ModelUpdate.h"
 #include "ModelUpdateDialog.h"
 #include "SkinnedMeshCommands.h"
@@ -22,6 +23,21 @@
 
 namespace {
 constexpr int Unnoticed = 500; ///< milliseconds that nobody is told of
+
+/// Those of the open model, which the worker knows nothing of, and those of what is new.
+ModelNames updatedNames(const SkinnedMesh &open, const ModelNames &made)
+{
+    ModelNames names = ModelNames::of(open);
+    for (auto it = made.bones.constBegin(); it != made.bones.constEnd(); ++it) {
+        if (it.key() >= int(open.nodes.size()))
+            names.bones.insert(it.key(), it.value());
+    }
+    for (auto it = made.animations.constBegin(); it != made.animations.constEnd(); ++it) {
+        if (!names.animations.contains(it.key()))
+            names.animations.insert(it.key(), it.value());
+    }
+    return names;
+}
 } // namespace
 
 ModelUpdater::ModelUpdater(SkinnedMeshDocument &skinnedMesh, AnimDocument &anim,
@@ -138,7 +154,9 @@ bool ModelUpdater::update(const ImportWorker &worker, DocumentType type, const U
         return true;
     if (dropsMissing)
         account.dropMissing(anim);
-    if (account.changesMesh)
+    const ModelNames names = updatedNames(m_skinnedMesh.model(), worker.names());
+    names.giveTo(mesh);
+    if (account.changesMesh || !(ModelNames::of(m_skinnedMesh.model()) == names))
         m_skinnedMesh.undoStack()->push(new UC_SkinnedMeshUpdate(m_skinnedMesh.editTarget(), mesh, source));
     if (account.changesAnim || dropsMissing)
         m_anim.undoStack()->push(new UC_AnimUpdate(m_anim.editTarget(), anim, source));

@@ -131,6 +131,8 @@ private slots:
         const QString glb =
             m_files->put("man.glb", exportGltf(edited, &moved, {0, 1}, source, messages).glb());
 
+        const QByteArray names = R"({"bones": {"1": "head"}, "animations": {"7": "walk"}})";
+        m_files->put("man.names.json", names);
         ShownWindow window(
             {m_files->save("man.skinnedmesh", triangleMan()), m_files->save("man.anim", original)});
         typeParent(window, 0); // unsaved work, which an update does not touch
@@ -170,6 +172,7 @@ private slots:
         QCOMPARE(undo->text(), QStringLiteral("&Undo Update from man.glb"));
         QCOMPARE(tree->selectedRecords(RecordKind::Bone), selected);
         QVERIFY((savedPlace() - QVector3D(-100, 0, 50)).length() < 1.0e-3f);
+        QCOMPARE(TestSupport::readFile(m_files->path("man.names.json")), names); // as they were
         trigger(window, "actionUndo");
         QCOMPARE(tree->selectedRecords(RecordKind::Bone), selected);
         QVERIFY((savedPlace() - QVector3D(-100, 0, 0)).length() < 1.0e-3f);

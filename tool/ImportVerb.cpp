@@ -98,10 +98,13 @@ struct Results
     ModelNames names;
     QString target; ///< without the extension
 
-    /// The file of the names; empty when there are none.
+    /// The file of the names; empty when there are none, neither of this model nor of one that was there.
     QString namesFile() const
     {
-        return names.isEmpty() ? QString() : ModelNames::pathFor(target + QStringLiteral(".skinnedmesh"));
+        const QString path = ModelNames::pathFor(target + QStringLiteral(".skinnedmesh"));
+        ModelNames there;
+        const bool isStale = !there.read(path) && !there.isEmpty();
+        return names.isEmpty() && !isStale ? QString() : path;
     }
 };
 
@@ -112,7 +115,7 @@ QStringList replacedModels(const Results &results, bool isStatic)
                       (isStatic ? QStringLiteral(".staticmesh") : QStringLiteral(".skinnedmesh"))};
     if (!results.anim.blocks.empty())
         files += results.target + QStringLiteral(".anim");
-    if (!results.namesFile().isEmpty())
+    if (!isStatic && !results.namesFile().isEmpty())
         files += results.namesFile();
     files.erase(
         std::remove_if(files.begin(), files.end(), [](const QString &file) { return !isTaken(file); }),
@@ -167,7 +170,7 @@ bool finish(const ImportWorker &worker, const ImportChoices &choices, Results &r
         failed = write(results.skinned, results.target + QStringLiteral(".skinnedmesh"));
         if (!results.anim.blocks.empty())
             failed = write(results.anim, results.target + QStringLiteral(".anim")) || failed;
-        if (!results.names.isEmpty())
+        if (!results.namesFile().isEmpty())
             failed = writeNames(results.names, results.namesFile()) || failed;
     }
     Output::tell(messages);

@@ -27,8 +27,10 @@ void NamesFile::note(const QString &modelPath)
 bool NamesFile::isWritten(const QString &modelPath, const SkinnedMesh &mesh) const
 {
     const ModelNames names = ModelNames::of(mesh);
-    if (modelPath != m_modelPath)
-        return !names.isEmpty();
+    if (modelPath != m_modelPath) {
+        ModelNames there; // of the model that was at this place
+        return !names.isEmpty() || (!there.read(ModelNames::pathFor(modelPath)) && !there.isEmpty());
+    }
     ModelNames known = m_known;
     for (const int bone : m_known.bones.keys()) {
         if (!Records::element(mesh.nodes, bone))

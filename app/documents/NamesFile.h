@@ -17,7 +17,7 @@ public:
     /// when there is none.
     QString replaced(const QString &modelPath, const SkinnedMesh &mesh) const;
     /// Writes the mesh's names where they are not those that stand there: no file where nothing has a name,
-    /// but an empty one where names were. Returns what went wrong.
+    /// but an empty one where names were, this model's or another one's. Returns what went wrong.
     [[nodiscard]] QString write(const QString &modelPath, const SkinnedMesh &mesh);
 
 private:

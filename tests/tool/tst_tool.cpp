@@ -267,6 +267,16 @@ private slots:
         QVERIFY(!anim.read(path("small.anim")));
         QCOMPARE(anim.blocks[0].animId, 7);
         QCOMPARE(anim.blocks[0].frameCount(), 41);
+
+        // Names of another model do not stick to it.
+        const QString names = put("other.names.json", "{\"bones\": {\"0\": \"mine\"}}");
+        const QString other = put("other.obj", "v 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n");
+        const ToolRun refused("import -o", {path(), other});
+        QVERIFY2(refused.exitCode == 1 && refused.err.contains("other.names.json"),
+                 qUtf8Printable(refused.err));
+        QCOMPARE(ToolRun("import --force -o", {path(), other}).exitCode, 0);
+        ModelNames none;
+        QVERIFY(!none.read(names) && none.isEmpty());
     }
 
     void importReady()

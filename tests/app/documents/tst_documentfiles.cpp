@@ -288,6 +288,10 @@ private slots:
         // A file that cannot be read is no hindrance.
         run.openMesh(m_files->path("mod/new.skinnedmesh"));
         QVERIFY(nameOf().isEmpty());
+        // Names of another model do not stick to one that has none.
+        QVERIFY(QFile::remove(m_files->path("mod/other.skinnedmesh")));
+        QCOMPARE(saveAs("mod/other.skinnedmesh", {Hand::clickOn("Yes")}), question);
+        QVERIFY(!saved.read(other) && saved.isEmpty());
     }
 
     void whatIsRefusedIsNotPassedOver()

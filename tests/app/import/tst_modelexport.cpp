@@ -5,6 +5,7 @@
 #include "Playback.h"
 
 #include <QThread>
+#include <QtEndian>
 
 /// Models on their way out of the window: the menu, the dialogs, what stands in the way.
 class tst_ModelExport : public QObject
@@ -62,7 +63,7 @@ private:
     {
         QByteArray bytes = TestSupport::readFile(path(name));
         if (bytes.startsWith("glTF"))
-            bytes = bytes.mid(20, bytes.indexOf('\0', 20) < 0 ? -1 : int(bytes[12]) + 256 * uchar(bytes[13]));
+            bytes = bytes.mid(20, int(qFromLittleEndian<quint32>(bytes.constData() + 12)));
         QStringList names;
         for (const QJsonValue &clip : QJsonDocument::fromJson(bytes)["animations"].toArray())
             names += clip["name"].toString();

@@ -72,7 +72,10 @@ private slots:
                   .arg(seen.triangles),
               "counts");
         QVERIFY2((seen.size - size).length() < 0.005f * size.length(),
-                 QTest::toString(seen.size)); // of the expectation, three digits
+                 qPrintable(QStringLiteral("%1 %2 %3")
+                                .arg(double(seen.size.x()))
+                                .arg(double(seen.size.y()))
+                                .arg(double(seen.size.z())))); // of the expectation, three digits
         QTEST(seen.proposedScale, "scale");
         QString clips = QString::number(seen.clips.size());
         if (!seen.clips.empty())

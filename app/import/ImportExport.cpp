@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QSet>
 
 namespace {
 // What the files hold that come with the program, for a model of which no document is open.
@@ -56,10 +57,16 @@ void ImportExport::importModel(DocumentType type, const QString &modelPath)
     dialog.setVersions(isStatic ? versionFor(m_staticMesh) : versionFor(m_skinnedMesh), versionFor(m_anim));
     if (!modelPath.isEmpty())
         dialog.setModelPath(modelPath);
-    // About that one it was asked already.
-    const QString known = QFileInfo(modelPath).absoluteFilePath();
-    dialog.setUpdateOffer([this, type, known](const QString &path) {
-        return path == known ? ModelUpdater::Answer::ImportAsNew : m_updater.offer(type, path);
+    // One question each: what was imported as new would be offered an update of itself.
+    QSet<QString> asNew{QFileInfo(modelPath).absoluteFilePath()};
+    dialog.setUpdateOffer([this, type, asNew](const QString &path) mutable {
+        const QString file = QFileInfo(path).absoluteFilePath();
+        if (asNew.contains(file))
+            return ModelUpdater::Answer::ImportAsNew;
+        const ModelUpdater::Answer answer = m_updater.offer(type, path);
+        if (answer == ModelUpdater::Answer::ImportAsNew)
+            asNew.insert(file);
+        return answer;
     });
     connect(&dialog, &ImportDialog::skinnedMeshImported, this,
             [this](const SkinnedMesh &mesh, const AnimFile &anim, const QString &name) {

@@ -188,40 +188,6 @@ private slots:
         QCOMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
     }
 
-    void whatComesAsNewIsOfferedOnce()
-    {
-        GltfSource source;
-        ImportMessages messages;
-        const AnimFile moves = twoBlocks();
-        const QString glb =
-            m_files->put("man.glb", exportGltf(triangleMan(), &moves, {0}, source, messages).glb());
-        Settings::ImportReadyTextures.setValue(false);
-        Settings::ImportReadyKMat.setValue(false);
-        ShownWindow window({m_files->save("man.skinnedmesh", triangleMan())});
-        const Hand::Answer twice = [this, &glb](QDialog *dialog) {
-            find<QLineEdit>(*dialog, "txtModelPath")->setFocus();
-            QTest::keyClicks(find<QLineEdit>(*dialog, "txtModelPath"), glb);
-            auto *pages = find<QStackedWidget>(*dialog, "stackPages");
-            QTimer::singleShot(0, dialog, [this, dialog, pages] {
-                QTest::mouseClick(find<QPushButton>(*dialog, "btnImport"), Qt::LeftButton);
-                for (const char *button : {"btnSuccessAgain", ""}) {
-                    QTRY_COMPARE_WITH_TIMEOUT(pages->currentWidget()->objectName(), QString("pageSuccess"),
-                                              20000);
-                    if (*button)
-                        QTest::mouseClick(find<QPushButton>(*dialog, button), Qt::LeftButton);
-                }
-                m_page = QString::number(Settings::ImportReady.value());
-                dialog->accept();
-            });
-        };
-        Hand hand({twice, Hand::clickOn("Import as New"), [](QDialog *) {}}); // it is in front again
-        trigger(window, "actionImport");
-        Settings::ImportReady.setValue(false);
-        QCOMPARE(hand.seen, QStringList({"Import model to Skinned Mesh", "Update man.skinnedmesh",
-                                         "Import model to Skinned Mesh"}));
-        QCOMPARE(m_page, QString("1"));
-    }
-
     void exportAndBack()
     {
         ShownWindow window;

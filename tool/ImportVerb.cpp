@@ -123,19 +123,6 @@ QStringList replacedModels(const Results &results, bool isStatic)
     return files;
 }
 
-/// Returns true on failure.
-template <typename Model>
-bool write(const Model &model, const QString &path)
-{
-    QString reason;
-    if (!model.write(path, &reason)) {
-        Output::line(path);
-        return false;
-    }
-    Output::complain(QStringLiteral("%1: The file cannot be written: %2").arg(path, reason));
-    return true;
-}
-
 /// What may be replaced.
 struct Replacing
 {
@@ -164,12 +151,12 @@ bool finish(const ImportWorker &worker, const ImportChoices &choices, Results &r
     bool failed = false;
     if (choices.isStatic) {
         transformImported(results.rigid, choices);
-        failed = write(results.rigid, results.target + QStringLiteral(".staticmesh"));
+        failed = Output::writeModel(results.rigid, results.target + QStringLiteral(".staticmesh"));
     } else {
         transformImported(results.skinned, choices);
-        failed = write(results.skinned, results.target + QStringLiteral(".skinnedmesh"));
+        failed = Output::writeModel(results.skinned, results.target + QStringLiteral(".skinnedmesh"));
         if (!results.anim.blocks.empty())
-            failed = write(results.anim, results.target + QStringLiteral(".anim")) || failed;
+            failed = Output::writeModel(results.anim, results.target + QStringLiteral(".anim")) || failed;
         if (!results.namesFile().isEmpty())
             failed = writeNames(results.names, results.namesFile()) || failed;
     }

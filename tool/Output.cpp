@@ -31,6 +31,15 @@ void Output::complain(const QString &text)
     write(stderr, "korvane-tool: " + text.toUtf8() + '\n');
 }
 
+bool Output::outcome(const QString &path, bool failed, const QString &reason)
+{
+    if (failed)
+        complain(QStringLiteral("%1: The file cannot be written: %2").arg(path, reason));
+    else
+        line(path);
+    return failed;
+}
+
 bool Output::refuseToReplace(const QStringList &files)
 {
     for (const QString &file : files)

@@ -14,6 +14,16 @@ void json(const QJsonArray &array);
 void complain(const QString &text);
 /// Says of each of these files that it exists already. Returns false when there are none.
 bool refuseToReplace(const QStringList &files);
+/// Says that the file was written, or that it was not and why. Returns `failed`.
+bool outcome(const QString &path, bool failed, const QString &reason);
+/// Writes a model and says so. Returns true on failure.
+template <typename Model>
+[[nodiscard]] bool writeModel(const Model &model, const QString &path)
+{
+    QString reason;
+    const bool failed = model.write(path, &reason);
+    return outcome(path, failed, reason);
+}
 /// The account of an import or an export: what went well as results, the rest as complaints.
 void tell(const ImportMessages &messages);
 } // namespace Output

@@ -32,19 +32,6 @@ QString lineText(const UpdateLine &line)
     return line.text;
 }
 
-/// Returns true on failure.
-template <typename Model>
-bool writeUpdated(const Model &model, const QString &path)
-{
-    QString reason;
-    if (!model.write(path, &reason)) {
-        Output::line(path);
-        return false;
-    }
-    Output::complain(QStringLiteral("%1: The file cannot be written: %2").arg(path, reason));
-    return true;
-}
-
 /// Adds what the model is called already, which `added` stands beside. Returns true on failure.
 bool addOwnNames(ModelNames &added, const QString &meshPath)
 {
@@ -66,12 +53,7 @@ bool addOwnNames(ModelNames &added, const QString &meshPath)
 bool writeNames(const ModelNames &names, const QString &path)
 {
     const QString reason = writeWholeFile(path, names.toJson());
-    if (reason.isEmpty()) {
-        Output::line(path);
-        return false;
-    }
-    Output::complain(QStringLiteral("%1: The file cannot be written: %2").arg(path, reason));
-    return true;
+    return Output::outcome(path, !reason.isEmpty(), reason);
 }
 
 void addUpdateOptions(CommandLine &line)
@@ -156,7 +138,7 @@ int updateFromFile(const CommandLine &line, int timeLimit)
     for (const UpdateLine &each : account.lines)
         Output::line(lineText(each));
     if (model.rigid())
-        return writeUpdated(rigid, targets[0]) ? Failed : Fine;
+        return Output::writeModel(rigid, targets[0]) ? Failed : Fine;
     ModelNames names = worker.names();
     const QString namesFile = names.isEmpty() ? QString() : ModelNames::pathFor(targets[0]);
     if (!namesFile.isEmpty() && !line.isSet(QStringLiteral("force")) && isTaken(namesFile) &&
@@ -165,6 +147,6 @@ int updateFromFile(const CommandLine &line, int timeLimit)
     bool failed = !namesFile.isEmpty() && addOwnNames(names, model.meshPath);
     if (!namesFile.isEmpty() && !failed)
         failed = writeNames(names, namesFile);
-    failed = writeUpdated(skinned, targets[0]) || failed;
-    return (model.animFile() && writeUpdated(anim, targets[1])) || failed ? Failed : Fine;
+    failed = Output::writeModel(skinned, targets[0]) || failed;
+    return (model.animFile() && Output::writeModel(anim, targets[1])) || failed ? Failed : Fine;
 }

@@ -2329,6 +2329,10 @@ Ohne diese Eingabe fortfahren?</translation>
         <source>Texture &apos;%1&apos; not found, or it cannot be read</source>
         <translation>Textur „%1“ nicht gefunden oder nicht lesbar</translation>
     </message>
+    <message>
+        <source>%1 The texture &apos;%2&apos; could not be written</source>
+        <translation>%1 Die Textur „%2“ konnte nicht geschrieben werden</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>

@@ -18,7 +18,8 @@
 #include <cmath>
 
 namespace {
-constexpr int SwatchSize = 8; // texels; a size that every card takes
+constexpr int LongestName = 100; // characters; file systems take 255 bytes
+constexpr int SwatchSize = 8;    // texels; a size that every card takes
 /// What a file says of itself is believed up to here: decoded it is 1 GiB.
 constexpr int LargestSide = 16384;
 
@@ -164,11 +165,16 @@ QString ReadyTextures::swatch(const aiMaterial &material, const QString &name)
 
 QString ReadyTextures::write(const QImage &image, const QString &base)
 {
-    QString name = base;
+    const QString stem = base.left(LongestName);
+    QString name = stem;
     for (int number = 2; m_names.contains(name.toLower()); ++number)
-        name = base + QLatin1Char('_') + QString::number(number);
+        name = stem + QLatin1Char('_') + QString::number(number);
     m_names.insert(name.toLower());
-    QDir().mkpath(m_folder);
     const QString path = m_folder + QLatin1Char('/') + name + QStringLiteral(".png");
-    return image.save(path, "PNG") ? path : QString();
+    if (QDir().mkpath(m_folder) && image.save(path, "PNG"))
+        return path;
+    m_source.messages.addWarning(
+        QCoreApplication::translate("Import", "%1 The texture '%2' could not be written")
+            .arg(m_source.modelPath, name));
+    return {};
 }

@@ -212,6 +212,20 @@ private slots:
         QCOMPARE(QImage(m_folder.path("job/two_words_b.png")).pixelColor(0, 0), QColor(0, 128, 0));
         QCOMPARE(lines(LogSeverity::Warning),
                  QStringList("two words.obj Material 'gone': its texture 'gone.png' was not found"));
+
+        // A name longer than a file's may be, and a folder that cannot be made.
+        const QByteArray name(300, 'n');
+        const QByteArray triangle = "v 0 0 0\nv 1 0 0\nv 0 1 0\nusemtl " + name + "\nf 1 2 3\n";
+        m_folder.put("l.mtl", "newmtl " + name + "\nKd 0 0 1\n");
+        const QString longer = m_folder.put("l.obj", "mtllib l.mtl\n" + triangle);
+        (void)importStatic(longer);
+        QCOMPARE(m_textures.size(), 1);
+        QVERIFY(QDir(m_folder.path("job")).removeRecursively());
+        m_folder.put("job", "a file");
+        (void)importStatic(longer);
+        QCOMPARE(m_textures, QStringList());
+        QCOMPARE(lines(LogSeverity::Warning).filter("could not be written").size(), 1);
+        QVERIFY(QFile::remove(m_folder.path("job")));
     }
 
     void realRigs()

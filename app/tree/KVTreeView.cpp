@@ -225,14 +225,22 @@ QVector<RecordIndex> KVTreeView::selectedRecords(RecordKind kind) const
 
 RecordItem *KVTreeView::findItem(const RecordRef &record) const
 {
-    RecordItem *item = nullptr;
+    return static_cast<RecordItem *>(itemFromIndex(findIndex(record)));
+}
+
+QModelIndex KVTreeView::findIndex(const RecordRef &record) const
+{
+    // By rows: asked for the row of an item, the tree looks through all of its siblings.
+    QModelIndex found;
     for (const int position : indexPath(record)) {
-        RecordItem *next = item ? item->childAt(position) : static_cast<RecordItem *>(topLevelItem(position));
-        if (!next)
+        const int row =
+            found.isValid() ? static_cast<RecordItem *>(itemFromIndex(found))->rowAt(position) : position;
+        const QModelIndex next = model()->index(row, 0, found);
+        if (!next.isValid())
             break;
-        item = next;
+        found = next;
     }
-    return item;
+    return found;
 }
 
 void KVTreeView::selectRecords(const QVector<RecordRef> &records, const RecordRef &current)
@@ -247,7 +255,7 @@ void KVTreeView::setSelected(const QVector<RecordRef> &records, const RecordRef 
     // Neighbours become one range: the selection model is slow with many.
     QItemSelection selection;
     for (const RecordRef &record : records) {
-        const QModelIndex index = indexFromItem(findItem(record));
+        const QModelIndex index = findIndex(record);
         if (!index.isValid())
             continue;
         if (!selection.isEmpty() && selection.last().parent() == index.parent() &&
@@ -258,7 +266,7 @@ void KVTreeView::setSelected(const QVector<RecordRef> &records, const RecordRef 
     }
     {
         const QSignalBlocker blocker(this);
-        selectionModel()->setCurrentIndex(indexFromItem(findItem(current)), QItemSelectionModel::NoUpdate);
+        selectionModel()->setCurrentIndex(findIndex(current), QItemSelectionModel::NoUpdate);
         selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     }
     if (currentItem())

@@ -70,6 +70,7 @@ private:
     QVector<RecordRef> selectedRefs() const;
     static bool hidesData(const Document &document);
     bool isShown(const RecordRef &record) const;
+    QModelIndex findIndex(const RecordRef &record) const; ///< of findItem()
     /// Builds the items anew, with these selected as far as they are shown.
     void refill(const QVector<RecordRef> &selected, const RecordRef &current);
     void setSelected(const QVector<RecordRef> &records, const RecordRef &current);

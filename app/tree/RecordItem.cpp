@@ -31,25 +31,25 @@ int RecordItem::position() const
     return position == RecordRow::FromIndex ? m_number : position;
 }
 
-RecordItem *RecordItem::childAt(int position) const
+int RecordItem::rowAt(int position) const
 {
-    auto *found = static_cast<RecordItem *>(child(position));
-    if (found && found->position() == position)
-        return found;
+    const auto positionIn = [this](int row) { return static_cast<RecordItem *>(child(row))->position(); };
+    if (position >= 0 && position < childCount() && positionIn(position) == position)
+        return position;
     // A filter left some out.
     int begin = 0;
     int end = childCount();
     while (begin < end) {
         const int middle = begin + (end - begin) / 2;
-        found = static_cast<RecordItem *>(child(middle));
-        if (found->position() == position)
-            return found;
-        if (found->position() < position)
+        const int found = positionIn(middle);
+        if (found == position)
+            return middle;
+        if (found < position)
             begin = middle + 1;
         else
             end = middle;
     }
-    return nullptr;
+    return -1;
 }
 
 QVector<RecordRef> RecordItem::expandedBelow() const

@@ -25,8 +25,8 @@ public:
     /// The record, for an item that stands in its tree.
     RecordRef record() const;
 
-    /// The child that stands there while no filter leaves any out; null when there is none.
-    RecordItem *childAt(int position) const;
+    /// The row of the child that stands there while no filter leaves any out; -1 when there is none.
+    int rowAt(int position) const;
     /// What is open below it.
     QVector<RecordRef> expandedBelow() const;
 

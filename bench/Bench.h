@@ -55,6 +55,15 @@ inline std::string readable(double seconds)
     return text;
 }
 
+/// Adds a line for a figure and its floor, in seconds, that were measured in turns.
+inline void addRatioLine(const std::string &name, double figure, double floor, double measured, double budget)
+{
+    char line[256];
+    std::snprintf(line, sizeof line, "RATIO %s %s %s %.2f %.2f %s", name.c_str(), readable(figure).c_str(),
+                  readable(floor).c_str(), measured, budget, measured <= budget ? "PASS" : "MISS");
+    report().lines.push_back(line);
+}
+
 /// Registers a row whose median time of `figure()` may be at most `budget` times that of `floor()`. The two
 /// run in turns, `repetitions` times after one turn that is not counted.
 template <typename Figure, typename Floor>
@@ -75,11 +84,7 @@ void ratio(const std::string &name, double budget, int repetitions, Figure figur
         const double measured = figureTime / floorTime;
         state.counters["floor_ms"] = floorTime * 1e3;
         state.counters["ratio"] = measured;
-        char line[256];
-        std::snprintf(line, sizeof line, "RATIO %s %s %s %.2f %.2f %s", name.c_str(),
-                      readable(figureTime).c_str(), readable(floorTime).c_str(), measured, budget,
-                      measured <= budget ? "PASS" : "MISS");
-        report().lines.push_back(line);
+        addRatioLine(name, figureTime, floorTime, measured, budget);
     };
     benchmark::RegisterBenchmark(name.c_str(), body)
         ->Iterations(repetitions)

@@ -16,19 +16,30 @@
 
 #include <ctime>
 
-// The whole window with a model and its animation, which has stopped: nothing is painted, and the processor
-// has next to nothing to do. All threads count, those of the GL driver too.
+// The whole window with a model and its animation. While it plays, a frame costs the GUI thread not much more
+// than one of the view painted for itself. When it has stopped, nothing is painted, and the processor has
+// next to nothing to do: there all threads count, those of the GL driver too.
 namespace {
 constexpr int Settling = 3000;  // milliseconds
 constexpr int Watching = 10000; // milliseconds
+constexpr int PlayTurn = 2000;  // milliseconds
+constexpr int PlayTurns = 5;
+constexpr int PaintInterval = 16; // milliseconds, the view's own
 
 class PaintCounter : public QObject
 {
 public:
     int paints = 0;
+    int widgets = 0; ///< painted
+    int frames = 0;
+    const QObject *view = nullptr;
 
-    bool eventFilter(QObject *, QEvent *event) override
+    bool eventFilter(QObject *watched, QEvent *event) override
     {
+        if (event->type() == QEvent::Paint && watched->isWidgetType()) {
+            ++widgets;
+            frames += watched == view ? 1 : 0;
+        }
         paints += event->type() == QEvent::Paint || event->type() == QEvent::UpdateRequest ? 1 : 0;
         return false;
     }
@@ -39,6 +50,54 @@ void wait(int milliseconds)
     QEventLoop loop;
     QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
     loop.exec();
+}
+
+double threadSeconds()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return double(time.tv_sec) + double(time.tv_nsec) * 1e-9;
+}
+
+/// What a frame takes of this thread, in seconds.
+double frameSeconds(PaintCounter &counter)
+{
+    counter.frames = counter.widgets = 0;
+    const double before = threadSeconds();
+    wait(PlayTurn);
+    if (counter.frames < 10)
+        qFatal("nothing is painted");
+    return (threadSeconds() - before) / counter.frames;
+}
+
+void setPlayState(KVOpenGLWidget &view, PlayState state)
+{
+    playback().playState = state;
+    view.playbackChanged();
+}
+
+void reportPlaying(KVOpenGLWidget &view, PaintCounter &counter)
+{
+    std::vector<double> figures;
+    std::vector<double> floors;
+    std::vector<double> ratios;
+    std::vector<double> widgets;
+    QTimer painting;
+    painting.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&painting, &QTimer::timeout, &view, [&view] { view.update(); });
+    for (int turn = 0; turn < PlayTurns; ++turn) {
+        setPlayState(view, PlayState::Playing);
+        figures.push_back(frameSeconds(counter));
+        widgets.push_back(double(counter.widgets) / counter.frames);
+        setPlayState(view, PlayState::Paused);
+        painting.start(PaintInterval);
+        floors.push_back(frameSeconds(counter));
+        painting.stop();
+        ratios.push_back(figures.back() / floors.back());
+    }
+    Bench::addRatioLine("play_frame", Bench::median(figures), Bench::median(floors), Bench::median(ratios),
+                        2.0);
+    Bench::addLimitLine("play_widgets_a_frame", Bench::median(widgets), 12.0, "");
 }
 } // namespace
 
@@ -70,8 +129,8 @@ int main(int argc, char *argv[])
     wait(Settling);
     if (!playback().mesh || !playback().anim || counter.paints < 10)
         qFatal("the sample does not play");
-    playback().playState = PlayState::Paused;
-    view->playbackChanged();
+    counter.view = view;
+    reportPlaying(*view, counter);
     wait(Settling);
 
     counter.paints = 0;

@@ -88,9 +88,7 @@ void KVOpenGLWidget::paintGL()
         return;
     if (m_scene.refresh())
         showTriangles();
-    const int shown = poseModel();
-    if (shown != PoseEvaluator::NoFrame)
-        emit frameShown(shown);
+    poseModel();
     if (m_frameWanted)
         frameAll();
     m_scene.paint(m_camera.viewMatrix());
@@ -98,10 +96,12 @@ void KVOpenGLWidget::paintGL()
         m_statistics->countFrame();
 }
 
-int KVOpenGLWidget::poseModel()
+void KVOpenGLWidget::poseModel()
 {
     m_scene.frame.yaw = QQuaternion();
-    return m_playback.pose(m_scene.palette(), m_scene.frame.yaw);
+    const int shown = m_playback.pose(m_scene.palette(), m_scene.frame.yaw);
+    if (shown != PoseEvaluator::NoFrame)
+        emit frameShown(shown);
 }
 
 QImage KVOpenGLWidget::picture(const QSize &size, const QColor &background)
@@ -328,13 +328,9 @@ bool KVOpenGLWidget::moveBy(TickTimer::Due due)
 bool KVOpenGLWidget::tick(TickTimer::Due due)
 {
     const bool skinned = m_scene.frame.skinned;
-    if (m_active && skinned) {
-        // What started between two idle looks starts now.
-        if (m_timer.isMoving())
-            advanceClock(playback(), due.seconds);
-        if (m_playback.label.update(playback()))
-            emit frameLabelChanged(m_playback.label.text());
-    }
+    // What started between two idle looks starts now.
+    if (m_active && skinned && m_timer.isMoving())
+        advanceClock(playback(), due.seconds);
     if (m_statistics)
         m_statistics->tick(due.seconds);
     if (m_readOut.tick(due.seconds, m_active, m_camera.position()))
@@ -342,8 +338,13 @@ bool KVOpenGLWidget::tick(TickTimer::Due due)
     const bool moved = moveBy(due);
     m_repaintWanted = m_repaintWanted || moved || (skinned && m_playback.isBehind());
     const bool waitsToPaint = m_repaintWanted && !m_timer.mayPaint();
-    if (m_repaintWanted && !waitsToPaint)
+    // Label and slider change with the picture: the window is put together once for all three.
+    if (m_active && skinned && !waitsToPaint && m_playback.label.update(playback()))
+        emit frameLabelChanged(m_playback.label.text());
+    if (m_repaintWanted && !waitsToPaint) {
+        poseModel();
         update();
+    }
     if (moved || waitsToPaint || m_tools.cursor() == ViewCursor::Captured)
         return true;
     return m_active && (m_readOut.shown() != m_camera.position() || (skinned && clockRuns(playback())));

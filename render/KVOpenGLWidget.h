@@ -144,7 +144,7 @@ private:
     void replaceModel(bool shown);
     void showTriangles();
     void trackMarks();
-    int poseModel();
+    void poseModel();
     void frame(const std::vector<QVector3D> &places, int strays);
     void cameraMoved();
     /// One tick. Returns whether something goes on moving.

@@ -62,9 +62,7 @@ AnimTrackFrame::AnimTrackFrame(QWidget *parent)
     auto *playOrPause = new QAction(tr("Play or Pause"), this);
     addTrackAction(playOrPause, QStringLiteral("AnimTrackPlayOrPause"), Qt::Key_Space);
     connect(playOrPause, &QAction::triggered, this, &AnimTrackFrame::playOrPause);
-    // Wide enough for four digits, so that the slider does not move under the mouse while playing.
-    m_ui->lblAnimTrackFrames->setMinimumWidth(
-        fontMetrics().horizontalAdvance(tr("Frame: %1 / %2").arg(8888).arg(8888)));
+    fitLabel(0);
 
     connect(m_ui->btnAnimTrackLoop, &QToolButton::toggled, this, &AnimTrackFrame::OnAnimTrackLoopToggled);
     connect(m_ui->sliderAnimTrack, &QSlider::valueChanged, this, &AnimTrackFrame::OnAnimTrackSliderChanged);
@@ -200,6 +198,23 @@ void AnimTrackFrame::showState()
 void AnimTrackFrame::showLabel(const QString &text)
 {
     m_ui->lblAnimTrackFrames->setText(text);
+    fitLabel(m_ui->lblAnimTrackFrames->minimumWidth());
+}
+
+void AnimTrackFrame::fitLabel(int narrowest)
+{
+    // For four digits from the begin, so that the slider does not move under the mouse while playing.
+    QLabel &label = *m_ui->lblAnimTrackFrames;
+    const int usual = label.fontMetrics().horizontalAdvance(tr("Frame: %1 / %2").arg(8888).arg(8888));
+    const QSize hint = label.sizeHint();
+    label.setFixedSize(std::max({narrowest, usual, hint.width()}), hint.height());
+}
+
+void AnimTrackFrame::changeEvent(QEvent *event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        fitLabel(0);
 }
 
 void AnimTrackFrame::playOrPause()

@@ -50,6 +50,7 @@ signals:
     void playbackChanged();
 
 protected:
+    void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
@@ -70,6 +71,8 @@ private:
     void step(int direction);
     void stepToMark(int direction);
     void listBlocks();
+    /// A label of a fixed size can show another frame without the whole window being laid out anew.
+    void fitLabel(int narrowest);
 
     std::unique_ptr<Ui::AnimTrackFrame> m_ui;
     QList<QAction *> m_actions;

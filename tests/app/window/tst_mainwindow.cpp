@@ -10,6 +10,17 @@
 #include "RecordItem.h"
 #include "ReferenceTable.h"
 
+struct PaintCount : QObject
+{
+    explicit PaintCount(QObject *widget) { widget->installEventFilter(this); }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+    int count = 0;
+};
+
 class tst_MainWindow : public QObject
 {
     Q_OBJECT
@@ -351,6 +362,21 @@ private slots:
         auto *slider = find<QSlider>(window, "sliderAnimTrack");
         QCOMPARE(slider->maximum(), 10);
         QTRY_VERIFY(slider->value() > 0);
+
+        // Another number leaves the rest of the window as it is, and has room in every font.
+        PaintCount paints(find<QToolButton>(window, "btnAnimTrackStop"));
+        QSignalSpy numbers(find<KVOpenGLWidget>(window, "viewSkinned"), &KVOpenGLWidget::frameLabelChanged);
+        const auto areAlone = [&] {
+            const int before = numbers.count();
+            paints.count = 0;
+            return QTest::qWaitFor([&] { return numbers.count() > before + 2; }) && paints.count == 0;
+        };
+        QTRY_VERIFY(areAlone());
+        auto *track = find<QWidget>(window, "animTrackFrame");
+        QFont large = track->font();
+        large.setPointSizeF(large.pointSizeF() * 1.5);
+        track->setFont(large);
+        QVERIFY(label->minimumSize().expandedTo(label->sizeHint()) == label->minimumSize());
 
         find<QToolButton>(window, "btnAnimTrackStop")->click();
         // It may have played on to the very frame, and a slider that is not moved sets no time.

@@ -305,19 +305,24 @@ private:
 };
 } // namespace
 
-bool mayComeBack(const QString &path)
+ExportTraces exportTraces(const QString &path)
 {
     const QString suffix = QFileInfo(path).suffix().toLower();
     if ((suffix != QLatin1String("glb") && suffix != QLatin1String("gltf")) || !QFileInfo(path).isFile())
-        return false;
+        return {};
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return false;
-    // Names of an export, with its extras and without.
+        return {};
     const auto *bytes = reinterpret_cast<const char *>(file.map(0, file.size()));
     const QByteArray content =
         QByteArray::fromRawData(bytes, bytes ? int(std::min<qint64>(file.size(), INT_MAX)) : 0);
-    return content.contains("\"korvane\"") || content.contains("\"bone_000");
+    ExportTraces traces;
+    traces.hasNames = content.contains("\"bone_000");
+    traces.hasRecords = content.contains("\"korvane\"");
+    // Records are texts within the text.
+    traces.isSkinned = traces.hasRecords && content.contains(R"(\"kind\":\"skinnedmesh\")");
+    traces.isStatic = traces.hasRecords && content.contains(R"(\"kind\":\"staticmesh\")");
+    return traces;
 }
 
 bool updateModel(const GltfScene &scene, SkinnedMesh &mesh, AnimFile &anim, UpdateAccount &account,

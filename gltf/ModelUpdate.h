@@ -8,8 +8,17 @@
 #include "StaticMesh.h"
 #include "UpdateAccount.h"
 
-/// Whether a file may be an export that can come back: a look at its bytes, which takes no time.
-bool mayComeBack(const QString &path);
+/// What the bytes of a file say of where it comes from: a look at them takes no time, and may be wrong.
+struct ExportTraces
+{
+    bool hasNames = false;   ///< bones are called as exports call them
+    bool hasRecords = false; ///< there are the extras of an export
+    bool isSkinned = false;  ///< these are of a skinned mesh
+    bool isStatic = false;   ///< these are of a static mesh
+
+    bool mayComeBack() const { return hasNames || hasRecords; }
+};
+ExportTraces exportTraces(const QString &path);
 
 /// Brings a glTF file back over the model that it was exported from: what the game's records say stays by
 /// number, vertices, triangles and keys come from the file, bones and clips that are new there are appended,

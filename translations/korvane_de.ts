@@ -3398,6 +3398,18 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
+    <message>
+        <source>Update %1</source>
+        <translation>%1 aktualisieren</translation>
+    </message>
+    <message>
+        <source>%1 stays as it is.</source>
+        <translation>%1 bleibt, wie es ist.</translation>
+    </message>
+    <message>
+        <source>Import as &amp;New</source>
+        <translation>Als ne&amp;ues Modell importieren</translation>
+    </message>
 </context>
 <context>
     <name>NameTables</name>

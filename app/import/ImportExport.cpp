@@ -31,7 +31,14 @@ ImportExport::ImportExport(SkinnedMeshDocument &skinnedMesh, AnimDocument &anim,
     , m_files(files)
     , m_window(window)
     , m_updater(skinnedMesh, anim, staticMesh, window)
-{}
+{
+    connect(&m_updater, &ModelUpdater::updated, this, [this](DocumentType type) {
+        const bool isShown = type == DocumentType::StaticMesh ? m_current == &m_staticMesh
+                                                              : m_current && m_current != &m_staticMesh;
+        if (!isShown)
+            emit cameToFront(type);
+    });
+}
 
 void ImportExport::addExports(QMenu &menu, QAction &above, const RecordSelection &blocks)
 {
@@ -72,12 +79,12 @@ void ImportExport::importModel(DocumentType type, const QString &modelPath)
             [this](const SkinnedMesh &mesh, const AnimFile &anim, const QString &name) {
                 m_skinnedMesh.take(mesh, name);
                 m_anim.take(anim, name);
-                emit imported(DocumentType::SkinnedMesh);
+                emit cameToFront(DocumentType::SkinnedMesh);
             });
     connect(&dialog, &ImportDialog::staticMeshImported, this,
             [this](const StaticMesh &mesh, const QString &name) {
                 m_staticMesh.take(mesh, name);
-                emit imported(DocumentType::StaticMesh);
+                emit cameToFront(DocumentType::StaticMesh);
             });
     dialog.exec();
 }

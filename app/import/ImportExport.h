@@ -26,8 +26,8 @@ public:
     /// before setCurrent().
     void addExports(QMenu &menu, QAction &above, const RecordSelection &blocks);
     /// Opens the import dialog for the current tab's kind of mesh, a skinned one on a tab without, with
-    /// `modelPath` chosen if there is one. Unsaved changes of the documents that the import would replace are
-    /// asked for before.
+    /// `modelPath` chosen if there is one. An export of a mesh that is open, in whichever tab, may update it
+    /// instead. Unsaved changes of the documents that the import would replace are asked for before.
     void importToCurrent(const QString &modelPath);
 
 public slots:
@@ -36,8 +36,8 @@ public slots:
     void on_actionExport_triggered();
 
 signals:
-    /// An imported model has taken the place of a document.
-    void imported(DocumentType type);
+    /// An imported model has taken the place of a document, or one in a tab behind was updated.
+    void cameToFront(DocumentType type);
 
 private:
     void importModel(DocumentType type, const QString &modelPath);

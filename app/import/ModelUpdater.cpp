@@ -61,10 +61,28 @@ Document &ModelUpdater::document(DocumentType type) const
     return type == DocumentType::StaticMesh ? static_cast<Document &>(m_staticMesh) : m_skinnedMesh;
 }
 
-ModelUpdater::Answer ModelUpdater::offer(DocumentType type, const QString &path)
+/// Of an export that cannot come back; nothing of the open model is changed by it.
+ModelUpdater::Answer ModelUpdater::complain(const Document &open, const QString &reason) const
 {
+    QMessageBox box(QMessageBox::Warning, tr("Update %1").arg(open.fileName()), reason, QMessageBox::Cancel,
+                    dialogParent());
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(tr("%1 stays as it is.").arg(open.fileName()));
+    const QAbstractButton *asNew = box.addButton(tr("Import as &New"), QMessageBox::AcceptRole);
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.setEscapeButton(QMessageBox::Cancel);
+    box.exec();
+    return box.clickedButton() == asNew ? Answer::ImportAsNew : Answer::Cancelled;
+}
+
+ModelUpdater::Answer ModelUpdater::offer(DocumentType shown, const QString &path)
+{
+    const ExportTraces traces = exportTraces(path);
+    const DocumentType type = traces.isStatic == traces.isSkinned ? shown
+                              : traces.isStatic                   ? DocumentType::StaticMesh
+                                                                  : DocumentType::SkinnedMesh;
     Document &open = document(type);
-    if (!open.isOpen() || !mayComeBack(path))
+    if (!open.isOpen() || !traces.mayComeBack())
         return Answer::ImportAsNew;
     if (open.returnToTyping() || (type != DocumentType::StaticMesh && m_anim.returnToTyping()))
         return Answer::Cancelled;
@@ -79,9 +97,10 @@ ModelUpdater::Answer ModelUpdater::offer(DocumentType type, const QString &path)
     if (!read(worker, type, path))
         return Answer::Cancelled;
     if (worker.messages().hasError()) {
-        // The import says what is wrong with the file itself.
-        Log::info(worker.messages().lines.constFirst().text);
-        return Answer::ImportAsNew;
+        const QString reason = worker.messages().lines.constFirst().text;
+        Log::info(reason);
+        // What only has names like an export's may never have been one.
+        return traces.hasRecords ? complain(open, reason) : Answer::ImportAsNew;
     }
     const QString source = QFileInfo(path).fileName();
     ModelUpdateDialog dialog(source, open.fileName(), worker.update(), dialogParent());
@@ -96,6 +115,7 @@ ModelUpdater::Answer ModelUpdater::offer(DocumentType type, const QString &path)
             tr("%1 Could not read file. The result was damaged.").arg(QDir::toNativeSeparators(path)));
         return Answer::Cancelled;
     }
+    emit updated(type);
     m_window->statusBar()->showMessage(tr("Updated %1 from %2").arg(open.fileName(), source), 5000);
     return Answer::Updated;
 }

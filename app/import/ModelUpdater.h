@@ -23,12 +23,18 @@ public:
         Updated,
         Cancelled,
     };
-    /// `type`: of the mesh that is open and shown, of which an import would make another one.
-    Answer offer(DocumentType type, const QString &path);
+    /// The mesh is the one of the kind that the file is an export of. `shown`: of which kind the mesh is that
+    /// an import would make another one of, for a file that does not say.
+    Answer offer(DocumentType shown, const QString &path);
+
+signals:
+    /// The mesh of this kind, and the animation with a skinned one.
+    void updated(DocumentType type);
 
 private:
     QWidget *dialogParent() const;
     Document &document(DocumentType type) const;
+    Answer complain(const Document &open, const QString &reason) const;
     bool read(ImportWorker &worker, DocumentType type, const QString &path);
     bool update(const ImportWorker &worker, DocumentType type, const UpdateAccount &account,
                 bool dropsMissing, const QString &source);

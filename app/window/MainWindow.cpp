@@ -157,7 +157,7 @@ void MainWindow::createDocuments()
     connect(m_files, &DocumentFiles::opened, m_panes, &DocumentPanes::OnOpened);
     connect(m_files, &DocumentFiles::saved, m_panes, &DocumentPanes::OnSaved);
     connect(m_files, &DocumentFiles::saved, this, &MainWindow::updateCurrentDocument);
-    connect(m_importExport, &ImportExport::imported, m_panes, &DocumentPanes::showOpened);
+    connect(m_importExport, &ImportExport::cameToFront, m_panes, &DocumentPanes::showOpened);
 
     m_explorerFiles = new ExplorerFiles(*m_files, explorers, this);
     const auto *follower =

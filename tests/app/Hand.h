@@ -12,7 +12,8 @@
 
 #include <functional>
 
-/// Answers the modal dialogs that come up, one after another, as a hand would; says what they were.
+/// Answers the modal dialogs that come up, one after another, as a hand would; says what they were. Those
+/// that only tell of progress, which a slow machine has more of, are waited for.
 class Hand : public QObject
 {
 public:
@@ -23,7 +24,7 @@ public:
     {
         connect(&m_timer, &QTimer::timeout, this, [this] {
             auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-            if (!dialog || dialog == m_last)
+            if (!dialog || dialog == m_last || qobject_cast<QProgressDialog *>(dialog))
                 return;
             m_last = dialog;
             const auto *box = qobject_cast<QMessageBox *>(dialog);
@@ -72,6 +73,24 @@ private:
     QVector<Answer> m_answers;
     QTimer m_timer;
     QPointer<QDialog> m_last;
+};
+
+/// Sees to it that a dialog does not stay open, whatever becomes of the test.
+class Closing
+{
+public:
+    explicit Closing(QDialog *dialog)
+        : m_dialog(dialog)
+    {}
+    ~Closing()
+    {
+        if (m_dialog && m_dialog->isVisible())
+            m_dialog->done(QDialog::Rejected);
+    }
+    Q_DISABLE_COPY(Closing)
+
+private:
+    QPointer<QDialog> m_dialog;
 };
 
 /// Two bones, one triangle, no texture to look for.

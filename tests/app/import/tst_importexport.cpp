@@ -152,10 +152,7 @@ private slots:
             QTest::keyClick(dialog, Qt::Key_Return);
         };
         const Hand::Answer importFile = [&glb](QDialog *dialog) {
-            auto *path = find<QLineEdit>(*dialog, "txtModelPath");
-            path->setFocus();
-            path->selectAll();
-            QTest::keyClicks(path, glb);
+            typePath(dialog, glb);
             // What comes up then is to be answered, too.
             QTimer::singleShot(0, dialog, [dialog] {
                 QTest::mouseClick(find<QPushButton>(*dialog, "btnImport"), Qt::LeftButton);
@@ -186,6 +183,89 @@ private slots:
         QCOMPARE(lines.size(), 2);
         QVERIFY((savedPlace() - QVector3D(-100, 0, 50)).length() < 1.0e-3f);
         QCOMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
+    }
+
+    void theFileSaysWhichModelIsUpdated()
+    {
+        SkinnedMesh man = triangleMan();
+        StaticMesh hut = wall({{QStringLiteral("m/m/_white"), {0, 1, 2}}});
+        ShownWindow window({m_files->save("man.skinnedmesh", man), m_files->save("hut.staticmesh", hut)});
+        man.vertices[0].position.setX(-90);
+        hut.vertices[0].position.setX(-90);
+        GltfSource source;
+        ImportMessages messages;
+        const QString manFile = m_files->put("man.glb", exportGltf(man, nullptr, {}, source, messages).glb());
+        const QString hutFile = m_files->put("hut.glb", exportGltf(hut, source, messages).glb());
+        const auto *tabs = find<QTabWidget>(window, "tabWidget");
+        const auto *undo = find<QAction>(window, "actionUndo");
+        QCOMPARE(tabs->currentWidget()->objectName(), QString("tabSkinned"));
+        Hand hand({Hand::clickOn("Update"), Hand::clickOn("Update")});
+        window.openFiles({hutFile});
+        QCOMPARE(tabs->currentWidget()->objectName(), QString("tabStatic"));
+        QCOMPARE(undo->text(), QString("&Undo Update from hut.glb"));
+        window.openFiles({manFile});
+        QCOMPARE(tabs->currentWidget()->objectName(), QString("tabSkinned"));
+        QCOMPARE(undo->text(), QString("&Undo Update from man.glb"));
+        QCOMPARE(hand.seen, QStringList({"Update hut.staticmesh", "Update man.skinnedmesh"}));
+    }
+
+    void anUpdateThatFailsSaysWhy()
+    {
+        const auto put = [this](const char *name, const QByteArray &text) {
+            QByteArray whole = "{'asset': {'version': '2.0'}, " + text + '}';
+            return m_files->put(name, whole.replace('\'', '"'));
+        };
+        const QString damaged = put("man.gltf", R"('extras': {'korvane': '{\'kind\':\'skinnedmesh\'}'})");
+        const QString named = put("rig.gltf", "'nodes': [{'name': 'bone_000'}]");
+        ShownWindow window({m_files->save("man.skinnedmesh", triangleMan())});
+        const Hand::Answer escape = [](QDialog *dialog) { QTest::keyClick(dialog, Qt::Key_Escape); };
+        Hand hand({escape, Hand::clickOn("Import as New"), Hand::reject, Hand::reject});
+        window.openFiles({damaged});
+        QCOMPARE(hand.seen.size(), 1);
+        QVERIFY2(hand.seen[0].startsWith("Update man.skinnedmesh|") && hand.seen[0].contains(damaged),
+                 qPrintable(hand.seen[0]));
+        window.openFiles({damaged});
+        // What only has names like those of an export is not worth a word.
+        window.openFiles({named});
+        QCOMPARE(hand.seen.mid(2),
+                 QStringList({"Import model to Skinned Mesh", "Import model to Skinned Mesh"}));
+        QCOMPARE(rootOf(window, "treeSkinnedMesh"), QString("man.skinnedmesh"));
+        QVERIFY(!window.windowTitle().endsWith(QLatin1String(" * ")));
+    }
+
+    void whatComesAsNewIsOfferedOnce()
+    {
+        GltfSource source;
+        ImportMessages messages;
+        const AnimFile moves = twoBlocks();
+        const QString glb =
+            m_files->put("man.glb", exportGltf(triangleMan(), &moves, {0}, source, messages).glb());
+        Settings::ImportReadyTextures.setValue(false);
+        Settings::ImportReadyKMat.setValue(false);
+        ShownWindow window({m_files->save("man.skinnedmesh", triangleMan())});
+        const Hand::Answer twice = [&glb](QDialog *dialog) {
+            typePath(dialog, glb);
+            const auto *pages = find<QStackedWidget>(*dialog, "stackPages");
+            QVector<QPair<QString, const char *>> clicks{{"pageOptions", "btnImport"},
+                                                         {"pageSuccess", "btnSuccessAgain"},
+                                                         {"pageSuccess", "btnSuccess"}};
+            // From the outer loop, so that it sees each page when that is there.
+            auto *next = new QTimer(dialog);
+            connect(next, &QTimer::timeout, dialog, [dialog, pages, clicks]() mutable {
+                if (clicks.isEmpty() || pages->currentWidget()->objectName() != clicks[0].first)
+                    return;
+                QTest::mouseClick(find<QPushButton>(*dialog, clicks.takeFirst().second), Qt::LeftButton);
+            });
+            next->start(10);
+        };
+        Hand hand({twice, Hand::clickOn("Import as New"), [](QDialog *) {}}); // it is in front again
+        withinAMinute([&window] { trigger(window, "actionImport"); });
+        const bool isReady = Settings::ImportReady.value();
+        Settings::ImportReady.setValue(false);
+        QCOMPARE(hand.seen, QStringList({"Import model to Skinned Mesh", "Update man.skinnedmesh",
+                                         "Import model to Skinned Mesh"}));
+        QVERIFY(isReady);
+        QCOMPARE(rootOf(window, "treeAnim"), QString("man.anim")); // it came, the second time too
     }
 
     void exportAndBack()
@@ -233,18 +313,40 @@ private:
     {
         find<QAction>(window, action)->trigger();
     }
+    static void typePath(QDialog *dialog, const QString &text)
+    {
+        // A window that is not active yet does not notice that the field loses the keys.
+        QApplication::setActiveWindow(dialog);
+        auto *path = find<QLineEdit>(*dialog, "txtModelPath");
+        path->setFocus();
+        path->selectAll();
+        QTest::keyClicks(path, text);
+    }
     /// Presses Import, waits for the end, notes the page and leaves.
     Hand::Answer importing()
     {
         return [this](QDialog *dialog) {
+            const Closing closing(dialog);
             auto *pages = find<QStackedWidget>(*dialog, "stackPages");
             QTest::mouseClick(find<QPushButton>(*dialog, "btnImport"), Qt::LeftButton);
             QTRY_VERIFY_WITH_TIMEOUT(pages->currentWidget()->objectName() != "pageProgress", 20000);
             m_page = pages->currentWidget()->objectName();
             QTest::keyClick(dialog, Qt::Key_Escape);
-            if (dialog->isVisible())
-                dialog->reject();
         };
+    }
+    /// Does what `work` does, but not for ever: what is still open after a minute is closed.
+    template <typename Work>
+    static void withinAMinute(Work work)
+    {
+        QElapsedTimer time;
+        time.start();
+        QTimer close;
+        connect(&close, &QTimer::timeout, &close, [&time] {
+            if (time.elapsed() > 60000)
+                const Closing closing(qobject_cast<QDialog *>(QApplication::activeModalWidget()));
+        });
+        close.start(100);
+        work();
     }
 
     std::optional<ProgramFolder> m_files;

@@ -188,10 +188,16 @@ void tst_ModelExport::patience()
     QWidget window;
     window.show();
     QStringList labels;
-    Hand hand({[&labels](QDialog *dialog) {
-        labels += static_cast<QProgressDialog *>(dialog)->labelText();
+    QTimer look;
+    connect(&look, &QTimer::timeout, &window, [&labels] {
+        const QPointer<QProgressDialog> dialog =
+            qobject_cast<QProgressDialog *>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        labels += dialog->labelText();
         QTest::mouseClick(dialog->findChild<QPushButton *>(), Qt::LeftButton);
-    }});
+    });
+    look.start(10);
     const auto quick = [](const Background::Cancelled &) { return 5; };
     QCOMPARE(workWithPatience(quick, "quick", &window).value_or(0), 5);
     const auto endless = [](const Background::Cancelled &cancelled) {

@@ -274,9 +274,16 @@ bool turnsModel(const AnimBlock &block)
 
 void addClips(GltfWriter &writer, const GltfSkeleton &skeleton, const AnimFile &anim,
               const std::vector<GltfClip> &clips, ImportMessages &messages,
-              const std::function<bool()> &isCancelled)
+              const std::function<bool()> &isCancelled, const std::function<void(double)> &tellDone)
 {
     const Moved moved = movedBones(skeleton, anim, clips);
+    const auto framesOf = [&anim](const GltfClip &clip) {
+        return 1.0 + anim.blocks[size_t(clip.block)].frameCount();
+    };
+    double frames = 0.0;
+    for (const GltfClip &clip : clips)
+        frames += framesOf(clip);
+    double done = 0.0;
     for (const GltfClip &clip : clips) {
         const AnimBlock &block = anim.blocks[size_t(clip.block)];
         ClipWriter made(writer, block, messages, clip.name);
@@ -296,5 +303,7 @@ void addClips(GltfWriter &writer, const GltfSkeleton &skeleton, const AnimFile &
         if (skeleton.yawNode >= 0)
             made.add(skeleton.yawNode, "rotation", yawKeys(block));
         made.end(clip);
+        done += framesOf(clip);
+        tellDone(done / frames);
     }
 }

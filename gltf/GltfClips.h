@@ -29,7 +29,8 @@ bool turnsModel(const AnimBlock &block);
 
 /// Adds the clips, poses as the view shows them: one key a frame, in seconds of play time from 0. Whatever a
 /// clip moves has keys in each of them, so that none leaves its pose to another; what rests all through a
-/// clip has its first and last key only. Returns early when `isCancelled` says so.
+/// clip has its first and last key only. Returns early when `isCancelled` says so; `tellDone` learns what
+/// part is done, from 0 to 1.
 void addClips(GltfWriter &writer, const GltfSkeleton &skeleton, const AnimFile &anim,
               const std::vector<GltfClip> &clips, ImportMessages &messages,
-              const std::function<bool()> &isCancelled);
+              const std::function<bool()> &isCancelled, const std::function<void(double)> &tellDone);

@@ -157,7 +157,7 @@ GltfWriter exportGltf(const SkinnedMesh &mesh, const AnimFile *anim, const std::
     if (meshIndex >= 0)
         roots.push_back(writer.append("nodes", meshNode));
     if (anim)
-        addClips(writer, skeleton, *anim, clips, messages, source.isCancelled);
+        addClips(writer, skeleton, *anim, clips, messages, source.isCancelled, source.tellDone);
 
     QJsonObject armature{
         {QStringLiteral("name"), source.name},

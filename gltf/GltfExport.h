@@ -20,6 +20,7 @@ struct GltfSource
     QString gamePath;  ///< where materials and textures are looked for first
     QString outputDir; ///< and where then; an empty folder is not searched
     std::function<bool()> isCancelled = [] { return false; };
+    std::function<void(double)> tellDone = [](double) {}; ///< what part of the work is, from 0 to 1
 };
 
 /// A skinned mesh as a glTF file: bones and hot points as joints, one primitive for each surface, the blocks

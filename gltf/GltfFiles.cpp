@@ -18,11 +18,17 @@ QString numberedName(const QString &name, int number)
 }
 } // namespace
 
-GltfFiles::GltfFiles(GltfWriter content, const QString &path)
-    : m_content(std::move(content))
-    , m_path(path)
+GltfFiles::GltfFiles(const GltfWriter &content, const QString &path)
+    : m_path(path)
 {
-    for (const GltfImage &image : m_content.images()) {
+    if (isBinary()) {
+        m_bytes = content.glb();
+        return;
+    }
+    m_bytes = content.json();
+    m_buffer = content.buffer();
+    m_images = content.images();
+    for (const GltfImage &image : m_images) {
         // Textures of one name may come from several folders.
         QString name = image.fileName;
         for (int number = 2; m_imageNames.contains(name, Qt::CaseInsensitive); ++number)
@@ -51,14 +57,15 @@ QString GltfFiles::beside(const QString &name) const
 std::vector<GltfFiles::File> GltfFiles::files() const
 {
     if (isBinary())
-        return {{m_path, m_content.glb()}};
+        return {{m_path, m_bytes}};
     std::vector<File> files;
     files.reserve(size_t(m_imageNames.size()) + 2);
     for (int i = 0; i < m_imageNames.size(); ++i)
-        files.push_back({beside(m_imageNames[i]), m_content.images()[size_t(i)].bytes});
+        files.push_back({beside(m_imageNames[i]), m_images[size_t(i)].bytes});
     const QString buffer = QFileInfo(m_path).completeBaseName() + QStringLiteral(".bin");
-    files.push_back({beside(buffer), m_content.buffer()});
-    files.push_back({m_path, m_content.gltf(buffer, m_imageNames)});
+    files.push_back({beside(buffer), m_buffer});
+    files.push_back(
+        {m_path, GltfWriter::withNames(m_bytes, buffer, m_buffer.size(), m_images, m_imageNames)});
     return files;
 }
 
@@ -86,7 +93,7 @@ void GltfFiles::useFreeNames()
         return;
     for (int i = 0; i < m_imageNames.size(); ++i) {
         const QString name = m_imageNames[i];
-        if (!wouldReplace(m_content.images()[size_t(i)].bytes, beside(name)))
+        if (!wouldReplace(m_images[size_t(i)].bytes, beside(name)))
             continue;
         m_imageNames[i].clear();
         QString free = name;

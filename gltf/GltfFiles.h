@@ -10,8 +10,8 @@ class ImportMessages;
 class GltfFiles
 {
 public:
-    /// `path` ends in .glb or .gltf.
-    GltfFiles(GltfWriter content, const QString &path);
+    /// Makes the bytes of the files, which takes a while for large ones. `path` ends in .glb or .gltf.
+    GltfFiles(const GltfWriter &content, const QString &path);
 
     /// Whether a file of this name can be written.
     static bool isName(const QString &path);
@@ -36,7 +36,9 @@ private:
     QString beside(const QString &name) const;
     std::vector<File> files() const;
 
-    GltfWriter m_content;
     QString m_path;
+    QByteArray m_bytes; ///< of the .glb, or the .gltf's without the names of the others
+    QByteArray m_buffer;
+    std::vector<GltfImage> m_images;
     QStringList m_imageNames;
 };

@@ -19,6 +19,7 @@ constexpr int Alignment = 4;
 constexpr quint32 GlbMagic = 0x46546C67; // "glTF"
 constexpr quint32 GlbVersion = 2;
 constexpr int HeaderSize = 12;
+constexpr int ChunkHeaderSize = 8;
 constexpr quint32 JsonChunkType = 0x4E4F534A;
 constexpr quint32 BinaryChunkType = 0x004E4942;
 
@@ -37,12 +38,9 @@ void appendNumber(QByteArray &bytes, quint32 number)
     bytes.append(reinterpret_cast<const char *>(&stored), sizeof stored);
 }
 
-void appendChunk(QByteArray &bytes, quint32 type, const QByteArray &content, char padding)
+int paddingOf(qint64 size)
 {
-    const int rest = -content.size() & (Alignment - 1);
-    appendNumber(bytes, quint32(content.size() + rest));
-    appendNumber(bytes, type);
-    bytes += content + QByteArray(rest, padding);
+    return int(-size & (Alignment - 1));
 }
 
 QJsonObject viewEntry(qint64 offset, qint64 size)
@@ -209,48 +207,75 @@ QByteArray GltfWriter::glb() const
     QJsonObject whole = root();
     QJsonArray allViews = views();
     QJsonArray images;
-    QByteArray bytes = m_buffer;
+    qint64 size = m_buffer.size();
     for (const GltfImage &image : m_images) {
-        bytes.append(-bytes.size() & (Alignment - 1), '\0');
+        size += paddingOf(size);
         images.append(QJsonObject{{QStringLiteral("name"), QFileInfo(image.fileName).completeBaseName()},
                                   {QStringLiteral("mimeType"), image.mimeType},
                                   {QStringLiteral("bufferView"), allViews.size()}});
-        allViews.append(viewEntry(bytes.size(), image.bytes.size()));
-        bytes += image.bytes;
+        allViews.append(viewEntry(size, image.bytes.size()));
+        size += image.bytes.size();
     }
     insertLists(whole, allViews, images);
-    if (!bytes.isEmpty()) {
+    if (size > 0)
         whole.insert(QStringLiteral("buffers"),
-                     QJsonArray{QJsonObject{{QStringLiteral("byteLength"), bytes.size()}}});
-    }
+                     QJsonArray{QJsonObject{{QStringLiteral("byteLength"), size}}});
+    QByteArray json = QJsonDocument(whole).toJson(QJsonDocument::Compact);
+    json.append(paddingOf(json.size()), ' ');
+    const qint64 chunk = size + paddingOf(size);
 
-    QByteArray chunks;
-    appendChunk(chunks, JsonChunkType, QJsonDocument(whole).toJson(QJsonDocument::Compact), ' ');
-    if (!bytes.isEmpty())
-        appendChunk(chunks, BinaryChunkType, bytes, '\0');
+    // All at once: these may be many.
     QByteArray file;
+    const qint64 fileSize =
+        HeaderSize + ChunkHeaderSize + json.size() + (size > 0 ? ChunkHeaderSize + chunk : 0);
+    file.reserve(int(fileSize));
     appendNumber(file, GlbMagic);
     appendNumber(file, GlbVersion);
-    appendNumber(file, quint32(chunks.size() + HeaderSize));
-    return file + chunks;
+    appendNumber(file, quint32(fileSize));
+    appendNumber(file, quint32(json.size()));
+    appendNumber(file, JsonChunkType);
+    file += json;
+    if (size == 0)
+        return file;
+    appendNumber(file, quint32(chunk));
+    appendNumber(file, BinaryChunkType);
+    file += m_buffer;
+    for (const GltfImage &image : m_images) {
+        file.append(paddingOf(file.size()), '\0');
+        file += image.bytes;
+    }
+    file.append(paddingOf(file.size()), '\0');
+    return file;
 }
 
-QByteArray GltfWriter::gltf(const QString &bufferName, const QStringList &imageNames) const
+QByteArray GltfWriter::json() const
+{
+    QJsonObject whole = root();
+    insertLists(whole, views(), {});
+    return QJsonDocument(whole).toJson(QJsonDocument::Indented);
+}
+
+QByteArray GltfWriter::withNames(const QByteArray &json, const QString &bufferName, int bufferSize,
+                                 const std::vector<GltfImage> &images, const QStringList &imageNames)
 {
     const auto uri = [](const QString &name) { return QString::fromLatin1(QUrl::toPercentEncoding(name)); };
-    QJsonObject whole = root();
-    QJsonArray images;
+    QJsonArray entries;
     for (int i = 0; i < imageNames.size(); ++i) {
-        const GltfImage &image = m_images[size_t(i)];
-        images.append(QJsonObject{{QStringLiteral("name"), QFileInfo(image.fileName).completeBaseName()},
-                                  {QStringLiteral("mimeType"), image.mimeType},
-                                  {QStringLiteral("uri"), uri(imageNames[i])}});
+        const GltfImage &image = images[size_t(i)];
+        entries.append(QJsonObject{{QStringLiteral("name"), QFileInfo(image.fileName).completeBaseName()},
+                                   {QStringLiteral("mimeType"), image.mimeType},
+                                   {QStringLiteral("uri"), uri(imageNames[i])}});
     }
-    insertLists(whole, views(), images);
-    if (!m_buffer.isEmpty()) {
-        whole.insert(QStringLiteral("buffers"),
-                     QJsonArray{QJsonObject{{QStringLiteral("byteLength"), m_buffer.size()},
+    QJsonObject files;
+    insertLists(files, {}, entries);
+    if (bufferSize > 0) {
+        files.insert(QStringLiteral("buffers"),
+                     QJsonArray{QJsonObject{{QStringLiteral("byteLength"), bufferSize},
                                             {QStringLiteral("uri"), uri(bufferName)}}});
     }
-    return QJsonDocument(whole).toJson(QJsonDocument::Indented);
+    if (files.isEmpty())
+        return json;
+    // The fields of both objects, the first of which is never empty.
+    const QByteArray more = QJsonDocument(files).toJson(QJsonDocument::Indented);
+    return json.left(json.lastIndexOf('}')).trimmed() + ",\n" + more.mid(more.indexOf('\n') + 1);
 }

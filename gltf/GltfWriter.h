@@ -53,8 +53,11 @@ public:
 
     /// The whole as one binary file.
     QByteArray glb() const;
-    /// The JSON alone, which names the buffer's file and, by their numbers, those of the pictures.
-    QByteArray gltf(const QString &bufferName, const QStringList &imageNames) const;
+    /// The JSON alone, without the names of the files beside it.
+    QByteArray json() const;
+    /// The same text with the names of the buffer's file, which has so many bytes, and of the pictures'.
+    static QByteArray withNames(const QByteArray &json, const QString &bufferName, int bufferSize,
+                                const std::vector<GltfImage> &images, const QStringList &imageNames);
 
 private:
     int addView(const char *bytes, qint64 size, Purpose purpose, qint64 &offset);

@@ -31,7 +31,8 @@
 #include <QStatusBar>
 
 namespace {
-constexpr size_t MostNamed = 3; ///< animations in a file's name
+constexpr size_t MostNamed = 3;      ///< animations in a file's name
+constexpr int PercentOfContent = 75; ///< of the time of a glTF export; the bytes of the files take the rest
 
 /// A kind of file that an export can be saved as.
 struct ExportFormat
@@ -108,7 +109,7 @@ bool runJob(ImportWorker &worker, const WorkerJob &job, const StaticMesh &mesh, 
 
 struct GltfOutcome
 {
-    GltfWriter content;
+    std::optional<GltfFiles> files; ///< none after an error, or when it was given up
     ImportMessages messages;
 };
 } // namespace
@@ -226,35 +227,39 @@ void ModelExport::exportGltf(const std::vector<int> &blocks, const QString &titl
     source.name = QFileInfo(document.fileName()).completeBaseName();
     source.gamePath = Settings::GamePath.value();
     source.outputDir = Settings::OutputDir.value();
-    ImportMessages messages;
     const bool animated = !isStatic && m_anim.isOpen();
     source.names = namesFor(isStatic ? ModelNames() : ModelNames::of(m_skinnedMesh.model()),
                             animated ? &m_anim.model() : nullptr);
+    std::atomic_int percent{0};
     // The thread works on models of its own: what is open may be replaced meanwhile.
-    auto work = [=, skinned = isStatic ? SkinnedMesh() : m_skinnedMesh.model(),
+    auto work = [=, &percent, skinned = isStatic ? SkinnedMesh() : m_skinnedMesh.model(),
                  anim = animated ? m_anim.model() : AnimFile(),
                  rigid =
                      isStatic ? m_staticMesh.model() : StaticMesh()](const Background::Cancelled &cancelled) {
         GltfOutcome outcome;
         GltfSource from = source;
         from.isCancelled = [&cancelled] { return cancelled.load(); };
-        outcome.content =
+        from.tellDone = [&percent](double done) { percent = int(done * PercentOfContent); };
+        const GltfWriter content =
             isStatic ? ::exportGltf(rigid, from, outcome.messages)
                      : ::exportGltf(skinned, animated ? &anim : nullptr, blocks, from, outcome.messages);
+        percent = PercentOfContent;
+        if (!cancelled && !outcome.messages.hasError())
+            outcome.files.emplace(content, path);
         return outcome;
     };
-    const std::optional<GltfOutcome> outcome =
-        workWithPatience(std::move(work), tr("Exporting '%1'").arg(QFileInfo(path).fileName()), m_window);
+    std::optional<GltfOutcome> outcome = workWithPatience(
+        std::move(work), tr("Exporting '%1'").arg(QFileInfo(path).fileName()), m_window, &percent);
     if (!outcome)
         return;
-    messages.lines += outcome->messages.lines;
-    if (!messages.hasError()) {
-        GltfFiles files(outcome->content, path);
-        if (!ReplacePrompt::settle(files, title, m_window))
+    ImportMessages &messages = outcome->messages;
+    if (outcome->files) {
+        if (!ReplacePrompt::settle(*outcome->files, title, m_window))
             return;
-        if (!files.write(messages)) {
-            messages.addInfo(tr("[glTF Export] Exported '%1'").arg(QDir::toNativeSeparators(files.path())));
-            tellExported(files.path());
+        if (!outcome->files->write(messages)) {
+            const QString written = outcome->files->path();
+            messages.addInfo(tr("[glTF Export] Exported '%1'").arg(QDir::toNativeSeparators(written)));
+            tellExported(written);
         }
     }
     report(messages);

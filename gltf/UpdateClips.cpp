@@ -241,10 +241,10 @@ UpdateClips::Timing UpdateClips::timingOf(const GltfScene::Animation &animation)
     return timing;
 }
 
-/// `block` says where bones are that the file does not have; without one they rest. `times` are in the file's
-/// time.
+/// `times` are in the file's time. `block`, which begins at `start` of it, says where bones are that the file
+/// does not have; without one they rest.
 UpdateClips::Poses UpdateClips::posesAt(const GltfScene::Animation &animation,
-                                        const std::vector<float> &times, const AnimBlock *block)
+                                        const std::vector<float> &times, const AnimBlock *block, float start)
 {
     Poses poses;
     m_pose.setAnimation(&animation);
@@ -264,7 +264,7 @@ UpdateClips::Poses UpdateClips::posesAt(const GltfScene::Animation &animation,
                     back * m_bones.frame(i, worlds[size_t(bone.node)], scale, back.inverse() * frames[i]);
             } else if (bone.isReached) {
                 const Rigid local = block && i < block->nodes.size()
-                                        ? localAt(*block, i, double(time * rate), Between::Slerp)
+                                        ? localAt(*block, i, double((time - start) * rate), Between::Slerp)
                                         : m_restLocals[i];
                 frames[i] = bone.parent >= 0 ? frames[size_t(bone.parent)] * local : local;
             }
@@ -305,7 +305,7 @@ bool UpdateClips::updateBlock(size_t number, const GltfScene::Animation &animati
     const bool endsEarlier = timing.last <= oldEnd - 0.999f * std::max(timing.gap, 0.5f / rate);
     const bool endsLater = timing.last > oldEnd + 0.25f / rate;
     int count = oldCount >= 2 && (endsEarlier || endsLater) ? int(lasting) : oldCount;
-    const Poses atKeys = posesAt(animation, timing.keys, &block);
+    const Poses atKeys = posesAt(animation, timing.keys, &block, timing.start);
     BlockTracks tracks(block, KeyTolerance(m_bones.size()));
     if (oldCount < 2 && timing.last > 0.0f && !tracks.holdsStill(atKeys.locals))
         count = int(lasting);
@@ -318,7 +318,7 @@ bool UpdateClips::updateBlock(size_t number, const GltfScene::Animation &animati
         times.push_back(timing.start + float(i) / rate);
     for (const float key : timing.keys)
         keyFrames.push_back(double((key - timing.start) * rate));
-    const Poses atFrames = posesAt(animation, times, &block);
+    const Poses atFrames = posesAt(animation, times, &block, timing.start);
     tracks.setFrameCount(count);
     tracks.setSampling({keyFrames, int(std::ceil(timing.first * rate - 0.01f)),
                         int(std::floor(timing.last * rate + 0.01f)), timing.gap * rate});
@@ -378,7 +378,7 @@ bool UpdateClips::addBlock(const GltfScene::Animation &animation)
     times.reserve(size_t(count));
     for (int i = 0; i < count; ++i)
         times.push_back(timing.keys.front() + float(i) / block.speed);
-    const Poses poses = posesAt(animation, times, nullptr);
+    const Poses poses = posesAt(animation, times, nullptr, timing.keys.front());
     BlockTracks tracks(block, KeyTolerance(m_bones.size()));
     tracks.setSampling({{}, 0, count - 1, 1.0});
     for (size_t i = 0; i < block.nodes.size(); ++i) {

@@ -49,7 +49,7 @@ private:
     Timing timingOf(const GltfScene::Animation &animation) const;
     std::vector<Rigid> localsOf(const std::vector<Rigid> &frames) const;
     Poses posesAt(const GltfScene::Animation &animation, const std::vector<float> &times,
-                  const AnimBlock *block);
+                  const AnimBlock *block, float start);
     bool updateBlock(size_t number, const GltfScene::Animation &animation);
     bool addBlock(const GltfScene::Animation &animation);
     bool spendFrames(int count);

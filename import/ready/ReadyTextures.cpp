@@ -32,16 +32,6 @@ QImage decoded(QIODevice &device)
     return reader.read();
 }
 
-/// The texture that gives a material its color.
-bool colorTexture(const aiMaterial &material, aiString &stored)
-{
-    for (const aiTextureType type : {aiTextureType_DIFFUSE, aiTextureType_BASE_COLOR}) {
-        if (material.GetTexture(type, 0, &stored) == aiReturn_SUCCESS && stored.length > 0)
-            return true;
-    }
-    return false;
-}
-
 /// Whether the file's colors are amounts of light, as renderers reckon, and not what goes to a screen.
 bool isLinear(const QString &modelPath)
 {
@@ -60,6 +50,15 @@ int channelOf(float value, bool isLinear)
     return qRound(shown * 255.0f);
 }
 } // namespace
+
+bool hasColorTexture(const aiMaterial &material, aiString &stored)
+{
+    for (const aiTextureType type : {aiTextureType_DIFFUSE, aiTextureType_BASE_COLOR}) {
+        if (material.GetTexture(type, 0, &stored) == aiReturn_SUCCESS && stored.length > 0)
+            return true;
+    }
+    return false;
+}
 
 QString plainName(const QString &name)
 {
@@ -81,7 +80,7 @@ ReadyTextures::ReadyTextures(const SceneSource &source, const QString &folder)
 QString ReadyTextures::fileFor(const aiMaterial &material, const QString &name)
 {
     aiString stored;
-    if (colorTexture(material, stored)) {
+    if (hasColorTexture(material, stored)) {
         const QString file = fileOf(stored, name);
         if (!file.isEmpty())
             return file;

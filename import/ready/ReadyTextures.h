@@ -34,5 +34,7 @@ private:
     QSet<QString> m_names; ///< of files in the folder, in small letters
 };
 
+/// Whether a texture gives the material its color; `stored` is what the file calls it.
+[[nodiscard]] bool hasColorTexture(const aiMaterial &material, aiString &stored);
 /// `name` in Latin-1 without blanks and signs that material files or systems give a meaning.
 QString plainName(const QString &name);

@@ -2,16 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
+#include "GltfParts.h"
+
 #include <QMatrix4x4>
 #include <QQuaternion>
 #include <QVector2D>
 
+#include <array>
 #include <map>
-#include <vector>
 
 /// A rig that a test makes: written as glTF, and posed by the textbook, which knows nothing of the importer.
 struct Rig
@@ -110,12 +108,12 @@ struct Rig
                 numbers.insert(numbers.end(), vertex.joints.begin(), vertex.joints.end());
                 weights.insert(weights.end(), vertex.weights.begin(), vertex.weights.end());
             }
-            QJsonObject attributes{{"POSITION", add("VEC3", 3, places)},
-                                   {"NORMAL", add("VEC3", 3, normals)},
-                                   {"TEXCOORD_0", add("VEC2", 2, uvs)}};
+            QJsonObject attributes{{"POSITION", m_parts.add("VEC3", 3, places)},
+                                   {"NORMAL", m_parts.add("VEC3", 3, normals)},
+                                   {"TEXCOORD_0", m_parts.add("VEC2", 2, uvs)}};
             if (mesh.front().weights[0] > 0.0f) {
-                attributes["JOINTS_0"] = add("VEC4", 4, numbers);
-                attributes["WEIGHTS_0"] = add("VEC4", 4, weights);
+                attributes["JOINTS_0"] = m_parts.add("VEC4", 4, numbers);
+                attributes["WEIGHTS_0"] = m_parts.add("VEC4", 4, weights);
             }
             writtenMeshes.append(
                 QJsonObject{{"primitives", QJsonArray{QJsonObject{{"attributes", attributes}}}}});
@@ -129,24 +127,15 @@ struct Rig
             writtenJoints.append(joints[j]);
             matrices.insert(matrices.end(), binds[j].constData(), binds[j].constData() + 16);
         }
-        QJsonObject root{
-            {"asset", QJsonObject{{"version", "2.0"}}},
-            {"scene", 0},
-            {"scenes", QJsonArray{QJsonObject{{"nodes", QJsonArray{0}}}}},
-            {"nodes", writtenNodes},
-            {"meshes", writtenMeshes},
-            {"skins", QJsonArray{QJsonObject{{"joints", writtenJoints},
-                                             {"inverseBindMatrices", add("MAT4", 16, matrices)}}}}};
         QJsonArray writtenClips;
         for (const Clip &clip : clips)
             writtenClips.append(clipObject(clip));
-        root["animations"] = writtenClips;
-        root["accessors"] = m_accessors;
-        root["bufferViews"] = m_views;
-        root["buffers"] = QJsonArray{QJsonObject{
-            {"byteLength", m_bytes.size()},
-            {"uri", QString::fromLatin1("data:application/octet-stream;base64," + m_bytes.toBase64())}}};
-        return QJsonDocument(root).toJson();
+        return m_parts.file(
+            {{"nodes", writtenNodes},
+             {"meshes", writtenMeshes},
+             {"skins", QJsonArray{QJsonObject{{"joints", writtenJoints},
+                                              {"inverseBindMatrices", m_parts.add("MAT4", 16, matrices)}}}},
+             {"animations", writtenClips}});
     }
 
 private:
@@ -192,40 +181,18 @@ private:
 
     QJsonObject clipObject(const Clip &clip)
     {
-        QJsonArray channels, samplers;
+        QJsonObject object{{"name", QString::fromLatin1(clip.name)}};
         for (const auto &[target, keys] : clip.channels) {
-            const int width = target.second == "rotation" ? 4 : 3;
             std::vector<float> times, values;
             for (const Key &key : keys) {
                 times.push_back(key.time);
-                for (int i = 0; i < width; ++i)
+                for (int i = 0; i < (target.second == "rotation" ? 4 : 3); ++i)
                     values.push_back(key.value[i]);
             }
-            channels.append(
-                QJsonObject{{"sampler", samplers.size()},
-                            {"target", QJsonObject{{"node", target.first},
-                                                   {"path", QString::fromLatin1(target.second)}}}});
-            samplers.append(QJsonObject{{"input", add("SCALAR", 1, times)},
-                                        {"output", add(width == 4 ? "VEC4" : "VEC3", width, values)}});
+            m_parts.addChannel(object, target.first, QString::fromLatin1(target.second), times, values);
         }
-        return {{"name", QString::fromLatin1(clip.name)}, {"channels", channels}, {"samplers", samplers}};
+        return object;
     }
 
-    /// Returns the number of the accessor.
-    template <typename T>
-    int add(const char *type, int width, const std::vector<T> &values)
-    {
-        const int bytes = int(values.size() * sizeof(T));
-        m_views.append(QJsonObject{{"buffer", 0}, {"byteOffset", m_bytes.size()}, {"byteLength", bytes}});
-        m_bytes.append(reinterpret_cast<const char *>(values.data()), bytes);
-        m_accessors.append(QJsonObject{{"bufferView", m_views.size() - 1},
-                                       {"componentType", sizeof(T) == 4 ? 5126 : 5123},
-                                       {"count", int(values.size()) / width},
-                                       {"type", type}});
-        return m_accessors.size() - 1;
-    }
-
-    QByteArray m_bytes;
-    QJsonArray m_views;
-    QJsonArray m_accessors;
+    GltfParts m_parts;
 };

@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
+#include "GltfParts.h"
+
 #include <QVector>
 
 #include <array>
@@ -37,17 +35,24 @@ public:
         QVector<Channel> channels;
     };
 
-    QByteArray file(const QVector<Animation> &animations)
+    /// Weights are stored as whole numbers on request, and the second corner follows two bones then.
+    QByteArray file(const QVector<Animation> &animations, bool wholeWeights = false)
     {
         // The accessors 0 to 3 below. The library crashes on a skin without matrices.
-        add<float, 3>("VEC3", {{0, 0, 0}, {10, 0, 0}, {0, 20, -30}});
-        add<quint16, 4>("VEC4", {{0, 0, 0, 0}, {1, 0, 0, 0}, {0, 0, 0, 0}});
-        add<float, 4>("VEC4", {{1, 0, 0, 0}, {1, 0, 0, 0}, {0.5, 0.5, 0, 0}});
-        add<float, 16>("MAT4", {3, {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1}});
+        m_parts.add("VEC3", 3, std::vector<float>{0, 0, 0, 10, 0, 0, 0, 20, -30});
+        m_parts.add("VEC4", 4, std::vector<quint16>{0, 0, 0, 0, 1, 2, 0, 0, 0, 0, 0, 0});
+        if (wholeWeights)
+            m_parts.add("VEC4", 4,
+                        std::vector<quint16>{65535, 0, 0, 0, 45535, 20000, 0, 0, 32768, 32767, 0, 0},
+                        GltfParts::Shares);
+        else
+            m_parts.add("VEC4", 4, std::vector<float>{1, 0, 0, 0, 1, 0, 0, 0, 0.5, 0.5, 0, 0});
+        const std::vector<float> identity{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
+        std::vector<float> matrices;
+        for (int joint = 0; joint < 3; ++joint)
+            matrices.insert(matrices.end(), identity.begin(), identity.end());
+        m_parts.add("MAT4", 16, matrices);
         QJsonObject root = QJsonDocument::fromJson(R"({
-            "asset": {"version": "2.0"},
-            "scene": 0,
-            "scenes": [{"nodes": [0]}],
             "nodes": [{"name": "scene", "children": [1, 4]},
                       {"name": "hips", "children": [2, 3], "translation": [1, 2, 3]},
                       {"name": "arm"},
@@ -63,54 +68,25 @@ public:
             written.append(animationObject(animation));
         if (!written.isEmpty())
             root["animations"] = written;
-        root["accessors"] = m_accessors;
-        root["bufferViews"] = m_views;
-        root["buffers"] = QJsonArray{QJsonObject{
-            {"byteLength", m_bytes.size()},
-            {"uri", QString::fromLatin1("data:application/octet-stream;base64," + m_bytes.toBase64())}}};
-        return QJsonDocument(root).toJson();
+        return m_parts.file(root);
     }
 
 private:
-    /// Returns the number of the accessor.
-    template <typename T, size_t Width>
-    int add(const char *type, const QVector<std::array<T, Width>> &rows)
-    {
-        const int bytes = rows.size() * int(sizeof(T) * Width);
-        m_views.append(QJsonObject{{"buffer", 0}, {"byteOffset", m_bytes.size()}, {"byteLength", bytes}});
-        m_bytes.append(reinterpret_cast<const char *>(rows.constData()), bytes);
-        m_accessors.append(QJsonObject{{"bufferView", m_views.size() - 1},
-                                       {"componentType", sizeof(T) == 4 ? 5126 : 5123},
-                                       {"count", rows.size()},
-                                       {"type", type}});
-        return m_accessors.size() - 1;
-    }
-
     QJsonObject animationObject(const Animation &animation)
     {
-        QJsonArray channels;
-        QJsonArray samplers;
+        QJsonObject object{{"name", animation.name}};
         for (const Channel &channel : animation.channels) {
-            QVector<std::array<float, 1>> times;
-            QVector<std::array<float, 3>> places;
-            QVector<std::array<float, 4>> rotations;
+            std::vector<float> times, values;
             for (const Key &key : channel.keys) {
-                times.append(std::array<float, 1>{key.time / 1000.0f});
-                places.append(std::array<float, 3>{key.value[0], key.value[1], key.value[2]});
-                rotations.append(key.value);
+                times.push_back(key.time / 1000.0f);
+                values.insert(values.end(), key.value.begin(),
+                              key.value.begin() + (channel.isRotation ? 4 : 3));
             }
-            channels.append(QJsonObject{
-                {"sampler", samplers.size()},
-                {"target", QJsonObject{{"node", channel.node},
-                                       {"path", channel.isRotation ? "rotation" : "translation"}}}});
-            samplers.append(
-                QJsonObject{{"input", add("SCALAR", times)},
-                            {"output", channel.isRotation ? add("VEC4", rotations) : add("VEC3", places)}});
+            m_parts.addChannel(object, channel.node, channel.isRotation ? "rotation" : "translation", times,
+                               values);
         }
-        return {{"name", animation.name}, {"channels", channels}, {"samplers", samplers}};
+        return object;
     }
 
-    QByteArray m_bytes;
-    QJsonArray m_views;
-    QJsonArray m_accessors;
+    GltfParts m_parts;
 };

@@ -115,6 +115,47 @@ private slots:
                  qPrintable(marked.losses.join('\n')));
     }
 
+    void asTheReadyImportHasIt()
+    {
+        // Weights in whole numbers, which the library takes for the bits of others, and a texture that it
+        // knows as a base color only.
+        const TestFolder folder;
+        const SceneSummary whole = survey(folder.put("whole.gltf", SmallGltf().file({}, true)));
+        QVERIFY2(whole.losses.contains("Vertices that follow several bones: 1 of 3. Each will follow the one "
+                                       "with the greatest weight."),
+                 qPrintable(whole.losses.join('\n')));
+        // The same places: the arm stands where the hips do.
+        QVERIFY(qFuzzyCompare(whole.size, survey(folder.put("plain.gltf", SmallGltf().file({}))).size));
+        const SceneSummary colored = survey(folder.put("base.fbx", R"(; FBX 7.3.0 project file
+FBXHeaderExtension: { FBXVersion: 7300 }
+Objects: {
+    Geometry: 1, "Geometry::", "Mesh" {
+        Vertices: *9 { a: 0,0,0,1,0,0,0,1,0 }
+        PolygonVertexIndex: *3 { a: 0,1,-3 }
+        LayerElementMaterial: 0 {
+            MappingInformationType: "AllSame"
+            ReferenceInformationType: "IndexToDirect"
+            Materials: *1 { a: 0 }
+        }
+        Layer: 0 {
+            LayerElement: { Type: "LayerElementMaterial" TypedIndex: 0 }
+        }
+    }
+    Model: 2, "Model::wall", "Mesh" { Version: 232 }
+    Material: 3, "Material::wall", "" { ShadingModel: "phong" }
+    Texture: 4, "Texture::skin", "" { FileName: "skin.png" RelativeFilename: "skin.png" }
+}
+Connections: {
+    C: "OO",2,0
+    C: "OO",1,2
+    C: "OO",3,2
+    C: "OP",4,3, "Maya|baseColor"
+}
+)"));
+        QCOMPARE(colored.textures.size(), size_t(1));
+        QCOMPARE(colored.textures[0].name, QStringLiteral("skin.png"));
+    }
+
     void whatIsNoModel()
     {
         const TestFolder folder;

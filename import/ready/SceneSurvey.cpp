@@ -3,6 +3,8 @@
 #include "SceneSurvey.h"
 
 #include "GltfFacts.h"
+#include "GltfWeights.h"
+#include "ReadyTextures.h"
 #include "SceneReading.h"
 #include "TextureSearch.h"
 
@@ -186,18 +188,30 @@ private:
         m_morphs += mesh.mNumAnimMeshes > 0 ? 1 : 0;
         m_manyUvs += mesh.GetNumUVChannels() > 1 ? 1 : 0;
         m_colored += mesh.GetNumColorChannels() > 0 ? 1 : 0;
-        std::vector<unsigned> weights(mesh.mNumBones > 0 ? mesh.mNumVertices : 0);
+        struct Followed
+        {
+            unsigned bones = 0;
+            unsigned last = 0; ///< a file may name a bone twice for a vertex
+        };
+        std::vector<Followed> vertices(mesh.mNumBones > 0 ? mesh.mNumVertices : 0);
         for (unsigned b = 0; b < mesh.mNumBones; ++b) {
             const aiBone &bone = *mesh.mBones[b];
             m_bones.insert(text(bone.mName));
             for (unsigned w = 0; w < bone.mNumWeights; ++w) {
                 const aiVertexWeight &weight = bone.mWeights[w];
-                if (weight.mVertexId < weights.size() && weight.mWeight > Noticed)
-                    ++weights[weight.mVertexId];
+                if (weight.mVertexId >= vertices.size() || !(weight.mWeight > Noticed))
+                    continue;
+                Followed &vertex = vertices[weight.mVertexId];
+                if (vertex.bones == 0 || vertex.last != b)
+                    vertex = {vertex.bones + 1, b};
             }
         }
-        m_skinned += std::count_if(weights.begin(), weights.end(), [](unsigned count) { return count > 0; });
-        m_shared += std::count_if(weights.begin(), weights.end(), [](unsigned count) { return count > 1; });
+        const auto follow = [&vertices](unsigned least) {
+            return std::count_if(vertices.begin(), vertices.end(),
+                                 [least](const Followed &vertex) { return vertex.bones >= least; });
+        };
+        m_skinned += follow(1);
+        m_shared += follow(2);
     }
 
     void addClip(const aiAnimation &animation)
@@ -241,7 +255,7 @@ private:
     void addTextures(const aiMaterial &material)
     {
         aiString stored;
-        if (material.GetTexture(aiTextureType_DIFFUSE, 0, &stored) == aiReturn_SUCCESS) {
+        if (hasColorTexture(material, stored)) {
             const QString name = text(stored);
             if (!m_knownTextures.contains(name)) {
                 m_knownTextures.insert(name);
@@ -316,10 +330,16 @@ SceneSummary surveyScene(const QString &modelPath, ImportMessages &messages)
     QStringList textures;
     Assimp::Importer importer;
     const SceneSource source{modelPath, {}, textures, messages};
-    const aiScene *scene =
-        readScene(importer, "Survey", source, aiProcess_Triangulate | aiProcess_JoinIdenticalVertices);
+    const aiScene *scene = readScene(importer, "Survey", source, 0);
     if (!scene)
         return {};
+    readGltfWeights(modelPath, *scene);
+    scene = importer.ApplyPostProcessing(aiProcess_Triangulate | aiProcess_JoinIdenticalVertices);
+    if (!scene) {
+        messages.addError(QCoreApplication::translate("Import", "%1 Could not read file. %2")
+                              .arg(modelPath, QString::fromUtf8(importer.GetErrorString())));
+        return {};
+    }
     SceneSummary summary = Survey(modelPath, *scene).summary(gltfFacts(modelPath));
     if (summary.triangles == 0)
         messages.addError(

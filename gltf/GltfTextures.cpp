@@ -4,23 +4,21 @@
 
 #include "GltfWriter.h"
 #include "ImportMessages.h"
+#include "PictureFile.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QImageReader>
 
 namespace {
-// A picture's header is not to be trusted with more memory than this, in pixels (256 MiB as RGBA).
-constexpr qint64 PixelLimit = 64 * 1024 * 1024;
 // As the view has it, of 255: what is fainter is a hole.
 constexpr int HoleAlpha = 2;
 
 enum GlFilter { Linear = 9729, LinearMipmapLinear = 9987 };
 constexpr int Repeat = 10497;
 
-struct Picture
+struct ExportPicture
 {
     GltfImage file;
     bool hasHoles = false;
@@ -42,7 +40,7 @@ bool hasHolesIn(QImage image)
 }
 
 /// Returns true on failure.
-bool readPicture(const QString &path, Picture &picture)
+bool readForExport(const QString &path, ExportPicture &picture)
 {
     QFile file(path);
     // Opening a pipe would wait for a writer for ever.
@@ -50,13 +48,8 @@ bool readPicture(const QString &path, Picture &picture)
         return true;
     picture.file.bytes = file.readAll();
     QBuffer bytes(&picture.file.bytes);
-    QImageReader reader(&bytes);
-    reader.setDecideFormatFromContent(true);
-    const QSize size = reader.size();
-    if (size.isValid() && qint64(size.width()) * size.height() > PixelLimit)
-        return true;
-    const QByteArray format = reader.format();
-    const QImage image = reader.read();
+    bytes.open(QIODevice::ReadOnly);
+    const auto [image, format] = readPicture(bytes);
     if (image.isNull())
         return true;
     bytes.close();
@@ -104,9 +97,9 @@ GltfTextures::Texture GltfTextures::find(const QString &materialPath)
 GltfTextures::Texture GltfTextures::add(const QString &name)
 {
     const QStringList paths = m_materials.candidates(name);
-    Picture picture;
-    const auto isPicture = [&picture](const QString &path) { return !readPicture(path, picture); };
-    if (std::none_of(paths.begin(), paths.end(), isPicture)) {
+    ExportPicture picture;
+    const auto serves = [&picture](const QString &path) { return !readForExport(path, picture); };
+    if (std::none_of(paths.begin(), paths.end(), serves)) {
         m_messages.addWarning(
             warning(QCoreApplication::translate("Import", "Texture '%1' not found, or it cannot be read")
                         .arg(paths.isEmpty() ? name : paths.last())));

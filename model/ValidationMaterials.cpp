@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "BinaryFileWriter.h"
 #include "MaterialFiles.h"
+#include "PictureFile.h"
 #include "ValidationParts.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QImageReader>
 #include <QSet>
 
 #include <algorithm>
@@ -24,11 +24,6 @@ QString list(const QStringList &paths)
     return shown.join(QLatin1String(", "));
 }
 
-bool isImage(const QString &path)
-{
-    // Opening a pipe would wait for a writer for ever.
-    return QFileInfo(path).isFile() && QImageReader(path).canRead();
-}
 } // namespace
 
 void checkMaterials(FindingCollector &found, const QStringList &materialPaths, RecordKind surfaceKind,
@@ -75,7 +70,7 @@ void checkMaterials(FindingCollector &found, const QStringList &materialPaths, R
             });
         } else if (!material.texture.isEmpty() && material.texture != MaterialFiles::Blank) {
             const QStringList tried = files.candidates(material.texture);
-            if (std::any_of(tried.begin(), tried.end(), isImage))
+            if (std::any_of(tried.begin(), tried.end(), isPicture))
                 continue;
             found.add(Rule::TextureNotFound, place, [&] {
                 return Texts::tr("Surface %1 is drawn white: the texture '%2' of its material '%3' is no "
@@ -114,7 +109,7 @@ std::vector<Finding> validate(const MaterialTable &materials, const MaterialFold
     for (const auto &[name, texture] : materials) {
         const QStringList tried = files.candidates(texture);
         if (texture == MaterialFiles::Blank ||
-            (!texture.isEmpty() && std::any_of(tried.begin(), tried.end(), isImage)))
+            (!texture.isEmpty() && std::any_of(tried.begin(), tried.end(), isPicture)))
             continue;
         found.add(Rule::TextureNotFound, {}, [&name = name, &texture = texture, &tried] {
             return texture.isEmpty()

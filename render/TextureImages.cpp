@@ -2,18 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "TextureImages.h"
 
+#include "PictureFile.h"
+
 #include <QCache>
 #include <QDateTime>
 #include <QFileInfo>
-#include <QImageReader>
 #include <QMutex>
 
 #include <memory>
 #include <mutex>
 
 namespace {
-// A picture's header is not to be trusted with more memory than this, in pixels (256 MiB as RGBA).
-constexpr qint64 PixelLimit = 64 * 1024 * 1024;
 constexpr qint64 CostUnit = 1024; // bytes
 
 struct Texture
@@ -41,11 +40,7 @@ Kept &kept()
 
 QImage decode(const QString &path)
 {
-    QImageReader reader(path);
-    const QSize size = reader.size();
-    if (size.isValid() && qint64(size.width()) * size.height() > PixelLimit)
-        return {};
-    return reader.read().convertToFormat(QImage::Format_RGBA8888);
+    return readPicture(path).image.convertToFormat(QImage::Format_RGBA8888);
 }
 
 /// The entry of this state of the file, which has no image until somebody decodes it.

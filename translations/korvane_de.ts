@@ -43,6 +43,10 @@
         <source>Licenses of what is built in</source>
         <translation>Lizenzen der enthaltenen Teile</translation>
     </message>
+    <message>
+        <source>MIT or public domain</source>
+        <translation>MIT oder gemeinfrei</translation>
+    </message>
 </context>
 <context>
     <name>AnimActionPage</name>

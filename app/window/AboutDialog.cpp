@@ -23,6 +23,8 @@ const BuiltIn builtIn[] = {
     {"Korvane", "", QT_TRANSLATE_NOOP("AboutDialog", "MIT")},
     {"Qt %1", "https://www.qt.io", QT_TRANSLATE_NOOP("AboutDialog", "LGPL version 3")},
     {"Assimp", "https://www.assimp.org", QT_TRANSLATE_NOOP("AboutDialog", "BSD, 3 clauses")},
+    {"stb_image", "https://github.com/nothings/stb",
+     QT_TRANSLATE_NOOP("AboutDialog", "MIT or public domain")},
     {"Lucide", "https://lucide.dev", QT_TRANSLATE_NOOP("AboutDialog", "ISC, some icons MIT")}};
 
 QString licenceTable()

@@ -2,16 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "ReadyTextures.h"
 
+#include "PictureFile.h"
 #include "TextureSearch.h"
 
 #include <QBuffer>
 #include <QColor>
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QImage>
-#include <QImageReader>
 
 #include <assimp/material.h>
 
@@ -20,17 +19,6 @@
 namespace {
 constexpr int LongestName = 100; // characters; file systems take 255 bytes
 constexpr int SwatchSize = 8;    // texels; a size that every card takes
-/// What a file says of itself is believed up to here: decoded it is 1 GiB.
-constexpr int LargestSide = 16384;
-
-QImage decoded(QIODevice &device)
-{
-    QImageReader reader(&device);
-    const QSize size = reader.size();
-    if (size.width() > LargestSide || size.height() > LargestSide)
-        return {};
-    return reader.read();
-}
 
 /// Whether the file's colors are amounts of light, as renderers reckon, and not what goes to a screen.
 bool isLinear(const QString &modelPath)
@@ -106,12 +94,10 @@ QString ReadyTextures::fileOf(const aiString &stored, const QString &name)
         m_source.messages.addWarning(
             QCoreApplication::translate("Import", "%1 Material '%2': its texture '%3' was not found")
                 .arg(m_source.modelPath, name, key));
-    } else if (found.endsWith(QLatin1String(".png")) && plainName(base) == base &&
-               QImageReader(found).canRead()) {
+    } else if (found.endsWith(QLatin1String(".png")) && plainName(base) == base && isPicture(found)) {
         file = found;
     } else {
-        QFile bytes(found);
-        const QImage image = bytes.open(QIODevice::ReadOnly) ? decoded(bytes) : QImage();
+        const QImage image = readPicture(found).image;
         if (image.isNull())
             m_source.messages.addWarning(
                 QCoreApplication::translate(
@@ -131,8 +117,8 @@ QString ReadyTextures::writeEmbedded(const aiTexture &texture, const QString &na
             QByteArray::fromRawData(reinterpret_cast<const char *>(texture.pcData), int(texture.mWidth));
         QBuffer buffer(&bytes);
         if (buffer.open(QIODevice::ReadOnly))
-            image = decoded(buffer);
-    } else if (texture.mWidth <= unsigned(LargestSide) && texture.mHeight <= unsigned(LargestSide)) {
+            image = readPicture(buffer).image;
+    } else if (quint64(texture.mWidth) * texture.mHeight <= quint64(MostPixels)) {
         // Texels are blue, green, red, alpha, which in memory is what the toolkit calls ARGB.
         image = QImage(reinterpret_cast<const uchar *>(texture.pcData), int(texture.mWidth),
                        int(texture.mHeight), QImage::Format_ARGB32);

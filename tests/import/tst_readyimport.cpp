@@ -184,14 +184,16 @@ private slots:
         red.fill(Qt::red);
         QVERIFY(red.save(m_folder.path("Rote Wand.jpg")));
         QVERIFY(red.save(m_folder.path("steel.png")));
+        m_folder.put("tarn.tga", QByteArray::fromHex("000002000000000000000000010001001800ff0000"));
         m_folder.put(
             "m.mtl",
-            "newmtl a\nmap_Kd C:\\old\\disk\\Rote Wand.jpg\n"
+            "newmtl a\nmap_Kd C:\\old\\disk\\Rote Wand.jpg\nnewmtl t\nmap_Kd tarn.tga\n"
             "newmtl b\nKd 0 0.5 0\nnewmtl c\nKd 0 0.5 0\n" // differ by their names only
             "newmtl \xD0\xBA\xD0\xBE\xD1\x82\nmap_Kd steel.png\nnewmtl snow_white\nmap_Kd steel.png\n"
             "newmtl plain\nKd 1 1 1\nnewmtl unused\nKd 1 0 0\nnewmtl gone\nKd 1 1 1\nmap_Kd gone.png\n");
         QByteArray obj = "mtllib m.mtl\nv 0 0 0\nv 1 0 0\nv 0 1 0\nvt 0 0\n";
-        for (const char *name : {"a", "b", "c", "\xD0\xBA\xD0\xBE\xD1\x82", "snow_white", "plain", "gone"})
+        for (const char *name :
+             {"a", "t", "b", "c", "\xD0\xBA\xD0\xBE\xD1\x82", "snow_white", "plain", "gone"})
             obj += QByteArray("usemtl ") + name + "\nf 1/1 2/1 3/1\n";
         const StaticMesh mesh = importStatic(m_folder.put("two words.obj", obj));
         QStringList names;
@@ -199,16 +201,18 @@ private slots:
             names += surface.materialPath.section('/', -1);
         names.sort();
         // Material files end a value at a blank, and a name in "_white" says that there is no texture.
-        QCOMPARE(names, QStringList({"___", "a", "b", "c", "gone_white", "plain_white", "snow_white_1"}));
+        QCOMPARE(names,
+                 QStringList({"___", "a", "b", "c", "gone_white", "plain_white", "snow_white_1", "t"}));
         QStringList files;
         for (const QString &texture : m_textures) {
             files += QFileInfo(texture).fileName();
             QVERIFY(!QImage(texture).isNull());
         }
         files.sort();
-        QCOMPARE(files, QStringList({"Rote_Wand.png", "steel.png", "steel.png", "two_words_b.png",
+        QCOMPARE(files, QStringList({"Rote_Wand.png", "steel.png", "steel.png", "tarn.png", "two_words_b.png",
                                      "two_words_c.png"}));
         QVERIFY(m_textures.contains(m_folder.path("steel.png"))); // as it is
+        QCOMPARE(QImage(m_folder.path("job/tarn.png")).pixelColor(0, 0), QColor(Qt::blue));
         QCOMPARE(QImage(m_folder.path("job/two_words_b.png")).pixelColor(0, 0), QColor(0, 128, 0));
         QCOMPARE(lines(LogSeverity::Warning),
                  QStringList("two words.obj Material 'gone': its texture 'gone.png' was not found"));

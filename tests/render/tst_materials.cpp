@@ -70,7 +70,10 @@ void tst_Materials::initTestCase()
     write("game", "a",
           material("both", "textures/both.png") + material("mod", "textures/mod.png") +
               material("white", "_white") + material("lost", "textures/lost.png") +
-              QStringLiteral("material empty {\n}\n") + material("tinted_white", "textures/both.png"));
+              material("targa", "textures/blue.tga") + QStringLiteral("material empty {\n}\n") +
+              material("tinted_white", "textures/both.png"));
+    QVERIFY(TestSupport::writeFile(m_folder.path() + QStringLiteral("/mod/textures/blue.tga"),
+                                   QByteArray::fromHex("000002000000000000000000010001001800ff0000")));
     write("mod", "a", material("only_mod", "textures/mod.png"));
     write("mod", "b", material("both", "textures/mod.png"));
     write("game", "broken", QStringLiteral("sampler \"diffuse\" 0 \"x.png\" {\n"));
@@ -112,6 +115,7 @@ void tst_Materials::lookUp()
     const Row rows[] = {
         {"materials/a/both", Qt::red, {}},  // the game before the mod
         {"materials/a/mod", Qt::green, {}}, // only in the mod
+        {"materials/a/targa", Qt::blue, {}},
         {"materials/b/both", Qt::green, {}},
         {"materials/a/white", Blank, {}},
         {"materials/a/tinted_white", Qt::red, {}}, // a _white name that has an entry

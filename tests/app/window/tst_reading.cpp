@@ -83,7 +83,7 @@ private slots:
     {
         CommunityTab tab;
         const QStringList links = Page(tab.document()).links;
-        QCOMPARE(links.size(), 5);
+        QCOMPARE(links.size(), 6);
         for (const QString &link : links) {
             QVERIFY2(isWebLink(link), qPrintable(link));
             emit tab.anchorClicked(QUrl(link));
@@ -101,7 +101,8 @@ private slots:
         QCOMPARE(label("lblVersion")->text(), QStringLiteral("Korvane v7.8.9"));
         QVERIFY(!label("lblIcon")->pixmap(Qt::ReturnByValue).isNull());
         const QString licences = label("lblLicences")->text();
-        for (const char *word : {"Korvane", "MIT", "Qt 5.", "LGPL", "Assimp", "BSD", "Lucide", "ISC"})
+        for (const char *word :
+             {"Korvane", "MIT", "Qt 5.", "LGPL", "Assimp", "BSD", "stb_image", "Lucide", "ISC"})
             QVERIFY2(licences.contains(QLatin1String(word)), word);
         emit label("lblLicences")->linkActivated(QStringLiteral("https://lucide.dev"));
         QCOMPARE(m_opened, QStringList("https://lucide.dev"));

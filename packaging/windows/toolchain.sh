@@ -1,0 +1,278 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: The Korvane developers
+# SPDX-License-Identifier: MIT
+#
+# toolchain.sh CACHE: what Korvane is built against for 64-bit Windows, from the source packages of Debian 12:
+# the toolkit, the library that reads foreign files and a software OpenGL, installed under CACHE/root. A step that
+# was done with the same version and options is not done again; one that was interrupted goes on where it was.
+set -euo pipefail
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+[[ -n ${1:-} ]] || {
+    echo "usage: toolchain.sh CACHE" >&2
+    exit 2
+}
+mkdir -p "$1/log" "$1/done"
+cache=$(realpath "$1")
+prefix=$cache/root
+triple=x86_64-w64-mingw32
+jobs=${JOBS:-$(nproc)}
+# Those of the distribution, whatever the user has put before them.
+PATH=/usr/sbin:/usr/bin:/sbin:/bin
+
+say() { printf '== %(%T)T %s\n' -1 "$*"; }
+die() {
+    printf 'toolchain: %s\n' "$*" >&2
+    exit 1
+}
+
+# logged NAME COMMAND...: the end of what the command says is shown when it fails.
+logged() {
+    local log=$cache/log/$1.log
+    shift
+    "$@" >"$log" 2>&1 </dev/null || {
+        tail -n 40 "$log" >&2
+        die "$* failed; all that it said is in $log"
+    }
+}
+
+# step NAME SOURCE: build_NAME, unless what it says of itself is what was built last: the version of the source
+# package, what is changed in it, and how it is built.
+step() {
+    local name=$1 source=$2 made_of began=$SECONDS
+    fetch "$source"
+    made_of=$(cat "$cache/sources/$source"/.{version,edits} && declare -p "${name}_options" && declare -f "build_$name")
+    if [[ -e $cache/done/$name && $(<"$cache/done/$name") == "$made_of" ]]; then
+        return
+    fi
+    # What was begun in another way is of no use.
+    if [[ ! -e $cache/done/$name.begun || $(<"$cache/done/$name.begun") != "$made_of" ]]; then
+        rm -rf "${cache:?}/$name"
+    fi
+    rm -f "$cache/done/$name"
+    echo "$made_of" >"$cache/done/$name.begun"
+    # On its own: a folder that it goes to is left again.
+    ("build_$name")
+    mv "$cache/done/$name.begun" "$cache/done/$name"
+    say "$name took $((SECONDS - began)) s"
+}
+
+# --- Source packages ---------------------------------------------------------------------------------------
+# Where they come from is what the system's own lists of packages say, read as lists of sources; apt and
+# dpkg-source check what arrives against their signed index.
+
+# apt_sources: apt-get with lists of its own, in $cache/apt.
+apt_sources() {
+    apt-get -q -o Dir::Etc::sourcelist="$cache/apt/sources.list" -o Dir::Etc::sourceparts="$cache/apt/parts" \
+        -o Dir::State::Lists="$cache/apt/lists" -o Dir::Cache="$cache/apt/cache" -o APT::Sandbox::User=root "$@"
+}
+
+# Both forms in which a system names its sources: one line each, or a paragraph each.
+list_sources() {
+    local file
+    rm -rf "$cache/apt/parts" "$cache/apt/sources.list"
+    mkdir -p "$cache/apt/parts" "$cache/apt/lists/partial" "$cache/apt/cache/archives/partial"
+    for file in /etc/apt/sources.list /etc/apt/sources.list.d/*.list; do
+        [[ ! -e $file ]] || sed -nE 's/^deb(-src)?([[:space:]])/deb-src\2/p' "$file"
+    done | sort -u >"$cache/apt/sources.list"
+    for file in /etc/apt/sources.list.d/*.sources; do
+        [[ ! -e $file ]] || sed -E 's/^Types:.*/Types: deb-src/' "$file" >"$cache/apt/parts/${file##*/}"
+    done
+    # One that has no sources is no reason to stop: a package that is not found is.
+    apt_sources update || say "Not every list of sources could be read"
+}
+
+# fetch NAME...: the source packages are in $cache/sources/NAME, unpacked and changed by edit_NAME where there is
+# one.
+fetch() {
+    local name edits folder=$cache/sources wanted=()
+    for name in "$@"; do
+        edits=$(declare -f "edit_$name" || true)
+        [[ -e $folder/$name/.edits && $(<"$folder/$name/.edits") == "$edits" ]] || wanted+=("$name")
+    done
+    ((${#wanted[@]})) || return 0
+    say "Sources: ${wanted[*]}"
+    logged sources-lists list_sources
+    mkdir -p "$folder/packages"
+    for name in "${wanted[@]}"; do
+        (cd "$folder/packages" && logged "sources-$name" apt_sources source --download-only --only-source "$name")
+        rm -rf "${folder:?}/$name" "$folder/$name.new"
+        (cd "$folder" && logged "sources-$name-unpack" dpkg-source -x "$(newest_dsc "$name")" "$name.new")
+        sed -n 's/^Version: //p' "$(newest_dsc "$name")" | head -n 1 >"$folder/$name.new/.version"
+        edits=$(declare -f "edit_$name" || true)
+        [[ -z $edits ]] || (cd "$folder/$name.new" && "edit_$name")
+        echo "$edits" >"$folder/$name.new/.edits"
+        mv "$folder/$name.new" "$folder/$name"
+    done
+}
+
+newest_dsc() { find "$cache/sources/packages" -name "$1_*.dsc" -printf '%T@ %p\n' | sort -n | tail -n 1 | cut -d ' ' -f 2-; }
+
+version_of() { cat "$cache/sources/$1/.version"; }
+
+# edit FILE EXPRESSION: sed, which must have changed something.
+edit() {
+    local before
+    before=$(cksum "$1")
+    sed -i -E "$2" "$1"
+    [[ $(cksum "$1") != "$before" ]] || die "$PWD/$1 is not as expected: nothing to change by $2"
+}
+
+# --- Qt ----------------------------------------------------------------------------------------------------
+# What Korvane and its tests use of it, as DLLs. The host's own moc, rcc, uic and qmake of the same version make
+# it, so none is built here.
+
+qt_options=(
+    -opensource -confirm-license -xplatform win32-g++ -device-option "CROSS_COMPILE=$triple-"
+    -release -shared -schannel -no-openssl -no-dbus -no-icu -no-fontconfig
+    # The driver's OpenGL is looked for at the start; without one it is opengl32sw.dll, if that is there.
+    -opengl dynamic
+    -qt-zlib -qt-libpng -qt-libjpeg -qt-freetype -qt-harfbuzz -qt-pcre -qt-doubleconversion
+    # Debian leaves out the header of tablets.
+    -no-feature-tabletevent
+    -no-feature-sql -no-feature-xml -no-feature-direct2d -no-feature-printer -no-feature-vulkan
+    -no-feature-graphicsview -no-feature-statemachine -no-feature-concurrent -no-feature-calendarwidget
+    -no-feature-mdiarea -no-feature-wizard -no-feature-dial -no-feature-lcdnumber -no-feature-ftp -no-feature-dtls
+    -no-feature-sctp -no-feature-networkdiskcache -no-feature-textodfwriter -no-feature-tuiotouch
+    -nomake examples -nomake tests -no-compile-examples
+)
+qt_host=/usr/lib/qt5/bin
+
+edit_qtbase-opensource-src() {
+    # With the host's tools no other qmake is needed, but configure would build one all the same.
+    # shellcheck disable=SC2016 # the script's own
+    edit configure 's|^( *)(\(cd "\$outpath/qmake"; "\$MAKE" -s\)) .. exit 2|\1[ -n "$CFG_HOST_QT_TOOLS_PATH" ] \|\| \2 \|\| exit 2|'
+    # Names of libraries in the case that they have here.
+    edit src/network/ssl/ssl.pri 's/-lSecur32/-lsecur32/; s/-lCrypt32/-lcrypt32/'
+    # Headers of what could stand for a driver's OpenGL, and is not built.
+    # shellcheck disable=SC2016 # the project file's
+    edit src/plugins/platforms/windows/windows.pri 's|^INCLUDEPATH \+= \$\$PWD|& $$QT_SOURCE_TREE/src/3rdparty/angle/include|'
+    # The same sources make the same files.
+    edit mkspecs/common/g++-win32.conf '/^QMAKE_LFLAGS_RELEASE /s/$/ -Wl,--no-insert-timestamp/'
+    # Nothing in Gui or Widgets uses it.
+    edit src/gui/gui.pro 's|^include\(rhi/rhi\.pri\)|# &|'
+}
+
+build_qt() {
+    local source=$cache/sources/qtbase-opensource-src build=$cache/qt part here there
+    local plugins=(plugins/{platforms/windows,imageformats/{jpeg,gif,ico},styles/windowsvista})
+    # In the order in which one needs the other.
+    local parts=(
+        3rdparty/pcre2 corelib winmain 3rdparty/harfbuzz-ng 3rdparty/libpng 3rdparty/libjpeg 3rdparty/freetype gui
+        platformsupport/{eventdispatchers,fontdatabases,themes,accessibility,windowsuiautomation}
+        network widgets testlib "${plugins[@]}"
+    )
+    here=$(sed -n 's/^MODULE_VERSION = //p' "$source/.qmake.conf")
+    there=$("$qt_host/qmake" -query QT_VERSION)
+    [[ $here == "$there" ]] || die "the sources are of Qt $here, the host's tools of Qt $there: install one version of both"
+    mkdir -p "$build"
+    cd "$build"
+    if [[ ! -e config.summary ]]; then
+        say "Qt $here: configure"
+        logged qt-configure "$source/configure" -prefix "$prefix" -external-hostbindir "$qt_host" "${qt_options[@]}"
+    fi
+    if [[ ! -e src/made ]]; then
+        mkdir -p src
+        cd src
+        logged qt-qmake "$qt_host/qmake" -qtconf ../bin/qt.conf "$source/src/src.pro"
+        logged qt-makefiles make -s qmake_all
+        touch made
+        cd ..
+    fi
+    # Part by part: the top Makefile would build the host's tools first.
+    for part in "${parts[@]}"; do
+        say "Qt $here: $part"
+        logged "qt-${part//\//-}" make -s -C "src/$part" -f Makefile.Release -j"$jobs"
+    done
+    say "Qt $here: install"
+    for part in corelib gui network widgets testlib winmain "${plugins[@]}"; do
+        qt_install "$part"
+    done
+    mkdir -p "$prefix/mkspecs" "$prefix/bin"
+    cp -r "$source"/mkspecs/{win32-g++,common} "$prefix/mkspecs/"
+    # Where the build description of the toolkit looks for them.
+    for part in qmake moc rcc uic; do
+        ln -sf "$qt_host/$part" "$prefix/bin/$part"
+    done
+    [[ -e $prefix/lib/cmake/Qt5Test/Qt5TestConfig.cmake && -e $prefix/plugins/platforms/qwindows.dll ]] ||
+        die "the toolkit was not installed whole: see $cache/log/qt-install-*.log"
+}
+
+# All that `make install` of a part has, but for what wants the part built anew with the tools.
+qt_install() {
+    local targets
+    targets=$(grep -hoE '^install_(target|dlltarget|targ_headers|gen_headers|private_headers|qpa_headers|cmake_[a-z0-9_]*|ctest_[a-z0-9_]*):' \
+        "src/$1/Makefile.Release" | tr -d : | sort -u)
+    # shellcheck disable=SC2086 # a list of names
+    logged "qt-install-${1//\//-}" make -s -k -i -C "src/$1" -o first -f Makefile.Release $targets
+}
+
+# --- Assimp ------------------------------------------------------------------------------------------------
+# The import worker alone links it, so it is static.
+
+assimp_options=(
+    -DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=OFF
+    -DASSIMP_BUILD_ASSIMP_TOOLS=OFF -DASSIMP_BUILD_TESTS=OFF -DASSIMP_WARNINGS_AS_ERRORS=OFF -DASSIMP_BUILD_ZLIB=OFF
+    # Compressed glTF, as on Linux.
+    -DASSIMP_BUILD_DRACO=ON
+    -DASSIMP_BUILD_ALL_EXPORTERS_BY_DEFAULT=OFF -DASSIMP_BUILD_OBJ_EXPORTER=ON
+    # The reader of IFC has more sections than an object file of the usual kind.
+    "-DCMAKE_CXX_FLAGS=-Wa,-mbig-obj"
+)
+
+edit_assimp() {
+    # What Debian has taken out, for it is packaged on its own.
+    mkdir -p contrib/unzip contrib/stb
+    cp ../minizip/{crypt.h,ioapi.c,ioapi.h,unzip.c,unzip.h} contrib/unzip/
+    touch contrib/unzip/crypt.c
+    cp /usr/include/stb/stb_image.h contrib/stb/
+    cp -rL /usr/include/utf8cpp/. include/
+    edit code/CMakeLists.txt '/^find_package\(draco CONFIG REQUIRED\)/d; /^target_link_libraries\(assimp \$\{DRACO_LIBRARIES\}\)/d'
+    edit cmake-modules/assimp-plain-config.cmake.in '/^find_package\(draco/d'
+}
+
+build_assimp() {
+    say "Assimp $(version_of assimp)"
+    # Nothing of the host is to be found.
+    PKG_CONFIG_LIBDIR=/nonexistent logged assimp-configure cmake -G Ninja -S "$cache/sources/assimp" -B "$cache/assimp" \
+        -DCMAKE_TOOLCHAIN_FILE="$here/mingw.cmake" -DKORVANE_WINDOWS="$cache" -DCMAKE_INSTALL_PREFIX="$prefix" "${assimp_options[@]}"
+    logged assimp ninja -C "$cache/assimp" -j"$jobs" install
+}
+
+# --- Mesa --------------------------------------------------------------------------------------------------
+# OpenGL drawn by the processor: the toolkit takes opengl32sw.dll where no driver serves. It is slow (there is no
+# compiler of shaders in it) and draws everything.
+
+mesa_options=(
+    --buildtype=release -Dplatforms=windows -Dgallium-drivers=swrast -Dvulkan-drivers= -Dllvm=disabled
+    -Dgles1=disabled -Dgles2=disabled -Degl=disabled -Dzlib=disabled -Dshader-cache=disabled -Dbuild-tests=false
+)
+
+build_mesa() {
+    say "Mesa $(version_of mesa)"
+    cat >"$cache/mesa.ini" <<INI
+[binaries]
+c = '$triple-gcc-posix'
+cpp = '$triple-g++-posix'
+ar = '$triple-ar'
+strip = '$triple-strip'
+windres = '$triple-windres'
+[host_machine]
+system = 'windows'
+cpu_family = 'x86_64'
+cpu = 'x86_64'
+endian = 'little'
+INI
+    [[ -e $cache/mesa/build.ninja ]] ||
+        logged mesa-configure meson setup --cross-file "$cache/mesa.ini" --prefix "$cache/mesa-root" \
+            "${mesa_options[@]}" "$cache/mesa" "$cache/sources/mesa"
+    logged mesa ninja -C "$cache/mesa" -j"$jobs" install
+    mkdir -p "$prefix/bin"
+    # The name by which the toolkit asks for it.
+    cp "$cache/mesa-root/bin/opengl32.dll" "$prefix/bin/opengl32sw.dll"
+    cp "$cache"/mesa-root/bin/lib{gallium_wgl,glapi}.dll "$prefix/bin/"
+}
+
+step qt qtbase-opensource-src
+fetch minizip
+step assimp assimp
+step mesa mesa

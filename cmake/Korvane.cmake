@@ -39,6 +39,19 @@ function(korvane_library name)
     endif()
 endfunction()
 
+# What differs by system: of the sources of each of these headers, NAME_posix.cpp and NAME_windows.cpp, the one for the
+# system that is built for.
+if(WIN32)
+    set(KORVANE_SYSTEM windows)
+else()
+    set(KORVANE_SYSTEM posix)
+endif()
+function(korvane_system_sources target)
+    foreach(name IN LISTS ARGN)
+        target_sources(${target} PRIVATE ${name}.h ${name}_${KORVANE_SYSTEM}.cpp)
+    endforeach()
+endfunction()
+
 function(korvane_plain target)
     set_target_properties(${target} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
 endfunction()

@@ -18,8 +18,13 @@ public:
     FolderLock(const FolderLock &) = delete;
     FolderLock &operator=(const FolderLock &) = delete;
 
-    bool isHeld() const { return m_file >= 0; }
+    bool isHeld() const { return m_file != NoFile; }
+    /// Gives the lock up and takes its file away, so that the folder can go. Nobody else gets the lock in
+    /// between.
+    void removeFile();
 
 private:
-    int m_file = -1;
+    static constexpr qintptr NoFile = -1;
+    qintptr m_file = NoFile; ///< a descriptor, or a handle
+    QString m_path;
 };

@@ -2,19 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "WholeFile.h"
 
+#include "FileSystem.h"
+
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
-
-#include <cerrno>
-#include <unistd.h>
-
-namespace {
-/// Whether the device lost what it had taken. Others of its failures say that it cannot be asked.
-bool isLoss(int error)
-{
-    return error == EIO || error == ENOSPC || error == EDQUOT || error == EFBIG;
-}
-} // namespace
 
 WholeFile::WholeFile(const QString &path)
     : m_file(path)
@@ -28,6 +20,8 @@ bool WholeFile::open()
     if (there.exists() && !there.isFile() && !there.isDir())
         return fail(QCoreApplication::translate(
             "WholeFile", "This is a device or a pipe, which would be replaced by a file."));
+    if (const auto holders = FileSystem::holders(m_file.fileName()))
+        writeBeside(*holders);
     // Unbuffered: commit() of the toolkit does not notice a failure to write out what is still in a buffer.
     return !m_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && fail(m_file.errorString());
 }
@@ -52,9 +46,32 @@ bool WholeFile::commit()
     if (open())
         return true;
     // Some file systems take everything and find out later that there is no room.
-    if (fsync(m_file.handle()) != 0 && isLoss(errno))
-        return fail(qt_error_string());
-    return !m_file.commit() && fail(m_file.errorString());
+    const QString loss = FileSystem::flush(m_file);
+    if (!loss.isEmpty())
+        return fail(loss);
+    return (!m_file.commit() && fail(m_file.errorString())) || (!m_held.isEmpty() && fail(m_held));
+}
+
+void WholeFile::writeBeside(const QStringList &holders)
+{
+    const QFileInfo parts(m_file.fileName());
+    const QString suffix = parts.suffix().isEmpty() ? QString() : QLatin1Char('.') + parts.suffix();
+    QString beside;
+    for (int number = 1; beside.isEmpty() || QFileInfo::exists(beside); ++number)
+        beside = QStringLiteral("%1/%2.new%3%4")
+                     .arg(parts.path(), parts.completeBaseName(),
+                          number == 1 ? QString() : QString::number(number), suffix);
+    m_file.setFileName(beside);
+    const QString kept = QDir::toNativeSeparators(beside);
+    m_held = holders.isEmpty()
+                 ? QCoreApplication::translate(
+                       "WholeFile", "Another program holds it open, so it cannot be replaced. What "
+                                    "was to be saved stands in '%1'.")
+                       .arg(kept)
+                 : QCoreApplication::translate("WholeFile",
+                                               "%1 holds it open, so it cannot be replaced. What was to be "
+                                               "saved stands in '%2'.")
+                       .arg(holders.join(QStringLiteral(", ")), kept);
 }
 
 bool WholeFile::fail(const QString &reason)

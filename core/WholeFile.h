@@ -8,6 +8,8 @@
 
 /// A file that is written whole or not at all, as everything is that the program saves. What is written
 /// stands beside the file until commit() puts it in its place; a failure at any time leaves the old file.
+/// Where another program holds that one open so that it cannot be replaced, both stay: the new one under a
+/// name beside, which reason() tells.
 class WholeFile
 {
 public:
@@ -24,8 +26,10 @@ public:
 
 private:
     bool fail(const QString &reason);
+    void writeBeside(const QStringList &holders);
 
     QSaveFile m_file;
+    QString m_held; ///< why the file is written under another name; empty when it is not
     QString m_reason;
 };
 

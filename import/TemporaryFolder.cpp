@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "TemporaryFolder.h"
 
+#include "FileSystem.h"
 #include "FolderLock.h"
 
 #include <QDateTime>
 #include <QDir>
-
-#include <unistd.h>
 
 namespace {
 const QString Prefix = QStringLiteral("korvane-import-");
@@ -41,11 +40,11 @@ void TemporaryFolder::removeAbandoned()
         QDir(QDir::tempPath())
             .entryInfoList({Prefix + QLatin1Char('*')}, QDir::Dirs | QDir::NoSymLinks | QDir::NoDotAndDotDot);
     for (const QFileInfo &folder : folders) {
-        if (folder.ownerId() != geteuid() ||
+        if (!FileSystem::isOwn(folder) ||
             folder.lastModified().secsTo(QDateTime::currentDateTime()) < YoungestAbandoned)
             continue;
-        const FolderLock lock(lockOf(folder.filePath()));
-        if (lock.isHeld())
+        // Not while it is held: not every system removes a folder in which a file is open.
+        if (FolderLock(lockOf(folder.filePath())).isHeld())
             QDir(folder.filePath()).removeRecursively();
     }
 }

@@ -7,7 +7,7 @@
 #   arrows BUILD_DIR   a room includes headers of just those rooms that its link line names, every arrow leads
 #                      to a lower floor, and widgets and the library that reads foreign files are linked only
 #                      where they may be
-#   cycles             no two files, a source with its header being one, name each other in a circle; a form is a
+#   cycles             no two files, sources with their header being one, name each other in a circle; a form is a
 #                      file of its own, since it does not know the class that shows it
 #   classes            no class has more than 400 lines of implementation over all its sources
 #   folders            no folder holds more than 25 sources
@@ -144,7 +144,7 @@ arrows() {
 # tsort tells of circles, one member a line, on standard error.
 cycles() {
     awk '
-        function stem(path) { if (path !~ /\.ui$/) sub(/\.[^\/]*$/, "", path); return path }
+        function stem(path) { if (path !~ /\.ui$/) sub(/(_posix|_windows)?\.[^\/]*$/, "", path); return path }
         function folder(path) { sub("/[^/]*$", "", path); return path }
         part == "files" { base = $1; sub(".*/", "", base); home[base] = folder($1) }
         part == "named" {

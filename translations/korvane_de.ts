@@ -7099,5 +7099,13 @@ So lassen?</translation>
         <source>This is a device or a pipe, which would be replaced by a file.</source>
         <translation>Das ist ein Gerät oder eine Pipe, an deren Stelle eine Datei träte.</translation>
     </message>
+    <message>
+        <source>Another program holds it open, so it cannot be replaced. What was to be saved stands in &apos;%1&apos;.</source>
+        <translation>Ein anderes Programm hält sie offen, deshalb kann sie nicht ersetzt werden. Was gespeichert werden sollte, steht in „%1“.</translation>
+    </message>
+    <message>
+        <source>%1 holds it open, so it cannot be replaced. What was to be saved stands in &apos;%2&apos;.</source>
+        <translation>%1 hält sie offen, deshalb kann sie nicht ersetzt werden. Was gespeichert werden sollte, steht in „%2“.</translation>
+    </message>
 </context>
 </TS>

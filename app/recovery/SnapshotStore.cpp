@@ -95,7 +95,7 @@ SnapshotStore::~SnapshotStore()
     const FolderLock root(m_root + QLatin1Char('/') + LockFile, FolderLock::Yes);
     QDir folder(m_folder);
     if (root.isHeld() && folder.entryList(QDir::Files) == QStringList(LockFile)) {
-        folder.remove(LockFile);
+        m_lock->removeFile();
         folder.rmdir(m_folder);
     }
 }
@@ -169,8 +169,7 @@ void SnapshotStore::findLast()
 
 void SnapshotStore::takeOver(const QString &folder)
 {
-    const QString lockPath = folder + QLatin1Char('/') + LockFile;
-    const FolderLock lock(lockPath);
+    FolderLock lock(folder + QLatin1Char('/') + LockFile);
     if (!lock.isHeld())
         return;
     const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files | QDir::Hidden, QDir::Time);
@@ -185,7 +184,7 @@ void SnapshotStore::takeOver(const QString &folder)
     // The lock file goes last, and only with the folder.
     if (QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot) ==
         QStringList(LockFile)) {
-        QFile::remove(lockPath);
+        lock.removeFile();
         QDir().rmdir(folder);
     }
 }

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+class QFileDevice;
+class QFileInfo;
+
+/// What systems do differently with files.
+namespace FileSystem {
+/// A path as one to compare by: where case does not tell files apart, it does not tell these apart.
+QString comparable(const QString &path);
+/// Whether two paths name the same place, as they are written.
+inline bool isSamePath(const QString &a, const QString &b)
+{
+    return comparable(a) == comparable(b);
+}
+
+/// Whether this user owns a file, where everybody may put some; true where nobody else can.
+bool isOwn(const QFileInfo &file);
+
+/// Has the device take what was written to an open file. Returns how it failed; empty when nothing was lost.
+[[nodiscard]] QString flush(QFileDevice &file);
+
+/// The programs that hold a file open so that no other can be put in its place, by their names as far as the
+/// system tells them; none when it can be replaced. One that looks at each new file for a moment, as virus
+/// scanners do, is waited for, a second at most.
+std::optional<QStringList> holders(const QString &path);
+} // namespace FileSystem

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "FileSystem.h"
+
+#include <QFileDevice>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <unistd.h>
+
+namespace {
+/// Whether the device lost what it had taken. Others of its failures say that it cannot be asked.
+bool isLoss(int error)
+{
+    return error == EIO || error == ENOSPC || error == EDQUOT || error == EFBIG;
+}
+} // namespace
+
+QString FileSystem::comparable(const QString &path)
+{
+    return path;
+}
+
+bool FileSystem::isOwn(const QFileInfo &file)
+{
+    return file.ownerId() == geteuid();
+}
+
+QString FileSystem::flush(QFileDevice &file)
+{
+    return fsync(file.handle()) != 0 && isLoss(errno) ? qt_error_string() : QString();
+}
+
+std::optional<QStringList> FileSystem::holders(const QString &)
+{
+    return {}; // another file takes the name, whoever holds the old one
+}

@@ -365,6 +365,22 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>&amp;Blend Start</source>
         <translation>Überblendsta&amp;rt</translation>
     </message>
+    <message>
+        <source>Na&amp;me</source>
+        <translation>Na&amp;me</translation>
+    </message>
+    <message>
+        <source>What you call all animations with this ID. It is kept in a file beside the mesh, which the game does not look at, and saved with the mesh.</source>
+        <translation>Wie Sie alle Animationen mit dieser ID nennen. Das steht in einer Datei neben dem Mesh, die das Spiel nicht beachtet, und wird mit dem Mesh gespeichert.</translation>
+    </message>
+    <message>
+        <source>The name belongs to %1, and is saved with it.</source>
+        <translation>Der Name gehört zu %1 und wird damit gespeichert.</translation>
+    </message>
+    <message>
+        <source>Open the mesh to name it</source>
+        <translation>Zum Benennen das Mesh öffnen</translation>
+    </message>
 </context>
 <context>
     <name>AnimFilePage</name>
@@ -6465,6 +6481,10 @@ So lassen?</translation>
     <message>
         <source>Update from %1</source>
         <translation>Aktualisierung aus %1</translation>
+    </message>
+    <message>
+        <source>Animation Name</source>
+        <translation>Animation: Name</translation>
     </message>
 </context>
 <context>

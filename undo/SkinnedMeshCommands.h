@@ -43,6 +43,7 @@ struct HotPointEffects
     ROW(UC_SkinnedMeshNodeDamageScale, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Bone Damage Scale"), Records::Bone, Member<&SkinnedMeshNode::damageScale>) \
     ROW(UC_SkinnedMeshNodeFlags, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Bone Flags"), Records::Bone, Member<&SkinnedMeshNode::flags>) \
     ROW(UC_SkinnedMeshNodeName, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Bone Name"), Records::Bone, Member<&SkinnedMeshNode::name>) \
+    ROW(UC_SkinnedMeshAnimationNames, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Animation Name"), Records::SkinnedMeshRoot, Member<&SkinnedMesh::animationNames>) \
     ROW(UC_SkinnedMeshSurfaceMaterial, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Surface Material"), Records::SkinnedSurface, Member<&SkinnedMeshSurface::materialPath>) \
     ROW(UC_SkinnedMeshTriIndex, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Triangle Index"), Records::SkinnedTriangleIndex, Itself) \
     ROW(UC_SkinnedMeshVertNodeIndex, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Vertex Bone Index"), Records::SkinnedVertex, Member<&SkinnedMeshVertex::nodeIndex>) \

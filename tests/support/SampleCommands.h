@@ -94,6 +94,11 @@ inline QString other(const QString &value)
 {
     return value + QLatin1Char('x');
 }
+inline QHash<qint32, QString> other(QHash<qint32, QString> names)
+{
+    names[4] += QLatin1Char('x');
+    return names;
+}
 template <typename Vector, std::enable_if_t<std::is_class_v<Vector>, int> = 0>
 Vector other(Vector value)
 {

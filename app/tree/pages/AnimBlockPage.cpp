@@ -7,12 +7,17 @@
 #include "FrameChoice.h"
 #include "IndexTargets.h"
 #include "Questions.h"
+#include "SkinnedMeshCommands.h"
+
+#include <QFocusEvent>
 
 using namespace Parts;
 
 AnimBlockPage::AnimBlockPage(ModelDocument<Model> &document, const KVTreeView &tree,
-                             const SkinnedMeshDocument &mesh, QWidget *parent)
+                             SkinnedMeshDocument &mesh, QWidget *parent)
     : RecordPage(document, tree, tr("Anim %1 Properties"), parent)
+    , m_anim(document)
+    , m_tree(tree)
     , m_mesh(mesh)
 {
     m_ui.setupUi(this);
@@ -22,6 +27,7 @@ AnimBlockPage::AnimBlockPage(ModelDocument<Model> &document, const KVTreeView &t
     using Page = AnimBlockPage;
     bind<UC_AnimBlockAnimID>(m_ui.sbAnimAnimID, Whole, tr("Animation AnimID"),
                              &Page::OnAnimBlockAnimIDChanged);
+    bindName();
     bind<UC_AnimBlockAnimSpeed>(m_ui.sbAnimSpeed, Whole, tr("Animation Speed"),
                                 &Page::OnAnimBlockSpeedChanged);
     bind<UC_AnimBlockLoopFrame>(m_ui.sbAnimLoopFrame, Whole, tr("Animation Loop Frame"),
@@ -36,11 +42,66 @@ AnimBlockPage::AnimBlockPage(ModelDocument<Model> &document, const KVTreeView &t
                                &Page::OnAnimBlockBlendEndChanged);
 }
 
+/// A name is no field of the block: the mesh has one for each id.
+void AnimBlockPage::bindName()
+{
+    TextField *editor = m_ui.txtAnimName;
+    const auto mark = [this, editor](const QVector<RecordIndex> &others) {
+        const QString shown = nameOf(record());
+        const bool differs = std::any_of(others.begin(), others.end(), [&](const RecordIndex &other) {
+            return nameOf(Records::Block::find(m_anim.model(), other)) != shown;
+        });
+        setItalic(editor, differs);
+        return differs;
+    };
+    addBinding({editor, [this, editor] { editor->setValue(nameOf(record())); },
+                [this, editor] { nameSelected(editor->value()); }, mark});
+    Editors::onEdited(editor, this, &AnimBlockPage::OnAnimBlockNameChanged);
+}
+
+QString AnimBlockPage::nameOf(const AnimBlock *block) const
+{
+    return block ? m_mesh.model().animationNames.value(block->animId) : QString();
+}
+
+void AnimBlockPage::nameSelected(const QString &name)
+{
+    if (nameOf(record()) == name)
+        return;
+    QHash<qint32, QString> names = m_mesh.model().animationNames;
+    for (const RecordIndex &index : m_tree.selectedRecords(RecordKind::AnimBlock)) {
+        const qint32 id = m_anim.model().blocks[size_t(index[0])].animId;
+        if (name.isEmpty())
+            names.remove(id);
+        else
+            names.insert(id, name);
+    }
+    m_mesh.undoStack()->push(new UC_SkinnedMeshAnimationNames(m_mesh.editTarget(), {}, names));
+    emit told(tr("The name belongs to %1, and is saved with it.").arg(m_mesh.fileName()));
+}
+
+bool AnimBlockPage::eventFilter(QObject *watched, QEvent *event)
+{
+    // Undo is about the document whose field has the keys. Menus have them for a moment only.
+    if (watched == m_ui.txtAnimName && event->type() == QEvent::FocusIn) {
+        m_mesh.undoStack()->setActive();
+    } else if (watched == m_ui.txtAnimName && event->type() == QEvent::FocusOut &&
+               m_mesh.undoStack()->isActive()) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+        if (reason != Qt::MenuBarFocusReason && reason != Qt::PopupFocusReason &&
+            reason != Qt::ActiveWindowFocusReason)
+            m_anim.undoStack()->setActive();
+    }
+    return RecordPage::eventFilter(watched, event);
+}
+
 void AnimBlockPage::recordShown()
 {
     const AnimBlock *block = record();
     if (!block)
         return;
+    m_ui.txtAnimName->setEnabled(m_mesh.isOpen());
+    m_ui.txtAnimName->setPlaceholderText(m_mesh.isOpen() ? QString() : tr("Open the mesh to name it"));
     m_ui.hintAnimAnimID->setTarget(IndexTargets::animation(m_mesh.model(), block->animId));
     m_ui.hintAnimLoopFrame->setTarget(IndexTargets::loopFrame(*block, block->loopFrame));
     m_ui.lblAnimFrames->setNum(block->frameCount());

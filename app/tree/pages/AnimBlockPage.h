@@ -11,13 +11,15 @@ class AnimBlockPage : public RecordPage<Records::Block>
     Q_OBJECT
 
 public:
-    AnimBlockPage(ModelDocument<Model> &document, const KVTreeView &tree, const SkinnedMeshDocument &mesh,
+    AnimBlockPage(ModelDocument<Model> &document, const KVTreeView &tree, SkinnedMeshDocument &mesh,
                   QWidget *parent = nullptr);
 
 protected:
     void recordShown() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private slots:
+    void OnAnimBlockNameChanged() { commit(m_ui.txtAnimName); }
     void OnAnimBlockAnimIDChanged() { commit(m_ui.sbAnimAnimID); }
     void OnAnimBlockSpeedChanged() { commit(m_ui.sbAnimSpeed); }
     void OnAnimBlockLoopFrameChanged() { commit(m_ui.sbAnimLoopFrame); }
@@ -27,6 +29,12 @@ private slots:
     void OnAnimBlockBlendEndChanged() { commit(m_ui.sbAnimBlendEnd); }
 
 private:
-    const SkinnedMeshDocument &m_mesh;
+    void bindName();
+    QString nameOf(const AnimBlock *block) const;
+    void nameSelected(const QString &name);
+
+    AnimDocument &m_anim;
+    const KVTreeView &m_tree;
+    SkinnedMeshDocument &m_mesh; ///< which has the names
     Ui::AnimBlockPage m_ui;
 };

@@ -38,8 +38,7 @@ void addPages(PageStack &stack, SkinnedMeshDocument &document, const KVTreeView 
     add<SkinnedMeshVertPage>(stack, document, tree);
 }
 
-void addPages(PageStack &stack, AnimDocument &document, const KVTreeView &tree,
-              const SkinnedMeshDocument &mesh)
+void addPages(PageStack &stack, AnimDocument &document, const KVTreeView &tree, SkinnedMeshDocument &mesh)
 {
     add<AnimFilePage>(stack, document, tree);
     add<AnimBlockPage>(stack, document, tree, mesh);

@@ -3,6 +3,7 @@
 #include "CommandPalette.h"
 #include "FloatSpinBox.h"
 #include "Hand.h"
+#include "KVOpenGLWidget.h"
 #include "NameTables.h"
 #include "PlayClock.h"
 #include "Playback.h"
@@ -278,6 +279,50 @@ private slots:
         QVERIFY(trees->currentIndex() == 0 && window.windowTitle() == title);
         QCOMPARE(tree->currentRecord(), edited);
         QVERIFY(!find<QToolButton>(window, "btnAnimTrackMarkBack")->isEnabled());
+    }
+
+    void namesAreTheMeshs()
+    {
+        AnimFile moves = twoBlocks();
+        moves.blocks[1].animId = 7;
+        for (AnimBlock &block : moves.blocks)
+            block.nodes[1].initialPosition = {0, 0, 150};
+        m_files->put("man.names.json", R"({"bones": {"1": "head"}})");
+        ShownWindow window({write("man.skinnedmesh"), m_files->save("man.anim", moves)});
+        find<QTabWidget>(window, "tabTrees")->setCurrentIndex(1);
+        select(window, "treeAnim", {{RecordKind::AnimBlock, {1}}});
+        auto *name = find<QLineEdit>(window, "txtAnimName");
+        const auto press = [&name](Qt::Key key) { QTest::keyClick(name, key, Qt::ControlModifier); };
+        const auto *blocks = find<QComboBox>(window, "cbAnimTrackBlock");
+        name->setFocus();
+        QTest::keyClicks(name, QStringLiteral("walk\r"));
+        QCOMPARE(blocks->itemText(1), QString("1: walk"));
+        QVERIFY(window.statusBar()->currentMessage().contains("man.skinnedmesh"));
+        press(Qt::Key_Z);
+        QCOMPARE(name->text() + blocks->itemText(1), QString("1: Unnamed animation 7"));
+        press(Qt::Key_Y);
+        QCOMPARE(name->text(), QString("walk"));
+        // What other fields of the page did is the animation's.
+        auto *loop = find<IntSpinBox>(window, "sbAnimLoopFrame");
+        const int before = loop->value();
+        typeNumber(loop, 3);
+        QTest::keyClick(loop, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(loop->value(), before);
+        QCOMPARE(name->text(), QString("walk"));
+        find<QAction>(window, "actionSaveAll")->trigger();
+        QVERIFY(TestSupport::readFile(m_files->path("man.names.json")).contains(R"("7":"walk")"));
+
+        // A bone is called by both names under the mouse.
+        auto *view = find<KVOpenGLWidget>(window, "viewSkinned");
+        view->setShowSkeleton(true);
+        view->grabFramebuffer();
+        QSet<QString> tips;
+        for (QPoint at(view->width() / 2, 0); at.y() < view->height(); at.ry() += 3) {
+            QMouseEvent move(QEvent::MouseMove, at, view->mapToGlobal(at), Qt::NoButton, Qt::NoButton, {});
+            QApplication::sendEvent(view, &move);
+            tips += QToolTip::text();
+        }
+        QVERIFY2(tips.contains("1: Left Root (head)"), qPrintable(tips.values().join('|')));
     }
 
 private:

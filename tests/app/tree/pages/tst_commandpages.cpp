@@ -12,6 +12,10 @@
 using namespace SampleCommands;
 
 namespace {
+/// Names of animations are the mesh's, and shown by the animation.
+template <typename Command>
+constexpr bool isShownElsewhere = std::is_same_v<Command, UC_SkinnedMeshAnimationNames>;
+
 /// All that is to be seen of a document: its tree's labels, its page's title and what the page shows.
 template <typename Model>
 QStringList shownBy(Pane<Model> &pane)
@@ -102,7 +106,7 @@ private:
         pane.select({root});
         pane.undo().push(make<Command>(document.editTarget(), record.index));
         checkScreen(pane, record);
-        if (isField<Command>)
+        if (isField<Command> && !isShownElsewhere<Command>)
             QVERIFY(shownBy(pane) != shown);
         pane.select({root});
         pane.undo().undo();
@@ -147,19 +151,22 @@ private:
             for (QWidget *editor : editorsOf(pane.page())) {
                 const QString name = editor->objectName();
                 QVERIFY2(!editor->toolTip().isEmpty(), qPrintable(name));
-                const QByteArray before = pane.bytes();
+                const bool isElsewhere = name == QLatin1String("txtAnimName");
+                QUndoStack &stack = isElsewhere ? m_panes->mesh.undo() : pane.undo();
+                const auto bytes = [&] { return isElsewhere ? m_panes->mesh.bytes() : pane.bytes(); };
+                const QByteArray before = bytes();
                 const QStringList shown = shownBy(pane);
                 enterSame(editor);
-                QVERIFY2(pane.undo().count() == 0 && pane.undo().isClean(), qPrintable(name));
+                QVERIFY2(stack.count() == 0 && stack.isClean(), qPrintable(name));
 
                 enterOther(editor);
-                QVERIFY2(pane.undo().count() == 1, qPrintable(name));
-                checkText(name, pane.undo().undoText());
-                const QUndoCommand &step = *pane.undo().command(0);
-                QCOMPARE(step.childCount(), parent ? records.size() : 0);
-                const QUndoCommand &first = parent ? *step.child(0) : step;
+                QVERIFY2(stack.count() == 1, qPrintable(name));
+                checkText(name, stack.undoText());
+                const QUndoCommand &step = *stack.command(0);
+                QCOMPARE(step.childCount(), parent && !isElsewhere ? records.size() : 0);
+                const QUndoCommand &first = step.childCount() > 0 ? *step.child(0) : step;
                 m_types << typeid(first).name();
-                const QByteArray after = pane.bytes();
+                const QByteArray after = bytes();
                 QVERIFY2(after != before, qPrintable(name));
                 QCOMPARE(pane.tree.selectedItems().size(), records.size());
                 const QString text = shownText(editor);
@@ -168,15 +175,17 @@ private:
                     QCOMPARE(shownText(editor), text);
                 }
 
-                pane.undo().undo();
-                QVERIFY2(pane.bytes() == before, qPrintable(name));
-                QCOMPARE(pane.tree.selectedItems().size(), records.size());
-                pane.undo().redo();
-                QVERIFY2(pane.bytes() == after, qPrintable(name));
-                pane.undo().undo();
+                stack.undo();
+                QVERIFY2(bytes() == before, qPrintable(name));
+                if (!isElsewhere)
+                    QCOMPARE(pane.tree.selectedItems().size(), records.size());
+                stack.redo();
+                QVERIFY2(bytes() == after, qPrintable(name));
+                stack.undo();
                 pane.select(records);
+                pane.stack.refresh(); // as the window does when names change
                 QCOMPARE(shownBy(pane), shown);
-                pane.undo().clear();
+                stack.clear();
             }
         }
     }

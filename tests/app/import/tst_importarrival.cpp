@@ -2,18 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "ChoiceBox.h"
 #include "FloatSpinBox.h"
-#include "Hand.h"
 #include "ImportDialog.h"
+#include "ImportHands.h"
 #include "Language.h"
 #include "SmallGltf.h"
-
-#include <optional>
 
 Q_DECLARE_METATYPE(AnimFile)
 Q_DECLARE_METATYPE(SkinnedMesh)
 
 /// The choice how a model arrives, and what the dialog tells of a file before it is imported.
-class tst_ImportArrival : public QObject
+class tst_ImportArrival : public QObject, ImportHands
 {
     Q_OBJECT
 
@@ -24,15 +22,7 @@ private slots:
         qRegisterMetaType<SkinnedMesh>("SkinnedMesh");
         qRegisterMetaType<AnimFile>("AnimFile");
     }
-    void init()
-    {
-        TestSupport::useSettingsHome(m_home);
-        m_source.emplace();
-        m_mod.emplace();
-        QDir(m_mod->path()).mkpath(QStringLiteral("materials"));
-        QDir(m_mod->path()).mkpath(QStringLiteral("textures"));
-        Settings::OutputDir.setValue(m_mod->path());
-    }
+    void init() { begin(); }
     void cleanup() { Language::install(QStringLiteral("en")); }
 
     void theChoiceIsRemembered()
@@ -260,14 +250,6 @@ private slots:
     }
 
 private:
-    static void click(const QWidget &dialog, const char *button)
-    {
-        QTest::mouseClick(find<QPushButton>(dialog, button), Qt::LeftButton);
-    }
-    static QString page(const QWidget &dialog)
-    {
-        return find<QStackedWidget>(dialog, "stackPages")->currentWidget()->objectName();
-    }
     static QString options(const QWidget &dialog)
     {
         return find<QStackedWidget>(dialog, "stackArrival")->currentWidget()->objectName();
@@ -299,9 +281,6 @@ private:
         return result;
     }
 
-    QTemporaryDir m_home;
-    std::optional<TestFolder> m_source;
-    std::optional<TestFolder> m_mod;
     ModelNames m_names;
 };
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "FloatSpinBox.h"
-#include "Hand.h"
 #include "ImportDialog.h"
 #include "ImportFilter.h"
+#include "ImportHands.h"
 #include "ImportSteps.h"
 #include "KMat.h"
 
@@ -16,7 +16,7 @@ namespace {
 const QByteArray corners = "v 0 0 0\nv 2 0 0\nv 0 4 0\nvt 0 0.25\n";
 }
 
-class tst_ImportDialog : public QObject
+class tst_ImportDialog : public QObject, ImportHands
 {
     Q_OBJECT
 
@@ -26,15 +26,7 @@ private slots:
         QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         qRegisterMetaType<StaticMesh>("StaticMesh");
     }
-    void init()
-    {
-        TestSupport::useSettingsHome(m_home);
-        m_source.emplace();
-        m_mod.emplace();
-        QDir(m_mod->path()).mkpath(QStringLiteral("materials"));
-        QDir(m_mod->path()).mkpath(QStringLiteral("textures"));
-        Settings::OutputDir.setValue(m_mod->path());
-    }
+    void init() { begin(); }
 
     void optionsAreStoredAtOnce()
     {
@@ -456,10 +448,6 @@ private slots:
     }
 
 private:
-    static void click(const QWidget &dialog, const char *button)
-    {
-        QTest::mouseClick(find<QPushButton>(dialog, button), Qt::LeftButton);
-    }
     static void type(QWidget &dialog, const char *edit, const QString &text, Qt::Key end = Qt::Key_Tab)
     {
         auto *line = find<QLineEdit>(dialog, edit);
@@ -471,10 +459,6 @@ private:
         QTest::keyClicks(line, text);
         QTest::keyClick(line, end);
     }
-    static QString page(const QWidget &dialog)
-    {
-        return find<QStackedWidget>(dialog, "stackPages")->currentWidget()->objectName();
-    }
     QString write(const QString &name, const QByteArray &bytes) { return m_source->put(name, bytes); }
     QString writeTextured()
     {
@@ -482,10 +466,6 @@ private:
         write(QStringLiteral("steel.png"), "picture");
         return write(QStringLiteral("box.v2.obj"), "mtllib m.mtl\nusemtl a\n" + corners + "f 1/1 2/1 3/1\n");
     }
-
-    QTemporaryDir m_home;
-    std::optional<TestFolder> m_source;
-    std::optional<TestFolder> m_mod;
 };
 
 QTEST_MAIN(tst_ImportDialog)

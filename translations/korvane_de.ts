@@ -3399,6 +3399,10 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <source>To be known</source>
         <translation>Zu beachten</translation>
     </message>
+    <message>
+        <source>Materials stay. Undo takes the update back.</source>
+        <translation>Materialien bleiben. „Rückgängig“ nimmt die Aktualisierung zurück.</translation>
+    </message>
 </context>
 <context>
     <name>ModelUpdater</name>

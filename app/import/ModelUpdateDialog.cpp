@@ -73,6 +73,11 @@ void ModelUpdateDialog::fillList(const UpdateAccount &account)
     m_ui->lblChanges->setVisible(!isEmpty);
 }
 
+void ModelUpdateDialog::setStatic()
+{
+    m_ui->lblUndo->setText(tr("Materials stay. Undo takes the update back."));
+}
+
 bool ModelUpdateDialog::dropsMissing() const
 {
     return m_ui->cbDropMissing->isChecked();

@@ -27,6 +27,8 @@ public:
                       QWidget *parent);
     ~ModelUpdateDialog() override;
 
+    /// The model is a static mesh, which has no bones to speak of.
+    void setStatic();
     /// Whether animations that the file does not have are to go.
     bool dropsMissing() const;
 

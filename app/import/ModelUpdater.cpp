@@ -104,6 +104,8 @@ ModelUpdater::Answer ModelUpdater::offer(DocumentType shown, const QString &path
     }
     const QString source = QFileInfo(path).fileName();
     ModelUpdateDialog dialog(source, open.fileName(), worker.update(), dialogParent());
+    if (type == DocumentType::StaticMesh)
+        dialog.setStatic();
     const int answer = dialog.exec();
     if (answer == ModelUpdateDialog::ImportAsNew)
         return Answer::ImportAsNew;

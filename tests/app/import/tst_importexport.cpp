@@ -199,7 +199,12 @@ private slots:
         const auto *tabs = find<QTabWidget>(window, "tabWidget");
         const auto *undo = find<QAction>(window, "actionUndo");
         QCOMPARE(tabs->currentWidget()->objectName(), QString("tabSkinned"));
-        Hand hand({Hand::clickOn("Update"), Hand::clickOn("Update")});
+        QStringList stays;
+        const Hand::Answer update = [&stays](QDialog *dialog) {
+            stays += find<QLabel>(*dialog, "lblUndo")->text().section(' ', 0, 0);
+            find<QPushButton>(*dialog, "btnUpdate")->click();
+        };
+        Hand hand({update, update});
         window.openFiles({hutFile});
         QCOMPARE(tabs->currentWidget()->objectName(), QString("tabStatic"));
         QCOMPARE(undo->text(), QString("&Undo Update from hut.glb"));
@@ -207,6 +212,7 @@ private slots:
         QCOMPARE(tabs->currentWidget()->objectName(), QString("tabSkinned"));
         QCOMPARE(undo->text(), QString("&Undo Update from man.glb"));
         QCOMPARE(hand.seen, QStringList({"Update hut.staticmesh", "Update man.skinnedmesh"}));
+        QCOMPARE(stays, QStringList({"Materials", "Flags,"}));
     }
 
     void anUpdateThatFailsSaysWhy()

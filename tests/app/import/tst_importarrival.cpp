@@ -53,6 +53,9 @@ private slots:
         QVERIFY(!find<QCheckBox>(dialog, "cbCreateKMat")->isChecked());
         QVERIFY(find<QCheckBox>(dialog, "cbCopyTextures")->isChecked());
         QVERIFY(find<QWidget>(dialog, "treeClips")->isHidden());
+        // What is there stands together at the top.
+        const auto *size = find<QLabel>(dialog, "lblReadySize");
+        QVERIFY(size->height() < 4 * size->fontMetrics().height());
         QTest::keyClick(find<QRadioButton>(dialog, "rbAsStored"), Qt::Key_Space);
         QVERIFY(!Settings::ImportReady.value());
         QVERIFY(!find<QCheckBox>(dialog, "cbCopyTextures")->isChecked());

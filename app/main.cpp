@@ -4,6 +4,7 @@
 #include "Language.h"
 #include "Look.h"
 #include "MainWindow.h"
+#include "OwnFolders.h"
 #include "ScreenScale.h"
 #include "Settings.h"
 #include "TexturesAhead.h"
@@ -34,6 +35,7 @@ int main(int argc, char *argv[])
     QCoreApplication::setOrganizationDomain(QStringLiteral("korvane.local"));
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/Images/Icons/korvane.png")));
     QGuiApplication::setDesktopFileName(QStringLiteral("korvane"));
+    OwnFolders::useForSettings();
     Language::install(Language::resolve(Settings::UiLanguage.value()));
     qDebug() << QCoreApplication::libraryPaths();
     QLoggingCategory::setFilterRules(QStringLiteral("qt.network.ssl.warning=false"));

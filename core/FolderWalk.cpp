@@ -35,8 +35,9 @@ public:
     {
         if (!QFileInfo(folder).isDir())
             return;
+        // That of a root, "/" or "C:/".
         const auto withoutSlash = [](const QString &path) {
-            return path == QLatin1String("/") ? QString() : path;
+            return path.endsWith(QLatin1Char('/')) ? path.chopped(1) : path;
         };
         const QString root = withoutSlash(QFileInfo(folder).canonicalFilePath());
         if (!tree({withoutSlash(QDir::cleanPath(folder)), root, m_folders}))
@@ -49,8 +50,8 @@ public:
                       [](const Link &a, const Link &b) { return a.path < b.path; });
             for (const Link &link : links) {
                 const QString target = QFileInfo(link.path).canonicalFilePath();
-                const bool leadsUp = target == QLatin1String("/") ||
-                                     (root + QLatin1Char('/')).startsWith(target + QLatin1Char('/'));
+                const bool leadsUp =
+                    (root + QLatin1Char('/')).startsWith(withoutSlash(target) + QLatin1Char('/'));
                 if (leadsUp || m_seen.contains(target))
                     continue;
                 if (!m_visit({link.path, link.parent, true}) || !tree({link.path, target, ++m_folders}))
@@ -69,7 +70,9 @@ private:
             places.pop_back();
             m_seen.insert(place.canonical);
             const int nameStart = place.path.size() + 1;
-            QDirIterator it(place.path.isEmpty() ? QStringLiteral("/") : place.path,
+            // Without its slash a root is the folder that is current there.
+            const bool isRoot = place.path.isEmpty() || place.path.endsWith(QLatin1Char(':'));
+            QDirIterator it(isRoot ? place.path + QLatin1Char('/') : place.path,
                             QDir::Dirs | QDir::Files | QDir::NoDotAndDotDot);
             while (it.hasNext()) {
                 const QString path = it.next();

@@ -3,10 +3,10 @@
 #include "ReferenceTable.h"
 
 #include "Log.h"
+#include "OwnFolders.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QStandardPaths>
 
 bool ReferenceTable::read(const QString &path)
 {
@@ -44,7 +44,7 @@ QString referenceName(ReferenceKind kind)
 
 QString referenceOverrideFolder()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/databases");
+    return OwnFolders::data() + QStringLiteral("/databases");
 }
 
 QString builtInReferencePath(ReferenceKind kind)

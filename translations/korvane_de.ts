@@ -1647,6 +1647,13 @@ Ohne diese Eingabe fortfahren?</translation>
     </message>
 </context>
 <context>
+    <name>FileNames</name>
+    <message>
+        <source>&apos;%1&apos; cannot be a name on Windows: it is that of a device, ends in a dot or a blank, or holds one of &lt; &gt; : &quot; \ | ? *</source>
+        <translation>„%1“ kann unter Windows kein Name sein: Es ist der eines Gerätes, endet mit einem Punkt oder Leerzeichen oder enthält eines von &lt; &gt; : &quot; \ | ? *</translation>
+    </message>
+</context>
+<context>
     <name>FilterEdit</name>
     <message>
         <source>Filter</source>

@@ -4,12 +4,12 @@
 
 #include "FolderLock.h"
 #include "Log.h"
+#include "OwnFolders.h"
 #include "SnapshotFile.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QRunnable>
-#include <QStandardPaths>
 
 #include <algorithm>
 
@@ -102,8 +102,7 @@ SnapshotStore::~SnapshotStore()
 
 QString SnapshotStore::defaultRoot()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) +
-           QStringLiteral("/recovery");
+    return OwnFolders::local() + QStringLiteral("/recovery");
 }
 
 QString SnapshotStore::crashReportPath() const

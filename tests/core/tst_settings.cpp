@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "FullDisk.h"
 #include "Log.h"
+#include "OwnFolders.h"
 #include "Settings.h"
 #include "SettingsHold.h"
 #include "TestSupport.h"
@@ -85,6 +86,25 @@ private slots:
         QCOMPARE(Settings::MainWindowSize.value(), QSize(1600, 1000));
         QCOMPARE(Settings::MainWindowPos.value(), QPoint(-5, 7));
         QCOMPARE(Settings::MainWindowState.value(), state);
+    }
+
+    void aCarriedProgramKeepsAllBesideIt()
+    {
+        const QString beside = QCoreApplication::applicationDirPath();
+        QSettings::setDefaultFormat(QSettings::NativeFormat);
+        OwnFolders::useForSettings();
+        QVERIFY(!QSettings().fileName().startsWith(beside) && !OwnFolders::local().startsWith(beside));
+        QVERIFY(QFileInfo(QSettings().fileName()).isAbsolute()); // and no key of a registry
+
+        QVERIFY(TestSupport::writeFile(beside + "/portable.txt", {}));
+        OwnFolders::useForSettings();
+        Settings::MouseSpeed.setValue(2.0f);
+        const QStringList kept{QSettings().fileName(), OwnFolders::local(), OwnFolders::data()};
+        QVERIFY(QFile::remove(beside + "/portable.txt"));
+        QVERIFY(QFile::exists(beside + "/data/KorvaneTest/Korvane.ini"));
+        QVERIFY(QDir(beside + "/data").removeRecursively());
+        for (const QString &each : kept)
+            QVERIFY2(each.startsWith(beside + "/data"), qPrintable(each));
     }
 
     void aStoreThatCannotBeWrittenIsToldOfOnce()

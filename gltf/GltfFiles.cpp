@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "GltfFiles.h"
 
+#include "FileNames.h"
 #include "ImportMessages.h"
 #include "ReplacedFiles.h"
 #include "WholeFile.h"
@@ -30,9 +31,10 @@ GltfFiles::GltfFiles(const GltfWriter &content, const QString &path)
     m_images = content.images();
     for (const GltfImage &image : m_images) {
         // Textures of one name may come from several folders.
-        QString name = image.fileName;
+        const QString wanted = FileNames::portable(image.fileName);
+        QString name = wanted;
         for (int number = 2; m_imageNames.contains(name, Qt::CaseInsensitive); ++number)
-            name = numberedName(image.fileName, number);
+            name = numberedName(wanted, number);
         m_imageNames += name;
     }
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ImportOutput.h"
 
+#include "FileSystem.h"
 #include "WholeFile.h"
 
 #include <QCoreApplication>
@@ -42,9 +43,10 @@ std::vector<FileCopy> distinctCopies(const std::vector<FileCopy> &textures, Impo
     std::vector<FileCopy> copies;
     QSet<QString> targets;
     for (const FileCopy &texture : textures) {
-        if (targets.contains(texture.target))
+        const QString target = FileSystem::comparable(texture.target);
+        if (targets.contains(target))
             continue;
-        targets.insert(texture.target);
+        targets.insert(target);
         copies.push_back(texture);
         const QString name = QFileInfo(texture.target).fileName();
         if (name != QFileInfo(texture.source).fileName())

@@ -3,6 +3,7 @@
 #include "ImportSteps.h"
 
 #include "BinaryFileWriter.h"
+#include "FileNames.h"
 #include "Fuzzy.h"
 #include "ImportFlags.h"
 #include "Transform.h"
@@ -39,8 +40,8 @@ void scaleImported(Mesh &mesh, float factor)
 
 QString defaultKMatPath(const QString &modelPath)
 {
-    const QString name =
-        QFileInfo(modelPath).completeBaseName().normalized(QString::NormalizationForm_C); // é in one
+    const QString name = FileNames::portable(
+        QFileInfo(modelPath).completeBaseName().normalized(QString::NormalizationForm_C)); // é in one
     return QStringLiteral("materials/mat_%1.kmat")
         .arg(BinaryFileWriter::canWrite(name) ? name : asciiName(name));
 }
@@ -48,7 +49,7 @@ QString defaultKMatPath(const QString &modelPath)
 QString kmatPathProblem(const QString &path)
 {
     if (BinaryFileWriter::canWrite(path))
-        return {};
+        return FileNames::problem(path);
     return QCoreApplication::translate("ImportDialog",
                                        "A model cannot name '%1': it holds characters outside of Latin-1.")
         .arg(path);

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "ReplacedFiles.h"
 
+#include "FileNames.h"
+#include "FileSystem.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
@@ -30,16 +33,16 @@ bool haveSameBytes(const QString &one, const QString &other)
 std::vector<FileCopy> copiesInto(const QString &folder, const QStringList &files)
 {
     const auto ownTarget = [&folder](const QString &file) {
-        return folder + QLatin1Char('/') + QFileInfo(file).fileName();
+        return folder + QLatin1Char('/') + FileNames::portable(QFileInfo(file).fileName());
     };
-    QHash<QString, QString> sources; // by their targets
+    QHash<QString, QString> sources; // by their targets, as FileSystem compares them
     // What stands there already must not be replaced before it was copied.
     for (const QString &file : files) {
         if (isOneFile(file, ownTarget(file)))
-            sources.insert(ownTarget(file), file);
+            sources.insert(FileSystem::comparable(ownTarget(file)), file);
     }
     const auto fits = [&sources, &ownTarget](const FileCopy &copy) {
-        const auto other = sources.constFind(copy.target);
+        const auto other = sources.constFind(FileSystem::comparable(copy.target));
         if (other != sources.constEnd())
             return *other == copy.source || haveSameBytes(*other, copy.source);
         return copy.target == ownTarget(copy.source) || !wouldReplace(copy);
@@ -50,8 +53,9 @@ std::vector<FileCopy> copiesInto(const QString &folder, const QStringList &files
         // One that is not there keeps its name: what stands at another is none of its business.
         for (int number = 2; QFileInfo(file).isFile() && !fits(copy); ++number)
             copy.target = numbered(ownTarget(file), number);
-        if (!sources.contains(copy.target))
-            sources.insert(copy.target, file);
+        const QString target = FileSystem::comparable(copy.target);
+        if (!sources.contains(target))
+            sources.insert(target, file);
         copies.push_back(copy);
     }
     return copies;
@@ -60,7 +64,7 @@ std::vector<FileCopy> copiesInto(const QString &folder, const QStringList &files
 bool isOneFile(const QString &path, const QString &other)
 {
     const QString real = QFileInfo(path).canonicalFilePath();
-    return !real.isEmpty() && real == QFileInfo(other).canonicalFilePath();
+    return !real.isEmpty() && FileSystem::isSamePath(real, QFileInfo(other).canonicalFilePath());
 }
 
 bool isTaken(const QString &path)
@@ -105,19 +109,23 @@ void useFreeTargets(std::vector<FileCopy> &copies)
 {
     QStringList taken;
     for (const FileCopy &copy : copies)
-        taken += copy.target;
+        taken += FileSystem::comparable(copy.target);
     QHash<QString, QString> moved; // copies of one target are of one content
     for (FileCopy &copy : copies) {
         const QString target = copy.target;
-        const auto known = moved.constFind(target);
+        const QString wanted = FileSystem::comparable(target);
+        const auto known = moved.constFind(wanted);
         if (known != moved.constEnd()) {
             copy.target = *known;
             continue;
         }
-        for (int number = 2; wouldReplace(copy) || (copy.target != target && taken.contains(copy.target));
-             ++number)
+        const auto isTakenByOther = [&taken, &wanted](const QString &path) {
+            const QString comparable = FileSystem::comparable(path);
+            return comparable != wanted && taken.contains(comparable);
+        };
+        for (int number = 2; wouldReplace(copy) || isTakenByOther(copy.target); ++number)
             copy.target = numbered(target, number);
-        moved.insert(target, copy.target);
-        taken += copy.target;
+        moved.insert(wanted, copy.target);
+        taken += FileSystem::comparable(copy.target);
     }
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "StaticMeshExport.h"
 
+#include "FileNames.h"
 #include "ImportOutput.h"
 #include "ImportWorker.h"
 #include "MaterialFiles.h"
@@ -37,7 +38,8 @@ WorkerJob staticMeshExport(const StaticMesh &mesh, const QString &meshPath, Mate
     WorkerJob job;
     job.task = WorkerJob::Task::ExportObj;
     const QString base = QFileInfo(meshPath).completeBaseName();
-    job.objName = (base.isEmpty() ? QStringLiteral("untitled") : base) + QStringLiteral(".obj");
+    job.objName =
+        FileNames::portable((base.isEmpty() ? QStringLiteral("untitled") : base) + QStringLiteral(".obj"));
     if (mesh.surfaces.empty()) {
         messages.addError(QCoreApplication::translate("Import", "[Static Mesh Export] Mesh has no surfaces"));
         return job;

@@ -222,7 +222,10 @@ std::optional<QByteArray> mergedBytes(const QByteArray &bytes, const MaterialTab
 {
     const Encoding encoding = encodingOf(bytes);
     const QString text = decoded(bytes, encoding);
-    const QLatin1String lineEnd(text.contains(QLatin1String("\r\n")) ? "\r\n" : "\n");
+    QString added = QString::fromUtf8(kmatBytes(table));
+    // A file that has none yet gets the system's.
+    const QString &lines = text.contains(QLatin1Char('\n')) ? text : added;
+    const QLatin1String lineEnd(lines.contains(QLatin1String("\r\n")) ? "\r\n" : "\n");
     const MaterialBlocks blocks(text);
     QString merged;
     int at = 0;
@@ -235,7 +238,7 @@ std::optional<QByteArray> mergedBytes(const QByteArray &bytes, const MaterialTab
     merged += text.midRef(at);
     if (!merged.isEmpty() && !merged.endsWith(QLatin1Char('\n')))
         merged += lineEnd;
-    merged += QString::fromUtf8(kmatBytes(table)).replace(QLatin1Char('\n'), lineEnd);
+    merged += added.remove(QLatin1Char('\r')).replace(QLatin1Char('\n'), lineEnd);
     const QByteArray result = encoded(merged, encoding);
     return decoded(result, encoding) == merged ? std::optional(result) : std::nullopt;
 }

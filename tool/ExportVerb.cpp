@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
+#include "FileNames.h"
 #include "FrameChoice.h"
 #include "GameFolders.h"
 #include "GltfExport.h"
@@ -47,7 +48,7 @@ std::optional<int> readWishes(const CommandLine &line, ExportWishes &wishes)
     wishes.posed = line.isSet(QStringLiteral("pose"));
     wishes.asGltf = line.isSet(QStringLiteral("gltf")) || GltfFiles::isName(wishes.target);
     if (QFileInfo(wishes.target).isDir()) {
-        const QString base = QFileInfo(line.operands().constFirst()).completeBaseName();
+        const QString base = FileNames::portable(QFileInfo(line.operands().constFirst()).completeBaseName());
         wishes.target =
             QDir(wishes.target)
                 .filePath(base + (wishes.asGltf ? QStringLiteral(".glb") : QStringLiteral(".obj")));

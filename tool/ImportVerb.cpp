@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
+#include "FileNames.h"
 #include "ImportFilter.h"
 #include "ImportOutput.h"
 #include "ImportSteps.h"
@@ -222,7 +223,7 @@ int importModel(const QStringList &arguments)
         return Failed;
     }
     Results results;
-    results.target = folder.filePath(QFileInfo(choices.modelPath).completeBaseName());
+    results.target = folder.filePath(FileNames::portable(QFileInfo(choices.modelPath).completeBaseName()));
     const Replacing replacing{line.isSet(QStringLiteral("force")),
                               line.isSet(QStringLiteral("keep-materials"))};
     return finish(worker, choices, results, replacing) ? Failed : Fine;

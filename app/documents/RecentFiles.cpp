@@ -4,10 +4,13 @@
 
 #include "Document.h"
 #include "DocumentFiles.h"
+#include "FileSystem.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
+
+#include <algorithm>
 
 RecentFiles::RecentFiles(DocumentFiles &files, QMenu &menu, QObject *parent)
     : QObject(parent)
@@ -32,7 +35,9 @@ void RecentFiles::remember(DocumentType type)
     QStringList paths = key.value();
     if (!paths.isEmpty() && paths.first() == path)
         return;
-    paths.removeAll(path);
+    paths.erase(std::remove_if(paths.begin(), paths.end(),
+                               [&path](const QString &each) { return FileSystem::isSamePath(each, path); }),
+                paths.end());
     paths.prepend(path);
     key.setValue(paths.mid(0, Limit));
 }

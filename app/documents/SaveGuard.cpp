@@ -3,6 +3,7 @@
 #include "SaveGuard.h"
 
 #include "Document.h"
+#include "FileSystem.h"
 #include "SavePath.h"
 #include "Settings.h"
 
@@ -94,13 +95,13 @@ QString SaveGuard::withNames(const Document &document, const QString &path) cons
 
 QString SaveGuard::allowedModel(const Document &document, const QString &path)
 {
-    if (isInGame(path) && !m_overwritten.contains(realPath(path))) {
+    if (isInGame(path) && !m_overwritten.contains(FileSystem::comparable(realPath(path)))) {
         const QString answer = askAboutGame(path, modPath(path));
         if (answer != path)
             return answer;
     }
     const FileStamp now = FileStamp::of(path);
-    if (path == document.path() && now.exists() && now != document.fileStamp() &&
+    if (FileSystem::isSamePath(path, document.path()) && now.exists() && now != document.fileStamp() &&
         !mayReplaceChanged(document))
         return {};
     return path;
@@ -153,6 +154,6 @@ QString SaveGuard::askAboutGame(const QString &path, const QString &inMod)
         return freeForModel(mod);
     if (box.clickedButton() != overwrite)
         return {};
-    m_overwritten.insert(realPath(path));
+    m_overwritten.insert(FileSystem::comparable(realPath(path)));
     return path;
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "SavePath.h"
 
+#include "FileNames.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
@@ -18,6 +20,11 @@ QString chooseSavePath(QWidget *window, const QString &title, const QString &fol
     const QString suffix = QLatin1Char('.') + extension;
     while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
         const QString path = dialog.selectedFiles().first();
+        const QString problem = FileNames::problem(QFileInfo(path).fileName());
+        if (!problem.isEmpty()) {
+            QMessageBox::warning(window, title, problem);
+            continue;
+        }
         if (path.endsWith(suffix, Qt::CaseInsensitive))
             return path;
         // The dialog completes a name without a dot, and asks before it replaces a file. A name like

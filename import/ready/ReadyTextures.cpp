@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ReadyTextures.h"
 
+#include "FileNames.h"
 #include "PictureFile.h"
 #include "TextureSearch.h"
 
@@ -150,7 +151,7 @@ QString ReadyTextures::swatch(const aiMaterial &material, const QString &name)
 
 QString ReadyTextures::write(const QImage &image, const QString &base)
 {
-    const QString stem = base.left(LongestName);
+    const QString stem = FileNames::portable(base.left(LongestName));
     QString name = stem;
     for (int number = 2; m_names.contains(name.toLower()); ++number)
         name = stem + QLatin1Char('_') + QString::number(number);

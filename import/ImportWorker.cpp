@@ -32,6 +32,7 @@ ImportWorker::ImportWorker(QObject *parent)
     m_process.setStandardOutputFile(QProcess::nullDevice());
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.setStandardInputFile(QProcess::nullDevice());
+    m_bounds.prepare(m_process);
     m_limit.setSingleShot(true);
     connect(&m_process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
             &ImportWorker::onProcessFinished);
@@ -93,6 +94,8 @@ void ImportWorker::launch()
 {
     m_limit.start(m_timeLimit);
     m_process.start(m_program, {m_folder->path()});
+    // Its timer comes first; this is for a program that does not come to look at it.
+    m_bounds.take(m_process, m_job.memoryLimitMiB, 2 * qint64(m_timeLimit));
 }
 
 void ImportWorker::cancel()
@@ -119,7 +122,8 @@ void ImportWorker::onProcessFinished(int exitCode, QProcess::ExitStatus status)
 {
     if (!m_stopReason.isEmpty())
         finish(m_stopReason);
-    else if (status == QProcess::CrashExit)
+    else if (status == QProcess::CrashExit || (exitCode != EXIT_SUCCESS && exitCode != EXIT_FAILURE))
+        // Not everywhere is what gives up, or is ended by its limits, told from what ends.
         finish(tr("The process that reads foreign files crashed on it."));
     else if (exitCode != EXIT_SUCCESS || WorkerFolder(m_folder->path()).read(m_answer))
         finish(tr("The process that reads foreign files gave no answer."));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ProcessBounds.h"
 #include "TemporaryFolder.h"
 #include "WorkerJob.h"
 
@@ -74,6 +75,7 @@ private:
     WorkerJob m_job;
     std::unique_ptr<TemporaryFolder> m_folder;
     QProcess m_process;
+    ProcessBounds m_bounds;
     QTimer m_limit;
     QElapsedTimer m_elapsed;
     QString m_stopReason; ///< why we ended the process ourselves

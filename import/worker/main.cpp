@@ -3,6 +3,7 @@
 //
 // Reads and writes foreign model files for the editor, in a process of its own: the library that does it is
 // killed by some damaged files and never returns from others.
+#include "Confinement.h"
 #include "GltfReader.h"
 #include "Language.h"
 #include "ModelUpdate.h"
@@ -20,46 +21,7 @@
 #include <cstdlib>
 #include <exception>
 
-#ifdef Q_OS_UNIX
-#include <sys/resource.h>
-#endif
-#ifdef Q_OS_LINUX
-#include <csignal>
-#include <sys/prctl.h>
-#endif
-
 namespace {
-/// Sanitizers reserve terabytes of address space for themselves.
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool HasMemoryLimit = false;
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-constexpr bool HasMemoryLimit = false;
-#else
-constexpr bool HasMemoryLimit = true;
-#endif
-#else
-constexpr bool HasMemoryLimit = true;
-#endif
-
-/// Takes care that this process harms nobody, and that it does not outlive the editor.
-void confine(int memoryLimitMiB)
-{
-#ifdef Q_OS_UNIX
-    const rlim_t limit = rlim_t(memoryLimitMiB) * 1024 * 1024;
-    const rlimit memory{limit, limit};
-    if (HasMemoryLimit && memoryLimitMiB > 0)
-        setrlimit(RLIMIT_AS, &memory);
-    const rlimit noCore{0, 0};
-    setrlimit(RLIMIT_CORE, &noCore);
-#else
-    Q_UNUSED(memoryLimitMiB)
-#endif
-#ifdef Q_OS_LINUX
-    prctl(PR_SET_PDEATHSIG, SIGKILL);
-#endif
-}
-
 /// Hands a model over, if there is one. Returns true on failure.
 bool handOver(const SkinnedMesh &mesh, const AnimFile &anim, const WorkerFolder &folder,
               const ImportMessages &messages)

@@ -1,0 +1,11 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "Confinement.h"
+
+#include <windows.h>
+
+void confine(int)
+{
+    // Whoever started this tells of a crash; a message box would wait for ever.
+    SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX | SEM_NOOPENFILEERRORBOX);
+}

@@ -12,6 +12,7 @@
 #include "PosedModel.h"
 #include "ReplacedFiles.h"
 #include "Settings.h"
+#include "Terminal.h"
 #include "Verbs.h"
 #include "WholeFile.h"
 
@@ -119,8 +120,8 @@ int render(const QStringList &arguments)
         QStringLiteral("render"), QStringLiteral("FILE"),
         QStringLiteral("Draws a mesh into a picture, whole and from a little above. A skinned mesh is "
                        "posed by its animation file, which is looked for where the game keeps it; of an "
-                       "animation file, the mesh is looked for. Needs a display: without one, run it "
-                       "with xvfb-run."));
+                       "animation file, the mesh is looked for. ") +
+            Terminal::drawingNeeds());
     line.option({QStringLiteral("o"), QStringLiteral("output")}, QStringLiteral("file"),
                 QStringLiteral("The picture; PNG unless its name says another format."));
     line.flag(QStringLiteral("force"), QStringLiteral("Replace a picture that exists."));
@@ -169,9 +170,8 @@ int render(const QStringList &arguments)
     OffscreenScene scene;
     if (!scene.failure().isEmpty()) {
         Output::complain(
-            QStringLiteral("render: Nothing can be drawn: %1. It needs a display with OpenGL; without "
-                           "one, run it as 'xvfb-run korvane-tool render ...' (package xvfb).")
-                .arg(scene.failure()));
+            QStringLiteral("render: Nothing can be drawn: %1. It needs a display with OpenGL. %2")
+                .arg(scene.failure(), Terminal::advice()));
         return NoScreen;
     }
     if (std::max(wishes->size.width(), wishes->size.height()) > scene.longestSide())

@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "Log.h"
 #include "Output.h"
+#include "OwnFolders.h"
+#include "Terminal.h"
 #include "Verbs.h"
 
 #include <QGuiApplication>
-#include <QTextCodec>
 
 #include <cstdlib>
 #include <cstring>
@@ -74,9 +75,8 @@ bool hasDisplay = false;
 void toolkitMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
     if (type == QtFatalMsg) {
-        Output::complain(QStringLiteral("render: The display cannot be used (%1). Without one, run it as "
-                                        "'xvfb-run korvane-tool render ...' (package xvfb).")
-                             .arg(displayProblem));
+        Output::complain(QStringLiteral("render: The display cannot be used (%1). %2")
+                             .arg(displayProblem, Terminal::advice()));
         std::_Exit(NoScreen);
     }
     if (type == QtDebugMsg || type == QtInfoMsg)
@@ -92,10 +92,7 @@ std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv)
     const Verb *verb = argc > 1 ? verbNamed(QString::fromLocal8Bit(argv[1])) : nullptr;
     if (!verb || !verb->draws)
         return std::make_unique<QCoreApplication>(argc, argv);
-    // Without a display this platform still answers questions for the help.
-    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
-        qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    Terminal::prepareToDraw();
     qInstallMessageHandler(toolkitMessage);
     auto application = std::make_unique<QGuiApplication>(argc, argv);
     hasDisplay = true;
@@ -105,14 +102,14 @@ std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv)
 
 int main(int argc, char *argv[])
 {
-    // File names are UTF-8, in the C locale too.
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    Terminal::prepare();
     // Those of the editor, whose settings are read.
     QCoreApplication::setApplicationName(QStringLiteral("Korvane"));
     QCoreApplication::setOrganizationName(QStringLiteral("Korvane"));
     QCoreApplication::setOrganizationDomain(QStringLiteral("korvane.local"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
     const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv);
+    OwnFolders::useForSettings();
     Log::setSink([](LogSeverity severity, const QString &text) {
         if (severity != LogSeverity::Info)
             Output::complain(QStringLiteral("%1: %2").arg(

@@ -24,8 +24,8 @@ picture=docs/images/rooms.svg
 
 # From below to above. Rooms on one floor do not know each other.
 floors='core resources translations
-model net app/widgets
-undo import render/scene
+model net app/desktop
+undo import render/scene app/widgets
 app/documents gltf import/scene render/input
 render import/ready
 app/tree app/view app/timeline app/explorer app/recovery app/console

@@ -4,6 +4,7 @@
 
 #include "DesktopScheme.h"
 #include "Settings.h"
+#include "TitleBars.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -162,12 +163,13 @@ void showChosenLook()
     const Look look = chosenLook();
     if (look != Look::Desktop) {
         show(look == Look::Dark);
-        return;
+    } else {
+        showDesktops();
+        // Where the desktop's colours do not reach the toolkit, its wish may.
+        if (DesktopScheme::instance().prefersDark() && !isDark(QApplication::palette()))
+            show(true);
     }
-    showDesktops();
-    // Where the desktop's colours do not reach the toolkit, its wish may.
-    if (DesktopScheme::instance().prefersDark() && !isDark(QApplication::palette()))
-        show(true);
+    showTitleBars(isDark(QApplication::palette()));
 }
 
 QPalette ourPalette(bool dark)

@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "AboutDialog.h"
 
+#include "Sound.h"
 #include "WebLink.h"
 #include "ui_AboutDialog.h"
 
 #include <QApplication>
-#include <QAudioDeviceInfo>
 #include <QIcon>
 #include <QShowEvent>
-#include <QSoundEffect>
 
 namespace {
 struct BuiltIn
@@ -68,11 +67,8 @@ AboutDialog::~AboutDialog() = default;
 void AboutDialog::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
-    if (event->spontaneous() || QAudioDeviceInfo::defaultOutputDevice().isNull())
-        return;
-    auto *sound = new QSoundEffect(this);
-    sound->setSource(QUrl(QStringLiteral("qrc:/sounds/test.wav")));
-    sound->play();
+    if (!event->spontaneous())
+        playSound(QStringLiteral(":/sounds/test.wav"), this);
 }
 
 void AboutDialog::on_btnAboutQt_clicked()

@@ -5,6 +5,7 @@
 #include "Look.h"
 
 #include <QDBusConnection>
+#include <QDBusVariant>
 
 /// Stands for the desktop's portal.
 class Portal : public QObject

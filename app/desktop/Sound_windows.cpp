@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "Sound.h"
+
+#include <QByteArray>
+#include <QFile>
+
+#include <windows.h>
+
+#include <mmsystem.h>
+
+void playSound(const QString &resource, QObject *)
+{
+    static QByteArray playing; // is read while it sounds
+    QFile file(resource);
+    if (!file.open(QIODevice::ReadOnly))
+        return;
+    PlaySoundW(nullptr, nullptr, 0);
+    playing = file.readAll();
+    PlaySoundW(reinterpret_cast<const wchar_t *>(playing.constData()), nullptr,
+               SND_MEMORY | SND_ASYNC | SND_NODEFAULT);
+}

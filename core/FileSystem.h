@@ -23,6 +23,9 @@ inline bool isSamePath(const QString &a, const QString &b)
 /// Whether this user owns a file, where everybody may put some; true where nobody else can.
 bool isOwn(const QFileInfo &file);
 
+/// Whether writing there would go to a device or a pipe.
+bool isDevice(const QFileInfo &file);
+
 /// Has the device take what was written to an open file. Returns how it failed; empty when nothing was lost.
 [[nodiscard]] QString flush(QFileDevice &file);
 

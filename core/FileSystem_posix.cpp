@@ -26,6 +26,11 @@ bool FileSystem::isOwn(const QFileInfo &file)
     return file.ownerId() == geteuid();
 }
 
+bool FileSystem::isDevice(const QFileInfo &file)
+{
+    return file.exists() && !file.isFile() && !file.isDir();
+}
+
 QString FileSystem::flush(QFileDevice &file)
 {
     return fsync(file.handle()) != 0 && isLoss(errno) ? qt_error_string() : QString();

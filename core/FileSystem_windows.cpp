@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "FileSystem.h"
 
+#include "FileNames.h"
 #include "NativePath_windows.h"
 
 #include <QFileDevice>
+#include <QFileInfo>
 
 #include <windows.h>
 
@@ -62,6 +64,11 @@ QString FileSystem::comparable(const QString &path)
 bool FileSystem::isOwn(const QFileInfo &)
 {
     return true; // every user has a folder of his own for what is temporary
+}
+
+bool FileSystem::isDevice(const QFileInfo &file)
+{
+    return FileNames::isDevice(file.fileName());
 }
 
 QString FileSystem::flush(QFileDevice &file)

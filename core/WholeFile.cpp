@@ -16,8 +16,7 @@ bool WholeFile::open()
 {
     if (m_file.isOpen() || !m_reason.isEmpty())
         return !m_reason.isEmpty();
-    const QFileInfo there(m_file.fileName());
-    if (there.exists() && !there.isFile() && !there.isDir())
+    if (FileSystem::isDevice(QFileInfo(m_file.fileName())))
         return fail(QCoreApplication::translate(
             "WholeFile", "This is a device or a pipe, which would be replaced by a file."));
     if (const auto holders = FileSystem::holders(m_file.fileName()))

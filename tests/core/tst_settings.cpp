@@ -91,9 +91,10 @@ private slots:
     void aCarriedProgramKeepsAllBesideIt()
     {
         const QString beside = QCoreApplication::applicationDirPath();
+        const QString data = beside + "/data";
         QSettings::setDefaultFormat(QSettings::NativeFormat);
         OwnFolders::useForSettings();
-        QVERIFY(!QSettings().fileName().startsWith(beside) && !OwnFolders::local().startsWith(beside));
+        QVERIFY(!QSettings().fileName().startsWith(data) && !OwnFolders::local().startsWith(data));
         QVERIFY(QFileInfo(QSettings().fileName()).isAbsolute()); // and no key of a registry
 
         QVERIFY(TestSupport::writeFile(beside + "/portable.txt", {}));
@@ -101,10 +102,10 @@ private slots:
         Settings::MouseSpeed.setValue(2.0f);
         const QStringList kept{QSettings().fileName(), OwnFolders::local(), OwnFolders::data()};
         QVERIFY(QFile::remove(beside + "/portable.txt"));
-        QVERIFY(QFile::exists(beside + "/data/KorvaneTest/Korvane.ini"));
-        QVERIFY(QDir(beside + "/data").removeRecursively());
+        QVERIFY(QFile::exists(data + "/KorvaneTest/Korvane.ini"));
+        QVERIFY(QDir(data).removeRecursively());
         for (const QString &each : kept)
-            QVERIFY2(each.startsWith(beside + "/data"), qPrintable(each));
+            QVERIFY2(each.startsWith(data), qPrintable(each));
     }
 
     void aStoreThatCannotBeWrittenIsToldOfOnce()

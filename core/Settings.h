@@ -135,6 +135,7 @@ inline const SettingKey<bool> ImportReady{"ImportReady", false};
 inline const SettingKey<bool> ImportReadyTextures{"ImportReadyTextures", true};
 inline const SettingKey<bool> ImportReadyKMat{"ImportReadyKMat", true};
 inline const SettingKey<float> ImportReadyRate{"ImportReadyRate", 30.0f};
+inline const SettingKey<bool> ImportReadyExtraBones{"ImportReadyExtraBones", false};
 
 // Viewport. MouseSpeed is in units per pixel (or per 1 ms tick of a held key), Brightness a factor.
 inline const SettingKey<QColor> BGColor{"BGColor", QColor(0, 170, 255, 255)};

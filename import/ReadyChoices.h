@@ -29,6 +29,7 @@ struct ReadyChoices
     float scale = 1.0f;      ///< game units to one of the source
     double rate = UsualRate; ///< frames a second that clips are sampled with; 0: the source's own if it is
                              ///< between 10 and 60, else the usual one
+    bool extraBones = false; ///< gives vertices bones of their own that none of the source's leads well
     bool allClips = true;
     std::vector<ReadyClip> clips; ///< those to take, unless all are
 };

@@ -7,7 +7,7 @@
 
 namespace {
 // Changes with the fields: an editor and a worker of different builds must not misunderstand each other.
-constexpr quint32 JobMark = 0x4B564A32;
+constexpr quint32 JobMark = 0x4B564A33;
 constexpr quint32 AnswerMark = 0x4B564132;
 
 QDataStream &operator<<(QDataStream &out, const ReadyClip &clip)
@@ -64,13 +64,13 @@ void readList(QDataStream &in, std::vector<Item> &items)
 
 void writeReady(QDataStream &out, const ReadyChoices &ready)
 {
-    out << ready.scale << ready.rate << ready.allClips;
+    out << ready.scale << ready.rate << ready.extraBones << ready.allClips;
     writeList(out, ready.clips);
 }
 
 void readReady(QDataStream &in, ReadyChoices &ready)
 {
-    in >> ready.scale >> ready.rate >> ready.allClips;
+    in >> ready.scale >> ready.rate >> ready.extraBones >> ready.allClips;
     readList(in, ready.clips);
 }
 

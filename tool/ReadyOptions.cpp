@@ -18,6 +18,7 @@ const QString Ready = QStringLiteral("ready");
 const QString Scale = QStringLiteral("scale");
 const QString Rate = QStringLiteral("rate");
 const QString Clips = QStringLiteral("clips");
+const QString ExtraBones = QStringLiteral("extra-bones");
 const QString Auto = QStringLiteral("auto");
 const QString Source = QStringLiteral("source");
 
@@ -72,13 +73,19 @@ void ReadyOptions::add(CommandLine &line)
     line.option({Clips}, QStringLiteral("list"),
                 QStringLiteral("With --ready: the animations to take, by name or number (from 0), parted by "
                                "commas; by default all."));
+    line.flag(ExtraBones,
+              QStringLiteral("With --ready: give bones of their own to vertices that several bones or "
+                             "stretched ones move, where they would be off by more than 1 % of the model's "
+                             "size, up to 128 bones in all."));
 }
 
 std::optional<int> ReadyOptions::read(const CommandLine &line, ImportChoices &choices)
 {
     const bool isReady = line.isSet(Ready);
-    if (!isReady && (line.isSet(Rate) || line.isSet(Clips)))
-        return line.refuse(QStringLiteral("--rate and --clips need --ready."));
+    if (!isReady && (line.isSet(Rate) || line.isSet(Clips) || line.isSet(ExtraBones)))
+        return line.refuse(QStringLiteral("--rate, --clips and --extra-bones need --ready."));
+    if (line.isSet(ExtraBones) && choices.isStatic)
+        return line.refuse(QStringLiteral("A static mesh has no bones, so no --extra-bones."));
     if (!isReady || line.value(Scale) != Auto) {
         const auto scale = line.number(Scale, LeastScale, GreatestScale);
         if (!scale)
@@ -92,6 +99,7 @@ std::optional<int> ReadyOptions::read(const CommandLine &line, ImportChoices &ch
             return line.refuse(QStringLiteral("--%1 means nothing with --ready.").arg(QLatin1String(option)));
     }
     choices.arrival = Arrival::Ready;
+    choices.ready.extraBones = line.isSet(ExtraBones);
     choices.ready.rate = 0.0;
     if (line.value(Rate) == Source)
         return {};

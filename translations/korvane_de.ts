@@ -2360,6 +2360,18 @@ Ohne diese Eingabe fortfahren?</translation>
         <source>%1 The texture &apos;%2&apos; could not be written</source>
         <translation>%1 Die Textur „%2“ konnte nicht geschrieben werden</translation>
     </message>
+    <message>
+        <source>%1 Extra bones: %2, which take %3 kB of the animation file. No vertex is farther than %4 % of the model&apos;s size from its place in the source, instead of %5 %.</source>
+        <translation>%1 Zusatzknochen: %2, die %3 kB der Animationsdatei belegen. Kein Vertex ist weiter als %4 % der Modellgröße von seinem Platz in der Quelle entfernt, statt %5 %.</translation>
+    </message>
+    <message>
+        <source>%1 There is no room for extra bones, for a model can be posed with %2. Vertices are up to %3 % of the model&apos;s size from their places in the source.</source>
+        <translation>%1 Für Zusatzknochen ist kein Platz, denn ein Modell kann mit %2 Knochen bewegt werden. Vertices sind bis zu %3 % der Modellgröße von ihren Plätzen in der Quelle entfernt.</translation>
+    </message>
+    <message>
+        <source>%1 No extra bones are needed: no vertex is farther than %2 % of the model&apos;s size from its place in the source.</source>
+        <translation>%1 Zusatzknochen sind nicht nötig: Kein Vertex ist weiter als %2 % der Modellgröße von seinem Platz in der Quelle entfernt.</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -4568,6 +4580,14 @@ Hände und Füße (x0.25): %6</translation>
     <message>
         <source>%1 units; a person is about 200 high</source>
         <translation>%1 Einheiten; eine Person ist etwa 200 hoch</translation>
+    </message>
+    <message>
+        <source>E&amp;xtra bones where one does not do</source>
+        <translation>&amp;Zusatzknochen, wo einer nicht reicht</translation>
+    </message>
+    <message>
+        <source>A vertex of the game follows one bone. Those that several bones or stretched ones move, and that would be off by more than 1 % of the model&apos;s size, get bones of their own, up to 128 in all. The animation file grows.</source>
+        <translation>Im Spiel folgt ein Vertex einem Knochen. Vertices, die mehrere oder gestreckte Knochen bewegen und die um mehr als 1 % der Modellgröße daneben lägen, bekommen eigene Knochen, bis zu 128 insgesamt. Die Animationsdatei wird größer.</translation>
     </message>
 </context>
 <context>

@@ -37,6 +37,9 @@ ReadyPage::ReadyPage(QWidget *parent)
     connect(m_ui->sbReadyScale, &FloatSpinBox::valueEdited, this, &ReadyPage::showSize);
     connect(m_ui->sbReadyRate, &FloatSpinBox::valueEdited, this, &ReadyPage::storeRate);
     connect(m_ui->cbReadyOwnRate, &QCheckBox::toggled, this, &ReadyPage::storeRate);
+    m_ui->cbExtraBones->setChecked(Settings::ImportReadyExtraBones.value());
+    connect(m_ui->cbExtraBones, &QCheckBox::toggled, this,
+            [](bool on) { Settings::ImportReadyExtraBones.setValue(on); });
     connect(m_ui->btnClipsAll, &QPushButton::clicked, this, [this] { checkAll(Qt::Checked); });
     connect(m_ui->btnClipsNone, &QPushButton::clicked, this, [this] { checkAll(Qt::Unchecked); });
     connect(m_ui->treeClips, &QTreeWidget::itemSelectionChanged, this, &ReadyPage::showLoop);
@@ -49,8 +52,9 @@ ReadyPage::~ReadyPage() = default;
 
 std::vector<QWidget *> ReadyPage::ofAnimations() const
 {
-    return {m_ui->lblReadyRate, m_ui->sbReadyRate, m_ui->cbReadyOwnRate, m_ui->lblClips,  m_ui->btnClipsAll,
-            m_ui->btnClipsNone, m_ui->treeClips,   m_ui->lblClipLoop,    m_ui->cbClipLoop};
+    return {m_ui->lblReadyRate, m_ui->sbReadyRate, m_ui->cbReadyOwnRate, m_ui->cbExtraBones,
+            m_ui->lblClips,     m_ui->btnClipsAll, m_ui->btnClipsNone,   m_ui->treeClips,
+            m_ui->lblClipLoop,  m_ui->cbClipLoop};
 }
 
 void ReadyPage::setHasAnimations(bool on)
@@ -90,6 +94,7 @@ ReadyChoices ReadyPage::choices() const
     ReadyChoices choices;
     choices.scale = m_ui->sbReadyScale->value();
     choices.rate = m_ui->cbReadyOwnRate->isChecked() ? 0.0 : double(m_ui->sbReadyRate->value());
+    choices.extraBones = m_ui->cbExtraBones->isChecked();
     choices.allClips = !m_isKnown;
     for (int i = 0; i < m_ui->treeClips->topLevelItemCount(); ++i) {
         const QTreeWidgetItem &row = *m_ui->treeClips->topLevelItem(i);

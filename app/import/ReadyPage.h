@@ -17,7 +17,7 @@ class ReadyPage;
 }
 
 /// The choices for a model that arrives ready for the game: its scale, which of its animations come along,
-/// and how they are sampled and looped.
+/// how they are sampled and looped, and whether vertices get bones of their own.
 class ReadyPage : public QWidget
 {
     Q_OBJECT

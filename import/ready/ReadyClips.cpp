@@ -185,18 +185,40 @@ std::vector<bool> ReadyClips::moved() const
     return marks;
 }
 
-template <typename Look>
-void ReadyClips::eachPose(const Taken &taken, const ReadySkeleton &skeleton, int step, Look look) const
+std::vector<Matrix4> ReadyClips::restWorld() const
+{
+    return m_nodes.worldPlaces(m_nodes.restPlaces(), std::vector<bool>(size_t(m_nodes.count()), true),
+                               double(m_choices.scale));
+}
+
+qint64 ReadyClips::frames() const
+{
+    qint64 sum = 0;
+    for (const Taken &taken : m_taken)
+        sum += taken.frames;
+    return sum;
+}
+
+void ReadyClips::eachPose(const ReadySkeleton &skeleton, const std::vector<bool> &wanted, int step,
+                          const Look &look) const
+{
+    for (const Taken &taken : m_taken)
+        eachPose(taken, skeleton, wanted, step, look);
+}
+
+void ReadyClips::eachPose(const Taken &taken, const ReadySkeleton &skeleton, const std::vector<bool> &wanted,
+                          int step, const Look &look) const
 {
     std::vector<Matrix4> places = m_nodes.restPlaces();
     SkeletonPose pose;
     // From the rest pose on, so that quaternions keep their signs and what is flattened its last rotation.
     const double scale = double(m_choices.scale);
-    skeleton.pose(m_nodes.worldPlaces(places, skeleton.wanted(), scale), pose);
+    skeleton.pose(m_nodes.worldPlaces(places, wanted, scale), pose);
     for (int frame = 0; frame < taken.frames; frame += step) {
         m_clips[size_t(taken.choice.clip)].place(frame / taken.rate, places);
-        skeleton.pose(m_nodes.worldPlaces(places, skeleton.wanted(), scale), pose);
-        look(frame, pose);
+        const std::vector<Matrix4> world = m_nodes.worldPlaces(places, wanted, scale);
+        skeleton.pose(world, pose);
+        look(world, pose);
     }
 }
 
@@ -218,21 +240,16 @@ std::vector<double> ReadyClips::movements(const ReadySkeleton &skeleton, const S
     });
     const double size = box && greatestSide(*box) > 0.0 ? greatestSide(*box) : 1.0;
     std::vector<double> movements(bones);
-    qint64 frames = 0;
-    for (const Taken &taken : m_taken)
-        frames += taken.frames;
-    const int step = int(frames * qint64(bones) / SeenPoseLimit) + 1;
-    for (const Taken &taken : m_taken) {
-        eachPose(taken, skeleton, step, [&](int, const SkeletonPose &pose) {
-            for (size_t b = 0; b < bones; ++b) {
-                const Turn apart = difference(pose.local[b].turn, rest.local[b].turn);
-                // The chord of twice the angle whose half's sine stands in a quaternion.
-                const double turned = 2.0 * Vector3(apart.x, apart.y, apart.z).Length() * reach[b];
-                const double shifted = (pose.local[b].origin - rest.local[b].origin).Length();
-                movements[b] = std::max(movements[b], (turned + shifted) / size);
-            }
-        });
-    }
+    const int step = int(frames() * qint64(bones) / SeenPoseLimit) + 1;
+    eachPose(skeleton, skeleton.wanted(), step, [&](const std::vector<Matrix4> &, const SkeletonPose &pose) {
+        for (size_t b = 0; b < bones; ++b) {
+            const Turn apart = difference(pose.local[b].turn, rest.local[b].turn);
+            // The chord of twice the angle whose half's sine stands in a quaternion.
+            const double turned = 2.0 * Vector3(apart.x, apart.y, apart.z).Length() * reach[b];
+            const double shifted = (pose.local[b].origin - rest.local[b].origin).Length();
+            movements[b] = std::max(movements[b], (turned + shifted) / size);
+        }
+    });
     return movements;
 }
 
@@ -260,7 +277,8 @@ void ReadyClips::addBlocks(const ReadySkeleton &skeleton, const SkeletonPose &re
             names.animations.insert(taken.id, name);
     }
     const auto stretched = std::count(isStretched.begin(), isStretched.end(), true);
-    if (stretched > 0)
+    // What extra bones make of it they say themselves.
+    if (stretched > 0 && !m_choices.extraBones)
         m_source.messages.addWarning(
             QCoreApplication::translate(
                 "Import", "%1 Bones that change their size in animations, which in the game they keep: %2")
@@ -278,22 +296,23 @@ AnimBlock ReadyClips::makeBlock(const Taken &taken, const ReadySkeleton &skeleto
     std::vector<bool> isTurned(bones);
     SkeletonPose first;
     SkeletonPose last;
-    eachPose(taken, skeleton, 1, [&](int frame, const SkeletonPose &pose) {
-        for (size_t b = 0; b < bones; ++b) {
-            const RigidFrame &local = pose.local[b];
-            places[b].push_back(single(local.origin));
-            turns[b].push_back(single(local.turn));
-            if ((local.origin - rest.local[b].origin).Length() > size * PlaceTolerance)
-                isShifted[b] = true;
-            if (!local.turn.Equal(rest.local[b].turn, TurnTolerance))
-                isTurned[b] = true;
-            if ((pose.sizes[b] - rest.sizes[b]).Length() > rest.sizes[b].Length() * StretchTolerance)
-                isStretched[b] = true;
-        }
-        if (frame == 0)
-            first = pose;
-        last = pose;
-    });
+    eachPose(taken, skeleton, skeleton.wanted(), 1,
+             [&](const std::vector<Matrix4> &, const SkeletonPose &pose) {
+                 for (size_t b = 0; b < bones; ++b) {
+                     const RigidFrame &local = pose.local[b];
+                     places[b].push_back(single(local.origin));
+                     turns[b].push_back(single(local.turn));
+                     if ((local.origin - rest.local[b].origin).Length() > size * PlaceTolerance)
+                         isShifted[b] = true;
+                     if (!local.turn.Equal(rest.local[b].turn, TurnTolerance))
+                         isTurned[b] = true;
+                     if ((pose.sizes[b] - rest.sizes[b]).Length() > rest.sizes[b].Length() * StretchTolerance)
+                         isStretched[b] = true;
+                 }
+                 if (first.world.empty())
+                     first = pose;
+                 last = pose;
+             });
     // A block of one frame shows its initial pose, which is at rest. A clip that is one other pose is held
     // over two frames.
     const auto any = [](const std::vector<bool> &marks) {

@@ -3,12 +3,15 @@
 #pragma once
 
 #include "AnimFile.h"
+#include "ClipSampler.h"
 #include "ModelNames.h"
 #include "ReadyChoices.h"
 #include "ReadySkeleton.h"
 #include "SceneParts.h"
 #include "SceneReading.h"
 #include "SkinnedMesh.h"
+
+#include <functional>
 
 /// Makes animation blocks of the clips of a scene.
 class ReadyClips
@@ -24,6 +27,16 @@ public:
     /// How far each bone's own movement takes what hangs on it from where its parent alone would, at most
     /// over all taken clips: an upper bound, in parts of the model's size.
     std::vector<double> movements(const ReadySkeleton &skeleton, const SceneParts &parts) const;
+
+    /// How many frames the blocks of all taken clips have.
+    qint64 frames() const;
+    /// Calls look(world, pose) for every `step`-th frame of every taken clip: where those nodes stand that
+    /// `wanted` marks with all above them, and the bones.
+    using Look = std::function<void(const std::vector<Matrix4> &world, const SkeletonPose &pose)>;
+    void eachPose(const ReadySkeleton &skeleton, const std::vector<bool> &wanted, int step,
+                  const Look &look) const;
+    /// Where all nodes stand at rest.
+    std::vector<Matrix4> restWorld() const;
 
     /// Appends a block for each taken clip, for `mesh`, which stands in `rest`, and names them. Without any
     /// it is one block of one frame, for the rest pose stands nowhere else.
@@ -44,9 +57,8 @@ private:
     int frameCount(int clip, double rate) const;
     double rateOf(const ClipSampler &clip) const;
     void warnOfCut(int clip, int frames) const;
-    /// Calls look(frame, pose) for every `step`-th frame.
-    template <typename Look>
-    void eachPose(const Taken &taken, const ReadySkeleton &skeleton, int step, Look look) const;
+    void eachPose(const Taken &taken, const ReadySkeleton &skeleton, const std::vector<bool> &wanted,
+                  int step, const Look &look) const;
     AnimBlock makeBlock(const Taken &taken, const ReadySkeleton &skeleton, const SkeletonPose &rest,
                         const SkinnedMesh &mesh, std::vector<bool> &isStretched) const;
 

@@ -49,30 +49,6 @@ struct MoverPlace
     bool isMirrored;
 };
 
-/// Calls look(vertex, mover, weight) for whatever moves vertices; the weights of each vertex add up to 1.
-template <typename Look>
-void eachWeight(const SceneParts::Part &part, Look look)
-{
-    const unsigned vertices = part.mesh->mNumVertices;
-    std::vector<double> sums(vertices);
-    const auto each = [&part, vertices](auto see) {
-        for (size_t m = 1; m < part.movers.size(); ++m) {
-            const aiBone &bone = *part.movers[m].bone;
-            for (unsigned w = 0; w < bone.mNumWeights; ++w) {
-                const aiVertexWeight &weight = bone.mWeights[w];
-                if (weight.mVertexId < vertices && weight.mWeight > 0.0f)
-                    see(weight.mVertexId, m, double(weight.mWeight));
-            }
-        }
-    };
-    each([&sums](unsigned v, size_t, double weight) { sums[v] += weight; });
-    each([&](unsigned v, size_t mover, double weight) { look(v, mover, weight / sums[v]); });
-    for (unsigned v = 0; v < vertices; ++v) {
-        if (!(sums[v] > 0.0))
-            look(v, size_t(0), 1.0);
-    }
-}
-
 /// By all bones, as the source has it, also for those vertices that shall follow one: where the rest pose is
 /// not the one that the skin was bound in, those of several bones would be torn apart otherwise.
 RestVertices placeVertices(const SceneParts::Part &part)
@@ -86,7 +62,7 @@ RestVertices placeVertices(const SceneParts::Part &part)
     rest.positions.resize(mesh.mNumVertices);
     rest.normals.resize(mesh.mNumVertices);
     rest.isMirrored.resize(mesh.mNumVertices);
-    eachWeight(part, [&](unsigned v, size_t mover, double weight) {
+    SceneParts::eachWeight(part, [&](unsigned v, size_t mover, double weight) {
         const MoverPlace &place = places[mover];
         rest.positions[v] += place.matrix * exact(mesh.mVertices[v]) * weight;
         if (mesh.mNormals)
@@ -255,7 +231,7 @@ bool addGeometry(const SceneSource &source, const SceneParts &parts, const std::
 {
     const auto settle = [&](SkinnedMeshVertex &vertex, const SceneParts::Part &part, unsigned v,
                             const RestVertices &vertices) {
-        const int bone = skeleton.boneOf(part.movers[part.moverOf.empty() ? 0 : part.moverOf[v]].node);
+        const int bone = skeleton.boneOf(part, v);
         const RigidFrame &frame = rest.world[size_t(bone)];
         vertex.position = single(frame.unmap(vertices.positions[v]));
         vertex.normal = single(frame.unturn(vertices.normals[v]));

@@ -4,6 +4,7 @@
 
 #include "BoneSymbolGuess.h"
 #include "ExportNames.h"
+#include "ExtraBoneSearch.h"
 #include "GltfWeights.h"
 #include "NameTables.h"
 #include "ReadyClips.h"
@@ -114,6 +115,18 @@ bool limitBones(const SceneSource &source, const SceneNodes &nodes, const SceneP
     return false;
 }
 
+/// "hand.L extra 1", "hand.L extra 2"
+void nameExtraBones(const ReadySkeleton &skeleton, ModelNames &names)
+{
+    QHash<int, int> known; // by parent
+    for (int b = skeleton.sourceCount(); b < skeleton.count(); ++b) {
+        const int parent = skeleton.parent(b);
+        names.bones.insert(b, QStringLiteral("%1 extra %2")
+                                  .arg(names.bones.value(parent, QStringLiteral("bone %1").arg(parent)),
+                                       QString::number(++known[parent])));
+    }
+}
+
 void addBones(const SceneSource &source, const SceneNodes &nodes, const ReadySkeleton &skeleton,
               SkinnedMesh &mesh, ModelNames &names)
 {
@@ -131,19 +144,74 @@ void addBones(const SceneSource &source, const SceneNodes &nodes, const ReadySke
             bone.parentNode = quint8(skeleton.parent(b));
             mesh.nodes[size_t(skeleton.parent(b))].childNodes.push_back(quint16(b));
         }
+        if (b >= skeleton.sourceCount()) {
+            bone.symbolFlags = mesh.nodes[size_t(skeleton.parent(b))].symbolFlags;
+            continue;
+        }
         const QString name = bareBoneName(text(nodes[skeleton.node(b)].source->mName));
         if (name.isEmpty())
             continue;
         names.bones.insert(b, name);
         bone.symbolFlags = guessedSymbolFlags(name).value_or(bone.symbolFlags);
     }
+    nameExtraBones(skeleton, names);
+}
+
+/// What the tracks of bones take in the file that those of the source do not have.
+qint64 extraBytes(const AnimFile &anim, size_t sourceBones)
+{
+    qint64 bytes = 0;
+    for (const AnimBlock &block : anim.blocks) {
+        QSet<int> translations;
+        QSet<int> rotations;
+        qint64 frameBytes = 0;
+        for (size_t b = 0; b < block.nodes.size(); ++b) {
+            const AnimNode &node = block.nodes[b];
+            const auto add = [&frameBytes, isExtra = b >= sourceBones](QSet<int> &known, int track,
+                                                                       int keyBytes) {
+                if (track < 0xFFFF && !known.contains(track) && isExtra)
+                    frameBytes += keyBytes;
+                known.insert(track);
+            };
+            add(translations, node.translationIndex, sizeof(QVector3D));
+            add(rotations, node.rotationIndex, sizeof(QVector4D));
+        }
+        bytes += frameBytes * block.frameCount();
+    }
+    return bytes;
+}
+
+void tellOfExtraBones(const SceneSource &source, const ExtraBoneAccount &account, qint64 bytes)
+{
+    const auto percent = [](double share) { return QString::number(100.0 * share, 'f', 1); };
+    const QString with = percent(account.with);
+    if (account.bones > 0)
+        source.messages.addInfo(
+            QCoreApplication::translate(
+                "Import", "%1 Extra bones: %2, which take %3 kB of the animation file. No vertex is farther "
+                          "than %4 % of the model's size from its place in the source, instead of %5 %.")
+                .arg(source.modelPath, QString::number(account.bones), QString::number((bytes + 999) / 1000),
+                     with, percent(account.without)));
+    else if (account.isFull)
+        source.messages.addInfo(
+            QCoreApplication::translate(
+                "Import",
+                "%1 There is no room for extra bones, for a model can be posed with %2. Vertices are "
+                "up to %3 % of the model's size from their places in the source.")
+                .arg(source.modelPath, QString::number(ReadySkeleton::BoneLimit), with));
+    else
+        source.messages.addInfo(QCoreApplication::translate(
+                                    "Import", "%1 No extra bones are needed: no vertex is farther than %2 % "
+                                              "of the model's size from its place in the source.")
+                                    .arg(source.modelPath, with));
 }
 
 /// Names tell no more than what is likely, so somebody has to look.
-void listSymbols(const SceneSource &source, const SkinnedMesh &mesh, const ModelNames &names)
+/// Extra bones have those of their parents.
+void listSymbols(const SceneSource &source, const SkinnedMesh &mesh, const ModelNames &names, int boneCount)
 {
     std::map<QString, QStringList> bones; // by their symbols
-    for (int b = 0; b < int(mesh.nodes.size()); ++b) {
+    for (int b = 0; b < boneCount; ++b) {
         const QString name = names.bones.value(b);
         if (guessedSymbolFlags(name))
             bones[boneSymbolName(mesh, b)] += QStringLiteral("%1 %2").arg(QString::number(b), name);
@@ -162,19 +230,20 @@ void importReadySkinnedMesh(const ReadySource &ready, QStringList &textures, Ski
     SceneSource source{ready.modelPath, ready.kmatPath, textures, messages};
     if (!readReady(importer, "Ready Skinned Mesh Import", source))
         return;
-    const double scale = double(ready.choices.scale);
     const SceneNodes nodes(*source.scene);
-    const std::vector<bool> everything(size_t(nodes.count()), true);
-    const SceneParts parts(*source.scene, nodes, nodes.worldPlaces(nodes.restPlaces(), everything, scale));
     ReadyClips clips(source, nodes, ready.choices);
+    const SceneParts parts(*source.scene, nodes, clips.restWorld());
 
     ReadySkeleton skeleton(nodes, SceneParts::skinNodes(*source.scene, nodes),
                            SceneParts::bareNodes(*source.scene, nodes), clips.moved());
     if (limitBones(source, nodes, parts, clips, skeleton))
         return;
+    ExtraBoneAccount account;
+    if (ready.choices.extraBones)
+        account = addExtraBones(parts, clips, skeleton);
     addBones(source, nodes, skeleton, mesh, names);
     SkeletonPose rest;
-    skeleton.pose(nodes.worldPlaces(nodes.restPlaces(), skeleton.wanted(), scale), rest);
+    skeleton.pose(clips.restWorld(), rest);
     // A bone alone that nothing moves may as well be where the game has one that it knows nothing of.
     if (skeleton.count() == 0)
         clips.clear();
@@ -189,7 +258,9 @@ void importReadySkinnedMesh(const ReadySource &ready, QStringList &textures, Ski
                                 .arg(source.modelPath, QString::number(parts.unbound())));
     clips.addBlocks(skeleton, rest, mesh, anim, names);
     messages.addInfo(contentText(mesh, anim));
-    listSymbols(source, mesh, names);
+    if (ready.choices.extraBones)
+        tellOfExtraBones(source, account, extraBytes(anim, size_t(skeleton.sourceCount())));
+    listSymbols(source, mesh, names, skeleton.sourceCount());
 }
 
 StaticMesh importReadyStaticMesh(const ReadySource &ready, QStringList &textures, ImportMessages &messages)

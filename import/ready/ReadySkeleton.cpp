@@ -93,6 +93,24 @@ void ReadySkeleton::build(const std::vector<bool> &isBone)
     m_wanted = m_nodes.carriers(isBone);
 }
 
+void ReadySkeleton::setExtras(std::unique_ptr<ExtraBones> extras)
+{
+    m_extras = std::move(extras);
+    m_extras->markNodes(m_wanted);
+    m_wanted = m_nodes.carriers(m_wanted);
+}
+
+int ReadySkeleton::parent(int bone) const
+{
+    return bone < sourceCount() ? m_bones[size_t(bone)].parent : m_extras->parent(bone - sourceCount());
+}
+
+int ReadySkeleton::boneOf(const SceneParts::Part &part, unsigned vertex) const
+{
+    const int extra = m_extras ? m_extras->find(part.first + vertex) : -1;
+    return extra >= 0 ? sourceCount() + extra : boneOf(part.mover(vertex).node);
+}
+
 void ReadySkeleton::dropLeaves(const std::vector<bool> &bears, const std::vector<bool> &moved)
 {
     if (count() <= BoneLimit)
@@ -132,27 +150,17 @@ void ReadySkeleton::mergeStill(const std::vector<double> &movements)
 
 void ReadySkeleton::pose(const std::vector<Matrix4> &world, SkeletonPose &pose) const
 {
-    pose.local.resize(m_bones.size());
-    pose.world.resize(m_bones.size());
-    pose.sizes.resize(m_bones.size());
+    pose.resize(size_t(count()));
     for (size_t b = 0; b < m_bones.size(); ++b) {
         const Matrix4 &place = world[size_t(m_bones[b].node)];
         const RigidFrame parent = b == 0 ? RigidFrame() : pose.world[size_t(m_bones[b].parent)];
-        RigidFrame &local = pose.local[b];
-        RigidFrame &frame = pose.world[b];
-        if (const std::optional<Turn> turn = turnOf(place)) {
-            Turn back = parent.turn;
-            const Turn relative = back.Conjugate() * *turn;
-            local.turn = dot(relative, local.turn) < 0.0 ? negative(relative) : relative;
-        }
-        frame.turn = parent.turn * local.turn;
-        frame.turn.Normalize();
-        const Vector3 origin = parent.unmap(originOf(place));
-        if (isFinite(origin))
-            local.origin = origin;
-        frame.origin = parent.map(local.origin);
+        if (const std::optional<Turn> turn = turnOf(place))
+            pose.turn(b, parent, *turn);
+        pose.settle(b, parent, originOf(place));
         pose.sizes[b] = {Vector3(place.a1, place.b1, place.c1).Length(),
                          Vector3(place.a2, place.b2, place.c2).Length(),
                          Vector3(place.a3, place.b3, place.c3).Length()};
     }
+    if (m_extras)
+        m_extras->pose(world, pose);
 }

@@ -2,15 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ClipSampler.h"
-
-/// How bones stand: in the spaces of their parents, and in the model's.
-struct SkeletonPose
-{
-    std::vector<RigidFrame> local;
-    std::vector<RigidFrame> world;
-    std::vector<Vector3> sizes; ///< of the nodes along their axes, which bones cannot have
-};
+#include "ExtraBones.h"
 
 /// The nodes of a scene that become bones. Bone 0 is the root of all others; a parent's number is lower than
 /// its children's.
@@ -24,12 +16,17 @@ public:
     ReadySkeleton(const SceneNodes &nodes, std::vector<bool> skinned, const std::vector<bool> &shows,
                   const std::vector<bool> &moved);
 
-    int count() const { return int(m_bones.size()); }
+    /// Those that nodes of the source are, then the extra ones.
+    int count() const { return sourceCount() + (m_extras ? m_extras->count() : 0); }
+    int sourceCount() const { return int(m_bones.size()); }
+    /// Of a bone of the source.
     int node(int bone) const { return m_bones[size_t(bone)].node; }
     /// SceneNodes::None of bone 0.
-    int parent(int bone) const { return m_bones[size_t(bone)].parent; }
+    int parent(int bone) const;
     /// The bone that what hangs on the node goes with: its own or the nearest above it, else bone 0.
     int boneOf(int node) const { return m_boneOf[size_t(node)]; }
+    /// The bone of a vertex, an extra one perhaps.
+    int boneOf(const SceneParts::Part &part, unsigned vertex) const;
     /// Marks the nodes on whose places the bones' depend.
     const std::vector<bool> &wanted() const { return m_wanted; }
 
@@ -39,6 +36,9 @@ public:
     /// Makes bones one with their parents whose own movement is of no account, those that move least first,
     /// in the same way. `movements` is by bone, in parts of the model's size.
     void mergeStill(const std::vector<double> &movements);
+
+    /// Appends bones, once all that are left out are.
+    void setExtras(std::unique_ptr<ExtraBones> extras);
 
     /// Where the bones stand when the nodes stand in `world`. A bone that is flattened, and so has no
     /// rotation of its own, keeps that of `pose` to its parent, and so do the signs of quaternions.
@@ -58,4 +58,5 @@ private:
     std::vector<Bone> m_bones;
     std::vector<int> m_boneOf; ///< by node
     std::vector<bool> m_wanted;
+    std::unique_ptr<ExtraBones> m_extras;
 };

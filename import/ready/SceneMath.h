@@ -54,6 +54,14 @@ inline Turn negative(const Turn &q)
     return {-q.w, -q.x, -q.y, -q.z};
 }
 
+inline void addScaled(Matrix3 &sum, const Matrix3 &m, double factor)
+{
+    for (unsigned row = 0; row < 3; ++row) {
+        for (unsigned column = 0; column < 3; ++column)
+            sum[row][column] += m[row][column] * factor;
+    }
+}
+
 inline Vector3 originOf(const Matrix4 &m)
 {
     return {m.a4, m.b4, m.c4};

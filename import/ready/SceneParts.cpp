@@ -50,12 +50,14 @@ void bindToSkin(SceneParts::Part &part, const SceneNodes &nodes, const std::vect
 SceneParts::SceneParts(const aiScene &scene, const SceneNodes &nodes, const std::vector<Matrix4> &world)
 {
     std::vector<bool> isThere(scene.mNumMeshes);
+    quint32 vertices = 0;
     eachStandingMesh(scene, nodes, [&](int node, unsigned number) {
         const aiMesh &mesh = *scene.mMeshes[number];
         if (mesh.HasBones() && isThere[number])
             return;
         isThere[number] = true;
-        Part part{&mesh, number, {{node, world[size_t(node)], nullptr}}, {}};
+        Part part{&mesh, number, {{node, world[size_t(node)], nullptr}}, {}, vertices};
+        vertices += mesh.mNumVertices;
         if (mesh.HasBones())
             bindToSkin(part, nodes, world);
         m_parts.push_back(std::move(part));

@@ -58,8 +58,8 @@ _korvane_tool() {
     resave) options='--output --force --help' ;;
     import)
         options='--output --static --force --keep-materials --no-normals --flip-uv --flip-winding --no-rotate --scale
-            --ready --rate --clips --mod-path --create-kmat --copy-textures --kmat --texture-folder --time-limit
-            --update --anim --drop-missing --help'
+            --ready --rate --clips --extra-bones --mod-path --create-kmat --copy-textures --kmat --texture-folder
+            --time-limit --update --anim --drop-missing --help'
         ;;
     export)
         options='--output --gltf --anim --block --pose --frame --force --game-path --mod-path --help'

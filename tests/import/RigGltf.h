@@ -43,7 +43,7 @@ struct Rig
     {
         QByteArray name;
         std::map<std::pair<int, QByteArray>, std::vector<Key>>
-            channels; ///< by node and "translation", "rotation"
+            channels; ///< by node and "translation", "rotation", "scale"
     };
 
     std::vector<Node> nodes; ///< parents first
@@ -60,10 +60,14 @@ struct Rig
             const Node &node = nodes[size_t(n)];
             QVector3D place = node.place;
             QQuaternion turn = node.turn;
+            QVector3D scale = node.scale;
+            const auto straight = [](const QVector4D &a, const QVector4D &b, float t) {
+                return a + (b - a) * t;
+            };
             if (const std::vector<Key> *keys = channel(clip, n, "translation"))
-                place = at(*keys, time, [](const QVector4D &a, const QVector4D &b, float t) {
-                            return a + (b - a) * t;
-                        }).toVector3D();
+                place = at(*keys, time, straight).toVector3D();
+            if (const std::vector<Key> *keys = channel(clip, n, "scale"))
+                scale = at(*keys, time, straight).toVector3D();
             if (const std::vector<Key> *keys = channel(clip, n, "rotation"))
                 turn = QQuaternion(at(*keys, time, [](const QVector4D &a, const QVector4D &b, float t) {
                     return QQuaternion::slerp(QQuaternion(a), QQuaternion(b), t).toVector4D();
@@ -71,10 +75,21 @@ struct Rig
             QMatrix4x4 local;
             local.translate(place);
             local.rotate(turn);
-            local.scale(node.scale);
+            local.scale(scale);
             found.push_back(node.parent < 0 ? local : found[size_t(node.parent)] * local);
         }
         return found;
+    }
+
+    /// Where all its joints have a vertex of the skin.
+    QVector3D blended(const std::vector<QMatrix4x4> &worlds, const Vertex &vertex) const
+    {
+        QVector3D place;
+        for (size_t w = 0; w < vertex.joints.size(); ++w) {
+            const size_t joint = vertex.joints[w];
+            place += vertex.weights[w] * (worlds[size_t(joints[joint])] * binds[joint]).map(vertex.place);
+        }
+        return place;
     }
 
     /// Where a vertex of the mesh at `node` stands, when it rests where all its joints have it and from there
@@ -84,11 +99,7 @@ struct Rig
     {
         if (!nodes[size_t(node)].isSkinned)
             return worlds[size_t(node)].map(vertex.place);
-        QVector3D resting;
-        for (size_t w = 0; w < vertex.joints.size(); ++w) {
-            const size_t joint = vertex.joints[w];
-            resting += vertex.weights[w] * (rest[size_t(joints[joint])] * binds[joint]).map(vertex.place);
-        }
+        const QVector3D resting = blended(rest, vertex);
         const auto strongest = size_t(joints[vertex.joints[0]]);
         return (worlds[strongest] * rest[strongest].inverted()).map(resting);
     }

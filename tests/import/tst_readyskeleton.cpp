@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "BoneSymbolGuess.h"
+#include "ClipSampler.h"
 #include "HandScene.h"
 #include "NameTables.h"
 #include "ReadySkeleton.h"

@@ -50,6 +50,8 @@ private slots:
             {"import x.obj -o / --scale big", "'big'"},
             {"import x.obj -o / --scale auto", "'auto'"},
             {"import x.obj -o / --clips 1", "need --ready"},
+            {"import x.obj -o / --extra-bones", "need --ready"},
+            {"import x.obj -o / --ready --static --extra-bones", "has no bones"},
             {"import x.obj -o / --ready --rate 0", "--rate"},
             {"import x.obj -o / --ready --flip-uv", "--flip-uv"},
             {"import x.obj -o / --mod-path /tmp --kmat /etc/x.kmat", "/etc/x.kmat"},

@@ -46,6 +46,8 @@ private slots:
             QVERIFY(!Settings::ImportReadyKMat.value() && !Settings::ImportKMat.exists());
             QTest::keyClick(find<QCheckBox>(dialog, "cbReadyOwnRate"), Qt::Key_Space); // there is no file yet
             QCOMPARE(Settings::ImportReadyRate.value(), 30.0f);
+            QTest::keyClick(find<QCheckBox>(dialog, "cbExtraBones"), Qt::Key_Space);
+            QVERIFY(!Settings::ImportReadyExtraBones.exists());
         }
         ImportDialog dialog(ImportDialog::StaticMeshMode);
         dialog.show();
@@ -139,6 +141,8 @@ private slots:
         QCOMPARE(tree->topLevelItem(0)->text(2), QStringLiteral("Never"));
         QTest::keyClick(loop, Qt::Key_Up);
         QCOMPARE(marks(), QStringLiteral("-x"));
+        QTest::keyClick(find<QCheckBox>(dialog, "cbExtraBones"), Qt::Key_Space);
+        QVERIFY(Settings::ImportReadyExtraBones.value());
         QTest::keyClick(find<QCheckBox>(dialog, "cbReadyOwnRate"), Qt::Key_Space);
         QCOMPARE(Settings::ImportReadyRate.value(), 0.0f);
         QTest::keyClick(find<QCheckBox>(dialog, "cbReadyOwnRate"), Qt::Key_Space);
@@ -151,6 +155,9 @@ private slots:
         QCOMPARE(anim.blocks[0].frameCount(), 11);
         QCOMPARE(anim.blocks[0].loopFrame, quint16(0));
         QVERIFY(m_names.animations.values().contains(QStringLiteral("walk")));
+        QVERIFY(!find<QListWidget>(dialog, "listSuccess")
+                     ->findItems("No extra bones are needed", Qt::MatchContains)
+                     .isEmpty());
     }
 
     void anImportWaitsForTheProposedScale()

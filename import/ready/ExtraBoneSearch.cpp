@@ -16,6 +16,7 @@ constexpr qint64 SearchedLimit = 1'000'000;
 constexpr qint64 LeastFrames = 24;
 /// Of fitting bones to their vertices and finding vertices their bones in turn.
 constexpr int Rounds = 2;
+constexpr double Progress = 0.9; // of the error before, what counts as better
 
 class ExtraBoneSearch
 {
@@ -291,9 +292,11 @@ void ExtraBoneSearch::search()
         const auto worst = std::max_element(m_points.begin(), others, isNearer);
         if (worst->error <= m_size * Tolerance)
             break;
+        const auto seed = size_t(worst - m_points.begin());
         const int bone = worst->bone;
+        const double before = worst->error;
         m_groupsOf[size_t(bone)].push_back(m_groups.size());
-        m_groups.push_back(grown(size_t(worst - m_points.begin())));
+        m_groups.push_back(grown(seed));
         for (int round = 0; round < Rounds; ++round) {
             assign(bone);
             for (const size_t g : m_groupsOf[size_t(bone)]) {
@@ -302,6 +305,12 @@ void ExtraBoneSearch::search()
             }
         }
         assign(bone);
+        if (m_points[seed].error > before * Progress) {
+            // What is nearest to many may do nothing for the one: a bone that has it in its place does.
+            m_groups.back().points = {seed};
+            fit(m_groups.back());
+            assign(bone);
+        }
     }
     for (size_t p = m_searched; p < m_points.size(); ++p)
         m_pointsOf[size_t(m_points[p].bone)].push_back(p);

@@ -4582,7 +4582,7 @@ Hände und Füße (x0.25): %6</translation>
         <translation>%1 Einheiten; eine Person ist etwa 200 hoch</translation>
     </message>
     <message>
-        <source>Extra E&amp;xtra bones whereamp;bones where one does not do</source>
+        <source>Extra &amp;bones where one does not do</source>
         <translation>&amp;Zusatzknochen, wo einer nicht reicht</translation>
     </message>
     <message>

@@ -13,7 +13,7 @@ constexpr double Tolerance = 0.01;
 /// where these were too few, of the vertices.
 constexpr qint64 SeenLimit = 40'000'000;
 constexpr qint64 SearchedLimit = 1'000'000;
-constexpr qint64 LeastFrames = 24;
+constexpr qint64 LeastFrames = 100;
 /// Of fitting bones to their vertices and finding vertices their bones in turn.
 constexpr int Rounds = 2;
 constexpr double Progress = 0.9; // of the error before, what counts as better
@@ -47,14 +47,22 @@ private:
         // By frame, from the rest pose on.
         std::vector<Matrix3> turns;
         std::vector<Vector3> middles;
+
+        Vector3 placeOf(const Vector3 &rest, size_t frame) const
+        {
+            return turns[frame] * (rest - restMiddle) + middles[frame];
+        }
     };
 
     void collect();
-    void follow(const std::vector<bool> &isTaken);
+    template <typename Look>
+    void eachTakenFrame(Look look) const;
+    void follow();
     void fit(Group &group) const;
     double error(const Group &group, size_t point, double limit) const;
     Group grown(size_t seed) const;
     void assign(int bone);
+    void assignOthers();
 
     const SceneParts &m_parts;
     const ReadyClips &m_clips;
@@ -74,9 +82,10 @@ private:
     std::vector<Group> m_groups;
     std::vector<std::vector<size_t>> m_pointsOf; ///< by bone
     std::vector<std::vector<size_t>> m_groupsOf; ///< by bone
-    size_t m_frames = 0;
-    std::vector<Vector3> m_tracks;  ///< by point, then frame
-    std::vector<Matrix3> m_changes; ///< the same, of those that are searched with
+    std::vector<bool> m_isTaken;                 ///< by frame looked at
+    size_t m_frames = 0;                         ///< that are taken
+    std::vector<Vector3> m_tracks;               ///< by point that is searched with, then frame taken
+    std::vector<Matrix3> m_changes;              ///< the same
 };
 
 ExtraBoneSearch::ExtraBoneSearch(const SceneParts &parts, const ReadyClips &clips,
@@ -172,39 +181,45 @@ void ExtraBoneSearch::collect()
     const size_t all = m_frameErrors.size();
     const size_t wanted = size_t(std::max(SearchedLimit / qint64(m_searched), LeastFrames));
     const size_t run = (all + wanted - 1) / wanted;
-    std::vector<bool> isTaken(all);
+    m_isTaken.assign(all, false);
     for (size_t first = 0; first < all; first += run) {
         const auto begin = m_frameErrors.begin() + qptrdiff(first);
         const auto end = m_frameErrors.begin() + qptrdiff(std::min(first + run, all));
-        isTaken[size_t(std::max_element(begin, end) - m_frameErrors.begin())] = true;
+        m_isTaken[size_t(std::max_element(begin, end) - m_frameErrors.begin())] = true;
         ++m_frames;
     }
-    follow(isTaken);
+    follow();
 }
 
-/// Keeps where the source has the points in those frames, and what becomes of their surroundings.
-void ExtraBoneSearch::follow(const std::vector<bool> &isTaken)
+/// Calls look(number of the frame, movers) for the frames that tell.
+template <typename Look>
+void ExtraBoneSearch::eachTakenFrame(Look look) const
 {
-    m_tracks.resize(m_points.size() * m_frames);
-    m_changes.resize(m_searched * m_frames);
-    const BlendedVertices::Movers rest = m_vertices->movers(m_restWorld);
-    std::vector<Matrix3> toRest;
-    for (size_t p = 0; p < m_searched; ++p)
-        toRest.push_back(m_vertices->toRest(rest, m_points[p].vertex));
     size_t seen = 0;
     size_t frame = 0;
     m_clips.eachPose(m_skeleton, m_nodes, m_step,
                      [&](const std::vector<Matrix4> &world, const SkeletonPose &) {
-                         if (!isTaken[seen++])
-                             return;
-                         const BlendedVertices::Movers movers = m_vertices->movers(world);
-                         for (size_t p = 0; p < m_points.size(); ++p)
-                             m_tracks[p * m_frames + frame] = m_vertices->place(movers, m_points[p].vertex);
-                         for (size_t p = 0; p < m_searched; ++p)
-                             m_changes[p * m_frames + frame] =
-                                 m_vertices->surroundings(movers, m_points[p].vertex) * toRest[p];
-                         ++frame;
+                         if (m_isTaken[seen++])
+                             look(frame++, m_vertices->movers(world));
                      });
+}
+
+/// Keeps where the source has the points that are searched with, and what becomes of their surroundings.
+void ExtraBoneSearch::follow()
+{
+    m_tracks.resize(m_searched * m_frames);
+    m_changes.resize(m_tracks.size());
+    const BlendedVertices::Movers rest = m_vertices->movers(m_restWorld);
+    std::vector<Matrix3> toRest;
+    for (size_t p = 0; p < m_searched; ++p)
+        toRest.push_back(m_vertices->toRest(rest, m_points[p].vertex));
+    eachTakenFrame([&](size_t frame, const BlendedVertices::Movers &movers) {
+        for (size_t p = 0; p < m_searched; ++p) {
+            const quint32 vertex = m_points[p].vertex;
+            m_tracks[p * m_frames + frame] = m_vertices->place(movers, vertex);
+            m_changes[p * m_frames + frame] = m_vertices->surroundings(movers, vertex) * toRest[p];
+        }
+    });
 }
 
 void ExtraBoneSearch::fit(Group &group) const
@@ -233,12 +248,11 @@ void ExtraBoneSearch::fit(Group &group) const
 /// that is sure.
 double ExtraBoneSearch::error(const Group &group, size_t point, double limit) const
 {
-    const Vector3 rest = m_places[m_points[point].vertex] - group.restMiddle;
+    const Vector3 &rest = m_places[m_points[point].vertex];
     double most = 0.0;
     limit *= limit;
     for (size_t f = 0; f < m_frames && most <= limit; ++f)
-        most = std::max(
-            most, (group.turns[f] * rest + group.middles[f] - m_tracks[point * m_frames + f]).SquareLength());
+        most = std::max(most, (group.placeOf(rest, f) - m_tracks[point * m_frames + f]).SquareLength());
     return std::sqrt(most);
 }
 
@@ -312,10 +326,35 @@ void ExtraBoneSearch::search()
             assign(bone);
         }
     }
+    assignOthers();
+}
+
+/// Does the same for the points that were not searched with.
+void ExtraBoneSearch::assignOthers()
+{
+    std::vector<std::vector<double>> errors; // of each by group of its bone
     for (size_t p = m_searched; p < m_points.size(); ++p)
-        m_pointsOf[size_t(m_points[p].bone)].push_back(p);
-    for (int bone = 0; bone < m_skeleton.count() && m_searched < m_points.size(); ++bone)
-        assign(bone);
+        errors.emplace_back(m_groupsOf[size_t(m_points[p].bone)].size());
+    if (errors.empty())
+        return;
+    eachTakenFrame([&](size_t frame, const BlendedVertices::Movers &movers) {
+        for (size_t o = 0; o < errors.size(); ++o) {
+            const Point &point = m_points[m_searched + o];
+            const Vector3 place = m_vertices->place(movers, point.vertex);
+            for (size_t i = 0; i < errors[o].size(); ++i) {
+                const Group &group = m_groups[m_groupsOf[size_t(point.bone)][i]];
+                const Vector3 apart = group.placeOf(m_places[point.vertex], frame) - place;
+                errors[o][i] = std::max(errors[o][i], apart.SquareLength());
+            }
+        }
+    });
+    for (size_t o = 0; o < errors.size(); ++o) {
+        const Point &point = m_points[m_searched + o];
+        const auto least = std::min_element(errors[o].begin(), errors[o].end());
+        if (least != errors[o].end() && std::sqrt(*least) < point.error)
+            m_groups[m_groupsOf[size_t(point.bone)][size_t(least - errors[o].begin())]].points.push_back(
+                m_searched + o);
+    }
 }
 
 std::unique_ptr<ExtraBones> ExtraBoneSearch::bones() const
@@ -347,6 +386,12 @@ ExtraBoneAccount addExtraBones(const SceneParts &parts, const ReadyClips &clips,
         search.measure();
         account.with = search.greatestError();
     }
-    account.isFull = skeleton.count() >= ReadySkeleton::BoneLimit && account.with > Tolerance;
+    if (account.with > account.without) {
+        // Between the frames that were looked at something went another way.
+        skeleton.setExtras(nullptr);
+        account.bones = 0;
+        account.with = account.without;
+    }
+    account.isFull = account.bones == 0 && account.with > Tolerance;
     return account;
 }

@@ -25,8 +25,8 @@ public:
     void addPoint(const Vector3 &rest, const Vector3 &place);
     /// What becomes of the surroundings of a point. `size` is the model's.
     void addSurroundings(const Matrix3 &change, double size);
-    /// None when nothing tells.
-    std::optional<Turn> turn() const { return turnOf(Matrix4(m_sum)); }
+    /// None when nothing tells, or what tells is no number.
+    std::optional<Turn> turn() const;
 
 private:
     static constexpr size_t Enough = 60;

@@ -96,6 +96,8 @@ void ReadySkeleton::build(const std::vector<bool> &isBone)
 void ReadySkeleton::setExtras(std::unique_ptr<ExtraBones> extras)
 {
     m_extras = std::move(extras);
+    if (!m_extras)
+        return;
     m_extras->markNodes(m_wanted);
     m_wanted = m_nodes.carriers(m_wanted);
 }

@@ -37,7 +37,7 @@ public:
     /// in the same way. `movements` is by bone, in parts of the model's size.
     void mergeStill(const std::vector<double> &movements);
 
-    /// Appends bones, once all that are left out are.
+    /// Appends bones, once all that are left out are; null takes them away.
     void setExtras(std::unique_ptr<ExtraBones> extras);
 
     /// Where the bones stand when the nodes stand in `world`. A bone that is flattened, and so has no

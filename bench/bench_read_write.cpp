@@ -1,10 +1,8 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "AnimFile.h"
 #include "Bench.h"
+#include "LargeModels.h"
 #include "ReferenceIds.h"
-#include "SkinnedMesh.h"
-#include "StaticMesh.h"
 #include "Validation.h"
 
 #include <QCoreApplication>
@@ -16,67 +14,10 @@
 #include <cstring>
 #include <memory>
 
-// Reads and writes a 64 MB file of each kind, its bytes shared out as in real models: a third indexes and
-// two thirds vertices in the meshes; in the animations blocks of 41 bones and 120 frames, most of it keys.
-// Looks for what is wrong with them, of which there is much: normals, for one, are zero.
-// And refuses a short file that claims to be much longer.
+// Reads and writes a 64 MB file of each kind. Looks for what is wrong with them, of which there is much:
+// normals, for one, are zero. And refuses a short file that claims to be much longer.
 namespace {
-constexpr size_t FileBytes = 64 * 1000 * 1000;
 constexpr int Repetitions = 15;
-
-std::vector<quint16> triangleIndexes(size_t count, quint16 limit)
-{
-    std::vector<quint16> indexes(count);
-    for (size_t i = 0; i < count; ++i)
-        indexes[i] = quint16(i % limit);
-    return indexes;
-}
-
-template <typename Mesh>
-void fillMesh(Mesh &mesh, size_t vertexBytes)
-{
-    constexpr size_t surfaceIndexes = 60000;
-    mesh.version = 2;
-    mesh.surfaces.resize(FileBytes / 3 / (surfaceIndexes * 2));
-    for (auto &surface : mesh.surfaces) {
-        surface.materialPath = QStringLiteral("materials/mat_bench/material");
-        surface.triangleIndexes = triangleIndexes(surfaceIndexes, 65000);
-    }
-    mesh.vertices.resize(FileBytes * 2 / 3 / vertexBytes);
-    float step = 0.0f;
-    for (auto &vertex : mesh.vertices) {
-        step += 0.25f;
-        vertex.position = QVector3D(step, step, -step);
-    }
-}
-
-SkinnedMesh makeSkinnedMesh()
-{
-    SkinnedMesh mesh;
-    mesh.nodes.resize(41);
-    fillMesh(mesh, 34);
-    return mesh;
-}
-
-StaticMesh makeStaticMesh()
-{
-    StaticMesh mesh;
-    fillMesh(mesh, 32);
-    return mesh;
-}
-
-AnimFile makeAnimFile()
-{
-    AnimBlock block;
-    block.nodes.resize(41);
-    block.actions.resize(6);
-    block.setFrameCount(120);
-    block.setTranslationCount(12);
-    block.setRotationCount(30);
-    AnimFile file;
-    file.blocks.assign(FileBytes / (120 * (12 * 12 + 30 * 16 + 4) + 41 * 32 + 6 * 50 + 44), block);
-    return file;
-}
 
 /// What any reader has to do: see every byte of the file and have it in memory of its own.
 void mapAndCopy(const QString &path)
@@ -157,9 +98,9 @@ int main(int argc, char **argv)
 {
     QCoreApplication app(argc, argv);
     const QTemporaryDir folder;
-    addRows("skinnedmesh", folder.path(), makeSkinnedMesh());
-    addRows("anim", folder.path(), makeAnimFile());
-    addRows("staticmesh", folder.path(), makeStaticMesh());
+    addRows("skinnedmesh", folder.path(), LargeModels::skinnedMesh());
+    addRows("anim", folder.path(), LargeModels::animFile());
+    addRows("staticmesh", folder.path(), LargeModels::staticMesh());
     addHostileRow<SkinnedMesh>("skinnedmesh", folder.path());
     addHostileRow<AnimFile>("anim", folder.path());
     addHostileRow<StaticMesh>("staticmesh", folder.path());

@@ -161,11 +161,12 @@ void AnimTrackFrame::updateRange()
 void AnimTrackFrame::listBlocks()
 {
     const AnimFile *file = playback().anim;
-    const SkinnedMesh *mesh = playback().mesh;
+    const SkinnedMesh nameless;
+    const SkinnedMesh &mesh = playback().mesh ? *playback().mesh : nameless;
     QStringList names;
     const int count = file ? int(file->blocks.size()) : 0;
     for (int i = 0; i < count; ++i) {
-        const QString name = animationName(mesh ? *mesh : SkinnedMesh(), file->blocks[size_t(i)].animId);
+        const QString name = animationName(mesh, file->blocks[size_t(i)].animId);
         names << (name.isEmpty() ? QString::number(i) : tr("%1: %2").arg(i).arg(name));
     }
     QComboBox *box = m_ui->cbAnimTrackBlock;

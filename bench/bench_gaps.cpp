@@ -1,0 +1,221 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "Bench.h"
+#include "ImportDialog.h"
+#include "KVOpenGLWidget.h"
+#include "LargeModels.h"
+#include "MainWindow.h"
+#include "Settings.h"
+#include "WorkerJob.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QPushButton>
+#include <QSettings>
+#include <QSurfaceFormat>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdlib>
+#include <ctime>
+
+// How long the window answers nobody while it works: the largest gap between two turns of its event loop,
+// while large files open and are saved, a large import arrives, and much is wrong with a model. A paint of
+// such a model is up to the graphics driver, and takes a turn by itself; how long is told beside.
+namespace {
+constexpr double Budget = 50.0; // milliseconds
+
+struct Gap
+{
+    double passed = 0.0; ///< milliseconds by the clock
+    double worked = 0.0; ///< milliseconds of the thread's processor time: the same on a busy machine
+};
+
+double milliseconds(clockid_t clock)
+{
+    timespec now{};
+    clock_gettime(clock, &now);
+    return double(now.tv_sec) * 1e3 + double(now.tv_nsec) * 1e-6;
+}
+
+/// Measures the gaps between the turns of the event loop.
+class GapProbe
+{
+public:
+    GapProbe()
+    {
+        m_timer.setTimerType(Qt::PreciseTimer);
+        QObject::connect(&m_timer, &QTimer::timeout, [this] {
+            const Gap now{milliseconds(CLOCK_MONOTONIC), milliseconds(CLOCK_THREAD_CPUTIME_ID)};
+            m_largest.passed = std::max(m_largest.passed, now.passed - m_last.passed);
+            m_largest.worked = std::max(m_largest.worked, now.worked - m_last.worked);
+            m_last = now;
+        });
+        m_timer.start(1);
+    }
+    const Gap &largest() const { return m_largest; }
+
+private:
+    QTimer m_timer;
+    Gap m_last{milliseconds(CLOCK_MONOTONIC), milliseconds(CLOCK_THREAD_CPUTIME_ID)};
+    Gap m_largest;
+};
+
+void wait(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+/// The largest gap while `work` is done and what follows of it.
+template <typename Work>
+Gap largestGap(Work work)
+{
+    wait(300);
+    const GapProbe probe;
+    QTimer::singleShot(10, qApp, work);
+    wait(4000);
+    return probe.largest();
+}
+
+template <typename Model>
+QString written(const QString &path, const Model &model)
+{
+    if (model.write(path))
+        qFatal("no model could be written");
+    return path;
+}
+
+/// Large in memory and on the card, and nothing else: few vertices, many triangles.
+StaticMesh manyTriangles()
+{
+    StaticMesh mesh = LargeModels::staticMesh();
+    mesh.vertices.resize(65000);
+    mesh.surfaces.resize(4);
+    for (StaticMeshSurface &surface : mesh.surfaces)
+        surface.triangleIndexes = LargeModels::triangleIndexes(LargeModels::FileBytes / 8 / 3 * 3, 65000);
+    return mesh;
+}
+
+/// 5,000 surfaces, each of a material of its own that is not there.
+StaticMesh manyProblems()
+{
+    StaticMesh mesh = LargeModels::staticMesh();
+    mesh.vertices.resize(3);
+    mesh.surfaces.resize(5000);
+    for (size_t i = 0; i < mesh.surfaces.size(); ++i) {
+        mesh.surfaces[i].materialPath = QStringLiteral("materials/mat_%1/material").arg(i);
+        mesh.surfaces[i].triangleIndexes = {0, 1, 2};
+    }
+    return mesh;
+}
+
+/// What stands in for the program that reads foreign files: it leaves models that were ready before.
+int answerAsWorker(const QString &folder, const QString &models)
+{
+    const WorkerFolder job(folder);
+    WorkerJob asked;
+    bool failed = job.read(asked);
+    if (asked.task != WorkerJob::Task::Summarize)
+        failed = failed || !QFile::copy(models + QStringLiteral("/import.skinnedmesh"), job.skinnedMesh()) ||
+                 !QFile::copy(models + QStringLiteral("/import.anim"), job.anim());
+    return failed || job.write(WorkerAnswer()) ? EXIT_FAILURE : EXIT_SUCCESS;
+}
+
+/// Imports as a hand would: the button of the dialog, and then the one that closes it.
+void importThrough(MainWindow &window, const QString &path)
+{
+    QTimer clicks;
+    QObject::connect(&clicks, &QTimer::timeout, [] {
+        const auto *dialog = qobject_cast<ImportDialog *>(QApplication::activeModalWidget());
+        for (const char *name : {"btnImport", "btnSuccess"}) {
+            auto *button = dialog ? dialog->findChild<QPushButton *>(QLatin1String(name)) : nullptr;
+            if (button && button->isVisible())
+                button->click();
+        }
+    });
+    clicks.start(200);
+    window.openFiles({path});
+}
+
+void addGap(const std::string &name, const Gap &gap)
+{
+    Bench::addLimitLine("gap_" + name, gap.passed, Budget, "ms");
+    Bench::addLimitLine("gap_" + name + "_cpu", gap.worked, Budget, "ms");
+    for (size_t last = Bench::report().lines.size() - 2; last < Bench::report().lines.size(); ++last)
+        std::fprintf(stderr, "%s\n", Bench::report().lines[last].c_str());
+}
+
+void measure(MainWindow &window, const QString &folder)
+{
+    const auto saved = [&window] {
+        for (auto *document : window.findChildren<QAction *>(QStringLiteral("actionSave")))
+            document->trigger();
+    };
+    const auto measureFile = [&](const char *kind, const QString &path, const char *view) {
+        addGap(std::string("open_") + kind, largestGap([&] { window.openFiles({path}); }));
+        auto *widget = window.findChild<KVOpenGLWidget *>(QLatin1String(view));
+        const double before = milliseconds(CLOCK_THREAD_CPUTIME_ID);
+        widget->repaint();
+        std::fprintf(stderr, "INFO a paint of %s takes %.2fms of processor time\n", kind,
+                     milliseconds(CLOCK_THREAD_CPUTIME_ID) - before);
+        addGap(std::string("save_") + kind, largestGap(saved));
+    };
+    const QString path = folder + QStringLiteral("/large.");
+    measureFile("skinnedmesh", written(path + QStringLiteral("skinnedmesh"), LargeModels::skinnedMesh()),
+                "viewSkinned");
+    measureFile("anim", written(path + QStringLiteral("anim"), LargeModels::animFile()), "viewSkinned");
+    measureFile("staticmesh", written(path + QStringLiteral("staticmesh"), LargeModels::staticMesh()),
+                "viewStatic");
+    measureFile("triangles", written(folder + QStringLiteral("/triangles.staticmesh"), manyTriangles()),
+                "viewStatic");
+    measureFile("problems", written(folder + QStringLiteral("/problems.staticmesh"), manyProblems()),
+                "viewStatic");
+
+    SkinnedMesh mesh;
+    mesh.nodes.resize(41);
+    written(folder + QStringLiteral("/import.skinnedmesh"), mesh);
+    written(folder + QStringLiteral("/import.anim"), LargeModels::animFile(100 * 1000 * 1000));
+    QFile(folder + QStringLiteral("/foreign.fbx")).open(QIODevice::WriteOnly);
+    addGap("import", largestGap([&] { importThrough(window, folder + QStringLiteral("/foreign.fbx")); }));
+}
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const char *const Models = "KORVANE_BENCH_MODELS";
+    if (argc == 2 && qEnvironmentVariableIsSet(Models)) {
+        const QCoreApplication application(argc, argv);
+        return answerAsWorker(QFile::decodeName(argv[1]), qEnvironmentVariable(Models));
+    }
+    const QTemporaryDir home;
+    qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
+    QCoreApplication::setOrganizationName(QStringLiteral("KorvaneBench"));
+    QCoreApplication::setApplicationName(QStringLiteral("Korvane"));
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, home.path());
+    QSurfaceFormat format;
+    format.setDepthBufferSize(24);
+    format.setProfile(QSurfaceFormat::CoreProfile);
+    QSurfaceFormat::setDefaultFormat(format);
+    const QApplication application(argc, argv);
+    qputenv(Models, QFile::encodeName(home.path()));
+    qputenv("KORVANE_IMPORT_WORKER", QFile::encodeName(QCoreApplication::applicationFilePath()));
+    QDir(home.path()).mkpath(QStringLiteral("game"));
+    QDir(home.path()).mkpath(QStringLiteral("mod/materials"));
+    QDir(home.path()).mkpath(QStringLiteral("mod/textures"));
+    Settings::GamePath.setValue(home.filePath(QStringLiteral("game")));
+    Settings::OutputDir.setValue(home.filePath(QStringLiteral("mod")));
+    Settings::Updates.setValue(false);
+
+    MainWindow window;
+    window.resize(1366, 768);
+    window.show();
+    wait(3000);
+    measure(window, home.path());
+    Bench::printReport();
+    return 0;
+}

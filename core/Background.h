@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QObject>
 #include <QThreadPool>
 
@@ -51,6 +52,21 @@ public:
             *std::exchange(m_current, nullptr) = true;
     }
     bool isRunning() const { return m_current != nullptr; }
+    /// Gives the work some time, in which this thread does nothing else. If it is done by then, `done` is
+    /// called here and now.
+    void wait(int milliseconds)
+    {
+        if (m_current && m_threads.waitForDone(milliseconds))
+            QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+    }
+
+    /// Lets go of something large in another thread: that takes its time, too.
+    template <typename Garbage>
+    static void discard(Garbage garbage)
+    {
+        auto kept = std::make_shared<Garbage>(std::move(garbage));
+        QThreadPool::globalInstance()->start([kept = std::move(kept)]() mutable { kept.reset(); });
+    }
 
 private:
     QThreadPool m_threads;

@@ -6,6 +6,8 @@
 
 #include <QDebug>
 
+#include <utility>
+
 namespace {
 Log::Sink &currentSink()
 {
@@ -13,8 +15,12 @@ Log::Sink &currentSink()
     return sink;
 }
 
+thread_local HeldLog *heldLog = nullptr;
+
 void write(LogSeverity severity, const QString &text)
 {
+    if (heldLog)
+        return heldLog->lines.append({severity, text});
     CrashReport::addLine(text);
     if (currentSink())
         currentSink()(severity, text);
@@ -41,4 +47,19 @@ void Log::warning(const QString &text)
 void Log::info(const QString &text)
 {
     write(LogSeverity::Info, text);
+}
+
+void Log::say(const QVector<LogLine> &lines)
+{
+    for (const LogLine &line : lines)
+        write(line.severity, line.text);
+}
+
+HeldLog::HeldLog()
+    : m_outer(std::exchange(heldLog, this))
+{}
+
+HeldLog::~HeldLog()
+{
+    heldLog = m_outer;
 }

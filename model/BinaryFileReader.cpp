@@ -13,6 +13,7 @@ namespace {
 // Texts and lists of the toolkit count in ints.
 constexpr qint64 MaxFileBytes = std::numeric_limits<int>::max();
 constexpr qint64 MaxWindowBytes = 256 * 1024;
+constexpr qint64 MaxChunkBytes = 4 * 1024 * 1024; // between two looks whether the read is to end
 } // namespace
 
 BinaryFileReader::BinaryFileReader(const QString &path)
@@ -29,7 +30,7 @@ BinaryFileReader::BinaryFileReader(const QString &path)
     m_windowBytes = std::min(size, MaxWindowBytes);
     m_window.reset(new uchar[size_t(m_windowBytes)]);
     m_cursor = m_end = m_window.get();
-    m_unread = size;
+    m_unread = m_size = size;
     m_open = true;
 }
 
@@ -153,13 +154,16 @@ bool BinaryFileReader::fillWindow(qint64 bytes)
 qint64 BinaryFileReader::readFile(uchar *to, qint64 bytes)
 {
     qint64 got = 0;
-    while (got < bytes) {
-        const qint64 chunk = m_file.read(reinterpret_cast<char *>(to) + got, bytes - got);
+    while (got < bytes && !(m_progress && m_progress->isCancelled)) {
+        const qint64 chunk =
+            m_file.read(reinterpret_cast<char *>(to) + got, std::min(bytes - got, MaxChunkBytes));
         if (chunk <= 0)
             break;
         got += chunk;
+        m_unread -= chunk;
+        if (m_progress)
+            m_progress->permille = int((m_size - m_unread) * 1000 / m_size);
     }
-    m_unread -= got;
     return got;
 }
 

@@ -9,9 +9,17 @@
 #include <QVector4D>
 #include <QtEndian>
 
+#include <atomic>
 #include <memory>
 #include <utility>
 #include <vector>
+
+/// How another thread follows a read, and ends it: the file then seems to end early.
+struct ReadProgress
+{
+    std::atomic_bool isCancelled{false};
+    std::atomic_int permille{0}; ///< of the file's bytes
+};
 
 /// Typed little-endian reads over the bytes of one file, with a sticky error text instead of exceptions.
 ///
@@ -29,6 +37,8 @@ public:
     BinaryFileReader(const uchar *bytes, qint64 size);
 
     bool isOpen() const { return m_open; }
+    /// Tells of the read of a file there, and looks there whether it is to end; it outlives the reader.
+    void setProgress(ReadProgress *progress) { m_progress = progress; }
     bool hasError() const { return !m_errorText.isEmpty(); }
     QString errorText() const { return m_errorText; }
 
@@ -100,10 +110,12 @@ private:
     QFile m_file;
     std::unique_ptr<uchar[]> m_window;
     qint64 m_windowBytes = 0;
+    qint64 m_size = 0;   ///< of the file
     qint64 m_unread = 0; ///< bytes of the file beyond the window
     const uchar *m_cursor = nullptr;
     const uchar *m_end = nullptr;
     bool m_open = false;
+    ReadProgress *m_progress = nullptr;
     QString m_errorText;
 };
 

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 
 namespace {
 /// Added to the colour of the selected surface: an 8-bit (0, 0, 128).
@@ -38,10 +39,10 @@ void describeVertexLayout(QOpenGLExtraFunctions &gl)
                               bufferOffset(offsetof(GLVertex, boneId)));
 }
 
-GLMesh::GLMesh(const MeshSource &source)
+GLMesh::GLMesh(MeshSource source)
     : palette(source.boneCount)
     , m_gl(*QOpenGLContext::currentContext()->extraFunctions())
-    , m_vertices(source.vertices)
+    , m_vertices(std::move(source.vertices))
 {
     m_vertexArray.create();
     m_vertexBuffer.create();
@@ -51,7 +52,7 @@ GLMesh::GLMesh(const MeshSource &source)
     m_vertexArray.release();
 
     uploadVertices();
-    setIndexes(source.indexes);
+    setIndexes(std::move(source.indexes));
     m_textures.reserve(source.images.size());
     for (const QImage &image : source.images)
         addTexture(image);
@@ -104,14 +105,14 @@ void GLMesh::uploadVertices()
     m_vertexBuffer.release();
 }
 
-void GLMesh::setIndexes(const std::vector<std::vector<quint16>> &indexes)
+void GLMesh::setIndexes(std::vector<std::vector<quint16>> indexes)
 {
     // The binding of an index buffer belongs to the vertex array object.
     m_vertexArray.bind();
     m_surfaces.resize(indexes.size());
     for (size_t i = 0; i < indexes.size(); ++i) {
         Surface &surface = m_surfaces[i];
-        surface.indexes = indexes[i];
+        surface.indexes = std::move(indexes[i]);
         if (!surface.buffer.isCreated())
             surface.buffer.create();
         surface.buffer.bind();

@@ -25,7 +25,7 @@ class GLMesh
 public:
     static constexpr int NoSurface = -1;
 
-    explicit GLMesh(const MeshSource &source);
+    explicit GLMesh(MeshSource source);
     GLMesh(const GLMesh &) = delete;
     GLMesh &operator=(const GLMesh &) = delete;
 
@@ -71,7 +71,7 @@ private:
     void drawSurface(size_t surface, const TexturedProgram &program, GLenum mode);
     void addTexture(const QImage &image);
     void uploadVertices();
-    void setIndexes(const std::vector<std::vector<quint16>> &indexes);
+    void setIndexes(std::vector<std::vector<quint16>> indexes);
 
     QOpenGLExtraFunctions &m_gl;
     QOpenGLVertexArrayObject m_vertexArray;

@@ -128,14 +128,14 @@ void KVOpenGLWidget::setSkinnedMeshMode(bool on)
     replaceModel(m_scene.setSkinned(on));
 }
 
-void KVOpenGLWidget::setSkinnedMesh(const SkinnedMesh *mesh)
+void KVOpenGLWidget::setSkinnedMesh(const SkinnedMesh *mesh, std::shared_ptr<MeshSource> ready)
 {
-    replaceModel(m_scene.setMesh(mesh));
+    replaceModel(m_scene.setMesh(mesh, std::move(ready)));
 }
 
-void KVOpenGLWidget::setStaticMesh(const StaticMesh *mesh)
+void KVOpenGLWidget::setStaticMesh(const StaticMesh *mesh, std::shared_ptr<MeshSource> ready)
 {
-    replaceModel(m_scene.setMesh(mesh));
+    replaceModel(m_scene.setMesh(mesh, std::move(ready)));
 }
 
 void KVOpenGLWidget::replaceModel(bool shown)
@@ -143,11 +143,12 @@ void KVOpenGLWidget::replaceModel(bool shown)
     if (!shown)
         return;
     m_camera.forgetFramed();
-    rebuildModel();
+    changeCopy([this] { m_scene.rebuild(); });
 }
 
 void KVOpenGLWidget::rebuildModel()
 {
+    m_scene.dropReady();
     changeCopy([this] { m_scene.rebuild(); });
 }
 

@@ -39,9 +39,10 @@ public:
     /// Whether the view shows its skinned mesh, with pose and playback, or its static one. Off at first.
     void setSkinnedMeshMode(bool on);
     /// Shows another model; null clears the view. Textures are looked up and logged when the copy on the
-    /// graphics card is made: at once, or when the view is first shown. Selections are forgotten.
-    void setSkinnedMesh(const SkinnedMesh *mesh);
-    void setStaticMesh(const StaticMesh *mesh);
+    /// graphics card is made: at once, or when the view is first shown. `ready`, if given, was made of the
+    /// model as it is, so that it need not be done now. Selections are forgotten.
+    void setSkinnedMesh(const SkinnedMesh *mesh, std::shared_ptr<MeshSource> ready = {});
+    void setStaticMesh(const StaticMesh *mesh, std::shared_ptr<MeshSource> ready = {});
     /// A material, a folder or anything else may have changed: builds the copy with its textures anew.
     void rebuildModel();
     /// Vertices of the model changed. The copy follows once, before the next paint.

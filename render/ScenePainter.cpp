@@ -64,9 +64,9 @@ ScenePainter::ScenePainter(const std::function<void()> &stepFailed)
     m_posedBuffer.release();
 }
 
-void ScenePainter::setModel(const MeshSource &source)
+void ScenePainter::setModel(MeshSource source)
 {
-    m_model = std::make_unique<GLMesh>(source);
+    m_model = std::make_unique<GLMesh>(std::move(source));
 }
 
 void ScenePainter::clearModel()

@@ -60,7 +60,7 @@ public:
 
     GLMesh &model() { return *m_model; }
     /// Replaces the model; the selected surface is forgotten.
-    void setModel(const MeshSource &source);
+    void setModel(MeshSource source);
     /// No model: an empty mesh stands in.
     void clearModel();
 

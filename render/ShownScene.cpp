@@ -9,6 +9,7 @@
 #include "StaticMesh.h"
 
 #include <algorithm>
+#include <utility>
 
 ShownScene::ShownScene()
     : m_background(Settings::BGColor.value())
@@ -29,28 +30,30 @@ bool ShownScene::setSkinned(bool on)
     if (on == frame.skinned)
         return false;
     frame.skinned = on;
-    modelReplaced();
+    modelReplaced({});
     return true;
 }
 
-bool ShownScene::setMesh(const SkinnedMesh *mesh)
+bool ShownScene::setMesh(const SkinnedMesh *mesh, std::shared_ptr<MeshSource> ready)
 {
     m_skinnedMesh = mesh;
     if (frame.skinned)
-        modelReplaced();
+        modelReplaced(std::move(ready));
     return frame.skinned;
 }
 
-bool ShownScene::setMesh(const StaticMesh *mesh)
+bool ShownScene::setMesh(const StaticMesh *mesh, std::shared_ptr<MeshSource> ready)
 {
     m_staticMesh = mesh;
     if (!frame.skinned)
-        modelReplaced();
+        modelReplaced(std::move(ready));
     return !frame.skinned;
 }
 
-void ShownScene::modelReplaced()
+void ShownScene::modelReplaced(std::shared_ptr<MeshSource> ready)
 {
+    m_ready = std::move(ready);
+    m_verticesChanged = m_indexesChanged = false;
     m_selectedSurface = GLMesh::NoSurface;
     frame.selectedBone = -1;
     frame.highlight = {};
@@ -92,8 +95,12 @@ void ShownScene::applyBackground()
 
 void ShownScene::rebuild()
 {
+    const std::shared_ptr<MeshSource> ready = std::exchange(m_ready, nullptr);
+    const bool isChanged = m_verticesChanged || m_indexesChanged;
     m_verticesChanged = m_indexesChanged = false;
-    if (skinnedMesh())
+    if (ready && !isChanged)
+        m_painter->setModel(std::move(*ready));
+    else if (skinnedMesh())
         m_painter->setModel(MeshSource::from(*m_skinnedMesh));
     else if (!frame.skinned && m_staticMesh)
         m_painter->setModel(MeshSource::from(*m_staticMesh));

@@ -25,8 +25,8 @@ public:
     // What is shown. Each returns whether another model is shown than before, which is built anew then; what
     // was selected and marked of the other one is forgotten.
     bool setSkinned(bool on);
-    bool setMesh(const SkinnedMesh *mesh);
-    bool setMesh(const StaticMesh *mesh);
+    bool setMesh(const SkinnedMesh *mesh, std::shared_ptr<MeshSource> ready);
+    bool setMesh(const StaticMesh *mesh, std::shared_ptr<MeshSource> ready);
     /// The skinned mesh, where it is shown.
     const SkinnedMesh *skinnedMesh() const { return frame.skinned ? m_skinnedMesh : nullptr; }
 
@@ -45,8 +45,10 @@ public:
     /// Makes a copy of everything; `stepFailed` is called for each shader step that fails.
     void makeCopy(const std::function<void()> &stepFailed);
     void dropCopy() { m_painter.reset(); }
-    /// Makes the copy of the model, with its textures, anew.
+    /// Makes the copy of the model, with its textures, anew: the first time of what came ready with it.
     void rebuild();
+    /// What came ready does not count any more.
+    void dropReady() { m_ready.reset(); }
     /// Lets it follow the model. False when there was nothing to follow.
     bool refresh();
     void applyBackground();
@@ -66,11 +68,12 @@ public:
     SceneFrame frame; ///< of the next paint
 
 private:
-    void modelReplaced();
+    void modelReplaced(std::shared_ptr<MeshSource> ready);
     float groundHeight() const;
 
     const SkinnedMesh *m_skinnedMesh = nullptr;
     const StaticMesh *m_staticMesh = nullptr;
+    std::shared_ptr<MeshSource> m_ready; ///< made before of the model as it was set
     int m_selectedSurface = GLMesh::NoSurface;
     bool m_verticesChanged = false;
     bool m_indexesChanged = false;

@@ -2784,6 +2784,25 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
 </context>
 <context>
+    <name>LoadingSign</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>How much of the file is read</source>
+        <translation>Wie viel von der Datei gelesen ist</translation>
+    </message>
+    <message>
+        <source>Go on with what is open</source>
+        <translation>Mit dem weiterarbeiten, was geöffnet ist</translation>
+    </message>
+    <message>
+        <source>Opening &apos;%1&apos;…</source>
+        <translation>„%1“ wird geöffnet …</translation>
+    </message>
+</context>
+<context>
     <name>Look</name>
     <message>
         <source>Desktop</source>

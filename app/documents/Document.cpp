@@ -4,6 +4,7 @@
 
 #include "BinaryFileReader.h"
 #include "BinaryFileWriter.h"
+#include "LoadedModel.h"
 #include "NameTables.h"
 #include "TypingField.h"
 
@@ -61,12 +62,21 @@ QString Document::fileName() const
 
 bool Document::open(const QString &path, QString *reason)
 {
-    // Before reading: what another program writes meanwhile must not pass as known.
-    const FileStamp stamp = FileStamp::of(path);
-    if (readModel(path, reason))
-        return true;
-    replace(path, {}, stamp);
-    return false;
+    ReadProgress progress;
+    const std::shared_ptr<LoadedFile> file = reader(path)(progress);
+    *reason = file->reason;
+    if (!file->isFailed)
+        adopt(*file);
+    return file->isFailed;
+}
+
+void Document::adopt(LoadedFile &file)
+{
+    Log::say(file.lines);
+    takeModel(file);
+    m_prepared = std::move(file.prepared);
+    replace(file.path, {}, file.stamp);
+    m_prepared.reset();
 }
 
 bool Document::restore(const QByteArray &bytes, const QString &path, const QString &unsavedName,
@@ -290,20 +300,26 @@ QString StaticMeshDocument::recordName(const RecordRef &) const
 }
 
 template <typename Model>
-bool ModelDocument<Model>::readModel(const QString &path, QString *reason)
+Document::Reader ModelDocument<Model>::reader(const QString &path) const
 {
-    m_fresh = Model();
-    return m_fresh.read(path, reason);
+    auto prepare = m_preparation ? m_preparation() : std::function<std::any(const Model &)>();
+    return [path, prepare = std::move(prepare)](ReadProgress &progress) {
+        HeldLog log;
+        auto file = std::make_shared<LoadedModel<Model>>();
+        file->read(path, progress);
+        if (!file->isFailed && prepare && !progress.isCancelled)
+            file->prepared = prepare(file->model);
+        file->lines = log.lines;
+        return file;
+    };
 }
 
-template <>
-bool SkinnedMeshDocument::readModel(const QString &path, QString *reason)
+template <typename Model>
+void ModelDocument<Model>::takeModel(LoadedFile &file)
 {
-    m_fresh = SkinnedMesh();
-    if (m_fresh.read(path, reason))
-        return true;
-    m_names.read(path, m_fresh);
-    return false;
+    auto &loaded = static_cast<LoadedModel<Model> &>(file);
+    m_fresh = std::move(loaded.model);
+    m_names = std::move(loaded.names);
 }
 
 template <typename Model>
@@ -365,18 +381,6 @@ std::vector<uchar> ModelDocument<Model>::draft() const
         bytes.insert(bytes.end(), json.begin(), json.end());
     }
     return bytes;
-}
-
-template <>
-bool StaticMeshDocument::readModel(const QString &path, QString *reason)
-{
-    m_fresh = StaticMesh();
-    if (m_fresh.read(path, reason))
-        return true;
-    // Without a surface there is nothing to show, and nothing that could be saved.
-    if (m_fresh.surfaces.empty())
-        *reason = Document::tr("The model has no surfaces.");
-    return m_fresh.surfaces.empty();
 }
 
 template class ModelDocument<SkinnedMesh>;

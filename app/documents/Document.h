@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Background.h"
 #include "DocumentKind.h"
 #include "DocumentView.h"
-#include "FileStamp.h"
+#include "LoadedFile.h"
 #include "NamesFile.h"
 #include "Records.h"
 
@@ -13,7 +14,12 @@
 #include <QVector>
 #include <QWidget>
 
+#include <functional>
+#include <memory>
+#include <utility>
 #include <vector>
+
+struct ReadProgress;
 
 /// The current document of one kind: its model, its file, its undo stack. The object lives as long as the
 /// window; opening a file replaces what it holds.
@@ -45,6 +51,14 @@ public:
     /// Reads `path` into a new model, which replaces the current one only when that succeeds. Returns true on
     /// failure and gives the reason, empty when the file could not be opened.
     [[nodiscard]] bool open(const QString &path, QString *reason);
+    /// The two halves of that. What reads the file knows nothing of the document and may be called in any
+    /// thread, once; a failed read is not to be adopted.
+    using Reader = std::function<std::shared_ptr<LoadedFile>(ReadProgress &)>;
+    virtual Reader reader(const QString &path) const = 0;
+    void adopt(LoadedFile &file);
+    /// What was made of the model that has just replaced another while its file was read; empty when nothing
+    /// was. For whoever asked for it, once.
+    std::any takePrepared() { return std::exchange(m_prepared, {}); }
     /// Why the model as it stands cannot be stored in a file at all; empty when it can.
     virtual QString refusal() const = 0;
     /// Writes the model; on success the document has that path and its undo stack is clean. Returns true on
@@ -115,9 +129,10 @@ signals:
 protected:
     /// Lets the model that was read, or handed over, last take the place of the current one.
     void replace(const QString &path, const QString &unsavedName, const FileStamp &stamp = {});
-    /// Reads a new model beside the current one; returns true on failure.
-    virtual bool readModel(const QString &path, QString *reason) = 0;
-    /// The same with what draft() gave, of a document whose file is `path`.
+    /// Takes the new model out of what reader() gave.
+    virtual void takeModel(LoadedFile &file) = 0;
+    /// Reads a new model beside the current one out of what draft() gave, of a document whose file is `path`;
+    /// returns true on failure.
     virtual bool readDraft(const QByteArray &bytes, const QString &path) = 0;
     virtual void adoptModel() = 0;
     virtual bool writeModel(const QString &path, QString *reason) = 0;
@@ -135,6 +150,7 @@ private:
     QUndoStack m_undoStack;
     QPointer<QWidget> m_editors;
     const SkinnedMesh *m_namingMesh = nullptr;
+    std::any m_prepared;
     QVector<RecordRef> m_changes;
     QVector<StructureChange> m_structureChanges;
 };
@@ -150,6 +166,12 @@ public:
     QString refusal() const override { return m_model.refusal(); }
     std::vector<uchar> draft() const override;
     EditTarget<Model> editTarget() { return {m_model, *this}; }
+
+    Reader reader(const QString &path) const override;
+    /// What is to be made of each model that is read. Called before, it gives what is then called with the
+    /// model in the thread that reads.
+    using Preparation = std::function<std::function<std::any(const Model &)>()>;
+    void setPreparation(Preparation preparation) { m_preparation = std::move(preparation); }
 
     /// Takes over a model that has no file yet; `name`, without extension, is what it would be saved as.
     void take(Model model, const QString &name)
@@ -168,12 +190,11 @@ public:
     QString replacedBeside(const QString &path) const override;
 
 protected:
-    bool readModel(const QString &path, QString *reason) override;
+    void takeModel(LoadedFile &file) override;
     bool readDraft(const QByteArray &bytes, const QString &path) override;
     void adoptModel() override
     {
-        m_model = std::move(m_fresh);
-        m_fresh = Model();
+        Background::discard(std::exchange(m_model, std::exchange(m_fresh, Model())));
     }
     bool writeModel(const QString &path, QString *reason) override;
 
@@ -181,6 +202,7 @@ private:
     Model m_model;
     Model m_fresh;
     NamesFile m_names; ///< of a skinned mesh
+    Preparation m_preparation;
 };
 
 using SkinnedMeshDocument = ModelDocument<SkinnedMesh>;

@@ -8,7 +8,6 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QMessageBox>
 
 #include <algorithm>
@@ -37,7 +36,15 @@ DocumentFiles::DocumentFiles(const std::array<Document *, 3> &documents, QWidget
     , m_documents(documents)
     , m_window(window)
     , m_guard(window)
-{}
+{
+    for (const DocumentKind &kind : documentKinds()) {
+        const DocumentType type = kind.type;
+        m_loaders[size_t(type)] = new DocumentLoader(
+            *document(type), [this, type] { return mayReplace(type); }, this);
+        connect(document(type)->undoStack(), &QUndoStack::indexChanged, this,
+                [this, type] { m_isChanged[size_t(type)] = true; });
+    }
+}
 
 void DocumentFiles::on_actionOpen_triggered()
 {
@@ -63,39 +70,49 @@ void DocumentFiles::on_actionSaveToMod_triggered()
         saveToMod(m_current->kind().type);
 }
 
-bool DocumentFiles::open(DocumentType type, const QString &path)
+void DocumentFiles::open(DocumentType type, const QString &path, const Then &then)
 {
-    const bool failed = load(type, path);
-    if (!failed)
-        emit opened(type);
-    return failed;
+    load(type, path, [this, type, then](Outcome outcome) {
+        if (outcome == Outcome::Opened)
+            emit opened(type);
+        if (then)
+            then(outcome);
+    });
 }
 
-bool DocumentFiles::reload(DocumentType type)
+void DocumentFiles::setPatience(int milliseconds)
 {
-    return load(type, document(type)->path());
+    for (DocumentLoader *each : m_loaders)
+        each->setPatience(milliseconds);
 }
 
-bool DocumentFiles::load(DocumentType type, const QString &path)
+void DocumentFiles::load(DocumentType type, const QString &path, const Then &then)
 {
-    QString reason;
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const bool failed = document(type)->open(path, &reason);
-    QGuiApplication::restoreOverrideCursor();
-    if (!failed)
-        return false;
+    m_isChanged[size_t(type)] = false;
+    loader(type).load(path, [this, type, path, then](Outcome outcome, const QString &reason) {
+        if (outcome == Outcome::Failed)
+            tellUnread(type, path, reason);
+        then(outcome);
+    });
+}
+
+void DocumentFiles::tellUnread(DocumentType type, const QString &path, const QString &reason)
+{
     const QString nativePath = QDir::toNativeSeparators(path);
     const QString text = reason.isEmpty() ? tr("[Open] Unable to read '%1'").arg(nativePath)
                                           : tr("[Open] '%1': %2").arg(nativePath, reason);
     // A static mesh that cannot be read is dropped without a box, and without an error, which would open the
     // console: many files of that kind are only tried.
-    if (type == DocumentType::StaticMesh) {
-        Log::warning(text);
-        return true;
-    }
+    if (type == DocumentType::StaticMesh)
+        return Log::warning(text);
     Log::error(text);
     QMessageBox::warning(m_window, tr("File error"), tr("Failed to open\n%1").arg(nativePath));
-    return true;
+}
+
+/// Whoever has gone on with the document while another was read is asked about that.
+bool DocumentFiles::mayReplace(DocumentType type)
+{
+    return settleTyping(type) && (!m_isChanged[size_t(type)] || promptUnsaved(type));
 }
 
 void DocumentFiles::openChosen(DocumentType type)

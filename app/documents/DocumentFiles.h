@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Document.h"
+#include "DocumentLoader.h"
 #include "SaveGuard.h"
 #include "SavePath.h"
 
@@ -27,12 +27,18 @@ public:
     void setCurrent(Document *document) { m_current = document; }
     Document *current() const { return m_current; }
 
-    /// Loads a file without asking about unsaved changes. Returns true on failure, after saying so.
-    bool open(DocumentType type, const QString &path);
+    /// How a load ended, after a failure was said. Is not called when another one takes its place.
+    using Outcome = DocumentLoader::Outcome;
+    using Then = std::function<void(Outcome outcome)>;
+    /// Loads a file without asking about unsaved changes, but for those that are made meanwhile.
+    void open(DocumentType type, const QString &path, const Then &then = {});
     /// The same with a file that goes with another one and was not asked for.
-    bool openAlong(DocumentType type, const QString &path) { return load(type, path); }
+    void openAlong(DocumentType type, const QString &path, const Then &then) { load(type, path, then); }
     /// The same with the file that is open.
-    bool reload(DocumentType type);
+    void reload(DocumentType type, const Then &then) { load(type, document(type)->path(), then); }
+    DocumentLoader &loader(DocumentType type) { return *m_loaders[size_t(type)]; }
+    /// See DocumentLoader.
+    void setPatience(int milliseconds);
     /// Lets the user choose a file and loads it. Asks about typing that cannot be stored, and nothing else.
     void openChosen(DocumentType type);
 
@@ -71,7 +77,9 @@ signals:
     void saved(DocumentType type);
 
 private:
-    bool load(DocumentType type, const QString &path);
+    void load(DocumentType type, const QString &path, const Then &then);
+    void tellUnread(DocumentType type, const QString &path, const QString &reason);
+    bool mayReplace(DocumentType type);
     bool hasUnsavedWork(DocumentType type) const;
     QString targetOfSave(DocumentType type);
     QString chooseTarget(DocumentType type);
@@ -79,6 +87,8 @@ private:
     void write(DocumentType type, const QString &path, QVector<FailedSave> &failures);
 
     std::array<Document *, 3> m_documents;
+    std::array<DocumentLoader *, 3> m_loaders;
+    std::array<bool, 3> m_isChanged{}; ///< since a load began
     Document *m_current = nullptr;
     QWidget *m_window;
     SaveGuard m_guard;

@@ -81,6 +81,10 @@ void RecentFiles::addFile(const DocumentKind &kind, const QString &path)
 
 void RecentFiles::open(DocumentType type, const QString &path)
 {
-    if (m_files.promptUnsaved(type) && !m_files.open(type, path))
-        emit opened(type);
+    if (!m_files.promptUnsaved(type))
+        return;
+    m_files.open(type, path, [this, type](DocumentFiles::Outcome outcome) {
+        if (outcome == DocumentFiles::Outcome::Opened)
+            emit opened(type);
+    });
 }

@@ -70,8 +70,10 @@ void ReloadPrompt::reload(DocumentType type)
             return;
     }
     // A file that cannot be read leaves the document as it is.
-    if (m_files.reload(type))
-        keep(type);
+    m_files.reload(type, [this, type](DocumentFiles::Outcome outcome) {
+        if (outcome == DocumentFiles::Outcome::Failed)
+            keep(type);
+    });
 }
 
 void ReloadPrompt::keep(DocumentType type)

@@ -60,6 +60,8 @@ void AnimationFollower::OnReplaced()
     m_bar->hide();
     m_search.cancel();
     m_found.reset();
+    if (std::exchange(m_isFollowing, false))
+        m_files.loader(DocumentType::Anim).cancel(); // which belongs to the mesh before
 }
 
 void AnimationFollower::OnOpened(DocumentType type)
@@ -74,8 +76,8 @@ void AnimationFollower::OnOpened(DocumentType type)
 
 void AnimationFollower::OnTurnEnded()
 {
-    // A question about one of the files is still open.
-    if (QApplication::activeModalWidget()) {
+    // A question about one of the files is still open, or an animation that was chosen is still read.
+    if (QApplication::activeModalWidget() || m_files.loader(DocumentType::Anim).isLoading()) {
         m_turn.start(50);
         return;
     }
@@ -104,28 +106,41 @@ void AnimationFollower::search(const QString &mesh)
 void AnimationFollower::follow(const CompanionFile &found)
 {
     const bool isOpen = !found.path.isEmpty() && found.path == m_files.document(DocumentType::Anim)->path();
-    if (isOpen || (m_sync.isChecked() && !found.path.isEmpty() && openAlong(found.path)))
+    if (isOpen)
         m_animations.selectPath(found.path);
+    else if (m_sync.isChecked() && !found.path.isEmpty() && m_files.promptUnsaved(DocumentType::Anim))
+        openAlong(found);
     else
         offer(found);
 }
 
-bool AnimationFollower::openAlong(const QString &path)
+void AnimationFollower::openAlong(const CompanionFile &found)
 {
-    if (!m_files.promptUnsaved(DocumentType::Anim) || m_files.openAlong(DocumentType::Anim, path))
-        return false;
-    emit posed();
-    return true;
+    const QString mesh = m_files.document(DocumentType::SkinnedMesh)->path();
+    m_isFollowing = true;
+    m_files.openAlong(DocumentType::Anim, found.path, [this, found, mesh](DocumentFiles::Outcome outcome) {
+        m_isFollowing = false;
+        if (outcome != DocumentFiles::Outcome::Opened) {
+            if (m_files.document(DocumentType::SkinnedMesh)->path() == mesh)
+                offer(found);
+            return;
+        }
+        emit posed();
+        m_animations.selectPath(found.path);
+    });
 }
 
 void AnimationFollower::openOffered(const QString &path)
 {
     // A button that has a menu can be clicked by what is no mouse.
-    if (path.isEmpty() || !m_files.promptUnsaved(DocumentType::Anim) ||
-        m_files.open(DocumentType::Anim, path))
+    if (path.isEmpty() || !m_files.promptUnsaved(DocumentType::Anim))
         return;
-    m_animations.selectPath(path);
-    emit posed();
+    m_files.open(DocumentType::Anim, path, [this, path](DocumentFiles::Outcome outcome) {
+        if (outcome != DocumentFiles::Outcome::Opened)
+            return;
+        m_animations.selectPath(path);
+        emit posed();
+    });
 }
 
 void AnimationFollower::offer(const CompanionFile &found)

@@ -31,7 +31,7 @@ public:
                       QObject *parent);
 
     /// Whether the animation of a mesh is still being looked for.
-    bool isSearching() const { return m_turn.isActive() || m_search.isRunning(); }
+    bool isSearching() const { return m_turn.isActive() || m_search.isRunning() || m_isFollowing; }
 
 signals:
     /// The view shows the mesh with the animation that was found for it.
@@ -46,7 +46,7 @@ private slots:
 private:
     void search(const QString &mesh);
     void follow(const CompanionFile &found);
-    bool openAlong(const QString &path);
+    void openAlong(const CompanionFile &found);
     void openOffered(const QString &path);
     void offer(const CompanionFile &found);
 
@@ -61,5 +61,6 @@ private:
     QString m_mesh;          ///< opened since the event loop's last turn
     bool m_isChosen = false; ///< so was an animation, by the user
     std::optional<CompanionFile> m_found;
+    bool m_isFollowing = false; ///< while that is read
     Background m_search;
 };

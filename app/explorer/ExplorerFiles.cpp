@@ -71,7 +71,10 @@ void ExplorerFiles::open(DocumentType type, const QString &path)
     // The answer may have saved another file, which was selected then. The selection stays on one that cannot
     // be read, too: the arrow keys would never get past it.
     explorer(type).selectPath(path);
-    if (m_files.open(type, path))
-        return;
-    emit opened(type);
+    m_files.open(type, path, [this, type](DocumentFiles::Outcome outcome) {
+        if (outcome == DocumentFiles::Outcome::Opened)
+            emit opened(type);
+        else if (outcome == DocumentFiles::Outcome::GivenUp)
+            explorer(type).selectPath(m_files.document(type)->path());
+    });
 }

@@ -6,6 +6,8 @@
 
 #include <QFileInfo>
 
+#include <utility>
+
 ImportRun::ImportRun(QObject *parent)
     : QObject(parent)
 {
@@ -31,27 +33,54 @@ void ImportRun::start(const ImportChoices &choices)
     m_worker.start(importJob(m_choices));
 }
 
+void ImportRun::cancel()
+{
+    m_isCancelled = m_reading.isRunning();
+    m_worker.cancel();
+}
+
 void ImportRun::onWorkerFinished()
 {
+    m_isCancelled = false;
+    if (m_worker.messages().hasError())
+        return finish({});
+    m_reading.start([this](const Background::Cancelled &) { return readResult(); },
+                    [this](Result result) { finish(std::move(result)); });
+}
+
+ImportRun::Result ImportRun::readResult() const
+{
+    Result result;
+    result.isDamaged =
+        m_choices.isStatic ? m_worker.read(result.rigid) : m_worker.read(result.mesh, result.anim);
+    transformImported(result.mesh, m_choices);
+    transformImported(result.rigid, m_choices);
+    return result;
+}
+
+void ImportRun::finish(Result result)
+{
     ImportMessages messages = m_worker.messages();
+    if (m_isCancelled)
+        messages.addError(importJob(m_choices).failure(ImportWorker::tr("It was cancelled.")));
+    else if (result.isDamaged)
+        messages.addError(tr("%1 Could not read file. The result was damaged.").arg(m_choices.modelPath));
     QString outcome;
     bool goesOn = true;
     const QString name = QFileInfo(m_choices.modelPath).completeBaseName();
     if (messages.hasError()) {
         // There is nothing to go on with.
     } else if (m_choices.isStatic) {
-        StaticMesh mesh;
-        goesOn = finish(mesh, messages, outcome);
+        goesOn = writeFiles(result.rigid, messages, outcome);
         if (goesOn && !messages.hasError())
-            emit staticMeshImported(mesh, name);
+            emit staticMeshImported(result.rigid, name);
     } else {
-        SkinnedMesh mesh;
-        AnimFile anim;
-        goesOn = finish(mesh, messages, outcome, anim);
-        m_worker.names().giveTo(mesh);
+        goesOn = writeFiles(result.mesh, messages, outcome);
+        m_worker.names().giveTo(result.mesh);
         if (goesOn && !messages.hasError())
-            emit skinnedMeshImported(mesh, anim, name);
+            emit skinnedMeshImported(result.mesh, result.anim, name);
     }
+    Background::discard(std::move(result));
     m_worker.discard();
     if (goesOn)
         emit finished(messages, outcome);
@@ -60,13 +89,9 @@ void ImportRun::onWorkerFinished()
 }
 
 /// Says in `outcome` what was written. Returns false when nothing is to be replaced and so to be imported.
-template <typename Mesh, typename... More>
-bool ImportRun::finish(Mesh &mesh, ImportMessages &messages, QString &outcome, More &...more)
+template <typename Mesh>
+bool ImportRun::writeFiles(Mesh &mesh, ImportMessages &messages, QString &outcome)
 {
-    if (m_worker.read(mesh, more...)) {
-        messages.addError(tr("%1 Could not read file. The result was damaged.").arg(m_choices.modelPath));
-        return true;
-    }
     ImportedFiles files(m_choices, mesh, m_worker.textures());
     if (files.replaceOnly(m_written)) {
         if (m_written.keptOthers)
@@ -77,6 +102,5 @@ bool ImportRun::finish(Mesh &mesh, ImportMessages &messages, QString &outcome, M
     files.nameMaterials(mesh);
     outcome = files.write(messages);
     m_written = files.written();
-    transformImported(mesh, m_choices);
     return true;
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Background.h"
 #include "ImportSteps.h"
 #include "ImportWorker.h"
 #include "ImportedFiles.h"
@@ -31,10 +32,10 @@ public:
 
     /// Begins an import, whose outputs were found to be possible.
     void start(const ImportChoices &choices);
-    bool isRunning() const { return m_worker.isRunning(); }
+    bool isRunning() const { return m_worker.isRunning() || m_reading.isRunning(); }
     /// Milliseconds since the start.
     qint64 elapsed() const { return m_worker.elapsed(); }
-    void cancel() { m_worker.cancel(); }
+    void cancel();
 
 signals:
     /// The import has succeeded; `name` is the source's complete base name.
@@ -47,12 +48,26 @@ signals:
     void declined();
 
 private:
+    /// What the worker has left.
+    struct Result
+    {
+        bool isDamaged = false;
+        SkinnedMesh mesh;
+        AnimFile anim;
+        StaticMesh rigid;
+    };
+
     void onWorkerFinished();
-    template <typename Mesh, typename... More>
-    bool finish(Mesh &mesh, ImportMessages &messages, QString &outcome, More &...more);
+    /// Reads what the worker has left and turns and scales it; in another thread.
+    Result readResult() const;
+    void finish(Result result);
+    template <typename Mesh>
+    bool writeFiles(Mesh &mesh, ImportMessages &messages, QString &outcome);
 
     Decision m_decide;
     ImportChoices m_choices;
     ImportWorker m_worker;
     WrittenFiles m_written;
+    bool m_isCancelled = false; ///< while the result was read
+    Background m_reading;
 };

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Problems.h"
 
+#include "DocumentLoader.h"
 #include "Repairs.h"
 #include "Settings.h"
 #include "Validation.h"
@@ -12,6 +13,14 @@
 #include <algorithm>
 #include <iterator>
 #include <utility>
+
+namespace {
+template <typename Model>
+std::shared_ptr<const Model> sharedCopy(const ModelDocument<Model> &document)
+{
+    return std::make_shared<const Model>(document.model());
+}
+} // namespace
 
 Problems::Problems(SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticMeshDocument &staticMesh,
                    QObject *parent)
@@ -29,6 +38,7 @@ Problems::Problems(SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticM
         connect(&document(type), &Document::replaced, this, [this, type] {
             // They name records of the model that went.
             m_findings[size_t(type)].clear();
+            m_checks[size_t(type)].cancel();
             emit changed();
             markChanged(type);
         });
@@ -84,26 +94,44 @@ void Problems::check()
     m_delay.stop();
     for (const DocumentKind &kind : documentKinds()) {
         if (std::exchange(m_isStale[size_t(kind.type)], false))
-            m_findings[size_t(kind.type)] = findingsNow(kind.type);
+            startCheck(kind.type);
     }
-    emit changed();
 }
 
-std::vector<Finding> Problems::findingsNow(DocumentType type) const
+void Problems::startCheck(DocumentType type)
+{
+    Background &checks = m_checks[size_t(type)];
+    checks.start([find = checkNow(type)](const Background::Cancelled &) { return find(); },
+                 [this, type](std::vector<Finding> found) {
+                     m_findings[size_t(type)] = std::move(found);
+                     emit changed();
+                 });
+    // A model of the game's size takes less than a millisecond, and its list does not flicker then.
+    checks.wait(DocumentLoader::usualPatience() / 5);
+}
+
+std::function<std::vector<Finding>()> Problems::checkNow(DocumentType type) const
 {
     if (!document(type).isOpen())
-        return {};
+        return [] { return std::vector<Finding>(); };
     const MaterialFolders folders{Settings::GamePath.value(), Settings::OutputDir.value()};
     switch (type) {
     case DocumentType::SkinnedMesh:
-        return validate(m_skinnedMesh.model(), folders, m_ids);
-    case DocumentType::Anim:
-        return validate(m_anim.model(),
-                        m_skinnedMesh.isOpen() ? &std::as_const(m_skinnedMesh).model() : nullptr, m_ids);
+        return [model = sharedCopy(m_skinnedMesh), folders, ids = m_ids] {
+            return validate(*model, folders, ids);
+        };
+    case DocumentType::Anim: {
+        // Of the mesh the animations' checks want to know how many bones it has.
+        SkinnedMesh bones;
+        bones.nodes.resize(m_skinnedMesh.model().nodes.size());
+        return [model = sharedCopy(m_anim), bones, isKnown = m_skinnedMesh.isOpen(), ids = m_ids] {
+            return validate(*model, isKnown ? &bones : nullptr, ids);
+        };
+    }
     case DocumentType::StaticMesh:
         break;
     }
-    return validate(m_staticMesh.model(), folders);
+    return [model = sharedCopy(m_staticMesh), folders] { return validate(*model, folders); };
 }
 
 std::vector<RecordRef> Problems::repairable(DocumentType type, Rule rule) const

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Background.h"
 #include "Document.h"
 #include "Finding.h"
 #include "ReferenceIds.h"
@@ -9,9 +10,10 @@
 #include <QTimer>
 
 #include <array>
+#include <functional>
 
-/// What is wrong with the open documents. It follows their changes, a moment after the last one, so that
-/// nobody waits for it while typing.
+/// What is wrong with the open documents. It follows their changes, a moment after the last one. Another
+/// thread looks, at a copy of the model, so that nobody waits for it.
 class Problems : public QObject
 {
     Q_OBJECT
@@ -49,7 +51,9 @@ private:
     Document &document(DocumentType type) const { return *m_documents[size_t(type)]; }
     void markChanged(DocumentType type);
     void check();
-    std::vector<Finding> findingsNow(DocumentType type) const;
+    void startCheck(DocumentType type);
+    /// What gives the findings of the document as it is now, in any thread.
+    std::function<std::vector<Finding>()> checkNow(DocumentType type) const;
     std::vector<RecordRef> repairable(DocumentType type, Rule rule) const;
     void repairNow(DocumentType type, Rule rule, const std::vector<RecordRef> &places);
 
@@ -61,4 +65,5 @@ private:
     std::array<bool, 3> m_isStale{};
     ReferenceIds m_ids;
     QTimer m_delay;
+    std::array<Background, 3> m_checks;
 };

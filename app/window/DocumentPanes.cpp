@@ -6,6 +6,7 @@
 #include "FolderExplorer.h"
 #include "KVOpenGLWidget.h"
 #include "KVTreeView.h"
+#include "MeshSource.h"
 #include "PageStack.h"
 #include "Playback.h"
 #include "PropertyPages.h"
@@ -20,6 +21,25 @@
 #include <utility>
 
 namespace {
+/// Has what a view needs of each model made while its file is read.
+template <typename Model>
+void prepareViewOf(ModelDocument<Model> &document)
+{
+    document.setPreparation([] {
+        return [gamePath = Settings::GamePath.value(),
+                outputDir = Settings::OutputDir.value()](const Model &model) -> std::any {
+            return std::make_shared<MeshSource>(MeshSource::from(model, gamePath, outputDir));
+        };
+    });
+}
+
+std::shared_ptr<MeshSource> preparedView(Document &document)
+{
+    const std::any prepared = document.takePrepared();
+    const auto *source = std::any_cast<std::shared_ptr<MeshSource>>(&prepared);
+    return source ? *source : nullptr;
+}
+
 ShownRecords shownRecords(const DocumentPane &pane)
 {
     return {pane.tree, pane.viewport};
@@ -44,6 +64,8 @@ DocumentPanes::DocumentPanes(const std::array<DocumentPane, 3> &panes, SkinnedMe
     addPages(*meshPane.pages, skinnedMesh, *meshPane.tree);
     addPages(*animPane.pages, anim, *animPane.tree, skinnedMesh);
     addPages(*rigidPane.pages, staticMesh, *rigidPane.tree);
+    prepareViewOf(skinnedMesh);
+    prepareViewOf(staticMesh);
     meshPane.viewport->setSkinnedMeshMode(true);
     anim.setNamingMesh(&skinnedMesh.model());
     for (const DocumentPane &each : m_panes)
@@ -217,14 +239,14 @@ void DocumentPanes::OnReplaced(DocumentType type)
     switch (type) {
     case DocumentType::SkinnedMesh:
         playback().mesh = &m_skinnedMesh.model();
-        pane(type).viewport->setSkinnedMesh(&m_skinnedMesh.model());
+        pane(type).viewport->setSkinnedMesh(&m_skinnedMesh.model(), preparedView(m_skinnedMesh));
         showNames();
         break;
     case DocumentType::Anim:
         m_track.openAnimation(&m_anim.model());
         break;
     case DocumentType::StaticMesh:
-        pane(type).viewport->setStaticMesh(&m_staticMesh.model());
+        pane(type).viewport->setStaticMesh(&m_staticMesh.model(), preparedView(m_staticMesh));
         break;
     }
     const DocumentPane &replaced = pane(type);

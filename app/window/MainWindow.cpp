@@ -18,6 +18,7 @@
 #include "HistoryView.h"
 #include "Icons.h"
 #include "ImportExport.h"
+#include "LoadingSign.h"
 #include "ModelTransforms.h"
 #include "NamedFiles.h"
 #include "PaneKeys.h"
@@ -49,6 +50,10 @@
 
 #include <array>
 #include <utility>
+
+namespace {
+constexpr int StartPatience = 250; // milliseconds
+} // namespace
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
@@ -97,7 +102,8 @@ MainWindow::MainWindow(QWidget *parent)
     updateCurrentDocument();
     QTimer::singleShot(50, m_preferences, &Preferences::OnStartSetupPaths);
     createPrompts();
-    m_session = new Session(m_panes->all(), {m_ui->tabWidget, m_ui->tabTrees}, *m_ui->animTrackFrame, this);
+    m_session =
+        new Session(*m_files, m_panes->all(), {m_ui->tabWidget, m_ui->tabTrees}, *m_ui->animTrackFrame, this);
 }
 
 MainWindow::~MainWindow()
@@ -166,6 +172,7 @@ void MainWindow::createDocuments()
     connect(m_explorerFiles, &ExplorerFiles::opened, m_panes, &DocumentPanes::showOpened);
     connect(m_ui->actionRefreshExplorers, &QAction::triggered, m_explorerFiles,
             &ExplorerFiles::on_actionRefreshExplorers_triggered);
+    addLoadingSigns(*m_files, *m_ui->viewSkinned, *m_ui->viewStatic, *m_ui->statusBar);
     auto *recent = new RecentFiles(*m_files, *m_ui->menuRecent, this);
     connect(recent, &RecentFiles::opened, m_panes, &DocumentPanes::showOpened);
 }
@@ -268,12 +275,15 @@ void MainWindow::openFiles(const QStringList &paths)
 
 void MainWindow::openAtStart(const QStringList &paths)
 {
+    // Before its first picture the window can wait for what is to be in it.
+    m_files->setPatience(std::max(StartPatience, DocumentLoader::usualPatience()));
     m_session->restore(paths);
     for (const DocumentPane &each : m_panes->all()) {
         if (each.document->isOpen() && each.viewport == m_panes->currentViewport())
             each.viewport->setFocus();
     }
     openFiles(paths);
+    m_files->setPatience(DocumentLoader::usualPatience());
 }
 
 void MainWindow::updateCurrentDocument()

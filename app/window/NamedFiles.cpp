@@ -27,9 +27,19 @@ NamedFiles::NamedFiles(DocumentFiles &files, ImportExport &importExport, Prefere
 
 void NamedFiles::open(const QStringList &paths)
 {
-    const DocumentKind *first = nullptr;
-    for (const QString &path : paths) {
+    m_waiting = paths;
+    m_first = nullptr;
+    openNext();
+}
+
+/// One after another: each may have a question, or a failure to tell of.
+void NamedFiles::openNext()
+{
+    while (!m_waiting.isEmpty()) {
+        const QString path = m_waiting.takeFirst();
         const DocumentKind *kind = documentKindOfFile(path);
+        if (kind && m_files.promptUnsaved(kind->type))
+            return openModel(*kind, QFileInfo(path).absoluteFilePath());
         if (!kind && isImportable(path)) {
             // A model on the command line comes before the question that its output folder depends on.
             m_preferences.OnStartSetupPaths();
@@ -37,11 +47,17 @@ void NamedFiles::open(const QStringList &paths)
         } else if (!kind) {
             QMessageBox::warning(m_window, tr("File error"),
                                  tr("Failed to open\n%1").arg(QDir::toNativeSeparators(path)));
-        } else if (m_files.promptUnsaved(kind->type) &&
-                   !m_files.open(kind->type, QFileInfo(path).absoluteFilePath()) && !first) {
-            first = kind;
         }
     }
-    if (first)
-        m_panes.showOpened(first->type);
+    if (m_first)
+        m_panes.showOpened(m_first->type);
+}
+
+void NamedFiles::openModel(const DocumentKind &kind, const QString &path)
+{
+    m_files.open(kind.type, path, [this, &kind](DocumentFiles::Outcome outcome) {
+        if (outcome == DocumentFiles::Outcome::Opened && !m_first)
+            m_first = &kind;
+        openNext();
+    });
 }

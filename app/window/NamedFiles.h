@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "DocumentKind.h"
+
 #include <QObject>
+#include <QStringList>
 
 class DocumentFiles;
 class DocumentPanes;
@@ -25,9 +28,14 @@ public:
     void open(const QStringList &paths);
 
 private:
+    void openNext();
+    void openModel(const DocumentKind &kind, const QString &path);
+
     DocumentFiles &m_files;
     ImportExport &m_importExport;
     Preferences &m_preferences;
     DocumentPanes &m_panes;
     QWidget *m_window;
+    QStringList m_waiting;                 ///< what is opened after what is being read
+    const DocumentKind *m_first = nullptr; ///< of what was opened
 };

@@ -3,7 +3,7 @@
 #include "Session.h"
 
 #include "AnimTrackFrame.h"
-#include "Document.h"
+#include "DocumentFiles.h"
 #include "KVOpenGLWidget.h"
 #include "KVTreeView.h"
 #include "Log.h"
@@ -66,9 +66,10 @@ bool isStaticMesh(const DocumentPane &pane)
 }
 } // namespace
 
-Session::Session(const std::array<DocumentPane, 3> &panes, const std::array<QTabWidget *, 2> &tabs,
-                 AnimTrackFrame &track, QWidget *window)
+Session::Session(DocumentFiles &files, const std::array<DocumentPane, 3> &panes,
+                 const std::array<QTabWidget *, 2> &tabs, AnimTrackFrame &track, QWidget *window)
     : QObject(window)
+    , m_files(files)
     , m_panes(panes)
     , m_tabs(tabs)
     , m_track(track)
@@ -143,14 +144,7 @@ void Session::restore(const QStringList &paths)
     for (const DocumentPane &pane : m_panes) {
         if (leftAlone(pane) || pane.document->isOpen())
             continue;
-        const bool opened = openFile(pane, state.value(pane.document->kind().extension).toMap());
-        placeCamera(*pane.viewport, state.value(pane.viewport->objectName()).toList());
-        if (!opened || pane.document->kind().type != DocumentType::Anim)
-            continue;
-        const int block = state.value(BlockKey).toInt();
-        if (block != playback().blockIndex && block >= 0 &&
-            block < pane.document->recordCount(RecordKind::AnimBlock, {}))
-            m_track.selectBlock(block);
+        open(pane, state);
     }
     for (QTabWidget *tabs : m_tabs) {
         const QString name = state.value(tabs->objectName()).toString();
@@ -161,25 +155,45 @@ void Session::restore(const QStringList &paths)
     }
 }
 
-bool Session::openFile(const DocumentPane &pane, const QVariantMap &file) const
+void Session::open(const DocumentPane &pane, const QVariantMap &state)
 {
+    const QVariantMap file = state.value(pane.document->kind().extension).toMap();
     const QString path = file.value(PathKey).toString();
     if (path.isEmpty())
-        return false;
+        return placeView(pane, state);
     const QString nativePath = QDir::toNativeSeparators(path);
-    QString reason;
-    const FileStamp stamp = FileStamp::of(path);
-    if (!stamp.exists() || pane.document->open(path, &reason)) {
-        if (!stamp.exists())
-            Log::warning(tr("[Session] '%1' is not there any more").arg(nativePath));
-        else if (reason.isEmpty())
-            Log::error(tr("[Session] Unable to read '%1'").arg(nativePath));
-        else
-            Log::error(tr("[Session] '%1': %2").arg(nativePath, reason));
-        return false;
+    if (!FileStamp::of(path).exists()) {
+        Log::warning(tr("[Session] '%1' is not there any more").arg(nativePath));
+        return placeView(pane, state);
     }
-    if (stamp != FileStamp{file.value(SizeKey).toLongLong(), file.value(ModifiedKey).toLongLong()}) {
-        Log::info(tr("[Session] '%1' has changed since the last session").arg(nativePath));
+    const auto then = [=](DocumentLoader::Outcome outcome, const QString &reason) {
+        if (outcome == DocumentLoader::Outcome::Failed && reason.isEmpty())
+            Log::error(tr("[Session] Unable to read '%1'").arg(nativePath));
+        else if (outcome == DocumentLoader::Outcome::Failed)
+            Log::error(tr("[Session] '%1': %2").arg(nativePath, reason));
+        const bool asItWas = outcome == DocumentLoader::Outcome::Opened && showRecord(pane, file);
+        placeView(pane, state);
+        if (!asItWas || pane.document->kind().type != DocumentType::Anim)
+            return;
+        const int block = state.value(BlockKey).toInt();
+        if (block != playback().blockIndex && block >= 0 &&
+            block < pane.document->recordCount(RecordKind::AnimBlock, {}))
+            m_track.selectBlock(block);
+    };
+    m_files.loader(pane.document->kind().type).load(path, then);
+}
+
+void Session::placeView(const DocumentPane &pane, const QVariantMap &state) const
+{
+    placeCamera(*pane.viewport, state.value(pane.viewport->objectName()).toList());
+}
+
+bool Session::showRecord(const DocumentPane &pane, const QVariantMap &file) const
+{
+    if (pane.document->fileStamp() !=
+        FileStamp{file.value(SizeKey).toLongLong(), file.value(ModifiedKey).toLongLong()}) {
+        Log::info(tr("[Session] '%1' has changed since the last session")
+                      .arg(QDir::toNativeSeparators(pane.document->path())));
         return false;
     }
     const RecordRef record = recordIn(pane.document->rootKind(), file.value(RecordKey).toList());

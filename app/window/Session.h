@@ -11,6 +11,7 @@
 #include <array>
 
 class AnimTrackFrame;
+class DocumentFiles;
 class QTabWidget;
 
 /// Remembers what is open and how it is looked at: the files, the current tabs, the current record of each
@@ -26,8 +27,8 @@ public:
     static constexpr int DelayMs = 3000;
 
     /// `tabs` are told apart by their pages' object names. Everything outlives the session.
-    Session(const std::array<DocumentPane, 3> &panes, const std::array<QTabWidget *, 2> &tabs,
-            AnimTrackFrame &track, QWidget *window);
+    Session(DocumentFiles &files, const std::array<DocumentPane, 3> &panes,
+            const std::array<QTabWidget *, 2> &tabs, AnimTrackFrame &track, QWidget *window);
 
     /// Opens what was stored last, unless the user does not want it. Documents that are open stay, and so
     /// does what `paths`, files that are opened next, are going to fill: the session leaves the whole tab of
@@ -44,9 +45,12 @@ protected:
 private:
     void noteChange();
     QVariantMap state() const;
+    void open(const DocumentPane &pane, const QVariantMap &state);
+    void placeView(const DocumentPane &pane, const QVariantMap &state) const;
     /// Returns true when the pane shows the file as it was.
-    bool openFile(const DocumentPane &pane, const QVariantMap &file) const;
+    bool showRecord(const DocumentPane &pane, const QVariantMap &file) const;
 
+    DocumentFiles &m_files;
     const std::array<DocumentPane, 3> m_panes;
     const std::array<QTabWidget *, 2> m_tabs;
     AnimTrackFrame &m_track;

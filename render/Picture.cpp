@@ -13,15 +13,16 @@
 
 namespace {
 constexpr int Samples = 4; // up to OversampledSide; beyond, their memory would be measured in gigabytes
-/// Small pictures are painted larger and scaled down, which also smooths the textures.
+/// Small pictures are painted larger and scaled down, which also smooths the textures. At the most, that
+/// gives sixteen places a pixel, and the card's own samples would add nothing that is seen.
 constexpr int LargestOversampling = 4;
 constexpr int OversampledSide = 4096;
 
-QImage paintOnce(ScenePainter &painter, const SceneFrame &frame, const QSize &size)
+QImage paintOnce(ScenePainter &painter, const SceneFrame &frame, const QSize &size, int samples)
 {
     QOpenGLFramebufferObjectFormat format;
     format.setAttachment(QOpenGLFramebufferObject::CombinedDepthStencil);
-    format.setSamples(std::max(size.width(), size.height()) > OversampledSide ? 0 : Samples);
+    format.setSamples(std::max(size.width(), size.height()) > OversampledSide ? 0 : samples);
     QOpenGLFramebufferObject target(size, format);
     if (!target.isValid() || !target.bind())
         return {};
@@ -52,7 +53,7 @@ QImage paintPicture(ScenePainter &painter, const SceneFrame &frame, const QSize 
 {
     painter.setUpState(background);
     const int factor = oversampling(frame, size);
-    const QImage image = paintOnce(painter, frame, size * factor);
+    const QImage image = paintOnce(painter, frame, size * factor, factor < LargestOversampling ? Samples : 0);
     return factor == 1 || image.isNull()
                ? image
                : image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "EndSignals.h"
 #include "GraphicsProbe.h"
 #include "Language.h"
 #include "Look.h"
@@ -46,7 +47,13 @@ int main(int argc, char *argv[])
     // All keys are read while the window is built.
     auto settings = std::make_unique<SettingsHold>();
     showChosenLook();
+    // A session that ends has unsaved work kept; nothing is asked, and a window that stays open may go on.
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
     MainWindow window;
+    const EndSignals ending([&window](int number) {
+        window.close();
+        QApplication::exit(128 + number); // as shells do
+    });
     window.show();
     window.openAtStart(files);
     settings.reset();

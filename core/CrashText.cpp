@@ -36,8 +36,19 @@ void CrashText::setGraphics(const QString &text)
     setText(facts.graphics, text.toUtf8());
 }
 
+// As in the console, lines that are equal are one.
 void CrashText::addLine(const QString &text)
 {
+    static QString s_last;
+    static int s_times = 0;
+    if (s_times > 0 && text == s_last) {
+        const QByteArray count = " (" + QByteArray::number(++s_times) + " times)";
+        setText(facts.lines[(facts.lineCount - 1) % Lines],
+                text.toUtf8().left(int(LineBytes) - 1 - count.size()) + count);
+        return;
+    }
+    s_last = text;
+    s_times = 1;
     setText(facts.lines[facts.lineCount % Lines], text.toUtf8());
     facts.lineCount = facts.lineCount + 1;
 }

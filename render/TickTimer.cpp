@@ -14,6 +14,7 @@ constexpr int MovingInterval = 1;
 constexpr int IdleInterval = 30;
 constexpr int PaintInterval = 16;
 constexpr qint64 MostSteps = 50;
+constexpr qint64 LongestWait = 1000;
 } // namespace
 
 TickTimer::TickTimer(QObject &owner, Clock clock)
@@ -53,7 +54,8 @@ TickTimer::Due TickTimer::take()
     const int steps = int(std::clamp(now - m_stepped, qint64(1), MostSteps));
     // The step of a tick that came early is one that the next has not to do.
     m_stepped = std::max(now, m_stepped + 1);
-    return {float(now - std::exchange(m_previous, now)) / 1000.0f, steps};
+    const qint64 waited = std::min(now - std::exchange(m_previous, now), LongestWait);
+    return {float(waited) / 1000.0f, steps};
 }
 
 bool TickTimer::mayPaint() const

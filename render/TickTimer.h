@@ -27,10 +27,11 @@ public:
     void stop() { m_timer.stop(); }
     bool isMoving() const { return m_pace == Pace::Moving; }
     bool isMine(const QTimerEvent &event) const;
-    /// What has come due with a tick. The time asleep is not time that anything moved.
+    /// What has come due with a tick. The time asleep is not time that anything moved, nor is most of a wait
+    /// in which the program, or the computer, stood still.
     struct Due
     {
-        float seconds; ///< since the tick before
+        float seconds; ///< since the tick before, 1 at most
         int steps;     ///< at least 1: a late tick does those of the milliseconds that it missed, but not all
                        ///< of a long wait
     };

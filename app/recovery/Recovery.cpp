@@ -26,6 +26,8 @@ Recovery::Recovery(DocumentFiles &files, const QString &root, QWidget *window)
     }
     connect(&m_store, &SnapshotStore::failed, this, &Recovery::onFailed);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &Recovery::keepAll);
+    // The session's end waits for whom it has told, and for nobody afterwards.
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &Recovery::keepAll, Qt::DirectConnection);
     window->installEventFilter(this);
     CrashReport::install(m_store.crashReportPath());
 }

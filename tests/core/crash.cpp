@@ -1,12 +1,16 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "CrashReport.h"
+#include "EndSignals.h"
 #include "Log.h"
 
 #include <QCoreApplication>
 
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
+
+#include <unistd.h>
 
 #ifdef KORVANE_COVERAGE
 extern "C" void __gcov_dump();
@@ -53,7 +57,16 @@ int main(int argc, char *argv[])
     CrashReport::setGraphics(QStringLiteral("a painter"));
     for (int i = 0; i < 1000; ++i)
         Log::info(QStringLiteral("line %1 %2").arg(i).arg(QString(i, QLatin1Char('x'))));
+    for (int i = 0; i < 3; ++i)
+        Log::info(QStringLiteral("the same"));
     const QByteArray way(argv[2]);
+    if (way == "stuck") {
+        const EndSignals signalsOfTheEnd([](int) { std::_Exit(1); });
+        std::puts("ready");
+        std::fflush(stdout);
+        for (;;)
+            pause();
+    }
     if (way == "overflow")
         return callForEver(0);
     if (way == "memory")

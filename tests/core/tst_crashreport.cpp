@@ -25,9 +25,10 @@ private slots:
             const QString report = QString::fromUtf8(TestSupport::readFile(folder.path("crash.txt")));
             for (const QString &part : {QStringLiteral("Korvane 1.2.3, Qt ") + qVersion(), text,
                                         QStringLiteral("Graphics: a painter\n"), QStringLiteral("[0x"),
-                                        QStringLiteral("\nline 960 "), QStringLiteral("\nline 999 xxx")})
+                                        QStringLiteral("\nline 961 "), QStringLiteral("\nline 999 xxx"),
+                                        QStringLiteral("\nthe same (3 times)\n")})
                 QVERIFY2(report.contains(part), qPrintable(report));
-            QVERIFY(!report.contains(QStringLiteral("\nline 959 ")));
+            QVERIFY(!report.contains(QStringLiteral("\nline 960 ")));
             QVERIFY(report.size() < 64 * 1024);
         };
         check("memory", SIGSEGV, "SIGSEGV, a wrong memory access at 0x1234\n");
@@ -35,6 +36,18 @@ private slots:
         check("abort", SIGABRT, "SIGABRT, given up\n");
         for (const int number : {SIGBUS, SIGFPE, SIGILL})
             check(QString::number(number), number, "Ended by SIG");
+    }
+
+    void whoDoesNotEndWhenAskedIsEnded()
+    {
+        for (const int number : {SIGTERM, SIGHUP, SIGINT}) {
+            QProcess stuck;
+            stuck.start(QStringLiteral(KORVANE_CRASH), {QString(), "stuck"});
+            QVERIFY(stuck.waitForReadyRead());
+            kill(pid_t(stuck.processId()), number);
+            QVERIFY(stuck.waitForFinished());
+            QCOMPARE(stuck.exitCode(), SIGALRM);
+        }
     }
 };
 

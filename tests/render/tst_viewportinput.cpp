@@ -134,6 +134,8 @@ void tst_ViewportInput::flightKeepsItsSpeed()
         QCOMPARE(due.steps, steps);
         QCOMPARE(due.seconds, float(wait) / 1000.0f);
     }
+    now += 3600 * 1000; // stopped, or asleep
+    QCOMPARE(timer.take().seconds, 1.0f);
     timer.stop();
     now += 1000;
     timer.setPace(TickTimer::Pace::Moving);

@@ -1,11 +1,14 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "AnimCommands.h"
+#include "EndSignals.h"
 #include "FullDisk.h"
 #include "Hand.h"
 #include "KeptWork.h"
 #include "RecoverDialog.h"
 #include "SnapshotFile.h"
+
+#include <csignal>
 
 using SampleModels::bytesOf;
 
@@ -71,6 +74,23 @@ private slots:
             run.rigid.take(SampleModels::staticMesh(), QStringLiteral("box"));
             run.settle();
         });
+    }
+
+    void theEndOfTheSessionKeepsWorkAtOnce()
+    {
+        OneRun run(root());
+        run.openMesh(manPath());
+        run.edit(1);
+        QVector<int> asked;
+        const EndSignals ending([&](int number) {
+            run.recovery->keepAll();
+            asked += number;
+        });
+        raise(SIGHUP);
+        raise(SIGTERM); // both come where a terminal closes
+        QTRY_VERIFY_WITH_TIMEOUT(!asked.isEmpty(), 1500);
+        QCOMPARE(asked, QVector<int>({SIGHUP}));
+        QCOMPARE(kept().size(), 1);
     }
 
     void savedOrUndoneWorkIsNot()

@@ -57,8 +57,19 @@ private:
 
 ConsoleWidgetItem::ConsoleWidgetItem(LogSeverity severity, const QIcon &icon, const QString &text)
     : QListWidgetItem(icon, text)
+    , m_line(text)
 {
     setData(Qt::UserRole, int(severity));
+}
+
+bool ConsoleWidgetItem::isOf(LogSeverity severity, const QString &line) const
+{
+    return severity == this->severity() && line == m_line;
+}
+
+void ConsoleWidgetItem::repeat()
+{
+    setText(ConsoleLog::tr("%1 (%2 times)").arg(m_line, QString::number(++m_count)));
 }
 
 LogSeverity ConsoleWidgetItem::severity() const
@@ -102,12 +113,35 @@ void ConsoleLog::log(LogSeverity severity, const QString &text)
             m_list->scrollToBottom();
         });
     }
-    m_delegate->include(text);
-    m_list->addItem(new ConsoleWidgetItem(severity, m_icons[size_t(severity)], text));
+    append(severity, text);
 
     ++m_counts[Rows];
     ++m_counts[severity == LogSeverity::Info ? Infos : severity == LogSeverity::Error ? Errors : Warnings];
     emit countsChanged();
+}
+
+void ConsoleLog::append(LogSeverity severity, const QString &text)
+{
+    auto *row = static_cast<ConsoleWidgetItem *>(m_list->item(m_list->count() - 1));
+    if (row && row->isOf(severity, text)) {
+        row->repeat();
+    } else {
+        if (m_list->count() == MostRows)
+            dropFirst();
+        row = new ConsoleWidgetItem(severity, m_icons[size_t(severity)], text);
+        m_list->addItem(row);
+    }
+    m_delegate->include(row->text());
+}
+
+/// What is being read stays where it is.
+void ConsoleLog::dropFirst()
+{
+    QScrollBar *bar = m_list->verticalScrollBar();
+    const int top = bar->value();
+    delete m_list->takeItem(0);
+    if (!m_followPending)
+        bar->setValue(top - 1);
 }
 
 void ConsoleLog::clear()

@@ -13,25 +13,35 @@
 class QAction;
 class QListWidget;
 
-/// One console row: icon, text, and the severity's number under Qt::UserRole.
+/// One console row: icon, text, and the severity's number under Qt::UserRole. Equal lines that follow one
+/// another are one row, which tells how many.
 class ConsoleWidgetItem : public QListWidgetItem
 {
 public:
     ConsoleWidgetItem(LogSeverity severity, const QIcon &icon, const QString &text);
     LogSeverity severity() const;
+    bool isOf(LogSeverity severity, const QString &line) const;
+    /// Counts the same line once more.
+    void repeat();
+
+private:
+    QString m_line;
+    int m_count = 1;
 };
 
 /// The application-wide log shown in a list widget: rows are appended at the end, and the view follows them
-/// as long as it stood at the end. GUI thread only.
+/// as long as it stood at the end. The last rows are kept. GUI thread only.
 class ConsoleLog : public QObject
 {
     Q_OBJECT
 
 public:
+    static constexpr int MostRows = 10000;
+
     /// Takes over the look of `list`, which must outlive the log and hold no other rows.
     explicit ConsoleLog(QListWidget *list, QObject *parent = nullptr);
 
-    /// Counts the line and appends its row; fits the sink of core's log.
+    /// Counts the line and appends its row, or counts it in the last row; fits the sink of core's log.
     void log(LogSeverity severity, const QString &text);
     void info(const QString &text) { log(LogSeverity::Info, text); }
     void warning(const QString &text) { log(LogSeverity::Warning, text); }
@@ -42,7 +52,7 @@ public:
     void setClearAction(QAction *action);
 
     bool hasErrors() const { return errorCount() > 0; }
-    // Since the last clear.
+    // Lines since the last clear.
     int rowCount() const { return m_counts[Rows]; }
     int infoCount() const { return m_counts[Infos]; }
     int errorCount() const { return m_counts[Errors]; }
@@ -63,6 +73,8 @@ private:
     enum Counter { Rows, Infos, Errors, Warnings };
 
     bool isAtEnd() const;
+    void append(LogSeverity severity, const QString &text);
+    void dropFirst();
     void copySelection() const;
     void updateCopyAction();
 

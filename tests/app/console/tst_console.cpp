@@ -28,13 +28,16 @@ private slots:
             return QVector<int>{console.rowCount(), console.infoCount(), console.warningCount(),
                                 console.errorCount()};
         };
-        QCOMPARE(numbers(), QVector<int>({4, 2, 1, 1}));
-        QCOMPARE(counts.count(), 4);
+        for (int i = 0; i < 2; ++i)
+            console.error(QStringLiteral("d\ne"));
+        console.warning(QStringLiteral("d\ne"));
+        QCOMPARE(numbers(), QVector<int>({7, 2, 2, 3}));
+        QCOMPARE(counts.count(), 7);
 
         QStringList rows;
         for (int row = 0; row < list.count(); ++row)
             rows << list.item(row)->text() + list.item(row)->data(Qt::UserRole).toString();
-        QCOMPARE(rows, QStringList({"a2", "b2", "c1", "d\ne0"}));
+        QCOMPARE(rows, QStringList({"a2", "b2", "c1", "d\ne (3 times)0", "d\ne1"}));
 
         // Selected from the bottom up, copied from the top down.
         QVERIFY(!console.copyAction()->isEnabled());
@@ -45,8 +48,9 @@ private slots:
         };
         click(2, Qt::NoModifier);
         click(0, Qt::ControlModifier);
+        click(3, Qt::ControlModifier);
         console.copyAction()->trigger();
-        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("a\nc"));
+        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("a\nc\nd\ne (3 times)"));
         console.clear();
         QVERIFY(!console.copyAction()->isEnabled());
         QCOMPARE(list.count(), 0);
@@ -62,11 +66,11 @@ private slots:
         list.show();
         QVERIFY(QTest::qWaitForWindowExposed(&list));
         QScrollBar *bar = list.verticalScrollBar();
-        for (int i = 0; i < 10000; ++i)
+        for (int i = 0; i < 9990; ++i)
             console.info(QString::number(i));
         QTRY_VERIFY(bar->maximum() > 0);
         QTRY_COMPARE(bar->value(), bar->maximum());
-        QVERIFY(list.viewport()->rect().contains(list.visualItemRect(list.item(9999)).center()));
+        QVERIFY(list.viewport()->rect().contains(list.visualItemRect(list.item(9989)).center()));
 
         bar->setValue(10);
         const int before = bar->maximum();
@@ -78,6 +82,17 @@ private slots:
         console.info(QStringLiteral("seen"));
         QTRY_VERIFY(bar->maximum() > before + 1);
         QTRY_COMPARE(bar->value(), bar->maximum());
+
+        // The oldest go, while what is read stays where it is.
+        bar->setValue(100);
+        const QString top = list.itemAt(5, 5)->text();
+        for (int i = 0; i < 20; ++i)
+            console.info(QStringLiteral("more ") + QString::number(i));
+        QCOMPARE(list.count(), ConsoleLog::MostRows);
+        QCOMPARE(console.rowCount(), 10012);
+        QCOMPARE(list.item(0)->text(), QStringLiteral("12"));
+        QTest::qWait(0);
+        QCOMPARE(list.itemAt(5, 5)->text(), top);
 
         // The longest line can be read to its end.
         console.error(QString(400, QLatin1Char('w')));

@@ -47,6 +47,12 @@ public:
 
     void setValue(const T &value) const { SettingsHold::setValue(m_name, QVariant::fromValue(value)); }
 
+    /// For what a slider sets; see SettingsHold.
+    void setValueSoon(const T &value) const
+    {
+        SettingsHold::setValueSoon(m_name, QVariant::fromValue(value));
+    }
+
     void remove() const { SettingsHold::setValue(m_name, {}); }
 
     /// Writes the default unless the key is there already.

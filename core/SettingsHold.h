@@ -21,6 +21,11 @@ public:
     /// Stores a value; an invalid one removes it. Where the store cannot be written, the value counts until
     /// the program ends, and the log says so once.
     static void setValue(const QString &name, const QVariant &value);
+    /// The same for a value that changes many times a second: it counts at once and is written five times a
+    /// second at most, the last one in any case. GUI thread only.
+    static void setValueSoon(const QString &name, const QVariant &value);
+    /// Writes what waits to be written.
+    static void writeWaiting();
 
 private:
     QSettings m_store;

@@ -32,6 +32,7 @@ ViewPreferences::ViewPreferences(const std::array<ViewToolBar *, 2> &toolBars,
         connect(bar, &ViewToolBar::surfSelectChanged, this, &ViewPreferences::OnSurfSelectChanged);
         connect(bar, &ViewToolBar::moveSpeedChanged, this, &ViewPreferences::OnMouseSpeedChanged);
         connect(bar, &ViewToolBar::brightnessChanged, this, &ViewPreferences::OnBrightnessChanged);
+        connect(bar, &ViewToolBar::sliderReleased, this, &SettingsHold::writeWaiting);
     }
 }
 
@@ -59,7 +60,7 @@ void ViewPreferences::OnSurfSelectChanged(int type)
 void ViewPreferences::OnMouseSpeedChanged(int position)
 {
     const float speed = ViewToolBar::moveSpeed(position);
-    Settings::MouseSpeed.setValue(speed);
+    Settings::MouseSpeed.setValueSoon(speed);
     for (ViewToolBar *bar : m_toolBars)
         bar->setMoveSpeedPosition(position);
     for (KVOpenGLWidget *viewport : m_viewports)
@@ -69,7 +70,7 @@ void ViewPreferences::OnMouseSpeedChanged(int position)
 void ViewPreferences::OnBrightnessChanged(int position)
 {
     const float brightness = ViewToolBar::brightness(position);
-    Settings::Brightness.setValue(brightness);
+    Settings::Brightness.setValueSoon(brightness);
     for (ViewToolBar *bar : m_toolBars)
         bar->setBrightnessPosition(position);
     for (KVOpenGLWidget *viewport : m_viewports)

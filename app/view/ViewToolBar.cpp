@@ -133,11 +133,13 @@ QSlider *ViewToolBar::addSlider(const char *name, const QString &label, int min,
     QSlider *shown = labelledSlider(label, min, max, panel);
     shown->setObjectName(QLatin1String(name));
     shown->setMaximumWidth(maxWidth);
+    connect(shown, &QSlider::sliderReleased, this, &ViewToolBar::sliderReleased);
     addRoomy(panel, [=](QWidget *menu) {
         auto *twinPanel = new QWidget(menu);
         QSlider *twin = labelledSlider(label, min, max, twinPanel);
         twin->setValue(shown->value());
         connect(twin, &QSlider::valueChanged, shown, &QSlider::setValue);
+        connect(twin, &QSlider::sliderReleased, shown, &QSlider::sliderReleased);
         connect(shown, &QSlider::valueChanged, twin, &QSlider::setValue);
         return twinPanel;
     });

@@ -52,6 +52,8 @@ signals:
     void surfSelectChanged(int type);
     void moveSpeedChanged(int position);
     void brightnessChanged(int position);
+    /// The end of moves with the mouse.
+    void sliderReleased();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

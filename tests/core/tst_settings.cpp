@@ -50,6 +50,30 @@ private slots:
         QCOMPARE(Settings::HideMeshData.value(), false);
     }
 
+    void whatMovesIsWrittenNowAndThen()
+    {
+        const auto stored = [](const char *line) {
+            return TestSupport::readFile(QSettings().fileName()).contains(line);
+        };
+        Settings::SurfSelectType.setValueSoon(1);
+        QVERIFY(stored("SurfSelectType=1")); // the first at once
+        for (int i = 2; i <= 50; ++i)
+            Settings::SurfSelectType.setValueSoon(i);
+        QCOMPARE(Settings::SurfSelectType.value(), 50);
+        QVERIFY(stored("SurfSelectType=1\n"));
+        QTRY_VERIFY(stored("SurfSelectType=50"));
+        Settings::SurfSelectType.setValueSoon(51);
+        SettingsHold::writeWaiting();
+        QVERIFY(stored("SurfSelectType=51"));
+        // What is stored meanwhile is newer.
+        Settings::SurfSelectType.setValueSoon(52);
+        Settings::SurfSelectType.setValue(53);
+        SettingsHold::writeWaiting();
+        QVERIFY(stored("SurfSelectType=53"));
+        QCOMPARE(Settings::SurfSelectType.value(), 53);
+        Settings::SurfSelectType.remove();
+    }
+
     void everyTypeComesBackFromTheFile()
     {
         const QString folder = QStringLiteral("/tmp/mods, \"mine\"; %41 é ü 漢/ending\\");

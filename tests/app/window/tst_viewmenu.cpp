@@ -44,7 +44,12 @@ private slots:
             QTest::keyClick(bars.at(0), Qt::Key_End);
             QCOMPARE(bars.at(1)->currentIndex(), 4);
             const auto speeds = window->findChildren<QSlider *>(QStringLiteral("sliderMoveSpeed"));
-            speeds.at(1)->setValue(250);
+            speeds.at(1)->setSliderDown(true);
+            for (int position = 200; position <= 250; ++position)
+                speeds.at(1)->setSliderPosition(position);
+            QVERIFY(QSettings().value(QStringLiteral("MouseSpeed")).toFloat() < 2.5f);
+            speeds.at(1)->setSliderDown(false);
+            QCOMPARE(QSettings().value(QStringLiteral("MouseSpeed")).toFloat(), 2.5f);
             QCOMPARE(speeds.at(0)->value(), 250);
             find<QSlider>(*window, "sliderBrightness")->setValue(4);
             QVERIFY(view->findChild<QLabel *>(QStringLiteral("lblViewStatistics")));

@@ -10,6 +10,7 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QSettings>
+#include <QSlider>
 #include <QSurfaceFormat>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -99,6 +100,18 @@ void reportPlaying(KVOpenGLWidget &view, PaintCounter &counter)
                         2.0);
     Bench::addLimitLine("play_widgets_a_frame", Bench::median(widgets), 12.0, "");
 }
+/// Steps of a drag, of which each is a setting.
+void reportSlider(QSlider &slider)
+{
+    constexpr int Steps = 100;
+    slider.setSliderDown(true);
+    const double drag = Bench::seconds([&slider] {
+        for (int step = 0; step < Steps; ++step)
+            slider.setSliderPosition(100 + step);
+    });
+    slider.setSliderDown(false);
+    Bench::addLimitLine("slider_step", drag / Steps * 1e3, 5.0, "ms");
+}
 } // namespace
 
 int main(int argc, char *argv[])
@@ -129,6 +142,7 @@ int main(int argc, char *argv[])
     wait(Settling);
     if (!playback().mesh || !playback().anim || counter.paints < 10)
         qFatal("the sample does not play");
+    reportSlider(*window.findChild<QSlider *>(QStringLiteral("sliderMoveSpeed")));
     counter.view = view;
     reportPlaying(*view, counter);
     wait(Settling);

@@ -193,5 +193,22 @@ int main(int argc, char **argv)
     if (target.toImage() != painted)
         std::abort();
     Bench::ratio("paint_frame", 1.2, Repetitions, paint, paintBare);
+
+    // Many surfaces with one large picture cost what the picture does.
+    MeshSource alike = source;
+    alike.indexes.assign(64, source.indexes.front());
+    QImage picture(2048, 2048, QImage::Format_RGBA8888);
+    picture.fill(Qt::red);
+    alike.images.assign(alike.indexes.size(), picture);
+    Bench::ratio(
+        "upload_64_alike", 2.0, 5,
+        [&] {
+            painter.setModel(alike);
+            context.functions()->glFinish();
+        },
+        [&] {
+            const QOpenGLTexture texture(picture, QOpenGLTexture::DontGenerateMipMaps);
+            context.functions()->glFinish();
+        });
     return Bench::run(argc, argv);
 }

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
+#include <QSet>
 
 namespace {
 constexpr qint64 Beginning = 64;      ///< bytes
@@ -19,6 +20,23 @@ bool isTargaIn(QIODevice &device, const QImageReader &reader)
     return (format.isEmpty() || format == "tga" || format == "ico") && device.isOpen() &&
            isTarga(device.peek(Beginning), device.size(), MostPixels);
 }
+
+bool isOfKind(const QByteArray &format)
+{
+    // Icons hold whole pictures, whose sizes they do not tell.
+    static const QSet<QByteArray> kinds{"png", "jpeg", "bmp", "gif"};
+    return kinds.contains(format);
+}
+
+QSize sizeIn(const QImageReader &reader)
+{
+    return isOfKind(reader.format()) ? reader.size() : QSize();
+}
+
+bool fits(const QSize &size)
+{
+    return !size.isEmpty() && qint64(size.width()) * size.height() <= MostPixels;
+}
 } // namespace
 
 Picture readPicture(QIODevice &device)
@@ -26,11 +44,8 @@ Picture readPicture(QIODevice &device)
     QImageReader reader(&device);
     if (isTargaIn(device, reader))
         return {readTarga(device.read(MostBytes), MostPixels), "tga"};
-    const QSize size = reader.size();
-    if (size.isValid() && qint64(size.width()) * size.height() > MostPixels)
-        return {};
     const QByteArray format = reader.format();
-    return {reader.read(), format};
+    return fits(sizeIn(reader)) ? Picture{reader.read(), format} : Picture();
 }
 
 Picture readPicture(const QString &path)
@@ -39,13 +54,16 @@ Picture readPicture(const QString &path)
     return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? readPicture(file) : Picture();
 }
 
-bool isPicture(const QString &path)
+QSize pictureSize(const QString &path)
 {
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
-        return false;
-    QImageReader reader(&file);
-    if (isTargaIn(file, reader))
-        return true;
-    return reader.canRead() && (reader.format() != "ico" || !reader.read().isNull());
+        return {};
+    const QImageReader reader(&file);
+    return isTargaIn(file, reader) ? targaSize(file.peek(Beginning)) : sizeIn(reader);
+}
+
+bool isPicture(const QString &path)
+{
+    return fits(pictureSize(path));
 }

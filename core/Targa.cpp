@@ -89,6 +89,12 @@ bool isTarga(const QByteArray &beginning, qint64 size, qint64 mostPixels)
            header.sizeOfPixels() <= size - header.start();
 }
 
+QSize targaSize(const QByteArray &beginning)
+{
+    const TargaHeader header(beginning);
+    return {header.word(12), header.word(14)};
+}
+
 QImage readTarga(const QByteArray &bytes, qint64 mostPixels)
 {
     if (!isTarga(bytes, bytes.size(), mostPixels))

@@ -11,3 +11,5 @@
 [[nodiscard]] QImage readTarga(const QByteArray &bytes, qint64 mostPixels);
 /// Whether readTarga() reads it, from the beginning of the file and its size in bytes.
 [[nodiscard]] bool isTarga(const QByteArray &beginning, qint64 size, qint64 mostPixels);
+/// The size that the beginning of such a file tells of.
+[[nodiscard]] QSize targaSize(const QByteArray &beginning);

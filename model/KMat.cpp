@@ -210,10 +210,19 @@ int behindBlankLines(const QString &text, int from)
     return from;
 }
 
+/// None of a larger file than is read.
 QByteArray fileBytes(const QString &path)
 {
     QFile file(path);
-    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return QFileInfo(path).isFile() && file.size() <= MostMaterialBytes && file.open(QIODevice::ReadOnly)
+               ? file.readAll()
+               : QByteArray();
+}
+
+QString tooLarge(const QString &path)
+{
+    return QCoreApplication::translate("ModelFiles", "'%1' is larger than %2 MiB: it is no .kMat file")
+        .arg(path, QString::number(MostMaterialBytes / 1024 / 1024));
 }
 
 /// A file's bytes with the materials of the table in place of those of their names; the others stay. None
@@ -265,7 +274,10 @@ QString readKMat(const QStringList &candidates, MaterialTable &table)
         // Opening a pipe would wait for a writer for ever.
         if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
             continue;
-        return readKMat(file, path, table);
+        if (file.size() <= MostMaterialBytes)
+            return readKMat(file, path, table);
+        table.clear();
+        return tooLarge(path);
     }
     table.clear();
     return QCoreApplication::translate("ModelFiles", "Unable to read .kMat file at %1")
@@ -328,6 +340,8 @@ QStringList otherMaterials(const QString &path, const MaterialTable &table)
 
 QString mergeKMat(const QString &path, const MaterialTable &table)
 {
+    if (QFileInfo(path).size() > MostMaterialBytes)
+        return tooLarge(path);
     const std::optional<QByteArray> merged = mergedBytes(fileBytes(path), table);
     return merged ? writeText(path, *merged)
                   : QCoreApplication::translate(

@@ -12,6 +12,9 @@ class QIODevice;
 /// Material name to diffuse texture path, ascending by name.
 using MaterialTable = std::map<QString, QString>;
 
+/// The largest .kmat file that is read, in bytes; the game's have some thousand.
+constexpr qint64 MostMaterialBytes = 16 * 1024 * 1024;
+
 /// Reads the materials of one .kmat file: text in UTF-8, in what its byte order mark says, or else in
 /// Latin-1. Returns an error message, and then leaves `table` empty; an empty text means success.
 [[nodiscard]] QString readKMat(const QString &path, MaterialTable &table);

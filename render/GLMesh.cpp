@@ -51,25 +51,40 @@ GLMesh::GLMesh(MeshSource source)
     describeVertexLayout(m_gl);
     m_vertexArray.release();
 
-    uploadVertices();
-    setIndexes(std::move(source.indexes));
     m_textures.reserve(source.images.size());
     for (const QImage &image : source.images)
-        addTexture(image);
+        m_textures.push_back({image, nullptr});
+    uploadVertices();
+    setIndexes(std::move(source.indexes));
 }
 
-void GLMesh::addTexture(const QImage &image)
+void GLMesh::uploadTextures()
 {
+    for (size_t i = 0; i < m_textures.size() && i < m_surfaces.size(); ++i) {
+        Texture &texture = m_textures[i];
+        if (texture.copy || m_surfaces[i].indexes.empty())
+            continue;
+        texture.copy = copyOf(texture.image);
+        texture.image = {};
+    }
+}
+
+std::shared_ptr<QOpenGLTexture> GLMesh::copyOf(const QImage &image)
+{
+    std::weak_ptr<QOpenGLTexture> &known = m_copies[image.cacheKey()];
+    if (std::shared_ptr<QOpenGLTexture> copy = known.lock())
+        return copy;
     GLint limit = 0;
     m_gl.glGetIntegerv(GL_MAX_TEXTURE_SIZE, &limit);
     const bool fits = image.width() <= limit && image.height() <= limit;
     // Not mirrored: the texture coordinates count from the image's top row.
-    auto texture = std::make_unique<QOpenGLTexture>(
+    const auto copy = std::make_shared<QOpenGLTexture>(
         fits ? image : image.scaled(limit, limit, Qt::KeepAspectRatio, Qt::SmoothTransformation),
         QOpenGLTexture::DontGenerateMipMaps);
-    texture->setMinMagFilters(QOpenGLTexture::Linear, QOpenGLTexture::Linear);
-    texture->setWrapMode(QOpenGLTexture::Repeat);
-    m_textures.push_back(std::move(texture));
+    copy->setMinMagFilters(QOpenGLTexture::Linear, QOpenGLTexture::Linear);
+    copy->setWrapMode(QOpenGLTexture::Repeat);
+    known = copy;
+    return copy;
 }
 
 template <typename Model>
@@ -112,6 +127,8 @@ void GLMesh::setIndexes(std::vector<std::vector<quint16>> indexes)
     m_surfaces.resize(indexes.size());
     for (size_t i = 0; i < indexes.size(); ++i) {
         Surface &surface = m_surfaces[i];
+        if (surface.indexes == indexes[i])
+            continue;
         surface.indexes = std::move(indexes[i]);
         if (!surface.buffer.isCreated())
             surface.buffer.create();
@@ -120,6 +137,7 @@ void GLMesh::setIndexes(std::vector<std::vector<quint16>> indexes)
                           surface.indexes.data(), GL_STATIC_DRAW);
     }
     m_vertexArray.release();
+    uploadTextures();
 }
 
 void GLMesh::draw(const TexturedProgram &program, GLenum mode)
@@ -139,9 +157,11 @@ void GLMesh::drawSelected(const TexturedProgram &program)
 
 void GLMesh::drawSurface(size_t surface, const TexturedProgram &program, GLenum mode)
 {
+    if (!m_textures[surface].copy)
+        return;
     const bool tinted = tintsSelected && int(surface) == selectedSurface;
     m_gl.glUniform4f(program.colorHighlight, 0.0f, 0.0f, tinted ? SelectionBlue : 0.0f, 1.0f);
-    m_gl.glBindTexture(GL_TEXTURE_2D, m_textures[surface]->textureId());
+    m_gl.glBindTexture(GL_TEXTURE_2D, m_textures[surface].copy->textureId());
     drawIndexes(int(surface), mode);
 }
 
@@ -155,6 +175,8 @@ void GLMesh::drawPlain(int surface, GLenum mode)
 void GLMesh::drawIndexes(int surface, GLenum mode)
 {
     Surface &drawn = m_surfaces[size_t(surface)];
+    if (drawn.indexes.empty())
+        return;
     drawn.buffer.bind();
     m_gl.glDrawElements(mode, GLsizei(drawn.indexes.size()), GL_UNSIGNED_SHORT, nullptr);
 }

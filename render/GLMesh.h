@@ -5,6 +5,7 @@
 #include "MeshSource.h"
 #include "Pose.h"
 
+#include <QHash>
 #include <QOpenGLBuffer>
 #include <QOpenGLTexture>
 #include <QOpenGLVertexArrayObject>
@@ -17,9 +18,9 @@ struct TexturedProgram;
 /// Describes the `GLVertex` layout of the bound vertex buffer to the bound vertex array object.
 void describeVertexLayout(QOpenGLExtraFunctions &gl);
 
-/// The graphics card's copy of a model: one vertex buffer, one index buffer and one texture per surface.
-/// Belongs to the context that was current when it was made; every call, the destructor too, needs it
-/// current.
+/// The graphics card's copy of a model: one vertex buffer, one index buffer and one texture per surface that
+/// has triangles. Textures of one picture share its copy. Belongs to the context that was current when it was
+/// made; every call, the destructor too, needs it current.
 class GLMesh
 {
 public:
@@ -66,17 +67,26 @@ private:
         std::vector<quint16> indexes; ///< what the buffer holds
     };
 
+    /// A surface's own; its picture goes to the card with the first triangles.
+    struct Texture
+    {
+        QImage image; ///< none where it is on the card
+        std::shared_ptr<QOpenGLTexture> copy;
+    };
+
     template <typename Model>
     void refreshFrom(const Model &mesh, bool indexesToo);
     void drawSurface(size_t surface, const TexturedProgram &program, GLenum mode);
-    void addTexture(const QImage &image);
     void uploadVertices();
     void setIndexes(std::vector<std::vector<quint16>> indexes);
+    void uploadTextures();
+    std::shared_ptr<QOpenGLTexture> copyOf(const QImage &image);
 
     QOpenGLExtraFunctions &m_gl;
     QOpenGLVertexArrayObject m_vertexArray;
     QOpenGLBuffer m_vertexBuffer{QOpenGLBuffer::VertexBuffer};
     MeshVertices m_vertices;
     std::vector<Surface> m_surfaces;
-    std::vector<std::unique_ptr<QOpenGLTexture>> m_textures; ///< by surface
+    std::vector<Texture> m_textures;                       ///< by surface
+    QHash<qint64, std::weak_ptr<QOpenGLTexture>> m_copies; ///< by their images' keys
 };

@@ -6,11 +6,14 @@
 #include "TextureImages.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
-MaterialTextures::MaterialTextures(const QString &gamePath, const QString &outputDir, const QString &logTag)
+MaterialTextures::MaterialTextures(const QString &gamePath, const QString &outputDir, const QString &logTag,
+                                   qint64 mostPixels)
     : m_materials(gamePath, outputDir)
     , m_logTag(logTag)
     , m_blank(resourceImage(QStringLiteral(":/Images/textures/blank.png")))
+    , m_mostPixels(mostPixels)
 {}
 
 QImage MaterialTextures::resourceImage(const QString &path)
@@ -40,7 +43,7 @@ QImage MaterialTextures::texture(const QString &name)
     if (known == m_images.end()) {
         QImage image;
         for (int i = 0; i < paths.size() && image.isNull(); ++i)
-            image = TextureImages::load(paths[i]);
+            image = load(paths[i]);
         known = m_images.insert(name, image);
     }
     if (!known->isNull())
@@ -48,6 +51,32 @@ QImage MaterialTextures::texture(const QString &name)
     warn(QCoreApplication::translate("Viewport", "Failed to load texture '%1' using blank texture instead")
              .arg(paths.isEmpty() ? name : paths.last()));
     return m_blank;
+}
+
+QImage MaterialTextures::load(const QString &path)
+{
+    const auto pixelsOf = [](const QSize &size) { return qint64(size.width()) * size.height(); };
+    if (m_pixels > m_mostPixels - ::MostPixels && m_pixels + pixelsOf(pictureSize(path)) > m_mostPixels) {
+        warn(QCoreApplication::translate(
+                 "Viewport", "'%1' is left out: the model's textures have more than %2 million pixels")
+                 .arg(path, QString::number(m_mostPixels / 1000000)));
+        return {};
+    }
+    const QImage image = TextureImages::load(path);
+    m_pixels += pixelsOf(image.size());
+    if (!image.isNull() || !QFileInfo(path).isFile())
+        return image;
+    const QSize size = pictureSize(path);
+    if (size.isEmpty()) {
+        warn(QCoreApplication::translate("Viewport", "'%1' is no picture of a kind that is read: %2")
+                 .arg(path, QLatin1String(PictureKinds)));
+    } else if (pixelsOf(size) > ::MostPixels) {
+        warn(QCoreApplication::translate("Viewport",
+                                         "'%1' has %2 × %3 pixels: more than %4 million are not read")
+                 .arg(path, QString::number(size.width()), QString::number(size.height()),
+                      QString::number(::MostPixels / 1000000)));
+    }
+    return image;
 }
 
 void MaterialTextures::warn(const QString &text) const

@@ -23,7 +23,7 @@ public:
     /// Why nothing can be painted; empty while nothing is wrong. Nothing else may be called then.
     const QString &failure() const { return m_failure; }
 
-    void setModel(const MeshSource &source) { m_painter->setModel(source); }
+    void setModel(MeshSource source) { m_painter->setModel(std::move(source)); }
     /// For its palette and its vertices.
     GLMesh &model() { return m_painter->model(); }
 

@@ -1070,6 +1070,10 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>Copy the selected lines</source>
         <translation>Die ausgewählten Zeilen kopieren</translation>
     </message>
+    <message>
+        <source>%1 (%2 times)</source>
+        <translation>%1 (%2-mal)</translation>
+    </message>
 </context>
 <context>
     <name>ControlsDialog</name>
@@ -3350,6 +3354,10 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>&apos;%1&apos; is in Latin-1, which does not have all letters of the new materials.</source>
         <translation>„%1“ ist in Latin-1, worin nicht alle Zeichen der neuen Materialien stehen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is larger than %2 MiB: it is no .kMat file</source>
+        <translation>„%1“ ist größer als %2 MiB: Das ist keine .kMat-Datei</translation>
     </message>
 </context>
 <context>
@@ -7142,6 +7150,18 @@ So lassen?</translation>
     <message>
         <source>[%1] Surface %2: %3 triangles name vertices beyond the %4 of the model and are not drawn, the first is triangle %5</source>
         <translation>[%1] Fläche %2: %3 Dreiecke nennen Vertices jenseits der %4 des Modells und werden nicht gezeichnet, das erste ist Dreieck %5</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is left out: the model&apos;s textures have more than %2 million pixels</source>
+        <translation>„%1“ wird ausgelassen: Die Texturen des Modells haben mehr als %2 Millionen Pixel</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no picture of a kind that is read: %2</source>
+        <translation>„%1“ ist kein Bild einer Art, die gelesen wird: %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has %2 × %3 pixels: more than %4 million are not read</source>
+        <translation>„%1“ hat %2 × %3 Pixel: Mehr als %4 Millionen werden nicht gelesen</translation>
     </message>
 </context>
 <context>

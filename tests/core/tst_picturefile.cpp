@@ -82,11 +82,18 @@ private slots:
         QCOMPARE(readPicture(path).format, QByteArray("jpeg")); // whatever it is called
         QCOMPARE(readPicture(path).image.size(), red.size());
         QVERIFY(isPicture(path) && !isPicture(folder.path()) && !isPicture(folder.path("none.png")));
+        QCOMPARE(pictureSize(path), red.size());
         // A header of 64 million pixels and a few more.
-        QByteArray large = "P5 8192 8193 255\n";
-        QBuffer buffer(&large);
-        buffer.open(QIODevice::ReadOnly);
-        QVERIFY(readPicture(buffer).image.isNull());
+        const QString large =
+            folder.put("large.bmp", bytes("424d360000000000000036000000280000000020000001200000010018000000"
+                                          "00000000000000000000000000000000000000000000"));
+        QCOMPARE(pictureSize(large), QSize(8192, 8193));
+        QVERIFY(!isPicture(large) && readPicture(large).image.isNull());
+        // Kinds that are read nowhere else, though the toolkit knows them: an icon holds whole pictures.
+        for (const char *kind : {"ico", "ppm", "xbm"}) {
+            QVERIFY(red.save(path, kind));
+            QVERIFY2(!isPicture(path) && readPicture(path).image.isNull(), kind);
+        }
     }
 
     void realTexture()

@@ -131,6 +131,15 @@ private slots:
         QVERIFY(readKMat(QStringList{first, second}, table).endsWith(first));
         QVERIFY(table.empty());
 
+        // One that is no such file by its size is not read into memory.
+        QFile large(first);
+        QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(MostMaterialBytes + 1));
+        large.close();
+        QCOMPARE(readKMat(QStringList{first, second}, table),
+                 QString("'%1' is larger than 16 MiB: it is no .kMat file").arg(first));
+        QVERIFY(table.empty() && !mergeKMat(first, table).isEmpty());
+        QCOMPARE(QFileInfo(first).size(), MostMaterialBytes + 1);
+
         const QString missing = m_folder.path(QStringLiteral("missing.kmat"));
         for (const QStringList &paths : {QStringList{missing}, QStringList{missing + "1", m_folder.path()}}) {
             QCOMPARE(readKMat(paths, table), QString("Unable to read .kMat file at %1").arg(paths.last()));

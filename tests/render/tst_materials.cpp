@@ -23,6 +23,7 @@ private slots:
     void lookUp();
     void cachesWithinABuild();
     void sharesDecodedFiles();
+    void limits();
     void emptyFolders();
     void vertices();
     void indexes();
@@ -186,6 +187,32 @@ void tst_Materials::sharesDecodedFiles()
     QVERIFY(TextureImages::load(path).isNull());
     QVERIFY(write(green));
     QVERIFY(!TextureImages::load(path).isNull());
+}
+
+void tst_Materials::limits()
+{
+    const auto name = [](const char *material) {
+        return QStringLiteral("materials/a/") + QLatin1String(material);
+    };
+    // Of four pixels, four and one.
+    MaterialTextures few(m_game, m_mod, m_tag, 6);
+    QCOMPARE(few.image(name("both")).pixelColor(0, 0), QColor(Qt::red));
+    QCOMPARE(few.image(name("mod")).pixelColor(0, 0), Blank);
+    QCOMPARE(few.image(name("targa")).pixelColor(0, 0), QColor(Qt::blue));
+    QCOMPARE(m_log.filter("'~/mod/textures/mod.png' is left out").size(), 1);
+
+    // What is there and cannot be taken is told apart from what is not there.
+    const QString lost = m_folder.path() + QStringLiteral("/game/textures/lost.png");
+    m_log.clear();
+    QVERIFY(QImage(2, 2, QImage::Format_RGB32).save(lost, "ICO"));
+    QVERIFY(find(name("lost")) == find(name("white")));
+    QVERIFY(m_log.filter("'~/game/textures/lost.png' is no picture of a kind that is read: PNG").size() == 1);
+    QVERIFY(TestSupport::writeFile(
+        lost, QByteArray::fromHex("424d36000000000000003600000028000000803e0000803e000001001800"
+                                  "000000000000000000000000000000000000000000000000")));
+    QVERIFY(find(name("lost")) == find(name("white")));
+    QVERIFY(m_log.filter(QStringLiteral("has 16000 × 16000 pixels")).size() == 1);
+    QVERIFY(QFile::remove(lost));
 }
 
 void tst_Materials::emptyFolders()

@@ -28,6 +28,7 @@ private slots:
     void markers();
     void refreshesWhatChanged();
     void hostileModel();
+    void surfacesShareCopies();
     void shadings_data() { addContexts(); }
     void shadings();
     void marksOverTheModel_data() { addContexts(); }
@@ -323,6 +324,39 @@ void tst_Viewport::refreshesWhatChanged()
     m_view->refreshVertices();
     QVERIFY(isWhite(m_view->pixel(175, 120)));
     QVERIFY(isBackground(m_view->pixel(225, 180)));
+}
+
+// Surfaces of one picture share its copy, and those without triangles have nothing on the card until they get
+// some.
+void tst_Viewport::surfacesShareCopies()
+{
+    const auto objects = [&] {
+        m_view->grabFramebuffer();
+        m_view->makeCurrent();
+        QOpenGLFunctions &gl = *m_view->context()->functions();
+        int count = 0;
+        for (GLuint name = 1; name < 5000; ++name)
+            count += gl.glIsTexture(name) + gl.glIsBuffer(name);
+        m_view->doneCurrent();
+        return count;
+    };
+    m_view->openSquare(QStringLiteral("m/a/quarters"));
+    StaticMesh &square = m_view->square;
+    const StaticMeshSurface first = square.surfaces[0];
+    const int before = objects();
+    QVERIFY(before > 0);
+    square.surfaces.resize(1000, {first.materialPath, {}});
+    m_view->rebuildModel();
+    QCOMPARE(objects(), before);
+    square.surfaces.resize(1064, first);
+    m_view->rebuildModel();
+    QCOMPARE(objects(), before + 64); // the index buffers
+    square.surfaces.resize(1000);
+    m_view->rebuildModel();
+    const QImage seen = m_view->grabFramebuffer();
+    std::swap(square.surfaces[0].triangleIndexes, square.surfaces[999].triangleIndexes);
+    m_view->refreshIndexes();
+    QCOMPARE(m_view->grabFramebuffer(), seen);
 }
 
 // Bone numbers and indexes from nowhere, more bones than the program holds, numbers that are none.

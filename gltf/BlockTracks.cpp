@@ -6,6 +6,8 @@
 #include "GltfText.h"
 #include "Polar.h"
 
+#include <QtMath>
+
 #include <algorithm>
 #include <cmath>
 #include <utility>

@@ -6,6 +6,11 @@
 
 void confine(int)
 {
-    // Whoever started this tells of a crash; a message box would wait for ever.
+    // Whoever started this tells of a crash, by the code that it ends with; a message box would wait for
+    // ever.
     SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX | SEM_NOOPENFILEERRORBOX);
+    SetUnhandledExceptionFilter([](EXCEPTION_POINTERS *crash) -> LONG {
+        TerminateProcess(GetCurrentProcess(), crash->ExceptionRecord->ExceptionCode);
+        return EXCEPTION_EXECUTE_HANDLER;
+    });
 }

@@ -24,11 +24,14 @@ constexpr FatalException FatalExceptions[] = {{EXCEPTION_ACCESS_VIOLATION, "a wr
                                               {EXCEPTION_FLT_DIVIDE_BY_ZERO, "a wrong calculation"},
                                               {EXCEPTION_ILLEGAL_INSTRUCTION, "a wrong instruction"}};
 constexpr DWORD Abort = 0;
-constexpr ULONG StackBytes = 64 * 1024;
+constexpr DWORD LongestReport = 10000; // milliseconds
 bool isInstalled = false;
 wchar_t reportPath[4096];
 LPTOP_LEVEL_EXCEPTION_FILTER previousFilter = nullptr;
 void (*previousAbort)(int) = SIG_DFL;
+HANDLE crashed = nullptr;
+HANDLE reported = nullptr;
+EXCEPTION_POINTERS *crash = nullptr;
 
 class ReportFile final : public CrashText
 {
@@ -111,15 +114,25 @@ void writeReport(DWORD code, const void *address, const CONTEXT &context)
     report.putLastLines();
 }
 
+/// Waits beforehand in a thread of its own: where a stack has overflowed there is no room to write a report.
+DWORD WINAPI reportException(void *)
+{
+    WaitForSingleObject(crashed, INFINITE);
+    const EXCEPTION_RECORD &record = *crash->ExceptionRecord;
+    const void *address = record.NumberParameters > 1
+                              ? reinterpret_cast<const void *>(record.ExceptionInformation[1])
+                              : record.ExceptionAddress;
+    writeReport(record.ExceptionCode, address, *crash->ContextRecord);
+    SetEvent(reported);
+    return 0;
+}
+
 LONG WINAPI onException(EXCEPTION_POINTERS *exception)
 {
     // First, so that a crash in here is no loop.
     SetUnhandledExceptionFilter(previousFilter);
-    const EXCEPTION_RECORD &record = *exception->ExceptionRecord;
-    const void *address = record.NumberParameters > 1
-                              ? reinterpret_cast<const void *>(record.ExceptionInformation[1])
-                              : record.ExceptionAddress;
-    writeReport(record.ExceptionCode, address, *exception->ContextRecord);
+    crash = exception;
+    SignalObjectAndWait(crashed, reported, LongestReport, FALSE);
     return previousFilter ? previousFilter(exception) : EXCEPTION_CONTINUE_SEARCH;
 }
 
@@ -142,9 +155,11 @@ void CrashReport::install(const QString &path)
         return;
     std::wcscpy(reportPath, native.c_str());
     CrashText::prepare("\r\n");
-    // A stack that overflowed has room for the handler.
-    ULONG stackBytes = StackBytes;
-    SetThreadStackGuarantee(&stackBytes);
+    if (!crashed) {
+        crashed = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+        reported = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+        CloseHandle(CreateThread(nullptr, 0, reportException, nullptr, 0, nullptr));
+    }
     previousFilter = SetUnhandledExceptionFilter(onException);
     previousAbort = std::signal(SIGABRT, onAbort);
     isInstalled = true;

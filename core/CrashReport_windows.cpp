@@ -25,6 +25,7 @@ constexpr FatalException FatalExceptions[] = {{EXCEPTION_ACCESS_VIOLATION, "a wr
                                               {EXCEPTION_ILLEGAL_INSTRUCTION, "a wrong instruction"}};
 constexpr DWORD Abort = 0;
 constexpr DWORD LongestReport = 10000; // milliseconds
+constexpr ULONG HandlerBytes = 16 * 1024;
 bool isInstalled = false;
 wchar_t reportPath[4096];
 LPTOP_LEVEL_EXCEPTION_FILTER previousFilter = nullptr;
@@ -155,6 +156,9 @@ void CrashReport::install(const QString &path)
         return;
     std::wcscpy(reportPath, native.c_str());
     CrashText::prepare("\r\n");
+    // A stack that overflowed has room for the handler.
+    ULONG handlerBytes = HandlerBytes;
+    SetThreadStackGuarantee(&handlerBytes);
     if (!crashed) {
         crashed = CreateEventW(nullptr, FALSE, FALSE, nullptr);
         reported = CreateEventW(nullptr, FALSE, FALSE, nullptr);

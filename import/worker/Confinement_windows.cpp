@@ -9,6 +9,8 @@ void confine(int)
     // Whoever started this tells of a crash, by the code that it ends with; a message box would wait for
     // ever.
     SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX | SEM_NOOPENFILEERRORBOX);
+    ULONG room = 64 * 1024; // bytes that a full stack has left for this
+    SetThreadStackGuarantee(&room);
     SetUnhandledExceptionFilter([](EXCEPTION_POINTERS *crash) -> LONG {
         TerminateProcess(GetCurrentProcess(), crash->ExceptionRecord->ExceptionCode);
         return EXCEPTION_EXECUTE_HANDLER;

@@ -68,6 +68,8 @@ rooms() {
                 return "tool"
             if (target == "korvane-import-worker")
                 return "import/worker"
+            if (target == "korvane_drawing_resources")
+                return "resources"
             if (sub(/^korvane_/, "", target))
                 gsub("_", "/", target)
             return target

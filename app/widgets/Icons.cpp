@@ -10,6 +10,7 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPixmapCache>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -52,6 +53,12 @@ void fade(QImage &image)
     image = faded;
 }
 
+/// The style of Windows marks what is selected with a pale color, on which texts and icons stay as they are.
+bool marksPalely()
+{
+    return QApplication::style()->objectName() == QLatin1String("windowsvista");
+}
+
 class IconEngine : public QIconEngine
 {
 public:
@@ -68,6 +75,8 @@ public:
         const int side = std::min(size.width(), size.height());
         if (side <= 0)
             return {};
+        if (mode == QIcon::Selected && marksPalely())
+            mode = QIcon::Normal;
         const QPalette palette = QApplication::palette();
         const QColor &chosen = palette.color(QPalette::HighlightedText);
         const QString key = QStringLiteral("korvane %1 %2 %3 %4 %5")

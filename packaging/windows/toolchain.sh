@@ -227,6 +227,9 @@ edit_assimp() {
     cp /usr/include/stb/stb_image.h contrib/stb/
     cp -rL /usr/include/utf8cpp/. include/
     edit code/CMakeLists.txt '/^find_package\(draco CONFIG REQUIRED\)/d; /^target_link_libraries\(assimp \$\{DRACO_LIBRARIES\}\)/d'
+    # This compiler makes the libraries that others do, not those of Visual C++.
+    edit CMakeLists.txt 's/^( *if\(MSVC) OR WIN32\)/\1)/'
+    edit contrib/draco/cmake/draco_build_definitions.cmake 's/^( *if\(MSVC) OR WIN32\)/\1)/'
     edit cmake-modules/assimp-plain-config.cmake.in '/^find_package\(draco/d'
 }
 
@@ -269,7 +272,7 @@ INI
     mkdir -p "$prefix/bin"
     # The name by which the toolkit asks for it.
     cp "$cache/mesa-root/bin/opengl32.dll" "$prefix/bin/opengl32sw.dll"
-    cp "$cache"/mesa-root/bin/lib{gallium_wgl,glapi}.dll "$prefix/bin/"
+    cp "$cache/mesa-root/bin/libgallium_wgl.dll" "$prefix/bin/"
 }
 
 step qt qtbase-opensource-src

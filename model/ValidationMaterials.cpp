@@ -23,7 +23,6 @@ QString list(const QStringList &paths)
         shown << QDir::toNativeSeparators(path);
     return shown.join(QLatin1String(", "));
 }
-
 } // namespace
 
 void checkMaterials(FindingCollector &found, const QStringList &materialPaths, RecordKind surfaceKind,

@@ -86,30 +86,48 @@ ModelUpdater::Answer ModelUpdater::offer(DocumentType shown, const QString &path
         return Answer::ImportAsNew;
     if (open.returnToTyping() || (type != DocumentType::StaticMesh && m_anim.returnToTyping()))
         return Answer::Cancelled;
-    // Should a document become another one meanwhile, nothing of this is about it.
+    // The animation of a mesh that was opened just now comes a moment after it.
+    std::optional<Answer> answer;
+    while (!answer)
+        answer = ask(type, path, traces.hasRecords);
+    return *answer;
+}
+
+/// Nothing when a document that it is about has become another one meanwhile.
+std::optional<ModelUpdater::Answer> ModelUpdater::ask(DocumentType type, const QString &path, bool hasRecords)
+{
+    const Document &open = document(type);
     bool isStale = false;
     QObject watch;
-    for (Document *each : {static_cast<Document *>(&m_skinnedMesh), static_cast<Document *>(&m_anim),
-                           static_cast<Document *>(&m_staticMesh)})
+    const QVector<Document *> changed = type == DocumentType::StaticMesh
+                                            ? QVector<Document *>{&m_staticMesh}
+                                            : QVector<Document *>{&m_skinnedMesh, &m_anim};
+    for (const Document *each : changed)
         connect(each, &Document::replaced, &watch, [&isStale] { isStale = true; });
 
     ImportWorker worker;
     if (!read(worker, type, path))
         return Answer::Cancelled;
+    if (isStale)
+        return {};
     if (worker.messages().hasError()) {
         const QString reason = worker.messages().lines.constFirst().text;
         Log::info(reason);
         // What only has names like an export's may never have been one.
-        return traces.hasRecords ? complain(open, reason) : Answer::ImportAsNew;
+        return hasRecords ? complain(open, reason) : Answer::ImportAsNew;
     }
     const QString source = QFileInfo(path).fileName();
     ModelUpdateDialog dialog(source, open.fileName(), worker.update(), dialogParent());
     if (type == DocumentType::StaticMesh)
         dialog.setStatic();
+    for (const Document *each : changed)
+        connect(each, &Document::replaced, &dialog, &QDialog::reject);
     const int answer = dialog.exec();
+    if (isStale)
+        return {};
     if (answer == ModelUpdateDialog::ImportAsNew)
         return Answer::ImportAsNew;
-    if (answer != ModelUpdateDialog::Update || isStale)
+    if (answer != ModelUpdateDialog::Update)
         return Answer::Cancelled;
     if (update(worker, type, worker.update(), dialog.dropsMissing(), source)) {
         QMessageBox::warning(

@@ -4,6 +4,8 @@
 
 #include "Document.h"
 
+#include <optional>
+
 class ImportWorker;
 class QMainWindow;
 struct UpdateAccount;
@@ -34,6 +36,7 @@ signals:
 private:
     QWidget *dialogParent() const;
     Document &document(DocumentType type) const;
+    std::optional<Answer> ask(DocumentType type, const QString &path, bool hasRecords);
     Answer complain(const Document &open, const QString &reason) const;
     bool read(ImportWorker &worker, DocumentType type, const QString &path);
     bool update(const ImportWorker &worker, DocumentType type, const UpdateAccount &account,

@@ -215,6 +215,30 @@ private slots:
         QCOMPARE(stays, QStringList({"Materials", "Flags,"}));
     }
 
+    /// The animation is found and read after its mesh, which the question is already about.
+    void whatArrivesWhileItIsAskedIsAskedAbout()
+    {
+        SkinnedMesh man = triangleMan();
+        const AnimFile moves = twoBlocks();
+        ShownWindow window({m_files->save("man.skinnedmesh", man)});
+        const QString anim = m_files->save("walk.anim", moves);
+        man.vertices[0].position.setX(-90);
+        GltfSource source;
+        ImportMessages messages;
+        const QString glb = m_files->put("man.glb", exportGltf(man, &moves, {}, source, messages).glb());
+        const auto *undo = find<QAction>(window, "actionUndo");
+        const Hand::Answer animArrives = [&](QDialog *dialog) {
+            QTimer::singleShot(0, dialog, [&] { window.openFiles({anim}); });
+        };
+        const Hand::Answer update = [](QDialog *dialog) { find<QPushButton>(*dialog, "btnUpdate")->click(); };
+        Hand hand({animArrives, update});
+        withinAMinute([&] { window.openFiles({glb}); });
+        QCOMPARE(hand.seen, QStringList({"Update man.skinnedmesh", "Update man.skinnedmesh"}));
+        QCOMPARE(rootOf(window, "treeAnim"), QString("walk.anim"));
+        find<QTabWidget>(window, "tabTrees")->setCurrentIndex(0); // what arrives comes to the front
+        QCOMPARE(undo->text(), QString("&Undo Update from man.glb"));
+    }
+
     void anUpdateThatFailsSaysWhy()
     {
         const auto put = [this](const char *name, const QByteArray &text) {

@@ -43,6 +43,12 @@ key() { "$wine" reg query "HKCU\\$1" >>"$log" 2>&1 </dev/null; }
 # User data: everything in the profile but where programs are.
 profile() { (cd "$WINEPREFIX/drive_c/users" && find . -type f -path '*Korvane*' ! -path '*/Programs/*' | sort); }
 
+# settings FILE: what the program would ask for at its first start.
+settings() {
+    mkdir -p "$(dirname "$1")"
+    printf '[General]\nGamePath=Z:%s/game\nOutputDir=Z:%s/mod\nUpdates=false\n' "$samples" "$samples" >"$1"
+}
+
 # window PROGRAM FILE: the program comes up with the file, and ends when its window is closed.
 window() {
     local name program
@@ -86,14 +92,21 @@ expect 0 "$wine" "$installed/korvane-tool.exe" import --static -o "$root" "$root
 expect 0 "$wine" "$installed/korvane-tool.exe" info "$root/triangle.staticmesh"
 
 say "korvane opens its window with a file"
+stored=${installed%/Local/*}/Roaming/Korvane/Korvane.ini
+settings "$stored"
 window "$installed/korvane.exe" "$model"
+grep -q RecentFiles "$stored" || die "no file is remembered in $stored"
 
 say "uninstalls, and leaves what is the user's"
 before=$(profile)
-[[ -n $before ]] || die "the program has stored nothing"
-expect 0 "$wine" "$installed/uninstall.exe" /S "_?=Z:${installed//\//\\}"
-[[ $(profile) == "$before" ]] || die "data of the user is gone: $(diff <(profile) <(echo "$before"))"
+# It goes on as a copy of itself, so that it can remove itself.
+expect 0 "$wine" "$installed/uninstall.exe" /S
+for _ in {1..300}; do
+    [[ -e $installed ]] || break
+    sleep 0.2
+done
 [[ ! -e $installed ]] || die "left behind: $(ls "$installed")"
+[[ $(profile) == "$before" ]] || die "data of the user is gone: $(diff <(profile) <(echo "$before"))"
 ! key "Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Korvane" || die "the list of programs still has it"
 ! key "Software\\Classes\\Korvane.skinnedmesh" || die "the file types still have it"
 
@@ -101,6 +114,7 @@ say "runs out of the zip, with its settings beside it"
 mkdir "$root/an ünzipped folder"
 unzip -q "$zip_file" -d "$root/an ünzipped folder"
 unzipped=$(echo "$root/an ünzipped folder"/Korvane-*)
+settings "$unzipped/data/Korvane/Korvane.ini"
 window "$unzipped/korvane.exe" "$model"
-[[ -n $(find "$unzipped/data" -type f) ]] || die "there are no settings beside the program"
+grep -q RecentFiles "$unzipped/data/Korvane/Korvane.ini" || die "no file is remembered beside the program"
 [[ $(profile) == "$before" ]] || die "and some in the profile: $(diff <(profile) <(echo "$before"))"

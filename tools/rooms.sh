@@ -68,7 +68,7 @@ rooms() {
                 return "tool"
             if (target == "korvane-import-worker")
                 return "import/worker"
-            if (target == "korvane_drawing_resources")
+            if (target == "korvane_drawing_resources" || target == "korvane_tutorials")
                 return "resources"
             if (sub(/^korvane_/, "", target))
                 gsub("_", "/", target)

@@ -130,15 +130,27 @@ void Document::replace(const QString &path, const QString &unsavedName, const Fi
 
 bool Document::save(const QString &path, QString *reason)
 {
-    if (writeModel(path, reason))
-        return true;
-    m_path = path;
-    m_fileStamp = FileStamp::of(path);
-    m_changedDirectly = false;
+    const std::shared_ptr<SavedFile> file = writer(path)();
+    if (reason)
+        *reason = file->reason;
+    if (!file->isFailed)
+        noteSaved(*file);
+    return file->isFailed;
+}
+
+void Document::noteSaved(const SavedFile &file)
+{
+    takeNames(file.names);
+    m_path = file.path;
+    m_fileStamp = file.stamp;
     m_wasClean = false;
-    m_undoStack.setClean();
+    if (file.change == m_change) {
+        m_changedDirectly = false;
+        m_undoStack.setClean();
+    } else {
+        m_undoStack.resetClean(); // no step leads to what is in the file
+    }
     emit saved();
-    return false;
 }
 
 QStringList Document::refusedTyping() const
@@ -187,6 +199,7 @@ void Document::changedDirectly(const StructureChange &change)
 void Document::flushChanges()
 {
     m_wasClean = false;
+    ++m_change;
     const auto structures = std::exchange(m_structureChanges, {});
     const auto records = std::exchange(m_changes, {});
     if (!structures.isEmpty())
@@ -304,12 +317,8 @@ Document::Reader ModelDocument<Model>::reader(const QString &path) const
 {
     auto prepare = m_preparation ? m_preparation() : std::function<std::any(const Model &)>();
     return [path, prepare = std::move(prepare)](ReadProgress &progress) {
-        HeldLog log;
         auto file = std::make_shared<LoadedModel<Model>>();
-        file->read(path, progress);
-        if (!file->isFailed && prepare && !progress.isCancelled)
-            file->prepared = prepare(file->model);
-        file->lines = log.lines;
+        file->read(path, prepare, progress);
         return file;
     };
 }
@@ -341,20 +350,23 @@ bool ModelDocument<Model>::readDraft(const QByteArray &bytes, const QString &pat
 }
 
 template <typename Model>
-bool ModelDocument<Model>::writeModel(const QString &path, QString *reason)
+Document::Writer ModelDocument<Model>::writer(const QString &path) const
 {
-    if constexpr (std::is_same_v<Model, SkinnedMesh>) {
-        const QString failure = m_names.write(path, m_model);
-        if (!failure.isEmpty()) {
-            if (reason)
-                *reason = failure;
-            return true;
-        }
-    }
-    if (m_model.write(path, reason))
-        return true;
+    auto file = std::make_shared<SavedFile>();
+    file->path = path;
+    file->names = m_names;
+    file->change = change();
+    return [file, model = std::make_shared<const Model>(m_model)] {
+        writeSaved(*file, *model);
+        return file;
+    };
+}
+
+template <typename Model>
+void ModelDocument<Model>::takeNames(const NamesFile &names)
+{
+    m_names = names;
     m_model.bytesBehind = 0;
-    return false;
 }
 
 template <typename Model>

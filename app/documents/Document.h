@@ -64,6 +64,11 @@ public:
     /// Writes the model; on success the document has that path and its undo stack is clean. Returns true on
     /// failure, with nothing changed; `reason`, if given, then says why.
     [[nodiscard]] bool save(const QString &path, QString *reason = nullptr);
+    /// The two halves of that. What writes has a copy of the model and may be called in any thread, once; the
+    /// document goes on as it is until it is told of a success. What was changed meanwhile stays unsaved.
+    using Writer = std::function<std::shared_ptr<SavedFile>()>;
+    virtual Writer writer(const QString &path) const = 0;
+    void noteSaved(const SavedFile &file);
     /// The bytes that save() would write, or, of a model that cannot be saved as it stands, the nearest ones
     /// that can be read back. Names that would go into a file of their own follow behind.
     virtual std::vector<uchar> draft() const = 0;
@@ -135,7 +140,9 @@ protected:
     /// returns true on failure.
     virtual bool readDraft(const QByteArray &bytes, const QString &path) = 0;
     virtual void adoptModel() = 0;
-    virtual bool writeModel(const QString &path, QString *reason) = 0;
+    /// Takes over what is known of the names beside the model that was written.
+    virtual void takeNames(const NamesFile &names) = 0;
+    int change() const { return m_change; }
     const SkinnedMesh *namingMesh() const { return m_namingMesh; }
 
 private:
@@ -143,6 +150,7 @@ private:
     const RecordKind m_rootKind;
     bool m_open = false;
     bool m_changedDirectly = false;
+    int m_change = 0; ///< the number of the last
     FileStamp m_fileStamp;
     bool m_wasClean = false; ///< when the file went, and still was since
     QString m_path;
@@ -168,6 +176,7 @@ public:
     EditTarget<Model> editTarget() { return {m_model, *this}; }
 
     Reader reader(const QString &path) const override;
+    Writer writer(const QString &path) const override;
     /// What is to be made of each model that is read. Called before, it gives what is then called with the
     /// model in the thread that reads.
     using Preparation = std::function<std::function<std::any(const Model &)>()>;
@@ -196,7 +205,7 @@ protected:
     {
         Background::discard(std::exchange(m_model, std::exchange(m_fresh, Model())));
     }
-    bool writeModel(const QString &path, QString *reason) override;
+    void takeNames(const NamesFile &names) override;
 
 private:
     Model m_model;

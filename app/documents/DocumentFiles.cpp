@@ -41,6 +41,7 @@ DocumentFiles::DocumentFiles(const std::array<Document *, 3> &documents, QWidget
         const DocumentType type = kind.type;
         m_loaders[size_t(type)] = new DocumentLoader(
             *document(type), [this, type] { return mayReplace(type); }, this);
+        m_savers[size_t(type)] = new DocumentSaver(*document(type), this);
         connect(document(type)->undoStack(), &QUndoStack::indexChanged, this,
                 [this, type] { m_isChanged[size_t(type)] = true; });
     }
@@ -84,10 +85,13 @@ void DocumentFiles::setPatience(int milliseconds)
 {
     for (DocumentLoader *each : m_loaders)
         each->setPatience(milliseconds);
+    for (DocumentSaver *each : m_savers)
+        each->setPatience(milliseconds);
 }
 
 void DocumentFiles::load(DocumentType type, const QString &path, const Then &then)
 {
+    finishSaving(type);
     m_isChanged[size_t(type)] = false;
     loader(type).load(path, [this, type, path, then](Outcome outcome, const QString &reason) {
         if (outcome == Outcome::Failed)
@@ -112,6 +116,7 @@ void DocumentFiles::tellUnread(DocumentType type, const QString &path, const QSt
 /// Whoever has gone on with the document while another was read is asked about that.
 bool DocumentFiles::mayReplace(DocumentType type)
 {
+    finishSaving(type);
     return settleTyping(type) && (!m_isChanged[size_t(type)] || promptUnsaved(type));
 }
 
@@ -130,21 +135,21 @@ void DocumentFiles::openChosen(DocumentType type)
 
 bool DocumentFiles::save(DocumentType type)
 {
-    if (!document(type)->isOpen() || document(type)->returnToTyping())
+    if (!isReadyToSave(type))
         return true;
     return saveTo(type, targetOfSave(type));
 }
 
 bool DocumentFiles::saveAs(DocumentType type)
 {
-    if (!document(type)->isOpen() || document(type)->returnToTyping())
+    if (!isReadyToSave(type))
         return true;
     return saveTo(type, chooseTarget(type));
 }
 
 bool DocumentFiles::saveToMod(DocumentType type)
 {
-    if (!document(type)->isOpen() || document(type)->returnToTyping())
+    if (!isReadyToSave(type))
         return true;
     const QString path = SaveGuard::modPath(document(type)->path());
     return path.isEmpty() ? saveAs(type) : saveTo(type, m_guard.intoMod(*document(type), path));
@@ -155,13 +160,36 @@ void DocumentFiles::saveAll()
     if (std::any_of(m_documents.begin(), m_documents.end(),
                     [](Document *each) { return each->returnToTyping(); }))
         return;
-    QVector<FailedSave> failures;
+    finishAllSaving();
+    const auto saves = std::make_shared<Saves>();
+    ++saves->pending; // until all have begun
     for (const DocumentKind &kind : documentKinds()) {
         const QString path = hasUnsavedWork(kind.type) ? targetOfSave(kind.type) : QString();
         if (!path.isEmpty())
-            write(kind.type, path, failures);
+            write(kind.type, path, saves);
     }
-    warnOfFailedSaves(m_window, failures);
+    endSave(saves);
+}
+
+/// A save that is under way comes first: the questions of the next one are about what it leaves.
+bool DocumentFiles::isReadyToSave(DocumentType type)
+{
+    if (!document(type)->isOpen())
+        return false;
+    finishSaving(type);
+    return !document(type)->returnToTyping();
+}
+
+bool DocumentFiles::finishSaving(DocumentType type)
+{
+    m_savers[size_t(type)]->finish();
+    return m_hasFailed[size_t(type)];
+}
+
+void DocumentFiles::finishAllSaving()
+{
+    for (DocumentSaver *each : m_savers)
+        each->finish();
 }
 
 bool DocumentFiles::hasUnsavedWork(DocumentType type) const
@@ -221,7 +249,8 @@ bool DocumentFiles::promptUnsaved(DocumentType type, QEvent *event)
         QMessageBox::question(m_window, tr("Unsaved changes"), text,
                               QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
     // A save that fails, or is given up, must not lose the changes: it counts as Cancel.
-    const bool goOn = answer == QMessageBox::No || (answer == QMessageBox::Yes && !save(type));
+    const bool goOn =
+        answer == QMessageBox::No || (answer == QMessageBox::Yes && !save(type) && !finishSaving(type));
     if (!goOn && event)
         event->ignore();
     return goOn;
@@ -229,22 +258,33 @@ bool DocumentFiles::promptUnsaved(DocumentType type, QEvent *event)
 
 bool DocumentFiles::saveTo(DocumentType type, const QString &path)
 {
-    QVector<FailedSave> failures;
-    if (!path.isEmpty())
-        write(type, path, failures);
-    warnOfFailedSaves(m_window, failures);
-    return path.isEmpty() || !failures.isEmpty();
+    if (path.isEmpty())
+        return true;
+    const auto saves = std::make_shared<Saves>();
+    write(type, path, saves);
+    return m_hasFailed[size_t(type)];
 }
 
-void DocumentFiles::write(DocumentType type, const QString &path, QVector<FailedSave> &failures)
+void DocumentFiles::write(DocumentType type, const QString &path, const std::shared_ptr<Saves> &saves)
 {
-    QString reason;
-    if (!document(type)->save(path, &reason)) {
-        emit saved(type);
-        return;
-    }
-    Log::error(tr("[Save] '%1': %2").arg(QDir::toNativeSeparators(path), reason));
-    failures.append({path, reason});
+    ++saves->pending;
+    m_hasFailed[size_t(type)] = false;
+    m_savers[size_t(type)]->save(path, [this, type, path, saves](bool isFailed, const QString &reason) {
+        m_hasFailed[size_t(type)] = isFailed;
+        if (isFailed) {
+            Log::error(tr("[Save] '%1': %2").arg(QDir::toNativeSeparators(path), reason));
+            saves->failures.append({path, reason});
+        } else {
+            emit saved(type);
+        }
+        endSave(saves);
+    });
+}
+
+void DocumentFiles::endSave(const std::shared_ptr<Saves> &saves)
+{
+    if (--saves->pending == 0)
+        warnOfFailedSaves(m_window, saves->failures);
 }
 
 bool DocumentFiles::settleTyping(DocumentType type)

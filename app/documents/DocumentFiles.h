@@ -3,6 +3,7 @@
 #pragma once
 
 #include "DocumentLoader.h"
+#include "DocumentSaver.h"
 #include "SaveGuard.h"
 #include "SavePath.h"
 
@@ -44,13 +45,19 @@ public:
 
     /// Saves to the document's file, or to a chosen one when it has none yet. Returns true when the document
     /// was not saved: after a failure, which was then said, because the user thought better of it, or because
-    /// something is typed that cannot be stored, whose field has the keys then.
+    /// something is typed that cannot be stored, whose field has the keys then. What takes longer is written
+    /// beside the window; see finishSaving().
     bool save(DocumentType type);
     bool saveAs(DocumentType type);
     /// Saves a document of the game folder at the same place of the mod folder; others as saveAs().
     bool saveToMod(DocumentType type);
     /// Saves every document with unsaved work, in the order of their kinds. What failed is told at the end.
     void saveAll();
+
+    /// Waits until what is being saved is there. Returns true when the last save of the document has failed,
+    /// after saying so.
+    bool finishSaving(DocumentType type);
+    void finishAllSaving();
 
     /// Asks whether unsaved work shall be saved before the document is replaced. Returns true when the
     /// replacement may go on; otherwise `event`, if given, is marked ignored.
@@ -80,15 +87,25 @@ private:
     void load(DocumentType type, const QString &path, const Then &then);
     void tellUnread(DocumentType type, const QString &path, const QString &reason);
     bool mayReplace(DocumentType type);
+    bool isReadyToSave(DocumentType type);
     bool hasUnsavedWork(DocumentType type) const;
     QString targetOfSave(DocumentType type);
     QString chooseTarget(DocumentType type);
     bool saveTo(DocumentType type, const QString &path);
-    void write(DocumentType type, const QString &path, QVector<FailedSave> &failures);
+    /// Saves that are told of together.
+    struct Saves
+    {
+        int pending = 0;
+        QVector<FailedSave> failures;
+    };
+    void write(DocumentType type, const QString &path, const std::shared_ptr<Saves> &saves);
+    void endSave(const std::shared_ptr<Saves> &saves);
 
     std::array<Document *, 3> m_documents;
     std::array<DocumentLoader *, 3> m_loaders;
+    std::array<DocumentSaver *, 3> m_savers;
     std::array<bool, 3> m_isChanged{}; ///< since a load began
+    std::array<bool, 3> m_hasFailed{}; ///< the last save
     Document *m_current = nullptr;
     QWidget *m_window;
     SaveGuard m_guard;

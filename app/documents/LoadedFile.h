@@ -4,6 +4,7 @@
 
 #include "FileStamp.h"
 #include "Log.h"
+#include "NamesFile.h"
 
 #include <any>
 
@@ -18,4 +19,15 @@ struct LoadedFile
     QString reason;         ///< of a failure; empty when the file could not be opened
     QVector<LogLine> lines; ///< what there is to say of it
     std::any prepared;      ///< see Document::takePrepared()
+};
+
+/// A file as it was written of a document, which does not know of it yet.
+struct SavedFile
+{
+    QString path;
+    FileStamp stamp;
+    bool isFailed = false;
+    QString reason;  ///< of a failure
+    NamesFile names; ///< of a skinned mesh
+    int change = 0;  ///< the document's last when it was copied
 };

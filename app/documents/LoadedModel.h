@@ -9,6 +9,8 @@
 
 #include <QCoreApplication>
 
+#include <functional>
+
 /// The file of a model, with what stands beside it.
 template <typename Model>
 struct LoadedModel : LoadedFile
@@ -16,8 +18,11 @@ struct LoadedModel : LoadedFile
     Model model;
     NamesFile names; ///< of a skinned mesh
 
-    void read(const QString &from, ReadProgress &progress)
+    /// `prepare`, if given, makes what is prepared.
+    void read(const QString &from, const std::function<std::any(const Model &)> &prepare,
+              ReadProgress &progress)
     {
+        HeldLog log;
         path = from;
         // Before reading: what another program writes meanwhile must not pass as known.
         stamp = FileStamp::of(path);
@@ -27,6 +32,9 @@ struct LoadedModel : LoadedFile
         reason = reader.errorText();
         if (!isFailed)
             complete();
+        if (!isFailed && prepare && !progress.isCancelled)
+            prepared = prepare(model);
+        lines = log.lines;
     }
 
 private:
@@ -42,3 +50,13 @@ private:
         }
     }
 };
+
+/// Writes a model, with what goes beside it, to `file.path`.
+template <typename Model>
+void writeSaved(SavedFile &file, const Model &model)
+{
+    if constexpr (std::is_same_v<Model, SkinnedMesh>)
+        file.reason = file.names.write(file.path, model);
+    file.isFailed = !file.reason.isEmpty() || model.write(file.path, &file.reason);
+    file.stamp = FileStamp::of(file.path);
+}

@@ -48,7 +48,8 @@ void Recovery::watch(Track &track)
     connect(document, &Document::replaced, this, [this, &track] { noteChange(track); });
     connect(document, &Document::recordsChanged, this, [this, &track] { noteChange(track); });
     connect(document, &Document::structuresChanged, this, [this, &track] { noteChange(track); });
-    connect(document, &Document::saved, this, [this, &track] { forget(track); });
+    // Unless it was changed while it was written.
+    connect(document, &Document::saved, this, [this, &track] { noteChange(track); });
     connect(track.document->undoStack(), &QUndoStack::cleanChanged, this,
             [this, &track] { noteChange(track); });
 }

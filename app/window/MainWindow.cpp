@@ -262,6 +262,7 @@ void MainWindow::paintEvent(QPaintEvent *event)
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     m_files->finishAllTyping();
+    m_files->finishAllSaving();
     m_layout->store();
     QMainWindow::closeEvent(event);
 }

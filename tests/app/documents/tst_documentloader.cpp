@@ -147,6 +147,48 @@ private slots:
         QCOMPARE(shown(), int('a'));
     }
 
+    void aSaveIsDoneWhenTheFileIsThere()
+    {
+        Settings::GamePath.setValue(QString());
+        const auto save = [this] { return m_run->files.save(DocumentType::SkinnedMesh); };
+        const auto inFile = [this] {
+            SkinnedMesh mesh;
+            return mesh.read(path("a")) ? -1 : mesh.headTrackFactor;
+        };
+        m_run->edit(5);
+        QVERIFY(!save() && m_run->mesh.isModified());
+        QTRY_VERIFY(!m_run->mesh.isModified());
+        QCOMPARE(inFile(), 5);
+        // What is changed meanwhile is in no file, and no step leads back to what is.
+        m_run->edit(6);
+        QVERIFY(!save());
+        m_run->edit(7);
+        m_run->files.finishAllSaving();
+        QCOMPARE(inFile(), 6);
+        QVERIFY(m_run->mesh.isModified() && m_run->mesh.differsFromFile());
+        m_run->mesh.undoStack()->undo();
+        QVERIFY(m_run->mesh.isModified());
+        // One save after another; what replaces the model waits for them.
+        QVERIFY(!save());
+        m_run->edit(8);
+        QVERIFY(!save());
+        m_run->mesh.take(SampleModels::plainMesh(), "taken");
+        QCOMPARE(inFile(), 8);
+        QVERIFY(m_run->mesh.path().isEmpty());
+    }
+
+    void aFailedSaveLeavesTheDocumentModified()
+    {
+        Settings::GamePath.setValue(QString());
+        m_run->edit(5);
+        QVERIFY(QFile::remove(path("a")) && QDir().mkpath(path("a")));
+        Hand hand({Hand::press(QMessageBox::Ok)});
+        m_run->files.save(DocumentType::SkinnedMesh);
+        QVERIFY(m_run->files.finishSaving(DocumentType::SkinnedMesh));
+        QCOMPARE(hand.seen.size(), 1);
+        QVERIFY(m_run->mesh.isModified() && m_run->mesh.path() == path("a"));
+    }
+
 private:
     QString path(const char *name) const { return m_folder->path(QString("%1.skinnedmesh").arg(name)); }
     DocumentLoader &loader() { return m_run->files.loader(DocumentType::SkinnedMesh); }

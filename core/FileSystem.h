@@ -29,8 +29,14 @@ bool isDevice(const QFileInfo &file);
 /// Has the device take what was written to an open file. Returns how it failed; empty when nothing was lost.
 [[nodiscard]] QString flush(QFileDevice &file);
 
-/// The programs that hold a file open so that no other can be put in its place, by their names as far as the
-/// system tells them; none when it can be replaced. One that looks at each new file for a moment, as virus
-/// scanners do, is waited for, a second at most.
-std::optional<QStringList> holders(const QString &path);
+/// A file that could not take the place of another.
+struct KeptBeside
+{
+    QString path;
+    QStringList holders; ///< programs that hold the other one open, as far as the system tells
+};
+/// Copies what was written to a file that is to replace `target`, to a new name beside that one, if another
+/// program holds it open so that it cannot be replaced; none when it can. One that looks at each new file for
+/// a moment, as virus scanners do, is waited for, a second at most.
+std::optional<KeptBeside> keepBeside(QFileDevice &written, const QString &target);
 } // namespace FileSystem

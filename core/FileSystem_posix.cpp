@@ -36,7 +36,7 @@ QString FileSystem::flush(QFileDevice &file)
     return fsync(file.handle()) != 0 && isLoss(errno) ? qt_error_string() : QString();
 }
 
-std::optional<QStringList> FileSystem::holders(const QString &)
+std::optional<FileSystem::KeptBeside> FileSystem::keepBeside(QFileDevice &, const QString &)
 {
     return {}; // another file takes the name, whoever holds the old one
 }

@@ -5,7 +5,8 @@
 #include "FileNames.h"
 #include "NativePath_windows.h"
 
-#include <QFileDevice>
+#include <QElapsedTimer>
+#include <QFile>
 #include <QFileInfo>
 
 #include <windows.h>
@@ -18,12 +19,13 @@
 namespace {
 constexpr int Patience = 1000; // milliseconds
 constexpr int Pause = 50;
+constexpr DWORD BlockBytes = 64 * 1024;
 
 bool isHeldOpen(const std::wstring &path)
 {
+    // Who lets it be deleted does not let it be replaced, either.
     const HANDLE file =
-        CreateFileW(path.c_str(), DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+        CreateFileW(path.c_str(), DELETE, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return GetLastError() == ERROR_SHARING_VIOLATION;
     CloseHandle(file);
@@ -54,6 +56,37 @@ QStringList programsWith(const QString &path)
     names.removeDuplicates();
     return names;
 }
+/// "knight.new.anim" beside "knight.anim".
+QString freeName(const QString &path)
+{
+    const QFileInfo parts(path);
+    const QString suffix = parts.suffix().isEmpty() ? QString() : QLatin1Char('.') + parts.suffix();
+    QString name;
+    for (int number = 1; name.isEmpty() || QFileInfo::exists(name); ++number)
+        name = QStringLiteral("%1/%2.new%3%4")
+                   .arg(parts.path(), parts.completeBaseName(),
+                        number == 1 ? QString() : QString::number(number), suffix);
+    return name;
+}
+
+/// By the handle: a file that waits to replace another lets nobody open it. Returns whether all was copied.
+bool copyBytes(QFileDevice &written, const QString &path)
+{
+    const auto from = HANDLE(_get_osfhandle(written.handle()));
+    QFile to(path);
+    if (from == INVALID_HANDLE_VALUE || SetFilePointer(from, 0, nullptr, FILE_BEGIN) != 0 ||
+        !to.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
+        return false;
+    std::vector<char> block(BlockBytes);
+    DWORD size = 0;
+    bool isWhole = true;
+    while (isWhole && (isWhole = ReadFile(from, block.data(), BlockBytes, &size, nullptr)) && size > 0)
+        isWhole = to.write(block.data(), qint64(size)) == qint64(size);
+    if (isWhole && FileSystem::flush(to).isEmpty())
+        return true;
+    to.remove();
+    return false;
+}
 } // namespace
 
 QString FileSystem::comparable(const QString &path)
@@ -83,13 +116,18 @@ QString FileSystem::flush(QFileDevice &file)
     return isLoss ? qt_error_string(int(error)) : QString();
 }
 
-std::optional<QStringList> FileSystem::holders(const QString &path)
+std::optional<FileSystem::KeptBeside> FileSystem::keepBeside(QFileDevice &written, const QString &target)
 {
-    const std::wstring native = nativePath(path);
-    for (int waited = 0; isHeldOpen(native); waited += Pause) {
-        if (waited >= Patience)
-            return programsWith(path);
+    const std::wstring native = nativePath(target);
+    // Many files may be held at once, as by the game: one wait does for all.
+    static QElapsedTimer lastWait;
+    const bool waits = !lastWait.isValid() || lastWait.elapsed() > 10 * Patience;
+    int waited = 0;
+    for (; isHeldOpen(native) && waits && waited < Patience; waited += Pause)
         Sleep(Pause);
-    }
-    return {};
+    if (!isHeldOpen(native))
+        return {};
+    lastWait.start();
+    KeptBeside kept{freeName(target), programsWith(target)};
+    return copyBytes(written, kept.path) ? std::optional(kept) : std::nullopt;
 }

@@ -3,6 +3,7 @@
 #include "WholeFile.h"
 
 #include "FileSystem.h"
+#include "Log.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -19,8 +20,6 @@ bool WholeFile::open()
     if (FileSystem::isDevice(QFileInfo(m_file.fileName())))
         return fail(QCoreApplication::translate(
             "WholeFile", "This is a device or a pipe, which would be replaced by a file."));
-    if (const auto holders = FileSystem::holders(m_file.fileName()))
-        writeBeside(*holders);
     // Unbuffered: commit() of the toolkit does not notice a failure to write out what is still in a buffer.
     return !m_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && fail(m_file.errorString());
 }
@@ -48,29 +47,28 @@ bool WholeFile::commit()
     const QString loss = FileSystem::flush(m_file);
     if (!loss.isEmpty())
         return fail(loss);
-    return (!m_file.commit() && fail(m_file.errorString())) || (!m_held.isEmpty() && fail(m_held));
+    if (const auto kept = FileSystem::keepBeside(m_file, m_file.fileName()))
+        return failHeld(kept->holders, kept->path);
+    return !m_file.commit() && fail(m_file.errorString());
 }
 
-void WholeFile::writeBeside(const QStringList &holders)
+bool WholeFile::failHeld(const QStringList &holders, const QString &beside)
 {
-    const QFileInfo parts(m_file.fileName());
-    const QString suffix = parts.suffix().isEmpty() ? QString() : QLatin1Char('.') + parts.suffix();
-    QString beside;
-    for (int number = 1; beside.isEmpty() || QFileInfo::exists(beside); ++number)
-        beside = QStringLiteral("%1/%2.new%3%4")
-                     .arg(parts.path(), parts.completeBaseName(),
-                          number == 1 ? QString() : QString::number(number), suffix);
-    m_file.setFileName(beside);
-    const QString kept = QDir::toNativeSeparators(beside);
-    m_held = holders.isEmpty()
-                 ? QCoreApplication::translate(
-                       "WholeFile", "Another program holds it open, so it cannot be replaced. What "
-                                    "was to be saved stands in '%1'.")
-                       .arg(kept)
-                 : QCoreApplication::translate("WholeFile",
-                                               "%1 holds it open, so it cannot be replaced. What was to be "
-                                               "saved stands in '%2'.")
-                       .arg(holders.join(QStringLiteral(", ")), kept);
+    const QString path = QDir::toNativeSeparators(beside);
+    const QString reason =
+        holders.isEmpty()
+            ? QCoreApplication::translate("WholeFile",
+                                          "Another program holds it open, so it cannot be replaced. "
+                                          "What was to be saved stands in '%1'.")
+                  .arg(path)
+            : QCoreApplication::translate("WholeFile",
+                                          "It is held open by %1 and cannot be replaced. What was "
+                                          "to be saved stands in '%2'.")
+                  .arg(holders.join(QStringLiteral(", ")), path);
+    // Not everybody who writes files has a place for the reason.
+    Log::warning(QStringLiteral("'%1': %2").arg(QDir::toNativeSeparators(m_file.fileName()), reason));
+    m_file.cancelWriting();
+    return fail(reason);
 }
 
 bool WholeFile::fail(const QString &reason)

@@ -26,10 +26,9 @@ public:
 
 private:
     bool fail(const QString &reason);
-    void writeBeside(const QStringList &holders);
+    bool failHeld(const QStringList &holders, const QString &beside);
 
     QSaveFile m_file;
-    QString m_held; ///< why the file is written under another name; empty when it is not
     QString m_reason;
 };
 

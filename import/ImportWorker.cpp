@@ -122,8 +122,7 @@ void ImportWorker::onProcessFinished(int exitCode, QProcess::ExitStatus status)
 {
     if (!m_stopReason.isEmpty())
         finish(m_stopReason);
-    else if (status == QProcess::CrashExit || (exitCode != EXIT_SUCCESS && exitCode != EXIT_FAILURE))
-        // Not everywhere is what gives up, or is ended by its limits, told from what ends.
+    else if (status == QProcess::CrashExit || ProcessBounds::isCrash(exitCode))
         finish(tr("The process that reads foreign files crashed on it."));
     else if (exitCode != EXIT_SUCCESS || WorkerFolder(m_folder->path()).read(m_answer))
         finish(tr("The process that reads foreign files gave no answer."));

@@ -16,6 +16,9 @@ public:
     void prepare(QProcess &process);
     /// Lets a process begin that has just been started, if it was. Of processor time it gets `milliseconds`.
     void take(const QProcess &process, int memoryLimitMiB, qint64 milliseconds);
+    /// Whether a process that ended with this code crashed, where the system does not tell it from one that
+    /// ends.
+    static bool isCrash(int exitCode);
 
 private:
     struct Job;

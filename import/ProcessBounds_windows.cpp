@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include <cstdlib>
+
 struct ProcessBounds::Job
 {
     Job() = default;
@@ -51,7 +53,19 @@ void ProcessBounds::take(const QProcess &process, int memoryLimitMiB, qint64 mil
         limits.ProcessMemoryLimit = SIZE_T(memoryLimitMiB) * 1024 * 1024;
     }
     m_job->handle = CreateJobObjectW(nullptr, nullptr);
-    SetInformationJobObject(m_job->handle, JobObjectExtendedLimitInformation, &limits, sizeof limits);
-    AssignProcessToJobObject(m_job->handle, m_job->started->hProcess);
-    ResumeThread(m_job->started->hThread);
+    const bool isBound =
+        m_job->handle &&
+        SetInformationJobObject(m_job->handle, JobObjectExtendedLimitInformation, &limits, sizeof limits) &&
+        AssignProcessToJobObject(m_job->handle, m_job->started->hProcess);
+    // Without its limits it could take all there is.
+    if (isBound)
+        ResumeThread(m_job->started->hThread);
+    else
+        TerminateProcess(m_job->started->hProcess, EXIT_FAILURE);
+}
+
+bool ProcessBounds::isCrash(int exitCode)
+{
+    constexpr int Abort = 3;
+    return exitCode == Abort || exitCode == ERROR_NOT_ENOUGH_QUOTA; // the job's end of time
 }

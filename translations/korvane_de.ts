@@ -7194,8 +7194,8 @@ So lassen?</translation>
         <translation>Ein anderes Programm hält sie offen, deshalb kann sie nicht ersetzt werden. Was gespeichert werden sollte, steht in „%1“.</translation>
     </message>
     <message>
-        <source>%1 holds it open, so it cannot be replaced. What was to be saved stands in &apos;%2&apos;.</source>
-        <translation>%1 hält sie offen, deshalb kann sie nicht ersetzt werden. Was gespeichert werden sollte, steht in „%2“.</translation>
+        <source>It is held open by %1 and cannot be replaced. What was to be saved stands in &apos;%2&apos;.</source>
+        <translation>Offen gehalten von %1, deshalb kann sie nicht ersetzt werden. Was gespeichert werden sollte, steht in „%2“.</translation>
     </message>
 </context>
 </TS>

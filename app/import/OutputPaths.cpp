@@ -78,7 +78,8 @@ void OutputPaths::takeKMatPath()
     const QString typed = QDir::fromNativeSeparators(m_ui->txtKMatPath->text());
     if (typed.isEmpty())
         m_choices->kmatPath = defaultKMatPath(m_choices->modelPath);
-    else if (typed != m_choices->kmatPath && !refusePath(typed, kmatPathProblem(typed)))
+    else if (typed != m_choices->kmatPath &&
+             !refusePath(typed, kmatPathProblem(pathInside(m_choices->modFolder, typed))))
         m_choices->kmatPath = withKMatSuffix(pathInside(m_choices->modFolder, typed));
     m_ui->txtKMatPath->setValue(nativePath(m_choices->kmatPath));
 }

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "Confinement.h"
 
-#include <csignal>
-
-#include <sys/prctl.h>
 #include <sys/resource.h>
+
+#ifdef __linux__
+#include <csignal>
+#include <sys/prctl.h>
+#endif
 
 namespace {
 /// Sanitizers reserve terabytes of address space for themselves.
@@ -20,6 +22,15 @@ constexpr bool HasMemoryLimit = true;
 #else
 constexpr bool HasMemoryLimit = true;
 #endif
+
+#ifdef __linux__
+void endWithParent()
+{
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+}
+#else
+void endWithParent() {} // no other kernel offers it
+#endif
 } // namespace
 
 void confine(int memoryLimitMiB)
@@ -30,5 +41,5 @@ void confine(int memoryLimitMiB)
         setrlimit(RLIMIT_AS, &memory);
     const rlimit noCore{0, 0};
     setrlimit(RLIMIT_CORE, &noCore);
-    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    endWithParent();
 }

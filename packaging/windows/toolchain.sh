@@ -204,6 +204,20 @@ qt_install() {
         "src/$1/Makefile.Release" | tr -d : | sort -u)
     # shellcheck disable=SC2086 # a list of names
     logged "qt-install-${1//\//-}" make -s -k -i -C "src/$1" -o first -f Makefile.Release $targets
+    # Some of these targets are about what was not built; what counts is there, or not.
+    local name=${1^} file wanted=()
+    case $1 in
+    winmain) wanted=(lib/libqtmain.a) ;;
+    plugins/*) wanted=("${1%/*}/q${1##*/}*.dll") ;;
+    *)
+        [[ $1 != corelib ]] || name=Core
+        [[ $1 != testlib ]] || name=Test
+        wanted=("bin/Qt5$name.dll" "lib/libQt5$name.a" "include/Qt$name/qt*-config.h" "lib/cmake/Qt5$name/Qt5${name}Config.cmake")
+        ;;
+    esac
+    for file in "${wanted[@]}"; do
+        compgen -G "$prefix/$file" >/dev/null || die "$1 was not installed whole, $file is not there: see $cache/log/qt-install-${1//\//-}.log"
+    done
 }
 
 # --- Assimp ------------------------------------------------------------------------------------------------

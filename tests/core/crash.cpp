@@ -6,11 +6,11 @@
 
 #include <QCoreApplication>
 
+#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-
-#include <unistd.h>
+#include <thread>
 
 #ifdef KORVANE_COVERAGE
 extern "C" void __gcov_dump();
@@ -65,7 +65,7 @@ int main(int argc, char *argv[])
         std::puts("ready");
         std::fflush(stdout);
         for (;;)
-            pause();
+            std::this_thread::sleep_for(std::chrono::hours(1));
     }
     if (way == "overflow")
         return callForEver(0);

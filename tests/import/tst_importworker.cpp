@@ -3,11 +3,10 @@
 #include "FolderLock.h"
 #include "ImportFlags.h"
 #include "ImportWorker.h"
+#include "SpecialFiles.h"
 #include "TestSupport.h"
 
 #include <cmath>
-#include <fcntl.h>
-#include <sys/stat.h>
 
 namespace {
 WorkerJob importJob(const QString &path, bool skinned)
@@ -52,7 +51,9 @@ class tst_importworker : public QObject
 private slots:
     void initTestCase()
     {
-        qputenv("TMPDIR", m_temporary.path().toUtf8());
+        // By the names that systems have for it.
+        for (const char *name : {"TMPDIR", "TEMP", "TMP"})
+            qputenv(name, QDir::toNativeSeparators(m_temporary.path()).toUtf8());
         // The worker may end in any way; what the library leaves behind then is no leak of ours.
         qputenv("ASAN_OPTIONS",
                 "detect_leaks=0:allocator_may_return_null=1:max_allocation_size_mb=4096:symbolize=0");
@@ -147,13 +148,22 @@ private slots:
 
     void workerFails()
     {
-        ImportWorker worker;
-        const QString missing = m_models.path("none");
-        for (const auto &[program, reason] :
-             {std::pair<QString, QString>(missing, "none' could not be started"),
-              {"/bin/true", "gave no answer."},
-              {"/bin/false", "gave no answer."}}) {
+        struct Case
+        {
+            QString program;
+            QByteArray status;
+            QString reason;
+        };
+        const QString idle = QStringLiteral(KORVANE_IDLE);
+        for (const auto &[program, status, reason] :
+             {Case{m_models.path("none"), "0", "none' could not be started"},
+              {idle, "0", "gave no answer."},
+              {idle, "1", "gave no answer."},
+              {idle, "3", "crashed on it."}}) {
+            qputenv("KORVANE_IDLE_STATUS", status);
+            ImportWorker worker;
             worker.setProgram(program);
+            qunsetenv("KORVANE_IDLE_STATUS");
             run(worker, importJob(QStringLiteral("/a%1/b.obj"), false));
             const QString error = errorsOf(worker.messages());
             QVERIFY2(error.startsWith(QLatin1String("/a%1/b.obj Could not read file. ")), qPrintable(error));
@@ -164,11 +174,9 @@ private slots:
 
     void cancel()
     {
-        const QString script = m_models.put("sleeper", "#!/bin/sh\nexec sleep 100\n");
-        QFile(script).setPermissions(QFile::ReadOwner | QFile::ExeOwner);
         {
             ImportWorker worker;
-            worker.setProgram(script);
+            worker.setProgram(QStringLiteral(KORVANE_IDLE));
             QSignalSpy finished(&worker, &ImportWorker::finished);
             worker.start(importJob(QStringLiteral("a.obj"), true));
             QVERIFY(worker.isRunning());
@@ -178,7 +186,7 @@ private slots:
         }
         // One that goes while its process runs takes everything with it; cleanup() looks.
         ImportWorker abandoned;
-        abandoned.setProgram(script);
+        abandoned.setProgram(QStringLiteral(KORVANE_IDLE));
         abandoned.start(importJob(QStringLiteral("a.obj"), true));
     }
 
@@ -223,9 +231,7 @@ private slots:
             const QString path = m_temporary.filePath(name);
             if (!QDir().mkpath(path + QString("/sub")) || !TestSupport::writeFile(path + "/sub/model", "x"))
                 qFatal("no folder to leave behind");
-            const timespec hourAgo{time(nullptr) - 3600, 0};
-            const timespec times[2] = {hourAgo, hourAgo};
-            if (old && utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0) != 0)
+            if (old && !SpecialFiles::makeOld(path, 3600))
                 qFatal("no time to set");
             return path;
         };

@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "LiteralFormat.h"
 #include "SampleModels.h"
+#include "SpecialFiles.h"
 #include "TestSupport.h"
 
 #include <atomic>
 #include <thread>
-
-#include <sys/stat.h>
 
 using namespace SampleModels;
 
@@ -138,8 +137,7 @@ private slots:
     void whatCannotBeOpened()
     {
         const QTemporaryDir folder;
-        const QString pipe = folder.filePath(QStringLiteral("pipe"));
-        QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        const QString pipe = SpecialFiles::pipe(folder.filePath(QStringLiteral("pipe")));
         for (const QString &path : {pipe, folder.path(), folder.filePath(QString("missing")), QString()}) {
             const BinaryFileReader reader(path);
             QVERIFY(!reader.isOpen());

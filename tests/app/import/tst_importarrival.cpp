@@ -164,10 +164,8 @@ private slots:
     {
         Settings::ImportReady.setValue(true);
         const QString model = rig();
-        const QString sleeper = m_source->put(QStringLiteral("sleeper"), "#!/bin/sh\nexec sleep 100\n");
-        QFile(sleeper).setPermissions(QFile::ReadOwner | QFile::ExeOwner);
         const QByteArray worker = qgetenv("KORVANE_IMPORT_WORKER");
-        qputenv("KORVANE_IMPORT_WORKER", sleeper.toUtf8());
+        qputenv("KORVANE_IMPORT_WORKER", KORVANE_IDLE);
         ImportDialog dialog(ImportDialog::SkinnedMeshMode);
         dialog.show();
         dialog.setModelPath(model);

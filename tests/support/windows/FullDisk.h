@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtGlobal>
+
+/// Windows knows no limit of how far a file may grow; what needs one is left out there by name.
+class FullDisk
+{
+public:
+    explicit FullDisk(qint64) {}
+    bool isSet() const { return false; }
+};

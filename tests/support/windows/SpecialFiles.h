@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDir>
+
+#include <windows.h>
+
+namespace SpecialFiles {
+/// The path of a device: pipes have no place among the files here.
+inline QString pipe(const QString &)
+{
+    return QStringLiteral("NUL");
+}
+
+/// Says of a folder that it was changed `seconds` ago.
+inline bool makeOld(const QString &folder, int seconds)
+{
+    const std::wstring path = QDir::toNativeSeparators(folder).toStdWString();
+    const HANDLE handle = CreateFileW(path.c_str(), FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                      nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    FILETIME time;
+    GetSystemTimeAsFileTime(&time);
+    ULARGE_INTEGER ticks{{time.dwLowDateTime, time.dwHighDateTime}};
+    ticks.QuadPart -= ULONGLONG(seconds) * 10000000;
+    time = {ticks.LowPart, ticks.HighPart};
+    const bool isSet = SetFileTime(handle, &time, &time, &time);
+    CloseHandle(handle);
+    return isSet;
+}
+} // namespace SpecialFiles

@@ -34,6 +34,14 @@ HANDLE crashed = nullptr;
 HANDLE reported = nullptr;
 EXCEPTION_POINTERS *crash = nullptr;
 
+bool isReadable(DWORD64 address)
+{
+    MEMORY_BASIC_INFORMATION memory{};
+    return VirtualQuery(reinterpret_cast<const void *>(address), &memory, sizeof memory) != 0 &&
+           memory.State == MEM_COMMIT && (memory.Protect & (PAGE_READWRITE | PAGE_READONLY)) != 0 &&
+           (memory.Protect & PAGE_GUARD) == 0;
+}
+
 class ReportFile final : public CrashText
 {
 public:
@@ -65,7 +73,8 @@ public:
 
     void putStack(CONTEXT context)
     {
-        for (int i = 0; i < 64 && context.Rip != 0; ++i) {
+        // A call to nowhere has no function, but a caller.
+        for (int i = 0; i < 64 && (i == 0 || context.Rip != 0); ++i) {
             putFrame(context.Rip);
             DWORD64 base = 0;
             const PRUNTIME_FUNCTION function = RtlLookupFunctionEntry(context.Rip, &base, nullptr);
@@ -74,6 +83,8 @@ public:
                 DWORD64 frame = 0;
                 RtlVirtualUnwind(UNW_FLAG_NHANDLER, base, context.Rip, function, &context, &data, &frame,
                                  nullptr);
+            } else if (!isReadable(context.Rsp)) {
+                return;
             } else {
                 // A function that calls no other, or no function at all.
                 context.Rip = *reinterpret_cast<const DWORD64 *>(context.Rsp);
@@ -110,9 +121,11 @@ void writeReport(DWORD code, const void *address, const CONTEXT &context)
         report.put(" at ");
         report.putHexadecimal(std::uintptr_t(address));
     }
+    // Of a damaged stack nothing can be read: it comes last.
+    report.putLineEnd();
+    report.putLastLines();
     report.putStackTitle();
     report.putStack(context);
-    report.putLastLines();
 }
 
 /// Waits beforehand in a thread of its own: where a stack has overflowed there is no room to write a report.
@@ -120,7 +133,9 @@ DWORD WINAPI reportException(void *)
 {
     WaitForSingleObject(crashed, INFINITE);
     const EXCEPTION_RECORD &record = *crash->ExceptionRecord;
-    const void *address = record.NumberParameters > 1
+    const bool isAccess =
+        record.ExceptionCode == EXCEPTION_ACCESS_VIOLATION || record.ExceptionCode == EXCEPTION_IN_PAGE_ERROR;
+    const void *address = isAccess && record.NumberParameters > 1
                               ? reinterpret_cast<const void *>(record.ExceptionInformation[1])
                               : record.ExceptionAddress;
     writeReport(record.ExceptionCode, address, *crash->ContextRecord);

@@ -19,8 +19,8 @@ public:
     FolderLock &operator=(const FolderLock &) = delete;
 
     bool isHeld() const { return m_file != NoFile; }
-    /// Gives the lock up and takes its file away, so that the folder can go. Nobody else gets the lock in
-    /// between.
+    /// Gives the lock up and takes its file away, so that the folder can go. Nobody else gets the lock of
+    /// this file.
     void removeFile();
 
 private:

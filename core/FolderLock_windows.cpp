@@ -33,7 +33,7 @@ void FolderLock::removeFile()
 {
     if (!isHeld())
         return;
-    // From now on nobody can open it; it goes with the handle.
+    // It goes at once, or nobody can open it until it goes with the handle.
     DeleteFileW(nativePath(m_path).c_str());
     CloseHandle(HANDLE(m_file));
     m_file = NoFile;

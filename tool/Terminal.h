@@ -9,6 +9,9 @@ namespace Terminal {
 /// Before there is an application: file names and all that is written are UTF-8, with the line ends it has.
 void prepare();
 
+/// Before an end that runs nothing of what was to be done at the end.
+void restore();
+
 /// Before there is an application that draws: lets the toolkit begin where there is no display, if it can.
 void prepareToDraw();
 

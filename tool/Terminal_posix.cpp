@@ -10,6 +10,8 @@ void Terminal::prepare()
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 }
 
+void Terminal::restore() {}
+
 void Terminal::prepareToDraw()
 {
     // Without a display this platform still answers questions for the help.

@@ -10,7 +10,7 @@
 #include <io.h>
 
 namespace {
-UINT codePageBefore = 0;
+UINT codePageBefore = 0; // none without a console
 } // namespace
 
 void Terminal::prepare()
@@ -18,9 +18,14 @@ void Terminal::prepare()
     // The console outlives the program.
     codePageBefore = GetConsoleOutputCP();
     if (codePageBefore != 0 && SetConsoleOutputCP(CP_UTF8))
-        std::atexit([] { SetConsoleOutputCP(codePageBefore); });
+        std::atexit(restore);
     _setmode(_fileno(stdout), _O_BINARY);
     _setmode(_fileno(stderr), _O_BINARY);
+}
+
+void Terminal::restore()
+{
+    SetConsoleOutputCP(codePageBefore);
 }
 
 void Terminal::prepareToDraw() {}

@@ -77,6 +77,7 @@ void toolkitMessage(QtMsgType type, const QMessageLogContext &, const QString &t
     if (type == QtFatalMsg) {
         Output::complain(QStringLiteral("render: The display cannot be used (%1). %2")
                              .arg(displayProblem, Terminal::advice()));
+        Terminal::restore();
         std::_Exit(NoScreen);
     }
     if (type == QtDebugMsg || type == QtInfoMsg)

@@ -3,6 +3,7 @@
 #include "Sound.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QFile>
 
 #include <windows.h>
@@ -15,7 +16,12 @@ void playSound(const QString &resource, QObject *)
     QFile file(resource);
     if (!file.open(QIODevice::ReadOnly))
         return;
-    PlaySoundW(nullptr, nullptr, 0);
+    // Nothing may sound any more when its bytes go.
+    const auto stop = [] { PlaySoundW(nullptr, nullptr, 0); };
+    static const QMetaObject::Connection atEnd =
+        QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, stop);
+    Q_UNUSED(atEnd)
+    stop();
     playing = file.readAll();
     PlaySoundW(reinterpret_cast<const wchar_t *>(playing.constData()), nullptr,
                SND_MEMORY | SND_ASYNC | SND_NODEFAULT);

@@ -3,6 +3,7 @@
 #include "AnimationFollower.h"
 
 #include "DocumentFiles.h"
+#include "FileSystem.h"
 #include "FolderExplorer.h"
 #include "Icons.h"
 #include "NoticeBar.h"
@@ -105,7 +106,8 @@ void AnimationFollower::search(const QString &mesh)
 
 void AnimationFollower::follow(const CompanionFile &found)
 {
-    const bool isOpen = !found.path.isEmpty() && found.path == m_files.document(DocumentType::Anim)->path();
+    const bool isOpen = !found.path.isEmpty() &&
+                        FileSystem::isSamePath(found.path, m_files.document(DocumentType::Anim)->path());
     if (isOpen)
         m_animations.selectPath(found.path);
     else if (m_sync.isChecked() && !found.path.isEmpty() && m_files.promptUnsaved(DocumentType::Anim))

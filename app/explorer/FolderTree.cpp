@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "FolderTree.h"
 
+#include "FileSystem.h"
+
 #include <QDir>
 #include <QScrollBar>
 #include <QTreeWidgetItemIterator>
@@ -248,7 +250,7 @@ FolderItem *FolderTree::findRow(const QString &path) const
     const QString wanted = QDir::cleanPath(path);
     for (QTreeWidgetItemIterator it(const_cast<FolderTree *>(this)); *it; ++it) {
         auto *item = static_cast<FolderItem *>(*it);
-        if (item->path() == wanted)
+        if (FileSystem::isSamePath(item->path(), wanted))
             return item;
     }
     return nullptr;

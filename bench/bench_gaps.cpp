@@ -2,31 +2,27 @@
 // SPDX-License-Identifier: MIT
 #include "Bench.h"
 #include "DocumentLoader.h"
-#include "ImportDialog.h"
 #include "KVOpenGLWidget.h"
 #include "LargeModels.h"
 #include "MainWindow.h"
 #include "Settings.h"
-#include "WorkerJob.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QEventLoop>
-#include <QPushButton>
 #include <QSettings>
 #include <QSurfaceFormat>
 #include <QTemporaryDir>
 #include <QTimer>
 
 #include <algorithm>
-#include <cstdlib>
 #include <ctime>
 #include <utility>
 
 // How long the window answers nobody while it works: the largest gap between two turns of its event loop,
-// while large files open and are saved, a large import arrives, and much is wrong with a model. A paint of
-// such a model is up to the graphics driver, and takes a turn by itself; how long is told beside.
+// while large files open and are saved, and much is wrong with a model. A paint of such a model is up to the
+// graphics driver; how long it takes is told beside.
 namespace {
 constexpr double Budget = 50.0; // milliseconds
 
@@ -166,34 +162,6 @@ StaticMesh manyProblems()
     return mesh;
 }
 
-/// What stands in for the program that reads foreign files: it leaves models that were ready before.
-int answerAsWorker(const QString &folder, const QString &models)
-{
-    const WorkerFolder job(folder);
-    WorkerJob asked;
-    bool failed = job.read(asked);
-    if (asked.task != WorkerJob::Task::Summarize)
-        failed = failed || !QFile::copy(models + QStringLiteral("/import.skinnedmesh"), job.skinnedMesh()) ||
-                 !QFile::copy(models + QStringLiteral("/import.anim"), job.anim());
-    return failed || job.write(WorkerAnswer()) ? EXIT_FAILURE : EXIT_SUCCESS;
-}
-
-/// Imports as a hand would: the button of the dialog, and then the one that closes it.
-void importThrough(MainWindow &window, const QString &path)
-{
-    QTimer clicks;
-    QObject::connect(&clicks, &QTimer::timeout, [] {
-        const auto *dialog = qobject_cast<ImportDialog *>(QApplication::activeModalWidget());
-        for (const char *name : {"btnImport", "btnSuccess"}) {
-            auto *button = dialog ? dialog->findChild<QPushButton *>(QLatin1String(name)) : nullptr;
-            if (button && button->isVisible())
-                button->click();
-        }
-    });
-    clicks.start(200);
-    window.openFiles({path});
-}
-
 void addGap(const std::string &name, const Gap &gap)
 {
     Bench::addLimitLine("gap_" + name, gap.passed, Budget, "ms");
@@ -225,23 +193,11 @@ void measure(MainWindow &window, const QString &folder)
                 "viewStatic");
     measureFile("problems", written(folder + QStringLiteral("/problems.staticmesh"), manyProblems()),
                 "viewStatic");
-
-    SkinnedMesh mesh;
-    mesh.nodes.resize(41);
-    written(folder + QStringLiteral("/import.skinnedmesh"), mesh);
-    written(folder + QStringLiteral("/import.anim"), LargeModels::animFile(100 * 1000 * 1000));
-    QFile(folder + QStringLiteral("/foreign.fbx")).open(QIODevice::WriteOnly);
-    addGap("import", largestGap([&] { importThrough(window, folder + QStringLiteral("/foreign.fbx")); }));
 }
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    const char *const Models = "KORVANE_BENCH_MODELS";
-    if (argc == 2 && qEnvironmentVariableIsSet(Models)) {
-        const QCoreApplication application(argc, argv);
-        return answerAsWorker(QFile::decodeName(argv[1]), qEnvironmentVariable(Models));
-    }
     const QTemporaryDir home;
     qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
     QCoreApplication::setOrganizationName(QStringLiteral("KorvaneBench"));
@@ -252,8 +208,6 @@ int main(int argc, char *argv[])
     format.setProfile(QSurfaceFormat::CoreProfile);
     QSurfaceFormat::setDefaultFormat(format);
     const Application application(argc, argv);
-    qputenv(Models, QFile::encodeName(home.path()));
-    qputenv("KORVANE_IMPORT_WORKER", QFile::encodeName(QCoreApplication::applicationFilePath()));
     QDir(home.path()).mkpath(QStringLiteral("game"));
     QDir(home.path()).mkpath(QStringLiteral("mod/materials"));
     QDir(home.path()).mkpath(QStringLiteral("mod/textures"));

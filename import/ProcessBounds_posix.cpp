@@ -6,7 +6,7 @@ void ProcessBounds::prepare(QProcess &) {}
 
 void ProcessBounds::take(const QProcess &, int, qint64) {}
 
-bool ProcessBounds::isCrash(int)
+bool ProcessBounds::isCrash(int exitCode)
 {
-    return false; // a signal tells
+    return exitCode == 3; // as abort ends elsewhere; here a signal tells
 }

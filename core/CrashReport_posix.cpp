@@ -39,7 +39,7 @@ public:
     ReportFile()
         : m_file(::open(reportPath, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600))
     {}
-    ~ReportFile()
+    ~ReportFile() override
     {
         if (m_file >= 0)
             ::close(m_file);

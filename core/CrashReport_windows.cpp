@@ -49,7 +49,7 @@ public:
         : m_file(CreateFileW(reportPath, GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_ALWAYS,
                              FILE_ATTRIBUTE_NORMAL, nullptr))
     {}
-    ~ReportFile() { CloseHandle(m_file); }
+    ~ReportFile() override { CloseHandle(m_file); }
     ReportFile(const ReportFile &) = delete;
     ReportFile &operator=(const ReportFile &) = delete;
 

@@ -13,6 +13,7 @@
 class CrashText
 {
 public:
+    virtual ~CrashText() = default;
     // Beforehand.
     static void prepare(const char *lineEnd);
     static void setGraphics(const QString &text);
@@ -26,9 +27,6 @@ public:
     void putBegin();
     void putStackTitle();
     void putLastLines();
-
-protected:
-    ~CrashText() = default;
 
 private:
     virtual void write(const char *bytes, std::size_t size) = 0;

@@ -14,14 +14,14 @@
 // The handler may do next to nothing: it writes a byte, which the event loop reads, and sets an alarm.
 namespace {
 constexpr int Signals[] = {SIGTERM, SIGHUP, SIGINT};
-constexpr size_t SignalCount = sizeof Signals / sizeof *Signals;
+constexpr size_t EndCount = sizeof Signals / sizeof *Signals;
 constexpr itimerspec Patience{{0, 0}, {1, 800 * 1000 * 1000}};
 
 int channel[2] = {-1, -1};
 timer_t alarmTimer;
 bool hasAlarm = false;
 volatile std::sig_atomic_t isAsked = 0;
-struct sigaction previous[SignalCount];
+struct sigaction previous[EndCount];
 
 void onEndSignal(int number)
 {
@@ -66,7 +66,7 @@ EndSignals::EndSignals(std::function<void(int)> asked)
     action.sa_handler = onEndSignal;
     action.sa_flags = SA_RESTART;
     sigemptyset(&action.sa_mask);
-    for (size_t i = 0; i < SignalCount; ++i) {
+    for (size_t i = 0; i < EndCount; ++i) {
         sigaction(Signals[i], &action, &previous[i]);
         if (previous[i].sa_handler == SIG_IGN)
             sigaction(Signals[i], &previous[i], nullptr);
@@ -77,7 +77,7 @@ EndSignals::~EndSignals()
 {
     if (!m_notifier)
         return;
-    for (size_t i = 0; i < SignalCount; ++i)
+    for (size_t i = 0; i < EndCount; ++i)
         sigaction(Signals[i], &previous[i], nullptr);
     stopAlarm();
     m_notifier.reset();

@@ -17,7 +17,7 @@ void DocumentSaver::save(const QString &path, Then then)
 {
     finish();
     const auto write = [writer = m_document.writer(path)](const Background::Cancelled &) { return writer(); };
-    m_writing.start(write, [this, then = std::move(then)](std::shared_ptr<SavedFile> file) {
+    m_writing.start(write, [this, then = std::move(then)](const std::shared_ptr<SavedFile> &file) {
         if (!file->isFailed)
             m_document.noteSaved(*file);
         then(file->isFailed, file->reason);

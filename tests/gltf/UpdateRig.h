@@ -3,6 +3,8 @@
 #pragma once
 
 #include "GltfPose.h"
+#include "GltfReader.h"
+#include "ImportMessages.h"
 #include "OddRig.h"
 #include "Playback.h"
 #include "PosedMesh.h"
@@ -149,4 +151,20 @@ inline float distance(const GltfScene &scene, size_t clip, const SkinnedMesh &me
         }
     }
     return worst;
+}
+
+inline QByteArray exported(const SkinnedMesh &mesh, const AnimFile &anim)
+{
+    ImportMessages messages;
+    return exportGltf(mesh, &anim, allBlocks(anim), named("rig"), messages).glb();
+}
+
+inline GltfScene read(const QByteArray &glb)
+{
+    GltfScene scene;
+    QString reason;
+    if (readGltf(
+            glb, [](const QString &) { return QByteArray(); }, scene, reason))
+        qFatal("%s", qPrintable(reason));
+    return scene;
 }

@@ -1,7 +1,5 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "GltfReader.h"
-#include "ImportMessages.h"
 #include "ModelUpdate.h"
 #include "OddRig.h"
 #include "OtherProgram.h"
@@ -17,24 +15,6 @@ Q_DECLARE_METATYPE(AnimFile)
 Q_DECLARE_METATYPE(std::function<void(GltfScene &)>)
 using MeshCheck = std::function<bool(const SkinnedMesh &, const AnimFile &)>;
 Q_DECLARE_METATYPE(MeshCheck)
-
-namespace {
-QByteArray exported(const SkinnedMesh &mesh, const AnimFile &anim)
-{
-    ImportMessages messages;
-    return exportGltf(mesh, &anim, allBlocks(anim), named("rig"), messages).glb();
-}
-
-GltfScene read(const QByteArray &glb)
-{
-    GltfScene scene;
-    QString reason;
-    if (readGltf(
-            glb, [](const QString &) { return QByteArray(); }, scene, reason))
-        qFatal("%s", qPrintable(reason));
-    return scene;
-}
-} // namespace
 
 class tst_ModelUpdate : public QObject
 {

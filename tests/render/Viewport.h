@@ -155,3 +155,19 @@ std::unique_ptr<View> makeView(bool core33 = false)
     QSurfaceFormat::setDefaultFormat(format);
     return std::make_unique<View>();
 }
+
+/// The material "m/a/quarters": the upper half red and blue, the lower half white and half or wholly
+/// transparent.
+inline void putQuarters(const QString &folder)
+{
+    QImage image(2, 2, QImage::Format_RGBA8888);
+    image.setPixelColor(0, 0, Qt::red);
+    image.setPixelColor(1, 0, Qt::blue);
+    image.setPixelColor(0, 1, Qt::white);
+    image.setPixelColor(1, 1, QColor(255, 255, 255, 2));
+    if (!QDir(folder).mkpath(QStringLiteral("m")) ||
+        !image.scaled(64, 64).save(folder + QStringLiteral("/quarters.png")) ||
+        !TestSupport::writeFile(folder + QStringLiteral("/m/a.kmat"),
+                                "material quarters {\n sampler \"diffuse\" 0 \"quarters.png\" {\n}\n}\n"))
+        qFatal("no room for pictures");
+}

@@ -26,9 +26,7 @@ private slots:
     void posedOverlay();
     void groundAndGizmo();
     void markers();
-    void refreshesWhatChanged();
     void hostileModel();
-    void surfacesShareCopies();
     void shadings_data() { addContexts(); }
     void shadings();
     void marksOverTheModel_data() { addContexts(); }
@@ -59,16 +57,7 @@ bool isForeground(const QColor &color)
 void tst_Viewport::initTestCase()
 {
     TestSupport::useSettingsHome(m_home);
-    QVERIFY(QDir(m_folder.path()).mkpath(QStringLiteral("m")));
-    // Upper half red and blue, lower half white and half or wholly transparent.
-    QImage image(2, 2, QImage::Format_RGBA8888);
-    image.setPixelColor(0, 0, Qt::red);
-    image.setPixelColor(1, 0, Qt::blue);
-    image.setPixelColor(0, 1, Qt::white);
-    image.setPixelColor(1, 1, QColor(255, 255, 255, 2));
-    QVERIFY(image.scaled(64, 64).save(m_folder.path() + QStringLiteral("/quarters.png")));
-    QVERIFY(TestSupport::writeFile(m_folder.path() + QStringLiteral("/m/a.kmat"),
-                                   "material quarters {\n sampler \"diffuse\" 0 \"quarters.png\" {\n}\n}\n"));
+    putQuarters(m_folder.path());
     Settings::GamePath.setValue(m_folder.path());
 }
 
@@ -284,79 +273,6 @@ void tst_Viewport::markers()
     m_view->setSelectedBone(1);
     m_view->setSkinnedMesh(&m_view->mesh);
     QCOMPARE(marked(), 0);
-}
-
-// Clockwise faces the viewer; what is changed is shown when the view is told, without looking for textures
-// again.
-void tst_Viewport::refreshesWhatChanged()
-{
-    QStringList log;
-    Log::setSink([&log](LogSeverity, const QString &text) { log.append(text); });
-    m_view->openSquare(QStringLiteral("m/missing/x"));
-    StaticMesh &square = m_view->square;
-    const int built = log.size();
-    QVERIFY(built > 0);
-    const auto turnOver = [&] {
-        for (auto &surface : square.surfaces)
-            std::reverse(surface.triangleIndexes.begin(), surface.triangleIndexes.end());
-        m_view->refreshIndexes();
-    };
-    turnOver();
-    QVERIFY(isBackground(m_view->centrePixel()));
-    m_view->setBackCull(false);
-    QVERIFY(isWhite(m_view->centrePixel()));
-    m_view->setBackCull(true);
-    QVERIFY(isBackground(m_view->centrePixel()));
-    turnOver();
-    QVERIFY(isWhite(m_view->centrePixel()));
-
-    square.scale(0.01f);
-    QVERIFY(isWhite(m_view->centrePixel())); // not told yet
-    m_view->refreshVertices();
-    QVERIFY(isBackground(m_view->centrePixel()));
-    QCOMPARE(log.size(), built);
-    m_view->rebuildModel();
-    QCOMPARE(log.size(), 2 * built);
-
-    // Fewer vertices than the indexes name.
-    square.scale(100.0f);
-    square.vertices.pop_back();
-    m_view->refreshVertices();
-    QVERIFY(isWhite(m_view->pixel(175, 120)));
-    QVERIFY(isBackground(m_view->pixel(225, 180)));
-}
-
-// Surfaces of one picture share its copy, and those without triangles have nothing on the card until they get
-// some.
-void tst_Viewport::surfacesShareCopies()
-{
-    const auto objects = [&] {
-        m_view->grabFramebuffer();
-        m_view->makeCurrent();
-        QOpenGLFunctions &gl = *m_view->context()->functions();
-        int count = 0;
-        for (GLuint name = 1; name < 5000; ++name)
-            count += gl.glIsTexture(name) + gl.glIsBuffer(name);
-        m_view->doneCurrent();
-        return count;
-    };
-    m_view->openSquare(QStringLiteral("m/a/quarters"));
-    StaticMesh &square = m_view->square;
-    const StaticMeshSurface first = square.surfaces[0];
-    const int before = objects();
-    QVERIFY(before > 0);
-    square.surfaces.resize(1000, {first.materialPath, {}});
-    m_view->rebuildModel();
-    QCOMPARE(objects(), before);
-    square.surfaces.resize(1064, first);
-    m_view->rebuildModel();
-    QCOMPARE(objects(), before + 64); // the index buffers
-    square.surfaces.resize(1000);
-    m_view->rebuildModel();
-    const QImage seen = m_view->grabFramebuffer();
-    std::swap(square.surfaces[0].triangleIndexes, square.surfaces[999].triangleIndexes);
-    m_view->refreshIndexes();
-    QCOMPARE(m_view->grabFramebuffer(), seen);
 }
 
 // Bone numbers and indexes from nowhere, more bones than the program holds, numbers that are none.

@@ -3,11 +3,13 @@
 #include "CommandPalette.h"
 #include "FloatSpinBox.h"
 #include "Hand.h"
+#include "IndexHint.h"
 #include "KVOpenGLWidget.h"
 #include "NameTables.h"
 #include "PlayClock.h"
 #include "Playback.h"
 #include "RecentFiles.h"
+#include "ReferenceTable.h"
 #include "SampleModels.h"
 #include "TrackSlider.h"
 
@@ -323,6 +325,43 @@ private slots:
             tips += QToolTip::text();
         }
         QVERIFY2(tips.contains("1: Left Root (head)"), qPrintable(tips.values().join('|')));
+    }
+
+    void numbersAreCalledTheSameEverywhere()
+    {
+        AnimFile anim = twoBlocks();
+        anim.blocks[1].animId = 7;
+        ShownWindow window({m_files->save("man.anim", anim)});
+        select(window, "treeAnim", {{RecordKind::AnimBlock, {1}}});
+        const auto *blocks = find<QComboBox>(window, "cbAnimTrackBlock");
+        const auto *hint = find<IndexHint>(window, "hintAnimAnimID");
+        const auto shown = [&] { return QStringList{blocks->itemText(1), hint->text()}; };
+        auto *again = find<QPushButton>(window, "btnDBReload");
+        again->click();
+        QCOMPARE(shown(), QStringList({"1: Unnamed animation 7", "Unnamed animation 7"}));
+
+        // A table of one's own, with tabs and a number twice: the first row, or what is sorted to the top.
+        const QString own = referenceOverrideFolder() + "/animations.txt";
+        QVERIFY(QDir().mkpath(referenceOverrideFolder()));
+        QVERIFY(TestSupport::writeFile(own, "7\tWalk\n7 Run\n"));
+        again->click();
+        QCOMPARE(shown(), QStringList({"1: Walk", "Walk"}));
+        find<QTableWidget>(window, "tableDBAnimations")->sortByColumn(1, Qt::AscendingOrder);
+        QCOMPARE(shown(), QStringList({"1: Run", "Run"}));
+        // The model's own names come first.
+        m_files->put("man.names.json", R"({"animations": {"7": "stroll"}})");
+        window.openFiles({m_files->save("man.skinnedmesh", triangleMan())});
+        QCOMPARE(shown(), QStringList({"1: stroll", "stroll"}));
+        QVERIFY(QFile::remove(m_files->path("man.names.json")));
+        window.openFiles({m_files->path("man.skinnedmesh")});
+        QCOMPARE(shown(), QStringList({"1: Run", "Run"}));
+        // One that cannot be read is left alone by all.
+        QVERIFY(QFile::remove(own) && QDir().mkpath(own));
+        again->click();
+        QCOMPARE(shown(), QStringList({"1: Unnamed animation 7", "Unnamed animation 7"}));
+        QVERIFY(consoleOf(window).contains("Unable to read database file at " + own));
+        QVERIFY(QDir().rmdir(own));
+        again->click();
     }
 
 private:

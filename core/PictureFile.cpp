@@ -10,8 +10,7 @@
 #include <QSet>
 
 namespace {
-constexpr qint64 Beginning = 64;      ///< bytes
-constexpr qint64 MostBytes = 1 << 29; ///< of a .tga file; more than MostPixels take
+constexpr qint64 Beginning = 64; ///< bytes
 
 /// The toolkit takes some for icons, which begin alike. A plug-in of its own for them may know few kinds.
 bool isTargaIn(QIODevice &device, const QImageReader &reader)
@@ -43,7 +42,7 @@ Picture readPicture(QIODevice &device)
 {
     QImageReader reader(&device);
     if (isTargaIn(device, reader))
-        return {readTarga(device.read(MostBytes), MostPixels), "tga"};
+        return {readTarga(device.read(targaBytes(device.peek(Beginning))), MostPixels), "tga"};
     const QByteArray format = reader.format();
     return fits(sizeIn(reader)) ? Picture{reader.read(), format} : Picture();
 }
@@ -54,13 +53,16 @@ Picture readPicture(const QString &path)
     return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? readPicture(file) : Picture();
 }
 
+QSize pictureSize(QIODevice &device)
+{
+    const QImageReader reader(&device);
+    return isTargaIn(device, reader) ? targaSize(device.peek(Beginning)) : sizeIn(reader);
+}
+
 QSize pictureSize(const QString &path)
 {
     QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
-        return {};
-    const QImageReader reader(&file);
-    return isTargaIn(file, reader) ? targaSize(file.peek(Beginning)) : sizeIn(reader);
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? pictureSize(file) : QSize();
 }
 
 bool isPicture(const QString &path)

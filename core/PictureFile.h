@@ -23,6 +23,7 @@ struct Picture
 [[nodiscard]] Picture readPicture(QIODevice &device);
 [[nodiscard]] Picture readPicture(const QString &path);
 /// What a file says of itself before it is read: the size is none where there is no picture of the kinds.
+[[nodiscard]] QSize pictureSize(QIODevice &device);
 [[nodiscard]] QSize pictureSize(const QString &path);
 /// Whether the file begins as a picture that can be read. A pipe does not, and is not opened.
 [[nodiscard]] bool isPicture(const QString &path);

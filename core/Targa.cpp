@@ -62,6 +62,9 @@ struct TargaHeader
                           : pixels() * bytesOf(bits());
     }
 
+    /// Packed worst, every pixel has a count of its own.
+    qint64 mostBytes() const { return start() + pixels() * (bytesOf(bits()) + (isPacked() ? 1 : 0)); }
+
 private:
     const QByteArray &m_bytes;
 };
@@ -87,6 +90,11 @@ bool isTarga(const QByteArray &beginning, qint64 size, qint64 mostPixels)
     const TargaHeader header(beginning);
     return header.isPlausible() && header.pixels() > 0 && header.pixels() <= mostPixels &&
            header.sizeOfPixels() <= size - header.start();
+}
+
+qint64 targaBytes(const QByteArray &beginning)
+{
+    return TargaHeader(beginning).mostBytes();
 }
 
 QSize targaSize(const QByteArray &beginning)

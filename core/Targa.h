@@ -11,5 +11,7 @@
 [[nodiscard]] QImage readTarga(const QByteArray &bytes, qint64 mostPixels);
 /// Whether readTarga() reads it, from the beginning of the file and its size in bytes.
 [[nodiscard]] bool isTarga(const QByteArray &beginning, qint64 size, qint64 mostPixels);
+/// The most bytes of such a file, from its beginning, that tell of its picture.
+[[nodiscard]] qint64 targaBytes(const QByteArray &beginning);
 /// The size that the beginning of such a file tells of.
 [[nodiscard]] QSize targaSize(const QByteArray &beginning);

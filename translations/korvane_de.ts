@@ -2376,6 +2376,10 @@ Ohne diese Eingabe fortfahren?</translation>
         <source>%1 No extra bones are needed: no vertex is farther than %2 % of the model&apos;s size from its place in the source.</source>
         <translation>%1 Zusatzknochen sind nicht nötig: Kein Vertex ist weiter als %2 % der Modellgröße von seinem Platz in der Quelle entfernt.</translation>
     </message>
+    <message>
+        <source>%1 Material &apos;%2&apos;: its texture &apos;%3&apos; is larger than %4 million pixels, and is left out</source>
+        <translation>%1 Material „%2“: Seine Textur „%3“ ist größer als %4 Millionen Pixel und bleibt weg</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>

@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
+#include <QImageReader>
 
 #include <assimp/material.h>
 
@@ -95,15 +96,13 @@ QString ReadyTextures::fileOf(const aiString &stored, const QString &name)
         m_source.messages.addWarning(
             QCoreApplication::translate("Import", "%1 Material '%2': its texture '%3' was not found")
                 .arg(m_source.modelPath, name, key));
-    } else if (found.endsWith(QLatin1String(".png")) && plainName(base) == base && isPicture(found)) {
+    } else if (found.endsWith(QLatin1String(".png")) && plainName(base) == base && isPicture(found) &&
+               QImageReader::imageFormat(found) == "png") {
         file = found;
     } else {
         const QImage image = readPicture(found).image;
         if (image.isNull())
-            m_source.messages.addWarning(
-                QCoreApplication::translate(
-                    "Import", "%1 Material '%2': its texture '%3' is no picture that can be read")
-                    .arg(m_source.modelPath, name, found));
+            tellUnread(name, found, pictureSize(found));
         else
             file = write(image, plainName(base));
     }
@@ -113,25 +112,39 @@ QString ReadyTextures::fileOf(const aiString &stored, const QString &name)
 QString ReadyTextures::writeEmbedded(const aiTexture &texture, const QString &name)
 {
     QImage image;
+    QSize size(int(texture.mWidth), int(texture.mHeight));
     if (texture.mHeight == 0) {
         QByteArray bytes =
             QByteArray::fromRawData(reinterpret_cast<const char *>(texture.pcData), int(texture.mWidth));
         QBuffer buffer(&bytes);
-        if (buffer.open(QIODevice::ReadOnly))
+        if (buffer.open(QIODevice::ReadOnly)) {
+            size = pictureSize(buffer);
+            buffer.seek(0);
             image = readPicture(buffer).image;
+        }
     } else if (quint64(texture.mWidth) * texture.mHeight <= quint64(MostPixels)) {
         // Texels are blue, green, red, alpha, which in memory is what the toolkit calls ARGB.
         image = QImage(reinterpret_cast<const uchar *>(texture.pcData), int(texture.mWidth),
                        int(texture.mHeight), QImage::Format_ARGB32);
     }
     if (image.isNull()) {
-        m_source.messages.addWarning(
-            QCoreApplication::translate("Import",
-                                        "%1 Material '%2': its texture '%3' is no picture that can be read")
-                .arg(m_source.modelPath, name, text(texture.mFilename)));
+        tellUnread(name, text(texture.mFilename), size);
         return {};
     }
     return write(image, plainName(name));
+}
+
+void ReadyTextures::tellUnread(const QString &material, const QString &texture, const QSize &size) const
+{
+    const bool isLarge = !size.isEmpty() && qint64(size.width()) * size.height() > MostPixels;
+    const QString text =
+        isLarge ? QCoreApplication::translate("Import", "%1 Material '%2': its texture '%3' is larger than "
+                                                        "%4 million pixels, and is left out")
+                      .arg(m_source.modelPath, material, texture, QString::number(MostPixels / 1'000'000))
+                : QCoreApplication::translate(
+                      "Import", "%1 Material '%2': its texture '%3' is no picture that can be read")
+                      .arg(m_source.modelPath, material, texture);
+    m_source.messages.addWarning(text);
 }
 
 QString ReadyTextures::swatch(const aiMaterial &material, const QString &name)

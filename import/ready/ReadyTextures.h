@@ -26,6 +26,7 @@ private:
     QString writeEmbedded(const aiTexture &texture, const QString &name);
     QString swatch(const aiMaterial &material, const QString &name);
     QString write(const QImage &image, const QString &base);
+    void tellUnread(const QString &material, const QString &texture, const QSize &size) const;
 
     const SceneSource &m_source;
     QString m_folder;

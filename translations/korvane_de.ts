@@ -2369,12 +2369,20 @@ Ohne diese Eingabe fortfahren?</translation>
         <translation>%1 Zusatzknochen: %2, die %3 kB der Animationsdatei belegen. Kein Vertex ist weiter als %4 % der Modellgröße von seinem Platz in der Quelle entfernt, statt %5 %.</translation>
     </message>
     <message>
-        <source>%1 There is no room for extra bones, for a model can be posed with %2. Vertices are up to %3 % of the model&apos;s size from their places in the source.</source>
-        <translation>%1 Für Zusatzknochen ist kein Platz, denn ein Modell kann mit %2 Knochen bewegt werden. Vertices sind bis zu %3 % der Modellgröße von ihren Plätzen in der Quelle entfernt.</translation>
-    </message>
-    <message>
         <source>%1 No extra bones are needed: no vertex is farther than %2 % of the model&apos;s size from its place in the source.</source>
         <translation>%1 Zusatzknochen sind nicht nötig: Kein Vertex ist weiter als %2 % der Modellgröße von seinem Platz in der Quelle entfernt.</translation>
+    </message>
+    <message>
+        <source>%1 No extra bones were made: no animation was taken, or the model has no bones or no size.</source>
+        <translation>%1 Zusatzknochen wurden nicht angelegt: Es wurde keine Animation übernommen, oder das Modell hat keine Knochen oder keine Größe.</translation>
+    </message>
+    <message>
+        <source>%1 There is no room for more extra bones, for a model can be posed with %2. Vertices are up to %3 % of the model&apos;s size from their places in the source.</source>
+        <translation>%1 Für weitere Zusatzknochen ist kein Platz, denn ein Modell kann mit %2 Knochen bewegt werden. Vertices sind bis zu %3 % der Modellgröße von ihren Plätzen in der Quelle entfernt.</translation>
+    </message>
+    <message>
+        <source>%1 Extra bones did not help, so none were made. Vertices are up to %2 % of the model&apos;s size from their places in the source.</source>
+        <translation>%1 Zusatzknochen halfen nicht, daher wurden keine angelegt. Vertices sind bis zu %2 % der Modellgröße von ihren Plätzen in der Quelle entfernt.</translation>
     </message>
     <message>
         <source>%1 Material &apos;%2&apos;: its texture &apos;%3&apos; is larger than %4 million pixels, and is left out</source>
@@ -6206,14 +6214,6 @@ So lassen?</translation>
         <translation>Knochen: %1. Das Spiel bewegt %2, also müssen Knochen weichen, denen nichts folgt oder die nichts bewegt.</translation>
     </message>
     <message>
-        <source>Vertices that follow several bones: %1 of %2. Each will follow the one with the greatest weight.</source>
-        <translation>Vertices, die mehreren Knochen folgen: %1 von %2. Jeder folgt dann dem mit dem größten Gewicht.</translation>
-    </message>
-    <message>
-        <source>Bones or objects that change their size in animations: %1. In the game they keep it.</source>
-        <translation>Knochen oder Objekte, die in Animationen ihre Größe ändern: %1. Im Spiel behalten sie sie.</translation>
-    </message>
-    <message>
         <source>Objects with shapes to blend (morph targets): %1. They keep the shape that they have at rest.</source>
         <translation>Objekte mit Formen zum Überblenden (Morph Targets): %1. Sie behalten die Form der Ruhelage.</translation>
     </message>
@@ -6236,6 +6236,14 @@ So lassen?</translation>
     <message>
         <source>Textures beside those of the color, such as relief or shine: %1. They are left out.</source>
         <translation>Texturen neben denen der Farbe, etwa für Relief oder Glanz: %1. Sie bleiben weg.</translation>
+    </message>
+    <message>
+        <source>Vertices that follow several bones: %1 of %2. Each will follow the one with the greatest weight, unless extra bones are wanted.</source>
+        <translation>Vertices, die mehreren Knochen folgen: %1 von %2. Jeder folgt dann dem mit dem größten Gewicht, wenn keine Zusatzknochen gewünscht sind.</translation>
+    </message>
+    <message>
+        <source>Bones or objects that change their size in animations: %1. In the game they keep it, unless extra bones are wanted.</source>
+        <translation>Knochen oder Objekte, die in Animationen ihre Größe ändern: %1. Im Spiel behalten sie sie, wenn keine Zusatzknochen gewünscht sind.</translation>
     </message>
 </context>
 <context>

@@ -371,12 +371,13 @@ std::unique_ptr<ExtraBones> ExtraBoneSearch::bones() const
 }
 } // namespace
 
-ExtraBoneAccount addExtraBones(const SceneParts &parts, const ReadyClips &clips, ReadySkeleton &skeleton)
+std::optional<ExtraBoneAccount> addExtraBones(const SceneParts &parts, const ReadyClips &clips,
+                                              ReadySkeleton &skeleton)
 {
     ExtraBoneAccount account;
     ExtraBoneSearch search(parts, clips, skeleton);
-    if (skeleton.count() == 0 || !search.isSound())
-        return account;
+    if (skeleton.count() == 0 || clips.isEmpty() || !search.isSound())
+        return std::nullopt;
     search.measure();
     account.without = account.with = search.greatestError();
     search.search();
@@ -392,6 +393,7 @@ ExtraBoneAccount addExtraBones(const SceneParts &parts, const ReadyClips &clips,
         account.bones = 0;
         account.with = account.without;
     }
-    account.isFull = account.bones == 0 && account.with > Tolerance;
+    account.isWithin = account.with <= Tolerance;
+    account.isFull = !account.isWithin && skeleton.count() == ReadySkeleton::BoneLimit;
     return account;
 }

@@ -253,13 +253,13 @@ std::vector<double> ReadyClips::movements(const ReadySkeleton &skeleton, const S
     return movements;
 }
 
-void ReadyClips::addBlocks(const ReadySkeleton &skeleton, const SkeletonPose &rest, const SkinnedMesh &mesh,
-                           AnimFile &file, ModelNames &names) const
+qint64 ReadyClips::addBlocks(const ReadySkeleton &skeleton, const SkeletonPose &rest, const SkinnedMesh &mesh,
+                             AnimFile &file, ModelNames &names) const
 {
     if (m_taken.empty() && mesh.nodes.size() > 1) {
         file.blocks.push_back(restBlock(rest, 1));
         file.blocks.back().speed = float(ReadyChoices::UsualRate);
-        return;
+        return 0;
     }
     qint64 framesLeft = PoseLimit / qint64(mesh.nodes.size());
     std::vector<bool> isStretched(mesh.nodes.size());
@@ -276,13 +276,7 @@ void ReadyClips::addBlocks(const ReadySkeleton &skeleton, const SkeletonPose &re
         if (!name.isEmpty())
             names.animations.insert(taken.id, name);
     }
-    const auto stretched = std::count(isStretched.begin(), isStretched.end(), true);
-    // What extra bones make of it they say themselves.
-    if (stretched > 0 && !m_choices.extraBones)
-        m_source.messages.addWarning(
-            QCoreApplication::translate(
-                "Import", "%1 Bones that change their size in animations, which in the game they keep: %2")
-                .arg(m_source.modelPath, QString::number(stretched)));
+    return std::count(isStretched.begin(), isStretched.end(), true);
 }
 
 AnimBlock ReadyClips::makeBlock(const Taken &taken, const ReadySkeleton &skeleton, const SkeletonPose &rest,

@@ -39,9 +39,10 @@ public:
     std::vector<Matrix4> restWorld() const;
 
     /// Appends a block for each taken clip, for `mesh`, which stands in `rest`, and names them. Without any
-    /// it is one block of one frame, for the rest pose stands nowhere else.
-    void addBlocks(const ReadySkeleton &skeleton, const SkeletonPose &rest, const SkinnedMesh &mesh,
-                   AnimFile &file, ModelNames &names) const;
+    /// it is one block of one frame, for the rest pose stands nowhere else. Gives how many bones change their
+    /// size in the clips, which blocks do not hold.
+    qint64 addBlocks(const ReadySkeleton &skeleton, const SkeletonPose &rest, const SkinnedMesh &mesh,
+                     AnimFile &file, ModelNames &names) const;
 
 private:
     struct Taken

@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <map>
+#include <optional>
 
 namespace {
 constexpr int Removals =
@@ -115,15 +116,21 @@ bool limitBones(const SceneSource &source, const SceneNodes &nodes, const SceneP
     return false;
 }
 
-/// "hand.L extra 1", "hand.L extra 2"
+/// "hand.L extra 1", "hand.L extra 2"; a number that a name of the source has is passed over.
 void nameExtraBones(const ReadySkeleton &skeleton, ModelNames &names)
 {
+    const QStringList sources = names.bones.values();
+    QSet<QString> taken(sources.begin(), sources.end());
     QHash<int, int> known; // by parent
     for (int b = skeleton.sourceCount(); b < skeleton.count(); ++b) {
         const int parent = skeleton.parent(b);
-        names.bones.insert(b, QStringLiteral("%1 extra %2")
-                                  .arg(names.bones.value(parent, QStringLiteral("bone %1").arg(parent)),
-                                       QString::number(++known[parent])));
+        const QString parentName = names.bones.value(parent, QStringLiteral("bone %1").arg(parent));
+        QString name;
+        do {
+            name = QStringLiteral("%1 extra %2").arg(parentName, QString::number(++known[parent]));
+        } while (taken.contains(name));
+        taken.insert(name);
+        names.bones.insert(b, name);
     }
 }
 
@@ -181,29 +188,40 @@ qint64 extraBytes(const AnimFile &anim, size_t sourceBones)
     return bytes;
 }
 
-void tellOfExtraBones(const SceneSource &source, const ExtraBoneAccount &account, qint64 bytes)
+void tellOfExtraBones(const SceneSource &source, const std::optional<ExtraBoneAccount> &account, qint64 bytes)
 {
+    if (!account)
+        return source.messages.addInfo(
+            QCoreApplication::translate("Import", "%1 No extra bones were made: no animation was taken, or "
+                                                  "the model has no bones or no size.")
+                .arg(source.modelPath));
     const auto percent = [](double share) { return QString::number(100.0 * share, 'f', 1); };
-    const QString with = percent(account.with);
-    if (account.bones > 0)
+    const QString with = percent(account->with);
+    if (account->bones > 0)
         source.messages.addInfo(
             QCoreApplication::translate(
                 "Import", "%1 Extra bones: %2, which take %3 kB of the animation file. No vertex is farther "
                           "than %4 % of the model's size from its place in the source, instead of %5 %.")
-                .arg(source.modelPath, QString::number(account.bones), QString::number((bytes + 999) / 1000),
-                     with, percent(account.without)));
-    else if (account.isFull)
-        source.messages.addInfo(
+                .arg(source.modelPath, QString::number(account->bones), QString::number((bytes + 999) / 1000),
+                     with, percent(account->without)));
+    if (account->isFull)
+        source.messages.addWarning(
             QCoreApplication::translate(
                 "Import",
-                "%1 There is no room for extra bones, for a model can be posed with %2. Vertices are "
+                "%1 There is no room for more extra bones, for a model can be posed with %2. Vertices are "
                 "up to %3 % of the model's size from their places in the source.")
                 .arg(source.modelPath, QString::number(ReadySkeleton::BoneLimit), with));
-    else
+    else if (account->bones == 0 && account->isWithin)
         source.messages.addInfo(QCoreApplication::translate(
                                     "Import", "%1 No extra bones are needed: no vertex is farther than %2 % "
                                               "of the model's size from its place in the source.")
                                     .arg(source.modelPath, with));
+    else if (account->bones == 0)
+        source.messages.addWarning(
+            QCoreApplication::translate("Import", "%1 Extra bones did not help, so none were made. Vertices "
+                                                  "are up to %2 % of the model's size from their places in "
+                                                  "the source.")
+                .arg(source.modelPath, with));
 }
 
 /// Names tell no more than what is likely, so somebody has to look.
@@ -238,9 +256,9 @@ void importReadySkinnedMesh(const ReadySource &ready, QStringList &textures, Ski
                            SceneParts::bareNodes(*source.scene, nodes), clips.moved());
     if (limitBones(source, nodes, parts, clips, skeleton))
         return;
-    ExtraBoneAccount account;
+    std::optional<ExtraBoneAccount> extras;
     if (ready.choices.extraBones)
-        account = addExtraBones(parts, clips, skeleton);
+        extras = addExtraBones(parts, clips, skeleton);
     addBones(source, nodes, skeleton, mesh, names);
     SkeletonPose rest;
     skeleton.pose(clips.restWorld(), rest);
@@ -256,10 +274,15 @@ void importReadySkinnedMesh(const ReadySource &ready, QStringList &textures, Ski
     if (skeleton.count() > 0 && parts.unbound() > 0)
         messages.addWarning(QCoreApplication::translate("Import", "%1 %2 vertices are not assigned to a bone")
                                 .arg(source.modelPath, QString::number(parts.unbound())));
-    clips.addBlocks(skeleton, rest, mesh, anim, names);
+    const qint64 stretched = clips.addBlocks(skeleton, rest, mesh, anim, names);
+    if (stretched > 0 && !(extras && extras->bones > 0 && extras->isWithin))
+        messages.addWarning(
+            QCoreApplication::translate(
+                "Import", "%1 Bones that change their size in animations, which in the game they keep: %2")
+                .arg(source.modelPath, QString::number(stretched)));
     messages.addInfo(contentText(mesh, anim));
     if (ready.choices.extraBones)
-        tellOfExtraBones(source, account, extraBytes(anim, size_t(skeleton.sourceCount())));
+        tellOfExtraBones(source, extras, extraBytes(anim, size_t(skeleton.sourceCount())));
     listSymbols(source, mesh, names, skeleton.sourceCount());
 }
 

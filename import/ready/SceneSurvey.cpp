@@ -142,12 +142,14 @@ private:
                                                       "follows or nothing moves have to go."))
                          .arg(QString::number(m_bones.size()), QString::number(PosedBones));
         if (m_shared > 0)
-            lines += said(QT_TRANSLATE_NOOP("Survey", "Vertices that follow several bones: %1 of %2. Each "
-                                                      "will follow the one with the greatest weight."))
+            lines += said(QT_TRANSLATE_NOOP(
+                              "Survey", "Vertices that follow several bones: %1 of %2. Each "
+                                        "will follow the one with the greatest weight, unless extra bones "
+                                        "are wanted."))
                          .arg(QString::number(m_shared), QString::number(m_skinned));
         note(qint64(m_scaledNodes.size()),
              QT_TRANSLATE_NOOP("Survey", "Bones or objects that change their size in animations: %1. In the "
-                                         "game they keep it."));
+                                         "game they keep it, unless extra bones are wanted."));
         note(m_morphs, QT_TRANSLATE_NOOP("Survey", "Objects with shapes to blend (morph targets): %1. They "
                                                    "keep the shape that they have at rest."));
         note(facts.stepClips,

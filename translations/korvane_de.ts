@@ -370,16 +370,16 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <translation>Na&amp;me</translation>
     </message>
     <message>
-        <source>What you call all animations with this ID. It is kept in a file beside the mesh, which the game does not look at, and saved with the mesh.</source>
-        <translation>Wie Sie alle Animationen mit dieser ID nennen. Das steht in einer Datei neben dem Mesh, die das Spiel nicht beachtet, und wird mit dem Mesh gespeichert.</translation>
-    </message>
-    <message>
-        <source>The name belongs to %1, and is saved with it.</source>
-        <translation>Der Name gehört zu %1 und wird damit gespeichert.</translation>
-    </message>
-    <message>
         <source>Open the mesh to name it</source>
         <translation>Zum Benennen das Mesh öffnen</translation>
+    </message>
+    <message>
+        <source>What you call all animations with this ID. It is kept in a file beside the mesh, which the game does not look at, and saved with the mesh (Save All). Ctrl+Z in this field is about names.</source>
+        <translation>Wie Sie alle Animationen mit dieser ID nennen. Das steht in einer Datei neben dem Mesh, die das Spiel nicht beachtet, und wird mit dem Mesh gespeichert (Alle speichern). Strg+Z gilt in diesem Feld den Namen.</translation>
+    </message>
+    <message>
+        <source>The name belongs to %1, and is saved with it (Save All).</source>
+        <translation>Der Name gehört zu %1 und wird damit gespeichert (Alle speichern).</translation>
     </message>
 </context>
 <context>

@@ -153,30 +153,14 @@ void Document::noteSaved(const SavedFile &file)
     emit saved();
 }
 
-QStringList Document::refusedTyping() const
-{
-    QStringList refusals;
-    for (TypingField *field : m_editors ? TypingField::in(*m_editors) : QVector<TypingField *>()) {
-        if (field->commitText())
-            refusals.append(field->refusal());
-    }
-    return refusals;
-}
-
 bool Document::returnToTyping()
 {
-    TypingField *refused = m_editors ? TypingField::refusedIn(*m_editors) : nullptr;
+    TypingField *refused = m_fields.firstRefused();
     if (!refused)
         return false;
     emit typingRefused(refused->refusal()); // which brings its tab to the front
     refused->returnTo();
     return true;
-}
-
-void Document::discardTyping()
-{
-    for (TypingField *field : m_editors ? TypingField::in(*m_editors) : QVector<TypingField *>())
-        field->discardText();
 }
 
 void Document::recordChanged(const RecordRef &record)

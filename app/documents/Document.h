@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Background.h"
+#include "DocumentFields.h"
 #include "DocumentKind.h"
 #include "DocumentView.h"
 #include "LoadedFile.h"
@@ -86,14 +87,16 @@ public:
     void fileReturned();
 
     /// Where its fields are edited.
-    void setEditors(QWidget *editors) { m_editors = editors; }
+    void setEditors(QWidget *editors) { m_fields.setEditors(editors); }
+    /// A field that stands among those of another document, and edits this one.
+    void addField(QWidget *field) { m_fields.add(field); }
     /// Stores what is typed there. Says what cannot be stored, and why.
-    QStringList refusedTyping() const;
+    QStringList refusedTyping() const { return m_fields.refused(); }
     /// The same for what is not to be done while something is refused: goes back to the first such field,
     /// which tells why, and returns true.
     [[nodiscard]] bool returnToTyping();
     /// Gives up what is typed there.
-    void discardTyping();
+    void discardTyping() { m_fields.discard(); }
 
     /// How many records of a list kind stand under the owner named by `index`.
     virtual int recordCount(RecordKind kind, const RecordIndex &index) const = 0;
@@ -156,7 +159,7 @@ private:
     QString m_path;
     QString m_unsavedName;
     QUndoStack m_undoStack;
-    QPointer<QWidget> m_editors;
+    DocumentFields m_fields;
     const SkinnedMesh *m_namingMesh = nullptr;
     std::any m_prepared;
     QVector<RecordRef> m_changes;

@@ -291,8 +291,7 @@ void MainWindow::updateCurrentDocument()
 {
     Document *document = m_panes->currentDocument();
     const bool isOpen = document && document->isOpen();
-    if (document != m_files->current()) // a field may have brought another stack to the front
-        m_undoGroup.setActiveStack(document ? document->undoStack() : nullptr);
+    m_undoGroup.setActiveStack(document ? document->undoStack() : nullptr);
     m_files->setCurrent(document);
     m_importExport->setCurrent(document);
     m_transforms->setCurrent(document);

@@ -9,7 +9,7 @@
 #include "Questions.h"
 #include "SkinnedMeshCommands.h"
 
-#include <QFocusEvent>
+#include <QKeyEvent>
 
 using namespace Parts;
 
@@ -57,6 +57,7 @@ void AnimBlockPage::bindName()
     addBinding({editor, [this, editor] { editor->setValue(nameOf(record())); },
                 [this, editor] { nameSelected(editor->value()); }, mark});
     Editors::onEdited(editor, this, &AnimBlockPage::OnAnimBlockNameChanged);
+    m_mesh.addField(editor);
 }
 
 QString AnimBlockPage::nameOf(const AnimBlock *block) const
@@ -68,8 +69,11 @@ void AnimBlockPage::nameSelected(const QString &name)
 {
     if (nameOf(record()) == name)
         return;
+    const QVector<RecordIndex> records = m_tree.selectedRecords(RecordKind::AnimBlock);
+    if (records.isEmpty())
+        return;
     QHash<qint32, QString> names = m_mesh.model().animationNames;
-    for (const RecordIndex &index : m_tree.selectedRecords(RecordKind::AnimBlock)) {
+    for (const RecordIndex &index : records) {
         const qint32 id = m_anim.model().blocks[size_t(index[0])].animId;
         if (name.isEmpty())
             names.remove(id);
@@ -77,22 +81,40 @@ void AnimBlockPage::nameSelected(const QString &name)
             names.insert(id, name);
     }
     m_mesh.undoStack()->push(new UC_SkinnedMeshAnimationNames(m_mesh.editTarget(), {}, names));
-    emit told(tr("The name belongs to %1, and is saved with it.").arg(m_mesh.fileName()));
+    emit told(tr("The name belongs to %1, and is saved with it (Save All).").arg(m_mesh.fileName()));
+}
+
+/// The name's undo and redo are about names, of which the mesh has the steps; all others are the window's.
+bool AnimBlockPage::isStepOfName(const QObject *watched, QEvent *event, int &step) const
+{
+    if (watched != m_ui.txtAnimName ||
+        (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress))
+        return false;
+    const auto *key = static_cast<QKeyEvent *>(event);
+    const bool isUndo = key->matches(QKeySequence::Undo);
+    const bool isRedo = key->matches(QKeySequence::Redo) ||
+                        (key->key() == Qt::Key_Y && key->modifiers() == Qt::ControlModifier);
+    // What is being typed is taken back by the field itself.
+    const TextField &field = *m_ui.txtAnimName;
+    if (isUndo == isRedo || field.isTyping() || (isUndo ? field.isUndoAvailable() : field.isRedoAvailable()))
+        return false;
+    const QUndoStack *stack = m_mesh.undoStack();
+    step = stack->index() + (isUndo ? -1 : 1);
+    const int about = isUndo ? step : step - 1;
+    return about >= 0 && about < stack->count() &&
+           dynamic_cast<const UC_SkinnedMeshAnimationNames *>(stack->command(about));
 }
 
 bool AnimBlockPage::eventFilter(QObject *watched, QEvent *event)
 {
-    // Undo is about the document whose field has the keys. Menus have them for a moment only.
-    if (watched == m_ui.txtAnimName && event->type() == QEvent::FocusIn) {
-        m_mesh.undoStack()->setActive();
-    } else if (watched == m_ui.txtAnimName && event->type() == QEvent::FocusOut &&
-               m_mesh.undoStack()->isActive()) {
-        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
-        if (reason != Qt::MenuBarFocusReason && reason != Qt::PopupFocusReason &&
-            reason != Qt::ActiveWindowFocusReason)
-            m_anim.undoStack()->setActive();
-    }
-    return RecordPage::eventFilter(watched, event);
+    int step = 0;
+    if (!isStepOfName(watched, event, step))
+        return RecordPage::eventFilter(watched, event);
+    if (event->type() == QEvent::ShortcutOverride)
+        event->accept();
+    else if (!m_mesh.returnToTyping() && isStepOfName(watched, event, step))
+        m_mesh.undoStack()->setIndex(step);
+    return true;
 }
 
 void AnimBlockPage::recordShown()

@@ -32,6 +32,7 @@ private:
     void bindName();
     QString nameOf(const AnimBlock *block) const;
     void nameSelected(const QString &name);
+    bool isStepOfName(const QObject *watched, QEvent *event, int &step) const;
 
     AnimDocument &m_anim;
     const KVTreeView &m_tree;

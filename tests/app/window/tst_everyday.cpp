@@ -311,8 +311,26 @@ private slots:
         QTest::keyClick(loop, Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(loop->value(), before);
         QCOMPARE(name->text(), QString("walk"));
+        // So is the history, wherever the keys are.
+        typeNumber(loop, 3);
+        find<QDockWidget>(window, "dockHistory")->show();
+        auto *history = find<QUndoView>(window, "viewHistory");
+        QTest::mouseClick(name, Qt::LeftButton);
+        QCOMPARE(history->model()->rowCount(), 2);
+        QTest::mouseClick(history->viewport(), Qt::LeftButton, {},
+                          history->visualRect(history->model()->index(0, 0)).center());
+        QTRY_COMPARE(loop->value(), before);
+        QCOMPARE(name->text(), QString("walk"));
         find<QAction>(window, "actionSaveAll")->trigger();
         QVERIFY(TestSupport::readFile(m_files->path("man.names.json")).contains(R"("7":"walk")"));
+        // What is typed there is not lost with the mesh.
+        name->setFocus();
+        name->selectAll();
+        QTest::keyClicks(name, QStringLiteral("run"));
+        const Hand hand({Hand::press(QMessageBox::Cancel)});
+        window.openFiles({write("other.skinnedmesh")});
+        QVERIFY(hand.seen.size() == 1 && hand.seen[0].contains("man.skinnedmesh"));
+        QCOMPARE(blocks->itemText(1), QString("1: run"));
 
         // A bone is called by both names under the mouse.
         auto *view = find<KVOpenGLWidget>(window, "viewSkinned");

@@ -89,6 +89,39 @@ private slots:
         }
     }
 
+    void anAnimationsNameIsTheMeshs()
+    {
+        Panes panes;
+        panes.openPlain();
+        QUndoStack &steps = panes.mesh.undo();
+        QUndoGroup window;
+        window.addStack(&steps);
+        window.addStack(&panes.anim.undo());
+        window.setActiveStack(&panes.anim.undo());
+        panes.anim.select({{RecordKind::AnimBlock, {0}}});
+        auto *name = panes.anim.child<QLineEdit>("txtAnimName");
+        name->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&panes.anim.stack));
+        QTest::mouseClick(name, Qt::LeftButton);
+        QVERIFY(name->hasFocus());
+        QTest::keyClick(name, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(name, QStringLiteral("run"));
+        // Whoever saves or replaces the mesh has what is typed there, and the history stays where it was.
+        QVERIFY(steps.isClean() && panes.mesh.document.refusedTyping().isEmpty());
+        QVERIFY(panes.mesh.document.model().animationNames.values().contains(QStringLiteral("run")));
+        QCOMPARE(window.activeStack(), &panes.anim.undo());
+        panes.anim.stack.refresh(); // as the window does
+        QTest::keyClick(name, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(steps.index(), 0);
+        panes.anim.stack.refresh();
+        QTest::keyClick(name, Qt::Key_Y, Qt::ControlModifier);
+        QCOMPARE(steps.index(), 1);
+        // Nothing that is selected, nothing to name.
+        panes.anim.tree.clearSelection();
+        type(name, QStringLiteral("walk"));
+        QCOMPARE(steps.count(), 1);
+    }
+
 private:
     template <typename Command>
     void checkCommand()

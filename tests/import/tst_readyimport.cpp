@@ -4,6 +4,7 @@
 #include "HandScene.h"
 #include "NameTables.h"
 #include "ReadyImport.h"
+#include "RigGltf.h"
 #include "SceneParts.h"
 #include "SmallGltf.h"
 #include "TestSupport.h"
@@ -184,16 +185,20 @@ private slots:
         red.fill(Qt::red);
         QVERIFY(red.save(m_folder.path("Rote Wand.jpg")));
         QVERIFY(red.save(m_folder.path("steel.png")));
-        m_folder.put("tarn.tga", QByteArray::fromHex("000002000000000000000000010001001800ff0000"));
+        const QByteArray blue = QByteArray::fromHex("000002000000000000000000010001001800ff0000");
+        m_folder.put("tarn.tga", blue);
+        m_folder.put("called.png", blue);
+        QVERIFY(QImage(9000, 9000, QImage::Format_Mono).save(m_folder.path("huge.bmp")));
         m_folder.put(
             "m.mtl",
             "newmtl a\nmap_Kd C:\\old\\disk\\Rote Wand.jpg\nnewmtl t\nmap_Kd tarn.tga\n"
             "newmtl b\nKd 0 0.5 0\nnewmtl c\nKd 0 0.5 0\n" // differ by their names only
             "newmtl \xD0\xBA\xD0\xBE\xD1\x82\nmap_Kd steel.png\nnewmtl snow_white\nmap_Kd steel.png\n"
-            "newmtl plain\nKd 1 1 1\nnewmtl unused\nKd 1 0 0\nnewmtl gone\nKd 1 1 1\nmap_Kd gone.png\n");
+            "newmtl plain\nKd 1 1 1\nnewmtl unused\nKd 1 0 0\nnewmtl gone\nKd 1 1 1\nmap_Kd gone.png\n"
+            "newmtl d\nmap_Kd called.png\nnewmtl e\nKd 1 1 1\nmap_Kd huge.bmp\n");
         QByteArray obj = "mtllib m.mtl\nv 0 0 0\nv 1 0 0\nv 0 1 0\nvt 0 0\n";
         for (const char *name :
-             {"a", "t", "b", "c", "\xD0\xBA\xD0\xBE\xD1\x82", "snow_white", "plain", "gone"})
+             {"a", "t", "b", "c", "d", "e", "\xD0\xBA\xD0\xBE\xD1\x82", "snow_white", "plain", "gone"})
             obj += QByteArray("usemtl ") + name + "\nf 1/1 2/1 3/1\n";
         const StaticMesh mesh = importStatic(m_folder.put("two words.obj", obj));
         QStringList names;
@@ -201,21 +206,24 @@ private slots:
             names += surface.materialPath.section('/', -1);
         names.sort();
         // Material files end a value at a blank, and a name in "_white" says that there is no texture.
-        QCOMPARE(names,
-                 QStringList({"___", "a", "b", "c", "gone_white", "plain_white", "snow_white_1", "t"}));
+        QCOMPARE(names, QStringList({"___", "a", "b", "c", "d", "e_white", "gone_white", "plain_white",
+                                     "snow_white_1", "t"}));
         QStringList files;
         for (const QString &texture : m_textures) {
             files += QFileInfo(texture).fileName();
             QVERIFY(!QImage(texture).isNull());
         }
         files.sort();
-        QCOMPARE(files, QStringList({"Rote_Wand.png", "steel.png", "steel.png", "tarn.png", "two_words_b.png",
-                                     "two_words_c.png"}));
+        QCOMPARE(files, QStringList({"Rote_Wand.png", "called.png", "steel.png", "steel.png", "tarn.png",
+                                     "two_words_b.png", "two_words_c.png"}));
         QVERIFY(m_textures.contains(m_folder.path("steel.png"))); // as it is
-        QCOMPARE(QImage(m_folder.path("job/tarn.png")).pixelColor(0, 0), QColor(Qt::blue));
+        for (const char *converted : {"job/tarn.png", "job/called.png"})
+            QCOMPARE(QImage(m_folder.path(converted)).pixelColor(0, 0), QColor(Qt::blue));
         QCOMPARE(QImage(m_folder.path("job/two_words_b.png")).pixelColor(0, 0), QColor(0, 128, 0));
         QCOMPARE(lines(LogSeverity::Warning),
-                 QStringList("two words.obj Material 'gone': its texture 'gone.png' was not found"));
+                 QStringList({"two words.obj Material 'gone': its texture 'gone.png' was not found",
+                              "two words.obj Material 'e': its texture 'huge.bmp' is larger than 67 million "
+                              "pixels, and is left out"}));
 
         // A name longer than a file's may be, and a folder that cannot be made.
         const QByteArray name(300, 'n');
@@ -230,6 +238,45 @@ private slots:
         QCOMPARE(m_textures, QStringList());
         QCOMPARE(lines(LogSeverity::Warning).filter("could not be written").size(), 1);
         QVERIFY(QFile::remove(m_folder.path("job")));
+    }
+
+    void extraBonesThatAreNotMade()
+    {
+        m_choices.extraBones = true;
+        const QString rig =
+            m_folder.put("still.gltf", SmallGltf().file({{"a", {{1, false, {{0, {9, 2, 3}}}}}}}));
+        importSkinned(rig);
+        QCOMPARE(lines(LogSeverity::Info)
+                     .filter("No extra bones are needed: no vertex is farther than 0.0 %")
+                     .size(),
+                 1);
+        m_choices.allClips = false;
+        importSkinned(rig);
+        QCOMPARE(lines(LogSeverity::Info).filter("No extra bones were made: no animation was taken").size(),
+                 1);
+
+        // As many bones as can be posed, every other of which turns, and vertices between two of them.
+        Rig crowd;
+        Rig::Mesh &mesh = crowd.meshes.emplace_back();
+        Rig::Clip &clip = crowd.clips.emplace_back();
+        for (int b = 0; b < 128; ++b) {
+            crowd.nodes.push_back({"bone" + QByteArray::number(b), b == 0 ? -1 : 0, {}, {}, {1, 1, 1}});
+            crowd.joints.push_back(b);
+            crowd.binds.emplace_back();
+            if (b % 2 == 1)
+                clip.channels[{b, "rotation"}] = {{0, {0, 0, 0, 1}}, {1, {0, 0, half, half}}};
+        }
+        crowd.nodes.push_back({"skin", 0, {}, {}, {1, 1, 1}, 0, true});
+        for (int v = 0; v < 129; ++v)
+            mesh.push_back({QVector3D(float(v), float(v % 3), 0),
+                            {0, 0, 1},
+                            {},
+                            {quint16(v % 128), quint16((v + 1) % 128)},
+                            {0.6f, 0.4f}});
+        m_choices.allClips = true;
+        importSkinned(m_folder.put("crowd.gltf", crowd.file()));
+        QCOMPARE(m_mesh.nodes.size(), size_t(128));
+        QCOMPARE(lines(LogSeverity::Warning).filter("There is no room for more extra bones").size(), 1);
     }
 
     void realRigs()

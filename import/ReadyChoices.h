@@ -27,6 +27,7 @@ struct ReadyChoices
     static constexpr double UsualRate = 30.0;
 
     float scale = 1.0f;      ///< game units to one of the source
+    bool isZUp = false;      ///< z of the source points up and its front looks along -y; else y, and z
     double rate = UsualRate; ///< frames a second that clips are sampled with; 0: the source's own if it is
                              ///< between 10 and 60, else the usual one
     bool extraBones = false; ///< gives vertices bones of their own that none of the source's leads well

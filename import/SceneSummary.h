@@ -31,6 +31,8 @@ struct SceneSummary
     qint32 bones = 0; ///< nodes that a skin names
     QVector3D size;   ///< of the whole at rest, in the source's units, in the game's axes: z is the height
     float proposedScale = 1.0f;
+    bool proposesZUp =
+        false; ///< the format has z up, and the reading library leaves it so; `size` is then too
     std::vector<Clip> clips;
     std::vector<Texture> textures;
     QStringList losses; ///< what of it cannot come along, a sentence each

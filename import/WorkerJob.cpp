@@ -64,20 +64,20 @@ void readList(QDataStream &in, std::vector<Item> &items)
 
 void writeReady(QDataStream &out, const ReadyChoices &ready)
 {
-    out << ready.scale << ready.rate << ready.extraBones << ready.allClips;
+    out << ready.scale << ready.isZUp << ready.rate << ready.extraBones << ready.allClips;
     writeList(out, ready.clips);
 }
 
 void readReady(QDataStream &in, ReadyChoices &ready)
 {
-    in >> ready.scale >> ready.rate >> ready.extraBones >> ready.allClips;
+    in >> ready.scale >> ready.isZUp >> ready.rate >> ready.extraBones >> ready.allClips;
     readList(in, ready.clips);
 }
 
 void writeSummary(QDataStream &out, const SceneSummary &summary)
 {
     out << summary.objects << summary.vertices << summary.triangles << summary.bones << summary.size
-        << summary.proposedScale << summary.losses;
+        << summary.proposedScale << summary.proposesZUp << summary.losses;
     writeList(out, summary.clips);
     writeList(out, summary.textures);
 }
@@ -85,7 +85,7 @@ void writeSummary(QDataStream &out, const SceneSummary &summary)
 void readSummary(QDataStream &in, SceneSummary &summary)
 {
     in >> summary.objects >> summary.vertices >> summary.triangles >> summary.bones >> summary.size >>
-        summary.proposedScale >> summary.losses;
+        summary.proposedScale >> summary.proposesZUp >> summary.losses;
     readList(in, summary.clips);
     readList(in, summary.textures);
 }

@@ -16,10 +16,13 @@ constexpr float GreatestRate = 240.0f;
 
 const QString Ready = QStringLiteral("ready");
 const QString Scale = QStringLiteral("scale");
+const QString Up = QStringLiteral("up");
 const QString Rate = QStringLiteral("rate");
 const QString Clips = QStringLiteral("clips");
 const QString ExtraBones = QStringLiteral("extra-bones");
 const QString Auto = QStringLiteral("auto");
+const QString AxisY = QStringLiteral("y");
+const QString AxisZ = QStringLiteral("z");
 const QString Source = QStringLiteral("source");
 
 /// The number of the clip that is called so, or has that number; -1 without one.
@@ -66,6 +69,10 @@ void ReadyOptions::add(CommandLine &line)
         QStringLiteral("Scale the model; with --ready also 'auto', which makes a person about 200 units "
                        "high."),
         QStringLiteral("1"));
+    line.option({Up}, QStringLiteral("axis"),
+                QStringLiteral("With --ready: the axis of the file that points up, y or z, or 'auto', which "
+                               "takes z where the format has it so."),
+                AxisY);
     line.option(
         {Rate}, QStringLiteral("number"),
         QStringLiteral("With --ready: frames a second of animations, or 'source' for the file's own."),
@@ -82,8 +89,8 @@ void ReadyOptions::add(CommandLine &line)
 std::optional<int> ReadyOptions::read(const CommandLine &line, ImportChoices &choices)
 {
     const bool isReady = line.isSet(Ready);
-    if (!isReady && (line.isSet(Rate) || line.isSet(Clips) || line.isSet(ExtraBones)))
-        return line.refuse(QStringLiteral("--rate, --clips and --extra-bones need --ready."));
+    if (!isReady && (line.isSet(Up) || line.isSet(Rate) || line.isSet(Clips) || line.isSet(ExtraBones)))
+        return line.refuse(QStringLiteral("--up, --rate, --clips and --extra-bones need --ready."));
     if (line.isSet(ExtraBones) && choices.isStatic)
         return line.refuse(QStringLiteral("A static mesh has no bones, so no --extra-bones."));
     if (!isReady || line.value(Scale) != Auto) {
@@ -94,6 +101,10 @@ std::optional<int> ReadyOptions::read(const CommandLine &line, ImportChoices &ch
     }
     if (!isReady)
         return {};
+    const QString up = line.value(Up);
+    if (up != AxisY && up != AxisZ && up != Auto)
+        return line.refuse(QStringLiteral("--up: y, z or auto, not '%1'.").arg(up));
+    choices.ready.isZUp = up == AxisZ;
     for (const char *option : {"no-normals", "flip-uv", "flip-winding", "no-rotate"}) {
         if (line.isSet(QLatin1String(option)))
             return line.refuse(QStringLiteral("--%1 means nothing with --ready.").arg(QLatin1String(option)));
@@ -111,7 +122,8 @@ std::optional<int> ReadyOptions::read(const CommandLine &line, ImportChoices &ch
 std::optional<int> ReadyOptions::lookUp(const CommandLine &line, int seconds, ImportChoices &choices)
 {
     const bool isAuto = line.value(Scale) == Auto;
-    if (choices.arrival != Arrival::Ready || (!isAuto && !line.isSet(Clips)))
+    const bool asksUp = line.value(Up) == Auto;
+    if (choices.arrival != Arrival::Ready || (!isAuto && !asksUp && !line.isSet(Clips)))
         return {};
     WorkerJob job = importJob(choices);
     job.task = WorkerJob::Task::Summarize;
@@ -123,5 +135,7 @@ std::optional<int> ReadyOptions::lookUp(const CommandLine &line, int seconds, Im
     }
     if (isAuto)
         choices.ready.scale = worker.summary().proposedScale;
+    if (asksUp)
+        choices.ready.isZUp = worker.summary().proposesZUp;
     return line.isSet(Clips) ? readClips(line, worker.summary(), choices.ready) : std::nullopt;
 }

@@ -89,9 +89,10 @@ korvane() {
     sleep 3
 }
 
+# Each picture begins with the layout of a first start, so nothing is to be kept, as it is when the program is asked to end.
 quit() {
-    kill "$korvane_pid"
-    wait "$korvane_pid" || true
+    kill -KILL "$korvane_pid"
+    wait "$korvane_pid" 2>/dev/null || true
 }
 
 press() {

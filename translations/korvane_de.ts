@@ -4628,6 +4628,22 @@ Hände und Füße (x0.25): %6</translation>
         <source>A vertex of the game follows one bone. Those that several bones or stretched ones move, and that would be off by more than 1 % of the model&apos;s size, get bones of their own, up to 128 in all. The animation file grows.</source>
         <translation>Im Spiel folgt ein Vertex einem Knochen. Vertices, die mehrere oder gestreckte Knochen bewegen und die um mehr als 1 % der Modellgröße daneben lägen, bekommen eigene Knochen, bis zu 128 insgesamt. Die Animationsdatei wird größer.</translation>
     </message>
+    <message>
+        <source>Up axis</source>
+        <translation>Achse nach oben</translation>
+    </message>
+    <message>
+        <source>Which axis of the file points up. It is proposed for each file: z where its format has it so, such as SMD and STL, and y else. The other one sets upright what arrives lying down.</source>
+        <translation>Welche Achse der Datei nach oben zeigt. Sie wird für jede Datei vorgeschlagen: z, wo das Format es so hat, etwa SMD und STL, sonst y. Die andere richtet auf, was liegend ankommt.</translation>
+    </message>
+    <message>
+        <source>Y is up in the file</source>
+        <translation>In der Datei ist Y oben</translation>
+    </message>
+    <message>
+        <source>Z is up in the file</source>
+        <translation>In der Datei ist Z oben</translation>
+    </message>
 </context>
 <context>
     <name>RecentFiles</name>

@@ -29,12 +29,14 @@ ReadyPage::ReadyPage(QWidget *parent)
     m_ui->treeClips->header()->setSectionResizeMode(ClipLength, QHeaderView::ResizeToContents);
     m_ui->treeClips->header()->setSectionResizeMode(ClipLoop, QHeaderView::ResizeToContents);
     m_ui->cbClipLoop->setNames(loopNames());
+    m_ui->cbReadyUp->setNames({tr("Y is up in the file"), tr("Z is up in the file")});
     const float rate = Settings::ImportReadyRate.value();
     m_ui->cbReadyOwnRate->setChecked(rate <= 0.0f);
     m_ui->sbReadyRate->setValue(rate > 0.0f
                                     ? qBound(m_ui->sbReadyRate->minimum(), rate, m_ui->sbReadyRate->maximum())
                                     : float(ReadyChoices::UsualRate));
     connect(m_ui->sbReadyScale, &FloatSpinBox::valueEdited, this, &ReadyPage::showSize);
+    connect(m_ui->cbReadyUp, &ChoiceBox::valueEdited, this, &ReadyPage::turnSize);
     connect(m_ui->sbReadyRate, &FloatSpinBox::valueEdited, this, &ReadyPage::storeRate);
     connect(m_ui->cbReadyOwnRate, &QCheckBox::toggled, this, &ReadyPage::storeRate);
     m_ui->cbExtraBones->setChecked(Settings::ImportReadyExtraBones.value());
@@ -81,6 +83,7 @@ void ReadyPage::setSummary(const SceneSummary *summary)
         tell(*row);
     }
     m_ui->sbReadyScale->setValue(summary ? summary->proposedScale : 1.0f);
+    m_ui->cbReadyUp->setValue(summary && summary->proposesZUp ? 1 : 0);
     setEnabled(summary);
     for (QWidget *widget : ofAnimations())
         widget->setEnabled(clips > 0);
@@ -93,6 +96,7 @@ ReadyChoices ReadyPage::choices() const
 {
     ReadyChoices choices;
     choices.scale = m_ui->sbReadyScale->value();
+    choices.isZUp = m_ui->cbReadyUp->value() == 1;
     choices.rate = m_ui->cbReadyOwnRate->isChecked() ? 0.0 : double(m_ui->sbReadyRate->value());
     choices.extraBones = m_ui->cbExtraBones->isChecked();
     choices.allClips = !m_isKnown;
@@ -110,6 +114,12 @@ void ReadyPage::showSize()
         m_isKnown
             ? tr("%1 units; a person is about 200 high").arg(sizeText(m_size * m_ui->sbReadyScale->value()))
             : QString());
+}
+
+void ReadyPage::turnSize()
+{
+    m_size = QVector3D(m_size.x(), m_size.z(), m_size.y());
+    showSize();
 }
 
 void ReadyPage::storeRate()

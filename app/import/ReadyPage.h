@@ -16,8 +16,8 @@ namespace Ui {
 class ReadyPage;
 }
 
-/// The choices for a model that arrives ready for the game: its scale, which of its animations come along,
-/// how they are sampled and looped, and whether vertices get bones of their own.
+/// The choices for a model that arrives ready for the game: its scale, its up axis, which of its animations
+/// come along, how they are sampled and looped, and whether vertices get bones of their own.
 class ReadyPage : public QWidget
 {
     Q_OBJECT
@@ -36,6 +36,7 @@ public:
 private:
     std::vector<QWidget *> ofAnimations() const;
     void showSize();
+    void turnSize();
     void storeRate();
     void checkAll(Qt::CheckState state);
     void showLoop();
@@ -45,5 +46,5 @@ private:
 
     std::unique_ptr<Ui::ReadyPage> m_ui;
     bool m_isKnown = false; ///< what the file holds
-    QVector3D m_size;       ///< of the file
+    QVector3D m_size;       ///< of the file, its height last
 };

@@ -188,7 +188,7 @@ std::vector<bool> ReadyClips::moved() const
 std::vector<Matrix4> ReadyClips::restWorld() const
 {
     return m_nodes.worldPlaces(m_nodes.restPlaces(), std::vector<bool>(size_t(m_nodes.count()), true),
-                               double(m_choices.scale));
+                               SceneNodes::toGame(m_choices));
 }
 
 qint64 ReadyClips::frames() const
@@ -212,11 +212,11 @@ void ReadyClips::eachPose(const Taken &taken, const ReadySkeleton &skeleton, con
     std::vector<Matrix4> places = m_nodes.restPlaces();
     SkeletonPose pose;
     // From the rest pose on, so that quaternions keep their signs and what is flattened its last rotation.
-    const double scale = double(m_choices.scale);
-    skeleton.pose(m_nodes.worldPlaces(places, wanted, scale), pose);
+    const Matrix4 toGame = SceneNodes::toGame(m_choices);
+    skeleton.pose(m_nodes.worldPlaces(places, wanted, toGame), pose);
     for (int frame = 0; frame < taken.frames; frame += step) {
         m_clips[size_t(taken.choice.clip)].place(frame / taken.rate, places);
-        const std::vector<Matrix4> world = m_nodes.worldPlaces(places, wanted, scale);
+        const std::vector<Matrix4> world = m_nodes.worldPlaces(places, wanted, toGame);
         skeleton.pose(world, pose);
         look(world, pose);
     }
@@ -226,7 +226,7 @@ std::vector<double> ReadyClips::movements(const ReadySkeleton &skeleton, const S
 {
     const size_t bones = size_t(skeleton.count());
     SkeletonPose rest;
-    skeleton.pose(m_nodes.worldPlaces(m_nodes.restPlaces(), skeleton.wanted(), double(m_choices.scale)),
+    skeleton.pose(m_nodes.worldPlaces(m_nodes.restPlaces(), skeleton.wanted(), SceneNodes::toGame(m_choices)),
                   rest);
     // How far from a bone's origin vertices are that go with it or with one below it.
     std::vector<double> reach(bones);

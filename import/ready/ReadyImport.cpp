@@ -295,8 +295,9 @@ StaticMesh importReadyStaticMesh(const ReadySource &ready, QStringList &textures
         return mesh;
     const SceneNodes nodes(*source.scene);
     const std::vector<bool> everything(size_t(nodes.count()), true);
-    const SceneParts parts(*source.scene, nodes,
-                           nodes.worldPlaces(nodes.restPlaces(), everything, double(ready.choices.scale)));
+    const SceneParts parts(
+        *source.scene, nodes,
+        nodes.worldPlaces(nodes.restPlaces(), everything, SceneNodes::toGame(ready.choices)));
     const std::vector<size_t> surfaceOf = addSurfaces(source, parts, ready.textureFolder, mesh);
     if (messages.hasError() || addGeometry(source, parts, surfaceOf, mesh))
         return mesh;

@@ -123,12 +123,19 @@ std::vector<Matrix4> SceneNodes::restPlaces() const
     return places;
 }
 
-std::vector<Matrix4> SceneNodes::worldPlaces(const std::vector<Matrix4> &places,
-                                             const std::vector<bool> &wanted, double scale) const
+Matrix4 SceneNodes::toGame(const ReadyChoices &choices)
 {
-    // The scene's y is up, the game's z; the front, which looks along z there, looks along -y here. Once, in
-    // front of the root: what the file says of its own axes is in the root's place already.
-    const Matrix4 toGame(scale, 0, 0, 0, 0, 0, -scale, 0, 0, scale, 0, 0, 0, 0, 0, 1);
+    const auto s = double(choices.scale);
+    if (choices.isZUp)
+        return Matrix4(s, 0, 0, 0, 0, s, 0, 0, 0, 0, s, 0, 0, 0, 0, 1);
+    // The scene's y is up, the game's z; the front, which looks along z there, looks along -y here.
+    return Matrix4(s, 0, 0, 0, 0, 0, -s, 0, 0, s, 0, 0, 0, 0, 0, 1);
+}
+
+std::vector<Matrix4> SceneNodes::worldPlaces(const std::vector<Matrix4> &places,
+                                             const std::vector<bool> &wanted, const Matrix4 &toGame) const
+{
+    // Once, in front of the root: what the file says of its own axes is in the root's place already.
     std::vector<Matrix4> world(m_nodes.size());
     for (size_t i = 0; i < m_nodes.size(); ++i) {
         if (wanted[i])

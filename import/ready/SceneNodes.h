@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ReadyChoices.h"
 #include "SceneMath.h"
 
 #include <assimp/scene.h>
@@ -40,10 +41,12 @@ public:
 
     /// Where the nodes stand at rest, relative to their parents.
     std::vector<Matrix4> restPlaces() const;
-    /// Where those stand in the model's space that `wanted` marks with all above them: upright, in game
-    /// units, of which one of the source has `scale`. `places` are relative to the parents.
+    /// Turns the scene upright, into game units.
+    static Matrix4 toGame(const ReadyChoices &choices);
+    /// Where those stand in the model's space, to which `toGame` leads from the scene's, that `wanted` marks
+    /// with all above them. `places` are relative to the parents.
     std::vector<Matrix4> worldPlaces(const std::vector<Matrix4> &places, const std::vector<bool> &wanted,
-                                     double scale) const;
+                                     const Matrix4 &toGame) const;
 
 private:
     struct Listed

@@ -9,6 +9,7 @@
 #include "TextureSearch.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QSet>
 
 #include <assimp/Importer.hpp>
@@ -47,7 +48,16 @@ bool isFinite(const aiVector3D &place)
     return std::isfinite(place.x) && std::isfinite(place.y) && std::isfinite(place.z);
 }
 
-/// The box around what is at rest, in the game's axes: x, -z and y of the scene's.
+/// Formats that say no axes and are read as they are, of programs and games whose z is up.
+bool isZUp(const QString &path)
+{
+    static const QSet<QString> formats = {QStringLiteral("cob"), QStringLiteral("ply"),
+                                          QStringLiteral("scn"), QStringLiteral("smd"),
+                                          QStringLiteral("stl"), QStringLiteral("vta")};
+    return formats.contains(QFileInfo(path).suffix().toLower());
+}
+
+/// The box around what is at rest, in the scene's axes.
 class Extent
 {
 public:
@@ -55,10 +65,9 @@ public:
     {
         if (!isFinite(place))
             return;
-        const QVector3D turned(place.x, -place.z, place.y);
-        for (int axis = 0; axis < 3; ++axis) {
-            m_low[axis] = std::min(m_low[axis], turned[axis]);
-            m_high[axis] = std::max(m_high[axis], turned[axis]);
+        for (unsigned axis = 0; axis < 3; ++axis) {
+            m_low[int(axis)] = std::min(m_low[int(axis)], place[axis]);
+            m_high[int(axis)] = std::max(m_high[int(axis)], place[axis]);
         }
     }
     QVector3D size() const { return m_low.x() <= m_high.x() ? m_high - m_low : QVector3D(); }
@@ -116,7 +125,9 @@ public:
                     addInstance(*m_scene.mMeshes[node->mMeshes[i]], transform, extent, summary);
             }
         }
-        summary.size = extent.size();
+        const QVector3D size = extent.size();
+        summary.proposesZUp = isZUp(m_modelPath);
+        summary.size = summary.proposesZUp ? size : QVector3D(size.x(), size.z(), size.y());
         summary.objects = qint32(m_shown.size());
         summary.bones = qint32(m_bones.size());
         summary.clips = std::move(m_clips);

@@ -47,6 +47,10 @@ _korvane_tool() {
         mapfile -t COMPREPLY < <(compgen -W 'transparent black white gray' -- "$cur")
         return
         ;;
+    --up)
+        mapfile -t COMPREPLY < <(compgen -W 'y z auto' -- "$cur")
+        return
+        ;;
     --scale | --rate | --clips | --time-limit | --block | --frame | --size | --yaw | --pitch)
         return
         ;;
@@ -58,8 +62,8 @@ _korvane_tool() {
     resave) options='--output --force --help' ;;
     import)
         options='--output --static --force --keep-materials --no-normals --flip-uv --flip-winding --no-rotate --scale
-            --ready --rate --clips --extra-bones --mod-path --create-kmat --copy-textures --kmat --texture-folder
-            --time-limit --update --anim --drop-missing --help'
+            --ready --up --rate --clips --extra-bones --mod-path --create-kmat --copy-textures --kmat
+            --texture-folder --time-limit --update --anim --drop-missing --help'
         ;;
     export)
         options='--output --gltf --anim --block --pose --frame --force --game-path --mod-path --help'

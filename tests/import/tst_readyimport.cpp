@@ -152,6 +152,11 @@ private slots:
         };
         check(rigid);
         check(m_mesh);
+        m_choices.isZUp = true;
+        const StaticMesh lying = importStatic(
+            m_folder.put("z.obj", "v 0 -1 0\nv 2 -1 0\nv 0 -1 4\nvt 0.25 0.75\nf 1/1 2/1 3/1\n"));
+        check(lying); // the same wedge, as programs whose z is up have it
+        m_choices.isZUp = false;
         QCOMPARE(m_mesh.nodes[0].bbMax, m_mesh.bbMax);
 
         importSkinned(m_folder.put("line.obj", "v 0 0 1\nv 2 0 1\nv 2 1 1\nl 1 2\nl 2 3\n"));
@@ -171,7 +176,8 @@ private slots:
         made.scene.mMeshes = new aiMesh *[1] { mesh };
         const SceneNodes nodes(made.scene);
         const std::vector<bool> all(size_t(nodes.count()), true);
-        const SceneParts parts(made.scene, nodes, nodes.worldPlaces(nodes.restPlaces(), all, 1.0));
+        const SceneParts parts(made.scene, nodes,
+                               nodes.worldPlaces(nodes.restPlaces(), all, SceneNodes::toGame({})));
         QCOMPARE(parts.parts().size(), size_t(2));
         QVERIFY(Matrix3(parts.parts()[1].movers[0].place).Determinant() < 0.0);
         const Vector3 normal = normalMatrix(parts.parts()[1].movers[0].place) * Vector3(1, 0, 0);

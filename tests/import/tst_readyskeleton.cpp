@@ -177,10 +177,10 @@ private slots:
         const Turn turn = Turn(0.5, 0.5, 0.5, 0.5);
         std::vector<Matrix4> places{Matrix4(), placed({1, 1, 1}, turn), placed({2, 1, 1}, turn)};
         SkeletonPose pose;
-        skeleton.pose(nodes.worldPlaces(places, all, 1.0), pose);
+        skeleton.pose(nodes.worldPlaces(places, all, SceneNodes::toGame({})), pose);
         places[2] = placed({0, 0, 0}, Turn());
         places[1] = placed({1, 1, 1}, Turn(-1, 0, 0, 0));
-        skeleton.pose(nodes.worldPlaces(places, all, 1.0), pose);
+        skeleton.pose(nodes.worldPlaces(places, all, SceneNodes::toGame({})), pose);
         QVERIFY(isClose(pose.local[1].turn, turn));
         QVERIFY(isClose(single(pose.local[1].origin), {1, 2, 3}));
         QVERIFY(dot(pose.local[0].turn, Turn(half, half, 0, 0)) > 0.99); // upright, by the sign that it had

@@ -48,6 +48,9 @@ private slots:
         QTest::newRow("ms3d_jeep/jeep1.ms3d")
             << "1 0 1948 2032" << QVector3D(11.1f, 16.6f, 7.64f) << 110.0f << "0"
             << "beside .\\jeep1.jpg" << none;
+        // Of a format whose z is up.
+        QTest::newRow("stl_multibody/multibody.stl")
+            << "2 0 73 32" << QVector3D(0.636f, 1.088f, 0.340f) << 110.0f << "0" << none << none;
         QTest::newRow("3ds_alpha/cubes_with_alpha.3DS")
             << "5 0 120 60" << QVector3D(955.1f, 1282.2f, 516.6f) << 1.1f << "0"
             << "missing BERETTA_.JPG" << none;

@@ -51,6 +51,7 @@ private slots:
             {"import x.obj -o / --scale auto", "'auto'"},
             {"import x.obj -o / --clips 1", "need --ready"},
             {"import x.obj -o / --extra-bones", "need --ready"},
+            {"import x.obj -o / --ready --up x", "y, z or auto, not 'x'"},
             {"import x.obj -o / --ready --static --extra-bones", "has no bones"},
             {"import x.obj -o / --ready --rate 0", "--rate"},
             {"import x.obj -o / --ready --flip-uv", "--flip-uv"},

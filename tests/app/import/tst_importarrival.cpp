@@ -84,6 +84,9 @@ private slots:
                     ->text()
                     .endsWith(QString::fromUtf8("× 200 units; a person is about 200 high")));
         QCOMPARE(tree->topLevelItem(0)->text(1), QStringLiteral("1.00 s"));
+        // The height is the file's z when that is its up axis.
+        QTest::keyClick(find<ChoiceBox>(dialog, "cbReadyUp"), Qt::Key_Down);
+        QVERIFY(!find<QLabel>(dialog, "lblReadySize")->text().contains(QString::fromUtf8("× 200 units")));
 
         // One that cannot be read says so before it is imported, and takes the choices of the other along.
         auto *path = find<QLineEdit>(dialog, "txtModelPath");

@@ -3,6 +3,7 @@
 #include "DocumentPanes.h"
 
 #include "AnimTrackFrame.h"
+#include "FileSystem.h"
 #include "FolderExplorer.h"
 #include "KVOpenGLWidget.h"
 #include "KVTreeView.h"
@@ -252,7 +253,7 @@ void DocumentPanes::OnReplaced(DocumentType type)
     const DocumentPane &replaced = pane(type);
     replaced.viewport->playbackChanged(); // at once, rather than at the next idle look
     const QString path = replaced.document->path();
-    if (std::exchange(m_paths[size_t(type)], path) == path && !path.isEmpty())
+    if (FileSystem::isSamePath(std::exchange(m_paths[size_t(type)], path), path) && !path.isEmpty())
         return; // only read again
     frame(type);
     replaced.explorer->setLoadedPath(replaced.document->path());

@@ -89,10 +89,15 @@ korvane() {
     sleep 3
 }
 
-# Each picture begins with the layout of a first start, so nothing is to be kept, as it is when the program is asked to end.
-quit() {
+end() {
     kill -KILL "$korvane_pid"
-    wait "$korvane_pid" 2>/dev/null || true
+    wait "$korvane_pid" 2>>"$log" || true
+}
+
+# A program that is asked to end keeps its layout and unsaved work; the next picture is to begin without.
+quit() {
+    end
+    rm -rf "$XDG_DATA_HOME/Korvane/Korvane/recovery"
 }
 
 press() {
@@ -307,8 +312,7 @@ recovery_pictures() {
     korvane "$(first skinnedmesh)" "$(first anim)"
     in_tree Down Down Right Down Insert
     sleep 5
-    kill -KILL "$korvane_pid"
-    wait "$korvane_pid" 2>>"$log" || true
+    end
     korvane "$(first skinnedmesh)" "$(first anim)"
     part "$folder/notice.png" -crop 1600x130+0+0
     command recover
@@ -388,7 +392,6 @@ blender_pictures() {
     in_tree Down Right Down Down Down Down Down Down
     grab "$main" "$folder/blender.png"
     quit
-    rm -rf "$XDG_DATA_HOME/Korvane/Korvane/recovery"
 
     mkdir -p "${edited%/*}"
     # Names of the same length, so that nothing else of the file has to change. Its first numbers are places.

@@ -70,7 +70,7 @@ bool readForExport(const QString &path, ExportPicture &picture)
 
 QString warning(const QString &text)
 {
-    return QStringLiteral("[glTF Export] %1").arg(text);
+    return QCoreApplication::translate("Import", "[glTF Export] %1").arg(text);
 }
 } // namespace
 

@@ -2388,6 +2388,10 @@ Ohne diese Eingabe fortfahren?</translation>
         <source>%1 Material &apos;%2&apos;: its texture &apos;%3&apos; is larger than %4 million pixels, and is left out</source>
         <translation>%1 Material „%2“: Seine Textur „%3“ ist größer als %4 Millionen Pixel und bleibt weg</translation>
     </message>
+    <message>
+        <source>[glTF Export] %1</source>
+        <translation>[glTF-Export] %1</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>

@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QMessageBox>
+#include <QShowEvent>
 #include <QTimer>
 
 RecoverDialog::RecoverDialog(Recovery &recovery, QWidget *parent)

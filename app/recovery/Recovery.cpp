@@ -7,8 +7,8 @@
 #include "Log.h"
 #include "TypingField.h"
 
-#include <QCoreApplication>
 #include <QEvent>
+#include <QGuiApplication>
 #include <QWidget>
 
 #include <algorithm>

@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "FormatMutator.h"
 #include "LiteralFormat.h"
 #include "Require.h"
 #include "SampleModels.h"
+
+extern "C" size_t LLVMFuzzerMutate(uint8_t *data, size_t size, size_t most);
 
 namespace Fuzz {
 /// Reads `data` as a file of the model's kind and checks that
@@ -41,5 +44,17 @@ void checkModelFile(const QString &suffix, const uint8_t *data, size_t size)
     Model again;
     require(!SampleModels::readBytes(again, written), "what was written can be read");
     require(SampleModels::bytesOf(again) == written, "what was written reads back to the same");
+}
+
+/// For LLVMFuzzerCustomMutator: now the library's own bytes, now a field at its border.
+inline size_t mutateModelFile(const QString &suffix, uint8_t *data, size_t size, size_t most, unsigned seed)
+{
+    if (seed % 2 == 0)
+        return LLVMFuzzerMutate(data, size, most);
+    const QByteArray bytes(reinterpret_cast<const char *>(data), int(size));
+    const QByteArray mutated = FormatMutator(seed).mutated(suffix, bytes);
+    const size_t kept = std::min(size_t(mutated.size()), most);
+    std::memcpy(data, mutated.constData(), kept);
+    return kept;
 }
 } // namespace Fuzz

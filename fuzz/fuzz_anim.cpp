@@ -2,9 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "FuzzModel.h"
 
+namespace {
+const QString Suffix = QStringLiteral("anim");
+} // namespace
+
+extern "C" size_t LLVMFuzzerCustomMutator(uint8_t *data, size_t size, size_t most, unsigned seed)
+{
+    return Fuzz::mutateModelFile(Suffix, data, size, most, seed);
+}
+
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const QString suffix = QStringLiteral("anim");
-    Fuzz::checkModelFile<AnimFile>(suffix, data, size);
+    Fuzz::checkModelFile<AnimFile>(Suffix, data, size);
     return 0;
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Playground.h"
 
+#include "FormatMutator.h"
 #include "Settings.h"
 #include "TestSupport.h"
 
@@ -9,6 +10,7 @@
 
 namespace {
 constexpr qint64 LargestForeignFolder = 48 * 1024;
+constexpr int MutantsKept = 12;
 
 const QString OwnNames[] = {"*.skinnedmesh", "*.anim", "*.staticmesh"};
 const QStringList ModelFolders{"/game", "/mod", "/import", "/damaged"};
@@ -146,6 +148,18 @@ QString Playground::damagedModel(Dice &dice)
     const QString to = QStringLiteral("%1/damaged/%2.%3")
                            .arg(m_root, QString::number(m_damaged++ % 12), QFileInfo(from).suffix());
     TestSupport::writeFile(to, damaged(TestSupport::readFile(from), dice));
+    return to;
+}
+
+QString Playground::mutant(int number, Dice &dice) const
+{
+    const QString from = model(dice);
+    const QString suffix = QFileInfo(from).suffix();
+    const QString name = QStringLiteral("%1/damaged/mutant %2.").arg(m_root);
+    for (const QString &old : OwnNames)
+        QFile::remove(name.arg(number - MutantsKept) + old.mid(2));
+    const QString to = name.arg(number) + suffix;
+    TestSupport::writeFile(to, FormatMutator(dice.next()).mutated(suffix, TestSupport::readFile(from)));
     return to;
 }
 

@@ -30,6 +30,8 @@ public:
     QString foreignModel(Dice &dice) const;
     /// A copy of one of our own that was cut off or has wrong bytes in it.
     QString damagedModel(Dice &dice);
+    /// A copy of one with fields at their borders, under a name with that number. One of an old number goes.
+    QString mutant(int number, Dice &dice) const;
     QString folder(Dice &dice) const;
     /// What another program may do to a file: cuts it, appends to it, writes another file's bytes over it, or
     /// removes it. Says what it did.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Journal.h"
 #include "Monkey.h"
+#include "MutantRun.h"
 #include "Playground.h"
 #include "WriteGuard.h"
 
@@ -29,6 +30,29 @@ quint64 number(const QCommandLineParser &options, const QString &name)
     if (!ok)
         qFatal("monkey: --%s takes a number, not '%s'", qPrintable(name), qPrintable(text));
     return value;
+}
+void runMonkey(Playground &playground, Journal &journal, quint64 seed, const Monkey::Limits &limits)
+{
+    QElapsedTimer clock;
+    clock.start();
+    Monkey monkey(playground, journal, seed, limits);
+    for (const char *scheme : {"http", "https", "file"})
+        QDesktopServices::setUrlHandler(QLatin1String(scheme), &monkey, "countLink");
+    monkey.run();
+    std::printf("monkey: clean; seed %llu, %d steps in %lld s, %d links, %d writes elsewhere refused\n",
+                static_cast<unsigned long long>(seed), monkey.steps(),
+                static_cast<long long>(clock.elapsed() / 1000), monkey.linksOpened(), WriteGuard::refusals());
+}
+
+void runMutants(Playground &playground, Journal &journal, quint64 seed, int files, int seconds)
+{
+    QElapsedTimer clock;
+    clock.start();
+    MutantRun run(playground, journal, seed);
+    run.run(files, seconds);
+    std::printf("mutants: clean; seed %llu, %d files in %lld s, of which %d could be read\n",
+                static_cast<unsigned long long>(seed), run.files(),
+                static_cast<long long>(clock.elapsed() / 1000), run.opened());
 }
 } // namespace
 
@@ -67,6 +91,8 @@ int main(int argc, char *argv[])
         {"seed", "Number to begin with (default: another each time).", "N"},
         {"steps", "End after this many steps.", "K"},
         {"seconds", "End after this time (default: 60, without --steps).", "S"},
+        {"mutants",
+         "Open this many files with fields at their borders, instead of using the window at random.", "N"},
         {"journal", "Where the steps are written down (default: monkey.log).", "FILE", "monkey.log"},
     });
     options.process(application);
@@ -83,15 +109,11 @@ int main(int argc, char *argv[])
     qInstallMessageHandler(noteMessage);
     WriteGuard::confineTo(playground->root());
 
-    QElapsedTimer clock;
-    clock.start();
-    Monkey monkey(*playground, steps, seed, limits);
-    for (const char *scheme : {"http", "https", "file"})
-        QDesktopServices::setUrlHandler(QLatin1String(scheme), &monkey, "countLink");
-    monkey.run();
-    std::printf("monkey: clean; seed %llu, %d steps in %lld s, %d links, %d writes elsewhere refused\n",
-                static_cast<unsigned long long>(seed), monkey.steps(),
-                static_cast<long long>(clock.elapsed() / 1000), monkey.linksOpened(), WriteGuard::refusals());
+    if (options.isSet("mutants"))
+        runMutants(*playground, steps, seed, int(number(options, "mutants")),
+                   int(number(options, "seconds")));
+    else
+        runMonkey(*playground, steps, seed, limits);
     qInstallMessageHandler(nullptr);
     openJournal = nullptr;
     return 0;

@@ -19,6 +19,13 @@ public:
         int offset;
     };
 
+    struct Scalar
+    {
+        const char *type; ///< "int32", "uint16", "int8", "uint8" or "float"
+        int offset;
+        int width; ///< in bytes
+    };
+
     /// `suffix` is that of the files: "skinnedmesh", "anim" or "staticmesh".
     LiteralFormat(const QString &suffix, const QByteArray &bytes)
         : m_bytes(bytes)
@@ -36,6 +43,17 @@ public:
     /// How many bytes were read.
     int length() const { return m_types.size(); }
     QVector<Count> counts() const { return m_counts; }
+    /// What was read, one after the other.
+    QVector<Scalar> scalars() const
+    {
+        QVector<Scalar> all;
+        for (int at = 0; at < m_types.size(); at += all.last().width) {
+            const QLatin1String type(m_types.at(at));
+            const int width = type == QLatin1String("uint16") ? 2 : type.endsWith(QLatin1Char('8')) ? 1 : 4;
+            all.append({type.data(), at, width});
+        }
+        return all;
+    }
     /// A negative count stood where the file holds a list, so that it is not written back as it was.
     bool hasNegativeCount() const { return m_negative; }
 

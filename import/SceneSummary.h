@@ -6,6 +6,7 @@
 #include <QStringList>
 #include <QVector3D>
 
+#include <utility>
 #include <vector>
 
 /// What a foreign file holds, before anything is taken of it.
@@ -31,9 +32,20 @@ struct SceneSummary
     qint32 bones = 0; ///< nodes that a skin names
     QVector3D size;   ///< of the whole at rest, in the source's units, in the game's axes: z is the height
     float proposedScale = 1.0f;
+    float otherScale = 1.0f; ///< what is proposed if the other axis is up
     bool proposesZUp =
         false; ///< the format has z up, and the reading library leaves it so; `size` is then too
     std::vector<Clip> clips;
     std::vector<Texture> textures;
     QStringList losses; ///< what of it cannot come along, a sentence each
+
+    /// The same with the other axis up.
+    SceneSummary turned() const
+    {
+        SceneSummary turned = *this;
+        turned.size = QVector3D(size.x(), size.z(), size.y());
+        std::swap(turned.proposedScale, turned.otherScale);
+        turned.proposesZUp = !proposesZUp;
+        return turned;
+    }
 };

@@ -6,21 +6,45 @@
 #include <QFileInfo>
 
 namespace {
-/// That file, or one beside it that other systems do not tell from it.
+/// What that name, or one that other systems do not tell from it, stands for in the folder; empty without
+/// one.
+QString entryNamed(const QString &name, const QDir &folder)
+{
+    if (QFileInfo::exists(folder.filePath(name)))
+        return name;
+    const QStringList names = folder.entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString &each : names) {
+        if (each.compare(name, Qt::CaseInsensitive) == 0)
+            return each;
+    }
+    return {};
+}
+
+/// That file, or one whose name and folder's name other systems do not tell from it.
 QString existing(const QString &path)
 {
     if (QFileInfo(path).isFile())
         return path;
     const QFileInfo file(path);
-    const QDir folder = file.dir();
-    if (file.fileName().isEmpty() || file.fileName().contains(QLatin1Char('*')) || !folder.exists())
+    if (file.fileName().isEmpty() || file.fileName().contains(QLatin1Char('*')))
         return {};
-    const QStringList names = folder.entryList(QDir::Files);
-    for (const QString &name : names) {
-        if (name.compare(file.fileName(), Qt::CaseInsensitive) == 0)
-            return folder.filePath(name);
+    QDir folder = file.dir();
+    if (!folder.exists()) {
+        const QFileInfo missing(folder.path());
+        const QString name = entryNamed(missing.fileName(), missing.dir());
+        if (name.isEmpty())
+            return {};
+        folder.setPath(missing.dir().filePath(name));
     }
-    return {};
+    const QString name = entryNamed(file.fileName(), folder);
+    const QString found = folder.filePath(name);
+    return !name.isEmpty() && QFileInfo(found).isFile() ? found : QString();
+}
+
+/// The same as a link's name: "my%20wall.png" is "my wall.png".
+QString decoded(const QString &name)
+{
+    return QString::fromUtf8(QByteArray::fromPercentEncoding(name.toUtf8()));
 }
 } // namespace
 
@@ -33,7 +57,9 @@ QString foundTexture(const QString &modelPath, const QString &stored)
         return {};
     const QDir beside = QFileInfo(modelPath).dir();
     const QString bare = named.section(QLatin1Char('/'), -1);
-    const QStringList places{named, bare, QStringLiteral("textures/") + bare};
+    const QString textures = QStringLiteral("textures/");
+    const QStringList places{named,          bare,          textures + bare,
+                             decoded(named), decoded(bare), textures + decoded(bare)};
     for (const QString &place : places) {
         const QFileInfo file(beside, place);
         const QString asPng =

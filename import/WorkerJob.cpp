@@ -77,7 +77,7 @@ void readReady(QDataStream &in, ReadyChoices &ready)
 void writeSummary(QDataStream &out, const SceneSummary &summary)
 {
     out << summary.objects << summary.vertices << summary.triangles << summary.bones << summary.size
-        << summary.proposedScale << summary.proposesZUp << summary.losses;
+        << summary.proposedScale << summary.otherScale << summary.proposesZUp << summary.losses;
     writeList(out, summary.clips);
     writeList(out, summary.textures);
 }
@@ -85,7 +85,7 @@ void writeSummary(QDataStream &out, const SceneSummary &summary)
 void readSummary(QDataStream &in, SceneSummary &summary)
 {
     in >> summary.objects >> summary.vertices >> summary.triangles >> summary.bones >> summary.size >>
-        summary.proposedScale >> summary.proposesZUp >> summary.losses;
+        summary.proposedScale >> summary.otherScale >> summary.proposesZUp >> summary.losses;
     readList(in, summary.clips);
     readList(in, summary.textures);
 }

@@ -99,14 +99,7 @@ struct Results
     ModelNames names;
     QString target; ///< without the extension
 
-    /// The file of the names; empty when there are none, neither of this model nor of one that was there.
-    QString namesFile() const
-    {
-        const QString path = ModelNames::pathFor(target + QStringLiteral(".skinnedmesh"));
-        ModelNames there;
-        const bool isStale = !there.read(path) && !there.isEmpty();
-        return names.isEmpty() && !isStale ? QString() : path;
-    }
+    QString namesFile() const { return namesFileFor(names, target + QStringLiteral(".skinnedmesh")); }
 };
 
 /// The models that the import would replace.

@@ -60,10 +60,11 @@ std::optional<int> readClips(const CommandLine &line, const SceneSummary &summar
 void ReadyOptions::add(CommandLine &line)
 {
     line.flag(Ready,
-              QStringLiteral("Make the model ready for the game: upright, all its parts where they stand, "
-                             "its bones and animations as the game poses them. Names of bones and "
-                             "animations go into NAME.names.json. Other turns and normals are not "
-                             "asked for then."));
+              QStringLiteral(
+                  "Make the model ready for the game: upright (see --up), all its parts where they stand, "
+                  "its bones and animations as the game poses them. Names of bones and "
+                  "animations go into NAME.names.json. Other turns and normals are not "
+                  "asked for then."));
     line.option(
         {Scale}, QStringLiteral("factor"),
         QStringLiteral("Scale the model; with --ready also 'auto', which makes a person about 200 units "
@@ -93,6 +94,8 @@ std::optional<int> ReadyOptions::read(const CommandLine &line, ImportChoices &ch
         return line.refuse(QStringLiteral("--up, --rate, --clips and --extra-bones need --ready."));
     if (line.isSet(ExtraBones) && choices.isStatic)
         return line.refuse(QStringLiteral("A static mesh has no bones, so no --extra-bones."));
+    if ((line.isSet(Rate) || line.isSet(Clips)) && choices.isStatic)
+        return line.refuse(QStringLiteral("A static mesh has no animations, so neither --rate nor --clips."));
     if (!isReady || line.value(Scale) != Auto) {
         const auto scale = line.number(Scale, LeastScale, GreatestScale);
         if (!scale)
@@ -133,9 +136,11 @@ std::optional<int> ReadyOptions::lookUp(const CommandLine &line, int seconds, Im
         Output::tell(worker.messages());
         return Failed;
     }
-    if (isAuto)
-        choices.ready.scale = worker.summary().proposedScale;
+    const SceneSummary &summary = worker.summary();
     if (asksUp)
-        choices.ready.isZUp = worker.summary().proposesZUp;
-    return line.isSet(Clips) ? readClips(line, worker.summary(), choices.ready) : std::nullopt;
+        choices.ready.isZUp = summary.proposesZUp;
+    if (isAuto)
+        choices.ready.scale =
+            choices.ready.isZUp == summary.proposesZUp ? summary.proposedScale : summary.otherScale;
+    return line.isSet(Clips) ? readClips(line, summary, choices.ready) : std::nullopt;
 }

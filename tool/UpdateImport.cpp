@@ -50,6 +50,14 @@ bool addOwnNames(ModelNames &added, const QString &meshPath)
 }
 } // namespace
 
+QString namesFileFor(const ModelNames &names, const QString &mesh)
+{
+    const QString path = ModelNames::pathFor(mesh);
+    ModelNames there;
+    const bool isStale = !there.read(path) && !there.isEmpty();
+    return names.isEmpty() && !isStale ? QString() : path;
+}
+
 bool writeNames(const ModelNames &names, const QString &path)
 {
     const QString reason = writeWholeFile(path, names.toJson());
@@ -75,9 +83,9 @@ std::optional<int> checkUpdateOptions(const CommandLine &line)
     const bool isUpdate = line.isSet(QStringLiteral("update"));
     if (!isUpdate && (line.isSet(QStringLiteral("anim")) || line.isSet(QStringLiteral("drop-missing"))))
         return line.refuse(QStringLiteral("--anim and --drop-missing need --update."));
-    for (const char *option :
-         {"static", "keep-materials", "no-normals", "flip-uv", "flip-winding", "no-rotate", "ready", "scale",
-          "rate", "clips", "mod-path", "create-kmat", "copy-textures", "kmat", "texture-folder"}) {
+    for (const char *option : {"static", "keep-materials", "no-normals", "flip-uv", "flip-winding",
+                               "no-rotate", "ready", "scale", "up", "extra-bones", "rate", "clips",
+                               "mod-path", "create-kmat", "copy-textures", "kmat", "texture-folder"}) {
         if (isUpdate && line.isSet(QLatin1String(option)))
             return line.refuse(
                 QStringLiteral("--%1 means nothing with --update.").arg(QLatin1String(option)));
@@ -140,13 +148,13 @@ int updateFromFile(const CommandLine &line, int timeLimit)
     if (model.rigid())
         return Output::writeModel(rigid, targets[0]) ? Failed : Fine;
     ModelNames names = worker.names();
-    const QString namesFile = names.isEmpty() ? QString() : ModelNames::pathFor(targets[0]);
+    if (addOwnNames(names, model.meshPath))
+        return Failed;
+    const QString namesFile = namesFileFor(names, targets[0]);
     if (!namesFile.isEmpty() && !line.isSet(QStringLiteral("force")) && isTaken(namesFile) &&
         Output::refuseToReplace({namesFile}))
         return Failed;
-    bool failed = !namesFile.isEmpty() && addOwnNames(names, model.meshPath);
-    if (!namesFile.isEmpty() && !failed)
-        failed = writeNames(names, namesFile);
+    bool failed = !namesFile.isEmpty() && writeNames(names, namesFile);
     failed = Output::writeModel(skinned, targets[0]) || failed;
     return (model.animFile() && Output::writeModel(anim, targets[1])) || failed ? Failed : Fine;
 }

@@ -10,6 +10,9 @@ class QString;
 
 /// The options of `import` that bring a file back over the model that it was exported from.
 void addUpdateOptions(CommandLine &line);
+/// The file of the names of a mesh that is written there; empty when there are none, neither of this one nor
+/// of one that was there.
+QString namesFileFor(const ModelNames &names, const QString &mesh);
 /// Writes the file of a model's names and says which. Returns true on failure.
 [[nodiscard]] bool writeNames(const ModelNames &names, const QString &path);
 /// Refuses what of the other options means nothing with them, and them without `--update`; gives the exit

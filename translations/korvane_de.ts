@@ -381,6 +381,10 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>The name belongs to %1, and is saved with it (Save All).</source>
         <translation>Der Name gehört zu %1 und wird damit gespeichert (Alle speichern).</translation>
     </message>
+    <message>
+        <source>In this field undo and redo are about names, and the next step is none.</source>
+        <translation>In diesem Feld geht es bei Rückgängig und Wiederholen um Namen, und der nächste Schritt ist keiner.</translation>
+    </message>
 </context>
 <context>
     <name>AnimFilePage</name>

@@ -158,6 +158,7 @@ void ImportDialog::connectEditors()
     connect(m_paths, &OutputPaths::createKMatToggled, this, &ImportDialog::OnCBCreateKMatChanged);
     connect(m_ui->gbArrives, &ArrivalChoice::chosen, this, &ImportDialog::OnArrivalChanged);
     connect(m_ui->contents, &ModelContents::looked, this, &ImportDialog::OnContentsLooked);
+    connect(m_ui->pageReady, &ReadyPage::turned, m_ui->contents, &ModelContents::tell);
     connect(m_ui->cbSwapYZ, &QCheckBox::toggled, this, &ImportDialog::OnSwapYZChanged);
     connect(m_ui->cbGenNormals, &QCheckBox::toggled, this, &ImportDialog::OnGenNormalsChanged);
     connect(m_ui->cbFlipUV, &QCheckBox::toggled, this, &ImportDialog::OnFlipUVChanged);

@@ -69,7 +69,7 @@ void ModelContents::onFinished()
     m_progress->hide();
     m_isKnown = !messages.hasError();
     if (m_isKnown) {
-        say(summaryText(m_worker->summary()));
+        tell(m_worker->summary());
     } else {
         QStringList errors;
         for (const ImportMessage &line : messages.lines) {
@@ -81,6 +81,11 @@ void ModelContents::onFinished()
     }
     m_worker->discard();
     emit looked();
+}
+
+void ModelContents::tell(const SceneSummary &summary)
+{
+    say(summaryText(summary));
 }
 
 void ModelContents::say(const QString &html)

@@ -23,6 +23,8 @@ public:
     /// Looks into this file, and gives up the one before; an empty path is none.
     void look(const QString &path);
     bool isLooking() const { return m_worker && m_worker->isRunning(); }
+    /// Says what a file holds.
+    void tell(const SceneSummary &summary);
     /// Null unless the last file could be read.
     const SceneSummary *summary() const { return m_isKnown ? &m_worker->summary() : nullptr; }
 

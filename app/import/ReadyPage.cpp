@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ReadyPage.h"
 
-#include "SceneSummary.h"
+#include "Fuzzy.h"
 #include "Settings.h"
 #include "SummaryText.h"
 #include "ui_ReadyPage.h"
@@ -36,7 +36,7 @@ ReadyPage::ReadyPage(QWidget *parent)
                                     ? qBound(m_ui->sbReadyRate->minimum(), rate, m_ui->sbReadyRate->maximum())
                                     : float(ReadyChoices::UsualRate));
     connect(m_ui->sbReadyScale, &FloatSpinBox::valueEdited, this, &ReadyPage::showSize);
-    connect(m_ui->cbReadyUp, &ChoiceBox::valueEdited, this, &ReadyPage::turnSize);
+    connect(m_ui->cbReadyUp, &ChoiceBox::valueEdited, this, &ReadyPage::turn);
     connect(m_ui->sbReadyRate, &FloatSpinBox::valueEdited, this, &ReadyPage::storeRate);
     connect(m_ui->cbReadyOwnRate, &QCheckBox::toggled, this, &ReadyPage::storeRate);
     m_ui->cbExtraBones->setChecked(Settings::ImportReadyExtraBones.value());
@@ -68,8 +68,7 @@ void ReadyPage::setHasAnimations(bool on)
 void ReadyPage::setSummary(const SceneSummary *summary)
 {
     const QSignalBlocker blocker(m_ui->treeClips);
-    m_isKnown = summary;
-    m_size = summary ? summary->size : QVector3D();
+    m_known = summary ? std::optional(*summary) : std::nullopt;
     m_ui->treeClips->clear();
     const size_t clips = summary ? summary->clips.size() : 0;
     for (size_t i = 0; i < clips; ++i) {
@@ -99,7 +98,7 @@ ReadyChoices ReadyPage::choices() const
     choices.isZUp = m_ui->cbReadyUp->value() == 1;
     choices.rate = m_ui->cbReadyOwnRate->isChecked() ? 0.0 : double(m_ui->sbReadyRate->value());
     choices.extraBones = m_ui->cbExtraBones->isChecked();
-    choices.allClips = !m_isKnown;
+    choices.allClips = !m_known;
     for (int i = 0; i < m_ui->treeClips->topLevelItemCount(); ++i) {
         const QTreeWidgetItem &row = *m_ui->treeClips->topLevelItem(i);
         if (row.checkState(ClipName) == Qt::Checked)
@@ -110,16 +109,20 @@ ReadyChoices ReadyPage::choices() const
 
 void ReadyPage::showSize()
 {
-    m_ui->lblReadySize->setText(
-        m_isKnown
-            ? tr("%1 units; a person is about 200 high").arg(sizeText(m_size * m_ui->sbReadyScale->value()))
-            : QString());
+    m_ui->lblReadySize->setText(m_known ? tr("%1 units; a person is about 200 high")
+                                              .arg(sizeText(m_known->size * m_ui->sbReadyScale->value()))
+                                        : QString());
 }
 
-void ReadyPage::turnSize()
+void ReadyPage::turn()
 {
-    m_size = QVector3D(m_size.x(), m_size.z(), m_size.y());
+    // A scale of one's own stays.
+    const bool isProposed = fuzzyEqual(m_ui->sbReadyScale->value(), m_known->proposedScale);
+    m_known = m_known->turned();
+    if (isProposed)
+        m_ui->sbReadyScale->setValue(m_known->proposedScale);
     showSize();
+    emit turned(*m_known);
 }
 
 void ReadyPage::storeRate()

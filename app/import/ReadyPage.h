@@ -3,14 +3,14 @@
 #pragma once
 
 #include "ReadyChoices.h"
+#include "SceneSummary.h"
 
-#include <QVector3D>
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 class QTreeWidgetItem;
-struct SceneSummary;
 
 namespace Ui {
 class ReadyPage;
@@ -33,10 +33,14 @@ public:
 
     ReadyChoices choices() const;
 
+signals:
+    /// The other axis was chosen to be up.
+    void turned(const SceneSummary &summary);
+
 private:
     std::vector<QWidget *> ofAnimations() const;
     void showSize();
-    void turnSize();
+    void turn();
     void storeRate();
     void checkAll(Qt::CheckState state);
     void showLoop();
@@ -45,6 +49,5 @@ private:
     void tell(QTreeWidgetItem &row) const;
 
     std::unique_ptr<Ui::ReadyPage> m_ui;
-    bool m_isKnown = false; ///< what the file holds
-    QVector3D m_size;       ///< of the file, its height last
+    std::optional<SceneSummary> m_known; ///< with the axis up that is chosen
 };

@@ -9,7 +9,9 @@
 #include "TextureSearch.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSet>
 
 #include <assimp/Importer.hpp>
@@ -29,7 +31,8 @@ constexpr double UnitsPerPerson = 200.0;
 constexpr double CentimetersPerMeter = 100.0;
 constexpr int PosedBones = 128; // the game poses no more
 constexpr unsigned VertexLimit = 65535;
-constexpr double UsualTicks = 25.0; // a second, where the file does not say
+constexpr double UsualTicks = 25.0;     // a second, where the file does not say
+constexpr qint64 MetricBytes = 1 << 16; ///< at the beginning of a file, where its measures stand
 /// Of a weight that tells, and of a change of size that does.
 constexpr float Noticed = 0.001f;
 
@@ -48,13 +51,21 @@ bool isFinite(const aiVector3D &place)
     return std::isfinite(place.x) && std::isfinite(place.y) && std::isfinite(place.z);
 }
 
-/// Formats that say no axes and are read as they are, of programs and games whose z is up.
+/// Formats that say no axes and are read as they are, of programs and games whose z is up; and one that says
+/// its own, which is z unless it says y, and is read as it is all the same.
 bool isZUp(const QString &path)
 {
     static const QSet<QString> formats = {QStringLiteral("cob"), QStringLiteral("ply"),
                                           QStringLiteral("scn"), QStringLiteral("smd"),
                                           QStringLiteral("stl"), QStringLiteral("vta")};
-    return formats.contains(QFileInfo(path).suffix().toLower());
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    if (suffix != QLatin1String("ogex"))
+        return formats.contains(suffix);
+    static const QRegularExpression yIsUp(
+        QStringLiteral(R"(\bMetric\b[^{]*"up"[^{]*\{\s*string\s*\{\s*"y")"));
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) &&
+           !yIsUp.match(QString::fromUtf8(file.read(MetricBytes))).hasMatch();
 }
 
 /// The box around what is at rest, in the scene's axes.
@@ -132,7 +143,10 @@ public:
         summary.bones = qint32(m_bones.size());
         summary.clips = std::move(m_clips);
         summary.textures = std::move(m_textures);
-        summary.proposedScale = facts.isOurs ? 1.0f : float(proposedScale(summary.size, summary.bones > 0));
+        if (!facts.isOurs) {
+            summary.proposedScale = float(proposedScale(summary.size, summary.bones > 0));
+            summary.otherScale = float(proposedScale(summary.turned().size, summary.bones > 0));
+        }
         summary.losses = losses(summary.vertices, facts);
         return summary;
     }

@@ -13,6 +13,7 @@
 #include <QFileInfo>
 #include <QHash>
 
+#include <assimp/DefaultIOSystem.h>
 #include <assimp/Importer.hpp>
 #include <assimp/postprocess.h>
 
@@ -126,12 +127,30 @@ void addVertices(const aiMesh &from, Mesh &to)
             vertex.normal = vector3(from.mNormals[i]);
     }
 }
+/// Files that a model names in the way of links: "big%20wall.bin" is "big wall.bin", unless there is one of
+/// that very name.
+class LinkedFiles : public Assimp::DefaultIOSystem
+{
+public:
+    bool Exists(const char *path) const override
+    {
+        return DefaultIOSystem::Exists(path) || DefaultIOSystem::Exists(decoded(path));
+    }
+    Assimp::IOStream *Open(const char *path, const char *mode) override
+    {
+        return DefaultIOSystem::Open(DefaultIOSystem::Exists(path) ? path : decoded(path).constData(), mode);
+    }
+
+private:
+    static QByteArray decoded(const char *path) { return QByteArray::fromPercentEncoding(path); }
+};
 } // namespace
 
 const aiScene *readScene(Assimp::Importer &importer, const char *operation, const SceneSource &source,
                          quint32 flags)
 {
     qCDebug(importLog, "[%s] '%s'", operation, qUtf8Printable(source.modelPath));
+    importer.SetIOHandler(new LinkedFiles);
     const aiScene *scene = importer.ReadFile(source.modelPath.toUtf8().constData(), flags);
     if (!scene || !scene->mRootNode) {
         source.messages.addError(

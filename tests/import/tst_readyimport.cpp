@@ -85,6 +85,11 @@ private slots:
         QCOMPARE(int(m_anim.blocks[1].loopFrame), 0xFFFF);
         QVERIFY(isClose(m_anim.blocks[0].nodes[0].initialPosition, {10, -30, 20}));
         QCOMPARE(m_mesh.nodes.size(), size_t(3)); // bones depend on the file, not on what is taken
+        m_choices.isZUp = true;
+        importSkinned(m_folder.path("rig.gltf"));
+        QVERIFY(isClose(m_anim.blocks[0].nodes[0].initialPosition, {10, 20, 30}));
+        QVERIFY(isClose(m_anim.blocks[0].nodes[0].initialRotation.toVector3D(), {}));
+        m_choices.isZUp = false;
 
         // Without any, the rest pose stands in a block: nothing else holds it.
         m_choices.clips.clear();

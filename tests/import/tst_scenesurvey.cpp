@@ -51,6 +51,8 @@ private slots:
         // Of a format whose z is up.
         QTest::newRow("stl_multibody/multibody.stl")
             << "2 0 73 32" << QVector3D(0.636f, 1.088f, 0.340f) << 110.0f << "0" << none << none;
+        QTest::newRow("ogex_example/Example.ogex") // says so
+            << "2 0 48 24" << QVector3D(236.6f, 102.1f, 93.1f) << 1.1f << "0" << none << none;
         QTest::newRow("3ds_alpha/cubes_with_alpha.3DS")
             << "5 0 120 60" << QVector3D(955.1f, 1282.2f, 516.6f) << 1.1f << "0"
             << "missing BERETTA_.JPG" << none;
@@ -186,6 +188,10 @@ Connections: {
                                        << "b.tga";
         QTest::newRow("the usual folder") << "/home/me/c.png"
                                           << "textures/c.png";
+        QTest::newRow("a folder in other letters") << "SKINS/a.png"
+                                                   << "skins/a.png";
+        QTest::newRow("a link") << "skins/my%20wall.png"
+                                << "skins/my wall.png";
         QTest::newRow("not there") << "d.png" << QString();
         QTest::newRow("a folder") << "skins/" << QString();
         QTest::newRow("nothing") << QString() << QString();
@@ -194,7 +200,7 @@ Connections: {
     void texturesAreLookedFor()
     {
         const TestFolder folder;
-        for (const char *name : {"skins/a.png", "b.tga", "textures/c.png"})
+        for (const char *name : {"skins/a.png", "skins/my wall.png", "b.tga", "textures/c.png"})
             folder.put(name, "picture");
         QFETCH(QString, stored);
         QFETCH(QString, found);

@@ -52,6 +52,8 @@ private slots:
             {"import x.obj -o / --clips 1", "need --ready"},
             {"import x.obj -o / --extra-bones", "need --ready"},
             {"import x.obj -o / --ready --up x", "y, z or auto, not 'x'"},
+            {"import x.obj -o / --ready --static --clips 1", "has no animations"},
+            {"import x.glb -o / --update x --extra-bones", "means nothing with --update"},
             {"import x.obj -o / --ready --static --extra-bones", "has no bones"},
             {"import x.obj -o / --ready --rate 0", "--rate"},
             {"import x.obj -o / --ready --flip-uv", "--flip-uv"},
@@ -313,6 +315,21 @@ private slots:
         QCOMPARE(names.bones.value(1), QString("arm"));
         QCOMPARE(names.animations.value(7), QString("walk"));
         QVERIFY((mesh.bbMax - mesh.bbMin).length() > 100.0f);
+
+        // A file that was made with z up.
+        const QString solid =
+            put("wall.stl", "solid wall\nfacet normal 0 -1 0\nouter loop\nvertex 0 0 0\n"
+                            "vertex 9 0 0\nvertex 0 0 40\nendloop\nendfacet\nendsolid wall\n");
+        StaticMesh wall;
+        for (const char *axis : {"auto", "z"}) {
+            const ToolRun turned("import --static --ready --force --up", {axis, "-o", path(), solid});
+            QVERIFY2(turned.exitCode == 0, qUtf8Printable(turned.err));
+            QVERIFY(!wall.read(path("wall.staticmesh")));
+            QCOMPARE(wall.bbMax, QVector3D(9, 0, 40));
+        }
+        QCOMPARE(ToolRun("import --static --ready --force -o", {path(), solid}).exitCode, 0);
+        QVERIFY(!wall.read(path("wall.staticmesh")));
+        QCOMPARE(wall.bbMin, QVector3D(0, -40, 0));
     }
 
     void importFailures()

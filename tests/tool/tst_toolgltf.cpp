@@ -73,14 +73,26 @@ private slots:
         const ToolRun alone("import --force --drop-missing", more.mid(1));
         QVERIFY(alone.exitCode == 2 && alone.err.contains("need --update"));
 
+        // As a new model, whose parts are named as links are.
+        QCOMPARE(ToolRun("export --gltf", {mesh, "-o", path("two words.gltf")}).exitCode, 0);
+        for (const char *words : {"import -o", "import --ready --force -o"}) {
+            const ToolRun made(words, {path("back"), path("two words.gltf")});
+            QVERIFY2(made.exitCode == 0, qUtf8Printable(made.err));
+        }
+
         // One animation alone says nothing of the others; a model of another name is told of.
         QCOMPARE(ToolRun("export --gltf --force --block 1", {mesh, "-o", path("tinker.glb")}).exitCode, 0);
         QVERIFY(QFile::copy(mesh, path("other.skinnedmesh")));
+        put("other.names.json", "{\"bones\": {\"0\": \"mine\"}}");
         const ToolRun other(
             "import --drop-missing --update",
             {path("other.skinnedmesh"), "--anim", anim, path("tinker.glb"), "--force", "-o", path("back")});
         QCOMPARE(other.exitCode, 0);
         QVERIFY(other.err.contains("exported from 'tinker', not from 'other'"));
+        QVERIFY(readFile(path("back/other.names.json")).contains("mine")); // the mesh's own go along
+        put("back/tinker.names.json", "{\"bones\": {\"0\": \"a stranger\"}}");
+        QCOMPARE(ToolRun("import --force --update", more).exitCode, 0);
+        QVERIFY(!readFile(path("back/tinker.names.json")).contains("stranger"));
         QCOMPARE(readFile(path("back/tinker.anim")), readFile(anim));
 
         // What is new has its name in the file of names, beside those that are there.

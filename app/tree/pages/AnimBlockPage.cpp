@@ -84,8 +84,10 @@ void AnimBlockPage::nameSelected(const QString &name)
     emit told(tr("The name belongs to %1, and is saved with it (Save All).").arg(m_mesh.fileName()));
 }
 
-/// The name's undo and redo are about names, of which the mesh has the steps; all others are the window's.
-bool AnimBlockPage::isStepOfName(const QObject *watched, QEvent *event, int &step) const
+/// Whether a key there is an undo or redo that is not about what is being typed, which the field takes back
+/// itself. `step` is then where it leads in the mesh's history, which has the steps of names; none when the
+/// next is another.
+bool AnimBlockPage::isStepOfName(const QObject *watched, QEvent *event, std::optional<int> &step) const
 {
     if (watched != m_ui.txtAnimName ||
         (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress))
@@ -94,26 +96,29 @@ bool AnimBlockPage::isStepOfName(const QObject *watched, QEvent *event, int &ste
     const bool isUndo = key->matches(QKeySequence::Undo);
     const bool isRedo = key->matches(QKeySequence::Redo) ||
                         (key->key() == Qt::Key_Y && key->modifiers() == Qt::ControlModifier);
-    // What is being typed is taken back by the field itself.
     const TextField &field = *m_ui.txtAnimName;
     if (isUndo == isRedo || field.isTyping() || (isUndo ? field.isUndoAvailable() : field.isRedoAvailable()))
         return false;
     const QUndoStack *stack = m_mesh.undoStack();
-    step = stack->index() + (isUndo ? -1 : 1);
-    const int about = isUndo ? step : step - 1;
-    return about >= 0 && about < stack->count() &&
-           dynamic_cast<const UC_SkinnedMeshAnimationNames *>(stack->command(about));
+    const int about = stack->index() - (isUndo ? 1 : 0);
+    step.reset();
+    if (about >= 0 && about < stack->count() &&
+        dynamic_cast<const UC_SkinnedMeshAnimationNames *>(stack->command(about)))
+        step = isUndo ? about : about + 1;
+    return true;
 }
 
 bool AnimBlockPage::eventFilter(QObject *watched, QEvent *event)
 {
-    int step = 0;
+    std::optional<int> step;
     if (!isStepOfName(watched, event, step))
         return RecordPage::eventFilter(watched, event);
     if (event->type() == QEvent::ShortcutOverride)
         event->accept();
-    else if (!m_mesh.returnToTyping() && isStepOfName(watched, event, step))
-        m_mesh.undoStack()->setIndex(step);
+    else if (!step)
+        emit told(tr("In this field undo and redo are about names, and the next step is none."));
+    else if (!m_mesh.returnToTyping() && isStepOfName(watched, event, step) && step)
+        m_mesh.undoStack()->setIndex(*step);
     return true;
 }
 

@@ -5,6 +5,8 @@
 #include "PropertyPage.h"
 #include "ui_AnimBlockPage.h"
 
+#include <optional>
+
 /// The fields of an animation block.
 class AnimBlockPage : public RecordPage<Records::Block>
 {
@@ -32,7 +34,7 @@ private:
     void bindName();
     QString nameOf(const AnimBlock *block) const;
     void nameSelected(const QString &name);
-    bool isStepOfName(const QObject *watched, QEvent *event, int &step) const;
+    bool isStepOfName(const QObject *watched, QEvent *event, std::optional<int> &step) const;
 
     AnimDocument &m_anim;
     const KVTreeView &m_tree;

@@ -84,9 +84,22 @@ private slots:
                     ->text()
                     .endsWith(QString::fromUtf8("× 200 units; a person is about 200 high")));
         QCOMPARE(tree->topLevelItem(0)->text(1), QStringLiteral("1.00 s"));
-        // The height is the file's z when that is its up axis.
-        QTest::keyClick(find<ChoiceBox>(dialog, "cbReadyUp"), Qt::Key_Down);
-        QVERIFY(!find<QLabel>(dialog, "lblReadySize")->text().contains(QString::fromUtf8("× 200 units")));
+        // With the other axis up the height is another, and so is what makes that a person's, unless the
+        // scale is somebody's own.
+        auto *up = find<ChoiceBox>(dialog, "cbReadyUp");
+        auto *scale = find<FloatSpinBox>(dialog, "sbReadyScale");
+        const QString standing = text->toPlainText();
+        QTest::keyClick(up, Qt::Key_Down);
+        const float other = scale->value();
+        QVERIFY(other != 10.0f && text->toPlainText() != standing);
+        QTest::keyClick(up, Qt::Key_Up);
+        QCOMPARE(scale->value(), 10.0f);
+        QCOMPARE(text->toPlainText(), standing);
+        QTest::keyClick(scale, Qt::Key_Up);
+        const float own = scale->value();
+        QTest::keyClick(up, Qt::Key_Down);
+        QVERIFY(own != 10.0f);
+        QCOMPARE(scale->value(), own);
 
         // One that cannot be read says so before it is imported, and takes the choices of the other along.
         auto *path = find<QLineEdit>(dialog, "txtModelPath");

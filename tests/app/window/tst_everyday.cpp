@@ -313,6 +313,14 @@ private slots:
         QCOMPARE(name->text(), QString("walk"));
         // So is the history, wherever the keys are.
         typeNumber(loop, 3);
+        // In the field of a name undo is about names alone, also when there is none left.
+        name->setFocus();
+        for (int i = 0; i < 3; ++i)
+            QTest::keyClick(name, Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(name->text().isEmpty());
+        QCOMPARE(loop->value(), 3);
+        QTest::keyClick(name, Qt::Key_Y, Qt::ControlModifier);
+        QCOMPARE(name->text(), QString("walk"));
         find<QDockWidget>(window, "dockHistory")->show();
         auto *history = find<QUndoView>(window, "viewHistory");
         QTest::mouseClick(name, Qt::LeftButton);

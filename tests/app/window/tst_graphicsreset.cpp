@@ -29,8 +29,7 @@ private slots:
         waitForNotice(window);
         const RecordRef bone{RecordKind::Bone, {1, 0, 0}};
         select(window, "treeSkinnedMesh", {bone});
-        waitForFrame(skinned);
-        const int before = whitePixels(skinned);
+        const int before = settledPixels(skinned);
         QVERIFY(before > 100);
         const QRect geometry = window.geometry();
         const QString title = window.windowTitle();
@@ -100,6 +99,18 @@ private:
         QSignalSpy swapped(view, &QOpenGLWidget::frameSwapped);
         view->update();
         QTRY_VERIFY(!swapped.isEmpty());
+    }
+    /// How many are white once three frames in a row have as many: the screen is a little behind the view.
+    static int settledPixels(KVOpenGLWidget *view)
+    {
+        int pixels = -1;
+        for (int alike = 0, frames = 0; alike < 3 && frames < 100; ++frames) {
+            waitForFrame(view);
+            const int now = whitePixels(view);
+            alike = now == pixels ? alike + 1 : 0;
+            pixels = now;
+        }
+        return pixels;
     }
     static QSurfaceFormat impossibleFormat()
     {

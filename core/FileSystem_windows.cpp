@@ -91,7 +91,11 @@ bool copyBytes(QFileDevice &written, const QString &path)
 
 QString FileSystem::comparable(const QString &path)
 {
-    return QDir::cleanPath(QDir::fromNativeSeparators(path)).toCaseFolded();
+    // Letter by letter, as the system does: the double s of a sharp s is not the same there.
+    QString folded = QDir::cleanPath(QDir::fromNativeSeparators(path));
+    for (QChar &letter : folded)
+        letter = letter.toUpper();
+    return folded;
 }
 
 bool FileSystem::isOwn(const QFileInfo &)

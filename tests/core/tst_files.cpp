@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "FileNames.h"
+#include "FileSystem.h"
 #include "FolderLock.h"
+#include "SpecialFiles.h"
 #include "TestSupport.h"
 #include "WholeFile.h"
 
@@ -47,6 +49,19 @@ private slots:
         QCOMPARE(FileNames::problem(path).contains(name), name != portable);
     }
 
+    void pathsAreComparedAsTheSystemDoes()
+    {
+        const TestFolder folder;
+        const QString path = folder.put(QString::fromUtf8("Sk\u00c4ld.png"), "");
+        for (const char *name : {"Sk\u00c4ld.png", "sk\u00e4LD.PNG", "Skald.png", "Sk\u00c4ld.kmat"}) {
+            const QString other = folder.path(QString::fromUtf8(name));
+            QVERIFY2(FileSystem::isSamePath(path, other) == QFile::exists(other), name);
+        }
+        const QString sharp = folder.put(QString::fromUtf8("Fu\u00df.png"), ""),
+                      folded = folder.path("Fuss.png");
+        QVERIFY(!QFile::exists(folded) && !FileSystem::isSamePath(sharp, folded));
+    }
+
     void aLockGoesWithItsFile()
     {
         const TestFolder folder;
@@ -65,7 +80,12 @@ private slots:
         QFile holder(path);
         QVERIFY(holder.open(QIODevice::ReadOnly));
         const QString reason = writeWholeFile(path, "new");
-#ifdef Q_OS_WIN
+        if (SpecialFiles::HeldOnesAreReplaced) {
+            QCOMPARE(reason, QString());
+            QCOMPARE(holder.readAll(), QByteArray("old"));
+            QCOMPARE(TestSupport::readFile(path), QByteArray("new"));
+            return;
+        }
         const QString beside = folder.path("knight.new.anim");
         QVERIFY2(reason.contains(QDir::toNativeSeparators(beside)), qPrintable(reason));
         QCOMPARE(TestSupport::readFile(path), QByteArray("old"));
@@ -73,11 +93,6 @@ private slots:
         QVERIFY(writeWholeFile(path, "newer").contains("knight.new2.anim"));
         holder.close();
         QCOMPARE(writeWholeFile(path, "newest"), QString());
-#else
-        QCOMPARE(reason, QString());
-        QCOMPARE(holder.readAll(), QByteArray("old"));
-        QCOMPARE(TestSupport::readFile(path), QByteArray("new"));
-#endif
     }
 };
 

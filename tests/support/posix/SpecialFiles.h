@@ -7,15 +7,33 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <ctime>
 
 namespace SpecialFiles {
+/// What the system says of a file whose folder is not there.
+inline QString noFolder()
+{
+    return qt_error_string(ENOENT);
+}
+
+/// Whether a file that a program holds open can be replaced.
+constexpr bool HeldOnesAreReplaced = true;
+
 /// The path of a pipe that was made there, at whose other end nobody is.
 inline QString pipe(const QString &path)
 {
     if (mkfifo(QFile::encodeName(path).constData(), 0600) != 0)
         qFatal("no pipe");
     return path;
+}
+
+/// Makes a symbolic link, where a user may.
+inline bool link(const QString &target, const QString &path)
+{
+    if (!QFile::link(target, path))
+        qFatal("no link");
+    return true;
 }
 
 /// Says of a folder that it was changed `seconds` ago.

@@ -7,10 +7,25 @@
 #include <windows.h>
 
 namespace SpecialFiles {
+/// What the system says of a file whose folder is not there.
+inline QString noFolder()
+{
+    return qt_error_string(ERROR_PATH_NOT_FOUND);
+}
+
+/// Whether a file that a program holds open can be replaced.
+constexpr bool HeldOnesAreReplaced = false;
+
 /// The path of a device: pipes have no place among the files here.
 inline QString pipe(const QString &)
 {
     return QStringLiteral("NUL");
+}
+
+/// Makes a symbolic link, where a user may: not here.
+inline bool link(const QString &, const QString &)
+{
+    return false;
 }
 
 /// Says of a folder that it was changed `seconds` ago.

@@ -139,6 +139,10 @@ DWORD WINAPI reportException(void *)
                               ? reinterpret_cast<const void *>(record.ExceptionInformation[1])
                               : record.ExceptionAddress;
     writeReport(record.ExceptionCode, address, *crash->ContextRecord);
+    // What the system does about it next may take more than is left of that stack, and end as if all were
+    // well.
+    if (record.ExceptionCode == EXCEPTION_STACK_OVERFLOW)
+        TerminateProcess(GetCurrentProcess(), record.ExceptionCode);
     SetEvent(reported);
     return 0;
 }

@@ -2,18 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QProcess>
+#include "CrashEnd.h"
 
 #include <windows.h>
-
-/// How a program crashes, how it ends by that, and what the report says of it.
-struct CrashEnd
-{
-    QString way;
-    QProcess::ExitStatus status;
-    int code;
-    QString text;
-};
 
 inline const CrashEnd CrashEnds[] = {
     {"memory", QProcess::CrashExit, int(EXCEPTION_ACCESS_VIOLATION), "a wrong memory access at 0x1234\n"},

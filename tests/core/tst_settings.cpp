@@ -53,7 +53,7 @@ private slots:
     void whatMovesIsWrittenNowAndThen()
     {
         const auto stored = [](const char *line) {
-            return TestSupport::readFile(QSettings().fileName()).contains(line);
+            return TestSupport::readFile(QSettings().fileName()).replace("\r\n", "\n").contains(line);
         };
         Settings::SurfSelectType.setValueSoon(1);
         QVERIFY(stored("SurfSelectType=1")); // the first at once
@@ -139,7 +139,7 @@ private slots:
         Settings::GamePath.setValue("/game");
         const QString path = QSettings().fileName();
         const QByteArray before = TestSupport::readFile(path);
-        {
+        if (FullDisk::IsPossible) {
             const FullDisk disk(before.size());
             Settings::GamePath.setValue("/other");
             Settings::ImportPath.setValue("/import");
@@ -147,7 +147,7 @@ private slots:
             QCOMPARE(Settings::GamePath.value(), QString("/other"));
             QCOMPARE(TestSupport::readFile(path), before);
         }
-        QVERIFY2(log.size() == 1 && log[0].contains(path), qPrintable(log.join('\n')));
+        QCOMPARE(log.filter(path).size(), FullDisk::IsPossible ? 1 : 0);
         Settings::GamePath.setValue("/third");
         QCOMPARE(Settings::GamePath.value(), QString("/third"));
         QVERIFY(TestSupport::readFile(path).contains("GamePath=/third"));

@@ -242,13 +242,16 @@ private slots:
         makeFolder(QStringLiteral("korvane-import-used"), true);
         makeFolder(QStringLiteral("korvane-import-young"), false);
         makeFolder(QStringLiteral("korvane-import-old"), true);
-        QVERIFY(QFile::link(outside, m_temporary.filePath(QStringLiteral("korvane-import-link"))));
+        const QString link = QStringLiteral("korvane-import-link");
+        const bool isLinked = SpecialFiles::link(outside, m_temporary.filePath(link));
         const auto left = [this] {
             return QDir(m_temporary.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name);
         };
         TemporaryFolder::removeAbandoned();
-        const QStringList spared{QStringLiteral("korvane-import-link"), QStringLiteral("korvane-import-used"),
-                                 QStringLiteral("korvane-import-young"), QStringLiteral("outside")};
+        QStringList spared{QStringLiteral("korvane-import-used"), QStringLiteral("korvane-import-young"),
+                           QStringLiteral("outside")};
+        if (isLinked)
+            spared.prepend(link);
         QCOMPARE(left(), spared);
         QVERIFY(QFile::exists(outside + QStringLiteral("/sub/model")));
         lock.reset();

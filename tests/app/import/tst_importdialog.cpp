@@ -6,6 +6,7 @@
 #include "ImportHands.h"
 #include "ImportSteps.h"
 #include "KMat.h"
+#include "SpecialFiles.h"
 
 #include <algorithm>
 #include <memory>
@@ -225,7 +226,8 @@ private slots:
                 break;
             // A folder in which nobody can make a file, not even the administrator.
             QVERIFY(QDir(m_mod->path()).rmdir(QLatin1String(name)));
-            QVERIFY(QFile::link(QStringLiteral("/proc/self"), m_mod->path(QLatin1String(name))));
+            if (!SpecialFiles::link(QStringLiteral("/proc/self"), m_mod->path(QLatin1String(name))))
+                QSKIP("needs a folder in which nobody can make a file");
         }
         const QString path = writeTextured();
         SkinnedMesh skinned;

@@ -6,9 +6,8 @@
 #include "Hand.h"
 #include "KeptWork.h"
 #include "RecoverDialog.h"
+#include "SessionEnd.h"
 #include "SnapshotFile.h"
-
-#include <csignal>
 
 using SampleModels::bytesOf;
 
@@ -86,10 +85,8 @@ private slots:
             run.recovery->keepAll();
             asked += number;
         });
-        raise(SIGHUP);
-        raise(SIGTERM); // both come where a terminal closes
-        QTRY_VERIFY_WITH_TIMEOUT(!asked.isEmpty(), 1500);
-        QCOMPARE(asked, QVector<int>({SIGHUP}));
+        endSession(run.window);
+        QTRY_COMPARE_WITH_TIMEOUT(asked, SignalsOfTheEnd, 1500);
         QCOMPARE(kept().size(), 1);
     }
 
@@ -215,13 +212,13 @@ private slots:
             m_log.clear();
             run.openMesh(manPath());
             const qint64 size = QFileInfo(manPath()).size();
-            for (qint64 limit = 0; limit < size; limit += 16) {
+            for (qint64 limit = 0; FullDisk::IsPossible && limit < size; limit += 16) {
                 const FullDisk disk(limit);
                 run.edit(int(limit / 16) + 1);
                 run.settle();
                 QVERIFY2(kept().isEmpty(), qPrintable(QString::number(limit)));
             }
-            QCOMPARE(m_log.size(), 1);
+            QCOMPARE(m_log.size(), FullDisk::IsPossible ? 1 : 0);
             QTRY_COMPARE(kept().size(), 1);
             QCOMPARE(run.recovery->store().snapshots().size(), 1);
             run.mesh.undoStack()->setIndex(0);

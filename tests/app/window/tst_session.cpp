@@ -123,9 +123,12 @@ private slots:
         QCOMPARE(rootOf(window, "treeAnim"), QString());
         const QStringList lines = consoleOf(window);
         QCOMPARE(lines.size(), 3);
-        QCOMPARE(lines[0], QStringLiteral("[Session] '%1' has changed since the last session").arg(m_mesh));
-        QCOMPARE(lines[1], QStringLiteral("[Session] '%1' is not there any more").arg(m_anim));
-        QVERIFY2(lines[2].contains(m_rigid), qPrintable(lines[2]));
+        QCOMPARE(lines[0], QStringLiteral("[Session] '%1' has changed since the last session")
+                               .arg(QDir::toNativeSeparators(m_mesh)));
+        QCOMPARE(
+            lines[1],
+            QStringLiteral("[Session] '%1' is not there any more").arg(QDir::toNativeSeparators(m_anim)));
+        QVERIFY2(lines[2].contains(QDir::toNativeSeparators(m_rigid)), qPrintable(lines[2]));
     }
 
     void filesOfTheCommandLineWin()

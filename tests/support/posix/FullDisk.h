@@ -25,6 +25,7 @@ public:
         std::signal(SIGXFSZ, m_oldAction);
     }
     bool isSet() const { return m_set; }
+    static constexpr bool IsPossible = true;
 
 private:
     rlimit m_old{};

@@ -4,10 +4,11 @@
 
 #include <QtGlobal>
 
-/// Windows knows no limit of how far a file may grow; what needs one is left out there by name.
+/// Windows knows no limit of how far a file may grow.
 class FullDisk
 {
 public:
     explicit FullDisk(qint64) {}
     bool isSet() const { return false; }
+    static constexpr bool IsPossible = false;
 };

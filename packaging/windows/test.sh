@@ -33,13 +33,40 @@ xvfb-run -a -n 400 -s '-screen 0 1600x1200x24' bash -c "$screen" "$wine" "$serve
 "$server" -k || true
 
 # --- The table ---------------------------------------------------------------------------------------------
-grep -E '^ *[0-9]+/[0-9]+ Test +#' "$build/tests.log" |
-    sed -E 's/^ *[0-9]+\/[0-9]+ Test +#[0-9]+: ([a-z0-9_]+) \.*( *|\*\*\*)([A-Za-z]+).* ([0-9.]+) sec.*/\1 \3 \4/' |
-    awk '{ printf "%-22s %-10s %7.1f s\n", $1, tolower($2), $3 }'
-echo
-echo "Left out:"
-grep -v '^#' "$here/tests-left-out.txt"
-echo
-grep -E 'tests passed' "$build/tests.log" || true
-echo "$((SECONDS - began)) s; all that the tests said is in $build/tests.log"
+# A function has failed when it did with any of its data, and is skipped when it was with all.
+took=$((SECONDS - began))
+table=$build/tests.md
+awk -v seconds="$took" '
+    BEGIN { print "| Program | Functions passed | Seconds | Failed or skipped |\n| --- | ---: | ---: | --- |" }
+    /^[0-9]+\/[0-9]+ Test: / { program = $3; delete state; ended = 0 }
+    /^(PASS|FAIL!|SKIP|XFAIL|XPASS) +: / {
+        name = $0
+        sub(/^[^:]*: [A-Za-z0-9_]*::/, "", name)
+        sub(/\(.*/, "", name)
+        if (name !~ /^(init|cleanup)TestCase$/ && (state[name] != "FAIL!") && (state[name] != "PASS" || $1 == "FAIL!"))
+            state[name] = $1
+    }
+    /^Totals: / { ended = 1 }
+    /^Test time = / {
+        passed = 0
+        others = ended ? "" : ", did not end"
+        for (name in state) {
+            if (state[name] == "PASS")
+                ++passed
+            else
+                others = others ", " name (state[name] == "SKIP" ? " (skipped)" : "")
+        }
+        printf "| `%s` | %d | %.0f | %s |\n", program, passed, $4, substr(others, 3)
+        all += passed
+        ++programs
+    }
+    END { printf "| %d programs | %d | %d | |\n", programs, all, seconds }
+    ' "$build/Testing/Temporary/LastTest.log" >"$table"
+{
+    printf '\n| Left out | Why |\n| --- | --- |\n'
+    sed -n 's/^\([a-zA-Z][a-zA-Z0-9_:]*\)  \(.*\)/| `\1` | \2 |/p' "$here/tests-left-out.txt"
+} >>"$table"
+cat "$table"
+grep -a 'tests passed' "$build/tests.log" || true
+echo "$took s; the table is in $table, and all that the tests said in $build/tests.log"
 exit "$result"

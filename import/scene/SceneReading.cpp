@@ -127,21 +127,21 @@ void addVertices(const aiMesh &from, Mesh &to)
             vertex.normal = vector3(from.mNormals[i]);
     }
 }
+
 /// Files that a model names in the way of links: "big%20wall.bin" is "big wall.bin", unless there is one of
-/// that very name.
+/// that very name. Only regular ones: a pipe, at whose other end nobody is, would be waited for.
 class LinkedFiles : public Assimp::DefaultIOSystem
 {
 public:
-    bool Exists(const char *path) const override
-    {
-        return DefaultIOSystem::Exists(path) || DefaultIOSystem::Exists(decoded(path));
-    }
+    bool Exists(const char *path) const override { return isRegular(path) || isRegular(decoded(path)); }
     Assimp::IOStream *Open(const char *path, const char *mode) override
     {
-        return DefaultIOSystem::Open(DefaultIOSystem::Exists(path) ? path : decoded(path).constData(), mode);
+        const QByteArray found = isRegular(path) ? QByteArray(path) : decoded(path);
+        return isRegular(found) ? DefaultIOSystem::Open(found.constData(), mode) : nullptr;
     }
 
 private:
+    static bool isRegular(const QByteArray &path) { return QFileInfo(QString::fromUtf8(path)).isFile(); }
     static QByteArray decoded(const char *path) { return QByteArray::fromPercentEncoding(path); }
 };
 } // namespace

@@ -3,12 +3,18 @@
 #include "ImportWorker.h"
 
 #include "Language.h"
+#include "Log.h"
+#include "TextureSearch.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QProcessEnvironment>
 
 namespace {
+constexpr int WatchInterval = 200; // milliseconds
+/// The largest model of the game's formats and its textures are a small part of that.
+constexpr qint64 MostWritten = qint64(2) << 30;
+
 /// Beside the running program; tests, which run from folders of their own, name another.
 QString workerProgram()
 {
@@ -34,6 +40,11 @@ ImportWorker::ImportWorker(QObject *parent)
     m_process.setStandardInputFile(QProcess::nullDevice());
     m_bounds.prepare(m_process);
     m_limit.setSingleShot(true);
+    m_watch.setInterval(WatchInterval);
+    connect(&m_watch, &QTimer::timeout, this, [this] {
+        if (m_folder->holdsMoreThan(MostWritten))
+            stop(tr("It wrote more than any model needs."));
+    });
     connect(&m_process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
             &ImportWorker::onProcessFinished);
     connect(&m_process, &QProcess::errorOccurred, this, &ImportWorker::onProcessError);
@@ -52,7 +63,12 @@ ImportWorker::~ImportWorker()
 
 void ImportWorker::start(const WorkerJob &job)
 {
-    if (prepare(job))
+    const QFileInfo model(job.modelPath);
+    const bool unready = prepare(job);
+    // Opening a pipe would wait for a writer for ever.
+    if (model.exists() && !model.isFile())
+        finish(tr("It is a folder, a pipe or a device, not a file."));
+    else if (unready)
         finish(tr("No temporary folder could be made."));
     else
         launch();
@@ -81,11 +97,18 @@ bool ImportWorker::prepare(const WorkerJob &job)
     Q_ASSERT(!m_running);
     m_job = job;
     m_job.modelPath = QFileInfo(job.modelPath).absoluteFilePath();
+    // The timer comes first; this is for a program that does not come to look at it.
+    m_job.secondsLimit = 2 * m_timeLimit / 1000 + 1;
     m_answer = {};
     m_messages = {};
     m_stopReason.clear();
     m_running = true;
     m_elapsed.start();
+    return makeFolder();
+}
+
+bool ImportWorker::makeFolder()
+{
     m_folder = std::make_unique<TemporaryFolder>();
     return !m_folder->isValid() || WorkerFolder(m_folder->path()).write(m_job);
 }
@@ -93,9 +116,9 @@ bool ImportWorker::prepare(const WorkerJob &job)
 void ImportWorker::launch()
 {
     m_limit.start(m_timeLimit);
+    m_watch.start();
     m_process.start(m_program, {m_folder->path()});
-    // Its timer comes first; this is for a program that does not come to look at it.
-    m_bounds.take(m_process, m_job.memoryLimitMiB, 2 * qint64(m_timeLimit));
+    m_bounds.take(m_process, m_job.memoryLimitMiB, 1000 * qint64(m_job.secondsLimit));
 }
 
 void ImportWorker::cancel()
@@ -127,7 +150,45 @@ void ImportWorker::onProcessFinished(int exitCode, QProcess::ExitStatus status)
     else if (exitCode != EXIT_SUCCESS || WorkerFolder(m_folder->path()).read(m_answer))
         finish(tr("The process that reads foreign files gave no answer."));
     else
-        finish({});
+        complete();
+}
+
+/// Whether there are textures that the process may not read unless it is told of them: it then gets them.
+bool ImportWorker::hasMoreTextures()
+{
+    if (m_answer.wantedTextures.isEmpty() || !m_job.texturesElsewhere.isEmpty())
+        return false;
+    m_job.texturesElsewhere = picturesNamed(m_job.modelPath, m_answer.wantedTextures);
+    return !m_job.texturesElsewhere.isEmpty();
+}
+
+void ImportWorker::complete()
+{
+    tellLacking();
+    if (hasMoreTextures()) {
+        m_answer = {};
+        if (makeFolder())
+            finish(tr("No temporary folder could be made."));
+        else
+            launch();
+        return;
+    }
+    // It may not list every folder.
+    int searches = 0;
+    for (SceneSummary::Texture &texture : m_answer.summary.textures) {
+        if (texture.file.isEmpty() && !texture.isEmbedded && ++searches <= MostTextureNames)
+            texture.file = foundTexture(m_job.modelPath, texture.name);
+    }
+    finish({});
+}
+
+void ImportWorker::tellLacking() const
+{
+    static bool isTold = false;
+    if (!isTold && !m_answer.lacking.isEmpty())
+        Log::info(tr("Foreign files are read with less protection on this system, without %1.")
+                      .arg(m_answer.lacking.join(QStringLiteral(", "))));
+    isTold = isTold || !m_answer.lacking.isEmpty();
 }
 
 void ImportWorker::finish(const QString &failure)
@@ -136,6 +197,7 @@ void ImportWorker::finish(const QString &failure)
         return;
     m_running = false;
     m_limit.stop();
+    m_watch.stop();
     m_messages.lines = m_answer.messages;
     if (!failure.isEmpty()) {
         m_answer = {};

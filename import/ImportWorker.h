@@ -63,7 +63,11 @@ signals:
 
 private:
     bool prepare(const WorkerJob &job);
+    bool makeFolder();
     void launch();
+    bool hasMoreTextures();
+    void complete();
+    void tellLacking() const;
     void onProcessFinished(int exitCode, QProcess::ExitStatus status);
     void onProcessError(QProcess::ProcessError error);
     void stop(const QString &reason);
@@ -77,6 +81,7 @@ private:
     QProcess m_process;
     ProcessBounds m_bounds;
     QTimer m_limit;
+    QTimer m_watch; ///< looks how much the process has written
     QElapsedTimer m_elapsed;
     QString m_stopReason; ///< why we ended the process ourselves
     bool m_running = false;

@@ -7,11 +7,13 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QDirIterator>
 
 namespace {
 const QString Prefix = QStringLiteral("korvane-import-");
 /// A folder that has just been made is not locked yet.
 constexpr qint64 YoungestAbandoned = 60; // seconds
+constexpr int MostFiles = 4096;
 
 QString lockOf(const QString &folder)
 {
@@ -31,6 +33,19 @@ TemporaryFolder::~TemporaryFolder() = default;
 bool TemporaryFolder::isValid() const
 {
     return m_lock && m_lock->isHeld();
+}
+
+bool TemporaryFolder::holdsMoreThan(qint64 bytes) const
+{
+    int files = 0;
+    QDirIterator walk(path(), QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                      QDirIterator::Subdirectories);
+    while (bytes >= 0 && files <= MostFiles && walk.hasNext()) {
+        walk.next();
+        ++files;
+        bytes -= walk.fileInfo().size();
+    }
+    return bytes < 0 || files > MostFiles;
 }
 
 void TemporaryFolder::removeAbandoned()

@@ -18,6 +18,8 @@ public:
 
     bool isValid() const;
     QString path() const { return m_folder.path(); }
+    /// Whether there is more in it than what it is for, or so many files that nobody counts them.
+    bool holdsMoreThan(qint64 bytes) const;
 
     /// Removes the folders of this user's processes that have ended.
     static void removeAbandoned();

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "TextureSearch.h"
 
+#include "PictureFile.h"
+
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 namespace {
@@ -71,4 +74,26 @@ QString foundTexture(const QString &modelPath, const QString &stored)
         }
     }
     return {};
+}
+
+QString foundTexture(const QString &modelPath, const QString &stored, TexturesElsewhere &elsewhere)
+{
+    const auto told = elsewhere.files.constFind(stored);
+    if (told != elsewhere.files.constEnd())
+        return *told;
+    const QString found = foundTexture(modelPath, stored);
+    if (found.isEmpty() || !QFile(found).open(QIODevice::ReadOnly))
+        elsewhere.wanted += stored;
+    return found;
+}
+
+QHash<QString, QString> picturesNamed(const QString &modelPath, const QStringList &names)
+{
+    QHash<QString, QString> pictures;
+    for (const QString &name : names.mid(0, MostTextureNames)) {
+        const QString found = foundTexture(modelPath, name);
+        if (!found.isEmpty() && isPicture(found))
+            pictures.insert(name, found);
+    }
+    return pictures;
 }

@@ -5,10 +5,12 @@
 #include <QDataStream>
 #include <QFile>
 
+#include <algorithm>
+
 namespace {
 // Changes with the fields: an editor and a worker of different builds must not misunderstand each other.
-constexpr quint32 JobMark = 0x4B564A33;
-constexpr quint32 AnswerMark = 0x4B564132;
+constexpr quint32 JobMark = 0x4B564A34;
+constexpr quint32 AnswerMark = 0x4B564133;
 
 QDataStream &operator<<(QDataStream &out, const ReadyClip &clip)
 {
@@ -145,8 +147,9 @@ bool readStream(const QString &path, quint32 mark, Read read)
 bool WorkerFolder::write(const WorkerJob &job) const
 {
     return writeStream(path(QStringLiteral("job")), JobMark, [&job](QDataStream &out) {
-        out << qint32(job.task) << qint32(job.memoryLimitMiB) << job.modelPath << job.kmatPath << job.flags
-            << job.meshVersion << job.animVersion << job.objName << job.textures
+        out << qint32(job.task) << qint32(job.memoryLimitMiB) << qint32(job.secondsLimit)
+            << job.texturesElsewhere << job.modelPath << job.kmatPath << job.flags << job.meshVersion
+            << job.animVersion << job.objName << job.textures
             << QVector<qint32>(job.textureOfSurface.begin(), job.textureOfSurface.end());
         writeReady(out, job.ready);
     });
@@ -157,12 +160,15 @@ bool WorkerFolder::read(WorkerJob &job) const
     return readStream(path(QStringLiteral("job")), JobMark, [&job](QDataStream &in) {
         qint32 task = 0;
         qint32 limit = 0;
+        qint32 seconds = 0;
         QVector<qint32> textureOfSurface;
-        in >> task >> limit >> job.modelPath >> job.kmatPath >> job.flags >> job.meshVersion >>
-            job.animVersion >> job.objName >> job.textures >> textureOfSurface;
+        in >> task >> limit >> seconds >> job.texturesElsewhere >> job.modelPath >> job.kmatPath >>
+            job.flags >> job.meshVersion >> job.animVersion >> job.objName >> job.textures >>
+            textureOfSurface;
         readReady(in, job.ready);
         job.task = WorkerJob::Task(task);
         job.memoryLimitMiB = limit;
+        job.secondsLimit = seconds;
         job.textureOfSurface.assign(textureOfSurface.begin(), textureOfSurface.end());
     });
 }
@@ -170,7 +176,7 @@ bool WorkerFolder::read(WorkerJob &job) const
 bool WorkerFolder::write(const WorkerAnswer &answer) const
 {
     return writeStream(path(QStringLiteral("answer")), AnswerMark, [&answer](QDataStream &out) {
-        out << answer.textures << answer.names.toJson();
+        out << answer.textures << answer.wantedTextures << answer.lacking << answer.names.toJson();
         writeSummary(out, answer.summary);
         writeUpdate(out, answer.update);
         out << qint32(answer.messages.size());
@@ -183,8 +189,12 @@ bool WorkerFolder::read(WorkerAnswer &answer) const
 {
     return readStream(path(QStringLiteral("answer")), AnswerMark, [&answer](QDataStream &in) {
         QByteArray names;
-        in >> answer.textures >> names;
-        if (answer.names.fromJson(names))
+        in >> answer.textures >> answer.wantedTextures >> answer.lacking >> names;
+        // A worker that a file has got the better of may write anything, and what it names is copied.
+        const bool isTexture =
+            std::all_of(answer.textures.begin(), answer.textures.end(),
+                        [](const QString &file) { return file.endsWith(QLatin1String(".png")); });
+        if (!isTexture || answer.names.fromJson(names))
             in.setStatus(QDataStream::ReadCorruptData);
         readSummary(in, answer.summary);
         readUpdate(in, answer.update);
@@ -194,7 +204,6 @@ bool WorkerFolder::read(WorkerAnswer &answer) const
             qint32 severity = 0;
             QString text;
             in >> severity >> text;
-            // A worker that a file has got the better of may write anything.
             if (severity < int(LogSeverity::Error) || severity > int(LogSeverity::Info))
                 in.setStatus(QDataStream::ReadCorruptData);
             answer.messages.append({LogSeverity(severity), text});

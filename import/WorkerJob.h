@@ -9,6 +9,7 @@
 #include "SceneSummary.h"
 #include "SkinnedMesh.h"
 #include "StaticMesh.h"
+#include "TextureSearch.h"
 #include "UpdateAccount.h"
 
 #include <QCoreApplication>
@@ -33,6 +34,7 @@ struct WorkerJob
 
     Task task = Task::ImportSkinnedMesh;
     int memoryLimitMiB = 4096; ///< of address space
+    int secondsLimit = 0;      ///< of processor time; none below 1
 
     // Import. An update takes the models that are open out of the folder and leaves what becomes of them.
     QString modelPath;
@@ -40,7 +42,8 @@ struct WorkerJob
     quint32 flags = 0; ///< see ImportFlags
     qint32 meshVersion = 2;
     qint32 animVersion = 2;
-    ReadyChoices ready; ///< for what arrives ready for the game
+    ReadyChoices ready;                        ///< for what arrives ready for the game
+    QHash<QString, QString> texturesElsewhere; ///< see TexturesElsewhere
 
     // Export. `mesh` travels in the task's model file; the result is OBJ and MTL text.
     QString objName;                      ///< of the file to be made, as "crate.obj"
@@ -60,10 +63,12 @@ struct WorkerJob
 struct WorkerAnswer
 {
     QVector<ImportMessage> messages;
-    QStringList textures; ///< distinct, in the order of the surfaces that have one
-    ModelNames names;     ///< of a skinned mesh that arrives ready for the game
-    SceneSummary summary; ///< of a file that was only looked at
-    UpdateAccount update; ///< of an open model
+    QStringList textures;       ///< distinct, in the order of the surfaces that have one
+    ModelNames names;           ///< of a skinned mesh that arrives ready for the game
+    SceneSummary summary;       ///< of a file that was only looked at
+    UpdateAccount update;       ///< of an open model
+    QStringList wantedTextures; ///< see TexturesElsewhere
+    QStringList lacking;        ///< what the system lacks that would keep the worker from doing harm
 };
 
 /// The files of one job in `folder`. All functions return true on failure.

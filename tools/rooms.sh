@@ -24,7 +24,7 @@ picture=docs/images/rooms.svg
 
 # From below to above. Rooms on one floor do not know each other.
 floors='core resources translations
-model net app/desktop
+model net app/desktop import/box
 undo import render/scene app/widgets
 app/documents gltf import/scene render/input
 render import/ready

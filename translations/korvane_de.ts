@@ -2656,6 +2656,18 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
         <source>The process that reads foreign files gave no answer.</source>
         <translation>Der Prozess, der fremde Dateien liest, hat keine Antwort gegeben.</translation>
     </message>
+    <message>
+        <source>It wrote more than any model needs.</source>
+        <translation>Er hat mehr geschrieben, als ein Modell braucht.</translation>
+    </message>
+    <message>
+        <source>It is a folder, a pipe or a device, not a file.</source>
+        <translation>Es ist ein Ordner, eine Pipe oder ein Gerät und keine Datei.</translation>
+    </message>
+    <message>
+        <source>Foreign files are read with less protection on this system, without %1.</source>
+        <translation>Fremde Dateien werden auf diesem System mit weniger Schutz gelesen, ohne %1.</translation>
+    </message>
 </context>
 <context>
     <name>IndexTargets</name>

@@ -245,7 +245,7 @@ void importReadySkinnedMesh(const ReadySource &ready, QStringList &textures, Ski
                             AnimFile &anim, ModelNames &names, ImportMessages &messages)
 {
     Assimp::Importer importer;
-    SceneSource source{ready.modelPath, ready.kmatPath, textures, messages};
+    SceneSource source{ready.modelPath, ready.kmatPath, textures, messages, nullptr, ready.elsewhere};
     if (!readReady(importer, "Ready Skinned Mesh Import", source))
         return;
     const SceneNodes nodes(*source.scene);
@@ -290,7 +290,7 @@ StaticMesh importReadyStaticMesh(const ReadySource &ready, QStringList &textures
 {
     StaticMesh mesh;
     Assimp::Importer importer;
-    SceneSource source{ready.modelPath, ready.kmatPath, textures, messages};
+    SceneSource source{ready.modelPath, ready.kmatPath, textures, messages, nullptr, ready.elsewhere};
     if (!readReady(importer, "Ready Static Mesh Import", source))
         return mesh;
     const SceneNodes nodes(*source.scene);

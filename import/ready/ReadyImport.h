@@ -11,6 +11,8 @@
 
 #include <QStringList>
 
+struct TexturesElsewhere;
+
 /// What an import needs to know of a foreign model that is to arrive ready for the game.
 struct ReadySource
 {
@@ -18,6 +20,7 @@ struct ReadySource
     const QString &kmatPath; ///< the material file that the surfaces shall refer to
     QString textureFolder;   ///< takes the textures that are not there as .png files; is made if need be
     const ReadyChoices &choices;
+    TexturesElsewhere *elsewhere = nullptr; ///< where it may be that not all files can be opened
 };
 
 /// Reads a model file of any format that the reading library knows into `mesh` and `anim`, both fresh, as the

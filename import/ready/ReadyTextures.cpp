@@ -90,7 +90,8 @@ QString ReadyTextures::fileOf(const aiString &stored, const QString &name)
         file = writeEmbedded(*embedded, own.isEmpty() ? m_model + QLatin1Char('_') + name : own);
         return file;
     }
-    const QString found = foundTexture(m_source.modelPath, key);
+    const QString found = m_source.elsewhere ? foundTexture(m_source.modelPath, key, *m_source.elsewhere)
+                                             : foundTexture(m_source.modelPath, key);
     const QString base = QFileInfo(found).completeBaseName();
     if (found.isEmpty()) {
         m_source.messages.addWarning(

@@ -13,6 +13,7 @@ Q_DECLARE_LOGGING_CATEGORY(importLog)
 
 struct AnimFile;
 struct SkinnedMesh;
+struct TexturesElsewhere;
 
 namespace Assimp {
 class Importer;
@@ -26,6 +27,7 @@ struct SceneSource
     QStringList &textures;
     ImportMessages &messages;
     const aiScene *scene = nullptr;
+    TexturesElsewhere *elsewhere = nullptr; ///< where it may be that not all files can be opened
 };
 
 inline QString text(const aiString &name)

@@ -52,7 +52,9 @@ bool update(bool unread, const WorkerJob &job, const WorkerFolder &folder, Worke
 
 void work(const WorkerJob &job, const WorkerFolder &folder, WorkerAnswer &answer, ImportMessages &messages)
 {
-    const ReadySource ready{job.modelPath, job.kmatPath, folder.path(QStringLiteral("textures")), job.ready};
+    TexturesElsewhere elsewhere{job.texturesElsewhere, {}};
+    const ReadySource ready{job.modelPath, job.kmatPath, folder.path(QStringLiteral("textures")), job.ready,
+                            &elsewhere};
     SkinnedMesh skinned;
     AnimFile anim;
     StaticMesh rigid;
@@ -96,6 +98,7 @@ void work(const WorkerJob &job, const WorkerFolder &folder, WorkerAnswer &answer
         failed = update(rigid.read(folder.staticMesh()), job, folder, answer, messages, rigid);
         break;
     }
+    answer.wantedTextures = elsewhere.wanted;
     if (failed)
         messages.addError(
             job.failure(QCoreApplication::translate("Import", "The model could not be handed over.")));
@@ -104,6 +107,7 @@ void work(const WorkerJob &job, const WorkerFolder &folder, WorkerAnswer &answer
 
 int main(int argc, char *argv[])
 {
+    closeInherited();
     QCoreApplication application(argc, argv);
     // Importers of the library read numbers as the locale writes them.
     std::setlocale(LC_NUMERIC, "C");
@@ -114,11 +118,11 @@ int main(int argc, char *argv[])
         std::fputs("korvane-import-worker reads model files for Korvane, which starts it.\n", stderr);
         return EXIT_FAILURE;
     }
-    confine(job.memoryLimitMiB);
-
     const WorkerFolder folder(arguments.at(1));
     WorkerAnswer answer;
     ImportMessages messages;
+    answer.lacking = confine({arguments.at(1), job.modelPath, job.texturesElsewhere.values(),
+                              job.memoryLimitMiB, job.secondsLimit});
     try {
         work(job, folder, answer, messages);
     } catch (const std::exception &exception) {

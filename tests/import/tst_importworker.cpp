@@ -6,6 +6,8 @@
 #include "SpecialFiles.h"
 #include "TestSupport.h"
 
+#include <QImage>
+
 #include <cmath>
 
 namespace {
@@ -203,6 +205,61 @@ private slots:
         QCOMPARE(mesh.vertices.at(0).uv.x(), 0.25f);
         QCOMPARE(worker.messages().lines.at(0).text,
                  path + QStringLiteral(" Material 0 does not have any Diffuse textures"));
+    }
+
+    // The process may open what lies beside the model; of the rest, it gets the pictures that the model
+    // names.
+    void texturesElsewhere()
+    {
+        QImage picture(4, 4, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        QVERIFY(QDir().mkpath(m_models.path("parent/skins")) && QDir().mkpath(m_models.path("far")));
+        QVERIFY(picture.save(m_models.path("parent/skins/Up.bmp")) &&
+                picture.save(m_models.path("far/away.png")));
+        m_models.put("far/secret.png", "no picture");
+        const QByteArray away = m_models.path("far/away.png").toUtf8();
+        m_models.put("parent/models/m.mtl",
+                     "newmtl a\nKd 1 1 1\nmap_Kd ../skins/up.BMP\nnewmtl b\nKd 1 1 1\nmap_Kd " + away +
+                         "\nnewmtl c\nKd 1 1 1\nmap_Kd ../../far/secret.png\n");
+        QByteArray obj = "mtllib m.mtl\nv 0 0 0\nv 1 0 0\nv 0 1 0\nvt 0 0\n";
+        for (const char *material : {"a", "b", "c"})
+            obj += QByteArray("usemtl ") + material + "\nf 1/1 2/1 3/1\n";
+        WorkerJob job = importJob(m_models.put("parent/models/m.obj", obj), false);
+        job.task = WorkerJob::Task::ImportReadyStaticMesh;
+        ImportWorker worker;
+        run(worker, job);
+        StaticMesh mesh;
+        QVERIFY2(!worker.read(mesh), qPrintable(errorsOf(worker.messages())));
+        QCOMPARE(worker.textures().size(), 2);
+        QVERIFY2(worker.textures().contains(m_models.path("far/away.png")),
+                 qPrintable(worker.textures().join(' ')));
+        QCOMPARE(QFileInfo(worker.textures().at(0)).fileName(), QStringLiteral("Up.png"));
+        QVERIFY(QFile::exists(worker.textures().at(0)));
+
+        job.task = WorkerJob::Task::Summarize;
+        run(worker, job);
+        QCOMPARE(worker.summary().textures.size(), size_t(3));
+        QCOMPARE(worker.summary().textures.at(0).file, m_models.path("parent/skins/Up.bmp"));
+    }
+
+    void noRegularFiles()
+    {
+        m_models.put("folder.obj/inside", "");
+        for (const QString &path :
+             {m_models.path("folder.obj"), SpecialFiles::pipe(m_models.path("pipe.obj"))}) {
+            ImportWorker worker;
+            worker.setTimeLimit(20000);
+            run(worker, importJob(path, false));
+            const QString error = errorsOf(worker.messages());
+            QVERIFY2(!error.isEmpty() && !error.contains(QLatin1String("longer than")), qPrintable(error));
+        }
+        // Nor is what a model names beside itself waited for.
+        SpecialFiles::pipe(m_models.path("m.mtl2"));
+        ImportWorker worker;
+        worker.setTimeLimit(20000);
+        run(worker,
+            importJob(m_models.put("n.obj", "mtllib m.mtl2\nv 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n"), false));
+        QCOMPARE(errorsOf(worker.messages()), QString());
     }
 
     void equalWarningsAreOne()

@@ -4,7 +4,9 @@
 
 #include <windows.h>
 
-void confine(int)
+void closeInherited() {} // ProcessBounds lets nothing be inherited
+
+QStringList confine(const Confinement &)
 {
     // Whoever started this tells of a crash, by the code that it ends with; a message box would wait for
     // ever.
@@ -15,4 +17,5 @@ void confine(int)
         TerminateProcess(GetCurrentProcess(), crash->ExceptionRecord->ExceptionCode);
         return EXCEPTION_EXECUTE_HANDLER;
     });
+    return {QStringLiteral("restricted token")};
 }

@@ -17,6 +17,7 @@
 #include <QFileInfo>
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QProgressDialog>
 #include <QStatusBar>
 #include <QTimer>

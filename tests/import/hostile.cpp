@@ -211,7 +211,9 @@ int main(int argc, char *argv[])
     }
     if (wish == "fill the disk")
         fillDisk();
-    if (wish == "have a file copied")
+    if (wish == "lack something")
+        answer.lacking = QStringList{QStringLiteral("Landlock"), QStringLiteral("seccomp")};
+    else if (wish == "have a file copied")
         answer.textures = QStringList{QString::fromUtf8(outside) + QStringLiteral("/secret")};
     else {
         for (const Act &act : acts()) {

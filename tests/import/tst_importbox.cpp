@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "ImportWorker.h"
+#include "Log.h"
 #include "TestSupport.h"
 
 #include <fcntl.h>
@@ -122,6 +123,17 @@ private slots:
             const QString error = run(wish).value(0).text;
             QVERIFY2(error.endsWith(QLatin1String(reason)), qPrintable(error));
         }
+    }
+
+    void lackIsToldOnce()
+    {
+        QStringList told;
+        Log::setSink([&told](LogSeverity, const QString &text) { told += text; });
+        run("lack something");
+        run("lack something");
+        Log::setSink({});
+        QCOMPARE(told.size(), 1);
+        QVERIFY2(told[0].endsWith(QLatin1String("without Landlock, seccomp.")), qPrintable(told[0]));
     }
 
 private:

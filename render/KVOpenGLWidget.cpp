@@ -99,9 +99,13 @@ void KVOpenGLWidget::paintGL()
 void KVOpenGLWidget::poseModel()
 {
     m_scene.frame.yaw = QQuaternion();
-    const int shown = m_playback.pose(m_scene.palette(), m_scene.frame.yaw);
-    if (shown != PoseEvaluator::NoFrame)
-        emit frameShown(shown);
+    tellFrame(m_playback.pose(m_scene.palette(), m_scene.frame.yaw));
+}
+
+void KVOpenGLWidget::tellFrame(int frame)
+{
+    if (frame != PoseEvaluator::NoFrame)
+        emit frameShown(frame);
 }
 
 QImage KVOpenGLWidget::picture(const QSize &size, const QColor &background)
@@ -315,7 +319,7 @@ void KVOpenGLWidget::timerEvent(QTimerEvent *event)
     if (!m_timer.isMine(*event))
         RenewableGLWidget::timerEvent(event);
     else if (checkContext())
-        m_timer.setPace(tick(m_timer.take()) ? TickTimer::Pace::Moving : TickTimer::Pace::Idle);
+        m_timer.setPace(tick(m_timer.take()));
 }
 
 bool KVOpenGLWidget::moveBy(TickTimer::Due due)
@@ -326,11 +330,11 @@ bool KVOpenGLWidget::moveBy(TickTimer::Due due)
     return moved;
 }
 
-bool KVOpenGLWidget::tick(TickTimer::Due due)
+TickTimer::Pace KVOpenGLWidget::tick(TickTimer::Due due)
 {
     const bool skinned = m_scene.frame.skinned;
     // What started between two idle looks starts now.
-    if (m_active && skinned && m_timer.isMoving())
+    if (m_active && skinned && !m_timer.isIdle())
         advanceClock(playback(), due.seconds);
     if (m_statistics)
         m_statistics->tick(due.seconds);
@@ -343,12 +347,14 @@ bool KVOpenGLWidget::tick(TickTimer::Due due)
     if (m_active && skinned && !waitsToPaint && m_playback.label.update(playback()))
         emit frameLabelChanged(m_playback.label.text());
     if (m_repaintWanted && !waitsToPaint) {
-        poseModel();
+        tellFrame(ShownPlayback::nextFrame(m_scene.palette() != nullptr));
         update();
     }
-    if (moved || waitsToPaint || m_tools.cursor() == ViewCursor::Captured)
-        return true;
-    return m_active && (m_readOut.shown() != m_camera.position() || (skinned && clockRuns(playback())));
+    const bool plays = m_active && skinned && clockRuns(playback());
+    if (moved || (waitsToPaint && !plays) || m_tools.cursor() == ViewCursor::Captured ||
+        (m_active && m_readOut.shown() != m_camera.position()))
+        return TickTimer::Pace::Moving;
+    return plays ? TickTimer::Pace::Playing : TickTimer::Pace::Idle;
 }
 
 void KVOpenGLWidget::showEvent(QShowEvent *event)
@@ -366,18 +372,13 @@ void KVOpenGLWidget::hideEvent(QHideEvent *event)
 
 bool KVOpenGLWidget::event(QEvent *event)
 {
-    switch (m_recorder.handle(*event)) {
-    case InputRecorder::Outcome::Passed:
+    const InputRecorder::Outcome outcome = m_recorder.handle(*event);
+    if (outcome == InputRecorder::Outcome::Passed)
         return RenewableGLWidget::event(event);
-    case InputRecorder::Outcome::Taken:
-        break;
-    case InputRecorder::Outcome::Used:
+    if (outcome == InputRecorder::Outcome::Used)
         playbackChanged();
-        break;
-    case InputRecorder::Outcome::Changed:
+    else if (outcome == InputRecorder::Outcome::Changed)
         cameraMoved();
-        break;
-    }
     return true;
 }
 

@@ -115,7 +115,8 @@ signals:
     void nothingPicked();
     /// The camera position for the status bar, about ten times a second: "X: 0.000000 Y: ... Z: ...".
     void positionReadOut(const QString &text);
-    /// The frame that the painted pose starts from; emitted while painting.
+    /// The frame that the painted pose starts from; emitted while painting, and before where the view itself
+    /// asks for the paint.
     void frameShown(int frame);
     /// Something about the picture, for the user.
     void told(const QString &text);
@@ -146,10 +147,11 @@ private:
     void showTriangles();
     void trackMarks();
     void poseModel();
+    void tellFrame(int frame);
     void frame(const std::vector<QVector3D> &places, int strays);
     void cameraMoved();
-    /// One tick. Returns whether something goes on moving.
-    bool tick(TickTimer::Due due);
+    /// One tick. Returns how the timer is to go on.
+    TickTimer::Pace tick(TickTimer::Due due);
     bool moveBy(TickTimer::Due due);
     void tellPicked(PickTool::Kind kind, int index);
 

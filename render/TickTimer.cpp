@@ -32,15 +32,34 @@ qint64 TickTimer::steadyClock()
 
 void TickTimer::setPace(Pace pace)
 {
-    if (m_timer.isActive() && pace == m_pace)
+    const bool isOther = !m_timer.isActive() || pace != m_pace;
+    if (!isOther && pace != Pace::Playing)
         return;
+    if (pace != Pace::Idle && (!m_timer.isActive() || isIdle()))
+        m_previous = m_clock();
     if (pace == Pace::Moving)
-        m_previous = m_stepped = m_clock();
+        m_stepped = m_clock(); // what moves from now on has not moved before
     m_pace = pace;
     if (pace == Pace::Moving)
         m_timer.start(MovingInterval, Qt::PreciseTimer, &m_owner);
+    else if (pace == Pace::Playing)
+        startForPaint();
     else
         m_timer.start(IdleInterval, Qt::CoarseTimer, &m_owner);
+}
+
+void TickTimer::startForPaint()
+{
+    const qint64 waited = m_painted ? m_clock() - *m_painted : PaintInterval;
+    m_timer.start(int(std::clamp<qint64>(PaintInterval - waited, MovingInterval, PaintInterval)),
+                  Qt::PreciseTimer, &m_owner);
+}
+
+void TickTimer::paints()
+{
+    m_painted = m_clock();
+    if (m_timer.isActive() && m_pace == Pace::Playing)
+        startForPaint();
 }
 
 bool TickTimer::isMine(const QTimerEvent &event) const

@@ -10,11 +10,12 @@
 class QTimerEvent;
 
 /// The ticks of a view, and when it may paint. A moving one ticks every millisecond: keys fly the camera by a
-/// step a tick. An idle one only looks for changes of the playback now and then, which costs nothing.
+/// step a tick. One that only plays ticks when it may paint. An idle one only looks for changes of the
+/// playback now and then, which costs nothing.
 class TickTimer
 {
 public:
-    enum class Pace { Idle, Moving };
+    enum class Pace { Idle, Playing, Moving };
 
     /// Milliseconds since whenever; never goes back.
     using Clock = std::function<qint64()>;
@@ -25,7 +26,7 @@ public:
     /// Starts, or goes on at another pace.
     void setPace(Pace pace);
     void stop() { m_timer.stop(); }
-    bool isMoving() const { return m_pace == Pace::Moving; }
+    bool isIdle() const { return m_pace == Pace::Idle; }
     bool isMine(const QTimerEvent &event) const;
     /// What has come due with a tick. The time asleep is not time that anything moved, nor is most of a wait
     /// in which the program, or the computer, stood still.
@@ -38,11 +39,12 @@ public:
     Due take();
 
     /// A frame is being painted: the next one has to wait, so that painting leaves time for ticks.
-    void paints() { m_painted = m_clock(); }
+    void paints();
     bool mayPaint() const;
 
 private:
     static qint64 steadyClock();
+    void startForPaint();
 
     QObject &m_owner;
     QBasicTimer m_timer;

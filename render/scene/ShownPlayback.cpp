@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "ShownPlayback.h"
 
+#include "AnimFile.h"
+#include "FrameChoice.h"
+
 int ShownPlayback::pose(BonePalette *palette, QQuaternion &yaw)
 {
     Playback &state = playback();
@@ -14,6 +17,15 @@ int ShownPlayback::pose(BonePalette *palette, QQuaternion &yaw)
     }
     m_shown = state;
     return frame;
+}
+
+int ShownPlayback::nextFrame(bool hasPalette)
+{
+    Playback &state = playback();
+    const AnimBlock *block = hasPalette ? playableBlock(state) : nullptr;
+    if (!block || state.playState == PlayState::InitialPose || block->frameCount() < 2)
+        return PoseEvaluator::NoFrame;
+    return chooseFrame(*block, state.playState, state.forceLoop, state.time).frame;
 }
 
 bool ShownPlayback::isBehind() const

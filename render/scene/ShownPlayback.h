@@ -12,6 +12,8 @@ public:
     /// Poses the bones as playback() has them, where there is a palette and a block to play; the initial pose
     /// leaves `yaw` as it is. Returns the frame that the pose starts from, or PoseEvaluator::NoFrame.
     int pose(BonePalette *palette, QQuaternion &yaw);
+    /// The frame that the next pose() starts from, or PoseEvaluator::NoFrame.
+    static int nextFrame(bool hasPalette);
     /// Whether playback() is no longer what pose() saw.
     bool isBehind() const;
 

@@ -32,6 +32,8 @@ KVTreeView::KVTreeView(QWidget *parent)
     setItemDelegate(new NamedRows(this));
     connect(this, &QTreeWidget::itemSelectionChanged, this, &KVTreeView::notifyCurrent);
     connect(this, &QTreeWidget::currentItemChanged, this, &KVTreeView::notifyCurrent);
+    connect(this, &QTreeWidget::itemExpanded, this,
+            [this](QTreeWidgetItem *item) { complete(static_cast<RecordItem *>(item)); });
 }
 
 void KVTreeView::setDocument(Document *document)
@@ -180,10 +182,8 @@ void KVTreeView::selectFirstMatch()
         return;
     for (QTreeWidgetItemIterator it(this); *it; ++it) {
         const RecordRef record = static_cast<RecordItem *>(*it)->record();
-        if (*it != topLevelItem(0) && m_filter.matches(searchText(*m_document, record))) {
-            setCurrentItem(*it, 0, QItemSelectionModel::ClearAndSelect);
-            return;
-        }
+        if (*it != topLevelItem(0) && m_filter.matches(searchText(*m_document, record)))
+            return setCurrentItem(*it, 0, QItemSelectionModel::ClearAndSelect);
     }
 }
 
@@ -228,14 +228,21 @@ RecordItem *KVTreeView::findItem(const RecordRef &record) const
     return static_cast<RecordItem *>(itemFromIndex(findIndex(record)));
 }
 
+void KVTreeView::complete(RecordItem *item) const
+{
+    if (item->isIncomplete())
+        filling().fill(item, item->record());
+}
+
 QModelIndex KVTreeView::findIndex(const RecordRef &record) const
 {
     // By rows: asked for the row of an item, the tree looks through all of its siblings.
     QModelIndex found;
     for (const int position : indexPath(record)) {
-        const int row =
-            found.isValid() ? static_cast<RecordItem *>(itemFromIndex(found))->rowAt(position) : position;
-        const QModelIndex next = model()->index(row, 0, found);
+        auto *item = static_cast<RecordItem *>(itemFromIndex(found));
+        if (item)
+            complete(item);
+        const QModelIndex next = model()->index(item ? item->rowAt(position) : position, 0, found);
         if (!next.isValid())
             break;
         found = next;
@@ -283,10 +290,8 @@ void KVTreeView::onRecordsChanged(const QVector<RecordRef> &records)
     const QVector<RecordRef> refs = selectedRefs();
     const QSet<RecordRef> selected(refs.begin(), refs.end());
     const auto isSelected = [&selected](const RecordRef &record) { return selected.contains(record); };
-    if (records.contains(currentRecord()) && std::all_of(records.begin(), records.end(), isSelected)) {
-        notifyCurrent();
-        return;
-    }
+    if (records.contains(currentRecord()) && std::all_of(records.begin(), records.end(), isSelected))
+        return notifyCurrent();
     // A jump over several steps changes records of several kinds: a page shows those of one.
     QVector<RecordRef> sorted;
     std::copy_if(records.begin(), records.end(), std::back_inserter(sorted),
@@ -301,8 +306,7 @@ void KVTreeView::onStructuresChanged(const QVector<StructureChange> &changes)
     if (changes.last().select.kind == RecordKind::None) {
         if (m_filter.isEmpty())
             m_expandedUnfiltered = expandedBelow();
-        refill(selectedRefs(), currentRecord());
-        return;
+        return refill(selectedRefs(), currentRecord());
     }
     if (!m_filter.isEmpty()) {
         QVector<RecordRef> through(m_letThrough.begin(), m_letThrough.end());
@@ -316,8 +320,7 @@ void KVTreeView::onStructuresChanged(const QVector<StructureChange> &changes)
         const RecordRef select = changes.last().select;
         build();
         letThrough({select});
-        setSelected({select}, select);
-        return;
+        return setSelected({select}, select);
     }
     // Only what stands below the owners of the changed lists is made anew.
     QVector<RecordRef> owners;
@@ -364,8 +367,10 @@ void KVTreeView::expand(const QVector<RecordRef> &records)
 {
     for (const RecordRef &record : records) {
         RecordItem *item = findItem(record);
-        if (item && item->record() == record)
+        if (item && item->record() == record) {
+            complete(item); // also where no signal tells
             item->setExpanded(true);
+        }
     }
 }
 

@@ -38,6 +38,9 @@ public:
 
     /// The item of a record, or of the deepest of its owners that has one; null in an empty tree.
     RecordItem *findItem(const RecordRef &record) const;
+    /// Makes what belongs below an item, where a long list has left that for later. Whatever is opened, or
+    /// looked for, is made by itself.
+    void complete(RecordItem *item) const;
     /// Selects just these records and makes `current` the current one. What is being typed is stored first.
     void selectRecords(const QVector<RecordRef> &records, const RecordRef &current);
 

@@ -8,10 +8,27 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <memory>
+
+bool RecordFilling::hasBelow(const RecordRef &owner) const
+{
+    const QVector<const RecordRow *> &rows = childRows(owner.kind);
+    return std::any_of(rows.begin(), rows.end(), [&](const RecordRow *row) {
+        return !(m_hideData && row->meshData) &&
+               (row->position != RecordRow::FromIndex || m_document.recordCount(row->kind, owner.index) > 0);
+    });
+}
+
+void RecordFilling::leaveForLater(RecordItem *item, const RecordRef &record) const
+{
+    if (hasBelow(record))
+        item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
+}
 
 void RecordFilling::fill(RecordItem *item, const RecordRef &owner) const
 {
+    item->setChildIndicatorPolicy(QTreeWidgetItem::DontShowIndicatorWhenChildless);
     for (const RecordRow *row : childRows(owner.kind)) {
         if (m_hideData && row->meshData)
             continue;
@@ -29,7 +46,9 @@ void RecordFilling::fill(RecordItem *item, const RecordRef &owner) const
         for (int i = 0; i < count; ++i) {
             index[size_t(row->component)] = i;
             auto *child = new RecordItem(row->kind, i);
-            if (!isLeaf)
+            if (!isLeaf && count > LongList)
+                leaveForLater(child, {row->kind, index});
+            else if (!isLeaf)
                 fill(child, {row->kind, index});
             children.append(child);
         }
@@ -55,7 +74,9 @@ void RecordFilling::fillMatching(RecordItem *item, const RecordRef &owner) const
             if (isLeaf && !isMatch)
                 continue;
             auto child = std::make_unique<RecordItem>(row->kind, isList ? i : 0);
-            if (isMatch)
+            if (isMatch && count > LongList)
+                leaveForLater(child.get(), record);
+            else if (isMatch)
                 fill(child.get(), record);
             else
                 fillMatching(child.get(), record);

@@ -25,6 +25,11 @@ public:
     /// The record, for an item that stands in its tree.
     RecordRef record() const;
 
+    /// Whether anything belongs below it, be it there or left for later.
+    bool hasBelow() const { return isIncomplete() || childCount() > 0; }
+    /// What belongs below it is not there yet: see KVTreeView::complete().
+    bool isIncomplete() const { return childIndicatorPolicy() == ShowIndicator; }
+
     /// The row of the child that stands there while no filter leaves any out; -1 when there is none.
     int rowAt(int position) const;
     /// What is open below it.

@@ -20,10 +20,12 @@
 #include <algorithm>
 
 namespace {
-void setExpandedBelow(QTreeWidgetItem *item, bool expanded)
+void setExpandedBelow(const KVTreeView &tree, RecordItem *item, bool expanded)
 {
+    if (expanded)
+        tree.complete(item);
     for (int i = 0; i < item->childCount(); ++i)
-        setExpandedBelow(item->child(i), expanded);
+        setExpandedBelow(tree, static_cast<RecordItem *>(item->child(i)), expanded);
     if (item->childCount() > 0)
         item->setExpanded(expanded);
 }
@@ -157,8 +159,8 @@ StructureActions::TreeMenu StructureActions::createMenu(Document &document, KVTr
         QAction *action = addAction(iconName, text, id, QString());
         QObject::connect(action, &QAction::triggered, tree, [tree, expanded] {
             tree->setUpdatesEnabled(false);
-            if (QTreeWidgetItem *item = tree->findItem(tree->currentRecord()))
-                setExpandedBelow(item, expanded);
+            if (RecordItem *item = tree->findItem(tree->currentRecord()))
+                setExpandedBelow(*tree, item, expanded);
             tree->setUpdatesEnabled(true);
         });
         return action;
@@ -198,9 +200,9 @@ void StructureActions::updateMenu(const TreeMenu &menu) const
         if (offer)
             action->setText(tr(offer->text));
     }
-    const QTreeWidgetItem *item = menu.tree->findItem(menu.tree->currentRecord());
+    const RecordItem *item = menu.tree->findItem(menu.tree->currentRecord());
     for (QAction *action : {menu.expand, menu.collapse})
-        action->setVisible(item && item->childCount() > 0);
+        action->setVisible(item && item->hasBelow());
 }
 
 void StructureActions::popUp(const TreeMenu &menu, const QPoint &position)

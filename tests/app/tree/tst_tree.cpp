@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "Panes.h"
+#include "RecordFilling.h"
 #include "RecordItem.h"
 
 namespace {
@@ -188,6 +189,46 @@ private slots:
         Settings::HideMeshData.setValue(true);
         pane.tree.updateHiding();
         QCOMPARE(pane.tree.currentRecord(), (RecordRef{RecordKind::SkinnedVertices, {}}));
+    }
+
+    void longListsAreFilledWhereTheyAreLookedAt()
+    {
+        AnimFile file;
+        file.blocks.resize(RecordFilling::LongList + 1);
+        for (AnimBlock &block : file.blocks)
+            block.actions.resize(2);
+        Pane<AnimFile> pane(DocumentType::Anim, RecordKind::AnimFile);
+        pane.open(file);
+        const auto block = [&pane](int row) {
+            return static_cast<RecordItem *>(pane.tree.topLevelItem(0)->child(row));
+        };
+        int items = 0;
+        for (QTreeWidgetItemIterator it(&pane.tree); *it; ++it)
+            ++items;
+        QCOMPARE(items, int(file.blocks.size()) + 1);
+        QVERIFY(block(7)->hasBelow() && block(7)->isIncomplete());
+
+        // By a key, by a look for a record below, and by an edit that is taken back.
+        pane.tree.show();
+        pane.tree.setCurrentItem(block(7));
+        QTest::keyClick(&pane.tree, Qt::Key_Right);
+        QCOMPARE(texts(block(7)), QStringList({"Bones (0)", "Frames (0)", "Translations (0)", "Rotations (0)",
+                                               "Key Frame Actions (2)"}));
+        pane.select({{RecordKind::AnimAction, {190, 1}}});
+        QCOMPARE(pane.tree.currentRecord(), (RecordRef{RecordKind::AnimAction, {190, 1}}));
+        QCOMPARE(pane.tree.currentItem()->parent()->parent(), block(190));
+        const RecordRef edited{RecordKind::AnimAction, {200, 0}};
+        emit pane.document.recordsChanged({edited});
+        QCOMPARE(pane.tree.currentRecord(), edited);
+        // What is open stays so where the list is made anew.
+        pane.tree.setFilter(QStringLiteral("anim"));
+        pane.tree.setFilter({});
+        QVERIFY(block(7)->isExpanded() && block(7)->childCount() == 5);
+        QCOMPARE(pane.tree.currentRecord(), edited);
+        QVERIFY(block(8)->isIncomplete());
+        QTest::keyClick(&pane.tree, Qt::Key_Home);
+        QTest::keyClick(&pane.tree, Qt::Key_Asterisk);
+        QVERIFY(block(8)->isExpanded() && block(8)->child(4)->childCount() == 2);
     }
 
 private:

@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QMutex>
 
+#include <algorithm>
 #include <memory>
 #include <mutex>
 
@@ -19,6 +20,7 @@ struct Texture
 {
     QDateTime changed;
     qint64 size = 0;
+    int cost = 1; ///< for the caches, and as them behind their lock
     std::once_flag decoded;
     QImage image;
 };
@@ -29,6 +31,7 @@ struct Kept
 {
     QMutex mutex;
     QCache<QString, TexturePointer> textures{int(TextureImages::Room / CostUnit)};
+    QCache<QString, TexturePointer> ahead{int(TextureImages::AheadRoom / CostUnit)}; ///< not asked for yet
 };
 
 /// Never destroyed: a thread may still decode when the window system ends the program.
@@ -43,18 +46,34 @@ QImage decode(const QString &path)
     return readPicture(path).image.convertToFormat(QImage::Format_RGBA8888);
 }
 
+using TextureCache = QCache<QString, TexturePointer>;
+
+/// What is kept of this state of the file; null when nothing is.
+TexturePointer keptIn(const TextureCache &cache, const QFileInfo &file)
+{
+    const TexturePointer *found = cache.object(file.filePath());
+    const bool isIt = found && (*found)->changed == file.lastModified() && (*found)->size == file.size();
+    return isIt ? *found : nullptr;
+}
+
 /// The entry of this state of the file, which has no image until somebody decodes it.
-TexturePointer textureOf(const QFileInfo &file)
+TexturePointer textureOf(const QFileInfo &file, bool isAhead)
 {
     const QMutexLocker lock(&kept().mutex);
-    const TexturePointer *known = kept().textures.object(file.filePath());
-    if (known && (*known)->changed == file.lastModified() && (*known)->size == file.size())
-        return *known;
-    const auto made = std::make_shared<Texture>();
-    made->changed = file.lastModified();
-    made->size = file.size();
-    kept().textures.insert(file.filePath(), new TexturePointer(made));
-    return made;
+    if (TexturePointer texture = keptIn(kept().textures, file))
+        return texture;
+    TexturePointer texture = keptIn(kept().ahead, file);
+    if (texture && isAhead)
+        return texture;
+    if (!texture) {
+        texture = std::make_shared<Texture>();
+        texture->changed = file.lastModified();
+        texture->size = file.size();
+    }
+    kept().ahead.remove(file.filePath());
+    TextureCache &cache = isAhead ? kept().ahead : kept().textures;
+    cache.insert(file.filePath(), new TexturePointer(texture), texture->cost);
+    return texture;
 }
 
 /// Counts the memory of what was decoded. What cannot be decoded is tried again the next time: the reason may
@@ -62,27 +81,39 @@ TexturePointer textureOf(const QFileInfo &file)
 void settle(const QString &path, const TexturePointer &texture)
 {
     const QMutexLocker lock(&kept().mutex);
-    const TexturePointer *known = kept().textures.object(path);
-    if (!known || *known != texture)
-        return; // The file has changed meanwhile.
-    if (texture->image.isNull())
-        kept().textures.remove(path);
-    else
-        kept().textures.insert(path, new TexturePointer(texture),
-                               int(texture->image.sizeInBytes() / CostUnit));
+    texture->cost = std::max(1, int(texture->image.sizeInBytes() / CostUnit));
+    for (TextureCache *cache : {&kept().textures, &kept().ahead}) {
+        const TexturePointer *found = cache->object(path);
+        if (!found || *found != texture)
+            continue; // The file has changed meanwhile.
+        if (texture->image.isNull())
+            cache->remove(path);
+        else
+            cache->insert(path, new TexturePointer(texture), texture->cost);
+    }
 }
-} // namespace
 
-QImage TextureImages::load(const QString &path)
+QImage loadInto(const QString &path, bool isAhead)
 {
     const QFileInfo file(path);
     // Opening a pipe would wait for a writer for ever.
     if (!file.isFile())
         return {};
-    const TexturePointer texture = textureOf(file);
+    const TexturePointer texture = textureOf(file, isAhead);
     std::call_once(texture->decoded, [&] {
         texture->image = decode(path);
         settle(path, texture);
     });
     return texture->image;
+}
+} // namespace
+
+QImage TextureImages::load(const QString &path)
+{
+    return loadInto(path, false);
+}
+
+qint64 TextureImages::loadAhead(const QString &path)
+{
+    return loadInto(path, true).sizeInBytes();
 }

@@ -14,4 +14,8 @@ constexpr qint64 Room = 128 * 1024 * 1024;
 /// until the file changes or the room is needed. Any thread may ask; one that asks for what another thread
 /// decodes waits for that.
 QImage load(const QString &path);
+/// The same for what may be asked for soon. Of such files as much is kept as AheadRoom, apart from the
+/// others, so they push out only one another. Gives the bytes of the picture.
+qint64 loadAhead(const QString &path);
+constexpr qint64 AheadRoom = 64 * 1024 * 1024;
 } // namespace TextureImages

@@ -71,10 +71,24 @@ void ExplorerFiles::open(DocumentType type, const QString &path)
     // The answer may have saved another file, which was selected then. The selection stays on one that cannot
     // be read, too: the arrow keys would never get past it.
     explorer(type).selectPath(path);
-    m_files.open(type, path, [this, type](DocumentFiles::Outcome outcome) {
+    emit mayComeNext({});
+    m_files.open(type, path, [this, type, path](DocumentFiles::Outcome outcome) {
+        if (outcome != DocumentFiles::Outcome::GivenUp)
+            emit mayComeNext(neighbours(type, path));
         if (outcome == DocumentFiles::Outcome::Opened)
             emit opened(type);
         else if (outcome == DocumentFiles::Outcome::GivenUp)
             explorer(type).selectPath(m_files.document(type)->path());
     });
+}
+
+QStringList ExplorerFiles::neighbours(DocumentType type, const QString &path)
+{
+    const QStringList files = explorer(type).files();
+    const int row = files.indexOf(path);
+    QStringList beside;
+    if (row >= 0)
+        beside << files.value(row + 1) << files.value(row - 1);
+    beside.removeAll(QString());
+    return beside;
 }

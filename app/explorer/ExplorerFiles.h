@@ -5,6 +5,7 @@
 #include "DocumentKind.h"
 
 #include <QObject>
+#include <QStringList>
 
 class DocumentFiles;
 class FolderExplorer;
@@ -20,6 +21,8 @@ public:
 
 signals:
     void opened(DocumentType type);
+    /// A file was opened: these stand beside it in its list, the next one first. None while one is opened.
+    void mayComeNext(const QStringList &paths);
 
 public slots:
     /// Reads the folders of all explorers again.
@@ -33,6 +36,7 @@ private slots:
 private:
     FolderExplorer &explorer(DocumentType type) { return *m_explorers[size_t(type)]; }
     void open(DocumentType type, const QString &path);
+    QStringList neighbours(DocumentType type, const QString &path);
 
     DocumentFiles &m_files;
     std::array<FolderExplorer *, 3> m_explorers;

@@ -9,6 +9,8 @@
 #include "StaticMesh.h"
 #include "TextureImages.h"
 
+#include <QFileInfo>
+
 namespace {
 QString lastOfKind(const QStringList &paths, DocumentType type)
 {
@@ -22,7 +24,7 @@ QString lastOfKind(const QStringList &paths, DocumentType type)
 }
 
 template <typename Model>
-QStringList materialsOf(const QString &path)
+QStringList materialsIn(const QString &path)
 {
     Model model;
     QStringList materials;
@@ -32,6 +34,38 @@ QStringList materialsOf(const QString &path)
         materials.append(surface.materialPath);
     return materials;
 }
+
+QStringList materialsOf(const QString &path)
+{
+    const DocumentKind *kind = documentKindOfFile(path);
+    if (kind && kind->type == DocumentType::SkinnedMesh)
+        return materialsIn<SkinnedMesh>(path);
+    return kind && kind->type == DocumentType::StaticMesh ? materialsIn<StaticMesh>(path) : QStringList();
+}
+
+/// Takes the bytes of the textures from `room`: beyond it the next would push out the first.
+void loadTextures(const QStringList &materialPaths, MaterialFiles materials,
+                  const std::atomic_bool &isStopped, qint64 &room, qint64 (*decode)(const QString &path))
+{
+    for (const QString &materialPath : materialPaths) {
+        const QString texture = materials.find(materialPath).texture;
+        if (texture.isEmpty() || texture == MaterialFiles::Blank)
+            continue;
+        for (const QString &path : materials.candidates(texture)) {
+            if (isStopped || room < 0)
+                return;
+            const qint64 bytes = decode(path);
+            room -= bytes;
+            if (bytes > 0)
+                break;
+        }
+    }
+}
+
+qint64 decodeNow(const QString &path)
+{
+    return TextureImages::load(path).sizeInBytes();
+}
 } // namespace
 
 // Without a thread to be had nothing is done, and the window decodes the textures.
@@ -40,8 +74,9 @@ TexturesAhead::TexturesAhead(const QStringList &paths)
                         [this, skinned = lastOfKind(paths, DocumentType::SkinnedMesh),
                          rigid = lastOfKind(paths, DocumentType::StaticMesh),
                          gamePath = Settings::GamePath.value(), outputDir = Settings::OutputDir.value()] {
-                            load(materialsOf<SkinnedMesh>(skinned) + materialsOf<StaticMesh>(rigid), gamePath,
-                                 outputDir);
+                            qint64 room = TextureImages::Room;
+                            loadTextures(materialsOf(skinned) + materialsOf(rigid), {gamePath, outputDir},
+                                         m_stopped, room, decodeNow);
                         }))
 {}
 
@@ -50,23 +85,32 @@ TexturesAhead::~TexturesAhead()
     m_stopped = true;
 }
 
-void TexturesAhead::load(const QStringList &materialPaths, const QString &gamePath,
-                         const QString &outputDir) const
+NeighboursAhead::NeighboursAhead(QObject *parent)
+    : QObject(parent)
 {
-    MaterialFiles materials(gamePath, outputDir);
-    qint64 bytes = 0;
-    for (const QString &materialPath : materialPaths) {
-        const QString texture = materials.find(materialPath).texture;
-        if (texture.isEmpty() || texture == MaterialFiles::Blank)
-            continue;
-        for (const QString &path : materials.candidates(texture)) {
-            // Beyond the room the next would push out the first.
-            if (m_stopped || bytes > TextureImages::Room)
-                return;
-            const QImage image = TextureImages::load(path);
-            bytes += image.sizeInBytes();
-            if (!image.isNull())
-                break;
+    m_delay.setSingleShot(true);
+    m_delay.setInterval(DelayMs);
+    connect(&m_delay, &QTimer::timeout, this, &NeighboursAhead::load);
+}
+
+void NeighboursAhead::expect(const QStringList &paths)
+{
+    m_loading.cancel();
+    m_paths = paths;
+    m_delay.start();
+}
+
+void NeighboursAhead::load()
+{
+    const auto work = [paths = m_paths, gamePath = Settings::GamePath.value(),
+                       outputDir = Settings::OutputDir.value()](const Background::Cancelled &cancelled) {
+        qint64 room = TextureImages::AheadRoom;
+        for (const QString &path : paths) {
+            if (!cancelled && QFileInfo(path).size() <= MostBytes)
+                loadTextures(materialsOf(path), {gamePath, outputDir}, cancelled, room,
+                             TextureImages::loadAhead);
         }
-    }
+        return true;
+    };
+    m_loading.start(work, [this](bool) { emit done(); });
 }

@@ -36,6 +36,7 @@
 #include "StructureActions.h"
 #include "TemporaryFolder.h"
 #include "TextureWatch.h"
+#include "TexturesAhead.h"
 #include "UndoActions.h"
 #include "UpdatePrompt.h"
 #include "ViewMenu.h"
@@ -170,6 +171,8 @@ void MainWindow::createDocuments()
         new AnimationFollower(*m_files, *explorers[1], *m_ui->actionAnimSyncSkin, *m_ui->vlviewSkinned, this);
     connect(follower, &AnimationFollower::posed, m_panes, &DocumentPanes::OnPosed);
     connect(m_explorerFiles, &ExplorerFiles::opened, m_panes, &DocumentPanes::showOpened);
+    connect(m_explorerFiles, &ExplorerFiles::mayComeNext, new NeighboursAhead(this),
+            &NeighboursAhead::expect);
     connect(m_ui->actionRefreshExplorers, &QAction::triggered, m_explorerFiles,
             &ExplorerFiles::on_actionRefreshExplorers_triggered);
     addLoadingSigns(*m_files, *m_ui->viewSkinned, *m_ui->viewStatic, *m_ui->statusBar);

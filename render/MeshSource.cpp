@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "MeshSource.h"
 
+#include "BinaryFileReader.h"
 #include "Log.h"
 #include "MaterialTextures.h"
 #include "Settings.h"
@@ -89,13 +90,17 @@ MeshSource sourceWithoutImages(const Model &mesh)
 }
 
 template <typename Model>
-MeshSource sourceOf(const Model &mesh, const QString &gamePath, const QString &outputDir)
+MeshSource sourceOf(const Model &mesh, const QString &gamePath, const QString &outputDir,
+                    const ReadProgress *progress)
 {
     MeshSource source = sourceWithoutImages(mesh);
     MaterialTextures textures(gamePath, outputDir, Traits<Model>::logTag());
     source.images.reserve(mesh.surfaces.size());
-    for (const auto &surface : mesh.surfaces)
+    for (const auto &surface : mesh.surfaces) {
+        if (progress && progress->isCancelled)
+            break;
         source.images.push_back(textures.image(surface.materialPath));
+    }
     return source;
 }
 } // namespace
@@ -145,22 +150,24 @@ void MeshVertices::measure()
 
 MeshSource MeshSource::from(const SkinnedMesh &mesh)
 {
-    return sourceOf(mesh, Settings::GamePath.value(), Settings::OutputDir.value());
+    return sourceOf(mesh, Settings::GamePath.value(), Settings::OutputDir.value(), nullptr);
 }
 
 MeshSource MeshSource::from(const StaticMesh &mesh)
 {
-    return sourceOf(mesh, Settings::GamePath.value(), Settings::OutputDir.value());
+    return sourceOf(mesh, Settings::GamePath.value(), Settings::OutputDir.value(), nullptr);
 }
 
-MeshSource MeshSource::from(const SkinnedMesh &mesh, const QString &gamePath, const QString &outputDir)
+MeshSource MeshSource::from(const SkinnedMesh &mesh, const QString &gamePath, const QString &outputDir,
+                            const ReadProgress *progress)
 {
-    return sourceOf(mesh, gamePath, outputDir);
+    return sourceOf(mesh, gamePath, outputDir, progress);
 }
 
-MeshSource MeshSource::from(const StaticMesh &mesh, const QString &gamePath, const QString &outputDir)
+MeshSource MeshSource::from(const StaticMesh &mesh, const QString &gamePath, const QString &outputDir,
+                            const ReadProgress *progress)
 {
-    return sourceOf(mesh, gamePath, outputDir);
+    return sourceOf(mesh, gamePath, outputDir, progress);
 }
 
 MeshSource MeshSource::from(const StaticMesh &mesh, const QImage &image)

@@ -9,6 +9,7 @@
 #include <vector>
 
 class MaterialTextures;
+struct ReadProgress;
 struct SkinnedMesh;
 struct StaticMesh;
 
@@ -54,9 +55,12 @@ struct MeshSource
     /// triangles cannot be drawn.
     static MeshSource from(const SkinnedMesh &mesh);
     static MeshSource from(const StaticMesh &mesh);
-    /// The same with other folders; an empty one is not searched.
-    static MeshSource from(const SkinnedMesh &mesh, const QString &gamePath, const QString &outputDir);
-    static MeshSource from(const StaticMesh &mesh, const QString &gamePath, const QString &outputDir);
+    /// The same with other folders; an empty one is not searched. Whoever does not want it any more cancels
+    /// `progress`, if there is one: no texture is read from then on.
+    static MeshSource from(const SkinnedMesh &mesh, const QString &gamePath, const QString &outputDir,
+                           const ReadProgress *progress = nullptr);
+    static MeshSource from(const StaticMesh &mesh, const QString &gamePath, const QString &outputDir,
+                           const ReadProgress *progress = nullptr);
     /// The same with one image for all surfaces, without a look at materials and without a log line.
     static MeshSource from(const StaticMesh &mesh, const QImage &image);
 };

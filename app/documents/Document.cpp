@@ -2,16 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "Document.h"
 
-#include "BinaryFileReader.h"
 #include "BinaryFileWriter.h"
-#include "LoadedModel.h"
 #include "NameTables.h"
 #include "TypingField.h"
 
 #include <QFileInfo>
 
 #include <algorithm>
-#include <utility>
 
 namespace {
 QString boneName(const SkinnedMesh &mesh, int index)
@@ -30,6 +27,26 @@ int boneOfTrack(const AnimBlock &block, quint16 AnimNode::*track, int number)
     const auto found = std::find_if(block.nodes.begin(), block.nodes.end(),
                                     [track, number](const auto &bone) { return int(bone.*track) == number; });
     return found == block.nodes.end() ? -1 : int(found - block.nodes.begin());
+}
+
+/// The bytes of the file that a model would make, roughly: growing a large buffer takes longer than to fill
+/// it.
+size_t roughBytes(const AnimFile &file)
+{
+    size_t bytes = 0;
+    for (const AnimBlock &block : file.blocks)
+        bytes += block.translations.keys().size() * 12 + block.rotations.keys().size() * 16 +
+                 block.frames.size() * 4 + block.nodes.size() * 32 + block.actions.size() * 50 + 44;
+    return bytes;
+}
+
+template <typename Mesh>
+size_t roughBytes(const Mesh &mesh)
+{
+    size_t bytes = mesh.vertices.size() * 34;
+    for (const auto &surface : mesh.surfaces)
+        bytes += surface.triangleIndexes.size() * sizeof(quint16) + 64;
+    return bytes;
 }
 
 /// The index that an entry of a list holds.
@@ -299,7 +316,7 @@ QString StaticMeshDocument::recordName(const RecordRef &) const
 template <typename Model>
 Document::Reader ModelDocument<Model>::reader(const QString &path) const
 {
-    auto prepare = m_preparation ? m_preparation() : std::function<std::any(const Model &)>();
+    auto prepare = m_preparation ? m_preparation() : typename LoadedModel<Model>::Prepare();
     return [path, prepare = std::move(prepare)](ReadProgress &progress) {
         auto file = std::make_shared<LoadedModel<Model>>();
         file->read(path, prepare, progress);
@@ -312,6 +329,7 @@ void ModelDocument<Model>::takeModel(LoadedFile &file)
 {
     auto &loaded = static_cast<LoadedModel<Model> &>(file);
     m_fresh = std::move(loaded.model);
+    m_freshCopy = std::move(loaded.copy);
     m_names = std::move(loaded.names);
 }
 
@@ -351,6 +369,7 @@ void ModelDocument<Model>::takeNames(const NamesFile &names)
 {
     m_names = names;
     m_model.bytesBehind = 0;
+    m_copy.reset();
 }
 
 template <typename Model>
@@ -365,10 +384,7 @@ QString ModelDocument<Model>::replacedBeside(const QString &path) const
 template <typename Model>
 std::vector<uchar> ModelDocument<Model>::draft() const
 {
-    // The file is seldom far off: growing a large buffer costs more than filling it. What kept work says of
-    // its file may be anything.
-    constexpr qint64 most = 256 << 20;
-    BinaryFileWriter writer(size_t(std::clamp<qint64>(fileStamp().size, 0, most)) + 64 * 1024);
+    BinaryFileWriter writer(roughBytes(m_model) + 64 * 1024);
     m_model.writeDraft(writer);
     std::vector<uchar> bytes = writer.takeBytes();
     if constexpr (std::is_same_v<Model, SkinnedMesh>) {

@@ -6,7 +6,7 @@
 #include "DocumentFields.h"
 #include "DocumentKind.h"
 #include "DocumentView.h"
-#include "LoadedFile.h"
+#include "LoadedModel.h"
 #include "NamesFile.h"
 #include "Records.h"
 
@@ -182,8 +182,15 @@ public:
     Writer writer(const QString &path) const override;
     /// What is to be made of each model that is read. Called before, it gives what is then called with the
     /// model in the thread that reads.
-    using Preparation = std::function<std::function<std::any(const Model &)>()>;
+    using Preparation = std::function<typename LoadedModel<Model>::Prepare()>;
     void setPreparation(Preparation preparation) { m_preparation = std::move(preparation); }
+
+    /// The model as it is now, for any thread. The thread that has read a file makes the first one, too.
+    std::shared_ptr<const Model> copy()
+    {
+        const std::shared_ptr<const Model> ready = std::exchange(m_copy, nullptr);
+        return ready && m_copied == change() ? ready : std::make_shared<const Model>(m_model);
+    }
 
     /// Takes over a model that has no file yet; `name`, without extension, is what it would be saved as.
     void take(Model model, const QString &name)
@@ -207,12 +214,17 @@ protected:
     void adoptModel() override
     {
         Background::discard(std::exchange(m_model, std::exchange(m_fresh, Model())));
+        m_copy = std::exchange(m_freshCopy, nullptr);
+        m_copied = change();
     }
     void takeNames(const NamesFile &names) override;
 
 private:
     Model m_model;
     Model m_fresh;
+    std::shared_ptr<const Model> m_freshCopy; ///< of m_fresh, where there is one
+    std::shared_ptr<const Model> m_copy;      ///< of m_model as it was after the change m_copied
+    int m_copied = 0;
     NamesFile m_names; ///< of a skinned mesh
     Preparation m_preparation;
 };

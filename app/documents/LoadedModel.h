@@ -10,17 +10,21 @@
 #include <QCoreApplication>
 
 #include <functional>
+#include <memory>
 
 /// The file of a model, with what stands beside it.
 template <typename Model>
 struct LoadedModel : LoadedFile
 {
+    /// Makes something of a model; it may end early, and give anything, when the read is cancelled.
+    using Prepare = std::function<std::any(const Model &, const ReadProgress &)>;
+
     Model model;
-    NamesFile names; ///< of a skinned mesh
+    std::shared_ptr<const Model> copy; ///< see ModelDocument::copy()
+    NamesFile names;                   ///< of a skinned mesh
 
     /// `prepare`, if given, makes what is prepared.
-    void read(const QString &from, const std::function<std::any(const Model &)> &prepare,
-              ReadProgress &progress)
+    void read(const QString &from, const Prepare &prepare, ReadProgress &progress)
     {
         HeldLog log;
         path = from;
@@ -33,7 +37,9 @@ struct LoadedModel : LoadedFile
         if (!isFailed)
             complete();
         if (!isFailed && prepare && !progress.isCancelled)
-            prepared = prepare(model);
+            prepared = prepare(model, progress);
+        if (!isFailed && !progress.isCancelled)
+            copy = std::make_shared<const Model>(model);
         lines = log.lines;
     }
 

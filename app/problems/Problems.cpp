@@ -7,6 +7,7 @@
 #include "Settings.h"
 #include "Validation.h"
 
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QSet>
 
@@ -15,12 +16,8 @@
 #include <utility>
 
 namespace {
-template <typename Model>
-std::shared_ptr<const Model> sharedCopy(const ModelDocument<Model> &document)
-{
-    return std::make_shared<const Model>(document.model());
+constexpr int MostInATurnMs = 10;
 }
-} // namespace
 
 Problems::Problems(SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticMeshDocument &staticMesh,
                    QObject *parent)
@@ -92,8 +89,16 @@ void Problems::markChanged(DocumentType type)
 void Problems::check()
 {
     m_delay.stop();
+    QElapsedTimer begun;
+    begun.start();
     for (const DocumentKind &kind : documentKinds()) {
-        if (std::exchange(m_isStale[size_t(kind.type)], false))
+        bool &isStale = m_isStale[size_t(kind.type)];
+        // The copy of a large model takes its time: the next one is another turn's.
+        if (isStale && begun.elapsed() > MostInATurnMs) {
+            QTimer::singleShot(0, this, &Problems::check);
+            return;
+        }
+        if (std::exchange(isStale, false))
             startCheck(kind.type);
     }
 }
@@ -117,21 +122,20 @@ std::function<std::vector<Finding>()> Problems::checkNow(DocumentType type) cons
     const MaterialFolders folders{Settings::GamePath.value(), Settings::OutputDir.value()};
     switch (type) {
     case DocumentType::SkinnedMesh:
-        return [model = sharedCopy(m_skinnedMesh), folders, ids = m_ids] {
-            return validate(*model, folders, ids);
-        };
+        return
+            [model = m_skinnedMesh.copy(), folders, ids = m_ids] { return validate(*model, folders, ids); };
     case DocumentType::Anim: {
         // Of the mesh the animations' checks want to know how many bones it has.
         SkinnedMesh bones;
         bones.nodes.resize(m_skinnedMesh.model().nodes.size());
-        return [model = sharedCopy(m_anim), bones, isKnown = m_skinnedMesh.isOpen(), ids = m_ids] {
+        return [model = m_anim.copy(), bones, isKnown = m_skinnedMesh.isOpen(), ids = m_ids] {
             return validate(*model, isKnown ? &bones : nullptr, ids);
         };
     }
     case DocumentType::StaticMesh:
         break;
     }
-    return [model = sharedCopy(m_staticMesh), folders] { return validate(*model, folders); };
+    return [model = m_staticMesh.copy(), folders] { return validate(*model, folders); };
 }
 
 std::vector<RecordRef> Problems::repairable(DocumentType type, Rule rule) const

@@ -27,9 +27,9 @@ template <typename Model>
 void prepareViewOf(ModelDocument<Model> &document)
 {
     document.setPreparation([] {
-        return [gamePath = Settings::GamePath.value(),
-                outputDir = Settings::OutputDir.value()](const Model &model) -> std::any {
-            return std::make_shared<MeshSource>(MeshSource::from(model, gamePath, outputDir));
+        return [gamePath = Settings::GamePath.value(), outputDir = Settings::OutputDir.value()](
+                   const Model &model, const ReadProgress &progress) -> std::any {
+            return std::make_shared<MeshSource>(MeshSource::from(model, gamePath, outputDir, &progress));
         };
     });
 }

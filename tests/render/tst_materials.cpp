@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "BinaryFileReader.h"
 #include "Log.h"
 #include "MaterialTextures.h"
 #include "MeshSource.h"
@@ -24,6 +25,7 @@ private slots:
     void cachesWithinABuild();
     void sharesDecodedFiles();
     void limits();
+    void nothingIsDecodedOnceCancelled();
     void emptyFolders();
     void vertices();
     void indexes();
@@ -187,6 +189,28 @@ void tst_Materials::sharesDecodedFiles()
     QVERIFY(TextureImages::load(path).isNull());
     QVERIFY(write(green));
     QVERIFY(!TextureImages::load(path).isNull());
+
+    // What is decoded ahead, however much, pushes out nothing that was asked for.
+    const qint64 key = TextureImages::load(path).cacheKey();
+    const auto ahead = [this](int number) {
+        return QStringLiteral("%1/mod/textures/ahead%2.png").arg(m_folder.path()).arg(number);
+    };
+    QImage large(2048, 2048, QImage::Format_RGBA8888);
+    large.fill(Qt::red);
+    for (int i = 0; i < 10; ++i) { // of 16 MiB each
+        QVERIFY(large.save(ahead(i)));
+        QCOMPARE(TextureImages::loadAhead(ahead(i)), large.sizeInBytes());
+    }
+    QCOMPARE(TextureImages::load(path).cacheKey(), key);
+    // Its last is there, its first was pushed out.
+    const auto isKept = [&](int number) {
+        const QDateTime changed = QFileInfo(ahead(number)).lastModified();
+        QFile file(ahead(number));
+        const bool isSpoilt = file.open(QIODevice::ReadWrite) && file.write("none") == 4 && file.flush() &&
+                              file.setFileTime(changed, QFileDevice::FileModificationTime);
+        return isSpoilt && !TextureImages::load(ahead(number)).isNull();
+    };
+    QVERIFY(isKept(9) && !isKept(0));
 }
 
 void tst_Materials::limits()
@@ -213,6 +237,18 @@ void tst_Materials::limits()
     QVERIFY(find(name("lost")) == find(name("white")));
     QVERIFY(m_log.filter(QStringLiteral("has 16000 × 16000 pixels")).size() == 1);
     QVERIFY(QFile::remove(lost));
+}
+
+void tst_Materials::nothingIsDecodedOnceCancelled()
+{
+    StaticMesh mesh;
+    mesh.surfaces.resize(3);
+    ReadProgress progress;
+    QCOMPARE(MeshSource::from(mesh, m_game, m_mod, &progress).images.size(), size_t(3));
+    m_log.clear();
+    progress.isCancelled = true;
+    QCOMPARE(MeshSource::from(mesh, m_game, m_mod, &progress).images.size(), size_t(0));
+    QCOMPARE(m_log, QStringList());
 }
 
 void tst_Materials::emptyFolders()

@@ -30,7 +30,7 @@ private slots:
         // From here on each read waits for the test to let it end.
         m_run->files.setPatience(0);
         m_run->mesh.setPreparation([this] {
-            return [this](const SkinnedMesh &) {
+            return [this](const SkinnedMesh &, const ReadProgress &) {
                 m_gate.acquire();
                 return std::any();
             };

@@ -116,9 +116,31 @@ QVariantMap Session::state() const
     return state;
 }
 
+/// What is being read still stands as it was stored.
+QVariantMap Session::stateWithAwaited() const
+{
+    QVariantMap all = state();
+    for (const DocumentPane &pane : m_panes) {
+        const QVariantMap &was = m_awaited[size_t(pane.document->kind().type)];
+        const DocumentLoader &loader = m_files.loader(pane.document->kind().type);
+        const QVariant file = was.value(pane.document->kind().extension);
+        if (!loader.isLoading() || loader.path() != file.toMap().value(PathKey).toString())
+            continue;
+        all.insert(pane.document->kind().extension, file);
+        all.insert(pane.viewport->objectName(), was.value(pane.viewport->objectName()));
+        if (pane.document->kind().type == DocumentType::Anim)
+            all.insert(BlockKey, was.value(BlockKey));
+    }
+    return all;
+}
+
 void Session::store()
 {
-    const QVariantMap now = state();
+    storeAs(state());
+}
+
+void Session::storeAs(const QVariantMap &now)
+{
     if (now == m_stored || !Settings::RestoreSession.value())
         return;
     Settings::Session.setValue(now);
@@ -180,6 +202,8 @@ void Session::open(const DocumentPane &pane, const QVariantMap &state)
             block < pane.document->recordCount(RecordKind::AnimBlock, {}))
             m_track.selectBlock(block);
     };
+    // Not before the window closes does it count again: it may bring the program down yet.
+    m_awaited[size_t(pane.document->kind().type)] = state;
     m_files.loader(pane.document->kind().type).load(path, then);
 }
 
@@ -207,7 +231,7 @@ bool Session::eventFilter(QObject *watched, QEvent *event)
     if (watched == m_window && event->type() == QEvent::Close) {
         // Another window may have written meanwhile; the one closed last is the session.
         m_stored.clear();
-        store();
+        storeAs(stateWithAwaited());
     }
     return QObject::eventFilter(watched, event);
 }

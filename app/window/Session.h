@@ -45,6 +45,8 @@ protected:
 private:
     void noteChange();
     QVariantMap state() const;
+    QVariantMap stateWithAwaited() const;
+    void storeAs(const QVariantMap &now);
     void open(const DocumentPane &pane, const QVariantMap &state);
     void placeView(const DocumentPane &pane, const QVariantMap &state) const;
     /// Returns true when the pane shows the file as it was.
@@ -57,4 +59,5 @@ private:
     QWidget *m_window;
     QTimer m_timer;
     QVariantMap m_stored;
+    std::array<QVariantMap, 3> m_awaited; ///< the map that each document's file was last opened of
 };

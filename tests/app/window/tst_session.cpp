@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "Session.h"
 
+#include "DocumentFiles.h"
 #include "Hand.h"
 #include "KVOpenGLWidget.h"
 #include "Playback.h"
 #include "SampleModels.h"
+
+#include <QSemaphore>
 
 #include <limits>
 
@@ -139,6 +142,43 @@ private slots:
         // The animation belonged to another mesh; the other tab has nothing to do with it.
         QCOMPARE(rootOf(window, "treeAnim"), QString());
         QCOMPARE(rootOf(window, "treeStaticMesh"), QStringLiteral("box.staticmesh"));
+    }
+
+    void whatIsStillBeingReadStays()
+    {
+        {
+            Started window({m_mesh, m_anim, m_rigid});
+            select(window, "treeStaticMesh", {{RecordKind::StaticSurface, {0}}});
+            select(window, "treeAnim", {{RecordKind::AnimBlock, {1}}});
+            window.close();
+        }
+        const QVariantMap stored = Settings::Session.value();
+        QSemaphore gate;
+        const QByteArray patience = qgetenv("KORVANE_PATIENCE");
+        qputenv("KORVANE_PATIENCE", "0");
+        {
+            MainWindow window;
+            auto &files = *window.findChild<DocumentFiles *>();
+            const auto hold = [&gate](auto *document) {
+                document->setPreparation([&gate] {
+                    return [&gate](const auto &, const ReadProgress &) {
+                        gate.acquire();
+                        return std::any();
+                    };
+                });
+            };
+            hold(static_cast<AnimDocument *>(files.document(DocumentType::Anim)));
+            hold(static_cast<StaticMeshDocument *>(files.document(DocumentType::StaticMesh)));
+            window.show();
+            window.openAtStart({});
+            QTRY_COMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
+            window.findChild<Session *>()->store();
+            QVERIFY(!Settings::Session.value().contains(QStringLiteral("anim"))); // it may crash us yet
+            window.close();
+            gate.release(2);
+        }
+        qputenv("KORVANE_PATIENCE", patience);
+        QCOMPARE(Settings::Session.value(), stored);
     }
 
     void keptWorkComesBackOverTheSession()

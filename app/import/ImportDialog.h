@@ -44,8 +44,8 @@ protected:
 
 signals:
     /// The import has succeeded; `name` is the source's complete base name.
-    void skinnedMeshImported(const SkinnedMesh &mesh, const AnimFile &anim, const QString &name);
-    void staticMeshImported(const StaticMesh &mesh, const QString &name);
+    void skinnedMeshImported(SkinnedMesh &mesh, AnimFile &anim, const QString &name);
+    void staticMeshImported(StaticMesh &mesh, const QString &name);
 
 private slots:
     void on_btnImport_clicked();

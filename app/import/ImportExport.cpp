@@ -11,6 +11,8 @@
 #include <QMessageBox>
 #include <QSet>
 
+#include <utility>
+
 namespace {
 // What the files hold that come with the program, for a model of which no document is open.
 constexpr qint32 UsualVersion = 2;
@@ -76,16 +78,15 @@ void ImportExport::importModel(DocumentType type, const QString &modelPath)
         return answer;
     });
     connect(&dialog, &ImportDialog::skinnedMeshImported, this,
-            [this](const SkinnedMesh &mesh, const AnimFile &anim, const QString &name) {
-                m_skinnedMesh.take(mesh, name);
-                m_anim.take(anim, name);
+            [this](SkinnedMesh &mesh, AnimFile &anim, const QString &name) {
+                m_skinnedMesh.take(std::move(mesh), name);
+                m_anim.take(std::move(anim), name);
                 emit cameToFront(DocumentType::SkinnedMesh);
             });
-    connect(&dialog, &ImportDialog::staticMeshImported, this,
-            [this](const StaticMesh &mesh, const QString &name) {
-                m_staticMesh.take(mesh, name);
-                emit cameToFront(DocumentType::StaticMesh);
-            });
+    connect(&dialog, &ImportDialog::staticMeshImported, this, [this](StaticMesh &mesh, const QString &name) {
+        m_staticMesh.take(std::move(mesh), name);
+        emit cameToFront(DocumentType::StaticMesh);
+    });
     dialog.exec();
 }
 

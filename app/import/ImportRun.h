@@ -38,9 +38,10 @@ public:
     void cancel();
 
 signals:
-    /// The import has succeeded; `name` is the source's complete base name.
-    void skinnedMeshImported(const SkinnedMesh &mesh, const AnimFile &anim, const QString &name);
-    void staticMeshImported(const StaticMesh &mesh, const QString &name);
+    /// The import has succeeded; `name` is the source's complete base name. Whoever takes a model moves it:
+    /// it may be large, and nobody needs it afterwards.
+    void skinnedMeshImported(SkinnedMesh &mesh, AnimFile &anim, const QString &name);
+    void staticMeshImported(StaticMesh &mesh, const QString &name);
     /// Comes once for each start, after those. There is a model unless the messages hold an error; `outcome`
     /// says what was written.
     void finished(const ImportMessages &messages, const QString &outcome);

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFontMetrics>
+#include <QHash>
 #include <QListWidget>
 #include <QMenu>
 #include <QScrollBar>
@@ -29,7 +30,11 @@ public:
 
     void include(const QString &text)
     {
-        m_textWidth = std::max(m_textWidth, m_list->fontMetrics().horizontalAdvance(oneLine(text)));
+        const QString line = oneLine(text);
+        // Most of thousands of lines are no longer than one before: to shape each would hold the window up.
+        const int letters = sumOfLetters(line);
+        if (letters > m_textWidth)
+            m_textWidth = std::max(letters, m_list->fontMetrics().horizontalAdvance(line));
     }
     void reset() { m_textWidth = 0; }
 
@@ -51,7 +56,26 @@ private:
         return text.replace(QLatin1Char('\n'), QStringLiteral(" \u21b5 "));
     }
 
+    int sumOfLetters(const QString &line)
+    {
+        const QFontMetrics metrics = m_list->fontMetrics();
+        if (metrics != m_metrics) {
+            m_metrics = metrics;
+            m_letterWidths.clear();
+        }
+        int sum = 0;
+        for (const QChar letter : line) {
+            const auto known = m_letterWidths.constFind(letter);
+            sum += known != m_letterWidths.constEnd()
+                       ? *known
+                       : *m_letterWidths.insert(letter, metrics.horizontalAdvance(letter));
+        }
+        return sum;
+    }
+
     QListWidget *m_list;
+    QFontMetrics m_metrics = m_list->fontMetrics();
+    QHash<QChar, int> m_letterWidths;
     int m_textWidth = 0;
 };
 

@@ -6,8 +6,6 @@
 #include "Icons.h"
 #include "Problems.h"
 #include "ProblemsList.h"
-#include "RecordSelection.h"
-#include "RecordTable.h"
 
 #include <QAction>
 #include <QApplication>
@@ -18,25 +16,6 @@
 
 #include <algorithm>
 #include <map>
-
-namespace {
-/// A record by the labels that lead to it in its tree, groups without their counts.
-QString placeIn(const RecordSelection &records, RecordRef record)
-{
-    QStringList labels;
-    for (const RecordRow *row = recordRow(record.kind); row; row = recordRow(row->parent)) {
-        if (row->parent == RecordKind::None && !labels.isEmpty())
-            break;
-        labels.prepend(
-            row->counted == RecordKind::None
-                ? records.label({row->kind, record.index})
-                : QCoreApplication::translate("Records", row->label).remove(QLatin1String("(%1)")).trimmed());
-        if (row->position == RecordRow::FromIndex)
-            record.index[size_t(row->component)] = 0;
-    }
-    return labels.join(QStringLiteral(" \u203A "));
-}
-} // namespace
 
 ProblemsDock::ProblemsDock(QWidget *parent)
     : QDockWidget(parent)
@@ -141,11 +120,11 @@ void ProblemsDock::fill()
     bool isHiding = false;
     for (const DocumentKind &kind : documentKinds()) {
         const auto [document, records] = m_documents[size_t(kind.type)];
+        const QString name = document->fileName();
         isOpen |= document->isOpen();
         for (const Finding &finding : m_problems->findings(kind.type)) {
             if (m_filters[size_t(severityOf(finding.rule))]->isChecked())
-                items << new ProblemItem(kind.type, finding, document->fileName(),
-                                         placeIn(*records, finding.place));
+                items << new ProblemItem(kind.type, finding, name, *records);
             else
                 isHiding = true;
         }

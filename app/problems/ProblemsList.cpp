@@ -3,7 +3,10 @@
 #include "ProblemsList.h"
 
 #include "Icons.h"
+#include "RecordSelection.h"
+#include "RecordTable.h"
 
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QPainter>
 #include <QStyledItemDelegate>
@@ -52,6 +55,22 @@ QString nameOf(Severity severity)
     return ProblemsList::tr("Note");
 }
 
+/// A record by the labels that lead to it in its tree, groups without their counts.
+QString placeIn(const RecordSelection &records, RecordRef record)
+{
+    QStringList labels;
+    for (const RecordRow *row = recordRow(record.kind); row; row = recordRow(row->parent)) {
+        if (row->parent == RecordKind::None && !labels.isEmpty())
+            break;
+        labels.prepend(
+            row->counted == RecordKind::None
+                ? records.label({row->kind, record.index})
+                : QCoreApplication::translate("Records", row->label).remove(QLatin1String("(%1)")).trimmed());
+        if (row->position == RecordRow::FromIndex)
+            record.index[size_t(row->component)] = 0;
+    }
+    return labels.join(QStringLiteral(" \u203A "));
+}
 /// The order in which the checks put findings, the worst first.
 auto orderOf(const ProblemItem &item)
 {
@@ -62,17 +81,34 @@ auto orderOf(const ProblemItem &item)
 } // namespace
 
 ProblemItem::ProblemItem(DocumentType type, const Finding &finding, const QString &document,
-                         const QString &place)
+                         const RecordSelection &records)
     : m_type(type)
     , m_finding(finding)
+    , m_document(document)
+    , m_records(&records)
+{}
+
+QString ProblemItem::cell(int column) const
 {
-    const Severity severity = severityOf(finding.rule);
-    setText(SeverityColumn, nameOf(severity));
-    setIcon(SeverityColumn, namedIcon(QLatin1String(iconOf(severity))));
-    setText(DocumentColumn, document);
-    setText(PlaceColumn, place);
-    setToolTip(PlaceColumn, place);
-    setText(TextColumn, finding.text);
+    switch (column) {
+    case SeverityColumn:
+        return nameOf(severityOf(m_finding.rule));
+    case DocumentColumn:
+        return m_document;
+    case PlaceColumn:
+        return placeIn(*m_records, m_finding.place);
+    default:
+        return m_finding.text;
+    }
+}
+
+QVariant ProblemItem::data(int column, int role) const
+{
+    if (role == Qt::DisplayRole || (role == Qt::ToolTipRole && column == PlaceColumn))
+        return cell(column);
+    if (role == Qt::DecorationRole && column == SeverityColumn)
+        return namedIcon(QLatin1String(iconOf(severityOf(m_finding.rule))));
+    return QTreeWidgetItem::data(column, role);
 }
 
 bool ProblemItem::isAbout(const ProblemItem &other) const
@@ -115,7 +151,6 @@ ProblemsList::ProblemsList(QWidget *parent)
     setAllColumnsShowFocus(true);
     setWordWrap(true);
     setItemDelegateForColumn(ProblemItem::TextColumn, new SentenceDelegate(this));
-    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setSortingEnabled(true);
     sortByColumn(ProblemItem::SeverityColumn, Qt::AscendingOrder);
     header()->setStretchLastSection(false);
@@ -172,6 +207,7 @@ void ProblemsList::setProblems(const QList<QTreeWidgetItem *> &items)
     // A row that was taken out of the selection stays out.
     const bool selects = !current || old->isSelected();
     clear();
+    setVerticalScrollMode(items.size() > MostMeasured ? ScrollPerItem : ScrollPerPixel);
     addTopLevelItems(items);
     if (!current && row >= 0)
         current = topLevelItem(std::min(row, topLevelItemCount() - 1));

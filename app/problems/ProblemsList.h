@@ -7,13 +7,18 @@
 
 #include <QTreeWidget>
 
-/// One row of the list of problems.
+class RecordSelection;
+
+/// One row of the list of problems. There may be thousands, of which some dozens are seen: its texts are made
+/// when they are asked for.
 class ProblemItem : public QTreeWidgetItem
 {
 public:
     enum Column { SeverityColumn, DocumentColumn, PlaceColumn, TextColumn, ColumnCount };
 
-    ProblemItem(DocumentType type, const Finding &finding, const QString &document, const QString &place);
+    /// `records` says what the place is called, and outlives the item.
+    ProblemItem(DocumentType type, const Finding &finding, const QString &document,
+                const RecordSelection &records);
 
     DocumentType type() const { return m_type; }
     const Finding &finding() const { return m_finding; }
@@ -22,9 +27,15 @@ public:
     /// By the column that the list is sorted by; what is equal there stays in the order of the checks.
     bool operator<(const QTreeWidgetItem &other) const override;
 
+    QVariant data(int column, int role) const override;
+
 private:
+    QString cell(int column) const;
+
     DocumentType m_type;
     Finding m_finding;
+    QString m_document;
+    const RecordSelection *m_records;
 };
 
 /// The rows of the list of problems, with their sentences in full: they are broken into lines.
@@ -34,6 +45,9 @@ class ProblemsList : public QTreeWidget
 
 public:
     explicit ProblemsList(QWidget *parent = nullptr);
+
+    /// So many rows are scrolled by pixels: that takes the heights of all of them.
+    static constexpr int MostMeasured = 300;
 
     ProblemItem *currentProblem() const { return static_cast<ProblemItem *>(currentItem()); }
     QList<ProblemItem *> selectedProblems() const;

@@ -2,27 +2,32 @@
 // SPDX-License-Identifier: MIT
 #include "Bench.h"
 #include "DocumentLoader.h"
+#include "ImportDialog.h"
 #include "KVOpenGLWidget.h"
 #include "LargeModels.h"
 #include "MainWindow.h"
 #include "Settings.h"
+#include "WorkerJob.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QDockWidget>
 #include <QEventLoop>
+#include <QPushButton>
 #include <QSettings>
 #include <QSurfaceFormat>
 #include <QTemporaryDir>
 #include <QTimer>
 
 #include <algorithm>
+#include <cstdlib>
 #include <ctime>
 #include <utility>
 
 // How long the window answers nobody while it works: the largest gap between two turns of its event loop,
-// while large files open and are saved, and much is wrong with a model. A paint of such a model is up to the
-// graphics driver; how long it takes is told beside.
+// while large files open and are saved, a large import arrives, and much is wrong with a model. A paint of
+// such a model is up to the graphics driver, and takes a turn by itself; how long is told beside.
 namespace {
 constexpr double Budget = 50.0; // milliseconds
 
@@ -52,7 +57,9 @@ public:
 
     bool notify(QObject *receiver, QEvent *event) override
     {
-        if (event->type() != QEvent::UpdateRequest || m_isPainting)
+        // A view that is shown, or gets another size, paints at once.
+        const bool isPicture = event->type() == QEvent::UpdateRequest || event->type() == QEvent::Paint;
+        if (!isPicture || m_isPainting)
             return QApplication::notify(receiver, event);
         m_isPainting = true;
         const Gap before = now();
@@ -162,6 +169,37 @@ StaticMesh manyProblems()
     return mesh;
 }
 
+/// What stands in for the program that reads foreign files: it leaves models that were ready before.
+int answerAsWorker(const QString &folder, const QString &models)
+{
+    const WorkerFolder job(folder);
+    WorkerJob asked;
+    bool failed = job.read(asked);
+    if (asked.task != WorkerJob::Task::Summarize)
+        failed = failed || !QFile::copy(models + QStringLiteral("/import.skinnedmesh"), job.skinnedMesh()) ||
+                 !QFile::copy(models + QStringLiteral("/import.anim"), job.anim());
+    return failed || job.write(WorkerAnswer()) ? EXIT_FAILURE : EXIT_SUCCESS;
+}
+
+/// Imports as a hand would: the button of the dialog, and then the one that closes it.
+void importThrough(MainWindow &window, const QString &path)
+{
+    QTimer clicks;
+    int left = 300;
+    QObject::connect(&clicks, &QTimer::timeout, [&left] {
+        if (--left == 0)
+            qFatal("the import does not end");
+        const auto *dialog = qobject_cast<ImportDialog *>(QApplication::activeModalWidget());
+        for (const char *name : {"btnImport", "btnSuccess"}) {
+            auto *button = dialog ? dialog->findChild<QPushButton *>(QLatin1String(name)) : nullptr;
+            if (button && button->isVisible())
+                return button->click();
+        }
+    });
+    clicks.start(200);
+    window.openFiles({path});
+}
+
 void addGap(const std::string &name, const Gap &gap)
 {
     Bench::addLimitLine("gap_" + name, gap.passed, Budget, "ms");
@@ -187,10 +225,18 @@ void measure(MainWindow &window, const QString &folder)
     measureFile("skinnedmesh", written(path + QStringLiteral("skinnedmesh"), LargeModels::skinnedMesh()),
                 "viewSkinned");
     measureFile("anim", written(path + QStringLiteral("anim"), LargeModels::animFile()), "viewSkinned");
+    // While the tab of skinned meshes is in front: a foreign file becomes what that shows.
+    SkinnedMesh mesh;
+    mesh.nodes.resize(41);
+    written(folder + QStringLiteral("/import.skinnedmesh"), mesh);
+    written(folder + QStringLiteral("/import.anim"), LargeModels::animFile(100 * 1000 * 1000));
+    QFile(folder + QStringLiteral("/foreign.fbx")).open(QIODevice::WriteOnly);
+    addGap("import", largestGap([&] { importThrough(window, folder + QStringLiteral("/foreign.fbx")); }));
     measureFile("staticmesh", written(path + QStringLiteral("staticmesh"), LargeModels::staticMesh()),
                 "viewStatic");
     measureFile("triangles", written(folder + QStringLiteral("/triangles.staticmesh"), manyTriangles()),
                 "viewStatic");
+    window.findChild<QDockWidget *>(QStringLiteral("dockProblems"))->show();
     measureFile("problems", written(folder + QStringLiteral("/problems.staticmesh"), manyProblems()),
                 "viewStatic");
 }
@@ -198,6 +244,11 @@ void measure(MainWindow &window, const QString &folder)
 
 int main(int argc, char *argv[])
 {
+    const char *const Models = "KORVANE_BENCH_MODELS";
+    if (argc == 2 && qEnvironmentVariableIsSet(Models)) {
+        const QCoreApplication application(argc, argv);
+        return answerAsWorker(QFile::decodeName(argv[1]), qEnvironmentVariable(Models));
+    }
     const QTemporaryDir home;
     qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
     QCoreApplication::setOrganizationName(QStringLiteral("KorvaneBench"));
@@ -208,6 +259,8 @@ int main(int argc, char *argv[])
     format.setProfile(QSurfaceFormat::CoreProfile);
     QSurfaceFormat::setDefaultFormat(format);
     const Application application(argc, argv);
+    qputenv(Models, QFile::encodeName(home.path()));
+    qputenv("KORVANE_IMPORT_WORKER", QFile::encodeName(QCoreApplication::applicationFilePath()));
     QDir(home.path()).mkpath(QStringLiteral("game"));
     QDir(home.path()).mkpath(QStringLiteral("mod/materials"));
     QDir(home.path()).mkpath(QStringLiteral("mod/textures"));

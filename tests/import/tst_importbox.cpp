@@ -7,6 +7,7 @@
 #include <fcntl.h>
 
 #include <cerrno>
+#include <utility>
 
 /// Whatever a file makes of the process that reads it, that process does no harm.
 class tst_importbox : public QObject
@@ -114,6 +115,22 @@ private slots:
             QVERIFY2(free.value(QString::fromLatin1(name), -1) == 0, name);
         QCOMPARE(free.value(QStringLiteral("start a program")), ENOENT);
         QCOMPARE(free.value(QStringLiteral("connect to a port")), ECONNREFUSED);
+    }
+
+    // There, all that the user has lies below the model's folder.
+    void modelInHome()
+    {
+        if (m_lacking.contains(QLatin1String("Landlock")))
+            QSKIP("This kernel offers no Landlock.");
+        const QByteArray home = qgetenv("HOME");
+        const QString model = std::exchange(m_model, m_models.put("m.obj", "v 0 0 0\n"));
+        qputenv("HOME", QFileInfo(m_model).path().toUtf8());
+        const QHash<QString, int> errors = acts("");
+        qputenv("HOME", home);
+        m_model = model;
+        QCOMPARE(errors.value(QStringLiteral("read the model"), -1), 0);
+        QCOMPARE(errors.value(QStringLiteral("read a file outside")), EACCES);
+        QCOMPARE(errors.value(QStringLiteral("list a folder outside")), EACCES);
     }
 
     void whatTheEditorRefuses()

@@ -18,6 +18,9 @@ repository=$(cd "$here/../.." && pwd)
 triple=x86_64-w64-mingw32
 prefix=$cache/root
 folder=$build/Korvane-$version
+# The same programs make the same packages: one time for all that notes one.
+SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git -C "$repository" log -1 --format=%ct 2>/dev/null || date +%s)}
+export SOURCE_DATE_EPOCH
 
 # --- The folder --------------------------------------------------------------------------------------------
 
@@ -85,29 +88,29 @@ TEXT
 
 # --- Zip and installer -------------------------------------------------------------------------------------
 
-# The same programs make the same archive: names in order, one time for all.
-time=${SOURCE_DATE_EPOCH:-$(git -C "$repository" log -1 --format=%ct 2>/dev/null || date +%s)}
-find "$folder" -exec touch -h -d "@$time" {} +
+find "$folder" -exec touch -h -d "@$SOURCE_DATE_EPOCH" {} +
 zip_file=$out/Korvane-$version-windows.zip
 setup=$out/Korvane-$version-setup.exe
 rm -f "$zip_file" "$setup"
 
-# What the uninstaller removes: files, then the folders that are empty by then.
+# What the uninstaller removes: files, then the folders that are empty by then, the inner ones first.
 files=$build/uninstall.nsh
 {
     cd "$folder"
     # shellcheck disable=SC2016 # the installer's
     find . -type f -printf 'Delete "$INSTDIR\\%P"\n' | LC_ALL=C sort | sed 's|/|\\|g'
     # shellcheck disable=SC2016 # the installer's
-    find . -mindepth 1 -depth -type d -printf 'RMDir "$INSTDIR\\%P"\n' | sed 's|/|\\|g'
+    find . -mindepth 1 -type d -printf 'RMDir "$INSTDIR\\%P"\n' | LC_ALL=C sort -r | sed 's|/|\\|g'
 } >"$files"
 icon=$build/korvane.ico
-SOURCE_DATE_EPOCH=$time makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$version" -DFOLDER="$folder" -DFILES="$files" \
+makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$version" -DFOLDER="$folder" -DFILES="$files" \
     -DICON="$icon" -DOUTPUT="$setup" "$here/korvane.nsi"
 
 # What is unpacked somewhere keeps its settings there.
-touch -d "@$time" "$folder/portable.txt"
+touch -d "@$SOURCE_DATE_EPOCH" "$folder/portable.txt"
 cd "$build"
-find "Korvane-$version" | LC_ALL=C sort | TZ=UTC zip -q -9 -X -@ "$zip_file"
+find "Korvane-$version" | LC_ALL=C sort | TZ=UTC zip -q -X -@ "$zip_file"
+# Packed harder than zip does.
+advzip -q -z -2 "$zip_file"
 rm "$folder/portable.txt"
 du -h --apparent-size "$zip_file" "$setup"

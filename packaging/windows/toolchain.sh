@@ -35,12 +35,24 @@ logged() {
     }
 }
 
-# step NAME SOURCE: build_NAME, unless what it says of itself is what was built last: the version of the source
-# package, what is changed in it, and how it is built.
+# packages NAME...: which versions of them the machine has.
+packages() { dpkg-query -W -f='${Package} ${Version}\n' "$@"; }
+
+# made_of NAME SOURCE: all that decides what build_NAME makes: the source package and what is changed in it, what it
+# is built with, how, and what with_NAME tells besides.
+made_of() {
+    cat "$cache/sources/$2"/.{version,edits}
+    packages g++-mingw-w64-x86-64-posix mingw-w64-x86-64-dev binutils-mingw-w64-x86-64
+    declare -p "$1_options"
+    declare -f "build_$1"
+    "with_$1"
+}
+
+# step NAME SOURCE: build_NAME, unless it was done and all that it is made of is as it was.
 step() {
     local name=$1 source=$2 made_of began=$SECONDS
     fetch "$source"
-    made_of=$(cat "$cache/sources/$source"/.{version,edits} && declare -p "${name}_options" && declare -f "build_$name")
+    made_of=$(made_of "$name" "$source")
     if [[ -e $cache/done/$name && $(<"$cache/done/$name") == "$made_of" ]]; then
         return
     fi
@@ -60,9 +72,11 @@ step() {
 # Where they come from is what the system's own lists of packages say, read as lists of sources; apt and
 # dpkg-source check what arrives against their signed index.
 
-# apt_sources: apt-get with lists of its own, in $cache/apt.
+# apt_sources COMMAND [ARGS...]: apt-get or apt-cache with lists of its own, in $cache/apt.
 apt_sources() {
-    apt-get -q -o Dir::Etc::sourcelist="$cache/apt/sources.list" -o Dir::Etc::sourceparts="$cache/apt/parts" \
+    local command=$1
+    shift
+    "$command" -q -o Dir::Etc::sourcelist="$cache/apt/sources.list" -o Dir::Etc::sourceparts="$cache/apt/parts" \
         -o Dir::State::Lists="$cache/apt/lists" -o Dir::Cache="$cache/apt/cache" -o APT::Sandbox::User=root "$@"
 }
 
@@ -78,36 +92,55 @@ list_sources() {
         [[ ! -e $file ]] || sed -E 's/^Types:.*/Types: deb-src/' "$file" >"$cache/apt/parts/${file##*/}"
     done
     # One that has no sources is no reason to stop: a package that is not found is.
-    apt_sources update || say "Not every list of sources could be read"
+    apt_sources apt-get update || say "Not every list of sources could be read"
+    touch "$cache/apt/read"
 }
 
-# fetch NAME...: the source packages are in $cache/sources/NAME, unpacked and changed by edit_NAME where there is
-# one.
-fetch() {
-    local name edits folder=$cache/sources wanted=()
-    for name in "$@"; do
-        edits=$(declare -f "edit_$name" || true)
-        [[ -e $folder/$name/.edits && $(<"$folder/$name/.edits") == "$edits" ]] || wanted+=("$name")
-    done
-    ((${#wanted[@]})) || return 0
-    say "Sources: ${wanted[*]}"
-    logged sources-lists list_sources
-    mkdir -p "$folder/packages"
-    for name in "${wanted[@]}"; do
-        (cd "$folder/packages" && logged "sources-$name" apt_sources source --download-only --only-source "$name")
-        rm -rf "${folder:?}/$name" "$folder/$name.new"
-        (cd "$folder" && logged "sources-$name-unpack" dpkg-source -x "$(newest_dsc "$name")" "$name.new")
-        sed -n 's/^Version: //p' "$(newest_dsc "$name")" | head -n 1 >"$folder/$name.new/.version"
-        edits=$(declare -f "edit_$name" || true)
-        [[ -z $edits ]] || (cd "$folder/$name.new" && "edit_$name")
-        echo "$edits" >"$folder/$name.new/.edits"
-        mv "$folder/$name.new" "$folder/$name"
-    done
+# The newest version of a source package that the lists have.
+listed_version() {
+    { apt_sources apt-cache showsrc --only-source "$1" 2>/dev/null || true; } | sed -n 's/^Version: //p' | sort -V | tail -n 1
 }
-
-newest_dsc() { find "$cache/sources/packages" -name "$1_*.dsc" -printf '%T@ %p\n' | sort -n | tail -n 1 | cut -d ' ' -f 2-; }
 
 version_of() { cat "$cache/sources/$1/.version"; }
+
+# What a source package is changed by: edit_NAME, and what that takes from elsewhere.
+edits_of() {
+    declare -f "edit_$1" || true
+    if declare -F "edit_$1_with" >/dev/null; then
+        "edit_$1_with"
+    fi
+}
+
+# fetch NAME: the newest source package is in $cache/sources/NAME, unpacked and changed by edit_NAME where there is
+# one. Where no list has any, what is there is good enough.
+fetch() {
+    local name=$1 folder=$cache/sources edits version there=""
+    edits=$(edits_of "$name")
+    version=$(listed_version "$name")
+    [[ ! -e $folder/$name/.version ]] || there=$(version_of "$name")
+    version=${version:-$there}
+    [[ -n $version ]] || die "no list of sources has $name: see $cache/log/sources-lists.log"
+    if [[ $there == "$version" && -e $folder/$name/.edits && $(<"$folder/$name/.edits") == "$edits" ]]; then
+        return
+    fi
+    say "Sources: $name $version"
+    mkdir -p "$folder/packages"
+    rm -rf "$folder/$name.new"
+    (
+        cd "$folder/packages"
+        logged "sources-$name" apt_sources apt-get source --download-only --only-source "$name=$version"
+        # Its name has no epoch.
+        logged "sources-$name-unpack" dpkg-source -x "${name}_${version#*:}.dsc" "../$name.new"
+        cd "../$name.new"
+        echo "$version" >.version
+        if declare -F "edit_$name" >/dev/null; then
+            "edit_$name"
+        fi
+        echo "$edits" >.edits
+    )
+    rm -rf "${folder:?}/$name"
+    mv "$folder/$name.new" "$folder/$name"
+}
 
 # edit FILE EXPRESSION: sed, which must have changed something.
 edit() {
@@ -152,6 +185,12 @@ edit_qtbase-opensource-src() {
     edit src/gui/gui.pro 's|^include\(rhi/rhi\.pri\)|# &|'
 }
 
+with_qt() {
+    packages qtbase5-dev-tools qt5-qmake-bin
+    declare -p qt_host
+    declare -f qt_install
+}
+
 build_qt() {
     local source=$cache/sources/qtbase-opensource-src build=$cache/qt part here there
     local plugins=(plugins/{platforms/windows,imageformats/{jpeg,gif,ico},styles/windowsvista})
@@ -193,8 +232,6 @@ build_qt() {
     for part in qmake moc rcc uic; do
         ln -sf "$qt_host/$part" "$prefix/bin/$part"
     done
-    [[ -e $prefix/lib/cmake/Qt5Test/Qt5TestConfig.cmake && -e $prefix/plugins/platforms/qwindows.dll ]] ||
-        die "the toolkit was not installed whole: see $cache/log/qt-install-*.log"
 }
 
 # All that `make install` of a part has, but for what wants the part built anew with the tools.
@@ -203,8 +240,8 @@ qt_install() {
     targets=$(grep -hoE '^install_(target|dlltarget|targ_headers|gen_headers|private_headers|qpa_headers|cmake_[a-z0-9_]*|ctest_[a-z0-9_]*):' \
         "src/$1/Makefile.Release" | tr -d : | sort -u)
     # shellcheck disable=SC2086 # a list of names
-    logged "qt-install-${1//\//-}" make -s -k -i -C "src/$1" -o first -f Makefile.Release $targets
-    # Some of these targets are about what was not built; what counts is there, or not.
+    logged "qt-install-${1//\//-}" make -s -C "src/$1" -o first -f Makefile.Release $targets
+    # Had it no such target, nothing would have failed.
     local name=${1^} file wanted=()
     case $1 in
     winmain) wanted=(lib/libqtmain.a) ;;
@@ -224,7 +261,9 @@ qt_install() {
 # The import worker alone links it, so it is static.
 
 assimp_options=(
-    -DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=OFF
+    # Optimised as Debian's own is.
+    -DCMAKE_BUILD_TYPE=Release "-DCMAKE_CXX_FLAGS_RELEASE=-O2 -DNDEBUG" "-DCMAKE_C_FLAGS_RELEASE=-O2 -DNDEBUG"
+    -DBUILD_SHARED_LIBS=OFF
     -DASSIMP_BUILD_ASSIMP_TOOLS=OFF -DASSIMP_BUILD_TESTS=OFF -DASSIMP_WARNINGS_AS_ERRORS=OFF -DASSIMP_BUILD_ZLIB=OFF
     # Compressed glTF, as on Linux.
     -DASSIMP_BUILD_DRACO=ON
@@ -232,6 +271,11 @@ assimp_options=(
     # The reader of IFC has more sections than an object file of the usual kind.
     "-DCMAKE_CXX_FLAGS=-Wa,-mbig-obj"
 )
+
+edit_assimp_with() {
+    version_of minizip
+    packages libstb-dev libutfcpp-dev
+}
 
 edit_assimp() {
     # What Debian has taken out, for it is packaged on its own.
@@ -247,6 +291,11 @@ edit_assimp() {
     edit cmake-modules/assimp-plain-config.cmake.in '/^find_package\(draco/d'
 }
 
+with_assimp() {
+    packages libz-mingw-w64-dev
+    cat "$here/mingw.cmake"
+}
+
 build_assimp() {
     say "Assimp $(version_of assimp)"
     # Nothing of the host is to be found.
@@ -260,9 +309,22 @@ build_assimp() {
 # compiler of shaders in it) and draws everything.
 
 mesa_options=(
-    --buildtype=release -Dplatforms=windows -Dgallium-drivers=swrast -Dvulkan-drivers= -Dllvm=disabled
+    # Small; what every pixel goes through is made fast all the same, see edit_mesa. Left out is what is never called.
+    --buildtype=release -Doptimization=s
+    "-Dc_args=-ffunction-sections -fdata-sections" "-Dcpp_args=-ffunction-sections -fdata-sections"
+    "-Dc_link_args=-Wl,--gc-sections,--no-insert-timestamp" "-Dcpp_link_args=-Wl,--gc-sections,--no-insert-timestamp"
+    -Dplatforms=windows -Dgallium-drivers=swrast -Dvulkan-drivers= -Dllvm=disabled
     -Dgles1=disabled -Dgles2=disabled -Degl=disabled -Dzlib=disabled -Dshader-cache=disabled -Dbuild-tests=false
 )
+
+edit_mesa() {
+    local part
+    for part in drivers/softpipe auxiliary; do
+        edit "src/gallium/$part/meson.build" "/^lib(softpipe|gallium) = /,/^\)/s/^  gnu_symbol_visibility/  override_options : ['optimization=3'],\n&/"
+    done
+}
+
+with_mesa() { :; }
 
 build_mesa() {
     say "Mesa $(version_of mesa)"
@@ -289,6 +351,10 @@ INI
     cp "$cache/mesa-root/bin/libgallium_wgl.dll" "$prefix/bin/"
 }
 
+# Once a day.
+if [[ ! -e $cache/apt/read || -n $(find "$cache/apt/read" -mmin +1440) ]]; then
+    logged sources-lists list_sources
+fi
 step qt qtbase-opensource-src
 fetch minizip
 step assimp assimp

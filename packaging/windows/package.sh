@@ -107,7 +107,7 @@ makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$version" -DFOLDER="$folder" -DFILES=
     -DICON="$icon" -DOUTPUT="$setup" "$here/korvane.nsi"
 
 # What is unpacked somewhere keeps its settings there.
-touch -d "@$SOURCE_DATE_EPOCH" "$folder/portable.txt"
+touch -d "@$SOURCE_DATE_EPOCH" "$folder/portable.txt" "$folder"
 cd "$build"
 find "Korvane-$version" | LC_ALL=C sort | TZ=UTC zip -q -X -@ "$zip_file"
 # Packed harder than zip does.

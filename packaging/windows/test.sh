@@ -64,6 +64,7 @@ awk -v seconds="$took" '
     ' "$build/Testing/Temporary/LastTest.log" >"$table"
 {
     printf '\n| Left out | Why |\n| --- | --- |\n'
+    # shellcheck disable=SC2016 # Markdown's
     sed -n 's/^\([a-zA-Z][a-zA-Z0-9_:]*\)  \(.*\)/| `\1` | \2 |/p' "$here/tests-left-out.txt"
 } >>"$table"
 cat "$table"

@@ -15,7 +15,12 @@ Q_DECLARE_METATYPE(StaticMesh)
 
 namespace {
 const QByteArray corners = "v 0 0 0\nv 2 0 0\nv 0 4 0\nvt 0 0.25\n";
+
+QString shown(const QString &path)
+{
+    return QDir::toNativeSeparators(path);
 }
+} // namespace
 
 class tst_ImportDialog : public QObject, ImportHands
 {
@@ -86,12 +91,12 @@ private slots:
         QCOMPARE(second, QStringLiteral("Collada (*.dae)"));
         QVERIFY(Settings::ImportFilter.value().startsWith("Collada"));
         QCOMPARE(Settings::ImportPath.value(), m_source->path());
-        QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("materials/mat_box.v2.kmat"));
+        QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), shown("materials/mat_box.v2.kmat"));
         QVERIFY(find<QPushButton>(dialog, "btnImport")->isEnabled());
 
         // A typed model takes its material file along, until that was chosen.
         type(dialog, "txtModelPath", QStringLiteral("/x/crate.fbx"));
-        QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("materials/mat_crate.kmat"));
+        QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), shown("materials/mat_crate.kmat"));
         type(dialog, "txtKMatPath", QStringLiteral("mine"));
         QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("mine.kmat"));
         type(dialog, "txtModelPath", QStringLiteral("/x/barrel.fbx"));
@@ -111,7 +116,7 @@ private slots:
             QCOMPARE(hand.seen, QStringList(refusal));
             QCOMPARE(find<QLineEdit>(dialog, edit)->text(), before);
             type(dialog, edit, m_mod->path(QStringLiteral("sub/a.kmat")));
-            QCOMPARE(find<QLineEdit>(dialog, edit)->text(), QStringLiteral("sub/a.kmat"));
+            QCOMPARE(find<QLineEdit>(dialog, edit)->text(), shown("sub/a.kmat"));
         }
         // Nor does a model name a file that its text cannot; a name of its own is proposed for such a model.
         {
@@ -192,9 +197,9 @@ private slots:
         find<QCheckBox>(dialog, "cbCreateKMat")->click();
         find<QCheckBox>(dialog, "cbCopyTextures")->click();
         QCOMPARE(refused(), QStringLiteral("Output Folder Error|"
-                                           "Turok 2 Folder + kmat Path '%1/none' doesn't exist.\n"
-                                           "Turok 2 Folder + Texture Folder '%1/nowhere' doesn't exist.")
-                                .arg(m_mod->path()));
+                                           "Turok 2 Folder + kmat Path '%1' doesn't exist.\n"
+                                           "Turok 2 Folder + Texture Folder '%2' doesn't exist.")
+                                .arg(shown(m_mod->path("none")), shown(m_mod->path("nowhere"))));
         QCOMPARE(page(dialog), QStringLiteral("pageOptions"));
         QCOMPARE(imported.count(), 0);
     }
@@ -255,7 +260,7 @@ private slots:
             const QString kind = mode == ImportDialog::SkinnedMeshMode ? QStringLiteral("Skinned Mesh")
                                                                        : QStringLiteral("Static Mesh");
             QCOMPARE(find<QLabel>(dialog, "lblSuccess")->text(),
-                     QStringLiteral("Successfully imported '%1' to %2\n").arg(path, kind) + outcome);
+                     QStringLiteral("Successfully imported '%1' to %2\n").arg(shown(path), kind) + outcome);
             QCOMPARE(name, QStringLiteral("box.v2"));
             auto *list = find<QListWidget>(dialog, "listSuccess");
             QVERIFY(list->count() > 0);
@@ -311,7 +316,7 @@ private slots:
             QCOMPARE(hand.seen,
                      QStringList(QStringLiteral("Import model to Static Mesh|These files exist already. "
                                                 "Replace them?\n\n%1\n%2")
-                                     .arg(kmat, texture)));
+                                     .arg(shown(kmat), shown(texture))));
             find<QStackedWidget>(dialog, "stackPages")->setCurrentIndex(0);
         };
         // Enter and Escape say no, and lead back to the choices.
@@ -379,7 +384,8 @@ private slots:
         QSignalSpy imported(&dialog, &ImportDialog::staticMeshImported);
         click(dialog, "btnImport");
         QTRY_COMPARE_WITH_TIMEOUT(page(dialog), QString("pageError"), 20000);
-        QCOMPARE(find<QLabel>(dialog, "lblError")->text(), QString("Error importing '%1'").arg(broken));
+        QCOMPARE(find<QLabel>(dialog, "lblError")->text(),
+                 QString("Error importing '%1'").arg(shown(broken)));
         auto *list = find<QListWidget>(dialog, "listError");
         QCOMPARE(list->count(), 1);
         QCOMPARE(list->item(0)->data(Qt::UserRole).toInt(), int(LogSeverity::Error));

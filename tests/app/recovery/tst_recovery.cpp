@@ -212,6 +212,8 @@ private slots:
             m_log.clear();
             run.openMesh(manPath());
             const qint64 size = QFileInfo(manPath()).size();
+            if (!FullDisk::IsPossible)
+                run.edit(1);
             for (qint64 limit = 0; FullDisk::IsPossible && limit < size; limit += 16) {
                 const FullDisk disk(limit);
                 run.edit(int(limit / 16) + 1);

@@ -20,6 +20,32 @@ class tst_Everyday : public QObject
 
 private slots:
     void init() { m_files.emplace(); }
+
+    void aSampleIsDrawnWithItsTextures()
+    {
+        const QString samples = TestSupport::source("samples");
+        Settings::GamePath.setValue(samples + "/game");
+        Settings::OutputDir.setValue(samples + "/mod");
+        Settings::AnimationAutoPlay.setValue(false);
+        ShownWindow window({samples + "/game/models/tinker/tinker.skinnedmesh"});
+        auto *view = find<KVOpenGLWidget>(window, "viewSkinned");
+        QTest::keyClick(view, Qt::Key_Home);
+        const auto colours = [view] {
+            const QImage picture = view->grabFramebuffer();
+            const QRect middle(picture.width() / 3, picture.height() / 3, picture.width() / 3,
+                               picture.height() / 3);
+            QSet<QRgb> found;
+            for (int y = middle.top(); y <= middle.bottom(); ++y) {
+                for (int x = middle.left(); x <= middle.right(); ++x)
+                    found.insert(picture.pixel(x, y));
+            }
+            return found.size();
+        };
+        QTRY_VERIFY(colours() > 100);
+        window.openFiles({write("plain.skinnedmesh")}); // of one colour
+        QTRY_VERIFY(colours() < 50 && colours() > 1);
+    }
+
     void commandsAreFoundByTheirName()
     {
         // What is typed, what fits it, and what fits it worse; without that the first does not fit at all.

@@ -165,6 +165,7 @@ private slots:
         // The console came for the other.
         QVERIFY(find<QToolButton>(window, "btnConsole")->text().startsWith(QStringLiteral("Errors: 1, ")));
 
+        QApplication::setActiveWindow(&window); // after a box it may be nobody
         typeParent(window, 7);
         for (const bool isDiskFull : {true, false}) {
             if (isDiskFull && !FullDisk::IsPossible)
@@ -178,7 +179,8 @@ private slots:
             disk.reset();
             boxes += "File error|Failed to save\n" + QDir::toNativeSeparators(good) +
                      (isDiskFull ? QStringLiteral("|File too large") : '|' + SpecialFiles::noFolder());
-            QVERIFY2(hand.seen == boxes, qPrintable((hand.seen + consoleOf(window)).join('\n')));
+            QVERIFY2(hand.seen == boxes,
+                     qPrintable((hand.seen + consoleOf(window)).join('\n') + window.windowTitle()));
             QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh * "));
             QCOMPARE(TestSupport::readFile(good), isDiskFull ? before : QByteArray());
         }

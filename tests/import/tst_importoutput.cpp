@@ -25,7 +25,7 @@ private slots:
             {"/tmp/a.kmat", QString()},
             {"..a/b", "..a/b"},
         };
-        const QString drive = QDir(QStringLiteral("/")).absolutePath().chopped(1); // where there are such
+        const QString drive = QDir::rootPath().chopped(1); // where there are such
         for (const auto &[path, relative] : relativePaths) {
             const QString whole = path.startsWith(QLatin1Char('/')) ? drive + path : path;
             const QString found = pathInside(drive + QStringLiteral("/mod/"), whole);

@@ -64,7 +64,6 @@ awk -v seconds="$took" '
     ' "$build/Testing/Temporary/LastTest.log" >"$table"
 {
     printf '\n| Left out | Why |\n| --- | --- |\n'
-    # shellcheck disable=SC2016 # Markdown's
     # shellcheck disable=SC2016 # what Markdown marks as code
     sed -n 's/^\([a-zA-Z][a-zA-Z0-9_:]*\)  \(.*\)/| `\1` | \2 |/p' "$here/tests-left-out.txt"
 } >>"$table"

@@ -6,6 +6,19 @@ if(KORVANE_FUZZ)
     set(KORVANE_SANITIZE "fuzzer-no-link,address,undefined")
 endif()
 
+# What a distribution hardens its programs by. Names of folders are left out, so that they are the same from any.
+if(KORVANE_PACKAGE AND NOT WIN32)
+    include(CheckPIESupported)
+    check_pie_supported()
+    set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+    add_compile_options(-fstack-protector-strong -fstack-clash-protection -fcf-protection
+                        -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
+    add_compile_definitions(_FORTIFY_SOURCE=3 _GLIBCXX_ASSERTIONS)
+    add_link_options(-Wl,-z,relro -Wl,-z,now -Wl,--build-id=sha1)
+endif()
+# The times of resources are nobody's concern, and would be another in each clone.
+set(CMAKE_AUTORCC_OPTIONS --format-version 1)
+
 # Warnings, sanitizers and coverage for one of our own targets.
 function(korvane_target_options target)
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)

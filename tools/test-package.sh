@@ -60,6 +60,20 @@ make_root() {
     expect 0 inside apt-get -q update
 }
 
+# What the compiler and the linker were asked to guard is guarded; the programs and the list of parts agree.
+look_inside() {
+    local program parts=$root/usr/share/doc/korvane/korvane.spdx.json
+    say "its programs are hardened"
+    for program in korvane korvane-tool korvane-import-worker; do
+        expect 0 hardening-check "$root/usr/bin/$program"
+    done
+    say "and its list of parts names what apt installed for it"
+    for program in libqt5widgets5 libassimp5 libc6; do
+        expect 0 jq -e --arg name "$program" --arg version "$(inside dpkg-query -W -f '${Version}' "$program")" \
+            '.packages[] | select(.name == $name and .versionInfo == $version)' "$parts"
+    done
+}
+
 install_package() {
     cp "$package" "$root/srv/"
     cp -r samples "$root$samples"
@@ -133,6 +147,7 @@ mkdir -p build
 say "$(basename "$package")"
 make_root
 install_package
+look_inside
 try_tool
 try_window
 remove_package

@@ -64,8 +64,11 @@ make_root() {
 look_inside() {
     local program parts=$root/usr/share/doc/korvane/korvane.spdx.json
     say "its programs are hardened"
-    for program in korvane korvane-tool korvane-import-worker; do
-        expect 0 hardening-check "$root/usr/bin/$program"
+    # The C library's own start is not marked for control-flow protection, so no program is; and the smaller two call
+    # nothing that could be fortified.
+    expect 0 hardening-check --nocfprotection "$root/usr/bin/korvane"
+    for program in korvane-tool korvane-import-worker; do
+        expect 0 hardening-check --nocfprotection --nofortify "$root/usr/bin/$program"
     done
     say "and its list of parts names what apt installed for it"
     for program in libqt5widgets5 libassimp5 libc6; do

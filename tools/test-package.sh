@@ -71,6 +71,7 @@ look_inside() {
         expect 0 hardening-check --nocfprotection --nofortify "$root/usr/bin/$program"
     done
     say "and its list of parts names what apt installed for it"
+    # shellcheck disable=SC2016 # dpkg-query and jq fill these in
     for program in libqt5widgets5 libassimp5 libc6; do
         expect 0 jq -e --arg name "$program" --arg version "$(inside dpkg-query -W -f '${Version}' "$program")" \
             '.packages[] | select(.name == $name and .versionInfo == $version)' "$parts"

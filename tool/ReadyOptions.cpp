@@ -16,7 +16,7 @@ constexpr float GreatestRate = 240.0f;
 
 const QString Ready = QStringLiteral("ready");
 const QString Scale = QStringLiteral("scale");
-const QString Up = QStringLiteral("up");
+const QString UpAxis = QStringLiteral("up");
 const QString Rate = QStringLiteral("rate");
 const QString Clips = QStringLiteral("clips");
 const QString ExtraBones = QStringLiteral("extra-bones");
@@ -70,7 +70,7 @@ void ReadyOptions::add(CommandLine &line)
         QStringLiteral("Scale the model; with --ready also 'auto', which makes a person about 200 units "
                        "high."),
         QStringLiteral("1"));
-    line.option({Up}, QStringLiteral("axis"),
+    line.option({UpAxis}, QStringLiteral("axis"),
                 QStringLiteral("With --ready: the axis of the file that points up, y or z, or 'auto', which "
                                "takes z where the format has it so."),
                 AxisY);
@@ -90,7 +90,7 @@ void ReadyOptions::add(CommandLine &line)
 std::optional<int> ReadyOptions::read(const CommandLine &line, ImportChoices &choices)
 {
     const bool isReady = line.isSet(Ready);
-    if (!isReady && (line.isSet(Up) || line.isSet(Rate) || line.isSet(Clips) || line.isSet(ExtraBones)))
+    if (!isReady && (line.isSet(UpAxis) || line.isSet(Rate) || line.isSet(Clips) || line.isSet(ExtraBones)))
         return line.refuse(QStringLiteral("--up, --rate, --clips and --extra-bones need --ready."));
     if (line.isSet(ExtraBones) && choices.isStatic)
         return line.refuse(QStringLiteral("A static mesh has no bones, so no --extra-bones."));
@@ -104,7 +104,7 @@ std::optional<int> ReadyOptions::read(const CommandLine &line, ImportChoices &ch
     }
     if (!isReady)
         return {};
-    const QString up = line.value(Up);
+    const QString up = line.value(UpAxis);
     if (up != AxisY && up != AxisZ && up != Auto)
         return line.refuse(QStringLiteral("--up: y, z or auto, not '%1'.").arg(up));
     choices.ready.isZUp = up == AxisZ;
@@ -125,7 +125,7 @@ std::optional<int> ReadyOptions::read(const CommandLine &line, ImportChoices &ch
 std::optional<int> ReadyOptions::lookUp(const CommandLine &line, int seconds, ImportChoices &choices)
 {
     const bool isAuto = line.value(Scale) == Auto;
-    const bool asksUp = line.value(Up) == Auto;
+    const bool asksUp = line.value(UpAxis) == Auto;
     if (choices.arrival != Arrival::Ready || (!isAuto && !asksUp && !line.isSet(Clips)))
         return {};
     WorkerJob job = importJob(choices);

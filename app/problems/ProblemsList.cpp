@@ -85,7 +85,7 @@ ProblemItem::ProblemItem(DocumentType type, const Finding &finding, const QStrin
     : m_type(type)
     , m_finding(finding)
     , m_document(document)
-    , m_records(&records)
+    , m_place(placeIn(records, finding.place)) // now: the record may be gone by the time that it is painted
 {}
 
 QString ProblemItem::cell(int column) const
@@ -96,7 +96,7 @@ QString ProblemItem::cell(int column) const
     case DocumentColumn:
         return m_document;
     case PlaceColumn:
-        return placeIn(*m_records, m_finding.place);
+        return m_place;
     default:
         return m_finding.text;
     }

@@ -9,14 +9,14 @@
 
 class RecordSelection;
 
-/// One row of the list of problems. There may be thousands, of which some dozens are seen: its texts are made
-/// when they are asked for.
+/// One row of the list of problems. There may be thousands, of which some dozens are seen, so it keeps no
+/// texts and icons of its own that can be made when they are asked for.
 class ProblemItem : public QTreeWidgetItem
 {
 public:
     enum Column { SeverityColumn, DocumentColumn, PlaceColumn, TextColumn, ColumnCount };
 
-    /// `records` says what the place is called, and outlives the item.
+    /// `records` says what the place is called.
     ProblemItem(DocumentType type, const Finding &finding, const QString &document,
                 const RecordSelection &records);
 
@@ -35,7 +35,7 @@ private:
     DocumentType m_type;
     Finding m_finding;
     QString m_document;
-    const RecordSelection *m_records;
+    QString m_place;
 };
 
 /// The rows of the list of problems, with their sentences in full: they are broken into lines.

@@ -49,10 +49,15 @@ void MutantRun::use(Dice &dice)
     m_journal.step(m_files, QStringLiteral("open %1").arg(m_playground.shortName(path)));
     m_window->openFiles({path});
     settle();
-    for (const DocumentKind &kind : documentKinds()) {
-        if (m_window->findChild<DocumentFiles *>()->document(kind.type)->path() == path)
-            ++m_opened;
-    }
+    const auto isOpen = [&](const DocumentKind &kind) {
+        return m_window->findChild<DocumentFiles *>()->document(kind.type)->path() == path;
+    };
+    const LiteralFormat literal(QFileInfo(path).suffix(), bytes);
+    const bool opened = std::any_of(documentKinds().begin(), documentKinds().end(), isOpen);
+    if (opened == literal.failed())
+        m_journal.fail(opened ? QStringLiteral("what cannot be read was opened")
+                              : QStringLiteral("what can be read was not opened"));
+    m_opened += opened ? 1 : 0;
 
     m_journal.note(QStringLiteral("select all"));
     for (KVTreeView *tree : Hands::usable<KVTreeView>(m_window.get())) {
@@ -74,7 +79,6 @@ void MutantRun::use(Dice &dice)
     m_journal.note(QStringLiteral("save"));
     Hands::pressKey(m_window.get(), Qt::Key_S, Qt::ControlModifier);
     settle();
-    const LiteralFormat literal(QFileInfo(path).suffix(), bytes);
     const bool couldBeWhole = literal.length() == bytes.size() && !literal.hasNegativeCount();
     if ((literal.failed() || couldBeWhole) && TestSupport::readFile(path) != bytes)
         m_journal.fail(QStringLiteral("a file that nobody edited was saved otherwise"));
@@ -82,8 +86,12 @@ void MutantRun::use(Dice &dice)
 
 void MutantRun::decline()
 {
+    auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+    QAbstractButton *no = box ? box->button(QMessageBox::No) : nullptr;
     if (QWidget *popup = QApplication::activePopupWidget())
         popup->close();
+    else if (no)
+        no->click(); // not to save, that is, what differs from its file since nobody can write it so
     else if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
         dialog->reject();
 }

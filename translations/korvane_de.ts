@@ -1655,6 +1655,33 @@ Ohne diese Eingabe fortfahren?</translation>
     </message>
 </context>
 <context>
+    <name>Expression</name>
+    <message>
+        <source>That is too long for a calculation.</source>
+        <translation>Das ist zu lang für eine Rechnung.</translation>
+    </message>
+    <message>
+        <source>That has too many parentheses or signs.</source>
+        <translation>Das hat zu viele Klammern oder Vorzeichen.</translation>
+    </message>
+    <message>
+        <source>A parenthesis is not closed.</source>
+        <translation>Eine Klammer ist nicht geschlossen.</translation>
+    </message>
+    <message>
+        <source>Something is missing at the end.</source>
+        <translation>Am Ende fehlt etwas.</translation>
+    </message>
+    <message>
+        <source>A number in it is too large or too small.</source>
+        <translation>Eine Zahl darin ist zu groß oder zu klein.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not understood.</source>
+        <translation>„%1“ ist nicht zu verstehen.</translation>
+    </message>
+</context>
+<context>
     <name>FileNames</name>
     <message>
         <source>&apos;%1&apos; cannot be a name on Windows: it is that of a device, ends in a dot or a blank, or holds one of &lt; &gt; : &quot; \ | ? *</source>
@@ -3802,6 +3829,29 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>It is not stored; Esc brings %1 back.</source>
         <translation>Die Eingabe wird nicht gespeichert; Esc bringt %1 zurück.</translation>
+    </message>
+</context>
+<context>
+    <name>NumberRange</name>
+    <message>
+        <source>That is no number.</source>
+        <translation>Das ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>That divides by 0 or is too large.</source>
+        <translation>Das teilt durch 0 oder ist zu groß.</translation>
+    </message>
+    <message>
+        <source>%1 is no whole number.</source>
+        <translation>%1 ist keine ganze Zahl.</translation>
+    </message>
+    <message>
+        <source>%1 is too large to be stored.</source>
+        <translation>%1 ist zu groß zum Speichern.</translation>
+    </message>
+    <message>
+        <source>%1 is not from %2 to %3.</source>
+        <translation>%1 liegt nicht zwischen %2 und %3.</translation>
     </message>
 </context>
 <context>

@@ -17,12 +17,18 @@ QSurfaceFormat surfaceFormat()
 }
 } // namespace
 
-OffscreenScene::OffscreenScene()
+std::unique_ptr<QOffscreenSurface> OffscreenScene::makeSurface()
+{
+    auto surface = std::make_unique<QOffscreenSurface>();
+    surface->setFormat(surfaceFormat());
+    surface->create();
+    return surface;
+}
+
+OffscreenScene::OffscreenScene(QOffscreenSurface &surface)
 {
     m_context.setFormat(surfaceFormat());
-    m_surface.setFormat(surfaceFormat());
-    m_surface.create();
-    if (!m_context.create() || !m_context.makeCurrent(&m_surface)) {
+    if (!m_context.create() || !m_context.makeCurrent(&surface)) {
         m_failure = QStringLiteral("the system offers no OpenGL");
         return;
     }

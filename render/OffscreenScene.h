@@ -11,11 +11,15 @@
 #include <memory>
 
 /// Paints models into pictures, without a window: for thumbnails and the command line. Needs a
-/// QGuiApplication, and a system that offers OpenGL.
+/// QGuiApplication, and a system that offers OpenGL. Made, used and destroyed in one thread, which may be any
+/// where the system has OpenGL in threads; each thread has a scene and a surface of its own.
 class OffscreenScene
 {
 public:
-    OffscreenScene();
+    /// What a scene paints on. The system makes it in the GUI thread only; it is kept as long as the scene.
+    static std::unique_ptr<QOffscreenSurface> makeSurface();
+
+    explicit OffscreenScene(QOffscreenSurface &surface);
     ~OffscreenScene();
     OffscreenScene(const OffscreenScene &) = delete;
     OffscreenScene &operator=(const OffscreenScene &) = delete;
@@ -39,7 +43,6 @@ public:
 
 private:
     QString m_failure;
-    QOffscreenSurface m_surface;
     QOpenGLContext m_context;
     std::unique_ptr<ScenePainter> m_painter;
     int m_longestSide = 0;

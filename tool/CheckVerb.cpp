@@ -9,29 +9,11 @@
 #include "Validation.h"
 #include "Verbs.h"
 
-#include <QDirIterator>
-#include <QFileInfo>
 #include <QJsonObject>
 
 #include <climits>
 
 namespace {
-/// The files of a folder and of all below it, sorted; a file itself.
-QStringList filesOf(const QString &path)
-{
-    if (!QFileInfo(path).isDir())
-        return {path};
-    QStringList files;
-    QDirIterator walk(path, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (walk.hasNext()) {
-        const QString file = walk.next();
-        if (isReadable(file))
-            files += file;
-    }
-    files.sort();
-    return files;
-}
-
 QJsonObject jsonFault(const Fault &fault)
 {
     QJsonObject object{{QStringLiteral("severity"), fault.severity},
@@ -106,7 +88,7 @@ int check(const QStringList &arguments)
     bool failed = false;
     QJsonArray array;
     for (const QString &path : line.operands()) {
-        const QStringList files = filesOf(path);
+        const QStringList files = filesBelow(path, isReadable);
         if (files.isEmpty()) {
             failed = true;
             Output::complain(QStringLiteral("%1: There is no file to check in this folder.").arg(path));

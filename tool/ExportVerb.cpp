@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
+#include "Companions.h"
 #include "FileNames.h"
 #include "FrameChoice.h"
 #include "GameFolders.h"
@@ -178,9 +179,10 @@ int exportModel(const QStringList &arguments)
         return *end;
 
     const QString file = line.operands().constFirst();
-    const MaterialFolders folders = foldersAround(file, line);
+    const MaterialFolders folders = foldersAround(file, chosenFolders(line));
+    Companions companions(folders);
     PosedModel model;
-    QString error = model.read(file, line.value(QStringLiteral("anim")), folders);
+    QString error = model.read(file, line.value(QStringLiteral("anim")), companions);
     if (error.isEmpty())
         error = exportProblem(model, wishes, line.isSet(QStringLiteral("frame")));
     if (!error.isEmpty()) {

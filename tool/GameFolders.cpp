@@ -29,10 +29,9 @@ MaterialFolders chosenFolders(const CommandLine &line)
             folder(QStringLiteral("mod-path"), Settings::OutputDir)};
 }
 
-MaterialFolders foldersAround(const QString &file, const CommandLine &line)
+MaterialFolders foldersAround(const QString &file, MaterialFolders chosen)
 {
-    MaterialFolders folders = chosenFolders(line);
-    if (folders.gamePath.isEmpty())
-        folders.gamePath = folderAround(file);
-    return folders;
+    if (chosen.gamePath.isEmpty())
+        chosen.gamePath = folderAround(file);
+    return chosen;
 }

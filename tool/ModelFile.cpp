@@ -4,6 +4,7 @@
 
 #include "BinaryFileReader.h"
 
+#include <QDirIterator>
 #include <QFileInfo>
 
 namespace {
@@ -48,6 +49,27 @@ const QStringList &readableSuffixes()
 bool isReadable(const QString &path)
 {
     return suffixOf(path) >= 0;
+}
+
+bool isMesh(const QString &path)
+{
+    const int suffix = suffixOf(path);
+    return suffix == SkinnedMeshSuffix || suffix == StaticMeshSuffix;
+}
+
+QStringList filesBelow(const QString &path, bool (*wanted)(const QString &path))
+{
+    if (!QFileInfo(path).isDir())
+        return {path};
+    QStringList files;
+    QDirIterator walk(path, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (walk.hasNext()) {
+        const QString file = walk.next();
+        if (wanted(file))
+            files += file;
+    }
+    files.sort();
+    return files;
 }
 
 QString readFile(const QString &path, FileContent &content)

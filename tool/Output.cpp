@@ -40,10 +40,15 @@ bool Output::outcome(const QString &path, bool failed, const QString &reason)
     return failed;
 }
 
+QString Output::takenText(const QString &file)
+{
+    return QStringLiteral("%1: The file exists already; --force replaces it.").arg(file);
+}
+
 bool Output::refuseToReplace(const QStringList &files)
 {
     for (const QString &file : files)
-        complain(QStringLiteral("%1: The file exists already; --force replaces it.").arg(file));
+        complain(takenText(file));
     return !files.isEmpty();
 }
 

@@ -12,7 +12,9 @@ namespace Output {
 void line(const QString &text);
 void json(const QJsonArray &array);
 void complain(const QString &text);
-/// Says of each of these files that it exists already. Returns false when there are none.
+/// That a file exists already, which is not replaced unasked.
+QString takenText(const QString &file);
+/// Says so of each of these files. Returns false when there are none.
 bool refuseToReplace(const QStringList &files);
 /// Says that the file was written, or that it was not and why. Returns `failed`.
 bool outcome(const QString &path, bool failed, const QString &reason);

@@ -3,7 +3,7 @@
 #include "PosedModel.h"
 
 #include "Companions.h"
-#include "Output.h"
+#include "Log.h"
 #include "Playback.h"
 
 namespace {
@@ -14,7 +14,7 @@ QString load(const QString &path, FileContent &content)
 }
 } // namespace
 
-QString PosedModel::read(const QString &file, const QString &chosenAnim, const MaterialFolders &folders)
+QString PosedModel::read(const QString &file, const QString &chosenAnim, Companions &companions)
 {
     meshPath = file;
     animPath = chosenAnim;
@@ -24,7 +24,7 @@ QString PosedModel::read(const QString &file, const QString &chosenAnim, const M
     if (std::holds_alternative<AnimFile>(mesh) && animPath.isEmpty()) {
         anim = std::move(mesh);
         animPath = file;
-        meshPath = Companions(folders).find(file).path;
+        meshPath = companions.find(file).path;
         if (meshPath.isEmpty())
             return QStringLiteral("%1: There is no skinned mesh of this name for the animation.").arg(file);
         error = load(meshPath, mesh);
@@ -39,7 +39,7 @@ QString PosedModel::read(const QString &file, const QString &chosenAnim, const M
         return {};
     const bool asked = !animPath.isEmpty();
     if (!asked)
-        animPath = Companions(folders).find(file).path;
+        animPath = companions.find(file).path;
     if (animPath.isEmpty())
         return {};
     error = load(animPath, anim);
@@ -50,7 +50,7 @@ QString PosedModel::read(const QString &file, const QString &chosenAnim, const M
             QStringLiteral("%1: The animation does not have as many bones as '%2'.").arg(animPath, meshPath);
     if (error.isEmpty() || asked)
         return error;
-    Output::complain(QStringLiteral("warning: ") + error);
+    Log::warning(error);
     anim = std::monostate();
     return {};
 }

@@ -3,7 +3,8 @@
 #pragma once
 
 #include "ModelFile.h"
-#include "Validation.h"
+
+class Companions;
 
 /// A mesh, and for a skinned one the animation that poses it, of the files that a verb was given.
 struct PosedModel
@@ -19,8 +20,8 @@ struct PosedModel
 
     /// Reads `file`, and the animation at `animPath`; if that is empty the one that belongs to the mesh, or
     /// the mesh that belongs to the animation. Returns why there is no model. An animation that nobody named
-    /// and that does not fit is worth a complaint only.
-    [[nodiscard]] QString read(const QString &file, const QString &animPath, const MaterialFolders &folders);
+    /// and that does not fit is worth a warning in the log only.
+    [[nodiscard]] QString read(const QString &file, const QString &animPath, Companions &companions);
 
     /// Why there is no such block or no such frame of it.
     QString problem(int block, int frame) const;

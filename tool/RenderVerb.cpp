@@ -1,24 +1,17 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "BoundingSphere.h"
 #include "CommandLine.h"
-#include "FrameChoice.h"
-#include "Framing.h"
+#include "Companions.h"
 #include "GameFolders.h"
+#include "ModelPicture.h"
 #include "OffscreenScene.h"
 #include "Output.h"
-#include "Playback.h"
-#include "Pose.h"
-#include "PosedModel.h"
+#include "RenderEach.h"
 #include "ReplacedFiles.h"
-#include "Settings.h"
 #include "Terminal.h"
 #include "Verbs.h"
-#include "WholeFile.h"
 
-#include <QBuffer>
 #include <QFileInfo>
-#include <QImageWriter>
 #include <QRegularExpression>
 
 #include <climits>
@@ -26,40 +19,6 @@
 namespace {
 constexpr int DefaultYaw = 30;
 constexpr int DefaultPitch = 15;
-
-/// What is wanted of the picture.
-struct Wishes
-{
-    QSize size;
-    QColor background;
-    float yaw = 0.0f;
-    float pitch = 0.0f;
-    int block = 0;
-    int frame = 0;
-};
-
-/// Why the block and the frame cannot be shown.
-QString posingProblem(const PosedModel &subject, const CommandLine &line, const Wishes &wishes)
-{
-    const bool isAsked = line.isSet(QStringLiteral("block")) || line.isSet(QStringLiteral("frame"));
-    return subject.animFile() || isAsked ? subject.problem(wishes.block, wishes.frame) : QString();
-}
-
-void pose(GLMesh &model, SceneFrame &frame, const PosedModel &subject, const Wishes &wishes)
-{
-    frame.skinned = subject.skinned() != nullptr;
-    if (!frame.skinned || !subject.animFile())
-        return;
-    Playback state;
-    state.mesh = subject.skinned();
-    state.anim = subject.animFile();
-    state.blockIndex = wishes.block;
-    state.playState = PlayState::Paused;
-    if (const AnimBlock *block = playableBlock(state)) {
-        state.time = float(wishes.frame) / playRate(block->speed);
-        PoseEvaluator().evaluateAnimatedPose(model.palette, *state.mesh, *block, state, frame.yaw);
-    }
-}
 
 /// "640x480", or "256" for a square; an empty size when it is neither.
 QSize sizeOf(const QString &text)
@@ -72,9 +31,9 @@ QSize sizeOf(const QString &text)
     return {width, match.captured(2).isEmpty() ? width : match.captured(2).toInt()};
 }
 
-std::optional<Wishes> wishesOf(const CommandLine &line)
+std::optional<PictureWishes> wishesOf(const CommandLine &line)
 {
-    Wishes wishes;
+    PictureWishes wishes;
     const QString background = line.value(QStringLiteral("background"));
     wishes.size = sizeOf(line.value(QStringLiteral("size")));
     wishes.background = QColor(background);
@@ -98,19 +57,57 @@ std::optional<Wishes> wishesOf(const CommandLine &line)
     wishes.pitch = *pitch;
     wishes.block = *block;
     wishes.frame = *frame;
+    wishes.isPoseNamed = line.isSet(QStringLiteral("block")) || line.isSet(QStringLiteral("frame"));
+    wishes.anim = line.value(QStringLiteral("anim"));
     return wishes;
 }
 
-/// Writes the picture in one step. Returns what went wrong; empty when nothing did.
-QString write(const QImage &image, const QString &path)
+/// Says why these limits do not allow the picture; gives the exit code.
+int refuse(const DrawingLimits &limits, const CommandLine &line)
 {
-    // Thumbnailers are given names without an extension.
-    QByteArray format = QFileInfo(path).suffix().toLower().toLatin1();
-    if (!QImageWriter::supportedImageFormats().contains(format))
-        format = "png";
-    QBuffer bytes;
-    QImageWriter writer(&bytes, format);
-    return writer.write(image) ? writeWholeFile(path, bytes.data()) : writer.errorString();
+    if (limits.failure.isEmpty())
+        return line.refuse(
+            QStringLiteral("--size: A side can have %1 pixels at most.").arg(limits.longestSide));
+    Output::complain(QStringLiteral("render: Nothing can be drawn: %1. It needs a display with OpenGL. %2")
+                         .arg(limits.failure, Terminal::advice()));
+    return NoScreen;
+}
+
+int renderOne(const CommandLine &line, const PictureWishes &wishes)
+{
+    const QString output = line.value(QStringLiteral("output"));
+    if (!line.isSet(QStringLiteral("force")) && isTaken(output) && Output::refuseToReplace({output}))
+        return Failed;
+    const QString file = line.operands().constFirst();
+    const MaterialFolders folders = foldersAround(file, chosenFolders(line));
+    Companions companions(folders);
+    ModelPicture picture(wishes, output);
+    QString error = picture.read(file, companions);
+    if (error.isEmpty()) {
+        const auto surface = OffscreenScene::makeSurface();
+        OffscreenScene scene(*surface);
+        const DrawingLimits limits(scene);
+        if (!limits.allow(wishes.size))
+            return refuse(limits, line);
+        error = picture.draw(scene, folders);
+    }
+    if (error.isEmpty())
+        return Fine;
+    Output::complain(error);
+    return Failed;
+}
+
+int renderMany(const CommandLine &line, const PictureWishes &wishes)
+{
+    const QString target = line.value(QStringLiteral("output"));
+    if (!QFileInfo(target).isDir())
+        return line.refuse(QStringLiteral("There is no folder '%1'.").arg(target));
+    if (!wishes.anim.isEmpty())
+        return line.refuse(QStringLiteral("--anim means nothing with --each."));
+    const auto jobs = picturesOf(line.operands(), target, line.isSet(QStringLiteral("force")));
+    const auto drawn = renderEach(jobs, wishes, chosenFolders(line));
+    const int *exitCode = std::get_if<int>(&drawn);
+    return exitCode ? *exitCode : refuse(std::get<DrawingLimits>(drawn), line);
 }
 } // namespace
 
@@ -120,11 +117,16 @@ int render(const QStringList &arguments)
         QStringLiteral("render"), QStringLiteral("FILE"),
         QStringLiteral("Draws a mesh into a picture, whole and from a little above. A skinned mesh is "
                        "posed by its animation file, which is looked for where the game keeps it; of an "
-                       "animation file, the mesh is looked for. ") +
+                       "animation file, the mesh is looked for. With --each, many models are drawn into a "
+                       "folder. ") +
             Terminal::drawingNeeds());
     line.option({QStringLiteral("o"), QStringLiteral("output")}, QStringLiteral("file"),
-                QStringLiteral("The picture; PNG unless its name says another format."));
-    line.flag(QStringLiteral("force"), QStringLiteral("Replace a picture that exists."));
+                QStringLiteral("The picture; PNG unless its name says another format. With --each, the "
+                               "folder for the pictures."));
+    line.flag(QStringLiteral("each"),
+              QStringLiteral("Draw several files, and all meshes of folders and below them, each into "
+                             "NAME.png."));
+    line.flag(QStringLiteral("force"), QStringLiteral("Replace pictures that exist."));
     line.option({QStringLiteral("anim")}, QStringLiteral("file"),
                 QStringLiteral("Animation file to pose by."));
     line.option({QStringLiteral("block")}, QStringLiteral("number"),
@@ -143,63 +145,17 @@ int render(const QStringList &arguments)
     line.option({QStringLiteral("pitch")}, QStringLiteral("degrees"),
                 QStringLiteral("How far it looks down, -90 to 90."), QString::number(DefaultPitch));
     line.folderOptions(CommandLine::GameFolder::AroundFile);
-    if (const auto end = line.parse(arguments, false))
+    if (const auto end = line.parse(arguments, true))
         return *end;
-    const std::optional<Wishes> wishes = wishesOf(line);
+    const bool each = line.isSet(QStringLiteral("each"));
+    if (line.operands().size() > 1 && !each)
+        return line.refuse(
+            QStringLiteral("Several files need --each, and -o a folder: '%1'.").arg(line.operands().at(1)));
+    const std::optional<PictureWishes> wishes = wishesOf(line);
     if (!wishes)
         return WrongUsage;
-    const QString output = line.value(QStringLiteral("output"));
-    if (output.isEmpty())
-        return line.refuse(QStringLiteral("-o FILE is missing."));
-    if (!line.isSet(QStringLiteral("force")) && isTaken(output) && Output::refuseToReplace({output}))
-        return Failed;
-
-    const QString file = line.operands().constFirst();
-    const MaterialFolders folders = foldersAround(file, line);
-    PosedModel subject;
-    QString error = subject.read(file, line.value(QStringLiteral("anim")), folders);
-    if (error.isEmpty())
-        error = posingProblem(subject, line, *wishes);
-    if (error.isEmpty() && (isOneFile(output, subject.meshPath) || isOneFile(output, subject.animPath)))
-        error = QStringLiteral("%1: The picture would replace what it is drawn of.").arg(output);
-    if (!error.isEmpty()) {
-        Output::complain(error);
-        return Failed;
-    }
-
-    OffscreenScene scene;
-    if (!scene.failure().isEmpty()) {
-        Output::complain(
-            QStringLiteral("render: Nothing can be drawn: %1. It needs a display with OpenGL. %2")
-                .arg(scene.failure(), Terminal::advice()));
-        return NoScreen;
-    }
-    if (std::max(wishes->size.width(), wishes->size.height()) > scene.longestSide())
-        return line.refuse(
-            QStringLiteral("--size: A side can have %1 pixels at most.").arg(scene.longestSide()));
-
-    scene.setModel(subject.rigid()
-                       ? MeshSource::from(*subject.rigid(), folders.gamePath, folders.outputDir)
-                       : MeshSource::from(*subject.skinned(), folders.gamePath, folders.outputDir));
-    SceneFrame frame;
-    pose(scene.model(), frame, subject, *wishes);
-    std::vector<QVector3D> corners = scene.corners(frame);
-    if (const int strays = dropStrays(corners))
-        Output::complain(
-            QStringLiteral("warning: %1: Left out of the picture: vertices that stand far away from "
-                           "all others (%2).")
-                .arg(subject.meshPath, QString::number(strays)));
-    const Framing framing = frameAll(corners, wishes->yaw, wishes->pitch, wishes->size);
-    frame.view = framing.view;
-    frame.projection = framing.projection;
-    const QImage image = scene.paint(frame, wishes->size, wishes->background);
-    if (image.isNull()) {
-        Output::complain(QStringLiteral("render: The graphics driver cannot draw a picture this big."));
-        return Failed;
-    }
-    error = write(image, output);
-    if (error.isEmpty())
-        return Fine;
-    Output::complain(QStringLiteral("%1: The picture cannot be written: %2").arg(output, error));
-    return Failed;
+    if (line.value(QStringLiteral("output")).isEmpty())
+        return line.refuse(each ? QStringLiteral("-o FOLDER is missing.")
+                                : QStringLiteral("-o FILE is missing."));
+    return each ? renderMany(line, *wishes) : renderOne(line, *wishes);
 }

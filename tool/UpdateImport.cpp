@@ -3,10 +3,12 @@
 #include "UpdateImport.h"
 
 #include "CommandLine.h"
+#include "Companions.h"
 #include "Output.h"
 #include "PosedModel.h"
 #include "ReplacedFiles.h"
 #include "Settings.h"
+#include "Validation.h"
 #include "Verbs.h"
 #include "WholeFile.h"
 #include "WorkerRun.h"
@@ -97,8 +99,8 @@ int updateFromFile(const CommandLine &line, int timeLimit)
 {
     const QString meshFile = line.value(QStringLiteral("update"));
     PosedModel model;
-    const MaterialFolders folders{Settings::GamePath.value(), Settings::OutputDir.value()};
-    const QString error = model.read(meshFile, line.value(QStringLiteral("anim")), folders);
+    Companions companions({Settings::GamePath.value(), Settings::OutputDir.value()});
+    const QString error = model.read(meshFile, line.value(QStringLiteral("anim")), companions);
     if (!error.isEmpty()) {
         Output::complain(error);
         return Failed;

@@ -69,8 +69,8 @@ _korvane_tool() {
         options='--output --gltf --anim --block --pose --frame --force --game-path --mod-path --help'
         ;;
     render)
-        options='--output --force --anim --block --frame --size --background --yaw --pitch --game-path --mod-path
-            --help'
+        options='--output --each --force --anim --block --frame --size --background --yaw --pitch --game-path
+            --mod-path --help'
         ;;
     esac
     if [[ $cur == -* ]]; then

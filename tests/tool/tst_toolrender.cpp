@@ -151,6 +151,79 @@ private slots:
         QVERIFY2(run.exitCode == 0 && QImage(there).width() == 48, qUtf8Printable(entry + run.err));
     }
 
+    void drawsEach()
+    {
+        // As a game keeps them, often enough that several threads have something to do.
+        TestFolder game;
+        const QByteArray crate = TestSupport::readFile(withSamples(Crate)[0]);
+        const QByteArray tinker = TestSupport::readFile(withSamples(Tinker)[0]);
+        QStringList names{"b/broken"};
+        game.put("models/b/broken.staticmesh", crate.left(crate.size() / 2));
+        for (int i = 0; i < 6; ++i) {
+            const QString name = QStringLiteral("c%1/x").arg(i);
+            game.put("models/" + name + ".staticmesh", crate);
+            game.put("models/" + name + "y.skinnedmesh", tinker);
+            game.put("models/" + name + "y.anim", TestSupport::readFile(withSamples(TinkerAnim)[0]));
+            names += {name, name + 'y'};
+        }
+        names += {"tinker", "x"};
+        TestFolder pictures;
+        const QString mine = pictures.put("c1/x.png", "mine");
+        const QStringList arguments{pictures.path(),
+                                    "--game-path",
+                                    TestSupport::source("samples/game"),
+                                    game.path("models"),
+                                    withSamples(TinkerAnim)[0],
+                                    game.path("models/c0/x.staticmesh"),
+                                    game.path("models/c1/x.staticmesh"),
+                                    game.put("empty/none.txt", {}).section('/', 0, -2),
+                                    game.path("nowhere.anim")};
+        const QString words = "render --each --size 64 ";
+        const auto written = [&](const QStringList &without) {
+            QStringList lines;
+            for (const QString &name : qAsConst(names)) {
+                if (!without.contains(name))
+                    lines += pictures.path(name + ".png");
+            }
+            return lines;
+        };
+
+        const ToolRun run(words + "-o", arguments);
+        QCOMPARE(run.exitCode, 1);
+        QCOMPARE(run.out.split('\n', Qt::SkipEmptyParts), written({"b/broken", "c1/x"}));
+        const QStringList complaints{
+            game.path("models/b/broken.staticmesh: "),
+            mine + ": The file exists already; --force replaces it.",
+            game.path("models/c1/x.staticmesh: The picture of another model goes to '") +
+                pictures.path("x.png'"),
+            game.path("empty: There is no mesh in this folder."),
+            game.path("nowhere.anim: There is no such file."),
+        };
+        QStringList told = run.err.split('\n', Qt::SkipEmptyParts);
+        // Some textures are the mod's.
+        told.erase(std::remove_if(told.begin(), told.end(),
+                                  [](const QString &line) { return line.contains("[GLMesh"); }),
+                   told.end());
+        QVERIFY2(told.size() == complaints.size(), qUtf8Printable(run.err));
+        for (int i = 0; i < told.size(); ++i)
+            QVERIFY2(told[i].contains(complaints[i]), qUtf8Printable(run.err));
+        QCOMPARE(TestSupport::readFile(mine), QByteArray("mine"));
+        QVERIFY(!QFileInfo::exists(pictures.path("b")));
+
+        // Each is what it is alone.
+        const ToolRun forced(words + "--force -o", arguments.mid(0, 4) + arguments.mid(6, 1));
+        QVERIFY2(forced.exitCode == 1 && forced.out.count('\n') == 13, qUtf8Printable(forced.err));
+        const QImage crateAlone = draw(Crate + " --size 64");
+        const QImage tinkerAlone = draw(Tinker + " --size 64");
+        for (int i = 0; i < 6; ++i) {
+            const QString name = QStringLiteral("c%1/x").arg(i);
+            QCOMPARE(QImage(pictures.path(name + ".png")), crateAlone);
+            QCOMPARE(QImage(pictures.path(name + "y.png")), tinkerAlone);
+        }
+        QCOMPARE(QImage(pictures.path("tinker.png")), tinkerAlone);
+        QCOMPARE(ToolRun(words + "-o", {pictures.path(), withSamples(Crate)[0]}).exitCode, 0);
+    }
+
     void fullDisk()
     {
         const QImage whole = draw(Crate);

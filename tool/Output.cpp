@@ -21,6 +21,15 @@ void Output::line(const QString &text)
     write(stdout, text.toUtf8() + '\n');
 }
 
+bool Output::bytes(const QByteArray &part)
+{
+    write(stdout, part);
+    const bool failed = std::ferror(stdout) != 0;
+    if (failed)
+        complain(QStringLiteral("Standard output cannot be written."));
+    return failed;
+}
+
 void Output::json(const QJsonArray &array)
 {
     write(stdout, QJsonDocument(array).toJson());

@@ -10,6 +10,8 @@ class ImportMessages;
 /// What the tool says, as UTF-8 whatever the locale: results on standard output, all else on standard error.
 namespace Output {
 void line(const QString &text);
+/// A part of a text. Returns true when it could not be written, and says so.
+[[nodiscard]] bool bytes(const QByteArray &part);
 void json(const QJsonArray &array);
 void complain(const QString &text);
 /// That a file exists already, which is not replaced unasked.

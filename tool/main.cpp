@@ -17,6 +17,8 @@ constexpr Verb verbs[] = {
     {"info", "say what is in files", info},
     {"check", "look for faults in files and folders", check},
     {"resave", "read files and write them back", resave},
+    {"dump", "write a model as JSON text", dump},
+    {"build", "make a model of such a text", build},
     {"import", "turn a model of another program into game files", importModel},
     {"export", "turn a mesh into a glTF or OBJ file", exportModel},
     {"render", "draw a model into a picture", render, true},

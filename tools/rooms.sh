@@ -25,7 +25,7 @@ picture=docs/images/rooms.svg
 # From below to above. Rooms on one floor do not know each other.
 floors='core resources translations
 model net app/desktop import/box
-undo import render/scene app/widgets
+undo import render/scene app/widgets json
 app/documents gltf import/scene render/input
 render import/ready
 app/tree app/view app/timeline app/explorer app/recovery app/console

@@ -3420,6 +3420,121 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
 </context>
 <context>
+    <name>ModelJson</name>
+    <message>
+        <source>The last triangle has no three corners.</source>
+        <translation>Das letzte Dreieck hat keine drei Ecken.</translation>
+    </message>
+    <message>
+        <source>The tracks have %1 keys, but there are %2 frames.</source>
+        <translation>Die Spuren haben %1 Schlüssel, es gibt aber %2 Frames.</translation>
+    </message>
+    <message>
+        <source>A mesh without a surface has no vertices.</source>
+        <translation>Ein Modell ohne Fläche hat keine Vertices.</translation>
+    </message>
+    <message>
+        <source>%1 is wanted here, not %2.</source>
+        <translation>Hier muss %1 stehen, nicht %2.</translation>
+    </message>
+    <message>
+        <source>The text should end here, but goes on with %1.</source>
+        <translation>Der Text sollte hier enden, geht aber mit %1 weiter.</translation>
+    </message>
+    <message>
+        <source>the end of the text</source>
+        <translation>das Ende des Textes</translation>
+    </message>
+    <message>
+        <source>A control character stands in a text.</source>
+        <translation>In einem Text steht ein Steuerzeichen.</translation>
+    </message>
+    <message>
+        <source>This text does not end.</source>
+        <translation>Dieser Text endet nicht.</translation>
+    </message>
+    <message>
+        <source>This text is no UTF-8.</source>
+        <translation>Dieser Text ist kein UTF-8.</translation>
+    </message>
+    <message>
+        <source>There is no such escape: %1.</source>
+        <translation>Diese Umschreibung gibt es nicht: %1.</translation>
+    </message>
+    <message>
+        <source>A key in quotes is wanted here, not %1.</source>
+        <translation>Hier muss ein Name in Anführungszeichen stehen, nicht %1.</translation>
+    </message>
+    <message>
+        <source>Nothing is nested as deeply as this.</source>
+        <translation>So tief ist nichts verschachtelt.</translation>
+    </message>
+    <message>
+        <source>%1 is no value.</source>
+        <translation>%1 ist kein Wert.</translation>
+    </message>
+    <message>
+        <source>%1 is too large for a float.</source>
+        <translation>%1 ist für eine Gleitkommazahl zu groß.</translation>
+    </message>
+    <message>
+        <source>A number is wanted here, not %1.</source>
+        <translation>Hier muss eine Zahl stehen, nicht %1.</translation>
+    </message>
+    <message>
+        <source>A float that is no number is &quot;0x&quot; with the eight hexadecimal digits of its bits, such as &quot;0x7fc00000&quot;.</source>
+        <translation>Ein Wert, der keine Zahl ist, ist &quot;0x&quot; mit den acht hexadezimalen Ziffern seiner Bits, etwa &quot;0x7fc00000&quot;.</translation>
+    </message>
+    <message>
+        <source>A whole number from %1 to %2 is wanted here, not %3.</source>
+        <translation>Hier muss eine ganze Zahl von %1 bis %2 stehen, nicht %3.</translation>
+    </message>
+    <message>
+        <source>A text in quotes is wanted here, not %1.</source>
+        <translation>Hier muss ein Text in Anführungszeichen stehen, nicht %1.</translation>
+    </message>
+    <message>
+        <source>The files hold texts of Latin-1 characters only.</source>
+        <translation>Die Dateien fassen nur Texte aus Latin-1-Zeichen.</translation>
+    </message>
+    <message>
+        <source>%1 entries are wanted here, not %2.</source>
+        <translation>Hier müssen %1 Einträge stehen, nicht %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands here twice.</source>
+        <translation>&quot;%1&quot; steht hier zweimal.</translation>
+    </message>
+    <message>
+        <source>There is no &quot;%1&quot; in a record of this kind (%2).</source>
+        <translation>In einem Datensatz dieser Art (%2) gibt es kein &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing in this record (%2).</source>
+        <translation>In diesem Datensatz (%2) fehlt &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>The kind is one of %1.</source>
+        <translation>Die Art ist eine von %1.</translation>
+    </message>
+    <message>
+        <source>&quot;kind&quot; is missing, which says of what this is a text.</source>
+        <translation>&quot;kind&quot; fehlt, das sagt, wovon dies ein Text ist.</translation>
+    </message>
+    <message>
+        <source>This is a text of schema %1; only %2 can be read.</source>
+        <translation>Dies ist ein Text nach Schema %1; nur %2 kann gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Bytes are two hexadecimal digits each.</source>
+        <translation>Jedes Byte hat zwei hexadezimale Ziffern.</translation>
+    </message>
+    <message>
+        <source>&quot;schema&quot; is missing, which says how to read this.</source>
+        <translation>&quot;schema&quot; fehlt, das sagt, wie dies zu lesen ist.</translation>
+    </message>
+</context>
+<context>
     <name>ModelNames</name>
     <message>
         <source>The names in &apos;%1&apos; could not be read.</source>

@@ -45,6 +45,9 @@ private slots:
             {"info --jason x.anim", "jason"},
             {"check --json", "PATH... is missing"},
             {"resave x.anim -o /nowhere", "/nowhere"},
+            {"dump x.anim y.anim", "y.anim"},
+            {"dump --schema kmat", "not 'kmat'"},
+            {"build x.json", "-o FILE is missing"},
             {"import x.obj", "-o FOLDER is missing"},
             {"import x.obj y.obj -o /", "y.obj"},
             {"import x.obj -o / --scale big", "'big'"},
@@ -90,7 +93,7 @@ private slots:
         manual.remove('\\');
         const QByteArray zsh = readFile(source("packaging/completions/_korvane-tool"));
         const QRegularExpression line("^  (?:-[a-z], )?(--[a-z-]+)", QRegularExpression::MultilineOption);
-        for (const QString verb : {"info", "check", "resave", "import", "export", "render"}) {
+        for (const QString verb : {"info", "check", "resave", "dump", "build", "import", "export", "render"}) {
             const ToolRun run(verb, {"--help"});
             QCOMPARE(run.exitCode, 0);
             QVERIFY(run.out.startsWith(QStringLiteral("Usage: korvane-tool %1 ").arg(verb)));

@@ -1,0 +1,270 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "FormatMutator.h"
+#include "ModelJson.h"
+#include "SampleModels.h"
+#include "TestSupport.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using namespace ModelJson;
+
+namespace {
+QByteArray textOf(const Content &content)
+{
+    QByteArray text;
+    write(content, [&text](const QByteArray &part) { text += part; });
+    return text;
+}
+
+/// What the model would be saved as.
+QByteArray savedAs(const Content &content)
+{
+    return std::visit([](const auto &model) { return SampleModels::bytesOf(model); }, content.model) +
+           content.behind;
+}
+
+/// "line:column text", or nothing.
+QString refusal(const QByteArray &text)
+{
+    Content content;
+    const JsonProblem problem = read(text, content);
+    return problem.text.isEmpty()
+               ? QString()
+               : QStringLiteral("%1:%2 %3")
+                     .arg(QString::number(problem.line), QString::number(problem.column), problem.text);
+}
+
+/// Whether a value is as a schema wants it, as far as ours say.
+bool fits(const QJsonValue &value, const QJsonObject &schema, const QJsonObject &definitions)
+{
+    if (schema.contains("$ref"))
+        return fits(value, definitions[schema["$ref"].toString().section('/', -1)].toObject(), definitions);
+    if (schema.contains("const"))
+        return value == schema["const"];
+    if (schema.contains("anyOf")) {
+        for (const auto &each : schema["anyOf"].toArray()) {
+            if (fits(value, each.toObject(), definitions))
+                return true;
+        }
+        return false;
+    }
+    const QString type = schema["type"].toString();
+    if (type == "string")
+        return value.isString() &&
+               QRegularExpression(schema["pattern"].toString()).match(value.toString()).hasMatch();
+    if (type == "number" || type == "integer")
+        return value.isDouble() && value.toDouble() >= schema["minimum"].toDouble(-1e99) &&
+               value.toDouble() <= schema["maximum"].toDouble(1e99);
+    if (type == "array") {
+        const QJsonArray entries = value.toArray();
+        bool all = value.isArray() && entries.size() >= schema["minItems"].toInt() &&
+                   entries.size() <= schema["maxItems"].toInt(1 << 30);
+        for (const auto &each : entries)
+            all = all && fits(each, schema["items"].toObject(), definitions);
+        return all;
+    }
+    const QJsonObject object = value.toObject();
+    const QJsonObject properties = schema["properties"].toObject();
+    bool all = type == "object" && value.isObject() && schema["additionalProperties"] == QJsonValue(false);
+    for (const auto &key : schema["required"].toArray())
+        all = all && object.contains(key.toString());
+    for (auto each = object.begin(); each != object.end(); ++each)
+        all = all && properties.contains(each.key()) &&
+              fits(*each, properties[each.key()].toObject(), definitions);
+    return all;
+}
+} // namespace
+
+/// Models as JSON text and back.
+class tst_ModelJson : public QObject
+{
+    Q_OBJECT
+
+private:
+    /// Writes the model that a file of these bytes holds, if it holds one, and reads it again. Returns
+    /// whether there was one that can be saved.
+    static bool comesBack(const QString &suffix, const QByteArray &bytes)
+    {
+        bool isModel = false;
+        SampleModels::withModel(suffix, [&](auto model) {
+            if (SampleModels::readBytes(model, bytes) || !model.refusal().isEmpty() ||
+                LiteralFormat(suffix, bytes).hasNegativeCount())
+                return;
+            isModel = true;
+            const QByteArray behind = bytes.right(int(model.bytesBehind));
+            const QByteArray text = textOf({std::move(model), behind});
+            Content again;
+            const JsonProblem problem = read(text, again);
+            QVERIFY2(problem.text.isEmpty(), qUtf8Printable(refusal(text)));
+            QCOMPARE(kindOf(again.model), suffix);
+            QVERIFY(savedAs(again) == bytes);
+            QVERIFY(textOf(again) == text);
+        });
+        return isModel;
+    }
+
+private slots:
+    void filesComeBack()
+    {
+        for (const QString &file : TestSupport::allModelFiles()) {
+            QVERIFY2(comesBack(QFileInfo(file).suffix(), TestSupport::readFile(file)), qUtf8Printable(file));
+            if (QTest::currentTestFailed())
+                return;
+        }
+    }
+
+    void mutantsComeBack()
+    {
+        int models = 0;
+        for (int seed = 0; seed < 2000 && !QTest::currentTestFailed(); ++seed) {
+            const QString &suffix = SampleModels::suffixes()[seed % 3];
+            QByteArray bytes = SampleModels::bytesOfSample(suffix);
+            models += comesBack(suffix, FormatMutator(quint64(seed)).mutated(suffix, bytes));
+        }
+        QVERIFY2(models > 1000, qUtf8Printable(QString::number(models)));
+    }
+
+    void everyFloatComesBack()
+    {
+        // One of each exponent, both signs, with odd ends: numbers, denormals, infinities and NaN.
+        for (quint32 high = 0; high < 512; ++high) {
+            for (const quint32 low : {0U, 1U, 0x2aaaabU, 0x400000U, 0x7fffffU}) {
+                const float value = SampleModels::floatOfBits(high << 23 | low);
+                StaticMesh mesh = SampleModels::plainStatic();
+                mesh.bbMin = {value, value, value};
+                Content again;
+                QVERIFY(read(textOf({mesh, {}}), again).text.isEmpty());
+                QCOMPARE(
+                    std::memcmp(&std::get<StaticMesh>(again.model).bbMin, &mesh.bbMin, sizeof mesh.bbMin), 0);
+            }
+        }
+        QCOMPARE(JsonWriter::textOf(QVector3D(0.1f, -0.0f, 1e-7f)), QByteArray("[0.1, -0.0, 1e-07]"));
+        QCOMPARE(JsonWriter::textOf(QVector2D(SampleModels::oddFloats[1], 16777216.0f)),
+                 QByteArray("[\"0xffc12345\", 16777216]"));
+    }
+
+    void otherProgramsMayWriteIt()
+    {
+        for (const QString &suffix : SampleModels::suffixes()) {
+            SampleModels::withModel(suffix, [](auto model) {
+                model = SampleModels::plainModel<decltype(model)>();
+                const QByteArray text = textOf({model, "more"});
+                Content again;
+                // Keys in another order, no blanks; CRLF; a mark at the beginning; another way to write the
+                // same.
+                for (const QByteArray &other :
+                     {QJsonDocument::fromJson(text).toJson(QJsonDocument::Compact),
+                      QByteArray(text).replace("\n", "\r\n"), "\xef\xbb\xbf" + text,
+                      QByteArray(text)
+                          .replace("\"version\": ", "\"$schema\": [{}, null], \"\\u0076ersion\":")
+                          .replace("2", "20e-1")
+                          .replace("\"behind\": \"6d6f7265\"", "\"behind\": \"6D6F7265\"")
+                          .replace("20e-1", "2")
+                          .replace("\"bbMin\": [0,", "\"bbMin\": [0.0e5, ")}) {
+                    const QString reason = refusal(other);
+                    QVERIFY2(reason.isEmpty(), qUtf8Printable(reason));
+                    QVERIFY(read(other, again).text.isEmpty());
+                    QCOMPARE(savedAs(again), SampleModels::bytesOf(model) + "more");
+                }
+            });
+        }
+    }
+
+    void refusesWhatCannotBe()
+    {
+        struct Row
+        {
+            const char *kind, *from, *to, *refusal;
+        };
+        const Row rows[] = {
+            {"anim", "\"speed\": 1", "\"sped\": 1", "12:4 There is no \"sped\""},
+            {"anim", "\"speed\": 1,", "", "6:3 \"speed\" is missing"},
+            {"anim", "\"speed\": 1", "\"speed\": 1, \"speed\": 1", "12:16 \"speed\" stands here twice"},
+            {"anim", "\"schema\": 1", "\"schema\": 1, \"schema\": 1", "3:15 \"schema\" stands here twice"},
+            {"anim", "\"schema\": 1", "\"schema\": 2", "3:12 This is a text of schema 2"},
+            {"anim", "\"schema\": 1,", "", "1:1 \"schema\" is missing"},
+            {"anim", "\"kind\": \"anim\",", "", "1:1 \"kind\" is missing"},
+            {"anim", "\"anim\"", "\"animation\"", "2:10 The kind is one of skinnedmesh, anim"},
+            {"anim", "\"blendEnd\": 0", "\"blendEnd\": 65536", "11:16 A whole number from 0 to 65535"},
+            {"anim", "\"blendEnd\": 0", "\"blendEnd\": -1", "11:16 A whole number"},
+            {"anim", "\"blendEnd\": 0", "\"blendEnd\": 0.5", "11:16 A whole number"},
+            {"anim", "\"blendEnd\": 0", "\"blendEnd\": 01", "11:17 '}' is wanted here, not '1'."},
+            {"anim", "\"blendEnd\": 0", "\"blendEnd\": 1e99999", "11:16 A whole number"},
+            {"anim", "\"speed\": 1", "\"speed\": 1e39", "12:13 '1e39' is too large"},
+            {"anim", "\"speed\": 1", "\"speed\": -1e999", "12:13 '-1e999' is too large"},
+            {"anim", "\"speed\": 1", "\"speed\": NaN", "12:13 A number is wanted here, not 'NaN'."},
+            {"anim", "\"speed\": 1", "\"speed\": \"0x7fc0\"", "12:13 A float that is no number"},
+            {"anim", "\"speed\": 1", "\"speed\": 1.", "12:13 A number is wanted here, not '1.'."},
+            {"anim", "\"speed\": 1", "\"speed\": null", "12:13 A number"},
+            {"anim", "[0, 0, 0, 1]", "[0, 0, 0]", "18:106 4 entries are wanted here, not 3."},
+            {"anim", "[0, 0, 0]", "[0, 0, 0, 0]", "18:76 3 entries are wanted here, not 4."},
+            // A track of two keys among those of three; all of three, of two frames.
+            {"anim", "     [0, 0, 0]\n    ],", "     [0, 0, 0], [0, 0, 0]\n    ],",
+             "29:5 4 entries are wanted here, not 3."},
+            {"anim", "0, 0, 0\n", "0, 0\n", "23:20 The tracks have 3 keys, but there are 2 frames."},
+            {"anim", "]\n}\n", "]\n", "54:1 '}' is wanted here, not the end of the text."},
+            {"anim", "]\n}\n", "],\n}\n", "54:1 A key in quotes is wanted here, not '}'."},
+            {"anim", "]\n}\n", "]\n}\n}", "55:1 The text should end here"},
+            {"anim", "\"version\"", "\"$schema\": [[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[",
+             "4:46 Nothing is nested"},
+            {"anim", "\"version\"", "\"$schema\": [1, maybe", "4:17 'maybe' is no value."},
+            {"skinnedmesh", "0, 1, 2\n", "0, 1, 65535\n", "27:11 A whole number from 0 to 65534"},
+            {"skinnedmesh", "materials/a", "materials/\u0416", "25:16 The files hold texts of Latin-1"},
+            {"skinnedmesh", "materials/a", "materials/\\u0000", "25:16 The files hold texts of Latin-1"},
+            {"skinnedmesh", "materials/a", "materials/\xe9", "25:16 This text is no UTF-8."},
+            {"skinnedmesh", "materials/a", "materials/\\x41", "25:27 There is no such escape"},
+            {"skinnedmesh", "materials/a", "materials/\\u 41", "25:27 There is no such escape"},
+            {"skinnedmesh", "materials/a", "materials/\n", "25:27 A control character"},
+            {"skinnedmesh", "\"surfaces\": [", "\"surfaces\": [], \"\\u0024schema\": [",
+             "43:14 A mesh without a surface"},
+            {"staticmesh", "0, 1, 2\n", "0, 1\n", "10:17 The last triangle"},
+            {"staticmesh", "\"behind\": \"", "\"behind\": \"f", "32:12 Bytes are two"},
+        };
+        for (const Row &row : rows) {
+            QByteArray text;
+            SampleModels::withModel(row.kind, [&text](auto model) {
+                model = SampleModels::plainModel<decltype(model)>();
+                if constexpr (std::is_same_v<decltype(model), AnimFile>)
+                    model.blocks.resize(1);
+                text = textOf({model, std::is_same_v<decltype(model), StaticMesh> ? "m" : ""});
+            });
+            const int at = text.indexOf(row.from);
+            QVERIFY2(at > 0, row.from);
+            text.replace(at, int(qstrlen(row.from)), row.to);
+            const QString reason = refusal(text);
+            QVERIFY2(reason.startsWith(QString::fromUtf8(row.refusal)),
+                     qUtf8Printable(row.to + (": " + reason)));
+        }
+        QCOMPARE(refusal(""), QString("1:1 '{' is wanted here, not the end of the text."));
+        QCOMPARE(refusal("\n  \"ab"), QString("2:3 '{' is wanted here, not '\"'."));
+        QCOMPARE(refusal("{\"kind"), QString("1:2 This text does not end."));
+        // Cut off anywhere, a text is refused there or behind.
+        const QByteArray text = textOf({SampleModels::skinnedMesh(), "m"});
+        for (int length = 0; length < text.size() - 2; ++length)
+            QVERIFY2(!refusal(text.left(length)).isEmpty(), qPrintable(QString::number(length)));
+    }
+
+    void schemaFits()
+    {
+        for (const QString &suffix : SampleModels::suffixes()) {
+            const QJsonObject rules = QJsonDocument::fromJson(schema(suffix)).object();
+            SampleModels::withModel(suffix, [&](auto model) {
+                const QByteArray text = textOf({SampleModels::oddModel<decltype(model)>(), "\x01"});
+                const QJsonObject object = QJsonDocument::fromJson(text).object();
+                QVERIFY(fits(object, rules, rules["$defs"].toObject()));
+                // And not everything does.
+                for (const QString &key : object.keys()) {
+                    QJsonObject other = object;
+                    other[key] = true;
+                    QVERIFY2(!fits(other, rules, rules["$defs"].toObject()), qUtf8Printable(key));
+                }
+            });
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_ModelJson)
+#include "tst_modeljson.moc"

@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "FullDisk.h"
+#include "SampleModels.h"
+#include "ToolRun.h"
+
+using TestSupport::readFile;
+
+/// Models as text on the command line.
+class tst_ToolJson : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_folder.emplace(); }
+
+    void dumpAndBuild()
+    {
+        for (const QString &suffix : SampleModels::suffixes()) {
+            // With bytes that no record owns.
+            const QByteArray bytes = SampleModels::bytesOfSample(suffix) + '\0' + "more";
+            const QString file = put("odd." + suffix, bytes);
+            const ToolRun dumped("dump", {file});
+            QCOMPARE(dumped.exitCode, 0);
+            QCOMPARE(dumped.err, QString());
+            const QString text = path(suffix + ".json");
+            QCOMPARE(ToolRun("dump -o", {text, file}).exitCode, 0);
+            QCOMPARE(QString::fromUtf8(readFile(text)), dumped.out);
+            const QString built = path("built." + suffix);
+            const ToolRun run("build", {text, "-o", built});
+            QVERIFY2(run.exitCode == 0, qUtf8Printable(run.err));
+            QCOMPARE(readFile(built), bytes);
+
+            // Neither replaces anything unasked.
+            put("built." + suffix, "mine");
+            put("mine.json", "mine");
+            QCOMPARE(ToolRun("build", {text, "-o", built}).exitCode, 1);
+            QCOMPARE(ToolRun("dump", {file, "-o", path("mine.json")}).exitCode, 1);
+            QCOMPARE(readFile(built) + readFile(path("mine.json")), QByteArray("minemine"));
+            QCOMPARE(ToolRun("build --force", {text, "-o", built}).exitCode, 0);
+            QCOMPARE(readFile(built), bytes);
+            QCOMPARE(ToolRun("dump --force", {file, "-o", path("mine.json")}).exitCode, 0);
+            QCOMPARE(ToolRun("dump --schema", {suffix}).first(), QJsonObject()); // no array of objects
+            QVERIFY(ToolRun("dump --schema", {suffix}).out.contains("\"const\": \"" + suffix + '"'));
+        }
+    }
+
+    void refusals()
+    {
+        const QString anim = put("x.anim", SampleModels::bytesOf(SampleModels::plainAnim()));
+        QString text = ToolRun("dump", {anim}).out;
+        const ToolRun other("build", {put("x.json", text.toUtf8()), "-o", path("y.staticmesh")});
+        QVERIFY2(other.exitCode == 1 && other.err.contains("y.staticmesh: The name does not end in .anim"),
+                 qUtf8Printable(other.err));
+        const QString broken = put("b.json", text.replace("\"speed\": 1", "\"speed\": fast").toUtf8());
+        const ToolRun refused("build", {broken, "-o", path("y.anim")});
+        QVERIFY2(refused.exitCode == 1 &&
+                     refused.err.contains(broken + ":12:13: A number is wanted here, not 'fast'."),
+                 qUtf8Printable(refused.err));
+        const QString none =
+            put("n.json", "{\"kind\": \"anim\", \"schema\": 1, \"version\": 1, \"blocks\": []}");
+        const ToolRun unsaved("build", {none, "-o", path("y.anim")});
+        QVERIFY2(unsaved.exitCode == 1 && unsaved.err.contains("without an animation"),
+                 qUtf8Printable(unsaved.err));
+        QVERIFY(!QFileInfo::exists(path("y.anim")));
+        QCOMPARE(ToolRun("build", {path("none.json"), "-o", path("y.anim")}).exitCode, 1);
+
+        // What would not come back is told of.
+        AnimFile block;
+        block.blocks.resize(1);
+        QByteArray negative = SampleModels::bytesOf(block);
+        negative.replace(32, 4, "\xff\xff\xff\xff");
+        const ToolRun told("dump", {put("negative.anim", negative)});
+        QVERIFY(told.exitCode == 0 && told.err.contains("warning: A count below zero"));
+        const ToolRun material("dump", {put("x.kmat", "material a { }\n")});
+        QVERIFY(material.exitCode == 1 && material.err.contains("text already"));
+    }
+
+    void fullDisk()
+    {
+        const QString anim = put("x.anim", SampleModels::bytesOf(SampleModels::plainAnim()));
+        QCOMPARE(ToolRun("dump", {anim, "-o", path("x.json")}).exitCode, 0);
+        put("old.json", "old");
+        const FullDisk disk(100);
+        QCOMPARE(ToolRun("dump --force", {anim, "-o", path("old.json")}).exitCode, 1);
+        QCOMPARE(readFile(path("old.json")), QByteArray("old"));
+        QCOMPARE(ToolRun("build --force", {path("x.json"), "-o", anim}).exitCode, 1);
+        QCOMPARE(readFile(anim), SampleModels::bytesOf(SampleModels::plainAnim()));
+    }
+
+private:
+    QString path(const QString &name = {}) const { return m_folder->path(name); }
+    QString put(const QString &name, const QByteArray &bytes) const { return m_folder->put(name, bytes); }
+
+    std::optional<TestFolder> m_folder;
+};
+
+QTEST_GUILESS_MAIN(tst_ToolJson)
+#include "tst_tooljson.moc"

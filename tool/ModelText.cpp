@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "ModelText.h"
+
+#include "BinaryFileWriter.h"
+#include "ModelFile.h"
+#include "Output.h"
+#include "WholeFile.h"
+
+#include <QFile>
+
+namespace {
+/// What a model and the bytes behind it are stored as; empty where the model refuses.
+QByteArray storedBytes(const ModelJson::Content &content)
+{
+    BinaryFileWriter writer;
+    if (std::visit([&writer](const auto &model) { return model.write(writer); }, content.model))
+        return {};
+    const std::vector<uchar> &bytes = writer.bytes();
+    return QByteArray(reinterpret_cast<const char *>(bytes.data()), int(bytes.size())) + content.behind;
+}
+} // namespace
+
+QString readWholeModel(const QString &path, ModelJson::Content &content, QString &note)
+{
+    FileContent read;
+    const QString error = readFile(path, read);
+    if (!error.isEmpty())
+        return error;
+    qint64 bytesBehind = 0;
+    const bool isModel = std::visit(
+        [&](auto &model) {
+            using Read = std::decay_t<decltype(model)>;
+            if constexpr (std::is_constructible_v<ModelJson::Model, Read>) {
+                bytesBehind = model.bytesBehind;
+                content.model = std::move(model);
+                return true;
+            } else {
+                return false;
+            }
+        },
+        read);
+    if (!isModel)
+        return QStringLiteral("A material file is a text already.");
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return QStringLiteral("The file cannot be opened.");
+    const QByteArray before = file.readAll();
+    content.behind = before.right(int(bytesBehind));
+    const QByteArray after = storedBytes(content);
+    if (!after.isEmpty() && after != before)
+        note = QStringLiteral("A count below zero is read as none, and is written so.");
+    return {};
+}
+
+bool writeWholeModel(const QString &path, const ModelJson::Content &content)
+{
+    const QString refusal = std::visit([](const auto &model) { return model.refusal(); }, content.model);
+    if (!refusal.isEmpty()) {
+        Output::complain(QStringLiteral("%1: %2").arg(path, refusal));
+        return true;
+    }
+    const QString reason = writeWholeFile(path, storedBytes(content));
+    return Output::outcome(path, !reason.isEmpty(), reason);
+}

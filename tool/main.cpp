@@ -19,6 +19,7 @@ constexpr Verb verbs[] = {
     {"resave", "read files and write them back", resave},
     {"dump", "write a model as JSON text", dump},
     {"build", "make a model of such a text", build},
+    {"set", "set fields of a model", set},
     {"import", "turn a model of another program into game files", importModel},
     {"export", "turn a mesh into a glTF or OBJ file", exportModel},
     {"render", "draw a model into a picture", render, true},

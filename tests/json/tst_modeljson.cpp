@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "FieldPatch.h"
 #include "FormatMutator.h"
 #include "ModelJson.h"
 #include "SampleModels.h"
@@ -245,6 +246,78 @@ private slots:
         const QByteArray text = textOf({SampleModels::skinnedMesh(), "m"});
         for (int length = 0; length < text.size() - 2; ++length)
             QVERIFY2(!refusal(text.left(length)).isEmpty(), qPrintable(QString::number(length)));
+    }
+
+    void patchesByWords()
+    {
+        struct Row
+        {
+            const char *kind, *path, *value, *outcome;
+        };
+        // What changed, or why it cannot be.
+        const Row rows[] = {
+            {"anim", "block 1 speed", "30", "block 1 speed: 1 -> 30"},
+            {"anim", "block 1 speed", "1", ""},
+            {"anim", "block 0-1 loop frame", "=10*i",
+             "block 0 loopFrame: 65535 -> 0; block 1 loopFrame: 65535 -> 10"},
+            {"anim", "blocks * animId", "+=i", "block 1 animId: 0 -> 1; block 2 animId: 0 -> 2"},
+            {"anim", "block id 0 frame 2 yaw", "-.5",
+             "block 0 frame 2 yaw: 0 -> -0.5; block 1 frame 2 yaw: 0 -> -0.5; block 2 frame 2 yaw: 0 -> "
+             "-0.5"},
+            {"anim", "block 0 action 1 arg8", "0x10", "block 0 action 1 args 8: 0 -> 16"},
+            {"anim", "block 0 action 1 args 1", "\"0x7fc00001\"",
+             "block 0 action 1 args 1: 0 -> \"0x7fc00001\""},
+            {"anim", "block 0 action 2 Event Type", "0.3", "block 0 action 2 event: 0.3 is no whole number."},
+            {"anim", "block 0 bone 3 translation index", "1", "block 0 bone 3 translationTrack: 65535 -> 1"},
+            {"anim", "block 0 rotation 1 key 2 w", "*=.5", "block 0 rotation 1 key 2 w: 1 -> 0.5"},
+            {"anim", "block 0 translations 1 2", "1, 2, 3",
+             "block 0 translation 1 key 2: [0, 0, 0] -> [1, 2, 3]"},
+            {"anim", "block 0 translation 2 0", "1", "'block 0 translation' is from 0 to 1."},
+            {"anim", "block 0 translation 1", "1", "The number of a key is missing"},
+            {"anim", "block 3 speed", "1", "'block' is from 0 to 2."},
+            {"anim", "block id 7 speed", "1", "There is no block with the id '7'."},
+            {"anim", "block 0 sped", "1", "There is no 'sped' in block 0, which has animId, frameScale"},
+            {"anim", "block 0 speed", "fast", "block 0 speed: "},
+            {"anim", "block 0 blend end", "65536", "block 0 blendEnd: 65536 is not from 0 to 65535."},
+            {"anim", "blocks", "1", "There is no 'blocks' in animation file"},
+            {"anim", "", "1", "There is no '' in animation file"},
+            {"skinnedmesh", "hot point 1 origin", "*=2", ""},
+            {"skinnedmesh", "hotpoint 0-1 particle effect 1", "65535",
+             "hot point 0 effect1: 0 -> 65535; hot point 1 effect1: 0 -> 65535"},
+            {"skinnedmesh", "Bone 1 bounding box min", "*=2", "bone 1 bbMin: [1, 11, 21] -> [2, 22, 42]"},
+            {"skinnedmesh", "bone 1 bbMin y", "-=1", "bone 1 bbMin y: 11 -> 10"},
+            {"skinnedmesh", "bone 1 bbMin", "1, 2", "bone 1 bbMin: 3 numbers are wanted, not '1, 2'."},
+            {"skinnedmesh", "bone 1 damage", "2", "bone 1 damageScale: 1 -> 2"},
+            {"skinnedmesh", "bone 1 impact type", "4", "bone 1 impact: 0 -> 4"},
+            {"skinnedmesh", "bone 0 child bones 1", "3", "bone 0 childBones 1: 2 -> 3"},
+            {"skinnedmesh", "bone 0 children", "1,2", "bone 0 childBones: [1, 2, 3] -> [1, 2]"},
+            {"skinnedmesh", "surface 0 triangles 0", "65535",
+             "surface 0 triangles 0: 65535 is not from 0 to 65534."},
+            {"skinnedmesh", "surface 2 material", "materials/b",
+             "surface 2 material: \"materials/a\" -> \"materials/b\""},
+            {"skinnedmesh", "surface 2 material", "materials/\u0416",
+             "surface 2 material: The files hold texts of Latin-1"},
+            {"skinnedmesh", "vertex 1 position z", "=x+pi-pi", ""},
+            {"skinnedmesh", "vertex 1 uv w", "0", "There is no 'uv w' in vertex 1"},
+            {"staticmesh", "surface 0 triangles", "[0, 1]", "The last triangle has no three corners."},
+        };
+        for (const Row &row : rows) {
+            Model model;
+            SampleModels::withModel(
+                row.kind, [&model](auto each) { model = SampleModels::plainModel<decltype(each)>(); });
+            std::vector<PatchedField> changes;
+            QString outcome = patchModel(model, row.path, row.value, changes);
+            if (outcome.isEmpty()) {
+                QStringList lines;
+                for (const PatchedField &change : changes)
+                    lines += change.place + ": " + change.before + " -> " + change.after;
+                outcome = lines.join("; ");
+                QCOMPARE(outcome, QString(row.outcome));
+                continue;
+            }
+            QVERIFY2(outcome.startsWith(QString::fromUtf8(row.outcome)),
+                     qUtf8Printable(row.path + (": " + outcome)));
+        }
     }
 
     void schemaFits()

@@ -48,6 +48,8 @@ private slots:
             {"dump x.anim y.anim", "y.anim"},
             {"dump --schema kmat", "not 'kmat'"},
             {"build x.json", "-o FILE is missing"},
+            {"set x.anim", "a value"},
+            {"set x.anim a 1 b", "no value for 'b'"},
             {"import x.obj", "-o FOLDER is missing"},
             {"import x.obj y.obj -o /", "y.obj"},
             {"import x.obj -o / --scale big", "'big'"},
@@ -93,7 +95,7 @@ private slots:
         manual.remove('\\');
         const QByteArray zsh = readFile(source("packaging/completions/_korvane-tool"));
         const QRegularExpression line("^  (?:-[a-z], )?(--[a-z-]+)", QRegularExpression::MultilineOption);
-        for (const QString verb : {"info", "check", "resave", "dump", "build", "import", "export", "render"}) {
+        for (const QString verb : {"info", "check", "resave", "dump", "build", "set", "import", "export", "render"}) {
             const ToolRun run(verb, {"--help"});
             QCOMPARE(run.exitCode, 0);
             QVERIFY(run.out.startsWith(QStringLiteral("Usage: korvane-tool %1 ").arg(verb)));

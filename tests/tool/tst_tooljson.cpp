@@ -45,6 +45,31 @@ private slots:
         }
     }
 
+    void setFields()
+    {
+        const QString file = put("x.anim", SampleModels::bytesOf(SampleModels::plainAnim()) + "more");
+        const ToolRun run("set", {file, "block 1 speed", "-5", "block 2 frame scale", "-=.5"});
+        QVERIFY2(run.exitCode == 0, qUtf8Printable(run.err));
+        QCOMPARE(run.out, file + "\n  block 1 speed: 1 -> -5\n  block 2 frameScale: 1 -> 0.5\n");
+        AnimFile anim;
+        QVERIFY(!anim.read(file));
+        QCOMPARE(anim.blocks[1].speed, -5.0f);
+        QCOMPARE(anim.bytesBehind, 4);
+
+        // All or nothing.
+        const QByteArray bytes = readFile(file);
+        const ToolRun refused("set", {file, "block 0 speed", "2", "block 0 blend end", "-1"});
+        QVERIFY2(refused.exitCode == 1 && refused.err.contains("blendEnd: -1 is not from 0"),
+                 qUtf8Printable(refused.err));
+        QCOMPARE(readFile(file), bytes);
+        const QString other = put("y.anim", "mine");
+        const QStringList words{"-o", other, file, "block 0 speed", "2"};
+        QCOMPARE(ToolRun("set", words).exitCode, 1);
+        QCOMPARE(readFile(other), QByteArray("mine"));
+        QCOMPARE(ToolRun("set --force", words).exitCode, 0);
+        QVERIFY(readFile(file) == bytes && readFile(other).size() == bytes.size());
+    }
+
     void refusals()
     {
         const QString anim = put("x.anim", SampleModels::bytesOf(SampleModels::plainAnim()));

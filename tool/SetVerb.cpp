@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "CommandLine.h"
+#include "FieldPatch.h"
+#include "ModelText.h"
+#include "Output.h"
+#include "ReplacedFiles.h"
+#include "Verbs.h"
+
+namespace {
+/// A value such as -5 or -=5 is no option: a blank before it says so.
+QStringList shielded(QStringList arguments)
+{
+    for (QString &argument : arguments) {
+        const QChar second = argument.size() > 1 ? argument.at(1) : QChar();
+        if (argument.startsWith(QLatin1Char('-')) && !second.isNull() &&
+            !QStringLiteral("-oh").contains(second))
+            argument.prepend(QLatin1Char(' '));
+    }
+    return arguments;
+}
+} // namespace
+
+int set(const QStringList &arguments)
+{
+    CommandLine line(
+        QStringLiteral("set"), QStringLiteral("FILE FIELD VALUE [FIELD VALUE...]"),
+        QStringLiteral(
+            "Sets fields of a skinned mesh, an animation or a static mesh, and says which changed. FIELD is "
+            "such as 'block 3 speed', 'bone 2-5 damage scale', 'hot point * origin x'; VALUE is a number, "
+            "a text, or calculated from the old number, as '*=1.5' and '=x+10*i' are. When one "
+            "cannot be, nothing is written."));
+    line.option({QStringLiteral("o"), QStringLiteral("output")}, QStringLiteral("file"),
+                QStringLiteral("Write into this file instead of FILE itself."));
+    line.flag(QStringLiteral("force"), QStringLiteral("Replace that file if it exists."));
+    if (const auto end = line.parse(shielded(arguments), true))
+        return *end;
+    const QStringList operands = line.operands();
+    if (operands.size() < 3)
+        return line.refuse(QStringLiteral("A field and a value are missing."));
+    if (operands.size() % 2 == 0)
+        return line.refuse(QStringLiteral("There is no value for '%1'.").arg(operands.last()));
+    const QString file = operands.first();
+    const QString target = line.isSet(QStringLiteral("output")) ? line.value(QStringLiteral("output")) : file;
+    if (!line.isSet(QStringLiteral("force")) && isTaken(target) && !isOneFile(file, target)) {
+        Output::refuseToReplace({target});
+        return Failed;
+    }
+
+    ModelJson::Content content;
+    QString note;
+    QString error = readWholeModel(file, content, note);
+    std::vector<PatchedField> changes;
+    for (int i = 1; i < operands.size() && error.isEmpty(); i += 2) {
+        const QString value = operands.at(i + 1);
+        error = patchModel(content.model, operands.at(i),
+                           value.startsWith(QLatin1String(" -")) ? value.mid(1) : value, changes);
+    }
+    if (!error.isEmpty()) {
+        Output::complain(QStringLiteral("%1: %2").arg(file, error));
+        return Failed;
+    }
+    if (!note.isEmpty())
+        Output::complain(QStringLiteral("%1: warning: %2").arg(file, note));
+    if (writeWholeModel(target, content))
+        return Failed;
+    for (const PatchedField &change : changes)
+        Output::line(
+            QStringLiteral("  %1: %2 -> %3")
+                .arg(change.place, QString::fromUtf8(change.before), QString::fromUtf8(change.after)));
+    if (changes.empty())
+        Output::line(QStringLiteral("  No value changed."));
+    return Fine;
+}

@@ -3259,6 +3259,29 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
 </context>
 <context>
+    <name>ModelComparison</name>
+    <message>
+        <source>%1 frames</source>
+        <translation>%1 Frames</translation>
+    </message>
+    <message>
+        <source>%1 numbers</source>
+        <translation>%1 Zahlen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 frames differ</source>
+        <translation>%1 von %2 Frames verschieden</translation>
+    </message>
+    <message>
+        <source>%1 of %2 numbers differ</source>
+        <translation>%1 von %2 Zahlen verschieden</translation>
+    </message>
+    <message>
+        <source>order: %1</source>
+        <translation>Reihenfolge: %1</translation>
+    </message>
+</context>
+<context>
     <name>ModelContents</name>
     <message>
         <source>What the file holds</source>

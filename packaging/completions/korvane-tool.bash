@@ -17,7 +17,7 @@ _korvane_tool_files() {
 
 _korvane_tool() {
     local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD - 1]} verb=${COMP_WORDS[1]:-}
-    local verbs='info check resave dump build set import export render' options=''
+    local verbs='info check resave dump build set diff import export render' options=''
     COMPREPLY=()
 
     if ((COMP_CWORD == 1)) || [[ $verb == help ]]; then
@@ -61,6 +61,7 @@ _korvane_tool() {
     check) options='--json --all --game-path --mod-path --help' ;;
     resave) options='--output --force --help' ;;
     dump) options='--output --force --schema --help' ;;
+    diff) options='--json --all --help' ;;
     build | set) options='--output --force --help' ;;
     import)
         options='--output --static --force --keep-materials --no-normals --flip-uv --flip-winding --no-rotate --scale
@@ -82,7 +83,7 @@ _korvane_tool() {
 
     case $verb in
     info | check) _korvane_tool_files 'skinnedmesh|anim|staticmesh|kmat' ;;
-    resave | dump | set | export | render) _korvane_tool_files 'skinnedmesh|anim|staticmesh' ;;
+    resave | dump | set | diff | export | render) _korvane_tool_files 'skinnedmesh|anim|staticmesh' ;;
     build) _korvane_tool_files json ;;
     import) _korvane_tool_files ;;
     esac

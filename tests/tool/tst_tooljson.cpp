@@ -70,6 +70,38 @@ private slots:
         QVERIFY(readFile(file) == bytes && readFile(other).size() == bytes.size());
     }
 
+    void diffs()
+    {
+        const QString file = put("x.anim", SampleModels::bytesOf(SampleModels::plainAnim()));
+        const QString other = path("y.anim");
+        QCOMPARE(
+            ToolRun("set -o", {other, file, "block 1 speed", "2", "block 2 action 0 frame", "7"}).exitCode,
+            0);
+        const ToolRun run("diff", {file, other});
+        QCOMPARE(run.exitCode, 1);
+        QCOMPARE(run.out, QString("  block 1 (id 0)\n    speed: 1 -> 2\n  block 2 (id 0)\n    action 0\n     "
+                                  " frame: 0 -> 7\n"));
+        const QJsonObject first = ToolRun("diff --json", {file, other}).first();
+        QCOMPARE(first["record"].toString(), QString("block 1 (id 0)"));
+        QCOMPARE(first["fields"].toArray().at(0).toObject()["new"].toString(), QString("2"));
+        const ToolRun same("diff", {file, file});
+        QVERIFY(same.exitCode == 0 && same.out.isEmpty());
+        QCOMPARE(ToolRun("diff", {file, put("z.anim", readFile(file) + "more")}).exitCode, 1);
+        // A long list is cut off.
+        StaticMesh mesh = SampleModels::plainStatic();
+        mesh.vertices.resize(50);
+        const QString from = put("a.staticmesh", SampleModels::bytesOf(mesh));
+        QCOMPARE(ToolRun("set -o", {path("b.staticmesh"), from, "vertex * uv x", "1"}).exitCode, 0);
+        const ToolRun cut("diff", {from, path("b.staticmesh")});
+        QVERIFY2(cut.out.endsWith("  vertex 19\n    uv: [0, 0] -> [1, 0]\n  and 30 more; --all lists them\n"),
+                 qUtf8Printable(cut.out));
+        QCOMPARE(ToolRun("diff --all", {from, path("b.staticmesh")}).out.count("uv:"), 50);
+        for (const QStringList &files : {QStringList{file, from}, {file, path("none.anim")}, {file}}) {
+            const ToolRun trouble("diff", files);
+            QVERIFY(trouble.exitCode == 2 && !trouble.err.isEmpty());
+        }
+    }
+
     void refusals()
     {
         const QString anim = put("x.anim", SampleModels::bytesOf(SampleModels::plainAnim()));

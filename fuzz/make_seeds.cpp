@@ -3,6 +3,7 @@
 #include "GltfExport.h"
 #include "ImportMessages.h"
 #include "KMat.h"
+#include "ModelJson.h"
 #include "SampleModels.h"
 
 #include <QDir>
@@ -39,6 +40,15 @@ bool gltfSeed(const QDir &folder, const char *name, const GltfWriter &content)
            file.write(bytes) == bytes.size();
 }
 
+bool jsonSeed(const QDir &folder, const char *name, const ModelJson::Content &content)
+{
+    QFile file(folder.filePath(QStringLiteral("fuzz_json/%1").arg(QLatin1String(name))));
+    bool written = folder.mkpath(QStringLiteral("fuzz_json")) && file.open(QIODevice::WriteOnly);
+    ModelJson::write(content,
+                     [&](const QByteArray &part) { written = written && file.write(part) == part.size(); });
+    return written;
+}
+
 SkinnedMesh withoutSurfaces()
 {
     SkinnedMesh mesh;
@@ -65,6 +75,8 @@ int main(int argc, char **argv)
         gltfSeed(folder, "skinned",
                  exportGltf(plainMesh(), &anim, allBlocks(anim), GltfSource(), messages)) &&
         gltfSeed(folder, "static", exportGltf(plainStatic(), GltfSource(), messages)) &&
+        jsonSeed(folder, "skinned", {skinnedMesh(), {}}) && jsonSeed(folder, "anim", {animFile(), "more"}) &&
+        jsonSeed(folder, "static", {staticMesh(), {}}) &&
         seed(folder, "fuzz_skinnedmesh", "everything", skinnedMesh()) &&
         seed(folder, "fuzz_skinnedmesh", "no_surfaces", withoutSurfaces()) &&
         seed(folder, "fuzz_anim", "everything", animFile()) &&

@@ -38,10 +38,4 @@ namespace ModelComparison {
 /// model itself when fields of its own differ. Empty when all fields have the same bits.
 template <typename Model>
 std::vector<RecordDifference> compare(const Model &mine, const Model &theirs);
-
-/// Lets `mine` have what `theirs` has in a difference that compare() gave for the two: one of its fields, or,
-/// with no field named, the record whole: the model's own fields, a record that is missing or that is too
-/// many. Names of bones stay. Returns false when it is bound and nothing was done.
-template <typename Model>
-bool take(Model &mine, const Model &theirs, const RecordDifference &difference, const QString &field = {});
 } // namespace ModelComparison

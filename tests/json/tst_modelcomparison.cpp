@@ -4,9 +4,9 @@
 #include "ModelComparison.h"
 #include "SampleModels.h"
 #include "TestSupport.h"
+#include "TheirRecords.h"
 
 using ModelComparison::compare;
-using ModelComparison::take;
 
 namespace {
 /// "name field mine>theirs; …", those within in brackets.
@@ -37,9 +37,9 @@ bool takeFirst(Model &mine, const Model &theirs, const std::vector<RecordDiffere
             return true;
         for (const FieldDifference &field : each.fields) {
             if (byFields && !field.isBound && each.state == RecordDifference::State::Changed)
-                return take(mine, theirs, each, field.field);
+                return takeTheirs(mine, theirs, each, field.field);
         }
-        if (take(mine, theirs, each))
+        if (takeTheirs(mine, theirs, each))
             return true;
     }
     return false;

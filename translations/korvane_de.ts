@@ -187,26 +187,6 @@
         <translation>Eigenschaften von Anim %1 - Keyframe-Aktion %2</translation>
     </message>
     <message>
-        <source>Key Frame Action Event Type</source>
-        <translation>Keyframe-Aktion: Ereignistyp</translation>
-    </message>
-    <message>
-        <source>Key Frame Action Frame</source>
-        <translation>Keyframe-Aktion: Frame</translation>
-    </message>
-    <message>
-        <source>Key Frame Action Node</source>
-        <translation>Keyframe-Aktion: Knochen</translation>
-    </message>
-    <message>
-        <source>Key Frame Action Offset %1</source>
-        <translation>Keyframe-Aktion: Versatz %1</translation>
-    </message>
-    <message>
-        <source>Key Frame Action Args</source>
-        <translation>Keyframe-Aktion: Argumente</translation>
-    </message>
-    <message>
         <source>Arg %1</source>
         <translation>Arg %1</translation>
     </message>
@@ -322,34 +302,6 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <translation>Eigenschaften von Anim %1</translation>
     </message>
     <message>
-        <source>Animation AnimID</source>
-        <translation>Animation: Anim-ID</translation>
-    </message>
-    <message>
-        <source>Animation Speed</source>
-        <translation>Animation: Geschwindigkeit</translation>
-    </message>
-    <message>
-        <source>Animation Loop Frame</source>
-        <translation>Animation: Schleifen-Frame</translation>
-    </message>
-    <message>
-        <source>Animation Frame Scale</source>
-        <translation>Animation: Frame-Skalierung</translation>
-    </message>
-    <message>
-        <source>Animation Blend Length</source>
-        <translation>Animation: Überblendlänge</translation>
-    </message>
-    <message>
-        <source>Animation Blend Start</source>
-        <translation>Animation: Überblendstart</translation>
-    </message>
-    <message>
-        <source>Animation Blend End</source>
-        <translation>Animation: Überblendende</translation>
-    </message>
-    <message>
         <source>%1 s</source>
         <translation>%1 s</translation>
     </message>
@@ -438,10 +390,6 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <message>
         <source>Anim %1 - Frame %2 Properties</source>
         <translation>Eigenschaften von Anim %1 - Frame %2</translation>
-    </message>
-    <message>
-        <source>Frame Yaw Offset</source>
-        <translation>Frame: Gierversatz</translation>
     </message>
     <message>
         <source>%1°</source>
@@ -555,26 +503,6 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <translation>Eigenschaften von Anim %1 - Knochen %2</translation>
     </message>
     <message>
-        <source>Bone Translation Index</source>
-        <translation>Knochen: Translationsindex</translation>
-    </message>
-    <message>
-        <source>Bone Rotation Index</source>
-        <translation>Knochen: Rotationsindex</translation>
-    </message>
-    <message>
-        <source>Bone Initial Translation X</source>
-        <translation>Knochen: Anfangstranslation X</translation>
-    </message>
-    <message>
-        <source>Bone Initial Translation Y</source>
-        <translation>Knochen: Anfangstranslation Y</translation>
-    </message>
-    <message>
-        <source>Bone Initial Rotation %1</source>
-        <translation>Knochen: Anfangsrotation %1</translation>
-    </message>
-    <message>
         <source>%1° about %2</source>
         <translation>%1° um %2</translation>
     </message>
@@ -652,14 +580,6 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <message>
         <source>Anim %1 - Rotation Track %2 - Frame %3 Properties</source>
         <translation>Eigenschaften von Anim %1 - Rotationsspur %2 - Frame %3</translation>
-    </message>
-    <message>
-        <source>Animation Rotation %1</source>
-        <translation>Animation: Rotation %1</translation>
-    </message>
-    <message>
-        <source>Animation Rotation Angle</source>
-        <translation>Animation: Rotationswinkel</translation>
     </message>
 </context>
 <context>
@@ -814,10 +734,6 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <message>
         <source>Anim %1 - Translation Track %2 - Frame %3 Properties</source>
         <translation>Eigenschaften von Anim %1 - Translationsspur %2 - Frame %3</translation>
-    </message>
-    <message>
-        <source>Animation Translation %1</source>
-        <translation>Animation: Translation %1</translation>
     </message>
     <message>
         <source>Trans&amp;lation</source>
@@ -1757,6 +1673,10 @@ Ohne diese Eingabe fortfahren?</translation>
     <message>
         <source>&apos;%1&apos; is no number from %2 to %3.</source>
         <translation>„%1“ ist keine Zahl von %2 bis %3.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be stored. %2</source>
+        <translation>„%1“ kann nicht gespeichert werden. %2</translation>
     </message>
 </context>
 <context>
@@ -2800,6 +2720,10 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
     <message>
         <source>&apos;%1&apos; is no whole number from %2 to %3.</source>
         <translation>„%1“ ist keine ganze Zahl von %2 bis %3.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be stored. %2</source>
+        <translation>„%1“ kann nicht gespeichert werden. %2</translation>
     </message>
 </context>
 <context>
@@ -3968,6 +3892,26 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <source>It is not stored; Esc brings %1 back.</source>
         <translation>Die Eingabe wird nicht gespeichert; Esc bringt %1 zurück.</translation>
     </message>
+    <message>
+        <source>Set &amp;All to This</source>
+        <translation>&amp;Alle auf diesen Wert setzen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>Schritt &amp;hoch</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>Schritt &amp;runter</translation>
+    </message>
 </context>
 <context>
     <name>NumberRange</name>
@@ -4605,8 +4549,12 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
         <translation>Nicht gespeichert. %1</translation>
     </message>
     <message>
-        <source>The file format cannot hold &apos;%1&apos;: only characters of Latin-1.</source>
-        <translation>Das Dateiformat kann „%1“ nicht aufnehmen, sondern nur Zeichen aus Latin-1.</translation>
+        <source>Of %1: %2</source>
+        <translation>Bei %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 numbers do not fit into %2 fields.</source>
+        <translation>%1 Zahlen passen nicht in %2 Felder.</translation>
     </message>
 </context>
 <context>
@@ -4689,14 +4637,6 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
     <message>
         <source>Failed to check DoubleSpinbox ID</source>
         <translation>Die DoubleSpinBox konnte nicht geprüft werden</translation>
-    </message>
-    <message>
-        <source>&amp;Step up</source>
-        <translation>Schritt &amp;hoch</translation>
-    </message>
-    <message>
-        <source>Step &amp;down</source>
-        <translation>Schritt &amp;runter</translation>
     </message>
     <message>
         <source>%1 is %2 damage (Value is divided by 256)
@@ -4862,6 +4802,353 @@ Hände und Füße (x0.25): %6</translation>
     <message>
         <source>&amp;Clear This List</source>
         <translation>Diese Liste &amp;leeren</translation>
+    </message>
+</context>
+<context>
+    <name>RecordFields</name>
+    <message>
+        <source>Bounding Box Min</source>
+        <translation>Begrenzungsbox Min</translation>
+    </message>
+    <message>
+        <source>Bounding Box Max</source>
+        <translation>Begrenzungsbox Max</translation>
+    </message>
+    <message>
+        <source>Head Track Start Bone</source>
+        <translation>Kopfdrehung: Startknochen</translation>
+    </message>
+    <message>
+        <source>Head Track End Bone</source>
+        <translation>Kopfdrehung: Endknochen</translation>
+    </message>
+    <message>
+        <source>Head Track Factor</source>
+        <translation>Kopfdrehung: Faktor</translation>
+    </message>
+    <message>
+        <source>Child Bone</source>
+        <translation>Kindknochen</translation>
+    </message>
+    <message>
+        <source>Child Bone Index</source>
+        <translation>Kindknochen-Index</translation>
+    </message>
+    <message>
+        <source>Position On Bone</source>
+        <translation>Position am Knochen</translation>
+    </message>
+    <message>
+        <source>Hot Point Origin %1</source>
+        <translation>Hotpoint: Ursprung %1</translation>
+    </message>
+    <message>
+        <source>Bone</source>
+        <translation>Knochen</translation>
+    </message>
+    <message>
+        <source>Hot Point BoneID</source>
+        <translation>Hotpoint: Knochen-ID</translation>
+    </message>
+    <message>
+        <source>Deal Damage</source>
+        <translation>Schaden verursachen</translation>
+    </message>
+    <message>
+        <source>Hot Point Particle Effect 1</source>
+        <translation>Hotpoint: Partikeleffekt 1</translation>
+    </message>
+    <message>
+        <source>Particle Effect 1</source>
+        <translation>Partikeleffekt 1</translation>
+    </message>
+    <message>
+        <source>Particle Effect 2</source>
+        <translation>Partikeleffekt 2</translation>
+    </message>
+    <message>
+        <source>Hot Point Particle Effect 2</source>
+        <translation>Hotpoint: Partikeleffekt 2</translation>
+    </message>
+    <message>
+        <source>Flags</source>
+        <translation>Flags</translation>
+    </message>
+    <message>
+        <source>Hot Point Flags</source>
+        <translation>Hotpoint: Flags</translation>
+    </message>
+    <message>
+        <source>Symbol Type</source>
+        <translation>Symboltyp</translation>
+    </message>
+    <message>
+        <source>Bone Symbol Flags</source>
+        <translation>Knochen: Symbol-Flags</translation>
+    </message>
+    <message>
+        <source>Symbol Side</source>
+        <translation>Symbolseite</translation>
+    </message>
+    <message>
+        <source>Symbol Part</source>
+        <translation>Symbolteil</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Bone Name</source>
+        <translation>Knochen: Name</translation>
+    </message>
+    <message>
+        <source>Parent Bone</source>
+        <translation>Elternknochen</translation>
+    </message>
+    <message>
+        <source>Parent Bone Index</source>
+        <translation>Knochen: Elternknochen-Index</translation>
+    </message>
+    <message>
+        <source>Impact Type</source>
+        <translation>Aufpralltyp</translation>
+    </message>
+    <message>
+        <source>Bone Impact Type</source>
+        <translation>Knochen: Aufpralltyp</translation>
+    </message>
+    <message>
+        <source>Damage Scale</source>
+        <translation>Schadensfaktor</translation>
+    </message>
+    <message>
+        <source>Bone Damage Scale</source>
+        <translation>Knochen: Schadensfaktor</translation>
+    </message>
+    <message>
+        <source>Bone Bounding Box Min %1</source>
+        <translation>Knochen: Begrenzungsbox Min %1</translation>
+    </message>
+    <message>
+        <source>Bone Bounding Box Max %1</source>
+        <translation>Knochen: Begrenzungsbox Max %1</translation>
+    </message>
+    <message>
+        <source>Bone Flags</source>
+        <translation>Knochen-Flags</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>Material</translation>
+    </message>
+    <message>
+        <source>Surface Material</source>
+        <translation>Fläche: Material</translation>
+    </message>
+    <message>
+        <source>Vertex</source>
+        <translation>Vertex</translation>
+    </message>
+    <message>
+        <source>Triangle Index</source>
+        <translation>Dreiecksindex</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Vertex Position %1</source>
+        <translation>Vertex: Position %1</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>Vertex Normal %1</source>
+        <translation>Vertex: Normale %1</translation>
+    </message>
+    <message>
+        <source>UV</source>
+        <translation>UV</translation>
+    </message>
+    <message>
+        <source>Vertex UV %1</source>
+        <translation>Vertex: UV %1</translation>
+    </message>
+    <message>
+        <source>Vertex Bone Index</source>
+        <translation>Vertex: Knochenindex</translation>
+    </message>
+    <message>
+        <source>Anim ID</source>
+        <translation>Anim-ID</translation>
+    </message>
+    <message>
+        <source>Animation AnimID</source>
+        <translation>Animation: Anim-ID</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Animation Speed</source>
+        <translation>Animation: Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Loop Frame</source>
+        <translation>Schleifen-Frame</translation>
+    </message>
+    <message>
+        <source>Animation Loop Frame</source>
+        <translation>Animation: Schleifen-Frame</translation>
+    </message>
+    <message>
+        <source>Frame Scale</source>
+        <translation>Frame-Skalierung</translation>
+    </message>
+    <message>
+        <source>Animation Frame Scale</source>
+        <translation>Animation: Frame-Skalierung</translation>
+    </message>
+    <message>
+        <source>Blend Length</source>
+        <translation>Überblendlänge</translation>
+    </message>
+    <message>
+        <source>Animation Blend Length</source>
+        <translation>Animation: Überblendlänge</translation>
+    </message>
+    <message>
+        <source>Blend Start</source>
+        <translation>Überblendstart</translation>
+    </message>
+    <message>
+        <source>Animation Blend Start</source>
+        <translation>Animation: Überblendstart</translation>
+    </message>
+    <message>
+        <source>Blend End</source>
+        <translation>Überblendende</translation>
+    </message>
+    <message>
+        <source>Animation Blend End</source>
+        <translation>Animation: Überblendende</translation>
+    </message>
+    <message>
+        <source>Translation Track</source>
+        <translation>Translationsspur</translation>
+    </message>
+    <message>
+        <source>Bone Translation Index</source>
+        <translation>Knochen: Translationsindex</translation>
+    </message>
+    <message>
+        <source>Rotation Track</source>
+        <translation>Rotationsspur</translation>
+    </message>
+    <message>
+        <source>Bone Rotation Index</source>
+        <translation>Knochen: Rotationsindex</translation>
+    </message>
+    <message>
+        <source>Initial Translation</source>
+        <translation>Anfangstranslation</translation>
+    </message>
+    <message>
+        <source>Bone Initial Translation %1</source>
+        <translation>Knochen: Anfangstranslation %1</translation>
+    </message>
+    <message>
+        <source>Initial Rotation</source>
+        <translation>Anfangsrotation</translation>
+    </message>
+    <message>
+        <source>Bone Initial Rotation %1</source>
+        <translation>Knochen: Anfangsrotation %1</translation>
+    </message>
+    <message>
+        <source>Yaw Offset</source>
+        <translation>Gierversatz</translation>
+    </message>
+    <message>
+        <source>Frame Yaw Offset</source>
+        <translation>Frame: Gierversatz</translation>
+    </message>
+    <message>
+        <source>Translation</source>
+        <translation>Translation</translation>
+    </message>
+    <message>
+        <source>Animation Translation %1</source>
+        <translation>Animation: Translation %1</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>Animation Rotation %1</source>
+        <translation>Animation: Rotation %1</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>Animation Rotation Angle</source>
+        <translation>Animation: Rotationswinkel</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Frame</translation>
+    </message>
+    <message>
+        <source>Key Frame Action Frame</source>
+        <translation>Keyframe-Aktion: Frame</translation>
+    </message>
+    <message>
+        <source>Event Type</source>
+        <translation>Ereignistyp</translation>
+    </message>
+    <message>
+        <source>Key Frame Action Event Type</source>
+        <translation>Keyframe-Aktion: Ereignistyp</translation>
+    </message>
+    <message>
+        <source>Key Frame Action Node</source>
+        <translation>Keyframe-Aktion: Knochen</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>Versatz</translation>
+    </message>
+    <message>
+        <source>Key Frame Action Offset %1</source>
+        <translation>Keyframe-Aktion: Versatz %1</translation>
+    </message>
+    <message>
+        <source>Arg</source>
+        <translation>Arg</translation>
+    </message>
+    <message>
+        <source>Key Frame Action Args</source>
+        <translation>Keyframe-Aktion: Argumente</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>The file format cannot hold &apos;%1&apos;: only characters of Latin-1.</source>
+        <translation>Das Dateiformat kann „%1“ nicht aufnehmen, sondern nur Zeichen aus Latin-1.</translation>
     </message>
 </context>
 <context>
@@ -5668,10 +5955,6 @@ So lassen?</translation>
         <source>Bone %1 - Child Bone Index %2 Properties</source>
         <translation>Eigenschaften von Knochen %1 - Kindknochen-Index %2</translation>
     </message>
-    <message>
-        <source>Child Bone Index</source>
-        <translation>Kindknochen-Index</translation>
-    </message>
 </context>
 <context>
     <name>SkinnedMeshHPPage</name>
@@ -5762,26 +6045,6 @@ So lassen?</translation>
     <message>
         <source>Hot Point %1 Properties</source>
         <translation>Eigenschaften von Hotpoint %1</translation>
-    </message>
-    <message>
-        <source>Hot Point Origin %1</source>
-        <translation>Hotpoint: Ursprung %1</translation>
-    </message>
-    <message>
-        <source>Hot Point BoneID</source>
-        <translation>Hotpoint: Knochen-ID</translation>
-    </message>
-    <message>
-        <source>Hot Point Particle Effect 1</source>
-        <translation>Hotpoint: Partikeleffekt 1</translation>
-    </message>
-    <message>
-        <source>Hot Point Particle Effect 2</source>
-        <translation>Hotpoint: Partikeleffekt 2</translation>
-    </message>
-    <message>
-        <source>Hot Point Flags</source>
-        <translation>Hotpoint: Flags</translation>
     </message>
     <message>
         <source>Damage</source>
@@ -5915,38 +6178,6 @@ So lassen?</translation>
         <translation>Eigenschaften von Knochen %1</translation>
     </message>
     <message>
-        <source>Left</source>
-        <translation>Links</translation>
-    </message>
-    <message>
-        <source>Right</source>
-        <translation>Rechts</translation>
-    </message>
-    <message>
-        <source>Bone Symbol Flags</source>
-        <translation>Knochen: Symbol-Flags</translation>
-    </message>
-    <message>
-        <source>Parent Bone Index</source>
-        <translation>Knochen: Elternknochen-Index</translation>
-    </message>
-    <message>
-        <source>Bone Impact Type</source>
-        <translation>Knochen: Aufpralltyp</translation>
-    </message>
-    <message>
-        <source>Bone Damage Scale</source>
-        <translation>Knochen: Schadensfaktor</translation>
-    </message>
-    <message>
-        <source>Bone Bounding Box Min %1</source>
-        <translation>Knochen: Begrenzungsbox Min %1</translation>
-    </message>
-    <message>
-        <source>Bone Bounding Box Max %1</source>
-        <translation>Knochen: Begrenzungsbox Max %1</translation>
-    </message>
-    <message>
         <source>T&amp;ype</source>
         <translation>&amp;Typ</translation>
     </message>
@@ -5957,10 +6188,6 @@ So lassen?</translation>
     <message>
         <source>What you call the bone. It is kept in a file beside the model, which the game does not look at.</source>
         <translation>Wie Sie den Knochen nennen. Das steht in einer Datei neben dem Modell, die das Spiel nicht beachtet.</translation>
-    </message>
-    <message>
-        <source>Bone Name</source>
-        <translation>Knochen: Name</translation>
     </message>
 </context>
 <context>
@@ -6075,40 +6302,10 @@ So lassen?</translation>
     </message>
 </context>
 <context>
-    <name>SkinnedMeshSurfacePage</name>
-    <message>
-        <source>Surface Material</source>
-        <translation>Fläche: Material</translation>
-    </message>
-</context>
-<context>
-    <name>SkinnedMeshTriIndexPage</name>
-    <message>
-        <source>Triangle Index</source>
-        <translation>Dreiecksindex</translation>
-    </message>
-</context>
-<context>
     <name>SkinnedMeshVertPage</name>
     <message>
         <source>Place of the vertex in the space of its bone, in game units</source>
         <translation>Ort des Vertex im Raum seines Knochens, in Spieleinheiten</translation>
-    </message>
-    <message>
-        <source>Vertex Position %1</source>
-        <translation>Vertex: Position %1</translation>
-    </message>
-    <message>
-        <source>Vertex Normal %1</source>
-        <translation>Vertex: Normale %1</translation>
-    </message>
-    <message>
-        <source>Vertex UV %1</source>
-        <translation>Vertex: UV %1</translation>
-    </message>
-    <message>
-        <source>Vertex Bone Index</source>
-        <translation>Vertex: Knochenindex</translation>
     </message>
 </context>
 <context>
@@ -6198,36 +6395,10 @@ So lassen?</translation>
     </message>
 </context>
 <context>
-    <name>StaticMeshSurfacePage</name>
-    <message>
-        <source>Surface Material</source>
-        <translation>Fläche: Material</translation>
-    </message>
-</context>
-<context>
-    <name>StaticMeshTriIndexPage</name>
-    <message>
-        <source>Triangle Index</source>
-        <translation>Dreiecksindex</translation>
-    </message>
-</context>
-<context>
     <name>StaticMeshVertPage</name>
     <message>
         <source>Place of the vertex in the model, in game units (z is up)</source>
         <translation>Ort des Vertex im Modell, in Spieleinheiten (z zeigt nach oben)</translation>
-    </message>
-    <message>
-        <source>Vertex Position %1</source>
-        <translation>Vertex: Position %1</translation>
-    </message>
-    <message>
-        <source>Vertex Normal %1</source>
-        <translation>Vertex: Normale %1</translation>
-    </message>
-    <message>
-        <source>Vertex UV %1</source>
-        <translation>Vertex: UV %1</translation>
     </message>
 </context>
 <context>

@@ -12,7 +12,6 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
@@ -84,14 +83,14 @@ bool QuestionMenu::eventFilter(QObject *watched, QEvent *event)
 
 QMenu *QuestionMenu::createMenu(QObject *editor)
 {
-    auto *box = qobject_cast<QAbstractSpinBox *>(editor);
-    auto *text = box ? box->findChild<QLineEdit *>() : nullptr;
-    if (!text || !valueOf(editor)) {
+    auto *field = qobject_cast<NumberField *>(editor);
+    if (!field) {
         Log::error(tr("QObject is not a spinbox or DoubleSpinbox "));
         return nullptr;
     }
-    QMenu *menu = text->createStandardContextMenu();
-    QAction *first = menu->actions().value(0);
+    QMenu *menu = field->createMenu();
+    const auto *behind = menu->findChild<QAction *>(QLatin1String(NumberField::ActionBehind));
+    QAction *next = menu->actions().value(menu->actions().indexOf(const_cast<QAction *>(behind)) + 1);
     const bool isWhole = qobject_cast<IntSpinBox *>(editor);
     const QStringList keys = Questions::of(editor);
     for (const QString &key : keys) {
@@ -103,12 +102,12 @@ QMenu *QuestionMenu::createMenu(QObject *editor)
             auto *action = new QAction(tr(questions[i].text), menu);
             if (!shown.isEmpty())
                 action->setText(action->text() + QLatin1Char('\t') + shown);
-            menu->insertAction(first, action);
+            menu->insertAction(next, action);
             // Queued, so that the answer's box does not run from within the menu. The menu is no part of the
             // field and may outlive it.
-            const auto answer = [this, i, isWhole, field = QPointer<QObject>(editor)] {
-                if (field)
-                    ask(i, field);
+            const auto answer = [this, i, isWhole, asked = QPointer<QObject>(editor)] {
+                if (asked)
+                    ask(i, asked);
                 else
                     Log::error(isWhole ? tr("Failed to check Spinbox ID")
                                        : tr("Failed to check DoubleSpinbox ID"));
@@ -116,17 +115,7 @@ QMenu *QuestionMenu::createMenu(QObject *editor)
             connect(action, &QAction::triggered, this, answer, Qt::QueuedConnection);
         }
     }
-    if (menu->actions().value(0) != first)
-        menu->insertSeparator(first);
-
-    menu->addSeparator();
-    const auto addStep = [menu, box](const QString &title, int steps) {
-        QAction *action = menu->addAction(title);
-        action->setEnabled(!box->isReadOnly());
-        connect(action, &QAction::triggered, box, [box, steps] { box->stepBy(steps); });
-    };
-    addStep(tr("&Step up"), 1);
-    addStep(tr("Step &down"), -1);
+    menu->insertSeparator(next);
     return menu;
 }
 

@@ -20,8 +20,8 @@ public:
     /// For the spin boxes in `fields`, which owns the menu.
     explicit QuestionMenu(QWidget *fields);
 
-    /// The menu of an editor: its questions first, then what every spin box offers. Null, after an error in
-    /// the log, for an object that is no spin box. The caller owns it.
+    /// The menu of an editor: what every number field offers, with its questions in it. Null, after an error
+    /// in the log, for an object that is no spin box. The caller owns it.
     QMenu *createMenu(QObject *editor);
 
     /// "64 damage" and what it does to each part of a body; `value` as stored, 256 times the damage.

@@ -11,9 +11,6 @@
 #include <QCheckBox>
 #include <QSignalBlocker>
 
-#include <array>
-#include <type_traits>
-
 /// What a property page needs of every kind of editor: its value, a way to show one without any signal, and
 /// the signal by which the user's edits arrive.
 namespace Editors {
@@ -101,88 +98,3 @@ void onEdited(TextField *editor, Receiver *receiver, void (Receiver::*slot)())
 }
 
 } // namespace Editors
-
-/// The parts of a field that one editor may stand for: read out of a field's value, and put into one with
-/// everything else of it kept.
-namespace Parts {
-
-struct WholeField
-{
-    template <typename Value>
-    Value get(const Value &value) const
-    {
-        return value;
-    }
-    template <typename Value>
-    void set(Value &value, const Value &part) const
-    {
-        value = part;
-    }
-};
-
-template <typename>
-struct IsArray : std::false_type
-{};
-template <typename Element, size_t Size>
-struct IsArray<std::array<Element, Size>> : std::true_type
-{};
-
-/// One component of a vector, or one element of an array.
-struct Component
-{
-    int index;
-
-    template <typename Vector>
-    auto get(const Vector &vector) const
-    {
-        return element(vector);
-    }
-    template <typename Vector, typename Part>
-    void set(Vector &vector, Part part) const
-    {
-        element(vector) = part;
-    }
-
-private:
-    template <typename Vector>
-    decltype(auto) element(Vector &vector) const
-    {
-        if constexpr (IsArray<std::remove_const_t<Vector>>::value)
-            return vector[size_t(index)];
-        else
-            return vector[index];
-    }
-};
-
-/// Some bits of a signed byte.
-struct Bits
-{
-    int shift;
-    int width;
-
-    int get(qint8 value) const { return quint8(value) >> shift & mask(); }
-    void set(qint8 &value, int part) const
-    {
-        value = qint8((quint8(value) & ~(mask() << shift)) | (part & mask()) << shift);
-    }
-
-private:
-    int mask() const { return (1 << width) - 1; }
-};
-
-/// The bits of a flags field that an edit is about.
-struct MaskedBits
-{
-    qint32 mask;
-
-    qint32 get(qint32 value) const { return value & mask; }
-    void set(qint32 &value, qint32 part) const { value = (value & ~mask) | (part & mask); }
-};
-
-inline constexpr WholeField Whole;
-inline constexpr Component X{0};
-inline constexpr Component Y{1};
-inline constexpr Component Z{2};
-inline constexpr Component W{3};
-
-} // namespace Parts

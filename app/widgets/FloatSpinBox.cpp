@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "FloatSpinBox.h"
 
+#include "NumberText.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -37,44 +39,16 @@ FloatSpinBox::FloatSpinBox(QWidget *parent)
     setValue(0.0f);
 }
 
-QString FloatSpinBox::textOf(float value)
-{
-    if (std::isnan(value))
-        return QStringLiteral("nan");
-    if (std::isinf(value))
-        return value > 0 ? QStringLiteral("inf") : QStringLiteral("-inf");
-    // The longest: a sign, 9 digits, a point, an exponent; plain notation up to some 50 characters.
-    char buffer[64];
-    const auto magnitude = std::fabs(value);
-    const auto format = magnitude == 0.0f || (magnitude >= 1e-6f && magnitude < 1e9f)
-                            ? std::chars_format::fixed
-                            : std::chars_format::scientific;
-    const auto [end, error] = std::to_chars(buffer, buffer + sizeof buffer, value, format);
-    Q_ASSERT(error == std::errc());
-    return QString::fromLatin1(buffer, int(end - buffer));
-}
-
-bool FloatSpinBox::parse(const QString &text, float &value)
-{
-    // Not QString::toFloat(): it goes by way of a double, and refuses the largest floats' shortest texts.
-    QByteArray number = text.trimmed().toLatin1().replace(',', '.');
-    if (number.startsWith('+'))
-        number.remove(0, 1);
-    const char *end = number.constData() + number.size();
-    const auto [stop, error] = std::from_chars(number.constData(), end, value);
-    return error == std::errc() && stop == end && std::isfinite(value);
-}
-
 void FloatSpinBox::setDecimals(int decimals)
 {
     m_decimals = decimals;
     showValue();
 }
 
-QString FloatSpinBox::valueText() const
+QString FloatSpinBox::textOf(float value) const
 {
-    return m_decimals < 0 || !std::isfinite(value()) ? textOf(value())
-                                                     : QString::number(double(value()), 'f', m_decimals);
+    return m_decimals < 0 || !std::isfinite(value) ? NumberText::text(value)
+                                                   : QString::number(double(value), 'f', m_decimals);
 }
 
 QString FloatSpinBox::widestText() const
@@ -84,30 +58,57 @@ QString FloatSpinBox::widestText() const
                           : QString::number(double(maximum()), 'f', m_decimals);
 }
 
-bool FloatSpinBox::read(const QString &text, float &value) const
+QString FloatSpinBox::narrowestText() const
 {
-    if (!parse(text, value))
-        return false;
-    if (m_decimals >= 0)
-        value = float(roundedTo(double(value), m_decimals));
-    return isInRange(value);
+    return m_decimals < 0 ? QStringLiteral("-123.4567") : widestText();
 }
 
-QString FloatSpinBox::refusalOf(const QString &text) const
+QString FloatSpinBox::read(const QString &text, float &value) const
 {
-    float value = 0.0f;
-    if (read(text, value))
+    const bool isNumber = NumberText::parse(text, value);
+    if (!isNumber && !Expression::isPlain(text)) {
+        double number = 0.0;
+        const QString reason = calculate(text, NumberText::written(this->value()),
+                                         {double(minimum()), double(maximum()), false}, number);
+        if (!reason.isEmpty())
+            return tr("'%1' cannot be stored. %2").arg(text, reason);
+        value = float(number);
+    }
+    if (m_decimals >= 0)
+        value = float(roundedTo(double(value), m_decimals));
+    if ((isNumber || !Expression::isPlain(text)) && isInRange(value))
         return {};
     if (maximum() == std::numeric_limits<float>::max())
         return tr("'%1' is no number that can be stored here.").arg(text);
-    return tr("'%1' is no number from %2 to %3.").arg(text, textOf(minimum()), textOf(maximum()));
+    return tr("'%1' is no number from %2 to %3.")
+        .arg(text, NumberText::text(minimum()), NumberText::text(maximum()));
 }
 
-bool FloatSpinBox::step(int steps)
+double FloatSpinBox::singleStep() const
+{
+    if (m_step > 0.0)
+        return m_step;
+    constexpr double least = 0.01;
+    constexpr double ofZero = 0.1;
+    const double magnitude = std::fabs(NumberText::written(value()));
+    if (magnitude == 0.0 || !std::isfinite(magnitude))
+        return ofZero;
+    return std::max(least, std::pow(10.0, std::floor(std::log10(magnitude)) - 1.0));
+}
+
+float FloatSpinBox::stepped(int steps) const
 {
     // In decimals, as a hand would: a float is seldom the number that its text says.
-    const double before = std::isfinite(value()) ? textOf(value()).toDouble() : double(value());
-    const int decimals = std::isfinite(before) ? std::max(decimalsOf(before), decimalsOf(m_step)) : 0;
-    const auto wanted = float(roundedTo(before + steps * m_step, decimals));
-    return std::isfinite(wanted) && change(std::clamp(wanted, minimum(), maximum()));
+    const double before = NumberText::written(value());
+    const double single = singleStep();
+    const int decimals = std::isfinite(before) ? std::max(decimalsOf(before), decimalsOf(single)) : 0;
+    const auto wanted = float(roundedTo(before + steps * single, decimals));
+    return std::isfinite(wanted) ? std::clamp(wanted, minimum(), maximum()) : value();
+}
+
+QString FloatSpinBox::addedText(int steps) const
+{
+    const double single = singleStep();
+    const auto added = float(roundedTo(std::abs(steps) * single, decimalsOf(single)));
+    return QLatin1String(steps < 0 ? "-=" : "+=") + NumberText::text(added);
 }

@@ -15,29 +15,28 @@ class FloatSpinBox : public RangeField<float>
 public:
     explicit FloatSpinBox(QWidget *parent = nullptr);
 
-    /// What one step of the arrows adds; ten steps with Page Up and Page Down. A result is written with as
-    /// many decimals as the step or the value before has, whichever has more.
+    /// What one step of the arrows adds; ten steps with Page Up and Page Down. Unless it is set, a step
+    /// changes the second digit of the number, and is 0.01 at least. A result is written with as many
+    /// decimals as the step or the value before has, whichever has more.
     void setSingleStep(double step) { m_step = step; }
     /// How many decimals are shown and stored, rather than as many as it takes.
     void setDecimals(int decimals);
-
-    /// The shortest text that parse() reads back as the same value.
-    static QString textOf(float value);
-    /// A finite value from a text, correctly rounded; false when it is none.
-    static bool parse(const QString &text, float &value);
 
 signals:
     void valueEdited(float value);
 
 protected:
-    QString valueText() const override;
     QString widestText() const override;
-    QString refusalOf(const QString &text) const override;
-    bool read(const QString &text, float &value) const override;
+    QString narrowestText() const override;
+    QString read(const QString &text, float &value) const override;
     void tell(float value) override { emit valueEdited(value); }
-    bool step(int steps) override;
+    float stepped(int steps) const override;
+    QString textOf(float value) const override;
+    QString addedText(int steps) const override;
 
 private:
-    double m_step = 1.0;
+    double singleStep() const;
+
+    double m_step = 0.0; ///< 0: by the magnitude
     int m_decimals = -1; ///< negative: as many as it takes
 };

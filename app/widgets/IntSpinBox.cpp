@@ -17,23 +17,28 @@ QString IntSpinBox::widestText() const
     return least.size() > most.size() ? least : most;
 }
 
-bool IntSpinBox::read(const QString &text, int &value) const
+QString IntSpinBox::read(const QString &text, int &value) const
 {
     bool ok = false;
     value = text.toInt(&ok); // in the C locale, whatever the system's
-    return ok && isInRange(value);
-}
-
-QString IntSpinBox::refusalOf(const QString &text) const
-{
-    int value = 0;
-    if (read(text, value))
+    if (ok && isInRange(value))
         return {};
-    return tr("'%1' is no whole number from %2 to %3.")
-        .arg(text, QString::number(minimum()), QString::number(maximum()));
+    if (ok || Expression::isPlain(text))
+        return tr("'%1' is no whole number from %2 to %3.")
+            .arg(text, QString::number(minimum()), QString::number(maximum()));
+    double number = 0.0;
+    const QString reason =
+        calculate(text, this->value(), {double(minimum()), double(maximum()), true}, number);
+    value = int(number);
+    return reason.isEmpty() ? QString() : tr("'%1' cannot be stored. %2").arg(text, reason);
 }
 
-bool IntSpinBox::step(int steps)
+int IntSpinBox::stepped(int steps) const
 {
-    return change(int(std::clamp(qint64(value()) + steps, qint64(minimum()), qint64(maximum()))));
+    return int(std::clamp(qint64(value()) + steps, qint64(minimum()), qint64(maximum())));
+}
+
+QString IntSpinBox::addedText(int steps) const
+{
+    return QLatin1String(steps < 0 ? "-=" : "+=") + QString::number(std::abs(steps));
 }

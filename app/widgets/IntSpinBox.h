@@ -16,10 +16,10 @@ signals:
     void valueEdited(int value);
 
 protected:
-    QString valueText() const override { return QString::number(value()); }
     QString widestText() const override;
-    QString refusalOf(const QString &text) const override;
-    bool read(const QString &text, int &value) const override;
+    QString read(const QString &text, int &value) const override;
     void tell(int value) override { emit valueEdited(value); }
-    bool step(int steps) override;
+    int stepped(int steps) const override;
+    QString textOf(int value) const override { return QString::number(value); }
+    QString addedText(int steps) const override;
 };

@@ -2,9 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "NumberField.h"
 
+#include "NumberText.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QStyleOptionSpinBox>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -37,11 +44,26 @@ bool NumberField::commitText()
 {
     if (isTyping()) {
         const QString text = typedText();
-        refuse(text);
-        if (!isRefused())
-            store(text);
+        Expression expression;
+        if (m_records.calculate && !Expression::isPlain(text) && expression.read(text).isEmpty() &&
+            expression.isRelative()) {
+            refuse(m_records.calculate(expression));
+            if (!isRefused())
+                showValue();
+        } else {
+            refuse(refusalOf(text));
+            if (!isRefused())
+                store(text);
+        }
     }
     return isRefused();
+}
+
+QString NumberField::calculate(const QString &text, double x, const NumberRange &range, double &number) const
+{
+    Expression expression;
+    const QString reason = expression.read(text);
+    return reason.isEmpty() ? range.fit(expression.value({x, 0.0, m_degree}), number) : reason;
 }
 
 void NumberField::discardText()
@@ -94,13 +116,23 @@ NumberField::StepEnabled NumberField::stepEnabled() const
     return (canStep(1) ? StepUpEnabled : StepNone) | (canStep(-1) ? StepDownEnabled : StepNone);
 }
 
-void NumberField::refuse(const QString &text)
+void NumberField::typeSteps(int steps)
 {
-    setRefusal(refusalOf(text), tr("It is not stored; Esc brings %1 back.").arg(valueText()));
+    const bool differ = m_records.differ && m_records.differ();
+    const QString text = steps == 0 ? valueText() : differ ? addedText(steps) : steppedText(steps);
+    lineEdit()->setText(m_prefix + text + m_suffix);
+}
+
+void NumberField::refuse(const QString &reason)
+{
+    setRefusal(reason, tr("It is not stored; Esc brings %1 back.").arg(valueText()));
 }
 
 bool NumberField::canBecomeValue(const QString &text) const
 {
+    Expression expression;
+    if (!Expression::isPlain(text) && !expression.read(text).isEmpty() && expression.isIncomplete())
+        return true;
     // As far as what may follow: a sign, a point or an exponent that a digit still misses.
     const QLatin1String ends[] = {QLatin1String(""), QLatin1String("0"), QLatin1String("9"),
                                   QLatin1String(".9")};
@@ -114,7 +146,61 @@ void NumberField::onTextEdited()
     if (canBecomeValue(text))
         setRefusal({});
     else
-        refuse(text);
+        refuse(refusalOf(text));
+}
+
+// The whole number, unless a part of it is selected.
+void NumberField::copy() const
+{
+    const QString selected = lineEdit()->selectedText();
+    QGuiApplication::clipboard()->setText(selected.isEmpty() ? typedText() : selected);
+}
+
+void NumberField::paste()
+{
+    const QStringList numbers = NumberText::split(QGuiApplication::clipboard()->text());
+    if (!m_records.paste || numbers.size() < 2 || isReadOnly())
+        return lineEdit()->paste();
+    discardText();
+    const QString reason = m_records.paste(numbers);
+    if (!reason.isEmpty())
+        QToolTip::showText(mapToGlobal(rect().bottomLeft()), reason, this);
+}
+
+QMenu *NumberField::createMenu()
+{
+    QMenu *menu = lineEdit()->createStandardContextMenu();
+    QAction *first = menu->actions().value(0);
+    const auto insert = [&](const QString &name, const QString &text, bool enabled, auto slot) {
+        auto *action = new QAction(text, menu);
+        action->setObjectName(name);
+        action->setEnabled(enabled);
+        connect(action, &QAction::triggered, this, slot);
+        menu->insertAction(first, action);
+    };
+    if (m_records.setAll) {
+        insert(QStringLiteral("actionFieldSetAll"), tr("Set &All to This"),
+               !isReadOnly() && m_records.differ(), [this] { m_records.setAll(); });
+        menu->insertSeparator(first);
+    }
+    for (QAction *action : menu->actions()) {
+        const QString name = action->objectName();
+        if (name == QLatin1String("edit-copy") || name == QLatin1String("edit-paste"))
+            menu->removeAction(action);
+    }
+    insert(QStringLiteral("actionFieldCopy"), tr("&Copy"), true, [this] { copy(); });
+    insert(QStringLiteral("actionFieldPaste"), tr("&Paste"),
+           !isReadOnly() && !QGuiApplication::clipboard()->text().isEmpty(), [this] { paste(); });
+    menu->insertSeparator(first)->setObjectName(QLatin1String(ActionBehind));
+    menu->addSeparator();
+    const auto addStep = [this, menu](const QString &title, int steps) {
+        QAction *action = menu->addAction(title);
+        action->setEnabled(!isReadOnly());
+        connect(action, &QAction::triggered, this, [this, steps] { stepBy(steps); });
+    };
+    addStep(tr("&Step up"), 1);
+    addStep(tr("Step &down"), -1);
+    return menu;
 }
 
 bool NumberField::event(QEvent *event)
@@ -134,7 +220,11 @@ void NumberField::keyPressEvent(QKeyEvent *event)
 {
     if (giveUp(event))
         return;
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+    if (event->matches(QKeySequence::Paste)) {
+        paste();
+    } else if (event->matches(QKeySequence::Copy)) {
+        copy();
+    } else if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
         QAbstractSpinBox::keyPressEvent(event);
     } else if (commitText()) {
         tellRefusal();
@@ -142,6 +232,14 @@ void NumberField::keyPressEvent(QKeyEvent *event)
         selectAll();
         event->ignore(); // for the default button of a dialog
     }
+}
+
+void NumberField::contextMenuEvent(QContextMenuEvent *event)
+{
+    QMenu *menu = createMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->popup(event->globalPos());
+    event->accept();
 }
 
 void NumberField::wheelEvent(QWheelEvent *event)
@@ -161,11 +259,11 @@ void NumberField::paintEvent(QPaintEvent *event)
     paintRefusal();
 }
 
-QSize NumberField::sizeHint() const
+QSize NumberField::sizeOf(const QString &text) const
 {
     QStyleOptionSpinBox option;
     initStyleOption(&option);
-    const int width = fontMetrics().horizontalAdvance(m_prefix + widestText() + m_suffix) + 4;
+    const int width = fontMetrics().horizontalAdvance(m_prefix + text + m_suffix) + 4;
     const QSize content(width, lineEdit()->sizeHint().height());
     return style()->sizeFromContents(QStyle::CT_SpinBox, &option, content, this);
 }

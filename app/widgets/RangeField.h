@@ -36,8 +36,11 @@ protected:
         , m_maximum(maximum)
     {}
 
-    /// The number that a text says; false when it says none.
-    virtual bool read(const QString &text, Value &value) const = 0;
+    /// The number that a text says or calculates. Gives the reason why it makes none; empty when it does.
+    virtual QString read(const QString &text, Value &value) const = 0;
+    /// The value that is so many steps away, and its text.
+    virtual Value stepped(int steps) const = 0;
+    virtual QString textOf(Value value) const = 0;
     /// The user has entered another value, or stepped.
     virtual void tell(Value value) = 0;
 
@@ -55,12 +58,20 @@ protected:
     }
     bool isInRange(Value value) const { return value >= m_minimum && value <= m_maximum; }
 
+    QString refusalOf(const QString &text) const override
+    {
+        Value value{};
+        return read(text, value);
+    }
     void store(const QString &text) override
     {
         Value typed{};
-        if (read(text, typed))
+        if (read(text, typed).isEmpty())
             change(typed);
     }
+    QString valueText() const override { return textOf(m_value); }
+    bool step(int steps) override { return change(stepped(steps)); }
+    QString steppedText(int steps) const override { return textOf(stepped(steps)); }
     bool canStep(int direction) const override
     {
         return direction > 0 ? !(m_value >= m_maximum) : !(m_value <= m_minimum);

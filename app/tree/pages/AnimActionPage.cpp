@@ -2,13 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "AnimActionPage.h"
 
-#include "AnimCommands.h"
 #include "EventArguments.h"
 #include "IndexTargets.h"
 #include "NameTables.h"
 #include "Questions.h"
-
-using namespace Parts;
 
 namespace {
 /// Every question, the fitting one (if any) first.
@@ -36,16 +33,13 @@ AnimActionPage::AnimActionPage(ModelDocument<Model> &document, const KVTreeView 
     connect(&mesh, &Document::recordsChanged, this, &AnimActionPage::recordShown);
 
     using Page = AnimActionPage;
-    bind<UC_AnimActionEventType>(m_ui.cbAnimActionEventType, Whole, tr("Key Frame Action Event Type"),
-                                 &Page::OnAnimActionEventTypeChanged);
-    bind<UC_AnimActionFrame>(m_ui.sbAnimActionFrame, Whole, tr("Key Frame Action Frame"),
-                             &Page::OnAnimActionFrameChanged);
-    bind<UC_AnimActionNode>(m_ui.sbAnimActionNode, Whole, tr("Key Frame Action Node"),
-                            &Page::OnAnimActionNodeChanged);
-    bindVector<UC_AnimActionOffset, Page>(tr("Key Frame Action Offset %1"),
-                                          {{m_ui.sbAnimActionOffsetX, &Page::OnAnimActionOffsetXChanged},
-                                           {m_ui.sbAnimActionOffsetY, &Page::OnAnimActionOffsetYChanged},
-                                           {m_ui.sbAnimActionOffsetZ, &Page::OnAnimActionOffsetZChanged}});
+    bind(m_ui.cbAnimActionEventType, Fields::ActionEvent, &Page::OnAnimActionEventTypeChanged);
+    bind(m_ui.sbAnimActionFrame, Fields::ActionFrame, &Page::OnAnimActionFrameChanged);
+    bind(m_ui.sbAnimActionNode, Fields::ActionBone, &Page::OnAnimActionNodeChanged);
+    bindVector<UC_AnimActionOffset, 3, Page>(
+        Fields::ActionOffset, {{{m_ui.sbAnimActionOffsetX, &Page::OnAnimActionOffsetXChanged},
+                                {m_ui.sbAnimActionOffsetY, &Page::OnAnimActionOffsetYChanged},
+                                {m_ui.sbAnimActionOffsetZ, &Page::OnAnimActionOffsetZChanged}}});
     m_arguments = {{{m_ui.lblAnimActionArg1, m_ui.sbAnimActionArg1},
                     {m_ui.lblAnimActionArg2, m_ui.sbAnimActionArg2},
                     {m_ui.lblAnimActionArg3, m_ui.sbAnimActionArg3},
@@ -54,9 +48,10 @@ AnimActionPage::AnimActionPage(ModelDocument<Model> &document, const KVTreeView 
                     {m_ui.lblAnimActionArg6, m_ui.sbAnimActionArg6},
                     {m_ui.lblAnimActionArg7, m_ui.sbAnimActionArg7},
                     {m_ui.lblAnimActionArg8, m_ui.sbAnimActionArg8}}};
-    for (int i = 0; i < int(m_arguments.size()); ++i)
-        bind<UC_AnimActionArgs>(m_arguments[size_t(i)].editor, Component{i}, tr("Key Frame Action Args"),
-                                &Page::OnAnimActionArgsChanged);
+    std::array<QPair<FloatSpinBox *, void (Page::*)()>, 8> editors;
+    for (size_t i = 0; i < editors.size(); ++i)
+        editors[i] = {m_arguments[i].editor, &Page::OnAnimActionArgsChanged};
+    bindVector<UC_AnimActionArgs, 8, Page>(Fields::ActionArgs, editors);
     connect(m_ui.btnAnimActionPositionToBone, &QPushButton::clicked, this, &Page::OnAnimActionPositionToBone);
 }
 
@@ -93,5 +88,5 @@ void AnimActionPage::nameArguments(int eventType)
 void AnimActionPage::OnAnimActionPositionToBone()
 {
     // Offsets are relative to the bone that carries them, whatever its pose: its own place is the origin.
-    edit<UC_AnimActionOffset>(Whole, QVector3D(), tr("Key Frame Action Position To Bone"));
+    edit<UC_AnimActionOffset>(Parts::Whole, QVector3D(), tr("Key Frame Action Position To Bone"));
 }

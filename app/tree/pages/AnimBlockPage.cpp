@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "AnimBlockPage.h"
 
-#include "AnimCommands.h"
 #include "EventArguments.h"
 #include "FrameChoice.h"
 #include "IndexTargets.h"
@@ -10,8 +9,6 @@
 #include "SkinnedMeshCommands.h"
 
 #include <QKeyEvent>
-
-using namespace Parts;
 
 AnimBlockPage::AnimBlockPage(ModelDocument<Model> &document, const KVTreeView &tree,
                              SkinnedMeshDocument &mesh, QWidget *parent)
@@ -25,21 +22,14 @@ AnimBlockPage::AnimBlockPage(ModelDocument<Model> &document, const KVTreeView &t
     m_ui.sbAnimFrameScale->setSingleStep(0.1);
 
     using Page = AnimBlockPage;
-    bind<UC_AnimBlockAnimID>(m_ui.sbAnimAnimID, Whole, tr("Animation AnimID"),
-                             &Page::OnAnimBlockAnimIDChanged);
+    bind(m_ui.sbAnimAnimID, Fields::BlockId, &Page::OnAnimBlockAnimIDChanged);
     bindName();
-    bind<UC_AnimBlockAnimSpeed>(m_ui.sbAnimSpeed, Whole, tr("Animation Speed"),
-                                &Page::OnAnimBlockSpeedChanged);
-    bind<UC_AnimBlockLoopFrame>(m_ui.sbAnimLoopFrame, Whole, tr("Animation Loop Frame"),
-                                &Page::OnAnimBlockLoopFrameChanged);
-    bind<UC_AnimBlockFrameScale>(m_ui.sbAnimFrameScale, Whole, tr("Animation Frame Scale"),
-                                 &Page::OnAnimBlockFrameScaleChanged);
-    bind<UC_AnimBlockBlendLength>(m_ui.sbAnimBlendLength, Whole, tr("Animation Blend Length"),
-                                  &Page::OnAnimBlockBlendLengthChanged);
-    bind<UC_AnimBlockBlendStart>(m_ui.sbAnimBlendStart, Whole, tr("Animation Blend Start"),
-                                 &Page::OnAnimBlockBlendStartChanged);
-    bind<UC_AnimBlockBlendEnd>(m_ui.sbAnimBlendEnd, Whole, tr("Animation Blend End"),
-                               &Page::OnAnimBlockBlendEndChanged);
+    bind(m_ui.sbAnimSpeed, Fields::BlockSpeed, &Page::OnAnimBlockSpeedChanged);
+    bind(m_ui.sbAnimLoopFrame, Fields::BlockLoopFrame, &Page::OnAnimBlockLoopFrameChanged);
+    bind(m_ui.sbAnimFrameScale, Fields::BlockFrameScale, &Page::OnAnimBlockFrameScaleChanged);
+    bind(m_ui.sbAnimBlendLength, Fields::BlockBlendLength, &Page::OnAnimBlockBlendLengthChanged);
+    bind(m_ui.sbAnimBlendStart, Fields::BlockBlendStart, &Page::OnAnimBlockBlendStartChanged);
+    bind(m_ui.sbAnimBlendEnd, Fields::BlockBlendEnd, &Page::OnAnimBlockBlendEndChanged);
 }
 
 /// A name is no field of the block: the mesh has one for each id.

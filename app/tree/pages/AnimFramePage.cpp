@@ -2,11 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "AnimFramePage.h"
 
-#include "AnimCommands.h"
-
 #include <QtMath>
-
-using namespace Parts;
 
 AnimFramePage::AnimFramePage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent)
     : RecordPage(document, tree, tr("Anim %1 - Frame %2 Properties"), parent)
@@ -15,7 +11,7 @@ AnimFramePage::AnimFramePage(ModelDocument<Model> &document, const KVTreeView &t
     m_ui.sbAnimFrameYaw->setSingleStep(0.1);
 
     using Page = AnimFramePage;
-    bind<UC_AnimFrameYaw>(m_ui.sbAnimFrameYaw, Whole, tr("Frame Yaw Offset"), &Page::OnAnimFrameYawChanged);
+    bind(m_ui.sbAnimFrameYaw, Fields::FrameYaw, &Page::OnAnimFrameYawChanged);
 }
 
 void AnimFramePage::recordShown()

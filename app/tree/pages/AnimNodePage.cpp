@@ -2,11 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "AnimNodePage.h"
 
-#include "AnimCommands.h"
 #include "AxisAngle.h"
 #include "IndexTargets.h"
-
-using namespace Parts;
 
 AnimNodePage::AnimNodePage(ModelDocument<Model> &document, const KVTreeView &tree,
                            const SkinnedMeshDocument &mesh, QWidget *parent)
@@ -22,21 +19,17 @@ AnimNodePage::AnimNodePage(ModelDocument<Model> &document, const KVTreeView &tre
     connect(&mesh, &Document::recordsChanged, this, &AnimNodePage::recordShown);
 
     using Page = AnimNodePage;
-    bind<UC_AnimNodeTransIndex>(m_ui.sbAnimNodeTransIndex, Whole, tr("Bone Translation Index"),
-                                &Page::OnAnimNodeTransIndexChanged);
-    bind<UC_AnimNodeRotIndex>(m_ui.sbAnimNodeRotIndex, Whole, tr("Bone Rotation Index"),
-                              &Page::OnAnimNodeRotIndexChanged);
-    bind<UC_AnimNodeInitTrans>(m_ui.sbAnimNodeInitTransX, X, tr("Bone Initial Translation X"),
-                               &Page::OnAnimNodeInitTransXChanged);
-    bind<UC_AnimNodeInitTrans>(m_ui.sbAnimNodeInitTransY, Y, tr("Bone Initial Translation Y"),
-                               &Page::OnAnimNodeInitTransYChanged);
-    bind<UC_AnimNodeInitTrans>(m_ui.sbAnimNodeInitTransZ, Z, tr("Bone Initial Translation Y"),
-                               &Page::OnAnimNodeInitTransZChanged);
-    bindVector<UC_AnimNodeInitRot, Page>(tr("Bone Initial Rotation %1"),
-                                         {{m_ui.sbAnimNodeInitRotX, &Page::OnAnimNodeInitRotXChanged},
-                                          {m_ui.sbAnimNodeInitRotY, &Page::OnAnimNodeInitRotYChanged},
-                                          {m_ui.sbAnimNodeInitRotZ, &Page::OnAnimNodeInitRotZChanged},
-                                          {m_ui.sbAnimNodeInitRotW, &Page::OnAnimNodeInitRotWChanged}});
+    bind(m_ui.sbAnimNodeTransIndex, Fields::BoneTranslationTrack, &Page::OnAnimNodeTransIndexChanged);
+    bind(m_ui.sbAnimNodeRotIndex, Fields::BoneRotationTrack, &Page::OnAnimNodeRotIndexChanged);
+    bindVector<UC_AnimNodeInitTrans, 3, Page>(
+        Fields::BoneInitialPosition, {{{m_ui.sbAnimNodeInitTransX, &Page::OnAnimNodeInitTransXChanged},
+                                       {m_ui.sbAnimNodeInitTransY, &Page::OnAnimNodeInitTransYChanged},
+                                       {m_ui.sbAnimNodeInitTransZ, &Page::OnAnimNodeInitTransZChanged}}});
+    bindVector<UC_AnimNodeInitRot, 4, Page>(Fields::BoneInitialRotation,
+                                            {{{m_ui.sbAnimNodeInitRotX, &Page::OnAnimNodeInitRotXChanged},
+                                              {m_ui.sbAnimNodeInitRotY, &Page::OnAnimNodeInitRotYChanged},
+                                              {m_ui.sbAnimNodeInitRotZ, &Page::OnAnimNodeInitRotZChanged},
+                                              {m_ui.sbAnimNodeInitRotW, &Page::OnAnimNodeInitRotWChanged}}});
 }
 
 void AnimNodePage::recordShown()

@@ -2,10 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "AnimTranslationPage.h"
 
-#include "AnimCommands.h"
-
-using namespace Parts;
-
 AnimTranslationPage::AnimTranslationPage(ModelDocument<Model> &document, const KVTreeView &tree,
                                          QWidget *parent)
     : RecordPage(document, tree, tr("Anim %1 - Translation Track %2 - Frame %3 Properties"), parent)
@@ -13,8 +9,8 @@ AnimTranslationPage::AnimTranslationPage(ModelDocument<Model> &document, const K
     m_ui.setupUi(this);
 
     using Page = AnimTranslationPage;
-    bindVector<UC_AnimTranslation, Page>(tr("Animation Translation %1"),
-                                         {{m_ui.sbAnimTranslationX, &Page::OnAnimTranslationXChanged},
-                                          {m_ui.sbAnimTranslationY, &Page::OnAnimTranslationYChanged},
-                                          {m_ui.sbAnimTranslationZ, &Page::OnAnimTranslationZChanged}});
+    bindVector<UC_AnimTranslation, 3, Page>(Fields::TranslationKey,
+                                            {{{m_ui.sbAnimTranslationX, &Page::OnAnimTranslationXChanged},
+                                              {m_ui.sbAnimTranslationY, &Page::OnAnimTranslationYChanged},
+                                              {m_ui.sbAnimTranslationZ, &Page::OnAnimTranslationZChanged}}});
 }

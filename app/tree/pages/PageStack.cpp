@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "PageStack.h"
 
+#include "AxisRow.h"
+#include "LabelDrag.h"
+#include "NumberField.h"
+
 #include <QEvent>
 #include <QFormLayout>
 #include <QLabel>
@@ -48,9 +52,42 @@ QString selectedText(RecordKind kind, int count)
         return {};
     }
 }
-/// Lets a field that does not fit beside its label go below it, whatever the font and the width.
+
+/// What a form has in a row beside a caption: a field, or a layout with one and what belongs to it.
+NumberField *numberIn(QLayoutItem *item)
+{
+    if (item->layout())
+        item = item->layout()->itemAt(0);
+    return item ? qobject_cast<NumberField *>(item->widget()) : nullptr;
+}
+
+/// Lets the fields of a vector, which the page's form has below one another, stand in a row.
+void makeAxisRow(QFormLayout *form, int row)
+{
+    QLayoutItem *item = form->itemAt(row, QFormLayout::FieldRole);
+    auto *lines = item ? qobject_cast<QFormLayout *>(item->layout()) : nullptr;
+    if (!lines)
+        return;
+    auto *axes = new AxisRow;
+    while (lines->rowCount() > 0) {
+        const QFormLayout::TakeRowResult line = lines->takeRow(0);
+        auto *axis = static_cast<QLabel *>(line.labelItem->widget());
+        auto *field = static_cast<NumberField *>(line.fieldItem->widget());
+        axes->addItem(line.labelItem);
+        axes->addItem(line.fieldItem);
+        LabelDrag::install(axis, field);
+    }
+    form->removeItem(item);
+    delete item; // the empty layout
+    form->setLayout(row, QFormLayout::FieldRole, axes);
+}
+
+/// Lets a field that does not fit beside its label go below it, whatever the font and the width. All groups
+/// have their labels in one column.
 void arrangeForms(const QWidget &page)
 {
+    QVector<QLabel *> captions;
+    int column = 0;
     for (QFormLayout *form : page.findChildren<QFormLayout *>()) {
         form->setRowWrapPolicy(QFormLayout::WrapLongRows);
         form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
@@ -59,15 +96,20 @@ void arrangeForms(const QWidget &page)
             auto *caption = captionItem ? qobject_cast<QLabel *>(captionItem->widget()) : nullptr;
             if (!caption)
                 continue;
+            captions.append(caption);
             // An underlined letter is drawn without kerning, which the label's width leaves out of account.
-            if (caption->buddy())
-                caption->setMinimumWidth(caption->sizeHint().width() + caption->fontMetrics().height() / 8);
-            // What captions several lines stands at the first of them.
+            const int drawn = caption->buddy() ? caption->fontMetrics().height() / 8 : 0;
+            column = std::max(column, caption->sizeHint().width() + drawn);
             QLayoutItem *field = form->itemAt(row, QFormLayout::FieldRole);
-            if (const auto *lines = qobject_cast<QFormLayout *>(field->layout()))
-                caption->setMaximumHeight(lines->itemAt(0, QFormLayout::FieldRole)->sizeHint().height());
+            // What captions several lines stands at the first of them.
+            if (const auto *axes = qobject_cast<AxisRow *>(field->layout()))
+                caption->setMaximumHeight(axes->itemAt(1)->sizeHint().height());
+            else if (NumberField *number = numberIn(field))
+                LabelDrag::install(caption, number);
         }
     }
+    for (QLabel *caption : captions)
+        caption->setMinimumWidth(column);
 }
 } // namespace
 
@@ -113,6 +155,11 @@ void PageStack::refresh()
 
 void PageStack::addPage(PropertyPage *page)
 {
+    for (QWidget *group : page->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+        auto *form = qobject_cast<QFormLayout *>(group->layout());
+        for (int row = 0; form && row < form->rowCount(); ++row)
+            makeAxisRow(form, row);
+    }
     arrangeForms(*page);
     auto *scroll = new QScrollArea(m_pages);
     scroll->setFocusPolicy(Qt::NoFocus); // its editors have the keys
@@ -158,6 +205,7 @@ void PageStack::showRecord(const RecordRef &record)
             continue;
         const QVector<RecordIndex> selected = m_tree->selectedRecords(record.kind);
         page->showRecord(record.index, selected);
+        arrangeForms(*page); // captions may say something else
         m_title->setText(page->title());
         const QString count = selectedText(record.kind, selected.size());
         m_count->setText(page->showsDifferences() ? tr("%1; values in italics differ").arg(count) : count);

@@ -6,8 +6,6 @@
 
 #include <QEvent>
 
-#include <limits>
-
 PropertyPage::PropertyPage(RecordKind kind, const QString &title, QWidget *parent)
     : QWidget(parent)
     , m_kind(kind)
@@ -63,17 +61,14 @@ void PropertyPage::commit(const QWidget *editor)
     }
 }
 
-void PropertyPage::setUpMaterialEditor(TextField *editor)
+QString PropertyPage::recordRefusal(const QString &record, const QString &reason)
 {
-    // A longer path in a file must not be cut by being shown.
-    editor->setMaxLength(std::numeric_limits<int>::max());
-    editor->setCheck([](const QString &text) {
-        const auto *other = std::find_if(text.begin(), text.end(),
-                                         [](QChar c) { return c.unicode() < 1 || c.unicode() > 0xff; });
-        return other == text.end()
-                   ? QString()
-                   : tr("The file format cannot hold '%1': only characters of Latin-1.").arg(*other);
-    });
+    return tr("Of %1: %2").arg(record, reason);
+}
+
+QString PropertyPage::tooManyNumbers(int numbers, int fields)
+{
+    return tr("%1 numbers do not fit into %2 fields.").arg(numbers).arg(fields);
 }
 
 bool PropertyPage::eventFilter(QObject *watched, QEvent *event)

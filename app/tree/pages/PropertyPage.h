@@ -4,8 +4,12 @@
 
 #include "Document.h"
 #include "Editors.h"
+#include "Expression.h"
+#include "Fields.h"
 #include "Italics.h"
 #include "KVTreeView.h"
+#include "NumberText.h"
+#include "RecordFields.h"
 
 #include <QWidget>
 
@@ -43,8 +47,8 @@ signals:
     void told(const QString &text);
 
 protected:
-    /// Prepares an editor of a material path: files hold Latin-1, so nothing else is stored.
-    static void setUpMaterialEditor(TextField *editor);
+    static QString recordRefusal(const QString &record, const QString &reason);
+    static QString tooManyNumbers(int numbers, int fields);
 
     /// Called after the editors were filled, for what depends on them.
     virtual void recordShown() {}
@@ -96,34 +100,42 @@ protected:
         return RecordType::find(m_document.model(), index());
     }
 
-    /// One row of the page: the editor, the command that stores its field, the part of the field that it
-    /// edits, the name of the undo step, and the slot that its edits go to. The step is a macro over all
-    /// selected records of the kind; fields of the whole document have none and take their command's name.
-    template <typename Command, typename Editor, typename Part, typename Page>
-    void bind(Editor *editor, const Part &part, const QString &macroText, void (Page::*slot)())
+    /// One row of the page: the editor, the field that it stands for, one of Fields, and the slot that its
+    /// edits go to. The step is a macro over all selected records of the kind; fields of the whole document
+    /// have none and take their command's name.
+    template <typename Row, typename Editor, typename Page>
+    void bind(Editor *editor, const Row &row, void (Page::*slot)())
     {
+        using Command = typename Row::Command;
+        const auto part = row.part;
         const auto show = [this, editor, part] {
             if (const auto *shown = record())
                 Editors::show(editor, part.get(Command::Field::get(*shown)));
         };
-        const auto commitEdit = [this, editor, part, macroText] {
-            commitEditor<Command>(editor, part, macroText);
+        const auto commitEdit = [this, editor, part, step = row.stepText()] {
+            commitEditor<Command>(editor, part, step);
         };
         const auto mark = [this, editor, part](const QVector<RecordIndex> &others) {
             return markEditor<Command>(editor, part, others);
         };
         addBinding({editor, show, commitEdit, mark});
+        prepare(editor, row);
         Editors::onEdited(editor, static_cast<Page *>(this), slot);
     }
 
-    /// The rows of a vector's components, in their order; the axis is %1 in the name of the undo step.
-    template <typename Command, typename Page>
-    void bindVector(const QString &macroText, const QVector<QPair<FloatSpinBox *, void (Page::*)()>> &rows)
+    /// The rows of a vector's components, in their order.
+    template <typename Command, int Size, typename Page>
+    void bindVector(const VectorRow<Command, Size> &rows,
+                    const std::array<QPair<FloatSpinBox *, void (Page::*)()>, Size> &editors)
     {
-        for (int i = 0; i < rows.size(); ++i) {
-            const QString axis(QLatin1Char("XYZW"[i]));
-            bind<Command>(rows[i].first, Parts::Component{i},
-                          QString(macroText).replace(QLatin1String("%1"), axis), rows[i].second);
+        for (int i = 0; i < Size; ++i) {
+            FloatSpinBox *editor = editors[size_t(i)].first;
+            bind(editor, rows[i], editors[size_t(i)].second);
+            FieldRecords records = editor->records();
+            records.paste = [this, i](const QStringList &numbers) {
+                return pasteVector<Command, Size>(numbers, i);
+            };
+            editor->setRecords(std::move(records));
         }
     }
 
@@ -141,6 +153,14 @@ protected:
         if (part.get(Command::Field::get(*shown)) == wanted)
             return;
 
+        const auto change = [&](auto &value) { part.set(value, wanted); };
+        editAll<Command>(change, macroText);
+    }
+
+    /// Changes a field of every selected record of the kind, as one undo step.
+    template <typename Command, typename Change>
+    void editAll(const Change &change, const QString &macroText)
+    {
         // What is highlighted is edited, and nothing else.
         const QVector<RecordIndex> records = m_tree.selectedRecords(RecordType::kind);
         if (records.isEmpty())
@@ -150,7 +170,7 @@ protected:
             stack->beginMacro(macroText);
         for (const RecordIndex &target : records) {
             auto value = Command::Field::get(*RecordType::find(m_document.model(), target));
-            part.set(value, wanted);
+            change(value);
             stack->push(new Command(m_document.editTarget(), target, value));
         }
         if (!macroText.isEmpty())
@@ -161,15 +181,19 @@ private:
     template <typename Command, typename Editor, typename Part>
     bool markEditor(Editor *editor, const Part &part, const QVector<RecordIndex> &others)
     {
+        const bool isMarked = differs<Command>(part, others);
+        setItalic(editor, isMarked);
+        return isMarked;
+    }
+    template <typename Command, typename Part>
+    bool differs(const Part &part, const QVector<RecordIndex> &others) const
+    {
         const auto *shown = record();
-        const bool differs =
-            shown && std::any_of(others.begin(), others.end(), [&](const RecordIndex &other) {
-                const auto *record = RecordType::find(m_document.model(), other);
-                return record &&
-                       !isSame(part.get(Command::Field::get(*record)), part.get(Command::Field::get(*shown)));
-            });
-        setItalic(editor, differs);
-        return differs;
+        return shown && std::any_of(others.begin(), others.end(), [&](const RecordIndex &other) {
+                   const auto *record = RecordType::find(m_document.model(), other);
+                   return record && !isSame(part.get(Command::Field::get(*record)),
+                                            part.get(Command::Field::get(*shown)));
+               });
     }
     /// Each flag by itself.
     template <typename Command, typename Part>
@@ -205,6 +229,87 @@ private:
     {
         const Parts::MaskedBits bits{editor->editedBits()};
         edit<Command>(bits, bits.get(editor->value()), macroText);
+    }
+
+    template <typename Editor, typename Row>
+    void prepare(Editor *editor, const Row &row)
+    {
+        const auto &field =
+            static_cast<const ModelField<Model> &>(*RecordFields::find(RecordType::kind, row.id()));
+        if constexpr (std::is_same_v<Editor, TextField>) {
+            editor->setCheck([&field](const QString &text) {
+                FieldValue value;
+                return field.parse(text, {}, 0, value);
+            });
+        }
+        if constexpr (std::is_base_of_v<NumberField, Editor>) {
+            FieldRecords records;
+            if (row.step) {
+                const auto part = row.part;
+                records.differ = [this, editor, part] {
+                    return differs<typename Row::Command>(part, m_tree.selectedRecords(RecordType::kind));
+                };
+                records.setAll = [this, part, step = row.stepText()] {
+                    if (const auto *shown = record()) {
+                        const auto wanted = part.get(Row::Command::Field::get(*shown));
+                        editAll<typename Row::Command>([&](auto &value) { part.set(value, wanted); }, step);
+                    }
+                };
+            }
+            records.calculate = [this, &field](const Expression &expression) {
+                return calculate(field, expression);
+            };
+            editor->setRecords(std::move(records));
+            editor->setDegree(field.degree());
+        }
+        if constexpr (std::is_same_v<Editor, IntSpinBox>) {
+            editor->setMinimum(int(field.range().least));
+            editor->setMaximum(int(field.range().most));
+        }
+    }
+
+    /// Changes every selected record by its own number, or none: then it gives the reason.
+    QString calculate(const ModelField<Model> &field, const Expression &expression)
+    {
+        const QVector<RecordIndex> records = m_tree.selectedRecords(RecordType::kind);
+        QVector<FieldChange> changes;
+        changes.reserve(records.size());
+        for (const RecordIndex &index : records) {
+            FieldValue value;
+            const QString reason =
+                field.calculate(expression, field.value(model(), index), changes.size(), value);
+            if (!reason.isEmpty())
+                return records.size() == 1 ? reason
+                                           : recordRefusal(m_tree.label({RecordType::kind, index}), reason);
+            changes.append({&field, index, std::move(value)});
+        }
+        RecordFields::change(changes, field.stepText(), m_document.editTarget(), *m_document.undoStack());
+        return {};
+    }
+
+    /// Gives a vector of every selected record several numbers at once: all of its components, or as many as
+    /// there are from one on.
+    template <typename Command, int Size>
+    QString pasteVector(const QStringList &numbers, int from)
+    {
+        const int first = numbers.size() == Size ? 0 : from;
+        if (first + numbers.size() > Size)
+            return tooManyNumbers(numbers.size(), Size - first);
+        if (!record())
+            return {};
+        const auto change = [&](auto &value) {
+            for (int i = 0; i < numbers.size(); ++i) {
+                float number = 0.0f;
+                if (NumberText::parse(numbers[i], number))
+                    Parts::Component{first + i}.set(value, number);
+            }
+        };
+        auto pasted = Command::Field::get(*record());
+        change(pasted);
+        if (pasted != Command::Field::get(*record()) ||
+            differs<Command>(Parts::Whole, m_tree.selectedRecords(RecordType::kind)))
+            editAll<Command>(change, QCoreApplication::translate("UndoCommands", Command::undoText));
+        return {};
     }
 
     ModelDocument<Model> &m_document;

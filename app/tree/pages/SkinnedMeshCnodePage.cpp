@@ -3,9 +3,6 @@
 #include "SkinnedMeshCnodePage.h"
 
 #include "IndexTargets.h"
-#include "SkinnedMeshCommands.h"
-
-using namespace Parts;
 
 SkinnedMeshCnodePage::SkinnedMeshCnodePage(ModelDocument<Model> &document, const KVTreeView &tree,
                                            QWidget *parent)
@@ -14,7 +11,7 @@ SkinnedMeshCnodePage::SkinnedMeshCnodePage(ModelDocument<Model> &document, const
     m_ui.setupUi(this);
 
     using Page = SkinnedMeshCnodePage;
-    bind<UC_SkinnedMeshCnode>(m_ui.sbCNIIndex, Whole, tr("Child Bone Index"), &Page::OnSkinMeshCnodeChanged);
+    bind(m_ui.sbCNIIndex, Fields::ChildBone, &Page::OnSkinMeshCnodeChanged);
 }
 
 void SkinnedMeshCnodePage::recordShown()

@@ -3,9 +3,6 @@
 #include "SkinnedMeshPage.h"
 
 #include "IndexTargets.h"
-#include "SkinnedMeshCommands.h"
-
-using namespace Parts;
 
 SkinnedMeshPage::SkinnedMeshPage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent)
     : RecordPage(document, tree, tr("Skinned Mesh"), parent)
@@ -13,15 +10,17 @@ SkinnedMeshPage::SkinnedMeshPage(ModelDocument<Model> &document, const KVTreeVie
     m_ui.setupUi(this);
 
     using Page = SkinnedMeshPage;
-    bindVector<UC_SkinnedMeshBBMin, Page>({}, {{m_ui.sbSMBBMinX, &Page::OnSkinMeshBBMinXChanged},
+    bindVector<UC_SkinnedMeshBBMin, 3, Page>(Fields::MeshBoxMin,
+                                             {{{m_ui.sbSMBBMinX, &Page::OnSkinMeshBBMinXChanged},
                                                {m_ui.sbSMBBMinY, &Page::OnSkinMeshBBMinYChanged},
-                                               {m_ui.sbSMBBMinZ, &Page::OnSkinMeshBBMinZChanged}});
-    bindVector<UC_SkinnedMeshBBMax, Page>({}, {{m_ui.sbSMBBMaxX, &Page::OnSkinMeshBBMaxXChanged},
+                                               {m_ui.sbSMBBMinZ, &Page::OnSkinMeshBBMinZChanged}}});
+    bindVector<UC_SkinnedMeshBBMax, 3, Page>(Fields::MeshBoxMax,
+                                             {{{m_ui.sbSMBBMaxX, &Page::OnSkinMeshBBMaxXChanged},
                                                {m_ui.sbSMBBMaxY, &Page::OnSkinMeshBBMaxYChanged},
-                                               {m_ui.sbSMBBMaxZ, &Page::OnSkinMeshBBMaxZChanged}});
-    bind<UC_SkinnedMeshHTStart>(m_ui.sbSMHTStart, Whole, {}, &Page::OnSkinMeshHTStartChanged);
-    bind<UC_SkinnedMeshHTEnd>(m_ui.sbSMHTEnd, Whole, {}, &Page::OnSkinMeshHTEndChanged);
-    bind<UC_SkinnedMeshHTFactor>(m_ui.sbSMHTFactor, Whole, {}, &Page::OnSkinMeshHTFactorChanged);
+                                               {m_ui.sbSMBBMaxZ, &Page::OnSkinMeshBBMaxZChanged}}});
+    bind(m_ui.sbSMHTStart, Fields::HeadTrackStart, &Page::OnSkinMeshHTStartChanged);
+    bind(m_ui.sbSMHTEnd, Fields::HeadTrackEnd, &Page::OnSkinMeshHTEndChanged);
+    bind(m_ui.sbSMHTFactor, Fields::HeadTrackFactor, &Page::OnSkinMeshHTFactorChanged);
 }
 
 void SkinnedMeshPage::recordShown()

@@ -2,23 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "SurfacePage.h"
 
-#include "SkinnedMeshCommands.h"
-#include "StaticMeshCommands.h"
-
-using namespace Parts;
-
 SkinnedMeshSurfacePage::SkinnedMeshSurfacePage(ModelDocument<Model> &document, const KVTreeView &tree,
                                                QWidget *parent)
     : SurfacePage(document, tree, parent)
 {
-    bind<UC_SkinnedMeshSurfaceMaterial>(m_ui.txtSurfaceMaterial, Whole, tr("Surface Material"),
-                                        &SkinnedMeshSurfacePage::OnSkinMeshSurfaceMaterialChanged);
+    bind(m_ui.txtSurfaceMaterial, Fields::SkinnedMaterial,
+         &SkinnedMeshSurfacePage::OnSkinMeshSurfaceMaterialChanged);
 }
 
 StaticMeshSurfacePage::StaticMeshSurfacePage(ModelDocument<Model> &document, const KVTreeView &tree,
                                              QWidget *parent)
     : SurfacePage(document, tree, parent)
 {
-    bind<UC_StaticMeshSurfaceMaterial>(m_ui.txtSurfaceMaterial, Whole, tr("Surface Material"),
-                                       &StaticMeshSurfacePage::OnStaticMeshSurfaceMaterialChanged);
+    bind(m_ui.txtSurfaceMaterial, Fields::StaticMaterial,
+         &StaticMeshSurfacePage::OnStaticMeshSurfaceMaterialChanged);
 }

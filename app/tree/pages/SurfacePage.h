@@ -5,6 +5,8 @@
 #include "PropertyPage.h"
 #include "ui_SurfacePage.h"
 
+#include <limits>
+
 /// The fields of a surface, of either kind of mesh.
 template <typename RecordType>
 class SurfacePage : public RecordPage<RecordType>
@@ -14,7 +16,8 @@ protected:
         : RecordPage<RecordType>(document, tree, PropertyPage::tr("Surface %1 Properties"), parent)
     {
         m_ui.setupUi(this);
-        PropertyPage::setUpMaterialEditor(m_ui.txtSurfaceMaterial);
+        // A longer path in a file must not be cut by being shown.
+        m_ui.txtSurfaceMaterial->setMaxLength(std::numeric_limits<int>::max());
     }
 
     void recordShown() override

@@ -11,17 +11,19 @@ template <typename RecordType>
 class TriIndexPage : public RecordPage<RecordType>
 {
 protected:
-    /// `last`: the largest index that a file can hold.
-    TriIndexPage(ModelDocument<typename RecordType::Model> &document, const KVTreeView &tree, int last,
-                 QWidget *parent)
+    TriIndexPage(ModelDocument<typename RecordType::Model> &document, const KVTreeView &tree, QWidget *parent)
         : RecordPage<RecordType>(document, tree,
                                  PropertyPage::tr("Surface %1 - Triangle Index %2 Properties"), parent)
     {
         m_ui.setupUi(this);
-        m_ui.sbTIIndex->setMaximum(last);
+    }
+
+    void tellRange()
+    {
         for (QWidget *widget :
              {static_cast<QWidget *>(m_ui.lblTIIndex), static_cast<QWidget *>(m_ui.sbTIIndex)})
-            widget->setToolTip(PropertyPage::tr("Vertex at this corner of the triangle (0 to %1)").arg(last));
+            widget->setToolTip(PropertyPage::tr("Vertex at this corner of the triangle (0 to %1)")
+                                   .arg(m_ui.sbTIIndex->maximum()));
     }
 
     void recordShown() override

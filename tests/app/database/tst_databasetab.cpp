@@ -208,7 +208,7 @@ private slots:
         whole.reset();
         real.reset();
         for (const auto &each : menus)
-            each->actions().first()->trigger();
+            each->actions().at(3)->trigger();
         QTRY_COMPARE(m_errors,
                      QStringList({"Failed to check Spinbox ID", "Failed to check DoubleSpinbox ID"}));
     }
@@ -232,10 +232,11 @@ private:
         QContextMenuEvent event(QContextMenuEvent::Mouse, centre, editor->mapToGlobal(centre));
         QApplication::sendEvent(editor->findChild<QLineEdit *>(), &event);
         auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        // What every number field offers comes below the questions.
-        if (!menu || menu->actions().size() < 9 || !menu->actions().at(2)->isSeparator())
+        // Copy and Paste come above the questions, what else every number field offers below.
+        if (!menu || menu->actions().size() < 12 || !menu->actions().at(2)->isSeparator() ||
+            !menu->actions().at(5)->isSeparator())
             return {};
-        QAction *action = menu->actions().at(question);
+        QAction *action = menu->actions().at(3 + question);
         const QString text = action->text();
         const Hand hand({Hand::press(QMessageBox::Ok)});
         menu->setActiveAction(action);

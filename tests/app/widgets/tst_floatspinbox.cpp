@@ -4,6 +4,7 @@
 #include "Find.h"
 #include "FloatSpinBox.h"
 #include "IntSpinBox.h"
+#include "NumberText.h"
 #include "SampleModels.h"
 
 #include <cstring>
@@ -25,12 +26,12 @@ private slots:
             if (!std::isfinite(value))
                 continue;
             float back = 0.0f;
-            const QString text = FloatSpinBox::textOf(value);
-            if (!FloatSpinBox::parse(text, back) || toBits(back) != toBits(value))
+            const QString text = NumberText::text(value);
+            if (!NumberText::parse(text, back) || toBits(back) != toBits(value))
                 QFAIL(qPrintable(text));
         }
-        QCOMPARE(FloatSpinBox::textOf(0.1f), QStringLiteral("0.1"));
-        QCOMPARE(FloatSpinBox::textOf(-250.0f), QStringLiteral("-250"));
+        QCOMPARE(NumberText::text(0.1f), QStringLiteral("0.1"));
+        QCOMPARE(NumberText::text(-250.0f), QStringLiteral("-250"));
     }
 
     void showingChangesNothing()
@@ -93,11 +94,18 @@ private slots:
         check(FloatSpinBox(), std::numeric_limits<float>::quiet_NaN(), "3", 3.0f);
         check(FloatSpinBox(), 1.0f, "1e39", 1.0f, "1e39"); // too large for a float
         check(FloatSpinBox(), 1.0f, "inf", 1.0f, "inf");
-        check(FloatSpinBox(), 1.0f, "=2*3", 1.0f, "=2*3");
+        check(FloatSpinBox(), 1.0f, "=2*3", 6.0f);
+        check(FloatSpinBox(), 0.1f, "*=3", 0.3f);
+        check(FloatSpinBox(), 1.0f, "=1/(x-x)", 1.0f, "=1/(x-x)");
+        check(FloatSpinBox(), 1.0f, "2*1e38*10", 1.0f, "2*1e38*10");
+        check(FloatSpinBox(), 1.0f, "2*y", 1.0f, "2*y");
         check(*real(1e-6, 1e6), 1.0f, "2.5", 2.5f);
         check(*real(1e-6, 1e6), 1.0f, "0,01", 0.01f);
         check(*real(1e-6, 1e6), 1.0f, "1.0000000001", 1.0f);
         check(*real(1e-6, 1e6), 1.0f, "-5", 1.0f, "-5");
+        check(*real(1e-6, 1e6), 1.0f, "1/3", 0.333333f);
+        check(*real(0.1, 4), 1.0f, "3*2", 1.0f, "3*2");
+        check(*real(0.1, 4), 1.0f, "1/10", 0.1f);
         check(*real(0.1, 4), 1.0f, "1.000,5", 1.0f, "1.000,5");
         const auto whole = [](int most) {
             auto box = std::make_unique<IntSpinBox>();
@@ -107,7 +115,11 @@ private slots:
         check(*whole(255), 7, "30", 30);
         check(*whole(255), 7, " +4", 4);
         check(*whole(65535), 7, "1000", 1000);
-        for (const char *typed : {"300", "-5", "1.9", "1,000", "=2*3", "0x10", "99999999999"})
+        check(*whole(255), 7, "=x*2+1", 15);
+        check(*whole(255), 7, "0,1*30", 3);
+        check(*whole(65535), 7, "0xFFFF", 65535);
+        for (const char *typed :
+             {"300", "-5", "1.9", "1,000", "99999999999", "0x100", "+=250", "x/2", "/=0", "2x"})
             check(*whole(255), 7, typed, 7, typed);
         QLocale::setDefault(QLocale::c());
 
@@ -115,6 +127,12 @@ private slots:
         FloatSpinBox box;
         type(box, QStringLiteral("1e-"));
         QVERIFY(!box.isRefused() && box.value() == 0.0f);
+        for (const char *begun : {"2*", "(7", "*", "p", "=", "+=0x"}) {
+            type(box, QString::fromLatin1(begun));
+            QVERIFY2(!box.isRefused(), begun);
+            QTest::keyClick(&box, Qt::Key_Return);
+            QVERIFY2(box.isRefused() && box.value() == 0.0f, begun);
+        }
     }
 
     void stepping()

@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "FieldCommand.h"
+#include "FieldParts.h"
+#include "NumberRange.h"
+
+#include <QStringList>
+
+/// What a field is to those who show it, beside its type.
+struct FieldTraits
+{
+    /// The names of its numbers, from 0; null where they have none.
+    QStringList (*names)() = nullptr;
+    /// The largest number that a file can hold, where that is less than the type's.
+    int most = 0;
+    /// It is an angle in degrees.
+    bool inDegrees = false;
+    /// Its bits are what counts.
+    bool isFlags = false;
+    /// A text that a file stores, which has only characters of Latin-1.
+    bool isLatin1 = false;
+};
+
+/// One field of one kind of record: the command that stores it and the part of the command's value that it
+/// is.
+template <typename CommandType, typename PartType>
+struct FieldRow
+{
+    using Command = CommandType;
+    using Value = decltype(std::declval<PartType>().get(std::declval<typename Command::Value &>()));
+
+    /// Which never changes: for files and other programs. A part of a vector has its own letter behind it.
+    const char *key;
+    /// For people, in the context RecordFields.
+    const char *title;
+    /// What an edit of several records is called, in the same context; null for what a model has once, whose
+    /// edit is called as its command.
+    const char *step;
+    PartType part{};
+    FieldTraits traits{};
+    /// The component that it is: X to W, or a digit; 0 for none. The letter stands in its names.
+    char axis = '\0';
+    /// The same in the name of its step.
+    char stepAxis = '\0';
+
+    QString stepText() const
+    {
+        if (!step)
+            return {};
+        QString text = QCoreApplication::translate("RecordFields", step);
+        return stepAxis ? text.replace(QLatin1String("%1"), QString(QLatin1Char(stepAxis))) : text;
+    }
+    QString titleText() const
+    {
+        const QString text = QCoreApplication::translate("RecordFields", title);
+        return axis ? text + QLatin1Char(' ') + QLatin1Char(axis) : text;
+    }
+    QString id() const
+    {
+        const QString name = QString::fromLatin1(key);
+        if (!axis)
+            return name;
+        const QLatin1Char letter(axis);
+        return QChar(letter).isDigit() ? name + letter : name + QLatin1Char('.') + QChar(letter).toLower();
+    }
+};
+
+/// The fields that a vector's or an array's components are. In the name of the undo step %1 is the axis.
+template <typename CommandType, int Size>
+struct VectorRow
+{
+    using Command = CommandType;
+    static constexpr int size = Size;
+
+    const char *key;
+    const char *title;
+    const char *step;
+    const char *axes = "XYZW";
+    const char *stepAxes = "XYZW";
+
+    constexpr FieldRow<CommandType, Parts::Component> operator[](int i) const
+    {
+        return {key, title, step, {i}, {}, axes[i], stepAxes[i]};
+    }
+};

@@ -1,0 +1,262 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "RecordFields.h"
+
+#include "Expression.h"
+#include "Fields.h"
+#include "NameTables.h"
+#include "NumberText.h"
+
+#include <QHash>
+#include <QUndoStack>
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+
+QStringList Fields::boneTypes()
+{
+    return boneTypeNames();
+}
+
+QStringList Fields::sides()
+{
+    return {QCoreApplication::translate("RecordFields", "Left"),
+            QCoreApplication::translate("RecordFields", "Right")};
+}
+
+QStringList Fields::impactTypes()
+{
+    return impactTypeNames();
+}
+
+QStringList Fields::eventTypes()
+{
+    return eventTypeNames();
+}
+
+namespace {
+template <typename Value>
+FieldValue untyped(const Value &value)
+{
+    if constexpr (std::is_same_v<Value, QString>)
+        return value;
+    else
+        return double(value);
+}
+
+template <typename Row>
+class FieldOfRow final : public ModelField<typename Row::Command::Model>
+{
+    using Command = typename Row::Command;
+    using Place = typename Command::Place;
+    using Model = typename Command::Model;
+    using Value = std::decay_t<typename Row::Value>;
+
+public:
+    explicit FieldOfRow(const Row &row)
+        : m_row(row)
+    {
+        this->m_kind = Place::kind;
+        this->m_id = row.id();
+        this->m_title = row.titleText();
+        this->m_stepText = row.stepText();
+        this->m_degree = row.traits.inDegrees ? 1.0 : Expression::Radian;
+        this->m_isFlags = row.traits.isFlags;
+        this->m_isLatin1 = row.traits.isLatin1;
+        this->m_names = row.traits.names;
+        if constexpr (std::is_same_v<Value, QString>) {
+            this->m_type = RecordField::Type::Text;
+        } else if constexpr (std::is_same_v<Value, bool>) {
+            this->m_type = RecordField::Type::Switch;
+            this->m_range = {0.0, 1.0, true};
+        } else if constexpr (std::is_floating_point_v<Value>) {
+            this->m_type = RecordField::Type::Real;
+            this->m_range = NumberRange::ofFloats();
+        } else {
+            this->m_range = NumberRange::of<Value>();
+            if (row.traits.most > 0)
+                this->m_range = {0.0, double(row.traits.most), true};
+        }
+    }
+
+    FieldValue value(const Model &model, const RecordIndex &index) const override
+    {
+        // Records are found in models that may be changed; this one is only read.
+        const auto *record = Place::find(const_cast<Model &>(model), index);
+        return record ? untyped(m_row.part.get(Command::Field::get(*record))) : FieldValue();
+    }
+
+    QUndoCommand *command(EditTarget<Model> target, const RecordIndex &index,
+                          const FieldValue &value) const override
+    {
+        const auto *record = Place::find(target.model, index);
+        if (!record)
+            return nullptr;
+        auto field = Command::Field::get(*record);
+        if constexpr (std::is_same_v<Value, QString>)
+            m_row.part.set(field, std::get<QString>(value));
+        else
+            m_row.part.set(field, Value(std::get<double>(value)));
+        return new Command(target, index, field);
+    }
+
+private:
+    const Row m_row;
+};
+
+struct FieldLists
+{
+    FieldLists()
+    {
+        std::apply([this](const auto &...rows) { (add(rows), ...); }, Fields::all);
+    }
+
+    template <typename Command, typename Part>
+    void add(const FieldRow<Command, Part> &row)
+    {
+        owned.push_back(std::make_unique<FieldOfRow<FieldRow<Command, Part>>>(row));
+        byKind[int(Command::Place::kind)].append(owned.back().get());
+    }
+    template <typename Command, int Size>
+    void add(const VectorRow<Command, Size> &rows)
+    {
+        for (int i = 0; i < Size; ++i)
+            add(rows[i]);
+    }
+
+    std::vector<std::unique_ptr<RecordField>> owned;
+    QHash<int, QVector<const RecordField *>> byKind;
+};
+
+const FieldLists &fieldLists()
+{
+    static const FieldLists lists; // after the translators were installed
+    return lists;
+}
+
+QString plainName(const QString &name)
+{
+    QString plain;
+    for (const QChar c : name) {
+        if (c.isLetterOrNumber())
+            plain += c.toLower();
+    }
+    return plain;
+}
+
+bool isSameValue(const FieldValue &a, const FieldValue &b)
+{
+    const auto *x = std::get_if<double>(&a);
+    const auto *y = std::get_if<double>(&b);
+    // -0 is another float than 0.
+    return a == b && (!x || !y || std::signbit(*x) == std::signbit(*y));
+}
+
+template <typename Model>
+bool changeModel(const QVector<FieldChange> &changes, const QString &stepText, EditTarget<Model> target,
+                 QUndoStack &stack)
+{
+    const auto fieldOf = [](const FieldChange &change) {
+        return static_cast<const ModelField<Model> *>(change.field);
+    };
+    const bool isChange = std::any_of(changes.begin(), changes.end(), [&](const FieldChange &each) {
+        return !isSameValue(fieldOf(each)->value(target.model, each.index), each.value);
+    });
+    if (!isChange)
+        return false;
+    if (!stepText.isEmpty())
+        stack.beginMacro(stepText);
+    for (const FieldChange &each : changes) {
+        if (QUndoCommand *command = fieldOf(each)->command(target, each.index, each.value))
+            stack.push(command);
+    }
+    if (!stepText.isEmpty())
+        stack.endMacro();
+    return true;
+}
+} // namespace
+
+QString RecordField::text(const FieldValue &value) const
+{
+    if (const auto *text = std::get_if<QString>(&value))
+        return *text;
+    const auto *number = std::get_if<double>(&value);
+    if (!number)
+        return {};
+    return m_type == Type::Real ? NumberText::text(float(*number)) : QString::number(qint64(*number));
+}
+
+QString RecordField::parse(const QString &text, const FieldValue &old, int place, FieldValue &value) const
+{
+    if (m_type == Type::Text) {
+        const auto *other = std::find_if(text.begin(), text.end(),
+                                         [](QChar c) { return c.unicode() < 1 || c.unicode() > 0xff; });
+        if (m_isLatin1 && other != text.end())
+            return QCoreApplication::translate(
+                       "RecordFields", "The file format cannot hold '%1': only characters of Latin-1.")
+                .arg(*other);
+        value = text;
+        return {};
+    }
+    float plain = 0.0f;
+    if (m_type == Type::Real && NumberText::parse(text, plain)) {
+        value = double(plain);
+        return {};
+    }
+    const int named = names().indexOf(text.trimmed());
+    if (named >= 0) {
+        value = double(named);
+        return {};
+    }
+    Expression expression;
+    const QString reason = expression.read(text);
+    return reason.isEmpty() ? calculate(expression, old, place, value) : reason;
+}
+
+QString RecordField::calculate(const Expression &expression, const FieldValue &old, int place,
+                               FieldValue &value) const
+{
+    const auto *number = std::get_if<double>(&old);
+    const double x = !number ? 0.0 : m_type == Type::Real ? NumberText::written(float(*number)) : *number;
+    double result = 0.0;
+    const QString reason = m_range.fit(expression.value({x, double(place), m_degree}), result);
+    if (reason.isEmpty())
+        value = result;
+    return reason;
+}
+
+const QVector<const RecordField *> &RecordFields::of(RecordKind kind)
+{
+    static const QVector<const RecordField *> none;
+    const auto found = fieldLists().byKind.constFind(int(kind));
+    return found == fieldLists().byKind.constEnd() ? none : *found;
+}
+
+const RecordField *RecordFields::find(RecordKind kind, const QString &name)
+{
+    const QString wanted = plainName(name);
+    for (const RecordField *field : of(kind)) {
+        if (plainName(field->id()) == wanted || plainName(field->title()) == wanted)
+            return field;
+    }
+    return nullptr;
+}
+
+bool RecordFields::change(const QVector<FieldChange> &changes, const QString &stepText,
+                          EditTarget<SkinnedMesh> target, QUndoStack &stack)
+{
+    return changeModel(changes, stepText, target, stack);
+}
+
+bool RecordFields::change(const QVector<FieldChange> &changes, const QString &stepText,
+                          EditTarget<AnimFile> target, QUndoStack &stack)
+{
+    return changeModel(changes, stepText, target, stack);
+}
+
+bool RecordFields::change(const QVector<FieldChange> &changes, const QString &stepText,
+                          EditTarget<StaticMesh> target, QUndoStack &stack)
+{
+    return changeModel(changes, stepText, target, stack);
+}

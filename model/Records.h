@@ -76,7 +76,8 @@ int recordCount(const AnimFile &file, RecordKind kind, const RecordIndex &index)
 int recordCount(const StaticMesh &mesh, RecordKind kind, const RecordIndex &index);
 
 /// Where the records of one kind live: the model, the record type, the kind code, and how to find a record.
-/// find() returns null for a record that does not exist (any more).
+/// find() returns null for a record that does not exist (any more). What comes of a model that is not to be
+/// changed is not to be changed either.
 namespace Records {
 
 template <typename List>
@@ -92,7 +93,11 @@ struct Root
     using Model = ModelType;
     using Record = ModelType;
     static constexpr RecordKind kind = Kind;
-    static Record *find(Model &model, const RecordIndex &) { return &model; }
+    template <typename AnyModel>
+    static auto *find(AnyModel &model, const RecordIndex &)
+    {
+        return &model;
+    }
 };
 
 /// The elements of a list of the model.
@@ -107,8 +112,16 @@ struct ListRecord<List, Kind>
     static constexpr RecordKind kind = Kind;
     /// Which of the indexes counts the list.
     static constexpr size_t component = 0;
-    static std::vector<Record> *list(Model &model, const RecordIndex &) { return &(model.*List); }
-    static Record *find(Model &model, const RecordIndex &index) { return element(model.*List, index[0]); }
+    template <typename AnyModel>
+    static auto *list(AnyModel &model, const RecordIndex &)
+    {
+        return &(model.*List);
+    }
+    template <typename AnyModel>
+    static auto *find(AnyModel &model, const RecordIndex &index)
+    {
+        return element(model.*List, index[0]);
+    }
 };
 
 /// The elements of a list of another record.
@@ -120,12 +133,14 @@ struct NestedRecord
     static constexpr RecordKind kind = Kind;
     static constexpr size_t component = 1;
     /// The list of the owner that `index` names; null when there is no such owner.
-    static std::vector<Record> *list(Model &model, const RecordIndex &index)
+    template <typename AnyModel>
+    static auto *list(AnyModel &model, const RecordIndex &index)
     {
         auto *owner = Owner::find(model, index);
         return owner ? &(owner->*List) : nullptr;
     }
-    static Record *find(Model &model, const RecordIndex &index)
+    template <typename AnyModel>
+    static auto *find(AnyModel &model, const RecordIndex &index)
     {
         auto *records = list(model, index);
         return records ? element(*records, index[1]) : nullptr;
@@ -139,7 +154,8 @@ struct TrackKey
     using Model = typename Owner::Model;
     using Record = std::decay_t<decltype((std::declval<typename Owner::Record>().*Table).at(0, 0))>;
     static constexpr RecordKind kind = Kind;
-    static Record *find(Model &model, const RecordIndex &index)
+    template <typename AnyModel>
+    static auto *find(AnyModel &model, const RecordIndex &index)
     {
         auto *owner = Owner::find(model, index);
         return owner && (owner->*Table).contains(index[1], index[2]) ? &(owner->*Table).at(index[1], index[2])

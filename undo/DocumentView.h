@@ -22,14 +22,32 @@ class DocumentView
 public:
     virtual ~DocumentView() = default;
 
+    /// Comes before each change of the model: who reads it in another thread is done with it afterwards.
+    virtual void aboutToChange() = 0;
     virtual void recordChanged(const RecordRef &record) = 0;
     virtual void structureChanged(const StructureChange &change) = 0;
 };
 
 /// The document that a command edits: its current model, and the screen to tell. Both outlive the command.
 template <typename Model>
-struct EditTarget
+class EditTarget
 {
-    Model &model;
-    DocumentView &view;
+public:
+    EditTarget(Model &model, DocumentView &view)
+        : m_model(model)
+        , m_view(view)
+    {}
+
+    const Model &model() const { return m_model; }
+    /// The model, to be changed now.
+    Model &edit() const
+    {
+        m_view.aboutToChange();
+        return m_model;
+    }
+    DocumentView &view() const { return m_view; }
+
+private:
+    Model &m_model;
+    DocumentView &m_view;
 };

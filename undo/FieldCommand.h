@@ -61,7 +61,7 @@ public:
         , m_index(index)
         , m_new(std::move(value))
     {
-        if (const auto *record = Place::find(target.model, index))
+        if (const auto *record = Place::find(target.model(), index))
             m_old = Field::get(*record);
     }
 
@@ -71,9 +71,9 @@ public:
 private:
     void apply(const Value &value)
     {
-        if (auto *record = Place::find(m_target.model, m_index)) {
+        if (auto *record = Place::find(m_target.edit(), m_index)) {
             Field::set(*record, value);
-            m_target.view.recordChanged({Place::kind, m_index});
+            m_target.view().recordChanged({Place::kind, m_index});
         }
     }
 

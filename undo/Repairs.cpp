@@ -88,7 +88,7 @@ QVector4D normalised(const QVector4D &rotation)
 template <typename Command>
 void setRotation(Step &step, EditTarget<AnimFile> target, const RecordIndex &index, Rule rule)
 {
-    if (const auto *record = Command::Place::find(target.model, index)) {
+    if (const auto *record = Command::Place::find(target.model(), index)) {
         const QVector4D rotation = Command::Field::get(*record);
         step.push(new Command(target, index,
                               rule == Rule::QuaternionZero ? QVector4D(0.0f, 0.0f, 0.0f, 1.0f)
@@ -101,7 +101,7 @@ int repair(Rule rule, std::vector<RecordRef> places, EditTarget<SkinnedMesh> tar
 {
     if (places.empty())
         return 0;
-    SkinnedMesh &mesh = target.model;
+    const SkinnedMesh &mesh = target.model();
     // From the last to the first, so that an entry that goes does not renumber those that are to go still.
     std::sort(places.begin(), places.end(),
               [](const RecordRef &a, const RecordRef &b) { return a.index > b.index; });
@@ -173,7 +173,7 @@ int repair(Rule rule, const std::vector<RecordRef> &places, EditTarget<AnimFile>
             break;
         case Rule::LoopFrameBeyondEnd:
             // An animation without frames has no last one: -1 is 65535, none.
-            if (const AnimBlock *block = Records::element(target.model.blocks, index[0]))
+            if (const AnimBlock *block = Records::element(target.model().blocks, index[0]))
                 step.push(new UC_AnimBlockLoopFrame(target, index, quint16(block->frameCount() - 1)));
             break;
         default:
@@ -185,7 +185,7 @@ int repair(Rule rule, const std::vector<RecordRef> &places, EditTarget<AnimFile>
 
 int repair(Rule rule, const std::vector<RecordRef> &places, EditTarget<StaticMesh> target, QUndoStack &stack)
 {
-    const auto box = meshBox(target.model);
+    const auto box = meshBox(target.model());
     if (places.empty() || rule != Rule::BoxInverted || !box)
         return 0;
     Step step(stack, rule, places.size());

@@ -24,7 +24,7 @@ public:
         , m_target(target)
         , m_model(std::move(model))
     {
-        m_model.bytesBehind = target.model.bytesBehind; // they are the file's
+        m_model.bytesBehind = target.model().bytesBehind; // they are the file's
     }
 
     void undo() override { exchange(); }
@@ -33,8 +33,8 @@ public:
 private:
     void exchange()
     {
-        std::swap(m_target.model, m_model);
-        m_target.view.structureChanged({{Place::kind, {}}, 0, {}});
+        std::swap(m_target.edit(), m_model);
+        m_target.view().structureChanged({{Place::kind, {}}, 0, {}});
     }
 
     EditTarget<Model> m_target;

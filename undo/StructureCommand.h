@@ -31,7 +31,7 @@ protected:
 
     void insert()
     {
-        auto *list = RecordType::list(m_target.model, m_index);
+        auto *list = RecordType::list(m_target.edit(), m_index);
         if (m_held && list && position() >= 0 && size_t(position()) <= list->size()) {
             list->insert(list->begin() + position(), std::move(m_record));
             m_held = false;
@@ -41,7 +41,7 @@ protected:
 
     void remove()
     {
-        auto *list = RecordType::list(m_target.model, m_index);
+        auto *list = RecordType::list(m_target.edit(), m_index);
         if (m_held || !list || !Records::element(*list, position()))
             return;
         m_record = std::move((*list)[size_t(position())]);
@@ -63,7 +63,7 @@ private:
 
     void notify(int added, const RecordRef &select)
     {
-        m_target.view.structureChanged({{RecordType::kind, m_index}, added, select});
+        m_target.view().structureChanged({{RecordType::kind, m_index}, added, select});
     }
 
     EditTarget<Model> m_target;

@@ -55,12 +55,13 @@ TransformCommand<RecordType>::TransformCommand(EditTarget<Model> target, Model t
 template <typename RecordType>
 void TransformCommand<RecordType>::exchange()
 {
-    m_target.model.vertices.swap(m_vertices);
-    const std::vector<QVector3D *> current = corners(m_target.model);
+    Model &model = m_target.edit();
+    model.vertices.swap(m_vertices);
+    const std::vector<QVector3D *> current = corners(model);
     const size_t count = std::min(current.size(), m_corners.size());
     for (size_t i = 0; i < count; ++i)
         std::swap(*current[i], m_corners[i]);
-    m_target.view.recordChanged({Place::kind, {}});
+    m_target.view().recordChanged({Place::kind, {}});
 }
 
 template SkinnedMesh rotated(SkinnedMesh, float, float, float);

@@ -52,7 +52,7 @@ public:
 
     RotateCommand(EditTarget<Model> target, float pitch, float roll, float yaw,
                   QUndoCommand *parent = nullptr)
-        : TransformCommand<RecordType>(target, rotated(target.model, pitch, roll, yaw), Command::undoText,
+        : TransformCommand<RecordType>(target, rotated(target.model(), pitch, roll, yaw), Command::undoText,
                                        parent)
     {}
 };
@@ -65,6 +65,6 @@ public:
     using typename TransformCommand<RecordType>::Model;
 
     ScaleCommand(EditTarget<Model> target, float factor, QUndoCommand *parent = nullptr)
-        : TransformCommand<RecordType>(target, scaled(target.model, factor), Command::undoText, parent)
+        : TransformCommand<RecordType>(target, scaled(target.model(), factor), Command::undoText, parent)
     {}
 };

@@ -329,7 +329,6 @@ void ModelDocument<Model>::takeModel(LoadedFile &file)
 {
     auto &loaded = static_cast<LoadedModel<Model> &>(file);
     m_fresh = std::move(loaded.model);
-    m_freshCopy = std::move(loaded.copy);
     m_names = std::move(loaded.names);
 }
 
@@ -352,14 +351,14 @@ bool ModelDocument<Model>::readDraft(const QByteArray &bytes, const QString &pat
 }
 
 template <typename Model>
-Document::Writer ModelDocument<Model>::writer(const QString &path) const
+Document::Writer ModelDocument<Model>::writer(const QString &path)
 {
     auto file = std::make_shared<SavedFile>();
     file->path = path;
     file->names = m_names;
     file->change = change();
-    return [file, model = std::make_shared<const Model>(m_model)] {
-        writeSaved(*file, *model);
+    return [file, model = copy()] {
+        writeSaved(*file, model->get());
         return file;
     };
 }
@@ -367,9 +366,9 @@ Document::Writer ModelDocument<Model>::writer(const QString &path) const
 template <typename Model>
 void ModelDocument<Model>::takeNames(const NamesFile &names)
 {
+    aboutToChange();
     m_names = names;
     m_model.bytesBehind = 0;
-    m_copy.reset();
 }
 
 template <typename Model>
@@ -382,17 +381,20 @@ QString ModelDocument<Model>::replacedBeside(const QString &path) const
 }
 
 template <typename Model>
-std::vector<uchar> ModelDocument<Model>::draft() const
+Document::Drafter ModelDocument<Model>::drafter()
 {
-    BinaryFileWriter writer(roughBytes(m_model) + 64 * 1024);
-    m_model.writeDraft(writer);
-    std::vector<uchar> bytes = writer.takeBytes();
-    if constexpr (std::is_same_v<Model, SkinnedMesh>) {
-        const ModelNames names = ModelNames::of(m_model);
-        const QByteArray json = names.isEmpty() ? QByteArray() : names.toJson();
-        bytes.insert(bytes.end(), json.begin(), json.end());
-    }
-    return bytes;
+    return [copied = copy()] {
+        const Model &model = copied->get();
+        BinaryFileWriter writer(roughBytes(model) + 64 * 1024);
+        model.writeDraft(writer);
+        std::vector<uchar> bytes = writer.takeBytes();
+        if constexpr (std::is_same_v<Model, SkinnedMesh>) {
+            const ModelNames names = ModelNames::of(model);
+            const QByteArray json = names.isEmpty() ? QByteArray() : names.toJson();
+            bytes.insert(bytes.end(), json.begin(), json.end());
+        }
+        return bytes;
+    };
 }
 
 template class ModelDocument<SkinnedMesh>;

@@ -7,6 +7,7 @@
 #include "DocumentKind.h"
 #include "DocumentView.h"
 #include "LoadedModel.h"
+#include "ModelCopy.h"
 #include "NamesFile.h"
 #include "Records.h"
 
@@ -68,11 +69,13 @@ public:
     /// The two halves of that. What writes has a copy of the model and may be called in any thread, once; the
     /// document goes on as it is until it is told of a success. What was changed meanwhile stays unsaved.
     using Writer = std::function<std::shared_ptr<SavedFile>()>;
-    virtual Writer writer(const QString &path) const = 0;
+    virtual Writer writer(const QString &path) = 0;
     void noteSaved(const SavedFile &file);
-    /// The bytes that save() would write, or, of a model that cannot be saved as it stands, the nearest ones
-    /// that can be read back. Names that would go into a file of their own follow behind.
-    virtual std::vector<uchar> draft() const = 0;
+    /// Gives the bytes that save() would write now, or, of a model that cannot be saved as it stands, the
+    /// nearest ones that can be read back, in any thread. Names that would go into a file of their own follow
+    /// behind.
+    using Drafter = std::function<std::vector<uchar>()>;
+    virtual Drafter drafter() = 0;
     /// Lets a model that was kept as bytes replace the current one. It counts as modified until it is saved;
     /// `path` is its file, which was as `stamp` says when the model was read from it, `unsavedName` what it
     /// is called without one. Returns true on failure.
@@ -139,8 +142,8 @@ protected:
     void replace(const QString &path, const QString &unsavedName, const FileStamp &stamp = {});
     /// Takes the new model out of what reader() gave.
     virtual void takeModel(LoadedFile &file) = 0;
-    /// Reads a new model beside the current one out of what draft() gave, of a document whose file is `path`;
-    /// returns true on failure.
+    /// Reads a new model beside the current one out of what drafter() gave, of a document whose file is
+    /// `path`; returns true on failure.
     virtual bool readDraft(const QByteArray &bytes, const QString &path) = 0;
     virtual void adoptModel() = 0;
     /// Takes over what is known of the names beside the model that was written.
@@ -172,24 +175,34 @@ class ModelDocument : public Document
 public:
     using Document::Document;
 
-    Model &model() { return m_model; }
+    ~ModelDocument() override { ModelDocument::aboutToChange(); }
+
     const Model &model() const { return m_model; }
     QString refusal() const override { return m_model.refusal(); }
-    std::vector<uchar> draft() const override;
+    Drafter drafter() override;
     EditTarget<Model> editTarget() { return {m_model, *this}; }
+    /// Whoever was promised a copy of the model as it is has it afterwards.
+    void aboutToChange() override
+    {
+        if (const auto promised = m_promised.lock())
+            promised->get();
+        m_promised.reset();
+    }
 
     Reader reader(const QString &path) const override;
-    Writer writer(const QString &path) const override;
+    Writer writer(const QString &path) override;
     /// What is to be made of each model that is read. Called before, it gives what is then called with the
     /// model in the thread that reads.
     using Preparation = std::function<typename LoadedModel<Model>::Prepare()>;
     void setPreparation(Preparation preparation) { m_preparation = std::move(preparation); }
 
-    /// The model as it is now, for any thread. The thread that has read a file makes the first one, too.
-    std::shared_ptr<const Model> copy()
+    /// The model as it is now; one for all who ask until it changes.
+    std::shared_ptr<ModelCopy<Model>> copy()
     {
-        const std::shared_ptr<const Model> ready = std::exchange(m_copy, nullptr);
-        return ready && m_copied == change() ? ready : std::make_shared<const Model>(m_model);
+        std::shared_ptr<ModelCopy<Model>> promised = m_promised.lock();
+        if (!promised)
+            m_promised = promised = std::make_shared<ModelCopy<Model>>(m_model);
+        return promised;
     }
 
     /// Takes over a model that has no file yet; `name`, without extension, is what it would be saved as.
@@ -213,19 +226,16 @@ protected:
     bool readDraft(const QByteArray &bytes, const QString &path) override;
     void adoptModel() override
     {
+        aboutToChange();
         Background::discard(std::exchange(m_model, std::exchange(m_fresh, Model())));
-        m_copy = std::exchange(m_freshCopy, nullptr);
-        m_copied = change();
     }
     void takeNames(const NamesFile &names) override;
 
 private:
     Model m_model;
     Model m_fresh;
-    std::shared_ptr<const Model> m_freshCopy; ///< of m_fresh, where there is one
-    std::shared_ptr<const Model> m_copy;      ///< of m_model as it was after the change m_copied
-    int m_copied = 0;
-    NamesFile m_names; ///< of a skinned mesh
+    std::weak_ptr<ModelCopy<Model>> m_promised; ///< of m_model as it is
+    NamesFile m_names;                          ///< of a skinned mesh
     Preparation m_preparation;
 };
 

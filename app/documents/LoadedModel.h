@@ -20,8 +20,7 @@ struct LoadedModel : LoadedFile
     using Prepare = std::function<std::any(const Model &, const ReadProgress &)>;
 
     Model model;
-    std::shared_ptr<const Model> copy; ///< see ModelDocument::copy()
-    NamesFile names;                   ///< of a skinned mesh
+    NamesFile names; ///< of a skinned mesh
 
     /// `prepare`, if given, makes what is prepared.
     void read(const QString &from, const Prepare &prepare, ReadProgress &progress)
@@ -38,8 +37,6 @@ struct LoadedModel : LoadedFile
             complete();
         if (!isFailed && prepare && !progress.isCancelled)
             prepared = prepare(model, progress);
-        if (!isFailed && !progress.isCancelled)
-            copy = std::make_shared<const Model>(model);
         lines = log.lines;
     }
 

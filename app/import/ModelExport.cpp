@@ -232,17 +232,15 @@ void ModelExport::exportGltf(const std::vector<int> &blocks, const QString &titl
                             animated ? &m_anim.model() : nullptr);
     std::atomic_int percent{0};
     // The thread works on models of its own: what is open may be replaced meanwhile.
-    auto work = [=, &percent, skinned = isStatic ? SkinnedMesh() : m_skinnedMesh.model(),
-                 anim = animated ? m_anim.model() : AnimFile(),
-                 rigid =
-                     isStatic ? m_staticMesh.model() : StaticMesh()](const Background::Cancelled &cancelled) {
+    auto work = [=, &percent, skinned = m_skinnedMesh.copy(), anim = m_anim.copy(),
+                 rigid = m_staticMesh.copy()](const Background::Cancelled &cancelled) {
         GltfOutcome outcome;
         GltfSource from = source;
         from.isCancelled = [&cancelled] { return cancelled.load(); };
         from.tellDone = [&percent](double done) { percent = int(done * PercentOfContent); };
-        const GltfWriter content =
-            isStatic ? ::exportGltf(rigid, from, outcome.messages)
-                     : ::exportGltf(skinned, animated ? &anim : nullptr, blocks, from, outcome.messages);
+        const GltfWriter content = isStatic ? ::exportGltf(rigid->get(), from, outcome.messages)
+                                            : ::exportGltf(skinned->get(), animated ? &anim->get() : nullptr,
+                                                           blocks, from, outcome.messages);
         percent = PercentOfContent;
         if (!cancelled && !outcome.messages.hasError())
             outcome.files.emplace(content, path);

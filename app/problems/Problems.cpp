@@ -93,7 +93,7 @@ void Problems::check()
     begun.start();
     for (const DocumentKind &kind : documentKinds()) {
         bool &isStale = m_isStale[size_t(kind.type)];
-        // The copy of a large model takes its time: the next one is another turn's.
+        // A large model's problems are waited for in vain: the next one is another turn's.
         if (isStale && begun.elapsed() > MostInATurnMs) {
             QTimer::singleShot(0, this, &Problems::check);
             return;
@@ -123,19 +123,19 @@ std::function<std::vector<Finding>()> Problems::checkNow(DocumentType type) cons
     switch (type) {
     case DocumentType::SkinnedMesh:
         return
-            [model = m_skinnedMesh.copy(), folders, ids = m_ids] { return validate(*model, folders, ids); };
+            [model = m_skinnedMesh.copy(), folders, ids = m_ids] { return validate(model->get(), folders, ids); };
     case DocumentType::Anim: {
         // Of the mesh the animations' checks want to know how many bones it has.
         SkinnedMesh bones;
         bones.nodes.resize(m_skinnedMesh.model().nodes.size());
         return [model = m_anim.copy(), bones, isKnown = m_skinnedMesh.isOpen(), ids = m_ids] {
-            return validate(*model, isKnown ? &bones : nullptr, ids);
+            return validate(model->get(), isKnown ? &bones : nullptr, ids);
         };
     }
     case DocumentType::StaticMesh:
         break;
     }
-    return [model = m_staticMesh.copy(), folders] { return validate(*model, folders); };
+    return [model = m_staticMesh.copy(), folders] { return validate(model->get(), folders); };
 }
 
 std::vector<RecordRef> Problems::repairable(DocumentType type, Rule rule) const

@@ -103,7 +103,7 @@ void Recovery::keep(Track &track)
     Snapshot snapshot{track.file, document.kind().type, document.path(), document.fileName(),
                       QDateTime::currentDateTime()};
     snapshot.stamp = document.fileStamp();
-    m_store.keep(snapshot, document.draft(), open);
+    m_store.keep(snapshot, document.drafter(), open);
 }
 
 void Recovery::forget(Track &track)

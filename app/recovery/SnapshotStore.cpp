@@ -214,17 +214,17 @@ void SnapshotStore::run(const std::function<void()> &job)
     }));
 }
 
-void SnapshotStore::keep(const Snapshot &snapshot, std::vector<uchar> model, const QSet<QString> &spared)
+void SnapshotStore::keep(const Snapshot &snapshot, std::function<std::vector<uchar>()> model,
+                         const QSet<QString> &spared)
 {
     if (m_folder.isEmpty())
         return;
-    const auto bytes = std::make_shared<const std::vector<uchar>>(std::move(model));
     const QString path = pathOf(snapshot.file);
     m_last = std::max(QDateTime::currentMSecsSinceEpoch(), m_last + 1);
     Snapshot kept = snapshot;
     kept.sequence = m_last;
-    run([this, kept, bytes, path, spared] {
-        const QString reason = SnapshotFile::write(path, kept, *bytes);
+    run([this, kept, model = std::move(model), path, spared] {
+        const QString reason = SnapshotFile::write(path, kept, model());
         if (reason.isEmpty())
             removeOldest(m_folder, spared);
         else

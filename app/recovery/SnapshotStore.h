@@ -10,6 +10,7 @@
 #include <QVector>
 
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -43,9 +44,9 @@ public:
 
     /// A name that no snapshot of any program has.
     QString newFile(DocumentType type);
-    /// Keeps a model under `snapshot.file`, in place of what is kept there, with the next sequence. Then the
+    /// Keeps a model, whose bytes `model` gives in another thread, under `snapshot.file`, in place of what is kept there, with the next sequence. Then the
     /// oldest of more than MostKept snapshots go, those of `spared` aside.
-    void keep(const Snapshot &snapshot, std::vector<uchar> model, const QSet<QString> &spared);
+    void keep(const Snapshot &snapshot, std::function<std::vector<uchar>()> model, const QSet<QString> &spared);
     void remove(const QString &file);
     /// Whether files wait to be written.
     bool isBusy() const { return m_jobs > 0; }

@@ -360,7 +360,7 @@ void StructureActions::editCount(RecordKind group, const QString &title, const Q
     if (dialog.exec() != QDialog::Accepted || dialog.size() == count)
         return;
     // Not an undo step, on purpose. Commands on the stack leave records alone that are gone.
-    AnimBlock *block = Records::Block::find(m_anim.document.model(), current.index);
+    AnimBlock *block = Records::Block::find(m_anim.document.editTarget().edit(), current.index);
     (block->*resize)(dialog.size());
     m_anim.document.changedDirectly({{RecordKind::AnimBlock, current.index}, 0, current});
     m_anim.tree->findItem(current)->setExpanded(true);

@@ -68,9 +68,9 @@ Document &Checks::document(DocumentType type) const
     return *m_files->document(type);
 }
 
-QByteArray Checks::bytesOf(const Document &document)
+QByteArray Checks::bytesOf(Document &document)
 {
-    const std::vector<uchar> bytes = document.draft();
+    const std::vector<uchar> bytes = document.drafter()();
     return QByteArray(reinterpret_cast<const char *>(bytes.data()), int(bytes.size()));
 }
 
@@ -86,7 +86,7 @@ QStringList Checks::findings() const
     QStringList titles{QStringLiteral("Korvane")};
     for (const DocumentKind &kind : documentKinds()) {
         checkTree(kind.type, found);
-        const Document &each = document(kind.type);
+        Document &each = document(kind.type);
         const Track &track = m_tracks[size_t(kind.type)];
         if (each.isOpen() && !each.differsFromFile() && !track.direct && bytesOf(each) != track.kept)
             found += QStringLiteral("%1 counts as saved and is something else").arg(kind.label);

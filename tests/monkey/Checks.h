@@ -39,7 +39,7 @@ private:
         bool direct = false;
     };
 
-    static QByteArray bytesOf(const Document &document);
+    static QByteArray bytesOf(Document &document);
     KVTreeView *tree(DocumentType type) const;
     void checkTree(DocumentType type, QStringList &found) const;
 

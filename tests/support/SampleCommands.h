@@ -15,6 +15,7 @@ namespace SampleCommands {
 /// Shows nothing.
 struct BlindView : DocumentView
 {
+    void aboutToChange() override {}
     void recordChanged(const RecordRef &) override {}
     void structureChanged(const StructureChange &) override {}
 };
@@ -67,7 +68,7 @@ inline constexpr bool isReplacement =
 
 /// A record of the kind, not the first where there is a choice.
 template <typename RecordType>
-RecordIndex someIndex(typename RecordType::Model &model)
+RecordIndex someIndex(const typename RecordType::Model &model)
 {
     for (const int owner : {1, 0, 2, 3, 4, 5}) {
         for (RecordIndex index :
@@ -114,14 +115,14 @@ Command *make(EditTarget<typename Command::Model> target, const RecordIndex &ind
 {
     if constexpr (isField<Command>) {
         return new Command(target, index,
-                           other(Command::Field::get(*Command::Place::find(target.model, index))));
+                           other(Command::Field::get(*Command::Place::find(target.model(), index))));
     } else if constexpr (isInsertion<Command>()) {
-        const auto &list = *Command::Place::list(target.model, index);
+        const auto &list = *Command::Place::list(target.model(), index);
         return new Command(target, index, list.empty() ? typename Command::Record() : list.back());
     } else if constexpr (isStructure<Command>) {
         return new Command(target, index);
     } else if constexpr (isReplacement<Command>) {
-        auto model = target.model;
+        auto model = target.model();
         model.version = other(model.version);
         return new Command(target, model, QStringLiteral("a.glb"));
     } else if constexpr (std::is_constructible_v<Command, EditTarget<typename Command::Model>, float>) {

@@ -12,8 +12,10 @@ using SampleModels::bytesOf;
 namespace {
 struct RecordingView : DocumentView
 {
+    void aboutToChange() override { isAnnounced = true; }
     void recordChanged(const RecordRef &record) override { records.append(record); }
     void structureChanged(const StructureChange &change) override { structures.append(change); }
+    bool isAnnounced = false;
     QVector<RecordRef> records;
     QVector<StructureChange> structures;
 };
@@ -44,10 +46,12 @@ void checkAt(typename Command::Model model, const RecordIndex &index)
     const QByteArray before = bytesOf(model);
     auto *command = make<Command>({model, view}, index);
     QCOMPARE(bytesOf(model), before);
+    QVERIFY(!view.isAnnounced);
     QCOMPARE(command->text(), QString::fromLatin1(Command::undoText).replace("%1", "a.glb"));
     stack.push(command);
     const QByteArray after = bytesOf(model);
     QVERIFY(after != before);
+    QVERIFY(view.isAnnounced);
     if constexpr (isField<Command>) {
         if (after.size() == before.size())
             QVERIFY(differentBytes(before, after) <= int(sizeof(typename Command::Value)));

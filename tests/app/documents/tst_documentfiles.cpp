@@ -257,7 +257,7 @@ private slots:
 
         // What is kept of unsaved work has them, and a file that it never had gets them.
         rename("skull");
-        const std::vector<uchar> kept = run.mesh.draft();
+        const std::vector<uchar> kept = run.mesh.drafter()();
         const QByteArray draft(reinterpret_cast<const char *>(kept.data()), int(kept.size()));
         run.openMesh(path);
         QVERIFY(!run.mesh.restore(draft, path, {}, run.mesh.fileStamp()));

@@ -160,7 +160,7 @@ private slots:
         Snapshot old = m_run->recovery->snapshots().value(0);
         QVERIFY(old.stamp.exists());
         old.stamp = {};
-        m_run->recovery->store().keep(old, m_run->mesh.draft(), {});
+        m_run->recovery->store().keep(old, m_run->mesh.drafter(), {});
         restore(true);
         // What is changed after the restoring is told of.
         writeWithFactor(3);

@@ -20,12 +20,12 @@ int main(int argc, char *argv[])
     SnapshotStore store(QString::fromLocal8Bit(argv[2]));
     const QString file = store.newFile(DocumentType::SkinnedMesh);
     for (int round = 1;; ++round) {
-        document.model().headTrackFactor = qint8(round % 100);
+        document.editTarget().edit().headTrackFactor = qint8(round % 100);
         std::printf("%d\n", round);
         std::fflush(stdout);
         // Both at a time, as in the program.
         store.keep({file, DocumentType::SkinnedMesh, path, document.fileName(), QDateTime::currentDateTime()},
-                   document.draft(), {});
+                   document.drafter(), {});
         if (document.save(path))
             return 1;
         store.waitForDone();

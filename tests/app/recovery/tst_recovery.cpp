@@ -63,7 +63,7 @@ private slots:
         check("changed without an undo step, then edited and undone", "walk.anim", [this](OneRun &run) {
             run.anim.take(twoBlocks(), QStringLiteral("x"));
             QVERIFY(!run.anim.save(m_folder->path(QStringLiteral("walk.anim"))));
-            run.anim.model().blocks[0].setFrameCount(40);
+            run.anim.editTarget().edit().blocks[0].setFrameCount(40);
             run.anim.changedDirectly({{RecordKind::AnimBlock, {}}, 0, {}});
             run.anim.undoStack()->push(new UC_AnimBlockAnimID(run.anim.editTarget(), {}, 9));
             run.anim.undoStack()->undo();
@@ -187,7 +187,7 @@ private slots:
         {
             OneRun run(root());
             run.openMesh(manPath());
-            run.mesh.model().surfaces[0].triangleIndexes[1] = SkinnedMesh::IndexTerminator;
+            run.mesh.editTarget().edit().surfaces[0].triangleIndexes[1] = SkinnedMesh::IndexTerminator;
             run.edit(7);
             run.settle();
         }
@@ -317,7 +317,8 @@ private slots:
         for (int i = 0; i <= SnapshotStore::MostKept; ++i) {
             const QDateTime time = before.addDays(-1 - i);
             const QString file = store.newFile(DocumentType::SkinnedMesh);
-            store.keep({file, DocumentType::SkinnedMesh, {}, QString::number(i), time}, {1}, {});
+            store.keep({file, DocumentType::SkinnedMesh, {}, QString::number(i), time},
+                       [] { return std::vector<uchar>{1}; }, {});
             store.waitForDone();
             QFile written(kept().filter(file).value(0));
             QVERIFY(written.open(QIODevice::ReadWrite));

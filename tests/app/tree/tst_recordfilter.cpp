@@ -103,7 +103,8 @@ private slots:
         QCOMPARE(pane.tree.findItem(action)->record(), action);
 
         // A block is taken out before it.
-        pane.document.model().blocks.erase(pane.document.model().blocks.begin());
+        std::vector<AnimBlock> &blocks = pane.document.editTarget().edit().blocks;
+        blocks.erase(blocks.begin());
         pane.document.changedDirectly({{RecordKind::AnimBlock, {0}}, -1, {RecordKind::AnimFile, {}}});
         const RecordRef moved{RecordKind::AnimAction, {0, 2}};
         QCOMPARE(pane.tree.findItem(moved)->record(), moved);

@@ -204,6 +204,8 @@ int main(int argc, char **argv)
         "upload_64_alike", 2.0, 5,
         [&] {
             painter.setModel(alike);
+            while (painter.model().uploadNext()) {
+            }
             context.functions()->glFinish();
         },
         [&] {

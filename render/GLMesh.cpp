@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "GLMesh.h"
 
+#include "Background.h"
 #include "PosedVertices.h"
 #include "ShaderPrograms.h"
 
@@ -58,12 +59,44 @@ GLMesh::GLMesh(MeshSource source)
     setIndexes(std::move(source.indexes));
 }
 
-void GLMesh::uploadTextures()
+GLMesh::~GLMesh()
 {
-    for (size_t i = 0; i < m_textures.size() && i < m_surfaces.size(); ++i) {
-        Texture &texture = m_textures[i];
-        if (texture.copy || m_surfaces[i].indexes.empty())
+    Background::discard(std::make_pair(std::move(m_vertices.vertices), std::move(m_indexes)));
+}
+
+bool GLMesh::uploadNext()
+{
+    for (size_t i = 0; i < m_surfaces.size(); ++i) {
+        if (m_surfaces[i].isUploaded && !needsTexture(i))
             continue;
+        m_vertexArray.bind();
+        uploadSurface(i);
+        m_vertexArray.release();
+        return true;
+    }
+    return false;
+}
+
+bool GLMesh::needsTexture(size_t surface) const
+{
+    return surface < m_textures.size() && !m_textures[surface].copy && !m_indexes[surface].empty();
+}
+
+/// With a vertex array object bound, which the binding of an index buffer belongs to.
+void GLMesh::uploadSurface(size_t surface)
+{
+    Surface &uploaded = m_surfaces[surface];
+    const std::vector<quint16> &indexes = m_indexes[surface];
+    if (!uploaded.isUploaded && !indexes.empty()) {
+        if (!uploaded.buffer.isCreated())
+            uploaded.buffer.create();
+        uploaded.buffer.bind();
+        m_gl.glBufferData(GL_ELEMENT_ARRAY_BUFFER, GLsizeiptr(indexes.size() * sizeof(quint16)),
+                          indexes.data(), GL_STATIC_DRAW);
+    }
+    uploaded.isUploaded = true;
+    if (needsTexture(surface)) {
+        Texture &texture = m_textures[surface];
         texture.copy = copyOf(texture.image);
         texture.image = {};
     }
@@ -122,22 +155,12 @@ void GLMesh::uploadVertices()
 
 void GLMesh::setIndexes(std::vector<std::vector<quint16>> indexes)
 {
-    // The binding of an index buffer belongs to the vertex array object.
-    m_vertexArray.bind();
     m_surfaces.resize(indexes.size());
+    m_indexes.resize(indexes.size());
     for (size_t i = 0; i < indexes.size(); ++i) {
-        Surface &surface = m_surfaces[i];
-        if (surface.indexes == indexes[i])
-            continue;
-        surface.indexes = std::move(indexes[i]);
-        if (!surface.buffer.isCreated())
-            surface.buffer.create();
-        surface.buffer.bind();
-        m_gl.glBufferData(GL_ELEMENT_ARRAY_BUFFER, GLsizeiptr(surface.indexes.size() * sizeof(quint16)),
-                          surface.indexes.data(), GL_STATIC_DRAW);
+        m_surfaces[i].isUploaded = m_surfaces[i].isUploaded && m_indexes[i] == indexes[i];
     }
-    m_vertexArray.release();
-    uploadTextures();
+    m_indexes = std::move(indexes);
 }
 
 void GLMesh::draw(const TexturedProgram &program, GLenum mode)
@@ -157,6 +180,7 @@ void GLMesh::drawSelected(const TexturedProgram &program)
 
 void GLMesh::drawSurface(size_t surface, const TexturedProgram &program, GLenum mode)
 {
+    uploadSurface(surface);
     if (!m_textures[surface].copy)
         return;
     const bool tinted = tintsSelected && int(surface) == selectedSurface;
@@ -174,9 +198,10 @@ void GLMesh::drawPlain(int surface, GLenum mode)
 
 void GLMesh::drawIndexes(int surface, GLenum mode)
 {
-    Surface &drawn = m_surfaces[size_t(surface)];
-    if (drawn.indexes.empty())
+    const std::vector<quint16> &drawn = indexes(surface);
+    if (drawn.empty())
         return;
-    drawn.buffer.bind();
-    m_gl.glDrawElements(mode, GLsizei(drawn.indexes.size()), GL_UNSIGNED_SHORT, nullptr);
+    uploadSurface(size_t(surface));
+    m_surfaces[size_t(surface)].buffer.bind();
+    m_gl.glDrawElements(mode, GLsizei(drawn.size()), GL_UNSIGNED_SHORT, nullptr);
 }

@@ -19,8 +19,9 @@ struct TexturedProgram;
 void describeVertexLayout(QOpenGLExtraFunctions &gl);
 
 /// The graphics card's copy of a model: one vertex buffer, one index buffer and one texture per surface that
-/// has triangles. Textures of one picture share its copy. Belongs to the context that was current when it was
-/// made; every call, the destructor too, needs it current.
+/// has triangles. Textures of one picture share its copy. A surface goes to the card when uploadNext() comes
+/// to it, or else when it is drawn. Belongs to the context that was current when it was made; every call, the
+/// destructor too, needs it current.
 class GLMesh
 {
 public:
@@ -29,11 +30,15 @@ public:
     explicit GLMesh(MeshSource source);
     GLMesh(const GLMesh &) = delete;
     GLMesh &operator=(const GLMesh &) = delete;
+    ~GLMesh();
 
     /// Follows the model's current vertices, and its triangle indexes too where `indexesToo` says so or the
     /// vertices have become another number. Textures and palette stay; the model has its old surfaces.
     void refresh(const SkinnedMesh &mesh, bool indexesToo);
     void refresh(const StaticMesh &mesh, bool indexesToo);
+
+    /// Lets the next surface go to the card that is not there yet; false when all are.
+    bool uploadNext();
 
     const MeshVertices &vertices() const { return m_vertices; }
     /// Where a vertex stands in the model's space, posed by the palette.
@@ -42,7 +47,7 @@ public:
     QVector3D boxMax() const { return m_vertices.boxMax; }
 
     int surfaceCount() const { return int(m_surfaces.size()); }
-    const std::vector<quint16> &indexes(int surface) const { return m_surfaces[size_t(surface)].indexes; }
+    const std::vector<quint16> &indexes(int surface) const { return m_indexes[size_t(surface)]; }
     bool hasSelectedSurface() const { return selectedSurface >= 0 && selectedSurface < surfaceCount(); }
 
     // With `program`, which is bound and has its matrix set; the selected one tinted, where that is wanted.
@@ -64,10 +69,10 @@ private:
     struct Surface
     {
         QOpenGLBuffer buffer{QOpenGLBuffer::IndexBuffer};
-        std::vector<quint16> indexes; ///< what the buffer holds
+        bool isUploaded = false; ///< the buffer holds the indexes
     };
 
-    /// A surface's own; its picture goes to the card with the first triangles.
+    /// A surface's own; its picture goes to the card with its triangles.
     struct Texture
     {
         QImage image; ///< none where it is on the card
@@ -79,7 +84,8 @@ private:
     void drawSurface(size_t surface, const TexturedProgram &program, GLenum mode);
     void uploadVertices();
     void setIndexes(std::vector<std::vector<quint16>> indexes);
-    void uploadTextures();
+    void uploadSurface(size_t surface);
+    bool needsTexture(size_t surface) const;
     std::shared_ptr<QOpenGLTexture> copyOf(const QImage &image);
 
     QOpenGLExtraFunctions &m_gl;
@@ -87,6 +93,7 @@ private:
     QOpenGLBuffer m_vertexBuffer{QOpenGLBuffer::VertexBuffer};
     MeshVertices m_vertices;
     std::vector<Surface> m_surfaces;
+    std::vector<std::vector<quint16>> m_indexes;           ///< by surface
     std::vector<Texture> m_textures;                       ///< by surface
     QHash<qint64, std::weak_ptr<QOpenGLTexture>> m_copies; ///< by their images' keys
 };

@@ -15,8 +15,6 @@
 #include <QTimerEvent>
 #include <QToolTip>
 
-#include <utility>
-
 KVOpenGLWidget::KVOpenGLWidget(QWidget *parent)
     : RenewableGLWidget(parent)
     , m_sight(m_scene, m_camera)
@@ -44,12 +42,7 @@ KVOpenGLWidget::~KVOpenGLWidget()
 
 void KVOpenGLWidget::initializeGL()
 {
-    initializeOpenGLFunctions();
-    const auto driverText = [this](GLenum name) {
-        return QString::fromLatin1(reinterpret_cast<const char *>(glGetString(name)));
-    };
-    CrashReport::setGraphics(driverText(GL_VENDOR) + QStringLiteral(", ") + driverText(GL_RENDERER) +
-                             QStringLiteral(", ") + driverText(GL_VERSION));
+    CrashReport::setGraphics(driver());
     m_scene.makeCopy([this] { QTimer::singleShot(0, this, &KVOpenGLWidget::onShaderFailed); });
     resizeGL(width(), height());
     showTriangles();
@@ -112,6 +105,7 @@ QImage KVOpenGLWidget::picture(const QSize &size, const QColor &background)
 {
     QImage image;
     changeCopy([&] { image = m_scene.picture(size, background, m_camera.viewMatrix(), height()); });
+    update();
     return image;
 }
 
@@ -124,7 +118,6 @@ void KVOpenGLWidget::changeCopy(Change change)
         showTriangles();
         doneCurrent();
     }
-    update();
 }
 
 void KVOpenGLWidget::setSkinnedMeshMode(bool on)
@@ -147,13 +140,20 @@ void KVOpenGLWidget::replaceModel(bool shown)
     if (!shown)
         return;
     m_camera.forgetFramed();
-    changeCopy([this] { m_scene.rebuild(); });
+    rebuildCopy();
 }
 
 void KVOpenGLWidget::rebuildModel()
 {
     m_scene.dropReady();
+    rebuildCopy();
+}
+
+// What is large takes its time to get to the card, and the window answers meanwhile.
+void KVOpenGLWidget::rebuildCopy()
+{
     changeCopy([this] { m_scene.rebuild(); });
+    workInTurns([this] { return m_scene.uploadNext(); });
 }
 
 void KVOpenGLWidget::refreshVertices()
@@ -173,6 +173,7 @@ void KVOpenGLWidget::setBackgroundColor(const QColor &color)
 {
     m_scene.setBackground(color);
     changeCopy([this] { m_scene.applyBackground(); });
+    update();
 }
 
 void KVOpenGLWidget::setMoveSpeed(float speed)

@@ -13,8 +13,6 @@
 #include "TickTimer.h"
 #include "ViewTools.h"
 
-#include <QOpenGLExtraFunctions>
-
 #include <functional>
 #include <utility>
 #include <vector>
@@ -28,7 +26,7 @@ class ViewStatistics;
 ///
 /// Models are borrowed and must outlive their stay in the view. View settings are read from the settings
 /// store once, at construction; storing them is the caller's part. A hidden view does no work.
-class KVOpenGLWidget : public RenewableGLWidget, protected QOpenGLExtraFunctions
+class KVOpenGLWidget : public RenewableGLWidget
 {
     Q_OBJECT
 
@@ -144,6 +142,7 @@ private:
     void onShaderFailed();
     void releaseGL();
     void replaceModel(bool shown);
+    void rebuildCopy();
     void showTriangles();
     void trackMarks();
     void poseModel();

@@ -7,6 +7,7 @@
 
 #include <QEvent>
 #include <QOpenGLContext>
+#include <QOpenGLFunctions>
 #include <QTimer>
 #include <QWindow>
 
@@ -20,7 +21,9 @@ constexpr int LossesInterval = 10000; // milliseconds
 
 RenewableGLWidget::RenewableGLWidget(QWidget *parent)
     : QOpenGLWidget(parent, Qt::Window)
-{}
+{
+    connect(&m_turns, &QTimer::timeout, this, &RenewableGLWidget::workOn);
+}
 
 void RenewableGLWidget::embed()
 {
@@ -51,6 +54,35 @@ bool RenewableGLWidget::takeContext()
         return true;
     noticeLoss();
     return false;
+}
+
+void RenewableGLWidget::workInTurns(std::function<bool()> step)
+{
+    m_step = std::move(step);
+    m_turns.start();
+}
+
+void RenewableGLWidget::workOn()
+{
+    bool isMore = false;
+    if (context() && takeContext()) {
+        isMore = m_step();
+        doneCurrent();
+    }
+    if (isMore)
+        return;
+    m_turns.stop();
+    update();
+}
+
+QString RenewableGLWidget::driver()
+{
+    QStringList texts;
+    for (const GLenum name : {GL_VENDOR, GL_RENDERER, GL_VERSION}) {
+        const GLubyte *text = QOpenGLContext::currentContext()->functions()->glGetString(name);
+        texts.append(QString::fromLatin1(reinterpret_cast<const char *>(text)));
+    }
+    return texts.join(QStringLiteral(", "));
 }
 
 bool RenewableGLWidget::isContextLost() const

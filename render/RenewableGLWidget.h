@@ -4,6 +4,9 @@
 
 #include <QElapsedTimer>
 #include <QOpenGLWidget>
+#include <QTimer>
+
+#include <functional>
 
 /// A view that survives the loss of its OpenGL context, and says why where it cannot draw. What it shows has
 /// to be kept apart from what lies in the context.
@@ -44,6 +47,11 @@ protected:
     /// Looks between paints. False, and the view has failed, where it is on the screen without a context.
     bool checkContext();
     void fail(const QString &reason);
+    /// Calls `step` with the context current, each time in another turn of the event loop, until it returns
+    /// false or there is no context; then lets the view paint. Takes the place of the steps before.
+    void workInTurns(std::function<bool()> step);
+    /// Of the context, which is current: who made the driver, what it draws with, its version.
+    static QString driver();
 
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
@@ -51,10 +59,13 @@ protected:
 private:
     void noticeLoss();
     void onLoss();
+    void workOn();
 
     QString m_failure;
     bool m_lossNoticed = false;
     bool m_isResizing = false;
     int m_losses = 0; ///< of a context, in close succession
     QElapsedTimer m_sinceLoss;
+    std::function<bool()> m_step;
+    QTimer m_turns;
 };

@@ -47,6 +47,8 @@ public:
     void dropCopy() { m_painter.reset(); }
     /// Makes the copy of the model, with its textures, anew: the first time of what came ready with it.
     void rebuild();
+    /// Lets more of it go to the card; false when all is there.
+    bool uploadNext() { return m_painter && m_painter->model().uploadNext(); }
     /// What came ready does not count any more.
     void dropReady() { m_ready.reset(); }
     /// Lets it follow the model. False when there was nothing to follow.

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "Viewport.h"
 
+#include <QOpenGLContext>
+#include <QOpenGLFunctions>
+
 #include <algorithm>
 
 // What the card has of a model, and what of it is made anew.
@@ -81,7 +84,6 @@ void tst_CardCopies::refreshesWhatChanged()
 void tst_CardCopies::surfacesShareCopies()
 {
     const auto objects = [&] {
-        m_view->grabFramebuffer();
         m_view->makeCurrent();
         QOpenGLFunctions &gl = *m_view->context()->functions();
         int count = 0;
@@ -91,16 +93,18 @@ void tst_CardCopies::surfacesShareCopies()
         return count;
     };
     m_view->openSquare(QStringLiteral("m/a/quarters"));
+    m_view->grabFramebuffer();
     StaticMesh &square = m_view->square;
     const StaticMeshSurface first = square.surfaces[0];
     const int before = objects();
     QVERIFY(before > 0);
     square.surfaces.resize(1000, {first.materialPath, {}});
     m_view->rebuildModel();
-    QCOMPARE(objects(), before);
+    QTRY_COMPARE(objects(), before);
     square.surfaces.resize(1064, first);
     m_view->rebuildModel();
-    QCOMPARE(objects(), before + 64); // the index buffers
+    QVERIFY(objects() < before); // a surface each time that nothing else is to be done
+    QTRY_COMPARE(objects(), before + 64); // the index buffers
     square.surfaces.resize(1000);
     m_view->rebuildModel();
     const QImage seen = m_view->grabFramebuffer();

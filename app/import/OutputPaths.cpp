@@ -12,13 +12,6 @@
 #include <QMessageBox>
 #include <QSignalBlocker>
 
-namespace {
-QString nativePath(const QString &path)
-{
-    return QDir::toNativeSeparators(path);
-}
-} // namespace
-
 OutputPaths::OutputPaths(QWidget *parent)
     : QGroupBox(parent)
     , m_ui(std::make_unique<Ui::OutputPaths>())
@@ -60,11 +53,13 @@ void OutputPaths::setArrival(Arrival arrival)
     m_ui->cbCreateKMat->setChecked(m_choices->createKMat);
 }
 
+/// A folder of the system as the system writes it, what models and material files will say as they do: with
+/// '/'.
 void OutputPaths::showPaths()
 {
-    m_ui->txtT2Dir->setValue(nativePath(m_choices->modFolder));
-    m_ui->txtKMatPath->setValue(nativePath(m_choices->kmatPath));
-    m_ui->txtTexPath->setValue(nativePath(m_choices->textureFolder));
+    m_ui->txtT2Dir->setValue(QDir::toNativeSeparators(m_choices->modFolder));
+    m_ui->txtKMatPath->setValue(m_choices->kmatPath);
+    m_ui->txtTexPath->setValue(m_choices->textureFolder);
 }
 
 void OutputPaths::takeModFolder()
@@ -81,7 +76,7 @@ void OutputPaths::takeKMatPath()
     else if (typed != m_choices->kmatPath &&
              !refusePath(typed, kmatPathProblem(pathInside(m_choices->modFolder, typed))))
         m_choices->kmatPath = withKMatSuffix(pathInside(m_choices->modFolder, typed));
-    m_ui->txtKMatPath->setValue(nativePath(m_choices->kmatPath));
+    m_ui->txtKMatPath->setValue(m_choices->kmatPath);
 }
 
 void OutputPaths::takeTextureFolder()
@@ -89,7 +84,7 @@ void OutputPaths::takeTextureFolder()
     const QString typed = QDir::fromNativeSeparators(m_ui->txtTexPath->text());
     if (typed != m_choices->textureFolder && !refusePath(typed))
         m_choices->textureFolder = pathInside(m_choices->modFolder, typed);
-    m_ui->txtTexPath->setValue(nativePath(m_choices->textureFolder));
+    m_ui->txtTexPath->setValue(m_choices->textureFolder);
 }
 
 /// Says so and returns true when the path is not inside the mod folder, or models cannot name it.
@@ -110,7 +105,7 @@ void OutputPaths::browseModFolder()
     const QString folder = m_chooseFolder(this, tr("Turok 2 Output Folder"), m_choices->modFolder);
     if (folder.isEmpty())
         return;
-    m_ui->txtT2Dir->setValue(nativePath(folder));
+    m_ui->txtT2Dir->setValue(QDir::toNativeSeparators(folder));
     emit modFolderEdited();
 }
 

@@ -31,6 +31,7 @@ private slots:
             const QString found = pathInside(drive + QStringLiteral("/mod/"), whole);
             QCOMPARE(found, relative);
             QCOMPARE(found.isNull(), relative.isNull());
+            QCOMPARE(pathInside(drive + QStringLiteral("/mod/"), QDir::toNativeSeparators(whole)), relative);
             // Without a folder only what is relative already can be inside.
             QCOMPARE(pathInside(QString(), whole).isNull(),
                      relative.isNull() || path.startsWith(QLatin1Char('/')));

@@ -91,12 +91,12 @@ private slots:
         QCOMPARE(second, QStringLiteral("Collada (*.dae)"));
         QVERIFY(Settings::ImportFilter.value().startsWith("Collada"));
         QCOMPARE(Settings::ImportPath.value(), m_source->path());
-        QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), shown("materials/mat_box.v2.kmat"));
+        QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("materials/mat_box.v2.kmat"));
         QVERIFY(find<QPushButton>(dialog, "btnImport")->isEnabled());
 
         // A typed model takes its material file along, until that was chosen.
         type(dialog, "txtModelPath", QStringLiteral("/x/crate.fbx"));
-        QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), shown("materials/mat_crate.kmat"));
+        QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("materials/mat_crate.kmat"));
         type(dialog, "txtKMatPath", QStringLiteral("mine"));
         QCOMPARE(find<QLineEdit>(dialog, "txtKMatPath")->text(), QStringLiteral("mine.kmat"));
         type(dialog, "txtModelPath", QStringLiteral("/x/barrel.fbx"));
@@ -115,8 +115,12 @@ private slots:
             type(dialog, edit, QStringLiteral("../a.kmat"));
             QCOMPARE(hand.seen, QStringList(refusal));
             QCOMPARE(find<QLineEdit>(dialog, edit)->text(), before);
-            type(dialog, edit, m_mod->path(QStringLiteral("sub/a.kmat")));
-            QCOMPARE(find<QLineEdit>(dialog, edit)->text(), shown("sub/a.kmat"));
+            // Whole or in the system's own way: it is shown as models and material files have it.
+            for (const auto &[typed, shownAs] : {std::pair{m_mod->path("sub/a.kmat"), "sub/a.kmat"},
+                                                 {shown("other/a.kmat"), "other/a.kmat"}}) {
+                type(dialog, edit, typed);
+                QCOMPARE(find<QLineEdit>(dialog, edit)->text(), QString(shownAs));
+            }
         }
         // Nor does a model name a file that its text cannot; a name of its own is proposed for such a model.
         {

@@ -71,8 +71,8 @@ unity_files() {
 }
 
 # Reading the headers takes most of the time, so sources are looked at together. Tests and fuzz targets, a third of
-# all files, only have to compile without a warning; sources for Windows are looked at by its own compiler. The warnings of system headers that clang-tidy counts on
-# standard error are no finding.
+# all files, only have to compile without a warning, as do sources for Windows: see below. The warnings of system
+# headers that clang-tidy counts on standard error are no finding.
 tidy() {
     comm -13 <(unity_files | xargs -0 sed -nE 's/^#include "(.*)"$/\1/p' | sort) \
         <(files '*.cpp' ':!tests/*' ':!fuzz/*' ':!*_windows.cpp' | xargs -0 printf "$PWD/%s\n" | sort) | none 'In no target' || return 1
@@ -80,6 +80,42 @@ tidy() {
         grep -vE '^[0-9]+ warnings? (generated|treated as errors?)\.?$' "$build_dir/tidy.log"
         return 1
     }
+}
+
+# The definitions and the folders of headers by which a source is compiled here, one a line.
+options_of() {
+    local unity
+    unity=$(unity_files | xargs -0 grep -lxF "#include \"$PWD/$1\"") || return 1
+    sed -nE "s|^ *\"command\": \"(.*) -c $unity\",?\$|\1|p" "$build_dir/compile_commands.json" | sed -E 's/\\(.)/\1/g' \
+        | xargs -n 1 | awk '/^-[DI]/ || $0 == "-isystem" || last == "-isystem" { print } { last = $0 }'
+}
+
+# What a source for Windows needs its counterpart has, and the toolkit's headers declare what they do for any system.
+# Those of a folder are looked at together, as they are built. Tests have headers alone that are for one system, which
+# need less than a room with widgets.
+windows_sources() {
+    local compiler file folder twin options sources result=0
+    local -A folders=()
+    compiler=$(command -v x86_64-w64-mingw32-g++-posix) || {
+        printf 'g++-mingw-w64-x86-64-posix is not installed\n'
+        return 1
+    }
+    while IFS= read -r -d '' file; do
+        folders[${file%/*}]+=" -include $file"
+    done < <(files '*_windows.cpp' 'tests/support/windows/*.h')
+    for folder in "${!folders[@]}"; do
+        read -ra sources <<<"${folders[$folder]}"
+        twin=${sources[1]%_windows.cpp}_posix.cpp
+        [[ $folder != tests/* ]] || twin=app/desktop/TitleBars_posix.cpp
+        mapfile -t options < <(options_of "$twin")
+        ((${#options[@]})) || {
+            printf '%s: it is not known how %s is compiled\n' "$folder" "$twin"
+            return 1
+        }
+        "$compiler" -std=c++17 -fsyntax-only -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror \
+            "${options[@]}" -Itests/support "${sources[@]}" -x c++ /dev/null || result=1
+    done
+    return "$result"
 }
 
 # search GREP_OPTIONS... reads file names: grep's findings, and no failure when there are none.
@@ -157,6 +193,7 @@ check 'desktop entry and metainfo' desktop_files
 check 'manual pages' manual_pages
 check 'translations' translations
 check 'moc and uic' generated_headers
+check 'sources for Windows' windows_sources
 check 'clang-tidy' tidy
 
 if ((${#failed[@]})); then

@@ -66,8 +66,8 @@ inline QStringList withoutName(const QWidget &window)
     for (QWidget *widget : window.findChildren<QWidget *>()) {
         if (!isInteractive(widget))
             continue;
-        QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
-        if (!interface || interface->text(QAccessible::Name).trimmed().isEmpty())
+        QAccessibleInterface *told = QAccessible::queryAccessibleInterface(widget);
+        if (!told || told->text(QAccessible::Name).trimmed().isEmpty())
             found << describe(widget);
     }
     return found;

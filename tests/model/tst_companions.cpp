@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "Companions.h"
+#include "FileSystem.h"
 #include "TestSupport.h"
 #include "Validation.h"
 
@@ -77,7 +78,9 @@ private slots:
         // What was looked through once is known.
         for (int i = 0; i < 2; ++i) {
             const CompanionFile companion = companions.find(folder.path(of));
-            QCOMPARE(companion.path, found.isEmpty() ? QString() : folder.path(found));
+            // Where letters' case makes no other file, it has the mesh's.
+            QCOMPARE(FileSystem::comparable(companion.path),
+                     FileSystem::comparable(found.isEmpty() ? QString() : folder.path(found)));
             QCOMPARE(companion.others, full(others));
         }
     }

@@ -127,7 +127,8 @@ private slots:
         found = validate(mesh, base->folders());
         QCOMPARE(told(found), QStringList("material-not-found 8/1/0/0"));
         for (const QString &folder : {base->folders().gamePath, base->folders().outputDir})
-            QVERIFY2(found[0].text.contains(folder + QStringLiteral("/materials/lost.kmat")),
+            QVERIFY2(found[0].text.contains(
+                         QDir::toNativeSeparators(folder + QStringLiteral("/materials/lost.kmat"))),
                      qPrintable(found[0].text));
     }
 

@@ -81,7 +81,8 @@ private slots:
         otherPort.asker = m_master->asker;
         otherPort.send({entry(1), entry(2)});
         QUdpSocket otherAddress;
-        QVERIFY(otherAddress.bind(QHostAddress(QStringLiteral("127.0.0.2")), m_master->localPort()));
+        QVERIFY2(otherAddress.bind(QHostAddress(QStringLiteral("127.0.0.2")), m_master->localPort()),
+                 qPrintable(otherAddress.errorString()));
         otherAddress.writeDatagram(entry(3), m_master->asker.first, m_master->asker.second);
         // The empty answer did not stop the socket.
         m_master->send({entry(4)});

@@ -142,8 +142,9 @@ private slots:
         Hand hand({Hand::press(QMessageBox::Ok)});
         QTRY_COMPARE(m_outcomes, QStringList("b failed"));
         Log::setSink({});
-        QCOMPARE(hand.seen, QStringList("File error|Failed to open\n" + path("b")));
-        QVERIFY(log.size() == 1 && log.first().startsWith("[Open] '" + path("b")));
+        const QString shownPath = QDir::toNativeSeparators(path("b"));
+        QCOMPARE(hand.seen, QStringList("File error|Failed to open\n" + shownPath));
+        QVERIFY(log.size() == 1 && log.first().startsWith("[Open] '" + shownPath));
         QCOMPARE(shown(), int('a'));
     }
 

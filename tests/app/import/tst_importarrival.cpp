@@ -103,7 +103,7 @@ private slots:
 
         // One that cannot be read says so before it is imported, and takes the choices of the other along.
         auto *path = find<QLineEdit>(dialog, "txtModelPath");
-        const QString broken = m_source->put(QStringLiteral("broken <i>.gltf"), "{");
+        const QString broken = m_source->put(QStringLiteral("broken &lt;i&gt;.gltf"), "{");
         QApplication::setActiveWindow(&dialog);
         path->setFocus();
         path->selectAll();

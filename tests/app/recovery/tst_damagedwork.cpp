@@ -60,7 +60,7 @@ private slots:
             return "Recover|What was kept of '" + name +
                    "' is damaged and cannot be opened.|It can be kept, to see what can be saved of it, and "
                    "is not offered any more:\n" +
-                   file;
+                   QDir::toNativeSeparators(file);
         };
         const auto keep = [](QDialog *dialog) { QTest::keyClick(dialog, Qt::Key_Escape); };
         Hand hand({keep, Hand::clickOn("Delete"), Hand::clickOn("Delete"), keep});

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "Hand.h"
+#include "NoOpenGL.h"
 
 /// The program in surroundings that fail it. All of this runs without OpenGL.
 class TestFaults : public QObject
@@ -119,7 +120,7 @@ private:
 
 int main(int argc, char *argv[])
 {
-    qputenv("QT_XCB_GL_INTEGRATION", "none");
+    takeOpenGLAway();
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication application(argc, argv);
     TestFaults test;

@@ -6,7 +6,6 @@
 
 #include <set>
 
-namespace {
 struct Message
 {
     QString context;
@@ -14,6 +13,7 @@ struct Message
     QStringList translations; ///< that are finished; several of what is counted
 };
 
+namespace {
 QVector<Message> messagesOf(const QString &path)
 {
     QFile file(path);
@@ -52,6 +52,7 @@ QStringList placesIn(const QString &text)
         found.insert(it.next().captured());
     return QStringList(found.begin(), found.end());
 }
+} // namespace
 
 /// Writes down what is asked for and answers nothing.
 class Listener : public QTranslator
@@ -66,7 +67,6 @@ public:
 
     mutable std::set<std::pair<QString, QString>> asked;
 };
-} // namespace
 
 /// The German program. It is German from the start, since tables of texts are made once.
 class tst_Translation : public QObject

@@ -17,6 +17,12 @@ inline QString noFolder()
     return qt_error_string(ENOENT);
 }
 
+/// Lines as a file that is written as text has them.
+inline QByteArray asText(const QByteArray &lines)
+{
+    return lines;
+}
+
 /// Whether a file that a program holds open can be replaced.
 constexpr bool HeldOnesAreReplaced = true;
 

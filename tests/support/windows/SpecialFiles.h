@@ -13,6 +13,12 @@ inline QString noFolder()
     return qt_error_string(ERROR_PATH_NOT_FOUND);
 }
 
+/// Lines as a file that is written as text has them.
+inline QByteArray asText(QByteArray lines)
+{
+    return lines.replace('\n', "\r\n");
+}
+
 /// Whether a file that a program holds open can be replaced.
 constexpr bool HeldOnesAreReplaced = false;
 

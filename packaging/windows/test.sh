@@ -11,6 +11,14 @@ build=$(realpath "$2")
 shift 2
 began=$SECONDS
 
+# Nothing is left out in silence.
+known=$(ctest --test-dir "$build" -N | sed -n 's/^ *Test *#[0-9]*: //p' && sed -n 's/^\(tst_[a-z0-9]*\)  .*/\1/p' "$here/tests-left-out.txt")
+forgotten=$(find "$here/../../tests" -name 'tst_*.cpp' -printf '%f\n' | sed 's/\.cpp$//' | grep -vxF "$known" || true)
+[[ -z $forgotten ]] || {
+    printf 'neither built nor in tests-left-out.txt:\n%s\n' "$forgotten" >&2
+    exit 1
+}
+
 # A Wine of its own, whose programs share one screen, as those of a desktop do.
 export KORVANE_WINDOWS WINEPREFIX=$build/wine WINEDEBUG=-all LIBGL_ALWAYS_SOFTWARE=1
 export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe,winedbg.exe=d'

@@ -90,7 +90,7 @@ public:
     QUndoCommand *command(EditTarget<Model> target, const RecordIndex &index,
                           const FieldValue &value) const override
     {
-        const auto *record = Place::find(target.model, index);
+        const auto *record = Place::find(target.model(), index);
         if (!record)
             return nullptr;
         auto field = Command::Field::get(*record);
@@ -161,7 +161,7 @@ bool changeModel(const QVector<FieldChange> &changes, const QString &stepText, E
         return static_cast<const ModelField<Model> *>(change.field);
     };
     const bool isChange = std::any_of(changes.begin(), changes.end(), [&](const FieldChange &each) {
-        return !isSameValue(fieldOf(each)->value(target.model, each.index), each.value);
+        return !isSameValue(fieldOf(each)->value(target.model(), each.index), each.value);
     });
     if (!isChange)
         return false;

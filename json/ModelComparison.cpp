@@ -99,10 +99,14 @@ private:
     template <typename Value>
     static void compare(const JsonField &field, const Value &a, const Value &b, RecordDifference &difference)
     {
-        const QByteArray mine = JsonWriter::textOf(a);
-        const QByteArray theirs = JsonWriter::textOf(b);
-        if (mine != theirs)
-            tell(difference, field, QString::fromUtf8(mine), QString::fromUtf8(theirs));
+        if constexpr (std::is_trivially_copyable_v<Value>) {
+            if (sameBits(a, b))
+                return;
+        } else if (a == b) {
+            return;
+        }
+        tell(difference, field, QString::fromUtf8(JsonWriter::textOf(a)),
+             QString::fromUtf8(JsonWriter::textOf(b)));
     }
 
     /// Lists of numbers, each as `numberOf` has it.

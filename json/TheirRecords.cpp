@@ -44,7 +44,7 @@ template <typename Place, typename Model>
 bool takeIn(Model &mine, const Model &theirs, const RecordDifference &difference, const QString &field)
 {
     const RecordIndex &index = difference.mine.index;
-    const auto *other = Place::find(const_cast<Model &>(theirs), difference.theirs.index);
+    const auto *other = Place::find(theirs, difference.theirs.index);
     if (difference.state == State::Changed) {
         auto *record = Place::find(mine, index);
         if (!record || !other)

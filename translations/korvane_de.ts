@@ -962,6 +962,96 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
 </context>
 <context>
+    <name>CompareDock</name>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Take Theirs</source>
+        <translation>&amp;Von dort übernehmen</translation>
+    </message>
+    <message>
+        <source>Let the document have what the file has in the selected records and fields</source>
+        <translation>Übernimmt in den gewählten Datensätzen und Feldern, was die Datei hat</translation>
+    </message>
+    <message>
+        <source>Compare &amp;Again</source>
+        <translation>Noch einmal &amp;vergleichen</translation>
+    </message>
+    <message>
+        <source>Read the file anew, which another program may have written</source>
+        <translation>Liest die Datei neu, falls ein anderes Programm sie geschrieben hat</translation>
+    </message>
+    <message>
+        <source>Compare with File</source>
+        <translation>Mit Datei vergleichen</translation>
+    </message>
+    <message>
+        <source>Nothing is compared. View ▸ Compare with File… chooses a file.</source>
+        <translation>Es wird nichts verglichen. Ansicht ▸ Mit Datei vergleichen… wählt eine Datei.</translation>
+    </message>
+    <message>
+        <source>%1 with %2, different in: %3</source>
+        <translation>%1 mit %2, Unterschiede: %3</translation>
+    </message>
+    <message>
+        <source>%1 with %2</source>
+        <translation>%1 mit %2</translation>
+    </message>
+    <message>
+        <source>The file is being compared.</source>
+        <translation>Die Datei wird verglichen.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>No record differs.</source>
+        <translation>Kein Datensatz unterscheidet sich.</translation>
+    </message>
+</context>
+<context>
+    <name>CompareTree</name>
+    <message>
+        <source>up to %1° apart</source>
+        <translation>bis zu %1° auseinander</translation>
+    </message>
+    <message>
+        <source>up to %1 apart</source>
+        <translation>bis zu %1 auseinander</translation>
+    </message>
+    <message>
+        <source>only here</source>
+        <translation>nur hier</translation>
+    </message>
+    <message>
+        <source>only there</source>
+        <translation>nur dort</translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation>Unterschiede</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Datensatz</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>Hier</translation>
+    </message>
+    <message>
+        <source>In the File</source>
+        <translation>In der Datei</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+</context>
+<context>
     <name>ConsoleButton</name>
     <message>
         <source>Show the console</source>
@@ -1595,6 +1685,13 @@ Ohne diese Eingabe fortfahren?</translation>
     <message>
         <source>&apos;%1&apos; is not understood.</source>
         <translation>„%1“ ist nicht zu verstehen.</translation>
+    </message>
+</context>
+<context>
+    <name>FileComparison</name>
+    <message>
+        <source>The file could not be opened.</source>
+        <translation>Die Datei konnte nicht geöffnet werden.</translation>
     </message>
 </context>
 <context>
@@ -3173,6 +3270,18 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>Read the folders of the explorers and the textures again</source>
         <translation>Die Ordner der Explorer und die Texturen neu einlesen</translation>
+    </message>
+    <message>
+        <source>Comparison</source>
+        <translation>Vergleich</translation>
+    </message>
+    <message>
+        <source>List in what the current document differs from another file of its kind</source>
+        <translation>Listet, worin sich das aktuelle Dokument von einer anderen Datei seiner Art unterscheidet</translation>
+    </message>
+    <message>
+        <source>Co&amp;mpare with File…</source>
+        <translation>Mit &amp;Datei vergleichen…</translation>
     </message>
 </context>
 <context>
@@ -6950,6 +7059,10 @@ So lassen?</translation>
     <message>
         <source>Animation Name</source>
         <translation>Animation: Name</translation>
+    </message>
+    <message>
+        <source>Take from %1</source>
+        <translation>Aus %1 übernehmen</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,7 @@
 // clang-format off
 #define KORVANE_ANIM_COMMANDS(ROW) \
     ROW(UC_AnimUpdate, ReplaceCommand, QT_TRANSLATE_NOOP("UndoCommands", "Update from %1"), Records::AnimFileRoot) \
+    ROW(UC_AnimTakeTheirs, ReplaceCommand, QT_TRANSLATE_NOOP("UndoCommands", "Take from %1"), Records::AnimFileRoot) \
     ROW(UC_AnimBlockAnimID, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Animation AnimID"), Records::Block, Member<&AnimBlock::animId>) \
     ROW(UC_AnimBlockFrameScale, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Animation Frame Scale"), Records::Block, Member<&AnimBlock::frameScale>) \
     ROW(UC_AnimBlockBlendLength, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Animation Blend Length"), Records::Block, Member<&AnimBlock::blendLength>) \

@@ -56,6 +56,7 @@ struct HotPointEffects
     ROW(UC_SkinnedMeshAddCnode, InsertCommand, QT_TRANSLATE_NOOP("UndoCommands", "Add Child Bone Index"), Records::ChildBone, RecordKind::ChildBones) \
     ROW(UC_SkinnedMeshRemoveCnode, RemoveCommand, QT_TRANSLATE_NOOP("UndoCommands", "Remove Child Bone Index"), Records::ChildBone, RecordKind::ChildBones) \
     ROW(UC_SkinnedMeshUpdate, ReplaceCommand, QT_TRANSLATE_NOOP("UndoCommands", "Update from %1"), Records::SkinnedMeshRoot) \
+    ROW(UC_SkinnedMeshTakeTheirs, ReplaceCommand, QT_TRANSLATE_NOOP("UndoCommands", "Take from %1"), Records::SkinnedMeshRoot) \
     ROW(UC_SkinnedMeshRotate, RotateCommand, QT_TRANSLATE_NOOP("UndoCommands", "Rotate Vertices"), Records::SkinnedMeshRoot) \
     ROW(UC_SkinnedMeshScale, ScaleCommand, QT_TRANSLATE_NOOP("UndoCommands", "Scale Vertices"), Records::SkinnedMeshRoot)
 // clang-format on

@@ -16,6 +16,7 @@
     ROW(UC_StaticMeshVertNormal, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Vertex Normal"), Records::StaticVertex, Member<&StaticMeshVertex::normal>) \
     ROW(UC_StaticMeshVertUV, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Vertex UV"), Records::StaticVertex, Member<&StaticMeshVertex::uv>) \
     ROW(UC_StaticMeshUpdate, ReplaceCommand, QT_TRANSLATE_NOOP("UndoCommands", "Update from %1"), Records::StaticMeshRoot) \
+    ROW(UC_StaticMeshTakeTheirs, ReplaceCommand, QT_TRANSLATE_NOOP("UndoCommands", "Take from %1"), Records::StaticMeshRoot) \
     ROW(UC_StaticMeshRotate, RotateCommand, QT_TRANSLATE_NOOP("UndoCommands", "Rotate Vertices"), Records::StaticMeshRoot) \
     ROW(UC_StaticMeshScale, ScaleCommand, QT_TRANSLATE_NOOP("UndoCommands", "Scale Vertices"), Records::StaticMeshRoot)
 // clang-format on

@@ -12,6 +12,7 @@
 #include "DocumentPanes.h"
 #include "DocumentTitle.h"
 #include "ExplorerFiles.h"
+#include "FileComparison.h"
 #include "FilterLine.h"
 #include "FlightCommands.h"
 #include "FolderExplorer.h"
@@ -195,6 +196,9 @@ void MainWindow::createDocks()
                                                   {&m_staticMesh, m_ui->treeStaticMesh}}});
     connect(m_ui->dockProblems, &ProblemsDock::activated, m_panes, &DocumentPanes::showRecord);
     m_ui->statusBar->insertPermanentWidget(0, new ProblemsButton(*m_problems, *m_ui->dockProblems, this));
+    m_ui->dockCompare->setComparison(new FileComparison(m_skinnedMesh, m_anim, m_staticMesh, this), *m_files,
+                                     m_ui->actionCompare);
+    connect(m_ui->dockCompare, &CompareDock::activated, m_panes, &DocumentPanes::showRecord);
     connect(m_ui->tabDatabase, &DatabaseTab::told, this, &MainWindow::tell);
     connect(m_ui->tabDatabase, &DatabaseTab::namesChanged, m_problems,
             [this] { m_problems->setReferenceIds(ReferenceIds::load()); });
@@ -306,6 +310,7 @@ void MainWindow::updateCurrentDocument()
 
     for (QAction *action : {m_ui->actionOpen, m_ui->actionImport, m_ui->actionExport, m_ui->actionFilter})
         action->setEnabled(document);
+    m_ui->actionCompare->setEnabled(isOpen);
     m_ui->actionSave->setEnabled(isOpen);
     m_ui->actionSaveAs->setEnabled(isOpen);
     m_ui->actionSaveToMod->setEnabled(isOpen);

@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "CompareDock.h"
+
+#include "CompareTree.h"
+#include "DocumentFiles.h"
+#include "FileComparison.h"
+#include "Icons.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+CompareDock::CompareDock(QWidget *parent)
+    : QDockWidget(parent)
+{
+    auto *contents = new QWidget(this);
+    m_tree = new CompareTree(contents);
+    m_title = new QLabel(contents);
+    m_title->setObjectName(QStringLiteral("lblCompare"));
+    m_title->setTextFormat(Qt::PlainText);
+    m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto *bar = new QHBoxLayout;
+    bar->setContentsMargins(4, 2, 4, 2);
+    bar->addWidget(m_title, 1);
+    auto *layout = new QVBoxLayout(contents);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addLayout(bar);
+    layout->addWidget(m_tree, 1);
+    setWidget(contents);
+
+    m_tree->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_show = addAction("actionCompareShow", tr("&Show"), "search", &CompareDock::showCurrent);
+    m_take = addAction("actionCompareTake", tr("&Take Theirs"), "markback", &CompareDock::takeSelected);
+    m_take->setToolTip(tr("Let the document have what the file has in the selected records and fields"));
+    m_reload = addAction("actionCompareAgain", tr("Compare &Again"), "refresh", &CompareDock::reload);
+    m_reload->setToolTip(tr("Read the file anew, which another program may have written"));
+    for (QAction *action : {m_take, m_reload}) {
+        auto *button = new QToolButton(contents);
+        button->setDefaultAction(action);
+        button->setObjectName(action->objectName().replace(QLatin1String("action"), QLatin1String("btn")));
+        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        button->setAutoRaise(true);
+        button->setFocusPolicy(Qt::StrongFocus);
+        bar->addWidget(button);
+    }
+    connect(m_tree, &QTreeWidget::itemSelectionChanged, this, &CompareDock::updateActions);
+    connect(m_tree, &QTreeWidget::currentItemChanged, this, &CompareDock::updateActions);
+    connect(m_tree, &QTreeWidget::itemActivated, this, &CompareDock::showCurrent);
+}
+
+QAction *CompareDock::addAction(const char *name, const QString &text, const char *iconName,
+                                void (CompareDock::*slot)())
+{
+    auto *action = new QAction(namedIcon(QLatin1String(iconName)), text, m_tree);
+    action->setObjectName(QLatin1String(name));
+    action->setShortcutContext(Qt::WidgetShortcut);
+    connect(action, &QAction::triggered, this, slot);
+    m_tree->addAction(action);
+    return action;
+}
+
+void CompareDock::setComparison(FileComparison *comparison, const DocumentFiles &files, QAction *choose)
+{
+    m_comparison = comparison;
+    m_files = &files;
+    connect(comparison, &FileComparison::changed, this, &CompareDock::fill);
+    connect(choose, &QAction::triggered, this, &CompareDock::chooseFile);
+    fill();
+}
+
+void CompareDock::chooseFile()
+{
+    const Document *document = m_files->current();
+    if (!document || !document->isOpen())
+        return;
+    const DocumentKind &kind = document->kind();
+    const QString folder =
+        document->path().isEmpty() ? kind.loadPath.value() : QFileInfo(document->path()).path();
+    const QString path = QFileDialog::getOpenFileName(window(), tr("Compare with File"), folder, kind.filter);
+    if (path.isEmpty())
+        return;
+    m_comparison->start(kind.type, path);
+    QDockWidget::show();
+    raise();
+    m_tree->setFocus();
+}
+
+void CompareDock::fill()
+{
+    const Document *document = m_comparison->document();
+    const auto count = m_comparison->differences().size();
+    m_tree->show(*m_comparison);
+    m_title->setVisible(document);
+    if (!document) {
+        m_tree->setEmptyText(tr("Nothing is compared. View \u25B8 Compare with File\u2026 chooses a file."));
+    } else {
+        const QString name = QFileInfo(m_comparison->path()).fileName();
+        m_title->setText(
+            count > 0
+                ? tr("%1 with %2, different in: %3").arg(document->fileName(), name, QString::number(count))
+                : tr("%1 with %2").arg(document->fileName(), name));
+        m_title->setToolTip(QDir::toNativeSeparators(m_comparison->path()));
+        m_tree->setEmptyText(m_comparison->isRunning() ? tr("The file is being compared.")
+                             : !m_comparison->failure().isEmpty()
+                                 ? tr("%1 cannot be read: %2").arg(name, m_comparison->failure())
+                                 : tr("No record differs."));
+    }
+    updateActions();
+}
+
+void CompareDock::updateActions()
+{
+    const auto *current = static_cast<const CompareItem *>(m_tree->currentItem());
+    m_show->setEnabled(current && current->place().kind != RecordKind::None);
+    m_take->setEnabled(!m_tree->selectedPicks().isEmpty());
+    m_reload->setEnabled(m_comparison && m_comparison->document());
+}
+
+void CompareDock::showCurrent()
+{
+    const auto *current = static_cast<const CompareItem *>(m_tree->currentItem());
+    if (m_comparison->document() && current && current->place().kind != RecordKind::None)
+        emit activated(m_comparison->document()->kind().type, current->place());
+}
+
+void CompareDock::takeSelected()
+{
+    m_comparison->take(m_tree->selectedPicks());
+}
+
+void CompareDock::reload()
+{
+    m_comparison->reload();
+}

@@ -1,0 +1,195 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "CompareTree.h"
+
+#include "Icons.h"
+#include "RecordTable.h"
+
+#include <QHeaderView>
+#include <QPainter>
+#include <QSet>
+
+namespace {
+using State = RecordDifference::State;
+
+bool isTrack(RecordKind kind)
+{
+    return kind == RecordKind::TranslationTrack || kind == RecordKind::RotationTrack;
+}
+
+/// Where it is, or would be, in the document.
+RecordRef placeOf(const RecordDifference &difference)
+{
+    return difference.state == State::OnlyTheirs ? difference.theirs : difference.mine;
+}
+
+/// "Hot point 3", with the record's own name; the file's name for the model itself.
+QString titleOf(const RecordDifference &difference, const Document &document)
+{
+    const RecordRef place = placeOf(difference);
+    const RecordRow *row = recordRow(place.kind);
+    if (!row || place.kind == document.rootKind())
+        return document.fileName();
+    QString title = QCoreApplication::translate("Records", row->noun);
+    title.replace(0, 1, title.left(1).toUpper());
+    title += QLatin1Char(' ') + QString::number(place.index[size_t(row->component)]);
+    if (place.kind == RecordKind::AnimBlock)
+        title = difference.name.section(QLatin1Char('('), 1).isEmpty()
+                    ? title
+                    : QStringLiteral("%1 (%2").arg(title, difference.name.section(QLatin1Char('('), 1));
+    const QString name = difference.state == State::OnlyTheirs ? QString() : document.recordName(place);
+    return name.isEmpty() ? title : QStringLiteral("%1: %2").arg(title, name);
+}
+
+QString distanceOf(const RecordDifference &track)
+{
+    const QString number = QString::number(track.distance, 'g', 4);
+    return track.mine.kind == RecordKind::RotationTrack ? CompareTree::tr("up to %1\u00B0 apart").arg(number)
+                                                        : CompareTree::tr("up to %1 apart").arg(number);
+}
+
+/// One row, with those of its fields.
+CompareItem *recordItem(const RecordDifference &each, const Document &document)
+{
+    QStringList texts{titleOf(each, document), QString(), QString()};
+    if (each.state == State::OnlyMine)
+        texts = QStringList{texts.first(), CompareTree::tr("only here"), QString()};
+    else if (each.state == State::OnlyTheirs)
+        texts = QStringList{texts.first(), QString(), CompareTree::tr("only there")};
+    else if (isTrack(each.mine.kind))
+        texts[CompareItem::TheirsColumn] = distanceOf(each);
+    QVector<FileComparison::Pick> picks;
+    if (!each.isBound)
+        picks += FileComparison::Pick{&each, {}};
+    auto *item = new CompareItem(texts, picks, each.mine);
+    item->setIcon(CompareItem::RecordColumn,
+                  each.state == State::OnlyMine     ? namedIcon(QStringLiteral("remove"))
+                  : each.state == State::OnlyTheirs ? namedIcon(QStringLiteral("add"))
+                                                    : recordIcon(each.mine.kind));
+    for (const FieldDifference &field : each.fields) {
+        QVector<FileComparison::Pick> fieldPicks;
+        if (!field.isBound && !each.isBound)
+            fieldPicks += FileComparison::Pick{&each, field.field};
+        auto *row = new CompareItem({field.field, field.mine, field.theirs}, fieldPicks, each.mine);
+        for (const int column : {CompareItem::MineColumn, CompareItem::TheirsColumn})
+            row->setToolTip(column, row->text(column));
+        item->addChild(row);
+    }
+    return item;
+}
+} // namespace
+
+CompareTree::CompareTree(QWidget *parent)
+    : QTreeWidget(parent)
+{
+    setObjectName(QStringLiteral("treeCompare"));
+    setAccessibleName(tr("Differences"));
+    setColumnCount(CompareItem::ColumnCount);
+    setHeaderLabels({tr("Record"), tr("Here"), tr("In the File")});
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setIconSize({16, 16});
+    const int letter = fontMetrics().averageCharWidth();
+    setColumnWidth(CompareItem::RecordColumn, 34 * letter);
+    setColumnWidth(CompareItem::MineColumn, 40 * letter);
+}
+
+QList<QTreeWidgetItem *> CompareTree::itemsOf(const std::vector<RecordDifference> &differences,
+                                              const Document &document) const
+{
+    QList<QTreeWidgetItem *> items;
+    RecordKind kind = RecordKind::None;
+    int rows = 0;
+    QVector<FileComparison::Pick> rest;
+    const auto endList = [&] {
+        if (!rest.isEmpty())
+            items += new CompareItem({tr("and %1 more").arg(rest.size()), QString(), QString()}, rest, {});
+        rest.clear();
+        rows = 0;
+    };
+    for (const RecordDifference &each : differences) {
+        if (placeOf(each).kind != kind)
+            endList();
+        kind = placeOf(each).kind;
+        if (++rows > MostRows) {
+            rest += FileComparison::Pick{&each, {}};
+            continue;
+        }
+        CompareItem *item = recordItem(each, document);
+        item->addChildren(itemsOf(each.children, document));
+        items += item;
+    }
+    endList();
+    return items;
+}
+
+void CompareTree::show(const FileComparison &comparison)
+{
+    // Rows are told apart by the texts that lead to them.
+    const auto pathOf = [](const QTreeWidgetItem *item) {
+        QString path;
+        for (; item; item = item->parent())
+            path += item->text(CompareItem::RecordColumn) + QLatin1Char('\n');
+        return path;
+    };
+    QSet<QString> open;
+    for (QTreeWidgetItemIterator item(this, QTreeWidgetItemIterator::HasChildren); *item; ++item) {
+        if ((*item)->isExpanded())
+            open.insert(pathOf(*item));
+    }
+    const QString current = pathOf(currentItem());
+    const int currentRow =
+        currentItem() && !currentItem()->parent() ? indexOfTopLevelItem(currentItem()) : -1;
+    const bool isFirst = topLevelItemCount() == 0;
+    clear();
+    if (comparison.document())
+        addTopLevelItems(itemsOf(comparison.differences(), *comparison.document()));
+    QTreeWidgetItem *found = nullptr;
+    for (QTreeWidgetItemIterator item(this); *item; ++item) {
+        const QString path = pathOf(*item);
+        // A few are easier to see than to open.
+        if (open.contains(path) || (isFirst && topLevelItemCount() <= 20 && !(*item)->parent()))
+            (*item)->setExpanded(true);
+        if (!found && path == current)
+            found = *item;
+    }
+    if (!found && currentRow >= 0)
+        found = topLevelItem(std::min(currentRow, topLevelItemCount() - 1));
+    if (found)
+        setCurrentItem(found);
+}
+
+void CompareTree::setEmptyText(const QString &text)
+{
+    m_emptyText = text;
+    setAccessibleDescription(text);
+    viewport()->update();
+}
+
+QVector<FileComparison::Pick> CompareTree::selectedPicks() const
+{
+    QVector<FileComparison::Pick> picks;
+    for (const QTreeWidgetItem *item : selectedItems()) {
+        // What goes along with its owner is not taken by itself: the numbers within may be others by then.
+        bool goesAlong = false;
+        for (const QTreeWidgetItem *owner = item->parent(); owner; owner = owner->parent()) {
+            const auto &whole = static_cast<const CompareItem *>(owner)->picks();
+            goesAlong = goesAlong || (owner->isSelected() && !whole.isEmpty());
+        }
+        if (!goesAlong)
+            picks += static_cast<const CompareItem *>(item)->picks();
+    }
+    return picks;
+}
+
+void CompareTree::paintEvent(QPaintEvent *event)
+{
+    QTreeWidget::paintEvent(event);
+    if (topLevelItemCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect().adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap,
+                     m_emptyText);
+}

@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Background.h"
+#include "Document.h"
+#include "ModelComparison.h"
+
+#include <QTimer>
+
+#include <memory>
+#include <variant>
+
+/// What differs between an open document and a file of its kind. It follows the document's changes, a moment
+/// after the last one; another thread reads the file and compares.
+class FileComparison : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr int DelayMs = 300;
+
+    /// The documents outlive this.
+    FileComparison(SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticMeshDocument &staticMesh,
+                   QObject *parent);
+
+    /// Compares the document of a kind with the file. Another comparison ends.
+    void start(DocumentType type, const QString &path);
+    /// Reads the file anew.
+    void reload();
+
+    /// The document that is compared; null for none.
+    Document *document() const { return m_document; }
+    /// The file that it is compared with.
+    QString path() const { return m_path; }
+    bool isRunning() const { return m_work.isRunning(); }
+    /// Why the file cannot be compared; empty when it can.
+    QString failure() const { return m_failure; }
+    const std::vector<RecordDifference> &differences() const { return m_differences; }
+
+    /// A difference, and which of its fields; the record whole where it names none.
+    struct Pick
+    {
+        const RecordDifference *difference;
+        QString field;
+    };
+    /// Lets the document have what the file has there, as one undo step. Returns how many of them could be
+    /// taken.
+    int take(const QVector<Pick> &picks);
+
+signals:
+    void changed();
+
+private:
+    using Theirs = std::variant<std::shared_ptr<const SkinnedMesh>, std::shared_ptr<const AnimFile>,
+                                std::shared_ptr<const StaticMesh>>;
+    struct Found
+    {
+        Theirs theirs;
+        QString failure;
+        std::vector<RecordDifference> differences;
+    };
+
+    void end();
+    void check();
+    template <typename Model>
+    void checkModel(ModelDocument<Model> &document);
+    template <typename Command, typename Model>
+    int takeInto(ModelDocument<Model> &document, const QVector<Pick> &picks);
+
+    SkinnedMeshDocument &m_skinnedMesh;
+    AnimDocument &m_anim;
+    StaticMeshDocument &m_staticMesh;
+    Document *m_document = nullptr;
+    QString m_path;
+    QString m_ownPath; ///< the document's when the comparison began
+    Theirs m_theirs;   ///< null until it was read
+    QString m_failure;
+    std::vector<RecordDifference> m_differences;
+    QTimer m_delay;
+    Background m_work;
+};

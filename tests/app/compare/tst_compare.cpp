@@ -1,0 +1,181 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "Hand.h"
+#include "SampleModels.h"
+
+/// The window with a model in it, compared with a file.
+class tst_Compare : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<ProgramFolder>();
+        Settings::AnimationAutoPlay.setValue(false);
+        m_window = std::make_unique<ShownWindow>();
+        m_window->resize(1400, 1000);
+    }
+    void cleanup() { m_window.reset(); }
+
+    void takesFieldsAndRecords()
+    {
+        auto *action = find<QAction>("actionCompare");
+        QVERIFY(!action->isEnabled());
+        AnimFile mine = SampleModels::plainAnim();
+        for (int i = 0; i < 3; ++i)
+            mine.blocks[size_t(i)].animId = 10 * i;
+        AnimFile theirs = mine;
+        theirs.blocks.erase(theirs.blocks.begin() + 1);
+        theirs.blocks[1].speed = 2.0f;
+        theirs.blocks[1].actions[1].args[0] = 9.0f;
+        theirs.blocks[1].actions.pop_back();
+        theirs.blocks[0].rotations.at(1, 2) = {1, 0, 0, 0};
+        theirs.blocks.push_back(mine.blocks[0]);
+        theirs.blocks.back().animId = 77;
+        compare(m_folder->save("mine.anim", mine), m_folder->save("theirs.anim", theirs));
+        QCOMPARE(find<QLabel>("lblCompare")->text(), QString("mine.anim with theirs.anim, different in: 4"));
+        QCOMPARE(rows(), QStringList({"Anim 0 (id 0)||", "> Rotation track 1||up to 180\u00B0 apart",
+                                      "> > key 2|[0, 0, 0, 1]|[1, 0, 0, 0]", "Anim 1 (id 10)|only here|",
+                                      "Anim 2 (id 20)||", "> speed|1|2", "> Action 1||",
+                                      "> > args|[0, 0, 0, 0, 0, 0, 0, 0]|[9, 0, 0, 0, 0, 0, 0, 0]",
+                                      "> Action 2|only here|", "Anim 2 (id 77)||only there"}));
+
+        // Looking changes nothing; Enter leads to the record.
+        auto *take = find<QToolButton>("btnCompareTake");
+        choose({"Anim 2 (id 20)", "Action 1"});
+        QTest::keyClick(tree(), Qt::Key_Return);
+        QCOMPARE(find<KVTreeView>("treeAnim")->currentRecord(),
+                 (RecordRef{RecordKind::AnimAction, {2, 1, 0}}));
+        QVERIFY(!isModified());
+        choose({"Anim 0 (id 0)", "Rotation track 1", "key 2"});
+        QVERIFY(!take->isEnabled());
+
+        // One field.
+        choose({"Anim 2 (id 20)", "speed"});
+        press("btnCompareTake");
+        QCOMPARE(find<QUndoView>("viewHistory")->stack()->undoText(), QString("Take from theirs.anim"));
+        QVERIFY(!rows().contains("> speed|1|2") && rows().contains("> Action 1||"));
+        undo();
+        QVERIFY(!isModified());
+        QTRY_VERIFY(rows().contains("> speed|1|2"));
+
+        // All at once: what goes, comes and changes, with an owner and what is in it.
+        tree()->selectAll();
+        press("btnCompareTake");
+        QCOMPARE(rows(), QStringList());
+        QCOMPARE(tree()->accessibleDescription(), QString("No record differs."));
+        save();
+        QCOMPARE(TestSupport::readFile(m_folder->path("mine.anim")), SampleModels::bytesOf(theirs));
+        undo();
+        save();
+        QCOMPARE(TestSupport::readFile(m_folder->path("mine.anim")), SampleModels::bytesOf(mine));
+
+        // The rows within, without their owners, in whatever order they were chosen.
+        QTRY_COMPARE(rows().size(), 10);
+        choose({"Anim 2 (id 20)", "Action 2"});
+        choose({"Anim 2 (id 20)", "Action 1", "args"}, QItemSelectionModel::Select);
+        choose({"Anim 1 (id 10)"}, QItemSelectionModel::Select);
+        press("btnCompareTake");
+        QCOMPARE(rows(), QStringList({"Anim 0 (id 0)||", "> Rotation track 1||up to 180\u00B0 apart",
+                                      "> > key 2|[0, 0, 0, 1]|[1, 0, 0, 0]", "Anim 1 (id 20)||",
+                                      "> speed|1|2", "Anim 2 (id 77)||only there"}));
+    }
+
+    void followsTheModelAndTheFile()
+    {
+        SkinnedMesh mine = SampleModels::plainMesh();
+        mine.vertices.resize(600);
+        SkinnedMesh theirs = mine;
+        for (SkinnedMeshVertex &vertex : theirs.vertices)
+            vertex.uv.setX(0.5f);
+        theirs.unknownA = 4;
+        const QString other = m_folder->save("theirs.skinnedmesh", theirs);
+        compare(m_folder->save("mine.skinnedmesh", mine), other);
+        QCOMPARE(tree()->topLevelItemCount(), 502);
+        QCOMPARE(rows().mid(0, 4),
+                 QStringList({"mine.skinnedmesh||", "> unknownA|0|4", "Vertex 0||", "> uv|[0, 0]|[0.5, 0]"}));
+        // The last row stands for all that have none.
+        choose({"and 100 more"});
+        press("btnCompareTake");
+        QCOMPARE(tree()->topLevelItemCount(), 501);
+        undo();
+        QTRY_COMPARE(tree()->topLevelItemCount(), 502);
+
+        // An edit here, and another program's there.
+        typeParent(*m_window, 3);
+        QTRY_VERIFY(rows().contains("Bone 1||"));
+        QCOMPARE(rows()[3], QString("> parent|3|0"));
+        QVERIFY(!theirs.write(m_folder->path("new.skinnedmesh")));
+        theirs = mine;
+        QVERIFY(!theirs.write(other));
+        press("btnCompareAgain");
+        QCOMPARE(rows(), QStringList({"Bone 1||", "> parent|3|0"}));
+        QVERIFY(TestSupport::writeFile(other, "short"));
+        press("btnCompareAgain");
+        QCOMPARE(rows(), QStringList());
+        QVERIFY(tree()->accessibleDescription().startsWith(
+            "theirs.skinnedmesh cannot be read: Attempting to read"));
+
+        // Another model has nothing to do with the file.
+        undo();
+        m_window->openFiles({m_folder->path("new.skinnedmesh")});
+        QTRY_VERIFY(tree()->accessibleDescription().startsWith("Nothing is compared."));
+        QVERIFY(!find<QToolButton>("btnCompareAgain")->isEnabled());
+    }
+
+private:
+    template <typename Widget>
+    Widget *find(const char *name) const
+    {
+        return ::find<Widget>(*m_window, name);
+    }
+    void compare(const QString &mine, const QString &theirs)
+    {
+        m_window->openFiles({mine});
+        Hand hand({Hand::file(theirs)});
+        QTest::keySequence(m_window.get(), QKeySequence("Ctrl+Shift+D"));
+        QCOMPARE(hand.seen, QStringList("Compare with File"));
+        QVERIFY(tree()->isVisible() && tree()->hasFocus());
+    }
+    QTreeWidget *tree() const { return find<QTreeWidget>("treeCompare"); }
+    /// "> record|here|there", a mark for each level.
+    QStringList rows() const
+    {
+        QStringList lines;
+        for (QTreeWidgetItemIterator item(tree()); *item; ++item) {
+            QString line = (*item)->text(0) + '|' + (*item)->text(1) + '|' + (*item)->text(2);
+            for (auto *owner = (*item)->parent(); owner; owner = owner->parent())
+                line.prepend("> ");
+            lines += line;
+        }
+        return lines;
+    }
+    void choose(const QStringList &path,
+                QItemSelectionModel::SelectionFlags flags = QItemSelectionModel::ClearAndSelect)
+    {
+        QTreeWidgetItem *found = tree()->invisibleRootItem();
+        for (const QString &text : path) {
+            QTreeWidgetItem *child = nullptr;
+            for (int i = 0; i < found->childCount() && !child; ++i)
+                child = found->child(i)->text(0) == text ? found->child(i) : nullptr;
+            QVERIFY2(child, qUtf8Printable(text));
+            found = child;
+        }
+        tree()->setCurrentItem(found, 0, flags | QItemSelectionModel::Rows);
+    }
+    void press(const char *button) const
+    {
+        QVERIFY2(find<QToolButton>(button)->isEnabled(), button);
+        QTest::mouseClick(find<QToolButton>(button), Qt::LeftButton);
+    }
+    void undo() const { QTest::keySequence(m_window.get(), QKeySequence::Undo); }
+    void save() const { QTest::keySequence(m_window.get(), QKeySequence::Save); }
+    bool isModified() const { return m_window->windowTitle().endsWith(QStringLiteral(" * ")); }
+
+    std::unique_ptr<ProgramFolder> m_folder;
+    std::unique_ptr<MainWindow> m_window;
+};
+
+QTEST_MAIN(tst_Compare)
+#include "tst_compare.moc"

@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
+#include <QResizeEvent>
 #include <QTimer>
 #include <QWindow>
 
@@ -93,7 +94,7 @@ bool RenewableGLWidget::isContextLost() const
 
 bool RenewableGLWidget::checkContext()
 {
-    if (!context() && !size().isEmpty()) {
+    if (!context() && !m_isLeft && !size().isEmpty()) {
         fail(tr("Models cannot be drawn: the system has OpenGL, but gives the window no context of it.\n"
                 "Everything else works on."));
         return false;
@@ -133,21 +134,56 @@ void RenewableGLWidget::renewContext()
     QOpenGLWidget::event(&change);
 }
 
+bool RenewableGLWidget::isOnScreen() const
+{
+    const QWindow *shown = window()->windowHandle();
+    return shown && shown->isExposed();
+}
+
+// While a window is not on the screen its layouts are at work, and each size would cost a framebuffer.
+void RenewableGLWidget::leaveForScreen()
+{
+    m_isLeft = true;
+    if (QWindow *shown = window()->windowHandle())
+        shown->installEventFilter(this);
+}
+
+bool RenewableGLWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Expose && m_isLeft && isOnScreen()) {
+        watched->removeEventFilter(this);
+        QResizeEvent resize(size(), size());
+        m_isPaintless = true;
+        resizeEvent(&resize);
+        m_isPaintless = false;
+        update();
+    }
+    return QOpenGLWidget::eventFilter(watched, event);
+}
+
+bool RenewableGLWidget::event(QEvent *event)
+{
+    // The toolkit makes what the view draws into then, too.
+    if (event->type() == QEvent::Show && !isOnScreen()) {
+        leaveForScreen();
+        return QWidget::event(event);
+    }
+    return QOpenGLWidget::event(event);
+}
+
 void RenewableGLWidget::paintEvent(QPaintEvent *event)
 {
-    // The toolkit paints with every change of the size, before it paints the window. While a layout is still
-    // at work, and the window not on the screen, these are frames for nobody.
-    const QWindow *shown = window()->windowHandle();
-    if (m_isResizing && !(shown && shown->isExposed()))
-        return;
-    if (!context() || takeContext())
+    // The toolkit paints with every change of the size, before it paints the window. Where the window is just
+    // coming to the screen these are frames for nobody.
+    if (!m_isPaintless && (!context() || takeContext()))
         QOpenGLWidget::paintEvent(event);
 }
 
 void RenewableGLWidget::resizeEvent(QResizeEvent *event)
 {
-    m_isResizing = true;
+    if (!isOnScreen())
+        return leaveForScreen();
+    m_isLeft = false;
     if (!context() || takeContext())
         QOpenGLWidget::resizeEvent(event);
-    m_isResizing = false;
 }

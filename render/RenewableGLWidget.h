@@ -53,18 +53,23 @@ protected:
     /// Of the context, which is current: who made the driver, what it draws with, its version.
     static QString driver();
 
+    bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    bool isOnScreen() const;
+    void leaveForScreen();
     void noticeLoss();
     void onLoss();
     void workOn();
 
     QString m_failure;
     bool m_lossNoticed = false;
-    bool m_isResizing = false;
-    int m_losses = 0; ///< of a context, in close succession
+    bool m_isLeft = false;      ///< what the view draws into has not followed its size
+    bool m_isPaintless = false; ///< its window will be painted at once
+    int m_losses = 0;           ///< of a context, in close succession
     QElapsedTimer m_sinceLoss;
     std::function<bool()> m_step;
     QTimer m_turns;

@@ -94,8 +94,6 @@ MainWindow::MainWindow(QWidget *parent)
     m_shortcuts = new Shortcuts(*m_ui->menuBar, flightCommands({m_ui->viewSkinned, m_ui->viewStatic}), this);
     m_preferences = new Preferences(*m_shortcuts, this);
     m_named = new NamedFiles(*m_files, *m_importExport, *m_preferences, *m_panes, this);
-    embedViewport(m_ui->viewSkinned, m_ui->vlviewSkinned);
-    embedViewport(m_ui->viewStatic, m_ui->vlviewStatic);
     m_layout = new WindowLayout(this);
     auto *geometry = new WindowGeometry(this);
     m_layout->restore();
@@ -106,6 +104,9 @@ MainWindow::MainWindow(QWidget *parent)
     createPrompts();
     m_session =
         new Session(*m_files, m_panes->all(), {m_ui->tabWidget, m_ui->tabTrees}, *m_ui->animTrackFrame, this);
+    // The graphics driver is waited for.
+    embedViewport(m_ui->viewSkinned, m_ui->vlviewSkinned);
+    embedViewport(m_ui->viewStatic, m_ui->vlviewStatic);
 }
 
 MainWindow::~MainWindow()

@@ -45,6 +45,7 @@ private slots:
     void cleanup();
     void theViewComesBack_data();
     void theViewComesBack();
+    void aWindowThatIsBeingLaidOut();
     void aModelOpenedMeanwhileIsShown();
     void aDriverThatGoesOnFailing();
     void noContextIsToBeHad();
@@ -162,6 +163,30 @@ void tst_LostContext::theViewComesBack()
     QVERIFY(playback().playState == PlayState::Paused);
     QCOMPARE(m_view->failure(), QString());
     QCOMPARE(m_log.size(), lost.count()); // a line a loss, and none of anything else
+    layout.removeWidget(m_view.get());
+    m_view->setParent(nullptr);
+}
+
+// Each size would cost a framebuffer.
+void tst_LostContext::aWindowThatIsBeingLaidOut()
+{
+    QSignalSpy made(m_view.get(), &QOpenGLWidget::aboutToResize);
+    QWidget window;
+    QHBoxLayout layout(&window);
+    layout.addWidget(m_view.get());
+    window.show();
+    window.resize(500, 300);
+    m_view->setSkinnedMeshMode(true);
+    m_view->setSkinnedMesh(&m_view->mesh);
+    window.resize(400, 300);
+    layout.activate();
+    QVERIFY(!m_view->context());
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QTRY_VERIFY(m_view->frames > 0);
+    QCOMPARE(made.count(), 1);
+    QVERIFY(m_view->count(isWhite) > 100);
+    window.resize(500, 300);
+    QTRY_COMPARE(made.count(), 2);
     layout.removeWidget(m_view.get());
     m_view->setParent(nullptr);
 }

@@ -17,6 +17,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 
 KVTreeView::KVTreeView(QWidget *parent)
@@ -207,7 +208,7 @@ QVector<RecordRef> KVTreeView::selectedRefs() const
     QVector<RecordRef> refs;
     for (const QTreeWidgetItem *item : selectedItems())
         refs.append(static_cast<const RecordItem *>(item)->record());
-    std::sort(refs.begin(), refs.end(), isBefore);
+    sortInOrder(refs, isBefore);
     return refs;
 }
 
@@ -219,7 +220,7 @@ QVector<RecordIndex> KVTreeView::selectedRecords(RecordKind kind) const
         if (record.kind == kind)
             records.append(record.index);
     }
-    std::sort(records.begin(), records.end());
+    sortInOrder(records, std::less<>());
     return records;
 }
 
@@ -287,16 +288,18 @@ void KVTreeView::onRecordsChanged(const QVector<RecordRef> &records)
     viewport()->update();
 
     // An edit of what is selected keeps the selection; anything else is brought into view.
-    const QVector<RecordRef> refs = selectedRefs();
-    const QSet<RecordRef> selected(refs.begin(), refs.end());
-    const auto isSelected = [&selected](const RecordRef &record) { return selected.contains(record); };
-    if (records.contains(currentRecord()) && std::all_of(records.begin(), records.end(), isSelected))
+    QVector<RecordRef> sorted = records;
+    sortInOrder(sorted, isBefore);
+    sorted.erase(std::unique(sorted.begin(), sorted.end()), sorted.end());
+    const QVector<RecordRef> selected = selectedRefs();
+    if (sorted.contains(currentRecord()) &&
+        std::includes(selected.begin(), selected.end(), sorted.begin(), sorted.end(), isBefore))
         return notifyCurrent();
     // A jump over several steps changes records of several kinds: a page shows those of one.
-    QVector<RecordRef> sorted;
-    std::copy_if(records.begin(), records.end(), std::back_inserter(sorted),
-                 [&records](const RecordRef &record) { return record.kind == records.last().kind; });
-    std::sort(sorted.begin(), sorted.end(), isBefore);
+    sorted.erase(
+        std::remove_if(sorted.begin(), sorted.end(),
+                       [&records](const RecordRef &record) { return record.kind != records.last().kind; }),
+        sorted.end());
     letThrough(sorted);
     setSelected(sorted, records.last());
 }

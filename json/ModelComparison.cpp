@@ -14,7 +14,7 @@ namespace {
 using State = RecordDifference::State;
 
 /// Longer lists are counted instead of quoted.
-constexpr size_t MostQuoted = 12;
+constexpr size_t MostWritten = 12;
 
 template <typename Record>
 constexpr RecordKind kindOfRecord = RecordKind::None;
@@ -120,7 +120,7 @@ private:
             others += !sameBits(a[i], b[i]);
         if (others == 0)
             return;
-        if (a.size() <= MostQuoted && b.size() <= MostQuoted)
+        if (a.size() <= MostWritten && b.size() <= MostQuoted)
             return tell(difference, field, quote(a), quote(b), isBound);
         constexpr bool areFrames = std::is_same_v<Value, AnimFrame>;
         const auto counted = [](size_t count) {

@@ -120,7 +120,7 @@ private:
             others += !sameBits(a[i], b[i]);
         if (others == 0)
             return;
-        if (a.size() <= MostWritten && b.size() <= MostQuoted)
+        if (a.size() <= MostWritten && b.size() <= MostWritten)
             return tell(difference, field, quote(a), quote(b), isBound);
         constexpr bool areFrames = std::is_same_v<Value, AnimFrame>;
         const auto counted = [](size_t count) {

@@ -4914,6 +4914,33 @@ Hände und Füße (x0.25): %6</translation>
     </message>
 </context>
 <context>
+    <name>RecordEdits</name>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Verdoppeln</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>The text of the clipboard cannot be pasted here. Line %1, column %2: %3</source>
+        <translation>Der Text der Zwischenablage kann hier nicht eingefügt werden. Zeile %1, Spalte %2: %3</translation>
+    </message>
+</context>
+<context>
     <name>RecordFields</name>
     <message>
         <source>Bounding Box Min</source>
@@ -6627,6 +6654,22 @@ So lassen?</translation>
     <message>
         <source>Fewer frames: the last ones go, with their keys in all tracks. More: the last keys are repeated.</source>
         <translation>Weniger Frames: Die letzten fallen weg, mit ihren Keys in allen Spuren. Mehr: Die letzten Keys werden wiederholt.</translation>
+    </message>
+    <message>
+        <source>Paste Child Bone</source>
+        <translation>Kindknochen einfügen</translation>
+    </message>
+    <message>
+        <source>Copy Child Bone</source>
+        <translation>Kindknochen kopieren</translation>
+    </message>
+    <message>
+        <source>Paste Key Frame Action</source>
+        <translation>Keyframe-Aktion einfügen</translation>
+    </message>
+    <message>
+        <source>Copy Key Frame Action</source>
+        <translation>Keyframe-Aktion kopieren</translation>
     </message>
 </context>
 <context>

@@ -81,6 +81,13 @@ const QVector<const RecordRow *> &childRows(RecordKind kind)
     return table[size_t(kind)];
 }
 
+bool belongsTo(RecordKind kind, RecordKind root)
+{
+    while (recordRow(kind)->parent != RecordKind::None)
+        kind = recordRow(kind)->parent;
+    return kind == root;
+}
+
 QIcon recordIcon(RecordKind kind)
 {
     // A tree shows few of them: each is made when it is first wanted.

@@ -30,6 +30,8 @@ struct RecordRow
 const RecordRow *recordRow(RecordKind kind);
 /// The rows whose parent is `kind`, by position.
 const QVector<const RecordRow *> &childRows(RecordKind kind);
+/// Whether records of the kind stand somewhere below the root.
+bool belongsTo(RecordKind kind, RecordKind root);
 QIcon recordIcon(RecordKind kind);
 
 /// The positions that lead from the top of the tree to a record's item.

@@ -7,6 +7,7 @@
 #include "ChangeSizeDialog.h"
 #include "Icons.h"
 #include "KVTreeView.h"
+#include "RecordEdits.h"
 #include "RecordItem.h"
 #include "RecordTable.h"
 #include "Shortcuts.h"
@@ -30,13 +31,6 @@ void setExpandedBelow(const KVTreeView &tree, RecordItem *item, bool expanded)
         item->setExpanded(expanded);
 }
 
-bool belongsTo(RecordKind kind, RecordKind root)
-{
-    while (recordRow(kind)->parent != RecordKind::None)
-        kind = recordRow(kind)->parent;
-    return kind == root;
-}
-
 QString trackConsequence()
 {
     return StructureActions::tr(
@@ -57,6 +51,9 @@ const std::vector<StructureActions::Offer> &StructureActions::offers()
         {R::HotPoint,     Remove,     QT_TR_NOOP("Remove Hot Point"),           &A::OnActionRemoveHotPoint},
         {R::HotPoint,     Copy,       QT_TR_NOOP("Copy Hot Point"),             &A::OnActionCopyHotPoint},
         {R::HotPoint,     Paste,      QT_TR_NOOP("Paste Hot Point"),            &A::OnActionPasteHotPoint},
+        {R::ChildBones,   Paste,      QT_TR_NOOP("Paste Child Bone"),           nullptr},
+        {R::ChildBone,    Copy,       QT_TR_NOOP("Copy Child Bone"),            nullptr},
+        {R::ChildBone,    Paste,      QT_TR_NOOP("Paste Child Bone"),           nullptr},
         {R::SkinnedMesh,  CopyFlags,  QT_TR_NOOP("Copy Bone Flags"),            &A::OnSkinMeshCopyBoneFlags},
         {R::Bones,        CopyFlags,  QT_TR_NOOP("Copy Bone Flags"),            &A::OnSkinMeshCopyBoneFlags},
         {R::Bone,         CopyFlags,  QT_TR_NOOP("Copy Bone Flags"),            &A::OnSkinMeshCopyBoneFlags},
@@ -70,6 +67,9 @@ const std::vector<StructureActions::Offer> &StructureActions::offers()
         {R::AnimActions,  Add,        QT_TR_NOOP("Add Key Frame Action"),       &A::OnActionAddAnimAction},
         {R::AnimAction,   Add,        QT_TR_NOOP("Add Key Frame Action"),       &A::OnActionAddAnimAction},
         {R::AnimAction,   Remove,     QT_TR_NOOP("Remove Key Frame Action"),    &A::OnActionRemoveAnimAction},
+        {R::AnimActions,  Paste,      QT_TR_NOOP("Paste Key Frame Action"),     nullptr},
+        {R::AnimAction,   Copy,       QT_TR_NOOP("Copy Key Frame Action"),      nullptr},
+        {R::AnimAction,   Paste,      QT_TR_NOOP("Paste Key Frame Action"),     nullptr},
         {R::AnimFrames,   ChangeSize, QT_TR_NOOP("Change Frame Count…"),       &A::OnActionEditFrameCount},
         {R::Translations, ChangeSize, QT_TR_NOOP("Change Translation Count…"), &A::OnActionEditTranslationCount},
         {R::Rotations,    ChangeSize, QT_TR_NOOP("Change Rotation Count…"),    &A::OnActionEditRotationCount},
@@ -104,6 +104,7 @@ StructureActions::StructureActions(Shown<SkinnedMeshDocument> skinnedMesh, Shown
             &StructureActions::OnStaticMeshCustomContextMenu);
     for (const TreeMenu &menu : m_menus) {
         connect(menu.tree, &KVTreeView::currentRecordChanged, this, [this, &menu] { updateMenu(menu); });
+        connect(menu.menu, &QMenu::aboutToHide, this, [this, &menu] { updateMenu(menu); });
         updateMenu(menu);
     }
 }
@@ -146,11 +147,15 @@ StructureActions::TreeMenu StructureActions::createMenu(Document &document, KVTr
         const Look &look = looks[verb];
         QAction *action = addAction(look.icon, tr(first->text), look.id, look.name);
         action->setShortcut(look.keys);
-        connect(action, &QAction::triggered, this, [this, tree, verb] {
-            if (const Offer *chosen = findOffer(tree->currentRecord().kind, verb))
-                (this->*chosen->slot)();
-        });
+        connect(action, &QAction::triggered, this,
+                [this, &document, verb] { choose(m_menus[size_t(document.kind().type)], verb); });
         made.verbs[verb] = action;
+    }
+
+    if (document.rootKind() != RecordKind::StaticMesh) {
+        made.edits = new RecordEdits(m_skinnedMesh.document, m_anim.document, tree, m_window);
+        made.menu->insertAction(made.verbs[Copy], made.edits->cutAction());
+        made.menu->addActions(made.edits->actions());
     }
 
     made.menu->addSeparator();
@@ -186,10 +191,25 @@ StructureActions::TreeMenu StructureActions::createMenu(Document &document, KVTr
     return made;
 }
 
-void StructureActions::updateMenu(const TreeMenu &menu) const
+void StructureActions::choose(const TreeMenu &menu, Verb verb)
+{
+    const Offer *chosen = findOffer(menu.tree->currentRecord().kind, verb);
+    if (!chosen || (verb == Paste && menu.edits->paste()))
+        return;
+    if (chosen->slot)
+        (this->*chosen->slot)();
+    if (verb == Copy)
+        menu.edits->copy();
+}
+
+/// Keys paste whatever there is by then; the menu tells beforehand.
+void StructureActions::updateMenu(const TreeMenu &menu, bool canPasteText) const
 {
     const RecordKind kind = menu.tree->currentRecord().kind;
-    const bool canPaste = menu.tree == m_anim.tree ? m_copiedBlock.has_value() : m_copiedHotPoint.has_value();
+    const bool canPaste =
+        canPasteText || (menu.tree == m_anim.tree ? m_copiedBlock.has_value() : m_copiedHotPoint.has_value());
+    if (menu.edits)
+        menu.edits->update();
     for (const Verb verb : {Add, Remove, Copy, Paste, ChangeSize, CopyFlags}) {
         QAction *action = menu.verbs[verb];
         if (!action)
@@ -207,7 +227,7 @@ void StructureActions::updateMenu(const TreeMenu &menu) const
 
 void StructureActions::popUp(const TreeMenu &menu, const QPoint &position)
 {
-    updateMenu(menu);
+    updateMenu(menu, RecordEdits::hasText());
     menu.menu->popup(menu.tree->viewport()->mapToGlobal(position));
 }
 

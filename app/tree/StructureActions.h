@@ -10,6 +10,7 @@
 class KVTreeView;
 class QAction;
 class QMenu;
+class RecordEdits;
 class QWidget;
 
 /// What the context menus of the trees offer: adding, removing, copying and pasting records, changing the
@@ -57,7 +58,7 @@ public slots:
 
 private:
     enum Verb { Add, Remove, Copy, Paste, ChangeSize, CopyFlags, VerbCount };
-    /// What a kind of record offers for a verb, and who does it.
+    /// What a kind of record offers for a verb, and who does it; for copying and pasting beside RecordEdits.
     struct Offer
     {
         RecordKind kind;
@@ -71,6 +72,7 @@ private:
     {
         KVTreeView *tree = nullptr;
         QMenu *menu = nullptr;
+        RecordEdits *edits = nullptr; ///< null where no list can be edited
         std::array<QAction *, VerbCount> verbs{};
         QAction *expand = nullptr;
         QAction *collapse = nullptr;
@@ -79,7 +81,8 @@ private:
     static const std::vector<Offer> &offers();
     static const Offer *findOffer(RecordKind kind, Verb verb);
     TreeMenu createMenu(Document &document, KVTreeView *tree);
-    void updateMenu(const TreeMenu &menu) const;
+    void choose(const TreeMenu &menu, Verb verb);
+    void updateMenu(const TreeMenu &menu, bool canPasteText = true) const;
     void popUp(const TreeMenu &menu, const QPoint &position);
 
     template <typename Command, typename DocumentType>

@@ -39,6 +39,7 @@ private slots:
     void init()
     {
         TestSupport::useSettingsHome(m_home);
+        QApplication::clipboard()->clear();
         Settings::HideAnimData.setValue(false);
         m_panes.reset();
         m_window = std::make_unique<QWidget>();
@@ -222,11 +223,12 @@ private slots:
             menu->close();
         };
         check(ref(K::Bone, 1), {"Copy Bone Flags"});
-        check(ref(K::HotPoint, 1),
-              {"Add Hot Point", "Remove Hot Point", "Copy Hot Point", "Paste Hot Point (off)"});
+        check(ref(K::HotPoint, 1), {"Add Hot Point", "Remove Hot Point", "Cut", "Copy Hot Point",
+                                    "Paste Hot Point (off)", "Duplicate", "Move Up", "Move Down"});
         check(ref(K::SkinnedSurface, 0), {});
-        check(ref(K::AnimBlock, 1), {"Add Animation", "Remove Animation", "Copy Animation",
-                                     "Paste Animation (off)", "&Expand All Below", "&Collapse All Below"});
+        check(ref(K::AnimBlock, 1),
+              {"Add Animation", "Remove Animation", "Cut", "Copy Animation", "Paste Animation (off)",
+               "Duplicate", "Move Up", "Move Down", "&Expand All Below", "&Collapse All Below"});
         check(ref(K::Rotations, 1), {"Change Rotation Count…"});
     }
 
@@ -281,7 +283,7 @@ private slots:
                 });
                 select(row.group);
                 QMenu *menu = openMenu(&anim().tree);
-                menu->setActiveAction(menu->actions().at(4));
+                menu->setActiveAction(menu->actions().at(5));
                 QTest::keyClick(menu, Qt::Key_Return);
                 QVERIFY(asked);
                 QCOMPARE(notices, text[0] ? 1 : 0);
@@ -293,6 +295,108 @@ private slots:
             QVERIFY(item->isExpanded() && item->text(0).endsWith(QLatin1String("(7)")));
             QCOMPARE(item->childCount(), 7);
             QVERIFY(anim().undo().isClean());
+        }
+    }
+
+    void recordsTravelAsText()
+    {
+        struct Row
+        {
+            RecordRef first, second, group;
+            const char *key;
+        };
+        const Row rows[] = {
+            {ref(K::HotPoint, 0), ref(K::HotPoint, 1), ref(K::HotPoints), "hotPoints"},
+            {ref(K::ChildBone, 0, 1), ref(K::ChildBone, 0, 2), ref(K::ChildBones, 0), "childBones"},
+            {ref(K::AnimBlock, 0), ref(K::AnimBlock, 1), ref(K::AnimFile), "blocks"},
+            {ref(K::AnimAction, 1, 0), ref(K::AnimAction, 1, 1), ref(K::AnimActions, 1), "actions"},
+        };
+        for (const Row &row : rows) {
+            init();
+            Settings::HideMeshData.setValue(false);
+            mesh().open(SampleModels::skinnedMesh());
+            const bool isMesh = isOfMesh(row.first);
+            KVTreeView *tree = select(row.first);
+            const auto bytes = [&] { return isMesh ? mesh().bytes() : anim().bytes(); };
+            QUndoStack &stack = isMesh ? mesh().undo() : anim().undo();
+            const auto press = [&](const char *keys) {
+                QTest::keySequence(tree, QKeySequence(QLatin1String(keys)));
+            };
+            const auto both = [&] {
+                tree->selectRecords({row.first, row.second}, row.first);
+                return tree->selectedRecords(row.first.kind);
+            };
+            const QByteArray before = bytes();
+            const size_t at = row.first.kind == K::HotPoint || row.first.kind == K::AnimBlock ? 0 : 1;
+            const QVector<RecordIndex> indexes = both();
+            QCOMPARE(indexes.size(), 2);
+
+            press("Ctrl+C");
+            const QString text = QApplication::clipboard()->text();
+            QVERIFY2(text.startsWith(QStringLiteral("{\n \"%1\": [").arg(row.key)), qUtf8Printable(text));
+            QCOMPARE(bytes(), before);
+            // Out and in again: nothing has changed; the step before is one.
+            press("Ctrl+X");
+            const QByteArray without = bytes();
+            QVERIFY(without != before);
+            QCOMPARE(stack.count(), 1);
+            tree = indexes[0][at] == 0 ? select(row.group) : select({row.first.kind, row.first.index});
+            if (indexes[0][at] > 0) {
+                RecordRef last = row.first;
+                --last.index[at];
+                select(last);
+            }
+            press("Ctrl+V");
+            QCOMPARE(bytes(), before);
+            QCOMPARE(tree->selectedRecords(row.first.kind), indexes);
+            QCOMPARE(stack.count(), 2);
+            stack.undo();
+            QCOMPARE(bytes(), without);
+            stack.undo();
+            QCOMPARE(bytes(), before);
+
+            // A copy of each behind them, as the text editor of another program may have it, too.
+            both();
+            press("Ctrl+D");
+            const QByteArray twice = bytes();
+            QVERIFY(twice.size() > before.size());
+            stack.undo();
+            select(row.second);
+            QApplication::clipboard()->setText(text.mid(text.indexOf('[')).section(']', 0, -2) + "]\r\n");
+            press("Ctrl+V");
+            QCOMPARE(bytes(), twice);
+            stack.undo();
+
+            // Up and down again, and not beyond the ends.
+            select(row.second);
+            press("Ctrl+Shift+Up");
+            QVERIFY(tree->currentRecord() == row.first);
+            QVERIFY(row.first.kind == K::AnimAction || bytes() != before);
+            press("Ctrl+Shift+Down");
+            QCOMPARE(bytes(), before);
+            stack.setIndex(0);
+            tree->selectRecords({row.first, row.second}, row.first);
+            for (int i = 0; i < 4; ++i)
+                press("Ctrl+Shift+Up");
+            QCOMPARE(stack.index(), int(indexes[0][at]));
+
+            // What does not fit says why.
+            stack.setIndex(0);
+            for (const char *other : {"{\"vertices\": []}", "[{}]", "[70000]", "{"}) {
+                m_window->activateWindow();
+                QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+                QString said;
+                QTimer::singleShot(0, this, [&said] {
+                    auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+                    said = box->text();
+                    box->accept();
+                });
+                QApplication::clipboard()->setText(other);
+                select(row.first);
+                press("Ctrl+V");
+                QVERIFY2(said.contains("Line 1, column"), qUtf8Printable(other + said));
+                QCOMPARE(bytes(), before);
+            }
         }
     }
 

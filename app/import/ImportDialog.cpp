@@ -61,7 +61,12 @@ ImportDialog::ImportDialog(Mode mode, QWidget *parent)
     updateImportButton();
 }
 
-ImportDialog::~ImportDialog() = default;
+ImportDialog::~ImportDialog()
+{
+    // The toolkit hides it later; on some systems the field with the focus ends its editing there and then.
+    for (QObject *part : findChildren<QObject *>())
+        part->disconnect(this);
+}
 
 void ImportDialog::readChoices()
 {

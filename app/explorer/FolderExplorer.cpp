@@ -153,7 +153,7 @@ void FolderExplorer::createEmptyPage()
     m_emptyLabel->setObjectName(m_names.of("lbl%1FolderEmpty"));
     m_emptyLabel->setAlignment(Qt::AlignCenter);
     m_emptyLabel->setWordWrap(true);
-    m_emptyLabel->setMinimumWidth(1); // however long a folder's name is
+    m_emptyLabel->setMinimumSize(1, fontMetrics().height()); // however long a folder's name is
     m_emptyLabel->setTextFormat(Qt::PlainText);
 
     m_emptyPage->setFrameStyle(m_tree->frameStyle());

@@ -12,7 +12,8 @@ shift 2
 began=$SECONDS
 
 # Nothing is left out in silence.
-known=$(ctest --test-dir "$build" -N | sed -n 's/^ *Test *#[0-9]*: //p' && sed -n 's/^\(tst_[a-z0-9]*\)  .*/\1/p' "$here/tests-left-out.txt")
+known=$(ctest --test-dir "$build" -N | sed -n 's/^ *Test *#[0-9]*: //p'
+    sed -n 's/^\(tst_[a-z0-9]*\)  .*/\1/p' "$here/tests-left-out.txt")
 forgotten=$(find "$here/../../tests" -name 'tst_*.cpp' -printf '%f\n' | sed 's/\.cpp$//' | grep -vxF "$known" || true)
 [[ -z $forgotten ]] || {
     printf 'neither built nor in tests-left-out.txt:\n%s\n' "$forgotten" >&2

@@ -42,6 +42,11 @@ private:
     void press(Qt::MouseButton button) { sendMouse(QEvent::MouseButtonPress, {}, button, button); }
     void release(Qt::MouseButton button) { sendMouse(QEvent::MouseButtonRelease, {}, button, Qt::NoButton); }
     void playBlock(float speed, int frames);
+    /// Of the clock, in milliseconds.
+    int interval() const
+    {
+        return QAbstractEventDispatcher::instance()->registeredTimers(m_view.get()).first().interval;
+    }
 
     QTemporaryDir m_home;
     std::unique_ptr<Viewport> m_view;
@@ -346,9 +351,6 @@ void tst_ViewportInput::pausedOrHiddenViewRests()
     QTest::qWait(500);
     QCOMPARE(m_view->frames, frames);
     // Nor does it wake while the mouse goes over it.
-    const auto interval = [this] {
-        return QAbstractEventDispatcher::instance()->registeredTimers(m_view.get()).first().interval;
-    };
     const int idle = interval();
     sendMouse(QEvent::MouseMove, {5, 5}, Qt::NoButton, Qt::NoButton);
     QCOMPARE(interval(), idle);
@@ -390,6 +392,7 @@ void tst_ViewportInput::playingFollowsTheClock()
 {
     playBlock(20.0f, 201);
     m_view->open();
+    QTRY_VERIFY(interval() > 16); // at rest
     QSignalSpy shown(m_view.get(), &KVOpenGLWidget::frameShown);
     QSignalSpy label(m_view.get(), &KVOpenGLWidget::frameLabelChanged);
     QElapsedTimer clock;

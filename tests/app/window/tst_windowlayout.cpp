@@ -32,7 +32,8 @@ private slots:
             QVERIFY(screen->availableSize().width() > window.frameGeometry().width());
             QVERIFY(screen->availableSize().height() > window.frameGeometry().height());
             QVERIFY2(window.minimumSizeHint().width() <= 960, language);
-            QVERIFY(window.minimumSizeHint().height() <= 540);
+            QVERIFY2(window.minimumSizeHint().height() <= 540,
+                     qPrintable(QString::number(window.minimumSizeHint().height())));
             for (const int width : {960, 1440}) {
                 window.resize(width, 560);
                 for (const char *name : {"btnAnimTrackMarkForward", "sliderAnimTrack", "sbAnimTrackSpeed"}) {

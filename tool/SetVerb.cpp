@@ -40,7 +40,7 @@ int set(const QStringList &arguments)
         return line.refuse(QStringLiteral("A field and a value are missing."));
     if (operands.size() % 2 == 0)
         return line.refuse(QStringLiteral("There is no value for '%1'.").arg(operands.last()));
-    const QString file = operands.first();
+    const QString &file = operands.first();
     const QString target = line.isSet(QStringLiteral("output")) ? line.value(QStringLiteral("output")) : file;
     if (!line.isSet(QStringLiteral("force")) && isTaken(target) && !isOneFile(file, target)) {
         Output::refuseToReplace({target});
@@ -52,7 +52,7 @@ int set(const QStringList &arguments)
     QString error = readWholeModel(file, content, note);
     std::vector<PatchedField> changes;
     for (int i = 1; i < operands.size() && error.isEmpty(); i += 2) {
-        const QString value = operands.at(i + 1);
+        const QString &value = operands.at(i + 1);
         error = patchModel(content.model, operands.at(i),
                            value.startsWith(QLatin1String(" -")) ? value.mid(1) : value, changes);
     }

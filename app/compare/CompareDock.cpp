@@ -7,6 +7,7 @@
 #include "FileComparison.h"
 #include "Icons.h"
 
+#include <QAction>
 #include <QDir>
 #include <QFileDialog>
 #include <QHBoxLayout>
@@ -95,8 +96,9 @@ void CompareDock::fill()
     const Document *document = m_comparison->document();
     const auto count = m_comparison->differences().size();
     m_tree->show(*m_comparison);
-    m_title->setVisible(document);
     if (!document) {
+        m_title->clear();
+        m_title->setToolTip(QString());
         m_tree->setEmptyText(tr("Nothing is compared. View \u25B8 Compare with File\u2026 chooses a file."));
     } else {
         const QString name = QFileInfo(m_comparison->path()).fileName();

@@ -45,19 +45,19 @@ RecordEdits::RecordEdits(SkinnedMeshDocument &mesh, AnimDocument &anim, KVTreeVi
     , m_tree(tree)
     , m_window(window)
 {
-    m_cut = addAction("remove", tr("Cut"), "actionTreeCut", QKeySequence::Cut, &RecordEdits::cut);
+    m_cut = addAction("", tr("Cut"), "actionTreeCut", QKeySequence::Cut, &RecordEdits::cut);
     m_actions += addAction("copy", tr("Duplicate"), "actionTreeDuplicate", QStringLiteral("Ctrl+D"),
                            &RecordEdits::duplicate);
-    m_actions += addAction("collapse", tr("Move Up"), "actionTreeMoveUp", QStringLiteral("Ctrl+Shift+Up"),
+    m_actions += addAction("", tr("Move Up"), "actionTreeMoveUp", QStringLiteral("Ctrl+Shift+Up"),
                            &RecordEdits::moveUp);
-    m_actions += addAction("expand", tr("Move Down"), "actionTreeMoveDown", QStringLiteral("Ctrl+Shift+Down"),
+    m_actions += addAction("", tr("Move Down"), "actionTreeMoveDown", QStringLiteral("Ctrl+Shift+Down"),
                            &RecordEdits::moveDown);
 }
 
 QAction *RecordEdits::addAction(const char *icon, const QString &text, const char *id,
                                 const QKeySequence &keys, void (RecordEdits::*slot)())
 {
-    auto *action = new QAction(namedIcon(QLatin1String(icon)), text, this);
+    auto *action = new QAction(*icon ? namedIcon(QLatin1String(icon)) : QIcon(), text, this);
     action->setShortcut(keys);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     nameShortcut(action, QLatin1String(id), QCoreApplication::translate("StructureActions", "Trees"),

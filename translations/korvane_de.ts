@@ -6074,6 +6074,17 @@ So lassen?</translation>
     </message>
 </context>
 <context>
+    <name>SimilarMenu</name>
+    <message>
+        <source>Select S&amp;imilar</source>
+        <translation>Ähn&amp;liche auswählen</translation>
+    </message>
+    <message>
+        <source>(empty)</source>
+        <translation>(leer)</translation>
+    </message>
+</context>
+<context>
     <name>SkinnedMeshCnodePage</name>
     <message>
         <source>Child Bone</source>

@@ -11,6 +11,7 @@
 #include "RecordItem.h"
 #include "RecordTable.h"
 #include "Shortcuts.h"
+#include "SimilarMenu.h"
 #include "SkinnedMeshCommands.h"
 #include "UndoSteps.h"
 
@@ -158,6 +159,7 @@ StructureActions::TreeMenu StructureActions::createMenu(Document &document, KVTr
         made.menu->addActions(made.edits->actions());
     }
 
+    made.menu->addMenu(new SimilarMenu(document, tree));
     made.menu->addSeparator();
     const auto addBranchAction = [&addAction, tree](const char *iconName, const QString &text, const char *id,
                                                     bool expanded) {

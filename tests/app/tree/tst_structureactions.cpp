@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Panes.h"
 #include "RecordItem.h"
+#include "SimilarMenu.h"
 #include "StructureActions.h"
 
 using SampleModels::bytesOf;
@@ -222,13 +223,14 @@ private slots:
             QCOMPARE(offered, texts + QStringList({"Undo (off)", "Redo (off)"}));
             menu->close();
         };
-        check(ref(K::Bone, 1), {"Copy Bone Flags"});
-        check(ref(K::HotPoint, 1), {"Add Hot Point", "Remove Hot Point", "Cut", "Copy Hot Point",
-                                    "Paste Hot Point (off)", "Duplicate", "Move Up", "Move Down"});
-        check(ref(K::SkinnedSurface, 0), {});
-        check(ref(K::AnimBlock, 1),
-              {"Add Animation", "Remove Animation", "Cut", "Copy Animation", "Paste Animation (off)",
-               "Duplicate", "Move Up", "Move Down", "&Expand All Below", "&Collapse All Below"});
+        check(ref(K::Bone, 1), {"Copy Bone Flags", "Select S&imilar"});
+        check(ref(K::HotPoint, 1),
+              {"Add Hot Point", "Remove Hot Point", "Cut", "Copy Hot Point", "Paste Hot Point (off)",
+               "Duplicate", "Move Up", "Move Down", "Select S&imilar"});
+        check(ref(K::SkinnedSurface, 0), {"Select S&imilar"});
+        check(ref(K::AnimBlock, 1), {"Add Animation", "Remove Animation", "Cut", "Copy Animation",
+                                     "Paste Animation (off)", "Duplicate", "Move Up", "Move Down",
+                                     "Select S&imilar", "&Expand All Below", "&Collapse All Below"});
         check(ref(K::Rotations, 1), {"Change Rotation Count…"});
     }
 
@@ -296,6 +298,33 @@ private slots:
             QCOMPARE(item->childCount(), 7);
             QVERIFY(anim().undo().isClean());
         }
+    }
+
+    void selectsWhatIsSimilar()
+    {
+        AnimFile file = animFile();
+        file.blocks[0].actions[0].frame = 3;
+        anim().open(file);
+        const auto choose = [](KVTreeView *tree, const QString &text) {
+            QMenu *menu = openMenu(tree);
+            auto *similar = tree->findChild<SimilarMenu *>();
+            emit similar->aboutToShow();
+            for (QAction *action : similar->actions()) {
+                if (action->text() == text)
+                    action->trigger();
+            }
+            menu->close();
+        };
+        // Of all blocks, where the same.
+        KVTreeView *tree = select(ref(K::AnimAction, 1, 1));
+        choose(tree, "Frame: 3");
+        QCOMPARE(tree->selectedRecords(K::AnimAction),
+                 QVector<RecordIndex>({{0, 0, 0}, {0, 1, 0}, {1, 1, 0}, {2, 1, 0}}));
+        QCOMPARE(tree->currentRecord(), ref(K::AnimAction, 1, 1));
+        tree = select(ref(K::Bone, 0));
+        choose(tree, "Flags: 0");
+        QCOMPARE(tree->selectedRecords(K::Bone), QVector<RecordIndex>({{0, 0, 0}, {2, 0, 0}}));
+        QVERIFY(mesh().undo().count() == 0 && anim().undo().count() == 0);
     }
 
     void recordsTravelAsText()

@@ -33,7 +33,8 @@ QString NumberRange::fit(double result, double &number) const
         return because(QT_TRANSLATE_NOOP("NumberRange", "That divides by 0 or is too large."));
     if (isWhole) {
         qint64 whole = 0;
-        if (!Expression::whole(result, whole) && result >= least && result <= most)
+        constexpr double mostExact = 9007199254740992.0; // beyond that all are whole
+        if (!Expression::whole(result, whole) && std::fabs(result) < mostExact)
             return because(QT_TRANSLATE_NOOP("NumberRange", "%1 is no whole number."));
         number = std::round(result);
     } else {

@@ -33,8 +33,12 @@ bool NumberText::parse(const QString &text, float &value)
     if (number.startsWith('+'))
         number.remove(0, 1);
     const char *end = number.constData() + number.size();
-    const auto [stop, error] = std::from_chars(number.constData(), end, value);
-    return error == std::errc() && stop == end && std::isfinite(value);
+    float parsed = 0.0f;
+    const auto [stop, error] = std::from_chars(number.constData(), end, parsed);
+    if (error != std::errc() || stop != end || !std::isfinite(parsed))
+        return false;
+    value = parsed;
+    return true;
 }
 
 double NumberText::written(float value)

@@ -28,18 +28,19 @@ struct Choice
     int first = 0;
     int last = -1;
     int words = 0; ///< so many of the path's; none: it names no records
+    bool isAll = false;
 };
 
 Choice choiceIn(const QStringList &words, int at, int count)
 {
     const QString word = words.value(at);
-    if (word == QLatin1String("*") || word == QLatin1String("all"))
-        return {0, count - 1, 1};
+    if (word == QLatin1String("*") || squashed(word) == QLatin1String("all"))
+        return {0, count - 1, 1, true};
     const QStringList ends = word.split(QLatin1Char('-'));
     bool areNumbers = ends.size() <= 2;
     for (const QString &end : ends) {
         bool isNumber = false;
-        end.toUShort(&isNumber);
+        end.toInt(&isNumber);
         areNumbers = areNumbers && isNumber;
     }
     return areNumbers ? Choice{ends.first().toInt(), ends.last().toInt(), 1} : Choice();
@@ -55,6 +56,8 @@ public:
     {}
 
     QString reason;
+    /// Whether there was anything to set.
+    bool isEmpty() const { return m_place == 0; }
 
     /// The words from `at` on are about a record, which the words before name as `place`.
     template <typename Record>
@@ -118,7 +121,15 @@ private:
     template <typename Visit>
     void each(const Choice &choice, int count, const QString &place, const Visit &visit)
     {
-        if (choice.last < choice.first || choice.last >= count) {
+        if (choice.isAll && count == 0)
+            return;
+        if (choice.last < choice.first) {
+            reason = QStringLiteral("%1-%2 goes from the larger number to the smaller.")
+                         .arg(choice.first)
+                         .arg(choice.last);
+            return;
+        }
+        if (choice.last >= count) {
             reason = count == 0 ? QStringLiteral("There is no '%1'.").arg(place.trimmed())
                                 : QStringLiteral("'%1' is from 0 to %2.").arg(place.trimmed()).arg(count - 1);
             return;
@@ -138,7 +149,7 @@ private:
         const QString owner = place + name + QLatin1Char(' ');
         const int behind = at + words;
         if constexpr (std::is_same_v<Record, AnimBlock>) {
-            if (m_words.value(behind) == QLatin1String("id"))
+            if (squashed(m_words.value(behind)) == QLatin1String("id"))
                 return applyById(records, behind + 1, owner);
         }
         const Choice choice = choiceIn(m_words, behind, int(records.size()));
@@ -176,7 +187,7 @@ private:
         if (words == 0 || tracks.words == 0)
             return false;
         int behind = at + words + 1;
-        if (m_words.value(behind) == QLatin1String("key"))
+        if (squashed(m_words.value(behind)) == QLatin1String("key"))
             ++behind;
         const Choice keys = choiceIn(m_words, behind, table.frameCount());
         if (keys.words == 0) {
@@ -365,5 +376,7 @@ QString patchModel(ModelJson::Model &model, const QString &path, const QString &
 {
     Patch patch(path, value, changes);
     std::visit([&patch](auto &each) { patch.record(each, 0, QString()); }, model);
+    if (patch.reason.isEmpty() && patch.isEmpty())
+        return QStringLiteral("There is no '%1'.").arg(path.simplified());
     return patch.reason;
 }

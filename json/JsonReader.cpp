@@ -188,13 +188,12 @@ QString JsonReader::decoded(std::string_view raw, const char *at)
             cursor += 2;
             continue;
         }
-        bool isNumber = false;
         const QByteArray digits = QByteArray(cursor, int(std::min<qint64>(6, last - cursor))).mid(2);
-        const ushort code = digits.toUShort(&isNumber, 16);
-        if (cursor[1] != 'u' || digits.size() != 4 || !isNumber || !std::isxdigit(uchar(digits[0])))
+        const auto isDigit = [](char each) { return std::isxdigit(uchar(each)) != 0; };
+        if (cursor[1] != 'u' || digits.size() != 4 || !std::all_of(digits.begin(), digits.end(), isDigit))
             fail(cursor, say(QT_TRANSLATE_NOOP("ModelJson", "There is no such escape: %1."))
                              .arg(QString::fromUtf8(cursor, int(std::min<qint64>(6, last - cursor)))));
-        text += QChar(code);
+        text += QChar(digits.toUShort(nullptr, 16));
         cursor += std::min<qint64>(6, last - cursor);
     }
     return text;

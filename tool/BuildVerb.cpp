@@ -6,7 +6,7 @@
 #include "ReplacedFiles.h"
 #include "Verbs.h"
 
-#include <QFileInfo>
+#include <QFile>
 
 #include <cstdio>
 
@@ -58,10 +58,9 @@ int build(const QStringList &arguments)
                 .arg(name, QString::number(problem.line), QString::number(problem.column), problem.text));
         return Failed;
     }
-    const QString kind = ModelJson::kindOf(content.model);
-    if (QFileInfo(target).suffix().toLower() != kind) {
-        Output::complain(
-            QStringLiteral("%1: The name does not end in .%2, as what this text makes.").arg(target, kind));
+    const QString reason = wrongName(target, ModelJson::kindOf(content.model));
+    if (!reason.isEmpty()) {
+        Output::complain(QStringLiteral("%1: %2").arg(target, reason));
         return Failed;
     }
     if (!line.isSet(QStringLiteral("force")) && isTaken(target)) {

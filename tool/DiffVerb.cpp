@@ -148,7 +148,7 @@ int diff(const QStringList &arguments)
     }
     if (contents[0].model.index() != contents[1].model.index()) {
         Output::complain(
-            QStringLiteral("A %1 cannot be compared with a %2.")
+            QStringLiteral("These are models of two kinds: %1 and %2.")
                 .arg(ModelJson::kindOf(contents[0].model), ModelJson::kindOf(contents[1].model)));
         return Trouble;
     }

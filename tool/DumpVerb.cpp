@@ -8,23 +8,37 @@
 #include "WholeFile.h"
 
 namespace {
-int writeSchema(const CommandLine &line, const QString &kind)
+/// Hands each part of a text to where the options want it: `write` is called with what takes one.
+template <typename Write>
+int put(const CommandLine &line, const Write &write)
+{
+    bool failed = false;
+    if (!line.isSet(QStringLiteral("output"))) {
+        write([&failed](const QByteArray &part) { failed = failed || Output::bytes(part); });
+        return failed ? Failed : Fine;
+    }
+    const QString target = line.value(QStringLiteral("output"));
+    const QString reason = wrongName(target, QString());
+    if (!reason.isEmpty()) {
+        Output::complain(QStringLiteral("%1: %2").arg(target, reason));
+        return Failed;
+    }
+    if (!line.isSet(QStringLiteral("force")) && isTaken(target)) {
+        Output::refuseToReplace({target});
+        return Failed;
+    }
+    WholeFile file(target);
+    write([&](const QByteArray &part) { failed = failed || file.write(part.constData(), part.size()); });
+    failed = failed || file.commit();
+    return Output::outcome(target, failed, file.reason()) ? Failed : Fine;
+}
+
+int putSchema(const CommandLine &line, const QString &kind)
 {
     if (!ModelJson::kinds().contains(kind))
         return line.refuse(QStringLiteral("--schema takes %1, not '%2'.")
                                .arg(ModelJson::kinds().join(QStringLiteral(", ")), kind));
-    return Output::bytes(ModelJson::schema(kind)) ? Failed : Fine;
-}
-
-int dumpInto(const QString &target, const ModelJson::Content &content)
-{
-    WholeFile file(target);
-    bool failed = false;
-    ModelJson::write(content, [&](const QByteArray &part) {
-        failed = failed || file.write(part.constData(), part.size());
-    });
-    failed = failed || file.commit();
-    return Output::outcome(target, failed, file.reason()) ? Failed : Fine;
+    return put(line, [&](const auto &take) { take(ModelJson::schema(kind)); });
 }
 } // namespace
 
@@ -44,7 +58,7 @@ int dump(const QStringList &arguments)
         return *end;
     const QString file = line.operands().first();
     if (line.isSet(QStringLiteral("schema")))
-        return writeSchema(line, file);
+        return putSchema(line, file);
 
     ModelJson::Content content;
     QString note;
@@ -55,15 +69,5 @@ int dump(const QStringList &arguments)
     }
     if (!note.isEmpty())
         Output::complain(QStringLiteral("%1: warning: %2").arg(file, note));
-    if (line.isSet(QStringLiteral("output"))) {
-        const QString target = line.value(QStringLiteral("output"));
-        if (!line.isSet(QStringLiteral("force")) && isTaken(target)) {
-            Output::refuseToReplace({target});
-            return Failed;
-        }
-        return dumpInto(target, content);
-    }
-    bool failed = false;
-    ModelJson::write(content, [&failed](const QByteArray &part) { failed = failed || Output::bytes(part); });
-    return failed ? Failed : Fine;
+    return put(line, [&](const auto &take) { ModelJson::write(content, take); });
 }

@@ -8,6 +8,7 @@
 #include "WholeFile.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 namespace {
 /// What a model and the bytes behind it are stored as; empty where the model refuses.
@@ -20,6 +21,16 @@ QByteArray storedBytes(const ModelJson::Content &content)
     return QByteArray(reinterpret_cast<const char *>(bytes.data()), int(bytes.size())) + content.behind;
 }
 } // namespace
+
+QString wrongName(const QString &path, const QString &kind)
+{
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    if (kind.isEmpty() && ModelJson::kinds().contains(suffix))
+        return QStringLiteral("The name ends in .%1, and this is a text.").arg(suffix);
+    if (!kind.isEmpty() && suffix != kind)
+        return QStringLiteral("The name does not end in .%1, as what this makes.").arg(kind);
+    return {};
+}
 
 QString readWholeModel(const QString &path, ModelJson::Content &content, QString &note)
 {

@@ -41,7 +41,8 @@ int set(const QStringList &arguments)
     if (operands.size() % 2 == 0)
         return line.refuse(QStringLiteral("There is no value for '%1'.").arg(operands.last()));
     const QString &file = operands.first();
-    const QString target = line.isSet(QStringLiteral("output")) ? line.value(QStringLiteral("output")) : file;
+    const bool isOther = line.isSet(QStringLiteral("output"));
+    const QString target = isOther ? line.value(QStringLiteral("output")) : file;
     if (!line.isSet(QStringLiteral("force")) && isTaken(target) && !isOneFile(file, target)) {
         Output::refuseToReplace({target});
         return Failed;
@@ -50,6 +51,8 @@ int set(const QStringList &arguments)
     ModelJson::Content content;
     QString note;
     QString error = readWholeModel(file, content, note);
+    if (error.isEmpty() && isOther)
+        error = wrongName(target, ModelJson::kindOf(content.model));
     std::vector<PatchedField> changes;
     for (int i = 1; i < operands.size() && error.isEmpty(); i += 2) {
         const QString &value = operands.at(i + 1);
@@ -62,7 +65,8 @@ int set(const QStringList &arguments)
     }
     if (!note.isEmpty())
         Output::complain(QStringLiteral("%1: warning: %2").arg(file, note));
-    if (writeWholeModel(target, content))
+    // A file that is to stay as it is keeps its bytes and its time.
+    if ((!changes.empty() || !isOneFile(file, target)) && writeWholeModel(target, content))
         return Failed;
     for (const PatchedField &change : changes)
         Output::line(

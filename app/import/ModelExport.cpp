@@ -232,8 +232,9 @@ void ModelExport::exportGltf(const std::vector<int> &blocks, const QString &titl
                             animated ? &m_anim.model() : nullptr);
     std::atomic_int percent{0};
     // The thread works on models of its own: what is open may be replaced meanwhile.
-    auto work = [=, &percent, skinned = m_skinnedMesh.copy(), anim = m_anim.copy(),
-                 rigid = m_staticMesh.copy()](const Background::Cancelled &cancelled) {
+    auto work = [=, &percent, skinned = isStatic ? nullptr : m_skinnedMesh.copy(),
+                 anim = animated ? m_anim.copy() : nullptr,
+                 rigid = isStatic ? m_staticMesh.copy() : nullptr](const Background::Cancelled &cancelled) {
         GltfOutcome outcome;
         GltfSource from = source;
         from.isCancelled = [&cancelled] { return cancelled.load(); };

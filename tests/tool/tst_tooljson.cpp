@@ -47,7 +47,9 @@ private slots:
 
     void setFields()
     {
-        const QString file = put("x.anim", SampleModels::bytesOf(SampleModels::plainAnim()) + "more");
+        AnimFile sample = SampleModels::plainAnim();
+        sample.blocks[0].actions.clear();
+        const QString file = put("x.anim", SampleModels::bytesOf(sample) + "more");
         const ToolRun run("set", {file, "block 1 speed", "-5", "block 2 frame scale", "-=.5"});
         QVERIFY2(run.exitCode == 0, qUtf8Printable(run.err));
         QCOMPARE(run.out, file + "\n  block 1 speed: 1 -> -5\n  block 2 frameScale: 1 -> 0.5\n");
@@ -62,7 +64,23 @@ private slots:
         QVERIFY2(refused.exitCode == 1 && refused.err.contains("blendEnd: -1 is not from 0"),
                  qUtf8Printable(refused.err));
         QCOMPARE(readFile(file), bytes);
+        QCOMPARE(ToolRun("set", {file, "block 0 speed", "=x"}).out, QString("  No value changed.\n"));
+        QCOMPARE(ToolRun("set", {file, "block 1 speed", "2*x-i"}).exitCode, 0);
+        QCOMPARE(ToolRun("set", {file, "block 1 speed", "50-x*6"}).out,
+                 file + "\n  block 1 speed: -10 -> 110\n");
+        QCOMPARE(ToolRun("set", {file, "block 1 speed", "-5"}).exitCode, 0);
+        QCOMPARE(readFile(file), bytes);
+        for (const QStringList &wrong : {QStringList{"block 0 blend end", "131070.8/2"},
+                                         {"block 2-1 speed", "2"},
+                                         {"block 0 action * frame", "2"},
+                                         {"block 70000 speed", "2"}})
+            QCOMPARE(ToolRun("set", QStringList(file) + wrong).exitCode, 1);
+        QCOMPARE(ToolRun("set -o", {path("new.skinnedmesh"), file, "block 0 speed", "2"}).exitCode, 1);
+        QCOMPARE(ToolRun("dump --force -o", {file, file}).exitCode, 1);
+        QCOMPARE(readFile(file), bytes);
         const QString other = put("y.anim", "mine");
+        QCOMPARE(ToolRun("set", {file, "Block * action ALL frame", "*=1", "-o", path("new.anim")}).exitCode,
+                 0);
         const QStringList words{"-o", other, file, "block 0 speed", "2"};
         QCOMPARE(ToolRun("set", words).exitCode, 1);
         QCOMPARE(readFile(other), QByteArray("mine"));

@@ -124,6 +124,7 @@ inline const SettingKey<QString> GltfExportFormat{"GltfExportFormat", "glb"}; //
 inline const SettingKey<QString> ImportPath{"ImportPath", {}};
 inline const SettingKey<QString> ImportFilter{"ImportFilter", {}}; // of its file dialog, chosen last
 inline const SettingKey<QString> PicturePath{"PicturePath", {}};
+inline const SettingKey<QString> TablePath{"TablePath", {}};
 
 // Import. The time limit is in seconds.
 inline const SettingKey<bool> ImportSwapYZ{"ImportSwapYZ", false};
@@ -167,6 +168,9 @@ inline const SettingKey<bool> PictureTransparent{"PictureTransparent", false};
 // What was open, and how it was looked at, when the window was last seen; kept only where it is wanted.
 inline const SettingKey<bool> RestoreSession{"RestoreSession", false};
 inline const SettingKey<QVariantMap> Session{"Session", {}};
+
+// The fields that the table does not show, a list of their ids for each kind of record.
+inline const SettingKey<QVariantMap> TableColumns{"TableColumns", {}};
 
 // The keys of commands that are not the usual ones, "id=keys" each, as QKeySequence writes them portably.
 inline const SettingKey<QStringList> Shortcuts{"Shortcuts", {}};

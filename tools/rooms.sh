@@ -29,7 +29,7 @@ undo import render/scene app/widgets json
 app/documents gltf import/scene render/input
 render import/ready
 app/tree app/view app/timeline app/explorer app/recovery app/console
-app/tree/pages app/problems app/compare app/database app/import
+app/tree/pages app/table app/problems app/compare app/database app/import
 app/window
 app tool import/worker'
 

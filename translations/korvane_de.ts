@@ -1230,6 +1230,71 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
 </context>
 <context>
+    <name>CsvPreview</name>
+    <message>
+        <source>There are no rows in it below a first one that names the fields.</source>
+        <translation>Darin stehen keine Zeilen unter einer ersten, die die Felder nennt.</translation>
+    </message>
+    <message>
+        <source>These records have no field &apos;%1&apos;.</source>
+        <translation>Diese Datensätze haben kein Feld „%1“.</translation>
+    </message>
+    <message>
+        <source>Line %1 is about no record of the table.</source>
+        <translation>Zeile %1 gehört zu keinem Datensatz der Tabelle.</translation>
+    </message>
+    <message>
+        <source>Line %1 has more cells than there are names.</source>
+        <translation>Zeile %1 hat mehr Zellen, als es Namen gibt.</translation>
+    </message>
+    <message>
+        <source>Line %1, %2: %3</source>
+        <translation>Zeile %1, %2: %3</translation>
+    </message>
+    <message>
+        <source>Import Table</source>
+        <translation>Tabelle importieren</translation>
+    </message>
+    <message>
+        <source>The table holds what is there already.</source>
+        <translation>Die Tabelle enthält, was schon da ist.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n values change</source>
+        <translation>
+            <numerusform>%n Wert ändert sich</numerusform>
+            <numerusform>%n Werte ändern sich</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Änderungen</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Datensatz</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <source>Old</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n weitere</numerusform>
+            <numerusform>%n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>DatabaseTab</name>
     <message>
         <source>Actors</source>
@@ -3283,6 +3348,10 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <source>Co&amp;mpare with File…</source>
         <translation>Mit &amp;Datei vergleichen…</translation>
     </message>
+    <message>
+        <source>Table</source>
+        <translation>Tabelle</translation>
+    </message>
 </context>
 <context>
     <name>MessageList</name>
@@ -5288,6 +5357,53 @@ Hände und Füße (x0.25): %6</translation>
     </message>
 </context>
 <context>
+    <name>RecordTableView</name>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Esc gives it up.</source>
+        <translation>Esc gibt es auf.</translation>
+    </message>
+    <message>
+        <source>Not stored. %1</source>
+        <translation>Nicht gespeichert. %1</translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation>Datensätze</translation>
+    </message>
+    <message>
+        <source>Order of the &amp;File</source>
+        <translation>Reihenfolge der &amp;Datei</translation>
+    </message>
+    <message>
+        <source>Row %1, %2</source>
+        <translation>Zeile %1, %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Edit Table</source>
+        <translation>Tabelle bearbeiten</translation>
+    </message>
+    <message>
+        <source>%1 rows of %2 cells do not fit from here on.</source>
+        <translation>%1 Zeilen mit %2 Zellen passen von hier an nicht hinein.</translation>
+    </message>
+    <message>
+        <source>Paste Cells</source>
+        <translation>Zellen einfügen</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted. %1</source>
+        <translation>Nichts wurde eingefügt. %1</translation>
+    </message>
+</context>
+<context>
     <name>Records</name>
     <message>
         <source>Bones (%1)</source>
@@ -6802,6 +6918,98 @@ So lassen?</translation>
     <message>
         <source>Bones or objects that change their size in animations: %1. In the game they keep it, unless extra bones are wanted.</source>
         <translation>Knochen oder Objekte, die in Animationen ihre Größe ändern: %1. Im Spiel behalten sie sie, wenn keine Zusatzknochen gewünscht sind.</translation>
+    </message>
+</context>
+<context>
+    <name>TableDock</name>
+    <message>
+        <source>Select a record or a group in the tree to see its table.</source>
+        <translation>Wählen Sie im Baum einen Datensatz oder eine Gruppe, um die Tabelle zu sehen.</translation>
+    </message>
+    <message>
+        <source>In the Whole File</source>
+        <translation>In der ganzen Datei</translation>
+    </message>
+    <message>
+        <source>The records of the current group as a table</source>
+        <translation>Die Datensätze der aktuellen Gruppe als Tabelle</translation>
+    </message>
+    <message>
+        <source>Also the records of this kind that other records have: the actions of all animations</source>
+        <translation>Auch die Datensätze dieser Art, die andere Datensätze haben: die Aktionen aller Animationen</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>Tabelle</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Show in the Tree</source>
+        <translation>Im &amp;Baum zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Export as CSV…</source>
+        <translation>Als CSV &amp;exportieren…</translation>
+    </message>
+    <message>
+        <source>Write what is shown as a file of comma-separated values</source>
+        <translation>Schreibt, was zu sehen ist, als Datei mit durch Kommas getrennten Werten</translation>
+    </message>
+    <message>
+        <source>&amp;Import CSV…</source>
+        <translation>CSV &amp;importieren…</translation>
+    </message>
+    <message>
+        <source>Read values from a file, after a look at what changes</source>
+        <translation>Liest Werte aus einer Datei, nach einem Blick auf das, was sich ändert</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n records</source>
+        <translation>
+            <numerusform>%n Datensatz</numerusform>
+            <numerusform>%n Datensätze</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Export as CSV</source>
+        <translation>Als CSV exportieren</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv)</source>
+        <translation>Tabellen (*.csv)</translation>
+    </message>
+    <message>
+        <source>Written: %1</source>
+        <translation>Geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>Import CSV</source>
+        <translation>CSV importieren</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv *.tsv *.txt);;All Files (*)</source>
+        <translation>Tabellen (*.csv *.tsv *.txt);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>%1
+Nothing was changed. %2</source>
+        <translation>%1
+Nichts wurde geändert. %2</translation>
+    </message>
+    <message>
+        <source>The file is too large for a table.</source>
+        <translation>Die Datei ist zu groß für eine Tabelle.</translation>
+    </message>
+    <message>
+        <source>Import Table</source>
+        <translation>Tabelle importieren</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 #include "RotateDialog.h"
 
 #include "Fuzzy.h"
+#include "LabelDrag.h"
 #include "ui_RotateDialog.h"
 
 RotateDialog::RotateDialog(QWidget *parent)
@@ -10,6 +11,9 @@ RotateDialog::RotateDialog(QWidget *parent)
     , m_ui(std::make_unique<Ui::RotateDialog>())
 {
     m_ui->setupUi(this);
+    LabelDrag::installAll(*this);
+    for (FloatSpinBox *angle : {m_ui->sbYaw, m_ui->sbPitch, m_ui->sbRoll})
+        angle->setDegree(1.0);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     connect(m_ui->btnClose, &QPushButton::clicked, this, &QDialog::close);
 

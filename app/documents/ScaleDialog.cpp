@@ -3,6 +3,7 @@
 #include "ScaleDialog.h"
 
 #include "Fuzzy.h"
+#include "LabelDrag.h"
 #include "ui_ScaleDialog.h"
 
 ScaleDialog::ScaleDialog(QWidget *parent)
@@ -10,6 +11,7 @@ ScaleDialog::ScaleDialog(QWidget *parent)
     , m_ui(std::make_unique<Ui::ScaleDialog>())
 {
     m_ui->setupUi(this);
+    LabelDrag::installAll(*this);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     connect(m_ui->btnClose, &QPushButton::clicked, this, &QDialog::close);
 }

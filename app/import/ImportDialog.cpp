@@ -3,6 +3,7 @@
 #include "ImportDialog.h"
 
 #include "ImportFilter.h"
+#include "LabelDrag.h"
 #include "Language.h"
 #include "ReplacePrompt.h"
 #include "ui_ImportDialog.h"
@@ -28,6 +29,7 @@ ImportDialog::ImportDialog(Mode mode, QWidget *parent)
     , m_mode(mode)
 {
     m_ui->setupUi(this);
+    LabelDrag::installAll(*this);
     m_paths = m_ui->gbOutputPaths;
     readChoices();
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ChangeSizeDialog.h"
 
+#include "LabelDrag.h"
 #include "ui_ChangeSizeDialog.h"
 
 #include <algorithm>
@@ -12,6 +13,7 @@ ChangeSizeDialog::ChangeSizeDialog(const QString &title, const QString &conseque
     , m_ui(std::make_unique<Ui::ChangeSizeDialog>())
 {
     m_ui->setupUi(this);
+    LabelDrag::installAll(*this);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowTitle(title);
     m_ui->lblSize->setText(title);

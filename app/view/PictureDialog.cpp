@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "PictureDialog.h"
 
+#include "LabelDrag.h"
 #include "Settings.h"
 #include "ui_PictureDialog.h"
 
@@ -18,6 +19,7 @@ PictureDialog::PictureDialog(const QSize &viewSize, QWidget *parent)
     , m_viewSize(viewSize.expandedTo({1, 1}))
 {
     m_ui->setupUi(this);
+    LabelDrag::installAll(*this);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     m_ui->buttonBox->button(QDialogButtonBox::Save)->setText(tr("&Save…"));
     m_ui->cbKeepProportions->setChecked(Settings::PictureKeepProportions.value());

@@ -19,6 +19,14 @@ void LabelDrag::install(QLabel *label, NumberField *field)
         new LabelDrag(label, field);
 }
 
+void LabelDrag::installAll(const QWidget &fields)
+{
+    for (QLabel *label : fields.findChildren<QLabel *>()) {
+        if (auto *field = qobject_cast<NumberField *>(label->buddy()))
+            install(label, field);
+    }
+}
+
 LabelDrag::LabelDrag(QLabel *label, NumberField *field)
     : QObject(label)
     , m_field(field)

@@ -9,6 +9,7 @@
 class NumberField;
 class QLabel;
 class QMouseEvent;
+class QWidget;
 
 /// Lets a label change its field's number by being dragged sideways: a step every few pixels, ten with Shift.
 /// The number is stored when the mouse lets go; Esc gives it up.
@@ -19,6 +20,8 @@ class LabelDrag : public QObject
 public:
     /// Once for each label; the label owns it.
     static void install(QLabel *label, NumberField *field);
+    /// For every label in there whose buddy is a number field.
+    static void installAll(const QWidget &fields);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

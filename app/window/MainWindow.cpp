@@ -206,6 +206,10 @@ void MainWindow::createDocks()
     connect(m_ui->tabDatabase, &DatabaseTab::namesChanged, m_ui->animTrackFrame,
             &AnimTrackFrame::updateRange);
     connect(m_ui->tabDatabase, &DatabaseTab::namesChanged, m_ui->pagesAnim, &PageStack::refresh);
+    m_ui->dockTable->setDocuments(m_skinnedMesh, m_anim, m_staticMesh,
+                                  {m_ui->treeSkinnedMesh, m_ui->treeAnim, m_ui->treeStaticMesh});
+    connect(m_ui->dockTable, &TableDock::activated, m_panes, &DocumentPanes::showRecord);
+    connect(m_ui->dockTable, &TableDock::told, this, &MainWindow::tell);
     m_ui->dockServers->setQueryAction(m_ui->actionQueryServers);
     showHistory(*m_ui->viewHistory, m_undoGroup, *m_files, m_ui->actionSave->icon());
 }
@@ -299,6 +303,7 @@ void MainWindow::updateCurrentDocument()
 {
     Document *document = m_panes->currentDocument();
     const bool isOpen = document && document->isOpen();
+    m_ui->dockTable->setCurrent(document);
     m_undoGroup.setActiveStack(document ? document->undoStack() : nullptr);
     m_files->setCurrent(document);
     m_importExport->setCurrent(document);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "OptionsDialog.h"
 
+#include "LabelDrag.h"
 #include "Settings.h"
 #include "ShortcutsPage.h"
 #include "ui_OptionsDialog.h"
@@ -22,6 +23,7 @@ OptionsDialog::OptionsDialog(QWidget *parent, Shortcuts *shortcuts)
     , m_restoreSession(Settings::RestoreSession.value())
 {
     m_ui->setupUi(this);
+    LabelDrag::installAll(*this);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 
     m_ui->txtGamePath->setValue(QDir::toNativeSeparators(m_gamePath));

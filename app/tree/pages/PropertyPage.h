@@ -246,7 +246,7 @@ private:
             FieldRecords records;
             if (row.step) {
                 const auto part = row.part;
-                records.differ = [this, editor, part] {
+                records.differ = [this, part] {
                     return differs<typename Row::Command>(part, m_tree.selectedRecords(RecordType::kind));
                 };
                 records.setAll = [this, part, step = row.stepText()] {

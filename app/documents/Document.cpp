@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Document.h"
 
-#include "BinaryFileWriter.h"
+#include "ModelDraft.h"
 #include "NameTables.h"
 #include "TypingField.h"
 
@@ -27,26 +27,6 @@ int boneOfTrack(const AnimBlock &block, quint16 AnimNode::*track, int number)
     const auto found = std::find_if(block.nodes.begin(), block.nodes.end(),
                                     [track, number](const auto &bone) { return int(bone.*track) == number; });
     return found == block.nodes.end() ? -1 : int(found - block.nodes.begin());
-}
-
-/// The bytes of the file that a model would make, roughly: growing a large buffer takes longer than to fill
-/// it.
-size_t roughBytes(const AnimFile &file)
-{
-    size_t bytes = 0;
-    for (const AnimBlock &block : file.blocks)
-        bytes += block.translations.keys().size() * 12 + block.rotations.keys().size() * 16 +
-                 block.frames.size() * 4 + block.nodes.size() * 32 + block.actions.size() * 50 + 44;
-    return bytes;
-}
-
-template <typename Mesh>
-size_t roughBytes(const Mesh &mesh)
-{
-    size_t bytes = mesh.vertices.size() * 34;
-    for (const auto &surface : mesh.surfaces)
-        bytes += surface.triangleIndexes.size() * sizeof(quint16) + 64;
-    return bytes;
 }
 
 /// The index that an entry of a list holds.
@@ -383,18 +363,7 @@ QString ModelDocument<Model>::replacedBeside(const QString &path) const
 template <typename Model>
 Document::Drafter ModelDocument<Model>::drafter()
 {
-    return [copied = copy()] {
-        const Model &model = copied->get();
-        BinaryFileWriter writer(roughBytes(model) + 64 * 1024);
-        model.writeDraft(writer);
-        std::vector<uchar> bytes = writer.takeBytes();
-        if constexpr (std::is_same_v<Model, SkinnedMesh>) {
-            const ModelNames names = ModelNames::of(model);
-            const QByteArray json = names.isEmpty() ? QByteArray() : names.toJson();
-            bytes.insert(bytes.end(), json.begin(), json.end());
-        }
-        return bytes;
-    };
+    return [copied = copy()] { return draftOf(copied->get()); };
 }
 
 template class ModelDocument<SkinnedMesh>;

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <ctime>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -41,6 +42,27 @@ double seconds(Work &&work)
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
+/// Seconds of the processor that this thread, or the process, has used. Other programs do not change them.
+inline double processorSeconds(clockid_t clock)
+{
+    timespec time{};
+    clock_gettime(clock, &time);
+    return double(time.tv_sec) + double(time.tv_nsec) * 1e-9;
+}
+inline double threadSeconds()
+{
+    return processorSeconds(CLOCK_THREAD_CPUTIME_ID);
+}
+
+/// Seconds of the processor that `work()` takes, in all threads.
+template <typename Work>
+double processSeconds(Work &&work)
+{
+    const double before = processorSeconds(CLOCK_PROCESS_CPUTIME_ID);
+    work();
+    return processorSeconds(CLOCK_PROCESS_CPUTIME_ID) - before;
+}
+
 inline double median(std::vector<double> values)
 {
     const auto middle = values.begin() + std::ptrdiff_t(values.size() / 2);
@@ -67,24 +89,26 @@ inline void addRatioLine(const std::string &name, double figure, double floor, d
     report().lines.push_back(line);
 }
 
-/// Registers a row whose median time of `figure()` may be at most `budget` times that of `floor()`. The two
-/// run in turns, `repetitions` times after one turn that is not counted.
+/// Registers a row whose time of `figure()` may be at most `budget` times that of `floor()`. The two run in
+/// turns, `repetitions` times after one turn that is not counted, and the median of the turns' ratios counts.
 template <typename Figure, typename Floor>
 void ratio(const std::string &name, double budget, int repetitions, Figure figure, Floor floor)
 {
     const auto body = [=](benchmark::State &state) mutable {
         std::vector<double> figures;
         std::vector<double> floors;
+        std::vector<double> ratios;
         floor();
         figure();
         for ([[maybe_unused]] auto turn : state) {
             floors.push_back(seconds(floor));
             figures.push_back(seconds(figure));
+            ratios.push_back(figures.back() / floors.back());
             state.SetIterationTime(figures.back());
         }
         const double figureTime = median(std::move(figures));
         const double floorTime = median(std::move(floors));
-        const double measured = figureTime / floorTime;
+        const double measured = median(std::move(ratios));
         state.counters["floor_ms"] = floorTime * 1e3;
         state.counters["ratio"] = measured;
         addRatioLine(name, figureTime, floorTime, measured, budget);
@@ -125,6 +149,21 @@ inline void addLimitLine(const std::string &name, double measured, double budget
     std::snprintf(line, sizeof line, "LIMIT %s %.2f%s %.2f%s %s", name.c_str(), measured, unit, budget, unit,
                   measured <= budget ? "PASS" : "MISS");
     report().lines.push_back(line);
+}
+
+/// Adds a line for what a work takes for twice as much as for once as much. Both return their seconds, of the
+/// processor, which other programs do not change; they run in turns, and the median of their ratios counts.
+template <typename Once, typename Twice>
+void addGrowthLine(const std::string &name, double budget, int repetitions, Once once, Twice twice)
+{
+    once(); // not counted: the memory and the files are at hand from then on
+    twice();
+    std::vector<double> ratios;
+    for (int i = 0; i < repetitions; ++i) {
+        const double least = once();
+        ratios.push_back(twice() / least);
+    }
+    addLimitLine(name + "_twice_as_many", median(ratios), budget, "x");
 }
 
 /// Prints the lines of all rows that were measured.

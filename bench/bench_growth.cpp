@@ -11,7 +11,6 @@
 #include <QApplication>
 #include <QTemporaryDir>
 
-#include <ctime>
 #include <limits>
 #include <malloc.h>
 
@@ -23,33 +22,13 @@ constexpr int Repetitions = 9;
 constexpr int Vertices = 100000;
 constexpr size_t AnimBytes = 20 * 1000 * 1000; // more blocks than a tree fills at once
 
-/// Of this thread: what others let go of meanwhile is not counted.
-double processorSeconds()
-{
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return double(time.tv_sec) + double(time.tv_nsec) * 1e-9;
-}
-
-/// `once` and `twice` return the seconds that they take.
-template <typename Once, typename Twice>
-void report(const char *name, Once once, Twice twice)
-{
-    twice(); // the memory for it is there from then on
-    std::vector<double> ratios;
-    for (int i = 0; i < Repetitions; ++i) {
-        const double least = once();
-        ratios.push_back(twice() / least);
-    }
-    Bench::addLimitLine(std::string(name) + "_twice_as_many", Bench::median(ratios), Budget, "x");
-}
-
 template <typename Work>
 double timed(Work work)
 {
-    const double before = processorSeconds();
+    // Of this thread: what others let go of meanwhile is not counted.
+    const double before = Bench::threadSeconds();
     work();
-    return processorSeconds() - before;
+    return Bench::threadSeconds() - before;
 }
 
 struct OpenedMesh
@@ -163,8 +142,8 @@ int main(int argc, char *argv[])
     const QString once = written(home.filePath(QStringLiteral("once.staticmesh")), Vertices);
     const QString twice = written(home.filePath(QStringLiteral("twice.staticmesh")), 2 * Vertices);
     const auto reportOf = [&](const char *name, double (*work)(const QString &)) {
-        report(
-            name, [&] { return work(once); }, [&] { return work(twice); });
+        Bench::addGrowthLine(
+            name, Budget, Repetitions, [&] { return work(once); }, [&] { return work(twice); });
     };
     reportOf("open", openSeconds);
     reportOf("undo_rotation", undoSeconds);
@@ -179,8 +158,8 @@ int main(int argc, char *argv[])
     };
     const QString animOnce = animation("once.anim", AnimBytes);
     const QString animTwice = animation("twice.anim", 2 * AnimBytes);
-    report(
-        "open_animation", [&] { return openAnimSeconds(animOnce); },
+    Bench::addGrowthLine(
+        "open_animation", Budget, Repetitions, [&] { return openAnimSeconds(animOnce); },
         [&] { return openAnimSeconds(animTwice); });
     Bench::printReport();
     return 0;

@@ -77,7 +77,7 @@ Companions::Companions(const MaterialFolders &folders, QStringList listed, std::
     }
 }
 
-const QVector<Companions::Candidate> &Companions::filesBelow(const QString &folder)
+const Companions::Files &Companions::filesBelow(const QString &folder)
 {
     const auto known = m_files.constFind(folder);
     if (known != m_files.constEnd())
@@ -91,10 +91,25 @@ const QVector<Companions::Candidate> &Companions::filesBelow(const QString &fold
         return ++entries < MostEntries && (!m_isCancelled || !m_isCancelled());
     });
     paths.sort(Qt::CaseInsensitive);
-    QVector<Candidate> files;
-    for (const QString &path : qAsConst(paths))
-        files += candidateOf(path);
+    Files files;
+    for (const QString &path : qAsConst(paths)) {
+        files.all += candidateOf(path);
+        files.byName[files.all.last().base.toCaseFolded()] += files.all.size() - 1;
+        files.byFolder[files.all.last().folder.toCaseFolded()] += files.all.size() - 1;
+    }
     return *m_files.insert(folder, files);
+}
+
+QVector<Companions::Candidate> Companions::alikeBelow(const QString &folder, const Candidate &known)
+{
+    const Files &files = filesBelow(folder);
+    QVector<int> places =
+        files.byName.value(known.base.toCaseFolded()) + files.byFolder.value(known.folder.toCaseFolded());
+    std::sort(places.begin(), places.end());
+    QVector<Candidate> alike;
+    for (const int place : qAsConst(places))
+        alike += files.all[place];
+    return alike;
 }
 
 CompanionFile Companions::find(const QString &file)
@@ -126,7 +141,7 @@ CompanionFile Companions::find(const QString &file)
     roots.removeDuplicates();
     QVector<QVector<Candidate>> places{beside};
     for (const QString &root : qAsConst(roots))
-        places += root.isEmpty() ? QVector<Candidate>() : filesBelow(root);
+        places += root.isEmpty() ? QVector<Candidate>() : alikeBelow(root, known);
     places.insert(2, listed);
 
     QVector<Fitting> fitting;
@@ -151,7 +166,7 @@ CompanionFile Companions::find(const QString &file)
         fitting += fit(files);
     if (std::all_of(fitting.begin(), fitting.end(), [](const Fitting &fits) { return fits.isEmpty(); })) {
         for (const QString &root : qAsConst(m_roots)) {
-            fitting += fit(filesBelow(root));
+            fitting += fit(alikeBelow(root, known));
             fitting.last().byFolder.clear();
         }
     }

@@ -46,10 +46,19 @@ public:
     };
 
 private:
-    const QVector<Candidate> &filesBelow(const QString &folder);
+    /// The files below a folder, found by what is compared.
+    struct Files
+    {
+        QVector<Candidate> all;
+        QHash<QString, QVector<int>> byName; ///< in one case, as the next
+        QHash<QString, QVector<int>> byFolder;
+    };
+    const Files &filesBelow(const QString &folder);
+    /// Those whose name or folder's name are those of `known`, in their order.
+    QVector<Candidate> alikeBelow(const QString &folder, const Candidate &known);
 
     QStringList m_roots; ///< of the game and the mod
     QStringList m_listed;
     std::function<bool()> m_isCancelled;
-    QHash<QString, QVector<Candidate>> m_files; ///< by the folder that they were looked for in
+    QHash<QString, Files> m_files; ///< by the folder that they were looked for in
 };

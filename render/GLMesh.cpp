@@ -17,6 +17,9 @@ namespace {
 /// Added to the colour of the selected surface: an 8-bit (0, 0, 128).
 constexpr float SelectionBlue = 128.0f / 255.0f;
 
+/// Takes less than 10 ms.
+constexpr size_t BytesInATurn = 4 * 1024 * 1024;
+
 const void *bufferOffset(size_t offset)
 {
     return reinterpret_cast<const void *>(std::uintptr_t(offset));
@@ -66,15 +69,12 @@ GLMesh::~GLMesh()
 
 bool GLMesh::uploadNext()
 {
-    for (size_t i = 0; i < m_surfaces.size(); ++i) {
-        if (m_surfaces[i].isUploaded && !needsTexture(i))
-            continue;
-        m_vertexArray.bind();
-        uploadSurface(i);
-        m_vertexArray.release();
-        return true;
-    }
-    return false;
+    size_t bytes = 0;
+    m_vertexArray.bind();
+    for (; m_next < m_surfaces.size() && bytes < BytesInATurn; ++m_next)
+        bytes += uploadSurface(m_next);
+    m_vertexArray.release();
+    return m_next < m_surfaces.size();
 }
 
 bool GLMesh::needsTexture(size_t surface) const
@@ -82,9 +82,11 @@ bool GLMesh::needsTexture(size_t surface) const
     return surface < m_textures.size() && !m_textures[surface].copy && !m_indexes[surface].empty();
 }
 
-/// With a vertex array object bound, which the binding of an index buffer belongs to.
-void GLMesh::uploadSurface(size_t surface)
+/// With a vertex array object bound, which the binding of an index buffer belongs to. Returns how many bytes
+/// went to the card.
+size_t GLMesh::uploadSurface(size_t surface)
 {
+    size_t bytes = 0;
     Surface &uploaded = m_surfaces[surface];
     const std::vector<quint16> &indexes = m_indexes[surface];
     if (!uploaded.isUploaded && !indexes.empty()) {
@@ -93,13 +95,16 @@ void GLMesh::uploadSurface(size_t surface)
         uploaded.buffer.bind();
         m_gl.glBufferData(GL_ELEMENT_ARRAY_BUFFER, GLsizeiptr(indexes.size() * sizeof(quint16)),
                           indexes.data(), GL_STATIC_DRAW);
+        bytes = indexes.size() * sizeof(quint16);
     }
     uploaded.isUploaded = true;
     if (needsTexture(surface)) {
         Texture &texture = m_textures[surface];
+        bytes += size_t(texture.image.sizeInBytes());
         texture.copy = copyOf(texture.image);
         texture.image = {};
     }
+    return bytes;
 }
 
 std::shared_ptr<QOpenGLTexture> GLMesh::copyOf(const QImage &image)
@@ -161,6 +166,7 @@ void GLMesh::setIndexes(std::vector<std::vector<quint16>> indexes)
         m_surfaces[i].isUploaded = m_surfaces[i].isUploaded && m_indexes[i] == indexes[i];
     }
     m_indexes = std::move(indexes);
+    m_next = 0;
 }
 
 void GLMesh::draw(const TexturedProgram &program, GLenum mode)

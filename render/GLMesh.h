@@ -37,7 +37,8 @@ public:
     void refresh(const SkinnedMesh &mesh, bool indexesToo);
     void refresh(const StaticMesh &mesh, bool indexesToo);
 
-    /// Lets the next surface go to the card that is not there yet; false when all are.
+    /// Lets the next surfaces go to the card that are not there yet, as many as make some MB; false when all
+    /// are there.
     bool uploadNext();
 
     const MeshVertices &vertices() const { return m_vertices; }
@@ -84,7 +85,7 @@ private:
     void drawSurface(size_t surface, const TexturedProgram &program, GLenum mode);
     void uploadVertices();
     void setIndexes(std::vector<std::vector<quint16>> indexes);
-    void uploadSurface(size_t surface);
+    size_t uploadSurface(size_t surface);
     bool needsTexture(size_t surface) const;
     std::shared_ptr<QOpenGLTexture> copyOf(const QImage &image);
 
@@ -93,6 +94,7 @@ private:
     QOpenGLBuffer m_vertexBuffer{QOpenGLBuffer::VertexBuffer};
     MeshVertices m_vertices;
     std::vector<Surface> m_surfaces;
+    size_t m_next = 0;                                     ///< the surface that uploadNext() comes to
     std::vector<std::vector<quint16>> m_indexes;           ///< by surface
     std::vector<Texture> m_textures;                       ///< by surface
     QHash<qint64, std::weak_ptr<QOpenGLTexture>> m_copies; ///< by their images' keys

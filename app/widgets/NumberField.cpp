@@ -180,12 +180,18 @@ QMenu *NumberField::createMenu()
     };
     if (m_records.setAll) {
         insert(QStringLiteral("actionFieldSetAll"), tr("Set &All to This"),
-               !isReadOnly() && m_records.differ(), [this] { m_records.setAll(); });
+               !isReadOnly() && (isTyping() || m_records.differ()), [this] {
+                   if (commitText())
+                       tellRefusal();
+                   else if (m_records.differ())
+                       m_records.setAll();
+               });
         menu->insertSeparator(first);
     }
     for (QAction *action : menu->actions()) {
-        const QString name = action->objectName();
-        if (name == QLatin1String("edit-copy") || name == QLatin1String("edit-paste"))
+        // Its keys follow.
+        const QString text = action->text().section(QLatin1Char('\t'), 0, 0);
+        if (text == QLineEdit::tr("&Copy") || text == QLineEdit::tr("&Paste"))
             menu->removeAction(action);
     }
     insert(QStringLiteral("actionFieldCopy"), tr("&Copy"), true, [this] { copy(); });

@@ -154,6 +154,14 @@ private slots:
             QApplication::sendEvent(x->findChild<QLineEdit *>(), &event);
             auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
             QVERIFY(menu);
+            QSet<QString> texts;
+            int count = 0;
+            for (const QAction *each : menu->actions()) {
+                texts += each->text().section('\t', 0, 0);
+                count += !each->isSeparator();
+            }
+            texts.remove({});
+            QCOMPARE(texts.size(), count);
             auto *action = menu->findChild<QAction *>(QLatin1String(name));
             QCOMPARE(action->isEnabled(), enabled);
             menu->setActiveAction(action);
@@ -164,6 +172,17 @@ private slots:
             QCOMPARE(pane.document.model().nodes[i].bbMin.x(), 1.0f);
         QCOMPARE(pane.undo().count(), 1);
         choose("actionFieldSetAll", false);
+        // What is typed goes to all.
+        x->setFocus();
+        x->selectAll();
+        QTest::keyClicks(x, "7");
+        choose("actionFieldSetAll", true);
+        for (size_t i = 1; i < 4; ++i)
+            QCOMPARE(pane.document.model().nodes[i].bbMin.x(), 7.0f);
+        QCOMPARE(pane.undo().count(), 2);
+        x->selectAll();
+        QTest::keyClicks(x, "1");
+        QTest::keyClick(x, Qt::Key_Return);
         QApplication::clipboard()->clear();
         choose("actionFieldCopy", true);
         QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("1"));

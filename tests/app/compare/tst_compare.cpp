@@ -9,6 +9,7 @@ class tst_Compare : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
     void init()
     {
         m_folder = std::make_unique<ProgramFolder>();

@@ -15,7 +15,7 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSet>
+#include <QHash>
 #include <QThread>
 #include <QThreadPool>
 
@@ -164,26 +164,28 @@ void drawOn(QOffscreenSurface &surface, PictureRun &run)
     PictureThread(run, scene).drawAll();
     run.account.leave({});
 }
-
-QString pictureName(const QString &model)
-{
-    return QFileInfo(model).completeBaseName() + QStringLiteral(".png");
-}
 } // namespace
 
 std::vector<PictureJob> picturesOf(const QStringList &paths, const QString &target, bool replaces)
 {
     std::vector<PictureJob> jobs;
-    QSet<QString> pictures;
+    QHash<QString, QString> models; // by their pictures, as FileSystem compares them
+    const auto picture = [&target](const QString &folder, const QString &name) {
+        return QDir::cleanPath(QDir(target).filePath(folder + name + QStringLiteral(".png")));
+    };
     const auto add = [&](const QString &model, const QString &folder) {
-        PictureJob job{model, QDir::cleanPath(QDir(target).filePath(folder + pictureName(model))), {}};
-        const QString place = FileSystem::comparable(job.picture);
-        if (pictures.contains(place))
+        const QFileInfo file(model);
+        PictureJob job{model, picture(folder, file.completeBaseName()), {}};
+        const auto taken = [&] { return models.constFind(FileSystem::comparable(job.picture)); };
+        // A skinned mesh and a static one may have one name.
+        if (taken() != models.constEnd() && QFileInfo(*taken()).suffix() != file.suffix())
+            job.picture = picture(folder, file.fileName());
+        if (taken() != models.constEnd())
             job.refusal =
                 QStringLiteral("%1: The picture of another model goes to '%2'.").arg(model, job.picture);
         else if (!replaces && isTaken(job.picture))
             job.refusal = Output::takenText(job.picture);
-        pictures.insert(place);
+        models.insert(FileSystem::comparable(job.picture), model);
         jobs.push_back(std::move(job));
     };
     for (const QString &path : paths) {
@@ -191,11 +193,12 @@ std::vector<PictureJob> picturesOf(const QStringList &paths, const QString &targ
             add(path, {});
             continue;
         }
-        const QStringList models = filesBelow(path, isMesh);
-        if (models.isEmpty())
+        const QStringList found = filesBelow(path, isMesh);
+        if (found.isEmpty())
             jobs.push_back({path, {}, QStringLiteral("%1: There is no mesh in this folder.").arg(path)});
-        for (const QString &model : models)
-            add(model, QDir(path).relativeFilePath(QFileInfo(model).path()) + QLatin1Char('/'));
+        const QDir around(QFileInfo(path).absoluteFilePath());
+        for (const QString &model : found)
+            add(model, around.relativeFilePath(QFileInfo(model).absolutePath()) + QLatin1Char('/'));
     }
     return jobs;
 }

@@ -222,6 +222,22 @@ private slots:
         }
         QCOMPARE(QImage(pictures.path("tinker.png")), tinkerAlone);
         QCOMPARE(ToolRun(words + "-o", {pictures.path(), withSamples(Crate)[0]}).exitCode, 0);
+
+        // A folder may be named from anywhere, and its pictures stay where they are wanted.
+        game.put("models/c0/x.skinnedmesh", tinker);
+        const QString before = QDir::currentPath();
+        const auto restore = qScopeGuard([&before] { QDir::setCurrent(before); });
+        for (const auto &[place, folder] : {std::pair("models", "c0"),
+                                            {"models", "./c0/"},
+                                            {"models/c1", "../c0"},
+                                            {"empty", "../models/../models/c0"}}) {
+            const TestFolder own;
+            QVERIFY(QDir::setCurrent(game.path(place)));
+            const ToolRun relative(words + "-o", {own.path(), folder});
+            QCOMPARE(relative.exitCode, 0);
+            QCOMPARE(relative.out.split('\n', Qt::SkipEmptyParts),
+                     QStringList({own.path("x.png"), own.path("x.staticmesh.png"), own.path("xy.png")}));
+        }
     }
 
     void fullDisk()

@@ -340,9 +340,13 @@ private:
         NumberRange range = NumberRange::of<Integer>();
         if (most >= 0)
             range.most = double(most);
+        // Flags are bits, the highest of which is the sign.
+        if (std::is_signed_v<Integer> &&
+            m_value.trimmed().startsWith(QLatin1String("0x"), Qt::CaseInsensitive))
+            range.most = double(std::numeric_limits<std::make_unsigned_t<Integer>>::max());
         const double result = calculated(m_value, double(value), range);
         if (reason.isEmpty())
-            value = Integer(result);
+            value = Integer(qint64(result));
     }
 
     void number(float &value) { number(value, m_value); }

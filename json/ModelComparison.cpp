@@ -47,6 +47,12 @@ constexpr RecordKind kindOfRecord<StaticMeshSurface> = RecordKind::StaticSurface
 template <>
 constexpr RecordKind kindOfRecord<StaticMeshVertex> = RecordKind::StaticVertex;
 
+/// Records that others name by their number: to take one out or in would have them name another one.
+template <typename Record>
+constexpr bool isPointedAt =
+    std::is_same_v<Record, SkinnedMeshNode> || std::is_same_v<Record, AnimNode> ||
+    std::is_same_v<Record, SkinnedMeshVertex> || std::is_same_v<Record, StaticMeshVertex>;
+
 template <typename Value>
 bool sameBits(const Value &a, const Value &b)
 {
@@ -244,6 +250,7 @@ private:
     compare(const JsonField &field, const std::vector<Record> &a, const std::vector<Record> &b,
             RecordDifference &difference)
     {
+        const bool isBound = a.size() != b.size() && isPointedAt<Record>;
         const std::vector<int> matched = matches(a, b);
         std::vector<bool> isTaken(b.size(), false);
         for (size_t i = 0; i < a.size(); ++i) {
@@ -257,6 +264,7 @@ private:
                     continue;
             } else {
                 child.state = State::OnlyMine;
+                child.isBound = isBound;
                 child.mine = {kindOfRecord<Record>, indexIn(difference.mine, int(i))};
             }
             child.name = nameOf(a[i], int(i));
@@ -267,6 +275,7 @@ private:
                 continue;
             RecordDifference child;
             child.state = State::OnlyTheirs;
+            child.isBound = isBound;
             child.name = nameOf(b[i], int(i));
             child.theirs = {kindOfRecord<Record>, indexIn(difference.theirs, int(i))};
             child.mine.index = indexIn(difference.mine, int(i));

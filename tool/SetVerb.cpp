@@ -8,16 +8,25 @@
 #include "Verbs.h"
 
 namespace {
-/// A value such as -5 or -=5 is no option: a blank before it says so.
-QStringList shielded(QStringList arguments)
+/// The options, and behind "--" the operands: what stands behind a field is its value, whatever it begins
+/// with.
+QStringList arranged(const QStringList &arguments)
 {
-    for (QString &argument : arguments) {
-        const QChar second = argument.size() > 1 ? argument.at(1) : QChar();
-        if (argument.startsWith(QLatin1Char('-')) && !second.isNull() &&
-            !QStringLiteral("-oh").contains(second))
-            argument.prepend(QLatin1Char(' '));
+    QStringList options;
+    QStringList operands;
+    for (int i = 0; i < arguments.size(); ++i) {
+        const QString &argument = arguments.at(i);
+        const bool isValue = operands.size() >= 2 && operands.size() % 2 == 0;
+        if (isValue || argument.size() < 2 || !argument.startsWith(QLatin1Char('-'))) {
+            operands += argument;
+        } else if (argument != QLatin1String("--")) {
+            options += argument;
+            const bool takesNext = argument == QLatin1String("-o") || argument == QLatin1String("--output");
+            if (takesNext && i + 1 < arguments.size())
+                options += arguments.at(++i);
+        }
     }
-    return arguments;
+    return options << QStringLiteral("--") << operands;
 }
 } // namespace
 
@@ -33,7 +42,7 @@ int set(const QStringList &arguments)
     line.option({QStringLiteral("o"), QStringLiteral("output")}, QStringLiteral("file"),
                 QStringLiteral("Write into this file instead of FILE itself."));
     line.flag(QStringLiteral("force"), QStringLiteral("Replace that file if it exists."));
-    if (const auto end = line.parse(shielded(arguments), true))
+    if (const auto end = line.parse(arranged(arguments), true))
         return *end;
     const QStringList operands = line.operands();
     if (operands.size() < 3)
@@ -55,9 +64,7 @@ int set(const QStringList &arguments)
         error = wrongName(target, ModelJson::kindOf(content.model));
     std::vector<PatchedField> changes;
     for (int i = 1; i < operands.size() && error.isEmpty(); i += 2) {
-        const QString &value = operands.at(i + 1);
-        error = patchModel(content.model, operands.at(i),
-                           value.startsWith(QLatin1String(" -")) ? value.mid(1) : value, changes);
+        error = patchModel(content.model, operands.at(i), operands.at(i + 1), changes);
     }
     if (!error.isEmpty()) {
         Output::complain(QStringLiteral("%1: %2").arg(file, error));

@@ -5008,6 +5008,26 @@ Hände und Füße (x0.25): %6</translation>
         <source>The text of the clipboard cannot be pasted here. Line %1, column %2: %3</source>
         <translation>Der Text der Zwischenablage kann hier nicht eingefügt werden. Zeile %1, Spalte %2: %3</translation>
     </message>
+    <message>
+        <source>hot points</source>
+        <translation>Hotpoints</translation>
+    </message>
+    <message>
+        <source>child bones</source>
+        <translation>Kindknochen</translation>
+    </message>
+    <message>
+        <source>animations</source>
+        <translation>Animationen</translation>
+    </message>
+    <message>
+        <source>key frame actions</source>
+        <translation>Keyframe-Aktionen</translation>
+    </message>
+    <message>
+        <source>The clipboard holds %1, not %2.</source>
+        <translation>Die Zwischenablage enthält %1, nicht %2.</translation>
+    </message>
 </context>
 <context>
     <name>RecordFields</name>

@@ -57,7 +57,11 @@ FileComparison::FileComparison(SkinnedMeshDocument &skinnedMesh, AnimDocument &a
         };
         connect(document, &Document::recordsChanged, this, follow);
         connect(document, &Document::structuresChanged, this, follow);
-        connect(document, &Document::saved, this, follow);
+        connect(document, &Document::saved, this, [this, document, follow] {
+            if (document == m_document)
+                m_ownPath = document->path(); // it may be another one now
+            follow();
+        });
         connect(document, &Document::replaced, this, [this, document] {
             if (document != m_document)
                 return;

@@ -129,35 +129,57 @@ void RecordEdits::copy() const
     });
 }
 
-bool RecordEdits::paste()
+bool RecordEdits::paste(bool hasOther)
 {
     const QByteArray text = QApplication::clipboard()->text().toUtf8();
     const QByteArray begin = text.left(1000).trimmed().left(1);
+    bool isPasted = false;
     if (begin != "{" && begin != "[")
-        return false;
+        return isPasted;
     withList([&](auto list) {
         using List = decltype(list);
         std::vector<typename List::Record> records;
         const JsonProblem problem = RecordsJson::read(text, list.key, records);
         if (!problem.text.isEmpty()) {
-            QMessageBox::warning(
-                m_window, tr("Paste"),
-                tr("The text of the clipboard cannot be pasted here. Line %1, column %2: %3")
-                    .arg(QString::number(problem.line), QString::number(problem.column), problem.text));
+            if (!hasOther)
+                QMessageBox::warning(m_window, tr("Paste"), misfit(text, problem));
             return;
         }
+        isPasted = true;
         RecordIndex at = m_tree->currentRecord().index;
         if (m_tree->currentRecord().kind == list.kind)
             ++at[list.component];
         insert<List>(at, std::move(records),
                      QCoreApplication::translate("UndoCommands", List::Insert::undoText));
     });
-    return true;
+    return isPasted;
+}
+
+/// Why the text has no records for the current list.
+QString RecordEdits::misfit(const QByteArray &text, const JsonProblem &problem) const
+{
+    const std::pair<std::string_view, QString> names[] = {{"hotPoints", tr("hot points")},
+                                                          {"childBones", tr("child bones")},
+                                                          {"blocks", tr("animations")},
+                                                          {"actions", tr("key frame actions")}};
+    QString here;
+    withList([&](auto list) {
+        for (const auto &each : names)
+            here = each.first == list.key ? each.second : here;
+    });
+    JsonReader reader({text.constData(), size_t(text.size())});
+    const std::string_view first = reader.accept('{') ? reader.key() : std::string_view();
+    for (const auto &each : names) {
+        if (first == each.first && each.second != here)
+            return tr("The clipboard holds %1, not %2.").arg(each.second, here);
+    }
+    return tr("The text of the clipboard cannot be pasted here. Line %1, column %2: %3")
+        .arg(QString::number(problem.line), QString::number(problem.column), problem.text);
 }
 
 void RecordEdits::cut()
 {
-    copy();
+    emit aboutToCut();
     withList([this](auto list) {
         if (m_tree->currentRecord().kind == list.kind)
             removeSelected<decltype(list)>();

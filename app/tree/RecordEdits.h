@@ -5,6 +5,7 @@
 #include "Document.h"
 
 class KVTreeView;
+struct JsonProblem;
 class QAction;
 class QMenu;
 
@@ -30,12 +31,18 @@ public:
     static bool hasText();
     /// Puts the selected records on the clipboard.
     void copy() const;
-    /// Puts the records of the clipboard behind the current one, or first into the current group; where they
-    /// do not fit, says why and changes nothing. Returns false when the clipboard holds no such text.
-    bool paste();
+    /// Puts the records of the clipboard behind the current one, or first into the current group. Returns
+    /// false when it holds none that fit; says why, where it holds a text of records and there is nothing
+    /// else to paste (`hasOther`).
+    bool paste(bool hasOther);
+
+signals:
+    /// The selected records go; whoever keeps copies makes them now.
+    void aboutToCut();
 
 private:
     void cut();
+    QString misfit(const QByteArray &text, const JsonProblem &problem) const;
     void duplicate();
     void move(int by);
     QAction *addAction(const char *icon, const QString &text, const char *id, const QKeySequence &keys,

@@ -155,6 +155,7 @@ StructureActions::TreeMenu StructureActions::createMenu(Document &document, KVTr
 
     if (document.rootKind() != RecordKind::StaticMesh) {
         made.edits = new RecordEdits(m_skinnedMesh.document, m_anim.document, tree, m_window);
+        connect(made.edits, &RecordEdits::aboutToCut, made.verbs[Copy], &QAction::trigger);
         made.menu->insertAction(made.verbs[Copy], made.edits->cutAction());
         made.menu->addActions(made.edits->actions());
     }
@@ -195,8 +196,9 @@ StructureActions::TreeMenu StructureActions::createMenu(Document &document, KVTr
 
 void StructureActions::choose(const TreeMenu &menu, Verb verb)
 {
-    const Offer *chosen = findOffer(menu.tree->currentRecord().kind, verb);
-    if (!chosen || (verb == Paste && menu.edits->paste()))
+    const RecordKind kind = menu.tree->currentRecord().kind;
+    const Offer *chosen = findOffer(kind, verb);
+    if (!chosen || (verb == Paste && menu.edits->paste(hasCopy(kind))))
         return;
     if (chosen->slot)
         (this->*chosen->slot)();
@@ -208,8 +210,6 @@ void StructureActions::choose(const TreeMenu &menu, Verb verb)
 void StructureActions::updateMenu(const TreeMenu &menu, bool canPasteText) const
 {
     const RecordKind kind = menu.tree->currentRecord().kind;
-    const bool canPaste =
-        canPasteText || (menu.tree == m_anim.tree ? m_copiedBlock.has_value() : m_copiedHotPoint.has_value());
     if (menu.edits)
         menu.edits->update();
     for (const Verb verb : {Add, Remove, Copy, Paste, ChangeSize, CopyFlags}) {
@@ -218,7 +218,7 @@ void StructureActions::updateMenu(const TreeMenu &menu, bool canPasteText) const
             continue;
         const Offer *offer = findOffer(kind, verb);
         action->setVisible(offer);
-        action->setEnabled(offer && (verb != Paste || canPaste));
+        action->setEnabled(offer && (verb != Paste || canPasteText || hasCopy(kind)));
         if (offer)
             action->setText(tr(offer->text));
     }

@@ -81,6 +81,13 @@ private:
     static const std::vector<Offer> &offers();
     static const Offer *findOffer(RecordKind kind, Verb verb);
     TreeMenu createMenu(Document &document, KVTreeView *tree);
+    /// Whether something of the kind's list was copied inside of the program.
+    bool hasCopy(RecordKind kind) const
+    {
+        if (kind == RecordKind::HotPoints || kind == RecordKind::HotPoint)
+            return m_copiedHotPoint.has_value();
+        return (kind == RecordKind::AnimFile || kind == RecordKind::AnimBlock) && m_copiedBlock.has_value();
+    }
     void choose(const TreeMenu &menu, Verb verb);
     void updateMenu(const TreeMenu &menu, bool canPasteText = true) const;
     void popUp(const TreeMenu &menu, const QPoint &position);

@@ -53,6 +53,14 @@ private slots:
         const ToolRun run("set", {file, "block 1 speed", "-5", "block 2 frame scale", "-=.5"});
         QVERIFY2(run.exitCode == 0, qUtf8Printable(run.err));
         QCOMPARE(run.out, file + "\n  block 1 speed: 1 -> -5\n  block 2 frameScale: 1 -> 0.5\n");
+        // A value is what stands behind a field, whatever it looks like; options stand where they like.
+        StaticMesh mesh = SampleModels::plainStatic();
+        const QString rigid = put("x.staticmesh", SampleModels::bytesOf(mesh));
+        const ToolRun named("set", {rigid, "surface 0 material", "-o", "surface 1 material", "--force", "-o",
+                                    path("z.staticmesh")});
+        QVERIFY2(named.exitCode == 0, qUtf8Printable(named.err));
+        QVERIFY(!mesh.read(path("z.staticmesh")));
+        QCOMPARE(mesh.surfaces[0].materialPath + mesh.surfaces[1].materialPath, QString("-o--force"));
         AnimFile anim;
         QVERIFY(!anim.read(file));
         QCOMPARE(anim.blocks[1].speed, -5.0f);

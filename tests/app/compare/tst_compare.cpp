@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "DocumentFiles.h"
 #include "Hand.h"
 #include "SampleModels.h"
 
@@ -118,8 +119,13 @@ private slots:
         QVERIFY(tree()->accessibleDescription().startsWith(
             "theirs.skinnedmesh cannot be read: Attempting to read"));
 
-        // Another model has nothing to do with the file.
+        // Another model has nothing to do with the file; the same one under another name has.
         undo();
+        const QString renamed = m_folder->path("renamed.skinnedmesh");
+        QVERIFY(!m_window->findChild<DocumentFiles *>()->document(DocumentType::SkinnedMesh)->save(renamed));
+        QTRY_VERIFY(find<QLabel>("lblCompare")->text().startsWith("renamed.skinnedmesh with"));
+        m_window->openFiles({renamed});
+        QVERIFY(tree()->accessibleDescription().startsWith("theirs.skinnedmesh cannot be read"));
         m_window->openFiles({m_folder->path("new.skinnedmesh")});
         QTRY_VERIFY(tree()->accessibleDescription().startsWith("Nothing is compared."));
         QVERIFY(!find<QToolButton>("btnCompareAgain")->isEnabled());

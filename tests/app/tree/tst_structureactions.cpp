@@ -409,24 +409,31 @@ private slots:
                 press("Ctrl+Shift+Up");
             QCOMPARE(stack.index(), int(indexes[0][at]));
 
-            // What does not fit says why.
+            // What does not fit gives way to what was copied inside; where there is nothing, it says why.
             stack.setIndex(0);
+            const bool hasBuffer = row.first.kind == K::HotPoint || row.first.kind == K::AnimBlock;
             for (const char *other : {"{\"vertices\": []}", "[{}]", "[70000]", "{"}) {
-                m_window->activateWindow();
-                QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-                QString said;
-                QTimer::singleShot(0, this, [&said] {
-                    auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-                    said = box->text();
-                    box->accept();
-                });
                 QApplication::clipboard()->setText(other);
                 select(row.first);
-                press("Ctrl+V");
-                QVERIFY2(said.contains("Line 1, column"), qUtf8Printable(other + said));
-                QCOMPARE(bytes(), before);
+                const QString said = hasBuffer ? QString() : saidOf([&] { press("Ctrl+V"); });
+                if (hasBuffer)
+                    press("Ctrl+V");
+                QVERIFY2(hasBuffer || said.contains("Line 1, column"), qUtf8Printable(other + said));
+                QCOMPARE(stack.index(), hasBuffer ? 1 : 0);
+                QCOMPARE(bytes() == before, !hasBuffer);
+                stack.setIndex(0);
             }
         }
+        init();
+        QApplication::clipboard()->setText("{\"blocks\": []}");
+        KVTreeView *tree = select(ref(K::HotPoint, 0));
+        QCOMPARE(saidOf([tree] { QTest::keySequence(tree, QKeySequence::Paste); }),
+                 QString("The clipboard holds animations, not hot points."));
+        // What is cut is in the buffer, too.
+        QTest::keySequence(tree, QKeySequence::Cut);
+        QApplication::clipboard()->clear();
+        QTest::keySequence(tree, QKeySequence::Paste);
+        QCOMPARE(mesh().document.model().hotPoints.size(), size_t(2));
     }
 
     void boneFlags()
@@ -446,6 +453,26 @@ private:
         tree->selectRecords({record}, record);
         tree->setFocus();
         return tree;
+    }
+    /// What a message box says that comes of this.
+    template <typename Act>
+    QString saidOf(Act act)
+    {
+        m_window->activateWindow();
+        if (!QTest::qWaitForWindowActive(m_window.get()))
+            return {};
+        QString said;
+        QTimer answer;
+        connect(&answer, &QTimer::timeout, this, [&said] {
+            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                said = box->text();
+                box->accept();
+            }
+        });
+        answer.start(0);
+        act();
+        m_window->activateWindow();
+        return QTest::qWaitForWindowActive(m_window.get()) ? said : QString();
     }
     /// The context menu that the tree opens for its current item.
     static QMenu *openMenu(KVTreeView *tree)

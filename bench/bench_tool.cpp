@@ -40,6 +40,7 @@ ToolTime timeOf(const QStringList &arguments)
     for (const QString &argument : arguments)
         bytes.push_back(QFile::encodeName(argument));
     std::vector<char *> pointers;
+    pointers.reserve(bytes.size() + 1);
     for (QByteArray &each : bytes)
         pointers.push_back(each.data());
     pointers.push_back(nullptr);

@@ -9,6 +9,7 @@
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
 #include <QResizeEvent>
+#include <QShowEvent>
 #include <QTimer>
 #include <QWindow>
 
@@ -79,8 +80,8 @@ void RenewableGLWidget::workOn()
 QString RenewableGLWidget::driver()
 {
     QStringList texts;
-    for (const GLenum name : {GL_VENDOR, GL_RENDERER, GL_VERSION}) {
-        const GLubyte *text = QOpenGLContext::currentContext()->functions()->glGetString(name);
+    for (const int name : {GL_VENDOR, GL_RENDERER, GL_VERSION}) {
+        const GLubyte *text = QOpenGLContext::currentContext()->functions()->glGetString(GLenum(name));
         texts.append(QString::fromLatin1(reinterpret_cast<const char *>(text)));
     }
     return texts.join(QStringLiteral(", "));
@@ -166,7 +167,8 @@ bool RenewableGLWidget::event(QEvent *event)
     // The toolkit makes what the view draws into then, too.
     if (event->type() == QEvent::Show && !isOnScreen()) {
         leaveForScreen();
-        return QWidget::event(event);
+        showEvent(static_cast<QShowEvent *>(event));
+        return true;
     }
     return QOpenGLWidget::event(event);
 }

@@ -122,8 +122,9 @@ std::function<std::vector<Finding>()> Problems::checkNow(DocumentType type) cons
     const MaterialFolders folders{Settings::GamePath.value(), Settings::OutputDir.value()};
     switch (type) {
     case DocumentType::SkinnedMesh:
-        return
-            [model = m_skinnedMesh.copy(), folders, ids = m_ids] { return validate(model->get(), folders, ids); };
+        return [model = m_skinnedMesh.copy(), folders, ids = m_ids] {
+            return validate(model->get(), folders, ids);
+        };
     case DocumentType::Anim: {
         // Of the mesh the animations' checks want to know how many bones it has.
         SkinnedMesh bones;

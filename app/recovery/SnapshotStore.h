@@ -44,9 +44,11 @@ public:
 
     /// A name that no snapshot of any program has.
     QString newFile(DocumentType type);
-    /// Keeps a model, whose bytes `model` gives in another thread, under `snapshot.file`, in place of what is kept there, with the next sequence. Then the
-    /// oldest of more than MostKept snapshots go, those of `spared` aside.
-    void keep(const Snapshot &snapshot, std::function<std::vector<uchar>()> model, const QSet<QString> &spared);
+    /// Keeps a model, whose bytes `model` gives in another thread, under `snapshot.file`, in place of what is
+    /// kept there, with the next sequence. Then the oldest of more than MostKept snapshots go, those of
+    /// `spared` aside.
+    void keep(const Snapshot &snapshot, std::function<std::vector<uchar>()> model,
+              const QSet<QString> &spared);
     void remove(const QString &file);
     /// Whether files wait to be written.
     bool isBusy() const { return m_jobs > 0; }

@@ -61,7 +61,7 @@ QVariant RecordTableModel::data(const QModelIndex &index, int role) const
         return shown.text(held);
     }
     case Qt::TextAlignmentRole:
-        return int((isText || shown.names().size() > 0 ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+        return int((isText || !shown.names().isEmpty() ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
     default:
         return {};
     }

@@ -122,6 +122,14 @@ void showDesktops()
 {
     useStyle(desktop().style);
     QApplication::setPalette(QPalette());
+    QPalette palette = QApplication::palette();
+    if (palette.brush(QPalette::PlaceholderText).style() == Qt::NoBrush) {
+        // Styles that know nothing of this role leave labels in it without ink.
+        QColor faint = palette.color(QPalette::Text);
+        faint.setAlphaF(0.6);
+        palette.setColor(QPalette::PlaceholderText, faint);
+        QApplication::setPalette(palette);
+    }
     QToolTip::setPalette(desktop().tip);
 }
 } // namespace

@@ -189,10 +189,11 @@ QMenu *NumberField::createMenu()
         menu->insertSeparator(first);
     }
     for (QAction *action : menu->actions()) {
-        // Its keys follow.
-        const QString text = action->text().section(QLatin1Char('\t'), 0, 0);
-        if (text == QLineEdit::tr("&Copy") || text == QLineEdit::tr("&Paste"))
-            menu->removeAction(action);
+        const QString text = action->text().section(QLatin1Char('\t'), 0, 0); // its keys follow
+        for (const char *replaced : {"&Copy", "&Paste"}) {
+            if (text == QCoreApplication::translate("QLineEdit", replaced))
+                menu->removeAction(action);
+        }
     }
     insert(QStringLiteral("actionFieldCopy"), tr("&Copy"), true, [this] { copy(); });
     insert(QStringLiteral("actionFieldPaste"), tr("&Paste"),

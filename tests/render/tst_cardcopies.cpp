@@ -103,7 +103,7 @@ void tst_CardCopies::surfacesShareCopies()
     QTRY_COMPARE(objects(), before);
     square.surfaces.resize(1064, first);
     m_view->rebuildModel();
-    QVERIFY(objects() < before); // when nothing else is to be done
+    QVERIFY(objects() < before);          // when nothing else is to be done
     QTRY_COMPARE(objects(), before + 64); // the index buffers
     square.surfaces.resize(1000);
     m_view->rebuildModel();

@@ -95,7 +95,8 @@ private slots:
         manual.remove('\\');
         const QByteArray zsh = readFile(source("packaging/completions/_korvane-tool"));
         const QRegularExpression line("^  (?:-[a-z], )?(--[a-z-]+)", QRegularExpression::MultilineOption);
-        for (const QString verb : {"info", "check", "resave", "dump", "build", "set", "diff", "import", "export", "render"}) {
+        for (const QString verb :
+             {"info", "check", "resave", "dump", "build", "set", "diff", "import", "export", "render"}) {
             const ToolRun run(verb, {"--help"});
             QCOMPARE(run.exitCode, 0);
             QVERIFY(run.out.startsWith(QStringLiteral("Usage: korvane-tool %1 ").arg(verb)));

@@ -80,8 +80,11 @@ bool LabelDrag::eventFilter(QObject *watched, QEvent *event)
             end(false);
         return true;
     }
+    const QEvent::Type type = event->type();
+    if (type != QEvent::MouseButtonPress && type != QEvent::MouseMove && type != QEvent::MouseButtonRelease)
+        return false;
     const auto *mouse = static_cast<QMouseEvent *>(event);
-    switch (event->type()) {
+    switch (type) {
     case QEvent::MouseButtonPress:
         if (mouse->button() != Qt::LeftButton)
             return false;
@@ -91,11 +94,9 @@ bool LabelDrag::eventFilter(QObject *watched, QEvent *event)
     case QEvent::MouseMove:
         drag(mouse);
         return m_state != State::Idle;
-    case QEvent::MouseButtonRelease:
+    default:
         if (mouse->button() == Qt::LeftButton)
             end(true);
-        return false;
-    default:
         return false;
     }
 }

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "CompareTree.h"
 
+#include "EmptyText.h"
 #include "Icons.h"
 #include "RecordTable.h"
 
 #include <QHeaderView>
-#include <QPainter>
 #include <QSet>
 
 namespace {
@@ -188,8 +188,5 @@ void CompareTree::paintEvent(QPaintEvent *event)
     QTreeWidget::paintEvent(event);
     if (topLevelItemCount() > 0)
         return;
-    QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
-    painter.drawText(viewport()->rect().adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap,
-                     m_emptyText);
+    paintEmptyText(*viewport(), m_emptyText);
 }

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "ProblemsList.h"
 
+#include "EmptyText.h"
 #include "Icons.h"
 #include "RecordSelection.h"
 #include "RecordTable.h"
 
 #include <QCoreApplication>
 #include <QHeaderView>
-#include <QPainter>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
@@ -231,8 +231,5 @@ void ProblemsList::paintEvent(QPaintEvent *event)
     QTreeWidget::paintEvent(event);
     if (topLevelItemCount() > 0)
         return;
-    QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
-    painter.drawText(viewport()->rect().adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap,
-                     m_emptyText);
+    paintEmptyText(*viewport(), m_emptyText);
 }

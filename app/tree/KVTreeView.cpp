@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "KVTreeView.h"
 
+#include "EmptyText.h"
 #include "NamedRows.h"
 #include "RecordFilling.h"
 #include "RecordItem.h"
@@ -13,7 +14,6 @@
 
 #include <QAction>
 #include <QItemSelection>
-#include <QPainter>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -389,9 +389,7 @@ void KVTreeView::paintEvent(QPaintEvent *event)
         text = tr("Nothing matches the filter.");
     else
         return;
-    QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
-    painter.drawText(viewport()->rect().adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap, text);
+    paintEmptyText(*viewport(), text);
 }
 
 void KVTreeView::notifyCurrent()

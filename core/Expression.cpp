@@ -23,7 +23,8 @@ class Expression::Reader
 {
 public:
     Reader(const QString &text, std::vector<Step> &steps)
-        : m_text(text.trimmed().toLatin1().toLower().replace(',', '.'))
+        // What ends a text for peek() stands for its end alone.
+        : m_text(text.trimmed().toLatin1().toLower().replace(',', '.').replace('\0', '?'))
         , m_source(text.trimmed())
         , m_steps(steps)
     {}

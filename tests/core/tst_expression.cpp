@@ -110,6 +110,7 @@ private slots:
         QVERIFY(!refused(least) && refused(QLatin1Char('(') + least + QLatin1Char(')')));
         QVERIFY(refused(QString(Expression::MostCharacters + 1, QLatin1Char('1'))));
         QVERIFY(refused(QString(400, QLatin1Char('-')) + QLatin1Char('1')));
+        QVERIFY(refused(QStringLiteral("5") + QChar() + QStringLiteral("+1")));
         // As many operands as wait at once.
         QString nested(QStringLiteral("1"));
         for (int i = 1; i < Expression::MostDepth; ++i)

@@ -5,6 +5,7 @@
 #include "BinaryFileWriter.h"
 #include "Expression.h"
 #include "JsonReader.h"
+#include "ModelNames.h"
 #include "NumberRange.h"
 #include "NumberText.h"
 
@@ -71,6 +72,14 @@ public:
                 isFound = apply(field, value, at, place);
         };
         JsonFields<Record>::visit(tryField, record);
+        // Names stand in a file of their own.
+        if constexpr (std::is_same_v<Record, SkinnedMeshNode>) {
+            keys += QStringLiteral("name");
+            isFound = isFound || applyName(record.name, at, place);
+        } else if constexpr (std::is_same_v<Record, SkinnedMesh>) {
+            keys += QStringLiteral("animation");
+            isFound = isFound || applyAnimation(record, at);
+        }
         if (!reason.isEmpty())
             return;
         const QString owner =
@@ -173,6 +182,35 @@ private:
         }
         if (!isFound && reason.isEmpty())
             reason = QStringLiteral("There is no block with the id '%1'.").arg(m_words.value(at));
+        return true;
+    }
+
+    bool applyName(QString &name, int at, const QString &place)
+    {
+        if (!reason.isEmpty() || squashed(m_words.mid(at).join(QLatin1Char(' '))) != QLatin1String("name"))
+            return false;
+        change(name, place + QStringLiteral("name"), [this](QString &to) {
+            if (!m_value.isEmpty() && !ModelNames::isName(m_value))
+                reason = QStringLiteral("A name is a line of 1 to %1 characters, not '%2'.")
+                             .arg(QString::number(ModelNames::LongestName), m_value);
+            to = m_value;
+        });
+        return true;
+    }
+
+    /// "animation 12 name": what all animations with that id are called.
+    bool applyAnimation(SkinnedMesh &mesh, int at)
+    {
+        bool isNumber = false;
+        const int id = m_words.value(at + 1).toInt(&isNumber);
+        QString name = mesh.animationNames.value(id);
+        if (!isNumber || squashed(m_words.value(at)) != QLatin1String("animation") ||
+            !applyName(name, at + 2, QStringLiteral("animation %1 ").arg(id)))
+            return false;
+        if (name.isEmpty())
+            mesh.animationNames.remove(id);
+        else
+            mesh.animationNames.insert(id, name);
         return true;
     }
 

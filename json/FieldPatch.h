@@ -15,7 +15,8 @@ struct PatchedField
 /// Sets fields of a model by words. A path names records by kind and number, and then the field, as the JSON
 /// does or as people do: "block 3 speed", "hot point 2 origin x", "block 0 action 1 arg1", "bone 4 damage
 /// scale". In place of a number stand a range ("2-5"), all of them ("*"), or a block's own ("block id 1000
-/// speed").
+/// speed"). A skinned mesh's names are set by "bone 4 name" and "animation 12 name"; an empty
+/// text takes one away.
 ///
 /// A value is what the field holds: a number, a list of them, a text; or an Expression, which x and i stand
 /// in for the old value and the record's place among those that the path names.

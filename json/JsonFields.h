@@ -7,6 +7,7 @@
 #include "StaticMesh.h"
 
 #include <QCoreApplication>
+#include <QMap>
 
 /// What a field is called in JSON and what its value means.
 struct JsonField
@@ -274,6 +275,26 @@ struct JsonFields<StaticMesh> : JsonFieldsBase
         field(JsonField{"bbMax", "bounding box, greatest corner", -1, 0, "bounding box max"}, mesh.bbMax);
         field(JsonField{"surfaces", "by number from 0"}, mesh.surfaces);
         field(JsonField{"vertices", "of all surfaces"}, mesh.vertices);
+    }
+};
+
+/// What bones and animations are called, beside a skinned mesh.
+struct JsonNames
+{
+    QMap<int, QString> animations;
+    QMap<int, QString> bones;
+};
+
+template <>
+struct JsonFields<JsonNames> : JsonFieldsBase
+{
+    static constexpr const char *name = "names";
+    static constexpr bool isLine = false;
+    template <typename Visitor, typename Self>
+    static void visit(Visitor &field, Self &names)
+    {
+        field(JsonField{"animations", "names by animation id"}, names.animations);
+        field(JsonField{"bones", "names by number of the bone"}, names.bones);
     }
 };
 

@@ -4,6 +4,7 @@
 
 #include "BinaryFileWriter.h"
 #include "JsonNumbers.h"
+#include "ModelNames.h"
 
 #include <QTextCodec>
 
@@ -287,17 +288,50 @@ qint64 JsonReader::integer(qint64 least, qint64 most)
     return value;
 }
 
-void JsonReader::read(const JsonField &, QString &text)
+QString JsonReader::anyText()
 {
     const char *at = next();
     if (failed())
+        return {};
+    if (at != end() && *at == '"')
+        return decoded(stringToken(), at);
+    fail(at, say(QT_TRANSLATE_NOOP("ModelJson", "A text in quotes is wanted here, not %1.")).arg(quoted(at)));
+    return {};
+}
+
+void JsonReader::read(const JsonField &, QMap<int, QString> &names)
+{
+    expect('{');
+    if (failed() || accept('}'))
         return;
-    if (at == end() || *at != '"')
-        return fail(
-            at,
-            say(QT_TRANSLATE_NOOP("ModelJson", "A text in quotes is wanted here, not %1.")).arg(quoted(at)));
-    text = decoded(stringToken(), at);
-    if (!BinaryFileWriter::canWrite(text))
+    do {
+        const char *at = next();
+        const QByteArray number = [this] {
+            const std::string_view name = key();
+            return QByteArray(name.data(), int(name.size()));
+        }();
+        const char *valueAt = next();
+        const QString name = anyText();
+        if (failed())
+            return;
+        if (number != QByteArray::number(number.toInt()))
+            return fail(at, say(QT_TRANSLATE_NOOP("ModelJson", "The key of a name is a number.")));
+        if (names.contains(number.toInt()))
+            return failTwice(at, {number.constData(), size_t(number.size())});
+        if (!ModelNames::isName(name))
+            return fail(valueAt,
+                        say(QT_TRANSLATE_NOOP("ModelJson", "A name is a line of 1 to %1 characters."))
+                            .arg(ModelNames::LongestName));
+        names.insert(number.toInt(), name);
+    } while (accept(','));
+    expect('}');
+}
+
+void JsonReader::read(const JsonField &, QString &text)
+{
+    const char *at = next();
+    text = anyText();
+    if (!failed() && !BinaryFileWriter::canWrite(text))
         fail(at, say(QT_TRANSLATE_NOOP("ModelJson", "The files hold texts of Latin-1 characters only.")));
 }
 

@@ -43,6 +43,7 @@ public:
     }
     void read(const JsonField &, float &value);
     void read(const JsonField &, QString &text);
+    void read(const JsonField &, QMap<int, QString> &names);
     void read(const JsonField &field, std::vector<quint16> &values)
     {
         values.clear();
@@ -187,6 +188,7 @@ private:
     std::string_view numberToken();
     std::string_view stringToken();
     QString decoded(std::string_view raw, const char *at);
+    QString anyText();
     qint64 integer(qint64 least, qint64 most);
     QString quoted(const char *at) const;
     void failCount(const char *at, size_t wanted, size_t found);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "JsonFields.h"
 #include "ModelJson.h"
+#include "ModelNames.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -55,6 +56,16 @@ public:
     {
         return {{QStringLiteral("type"), QStringLiteral("string")},
                 {QStringLiteral("pattern"), QStringLiteral("^[\\x01-\\xff]*$")}};
+    }
+    Object of(const JsonField &, const QMap<int, QString> &)
+    {
+        return {{QStringLiteral("type"), QStringLiteral("object")},
+                {QStringLiteral("propertyNames"),
+                 Object{{QStringLiteral("pattern"), QStringLiteral("^(0|-?[1-9][0-9]*)$")}}},
+                {QStringLiteral("additionalProperties"),
+                 Object{{QStringLiteral("type"), QStringLiteral("string")},
+                        {QStringLiteral("minLength"), 1},
+                        {QStringLiteral("maxLength"), ModelNames::LongestName}}}};
     }
     template <typename Value>
     std::enable_if_t<(JsonFloats<Value>::count > 0), Object> of(const JsonField &field, const Value &)
@@ -117,6 +128,12 @@ QByteArray schemaOf()
                {QStringLiteral("pattern"), QStringLiteral("^([0-9a-fA-F]{2})*$")},
                {QStringLiteral("description"),
                 QStringLiteral("bytes behind the last record, which no record owns")}};
+    if constexpr (std::is_same_v<Model, SkinnedMesh>) {
+        Object names = writer.record(JsonNames());
+        names[QStringLiteral("description")] =
+            QStringLiteral("what stands beside the model in its file of names");
+        properties[QStringLiteral("names")] = names;
+    }
     root[QStringLiteral("properties")] = properties;
     QJsonArray required = root[QStringLiteral("required")].toArray();
     required += QStringLiteral("kind");

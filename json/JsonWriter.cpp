@@ -74,6 +74,14 @@ void JsonWriter::write(const JsonField &, const QString &text)
     put('"');
 }
 
+void JsonWriter::write(const JsonField &, const QMap<int, QString> &names)
+{
+    beginObject(false);
+    for (auto it = names.constBegin(); it != names.constEnd(); ++it)
+        (*this)(JsonField{QByteArray::number(it.key()).constData(), ""}, it.value());
+    endObject();
+}
+
 void JsonWriter::put(std::string_view text)
 {
     m_text.append(text.data(), int(text.size()));

@@ -54,6 +54,8 @@ public:
     void write(const JsonField &, float value) { number(value); }
     void write(const JsonField &, const QString &text);
 
+    void write(const JsonField &, const QMap<int, QString> &names);
+
     template <typename Value>
     std::enable_if_t<(JsonFloats<Value>::count > 0)> write(const JsonField &, const Value &value)
     {

@@ -81,15 +81,19 @@ double distanceOf(const QVector3D &a, const QVector3D &b)
 class Comparison
 {
 public:
+    explicit Comparison(size_t mostTold)
+        : m_mostTold(mostTold)
+    {}
+
     /// What differs between two records, which stand at these indexes.
     template <typename Record>
-    static RecordDifference ofRecords(const Record &mine, const Record &theirs, const RecordIndex &mineIndex,
-                                      const RecordIndex &theirIndex)
+    RecordDifference ofRecords(const Record &mine, const Record &theirs, const RecordIndex &mineIndex,
+                               const RecordIndex &theirIndex)
     {
         RecordDifference difference;
         difference.mine = {kindOfRecord<Record>, mineIndex};
         difference.theirs = {kindOfRecord<Record>, theirIndex};
-        visitBoth(mine, theirs, [&difference](const JsonField &field, const auto &a, const auto &b) {
+        visitBoth(mine, theirs, [&](const JsonField &field, const auto &a, const auto &b) {
             compare(field, a, b, difference);
         });
         return difference;
@@ -103,7 +107,7 @@ private:
     }
 
     template <typename Value>
-    static void compare(const JsonField &field, const Value &a, const Value &b, RecordDifference &difference)
+    void compare(const JsonField &field, const Value &a, const Value &b, RecordDifference &difference)
     {
         if constexpr (std::is_trivially_copyable_v<Value>) {
             if (sameBits(a, b))
@@ -111,21 +115,25 @@ private:
         } else if (a == b) {
             return;
         }
-        tell(difference, field, QString::fromUtf8(JsonWriter::textOf(a)),
-             QString::fromUtf8(JsonWriter::textOf(b)));
+        if (m_isTelling)
+            tell(difference, field, QString::fromUtf8(JsonWriter::textOf(a)),
+                 QString::fromUtf8(JsonWriter::textOf(b)));
+        else
+            difference.fields.resize(1);
     }
 
     /// Lists of numbers, each as `numberOf` has it.
     template <typename Value, typename Quote>
-    static void compareNumbers(const JsonField &field, const std::vector<Value> &a,
-                               const std::vector<Value> &b, bool isBound, RecordDifference &difference,
-                               const Quote &quote)
+    void compareNumbers(const JsonField &field, const std::vector<Value> &a, const std::vector<Value> &b,
+                        bool isBound, RecordDifference &difference, const Quote &quote)
     {
         size_t others = a.size() > b.size() ? a.size() - b.size() : b.size() - a.size();
         for (size_t i = 0; i < std::min(a.size(), b.size()); ++i)
             others += !sameBits(a[i], b[i]);
         if (others == 0)
             return;
+        if (!m_isTelling)
+            return difference.fields.resize(1);
         if (a.size() <= MostWritten && b.size() <= MostWritten)
             return tell(difference, field, quote(a), quote(b), isBound);
         constexpr bool areFrames = std::is_same_v<Value, AnimFrame>;
@@ -142,15 +150,15 @@ private:
         tell(difference, field, counted(a.size()),
              a.size() == b.size() ? differing(b.size()) : counted(b.size()), isBound);
     }
-    static void compare(const JsonField &field, const std::vector<quint16> &a, const std::vector<quint16> &b,
-                        RecordDifference &difference)
+    void compare(const JsonField &field, const std::vector<quint16> &a, const std::vector<quint16> &b,
+                 RecordDifference &difference)
     {
         compareNumbers(field, a, b, false, difference, [](const std::vector<quint16> &list) {
             return QString::fromLatin1(JsonWriter::textOf(list));
         });
     }
-    static void compare(const JsonField &field, const std::vector<AnimFrame> &a,
-                        const std::vector<AnimFrame> &b, RecordDifference &difference)
+    void compare(const JsonField &field, const std::vector<AnimFrame> &a, const std::vector<AnimFrame> &b,
+                 RecordDifference &difference)
     {
         compareNumbers(field, a, b, a.size() != b.size(), difference, [](const std::vector<AnimFrame> &list) {
             return QString::fromLatin1(JsonWriter::textOf(list));
@@ -158,12 +166,14 @@ private:
     }
 
     template <typename Key>
-    static void compare(const JsonField &field, const TrackTable<Key> &a, const TrackTable<Key> &b,
-                        RecordDifference &difference)
+    void compare(const JsonField &field, const TrackTable<Key> &a, const TrackTable<Key> &b,
+                 RecordDifference &difference)
     {
         QString name = QLatin1String(field.key);
         name.chop(1);
         for (int track = 0; track < std::max(a.trackCount(), b.trackCount()); ++track) {
+            if (!m_isTelling && !difference.children.empty())
+                return; // that it differs is known
             RecordDifference child;
             child.name = QStringLiteral("%1 %2").arg(name).arg(track);
             child.isBound = a.trackCount() != b.trackCount() || a.frameCount() != b.frameCount();
@@ -246,11 +256,13 @@ private:
     }
 
     template <typename Record>
-    static std::enable_if_t<(sizeof(JsonFields<Record>) > 0)>
+    std::enable_if_t<(sizeof(JsonFields<Record>) > 0)>
     compare(const JsonField &field, const std::vector<Record> &a, const std::vector<Record> &b,
             RecordDifference &difference)
     {
         const bool isBound = a.size() != b.size() && isPointedAt<Record>;
+        const bool isTelling = m_isTelling;
+        size_t told = 0;
         const std::vector<int> matched = matches(a, b);
         std::vector<bool> isTaken(b.size(), false);
         for (size_t i = 0; i < a.size(); ++i) {
@@ -258,6 +270,7 @@ private:
             RecordDifference child;
             if (other >= 0) {
                 isTaken[size_t(other)] = true;
+                m_isTelling = isTelling && told < m_mostTold;
                 child = ofRecords(a[i], b[size_t(other)], indexIn(difference.mine, int(i)),
                                   indexIn(difference.theirs, other));
                 if (child.fields.empty() && child.children.empty())
@@ -267,16 +280,19 @@ private:
                 child.isBound = isBound;
                 child.mine = {kindOfRecord<Record>, indexIn(difference.mine, int(i))};
             }
-            child.name = nameOf(a[i], int(i));
+            if (isTelling && told++ < m_mostTold)
+                child.name = nameOf(a[i], int(i));
             difference.children.push_back(std::move(child));
         }
+        m_isTelling = isTelling;
         for (size_t i = 0; i < b.size(); ++i) {
             if (isTaken[i])
                 continue;
             RecordDifference child;
             child.state = State::OnlyTheirs;
             child.isBound = isBound;
-            child.name = nameOf(b[i], int(i));
+            if (isTelling && told++ < m_mostTold)
+                child.name = nameOf(b[i], int(i));
             child.theirs = {kindOfRecord<Record>, indexIn(difference.theirs, int(i))};
             child.mine.index = indexIn(difference.mine, int(i));
             difference.children.push_back(std::move(child));
@@ -307,14 +323,18 @@ private:
         };
         tell(difference, field, order(mine), order(theirs), true);
     }
+
+    const size_t m_mostTold;
+    bool m_isTelling = true; ///< of the record that is compared
 };
 
 } // namespace
 
 template <typename Model>
-std::vector<RecordDifference> ModelComparison::compare(const Model &mine, const Model &theirs)
+std::vector<RecordDifference> ModelComparison::compare(const Model &mine, const Model &theirs,
+                                                       size_t mostTold)
 {
-    RecordDifference root = Comparison::ofRecords(mine, theirs, {}, {});
+    RecordDifference root = Comparison(mostTold).ofRecords(mine, theirs, {}, {});
     std::vector<RecordDifference> differences = std::move(root.children);
     root.children.clear();
     root.name = QLatin1String(JsonFields<Model>::name);
@@ -323,6 +343,8 @@ std::vector<RecordDifference> ModelComparison::compare(const Model &mine, const 
     return differences;
 }
 
-template std::vector<RecordDifference> ModelComparison::compare(const SkinnedMesh &, const SkinnedMesh &);
-template std::vector<RecordDifference> ModelComparison::compare(const AnimFile &, const AnimFile &);
-template std::vector<RecordDifference> ModelComparison::compare(const StaticMesh &, const StaticMesh &);
+template std::vector<RecordDifference> ModelComparison::compare(const SkinnedMesh &, const SkinnedMesh &,
+                                                                size_t);
+template std::vector<RecordDifference> ModelComparison::compare(const AnimFile &, const AnimFile &, size_t);
+template std::vector<RecordDifference> ModelComparison::compare(const StaticMesh &, const StaticMesh &,
+                                                                size_t);

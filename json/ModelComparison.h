@@ -5,6 +5,8 @@
 #include "ModelJson.h"
 #include "Records.h"
 
+#include <limits>
+
 /// A field that two models have with other values.
 struct FieldDifference
 {
@@ -36,6 +38,10 @@ namespace ModelComparison {
 /// What differs between two models of one kind, in the order of the lists: blocks are matched by their id
 /// and, where several have one, by their order among these; everything else by number. The first entry is the
 /// model itself when fields of its own differ. Empty when all fields have the same bits.
+///
+/// Behind the first `mostTold` of a list's records that differ, the others are only named by where they are:
+/// they have no name, no texts, and not all of their fields and children.
 template <typename Model>
-std::vector<RecordDifference> compare(const Model &mine, const Model &theirs);
+std::vector<RecordDifference> compare(const Model &mine, const Model &theirs,
+                                      size_t mostTold = std::numeric_limits<size_t>::max());
 } // namespace ModelComparison

@@ -3,6 +3,8 @@
 #include "ModelJson.h"
 
 #include "JsonReader.h"
+#include "ModelNames.h"
+#include "Records.h"
 
 namespace {
 QString tell(const char *text)
@@ -40,11 +42,38 @@ QString kindIn(std::string_view text, JsonProblem &problem)
     return kind;
 }
 
+JsonNames namesOf(const SkinnedMesh &mesh)
+{
+    const ModelNames names = ModelNames::of(mesh);
+    JsonNames ordered;
+    for (auto it = names.animations.constBegin(); it != names.animations.constEnd(); ++it)
+        ordered.animations.insert(it.key(), it.value());
+    for (auto it = names.bones.constBegin(); it != names.bones.constEnd(); ++it)
+        ordered.bones.insert(it.key(), it.value());
+    return ordered;
+}
+
+void giveNames(const JsonNames &names, SkinnedMesh &mesh, const char *at, JsonReader &reader)
+{
+    for (auto it = names.animations.constBegin(); it != names.animations.constEnd(); ++it)
+        mesh.animationNames.insert(it.key(), it.value());
+    for (auto it = names.bones.constBegin(); it != names.bones.constEnd(); ++it) {
+        SkinnedMeshNode *bone = Records::element(mesh.nodes, it.key());
+        if (!bone)
+            return reader.fail(
+                at, tell(QT_TRANSLATE_NOOP("ModelJson", "There is no bone %1, which has a name here."))
+                        .arg(it.key()));
+        bone->name = it.value();
+    }
+}
+
 template <typename Model>
 JsonProblem readModel(std::string_view text, ModelJson::Content &content)
 {
     JsonReader reader(text);
     Model model;
+    JsonNames names;
+    const char *namesAt = nullptr;
     QStringList others;
     reader.readRecord(model, [&](const char *keyAt, std::string_view key) {
         const QString name = QString::fromUtf8(key.data(), int(key.size()));
@@ -68,11 +97,18 @@ JsonProblem readModel(std::string_view text, ModelJson::Content &content)
             if (QString::fromLatin1(content.behind.toHex()) != digits.toLower())
                 reader.fail(at,
                             tell(QT_TRANSLATE_NOOP("ModelJson", "Bytes are two hexadecimal digits each.")));
+        } else if (std::is_same_v<Model, SkinnedMesh> && key == "names") {
+            namesAt = at;
+            reader.read(JsonField{}, names);
         } else {
             return false;
         }
         return true;
     });
+    if constexpr (std::is_same_v<Model, SkinnedMesh>) {
+        if (!reader.failed())
+            giveNames(names, model, namesAt, reader);
+    }
     if (!reader.failed() && !others.contains(QLatin1String("schema")))
         reader.fail(text.data(), tell(QT_TRANSLATE_NOOP(
                                      "ModelJson", "\"schema\" is missing, which says how to read this.")));
@@ -91,6 +127,9 @@ void ModelJson::write(const Content &content, const JsonWriter::Sink &sink)
     std::visit(
         [&writer](const auto &model) { JsonFields<std::decay_t<decltype(model)>>::visit(writer, model); },
         content.model);
+    const auto *mesh = std::get_if<SkinnedMesh>(&content.model);
+    if (mesh && !ModelNames::of(*mesh).isEmpty())
+        writer(JsonField{"names", ""}, namesOf(*mesh));
     if (!content.behind.isEmpty())
         writer(JsonField{"behind", ""}, QString::fromLatin1(content.behind.toHex()));
     writer.endObject();

@@ -24,7 +24,8 @@ struct Content
     QByteArray behind; ///< the bytes behind the last record, which no record owns
 };
 
-/// Writes a model whole; see the schema. Names of bones and animations stand in a file of their own.
+/// Writes a model whole; see the schema. A skinned mesh that names bones or animations has these names behind
+/// it.
 void write(const Content &content, const JsonWriter::Sink &sink);
 
 /// Reads what write() writes. The problem has no text when there is none; else `content` is to be thrown

@@ -14,7 +14,6 @@
 #include <QMap>
 
 namespace {
-constexpr int LongestName = 128;                // characters
 constexpr qint64 LargestFile = 4 * 1024 * 1024; // 65536 names have room in it
 const QString BonesKey = QStringLiteral("bones");
 const QString AnimationsKey = QStringLiteral("animations");
@@ -37,7 +36,7 @@ QHash<Number, QString> namesOf(const QJsonValue &value)
         bool isNumber = false;
         const Number number = it.key().toInt(&isNumber);
         const QString name = it.value().toString().simplified();
-        if (isNumber && !name.isEmpty() && name.size() <= LongestName)
+        if (isNumber && ModelNames::isName(name))
             names.insert(number, name);
     }
     return names;
@@ -55,6 +54,11 @@ QByteArray linesOf(const QJsonObject &object)
     return lines.isEmpty() ? QByteArray("{}") : "{\n" + lines.values().join(",\n") + "\n    }";
 }
 } // namespace
+
+bool ModelNames::isName(const QString &text)
+{
+    return !text.isEmpty() && text.size() <= LongestName && text == text.simplified() && text.isValidUtf16();
+}
 
 ModelNames ModelNames::of(const SkinnedMesh &mesh)
 {

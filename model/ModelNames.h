@@ -16,6 +16,10 @@ struct ModelNames
     QHash<int, QString> bones;         ///< by number; only those that have a name
     QHash<qint32, QString> animations; ///< by id; only those that have a name
 
+    static constexpr int LongestName = 128; ///< characters
+    /// Whether a text can be a name: in one line, with nothing around it.
+    static bool isName(const QString &text);
+
     bool isEmpty() const { return bones.isEmpty() && animations.isEmpty(); }
     bool operator==(const ModelNames &other) const
     {

@@ -32,8 +32,10 @@ int build(const QStringList &arguments)
 {
     CommandLine line(
         QStringLiteral("build"), QStringLiteral("FILE"),
-        QStringLiteral("Makes a model of the JSON text that 'korvane-tool dump' writes, or of standard "
-                       "input where FILE is '-'. What cannot be is refused with its line and column."));
+        QStringLiteral(
+            "Makes a model of the JSON text that 'korvane-tool dump' writes, or of standard "
+            "input where FILE is '-'. What cannot be is refused with its line and column. Names of "
+            "bones and animations go into the file of names beside the model."));
     line.option({QStringLiteral("o"), QStringLiteral("output")}, QStringLiteral("file"),
                 QStringLiteral("The model to write; its name ends in what the text says it is. Needed."));
     line.flag(QStringLiteral("force"), QStringLiteral("Replace that file if it exists."));
@@ -67,5 +69,11 @@ int build(const QStringList &arguments)
         Output::refuseToReplace({target});
         return Failed;
     }
-    return writeWholeModel(target, content) ? Failed : Fine;
+    const bool withNames = !namesOf(content).isEmpty();
+    const QString names = replacedNames(target, content);
+    if (!line.isSet(QStringLiteral("force")) && !names.isEmpty()) {
+        Output::refuseToReplace({names});
+        return Failed;
+    }
+    return writeWholeModel(target, content, withNames) ? Failed : Fine;
 }

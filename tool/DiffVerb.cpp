@@ -7,6 +7,7 @@
 #include "Verbs.h"
 
 #include <QJsonObject>
+#include <QMap>
 
 namespace {
 /// As of other programs that compare files.
@@ -100,13 +101,43 @@ QJsonArray toJson(const std::vector<RecordDifference> &differences)
     return array;
 }
 
-std::vector<RecordDifference> differencesOf(const ModelJson::Content &a, const ModelJson::Content &b)
+/// The names that two models have for other things, or one of them has alone.
+template <typename Number>
+void compareNames(const QString &place, const QHash<Number, QString> &a, const QHash<Number, QString> &b,
+                  RecordDifference &difference)
+{
+    QMap<Number, bool> numbers;
+    for (const Number number : a.keys() + b.keys())
+        numbers.insert(number, true);
+    for (const Number number : numbers.keys()) {
+        if (a.value(number) != b.value(number))
+            difference.fields.push_back({place.arg(number),
+                                         QString::fromUtf8(JsonWriter::textOf(a.value(number))),
+                                         QString::fromUtf8(JsonWriter::textOf(b.value(number))), true});
+    }
+}
+
+std::vector<RecordDifference> differencesOf(const ModelJson::Content &a, const ModelJson::Content &b,
+                                            bool listsAll)
 {
     std::vector<RecordDifference> differences = std::visit(
-        [&b](const auto &mine) {
-            return ModelComparison::compare(mine, std::get<std::decay_t<decltype(mine)>>(b.model));
+        [&](const auto &mine) {
+            const auto &theirs = std::get<std::decay_t<decltype(mine)>>(b.model);
+            return listsAll ? ModelComparison::compare(mine, theirs)
+                            : ModelComparison::compare(mine, theirs, MostListed);
         },
         a.model);
+    // A model without names is often a copy that came without the file.
+    const ModelNames names = namesOf(a);
+    const ModelNames others = namesOf(b);
+    RecordDifference named;
+    named.name = QStringLiteral("names");
+    if (!names.isEmpty() && !others.isEmpty()) {
+        compareNames(QStringLiteral("animation %1"), names.animations, others.animations, named);
+        compareNames(QStringLiteral("bone %1"), names.bones, others.bones, named);
+    }
+    if (!named.fields.empty())
+        differences.push_back(std::move(named));
     if (a.behind != b.behind) {
         RecordDifference behind;
         behind.name = QStringLiteral("bytes behind the last record");
@@ -124,8 +155,8 @@ int diff(const QStringList &arguments)
         QStringLiteral("diff"), QStringLiteral("FILE FILE"),
         QStringLiteral(
             "Says in which records and fields two models of one kind differ: the first one's "
-            "value, then the second one's. Blocks are matched by id, other records by number. Exit "
-            "status: 0 the same, 1 different, 2 trouble."));
+            "value, then the second one's. Blocks are matched by id, other records by number. Names of bones "
+            "and animations count where both have some. Exit status: 0 the same, 1 different, 2 trouble."));
     line.flag(QStringLiteral("json"),
               QStringLiteral("Write a JSON array with an object for each record that differs."));
     line.flag(QStringLiteral("all"),
@@ -152,10 +183,13 @@ int diff(const QStringList &arguments)
                 .arg(ModelJson::kindOf(contents[0].model), ModelJson::kindOf(contents[1].model)));
         return Trouble;
     }
-    const std::vector<RecordDifference> differences = differencesOf(contents[0], contents[1]);
-    if (line.isSet(QStringLiteral("json")))
+    const bool isJson = line.isSet(QStringLiteral("json"));
+    const bool listsAll = line.isSet(QStringLiteral("all"));
+    const std::vector<RecordDifference> differences =
+        differencesOf(contents[0], contents[1], isJson || listsAll);
+    if (isJson)
         Output::json(toJson(differences));
     else
-        print(differences, QString(), line.isSet(QStringLiteral("all")));
+        print(differences, QString(), listsAll);
     return differences.empty() ? Same : Different;
 }

@@ -5,6 +5,7 @@
 #include "BinaryFileWriter.h"
 #include "ModelFile.h"
 #include "Output.h"
+#include "ReplacedFiles.h"
 #include "WholeFile.h"
 
 #include <QFile>
@@ -53,6 +54,11 @@ QString readWholeModel(const QString &path, ModelJson::Content &content, QString
         read);
     if (!isModel)
         return QStringLiteral("A material file is a text already.");
+    if (auto *mesh = std::get_if<SkinnedMesh>(&content.model)) {
+        ModelNames names;
+        static_cast<void>(names.read(ModelNames::pathFor(path), &note));
+        names.giveTo(*mesh);
+    }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return QStringLiteral("The file cannot be opened.");
@@ -60,17 +66,38 @@ QString readWholeModel(const QString &path, ModelJson::Content &content, QString
     content.behind = before.right(int(bytesBehind));
     const QByteArray after = storedBytes(content);
     if (!after.isEmpty() && after != before)
-        note = QStringLiteral("A count below zero is read as none, and is written so.");
+        note += QStringLiteral("%1A count below zero is read as none, and is written so.")
+                    .arg(note.isEmpty() ? QString() : QStringLiteral(" "));
     return {};
 }
 
-bool writeWholeModel(const QString &path, const ModelJson::Content &content)
+ModelNames namesOf(const ModelJson::Content &content)
+{
+    const auto *mesh = std::get_if<SkinnedMesh>(&content.model);
+    return mesh ? ModelNames::of(*mesh) : ModelNames();
+}
+
+QString replacedNames(const QString &path, const ModelJson::Content &content, const ModelNames &known)
+{
+    const ModelNames names = namesOf(content);
+    ModelNames there;
+    if (!there.read(ModelNames::pathFor(path)) && there == known)
+        return {};
+    const QString file = ModelNames::pathFor(path);
+    return !names.isEmpty() && wouldReplace(names.toJson(), file) ? file : QString();
+}
+
+bool writeWholeModel(const QString &path, const ModelJson::Content &content, bool withNames)
 {
     const QString refusal = std::visit([](const auto &model) { return model.refusal(); }, content.model);
     if (!refusal.isEmpty()) {
         Output::complain(QStringLiteral("%1: %2").arg(path, refusal));
         return true;
     }
+    const QString namesPath = ModelNames::pathFor(path);
+    const QString lost = withNames ? writeWholeFile(namesPath, namesOf(content).toJson()) : QString();
+    if (!lost.isEmpty())
+        return Output::outcome(namesPath, true, lost);
     const QString reason = writeWholeFile(path, storedBytes(content));
     return Output::outcome(path, !reason.isEmpty(), reason);
 }

@@ -62,6 +62,7 @@ int set(const QStringList &arguments)
     QString error = readWholeModel(file, content, note);
     if (error.isEmpty() && isOther)
         error = wrongName(target, ModelJson::kindOf(content.model));
+    const ModelNames before = namesOf(content);
     std::vector<PatchedField> changes;
     for (int i = 1; i < operands.size() && error.isEmpty(); i += 2) {
         error = patchModel(content.model, operands.at(i), operands.at(i + 1), changes);
@@ -72,8 +73,16 @@ int set(const QStringList &arguments)
     }
     if (!note.isEmpty())
         Output::complain(QStringLiteral("%1: warning: %2").arg(file, note));
+    const bool isSame = isOneFile(file, target);
+    const ModelNames after = namesOf(content);
+    const bool withNames = isSame ? !(before == after) : !after.isEmpty();
+    const QString names = withNames ? replacedNames(target, content, isSame ? before : after) : QString();
+    if (!line.isSet(QStringLiteral("force")) && !names.isEmpty()) {
+        Output::refuseToReplace({names});
+        return Failed;
+    }
     // A file that is to stay as it is keeps its bytes and its time.
-    if ((!changes.empty() || !isOneFile(file, target)) && writeWholeModel(target, content))
+    if ((!changes.empty() || !isSame) && writeWholeModel(target, content, withNames))
         return Failed;
     for (const PatchedField &change : changes)
         Output::line(

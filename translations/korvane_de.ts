@@ -1004,10 +1004,6 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <translation>Die Datei wird verglichen.</translation>
     </message>
     <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>%1 kann nicht gelesen werden: %2</translation>
-    </message>
-    <message>
         <source>No record differs.</source>
         <translation>Kein Datensatz unterscheidet sich.</translation>
     </message>
@@ -1753,10 +1749,69 @@ Ohne diese Eingabe fortfahren?</translation>
     </message>
 </context>
 <context>
+    <name>FieldWords</name>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Header Value 1</source>
+        <translation>Kopfwert 1</translation>
+    </message>
+    <message>
+        <source>Header Value 2</source>
+        <translation>Kopfwert 2</translation>
+    </message>
+    <message>
+        <source>Child Bones</source>
+        <translation>Kindknochen</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>Symbol</translation>
+    </message>
+    <message>
+        <source>Triangles</source>
+        <translation>Dreiecke</translation>
+    </message>
+    <message>
+        <source>Yaw Offsets</source>
+        <translation>Gierversätze</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>Argumente</translation>
+    </message>
+    <message>
+        <source>Animations</source>
+        <translation>Animationen</translation>
+    </message>
+</context>
+<context>
     <name>FileComparison</name>
     <message>
         <source>The file could not be opened.</source>
         <translation>Die Datei konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be compared: %2</source>
+        <translation>%1 kann nicht verglichen werden: %2</translation>
+    </message>
+    <message>
+        <source>Taking from &apos;%1&apos;</source>
+        <translation>Übernehmen aus „%1“</translation>
+    </message>
+    <message>
+        <source>Take Theirs</source>
+        <translation>Von dort übernehmen</translation>
+    </message>
+    <message>
+        <source>Nothing was taken. %1</source>
+        <translation>Nichts wurde übernommen. %1</translation>
     </message>
 </context>
 <context>
@@ -3354,6 +3409,13 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
 </context>
 <context>
+    <name>Memory</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Es ist nicht genügend Arbeitsspeicher vorhanden.</translation>
+    </message>
+</context>
+<context>
     <name>MessageList</name>
     <message>
         <source>&amp;Copy</source>
@@ -3479,6 +3541,10 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>Error</source>
         <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>[glTF Export] %1</source>
+        <translation>[glTF-Export] %1</translation>
     </message>
 </context>
 <context>
@@ -3657,6 +3723,18 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>&quot;schema&quot; is missing, which says how to read this.</source>
         <translation>&quot;schema&quot; fehlt, das sagt, wie dies zu lesen ist.</translation>
+    </message>
+    <message>
+        <source>The key of a name is a number.</source>
+        <translation>Der Schlüssel eines Namens ist eine Zahl.</translation>
+    </message>
+    <message>
+        <source>A name is a line of 1 to %1 characters.</source>
+        <translation>Ein Name ist eine Zeile von 1 bis %1 Zeichen.</translation>
+    </message>
+    <message>
+        <source>There is no bone %1, which has a name here.</source>
+        <translation>Es gibt keinen Knochen %1, der hier einen Namen hat.</translation>
     </message>
 </context>
 <context>
@@ -4589,6 +4667,13 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
     <message>
         <source>Please setup your folder paths before using Korvane. Thank you!</source>
         <translation>Bitte richten Sie Ihre Ordnerpfade ein, bevor Sie Korvane verwenden. Vielen Dank!</translation>
+    </message>
+</context>
+<context>
+    <name>Problems</name>
+    <message>
+        <source>[Problems] &apos;%1&apos; was not searched: %2</source>
+        <translation>[Probleme] „%1“ wurde nicht durchsucht: %2</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 #include "FieldPatch.h"
 #include "FormatMutator.h"
 #include "ModelJson.h"
+#include "ModelNames.h"
 #include "SampleModels.h"
 #include "TestSupport.h"
 
@@ -69,12 +70,16 @@ bool fits(const QJsonValue &value, const QJsonObject &schema, const QJsonObject 
     }
     const QJsonObject object = value.toObject();
     const QJsonObject properties = schema["properties"].toObject();
-    bool all = type == "object" && value.isObject() && schema["additionalProperties"] == QJsonValue(false);
+    const QJsonValue others = schema["additionalProperties"];
+    bool all = type == "object" && value.isObject() && (others.isObject() || others == QJsonValue(false));
+    const QRegularExpression name(schema["propertyNames"].toObject()["pattern"].toString());
     for (const auto &key : schema["required"].toArray())
         all = all && object.contains(key.toString());
-    for (auto each = object.begin(); each != object.end(); ++each)
-        all = all && properties.contains(each.key()) &&
-              fits(*each, properties[each.key()].toObject(), definitions);
+    for (auto each = object.begin(); each != object.end(); ++each) {
+        const QJsonValue own = others.isObject() ? others : properties[each.key()];
+        all = all && name.match(each.key()).hasMatch() && own.isObject() &&
+              fits(*each, own.toObject(), definitions);
+    }
     return all;
 }
 } // namespace
@@ -145,6 +150,42 @@ private slots:
         QCOMPARE(JsonWriter::textOf(QVector3D(0.1f, -0.0f, 1e-7f)), QByteArray("[0.1, -0.0, 1e-07]"));
         QCOMPARE(JsonWriter::textOf(QVector2D(SampleModels::oddFloats[1], 16777216.0f)),
                  QByteArray("[\"0xffc12345\", 16777216]"));
+    }
+
+    void namesTravelAlong()
+    {
+        SkinnedMesh mesh = SampleModels::plainMesh();
+        mesh.nodes[2].name = QString::fromUtf8("H\u00fcfte \u0416\x01");
+        mesh.animationNames = {{-3, "idle"}, {12, "walk"}};
+        const QByteArray text = textOf({mesh, "m"});
+        const QByteArray names =
+            "\n \"names\": {\n  \"animations\": {\n   \"-3\": \"idle\",\n   \"12\": \"walk\"\n"
+            "  },\n  \"bones\": {\n   \"2\": \"H\u00fcfte \\u0416\\u0001\"\n  }\n },\n \"behind\"";
+        QVERIFY2(text.contains(names), text.right(300));
+        Content again;
+        QCOMPARE(read(text, again).text, QString());
+        QVERIFY(ModelNames::of(std::get<SkinnedMesh>(again.model)) == ModelNames::of(mesh));
+        QCOMPARE(textOf(again), text);
+        struct Row
+        {
+            const char *from, *to, *refusal;
+        };
+        const Row rows[] = {{"\"2\": ", "\"4\": ", "There is no bone 4, which has a name here."},
+                            {"\"12\"", "\"012\"", "The key of a name is a number."},
+                            {"\"12\"", "\"-3\"", "\"-3\" stands here twice."},
+                            {"\"walk\"", "\" walk\"", "A name is a line of 1 to 128 characters."},
+                            {"\"walk\"", "\"\\ud800\"", "A name is a line of 1 to 128 characters."},
+                            {"\"walk\"", "5", "A text in quotes is wanted here, not '5'."},
+                            {"\"animations\"", "\"animation\"", "There is no \"animation\""}};
+        for (const Row &row : rows) {
+            const QString reason = refusal(QByteArray(text).replace(row.from, row.to));
+            QVERIFY2(reason.section(' ', 1).startsWith(row.refusal),
+                     qUtf8Printable(row.to + (": " + reason)));
+        }
+        QVERIFY(
+            refusal(
+                textOf({SampleModels::plainStatic(), {}}).replace("{\n \"kind", "{ \"names\": {},\n \"kind"))
+                .contains("There is no \"names\""));
     }
 
     void otherProgramsMayWriteIt()
@@ -300,6 +341,12 @@ private slots:
              "surface 2 material: \"materials/a\" -> \"materials/b\""},
             {"skinnedmesh", "surface 2 material", "materials/\u0416",
              "surface 2 material: The files hold texts of Latin-1"},
+            {"skinnedmesh", "bone 1-2 name", "h\u00fcfte \u0416",
+             "bone 1 name: \"\" -> \"h\u00fcfte \\u0416\"; bone 2 name: \"\" -> \"h\u00fcfte \\u0416\""},
+            {"skinnedmesh", "bone 1 name", " x",
+             "bone 1 name: A name is a line of 1 to 128 characters, not ' x'."},
+            {"skinnedmesh", "Animation -5 name", "walk", "animation -5 name: \"\" -> \"walk\""},
+            {"skinnedmesh", "animation walk name", "x", "There is no 'animation walk name' in skinned mesh"},
             {"skinnedmesh", "vertex 1 position z", "=x+pi-pi", ""},
             {"skinnedmesh", "vertex 1 uv w", "0", "There is no 'uv w' in vertex 1"},
             {"staticmesh", "surface 0 triangles", "[0, 1]", "The last triangle has no three corners."},
@@ -328,7 +375,12 @@ private slots:
         for (const QString &suffix : SampleModels::suffixes()) {
             const QJsonObject rules = QJsonDocument::fromJson(schema(suffix)).object();
             SampleModels::withModel(suffix, [&](auto model) {
-                const QByteArray text = textOf({SampleModels::oddModel<decltype(model)>(), "\x01"});
+                model = SampleModels::oddModel<decltype(model)>();
+                if constexpr (std::is_same_v<decltype(model), SkinnedMesh>) {
+                    model.nodes[0].name = "hips";
+                    model.animationNames = {{-12, "walk"}};
+                }
+                const QByteArray text = textOf({std::move(model), "\x01"});
                 const QJsonObject object = QJsonDocument::fromJson(text).object();
                 QVERIFY(fits(object, rules, rules["$defs"].toObject()));
                 // And not everything does.

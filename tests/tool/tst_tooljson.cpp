@@ -96,6 +96,46 @@ private slots:
         QVERIFY(readFile(file) == bytes && readFile(other).size() == bytes.size());
     }
 
+    /// The names beside a skinned mesh.
+    void names()
+    {
+        SkinnedMesh mesh = SampleModels::plainMesh();
+        const QString file = put("x.skinnedmesh", SampleModels::bytesOf(mesh));
+        const QByteArray bytes = readFile(file);
+        QCOMPARE(ToolRun("set", {file, "bone 2 name", "hips", "animation 12 name", "walk"}).exitCode, 0);
+        QCOMPARE(readFile(file), bytes);
+        const QByteArray names = readFile(path("x.names.json"));
+        QCOMPARE(names,
+                 QByteArray("{\n    \"animations\": {\n        \"12\":\"walk\"\n    },\n    \"bones\": {\n "
+                            "       \"2\":\"hips\"\n    }\n}\n"));
+        // They go with the text, and do not replace others unasked.
+        QCOMPARE(ToolRun("dump -o", {path("x.json"), file}).exitCode, 0);
+        put("y.names.json", "{\"bones\": {\"0\": \"mine\"}}");
+        const ToolRun refused("build", {path("x.json"), "-o", path("y.skinnedmesh")});
+        QVERIFY2(refused.exitCode == 1 && refused.err.contains("y.names.json"), qUtf8Printable(refused.err));
+        QVERIFY(!QFileInfo::exists(path("y.skinnedmesh")));
+        QCOMPARE(ToolRun("build --force", {path("x.json"), "-o", path("y.skinnedmesh")}).exitCode, 0);
+        QCOMPARE(readFile(path("y.names.json")), names);
+        QCOMPARE(ToolRun("diff", {file, path("y.skinnedmesh")}).exitCode, 0);
+        QCOMPARE(ToolRun("set", {path("y.skinnedmesh"), "bone 2 name", "", "bone 0 name", "root"}).exitCode,
+                 0);
+        const ToolRun diff("diff", {file, path("y.skinnedmesh")});
+        QCOMPARE(diff.exitCode, 1);
+        QCOMPARE(diff.out, QString("  names\n    bone 0: \"\" -> \"root\"\n    bone 2: \"hips\" -> \"\"\n"));
+        // What says nothing of names leaves them as they are; a copy has them, too.
+        QCOMPARE(ToolRun("set -o", {path("z.skinnedmesh"), file, "bone 1 flags", "1"}).exitCode, 0);
+        QCOMPARE(readFile(path("z.names.json")), names);
+        put("z.names.json", "damaged");
+        const ToolRun damaged("dump", {path("z.skinnedmesh")});
+        QVERIFY(damaged.exitCode == 0 && damaged.err.contains("z.names.json' are damaged"));
+        QCOMPARE(ToolRun("set", {path("z.skinnedmesh"), "bone 1 name", "x"}).exitCode, 1);
+        QCOMPARE(readFile(path("z.names.json")), QByteArray("damaged"));
+        const QString plain = put("p.skinnedmesh", bytes);
+        QCOMPARE(ToolRun("dump -o", {path("p.json"), plain}).exitCode, 0);
+        QCOMPARE(ToolRun("build --force", {path("p.json"), "-o", file}).exitCode, 0);
+        QCOMPARE(readFile(path("x.names.json")), names);
+    }
+
     void diffs()
     {
         const QString file = put("x.anim", SampleModels::bytesOf(SampleModels::plainAnim()));

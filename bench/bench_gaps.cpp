@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "Bench.h"
+#include "CompareTree.h"
 #include "DocumentLoader.h"
+#include "FileComparison.h"
 #include "ImportDialog.h"
 #include "KVOpenGLWidget.h"
 #include "LargeModels.h"
@@ -133,7 +135,7 @@ Gap largestGap(Work work)
     // What follows of it begins when it is done: the search for problems, and an animation.
     do
         wait(3000);
-    while (isLoading());
+    while (isLoading() || QApplication::activeModalWidget());
     return probe.largest();
 }
 
@@ -206,6 +208,26 @@ void addGap(const std::string &name, const Gap &gap)
     Bench::addLimitLine("gap_" + name + "_cpu", gap.worked, Budget, "ms");
 }
 
+/// Compares the document with a file that differs everywhere, and takes all of that over.
+template <typename Model>
+void measureComparison(MainWindow &window, DocumentType type, const Model &theirs, const QString &path)
+{
+    auto *comparison = window.findChild<FileComparison *>();
+    const std::string kind = documentKind(type).extension.toStdString();
+    written(path, theirs);
+    addGap("compare_" + kind, largestGap([&] { comparison->start(type, path); }));
+    while (comparison->isRunning())
+        wait(100);
+    window.findChild<QDockWidget *>(QStringLiteral("dockCompare"))->show();
+    window.findChild<CompareTree *>()->selectAll();
+    addGap("take_" + kind,
+           largestGap([&] { window.findChild<QAction *>(QStringLiteral("actionCompareTake"))->trigger(); }));
+    if (!comparison->differences().empty())
+        qFatal("not all was taken");
+    addGap("untake_" + kind,
+           largestGap([&] { window.findChild<QAction *>(QStringLiteral("actionUndo"))->trigger(); }));
+}
+
 void measure(MainWindow &window, const QString &folder)
 {
     const auto saved = [&window] {
@@ -224,7 +246,17 @@ void measure(MainWindow &window, const QString &folder)
     const QString path = folder + QStringLiteral("/large.");
     measureFile("skinnedmesh", written(path + QStringLiteral("skinnedmesh"), LargeModels::skinnedMesh()),
                 "viewSkinned");
+    SkinnedMesh moved = LargeModels::skinnedMesh();
+    for (SkinnedMeshVertex &vertex : moved.vertices)
+        vertex.normal.setX(0.5f);
+    measureComparison(window, DocumentType::SkinnedMesh, moved, path + QStringLiteral("2.skinnedmesh"));
     measureFile("anim", written(path + QStringLiteral("anim"), LargeModels::animFile()), "viewSkinned");
+    AnimFile turned = LargeModels::animFile();
+    for (AnimBlock &block : turned.blocks) {
+        for (int track = 0; track < block.rotations.trackCount(); ++track)
+            block.rotations.at(track, 7) = {1, 0, 0, 0};
+    }
+    measureComparison(window, DocumentType::Anim, turned, path + QStringLiteral("2.anim"));
     // While the tab of skinned meshes is in front: a foreign file becomes what that shows.
     SkinnedMesh mesh;
     mesh.nodes.resize(41);

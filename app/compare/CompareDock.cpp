@@ -107,10 +107,9 @@ void CompareDock::fill()
                 ? tr("%1 with %2, different in: %3").arg(document->fileName(), name, QString::number(count))
                 : tr("%1 with %2").arg(document->fileName(), name));
         m_title->setToolTip(QDir::toNativeSeparators(m_comparison->path()));
-        m_tree->setEmptyText(m_comparison->isRunning() ? tr("The file is being compared.")
-                             : !m_comparison->failure().isEmpty()
-                                 ? tr("%1 cannot be read: %2").arg(name, m_comparison->failure())
-                                 : tr("No record differs."));
+        m_tree->setEmptyText(m_comparison->isRunning()            ? tr("The file is being compared.")
+                             : !m_comparison->failure().isEmpty() ? m_comparison->failure()
+                                                                  : tr("No record differs."));
     }
     updateActions();
 }
@@ -132,7 +131,7 @@ void CompareDock::showCurrent()
 
 void CompareDock::takeSelected()
 {
-    m_comparison->take(m_tree->selectedPicks());
+    m_comparison->take(m_tree->selectedPicks(), window());
 }
 
 void CompareDock::reload()

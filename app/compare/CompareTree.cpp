@@ -3,6 +3,7 @@
 #include "CompareTree.h"
 
 #include "EmptyText.h"
+#include "FieldWords.h"
 #include "Icons.h"
 #include "RecordTable.h"
 
@@ -10,7 +11,7 @@
 #include <QSet>
 
 namespace {
-using State = RecordDifference::State;
+using Difference = RecordDifference::State;
 
 bool isTrack(RecordKind kind)
 {
@@ -20,7 +21,7 @@ bool isTrack(RecordKind kind)
 /// Where it is, or would be, in the document.
 RecordRef placeOf(const RecordDifference &difference)
 {
-    return difference.state == State::OnlyTheirs ? difference.theirs : difference.mine;
+    return difference.state == Difference::OnlyTheirs ? difference.theirs : difference.mine;
 }
 
 /// "Hot point 3", with the record's own name; the file's name for the model itself.
@@ -37,7 +38,7 @@ QString titleOf(const RecordDifference &difference, const Document &document)
         title = difference.name.section(QLatin1Char('('), 1).isEmpty()
                     ? title
                     : QStringLiteral("%1 (%2").arg(title, difference.name.section(QLatin1Char('('), 1));
-    const QString name = difference.state == State::OnlyTheirs ? QString() : document.recordName(place);
+    const QString name = difference.state == Difference::OnlyTheirs ? QString() : document.recordName(place);
     return name.isEmpty() ? title : QStringLiteral("%1: %2").arg(title, name);
 }
 
@@ -48,13 +49,24 @@ QString distanceOf(const RecordDifference &track)
                                                         : CompareTree::tr("up to %1 apart").arg(number);
 }
 
-/// One row, with those of its fields.
-CompareItem *recordItem(const RecordDifference &each, const Document &document)
+/// What a field of a record is called; of a track, the frame of a key.
+QString fieldTitle(RecordKind kind, const QString &field)
 {
-    QStringList texts{titleOf(each, document), QString(), QString()};
-    if (each.state == State::OnlyMine)
+    if (!isTrack(kind))
+        return FieldWords::title(kind, field);
+    const RecordKind key =
+        kind == RecordKind::TranslationTrack ? RecordKind::TranslationKey : RecordKind::RotationKey;
+    return QCoreApplication::translate("Records", recordRow(key)->label)
+        .arg(field.section(QLatin1Char(' '), -1));
+}
+} // namespace
+
+CompareItem *CompareTree::recordItem(const RecordDifference &each)
+{
+    QStringList texts{titleOf(each, *m_document), QString(), QString()};
+    if (each.state == Difference::OnlyMine)
         texts = QStringList{texts.first(), CompareTree::tr("only here"), QString()};
-    else if (each.state == State::OnlyTheirs)
+    else if (each.state == Difference::OnlyTheirs)
         texts = QStringList{texts.first(), QString(), CompareTree::tr("only there")};
     else if (isTrack(each.mine.kind))
         texts[CompareItem::TheirsColumn] = distanceOf(each);
@@ -63,21 +75,33 @@ CompareItem *recordItem(const RecordDifference &each, const Document &document)
         picks += FileComparison::Pick{&each, {}};
     auto *item = new CompareItem(texts, picks, each.mine);
     item->setIcon(CompareItem::RecordColumn,
-                  each.state == State::OnlyMine     ? namedIcon(QStringLiteral("remove"))
-                  : each.state == State::OnlyTheirs ? namedIcon(QStringLiteral("add"))
-                                                    : recordIcon(each.mine.kind));
-    for (const FieldDifference &field : each.fields) {
-        QVector<FileComparison::Pick> fieldPicks;
-        if (!field.isBound && !each.isBound)
-            fieldPicks += FileComparison::Pick{&each, field.field};
-        auto *row = new CompareItem({field.field, field.mine, field.theirs}, fieldPicks, each.mine);
-        for (const int column : {CompareItem::MineColumn, CompareItem::TheirsColumn})
-            row->setToolTip(column, row->text(column));
-        item->addChild(row);
-    }
+                  each.state == Difference::OnlyMine     ? namedIcon(QStringLiteral("remove"))
+                  : each.state == Difference::OnlyTheirs ? namedIcon(QStringLiteral("add"))
+                                                         : recordIcon(each.mine.kind));
+    if (m_rows < MostAtOnce)
+        fill(*item, each);
+    else if (!each.fields.empty() || !each.children.empty())
+        item->setUnfilled(&each);
     return item;
 }
-} // namespace
+
+void CompareTree::fill(CompareItem &item, const RecordDifference &difference)
+{
+    QList<QTreeWidgetItem *> rows;
+    for (const FieldDifference &field : difference.fields) {
+        QVector<FileComparison::Pick> picks;
+        if (!field.isBound && !difference.isBound)
+            picks += FileComparison::Pick{&difference, field.field};
+        const auto [mine, theirs] = FieldWords::values(difference.mine.kind, field);
+        auto *row = new CompareItem({fieldTitle(difference.mine.kind, field.field), mine, theirs}, picks,
+                                    difference.mine);
+        for (const int column : {CompareItem::MineColumn, CompareItem::TheirsColumn})
+            row->setToolTip(column, row->text(column));
+        rows += row;
+    }
+    m_rows += rows.size();
+    item.addChildren(rows + itemsOf(difference.children));
+}
 
 CompareTree::CompareTree(QWidget *parent)
     : QTreeWidget(parent)
@@ -93,10 +117,15 @@ CompareTree::CompareTree(QWidget *parent)
     const int letter = fontMetrics().averageCharWidth();
     setColumnWidth(CompareItem::RecordColumn, 34 * letter);
     setColumnWidth(CompareItem::MineColumn, 40 * letter);
+    connect(this, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem *item) {
+        auto &opened = static_cast<CompareItem &>(*item);
+        m_rows = 0;
+        if (const RecordDifference *difference = opened.takeUnfilled())
+            fill(opened, *difference);
+    });
 }
 
-QList<QTreeWidgetItem *> CompareTree::itemsOf(const std::vector<RecordDifference> &differences,
-                                              const Document &document) const
+QList<QTreeWidgetItem *> CompareTree::itemsOf(const std::vector<RecordDifference> &differences)
 {
     QList<QTreeWidgetItem *> items;
     RecordKind kind = RecordKind::None;
@@ -116,9 +145,8 @@ QList<QTreeWidgetItem *> CompareTree::itemsOf(const std::vector<RecordDifference
             rest += FileComparison::Pick{&each, {}};
             continue;
         }
-        CompareItem *item = recordItem(each, document);
-        item->addChildren(itemsOf(each.children, document));
-        items += item;
+        ++m_rows;
+        items += recordItem(each);
     }
     endList();
     return items;
@@ -143,8 +171,10 @@ void CompareTree::show(const FileComparison &comparison)
         currentItem() && !currentItem()->parent() ? indexOfTopLevelItem(currentItem()) : -1;
     const bool isFirst = topLevelItemCount() == 0;
     clear();
-    if (comparison.document())
-        addTopLevelItems(itemsOf(comparison.differences(), *comparison.document()));
+    m_document = comparison.document();
+    m_rows = 0;
+    if (m_document)
+        addTopLevelItems(itemsOf(comparison.differences()));
     QTreeWidgetItem *found = nullptr;
     for (QTreeWidgetItemIterator item(this); *item; ++item) {
         const QString path = pathOf(*item);

@@ -18,6 +18,18 @@ public:
         , m_place(place)
     {}
 
+    /// What there is to say of the record stands below it when it is opened.
+    void setUnfilled(const RecordDifference *difference)
+    {
+        m_unfilled = difference;
+        setChildIndicatorPolicy(ShowIndicator);
+    }
+    const RecordDifference *takeUnfilled()
+    {
+        setChildIndicatorPolicy(DontShowIndicatorWhenChildless);
+        return std::exchange(m_unfilled, nullptr);
+    }
+
     /// What to take of the file for it; nothing where it goes with its record only.
     const QVector<FileComparison::Pick> &picks() const { return m_picks; }
     /// The record in the document; of no kind where it is not there.
@@ -26,6 +38,7 @@ public:
 private:
     QVector<FileComparison::Pick> m_picks;
     RecordRef m_place;
+    const RecordDifference *m_unfilled = nullptr;
 };
 
 /// What differs between a document and a file, records with their fields.
@@ -37,7 +50,9 @@ public:
     explicit CompareTree(QWidget *parent = nullptr);
 
     /// So many records of one kind have a row each below one owner.
-    static constexpr int MostRows = 500;
+    static constexpr int MostRows = FileComparison::MostTold;
+    /// With so many rows, those below further records are made when these are opened.
+    static constexpr int MostAtOnce = 2000;
 
     /// Lists what the comparison has found; what was open and current stays so.
     void show(const FileComparison &comparison);
@@ -51,8 +66,11 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    QList<QTreeWidgetItem *> itemsOf(const std::vector<RecordDifference> &differences,
-                                     const Document &document) const;
+    QList<QTreeWidgetItem *> itemsOf(const std::vector<RecordDifference> &differences);
+    CompareItem *recordItem(const RecordDifference &difference);
+    void fill(CompareItem &item, const RecordDifference &difference);
 
+    const Document *m_document = nullptr; ///< that is compared
     QString m_emptyText;
+    int m_rows = 0;
 };

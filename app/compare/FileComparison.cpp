@@ -4,10 +4,13 @@
 
 #include "AllCommands.h"
 #include "DocumentLoader.h"
+#include "Memory.h"
+#include "Patience.h"
 #include "TheirRecords.h"
 
 #include <QFileInfo>
 #include <QHash>
+#include <QMessageBox>
 
 #include <algorithm>
 
@@ -37,6 +40,54 @@ std::tuple<int, RecordIndex> turnOf(const RecordDifference &difference)
     return {isInBlock ? 2 : 4, index};
 }
 
+/// A difference as it was known when it was to be taken.
+struct WantedRecord
+{
+    RecordRef mine;
+    RecordRef theirs;
+    QString field;
+};
+
+/// A model that has taken over what another one has.
+template <typename Model>
+struct Merged
+{
+    Model model;
+    int taken = 0;
+    std::vector<RecordDifference> left; ///< what differs afterwards
+    QString lack;                       ///< why nothing could be taken
+
+    void merge(const Model &mine, const Model &theirs, const QVector<WantedRecord> &wanted,
+               const Background::Cancelled &cancelled, std::atomic_int &percent)
+    {
+        // The list may be a moment behind the model: only what still differs in the same way is taken.
+        const std::vector<RecordDifference> now =
+            ModelComparison::compare(mine, theirs, FileComparison::MostTold);
+        percent = 40;
+        QHash<QPair<RecordRef, RecordRef>, const RecordDifference *> all;
+        for (const RecordDifference &each : now) {
+            all.insert({each.mine, each.theirs}, &each);
+            for (const RecordDifference &child : each.children)
+                all.insert({child.mine, child.theirs}, &child);
+        }
+        std::vector<std::pair<const RecordDifference *, QString>> current;
+        for (const WantedRecord &each : wanted) {
+            if (const RecordDifference *same = all.value({each.mine, each.theirs}))
+                current.emplace_back(same, each.field);
+        }
+        std::stable_sort(current.begin(), current.end(),
+                         [](const auto &a, const auto &b) { return turnOf(*a.first) < turnOf(*b.first); });
+        percent = 50;
+        if (cancelled)
+            return;
+        model = mine;
+        for (const auto &[difference, field] : current)
+            taken += takeTheirs(model, theirs, *difference, field);
+        percent = 60;
+        if (!cancelled)
+            left = ModelComparison::compare(model, theirs, FileComparison::MostTold);
+    }
+};
 } // namespace
 
 FileComparison::FileComparison(SkinnedMeshDocument &skinnedMesh, AnimDocument &anim,
@@ -86,10 +137,11 @@ void FileComparison::start(DocumentType type, const QString &path)
 void FileComparison::reload()
 {
     m_theirs = {};
-    m_differences.clear();
     m_failure.clear();
+    std::vector<RecordDifference> old = std::exchange(m_differences, {});
     check();
     emit changed();
+    Background::discard(std::move(old));
 }
 
 void FileComparison::end()
@@ -98,9 +150,8 @@ void FileComparison::end()
     m_delay.stop();
     m_document = nullptr;
     m_theirs = {};
-    m_differences.clear();
     m_failure.clear();
-    emit changed();
+    setDifferences({});
 }
 
 void FileComparison::check()
@@ -119,74 +170,92 @@ void FileComparison::checkModel(ModelDocument<Model> &document)
 {
     using Shared = std::shared_ptr<const Model>;
     const auto *read = std::get_if<Shared>(&m_theirs);
-    m_work.start(
-        [mine = document.copy(), known = read ? *read : Shared(),
-         path = m_path](const Background::Cancelled &) {
+    const auto work = [mine = document.copy(), known = read ? *read : Shared(),
+                       path = m_path](const Background::Cancelled &) {
+        Found found;
+        found.theirs = known;
+        const QString name = QFileInfo(path).fileName();
+        const QString lack = withinMemory([&] {
             Shared theirs = known;
-            Found found;
             if (!theirs) {
                 auto fresh = std::make_shared<Model>();
-                if (fresh->read(path, &found.failure)) {
-                    if (found.failure.isEmpty())
-                        found.failure = tr("The file could not be opened.");
-                    return found;
+                QString reason;
+                if (fresh->read(path, &reason)) {
+                    found.failure =
+                        tr("%1 cannot be read: %2")
+                            .arg(name, reason.isEmpty() ? tr("The file could not be opened.") : reason);
+                    return;
                 }
                 theirs = fresh;
             }
-            found.differences = ModelComparison::compare(mine->get(), *theirs);
+            found.differences = ModelComparison::compare(mine->get(), *theirs, MostTold);
             found.theirs = theirs;
-            return found;
-        },
-        [this](Found found) {
-            m_theirs = std::move(found.theirs);
-            m_failure = found.failure;
-            m_differences = std::move(found.differences);
-            emit changed();
         });
+        if (!lack.isEmpty())
+            found.failure = tr("%1 cannot be compared: %2").arg(name, lack);
+        return found;
+    };
+    m_work.start(work, [this](Found found) {
+        m_theirs = std::move(found.theirs);
+        m_failure = found.failure;
+        setDifferences(std::move(found.differences));
+    });
     // Models of the game's size are compared before anybody sees that they are.
     m_work.wait(DocumentLoader::usualPatience());
 }
 
-int FileComparison::take(const QVector<Pick> &picks)
+void FileComparison::setDifferences(std::vector<RecordDifference> differences)
+{
+    std::vector<RecordDifference> old = std::exchange(m_differences, std::move(differences));
+    emit changed(); // after which nobody points at the old ones
+    Background::discard(std::move(old));
+}
+
+int FileComparison::take(const QVector<Pick> &picks, QWidget *window)
 {
     if (!m_document || m_document->returnToTyping())
         return 0;
     if (m_document == &m_skinnedMesh)
-        return takeInto<UC_SkinnedMeshTakeTheirs>(m_skinnedMesh, picks);
+        return takeInto<UC_SkinnedMeshTakeTheirs>(m_skinnedMesh, picks, window);
     if (m_document == &m_anim)
-        return takeInto<UC_AnimTakeTheirs>(m_anim, picks);
-    return takeInto<UC_StaticMeshTakeTheirs>(m_staticMesh, picks);
+        return takeInto<UC_AnimTakeTheirs>(m_anim, picks, window);
+    return takeInto<UC_StaticMeshTakeTheirs>(m_staticMesh, picks, window);
 }
 
 template <typename Command, typename Model>
-int FileComparison::takeInto(ModelDocument<Model> &document, const QVector<Pick> &picks)
+int FileComparison::takeInto(ModelDocument<Model> &document, const QVector<Pick> &picks, QWidget *window)
 {
-    const auto *theirs = std::get_if<std::shared_ptr<const Model>>(&m_theirs);
-    if (!theirs || !*theirs)
+    const auto *known = std::get_if<std::shared_ptr<const Model>>(&m_theirs);
+    if (!known || !*known)
         return 0;
-    // The list may be a moment behind the model: only what still differs in the same way is taken.
-    const std::vector<RecordDifference> now = ModelComparison::compare(document.model(), **theirs);
-    QHash<QPair<RecordRef, RecordRef>, const RecordDifference *> all;
-    for (const RecordDifference &each : now) {
-        all.insert({each.mine, each.theirs}, &each);
-        for (const RecordDifference &child : each.children)
-            all.insert({child.mine, child.theirs}, &child);
+    QVector<WantedRecord> wanted;
+    wanted.reserve(picks.size());
+    for (const Pick &pick : picks)
+        wanted.append({pick.difference->mine, pick.difference->theirs, pick.field});
+    const std::shared_ptr<ModelCopy<Model>> mine = document.copy();
+    std::atomic_int percent{0};
+    const auto work = [mine, &percent, wanted = std::move(wanted),
+                       theirs = *known](const Background::Cancelled &cancelled) {
+        Merged<Model> merged;
+        merged.lack = withinMemory([&] { merged.merge(mine->get(), *theirs, wanted, cancelled, percent); });
+        return merged;
+    };
+    const QString name = QFileInfo(m_path).fileName();
+    std::optional<Merged<Model>> merged =
+        workWithPatience(work, tr("Taking from '%1'").arg(name), window, &percent);
+    if (!merged)
+        return 0;
+    if (!merged->lack.isEmpty())
+        QMessageBox::warning(window, tr("Take Theirs"), tr("Nothing was taken. %1").arg(merged->lack));
+    // Another program may have had the document read anew meanwhile.
+    const bool isCurrent = m_document == &document && document.copy() == mine;
+    if (!isCurrent || merged->taken == 0) {
+        check();
+        return 0;
     }
-    QVector<Pick> current;
-    for (const Pick &pick : picks) {
-        if (const RecordDifference *same = all.value({pick.difference->mine, pick.difference->theirs}))
-            current += Pick{same, pick.field};
-    }
-    std::stable_sort(current.begin(), current.end(), [](const Pick &a, const Pick &b) {
-        return turnOf(*a.difference) < turnOf(*b.difference);
-    });
-    Model merged = document.model();
-    int taken = 0;
-    for (const Pick &pick : qAsConst(current))
-        taken += takeTheirs(merged, **theirs, *pick.difference, pick.field);
-    if (taken > 0)
-        document.undoStack()->push(
-            new Command(document.editTarget(), std::move(merged), QFileInfo(m_path).fileName()));
-    check();
-    return taken;
+    document.undoStack()->push(new Command(document.editTarget(), std::move(merged->model), name));
+    m_delay.stop();
+    m_work.cancel();
+    setDifferences(std::move(merged->left));
+    return merged->taken;
 }

@@ -19,6 +19,8 @@ class FileComparison : public QObject
 
 public:
     static constexpr int DelayMs = 300;
+    /// So many records of a list are compared field by field; of further ones is only known that they differ.
+    static constexpr int MostTold = 500;
 
     /// The documents outlive this.
     FileComparison(SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticMeshDocument &staticMesh,
@@ -34,7 +36,7 @@ public:
     /// The file that it is compared with.
     QString path() const { return m_path; }
     bool isRunning() const { return m_work.isRunning(); }
-    /// Why the file cannot be compared; empty when it can.
+    /// Why the file cannot be compared, for the user; empty when it can.
     QString failure() const { return m_failure; }
     const std::vector<RecordDifference> &differences() const { return m_differences; }
 
@@ -44,9 +46,9 @@ public:
         const RecordDifference *difference;
         QString field;
     };
-    /// Lets the document have what the file has there, as one undo step. Returns how many of them could be
-    /// taken.
-    int take(const QVector<Pick> &picks);
+    /// Lets the document have what the file has there, as one undo step. Another thread works it out, while
+    /// `window` takes no input and soon offers to give up. Returns how many of them could be taken.
+    int take(const QVector<Pick> &picks, QWidget *window);
 
 signals:
     void changed();
@@ -66,7 +68,8 @@ private:
     template <typename Model>
     void checkModel(ModelDocument<Model> &document);
     template <typename Command, typename Model>
-    int takeInto(ModelDocument<Model> &document, const QVector<Pick> &picks);
+    int takeInto(ModelDocument<Model> &document, const QVector<Pick> &picks, QWidget *window);
+    void setDifferences(std::vector<RecordDifference> differences);
 
     SkinnedMeshDocument &m_skinnedMesh;
     AnimDocument &m_anim;

@@ -299,7 +299,13 @@ Document::Reader ModelDocument<Model>::reader(const QString &path) const
     auto prepare = m_preparation ? m_preparation() : typename LoadedModel<Model>::Prepare();
     return [path, prepare = std::move(prepare)](ReadProgress &progress) {
         auto file = std::make_shared<LoadedModel<Model>>();
-        file->read(path, prepare, progress);
+        const QString lack = withinMemory([&] { file->read(path, prepare, progress); });
+        if (!lack.isEmpty()) {
+            file = std::make_shared<LoadedModel<Model>>();
+            file->path = path;
+            file->isFailed = true;
+            file->reason = lack;
+        }
         return file;
     };
 }
@@ -338,7 +344,11 @@ Document::Writer ModelDocument<Model>::writer(const QString &path)
     file->names = m_names;
     file->change = change();
     return [file, model = copy()] {
-        writeSaved(*file, model->get());
+        const QString lack = withinMemory([&] { writeSaved(*file, model->get()); });
+        if (!lack.isEmpty()) {
+            file->isFailed = true;
+            file->reason = lack;
+        }
         return file;
     };
 }

@@ -7,6 +7,7 @@
 #include "DocumentKind.h"
 #include "DocumentView.h"
 #include "LoadedModel.h"
+#include "Memory.h"
 #include "ModelCopy.h"
 #include "NamesFile.h"
 #include "Records.h"
@@ -181,11 +182,11 @@ public:
     QString refusal() const override { return m_model.refusal(); }
     Drafter drafter() override;
     EditTarget<Model> editTarget() { return {m_model, *this}; }
-    /// Whoever was promised a copy of the model as it is has it afterwards.
+    /// Whoever was promised a copy of the model as it is has it afterwards, or finds it lost.
     void aboutToChange() override
     {
         if (const auto promised = m_promised.lock())
-            promised->get();
+            static_cast<void>(withinMemory([&promised] { promised->get(); }));
         m_promised.reset();
     }
 
@@ -200,7 +201,7 @@ public:
     std::shared_ptr<ModelCopy<Model>> copy()
     {
         std::shared_ptr<ModelCopy<Model>> promised = m_promised.lock();
-        if (!promised)
+        if (!promised || promised->isLost())
             m_promised = promised = std::make_shared<ModelCopy<Model>>(m_model);
         return promised;
     }

@@ -11,6 +11,7 @@
 #include "ImportRun.h"
 #include "Log.h"
 #include "MaterialFiles.h"
+#include "Memory.h"
 #include "Patience.h"
 #include "PosedMesh.h"
 #include "RecordSelection.h"
@@ -239,12 +240,19 @@ void ModelExport::exportGltf(const std::vector<int> &blocks, const QString &titl
         GltfSource from = source;
         from.isCancelled = [&cancelled] { return cancelled.load(); };
         from.tellDone = [&percent](double done) { percent = int(done * PercentOfContent); };
-        const GltfWriter content = isStatic ? ::exportGltf(rigid->get(), from, outcome.messages)
-                                            : ::exportGltf(skinned->get(), animated ? &anim->get() : nullptr,
-                                                           blocks, from, outcome.messages);
-        percent = PercentOfContent;
-        if (!cancelled && !outcome.messages.hasError())
-            outcome.files.emplace(content, path);
+        const QString lack = withinMemory([&] {
+            const GltfWriter content = isStatic
+                                           ? ::exportGltf(rigid->get(), from, outcome.messages)
+                                           : ::exportGltf(skinned->get(), animated ? &anim->get() : nullptr,
+                                                          blocks, from, outcome.messages);
+            percent = PercentOfContent;
+            if (!cancelled && !outcome.messages.hasError())
+                outcome.files.emplace(content, path);
+        });
+        if (!lack.isEmpty()) {
+            outcome.files.reset();
+            outcome.messages.addError(tr("[glTF Export] %1").arg(lack));
+        }
         return outcome;
     };
     std::optional<GltfOutcome> outcome = workWithPatience(

@@ -3,6 +3,8 @@
 #include "Problems.h"
 
 #include "DocumentLoader.h"
+#include "Log.h"
+#include "Memory.h"
 #include "Repairs.h"
 #include "Settings.h"
 #include "Validation.h"
@@ -106,11 +108,24 @@ void Problems::check()
 void Problems::startCheck(DocumentType type)
 {
     Background &checks = m_checks[size_t(type)];
-    checks.start([find = checkNow(type)](const Background::Cancelled &) { return find(); },
-                 [this, type](std::vector<Finding> found) {
-                     m_findings[size_t(type)] = std::move(found);
-                     emit changed();
-                 });
+    struct Checked
+    {
+        std::vector<Finding> found;
+        QString lack; ///< why nothing was looked for
+    };
+    const auto work = [find = checkNow(type)](const Background::Cancelled &) {
+        Checked checked;
+        checked.lack = withinMemory([&] { checked.found = find(); });
+        return checked;
+    };
+    checks.start(work, [this, type](Checked checked) {
+        // What was known stays where nothing can be said anew.
+        if (!checked.lack.isEmpty())
+            return Log::warning(
+                tr("[Problems] '%1' was not searched: %2").arg(document(type).fileName(), checked.lack));
+        m_findings[size_t(type)] = std::move(checked.found);
+        emit changed();
+    });
     // A model of the game's size takes less than a millisecond, and its list does not flicker then.
     checks.wait(DocumentLoader::usualPatience() / 5);
 }

@@ -4,6 +4,7 @@
 
 #include "FolderLock.h"
 #include "Log.h"
+#include "Memory.h"
 #include "OwnFolders.h"
 #include "SnapshotFile.h"
 
@@ -224,7 +225,10 @@ void SnapshotStore::keep(const Snapshot &snapshot, std::function<std::vector<uch
     Snapshot kept = snapshot;
     kept.sequence = m_last;
     run([this, kept, model = std::move(model), path, spared] {
-        const QString reason = SnapshotFile::write(path, kept, model());
+        QString reason;
+        const QString lack = withinMemory([&] { reason = SnapshotFile::write(path, kept, model()); });
+        if (!lack.isEmpty())
+            reason = lack;
         if (reason.isEmpty())
             removeOldest(m_folder, spared);
         else

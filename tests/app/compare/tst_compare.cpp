@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "DocumentFiles.h"
 #include "Hand.h"
+#include "NameTables.h"
 #include "SampleModels.h"
 
 /// The window with a model in it, compared with a file.
@@ -38,9 +39,9 @@ private slots:
         compare(m_folder->save("mine.anim", mine), m_folder->save("theirs.anim", theirs));
         QCOMPARE(find<QLabel>("lblCompare")->text(), QString("mine.anim with theirs.anim, different in: 4"));
         QCOMPARE(rows(), QStringList({"Anim 0 (id 0)||", "> Rotation track 1||up to 180\u00B0 apart",
-                                      "> > key 2|[0, 0, 0, 1]|[1, 0, 0, 0]", "Anim 1 (id 10)|only here|",
-                                      "Anim 2 (id 20)||", "> speed|1|2", "> Action 1||",
-                                      "> > args|[0, 0, 0, 0, 0, 0, 0, 0]|[9, 0, 0, 0, 0, 0, 0, 0]",
+                                      "> > Frame 2|0, 0, 0, 1|1, 0, 0, 0", "Anim 1 (id 10)|only here|",
+                                      "Anim 2 (id 20)||", "> Speed|1|2", "> Action 1||",
+                                      "> > Arguments|0, 0, 0, 0, 0, 0, 0, 0|9, 0, 0, 0, 0, 0, 0, 0",
                                       "> Action 2|only here|", "Anim 2 (id 77)||only there"}));
 
         // Looking changes nothing; Enter leads to the record.
@@ -50,17 +51,17 @@ private slots:
         QCOMPARE(find<KVTreeView>("treeAnim")->currentRecord(),
                  (RecordRef{RecordKind::AnimAction, {2, 1, 0}}));
         QVERIFY(!isModified());
-        choose({"Anim 0 (id 0)", "Rotation track 1", "key 2"});
+        choose({"Anim 0 (id 0)", "Rotation track 1", "Frame 2"});
         QVERIFY(!take->isEnabled());
 
         // One field.
-        choose({"Anim 2 (id 20)", "speed"});
+        choose({"Anim 2 (id 20)", "Speed"});
         press("btnCompareTake");
         QCOMPARE(find<QUndoView>("viewHistory")->stack()->undoText(), QString("Take from theirs.anim"));
-        QVERIFY(!rows().contains("> speed|1|2") && rows().contains("> Action 1||"));
+        QVERIFY(!rows().contains("> Speed|1|2") && rows().contains("> Action 1||"));
         undo();
         QVERIFY(!isModified());
-        QTRY_VERIFY(rows().contains("> speed|1|2"));
+        QTRY_VERIFY(rows().contains("> Speed|1|2"));
 
         // All at once: what goes, comes and changes, with an owner and what is in it.
         tree()->selectAll();
@@ -76,12 +77,38 @@ private slots:
         // The rows within, without their owners, in whatever order they were chosen.
         QTRY_COMPARE(rows().size(), 10);
         choose({"Anim 2 (id 20)", "Action 2"});
-        choose({"Anim 2 (id 20)", "Action 1", "args"}, QItemSelectionModel::Select);
+        choose({"Anim 2 (id 20)", "Action 1", "Arguments"}, QItemSelectionModel::Select);
         choose({"Anim 1 (id 10)"}, QItemSelectionModel::Select);
         press("btnCompareTake");
         QCOMPARE(rows(), QStringList({"Anim 0 (id 0)||", "> Rotation track 1||up to 180\u00B0 apart",
-                                      "> > key 2|[0, 0, 0, 1]|[1, 0, 0, 0]", "Anim 1 (id 20)||",
-                                      "> speed|1|2", "Anim 2 (id 77)||only there"}));
+                                      "> > Frame 2|0, 0, 0, 1|1, 0, 0, 0", "Anim 1 (id 20)||", "> Speed|1|2",
+                                      "Anim 2 (id 77)||only there"}));
+    }
+
+    /// Fields and values as the pages have them.
+    void speaksAsThePages()
+    {
+        SkinnedMesh mine = SampleModels::plainMesh();
+        mine.nodes[0].symbolFlags = 0;
+        SkinnedMesh theirs = mine;
+        SkinnedMeshNode &bone = theirs.nodes[0];
+        bone.symbolFlags = qint8(0x86);
+        bone.impactType = quint8(mine.nodes[0].impactType + 1);
+        bone.flags = mine.nodes[0].flags ^ 0x11;
+        bone.damageScale = 1e-5f;
+        bone.bbMin = {1e6f, -0.5f, 0};
+        theirs.hotPoints[0].origin.setX(SampleModels::oddFloats[1]);
+        theirs.surfaces[0].materialPath = "a, \"b\"";
+        compare(m_folder->save("mine.skinnedmesh", mine), m_folder->save("theirs.skinnedmesh", theirs));
+        QStringList told;
+        for (const QString &row : rows())
+            told += row.section('|', 0, 0) + '|' + row.section('|', 2);
+        QCOMPARE(told, QStringList(
+                           {"Bone 0|", "> Flags|0x" + QString::number(bone.flags, 16).rightJustified(8, '0'),
+                            "> Symbol|" + boneTypeNames()[2] + ", Right, 2",
+                            "> Impact Type|" + impactTypeNames()[bone.impactType], "> Damage Scale|0.00001",
+                            "> Bounding Box Min|1000000, -0.5, 0", "Hot point 0|",
+                            "> Position On Bone|nan, 0, 0", "Surface 0|", "> Material|a, \"b\""}));
     }
 
     void followsTheModelAndTheFile()
@@ -95,8 +122,8 @@ private slots:
         const QString other = m_folder->save("theirs.skinnedmesh", theirs);
         compare(m_folder->save("mine.skinnedmesh", mine), other);
         QCOMPARE(tree()->topLevelItemCount(), 502);
-        QCOMPARE(rows().mid(0, 4),
-                 QStringList({"mine.skinnedmesh||", "> unknownA|0|4", "Vertex 0||", "> uv|[0, 0]|[0.5, 0]"}));
+        QCOMPARE(rows().mid(0, 4), QStringList({"mine.skinnedmesh||", "> Header Value 1|0|4", "Vertex 0||",
+                                                "> UV|0, 0|0.5, 0"}));
         // The last row stands for all that have none.
         choose({"and 100 more"});
         press("btnCompareTake");
@@ -104,15 +131,17 @@ private slots:
         undo();
         QTRY_COMPARE(tree()->topLevelItemCount(), 502);
 
+        QCOMPARE(tree()->topLevelItem(1)->child(0)->text(0), QString("UV"));
+
         // An edit here, and another program's there.
         typeParent(*m_window, 3);
         QTRY_VERIFY(rows().contains("Bone 1||"));
-        QCOMPARE(rows()[3], QString("> parent|3|0"));
+        QCOMPARE(rows()[3], QString("> Parent Bone|3|0"));
         QVERIFY(!theirs.write(m_folder->path("new.skinnedmesh")));
         theirs = mine;
         QVERIFY(!theirs.write(other));
         press("btnCompareAgain");
-        QCOMPARE(rows(), QStringList({"Bone 1||", "> parent|3|0"}));
+        QCOMPARE(rows(), QStringList({"Bone 1||", "> Parent Bone|3|0"}));
         QVERIFY(TestSupport::writeFile(other, "short"));
         press("btnCompareAgain");
         QCOMPARE(rows(), QStringList());

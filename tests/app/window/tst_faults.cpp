@@ -1,7 +1,36 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "DocumentFiles.h"
 #include "Hand.h"
 #include "NoOpenGL.h"
+#include "Recovery.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <new>
+
+namespace {
+/// There is no memory for so many bytes at once; 0 while there is for all.
+std::atomic<size_t> refusedBytes{0};
+} // namespace
+
+void *operator new(size_t size)
+{
+    void *memory = size > 0 && size == refusedBytes ? nullptr : std::malloc(size);
+    if (!memory)
+        throw std::bad_alloc();
+    return memory;
+}
+
+void operator delete(void *memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete(void *memory, size_t) noexcept
+{
+    std::free(memory);
+}
 
 /// The program in surroundings that fail it. All of this runs without OpenGL.
 class TestFaults : public QObject
@@ -81,6 +110,56 @@ private slots:
         Settings::UpdateUrl.setValue(QString());
         Settings::Updates.setValue(false);
         useProgram();
+    }
+
+    /// What needs a copy of the model says that there is none, and the work goes on.
+    void thereIsNoMemoryForACopy()
+    {
+        SkinnedMesh mesh = triangleMan();
+        mesh.vertices.resize(12347);
+        const QString path = m_files->save("man.skinnedmesh", mesh);
+        const QByteArray before = TestSupport::readFile(path);
+        ShownWindow window({path});
+        const QString lack = QStringLiteral("There is not enough memory.");
+        refusedBytes = mesh.vertices.size() * sizeof(SkinnedMeshVertex);
+        {
+            Hand hand({Hand::press(QMessageBox::Ok)});
+            window.openFiles({path});
+            QTRY_VERIFY(hand.seen.value(0).startsWith("File error|"));
+        }
+        QVERIFY(consoleOf(window).last().contains(lack));
+        typeParent(window, 7);
+        {
+            Hand hand({Hand::press(QMessageBox::Ok)});
+            find<QAction>(window, "actionSave")->trigger();
+            QTRY_VERIFY(hand.seen.value(0).contains(lack));
+        }
+        QVERIFY(window.windowTitle().endsWith(QStringLiteral(" * ")));
+        QCOMPARE(TestSupport::readFile(path), before);
+        window.findChild<Recovery *>()->keepAll();
+        QTRY_VERIFY(consoleOf(window).join('\n').contains("Unsaved work cannot be kept: " + lack));
+        {
+            Hand hand({Hand::file(path)});
+            find<QAction>(window, "actionCompare")->trigger();
+        }
+        QTRY_COMPARE(find<QTreeWidget>(window, "treeCompare")->accessibleDescription(),
+                     "man.skinnedmesh cannot be compared: " + lack);
+        QTRY_VERIFY(consoleOf(window).join('\n').contains("'man.skinnedmesh' was not searched: " + lack));
+        // Who waits for a copy has none, rather than one of what came later.
+        auto &document = static_cast<SkinnedMeshDocument &>(
+            *window.findChild<DocumentFiles *>()->document(DocumentType::SkinnedMesh));
+        const auto promised = document.copy();
+        typeParent(window, 8);
+        QVERIFY(promised->isLost());
+        refusedBytes = 0;
+        find<QAction>(window, "actionSave")->trigger();
+        SkinnedMesh saved;
+        QVERIFY(!saved.read(path));
+        QCOMPARE(int(saved.nodes[1].parentNode), 8);
+        QCOMPARE(saved.vertices.size(), mesh.vertices.size());
+        find<QAction>(window, "actionCompareAgain")->trigger();
+        QTRY_COMPARE(find<QTreeWidget>(window, "treeCompare")->accessibleDescription(),
+                     QStringLiteral("No record differs."));
     }
 
     void theStoreCannotBeReadNorWritten()

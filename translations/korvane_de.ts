@@ -5462,6 +5462,89 @@ Hände und Füße (x0.25): %6</translation>
     </message>
 </context>
 <context>
+    <name>RecordNotes</name>
+    <message>
+        <source>particle %1</source>
+        <translation>Partikel %1</translation>
+    </message>
+    <message>
+        <source>event %1</source>
+        <translation>Ereignis %1</translation>
+    </message>
+    <message>
+        <source>1 triangle</source>
+        <translation>1 Dreieck</translation>
+    </message>
+    <message>
+        <source>%1 triangles</source>
+        <translation>%1 Dreiecke</translation>
+    </message>
+    <message>
+        <source>damage %1</source>
+        <translation>Schaden %1</translation>
+    </message>
+    <message>
+        <source>triangle %1</source>
+        <translation>Dreieck %1</translation>
+    </message>
+    <message>
+        <source>at %1</source>
+        <translation>bei %1</translation>
+    </message>
+    <message>
+        <source>bone %1</source>
+        <translation>Knochen %1</translation>
+    </message>
+    <message>
+        <source>no bone follows it</source>
+        <translation>kein Knochen folgt ihr</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>frame %1</source>
+        <translation>Frame %1</translation>
+    </message>
+    <message>
+        <source>id %1</source>
+        <translation>ID %1</translation>
+    </message>
+    <message>
+        <source>1 frame</source>
+        <translation>1 Frame</translation>
+    </message>
+    <message>
+        <source>%1 frames</source>
+        <translation>%1 Frames</translation>
+    </message>
+    <message>
+        <source>yaw %1</source>
+        <translation>Gieren %1</translation>
+    </message>
+    <message>
+        <source>%1° about %2</source>
+        <translation>%1° um %2</translation>
+    </message>
+    <message>
+        <source>1 vertex</source>
+        <translation>1 Vertex</translation>
+    </message>
+    <message>
+        <source>%1 vertices</source>
+        <translation>%1 Vertices</translation>
+    </message>
+    <message>
+        <source>1 child</source>
+        <translation>1 Kind</translation>
+    </message>
+    <message>
+        <source>%1 children</source>
+        <translation>%1 Kinder</translation>
+    </message>
+</context>
+<context>
     <name>RecordTableView</name>
     <message>
         <source>Value</source>
@@ -5506,6 +5589,17 @@ Hände und Füße (x0.25): %6</translation>
     <message>
         <source>Nothing was pasted. %1</source>
         <translation>Nichts wurde eingefügt. %1</translation>
+    </message>
+</context>
+<context>
+    <name>RecordTips</name>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
     </message>
 </context>
 <context>

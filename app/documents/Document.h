@@ -112,6 +112,7 @@ public:
     virtual QString recordName(const RecordRef &record) const = 0;
     /// Lets the names of another document's mesh count for this one.
     void setNamingMesh(const SkinnedMesh *mesh) { m_namingMesh = mesh; }
+    const SkinnedMesh *namingMesh() const { return m_namingMesh; }
 
     /// The file that save() would write beside `path` in the place of one that is not the document's; empty
     /// when there is none.
@@ -150,7 +151,6 @@ protected:
     /// Takes over what is known of the names beside the model that was written.
     virtual void takeNames(const NamesFile &names) = 0;
     int change() const { return m_change; }
-    const SkinnedMesh *namingMesh() const { return m_namingMesh; }
 
 private:
     const DocumentType m_type;

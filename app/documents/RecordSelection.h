@@ -19,6 +19,10 @@ public:
     virtual QString label(const RecordRef &record) const = 0;
     /// What the model's own names call it; empty when they do not.
     virtual QString name(const RecordRef &record) const = 0;
+    /// What the list says of it more quietly, behind the label; its name is part of that.
+    virtual QString note(const RecordRef &record) const = 0;
+    /// All that a record holds, as rich text for a tool tip.
+    virtual QString toolTip(const RecordRef &record) const = 0;
 
 protected:
     RecordSelection() = default;

@@ -3,7 +3,7 @@
 #include "KVTreeView.h"
 
 #include "EmptyText.h"
-#include "NamedRows.h"
+#include "NotedRows.h"
 #include "RecordFilling.h"
 #include "RecordItem.h"
 #include "RecordOrder.h"
@@ -30,7 +30,7 @@ KVTreeView::KVTreeView(QWidget *parent)
     setUniformRowHeights(true);
     setContextMenuPolicy(Qt::CustomContextMenu);
     setIconSize({16, 16});
-    setItemDelegate(new NamedRows(this));
+    setItemDelegate(new NotedRows(this));
     connect(this, &QTreeWidget::itemSelectionChanged, this, &KVTreeView::notifyCurrent);
     connect(this, &QTreeWidget::currentItemChanged, this, &KVTreeView::notifyCurrent);
     connect(this, &QTreeWidget::itemExpanded, this,
@@ -40,6 +40,7 @@ KVTreeView::KVTreeView(QWidget *parent)
 void KVTreeView::setDocument(Document *document)
 {
     m_document = document;
+    m_notes = new RecordNotes(*document, this);
     setAccessibleName(document->kind().label);
     connect(document, &Document::replaced, this, &KVTreeView::rebuild);
     connect(document, &Document::recordsChanged, this, &KVTreeView::onRecordsChanged);
@@ -105,11 +106,6 @@ bool KVTreeView::isShown(const RecordRef &record) const
 QString KVTreeView::label(const RecordRef &record) const
 {
     return m_document ? recordLabel(*m_document, record) : QString();
-}
-
-QString KVTreeView::name(const RecordRef &record) const
-{
-    return m_document ? m_document->recordName(record) : QString();
 }
 
 void KVTreeView::expandToMatches()

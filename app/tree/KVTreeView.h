@@ -4,7 +4,9 @@
 
 #include "Document.h"
 #include "RecordFilter.h"
+#include "RecordNotes.h"
 #include "RecordSelection.h"
+#include "RecordTips.h"
 
 #include <QSet>
 #include <QTreeWidget>
@@ -34,7 +36,18 @@ public:
     RecordRef currentRecord() const override;
     QVector<RecordIndex> selectedRecords(RecordKind kind) const override;
     QString label(const RecordRef &record) const override;
-    QString name(const RecordRef &record) const override;
+    QString name(const RecordRef &record) const override
+    {
+        return m_document ? m_document->recordName(record) : QString();
+    }
+    QString note(const RecordRef &record) const override
+    {
+        return m_notes ? m_notes->text(record) : QString();
+    }
+    QString toolTip(const RecordRef &record) const override
+    {
+        return m_document ? recordToolTip(*m_document, record) : QString();
+    }
 
     /// The item of a record, or of the deepest of its owners that has one; null in an empty tree.
     RecordItem *findItem(const RecordRef &record) const;
@@ -88,6 +101,7 @@ private:
     void notifyCurrent();
 
     Document *m_document = nullptr;
+    const RecordNotes *m_notes = nullptr;
     const QAction *m_openAction = nullptr;
     bool m_hideData = true; ///< as it was when the tree was built
     RecordFilter m_filter;

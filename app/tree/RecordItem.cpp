@@ -80,11 +80,13 @@ QVariant RecordItem::data(int column, int role) const
     case Qt::DisplayRole:
     case Qt::EditRole:
         return texts() ? texts()->label(record()) : QString();
-    case NameRole:
-        return texts() ? texts()->name(record()) : QString();
+    case NoteRole:
+        return texts() ? texts()->note(record()) : QString();
+    case Qt::ToolTipRole:
+        return texts() ? texts()->toolTip(record()) : QString();
     case Qt::AccessibleTextRole:
         return QString(data(column, Qt::DisplayRole).toString() + QLatin1Char(' ') +
-                       data(column, NameRole).toString())
+                       data(column, NoteRole).toString())
             .trimmed();
     case Qt::DecorationRole:
         return recordIcon(m_kind);

@@ -38,8 +38,8 @@ public:
     /// Where it stands among its siblings while no filter leaves any of them out.
     int position() const;
 
-    /// What the model's own names call it, for a quieter text behind the label.
-    static constexpr int NameRole = Qt::UserRole + 1;
+    /// A quieter text behind the label: see RecordNotes.
+    static constexpr int NoteRole = Qt::UserRole + 1;
 
     /// Under Qt::UserRole the kind code and the three indexes as a list.
     QVariant data(int column, int role) const override;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "RecordTexts.h"
 
+#include "RecordNotes.h"
 #include "RecordTable.h"
 
 #include <QCoreApplication>
@@ -34,7 +35,7 @@ QString searchText(const Document &document, const RecordRef &record)
     // The text of an action is its event, number first.
     if (record.kind == RecordKind::AnimAction && !more.isEmpty())
         more.prepend(QCoreApplication::translate("Records", "event") + QLatin1Char(' '));
-    for (const QString &part : {more, document.recordName(record)}) {
+    for (const QString &part : {more, noteNames(document, record)}) {
         if (!part.isEmpty())
             text += QLatin1Char(' ') + part;
     }

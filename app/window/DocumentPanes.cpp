@@ -295,11 +295,11 @@ void DocumentPanes::OnRecordsChanged(DocumentType type, const QVector<RecordRef>
         showNames();
 }
 
-// Bones and animations are called by the names of the mesh.
 void DocumentPanes::showNames()
 {
     const DocumentPane &anim = pane(DocumentType::Anim);
-    anim.tree->viewport()->update();
+    for (const DocumentPane &each : m_panes)
+        each.tree->viewport()->update();
     if (anim.document->isOpen())
         anim.pages->refresh();
     m_track.updateRange();
@@ -309,7 +309,9 @@ void DocumentPanes::OnStructuresChanged(DocumentType type, const QVector<Structu
 {
     const Document &document = *pane(type).document;
     const bool isWhole = std::any_of(changes.begin(), changes.end(), [&](const StructureChange &change) {
-        return change.record.kind == document.rootKind();
+        const RecordKind kind = change.record.kind;
+        return kind == document.rootKind() || kind == RecordKind::SkinnedSurface ||
+               kind == RecordKind::StaticSurface;
     });
     if (isWhole)
         pane(type).viewport->rebuildModel();

@@ -68,6 +68,8 @@ public slots:
     void showOpened(DocumentType type);
     /// The same, with the record current in its tree, which gets the keys.
     void showRecord(DocumentType type, const RecordRef &record);
+    /// What bones and animations, and the game's numbers, are called has changed.
+    void showNames();
     /// The user has opened a file, maybe the same one again, maybe in a tab that stays behind.
     void OnOpened(DocumentType type);
     /// The skinned mesh was posed by the animation that came after it: if its view stands as it was framed
@@ -91,7 +93,6 @@ private:
     void updateViewports();
     void OnReplaced(DocumentType type);
     void frame(DocumentType type);
-    void showNames();
     static bool staysInFolder(const DocumentPane &opened);
     void OnRecordsChanged(DocumentType type, const QVector<RecordRef> &records);
     void OnStructuresChanged(DocumentType type, const QVector<StructureChange> &changes);

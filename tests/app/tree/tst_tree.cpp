@@ -3,6 +3,7 @@
 #include "Panes.h"
 #include "RecordFilling.h"
 #include "RecordItem.h"
+#include "SkinnedMeshCommands.h"
 
 namespace {
 struct MeshPane : Pane<SkinnedMesh>
@@ -74,47 +75,164 @@ private slots:
         }
     }
 
-    void namesStandBehindLabels()
+    void notesStandBehindLabels()
     {
         Panes panes;
         m_mesh.nodes[1].name = QStringLiteral("upper arm.L");
         m_mesh.animationNames = {{9, QStringLiteral("walk")}};
-        m_mesh.hotPoints[0].nodeId = 1;
+        m_mesh.hotPoints = {{{}, 0, 1, 0xFFFF, 640}, {{}, 0, 2, 3, 0xFFFF}};
+        m_mesh.vertices[0].nodeIndex = 1;
+        m_mesh.vertices[3] = {{1.5f, 2, 3}, {}, {}, 1};
         AnimFile file;
         file.blocks.resize(2);
         for (AnimBlock &block : file.blocks)
             block.nodes.resize(3);
         file.blocks[1].nodes.resize(2);
         file.blocks[0].animId = 9;
-        file.blocks[0].setRotationCount(1);
-        file.blocks[0].nodes[1].rotationIndex = 0;
-        file.blocks[0].actions.resize(1);
-        file.blocks[0].actions[0].node = 1;
+        file.blocks[0].setRotationCount(2);
+        file.blocks[0].setFrameCount(2);
+        file.blocks[0].rotations.at(1, 1) = {0, 0, 1, 0};
+        file.blocks[0].nodes[1].rotationIndex = file.blocks[0].nodes[2].rotationIndex = 0;
+        file.blocks[0].frames[1].yawOffset = 0.5f;
+        file.blocks[0].actions = {{12, 0, 1, {}, {1}}, {13, 2, 0xFFFF, {}, {300, 16384}}, {0, 99, 7, {}, {}}};
+        file.blocks[1].actions.resize(1);
+        file.blocks[1].actions[0].node = 1;
+        StaticMesh rigid;
+        rigid.surfaces = {{QStringLiteral("m/a/gold"), {0, 0, 0, 0, 0, 0}}};
+        rigid.vertices.resize(1);
         Settings::HideMeshData.setValue(false);
         Settings::HideAnimData.setValue(false);
         panes.mesh.document.take(m_mesh, QStringLiteral("man"));
         panes.anim.document.take(file, QStringLiteral("man"));
+        panes.rigid.document.take(rigid, QStringLiteral("man"));
         panes.anim.document.setNamingMesh(&panes.mesh.document.model());
-        const auto name = [](const auto &pane, const RecordRef &record) {
+        const auto noteOf = [](auto &pane, const RecordRef &record) {
             const RecordItem *item = pane.tree.findItem(record);
-            const bool isIt = item->record() == record && !item->text(0).contains("upper arm.L");
-            return isIt ? item->data(0, RecordItem::NameRole).toString() : QStringLiteral("another");
+            return item->record() == record ? item->data(0, RecordItem::NoteRole).toString()
+                                            : QStringLiteral("another");
         };
-        for (const RecordRef &record :
-             {RecordRef{RecordKind::Bone, {1}}, {RecordKind::ChildBone, {0, 1}}, {RecordKind::HotPoint, {0}}})
-            QCOMPARE(name(panes.mesh, record), QStringLiteral("upper arm.L"));
-        QCOMPARE(name(panes.mesh, {RecordKind::Bone, {2}}), QString());
-        for (const RecordRef &record : {RecordRef{RecordKind::AnimBone, {0, 1}},
-                                        {RecordKind::RotationTrack, {0, 0}},
-                                        {RecordKind::AnimAction, {0, 0}}})
-            QCOMPARE(name(panes.anim, record), QStringLiteral("upper arm.L"));
-        QCOMPARE(name(panes.anim, {RecordKind::AnimBlock, {0}}), QStringLiteral("walk"));
-        // A block with other bones is another model's.
-        QCOMPARE(name(panes.anim, {RecordKind::AnimBone, {1, 1}}), QString());
-        panes.mesh.tree.setFilter(QStringLiteral("bone upper arm.l"));
-        QCOMPARE(texts(panes.mesh.tree.topLevelItem(0)->child(0)), QStringList("1: Right Upper Arm"));
-        panes.anim.tree.setFilter(QStringLiteral("walk"));
-        QCOMPARE(panes.anim.tree.topLevelItem(0)->childCount(), 1);
+        using K = RecordKind;
+        const std::pair<RecordRef, const char *> meshNotes[] = {
+            {{K::Bones, {}}, ""},
+            {{K::Bone, {0}}, "2 vertices · 2 children"},
+            {{K::Bone, {1}}, "upper arm.L · 2 vertices"},
+            {{K::Bone, {2}}, ""},
+            {{K::ChildBone, {0, 0}}, "Left Root"},
+            {{K::ChildBone, {0, 1}}, "upper arm.L"},
+            {{K::HotPoint, {0}}, "upper arm.L · damage 2.5"},
+            {{K::HotPoint, {1}}, "Left Root · Unnamed_Particle_3.particle"},
+            {{K::SkinnedSurface, {0}}, "b · 1 triangle"},
+            {{K::SkinnedTriangleIndex, {0, 2}}, "triangle 0"},
+            {{K::SkinnedVertex, {3}}, "upper arm.L · at 1.5, 2, 3"},
+        };
+        for (const auto &[record, expected] : meshNotes)
+            QCOMPARE(noteOf(panes.mesh, record), QString::fromUtf8(expected));
+        const std::pair<RecordRef, const char *> animNotes[] = {
+            {{K::AnimBlock, {0}}, "id 9 · walk · 2 frames"},
+            {{K::AnimBlock, {1}}, "id 0 · Unnamed animation 0 · 0 frames"},
+            {{K::AnimBone, {0, 1}}, "upper arm.L"},
+            {{K::AnimFrame, {0, 0}}, ""},
+            {{K::AnimFrame, {0, 1}}, "yaw 0.5"},
+            {{K::RotationTrack, {0, 0}}, "upper arm.L · and 1 more"},
+            {{K::RotationTrack, {0, 1}}, "no bone follows it"},
+            {{K::RotationKey, {0, 1, 1}}, "180° about 0, 0, 1"},
+            {{K::AnimAction, {0, 0}}, "frame 12 · Play Sound · Unnamed sound 1 · upper arm.L"},
+            {{K::AnimAction, {0, 1}}, "frame 13 · Normal Damage · Radius 300"},
+            {{K::AnimAction, {0, 2}}, "frame 0 · event 99 · bone 7"},
+            // A block with other bones is another model's.
+            {{K::AnimBone, {1, 1}}, ""},
+            {{K::AnimAction, {1, 0}}, "frame 0 · Play Sound · Unnamed sound 0 variant 1 · bone 1"},
+        };
+        for (const auto &[record, expected] : animNotes)
+            QCOMPARE(noteOf(panes.anim, record), QString::fromUtf8(expected));
+        QCOMPARE(noteOf(panes.rigid, {K::StaticSurface, {0}}), QStringLiteral("gold · 2 triangles"));
+        QCOMPARE(noteOf(panes.rigid, {K::StaticVertex, {0}}), QStringLiteral("at 0, 0, 0"));
+        QCOMPARE(panes.mesh.tree.findItem({K::Bone, {1}})->data(0, Qt::AccessibleTextRole).toString(),
+                 QStringLiteral("1: Right Upper Arm upper arm.L · 2 vertices"));
+
+        // What the record holds now, from the item that stands there.
+        const RecordItem *bone = panes.mesh.tree.findItem({K::Bone, {2}});
+        panes.mesh.undo().push(
+            new UC_SkinnedMeshVertNodeIndex(panes.mesh.document.editTarget(), {0, 0, 0}, 2));
+        QCOMPARE(panes.mesh.tree.findItem({K::Bone, {2}}), bone);
+        QCOMPARE(noteOf(panes.mesh, {K::Bone, {2}}), QStringLiteral("1 vertex"));
+        panes.mesh.undo().undo();
+        QCOMPARE(noteOf(panes.mesh, {K::Bone, {2}}), QString());
+
+        // By names, not by figures: 300 and 2 would be numbers of other things.
+        const auto found = [](KVTreeView &tree, const char *filter) {
+            tree.setFilter(QLatin1String(filter));
+            QStringList all;
+            for (QTreeWidgetItemIterator it(&tree); *it; ++it)
+                all += (*it)->text(0);
+            return all;
+        };
+        const QStringList bones = found(panes.mesh.tree, "bone upper arm.l");
+        QVERIFY(bones.contains("1: Right Upper Arm") && !bones.contains("2: Left Root"));
+        QCOMPARE(found(panes.mesh.tree, "point particle_3").last(), QStringLiteral("1"));
+        QCOMPARE(found(panes.anim.tree, "action sound upper").last(), QStringLiteral("0"));
+        QCOMPARE(found(panes.anim.tree, "300"), QStringList("man.anim"));
+        QVERIFY(found(panes.anim.tree, "walk").contains("Rotations (2)"));
+    }
+
+    void toolTipsHaveAllFields()
+    {
+        Panes panes;
+        m_mesh.nodes[1].name = QStringLiteral("<arm>");
+        m_mesh.hotPoints = {{{1, 2, 3}, 5, 1, 3, 0xFFFF}};
+        m_mesh.surfaces[0].materialPath = QString(500, QLatin1Char('m'));
+        AnimFile file;
+        file.blocks.resize(1);
+        file.blocks[0].nodes.resize(3);
+        file.blocks[0].actions = {{12, 0, 1, {}, {1}}};
+        panes.mesh.document.take(m_mesh, QStringLiteral("man"));
+        panes.anim.document.take(file, QStringLiteral("man"));
+        panes.anim.document.setNamingMesh(&panes.mesh.document.model());
+        const auto tip = [](auto &pane, const RecordRef &record) {
+            QTextDocument text;
+            text.setHtml(pane.tree.findItem(record)->toolTip(0));
+            return text.toPlainText().replace(QChar(0xa0), QLatin1Char(' ')).simplified();
+        };
+        QCOMPARE(tip(panes.mesh, {RecordKind::HotPoint, {0}}),
+                 QStringLiteral("0 Position On Bone 1, 2, 3 Bone 1 (<arm>) Deal Damage no Particle Effect 1 "
+                                "3 (Unnamed_Particle_3.particle) Particle Effect 2 65535 Flags 5"));
+        const QString action = tip(panes.anim, {RecordKind::AnimAction, {0, 0}});
+        QVERIFY2(action.startsWith("0 Event Type 0 (00: Play Sound) Frame 12 Bone 1 (<arm>) Offset 0, 0, 0 "
+                                   "Sound ID 1 (Unnamed sound 1) Arg 2 0 Arg 3 0"),
+                 qUtf8Printable(action));
+        QVERIFY(tip(panes.mesh, {RecordKind::SkinnedSurface, {0}}).size() < 100);
+        QVERIFY(tip(panes.mesh, {RecordKind::Bone, {1}}).contains("Impact Type 0 (Default)"));
+        QCOMPARE(tip(panes.mesh, {RecordKind::Bones, {}}), QString());
+    }
+
+    void notesTakeNoMoreRoomThanThereIs()
+    {
+        MeshPane pane;
+        m_mesh.nodes[0].name = QString(300, QLatin1Char('n'));
+        pane.document.take(m_mesh, QStringLiteral("man"));
+        pane.tree.findItem({RecordKind::Bones, {}})->setExpanded(true);
+        pane.tree.resize(200, 300);
+        pane.tree.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&pane.tree));
+        QVERIFY(!pane.tree.horizontalScrollBar()->isVisible());
+        // Muted beside the label, in either state.
+        const RecordItem *item = pane.tree.findItem({RecordKind::Bone, {0}});
+        const auto right = [&] {
+            const QRect row = pane.tree.visualItemRect(item);
+            return pane.tree.viewport()
+                ->grab(QRect(row.right() - 30, row.top() + 1, 25, row.height() - 2))
+                .toImage();
+        };
+        for (const bool selected : {false, true}) {
+            pane.select({{selected ? RecordKind::Bone : RecordKind::Bones, {0}}});
+            const QImage image = right();
+            QSet<QRgb> colors;
+            for (int x = 0; x < image.width(); ++x) {
+                for (int y = 0; y < image.height(); ++y)
+                    colors.insert(image.pixel(x, y));
+            }
+            QVERIFY(colors.size() > 1);
+        }
     }
 
     void animation()

@@ -4,13 +4,12 @@
 
 #include <QStyledItemDelegate>
 
-/// Rows of a tree with what the model's own names call a record behind its label, more quietly.
-class NamedRows : public QStyledItemDelegate
+/// Rows of a tree with a note behind their label, more quietly, in what room there is.
+class NotedRows : public QStyledItemDelegate
 {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
-    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 };

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "NamedRows.h"
+#include "NotedRows.h"
 
 #include "RecordItem.h"
 
@@ -8,18 +8,18 @@
 #include <QPainter>
 
 namespace {
-/// Between the label and the name.
-int nameGap(const QFontMetrics &metrics)
+/// Between the label and the note.
+int noteGap(const QFontMetrics &metrics)
 {
     return metrics.horizontalAdvance(QLatin1Char(' ')) * 2;
 }
 } // namespace
 
-void NamedRows::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+void NotedRows::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     QStyledItemDelegate::paint(painter, option, index);
-    const QString name = index.data(RecordItem::NameRole).toString();
-    if (name.isEmpty())
+    const QString note = index.data(RecordItem::NoteRole).toString();
+    if (note.isEmpty())
         return;
     QStyleOptionViewItem row = option;
     initStyleOption(&row, index);
@@ -27,9 +27,10 @@ void NamedRows::paint(QPainter *painter, const QStyleOptionViewItem &option, con
     QRect place = style->subElementRect(QStyle::SE_ItemViewItemText, &row, row.widget);
     // As far from the edge as the style puts texts.
     const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, row.widget) + 1;
-    place.adjust(margin + row.fontMetrics.horizontalAdvance(row.text) + nameGap(row.fontMetrics), 0, -margin,
+    place.adjust(margin + row.fontMetrics.horizontalAdvance(row.text) + noteGap(row.fontMetrics), 0, -margin,
                  0);
-    if (place.width() <= 0)
+    // A word or two; less than that would be all dots.
+    if (place.width() < row.fontMetrics.averageCharWidth() * 4)
         return;
     const bool isSelected = row.state & QStyle::State_Selected;
     QColor color = row.palette.color(isSelected ? QPalette::HighlightedText : QPalette::PlaceholderText);
@@ -39,15 +40,6 @@ void NamedRows::paint(QPainter *painter, const QStyleOptionViewItem &option, con
     painter->setPen(color);
     painter->setFont(row.font);
     painter->drawText(place, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
-                      row.fontMetrics.elidedText(name, Qt::ElideRight, place.width()));
+                      row.fontMetrics.elidedText(note, Qt::ElideRight, place.width()));
     painter->restore();
-}
-
-QSize NamedRows::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
-{
-    QSize size = QStyledItemDelegate::sizeHint(option, index);
-    const QString name = index.data(RecordItem::NameRole).toString();
-    if (!name.isEmpty())
-        size.rwidth() += nameGap(option.fontMetrics) + option.fontMetrics.horizontalAdvance(name);
-    return size;
 }

@@ -26,6 +26,7 @@ picture=docs/images/rooms.svg
 floors='core resources translations
 model net app/desktop import/box
 undo import render/scene app/widgets json
+find
 app/documents gltf import/scene render/input
 render import/ready
 app/tree app/view app/timeline app/explorer app/recovery app/console

@@ -1048,6 +1048,81 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
 </context>
 <context>
+    <name>Condition</name>
+    <message>
+        <source>and</source>
+        <translation>und</translation>
+    </message>
+    <message>
+        <source>or</source>
+        <translation>oder</translation>
+    </message>
+    <message>
+        <source>not</source>
+        <translation>nicht</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>in</translation>
+    </message>
+    <message>
+        <source>Something is missing at the end.</source>
+        <translation>Am Ende fehlt etwas.</translation>
+    </message>
+    <message>
+        <source>That is too long for a condition.</source>
+        <translation>Das ist zu lang für eine Bedingung.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not understood.</source>
+        <translation>„%1“ wird nicht verstanden.</translation>
+    </message>
+    <message>
+        <source>That has too many parentheses.</source>
+        <translation>Das hat zu viele Klammern.</translation>
+    </message>
+    <message>
+        <source>A parenthesis is not closed.</source>
+        <translation>Eine Klammer ist nicht geschlossen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither a field nor a kind of records.</source>
+        <translation>„%1“ ist weder ein Feld noch eine Art von Datensätzen.</translation>
+    </message>
+    <message>
+        <source>Behind &apos;%1&apos; a comparison is wanted, such as = 1 or &gt; 1.</source>
+        <translation>Nach „%1“ wird ein Vergleich erwartet, etwa = 1 oder &gt; 1.</translation>
+    </message>
+    <message>
+        <source>A quotation mark is not closed.</source>
+        <translation>Ein Anführungszeichen ist nicht geschlossen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is a text, which is compared by =, != or ~.</source>
+        <translation>„%1“ ist ein Text, der mit =, != oder ~ verglichen wird.</translation>
+    </message>
+    <message>
+        <source>~ finds texts and names, and bits of flags, but no &apos;%1&apos;.</source>
+        <translation>~ findet Texte und Namen und Bits von Flags, aber kein „%1“.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is whole numbers, which %2 is not.</source>
+        <translation>„%1“ sind ganze Zahlen, was %2 nicht ist.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no number for &apos;%2&apos;, and nothing there is called so.</source>
+        <translation>„%1“ ist keine Zahl für „%2“, und nichts dort heißt so.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no number for &apos;%2&apos;.</source>
+        <translation>„%1“ ist keine Zahl für „%2“.</translation>
+    </message>
+    <message>
+        <source>Character %1: %2</source>
+        <translation>Zeichen %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>ConsoleButton</name>
     <message>
         <source>Show the console</source>
@@ -5704,6 +5779,130 @@ Hände und Füße (x0.25): %6</translation>
         <source>event</source>
         <translation>Ereignis</translation>
     </message>
+    <message>
+        <source>animation</source>
+        <translation>Animation</translation>
+    </message>
+    <message>
+        <source>animations</source>
+        <translation>Animationen</translation>
+    </message>
+    <message>
+        <source>block</source>
+        <translation>Block</translation>
+    </message>
+    <message>
+        <source>blocks</source>
+        <translation>Blöcke</translation>
+    </message>
+    <message>
+        <source>child bone</source>
+        <translation>Kindknochen</translation>
+    </message>
+    <message>
+        <source>child bones</source>
+        <translation>Kindknochen</translation>
+    </message>
+    <message>
+        <source>keys</source>
+        <translation>Schlüssel</translation>
+    </message>
+    <message>
+        <source>track</source>
+        <translation>Spur</translation>
+    </message>
+    <message>
+        <source>actor</source>
+        <translation>Akteur</translation>
+    </message>
+    <message>
+        <source>sound</source>
+        <translation>Sound</translation>
+    </message>
+    <message>
+        <source>voice</source>
+        <translation>Stimme</translation>
+    </message>
+    <message>
+        <source>particle</source>
+        <translation>Partikel</translation>
+    </message>
+    <message>
+        <source>impact</source>
+        <translation>Aufprall</translation>
+    </message>
+    <message>
+        <source>damage</source>
+        <translation>Schaden</translation>
+    </message>
+    <message>
+        <source>mesh</source>
+        <translation>Mesh</translation>
+    </message>
+    <message>
+        <source>meshes</source>
+        <translation>Meshes</translation>
+    </message>
+    <message>
+        <source>bones</source>
+        <translation>Knochen</translation>
+    </message>
+    <message>
+        <source>children</source>
+        <translation>Kinder</translation>
+    </message>
+    <message>
+        <source>hot points</source>
+        <translation>Hotpoints</translation>
+    </message>
+    <message>
+        <source>surfaces</source>
+        <translation>Flächen</translation>
+    </message>
+    <message>
+        <source>triangle indexes</source>
+        <translation>Dreiecksindizes</translation>
+    </message>
+    <message>
+        <source>vertices</source>
+        <translation>Vertices</translation>
+    </message>
+    <message>
+        <source>anims</source>
+        <translation>Anims</translation>
+    </message>
+    <message>
+        <source>frames</source>
+        <translation>Frames</translation>
+    </message>
+    <message>
+        <source>translation tracks</source>
+        <translation>Translationsspuren</translation>
+    </message>
+    <message>
+        <source>translation key</source>
+        <translation>Translationsschlüssel</translation>
+    </message>
+    <message>
+        <source>translation keys</source>
+        <translation>Translationsschlüssel</translation>
+    </message>
+    <message>
+        <source>rotation tracks</source>
+        <translation>Rotationsspuren</translation>
+    </message>
+    <message>
+        <source>rotation key</source>
+        <translation>Rotationsschlüssel</translation>
+    </message>
+    <message>
+        <source>rotation keys</source>
+        <translation>Rotationsschlüssel</translation>
+    </message>
+    <message>
+        <source>actions</source>
+        <translation>Aktionen</translation>
+    </message>
 </context>
 <context>
     <name>RecoverDialog</name>
@@ -5974,6 +6173,33 @@ Alles andere funktioniert weiter.</translation>
     <message>
         <source>&amp;Keep the other materials of the .kmat file (%1)</source>
         <translation>Die &amp;übrigen Materialien der .kmat-Datei behalten (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>Replacement</name>
+    <message>
+        <source>&apos;%1&apos; is several fields: name one of them.</source>
+        <translation>„%1“ sind mehrere Felder: Nennen Sie eines davon.</translation>
+    </message>
+    <message>
+        <source>It has no &apos;%1&apos;.</source>
+        <translation>Es hat kein „%1“.</translation>
+    </message>
+    <message>
+        <source>It does not exist any more.</source>
+        <translation>Es existiert nicht mehr.</translation>
+    </message>
+    <message>
+        <source>Several things are called &apos;%1&apos;.</source>
+        <translation>Mehrere heißen „%1“.</translation>
+    </message>
+    <message>
+        <source>The field to replace is missing.</source>
+        <translation>Das zu ersetzende Feld fehlt.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no field.</source>
+        <translation>„%1“ ist kein Feld.</translation>
     </message>
 </context>
 <context>

@@ -52,11 +52,8 @@ struct FieldRow
         QString text = QCoreApplication::translate("RecordFields", step);
         return stepAxis ? text.replace(QLatin1String("%1"), QString(QLatin1Char(stepAxis))) : text;
     }
-    QString titleText() const
-    {
-        const QString text = QCoreApplication::translate("RecordFields", title);
-        return axis ? text + QLatin1Char(' ') + QLatin1Char(axis) : text;
-    }
+    QString titleText() const { return withAxis(QCoreApplication::translate("RecordFields", title)); }
+    QString englishTitle() const { return withAxis(QString::fromUtf8(title)); }
     QString id() const
     {
         const QString name = QString::fromLatin1(key);
@@ -64,6 +61,12 @@ struct FieldRow
             return name;
         const QLatin1Char letter(axis);
         return QChar(letter).isDigit() ? name + letter : name + QLatin1Char('.') + QChar(letter).toLower();
+    }
+
+private:
+    QString withAxis(const QString &text) const
+    {
+        return axis ? text + QLatin1Char(' ') + QLatin1Char(axis) : text;
     }
 };
 

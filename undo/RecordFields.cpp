@@ -60,6 +60,7 @@ public:
         this->m_kind = Place::kind;
         this->m_id = row.id();
         this->m_title = row.titleText();
+        this->m_englishTitle = row.englishTitle();
         this->m_stepText = row.stepText();
         this->m_degree = row.traits.inDegrees ? 1.0 : Expression::Radian;
         this->m_isFlags = row.traits.isFlags;

@@ -30,6 +30,8 @@ public:
     /// "damageScale", "origin.x", "arg1": see FieldRow.
     const QString &id() const { return m_id; }
     QString title() const { return m_title; }
+    /// The same in English, whatever the language of the program.
+    QString englishTitle() const { return m_englishTitle; }
     /// Of numbers.
     const NumberRange &range() const { return m_range; }
     /// What "45deg" is a multiple of 45 of.
@@ -61,6 +63,7 @@ protected:
     Type m_type = Type::Whole;
     QString m_id;
     QString m_title;
+    QString m_englishTitle;
     NumberRange m_range;
     double m_degree = 1.0;
     bool m_isFlags = false;

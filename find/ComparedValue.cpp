@@ -115,8 +115,17 @@ bool ComparedValue::fitNumber(Test &test) const
     return isNumberOfKind || !isSame;
 }
 
+bool ComparedValue::looksLikeName() const
+{
+    // Names have digits, too, but nobody means one by digits alone.
+    return m_isQuoted || m_sign == Sign::In ||
+           std::any_of(m_value.begin(), m_value.end(), [](QChar each) { return each.isLetter(); });
+}
+
 bool ComparedValue::fitName(Test &test)
 {
+    if (!looksLikeName())
+        return false;
     m_hasAskedNames |= ValueNames::hasNames(test.meaning);
     if (m_sign == Sign::In && test.meaning.isBone)
         test.numbers = ValueNames::bonesBelow(m_value, m_mesh);
@@ -130,7 +139,7 @@ bool ComparedValue::couldBeName() const
 {
     const bool isSign = isForSame() || m_sign == Sign::Contains || m_sign == Sign::In;
     double number = 0.0;
-    return isSign && !m_value.isEmpty() &&
+    return isSign && !m_value.isEmpty() && looksLikeName() &&
            std::any_of(m_word.meanings.begin(), m_word.meanings.end(), [&](const WordMeaning &each) {
                return ValueNames::hasNames(each) &&
                       (m_sign == Sign::In || !readNumber(each, m_value, number));

@@ -38,6 +38,7 @@ public:
 
 private:
     bool isForSame() const { return m_sign == Sign::Equal || m_sign == Sign::Different; }
+    bool looksLikeName() const;
     bool fitText(Test &test) const;
     bool fitNumber(Test &test) const;
     bool fitRange(Test &test) const;

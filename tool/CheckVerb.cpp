@@ -3,7 +3,6 @@
 #include "CommandLine.h"
 #include "Companions.h"
 #include "Faults.h"
-#include "GameFolders.h"
 #include "ModelFile.h"
 #include "Output.h"
 #include "Validation.h"

@@ -3,9 +3,25 @@
 #include "CommandLine.h"
 
 #include "Output.h"
+#include "Settings.h"
 #include "Verbs.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 #include <cmath>
+
+namespace {
+QString folderAround(const QString &file)
+{
+    QDir folder = QFileInfo(file).absoluteDir();
+    while (!QFileInfo(folder.filePath(QStringLiteral("materials"))).isDir()) {
+        if (!folder.cdUp())
+            return {};
+    }
+    return folder.path();
+}
+} // namespace
 
 CommandLine::CommandLine(const QString &verb, const QString &operands, const QString &description)
     : m_verb(verb)
@@ -95,4 +111,20 @@ QString CommandLine::helpText() const
     const QString text = m_parser.helpText();
     return QStringLiteral("Usage: korvane-tool %1 [OPTIONS] %2").arg(m_verb, m_operands) +
            text.mid(text.indexOf(QLatin1Char('\n'))).trimmed().prepend(QLatin1Char('\n'));
+}
+
+MaterialFolders chosenFolders(const CommandLine &line)
+{
+    const auto folder = [&line](const QString &option, const SettingKey<QString> &key) {
+        return line.isSet(option) ? line.value(option) : key.value();
+    };
+    return {folder(QStringLiteral("game-path"), Settings::GamePath),
+            folder(QStringLiteral("mod-path"), Settings::OutputDir)};
+}
+
+MaterialFolders foldersAround(const QString &file, MaterialFolders chosen)
+{
+    if (chosen.gamePath.isEmpty())
+        chosen.gamePath = folderAround(file);
+    return chosen;
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Validation.h"
+
 #include <QCommandLineParser>
 #include <QStringList>
 
@@ -20,7 +22,7 @@ public:
                 const QString &defaultValue = {});
     /// What stands in for a game folder that nobody has named: the one that the file lies in, or none.
     enum class GameFolder { AroundFile, IfKnown };
-    /// --game-path and --mod-path, see GameFolders.h.
+    /// --game-path and --mod-path, see chosenFolders().
     void folderOptions(GameFolder otherwise);
 
     /// Reads what stands behind the verb. Gives the exit code when the run is over with it: the help was
@@ -48,3 +50,10 @@ private:
     QString m_operands;
     QCommandLineParser m_parser;
 };
+
+/// The folders of --game-path and --mod-path, else of the editor's settings.
+MaterialFolders chosenFolders(const CommandLine &line);
+
+/// Those that were chosen; a game folder that nobody named is the one that `file` lies in: the nearest folder
+/// above it that has a folder "materials".
+MaterialFolders foldersAround(const QString &file, MaterialFolders chosen);

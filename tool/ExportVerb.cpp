@@ -4,7 +4,6 @@
 #include "Companions.h"
 #include "FileNames.h"
 #include "FrameChoice.h"
-#include "GameFolders.h"
 #include "GltfExport.h"
 #include "GltfFiles.h"
 #include "ImportMessages.h"

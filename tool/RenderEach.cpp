@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "RenderEach.h"
 
+#include "CommandLine.h"
 #include "Companions.h"
 #include "FileSystem.h"
-#include "GameFolders.h"
 #include "Log.h"
 #include "ModelFile.h"
 #include "ModelPicture.h"

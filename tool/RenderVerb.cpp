@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
 #include "Companions.h"
-#include "GameFolders.h"
 #include "ModelPicture.h"
 #include "OffscreenScene.h"
 #include "Output.h"

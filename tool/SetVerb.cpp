@@ -1,11 +1,16 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
+#include "Companions.h"
 #include "FieldPatch.h"
-#include "ModelText.h"
+#include "FoundRecords.h"
 #include "Output.h"
 #include "ReplacedFiles.h"
+#include "Replacement.h"
+#include "Settings.h"
 #include "Verbs.h"
+
+#include <QUndoStack>
 
 namespace {
 /// The options, and behind "--" the operands: what stands behind a field is its value, whatever it begins
@@ -21,12 +26,52 @@ QStringList arranged(const QStringList &arguments)
             operands += argument;
         } else if (argument != QLatin1String("--")) {
             options += argument;
-            const bool takesNext = argument == QLatin1String("-o") || argument == QLatin1String("--output");
+            const bool takesNext = argument == QLatin1String("-o") || argument == QLatin1String("--output") ||
+                                   argument == QLatin1String("--where");
             if (takesNext && i + 1 < arguments.size())
                 options += arguments.at(++i);
         }
     }
     return options << QStringLiteral("--") << operands;
+}
+
+/// Nobody looks at the model while it is changed.
+class NoView : public DocumentView
+{
+public:
+    void aboutToChange() override {}
+    void recordChanged(const RecordRef &) override {}
+    void structureChanged(const StructureChange &) override {}
+};
+
+/// Gives a field of the records that were found a value. Returns why that cannot be.
+QString replaceFound(ModelJson::Model &model, const FoundRecords &found, const QString &word,
+                     const QString &text, std::vector<PatchedField> &changes)
+{
+    const auto values = valuesOf(model);
+    const Replacement made = replacementOf(*values, found.records, word, text, 0, found.mesh.get());
+    if (!made.reason.isEmpty()) {
+        const QString place = recordPath(made.refusing);
+        return place.isEmpty() ? made.reason : QStringLiteral("%1: %2").arg(place, made.reason);
+    }
+    for (size_t i = 0; i < found.records.size(); ++i) {
+        const FieldChange &change = made.changes[int(i)];
+        const FieldValue old = values->value(*change.field, change.index);
+        const QString before = change.field->text(old);
+        const QString after = change.field->text(change.value);
+        if (before != after)
+            changes.push_back({recordPath(found.records[i]) + QLatin1Char(' ') + change.field->id(),
+                               before.toUtf8(), after.toUtf8()});
+    }
+    NoView view;
+    QUndoStack stack;
+    std::visit(
+        [&](auto &its) {
+            RecordFields::change(made.changes, word, EditTarget<std::decay_t<decltype(its)>>(its, view),
+                                 stack);
+        },
+        model);
+    return {};
 }
 } // namespace
 
@@ -38,9 +83,13 @@ int set(const QStringList &arguments)
             "Sets fields of a skinned mesh, an animation or a static mesh, and says which changed. FIELD is "
             "such as 'block 3 speed', 'bone 2-5 damage scale', 'hot point * origin x'; VALUE is a number, "
             "a text, or calculated from the old number, as '*=1.5' and '=x+10*i' are. When one "
-            "cannot be, nothing is written."));
+            "cannot be, nothing is written. With --where, FIELD is a field of the records that meet the "
+            "condition, such as 'sound'."));
     line.option({QStringLiteral("o"), QStringLiteral("output")}, QStringLiteral("file"),
                 QStringLiteral("Write into this file instead of FILE itself."));
+    line.option({QStringLiteral("where")}, QStringLiteral("condition"),
+                QStringLiteral("Set fields of the records that meet this, such as 'actions sound = 1234'; "
+                               "'korvane-tool find' lists them."));
     line.flag(QStringLiteral("force"), QStringLiteral("Replace that file if it exists."));
     if (const auto end = line.parse(arranged(arguments), true))
         return *end;
@@ -64,8 +113,18 @@ int set(const QStringList &arguments)
         error = wrongName(target, ModelJson::kindOf(content.model));
     const ModelNames before = namesOf(content);
     std::vector<PatchedField> changes;
+    const bool isSearch = line.isSet(QStringLiteral("where"));
+    FoundRecords found;
+    if (error.isEmpty() && isSearch) {
+        Companions companions({Settings::GamePath.value(), Settings::OutputDir.value()});
+        error = found.find(line.value(QStringLiteral("where")), file, content.model, companions);
+        // Values may be names, too.
+        if (error.isEmpty() && !found.mesh && !std::holds_alternative<StaticMesh>(content.model))
+            found.mesh = namedMesh(file, content.model, companions);
+    }
     for (int i = 1; i < operands.size() && error.isEmpty(); i += 2) {
-        error = patchModel(content.model, operands.at(i), operands.at(i + 1), changes);
+        error = isSearch ? replaceFound(content.model, found, operands.at(i), operands.at(i + 1), changes)
+                         : patchModel(content.model, operands.at(i), operands.at(i + 1), changes);
     }
     if (!error.isEmpty()) {
         Output::complain(QStringLiteral("%1: %2").arg(file, error));

@@ -20,6 +20,7 @@ constexpr Verb verbs[] = {
     {"dump", "write a model as JSON text", dump},
     {"build", "make a model of such a text", build},
     {"set", "set fields of a model", set},
+    {"find", "list records that meet a condition", find},
     {"diff", "say in what two models differ", diff},
     {"import", "turn a model of another program into game files", importModel},
     {"export", "turn a mesh into a glTF or OBJ file", exportModel},
@@ -43,7 +44,7 @@ QString usage()
             QStringLiteral("  %1  %2\n").arg(QLatin1String(verb.name), -7).arg(QLatin1String(verb.summary));
     return text + QStringLiteral("\n'korvane-tool VERB --help' tells more of a verb, --version the version.\n"
                                  "Exit status: 0 fine, 1 an error in a file or a failure, 2 wrong usage, "
-                                 "3 no display to draw with; diff has its own.");
+                                 "3 no display to draw with; find and diff have their own.");
 }
 
 int run(const QStringList &arguments)

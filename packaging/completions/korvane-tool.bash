@@ -17,7 +17,7 @@ _korvane_tool_files() {
 
 _korvane_tool() {
     local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD - 1]} verb=${COMP_WORDS[1]:-}
-    local verbs='info check resave dump build set diff import export render' options=''
+    local verbs='info check resave dump build set find diff import export render' options=''
     COMPREPLY=()
 
     if ((COMP_CWORD == 1)) || [[ $verb == help ]]; then
@@ -51,7 +51,7 @@ _korvane_tool() {
         mapfile -t COMPREPLY < <(compgen -W 'y z auto' -- "$cur")
         return
         ;;
-    --scale | --rate | --clips | --time-limit | --block | --frame | --size | --yaw | --pitch)
+    --where | --scale | --rate | --clips | --time-limit | --block | --frame | --size | --yaw | --pitch)
         return
         ;;
     esac
@@ -61,8 +61,10 @@ _korvane_tool() {
     check) options='--json --all --game-path --mod-path --help' ;;
     resave) options='--output --force --help' ;;
     dump) options='--output --force --schema --help' ;;
+    find) options='--json --help' ;;
     diff) options='--json --all --help' ;;
-    build | set) options='--output --force --help' ;;
+    build) options='--output --force --help' ;;
+    set) options='--output --force --where --help' ;;
     import)
         options='--output --static --force --keep-materials --no-normals --flip-uv --flip-winding --no-rotate --scale
             --ready --up --rate --clips --extra-bones --mod-path --create-kmat --copy-textures --kmat
@@ -83,7 +85,7 @@ _korvane_tool() {
 
     case $verb in
     info | check) _korvane_tool_files 'skinnedmesh|anim|staticmesh|kmat' ;;
-    resave | dump | set | diff | export | render) _korvane_tool_files 'skinnedmesh|anim|staticmesh' ;;
+    resave | dump | set | find | diff | export | render) _korvane_tool_files 'skinnedmesh|anim|staticmesh' ;;
     build) _korvane_tool_files json ;;
     import) _korvane_tool_files ;;
     esac

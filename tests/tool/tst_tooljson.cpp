@@ -136,6 +136,52 @@ private slots:
         QCOMPARE(readFile(path("x.names.json")), names);
     }
 
+    void findRecords()
+    {
+        SkinnedMesh mesh = SampleModels::plainMesh();
+        mesh.nodes[3].name = QStringLiteral("claw");
+        AnimFile anim = SampleModels::plainAnim();
+        anim.blocks[1].actions[2].args[0] = 12.5f;
+        anim.blocks[1].actions[2].node = 3;
+        const QString file = put("x.anim", SampleModels::bytesOf(anim));
+        const QString model = path("x.skinnedmesh");
+        QVERIFY(!mesh.write(model));
+        put("x.names.json", ModelNames::of(mesh).toJson());
+        const ToolRun run("find", {file, model, "sound > 12 or bones bone = claw"});
+        QVERIFY2(run.exitCode == 0 && run.err.isEmpty(), qUtf8Printable(run.err));
+        QCOMPARE(run.out, QString("%1: block 0 bone 3\n%1: block 1 bone 3\n%1: block 2 bone 3\n"
+                                  "%1: block 1 action 2: arg1 12.5\n%2: bone 3\n")
+                              .arg(file, model));
+        const QJsonObject first = ToolRun("find --json", {path(), "actions bone = claw"}).first();
+        QCOMPARE(first["record"].toString() + first["field"].toString() + first["file"].toString(),
+                 "block 1 action 2" + QString("bone") + file);
+        QCOMPARE(first["value"].toDouble(), 3.0);
+        const ToolRun none("find", {file, "sound = 13"});
+        QVERIFY(none.exitCode == 1 && none.out.isEmpty() && none.err.isEmpty());
+        const ToolRun unread("find", {file, "sound = 13 13"});
+        QVERIFY2(unread.exitCode == 2 && unread.err.contains("x.anim: Character 9: "),
+                 qUtf8Printable(unread.err));
+        QCOMPARE(ToolRun("find", {path("none.anim"), "sound = 13"}).exitCode, 2);
+        QCOMPARE(ToolRun("find", {"sound = 13"}).exitCode, 2);
+
+        // What is found can be set, and only all of it.
+        const QString wanted = "actions block 1, frame 0";
+        const ToolRun set("set", {file, "sound", "7", "--where", wanted, "frame", "=2*i", "bone", "claw"});
+        QVERIFY2(set.exitCode == 0, qUtf8Printable(set.err));
+        QVERIFY2(set.out.startsWith(file + "\n  block 1 action 0 arg1: 0 -> 7\n") &&
+                     set.out.contains("block 1 action 2 frame: 0 -> 4\n") &&
+                     set.out.endsWith("block 1 action 1 bone: 65535 -> 3\n"),
+                 qUtf8Printable(set.out));
+        const QByteArray bytes = readFile(file);
+        const ToolRun refused("set --where", {wanted, file, "sound", "1", "frame", "-5"});
+        QVERIFY2(refused.exitCode == 1 && refused.err.contains("block 1 action 0: -5 is not from 0"),
+                 qUtf8Printable(refused.err));
+        QCOMPARE(ToolRun("set --where", {"sound = 99", file, "sound", "1"}).out,
+                 QString("  No value changed.\n"));
+        QCOMPARE(ToolRun("set --where", {"sound =", file, "sound", "1"}).exitCode, 1);
+        QCOMPARE(readFile(file), bytes);
+    }
+
     void diffs()
     {
         const QString file = put("x.anim", SampleModels::bytesOf(SampleModels::plainAnim()));

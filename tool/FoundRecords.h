@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ModelText.h"
+#include "RecordSearch.h"
+
+#include <memory>
+
+class Companions;
+
+/// The records of a model that meet a condition.
+struct FoundRecords
+{
+    Condition condition;
+    /// Has the names of bones and animations: the model itself, or the one that an animation belongs to. Null
+    /// where the condition asks for none.
+    std::shared_ptr<const SkinnedMesh> mesh;
+    std::vector<RecordRef> records;
+
+    /// Looks through the model of `file`. Returns why that cannot be; empty when it can.
+    [[nodiscard]] QString find(const QString &text, const QString &file, const ModelJson::Model &model,
+                               Companions &companions);
+};
+
+/// The mesh that a file is, or that an animation belongs to, with its names; null when there is none, or no
+/// telling which.
+std::shared_ptr<const SkinnedMesh> namedMesh(const QString &file, const ModelJson::Model &model,
+                                             Companions &companions);
+
+std::unique_ptr<RecordValues> valuesOf(const ModelJson::Model &model);

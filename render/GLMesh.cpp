@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <limits>
 #include <utility>
 
 namespace {
@@ -19,6 +20,12 @@ constexpr float SelectionBlue = 128.0f / 255.0f;
 
 /// Takes less than 10 ms.
 constexpr size_t BytesInATurn = 4 * 1024 * 1024;
+
+/// No index is larger, so what comes after is never drawn.
+constexpr size_t DrawableVertices = size_t(std::numeric_limits<quint16>::max()) + 1;
+
+/// In whole triangles and in whole lines.
+constexpr size_t IndexesInAPart = BytesInATurn / sizeof(quint16) / 6 * 6;
 
 const void *bufferOffset(size_t offset)
 {
@@ -71,8 +78,12 @@ bool GLMesh::uploadNext()
 {
     size_t bytes = 0;
     m_vertexArray.bind();
-    for (; m_next < m_surfaces.size() && bytes < BytesInATurn; ++m_next)
-        bytes += uploadSurface(m_next);
+    while (m_next < m_surfaces.size() && bytes < BytesInATurn) {
+        if (const size_t part = uploadPart(m_next))
+            bytes += part;
+        else
+            bytes += uploadTexture(m_next++);
+    }
     m_vertexArray.release();
     return m_next < m_surfaces.size();
 }
@@ -83,28 +94,40 @@ bool GLMesh::needsTexture(size_t surface) const
 }
 
 /// With a vertex array object bound, which the binding of an index buffer belongs to. Returns how many bytes
-/// went to the card.
-size_t GLMesh::uploadSurface(size_t surface)
+/// went to the card, none when all parts are there.
+size_t GLMesh::uploadPart(size_t surface)
 {
-    size_t bytes = 0;
     Surface &uploaded = m_surfaces[surface];
     const std::vector<quint16> &indexes = m_indexes[surface];
-    if (!uploaded.isUploaded && !indexes.empty()) {
-        if (!uploaded.buffer.isCreated())
-            uploaded.buffer.create();
-        uploaded.buffer.bind();
-        m_gl.glBufferData(GL_ELEMENT_ARRAY_BUFFER, GLsizeiptr(indexes.size() * sizeof(quint16)),
-                          indexes.data(), GL_STATIC_DRAW);
-        bytes = indexes.size() * sizeof(quint16);
+    const size_t first = uploaded.uploadedParts * IndexesInAPart;
+    if (first >= indexes.size())
+        return 0;
+    if (uploaded.uploadedParts == uploaded.parts.size()) {
+        uploaded.parts.emplace_back(QOpenGLBuffer::IndexBuffer);
+        uploaded.parts.back().create();
     }
-    uploaded.isUploaded = true;
-    if (needsTexture(surface)) {
-        Texture &texture = m_textures[surface];
-        bytes += size_t(texture.image.sizeInBytes());
-        texture.copy = copyOf(texture.image);
-        texture.image = {};
-    }
+    uploaded.parts[uploaded.uploadedParts].bind();
+    const size_t bytes = std::min(IndexesInAPart, indexes.size() - first) * sizeof(quint16);
+    m_gl.glBufferData(GL_ELEMENT_ARRAY_BUFFER, GLsizeiptr(bytes), indexes.data() + first, GL_STATIC_DRAW);
+    ++uploaded.uploadedParts;
     return bytes;
+}
+
+size_t GLMesh::uploadTexture(size_t surface)
+{
+    if (!needsTexture(surface))
+        return 0;
+    Texture &texture = m_textures[surface];
+    const QImage image = std::exchange(texture.image, {});
+    texture.copy = copyOf(image);
+    return size_t(image.sizeInBytes());
+}
+
+void GLMesh::uploadSurface(size_t surface)
+{
+    while (uploadPart(surface) > 0) {
+    }
+    uploadTexture(surface);
 }
 
 std::shared_ptr<QOpenGLTexture> GLMesh::copyOf(const QImage &image)
@@ -153,8 +176,9 @@ QVector3D GLMesh::place(quint16 vertex) const
 void GLMesh::uploadVertices()
 {
     m_vertexBuffer.bind();
-    m_gl.glBufferData(GL_ARRAY_BUFFER, GLsizeiptr(m_vertices.vertices.size() * sizeof(GLVertex)),
-                      m_vertices.vertices.data(), GL_STATIC_DRAW);
+    const size_t count = std::min(m_vertices.vertices.size(), DrawableVertices);
+    m_gl.glBufferData(GL_ARRAY_BUFFER, GLsizeiptr(count * sizeof(GLVertex)), m_vertices.vertices.data(),
+                      GL_STATIC_DRAW);
     m_vertexBuffer.release();
 }
 
@@ -163,7 +187,8 @@ void GLMesh::setIndexes(std::vector<std::vector<quint16>> indexes)
     m_surfaces.resize(indexes.size());
     m_indexes.resize(indexes.size());
     for (size_t i = 0; i < indexes.size(); ++i) {
-        m_surfaces[i].isUploaded = m_surfaces[i].isUploaded && m_indexes[i] == indexes[i];
+        if (m_indexes[i] != indexes[i])
+            m_surfaces[i] = {};
     }
     m_indexes = std::move(indexes);
     m_next = 0;
@@ -208,6 +233,9 @@ void GLMesh::drawIndexes(int surface, GLenum mode)
     if (drawn.empty())
         return;
     uploadSurface(size_t(surface));
-    m_surfaces[size_t(surface)].buffer.bind();
-    m_gl.glDrawElements(mode, GLsizei(drawn.size()), GL_UNSIGNED_SHORT, nullptr);
+    for (size_t part = 0; part < m_surfaces[size_t(surface)].uploadedParts; ++part) {
+        m_surfaces[size_t(surface)].parts[part].bind();
+        const size_t count = std::min(IndexesInAPart, drawn.size() - part * IndexesInAPart);
+        m_gl.glDrawElements(mode, GLsizei(count), GL_UNSIGNED_SHORT, nullptr);
+    }
 }

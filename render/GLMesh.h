@@ -18,7 +18,7 @@ struct TexturedProgram;
 /// Describes the `GLVertex` layout of the bound vertex buffer to the bound vertex array object.
 void describeVertexLayout(QOpenGLExtraFunctions &gl);
 
-/// The graphics card's copy of a model: one vertex buffer, one index buffer and one texture per surface that
+/// The graphics card's copy of a model: one vertex buffer, and index buffers and one texture per surface that
 /// has triangles. Textures of one picture share its copy. A surface goes to the card when uploadNext() comes
 /// to it, or else when it is drawn. Belongs to the context that was current when it was made; every call, the
 /// destructor too, needs it current.
@@ -37,8 +37,8 @@ public:
     void refresh(const SkinnedMesh &mesh, bool indexesToo);
     void refresh(const StaticMesh &mesh, bool indexesToo);
 
-    /// Lets the next surfaces go to the card that are not there yet, as many as make some MB; false when all
-    /// are there.
+    /// Lets what is not on the card yet go there, surface after surface, as much as makes some MB; false when
+    /// all is there.
     bool uploadNext();
 
     const MeshVertices &vertices() const { return m_vertices; }
@@ -67,10 +67,11 @@ public:
     bool tintsSelected = true; ///< with blue
 
 private:
+    /// Its indexes on the card, cut so that none takes long to go there.
     struct Surface
     {
-        QOpenGLBuffer buffer{QOpenGLBuffer::IndexBuffer};
-        bool isUploaded = false; ///< the buffer holds the indexes
+        std::vector<QOpenGLBuffer> parts; ///< all full but the last
+        size_t uploadedParts = 0;         ///< from the first on
     };
 
     /// A surface's own; its picture goes to the card with its triangles.
@@ -85,7 +86,9 @@ private:
     void drawSurface(size_t surface, const TexturedProgram &program, GLenum mode);
     void uploadVertices();
     void setIndexes(std::vector<std::vector<quint16>> indexes);
-    size_t uploadSurface(size_t surface);
+    size_t uploadPart(size_t surface);
+    size_t uploadTexture(size_t surface);
+    void uploadSurface(size_t surface);
     bool needsTexture(size_t surface) const;
     std::shared_ptr<QOpenGLTexture> copyOf(const QImage &image);
 

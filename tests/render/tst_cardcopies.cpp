@@ -19,8 +19,11 @@ private slots:
 
     void refreshesWhatChanged();
     void surfacesShareCopies();
+    void longListsGoInParts();
 
 private:
+    int objectsOnTheCard();
+
     QTemporaryDir m_home;
     QTemporaryDir m_folder;
     std::unique_ptr<Viewport> m_view;
@@ -79,38 +82,61 @@ void tst_CardCopies::refreshesWhatChanged()
     QVERIFY(isBackground(m_view->pixel(225, 180)));
 }
 
+int tst_CardCopies::objectsOnTheCard()
+{
+    m_view->makeCurrent();
+    QOpenGLFunctions &gl = *m_view->context()->functions();
+    int count = 0;
+    for (GLuint name = 1; name < 5000; ++name)
+        count += gl.glIsTexture(name) + gl.glIsBuffer(name);
+    m_view->doneCurrent();
+    return count;
+}
+
 // Surfaces of one picture share its copy, and those without triangles have nothing on the card until they get
 // some.
 void tst_CardCopies::surfacesShareCopies()
 {
-    const auto objects = [&] {
-        m_view->makeCurrent();
-        QOpenGLFunctions &gl = *m_view->context()->functions();
-        int count = 0;
-        for (GLuint name = 1; name < 5000; ++name)
-            count += gl.glIsTexture(name) + gl.glIsBuffer(name);
-        m_view->doneCurrent();
-        return count;
-    };
     m_view->openSquare(QStringLiteral("m/a/quarters"));
     m_view->grabFramebuffer();
     StaticMesh &square = m_view->square;
     const StaticMeshSurface first = square.surfaces[0];
-    const int before = objects();
+    const int before = objectsOnTheCard();
     QVERIFY(before > 0);
     square.surfaces.resize(1000, {first.materialPath, {}});
     m_view->rebuildModel();
-    QTRY_COMPARE(objects(), before);
+    QTRY_COMPARE(objectsOnTheCard(), before);
     square.surfaces.resize(1064, first);
     m_view->rebuildModel();
-    QVERIFY(objects() < before);          // when nothing else is to be done
-    QTRY_COMPARE(objects(), before + 64); // the index buffers
+    QVERIFY(objectsOnTheCard() < before);          // when nothing else is to be done
+    QTRY_COMPARE(objectsOnTheCard(), before + 64); // the index buffers
     square.surfaces.resize(1000);
     m_view->rebuildModel();
     const QImage seen = m_view->grabFramebuffer();
     std::swap(square.surfaces[0].triangleIndexes, square.surfaces[999].triangleIndexes);
     m_view->refreshIndexes();
     QCOMPARE(m_view->grabFramebuffer(), seen);
+}
+
+// A list of more than 4 MB, whose last triangles stand on both sides of the cut, is drawn whole.
+void tst_CardCopies::longListsGoInParts()
+{
+    m_view->openSquare(QStringLiteral("m/a/quarters"));
+    const QImage seen = m_view->grabFramebuffer();
+    const int before = objectsOnTheCard();
+    const StaticMesh square = m_view->square;
+    std::vector<quint16> indexes(2 * 1024 * 1024 - 5, 0);
+    for (StaticMeshSurface &surface : m_view->square.surfaces) {
+        indexes.insert(indexes.end(), surface.triangleIndexes.begin(), surface.triangleIndexes.end());
+        surface.triangleIndexes.clear();
+    }
+    m_view->square.surfaces[0].triangleIndexes = indexes;
+    m_view->refreshIndexes();
+    QCOMPARE(m_view->grabFramebuffer(), seen);
+    m_view->square = square;
+    m_view->refreshIndexes();
+    QCOMPARE(m_view->grabFramebuffer(), seen);
+    QCOMPARE(objectsOnTheCard(), before);
 }
 
 QTEST_MAIN(tst_CardCopies)

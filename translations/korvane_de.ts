@@ -5535,6 +5535,18 @@ Hände und Füße (x0.25): %6</translation>
         <source>The file format cannot hold &apos;%1&apos;: only characters of Latin-1.</source>
         <translation>Das Dateiformat kann „%1“ nicht aufnehmen, sondern nur Zeichen aus Latin-1.</translation>
     </message>
+    <message>
+        <source>The name belongs to the mesh, and is saved with it (Save All).</source>
+        <translation>Der Name gehört zum Mesh und wird mit ihm gespeichert (Alle speichern).</translation>
+    </message>
+    <message>
+        <source>Open the mesh to name its animations.</source>
+        <translation>Öffnen Sie das Mesh, um seine Animationen zu benennen.</translation>
+    </message>
+    <message>
+        <source>A name has at most %1 characters.</source>
+        <translation>Ein Name hat höchstens %1 Zeichen.</translation>
+    </message>
 </context>
 <context>
     <name>RecordNotes</name>

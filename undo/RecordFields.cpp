@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "RecordFields.h"
 
+#include "AnimationNaming.h"
 #include "Expression.h"
 #include "Fields.h"
 #include "NameTables.h"
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <memory>
 
 QStringList Fields::boneTypes()
@@ -111,6 +113,8 @@ struct FieldLists
     FieldLists()
     {
         std::apply([this](const auto &...rows) { (add(rows), ...); }, Fields::all);
+        owned.push_back(AnimationNaming::field());
+        byKind[int(RecordKind::AnimBlock)].insert(1, owned.back().get()); // behind the id that it belongs to
     }
 
     template <typename Command, typename Part>
@@ -198,7 +202,7 @@ QString RecordField::parse(const QString &text, const FieldValue &old, int place
                        "RecordFields", "The file format cannot hold '%1': only characters of Latin-1.")
                 .arg(*other);
         value = text;
-        return {};
+        return textRefusal(text);
     }
     float plain = 0.0f;
     if (m_type == Type::Real && NumberText::parse(text, plain)) {
@@ -253,7 +257,11 @@ bool RecordFields::change(const QVector<FieldChange> &changes, const QString &st
 bool RecordFields::change(const QVector<FieldChange> &changes, const QString &stepText,
                           EditTarget<AnimFile> target, QUndoStack &stack)
 {
-    return changeModel(changes, stepText, target, stack);
+    QVector<FieldChange> own;
+    std::remove_copy_if(changes.begin(), changes.end(), std::back_inserter(own), AnimationNaming::isName);
+    // Names first: they go by the ids that blocks have now.
+    const bool isNamed = own.size() < changes.size() && AnimationNaming::change(changes, target.model());
+    return changeModel(own, stepText, target, stack) || isNamed;
 }
 
 bool RecordFields::change(const QVector<FieldChange> &changes, const QString &stepText,

@@ -41,6 +41,8 @@ public:
     QStringList names() const { return m_names ? m_names() : QStringList(); }
     /// What an edit of several records is called.
     const QString &stepText() const { return m_stepText; }
+    /// What there is to say to whoever has changed it; mostly nothing.
+    const QString &note() const { return m_note; }
 
     /// A value as text that parse() reads back as the same one.
     QString text(const FieldValue &value) const;
@@ -70,6 +72,10 @@ protected:
     bool m_isLatin1 = false;
     QStringList (*m_names)() = nullptr;
     QString m_stepText;
+    QString m_note;
+
+    /// Why a text cannot be stored, beside its characters.
+    virtual QString textRefusal(const QString &) const { return {}; }
 };
 
 /// The same with the model that has the records.
@@ -100,7 +106,8 @@ const QVector<const RecordField *> &of(RecordKind kind);
 /// there is none.
 const RecordField *find(RecordKind kind, const QString &name);
 
-/// Makes these changes, whose fields are of the model, one undo step: also of what has that value already, so
+/// Makes these changes, whose fields are of the model, one undo step (those of animations' names are one of
+/// the mesh): also of what has that value already, so
 /// that undo selects again what was edited. Returns whether there is a step, which there is not when nothing
 /// is another value. An empty text calls the step as its command, which is then to be the only one.
 bool change(const QVector<FieldChange> &changes, const QString &stepText, EditTarget<SkinnedMesh> target,

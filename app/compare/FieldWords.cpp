@@ -4,6 +4,7 @@
 
 #include "Fields.h"
 #include "JsonReader.h"
+#include "NameTables.h"
 #include "NumberText.h"
 #include "RecordFields.h"
 
@@ -41,12 +42,11 @@ QString wordOf(const QString &key)
     return key;
 }
 
-QString symbolText(qint8 symbol)
+QString symbolText(qint8 flags)
 {
-    const int type = Fields::BoneSymbolType.part.get(symbol);
-    const int side = Fields::BoneSymbolSide.part.get(symbol);
-    const QStringList words{Fields::boneTypes().value(type), Fields::sides().value(side),
-                            QString::number(Fields::BoneSymbolPart.part.get(symbol))};
+    const BoneSymbol symbol = boneSymbol(flags);
+    const QStringList words{boneTypeNames().value(symbol.type), Fields::sides().value(symbol.side),
+                            bonePartNames(symbol.type).value(symbol.part)};
     return words.join(QStringLiteral(", "));
 }
 

@@ -238,8 +238,12 @@ QString RecordTableView::apply(const QVector<QPair<QModelIndex, QString>> &cells
             return tr("%1: %2").arg(place(cell), reason);
         changes.append({&field, m_records->record(cell.row()), std::move(value)});
     }
-    if (m_records->source())
-        m_records->source()->change(changes, stepText);
+    if (!m_records->source() || !m_records->source()->change(changes, stepText))
+        return {};
+    const auto noted = std::find_if(changes.begin(), changes.end(),
+                                    [](const FieldChange &each) { return !each.field->note().isEmpty(); });
+    if (noted != changes.end())
+        emit told(noted->field->note());
     return {};
 }
 

@@ -136,6 +136,13 @@ void TableDock::setDocuments(SkinnedMeshDocument &skinnedMesh, AnimDocument &ani
                 m_view->records().refresh();
         });
     }
+    // Animations have their names from the mesh.
+    const auto showNames = [this] {
+        if (m_current == int(DocumentType::Anim))
+            m_view->records().refresh();
+    };
+    connect(&skinnedMesh, &Document::recordsChanged, this, showNames);
+    connect(&skinnedMesh, &Document::replaced, this, showNames);
 }
 
 void TableDock::setCurrent(const Document *document)

@@ -24,6 +24,24 @@ int decimalsOf(double value)
     return std::max(0, digits - text.mid(exponent + 1).toInt());
 }
 
+/// A number without the decimals behind its first digits.
+QString withFewDecimals(const QString &text)
+{
+    constexpr int mostDigits = 4;
+    if (text.contains(QLatin1Char('e')))
+        return text;
+    int digits = 0;
+    bool isBehindPoint = false;
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar character = text[i];
+        isBehindPoint |= character == QLatin1Char('.');
+        digits += character.isDigit() && (digits > 0 || character != QLatin1Char('0')) ? 1 : 0;
+        if (isBehindPoint && digits >= mostDigits)
+            return text.left(i + 1);
+    }
+    return text;
+}
+
 double roundedTo(double value, int decimals)
 {
     // Beyond that a double has no such digits to round away.
@@ -60,7 +78,12 @@ QString FloatSpinBox::widestText() const
 
 QString FloatSpinBox::narrowestText() const
 {
-    return m_decimals < 0 ? QStringLiteral("-123.4567") : widestText();
+    if (m_decimals >= 0)
+        return widestText();
+    // Decimals may be cut off, but no exponent and no digit that says how large the number is.
+    const QString least = QStringLiteral("-123.4567");
+    const QString needed = withFewDecimals(valueText());
+    return needed.size() > least.size() ? needed : least;
 }
 
 QString FloatSpinBox::read(const QString &text, float &value) const

@@ -7,6 +7,7 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
@@ -15,6 +16,7 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <utility>
 
 NumberField::NumberField(QWidget *parent)
     : QAbstractSpinBox(parent)
@@ -93,6 +95,22 @@ void NumberField::showValue(bool isSame)
     lineEdit()->setText(shownText());
     // A number that does not fit shows its sign and its first digits.
     lineEdit()->setCursorPosition(0);
+    const int least = minimumSizeHint().width();
+    if (std::exchange(m_leastWidth, least) != least)
+        updateGeometry(); // so that it may stand in a line of its own
+}
+
+bool NumberField::tellCut(QEvent *event)
+{
+    const QString text = lineEdit()->text();
+    constexpr int margins = 4; // around the text, as the toolkit has it
+    if (event->type() != QEvent::ToolTip ||
+        fontMetrics().horizontalAdvance(text) + margins <= lineEdit()->contentsRect().width())
+        return false;
+    const QString tip = toolTip();
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
+                       tip.isEmpty() ? text : text + QLatin1Char('\n') + tip, this);
+    return true;
 }
 
 void NumberField::stepBy(int steps)
@@ -212,7 +230,7 @@ QMenu *NumberField::createMenu()
 
 bool NumberField::event(QEvent *event)
 {
-    return answer(event) || QAbstractSpinBox::event(event);
+    return answer(event) || tellCut(event) || QAbstractSpinBox::event(event);
 }
 
 void NumberField::focusOutEvent(QFocusEvent *event)

@@ -92,6 +92,8 @@ private:
     QSize sizeOf(const QString &text) const;
     bool canBecomeValue(const QString &text) const;
     void refuse(const QString &reason);
+    /// Answers what asks for the tool tip of a number that has no room here.
+    bool tellCut(QEvent *event);
     void onTextEdited();
     void copy() const;
     void paste();
@@ -100,5 +102,6 @@ private:
     QString m_suffix;
     FieldRecords m_records;
     double m_degree = Expression::Radian;
+    int m_leastWidth = 0;
     int m_wheel = 0; ///< turned, but not yet a step, in eighths of a degree
 };

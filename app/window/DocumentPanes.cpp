@@ -3,6 +3,7 @@
 #include "DocumentPanes.h"
 
 #include "AnimTrackFrame.h"
+#include "AnimationNaming.h"
 #include "FileSystem.h"
 #include "FolderExplorer.h"
 #include "KVOpenGLWidget.h"
@@ -69,6 +70,8 @@ DocumentPanes::DocumentPanes(const std::array<DocumentPane, 3> &panes, SkinnedMe
     prepareViewOf(staticMesh);
     meshPane.viewport->setSkinnedMeshMode(true);
     anim.setNamingMesh(&skinnedMesh.model());
+    AnimationNaming::setMesh(AnimationNaming::Mesh{skinnedMesh.editTarget(), skinnedMesh.undoStack(),
+                                                   [&skinnedMesh] { return skinnedMesh.isOpen(); }});
     for (const DocumentPane &each : m_panes)
         connectPane(each);
     connect(m_selection, &ViewSelection::picked, this, &DocumentPanes::showPicked);
@@ -78,6 +81,11 @@ DocumentPanes::DocumentPanes(const std::array<DocumentPane, 3> &panes, SkinnedMe
     connect(m_tabs.tabs, &QTabWidget::currentChanged, this, &DocumentPanes::on_tabWidget_currentChanged);
     connect(m_tabs.trees, &QTabWidget::currentChanged, this, &DocumentPanes::on_tabTrees_currentChanged);
     updateViewports();
+}
+
+DocumentPanes::~DocumentPanes()
+{
+    AnimationNaming::setMesh({});
 }
 
 void DocumentPanes::connectPane(const DocumentPane &pane)

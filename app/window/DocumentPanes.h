@@ -49,6 +49,7 @@ public:
     DocumentPanes(const std::array<DocumentPane, 3> &panes, SkinnedMeshDocument &skinnedMesh,
                   AnimDocument &anim, StaticMeshDocument &staticMesh, const DocumentTabs &tabs,
                   AnimTrackFrame &track, QObject *parent);
+    ~DocumentPanes() override;
 
     /// In the order of DocumentType.
     const std::array<DocumentPane, 3> &all() const { return m_panes; }

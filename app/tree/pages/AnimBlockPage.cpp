@@ -46,6 +46,7 @@ void AnimBlockPage::bindName()
     };
     addBinding({editor, [this, editor] { editor->setValue(nameOf(record())); },
                 [this, editor] { nameSelected(editor->value()); }, mark});
+    editor->setProperty(FieldProperty, QStringLiteral("name"));
     Editors::onEdited(editor, this, &AnimBlockPage::OnAnimBlockNameChanged);
     m_mesh.addField(editor);
 }

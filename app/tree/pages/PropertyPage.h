@@ -38,6 +38,8 @@ public:
 
     /// "Bone 3 Properties".
     QString title() const;
+    /// The property of an editor that holds the id of its RecordField.
+    static constexpr const char *FieldProperty = "field";
 
     /// Gives up what is typed and not stored, and tells what it was: another record is shown next, or none.
     void leave();
@@ -236,6 +238,7 @@ private:
     {
         const auto &field =
             static_cast<const ModelField<Model> &>(*RecordFields::find(RecordType::kind, row.id()));
+        editor->setProperty(FieldProperty, row.id());
         if constexpr (std::is_same_v<Editor, TextField>) {
             editor->setCheck([&field](const QString &text) {
                 FieldValue value;

@@ -105,7 +105,7 @@ private slots:
             told += row.section('|', 0, 0) + '|' + row.section('|', 2);
         QCOMPARE(told, QStringList(
                            {"Bone 0|", "> Flags|0x" + QString::number(bone.flags, 16).rightJustified(8, '0'),
-                            "> Symbol|" + boneTypeNames()[2] + ", Right, 2",
+                            "> Symbol|" + boneTypeNames()[2] + ", Right, " + bonePartNames(2)[2],
                             "> Impact Type|" + impactTypeNames()[bone.impactType], "> Damage Scale|0.00001",
                             "> Bounding Box Min|1000000, -0.5, 0", "Hot point 0|",
                             "> Position On Bone|nan, 0, 0", "Surface 0|", "> Material|a, \"b\""}));

@@ -111,6 +111,24 @@ private slots:
                  (RecordRef{RecordKind::Bone, {0}}));
     }
 
+    void animationsAreNamedHereToo()
+    {
+        find<QTabWidget>(*m_window, "tabTrees")->setCurrentIndex(1);
+        openTable();
+        const int name = columnOf("name");
+        QCOMPARE(view()->model()->headerData(name, Qt::Horizontal).toString(), QString("Name"));
+        selectCells({{1, name}, {2, name}});
+        typeCell("walk");
+        // All three have one id.
+        QCOMPARE(column("name"), QStringList({"walk", "walk", "walk"}));
+        QVERIFY(m_window->statusBar()->currentMessage().startsWith("The name belongs to the mesh"));
+        QVERIFY(!undo().canUndo());
+        find<QTabWidget>(*m_window, "tabTrees")->setCurrentIndex(0);
+        QTest::keySequence(m_window.get(), QKeySequence::Undo);
+        find<QTabWidget>(*m_window, "tabTrees")->setCurrentIndex(1);
+        QCOMPARE(column("name"), QStringList({"", "", ""}));
+    }
+
     void cellsTravelThroughTheClipboard()
     {
         select(*m_window, "treeSkinnedMesh", {{RecordKind::Bone, {0}}});

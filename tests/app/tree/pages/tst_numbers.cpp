@@ -255,6 +255,34 @@ private slots:
             const QRect axis = place("lblNodeBBMinZAxis");
             QVERIFY(axis.right() < z.left() && axis.top() >= z.top() - 1 && axis.bottom() <= z.bottom() + 1);
         }
+        // A number whose size would be cut off has a line of its own; decimals alone are told by the tool
+        // tip.
+        const auto isRow = [&] {
+            QCoreApplication::processEvents();
+            return place("sbNodeBBMinX").top() == place("sbNodeBBMinZ").top();
+        };
+        for (int width = 300; !isRow(); width += 10)
+            pane.stack.resize(width, 700);
+        auto *x = pane.child<FloatSpinBox>("sbNodeBBMinX");
+        type(x, QStringLiteral("-116.988235"));
+        QVERIFY(isRow());
+        const auto toolTip = [x] {
+            QToolTip::hideText();
+            QHelpEvent help(QEvent::ToolTip, x->rect().center(), x->mapToGlobal(x->rect().center()));
+            QCoreApplication::sendEvent(x, &help);
+            return QToolTip::text();
+        };
+        const QString usual = x->toolTip();
+        x->setFixedWidth(70);
+        QTRY_COMPARE(toolTip(), QStringLiteral("-116.988235\n") + usual);
+        x->setFixedWidth(200);
+        QTRY_COMPARE(toolTip(), usual);
+        x->setMinimumWidth(0);
+        x->setMaximumWidth(QWIDGETSIZE_MAX);
+        type(x, QStringLiteral("-1.1754944e-38"));
+        QTRY_VERIFY(!isRow());
+        pane.undo().undo();
+        QTRY_VERIFY(isRow());
         // Groups have their labels in one column.
         pane.stack.resize(900, 700);
         QTRY_COMPARE(place("sbNodeParentNode").left(), place("cbNodeImpactType").left());

@@ -41,6 +41,33 @@ private slots:
         QCOMPARE(shownText(panes.mesh.child<QComboBox>("cbNodeImpactType")), QStringLiteral("200"));
     }
 
+    /// What has an editor has a column, and a word to be found by.
+    void everyEditorHasAField()
+    {
+        Panes panes;
+        panes.openPlain();
+        int editors = 0;
+        const auto look = [&editors](auto &pane, const QVector<RecordKind> &kinds) {
+            for (const RecordKind kind : kinds) {
+                pane.select({{kind, {}}});
+                QVERIFY2(pane.page(), qPrintable(QString::number(int(kind))));
+                for (const QWidget *editor : editorsOf(pane.page())) {
+                    const QString id = editor->property(PropertyPage::FieldProperty).toString();
+                    const RecordField *field = RecordFields::find(kind, id);
+                    QVERIFY2(field && field->id() == id, qPrintable(editor->objectName()));
+                    ++editors;
+                }
+            }
+        };
+        using K = RecordKind;
+        look(panes.mesh, {K::SkinnedMesh, K::ChildBone, K::HotPoint, K::Bone, K::SkinnedSurface,
+                          K::SkinnedTriangleIndex, K::SkinnedVertex});
+        look(panes.anim,
+             {K::AnimBlock, K::AnimBone, K::AnimFrame, K::TranslationKey, K::RotationKey, K::AnimAction});
+        look(panes.rigid, {K::StaticMesh, K::StaticSurface, K::StaticTriangleIndex, K::StaticVertex});
+        QVERIFY2(editors > 90, qPrintable(QString::number(editors)));
+    }
+
     void theWheelScrolls()
     {
         Panes panes;

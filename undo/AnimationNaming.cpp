@@ -35,6 +35,7 @@ public:
         m_type = Type::Text;
         m_id = QStringLiteral("name");
         m_title = QCoreApplication::translate("RecordFields", "Name");
+        m_englishTitle = QStringLiteral("Name");
         m_stepText = QCoreApplication::translate("UndoCommands", UC_SkinnedMeshAnimationNames::undoText);
         m_note = QCoreApplication::translate(
             "RecordFields", "The name belongs to the mesh, and is saved with it (Save All).");

@@ -89,6 +89,11 @@ std::optional<ReferenceKind> referenceOf(QLatin1String question)
 
 QString argumentName(int eventType, int argument, float value)
 {
-    const auto kind = referenceOf(eventArgument(eventType, argument).question);
-    return kind ? ReferenceTables::shared().name(*kind, double(value)) : QString();
+    return numberName(eventArgument(eventType, argument).question, double(value));
+}
+
+QString numberName(QLatin1String question, double value)
+{
+    const auto kind = referenceOf(question);
+    return kind ? ReferenceTables::shared().name(*kind, value) : QString();
 }

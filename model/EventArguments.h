@@ -29,6 +29,9 @@ inline constexpr QLatin1String Damage{"damage", 6}; ///< 256 times the damage
 /// The table with the names of what a question asks for; none for damage, which is calculated.
 std::optional<ReferenceKind> referenceOf(QLatin1String question);
 
+/// What a number is called by the table that a question asks; empty when there is none, or no such row.
+QString numberName(QLatin1String question, double value);
+
 /// The meaning of argument 0 to 7 of any event type.
 EventArgument eventArgument(int eventType, int argument);
 /// What the value of an argument is called, as ReferenceTables::name().

@@ -29,7 +29,7 @@ KVOpenGLWidget::KVOpenGLWidget(QWidget *parent)
     setMoveSpeed(Settings::MouseSpeed.value());
     setShowStatistics(Settings::ShowStatistics.value());
     setOrbitMode(Settings::OrbitMode.value());
-    trackMarks();
+    setShowSkeleton(m_scene.frame.marks.skeleton); // as the settings want it
     setFocusPolicy(Qt::StrongFocus);
 }
 
@@ -198,22 +198,18 @@ void KVOpenGLWidget::setMarkedSelection(std::vector<int> bones, std::vector<int>
     change(m_scene.frame.marks.selectedHotPoints, std::move(hotPoints));
 }
 
-void KVOpenGLWidget::setShowSkeleton(bool on)
+void KVOpenGLWidget::waitForBone(PickTool::BonePicked picked)
 {
-    change(m_scene.frame.marks.skeleton, on);
-    trackMarks();
+    changeMarks(m_scene.frame.marks.bonesAlone, picked != nullptr);
+    m_tools.pick->waitForBone(std::move(picked));
+    m_recorder.showCursor();
 }
 
-void KVOpenGLWidget::setShowHotPoints(bool on)
+void KVOpenGLWidget::changeMarks(bool &mark, bool on)
 {
-    change(m_scene.frame.marks.hotPoints, on);
-    trackMarks();
-}
-
-// Their tips come up without a button held.
-void KVOpenGLWidget::trackMarks()
-{
-    setMouseTracking(m_scene.frame.marks.skeleton || m_scene.frame.marks.hotPoints);
+    change(mark, on);
+    // Their tips come up without a button held.
+    setMouseTracking(m_scene.frame.marks.showsBones() || m_scene.frame.marks.showsHotPoints());
 }
 
 void KVOpenGLWidget::setShowStatistics(bool on)

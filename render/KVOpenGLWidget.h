@@ -67,8 +67,11 @@ public:
     /// 0 to 2, see Shading; anything else is 0.
     void setShading(int shading) { change(m_scene.frame.shading, ShownScene::shading(shading)); }
     void setShowSurfaceTint(bool on) { change(m_scene.frame.showSurfaceTint, on); }
-    void setShowSkeleton(bool on);
-    void setShowHotPoints(bool on);
+    void setShowSkeleton(bool on) { changeMarks(m_scene.frame.marks.skeleton, on); }
+    void setShowHotPoints(bool on) { changeMarks(m_scene.frame.marks.hotPoints, on); }
+    /// Lets the next click on a bone be told to this alone. Until then all bones are drawn, and hot points
+    /// are not, which would lie over them. Null gives that up.
+    void waitForBone(PickTool::BonePicked picked);
     void setShowStatistics(bool on); ///< frames a second and the number of triangles, in a corner
 
     void setSelectedSurface(int surface); ///< -1: none
@@ -144,7 +147,7 @@ private:
     void replaceModel(bool shown);
     void rebuildCopy();
     void showTriangles();
-    void trackMarks();
+    void changeMarks(bool &mark, bool on);
     void poseModel();
     void tellFrame(int frame);
     void frame(const std::vector<QVector3D> &places, int strays);

@@ -34,9 +34,9 @@ void SceneMarks::place(const MarkedRecords &records, const ScreenMap &map, const
     m_bones.clear();
     m_lines.clear();
     m_hotPoints.clear();
-    if (records.mesh && records.skeleton)
+    if (records.mesh && records.showsBones())
         placeBones(records, map, palette);
-    if (records.mesh && records.hotPoints)
+    if (records.mesh && records.showsHotPoints())
         placeHotPoints(records, map, palette);
 }
 

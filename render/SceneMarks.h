@@ -17,8 +17,12 @@ struct MarkedRecords
     const SkinnedMesh *mesh = nullptr; ///< whose bones and hot points; null: nobody's
     bool skeleton = false;
     bool hotPoints = false;
+    bool bonesAlone = false;        ///< bones, and nothing that would lie over them, whatever else is wanted
     std::vector<int> selectedBones; ///< ascending
     std::vector<int> selectedHotPoints;
+
+    bool showsBones() const { return skeleton || bonesAlone; }
+    bool showsHotPoints() const { return hotPoints && !bonesAlone; }
 };
 
 /// The bones and hot points of a picture: where they stand in it, and which of them is under the mouse. Keeps

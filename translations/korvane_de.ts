@@ -936,6 +936,21 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
 </context>
 <context>
+    <name>ChoicePopup</name>
+    <message>
+        <source>Nothing has these words.</source>
+        <translation>Nichts enthält diese Wörter.</translation>
+    </message>
+    <message>
+        <source>Number or words of a name</source>
+        <translation>Nummer oder Wörter eines Namens</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+</context>
+<context>
     <name>CommandPalette</name>
     <message>
         <source>Commands</source>
@@ -1666,6 +1681,10 @@ Ohne diese Eingabe fortfahren?</translation>
         <source>The animation that plays does not have %1.</source>
         <translation>%1 gibt es in der laufenden Animation nicht.</translation>
     </message>
+    <message>
+        <source>The mesh that has the bones is not open.</source>
+        <translation>Das Mesh, das die Knochen hat, ist nicht geöffnet.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentTitle</name>
@@ -1821,6 +1840,64 @@ Ohne diese Eingabe fortfahren?</translation>
     <message>
         <source>&apos;%1&apos; is not understood.</source>
         <translation>„%1“ ist nicht zu verstehen.</translation>
+    </message>
+</context>
+<context>
+    <name>FieldChoices</name>
+    <message>
+        <source>Actors</source>
+        <translation>Akteure</translation>
+    </message>
+    <message>
+        <source>Sounds</source>
+        <translation>Sounds</translation>
+    </message>
+    <message>
+        <source>Animations</source>
+        <translation>Animationen</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation>Stimmen</translation>
+    </message>
+    <message>
+        <source>Particles</source>
+        <translation>Partikel</translation>
+    </message>
+    <message>
+        <source>Impact Types</source>
+        <translation>Aufpralltypen</translation>
+    </message>
+    <message>
+        <source>Bones</source>
+        <translation>Knochen</translation>
+    </message>
+    <message>
+        <source>no parent</source>
+        <translation>kein Elternknochen</translation>
+    </message>
+    <message>
+        <source>no bone</source>
+        <translation>kein Knochen</translation>
+    </message>
+</context>
+<context>
+    <name>FieldName</name>
+    <message>
+        <source>Choose by Name</source>
+        <translation>Nach Namen wählen</translation>
+    </message>
+    <message>
+        <source>Pick in the View</source>
+        <translation>In der Ansicht wählen</translation>
+    </message>
+    <message>
+        <source>click a bone</source>
+        <translation>Knochen anklicken</translation>
+    </message>
+    <message>
+        <source>Click a bone in the view; Esc gives that up</source>
+        <translation>Klicken Sie in der Ansicht einen Knochen an; Esc bricht das ab</translation>
     </message>
 </context>
 <context>
@@ -3005,6 +3082,18 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
     <message>
         <source>not in the table</source>
         <translation>nicht in der Tabelle</translation>
+    </message>
+    <message>
+        <source>%1 damage</source>
+        <translation>%1 Schaden</translation>
+    </message>
+    <message>
+        <source>values differ</source>
+        <translation>Werte verschieden</translation>
+    </message>
+    <message>
+        <source>%1; not so in all selected records</source>
+        <translation>%1; nicht in allen ausgewählten Datensätzen</translation>
     </message>
 </context>
 <context>
@@ -4243,6 +4332,10 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <source>Step &amp;down</source>
         <translation>Schritt &amp;runter</translation>
     </message>
+    <message>
+        <source>C&amp;hoose by Name…</source>
+        <translation>Nach Namen &amp;wählen…</translation>
+    </message>
 </context>
 <context>
     <name>NumberRange</name>
@@ -4607,6 +4700,18 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
     <message>
         <source>%1; values in italics differ</source>
         <translation>%1; kursive Werte unterscheiden sich</translation>
+    </message>
+    <message>
+        <source>Choose by Name</source>
+        <translation>Nach Namen wählen</translation>
+    </message>
+    <message>
+        <source>Pick in the View</source>
+        <translation>In der Ansicht wählen</translation>
+    </message>
+    <message>
+        <source>Click a bone in the view. Esc gives that up.</source>
+        <translation>Klicken Sie in der Ansicht einen Knochen an. Esc bricht das ab.</translation>
     </message>
 </context>
 <context>

@@ -8,6 +8,14 @@
 
 #include <QStringList>
 
+/// What a field's numbers stand for: bones by their place in the mesh, some of them with a number for none;
+/// or what one of the reference tables names.
+enum class Naming { Nothing, Bone, ParentBone, ActionBone, Animation, HotPointEffect, EventArgument };
+
+/// The numbers that stand for no bone.
+inline constexpr int NoParentBone = 0xFF; ///< where there are not that many bones
+inline constexpr int NoActionBone = 0xFFFF;
+
 /// What a field is to those who show it, beside its type.
 struct FieldTraits
 {
@@ -21,7 +29,14 @@ struct FieldTraits
     bool isFlags = false;
     /// A text that a file stores, which has only characters of Latin-1.
     bool isLatin1 = false;
+    Naming naming = Naming::Nothing;
 };
+
+/// Of a field whose numbers stand for something.
+constexpr FieldTraits standingFor(Naming naming)
+{
+    return {nullptr, 0, false, false, false, naming};
+}
 
 /// One field of one kind of record: the command that stores it and the part of the command's value that it
 /// is.
@@ -82,9 +97,10 @@ struct VectorRow
     const char *step;
     const char *axes = "XYZW";
     const char *stepAxes = "XYZW";
+    FieldTraits traits{};
 
     constexpr FieldRow<CommandType, Parts::Component> operator[](int i) const
     {
-        return {key, title, step, {i}, {}, axes[i], stepAxes[i]};
+        return {key, title, step, {i}, traits, axes[i], stepAxes[i]};
     }
 };

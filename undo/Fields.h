@@ -21,22 +21,22 @@ using namespace Parts;
 // Skinned mesh
 inline constexpr VectorRow<UC_SkinnedMeshBBMin, 3> MeshBoxMin{"bbMin", QT_TRANSLATE_NOOP("RecordFields", "Bounding Box Min"), nullptr};
 inline constexpr VectorRow<UC_SkinnedMeshBBMax, 3> MeshBoxMax{"bbMax", QT_TRANSLATE_NOOP("RecordFields", "Bounding Box Max"), nullptr};
-inline constexpr FieldRow<UC_SkinnedMeshHTStart, WholeField> HeadTrackStart{"headTrackStart", QT_TRANSLATE_NOOP("RecordFields", "Head Track Start Bone"), nullptr};
-inline constexpr FieldRow<UC_SkinnedMeshHTEnd, WholeField> HeadTrackEnd{"headTrackEnd", QT_TRANSLATE_NOOP("RecordFields", "Head Track End Bone"), nullptr};
+inline constexpr FieldRow<UC_SkinnedMeshHTStart, WholeField> HeadTrackStart{"headTrackStart", QT_TRANSLATE_NOOP("RecordFields", "Head Track Start Bone"), nullptr, {}, standingFor(Naming::Bone)};
+inline constexpr FieldRow<UC_SkinnedMeshHTEnd, WholeField> HeadTrackEnd{"headTrackEnd", QT_TRANSLATE_NOOP("RecordFields", "Head Track End Bone"), nullptr, {}, standingFor(Naming::Bone)};
 inline constexpr FieldRow<UC_SkinnedMeshHTFactor, WholeField> HeadTrackFactor{"headTrackFactor", QT_TRANSLATE_NOOP("RecordFields", "Head Track Factor"), nullptr};
-inline constexpr FieldRow<UC_SkinnedMeshCnode, WholeField> ChildBone{"bone", QT_TRANSLATE_NOOP("RecordFields", "Child Bone"), QT_TRANSLATE_NOOP("RecordFields", "Child Bone Index")};
+inline constexpr FieldRow<UC_SkinnedMeshCnode, WholeField> ChildBone{"bone", QT_TRANSLATE_NOOP("RecordFields", "Child Bone"), QT_TRANSLATE_NOOP("RecordFields", "Child Bone Index"), {}, standingFor(Naming::Bone)};
 inline constexpr VectorRow<UC_SkinnedMeshHPOrigin, 3> HotPointOrigin{"origin", QT_TRANSLATE_NOOP("RecordFields", "Position On Bone"), QT_TRANSLATE_NOOP("RecordFields", "Hot Point Origin %1")};
-inline constexpr FieldRow<UC_SkinnedMeshHPNodeID, WholeField> HotPointBone{"bone", QT_TRANSLATE_NOOP("RecordFields", "Bone"), QT_TRANSLATE_NOOP("RecordFields", "Hot Point BoneID")};
+inline constexpr FieldRow<UC_SkinnedMeshHPNodeID, WholeField> HotPointBone{"bone", QT_TRANSLATE_NOOP("RecordFields", "Bone"), QT_TRANSLATE_NOOP("RecordFields", "Hot Point BoneID"), {}, standingFor(Naming::Bone)};
 inline constexpr FieldRow<UC_SkinnedMeshHPEffect, DamageMark> HotPointDamage{"dealsDamage", QT_TRANSLATE_NOOP("RecordFields", "Deal Damage"), QT_TRANSLATE_NOOP("RecordFields", "Hot Point Particle Effect 1")};
-inline constexpr FieldRow<UC_SkinnedMeshHPEffect, Component> HotPointEffect1{"effect1", QT_TRANSLATE_NOOP("RecordFields", "Particle Effect 1"), QT_TRANSLATE_NOOP("RecordFields", "Hot Point Particle Effect 1"), {0}};
-inline constexpr FieldRow<UC_SkinnedMeshHPEffect, Component> HotPointEffect2{"effect2", QT_TRANSLATE_NOOP("RecordFields", "Particle Effect 2"), QT_TRANSLATE_NOOP("RecordFields", "Hot Point Particle Effect 2"), {1}};
+inline constexpr FieldRow<UC_SkinnedMeshHPEffect, Component> HotPointEffect1{"effect1", QT_TRANSLATE_NOOP("RecordFields", "Particle Effect 1"), QT_TRANSLATE_NOOP("RecordFields", "Hot Point Particle Effect 1"), {0}, standingFor(Naming::HotPointEffect)};
+inline constexpr FieldRow<UC_SkinnedMeshHPEffect, Component> HotPointEffect2{"effect2", QT_TRANSLATE_NOOP("RecordFields", "Particle Effect 2"), QT_TRANSLATE_NOOP("RecordFields", "Hot Point Particle Effect 2"), {1}, standingFor(Naming::HotPointEffect)};
 inline constexpr FieldRow<UC_SkinnedMeshHPFlags, WholeField> HotPointFlags{"flags", QT_TRANSLATE_NOOP("RecordFields", "Flags"), QT_TRANSLATE_NOOP("RecordFields", "Hot Point Flags"), {}, {nullptr, 0, false, true}};
 // Bits 3 to 5 of the symbol carry no meaning and are kept.
 inline constexpr FieldRow<UC_SkinnedMeshNodeSFlags, Bits> BoneSymbolType{"symbolType", QT_TRANSLATE_NOOP("RecordFields", "Symbol Type"), QT_TRANSLATE_NOOP("RecordFields", "Bone Symbol Flags"), {0, 2}, {boneTypes, 3}};
 inline constexpr FieldRow<UC_SkinnedMeshNodeSFlags, Bits> BoneSymbolSide{"symbolSide", QT_TRANSLATE_NOOP("RecordFields", "Symbol Side"), QT_TRANSLATE_NOOP("RecordFields", "Bone Symbol Flags"), {2, 1}, {sides, 1}};
 inline constexpr FieldRow<UC_SkinnedMeshNodeSFlags, Bits> BoneSymbolPart{"symbolPart", QT_TRANSLATE_NOOP("RecordFields", "Symbol Part"), QT_TRANSLATE_NOOP("RecordFields", "Bone Symbol Flags"), {6, 2}, {nullptr, 3}};
 inline constexpr FieldRow<UC_SkinnedMeshNodeName, WholeField> BoneName{"name", QT_TRANSLATE_NOOP("RecordFields", "Name"), QT_TRANSLATE_NOOP("RecordFields", "Bone Name")};
-inline constexpr FieldRow<UC_SkinnedMeshNodeParentNode, WholeField> BoneParent{"parent", QT_TRANSLATE_NOOP("RecordFields", "Parent Bone"), QT_TRANSLATE_NOOP("RecordFields", "Parent Bone Index")};
+inline constexpr FieldRow<UC_SkinnedMeshNodeParentNode, WholeField> BoneParent{"parent", QT_TRANSLATE_NOOP("RecordFields", "Parent Bone"), QT_TRANSLATE_NOOP("RecordFields", "Parent Bone Index"), {}, standingFor(Naming::ParentBone)};
 inline constexpr FieldRow<UC_SkinnedMeshNodeImpactType, WholeField> BoneImpact{"impact", QT_TRANSLATE_NOOP("RecordFields", "Impact Type"), QT_TRANSLATE_NOOP("RecordFields", "Bone Impact Type"), {}, {impactTypes}};
 inline constexpr FieldRow<UC_SkinnedMeshNodeDamageScale, WholeField> BoneDamageScale{"damageScale", QT_TRANSLATE_NOOP("RecordFields", "Damage Scale"), QT_TRANSLATE_NOOP("RecordFields", "Bone Damage Scale")};
 inline constexpr VectorRow<UC_SkinnedMeshNodeBBMin, 3> BoneBoxMin{"bbMin", QT_TRANSLATE_NOOP("RecordFields", "Bounding Box Min"), QT_TRANSLATE_NOOP("RecordFields", "Bone Bounding Box Min %1")};
@@ -48,10 +48,10 @@ inline constexpr FieldRow<UC_SkinnedMeshTriIndex, WholeField> SkinnedTriangleInd
 inline constexpr VectorRow<UC_SkinnedMeshVertPosition, 3> SkinnedPosition{"position", QT_TRANSLATE_NOOP("RecordFields", "Position"), QT_TRANSLATE_NOOP("RecordFields", "Vertex Position %1")};
 inline constexpr VectorRow<UC_SkinnedMeshVertNormal, 3> SkinnedNormal{"normal", QT_TRANSLATE_NOOP("RecordFields", "Normal"), QT_TRANSLATE_NOOP("RecordFields", "Vertex Normal %1")};
 inline constexpr VectorRow<UC_SkinnedMeshVertUV, 2> SkinnedUV{"uv", QT_TRANSLATE_NOOP("RecordFields", "UV"), QT_TRANSLATE_NOOP("RecordFields", "Vertex UV %1")};
-inline constexpr FieldRow<UC_SkinnedMeshVertNodeIndex, WholeField> VertexBone{"bone", QT_TRANSLATE_NOOP("RecordFields", "Bone"), QT_TRANSLATE_NOOP("RecordFields", "Vertex Bone Index")};
+inline constexpr FieldRow<UC_SkinnedMeshVertNodeIndex, WholeField> VertexBone{"bone", QT_TRANSLATE_NOOP("RecordFields", "Bone"), QT_TRANSLATE_NOOP("RecordFields", "Vertex Bone Index"), {}, standingFor(Naming::Bone)};
 
 // Animation
-inline constexpr FieldRow<UC_AnimBlockAnimID, WholeField> BlockId{"animId", QT_TRANSLATE_NOOP("RecordFields", "Anim ID"), QT_TRANSLATE_NOOP("RecordFields", "Animation AnimID")};
+inline constexpr FieldRow<UC_AnimBlockAnimID, WholeField> BlockId{"animId", QT_TRANSLATE_NOOP("RecordFields", "Anim ID"), QT_TRANSLATE_NOOP("RecordFields", "Animation AnimID"), {}, standingFor(Naming::Animation)};
 inline constexpr FieldRow<UC_AnimBlockAnimSpeed, WholeField> BlockSpeed{"speed", QT_TRANSLATE_NOOP("RecordFields", "Speed"), QT_TRANSLATE_NOOP("RecordFields", "Animation Speed")};
 inline constexpr FieldRow<UC_AnimBlockLoopFrame, WholeField> BlockLoopFrame{"loopFrame", QT_TRANSLATE_NOOP("RecordFields", "Loop Frame"), QT_TRANSLATE_NOOP("RecordFields", "Animation Loop Frame")};
 inline constexpr FieldRow<UC_AnimBlockFrameScale, WholeField> BlockFrameScale{"frameScale", QT_TRANSLATE_NOOP("RecordFields", "Frame Scale"), QT_TRANSLATE_NOOP("RecordFields", "Animation Frame Scale")};
@@ -69,9 +69,9 @@ inline constexpr VectorRow<UC_AnimRotation, 4> RotationKey{"rotation", QT_TRANSL
 inline constexpr FieldRow<UC_AnimRotation, RotationAngle> RotationKeyAngle{"angle", QT_TRANSLATE_NOOP("RecordFields", "Angle"), QT_TRANSLATE_NOOP("RecordFields", "Animation Rotation Angle"), {}, {nullptr, 0, true}};
 inline constexpr FieldRow<UC_AnimActionFrame, WholeField> ActionFrame{"frame", QT_TRANSLATE_NOOP("RecordFields", "Frame"), QT_TRANSLATE_NOOP("RecordFields", "Key Frame Action Frame")};
 inline constexpr FieldRow<UC_AnimActionEventType, WholeField> ActionEvent{"event", QT_TRANSLATE_NOOP("RecordFields", "Event Type"), QT_TRANSLATE_NOOP("RecordFields", "Key Frame Action Event Type"), {}, {eventTypes}};
-inline constexpr FieldRow<UC_AnimActionNode, WholeField> ActionBone{"bone", QT_TRANSLATE_NOOP("RecordFields", "Bone"), QT_TRANSLATE_NOOP("RecordFields", "Key Frame Action Node")};
+inline constexpr FieldRow<UC_AnimActionNode, WholeField> ActionBone{"bone", QT_TRANSLATE_NOOP("RecordFields", "Bone"), QT_TRANSLATE_NOOP("RecordFields", "Key Frame Action Node"), {}, standingFor(Naming::ActionBone)};
 inline constexpr VectorRow<UC_AnimActionOffset, 3> ActionOffset{"offset", QT_TRANSLATE_NOOP("RecordFields", "Offset"), QT_TRANSLATE_NOOP("RecordFields", "Key Frame Action Offset %1")};
-inline constexpr VectorRow<UC_AnimActionArgs, 8> ActionArgs{"arg", QT_TRANSLATE_NOOP("RecordFields", "Arg"), QT_TRANSLATE_NOOP("RecordFields", "Key Frame Action Args"), "12345678", "12345678"};
+inline constexpr VectorRow<UC_AnimActionArgs, 8> ActionArgs{"arg", QT_TRANSLATE_NOOP("RecordFields", "Arg"), QT_TRANSLATE_NOOP("RecordFields", "Key Frame Action Args"), "12345678", "12345678", standingFor(Naming::EventArgument)};
 
 // Static mesh
 inline constexpr VectorRow<UC_StaticMeshBBMin, 3> StaticBoxMin{"bbMin", QT_TRANSLATE_NOOP("RecordFields", "Bounding Box Min"), nullptr};

@@ -3,8 +3,10 @@
 #include "RecordFields.h"
 
 #include "AnimationNaming.h"
+#include "EventArguments.h"
 #include "Expression.h"
 #include "Fields.h"
+#include "ModelNames.h"
 #include "NameTables.h"
 #include "NumberText.h"
 
@@ -47,6 +49,46 @@ FieldValue untyped(const Value &value)
         return double(value);
 }
 
+/// What the numbers of a kind of record stand for.
+template <typename Record>
+QLatin1String questionOf(const Record &, Naming naming, int)
+{
+    return naming == Naming::Animation ? Question::Animation : QLatin1String();
+}
+
+/// The first effect of one that deals damage is but the mark of that.
+QLatin1String questionOf(const SkinnedMeshHotPoint &point, Naming naming, int component)
+{
+    if (naming != Naming::HotPointEffect)
+        return {};
+    if (!Fields::HotPointDamage.part.get(HotPointEffects::get(point)))
+        return Question::Particle;
+    return component == 0 ? QLatin1String() : Question::Damage;
+}
+
+QLatin1String questionOf(const AnimAction &action, Naming naming, int component)
+{
+    return naming == Naming::EventArgument ? eventArgument(action.eventType, component).question
+                                           : QLatin1String();
+}
+
+/// Whether the mesh's bones are those that numbers of a model stand for.
+bool hasBonesOf(const SkinnedMesh &, const RecordIndex &, const SkinnedMesh &)
+{
+    return true;
+}
+
+bool hasBonesOf(const AnimFile &file, const RecordIndex &index, const SkinnedMesh &mesh)
+{
+    const AnimBlock *block = Records::Block::find(file, index);
+    return block && block->nodes.size() == mesh.nodes.size();
+}
+
+bool hasBonesOf(const StaticMesh &, const RecordIndex &, const SkinnedMesh &)
+{
+    return false;
+}
+
 template <typename Row>
 class FieldOfRow final : public ModelField<typename Row::Command::Model>
 {
@@ -68,6 +110,7 @@ public:
         this->m_isFlags = row.traits.isFlags;
         this->m_isLatin1 = row.traits.isLatin1;
         this->m_names = row.traits.names;
+        this->m_naming = row.traits.naming;
         if constexpr (std::is_same_v<Value, QString>) {
             this->m_type = RecordField::Type::Text;
         } else if constexpr (std::is_same_v<Value, bool>) {
@@ -88,6 +131,17 @@ public:
         // Records are found in models that may be changed; this one is only read.
         const auto *record = Place::find(const_cast<Model &>(model), index);
         return record ? untyped(m_row.part.get(Command::Field::get(*record))) : FieldValue();
+    }
+
+    QLatin1String question(const Model &model, const RecordIndex &index) const override
+    {
+        const auto *record = Place::find(model, index);
+        if (!record || this->m_naming == Naming::Nothing)
+            return {};
+        int component = 0;
+        if constexpr (std::is_same_v<decltype(m_row.part), Parts::Component>)
+            component = m_row.part.index;
+        return questionOf(*record, this->m_naming, component);
     }
 
     QUndoCommand *command(EditTarget<Model> target, const RecordIndex &index,
@@ -230,6 +284,32 @@ QString RecordField::calculate(const Expression &expression, const FieldValue &o
         value = result;
     return reason;
 }
+
+template <typename Model>
+QString ModelField<Model>::name(const Model &model, const RecordIndex &index, const SkinnedMesh *names) const
+{
+    const FieldValue held = value(model, index);
+    const auto *number = std::get_if<double>(&held);
+    if (!number)
+        return {};
+    switch (m_naming) {
+    case Naming::Bone:
+    case Naming::ParentBone:
+    case Naming::ActionBone:
+        return names && hasBonesOf(model, index, *names) ? boneTitle(*names, int(*number)) : QString();
+    case Naming::Animation:
+        if (names)
+            return animationName(*names, qint32(*number));
+        break;
+    default:
+        break;
+    }
+    return numberName(question(model, index), *number);
+}
+
+template class ModelField<SkinnedMesh>;
+template class ModelField<AnimFile>;
+template class ModelField<StaticMesh>;
 
 const QVector<const RecordField *> &RecordFields::of(RecordKind kind)
 {

@@ -3,8 +3,10 @@
 #pragma once
 
 #include "DocumentView.h"
+#include "FieldRow.h"
 #include "NumberRange.h"
 
+#include <QLatin1String>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -39,6 +41,11 @@ public:
     bool isFlags() const { return m_isFlags; }
     /// The names of its numbers, from 0; none where they have none.
     QStringList names() const { return m_names ? m_names() : QStringList(); }
+    Naming naming() const { return m_naming; }
+    bool namesBones() const
+    {
+        return m_naming == Naming::Bone || m_naming == Naming::ParentBone || m_naming == Naming::ActionBone;
+    }
     /// What an edit of several records is called.
     const QString &stepText() const { return m_stepText; }
     /// What there is to say to whoever has changed it; mostly nothing.
@@ -71,6 +78,7 @@ protected:
     bool m_isFlags = false;
     bool m_isLatin1 = false;
     QStringList (*m_names)() = nullptr;
+    Naming m_naming = Naming::Nothing;
     QString m_stepText;
     QString m_note;
 
@@ -84,6 +92,11 @@ class ModelField : public RecordField
 {
 public:
     virtual FieldValue value(const Model &model, const RecordIndex &index) const = 0;
+    /// What the number stands for in that record, one of Question; null where no table names it.
+    virtual QLatin1String question(const Model &, const RecordIndex &) const { return {}; }
+    /// What the number of that record is called: by the table, or as boneTitle(). Empty when it has no name.
+    /// `names` is the mesh that names bones and animations; null where there is none.
+    QString name(const Model &model, const RecordIndex &index, const SkinnedMesh *names) const;
     /// Stores a value that parse() or calculate() gave. The caller owns the command. Null for a record that
     /// does not exist.
     virtual QUndoCommand *command(EditTarget<Model> target, const RecordIndex &index,

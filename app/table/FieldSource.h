@@ -13,6 +13,8 @@ public:
 
     virtual Document &document() const = 0;
     virtual FieldValue value(const RecordField &field, const RecordIndex &index) const = 0;
+    /// What the number of a record is called; empty where it has no name.
+    virtual QString name(const RecordField &field, const RecordIndex &index) const = 0;
     /// See RecordFields::change().
     virtual bool change(const QVector<FieldChange> &changes, const QString &stepText) = 0;
 };
@@ -30,6 +32,11 @@ public:
     FieldValue value(const RecordField &field, const RecordIndex &index) const override
     {
         return static_cast<const ModelField<Model> &>(field).value(m_document.model(), index);
+    }
+    QString name(const RecordField &field, const RecordIndex &index) const override
+    {
+        return static_cast<const ModelField<Model> &>(field).name(m_document.model(), index,
+                                                                  namingMesh(m_document));
     }
     bool change(const QVector<FieldChange> &changes, const QString &stepText) override
     {

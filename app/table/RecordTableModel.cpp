@@ -54,6 +54,8 @@ QVariant RecordTableModel::data(const QModelIndex &index, int role) const
     }
     case Qt::EditRole:
         return shown.text(value(index));
+    case Qt::ToolTipRole:
+        return m_source->name(shown, record(index.row()));
     case SortRole: {
         const FieldValue held = value(index);
         if (const auto *number = std::get_if<double>(&held))

@@ -21,4 +21,8 @@ struct FieldRecords
     /// Gives each several numbers at once: those of the vector that the field is a part of. Null for a field
     /// that stands alone.
     std::function<QString(const QStringList &)> paste;
+    /// Lets the number be chosen by what it stands for, and whether that can be done now. Null for a number
+    /// that stands for itself.
+    std::function<void()> choose;
+    std::function<bool()> canChoose;
 };

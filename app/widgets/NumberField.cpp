@@ -206,6 +206,11 @@ QMenu *NumberField::createMenu()
                });
         menu->insertSeparator(first);
     }
+    if (m_records.choose && m_records.canChoose()) {
+        insert(QStringLiteral("actionFieldChooseHere"), tr("C&hoose by Name…"), !isReadOnly(),
+               m_records.choose);
+        menu->insertSeparator(first);
+    }
     for (QAction *action : menu->actions()) {
         const QString text = action->text().section(QLatin1Char('\t'), 0, 0); // its keys follow
         for (const char *replaced : {"&Copy", "&Paste"}) {

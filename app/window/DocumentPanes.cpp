@@ -69,7 +69,6 @@ DocumentPanes::DocumentPanes(const std::array<DocumentPane, 3> &panes, SkinnedMe
     prepareViewOf(skinnedMesh);
     prepareViewOf(staticMesh);
     meshPane.viewport->setSkinnedMeshMode(true);
-    anim.setNamingMesh(&skinnedMesh.model());
     AnimationNaming::setMesh(AnimationNaming::Mesh{skinnedMesh.editTarget(), skinnedMesh.undoStack(),
                                                    [&skinnedMesh] { return skinnedMesh.isOpen(); }});
     for (const DocumentPane &each : m_panes)
@@ -104,6 +103,14 @@ void DocumentPanes::connectPane(const DocumentPane &pane)
             [this, type](const RecordRef &record) { showInViewport(type, record); });
     connect(pane.tree, &KVTreeView::told, this, &DocumentPanes::told);
     connect(pane.pages, &PageStack::told, this, &DocumentPanes::told);
+    connect(pane.pages, &PageStack::boneWanted, this, [this, pane](bool on) {
+        pane.viewport->waitForBone(on ? [pages = pane.pages](int bone) { pages->takeBone(bone); }
+                                      : PickTool::BonePicked());
+        if (!on || m_skinnedMesh.isOpen())
+            return;
+        pane.pages->giveUpPicking();
+        emit told(tr("The mesh that has the bones is not open."));
+    });
     pane.document->setEditors(pane.pages);
     connect(pane.document, &Document::typingRefused, this, [this, type](const QString &refusal) {
         showPane(type);
@@ -311,6 +318,12 @@ void DocumentPanes::showNames()
     if (anim.document->isOpen())
         anim.pages->refresh();
     m_track.updateRange();
+}
+
+void DocumentPanes::OnNamesChanged()
+{
+    showNames();
+    pane(DocumentType::SkinnedMesh).pages->refresh();
 }
 
 void DocumentPanes::OnStructuresChanged(DocumentType type, const QVector<StructureChange> &changes)

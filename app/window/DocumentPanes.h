@@ -69,8 +69,6 @@ public slots:
     void showOpened(DocumentType type);
     /// The same, with the record current in its tree, which gets the keys.
     void showRecord(DocumentType type, const RecordRef &record);
-    /// What bones and animations, and the game's numbers, are called has changed.
-    void showNames();
     /// The user has opened a file, maybe the same one again, maybe in a tab that stays behind.
     void OnOpened(DocumentType type);
     /// The skinned mesh was posed by the animation that came after it: if its view stands as it was framed
@@ -78,6 +76,8 @@ public slots:
     void OnPosed();
     void OnSaved(DocumentType type);
     void OnOptionsAccepted();
+    /// Numbers of the game may be called otherwise.
+    void OnNamesChanged();
     void on_tabWidget_currentChanged();
     void on_tabTrees_currentChanged(int index);
 
@@ -88,6 +88,8 @@ signals:
     void told(const QString &text);
 
 private:
+    /// What bones and animations are called has changed.
+    void showNames();
     const DocumentPane &pane(DocumentType type) const { return m_panes[size_t(type)]; }
     void connectPane(const DocumentPane &pane);
     void connectPlayback();

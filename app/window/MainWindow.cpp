@@ -203,7 +203,7 @@ void MainWindow::createDocks()
     connect(m_ui->tabDatabase, &DatabaseTab::told, this, &MainWindow::tell);
     connect(m_ui->tabDatabase, &DatabaseTab::namesChanged, m_problems,
             [this] { m_problems->setReferenceIds(ReferenceIds::load()); });
-    connect(m_ui->tabDatabase, &DatabaseTab::namesChanged, m_panes, &DocumentPanes::showNames);
+    connect(m_ui->tabDatabase, &DatabaseTab::namesChanged, m_panes, &DocumentPanes::OnNamesChanged);
     m_ui->dockTable->setDocuments(m_skinnedMesh, m_anim, m_staticMesh,
                                   {m_ui->treeSkinnedMesh, m_ui->treeAnim, m_ui->treeStaticMesh});
     connect(m_ui->dockTable, &TableDock::activated, m_panes, &DocumentPanes::showRecord);

@@ -23,7 +23,10 @@ bool PickTool::release(const ViewInput &input)
     if (input.button != Qt::LeftButton || !std::exchange(m_isClick, false) || input.isDrag())
         return false;
     const HitMarks marks = m_sight.marksAt(input.pressPosition);
-    if (marks.hotPoint != HitMarks::None) {
+    if (m_bonePicked) {
+        if (marks.bone != HitMarks::None)
+            std::exchange(m_bonePicked, {})(marks.bone);
+    } else if (marks.hotPoint != HitMarks::None) {
         m_picked(Kind::HotPoint, marks.hotPoint);
     } else if (marks.bone != HitMarks::None) {
         m_picked(Kind::Bone, marks.bone);

@@ -8,7 +8,7 @@ void ToolChain::complete(ViewInput &input) const
 {
     input.pressPosition = m_pressPosition;
     input.travel = m_travel;
-    input.mouseHeld = cursor() != ViewCursor::Arrow;
+    input.mouseHeld = cursor() > ViewCursor::Cross;
 }
 
 bool ToolChain::offer(ViewInput &input, Offer what)
@@ -83,9 +83,8 @@ void ToolChain::leave()
 
 ViewCursor ToolChain::cursor() const
 {
-    for (const auto &tool : m_tools) {
-        if (tool->cursor() != ViewCursor::Arrow)
-            return tool->cursor();
-    }
-    return ViewCursor::Arrow;
+    ViewCursor shown = ViewCursor::Arrow;
+    for (const auto &tool : m_tools)
+        shown = std::max(shown, tool->cursor());
+    return shown;
 }

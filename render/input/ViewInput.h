@@ -35,5 +35,5 @@ struct ViewInput
     // Of the press before.
     QPoint pressPosition;
     int travel = 0;         ///< pixels that the hand has moved since
-    bool mouseHeld = false; ///< a tool shows another cursor than the arrow: the mouse is its own
+    bool mouseHeld = false; ///< a tool's cursor says that the mouse is its own
 };

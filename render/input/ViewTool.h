@@ -6,9 +6,9 @@
 
 struct ViewInput;
 
-/// What the cursor over a view is to be. A captured one is not seen, and is brought back to the middle after
-/// each move.
-enum class ViewCursor { Arrow, ClosedHand, Captured };
+/// What the cursor over a view is to be. A cross aims and holds nothing; a captured one is not seen, and is
+/// brought back to the middle after each move.
+enum class ViewCursor { Arrow, Cross, ClosedHand, Captured };
 
 /// One way of using mouse and keyboard in a view. Knows no window: it changes the camera, or says what it
 /// found, when a `ToolChain` hands it an input.

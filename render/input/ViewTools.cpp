@@ -10,7 +10,7 @@
 ViewTools::ViewTools(Camera &camera, const ViewSight &sight, PickTool::Picked picked,
                      HoverTool::ShowTip showTip)
 {
-    add<PickTool>(sight, std::move(picked));
+    pick = &add<PickTool>(sight, std::move(picked));
     orbit = &add<OrbitTool>(camera, sight);
     flight = &add<FlightTool>(camera);
     hover = &add<HoverTool>(sight, std::move(showTip));

@@ -18,6 +18,7 @@ public:
     ViewTools(Camera &camera, const ViewSight &sight, PickTool::Picked picked, HoverTool::ShowTip showTip);
 
     // Those that can be told something.
+    PickTool *pick;
     OrbitTool *orbit;
     FlightTool *flight;
     HoverTool *hover;

@@ -5,32 +5,16 @@
 #include "EventArguments.h"
 #include "IndexTargets.h"
 #include "NameTables.h"
-#include "Questions.h"
-
-namespace {
-/// Every question, the fitting one (if any) first.
-QStringList questionsAfter(QLatin1String fitting)
-{
-    QStringList questions{Question::Actor,    Question::Animation, Question::Sound, Question::Voice,
-                          Question::Particle, Question::Impact,    Question::Damage};
-    if (!fitting.isNull()) {
-        questions.removeOne(fitting);
-        questions.prepend(fitting);
-    }
-    return questions;
-}
-} // namespace
 
 AnimActionPage::AnimActionPage(ModelDocument<Model> &document, const KVTreeView &tree,
                                const SkinnedMeshDocument &mesh, QWidget *parent)
     : RecordPage(document, tree, tr("Anim %1 - Key Frame Action %2 Properties"), parent)
-    , m_mesh(mesh)
 {
     m_ui.setupUi(this);
     m_ui.cbAnimActionEventType->setNames(eventTypeNames());
 
-    connect(&mesh, &Document::replaced, this, &AnimActionPage::recordShown);
-    connect(&mesh, &Document::recordsChanged, this, &AnimActionPage::recordShown);
+    connect(&mesh, &Document::replaced, this, &AnimActionPage::showNames);
+    connect(&mesh, &Document::recordsChanged, this, &AnimActionPage::showNames);
 
     using Page = AnimActionPage;
     bind(m_ui.cbAnimActionEventType, Fields::ActionEvent, &Page::OnAnimActionEventTypeChanged);
@@ -62,8 +46,18 @@ void AnimActionPage::recordShown()
         return;
     const AnimBlock &block = model().blocks[size_t(index()[0])];
     m_ui.hintAnimActionFrame->setTarget(IndexTargets::actionFrame(block, action->frame));
-    m_ui.hintAnimActionNode->setTarget(IndexTargets::actionBone(block, m_mesh.model(), action->node));
     nameArguments(action->eventType);
+}
+
+QStringList AnimActionPage::questions(QLatin1String fitting) const
+{
+    QStringList questions{Question::Actor,    Question::Animation, Question::Sound, Question::Voice,
+                          Question::Particle, Question::Impact,    Question::Damage};
+    if (!fitting.isNull()) {
+        questions.removeOne(fitting);
+        questions.prepend(fitting);
+    }
+    return questions;
 }
 
 void AnimActionPage::nameArguments(int eventType)
@@ -81,7 +75,6 @@ void AnimActionPage::nameArguments(int eventType)
                                     : tr("Argument %1; what it means depends on the event type").arg(i + 1);
         label->setToolTip(toolTip);
         editor->setToolTip(toolTip);
-        Questions::set(editor, questionsAfter(meaning.question));
     }
 }
 

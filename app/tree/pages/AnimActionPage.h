@@ -11,12 +11,14 @@ class AnimActionPage : public RecordPage<Records::BlockAction>
     Q_OBJECT
 
 public:
-    /// `mesh` names the bones; it outlives the page.
+    /// `mesh` names the bones.
     AnimActionPage(ModelDocument<Model> &document, const KVTreeView &tree, const SkinnedMeshDocument &mesh,
                    QWidget *parent = nullptr);
 
 protected:
     void recordShown() override;
+    /// Every one, the fitting one (if any) first.
+    QStringList questions(QLatin1String fitting) const override;
 
 private slots:
     void OnAnimActionEventTypeChanged() { commit(m_ui.cbAnimActionEventType); }
@@ -37,7 +39,6 @@ private:
         FloatSpinBox *editor;
     };
 
-    const SkinnedMeshDocument &m_mesh;
     Ui::AnimActionPage m_ui;
     std::array<Argument, 8> m_arguments{};
 };

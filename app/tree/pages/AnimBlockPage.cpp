@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "AnimBlockPage.h"
 
-#include "EventArguments.h"
 #include "FrameChoice.h"
 #include "IndexTargets.h"
-#include "Questions.h"
 #include "SkinnedMeshCommands.h"
 
 #include <QKeyEvent>
@@ -18,7 +16,6 @@ AnimBlockPage::AnimBlockPage(ModelDocument<Model> &document, const KVTreeView &t
     , m_mesh(mesh)
 {
     m_ui.setupUi(this);
-    Questions::set(m_ui.sbAnimAnimID, {Question::Animation});
     m_ui.sbAnimFrameScale->setSingleStep(0.1);
 
     using Page = AnimBlockPage;
@@ -120,7 +117,6 @@ void AnimBlockPage::recordShown()
         return;
     m_ui.txtAnimName->setEnabled(m_mesh.isOpen());
     m_ui.txtAnimName->setPlaceholderText(m_mesh.isOpen() ? QString() : tr("Open the mesh to name it"));
-    m_ui.hintAnimAnimID->setTarget(IndexTargets::animation(m_mesh.model(), block->animId));
     m_ui.hintAnimLoopFrame->setTarget(IndexTargets::loopFrame(*block, block->loopFrame));
     m_ui.lblAnimFrames->setNum(block->frameCount());
     m_ui.lblAnimBones->setNum(int(block->nodes.size()));

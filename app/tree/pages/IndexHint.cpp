@@ -62,7 +62,7 @@ void IndexHint::paintEvent(QPaintEvent *)
         style()->standardIcon(QStyle::SP_MessageBoxWarning).paint(&painter, icon);
         painter.setPen(warningColor(palette()));
     } else {
-        painter.setPen(palette().color(QPalette::WindowText));
+        painter.setPen(palette().color(m_target.quiet ? QPalette::PlaceholderText : QPalette::WindowText));
     }
     place.setLeft(iconWidth());
     painter.drawText(place, TextFlags, m_target.text);

@@ -10,6 +10,7 @@ struct IndexTarget
     QString text;
     bool missing = false; ///< it points nowhere
     QString explanation;  ///< the tool tip; the text where it is empty
+    bool quiet = false;   ///< there is nothing to tell, which is no fault
 };
 
 /// Says beside the editor of an index what the index points at, and marks one that points nowhere. Text that
@@ -24,6 +25,7 @@ public:
     void setTarget(const IndexTarget &target);
     QString text() const { return m_target.text; }
     bool isMissing() const { return m_target.missing; }
+    bool isQuiet() const { return m_target.quiet; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "IndexTargets.h"
 
-#include "AnimFile.h"
+#include "EventArguments.h"
 #include "ModelNames.h"
 #include "NameTables.h"
 #include "Records.h"
@@ -10,7 +10,7 @@
 #include <QCoreApplication>
 
 namespace {
-constexpr int NoParent = 0xFF;
+constexpr double StoredDamage = 256.0; ///< of one damage
 constexpr int None = 0xFFFF;
 
 struct Texts
@@ -50,9 +50,8 @@ IndexTarget track(int count, int index, const QString &withoutTrack)
             Texts::tr("The table has no track %1 (%2): %3.")
                 .arg(QString::number(index), range(size_t(count)), withoutTrack)};
 }
-} // namespace
 
-IndexTarget IndexTargets::bone(const SkinnedMesh &mesh, int index)
+IndexTarget boneTarget(const SkinnedMesh &mesh, int index)
 {
     const QString title = boneTitle(mesh, index);
     if (title.isEmpty())
@@ -62,13 +61,7 @@ IndexTarget IndexTargets::bone(const SkinnedMesh &mesh, int index)
     const QString symbol = boneSymbolName(mesh, index);
     return {title, false, title.endsWith(symbol) ? QString() : title + QLatin1String(", ") + symbol};
 }
-
-IndexTarget IndexTargets::parentBone(const SkinnedMesh &mesh, int index)
-{
-    if (index == NoParent && !Records::element(mesh.nodes, index))
-        return {Texts::tr("no parent"), false, {}};
-    return bone(mesh, index);
-}
+} // namespace
 
 IndexTarget IndexTargets::vertex(const SkinnedMesh &mesh, int index)
 {
@@ -87,15 +80,10 @@ IndexTarget IndexTargets::blockBone(const AnimBlock &block, const SkinnedMesh &m
                 Texts::tr("The animation has no bone %1 (%2).")
                     .arg(QString::number(index), range(block.nodes.size()))};
     if (mesh.nodes.size() == block.nodes.size())
-        return bone(mesh, index);
+        return boneTarget(mesh, index);
     return {Texts::tr("%1 of %2 bones").arg(QString::number(index), QString::number(block.nodes.size())),
             false,
             Texts::tr("Open the mesh that the animation belongs to and the bone's name appears here.")};
-}
-
-IndexTarget IndexTargets::actionBone(const AnimBlock &block, const SkinnedMesh &mesh, int index)
-{
-    return index == None ? IndexTarget{Texts::tr("no bone"), false, {}} : blockBone(block, mesh, index);
 }
 
 IndexTarget IndexTargets::actionFrame(const AnimBlock &block, int index)
@@ -114,10 +102,38 @@ IndexTarget IndexTargets::loopFrame(const AnimBlock &block, int index)
     return {Texts::tr("%1 of %2 frames").arg(index).arg(block.frameCount()), false, {}};
 }
 
-IndexTarget IndexTargets::animation(const SkinnedMesh &mesh, int id)
+IndexTarget IndexTargets::named(QLatin1String question, const QString &name, double number)
 {
-    const QString name = animationName(mesh, id);
-    return {name.isEmpty() ? Texts::tr("not in the table") : name, false, {}};
+    if (question.isNull())
+        return {};
+    if (question == Question::Damage)
+        return {Texts::tr("%1 damage").arg(number / StoredDamage), false, {}};
+    if (name.isEmpty())
+        return {Texts::tr("not in the table"), false, {}, true};
+    return {name, false, {}};
+}
+
+IndexTarget IndexTargets::boneOf(Naming naming, const SkinnedMesh &model, const RecordIndex &,
+                                 const SkinnedMesh *, int number)
+{
+    if (naming == Naming::ParentBone && number == NoParentBone && !Records::element(model.nodes, number))
+        return {Texts::tr("no parent"), false, {}};
+    return boneTarget(model, number);
+}
+
+IndexTarget IndexTargets::boneOf(Naming, const AnimFile &model, const RecordIndex &index,
+                                 const SkinnedMesh *mesh, int number)
+{
+    if (number == NoActionBone)
+        return {Texts::tr("no bone"), false, {}};
+    const AnimBlock *block = Records::Block::find(model, index);
+    return block ? blockBone(*block, mesh ? *mesh : SkinnedMesh(), number) : IndexTarget();
+}
+
+IndexTarget IndexTargets::differing(const IndexTarget &shown)
+{
+    return {Texts::tr("values differ"), false,
+            Texts::tr("%1; not so in all selected records").arg(shown.text), true};
 }
 
 IndexTarget IndexTargets::translationTrack(const AnimBlock &block, int index)

@@ -5,9 +5,12 @@
 #include "AxisRow.h"
 #include "LabelDrag.h"
 #include "NumberField.h"
+#include "Shortcuts.h"
 
-#include <QEvent>
+#include <QAction>
+#include <QApplication>
 #include <QFormLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QScrollArea>
 #include <QStyle>
@@ -118,7 +121,18 @@ PageStack::PageStack(QWidget *parent)
     , m_title(new QLabel(this))
     , m_count(new QLabel(this))
     , m_pages(new QStackedWidget(this))
+    , m_choose(addFieldAction("actionFieldChoose", tr("Choose by Name"), Qt::Key_F2))
+    , m_pick(addFieldAction("actionFieldPick", tr("Pick in the View"), Qt::SHIFT + Qt::Key_F2))
 {
+    connect(m_choose, &QAction::triggered, this, [this] {
+        if (FieldName *name = focusedName())
+            name->choose();
+    });
+    connect(m_pick, &QAction::triggered, this, [this] {
+        FieldName *name = focusedName();
+        if (name && name->canPick())
+            setPicking(name);
+    });
     m_title->setObjectName(QStringLiteral("lblPageTitle"));
     QFont bold = m_title->font();
     bold.setBold(true);
@@ -142,6 +156,76 @@ PageStack::PageStack(QWidget *parent)
     m_pages->addWidget(empty);
 }
 
+QAction *PageStack::addFieldAction(const char *id, const QString &text, const QKeySequence &keys)
+{
+    auto *action = new QAction(text, this);
+    action->setShortcut(keys);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    nameShortcut(action, QLatin1String(id), QCoreApplication::translate("QuestionMenu", "Number Fields"), {});
+    addAction(action);
+    return action;
+}
+
+/// The name beside the field that has the keys; null where there is none.
+FieldName *PageStack::focusedName() const
+{
+    for (FieldName *name : findChildren<FieldName *>()) {
+        if (name->editor()->hasFocus())
+            return name;
+    }
+    return nullptr;
+}
+
+/// Lets a bone be picked for a field, or, with null, for none.
+void PageStack::setPicking(FieldName *name)
+{
+    if (name == m_picking)
+        return;
+    const bool picked = m_picking;
+    if (m_picking)
+        m_picking->setPicking(false);
+    m_picking = name;
+    if (name) {
+        name->editor()->setFocus();
+        name->setPicking(true);
+        emit told(tr("Click a bone in the view. Esc gives that up."));
+    }
+    if (picked == bool(name))
+        return;
+    if (name)
+        qApp->installEventFilter(this); // Escape, wherever the keys are
+    else
+        qApp->removeEventFilter(this);
+    emit boneWanted(name);
+}
+
+void PageStack::takeBone(int bone)
+{
+    FieldName *name = m_picking;
+    setPicking(nullptr);
+    if (!name)
+        return;
+    name->take(bone);
+    name->editor()->setFocus();
+}
+
+bool PageStack::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+    if (!m_picking || !isKey || static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)
+        return QWidget::eventFilter(watched, event);
+    event->accept();
+    if (event->type() == QEvent::KeyPress)
+        setPicking(nullptr);
+    return true;
+}
+
+void PageStack::hideEvent(QHideEvent *event)
+{
+    setPicking(nullptr);
+    QWidget::hideEvent(event);
+}
+
 void PageStack::setTree(KVTreeView *tree)
 {
     m_tree = tree;
@@ -161,6 +245,11 @@ void PageStack::addPage(PropertyPage *page)
             makeAxisRow(form, row);
     }
     arrangeForms(*page);
+    for (FieldName *name : page->names()) {
+        name->setActions(m_choose, m_pick);
+        connect(name, &FieldName::pickWanted, this,
+                [this, name](bool on) { setPicking(on ? name : nullptr); });
+    }
     auto *scroll = new QScrollArea(m_pages);
     scroll->setFocusPolicy(Qt::NoFocus); // its editors have the keys
     scroll->setFrameShape(QFrame::NoFrame);

@@ -4,6 +4,7 @@
 
 #include "PropertyPage.h"
 
+#include <QPointer>
 #include <QStackedWidget>
 
 class QLabel;
@@ -21,6 +22,10 @@ public:
     void setTree(KVTreeView *tree);
     void addPage(PropertyPage *page);
 
+    /// The bone that was waited for; see boneWanted().
+    void takeBone(int bone);
+    void giveUpPicking() { setPicking(nullptr); }
+
     /// Shows the current record anew: what it says by numbers may be called otherwise.
     void refresh();
 
@@ -30,15 +35,22 @@ public:
     QSize minimumSizeHint() const override;
 
 signals:
+    /// A click on a bone in the view is waited for, or not any more.
+    void boneWanted(bool on);
     /// Something for the status bar.
     void told(const QString &text);
 
 protected:
     void changeEvent(QEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     /// One of the pages behind the empty one.
     PropertyPage *page(int index) const;
+    QAction *addFieldAction(const char *id, const QString &text, const QKeySequence &keys);
+    FieldName *focusedName() const;
+    void setPicking(FieldName *name);
     void showRecord(const RecordRef &record);
     void showPage(int index);
 
@@ -46,4 +58,7 @@ private:
     QLabel *m_title;
     QLabel *m_count;
     QStackedWidget *m_pages;
+    QAction *m_choose;
+    QAction *m_pick;
+    QPointer<FieldName> m_picking; ///< what a bone is waited for
 };

@@ -25,16 +25,34 @@ void PropertyPage::showRecord(const RecordIndex &index, const QVector<RecordInde
     if (index != m_index)
         leave();
     m_index = index;
+    m_selected = selected;
     m_showsDifferences = false;
-    for (const Binding &binding : qAsConst(m_bindings)) {
+    for (Binding &binding : m_bindings) {
         binding.show();
-        m_showsDifferences |= binding.mark(selected);
+        binding.differs = binding.mark(selected);
+        m_showsDifferences |= binding.differs;
     }
+    showNames();
     recordShown();
+}
+
+void PropertyPage::showNames()
+{
+    for (const Binding &binding : qAsConst(m_bindings)) {
+        if (binding.name)
+            binding.name(m_selected, binding.differs);
+    }
+}
+
+QStringList PropertyPage::questions(QLatin1String fitting) const
+{
+    return fitting.isNull() ? QStringList() : QStringList(fitting);
 }
 
 void PropertyPage::leave()
 {
+    for (FieldName *name : names())
+        name->leave();
     QStringList refusals;
     for (TypingField *field : TypingField::in(*this)) {
         if (field->isRefused())

@@ -4,11 +4,15 @@
 
 #include "Document.h"
 #include "Editors.h"
+#include "EventArguments.h"
 #include "Expression.h"
+#include "FieldName.h"
 #include "Fields.h"
+#include "IndexTargets.h"
 #include "Italics.h"
 #include "KVTreeView.h"
 #include "NumberText.h"
+#include "Questions.h"
 #include "RecordFields.h"
 
 #include <QWidget>
@@ -36,6 +40,9 @@ public:
     /// Whether any value is shown in italics.
     bool showsDifferences() const { return m_showsDifferences; }
 
+    /// Says anew what numbers stand for: it may be called otherwise.
+    void showNames();
+
     /// "Bone 3 Properties".
     QString title() const;
     /// The property of an editor that holds the id of its RecordField.
@@ -43,6 +50,9 @@ public:
 
     /// Gives up what is typed and not stored, and tells what it was: another record is shown next, or none.
     void leave();
+
+    /// Those of its fields whose numbers stand for something.
+    QList<FieldName *> names() const { return findChildren<FieldName *>(); }
 
 signals:
     /// Something for the status bar.
@@ -54,6 +64,8 @@ protected:
 
     /// Called after the editors were filled, for what depends on them.
     virtual void recordShown() {}
+    /// What the context menu of a number offers to ask; `fitting` is what it stands for, null for nothing.
+    virtual QStringList questions(QLatin1String fitting) const;
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -64,6 +76,10 @@ protected:
         std::function<void()> commit;
         /// Marks what in the shown record is not as in all these; gives whether there is any.
         std::function<bool(const QVector<RecordIndex> &)> mark;
+        /// Says what the number stands for that is, or is not, the same in all these; null for one that
+        /// stands for itself.
+        std::function<void(const QVector<RecordIndex> &, bool differs)> name = {};
+        bool differs = false;
     };
     void addBinding(Binding binding);
     /// Takes the value of a bound editor to the document. The whole body of a changed slot.
@@ -74,6 +90,7 @@ private:
     const QString m_title;
     RecordIndex m_index{};
     QVector<Binding> m_bindings;
+    QVector<RecordIndex> m_selected;
     bool m_showsDifferences = false;
 };
 
@@ -120,8 +137,14 @@ protected:
         const auto mark = [this, editor, part](const QVector<RecordIndex> &others) {
             return markEditor<Command>(editor, part, others);
         };
-        addBinding({editor, show, commitEdit, mark});
-        prepare(editor, row);
+        const auto &field = fieldOf(row);
+        Binding binding{editor, show, commitEdit, mark};
+        if constexpr (std::is_base_of_v<NumberField, Editor>) {
+            if (field.naming() != Naming::Nothing)
+                binding.name = naming(editor, field);
+        }
+        addBinding(std::move(binding));
+        prepare(editor, row, field);
         Editors::onEdited(editor, static_cast<Page *>(this), slot);
     }
 
@@ -233,11 +256,56 @@ private:
         edit<Command>(bits, bits.get(editor->value()), macroText);
     }
 
-    template <typename Editor, typename Row>
-    void prepare(Editor *editor, const Row &row)
+    template <typename Row>
+    static const ModelField<Model> &fieldOf(const Row &row)
     {
-        const auto &field =
-            static_cast<const ModelField<Model> &>(*RecordFields::find(RecordType::kind, row.id()));
+        return static_cast<const ModelField<Model> &>(*RecordFields::find(RecordType::kind, row.id()));
+    }
+
+    /// Has what a number stands for said beside its editor, and chosen there.
+    std::function<void(const QVector<RecordIndex> &, bool)> naming(NumberField *editor,
+                                                                   const ModelField<Model> &field)
+    {
+        auto *name = new FieldName(
+            editor, [this, &field] { return choicesOf(field); }, field.namesBones());
+        connect(name, &FieldName::chosen, this, [this, &field](int number) { give(field, double(number)); });
+        return [this, editor, &field, name](const QVector<RecordIndex> &others, bool differs) {
+            if (!record())
+                return;
+            const QLatin1String question = field.question(model(), index());
+            const QStringList asked = questions(question);
+            if (Questions::of(editor) != asked)
+                Questions::set(editor, asked);
+            const double number = std::get<double>(field.value(model(), index()));
+            const IndexTarget target = targetOf(field, question, number);
+            const bool differ = differs || std::any_of(others.begin(), others.end(), [&](const auto &other) {
+                                    return field.question(model(), other) != question;
+                                });
+            name->show(number, differ && !target.text.isEmpty() ? IndexTargets::differing(target) : target,
+                       field.namesBones() || referenceOf(question));
+        };
+    }
+    FieldChoices choicesOf(const ModelField<Model> &field) const
+    {
+        if constexpr (!std::is_same_v<Model, StaticMesh>) {
+            if (field.namesBones())
+                return FieldChoice::bones(field.naming(), model(), index(), namingMesh(m_document));
+        }
+        return FieldChoice::named(field.question(model(), index()), field.range(), namingMesh(m_document));
+    }
+    IndexTarget targetOf(const ModelField<Model> &field, QLatin1String question, double number) const
+    {
+        if constexpr (!std::is_same_v<Model, StaticMesh>) {
+            if (field.namesBones())
+                return IndexTargets::boneOf(field.naming(), model(), index(), namingMesh(m_document),
+                                            int(number));
+        }
+        return IndexTargets::named(question, field.name(model(), index(), namingMesh(m_document)), number);
+    }
+
+    template <typename Editor, typename Row>
+    void prepare(Editor *editor, const Row &row, const ModelField<Model> &field)
+    {
         editor->setProperty(FieldProperty, row.id());
         if constexpr (std::is_same_v<Editor, TextField>) {
             editor->setCheck([&field](const QString &text) {
@@ -258,6 +326,10 @@ private:
                         editAll<typename Row::Command>([&](auto &value) { part.set(value, wanted); }, step);
                     }
                 };
+            }
+            if (auto *name = editor->template findChild<FieldName *>()) {
+                records.choose = [name] { name->choose(); };
+                records.canChoose = [name] { return name->canChoose(); };
             }
             records.calculate = [this, &field](const Expression &expression) {
                 return calculate(field, expression);
@@ -288,6 +360,20 @@ private:
         }
         RecordFields::change(changes, field.stepText(), m_document.editTarget(), *m_document.undoStack());
         return {};
+    }
+
+    /// Gives every selected record this number.
+    void give(const ModelField<Model> &field, double number)
+    {
+        const QString reason = field.range().fit(number, number);
+        if (!reason.isEmpty()) {
+            emit told(reason);
+            return;
+        }
+        QVector<FieldChange> changes;
+        for (const RecordIndex &index : m_tree.selectedRecords(RecordType::kind))
+            changes.append({&field, index, number});
+        RecordFields::change(changes, field.stepText(), m_document.editTarget(), *m_document.undoStack());
     }
 
     /// Gives a vector of every selected record several numbers at once: all of its components, or as many as

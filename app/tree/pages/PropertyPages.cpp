@@ -40,6 +40,7 @@ void addPages(PageStack &stack, SkinnedMeshDocument &document, const KVTreeView 
 
 void addPages(PageStack &stack, AnimDocument &document, const KVTreeView &tree, SkinnedMeshDocument &mesh)
 {
+    document.setNamingMesh(&mesh.model());
     add<AnimFilePage>(stack, document, tree);
     add<AnimBlockPage>(stack, document, tree, mesh);
     add<AnimNodePage>(stack, document, tree, mesh);

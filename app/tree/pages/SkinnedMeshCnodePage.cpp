@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "SkinnedMeshCnodePage.h"
 
-#include "IndexTargets.h"
-
 SkinnedMeshCnodePage::SkinnedMeshCnodePage(ModelDocument<Model> &document, const KVTreeView &tree,
                                            QWidget *parent)
     : RecordPage(document, tree, tr("Bone %1 - Child Bone Index %2 Properties"), parent)
@@ -12,10 +10,4 @@ SkinnedMeshCnodePage::SkinnedMeshCnodePage(ModelDocument<Model> &document, const
 
     using Page = SkinnedMeshCnodePage;
     bind(m_ui.sbCNIIndex, Fields::ChildBone, &Page::OnSkinMeshCnodeChanged);
-}
-
-void SkinnedMeshCnodePage::recordShown()
-{
-    if (const quint16 *child = record())
-        m_ui.hintCNIIndex->setTarget(IndexTargets::bone(model(), *child));
 }

@@ -13,9 +13,6 @@ class SkinnedMeshCnodePage : public RecordPage<Records::ChildBone>
 public:
     SkinnedMeshCnodePage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent = nullptr);
 
-protected:
-    void recordShown() override;
-
 private slots:
     void OnSkinMeshCnodeChanged() { commit(m_ui.sbCNIIndex); }
 

@@ -2,15 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "SkinnedMeshHPPage.h"
 
-#include "EventArguments.h"
-#include "IndexTargets.h"
-#include "Questions.h"
-
 SkinnedMeshHPPage::SkinnedMeshHPPage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent)
     : RecordPage(document, tree, tr("Hot Point %1 Properties"), parent)
 {
     m_ui.setupUi(this);
-    Questions::set(m_ui.sbHPEffect1, {Question::Particle});
 
     using Page = SkinnedMeshHPPage;
     bindVector<UC_SkinnedMeshHPOrigin, 3, Page>(Fields::HotPointOrigin,
@@ -29,9 +24,7 @@ void SkinnedMeshHPPage::recordShown()
     const SkinnedMeshHotPoint *point = record();
     if (!point)
         return;
-    m_ui.hintHPNodeID->setTarget(IndexTargets::bone(model(), point->nodeId));
     const bool damages = Fields::HotPointDamage.part.get(HotPointEffects::get(*point));
     m_ui.sbHPEffect1->setEnabled(!damages);
     m_ui.lblHPEffect2->setText(damages ? tr("Damage") : tr("Particle Effect &2 ID"));
-    Questions::set(m_ui.sbHPEffect2, {damages ? Question::Damage : Question::Particle});
 }

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "SkinnedMeshNodePage.h"
 
-#include "IndexTargets.h"
 #include "NameTables.h"
 
 SkinnedMeshNodePage::SkinnedMeshNodePage(ModelDocument<Model> &document, const KVTreeView &tree,
@@ -36,9 +35,6 @@ SkinnedMeshNodePage::SkinnedMeshNodePage(ModelDocument<Model> &document, const K
 
 void SkinnedMeshNodePage::recordShown()
 {
-    const SkinnedMeshNode *bone = record();
-    if (!bone)
-        return;
-    m_ui.cbNodeSymbolPart->setNames(bonePartNames(boneSymbol(bone->symbolFlags).type));
-    m_ui.hintNodeParentNode->setTarget(IndexTargets::parentBone(model(), bone->parentNode));
+    if (const SkinnedMeshNode *bone = record())
+        m_ui.cbNodeSymbolPart->setNames(bonePartNames(boneSymbol(bone->symbolFlags).type));
 }

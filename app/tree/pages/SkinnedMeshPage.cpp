@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "SkinnedMeshPage.h"
 
-#include "IndexTargets.h"
-
 SkinnedMeshPage::SkinnedMeshPage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent)
     : RecordPage(document, tree, tr("Skinned Mesh"), parent)
 {
@@ -28,6 +26,4 @@ void SkinnedMeshPage::recordShown()
     const SkinnedMesh &mesh = model();
     m_ui.lblSMVersion->setNum(mesh.version);
     m_ui.lblSMUnknown->setText(QStringLiteral("%1, %2").arg(mesh.unknownA).arg(mesh.unknownB));
-    m_ui.hintSMHTStart->setTarget(IndexTargets::bone(mesh, mesh.headTrackStart));
-    m_ui.hintSMHTEnd->setTarget(IndexTargets::bone(mesh, mesh.headTrackEnd));
 }

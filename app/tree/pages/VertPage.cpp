@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "VertPage.h"
 
-#include "IndexTargets.h"
-
 SkinnedMeshVertPage::SkinnedMeshVertPage(ModelDocument<Model> &document, const KVTreeView &tree,
                                          QWidget *parent)
     : VertPage(document, tree, tr("Place of the vertex in the space of its bone, in game units"), parent)
@@ -21,12 +19,6 @@ SkinnedMeshVertPage::SkinnedMeshVertPage(ModelDocument<Model> &document, const K
                                               {{{m_ui.sbVertUVX, &Page::OnSkinMeshVertUVXChanged},
                                                 {m_ui.sbVertUVY, &Page::OnSkinMeshVertUVYChanged}}});
     bind(m_ui.sbVertNodeIndex, Fields::VertexBone, &Page::OnSkinMeshVertNodeIndexChanged);
-}
-
-void SkinnedMeshVertPage::recordShown()
-{
-    if (const SkinnedMeshVertex *vertex = record())
-        m_ui.hintVertNodeIndex->setTarget(IndexTargets::bone(model(), vertex->nodeIndex));
 }
 
 StaticMeshVertPage::StaticMeshVertPage(ModelDocument<Model> &document, const KVTreeView &tree,

@@ -35,9 +35,6 @@ class SkinnedMeshVertPage : public VertPage<Records::SkinnedVertex>
 public:
     SkinnedMeshVertPage(ModelDocument<Model> &document, const KVTreeView &tree, QWidget *parent = nullptr);
 
-protected:
-    void recordShown() override;
-
 private slots:
     void OnSkinMeshVertPositionXChanged() { commit(m_ui.sbVertPositionX); }
     void OnSkinMeshVertPositionYChanged() { commit(m_ui.sbVertPositionY); }

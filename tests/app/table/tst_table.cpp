@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "CsvPreview.h"
 #include "DelimitedText.h"
+#include "EventArguments.h"
 #include "Hand.h"
 #include "RecordTableView.h"
 #include "SampleModels.h"
@@ -55,6 +56,13 @@ private slots:
         QCOMPARE(view()->model()->headerData(4, Qt::Vertical).toString(), QStringLiteral("1.1"));
         all->click();
         find<QTabWidget>(*m_window, "tabTrees")->setCurrentIndex(1);
+        // What numbers stand for is in their tips: by the mesh that is open, by the event, by nothing.
+        select(*m_window, "treeAnim", {{RecordKind::AnimAction, {1, 0}}});
+        QCOMPARE(column("bone", Qt::ToolTipRole).first(), QString());
+        typeNumber(find<IntSpinBox>(*m_window, "sbAnimActionNode"), 3);
+        QCOMPARE(column("bone", Qt::ToolTipRole).first(), QStringLiteral("3: Left Root"));
+        QCOMPARE(column("arg1", Qt::ToolTipRole).first(), numberName(Question::Sound, 0));
+        QCOMPARE(column("frame", Qt::ToolTipRole).first(), QString());
         select(*m_window, "treeAnim", {{RecordKind::Translations, {1}}});
         const AnimFile file = plainAnim();
         QCOMPARE(view()->model()->rowCount(), 2 * file.blocks[1].frameCount());
@@ -255,11 +263,11 @@ private:
                                 [id](const RecordField *field) { return field->id() == QLatin1String(id); }) -
                    fields.begin());
     }
-    QStringList column(const char *id) const
+    QStringList column(const char *id, int role = Qt::DisplayRole) const
     {
         QStringList texts;
         for (int row = 0; row < view()->model()->rowCount(); ++row)
-            texts << view()->model()->index(row, columnOf(id)).data().toString();
+            texts << view()->model()->index(row, columnOf(id)).data(role).toString();
         return texts;
     }
     void selectCells(const QVector<QPair<int, int>> &cells)

@@ -379,6 +379,53 @@ private slots:
         QVERIFY2(tips.contains("1: Left Root (head)"), qPrintable(tips.values().join('|')));
     }
 
+    void aBoneIsPickedInTheView()
+    {
+        SkinnedMesh mesh = triangleMan();
+        mesh.hotPoints.resize(2);
+        mesh.hotPoints[0].nodeId = 1;
+        ShownWindow window({m_files->save("man.skinnedmesh", mesh)});
+        const RecordRef hotPoint{RecordKind::HotPoint, {0}};
+        select(window, "treeSkinnedMesh", {hotPoint});
+        const auto *tree = find<KVTreeView>(window, "treeSkinnedMesh");
+        auto *view = find<KVOpenGLWidget>(window, "viewSkinned");
+        view->setShowHotPoints(true); // which lie over the bones
+        auto *pick = find<QToolButton>(window, "btnPickHPNodeID");
+        auto *bone = find<IntSpinBox>(window, "sbHPNodeID");
+        const auto *hint = find<IndexHint>(window, "hintHPNodeID");
+        const auto waits = [&] {
+            return pick->isChecked() && hint->text() == "click a bone" &&
+                   view->cursor().shape() == Qt::CrossCursor;
+        };
+        auto *step = find<QAction>(window, "actionUndo");
+
+        // A click on no bone changes nothing, neither does giving up: with Esc, or on another page.
+        QTest::mouseClick(pick, Qt::LeftButton);
+        QVERIFY(waits());
+        QTest::mouseClick(view, Qt::LeftButton, {}, {3, 3});
+        QVERIFY(waits() && tree->currentRecord() == hotPoint);
+        QTest::keyClick(view, Qt::Key_Escape);
+        QVERIFY(!pick->isChecked() && view->cursor().shape() == Qt::ArrowCursor);
+        QCOMPARE(hint->text(), QString("1: Left Root"));
+        QTest::mouseClick(pick, Qt::LeftButton);
+        select(window, "treeSkinnedMesh", {{RecordKind::HotPoint, {1}}});
+        QVERIFY(!waits() && !step->isEnabled());
+        select(window, "treeSkinnedMesh", {hotPoint});
+
+        bone->setFocus();
+        QTest::keyClick(bone, Qt::Key_F2, Qt::ShiftModifier);
+        QVERIFY(waits());
+        view->grabFramebuffer();
+        for (QPoint at(view->width() / 2, 0); waits() && at.y() < view->height(); at.ry() += 3)
+            QTest::mouseClick(view, Qt::LeftButton, {}, at);
+        QVERIFY(!pick->isChecked() && step->isEnabled());
+        QCOMPARE(bone->value(), 0);
+        QCOMPARE(hint->text(), QString("0: Left Root"));
+        QVERIFY(bone->hasFocus() && tree->currentRecord() == hotPoint);
+        step->trigger();
+        QCOMPARE(bone->value(), 1);
+    }
+
     void numbersAreCalledTheSameEverywhere()
     {
         AnimFile anim = twoBlocks();

@@ -304,6 +304,21 @@ void tst_ViewTools::clicksAndTips()
             QVERIFY2(hand.told == told, words);
         }
     }
+
+    // Somebody waits for a bone: clicks hit nothing else, drags are as ever, and it is told once.
+    Hand aims;
+    int picked = 0;
+    aims.tools.pick->waitForBone([&](int bone) {
+        picked += bone;
+        QVERIFY(aims.tools.cursor() == ViewCursor::Arrow);
+    });
+    QVERIFY(aims.tools.cursor() == ViewCursor::Cross);
+    aims.play("@20,0 L l @40,0 L l @0,0 L l @10,0 L . 6,4 l");
+    QVERIFY(picked == 0 && aims.told.empty() && aims.tools.cursor() == ViewCursor::Cross);
+    aims.play("@10,0 L l");
+    QVERIFY(picked == 3 && aims.told.empty());
+    aims.play("@10,0 L l");
+    QVERIFY(picked == 3 && aims.told == "b3 ");
     QCOMPARE(Hand("@30,0 L . 5,4 l @40,0 L l").nothing, 1);
     QCOMPARE(Hand("@30,0 R r @30,0 L . 6,4 l @30,0 alt L l").nothing, 0);
     QVERIFY(Hand("@40,0 L 50,0 l").told == "s7 "); // the cursor was on its way to the middle

@@ -180,7 +180,7 @@ private:
                 records << static_cast<RecordItem *>(parent->child(i))->record();
             pane.select(records);
             for (const IndexHint *hint : pane.page()->template findChildren<IndexHint *>())
-                QVERIFY2(!hint->text().isEmpty(), qPrintable(hint->objectName()));
+                QVERIFY2(hint->isHidden() || !hint->text().isEmpty(), qPrintable(hint->objectName()));
             for (QWidget *editor : editorsOf(pane.page())) {
                 const QString name = editor->objectName();
                 QVERIFY2(!editor->toolTip().isEmpty(), qPrintable(name));

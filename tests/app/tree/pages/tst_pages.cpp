@@ -480,7 +480,7 @@ private:
             QVERIFY2(!scroll->horizontalScrollBar()->maximum(), qPrintable(pane.page()->objectName()));
             for (const QWidget *child : pane.page()->template findChildren<QWidget *>()) {
                 const QByteArray name = child->objectName().toUtf8();
-                if (name.isEmpty() || name.startsWith("qt_"))
+                if (name.isEmpty() || name.startsWith("qt_") || child->isHidden())
                     continue;
                 QVERIFY2(child->parentWidget()->rect().contains(child->geometry()), name);
                 const int height = child->hasHeightForWidth() ? child->heightForWidth(child->width())

@@ -28,9 +28,6 @@ public:
     /// order, in any case; letters that stand together or begin a word count more.
     static int fit(const QString &typed, const QString &name);
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
     struct Command
     {

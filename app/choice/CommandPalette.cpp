@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "CommandPalette.h"
 
+#include "ListKeys.h"
 #include "Shortcuts.h"
 
 #include <QAction>
-#include <QCoreApplication>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -67,7 +66,6 @@ CommandPalette::CommandPalette(const QMenuBar &menus, const QList<QAction *> &tr
     m_line->setPlaceholderText(tr("What to do: a few letters of its name"));
     m_line->setAccessibleName(tr("Command"));
     m_line->setClearButtonEnabled(true);
-    m_line->installEventFilter(this);
     m_list->setObjectName(QStringLiteral("listCommands"));
     m_list->setAccessibleName(tr("Commands"));
     m_list->setUniformItemSizes(true);
@@ -81,6 +79,7 @@ CommandPalette::CommandPalette(const QMenuBar &menus, const QList<QAction *> &tr
     collect(menus.actions(), {});
     collect(treeActions, tr("Tree") + Arrow);
     connect(m_line, &QLineEdit::textChanged, this, &CommandPalette::fill);
+    connect(new ListKeys(m_line, m_list), &ListKeys::accepted, this, &CommandPalette::accept);
     connect(m_list, &QListWidget::itemActivated, this, &CommandPalette::accept);
     fill();
     m_line->setFocus();
@@ -196,26 +195,6 @@ void CommandPalette::fill()
             break;
         }
     }
-}
-
-bool CommandPalette::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched == m_line && event->type() == QEvent::KeyPress) {
-        switch (static_cast<QKeyEvent *>(event)->key()) {
-        case Qt::Key_Up:
-        case Qt::Key_Down:
-        case Qt::Key_PageUp:
-        case Qt::Key_PageDown:
-            return QCoreApplication::sendEvent(m_list, event);
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            accept();
-            return true;
-        default:
-            break;
-        }
-    }
-    return QDialog::eventFilter(watched, event);
 }
 
 void CommandPalette::accept()

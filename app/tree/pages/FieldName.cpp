@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "FieldName.h"
+
+#include "ChoicePopup.h"
+#include "Icons.h"
+#include "NameRow.h"
+#include "NumberField.h"
+#include "Shortcuts.h"
+
+#include <QAction>
+#include <QFormLayout>
+#include <QToolButton>
+
+FieldName::FieldName(NumberField *editor, Choices choices, bool isBone)
+    : QObject(editor)
+    , m_editor(editor)
+    , m_choices(std::move(choices))
+    , m_hint(new IndexHint(editor->parentWidget()))
+{
+    const QString name = editor->objectName().mid(2); // behind "sb"
+    m_hint->setObjectName(QStringLiteral("hint") + name);
+    auto *form = static_cast<QFormLayout *>(editor->parentWidget()->layout());
+    int line = 0;
+    QFormLayout::ItemRole role{};
+    form->getWidgetPosition(editor, &line, &role);
+    form->removeWidget(editor);
+    auto *row = new NameRow;
+    row->addWidget(editor);
+    row->addWidget(m_hint);
+    const auto addButton = [&](const QString &objectName, const char *icon, const QString &does) {
+        auto *button = new QToolButton(editor->parentWidget());
+        button->setObjectName(objectName + name);
+        button->setIcon(namedIcon(QLatin1String(icon)));
+        button->setAutoRaise(true);
+        button->setFocusPolicy(Qt::NoFocus); // a key of the field does the same
+        button->setAccessibleName(does);
+        row->addWidget(button);
+        return button;
+    };
+    m_button = addButton(QStringLiteral("btnChoose"), "search", tr("Choose by Name"));
+    connect(m_button, &QToolButton::clicked, this, &FieldName::choose);
+    if (isBone) {
+        m_pick = addButton(QStringLiteral("btnPick"), "pickbone", tr("Pick in the View"));
+        m_pick->setCheckable(true);
+        connect(m_pick, &QToolButton::clicked, this, &FieldName::pickWanted);
+    }
+    form->setLayout(line, role, row);
+}
+
+void FieldName::show(double number, const IndexTarget &target, bool isChoice)
+{
+    m_number = number;
+    m_target = target;
+    m_hint->setVisible(!target.text.isEmpty());
+    m_button->setVisible(isChoice);
+    setPicking(m_pick && m_pick->isChecked());
+}
+
+bool FieldName::canChoose() const
+{
+    return !m_button->isHidden() && m_editor->isEnabled();
+}
+
+void FieldName::choose()
+{
+    if (!canChoose() || (m_popup && m_popup->isVisible()))
+        return;
+    m_editor->setFocus(Qt::OtherFocusReason);
+    const FieldChoices found = m_choices();
+    m_popup = new ChoicePopup(found.title, new ChoiceList(found.choices, true, nullptr), m_number, m_editor);
+    connect(m_popup, &ChoicePopup::chosen, this, &FieldName::take);
+    m_popup->popUp(m_button->geometry().right() + 1 - m_editor->x());
+}
+
+bool FieldName::canPick() const
+{
+    return m_pick && m_editor->isEnabled();
+}
+
+void FieldName::setPicking(bool on)
+{
+    if (m_pick)
+        m_pick->setChecked(on);
+    m_hint->setTarget(
+        on ? IndexTarget{tr("click a bone"), false, tr("Click a bone in the view; Esc gives that up"), true}
+           : m_target);
+}
+
+void FieldName::take(int number)
+{
+    m_editor->discardText();
+    emit chosen(number);
+}
+
+void FieldName::leave()
+{
+    if (m_popup)
+        m_popup->close();
+    if (m_pick && m_pick->isChecked())
+        emit pickWanted(false);
+}
+
+void FieldName::setActions(const QAction *choose, const QAction *pick)
+{
+    const auto tellKeys = [this](QToolButton *button, const QAction *action) {
+        const auto show = [button, action] {
+            button->setToolTip(withKeys(button->accessibleName(), action));
+        };
+        connect(action, &QAction::changed, this, show);
+        show();
+    };
+    tellKeys(m_button, choose);
+    if (m_pick)
+        tellKeys(m_pick, pick);
+}

@@ -1,0 +1,267 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+
+// What numbers stand for is said beside their editors, and chosen there.
+#include "ChoicePopup.h"
+#include "EventArguments.h"
+#include "IndexHint.h"
+#include "Panes.h"
+
+#include <limits>
+
+using namespace SampleModels;
+
+namespace {
+AnimAction actionOf(int event, float first, float second = 0.0f)
+{
+    AnimAction action;
+    action.eventType = quint16(event);
+    action.args = {first, second};
+    return action;
+}
+
+ChoicePopup *popup()
+{
+    return qobject_cast<ChoicePopup *>(QApplication::activePopupWidget());
+}
+
+/// "ID NAME" of the rows of the popup, blanks at their ends left out.
+QStringList shownChoices()
+{
+    QStringList rows;
+    const auto *list = find<QTreeView>(*popup(), "listChoices");
+    for (int row = 0; row < list->model()->rowCount(); ++row)
+        rows << list->model()->index(row, 0).data().toString() + ' ' +
+                    list->model()->index(row, 1).data().toString();
+    return rows;
+}
+
+QString currentChoice()
+{
+    return find<QTreeView>(*popup(), "listChoices")->currentIndex().siblingAtColumn(0).data().toString();
+}
+} // namespace
+
+class tst_FieldNames : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { TestSupport::useSettingsHome(m_home); }
+
+    void everyIdHasItsName()
+    {
+        Panes panes;
+        SkinnedMesh mesh = plainMesh();
+        mesh.animationNames = {{200, QStringLiteral("wave")}};
+        mesh.hotPoints.resize(2);
+        mesh.hotPoints[0].particleEffect1 = 1;
+        mesh.hotPoints[0].particleEffect2 = 60000;
+        mesh.hotPoints[1].particleEffect1 = 65535;
+        mesh.hotPoints[1].particleEffect2 = 16384;
+        panes.mesh.open(mesh);
+        AnimFile file = plainAnim();
+        file.blocks.resize(2);
+        file.blocks[0].animId = 100;
+        file.blocks[1].animId = 200;
+        file.blocks[0].actions = {
+            actionOf(0, 10),        actionOf(8, 1),
+            actionOf(2, 30, 16384), actionOf(28, 1),
+            actionOf(29, 99999, 4), actionOf(30, 310),
+            actionOf(22, 310),      actionOf(0, std::numeric_limits<float>::quiet_NaN())};
+        panes.anim.open(file);
+
+        const struct
+        {
+            RecordRef record;
+            const char *hint;
+            const char *text; ///< empty: none
+            bool quiet;
+            bool choosable;
+        } rows[] = {
+            {{RecordKind::HotPoint, {0}}, "HPEffect1", "Unnamed_Particle_1.particle", false, true},
+            {{RecordKind::HotPoint, {0}}, "HPEffect2", "not in the table", true, true},
+            {{RecordKind::HotPoint, {1}}, "HPEffect1", "", false, false},
+            {{RecordKind::HotPoint, {1}}, "HPEffect2", "64 damage", false, false},
+            {{RecordKind::HotPoint, {1}}, "HPNodeID", "0: Left Root", false, true},
+            {{RecordKind::AnimBlock, {0}}, "AnimAnimID", "Unnamed animation 100", false, true},
+            {{RecordKind::AnimBlock, {1}}, "AnimAnimID", "wave", false, true},
+            {{RecordKind::AnimAction, {0, 0}}, "AnimActionArg1", "Ambient Explosion 1", false, true},
+            {{RecordKind::AnimAction, {0, 0}}, "AnimActionArg2", "", false, false},
+            {{RecordKind::AnimAction, {0, 1}}, "AnimActionArg1", "Unnamed_Particle_1.particle", false, true},
+            {{RecordKind::AnimAction, {0, 2}}, "AnimActionArg1", "", false, false},
+            {{RecordKind::AnimAction, {0, 2}}, "AnimActionArg2", "64 damage", false, false},
+            {{RecordKind::AnimAction, {0, 3}}, "AnimActionArg1", "Unnamed actor 1", false, true},
+            {{RecordKind::AnimAction, {0, 4}}, "AnimActionArg1", "not in the table", true, true},
+            {{RecordKind::AnimAction, {0, 4}}, "AnimActionArg2", "Flesh", false, true},
+            {{RecordKind::AnimAction, {0, 5}}, "AnimActionArg1", "Unnamed voice 310", false, true},
+            {{RecordKind::AnimAction, {0, 6}}, "AnimActionArg1", "", false, false},
+            {{RecordKind::AnimAction, {0, 7}}, "AnimActionArg1", "not in the table", true, true},
+        };
+        for (const auto &row : rows) {
+            const bool ofMesh = row.record.kind == RecordKind::HotPoint;
+            (ofMesh ? panes.mesh.tree : panes.anim.tree).selectRecords({row.record}, row.record);
+            const QWidget *page = ofMesh ? panes.mesh.page() : panes.anim.page();
+            const auto *hint = find<IndexHint>(*page, QByteArray("hint") + row.hint);
+            const auto *button = find<QToolButton>(*page, QByteArray("btnChoose") + row.hint);
+            QCOMPARE(hint->isHidden() ? QString() : hint->text(), QString::fromLatin1(row.text));
+            QVERIFY2(hint->isHidden() || hint->isQuiet() == row.quiet, row.hint);
+            QCOMPARE(!button->isHidden(), row.choosable);
+        }
+
+        // Where several are selected: the same number, another one, and the same that means something else.
+        const auto says = [&](const QVector<RecordRef> &records, const char *text) {
+            panes.anim.select(records);
+            const auto *hint = panes.anim.child<IndexHint>("hintAnimActionArg1");
+            QCOMPARE(hint->text(), QString::fromLatin1(text));
+            QCOMPARE(hint->toolTip(), text == QByteArray("values differ")
+                                          ? QString("Unnamed actor 1; not so in all selected records")
+                                          : QString::fromLatin1(text));
+        };
+        const RecordRef actor{RecordKind::AnimAction, {0, 3}};
+        says({actor}, "Unnamed actor 1");
+        says({actor, {RecordKind::AnimAction, {0, 0}}}, "values differ");
+        says({actor, {RecordKind::AnimAction, {0, 1}}}, "values differ");
+        // Another event, another table.
+        panes.anim.select({actor});
+        QTest::keyClick(panes.anim.child<QWidget>("cbAnimActionEventType"), Qt::Key_Home);
+        QCOMPARE(panes.anim.child<IndexHint>("hintAnimActionArg1")->text(), numberName(Question::Sound, 1));
+        panes.anim.undo().undo();
+        says({actor}, "Unnamed actor 1");
+    }
+
+    void choosesForAllThatAreSelected()
+    {
+        Panes panes;
+        AnimFile file = plainAnim();
+        file.blocks[0].actions = {actionOf(0, 10), actionOf(0, 11), actionOf(0, 11)};
+        panes.anim.open(file);
+        panes.anim.select({{RecordKind::AnimAction, {0, 0}}, {RecordKind::AnimAction, {0, 1}}});
+        auto *field = panes.anim.child<FloatSpinBox>("sbAnimActionArg1");
+        enter(panes.anim.stack, field);
+        const auto &actions = panes.anim.document.model().blocks[0].actions;
+
+        // Nothing is changed by looking, typing and giving up; what is typed in the field stays.
+        QTest::keyClicks(field, QStringLiteral("7"));
+        QTest::keyClick(field, Qt::Key_F2);
+        QVERIFY(popup());
+        QCOMPARE(currentChoice(), QStringLiteral("10"));
+        const int all = shownChoices().size();
+        QTest::keyClicks(line(), QStringLiteral("explosion"));
+        QVERIFY(shownChoices().size() > 0 && shownChoices().size() < all);
+        QTest::keyClick(line(), Qt::Key_Escape);
+        QVERIFY(!popup() && panes.anim.undo().count() == 0);
+        QCOMPARE(shownText(field), QStringLiteral("7"));
+        QTest::keyClick(field, Qt::Key_Escape);
+        QCOMPARE(shownText(field), QStringLiteral("10"));
+
+        // A number is found by how it begins, names by their words in any order and case.
+        QTest::keyClick(field, Qt::Key_F2);
+        QTest::keyClicks(line(), QStringLiteral("11"));
+        QCOMPARE(currentChoice(), QStringLiteral("11"));
+        QTest::keyClick(line(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(line(), QStringLiteral("1 EXPLOSION amb"));
+        QCOMPARE(shownChoices().first(), QStringLiteral("10 Ambient Explosion 1"));
+        QTest::keyClick(line(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(line(), QStringLiteral("no such sound"));
+        QVERIFY(shownChoices().isEmpty());
+        QTest::keyClick(line(), Qt::Key_Return);
+        QVERIFY(popup());
+
+        // One step for all that are selected, also where the first has that number already.
+        QTest::keyClick(line(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(line(), Qt::Key_Delete);
+        QCOMPARE(shownChoices().size(), all);
+        QCOMPARE(currentChoice(), QStringLiteral("10"));
+        QTest::keyClick(line(), Qt::Key_Return);
+        QVERIFY(!popup());
+        QCOMPARE(panes.anim.undo().count(), 1);
+        QCOMPARE(actions[0].args[0] + actions[1].args[0] + actions[2].args[0], 31.0f);
+        panes.anim.undo().undo();
+
+        // By the mouse: the button, a row.
+        QTest::mouseClick(panes.anim.child<QToolButton>("btnChooseAnimActionArg1"), Qt::LeftButton);
+        auto *list = find<QTreeView>(*popup(), "listChoices");
+        QTest::keyClicks(line(), QStringLiteral("12"));
+        const QModelIndex second = list->model()->index(1, 1);
+        const auto number = float(second.siblingAtColumn(0).data().toInt());
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(second).center());
+        QVERIFY(!popup());
+        QCOMPARE(actions[0].args[0], number);
+        QCOMPARE(actions[1].args[0], number);
+        QCOMPARE(actions[2].args[0], 11.0f);
+        QCOMPARE(panes.anim.undo().count(), 1);
+        QCOMPARE(panes.anim.stack.focusWidget(), field);
+
+        // Nothing to choose where numbers stand for themselves.
+        auto *other = panes.anim.child<FloatSpinBox>("sbAnimActionArg2");
+        enter(panes.anim.stack, other);
+        QTest::keyClick(other, Qt::Key_F2);
+        QVERIFY(!popup());
+    }
+
+    void choosesBonesAsTheyHang()
+    {
+        Panes panes;
+        SkinnedMesh mesh = plainMesh();
+        mesh.nodes.resize(4);
+        for (SkinnedMeshNode &node : mesh.nodes)
+            node.childNodes.clear();
+        mesh.nodes[0].childNodes = {2};
+        mesh.nodes[2].childNodes = {1, 0};
+        mesh.nodes[2].name = QStringLiteral("hips");
+        panes.mesh.open(mesh);
+        AnimFile file = plainAnim();
+        file.blocks[0].nodes.resize(4);
+        panes.anim.open(file);
+
+        // With the number for none; a bone that hangs from no other stands at the end.
+        panes.mesh.select({{RecordKind::Bone, {1}}});
+        auto *parent = panes.mesh.child<IntSpinBox>("sbNodeParentNode");
+        enter(panes.mesh.stack, parent);
+        QTest::keyClick(parent, Qt::Key_F2);
+        QCOMPARE(shownChoices(), QStringList({"255 no parent", "0 Left Root", "2    hips",
+                                              "1       Left Root", "3 Left Root"}));
+        QTest::keyClicks(line(), QStringLiteral("hips"));
+        QCOMPARE(shownChoices(), QStringList("2 hips"));
+        QTest::keyClick(line(), Qt::Key_Return);
+        QCOMPARE(int(panes.mesh.document.model().nodes[1].parentNode), 2);
+        QCOMPARE(panes.mesh.child<IndexHint>("hintNodeParentNode")->text(), QStringLiteral("2: hips"));
+
+        panes.anim.select({{RecordKind::AnimAction, {0, 0}}});
+        auto *bone = panes.anim.child<IntSpinBox>("sbAnimActionNode");
+        enter(panes.anim.stack, bone);
+        QTest::keyClick(bone, Qt::Key_F2);
+        QCOMPARE(shownChoices().mid(0, 3), QStringList({"65535 no bone", "0 Left Root", "2    hips"}));
+        QTest::keyClick(line(), Qt::Key_Home, Qt::ControlModifier);
+        // What the popup is about may go.
+        panes.anim.open(file);
+        QVERIFY(!popup());
+
+        // A mesh of other bones does not name them.
+        mesh.nodes.resize(2);
+        panes.mesh.open(mesh);
+        panes.anim.select({{RecordKind::AnimAction, {0, 0}}});
+        enter(panes.anim.stack, bone);
+        QTest::keyClick(bone, Qt::Key_F2);
+        QCOMPARE(shownChoices(), QStringList({"65535 no bone", "0 ", "1 ", "2 ", "3 "}));
+        QTest::keyClick(line(), Qt::Key_Escape);
+    }
+
+private:
+    static QLineEdit *line() { return find<QLineEdit>(*popup(), "lineChoice"); }
+    /// Gives a field the keys.
+    static void enter(QWidget &window, QWidget *field)
+    {
+        window.activateWindow();
+        if (!QTest::qWaitForWindowActive(&window))
+            qFatal("no active window");
+        field->setFocus();
+        QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+    }
+
+    QTemporaryDir m_home;
+};
+
+QTEST_MAIN(tst_FieldNames)
+#include "tst_fieldnames.moc"

@@ -3,6 +3,7 @@
 #include "RecordNotes.h"
 
 #include "AxisAngle.h"
+#include "DocumentModel.h"
 #include "EventArguments.h"
 #include "NameTables.h"
 #include "ReferenceTables.h"
@@ -249,12 +250,6 @@ NoteParts partsOf(const AnimFile &file, const SkinnedMesh *mesh, const RecordRef
         break;
     }
     return note;
-}
-
-template <typename Model>
-const Model &modelOf(const Document &document)
-{
-    return static_cast<const ModelDocument<Model> &>(document).model();
 }
 
 NoteParts partsOf(const Document &document, const RecordRef &record)

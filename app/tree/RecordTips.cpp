@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "RecordTips.h"
 
+#include "DocumentModel.h"
 #include "EventArguments.h"
 #include "NameTables.h"
-#include "RecordFields.h"
 #include "RecordNotes.h"
 #include "RecordTexts.h"
 #include "ReferenceTables.h"
@@ -20,12 +20,6 @@ struct TipTexts
     Q_DECLARE_TR_FUNCTIONS(RecordTips)
 };
 
-template <typename Model>
-const Model &modelIn(const Document &document)
-{
-    return static_cast<const ModelDocument<Model> &>(document).model();
-}
-
 /// What a field's number is called: a choice, a bone, or what a table has for an id. Empty without a name.
 QString valueName(const Document &document, const RecordField &field, const RecordIndex &index, double value)
 {
@@ -34,7 +28,7 @@ QString valueName(const Document &document, const RecordField &field, const Reco
     if (field.type() != RecordField::Type::Switch && !field.names().isEmpty())
         return field.names().value(number);
     if (document.kind().type == DocumentType::SkinnedMesh) {
-        const auto &mesh = modelIn<SkinnedMesh>(document);
+        const auto &mesh = modelOf<SkinnedMesh>(document);
         if (id == QLatin1String("bone") || id == QLatin1String("parent") ||
             id == QLatin1String("headTrackStart") || id == QLatin1String("headTrackEnd"))
             return calledBone(mesh, number);
@@ -46,7 +40,7 @@ QString valueName(const Document &document, const RecordField &field, const Reco
     }
     if (document.kind().type != DocumentType::Anim)
         return {};
-    const auto &file = modelIn<AnimFile>(document);
+    const auto &file = modelOf<AnimFile>(document);
     const SkinnedMesh *mesh = document.namingMesh();
     if (id == QLatin1String("animId"))
         return animationName(mesh ? *mesh : SkinnedMesh(), int(value));
@@ -58,27 +52,10 @@ QString valueName(const Document &document, const RecordField &field, const Reco
     return argument >= 0 ? argumentName(action->eventType, argument, float(value)) : QString();
 }
 
-FieldValue valueOf(const Document &document, const RecordField &field, const RecordIndex &index)
-{
-    const auto in = [&](const auto &model) {
-        using Model = std::decay_t<decltype(model)>;
-        return static_cast<const ModelField<Model> &>(field).value(model, index);
-    };
-    switch (document.kind().type) {
-    case DocumentType::SkinnedMesh:
-        return in(modelIn<SkinnedMesh>(document));
-    case DocumentType::Anim:
-        return in(modelIn<AnimFile>(document));
-    case DocumentType::StaticMesh:
-        break;
-    }
-    return in(modelIn<StaticMesh>(document));
-}
-
 /// A field's value with what it is called: "12 (Left Upper Arm)".
 QString valueText(const Document &document, const RecordField &field, const RecordIndex &index)
 {
-    const FieldValue value = valueOf(document, field, index);
+    const FieldValue value = fieldValue(document, field, index);
     QString text = field.text(value);
     if (const auto *number = std::get_if<double>(&value)) {
         const QString name = valueName(document, field, index, *number);
@@ -98,7 +75,7 @@ QString titleOf(const Document &document, const RecordField &field, const Record
         return title.section(QLatin1Char(' '), 0, -2);
     if (field.kind() != RecordKind::AnimAction || !field.id().startsWith(QLatin1String("arg")))
         return title;
-    const AnimAction *action = Records::BlockAction::find(modelIn<AnimFile>(document), index);
+    const AnimAction *action = Records::BlockAction::find(modelOf<AnimFile>(document), index);
     const QString label =
         action ? eventArgumentLabel(action->eventType, field.id().midRef(3).toInt() - 1) : QString();
     return label.isEmpty() ? title : label;

@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "SimilarMenu.h"
 
-#include "Document.h"
+#include "DocumentModel.h"
 #include "KVTreeView.h"
-#include "RecordFields.h"
 #include "RecordTable.h"
 
 namespace {
@@ -20,26 +19,6 @@ QVector<const RecordField *> comparableFields(RecordKind kind)
             fields += field;
     }
     return fields;
-}
-
-template <typename Model>
-FieldValue valueIn(const Document &document, const RecordField &field, const RecordIndex &index)
-{
-    const auto &model = static_cast<const ModelDocument<Model> &>(document).model();
-    return static_cast<const ModelField<Model> &>(field).value(model, index);
-}
-
-FieldValue valueOf(const Document &document, const RecordField &field, const RecordIndex &index)
-{
-    switch (document.kind().type) {
-    case DocumentType::SkinnedMesh:
-        return valueIn<SkinnedMesh>(document, field, index);
-    case DocumentType::Anim:
-        return valueIn<AnimFile>(document, field, index);
-    case DocumentType::StaticMesh:
-        break;
-    }
-    return valueIn<StaticMesh>(document, field, index);
 }
 } // namespace
 
@@ -63,7 +42,7 @@ void SimilarMenu::fill()
     clear();
     const RecordRef current = m_tree->currentRecord();
     for (const RecordField *field : comparableFields(current.kind)) {
-        const QString value = field->text(valueOf(m_document, *field, current.index));
+        const QString value = field->text(fieldValue(m_document, *field, current.index));
         const QString text =
             QStringLiteral("%1: %2").arg(field->title(), value.isEmpty() ? tr("(empty)") : value);
         QAction *action = addAction(QString(text).replace(QLatin1Char('&'), QLatin1String("&&")));
@@ -77,7 +56,7 @@ void SimilarMenu::select(const RecordField &field)
     const RecordRow *row = recordRow(current.kind);
     if (!row || current.kind != field.kind())
         return;
-    const FieldValue wanted = valueOf(m_document, field, current.index);
+    const FieldValue wanted = fieldValue(m_document, field, current.index);
     // Those of a list of the model, or of the lists of all their owners.
     const RecordKind owner = row->component > 0 ? recordRow(row->parent)->parent : RecordKind::None;
     const int owners = owner == RecordKind::None ? 1 : m_document.recordCount(owner, {});
@@ -87,7 +66,7 @@ void SimilarMenu::select(const RecordField &field)
         const int count = m_document.recordCount(current.kind, index);
         for (int number = 0; number < count; ++number) {
             index[size_t(row->component)] = number;
-            if (index == current.index || valueOf(m_document, field, index) == wanted)
+            if (index == current.index || fieldValue(m_document, field, index) == wanted)
                 similar += RecordRef{current.kind, index};
         }
     }

@@ -143,9 +143,9 @@ void KVOpenGLWidget::replaceModel(bool shown)
     rebuildCopy();
 }
 
-void KVOpenGLWidget::rebuildModel()
+void KVOpenGLWidget::rebuildModel(std::shared_ptr<MeshSource> ready)
 {
-    m_scene.dropReady();
+    m_scene.setReady(std::move(ready));
     rebuildCopy();
 }
 

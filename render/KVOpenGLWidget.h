@@ -41,8 +41,9 @@ public:
     /// model as it is, so that it need not be done now. Selections are forgotten.
     void setSkinnedMesh(const SkinnedMesh *mesh, std::shared_ptr<MeshSource> ready = {});
     void setStaticMesh(const StaticMesh *mesh, std::shared_ptr<MeshSource> ready = {});
-    /// A material, a folder or anything else may have changed: builds the copy with its textures anew.
-    void rebuildModel();
+    /// A material, a folder or anything else may have changed: builds the copy with its textures anew, or of
+    /// what was made `ready` as above.
+    void rebuildModel(std::shared_ptr<MeshSource> ready = {});
     /// Vertices of the model changed. The copy follows once, before the next paint.
     void refreshVertices();
     /// Triangle indexes of the model changed. The copy follows once, before the next paint.

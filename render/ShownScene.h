@@ -49,8 +49,14 @@ public:
     void rebuild();
     /// Lets more of it go to the card; false when all is there.
     bool uploadNext() { return m_painter && m_painter->model().uploadNext(); }
-    /// What came ready does not count any more.
-    void dropReady() { m_ready.reset(); }
+    /// What came ready does not count any more, but this does, if there is any: it was made of the model as
+    /// it is now.
+    void setReady(std::shared_ptr<MeshSource> ready)
+    {
+        m_ready = std::move(ready);
+        if (m_ready)
+            m_verticesChanged = m_indexesChanged = false;
+    }
     /// Lets it follow the model. False when there was nothing to follow.
     bool refresh();
     void applyBackground();

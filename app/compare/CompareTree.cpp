@@ -10,6 +10,8 @@
 #include <QHeaderView>
 #include <QSet>
 
+#include <algorithm>
+
 namespace {
 using Difference = RecordDifference::State;
 
@@ -128,27 +130,23 @@ CompareTree::CompareTree(QWidget *parent)
 QList<QTreeWidgetItem *> CompareTree::itemsOf(const std::vector<RecordDifference> &differences)
 {
     QList<QTreeWidgetItem *> items;
-    RecordKind kind = RecordKind::None;
-    int rows = 0;
-    QVector<FileComparison::Pick> rest;
-    const auto endList = [&] {
-        if (!rest.isEmpty())
-            items += new CompareItem({tr("and %1 more").arg(rest.size()), QString(), QString()}, rest, {});
-        rest.clear();
-        rows = 0;
-    };
-    for (const RecordDifference &each : differences) {
-        if (placeOf(each).kind != kind)
-            endList();
-        kind = placeOf(each).kind;
-        if (++rows > MostRows) {
-            rest += FileComparison::Pick{&each, {}};
-            continue;
+    // Those of one kind stand behind one another.
+    for (auto first = differences.begin(); first != differences.end();) {
+        const auto isSameKind = [kind = placeOf(*first).kind](const RecordDifference &each) {
+            return placeOf(each).kind == kind;
+        };
+        const auto end = std::partition_point(first, differences.end(), isSameKind);
+        const auto count = int(end - first);
+        for (int i = 0; i < std::min(count, MostRows); ++i) {
+            ++m_rows;
+            items += recordItem(first[i]);
         }
-        ++m_rows;
-        items += recordItem(each);
+        if (count > MostRows) {
+            const FileComparison::Pick rest{&first[MostRows], {}, count - MostRows};
+            items += new CompareItem({tr("and %1 more").arg(rest.count), QString(), QString()}, {rest}, {});
+        }
+        first = end;
     }
-    endList();
     return items;
 }
 

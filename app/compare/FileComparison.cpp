@@ -4,6 +4,7 @@
 
 #include "AllCommands.h"
 #include "DocumentLoader.h"
+#include "Log.h"
 #include "Memory.h"
 #include "Patience.h"
 #include "TheirRecords.h"
@@ -40,14 +41,6 @@ std::tuple<int, RecordIndex> turnOf(const RecordDifference &difference)
     return {isInBlock ? 2 : 4, index};
 }
 
-/// A difference as it was known when it was to be taken.
-struct WantedRecord
-{
-    RecordRef mine;
-    RecordRef theirs;
-    QString field;
-};
-
 /// A model that has taken over what another one has.
 template <typename Model>
 struct Merged
@@ -55,10 +48,13 @@ struct Merged
     Model model;
     int taken = 0;
     std::vector<RecordDifference> left; ///< what differs afterwards
+    std::any prepared;                  ///< what is made of a model that is read
+    QVector<LogLine> lines;             ///< what there is to say of that
     QString lack;                       ///< why nothing could be taken
 
-    void merge(const Model &mine, const Model &theirs, const QVector<WantedRecord> &wanted,
-               const Background::Cancelled &cancelled, std::atomic_int &percent)
+    void merge(const Model &mine, const Model &theirs, const QVector<FileComparison::Pick> &wanted,
+               const typename ModelDocument<Model>::Prepare &prepare, const Background::Cancelled &cancelled,
+               std::atomic_int &percent)
     {
         // The list may be a moment behind the model: only what still differs in the same way is taken.
         const std::vector<RecordDifference> now =
@@ -71,9 +67,12 @@ struct Merged
                 all.insert({child.mine, child.theirs}, &child);
         }
         std::vector<std::pair<const RecordDifference *, QString>> current;
-        for (const WantedRecord &each : wanted) {
-            if (const RecordDifference *same = all.value({each.mine, each.theirs}))
-                current.emplace_back(same, each.field);
+        for (const FileComparison::Pick &pick : wanted) {
+            for (const RecordDifference *each = pick.difference; each != pick.difference + pick.count;
+                 ++each) {
+                if (const RecordDifference *same = all.value({each->mine, each->theirs}))
+                    current.emplace_back(same, pick.field);
+            }
         }
         std::stable_sort(current.begin(), current.end(),
                          [](const auto &a, const auto &b) { return turnOf(*a.first) < turnOf(*b.first); });
@@ -86,6 +85,12 @@ struct Merged
         percent = 60;
         if (!cancelled)
             left = ModelComparison::compare(model, theirs, FileComparison::MostTold);
+        percent = 90;
+        if (cancelled || !prepare)
+            return;
+        HeldLog log;
+        prepared = prepare(model, ReadProgress());
+        lines = log.lines;
     }
 };
 } // namespace
@@ -96,6 +101,7 @@ FileComparison::FileComparison(SkinnedMeshDocument &skinnedMesh, AnimDocument &a
     , m_skinnedMesh(skinnedMesh)
     , m_anim(anim)
     , m_staticMesh(staticMesh)
+    , m_differences(std::make_shared<const std::vector<RecordDifference>>())
 {
     m_delay.setSingleShot(true);
     m_delay.setInterval(DelayMs);
@@ -136,9 +142,9 @@ void FileComparison::start(DocumentType type, const QString &path)
 
 void FileComparison::reload()
 {
-    m_theirs = {};
+    Background::discard(std::exchange(m_theirs, {}));
     m_failure.clear();
-    std::vector<RecordDifference> old = std::exchange(m_differences, {});
+    auto old = std::exchange(m_differences, std::make_shared<const std::vector<RecordDifference>>());
     check();
     emit changed();
     Background::discard(std::move(old));
@@ -149,7 +155,7 @@ void FileComparison::end()
     m_work.cancel();
     m_delay.stop();
     m_document = nullptr;
-    m_theirs = {};
+    Background::discard(std::exchange(m_theirs, {}));
     m_failure.clear();
     setDifferences({});
 }
@@ -206,7 +212,8 @@ void FileComparison::checkModel(ModelDocument<Model> &document)
 
 void FileComparison::setDifferences(std::vector<RecordDifference> differences)
 {
-    std::vector<RecordDifference> old = std::exchange(m_differences, std::move(differences));
+    auto old = std::exchange(m_differences,
+                             std::make_shared<const std::vector<RecordDifference>>(std::move(differences)));
     emit changed(); // after which nobody points at the old ones
     Background::discard(std::move(old));
 }
@@ -228,16 +235,14 @@ int FileComparison::takeInto(ModelDocument<Model> &document, const QVector<Pick>
     const auto *known = std::get_if<std::shared_ptr<const Model>>(&m_theirs);
     if (!known || !*known)
         return 0;
-    QVector<WantedRecord> wanted;
-    wanted.reserve(picks.size());
-    for (const Pick &pick : picks)
-        wanted.append({pick.difference->mine, pick.difference->theirs, pick.field});
     const std::shared_ptr<ModelCopy<Model>> mine = document.copy();
     std::atomic_int percent{0};
-    const auto work = [mine, &percent, wanted = std::move(wanted),
+    // The picks point into the list as it is now.
+    const auto work = [mine, &percent, picks, list = m_differences, prepare = document.preparation(),
                        theirs = *known](const Background::Cancelled &cancelled) {
         Merged<Model> merged;
-        merged.lack = withinMemory([&] { merged.merge(mine->get(), *theirs, wanted, cancelled, percent); });
+        merged.lack =
+            withinMemory([&] { merged.merge(mine->get(), *theirs, picks, prepare, cancelled, percent); });
         return merged;
     };
     const QString name = QFileInfo(m_path).fileName();
@@ -253,7 +258,10 @@ int FileComparison::takeInto(ModelDocument<Model> &document, const QVector<Pick>
         check();
         return 0;
     }
+    Log::say(merged->lines);
+    document.setPrepared(std::move(merged->prepared));
     document.undoStack()->push(new Command(document.editTarget(), std::move(merged->model), name));
+    document.setPrepared({});
     m_delay.stop();
     m_work.cancel();
     setDifferences(std::move(merged->left));

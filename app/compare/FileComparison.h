@@ -38,13 +38,15 @@ public:
     bool isRunning() const { return m_work.isRunning(); }
     /// Why the file cannot be compared, for the user; empty when it can.
     QString failure() const { return m_failure; }
-    const std::vector<RecordDifference> &differences() const { return m_differences; }
+    const std::vector<RecordDifference> &differences() const { return *m_differences; }
 
-    /// A difference, and which of its fields; the record whole where it names none.
+    /// A difference, and which of its fields; the record whole where it names none. Or so many differences
+    /// from one on that stand behind one another.
     struct Pick
     {
         const RecordDifference *difference;
         QString field;
+        int count = 1;
     };
     /// Lets the document have what the file has there, as one undo step. Another thread works it out, while
     /// `window` takes no input and soon offers to give up. Returns how many of them could be taken.
@@ -79,7 +81,7 @@ private:
     QString m_ownPath; ///< the document's when the comparison began
     Theirs m_theirs;   ///< null until it was read
     QString m_failure;
-    std::vector<RecordDifference> m_differences;
+    std::shared_ptr<const std::vector<RecordDifference>> m_differences;
     QTimer m_delay;
     Background m_work;
 };

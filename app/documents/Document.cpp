@@ -296,8 +296,7 @@ QString StaticMeshDocument::recordName(const RecordRef &) const
 template <typename Model>
 Document::Reader ModelDocument<Model>::reader(const QString &path) const
 {
-    auto prepare = m_preparation ? m_preparation() : typename LoadedModel<Model>::Prepare();
-    return [path, prepare = std::move(prepare)](ReadProgress &progress) {
+    return [path, prepare = preparation()](ReadProgress &progress) {
         auto file = std::make_shared<LoadedModel<Model>>();
         const QString lack = withinMemory([&] { file->read(path, prepare, progress); });
         if (!lack.isEmpty()) {

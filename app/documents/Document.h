@@ -59,9 +59,10 @@ public:
     using Reader = std::function<std::shared_ptr<LoadedFile>(ReadProgress &)>;
     virtual Reader reader(const QString &path) const = 0;
     void adopt(LoadedFile &file);
-    /// What was made of the model that has just replaced another while its file was read; empty when nothing
-    /// was. For whoever asked for it, once.
+    /// What was made of the model that has just replaced another, while its file was read or an edit of all
+    /// was worked out; empty when nothing was. For whoever asked for it, once.
     std::any takePrepared() { return std::exchange(m_prepared, {}); }
+    void setPrepared(std::any prepared) { m_prepared = std::move(prepared); }
     /// Why the model as it stands cannot be stored in a file at all; empty when it can.
     virtual QString refusal() const = 0;
     /// Writes the model; on success the document has that path and its undo stack is clean. Returns true on
@@ -194,8 +195,10 @@ public:
     Writer writer(const QString &path) override;
     /// What is to be made of each model that is read. Called before, it gives what is then called with the
     /// model in the thread that reads.
-    using Preparation = std::function<typename LoadedModel<Model>::Prepare()>;
+    using Prepare = typename LoadedModel<Model>::Prepare;
+    using Preparation = std::function<Prepare()>;
     void setPreparation(Preparation preparation) { m_preparation = std::move(preparation); }
+    Prepare preparation() const { return m_preparation ? m_preparation() : Prepare(); }
 
     /// The model as it is now; one for all who ask until it changes.
     std::shared_ptr<ModelCopy<Model>> copy()

@@ -328,14 +328,17 @@ void DocumentPanes::OnNamesChanged()
 
 void DocumentPanes::OnStructuresChanged(DocumentType type, const QVector<StructureChange> &changes)
 {
-    const Document &document = *pane(type).document;
+    Document &document = *pane(type).document;
     const bool isWhole = std::any_of(changes.begin(), changes.end(), [&](const StructureChange &change) {
         const RecordKind kind = change.record.kind;
         return kind == document.rootKind() || kind == RecordKind::SkinnedSurface ||
                kind == RecordKind::StaticSurface;
     });
-    if (isWhole)
-        pane(type).viewport->rebuildModel();
+    // An animation poses the mesh that the view shows, and is no part of it.
+    if (isWhole && type == DocumentType::Anim)
+        pane(type).viewport->playbackChanged();
+    else if (isWhole)
+        pane(type).viewport->rebuildModel(preparedView(document));
     OnRecordsChanged(type, {});
 }
 

@@ -6,10 +6,10 @@
 #include "JsonWriter.h"
 
 /// Records of one kind as a text of their own: an object with their list, under the key that a model has it
-/// by.
+/// by. `List` is a list of records, or a table of tracks.
 namespace RecordsJson {
-template <typename Record>
-QByteArray text(const char *key, const std::vector<Record> &records)
+template <typename List>
+QByteArray text(const char *key, const List &records)
 {
     QByteArray text;
     {
@@ -22,9 +22,15 @@ QByteArray text(const char *key, const std::vector<Record> &records)
     return text;
 }
 
+template <typename List, typename = void>
+inline constexpr bool isOfRecords = false;
+template <typename List>
+inline constexpr bool isOfRecords<List, std::void_t<typename List::value_type>> =
+    !std::is_integral_v<typename List::value_type>;
+
 /// Reads that, or the list alone, or one record. The problem has no text when there is none.
-template <typename Record>
-[[nodiscard]] JsonProblem read(const QByteArray &text, const char *key, std::vector<Record> &records)
+template <typename List>
+[[nodiscard]] JsonProblem read(const QByteArray &text, const char *key, List &records)
 {
     JsonReader reader({text.constData(), size_t(text.size())});
     JsonReader first = reader;
@@ -33,10 +39,13 @@ template <typename Record>
         reader = first;
         reader.read(JsonField{}, records);
         reader.expect('}');
-    } else if (!isObject || std::is_integral_v<Record>) {
-        reader.read(JsonField{}, records);
+    } else if constexpr (isOfRecords<List>) {
+        if (isObject)
+            reader.read(JsonField{}, records.emplace_back());
+        else
+            reader.read(JsonField{}, records);
     } else {
-        reader.read(JsonField{}, records.emplace_back());
+        reader.read(JsonField{}, records);
     }
     if (!reader.failed())
         reader.expectEnd();

@@ -5293,6 +5293,130 @@ Hände und Füße (x0.25): %6</translation>
         <source>The clipboard holds %1, not %2.</source>
         <translation>Die Zwischenablage enthält %1, nicht %2.</translation>
     </message>
+    <message>
+        <source>The animations of the mesh are another file and have its bones as they were: change them there, too.</source>
+        <translation>Die Animationen des Meshs stehen in einer anderen Datei und haben seine Knochen wie zuvor: Ändern Sie sie auch dort.</translation>
+    </message>
+    <message>
+        <source>&quot;numbers&quot; was expected: those of the bones.</source>
+        <translation>&quot;numbers&quot; wurde erwartet: die Nummern der Knochen.</translation>
+    </message>
+    <message>
+        <source>The mesh has no bone that these could hang on.</source>
+        <translation>Das Mesh hat keinen Knochen, an dem diese hängen könnten.</translation>
+    </message>
+    <message>
+        <source>A surface of the clipboard has a corner at vertex %1, and the mesh has %2 vertices. Surfaces come without vertices: paste them into the model they were copied of.</source>
+        <translation>Eine Fläche der Zwischenablage hat eine Ecke bei Vertex %1, und das Mesh hat %2 Vertices. Flächen kommen ohne Vertices: Fügen Sie sie in das Modell ein, aus dem sie kopiert wurden.</translation>
+    </message>
+    <message>
+        <source>The last surface stays: the file format keeps no vertices without one.</source>
+        <translation>Die letzte Fläche bleibt: Ohne sie bewahrt das Dateiformat keine Vertices.</translation>
+    </message>
+    <message>
+        <source>Copy Hot Point</source>
+        <translation>Hotpoint kopieren</translation>
+    </message>
+    <message>
+        <source>Paste Hot Point</source>
+        <translation>Hotpoint einfügen</translation>
+    </message>
+    <message>
+        <source>Copy Child Bone</source>
+        <translation>Kindknochen kopieren</translation>
+    </message>
+    <message>
+        <source>Paste Child Bone</source>
+        <translation>Kindknochen einfügen</translation>
+    </message>
+    <message>
+        <source>bones</source>
+        <translation>Knochen</translation>
+    </message>
+    <message>
+        <source>Copy Bone</source>
+        <translation>Knochen kopieren</translation>
+    </message>
+    <message>
+        <source>Paste Bone</source>
+        <translation>Knochen einfügen</translation>
+    </message>
+    <message>
+        <source>surfaces</source>
+        <translation>Flächen</translation>
+    </message>
+    <message>
+        <source>Copy Surface</source>
+        <translation>Fläche kopieren</translation>
+    </message>
+    <message>
+        <source>Paste Surface</source>
+        <translation>Fläche einfügen</translation>
+    </message>
+    <message>
+        <source>Copy Animation</source>
+        <translation>Animation kopieren</translation>
+    </message>
+    <message>
+        <source>Paste Animation</source>
+        <translation>Animation einfügen</translation>
+    </message>
+    <message>
+        <source>translation tracks</source>
+        <translation>Translationsspuren</translation>
+    </message>
+    <message>
+        <source>Copy Translation Track</source>
+        <translation>Translationsspur kopieren</translation>
+    </message>
+    <message>
+        <source>Paste Translation Track</source>
+        <translation>Translationsspur einfügen</translation>
+    </message>
+    <message>
+        <source>rotation tracks</source>
+        <translation>Rotationsspuren</translation>
+    </message>
+    <message>
+        <source>Copy Rotation Track</source>
+        <translation>Rotationsspur kopieren</translation>
+    </message>
+    <message>
+        <source>Paste Rotation Track</source>
+        <translation>Rotationsspur einfügen</translation>
+    </message>
+    <message>
+        <source>Copy Key Frame Action</source>
+        <translation>Keyframe-Aktion kopieren</translation>
+    </message>
+    <message>
+        <source>Paste Key Frame Action</source>
+        <translation>Keyframe-Aktion einfügen</translation>
+    </message>
+    <message>
+        <source>The animation has room for %1 tracks; it would have %2.</source>
+        <translation>Die Animation hat Platz für %1 Spuren; es wären %2.</translation>
+    </message>
+    <message>
+        <source>Bones that followed what was cut keep their initial position: %1.</source>
+        <translation>Knochen, die dem Ausgeschnittenen folgten, behalten ihre Anfangsposition: %1.</translation>
+    </message>
+    <message>
+        <source>Bones that followed what was cut keep their initial rotation: %1.</source>
+        <translation>Knochen, die dem Ausgeschnittenen folgten, behalten ihre Anfangsrotation: %1.</translation>
+    </message>
+    <message>
+        <source>No bone follows the new tracks yet: enter their numbers on the pages of bones.</source>
+        <translation>Noch folgt kein Knochen den neuen Spuren: Geben Sie ihre Nummern auf den Seiten von Knochen ein.</translation>
+    </message>
+    <message>
+        <source>The tracks of the clipboard have %1 keys each, and the animation has %2 frames.</source>
+        <translation>Die Spuren der Zwischenablage haben je %1 Keys, und die Animation hat %2 Frames.</translation>
+    </message>
+    <message>
+        <source>A bone follows track %1, which does not exist, but would then. Correct that first; it is among the problems.</source>
+        <translation>Ein Knochen folgt der Spur %1, die es nicht gibt, dann aber gäbe. Korrigieren Sie das zuerst; es steht unter den Problemen.</translation>
+    </message>
 </context>
 <context>
     <name>RecordFields</name>
@@ -6743,6 +6867,45 @@ So lassen?</translation>
     </message>
 </context>
 <context>
+    <name>Skeleton</name>
+    <message>
+        <source>Bone 0 stays where it is: every pose begins with it.</source>
+        <translation>Knochen 0 bleibt, wo er ist: Mit ihm beginnt jede Pose.</translation>
+    </message>
+    <message>
+        <source>The mesh has more than 255 bones, more than the file can name as parents: which numbers would have to follow cannot be told.</source>
+        <translation>Das Mesh hat mehr als 255 Knochen, mehr als die Datei als Eltern nennen kann: Welche Nummern folgen müssten, ist nicht zu erkennen.</translation>
+    </message>
+    <message>
+        <source>Bone %1 hangs on bone %2. Select it, too, or give it to another bone.</source>
+        <translation>Knochen %1 hängt an Knochen %2. Wählen Sie ihn auch aus, oder hängen Sie ihn an einen anderen.</translation>
+    </message>
+    <message>
+        <source>Bone %1 names bone %2 as its parent. Select it, too, or enter another one.</source>
+        <translation>Knochen %1 nennt Knochen %2 als Elternknochen. Wählen Sie ihn auch aus, oder geben Sie einen anderen ein.</translation>
+    </message>
+    <message>
+        <source>Bone %1 moves vertices (%2). Give them to another bone first.</source>
+        <translation>Knochen %1 bewegt Vertices (%2). Geben Sie sie zuerst einem anderen Knochen.</translation>
+    </message>
+    <message>
+        <source>Hot point %1 is on bone %2. Put it on another bone first, or remove it.</source>
+        <translation>Hotpoint %1 sitzt auf Knochen %2. Setzen Sie ihn zuerst auf einen anderen Knochen, oder entfernen Sie ihn.</translation>
+    </message>
+    <message>
+        <source>The head turns with bone %1. Enter other bones for that on the mesh&apos;s page first.</source>
+        <translation>Der Kopf dreht sich mit Knochen %1. Geben Sie dafür zuerst andere Knochen auf der Seite des Meshs ein.</translation>
+    </message>
+    <message>
+        <source>The game poses %1 bones at most; the mesh would have %2.</source>
+        <translation>Das Spiel bewegt höchstens %1 Knochen; das Mesh hätte %2.</translation>
+    </message>
+    <message>
+        <source>Something in the mesh names bone %1, which does not exist, but would then. Correct that first; it is among the problems.</source>
+        <translation>Etwas im Mesh nennt Knochen %1, den es nicht gibt, dann aber gäbe. Korrigieren Sie das zuerst; es steht unter den Problemen.</translation>
+    </message>
+</context>
+<context>
     <name>SkinnedMeshCnodePage</name>
     <message>
         <source>Child Bone</source>
@@ -7213,16 +7376,8 @@ So lassen?</translation>
         <translation>Hotpoint hinzufügen</translation>
     </message>
     <message>
-        <source>Paste Hot Point</source>
-        <translation>Hotpoint einfügen</translation>
-    </message>
-    <message>
         <source>Remove Hot Point</source>
         <translation>Hotpoint entfernen</translation>
-    </message>
-    <message>
-        <source>Copy Hot Point</source>
-        <translation>Hotpoint kopieren</translation>
     </message>
     <message>
         <source>Copy Bone Flags</source>
@@ -7233,16 +7388,8 @@ So lassen?</translation>
         <translation>Animation hinzufügen</translation>
     </message>
     <message>
-        <source>Paste Animation</source>
-        <translation>Animation einfügen</translation>
-    </message>
-    <message>
         <source>Remove Animation</source>
         <translation>Animation entfernen</translation>
-    </message>
-    <message>
-        <source>Copy Animation</source>
-        <translation>Animation kopieren</translation>
     </message>
     <message>
         <source>Add Key Frame Action</source>
@@ -7323,22 +7470,6 @@ So lassen?</translation>
     <message>
         <source>Fewer frames: the last ones go, with their keys in all tracks. More: the last keys are repeated.</source>
         <translation>Weniger Frames: Die letzten fallen weg, mit ihren Keys in allen Spuren. Mehr: Die letzten Keys werden wiederholt.</translation>
-    </message>
-    <message>
-        <source>Paste Child Bone</source>
-        <translation>Kindknochen einfügen</translation>
-    </message>
-    <message>
-        <source>Copy Child Bone</source>
-        <translation>Kindknochen kopieren</translation>
-    </message>
-    <message>
-        <source>Paste Key Frame Action</source>
-        <translation>Keyframe-Aktion einfügen</translation>
-    </message>
-    <message>
-        <source>Copy Key Frame Action</source>
-        <translation>Keyframe-Aktion kopieren</translation>
     </message>
 </context>
 <context>
@@ -7867,6 +7998,26 @@ Nichts wurde geändert. %2</translation>
     <message>
         <source>Take from %1</source>
         <translation>Aus %1 übernehmen</translation>
+    </message>
+    <message>
+        <source>Translation Tracks</source>
+        <translation>Translationsspuren</translation>
+    </message>
+    <message>
+        <source>Rotation Tracks</source>
+        <translation>Rotationsspuren</translation>
+    </message>
+    <message>
+        <source>Paste Surface</source>
+        <translation>Fläche einfügen</translation>
+    </message>
+    <message>
+        <source>Remove Surface</source>
+        <translation>Fläche entfernen</translation>
+    </message>
+    <message>
+        <source>Bones</source>
+        <translation>Knochen</translation>
     </message>
 </context>
 <context>

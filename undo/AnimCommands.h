@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ExchangeCommand.h"
 #include "FieldCommand.h"
 #include "ReplaceCommand.h"
 #include "StructureCommand.h"
+#include "Tracks.h"
 
 // clang-format off
 #define KORVANE_ANIM_COMMANDS(ROW) \
@@ -33,7 +35,9 @@
     ROW(UC_AnimRemoveAction, RemoveCommand, QT_TRANSLATE_NOOP("UndoCommands", "Remove Key Frame Action"), Records::BlockAction, RecordKind::AnimActions) \
     ROW(UC_AnimBlockAdd, InsertCommand, QT_TRANSLATE_NOOP("UndoCommands", "Add Animation"), Records::Block, RecordKind::AnimFile) \
     ROW(UC_AnimBlockRemove, RemoveCommand, QT_TRANSLATE_NOOP("UndoCommands", "Remove Animation"), Records::Block, RecordKind::AnimFile) \
-    ROW(UC_AnimBlockPaste, InsertCommand, QT_TRANSLATE_NOOP("UndoCommands", "Paste Animation"), Records::Block, RecordKind::AnimFile)
+    ROW(UC_AnimBlockPaste, InsertCommand, QT_TRANSLATE_NOOP("UndoCommands", "Paste Animation"), Records::Block, RecordKind::AnimFile) \
+    ROW(UC_AnimTranslationTracks, ExchangeCommand, QT_TRANSLATE_NOOP("UndoCommands", "Translation Tracks"), Records::Block, TranslationTracks) \
+    ROW(UC_AnimRotationTracks, ExchangeCommand, QT_TRANSLATE_NOOP("UndoCommands", "Rotation Tracks"), Records::Block, RotationTracks)
 // clang-format on
 
 KORVANE_ANIM_COMMANDS(KORVANE_COMMAND)

@@ -4,6 +4,7 @@
 
 #include "FieldCommand.h"
 #include "ReplaceCommand.h"
+#include "StructureCommand.h"
 #include "TransformCommand.h"
 
 // clang-format off
@@ -15,6 +16,8 @@
     ROW(UC_StaticMeshVertPos, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Vertex Position"), Records::StaticVertex, Member<&StaticMeshVertex::position>) \
     ROW(UC_StaticMeshVertNormal, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Vertex Normal"), Records::StaticVertex, Member<&StaticMeshVertex::normal>) \
     ROW(UC_StaticMeshVertUV, FieldCommand, QT_TRANSLATE_NOOP("UndoCommands", "Vertex UV"), Records::StaticVertex, Member<&StaticMeshVertex::uv>) \
+    ROW(UC_StaticMeshAddSurface, InsertCommand, QT_TRANSLATE_NOOP("UndoCommands", "Paste Surface"), Records::StaticSurface, RecordKind::StaticSurfaces) \
+    ROW(UC_StaticMeshRemoveSurface, RemoveCommand, QT_TRANSLATE_NOOP("UndoCommands", "Remove Surface"), Records::StaticSurface, RecordKind::StaticSurfaces) \
     ROW(UC_StaticMeshUpdate, ReplaceCommand, QT_TRANSLATE_NOOP("UndoCommands", "Update from %1"), Records::StaticMeshRoot) \
     ROW(UC_StaticMeshTakeTheirs, ReplaceCommand, QT_TRANSLATE_NOOP("UndoCommands", "Take from %1"), Records::StaticMeshRoot) \
     ROW(UC_StaticMeshRotate, RotateCommand, QT_TRANSLATE_NOOP("UndoCommands", "Rotate Vertices"), Records::StaticMeshRoot) \

@@ -36,7 +36,7 @@ using K = RecordKind;
 constexpr int NoNumber = 0xFFFF; ///< what 16-bit numbers hold for "none"
 constexpr int DealsDamage = 0xFFFF;
 
-struct Texts
+struct NoteTexts
 {
     Q_DECLARE_TR_FUNCTIONS(RecordNotes)
 };
@@ -83,14 +83,14 @@ QString brief(const QVector3D &value)
 QString particleName(int number)
 {
     const QString name = ReferenceTables::shared().name(ReferenceKind::Particles, number);
-    return name.isEmpty() ? Texts::tr("particle %1").arg(number) : name;
+    return name.isEmpty() ? NoteTexts::tr("particle %1").arg(number) : name;
 }
 
 /// The event's name without the number before it.
 QString eventName(int type)
 {
     const QString name = eventTypeNames().value(type);
-    return name.isEmpty() ? Texts::tr("event %1").arg(type) : name.section(QLatin1String(": "), 1);
+    return name.isEmpty() ? NoteTexts::tr("event %1").arg(type) : name.section(QLatin1String(": "), 1);
 }
 
 template <typename Surface>
@@ -100,7 +100,8 @@ void addSurface(NoteParts &note, const Surface *surface)
         return;
     const size_t triangles = surface->triangleIndexes.size() / 3;
     note.addName(surface->materialPath.section(QLatin1Char('/'), -1));
-    note.addFigure(triangles == 1 ? Texts::tr("1 triangle") : Texts::tr("%1 triangles").arg(triangles));
+    note.addFigure(triangles == 1 ? NoteTexts::tr("1 triangle")
+                                  : NoteTexts::tr("%1 triangles").arg(triangles));
 }
 
 NoteParts partsOf(const SkinnedMesh &mesh, const RecordRef &record)
@@ -121,7 +122,7 @@ NoteParts partsOf(const SkinnedMesh &mesh, const RecordRef &record)
         if (const SkinnedMeshHotPoint *point = Records::HotPoint::find(mesh, index)) {
             note.addName(calledBone(mesh, point->nodeId));
             if (point->particleEffect1 == DealsDamage) {
-                note.addFigure(Texts::tr("damage %1").arg(brief(point->particleEffect2 / 256.0)));
+                note.addFigure(NoteTexts::tr("damage %1").arg(brief(point->particleEffect2 / 256.0)));
             } else {
                 note.addName(particleName(point->particleEffect1));
                 if (point->particleEffect2 != NoNumber)
@@ -133,12 +134,12 @@ NoteParts partsOf(const SkinnedMesh &mesh, const RecordRef &record)
         addSurface(note, Records::SkinnedSurface::find(mesh, index));
         break;
     case K::SkinnedTriangleIndex:
-        note.addFigure(Texts::tr("triangle %1").arg(index[1] / 3));
+        note.addFigure(NoteTexts::tr("triangle %1").arg(index[1] / 3));
         break;
     case K::SkinnedVertex:
         if (const SkinnedMeshVertex *vertex = Records::SkinnedVertex::find(mesh, index)) {
             note.addFigure(calledBone(mesh, vertex->nodeIndex));
-            note.addFigure(Texts::tr("at %1").arg(brief(vertex->position)));
+            note.addFigure(NoteTexts::tr("at %1").arg(brief(vertex->position)));
         }
         break;
     default:
@@ -153,10 +154,10 @@ NoteParts partsOf(const StaticMesh &mesh, const RecordRef &record)
     if (record.kind == K::StaticSurface)
         addSurface(note, Records::StaticSurface::find(mesh, record.index));
     else if (record.kind == K::StaticTriangleIndex)
-        note.addFigure(Texts::tr("triangle %1").arg(record.index[1] / 3));
+        note.addFigure(NoteTexts::tr("triangle %1").arg(record.index[1] / 3));
     else if (const StaticMeshVertex *vertex =
                  record.kind == K::StaticVertex ? Records::StaticVertex::find(mesh, record.index) : nullptr)
-        note.addFigure(Texts::tr("at %1").arg(brief(vertex->position)));
+        note.addFigure(NoteTexts::tr("at %1").arg(brief(vertex->position)));
     return note;
 }
 
@@ -164,7 +165,7 @@ void addBone(NoteParts &note, const AnimBlock &block, const SkinnedMesh *mesh, i
 {
     const QString name = calledBone(block, mesh, number);
     if (name.isEmpty())
-        note.addFigure(Texts::tr("bone %1").arg(number));
+        note.addFigure(NoteTexts::tr("bone %1").arg(number));
     else
         note.addName(name);
 }
@@ -186,15 +187,15 @@ void addFollowers(NoteParts &note, const AnimBlock &block, const SkinnedMesh *me
         first = first < 0 ? int(bone) : first;
     }
     if (first < 0)
-        return note.addFigure(Texts::tr("no bone follows it"));
+        return note.addFigure(NoteTexts::tr("no bone follows it"));
     addBone(note, block, mesh, first);
     if (more > 0)
-        note.addFigure(Texts::tr("and %1 more").arg(more));
+        note.addFigure(NoteTexts::tr("and %1 more").arg(more));
 }
 
 void addAction(NoteParts &note, const AnimAction &action, const AnimBlock &block, const SkinnedMesh *mesh)
 {
-    note.addFigure(Texts::tr("frame %1").arg(action.frame));
+    note.addFigure(NoteTexts::tr("frame %1").arg(action.frame));
     note.addName(eventName(action.eventType));
     const QString label = eventArgumentLabel(action.eventType, 0);
     const QString name = argumentName(action.eventType, 0, action.args[0]);
@@ -214,17 +215,17 @@ NoteParts partsOf(const AnimFile &file, const SkinnedMesh *mesh, const RecordRef
         return note;
     switch (record.kind) {
     case K::AnimBlock:
-        note.addFigure(Texts::tr("id %1").arg(block->animId));
+        note.addFigure(NoteTexts::tr("id %1").arg(block->animId));
         note.addName(animationName(mesh ? *mesh : SkinnedMesh(), block->animId));
-        note.addFigure(block->frameCount() == 1 ? Texts::tr("1 frame")
-                                                : Texts::tr("%1 frames").arg(block->frameCount()));
+        note.addFigure(block->frameCount() == 1 ? NoteTexts::tr("1 frame")
+                                                : NoteTexts::tr("%1 frames").arg(block->frameCount()));
         break;
     case K::AnimBone:
         note.addName(calledBone(*block, mesh, index[1]));
         break;
     case K::AnimFrame:
         if (const AnimFrame *frame = Records::BlockFrame::find(file, index); frame && frame->yawOffset != 0)
-            note.addFigure(Texts::tr("yaw %1").arg(brief(double(frame->yawOffset))));
+            note.addFigure(NoteTexts::tr("yaw %1").arg(brief(double(frame->yawOffset))));
         break;
     case K::TranslationTrack:
         addFollowers(note, *block, mesh, &AnimNode::translationIndex, index[1]);
@@ -239,7 +240,7 @@ NoteParts partsOf(const AnimFile &file, const SkinnedMesh *mesh, const RecordRef
     case K::RotationKey:
         if (const QVector4D *key = Records::RotationKey::find(file, index)) {
             const AxisAngle turn = axisAngle(*key);
-            note.addFigure(Texts::tr("%1° about %2").arg(brief(double(turn.degrees)), axisText(turn)));
+            note.addFigure(NoteTexts::tr("%1° about %2").arg(brief(double(turn.degrees)), axisText(turn)));
         }
         break;
     case K::AnimAction:
@@ -283,9 +284,11 @@ QString RecordNotes::text(const RecordRef &record) const
         const int vertices = vertexCount(record.index[0]);
         const int children = m_document.recordCount(K::ChildBone, record.index);
         if (vertices > 0)
-            note.addFigure(vertices == 1 ? Texts::tr("1 vertex") : Texts::tr("%1 vertices").arg(vertices));
+            note.addFigure(vertices == 1 ? NoteTexts::tr("1 vertex")
+                                         : NoteTexts::tr("%1 vertices").arg(vertices));
         if (children > 0)
-            note.addFigure(children == 1 ? Texts::tr("1 child") : Texts::tr("%1 children").arg(children));
+            note.addFigure(children == 1 ? NoteTexts::tr("1 child")
+                                         : NoteTexts::tr("%1 children").arg(children));
     }
     return note.joined(false);
 }
@@ -306,5 +309,17 @@ int RecordNotes::vertexCount(int bone) const
 
 QString noteNames(const Document &document, const RecordRef &record)
 {
-    return partsOf(document, record).joined(true);
+    // Those of the longest lists have figures only.
+    switch (record.kind) {
+    case K::SkinnedVertex:
+    case K::SkinnedTriangleIndex:
+    case K::StaticVertex:
+    case K::StaticTriangleIndex:
+    case K::AnimFrame:
+    case K::TranslationKey:
+    case K::RotationKey:
+        return {};
+    default:
+        return partsOf(document, record).joined(true);
+    }
 }

@@ -3,16 +3,12 @@
 #include "RecordTips.h"
 
 #include "DocumentModel.h"
-#include "EventArguments.h"
-#include "NameTables.h"
 #include "RecordNotes.h"
 #include "RecordTexts.h"
-#include "ReferenceTables.h"
 
 #include <QCoreApplication>
 
 namespace {
-constexpr int NoId = 0xFFFF;     ///< what 16-bit numbers hold for "none"
 constexpr int LongestValue = 80; ///< characters
 
 struct TipTexts
@@ -20,47 +16,39 @@ struct TipTexts
     Q_DECLARE_TR_FUNCTIONS(RecordTips)
 };
 
-/// What a field's number is called: a choice, a bone, or what a table has for an id. Empty without a name.
-QString valueName(const Document &document, const RecordField &field, const RecordIndex &index, double value)
+/// What the number of a field stands for: a choice, a bone, or what a table has for an id; see ModelField.
+QString nameOfNumber(const Document &document, const RecordField &field, const RecordIndex &index,
+                     double number)
 {
-    const QString &id = field.id();
-    const int number = value >= -1 && value <= NoId ? int(value) : -1;
-    if (field.type() != RecordField::Type::Switch && !field.names().isEmpty())
-        return field.names().value(number);
-    if (document.kind().type == DocumentType::SkinnedMesh) {
-        const auto &mesh = modelOf<SkinnedMesh>(document);
-        if (id == QLatin1String("bone") || id == QLatin1String("parent") ||
-            id == QLatin1String("headTrackStart") || id == QLatin1String("headTrackEnd"))
-            return calledBone(mesh, number);
-        const SkinnedMeshHotPoint *point =
-            field.kind() == RecordKind::HotPoint ? Records::HotPoint::find(mesh, index) : nullptr;
-        const bool isParticle = point && point->particleEffect1 != NoId &&
-                                id.startsWith(QLatin1String("effect")) && number != NoId;
-        return isParticle ? ReferenceTables::shared().name(ReferenceKind::Particles, number) : QString();
+    if (!field.names().isEmpty())
+        return field.names().value(int(number));
+    const auto in = [&](const auto &shown) {
+        using Model = std::decay_t<decltype(shown.model())>;
+        return static_cast<const ModelField<Model> &>(field).name(shown.model(), index, namingMesh(shown));
+    };
+    switch (document.kind().type) {
+    case DocumentType::SkinnedMesh:
+        return in(static_cast<const SkinnedMeshDocument &>(document));
+    case DocumentType::Anim:
+        return in(static_cast<const AnimDocument &>(document));
+    case DocumentType::StaticMesh:
+        break;
     }
-    if (document.kind().type != DocumentType::Anim)
-        return {};
-    const auto &file = modelOf<AnimFile>(document);
-    const SkinnedMesh *mesh = document.namingMesh();
-    if (id == QLatin1String("animId"))
-        return animationName(mesh ? *mesh : SkinnedMesh(), int(value));
-    const AnimAction *action =
-        field.kind() == RecordKind::AnimAction ? Records::BlockAction::find(file, index) : nullptr;
-    if (action && id == QLatin1String("bone") && number != NoId)
-        return calledBone(file.blocks[size_t(index[0])], mesh, number);
-    const int argument = action && id.startsWith(QLatin1String("arg")) ? id.midRef(3).toInt() - 1 : -1;
-    return argument >= 0 ? argumentName(action->eventType, argument, float(value)) : QString();
+    return in(static_cast<const StaticMeshDocument &>(document));
 }
 
-/// A field's value with what it is called: "12 (Left Upper Arm)".
+/// A field's value with what it is called: "12: Left Upper Arm", "310 (roar)".
 QString valueText(const Document &document, const RecordField &field, const RecordIndex &index)
 {
     const FieldValue value = fieldValue(document, field, index);
     QString text = field.text(value);
     if (const auto *number = std::get_if<double>(&value)) {
-        const QString name = valueName(document, field, index, *number);
-        if (field.type() == RecordField::Type::Switch)
+        const bool isSwitch = field.type() == RecordField::Type::Switch;
+        const QString name = isSwitch ? QString() : nameOfNumber(document, field, index, *number);
+        if (isSwitch)
             text = *number != 0 ? TipTexts::tr("yes") : TipTexts::tr("no");
+        else if (name.startsWith(text + QLatin1Char(':')))
+            text = name;
         else if (!name.isEmpty())
             text += QStringLiteral(" (%1)").arg(name);
     }

@@ -47,30 +47,24 @@ const std::vector<StructureActions::Offer> &StructureActions::offers()
     // clang-format off
     static const std::vector<Offer> all{
         {R::HotPoints,    Add,        QT_TR_NOOP("Add Hot Point"),              &A::OnActionAddHotPoint},
-        {R::HotPoints,    Paste,      QT_TR_NOOP("Paste Hot Point"),            &A::OnActionPasteHotPoint},
+        {R::HotPoints,    Paste,      nullptr,                                   &A::OnActionPasteHotPoint},
         {R::HotPoint,     Add,        QT_TR_NOOP("Add Hot Point"),              &A::OnActionAddHotPoint},
         {R::HotPoint,     Remove,     QT_TR_NOOP("Remove Hot Point"),           &A::OnActionRemoveHotPoint},
-        {R::HotPoint,     Copy,       QT_TR_NOOP("Copy Hot Point"),             &A::OnActionCopyHotPoint},
-        {R::HotPoint,     Paste,      QT_TR_NOOP("Paste Hot Point"),            &A::OnActionPasteHotPoint},
-        {R::ChildBones,   Paste,      QT_TR_NOOP("Paste Child Bone"),           nullptr},
-        {R::ChildBone,    Copy,       QT_TR_NOOP("Copy Child Bone"),            nullptr},
-        {R::ChildBone,    Paste,      QT_TR_NOOP("Paste Child Bone"),           nullptr},
+        {R::HotPoint,     Copy,       nullptr,                                   &A::OnActionCopyHotPoint},
+        {R::HotPoint,     Paste,      nullptr,                                   &A::OnActionPasteHotPoint},
         {R::SkinnedMesh,  CopyFlags,  QT_TR_NOOP("Copy Bone Flags"),            &A::OnSkinMeshCopyBoneFlags},
         {R::Bones,        CopyFlags,  QT_TR_NOOP("Copy Bone Flags"),            &A::OnSkinMeshCopyBoneFlags},
         {R::Bone,         CopyFlags,  QT_TR_NOOP("Copy Bone Flags"),            &A::OnSkinMeshCopyBoneFlags},
 
         {R::AnimFile,     Add,        QT_TR_NOOP("Add Animation"),              &A::OnActionAddAnimBlock},
-        {R::AnimFile,     Paste,      QT_TR_NOOP("Paste Animation"),            &A::OnActionPasteAnimBlock},
+        {R::AnimFile,     Paste,      nullptr,                                   &A::OnActionPasteAnimBlock},
         {R::AnimBlock,    Add,        QT_TR_NOOP("Add Animation"),              &A::OnActionAddAnimBlock},
         {R::AnimBlock,    Remove,     QT_TR_NOOP("Remove Animation"),           &A::OnActionRemoveAnimBlock},
-        {R::AnimBlock,    Copy,       QT_TR_NOOP("Copy Animation"),             &A::OnActionCopyAnimBlock},
-        {R::AnimBlock,    Paste,      QT_TR_NOOP("Paste Animation"),            &A::OnActionPasteAnimBlock},
+        {R::AnimBlock,    Copy,       nullptr,                                   &A::OnActionCopyAnimBlock},
+        {R::AnimBlock,    Paste,      nullptr,                                   &A::OnActionPasteAnimBlock},
         {R::AnimActions,  Add,        QT_TR_NOOP("Add Key Frame Action"),       &A::OnActionAddAnimAction},
         {R::AnimAction,   Add,        QT_TR_NOOP("Add Key Frame Action"),       &A::OnActionAddAnimAction},
         {R::AnimAction,   Remove,     QT_TR_NOOP("Remove Key Frame Action"),    &A::OnActionRemoveAnimAction},
-        {R::AnimActions,  Paste,      QT_TR_NOOP("Paste Key Frame Action"),     nullptr},
-        {R::AnimAction,   Copy,       QT_TR_NOOP("Copy Key Frame Action"),      nullptr},
-        {R::AnimAction,   Paste,      QT_TR_NOOP("Paste Key Frame Action"),     nullptr},
         {R::AnimFrames,   ChangeSize, QT_TR_NOOP("Change Frame Count…"),       &A::OnActionEditFrameCount},
         {R::Translations, ChangeSize, QT_TR_NOOP("Change Translation Count…"), &A::OnActionEditTranslationCount},
         {R::Rotations,    ChangeSize, QT_TR_NOOP("Change Rotation Count…"),    &A::OnActionEditRotationCount},
@@ -143,22 +137,20 @@ StructureActions::TreeMenu StructureActions::createMenu(Document &document, KVTr
         const auto first = std::find_if(offers().begin(), offers().end(), [&](const Offer &offer) {
             return offer.verb == verb && belongsTo(offer.kind, document.rootKind());
         });
-        if (first == offers().end())
+        if (first == offers().end() && verb != Copy && verb != Paste)
             continue;
         const Look &look = looks[verb];
-        QAction *action = addAction(look.icon, tr(first->text), look.id, look.name);
+        QAction *action = addAction(look.icon, look.name, look.id, look.name);
         action->setShortcut(look.keys);
         connect(action, &QAction::triggered, this,
                 [this, &document, verb] { choose(m_menus[size_t(document.kind().type)], verb); });
         made.verbs[verb] = action;
     }
 
-    if (document.rootKind() != RecordKind::StaticMesh) {
-        made.edits = new RecordEdits(m_skinnedMesh.document, m_anim.document, tree, m_window);
-        connect(made.edits, &RecordEdits::aboutToCut, made.verbs[Copy], &QAction::trigger);
-        made.menu->insertAction(made.verbs[Copy], made.edits->cutAction());
-        made.menu->addActions(made.edits->actions());
-    }
+    made.edits = new RecordEdits(document, tree, m_window);
+    connect(made.edits, &RecordEdits::aboutToCut, made.verbs[Copy], &QAction::trigger);
+    made.menu->insertAction(made.verbs[Copy], made.edits->cutAction());
+    made.menu->addActions(made.edits->actions());
 
     made.menu->addMenu(new SimilarMenu(document, tree));
     made.menu->addSeparator();
@@ -198,9 +190,9 @@ void StructureActions::choose(const TreeMenu &menu, Verb verb)
 {
     const RecordKind kind = menu.tree->currentRecord().kind;
     const Offer *chosen = findOffer(kind, verb);
-    if (!chosen || (verb == Paste && menu.edits->paste(hasCopy(kind))))
+    if (verb == Paste && menu.edits->paste(hasCopy(kind)))
         return;
-    if (chosen->slot)
+    if (chosen)
         (this->*chosen->slot)();
     if (verb == Copy)
         menu.edits->copy();
@@ -210,17 +202,20 @@ void StructureActions::choose(const TreeMenu &menu, Verb verb)
 void StructureActions::updateMenu(const TreeMenu &menu, bool canPasteText) const
 {
     const RecordKind kind = menu.tree->currentRecord().kind;
-    if (menu.edits)
-        menu.edits->update();
+    menu.edits->update();
     for (const Verb verb : {Add, Remove, Copy, Paste, ChangeSize, CopyFlags}) {
         QAction *action = menu.verbs[verb];
         if (!action)
             continue;
         const Offer *offer = findOffer(kind, verb);
-        action->setVisible(offer);
-        action->setEnabled(offer && (verb != Paste || canPasteText || hasCopy(kind)));
-        if (offer)
-            action->setText(tr(offer->text));
+        const QString text = verb == Copy    ? menu.edits->copyText()
+                             : verb == Paste ? menu.edits->pasteText()
+                             : offer         ? tr(offer->text)
+                                             : QString();
+        action->setVisible(!text.isEmpty());
+        action->setEnabled(!text.isEmpty() && (verb != Paste || canPasteText || hasCopy(kind)));
+        if (!text.isEmpty())
+            action->setText(text);
     }
     const RecordItem *item = menu.tree->findItem(menu.tree->currentRecord());
     for (QAction *action : {menu.expand, menu.collapse})

@@ -58,7 +58,8 @@ public slots:
 
 private:
     enum Verb { Add, Remove, Copy, Paste, ChangeSize, CopyFlags, VerbCount };
-    /// What a kind of record offers for a verb, and who does it; for copying and pasting beside RecordEdits.
+    /// What a kind of record offers for a verb, and who does it. Copying and pasting are offered by
+    /// RecordEdits, which also has their texts; who is named here has a buffer of its own.
     struct Offer
     {
         RecordKind kind;
@@ -72,7 +73,7 @@ private:
     {
         KVTreeView *tree = nullptr;
         QMenu *menu = nullptr;
-        RecordEdits *edits = nullptr; ///< null where no list can be edited
+        RecordEdits *edits = nullptr;
         std::array<QAction *, VerbCount> verbs{};
         QAction *expand = nullptr;
         QAction *collapse = nullptr;

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <type_traits>
 
 /// Every command of the program on the records of a model.
@@ -48,9 +49,16 @@ inline constexpr bool isField = false;
 template <typename Command>
 inline constexpr bool isField<Command, std::void_t<typename Command::Field>> = true;
 
+/// Whether the command exchanges a list and all numbers that count in it.
+template <typename Command, typename = void>
+inline constexpr bool isExchange = false;
+template <typename Command>
+inline constexpr bool isExchange<Command, std::void_t<typename Command::State>> = true;
+
 /// Whether the command changes a list: neither a field nor the whole model.
 template <typename Command>
-inline constexpr bool isStructure = !isField<Command> && (indexCount<typename Command::Place> > 0);
+inline constexpr bool isStructure =
+    !isField<Command> && !isExchange<Command> && (indexCount<typename Command::Place> > 0);
 
 template <typename Command>
 constexpr bool isInsertion()
@@ -109,6 +117,28 @@ Vector other(Vector value)
     return value;
 }
 
+/// The bones of a mesh in another order.
+template <typename State>
+State otherState(const SkinnedMesh &mesh, const RecordIndex &)
+{
+    return *State::moved(mesh, {1}, 1).skeleton;
+}
+/// The tracks of a block without the last; or one, where there was none.
+template <typename State>
+State otherState(const AnimFile &file, const RecordIndex &index)
+{
+    const AnimBlock &block = file.blocks[size_t(index[0])];
+    State state(block);
+    std::vector<int> places(static_cast<size_t>(State::table(block).trackCount()));
+    std::iota(places.begin(), places.end(), 0);
+    if (places.empty())
+        places.push_back(-1);
+    else
+        places.pop_back();
+    state.arrange(places, {1, block.frameCount()});
+    return state;
+}
+
 /// A command that changes something at `index`, where a field or a list must be.
 template <typename Command>
 Command *make(EditTarget<typename Command::Model> target, const RecordIndex &index)
@@ -116,6 +146,10 @@ Command *make(EditTarget<typename Command::Model> target, const RecordIndex &ind
     if constexpr (isField<Command>) {
         return new Command(target, index,
                            other(Command::Field::get(*Command::Place::find(target.model(), index))));
+    } else if constexpr (isExchange<Command>) {
+        const RecordRef place{Command::Place::kind, index};
+        return new Command(target, index, otherState<typename Command::State>(target.model(), index), place,
+                           place);
     } else if constexpr (isInsertion<Command>()) {
         const auto &list = *Command::Place::list(target.model(), index);
         return new Command(target, index, list.empty() ? typename Command::Record() : list.back());

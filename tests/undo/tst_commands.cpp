@@ -75,6 +75,12 @@ void checkAt(typename Command::Model model, const RecordIndex &index)
         QCOMPARE(view.structures.last().record, (RecordRef{Place::kind, {}}));
         QCOMPARE(view.structures.last().added, 0);
         QCOMPARE(view.structures.last().select.kind, RecordKind::None);
+    } else if constexpr (isExchange<Command>) {
+        QVERIFY(view.records.isEmpty());
+        QCOMPARE(view.structures.size(), 5);
+        const StructureChange &change = view.structures.last();
+        QCOMPARE(change.record, (RecordRef{Place::kind, index}));
+        QVERIFY(change.added == 0 && change.select == change.record);
     } else if constexpr (isStructure<Command>) {
         QVERIFY(view.records.isEmpty());
         QCOMPARE(view.structures.size(), 5);
@@ -90,7 +96,7 @@ void checkAt(typename Command::Model model, const RecordIndex &index)
     }
 
     // No command merges: the next one is a step of its own.
-    if (!isStructure<Command>) {
+    if (!isStructure<Command> && !isExchange<Command>) {
         stack.push(make<Command>({model, view}, index));
         QCOMPARE(stack.count(), 2);
     }

@@ -194,10 +194,10 @@ private slots:
             return text.toPlainText().replace(QChar(0xa0), QLatin1Char(' ')).simplified();
         };
         QCOMPARE(tip(panes.mesh, {RecordKind::HotPoint, {0}}),
-                 QStringLiteral("0 Position On Bone 1, 2, 3 Bone 1 (<arm>) Deal Damage no Particle Effect 1 "
+                 QStringLiteral("0 Position On Bone 1, 2, 3 Bone 1: <arm> Deal Damage no Particle Effect 1 "
                                 "3 (Unnamed_Particle_3.particle) Particle Effect 2 65535 Flags 5"));
         const QString action = tip(panes.anim, {RecordKind::AnimAction, {0, 0}});
-        QVERIFY2(action.startsWith("0 Event Type 0 (00: Play Sound) Frame 12 Bone 1 (<arm>) Offset 0, 0, 0 "
+        QVERIFY2(action.startsWith("0 Event Type 0 (00: Play Sound) Frame 12 Bone 1: <arm> Offset 0, 0, 0 "
                                    "Sound ID 1 (Unnamed sound 1) Arg 2 0 Arg 3 0"),
                  qUtf8Printable(action));
         QVERIFY(tip(panes.mesh, {RecordKind::SkinnedSurface, {0}}).size() < 100);

@@ -5417,6 +5417,14 @@ Hände und Füße (x0.25): %6</translation>
         <source>A bone follows track %1, which does not exist, but would then. Correct that first; it is among the problems.</source>
         <translation>Ein Knochen folgt der Spur %1, die es nicht gibt, dann aber gäbe. Korrigieren Sie das zuerst; es steht unter den Problemen.</translation>
     </message>
+    <message>
+        <source>So in all animations with as many bones: %1. The mesh is another file: change its bones there, too.</source>
+        <translation>So in allen Animationen mit ebenso vielen Knochen: %1. Das Mesh ist eine andere Datei: Ändern Sie seine Knochen auch dort.</translation>
+    </message>
+    <message>
+        <source>A bone of the clipboard follows track %1, which the animation does not have.</source>
+        <translation>Ein Knochen der Zwischenablage folgt Spur %1, die die Animation nicht hat.</translation>
+    </message>
 </context>
 <context>
     <name>RecordFields</name>
@@ -6903,6 +6911,14 @@ So lassen?</translation>
     <message>
         <source>Something in the mesh names bone %1, which does not exist, but would then. Correct that first; it is among the problems.</source>
         <translation>Etwas im Mesh nennt Knochen %1, den es nicht gibt, dann aber gäbe. Korrigieren Sie das zuerst; es steht unter den Problemen.</translation>
+    </message>
+    <message>
+        <source>Action %1 of animation %2 happens at bone %3. Enter another bone there first.</source>
+        <translation>Aktion %1 von Animation %2 geschieht an Knochen %3. Geben Sie dort zuerst einen anderen Knochen ein.</translation>
+    </message>
+    <message>
+        <source>Action %1 of animation %2 names bone %3, which does not exist, but would then. Correct that first; it is among the problems.</source>
+        <translation>Aktion %1 von Animation %2 nennt Knochen %3, den es nicht gibt, dann aber gäbe. Korrigieren Sie das zuerst; es steht unter den Problemen.</translation>
     </message>
 </context>
 <context>

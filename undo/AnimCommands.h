@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "BlockBones.h"
 #include "ExchangeCommand.h"
 #include "FieldCommand.h"
 #include "ReplaceCommand.h"
@@ -37,6 +38,7 @@
     ROW(UC_AnimBlockRemove, RemoveCommand, QT_TRANSLATE_NOOP("UndoCommands", "Remove Animation"), Records::Block, RecordKind::AnimFile) \
     ROW(UC_AnimBlockPaste, InsertCommand, QT_TRANSLATE_NOOP("UndoCommands", "Paste Animation"), Records::Block, RecordKind::AnimFile) \
     ROW(UC_AnimTranslationTracks, ExchangeCommand, QT_TRANSLATE_NOOP("UndoCommands", "Translation Tracks"), Records::Block, TranslationTracks) \
+    ROW(UC_AnimBones, ExchangeCommand, QT_TRANSLATE_NOOP("UndoCommands", "Bones"), Records::AnimFileRoot, BlockBones) \
     ROW(UC_AnimRotationTracks, ExchangeCommand, QT_TRANSLATE_NOOP("UndoCommands", "Rotation Tracks"), Records::Block, RotationTracks)
 // clang-format on
 

@@ -11,19 +11,19 @@ namespace {
 /// The byte of a parent cannot tell bones from here on from none.
 constexpr size_t MostParents = 255;
 
-struct Texts
+struct SkeletonTexts
 {
     Q_DECLARE_TR_FUNCTIONS(Skeleton)
 };
 
 QString rootStays()
 {
-    return Texts::tr("Bone 0 stays where it is: every pose begins with it.");
+    return SkeletonTexts::tr("Bone 0 stays where it is: every pose begins with it.");
 }
 
 QString tooManyToCount()
 {
-    return Texts::tr(
+    return SkeletonTexts::tr(
         "The mesh has more than 255 bones, more than the file can name as parents: which numbers "
         "would have to follow cannot be told.");
 }
@@ -36,12 +36,14 @@ QString needOf(const SkinnedMesh &mesh, const std::vector<bool> &goes)
         if (goes[b]) {
             for (const quint16 child : mesh.nodes[b].childNodes) {
                 if (child < goes.size() && !goes[child])
-                    return Texts::tr("Bone %1 hangs on bone %2. Select it, too, or give it to another bone.")
+                    return SkeletonTexts::tr(
+                               "Bone %1 hangs on bone %2. Select it, too, or give it to another bone.")
                         .arg(child)
                         .arg(b);
             }
         } else if (isGoing(mesh.nodes[b].parentNode)) {
-            return Texts::tr("Bone %1 names bone %2 as its parent. Select it, too, or enter another one.")
+            return SkeletonTexts::tr(
+                       "Bone %1 names bone %2 as its parent. Select it, too, or enter another one.")
                 .arg(b)
                 .arg(mesh.nodes[b].parentNode);
         }
@@ -53,17 +55,18 @@ QString needOf(const SkinnedMesh &mesh, const std::vector<bool> &goes)
     }
     const auto bone = std::find_if(moved.begin(), moved.end(), [](int count) { return count > 0; });
     if (bone != moved.end())
-        return Texts::tr("Bone %1 moves vertices (%2). Give them to another bone first.")
+        return SkeletonTexts::tr("Bone %1 moves vertices (%2). Give them to another bone first.")
             .arg(QString::number(bone - moved.begin()), QString::number(*bone));
     for (size_t h = 0; h < mesh.hotPoints.size(); ++h) {
         if (isGoing(mesh.hotPoints[h].nodeId))
-            return Texts::tr("Hot point %1 is on bone %2. Put it on another bone first, or remove it.")
+            return SkeletonTexts::tr(
+                       "Hot point %1 is on bone %2. Put it on another bone first, or remove it.")
                 .arg(h)
                 .arg(mesh.hotPoints[h].nodeId);
     }
     for (const int tracked : {mesh.headTrackStart, mesh.headTrackEnd}) {
         if (isGoing(tracked))
-            return Texts::tr(
+            return SkeletonTexts::tr(
                        "The head turns with bone %1. Enter other bones for that on the mesh's page first.")
                 .arg(tracked);
     }
@@ -120,7 +123,7 @@ QString Skeleton::renumber(const std::vector<int> &numbers)
     std::for_each(m_vertexBones.begin(), m_vertexBones.end(), follow);
     if (woken < 0)
         return {};
-    return Texts::tr(
+    return SkeletonTexts::tr(
                "Something in the mesh names bone %1, which does not exist, but would then. Correct that "
                "first; it is among the problems.")
         .arg(woken);
@@ -132,7 +135,7 @@ SkeletonEdit Skeleton::with(const SkinnedMesh &mesh, int at, const std::vector<N
     const int more = int(added.size());
     if (size_t(count + more) > MostBones)
         return {{},
-                Texts::tr("The game poses %1 bones at most; the mesh would have %2.")
+                SkeletonTexts::tr("The game poses %1 bones at most; the mesh would have %2.")
                     .arg(MostBones)
                     .arg(count + more),
                 {}};

@@ -228,6 +228,7 @@ EditedLists editedLists(Document &document)
                                                                                "blocks"));
         add(std::make_unique<PlainList<UC_AnimAddAction, UC_AnimRemoveAction>>(anim, RecordKind::AnimActions,
                                                                                "actions"));
+        add(std::make_unique<BlockBoneList>(anim));
         add(std::make_unique<TrackList<UC_AnimTranslationTracks>>(anim));
         add(std::make_unique<TrackList<UC_AnimRotationTracks>>(anim));
         break;

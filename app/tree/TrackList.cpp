@@ -8,7 +8,6 @@
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <numeric>
 
 namespace {
 struct TrackTexts
@@ -28,13 +27,6 @@ QVector<int> tracksBeside(const QVector<RecordIndex> &records, const RecordIndex
             tracks += index[1];
     }
     return tracks;
-}
-
-std::vector<int> placesOf(int count)
-{
-    std::vector<int> places(static_cast<size_t>(count));
-    std::iota(places.begin(), places.end(), 0);
-    return places;
 }
 } // namespace
 

@@ -123,20 +123,29 @@ State otherState(const SkinnedMesh &mesh, const RecordIndex &)
 {
     return *State::moved(mesh, {1}, 1).skeleton;
 }
-/// The tracks of a block without the last; or one, where there was none.
+/// The tracks of a block without the last, or one where there was none; a bone more in the first blocks.
 template <typename State>
 State otherState(const AnimFile &file, const RecordIndex &index)
 {
-    const AnimBlock &block = file.blocks[size_t(index[0])];
-    State state(block);
-    std::vector<int> places(static_cast<size_t>(State::table(block).trackCount()));
-    std::iota(places.begin(), places.end(), 0);
-    if (places.empty())
+    if constexpr (std::is_same_v<State, BlockBones>) {
+        State state(file, 0);
+        std::vector<int> places(file.blocks[0].nodes.size());
+        std::iota(places.begin(), places.end(), 0);
         places.push_back(-1);
-    else
-        places.pop_back();
-    state.arrange(places, {1, block.frameCount()});
-    return state;
+        state.arrange(places, {AnimNode()}, {});
+        return state;
+    } else {
+        const AnimBlock &block = file.blocks[size_t(index[0])];
+        State state(block);
+        std::vector<int> places(static_cast<size_t>(State::table(block).trackCount()));
+        std::iota(places.begin(), places.end(), 0);
+        if (places.empty())
+            places.push_back(-1);
+        else
+            places.pop_back();
+        state.arrange(places, {1, block.frameCount()});
+        return state;
+    }
 }
 
 /// A command that changes something at `index`, where a field or a list must be.

@@ -188,6 +188,61 @@ private slots:
         checkTracks<RotationTracks>(&AnimNode::rotationIndex, RecordKind::RotationTrack);
     }
 
+    void blocksBonesAreStillNamed()
+    {
+        for (const AnimFile &file : realAnims()) {
+            AnimFile edited = file;
+            // Bones that can be told apart by where they begin; an action at each of the first.
+            for (AnimBlock &block : edited.blocks) {
+                for (size_t b = 0; b < block.nodes.size(); ++b)
+                    block.nodes[b].initialPosition.setX(float(b));
+                block.actions.resize(5);
+                for (size_t a = 0; a < 5; ++a)
+                    block.actions[a].node = a < 4 ? quint16(a) : quint16(0xFFFF);
+            }
+            edited.blocks[2].nodes.pop_back(); // another mesh's
+            const QByteArray before = SampleModels::bytesOf(edited);
+            const auto named = [&edited](size_t block, size_t action) {
+                const AnimBlock &in = edited.blocks[block];
+                return in.nodes[in.actions[action].node].initialPosition.x();
+            };
+            std::vector<int> places(edited.blocks[1].nodes.size());
+            std::iota(places.begin(), places.end(), 0);
+            std::swap(places[1], places[2]);
+            places.insert(places.begin() + 2, {-1, -2});
+            AnimNode fresh = edited.blocks[1].nodes[3];
+            fresh.initialPosition = {-7, 0, 0};
+            fresh.rotationIndex = 0;
+            BlockBones state(edited, 1);
+            QCOMPARE(state.blockCount(), int(file.blocks.size()) - 1);
+            QCOMPARE(state.arrange(places, {fresh, fresh}, {3}), QString());
+            QVERIFY(state.fits(edited, {}));
+            state.exchange(edited, {});
+            for (const size_t block : {size_t(0), size_t(1)}) {
+                for (size_t action = 0; action < 4; ++action)
+                    QCOMPARE(named(block, action), float(action));
+                QCOMPARE(edited.blocks[block].actions[4].node, quint16(0xFFFF));
+                const std::vector<AnimNode> &bones = edited.blocks[block].nodes;
+                // In another block a copy of its own bone, or one without tracks.
+                QCOMPARE(bones[2].initialPosition.x(), block == 1 ? -7.0f : 3.0f);
+                QCOMPARE(bones[3].initialPosition.x(), -7.0f);
+                QCOMPARE(int(bones[3].rotationIndex), block == 1 ? 0 : 0xFFFF);
+            }
+            QCOMPARE(named(2, 2), 2.0f);
+            QVERIFY(state.fits(edited, {}));
+            state.exchange(edited, {});
+            QCOMPARE(SampleModels::bytesOf(edited), before);
+
+            BlockBones other(edited, 0);
+            QVERIFY(other.arrange({0, 1}, {}, {}).contains("Action 2 of animation 0 happens at bone 2"));
+            QVERIFY(other.arrange({1, 0}, {}, {}).contains("Bone 0 stays"));
+            QVERIFY(other.arrange(std::vector<int>(129, 0), {}, {}).contains("128"));
+            edited.blocks[0].actions[4].node = quint16(edited.blocks[0].nodes.size());
+            places.erase(places.begin() + 2);
+            QVERIFY(BlockBones(edited, 0).arrange(places, {fresh}, {}).contains("which does not exist"));
+        }
+    }
+
     void tracksMeetOtherCounts()
     {
         AnimFile file;

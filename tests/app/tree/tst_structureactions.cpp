@@ -622,6 +622,52 @@ private slots:
         QCOMPARE(mesh().bytes(), before);
     }
 
+    void bonesOfAnimationsGoTogether()
+    {
+        AnimFile file = animFile();
+        for (AnimBlock &block : file.blocks) {
+            block.nodes.resize(4);
+            for (size_t b = 0; b < 4; ++b)
+                block.nodes[b].initialPosition = {float(b), 0, 0};
+            block.actions[0].node = 2;
+        }
+        file.blocks[2].nodes.resize(3);
+        anim().open(file);
+        const QByteArray before = anim().bytes();
+        KVTreeView *tree = select(ref(K::AnimBone, 1, 2));
+        QSignalSpy told(tree, &KVTreeView::told);
+        const auto press = [&](const char *keys) {
+            return saidOf([&] { QTest::keySequence(tree, QKeySequence(QLatin1String(keys))); });
+        };
+        const auto state = [this](size_t number) {
+            const AnimBlock &block = anim().document.model().blocks[number];
+            QString text;
+            for (const AnimNode &bone : block.nodes)
+                text += QString::number(double(bone.initialPosition.x())) + QLatin1Char(' ');
+            return text + QString::number(block.actions[0].node);
+        };
+        QCOMPARE(press("Ctrl+Shift+Down"), QString());
+        QVERIFY(state(0) == "0 1 3 2 3" && state(1) == state(0) && state(2) == "0 1 2 2");
+        QVERIFY(told.takeLast().at(0).toString().contains("as many bones: 2. The mesh is another file"));
+        QVERIFY(press("Ctrl+X").contains("happens at bone 3"));
+        QCOMPARE(press("Ctrl+C") + press("Ctrl+Shift+Down"), QString());
+        QCOMPARE(press("Ctrl+D"), QString());
+        QVERIFY(state(0) == "0 1 3 2 2 3" && state(1) == state(0));
+        QCOMPARE(tree->currentRecord(), ref(K::AnimBone, 1, 4));
+        QCOMPARE(press("Ctrl+X"), QString());
+        QCOMPARE(state(1), QString("0 1 3 2 3"));
+        select(ref(K::AnimBones, 2));
+        QCOMPARE(press("Ctrl+V"), QString());
+        QVERIFY(state(2) == "0 2 1 2 3" && state(1) == "0 1 3 2 3");
+        select(ref(K::AnimBone, 0, 1));
+        QVERIFY(press("Ctrl+Shift+Up").contains("Bone 0 stays"));
+        QApplication::clipboard()->setText(QApplication::clipboard()->text().replace("65535", "9"));
+        QVERIFY(press("Ctrl+V").contains("follows track 9"));
+        QCOMPARE(anim().undo().count(), 4);
+        anim().undo().setIndex(0);
+        QCOMPARE(anim().bytes(), before);
+    }
+
     void realModelsStandEveryEdit()
     {
         const auto check = [this](auto &pane, const char *path, const QVector<RecordRef> &records) {
@@ -658,7 +704,8 @@ private slots:
                   {ref(K::Bone, 5), ref(K::Bone, 8), ref(K::HotPoint, 1), ref(K::SkinnedSurface, 0),
                    ref(K::ChildBone, 0, 0)});
             check(anim(), qUtf8Printable(QStringLiteral("game/anims/%1/%1.anim").arg(number)),
-                  {ref(K::AnimBlock, 1), ref(K::TranslationTrack, 1, 1), ref(K::RotationTrack, 1, 2)});
+                  {ref(K::AnimBlock, 1), ref(K::TranslationTrack, 1, 1), ref(K::RotationTrack, 1, 2),
+                   ref(K::AnimBone, 1, 5)});
         }
         check(m_panes->rigid, "game/models/avocado/avocado.staticmesh", {ref(K::StaticSurface, 0)});
     }

@@ -332,3 +332,13 @@ QStringList RecordWords::proposals(KindSet roots)
     texts.sort(Qt::CaseInsensitive);
     return texts;
 }
+
+QStringList RecordWords::fieldProposals(KindSet kinds)
+{
+    QStringList texts; // in the order of their pages
+    for (const auto &[kind, text] : dictionary().proposed()) {
+        if (kinds.contains(kind) && text != translatedNoun(kindOf(kind)->plural) && !texts.contains(text))
+            texts << text;
+    }
+    return texts;
+}

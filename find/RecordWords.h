@@ -80,5 +80,7 @@ QString plain(const QString &words);
 const RecordWord *find(const QString &words);
 /// Those that are proposed for models of these roots: fields as their pages call them, and kinds.
 QStringList proposals(KindSet roots);
+/// Those for fields that some of these kinds have.
+QStringList fieldProposals(KindSet kinds);
 
 } // namespace RecordWords

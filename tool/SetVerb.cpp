@@ -5,6 +5,7 @@
 #include "FieldPatch.h"
 #include "FoundRecords.h"
 #include "Output.h"
+#include "RecordFields.h"
 #include "ReplacedFiles.h"
 #include "Replacement.h"
 #include "Settings.h"

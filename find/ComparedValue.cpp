@@ -64,13 +64,31 @@ bool ComparedValue::fit(Test &test)
     return (!m_isQuoted && !isBelow && fitNumber(test)) || fitName(test) || (isBelow && fitNumber(test));
 }
 
-bool ComparedValue::fitText(Test &test) const
+bool ComparedValue::fitText(Test &test)
 {
     if (!isForSame() && m_sign != Sign::Contains)
         return false;
     test.way = m_sign == Sign::Contains ? Way::PartOfText : Way::SameText;
     test.text = m_value;
+    if (test.meaning.kind == RecordKind::AnimBlock)
+        fitAnimationName(test);
     return true;
+}
+
+/// A block is called what the mesh calls its id, which is asked here: other threads cannot.
+void ComparedValue::fitAnimationName(Test &test)
+{
+    m_hasAskedNames = true;
+    test.meaning.field = RecordFields::find(RecordKind::AnimBlock, QStringLiteral("animId"));
+    test.way = Way::OneOf;
+    if (!m_mesh)
+        return;
+    for (auto it = m_mesh->animationNames.begin(); it != m_mesh->animationNames.end(); ++it) {
+        const bool isSame = it.value().compare(m_value, Qt::CaseInsensitive) == 0;
+        if (m_sign == Sign::Contains ? it.value().contains(m_value, Qt::CaseInsensitive) : isSame)
+            test.numbers.push_back(it.key());
+    }
+    std::sort(test.numbers.begin(), test.numbers.end());
 }
 
 bool ComparedValue::fitRange(Test &test) const

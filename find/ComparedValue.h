@@ -39,7 +39,8 @@ public:
 private:
     bool isForSame() const { return m_sign == Sign::Equal || m_sign == Sign::Different; }
     bool looksLikeName() const;
-    bool fitText(Test &test) const;
+    bool fitText(Test &test);
+    void fitAnimationName(Test &test);
     bool fitNumber(Test &test) const;
     bool fitRange(Test &test) const;
     bool fitName(Test &test);

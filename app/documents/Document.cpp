@@ -375,6 +375,20 @@ Document::Drafter ModelDocument<Model>::drafter()
     return [copied = copy()] { return draftOf(copied->get()); };
 }
 
+template <typename Model>
+Document::Searcher ModelDocument<Model>::searcher(const Condition &condition)
+{
+    return [condition, root = rootKind(), copied = copy()](const std::atomic_bool &cancelled) {
+        return findRecords(condition, ModelValues(copied->get()), root, &cancelled);
+    };
+}
+
+template <typename Model>
+bool ModelDocument<Model>::changeFields(const QVector<FieldChange> &changes, const QString &stepText)
+{
+    return RecordFields::change(changes, stepText, editTarget(), *undoStack());
+}
+
 template class ModelDocument<SkinnedMesh>;
 template class ModelDocument<AnimFile>;
 template class ModelDocument<StaticMesh>;

@@ -10,7 +10,7 @@
 #include "Memory.h"
 #include "ModelCopy.h"
 #include "NamesFile.h"
-#include "Records.h"
+#include "RecordSearch.h"
 
 #include <QPointer>
 #include <QUndoStack>
@@ -111,6 +111,15 @@ public:
     /// What a tree says of one record more quietly, behind its label: what the model's own names call the
     /// bone or the animation that it is, or is about. Empty when nothing does.
     virtual QString recordName(const RecordRef &record) const = 0;
+    /// The mesh whose names of bones and animations count for it; null where none does.
+    virtual const SkinnedMesh *namedMesh() const = 0;
+    /// The fields of its records.
+    virtual const RecordValues &values() const = 0;
+    /// Gives the records that meet a condition in the model as it is now, in any thread.
+    using Searcher = std::function<std::vector<RecordRef>(const std::atomic_bool &cancelled)>;
+    virtual Searcher searcher(const Condition &condition) = 0;
+    /// See RecordFields::change().
+    virtual bool changeFields(const QVector<FieldChange> &changes, const QString &stepText) = 0;
     /// Lets the names of another document's mesh count for this one.
     void setNamingMesh(const SkinnedMesh *mesh) { m_namingMesh = mesh; }
     const SkinnedMesh *namingMesh() const { return m_namingMesh; }
@@ -224,6 +233,16 @@ public:
     QString recordText(const RecordRef &record) const override;
     QString recordName(const RecordRef &record) const override;
     QString replacedBeside(const QString &path) const override;
+    const SkinnedMesh *namedMesh() const override
+    {
+        if constexpr (std::is_same_v<Model, SkinnedMesh>)
+            return &m_model;
+        else
+            return namingMesh();
+    }
+    const RecordValues &values() const override { return m_values; }
+    Searcher searcher(const Condition &condition) override;
+    bool changeFields(const QVector<FieldChange> &changes, const QString &stepText) override;
 
 protected:
     void takeModel(LoadedFile &file) override;
@@ -238,6 +257,7 @@ protected:
 private:
     Model m_model;
     Model m_fresh;
+    const ModelValues<Model> m_values{m_model};
     std::weak_ptr<ModelCopy<Model>> m_promised; ///< of m_model as it is
     NamesFile m_names;                          ///< of a skinned mesh
     Preparation m_preparation;

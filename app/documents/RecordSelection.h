@@ -15,6 +15,8 @@ public:
     virtual RecordRef currentRecord() const = 0;
     /// The selected records of one kind, ascending by index.
     virtual QVector<RecordIndex> selectedRecords(RecordKind kind) const = 0;
+    /// All that are selected, by kind and index.
+    virtual QVector<RecordRef> selectedRefs() const = 0;
     /// What a record is called in the list.
     virtual QString label(const RecordRef &record) const = 0;
     /// What the model's own names call it; empty when they do not.

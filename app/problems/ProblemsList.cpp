@@ -5,7 +5,7 @@
 #include "EmptyText.h"
 #include "Icons.h"
 #include "RecordSelection.h"
-#include "RecordTable.h"
+#include "RecordTexts.h"
 
 #include <QCoreApplication>
 #include <QHeaderView>
@@ -55,22 +55,6 @@ QString nameOf(Severity severity)
     return ProblemsList::tr("Note");
 }
 
-/// A record by the labels that lead to it in its tree, groups without their counts.
-QString placeIn(const RecordSelection &records, RecordRef record)
-{
-    QStringList labels;
-    for (const RecordRow *row = recordRow(record.kind); row; row = recordRow(row->parent)) {
-        if (row->parent == RecordKind::None && !labels.isEmpty())
-            break;
-        labels.prepend(
-            row->counted == RecordKind::None
-                ? records.label({row->kind, record.index})
-                : QCoreApplication::translate("Records", row->label).remove(QLatin1String("(%1)")).trimmed());
-        if (row->position == RecordRow::FromIndex)
-            record.index[size_t(row->component)] = 0;
-    }
-    return labels.join(QStringLiteral(" \u203A "));
-}
 /// The order in which the checks put findings, the worst first.
 auto orderOf(const ProblemItem &item)
 {
@@ -85,7 +69,8 @@ ProblemItem::ProblemItem(DocumentType type, const Finding &finding, const QStrin
     : m_type(type)
     , m_finding(finding)
     , m_document(document)
-    , m_place(placeIn(records, finding.place)) // now: the record may be gone by the time that it is painted
+    , m_place(
+          recordPlace(records, finding.place)) // now: the record may be gone by the time that it is painted
 {}
 
 QString ProblemItem::cell(int column) const

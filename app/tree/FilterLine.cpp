@@ -8,9 +8,11 @@
 #include <QAction>
 
 FilterLine::FilterLine(KVTreeView &tree, QWidget *parent)
-    : FilterEdit(tr("Filter, such as %1").arg(tree.filterExample()),
-                 tr("Show only the records whose text has these words, and numbers or ranges of them"),
-                 parent)
+    : FilterEdit(
+          tr("Filter, such as %1").arg(tree.filterExample()),
+          tr("Show only the records whose text has these words, and numbers or ranges of them; or that "
+             "meet a condition over their fields, as Find and Replace has them"),
+          parent)
 {
     setObjectName(tree.objectName() + QStringLiteral("Filter"));
     connect(this, &FilterEdit::filtered, &tree, &KVTreeView::setFilter);

@@ -60,6 +60,8 @@ void KVTreeView::build()
     const QSignalBlocker blocker(this);
     setUpdatesEnabled(false);
     clear();
+    // Names in it may stand for other records by now.
+    m_filter = RecordFilter(m_filter.text(), m_document->namedMesh());
     if (m_document->isOpen()) {
         m_hideData = hidesData(*m_document);
         auto *root = new RecordItem(m_document->rootKind());
@@ -115,7 +117,7 @@ void KVTreeView::expandToMatches()
     for (QTreeWidgetItemIterator it(this, QTreeWidgetItemIterator::HasChildren); *it; ++it) {
         const RecordRef record = static_cast<RecordItem *>(*it)->record();
         if (recordRow(record.kind)->position != RecordRow::FromIndex ||
-            !m_filter.matches(searchText(*m_document, record)))
+            !m_filter.matches(*m_document, record))
             (*it)->setExpanded(true);
     }
 }
@@ -169,8 +171,8 @@ void KVTreeView::letThrough(const QVector<RecordRef> &records)
 
 QString KVTreeView::filterExample() const
 {
-    return m_document && m_document->rootKind() == RecordKind::AnimFile ? tr("frame 10-20 or event 30")
-                                                                        : tr("vertex 100-120 or left arm");
+    return m_document && m_document->rootKind() == RecordKind::AnimFile ? tr("frame 10-20 or sound = 12")
+                                                                        : tr("left arm or damage scale > 1");
 }
 
 void KVTreeView::selectFirstMatch()
@@ -179,7 +181,7 @@ void KVTreeView::selectFirstMatch()
         return;
     for (QTreeWidgetItemIterator it(this); *it; ++it) {
         const RecordRef record = static_cast<RecordItem *>(*it)->record();
-        if (*it != topLevelItem(0) && m_filter.matches(searchText(*m_document, record)))
+        if (*it != topLevelItem(0) && m_filter.matches(*m_document, record))
             return setCurrentItem(*it, 0, QItemSelectionModel::ClearAndSelect);
     }
 }

@@ -35,6 +35,7 @@ public:
     /// is selected. None while nothing is.
     RecordRef currentRecord() const override;
     QVector<RecordIndex> selectedRecords(RecordKind kind) const override;
+    QVector<RecordRef> selectedRefs() const override;
     QString label(const RecordRef &record) const override;
     QString name(const RecordRef &record) const override
     {
@@ -51,6 +52,8 @@ public:
 
     /// The item of a record, or of the deepest of its owners that has one; null in an empty tree.
     RecordItem *findItem(const RecordRef &record) const;
+    /// Whether the record has an item; filters and options leave some out.
+    bool isShown(const RecordRef &record) const;
     /// Makes what belongs below an item, where a long list has left that for later. Whatever is opened, or
     /// looked for, is made by itself.
     void complete(RecordItem *item) const;
@@ -82,10 +85,7 @@ protected:
 private:
     RecordFilling filling() const;
     void build();
-    /// In their order.
-    QVector<RecordRef> selectedRefs() const;
     static bool hidesData(const Document &document);
-    bool isShown(const RecordRef &record) const;
     QModelIndex findIndex(const RecordRef &record) const; ///< of findItem()
     /// Builds the items anew, with these selected as far as they are shown.
     void refill(const QVector<RecordRef> &selected, const RecordRef &current);

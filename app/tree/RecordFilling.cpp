@@ -4,7 +4,6 @@
 
 #include "RecordItem.h"
 #include "RecordTable.h"
-#include "RecordTexts.h"
 
 #include <QCoreApplication>
 
@@ -69,8 +68,7 @@ void RecordFilling::fillMatching(RecordItem *item, const RecordRef &owner) const
         for (int i = 0; i < count; ++i) {
             if (isList)
                 record.index[size_t(row->component)] = i;
-            const bool isMatch =
-                m_letThrough.contains(record) || m_filter.matches(searchText(m_document, record));
+            const bool isMatch = m_letThrough.contains(record) || m_filter.matches(m_document, record);
             if (isLeaf && !isMatch)
                 continue;
             auto child = std::make_unique<RecordItem>(row->kind, isList ? i : 0);
@@ -91,5 +89,5 @@ bool RecordFilling::isAskedFor(const RecordRow &row) const
 {
     // What a list is hidden in has no noun of its own.
     const RecordRow &list = row.position == RecordRow::FromIndex ? row : *childRows(row.kind).first();
-    return m_filter.names(QCoreApplication::translate("Records", list.noun));
+    return m_filter.asksFor(list.kind, QCoreApplication::translate("Records", list.noun));
 }

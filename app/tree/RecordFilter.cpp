@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "RecordFilter.h"
 
+#include "RecordTable.h"
+#include "RecordTexts.h"
+
 #include <QRegularExpression>
 #include <QStringView>
 
@@ -36,9 +39,11 @@ bool numberOf(QStringView word, qint64 &number)
 }
 } // namespace
 
-RecordFilter::RecordFilter(const QString &text)
+RecordFilter::RecordFilter(const QString &text, const SkinnedMesh *mesh)
     : m_text(text)
 {
+    // A text that is no condition is words.
+    static_cast<void>(m_condition.read(text, mesh));
     static const QRegularExpression term(
         QStringLiteral("(\\d{1,18})(?:\\s*(?:-|–|\\.\\.)\\s*(\\d{1,18}))?|[^\\W_]+"),
         QRegularExpression::UseUnicodePropertiesOption);
@@ -87,5 +92,29 @@ bool RecordFilter::names(const QString &noun) const
         return term.word.size() >= 3 && std::any_of(words.begin(), words.end(), [&term](QStringView word) {
                    return word.startsWith(term.word, Qt::CaseInsensitive);
                });
+    });
+}
+
+bool RecordFilter::matches(const Document &document, const RecordRef &record) const
+{
+    if (!m_condition.isEmpty() && !m_condition.isPlain())
+        return m_condition.matches(document.values(), record);
+    if (matches(searchText(document, record)))
+        return true;
+    return (!recordRow(record.kind)->meshData || m_condition.names(record.kind)) &&
+           m_condition.matches(document.values(), record);
+}
+
+bool RecordFilter::asksFor(RecordKind kind, const QString &noun) const
+{
+    if (m_condition.isEmpty() || m_condition.isPlain())
+        return names(noun);
+    if (m_condition.names(kind) || !m_condition.concerns(kind))
+        return m_condition.names(kind);
+    // What is hidden is shown where the condition is about nothing else.
+    const RecordKind root = RecordWords::kindOf(kind)->root;
+    const auto &kinds = RecordWords::kinds();
+    return std::none_of(kinds.begin(), kinds.end(), [&](const SearchedKind &each) {
+        return each.root == root && !recordRow(each.kind)->meshData && m_condition.concerns(each.kind);
     });
 }

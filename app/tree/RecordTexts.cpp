@@ -41,3 +41,19 @@ QString searchText(const Document &document, const RecordRef &record)
     }
     return text;
 }
+
+QString recordPlace(const RecordSelection &records, RecordRef record)
+{
+    QStringList labels;
+    for (const RecordRow *row = recordRow(record.kind); row; row = recordRow(row->parent)) {
+        if (row->parent == RecordKind::None && !labels.isEmpty())
+            break;
+        labels.prepend(
+            row->counted == RecordKind::None
+                ? records.label({row->kind, record.index})
+                : QCoreApplication::translate("Records", row->label).remove(QLatin1String("(%1)")).trimmed());
+        if (row->position == RecordRow::FromIndex)
+            record.index[size_t(row->component)] = 0;
+    }
+    return labels.join(QStringLiteral(" \u203A "));
+}

@@ -94,6 +94,7 @@ private slots:
         row("impact = flesh, bones", "bone 2");
         row("impact ~ \"lesh\"", "bone 2");
         row("anim id = walk", "block 1");
+        row("name ~ ALK or name = knife", "bone 4, block 1");
         row("flags ~ 0x10", "bone 2");
         row("deals damage", "hot point 1");
         // Bones.

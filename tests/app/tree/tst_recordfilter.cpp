@@ -42,6 +42,42 @@ private slots:
         check("0-999999999999999999", "vertex 3", true);
     }
 
+    void conditionsFilterToo()
+    {
+        // Real keys; what is behind in the tree, root and groups left out.
+        Pane<AnimFile> pane(DocumentType::Anim, RecordKind::AnimFile);
+        FilterLine line(pane.tree);
+        AnimFile file = SampleModels::plainAnim();
+        file.blocks[1].actions[2] = AnimAction();
+        file.blocks[1].actions[2].frame = 17;
+        file.blocks[1].actions[2].args[0] = 12.0f;
+        pane.open(file);
+        pane.tree.show();
+        line.show();
+        const auto found = [&](const char *text) {
+            line.clear();
+            QTest::keyClicks(&line, QString::fromUtf8(text));
+            QTest::keyClick(&line, Qt::Key_Return);
+            QVector<RecordRef> records;
+            for (QTreeWidgetItemIterator it(&pane.tree, QTreeWidgetItemIterator::NoChildren); *it; ++it)
+                records << static_cast<RecordItem *>(*it)->record();
+            return records;
+        };
+        const QVector<RecordRef> action{{RecordKind::AnimAction, {1, 2}}};
+        QCOMPARE(found("sound = 12, frame > 3"), action);
+        QCOMPARE(found("actions frame 10-20"), action);
+        QVERIFY(found("frame 10-20").contains(action.first()));
+        // What is text as well finds both; what is none of it finds by the text.
+        QVERIFY(found("frame 1").contains({RecordKind::AnimFrame, {0, 1}}));
+        QCOMPARE(found("sound > twelve").size(), 1);
+        // Hidden lists are shown where the line is about them alone.
+        Settings::HideAnimData.setValue(true);
+        pane.tree.updateHiding();
+        QCOMPARE(found("yaw offset = 0, block 2").size(), 3);
+        QVERIFY(!found("frame >= 0").contains({RecordKind::AnimFrame, {0, 1}}));
+        Settings::HideAnimData.setValue(false);
+    }
+
     void aLineShowsMatchesAndTheirParents()
     {
         Pane<SkinnedMesh> pane(DocumentType::SkinnedMesh, RecordKind::SkinnedMesh);

@@ -125,6 +125,7 @@ inline const SettingKey<QString> ImportPath{"ImportPath", {}};
 inline const SettingKey<QString> ImportFilter{"ImportFilter", {}}; // of its file dialog, chosen last
 inline const SettingKey<QString> PicturePath{"PicturePath", {}};
 inline const SettingKey<QString> TablePath{"TablePath", {}};
+inline const SettingKey<QStringList> FindHistory{"FindHistory", {}}; // conditions, the last first
 
 // Import. The time limit is in seconds.
 inline const SettingKey<bool> ImportSwapYZ{"ImportSwapYZ", false};

@@ -30,7 +30,7 @@ find
 app/documents app/choice gltf import/scene render/input
 render import/ready
 app/tree app/view app/timeline app/explorer app/recovery app/console
-app/tree/pages app/table app/problems app/compare app/database app/import
+app/tree/pages app/find app/table app/problems app/compare app/database app/import
 app/window
 app tool import/worker'
 

@@ -1987,8 +1987,147 @@ Ohne diese Eingabe fortfahren?</translation>
         <translation>Filter, etwa %1</translation>
     </message>
     <message>
-        <source>Show only the records whose text has these words, and numbers or ranges of them</source>
-        <translation>Nur die Datensätze zeigen, in deren Text diese Wörter vorkommen, und Nummern oder Bereiche davon</translation>
+        <source>Show only the records whose text has these words, and numbers or ranges of them; or that meet a condition over their fields, as Find and Replace has them</source>
+        <translation>Nur die Datensätze zeigen, in deren Text diese Wörter und Zahlen oder Bereiche vorkommen oder die eine Bedingung an ihre Felder erfüllen, wie Suchen und Ersetzen sie kennt</translation>
+    </message>
+</context>
+<context>
+    <name>FindDock</name>
+    <message>
+        <source>Find:</source>
+        <translation>Suchen:</translation>
+    </message>
+    <message>
+        <source>damage scale &gt; 1, surfaces material ~ tree, sound = 1234, bone in left arm</source>
+        <translation>Schadensfaktor &gt; 1, Flächen Material ~ baum, Sound = 1234, Knochen in Linker Oberarm</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>Bedingung</translation>
+    </message>
+    <message>
+        <source>Fields as the pages call them, compared by = != &lt; &lt;= &gt; &gt;= ~ (contains) and in (bones below), joined by commas, and, or, not. Ctrl+Space proposes words.</source>
+        <translation>Felder, wie die Seiten sie nennen, verglichen mit = != &lt; &lt;= &gt; &gt;= ~ (enthält) und in (Knochen darunter), verbunden mit Kommas, und, oder, nicht. Strg+Leertaste schlägt Wörter vor.</translation>
+    </message>
+    <message>
+        <source>This Document</source>
+        <translation>Dieses Dokument</translation>
+    </message>
+    <message>
+        <source>Selected Records</source>
+        <translation>Ausgewählte Datensätze</translation>
+    </message>
+    <message>
+        <source>All Open Documents</source>
+        <translation>Alle offenen Dokumente</translation>
+    </message>
+    <message>
+        <source>Where to search</source>
+        <translation>Wo gesucht wird</translation>
+    </message>
+    <message>
+        <source>Where to search; of selected records, what stands below them, too</source>
+        <translation>Wo gesucht wird; bei ausgewählten Datensätzen auch in dem, was unter ihnen steht</translation>
+    </message>
+    <message>
+        <source>Select All Hits</source>
+        <translation>Alle Treffer auswählen</translation>
+    </message>
+    <message>
+        <source>Select the records in their trees, to edit them on their pages</source>
+        <translation>Die Datensätze in ihren Bäumen auswählen, um sie auf ihren Seiten zu bearbeiten</translation>
+    </message>
+    <message>
+        <source>Set:</source>
+        <translation>Setzen:</translation>
+    </message>
+    <message>
+        <source>The field that gets another value: the one of the condition, or any other</source>
+        <translation>Das Feld, das einen anderen Wert bekommt: das der Bedingung oder ein beliebiges</translation>
+    </message>
+    <message>
+        <source>Field to replace</source>
+        <translation>Zu ersetzendes Feld</translation>
+    </message>
+    <message>
+        <source>to:</source>
+        <translation>auf:</translation>
+    </message>
+    <message>
+        <source>77, +=5, *=1.5, =x*2+i</source>
+        <translation>77, +=5, *=1,5, =x*2+i</translation>
+    </message>
+    <message>
+        <source>A value, a name, or a calculation: x is the old number, i the place among the hits</source>
+        <translation>Ein Wert, ein Name oder eine Rechnung: x ist die alte Zahl, i der Platz unter den Treffern</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Give the current hit this value, and go on to the next one</source>
+        <translation>Dem aktuellen Treffer diesen Wert geben und zum nächsten gehen</translation>
+    </message>
+    <message>
+        <source>Replace All</source>
+        <translation>Alle ersetzen</translation>
+    </message>
+    <message>
+        <source>Give all hits this value, as one undo step a document</source>
+        <translation>Allen Treffern diesen Wert geben, als ein Rückgängig-Schritt je Dokument</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>Suchen und Ersetzen</translation>
+    </message>
+    <message>
+        <source>No file is open.</source>
+        <translation>Es ist keine Datei geöffnet.</translation>
+    </message>
+    <message>
+        <source>Type what the records are to have, such as %1.</source>
+        <translation>Geben Sie ein, was die Datensätze haben sollen, etwa %1.</translation>
+    </message>
+    <message>
+        <source>damage scale &gt; 1</source>
+        <translation>Schadensfaktor &gt; 1</translation>
+    </message>
+    <message>
+        <source>The records are being searched.</source>
+        <translation>Die Datensätze werden durchsucht.</translation>
+    </message>
+    <message>
+        <source>No record meets the condition.</source>
+        <translation>Kein Datensatz erfüllt die Bedingung.</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Sucht…</translation>
+    </message>
+    <message>
+        <source>Not in the trees, and so not selected: %1. The filter or the options hide them.</source>
+        <translation>Nicht in den Bäumen und darum nicht ausgewählt: %1. Der Filter oder die Optionen blenden sie aus.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed. %1: %2</source>
+        <translation>Nichts wurde geändert. %1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: the value is there already.</source>
+        <translation>Nichts wurde geändert: Der Wert steht schon da.</translation>
+    </message>
+    <message>
+        <source>Hits: %1</source>
+        <translation>Treffer: %1</translation>
+    </message>
+    <message>
+        <source>Changed records: %1</source>
+        <translation>Geänderte Datensätze: %1</translation>
+    </message>
+    <message>
+        <source>Changed records: %1, in %2 documents</source>
+        <translation>Geänderte Datensätze: %1, in %2 Dokumenten</translation>
     </message>
 </context>
 <context>
@@ -2205,6 +2344,32 @@ Ohne diese Eingabe fortfahren?</translation>
     <message>
         <source>Folder: %1</source>
         <translation>Ordner: %1</translation>
+    </message>
+</context>
+<context>
+    <name>FoundList</name>
+    <message>
+        <source>Records found</source>
+        <translation>Gefundene Datensätze</translation>
+    </message>
+</context>
+<context>
+    <name>FoundRows</name>
+    <message>
+        <source>Record</source>
+        <translation>Datensatz</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
     </message>
 </context>
 <context>
@@ -3127,14 +3292,6 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
 <context>
     <name>KVTreeView</name>
     <message>
-        <source>frame 10-20 or event 30</source>
-        <translation>Frame 10-20 oder Ereignis 30</translation>
-    </message>
-    <message>
-        <source>vertex 100-120 or left arm</source>
-        <translation>Vertex 100-120 oder Oberarm links</translation>
-    </message>
-    <message>
         <source>No file is open. Choose one in the folder, or press %1.</source>
         <translation>Es ist keine Datei geöffnet. Wählen Sie eine im Ordner, oder drücken Sie %1.</translation>
     </message>
@@ -3149,6 +3306,14 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>The filter does not match %1, which is shown all the same: it was changed.</source>
         <translation>Der Filter passt nicht auf %1; der Eintrag wird trotzdem gezeigt, weil er geändert wurde.</translation>
+    </message>
+    <message>
+        <source>frame 10-20 or sound = 12</source>
+        <translation>Frame 10-20 oder Sound = 12</translation>
+    </message>
+    <message>
+        <source>left arm or damage scale &gt; 1</source>
+        <translation>links arm oder Schadensfaktor &gt; 1</translation>
     </message>
 </context>
 <context>
@@ -3570,6 +3735,34 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>Table</source>
         <translation>Tabelle</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>Suchen und Ersetzen</translation>
+    </message>
+    <message>
+        <source>Find and Re&amp;place…</source>
+        <translation>Suchen und &amp;Ersetzen…</translation>
+    </message>
+    <message>
+        <source>Find records by what is in their fields, and give these other values</source>
+        <translation>Datensätze nach dem Inhalt ihrer Felder finden und diesen andere Werte geben</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>&amp;Weitersuchen</translation>
+    </message>
+    <message>
+        <source>Show the next record that was found</source>
+        <translation>Den nächsten gefundenen Datensatz zeigen</translation>
+    </message>
+    <message>
+        <source>Find Pre&amp;vious</source>
+        <translation>R&amp;ückwärts suchen</translation>
+    </message>
+    <message>
+        <source>Show the record that was found before</source>
+        <translation>Den vorigen gefundenen Datensatz zeigen</translation>
     </message>
 </context>
 <context>
@@ -5783,6 +5976,13 @@ Hände und Füße (x0.25): %6</translation>
     <message>
         <source>A name has at most %1 characters.</source>
         <translation>Ein Name hat höchstens %1 Zeichen.</translation>
+    </message>
+</context>
+<context>
+    <name>RecordFinder</name>
+    <message>
+        <source>Replace %1 (%2)</source>
+        <translation>%1 ersetzen (%2)</translation>
     </message>
 </context>
 <context>

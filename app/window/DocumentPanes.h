@@ -67,7 +67,9 @@ public slots:
     void showPane(DocumentType type);
     /// The same with what was just opened, which is flown around: its view gets the keys.
     void showOpened(DocumentType type);
-    /// The same, with the record current in its tree, which gets the keys.
+    /// The same, with the record current in its tree.
+    void selectRecord(DocumentType type, const RecordRef &record);
+    /// The same; the tree gets the keys.
     void showRecord(DocumentType type, const RecordRef &record);
     /// The user has opened a file, maybe the same one again, maybe in a tab that stays behind.
     void OnOpened(DocumentType type);
@@ -99,7 +101,6 @@ private:
     static bool staysInFolder(const DocumentPane &opened);
     void OnRecordsChanged(DocumentType type, const QVector<RecordRef> &records);
     void OnStructuresChanged(DocumentType type, const QVector<StructureChange> &changes);
-    void selectRecord(DocumentType type, const RecordRef &record);
     void showPicked(DocumentType type, const RecordRef &record);
     bool isMarked(DocumentType type) const;
     void showInViewport(DocumentType type, const RecordRef &record);

@@ -208,6 +208,13 @@ void MainWindow::createDocks()
                                   {m_ui->treeSkinnedMesh, m_ui->treeAnim, m_ui->treeStaticMesh});
     connect(m_ui->dockTable, &TableDock::activated, m_panes, &DocumentPanes::showRecord);
     connect(m_ui->dockTable, &TableDock::told, this, &MainWindow::tell);
+    m_ui->dockFind->setDocuments({&m_skinnedMesh, &m_anim, &m_staticMesh},
+                                 {m_ui->treeSkinnedMesh, m_ui->treeAnim, m_ui->treeStaticMesh},
+                                 {m_ui->actionFind, m_ui->actionFindNext, m_ui->actionFindPrevious});
+    connect(m_ui->dockFind, &FindDock::activated, m_panes, &DocumentPanes::showRecord);
+    connect(m_ui->dockFind, &FindDock::shown, m_panes, &DocumentPanes::selectRecord);
+    connect(m_ui->dockFind, &FindDock::documentWanted, m_panes, &DocumentPanes::showPane);
+    connect(m_ui->dockFind, &FindDock::told, this, &MainWindow::tell);
     m_ui->dockServers->setQueryAction(m_ui->actionQueryServers);
     showHistory(*m_ui->viewHistory, m_undoGroup, *m_files, m_ui->actionSave->icon());
 }
@@ -302,6 +309,7 @@ void MainWindow::updateCurrentDocument()
     Document *document = m_panes->currentDocument();
     const bool isOpen = document && document->isOpen();
     m_ui->dockTable->setCurrent(document);
+    m_ui->dockFind->setCurrent(document);
     m_undoGroup.setActiveStack(document ? document->undoStack() : nullptr);
     m_files->setCurrent(document);
     m_importExport->setCurrent(document);

@@ -1,0 +1,417 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "FindDock.h"
+
+#include "ConditionEdit.h"
+#include "FoundList.h"
+#include "KVTreeView.h"
+#include "Look.h"
+#include "RecordTexts.h"
+#include "Shortcuts.h"
+
+#include <QAction>
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+
+#include <algorithm>
+#include <numeric>
+
+namespace {
+constexpr int PauseMs = 200; ///< in typing, after which is searched
+} // namespace
+
+FindDock::FindDock(QWidget *parent)
+    : QDockWidget(parent)
+    , m_find(new QLabel(tr("Find:"), this))
+    , m_condition(new ConditionBox(this))
+    , m_scope(new QComboBox(this))
+    , m_count(new QLabel(this))
+    , m_set(new QLabel(tr("Set:"), this))
+    , m_field(new QComboBox(this))
+    , m_value(new QLineEdit(this))
+    , m_state(new QLabel(this))
+{
+    m_condition->setObjectName(QStringLiteral("cbFindCondition"));
+    m_condition->line().setObjectName(QStringLiteral("txtFindCondition"));
+    m_scope->setObjectName(QStringLiteral("cbFindScope"));
+    m_count->setObjectName(QStringLiteral("lblFindCount"));
+    m_field->setObjectName(QStringLiteral("cbFindField"));
+    m_value->setObjectName(QStringLiteral("txtFindValue"));
+    m_state->setObjectName(QStringLiteral("lblFindState"));
+    m_pause.setSingleShot(true);
+    m_pause.setInterval(PauseMs);
+    auto *contents = new QWidget(this);
+    auto *layout = new QVBoxLayout(contents);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(2);
+    layout->addLayout(findRow());
+    layout->addLayout(replaceRow());
+    setWidget(contents);
+    // One below the other.
+    const int width = std::max(m_find->sizeHint().width(), m_set->sizeHint().width());
+    m_find->setMinimumWidth(width);
+    m_set->setMinimumWidth(width);
+}
+
+QBoxLayout *FindDock::findRow()
+{
+    auto *row = new QHBoxLayout;
+    row->setContentsMargins(4, 2, 4, 0);
+    m_find->setBuddy(m_condition);
+    m_condition->line().setPlaceholderText(
+        tr("damage scale > 1, surfaces material ~ tree, sound = 1234, bone in left arm"));
+    m_condition->line().setAccessibleName(tr("Condition"));
+    m_condition->line().setToolTip(
+        tr("Fields as the pages call them, compared by = != < <= > >= ~ (contains) and in (bones below), "
+           "joined by commas, and, or, not. Ctrl+Space proposes words."));
+    m_condition->setMinimumContentsLength(20);
+    m_scope->addItems({tr("This Document"), tr("Selected Records"), tr("All Open Documents")});
+    m_scope->setAccessibleName(tr("Where to search"));
+    m_scope->setToolTip(tr("Where to search; of selected records, what stands below them, too"));
+    row->addWidget(m_find);
+    row->addWidget(m_condition, 1);
+    row->addWidget(m_scope);
+    m_selectAll = addButton(row, "btnFindSelectAll", tr("Select All Hits"),
+                            tr("Select the records in their trees, to edit them on their pages"),
+                            &FindDock::selectAllHits);
+    m_count->setMinimumWidth(fontMetrics().averageCharWidth() * 12);
+    row->addWidget(m_count);
+    return row;
+}
+
+QBoxLayout *FindDock::replaceRow()
+{
+    auto *row = new QHBoxLayout;
+    row->setContentsMargins(4, 0, 4, 2);
+    m_set->setBuddy(m_field);
+    m_field->setEditable(true);
+    m_field->setInsertPolicy(QComboBox::NoInsert);
+    m_field->setMinimumContentsLength(16);
+    m_field->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_field->setToolTip(tr("The field that gets another value: the one of the condition, or any other"));
+    m_field->lineEdit()->setAccessibleName(tr("Field to replace"));
+    auto *to = new QLabel(tr("to:"), this);
+    to->setBuddy(m_value);
+    m_value->setPlaceholderText(tr("77, +=5, *=1.5, =x*2+i"));
+    m_value->setToolTip(
+        tr("A value, a name, or a calculation: x is the old number, i the place among the hits"));
+    m_state->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_state->setTextFormat(Qt::PlainText);
+    row->addWidget(m_set);
+    row->addWidget(m_field);
+    row->addWidget(to);
+    row->addWidget(m_value, 2);
+    m_replace = addButton(row, "btnReplace", tr("Replace"),
+                          tr("Give the current hit this value, and go on to the next one"),
+                          &FindDock::replaceCurrent);
+    m_replaceAll =
+        addButton(row, "btnReplaceAll", tr("Replace All"),
+                  tr("Give all hits this value, as one undo step a document"), &FindDock::replaceAll);
+    row->addWidget(m_state, 3);
+    auto *all = new QAction(m_replaceAll->text(), m_value);
+    all->setObjectName(QStringLiteral("actionReplaceAll"));
+    nameShortcut(all, all->objectName(), tr("Find and Replace"), m_replaceAll->text());
+    all->setShortcut(QKeySequence(QStringLiteral("Ctrl+Return")));
+    all->setShortcutContext(Qt::WidgetShortcut);
+    m_value->addAction(all);
+    connect(all, &QAction::triggered, m_replaceAll, &QPushButton::click);
+    return row;
+}
+
+QPushButton *FindDock::addButton(QBoxLayout *row, const char *name, const QString &text, const QString &tip,
+                                 void (FindDock::*slot)())
+{
+    auto *button = new QPushButton(text, this);
+    button->setObjectName(QLatin1String(name));
+    button->setToolTip(tip);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, slot);
+    row->addWidget(button);
+    return button;
+}
+
+void FindDock::setDocuments(const std::array<Document *, 3> &documents,
+                            const std::array<KVTreeView *, 3> &trees, const Actions &actions)
+{
+    m_trees = trees;
+    m_actions = actions;
+    m_finder = new RecordFinder(
+        {{{documents[0], trees[0]}, {documents[1], trees[1]}, {documents[2], trees[2]}}}, this);
+    m_list = new FoundList(*m_finder, widget());
+    static_cast<QBoxLayout *>(widget()->layout())->addWidget(m_list, 1);
+    connectParts();
+    onChanged();
+}
+
+void FindDock::connectParts()
+{
+    connect(m_finder, &RecordFinder::changed, this, &FindDock::onChanged);
+    connect(this, &QDockWidget::visibilityChanged, m_finder, &RecordFinder::setFollowing);
+    connect(&m_pause, &QTimer::timeout, this, &FindDock::search);
+    connect(m_condition, &QComboBox::editTextChanged, this, [this] {
+        if (m_condition->lineEdit()->hasFocus() || m_condition->hasFocus())
+            m_pause.start();
+    });
+    connect(m_condition, qOverload<int>(&QComboBox::activated), this, &FindDock::search);
+    connect(&m_condition->line(), &ConditionEdit::entered, this, &FindDock::enter);
+    connect(&m_condition->line(), &ConditionEdit::left, this, &FindDock::leave);
+    connect(&m_condition->line(), &ConditionEdit::wentDown, this, [this] {
+        m_list->setFocus();
+        if (m_list->currentRow() < 0)
+            m_list->setCurrentRow(0);
+    });
+    connect(m_scope, qOverload<int>(&QComboBox::activated), this, &FindDock::search);
+    connect(m_value, &QLineEdit::returnPressed, this, &FindDock::replaceCurrent);
+    connect(m_value, &QLineEdit::textEdited, this, &FindDock::updateState);
+    connect(m_field, &QComboBox::editTextChanged, this, &FindDock::updateState);
+    connect(m_list, &QAbstractItemView::activated, this,
+            [this](const QModelIndex &index) { showRow(index.row(), true); });
+    connect(m_list, &QAbstractItemView::clicked, this,
+            [this](const QModelIndex &index) { showRow(index.row(), false); });
+    connect(m_actions.find, &QAction::triggered, this, &FindDock::open);
+    connect(m_actions.next, &QAction::triggered, this, &FindDock::next);
+    connect(m_actions.previous, &QAction::triggered, this, &FindDock::previous);
+}
+
+void FindDock::setCurrent(const Document *document)
+{
+    m_current = document;
+    m_finder->setCurrent(document);
+    if (m_finder->hits().empty())
+        onChanged();
+}
+
+void FindDock::open()
+{
+    show();
+    raise();
+    m_condition->lineEdit()->setFocus(Qt::ShortcutFocusReason);
+    m_condition->lineEdit()->selectAll();
+}
+
+void FindDock::leave()
+{
+    if (m_current)
+        m_trees[size_t(m_current->kind().type)]->setFocus();
+}
+
+void FindDock::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        return leave();
+    QDockWidget::keyPressEvent(event);
+}
+
+// --- Finding -----------------------------------------------------------------------------------------------
+
+void FindDock::search()
+{
+    m_pause.stop();
+    say({}, false);
+    m_finder->search(m_condition->currentText(), RecordFinder::Scope(m_scope->currentIndex()));
+}
+
+void FindDock::enter()
+{
+    // Once for the search, and on to the next hit when it was made.
+    const bool isNew = m_pause.isActive() || m_finder->hits().empty();
+    if (isNew)
+        search();
+    if (!m_finder->reason().isEmpty())
+        return say(m_finder->reason(), true);
+    m_condition->keep();
+    if (isNew && !m_finder->hits().empty())
+        m_list->setCurrentRow(-1);
+    step(1);
+}
+
+void FindDock::onChanged()
+{
+    KindSet roots;
+    for (size_t type = 0; type < m_trees.size(); ++type) {
+        const Document &document = m_finder->document(DocumentType(type));
+        if (document.isOpen())
+            roots = roots | KindSet(document.rootKind());
+    }
+    m_condition->line().setModels(roots, m_finder->document(DocumentType::SkinnedMesh).namedMesh());
+    m_list->refill();
+    m_list->setEmptyText(emptyText());
+    updateFields();
+    updateState();
+}
+
+QString FindDock::emptyText() const
+{
+    if (!m_finder->hasDocument())
+        return tr("No file is open.");
+    if (m_condition->currentText().trimmed().isEmpty())
+        return tr("Type what the records are to have, such as %1.").arg(tr("damage scale > 1"));
+    if (!m_finder->reason().isEmpty())
+        return m_finder->reason();
+    return m_finder->isRunning() ? tr("The records are being searched.")
+                                 : tr("No record meets the condition.");
+}
+
+void FindDock::updateFields()
+{
+    KindSet kinds;
+    for (const RecordFinder::Hit &hit : m_finder->hits())
+        kinds = kinds | KindSet(hit.record.kind);
+    // What somebody chose stays until the condition is about something else.
+    const QString word = m_finder->condition().fieldWord();
+    const bool isOther = !word.isEmpty() && word != m_word;
+    const QString text = isOther ? word : m_field->currentText();
+    if (!word.isEmpty())
+        m_word = word;
+    const QSignalBlocker blocker(m_field);
+    m_field->clear();
+    m_field->addItems(RecordWords::fieldProposals(kinds));
+    m_field->setEditText(text);
+}
+
+void FindDock::updateState()
+{
+    const int count = int(m_finder->hits().size());
+    const bool isSearch = !m_finder->condition().isEmpty();
+    m_count->setText(m_finder->isRunning() ? tr("Searching\u2026")
+                     : isSearch            ? tr("Hits: %1").arg(count)
+                                           : QString());
+    m_selectAll->setEnabled(count > 0);
+    const bool canReplace = count > 0 && !m_field->currentText().trimmed().isEmpty();
+    m_replace->setEnabled(canReplace);
+    m_replaceAll->setEnabled(canReplace);
+    m_actions.next->setEnabled(count > 0);
+    m_actions.previous->setEnabled(count > 0);
+}
+
+void FindDock::say(const QString &text, bool isWarning)
+{
+    QPalette palette = this->palette();
+    if (isWarning)
+        palette.setColor(QPalette::WindowText, warningColor(palette));
+    m_state->setPalette(palette);
+    m_state->setText(text);
+    m_state->setToolTip(text);
+    if (!text.isEmpty())
+        emit told(text);
+}
+
+void FindDock::step(int by)
+{
+    m_finder->refresh();
+    const int count = int(m_finder->hits().size());
+    if (count == 0)
+        return;
+    const int row = m_list->currentRow();
+    showRow(row < 0 ? (by > 0 ? 0 : count - 1) : (row + by + count) % count, false);
+}
+
+void FindDock::showRow(int row, bool withKeys)
+{
+    if (row < 0 || row >= int(m_finder->hits().size()))
+        return;
+    m_list->setCurrentRow(row);
+    const RecordFinder::Hit hit = m_finder->hits()[size_t(row)];
+    m_finder->noteShown(hit);
+    withKeys ? emit activated(hit.type, hit.record) : emit shown(hit.type, hit.record);
+}
+
+void FindDock::selectAllHits()
+{
+    const std::vector<RecordFinder::Hit> hits = m_finder->hits();
+    int left = 0;
+    bool isInFront = false;
+    int first = -1;
+    for (size_t type = 0; type < m_trees.size(); ++type) {
+        KVTreeView &tree = *m_trees[type];
+        QVector<RecordRef> records;
+        for (const RecordFinder::Hit &hit : hits) {
+            if (size_t(hit.type) != type)
+                continue;
+            const bool isThere = tree.isShown(hit.record);
+            left += isThere ? 0 : 1;
+            if (isThere)
+                records.append(hit.record);
+        }
+        if (records.isEmpty())
+            continue;
+        tree.selectRecords(records, records.first());
+        isInFront |= m_current && size_t(m_current->kind().type) == type;
+        first = first < 0 ? int(type) : first;
+    }
+    if (!isInFront && first >= 0)
+        emit documentWanted(DocumentType(first));
+    if (left > 0)
+        return say(
+            tr("Not in the trees, and so not selected: %1. The filter or the options hide them.").arg(left),
+            true);
+    leave();
+}
+
+// --- Replacing ---------------------------------------------------------------------------------------------
+
+RecordFinder::Outcome FindDock::replaceThese(const std::vector<int> &hits)
+{
+    for (size_t type = 0; type < m_trees.size(); ++type) {
+        // What is typed and refused elsewhere is dealt with first.
+        if (m_finder->document(DocumentType(type)).returnToTyping())
+            return {};
+    }
+    const RecordFinder::Outcome outcome = m_finder->replace(hits, m_field->currentText(), m_value->text());
+    if (!outcome.reason.isEmpty()) {
+        say(outcome.isAboutHit
+                ? tr("Nothing was changed. %1: %2")
+                      .arg(recordPlace(m_finder->selection(outcome.refusing.type), outcome.refusing.record),
+                           outcome.reason)
+                : outcome.reason,
+            true);
+    } else if (outcome.records == 0) {
+        say(tr("Nothing was changed: the value is there already."), false);
+    } else {
+        m_condition->keep();
+        say(outcome.documents == 1
+                ? tr("Changed records: %1").arg(outcome.records)
+                : tr("Changed records: %1, in %2 documents")
+                      .arg(QString::number(outcome.records), QString::number(outcome.documents)),
+            false);
+    }
+    return outcome;
+}
+
+void FindDock::replaceCurrent()
+{
+    if (!m_replace->isEnabled())
+        return;
+    // By what it is found now.
+    m_finder->refresh();
+    if (m_finder->hits().empty())
+        return;
+    const int row = std::max(m_list->currentRow(), 0);
+    const RecordFinder::Hit hit = m_finder->hits()[size_t(row)];
+    if (!replaceThese({row}).reason.isEmpty())
+        return showRow(row, false);
+    // What is still found is gone on from; else another one has come into its row.
+    const auto &hits = m_finder->hits();
+    const bool isStill = row < int(hits.size()) && hits[size_t(row)].type == hit.type &&
+                         hits[size_t(row)].record == hit.record;
+    if (!hits.empty())
+        showRow((isStill ? row + 1 : row) % int(hits.size()), false);
+}
+
+void FindDock::replaceAll()
+{
+    m_finder->refresh();
+    std::vector<int> all(m_finder->hits().size());
+    std::iota(all.begin(), all.end(), 0);
+    const RecordFinder::Outcome outcome = replaceThese(all);
+    if (outcome.isAboutHit) {
+        const auto &hits = m_finder->hits();
+        for (size_t i = 0; i < hits.size(); ++i) {
+            if (hits[i].type == outcome.refusing.type && hits[i].record == outcome.refusing.record)
+                m_list->setCurrentRow(int(i));
+        }
+    }
+}

@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "RecordFinder.h"
+
+#include <QDockWidget>
+
+#include <array>
+
+class ConditionBox;
+class FoundList;
+class KVTreeView;
+class QAction;
+class QBoxLayout;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+/// Finds records of the open documents by conditions over their fields, lists them, leads to them, and gives
+/// fields of all or one of them another value.
+class FindDock : public QDockWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FindDock(QWidget *parent = nullptr);
+
+    /// The actions of the menu.
+    struct Actions
+    {
+        QAction *find;
+        QAction *next;
+        QAction *previous;
+    };
+    /// Trees and documents in the order of their kinds; all outlive the dock.
+    void setDocuments(const std::array<Document *, 3> &documents, const std::array<KVTreeView *, 3> &trees,
+                      const Actions &actions);
+    /// The document in front; null for none.
+    void setCurrent(const Document *document);
+
+signals:
+    /// The record is to be shown, and to have the keys.
+    void activated(DocumentType type, const RecordRef &record);
+    /// The record is to be shown; the keys stay where they are.
+    void shown(DocumentType type, const RecordRef &record);
+    /// The document is to come to the front.
+    void documentWanted(DocumentType type);
+    /// Something for the status bar.
+    void told(const QString &text);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    QBoxLayout *findRow();
+    QBoxLayout *replaceRow();
+    QPushButton *addButton(QBoxLayout *row, const char *name, const QString &text, const QString &tip,
+                           void (FindDock::*slot)());
+    void connectParts();
+    void open();
+    void leave();
+    void search();
+    void enter();
+    void onChanged();
+    void updateFields();
+    void updateState();
+    void say(const QString &text, bool isWarning);
+    QString emptyText() const;
+    void step(int by);
+    void next() { step(1); }
+    void previous() { step(-1); }
+    void showRow(int row, bool withKeys);
+    void selectAllHits();
+    void replaceCurrent();
+    void replaceAll();
+    RecordFinder::Outcome replaceThese(const std::vector<int> &hits);
+
+    QLabel *m_find;
+    ConditionBox *m_condition;
+    QComboBox *m_scope;
+    QLabel *m_count;
+    QLabel *m_set;
+    QComboBox *m_field;
+    QLineEdit *m_value;
+    QLabel *m_state;
+    QPushButton *m_selectAll = nullptr;
+    QPushButton *m_replace = nullptr;
+    QPushButton *m_replaceAll = nullptr;
+    FoundList *m_list = nullptr;
+    RecordFinder *m_finder = nullptr;
+    std::array<KVTreeView *, 3> m_trees{};
+    Actions m_actions{};
+    const Document *m_current = nullptr;
+    QString m_word; ///< what the condition is about, as it stands in the line for the field
+    QTimer m_pause;
+};

@@ -12,6 +12,9 @@ public:
 
     /// Nothing for a record that does not exist.
     virtual FieldValue value(const RecordField &field, const RecordIndex &index) const = 0;
+    /// See ModelField::name().
+    virtual QString name(const RecordField &field, const RecordIndex &index,
+                         const SkinnedMesh *names) const = 0;
     /// As recordCount().
     virtual int count(RecordKind kind, const RecordIndex &owner) const = 0;
 };
@@ -28,6 +31,10 @@ public:
     FieldValue value(const RecordField &field, const RecordIndex &index) const override
     {
         return static_cast<const ModelField<Model> &>(field).value(m_model, index);
+    }
+    QString name(const RecordField &field, const RecordIndex &index, const SkinnedMesh *names) const override
+    {
+        return static_cast<const ModelField<Model> &>(field).name(m_model, index, names);
     }
     int count(RecordKind kind, const RecordIndex &owner) const override
     {

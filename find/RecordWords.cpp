@@ -45,22 +45,16 @@ QString translatedNoun(const char *word)
     return QCoreApplication::translate("Records", word);
 }
 
-bool holdsBone(const RecordField &field)
-{
-    for (const char *id : {"bone", "parent", "headTrackStart", "headTrackEnd"}) {
-        if (field.id() == QLatin1String(id))
-            return true;
-    }
-    return false;
-}
-
 QLatin1String questionOf(const RecordField &field)
 {
-    if (field.id() == QLatin1String("animId"))
+    switch (field.naming()) {
+    case Naming::Animation:
         return Question::Animation;
-    return field.id() == QLatin1String("effect1") || field.id() == QLatin1String("effect2")
-               ? Question::Particle
-               : QLatin1String();
+    case Naming::HotPointEffect:
+        return Question::Particle;
+    default:
+        return {}; // of bones and of lists of its own, or asked by the event
+    }
 }
 
 class Dictionary
@@ -170,7 +164,7 @@ private:
         WordMeaning meaning;
         meaning.kind = field.kind();
         meaning.field = &field;
-        meaning.isBone = holdsBone(field);
+        meaning.isBone = field.namesBones();
         meaning.question = questionOf(field);
         addMeaning(text, meaning);
         // Without its axis, or its number, a word means all components.

@@ -3741,16 +3741,12 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <translation>Suchen und Ersetzen</translation>
     </message>
     <message>
-        <source>Find and Re&amp;place…</source>
-        <translation>Suchen und &amp;Ersetzen…</translation>
-    </message>
-    <message>
         <source>Find records by what is in their fields, and give these other values</source>
         <translation>Datensätze nach dem Inhalt ihrer Felder finden und diesen andere Werte geben</translation>
     </message>
     <message>
         <source>Find &amp;Next</source>
-        <translation>&amp;Weitersuchen</translation>
+        <translation>&amp;Nächster Treffer</translation>
     </message>
     <message>
         <source>Show the next record that was found</source>
@@ -3758,11 +3754,15 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
     <message>
         <source>Find Pre&amp;vious</source>
-        <translation>R&amp;ückwärts suchen</translation>
+        <translation>&amp;Voriger Treffer</translation>
     </message>
     <message>
         <source>Show the record that was found before</source>
         <translation>Den vorigen gefundenen Datensatz zeigen</translation>
+    </message>
+    <message>
+        <source>Find and Rep&amp;lace…</source>
+        <translation>Suchen und &amp;Ersetzen…</translation>
     </message>
 </context>
 <context>

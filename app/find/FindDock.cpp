@@ -41,6 +41,7 @@ FindDock::FindDock(QWidget *parent)
     m_field->setObjectName(QStringLiteral("cbFindField"));
     m_value->setObjectName(QStringLiteral("txtFindValue"));
     m_state->setObjectName(QStringLiteral("lblFindState"));
+    toggleViewAction()->setObjectName(QStringLiteral("actionFindDock"));
     m_pause.setSingleShot(true);
     m_pause.setInterval(PauseMs);
     auto *contents = new QWidget(this);
@@ -372,11 +373,11 @@ RecordFinder::Outcome FindDock::replaceThese(const std::vector<int> &hits)
         say(tr("Nothing was changed: the value is there already."), false);
     } else {
         m_condition->keep();
-        say(outcome.documents == 1
-                ? tr("Changed records: %1").arg(outcome.records)
-                : tr("Changed records: %1, in %2 documents")
-                      .arg(QString::number(outcome.records), QString::number(outcome.documents)),
-            false);
+        const QString changed = outcome.documents == 1 ? tr("Changed records: %1").arg(outcome.records)
+                                                       : tr("Changed records: %1, in %2 documents")
+                                                             .arg(QString::number(outcome.records),
+                                                                  QString::number(outcome.documents));
+        say(outcome.note.isEmpty() ? changed : changed + QStringLiteral(". ") + outcome.note, false);
     }
     return outcome;
 }

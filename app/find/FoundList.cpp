@@ -60,7 +60,12 @@ QVariant FoundRows::data(const QModelIndex &index, int role) const
     const FieldValue value = document.values().value(*field, record.index);
     const QStringList names = field->names();
     const auto *number = std::get_if<double>(&value);
-    return number && *number >= 0 && *number < names.size() ? names[int(*number)] : field->text(value);
+    if (number && *number >= 0 && *number < names.size())
+        return names[int(*number)];
+    const QString name = document.values().name(*field, record.index, document.namedMesh());
+    if (name.isEmpty() || field->namesBones())
+        return name.isEmpty() ? field->text(value) : name;
+    return QStringLiteral("%1  %2").arg(field->text(value), name);
 }
 
 QVariant FoundRows::headerData(int section, Qt::Orientation orientation, int role) const

@@ -201,6 +201,10 @@ RecordFinder::Outcome RecordFinder::replace(const std::vector<int> &hits, const 
             continue;
         outcome.records += replacement.differing;
         ++outcome.documents;
+        for (const FieldChange &change : replacement.changes) {
+            if (outcome.note.isEmpty())
+                outcome.note = change.field->note();
+        }
         each.document->changeFields(replacement.changes,
                                     tr("Replace %1 (%2)").arg(word, QString::number(replacement.differing)));
     }

@@ -64,6 +64,7 @@ public:
     {
         int records = 0; ///< that have another value now
         int documents = 0;
+        QString note;   ///< what else there is to say of what was changed
         QString reason; ///< why nothing was changed; empty where it was
         Hit refusing{};
         bool isAboutHit = false; ///< whether `refusing` is one that refuses

@@ -122,7 +122,7 @@ PageStack::PageStack(QWidget *parent)
     , m_count(new QLabel(this))
     , m_pages(new QStackedWidget(this))
     , m_choose(addFieldAction("actionFieldChoose", tr("Choose by Name"), Qt::Key_F2))
-    , m_pick(addFieldAction("actionFieldPick", tr("Pick in the View"), Qt::SHIFT + Qt::Key_F2))
+    , m_pick(addFieldAction("actionFieldPick", tr("Pick in the View"), int(Qt::SHIFT) | Qt::Key_F2))
 {
     connect(m_choose, &QAction::triggered, this, [this] {
         if (FieldName *name = focusedName())

@@ -3,6 +3,7 @@
 #include "Bench.h"
 #include "KVTreeView.h"
 #include "LargeModels.h"
+#include "MaterialCatalog.h"
 #include "PageStack.h"
 #include "PropertyPages.h"
 #include "StaticMeshCommands.h"
@@ -35,13 +36,14 @@ struct OpenedMesh
 {
     StaticMeshDocument document{DocumentType::StaticMesh, RecordKind::StaticMesh};
     KVTreeView tree;
+    MaterialCatalog materials;
     PageStack pages;
 
     OpenedMesh()
     {
         tree.setDocument(&document);
         pages.setTree(&tree);
-        addPages(pages, document, tree);
+        addPages(pages, document, tree, materials);
     }
     void open(const QString &path)
     {

@@ -5,6 +5,7 @@
 #include "Bench.h"
 #include "DelimitedText.h"
 #include "KVTreeView.h"
+#include "MaterialCatalog.h"
 #include "PageStack.h"
 #include "PropertyPages.h"
 #include "RecordTableView.h"
@@ -32,7 +33,7 @@ struct Scene
         mesh.vertices.resize(Vertices);
         tree.setDocument(&document);
         pages.setTree(&tree);
-        addPages(pages, document, tree);
+        addPages(pages, document, tree, materials);
         document.take(std::move(mesh), QStringLiteral("many"));
         tree.show();
         pages.show();
@@ -41,6 +42,7 @@ struct Scene
 
     SkinnedMeshDocument document{DocumentType::SkinnedMesh, RecordKind::SkinnedMesh};
     KVTreeView tree;
+    MaterialCatalog materials;
     PageStack pages;
     RecordTableView table;
     ModelFieldSource<SkinnedMesh> source{document};

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Bench.h"
 #include "KVTreeView.h"
+#include "MaterialCatalog.h"
 #include "PageStack.h"
 #include "PropertyPages.h"
 #include "RecordItem.h"
@@ -56,9 +57,10 @@ SkinnedMesh meshOf(int bones, int vertices)
 std::pair<double, double> editAndUndo(int count, bool apart)
 {
     MeshTree vertices(meshOf(1, count));
+    MaterialCatalog materials;
     PageStack pages;
     pages.setTree(&vertices.tree);
-    addPages(pages, vertices.document, vertices.tree);
+    addPages(pages, vertices.document, vertices.tree, materials);
     vertices.tree.rebuild();
     // As a hand does: the tree has looked for none of them.
     const QModelIndex root = vertices.tree.model()->index(0, 0);

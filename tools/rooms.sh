@@ -27,7 +27,7 @@ floors='core resources translations
 model net app/desktop import/box
 undo import render/scene app/widgets json
 find
-app/documents app/choice gltf import/scene render/input
+app/documents app/choice app/materials gltf import/scene render/input
 render import/ready
 app/tree app/view app/timeline app/explorer app/recovery app/console
 app/tree/pages app/find app/table app/problems app/compare app/database app/import

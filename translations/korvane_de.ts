@@ -949,6 +949,10 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>%1 of %2</source>
         <translation>%1 von %2</translation>
     </message>
+    <message>
+        <source>Parts of a path</source>
+        <translation>Teile eines Pfads</translation>
+    </message>
 </context>
 <context>
     <name>CommandPalette</name>
@@ -3763,6 +3767,85 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>Find and Rep&amp;lace…</source>
         <translation>Suchen und &amp;Ersetzen…</translation>
+    </message>
+</context>
+<context>
+    <name>MaterialField</name>
+    <message>
+        <source>Choose by Name</source>
+        <translation>Nach Namen wählen</translation>
+    </message>
+    <message>
+        <source>Open Material File</source>
+        <translation>Materialdatei öffnen</translation>
+    </message>
+    <message>
+        <source>Open the file that the material is in with the program that the desktop has for it</source>
+        <translation>Die Datei, in der das Material steht, mit dem Programm öffnen, das der Desktop dafür hat</translation>
+    </message>
+    <message>
+        <source>&amp;Open Material File</source>
+        <translation>Materialdatei ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Open Its &amp;Folder</source>
+        <translation>O&amp;rdner der Datei öffnen</translation>
+    </message>
+    <message>
+        <source>looking for its file</source>
+        <translation>Datei wird gesucht</translation>
+    </message>
+    <message>
+        <source>%1 in the game folder</source>
+        <translation>%1 im Spielordner</translation>
+    </message>
+    <message>
+        <source>%1 in the mod folder</source>
+        <translation>%1 im Mod-Ordner</translation>
+    </message>
+    <message>
+        <source>drawn white, without a file</source>
+        <translation>wird weiß gezeichnet, ohne Datei</translation>
+    </message>
+    <message>
+        <source>no material</source>
+        <translation>kein Material</translation>
+    </message>
+    <message>
+        <source>the game and mod folders are not set</source>
+        <translation>Spiel- und Mod-Ordner sind nicht gewählt</translation>
+    </message>
+    <message>
+        <source>%1 not found</source>
+        <translation>%1 nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Neither the game folder nor the mod folder has this file.</source>
+        <translation>Weder der Spielordner noch der Mod-Ordner hat diese Datei.</translation>
+    </message>
+    <message>
+        <source>not in %1</source>
+        <translation>nicht in %1</translation>
+    </message>
+    <message>
+        <source>%1 has no material of that name.</source>
+        <translation>%1 hat kein Material dieses Namens.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read</source>
+        <translation>%1 kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>There are no materials in the game folder and the mod folder. The options set both.</source>
+        <translation>Im Spielordner und im Mod-Ordner gibt es keine Materialien. Beide werden in den Optionen gewählt.</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>Materialien</translation>
+    </message>
+    <message>
+        <source>Failed to open %1</source>
+        <translation>%1 konnte nicht geöffnet werden</translation>
     </message>
 </context>
 <context>

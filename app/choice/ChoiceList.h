@@ -32,6 +32,7 @@ public:
     void setFilter(const QString &text);
     /// The picture of each row, by the number of its choice; asked for when the row is shown.
     void setIcons(std::function<QIcon(int number)> icon) { m_icon = std::move(icon); }
+    bool hasIcons() const { return m_icon != nullptr; }
 
     const Choice &choice(int row) const { return m_choices[m_rows[row]]; }
     /// The first row with that number, which counts without its fraction; -1 when there is none.

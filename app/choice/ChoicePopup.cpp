@@ -18,6 +18,7 @@
 
 namespace {
 constexpr int IdMargin = 16; // pixels, of both sides
+constexpr int IconSide = 24;
 
 class ChoiceView : public QTreeView
 {
@@ -51,7 +52,8 @@ ChoicePopup::ChoicePopup(const QString &title, ChoiceList *list, double current,
     setAccessibleName(title);
     list->setParent(this);
     m_line->setObjectName(QStringLiteral("lineChoice"));
-    m_line->setPlaceholderText(tr("Number or words of a name"));
+    m_line->setPlaceholderText(list->columnCount() > 1 ? tr("Number or words of a name")
+                                                       : tr("Parts of a path"));
     m_line->setAccessibleName(title);
     m_line->addAction(namedIcon(QStringLiteral("search")), QLineEdit::LeadingPosition);
     m_list->setObjectName(QStringLiteral("listChoices"));
@@ -59,12 +61,15 @@ ChoicePopup::ChoicePopup(const QString &title, ChoiceList *list, double current,
     m_list->setModel(list);
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
+    m_list->setTextElideMode(Qt::ElideMiddle); // paths differ at their ends
     m_list->setHeaderHidden(true);
     if (list->columnCount() > 1)
         m_list->setColumnWidth(0, fontMetrics().horizontalAdvance(list->longestId()) + IdMargin);
     m_list->setFocusPolicy(Qt::NoFocus);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    if (list->hasIcons())
+        m_list->setIconSize({IconSide, IconSide});
     m_count->setObjectName(QStringLiteral("lblChoices"));
     m_count->setForegroundRole(QPalette::PlaceholderText);
 
@@ -87,7 +92,9 @@ ChoicePopup::ChoicePopup(const QString &title, ChoiceList *list, double current,
 void ChoicePopup::popUp(int width)
 {
     constexpr int rows = 14;
-    constexpr int letters = 44; ///< a name, its number and the bar
+    constexpr int least = 44; ///< letters: a name, its number and the bar
+    constexpr int most = 76;
+    const int letters = std::clamp(m_choices->longestId().size() + 8, least, most);
     const int height = m_list->sizeHintForRow(0);
     const QSize wanted(std::max(width, fontMetrics().averageCharWidth() * letters),
                        m_line->sizeHint().height() + rows * std::max(height, fontMetrics().height()) + 16);

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "TextField.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QMenu>
 
 TextField::TextField(QWidget *parent)
     : QLineEdit(parent)
@@ -51,6 +53,17 @@ void TextField::discardText()
 bool TextField::event(QEvent *event)
 {
     return answer(event) || QLineEdit::event(event);
+}
+
+void TextField::contextMenuEvent(QContextMenuEvent *event)
+{
+    QMenu *menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    if (!actions().isEmpty())
+        menu->addSeparator();
+    menu->addActions(actions());
+    menu->popup(event->globalPos());
+    event->accept();
 }
 
 void TextField::keyPressEvent(QKeyEvent *event)

@@ -33,6 +33,8 @@ signals:
 
 protected:
     bool event(QEvent *event) override;
+    /// Its actions stand below what every line offers.
+    void contextMenuEvent(QContextMenuEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void selectText() override { selectAll(); }

@@ -8,6 +8,7 @@
 #include "FolderExplorer.h"
 #include "KVOpenGLWidget.h"
 #include "KVTreeView.h"
+#include "MaterialCatalog.h"
 #include "MeshSource.h"
 #include "PageStack.h"
 #include "Playback.h"
@@ -58,14 +59,15 @@ DocumentPanes::DocumentPanes(const std::array<DocumentPane, 3> &panes, SkinnedMe
     , m_staticMesh(staticMesh)
     , m_tabs(tabs)
     , m_track(track)
+    , m_materials(new MaterialCatalog(this))
     , m_selection(new ViewSelection(skinnedMesh, staticMesh,
                                     {shownRecords(panes[0]), shownRecords(panes[1]), shownRecords(panes[2])},
                                     this))
 {
     const auto &[meshPane, animPane, rigidPane] = m_panes;
-    addPages(*meshPane.pages, skinnedMesh, *meshPane.tree);
+    addPages(*meshPane.pages, skinnedMesh, *meshPane.tree, *m_materials);
     addPages(*animPane.pages, anim, *animPane.tree, skinnedMesh);
-    addPages(*rigidPane.pages, staticMesh, *rigidPane.tree);
+    addPages(*rigidPane.pages, staticMesh, *rigidPane.tree, *m_materials);
     prepareViewOf(skinnedMesh);
     prepareViewOf(staticMesh);
     meshPane.viewport->setSkinnedMeshMode(true);
@@ -318,6 +320,11 @@ void DocumentPanes::showNames()
     if (anim.document->isOpen())
         anim.pages->refresh();
     m_track.updateRange();
+}
+
+void DocumentPanes::OnMaterialsChanged()
+{
+    m_materials->reload();
 }
 
 void DocumentPanes::OnNamesChanged()

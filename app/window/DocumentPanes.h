@@ -12,6 +12,7 @@
 class FolderExplorer;
 class KVOpenGLWidget;
 class KVTreeView;
+class MaterialCatalog;
 class PageStack;
 class QStackedWidget;
 class QTabWidget;
@@ -80,6 +81,8 @@ public slots:
     void OnOptionsAccepted();
     /// Numbers of the game may be called otherwise.
     void OnNamesChanged();
+    /// Materials, textures, or the folders that they are in, have changed.
+    void OnMaterialsChanged();
     void on_tabWidget_currentChanged();
     void on_tabTrees_currentChanged(int index);
 
@@ -111,6 +114,7 @@ private:
     StaticMeshDocument &m_staticMesh;
     const DocumentTabs m_tabs;
     AnimTrackFrame &m_track;
+    MaterialCatalog *m_materials;
     std::array<QString, 3> m_paths;     ///< of what was opened, to tell it from what is only read again
     std::array<RecordRef, 3> m_shown{}; ///< what the viewport marks of each
     ViewSelection *m_selection;

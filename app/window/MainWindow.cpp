@@ -253,6 +253,7 @@ void MainWindow::connectActions()
     wire(m_ui->actionRefreshExplorers, textures, &TextureWatch::reload);
     connect(m_preferences, &Preferences::foldersChanged, textures, &TextureWatch::reload);
     connect(textures, &TextureWatch::reloaded, m_problems, &Problems::recheck);
+    connect(textures, &TextureWatch::reloaded, m_panes, &DocumentPanes::OnMaterialsChanged);
     connect(m_preferences, &Preferences::accepted, m_panes, &DocumentPanes::OnOptionsAccepted);
     connect(m_preferences, &Preferences::accepted, m_explorerFiles, &ExplorerFiles::OnOptionsAccepted);
     connect(m_panes, &DocumentPanes::currentChanged, m_layout,

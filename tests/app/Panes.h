@@ -6,6 +6,7 @@
 #include "FlagsEditor.h"
 #include "FloatSpinBox.h"
 #include "IntSpinBox.h"
+#include "MaterialCatalog.h"
 #include "NamesFile.h"
 #include "PageStack.h"
 #include "PropertyPages.h"
@@ -67,9 +68,9 @@ struct Panes
 {
     Panes()
     {
-        addPages(mesh.stack, mesh.document, mesh.tree);
+        addPages(mesh.stack, mesh.document, mesh.tree, materials);
         addPages(anim.stack, anim.document, anim.tree, mesh.document);
-        addPages(rigid.stack, rigid.document, rigid.tree);
+        addPages(rigid.stack, rigid.document, rigid.tree, materials);
     }
 
     void openPlain()
@@ -89,6 +90,7 @@ struct Panes
             return rigid;
     }
 
+    MaterialCatalog materials;
     Pane<SkinnedMesh> mesh{DocumentType::SkinnedMesh, RecordKind::SkinnedMesh};
     Pane<AnimFile> anim{DocumentType::Anim, RecordKind::AnimFile};
     Pane<StaticMesh> rigid{DocumentType::StaticMesh, RecordKind::StaticMesh};

@@ -3,13 +3,11 @@
 #include "FieldName.h"
 
 #include "ChoicePopup.h"
-#include "Icons.h"
 #include "NameRow.h"
 #include "NumberField.h"
 #include "Shortcuts.h"
 
 #include <QAction>
-#include <QFormLayout>
 #include <QToolButton>
 
 FieldName::FieldName(NumberField *editor, Choices choices, bool isBone)
@@ -20,32 +18,14 @@ FieldName::FieldName(NumberField *editor, Choices choices, bool isBone)
 {
     const QString name = editor->objectName().mid(2); // behind "sb"
     m_hint->setObjectName(QStringLiteral("hint") + name);
-    auto *form = static_cast<QFormLayout *>(editor->parentWidget()->layout());
-    int line = 0;
-    QFormLayout::ItemRole role{};
-    form->getWidgetPosition(editor, &line, &role);
-    form->removeWidget(editor);
-    auto *row = new NameRow;
-    row->addWidget(editor);
-    row->addWidget(m_hint);
-    const auto addButton = [&](const QString &objectName, const char *icon, const QString &does) {
-        auto *button = new QToolButton(editor->parentWidget());
-        button->setObjectName(objectName + name);
-        button->setIcon(namedIcon(QLatin1String(icon)));
-        button->setAutoRaise(true);
-        button->setFocusPolicy(Qt::NoFocus); // a key of the field does the same
-        button->setAccessibleName(does);
-        row->addWidget(button);
-        return button;
-    };
-    m_button = addButton(QStringLiteral("btnChoose"), "search", tr("Choose by Name"));
+    NameRow *row = NameRow::around(editor, m_hint);
+    m_button = row->addButton(QStringLiteral("btnChoose") + name, "search", tr("Choose by Name"));
     connect(m_button, &QToolButton::clicked, this, &FieldName::choose);
     if (isBone) {
-        m_pick = addButton(QStringLiteral("btnPick"), "pickbone", tr("Pick in the View"));
+        m_pick = row->addButton(QStringLiteral("btnPick") + name, "pickbone", tr("Pick in the View"));
         m_pick->setCheckable(true);
         connect(m_pick, &QToolButton::clicked, this, &FieldName::pickWanted);
     }
-    form->setLayout(line, role, row);
 }
 
 void FieldName::show(double number, const IndexTarget &target, bool isChoice)

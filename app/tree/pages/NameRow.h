@@ -5,6 +5,8 @@
 #include <QLayout>
 #include <QVector>
 
+class QToolButton;
+
 /// An editor, what stands for its value, and buttons: in one row where all of them have room, else with the
 /// name below the others. What is hidden takes no room.
 class NameRow : public QLayout
@@ -12,8 +14,15 @@ class NameRow : public QLayout
     Q_OBJECT
 
 public:
-    NameRow() = default;
+    /// Whether the name stands in the editor's line where there is room, or below it with the buttons.
+    enum class Name { Beside, Below };
+
+    /// Has an editor that stands in a form alone share its place with its name.
+    static NameRow *around(QWidget *editor, QWidget *name, Name place = Name::Beside);
     ~NameRow() override;
+
+    /// One that takes no keys: a key of the editor does the same.
+    QToolButton *addButton(const QString &objectName, const char *icon, const QString &does);
 
     /// The editor, then its name, then buttons.
     void addItem(QLayoutItem *item) override { m_items.append(item); }
@@ -29,11 +38,15 @@ public:
     void setGeometry(const QRect &place) override;
 
 private:
+    explicit NameRow(Name place)
+        : m_place(place)
+    {}
     int gap() const;
     int lineHeight() const;
     int buttonsWidth() const;
     /// Gives the height that is needed, and, if that is wanted, the items their places.
     int arrange(const QRect &place, bool puts) const;
 
+    const Name m_place;
     QVector<QLayoutItem *> m_items;
 };

@@ -4,6 +4,7 @@
 
 #include "AxisRow.h"
 #include "LabelDrag.h"
+#include "MaterialField.h"
 #include "NumberField.h"
 #include "Shortcuts.h"
 
@@ -126,7 +127,11 @@ PageStack::PageStack(QWidget *parent)
 {
     connect(m_choose, &QAction::triggered, this, [this] {
         if (FieldName *name = focusedName())
-            name->choose();
+            return name->choose();
+        for (MaterialField *material : findChildren<MaterialField *>()) {
+            if (material->editor()->hasFocus())
+                material->choose();
+        }
     });
     connect(m_pick, &QAction::triggered, this, [this] {
         FieldName *name = focusedName();
@@ -245,6 +250,8 @@ void PageStack::addPage(PropertyPage *page)
             makeAxisRow(form, row);
     }
     arrangeForms(*page);
+    for (MaterialField *material : page->findChildren<MaterialField *>())
+        material->setAction(m_choose);
     for (FieldName *name : page->names()) {
         name->setActions(m_choose, m_pick);
         connect(name, &FieldName::pickWanted, this,

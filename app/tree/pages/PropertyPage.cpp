@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "PropertyPage.h"
 
+#include "MaterialField.h"
 #include "TypingUndo.h"
 
 #include <QEvent>
@@ -53,6 +54,8 @@ void PropertyPage::leave()
 {
     for (FieldName *name : names())
         name->leave();
+    for (MaterialField *material : findChildren<MaterialField *>())
+        material->leave();
     QStringList refusals;
     for (TypingField *field : TypingField::in(*this)) {
         if (field->isRefused())

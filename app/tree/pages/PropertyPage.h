@@ -202,6 +202,13 @@ protected:
             stack->endMacro();
     }
 
+    /// Gives every selected record this value.
+    template <typename Row>
+    void giveAll(const Row &row, const FieldValue &value)
+    {
+        give(fieldOf(row), value);
+    }
+
 private:
     template <typename Command, typename Editor, typename Part>
     bool markEditor(Editor *editor, const Part &part, const QVector<RecordIndex> &others)
@@ -268,7 +275,7 @@ private:
     {
         auto *name = new FieldName(
             editor, [this, &field] { return choicesOf(field); }, field.namesBones());
-        connect(name, &FieldName::chosen, this, [this, &field](int number) { give(field, double(number)); });
+        connect(name, &FieldName::chosen, this, [this, &field](int number) { giveNumber(field, number); });
         return [this, editor, &field, name](const QVector<RecordIndex> &others, bool differs) {
             if (!record())
                 return;
@@ -362,18 +369,22 @@ private:
         return {};
     }
 
-    /// Gives every selected record this number.
-    void give(const ModelField<Model> &field, double number)
+    void give(const ModelField<Model> &field, const FieldValue &value)
     {
-        const QString reason = field.range().fit(number, number);
-        if (!reason.isEmpty()) {
-            emit told(reason);
-            return;
-        }
         QVector<FieldChange> changes;
         for (const RecordIndex &index : m_tree.selectedRecords(RecordType::kind))
-            changes.append({&field, index, number});
+            changes.append({&field, index, value});
         RecordFields::change(changes, field.stepText(), m_document.editTarget(), *m_document.undoStack());
+    }
+    /// The same with a number that was picked, if the field can hold it.
+    void giveNumber(const ModelField<Model> &field, int number)
+    {
+        double value = 0.0;
+        const QString reason = field.range().fit(number, value);
+        if (reason.isEmpty())
+            give(field, value);
+        else
+            emit told(reason);
     }
 
     /// Gives a vector of every selected record several numbers at once: all of its components, or as many as

@@ -27,13 +27,14 @@ void add(PageStack &stack, Arguments &...arguments)
 }
 } // namespace
 
-void addPages(PageStack &stack, SkinnedMeshDocument &document, const KVTreeView &tree)
+void addPages(PageStack &stack, SkinnedMeshDocument &document, const KVTreeView &tree,
+              MaterialCatalog &materials)
 {
     add<SkinnedMeshPage>(stack, document, tree);
     add<SkinnedMeshCnodePage>(stack, document, tree);
     add<SkinnedMeshHPPage>(stack, document, tree);
     add<SkinnedMeshNodePage>(stack, document, tree);
-    add<SkinnedMeshSurfacePage>(stack, document, tree);
+    add<SkinnedMeshSurfacePage>(stack, document, tree, materials);
     add<SkinnedMeshTriIndexPage>(stack, document, tree);
     add<SkinnedMeshVertPage>(stack, document, tree);
 }
@@ -50,10 +51,11 @@ void addPages(PageStack &stack, AnimDocument &document, const KVTreeView &tree, 
     add<AnimActionPage>(stack, document, tree, mesh);
 }
 
-void addPages(PageStack &stack, StaticMeshDocument &document, const KVTreeView &tree)
+void addPages(PageStack &stack, StaticMeshDocument &document, const KVTreeView &tree,
+              MaterialCatalog &materials)
 {
     add<StaticMeshPage>(stack, document, tree);
-    add<StaticMeshSurfacePage>(stack, document, tree);
+    add<StaticMeshSurfacePage>(stack, document, tree, materials);
     add<StaticMeshTriIndexPage>(stack, document, tree);
     add<StaticMeshVertPage>(stack, document, tree);
 }

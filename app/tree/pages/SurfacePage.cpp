@@ -3,17 +3,19 @@
 #include "SurfacePage.h"
 
 SkinnedMeshSurfacePage::SkinnedMeshSurfacePage(ModelDocument<Model> &document, const KVTreeView &tree,
-                                               QWidget *parent)
-    : SurfacePage(document, tree, parent)
+                                               MaterialCatalog &materials, QWidget *parent)
+    : SurfacePage(document, tree, materials, parent)
 {
     bind(m_ui.txtSurfaceMaterial, Fields::SkinnedMaterial,
          &SkinnedMeshSurfacePage::OnSkinMeshSurfaceMaterialChanged);
+    chooseFor(Fields::SkinnedMaterial);
 }
 
 StaticMeshSurfacePage::StaticMeshSurfacePage(ModelDocument<Model> &document, const KVTreeView &tree,
-                                             QWidget *parent)
-    : SurfacePage(document, tree, parent)
+                                             MaterialCatalog &materials, QWidget *parent)
+    : SurfacePage(document, tree, materials, parent)
 {
     bind(m_ui.txtSurfaceMaterial, Fields::StaticMaterial,
          &StaticMeshSurfacePage::OnStaticMeshSurfaceMaterialChanged);
+    chooseFor(Fields::StaticMaterial);
 }

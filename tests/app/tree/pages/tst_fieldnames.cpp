@@ -5,9 +5,15 @@
 #include "ChoicePopup.h"
 #include "EventArguments.h"
 #include "IndexHint.h"
+#include "MaterialCatalog.h"
 #include "Panes.h"
 
+#include <QBuffer>
+#include <QCompleter>
+#include <QDesktopServices>
+
 #include <limits>
+#include <tuple>
 
 using namespace SampleModels;
 
@@ -248,7 +254,155 @@ private slots:
         QTest::keyClick(line(), Qt::Key_Escape);
     }
 
+    void materialsAreListedFromBothFolders()
+    {
+        setFolders();
+        const std::atomic_bool cancelled{false};
+        const auto listed = [&](const QString &game, const QString &mod) {
+            QStringList paths;
+            for (const Material &material : listMaterials(game, mod, cancelled))
+                paths << material.path + '=' + material.texture;
+            return paths;
+        };
+        const QString game = m_files.path("game"), mod = m_files.path("mod");
+        // A file of the game hides the mod's of its name, a broken one has none.
+        QCOMPARE(listed(game, mod),
+                 QStringList({"materials/deep/er/one/x=", "materials/mat_house/roof=textures/red.png",
+                              "materials/mat_house/wall=textures/none.png",
+                              "mod/mat_tree/leaf=textures/tree.png"}));
+        QCOMPARE(listed({}, mod),
+                 QStringList({"materials/mat_house/hidden=", "mod/mat_tree/leaf=textures/tree.png"}));
+        QCOMPARE(listed({}, {}), QStringList());
+
+        MaterialCatalog catalog;
+        QVERIFY(catalog.isEmptyYet());
+        catalog.refresh();
+        QTRY_VERIFY(!catalog.isEmptyYet());
+        QCOMPARE(catalog.materials().size(), 4);
+        // Pictures come when they are asked for, and none where there is none.
+        const auto colour = [&](const char *texture) {
+            const QIcon icon = catalog.icon(QLatin1String(texture));
+            return icon.pixmap(MaterialCatalog::IconSide).toImage().pixelColor(16, 16);
+        };
+        QCOMPARE(colour("textures/red.png").alpha(), 0);
+        colour("textures/none.png");
+        QTRY_COMPARE(colour("textures/red.png"), QColor(Qt::red));
+        QCOMPARE(colour("textures/none.png").alpha(), 0);
+        // What changes is read anew.
+        putPicture("game/textures/red.png", Qt::blue);
+        QVERIFY(QFile::remove(m_files.path("mod/mod/mat_tree.kmat")));
+        catalog.reload();
+        QTRY_COMPARE(catalog.materials().size(), 3);
+        QTRY_COMPARE(colour("textures/red.png"), QColor(Qt::blue));
+    }
+
+    void aMaterialSaysItsFile()
+    {
+        setFolders();
+        const std::tuple<const char *, const char *, bool> rows[] = {
+            {"materials/mat_house/roof", "materials/mat_house.kmat in the game folder", false},
+            {"mod/mat_tree/leaf", "mod/mat_tree.kmat in the mod folder", false},
+            {"materials/mat_house/hidden", "not in materials/mat_house.kmat", true},
+            {"materials/broken/x", "materials/broken.kmat cannot be read", true},
+            {"materials/none/x", "materials/none.kmat not found", true},
+            {"materials/none/x_white", "drawn white, without a file", false},
+            {"", "no material", false},
+        };
+        Panes panes;
+        StaticMesh mesh = plainStatic();
+        mesh.surfaces.resize(std::size(rows));
+        for (size_t i = 0; i < std::size(rows); ++i)
+            mesh.surfaces[i].materialPath = QLatin1String(std::get<0>(rows[i]));
+        panes.rigid.open(mesh);
+        m_opened.clear();
+        QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "OnOpened");
+        for (size_t i = 0; i < std::size(rows); ++i) {
+            panes.rigid.select({{RecordKind::StaticSurface, {int(i)}}});
+            const auto *hint = panes.rigid.child<IndexHint>("hintSurfaceMaterial");
+            QTRY_COMPARE(hint->text(), QString::fromLatin1(std::get<1>(rows[i])));
+            QCOMPARE(hint->isMissing(), std::get<2>(rows[i]));
+            QTest::mouseClick(panes.rigid.child<QToolButton>("btnOpenSurfaceMaterial"), Qt::LeftButton);
+        }
+        QStringList names;
+        for (const QUrl &url : qAsConst(m_opened))
+            names << url.toLocalFile().mid(m_files.path().size() + 1);
+        QCOMPARE(names, QStringList({"game/materials/mat_house.kmat", "mod/mod/mat_tree.kmat",
+                                     "game/materials/mat_house.kmat", "game/materials/broken.kmat"}));
+        panes.rigid.select({{RecordKind::StaticSurface, {0}}, {RecordKind::StaticSurface, {1}}});
+        QTRY_COMPARE(panes.rigid.child<IndexHint>("hintSurfaceMaterial")->text(),
+                     QStringLiteral("values differ"));
+        panes.rigid.page()->findChild<QAction *>(QStringLiteral("actionOpenMaterialFolder"))->trigger();
+        QCOMPARE(m_opened.last().fileName(), QStringLiteral("materials"));
+        QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+    }
+
+    void materialsAreCompletedAndChosen()
+    {
+        setFolders();
+        Panes panes;
+        StaticMesh mesh = plainStatic();
+        mesh.surfaces.resize(2);
+        mesh.surfaces[0].materialPath = QStringLiteral("mod/mat_tree/leaf");
+        mesh.surfaces[1].materialPath = QStringLiteral("materials/mat_house/roof");
+        panes.rigid.open(mesh);
+        panes.rigid.select({{RecordKind::StaticSurface, {0}}, {RecordKind::StaticSurface, {1}}});
+        auto *field = panes.rigid.child<QLineEdit>("txtSurfaceMaterial");
+        const auto &surfaces = panes.rigid.document.model().surfaces;
+        enter(panes.rigid.stack, field);
+
+        // A part of the path finds it; nothing is stored before it is chosen.
+        QTRY_VERIFY(field->completer()->model()->rowCount() == 4);
+        QTest::keyClicks(field, QStringLiteral("wall"));
+        QTRY_VERIFY(field->completer()->popup()->isVisible());
+        QTest::keyClick(field->completer()->popup(), Qt::Key_Down);
+        QCOMPARE(panes.rigid.undo().count(), 0);
+        QTest::keyClick(field->completer()->popup(), Qt::Key_Return);
+        QTRY_COMPARE(panes.rigid.undo().count(), 1);
+        QCOMPARE(surfaces[0].materialPath, QStringLiteral("materials/mat_house/wall"));
+        QCOMPARE(surfaces[1].materialPath, QStringLiteral("materials/mat_house/wall"));
+        panes.rigid.undo().undo();
+
+        // From the list of all, one that the first of them has already.
+        QTest::keyClick(field, Qt::Key_F2);
+        QTRY_VERIFY(popup());
+        QCOMPARE(currentChoice(), QStringLiteral("mod/mat_tree/leaf"));
+        QTest::keyClicks(line(), QStringLiteral("house"));
+        QCOMPARE(find<QTreeView>(*popup(), "listChoices")->model()->rowCount(), 2);
+        QTest::keyClick(line(), Qt::Key_Escape);
+        QVERIFY(panes.rigid.undo().index() == 0);
+        enter(panes.rigid.stack, field); // without a window system popups take the activation
+        QTest::keyClick(field, Qt::Key_F2);
+        QTest::keyClick(line(), Qt::Key_Return);
+        QCOMPARE(surfaces[1].materialPath, QStringLiteral("mod/mat_tree/leaf"));
+        QCOMPARE(panes.rigid.undo().index(), 1);
+    }
+
+public slots:
+    void OnOpened(const QUrl &url) { m_opened.append(url); }
+
 private:
+    void setFolders()
+    {
+        m_files.put("game/materials/mat_house.kmat",
+                    "material wall {\nsampler \"diffuse\" 0 \"textures/none.png\" {\n}\n}\n"
+                    "material roof {\nsampler \"diffuse\" 0 \"textures/red.png\" {\n}\n}\n");
+        m_files.put("game/materials/broken.kmat", "sampler \"diffuse\" 0 \"x\"\n");
+        m_files.put("game/materials/deep/er/one.kmat", "material x {\n}\n");
+        m_files.put("mod/materials/mat_house.kmat", "material hidden {\n}\n");
+        m_files.put("mod/mod/mat_tree.kmat",
+                    "material leaf {\nsampler \"diffuse\" 0 \"textures/tree.png\" {\n}\n}\n");
+        putPicture("game/textures/red.png", Qt::red);
+        Settings::GamePath.setValue(m_files.path("game"));
+        Settings::OutputDir.setValue(m_files.path("mod"));
+    }
+    void putPicture(const char *name, Qt::GlobalColor colour)
+    {
+        QImage picture(64, 64, QImage::Format_RGB32);
+        picture.fill(colour);
+        QBuffer buffer;
+        QVERIFY(picture.save(&buffer, "PNG"));
+        m_files.put(QLatin1String(name), buffer.data());
+    }
     static QLineEdit *line() { return find<QLineEdit>(*popup(), "lineChoice"); }
     /// Gives a field the keys.
     static void enter(QWidget &window, QWidget *field)
@@ -261,6 +415,8 @@ private:
     }
 
     QTemporaryDir m_home;
+    TestFolder m_files;
+    QVector<QUrl> m_opened;
 };
 
 QTEST_MAIN(tst_FieldNames)

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "RecordFields.h"
+#include "RecordField.h"
 
 #include <functional>
 #include <memory>
 #include <optional>
+
+class QUndoStack;
 
 /// The names of animations, which the mesh beside them has: one for each id. For the GUI thread.
 namespace AnimationNaming {

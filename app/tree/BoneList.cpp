@@ -7,6 +7,9 @@
 #include "SkinnedMeshCommands.h"
 
 #include <QCoreApplication>
+#include <QMap>
+
+#include <algorithm>
 
 namespace {
 struct BoneTexts
@@ -14,7 +17,9 @@ struct BoneTexts
     Q_DECLARE_TR_FUNCTIONS(RecordEdits)
 };
 
-constexpr const char *NumbersKey = "numbers"; ///< of the bones, in the mesh that they were copied of
+// Of the bones, in the mesh that they were copied of; what they are called there, by number.
+constexpr const char *NumbersKey = "numbers";
+constexpr const char *NamesKey = "names";
 
 QVector<int> numbersOf(const QVector<RecordIndex> &records)
 {
@@ -79,9 +84,12 @@ QByteArray BoneList::text(const QVector<RecordIndex> &records, const RecordIndex
 {
     std::vector<SkinnedMeshNode> bones;
     std::vector<quint16> numbers;
+    QMap<int, QString> names;
     for (const RecordIndex &index : records) {
         bones.push_back(m_document.model().nodes[size_t(index[0])]);
         numbers.push_back(quint16(index[0]));
+        if (!bones.back().name.isEmpty())
+            names.insert(index[0], bones.back().name);
     }
     QByteArray text;
     {
@@ -89,6 +97,8 @@ QByteArray BoneList::text(const QVector<RecordIndex> &records, const RecordIndex
         writer.beginObject(false);
         writer(JsonField{words().key, ""}, bones);
         writer(JsonField{NumbersKey, ""}, numbers);
+        if (!names.isEmpty())
+            writer(JsonField{NamesKey, ""}, names);
         writer.endObject();
         writer.endLine();
     }
@@ -138,14 +148,18 @@ JsonProblem BoneList::paste(const QByteArray &text, const RecordRef &current, Li
 {
     std::vector<SkinnedMeshNode> bones;
     std::vector<quint16> numbers;
+    QMap<int, QString> names;
     JsonReader reader({text.constData(), size_t(text.size())});
     JsonProblem problem;
     if (reader.accept('{') && reader.key() == words().key) {
         reader.read(JsonField{}, bones);
-        if (reader.accept(',')) {
+        while (!reader.failed() && reader.accept(',')) {
             const char *at = reader.next();
-            if (reader.key() == NumbersKey)
+            const std::string_view key = reader.key();
+            if (key == NumbersKey)
                 reader.read(JsonField{}, numbers);
+            else if (key == NamesKey)
+                reader.read(JsonField{}, names);
             else
                 reader.fail(at, BoneTexts::tr("\"numbers\" was expected: those of the bones."));
         }
@@ -157,6 +171,8 @@ JsonProblem BoneList::paste(const QByteArray &text, const RecordRef &current, Li
     }
     if (!problem.text.isEmpty())
         return problem;
+    for (size_t i = 0; i < std::min(bones.size(), numbers.size()); ++i)
+        bones[i].name = names.value(numbers[i]);
     // Beside the current bone, which nothing can be for the first.
     const std::vector<SkinnedMeshNode> &there = m_document.model().nodes;
     const int place = current.kind == kind() ? current.index[0] : 0;

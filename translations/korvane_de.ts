@@ -7158,7 +7158,7 @@ So lassen?</translation>
     </message>
 </context>
 <context>
-    <name>Skeleton</name>
+    <name>MeshBones</name>
     <message>
         <source>Bone 0 stays where it is: every pose begins with it.</source>
         <translation>Knochen 0 bleibt, wo er ist: Mit ihm beginnt jede Pose.</translation>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "BlockBones.h"
 
-#include "Skeleton.h"
+#include "MeshBones.h"
 
 #include <QCoreApplication>
 
@@ -11,7 +11,7 @@
 namespace {
 struct BlockTexts
 {
-    Q_DECLARE_TR_FUNCTIONS(Skeleton)
+    Q_DECLARE_TR_FUNCTIONS(MeshBones)
 };
 
 /// The bone of another block that comes in for a new one.
@@ -42,9 +42,9 @@ QString BlockBones::arrange(const std::vector<int> &places, const std::vector<An
                             const QVector<int> &copied)
 {
     const size_t count = m_replaced;
-    if (places.size() > count && places.size() > Skeleton::MostBones)
+    if (places.size() > count && places.size() > MeshBones::MostBones)
         return BlockTexts::tr("The game poses %1 bones at most; the mesh would have %2.")
-            .arg(QString::number(Skeleton::MostBones), QString::number(places.size()));
+            .arg(QString::number(MeshBones::MostBones), QString::number(places.size()));
     if (count > 0 && (places.empty() || places.front() != 0))
         return BlockTexts::tr("Bone 0 stays where it is: every pose begins with it.");
     constexpr int Gone = -1;

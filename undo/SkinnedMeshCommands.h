@@ -4,8 +4,8 @@
 
 #include "ExchangeCommand.h"
 #include "FieldCommand.h"
+#include "MeshBones.h"
 #include "ReplaceCommand.h"
-#include "Skeleton.h"
 #include "StructureCommand.h"
 #include "TransformCommand.h"
 
@@ -59,7 +59,7 @@ struct HotPointEffects
     ROW(UC_SkinnedMeshRemoveCnode, RemoveCommand, QT_TRANSLATE_NOOP("UndoCommands", "Remove Child Bone Index"), Records::ChildBone, RecordKind::ChildBones) \
     ROW(UC_SkinnedMeshAddSurface, InsertCommand, QT_TRANSLATE_NOOP("UndoCommands", "Paste Surface"), Records::SkinnedSurface, RecordKind::SkinnedSurfaces) \
     ROW(UC_SkinnedMeshRemoveSurface, RemoveCommand, QT_TRANSLATE_NOOP("UndoCommands", "Remove Surface"), Records::SkinnedSurface, RecordKind::SkinnedSurfaces) \
-    ROW(UC_SkinnedMeshBones, ExchangeCommand, QT_TRANSLATE_NOOP("UndoCommands", "Bones"), Records::SkinnedMeshRoot, Skeleton) \
+    ROW(UC_SkinnedMeshBones, ExchangeCommand, QT_TRANSLATE_NOOP("UndoCommands", "Bones"), Records::SkinnedMeshRoot, MeshBones) \
     ROW(UC_SkinnedMeshUpdate, ReplaceCommand, QT_TRANSLATE_NOOP("UndoCommands", "Update from %1"), Records::SkinnedMeshRoot) \
     ROW(UC_SkinnedMeshTakeTheirs, ReplaceCommand, QT_TRANSLATE_NOOP("UndoCommands", "Take from %1"), Records::SkinnedMeshRoot) \
     ROW(UC_SkinnedMeshRotate, RotateCommand, QT_TRANSLATE_NOOP("UndoCommands", "Rotate Vertices"), Records::SkinnedMeshRoot) \

@@ -18,7 +18,7 @@
 
 namespace {
 constexpr int IdMargin = 16; // pixels, of both sides
-constexpr int IconSide = 24;
+constexpr int PictureSide = 24;
 
 class ChoiceView : public QTreeView
 {
@@ -69,7 +69,7 @@ ChoicePopup::ChoicePopup(const QString &title, ChoiceList *list, double current,
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     if (list->hasIcons())
-        m_list->setIconSize({IconSide, IconSide});
+        m_list->setIconSize({PictureSide, PictureSide});
     m_count->setObjectName(QStringLiteral("lblChoices"));
     m_count->setForegroundRole(QPalette::PlaceholderText);
 

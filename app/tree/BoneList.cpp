@@ -107,12 +107,12 @@ QByteArray BoneList::text(const QVector<RecordIndex> &records, const RecordIndex
 
 ListEdit BoneList::cut(const QVector<RecordIndex> &records, const RecordIndex &)
 {
-    return push(Skeleton::without(m_document.model(), numbersOf(records)), records, BoneTexts::tr("Cut"));
+    return push(MeshBones::without(m_document.model(), numbersOf(records)), records, BoneTexts::tr("Cut"));
 }
 
 ListEdit BoneList::move(const QVector<RecordIndex> &records, const RecordIndex &, int by)
 {
-    return push(Skeleton::moved(m_document.model(), numbersOf(records), by), records,
+    return push(MeshBones::moved(m_document.model(), numbersOf(records), by), records,
                 by < 0 ? BoneTexts::tr("Move Up") : BoneTexts::tr("Move Down"));
 }
 
@@ -131,7 +131,7 @@ ListEdit BoneList::insert(int at, std::vector<SkinnedMeshNode> bones, const QVec
 {
     const int count = m_document.recordCount(kind(), {});
     const QVector<int> parents = parentsAmong(bones, numbers);
-    std::vector<Skeleton::NewBone> added;
+    std::vector<MeshBones::NewBone> added;
     for (int i = 0; i < parents.size(); ++i) {
         SkinnedMeshNode &bone = bones[size_t(i)];
         const int own = bone.parentNode < count ? bone.parentNode : 0;
@@ -141,7 +141,7 @@ ListEdit BoneList::insert(int at, std::vector<SkinnedMeshNode> bones, const QVec
     if (added.empty())
         return {};
     const RecordIndex before{at - 1, 0, 0};
-    return push(Skeleton::with(m_document.model(), at, added), {before}, step);
+    return push(MeshBones::with(m_document.model(), at, added), {before}, step);
 }
 
 JsonProblem BoneList::paste(const QByteArray &text, const RecordRef &current, ListEdit &edit)

@@ -3,8 +3,8 @@
 
 // Lists whose places are counted elsewhere: what named a record before an edit names the same one afterwards.
 #include "AnimCommands.h"
+#include "MeshBones.h"
 #include "SampleModels.h"
-#include "Skeleton.h"
 #include "TestSupport.h"
 #include "Tracks.h"
 #include "Validation.h"
@@ -46,7 +46,7 @@ struct TaggedMesh : SkinnedMesh
         return all << QString::number(tag(headTrackStart)) << QString::number(tag(headTrackEnd));
     }
 
-    void take(SkeletonEdit edit)
+    void take(MeshBonesEdit edit)
     {
         QVERIFY2(edit.skeleton, qUtf8Printable(edit.refusal));
         QVERIFY(edit.skeleton->fits(*this, {}));
@@ -111,11 +111,11 @@ private slots:
             };
             for (int b = 1; b + 2 < count; b += 3) {
                 TaggedMesh moved = mesh;
-                moved.take(Skeleton::moved(moved, {b, b + 1}, 1));
+                moved.take(MeshBones::moved(moved, {b, b + 1}, 1));
                 QCOMPARE(moved.nodes[size_t(b)].damageScale, float(b + 2));
                 QCOMPARE(moved.names(), mesh.names());
                 check(moved);
-                moved.take(Skeleton::moved(moved, {b + 1, b + 2}, -1));
+                moved.take(MeshBones::moved(moved, {b + 1, b + 2}, -1));
                 QCOMPARE(SampleModels::bytesOf<SkinnedMesh>(moved), SampleModels::bytesOf<SkinnedMesh>(mesh));
 
                 // A bone and one on it come in; what was there names what it named.
@@ -124,14 +124,14 @@ private slots:
                 fresh.damageScale = 1000;
                 SkinnedMeshNode below = fresh;
                 below.damageScale = 1001;
-                more.take(Skeleton::with(more, b, {{below, -2}, {fresh, b}}));
+                more.take(MeshBones::with(more, b, {{below, -2}, {fresh, b}}));
                 QCOMPARE(int(more.nodes.size()), count + 2);
                 QCOMPARE(int(more.nodes[size_t(b)].parentNode), b + 1);
                 QCOMPARE(int(more.nodes[size_t(b + 1)].parentNode), b + 2);
                 QCOMPARE(more.nodes[size_t(b + 1)].childNodes, std::vector<quint16>{quint16(b)});
                 check(more);
                 // Nothing else hangs on them: they can go again.
-                more.take(Skeleton::without(more, {b, b + 1}));
+                more.take(MeshBones::without(more, {b, b + 1}));
                 QCOMPARE(SampleModels::bytesOf<SkinnedMesh>(more), SampleModels::bytesOf<SkinnedMesh>(mesh));
             }
         }
@@ -150,7 +150,9 @@ private slots:
         mesh.hotPoints[0].nodeId = 2;
         mesh.vertices.resize(2);
         mesh.vertices[1].nodeIndex = 3;
-        const auto refused = [&mesh](const Numbers &bones) { return Skeleton::without(mesh, bones).refusal; };
+        const auto refused = [&mesh](const Numbers &bones) {
+            return MeshBones::without(mesh, bones).refusal;
+        };
         mesh.headTrackEnd = 1;
         QVERIFY(refused({0}).contains("Bone 0 stays"));
         QVERIFY(refused({1}).contains("head turns with bone 1"));
@@ -162,21 +164,23 @@ private slots:
         QCOMPARE(refused({4, 5}), QString());
         QCOMPARE(refused({5}), QString());
 
-        const auto moved = [&mesh](const Numbers &bones, int by) { return Skeleton::moved(mesh, bones, by); };
+        const auto moved = [&mesh](const Numbers &bones, int by) {
+            return MeshBones::moved(mesh, bones, by);
+        };
         QVERIFY(moved({1}, -1).refusal.contains("Bone 0 stays"));
         QVERIFY(moved({0, 1}, 1).refusal.contains("Bone 0 stays"));
         QVERIFY(!moved({5}, 1).skeleton && moved({5}, 1).refusal.isEmpty());
 
         // A number that names no bone must not come to name one.
         mesh.vertices[0].nodeIndex = 6;
-        QVERIFY(Skeleton::with(mesh, 3, {{{}, 0}}).refusal.contains("names bone 6"));
+        QVERIFY(MeshBones::with(mesh, 3, {{{}, 0}}).refusal.contains("names bone 6"));
         mesh.vertices[0].nodeIndex = 9;
         TaggedMesh more(mesh);
-        more.take(Skeleton::with(more, 3, {{{}, 0}}));
+        more.take(MeshBones::with(more, 3, {{{}, 0}}));
         QCOMPARE(int(more.vertices[0].nodeIndex), 9);
         QCOMPARE(int(more.vertices[1].nodeIndex), 4);
-        QVERIFY(Skeleton::with(mesh, 3, std::vector<Skeleton::NewBone>(123)).refusal.contains("128"));
-        QVERIFY(Skeleton::with(mesh, 0, {{{}, 0}}).refusal.contains("Bone 0 stays"));
+        QVERIFY(MeshBones::with(mesh, 3, std::vector<MeshBones::NewBone>(123)).refusal.contains("128"));
+        QVERIFY(MeshBones::with(mesh, 0, {{{}, 0}}).refusal.contains("Bone 0 stays"));
         mesh.nodes.resize(256);
         QVERIFY(moved({5}, 1).refusal.contains("255"));
         QVERIFY(refused({5}).contains("255"));

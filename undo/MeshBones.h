@@ -8,10 +8,10 @@
 
 #include <optional>
 
-struct SkeletonEdit;
+struct MeshBonesEdit;
 
 /// The bones of a mesh and all numbers in it that name one: they are edited together.
-class Skeleton
+class MeshBones
 {
 public:
     /// A bone that is to come in.
@@ -23,14 +23,14 @@ public:
     /// How many bones the game can pose.
     static constexpr size_t MostBones = 128;
 
-    explicit Skeleton(const SkinnedMesh &mesh);
+    explicit MeshBones(const SkinnedMesh &mesh);
 
     /// The mesh with other bones, everything that names one following it.
-    static SkeletonEdit with(const SkinnedMesh &mesh, int at, const std::vector<NewBone> &added);
-    static SkeletonEdit without(const SkinnedMesh &mesh, const QVector<int> &bones);
+    static MeshBonesEdit with(const SkinnedMesh &mesh, int at, const std::vector<NewBone> &added);
+    static MeshBonesEdit without(const SkinnedMesh &mesh, const QVector<int> &bones);
     /// `by`: 1 or -1; `bones` ascend. Nothing moves beyond the end of the list: then there is neither a
     /// skeleton nor a reason.
-    static SkeletonEdit moved(const SkinnedMesh &mesh, const QVector<int> &bones, int by);
+    static MeshBonesEdit moved(const SkinnedMesh &mesh, const QVector<int> &bones, int by);
 
     /// As ExchangeCommand wants it.
     bool fits(const SkinnedMesh &mesh, const RecordIndex &) const;
@@ -47,9 +47,9 @@ private:
 };
 
 /// What an edit comes to: a skeleton, or the reason, for the user, why it cannot be.
-struct SkeletonEdit
+struct MeshBonesEdit
 {
-    std::optional<Skeleton> skeleton;
+    std::optional<MeshBones> skeleton;
     QString refusal;
     QVector<int> bones; ///< the numbers that the edited bones have then, ascending
 };

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
-#include "Skeleton.h"
+#include "MeshBones.h"
 
 #include <QCoreApplication>
 
@@ -13,7 +13,7 @@ constexpr size_t MostParents = 255;
 
 struct SkeletonTexts
 {
-    Q_DECLARE_TR_FUNCTIONS(Skeleton)
+    Q_DECLARE_TR_FUNCTIONS(MeshBones)
 };
 
 QString rootStays()
@@ -74,7 +74,7 @@ QString needOf(const SkinnedMesh &mesh, const std::vector<bool> &goes)
 }
 } // namespace
 
-Skeleton::Skeleton(const SkinnedMesh &mesh)
+MeshBones::MeshBones(const SkinnedMesh &mesh)
     : m_bones(mesh.nodes)
     , m_headTrackStart(mesh.headTrackStart)
     , m_headTrackEnd(mesh.headTrackEnd)
@@ -86,12 +86,12 @@ Skeleton::Skeleton(const SkinnedMesh &mesh)
         m_vertexBones.push_back(vertex.nodeIndex);
 }
 
-bool Skeleton::fits(const SkinnedMesh &mesh, const RecordIndex &) const
+bool MeshBones::fits(const SkinnedMesh &mesh, const RecordIndex &) const
 {
     return mesh.hotPoints.size() == m_hotPointBones.size() && mesh.vertices.size() == m_vertexBones.size();
 }
 
-void Skeleton::exchange(SkinnedMesh &mesh, const RecordIndex &)
+void MeshBones::exchange(SkinnedMesh &mesh, const RecordIndex &)
 {
     std::swap(m_bones, mesh.nodes);
     std::swap(m_headTrackStart, mesh.headTrackStart);
@@ -104,7 +104,7 @@ void Skeleton::exchange(SkinnedMesh &mesh, const RecordIndex &)
 
 /// Gives all that name a bone the number that it has in `numbers`, by its old one; m_bones is the new list
 /// already. A number that named no bone keeps doing so, else there is a reason why it cannot be.
-QString Skeleton::renumber(const std::vector<int> &numbers)
+QString MeshBones::renumber(const std::vector<int> &numbers)
 {
     int woken = -1;
     const auto follow = [&](auto &number) {
@@ -129,7 +129,7 @@ QString Skeleton::renumber(const std::vector<int> &numbers)
         .arg(woken);
 }
 
-SkeletonEdit Skeleton::with(const SkinnedMesh &mesh, int at, const std::vector<NewBone> &added)
+MeshBonesEdit MeshBones::with(const SkinnedMesh &mesh, int at, const std::vector<NewBone> &added)
 {
     const int count = int(mesh.nodes.size());
     const int more = int(added.size());
@@ -144,8 +144,8 @@ SkeletonEdit Skeleton::with(const SkinnedMesh &mesh, int at, const std::vector<N
     std::vector<int> numbers(static_cast<size_t>(count));
     for (int b = 0; b < count; ++b)
         numbers[size_t(b)] = b < at ? b : b + more;
-    Skeleton made(mesh);
-    SkeletonEdit edit;
+    MeshBones made(mesh);
+    MeshBonesEdit edit;
     // First what is there, then what comes in with the numbers of then.
     made.m_bones.insert(made.m_bones.begin() + at, added.size(), SkinnedMeshNode());
     edit.refusal = made.renumber(numbers);
@@ -166,7 +166,7 @@ SkeletonEdit Skeleton::with(const SkinnedMesh &mesh, int at, const std::vector<N
     return edit;
 }
 
-SkeletonEdit Skeleton::without(const SkinnedMesh &mesh, const QVector<int> &bones)
+MeshBonesEdit MeshBones::without(const SkinnedMesh &mesh, const QVector<int> &bones)
 {
     if (mesh.nodes.size() > MostParents)
         return {{}, tooManyToCount(), {}};
@@ -178,7 +178,7 @@ SkeletonEdit Skeleton::without(const SkinnedMesh &mesh, const QVector<int> &bone
     const QString need = needOf(mesh, goes);
     if (!need.isEmpty())
         return {{}, need, {}};
-    Skeleton made(mesh);
+    MeshBones made(mesh);
     made.m_bones.clear();
     std::vector<int> numbers(mesh.nodes.size());
     for (size_t b = 0; b < goes.size(); ++b) {
@@ -196,7 +196,7 @@ SkeletonEdit Skeleton::without(const SkinnedMesh &mesh, const QVector<int> &bone
     return {std::move(made), {}, {}};
 }
 
-SkeletonEdit Skeleton::moved(const SkinnedMesh &mesh, const QVector<int> &bones, int by)
+MeshBonesEdit MeshBones::moved(const SkinnedMesh &mesh, const QVector<int> &bones, int by)
 {
     if (bones.isEmpty() || bones.first() + by < 0 || bones.last() + by >= int(mesh.nodes.size()))
         return {};
@@ -207,13 +207,13 @@ SkeletonEdit Skeleton::moved(const SkinnedMesh &mesh, const QVector<int> &bones,
     // By place the number that the bone there had; those in front go first, so that none has to pass another.
     std::vector<int> places(mesh.nodes.size());
     std::iota(places.begin(), places.end(), 0);
-    SkeletonEdit edit;
+    MeshBonesEdit edit;
     for (int i = 0; i < bones.size(); ++i) {
         const int bone = bones.at(by > 0 ? bones.size() - 1 - i : i);
         std::swap(places[size_t(bone)], places[size_t(bone + by)]);
         edit.bones.append(bones.at(i) + by);
     }
-    Skeleton made(mesh);
+    MeshBones made(mesh);
     std::vector<int> numbers(places.size());
     for (size_t place = 0; place < places.size(); ++place) {
         made.m_bones[place] = mesh.nodes[size_t(places[place])];

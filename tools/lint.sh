@@ -125,6 +125,12 @@ no_upward_includes() {
     files '*.cpp' '*.h' | search -nE '#include +["<]\.\./' | none 'A room is included by its link line'
 }
 
+# Headers are included by their names alone, and classes are named as their headers: two of one name in a program
+# would be one to the linker. The tests' headers are one set for each system.
+own_header_names() {
+    files '*.h' ':!tests/*' | xargs -0 -r -n 1 basename | sort | uniq -d | none 'More than one header of this name'
+}
+
 rooms() { tools/rooms.sh "$1" "$build_dir"; }
 
 licence_headers() {
@@ -179,6 +185,7 @@ desktop_files() {
 check 'clang-format' formatting
 check 'shellcheck' script_faults
 check 'includes' no_upward_includes
+check 'names of headers' own_header_names
 check 'licence headers' licence_headers
 check 'file length' short_files
 check 'arrows between rooms' rooms arrows

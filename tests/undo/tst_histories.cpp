@@ -144,6 +144,39 @@ void wanderThrough(Step step)
     }
 }
 
+/// Bones come in, go or move; what is refused is no step.
+void changeBones(History<SkinnedMesh> &history)
+{
+    const int count = int(history.model.nodes.size());
+    const int bone = history.below(count);
+    const int what = history.below(3);
+    auto edit = what == 0   ? MeshBones::with(history.model, bone, {{history.model.nodes[0], 0}})
+                : what == 1 ? MeshBones::without(history.model, {bone})
+                            : MeshBones::moved(history.model, {bone}, 1);
+    if (edit.skeleton)
+        history.stack.push(new UC_SkinnedMeshBones(history.target(), {}, std::move(*edit.skeleton), {}, {}));
+}
+
+/// Tracks of some block come in or go.
+template <typename Command>
+void changeTracks(History<AnimFile> &history)
+{
+    using State = typename Command::State;
+    const RecordIndex index = history.anyIndex();
+    const AnimBlock *block = Records::Block::find(history.model, index);
+    if (!block)
+        return;
+    State state(*block);
+    std::vector<int> places(static_cast<size_t>(State::table(*block).trackCount()));
+    std::iota(places.begin(), places.end(), 0);
+    if (places.size() > 6 || (!places.empty() && history.below(2)))
+        places.erase(places.begin() + history.below(int(places.size())));
+    else
+        places.insert(places.begin() + history.below(int(places.size()) + 1), -1);
+    if (!state.arrange(places, {1, block->frameCount()}))
+        history.stack.push(new Command(history.target(), {index[0], 0, 0}, std::move(state), {}, {}));
+}
+
 constexpr auto anyField = [](RecordKind) { return true; };
 } // namespace
 
@@ -165,6 +198,9 @@ private slots:
             case 2:
             case 3:
                 history.editField(skinnedMeshCommands, anyField);
+                break;
+            case 4:
+                changeBones(history);
                 break;
             default:
                 history.changeList<UC_SkinnedMeshPasteHotPoint, UC_SkinnedMeshRemoveHotPoint>({});
@@ -217,6 +253,11 @@ private:
                 break;
             case 3:
                 history.changeList<UC_AnimBlockPaste, UC_AnimBlockRemove>({}, &ids);
+                break;
+            case 4:
+                // What a count change has cut off is not in the table that comes back.
+                if (!changesCounts || editsKeys)
+                    changeTracks<UC_AnimRotationTracks>(history);
                 break;
             case 7: {
                 // In the midst of a history that then goes on forwards, too.

@@ -2003,7 +2003,7 @@ Ohne diese Eingabe fortfahren?</translation>
     </message>
     <message>
         <source>damage scale &gt; 1, surfaces material ~ tree, sound = 1234, bone in left arm</source>
-        <translation>Schadensfaktor &gt; 1, Flächen Material ~ baum, Sound = 1234, Knochen in Linker Oberarm</translation>
+        <translation>Schadensfaktor &gt; 1, Flächen Material ~ baum, Sound = 1234, Knochen in Oberarm links</translation>
     </message>
     <message>
         <source>Condition</source>
@@ -2042,50 +2042,6 @@ Ohne diese Eingabe fortfahren?</translation>
         <translation>Die Datensätze in ihren Bäumen auswählen, um sie auf ihren Seiten zu bearbeiten</translation>
     </message>
     <message>
-        <source>Set:</source>
-        <translation>Setzen:</translation>
-    </message>
-    <message>
-        <source>The field that gets another value: the one of the condition, or any other</source>
-        <translation>Das Feld, das einen anderen Wert bekommt: das der Bedingung oder ein beliebiges</translation>
-    </message>
-    <message>
-        <source>Field to replace</source>
-        <translation>Zu ersetzendes Feld</translation>
-    </message>
-    <message>
-        <source>to:</source>
-        <translation>auf:</translation>
-    </message>
-    <message>
-        <source>77, +=5, *=1.5, =x*2+i</source>
-        <translation>77, +=5, *=1,5, =x*2+i</translation>
-    </message>
-    <message>
-        <source>A value, a name, or a calculation: x is the old number, i the place among the hits</source>
-        <translation>Ein Wert, ein Name oder eine Rechnung: x ist die alte Zahl, i der Platz unter den Treffern</translation>
-    </message>
-    <message>
-        <source>Replace</source>
-        <translation>Ersetzen</translation>
-    </message>
-    <message>
-        <source>Give the current hit this value, and go on to the next one</source>
-        <translation>Dem aktuellen Treffer diesen Wert geben und zum nächsten gehen</translation>
-    </message>
-    <message>
-        <source>Replace All</source>
-        <translation>Alle ersetzen</translation>
-    </message>
-    <message>
-        <source>Give all hits this value, as one undo step a document</source>
-        <translation>Allen Treffern diesen Wert geben, als ein Rückgängig-Schritt je Dokument</translation>
-    </message>
-    <message>
-        <source>Find and Replace</source>
-        <translation>Suchen und Ersetzen</translation>
-    </message>
-    <message>
         <source>No file is open.</source>
         <translation>Es ist keine Datei geöffnet.</translation>
     </message>
@@ -2114,24 +2070,8 @@ Ohne diese Eingabe fortfahren?</translation>
         <translation>Nicht in den Bäumen und darum nicht ausgewählt: %1. Der Filter oder die Optionen blenden sie aus.</translation>
     </message>
     <message>
-        <source>Nothing was changed. %1: %2</source>
-        <translation>Nichts wurde geändert. %1: %2</translation>
-    </message>
-    <message>
-        <source>Nothing was changed: the value is there already.</source>
-        <translation>Nichts wurde geändert: Der Wert steht schon da.</translation>
-    </message>
-    <message>
         <source>Hits: %1</source>
         <translation>Treffer: %1</translation>
-    </message>
-    <message>
-        <source>Changed records: %1</source>
-        <translation>Geänderte Datensätze: %1</translation>
-    </message>
-    <message>
-        <source>Changed records: %1, in %2 documents</source>
-        <translation>Geänderte Datensätze: %1, in %2 Dokumenten</translation>
     </message>
 </context>
 <context>
@@ -6676,6 +6616,69 @@ Alles andere funktioniert weiter. Starten Sie Korvane neu, um Modelle zu sehen.<
 Everything else works on.</source>
         <translation>Modelle können nicht gezeichnet werden: Das System hat OpenGL, gibt dem Fenster aber keinen Kontext.
 Alles andere funktioniert weiter.</translation>
+    </message>
+</context>
+<context>
+    <name>ReplaceBar</name>
+    <message>
+        <source>Set:</source>
+        <translation>Setzen:</translation>
+    </message>
+    <message>
+        <source>The field that gets another value: the one of the condition, or any other</source>
+        <translation>Das Feld, das einen anderen Wert bekommt: das der Bedingung oder ein beliebiges</translation>
+    </message>
+    <message>
+        <source>Field to replace</source>
+        <translation>Zu ersetzendes Feld</translation>
+    </message>
+    <message>
+        <source>to:</source>
+        <translation>auf:</translation>
+    </message>
+    <message>
+        <source>77, +=5, *=1.5, =x*2+i</source>
+        <translation>77, +=5, *=1,5, =x*2+i</translation>
+    </message>
+    <message>
+        <source>A value, a name, or a calculation: x is the old number, i the place among the hits</source>
+        <translation>Ein Wert, ein Name oder eine Rechnung: x ist die alte Zahl, i der Platz unter den Treffern</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Give the current hit this value, and go on to the next one</source>
+        <translation>Dem aktuellen Treffer diesen Wert geben und zum nächsten gehen</translation>
+    </message>
+    <message>
+        <source>Replace All</source>
+        <translation>Alle ersetzen</translation>
+    </message>
+    <message>
+        <source>Give all hits this value, as one undo step a document</source>
+        <translation>Allen Treffern diesen Wert geben, als ein Rückgängig-Schritt je Dokument</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>Suchen und Ersetzen</translation>
+    </message>
+    <message>
+        <source>Nothing was changed. %1: %2</source>
+        <translation>Nichts wurde geändert. %1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: the value is there already.</source>
+        <translation>Nichts wurde geändert: Der Wert steht schon da.</translation>
+    </message>
+    <message>
+        <source>Changed records: %1</source>
+        <translation>Geänderte Datensätze: %1</translation>
+    </message>
+    <message>
+        <source>Changed records: %1, in %2 documents</source>
+        <translation>Geänderte Datensätze: %1, in %2 Dokumenten</translation>
     </message>
 </context>
 <context>

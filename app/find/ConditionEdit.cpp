@@ -9,6 +9,7 @@
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QRegularExpression>
+#include <QSignalBlocker>
 #include <QStringListModel>
 
 namespace {
@@ -183,6 +184,7 @@ void ConditionBox::keep()
     Settings::FindHistory.setValue(kept);
     const QString typed = m_line->text();
     const int cursor = m_line->cursorPosition();
+    const QSignalBlocker blocker(this); // nothing else is typed
     clear();
     addItems(kept);
     m_line->setText(typed);

@@ -5,9 +5,7 @@
 #include "ConditionEdit.h"
 #include "FoundList.h"
 #include "KVTreeView.h"
-#include "Look.h"
-#include "RecordTexts.h"
-#include "Shortcuts.h"
+#include "ReplaceBar.h"
 
 #include <QAction>
 #include <QBoxLayout>
@@ -29,18 +27,12 @@ FindDock::FindDock(QWidget *parent)
     , m_condition(new ConditionBox(this))
     , m_scope(new QComboBox(this))
     , m_count(new QLabel(this))
-    , m_set(new QLabel(tr("Set:"), this))
-    , m_field(new QComboBox(this))
-    , m_value(new QLineEdit(this))
-    , m_state(new QLabel(this))
+    , m_replacement(new ReplaceBar(this))
 {
     m_condition->setObjectName(QStringLiteral("cbFindCondition"));
     m_condition->line().setObjectName(QStringLiteral("txtFindCondition"));
     m_scope->setObjectName(QStringLiteral("cbFindScope"));
     m_count->setObjectName(QStringLiteral("lblFindCount"));
-    m_field->setObjectName(QStringLiteral("cbFindField"));
-    m_value->setObjectName(QStringLiteral("txtFindValue"));
-    m_state->setObjectName(QStringLiteral("lblFindState"));
     toggleViewAction()->setObjectName(QStringLiteral("actionFindDock"));
     m_pause.setSingleShot(true);
     m_pause.setInterval(PauseMs);
@@ -49,12 +41,12 @@ FindDock::FindDock(QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(2);
     layout->addLayout(findRow());
-    layout->addLayout(replaceRow());
+    layout->addWidget(m_replacement);
     setWidget(contents);
     // One below the other.
-    const int width = std::max(m_find->sizeHint().width(), m_set->sizeHint().width());
+    const int width = std::max(m_find->sizeHint().width(), m_replacement->label()->sizeHint().width());
     m_find->setMinimumWidth(width);
-    m_set->setMinimumWidth(width);
+    m_replacement->label()->setMinimumWidth(width);
 }
 
 QBoxLayout *FindDock::findRow()
@@ -80,45 +72,6 @@ QBoxLayout *FindDock::findRow()
                             &FindDock::selectAllHits);
     m_count->setMinimumWidth(fontMetrics().averageCharWidth() * 12);
     row->addWidget(m_count);
-    return row;
-}
-
-QBoxLayout *FindDock::replaceRow()
-{
-    auto *row = new QHBoxLayout;
-    row->setContentsMargins(4, 0, 4, 2);
-    m_set->setBuddy(m_field);
-    m_field->setEditable(true);
-    m_field->setInsertPolicy(QComboBox::NoInsert);
-    m_field->setMinimumContentsLength(16);
-    m_field->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_field->setToolTip(tr("The field that gets another value: the one of the condition, or any other"));
-    m_field->lineEdit()->setAccessibleName(tr("Field to replace"));
-    auto *to = new QLabel(tr("to:"), this);
-    to->setBuddy(m_value);
-    m_value->setPlaceholderText(tr("77, +=5, *=1.5, =x*2+i"));
-    m_value->setToolTip(
-        tr("A value, a name, or a calculation: x is the old number, i the place among the hits"));
-    m_state->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_state->setTextFormat(Qt::PlainText);
-    row->addWidget(m_set);
-    row->addWidget(m_field);
-    row->addWidget(to);
-    row->addWidget(m_value, 2);
-    m_replace = addButton(row, "btnReplace", tr("Replace"),
-                          tr("Give the current hit this value, and go on to the next one"),
-                          &FindDock::replaceCurrent);
-    m_replaceAll =
-        addButton(row, "btnReplaceAll", tr("Replace All"),
-                  tr("Give all hits this value, as one undo step a document"), &FindDock::replaceAll);
-    row->addWidget(m_state, 3);
-    auto *all = new QAction(m_replaceAll->text(), m_value);
-    all->setObjectName(QStringLiteral("actionReplaceAll"));
-    nameShortcut(all, all->objectName(), tr("Find and Replace"), m_replaceAll->text());
-    all->setShortcut(QKeySequence(QStringLiteral("Ctrl+Return")));
-    all->setShortcutContext(Qt::WidgetShortcut);
-    m_value->addAction(all);
-    connect(all, &QAction::triggered, m_replaceAll, &QPushButton::click);
     return row;
 }
 
@@ -165,9 +118,9 @@ void FindDock::connectParts()
             m_list->setCurrentRow(0);
     });
     connect(m_scope, qOverload<int>(&QComboBox::activated), this, &FindDock::search);
-    connect(m_value, &QLineEdit::returnPressed, this, &FindDock::replaceCurrent);
-    connect(m_value, &QLineEdit::textEdited, this, &FindDock::updateState);
-    connect(m_field, &QComboBox::editTextChanged, this, &FindDock::updateState);
+    connect(m_replacement, &ReplaceBar::oneWanted, this, &FindDock::replaceCurrent);
+    connect(m_replacement, &ReplaceBar::allWanted, this, &FindDock::replaceAll);
+    connect(m_replacement, &ReplaceBar::told, this, &FindDock::told);
     connect(m_list, &QAbstractItemView::activated, this,
             [this](const QModelIndex &index) { showRow(index.row(), true); });
     connect(m_list, &QAbstractItemView::clicked, this,
@@ -211,7 +164,7 @@ void FindDock::keyPressEvent(QKeyEvent *event)
 void FindDock::search()
 {
     m_pause.stop();
-    say({}, false);
+    m_replacement->say({}, false);
     m_finder->search(m_condition->currentText(), RecordFinder::Scope(m_scope->currentIndex()));
 }
 
@@ -222,7 +175,7 @@ void FindDock::enter()
     if (isNew)
         search();
     if (!m_finder->reason().isEmpty())
-        return say(m_finder->reason(), true);
+        return m_replacement->say(m_finder->reason(), true);
     m_condition->keep();
     if (isNew && !m_finder->hits().empty())
         m_list->setCurrentRow(-1);
@@ -240,7 +193,7 @@ void FindDock::onChanged()
     m_condition->line().setModels(roots, m_finder->document(DocumentType::SkinnedMesh).namedMesh());
     m_list->refill();
     m_list->setEmptyText(emptyText());
-    updateFields();
+    m_replacement->update(*m_finder);
     updateState();
 }
 
@@ -256,23 +209,6 @@ QString FindDock::emptyText() const
                                  : tr("No record meets the condition.");
 }
 
-void FindDock::updateFields()
-{
-    KindSet kinds;
-    for (const RecordFinder::Hit &hit : m_finder->hits())
-        kinds = kinds | KindSet(hit.record.kind);
-    // What somebody chose stays until the condition is about something else.
-    const QString word = m_finder->condition().fieldWord();
-    const bool isOther = !word.isEmpty() && word != m_word;
-    const QString text = isOther ? word : m_field->currentText();
-    if (!word.isEmpty())
-        m_word = word;
-    const QSignalBlocker blocker(m_field);
-    m_field->clear();
-    m_field->addItems(RecordWords::fieldProposals(kinds));
-    m_field->setEditText(text);
-}
-
 void FindDock::updateState()
 {
     const int count = int(m_finder->hits().size());
@@ -281,23 +217,8 @@ void FindDock::updateState()
                      : isSearch            ? tr("Hits: %1").arg(count)
                                            : QString());
     m_selectAll->setEnabled(count > 0);
-    const bool canReplace = count > 0 && !m_field->currentText().trimmed().isEmpty();
-    m_replace->setEnabled(canReplace);
-    m_replaceAll->setEnabled(canReplace);
     m_actions.next->setEnabled(count > 0);
     m_actions.previous->setEnabled(count > 0);
-}
-
-void FindDock::say(const QString &text, bool isWarning)
-{
-    QPalette palette = this->palette();
-    if (isWarning)
-        palette.setColor(QPalette::WindowText, warningColor(palette));
-    m_state->setPalette(palette);
-    m_state->setText(text);
-    m_state->setToolTip(text);
-    if (!text.isEmpty())
-        emit told(text);
 }
 
 void FindDock::step(int by)
@@ -346,7 +267,7 @@ void FindDock::selectAllHits()
     if (!isInFront && first >= 0)
         emit documentWanted(DocumentType(first));
     if (left > 0)
-        return say(
+        return m_replacement->say(
             tr("Not in the trees, and so not selected: %1. The filter or the options hide them.").arg(left),
             true);
     leave();
@@ -361,34 +282,19 @@ RecordFinder::Outcome FindDock::replaceThese(const std::vector<int> &hits)
         if (m_finder->document(DocumentType(type)).returnToTyping())
             return {};
     }
-    const RecordFinder::Outcome outcome = m_finder->replace(hits, m_field->currentText(), m_value->text());
-    if (!outcome.reason.isEmpty()) {
-        say(outcome.isAboutHit
-                ? tr("Nothing was changed. %1: %2")
-                      .arg(recordPlace(m_finder->selection(outcome.refusing.type), outcome.refusing.record),
-                           outcome.reason)
-                : outcome.reason,
-            true);
-    } else if (outcome.records == 0) {
-        say(tr("Nothing was changed: the value is there already."), false);
-    } else {
+    const RecordFinder::Outcome outcome =
+        m_finder->replace(hits, m_replacement->field(), m_replacement->value());
+    m_replacement->tell(outcome, *m_finder);
+    if (outcome.records > 0)
         m_condition->keep();
-        const QString changed = outcome.documents == 1 ? tr("Changed records: %1").arg(outcome.records)
-                                                       : tr("Changed records: %1, in %2 documents")
-                                                             .arg(QString::number(outcome.records),
-                                                                  QString::number(outcome.documents));
-        say(outcome.note.isEmpty() ? changed : changed + QStringLiteral(". ") + outcome.note, false);
-    }
     return outcome;
 }
 
 void FindDock::replaceCurrent()
 {
-    if (!m_replace->isEnabled())
-        return;
     // By what it is found now.
     m_finder->refresh();
-    if (m_finder->hits().empty())
+    if (!m_replacement->isReady())
         return;
     const int row = std::max(m_list->currentRow(), 0);
     const RecordFinder::Hit hit = m_finder->hits()[size_t(row)];

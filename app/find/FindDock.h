@@ -15,8 +15,8 @@ class QAction;
 class QBoxLayout;
 class QComboBox;
 class QLabel;
-class QLineEdit;
 class QPushButton;
+class ReplaceBar;
 
 /// Finds records of the open documents by conditions over their fields, lists them, leads to them, and gives
 /// fields of all or one of them another value.
@@ -55,7 +55,6 @@ protected:
 
 private:
     QBoxLayout *findRow();
-    QBoxLayout *replaceRow();
     QPushButton *addButton(QBoxLayout *row, const char *name, const QString &text, const QString &tip,
                            void (FindDock::*slot)());
     void connectParts();
@@ -64,9 +63,7 @@ private:
     void search();
     void enter();
     void onChanged();
-    void updateFields();
     void updateState();
-    void say(const QString &text, bool isWarning);
     QString emptyText() const;
     void step(int by);
     void next() { step(1); }
@@ -81,18 +78,12 @@ private:
     ConditionBox *m_condition;
     QComboBox *m_scope;
     QLabel *m_count;
-    QLabel *m_set;
-    QComboBox *m_field;
-    QLineEdit *m_value;
-    QLabel *m_state;
+    ReplaceBar *m_replacement;
     QPushButton *m_selectAll = nullptr;
-    QPushButton *m_replace = nullptr;
-    QPushButton *m_replaceAll = nullptr;
     FoundList *m_list = nullptr;
     RecordFinder *m_finder = nullptr;
     std::array<KVTreeView *, 3> m_trees{};
     Actions m_actions{};
     const Document *m_current = nullptr;
-    QString m_word; ///< what the condition is about, as it stands in the line for the field
     QTimer m_pause;
 };

@@ -1969,6 +1969,10 @@ Ohne diese Eingabe fortfahren?</translation>
         <source>Nothing was taken. %1</source>
         <translation>Nichts wurde übernommen. %1</translation>
     </message>
+    <message>
+        <source>%1 is a file of another kind: its name does not end in .%2.</source>
+        <translation>%1 ist eine Datei anderer Art: Ihr Name endet nicht auf .%2.</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>

@@ -176,13 +176,19 @@ void FileComparison::checkModel(ModelDocument<Model> &document)
 {
     using Shared = std::shared_ptr<const Model>;
     const auto *read = std::get_if<Shared>(&m_theirs);
-    const auto work = [mine = document.copy(), known = read ? *read : Shared(),
-                       path = m_path](const Background::Cancelled &) {
+    const auto work = [mine = document.copy(), known = read ? *read : Shared(), path = m_path,
+                       wanted = &document.kind()](const Background::Cancelled &) {
         Found found;
         found.theirs = known;
         const QString name = QFileInfo(path).fileName();
         const QString lack = withinMemory([&] {
             Shared theirs = known;
+            const DocumentKind *kind = documentKindOfFile(path);
+            if (kind && kind != wanted) {
+                found.failure = tr("%1 is a file of another kind: its name does not end in .%2.")
+                                    .arg(name, wanted->extension);
+                return;
+            }
             if (!theirs) {
                 auto fresh = std::make_shared<Model>();
                 QString reason;

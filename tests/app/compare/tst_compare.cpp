@@ -148,6 +148,17 @@ private slots:
         QVERIFY(tree()->accessibleDescription().startsWith(
             "theirs.skinnedmesh cannot be read: Attempting to read"));
 
+        {
+            Hand hand({Hand::file(m_folder->save("theirs.anim", SampleModels::plainAnim()))});
+            QTest::keySequence(m_window.get(), QKeySequence("Ctrl+Shift+D"));
+        }
+        QCOMPARE(tree()->accessibleDescription(),
+                 QString("theirs.anim is a file of another kind: its name does not end in .skinnedmesh."));
+        {
+            Hand hand({Hand::file(other)});
+            QTest::keySequence(m_window.get(), QKeySequence("Ctrl+Shift+D"));
+        }
+
         // Another model has nothing to do with the file; the same one under another name has.
         undo();
         const QString renamed = m_folder->path("renamed.skinnedmesh");

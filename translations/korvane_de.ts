@@ -3800,6 +3800,53 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
 </context>
 <context>
+    <name>MeshBones</name>
+    <message>
+        <source>Bone 0 stays where it is: every pose begins with it.</source>
+        <translation>Knochen 0 bleibt, wo er ist: Mit ihm beginnt jede Pose.</translation>
+    </message>
+    <message>
+        <source>The mesh has more than 255 bones, more than the file can name as parents: which numbers would have to follow cannot be told.</source>
+        <translation>Das Mesh hat mehr als 255 Knochen, mehr als die Datei als Eltern nennen kann: Welche Nummern folgen müssten, ist nicht zu erkennen.</translation>
+    </message>
+    <message>
+        <source>Bone %1 hangs on bone %2. Select it, too, or give it to another bone.</source>
+        <translation>Knochen %1 hängt an Knochen %2. Wählen Sie ihn auch aus, oder hängen Sie ihn an einen anderen.</translation>
+    </message>
+    <message>
+        <source>Bone %1 names bone %2 as its parent. Select it, too, or enter another one.</source>
+        <translation>Knochen %1 nennt Knochen %2 als Elternknochen. Wählen Sie ihn auch aus, oder geben Sie einen anderen ein.</translation>
+    </message>
+    <message>
+        <source>Bone %1 moves vertices (%2). Give them to another bone first.</source>
+        <translation>Knochen %1 bewegt Vertices (%2). Geben Sie sie zuerst einem anderen Knochen.</translation>
+    </message>
+    <message>
+        <source>Hot point %1 is on bone %2. Put it on another bone first, or remove it.</source>
+        <translation>Hotpoint %1 sitzt auf Knochen %2. Setzen Sie ihn zuerst auf einen anderen Knochen, oder entfernen Sie ihn.</translation>
+    </message>
+    <message>
+        <source>The head turns with bone %1. Enter other bones for that on the mesh&apos;s page first.</source>
+        <translation>Der Kopf dreht sich mit Knochen %1. Geben Sie dafür zuerst andere Knochen auf der Seite des Meshs ein.</translation>
+    </message>
+    <message>
+        <source>The game poses %1 bones at most; the mesh would have %2.</source>
+        <translation>Das Spiel bewegt höchstens %1 Knochen; das Mesh hätte %2.</translation>
+    </message>
+    <message>
+        <source>Something in the mesh names bone %1, which does not exist, but would then. Correct that first; it is among the problems.</source>
+        <translation>Etwas im Mesh nennt Knochen %1, den es nicht gibt, dann aber gäbe. Korrigieren Sie das zuerst; es steht unter den Problemen.</translation>
+    </message>
+    <message>
+        <source>Action %1 of animation %2 happens at bone %3. Enter another bone there first.</source>
+        <translation>Aktion %1 von Animation %2 geschieht an Knochen %3. Geben Sie dort zuerst einen anderen Knochen ein.</translation>
+    </message>
+    <message>
+        <source>Action %1 of animation %2 names bone %3, which does not exist, but would then. Correct that first; it is among the problems.</source>
+        <translation>Aktion %1 von Animation %2 nennt Knochen %3, den es nicht gibt, dann aber gäbe. Korrigieren Sie das zuerst; es steht unter den Problemen.</translation>
+    </message>
+</context>
+<context>
     <name>MessageList</name>
     <message>
         <source>&amp;Copy</source>
@@ -5645,6 +5692,10 @@ Hände und Füße (x0.25): %6</translation>
         <source>A bone of the clipboard follows track %1, which the animation does not have.</source>
         <translation>Ein Knochen der Zwischenablage folgt Spur %1, die die Animation nicht hat.</translation>
     </message>
+    <message>
+        <source>The selected tracks are of several animations, whose lengths differ: cut those of one at a time.</source>
+        <translation>Die ausgewählten Spuren gehören zu mehreren Animationen, deren Längen verschieden sind: Schneiden Sie jeweils nur die einer Animation aus.</translation>
+    </message>
 </context>
 <context>
     <name>RecordFields</name>
@@ -7162,53 +7213,6 @@ So lassen?</translation>
     <message>
         <source>(empty)</source>
         <translation>(leer)</translation>
-    </message>
-</context>
-<context>
-    <name>MeshBones</name>
-    <message>
-        <source>Bone 0 stays where it is: every pose begins with it.</source>
-        <translation>Knochen 0 bleibt, wo er ist: Mit ihm beginnt jede Pose.</translation>
-    </message>
-    <message>
-        <source>The mesh has more than 255 bones, more than the file can name as parents: which numbers would have to follow cannot be told.</source>
-        <translation>Das Mesh hat mehr als 255 Knochen, mehr als die Datei als Eltern nennen kann: Welche Nummern folgen müssten, ist nicht zu erkennen.</translation>
-    </message>
-    <message>
-        <source>Bone %1 hangs on bone %2. Select it, too, or give it to another bone.</source>
-        <translation>Knochen %1 hängt an Knochen %2. Wählen Sie ihn auch aus, oder hängen Sie ihn an einen anderen.</translation>
-    </message>
-    <message>
-        <source>Bone %1 names bone %2 as its parent. Select it, too, or enter another one.</source>
-        <translation>Knochen %1 nennt Knochen %2 als Elternknochen. Wählen Sie ihn auch aus, oder geben Sie einen anderen ein.</translation>
-    </message>
-    <message>
-        <source>Bone %1 moves vertices (%2). Give them to another bone first.</source>
-        <translation>Knochen %1 bewegt Vertices (%2). Geben Sie sie zuerst einem anderen Knochen.</translation>
-    </message>
-    <message>
-        <source>Hot point %1 is on bone %2. Put it on another bone first, or remove it.</source>
-        <translation>Hotpoint %1 sitzt auf Knochen %2. Setzen Sie ihn zuerst auf einen anderen Knochen, oder entfernen Sie ihn.</translation>
-    </message>
-    <message>
-        <source>The head turns with bone %1. Enter other bones for that on the mesh&apos;s page first.</source>
-        <translation>Der Kopf dreht sich mit Knochen %1. Geben Sie dafür zuerst andere Knochen auf der Seite des Meshs ein.</translation>
-    </message>
-    <message>
-        <source>The game poses %1 bones at most; the mesh would have %2.</source>
-        <translation>Das Spiel bewegt höchstens %1 Knochen; das Mesh hätte %2.</translation>
-    </message>
-    <message>
-        <source>Something in the mesh names bone %1, which does not exist, but would then. Correct that first; it is among the problems.</source>
-        <translation>Etwas im Mesh nennt Knochen %1, den es nicht gibt, dann aber gäbe. Korrigieren Sie das zuerst; es steht unter den Problemen.</translation>
-    </message>
-    <message>
-        <source>Action %1 of animation %2 happens at bone %3. Enter another bone there first.</source>
-        <translation>Aktion %1 von Animation %2 geschieht an Knochen %3. Geben Sie dort zuerst einen anderen Knochen ein.</translation>
-    </message>
-    <message>
-        <source>Action %1 of animation %2 names bone %3, which does not exist, but would then. Correct that first; it is among the problems.</source>
-        <translation>Aktion %1 von Animation %2 nennt Knochen %3, den es nicht gibt, dann aber gäbe. Korrigieren Sie das zuerst; es steht unter den Problemen.</translation>
     </message>
 </context>
 <context>

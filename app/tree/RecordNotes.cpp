@@ -161,6 +161,12 @@ NoteParts partsOf(const StaticMesh &mesh, const RecordRef &record)
     return note;
 }
 
+QString calledAnimation(const SkinnedMesh *mesh, int id)
+{
+    static const SkinnedMesh nameless;
+    return animationName(mesh ? *mesh : nameless, id);
+}
+
 void addBone(NoteParts &note, const AnimBlock &block, const SkinnedMesh *mesh, int number)
 {
     const QString name = calledBone(block, mesh, number);
@@ -216,7 +222,7 @@ NoteParts partsOf(const AnimFile &file, const SkinnedMesh *mesh, const RecordRef
     switch (record.kind) {
     case K::AnimBlock:
         note.addFigure(NoteTexts::tr("id %1").arg(block->animId));
-        note.addName(animationName(mesh ? *mesh : SkinnedMesh(), block->animId));
+        note.addName(calledAnimation(mesh, block->animId));
         note.addFigure(block->frameCount() == 1 ? NoteTexts::tr("1 frame")
                                                 : NoteTexts::tr("%1 frames").arg(block->frameCount()));
         break;

@@ -90,34 +90,30 @@ QByteArray TrackList<Command>::text(const QVector<RecordIndex> &records, const R
 }
 
 template <typename Command>
-ListEdit TrackList<Command>::cut(const QVector<RecordIndex> &records, const RecordIndex &)
+ListEdit TrackList<Command>::cut(const QVector<RecordIndex> &records, const RecordIndex &current)
 {
     ListEdit edit;
-    int followers = 0;
+    const QVector<int> tracks = tracksBeside(records, current);
+    if (tracks.size() < records.size()) {
+        edit.refusal =
+            TrackTexts::tr("The selected tracks are of several animations, whose lengths differ: cut "
+                           "those of one at a time.");
+        return edit;
+    }
+    std::vector<int> places = placesOf(State::table(block(current)).trackCount());
+    places.erase(std::remove_if(places.begin(), places.end(),
+                                [&tracks](int track) {
+                                    return std::binary_search(tracks.begin(), tracks.end(), track);
+                                }),
+                 places.end());
+    const int followers = State::followers(block(current), tracks);
+    const RecordRef next = places.empty() ? RecordRef{group(), {current[0], 0, 0}}
+                                          : ref(current, 1, std::min(tracks.first(), int(places.size()) - 1));
+    State state(block(current));
+    state.arrange(places, {}); // fewer are never refused
     QUndoStack &stack = *m_document.undoStack();
     stack.beginMacro(TrackTexts::tr("Cut"));
-    QVector<int> tracks;
-    for (int i = 0; i < records.size(); ++i) {
-        const RecordIndex &index = records.at(i);
-        tracks += index[1];
-        if (i + 1 < records.size() && records.at(i + 1)[0] == index[0])
-            continue;
-        // The last of its block.
-        followers += State::followers(block(index), tracks);
-        std::vector<int> places = placesOf(State::table(block(index)).trackCount());
-        places.erase(std::remove_if(places.begin(), places.end(),
-                                    [&tracks](int track) {
-                                        return std::binary_search(tracks.begin(), tracks.end(), track);
-                                    }),
-                     places.end());
-        const RecordRef next = places.empty()
-                                   ? RecordRef{group(), {index[0], 0, 0}}
-                                   : ref(index, 1, std::min(tracks.first(), int(places.size()) - 1));
-        State state(block(index));
-        state.arrange(places, {}); // fewer are never refused
-        push(index, std::move(state), ref(index, 1, tracks.first()), next);
-        tracks.clear();
-    }
+    push(current, std::move(state), ref(current, 1, tracks.first()), next);
     stack.endMacro();
     if (followers > 0)
         edit.told = isOfTranslations<Command>

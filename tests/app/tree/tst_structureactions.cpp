@@ -546,6 +546,13 @@ private slots:
         QCOMPARE(anim().bytes(), before);
         QCOMPARE(tree->currentRecord(), ref(K::TranslationTrack, 1, 2));
 
+        tree->selectRecords({ref(K::TranslationTrack, 0, 0), ref(K::TranslationTrack, 1, 2)},
+                            ref(K::TranslationTrack, 1, 2));
+        QVERIFY(press("Ctrl+X").contains("of several animations"));
+        QVERIFY(anim().undo().index() == 0 && anim().bytes() == before);
+        select(ref(K::TranslationTrack, 1, 2));
+        press("Ctrl+C");
+
         // Other tables, other lengths, other things.
         select(ref(K::Rotations, 1));
         QVERIFY(press("Ctrl+V").contains("translation tracks, not rotation tracks"));

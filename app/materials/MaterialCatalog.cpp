@@ -16,6 +16,7 @@
 namespace {
 /// A folder of nonsense may hold any number of files.
 constexpr int MostFiles = 20000;
+constexpr qint64 Moment = 15000; // milliseconds
 constexpr int MostMaterials = 200000;
 constexpr qint64 MostPicturePixels = 4096 * 4096;
 /// So many are made before they are shown.
@@ -96,11 +97,18 @@ void MaterialCatalog::refresh()
     m_reader.start(read, [this](QVector<Material> materials) {
         const bool isOther = !std::exchange(m_wasRead, true) || materials != m_materials;
         m_materials = std::move(materials);
+        m_sinceRead.start();
         if (isOther)
             emit changed();
         if (m_isStale)
             refresh();
     });
+}
+
+void MaterialCatalog::refreshOld()
+{
+    if (!m_wasRead || m_sinceRead.hasExpired(Moment))
+        refresh();
 }
 
 void MaterialCatalog::reload()

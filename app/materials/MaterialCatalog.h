@@ -4,6 +4,7 @@
 
 #include "Background.h"
 
+#include <QElapsedTimer>
 #include <QIcon>
 #include <QPixmap>
 #include <QSet>
@@ -39,6 +40,8 @@ public:
     bool isEmptyYet() const { return !m_wasRead; }
     /// Reads the folders anew, unless that is under way.
     void refresh();
+    /// The same, unless they were read a moment ago.
+    void refreshOld();
     /// Materials, textures or the folders themselves have changed: pictures are made anew.
     void reload();
 
@@ -59,6 +62,7 @@ private:
     Background m_reader;
     Background m_painter;
     QVector<Material> m_materials;
+    QElapsedTimer m_sinceRead;
     bool m_wasRead = false;
     bool m_isStale = false; ///< what is being read may be as it was before
     QHash<QString, QIcon> m_icons;

@@ -126,8 +126,9 @@ IndexTarget IndexTargets::boneOf(Naming, const AnimFile &model, const RecordInde
 {
     if (number == NoActionBone)
         return {Texts::tr("no bone"), false, {}};
+    static const SkinnedMesh none;
     const AnimBlock *block = Records::Block::find(model, index);
-    return block ? blockBone(*block, mesh ? *mesh : SkinnedMesh(), number) : IndexTarget();
+    return block ? blockBone(*block, mesh ? *mesh : none, number) : IndexTarget();
 }
 
 IndexTarget IndexTargets::differing(const IndexTarget &shown)

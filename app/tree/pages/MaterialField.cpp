@@ -15,8 +15,9 @@
 #include <QCompleter>
 #include <QDesktopServices>
 #include <QDir>
-#include <QEvent>
 #include <QFileInfo>
+#include <QFocusEvent>
+#include <QTimer>
 #include <QToolButton>
 #include <QUrl>
 
@@ -59,10 +60,16 @@ MaterialField::MaterialField(TextField *editor, MaterialCatalog &catalog)
     m_completer->setMaxVisibleItems(ShownRows);
     m_completer->popup()->setTextElideMode(Qt::ElideMiddle); // paths differ at their ends
     m_editor->setCompleter(m_completer);
-    // After the line has it.
-    connect(
-        m_completer, qOverload<const QString &>(&QCompleter::activated), this,
-        [this](const QString &) { m_editor->commitText(); }, Qt::QueuedConnection);
+    // Esc gives up both.
+    connect(m_editor, &QLineEdit::textChanged, this, [this] {
+        if (!m_editor->isTyping())
+            m_completer->popup()->hide();
+    });
+    connect(m_completer, qOverload<const QString &>(&QCompleter::activated), this,
+            [this](const QString &path) {
+                m_editor->discardText();
+                emit chosen(path);
+            });
     connect(&m_catalog, &MaterialCatalog::changed, this, &MaterialField::OnCatalogChanged);
     connect(&m_catalog, &MaterialCatalog::iconsReady, this, [this] {
         m_completer->popup()->viewport()->update();
@@ -74,9 +81,17 @@ MaterialField::MaterialField(TextField *editor, MaterialCatalog &catalog)
 
 bool MaterialField::eventFilter(QObject *watched, QEvent *event)
 {
-    // The files may be others than when it was here before.
-    if (event->type() == QEvent::FocusIn)
-        m_catalog.refresh();
+    // The files may be others than when the user was here before; a popup that closes is no such visit.
+    if (event->type() == QEvent::FocusIn) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+        const bool isVisit = reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason;
+        if (isVisit || m_catalog.isEmptyYet())
+            m_catalog.refreshOld();
+        // The line connects itself when it gets the keys: what is only looked at in the list is not to be put
+        // into it, where leaving the field would store it.
+        QTimer::singleShot(
+            0, this, [this] { disconnect(m_completer, SIGNAL(highlighted(QString)), m_editor, nullptr); });
+    }
     return QObject::eventFilter(watched, event);
 }
 

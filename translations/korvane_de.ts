@@ -6062,6 +6062,10 @@ Hände und Füße (x0.25): %6</translation>
         <source>Replace %1 (%2)</source>
         <translation>%1 ersetzen (%2)</translation>
     </message>
+    <message>
+        <source>The records are being searched.</source>
+        <translation>Die Datensätze werden durchsucht.</translation>
+    </message>
 </context>
 <context>
     <name>RecordNotes</name>

@@ -124,7 +124,6 @@ void ConditionEdit::propose(bool isAsked)
 
 void ConditionEdit::complete(const QString &text)
 {
-    static const QRegularExpression openQuote(QStringLiteral("\"$"));
     const bool isQuoted = m_from > 0 && this->text()[m_from - 1] == QLatin1Char('"');
     const bool isValue = !RecordWords::find(text) || isQuoted;
     const QString inserted = isQuoted ? text + QLatin1Char('"') : isValue ? quotedWhereNeeded(text) : text;

@@ -216,7 +216,7 @@ void FindDock::updateState()
     m_count->setText(m_finder->isRunning() ? tr("Searching\u2026")
                      : isSearch            ? tr("Hits: %1").arg(count)
                                            : QString());
-    m_selectAll->setEnabled(count > 0);
+    m_selectAll->setEnabled(count > 0 && !m_finder->isRunning());
     m_actions.next->setEnabled(count > 0);
     m_actions.previous->setEnabled(count > 0);
 }
@@ -243,6 +243,8 @@ void FindDock::showRow(int row, bool withKeys)
 
 void FindDock::selectAllHits()
 {
+    if (!isReady())
+        return;
     const std::vector<RecordFinder::Hit> hits = m_finder->hits();
     int left = 0;
     bool isInFront = false;
@@ -275,13 +277,24 @@ void FindDock::selectAllHits()
 
 // --- Replacing ---------------------------------------------------------------------------------------------
 
-RecordFinder::Outcome FindDock::replaceThese(const std::vector<int> &hits)
+/// Sees to it that what is listed is what the line asks for, of records as they are; says why it is not yet.
+bool FindDock::isReady()
 {
     for (size_t type = 0; type < m_trees.size(); ++type) {
-        // What is typed and refused elsewhere is dealt with first.
+        // What is typed elsewhere is stored first, and what is refused dealt with.
         if (m_finder->document(DocumentType(type)).returnToTyping())
-            return {};
+            return false;
     }
+    if (m_pause.isActive())
+        search();
+    m_finder->refresh();
+    if (m_finder->isRunning())
+        m_replacement->say(tr("The records are being searched."), false);
+    return !m_finder->isRunning();
+}
+
+RecordFinder::Outcome FindDock::replaceThese(const std::vector<int> &hits)
+{
     const RecordFinder::Outcome outcome =
         m_finder->replace(hits, m_replacement->field(), m_replacement->value());
     m_replacement->tell(outcome, *m_finder);
@@ -292,9 +305,7 @@ RecordFinder::Outcome FindDock::replaceThese(const std::vector<int> &hits)
 
 void FindDock::replaceCurrent()
 {
-    // By what it is found now.
-    m_finder->refresh();
-    if (!m_replacement->isReady())
+    if (!isReady() || !m_replacement->isReady())
         return;
     const int row = std::max(m_list->currentRow(), 0);
     const RecordFinder::Hit hit = m_finder->hits()[size_t(row)];
@@ -310,7 +321,8 @@ void FindDock::replaceCurrent()
 
 void FindDock::replaceAll()
 {
-    m_finder->refresh();
+    if (!isReady() || !m_replacement->isReady())
+        return;
     std::vector<int> all(m_finder->hits().size());
     std::iota(all.begin(), all.end(), 0);
     const RecordFinder::Outcome outcome = replaceThese(all);

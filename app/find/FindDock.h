@@ -72,6 +72,7 @@ private:
     void selectAllHits();
     void replaceCurrent();
     void replaceAll();
+    bool isReady();
     RecordFinder::Outcome replaceThese(const std::vector<int> &hits);
 
     QLabel *m_find;

@@ -3,6 +3,7 @@
 #include "RecordFinder.h"
 
 #include "DocumentLoader.h"
+#include "Memory.h"
 #include "RecordOrder.h"
 #include "RecordTable.h"
 #include "Replacement.h"
@@ -37,8 +38,9 @@ RecordFinder::RecordFinder(const std::array<Searched, 3> &documents, QObject *pa
 
 void RecordFinder::setCurrent(const Document *document)
 {
-    if (std::exchange(m_current, document) != document && m_scope != Scope::All)
-        start();
+    if (std::exchange(m_current, document) == document || m_scope == Scope::All)
+        return;
+    m_follows ? start() : markStale();
 }
 
 bool RecordFinder::isSearched(const Document &document) const
@@ -102,6 +104,11 @@ void RecordFinder::start()
         DocumentType type;
         Document::Searcher search;
     };
+    struct Found
+    {
+        std::vector<Hit> hits;
+        QString lack;
+    };
     std::vector<Part> parts;
     for (const Searched &each : m_documents) {
         if (isSearched(*each.document))
@@ -109,14 +116,19 @@ void RecordFinder::start()
     }
     m_work.start(
         [parts = std::move(parts)](const std::atomic_bool &cancelled) {
-            std::vector<Hit> hits;
-            for (const Part &part : parts) {
-                for (const RecordRef &record : part.search(cancelled))
-                    hits.push_back({part.type, record});
-            }
-            return hits;
+            Found found;
+            found.lack = withinMemory([&] {
+                for (const Part &part : parts) {
+                    for (const RecordRef &record : part.search(cancelled))
+                        found.hits.push_back({part.type, record});
+                }
+            });
+            return found;
         },
-        [this](std::vector<Hit> hits) { take(std::move(hits)); });
+        [this](Found found) {
+            m_reason = found.lack;
+            take(found.lack.isEmpty() ? std::move(found.hits) : std::vector<Hit>());
+        });
     m_work.wait(DocumentLoader::usualPatience());
     if (isRunning())
         emit changed();
@@ -172,6 +184,11 @@ RecordFinder::Outcome RecordFinder::replace(const std::vector<int> &hits, const 
                                             const QString &text)
 {
     Outcome outcome;
+    // What is listed may be what another condition has found, or what was so before an edit.
+    if (isRunning() || m_isStale) {
+        outcome.reason = tr("The records are being searched.");
+        return outcome;
+    }
     std::array<Replacement, 3> made;
     int place = hits.size() == 1 ? hits.front() : 0;
     for (const Searched &each : m_documents) {

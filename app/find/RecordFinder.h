@@ -70,7 +70,7 @@ public:
         bool isAboutHit = false; ///< whether `refusing` is one that refuses
     };
     /// Gives the field that `word` stands for a value in these of the hits, which are ascending, as one undo
-    /// step a document, or in none of them.
+    /// step a document, or in none of them; never while a search is under way or due.
     Outcome replace(const std::vector<int> &hits, const QString &word, const QString &text);
 
 signals:

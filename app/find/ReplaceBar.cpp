@@ -100,7 +100,7 @@ void ReplaceBar::update(const RecordFinder &finder)
         m_field->addItems(RecordWords::fieldProposals(kinds));
         m_field->setEditText(text);
     }
-    m_hasHits = !finder.hits().empty();
+    m_hasHits = !finder.hits().empty() && !finder.isRunning();
     updateButtons();
 }
 

@@ -181,6 +181,36 @@ private slots:
         QCOMPARE(sound(0, 1) + ' ' + sound(0, 2) + ' ' + sound(1, 1), QStringLiteral("77 12 77"));
     }
 
+    void whatIsNotFoundYetIsNotReplaced()
+    {
+        // The search is not waited for.
+        const QByteArray patience = qgetenv("KORVANE_PATIENCE");
+        search("bones damage scale > 1");
+        QCOMPARE(records().size(), 2);
+        qputenv("KORVANE_PATIENCE", "0");
+        openDock();
+        QTest::keyClicks(line(), QStringLiteral("bones damage scale = 0"));
+        line()->findChild<QCompleter *>()->popup()->hide();
+        replaceAll("damage scale", "9");
+        QVERIFY2(mesh().nodes[2].damageScale == 2.0f && mesh().nodes[3].damageScale == 3.0f, "old hits");
+        QTRY_COMPARE(records().size(), 1);
+        replaceAll("damage scale", "9");
+        qputenv("KORVANE_PATIENCE", patience);
+        QCOMPARE(mesh().nodes[0].damageScale, 9.0f);
+        QCOMPARE(mesh().nodes[3].damageScale, 3.0f);
+        // What is refused elsewhere is gone back to, and nothing is replaced or shown.
+        search("bones damage scale > 1");
+        const RecordRef shown = tree("treeSkinnedMesh")->currentRecord();
+        auto *parent = find<QAbstractSpinBox>(*m_window, "sbNodeParentNode");
+        parent->setFocus();
+        parent->selectAll();
+        QTest::keyClicks(parent, QStringLiteral("300"));
+        replaceAll("damage scale", "1");
+        QVERIFY(parent->hasFocus() && undo(DocumentType::SkinnedMesh).count() == 1);
+        QCOMPARE(tree("treeSkinnedMesh")->currentRecord(), shown);
+        QTest::keyClick(parent, Qt::Key_Escape);
+    }
+
     void wordsAreProposed()
     {
         openDock();
@@ -257,6 +287,7 @@ private:
     }
     void openDock()
     {
+        QApplication::setActiveWindow(m_window.get()); // lists of proposals may just have gone
         QWidget *focus = m_window->focusWidget();
         QTest::keyClick(focus ? focus : m_window.get(), Qt::Key_H, Qt::ControlModifier);
         QVERIFY(line()->hasFocus());

@@ -43,7 +43,7 @@ void addSearch(const char *name, Model large, const char *text, RecordKind root,
     for (const QString &field : fields)
         read.append(RecordFields::find(kind, field));
     Bench::ratio(
-        name, 2.0, Rounds,
+        name, 10.0, Rounds,
         [searched, root] {
             benchmark::DoNotOptimize(findRecords(searched->condition, searched->values, root));
         },

@@ -8,8 +8,6 @@
 #include "RecordTable.h"
 #include "Replacement.h"
 
-#include <QSet>
-
 #include <algorithm>
 
 RecordFinder::RecordFinder(const std::array<Searched, 3> &documents, QObject *parent)

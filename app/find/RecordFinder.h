@@ -6,6 +6,7 @@
 #include "Document.h"
 #include "RecordSelection.h"
 
+#include <QSet>
 #include <QTimer>
 
 #include <array>

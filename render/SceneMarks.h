@@ -17,9 +17,9 @@ struct MarkedRecords
     const SkinnedMesh *mesh = nullptr; ///< whose bones and hot points; null: nobody's
     bool skeleton = false;
     bool hotPoints = false;
-    bool bonesAlone = false;        ///< bones, and nothing that would lie over them, whatever else is wanted
     std::vector<int> selectedBones; ///< ascending
     std::vector<int> selectedHotPoints;
+    bool bonesAlone = false; ///< bones, and nothing that would lie over them, whatever else is wanted
 
     bool showsBones() const { return skeleton || bonesAlone; }
     bool showsHotPoints() const { return hotPoints && !bonesAlone; }

@@ -94,10 +94,10 @@ bool writeWholeModel(const QString &path, const ModelJson::Content &content, boo
         Output::complain(QStringLiteral("%1: %2").arg(path, refusal));
         return true;
     }
-    const QString namesPath = ModelNames::pathFor(path);
-    const QString lost = withNames ? writeWholeFile(namesPath, namesOf(content).toJson()) : QString();
-    if (!lost.isEmpty())
-        return Output::outcome(namesPath, true, lost);
     const QString reason = writeWholeFile(path, storedBytes(content));
-    return Output::outcome(path, !reason.isEmpty(), reason);
+    if (!reason.isEmpty() || !withNames)
+        return Output::outcome(path, !reason.isEmpty(), reason);
+    const QString namesPath = ModelNames::pathFor(path);
+    const QString lost = writeWholeFile(namesPath, namesOf(content).toJson());
+    return lost.isEmpty() ? Output::outcome(path, false, {}) : Output::outcome(namesPath, true, lost);
 }

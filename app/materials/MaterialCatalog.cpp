@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "MaterialCatalog.h"
 
+#include "BinaryFileWriter.h"
 #include "FolderWalk.h"
 #include "MaterialFiles.h"
 #include "PictureFile.h"
@@ -69,8 +70,11 @@ QVector<Material> listMaterials(const QString &gamePath, const QString &outputDi
                 return !cancelled;
             files.insert(file);
             if (readKMat(entry.path, table).isEmpty()) {
-                for (const auto &[name, texture] : table)
-                    materials.append({file + QLatin1Char('/') + name, texture});
+                for (const auto &[name, texture] : table) {
+                    const QString path = file + QLatin1Char('/') + name;
+                    if (BinaryFileWriter::canWrite(path))
+                        materials.append({path, texture});
+                }
             }
             return !cancelled && files.size() < MostFiles && materials.size() < MostMaterials;
         });

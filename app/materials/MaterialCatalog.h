@@ -20,8 +20,9 @@ struct Material
     bool operator==(const Material &other) const { return path == other.path && texture == other.texture; }
 };
 
-/// All materials of the game folder and the mod folder, ascending by path. Of a file that stands in both, the
-/// game folder's counts, as everywhere. Ends early, with what it has, when `cancelled` becomes true.
+/// All materials of the game folder and the mod folder, ascending by path, but for those whose path a model
+/// cannot hold. Of a file that stands in both, the game folder's counts, as everywhere. Ends early, with what
+/// it has, when `cancelled` becomes true.
 QVector<Material> listMaterials(const QString &gamePath, const QString &outputDir,
                                 const Background::Cancelled &cancelled);
 

@@ -217,7 +217,8 @@ void PageStack::takeBone(int bone)
 bool PageStack::eventFilter(QObject *watched, QEvent *event)
 {
     const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
-    if (!m_picking || !isKey || static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)
+    const bool isElsewhere = QApplication::activePopupWidget() || QApplication::activeModalWidget();
+    if (!m_picking || isElsewhere || !isKey || static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)
         return QWidget::eventFilter(watched, event);
     event->accept();
     if (event->type() == QEvent::KeyPress)

@@ -265,7 +265,8 @@ private slots:
             return paths;
         };
         const QString game = m_files.path("game"), mod = m_files.path("mod");
-        // A file of the game hides the mod's of its name, a broken one has none.
+        // A file of the game hides the mod's of its name, a broken one has none, and a model cannot name one
+        // in Greek.
         QCOMPARE(listed(game, mod),
                  QStringList({"materials/deep/er/one/x=", "materials/mat_house/roof=textures/red.png",
                               "materials/mat_house/wall=textures/none.png",
@@ -400,6 +401,7 @@ private:
         m_files.put("game/materials/deep/er/one.kmat", "material x {\n}\n");
         m_files.put("mod/materials/mat_house.kmat", "material hidden {\n}\n");
         m_files.put("mod/mod/mat_tree.kmat",
+                    "material \xce\xbb {\n}\n"
                     "material leaf {\nsampler \"diffuse\" 0 \"textures/tree.png\" {\n}\n}\n");
         putPicture("game/textures/red.png", Qt::red);
         Settings::GamePath.setValue(m_files.path("game"));

@@ -3732,10 +3732,6 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <translation>Materialdatei ö&amp;ffnen</translation>
     </message>
     <message>
-        <source>Open Its &amp;Folder</source>
-        <translation>O&amp;rdner der Datei öffnen</translation>
-    </message>
-    <message>
         <source>looking for its file</source>
         <translation>Datei wird gesucht</translation>
     </message>
@@ -3790,6 +3786,14 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>Failed to open %1</source>
         <translation>%1 konnte nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>Material Fields</source>
+        <translation>Materialfelder</translation>
+    </message>
+    <message>
+        <source>Open Material &amp;Folder</source>
+        <translation>Materialo&amp;rdner öffnen</translation>
     </message>
 </context>
 <context>

@@ -44,14 +44,16 @@ MaterialField::MaterialField(TextField *editor, MaterialCatalog &catalog)
         tr("Open the file that the material is in with the program that the desktop has for it"));
     connect(m_button, &QToolButton::clicked, this, &MaterialField::choose);
     connect(m_open, &QToolButton::clicked, this, [this] { open(false); });
-    const auto addAction = [&](const QString &objectName, const QString &text, bool folder) {
+    const auto addAction = [&](const char *id, const QString &text, bool folder) {
         auto *action = new QAction(text, editor);
-        action->setObjectName(objectName);
+        action->setObjectName(QLatin1String(id));
+        action->setShortcutContext(Qt::WidgetShortcut);
+        nameShortcut(action, action->objectName(), tr("Material Fields"), {});
         connect(action, &QAction::triggered, this, [this, folder] { open(folder); });
         editor->addAction(action);
     };
-    addAction(QStringLiteral("actionOpenMaterialFile"), tr("&Open Material File"), false);
-    addAction(QStringLiteral("actionOpenMaterialFolder"), tr("Open Its &Folder"), true);
+    addAction("actionOpenMaterialFile", tr("&Open Material File"), false);
+    addAction("actionOpenMaterialFolder", tr("Open Material &Folder"), true);
 
     m_completer->setModel(list(m_completer));
     m_completer->setFilterMode(Qt::MatchContains);

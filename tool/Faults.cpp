@@ -14,7 +14,7 @@ struct Name
 };
 
 /// By the kind's code.
-constexpr Name names[] = {
+constexpr Name kindNames[] = {
     {"", 0},
     {"skinnedMesh", 0},
     {"childBone", 2},
@@ -51,7 +51,7 @@ constexpr Name names[] = {
     {"vertex", 1},
     {"vertices", 0},
 };
-static_assert(sizeof names / sizeof names[0] == size_t(RecordKind::StaticVertices) + 1,
+static_assert(sizeof kindNames / sizeof kindNames[0] == size_t(RecordKind::StaticVertices) + 1,
               "every kind has its name");
 
 struct Validator
@@ -105,10 +105,10 @@ std::vector<Fault> faultsOf(const QString &file, const MaterialFolders &folders,
 
 QString recordName(RecordKind kind)
 {
-    return QLatin1String(names[size_t(kind)].name);
+    return QLatin1String(kindNames[size_t(kind)].name);
 }
 
 int indexCount(RecordKind kind)
 {
-    return names[size_t(kind)].indexes;
+    return kindNames[size_t(kind)].indexes;
 }

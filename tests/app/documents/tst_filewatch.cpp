@@ -176,7 +176,11 @@ private slots:
         for (int i = 0; i < bytes.size(); i += bytes.size() / 6) {
             const QByteArray part = bytes.mid(i, bytes.size() / 6);
             QCOMPARE(file.write(part), qint64(part.size()));
+            QElapsedTimer pause;
+            pause.start();
             QTest::qWait(FileWatch::RestMs / 3);
+            if (pause.elapsed() >= FileWatch::RestMs)
+                QSKIP("The machine is too busy to write with short pauses");
             QVERIFY(m_bar->isHidden());
         }
         file.close();

@@ -59,8 +59,9 @@ public:
 
     bool notify(QObject *receiver, QEvent *event) override
     {
-        // A view that is shown, or gets another size, paints at once.
-        const bool isPicture = event->type() == QEvent::UpdateRequest || event->type() == QEvent::Paint;
+        // A view that is shown, or gets another size, paints at once, and so does what a dialog has covered.
+        const bool isPicture = event->type() == QEvent::UpdateRequest || event->type() == QEvent::Paint ||
+                               event->type() == QEvent::Expose;
         if (!isPicture || m_isPainting)
             return QApplication::notify(receiver, event);
         m_isPainting = true;

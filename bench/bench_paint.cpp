@@ -4,7 +4,9 @@
 #include "Bench.h"
 #include "Camera.h"
 #include "Playback.h"
+#include "SceneBoxes.h"
 #include "ScenePainter.h"
+#include "ShapeProgram.h"
 #include "SkinnedMesh.h"
 
 #include <QGuiApplication>
@@ -14,39 +16,44 @@
 #include <QOpenGLFramebufferObject>
 
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
+#include <map>
+#include <memory>
 
-// A frame of a posed model against the same triangles drawn with the same shaders by bare calls: nothing
-// but the pose's upload and one draw call a surface.
+// Frames of a posed model against the same triangles drawn with the same shaders by bare calls: nothing but
+// the pose's upload and one draw call a surface.
 namespace {
 constexpr int Bones = 40;
-constexpr int Rings = 100;
 constexpr int Segments = 60;
-constexpr int SurfaceCount = 10;
 constexpr int Repetitions = 60;
 const QSize FrameSize(800, 600);
 
-/// A column of rings, every few of them on a bone of their own.
-SkinnedMesh makeMesh()
+/// A column of rings, every few of them on a bone of their own, each with a box.
+SkinnedMesh makeMesh(int rings, int surfaceCount)
 {
     SkinnedMesh mesh;
     mesh.nodes.resize(Bones);
     for (quint16 bone = 1; bone < Bones; ++bone)
         mesh.nodes[bone - 1u].childNodes = {bone};
-    for (int ring = 0; ring <= Rings; ++ring) {
-        const int bone = ring * (Bones - 1) / Rings;
+    for (SkinnedMeshNode &node : mesh.nodes) {
+        node.bbMin = {-100.0f, -100.0f, 0.0f};
+        node.bbMax = {100.0f, 100.0f, 5.0f};
+    }
+    for (int ring = 0; ring <= rings; ++ring) {
+        const int bone = ring * (Bones - 1) / rings;
         for (int segment = 0; segment < Segments; ++segment) {
             const float angle = float(segment) * 2.0f * float(M_PI) / float(Segments);
             mesh.vertices.push_back(
                 {{100.0f * std::cos(angle), 100.0f * std::sin(angle), 5.0f * float(ring - bone)},
-                 {float(segment) / float(Segments), float(ring) / float(Rings)},
-                 {},
+                 {float(segment) / float(Segments), float(ring) / float(rings)},
+                 {std::cos(angle), std::sin(angle), 0.0f},
                  quint16(bone)});
         }
     }
-    mesh.surfaces.resize(SurfaceCount);
-    for (int ring = 0; ring < Rings; ++ring) {
-        SkinnedMeshSurface &surface = mesh.surfaces[size_t(ring * SurfaceCount / Rings)];
+    mesh.surfaces.resize(size_t(surfaceCount));
+    for (int ring = 0; ring < rings; ++ring) {
+        SkinnedMeshSurface &surface = mesh.surfaces[size_t(ring * surfaceCount / rings)];
         surface.materialPath = QStringLiteral("_white");
         for (int segment = 0; segment < Segments; ++segment) {
             const int a = ring * Segments + segment;
@@ -94,10 +101,14 @@ public:
             m_gl.glBufferData(GL_ELEMENT_ARRAY_BUFFER, GLsizeiptr(2 * indexes.size()), indexes.data(),
                               GL_STATIC_DRAW);
             m_indexes.push_back({buffer, GLsizei(indexes.size())});
-            m_textures.push_back(std::make_unique<QOpenGLTexture>(source.images[m_textures.size()],
-                                                                  QOpenGLTexture::DontGenerateMipMaps));
-            m_textures.back()->setMinMagFilters(QOpenGLTexture::Linear, QOpenGLTexture::Linear);
-            m_textures.back()->setWrapMode(QOpenGLTexture::Repeat);
+            const QImage &image = source.images[m_textures.size()];
+            std::shared_ptr<QOpenGLTexture> &copy = m_copies[image.cacheKey()];
+            if (!copy) {
+                copy = std::make_shared<QOpenGLTexture>(image, QOpenGLTexture::DontGenerateMipMaps);
+                copy->setMinMagFilters(QOpenGLTexture::Linear, QOpenGLTexture::Linear);
+                copy->setWrapMode(QOpenGLTexture::Repeat);
+            }
+            m_textures.push_back(copy);
         }
         m_array.release();
     }
@@ -112,6 +123,57 @@ public:
         m_gl.glUniform4f(m_programs.skin.colorHighlight, 0.0f, 0.0f, 0.0f, 1.0f);
         m_gl.glUniformMatrix4fv(m_programs.skin.mvpMatrix, 1, GL_FALSE, m_mvp.constData());
         m_gl.glUniformMatrix4fv(m_programs.bones, GLsizei(bones.size() / 16), GL_FALSE, bones.data());
+        draw();
+    }
+
+    /// Lines of the overlay, which stay where they are.
+    void setLines(const std::vector<OverlayCanvas::Vertex> &lines)
+    {
+        m_lineCount = GLsizei(lines.size());
+        m_lineArray.create();
+        m_lineArray.bind();
+        GLuint buffer = 0;
+        m_gl.glGenBuffers(1, &buffer);
+        m_gl.glBindBuffer(GL_ARRAY_BUFFER, buffer);
+        m_gl.glBufferData(GL_ARRAY_BUFFER, GLsizeiptr(lines.size() * sizeof(lines[0])), lines.data(),
+                          GL_STATIC_DRAW);
+        constexpr GLsizei Stride = sizeof(OverlayCanvas::Vertex);
+        m_gl.glEnableVertexAttribArray(AttributeLocation::Position);
+        m_gl.glEnableVertexAttribArray(AttributeLocation::Color);
+        m_gl.glVertexAttribPointer(AttributeLocation::Position, 2, GL_FLOAT, GL_FALSE, Stride, nullptr);
+        m_gl.glVertexAttribPointer(
+            AttributeLocation::Color, 4, GL_UNSIGNED_BYTE, GL_TRUE, Stride,
+            reinterpret_cast<const void *>(std::uintptr_t(offsetof(OverlayCanvas::Vertex, color))));
+        m_lineArray.release();
+    }
+
+    void paintWithLines(const std::vector<float> &bones, const QSize &size)
+    {
+        paint(bones);
+        QMatrix4x4 toPicture;
+        toPicture.ortho(0.0f, float(size.width()), float(size.height()), 0.0f, -1.0f, 1.0f);
+        m_programs.overlay.bind();
+        m_programs.overlay.setUniformValue(m_programs.overlayMvpMatrix, toPicture);
+        m_gl.glDisable(GL_CULL_FACE);
+        m_gl.glDisable(GL_DEPTH_TEST);
+        m_lineArray.bind();
+        m_gl.glDrawArrays(GL_TRIANGLES, 0, m_lineCount);
+        m_gl.glEnable(GL_DEPTH_TEST);
+        m_gl.glEnable(GL_CULL_FACE);
+    }
+
+    void paintLit(const std::vector<float> &bones, const QVector3D &eye)
+    {
+        m_gl.glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+        m_shape.begin(ShapeLook::Lit, eye, 1.0f, m_mvp);
+        m_shape.setBones(bones.data(), int(bones.size() / 16));
+        m_gl.glUniform4f(m_shape.textured().colorHighlight, 0.0f, 0.0f, 0.0f, 1.0f);
+        draw();
+    }
+
+private:
+    void draw()
+    {
         m_array.bind();
         for (size_t i = 0; i < m_indexes.size(); ++i) {
             m_gl.glBindTexture(GL_TEXTURE_2D, m_textures[i]->textureId());
@@ -120,14 +182,89 @@ public:
         }
     }
 
-private:
     QOpenGLExtraFunctions &m_gl;
     ShaderPrograms m_programs;
+    ShapeProgram m_shape;
     QMatrix4x4 m_mvp;
     QOpenGLVertexArrayObject m_array;
     GLuint m_vertices = 0;
     std::vector<std::pair<GLuint, GLsizei>> m_indexes;
-    std::vector<std::unique_ptr<QOpenGLTexture>> m_textures;
+    std::map<qint64, std::shared_ptr<QOpenGLTexture>> m_copies; ///< by their images' keys
+    std::vector<std::shared_ptr<QOpenGLTexture>> m_textures;
+    QOpenGLVertexArrayObject m_lineArray;
+    GLsizei m_lineCount = 0;
+};
+
+/// A model that moves, painted as the program does and by bare calls.
+class Subject
+{
+public:
+    Subject(int rings, int surfaceCount)
+        : m_mesh(makeMesh(rings, surfaceCount))
+        , m_block(makeBlock())
+        , source(MeshSource::from(m_mesh))
+        , painter([] { std::abort(); })
+    {
+        painter.setModel(source);
+        painter.setUpState(Qt::darkCyan);
+        const Camera camera;
+        frame.projection = Camera::projectionMatrix(FrameSize.width(), FrameSize.height());
+        frame.view = camera.viewMatrix();
+        frame.viewport = FrameSize;
+        frame.skinned = true;
+        frame.backCull = true;
+        frame.marks.mesh = &m_mesh;
+        m_state.playState = PlayState::Playing;
+        paint();
+        const QMatrix4x4 model = ScenePainter::modelMatrix(frame);
+        m_eye = (frame.view * model).inverted().column(3).toVector3D();
+        m_bare = std::make_unique<BareProgram>(source, frame.projection * frame.view * model);
+        for (const QMatrix4x4 &bone : painter.model().palette)
+            m_bones.insert(m_bones.end(), bone.constData(), bone.constData() + 16);
+        MarkedRecords records;
+        records.mesh = &m_mesh;
+        records.boxes = true;
+        SceneBoxes boxes;
+        boxes.place(records, ScreenMap(frame.projection, frame.view * model, FrameSize),
+                    painter.model().palette);
+        OverlayCanvas canvas;
+        boxes.draw(canvas);
+        m_bare->setLines(canvas.vertices());
+    }
+
+    void paint()
+    {
+        m_state.time += 0.01f;
+        QQuaternion yaw;
+        m_poses.evaluateAnimatedPose(painter.model().palette, m_mesh, m_block, m_state, yaw);
+        frame.yaw = yaw;
+        painter.paint(frame);
+        QOpenGLContext::currentContext()->functions()->glFinish();
+    }
+    void paintBare()
+    {
+        if (frame.marks.boxes)
+            m_bare->paintWithLines(m_bones, FrameSize);
+        else if (frame.look == SurfaceLook::Lit)
+            m_bare->paintLit(m_bones, m_eye);
+        else
+            m_bare->paint(m_bones);
+        QOpenGLContext::currentContext()->functions()->glFinish();
+    }
+
+private:
+    SkinnedMesh m_mesh;
+    AnimBlock m_block;
+    PoseEvaluator m_poses;
+    Playback m_state;
+    QVector3D m_eye;
+    std::unique_ptr<BareProgram> m_bare;
+    std::vector<float> m_bones;
+
+public:
+    const MeshSource source;
+    ScenePainter painter;
+    SceneFrame frame;
 };
 } // namespace
 
@@ -148,58 +285,44 @@ int main(int argc, char **argv)
     target.bind();
     context.functions()->glViewport(0, 0, FrameSize.width(), FrameSize.height());
 
-    const SkinnedMesh mesh = makeMesh();
-    const AnimBlock block = makeBlock();
-    const MeshSource source = MeshSource::from(mesh);
-    ScenePainter painter([] { std::abort(); });
-    painter.setModel(source);
-    painter.setUpState(Qt::darkCyan);
-
-    const Camera camera;
-    SceneFrame frame;
-    frame.projection = Camera::projectionMatrix(FrameSize.width(), FrameSize.height());
-    frame.view = camera.viewMatrix();
-    frame.viewport = FrameSize;
-    frame.skinned = true;
-    frame.backCull = true;
-    PoseEvaluator poses;
-    Playback state;
-    state.playState = PlayState::Playing;
-    const auto paint = [&] {
-        state.time += 0.01f;
-        QQuaternion yaw;
-        poses.evaluateAnimatedPose(painter.model().palette, mesh, block, state, yaw);
-        frame.yaw = yaw;
-        painter.paint(frame);
-        context.functions()->glFinish();
+    Subject subject(100, 10);
+    Subject parted(200, 200);
+    const auto compare = [&](const char *name, double budget, Subject &painted, const SceneFrame &frame) {
+        // Both have to have drawn the same picture.
+        painted.frame = frame;
+        painted.paint();
+        const QImage picture = target.toImage();
+        painted.paintBare();
+        if (target.toImage() != picture)
+            std::abort();
+        Bench::ratio(
+            name, budget, Repetitions,
+            [&painted, frame] {
+                painted.frame = frame;
+                painted.paint();
+            },
+            [&painted, frame] {
+                painted.frame = frame;
+                painted.paintBare();
+            });
     };
-    paint();
-
-    QMatrix4x4 model;
-    model.rotate(ScenePainter::uprightRotation());
-    BareProgram bare(source, frame.projection * frame.view * model);
-    std::vector<float> bones;
-    for (const QMatrix4x4 &bone : painter.model().palette)
-        bones.insert(bones.end(), bone.constData(), bone.constData() + 16);
-    const auto paintBare = [&] {
-        bare.paint(bones);
-        context.functions()->glFinish();
-    };
-
-    // Both have to have drawn the same picture.
-    paint();
-    const QImage painted = target.toImage();
-    paintBare();
-    if (target.toImage() != painted)
-        std::abort();
-    Bench::ratio("paint_frame", 1.2, Repetitions, paint, paintBare);
+    const SceneFrame usual = subject.frame;
+    compare("paint_frame", 1.2, subject, usual);
+    compare("paint_200_surfaces", 1.25, parted, parted.frame);
+    SceneFrame lit = usual;
+    lit.look = SurfaceLook::Lit;
+    compare("paint_lit", 1.25, subject, lit);
+    SceneFrame boxes = usual;
+    boxes.marks.boxes = true;
+    compare("paint_boxes", 1.25, subject, boxes);
 
     // Many surfaces with one large picture cost what the picture does.
-    MeshSource alike = source;
-    alike.indexes.assign(64, source.indexes.front());
+    MeshSource alike = subject.source;
+    alike.indexes.assign(64, subject.source.indexes.front());
     QImage picture(2048, 2048, QImage::Format_RGBA8888);
     picture.fill(Qt::red);
     alike.images.assign(alike.indexes.size(), picture);
+    ScenePainter &painter = parted.painter;
     Bench::ratio(
         "upload_64_alike", 2.0, 5,
         [&] {

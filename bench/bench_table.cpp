@@ -45,7 +45,6 @@ struct Scene
     MaterialCatalog materials;
     PageStack pages;
     RecordTableView table;
-    ModelFieldSource<SkinnedMesh> source{document};
 };
 
 void calculateOnPage()
@@ -70,7 +69,7 @@ void calculateOnPage()
 void pasteIntoTable()
 {
     Scene scene;
-    scene.table.show(&scene.source, groupOf(scene.document, {RecordKind::SkinnedVertices, {}}, false));
+    scene.table.show(&scene.document, groupOf(scene.document, {RecordKind::SkinnedVertices, {}}, false));
     scene.table.resize(1200, 400);
     static_cast<QWidget &>(scene.table).show();
     QCoreApplication::processEvents();

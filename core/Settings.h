@@ -91,6 +91,10 @@ inline const SettingKey<int> MasterServerPort{"MasterServerPort", 20700};
 inline const SettingKey<bool> HideMeshData{"HideMeshData", true};
 inline const SettingKey<bool> HideAnimData{"HideAnimData", true};
 inline const SettingKey<bool> AnimationAutoPlay{"AnimationAutoPlay", true};
+inline const SettingKey<bool> ShowActionTrack{"ShowActionTrack", true};
+inline const SettingKey<bool> GoToSelectedAction{"GoToSelectedAction", false};
+inline const SettingKey<QString> SoundsFolder{"SoundsFolder", {}};
+inline const SettingKey<bool> PlayEventSounds{"PlayEventSounds", true};
 
 // Folder explorers.
 inline const SettingKey<bool> SkinnedMeshQuickSelect{"SkinnedMeshQuickSelect", true};
@@ -152,9 +156,18 @@ inline const SettingKey<bool> ShowAxisGizmo{"ShowAxisGizmo", false};
 inline const SettingKey<bool> BackCull{"BackCull", false};
 inline const SettingKey<int> SurfSelectType{"SurfSelectType", 0};
 inline const SettingKey<int> Shading{"Shading", 0};
+inline const SettingKey<int> SurfaceLook{"SurfaceLook", 0};
+inline const SettingKey<bool> ShowVertexNormals{"ShowVertexNormals", false};
+inline const SettingKey<bool> SortTransparency{"SortTransparency", false};
+inline const SettingKey<bool> SharpTexels{"SharpTexels", false};
+inline const SettingKey<bool> SmoothEdges{"SmoothEdges", false};
+inline const SettingKey<bool> FadingGround{"FadingGround", false};
 inline const SettingKey<bool> ShowSurfaceTint{"ShowSurfaceTint", true};
 inline const SettingKey<bool> ShowSkeleton{"ShowSkeleton", false};
 inline const SettingKey<bool> ShowHotPoints{"ShowHotPoints", false};
+inline const SettingKey<int> ShowDamage{"ShowDamage", 0};    ///< nothing, damage scales, impact types
+inline const SettingKey<bool> ShowBoxes{"ShowBoxes", false}; ///< of the bones and of the model
+inline const SettingKey<bool> ShowEvents{"ShowEvents", false};
 inline const SettingKey<bool> ShowStatistics{"ShowStatistics", false};
 inline const SettingKey<bool> OrbitMode{"OrbitMode", false};
 inline const SettingKey<bool> FrameOnOpen{"FrameOnOpen", true};

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ImportWorker.h"
 
+#include "Background.h"
 #include "Language.h"
 #include "Log.h"
 #include "TextureSearch.h"
@@ -210,7 +211,9 @@ void ImportWorker::finish(const QString &failure)
 
 void ImportWorker::discard()
 {
-    m_folder.reset();
+    // Large files take their time to go, too.
+    if (m_folder)
+        Background::discard(std::move(m_folder));
 }
 
 bool ImportWorker::read(SkinnedMesh &mesh, AnimFile &anim) const

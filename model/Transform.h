@@ -52,6 +52,12 @@ void scaleBox(float factor, Boxed &boxed)
     boxed.bbMax *= factor;
 }
 
+/// Whether a place is one: all its coordinates are finite.
+inline bool isFinite(const QVector3D &place)
+{
+    return std::isfinite(place.x()) && std::isfinite(place.y()) && std::isfinite(place.z());
+}
+
 /// The smallest box around points.
 struct Box
 {
@@ -62,7 +68,7 @@ struct Box
 /// Widens the box, or makes it. A point that is nowhere changes nothing.
 inline void widen(std::optional<Box> &box, const QVector3D &point)
 {
-    if (!std::isfinite(point.x()) || !std::isfinite(point.y()) || !std::isfinite(point.z()))
+    if (!isFinite(point))
         return;
     if (!box)
         box = Box{point, point};

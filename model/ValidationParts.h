@@ -3,6 +3,7 @@
 #pragma once
 
 #include "FindingCollector.h"
+#include "Transform.h"
 #include "Validation.h"
 
 #include <QCoreApplication>
@@ -42,10 +43,6 @@ inline bool isFinite(const std::array<float, 8> &values)
 inline bool isFinite(const QVector2D &value)
 {
     return isFinite(value.x()) && isFinite(value.y());
-}
-inline bool isFinite(const QVector3D &value)
-{
-    return isFinite(value.x()) && isFinite(value.y()) && isFinite(value.z());
 }
 inline bool isFinite(const QVector4D &value)
 {

@@ -14,6 +14,8 @@ constexpr int MostAway = 32; // pixels
 Qt::CursorShape shapeOf(ViewCursor cursor)
 {
     switch (cursor) {
+    case ViewCursor::OpenHand:
+        return Qt::OpenHandCursor;
     case ViewCursor::Cross:
         return Qt::CrossCursor;
     case ViewCursor::ClosedHand:

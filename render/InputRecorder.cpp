@@ -48,17 +48,25 @@ InputRecorder::Outcome InputRecorder::handleInput(QEvent &event)
     case QEvent::MouseMove: {
         ViewInput input = record(static_cast<QMouseEvent &>(event));
         input.step = m_cursor.follow(input.position);
-        return m_tools.move(input) ? Outcome::Changed : Outcome::Taken;
+        const bool isChanged = m_tools.move(input);
+        showCursor();
+        return isChanged ? Outcome::Changed : Outcome::Taken;
     }
     case QEvent::Wheel:
         if (!m_tools.wheel(record(static_cast<QWheelEvent &>(event))))
             return Outcome::Passed;
         event.accept();
         return Outcome::Changed;
+    case QEvent::ShortcutOverride: // a command would have it otherwise
+        if (!m_tools.takesKeys())
+            return Outcome::Passed;
+        event.accept();
+        return Outcome::Taken;
     case QEvent::KeyPress: {
         const auto &key = static_cast<QKeyEvent &>(event);
         if (!m_tools.keyPress(record(key)))
             return Outcome::Passed;
+        showCursor();
         return key.isAutoRepeat() ? Outcome::Taken : Outcome::Changed;
     }
     case QEvent::KeyRelease:

@@ -3,6 +3,7 @@
 #include "KVOpenGLWidget.h"
 
 #include "CrashReport.h"
+#include "EventWords.h"
 #include "FlightTool.h"
 #include "Log.h"
 #include "OrbitTool.h"
@@ -31,6 +32,7 @@ KVOpenGLWidget::KVOpenGLWidget(QWidget *parent)
     setOrbitMode(Settings::OrbitMode.value());
     setShowSkeleton(m_scene.frame.marks.skeleton); // as the settings want it
     setFocusPolicy(Qt::StrongFocus);
+    new EventWords(*this, [this] { return m_scene.marks(); });
 }
 
 KVOpenGLWidget::~KVOpenGLWidget()
@@ -86,13 +88,15 @@ void KVOpenGLWidget::paintGL()
         frameAll();
     m_scene.paint(m_camera.viewMatrix());
     if (m_statistics)
-        m_statistics->countFrame();
+        m_statistics->countFrame(m_scene.takeCardTime());
 }
 
 void KVOpenGLWidget::poseModel()
 {
     m_scene.frame.yaw = QQuaternion();
-    tellFrame(m_playback.pose(m_scene.palette(), m_scene.frame.yaw));
+    const int frame = m_playback.pose(m_scene.palette(), m_scene.frame.yaw);
+    m_scene.frame.marks.events.follow(playback(), frame);
+    tellFrame(frame);
 }
 
 void KVOpenGLWidget::tellFrame(int frame)
@@ -205,17 +209,11 @@ void KVOpenGLWidget::waitForBone(PickTool::BonePicked picked)
     m_recorder.showCursor();
 }
 
-void KVOpenGLWidget::changeMarks(bool &mark, bool on)
-{
-    change(mark, on);
-    // Their tips come up without a button held.
-    setMouseTracking(m_scene.frame.marks.showsBones() || m_scene.frame.marks.showsHotPoints());
-}
-
 void KVOpenGLWidget::setShowStatistics(bool on)
 {
     if (on == (m_statistics != nullptr))
         return;
+    m_scene.setMeasured(on);
     delete std::exchange(m_statistics, on ? new ViewStatistics(this) : nullptr);
     if (!m_statistics)
         return;
@@ -330,8 +328,8 @@ bool KVOpenGLWidget::moveBy(TickTimer::Due due)
 TickTimer::Pace KVOpenGLWidget::tick(TickTimer::Due due)
 {
     const bool skinned = m_scene.frame.skinned;
-    // What started between two idle looks starts now.
-    if (m_active && skinned && !m_timer.isIdle())
+    // What started between two idle looks starts now; under a hand that drags the pose stays.
+    if (m_active && skinned && !m_timer.isIdle() && !m_tools.isHandleHeld())
         advanceClock(playback(), due.seconds);
     if (m_statistics)
         m_statistics->tick(due.seconds);

@@ -67,12 +67,46 @@ public:
     void setSurfSelectType(int type) { change(m_scene.frame.overlay, ShownScene::overlay(type)); }
     /// 0 to 2, see Shading; anything else is 0.
     void setShading(int shading) { change(m_scene.frame.shading, ShownScene::shading(shading)); }
+    /// 0 to 2, see SurfaceLook; anything else is 0.
+    void setSurfaceLook(int look) { change(m_scene.frame.look, ShownScene::look(look)); }
+    /// Whatever else can be switched in a frame, by its member.
+    void setOption(bool SceneFrame::*option, bool on) { change(m_scene.frame.*option, on); }
     void setShowSurfaceTint(bool on) { change(m_scene.frame.showSurfaceTint, on); }
     void setShowSkeleton(bool on) { changeMarks(m_scene.frame.marks.skeleton, on); }
     void setShowHotPoints(bool on) { changeMarks(m_scene.frame.marks.hotPoints, on); }
+    /// The boxes of the bones, posed, and of the model; selected ones are bold.
+    void setShowBoxes(bool on) { changeMarks(m_scene.frame.marks.boxes, on); }
+    /// Marks what happens as it plays, and the selected key frame actions.
+    void setShowEvents(bool on) { change(m_scene.frame.marks.events.wanted, on); }
+    /// The selected key frame actions of a block, ascending.
+    void setSelectedActions(int block, std::vector<int> actions)
+    {
+        m_scene.frame.marks.events.selectedBlock = block;
+        change(m_scene.frame.marks.events.selected, std::move(actions));
+    }
+    /// Whose box can be dragged, a bone's or MarkedRecords::ModelBox, and whether the highlighted point can.
+    void setHandles(int box, bool point)
+    {
+        change(m_scene.frame.marks.handledBox, box);
+        change(m_scene.frame.marks.handlesPoint, point);
+    }
+    // A drag as it goes: shown, and nothing else.
+    void setHoveredFace(int face) { change(m_scene.frame.marks.hoveredFace, face); }
+    void setDraggedBox(const Box &box) { change(m_scene.frame.marks.draggedBox, std::optional<Box>(box)); }
+    void setDraggedPoint(const QVector3D &place, int bone)
+    {
+        change(m_scene.frame.marks.draggedPoint, std::optional<DraggedPoint>({place, bone}));
+    }
+    void endDrag()
+    {
+        m_scene.frame.marks.draggedBox.reset();
+        change(m_scene.frame.marks.draggedPoint, std::optional<DraggedPoint>());
+    }
     /// Lets the next click on a bone be told to this alone. Until then all bones are drawn, and hot points
     /// are not, which would lie over them. Null gives that up.
     void waitForBone(PickTool::BonePicked picked);
+    /// Lays a color over the vertices of each bone; none: as they are. Bones beyond stay as they are, too.
+    void setBoneColors(std::vector<QRgb> colors) { change(m_scene.frame.boneColors, std::move(colors)); }
     void setShowStatistics(bool on); ///< frames a second and the number of triangles, in a corner
 
     void setSelectedSurface(int surface); ///< -1: none
@@ -83,8 +117,14 @@ public:
     void setHighlightPoint(const QVector3D &position, bool flag, int bone)
     {
         change(m_scene.frame.highlight, {true, position, flag, bone});
+        followMouse();
     }
-    void clearHighlightPoint() { change(m_scene.frame.highlight, {}); }
+    void clearHighlightPoint()
+    {
+        change(m_scene.frame.highlight, {});
+        followMouse();
+    }
+    const HighlightPoint &highlightPoint() const { return m_scene.frame.highlight; }
     /// The selected ones among the marked bones and hot points, ascending.
     void setMarkedSelection(std::vector<int> bones, std::vector<int> hotPoints);
     /// What mouse and keys do. Whoever has something to tell a tool, or to hear of it, asks here.
@@ -148,7 +188,18 @@ private:
     void replaceModel(bool shown);
     void rebuildCopy();
     void showTriangles();
-    void changeMarks(bool &mark, bool on);
+    void changeMarks(bool &mark, bool on)
+    {
+        change(mark, on);
+        followMouse();
+    }
+    /// Tips come up, and handles answer, without a button held.
+    void followMouse()
+    {
+        const MarkedRecords &marks = m_scene.frame.marks;
+        setMouseTracking(marks.showsBones() || marks.showsHotPoints() || marks.showsBoxes() ||
+                         m_scene.frame.highlight.on);
+    }
     void poseModel();
     void tellFrame(int frame);
     void frame(const std::vector<QVector3D> &places, int strays);

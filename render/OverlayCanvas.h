@@ -5,6 +5,7 @@
 #include <QColor>
 #include <QPointF>
 
+#include <array>
 #include <vector>
 
 /// Lines and marks on a picture, in its pixels, as triangles whose rims fade out: they look the same on every
@@ -23,6 +24,11 @@ public:
     void clear() { m_vertices.clear(); }
     void line(const QPointF &from, const QPointF &to, float width, QRgb color);
     void disc(const QPointF &centre, float radius, QRgb color) { shape(centre, radius, DiscSides, color); }
+    /// What four corners span.
+    void face(const std::array<QPointF, 4> &corners, QRgb color)
+    {
+        quad({corners[0], corners[1], corners[2], corners[3]}, color, color);
+    }
     /// A square on its corner.
     void diamond(const QPointF &centre, float radius, QRgb color) { shape(centre, radius, 4, color); }
 

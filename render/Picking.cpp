@@ -4,6 +4,8 @@
 
 #include "PosedVertices.h"
 
+#include <algorithm>
+
 SurfacePicker::SurfacePicker(const std::vector<GLVertex> &vertices, const BonePalette &palette,
                              const Ray &ray, bool frontOnly)
     : m_vertices(vertices)
@@ -20,8 +22,18 @@ void SurfacePicker::tryTriangles(int surface, const std::vector<quint16> &indexe
         if (distance >= 0.0f && (m_surface == None || distance < m_distance)) {
             m_surface = surface;
             m_distance = distance;
+            m_corners = {indexes[i], indexes[i + 1], indexes[i + 2]};
         }
     }
+}
+
+quint16 SurfacePicker::vertex() const
+{
+    const auto distance = [this](quint16 corner) {
+        return (posedPlace(m_vertices[corner], m_palette) - place()).lengthSquared();
+    };
+    return *std::min_element(m_corners.begin(), m_corners.end(),
+                             [&](quint16 a, quint16 b) { return distance(a) < distance(b); });
 }
 
 // Moeller and Trumbore's test. Whatever is no number fails one of the comparisons.

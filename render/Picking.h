@@ -6,6 +6,8 @@
 #include "Pose.h"
 #include "ScreenMap.h"
 
+#include <array>
+
 /// The surface that a ray through a posed model meets first: triangles are tried one by one, and those whose
 /// corners are no numbers are not met.
 class SurfacePicker
@@ -25,6 +27,9 @@ public:
     /// Where the ray meets it.
     QVector3D place() const { return m_ray.origin + m_distance * m_ray.direction; }
 
+    /// The corner of the triangle that is nearest to that; there has to be one.
+    quint16 vertex() const;
+
 private:
     /// How far along the ray, in lengths of its direction; negative when it does not meet the triangle.
     float distanceTo(const QVector3D &a, const QVector3D &b, const QVector3D &c) const;
@@ -35,4 +40,5 @@ private:
     bool m_frontOnly;
     int m_surface = None;
     float m_distance = 0.0f;
+    std::array<quint16, 3> m_corners{};
 };

@@ -35,8 +35,8 @@ QImage paintOnce(ScenePainter &painter, const SceneFrame &frame, const QSize &si
 
 int oversampling(const SceneFrame &frame, const QSize &size)
 {
-    // Edges are one pixel wide at any size and would become too faint.
-    if (frame.shading != Shading::Shaded)
+    // Lines are one pixel wide at any size and would become too faint.
+    if (frame.shading != Shading::Shaded || frame.showVertexNormals)
         return 1;
     GLint longestSide = 0;
     QOpenGLContext::currentContext()->functions()->glGetIntegerv(GL_MAX_RENDERBUFFER_SIZE, &longestSide);

@@ -19,6 +19,16 @@ constexpr QRgb OutlineColor = 0x90000000;
 constexpr QRgb BoneColor = 0xffe8eaf0;
 constexpr QRgb HotPointColor = 0xffffe14d;
 constexpr QRgb SelectedColor = 0xffff8c00;
+constexpr QRgb DamageColor = 0xffff3b30;
+constexpr QRgb EventColor = 0xffffffff;
+constexpr float EventRadius = 4.0f;
+constexpr float FlashRadius = 9.0f; // more, as it happens
+constexpr int CircleSides = 48;
+
+QRgb withAlpha(QRgb color, float alpha)
+{
+    return (color & 0x00ffffff) | QRgb(std::lround(255.0f * alpha)) << 24;
+}
 
 /// A model may say anything; more than this cannot be told apart.
 constexpr size_t MostMarks = 4096;
@@ -34,10 +44,14 @@ void SceneMarks::place(const MarkedRecords &records, const ScreenMap &map, const
     m_bones.clear();
     m_lines.clear();
     m_hotPoints.clear();
+    m_events.clear();
+    m_rims.clear();
     if (records.mesh && records.showsBones())
         placeBones(records, map, palette);
     if (records.mesh && records.showsHotPoints())
         placeHotPoints(records, map, palette);
+    if (records.mesh && !records.bonesAlone)
+        placeEvents(records, map, palette);
 }
 
 SceneMarks::Mark SceneMarks::markAt(int record, const std::vector<int> &selection, const QVector3D &inEye,
@@ -68,15 +82,61 @@ void SceneMarks::placeHotPoints(const MarkedRecords &records, const ScreenMap &m
 {
     const auto &points = records.mesh->hotPoints;
     for (size_t i = 0; i < std::min(points.size(), MostMarks); ++i) {
-        const size_t bone = points[i].nodeId;
-        const QVector3D place =
-            bone < palette.size() ? palette[bone].map(points[i].origin) : points[i].origin;
+        const bool isDragged = records.draggedPoint && contains(records.selectedHotPoints, int(i));
+        const QVector3D origin = isDragged ? records.draggedPoint->place : points[i].origin;
+        const size_t bone = isDragged ? size_t(records.draggedPoint->bone) : points[i].nodeId;
+        const QVector3D place = bone < palette.size() ? palette[bone].map(origin) : origin;
         m_hotPoints.push_back(markAt(int(i), records.selectedHotPoints, map.toEye(place), map));
+    }
+}
+
+void SceneMarks::placeEvents(const MarkedRecords &records, const ScreenMap &map, const BonePalette &palette)
+{
+    for (const MarkedEvent &event : records.events.shown()) {
+        const bool hasBone = event.bone >= 0 && size_t(event.bone) < palette.size();
+        const QVector3D place = hasBone ? palette[size_t(event.bone)].map(event.offset) : event.offset;
+        const QVector3D inEye = map.toEye(place);
+        if (map.isVisible(inEye))
+            m_events.push_back({event, map.pixel(inEye)});
+        if (!(event.damageRadius > 0.0f))
+            continue;
+        // The outline of the sphere, and its circle along the ground.
+        const QRgb color =
+            withAlpha(event.selected ? SelectedColor : DamageColor, event.selected ? 1.0f : event.strength);
+        for (const bool upright : {true, false}) {
+            const auto onRim = [&](int side) {
+                const double angle = 2.0 * M_PI * (side % CircleSides) / CircleSides;
+                const QVector3D out(float(std::cos(angle)), float(std::sin(angle)), 0.0f);
+                return upright ? inEye + out * event.damageRadius
+                               : map.toEye(place + out * event.damageRadius);
+            };
+            for (int side = 0; side < CircleSides; ++side) {
+                QVector3D from = onRim(side), to = onRim(side + 1);
+                if (map.clip(from, to))
+                    m_rims.push_back({map.pixel(from), map.pixel(to), color});
+            }
+        }
+    }
+}
+
+void SceneMarks::drawEvents(OverlayCanvas &canvas) const
+{
+    for (const RimPiece &rim : m_rims)
+        canvas.line(rim.from, rim.to, LineWidth, rim.color);
+    for (const EventPlace &each : m_events) {
+        const MarkedEvent &event = each.event;
+        const QRgb color = event.damageRadius > 0.0f ? DamageColor : EventColor;
+        if (event.strength > 0.0f)
+            canvas.disc(each.pixel, EventRadius + FlashRadius * event.strength,
+                        withAlpha(color, 0.4f * event.strength));
+        canvas.disc(each.pixel, EventRadius + Outline, OutlineColor);
+        canvas.disc(each.pixel, EventRadius, event.selected ? SelectedColor : color);
     }
 }
 
 void SceneMarks::draw(OverlayCanvas &canvas) const
 {
+    drawEvents(canvas);
     // What is selected lies on top.
     for (const bool selected : {false, true}) {
         const auto drawn = [selected](const Mark &mark) { return mark.visible && mark.selected == selected; };

@@ -31,8 +31,10 @@ SceneOverlay::SceneOverlay()
 void SceneOverlay::paint(ShaderPrograms &programs, const MarkedRecords &records, const ScreenMap &map,
                          const BonePalette &palette, const QSizeF &size)
 {
+    m_boxes.place(records, map, palette);
     m_marks.place(records, map, palette);
     m_canvas.clear();
+    m_boxes.draw(m_canvas);
     m_marks.draw(m_canvas);
     if (m_canvas.vertices().empty() || !programs.overlay.isLinked())
         return;

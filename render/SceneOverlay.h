@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "SceneBoxes.h"
 #include "SceneMarks.h"
 
 #include <QOpenGLBuffer>
@@ -32,5 +33,6 @@ private:
     QOpenGLBuffer m_buffer{QOpenGLBuffer::VertexBuffer};
     size_t m_capacity = 0; ///< vertices
     OverlayCanvas m_canvas;
+    SceneBoxes m_boxes;
     SceneMarks m_marks;
 };

@@ -6,13 +6,10 @@
 #include "PosedVertices.h"
 
 #include <QColor>
-#include <QDebug>
 #include <QOpenGLContext>
 #include <QOpenGLExtraFunctions>
-#include <QVector4D>
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 namespace {
@@ -20,12 +17,6 @@ namespace {
 constexpr float SphereRadius = 0.028f;
 constexpr float QuadRadius = 0.014f;
 constexpr float NearestMarker = 5.12f; // the near plane: behind it nothing is seen
-/// The overlay and the outline are drawn this much nearer to the eye, in the same place on the screen, so
-/// that the surface they lie on does not hide them.
-constexpr float OverlayPull = 0.998f;
-constexpr QVector3D DarkWires(0.08f, 0.08f, 0.1f);
-constexpr QVector3D LightWires(0.65f, 0.68f, 0.72f);
-constexpr float WiresOnSurfaces = 0.6f; // opacity: where they are dense the texture still shows
 constexpr float GizmoScale = 2.0f;
 constexpr float GizmoMargin = 64.0f; // from the lower left corner to the arrows' origin, in pixels
 constexpr float GizmoDepth = 1000.0f;
@@ -46,14 +37,12 @@ float distanceOf(const QMatrix4x4 &view, const QVector3D &place)
 
 ScenePainter::ScenePainter(const std::function<void()> &stepFailed)
     : m_gl(*QOpenGLContext::currentContext()->extraFunctions())
-    , m_polygonMode(
-          reinterpret_cast<PolygonMode>(QOpenGLContext::currentContext()->getProcAddress("glPolygonMode")))
     , m_programs(stepFailed)
     , m_model(std::make_unique<GLMesh>(FixedMeshes::placeholder()))
     , m_axisGizmo(FixedMeshes::axisGizmo())
     , m_redQuad(FixedMeshes::redQuad())
     , m_wireSphere(FixedMeshes::wireSphere())
-    , m_outline(m_gl)
+    , m_surfaces(m_programs)
 {
     m_posedArray.create();
     m_posedBuffer.create();
@@ -80,14 +69,14 @@ void ScenePainter::setUpState(const QColor &background)
     m_gl.glEnable(GL_DEPTH_TEST);
     m_gl.glEnable(GL_BLEND);
     m_gl.glEnable(GL_PROGRAM_POINT_SIZE);
-    // The frame's own alpha is how much of the background is covered.
-    m_gl.glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+    m_gl.glFrontFace(GL_CW);
+    SurfacePainter::setUpBlending(m_gl);
 }
 
 void ScenePainter::setBackground(const QColor &color)
 {
     const auto alpha = float(color.alphaF());
-    m_wireColor = alpha > 0.5f && qGray(color.rgb()) < 100 ? LightWires : DarkWires;
+    m_surfaces.setBackground(color);
     m_gl.glClearColor(alpha * float(color.redF()), alpha * float(color.greenF()),
                       alpha * float(color.blueF()), alpha);
 }
@@ -99,7 +88,6 @@ void ScenePainter::setBackFaceCulling(bool on)
     if (on) {
         m_gl.glEnable(GL_CULL_FACE);
         m_gl.glCullFace(GL_BACK);
-        m_gl.glFrontFace(GL_CW);
     } else {
         m_gl.glDisable(GL_CULL_FACE);
     }
@@ -125,32 +113,22 @@ void ScenePainter::paint(const SceneFrame &frame)
     setBackFaceCulling(frame.backCull);
     m_modelMatrix = modelMatrix(frame);
 
-    beginTextured(m_programs.plain, frame);
+    m_programs.plain.begin(frame.brightness);
     if (frame.showGround)
         paintGround(frame);
     // The ground lies behind everything, even behind what is below it.
     m_gl.glClear(GL_DEPTH_BUFFER_BIT);
 
-    paintModel(frame);
+    m_surfaces.paint(*m_model, frame, m_modelMatrix);
     paintOverlay(frame);
 
-    beginTextured(m_programs.plain, frame);
+    m_programs.plain.begin(frame.brightness);
     paintBoneMarker(frame);
     paintMarks(frame);
     paintHighlightPoint(frame);
     if (frame.showAxisGizmo)
         paintAxisGizmo(frame);
     m_programs.plain.program.release();
-}
-
-void ScenePainter::beginTextured(TexturedProgram &textured, const SceneFrame &frame)
-{
-    if (!textured.program.isLinked())
-        return;
-    textured.program.bind();
-    m_gl.glUniform1i(textured.texture, 0);
-    m_gl.glUniform1f(textured.brightness, frame.brightness);
-    m_gl.glUniform1f(textured.tiling, 1.0f);
 }
 
 void ScenePainter::drawTextured(TexturedProgram &textured, GLMesh &mesh, const QMatrix4x4 &mvp, GLenum mode)
@@ -161,69 +139,24 @@ void ScenePainter::drawTextured(TexturedProgram &textured, GLMesh &mesh, const Q
     mesh.draw(textured, mode);
 }
 
+// Leaves the plain program bound.
 void ScenePainter::paintGround(const SceneFrame &frame)
 {
-    if (!m_ground)
-        m_ground = std::make_unique<GLMesh>(FixedMeshes::ground());
     QMatrix4x4 ground;
     ground.translate(0.0f, frame.groundHeight, 0.0f);
     ground.rotate(uprightRotation());
+    const QMatrix4x4 mvp = frame.projection * frame.view * ground;
+    if (frame.fadingGround && !m_fadingGround)
+        m_fadingGround = std::make_unique<FadingGround>();
+    if (frame.fadingGround && m_fadingGround->isUsable()) {
+        m_fadingGround->paint(mvp, frame.brightness);
+        return m_programs.plain.begin(frame.brightness);
+    }
+    if (!m_ground)
+        m_ground = std::make_unique<GLMesh>(FixedMeshes::ground());
     m_gl.glUniform1f(m_programs.plain.tiling, FixedMeshes::GroundTiling);
-    drawTextured(m_programs.plain, *m_ground, frame.projection * frame.view * ground);
+    drawTextured(m_programs.plain, *m_ground, mvp);
     m_gl.glUniform1f(m_programs.plain.tiling, 1.0f);
-}
-
-void ScenePainter::paintModel(const SceneFrame &frame)
-{
-    const QMatrix4x4 mvp = frame.projection * frame.view * m_modelMatrix;
-    TexturedProgram &textured = frame.skinned ? m_programs.skin : m_programs.plain;
-    if (!textured.program.isLinked())
-        return;
-    if (frame.skinned) {
-        beginTextured(textured, frame);
-        uploadPalette();
-    }
-    m_model->tintsSelected = frame.showSurfaceTint;
-    if (frame.shading != Shading::Shaded && m_polygonMode)
-        return paintWires(textured, mvp, frame.shading); // whose edges are of another color
-    drawTextured(textured, *m_model, mvp);
-    if (frame.showSurfaceTint && m_model->hasSelectedSurface())
-        m_outline.paint(textured, *m_model, pulledMatrix(frame), frame.viewport);
-}
-
-void ScenePainter::paintWires(TexturedProgram &textured, const QMatrix4x4 &mvp, Shading shading)
-{
-    QVector4D color(m_wireColor, 1.0f);
-    if (shading == Shading::ShadedWireframe) {
-        color = QVector4D(DarkWires, WiresOnSurfaces);
-        // Surfaces step back a little, so that they do not hide their own edges.
-        m_gl.glEnable(GL_POLYGON_OFFSET_FILL);
-        m_gl.glPolygonOffset(1.0f, 1.0f);
-        drawTextured(textured, *m_model, mvp);
-        m_gl.glDisable(GL_POLYGON_OFFSET_FILL);
-    }
-    m_gl.glUniform4f(textured.wireColor, color.x(), color.y(), color.z(), color.w());
-    m_gl.glUniform1i(textured.edges, 1);
-    m_polygonMode(GL_FRONT_AND_BACK, GL_LINE);
-    drawTextured(textured, *m_model, mvp);
-    m_polygonMode(GL_FRONT_AND_BACK, GL_FILL);
-    m_gl.glUniform1i(textured.edges, 0);
-    m_gl.glUniform4f(textured.wireColor, 0.0f, 0.0f, 0.0f, 0.0f);
-}
-
-void ScenePainter::uploadPalette()
-{
-    const BonePalette &palette = m_model->palette;
-    const QMatrix4x4 identity;
-    const size_t held = size_t(m_programs.boneCount);
-    // Entries beyond the palette are reached by bad bone numbers only; they must not show an older model's.
-    for (size_t bone = 0; bone < held; ++bone) {
-        const QMatrix4x4 &matrix = bone < palette.size() ? palette[bone] : identity;
-        std::memcpy(&m_boneUpload[16 * bone], matrix.constData(), 16 * sizeof(float));
-    }
-    m_gl.glUniformMatrix4fv(m_programs.bones, m_programs.boneCount, GL_FALSE, m_boneUpload.data());
-    if (palette.size() > held)
-        qDebug("%s", m_programs.missingBoneText.constData());
 }
 
 void ScenePainter::paintOverlay(const SceneFrame &frame)
@@ -237,7 +170,7 @@ void ScenePainter::paintOverlay(const SceneFrame &frame)
         return;
 
     m_programs.highlight.bind();
-    const QMatrix4x4 mvp = pulledMatrix(frame);
+    const QMatrix4x4 mvp = SurfacePainter::pulledMatrix(frame, m_modelMatrix);
     m_gl.glUniformMatrix4fv(m_programs.highlightMvpMatrix, 1, GL_FALSE, mvp.constData());
     const bool lines = kind == SurfaceOverlay::Lines || kind == SurfaceOverlay::LinesHidden;
     // Lines join the indexes two by two as they stand: not the triangles' edges.
@@ -246,13 +179,6 @@ void ScenePainter::paintOverlay(const SceneFrame &frame)
         drawPosedSurface(m_model->selectedSurface, mode);
     else
         m_model->drawPlain(m_model->selectedSurface, mode);
-}
-
-QMatrix4x4 ScenePainter::pulledMatrix(const SceneFrame &frame) const
-{
-    QMatrix4x4 pull;
-    pull.scale(OverlayPull);
-    return frame.projection * pull * frame.view * m_modelMatrix;
 }
 
 void ScenePainter::drawPosedSurface(int surface, GLenum mode)
@@ -297,7 +223,7 @@ void ScenePainter::paintMarks(const SceneFrame &frame)
 {
     const ScreenMap map(frame.projection, frame.view * m_modelMatrix, frame.viewport);
     m_overlay.paint(m_programs, frame.marks, map, m_model->palette, frame.viewport);
-    beginTextured(m_programs.plain, frame);
+    m_programs.plain.begin(frame.brightness);
 }
 
 // The red square marks a point on a bone; it always faces the viewer.
@@ -307,9 +233,10 @@ void ScenePainter::paintHighlightPoint(const SceneFrame &frame)
     if (!point.on)
         return;
     const BonePalette &palette = m_model->palette;
-    QVector3D place = point.position;
-    if (point.bone >= 0 && size_t(point.bone) < palette.size())
-        place = palette[size_t(point.bone)].map(place);
+    const DraggedPoint shown = frame.marks.draggedPoint.value_or(DraggedPoint{point.position, point.bone});
+    QVector3D place = shown.place;
+    if (shown.bone >= 0 && size_t(shown.bone) < palette.size())
+        place = palette[size_t(shown.bone)].map(place);
     place = m_modelMatrix.map(place);
 
     QMatrix4x4 marker;

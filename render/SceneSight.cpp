@@ -6,6 +6,7 @@
 #include "Camera.h"
 #include "Picking.h"
 #include "ShownScene.h"
+#include "SkinnedMesh.h"
 
 #include <algorithm>
 #include <cmath>
@@ -59,7 +60,49 @@ int SceneSight::surfaceAt(const QPoint &pixel) const
     return surfaceAt(pixel, nullptr);
 }
 
-int SceneSight::surfaceAt(const QPoint &pixel, QVector3D *place) const
+int SceneSight::boneAt(const QPoint &pixel) const
+{
+    const SceneMarks *marks = m_scene.marks();
+    int bone = marks ? marks->boneAt(pixel) : HitMarks::None;
+    if (bone == HitMarks::None)
+        surfaceAt(pixel, nullptr, &bone);
+    return boneToModel(bone) ? bone : HitMarks::None;
+}
+
+std::optional<QMatrix4x4> SceneSight::boneToModel(int bone) const
+{
+    const GLMesh *model = m_scene.model();
+    if (!model || !m_scene.skinnedMesh() || bone < 0 || size_t(bone) >= model->palette.size())
+        return {};
+    return model->palette[size_t(bone)];
+}
+
+std::optional<BoxHandle> SceneSight::boxHandle() const
+{
+    const MarkedRecords &marks = m_scene.frame.marks;
+    if (!marks.showsBoxes() || marks.handledBox == MarkedRecords::NoBox)
+        return {};
+    if (marks.handledBox == MarkedRecords::ModelBox)
+        return marks.box ? std::make_optional<BoxHandle>(marks.box->min, marks.box->max, QMatrix4x4())
+                         : std::nullopt;
+    const SkinnedMesh *mesh = m_scene.skinnedMesh();
+    const auto toModel = boneToModel(marks.handledBox);
+    if (!mesh || !toModel || size_t(marks.handledBox) >= mesh->nodes.size())
+        return {};
+    const SkinnedMeshNode &bone = mesh->nodes[size_t(marks.handledBox)];
+    return BoxHandle(bone.bbMin, bone.bbMax, *toModel);
+}
+
+std::optional<PointHandle> SceneSight::pointHandle() const
+{
+    const SceneFrame &frame = m_scene.frame;
+    if (!frame.highlight.on || !frame.marks.handlesPoint || frame.marks.bonesAlone)
+        return {};
+    return PointHandle{frame.highlight.position, frame.highlight.bone,
+                       boneToModel(frame.highlight.bone).value_or(QMatrix4x4())};
+}
+
+int SceneSight::surfaceAt(const QPoint &pixel, QVector3D *place, int *bone) const
 {
     const GLMesh *model = m_scene.model();
     if (!model)
@@ -71,6 +114,8 @@ int SceneSight::surfaceAt(const QPoint &pixel, QVector3D *place) const
         picker.tryTriangles(surface, model->indexes(surface));
     if (place && picker.surface() != SurfacePicker::None)
         *place = picker.place();
+    if (bone && picker.surface() != SurfacePicker::None)
+        *bone = model->vertices().vertices[picker.vertex()].boneId;
     return picker.surface();
 }
 

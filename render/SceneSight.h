@@ -18,6 +18,10 @@ public:
 
     HitMarks marksAt(const QPoint &pixel) const override;
     int surfaceAt(const QPoint &pixel) const override;
+    int boneAt(const QPoint &pixel) const override;
+    std::optional<QMatrix4x4> boneToModel(int bone) const override;
+    std::optional<BoxHandle> boxHandle() const override;
+    std::optional<PointHandle> pointHandle() const override;
     QVector3D pivot() const override;
     ScreenMap screenMap() const override;
 
@@ -28,7 +32,7 @@ public:
     std::vector<QVector3D> selectedPlaces(const ModelSelection &selection) const;
 
 private:
-    int surfaceAt(const QPoint &pixel, QVector3D *place) const;
+    int surfaceAt(const QPoint &pixel, QVector3D *place, int *bone = nullptr) const;
     std::vector<QVector3D> upright(std::vector<QVector3D> places) const;
 
     const ShownScene &m_scene;

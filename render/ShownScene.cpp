@@ -20,8 +20,16 @@ ShownScene::ShownScene()
     frame.backCull = Settings::BackCull.value();
     frame.marks.skeleton = Settings::ShowSkeleton.value();
     frame.marks.hotPoints = Settings::ShowHotPoints.value();
+    frame.marks.boxes = Settings::ShowBoxes.value();
+    frame.marks.events.wanted = Settings::ShowEvents.value();
     frame.overlay = overlay(Settings::SurfSelectType.value());
     frame.shading = shading(Settings::Shading.value());
+    frame.look = look(Settings::SurfaceLook.value());
+    frame.showVertexNormals = Settings::ShowVertexNormals.value();
+    frame.sortsTransparency = Settings::SortTransparency.value();
+    frame.sharpTexels = Settings::SharpTexels.value();
+    frame.smoothEdges = Settings::SmoothEdges.value();
+    frame.fadingGround = Settings::FadingGround.value();
     frame.showSurfaceTint = Settings::ShowSurfaceTint.value();
 }
 
@@ -58,6 +66,10 @@ void ShownScene::modelReplaced(std::shared_ptr<MeshSource> ready)
     frame.selectedBone = -1;
     frame.highlight = {};
     frame.marks.mesh = nullptr;
+    frame.marks.handledBox = MarkedRecords::NoBox;
+    frame.marks.handlesPoint = false;
+    frame.marks.draggedBox.reset();
+    frame.marks.draggedPoint.reset();
     frame.marks.selectedBones.clear();
     frame.marks.selectedHotPoints.clear();
 }
@@ -69,16 +81,34 @@ void ShownScene::selectSurface(int surface)
         m_painter->model().selectedSurface = surface;
 }
 
+namespace {
+template <typename Choice>
+Choice choiceOf(int number, Choice last)
+{
+    return number >= 0 && number <= int(last) ? Choice(number) : Choice(0);
+}
+
+template <typename Thing>
+void keepWhile(bool wanted, std::unique_ptr<Thing> &thing)
+{
+    if (wanted != (thing != nullptr))
+        thing = wanted ? std::make_unique<Thing>() : nullptr;
+}
+} // namespace
+
 SurfaceOverlay ShownScene::overlay(int number)
 {
-    const bool known = number >= 0 && number <= int(SurfaceOverlay::PointsHidden);
-    return known ? SurfaceOverlay(number) : SurfaceOverlay::None;
+    return choiceOf(number, SurfaceOverlay::PointsHidden);
 }
 
 Shading ShownScene::shading(int number)
 {
-    const bool known = number >= 0 && number <= int(Shading::ShadedWireframe);
-    return known ? Shading(number) : Shading::Shaded;
+    return choiceOf(number, Shading::ShadedWireframe);
+}
+
+SurfaceLook ShownScene::look(int number)
+{
+    return choiceOf(number, SurfaceLook::Normals);
 }
 
 void ShownScene::makeCopy(const std::function<void()> &stepFailed)
@@ -86,6 +116,13 @@ void ShownScene::makeCopy(const std::function<void()> &stepFailed)
     m_painter = std::make_unique<ScenePainter>(stepFailed);
     applyBackground();
     rebuild();
+}
+
+void ShownScene::dropCopy()
+{
+    m_clock.reset();
+    m_samples.reset();
+    m_painter.reset();
 }
 
 void ShownScene::applyBackground()
@@ -136,11 +173,32 @@ float ShownScene::groundHeight() const
     return height < 0.0f ? height : 0.0f;
 }
 
+std::optional<Box> ShownScene::modelBox() const
+{
+    if (!frame.marks.boxes)
+        return {};
+    if (const SkinnedMesh *mesh = skinnedMesh())
+        return Box{mesh->bbMin, mesh->bbMax};
+    if (!frame.skinned && m_staticMesh)
+        return Box{m_staticMesh->bbMin, m_staticMesh->bbMax};
+    return {};
+}
+
 void ShownScene::paint(const QMatrix4x4 &view)
 {
     frame.view = view;
     frame.marks.mesh = skinnedMesh();
+    frame.marks.box = modelBox();
+    keepWhile(m_isMeasured, m_clock);
+    keepWhile(frame.smoothEdges, m_samples);
+    if (m_clock)
+        m_clock->begin();
+    const bool hasSamples = m_samples && m_samples->begin();
     m_painter->paint(frame);
+    if (hasSamples)
+        m_samples->end();
+    if (m_clock)
+        m_clock->end();
 }
 
 QImage ShownScene::picture(const QSize &size, const QColor &color, const QMatrix4x4 &view, int viewHeight)

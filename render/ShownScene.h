@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "CardClock.h"
+#include "MultisampleTarget.h"
 #include "ScenePainter.h"
 
 #include <QColor>
@@ -9,6 +11,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 struct SkinnedMesh;
 struct StaticMesh;
@@ -37,6 +40,7 @@ public:
 
     static SurfaceOverlay overlay(int number); ///< None where there is no such
     static Shading shading(int number);        ///< Shaded where there is no such
+    static SurfaceLook look(int number);       ///< Textured where there is no such
     const QColor &background() const { return m_background; }
     void setBackground(const QColor &color) { m_background = color; }
 
@@ -44,7 +48,7 @@ public:
 
     /// Makes a copy of everything; `stepFailed` is called for each shader step that fails.
     void makeCopy(const std::function<void()> &stepFailed);
-    void dropCopy() { m_painter.reset(); }
+    void dropCopy();
     /// Makes the copy of the model, with its textures, anew: the first time of what came ready with it.
     void rebuild();
     /// Lets more of it go to the card; false when all is there.
@@ -62,6 +66,10 @@ public:
     void applyBackground();
     /// Paints the frame as it is seen from a camera.
     void paint(const QMatrix4x4 &view);
+    /// Whether the card is asked how long it takes for that.
+    void setMeasured(bool on) { m_isMeasured = on; }
+    /// Milliseconds a frame, as CardClock::takeMean() tells them.
+    std::optional<float> takeCardTime() { return m_clock ? m_clock->takeMean() : std::nullopt; }
     /// The same as a picture of another size, beside a view of this height. Null when there is no memory.
     QImage picture(const QSize &size, const QColor &color, const QMatrix4x4 &view, int viewHeight);
 
@@ -78,6 +86,7 @@ public:
 private:
     void modelReplaced(std::shared_ptr<MeshSource> ready);
     float groundHeight() const;
+    std::optional<Box> modelBox() const;
 
     const SkinnedMesh *m_skinnedMesh = nullptr;
     const StaticMesh *m_staticMesh = nullptr;
@@ -86,5 +95,9 @@ private:
     bool m_verticesChanged = false;
     bool m_indexesChanged = false;
     QColor m_background;
+    bool m_isMeasured = false;
     std::unique_ptr<ScenePainter> m_painter;
+    // While they are wanted.
+    std::unique_ptr<MultisampleTarget> m_samples;
+    std::unique_ptr<CardClock> m_clock;
 };

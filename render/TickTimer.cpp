@@ -6,13 +6,14 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <utility>
 
 namespace {
 // Milliseconds.
 constexpr int MovingInterval = 1;
 constexpr int IdleInterval = 30;
-constexpr int PaintInterval = 16;
+constexpr double PaintInterval = 1000.0 / 60.0;
 constexpr qint64 MostSteps = 50;
 constexpr qint64 LongestWait = 1000;
 } // namespace
@@ -50,14 +51,16 @@ void TickTimer::setPace(Pace pace)
 
 void TickTimer::startForPaint()
 {
-    const qint64 waited = m_painted ? m_clock() - *m_painted : PaintInterval;
-    m_timer.start(int(std::clamp<qint64>(PaintInterval - waited, MovingInterval, PaintInterval)),
-                  Qt::PreciseTimer, &m_owner);
+    const double wait = std::ceil(m_due - double(m_clock()));
+    m_timer.start(int(std::clamp(wait, double(MovingInterval), std::ceil(PaintInterval))), Qt::PreciseTimer,
+                  &m_owner);
 }
 
 void TickTimer::paints()
 {
-    m_painted = m_clock();
+    // The clock counts whole milliseconds: what it is late by those is not lost.
+    const auto now = double(m_clock());
+    m_due = (now - m_due < 1.0 ? std::min(m_due, now) : now) + PaintInterval;
     if (m_timer.isActive() && m_pace == Pace::Playing)
         startForPaint();
 }
@@ -79,5 +82,5 @@ TickTimer::Due TickTimer::take()
 
 bool TickTimer::mayPaint() const
 {
-    return !m_painted || m_clock() - *m_painted >= PaintInterval;
+    return double(m_clock()) >= m_due;
 }

@@ -5,7 +5,6 @@
 #include <QBasicTimer>
 
 #include <functional>
-#include <optional>
 
 class QTimerEvent;
 
@@ -38,7 +37,8 @@ public:
     };
     Due take();
 
-    /// A frame is being painted: the next one has to wait, so that painting leaves time for ticks.
+    /// A frame is being painted: the next one has to wait, so that painting leaves time for ticks. There are
+    /// sixty a second at most.
     void paints();
     bool mayPaint() const;
 
@@ -50,7 +50,7 @@ private:
     QBasicTimer m_timer;
     Pace m_pace = Pace::Idle;
     const Clock m_clock;
-    std::optional<qint64> m_painted; ///< by the clock; none before the first frame
-    qint64 m_previous;               ///< the tick before, by the clock
-    qint64 m_stepped;                ///< the same, up to which steps were done
+    double m_due = 0.0; ///< when it may paint again, by the clock
+    qint64 m_previous;  ///< the tick before, by the clock
+    qint64 m_stepped;   ///< the same, up to which steps were done
 };

@@ -30,6 +30,15 @@ void ViewStatistics::setTriangles(int count)
     showNumbers();
 }
 
+void ViewStatistics::countFrame(std::optional<float> cardTime)
+{
+    ++m_frames;
+    if (!cardTime)
+        return;
+    m_cardSum += double(*cardTime);
+    ++m_cardTimes;
+}
+
 void ViewStatistics::tick(float dt)
 {
     m_time += dt;
@@ -37,17 +46,28 @@ void ViewStatistics::tick(float dt)
         return;
     // A single frame, as after a click, is no movement.
     const int rate = m_frames > 1 ? int(std::lround(float(m_frames) / m_time)) : 0;
+    const QString cardTime = rate > 0 && m_cardTimes > 0
+                                 ? Language::locale().toString(m_cardSum / m_cardTimes, 'f', 2)
+                                 : QString();
     m_frames = 0;
     m_time = 0.0f;
-    if (rate == m_rate)
+    m_cardSum = 0.0;
+    m_cardTimes = 0;
+    if (rate == m_rate && cardTime == m_cardTime)
         return;
     m_rate = rate;
+    m_cardTime = cardTime;
     showNumbers();
 }
 
 void ViewStatistics::showNumbers()
 {
-    const QString triangles = tr("%1 triangles").arg(Language::locale().toString(m_triangles));
-    setText(m_rate > 0 ? tr("%1 frames/s").arg(m_rate) + QStringLiteral(" · ") + triangles : triangles);
+    QStringList numbers;
+    if (m_rate > 0)
+        numbers.append(tr("%1 frames/s").arg(m_rate));
+    if (!m_cardTime.isEmpty())
+        numbers.append(tr("%1 ms on the graphics card").arg(m_cardTime));
+    numbers.append(tr("%1 triangles").arg(Language::locale().toString(m_triangles)));
+    setText(numbers.join(QStringLiteral(" · ")));
     adjustSize();
 }

@@ -51,6 +51,7 @@ QString ModelPicture::draw(OffscreenScene &scene, const MaterialFolders &folders
                        ? MeshSource::from(*m_subject.rigid(), folders.gamePath, folders.outputDir)
                        : MeshSource::from(*m_subject.skinned(), folders.gamePath, folders.outputDir));
     SceneFrame frame;
+    frame.look = m_wishes.look;
     pose(scene.model(), frame, m_subject, m_wishes);
     std::vector<QVector3D> corners = scene.corners(frame);
     if (const int strays = dropStrays(corners))

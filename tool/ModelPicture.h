@@ -3,6 +3,7 @@
 #pragma once
 
 #include "PosedModel.h"
+#include "SceneFrame.h"
 
 #include <QColor>
 #include <QSize>
@@ -17,7 +18,8 @@ struct PictureWishes
     QColor background;
     float yaw = 0.0f;   ///< degrees
     float pitch = 0.0f; ///< degrees
-    QString anim;       ///< the file to pose by; empty for the one that belongs to the mesh
+    SurfaceLook look = SurfaceLook::Textured;
+    QString anim; ///< the file to pose by; empty for the one that belongs to the mesh
     int block = 0;
     int frame = 0;
     bool isPoseNamed = false; ///< a model without an animation has no such pose

@@ -13,7 +13,9 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <climits>
+#include <iterator>
 
 namespace {
 constexpr int DefaultYaw = 30;
@@ -28,6 +30,15 @@ QSize sizeOf(const QString &text)
         return {};
     const int width = match.captured(1).toInt();
     return {width, match.captured(2).isEmpty() ? width : match.captured(2).toInt()};
+}
+
+constexpr const char *Looks[] = {"textured", "lit", "normals"}; // in the order of the enumeration
+
+std::optional<SurfaceLook> lookOf(const QString &text)
+{
+    const auto *look = std::find(std::begin(Looks), std::end(Looks), text);
+    return look == std::end(Looks) ? std::nullopt
+                                   : std::optional(SurfaceLook(std::distance(std::begin(Looks), look)));
 }
 
 std::optional<PictureWishes> wishesOf(const CommandLine &line)
@@ -46,6 +57,13 @@ std::optional<PictureWishes> wishesOf(const CommandLine &line)
                         .arg(background));
         return {};
     }
+    const QString shading = line.value(QStringLiteral("shading"));
+    const std::optional<SurfaceLook> look = lookOf(shading);
+    if (!look) {
+        line.refuse(QStringLiteral("--shading takes textured, lit or normals, not '%1'.").arg(shading));
+        return {};
+    }
+    wishes.look = *look;
     const auto yaw = line.number(QStringLiteral("yaw"), -36000.0f, 36000.0f);
     const auto pitch = line.number(QStringLiteral("pitch"), -90.0f, 90.0f);
     const auto block = line.integer(QStringLiteral("block"), 0, INT_MAX);
@@ -137,6 +155,9 @@ int render(const QStringList &arguments)
                 QStringLiteral("512x512"));
     line.option({QStringLiteral("background")}, QStringLiteral("color"),
                 QStringLiteral("A color's name, #RRGGBB or \"transparent\"."), QStringLiteral("transparent"));
+    line.option({QStringLiteral("shading")}, QStringLiteral("kind"),
+                QStringLiteral("textured, lit (by a lamp at the camera) or normals (in their colors)."),
+                QStringLiteral("textured"));
     line.option(
         {QStringLiteral("yaw")}, QStringLiteral("degrees"),
         QStringLiteral("Where the camera stands around the model: 0 before its front, 90 at its left side."),

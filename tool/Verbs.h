@@ -28,6 +28,7 @@ int resave(const QStringList &arguments);
 int dump(const QStringList &arguments);
 int build(const QStringList &arguments);
 int set(const QStringList &arguments);
+int animate(const QStringList &arguments);
 int find(const QStringList &arguments);
 int diff(const QStringList &arguments);
 int importModel(const QStringList &arguments);

@@ -20,6 +20,7 @@ constexpr Verb verbs[] = {
     {"dump", "write a model as JSON text", dump},
     {"build", "make a model of such a text", build},
     {"set", "set fields of a model", set},
+    {"animate", "change whole animations", animate},
     {"find", "list records that meet a condition", find},
     {"diff", "say in what two models differ", diff},
     {"import", "turn a model of another program into game files", importModel},

@@ -25,12 +25,12 @@ picture=docs/images/rooms.svg
 # From below to above. Rooms on one floor do not know each other.
 floors='core resources translations
 model net app/desktop import/box
-undo import render/scene app/widgets json
-find
+undo motion import render/scene app/widgets json
+find render/gl
 app/documents app/choice app/materials gltf import/scene render/input
 render import/ready
 app/tree app/view app/timeline app/explorer app/recovery app/console
-app/tree/pages app/find app/table app/problems app/compare app/database app/import
+app/tree/pages app/find app/table app/motion app/problems app/compare app/database app/import
 app/window
 app tool import/worker'
 

@@ -257,7 +257,18 @@ view_pictures() {
     sleep 2
     part "$folder/skeleton.png" -crop 1062x840+206+90
     command 'frame rate'
-    press 5 b h F12
+    press 5 b h
+    # Textured, lit and in the colors of its normals, side by side.
+    local look
+    for look in 0 1 2; do
+        case $look in
+        1) press l ;;
+        2) press n ;;
+        esac
+        part "build/look-$look.png" -crop 400x700+540+150 -resize 320x
+    done
+    convert build/look-{0,1,2}.png +append -strip -define png:compression-level=9 "$folder/shading.png"
+    press n F12
     grab_dialog 'Save Picture$' "$folder/picture.png"
     leave_dialog
     press ctrl+f

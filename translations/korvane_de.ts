@@ -49,6 +49,60 @@
     </message>
 </context>
 <context>
+    <name>ActionTrack</name>
+    <message>
+        <source>Frame %1 → %2</source>
+        <translation>Frame %1 → %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Part of the frames that is shown</source>
+        <translation>Gezeigter Teil der Frames</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Aktionen</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Schleife</translation>
+    </message>
+    <message>
+        <source>Blend</source>
+        <translation>Überblenden</translation>
+    </message>
+    <message>
+        <source>No loop frame: after the end it plays from the first frame. Drag the handle to where it is to go on instead.</source>
+        <translation>Kein Schleifen-Frame: Nach dem Ende beginnt sie von vorn. Ziehen Sie den Griff dorthin, wo sie stattdessen weitergehen soll.</translation>
+    </message>
+    <message>
+        <source>Loop frame %1: after the end it goes on there</source>
+        <translation>Schleifen-Frame %1: Nach dem Ende geht es dort weiter</translation>
+    </message>
+    <message>
+        <source>Blend start: frame %1</source>
+        <translation>Überblendstart: Frame %1</translation>
+    </message>
+    <message>
+        <source>Blend end: frame %1</source>
+        <translation>Überblendende: Frame %1</translation>
+    </message>
+    <message>
+        <source>Click or drag to show a frame. With Shift a drag selects frames, which then play alone. Ctrl and the wheel zoom.</source>
+        <translation>Klicken oder ziehen Sie, um einen Frame zu zeigen. Mit Umschalt wählt das Ziehen Frames aus, die dann allein abgespielt werden. Strg und das Rad vergrößern.</translation>
+    </message>
+    <message>
+        <source>Drag a mark to another frame. Ctrl, Shift or a frame that is drawn around them select several. A right click offers new ones.</source>
+        <translation>Ziehen Sie eine Marke in einen anderen Frame. Strg, Umschalt oder ein Rahmen darum wählen mehrere aus. Ein Rechtsklick bietet neue an.</translation>
+    </message>
+</context>
+<context>
     <name>AnimActionPage</name>
     <message>
         <source>Key Frame Action</source>
@@ -696,6 +750,18 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>The frame that is shown, and the last frame; the first one is 0</source>
         <translation>Der gezeigte Frame und der letzte; der erste ist 0</translation>
     </message>
+    <message>
+        <source>Actions</source>
+        <translation>Aktionen</translation>
+    </message>
+    <message>
+        <source>Show key frame actions, loop and blend below, to be edited there</source>
+        <translation>Darunter Keyframe-Aktionen, Schleife und Überblenden zeigen und bearbeiten</translation>
+    </message>
+    <message>
+        <source>Key frame actions on the frames of the animation</source>
+        <translation>Keyframe-Aktionen auf den Frames der Animation</translation>
+    </message>
 </context>
 <context>
     <name>AnimTranslationPage</name>
@@ -738,6 +804,145 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <message>
         <source>Trans&amp;lation</source>
         <translation>&amp;Translation</translation>
+    </message>
+</context>
+<context>
+    <name>AnimationCommands</name>
+    <message>
+        <source>Ani&amp;mation</source>
+        <translation>Ani&amp;mation</translation>
+    </message>
+    <message>
+        <source>&amp;Resample…</source>
+        <translation>&amp;Neu abtasten…</translation>
+    </message>
+    <message>
+        <source>Resample Animation</source>
+        <translation>Animation neu abtasten</translation>
+    </message>
+    <message>
+        <source>The same motion in another number of frames, or at another rate.</source>
+        <translation>Dieselbe Bewegung in einer anderen Zahl von Frames oder mit einer anderen Rate.</translation>
+    </message>
+    <message>
+        <source>Re&amp;verse…</source>
+        <translation>&amp;Umkehren…</translation>
+    </message>
+    <message>
+        <source>Reverse Animation</source>
+        <translation>Animation umkehren</translation>
+    </message>
+    <message>
+        <source>The last frame becomes the first. The loop frame stays.</source>
+        <translation>Der letzte Frame wird der erste. Der Schleifen-Frame bleibt.</translation>
+    </message>
+    <message>
+        <source>&amp;Trim…</source>
+        <translation>&amp;Zuschneiden…</translation>
+    </message>
+    <message>
+        <source>Trim Animation</source>
+        <translation>Animation zuschneiden</translation>
+    </message>
+    <message>
+        <source>Leaves a range of frames. Key frame actions on other frames go.</source>
+        <translation>Lässt einen Bereich von Frames übrig. Keyframe-Aktionen in anderen Frames entfallen.</translation>
+    </message>
+    <message>
+        <source>&amp;Shift…</source>
+        <translation>&amp;Verschieben…</translation>
+    </message>
+    <message>
+        <source>Shift Animation</source>
+        <translation>Animation verschieben</translation>
+    </message>
+    <message>
+        <source>Moves all frames later, or earlier.</source>
+        <translation>Verschiebt alle Frames nach hinten oder nach vorn.</translation>
+    </message>
+    <message>
+        <source>&amp;Close Loop…</source>
+        <translation>&amp;Schleife schließen…</translation>
+    </message>
+    <message>
+        <source>Close Animation Loop</source>
+        <translation>Schleife der Animation schließen</translation>
+    </message>
+    <message>
+        <source>The last frames go over into the frame that the animation loops to, or into the first.</source>
+        <translation>Die letzten Frames gehen in den Frame über, ab dem sich die Animation wiederholt, oder in den ersten.</translation>
+    </message>
+    <message>
+        <source>&amp;Mirror…</source>
+        <translation>S&amp;piegeln…</translation>
+    </message>
+    <message>
+        <source>Mirror Animation</source>
+        <translation>Animation spiegeln</translation>
+    </message>
+    <message>
+        <source>Left becomes right. Sides are told by the names of bones, else by their symbols; the two sides have to stand alike in the initial pose.</source>
+        <translation>Links wird rechts. Die Seiten sagen die Namen der Knochen, sonst ihre Symbole; in der Anfangshaltung müssen beide Seiten gleich stehen.</translation>
+    </message>
+    <message>
+        <source>&amp;Extract Yaw…</source>
+        <translation>&amp;Drehung herausnehmen…</translation>
+    </message>
+    <message>
+        <source>Extract Animation Yaw</source>
+        <translation>Drehung der Animation herausnehmen</translation>
+    </message>
+    <message>
+        <source>What turns the root bone about the upright axis goes into the yaw of the frames, by which the game turns the model. It looks the same.</source>
+        <translation>Was den Wurzelknochen um die Hochachse dreht, wird zur Drehung der Frames, mit der das Spiel das Modell dreht. Es sieht aus wie vorher.</translation>
+    </message>
+    <message>
+        <source>&amp;Apply Yaw…</source>
+        <translation>Drehung an&amp;wenden…</translation>
+    </message>
+    <message>
+        <source>Apply Animation Yaw</source>
+        <translation>Drehung der Animation anwenden</translation>
+    </message>
+    <message>
+        <source>The yaw of the frames goes into the root bone and becomes 0. It looks the same.</source>
+        <translation>Die Drehung der Frames geht in den Wurzelknochen über und wird 0. Es sieht aus wie vorher.</translation>
+    </message>
+    <message>
+        <source>Remove &amp;Unused Tracks…</source>
+        <translation>Unbenutzte Spuren &amp;entfernen…</translation>
+    </message>
+    <message>
+        <source>Remove Unused Tracks</source>
+        <translation>Unbenutzte Spuren entfernen</translation>
+    </message>
+    <message>
+        <source>Takes out the tracks that no bone follows.</source>
+        <translation>Nimmt die Spuren heraus, denen kein Knochen folgt.</translation>
+    </message>
+    <message>
+        <source>&amp;Join Equal Tracks…</source>
+        <translation>&amp;Gleiche Spuren zusammenlegen…</translation>
+    </message>
+    <message>
+        <source>Join Equal Tracks</source>
+        <translation>Gleiche Spuren zusammenlegen</translation>
+    </message>
+    <message>
+        <source>Tracks with the same keys become one, which all their bones follow.</source>
+        <translation>Spuren mit denselben Schlüsseln werden eine, der alle ihre Knochen folgen.</translation>
+    </message>
+    <message>
+        <source>Renumber &amp;IDs…</source>
+        <translation>&amp;IDs umnummerieren…</translation>
+    </message>
+    <message>
+        <source>Renumber Animation IDs</source>
+        <translation>IDs von Animationen umnummerieren</translation>
+    </message>
+    <message>
+        <source>Other ids. The names of animations stay with the ids that they are for.</source>
+        <translation>Andere IDs. Die Namen von Animationen bleiben bei den IDs, für die sie gelten.</translation>
     </message>
 </context>
 <context>
@@ -835,6 +1040,69 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <message>
         <source>Upright and in one piece, with the bones and animations that it has in its program.</source>
         <translation>Aufrecht und in einem Stück, mit den Knochen und Animationen, die es in seinem Programm hat.</translation>
+    </message>
+</context>
+<context>
+    <name>BoxFitting</name>
+    <message>
+        <source>Fit &amp;Boxes to Vertices</source>
+        <translation>&amp;Boxen an Vertices anpassen</translation>
+    </message>
+    <message>
+        <source>&amp;Selected Bones</source>
+        <translation>Ausge&amp;wählte Knochen</translation>
+    </message>
+    <message>
+        <source>Make the boxes of the selected bones as small as their vertices let them be</source>
+        <translation>Die Boxen der ausgewählten Knochen so klein machen, wie ihre Vertices es zulassen</translation>
+    </message>
+    <message>
+        <source>&amp;All Bones</source>
+        <translation>&amp;Alle Knochen</translation>
+    </message>
+    <message>
+        <source>Make the boxes of all bones as small as their vertices let them be</source>
+        <translation>Die Boxen aller Knochen so klein machen, wie ihre Vertices es zulassen</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>&amp;Modell</translation>
+    </message>
+    <message>
+        <source>Make the model&apos;s own box as small as the model at rest lets it be</source>
+        <translation>Die Box des Modells so klein machen, wie das ruhende Modell es zulässt</translation>
+    </message>
+    <message>
+        <source>No bone is selected in the tree.</source>
+        <translation>Im Baum ist kein Knochen ausgewählt.</translation>
+    </message>
+    <message>
+        <source>Boxes changed: %1.</source>
+        <translation>Geänderte Boxen: %1.</translation>
+    </message>
+    <message>
+        <source>The boxes fit their vertices already.</source>
+        <translation>Die Boxen passen schon zu ihren Vertices.</translation>
+    </message>
+    <message>
+        <source>Bones without vertices stay as they are: %1.</source>
+        <translation>Knochen ohne Vertices bleiben, wie sie sind: %1.</translation>
+    </message>
+    <message>
+        <source>The model&apos;s box needs an animation that fits the model: it says where the bones rest.</source>
+        <translation>Die Box des Modells braucht eine Animation, die zum Modell passt: Sie sagt, wo die Knochen ruhen.</translation>
+    </message>
+    <message>
+        <source>The model has no vertices.</source>
+        <translation>Das Modell hat keine Vertices.</translation>
+    </message>
+    <message>
+        <source>The model&apos;s box fits already.</source>
+        <translation>Die Box des Modells passt schon.</translation>
+    </message>
+    <message>
+        <source>The model&apos;s box changed.</source>
+        <translation>Die Box des Modells wurde geändert.</translation>
     </message>
 </context>
 <context>
@@ -1285,6 +1553,30 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>Wheel</source>
         <translation>Mausrad</translation>
     </message>
+    <message>
+        <source>Drag of a grip or mark</source>
+        <translation>Ziehen an Griff oder Marke</translation>
+    </message>
+    <message>
+        <source>Move a face of the selected box, the selected hot point or action offset</source>
+        <translation>Eine Seite der ausgewählten Box, den ausgewählten Hotpoint oder Versatz einer Aktion bewegen</translation>
+    </message>
+    <message>
+        <source>X, Y, Z while dragging</source>
+        <translation>X, Y, Z beim Ziehen</translation>
+    </message>
+    <message>
+        <source>Move along an axis; again: along the bone&apos;s</source>
+        <translation>Entlang einer Achse bewegen; nochmals: entlang der des Knochens</translation>
+    </message>
+    <message>
+        <source>Ctrl, B, Esc while dragging</source>
+        <translation>Strg, B, Esc beim Ziehen</translation>
+    </message>
+    <message>
+        <source>Snap; let the bone below take it; give up</source>
+        <translation>Einrasten; den Knochen darunter übernehmen lassen; aufgeben</translation>
+    </message>
 </context>
 <context>
     <name>CrashReportDialog</name>
@@ -1385,6 +1677,53 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
 </context>
 <context>
+    <name>DamageShow</name>
+    <message>
+        <source>&amp;Off</source>
+        <translation>&amp;Aus</translation>
+    </message>
+    <message>
+        <source>Show the model in its own colors</source>
+        <translation>Das Modell in seinen eigenen Farben zeigen</translation>
+    </message>
+    <message>
+        <source>Damage &amp;Scale</source>
+        <translation>&amp;Schadensfaktor</translation>
+    </message>
+    <message>
+        <source>Color the model by how much damage its bones take, with a legend</source>
+        <translation>Das Modell danach färben, wie viel Schaden seine Knochen nehmen, mit einer Legende</translation>
+    </message>
+    <message>
+        <source>&amp;Impact Type</source>
+        <translation>Au&amp;fpralltyp</translation>
+    </message>
+    <message>
+        <source>Color the model by the impact types of its bones, with a legend</source>
+        <translation>Das Modell nach den Aufpralltypen seiner Knochen färben, mit einer Legende</translation>
+    </message>
+    <message>
+        <source>Damage scale</source>
+        <translation>Schadensfaktor</translation>
+    </message>
+    <message>
+        <source>Impact type</source>
+        <translation>Aufpralltyp</translation>
+    </message>
+    <message>
+        <source>Bones</source>
+        <translation>Knochen</translation>
+    </message>
+    <message>
+        <source>and others: %1</source>
+        <translation>und weitere: %1</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w Damage</source>
+        <translation>S&amp;chaden zeigen</translation>
+    </message>
+</context>
+<context>
     <name>DatabaseTab</name>
     <message>
         <source>Actors</source>
@@ -1480,10 +1819,6 @@ Kopftreffer verursachen also 640 Schaden.</translation>
 <context>
     <name>DisplayOptions</name>
     <message>
-        <source>S&amp;hading</source>
-        <translation>&amp;Schattierung</translation>
-    </message>
-    <message>
         <source>Show the bones over the model; a click selects one</source>
         <translation>Die Knochen über dem Modell zeigen; ein Klick wählt einen aus</translation>
     </message>
@@ -1500,38 +1835,6 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <translation>B&amp;ildrate</translation>
     </message>
     <message>
-        <source>Show frames a second and the number of triangles</source>
-        <translation>Bilder je Sekunde und die Zahl der Dreiecke zeigen</translation>
-    </message>
-    <message>
-        <source>&amp;Shaded</source>
-        <translation>&amp;Schattiert</translation>
-    </message>
-    <message>
-        <source>Draw the surfaces with their textures</source>
-        <translation>Die Flächen mit ihren Texturen zeichnen</translation>
-    </message>
-    <message>
-        <source>&amp;Wireframe</source>
-        <translation>&amp;Drahtgitter</translation>
-    </message>
-    <message>
-        <source>Draw the edges of all triangles</source>
-        <translation>Die Kanten aller Dreiecke zeichnen</translation>
-    </message>
-    <message>
-        <source>Shaded W&amp;ireframe</source>
-        <translation>Schattiertes Draht&amp;gitter</translation>
-    </message>
-    <message>
-        <source>Draw the surfaces and the edges of their triangles</source>
-        <translation>Die Flächen und die Kanten ihrer Dreiecke zeichnen</translation>
-    </message>
-    <message>
-        <source>How the surfaces are drawn</source>
-        <translation>Wie die Flächen gezeichnet werden</translation>
-    </message>
-    <message>
         <source>Skelet&amp;on</source>
         <translation>Sk&amp;elett</translation>
     </message>
@@ -1542,6 +1845,26 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <message>
         <source>Tint and outline the selected surface; without, its material can be judged</source>
         <translation>Die ausgewählte Fläche einfärben und umranden; ohne beides lässt sich ihr Material beurteilen</translation>
+    </message>
+    <message>
+        <source>Show frames a second, what the graphics card takes for one, and the number of triangles</source>
+        <translation>Bilder je Sekunde, die Zeit der Grafikkarte für eines und die Zahl der Dreiecke zeigen</translation>
+    </message>
+    <message>
+        <source>E&amp;vents</source>
+        <translation>Ak&amp;tionsereignisse</translation>
+    </message>
+    <message>
+        <source>Show key frame actions as they happen, and the selected ones: how far damage goes, and what the others are</source>
+        <translation>Keyframe-Aktionen zeigen, wenn sie geschehen, und die ausgewählten: wie weit Schaden reicht, und was die anderen sind</translation>
+    </message>
+    <message>
+        <source>Show the boxes of the bones and of the model; faces of the selected one can be dragged</source>
+        <translation>Die Boxen der Knochen und des Modells zeigen; Seiten der ausgewählten können gezogen werden</translation>
+    </message>
+    <message>
+        <source>Bo&amp;xes</source>
+        <translation>Bo&amp;xen</translation>
     </message>
 </context>
 <context>
@@ -1695,6 +2018,33 @@ Ohne diese Eingabe fortfahren?</translation>
     <message>
         <source>%1 (never saved)</source>
         <translation>%1 (nie gespeichert)</translation>
+    </message>
+</context>
+<context>
+    <name>DragEditing</name>
+    <message>
+        <source>%1: %2    Ctrl: steps of %3    Esc: give up</source>
+        <translation>%1: %2    Strg: Schritte von %3    Esc: aufgeben</translation>
+    </message>
+    <message>
+        <source>Bone %1 takes it</source>
+        <translation>Knochen %1 übernimmt</translation>
+    </message>
+    <message>
+        <source>Along the model&apos;s %1</source>
+        <translation>Entlang %1 des Modells</translation>
+    </message>
+    <message>
+        <source>Along the bone&apos;s %1</source>
+        <translation>Entlang %1 des Knochens</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Nichts wurde geändert.</translation>
+    </message>
+    <message>
+        <source>X Y Z: axis    Ctrl: steps of %1    B: bone    Esc: give up</source>
+        <translation>X Y Z: Achse    Strg: Raster %1    B: Knochen    Esc: zurück</translation>
     </message>
 </context>
 <context>
@@ -4294,6 +4644,411 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
 </context>
 <context>
+    <name>Motion</name>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>id: %1 → %2</source>
+        <translation>ID: %1 → %2</translation>
+    </message>
+    <message>
+        <source>frames: %1 → %2</source>
+        <translation>Frames: %1 → %2</translation>
+    </message>
+    <message>
+        <source>speed: %1 → %2 frames a second</source>
+        <translation>Geschwindigkeit: %1 → %2 Frames pro Sekunde</translation>
+    </message>
+    <message>
+        <source>duration: %1 → %2 s</source>
+        <translation>Dauer: %1 → %2 s</translation>
+    </message>
+    <message>
+        <source>loop frame: %1 → %2</source>
+        <translation>Schleifen-Frame: %1 → %2</translation>
+    </message>
+    <message>
+        <source>blend: %1 → %2</source>
+        <translation>Überblendung: %1 → %2</translation>
+    </message>
+    <message>
+        <source>%1 frames, %2 to %3</source>
+        <translation>%1 Frames, %2 bis %3</translation>
+    </message>
+    <message>
+        <source>key frame actions moved: %1</source>
+        <translation>verschobene Keyframe-Aktionen: %1</translation>
+    </message>
+    <message>
+        <source>key frame actions dropped: %1</source>
+        <translation>entfallene Keyframe-Aktionen: %1</translation>
+    </message>
+    <message>
+        <source>translation tracks: %1 → %2</source>
+        <translation>Translationsspuren: %1 → %2</translation>
+    </message>
+    <message>
+        <source>rotation tracks: %1 → %2</source>
+        <translation>Rotationsspuren: %1 → %2</translation>
+    </message>
+    <message>
+        <source>bytes: %1 → %2</source>
+        <translation>Bytes: %1 → %2</translation>
+    </message>
+    <message>
+        <source>It would need %1 tracks; %2 is the most that it can have.</source>
+        <translation>Sie bräuchte %1 Spuren; mehr als %2 kann sie nicht haben.</translation>
+    </message>
+    <message>
+        <source>Its id would be %1, which is more than 32 bits hold.</source>
+        <translation>Ihre ID wäre %1; das passt nicht in 32 Bit.</translation>
+    </message>
+    <message>
+        <source>Its id would be %1, which animation %2 has.</source>
+        <translation>Ihre ID wäre %1; die hat Animation %2.</translation>
+    </message>
+    <message>
+        <source>Animation %1 (id %2)</source>
+        <translation>Animation %1 (ID %2)</translation>
+    </message>
+    <message>
+        <source>Animation %1 (%2: %3)</source>
+        <translation>Animation %1 (%2: %3)</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>Which bones are left and right is in the mesh: open the one that it belongs to.</source>
+        <translation>Welche Knochen links und rechts sind, steht im Mesh: Öffnen Sie das, zu dem sie gehört.</translation>
+    </message>
+    <message>
+        <source>It is for %1 bones, but the mesh has %2.</source>
+        <translation>Sie ist für %1 Knochen, das Mesh hat aber %2.</translation>
+    </message>
+    <message>
+        <source>It is for %1 bones, but its mesh has %2.</source>
+        <translation>Sie ist für %1 Knochen, ihr Mesh hat aber %2.</translation>
+    </message>
+    <message>
+        <source>There is no animation that tells how the bones stand initially.</source>
+        <translation>Es gibt keine Animation, die sagt, wie die Knochen anfangs stehen.</translation>
+    </message>
+    <message>
+        <source>No bone of one skeleton has a partner in the other: neither names nor symbols agree.</source>
+        <translation>Kein Knochen des einen Skeletts hat einen Partner im anderen: Weder Namen noch Symbole stimmen überein.</translation>
+    </message>
+    <message>
+        <source>Bones without a partner, which keep their initial pose: %1.</source>
+        <translation>Knochen ohne Partner, die ihre Anfangshaltung behalten: %1.</translation>
+    </message>
+    <message>
+        <source>Bones of the other skeleton that are left out: %1.</source>
+        <translation>Knochen des anderen Skeletts, die entfallen: %1.</translation>
+    </message>
+    <message>
+        <source>Distances are scaled by %1.</source>
+        <translation>Abstände werden mit %1 skaliert.</translation>
+    </message>
+    <message>
+        <source>Key frame actions that happen at no bone any more: %1.</source>
+        <translation>Keyframe-Aktionen, die an keinem Knochen mehr stattfinden: %1.</translation>
+    </message>
+    <message>
+        <source>The id %1 is taken: it gets %2.</source>
+        <translation>Die ID %1 ist vergeben: Sie bekommt %2.</translation>
+    </message>
+    <message>
+        <source>It has no frames.</source>
+        <translation>Sie hat keine Frames.</translation>
+    </message>
+    <message>
+        <source>It would have %1 frames; %2 is the most that it can have.</source>
+        <translation>Sie hätte %1 Frames; mehr als %2 kann sie nicht haben.</translation>
+    </message>
+    <message>
+        <source>Its speed is infinite.</source>
+        <translation>Ihre Geschwindigkeit ist unendlich.</translation>
+    </message>
+    <message>
+        <source>The game plays no animation slower than one frame a second.</source>
+        <translation>Das Spiel spielt keine Animation langsamer als einen Frame pro Sekunde ab.</translation>
+    </message>
+    <message>
+        <source>An animation has one frame at least.</source>
+        <translation>Eine Animation hat mindestens einen Frame.</translation>
+    </message>
+    <message>
+        <source>To last as long, it would have to play %1 frames a second; the game plays one at least.</source>
+        <translation>Um so lange zu dauern, müsste sie %1 Frames pro Sekunde abspielen; das Spiel spielt mindestens einen ab.</translation>
+    </message>
+    <message>
+        <source>It still loops to frame %1, which shows what frame %2 showed.</source>
+        <translation>Sie wiederholt sich weiter ab Frame %1, der jetzt zeigt, was Frame %2 zeigte.</translation>
+    </message>
+    <message>
+        <source>It has the frames 0 to %1, not %2 to %3.</source>
+        <translation>Sie hat die Frames 0 bis %1, nicht %2 bis %3.</translation>
+    </message>
+    <message>
+        <source>Frame %1, to which it looped, goes: it loops to frame %2.</source>
+        <translation>Frame %1, ab dem sie sich wiederholte, entfällt: Sie wiederholt sich ab Frame %2.</translation>
+    </message>
+    <message>
+        <source>It has %1 frames: nothing would be left of it.</source>
+        <translation>Sie hat %1 Frames: Es bliebe nichts von ihr übrig.</translation>
+    </message>
+    <message>
+        <source>It still loops to frame %1, which shows another pose now.</source>
+        <translation>Sie wiederholt sich weiter ab Frame %1, der jetzt eine andere Haltung zeigt.</translation>
+    </message>
+    <message>
+        <source>It ends as it begins, so a round has %1 frames; it does afterwards, too.</source>
+        <translation>Sie endet, wie sie beginnt, ein Durchlauf hat also %1 Frames; das bleibt so.</translation>
+    </message>
+    <message>
+        <source>It takes two frames at least to loop.</source>
+        <translation>Für eine Schleife braucht es mindestens zwei Frames.</translation>
+    </message>
+    <message>
+        <source>From 1 to %1 frames can go over into frame %2.</source>
+        <translation>1 bis %1 Frames können in Frame %2 übergehen.</translation>
+    </message>
+    <message>
+        <source>Frames %1 to %2 go over into frame %3.</source>
+        <translation>Die Frames %1 bis %2 gehen in Frame %3 über.</translation>
+    </message>
+    <message>
+        <source>It still holds its last frame, since that is its loop frame.</source>
+        <translation>Sie hält weiter ihren letzten Frame, denn der ist ihr Schleifen-Frame.</translation>
+    </message>
+    <message>
+        <source>It has no bones.</source>
+        <translation>Sie hat keine Knochen.</translation>
+    </message>
+    <message>
+        <source>The frames turn the model by up to %1°, instead of the root bone.</source>
+        <translation>Die Frames drehen das Modell um bis zu %1°, an Stelle des Wurzelknochens.</translation>
+    </message>
+    <message>
+        <source>The yaw of a frame is no number.</source>
+        <translation>Die Drehung eines Frames ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>The root bone turns the model by up to %1°, instead of the frames.</source>
+        <translation>Der Wurzelknochen dreht das Modell um bis zu %1°, an Stelle der Frames.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an old id, an equals sign and a new id.</source>
+        <translation>„%1“ ist nicht eine alte ID, ein Gleichheitszeichen und eine neue ID.</translation>
+    </message>
+    <message>
+        <source>The id %1 stands in the table twice.</source>
+        <translation>Die ID %1 steht zweimal in der Tabelle.</translation>
+    </message>
+    <message>
+        <source>translation keys that change: %1</source>
+        <translation>geänderte Translations-Keys: %1</translation>
+    </message>
+    <message>
+        <source>rotation keys that change: %1</source>
+        <translation>geänderte Rotations-Keys: %1</translation>
+    </message>
+    <message>
+        <source>frames whose yaw changes: %1</source>
+        <translation>Frames mit geändertem Gierversatz: %1</translation>
+    </message>
+    <message>
+        <source>bones that follow other tracks: %1</source>
+        <translation>Knochen, die anderen Spuren folgen: %1</translation>
+    </message>
+    <message>
+        <source>The keys of %1 bones in %2 frames would take %3 MiB; %4 is the most.</source>
+        <translation>Die Keys von %1 Knochen in %2 Frames bräuchten %3 MiB; höchstens %4 sind möglich.</translation>
+    </message>
+    <message>
+        <source>Key frame actions whose blood sprays to the same side as before: %1.</source>
+        <translation>Keyframe-Aktionen, deren Blut zur selben Seite spritzt wie zuvor: %1.</translation>
+    </message>
+    <message>
+        <source>Pairs of bones that change sides: %1. Bones without a partner, mirrored in place: %2.</source>
+        <translation>Paare von Knochen, die die Seite wechseln: %1. Knochen ohne Partner, an Ort und Stelle gespiegelt: %2.</translation>
+    </message>
+    <message>
+        <source>Bones that found their partner: %1.</source>
+        <translation>Knochen, die ihren Partner gefunden haben: %1.</translation>
+    </message>
+    <message>
+        <source>It still blends in the frames %1 to %2, which show other poses now.</source>
+        <translation>Sie blendet weiter in den Frames %1 bis %2, die jetzt andere Haltungen zeigen.</translation>
+    </message>
+    <message>
+        <source>Frames for which the first pose stands longer: %1.</source>
+        <translation>Frames, um die die erste Haltung länger steht: %1.</translation>
+    </message>
+    <message>
+        <source>Frames for which the last pose stands longer: %1.</source>
+        <translation>Frames, um die die letzte Haltung länger steht: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>MotionDialog</name>
+    <message>
+        <source>A&amp;pply to</source>
+        <translation>A&amp;nwenden auf</translation>
+    </message>
+    <message>
+        <source>The animations that are changed, in one undo step</source>
+        <translation>Die Animationen, die in einem Rückgängig-Schritt geändert werden</translation>
+    </message>
+    <message>
+        <source>&amp;Frames</source>
+        <translation>&amp;Frames</translation>
+    </message>
+    <message>
+        <source>How many frames the animation has then</source>
+        <translation>Wie viele Frames die Animation dann hat</translation>
+    </message>
+    <message>
+        <source>&amp;Rate</source>
+        <translation>&amp;Rate</translation>
+    </message>
+    <message>
+        <source>How many frames a second there are then</source>
+        <translation>Wie viele Frames pro Sekunde es dann sind</translation>
+    </message>
+    <message>
+        <source>&amp;Goal</source>
+        <translation>&amp;Ziel</translation>
+    </message>
+    <message>
+        <source>Which number counts, and whether the motion lasts as long as before</source>
+        <translation>Welche Zahl zählt, und ob die Bewegung so lange dauert wie vorher</translation>
+    </message>
+    <message>
+        <source>So many frames, lasting as long</source>
+        <translation>So viele Frames, gleiche Dauer</translation>
+    </message>
+    <message>
+        <source>So many frames, at the same speed</source>
+        <translation>So viele Frames, gleiche Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>This rate, lasting as long</source>
+        <translation>Diese Rate, gleiche Dauer</translation>
+    </message>
+    <message>
+        <source>&amp;First frame</source>
+        <translation>&amp;Erster Frame</translation>
+    </message>
+    <message>
+        <source>The first frame that stays</source>
+        <translation>Der erste Frame, der bleibt</translation>
+    </message>
+    <message>
+        <source>&amp;Last frame</source>
+        <translation>&amp;Letzter Frame</translation>
+    </message>
+    <message>
+        <source>The last frame that stays</source>
+        <translation>Der letzte Frame, der bleibt</translation>
+    </message>
+    <message>
+        <source>Frames &amp;later</source>
+        <translation>Frames s&amp;päter</translation>
+    </message>
+    <message>
+        <source>How many frames later everything happens; earlier below 0</source>
+        <translation>Um wie viele Frames alles später geschieht; unter 0 früher</translation>
+    </message>
+    <message>
+        <source>&amp;Around</source>
+        <translation>&amp;Umlaufend</translation>
+    </message>
+    <message>
+        <source>Whether what leaves at one end comes in at the other; otherwise the pose at the end stands still</source>
+        <translation>Ob an einem Ende hereinkommt, was das andere verlässt; sonst steht die Haltung am Ende still</translation>
+    </message>
+    <message>
+        <source>Animations that loop to frame 0</source>
+        <translation>Animationen, die sich ab Frame 0 wiederholen</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Immer</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>How many frames at the end go over into the frame that is looped to</source>
+        <translation>Wie viele Frames am Ende in den Frame übergehen, ab dem sich die Animation wiederholt</translation>
+    </message>
+    <message>
+        <source>O&amp;ffset</source>
+        <translation>&amp;Versatz</translation>
+    </message>
+    <message>
+        <source>What is added to each id that the table does not have</source>
+        <translation>Was zu jeder ID addiert wird, die nicht in der Tabelle steht</translation>
+    </message>
+    <message>
+        <source>&amp;Table</source>
+        <translation>&amp;Tabelle</translation>
+    </message>
+    <message>
+        <source>Ids and what becomes of them, such as 3=103, 4=110</source>
+        <translation>IDs und was aus ihnen wird, etwa 3=103, 4=110</translation>
+    </message>
+    <message>
+        <source>3=103, 4=110</source>
+        <translation>3=103, 4=110</translation>
+    </message>
+    <message>
+        <source>W&amp;hat changes</source>
+        <translation>Was sic&amp;h ändert</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Selected animations (%1)</source>
+        <translation>Ausgewählte Animationen (%1)</translation>
+    </message>
+    <message>
+        <source>All animations (%1)</source>
+        <translation>Alle Animationen (%1)</translation>
+    </message>
+    <message>
+        <source>Being worked out…</source>
+        <translation>Wird ausgerechnet…</translation>
+    </message>
+    <message>
+        <source>Nothing can be done.</source>
+        <translation>Es kann nichts getan werden.</translation>
+    </message>
+    <message>
+        <source>It stays as it is.</source>
+        <translation>Sie bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>Nothing changes.</source>
+        <translation>Nichts ändert sich.</translation>
+    </message>
+</context>
+<context>
+    <name>MotionPreview</name>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+</context>
+<context>
     <name>NameTables</name>
     <message>
         <source>Body</source>
@@ -4776,6 +5531,34 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
     <message>
         <source>B&amp;rowse…</source>
         <translation>Du&amp;rchsuchen…</translation>
+    </message>
+    <message>
+        <source>S&amp;ounds Folder</source>
+        <translation>S&amp;ound-Ordner</translation>
+    </message>
+    <message>
+        <source>Sounds that key frame actions play in the view: files such as 1234.wav,
+named for a sound&apos;s number, or for its name in the table of sounds.
+Where there is no file it stays silent.</source>
+        <translation>Sounds, die Keyframe-Aktionen in der Ansicht abspielen: Dateien wie 1234.wav,
+benannt nach der Nummer eines Sounds oder seinem Namen in der Tabelle der Sounds.
+Wo keine Datei ist, bleibt es still.</translation>
+    </message>
+    <message>
+        <source>Bro&amp;wse…</source>
+        <translation>Durchsu&amp;chen…</translation>
+    </message>
+    <message>
+        <source>Choose the folder of sounds</source>
+        <translation>Den Ordner der Sounds wählen</translation>
+    </message>
+    <message>
+        <source>Browse for the folder of sounds</source>
+        <translation>Nach dem Ordner der Sounds suchen</translation>
+    </message>
+    <message>
+        <source>Folder of sounds</source>
+        <translation>Ordner der Sounds</translation>
     </message>
 </context>
 <context>
@@ -7091,6 +7874,105 @@ Alles andere funktioniert weiter.</translation>
     </message>
 </context>
 <context>
+    <name>ShadingMenu</name>
+    <message>
+        <source>S&amp;hading</source>
+        <translation>&amp;Schattierung</translation>
+    </message>
+    <message>
+        <source>How the surfaces are drawn</source>
+        <translation>Wie die Flächen gezeichnet werden</translation>
+    </message>
+    <message>
+        <source>&amp;Shaded</source>
+        <translation>&amp;Schattiert</translation>
+    </message>
+    <message>
+        <source>Draw the surfaces</source>
+        <translation>Die Flächen zeichnen</translation>
+    </message>
+    <message>
+        <source>&amp;Wireframe</source>
+        <translation>&amp;Drahtgitter</translation>
+    </message>
+    <message>
+        <source>Draw the edges of all triangles</source>
+        <translation>Die Kanten aller Dreiecke zeichnen</translation>
+    </message>
+    <message>
+        <source>Shaded W&amp;ireframe</source>
+        <translation>Schattiertes Draht&amp;gitter</translation>
+    </message>
+    <message>
+        <source>Draw the surfaces and the edges of their triangles</source>
+        <translation>Die Flächen und die Kanten ihrer Dreiecke zeichnen</translation>
+    </message>
+    <message>
+        <source>&amp;Textured</source>
+        <translation>&amp;Texturiert</translation>
+    </message>
+    <message>
+        <source>Surfaces show their textures alone</source>
+        <translation>Flächen zeigen allein ihre Texturen</translation>
+    </message>
+    <message>
+        <source>&amp;Lit</source>
+        <translation>&amp;Beleuchtet</translation>
+    </message>
+    <message>
+        <source>A lamp at the camera shows the shape of the surfaces; what has its normals on the wrong side stays dark</source>
+        <translation>Eine Lampe an der Kamera zeigt die Form der Flächen; was seine Normalen auf der falschen Seite hat, bleibt dunkel</translation>
+    </message>
+    <message>
+        <source>&amp;Normals</source>
+        <translation>&amp;Normalen</translation>
+    </message>
+    <message>
+        <source>Surfaces have the colors of their normals: red along X, green along Y, blue along Z</source>
+        <translation>Flächen haben die Farben ihrer Normalen: rot entlang X, grün entlang Y, blau entlang Z</translation>
+    </message>
+    <message>
+        <source>&amp;Vertex Normals</source>
+        <translation>&amp;Vertexnormalen</translation>
+    </message>
+    <message>
+        <source>Show the normals of vertices as lines: of the selected surface, or of all when none is selected</source>
+        <translation>Die Normalen der Vertices als Linien zeigen: der ausgewählten Fläche oder, wenn keine ausgewählt ist, aller</translation>
+    </message>
+    <message>
+        <source>Sorted Trans&amp;parency</source>
+        <translation>Sortierte Trans&amp;parenz</translation>
+    </message>
+    <message>
+        <source>Draw what is half transparent last, from back to front, so that it hides nothing</source>
+        <translation>Halb Durchsichtiges zuletzt zeichnen, von hinten nach vorn, damit es nichts verdeckt</translation>
+    </message>
+    <message>
+        <source>Sharp Te&amp;xels</source>
+        <translation>Scharfe Te&amp;xel</translation>
+    </message>
+    <message>
+        <source>Show the texels of textures as they are, without smoothing between them</source>
+        <translation>Die Texel der Texturen zeigen, wie sie sind, ohne zwischen ihnen zu glätten</translation>
+    </message>
+    <message>
+        <source>Smooth &amp;Edges</source>
+        <translation>Glatte &amp;Kanten</translation>
+    </message>
+    <message>
+        <source>Draw with four samples a pixel, which graphics cards do easily</source>
+        <translation>Mit vier Abtastpunkten je Pixel zeichnen, was Grafikkarten leicht fällt</translation>
+    </message>
+    <message>
+        <source>Fa&amp;ding Ground</source>
+        <translation>A&amp;uslaufender Boden</translation>
+    </message>
+    <message>
+        <source>Let the ground fade out around the model, without an edge or flicker</source>
+        <translation>Den Boden um das Modell herum auslaufen lassen, ohne Rand und Flimmern</translation>
+    </message>
+</context>
+<context>
     <name>Shortcuts</name>
     <message>
         <source>Others</source>
@@ -8011,6 +8893,85 @@ Nichts wurde geändert. %2</translation>
     </message>
 </context>
 <context>
+    <name>TimelineEdits</name>
+    <message>
+        <source>Add &amp;Event</source>
+        <translation>&amp;Ereignis hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Key Frame Action</source>
+        <translation>Keyframe-Aktion hinzufügen</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Select &amp;All Actions</source>
+        <translation>&amp;Alle Aktionen auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom to Selected Frames</source>
+        <translation>Auf ausgewählte Frames &amp;vergrößern</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w All Frames</source>
+        <translation>Alle Frames &amp;zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Play All Frames Again</source>
+        <translation>&amp;Wieder alle Frames abspielen</translation>
+    </message>
+    <message>
+        <source>Show the &amp;Frame of a Selected Action</source>
+        <translation>Den &amp;Frame einer ausgewählten Aktion zeigen</translation>
+    </message>
+    <message>
+        <source>P&amp;lay Sounds from the Folder</source>
+        <translation>&amp;Sounds aus dem Ordner abspielen</translation>
+    </message>
+    <message>
+        <source>Add Key Frame Action at Frame %1</source>
+        <translation>Keyframe-Aktion in Frame %1 hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add &amp;Event at Frame %1</source>
+        <translation>&amp;Ereignis in Frame %1 hinzufügen</translation>
+    </message>
+    <message>
+        <source>Paste at Frame %1</source>
+        <translation>In Frame %1 einfügen</translation>
+    </message>
+    <message>
+        <source>The clipboard holds no key frame actions.</source>
+        <translation>Die Zwischenablage enthält keine Keyframe-Aktionen.</translation>
+    </message>
+    <message>
+        <source>A key frame action can stand on frame %1 at most.</source>
+        <translation>Eine Keyframe-Aktion kann höchstens in Frame %1 stehen.</translation>
+    </message>
+    <message>
+        <source>Actions that would lie behind the last frame were put on it: %1</source>
+        <translation>In den letzten Frame gesetzt, weil sie dahinter lägen: %1</translation>
+    </message>
+</context>
+<context>
     <name>TrackSlider</name>
     <message>
         <source>Action %1: %2</source>
@@ -8336,6 +9297,14 @@ Nichts wurde geändert. %2</translation>
     <message>
         <source>Bones</source>
         <translation>Knochen</translation>
+    </message>
+    <message>
+        <source>Fit Boxes to Vertices</source>
+        <translation>Boxen an Vertices anpassen</translation>
+    </message>
+    <message>
+        <source>Animation Command</source>
+        <translation>Animationsbefehl</translation>
     </message>
 </context>
 <context>
@@ -8878,6 +9847,10 @@ Nichts wurde geändert. %2</translation>
         <source>%1 frames/s</source>
         <translation>%1 Bilder/s</translation>
     </message>
+    <message>
+        <source>%1 ms on the graphics card</source>
+        <translation>%1 ms auf der Grafikkarte</translation>
+    </message>
 </context>
 <context>
     <name>ViewToolBar</name>
@@ -8955,6 +9928,18 @@ Nichts wurde geändert. %2</translation>
     <message>
         <source>&apos;%1&apos; has %2 × %3 pixels: more than %4 million are not read</source>
         <translation>„%1“ hat %2 × %3 Pixel: Mehr als %4 Millionen werden nicht gelesen</translation>
+    </message>
+    <message>
+        <source>[Viewport] The graphics driver cannot fade the ground; it is drawn as usual</source>
+        <translation>[Viewport] Der Grafiktreiber kann den Boden nicht auslaufen lassen; er wird wie üblich gezeichnet</translation>
+    </message>
+    <message>
+        <source>[Viewport] The graphics driver cannot smooth edges; they are drawn as usual</source>
+        <translation>[Viewport] Der Grafiktreiber kann Kanten nicht glätten; sie werden wie üblich gezeichnet</translation>
+    </message>
+    <message>
+        <source>[Viewport] The graphics driver cannot light or color models; they are drawn textured</source>
+        <translation>[Viewport] Der Grafiktreiber kann Modelle nicht beleuchten oder färben; sie werden texturiert gezeichnet</translation>
     </message>
 </context>
 <context>

@@ -8,6 +8,7 @@
 #include "ReplaceCommand.h"
 #include "StructureCommand.h"
 #include "Tracks.h"
+#include "WholeBlock.h"
 
 // clang-format off
 #define KORVANE_ANIM_COMMANDS(ROW) \
@@ -37,6 +38,7 @@
     ROW(UC_AnimBlockAdd, InsertCommand, QT_TRANSLATE_NOOP("UndoCommands", "Add Animation"), Records::Block, RecordKind::AnimFile) \
     ROW(UC_AnimBlockRemove, RemoveCommand, QT_TRANSLATE_NOOP("UndoCommands", "Remove Animation"), Records::Block, RecordKind::AnimFile) \
     ROW(UC_AnimBlockPaste, InsertCommand, QT_TRANSLATE_NOOP("UndoCommands", "Paste Animation"), Records::Block, RecordKind::AnimFile) \
+    ROW(UC_AnimBlockMotion, ExchangeCommand, QT_TRANSLATE_NOOP("UndoCommands", "Animation Command"), Records::Block, WholeBlock) \
     ROW(UC_AnimTranslationTracks, ExchangeCommand, QT_TRANSLATE_NOOP("UndoCommands", "Translation Tracks"), Records::Block, TranslationTracks) \
     ROW(UC_AnimBones, ExchangeCommand, QT_TRANSLATE_NOOP("UndoCommands", "Bones"), Records::AnimFileRoot, BlockBones) \
     ROW(UC_AnimRotationTracks, ExchangeCommand, QT_TRANSLATE_NOOP("UndoCommands", "Rotation Tracks"), Records::Block, RotationTracks)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Background.h"
 #include "CommandTable.h"
 
 #include <QCoreApplication>
@@ -26,6 +27,8 @@ public:
     {
         m_model.bytesBehind = target.model().bytesBehind; // they are the file's
     }
+
+    ~ReplaceCommand() override { Background::discard(std::move(m_model)); }
 
     void undo() override { exchange(); }
     void redo() override { exchange(); }

@@ -10,10 +10,11 @@
 
 #include <mmsystem.h>
 
-void playSound(const QString &resource, QObject *)
+namespace {
+void playFile(const QString &path)
 {
     static QByteArray playing; // is read while it sounds
-    QFile file(resource);
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return;
     // Nothing may sound any more when its bytes go.
@@ -25,4 +26,17 @@ void playSound(const QString &resource, QObject *)
     playing = file.readAll();
     PlaySoundW(reinterpret_cast<const wchar_t *>(playing.constData()), nullptr,
                SND_MEMORY | SND_ASYNC | SND_NODEFAULT);
+}
+} // namespace
+
+void playSound(const QString &resource, QObject *)
+{
+    playFile(resource);
+}
+
+void playSoundFile(const QString &path, QObject *)
+{
+    // Nothing else is played by the system's own function.
+    if (path.endsWith(QLatin1String(".wav"), Qt::CaseInsensitive))
+        playFile(path);
 }

@@ -263,16 +263,6 @@ private:
     Preparation m_preparation;
 };
 
-/// What names the bones and animations that the numbers of a document stand for; null where nothing does.
-template <typename Model>
-const SkinnedMesh *namingMesh(const ModelDocument<Model> &document)
-{
-    if constexpr (std::is_same_v<Model, SkinnedMesh>)
-        return &document.model();
-    else
-        return document.namingMesh();
-}
-
 using SkinnedMeshDocument = ModelDocument<SkinnedMesh>;
 using AnimDocument = ModelDocument<AnimFile>;
 using StaticMeshDocument = ModelDocument<StaticMesh>;

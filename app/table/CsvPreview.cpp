@@ -43,7 +43,7 @@ CsvChanges changesOf(const QVector<QStringList> &rows, const RecordTableModel &r
         for (int i = 0; i < row.size(); ++i) {
             if (!fields[i] || row[i].isEmpty())
                 continue;
-            const FieldValue old = records.source()->value(*fields[i], index);
+            const FieldValue old = records.document()->values().value(*fields[i], index);
             FieldValue value;
             const QString reason = fields[i]->parse(row[i], old, places[fields[i]]++, value);
             if (!reason.isEmpty())
@@ -78,9 +78,10 @@ CsvPreview::CsvPreview(const QVector<FieldChange> &changes, const RecordTableMod
             items.append(new QTreeWidgetItem({tr("%n more", nullptr, changes.size() - mostShown)}));
             break;
         }
-        items.append(new QTreeWidgetItem({numberText(each.index, records.group().levels), each.field->title(),
-                                          each.field->text(records.source()->value(*each.field, each.index)),
-                                          each.field->text(each.value)}));
+        items.append(new QTreeWidgetItem(
+            {numberText(each.index, records.group().levels), each.field->title(),
+             each.field->text(records.document()->values().value(*each.field, each.index)),
+             each.field->text(each.value)}));
     }
     list->addTopLevelItems(items);
     list->header()->resizeSections(QHeaderView::ResizeToContents);

@@ -4,10 +4,10 @@
 
 #include <algorithm>
 
-void RecordTableModel::show(FieldSource *source, const RecordGroup &group)
+void RecordTableModel::show(Document *document, const RecordGroup &group)
 {
     beginResetModel();
-    m_source = source;
+    m_document = document;
     m_group = group;
     m_fields = RecordFields::of(group.kind);
     endResetModel();
@@ -28,7 +28,7 @@ int RecordTableModel::rowOf(const RecordIndex &record) const
 
 FieldValue RecordTableModel::value(const QModelIndex &index) const
 {
-    return m_source ? m_source->value(field(index.column()), record(index.row())) : FieldValue();
+    return m_document ? m_document->values().value(field(index.column()), record(index.row())) : FieldValue();
 }
 
 int RecordTableModel::rowCount(const QModelIndex &parent) const
@@ -55,7 +55,7 @@ QVariant RecordTableModel::data(const QModelIndex &index, int role) const
     case Qt::EditRole:
         return shown.text(value(index));
     case Qt::ToolTipRole:
-        return m_source->name(shown, record(index.row()));
+        return m_document->values().name(shown, record(index.row()), m_document->namedMesh());
     case SortRole: {
         const FieldValue held = value(index);
         if (const auto *number = std::get_if<double>(&held))

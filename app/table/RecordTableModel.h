@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "FieldSource.h"
+#include "Document.h"
 #include "RecordGroup.h"
 
 #include <QAbstractTableModel>
@@ -19,12 +19,12 @@ public:
     /// What it sorts by: a number or a text.
     static constexpr int SortRole = Qt::UserRole;
 
-    /// The source outlives the model; null shows nothing.
-    void show(FieldSource *source, const RecordGroup &group);
+    /// The document outlives the model; null shows nothing.
+    void show(Document *document, const RecordGroup &group);
     /// Values of records have changed.
     void refresh();
 
-    FieldSource *source() const { return m_source; }
+    Document *document() const { return m_document; }
     const RecordGroup &group() const { return m_group; }
     const QVector<const RecordField *> &fields() const { return m_fields; }
     const RecordField &field(int column) const { return *m_fields[column]; }
@@ -40,7 +40,7 @@ public:
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
 private:
-    FieldSource *m_source = nullptr;
+    Document *m_document = nullptr;
     RecordGroup m_group;
     QVector<const RecordField *> m_fields;
 };

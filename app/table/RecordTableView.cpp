@@ -139,10 +139,10 @@ RecordTableView::RecordTableView(QWidget *parent)
     connect(horizontalHeader(), &QWidget::customContextMenuRequested, this, &RecordTableView::showHeaderMenu);
 }
 
-void RecordTableView::show(FieldSource *source, const RecordGroup &group)
+void RecordTableView::show(Document *document, const RecordGroup &group)
 {
     const bool isOther = group.kind != m_records->group().kind;
-    m_records->show(source, group);
+    m_records->show(document, group);
     if (!isOther)
         return;
     resetOrder();
@@ -238,7 +238,7 @@ QString RecordTableView::apply(const QVector<QPair<QModelIndex, QString>> &cells
             return tr("%1: %2").arg(place(cell), reason);
         changes.append({&field, m_records->record(cell.row()), std::move(value)});
     }
-    if (!m_records->source() || !m_records->source()->change(changes, stepText))
+    if (!m_records->document() || !m_records->document()->changeFields(changes, stepText))
         return {};
     const auto noted = std::find_if(changes.begin(), changes.end(),
                                     [](const FieldChange &each) { return !each.field->note().isEmpty(); });

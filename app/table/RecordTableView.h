@@ -18,7 +18,7 @@ public:
     explicit RecordTableView(QWidget *parent = nullptr);
 
     RecordTableModel &records() { return *m_records; }
-    void show(FieldSource *source, const RecordGroup &group);
+    void show(Document *document, const RecordGroup &group);
 
     /// Gives all selected cells what the text says or calculates for each. Gives the reason why nothing was
     /// changed; empty when it was.

@@ -108,12 +108,10 @@ void TableDock::createActions(QHBoxLayout *buttons)
     }
 }
 
-void TableDock::setDocuments(SkinnedMeshDocument &skinnedMesh, AnimDocument &anim,
-                             StaticMeshDocument &staticMesh, const std::array<KVTreeView *, 3> &trees)
+void TableDock::setDocuments(const std::array<Document *, 3> &documents,
+                             const std::array<KVTreeView *, 3> &trees)
 {
-    m_sources = {std::make_unique<ModelFieldSource<SkinnedMesh>>(skinnedMesh),
-                 std::make_unique<ModelFieldSource<AnimFile>>(anim),
-                 std::make_unique<ModelFieldSource<StaticMesh>>(staticMesh)};
+    m_documents = documents;
     m_trees = trees;
     for (int i = 0; i < int(trees.size()); ++i) {
         const auto ifCurrent = [this, i](auto then) {
@@ -122,7 +120,7 @@ void TableDock::setDocuments(SkinnedMeshDocument &skinnedMesh, AnimDocument &ani
                     (this->*then)();
             };
         };
-        Document &document = m_sources[size_t(i)]->document();
+        Document &document = *m_documents[size_t(i)];
         connect(trees[size_t(i)], &KVTreeView::currentRecordChanged, this,
                 ifCurrent(&TableDock::updateGroup));
         connect(&document, &Document::replaced, this, ifCurrent(&TableDock::updateGroup));
@@ -141,8 +139,8 @@ void TableDock::setDocuments(SkinnedMeshDocument &skinnedMesh, AnimDocument &ani
         if (m_current == int(DocumentType::Anim))
             m_view->records().refresh();
     };
-    connect(&skinnedMesh, &Document::recordsChanged, this, showNames);
-    connect(&skinnedMesh, &Document::replaced, this, showNames);
+    connect(documents[size_t(DocumentType::SkinnedMesh)], &Document::recordsChanged, this, showNames);
+    connect(documents[size_t(DocumentType::SkinnedMesh)], &Document::replaced, this, showNames);
 }
 
 void TableDock::setCurrent(const Document *document)
@@ -165,18 +163,18 @@ void TableDock::updateGroup()
 void TableDock::updateTable(bool anew)
 {
     RecordGroup group;
-    FieldSource *source = nullptr;
+    Document *document = nullptr;
     if (m_current >= 0 && isVisible()) {
-        source = m_sources[size_t(m_current)].get();
+        document = m_documents[size_t(m_current)];
         const RecordRef record = m_trees[size_t(m_current)]->currentRecord();
-        if (source->document().isOpen())
-            group = groupOf(source->document(), record, m_all->isChecked());
+        if (document->isOpen())
+            group = groupOf(*document, record, m_all->isChecked());
     }
     const RecordGroup &shown = m_view->records().group();
-    const bool isSame =
-        source == m_view->records().source() && group.kind == shown.kind && group.records == shown.records;
+    const bool isSame = document == m_view->records().document() && group.kind == shown.kind &&
+                        group.records == shown.records;
     if (!isSame || anew)
-        m_view->show(source, group);
+        m_view->show(document, group);
     const bool isTable = !RecordFields::of(group.kind).isEmpty() && !group.records.isEmpty();
     m_view->setVisible(isTable);
     m_empty->setVisible(!isTable);
@@ -196,7 +194,7 @@ void TableDock::showInTree()
 void TableDock::exportTable()
 {
     const QFileInfo last(Settings::TablePath.value());
-    const QString name = QFileInfo(m_sources[size_t(m_current)]->document().fileName()).completeBaseName();
+    const QString name = QFileInfo(m_documents[size_t(m_current)]->fileName()).completeBaseName();
     const QString path = chooseSavePath(window(), tr("Export as CSV"), last.path(), tr("Tables (*.csv)"),
                                         QStringLiteral("csv"), name);
     if (path.isEmpty())
@@ -233,6 +231,6 @@ void TableDock::importTable()
     if (!found.reason.isEmpty())
         return refuse(found.reason);
     CsvPreview preview(found.changes, m_view->records(), window());
-    if (preview.exec() == QDialog::Accepted && m_view->records().source())
-        m_view->records().source()->change(found.changes, tr("Import Table"));
+    if (preview.exec() == QDialog::Accepted && m_view->records().document())
+        m_view->records().document()->changeFields(found.changes, tr("Import Table"));
 }

@@ -7,7 +7,6 @@
 #include <QDockWidget>
 
 #include <array>
-#include <memory>
 
 class KVTreeView;
 class QCheckBox;
@@ -24,8 +23,7 @@ public:
     explicit TableDock(QWidget *parent = nullptr);
 
     /// What can be shown, of documents in the order of their kinds; everything outlives the dock.
-    void setDocuments(SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticMeshDocument &staticMesh,
-                      const std::array<KVTreeView *, 3> &trees);
+    void setDocuments(const std::array<Document *, 3> &documents, const std::array<KVTreeView *, 3> &trees);
     /// Goes on with the current record of this document; null shows nothing.
     void setCurrent(const Document *document);
 
@@ -57,7 +55,7 @@ private:
     QAction *m_paste = nullptr;
     QAction *m_import = nullptr;
     QAction *m_export = nullptr;
-    std::array<std::unique_ptr<FieldSource>, 3> m_sources;
+    std::array<Document *, 3> m_documents{};
     std::array<KVTreeView *, 3> m_trees{};
     int m_current = -1;
 };

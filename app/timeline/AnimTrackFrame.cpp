@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "AnimTrackFrame.h"
 
+#include "ActionTrack.h"
 #include "AnimFile.h"
 #include "FrameChoice.h"
 #include "Icons.h"
@@ -10,6 +11,7 @@
 #include "Settings.h"
 #include "Shortcuts.h"
 #include "SkinnedMesh.h"
+#include "Sound.h"
 #include "ui_AnimTrackFrame.h"
 
 #include <QAbstractItemView>
@@ -33,6 +35,7 @@ const AnimBlock *currentBlock()
 AnimTrackFrame::AnimTrackFrame(QWidget *parent)
     : QFrame(parent)
     , m_ui(std::make_unique<Ui::AnimTrackFrame>())
+    , m_sounds([this](const QString &path) { playSoundFile(path, this); })
 {
     m_ui->setupUi(this);
     const struct
@@ -49,7 +52,8 @@ AnimTrackFrame::AnimTrackFrame(QWidget *parent)
         {m_ui->btnAnimTrackMarkBack, "markback", Qt::Key_BracketLeft, [this] { stepToMark(-1); }},
         {m_ui->btnAnimTrackStepBack, "stepback", Qt::Key_Comma, [this] { step(-1); }},
         {m_ui->btnAnimTrackStepForward, "stepforward", Qt::Key_Period, [this] { step(1); }},
-        {m_ui->btnAnimTrackMarkForward, "markforward", Qt::Key_BracketRight, [this] { stepToMark(1); }}};
+        {m_ui->btnAnimTrackMarkForward, "markforward", Qt::Key_BracketRight, [this] { stepToMark(1); }},
+        {m_ui->btnAnimTrackActions, "actions", 0, {}}};
     for (const auto &each : deeds) {
         auto *action = new QAction(namedIcon(QLatin1String(each.icon)), each.button->text(), this);
         action->setToolTip(each.button->toolTip());
@@ -65,10 +69,21 @@ AnimTrackFrame::AnimTrackFrame(QWidget *parent)
     fitLabel(0);
 
     connect(m_ui->btnAnimTrackLoop, &QToolButton::toggled, this, &AnimTrackFrame::OnAnimTrackLoopToggled);
+    m_ui->btnAnimTrackActions->setChecked(Settings::ShowActionTrack.value());
+    connect(m_ui->btnAnimTrackActions, &QToolButton::toggled, this, [this](bool on) {
+        Settings::ShowActionTrack.setValue(on);
+        m_ui->actionTrack->clearRange(); // which would not be seen
+        updateRange();
+    });
     connect(m_ui->sliderAnimTrack, &QSlider::valueChanged, this, &AnimTrackFrame::OnAnimTrackSliderChanged);
     connect(m_ui->sliderAnimTrack, &TrackSlider::frameAsked, this, &AnimTrackFrame::OnAnimTrackFrameAsked);
     connect(m_ui->sliderAnimTrack, &TrackSlider::actionChosen, this,
             [this](int action) { emit actionChosen(playback().blockIndex, action); });
+    connect(m_ui->actionTrack, &ActionTrack::frameAsked, this, &AnimTrackFrame::goTo);
+    connect(m_ui->actionTrack, &ActionTrack::rangeChanged, this, [this](int first, int last) {
+        playback().range = {first, last};
+        emit playbackChanged();
+    });
     connect(m_ui->cbAnimTrackBlock, qOverload<int>(&QComboBox::activated), this,
             &AnimTrackFrame::selectBlock);
     connect(m_ui->sbAnimTrackSpeed, &FloatSpinBox::valueEdited, this,
@@ -76,7 +91,10 @@ AnimTrackFrame::AnimTrackFrame(QWidget *parent)
     playback().speedFactor = m_ui->sbAnimTrackSpeed->value();
     for (const QToolButton *button : {m_ui->btnAnimTrackPlay, m_ui->btnAnimTrackStop, m_ui->btnAnimTrackPose})
         button->defaultAction()->setCheckable(true);
-    connect(this, &AnimTrackFrame::playbackChanged, this, &AnimTrackFrame::showState);
+    connect(this, &AnimTrackFrame::playbackChanged, this, [this] {
+        m_sounds.startAnew();
+        showState();
+    });
 }
 
 AnimTrackFrame::~AnimTrackFrame() = default;
@@ -112,24 +130,31 @@ bool AnimTrackFrame::eventFilter(QObject *watched, QEvent *event)
 
 QSize AnimTrackFrame::minimumSizeHint() const
 {
-    const QMargins margins = m_ui->hlAnimTrack->contentsMargins();
+    const QMargins margins = m_ui->vlAnimTrack->contentsMargins();
     const int widest = std::max(m_ui->hlAnimTrackButtons->minimumSize().width(),
                                 m_ui->hlAnimTrackFrames->minimumSize().width());
-    return {widest + margins.left() + margins.right(), m_ui->hlAnimTrack->minimumSize().height()};
+    return {widest + margins.left() + margins.right(), m_ui->vlAnimTrack->minimumSize().height()};
 }
 
 void AnimTrackFrame::resizeEvent(QResizeEvent *event)
 {
     QFrame::resizeEvent(event);
-    const QMargins margins = m_ui->hlAnimTrack->contentsMargins();
+    const QMargins margins = m_ui->vlAnimTrack->contentsMargins();
     const int oneRow = m_ui->hlAnimTrackButtons->sizeHint().width() + m_ui->hlAnimTrack->spacing() +
                        m_ui->hlAnimTrackFrames->sizeHint().width() + margins.left() + margins.right();
-    m_ui->hlAnimTrack->setDirection(width() < oneRow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    const auto direction = width() < oneRow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight;
+    if (direction == m_ui->hlAnimTrack->direction())
+        return;
+    m_ui->hlAnimTrack->setDirection(direction);
+    // The layout around it, and that around this, do not hear of it by themselves.
+    m_ui->vlAnimTrack->invalidate();
+    updateGeometry();
 }
 
 void AnimTrackFrame::openAnimation(const AnimFile *file)
 {
     playback().anim = file;
+    m_ui->actionTrack->forgetHeight();
     selectBlock(0);
 }
 
@@ -137,11 +162,14 @@ void AnimTrackFrame::selectBlock(int blockIndex)
 {
     Playback &state = playback();
     state.blockIndex = blockIndex;
+    state.range = {};
     state.playState = Settings::AnimationAutoPlay.value() ? PlayState::Playing : PlayState::InitialPose;
+    m_ui->actionTrack->setBlock(nullptr, true);
     updateRange();
-    showFrame(0);
+    moveTo(0);
     state.time = 0.0f;
     emit playbackChanged();
+    emit blockChanged();
 }
 
 void AnimTrackFrame::updateRange()
@@ -151,6 +179,8 @@ void AnimTrackFrame::updateRange()
     const AnimBlock *block = currentBlock();
     m_ui->sliderAnimTrack->setMaximum(block ? std::max(0, block->frameCount() - 1) : 0);
     m_ui->sliderAnimTrack->setActions(block);
+    m_ui->actionTrack->setBlock(block, false);
+    m_ui->actionTrack->setVisible(playback().anim && m_ui->btnAnimTrackActions->isChecked());
     const bool hasActions = block && !block->actions.empty();
     for (const QToolButton *button : {m_ui->btnAnimTrackMarkBack, m_ui->btnAnimTrackMarkForward})
         button->defaultAction()->setEnabled(hasActions);
@@ -183,8 +213,20 @@ void AnimTrackFrame::listBlocks()
 
 void AnimTrackFrame::showFrame(int frame)
 {
+    moveTo(frame);
+    m_sounds.showFrame(frame);
+}
+
+void AnimTrackFrame::moveTo(int frame)
+{
     const QSignalBlocker blocker(m_ui->sliderAnimTrack);
     m_ui->sliderAnimTrack->setValue(frame);
+    m_ui->actionTrack->setFrame(frame);
+}
+
+ActionTrack &AnimTrackFrame::actionTrack()
+{
+    return *m_ui->actionTrack;
 }
 
 void AnimTrackFrame::showState()
@@ -293,6 +335,7 @@ void AnimTrackFrame::OnAnimTrackFrameAsked(int frame)
 {
     // What plays would go on from there, and the initial pose would hide it.
     playback().playState = PlayState::Paused;
+    m_ui->actionTrack->setFrame(frame);
     // The slider says nothing where it stands already.
     OnAnimTrackSliderChanged(frame);
 }

@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "EventSounds.h"
+
 #include <QFrame>
 
 #include <memory>
 
+class ActionTrack;
 class QAction;
 struct AnimFile;
 
@@ -36,6 +39,12 @@ public:
     void showFrame(int frame);
     void showLabel(const QString &text);
 
+    /// Who plays the sounds of actions.
+    void setSoundPlayer(EventSounds::Player player) { m_sounds.setPlayer(std::move(player)); }
+
+    /// What it asks for about records is up to whoever can edit them.
+    ActionTrack &actionTrack();
+
     /// Gives a panel the keys of the buttons, and those that play or pause. Its buttons and lists keep Space
     /// for themselves.
     void serve(QWidget &panel);
@@ -46,6 +55,8 @@ public:
 signals:
     /// An action of the current block was chosen here.
     void actionChosen(int block, int action);
+    /// Another block is shown.
+    void blockChanged();
     /// The playback state was changed here: the picture is stale.
     void playbackChanged();
 
@@ -67,6 +78,7 @@ private:
     void playOrPause();
     void play(float time);
     void showState();
+    void moveTo(int frame);
     void goTo(int frame);
     void step(int direction);
     void stepToMark(int direction);
@@ -76,4 +88,5 @@ private:
 
     std::unique_ptr<Ui::AnimTrackFrame> m_ui;
     QList<QAction *> m_actions;
+    EventSounds m_sounds;
 };

@@ -2,11 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "TrackSlider.h"
 
+#include "ActionTexts.h"
 #include "AnimFile.h"
-#include "EventArguments.h"
-#include "NameTables.h"
 
-#include <QCoreApplication>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyleOptionSlider>
@@ -18,29 +16,6 @@
 namespace {
 constexpr int MarkHeight = 5;
 constexpr int Reach = 4; ///< pixels to either side of a mark that belong to it
-
-/// "Action 2: 00: Play Sound, Sound ID 10 (Ambient Explosion 1)": the arguments that mean something or are
-/// set.
-QString textOf(int index, const AnimAction &action)
-{
-    QString text = TrackSlider::tr("Action %1: %2")
-                       .arg(index)
-                       .arg(eventTypeNames().value(action.eventType, QString::number(action.eventType)));
-    for (int i = 0; i < int(action.args.size()); ++i) {
-        const char *label = eventArgument(action.eventType, i).label;
-        const float value = action.args[size_t(i)];
-        if (!label && value == 0.0f)
-            continue;
-        QString name = TrackSlider::tr("Arg %1").arg(i + 1);
-        if (label)
-            name = QCoreApplication::translate("EventArguments", label);
-        text += QStringLiteral(", %1 %2").arg(name).arg(double(value));
-        const QString called = argumentName(action.eventType, i, value);
-        if (!called.isEmpty())
-            text += QStringLiteral(" (%1)").arg(called);
-    }
-    return text;
-}
 } // namespace
 
 TrackSlider::TrackSlider(QWidget *parent)
@@ -59,7 +34,7 @@ void TrackSlider::setActions(const AnimBlock *block)
     for (int i = 0; i < count; ++i) {
         const AnimAction &action = block->actions[size_t(i)];
         if (action.frame < block->frameCount())
-            m_marks.append({action.frame, {i}, textOf(i, action)});
+            m_marks.append({action.frame, {i}, actionText(i, action)});
     }
     std::stable_sort(m_marks.begin(), m_marks.end(),
                      [](const Mark &a, const Mark &b) { return a.frame < b.frame; });

@@ -22,25 +22,13 @@ QString nameOfNumber(const Document &document, const RecordField &field, const R
 {
     if (!field.names().isEmpty())
         return field.names().value(int(number));
-    const auto in = [&](const auto &shown) {
-        using Model = std::decay_t<decltype(shown.model())>;
-        return static_cast<const ModelField<Model> &>(field).name(shown.model(), index, namingMesh(shown));
-    };
-    switch (document.kind().type) {
-    case DocumentType::SkinnedMesh:
-        return in(static_cast<const SkinnedMeshDocument &>(document));
-    case DocumentType::Anim:
-        return in(static_cast<const AnimDocument &>(document));
-    case DocumentType::StaticMesh:
-        break;
-    }
-    return in(static_cast<const StaticMeshDocument &>(document));
+    return document.values().name(field, index, document.namedMesh());
 }
 
 /// A field's value with what it is called: "12: Left Upper Arm", "310 (roar)".
 QString valueText(const Document &document, const RecordField &field, const RecordIndex &index)
 {
-    const FieldValue value = fieldValue(document, field, index);
+    const FieldValue value = document.values().value(field, index);
     QString text = field.text(value);
     if (const auto *number = std::get_if<double>(&value)) {
         const bool isSwitch = field.type() == RecordField::Type::Switch;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "SimilarMenu.h"
 
-#include "DocumentModel.h"
+#include "Document.h"
 #include "KVTreeView.h"
 #include "RecordTable.h"
 
@@ -42,7 +42,7 @@ void SimilarMenu::fill()
     clear();
     const RecordRef current = m_tree->currentRecord();
     for (const RecordField *field : comparableFields(current.kind)) {
-        const QString value = field->text(fieldValue(m_document, *field, current.index));
+        const QString value = field->text(m_document.values().value(*field, current.index));
         const QString text =
             QStringLiteral("%1: %2").arg(field->title(), value.isEmpty() ? tr("(empty)") : value);
         QAction *action = addAction(QString(text).replace(QLatin1Char('&'), QLatin1String("&&")));
@@ -56,7 +56,7 @@ void SimilarMenu::select(const RecordField &field)
     const RecordRow *row = recordRow(current.kind);
     if (!row || current.kind != field.kind())
         return;
-    const FieldValue wanted = fieldValue(m_document, field, current.index);
+    const FieldValue wanted = m_document.values().value(field, current.index);
     // Those of a list of the model, or of the lists of all their owners.
     const RecordKind owner = row->component > 0 ? recordRow(row->parent)->parent : RecordKind::None;
     const int owners = owner == RecordKind::None ? 1 : m_document.recordCount(owner, {});
@@ -66,7 +66,7 @@ void SimilarMenu::select(const RecordField &field)
         const int count = m_document.recordCount(current.kind, index);
         for (int number = 0; number < count; ++number) {
             index[size_t(row->component)] = number;
-            if (index == current.index || fieldValue(m_document, field, index) == wanted)
+            if (index == current.index || m_document.values().value(field, index) == wanted)
                 similar += RecordRef{current.kind, index};
         }
     }

@@ -35,6 +35,9 @@ public:
     StructureActions(Shown<SkinnedMeshDocument> skinnedMesh, Shown<AnimDocument> anim,
                      Shown<StaticMeshDocument> staticMesh, QWidget *window);
 
+    /// The context menu of a tree, for others who have something to offer there.
+    QMenu *menu(DocumentType tree) const { return m_menus[size_t(tree)].menu; }
+
 public slots:
     void OnActionAddHotPoint();
     void OnActionRemoveHotPoint();

@@ -93,7 +93,14 @@ ModelSelection ViewSelection::selected(DocumentType type) const
 
 void ViewSelection::mark(DocumentType type)
 {
-    KVOpenGLWidget *viewport = m_shown[size_t(type)].viewport;
+    const auto [records, viewport] = m_shown[size_t(type)];
+    // An edit reaches all that are selected, so only one alone has handles.
+    const RecordRef only = records->selectedRefs().size() == 1 ? records->currentRecord() : RecordRef();
+    const bool isModel = only.kind == RecordKind::SkinnedMesh || only.kind == RecordKind::StaticMesh;
+    viewport->setHandles(only.kind == RecordKind::Bone ? only.index[0]
+                         : isModel                     ? MarkedRecords::ModelBox
+                                                       : MarkedRecords::NoBox,
+                         only.kind == RecordKind::HotPoint || only.kind == RecordKind::AnimAction);
     if (type == DocumentType::SkinnedMesh)
         viewport->setMarkedSelection(numbers(type, RecordKind::Bone), numbers(type, RecordKind::HotPoint));
     else if (type == DocumentType::Anim)

@@ -18,6 +18,7 @@ QAction *viewportAction(const char *name, const char *icon, const QString &text,
     action->setToolTip(tip);
     if (!keys.isEmpty()) {
         action->setShortcuts(keys);
+        action->setAutoRepeat(false); // what is held, as at the end of a drag, switches nothing to and fro
         action->setShortcutContext(Qt::WidgetShortcut);
         for (KVOpenGLWidget *viewport : viewports)
             viewport->addAction(action);

@@ -268,7 +268,8 @@ void DocumentPanes::OnReplaced(DocumentType type)
         break;
     }
     const DocumentPane &replaced = pane(type);
-    replaced.viewport->playbackChanged(); // at once, rather than at the next idle look
+    showInViewport(type, replaced.tree->currentRecord()); // the view has forgotten what is selected
+    replaced.viewport->playbackChanged();                 // at once, rather than at the next idle look
     const QString path = replaced.document->path();
     if (FileSystem::isSamePath(std::exchange(m_paths[size_t(type)], path), path) && !path.isEmpty())
         return; // only read again

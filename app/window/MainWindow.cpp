@@ -3,6 +3,7 @@
 #include "MainWindow.h"
 
 #include "AboutDialog.h"
+#include "AnimationCommands.h"
 #include "AnimationFollower.h"
 #include "CommandPalette.h"
 #include "ConsoleButton.h"
@@ -20,6 +21,7 @@
 #include "Icons.h"
 #include "ImportExport.h"
 #include "LoadingSign.h"
+#include "ModelShaping.h"
 #include "ModelTransforms.h"
 #include "NamedFiles.h"
 #include "PaneKeys.h"
@@ -38,6 +40,7 @@
 #include "TemporaryFolder.h"
 #include "TextureWatch.h"
 #include "TexturesAhead.h"
+#include "TimelineEdits.h"
 #include "UndoActions.h"
 #include "UpdatePrompt.h"
 #include "ViewMenu.h"
@@ -84,8 +87,15 @@ MainWindow::MainWindow(QWidget *parent)
     new ViewMenu(*m_ui, *m_panes, m_pictures->action(), this);
     readSettings();
     addUndoActions(m_undoGroup, *m_files, *m_ui->menuEdit, *m_ui->toolBarEdit);
-    new StructureActions({m_skinnedMesh, m_ui->treeSkinnedMesh}, {m_anim, m_ui->treeAnim},
-                         {m_staticMesh, m_ui->treeStaticMesh}, this);
+    const auto *structure =
+        new StructureActions({m_skinnedMesh, m_ui->treeSkinnedMesh}, {m_anim, m_ui->treeAnim},
+                             {m_staticMesh, m_ui->treeStaticMesh}, this);
+    new ModelShaping(*m_ui, *m_panes, m_skinnedMesh, m_anim, m_staticMesh, *structure, this);
+    new TimelineEdits(m_anim, *m_panes, *m_ui->animTrackFrame, *structure->menu(DocumentType::Anim));
+    auto *animations = new AnimationCommands(m_anim, m_skinnedMesh, *m_ui->treeAnim, this);
+    animations->addTo(*m_ui->menuEdit, *m_ui->actionScale);
+    animations->addToContext(*structure->menu(DocumentType::Anim));
+    connect(animations, &AnimationCommands::documentWanted, m_panes, &DocumentPanes::showPane);
     new QuestionMenu(this);
     m_paneKeys = new PaneKeys(*m_ui, this);
     m_ui->menuView->insertMenu(m_ui->actionFullScreen, m_paneKeys);
@@ -204,7 +214,7 @@ void MainWindow::createDocks()
     connect(m_ui->tabDatabase, &DatabaseTab::namesChanged, m_problems,
             [this] { m_problems->setReferenceIds(ReferenceIds::load()); });
     connect(m_ui->tabDatabase, &DatabaseTab::namesChanged, m_panes, &DocumentPanes::OnNamesChanged);
-    m_ui->dockTable->setDocuments(m_skinnedMesh, m_anim, m_staticMesh,
+    m_ui->dockTable->setDocuments({&m_skinnedMesh, &m_anim, &m_staticMesh},
                                   {m_ui->treeSkinnedMesh, m_ui->treeAnim, m_ui->treeStaticMesh});
     connect(m_ui->dockTable, &TableDock::activated, m_panes, &DocumentPanes::showRecord);
     connect(m_ui->dockTable, &TableDock::told, this, &MainWindow::tell);

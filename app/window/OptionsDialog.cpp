@@ -42,6 +42,10 @@ OptionsDialog::OptionsDialog(QWidget *parent, Shortcuts *shortcuts)
     connect(m_ui->txtT2Dir, &QLineEdit::editingFinished, this, &OptionsDialog::OnTxtT2DirChanged);
     updateHint(m_ui->txtGamePath, m_ui->lblGamePathHint);
     updateHint(m_ui->txtT2Dir, m_ui->lblT2DirHint);
+    m_ui->txtSounds->setValue(QDir::toNativeSeparators(Settings::SoundsFolder.value()));
+    connect(m_ui->txtSounds, &QLineEdit::textChanged, this,
+            [this] { updateHint(m_ui->txtSounds, m_ui->lblSoundsHint); });
+    updateHint(m_ui->txtSounds, m_ui->lblSoundsHint);
     if (shortcuts) {
         m_shortcuts = new ShortcutsPage(*shortcuts);
         m_ui->tabOptions->addTab(m_shortcuts, tr("&Shortcuts"));
@@ -71,6 +75,7 @@ void OptionsDialog::on_buttonBox_accepted()
 
     Settings::GamePath.setValue(normalizedFolder(m_gamePath));
     Settings::OutputDir.setValue(normalizedFolder(m_outputDir));
+    Settings::SoundsFolder.setValue(normalizedFolder(m_ui->txtSounds->text()));
     Settings::Updates.setValue(m_updates);
     Settings::HideMeshData.setValue(m_hideMeshData);
     Settings::HideAnimData.setValue(m_hideAnimData);
@@ -99,6 +104,13 @@ void OptionsDialog::on_btnT2DirBrowse_clicked()
         return;
     m_ui->txtT2Dir->setValue(QDir::toNativeSeparators(folder));
     OnTxtT2DirChanged();
+}
+
+void OptionsDialog::on_btnSounds_clicked()
+{
+    const QString folder = m_chooseFolder(this, tr("Folder of sounds"), m_ui->txtSounds->text());
+    if (!folder.isEmpty())
+        m_ui->txtSounds->setValue(QDir::toNativeSeparators(folder));
 }
 
 void OptionsDialog::OnTxtGamePathChanged()

@@ -34,6 +34,7 @@ private slots:
     void on_buttonBox_accepted();
     void on_btnGame_clicked();
     void on_btnT2DirBrowse_clicked();
+    void on_btnSounds_clicked();
     void OnTxtGamePathChanged();
     void OnTxtT2DirChanged();
     void on_cbUpdates_clicked(bool checked) { m_updates = checked; }

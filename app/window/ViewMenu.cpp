@@ -6,6 +6,7 @@
 #include "DisplayOptions.h"
 #include "DocumentPanes.h"
 #include "LookMenu.h"
+#include "ShadingMenu.h"
 #include "StatusReadOut.h"
 #include "ViewPreferences.h"
 #include "ViewToolBar.h"
@@ -18,8 +19,13 @@ ViewMenu::ViewMenu(const Ui::MainWindow &ui, const DocumentPanes &panes, QAction
     const auto *display = new DisplayOptions(panes.viewports(), window);
     QMenu *menu = ui.menuView;
     menu->insertMenu(ui.actionResetCamera, display->shadingMenu());
-    menu->insertActions(ui.actionResetCamera, {display->skeleton(), display->hotPoints(),
-                                               display->surfaceTint(), display->statistics()});
+    QAction *fading = display->shadingMenu()->fadingGround();
+    menu->insertAction(ui.actionTransGizmo, fading);
+    fading->setEnabled(ui.actionGround->isChecked());
+    connect(ui.actionGround, &QAction::toggled, fading, &QAction::setEnabled);
+    menu->insertActions(ui.actionResetCamera,
+                        {display->skeleton(), display->hotPoints(), display->boxes(), display->events(),
+                         display->surfaceTint(), display->statistics()});
     menu->insertSeparator(ui.actionResetCamera);
     auto *camera = new CameraMenu(
         panes.viewports(), [&panes] { return panes.currentViewport(); },

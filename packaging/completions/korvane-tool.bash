@@ -17,7 +17,7 @@ _korvane_tool_files() {
 
 _korvane_tool() {
     local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD - 1]} verb=${COMP_WORDS[1]:-}
-    local verbs='info check resave dump build set find diff import export render' options=''
+    local verbs='info check resave dump build set animate find diff import export render' options=''
     COMPREPLY=()
 
     if ((COMP_CWORD == 1)) || [[ $verb == help ]]; then
@@ -47,6 +47,18 @@ _korvane_tool() {
         mapfile -t COMPREPLY < <(compgen -W 'transparent black white gray' -- "$cur")
         return
         ;;
+    --around)
+        mapfile -t COMPREPLY < <(compgen -W 'loops always never' -- "$cur")
+        return
+        ;;
+    --mesh | --source-mesh)
+        _korvane_tool_files skinnedmesh
+        return
+        ;;
+    --shading)
+        mapfile -t COMPREPLY < <(compgen -W 'textured lit normals' -- "$cur")
+        return
+        ;;
     --up)
         mapfile -t COMPREPLY < <(compgen -W 'y z auto' -- "$cur")
         return
@@ -64,6 +76,9 @@ _korvane_tool() {
     find) options='--json --help' ;;
     diff) options='--json --all --help' ;;
     build) options='--output --force --help' ;;
+    animate)
+        options='--block --all --output --in-place --force --keep-speed --around --mesh --source-mesh --help'
+        ;;
     set) options='--output --force --where --help' ;;
     import)
         options='--output --static --force --keep-materials --no-normals --flip-uv --flip-winding --no-rotate --scale
@@ -74,8 +89,8 @@ _korvane_tool() {
         options='--output --gltf --anim --block --pose --frame --force --game-path --mod-path --help'
         ;;
     render)
-        options='--output --each --force --anim --block --frame --size --background --yaw --pitch --game-path
-            --mod-path --help'
+        options='--output --each --force --anim --block --frame --size --background --shading --yaw --pitch
+            --game-path --mod-path --help'
         ;;
     esac
     if [[ $cur == -* ]]; then
@@ -86,6 +101,11 @@ _korvane_tool() {
     case $verb in
     info | check) _korvane_tool_files 'skinnedmesh|anim|staticmesh|kmat' ;;
     resave | dump | set | find | diff | export | render) _korvane_tool_files 'skinnedmesh|anim|staticmesh' ;;
+    animate)
+        _korvane_tool_files anim
+        mapfile -t -O "${#COMPREPLY[@]}" COMPREPLY < <(compgen -W 'resample rate reverse trim shift close-loop mirror
+            extract-yaw apply-yaw remove-unused join-equal renumber copy-from' -- "$cur")
+        ;;
     build) _korvane_tool_files json ;;
     import) _korvane_tool_files ;;
     esac

@@ -81,6 +81,11 @@ void ToolChain::leave()
         tool->leave();
 }
 
+bool ToolChain::takesKeys() const
+{
+    return std::any_of(m_tools.begin(), m_tools.end(), [](const auto &tool) { return tool->takesKeys(); });
+}
+
 ViewCursor ToolChain::cursor() const
 {
     ViewCursor shown = ViewCursor::Arrow;

@@ -39,6 +39,8 @@ public:
     void leave();
 
     ViewCursor cursor() const;
+    /// Whether one of them wants all keys.
+    bool takesKeys() const;
 
 private:
     using Offer = bool (ViewTool::*)(const ViewInput &);

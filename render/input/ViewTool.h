@@ -6,9 +6,10 @@
 
 struct ViewInput;
 
-/// What the cursor over a view is to be. A cross aims and holds nothing; a captured one is not seen, and is
+/// What the cursor over a view is to be. An open hand could take
+/// something, a cross aims, and both hold nothing; a captured one is not seen, and is
 /// brought back to the middle after each move.
-enum class ViewCursor { Arrow, Cross, ClosedHand, Captured };
+enum class ViewCursor { Arrow, OpenHand, Cross, ClosedHand, Captured };
 
 /// One way of using mouse and keyboard in a view. Knows no window: it changes the camera, or says what it
 /// found, when a `ToolChain` hands it an input.
@@ -26,6 +27,8 @@ public:
     virtual bool wheel(const ViewInput &) { return false; }
     virtual bool keyPress(const ViewInput &) { return false; }
     virtual bool keyRelease(const ViewInput &) { return false; }
+    /// Whether all keys are its own now, those of commands too.
+    virtual bool takesKeys() const { return false; }
     /// `dt` seconds went by. True when the camera moved.
     virtual bool tick(float) { return false; }
     /// No releases will come: lets go of everything.

@@ -6,9 +6,11 @@
 #include "PickTool.h"
 #include "ToolChain.h"
 
+class BoxTool;
 class Camera;
 class FlightTool;
 class OrbitTool;
+class PointTool;
 
 /// All that mouse and keys do in the 3D view.
 class ViewTools : public ToolChain
@@ -17,7 +19,12 @@ public:
     /// Camera and sight outlive the tools.
     ViewTools(Camera &camera, const ViewSight &sight, PickTool::Picked picked, HoverTool::ShowTip showTip);
 
+    /// Whether something is held by its handle.
+    bool isHandleHeld() const;
+
     // Those that can be told something.
+    PointTool *point;
+    BoxTool *box;
     PickTool *pick;
     OrbitTool *orbit;
     FlightTool *flight;

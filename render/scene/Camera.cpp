@@ -4,6 +4,7 @@
 
 #include "BoundingSphere.h"
 #include "Framing.h"
+#include "Transform.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "Framing.h"
 
+#include "Transform.h"
+
 #include <QQuaternion>
 #include <QtMath>
 
@@ -15,11 +17,6 @@ constexpr float LensAngle = 30.0f; // vertical, degrees
 constexpr float FrameRoom = 1.06f;
 constexpr float LeastDistance = 1.0e-3f; // of the eye from the nearest point, relative to its place
 } // namespace
-
-bool isFinite(const QVector3D &point)
-{
-    return std::isfinite(point.x()) && std::isfinite(point.y()) && std::isfinite(point.z());
-}
 
 bool isWithin(float limit, const QVector3D &point)
 {

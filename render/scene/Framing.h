@@ -9,7 +9,6 @@
 #include <array>
 #include <vector>
 
-bool isFinite(const QVector3D &point);
 /// Whether no coordinate is farther from 0; false for what is no place.
 bool isWithin(float limit, const QVector3D &point);
 

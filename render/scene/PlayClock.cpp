@@ -14,6 +14,8 @@ bool stands(const AnimBlock &block, const Playback &state)
     const float duration = playDuration(block);
     if (!(duration > 0.0f) || !std::isfinite(duration))
         return true;
+    if (!state.range.isEmpty())
+        return false;
     const bool loopsOnLastFrame = !state.forceLoop && int(block.loopFrame) == block.frameCount() - 1;
     return loopsOnLastFrame && state.time >= duration;
 }
@@ -29,6 +31,13 @@ bool clockRuns(const Playback &state)
 
 void advanceClock(Playback &state, float dt)
 {
-    if (clockRuns(state))
-        state.time += dt * state.speedFactor;
+    if (!clockRuns(state))
+        return;
+    state.time += dt * state.speedFactor;
+    if (state.range.isEmpty())
+        return;
+    const float rate = playRate(playableBlock(state)->speed);
+    const float first = float(state.range.first) / rate;
+    if (state.time < first || state.time >= float(state.range.last) / rate)
+        state.time = first;
 }

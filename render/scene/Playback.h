@@ -8,6 +8,15 @@ struct SkinnedMesh;
 
 enum class PlayState { InitialPose = 0, Playing = 1, Paused = 2 };
 
+/// Frames that are played alone, over and over; none where the last is not behind the first.
+struct FrameRange
+{
+    int first = 0;
+    int last = -1;
+
+    bool isEmpty() const { return last <= first; }
+};
+
 /// What plays, where and how: shared by the track controls and the viewport.
 struct Playback
 {
@@ -15,8 +24,9 @@ struct Playback
     const AnimFile *anim = nullptr;
     int blockIndex = 0;
     PlayState playState = PlayState::InitialPose;
-    float time = 0.0f;        ///< seconds
-    bool forceLoop = false;   ///< "Force Loop beginning to end"
+    float time = 0.0f;      ///< seconds
+    bool forceLoop = false; ///< "Force Loop beginning to end"
+    FrameRange range;
     float speedFactor = 1.0f; ///< of the clock: how much faster than the file says
 };
 

@@ -11,6 +11,7 @@
 #include "ImportDialog.h"
 #include "MainWindow.h"
 #include "ModelUpdateDialog.h"
+#include "MotionDialog.h"
 #include "OneRun.h"
 #include "OptionsDialog.h"
 #include "PictureDialog.h"
@@ -153,12 +154,19 @@ struct EveryWindow
         , palette(*main.menuBar(), QList<QAction *>(), nullptr)
     {
         main.findChild<DatabaseTab *>()->load();
+        for (int kind = 0; kind < MotionKind::Count; ++kind)
+            motions.push_back(
+                std::make_unique<MotionDialog>(MotionKind::Name(kind), anim, mesh, std::vector<int>{}));
     }
 
     QVector<QWidget *> all()
     {
-        return {&main,  &options,  &importMesh, &importStatic, &rotate,  &scale,   &newSize,
-                &about, &controls, &recover,    &crash,        &palette, &picture, &update};
+        QVector<QWidget *> windows{&main,  &options, &importMesh, &importStatic, &rotate,
+                                   &scale, &newSize, &about,      &controls,     &recover,
+                                   &crash, &palette, &picture,    &update};
+        for (const auto &motion : motions)
+            windows.append(motion.get());
+        return windows;
     }
     /// The letters that stand twice, in a window or in one of its menus.
     QStringList mnemonicClashes()
@@ -185,6 +193,9 @@ struct EveryWindow
     CommandPalette palette;
     PictureDialog picture{{640, 480}, nullptr};
     ModelUpdateDialog update{QStringLiteral("a.glb"), QStringLiteral("a.skinnedmesh"), someUpdate(), nullptr};
+    AnimDocument anim{DocumentType::Anim, RecordKind::AnimFile};
+    SkinnedMeshDocument mesh{DocumentType::SkinnedMesh, RecordKind::SkinnedMesh};
+    std::vector<std::unique_ptr<MotionDialog>> motions;
 
 private:
     static UpdateAccount someUpdate()

@@ -15,6 +15,7 @@
 #include <QSurfaceFormat>
 
 #include <cstdlib>
+#include <limits>
 #include <memory>
 
 /// A square of 400 by 400 in the middle of the start view, facing the camera, two surfaces of one triangle.
@@ -170,4 +171,17 @@ inline void putQuarters(const QString &folder)
         !TestSupport::writeFile(folder + QStringLiteral("/m/a.kmat"),
                                 "material quarters {\n sampler \"diffuse\" 0 \"quarters.png\" {\n}\n}\n"))
         qFatal("no room for pictures");
+}
+
+/// Bone numbers and indexes from nowhere, more bones than the program holds, numbers that are none.
+inline SkinnedMesh oddMesh()
+{
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    SkinnedMesh mesh;
+    mesh.nodes.resize(300);
+    mesh.bbMin = mesh.bbMax = {nan, nan, nan};
+    for (int i = 0; i < 1000; ++i)
+        mesh.vertices.push_back({{float(i), nan, 3e38f}, {nan, 1e30f}, {nan, 1e30f, 0.0f}, quint16(i * 65)});
+    mesh.surfaces = {{QString(), {0, 999, 1000, 65535, 1, 2, 3, 4, 5, 6}}, {QStringLiteral("_white"), {}}};
+    return mesh;
 }

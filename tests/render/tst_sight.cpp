@@ -107,13 +107,19 @@ void tst_Sight::marksAreFound()
     mesh.hotPoints[0] = {{200, 0, 0}, 0, 1, 0, 0}; // on bone 1
     mesh.hotPoints[1] = {{0, 300, 0}, 0, 77, 0, 0};
     SceneMarks marks;
-    marks.place({&mesh, true, false, {1}, {}}, map, palette);
+    MarkedRecords records;
+    records.mesh = &mesh;
+    records.skeleton = true;
+    records.selectedBones = {1};
+    marks.place(records, map, palette);
     QCOMPARE(marks.boneAt({203, 147}), 0);
     QCOMPARE(marks.boneAt({200, 100}), 1); // bone 2 lies behind it
     QCOMPARE(marks.boneAt({250, 150}), SceneMarks::None);
     QCOMPARE(marks.hotPointAt({200, 150}), SceneMarks::None);
 
-    marks.place({&mesh, false, true, {}, {}}, map, palette);
+    records.skeleton = false;
+    records.hotPoints = true;
+    marks.place(records, map, palette);
     QCOMPARE(marks.hotPointAt({150, 100}), 0);
     QCOMPARE(marks.hotPointAt({200, 150}), 1);
     QCOMPARE(marks.boneAt({200, 150}), SceneMarks::None);
@@ -132,7 +138,12 @@ void tst_Sight::hostileMarks()
     mesh.hotPoints[2] = {{3e38f, -3e38f, 3e38f}, 0, 2, 0, 0};
     SceneMarks marks;
     OverlayCanvas canvas;
-    marks.place({&mesh, true, true, {-1, 5, 900}, {2, 3}}, startMap(), palette);
+    MarkedRecords records;
+    records.mesh = &mesh;
+    records.skeleton = records.hotPoints = records.boxes = true;
+    records.selectedBones = {-1, 5, 900};
+    records.selectedHotPoints = {2, 3};
+    marks.place(records, startMap(), palette);
     marks.draw(canvas);
     for (const QPointF &pixel : {QPointF(0, 0), QPointF(200, 300), QPointF(qQNaN(), 0)})
         QVERIFY(marks.boneAt(pixel) < 4 && marks.hotPointAt(pixel) < 3);

@@ -147,11 +147,19 @@ void tst_ViewportInput::flightKeepsItsSpeed()
     now += 5;
     QCOMPARE(timer.take().steps, 5);
     timer.paints();
-    now += 15;
+    now += 16;
     QVERIFY(!timer.mayPaint());
-    QCOMPARE(timer.take().seconds, 0.015f);
+    QCOMPARE(timer.take().seconds, 0.016f);
     now += 1;
     QVERIFY(timer.mayPaint());
+    int paints = 0;
+    for (const qint64 start = now; now < start + 3000; ++now) {
+        if (!timer.mayPaint())
+            continue;
+        timer.paints();
+        ++paints;
+    }
+    QCOMPARE(paints, 3 * 60);
     // A key that is pressed while it plays has not flown before, but the clock has run.
     timer.setPace(TickTimer::Pace::Playing);
     timer.take();
@@ -360,7 +368,7 @@ void tst_ViewportInput::pausedOrHiddenViewRests()
     m_view->anim.blocks[0].loopFrame = 10;
     playback().time = 0.5f;
     playback().playState = PlayState::Playing;
-    QTRY_VERIFY(interval() <= 16); // for ten seconds
+    QTRY_VERIFY(interval() <= 17); // for ten seconds
     playback().time = 9.9f;
     QTRY_COMPARE(interval(), idle);
     QCOMPARE(playback().time, 10.0f);

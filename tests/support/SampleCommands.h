@@ -123,7 +123,8 @@ State otherState(const SkinnedMesh &mesh, const RecordIndex &)
 {
     return *State::moved(mesh, {1}, 1).skeleton;
 }
-/// The tracks of a block without the last, or one where there was none; a bone more in the first blocks.
+/// The tracks of a block without the last, or one where there was none; a bone more in the first blocks; a
+/// longer block.
 template <typename State>
 State otherState(const AnimFile &file, const RecordIndex &index)
 {
@@ -134,6 +135,11 @@ State otherState(const AnimFile &file, const RecordIndex &index)
         places.push_back(-1);
         state.arrange(places, {AnimNode()}, {});
         return state;
+    } else if constexpr (std::is_same_v<State, WholeBlock>) {
+        AnimBlock block = file.blocks[size_t(index[0])];
+        block.setFrameCount(block.frameCount() + 2);
+        block.animId = other(block.animId);
+        return {file.blocks[size_t(index[0])], std::move(block)};
     } else {
         const AnimBlock &block = file.blocks[size_t(index[0])];
         State state(block);

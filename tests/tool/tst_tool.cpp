@@ -50,6 +50,16 @@ private slots:
             {"build x.json", "-o FILE is missing"},
             {"set x.anim", "a value"},
             {"set x.anim a 1 b", "no value for 'b'"},
+            {"animate x.anim", "A file and a command"},
+            {"animate reverse --all", "A file and a command"},
+            {"animate x.anim trim 3 --all", "trim FIRST LAST"},
+            {"animate x.anim resample many --all", "'many' is not FRAMES"},
+            {"animate x.anim shift -3 --all --around often", "'often'"},
+            {"animate x.anim renumber 1=2=3 --all", "'1=2=3'"},
+            {"animate x.anim reverse", "--block or --all"},
+            {"animate x.anim reverse --block x", "'x'"},
+            {"animate x.anim reverse --all --in-place -o y.anim", "-o or --in-place"},
+            {"animate x.anim y.anim reverse --all -o /nowhere", "/nowhere"},
             {"import x.obj", "-o FOLDER is missing"},
             {"import x.obj y.obj -o /", "y.obj"},
             {"import x.obj -o / --scale big", "'big'"},
@@ -77,6 +87,7 @@ private slots:
             {"render --each x.staticmesh -o / --anim x.anim", "--anim"},
             {"render x.staticmesh -o x.png --size 0x200", "0x200"},
             {"render x.staticmesh -o x.png --background bleu", "bleu"},
+            {"render x.staticmesh -o x.png --shading unlit", "textured, lit or normals, not 'unlit'"},
             {"render x.staticmesh -o x.png --frame -1", "'-1'"},
             {"render x.staticmesh -o x.png --pitch 91", "'91'"},
         };
@@ -95,8 +106,8 @@ private slots:
         manual.remove('\\');
         const QByteArray zsh = readFile(source("packaging/completions/_korvane-tool"));
         const QRegularExpression line("^  (?:-[a-z], )?(--[a-z-]+)", QRegularExpression::MultilineOption);
-        for (const QString verb :
-             {"info", "check", "resave", "dump", "build", "set", "diff", "import", "export", "render"}) {
+        for (const QString verb : {"info", "check", "resave", "dump", "build", "set", "animate", "diff",
+                                   "import", "export", "render"}) {
             const ToolRun run(verb, {"--help"});
             QCOMPARE(run.exitCode, 0);
             QVERIFY(run.out.startsWith(QStringLiteral("Usage: korvane-tool %1 ").arg(verb)));

@@ -88,6 +88,14 @@ private slots:
         QVERIFY(png.pixelColor(32, 32) != QColor(0, 0, 255));
         QCOMPARE(qAlpha(draw(Crate + " --size 64").pixel(0, 0)), 0);
 
+        const QImage plain = draw(Tinker + " --size 64");
+        QCOMPARE(draw(Tinker + " --size 64 --shading textured"), plain);
+        for (const char *shading : {" --size 64 --shading lit", " --size 64 --shading normals"}) {
+            const QImage shaped = draw(Tinker + shading);
+            QVERIFY(shaped != plain);
+            QCOMPARE(covered(shaped), covered(plain));
+        }
+
         QVERIFY(!draw(blue, "x.jpg").isNull());
         QVERIFY(TestSupport::readFile(m_folder.path("x.jpg")).startsWith("\xff\xd8"));
         // File managers ask for a name without an extension.

@@ -10,10 +10,11 @@
 #include <QAction>
 #include <QToolButton>
 
-FieldName::FieldName(NumberField *editor, Choices choices, bool isBone)
+FieldName::FieldName(NumberField *editor, Choices choices, Target target, bool isBone)
     : QObject(editor)
     , m_editor(editor)
     , m_choices(std::move(choices))
+    , m_targetOf(std::move(target))
     , m_hint(new IndexHint(editor->parentWidget()))
 {
     const QString name = editor->objectName().mid(2); // behind "sb"

@@ -23,14 +23,18 @@ class FieldName : public QObject
 
 public:
     using Choices = std::function<FieldChoices()>;
+    using Target = std::function<IndexTarget(double number)>;
 
     /// The editor stands in a form alone; it shares its place there from now on. What can be chosen is asked
-    /// when it is. `isBone`: it can be picked.
-    FieldName(NumberField *editor, Choices choices, bool isBone);
+    /// when it is, and what a number stands for when it is one that the record does not have. `isBone`: it
+    /// can be picked.
+    FieldName(NumberField *editor, Choices choices, Target target, bool isBone);
 
     /// The number and what it stands for; an empty text: it stands for nothing. `isChoice`: for something
     /// that can be chosen.
     void show(double number, const IndexTarget &target, bool isChoice);
+    /// What the record would get, until it is shown again.
+    void preview(double number) { m_hint->setTarget(m_targetOf(number)); }
     bool canChoose() const;
     void choose();
     /// Whether a bone is waited for, which the name says meanwhile.
@@ -54,6 +58,7 @@ signals:
 private:
     NumberField *m_editor;
     const Choices m_choices;
+    const Target m_targetOf;
     IndexHint *m_hint;
     QToolButton *m_button;
     QToolButton *m_pick = nullptr; ///< null where there is nothing to pick

@@ -243,6 +243,28 @@ void PageStack::refresh()
     showRecord(m_tree->currentRecord());
 }
 
+void PageStack::showNumbers(const QVector<QPair<QString, double>> &numbers)
+{
+    if (m_pages->currentIndex() <= 0)
+        return;
+    auto *scroll = static_cast<QScrollArea *>(m_pages->currentWidget());
+    const QList<NumberField *> fields = scroll->widget()->findChildren<NumberField *>();
+    for (const auto &[id, number] : numbers) {
+        for (NumberField *field : fields) {
+            if (field->property(PropertyPage::FieldProperty).toString() != id)
+                continue;
+            if (auto *real = qobject_cast<FloatSpinBox *>(field))
+                Editors::show(real, float(number));
+            else if (auto *whole = qobject_cast<IntSpinBox *>(field))
+                Editors::show(whole, int(number));
+            if (auto *name = field->findChild<FieldName *>())
+                name->preview(number);
+            if (id == numbers.first().first)
+                scroll->ensureWidgetVisible(field);
+        }
+    }
+}
+
 void PageStack::addPage(PropertyPage *page)
 {
     for (QWidget *group : page->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {

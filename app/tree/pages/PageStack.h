@@ -26,6 +26,9 @@ public:
     void takeBone(int bone);
     void giveUpPicking() { setPicking(nullptr); }
 
+    /// Shows other numbers than the current record's, by the ids of their fields, until it is refreshed.
+    void showNumbers(const QVector<QPair<QString, double>> &numbers);
+
     /// Shows the current record anew: what it says by numbers may be called otherwise.
     void refresh();
 

@@ -274,7 +274,11 @@ private:
                                                                    const ModelField<Model> &field)
     {
         auto *name = new FieldName(
-            editor, [this, &field] { return choicesOf(field); }, field.namesBones());
+            editor, [this, &field] { return choicesOf(field); },
+            [this, &field](double number) {
+                return targetOf(field, field.question(model(), index()), number);
+            },
+            field.namesBones());
         connect(name, &FieldName::chosen, this, [this, &field](int number) { giveNumber(field, number); });
         return [this, editor, &field, name](const QVector<RecordIndex> &others, bool differs) {
             if (!record())
@@ -296,18 +300,18 @@ private:
     {
         if constexpr (!std::is_same_v<Model, StaticMesh>) {
             if (field.namesBones())
-                return FieldChoice::bones(field.naming(), model(), index(), namingMesh(m_document));
+                return FieldChoice::bones(field.naming(), model(), index(), m_document.namedMesh());
         }
-        return FieldChoice::named(field.question(model(), index()), field.range(), namingMesh(m_document));
+        return FieldChoice::named(field.question(model(), index()), field.range(), m_document.namedMesh());
     }
     IndexTarget targetOf(const ModelField<Model> &field, QLatin1String question, double number) const
     {
         if constexpr (!std::is_same_v<Model, StaticMesh>) {
             if (field.namesBones())
-                return IndexTargets::boneOf(field.naming(), model(), index(), namingMesh(m_document),
+                return IndexTargets::boneOf(field.naming(), model(), index(), m_document.namedMesh(),
                                             int(number));
         }
-        return IndexTargets::named(question, field.name(model(), index(), namingMesh(m_document)), number);
+        return IndexTargets::named(question, field.name(model(), index(), m_document.namedMesh()), number);
     }
 
     template <typename Editor, typename Row>

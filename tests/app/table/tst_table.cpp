@@ -250,7 +250,7 @@ private slots:
 
 private:
     RecordTableView *view() const { return find<RecordTableView>(*m_window, "tableRecords"); }
-    QUndoStack &undo() const { return view()->records().source()->document().undoStack()[0]; }
+    QUndoStack &undo() const { return view()->records().document()->undoStack()[0]; }
     void openTable()
     {
         QTest::keyClick(find<KVTreeView>(*m_window, "treeSkinnedMesh"), Qt::Key_F4);

@@ -35,8 +35,15 @@ private slots:
             QTest::keyClick(view, Qt::Key_B);
             QTest::keyClick(view, Qt::Key_H);
             QTest::keyClick(view, Qt::Key_T);
+            QTest::keyClick(view, Qt::Key_L);
+            QTest::keyClick(view, Qt::Key_L); // again: back
+            QVERIFY(find<QAction>(*window, "actionTextured")->isChecked());
+            QTest::keyClick(view, Qt::Key_L);
+            QTest::keyClick(view, Qt::Key_N);
+            QTest::keyClick(view, Qt::Key_N, Qt::ShiftModifier);
             for (const char *name :
-                 {"actionStatistics", "actionOrbit", "actionGround", "actionTransGizmo", "actionCullBack"})
+                 {"actionStatistics", "actionOrbit", "actionGround", "actionTransGizmo", "actionCullBack",
+                  "actionSortTransparency", "actionSharpTexels", "actionSmoothEdges", "actionFadingGround"})
                 find<QAction>(*window, name)->trigger();
             // The bars of both views show the same.
             const auto bars = window->findChildren<QComboBox *>(QStringLiteral("cbSurfSelect"));
@@ -59,8 +66,10 @@ private slots:
         QCOMPARE(Settings::Brightness.value(), 2.0f);
         QCOMPARE(Settings::SurfSelectType.value(), 4);
         const auto window = open();
-        for (const char *name : {"actionWireframe", "actionSkeleton", "actionHotPoints", "actionStatistics",
-                                 "actionOrbit", "actionGround", "actionTransGizmo", "actionCullBack"})
+        for (const char *name :
+             {"actionWireframe", "actionSkeleton", "actionHotPoints", "actionStatistics", "actionOrbit",
+              "actionGround", "actionTransGizmo", "actionCullBack", "actionNormals", "actionVertexNormals",
+              "actionSortTransparency", "actionSharpTexels", "actionSmoothEdges", "actionFadingGround"})
             QVERIFY2(find<QAction>(*window, name)->isChecked(), name);
         QVERIFY(!find<QAction>(*window, "actionShaded")->isChecked());
         QVERIFY(!find<QAction>(*window, "actionSurfaceTint")->isChecked());

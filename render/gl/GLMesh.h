@@ -55,12 +55,19 @@ public:
 
     /// Draws all surfaces.
     void draw(const TexturedProgram &program, GLenum mode = GL_TRIANGLES);
-    /// Draws the selected surface; there has to be one.
-    void drawSelected(const TexturedProgram &program);
+    /// Draws one that there is.
+    void draw(int surface, const TexturedProgram &program);
     /// Draws the index list of a surface as triangles, lines or points over this mesh's vertices.
     void drawPlain(int surface, GLenum mode);
     /// The same over the vertices of whatever vertex array object is bound.
     void drawIndexes(int surface, GLenum mode);
+
+    /// Whether much of the surface's texture is half transparent. Brings the surface to the card.
+    bool isTranslucent(int surface);
+    /// Textures are smoothed between their texels, unless this is on.
+    void setSharpTexels(bool on);
+    /// Another number, which no other mesh has, after each change of vertices or indexes.
+    int revision() const { return m_revision; }
 
     BonePalette palette; ///< one matrix per bone of a skinned mesh, identity until posed
     int selectedSurface = NoSurface;
@@ -74,11 +81,18 @@ private:
         size_t uploadedParts = 0;         ///< from the first on
     };
 
+    /// On the card; surfaces share it.
+    struct PictureCopy
+    {
+        QOpenGLTexture texture;
+        bool isTranslucent;
+    };
+
     /// A surface's own; its picture goes to the card with its triangles.
     struct Texture
     {
         QImage image; ///< none where it is on the card
-        std::shared_ptr<QOpenGLTexture> copy;
+        std::shared_ptr<PictureCopy> copy;
     };
 
     template <typename Model>
@@ -90,15 +104,19 @@ private:
     size_t uploadTexture(size_t surface);
     void uploadSurface(size_t surface);
     bool needsTexture(size_t surface) const;
-    std::shared_ptr<QOpenGLTexture> copyOf(const QImage &image);
+    std::shared_ptr<PictureCopy> copyOf(const QImage &image);
+    void applyFilter(QOpenGLTexture &texture) const;
+    void changed();
 
     QOpenGLExtraFunctions &m_gl;
     QOpenGLVertexArrayObject m_vertexArray;
     QOpenGLBuffer m_vertexBuffer{QOpenGLBuffer::VertexBuffer};
     MeshVertices m_vertices;
     std::vector<Surface> m_surfaces;
-    size_t m_next = 0;                                     ///< the surface that uploadNext() comes to
-    std::vector<std::vector<quint16>> m_indexes;           ///< by surface
-    std::vector<Texture> m_textures;                       ///< by surface
-    QHash<qint64, std::weak_ptr<QOpenGLTexture>> m_copies; ///< by their images' keys
+    size_t m_next = 0;                                  ///< the surface that uploadNext() comes to
+    std::vector<std::vector<quint16>> m_indexes;        ///< by surface
+    std::vector<Texture> m_textures;                    ///< by surface
+    QHash<qint64, std::weak_ptr<PictureCopy>> m_copies; ///< by their images' keys
+    bool m_sharpTexels = false;
+    int m_revision = 0;
 };

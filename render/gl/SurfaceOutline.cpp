@@ -26,7 +26,7 @@ void SurfaceOutline::paint(const TexturedProgram &program, GLMesh &model, const 
 {
     const auto draw = [&](const QMatrix4x4 &matrix) {
         m_gl.glUniformMatrix4fv(program.mvpMatrix, 1, GL_FALSE, matrix.constData());
-        model.drawSelected(program);
+        model.draw(model.selectedSurface, program);
     };
     m_gl.glClear(GL_STENCIL_BUFFER_BIT);
     m_gl.glEnable(GL_STENCIL_TEST);

@@ -28,6 +28,12 @@ struct TexturedProgram
     int colorHighlight = -1;
     int wireColor = -1; ///< laid over the texture by its alpha
     int edges = -1;     ///< draws edges, where the texture is transparent too
+
+    /// Compiles and links; calls `stepFailed` after each step that fails and goes on.
+    void build(const QString &vertexPath, const QString &fragmentPath,
+               const std::function<void()> &stepFailed);
+    /// Binds it, for the texture of unit 0 as it is. Nothing where it could not be linked.
+    void begin(float brightnessFactor);
 };
 
 /// The shader programs of one context. Made and destroyed with the context current.

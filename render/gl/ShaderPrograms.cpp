@@ -18,33 +18,42 @@ void buildProgram(QOpenGLShaderProgram &program, const QString &vertexPath, cons
     if (!program.link())
         stepFailed();
 }
-
-void locateUniforms(TexturedProgram &textured)
-{
-    const QOpenGLShaderProgram &program = textured.program;
-    textured.mvpMatrix = program.uniformLocation("mvp_matrix");
-    textured.texture = program.uniformLocation("texture");
-    textured.brightness = program.uniformLocation("brightness");
-    textured.tiling = program.uniformLocation("tiling");
-    textured.colorHighlight = program.uniformLocation("color_highlight");
-    textured.wireColor = program.uniformLocation("wire_color");
-    textured.edges = program.uniformLocation("edges");
-}
 } // namespace
+
+void TexturedProgram::build(const QString &vertexPath, const QString &fragmentPath,
+                            const std::function<void()> &stepFailed)
+{
+    buildProgram(program, vertexPath, fragmentPath, stepFailed);
+    mvpMatrix = program.uniformLocation("mvp_matrix");
+    texture = program.uniformLocation("texture");
+    brightness = program.uniformLocation("brightness");
+    tiling = program.uniformLocation("tiling");
+    colorHighlight = program.uniformLocation("color_highlight");
+    wireColor = program.uniformLocation("wire_color");
+    edges = program.uniformLocation("edges");
+}
+
+void TexturedProgram::begin(float brightnessFactor)
+{
+    if (!program.isLinked())
+        return;
+    program.bind();
+    program.setUniformValue(texture, 0);
+    program.setUniformValue(brightness, brightnessFactor);
+    program.setUniformValue(tiling, 1.0f);
+}
 
 ShaderPrograms::ShaderPrograms(const std::function<void()> &stepFailed)
 {
-    buildProgram(plain.program, QStringLiteral(":/shaders/vshader.glsl"),
-                 QStringLiteral(":/shaders/fshader.glsl"), stepFailed);
+    plain.build(QStringLiteral(":/shaders/vshader.glsl"), QStringLiteral(":/shaders/fshader.glsl"),
+                stepFailed);
     buildProgram(highlight, QStringLiteral(":/shaders/vshaderHighlight.glsl"),
                  QStringLiteral(":/shaders/fshaderHighlight.glsl"), stepFailed);
-    buildProgram(skin.program, QStringLiteral(":/shaders/vshaderSkin.glsl"),
-                 QStringLiteral(":/shaders/fshaderSkin.glsl"), stepFailed);
+    skin.build(QStringLiteral(":/shaders/vshaderSkin.glsl"), QStringLiteral(":/shaders/fshaderSkin.glsl"),
+               stepFailed);
     buildProgram(overlay, QStringLiteral(":/shaders/vshaderOverlay.glsl"),
                  QStringLiteral(":/shaders/fshaderOverlay.glsl"), stepFailed);
 
-    locateUniforms(plain);
-    locateUniforms(skin);
     highlightMvpMatrix = highlight.uniformLocation("mvp_matrix");
     overlayMvpMatrix = overlay.uniformLocation("mvp_matrix");
 

@@ -10,6 +10,7 @@
 #include <QOpenGLExtraFunctions>
 
 #include <algorithm>
+#include <atomic>
 #include <cstdint>
 #include <limits>
 #include <utility>
@@ -26,6 +27,30 @@ constexpr size_t DrawableVertices = size_t(std::numeric_limits<quint16>::max()) 
 
 /// In whole triangles and in whole lines.
 constexpr size_t IndexesInAPart = BytesInATurn / sizeof(quint16) / 6 * 6;
+
+/// Of the texels that are seen at all.
+constexpr double TranslucentShare = 0.05;
+constexpr int LooksAcross = 128;
+
+/// Whether much of a picture is half transparent. Looks at some of its texels, which takes less than the rest
+/// of its way to the card by far.
+bool isTranslucentPicture(const QImage &image)
+{
+    if (!image.hasAlphaChannel())
+        return false;
+    const int stepX = std::max(1, image.width() / LooksAcross);
+    const int stepY = std::max(1, image.height() / LooksAcross);
+    int seen = 0;
+    int half = 0;
+    for (int y = 0; y < image.height(); y += stepY) {
+        for (int x = 0; x < image.width(); x += stepX) {
+            const int alpha = qAlpha(image.pixel(x, y));
+            seen += alpha > 2 ? 1 : 0; // as the programs draw them
+            half += alpha > 2 && alpha < 253 ? 1 : 0;
+        }
+    }
+    return half > TranslucentShare * seen;
+}
 
 const void *bufferOffset(size_t offset)
 {
@@ -67,11 +92,18 @@ GLMesh::GLMesh(MeshSource source)
         m_textures.push_back({image, nullptr});
     uploadVertices();
     setIndexes(std::move(source.indexes));
+    changed();
 }
 
 GLMesh::~GLMesh()
 {
     Background::discard(std::make_pair(std::move(m_vertices.vertices), std::move(m_indexes)));
+}
+
+void GLMesh::changed()
+{
+    static std::atomic_int newest{0}; // pictures are painted in threads
+    m_revision = ++newest;
 }
 
 bool GLMesh::uploadNext()
@@ -130,22 +162,53 @@ void GLMesh::uploadSurface(size_t surface)
     uploadTexture(surface);
 }
 
-std::shared_ptr<QOpenGLTexture> GLMesh::copyOf(const QImage &image)
+std::shared_ptr<GLMesh::PictureCopy> GLMesh::copyOf(const QImage &image)
 {
-    std::weak_ptr<QOpenGLTexture> &known = m_copies[image.cacheKey()];
-    if (std::shared_ptr<QOpenGLTexture> copy = known.lock())
+    std::weak_ptr<PictureCopy> &known = m_copies[image.cacheKey()];
+    if (std::shared_ptr<PictureCopy> copy = known.lock())
         return copy;
     GLint limit = 0;
     m_gl.glGetIntegerv(GL_MAX_TEXTURE_SIZE, &limit);
     const bool fits = image.width() <= limit && image.height() <= limit;
     // Not mirrored: the texture coordinates count from the image's top row.
-    const auto copy = std::make_shared<QOpenGLTexture>(
-        fits ? image : image.scaled(limit, limit, Qt::KeepAspectRatio, Qt::SmoothTransformation),
-        QOpenGLTexture::DontGenerateMipMaps);
-    copy->setMinMagFilters(QOpenGLTexture::Linear, QOpenGLTexture::Linear);
-    copy->setWrapMode(QOpenGLTexture::Repeat);
+    const std::shared_ptr<PictureCopy> copy(new PictureCopy{
+        QOpenGLTexture(fits ? image
+                            : image.scaled(limit, limit, Qt::KeepAspectRatio, Qt::SmoothTransformation),
+                       QOpenGLTexture::DontGenerateMipMaps),
+        isTranslucentPicture(image)});
+    applyFilter(copy->texture);
+    copy->texture.setWrapMode(QOpenGLTexture::Repeat);
     known = copy;
     return copy;
+}
+
+void GLMesh::applyFilter(QOpenGLTexture &texture) const
+{
+    const QOpenGLTexture::Filter filter = m_sharpTexels ? QOpenGLTexture::Nearest : QOpenGLTexture::Linear;
+    texture.setMinMagFilters(filter, filter);
+}
+
+void GLMesh::setSharpTexels(bool on)
+{
+    if (std::exchange(m_sharpTexels, on) == on)
+        return;
+    for (const Texture &texture : m_textures) {
+        if (texture.copy)
+            applyFilter(texture.copy->texture);
+    }
+}
+
+bool GLMesh::isTranslucent(int surface)
+{
+    if (size_t(surface) >= m_textures.size())
+        return false;
+    if (!m_textures[size_t(surface)].copy) {
+        m_vertexArray.bind();
+        uploadSurface(size_t(surface));
+        m_vertexArray.release();
+    }
+    const auto &copy = m_textures[size_t(surface)].copy;
+    return copy && copy->isTranslucent;
 }
 
 template <typename Model>
@@ -156,6 +219,7 @@ void GLMesh::refreshFrom(const Model &mesh, bool indexesToo)
     uploadVertices();
     if (indexesToo || m_vertices.vertices.size() != vertexCount)
         setIndexes(drawableIndexes(mesh));
+    changed();
 }
 
 void GLMesh::refresh(const SkinnedMesh &mesh, bool indexesToo)
@@ -197,26 +261,28 @@ void GLMesh::setIndexes(std::vector<std::vector<quint16>> indexes)
 void GLMesh::draw(const TexturedProgram &program, GLenum mode)
 {
     m_vertexArray.bind();
-    for (size_t i = 0; i < m_surfaces.size() && i < m_textures.size(); ++i)
+    for (size_t i = 0; i < m_surfaces.size(); ++i)
         drawSurface(i, program, mode);
     m_vertexArray.release();
 }
 
-void GLMesh::drawSelected(const TexturedProgram &program)
+void GLMesh::draw(int surface, const TexturedProgram &program)
 {
     m_vertexArray.bind();
-    drawSurface(size_t(selectedSurface), program, GL_TRIANGLES);
+    drawSurface(size_t(surface), program, GL_TRIANGLES);
     m_vertexArray.release();
 }
 
 void GLMesh::drawSurface(size_t surface, const TexturedProgram &program, GLenum mode)
 {
+    if (surface >= m_textures.size())
+        return;
     uploadSurface(surface);
     if (!m_textures[surface].copy)
         return;
     const bool tinted = tintsSelected && int(surface) == selectedSurface;
     m_gl.glUniform4f(program.colorHighlight, 0.0f, 0.0f, tinted ? SelectionBlue : 0.0f, 1.0f);
-    m_gl.glBindTexture(GL_TEXTURE_2D, m_textures[surface].copy->textureId());
+    m_gl.glBindTexture(GL_TEXTURE_2D, m_textures[surface].copy->texture.textureId());
     drawIndexes(int(surface), mode);
 }
 

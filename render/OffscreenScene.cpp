@@ -53,6 +53,7 @@ std::vector<QVector3D> OffscreenScene::corners(const SceneFrame &frame) const
 QImage OffscreenScene::paint(const SceneFrame &frame, const QSize &size, const QColor &background)
 {
     SceneFrame whole = frame;
-    whole.viewport = size;
+    if (whole.viewport.isEmpty())
+        whole.viewport = size;
     return paintPicture(*m_painter, whole, size, background);
 }

@@ -38,7 +38,8 @@ public:
     int longestSide() const { return m_longestSide; }
 
     /// A picture with soft edges over `background`, which may be transparent; null when the graphics driver
-    /// has no memory for it. The frame's projection is that of a picture of this size.
+    /// has no memory for it. The frame's projection is that of a picture of this size; a
+    /// frame without a view port of its own has the picture's.
     QImage paint(const SceneFrame &frame, const QSize &size, const QColor &background);
 
 private:

@@ -3,37 +3,55 @@
 #include "ModelPicture.h"
 
 #include "BoundingSphere.h"
-#include "FrameChoice.h"
 #include "Framing.h"
 #include "Log.h"
 #include "OffscreenScene.h"
-#include "Playback.h"
-#include "Pose.h"
+#include "PictureOutput.h"
+#include "PlannedScene.h"
 #include "ReplacedFiles.h"
 #include "Validation.h"
-#include "WholeFile.h"
 
-#include <QBuffer>
-#include <QFileInfo>
-#include <QImageWriter>
+#include <algorithm>
 
-namespace {
-void pose(GLMesh &model, SceneFrame &frame, const PosedModel &subject, const PictureWishes &wishes)
+MeshSource sourceOf(const PosedModel &model, const MaterialFolders &folders)
 {
-    frame.skinned = subject.skinned() != nullptr;
-    if (!frame.skinned || !subject.animFile())
-        return;
-    Playback state;
-    state.mesh = subject.skinned();
-    state.anim = subject.animFile();
-    state.blockIndex = wishes.block;
-    state.playState = PlayState::Paused;
-    if (const AnimBlock *block = playableBlock(state)) {
-        state.time = float(wishes.frame) / playRate(block->speed);
-        PoseEvaluator().evaluateAnimatedPose(model.palette, *state.mesh, *block, state, frame.yaw);
-    }
+    return model.rigid() ? MeshSource::from(*model.rigid(), folders.gamePath, folders.outputDir)
+                         : MeshSource::from(*model.skinned(), folders.gamePath, folders.outputDir);
 }
-} // namespace
+
+Playback stateOf(const PosedModel &model, const PictureWishes &wishes)
+{
+    Playback state;
+    state.mesh = model.skinned();
+    state.anim = model.animFile();
+    state.blockIndex = wishes.block;
+    return state;
+}
+
+std::vector<QVector3D> visibleCorners(const OffscreenScene &scene, const SceneFrame &frame, int &strays)
+{
+    std::vector<QVector3D> corners = scene.corners(frame);
+    strays = std::max(strays, dropStrays(corners));
+    return corners;
+}
+
+void warnOfStrays(const QString &path, int strays)
+{
+    if (strays > 0)
+        Log::warning(QStringLiteral("%1: Left out of the picture: vertices that stand far away from all "
+                                    "others (%2).")
+                         .arg(path, QString::number(strays)));
+}
+
+QString unwritten(const QString &path, const QString &reason)
+{
+    return QStringLiteral("%1: The picture cannot be written: %2").arg(path, reason);
+}
+
+QString tooBig(const QString &path)
+{
+    return QStringLiteral("%1: The graphics driver cannot draw a picture this big.").arg(path);
+}
 
 QString ModelPicture::read(const QString &file, Companions &companions)
 {
@@ -45,37 +63,32 @@ QString ModelPicture::read(const QString &file, Companions &companions)
     return error;
 }
 
-QString ModelPicture::draw(OffscreenScene &scene, const MaterialFolders &folders) const
+QImage ModelPicture::paint(OffscreenScene &scene, const MaterialFolders &folders, QString &error) const
 {
-    scene.setModel(m_subject.rigid()
-                       ? MeshSource::from(*m_subject.rigid(), folders.gamePath, folders.outputDir)
-                       : MeshSource::from(*m_subject.skinned(), folders.gamePath, folders.outputDir));
+    scene.setModel(sourceOf(m_subject, folders));
     SceneFrame frame;
     frame.look = m_wishes.look;
-    pose(scene.model(), frame, m_subject, m_wishes);
-    std::vector<QVector3D> corners = scene.corners(frame);
-    if (const int strays = dropStrays(corners))
-        Log::warning(QStringLiteral("%1: Left out of the picture: vertices that stand far away from all "
-                                    "others (%2).")
-                         .arg(m_subject.meshPath, QString::number(strays)));
+    frame.skinned = m_subject.skinned() != nullptr;
+    PoseEvaluator poses;
+    poseFrame(scene.model(), frame, stateOf(m_subject, m_wishes), m_wishes.frame, poses);
+    int strays = 0;
+    const std::vector<QVector3D> corners = visibleCorners(scene, frame, strays);
+    warnOfStrays(m_subject.meshPath, strays);
     const Framing framing = frameAll(corners, m_wishes.yaw, m_wishes.pitch, m_wishes.size);
     frame.view = framing.view;
     frame.projection = framing.projection;
-    const QImage image = scene.paint(frame, m_wishes.size, m_wishes.background);
+    QImage image = scene.paint(frame, m_wishes.size, m_wishes.background);
     if (image.isNull())
-        return QStringLiteral("%1: The graphics driver cannot draw a picture this big.").arg(m_path);
-    const QString error = write(image);
-    return error.isEmpty() ? QString()
-                           : QStringLiteral("%1: The picture cannot be written: %2").arg(m_path, error);
+        error = tooBig(m_path.isEmpty() ? m_subject.meshPath : m_path);
+    return image;
 }
 
-QString ModelPicture::write(const QImage &image) const
+QString ModelPicture::draw(OffscreenScene &scene, const MaterialFolders &folders) const
 {
-    // Thumbnailers are given names without an extension.
-    QByteArray format = QFileInfo(m_path).suffix().toLower().toLatin1();
-    if (!QImageWriter::supportedImageFormats().contains(format))
-        format = "png";
-    QBuffer bytes;
-    QImageWriter writer(&bytes, format);
-    return writer.write(image) ? writeWholeFile(m_path, bytes.data()) : writer.errorString();
+    QString error;
+    const QImage image = paint(scene, folders, error);
+    if (image.isNull())
+        return error;
+    error = writePicture(image, m_path);
+    return error.isEmpty() ? QString() : unwritten(m_path, error);
 }

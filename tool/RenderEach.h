@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
+#include "PictureThreads.h"
 
+#include <QStringList>
+
+#include <functional>
 #include <variant>
 #include <vector>
 
-class OffscreenScene;
-class QSize;
+class QImage;
 struct MaterialFolders;
 struct PictureWishes;
 
@@ -26,17 +28,13 @@ struct PictureJob
 /// and of another file only with `replaces`.
 std::vector<PictureJob> picturesOf(const QStringList &paths, const QString &target, bool replaces);
 
-/// What a driver can draw.
-struct DrawingLimits
-{
-    QString failure; ///< why nothing; empty when nothing is wrong
-    int longestSide = 0;
+/// The same, whose pictures go into no files of their own.
+std::vector<PictureJob> thumbnailsOf(const QStringList &paths);
 
-    explicit DrawingLimits(const OffscreenScene &scene);
-    bool allow(const QSize &size) const;
-};
+/// Takes the picture of a job without a file; null where it could not be drawn.
+using TakePicture = std::function<void(size_t job, const QImage &picture)>;
 
 /// Draws them, on all cores, and tells of each in their order. `chosen` are the folders of materials. Gives
 /// the exit code; or nothing but limits, which do not allow these pictures.
 std::variant<int, DrawingLimits> renderEach(const std::vector<PictureJob> &jobs, const PictureWishes &wishes,
-                                            const MaterialFolders &chosen);
+                                            const MaterialFolders &chosen, const TakePicture &take = {});

@@ -2,15 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QStringList>
+#include "ExitCode.h"
 
-/// How a run ends.
-enum ExitCode : int {
-    Fine = 0,
-    Failed = 1,     ///< something could not be read or done, or the check found an error
-    WrongUsage = 2, ///< nothing was done
-    NoScreen = 3,   ///< nothing could be drawn
-};
+#include <QStringList>
 
 /// One of the things that the tool can be asked for.
 struct Verb

@@ -27,8 +27,9 @@ floors='core resources translations
 model net app/desktop import/box
 undo motion import render/scene app/widgets json
 find render/gl
-app/documents app/choice app/materials gltf import/scene render/input
+app/documents app/choice app/materials gltf import/scene render/input tool/line
 render import/ready
+pictures
 app/tree app/view app/timeline app/explorer app/recovery app/console
 app/tree/pages app/find app/table app/motion app/problems app/compare app/database app/import
 app/window

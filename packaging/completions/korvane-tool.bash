@@ -89,8 +89,8 @@ _korvane_tool() {
         options='--output --gltf --anim --block --pose --frame --force --game-path --mod-path --help'
         ;;
     render)
-        options='--output --each --force --anim --block --frame --size --background --shading --yaw --pitch
-            --game-path --mod-path --help'
+        options='--output --each --sheet --columns --force --anim --block --frame --frames --step --turntable --size
+            --background --shading --yaw --pitch --game-path --mod-path --help'
         ;;
     esac
     if [[ $cur == -* ]]; then

@@ -16,6 +16,29 @@ namespace {
 constexpr float LensAngle = 30.0f; // vertical, degrees
 constexpr float FrameRoom = 1.06f;
 constexpr float LeastDistance = 1.0e-3f; // of the eye from the nearest point, relative to its place
+
+/// Turns what stands around the origin so that the camera looks along -z.
+QMatrix4x4 turnToCamera(float yaw, float pitch)
+{
+    const QQuaternion around = QQuaternion::fromAxisAndAngle({0.0f, 1.0f, 0.0f}, yaw);
+    const float height = qDegreesToRadians(std::clamp(pitch, -90.0f, 90.0f));
+    QMatrix4x4 turn;
+    turn.lookAt(around.rotatedVector({0.0f, std::sin(height), -std::cos(height)}), {},
+                around.rotatedVector({0.0f, std::cos(height), std::sin(height)}));
+    turn.setColumn(3, {0.0f, 0.0f, 0.0f, 1.0f});
+    return turn;
+}
+
+float aspectOf(const QSize &size)
+{
+    return float(std::max(1, size.width())) / float(std::max(1, size.height()));
+}
+
+/// Of half the vertical angle that is filled.
+float lensTangent()
+{
+    return std::tan(qDegreesToRadians(0.5f * LensAngle)) / FrameRoom;
+}
 } // namespace
 
 bool isWithin(float limit, const QVector3D &point)
@@ -74,15 +97,9 @@ float VisionExtent::middle(int axis, float low, float high, float eyeZ) const
 
 Framing frameAll(const std::vector<QVector3D> &points, float yaw, float pitch, const QSize &size)
 {
-    const QQuaternion around = QQuaternion::fromAxisAndAngle({0.0f, 1.0f, 0.0f}, yaw);
-    const float height = qDegreesToRadians(std::clamp(pitch, -90.0f, 90.0f));
-    QMatrix4x4 turn;
-    turn.lookAt(around.rotatedVector({0.0f, std::sin(height), -std::cos(height)}), {},
-                around.rotatedVector({0.0f, std::cos(height), std::sin(height)}));
-    turn.setColumn(3, {0.0f, 0.0f, 0.0f, 1.0f});
-
-    const float aspect = float(std::max(1, size.width())) / float(std::max(1, size.height()));
-    const float tangentY = std::tan(qDegreesToRadians(0.5f * LensAngle)) / FrameRoom;
+    const QMatrix4x4 turn = turnToCamera(yaw, pitch);
+    const float aspect = aspectOf(size);
+    const float tangentY = lensTangent();
     const VisionExtent extent(points, turn, tangentY * aspect, tangentY);
     const QVector3D eye = extent.eye(LeastDistance * std::max(1.0f, std::fabs(extent.nearest())));
 
@@ -94,4 +111,56 @@ Framing frameAll(const std::vector<QVector3D> &points, float yaw, float pitch, c
     framing.view.translate(-eye);
     framing.view *= turn;
     return framing;
+}
+
+OutermostPoints::OutermostPoints(float yaw, float pitch, const QSize &size)
+{
+    const QMatrix4x4 turn = turnToCamera(yaw, pitch);
+    const QVector3D right = turn.row(0).toVector3D(), up = turn.row(1).toVector3D(),
+                    back = turn.row(2).toVector3D();
+    const float tangentY = lensTangent();
+    const float tangentX = tangentY * aspectOf(size);
+    m_outward = {right + tangentX * back,
+                 -right + tangentX * back,
+                 up + tangentY * back,
+                 -up + tangentY * back,
+                 back,
+                 -back};
+    m_farthest.fill(-std::numeric_limits<float>::max());
+}
+
+void OutermostPoints::add(const std::vector<QVector3D> &points)
+{
+    for (const QVector3D &point : points) {
+        for (size_t side = 0; side < SideCount; ++side)
+            keep(side, QVector3D::dotProduct(m_outward[side], point), point);
+    }
+}
+
+void OutermostPoints::addCircles(const std::vector<QVector3D> &points, const QVector3D &pivot)
+{
+    for (size_t side = 0; side < SideCount; ++side) {
+        // Where a circle reaches farthest out it lies in this direction from its middle.
+        const QVector3D level(m_outward[side].x(), 0.0f, m_outward[side].z());
+        const QVector3D direction = level.normalized();
+        for (const QVector3D &point : points) {
+            const float radius = std::hypot(point.x() - pivot.x(), point.z() - pivot.z());
+            const QVector3D place = QVector3D(pivot.x(), point.y(), pivot.z()) + radius * direction;
+            keep(side, QVector3D::dotProduct(m_outward[side], place), place);
+        }
+    }
+}
+
+void OutermostPoints::keep(size_t side, float distance, const QVector3D &point)
+{
+    if (!(distance > m_farthest[side]) || !isFinite(point))
+        return;
+    m_farthest[side] = distance;
+    m_points[side] = point;
+    m_isEmpty = false;
+}
+
+std::vector<QVector3D> OutermostPoints::points() const
+{
+    return m_isEmpty ? std::vector<QVector3D>() : std::vector<QVector3D>(m_points.begin(), m_points.end());
 }

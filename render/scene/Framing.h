@@ -55,3 +55,28 @@ struct Framing
 /// side; `pitch`, -90 to 90 degrees, looks down from above. Points that are not finite do not count; without
 /// points the origin is in view.
 Framing frameAll(const std::vector<QVector3D> &points, float yaw, float pitch, const QSize &size);
+
+/// Of many points the few that decide how far away the camera of frameAll() stands, so that those of many
+/// poses need not be kept: it has all of them in its picture when it has these.
+class OutermostPoints
+{
+public:
+    /// As for frameAll().
+    OutermostPoints(float yaw, float pitch, const QSize &size);
+
+    void add(const std::vector<QVector3D> &points);
+    /// The circles on which these points go around the upright axis through `pivot`.
+    void addCircles(const std::vector<QVector3D> &points, const QVector3D &pivot);
+    std::vector<QVector3D> points() const;
+
+private:
+    /// Of the pyramid of vision: right, left, above, below, near, far.
+    static constexpr size_t SideCount = 6;
+
+    void keep(size_t side, float distance, const QVector3D &point);
+
+    std::array<QVector3D, SideCount> m_outward; ///< directions, square to the sides
+    std::array<QVector3D, SideCount> m_points;
+    std::array<float, SideCount> m_farthest;
+    bool m_isEmpty = true;
+};

@@ -65,7 +65,8 @@ private slots:
     void cleanup()
     {
         // The last folder goes in another thread.
-        QTRY_COMPARE(QDir(m_temporary.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+        QTRY_COMPARE(QDir(m_temporary.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+                     QStringList());
     }
 
     void everyRealFile_data()

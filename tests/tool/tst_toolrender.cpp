@@ -1,40 +1,9 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "FullDisk.h"
-#include "ToolRun.h"
+#include "PictureTests.h"
 
-#include <QImage>
-
-namespace {
-const QString Crate = "game/models/crate/crate.staticmesh";
-const QString Tinker = "game/models/tinker/tinker.skinnedmesh";
-const QString TinkerAnim = "game/anims/tinker/tinker.anim";
-
-/// The smallest rectangle around what is not transparent.
-QRect covered(const QImage &image)
-{
-    QRect rectangle;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (qAlpha(image.pixel(x, y)) > 40)
-                rectangle |= QRect(x, y, 1, 1);
-        }
-    }
-    return rectangle;
-}
-
-int distinctColours(const QImage &image)
-{
-    QSet<QRgb> colours;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (qAlpha(image.pixel(x, y)) == 255)
-                colours.insert(image.pixel(x, y));
-        }
-    }
-    return colours.size();
-}
-} // namespace
+using namespace PictureTests;
 
 /// Pictures that korvane-tool draws.
 class tst_ToolRender : public QObject
@@ -270,16 +239,6 @@ private:
         if (run.exitCode != 0)
             qWarning("%d: %s", run.exitCode, qUtf8Printable(run.err));
         return QImage(picture);
-    }
-    /// The words, of which those with a point name samples.
-    static QStringList withSamples(const QString &words)
-    {
-        QStringList found = words.split(' ');
-        for (QString &word : found) {
-            if (word.contains('.'))
-                word = TestSupport::source("samples/" + word);
-        }
-        return found;
     }
 
     TestFolder m_folder;

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
 
+#include "ExitCode.h"
 #include "Output.h"
 #include "Settings.h"
-#include "Verbs.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -208,7 +208,7 @@ public:
         painter.setModel(source);
         painter.setUpState(Qt::darkCyan);
         const Camera camera;
-        frame.projection = Camera::projectionMatrix(FrameSize.width(), FrameSize.height());
+        frame.projection = Camera().projectionMatrix(FrameSize.width(), FrameSize.height());
         frame.view = camera.viewMatrix();
         frame.viewport = FrameSize;
         frame.skinned = true;

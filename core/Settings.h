@@ -169,7 +169,12 @@ inline const SettingKey<int> ShowDamage{"ShowDamage", 0};    ///< nothing, damag
 inline const SettingKey<bool> ShowBoxes{"ShowBoxes", false}; ///< of the bones and of the model
 inline const SettingKey<bool> ShowEvents{"ShowEvents", false};
 inline const SettingKey<bool> ShowStatistics{"ShowStatistics", false};
+inline const SettingKey<bool> OnionSkin{"OnionSkin", false};
+inline const SettingKey<int> OnionSkinFrames{"OnionSkinFrames", 2}; ///< before and after
+inline const SettingKey<int> OnionSkinStep{"OnionSkinStep", 1};     ///< frames from one to the next
 inline const SettingKey<bool> OrbitMode{"OrbitMode", false};
+inline const SettingKey<int> Lens{"Lens", 90}; ///< vertical field of view, degrees
+inline const SettingKey<bool> OrthographicSides{"OrthographicSides", false};
 inline const SettingKey<bool> FrameOnOpen{"FrameOnOpen", true};
 inline const SettingKey<float> MouseSpeed{"MouseSpeed", 0.15f};
 inline const SettingKey<float> Brightness{"Brightness", 1.0f};

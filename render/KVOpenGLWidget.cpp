@@ -19,6 +19,7 @@
 KVOpenGLWidget::KVOpenGLWidget(QWidget *parent)
     : RenewableGLWidget(parent)
     , m_sight(m_scene, m_camera)
+    , m_cameraCommands(m_camera, m_sight, [this] { cameraMoved(); })
     , m_tools(
           m_camera, m_sight, [this](PickTool::Kind kind, int index) { tellPicked(kind, index); },
           [this](const QPoint &pixel, const QString &text) {
@@ -71,7 +72,6 @@ void KVOpenGLWidget::releaseGL()
 
 void KVOpenGLWidget::resizeGL(int width, int height)
 {
-    m_scene.frame.projection = Camera::projectionMatrix(width, height);
     m_scene.frame.viewport = QSize(width, height);
 }
 
@@ -86,7 +86,7 @@ void KVOpenGLWidget::paintGL()
     poseModel();
     if (m_frameWanted)
         frameAll();
-    m_scene.paint(m_camera.viewMatrix());
+    m_scene.paint(m_camera);
     if (m_statistics)
         m_statistics->countFrame(m_scene.takeCardTime());
 }
@@ -108,7 +108,7 @@ void KVOpenGLWidget::tellFrame(int frame)
 QImage KVOpenGLWidget::picture(const QSize &size, const QColor &background)
 {
     QImage image;
-    changeCopy([&] { image = m_scene.picture(size, background, m_camera.viewMatrix(), height()); });
+    changeCopy([&] { image = m_scene.picture(size, background, m_camera, height()); });
     update();
     return image;
 }
@@ -289,12 +289,6 @@ void KVOpenGLWidget::frameSelection(const ModelSelection &selection)
 {
     poseModel();
     frame(m_sight.selectedPlaces(selection), 0);
-}
-
-void KVOpenGLWidget::lookFrom(Camera::Side side)
-{
-    m_camera.lookFrom(side, m_sight.pivot());
-    cameraMoved();
 }
 
 void KVOpenGLWidget::setActive(bool current)

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Camera.h"
+#include "CameraCommands.h"
 #include "InputRecorder.h"
 #include "ModelPlaces.h"
 #include "PositionReadOut.h"
@@ -140,8 +140,8 @@ public:
     /// The same, if the camera stands as frameAll() left it for this model.
     void frameAgain();
     void frameSelection(const ModelSelection &selection);
-    /// Turns around the point that is looked at.
-    void lookFrom(Camera::Side side);
+    /// What else commands do to the camera.
+    CameraCommands &cameraCommands() { return m_cameraCommands; }
 
     /// What the view shows as a picture of another size; null when it cannot be painted.
     QImage picture(const QSize &size, const QColor &background);
@@ -212,6 +212,7 @@ private:
     ShownScene m_scene;
     Camera m_camera;
     SceneSight m_sight;
+    CameraCommands m_cameraCommands;
 
     ViewTools m_tools;
     InputRecorder m_recorder;

@@ -5,6 +5,7 @@
 #include "PosedVertices.h"
 
 #include <algorithm>
+#include <limits>
 
 SurfacePicker::SurfacePicker(const std::vector<GLVertex> &vertices, const BonePalette &palette,
                              const Ray &ray, bool frontOnly)
@@ -19,7 +20,7 @@ void SurfacePicker::tryTriangles(int surface, const std::vector<quint16> &indexe
     const auto place = [&](size_t i) { return posedPlace(m_vertices[indexes[i]], m_palette); };
     for (size_t i = 0; i + 2 < indexes.size(); i += 3) {
         const float distance = distanceTo(place(i), place(i + 1), place(i + 2));
-        if (distance >= 0.0f && (m_surface == None || distance < m_distance)) {
+        if (distance >= m_ray.begin && (m_surface == None || distance < m_distance)) {
             m_surface = surface;
             m_distance = distance;
             m_corners = {indexes[i], indexes[i + 1], indexes[i + 2]};
@@ -39,7 +40,7 @@ quint16 SurfacePicker::vertex() const
 // Moeller and Trumbore's test. Whatever is no number fails one of the comparisons.
 float SurfacePicker::distanceTo(const QVector3D &a, const QVector3D &b, const QVector3D &c) const
 {
-    constexpr float Missed = -1.0f;
+    constexpr float Missed = std::numeric_limits<float>::quiet_NaN();
     const QVector3D ab = b - a, ac = c - a;
     const QVector3D across = QVector3D::crossProduct(m_ray.direction, ac);
     const float area = QVector3D::dotProduct(ab, across); // positive when counter-clockwise
@@ -53,6 +54,5 @@ float SurfacePicker::distanceTo(const QVector3D &a, const QVector3D &b, const QV
     const float v = QVector3D::dotProduct(m_ray.direction, up) / area;
     if (!(v >= 0.0f && u + v <= 1.0f))
         return Missed;
-    const float distance = QVector3D::dotProduct(ac, up) / area;
-    return distance >= 0.0f ? distance : Missed;
+    return QVector3D::dotProduct(ac, up) / area;
 }

@@ -31,7 +31,8 @@ public:
     quint16 vertex() const;
 
 private:
-    /// How far along the ray, in lengths of its direction; negative when it does not meet the triangle.
+    /// How far along the ray, in lengths of its direction; no number when its line does not meet the
+    /// triangle.
     float distanceTo(const QVector3D &a, const QVector3D &b, const QVector3D &c) const;
 
     const std::vector<GLVertex> &m_vertices;

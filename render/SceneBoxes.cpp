@@ -102,8 +102,8 @@ void SceneBoxes::add(const Box &box, const QMatrix4x4 &toModel, const ScreenMap 
     bool isSeen[3][2];
     for (int axis = 0; axis < 3; ++axis) {
         const QVector3D outwards = corners[size_t(1) << axis] - corners[0];
-        isSeen[axis][0] = QVector3D::dotProduct(outwards, corners[0]) > 0.0f;
-        isSeen[axis][1] = QVector3D::dotProduct(outwards, corners[7]) < 0.0f;
+        isSeen[axis][0] = QVector3D::dotProduct(outwards, map.sightTo(corners[0])) > 0.0f;
+        isSeen[axis][1] = QVector3D::dotProduct(outwards, map.sightTo(corners[7])) < 0.0f;
     }
     for (int axis = 0; axis < 3; ++axis) {
         const int one = (axis + 1) % 3, other = (axis + 2) % 3;

@@ -13,7 +13,7 @@
 #include <utility>
 
 namespace {
-// Sizes of markers at a distance of 1: they look equally big from everywhere.
+// Sizes of markers, as parts of half the picture's height: they look equally big from everywhere.
 constexpr float SphereRadius = 0.028f;
 constexpr float QuadRadius = 0.014f;
 constexpr float NearestMarker = 5.12f; // the near plane: behind it nothing is seen
@@ -29,9 +29,12 @@ QMatrix4x4 rotationOf(const QMatrix4x4 &matrix)
     return rotation;
 }
 
-float distanceOf(const QMatrix4x4 &view, const QVector3D &place)
+/// Half the height of what the picture shows where a place is.
+float halfHeightAt(const SceneFrame &frame, const QVector3D &place)
 {
-    return std::max(-view.map(place).z(), NearestMarker);
+    const float distance =
+        isOrthographic(frame.projection) ? 1.0f : std::max(-frame.view.map(place).z(), NearestMarker);
+    return distance / frame.projection(1, 1);
 }
 } // namespace
 
@@ -214,7 +217,7 @@ void ScenePainter::paintBoneMarker(const SceneFrame &frame)
     const QVector3D joint = palette[size_t(frame.selectedBone)].column(3).toVector3D();
     QMatrix4x4 marker = m_modelMatrix;
     marker.translate(joint);
-    marker.scale(SphereRadius * distanceOf(frame.view, m_modelMatrix.map(joint)) / radius);
+    marker.scale(SphereRadius * halfHeightAt(frame, m_modelMatrix.map(joint)) / radius);
     m_gl.glClear(GL_DEPTH_BUFFER_BIT);
     drawTextured(m_programs.plain, m_wireSphere, frame.projection * frame.view * marker, GL_LINES);
 }
@@ -242,7 +245,7 @@ void ScenePainter::paintHighlightPoint(const SceneFrame &frame)
     QMatrix4x4 marker;
     marker.translate(place);
     marker *= rotationOf(frame.view).transposed();
-    marker.scale(QuadRadius * distanceOf(frame.view, place));
+    marker.scale(QuadRadius * halfHeightAt(frame, place));
     if (point.standing)
         marker.rotate(45.0f, 0.0f, 0.0f, 1.0f);
     m_gl.glClear(GL_DEPTH_BUFFER_BIT);

@@ -122,7 +122,8 @@ int SceneSight::surfaceAt(const QPoint &pixel, QVector3D *place, int *bone) cons
 ScreenMap SceneSight::screenMap() const
 {
     const SceneFrame &frame = m_scene.frame;
-    return {frame.projection, m_camera.viewMatrix() * ScenePainter::modelMatrix(frame), frame.viewport};
+    return {m_camera.projectionMatrix(frame.viewport.width(), frame.viewport.height()),
+            m_camera.viewMatrix() * ScenePainter::modelMatrix(frame), frame.viewport};
 }
 
 QVector3D SceneSight::pivot() const

@@ -184,9 +184,10 @@ std::optional<Box> ShownScene::modelBox() const
     return {};
 }
 
-void ShownScene::paint(const QMatrix4x4 &view)
+void ShownScene::paint(const Camera &camera)
 {
-    frame.view = view;
+    frame.view = camera.viewMatrix();
+    frame.projection = camera.projectionMatrix(frame.viewport.width(), frame.viewport.height());
     frame.marks.mesh = skinnedMesh();
     frame.marks.box = modelBox();
     keepWhile(m_isMeasured, m_clock);
@@ -201,12 +202,12 @@ void ShownScene::paint(const QMatrix4x4 &view)
         m_clock->end();
 }
 
-QImage ShownScene::picture(const QSize &size, const QColor &color, const QMatrix4x4 &view, int viewHeight)
+QImage ShownScene::picture(const QSize &size, const QColor &color, const Camera &camera, int viewHeight)
 {
     refresh();
     SceneFrame still = frame;
-    still.view = view;
-    still.projection = Camera::projectionMatrix(size.width(), size.height());
+    still.view = camera.viewMatrix();
+    still.projection = camera.projectionMatrix(size.width(), size.height());
     // Marks are as large beside the model as they are in the view.
     still.viewport = QSize(size.width() * viewHeight / std::max(1, size.height()), viewHeight);
     const QImage image = paintPicture(*m_painter, still, size, color);

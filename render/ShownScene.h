@@ -13,6 +13,7 @@
 #include <memory>
 #include <optional>
 
+class Camera;
 struct SkinnedMesh;
 struct StaticMesh;
 
@@ -65,13 +66,13 @@ public:
     bool refresh();
     void applyBackground();
     /// Paints the frame as it is seen from a camera.
-    void paint(const QMatrix4x4 &view);
+    void paint(const Camera &camera);
     /// Whether the card is asked how long it takes for that.
     void setMeasured(bool on) { m_isMeasured = on; }
     /// Milliseconds a frame, as CardClock::takeMean() tells them.
     std::optional<float> takeCardTime() { return m_clock ? m_clock->takeMean() : std::nullopt; }
     /// The same as a picture of another size, beside a view of this height. Null when there is no memory.
-    QImage picture(const QSize &size, const QColor &color, const QMatrix4x4 &view, int viewHeight);
+    QImage picture(const QSize &size, const QColor &color, const Camera &camera, int viewHeight);
 
     /// Null while there is none.
     const GLMesh *model() const { return m_painter ? &m_painter->model() : nullptr; }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "SurfacePainter.h"
 
+#include "Camera.h"
+
 #include <QColor>
 #include <QDebug>
 #include <QOpenGLContext>
@@ -54,7 +56,10 @@ void SurfacePainter::setBackground(const QColor &color)
 QMatrix4x4 SurfacePainter::pulledMatrix(const SceneFrame &frame, const QMatrix4x4 &modelMatrix)
 {
     QMatrix4x4 pull;
-    pull.scale(OverlayPull);
+    if (isOrthographic(frame.projection))
+        pull.translate(0.0f, 0.0f, (1.0f - OverlayPull) / frame.projection(1, 1));
+    else
+        pull.scale(OverlayPull);
     return frame.projection * pull * frame.view * modelMatrix;
 }
 
@@ -105,7 +110,10 @@ void SurfacePainter::paintSurfaces(TexturedProgram &textured, const Scene &scene
     if (!m_shape->isUsable())
         return scene.model.draw(textured);
     const QMatrix4x4 fromEye = (scene.frame.view * scene.modelMatrix).inverted();
-    m_shape->begin(ShapeLook(look), fromEye.column(3).toVector3D(), scene.frame.brightness, scene.mvp);
+    QVector3D eye = fromEye.column(3).toVector3D();
+    if (isOrthographic(scene.frame.projection)) // the light comes from everywhere before the picture
+        eye += Camera::FarPlane * fromEye.column(2).toVector3D();
+    m_shape->begin(ShapeLook(look), eye, scene.frame.brightness, scene.mvp);
     m_shape->setBones(m_boneUpload.data(), scene.frame.skinned ? m_programs.boneCount : 0);
     m_shape->setBoneColors(isColored ? scene.frame.boneColors : std::vector<QRgb>());
     if (hasPasses)

@@ -1191,6 +1191,102 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>Go where the whole model is in view as soon as it is opened</source>
         <translation>Das ganze Modell ins Bild rücken, sobald es geöffnet ist</translation>
     </message>
+    <message>
+        <source>Turn and &amp;Zoom</source>
+        <translation>Drehen und &amp;Zoomen</translation>
+    </message>
+    <message>
+        <source>Turn &amp;Left</source>
+        <translation>Nach &amp;links drehen</translation>
+    </message>
+    <message>
+        <source>Turn the camera 15 degrees to the left around the model</source>
+        <translation>Die Kamera 15 Grad nach links um das Modell drehen</translation>
+    </message>
+    <message>
+        <source>Turn &amp;Right</source>
+        <translation>Nach &amp;rechts drehen</translation>
+    </message>
+    <message>
+        <source>Turn the camera 15 degrees to the right around the model</source>
+        <translation>Die Kamera 15 Grad nach rechts um das Modell drehen</translation>
+    </message>
+    <message>
+        <source>Turn &amp;Up</source>
+        <translation>Nach &amp;oben drehen</translation>
+    </message>
+    <message>
+        <source>Turn the camera 15 degrees up around the model</source>
+        <translation>Die Kamera 15 Grad nach oben um das Modell drehen</translation>
+    </message>
+    <message>
+        <source>Turn &amp;Down</source>
+        <translation>Nach &amp;unten drehen</translation>
+    </message>
+    <message>
+        <source>Turn the camera 15 degrees down around the model</source>
+        <translation>Die Kamera 15 Grad nach unten um das Modell drehen</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>&amp;Vergrößern</translation>
+    </message>
+    <message>
+        <source>Go nearer, as by a notch of the wheel</source>
+        <translation>Näher heran gehen, wie mit einer Raste des Mausrads</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>Go farther away, as by a notch of the wheel</source>
+        <translation>Weiter weg gehen, wie mit einer Raste des Mausrads</translation>
+    </message>
+    <message>
+        <source>L&amp;ens</source>
+        <translation>Ob&amp;jektiv</translation>
+    </message>
+    <message>
+        <source>&amp;90°, Wide</source>
+        <translation>&amp;90°, Weitwinkel</translation>
+    </message>
+    <message>
+        <source>A field of view of 90 degrees from top to bottom; the usual one</source>
+        <translation>Ein Bildwinkel von 90 Grad von oben bis unten, der übliche</translation>
+    </message>
+    <message>
+        <source>&amp;60°, Normal</source>
+        <translation>&amp;60°, Normal</translation>
+    </message>
+    <message>
+        <source>A field of view of 60 degrees: what is near looks less distorted</source>
+        <translation>Ein Bildwinkel von 60 Grad: Nahes ist weniger verzerrt</translation>
+    </message>
+    <message>
+        <source>&amp;45°, Long</source>
+        <translation>&amp;45°, Tele</translation>
+    </message>
+    <message>
+        <source>A field of view of 45 degrees: what is near looks least distorted</source>
+        <translation>Ein Bildwinkel von 45 Grad: Nahes ist am wenigsten verzerrt</translation>
+    </message>
+    <message>
+        <source>Ort&amp;hographic</source>
+        <translation>Ortho&amp;grafisch</translation>
+    </message>
+    <message>
+        <source>Show everything as large, however far away, or in perspective</source>
+        <translation>Alles gleich groß zeigen, wie weit entfernt es auch ist, oder perspektivisch</translation>
+    </message>
+    <message>
+        <source>Ortho&amp;graphic Sides</source>
+        <translation>Or&amp;thografische Seiten</translation>
+    </message>
+    <message>
+        <source>Show the six sides orthographic, until the camera is turned or flown</source>
+        <translation>Die sechs Seiten orthografisch zeigen, bis die Kamera gedreht wird oder fliegt</translation>
+    </message>
 </context>
 <context>
     <name>ChangeSizeDialog</name>

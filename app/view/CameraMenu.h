@@ -33,12 +33,22 @@ private slots:
     void OnLookFrom(Camera::Side side);
     void OnOrbitToggled(bool on);
     void OnFrameOnOpenToggled(bool on);
+    void OnLensChosen(QAction *action);
+    void OnOrthographicTriggered();
+    void OnOrthographicSidesToggled(bool on);
 
 private:
     void addSides(QWidget *window);
+    void addSteps(QWidget *window);
+    void addProjection(QWidget *window);
+    void addMouse(QWidget *window);
+    QAction *addSwitch(const char *name, const QString &text, const QString &tip,
+                       const QList<QKeySequence> &keys, bool on, QWidget *window);
+    void showOrthographic();
 
     Viewports m_viewports;
     std::function<KVOpenGLWidget *()> m_current;
     std::function<ModelSelection()> m_selection;
     QAction *m_frameSelection;
+    QAction *m_orthographic = nullptr;
 };

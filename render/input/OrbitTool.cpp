@@ -11,7 +11,6 @@
 
 namespace {
 constexpr double WheelNotch = 120.0; // eighths of a degree
-constexpr double FactorPerNotch = 0.88;
 } // namespace
 
 OrbitTool::OrbitTool(Camera &camera, const ViewSight &sight)
@@ -62,7 +61,8 @@ bool OrbitTool::wheel(const ViewInput &input)
     const bool sideways = input.wheelTurn.y() == 0 && (input.modifiers & Qt::AltModifier) != 0;
     const int turn = sideways ? input.wheelTurn.x() : input.wheelTurn.y();
     if (turn != 0)
-        m_camera.dolly(m_sight.pivot(), float(std::pow(FactorPerNotch, double(turn) / WheelNotch)));
+        m_camera.dolly(m_sight.pivot(),
+                       float(std::pow(double(Camera::DollyPerNotch), double(turn) / WheelNotch)));
     return true;
 }
 

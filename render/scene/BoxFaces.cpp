@@ -50,10 +50,7 @@ double snapStep(const QVector3D &place, const ScreenMap &map)
     const QVector3D inEye = map.toEye(place);
     if (!map.isVisible(inEye))
         return 1.0;
-    const QPointF pixel = map.pixel(inEye);
-    // Rays are 1 deep.
-    const QVector3D across = map.ray(pixel + QPointF(1.0, 0.0)).direction - map.ray(pixel).direction;
-    const float least = LeastStepPixels * across.length() * -inEye.z();
+    const float least = LeastStepPixels * map.unitsPerPixel(inEye);
     return least > 0.0f && std::isfinite(least) ? std::pow(10.0, std::ceil(std::log10(double(least)))) : 1.0;
 }
 

@@ -23,6 +23,8 @@ public:
     static constexpr float DegreesPerPixel = 0.5f; ///< of a drag
     static constexpr float NearPlane = 5.12f;
     static constexpr float FarPlane = 100000.0f;
+    static constexpr float UsualLens = 90.0f;     ///< vertical field of view, degrees
+    static constexpr float DollyPerNotch = 0.88f; ///< of a wheel: how many times as far away it is then
 
     Camera() { reset(); }
 
@@ -48,8 +50,14 @@ public:
     void forgetFramed() { m_framed.reset(); }
 
     QMatrix4x4 viewMatrix() const;
-    /// Vertical field of view 90 degrees; a width or height of 0 counts as 1.
-    static QMatrix4x4 projectionMatrix(int width, int height);
+    /// Of a picture of this size; a width or height of 0 counts as 1. An orthographic one has all in it that
+    /// is less than the far plane away, before the eye and behind it.
+    QMatrix4x4 projectionMatrix(int width, int height) const;
+
+    float lens() const { return m_lens; } ///< vertical field of view, degrees
+    bool isOrthographic() const { return m_isOrthographic || m_isSideOn; }
+    /// Whether lookFrom() is orthographic, and straight down, until the camera is turned or flown.
+    void setOrthographicSides(bool on) { m_hasOrthographicSides = on; }
 
     /// The next step of a flight. What was framed is left behind.
     void flyTo(const QVector3D &position);
@@ -74,18 +82,32 @@ public:
     /// The same for a mouse that moved by (dx, dy) pixels: what is near follows it.
     void orbitDrag(const QVector3D &pivot, float dx, float dy);
     void lookFrom(Side side, const QVector3D &pivot);
+    /// Another field of view, 1 to 150 degrees: `pivot` keeps its place in the picture and its size.
+    void setLens(float degrees, const QVector3D &pivot);
+    /// Whether all is as large, however far away: as large as it was where `pivot` is.
+    void setOrthographic(bool on, const QVector3D &pivot);
     /// Follows a mouse that moved by (dx, dy) pixels in a picture of this height: `pivot` goes with it.
     void pan(const QVector3D &pivot, float dx, float dy, int height);
     /// Makes the distance from `pivot` this many times as large; it stays between the near plane and the far.
+    /// An orthographic picture comes to show as many times as much.
     void dolly(const QVector3D &pivot, float factor);
 
 private:
     /// Stands where the view has `place` at `seen`, unless no float holds that.
     void bring(const QVector3D &place, const QVector3D &seen);
+    float tangent() const; ///< of half the field of view
+    /// How deep the plane lies that a pixel of the picture has its size from.
+    float depthOf(const QVector3D &seen) const;
+    void leaveSide() { m_isSideOn = false; }
 
     QVector3D m_position;
     std::optional<QVector3D> m_framed;
     float m_yaw = 0.0f;
     float m_pitch = 0.0f;
+    float m_lens = UsualLens;
+    bool m_isOrthographic = false; ///< until it is no longer wanted
+    bool m_isSideOn = false;       ///< the same, until the camera is turned or flown
+    bool m_hasOrthographicSides = false;
+    float m_scaleDepth = 0.0f; ///< where an orthographic picture is as large as one that is not
     Jumps m_jumps;
 };

@@ -12,10 +12,16 @@ struct Ray
 {
     QVector3D origin;
     QVector3D direction;
+    float begin = 0.0f; ///< lengths of `direction` from the origin; below 0: before it
 };
 
-/// Where a perspective view shows places, and what lies under its pixels. Pixels count from the upper left
-/// corner.
+inline bool isOrthographic(const QMatrix4x4 &projection)
+{
+    return projection(3, 2) == 0.0f;
+}
+
+/// Where a view shows places, and what lies under its pixels, in perspective or orthographic. Pixels count
+/// from the upper left corner.
 class ScreenMap
 {
 public:
@@ -34,6 +40,10 @@ public:
 
     /// From the near plane through a pixel, in the space of the places. Its direction is 1 deep in the eye's.
     Ray ray(const QPointF &pixel) const;
+    /// How wide a pixel is at a place in the eye's space that is visible.
+    float unitsPerPixel(const QVector3D &inEye) const;
+    /// The way that a place in the eye's space is looked at, in that space; of any length.
+    QVector3D sightTo(const QVector3D &inEye) const;
 
 private:
     QMatrix4x4 m_toEye;
@@ -41,4 +51,5 @@ private:
     float m_scaleX = 1.0f;
     float m_scaleY = 1.0f;
     float m_near = 0.0f;
+    bool m_isOrthographic = false;
 };

@@ -30,7 +30,7 @@ const QSize Picture(400, 300);
 
 ScreenMap startMap()
 {
-    return {Camera::projectionMatrix(Picture.width(), Picture.height()), Camera().viewMatrix(), Picture};
+    return {Camera().projectionMatrix(Picture.width(), Picture.height()), Camera().viewMatrix(), Picture};
 }
 
 /// A bone at each place, each the child of the one before.

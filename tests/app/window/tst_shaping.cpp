@@ -414,7 +414,7 @@ private:
     void lookFromFront()
     {
         m_view->setFocus();
-        m_view->lookFrom(Camera::Side::Front);
+        m_view->cameraCommands().lookFrom(Camera::Side::Front);
         m_view->frameAll();
         m_view->grabFramebuffer();
     }
@@ -423,7 +423,7 @@ private:
     {
         QMatrix4x4 toEye = m_view->camera().viewMatrix();
         toEye.rotate(QQuaternion::fromDirection({0.0f, 1.0f, 0.0f}, {0.0f, 0.0f, 1.0f}));
-        const ScreenMap map(Camera::projectionMatrix(m_view->width(), m_view->height()), toEye,
+        const ScreenMap map(Camera().projectionMatrix(m_view->width(), m_view->height()), toEye,
                             m_view->size());
         return map.pixel(map.toEye(place)).toPoint();
     }

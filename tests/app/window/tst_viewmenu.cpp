@@ -105,6 +105,60 @@ private slots:
         QCOMPARE(view->camera().pitch(), -89.0f);
         QCOMPARE(yaw(Qt::Key_7, Qt::AltModifier), 180.0f);
         QCOMPARE(view->camera().pitch(), 89.0f);
+
+        // The keypad's own.
+        const auto keypad = [&](int key) { return yaw(key, Qt::KeypadModifier); };
+        QCOMPARE(yaw(Qt::Key_1, Qt::ControlModifier | Qt::KeypadModifier), 0.0f);
+        QCOMPARE(keypad(Qt::Key_1), 180.0f);
+        QCOMPARE(keypad(Qt::Key_6), 195.0f);
+        keypad(Qt::Key_4);
+        QCOMPARE(keypad(Qt::Key_4), 165.0f);
+        keypad(Qt::Key_8);
+        keypad(Qt::Key_8);
+        keypad(Qt::Key_2);
+        QCOMPARE(view->camera().pitch(), -15.0f);
+        QVERIFY(find<QAction>(*window, "actionShaded")->isChecked());
+        keypad(Qt::Key_5);
+        QVERIFY(view->camera().isOrthographic());
+        keypad(Qt::Key_5);
+        QVERIFY(!view->camera().isOrthographic());
+        const QVector3D eye = view->camera().eye();
+        keypad(Qt::Key_Plus);
+        QVERIFY(view->camera().eye() != eye);
+        keypad(Qt::Key_Minus);
+        QVERIFY((view->camera().eye() - eye).length() < 1.0f);
+        QVERIFY(!view->camera().framed());
+        keypad(Qt::Key_Period);
+        QVERIFY(view->camera().framed());
+        const QVector3D stands = view->camera().eye();
+        speed->setFocus();
+        speed->selectAll();
+        for (const auto &[key, digit] :
+             {std::pair(Qt::Key_1, "1"), {Qt::Key_Period, "."}, {Qt::Key_5, "5"}}) {
+            QKeyEvent press(QEvent::KeyPress, key, Qt::KeypadModifier, QLatin1String(digit));
+            QApplication::sendEvent(speed, &press);
+        }
+        QCOMPARE(speed->value(), 1.5f);
+        QCOMPARE(view->camera().eye(), stands);
+    }
+
+    void lensAndSidesAreRemembered()
+    {
+        for (const bool again : {false, true}) {
+            const auto window = open();
+            auto *view = find<KVOpenGLWidget>(*window, "viewSkinned");
+            QCOMPARE(view->camera().lens(), again ? 45.0f : 90.0f);
+            QCOMPARE(view->camera().position(), Camera().position());
+            find<QAction>(*window, "actionLens45")->trigger();
+            if (!again)
+                find<QAction>(*window, "actionOrthographicSides")->trigger();
+            QCOMPARE(find<KVOpenGLWidget>(*window, "viewStatic")->camera().lens(), 45.0f);
+            view->setFocus();
+            QTest::keyClick(view, Qt::Key_3);
+            QVERIFY(view->camera().isOrthographic());
+            QTest::keyClick(view, Qt::Key_6, Qt::KeypadModifier);
+            QVERIFY(!view->camera().isOrthographic());
+        }
     }
 
     // Through the native window, where the menu bar looks at the key of its own.

@@ -35,7 +35,7 @@ public:
     {
         QMatrix4x4 toEye;
         toEye.translate(0.0f, 0.0f, -500.0f);
-        return {Camera::projectionMatrix(400, 300), toEye, {400, 300}};
+        return {Camera().projectionMatrix(400, 300), toEye, {400, 300}};
     }
 
     bool hasBox = true;

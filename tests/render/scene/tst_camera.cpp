@@ -18,6 +18,8 @@ private slots:
     void framesWhatItIsGiven();
     void leavesStraysOut();
     void goesAroundThePivot();
+    void lensesKeepWhatIsFramed();
+    void orthographicSides();
     void staysWhereNumbersReach();
     void fillsThePicture();
     void centresTheModel();
@@ -60,7 +62,7 @@ void tst_Camera::startSeesTheFront()
     QVERIFY(camera.viewMatrix().map(QVector3D(-50.0f, 0.0f, 0.0f)).x() > 0.0f);
     QVERIFY(camera.viewMatrix().map(QVector3D(0.0f, 200.0f, 0.0f)).y() > origin.y());
     for (const QSize &size : {QSize(0, 100), QSize(100, 0), QSize(0, 0)}) {
-        const QMatrix4x4 flat = Camera::projectionMatrix(size.width(), size.height());
+        const QMatrix4x4 flat = Camera().projectionMatrix(size.width(), size.height());
         QVERIFY(std::isfinite(flat(0, 0)) && flat(0, 0) > 0.0f);
     }
 }
@@ -76,7 +78,7 @@ void tst_Camera::framesWhatItIsGiven()
         QCOMPARE(camera.yaw(), 130.0f);
         float widest = 0.0f;
         for (const QVector3D &place : points) {
-            const QVector3D at = seen({camera.viewMatrix(), Camera::projectionMatrix(640, 400)}, place);
+            const QVector3D at = seen({camera.viewMatrix(), Camera().projectionMatrix(640, 400)}, place);
             QVERIFY(std::fabs(at.z()) < 1.0f || std::isnan(place.x()));
             widest = std::max({widest, std::fabs(at.x()), std::fabs(at.y())});
         }
@@ -137,7 +139,7 @@ void tst_Camera::goesAroundThePivot()
     QVERIFY(camera.eye().y() > pivot.y());
 
     camera.reset();
-    const QMatrix4x4 projection = Camera::projectionMatrix(400, 300);
+    const QMatrix4x4 projection = Camera().projectionMatrix(400, 300);
     const QVector3D before = (projection * camera.viewMatrix()).map(pivot);
     camera.pan(pivot, 40.0f, -30.0f, 300);
     const QVector3D after = (projection * camera.viewMatrix()).map(pivot);
@@ -155,6 +157,92 @@ void tst_Camera::goesAroundThePivot()
     const float depth = depthAfter(1.0f / 0.88f, 1000);
     QVERIFY(depth > 0.4f * Camera::FarPlane && depth < 0.9f * Camera::FarPlane);
     QVERIFY(depthAfter(0.5f, 1) < 0.6f * depth);
+}
+
+// What the pivot's plane shows stays as large and in its place, whatever the lens and the projection.
+void tst_Camera::lensesKeepWhatIsFramed()
+{
+    const QVector3D pivot(30.0f, 320.0f, -50.0f);
+    Camera camera;
+    camera.orbit(pivot, 160.0f, -20.0f);
+    const QVector3D across = pivot + 40.0f * camera.rotation().rotatedVector({1.0f, 0.0f, 0.0f});
+    const auto at = [&](const QVector3D &place) {
+        return seen({camera.viewMatrix(), camera.projectionMatrix(400, 300)}, place).toVector2D();
+    };
+    const QVector2D here = at(pivot), there = at(across);
+    const auto stays = [&] {
+        return (at(pivot) - here).length() < 1e-3f && (at(across) - there).length() < 1e-3f;
+    };
+    for (const float lens : {60.0f, 45.0f, NAN, 0.0f, 180.0f, 90.0f, 45.0f}) {
+        camera.setLens(lens, pivot);
+        QVERIFY(stays());
+        camera.setOrthographic(true, pivot);
+        QVERIFY(camera.isOrthographic() && stays());
+        camera.setLens(60.0f, pivot);
+        camera.setOrthographic(true, pivot);
+        QVERIFY(stays());
+        camera.setOrthographic(false, pivot);
+        QVERIFY(!camera.isOrthographic() && stays());
+    }
+    camera.reset();
+    QCOMPARE(camera.position(), Camera().position());
+    QCOMPARE(camera.lens(), 60.0f); // the last one that is one
+}
+
+void tst_Camera::orthographicSides()
+{
+    const std::vector<QVector3D> model = box(3.0f);
+    const QSize size(400, 300);
+    Camera camera;
+    camera.setOrthographicSides(true);
+    camera.frame(model, size);
+    const QVector3D pivot = *camera.framed();
+    const auto at = [&](const QVector3D &place) {
+        return seen({camera.viewMatrix(), camera.projectionMatrix(400, 300)}, place);
+    };
+    using Side = Camera::Side;
+    for (const Side side : {Side::Front, Side::Back, Side::Left, Side::Right, Side::Top, Side::Bottom}) {
+        camera.lookFrom(side, pivot);
+        QVERIFY(camera.isOrthographic());
+        // Along the sight nothing moves in the picture, and nothing is cut off, however far it is.
+        for (const float depth : {-5000.0f, 0.0f, 5000.0f}) {
+            const QVector3D place = at(model[1] + depth * camera.sight());
+            QVERIFY((place.toVector2D() - at(model[1]).toVector2D()).length() < 1e-3f);
+            QVERIFY(std::fabs(place.z()) < 1.0f);
+        }
+        const QVector3D corner = at(model[7]) - at(pivot);
+        camera.dolly(pivot, 0.5f);
+        QVERIFY(near(at(pivot), {0.0f, 0.0f, at(pivot).z()}));
+        QVERIFY(((at(model[7]) - at(pivot)) - 2.0f * corner).toVector2D().length() < 1e-3f);
+        camera.dolly(pivot, 2.0f);
+        camera.pan(pivot, 40.0f, -30.0f, 300);
+        QVERIFY(std::fabs(at(pivot).x() * 200.0f - 40.0f) < 0.01f);
+        QVERIFY(std::fabs(at(pivot).y() * 150.0f - 30.0f) < 0.01f);
+        camera.pan(pivot, -40.0f, 30.0f, 300);
+        QVERIFY(camera.isOrthographic());
+    }
+    // As near as one likes; what turns or flies sees in perspective again, as large.
+    camera.lookFrom(Side::Top, pivot);
+    QVERIFY(std::fabs(camera.sight().y() + 1.0f) < 1e-5f);
+    camera.orbitDrag(pivot, 1.0f, 0.0f);
+    QVERIFY(!camera.isOrthographic());
+    QCOMPARE(camera.pitch(), -Camera::PitchLimit);
+    QVERIFY(near(at(pivot), {0.0f, 0.0f, at(pivot).z()}));
+    for (int turn = 0; turn < 2; ++turn) {
+        camera.lookFrom(Side::Front, pivot);
+        turn == 0 ? camera.turnTo(170.0f, 0.0f) : camera.flyTo(camera.position() + QVector3D(0, 0, 1));
+        QVERIFY(!camera.isOrthographic());
+    }
+    // One that stays orthographic comes nearer by flying forward.
+    camera.lookFrom(Side::Front, pivot);
+    camera.setOrthographic(true, pivot);
+    const float large = std::fabs(at(model[7]).x() - at(pivot).x());
+    camera.flyTo(camera.position() + 20.0f * QVector3D(0, 0, 1) * (camera.sight().z() > 0 ? -1.0f : 1.0f));
+    camera.orbit(pivot, camera.yaw(), 0.0f);
+    QVERIFY(camera.isOrthographic() && std::fabs(at(model[7]).x() - at(pivot).x()) > 1.01f * large);
+    for (int i = 0; i < 200; ++i)
+        camera.dolly(pivot, i < 100 ? 0.5f : 3.0f);
+    QVERIFY(std::fabs(at(model[7]).x()) < 1.0f && isWithin(1e6f, camera.position()));
 }
 
 void tst_Camera::staysWhereNumbersReach()

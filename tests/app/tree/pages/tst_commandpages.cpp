@@ -31,8 +31,11 @@ QStringList shownBy(Pane<Model> &pane)
         if (label->parent() == &pane.stack || page->isAncestorOf(label))
             shown << label->text();
     }
-    for (const IndexHint *hint : page->findChildren<IndexHint *>())
+    for (const IndexHint *hint : page->findChildren<IndexHint *>()) {
+        // On a busy machine the editor does not wait until a material's file is found.
+        QTest::qWaitFor([hint] { return hint->text() != QLatin1String("looking for its file"); });
         shown << hint->text();
+    }
     for (const QWidget *editor : editorsOf(page))
         shown << shownText(editor);
     return shown;

@@ -132,7 +132,7 @@ void BoneRig::turnsAt(const AnimBlock &block, size_t frame, std::vector<Turn> &a
     }
 }
 
-BonePairs counterparts(const SkinnedMesh &mesh, const BoneRig &rig)
+BonePairs counterparts(const SkinnedMesh &mesh, const BoneRig &rig, const BlockAccount &account)
 {
     BonePairs pairs(rig.size());
     for (size_t bone = 0; bone < pairs.size(); ++bone)
@@ -159,6 +159,8 @@ BonePairs counterparts(const SkinnedMesh &mesh, const BoneRig &rig)
     auto bySymbol = grouped(rig, [&mesh](int bone) { return symbolPart(mesh, bone); });
     // From the root down, so that parents are paired before their children.
     for (const int bone : rig.order) {
+        if (account.isCancelled())
+            return pairs;
         if (symbolSide(mesh, bone) != 0 || !isAlone(bone) || isNamed[size_t(bone)])
             continue;
         Place mirrored = rig.places[size_t(bone)];

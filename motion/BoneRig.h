@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "BlockAccount.h"
 #include "Turn.h"
 
 #include "AnimFile.h"
@@ -40,8 +41,9 @@ using BonePairs = std::vector<int>;
 
 /// Each bone's counterpart on the other side of the body; its own number for one in the middle. Names tell
 /// the sides ("Hand.L", "left_hand"), else the symbols do; of several bones with one symbol those are a pair
-/// that stand where a mirror would have them, below parents that are one, too.
-BonePairs counterparts(const SkinnedMesh &mesh, const BoneRig &rig);
+/// that stand where a mirror would have them, below parents that are one, too. Ends early, with what it has,
+/// when nobody waits for what the account is of.
+BonePairs counterparts(const SkinnedMesh &mesh, const BoneRig &rig, const BlockAccount &account = {});
 
 /// For each bone of `to` the one of `from` that has its name, else its symbol: the first of each symbol down
 /// from the root, and all of them where both have as many.

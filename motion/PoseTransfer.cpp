@@ -219,7 +219,9 @@ QString apply(const Mirror &, AnimBlock &block, BlockAccount &account, const Ski
             .arg(block.nodes.size())
             .arg(mesh->nodes.size());
     const BoneRig rig(*mesh, block.nodes);
-    const BonePairs pairs = counterparts(*mesh, rig);
+    const BonePairs pairs = counterparts(*mesh, rig, account);
+    if (account.isCancelled())
+        return {};
     AnimBlock made = block;
     const Way way{block, rig, rig, pairs, true, 1};
     const QString refusal = takeTracks(way, made, account);
@@ -254,9 +256,11 @@ QString apply(const Mirror &, AnimBlock &block, BlockAccount &account, const Ski
     return {};
 }
 
-CopiedBlock copiedTo(const Animated &to, const Animated &from, int index, const std::vector<qint32> &taken)
+CopiedBlock copiedTo(const Animated &to, const Animated &from, int index, const std::vector<qint32> &taken,
+                     const std::atomic_bool *cancelled)
 {
     CopiedBlock copied;
+    copied.account.cancelled = cancelled;
     const AnimBlock &source = from.anim.blocks[size_t(index)];
     const auto misfit = [&copied](const AnimBlock &block, const SkinnedMesh &mesh) {
         if (block.nodes.size() != mesh.nodes.size() || block.nodes.empty())

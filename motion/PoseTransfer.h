@@ -36,7 +36,8 @@ struct CopiedBlock
 /// Has the bones of `to` do what those of `from` do in its block number `index`. Bones find each other by
 /// partners(); one without a partner keeps the initial pose that `to` begins with. Distances are scaled by
 /// the lengths of the bones that found each other. An id that `to` has already becomes the next free one;
-/// those in `taken` count as its own.
+/// those in `taken` count as its own. Ends early when `cancelled`, if given, says so: what there is by then
+/// is not to be used.
 CopiedBlock copiedTo(const Animated &to, const Animated &from, int index,
-                     const std::vector<qint32> &taken = {});
+                     const std::vector<qint32> &taken = {}, const std::atomic_bool *cancelled = nullptr);
 } // namespace Motion

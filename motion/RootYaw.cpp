@@ -59,6 +59,12 @@ QString turnRoot(AnimBlock &block, const std::vector<double> &radians)
     QString refusal = rotations.store();
     if (refusal.isEmpty())
         refusal = translations.store();
+    // Actions at no bone stand in the space that the yaw turns.
+    for (AnimAction &action : made.actions) {
+        if (action.node >= made.nodes.size() && action.frame < radians.size() &&
+            std::abs(radians[action.frame]) > NoTurn)
+            action.offset = vectorOf(Turn::aboutZ(radians[action.frame]) * placeOf(action.offset));
+    }
     if (refusal.isEmpty())
         block = std::move(made);
     return refusal;

@@ -127,6 +127,11 @@ public:
     const HighlightPoint &highlightPoint() const { return m_scene.frame.highlight; }
     /// The selected ones among the marked bones and hot points, ascending.
     void setMarkedSelection(std::vector<int> bones, std::vector<int> hotPoints);
+    /// Vertices of the model to be marked, ascending.
+    void setMarkedVertices(std::vector<int> vertices)
+    {
+        change(m_scene.frame.marks.vertices, std::move(vertices));
+    }
     /// What mouse and keys do. Whoever has something to tell a tool, or to hear of it, asks here.
     ViewTools &tools() { return m_tools; }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "SceneMarks.h"
 
+#include "PosedVertices.h"
 #include "SkinnedMesh.h"
 
 #include <algorithm>
@@ -12,6 +13,7 @@ namespace {
 constexpr float LineWidth = 2.0f;
 constexpr float JointRadius = 3.5f;
 constexpr float HotPointRadius = 5.5f;
+constexpr float VertexRadius = 2.5f;
 constexpr float Outline = 1.5f;
 constexpr double Reach = 9.0; // of the mouse
 
@@ -39,8 +41,17 @@ bool contains(const std::vector<int> &ascending, int number)
 }
 } // namespace
 
-void SceneMarks::place(const MarkedRecords &records, const ScreenMap &map, const BonePalette &palette)
+void SceneMarks::place(const MarkedRecords &records, const std::vector<GLVertex> &vertices,
+                       const ScreenMap &map, const BonePalette &palette)
 {
+    m_vertices.clear();
+    for (const int vertex : records.vertices) {
+        if (size_t(vertex) >= vertices.size() || m_vertices.size() == MostMarks)
+            break;
+        const QVector3D inEye = map.toEye(posedPlace(vertices[size_t(vertex)], palette));
+        if (map.isVisible(inEye))
+            m_vertices.push_back(map.pixel(inEye));
+    }
     m_bones.clear();
     m_lines.clear();
     m_hotPoints.clear();
@@ -136,6 +147,10 @@ void SceneMarks::drawEvents(OverlayCanvas &canvas) const
 
 void SceneMarks::draw(OverlayCanvas &canvas) const
 {
+    for (const QPointF &vertex : m_vertices)
+        canvas.disc(vertex, VertexRadius + Outline, OutlineColor);
+    for (const QPointF &vertex : m_vertices)
+        canvas.disc(vertex, VertexRadius, SelectedColor);
     drawEvents(canvas);
     // What is selected lies on top.
     for (const bool selected : {false, true}) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "MarkedEvents.h"
+#include "MeshSource.h"
 #include "OverlayCanvas.h"
 #include "Pose.h"
 #include "ScreenMap.h"
@@ -37,6 +38,7 @@ struct MarkedRecords
     std::optional<DraggedPoint> draggedPoint;
     std::vector<int> selectedBones; ///< ascending
     std::vector<int> selectedHotPoints;
+    std::vector<int> vertices; ///< of whatever model is shown, ascending
     MarkedEvents events;
     bool bonesAlone = false; ///< bones, and nothing that would lie over them, whatever else is wanted
 
@@ -52,8 +54,9 @@ class SceneMarks
 public:
     static constexpr int None = -1;
 
-    /// Finds the places of what `records` wants marked.
-    void place(const MarkedRecords &records, const ScreenMap &map, const BonePalette &palette);
+    /// Finds the places of what `records` wants marked, of a model with these vertices.
+    void place(const MarkedRecords &records, const std::vector<GLVertex> &vertices, const ScreenMap &map,
+               const BonePalette &palette);
     void draw(OverlayCanvas &canvas) const;
 
     /// Where an event stands that the picture shows.
@@ -106,4 +109,5 @@ private:
     std::vector<Mark> m_hotPoints;
     std::vector<EventPlace> m_events;
     std::vector<RimPiece> m_rims;
+    std::vector<QPointF> m_vertices; ///< pixels
 };

@@ -28,11 +28,12 @@ SceneOverlay::SceneOverlay()
     m_buffer.release();
 }
 
-void SceneOverlay::paint(ShaderPrograms &programs, const MarkedRecords &records, const ScreenMap &map,
+void SceneOverlay::paint(ShaderPrograms &programs, const MarkedRecords &records,
+                         const std::vector<GLVertex> &vertices, const ScreenMap &map,
                          const BonePalette &palette, const QSizeF &size)
 {
     m_boxes.place(records, map, palette);
-    m_marks.place(records, map, palette);
+    m_marks.place(records, vertices, map, palette);
     m_canvas.clear();
     m_boxes.draw(m_canvas);
     m_marks.draw(m_canvas);

@@ -19,8 +19,8 @@ public:
     SceneOverlay();
 
     /// Depth and culling are as they were afterwards; the program is not.
-    void paint(ShaderPrograms &programs, const MarkedRecords &records, const ScreenMap &map,
-               const BonePalette &palette, const QSizeF &size);
+    void paint(ShaderPrograms &programs, const MarkedRecords &records, const std::vector<GLVertex> &vertices,
+               const ScreenMap &map, const BonePalette &palette, const QSizeF &size);
 
     /// As they were painted last.
     const SceneMarks &marks() const { return m_marks; }

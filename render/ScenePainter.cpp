@@ -225,7 +225,8 @@ void ScenePainter::paintBoneMarker(const SceneFrame &frame)
 void ScenePainter::paintMarks(const SceneFrame &frame)
 {
     const ScreenMap map(frame.projection, frame.view * m_modelMatrix, frame.viewport);
-    m_overlay.paint(m_programs, frame.marks, map, m_model->palette, frame.viewport);
+    m_overlay.paint(m_programs, frame.marks, m_model->vertices().vertices, map, m_model->palette,
+                    frame.viewport);
     m_programs.plain.begin(frame.brightness);
 }
 

@@ -72,6 +72,7 @@ void ShownScene::modelReplaced(std::shared_ptr<MeshSource> ready)
     frame.marks.draggedPoint.reset();
     frame.marks.selectedBones.clear();
     frame.marks.selectedHotPoints.clear();
+    frame.marks.vertices.clear();
 }
 
 void ShownScene::selectSurface(int surface)

@@ -944,6 +944,18 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>Other ids. The names of animations stay with the ids that they are for.</source>
         <translation>Andere IDs. Die Namen von Animationen bleiben bei den IDs, für die sie gelten.</translation>
     </message>
+    <message>
+        <source>Copy from Another S&amp;keleton…</source>
+        <translation>Aus anderem S&amp;kelett kopieren…</translation>
+    </message>
+    <message>
+        <source>Animations of another file, for the bones of the open mesh</source>
+        <translation>Animationen einer anderen Datei, für die Knochen des geöffneten Meshes</translation>
+    </message>
+    <message>
+        <source>Copy from Another Skeleton</source>
+        <translation>Aus anderem Skelett kopieren</translation>
+    </message>
 </context>
 <context>
     <name>AnimationFollower</name>
@@ -1672,6 +1684,117 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <message>
         <source>Snap; let the bone below take it; give up</source>
         <translation>Einrasten; den Knochen darunter übernehmen lassen; aufgeben</translation>
+    </message>
+</context>
+<context>
+    <name>CopyMotionDialog</name>
+    <message>
+        <source>Copy Animation from Another Skeleton</source>
+        <translation>Animation aus anderem Skelett kopieren</translation>
+    </message>
+    <message>
+        <source>The bones of the open mesh do what those of another one do, which find each other by names, else by symbols. The copies come behind the animations that there are.</source>
+        <translation>Die Knochen des geöffneten Meshes tun, was die eines anderen tun; sie finden einander nach Namen, sonst nach Symbolen. Die Kopien kommen hinter die vorhandenen Animationen.</translation>
+    </message>
+    <message>
+        <source>&amp;Animations of</source>
+        <translation>&amp;Animationen aus</translation>
+    </message>
+    <message>
+        <source>No file is chosen</source>
+        <translation>Keine Datei gewählt</translation>
+    </message>
+    <message>
+        <source>&amp;Choose…</source>
+        <translation>&amp;Wählen…</translation>
+    </message>
+    <message>
+        <source>Choose the animation file that is copied from</source>
+        <translation>Die Animationsdatei wählen, aus der kopiert wird</translation>
+    </message>
+    <message>
+        <source>Their &amp;mesh</source>
+        <translation>Deren &amp;Mesh</translation>
+    </message>
+    <message>
+        <source>C&amp;hoose…</source>
+        <translation>Wä&amp;hlen…</translation>
+    </message>
+    <message>
+        <source>Choose the skinned mesh that has the bones of these animations, where it is not found by itself</source>
+        <translation>Das Skinned Mesh wählen, das die Knochen dieser Animationen hat, wenn es nicht von selbst gefunden wird</translation>
+    </message>
+    <message>
+        <source>Anima&amp;tions to copy</source>
+        <translation>Anima&amp;tionen, die kopiert werden</translation>
+    </message>
+    <message>
+        <source>&amp;Bones</source>
+        <translation>K&amp;nochen</translation>
+    </message>
+    <message>
+        <source>Of the open mesh</source>
+        <translation>Des geöffneten Meshes</translation>
+    </message>
+    <message>
+        <source>Of the other one</source>
+        <translation>Des anderen</translation>
+    </message>
+    <message>
+        <source>&amp;What is copied</source>
+        <translation>Was kopiert wir&amp;d</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be read. %2</source>
+        <translation>„%1“ kann nicht gelesen werden. %2</translation>
+    </message>
+    <message>
+        <source>Co&amp;py</source>
+        <translation>Ko&amp;pieren</translation>
+    </message>
+    <message>
+        <source>Choose an animation file.</source>
+        <translation>Wählen Sie eine Animationsdatei.</translation>
+    </message>
+    <message>
+        <source>Which bones there are is in the mesh: open the one that the animations belong to.</source>
+        <translation>Welche Knochen es gibt, steht im Mesh: Öffnen Sie das, zu dem die Animationen gehören.</translation>
+    </message>
+    <message>
+        <source>Copy Animations of</source>
+        <translation>Animationen kopieren aus</translation>
+    </message>
+    <message>
+        <source>The Mesh of These Animations</source>
+        <translation>Das Mesh dieser Animationen</translation>
+    </message>
+    <message>
+        <source>The mesh that &apos;%1&apos; belongs to was not found: choose it.</source>
+        <translation>Das Mesh, zu dem „%1“ gehört, wurde nicht gefunden: Wählen Sie es.</translation>
+    </message>
+    <message>
+        <source>Being read…</source>
+        <translation>Wird gelesen…</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has no animations.</source>
+        <translation>„%1“ hat keine Animationen.</translation>
+    </message>
+    <message>
+        <source>Choose the animations to be copied.</source>
+        <translation>Wählen Sie die Animationen, die kopiert werden sollen.</translation>
+    </message>
+    <message>
+        <source>Being worked out…</source>
+        <translation>Wird ausgerechnet…</translation>
+    </message>
+    <message>
+        <source>It is not copied.</source>
+        <translation>Sie wird nicht kopiert.</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keiner</translation>
     </message>
 </context>
 <context>
@@ -4157,6 +4280,10 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>Find and Rep&amp;lace…</source>
         <translation>Suchen und &amp;Ersetzen…</translation>
+    </message>
+    <message>
+        <source>Texture Coordinates</source>
+        <translation>Texturkoordinaten</translation>
     </message>
 </context>
 <context>
@@ -9443,6 +9570,109 @@ Nichts wurde geändert. %2</translation>
     <message>
         <source>No address is set that tells of new versions.</source>
         <translation>Es ist keine Adresse eingestellt, die neue Versionen nennt.</translation>
+    </message>
+</context>
+<context>
+    <name>UvDock</name>
+    <message>
+        <source>no texture</source>
+        <translation>keine Textur</translation>
+    </message>
+    <message>
+        <source>no texture: %1 cannot be read</source>
+        <translation>keine Textur: %1 kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1, %2 × %3</source>
+        <translation>%1, %2 × %3</translation>
+    </message>
+    <message>
+        <source>The triangles of the current surface over its texture</source>
+        <translation>Die Dreiecke der aktuellen Fläche über ihrer Textur</translation>
+    </message>
+    <message>
+        <source>Texture coordinates</source>
+        <translation>Texturkoordinaten</translation>
+    </message>
+    <message>
+        <source>Surface</source>
+        <translation>Fläche</translation>
+    </message>
+    <message>
+        <source>The surface that is shown, which the tree selects too</source>
+        <translation>Die gezeigte Fläche, die auch der Baum auswählt</translation>
+    </message>
+    <message>
+        <source>The tree leaves vertices out. &lt;a href=&quot;#&quot;&gt;Show them&lt;/a&gt;</source>
+        <translation>Der Baum lässt Vertices weg. &lt;a href=&quot;#&quot;&gt;Zeigen&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Texture Coordinates</source>
+        <translation>Texturkoordinaten</translation>
+    </message>
+    <message>
+        <source>Fit &amp;All</source>
+        <translation>&amp;Alles einpassen</translation>
+    </message>
+    <message>
+        <source>Bring the texture and all triangles into view</source>
+        <translation>Die Textur und alle Dreiecke ins Bild bringen</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Selection</source>
+        <translation>Auswahl &amp;einpassen</translation>
+    </message>
+    <message>
+        <source>Bring the selected vertices into view</source>
+        <translation>Die ausgewählten Vertices ins Bild bringen</translation>
+    </message>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>Alles au&amp;swählen</translation>
+    </message>
+    <message>
+        <source>Select all vertices of the surface</source>
+        <translation>Alle Vertices der Fläche auswählen</translation>
+    </message>
+    <message>
+        <source>The model has no surfaces.</source>
+        <translation>Das Modell hat keine Flächen.</translation>
+    </message>
+    <message>
+        <source>No mesh is open.</source>
+        <translation>Kein Mesh ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>The filter above the tree hides %1.</source>
+        <translation>Der Filter über dem Baum verbirgt %1.</translation>
+    </message>
+    <message>
+        <source>u %1  v %2</source>
+        <translation>u %1  v %2</translation>
+    </message>
+    <message>
+        <source>texel %1, %2</source>
+        <translation>Texel %1, %2</translation>
+    </message>
+    <message>
+        <source>vertex %1</source>
+        <translation>Vertex %1</translation>
+    </message>
+    <message>
+        <source>triangles: %1</source>
+        <translation>Dreiecke: %1</translation>
+    </message>
+    <message>
+        <source>vertices: %1</source>
+        <translation>Vertices: %1</translation>
+    </message>
+    <message>
+        <source>triangles beyond its edges: %1</source>
+        <translation>Dreiecke über ihren Rand hinaus: %1</translation>
+    </message>
+    <message>
+        <source>triangles left out: %1</source>
+        <translation>ausgelassene Dreiecke: %1</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 #include "AnimationCommands.h"
 
 #include "AnimCommands.h"
+#include "CopyMotionDialog.h"
 #include "KVTreeView.h"
 #include "MotionDialog.h"
 #include "Playback.h"
@@ -27,6 +28,14 @@ AnimationCommands::AnimationCommands(AnimDocument &anim, SkinnedMeshDocument &me
         connect(action, &QAction::triggered, this, [this, kind] { ask(MotionKind::Name(kind)); });
         m_actions += action;
     }
+    auto *line = new QAction(this);
+    line->setSeparator(true);
+    auto *copied = new QAction(tr("Copy from Another S&keleton…"), this);
+    copied->setObjectName(QStringLiteral("actionAnimCopyFrom"));
+    copied->setToolTip(tr("Animations of another file, for the bones of the open mesh"));
+    copied->setStatusTip(copied->toolTip());
+    connect(copied, &QAction::triggered, this, &AnimationCommands::askCopy);
+    m_actions += {line, copied};
     connect(&m_anim, &Document::replaced, this, &AnimationCommands::updateActions);
     connect(&m_anim, &Document::structuresChanged, this, &AnimationCommands::updateActions);
     updateActions();
@@ -99,6 +108,22 @@ void AnimationCommands::ask(MotionKind::Name kind)
             stack.push(new UC_AnimBlockMotion(m_anim.editTarget(), {change.index, 0, 0},
                                               WholeBlock(*old, std::move(change.block)), {}, {}));
     }
+    stack.endMacro();
+    emit documentWanted(DocumentType::Anim);
+}
+
+void AnimationCommands::askCopy()
+{
+    if (m_anim.returnToTyping())
+        return;
+    CopyMotionDialog dialog(m_anim, m_mesh, m_window);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    QUndoStack &stack = *m_anim.undoStack();
+    stack.beginMacro(tr("Copy from Another Skeleton"));
+    for (AnimBlock &block : dialog.takeBlocks())
+        stack.push(new UC_AnimBlockPaste(m_anim.editTarget(), {int(m_anim.model().blocks.size()), 0, 0},
+                                         std::move(block)));
     stack.endMacro();
     emit documentWanted(DocumentType::Anim);
 }

@@ -31,6 +31,7 @@ signals:
 
 private:
     void ask(MotionKind::Name kind);
+    void askCopy();
     std::vector<int> chosenBlocks() const;
     void updateActions();
 

@@ -5,6 +5,7 @@
 #include "DocumentLoader.h"
 #include "LabelDrag.h"
 #include "Memory.h"
+#include "Playback.h"
 #include "ui_MotionDialog.h"
 
 #include <QPushButton>
@@ -32,6 +33,7 @@ MotionDialog::MotionDialog(MotionKind::Name kind, AnimDocument &anim, SkinnedMes
     , m_anim(anim)
     , m_mesh(mesh)
     , m_selected(std::move(selected))
+    , m_onView(anim.model())
 {
     m_ui->setupUi(this);
     LabelDrag::installAll(*this);
@@ -78,8 +80,12 @@ void MotionDialog::fillNumbers()
     m_ui->sbRate->setEnabled(false);
     m_ui->sbFrames->setValue(last + 1);
     m_ui->sbRate->setValue(float(Motion::rateOf(first)));
-    m_ui->sbFirst->setValue(0);
-    m_ui->sbLast->setValue(last);
+    const FrameRange range = playback().range;
+    // What is selected on the timeline is of the animation that plays.
+    const bool isRange = !range.isEmpty() && range.last <= last && !chosen.empty() &&
+                         playback().anim == &file && chosen.front() == playback().blockIndex;
+    m_ui->sbFirst->setValue(isRange ? range.first : 0);
+    m_ui->sbLast->setValue(isRange ? range.last : last);
     m_ui->sbShift->setValue(1);
     m_ui->sbBlend->setValue(std::clamp(last, 1, 5));
     if (auto *field = m_ui->stackNumbers->currentWidget()->findChild<QAbstractSpinBox *>()) {
@@ -157,6 +163,7 @@ void MotionDialog::workOut()
     m_later.stop();
     m_isWanted = false; // what was accepted had other numbers
     Background::discard(std::exchange(m_changes, {}));
+    m_onView.giveBack();
     QString refusal;
     command(refusal);
     m_ui->buttonBox->button(QDialogButtonBox::Ok)->setEnabled(refusal.isEmpty());
@@ -196,6 +203,7 @@ void MotionDialog::start()
         m_look.stop();
         m_ui->progress->hide();
         m_changes = std::move(made.changes);
+        m_onView.show(m_changes);
         if (made.lack.isEmpty())
             showChanges();
         else
@@ -223,6 +231,12 @@ void MotionDialog::showChanges()
         entries.append(entry);
     }
     m_ui->preview->setEntries(entries);
+}
+
+void MotionDialog::done(int result)
+{
+    m_onView.giveBack();
+    QDialog::done(result);
 }
 
 void MotionDialog::accept()

@@ -5,6 +5,7 @@
 #include "Document.h"
 #include "MotionCommand.h"
 #include "MotionKind.h"
+#include "MotionOnView.h"
 
 #include <QDialog>
 #include <QTimer>
@@ -14,7 +15,8 @@ class MotionDialog;
 }
 
 /// Asks for the numbers of an animation command and says what it would do. Another thread works that out, so
-/// the dialog can be left at any time; it changes nothing itself.
+/// the dialog can be left at any time; it changes nothing itself. While it is open the view shows what the
+/// animation that plays would be.
 class MotionDialog : public QDialog
 {
     Q_OBJECT
@@ -31,6 +33,7 @@ public:
 
 public slots:
     void accept() override;
+    void done(int result) override;
 
 private:
     void fillNumbers();
@@ -48,6 +51,7 @@ private:
     AnimDocument &m_anim;
     SkinnedMeshDocument &m_mesh;
     const std::vector<int> m_selected;
+    MotionOnView m_onView;
     std::vector<Motion::BlockChange> m_changes;
     std::shared_ptr<std::atomic_int> m_percent = std::make_shared<std::atomic_int>(0);
     QTimer m_look;           ///< at how far it is

@@ -264,6 +264,7 @@ void MainWindow::connectActions()
     connect(m_preferences, &Preferences::foldersChanged, textures, &TextureWatch::reload);
     connect(textures, &TextureWatch::reloaded, m_problems, &Problems::recheck);
     connect(textures, &TextureWatch::reloaded, m_panes, &DocumentPanes::OnMaterialsChanged);
+    connect(textures, &TextureWatch::reloaded, m_ui->dockUv, &UvDock::reload);
     connect(m_preferences, &Preferences::accepted, m_panes, &DocumentPanes::OnOptionsAccepted);
     connect(m_preferences, &Preferences::accepted, m_explorerFiles, &ExplorerFiles::OnOptionsAccepted);
     connect(m_panes, &DocumentPanes::currentChanged, m_layout,

@@ -6,6 +6,7 @@
 #include "DamageShow.h"
 #include "DocumentPanes.h"
 #include "DragEditing.h"
+#include "KVOpenGLWidget.h"
 #include "PageStack.h"
 #include "StructureActions.h"
 #include "ui_MainWindow.h"
@@ -34,6 +35,19 @@ ModelShaping::ModelShaping(const Ui::MainWindow &ui, DocumentPanes &panes, Skinn
 
     const auto *damage = new DamageShow(skinned, *ui.viewSkinned, window);
     ui.menuView->insertMenu(window->findChild<QAction *>(QStringLiteral("actionStatistics")), damage->menu());
+
+    UvDock *uv = ui.dockUv;
+    uv->setDocuments(skinned, *ui.treeSkinnedMesh, rigid, *ui.treeStaticMesh);
+    connect(&panes, &DocumentPanes::currentChanged, uv,
+            [uv, &panes] { uv->setCurrent(panes.currentDocument()); });
+    uv->setCurrent(panes.currentDocument());
+    connect(uv, &UvDock::documentWanted, &panes, &DocumentPanes::showPane);
+    connect(uv, &UvDock::hidingChanged, &panes, &DocumentPanes::OnOptionsAccepted);
+    connect(uv, &UvDock::told, &panes, &DocumentPanes::told);
+    connect(uv, &UvDock::verticesMarked, &panes,
+            [&panes](DocumentType type, const std::vector<int> &vertices) {
+                panes.all()[size_t(type)].viewport->setMarkedVertices(vertices);
+            });
 
     for (DragEditing *drags :
          {new DragEditing(skinned, *ui.treeSkinnedMesh, anim, *ui.treeAnim, *ui.viewSkinned, this),

@@ -41,8 +41,8 @@ ViewMenu::ViewMenu(const Ui::MainWindow &ui, const DocumentPanes &panes, QAction
     menu->addActions({ui.toolBarFile->toggleViewAction(), ui.toolBarEdit->toggleViewAction(),
                       ui.dockConsole->toggleViewAction(), ui.dockProblems->toggleViewAction(),
                       ui.dockFind->toggleViewAction(), ui.dockCompare->toggleViewAction(),
-                      ui.dockTable->toggleViewAction(), ui.dockHistory->toggleViewAction(),
-                      ui.dockServers->toggleViewAction()});
+                      ui.dockTable->toggleViewAction(), ui.dockUv->toggleViewAction(),
+                      ui.dockHistory->toggleViewAction(), ui.dockServers->toggleViewAction()});
     createToolBars(ui, panes, *display, window);
 }
 

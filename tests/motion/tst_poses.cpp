@@ -14,10 +14,20 @@ private slots:
     void yawTurnsTheSameModel()
     {
         const SkinnedMesh mesh = body();
-        const AnimBlock old = bodyBlock(12);
+        AnimBlock old = bodyBlock(12);
+        old.actions.resize(1);
+        old.actions[0].frame = 7;
+        old.actions[0].node = None;
+        old.actions[0].offset = {40, 0, 10};
         AnimBlock block = old;
         BlockAccount account;
+        // At no bone, in the space that the yaw turns.
+        const auto actionPlace = [](const AnimBlock &of) {
+            return vectorOf(Turn::aboutZ(-double(of.frames[7].yawOffset)) * placeOf(of.actions[0].offset));
+        };
         const auto compareAll = [&] {
+            QVERIFY((actionPlace(block) - actionPlace(old)).length() < 1e-3f);
+            QVERIFY(actionPlace(old) != old.actions[0].offset);
             for (int frame = 0; frame < 12; ++frame) {
                 const auto before = posed(mesh, old, frame);
                 const auto after = posed(mesh, block, frame);

@@ -111,7 +111,7 @@ void tst_Sight::marksAreFound()
     records.mesh = &mesh;
     records.skeleton = true;
     records.selectedBones = {1};
-    marks.place(records, map, palette);
+    marks.place(records, {}, map, palette);
     QCOMPARE(marks.boneAt({203, 147}), 0);
     QCOMPARE(marks.boneAt({200, 100}), 1); // bone 2 lies behind it
     QCOMPARE(marks.boneAt({250, 150}), SceneMarks::None);
@@ -119,7 +119,7 @@ void tst_Sight::marksAreFound()
 
     records.skeleton = false;
     records.hotPoints = true;
-    marks.place(records, map, palette);
+    marks.place(records, {}, map, palette);
     QCOMPARE(marks.hotPointAt({150, 100}), 0);
     QCOMPARE(marks.hotPointAt({200, 150}), 1);
     QCOMPARE(marks.boneAt({200, 150}), SceneMarks::None);
@@ -143,7 +143,7 @@ void tst_Sight::hostileMarks()
     records.skeleton = records.hotPoints = records.boxes = true;
     records.selectedBones = {-1, 5, 900};
     records.selectedHotPoints = {2, 3};
-    marks.place(records, startMap(), palette);
+    marks.place(records, {}, startMap(), palette);
     marks.draw(canvas);
     for (const QPointF &pixel : {QPointF(0, 0), QPointF(200, 300), QPointF(qQNaN(), 0)})
         QVERIFY(marks.boneAt(pixel) < 4 && marks.hotPointAt(pixel) < 3);

@@ -5,10 +5,12 @@
 #include "CrashReport.h"
 #include "EventWords.h"
 #include "FlightTool.h"
+#include "GizmoTool.h"
 #include "Log.h"
 #include "OrbitTool.h"
 #include "PlayClock.h"
 #include "Settings.h"
+#include "TurntableTool.h"
 #include "ViewStatistics.h"
 
 #include <QOpenGLContext>
@@ -32,6 +34,8 @@ KVOpenGLWidget::KVOpenGLWidget(QWidget *parent)
     setShowStatistics(Settings::ShowStatistics.value());
     setOrbitMode(Settings::OrbitMode.value());
     setShowSkeleton(m_scene.frame.marks.skeleton); // as the settings want it
+    m_tools.gizmo->setFollower(
+        [this](const GizmoHover &hover) { change(m_scene.frame.gizmoHover, GizmoHover(hover)); });
     setFocusPolicy(Qt::StrongFocus);
     new EventWords(*this, [this] { return m_scene.marks(); });
 }
@@ -95,6 +99,7 @@ void KVOpenGLWidget::poseModel()
 {
     m_scene.frame.yaw = QQuaternion();
     const int frame = m_playback.pose(m_scene.palette(), m_scene.frame.yaw);
+    m_scene.frame.onionSkin.follow(m_scene.palette());
     m_scene.frame.marks.events.follow(playback(), frame);
     tellFrame(frame);
 }
@@ -329,8 +334,8 @@ TickTimer::Pace KVOpenGLWidget::tick(TickTimer::Due due)
         m_statistics->tick(due.seconds);
     if (m_readOut.tick(due.seconds, m_active, m_camera.position()))
         emit positionReadOut(m_readOut.text());
-    const bool moved = moveBy(due);
-    m_repaintWanted = m_repaintWanted || moved || (skinned && m_playback.isBehind());
+    const bool moved = moveBy(due), turns = m_tools.turntable->turn(due.seconds);
+    m_repaintWanted = m_repaintWanted || moved || turns || (skinned && m_playback.isBehind());
     const bool waitsToPaint = m_repaintWanted && !m_timer.mayPaint();
     // Label and slider change with the picture: the window is put together once for all three.
     if (m_active && skinned && !waitsToPaint && m_playback.label.update(playback()))
@@ -339,9 +344,9 @@ TickTimer::Pace KVOpenGLWidget::tick(TickTimer::Due due)
         tellFrame(ShownPlayback::nextFrame(m_scene.palette() != nullptr));
         update();
     }
-    const bool plays = m_active && skinned && clockRuns(playback());
+    const bool plays = turns || (m_active && skinned && clockRuns(playback()));
     if (moved || (waitsToPaint && !plays) || m_tools.cursor() == ViewCursor::Captured ||
-        (m_active && m_readOut.shown() != m_camera.position()))
+        (m_active && !plays && m_readOut.shown() != m_camera.position()))
         return TickTimer::Pace::Moving;
     return plays ? TickTimer::Pace::Playing : TickTimer::Pace::Idle;
 }
@@ -355,6 +360,7 @@ void KVOpenGLWidget::showEvent(QShowEvent *event)
 void KVOpenGLWidget::hideEvent(QHideEvent *event)
 {
     m_timer.stop();
+    m_tools.turntable->stop();
     m_recorder.cancel();
     RenewableGLWidget::hideEvent(event);
 }

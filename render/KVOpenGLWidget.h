@@ -61,7 +61,8 @@ public:
     void setOrbitMode(bool on);     ///< the mouse turns the camera around the model without Alt, too
     void setBrightness(float factor) { change(m_scene.frame.brightness, factor); }
     void setShowGround(bool on) { change(m_scene.frame.showGround, on); }
-    void setShowAxisGizmo(bool on) { change(m_scene.frame.showAxisGizmo, on); }
+    void setShowAxisGizmo(bool on) { changeMarks(m_scene.frame.showAxisGizmo, on); }
+    void setOnionSkin(const OnionSkin::Options &options) { change(m_scene.frame.onionSkin.options, options); }
     void setBackCull(bool on) { change(m_scene.frame.backCull, on); }
     /// 0 to 4, see SurfaceOverlay; anything else is 0.
     void setSurfSelectType(int type) { change(m_scene.frame.overlay, ShownScene::overlay(type)); }
@@ -203,7 +204,7 @@ private:
     {
         const MarkedRecords &marks = m_scene.frame.marks;
         setMouseTracking(marks.showsBones() || marks.showsHotPoints() || marks.showsBoxes() ||
-                         m_scene.frame.highlight.on);
+                         m_scene.frame.highlight.on || m_scene.frame.showAxisGizmo);
     }
     void poseModel();
     void tellFrame(int frame);

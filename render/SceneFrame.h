@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "AxisGizmo.h"
+#include "OnionSkin.h"
 #include "SceneMarks.h"
 
 #include <QColor>
@@ -40,6 +42,7 @@ struct SceneFrame
     bool backCull = false; ///< clockwise triangles are front faces, and the others are not seen
     bool showGround = false;
     bool showAxisGizmo = false;
+    GizmoHover gizmoHover;
     float brightness = 1.0f;
     float groundHeight = 0.0f; ///< model z, 0 or below
     Shading shading = Shading::Shaded;
@@ -54,5 +57,6 @@ struct SceneFrame
     int selectedBone = -1;
     HighlightPoint highlight;
     MarkedRecords marks;
+    OnionSkin onionSkin;
     std::vector<QRgb> boneColors; ///< laid over the vertices of each bone; none: nothing is
 };

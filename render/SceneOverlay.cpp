@@ -10,6 +10,25 @@
 
 #include <cstdint>
 
+namespace {
+constexpr QRgb AxisColors[] = {0xffe5484d, 0xff46a758, 0xff3e7bfa}; // x, y, z
+constexpr QRgb HoverColor = 0xffffffff;
+constexpr float BallRadius = 8.5f; // in pixels
+constexpr float HoverRim = 3.0f;
+constexpr float AxisWidth = 2.0f;
+
+QRgb faded(QRgb color)
+{
+    return (color & 0x00ffffff) | 0x90000000;
+}
+
+/// Of the end that an axis comes from.
+QRgb dimmed(QRgb color)
+{
+    return qRgb(qRed(color) / 2, qGreen(color) / 2, qBlue(color) / 2);
+}
+} // namespace
+
 SceneOverlay::SceneOverlay()
     : m_gl(*QOpenGLContext::currentContext()->extraFunctions())
 {
@@ -37,6 +56,26 @@ void SceneOverlay::paint(ShaderPrograms &programs, const MarkedRecords &records,
     m_canvas.clear();
     m_boxes.draw(m_canvas);
     m_marks.draw(m_canvas);
+    drawCanvas(programs, size);
+}
+
+void SceneOverlay::paintGizmo(ShaderPrograms &programs, const QMatrix4x4 &view, const GizmoHover &hover,
+                              const QSize &size)
+{
+    m_canvas.clear();
+    for (const AxisGizmo::Ball &ball : AxisGizmo::balls(view, size)) {
+        const QRgb color = AxisColors[ball.axis];
+        if (!ball.isPositive)
+            m_canvas.line(AxisGizmo::centre(size), ball.pixel, AxisWidth, faded(color));
+        if (hover.side == ball.side)
+            m_canvas.disc(ball.pixel, BallRadius + HoverRim, HoverColor);
+        m_canvas.disc(ball.pixel, BallRadius, ball.isPositive ? color : dimmed(color));
+    }
+    drawCanvas(programs, size);
+}
+
+void SceneOverlay::drawCanvas(ShaderPrograms &programs, const QSizeF &size)
+{
     if (m_canvas.vertices().empty() || !programs.overlay.isLinked())
         return;
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "AxisGizmo.h"
 #include "SceneBoxes.h"
 #include "SceneMarks.h"
 
@@ -22,10 +23,15 @@ public:
     void paint(ShaderPrograms &programs, const MarkedRecords &records, const std::vector<GLVertex> &vertices,
                const ScreenMap &map, const BonePalette &palette, const QSizeF &size);
 
+    /// The balls at the ends of the gizmo's axes, while the mouse is over it.
+    void paintGizmo(ShaderPrograms &programs, const QMatrix4x4 &view, const GizmoHover &hover,
+                    const QSize &size);
+
     /// As they were painted last.
     const SceneMarks &marks() const { return m_marks; }
 
 private:
+    void drawCanvas(ShaderPrograms &programs, const QSizeF &size);
     void upload();
 
     QOpenGLExtraFunctions &m_gl;

@@ -18,7 +18,6 @@ constexpr float SphereRadius = 0.028f;
 constexpr float QuadRadius = 0.014f;
 constexpr float NearestMarker = 5.12f; // the near plane: behind it nothing is seen
 constexpr float GizmoScale = 2.0f;
-constexpr float GizmoMargin = 64.0f; // from the lower left corner to the arrows' origin, in pixels
 constexpr float GizmoDepth = 1000.0f;
 
 /// The rotation of a view or model matrix without its translation.
@@ -122,6 +121,8 @@ void ScenePainter::paint(const SceneFrame &frame)
     // The ground lies behind everything, even behind what is below it.
     m_gl.glClear(GL_DEPTH_BUFFER_BIT);
 
+    if (!frame.onionSkin.ghosts().empty())
+        paintGhosts(frame);
     m_surfaces.paint(*m_model, frame, m_modelMatrix);
     paintOverlay(frame);
 
@@ -160,6 +161,18 @@ void ScenePainter::paintGround(const SceneFrame &frame)
     m_gl.glUniform1f(m_programs.plain.tiling, FixedMeshes::GroundTiling);
     drawTextured(m_programs.plain, *m_ground, mvp);
     m_gl.glUniform1f(m_programs.plain.tiling, 1.0f);
+}
+
+// Behind the model, so that its own pose is seen whole.
+void ScenePainter::paintGhosts(const SceneFrame &frame)
+{
+    for (const OnionSkin::Ghost &ghost : frame.onionSkin.ghosts()) {
+        QMatrix4x4 matrix;
+        matrix.rotate(uprightRotation());
+        matrix.rotate(ghost.yaw);
+        m_surfaces.paintGhost(*m_model, frame, ghost, frame.projection * frame.view * matrix);
+        m_gl.glClear(GL_DEPTH_BUFFER_BIT);
+    }
 }
 
 void ScenePainter::paintOverlay(const SceneFrame &frame)
@@ -259,10 +272,12 @@ void ScenePainter::paintAxisGizmo(const SceneFrame &frame)
     QMatrix4x4 mvp;
     mvp.ortho(0.0f, float(std::max(1, frame.viewport.width())), 0.0f,
               float(std::max(1, frame.viewport.height())), -GizmoDepth, GizmoDepth);
-    mvp.translate(GizmoMargin, GizmoMargin);
+    mvp.translate(AxisGizmo::Margin, AxisGizmo::Margin);
     mvp *= rotationOf(frame.view);
     mvp.rotate(uprightRotation());
     mvp.scale(GizmoScale);
     m_gl.glClear(GL_DEPTH_BUFFER_BIT);
     drawTextured(m_programs.plain, m_axisGizmo, mvp);
+    if (frame.gizmoHover.isOver)
+        m_overlay.paintGizmo(m_programs, frame.view, frame.gizmoHover, frame.viewport);
 }

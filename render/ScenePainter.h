@@ -44,6 +44,7 @@ private:
     void drawTextured(TexturedProgram &textured, GLMesh &mesh, const QMatrix4x4 &mvp,
                       GLenum mode = GL_TRIANGLES);
     void paintGround(const SceneFrame &frame);
+    void paintGhosts(const SceneFrame &frame);
     void paintOverlay(const SceneFrame &frame);
     void drawPosedSurface(int surface, GLenum mode);
     void paintBoneMarker(const SceneFrame &frame);

@@ -126,6 +126,11 @@ ScreenMap SceneSight::screenMap() const
             m_camera.viewMatrix() * ScenePainter::modelMatrix(frame), frame.viewport};
 }
 
+bool SceneSight::showsGizmo() const
+{
+    return m_scene.frame.showAxisGizmo;
+}
+
 QVector3D SceneSight::pivot() const
 {
     if (m_camera.framed())

@@ -22,6 +22,7 @@ public:
     std::optional<QMatrix4x4> boneToModel(int bone) const override;
     std::optional<BoxHandle> boxHandle() const override;
     std::optional<PointHandle> pointHandle() const override;
+    bool showsGizmo() const override;
     QVector3D pivot() const override;
     ScreenMap screenMap() const override;
 

@@ -30,6 +30,8 @@ ShownScene::ShownScene()
     frame.sharpTexels = Settings::SharpTexels.value();
     frame.smoothEdges = Settings::SmoothEdges.value();
     frame.fadingGround = Settings::FadingGround.value();
+    frame.onionSkin.options = {Settings::OnionSkin.value(), Settings::OnionSkinFrames.value(),
+                               Settings::OnionSkinStep.value()};
     frame.showSurfaceTint = Settings::ShowSurfaceTint.value();
 }
 
@@ -207,6 +209,7 @@ QImage ShownScene::picture(const QSize &size, const QColor &color, const Camera 
 {
     refresh();
     SceneFrame still = frame;
+    still.gizmoHover = {};
     still.view = camera.viewMatrix();
     still.projection = camera.projectionMatrix(size.width(), size.height());
     // Marks are as large beside the model as they are in the view.

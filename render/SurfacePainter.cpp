@@ -89,6 +89,31 @@ void SurfacePainter::paint(GLMesh &model, const SceneFrame &frame, const QMatrix
         m_outline.paint(textured, model, pulledMatrix(frame, modelMatrix), frame.viewport);
 }
 
+void SurfacePainter::paintGhost(GLMesh &model, const SceneFrame &frame, const OnionSkin::Ghost &ghost,
+                                const QMatrix4x4 &mvp)
+{
+    TexturedProgram &skin = m_programs.skin;
+    if (!skin.program.isLinked())
+        return;
+    fillPalette(ghost.palette);
+    begin(skin, {model, frame, mvp, mvp});
+    model.tintsSelected = false;
+    m_gl.glUniform4f(skin.wireColor, ghost.color.x(), ghost.color.y(), ghost.color.z(), 1.0f);
+    m_gl.glUniform1i(skin.edges, 1);
+    // The nearest parts alone, so that the color is as strong everywhere.
+    m_gl.glColorMask(GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
+    model.draw(skin);
+    m_gl.glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
+    m_gl.glDepthFunc(GL_EQUAL);
+    m_gl.glBlendColor(0.0f, 0.0f, 0.0f, ghost.color.w());
+    m_gl.glBlendFunc(GL_CONSTANT_ALPHA, GL_ONE_MINUS_CONSTANT_ALPHA);
+    model.draw(skin);
+    setUpBlending(m_gl);
+    m_gl.glDepthFunc(GL_LESS);
+    m_gl.glUniform1i(skin.edges, 0);
+    m_gl.glUniform4f(skin.wireColor, 0.0f, 0.0f, 0.0f, 0.0f);
+}
+
 void SurfacePainter::begin(TexturedProgram &textured, const Scene &scene)
 {
     textured.begin(scene.frame.brightness);

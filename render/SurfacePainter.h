@@ -33,6 +33,11 @@ public:
     /// `modelMatrix` turns the model into the view's space. Binds another program.
     void paint(GLMesh &model, const SceneFrame &frame, const QMatrix4x4 &modelMatrix);
 
+    /// Paints a skinned model's outline in another pose, of one color. Where its parts lie before one another
+    /// is left in the depth buffer.
+    void paintGhost(GLMesh &model, const SceneFrame &frame, const OnionSkin::Ghost &ghost,
+                    const QMatrix4x4 &mvp);
+
     /// For what lies on surfaces: the model's matrix, a little nearer to the eye in the same place of the
     /// picture, so that the surface does not hide it.
     static QMatrix4x4 pulledMatrix(const SceneFrame &frame, const QMatrix4x4 &modelMatrix);

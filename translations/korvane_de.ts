@@ -1055,6 +1055,33 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
 </context>
 <context>
+    <name>AxisGizmo</name>
+    <message>
+        <source>Front (-Y)</source>
+        <translation>Vorne (-Y)</translation>
+    </message>
+    <message>
+        <source>Back (+Y)</source>
+        <translation>Hinten (+Y)</translation>
+    </message>
+    <message>
+        <source>Left (-X)</source>
+        <translation>Links (-X)</translation>
+    </message>
+    <message>
+        <source>Right (+X)</source>
+        <translation>Rechts (+X)</translation>
+    </message>
+    <message>
+        <source>Top (+Z)</source>
+        <translation>Oben (+Z)</translation>
+    </message>
+    <message>
+        <source>Bottom (-Z)</source>
+        <translation>Unten (-Z)</translation>
+    </message>
+</context>
+<context>
     <name>BoxFitting</name>
     <message>
         <source>Fit &amp;Boxes to Vertices</source>
@@ -1298,6 +1325,14 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <message>
         <source>Show the six sides orthographic, until the camera is turned or flown</source>
         <translation>Die sechs Seiten orthografisch zeigen, bis die Kamera gedreht wird oder fliegt</translation>
+    </message>
+    <message>
+        <source>T&amp;urntable</source>
+        <translation>&amp;Drehteller</translation>
+    </message>
+    <message>
+        <source>Turn the camera steadily around the model until you move it</source>
+        <translation>Die Kamera gleichmäßig um das Modell drehen, bis Sie sie bewegen</translation>
     </message>
 </context>
 <context>
@@ -1684,6 +1719,14 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <message>
         <source>Snap; let the bone below take it; give up</source>
         <translation>Einrasten; den Knochen darunter übernehmen lassen; aufgeben</translation>
+    </message>
+    <message>
+        <source>Click on an end of the axis gizmo</source>
+        <translation>Klick auf ein Ende des Achsenkreuzes</translation>
+    </message>
+    <message>
+        <source>Look from that side; a drag turns around the model</source>
+        <translation>Von dieser Seite sehen; Ziehen dreht um das Modell</translation>
     </message>
 </context>
 <context>
@@ -4074,10 +4117,6 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <translation>&amp;Achsenkreuz</translation>
     </message>
     <message>
-        <source>Show the directions of the axes</source>
-        <translation>Die Richtungen der Achsen zeigen</translation>
-    </message>
-    <message>
         <source>&amp;Back-Face Culling</source>
         <translation>&amp;Rückseiten ausblenden</translation>
     </message>
@@ -4284,6 +4323,10 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>Texture Coordinates</source>
         <translation>Texturkoordinaten</translation>
+    </message>
+    <message>
+        <source>Show the directions of the axes; a click on one looks from there, a drag turns the view</source>
+        <translation>Die Richtungen der Achsen zeigen; ein Klick auf eine sieht von dort, Ziehen dreht die Ansicht</translation>
     </message>
 </context>
 <context>
@@ -5607,6 +5650,49 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>%1 is not from %2 to %3.</source>
         <translation>%1 liegt nicht zwischen %2 und %3.</translation>
+    </message>
+</context>
+<context>
+    <name>OnionSkinMenu</name>
+    <message>
+        <source>&amp;Onion Skin</source>
+        <translation>&amp;Zwiebelhaut</translation>
+    </message>
+    <message>
+        <source>Show the frames before (blue) and after (orange) behind the one that is shown</source>
+        <translation>Die Bilder davor (blau) und danach (orange) hinter dem gezeigten zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;1 Frame on Either Side</source>
+        <translation>&amp;1 Bild auf jeder Seite</translation>
+    </message>
+    <message>
+        <source>&amp;%1 Frames on Either Side</source>
+        <translation>&amp;%1 Bilder auf jeder Seite</translation>
+    </message>
+    <message>
+        <source>So many frames before and after are shown</source>
+        <translation>So viele Bilder davor und danach werden gezeigt</translation>
+    </message>
+    <message>
+        <source>&amp;Every Frame</source>
+        <translation>&amp;Jedes Bild</translation>
+    </message>
+    <message>
+        <source>Every &amp;Second Frame</source>
+        <translation>Jedes z&amp;weite Bild</translation>
+    </message>
+    <message>
+        <source>Every &amp;Fifth Frame</source>
+        <translation>Jedes &amp;fünfte Bild</translation>
+    </message>
+    <message>
+        <source>Every &amp;Tenth Frame</source>
+        <translation>Jedes &amp;zehnte Bild</translation>
+    </message>
+    <message>
+        <source>So far apart are the frames that are shown</source>
+        <translation>So weit liegen die gezeigten Bilder auseinander</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,7 @@
 #include "Icons.h"
 #include "KVOpenGLWidget.h"
 #include "Settings.h"
+#include "TurntableTool.h"
 
 #include <QActionGroup>
 
@@ -41,7 +42,7 @@ CameraMenu::CameraMenu(const Viewports &viewports, std::function<KVOpenGLWidget 
     addMouse(window);
     connect(all, &QAction::triggered, this, &CameraMenu::OnFrameAll);
     connect(m_frameSelection, &QAction::triggered, this, &CameraMenu::OnFrameSelection);
-    connect(this, &QMenu::aboutToShow, this, &CameraMenu::showOrthographic);
+    connect(this, &QMenu::aboutToShow, this, &CameraMenu::showState);
 }
 
 QAction *CameraMenu::addSwitch(const char *name, const QString &text, const QString &tip,
@@ -148,6 +149,10 @@ void CameraMenu::addMouse(QWidget *window)
                                {Qt::Key_O}, Settings::OrbitMode.value(), window);
     orbit->setIcon(namedIcon(QStringLiteral("orbit")));
     connect(orbit, &QAction::triggered, this, &CameraMenu::OnOrbitToggled);
+    m_turntable = addSwitch("actionTurntable", tr("T&urntable"),
+                            tr("Turn the camera steadily around the model until you move it"), {Qt::Key_R},
+                            false, window);
+    connect(m_turntable, &QAction::triggered, this, &CameraMenu::OnTurntableTriggered);
     QAction *frameOnOpen = addSwitch("actionFrameOnOpen", tr("Frame Models &When They Open"),
                                      tr("Go where the whole model is in view as soon as it is opened"), {},
                                      Settings::FrameOnOpen.value(), window);
@@ -202,7 +207,7 @@ void CameraMenu::OnOrthographicTriggered()
 {
     if (KVOpenGLWidget *viewport = m_current())
         viewport->cameraCommands().toggleOrthographic();
-    showOrthographic();
+    showState();
 }
 
 void CameraMenu::OnOrthographicSidesToggled(bool on)
@@ -212,8 +217,21 @@ void CameraMenu::OnOrthographicSidesToggled(bool on)
         viewport->cameraCommands().setOrthographicSides(on);
 }
 
-void CameraMenu::showOrthographic()
+// As above.
+void CameraMenu::OnTurntableTriggered()
 {
-    const KVOpenGLWidget *viewport = m_current();
+    KVOpenGLWidget *viewport = m_current();
+    if (!viewport)
+        return;
+    TurntableTool *turntable = viewport->tools().turntable;
+    turntable->isOn() ? turntable->stop() : turntable->start();
+    viewport->playbackChanged(); // so that it ticks
+    showState();
+}
+
+void CameraMenu::showState()
+{
+    KVOpenGLWidget *viewport = m_current();
     m_orthographic->setChecked(viewport && viewport->camera().isOrthographic());
+    m_turntable->setChecked(viewport && viewport->tools().turntable->isOn());
 }

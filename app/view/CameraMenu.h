@@ -36,6 +36,7 @@ private slots:
     void OnLensChosen(QAction *action);
     void OnOrthographicTriggered();
     void OnOrthographicSidesToggled(bool on);
+    void OnTurntableTriggered();
 
 private:
     void addSides(QWidget *window);
@@ -44,11 +45,12 @@ private:
     void addMouse(QWidget *window);
     QAction *addSwitch(const char *name, const QString &text, const QString &tip,
                        const QList<QKeySequence> &keys, bool on, QWidget *window);
-    void showOrthographic();
+    void showState();
 
     Viewports m_viewports;
     std::function<KVOpenGLWidget *()> m_current;
     std::function<ModelSelection()> m_selection;
     QAction *m_frameSelection;
     QAction *m_orthographic = nullptr;
+    QAction *m_turntable = nullptr;
 };

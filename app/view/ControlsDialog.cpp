@@ -59,6 +59,7 @@ ControlsDialog::ControlsDialog(const Shortcuts &shortcuts, QWidget *parent)
         {tr("Alt + left drag"), tr("Turn around the model")},
         {tr("Alt + middle drag"), tr("Move the model sideways, up and down")},
         {tr("Wheel"), tr("Go nearer or farther away")},
+        {tr("Click on an end of the axis gizmo"), tr("Look from that side; a drag turns around the model")},
     };
     QTreeWidget *tree = m_ui->treeControls;
     QTreeWidgetItem *view = addGroup(tree, tr("3D view"));

@@ -3,6 +3,7 @@
 #include "ShadingMenu.h"
 
 #include "KVOpenGLWidget.h"
+#include "OnionSkinMenu.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -20,6 +21,8 @@ ShadingMenu::ShadingMenu(const Viewports &viewports, QWidget *window)
     addLooks(window);
     addSeparator();
     addSwitches(window);
+    addSeparator();
+    addMenu(new OnionSkinMenu(viewports, window));
 }
 
 QAction *ShadingMenu::addChoice(QActionGroup *group, const char *name, const char *icon, const QString &text,

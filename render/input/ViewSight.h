@@ -36,6 +36,7 @@ public:
     /// What can be dragged at the moment.
     virtual std::optional<BoxHandle> boxHandle() const { return {}; }
     virtual std::optional<PointHandle> pointHandle() const { return {}; }
+    virtual bool showsGizmo() const { return false; }
     /// What the camera turns around: what it was aimed at, else what it looks at, in the view's space.
     virtual QVector3D pivot() const = 0;
     /// From the model's space to the view's pixels and back.

@@ -9,8 +9,10 @@
 class BoxTool;
 class Camera;
 class FlightTool;
+class GizmoTool;
 class OrbitTool;
 class PointTool;
+class TurntableTool;
 
 /// All that mouse and keys do in the 3D view.
 class ViewTools : public ToolChain
@@ -23,6 +25,8 @@ public:
     bool isHandleHeld() const;
 
     // Those that can be told something.
+    TurntableTool *turntable;
+    GizmoTool *gizmo;
     PointTool *point;
     BoxTool *box;
     PickTool *pick;

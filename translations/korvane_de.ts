@@ -5688,7 +5688,7 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
     <message>
         <source>Every &amp;Tenth Frame</source>
-        <translation>Jedes &amp;zehnte Bild</translation>
+        <translation>Jedes ze&amp;hnte Bild</translation>
     </message>
     <message>
         <source>So far apart are the frames that are shown</source>

@@ -183,6 +183,10 @@ inline const SettingKey<float> Brightness{"Brightness", 1.0f};
 inline const SettingKey<QSize> PictureSize{"PictureSize", {}};
 inline const SettingKey<bool> PictureKeepProportions{"PictureKeepProportions", true};
 inline const SettingKey<bool> PictureTransparent{"PictureTransparent", false};
+inline const SettingKey<int> PictureKind{"PictureKind", 0}; ///< of the view, of frames, a turntable
+inline const SettingKey<int> PictureStep{"PictureStep", 1}; ///< from frame to frame
+inline const SettingKey<int> PictureTurns{"PictureTurns", 36};
+inline const SettingKey<bool> PictureTurnFrames{"PictureTurnFrames", false}; ///< the turntable's model moves
 
 // What was open, and how it was looked at, when the window was last seen; kept only where it is wanted.
 inline const SettingKey<bool> RestoreSession{"RestoreSession", false};

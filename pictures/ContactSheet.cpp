@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ContactSheet.h"
 
+#include "PictureFile.h"
+
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QPainter>
@@ -10,8 +12,6 @@
 #include <cmath>
 
 namespace {
-constexpr qint64 MostPixels = 64 * 1024 * 1024; // of a sheet: 256 MiB
-
 int ceilingOf(int number, int divisor)
 {
     return (number + divisor - 1) / divisor;

@@ -29,5 +29,6 @@ QImage paintShot(OffscreenScene &scene, const PlannedScene &planned, const Pictu
     SceneFrame frame = planned.frame;
     frame.view = turnedView(frame.view, planned.pivot, shot.turn);
     poseFrame(scene.model(), frame, planned.state, shot.frame, poses);
-    return scene.paint(frame, planned.size, planned.background);
+    const QImage picture = scene.paint(frame, planned.size, planned.background);
+    return planned.isOpaque && !picture.isNull() ? picture.convertToFormat(QImage::Format_RGB32) : picture;
 }

@@ -21,6 +21,7 @@ struct PlannedScene
     Playback state;   ///< what a skinned mesh is posed by; StillPose is the pose of this state
     QSize size;       ///< pixels
     QColor background;
+    bool isOpaque = false; ///< pictures have no alpha, whatever was painted
 };
 
 /// Poses the model on the card, and what of the frame depends on that, as a frame of the state's block has

@@ -151,6 +151,13 @@ public:
 
     /// What the view shows as a picture of another size; null when it cannot be painted.
     QImage picture(const QSize &size, const QColor &background);
+    /// The frame of such a picture, for whoever paints it elsewhere, and the model it is of; null while there
+    /// is none.
+    SceneFrame still(const QSize &size) const { return m_scene.still(size, m_camera, height()); }
+    const GLMesh *model() const { return m_scene.model(); }
+    bool isSkinned() const { return m_scene.frame.skinned; }
+    /// Where its middle stands in the view's space, as it is posed.
+    QVector3D modelMiddle() const { return m_sight.modelMiddle(); }
     QColor backgroundColor() const { return m_scene.background(); }
 
     const Camera &camera() const { return m_camera; }

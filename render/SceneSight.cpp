@@ -198,3 +198,8 @@ std::vector<QVector3D> SceneSight::selectedPlaces(const ModelSelection &selectio
     }
     return upright(std::move(places));
 }
+
+QVector3D SceneSight::modelMiddle() const
+{
+    return BoundingSphere::of(modelPlaces()).middle;
+}

@@ -31,6 +31,8 @@ public:
     // has a place it is the whole model.
     std::vector<QVector3D> modelPlaces(int *strays = nullptr) const;
     std::vector<QVector3D> selectedPlaces(const ModelSelection &selection) const;
+    /// Of the sphere around the whole model.
+    QVector3D modelMiddle() const;
 
 private:
     int surfaceAt(const QPoint &pixel, QVector3D *place, int *bone = nullptr) const;

@@ -205,16 +205,21 @@ void ShownScene::paint(const Camera &camera)
         m_clock->end();
 }
 
-QImage ShownScene::picture(const QSize &size, const QColor &color, const Camera &camera, int viewHeight)
+SceneFrame ShownScene::still(const QSize &size, const Camera &camera, int viewHeight) const
 {
-    refresh();
     SceneFrame still = frame;
     still.gizmoHover = {};
     still.view = camera.viewMatrix();
     still.projection = camera.projectionMatrix(size.width(), size.height());
     // Marks are as large beside the model as they are in the view.
     still.viewport = QSize(size.width() * viewHeight / std::max(1, size.height()), viewHeight);
-    const QImage image = paintPicture(*m_painter, still, size, color);
+    return still;
+}
+
+QImage ShownScene::picture(const QSize &size, const QColor &color, const Camera &camera, int viewHeight)
+{
+    refresh();
+    const QImage image = paintPicture(*m_painter, still(size, camera, viewHeight), size, color);
     applyBackground();
     return image;
 }

@@ -71,7 +71,9 @@ public:
     void setMeasured(bool on) { m_isMeasured = on; }
     /// Milliseconds a frame, as CardClock::takeMean() tells them.
     std::optional<float> takeCardTime() { return m_clock ? m_clock->takeMean() : std::nullopt; }
-    /// The same as a picture of another size, beside a view of this height. Null when there is no memory.
+    /// What a picture of another size is painted of, beside a view of this height.
+    SceneFrame still(const QSize &size, const Camera &camera, int viewHeight) const;
+    /// Paints that. Null when there is no memory.
     QImage picture(const QSize &size, const QColor &color, const Camera &camera, int viewHeight);
 
     /// Null while there is none.

@@ -6169,16 +6169,112 @@ Wo keine Datei ist, bleibt es still.</translation>
         <source>&amp;Save…</source>
         <translation>&amp;Speichern…</translation>
     </message>
+    <message>
+        <source>&amp;Content</source>
+        <translation>&amp;Inhalt</translation>
+    </message>
+    <message>
+        <source>One picture, or a sequence of numbered ones for a video</source>
+        <translation>Ein Bild, oder eine Folge nummerierter Bilder für ein Video</translation>
+    </message>
+    <message>
+        <source>The view as it is</source>
+        <translation>Die Ansicht, wie sie ist</translation>
+    </message>
+    <message>
+        <source>Frames of the animation</source>
+        <translation>Frames der Animation</translation>
+    </message>
+    <message>
+        <source>Turntable</source>
+        <translation>Drehteller</translation>
+    </message>
+    <message>
+        <source>&amp;Pictures of a turn</source>
+        <translation>Bilder &amp;je Umdrehung</translation>
+    </message>
+    <message>
+        <source>How many pictures a whole turn around the model has; the camera goes around the middle of the model as it stands</source>
+        <translation>Wie viele Bilder eine ganze Umdrehung um das Modell hat; die Kamera geht um die Mitte des Modells, wie es steht</translation>
+    </message>
+    <message>
+        <source>The animation goes on from picture to picture; the shorter of turn and frames begins anew until the longer ends</source>
+        <translation>Die Animation läuft von Bild zu Bild weiter; was von Umdrehung und Frames kürzer ist, beginnt von vorn, bis das Längere endet</translation>
+    </message>
+    <message>
+        <source>&amp;Move the model meanwhile</source>
+        <translation>&amp;Modell dabei bewegen</translation>
+    </message>
+    <message>
+        <source>&amp;First frame</source>
+        <translation>E&amp;rster Frame</translation>
+    </message>
+    <message>
+        <source>The frames that are selected on the timeline, at first; otherwise all of the animation</source>
+        <translation>Zuerst die Frames, die auf der Zeitleiste ausgewählt sind; sonst alle der Animation</translation>
+    </message>
+    <message>
+        <source>&amp;Last frame</source>
+        <translation>&amp;Letzter Frame</translation>
+    </message>
+    <message>
+        <source>St&amp;ep</source>
+        <translation>S&amp;chrittweite</translation>
+    </message>
+    <message>
+        <source>From one frame to the next: 2 leaves out every other one</source>
+        <translation>Von einem Frame zum nächsten: 2 lässt jeden zweiten aus</translation>
+    </message>
+    <message>
+        <source>F&amp;older</source>
+        <translation>&amp;Ordner</translation>
+    </message>
+    <message>
+        <source>The folder for the pictures; it is made where there is none</source>
+        <translation>Der Ordner für die Bilder; er wird angelegt, wo es ihn nicht gibt</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation>&amp;Durchsuchen…</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the pictures</source>
+        <translation>Den Ordner für die Bilder wählen</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Name</translation>
+    </message>
+    <message>
+        <source>What the names of the pictures begin with; their number follows</source>
+        <translation>Womit die Namen der Bilder beginnen; ihre Nummer folgt</translation>
+    </message>
+    <message>
+        <source>This is no whole path of a folder.</source>
+        <translation>Das ist kein vollständiger Pfad eines Ordners.</translation>
+    </message>
+    <message>
+        <source>This is no name of a file.</source>
+        <translation>Das ist kein Name einer Datei.</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>%1 to %2 (pictures: %3)</source>
+        <translation>%1 bis %2 (Bilder: %3)</translation>
+    </message>
+    <message>
+        <source>Folder for the Pictures</source>
+        <translation>Ordner für die Bilder</translation>
+    </message>
 </context>
 <context>
     <name>PictureSaver</name>
     <message>
         <source>Save Pictur&amp;e…</source>
         <translation>Bild speicher&amp;n…</translation>
-    </message>
-    <message>
-        <source>Save what the view shows as a picture</source>
-        <translation>Speichern, was die Ansicht zeigt, als Bild</translation>
     </message>
     <message>
         <source>Save Picture</source>
@@ -6199,6 +6295,14 @@ Wo keine Datei ist, bleibt es still.</translation>
     <message>
         <source>[Save Picture] &apos;%1&apos;: %2</source>
         <translation>[Bild speichern] &apos;%1&apos;: %2</translation>
+    </message>
+    <message>
+        <source>Save what the view shows as a picture, or as many for a video</source>
+        <translation>Speichert, was die Ansicht zeigt, als Bild, oder als viele für ein Video</translation>
+    </message>
+    <message>
+        <source>picture</source>
+        <translation>bild</translation>
     </message>
 </context>
 <context>
@@ -8048,6 +8152,41 @@ Alles andere funktioniert weiter.</translation>
     <message>
         <source>&amp;Apply</source>
         <translation>&amp;Anwenden</translation>
+    </message>
+</context>
+<context>
+    <name>SequenceSaver</name>
+    <message>
+        <source>Save Picture</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>%1 of the pictures exist already, the first as &apos;%2&apos;. Replace them?</source>
+        <translation>%1 der Bilder gibt es schon, das erste als &apos;%2&apos;. Sollen sie ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Es ist nicht genügend Arbeitsspeicher vorhanden.</translation>
+    </message>
+    <message>
+        <source>the graphics driver cannot paint a picture of %1 by %2 pixels</source>
+        <translation>der Grafiktreiber kann kein Bild von %1 mal %2 Pixeln malen</translation>
+    </message>
+    <message>
+        <source>The folder cannot be made.</source>
+        <translation>Der Ordner kann nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>Saving pictures in &apos;%1&apos;</source>
+        <translation>Bilder werden in &apos;%1&apos; gespeichert</translation>
+    </message>
+    <message>
+        <source>[Save Picture] &apos;%1&apos;: %2</source>
+        <translation>[Bild speichern] &apos;%1&apos;: %2</translation>
+    </message>
+    <message>
+        <source>Pictures saved in %1: %2 of %3</source>
+        <translation>Bilder gespeichert in %1: %2 von %3</translation>
     </message>
 </context>
 <context>

@@ -2,29 +2,32 @@
 // SPDX-License-Identifier: MIT
 #include "PictureSaver.h"
 
+#include "AnimFile.h"
+#include "FileNames.h"
 #include "Icons.h"
 #include "KVOpenGLWidget.h"
 #include "Log.h"
 #include "PictureDialog.h"
+#include "PictureOutput.h"
+#include "Playback.h"
 #include "SavePath.h"
 #include "Settings.h"
-#include "WholeFile.h"
 
 #include <QAction>
-#include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QImageWriter>
 
-PictureSaver::PictureSaver(QWidget *window)
+PictureSaver::PictureSaver(SkinnedMeshDocument &skinned, AnimDocument &anim, StaticMeshDocument &rigid,
+                           QWidget *window)
     : QObject(window)
     , m_window(window)
+    , m_sequences(skinned, anim, rigid)
     , m_action(new QAction(namedIcon(QStringLiteral("frame")), tr("Save Pictur&e…"), window))
 {
     m_action->setObjectName(QStringLiteral("actionSavePicture"));
     m_action->setShortcut(Qt::Key_F12);
-    m_action->setStatusTip(tr("Save what the view shows as a picture"));
+    m_action->setStatusTip(tr("Save what the view shows as a picture, or as many for a video"));
     m_action->setToolTip(m_action->statusTip());
     m_action->setEnabled(false);
     connect(m_action, &QAction::triggered, this, &PictureSaver::on_actionSavePicture_triggered);
@@ -43,16 +46,36 @@ void PictureSaver::setSource(KVOpenGLWidget *viewport, const QString &name)
 
 void PictureSaver::on_actionSavePicture_triggered()
 {
-    PictureDialog dialog(m_viewport->size() * m_viewport->devicePixelRatioF(), m_window);
+    PictureSubject subject;
+    subject.viewSize = m_viewport->size() * m_viewport->devicePixelRatioF();
+    subject.name = FileNames::portable(QFileInfo(m_name).completeBaseName());
+    if (subject.name.isEmpty())
+        subject.name = tr("picture");
+    const Playback &state = playback();
+    const AnimBlock *block = m_viewport->isSkinned() ? playableBlock(state) : nullptr;
+    if (block) {
+        subject.frameCount = block->frameCount();
+        subject.selected = state.range;
+    }
+    PictureDialog dialog(subject, m_window);
     if (dialog.exec() != QDialog::Accepted)
         return;
+    if (dialog.kind() == PictureDialog::View)
+        return saveOne(dialog.pictureSize(), dialog.isTransparent());
+    const QString outcome = m_sequences.save(*m_viewport, dialog, m_window);
+    if (!outcome.isEmpty())
+        emit told(outcome);
+}
+
+void PictureSaver::saveOne(const QSize &size, bool transparent)
+{
     const QString path = chooseSavePath(m_window, tr("Save Picture"), Settings::PicturePath.value(),
                                         tr("PNG pictures (*.png)"), QStringLiteral("png"),
                                         QFileInfo(m_name).completeBaseName() + QStringLiteral(".png"));
     if (path.isEmpty())
         return;
     Settings::PicturePath.setValue(QFileInfo(path).absolutePath());
-    save(path, dialog.pictureSize(), dialog.isTransparent());
+    save(path, size, transparent);
 }
 
 bool PictureSaver::save(const QString &path, const QSize &size, bool transparent)
@@ -66,11 +89,7 @@ bool PictureSaver::save(const QString &path, const QSize &size, bool transparent
                                 .arg(QString::number(size.width()), QString::number(size.height())));
     if (!transparent)
         picture = picture.convertToFormat(QImage::Format_RGB32);
-    QBuffer bytes;
-    QImageWriter writer(&bytes, "png");
-    if (!writer.write(picture))
-        return refuse(path, writer.errorString());
-    const QString reason = writeWholeFile(path, bytes.data());
+    const QString reason = writePicture(picture, path);
     if (!reason.isEmpty())
         return refuse(path, reason);
     emit told(tr("The picture was saved as %1").arg(QDir::toNativeSeparators(path)));

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "SequenceSaver.h"
+
 #include <QObject>
 
 class KVOpenGLWidget;
@@ -9,13 +11,15 @@ class QAction;
 class QSize;
 class QWidget;
 
-/// Saves what a viewport shows as a picture.
+/// Saves what a viewport shows as a picture, or as a sequence of them.
 class PictureSaver : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit PictureSaver(QWidget *window);
+    /// The models of the documents are those that viewports show.
+    PictureSaver(SkinnedMeshDocument &skinned, AnimDocument &anim, StaticMeshDocument &rigid,
+                 QWidget *window);
 
     QAction *action() const { return m_action; }
     /// Whose picture the action takes, and the name it proposes; null disables it, and so does a viewport
@@ -33,9 +37,11 @@ private slots:
     void on_actionSavePicture_triggered();
 
 private:
+    void saveOne(const QSize &size, bool transparent);
     bool refuse(const QString &path, const QString &reason);
 
     QWidget *m_window;
+    SequenceSaver m_sequences;
     QAction *m_action;
     KVOpenGLWidget *m_viewport = nullptr;
     QString m_name;

@@ -70,7 +70,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_transforms(new ModelTransforms(m_skinnedMesh, m_staticMesh, this))
     , m_importExport(new ImportExport(m_skinnedMesh, m_anim, m_staticMesh, *m_files, this))
     , m_problems(new Problems(m_skinnedMesh, m_anim, m_staticMesh, this))
-    , m_pictures(new PictureSaver(this))
+    , m_pictures(new PictureSaver(m_skinnedMesh, m_anim, m_staticMesh, this))
 {
     m_ui->setupUi(this);
     setNamedIcons(*this);

@@ -12,8 +12,6 @@
 #include <limits>
 
 namespace {
-// Narrower than the viewport's, which flies among models: a whole model looks less distorted so.
-constexpr float LensAngle = 30.0f; // vertical, degrees
 constexpr float FrameRoom = 1.06f;
 constexpr float LeastDistance = 1.0e-3f; // of the eye from the nearest point, relative to its place
 
@@ -35,9 +33,9 @@ float aspectOf(const QSize &size)
 }
 
 /// Of half the vertical angle that is filled.
-float lensTangent()
+float lensTangent(float lens)
 {
-    return std::tan(qDegreesToRadians(0.5f * LensAngle)) / FrameRoom;
+    return std::tan(qDegreesToRadians(0.5f * lens)) / FrameRoom;
 }
 } // namespace
 
@@ -95,11 +93,11 @@ float VisionExtent::middle(int axis, float low, float high, float eyeZ) const
     return 0.5f * (low + high);
 }
 
-Framing frameAll(const std::vector<QVector3D> &points, float yaw, float pitch, const QSize &size)
+Framing frameAll(const std::vector<QVector3D> &points, float yaw, float pitch, const QSize &size, float lens)
 {
     const QMatrix4x4 turn = turnToCamera(yaw, pitch);
     const float aspect = aspectOf(size);
-    const float tangentY = lensTangent();
+    const float tangentY = lensTangent(lens);
     const VisionExtent extent(points, turn, tangentY * aspect, tangentY);
     const QVector3D eye = extent.eye(LeastDistance * std::max(1.0f, std::fabs(extent.nearest())));
 
@@ -107,18 +105,18 @@ Framing frameAll(const std::vector<QVector3D> &points, float yaw, float pitch, c
     // Beyond a few thousand to one the depth buffer could not tell the model's parts apart.
     const float nearPlane = std::max(0.5f * (eye.z() - extent.nearest()), depth / 4096.0f);
     Framing framing;
-    framing.projection.perspective(LensAngle, aspect, nearPlane, 1.1f * depth + nearPlane);
+    framing.projection.perspective(lens, aspect, nearPlane, 1.1f * depth + nearPlane);
     framing.view.translate(-eye);
     framing.view *= turn;
     return framing;
 }
 
-OutermostPoints::OutermostPoints(float yaw, float pitch, const QSize &size)
+OutermostPoints::OutermostPoints(float yaw, float pitch, const QSize &size, float lens)
 {
     const QMatrix4x4 turn = turnToCamera(yaw, pitch);
     const QVector3D right = turn.row(0).toVector3D(), up = turn.row(1).toVector3D(),
                     back = turn.row(2).toVector3D();
-    const float tangentY = lensTangent();
+    const float tangentY = lensTangent(lens);
     const float tangentX = tangentY * aspectOf(size);
     m_outward = {right + tangentX * back,
                  -right + tangentX * back,

@@ -43,6 +43,10 @@ private:
     bool m_isEmpty = true;
 };
 
+/// Of a still camera, vertical, in degrees. Narrower than the viewport's, which flies among models: a whole
+/// model looks less distorted so.
+constexpr float UsualStillLens = 30.0f;
+
 /// Where a still camera stands, as a frame is painted with it.
 struct Framing
 {
@@ -53,8 +57,9 @@ struct Framing
 /// The nearest camera that has all of `points` (in the view's y-up space) in a picture of this size, with a
 /// little room around them. `yaw` goes around the model: 0 degrees stand before its front, 90 see its left
 /// side; `pitch`, -90 to 90 degrees, looks down from above. Points that are not finite do not count; without
-/// points the origin is in view.
-Framing frameAll(const std::vector<QVector3D> &points, float yaw, float pitch, const QSize &size);
+/// points the origin is in view. `lens` is the vertical field of view in degrees, above 0 and below 180.
+Framing frameAll(const std::vector<QVector3D> &points, float yaw, float pitch, const QSize &size,
+                 float lens = UsualStillLens);
 
 /// Of many points the few that decide how far away the camera of frameAll() stands, so that those of many
 /// poses need not be kept: it has all of them in its picture when it has these.
@@ -62,7 +67,7 @@ class OutermostPoints
 {
 public:
     /// As for frameAll().
-    OutermostPoints(float yaw, float pitch, const QSize &size);
+    OutermostPoints(float yaw, float pitch, const QSize &size, float lens = UsualStillLens);
 
     void add(const std::vector<QVector3D> &points);
     /// The circles on which these points go around the upright axis through `pivot`.

@@ -191,7 +191,7 @@ struct EveryWindow
     RecoverDialog recover;
     CrashReportDialog crash;
     CommandPalette palette;
-    PictureDialog picture{{640, 480}, nullptr};
+    PictureDialog picture{{{640, 480}, QStringLiteral("a"), 10, {}}, nullptr};
     ModelUpdateDialog update{QStringLiteral("a.glb"), QStringLiteral("a.skinnedmesh"), someUpdate(), nullptr};
     AnimDocument anim{DocumentType::Anim, RecordKind::AnimFile};
     SkinnedMeshDocument mesh{DocumentType::SkinnedMesh, RecordKind::SkinnedMesh};

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "AnimationFollower.h"
 #include "FloatSpinBox.h"
-#include "FullDisk.h"
 #include "Hand.h"
 #include "KVOpenGLWidget.h"
 #include "NoticeBar.h"
@@ -444,61 +443,6 @@ private slots:
         QVERIFY(orange() > one);
     }
 
-    void picturesAreSaved()
-    {
-        MainWindow empty;
-        QVERIFY(!find<QAction>(empty, "actionSavePicture")->isEnabled());
-        const auto window = open();
-        auto *action = find<QAction>(*window, "actionSavePicture");
-        auto *view = find<KVOpenGLWidget>(*window, "viewSkinned");
-        QTest::keyClick(view, Qt::Key_Home);
-        const QString path = m_files->path(QStringLiteral("shots of it.png"));
-        {
-            const Hand hand({pictureOf(320, true), Hand::file(path)});
-            action->trigger();
-            QCOMPARE(hand.seen.size(), 2);
-        }
-        const QImage clear(path);
-        QCOMPARE(clear.width(), 320);
-        QCOMPARE(clear.height(), qRound(320.0 * view->height() / view->width()));
-        QCOMPARE(clear.pixelColor(1, 1).alpha(), 0);
-        QCOMPARE(clear.pixelColor(160, clear.height() / 2 + 20), QColor(Qt::white));
-        QVERIFY(window->statusBar()->currentMessage().contains(QStringLiteral("shots of it.png")));
-
-        // Asked again it knows the answers; the view may have had other proportions then.
-        Settings::PictureSize.setValue({320, 7});
-        {
-            const Hand hand(
-                {[&clear](QDialog *dialog) {
-                     QCOMPARE(find<IntSpinBox>(*dialog, "sbPictureWidth")->value(), 320);
-                     QCOMPARE(find<IntSpinBox>(*dialog, "sbPictureHeight")->value(), clear.height());
-                     auto *box = find<QCheckBox>(*dialog, "cbTransparent");
-                     QVERIFY(box->isChecked());
-                     box->click();
-                     dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save)->click();
-                 },
-                 Hand::file(m_files->path("second"))});
-            action->trigger();
-        }
-        const QImage whole(m_files->path("second.png"));
-        QVERIFY(!whole.hasAlphaChannel());
-        QCOMPARE(whole.pixelColor(1, 1), Settings::BGColor.value());
-
-        if (!FullDisk::IsPossible)
-            return;
-        const QString small = m_files->path("small.png");
-        std::optional<FullDisk> disk;
-        const Hand hand({pictureOf(64, false),
-                         [&disk, &small](QDialog *dialog) {
-                             disk.emplace(100);
-                             Hand::file(small)(dialog);
-                         },
-                         Hand::press(QMessageBox::Ok)});
-        action->trigger();
-        QCOMPARE(hand.seen.last(), "File error|Failed to save\n" + small + "|File too large");
-        QVERIFY(!QFileInfo::exists(small));
-    }
-
 private:
     /// A window that shows the man with its skinned view in front, posed.
     std::unique_ptr<MainWindow> open(const QStringList &more = {})
@@ -515,18 +459,6 @@ private:
         view->setFocus();
         view->grabFramebuffer();
         return window;
-    }
-    static Hand::Answer pictureOf(int width, bool transparent)
-    {
-        return [width, transparent](QDialog *dialog) {
-            auto *box = find<IntSpinBox>(*dialog, "sbPictureWidth");
-            box->setFocus();
-            box->selectAll();
-            QTest::keyClicks(box, QString::number(width));
-            QTest::keyClick(box, Qt::Key_Tab);
-            find<QCheckBox>(*dialog, "cbTransparent")->setChecked(transparent);
-            dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save)->click();
-        };
     }
 
     std::optional<ProgramFolder> m_files;

@@ -8,10 +8,9 @@
 #include "Output.h"
 #include "ReplacedFiles.h"
 #include "Settings.h"
+#include "TargetFiles.h"
 #include "Verbs.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QRegularExpression>
 
 #include <numeric>
@@ -303,10 +302,7 @@ int animate(const QStringList &arguments)
         QStringLiteral(
             "The animation, counted from 0; may be given several times. Of 'copy-from' one of SOURCE."));
     line.flag(QStringLiteral("all"), QStringLiteral("All animations; those that cannot be changed stay."));
-    line.option({QStringLiteral("o"), QStringLiteral("output")}, QStringLiteral("file"),
-                QStringLiteral("Write into this file; of several files, into this folder."));
-    line.flag(QStringLiteral("in-place"), QStringLiteral("Write into FILE itself."));
-    line.flag(QStringLiteral("force"), QStringLiteral("Replace other files that exist."));
+    TargetFiles::addOptions(line);
     line.flag(QStringLiteral("keep-speed"),
               QStringLiteral("Of 'resample': the motion takes longer or shorter."));
     line.option({QStringLiteral("around")}, QStringLiteral("which"),
@@ -348,28 +344,9 @@ int animate(const QStringList &arguments)
         return line.refuse(QStringLiteral("Either --block or --all says which animations."));
     job.mesh = line.value(QStringLiteral("mesh"));
     job.sourceMesh = line.value(QStringLiteral("source-mesh"));
-    const bool isInPlace = line.isSet(QStringLiteral("in-place"));
-    const QString output = line.value(QStringLiteral("output"));
-    if (isInPlace && !output.isEmpty())
-        return line.refuse(QStringLiteral("Either -o or --in-place says where to."));
-    const bool isFolder = !output.isEmpty() && (files.size() > 1 || QFileInfo(output).isDir());
-    if (isFolder && !QFileInfo(output).isDir())
-        return line.refuse(QStringLiteral("There is no folder '%1'.").arg(output));
-
-    int exitCode = Fine;
-    for (const QString &file : qAsConst(files)) {
-        const QString target = isInPlace  ? file
-                               : isFolder ? QDir(output).filePath(QFileInfo(file).fileName())
-                                          : output;
-        if (!target.isEmpty() && !isInPlace && !line.isSet(QStringLiteral("force")) && isTaken(target)) {
-            Output::refuseToReplace({target});
-            exitCode = Failed;
-            continue;
-        }
-        if (files.size() > 1)
-            Output::line(file);
-        if (animateFile(job, file, target) != Fine)
-            exitCode = Failed;
-    }
-    return exitCode;
+    TargetFiles targets;
+    if (const auto end = targets.read(line, files))
+        return *end;
+    return targets.forEach(
+        [&job](const QString &file, const QString &target) { return animateFile(job, file, target); });
 }

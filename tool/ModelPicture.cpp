@@ -74,7 +74,7 @@ QImage ModelPicture::paint(OffscreenScene &scene, const MaterialFolders &folders
     int strays = 0;
     const std::vector<QVector3D> corners = visibleCorners(scene, frame, strays);
     warnOfStrays(m_subject.meshPath, strays);
-    const Framing framing = frameAll(corners, m_wishes.yaw, m_wishes.pitch, m_wishes.size);
+    const Framing framing = frameAll(corners, m_wishes.yaw, m_wishes.pitch, m_wishes.size, m_wishes.lens);
     frame.view = framing.view;
     frame.projection = framing.projection;
     QImage image = scene.paint(frame, m_wishes.size, m_wishes.background);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Framing.h"
 #include "MeshSource.h"
 #include "Playback.h"
 #include "PosedModel.h"
@@ -20,6 +21,7 @@ struct PictureWishes
     QColor background;
     float yaw = 0.0f;   ///< degrees
     float pitch = 0.0f; ///< degrees
+    float lens = UsualStillLens;
     SurfaceLook look = SurfaceLook::Textured;
     QString anim; ///< the file to pose by; empty for the one that belongs to the mesh
     int block = 0;

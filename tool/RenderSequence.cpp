@@ -88,7 +88,7 @@ PlannedScene ModelSequence::frameTogether(OffscreenScene &scene,
     std::vector<QVector3D> corners = cornersAt(first);
     planned.pivot = BoundingSphere::of(corners).middle;
     if (shots.size() > 1) {
-        OutermostPoints outermost(m_wishes.yaw, m_wishes.pitch, m_wishes.size);
+        OutermostPoints outermost(m_wishes.yaw, m_wishes.pitch, m_wishes.size, m_wishes.lens);
         for (int frame = first; frame <= last && !interruption(); ++frame) {
             corners = cornersAt(frame);
             if (plan().turns > 0)
@@ -99,7 +99,7 @@ PlannedScene ModelSequence::frameTogether(OffscreenScene &scene,
         corners = outermost.points();
     }
     warnOfStrays(m_subject.meshPath, strays);
-    const Framing framing = frameAll(corners, m_wishes.yaw, m_wishes.pitch, m_wishes.size);
+    const Framing framing = frameAll(corners, m_wishes.yaw, m_wishes.pitch, m_wishes.size, m_wishes.lens);
     planned.frame.view = framing.view;
     planned.frame.projection = framing.projection;
     return planned;

@@ -23,6 +23,8 @@
 namespace {
 constexpr int DefaultYaw = 30;
 constexpr int DefaultPitch = 15;
+constexpr float NarrowestLens = 1.0f;
+constexpr float WidestLens = 120.0f;
 constexpr int MostTurns = 9999; // pictures of a turntable
 constexpr int SheetSide = 192;  // of a picture on a sheet, unless --size says another
 
@@ -71,12 +73,14 @@ std::optional<PictureWishes> wishesOf(const CommandLine &line)
     wishes.look = *look;
     const auto yaw = line.number(QStringLiteral("yaw"), -36000.0f, 36000.0f);
     const auto pitch = line.number(QStringLiteral("pitch"), -90.0f, 90.0f);
+    const auto lens = line.number(QStringLiteral("lens"), NarrowestLens, WidestLens);
     const auto block = line.integer(QStringLiteral("block"), 0, INT_MAX);
     const auto frame = line.integer(QStringLiteral("frame"), 0, INT_MAX);
-    if (!yaw || !pitch || !block || !frame)
+    if (!yaw || !pitch || !lens || !block || !frame)
         return {};
     wishes.yaw = *yaw;
     wishes.pitch = *pitch;
+    wishes.lens = *lens;
     wishes.block = *block;
     wishes.frame = *frame;
     wishes.isPoseNamed = line.isSet(QStringLiteral("block")) || line.isSet(QStringLiteral("frame"));
@@ -375,6 +379,10 @@ int render(const QStringList &arguments)
         QString::number(DefaultYaw));
     line.option({QStringLiteral("pitch")}, QStringLiteral("degrees"),
                 QStringLiteral("How far it looks down, -90 to 90."), QString::number(DefaultPitch));
+    line.option(
+        {QStringLiteral("lens")}, QStringLiteral("degrees"),
+        QStringLiteral("Vertical field of view, 1 to 120; what is parallel stays so with 1, or nearly."),
+        QString::number(UsualStillLens));
     line.folderOptions(CommandLine::GameFolder::AroundFile);
     if (const auto end = line.parse(arguments, true))
         return *end;

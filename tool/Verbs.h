@@ -24,6 +24,7 @@ int build(const QStringList &arguments);
 int set(const QStringList &arguments);
 int animate(const QStringList &arguments);
 int find(const QStringList &arguments);
+int fitBoxes(const QStringList &arguments);
 int diff(const QStringList &arguments);
 int importModel(const QStringList &arguments);
 int exportModel(const QStringList &arguments);

@@ -21,6 +21,7 @@ constexpr Verb verbs[] = {
     {"build", "make a model of such a text", build},
     {"set", "set fields of a model", set},
     {"animate", "change whole animations", animate},
+    {"fit-boxes", "make boxes as small as their vertices let them be", fitBoxes},
     {"find", "list records that meet a condition", find},
     {"diff", "say in what two models differ", diff},
     {"import", "turn a model of another program into game files", importModel},
@@ -42,7 +43,7 @@ QString usage()
     QString text = QStringLiteral("Usage: korvane-tool VERB [OPTIONS] FILE...\n\n");
     for (const Verb &verb : verbs)
         text +=
-            QStringLiteral("  %1  %2\n").arg(QLatin1String(verb.name), -7).arg(QLatin1String(verb.summary));
+            QStringLiteral("  %1  %2\n").arg(QLatin1String(verb.name), -9).arg(QLatin1String(verb.summary));
     return text + QStringLiteral("\n'korvane-tool VERB --help' tells more of a verb, --version the version.\n"
                                  "Exit status: 0 fine, 1 an error in a file or a failure, 2 wrong usage, "
                                  "3 no display to draw with; find and diff have their own.");

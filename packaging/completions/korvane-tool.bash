@@ -17,7 +17,7 @@ _korvane_tool_files() {
 
 _korvane_tool() {
     local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD - 1]} verb=${COMP_WORDS[1]:-}
-    local verbs='info check resave dump build set animate find diff import export render' options=''
+    local verbs='info check resave dump build set animate fit-boxes find diff import export render' options=''
     COMPREPLY=()
 
     if ((COMP_CWORD == 1)) || [[ $verb == help ]]; then
@@ -79,6 +79,7 @@ _korvane_tool() {
     animate)
         options='--block --all --output --in-place --force --keep-speed --around --mesh --source-mesh --help'
         ;;
+    fit-boxes) options='--output --in-place --force --bones --model --anim --game-path --mod-path --help' ;;
     set) options='--output --force --where --help' ;;
     import)
         options='--output --static --force --keep-materials --no-normals --flip-uv --flip-winding --no-rotate --scale
@@ -90,7 +91,7 @@ _korvane_tool() {
         ;;
     render)
         options='--output --each --sheet --columns --force --anim --block --frame --frames --step --turntable --size
-            --background --shading --yaw --pitch --game-path --mod-path --help'
+            --background --shading --yaw --pitch --lens --game-path --mod-path --help'
         ;;
     esac
     if [[ $cur == -* ]]; then
@@ -100,7 +101,7 @@ _korvane_tool() {
 
     case $verb in
     info | check) _korvane_tool_files 'skinnedmesh|anim|staticmesh|kmat' ;;
-    resave | dump | set | find | diff | export | render) _korvane_tool_files 'skinnedmesh|anim|staticmesh' ;;
+    resave | dump | set | fit-boxes | find | diff | export | render) _korvane_tool_files 'skinnedmesh|anim|staticmesh' ;;
     animate)
         _korvane_tool_files anim
         mapfile -t -O "${#COMPREPLY[@]}" COMPREPLY < <(compgen -W 'resample rate reverse trim shift close-loop mirror

@@ -81,6 +81,12 @@ private slots:
         QVERIFY(!front.isNull());
         QVERIFY(seenFrom("--yaw 180 --pitch 0") != front);
         QVERIFY(covered(seenFrom("--yaw 0 --pitch 90")).height() < covered(front).height());
+        // Whatever the lens, the whole model fills the picture.
+        for (const char *lens : {"--lens 1", "--lens 110"}) {
+            const QImage seen = seenFrom(lens);
+            QVERIFY(seen != seenFrom({}) && QRect(1, 1, 126, 126).contains(covered(seen)));
+            QVERIFY(covered(seen).height() > 0.85 * 128);
+        }
     }
 
     void failures()

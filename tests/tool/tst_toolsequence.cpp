@@ -223,8 +223,7 @@ private:
     QImage single(const QString &words)
     {
         const QString picture = m_folder.path("single.png");
-        const ToolRun run("render --force --size 128 -o",
-                          QStringList{picture} + withSamples(Tinker + words));
+        const ToolRun run("render --force --size 128 -o", QStringList{picture} + withSamples(Tinker + words));
         return run.exitCode == 0 ? QImage(picture) : QImage();
     }
 

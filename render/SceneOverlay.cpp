@@ -17,7 +17,7 @@ constexpr float BallRadius = 8.5f; // in pixels
 constexpr float HoverRim = 3.0f;
 constexpr float AxisWidth = 2.0f;
 
-QRgb faded(QRgb color)
+QRgb softened(QRgb color)
 {
     return (color & 0x00ffffff) | 0x90000000;
 }
@@ -66,7 +66,7 @@ void SceneOverlay::paintGizmo(ShaderPrograms &programs, const QMatrix4x4 &view, 
     for (const AxisGizmo::Ball &ball : AxisGizmo::balls(view, size)) {
         const QRgb color = AxisColors[ball.axis];
         if (!ball.isPositive)
-            m_canvas.line(AxisGizmo::centre(size), ball.pixel, AxisWidth, faded(color));
+            m_canvas.line(AxisGizmo::centre(size), ball.pixel, AxisWidth, softened(color));
         if (hover.side == ball.side)
             m_canvas.disc(ball.pixel, BallRadius + HoverRim, HoverColor);
         m_canvas.disc(ball.pixel, BallRadius, ball.isPositive ? color : dimmed(color));

@@ -4,6 +4,7 @@
 
 #include "Icons.h"
 #include "KVOpenGLWidget.h"
+#include "KeypadShortcuts.h"
 #include "Settings.h"
 #include "TurntableTool.h"
 
@@ -42,6 +43,7 @@ CameraMenu::CameraMenu(const Viewports &viewports, std::function<KVOpenGLWidget 
     addMouse(window);
     connect(all, &QAction::triggered, this, &CameraMenu::OnFrameAll);
     connect(m_frameSelection, &QAction::triggered, this, &CameraMenu::OnFrameSelection);
+    new KeypadShortcuts(viewports, this);
     connect(this, &QMenu::aboutToShow, this, &CameraMenu::showState);
 }
 

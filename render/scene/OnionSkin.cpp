@@ -7,7 +7,7 @@
 #include <algorithm>
 
 namespace {
-constexpr QVector3D Before(0.2f, 0.45f, 1.0f), After(1.0f, 0.5f, 0.1f);
+constexpr QVector3D Before(0.35f, 0.2f, 0.95f), After(1.0f, 0.5f, 0.1f);
 constexpr float MostOpacity = 0.5f; // of the nearest; those farther away fade
 } // namespace
 

@@ -22,6 +22,13 @@ namespace {
 class HandleSight : public FixedSight
 {
 public:
+    /// An orthographic picture is as large where the box and the place are.
+    explicit HandleSight(bool isOrthographic = false)
+    {
+        if (isOrthographic)
+            m_camera.setOrthographic(true, m_camera.eye() + 500.0f * m_camera.sight());
+    }
+
     std::optional<BoxHandle> boxHandle() const override { return hasBox ? box : std::nullopt; }
     std::optional<PointHandle> pointHandle() const override { return point; }
     int boneAt(const QPoint &pixel) const override { return pixel.x() < 200 ? 7 : HitMarks::None; }
@@ -35,12 +42,15 @@ public:
     {
         QMatrix4x4 toEye;
         toEye.translate(0.0f, 0.0f, -500.0f);
-        return {Camera().projectionMatrix(400, 300), toEye, {400, 300}};
+        return {m_camera.projectionMatrix(400, 300), toEye, {400, 300}};
     }
 
     bool hasBox = true;
     std::optional<BoxHandle> box = BoxHandle({-50, -50, -50}, {50, 50, 50}, {});
     std::optional<PointHandle> point;
+
+private:
+    Camera m_camera;
 };
 
 /// Notes what is dragged: the numbers that changed, "drop" and "giveup".
@@ -78,16 +88,18 @@ void tst_DragTools::facesAreDragged()
                            {"@215,150 L @230,150 cancel l", 100.0f, "grab giveup "},
                            {"@215,150 L @230,150 wide @240,150 l", 100.0f, "grab giveup "},
                            {"@215,150 L R r @230,150 l", 100.0f, "grab drop "}}) {
-        const HandleSight sight;
-        NotedDrags drags;
-        Hand hand("", sight);
-        hand.tools.box->setReceiver(&drags);
-        hand.play(row.words);
-        QVERIFY2(drags.box && drags.box->face == 1, row.words);
-        QVERIFY2(std::fabs(drags.box->box.max.x() - row.max) < 0.1f, row.words);
-        QCOMPARE(drags.box->box.min, QVector3D(-50, -50, -50));
-        QVERIFY2(drags.ends == row.ends && hand.told.empty(), row.words);
-        QVERIFY2(near(hand.way(), {}), row.words);
+        for (const bool orthographic : {false, true}) {
+            const HandleSight sight(orthographic);
+            NotedDrags drags;
+            Hand hand("", sight);
+            hand.tools.box->setReceiver(&drags);
+            hand.play(row.words);
+            QVERIFY2(drags.box && drags.box->face == 1, row.words);
+            QVERIFY2(std::fabs(drags.box->box.max.x() - row.max) < 0.1f, row.words);
+            QCOMPARE(drags.box->box.min, QVector3D(-50, -50, -50));
+            QVERIFY2(drags.ends == row.ends && hand.told.empty(), row.words);
+            QVERIFY2(near(hand.way(), {}), row.words);
+        }
     }
     // The mouse tells what it would take; all keys are the drag's, and elsewhere the camera flies.
     HandleSight sight;
@@ -137,24 +149,26 @@ void tst_DragTools::placesAreDragged()
                            {"@230,120 L @245,135 +x @230,120 l", {100, -100, 0}, 3, "grab drop "},
                            {"@230,120 L @245,135 wide +x l", {50, -150, 0}, 3, "grab giveup "},
                            {"@230,120 L @245,135 +esc @9,9 l", {50, -150, 0}, 3, "grab giveup "}}) {
-        HandleSight sight;
-        sight.hasBox = false;
-        sight.point = PointHandle{{100, -100, 0}, 3, {}};
-        sight.point->toModel.rotate(90.0f, 0.0f, 0.0f, 1.0f);
-        NotedDrags drags;
-        Hand hand("", sight);
-        hand.tools.point->setReceiver(&drags);
-        hand.play(row.words);
-        QVERIFY2(drags.point, row.words);
-        const QVector3D off = drags.point->place - row.place;
-        // Beside its axis the mouse is not quite where the place is.
-        QVERIFY2(off.length() < (drags.point->lock == PointDrag::Lock::Free ? 0.1f : 2.0f),
-                 qPrintable(QStringLiteral("%1: %2 %3 %4")
-                                .arg(QLatin1String(row.words))
-                                .arg(double(drags.point->place.x()))
-                                .arg(double(drags.point->place.y()))
-                                .arg(double(drags.point->place.z()))));
-        QVERIFY2(drags.point->bone == row.bone && drags.ends == row.ends, row.words);
+        for (const bool orthographic : {false, true}) {
+            HandleSight sight(orthographic);
+            sight.hasBox = false;
+            sight.point = PointHandle{{100, -100, 0}, 3, {}};
+            sight.point->toModel.rotate(90.0f, 0.0f, 0.0f, 1.0f);
+            NotedDrags drags;
+            Hand hand("", sight);
+            hand.tools.point->setReceiver(&drags);
+            hand.play(row.words);
+            QVERIFY2(drags.point, row.words);
+            const QVector3D off = drags.point->place - row.place;
+            // Beside its axis the mouse is not quite where the place is.
+            QVERIFY2(off.length() < (drags.point->lock == PointDrag::Lock::Free ? 0.1f : 2.0f),
+                     qPrintable(QStringLiteral("%1: %2 %3 %4")
+                                    .arg(QLatin1String(row.words))
+                                    .arg(double(drags.point->place.x()))
+                                    .arg(double(drags.point->place.y()))
+                                    .arg(double(drags.point->place.z()))));
+            QVERIFY2(drags.point->bone == row.bone && drags.ends == row.ends, row.words);
+        }
     }
     // What does not move keeps its number, whatever the rounding, and a click moves nothing.
     for (int place = 0; place < 24; ++place) {

@@ -5,6 +5,7 @@
 #include "KMat.h"
 #include "ModelJson.h"
 #include "SampleModels.h"
+#include "TestArchive.h"
 
 #include <QDir>
 #include <QFile>
@@ -37,6 +38,17 @@ bool gltfSeed(const QDir &folder, const char *name, const GltfWriter &content)
     QFile file(folder.filePath(QStringLiteral("fuzz_gltf/%1").arg(QLatin1String(name))));
     const QByteArray bytes = content.glb();
     return folder.mkpath(QStringLiteral("fuzz_gltf")) && file.open(QIODevice::WriteOnly) &&
+           file.write(bytes) == bytes.size();
+}
+
+bool archiveSeed(const QDir &folder, const char *name, bool isZip64)
+{
+    TestArchive made;
+    made.add("models/a.skinnedmesh", QByteArray(300, 'a'));
+    made.add({"b", "stored", false});
+    QFile file(folder.filePath(QStringLiteral("fuzz_archive/%1").arg(QLatin1String(name))));
+    const QByteArray bytes = made.bytes(-1, isZip64);
+    return folder.mkpath(QStringLiteral("fuzz_archive")) && file.open(QIODevice::WriteOnly) &&
            file.write(bytes) == bytes.size();
 }
 
@@ -76,8 +88,8 @@ int main(int argc, char **argv)
                  exportGltf(plainMesh(), &anim, allBlocks(anim), GltfSource(), messages)) &&
         gltfSeed(folder, "static", exportGltf(plainStatic(), GltfSource(), messages)) &&
         jsonSeed(folder, "skinned", {skinnedMesh(), {}}) && jsonSeed(folder, "anim", {animFile(), "more"}) &&
-        jsonSeed(folder, "static", {staticMesh(), {}}) &&
-        seed(folder, "fuzz_skinnedmesh", "everything", skinnedMesh()) &&
+        jsonSeed(folder, "static", {staticMesh(), {}}) && archiveSeed(folder, "two_entries", false) &&
+        archiveSeed(folder, "zip64", true) && seed(folder, "fuzz_skinnedmesh", "everything", skinnedMesh()) &&
         seed(folder, "fuzz_skinnedmesh", "no_surfaces", withoutSurfaces()) &&
         seed(folder, "fuzz_anim", "everything", animFile()) &&
         seed(folder, "fuzz_anim", "one_block", block) &&

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "GltfTextures.h"
 
+#include "Files.h"
 #include "GltfWriter.h"
 #include "ImportMessages.h"
 #include "PictureFile.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
 
 namespace {
@@ -42,11 +42,10 @@ bool hasHolesIn(QImage image)
 /// Returns true on failure.
 bool readForExport(const QString &path, ExportPicture &picture)
 {
-    QFile file(path);
-    // Opening a pipe would wait for a writer for ever.
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+    const std::unique_ptr<QIODevice> file = Files::open(path);
+    if (!file)
         return true;
-    picture.file.bytes = file.readAll();
+    picture.file.bytes = file->readAll();
     QBuffer bytes(&picture.file.bytes);
     bytes.open(QIODevice::ReadOnly);
     const auto [image, format] = readPicture(bytes);

@@ -3,22 +3,19 @@
 #include "ImportOutput.h"
 
 #include "FileSystem.h"
+#include "Files.h"
 #include "WholeFile.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QSet>
 
 Copied copyWhole(const QString &source, const QString &target)
 {
-    QFile from(source);
-    // Opening a pipe would wait for a writer for ever.
-    if (!QFileInfo(source).isFile() || !from.open(QIODevice::ReadOnly))
-        return Copied::NotRead;
-    const QByteArray bytes = from.readAll();
-    if (from.error() != QFile::NoError)
+    const std::unique_ptr<QIODevice> from = Files::open(source);
+    const QByteArray bytes = from ? from->readAll() : QByteArray();
+    if (!from || bytes.size() < from->size())
         return Copied::NotRead;
     return writeWholeFile(target, bytes).isEmpty() ? Copied::Yes : Copied::NotWritten;
 }

@@ -4,6 +4,7 @@
 
 #include "FileNames.h"
 #include "FileSystem.h"
+#include "Files.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -22,11 +23,9 @@ QString numbered(const QString &path, int number)
 /// False when either cannot be read.
 bool haveSameBytes(const QString &one, const QString &other)
 {
-    QFile a(one);
-    QFile b(other);
-    // Opening a pipe would wait for a writer for ever.
-    return QFileInfo(one).isFile() && QFileInfo(other).isFile() && a.size() == b.size() &&
-           a.open(QIODevice::ReadOnly) && b.open(QIODevice::ReadOnly) && a.readAll() == b.readAll();
+    const std::unique_ptr<QIODevice> a = Files::open(one);
+    const std::unique_ptr<QIODevice> b = Files::open(other);
+    return a && b && a->size() == b->size() && a->readAll() == b->readAll();
 }
 } // namespace
 
@@ -51,7 +50,7 @@ std::vector<FileCopy> copiesInto(const QString &folder, const QStringList &files
     for (const QString &file : files) {
         FileCopy copy{file, ownTarget(file)};
         // One that is not there keeps its name: what stands at another is none of its business.
-        for (int number = 2; QFileInfo(file).isFile() && !fits(copy); ++number)
+        for (int number = 2; Files::isFile(file) && !fits(copy); ++number)
             copy.target = numbered(ownTarget(file), number);
         const QString target = FileSystem::comparable(copy.target);
         if (!sources.contains(target))
@@ -83,8 +82,7 @@ bool wouldReplace(const QByteArray &bytes, const QString &path)
 
 bool wouldReplace(const FileCopy &copy)
 {
-    return QFileInfo(copy.source).isFile() && isTaken(copy.target) &&
-           !haveSameBytes(copy.source, copy.target);
+    return Files::isFile(copy.source) && isTaken(copy.target) && !haveSameBytes(copy.source, copy.target);
 }
 
 QStringList replacedTargets(const std::vector<FileCopy> &copies)

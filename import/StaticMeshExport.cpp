@@ -3,6 +3,7 @@
 #include "StaticMeshExport.h"
 
 #include "FileNames.h"
+#include "Files.h"
 #include "ImportOutput.h"
 #include "ImportWorker.h"
 #include "MaterialFiles.h"
@@ -21,8 +22,7 @@ Q_LOGGING_CATEGORY(exportLog, "korvane.export", QtInfoMsg)
 QString textureFile(const QString &texture, const MaterialFiles &materials, ImportMessages &messages)
 {
     const QStringList paths = materials.candidates(texture);
-    const auto found = std::find_if(paths.begin(), paths.end(),
-                                    [](const QString &path) { return QFileInfo(path).isFile(); });
+    const auto found = std::find_if(paths.begin(), paths.end(), Files::isFile);
     if (found != paths.end())
         return *found;
     const QString path = paths.isEmpty() ? texture : paths.last();
@@ -128,9 +128,8 @@ bool ExportedFiles::place(const ImportWorker &worker, ImportMessages &messages) 
     }
     bool failed = false;
     for (const FileCopy &texture : distinctCopies(m_textures, messages))
-        failed =
-            (QFileInfo(texture.source).isFile() && copyTexture(texture.source, texture.target, messages)) ||
-            failed;
+        failed = (Files::isFile(texture.source) && copyTexture(texture.source, texture.target, messages)) ||
+                 failed;
     if (failed)
         messages.addError(
             QCoreApplication::translate("Import", "[Static Mesh Export] Not all textures could be copied."));

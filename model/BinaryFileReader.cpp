@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "BinaryFileReader.h"
 
+#include "Files.h"
+
 #include <QCoreApplication>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <cstring>
@@ -17,12 +18,15 @@ constexpr qint64 MaxChunkBytes = 4 * 1024 * 1024; // between two looks whether t
 } // namespace
 
 BinaryFileReader::BinaryFileReader(const QString &path)
-    : m_file(path)
 {
-    // Opening a pipe would wait for a writer for ever.
-    if (!QFileInfo(path).isFile() || !m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    QString reason;
+    m_file = Files::open(path, &reason, QIODevice::ReadOnly | QIODevice::Unbuffered);
+    if (!m_file) {
+        if (!Files::archiveOf(path).isEmpty())
+            setErrorText(reason);
         return;
-    const qint64 size = m_file.size();
+    }
+    const qint64 size = m_file->size();
     if (size > MaxFileBytes) {
         setErrorText(QCoreApplication::translate("ModelFiles", "The file is 2 GiB or larger."));
         return;
@@ -52,6 +56,8 @@ void BinaryFileReader::setErrorText(const QString &text)
 
 void BinaryFileReader::failAtEnd(const char *typeName)
 {
+    if (!m_failure.isEmpty())
+        return setErrorText(m_failure);
     setErrorText(QCoreApplication::translate(
                      "ModelFiles", "Attempting to read %1 value from file, but reached end of file.")
                      .arg(QLatin1String(typeName)));
@@ -156,7 +162,9 @@ qint64 BinaryFileReader::readFile(uchar *to, qint64 bytes)
     qint64 got = 0;
     while (got < bytes && !(m_progress && m_progress->isCancelled)) {
         const qint64 chunk =
-            m_file.read(reinterpret_cast<char *>(to) + got, std::min(bytes - got, MaxChunkBytes));
+            m_file->read(reinterpret_cast<char *>(to) + got, std::min(bytes - got, MaxChunkBytes));
+        if (chunk < 0)
+            m_failure = m_file->errorString();
         if (chunk <= 0)
             break;
         got += chunk;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QFile>
+#include <QIODevice>
 #include <QString>
 #include <QVector2D>
 #include <QVector3D>
@@ -28,8 +28,9 @@ struct ReadProgress
 class BinaryFileReader
 {
 public:
-    /// Opens the file or toolkit resource at `path` for as long as the reader lives. Anything else (a
-    /// folder, a pipe) is not opened, and the error text stays empty. A file of 2 GiB or more is not opened
+    /// Opens the file or toolkit resource at `path`, in a folder or an archive, for as long as the reader
+    /// lives. Anything else (a folder, a pipe) is not opened, and the error text stays empty; it says why
+    /// where an archive does not give the file. A file of 2 GiB or more is not opened
     /// either; that sets the error text. A file cut off while it is read ends where it was cut.
     explicit BinaryFileReader(const QString &path);
 
@@ -107,7 +108,7 @@ private:
     // Reading goes through a small window, since a second copy of a big file costs more than parsing it;
     // long arrays go straight to their place. Mapping would be as quick, but a file cut off meanwhile
     // would then end the program.
-    QFile m_file;
+    std::unique_ptr<QIODevice> m_file;
     std::unique_ptr<uchar[]> m_window;
     qint64 m_windowBytes = 0;
     qint64 m_size = 0;   ///< of the file
@@ -117,6 +118,7 @@ private:
     bool m_open = false;
     ReadProgress *m_progress = nullptr;
     QString m_errorText;
+    QString m_failure; ///< of the device
 };
 
 /// Appends `count` records to `records` (none for a negative count), each made by `readRecord(reader)`, and

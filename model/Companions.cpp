@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Companions.h"
 
-#include "FolderWalk.h"
+#include "Files.h"
 #include "Validation.h"
 
 #include <QDir>
@@ -45,9 +45,9 @@ Companions::Candidate candidateOf(const QString &path)
 QString folderIn(const QString &parent, const QString &name)
 {
     const QDir dir(parent);
-    if (QFileInfo(dir.filePath(name)).isDir())
+    if (Files::isFolder(dir.filePath(name)))
         return dir.filePath(name);
-    for (const QString &each : dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
+    for (const QString &each : Files::names(parent, Files::Kind::Folder)) {
         if (isSame(each, name))
             return dir.filePath(each);
     }
@@ -77,21 +77,21 @@ Companions::Companions(const MaterialFolders &folders, QStringList listed, std::
     }
 }
 
-const Companions::Files &Companions::filesBelow(const QString &folder)
+const Companions::Below &Companions::filesBelow(const QString &folder)
 {
     const auto known = m_files.constFind(folder);
     if (known != m_files.constEnd())
         return *known;
     QStringList paths;
     int entries = 0;
-    walkFolder(folder, [&](const FolderEntry &entry) {
+    Files::walk(folder, [&](const FolderEntry &entry) {
         if (!entry.isFolder && (entry.path.endsWith(QLatin1String(".anim"), Qt::CaseInsensitive) ||
                                 entry.path.endsWith(QLatin1String(".skinnedmesh"), Qt::CaseInsensitive)))
             paths += entry.path;
         return ++entries < MostEntries && (!m_isCancelled || !m_isCancelled());
     });
     paths.sort(Qt::CaseInsensitive);
-    Files files;
+    Below files;
     for (const QString &path : qAsConst(paths)) {
         files.all += candidateOf(path);
         files.byName[files.all.last().base.toCaseFolded()] += files.all.size() - 1;
@@ -102,7 +102,7 @@ const Companions::Files &Companions::filesBelow(const QString &folder)
 
 QVector<Companions::Candidate> Companions::alikeBelow(const QString &folder, const Candidate &known)
 {
-    const Files &files = filesBelow(folder);
+    const Below &files = filesBelow(folder);
     QVector<int> places =
         files.byName.value(known.base.toCaseFolded()) + files.byFolder.value(known.folder.toCaseFolded());
     std::sort(places.begin(), places.end());
@@ -128,7 +128,7 @@ CompanionFile Companions::find(const QString &file)
 
     QVector<Candidate> beside;
     int alike = 0;
-    for (const QString &name : QDir(folder).entryList(QDir::Files, QDir::Name)) {
+    for (const QString &name : Files::names(folder, Files::Kind::File)) {
         beside += candidateOf(QDir(folder).filePath(name));
         alike += isSame(beside.last().suffix, known.suffix) ? 1 : 0;
     }

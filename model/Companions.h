@@ -47,18 +47,18 @@ public:
 
 private:
     /// The files below a folder, found by what is compared.
-    struct Files
+    struct Below
     {
         QVector<Candidate> all;
         QHash<QString, QVector<int>> byName; ///< in one case, as the next
         QHash<QString, QVector<int>> byFolder;
     };
-    const Files &filesBelow(const QString &folder);
+    const Below &filesBelow(const QString &folder);
     /// Those whose name or folder's name are those of `known`, in their order.
     QVector<Candidate> alikeBelow(const QString &folder, const Candidate &known);
 
     QStringList m_roots; ///< of the game and the mod
     QStringList m_listed;
     std::function<bool()> m_isCancelled;
-    QHash<QString, Files> m_files; ///< by the folder that they were looked for in
+    QHash<QString, Below> m_files; ///< by the folder that they were looked for in
 };

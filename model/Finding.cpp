@@ -31,6 +31,7 @@ const RuleRow ruleRows[] = {
     {Rule::NormalZero, "normal-zero", Severity::Warning},
     {Rule::MaterialNotFound, "material-not-found", Severity::Warning},
     {Rule::TextureNotFound, "texture-not-found", Severity::Warning},
+    {Rule::NameCase, "name-case", Severity::Note},
     {Rule::BoneCountMismatch, "bone-count-mismatch", Severity::Error},
     {Rule::AnimationIdRepeated, "animation-id-repeated", Severity::Warning},
     {Rule::TranslationTrackOutOfRange, "translation-track-out-of-range", Severity::Warning},

@@ -37,6 +37,7 @@ enum class Rule {
     NormalZero,
     MaterialNotFound,
     TextureNotFound,
+    NameCase,
     BoneCountMismatch,
     AnimationIdRepeated,
     TranslationTrackOutOfRange,

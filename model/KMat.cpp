@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "KMat.h"
 
+#include "Files.h"
 #include "WholeFile.h"
 
 #include <QBuffer>
@@ -270,12 +271,11 @@ QString readKMat(const QString &path, MaterialTable &table)
 QString readKMat(const QStringList &candidates, MaterialTable &table)
 {
     for (const QString &path : candidates) {
-        QFile file(path);
-        // Opening a pipe would wait for a writer for ever.
-        if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        const std::unique_ptr<QIODevice> file = Files::open(path);
+        if (!file)
             continue;
-        if (file.size() <= MostMaterialBytes)
-            return readKMat(file, path, table);
+        if (file->size() <= MostMaterialBytes)
+            return readKMat(*file, path, table);
         table.clear();
         return tooLarge(path);
     }

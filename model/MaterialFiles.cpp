@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "MaterialFiles.h"
 
+#include "Files.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 
@@ -9,30 +11,9 @@
 
 const QString MaterialFiles::Blank = QStringLiteral("_white");
 
-namespace {
-QString withoutTrailingSeparators(QString folder)
-{
-    while (folder.endsWith(QLatin1Char('/')) || folder.endsWith(QLatin1Char('\\')))
-        folder.chop(1);
-    return folder;
-}
-} // namespace
-
 MaterialFiles::MaterialFiles(const QString &gamePath, const QString &outputDir)
-{
-    for (const QString &folder : {gamePath, outputDir}) {
-        if (!folder.isEmpty())
-            m_folders.append(withoutTrailingSeparators(folder));
-    }
-}
-
-QStringList MaterialFiles::candidates(const QString &relativePath) const
-{
-    QStringList paths;
-    for (const QString &folder : m_folders)
-        paths.append(folder + QLatin1Char('/') + relativePath);
-    return paths;
-}
+    : m_search(gamePath, outputDir)
+{}
 
 MaterialFiles::MaterialFile &MaterialFiles::file(const QString &relativePath)
 {
@@ -47,8 +28,7 @@ MaterialFiles::MaterialFile &MaterialFiles::file(const QString &relativePath)
             QCoreApplication::translate("ModelFiles", "Unable to read .kMat file at %1").arg(relativePath);
     } else {
         made.error = readKMat(paths, made.table);
-        const auto found = std::find_if(paths.begin(), paths.end(),
-                                        [](const QString &path) { return QFileInfo(path).isFile(); });
+        const auto found = std::find_if(paths.begin(), paths.end(), Files::isFile);
         made.path = found != paths.end() ? *found : paths.last();
     }
     return *m_files.insert(relativePath, made);

@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "FileSearch.h"
 #include "KMat.h"
 
 #include <QHash>
 #include <QStringList>
 
-/// The material files of the game folder and the mod folder, searched in that order. Files are kept once
-/// read, the failures too.
+/// The material files of the game and the mod, searched in that order. Files are kept once read, the failures
+/// too.
 class MaterialFiles
 {
 public:
@@ -29,8 +30,9 @@ public:
     /// The diffuse texture of "FOLDER/FILE/MATERIAL".
     Lookup find(const QString &materialPath);
 
-    /// Where a file named relative to the folders may be.
-    QStringList candidates(const QString &relativePath) const;
+    /// Where a file named relative to the folders may be, as FileSearch has it.
+    QStringList candidates(const QString &relativePath) const { return m_search.candidates(relativePath); }
+    const FileSearch &search() const { return m_search; }
 
 private:
     struct MaterialFile
@@ -42,6 +44,6 @@ private:
 
     MaterialFile &file(const QString &relativePath);
 
-    QStringList m_folders;
+    FileSearch m_search;
     QHash<QString, MaterialFile> m_files;
 };

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ModelNames.h"
 
+#include "Files.h"
 #include "NameTables.h"
 #include "ReferenceTables.h"
 #include "SkinnedMesh.h"
@@ -107,13 +108,13 @@ bool ModelNames::read(const QString &path, QString *errorText)
         return true;
     };
     *this = {};
-    QFile file(path);
-    if (!file.exists())
+    if (!Files::isFile(path) && !QFileInfo::exists(path))
         return false;
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+    const std::unique_ptr<QIODevice> file = Files::open(path);
+    if (!file)
         return fail(
             QCoreApplication::translate("ModelNames", "The names in '%1' could not be read.").arg(path));
-    if (file.size() > LargestFile || fromJson(file.read(LargestFile)))
+    if (file->size() > LargestFile || fromJson(file->read(LargestFile)))
         return fail(QCoreApplication::translate("ModelNames", "The names in '%1' are damaged.").arg(path));
     return false;
 }

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "BinaryFileWriter.h"
+#include "FilePictures.h"
+#include "Files.h"
 #include "MaterialFiles.h"
-#include "PictureFile.h"
 #include "ValidationParts.h"
 
 #include <QDir>
@@ -23,6 +24,29 @@ QString list(const QStringList &paths)
         shown << QDir::toNativeSeparators(path);
     return shown.join(QLatin1String(", "));
 }
+
+/// The first of the files that are named in another case than they have.
+struct OtherCase
+{
+    QString named, spelled;
+
+    OtherCase(const FileSearch &search, const QStringList &names)
+    {
+        for (const QString &name : names) {
+            if (!spelled.isEmpty() || name.isEmpty() || name == MaterialFiles::Blank)
+                continue;
+            spelled = search.otherCase(name);
+            named = name;
+        }
+    }
+    QString text(const QString &where) const
+    {
+        return Texts::tr(
+                   "%1 names '%2', which is called '%3' where it stands. The game on Windows finds it all "
+                   "the same, other systems do not. Spell both alike.")
+            .arg(where, named, spelled);
+    }
+};
 } // namespace
 
 void checkMaterials(FindingCollector &found, const QStringList &materialPaths, RecordKind surfaceKind,
@@ -42,8 +66,7 @@ void checkMaterials(FindingCollector &found, const QStringList &materialPaths, R
         const MaterialFiles::Lookup material = files.find(path);
         if (!material.error.isEmpty()) {
             const QStringList tried = files.candidates(QFileInfo(path).path() + QStringLiteral(".kmat"));
-            const bool isThere = std::any_of(tried.begin(), tried.end(),
-                                             [](const QString &each) { return QFileInfo::exists(each); });
+            const bool isThere = std::any_of(tried.begin(), tried.end(), Files::isFile);
             found.add(Rule::MaterialNotFound, place, [&] {
                 return isThere
                            ? Texts::tr("Surface %1 is drawn white: the file of its material '%2' cannot be "
@@ -69,8 +92,14 @@ void checkMaterials(FindingCollector &found, const QStringList &materialPaths, R
             });
         } else if (!material.texture.isEmpty() && material.texture != MaterialFiles::Blank) {
             const QStringList tried = files.candidates(material.texture);
-            if (std::any_of(tried.begin(), tried.end(), isPicture))
+            if (std::any_of(tried.begin(), tried.end(), Files::isPicture)) {
+                const OtherCase other(files.search(),
+                                      {QFileInfo(path).path() + QStringLiteral(".kmat"), material.texture});
+                if (!other.spelled.isEmpty())
+                    found.add(Rule::NameCase, place,
+                              [&] { return other.text(Texts::tr("Surface %1").arg(surface)); });
                 continue;
+            }
             found.add(Rule::TextureNotFound, place, [&] {
                 return Texts::tr("Surface %1 is drawn white: the texture '%2' of its material '%3' is no "
                                  "picture that can be read. Tried: %4. Put the picture into one of these "
@@ -107,9 +136,15 @@ std::vector<Finding> validate(const MaterialTable &materials, const MaterialFold
     const MaterialFiles files(folders.gamePath, folders.outputDir);
     for (const auto &[name, texture] : materials) {
         const QStringList tried = files.candidates(texture);
-        if (texture == MaterialFiles::Blank ||
-            (!texture.isEmpty() && std::any_of(tried.begin(), tried.end(), isPicture)))
+        if (texture == MaterialFiles::Blank)
             continue;
+        if (!texture.isEmpty() && std::any_of(tried.begin(), tried.end(), Files::isPicture)) {
+            const OtherCase other(files.search(), {texture});
+            if (!other.spelled.isEmpty())
+                found.add(Rule::NameCase, {},
+                          [&, &name = name] { return other.text(Texts::tr("Material '%1'").arg(name)); });
+            continue;
+        }
         found.add(Rule::TextureNotFound, {}, [&name = name, &texture = texture, &tried] {
             return texture.isEmpty()
                        ? Texts::tr(

@@ -23,6 +23,7 @@ LICENSES = {
     "libgcc-s1": "GPL-3.0-or-later WITH GCC-exception-3.1",
     "libgl1": "MIT",
     "libopengl0": "MIT",
+    "libminizip1": "Zlib",
     "libqt5": "LGPL-3.0-only",
     "libseccomp2": "LGPL-2.1-only",
     "libstb": "MIT OR Unlicense",

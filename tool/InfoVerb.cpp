@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
 #include "Description.h"
+#include "FileStamp.h"
 #include "Output.h"
 #include "Verbs.h"
 
@@ -25,7 +26,7 @@ int info(const QStringList &arguments)
         QJsonObject description = describe(content);
         description.insert(QStringLiteral("file"), file);
         if (error.isEmpty()) {
-            description.insert(QStringLiteral("size"), double(QFileInfo(file).size()));
+            description.insert(QStringLiteral("size"), double(FileStamp::of(file).size));
         } else {
             exitCode = Failed;
             description.insert(QStringLiteral("error"), error);

@@ -3,12 +3,12 @@
 #include "ModelText.h"
 
 #include "BinaryFileWriter.h"
+#include "Files.h"
 #include "ModelFile.h"
 #include "Output.h"
 #include "ReplacedFiles.h"
 #include "WholeFile.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 namespace {
@@ -59,10 +59,10 @@ QString readWholeModel(const QString &path, ModelJson::Content &content, QString
         static_cast<void>(names.read(ModelNames::pathFor(path), &note));
         names.giveTo(*mesh);
     }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    const std::unique_ptr<QIODevice> file = Files::open(path);
+    if (!file)
         return QStringLiteral("The file cannot be opened.");
-    const QByteArray before = file.readAll();
+    const QByteArray before = file->readAll();
     content.behind = before.right(int(bytesBehind));
     const QByteArray after = storedBytes(content);
     if (!after.isEmpty() && after != before)

@@ -6,6 +6,7 @@
 #include "Companions.h"
 #include "ExitCode.h"
 #include "FileSystem.h"
+#include "Files.h"
 #include "Interruption.h"
 #include "ModelFile.h"
 #include "ModelPicture.h"
@@ -76,7 +77,7 @@ jobsOf(const QStringList &paths,
 {
     std::vector<PictureJob> jobs;
     for (const QString &path : paths) {
-        if (!QFileInfo(path).isDir()) {
+        if (!Files::isFolder(path)) {
             jobs.push_back(job(path, {}));
             continue;
         }

@@ -3,6 +3,7 @@
 #include "CommandLine.h"
 #include "Companions.h"
 #include "ContactSheet.h"
+#include "Files.h"
 #include "ModelPicture.h"
 #include "OffscreenScene.h"
 #include "Output.h"
@@ -310,7 +311,7 @@ QString contradiction(const CommandLine &line, bool hasSequence)
 {
     const bool each = line.isSet(QStringLiteral("each"));
     const bool sheet = line.isSet(QStringLiteral("sheet"));
-    const bool many = line.operands().size() > 1 || QFileInfo(line.operands().constFirst()).isDir();
+    const bool many = line.operands().size() > 1 || Files::isFolder(line.operands().constFirst());
     if (line.isSet(QStringLiteral("columns")) && !sheet)
         return QStringLiteral("--columns means nothing without --sheet.");
     if (sheet && (each || many) && !line.value(QStringLiteral("anim")).isEmpty())

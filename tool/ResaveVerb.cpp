@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "BinaryFileWriter.h"
 #include "CommandLine.h"
+#include "Files.h"
 #include "ModelFile.h"
 #include "Output.h"
 #include "ReplacedFiles.h"
 #include "Verbs.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QSet>
 
@@ -35,11 +35,11 @@ Resaved resaveModel(const Model &model, const QString &from, const QString &to)
 {
     if (!model.refusal().isEmpty())
         return {model.refusal()};
-    QFile file(from);
-    if (!file.open(QIODevice::ReadOnly))
+    std::unique_ptr<QIODevice> file = Files::open(from);
+    if (!file)
         return {QStringLiteral("The file cannot be opened.")};
-    const QByteArray before = file.readAll();
-    file.close();
+    const QByteArray before = file->readAll();
+    file.reset();
     const QByteArray after = bytesOf(model);
     if (after.size() < before.size())
         return {QStringLiteral(

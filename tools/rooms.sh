@@ -24,7 +24,8 @@ picture=docs/images/rooms.svg
 
 # From below to above. Rooms on one floor do not know each other.
 floors='core resources translations
-model net app/desktop import/box
+files net app/desktop import/box
+model
 undo motion import render/scene app/widgets json
 find render/gl
 app/documents app/choice app/materials gltf import/scene render/input tool/line

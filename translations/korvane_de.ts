@@ -1032,6 +1032,48 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
 </context>
 <context>
+    <name>Archive</name>
+    <message numerus="yes">
+        <source>&apos;%1&apos;: %n entries are left out, since their names lead elsewhere: %2</source>
+        <translation>
+            <numerusform>„%1“: %n Eintrag ist ausgelassen, weil sein Name woandershin führt: %2</numerusform>
+            <numerusform>„%1“: %n Einträge sind ausgelassen, weil ihre Namen woandershin führen: %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It is damaged in its archive.</source>
+        <translation>Sie ist in ihrem Archiv beschädigt.</translation>
+    </message>
+    <message>
+        <source>It is no zip archive that can be read.</source>
+        <translation>Das ist kein Zip-Archiv, das sich lesen lässt.</translation>
+    </message>
+    <message>
+        <source>The archive has more than %1 entries.</source>
+        <translation>Das Archiv hat mehr als %1 Einträge.</translation>
+    </message>
+    <message>
+        <source>The archive is damaged: its directory ends after %1 entries.</source>
+        <translation>Das Archiv ist beschädigt: Sein Verzeichnis endet nach %1 Einträgen.</translation>
+    </message>
+    <message>
+        <source>It is encrypted in its archive.</source>
+        <translation>Sie ist in ihrem Archiv verschlüsselt.</translation>
+    </message>
+    <message>
+        <source>It is packed in a way that is not read (method %1).</source>
+        <translation>Sie ist auf eine Weise gepackt, die nicht gelesen wird (Verfahren %1).</translation>
+    </message>
+    <message>
+        <source>It would unpack to more than %1 MiB.</source>
+        <translation>Entpackt hätte sie mehr als %1 MiB.</translation>
+    </message>
+    <message>
+        <source>It would unpack to more than %1 times its size.</source>
+        <translation>Entpackt hätte sie mehr als das %1-Fache ihrer Größe.</translation>
+    </message>
+</context>
+<context>
     <name>ArrivalChoice</name>
     <message>
         <source>Arrives</source>
@@ -5710,10 +5752,6 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <translation>&amp;Spielordner</translation>
     </message>
     <message>
-        <source>the folder to the unzipped game.kpf</source>
-        <translation>der Ordner mit der entpackten game.kpf</translation>
-    </message>
-    <message>
         <source>No folder chosen</source>
         <translation>Kein Ordner gewählt</translation>
     </message>
@@ -5818,10 +5856,6 @@ Es wird empfohlen, dies eingeschaltet zu lassen.</translation>
         <translation>&amp;Tastenkürzel</translation>
     </message>
     <message>
-        <source>Textures and materials are looked for in this folder first. Saving a file of it asks first.</source>
-        <translation>Texturen und Materialien werden zuerst in diesem Ordner gesucht. Vor dem Speichern einer Datei darin wird gefragt.</translation>
-    </message>
-    <message>
         <source>Imports and exports &amp;take at most</source>
         <translation>&amp;Zeitgrenze für Importe und Exporte</translation>
     </message>
@@ -5868,6 +5902,38 @@ Wo keine Datei ist, bleibt es still.</translation>
     <message>
         <source>Folder of sounds</source>
         <translation>Ordner der Sounds</translation>
+    </message>
+    <message>
+        <source>the folder to the unzipped game.kpf, or game.kpf itself</source>
+        <translation>Der Ordner des entpackten game.kpf, oder game.kpf selbst</translation>
+    </message>
+    <message>
+        <source>Textures and materials are looked for here first. Saving a file of the folder asks first; the archive is only read.</source>
+        <translation>Texturen und Materialien werden zuerst hier gesucht. Das Speichern einer Datei des Ordners fragt vorher nach; das Archiv wird nur gelesen.</translation>
+    </message>
+    <message>
+        <source>Archi&amp;ve…</source>
+        <translation>Archi&amp;v…</translation>
+    </message>
+    <message>
+        <source>Choose game.kpf itself: it is read as it is</source>
+        <translation>game.kpf selbst wählen: Es wird gelesen, wie es ist</translation>
+    </message>
+    <message>
+        <source>Browse for the game&apos;s archive</source>
+        <translation>Nach dem Archiv des Spiels suchen</translation>
+    </message>
+    <message>
+        <source>Archives of the game (*.kpf *.zip)</source>
+        <translation>Archive des Spiels (*.kpf *.zip)</translation>
+    </message>
+    <message>
+        <source>The game&apos;s archive, game.kpf</source>
+        <translation>Das Archiv des Spiels, game.kpf</translation>
+    </message>
+    <message>
+        <source>The name of an archive ends in .kpf or .zip.</source>
+        <translation>Der Name eines Archivs endet auf .kpf oder .zip.</translation>
     </message>
 </context>
 <context>
@@ -8113,6 +8179,10 @@ Alles andere funktioniert weiter.</translation>
         <source>&apos;%1&apos; has changed since this work began. Replace it by what is open here?</source>
         <translation>„%1“ hat sich geändert, seit diese Arbeit begonnen wurde. Durch das ersetzen, was hier geöffnet ist?</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; stands in an archive, which is never written.</source>
+        <translation>„%1“ steht in einem Archiv, in das nie geschrieben wird.</translation>
+    </message>
 </context>
 <context>
     <name>SavePath</name>
@@ -10285,6 +10355,18 @@ Nichts wurde geändert. %2</translation>
     <message>
         <source>Fixing it exchanges the numbers that are the wrong way round.</source>
         <translation>Beim Beheben werden die vertauschten Zahlen ausgetauscht.</translation>
+    </message>
+    <message>
+        <source>%1 names &apos;%2&apos;, which is called &apos;%3&apos; where it stands. The game on Windows finds it all the same, other systems do not. Spell both alike.</source>
+        <translation>%1 nennt „%2“, was dort, wo es steht, „%3“ heißt. Das Spiel findet es unter Windows trotzdem, andere Systeme finden es nicht. Schreiben Sie beides gleich.</translation>
+    </message>
+    <message>
+        <source>Surface %1</source>
+        <translation>Fläche %1</translation>
+    </message>
+    <message>
+        <source>Material &apos;%1&apos;</source>
+        <translation>Material „%1“</translation>
     </message>
 </context>
 <context>

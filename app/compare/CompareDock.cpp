@@ -5,6 +5,7 @@
 #include "CompareTree.h"
 #include "DocumentFiles.h"
 #include "FileComparison.h"
+#include "Files.h"
 #include "Icons.h"
 
 #include <QAction>
@@ -80,8 +81,8 @@ void CompareDock::chooseFile()
     if (!document || !document->isOpen())
         return;
     const DocumentKind &kind = document->kind();
-    const QString folder =
-        document->path().isEmpty() ? kind.loadPath.value() : QFileInfo(document->path()).path();
+    const QString folder = document->path().isEmpty() ? kind.loadPath.value()
+                                                      : QFileInfo(Files::heldBy(document->path())).path();
     const QString path = QFileDialog::getOpenFileName(window(), tr("Compare with File"), folder, kind.filter);
     if (path.isEmpty())
         return;

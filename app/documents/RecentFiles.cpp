@@ -5,6 +5,7 @@
 #include "Document.h"
 #include "DocumentFiles.h"
 #include "FileSystem.h"
+#include "Files.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -74,7 +75,7 @@ void RecentFiles::addFile(const DocumentKind &kind, const QString &path)
     action->setToolTip(QDir::toNativeSeparators(path));
     action->setStatusTip(action->toolTip());
     // A file on a share that is away is not forgotten.
-    action->setEnabled(info.isFile());
+    action->setEnabled(Files::isFile(path));
     const DocumentType type = kind.type;
     connect(action, &QAction::triggered, this, [this, type, path] { open(type, path); });
 }

@@ -4,6 +4,7 @@
 
 #include "Document.h"
 #include "FileSystem.h"
+#include "Files.h"
 #include "SavePath.h"
 #include "Settings.h"
 
@@ -46,12 +47,15 @@ QString realFolder(const SettingKey<QString> &key)
     return folder.isEmpty() ? QString() : QFileInfo(folder).canonicalFilePath();
 }
 
-/// Where a file stands in the game folder; empty when it stands elsewhere. A mod folder in there is the
-/// mod's.
+/// Where a file stands in the game folder, or in any archive; empty when it stands elsewhere. A mod folder in
+/// the game's is the mod's.
 QString placeInGame(const QString &path)
 {
     if (path.isEmpty())
         return {}; // never saved
+    const QString archived = Files::placeInArchive(path);
+    if (!archived.isEmpty())
+        return archived;
     const QString file = realPath(path);
     const QString game = realFolder(Settings::GamePath);
     const QString mod = realFolder(Settings::OutputDir);
@@ -130,17 +134,21 @@ bool SaveGuard::mayReplaceChanged(const Document &document) const
 
 QString SaveGuard::askAboutGame(const QString &path, const QString &inMod)
 {
+    const bool isArchived = !Files::archiveOf(path).isEmpty();
     const bool leadsBack = isInGame(inMod);
     const QString mod = leadsBack ? QString() : inMod;
     QMessageBox box(QMessageBox::Question, tr("Save"),
-                    tr("'%1' belongs to the game folder.").arg(QDir::toNativeSeparators(path)),
+                    (isArchived ? tr("'%1' stands in an archive, which is never written.")
+                                : tr("'%1' belongs to the game folder."))
+                        .arg(QDir::toNativeSeparators(path)),
                     QMessageBox::Cancel, m_window);
     const QString native = QDir::toNativeSeparators(inMod);
     box.setInformativeText(
         leadsBack       ? tr("In the mod folder a link in its place leads back there:\n%1").arg(native)
         : mod.isEmpty() ? tr("There is no mod folder that it could be saved into; the options set one.")
                         : tr("In the mod folder it would be\n%1").arg(native));
-    QPushButton *overwrite = box.addButton(tr("&Overwrite"), QMessageBox::DestructiveRole);
+    const QPushButton *overwrite =
+        isArchived ? nullptr : box.addButton(tr("&Overwrite"), QMessageBox::DestructiveRole);
     const QPushButton *save = nullptr;
     box.setDefaultButton(QMessageBox::Cancel);
     box.setEscapeButton(QMessageBox::Cancel);
@@ -152,7 +160,7 @@ QString SaveGuard::askAboutGame(const QString &path, const QString &inMod)
     box.exec();
     if (save && box.clickedButton() == save)
         return freeForModel(mod);
-    if (box.clickedButton() != overwrite)
+    if (!overwrite || box.clickedButton() != overwrite)
         return {};
     m_overwritten.insert(FileSystem::comparable(realPath(path)));
     return path;

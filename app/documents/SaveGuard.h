@@ -10,7 +10,7 @@ class Document;
 class QWidget;
 
 /// Asks before a save replaces what nobody meant to replace: a file of the game folder, one that another
-/// program has changed, one that stands in the mod folder already.
+/// program has changed, one that stands in the mod folder already. An archive is never written.
 class SaveGuard
 {
     Q_DECLARE_TR_FUNCTIONS(SaveGuard)
@@ -25,8 +25,8 @@ public:
     /// `path` in the mod folder, with its folders made, unless the user keeps the file that stands there.
     QString intoMod(const Document &document, const QString &path);
 
-    /// Where in the mod folder a file of the game folder belongs, links followed; empty for any other file,
-    /// and without a mod folder.
+    /// Where in the mod folder a file of the game folder or of an archive belongs, links followed; empty for
+    /// any other file, and without a mod folder.
     static QString modPath(const QString &path);
     static bool isInGame(const QString &path);
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "FolderExplorer.h"
 
+#include "Files.h"
 #include "FilterEdit.h"
 #include "FolderMenu.h"
 #include "FolderSource.h"
@@ -350,6 +351,11 @@ QString FolderExplorer::emptyText() const
         return tr("No folder chosen");
     if (m_isStopped && m_tree->topLevelItemCount() == 0)
         return tr("Stopped reading\n%1").arg(QDir::toNativeSeparators(folder));
+    const QString problem = m_tree->isFolderThere() || !Files::isArchiveName(Files::heldBy(folder))
+                                ? QString()
+                                : Files::archiveProblem(Files::heldBy(folder));
+    if (!problem.isEmpty())
+        return QDir::toNativeSeparators(folder) + QLatin1Char('\n') + problem;
     if (!m_tree->isFolderThere())
         return tr("There is no folder\n%1").arg(QDir::toNativeSeparators(folder));
     if (!m_tree->hasShownRows())

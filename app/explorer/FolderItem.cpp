@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "FolderItem.h"
 
-#include "FolderWalk.h"
+#include "Files.h"
 
 #include <QApplication>
 #include <QDir>
@@ -143,10 +143,10 @@ FolderContents readFolder(const QString &folder, const QString &extension, const
                           const std::atomic_bool &cancelled)
 {
     FolderContents contents;
-    contents.isFolder = QFileInfo(folder).isDir();
+    contents.isFolder = Files::isFolder(folder);
     const QString suffix = QLatin1Char('.') + extension;
     std::vector<Branch> branches(1);
-    walkFolder(folder, [&](const FolderEntry &entry) {
+    Files::walk(folder, [&](const FolderEntry &entry) {
         const int nameStart = entry.path.lastIndexOf(QLatin1Char('/')) + 1;
         const int nameLength = entry.path.size() - nameStart;
         if (entry.isFolder) {

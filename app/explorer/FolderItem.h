@@ -74,7 +74,7 @@ struct FolderContents
 };
 
 /// The contents of `folder`, all levels down: every sub-folder, and the files of that extension (in any
-/// case). Folders come before files, each in natural order; links as walkFolder() has them. Runs in any
+/// case). Folders come before files, each in natural order; links as Files::walk() has them. Runs in any
 /// thread, and gives up what it has so far when it is cancelled.
 FolderContents readFolder(const QString &folder, const QString &extension, const FolderIcons *icons,
                           const std::atomic_bool &cancelled);

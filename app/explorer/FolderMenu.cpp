@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "FolderMenu.h"
 
+#include "Files.h"
 #include "FolderAction.h"
 #include "FolderTree.h"
 
@@ -67,7 +68,10 @@ void FolderMenu::openCurrent()
 
 void FolderMenu::OnActionOpenFolder()
 {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(m_menuFolder));
+    // An archive is no folder to the desktop.
+    const QString archive = Files::archiveOf(m_menuFolder);
+    QDesktopServices::openUrl(
+        QUrl::fromLocalFile(archive.isEmpty() ? m_menuFolder : QFileInfo(archive).path()));
 }
 
 void FolderMenu::OnActionCopyPath()

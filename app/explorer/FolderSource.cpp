@@ -3,11 +3,11 @@
 #include "FolderSource.h"
 
 #include "DocumentKind.h"
+#include "Files.h"
 #include "FolderAction.h"
 #include "FolderChooser.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QMenu>
 
 QString ownFolder(const DocumentKind &kind, FolderSource source)
@@ -18,7 +18,7 @@ QString ownFolder(const DocumentKind &kind, FolderSource source)
     if (root.isEmpty())
         return {};
     const QString own = QDir(root).filePath(kind.gameFolder);
-    return QFileInfo(own).isDir() ? own : root;
+    return Files::isFolder(own) ? own : root;
 }
 
 FolderSwitch::FolderSwitch(const DocumentKind &kind, QWidget &explorer, const FolderNames &names,

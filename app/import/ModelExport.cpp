@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ModelExport.h"
 
+#include "Files.h"
 #include "FolderChooser.h"
 #include "GltfClips.h"
 #include "GltfExport.h"
@@ -326,7 +327,9 @@ void ModelExport::exportObj(const StaticMesh &mesh, const QString &meshPath, con
 /// The folder of the last export; where the model stands before there was one.
 QString ModelExport::startFolder(const Document &document, const QString &last) const
 {
-    return last.isEmpty() && !document.path().isEmpty() ? QFileInfo(document.path()).absolutePath() : last;
+    return last.isEmpty() && !document.path().isEmpty()
+               ? QFileInfo(Files::heldBy(document.path())).absolutePath()
+               : last;
 }
 
 void ModelExport::tellExported(const QString &path)

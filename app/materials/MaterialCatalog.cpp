@@ -3,9 +3,9 @@
 #include "MaterialCatalog.h"
 
 #include "BinaryFileWriter.h"
-#include "FolderWalk.h"
+#include "FilePictures.h"
+#include "Files.h"
 #include "MaterialFiles.h"
-#include "PictureFile.h"
 #include "Settings.h"
 
 #include <QDir>
@@ -33,10 +33,10 @@ QIcon emptyIcon()
 QImage smallPicture(const QStringList &candidates)
 {
     for (const QString &path : candidates) {
-        const QSize size = pictureSize(path);
+        const QSize size = Files::pictureSize(path);
         if (size.isEmpty() || qint64(size.width()) * size.height() > MostPicturePixels)
             continue;
-        const QImage image = readPicture(path).image;
+        const QImage image = Files::readPicture(path).image;
         if (image.isNull())
             continue;
         constexpr int side = MaterialCatalog::IconSide;
@@ -61,7 +61,7 @@ QVector<Material> listMaterials(const QString &gamePath, const QString &outputDi
         if (folder.isEmpty())
             continue;
         const QDir root(QDir::cleanPath(folder));
-        walkFolder(root.path(), [&](const FolderEntry &entry) {
+        Files::walk(root.path(), [&](const FolderEntry &entry) {
             if (entry.isFolder || !entry.path.endsWith(extension, Qt::CaseInsensitive))
                 return !cancelled;
             const QString file = root.relativeFilePath(entry.path).chopped(extension.size());

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "MaterialPlace.h"
 
+#include "Files.h"
 #include "MaterialFiles.h"
 
 #include <QFileInfo>
@@ -14,7 +15,7 @@ MaterialPlace placeOfMaterial(const QString &materialPath, const QString &gamePa
     MaterialFiles files(gamePath, outputDir);
     const MaterialFiles::Lookup found = files.find(materialPath);
     for (const QString &path : files.candidates(place.relative)) {
-        if (!place.file.isEmpty() || !QFileInfo(path).isFile())
+        if (!place.file.isEmpty() || !Files::isFile(path))
             continue;
         place.file = path;
         place.isGame = !gamePath.isEmpty() && path == files.candidates(place.relative).first();

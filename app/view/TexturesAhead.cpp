@@ -3,13 +3,12 @@
 #include "TexturesAhead.h"
 
 #include "DocumentKind.h"
+#include "FileStamp.h"
 #include "MaterialFiles.h"
 #include "Settings.h"
 #include "SkinnedMesh.h"
 #include "StaticMesh.h"
 #include "TextureImages.h"
-
-#include <QFileInfo>
 
 namespace {
 QString lastOfKind(const QStringList &paths, DocumentType type)
@@ -106,7 +105,7 @@ void NeighboursAhead::load()
                        outputDir = Settings::OutputDir.value()](const Background::Cancelled &cancelled) {
         qint64 room = TextureImages::AheadRoom;
         for (const QString &path : paths) {
-            if (!cancelled && QFileInfo(path).size() <= MostBytes)
+            if (!cancelled && FileStamp::of(path).size <= MostBytes)
                 loadTextures(materialsOf(path), {gamePath, outputDir}, cancelled, room,
                              TextureImages::loadAhead);
         }

@@ -3,8 +3,10 @@
 #include "DocumentTitle.h"
 
 #include "Document.h"
+#include "Files.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QTabWidget>
 
 namespace {
@@ -22,7 +24,11 @@ QString titleOf(const Document *document)
 {
     if (!document || !document->isOpen())
         return QStringLiteral("Korvane");
-    const QString name = document->path().isEmpty() ? placeOf(*document) : document->fileName();
+    const QString archive = Files::archiveOf(document->path());
+    const QString name = document->path().isEmpty() ? placeOf(*document)
+                         : archive.isEmpty()        ? document->fileName()
+                                                    : QStringLiteral("%1 (%2)").arg(document->fileName(),
+                                                                                    QFileInfo(archive).fileName());
     return QStringLiteral("Korvane - ") + name + (document->isModified() ? QStringLiteral(" * ") : QString());
 }
 

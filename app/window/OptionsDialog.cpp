@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "OptionsDialog.h"
 
+#include "Files.h"
 #include "LabelDrag.h"
 #include "Settings.h"
 #include "ShortcutsPage.h"
@@ -9,11 +10,21 @@
 
 #include <QAbstractButton>
 #include <QDir>
+#include <QFileDialog>
 #include <QFileInfo>
+
+namespace {
+QString chooseArchive(QWidget *parent, const QString &title, const QString &start)
+{
+    return QFileDialog::getOpenFileName(parent, title, start,
+                                        OptionsDialog::tr("Archives of the game (*.kpf *.zip)"));
+}
+} // namespace
 
 OptionsDialog::OptionsDialog(QWidget *parent, Shortcuts *shortcuts)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::OptionsDialog>())
+    , m_chooseArchive(chooseArchive)
     , m_gamePath(Settings::GamePath.value())
     , m_outputDir(Settings::OutputDir.value())
     , m_updates(Settings::Updates.value())
@@ -40,7 +51,7 @@ OptionsDialog::OptionsDialog(QWidget *parent, Shortcuts *shortcuts)
 
     connect(m_ui->txtGamePath, &QLineEdit::editingFinished, this, &OptionsDialog::OnTxtGamePathChanged);
     connect(m_ui->txtT2Dir, &QLineEdit::editingFinished, this, &OptionsDialog::OnTxtT2DirChanged);
-    updateHint(m_ui->txtGamePath, m_ui->lblGamePathHint);
+    updateGameHint();
     updateHint(m_ui->txtT2Dir, m_ui->lblT2DirHint);
     m_ui->txtSounds->setValue(QDir::toNativeSeparators(Settings::SoundsFolder.value()));
     connect(m_ui->txtSounds, &QLineEdit::textChanged, this,
@@ -91,9 +102,21 @@ void OptionsDialog::on_buttonBox_accepted()
 void OptionsDialog::on_btnGame_clicked()
 {
     const QString folder = m_chooseFolder(this, tr("game.kpf unzipped folder"), m_ui->txtGamePath->text());
-    if (folder.isEmpty())
-        return;
-    m_ui->txtGamePath->setValue(QDir::toNativeSeparators(folder));
+    if (!folder.isEmpty())
+        setGamePath(folder);
+}
+
+void OptionsDialog::on_btnGameArchive_clicked()
+{
+    const QString archive =
+        m_chooseArchive(this, tr("The game's archive, game.kpf"), m_ui->txtGamePath->text());
+    if (!archive.isEmpty())
+        setGamePath(archive);
+}
+
+void OptionsDialog::setGamePath(const QString &path)
+{
+    m_ui->txtGamePath->setValue(QDir::toNativeSeparators(path));
     OnTxtGamePathChanged();
 }
 
@@ -116,7 +139,18 @@ void OptionsDialog::on_btnSounds_clicked()
 void OptionsDialog::OnTxtGamePathChanged()
 {
     m_gamePath = m_ui->txtGamePath->text();
-    updateHint(m_ui->txtGamePath, m_ui->lblGamePathHint);
+    updateGameHint();
+}
+
+/// An archive takes the place of the folder if it can be read.
+void OptionsDialog::updateGameHint()
+{
+    const QString path = normalizedFolder(m_ui->txtGamePath->text());
+    m_ui->lblGamePathHint->setVisible(!path.isEmpty() && !Files::isFolder(path));
+    m_ui->lblGamePathHint->setText(!QFileInfo(path).isFile() ? tr("There is no such folder.")
+                                   : Files::isArchiveName(path)
+                                       ? Files::archiveProblem(path)
+                                       : tr("The name of an archive ends in .kpf or .zip."));
 }
 
 void OptionsDialog::OnTxtT2DirChanged()

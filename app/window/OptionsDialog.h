@@ -29,10 +29,13 @@ public:
     ~OptionsDialog() override;
 
     void setFolderChooser(FolderChooser chooser) { m_chooseFolder = std::move(chooser); }
+    /// The same for the game's archive, which is a file.
+    void setArchiveChooser(FolderChooser chooser) { m_chooseArchive = std::move(chooser); }
 
 private slots:
     void on_buttonBox_accepted();
     void on_btnGame_clicked();
+    void on_btnGameArchive_clicked();
     void on_btnT2DirBrowse_clicked();
     void on_btnSounds_clicked();
     void OnTxtGamePathChanged();
@@ -44,10 +47,13 @@ private slots:
     void on_cbRestoreSession_clicked(bool checked) { m_restoreSession = checked; }
 
 private:
+    void setGamePath(const QString &path);
+    void updateGameHint();
     static void updateHint(const QLineEdit *edit, QLabel *hint);
 
     std::unique_ptr<Ui::OptionsDialog> m_ui;
     FolderChooser m_chooseFolder = chooseFolder;
+    FolderChooser m_chooseArchive;
     QString m_gamePath;
     QString m_outputDir;
     bool m_updates;

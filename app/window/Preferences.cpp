@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "Preferences.h"
 
+#include "Files.h"
 #include "OptionsDialog.h"
 #include "Settings.h"
 
-#include <QDir>
 #include <QMessageBox>
 
 #include <utility>
@@ -21,7 +21,7 @@ void Preferences::OnStartSetupPaths()
     if (std::exchange(m_askedForFolders, true))
         return;
     const QString gamePath = Settings::GamePath.value();
-    if (!gamePath.isEmpty() && !Settings::OutputDir.value().isEmpty() && QDir(gamePath).exists())
+    if (!gamePath.isEmpty() && !Settings::OutputDir.value().isEmpty() && Files::isFolder(gamePath))
         return;
     QMessageBox::information(m_window, tr("Setup Folder Paths"),
                              tr("Please setup your folder paths before using Korvane. Thank you!"));

@@ -76,6 +76,8 @@ libgcc_s_seh-1.dll, libstdc++-6.dll, libwinpthread-1.dll
 in korvane-import-worker.exe
     Assimp $(cat "$sources/assimp/.version") (Assimp.txt), Draco (Draco.txt), minizip $(cat "$sources/minizip/.version") (Minizip.txt), zlib (zlib.txt), stb (stb.txt),
     UTF8-CPP (UTF8-CPP.txt)
+in all programs
+    minizip and zlib, as above
 in korvane.exe
     icons of Lucide (Icons.txt)
 

@@ -304,6 +304,27 @@ build_assimp() {
     logged assimp ninja -C "$cache/assimp" -j"$jobs" install
 }
 
+# --- Minizip -----------------------------------------------------------------------------------------------
+# What reads the game's archive, static in all programs: two sources, without what writes archives.
+
+minizip_options=(-O2 -DNDEBUG -DNOUNCRYPT)
+
+with_minizip() {
+    packages libz-mingw-w64-dev
+}
+
+build_minizip() {
+    local source=$cache/sources/minizip part
+    say "Minizip $(version_of minizip)"
+    mkdir -p "$cache/minizip" "$prefix/include/minizip" "$prefix/lib"
+    for part in ioapi unzip; do
+        logged "minizip-$part" "$triple-gcc-posix" "${minizip_options[@]}" -c "$source/$part.c" -o "$cache/minizip/$part.o"
+    done
+    rm -f "$prefix/lib/libminizip.a"
+    logged minizip "$triple-ar" rcsD "$prefix/lib/libminizip.a" "$cache/minizip/ioapi.o" "$cache/minizip/unzip.o"
+    cp "$source"/{ioapi,unzip,crypt}.h "$prefix/include/minizip/"
+}
+
 # --- Mesa --------------------------------------------------------------------------------------------------
 # OpenGL drawn by the processor: the toolkit takes opengl32sw.dll where no driver serves. It is slow (there is no
 # compiler of shaders in it) and draws everything.
@@ -356,6 +377,6 @@ if [[ ! -e $cache/apt/read || -n $(find "$cache/apt/read" -mmin +1440) ]]; then
     logged sources-lists list_sources
 fi
 step qt qtbase-opensource-src
-fetch minizip
+step minizip minizip
 step assimp assimp
 step mesa mesa

@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "MaterialTextures.h"
 
+#include "FilePictures.h"
+#include "Files.h"
 #include "Log.h"
 #include "TextureImages.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 
 MaterialTextures::MaterialTextures(const QString &gamePath, const QString &outputDir, const QString &logTag,
                                    qint64 mostPixels)
@@ -56,7 +57,8 @@ QImage MaterialTextures::texture(const QString &name)
 QImage MaterialTextures::load(const QString &path)
 {
     const auto pixelsOf = [](const QSize &size) { return qint64(size.width()) * size.height(); };
-    if (m_pixels > m_mostPixels - ::MostPixels && m_pixels + pixelsOf(pictureSize(path)) > m_mostPixels) {
+    if (m_pixels > m_mostPixels - ::MostPixels &&
+        m_pixels + pixelsOf(Files::pictureSize(path)) > m_mostPixels) {
         warn(QCoreApplication::translate(
                  "Viewport", "'%1' is left out: the model's textures have more than %2 million pixels")
                  .arg(path, QString::number(m_mostPixels / 1000000)));
@@ -64,9 +66,9 @@ QImage MaterialTextures::load(const QString &path)
     }
     const QImage image = TextureImages::load(path);
     m_pixels += pixelsOf(image.size());
-    if (!image.isNull() || !QFileInfo(path).isFile())
+    if (!image.isNull() || !Files::isFile(path))
         return image;
-    const QSize size = pictureSize(path);
+    const QSize size = Files::pictureSize(path);
     if (size.isEmpty()) {
         warn(QCoreApplication::translate("Viewport", "'%1' is no picture of a kind that is read: %2")
                  .arg(path, QLatin1String(PictureKinds)));

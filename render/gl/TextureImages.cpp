@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "TextureImages.h"
 
-#include "PictureFile.h"
+#include "FilePictures.h"
+#include "FileStamp.h"
 
 #include <QCache>
-#include <QDateTime>
-#include <QFileInfo>
 #include <QMutex>
 
 #include <algorithm>
@@ -18,8 +17,7 @@ constexpr qint64 CostUnit = 1024; // bytes
 
 struct Texture
 {
-    QDateTime changed;
-    qint64 size = 0;
+    FileStamp stamp;
     int cost = 1; ///< for the caches, and as them behind their lock
     std::once_flag decoded;
     QImage image;
@@ -43,36 +41,34 @@ Kept &kept()
 
 QImage decode(const QString &path)
 {
-    return readPicture(path).image.convertToFormat(QImage::Format_RGBA8888);
+    return Files::readPicture(path).image.convertToFormat(QImage::Format_RGBA8888);
 }
 
 using TextureCache = QCache<QString, TexturePointer>;
 
 /// What is kept of this state of the file; null when nothing is.
-TexturePointer keptIn(const TextureCache &cache, const QFileInfo &file)
+TexturePointer keptIn(const TextureCache &cache, const QString &path, const FileStamp &stamp)
 {
-    const TexturePointer *found = cache.object(file.filePath());
-    const bool isIt = found && (*found)->changed == file.lastModified() && (*found)->size == file.size();
-    return isIt ? *found : nullptr;
+    const TexturePointer *found = cache.object(path);
+    return found && (*found)->stamp == stamp ? *found : nullptr;
 }
 
 /// The entry of this state of the file, which has no image until somebody decodes it.
-TexturePointer textureOf(const QFileInfo &file, bool isAhead)
+TexturePointer textureOf(const QString &path, const FileStamp &stamp, bool isAhead)
 {
     const QMutexLocker lock(&kept().mutex);
-    if (TexturePointer texture = keptIn(kept().textures, file))
+    if (TexturePointer texture = keptIn(kept().textures, path, stamp))
         return texture;
-    TexturePointer texture = keptIn(kept().ahead, file);
+    TexturePointer texture = keptIn(kept().ahead, path, stamp);
     if (texture && isAhead)
         return texture;
     if (!texture) {
         texture = std::make_shared<Texture>();
-        texture->changed = file.lastModified();
-        texture->size = file.size();
+        texture->stamp = stamp;
     }
-    kept().ahead.remove(file.filePath());
+    kept().ahead.remove(path);
     TextureCache &cache = isAhead ? kept().ahead : kept().textures;
-    cache.insert(file.filePath(), new TexturePointer(texture), texture->cost);
+    cache.insert(path, new TexturePointer(texture), texture->cost);
     return texture;
 }
 
@@ -95,11 +91,10 @@ void settle(const QString &path, const TexturePointer &texture)
 
 QImage loadInto(const QString &path, bool isAhead)
 {
-    const QFileInfo file(path);
-    // Opening a pipe would wait for a writer for ever.
-    if (!file.isFile())
+    const FileStamp stamp = FileStamp::of(path);
+    if (!stamp.exists())
         return {};
-    const TexturePointer texture = textureOf(file, isAhead);
+    const TexturePointer texture = textureOf(path, stamp, isAhead);
     std::call_once(texture->decoded, [&] {
         texture->image = decode(path);
         settle(path, texture);

@@ -46,6 +46,10 @@ std::vector<Breakage<Mesh>> meshBreakages()
         {Rule::MaterialNotFound, [](Mesh &mesh) { mesh.surfaces[0].materialPath += QLatin1Char('x'); }},
         {Rule::TextureNotFound, [](Mesh &mesh) { mesh.surfaces[0].materialPath = materialWithoutPicture; }},
         {Rule::TextureNotFound, [](Mesh &mesh) { mesh.surfaces[0].materialPath = materialWithoutSampler; }},
+        {Rule::NameCase,
+         [](Mesh &mesh) {
+             mesh.surfaces[0].materialPath.replace(QStringLiteral("materials"), QStringLiteral("Materials"));
+         }},
     };
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "FullDisk.h"
 #include "PictureTests.h"
+#include "TestArchive.h"
 
 using namespace PictureTests;
 
@@ -31,6 +32,35 @@ private slots:
             // A model without its textures has but a few.
             QVERIFY2(distinctColours(image) > 200, qUtf8Printable(row.file));
         }
+    }
+
+    /// The game's archive is as good as its folder: the same picture byte for byte, the animation found, all
+    /// of it checked, and nothing written into it.
+    void readsTheArchive()
+    {
+        TestFolder folder;
+        const QString game = TestSupport::source("samples/game");
+        const QString archive = folder.path("game.kpf");
+        TestArchive made;
+        made.addFolder(game);
+        QVERIFY(made.write(archive));
+        const QByteArray before = TestSupport::readFile(archive);
+        const QString tinker = Tinker.mid(4);
+        for (const QString &root : {game, archive}) {
+            const ToolRun run("render --size 200 -o",
+                              {folder.path(QFileInfo(root).fileName() + ".png"), root + tinker});
+            QVERIFY2(run.exitCode == 0, qPrintable(run.err));
+        }
+        QCOMPARE(TestSupport::readFile(folder.path("game.kpf.png")),
+                 TestSupport::readFile(folder.path("game.png")));
+        const ToolRun there("check --game-path", {archive, "--mod-path", game, archive + "/Models"});
+        const ToolRun here("check --game-path", {game, "--mod-path", game, game + "/models"});
+        QCOMPARE(there.exitCode, here.exitCode);
+        QCOMPARE(there.out.section('\n', -2), here.out.section('\n', -2));
+        QVERIFY(ToolRun("info --json", {archive + tinker.toUpper()}).first()["size"].toDouble() > 1000);
+        const ToolRun written("set", {archive + tinker, "bone 0 damage scale", "2"});
+        QCOMPARE(written.exitCode, 1);
+        QCOMPARE(TestSupport::readFile(archive), before);
     }
 
     void posesByBlockAndFrame()

@@ -3,6 +3,7 @@
 #include "CommandLine.h"
 
 #include "ExitCode.h"
+#include "Files.h"
 #include "Output.h"
 #include "Settings.h"
 
@@ -14,12 +15,14 @@
 namespace {
 QString folderAround(const QString &file)
 {
-    QDir folder = QFileInfo(file).absoluteDir();
-    while (!QFileInfo(folder.filePath(QStringLiteral("materials"))).isDir()) {
-        if (!folder.cdUp())
+    QString folder = QFileInfo(file).absolutePath();
+    while (!Files::isFolder(QDir(folder).filePath(QStringLiteral("materials")))) {
+        const QString above = QFileInfo(folder).path();
+        if (above == folder)
             return {};
+        folder = above;
     }
-    return folder.path();
+    return folder;
 }
 } // namespace
 
@@ -44,13 +47,14 @@ void CommandLine::option(const QStringList &names, const QString &valueName, con
 
 void CommandLine::folderOptions(GameFolder otherwise)
 {
-    option(
-        {QStringLiteral("game-path")}, QStringLiteral("folder"),
-        otherwise == GameFolder::AroundFile
-            ? QStringLiteral("Game folder to look for materials and textures in; by default the one of the "
-                             "editor's options, else the one that the file lies in.")
-            : QStringLiteral("Game folder to look for materials and textures in; by default the one of the "
-                             "editor's options. Without one, they are not looked for."));
+    option({QStringLiteral("game-path")}, QStringLiteral("folder"),
+           otherwise == GameFolder::AroundFile
+               ? QStringLiteral("Game folder, or the game's archive, to look for materials and textures in; "
+                                "by default the one of the "
+                                "editor's options, else the one that the file lies in.")
+               : QStringLiteral("Game folder, or the game's archive, to look for materials and textures in; "
+                                "by default the one of the "
+                                "editor's options. Without one, they are not looked for."));
     option({QStringLiteral("mod-path")}, QStringLiteral("folder"),
            QStringLiteral("Mod folder to look in second; by default the one of the editor's options."));
 }

@@ -3,6 +3,7 @@
 #include "ModelFile.h"
 
 #include "BinaryFileReader.h"
+#include "Files.h"
 
 #include <QDirIterator>
 #include <QFileInfo>
@@ -59,9 +60,18 @@ bool isMesh(const QString &path)
 
 QStringList filesBelow(const QString &path, bool (*wanted)(const QString &path))
 {
-    if (!QFileInfo(path).isDir())
+    if (!Files::isFolder(path))
         return {path};
     QStringList files;
+    if (!Files::archiveOf(path).isEmpty()) {
+        Files::walk(path, [&](const FolderEntry &entry) {
+            if (!entry.isFolder && wanted(entry.path))
+                files += entry.path;
+            return true;
+        });
+        files.sort();
+        return files;
+    }
     QDirIterator walk(path, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     while (walk.hasNext()) {
         const QString file = walk.next();
@@ -75,12 +85,12 @@ QStringList filesBelow(const QString &path, bool (*wanted)(const QString &path))
 QString readFile(const QString &path, FileContent &content)
 {
     content = std::monostate();
-    const QFileInfo file(path);
-    if (!file.exists())
-        return QStringLiteral("There is no such file.");
-    if (file.isDir())
+    const bool isFile = Files::isFile(path);
+    if (!isFile && Files::isFolder(path))
         return QStringLiteral("This is a folder.");
-    if (!file.isFile())
+    if (!isFile && !QFileInfo::exists(path))
+        return QStringLiteral("There is no such file.");
+    if (!isFile)
         return QStringLiteral("This is no regular file.");
     switch (suffixOf(path)) {
     case SkinnedMeshSuffix:

@@ -3,6 +3,7 @@
 #include "MaterialField.h"
 
 #include "ChoicePopup.h"
+#include "Files.h"
 #include "IndexTargets.h"
 #include "MaterialCatalog.h"
 #include "NameRow.h"
@@ -220,7 +221,9 @@ void MaterialField::leave()
 
 void MaterialField::open(bool folder)
 {
-    const QString path = folder ? QFileInfo(m_place.file).path() : m_place.file;
+    // What an archive holds is nothing that the desktop could open.
+    folder = folder || !Files::archiveOf(m_place.file).isEmpty();
+    const QString path = folder ? QFileInfo(Files::heldBy(m_place.file)).path() : m_place.file;
     if (QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
         return;
     // Not every desktop has a program for such files, but one for folders.

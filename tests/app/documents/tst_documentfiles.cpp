@@ -5,6 +5,7 @@
 #include "Playback.h"
 #include "SampleModels.h"
 #include "SpecialFiles.h"
+#include "TestArchive.h"
 
 namespace {
 void enter(QDialog *dialog)
@@ -100,6 +101,55 @@ private slots:
         QVERIFY(TestSupport::readFile(game) != before && QFileInfo(link).isSymLink());
         window.openFiles({game});
         QCOMPARE(save({}), QStringList());
+    }
+
+    /// What is opened from the game's archive is the game's: it goes into the mod folder, never back.
+    void theArchiveIsNeverWritten()
+    {
+        TestArchive made;
+        made.add("models/Man.skinnedmesh",
+                 TestSupport::readFile(m_files->save("man.skinnedmesh", triangleMan())));
+        const QString archive = m_files->path("game.kpf");
+        QVERIFY(made.write(archive));
+        const QByteArray before = TestSupport::readFile(archive);
+        const QString game = archive + "/models/Man.skinnedmesh";
+        const QString mod = m_files->path("mod/models/Man.skinnedmesh");
+        Settings::GamePath.setValue(archive);
+        ShownWindow window({game});
+        QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - Man.skinnedmesh (game.kpf)"));
+        QCOMPARE(find<QLabel>(window, "lblDocumentPath")->toolTip(), shown(game));
+        const QString asks = "Save|'" + shown(game) + "' stands in an archive, which is never written.|";
+        int parent = 5;
+        const auto save = [&](const Hand::Answer &answer) {
+            typeParent(window, ++parent);
+            QApplication::setActiveWindow(&window); // after a box it may be nobody
+            Hand hand({answer});
+            QTest::keyClick(&window, Qt::Key_S, Qt::ControlModifier);
+            return hand.seen;
+        };
+        // Without a mod folder there is nothing but to give up.
+        Settings::OutputDir.setValue(QString());
+        QCOMPARE(save(enter).value(0).section('|', 0, 1) + '|', asks);
+        Settings::OutputDir.setValue(m_files->path("mod"));
+        QCOMPARE(save(escape), QStringList(asks + "In the mod folder it would be\n" + shown(mod)));
+        QVERIFY(window.windowTitle().endsWith(" * ") && !QFileInfo::exists(mod));
+        save([](QDialog *box) {
+            for (const auto *button : box->findChildren<QPushButton *>())
+                QVERIFY(!button->text().contains("verwrite"));
+            enter(box);
+        });
+        QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - Man.skinnedmesh"));
+        QVERIFY(!TestSupport::readFile(mod).isEmpty());
+        QCOMPARE(TestSupport::readFile(archive), before);
+        // The list of recent files leads back into the archive.
+        auto *recent = find<QMenu>(window, "menuRecent");
+        emit recent->aboutToShow();
+        const auto actions = recent->actions();
+        const auto entry = std::find_if(actions.begin(), actions.end(),
+                                        [&](const QAction *each) { return each->toolTip() == shown(game); });
+        QVERIFY(entry != actions.end() && (*entry)->isEnabled());
+        (*entry)->trigger();
+        QTRY_COMPARE(window.windowTitle(), QStringLiteral("Korvane - Man.skinnedmesh (game.kpf)"));
     }
 
     void aLinkToNowhereLeadsIntoTheGameFolder()

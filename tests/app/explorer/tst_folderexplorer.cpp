@@ -6,6 +6,7 @@
 #include "SpecialFiles.h"
 
 #include "Find.h"
+#include "TestArchive.h"
 
 class tst_FolderExplorer : public QObject
 {
@@ -270,6 +271,36 @@ private slots:
         explorer->followOptions();
         settle(*explorer);
         QCOMPARE(explorer->files(), QStringList(path("mod/m.skinnedmesh")));
+    }
+
+    void listsAnArchive()
+    {
+        TestArchive made;
+        made.add("models/raptor/Walk 10.skinnedmesh", "x");
+        made.add("models/raptor/Walk 9.skinnedmesh", "x");
+        made.add("models/flier.skinnedmesh", "x");
+        made.add("anims/flier.anim", "x");
+        QVERIFY(made.write(path("game.kpf")));
+        Settings::GamePath.setValue(path("game.kpf"));
+        Settings::SkinnedMeshExplorePath.setValue({});
+        const auto explorer = createExplorer();
+        explorer->followOptions();
+        settle(*explorer);
+        const QString models = path("game.kpf/models");
+        QCOMPARE(explorer->files(),
+                 QStringList({models + "/raptor/Walk 9.skinnedmesh", models + "/raptor/Walk 10.skinnedmesh",
+                              models + "/flier.skinnedmesh"}));
+        QSignalSpy chosen(explorer.get(), &FolderExplorer::fileChosen);
+        QVERIFY(explorer->selectPath(models + "/flier.skinnedmesh"));
+        QTest::keyClick(explorer->tree(), Qt::Key_Return);
+        QCOMPARE(chosen.value(0).value(0).toString(), models + "/flier.skinnedmesh");
+        // One that cannot be read says why.
+        QVERIFY(TestSupport::writeFile(path("game.kpf"), "no archive"));
+        explorer->refill();
+        settle(*explorer);
+        QVERIFY(::find<QLabel>(*explorer, "lblSkinnedMeshFolderEmpty")
+                    ->text()
+                    .endsWith("It is no zip archive that can be read."));
     }
 
     void theFilterHides()

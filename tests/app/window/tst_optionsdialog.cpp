@@ -5,6 +5,7 @@
 #include "Find.h"
 #include "IntSpinBox.h"
 #include "Look.h"
+#include "TestArchive.h"
 
 class tst_OptionsDialog : public QObject
 {
@@ -98,6 +99,40 @@ private slots:
         click(dialog, QDialogButtonBox::Ok);
         QCOMPARE(Settings::GamePath.value(), QStringLiteral("/start")); // the first question was cancelled
         QCOMPARE(Settings::OutputDir.value(), answer);
+    }
+
+    /// By keys alone: the archive's button is next to the folder's.
+    void takesTheArchive()
+    {
+        const QString archive = m_home.filePath("game.kpf");
+        TestArchive made;
+        made.add("a", "a");
+        QVERIFY(made.write(archive));
+        OptionsDialog dialog;
+        QStringList asked;
+        dialog.setArchiveChooser([&](QWidget *, const QString &title, const QString &) {
+            asked << title;
+            return archive;
+        });
+        dialog.show();
+        QApplication::setActiveWindow(&dialog);
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        auto *edit = find<QLineEdit>(dialog, "txtGamePath");
+        const auto *hint = find<QLabel>(dialog, "lblGamePathHint");
+        QTest::keyClick(edit, Qt::Key_Tab);
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+        QCOMPARE(dialog.focusWidget()->objectName(), QStringLiteral("btnGameArchive"));
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Space);
+        QCOMPARE(asked, QStringList("The game's archive, game.kpf"));
+        QCOMPARE(edit->text(), QDir::toNativeSeparators(archive));
+        QVERIFY(hint->isHidden());
+        QVERIFY(TestSupport::writeFile(archive, "no archive"));
+        edit->setFocus();
+        QTest::keyClick(edit, Qt::Key_Tab);
+        QVERIFY(hint->isVisible());
+        QCOMPARE(hint->text(), QStringLiteral("It is no zip archive that can be read."));
+        click(dialog, QDialogButtonBox::Ok); // the drive may just not be there today
+        QCOMPARE(Settings::GamePath.value(), archive);
     }
 
     void chooserStartsAtNearestFolder()

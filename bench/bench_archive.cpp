@@ -9,11 +9,14 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <functional>
 #include <random>
+#include <zlib.h>
 
 // The directory of an archive of 20,000 entries, and textures of 1024 by 1024 from it against the same files
-// on the disk, all at the system's hand. A deflated picture without packing of its own has what only
-// unpacking it takes in the floor.
+// on the disk, all at the system's hand, by the time of the processor. Of a picture that is not packed
+// itself, what sees to it that nothing is damaged, or unpacks it, takes longer than to decode it: the floor
+// has the checksum, or the unpacking, of the same bytes by the library below.
 namespace {
 constexpr int Entries = 20000;
 constexpr int Repetitions = 31;
@@ -77,24 +80,32 @@ int main(int argc, char *argv[])
                 qFatal("the archive was not read");
         });
     });
-    const auto compare = [&](const char *name, const char *entry, const char *file,
-                             const QByteArray &packed) {
+    const auto compare = [&](const char *name, double budget, const char *entry, const char *file,
+                             const std::function<void()> &inevitable) {
         Bench::ratio(
-            name, 1.3, Repetitions,
+            name, budget, Repetitions,
             [path = archive + QLatin1Char('/') + QLatin1String(entry)] {
                 return Bench::processSeconds([&path] { show(path); });
             },
-            [path = folder.filePath(QLatin1String(file)), packed] {
-                return Bench::processSeconds([&path, &packed] {
+            [path = folder.filePath(QLatin1String(file)), inevitable] {
+                return Bench::processSeconds([&path, &inevitable] {
                     show(path);
-                    if (!packed.isEmpty() && qUncompress(packed).isEmpty())
-                        qFatal("nothing was unpacked");
+                    inevitable();
                 });
             });
     };
-    compare("archive_png_stored", "stored.png", "texture.png", {});
-    compare("archive_png_deflated", "deflated.png", "texture.png", {});
-    compare("archive_bmp_stored", "stored.bmp", "texture.bmp", {});
-    compare("archive_bmp_deflated", "deflated.bmp", "texture.bmp", qCompress(bmp, 6));
+    const auto sum = [&bmp] {
+        benchmark::DoNotOptimize(
+            crc32(0, reinterpret_cast<const Bytef *>(bmp.constData()), uInt(bmp.size())));
+    };
+    const auto unpack = [packed = qCompress(bmp, 6)] {
+        if (qUncompress(packed).isEmpty())
+            qFatal("nothing was unpacked");
+    };
+    compare("archive_png_stored", 1.3, "stored.png", "texture.png", [] {});
+    compare("archive_png_deflated", 1.3, "deflated.png", "texture.png", [] {});
+    // One copy more than from the disk, of what is hardly more than copied.
+    compare("archive_bmp_stored", 2.0, "stored.bmp", "texture.bmp", sum);
+    compare("archive_bmp_deflated", 1.3, "deflated.bmp", "texture.bmp", unpack);
     return Bench::run(argc, argv);
 }

@@ -9969,6 +9969,10 @@ Nichts wurde geändert. %2</translation>
         <source>triangles left out: %1</source>
         <translation>ausgelassene Dreiecke: %1</translation>
     </message>
+    <message>
+        <source>Surface %1</source>
+        <translation>Fläche %1</translation>
+    </message>
 </context>
 <context>
     <name>Validation</name>

@@ -130,39 +130,11 @@ void UvDock::createActions(QWidget *buttons)
     }
 }
 
-template <typename ModelType>
-UvDock::Model UvDock::modelOf(ModelDocument<ModelType> &document, KVTreeView &tree, RecordKind surfaces,
-                              RecordKind triangleIndexes, RecordKind vertices)
-{
-    const auto surfaceOf = [&document](int surface) {
-        return Records::element(document.model().surfaces, surface);
-    };
-    const auto uvs = [&document] {
-        const auto &all = document.model().vertices;
-        // What indexes can name.
-        std::vector<QVector2D> found(std::min(all.size(), size_t(0x10000)));
-        std::transform(all.begin(), all.begin() + std::ptrdiff_t(found.size()), found.begin(),
-                       [](const auto &vertex) { return vertex.uv; });
-        return found;
-    };
-    const auto indexes = [surfaceOf](int surface) {
-        const auto *found = surfaceOf(surface);
-        return found ? &found->triangleIndexes : nullptr;
-    };
-    const auto material = [surfaceOf](int surface) {
-        const auto *found = surfaceOf(surface);
-        return found ? found->materialPath : QString();
-    };
-    return {&document, &tree, surfaces, triangleIndexes, vertices, uvs, indexes, material, 0, {}};
-}
-
 void UvDock::setDocuments(SkinnedMeshDocument &skinned, KVTreeView &skinnedTree, StaticMeshDocument &rigid,
                           KVTreeView &rigidTree)
 {
-    m_models = {modelOf(skinned, skinnedTree, RecordKind::SkinnedSurface, RecordKind::SkinnedTriangleIndex,
-                        RecordKind::SkinnedVertex),
-                modelOf(rigid, rigidTree, RecordKind::StaticSurface, RecordKind::StaticTriangleIndex,
-                        RecordKind::StaticVertex)};
+    m_models = {Model{UvSource::of(skinned, skinnedTree), 0, {}},
+                Model{UvSource::of(rigid, rigidTree), 0, {}}};
     for (size_t i = 0; i < m_models.size(); ++i)
         follow(i);
 }
@@ -182,25 +154,17 @@ void UvDock::follow(size_t which)
         listSurfaces();
         showSurface(true);
     });
-    connect(model.document, &Document::structuresChanged, this, [this, isShown] {
+    const auto showAnew = [this, isShown] {
         if (!isShown())
             return;
         listSurfaces();
         showSurface(false);
-    });
+    };
+    connect(model.document, &Document::structuresChanged, this, showAnew);
     connect(model.document, &Document::recordsChanged, this,
-            [this, which, isShown](const QVector<RecordRef> &records) {
-                const Model &changed = m_models[which];
-                const auto hasAny = [&records](RecordKind kind) {
-                    return std::any_of(records.begin(), records.end(),
-                                       [kind](const RecordRef &record) { return record.kind == kind; });
-                };
-                if (!isShown())
-                    return;
-                if (hasAny(changed.surfaces))
-                    listSurfaces();
-                if (hasAny(changed.surfaces) || hasAny(changed.triangleIndexes) || hasAny(changed.vertices))
-                    showSurface(false);
+            [this, which, showAnew](const QVector<RecordRef> &records) {
+                if (m_models[which].isShownBy(records))
+                    showAnew();
             });
 }
 
@@ -254,10 +218,12 @@ void UvDock::listSurfaces()
     const Model *model = current();
     const QSignalBlocker blocker(m_surfaces);
     m_surfaces->clear();
-    const int count =
-        model && model->document->isOpen() ? model->document->recordCount(model->surfaces, {}) : 0;
-    for (int i = 0; i < count; ++i)
-        m_surfaces->addItem(model->tree->label({model->surfaces, {i}}));
+    const int count = model ? model->surfaceCount() : 0;
+    for (int i = 0; i < count; ++i) {
+        const QString material = QFileInfo(model->material(i)).fileName();
+        const QString name = tr("Surface %1").arg(i);
+        m_surfaces->addItem(material.isEmpty() ? name : QStringLiteral("%1: %2").arg(name, material));
+    }
     m_surfaces->setEnabled(count > 0);
 }
 
@@ -323,34 +289,9 @@ bool UvDock::followTree()
     Model *model = current();
     if (!model || !model->document->isOpen())
         return false;
-    const RecordRef record = model->tree->currentRecord();
-    int surface = model->surface;
-    const bool isTriangle = record.kind == model->triangleIndexes;
-    const bool isVertex = record.kind == model->vertices;
-    if (record.kind == model->surfaces || isTriangle)
-        surface = record.index[0];
-    const auto uses = [&](int each) {
-        const std::vector<quint16> *indexes = model->indexes(each);
-        return indexes && std::find(indexes->begin(), indexes->end(), record.index[0]) != indexes->end();
-    };
-    if (isVertex && !uses(surface)) {
-        for (int i = 0; i < m_surfaces->count() && !uses(surface); ++i)
-            surface = uses(i) ? i : surface;
-    }
-    std::vector<int> marked;
-    for (const RecordIndex &vertex : model->tree->selectedRecords(model->vertices))
-        marked.push_back(vertex[0]);
-    for (const RecordIndex &index : model->tree->selectedRecords(model->triangleIndexes)) {
-        const std::vector<quint16> *indexes = model->indexes(index[0]);
-        for (int corner = 0; indexes && corner < 3; ++corner) {
-            if (const quint16 *vertex = Records::element(*indexes, index[1] / 3 * 3 + corner))
-                marked.push_back(*vertex);
-        }
-    }
-    std::sort(marked.begin(), marked.end());
-    marked.erase(std::unique(marked.begin(), marked.end()), marked.end());
     m_hidden->hide();
-    mark(std::move(marked));
+    mark(model->selectedVertices());
+    const int surface = model->selectedSurface(model->surface);
     return std::exchange(model->surface, surface) != surface;
 }
 

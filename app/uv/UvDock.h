@@ -2,17 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Document.h"
 #include "UvMap.h"
+#include "UvSource.h"
 #include "UvTexture.h"
 
 #include <QDockWidget>
 
 #include <array>
-#include <functional>
 #include <vector>
 
-class KVTreeView;
 class QComboBox;
 class QLabel;
 class UvView;
@@ -53,17 +51,8 @@ protected:
 
 private:
     /// One of the two documents.
-    struct Model
+    struct Model : UvSource
     {
-        Document *document;
-        KVTreeView *tree;
-        RecordKind surfaces;
-        RecordKind triangleIndexes;
-        RecordKind vertices;
-        std::function<std::vector<QVector2D>()> uvs;
-        /// Of a surface; null where there is no such.
-        std::function<const std::vector<quint16> *(int surface)> indexes;
-        std::function<QString(int surface)> material;
         int surface = 0;         ///< the one that is shown
         std::vector<int> marked; ///< vertices
     };
@@ -74,9 +63,6 @@ private:
         UvTexture texture;
     };
 
-    template <typename ModelType>
-    static Model modelOf(ModelDocument<ModelType> &document, KVTreeView &tree, RecordKind surfaces,
-                         RecordKind triangleIndexes, RecordKind vertices);
     void follow(size_t which);
     void createActions(QWidget *buttons);
     Model *current() { return m_current < 0 || !isVisible() ? nullptr : &m_models[size_t(m_current)]; }

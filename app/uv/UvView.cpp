@@ -14,29 +14,9 @@
 #include <utility>
 
 namespace {
-constexpr QSize CheckerSize{256, 256}; // texels that a missing texture counts
-constexpr int CheckerSide = 32;
-constexpr double Margin = 12.0;                      // pixels around what is brought into view
-constexpr double LeastSide = 8.0, MostTexel = 128.0; // pixels of a whole texture, of a texel
-constexpr double FarAway = 1000.0;                   // textures; what is beyond is not brought into view
+constexpr double FarAway = 1000.0; // textures; what is beyond is not brought into view
 constexpr double Notch = 1.25;
-constexpr int Step = 40;               // pixels that an arrow key moves
-constexpr double Reach = 6.0;          // pixels of the mouse
-constexpr double RepeatOpacity = 0.35; // of the texture where it is repeated
-constexpr size_t SmoothEdges = 4000;   // more of them are drawn plainly
-constexpr QRgb EdgeColor = 0xffffffff, EdgeShadow = 0xa0000000;
-constexpr QRgb MarkColor = 0xffff8c00, MarkFill = 0x60ff8c00; // as the view marks what is selected
-
-QPixmap checker(const QPalette &palette)
-{
-    QPixmap tile(2 * CheckerSide, 2 * CheckerSide);
-    tile.fill(palette.color(QPalette::Mid));
-    QPainter painter(&tile);
-    const QColor other = palette.color(QPalette::Dark);
-    painter.fillRect(0, 0, CheckerSide, CheckerSide, other);
-    painter.fillRect(CheckerSide, CheckerSide, CheckerSide, CheckerSide, other);
-    return tile;
-}
+constexpr int Step = 40; // pixels that an arrow key moves
 } // namespace
 
 UvView::UvView(QWidget *parent)
@@ -50,12 +30,10 @@ UvView::UvView(QWidget *parent)
 
 void UvView::show(UvMap map, QImage texture, bool fits)
 {
-    const bool isOther = texture.size() != m_texture.size();
-    m_map = std::move(map);
-    m_texture = std::move(texture);
-    m_fewer = {};
+    const QSize before = textureSize();
+    m_painter.setMap(std::move(map), std::move(texture), m_scale);
     m_hovered = -1;
-    if (fits || m_isFitted || isOther)
+    if (fits || m_isFitted || textureSize() != before)
         fit();
     forgetPicture();
 }
@@ -72,33 +50,6 @@ void UvView::setMarked(std::vector<int> vertices)
     update();
 }
 
-QSize UvView::textureSize() const
-{
-    return m_texture.isNull() ? CheckerSize : m_texture.size();
-}
-
-QPointF UvView::toWidget(const QPointF &place) const
-{
-    return toPixels().map(place);
-}
-
-QPointF UvView::toMap(const QPointF &pixel) const
-{
-    const QPointF away = pixel - m_origin;
-    return {away.x() / (textureSize().width() * m_scale), away.y() / (textureSize().height() * m_scale)};
-}
-
-QTransform UvView::toPixels() const
-{
-    return QTransform(textureSize().width() * m_scale, 0, 0, textureSize().height() * m_scale, m_origin.x(),
-                      m_origin.y());
-}
-
-QSizeF UvView::reach() const
-{
-    return {Reach / (textureSize().width() * m_scale), Reach / (textureSize().height() * m_scale)};
-}
-
 void UvView::forgetPicture()
 {
     m_picture = {};
@@ -107,53 +58,40 @@ void UvView::forgetPicture()
 
 // --- What is in view ---------------------------------------------------------------------------------------
 
-void UvView::bring(const QRectF &area)
-{
-    const QSizeF room(std::max(1.0, width() - 2 * Margin), std::max(1.0, height() - 2 * Margin));
-    const double across = std::max(area.width(), 1.0 / textureSize().width()) * textureSize().width();
-    const double down = std::max(area.height(), 1.0 / textureSize().height()) * textureSize().height();
-    m_scale = 1.0;
-    zoom(std::min(room.width() / across, room.height() / down), {});
-    m_origin = {};
-    m_origin = QRectF(rect()).center() - toWidget(area.center());
-    forgetPicture();
-}
-
 void UvView::fit()
 {
     const QRectF reachable(-FarAway, -FarAway, 2 * FarAway, 2 * FarAway);
-    bring(QRectF(0, 0, 1, 1) | (m_map.bounds() & reachable));
+    m_scale.bring(QRectF(0, 0, 1, 1) | (map().bounds() & reachable), size());
     m_isFitted = true;
+    forgetPicture();
 }
 
 void UvView::fitMarked()
 {
     QPolygonF places;
     for (const int vertex : m_marked) {
-        if (m_map.has(vertex))
-            places.append(m_map.place(vertex));
+        if (map().has(vertex))
+            places.append(map().place(vertex));
     }
     if (places.isEmpty())
         return fit();
     const QRectF around = places.boundingRect();
     const double room = 0.1 * std::max({around.width(), around.height(), 0.1});
-    bring(around.adjusted(-room, -room, room, room));
+    m_scale.bring(around.adjusted(-room, -room, room, room), size());
     m_isFitted = false;
+    forgetPicture();
 }
 
 void UvView::zoom(double factor, const QPointF &at)
 {
-    const double longSide = std::max(textureSize().width(), textureSize().height());
-    const double scale = std::clamp(m_scale * factor, LeastSide / longSide, MostTexel);
-    m_origin = at - (at - m_origin) * (scale / m_scale);
-    m_scale = scale;
+    m_scale.zoom(factor, at);
     m_isFitted = false;
     forgetPicture();
 }
 
 void UvView::moveBy(const QPointF &pixels)
 {
-    m_origin += pixels;
+    m_scale.moveBy(pixels);
     m_isFitted = false;
     const double ratio = devicePixelRatioF();
     const QPointF moved = pixels * ratio;
@@ -168,103 +106,11 @@ void UvView::moveBy(const QPointF &pixels)
     for (const QRect &area : bare) {
         const QRectF logical(area.x() / ratio, area.y() / ratio, area.width() / ratio, area.height() / ratio);
         painter.setClipRect(logical);
-        drawStill(painter, logical);
+        m_painter.drawStill(painter, logical, m_scale, palette());
     }
 }
 
 // --- Painting ----------------------------------------------------------------------------------------------
-
-void UvView::drawTexture(QPainter &painter, const QRectF &area) const
-{
-    const QTransform pixels = toPixels();
-    const QRectF whole = pixels.mapRect(QRectF(0, 0, 1, 1));
-    // Near texels have edges; far ones are made fewer, as one would be taken for many otherwise.
-    const bool isFar = m_scale < 1.0 && !m_texture.isNull();
-    const QSize fewer = whole.size().toSize().expandedTo({1, 1});
-    if (isFar && m_fewer.size() != fewer)
-        m_fewer = m_texture.scaled(fewer, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    QBrush brush(m_texture.isNull() ? QBrush(checker(palette())) : QBrush(isFar ? m_fewer : m_texture));
-    const QSizeF size = isFar ? m_fewer.size() : textureSize();
-    brush.setTransform(QTransform::fromScale(1 / size.width(), 1 / size.height()) * pixels);
-    painter.setOpacity(RepeatOpacity);
-    painter.fillRect(area, brush);
-    painter.setOpacity(1.0);
-    const QRectF inside = whole & area;
-    if (!inside.isEmpty()) {
-        painter.fillRect(inside, palette().color(QPalette::Base));
-        painter.fillRect(inside, brush);
-    }
-    painter.setPen(QPen(palette().color(QPalette::Text), 0));
-    painter.drawRect(whole);
-}
-
-void UvView::drawStill(QPainter &painter, const QRectF &area) const
-{
-    painter.fillRect(area, palette().color(QPalette::Base));
-    if (!m_emptyText.isEmpty())
-        return;
-    drawTexture(painter, area);
-
-    const QTransform pixels = toPixels();
-    const QRectF seen = area.adjusted(-3, -3, 3, 3); // lines have their width
-    QVector<QLineF> lines;
-    lines.reserve(int(m_map.edges().size()));
-    for (const QLineF &edge : m_map.edges()) {
-        const QLineF line = pixels.map(edge);
-        if (std::max(line.x1(), line.x2()) >= seen.left() && std::min(line.x1(), line.x2()) <= seen.right() &&
-            std::max(line.y1(), line.y2()) >= seen.top() && std::min(line.y1(), line.y2()) <= seen.bottom())
-            lines.append(line);
-    }
-    // The same for every part of the picture, however many of them are in it.
-    if (m_map.edges().size() <= SmoothEdges) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(QColor::fromRgba(EdgeShadow), 2.5));
-        painter.drawLines(lines);
-        painter.setPen(QPen(QColor::fromRgba(EdgeColor), 1.0));
-        painter.drawLines(lines);
-        painter.setRenderHint(QPainter::Antialiasing, false);
-    } else {
-        painter.setPen(QPen(QColor::fromRgba(EdgeColor), 0));
-        painter.drawLines(lines);
-    }
-}
-
-void UvView::drawMarked(QPainter &painter) const
-{
-    if (m_marked.empty() && m_hovered < 0)
-        return;
-    const QTransform pixels = toPixels();
-    std::vector<bool> isMarked(size_t(m_map.vertices().empty() ? 0 : m_map.vertices().back() + 1), false);
-    for (const int vertex : m_marked) {
-        if (m_map.has(vertex))
-            isMarked[size_t(vertex)] = true;
-    }
-    const auto mark = [&](int vertex, double radius, QRgb color) {
-        const QPointF at = pixels.map(m_map.place(vertex));
-        painter.fillRect(QRectF(at.x() - radius, at.y() - radius, 2 * radius, 2 * radius),
-                         QColor::fromRgba(color));
-    };
-    painter.setPen(QPen(QColor::fromRgba(MarkColor), 0));
-    painter.setBrush(QColor::fromRgba(MarkFill));
-    for (const UvMap::Triangle &triangle : m_map.triangles()) {
-        if (m_marked.size() >= 3 && isMarked[triangle[0]] && isMarked[triangle[1]] && isMarked[triangle[2]])
-            painter.drawPolygon(pixels.map(
-                QPolygonF({m_map.place(triangle[0]), m_map.place(triangle[1]), m_map.place(triangle[2])})));
-    }
-    const QRectF seen = QRectF(rect()).adjusted(-Reach, -Reach, Reach, Reach);
-    for (const int vertex : m_map.vertices()) {
-        if (!isMarked[size_t(vertex)] || !seen.contains(pixels.map(m_map.place(vertex))))
-            continue;
-        mark(vertex, 3.5, EdgeShadow);
-        mark(vertex, 2.5, MarkColor);
-    }
-    if (m_hovered >= 0) {
-        painter.setBrush(Qt::NoBrush);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(QColor::fromRgba(MarkColor), 1.5));
-        painter.drawEllipse(pixels.map(m_map.place(m_hovered)), Reach, Reach);
-    }
-}
 
 void UvView::paintEvent(QPaintEvent *)
 {
@@ -274,13 +120,16 @@ void UvView::paintEvent(QPaintEvent *)
         m_picture = QPixmap(needed);
         m_picture.setDevicePixelRatio(ratio);
         QPainter painter(&m_picture);
-        drawStill(painter, rect());
+        if (m_emptyText.isEmpty())
+            m_painter.drawStill(painter, rect(), m_scale, palette());
+        else
+            painter.fillRect(rect(), palette().color(QPalette::Base));
     }
     {
         QPainter painter(this);
         painter.drawPixmap(0, 0, m_picture);
         if (m_emptyText.isEmpty()) {
-            drawMarked(painter);
+            m_painter.drawMarked(painter, rect(), m_scale, m_marked, m_hovered);
             if (m_gesture == Gesture::Choose && m_last != m_pressed) {
                 painter.setRenderHint(QPainter::Antialiasing, false);
                 QColor fill = palette().color(QPalette::Highlight);
@@ -300,7 +149,7 @@ void UvView::resizeEvent(QResizeEvent *event)
     if (m_isFitted)
         fit();
     else if (event->oldSize().isValid())
-        m_origin += QPointF(width() - event->oldSize().width(), height() - event->oldSize().height()) / 2;
+        m_scale.moveBy(QPointF(width() - event->oldSize().width(), height() - event->oldSize().height()) / 2);
     forgetPicture();
 }
 
@@ -372,7 +221,7 @@ void UvView::mouseReleaseEvent(QMouseEvent *event)
     if (gesture != Gesture::Choose)
         return;
     if (isDrag)
-        choose(m_map.verticesIn(QRectF(toMap(m_pressed), toMap(m_last)).normalized()), event->modifiers());
+        choose(map().verticesIn(QRectF(toMap(m_pressed), toMap(m_last)).normalized()), event->modifiers());
     else
         click(event->localPos(), event->modifiers());
 }
@@ -388,11 +237,11 @@ void UvView::click(const QPointF &pixel, Qt::KeyboardModifiers keys)
 {
     const QPointF place = toMap(pixel);
     std::vector<std::vector<int>> hits;
-    for (const int vertex : m_map.verticesAt(place, reach()))
+    for (const int vertex : map().verticesAt(place, m_scale.sizeOf(UvPainter::Reach)))
         hits.push_back({vertex});
     if (hits.empty()) {
-        for (const int triangle : m_map.trianglesAt(place)) {
-            const UvMap::Triangle &corners = m_map.triangles()[size_t(triangle)];
+        for (const int triangle : map().trianglesAt(place)) {
+            const UvMap::Triangle &corners = map().triangles()[size_t(triangle)];
             hits.push_back({corners.begin(), corners.end()});
             std::sort(hits.back().begin(), hits.back().end());
         }
@@ -422,7 +271,7 @@ void UvView::choose(std::vector<int> vertices, Qt::KeyboardModifiers keys)
 
 void UvView::selectAll()
 {
-    choose(m_map.vertices(), Qt::NoModifier);
+    choose(map().vertices(), Qt::NoModifier);
 }
 
 void UvView::point(const QPointF &pixel)
@@ -430,7 +279,7 @@ void UvView::point(const QPointF &pixel)
     if (!m_emptyText.isEmpty())
         return;
     const QPointF place = toMap(pixel);
-    const std::vector<int> found = m_map.verticesAt(place, reach());
+    const std::vector<int> found = map().verticesAt(place, m_scale.sizeOf(UvPainter::Reach));
     const int vertex = found.empty() ? -1 : found.front();
     if (std::exchange(m_hovered, vertex) != vertex)
         update();

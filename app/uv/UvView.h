@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "UvMap.h"
+#include "UvPainter.h"
 
-#include <QImage>
 #include <QPixmap>
 #include <QWidget>
 
@@ -28,14 +27,15 @@ public:
     /// Marks vertices of the model, ascending; those that the map does not have are kept all the same.
     void setMarked(std::vector<int> vertices);
 
-    const UvMap &map() const { return m_map; }
+    const UvMap &map() const { return m_painter.map(); }
     const std::vector<int> &marked() const { return m_marked; }
 
     /// Where a place of the map stands in the widget, in its pixels, and the other way.
-    QPointF toWidget(const QPointF &place) const;
-    QPointF toMap(const QPointF &pixel) const;
-    QSize textureSize() const; ///< in texels; what it counts as, where there is none
-    bool hasTexture() const { return !m_texture.isNull(); }
+    QPointF toWidget(const QPointF &place) const { return m_scale.toPixels().map(place); }
+    QPointF toMap(const QPointF &pixel) const { return m_scale.toMap(pixel); }
+    /// In texels; what it counts as, where there is none.
+    QSize textureSize() const { return m_scale.textureSize(); }
+    bool hasTexture() const { return !m_painter.texture().isNull(); }
 
     QSize sizeHint() const override { return {400, 300}; }
 
@@ -69,28 +69,18 @@ protected:
 private:
     enum class Gesture { None, Move, Choose };
 
-    QTransform toPixels() const;
-    QSizeF reach() const; ///< of the mouse, in the map
     void moveBy(const QPointF &pixels);
     void zoom(double factor, const QPointF &at);
-    void bring(const QRectF &area);
     void forgetPicture();
-    /// Draws what stands still into the picture, in a part of the widget.
-    void drawStill(QPainter &painter, const QRectF &area) const;
-    void drawTexture(QPainter &painter, const QRectF &area) const;
-    void drawMarked(QPainter &painter) const;
     void click(const QPointF &pixel, Qt::KeyboardModifiers keys);
     void choose(std::vector<int> vertices, Qt::KeyboardModifiers keys);
     void point(const QPointF &pixel);
     void endGesture();
 
-    UvMap m_map;
-    QImage m_texture;
-    mutable QImage m_fewer; ///< the same with less texels, for the pixels that it has
+    UvPainter m_painter;
+    UvScale m_scale;
     QString m_emptyText;
     std::vector<int> m_marked;
-    double m_scale = 1.0; ///< pixels a texel
-    QPointF m_origin;     ///< where the texture's upper left corner stands
     bool m_isFitted = true;
     QPixmap m_picture; ///< of what stands still; null: to be drawn
     Gesture m_gesture = Gesture::None;

@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "ActionTrack.h"
 #include "AnimationCommands.h"
 #include "DocumentFiles.h"
 #include "Hand.h"
 #include "MotionDialog.h"
 #include "MotionPreview.h"
+#include "Playback.h"
 #include "SampleModels.h"
 
 #include <QProgressBar>
@@ -167,6 +169,133 @@ private slots:
         trigger("actionAnimRenumber");
         QCOMPARE((QVector<int>{blocks()[0].animId, blocks()[1].animId, blocks()[2].animId}),
                  (QVector<int>{10, 6, 0}));
+    }
+
+    // What turns the root goes into the frames, and back, by the keys of the menu's dialogs. Meanwhile the
+    // view plays what would come of it, and the document knows nothing of that.
+    void yawGoesToAndFro()
+    {
+        AnimFile turning = twoBlocks();
+        AnimBlock &block = turning.blocks[0];
+        block.setRotationCount(1);
+        block.nodes[0].rotationIndex = 0;
+        block.nodes[0].initialRotation = {0, 0, 0, 1};
+        for (int frame = 0; frame < 11; ++frame) {
+            const QQuaternion turn = QQuaternion::fromAxisAndAngle(0, 0, 1, 9.0f * float(frame));
+            block.rotations.at(0, frame) = turn.toVector4D();
+        }
+        m_window->openFiles({m_folder->save("turning.anim", turning)});
+        QTRY_COMPARE(int(blocks()[0].nodes[0].rotationIndex), 0);
+        const QByteArray before = bytes();
+        const auto byKeys = [this](const char *action, const char *words) {
+            select(*m_window, "treeAnim", {{RecordKind::AnimBlock, {0}}});
+            const int steps = stack()->count();
+            Hand hand({[this, words, steps](QDialog *dialog) {
+                const Closing closing(dialog);
+                QVERIFY2(preview(dialog).contains(QLatin1String(words)), qPrintable(preview(dialog)));
+                QVERIFY(playback().anim && playback().anim != &document().model());
+                QCOMPARE(playback().anim->blocks[0].frameCount(), 11);
+                QVERIFY(stack()->count() == steps);
+                QTest::keyClick(dialog, Qt::Key_Return);
+            }});
+            trigger(action);
+            QCOMPARE(stack()->count(), steps + 1);
+            QCOMPARE(playback().anim, &document().model());
+        };
+        byKeys("actionAnimExtractYaw", "by up to 90.0°, instead of the root bone");
+        QVERIFY(qAbs(blocks()[0].frames[10].yawOffset + float(M_PI / 2)) < 1e-5f);
+        byKeys("actionAnimApplyYaw", "by up to 90.0°, instead of the frames");
+        QCOMPARE(blocks()[0].frames[10].yawOffset, 0.0f);
+        stack()->setIndex(0);
+        QCOMPARE(bytes(), before);
+        // Given up, it plays as it was.
+        select(*m_window, "treeAnim", {{RecordKind::AnimBlock, {0}}});
+        Hand hand({[this](QDialog *dialog) {
+            const Closing closing(dialog);
+            QVERIFY(playback().anim != &document().model());
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        }});
+        trigger("actionAnimReverse");
+        QCOMPARE(playback().anim, &document().model());
+        QVERIFY(stack()->isClean());
+    }
+
+    void trimBeginsWithTheTimelinesRange()
+    {
+        select(*m_window, "treeAnim", {{RecordKind::AnimBlock, {0}}});
+        emit find<ActionTrack>(*m_window, "actionTrack")->rangeChanged(3, 7);
+        Hand hand({[](QDialog *dialog) {
+            const Closing closing(dialog);
+            QCOMPARE(find<IntSpinBox>(*dialog, "sbFirst")->value(), 3);
+            QCOMPARE(find<IntSpinBox>(*dialog, "sbLast")->value(), 7);
+            QTest::keyClick(dialog, Qt::Key_Return);
+        }});
+        trigger("actionAnimTrim");
+        QCOMPARE(blocks()[0].frameCount(), 5);
+        stack()->undo();
+        QCOMPARE(bytes(), m_before);
+    }
+
+    void animationsComeFromAnotherSkeleton()
+    {
+        // Other numbers, and a bone that finds none; the mesh stands beside its animations.
+        SkinnedMesh mesh = triangleMan();
+        mesh.nodes.resize(3);
+        mesh.nodes[0].childNodes = {2, 1};
+        mesh.nodes[1].name = QStringLiteral("hat");
+        mesh.nodes[2].name = QStringLiteral("Head");
+        mesh.nodes[1].symbolFlags = 0x40;
+        m_folder->save("other/villain.skinnedmesh", mesh);
+        m_folder->put("other/villain.names.json", ModelNames::of(mesh).toJson());
+        AnimFile anim = twoBlocks();
+        for (AnimBlock &block : anim.blocks) {
+            block.nodes.resize(3);
+            block.setTranslationCount(1);
+            block.nodes[2].translationIndex = 0;
+            for (int frame = 0; frame < 11; ++frame)
+                block.translations.at(0, frame) = {0, float(frame), 0};
+        }
+        const QString villain = m_folder->save("other/villain.anim", anim);
+        m_folder->put("other/broken.anim", "short");
+        SkinnedMesh own = triangleMan();
+        own.nodes[1].name = QStringLiteral("head");
+        m_folder->save("man.skinnedmesh", own);
+        m_folder->put("man.names.json", ModelNames::of(own).toJson());
+        m_window->openFiles({m_folder->path("man.skinnedmesh")});
+        QTRY_COMPARE(rootOf(*m_window, "treeSkinnedMesh"), QString("man.skinnedmesh"));
+
+        const auto choose = [this](QDialog *dialog, const QString &path) {
+            Hand hand({Hand::file(path)});
+            QTest::keyClick(find<QPushButton>(*dialog, "btnSource"), Qt::Key_Space);
+        };
+        Hand hand({[&](QDialog *dialog) {
+            const Closing closing(dialog);
+            QVERIFY(!okOf(dialog)->isEnabled());
+            choose(dialog, m_folder->path("other/broken.anim"));
+            QVERIFY2(preview(dialog).contains("broken.anim' cannot be read"), qPrintable(preview(dialog)));
+            choose(dialog, villain);
+            QCOMPARE(find<QLineEdit>(*dialog, "txtSourceMesh")->text(),
+                     m_folder->path("other/villain.skinnedmesh"));
+            auto *list = find<QListWidget>(*dialog, "listBlocks");
+            QCOMPARE(list->count(), 2);
+            const auto *bones = find<QTreeWidget>(*dialog, "treeBones");
+            QCOMPARE(bones->topLevelItemCount(), 3);
+            QCOMPARE(bones->topLevelItem(1)->text(0), QString("1: head"));
+            QCOMPARE(bones->topLevelItem(1)->text(1), QString("2: Head"));
+            QCOMPARE(bones->topLevelItem(2)->text(1), QString("1: hat"));
+            QVERIFY2(preview(dialog).contains("Bones that found their partner: 2."),
+                     qPrintable(preview(dialog)));
+            QTest::keyClick(list, Qt::Key_A, Qt::ControlModifier);
+            QTest::keyClick(list, Qt::Key_Return);
+        }});
+        trigger("actionAnimCopyFrom");
+        QCOMPARE(blocks().size(), size_t(5));
+        QCOMPARE(stack()->count(), 1);
+        QCOMPARE(int(blocks()[4].nodes.size()), 2);
+        const quint16 track = blocks()[4].nodes[1].translationIndex;
+        QCOMPARE(blocks()[4].translations.at(track, 7), QVector3D(0, 7, 0));
+        stack()->undo();
+        QCOMPARE(bytes(), m_before);
     }
 
     void theContextMenuOffersThemForAnimations()

@@ -104,8 +104,11 @@ void SceneMarks::placeHotPoints(const MarkedRecords &records, const ScreenMap &m
 void SceneMarks::placeEvents(const MarkedRecords &records, const ScreenMap &map, const BonePalette &palette)
 {
     for (const MarkedEvent &event : records.events.shown()) {
-        const bool hasBone = event.bone >= 0 && size_t(event.bone) < palette.size();
-        const QVector3D place = hasBone ? palette[size_t(event.bone)].map(event.offset) : event.offset;
+        // What is dragged is a hot point where one is selected.
+        const bool isDragged = records.draggedPoint && event.selected && records.selectedHotPoints.empty();
+        const DraggedPoint at = isDragged ? *records.draggedPoint : DraggedPoint{event.offset, event.bone};
+        const bool hasBone = at.bone >= 0 && size_t(at.bone) < palette.size();
+        const QVector3D place = hasBone ? palette[size_t(at.bone)].map(at.place) : at.place;
         const QVector3D inEye = map.toEye(place);
         if (map.isVisible(inEye))
             m_events.push_back({event, map.pixel(inEye)});

@@ -276,6 +276,8 @@ void ActionTrack::giveUp()
         m_selection = given.selection;
     if (m_frame != given.shown)
         emit frameAsked(given.shown);
+    if (given.played == PlayState::Playing)
+        emit playAsked();
     update();
 }
 

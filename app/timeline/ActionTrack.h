@@ -3,6 +3,7 @@
 #pragma once
 
 #include "MarkSelection.h"
+#include "Playback.h"
 #include "TrackLayout.h"
 
 #include <QWidget>
@@ -49,6 +50,8 @@ public:
 signals:
     /// This frame is to be shown.
     void frameAsked(int frame);
+    /// A drag that stopped what played was given up: it is to go on.
+    void playAsked();
     /// These actions are to be selected, `current` of them to be the current one; none: -1.
     void selectionAsked(const QVector<int> &actions, int current);
     /// These actions are to be so many frames later.
@@ -82,12 +85,13 @@ private:
         bool moved = false; ///< farther than a click shakes
         int mark = -1;      ///< the action that was taken
         TrackHandle handle = TrackHandle::LoopFrame;
-        int frame = 0;           ///< of what was taken, before
-        int target = 0;          ///< where it would be dropped
-        int shown = 0;           ///< the frame that was shown before
-        MarkSelection selection; ///< as it was before
-        MarkSelection taken;     ///< what is dragged, whatever is selected meanwhile
-        int rangeFirst = 0;      ///< as it was before
+        int frame = 0;                           ///< of what was taken, before
+        int target = 0;                          ///< where it would be dropped
+        int shown = 0;                           ///< the frame that was shown before
+        MarkSelection selection;                 ///< as it was before
+        MarkSelection taken;                     ///< what is dragged, whatever is selected meanwhile
+        PlayState played = playback().playState; ///< before
+        int rangeFirst = 0;                      ///< as it was before
         int rangeLast = -1;
     };
 

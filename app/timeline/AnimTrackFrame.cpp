@@ -80,6 +80,7 @@ AnimTrackFrame::AnimTrackFrame(QWidget *parent)
     connect(m_ui->sliderAnimTrack, &TrackSlider::actionChosen, this,
             [this](int action) { emit actionChosen(playback().blockIndex, action); });
     connect(m_ui->actionTrack, &ActionTrack::frameAsked, this, &AnimTrackFrame::goTo);
+    connect(m_ui->actionTrack, &ActionTrack::playAsked, this, [this] { play(playback().time); });
     connect(m_ui->actionTrack, &ActionTrack::rangeChanged, this, [this](int first, int last) {
         playback().range = {first, last};
         emit playbackChanged();

@@ -4,6 +4,7 @@
 #include "EditedList.h"
 #include "NumberedLists.h"
 #include "RecordsJson.h"
+#include "RemoveRecords.h"
 #include "SkinnedMeshCommands.h"
 #include "StaticMeshCommands.h"
 
@@ -82,12 +83,8 @@ public:
             return {ListTexts::tr("The last surface stays: the file format keeps no vertices without one."),
                     {},
                     {}};
-        QUndoStack &stack = *m_document.undoStack();
-        stack.beginMacro(ListTexts::tr("Cut"));
-        // From the last to the first, so that the indexes of those that are left hold.
-        for (int i = records.size() - 1; i >= 0; --i)
-            stack.push(new Remove(m_document.editTarget(), records.at(i)));
-        stack.endMacro();
+        removeRecords<Remove>(*m_document.undoStack(), m_document.editTarget(), records,
+                              ListTexts::tr("Cut"));
         return {};
     }
 

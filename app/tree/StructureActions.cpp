@@ -10,6 +10,7 @@
 #include "RecordEdits.h"
 #include "RecordItem.h"
 #include "RecordTable.h"
+#include "RemoveRecords.h"
 #include "Shortcuts.h"
 #include "SimilarMenu.h"
 #include "SkinnedMeshCommands.h"
@@ -266,17 +267,9 @@ void StructureActions::remove(const Shown<DocumentType> &shown)
     const RecordRef current = shown.tree->currentRecord();
     if (current.kind != Command::Place::kind)
         return;
-    const QVector<RecordIndex> records = shown.tree->selectedRecords(current.kind);
-    QUndoStack *stack = shown.document.undoStack();
-    if (records.size() == 1) {
-        stack->push(new Command(shown.document.editTarget(), current.index));
-        return;
-    }
-    // From the last to the first, so that the indexes of those that are left hold.
-    stack->beginMacro(QCoreApplication::translate("UndoCommands", Command::undoText));
-    for (int i = records.size() - 1; i >= 0; --i)
-        stack->push(new Command(shown.document.editTarget(), records.at(i)));
-    stack->endMacro();
+    removeRecords<Command>(*shown.document.undoStack(), shown.document.editTarget(),
+                           shown.tree->selectedRecords(current.kind),
+                           QCoreApplication::translate("UndoCommands", Command::undoText));
 }
 
 template <typename RecordType, typename DocumentType>

@@ -13,6 +13,7 @@
 #include "Playback.h"
 #include "RecordFields.h"
 #include "RecordsJson.h"
+#include "RemoveRecords.h"
 #include "Shortcuts.h"
 
 #include <QAction>
@@ -363,15 +364,9 @@ void TimelineEdits::remove()
 {
     if (!isReady(true))
         return;
-    const QVector<RecordIndex> records = selected();
-    QUndoStack &stack = *m_document.undoStack();
-    if (records.size() > 1)
-        stack.beginMacro(QCoreApplication::translate("UndoCommands", UC_AnimRemoveAction::undoText));
-    // From the last to the first, so that the indexes of those that are left hold.
-    for (int i = records.size() - 1; i >= 0; --i)
-        stack.push(new UC_AnimRemoveAction(m_document.editTarget(), records[i]));
-    if (records.size() > 1)
-        stack.endMacro();
+    removeRecords<UC_AnimRemoveAction>(
+        *m_document.undoStack(), m_document.editTarget(), selected(),
+        QCoreApplication::translate("UndoCommands", UC_AnimRemoveAction::undoText));
 }
 
 void TimelineEdits::finish(const ListEdit &edit)

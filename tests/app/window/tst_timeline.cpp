@@ -155,6 +155,15 @@ private slots:
                 on.key(Qt::Key_Escape);
                 QCOMPARE(playback().time, 0.1f);
                 QTest::mouseRelease(on.track, Qt::LeftButton, {}, {on.x(8), on.mark(0).y()});
+                QVERIFY(playback().playState != PlayState::Playing);
+                // What played goes on.
+                playback().playState = PlayState::Playing;
+                on.press(on.mark(0));
+                on.move({on.x(8), on.mark(0).y()});
+                QVERIFY(playback().playState == PlayState::Paused);
+                on.key(Qt::Key_Escape);
+                QVERIFY(playback().playState == PlayState::Playing);
+                QTest::mouseRelease(on.track, Qt::LeftButton, {}, {on.x(8), on.mark(0).y()});
             },
             none, {}, {0});
         add("keys while it is dragged",

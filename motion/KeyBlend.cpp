@@ -9,15 +9,6 @@ namespace {
 constexpr double NearUnits = 1e-3;
 constexpr double NearRadians = 0.05 * M_PI / 180;
 
-/// Whether a rotation has a direction at all.
-bool isTurn(const QVector4D &v)
-{
-    double squared = 0;
-    for (int i = 0; i < 4; ++i)
-        squared += double(v[i]) * double(v[i]);
-    return std::isfinite(squared) && squared > 1e-12;
-}
-
 /// The full turns between two angles left out.
 double shorterWay(float from, float to)
 {
@@ -26,6 +17,14 @@ double shorterWay(float from, float to)
 } // namespace
 
 namespace Motion {
+bool isTurn(const QVector4D &xyzw)
+{
+    double squared = 0;
+    for (int i = 0; i < 4; ++i)
+        squared += double(xyzw[i]) * double(xyzw[i]);
+    return std::isfinite(squared) && squared > 1e-12;
+}
+
 QVector3D between(const QVector3D &from, const QVector3D &to, double t)
 {
     if (t >= 1)

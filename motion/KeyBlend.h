@@ -6,6 +6,9 @@
 #include <QVector4D>
 
 namespace Motion {
+/// Whether a rotation has a direction at all.
+bool isTurn(const QVector4D &xyzw);
+
 /// What stands between two keys at `t`, 0 to 1. At 0 and at 1, and where a key is no number, it is one of the
 /// keys, bit for bit. Rotations go the shorter way and get the length 1; yaw, in radians, goes the shorter
 /// way and on from `from` without a jump.

@@ -96,6 +96,10 @@ inline const SettingKey<bool> GoToSelectedAction{"GoToSelectedAction", false};
 inline const SettingKey<QString> SoundsFolder{"SoundsFolder", {}};
 inline const SettingKey<bool> PlayEventSounds{"PlayEventSounds", true};
 
+// Curves: a bit for each channel that is shown, and over how many frames to either side keys are smoothed.
+inline const SettingKey<int> CurveChannels{"CurveChannels", 0x38}; // the rotations
+inline const SettingKey<int> CurveSmoothing{"CurveSmoothing", 2};
+
 // Folder explorers.
 inline const SettingKey<bool> SkinnedMeshQuickSelect{"SkinnedMeshQuickSelect", true};
 inline const SettingKey<bool> AnimationQuickSelect{"AnimationQuickSelect", true};

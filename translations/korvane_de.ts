@@ -1389,6 +1389,17 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
 </context>
 <context>
+    <name>ChannelList</name>
+    <message>
+        <source>Shown curves</source>
+        <translation>Gezeigte Kurven</translation>
+    </message>
+    <message>
+        <source>Which curves are shown; Space switches one on or off</source>
+        <translation>Welche Kurven gezeigt werden; die Leertaste schaltet eine ein oder aus</translation>
+    </message>
+</context>
+<context>
     <name>ChoicePopup</name>
     <message>
         <source>Nothing has these words.</source>
@@ -1977,6 +1988,193 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <translation>
             <numerusform>%n weitere</numerusform>
             <numerusform>%n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CurveChannel</name>
+    <message>
+        <source>Translation %1</source>
+        <translation>Translation %1</translation>
+    </message>
+    <message>
+        <source>Rotation %1</source>
+        <translation>Rotation %1</translation>
+    </message>
+    <message>
+        <source>Yaw</source>
+        <translation>Gierwinkel</translation>
+    </message>
+</context>
+<context>
+    <name>CurveEdits</name>
+    <message>
+        <source>Move Keys</source>
+        <translation>Schlüssel verschieben</translation>
+    </message>
+    <message>
+        <source>Set Keys</source>
+        <translation>Schlüssel setzen</translation>
+    </message>
+    <message>
+        <source>Smooth Keys</source>
+        <translation>Schlüssel glätten</translation>
+    </message>
+    <message>
+        <source>Straighten Keys</source>
+        <translation>Schlüssel begradigen</translation>
+    </message>
+</context>
+<context>
+    <name>CurveView</name>
+    <message>
+        <source>Curves</source>
+        <translation>Kurven</translation>
+    </message>
+    <message>
+        <source>%1, frame %2: %3</source>
+        <translation>%1, Frame %2: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weiterer</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CurvesDock</name>
+    <message>
+        <source>Keep Bones</source>
+        <translation>Knochen beibehalten</translation>
+    </message>
+    <message>
+        <source>How the selected bones move, as curves over the frames</source>
+        <translation>Wie sich die ausgewählten Knochen bewegen, als Kurven über den Frames</translation>
+    </message>
+    <message>
+        <source>Curves</source>
+        <translation>Kurven</translation>
+    </message>
+    <message>
+        <source>Go on showing these bones, whatever is selected</source>
+        <translation>Diese Knochen weiter zeigen, was auch ausgewählt wird</translation>
+    </message>
+    <message>
+        <source>Frames to smooth over</source>
+        <translation>Frames, über die geglättet wird</translation>
+    </message>
+    <message>
+        <source>How many frames to either side are smoothed over</source>
+        <translation>Über wie viele Frames zu jeder Seite geglättet wird</translation>
+    </message>
+    <message>
+        <source>S&amp;mooth</source>
+        <translation>&amp;Glätten</translation>
+    </message>
+    <message>
+        <source>Smooth the selected keys; what is not selected stays, and so do the ends</source>
+        <translation>Die ausgewählten Schlüssel glätten; was nicht ausgewählt ist, bleibt, und auch die Enden bleiben</translation>
+    </message>
+    <message>
+        <source>S&amp;traighten</source>
+        <translation>&amp;Begradigen</translation>
+    </message>
+    <message>
+        <source>Lead straight from the first to the last of the selected keys</source>
+        <translation>Vom ersten bis zum letzten der ausgewählten Schlüssel gerade führen</translation>
+    </message>
+    <message>
+        <source>Show &amp;All</source>
+        <translation>&amp;Alles zeigen</translation>
+    </message>
+    <message>
+        <source>Show all frames and all values</source>
+        <translation>Alle Frames und alle Werte zeigen</translation>
+    </message>
+    <message>
+        <source>Show &amp;Selected Keys</source>
+        <translation>Ausgewählte &amp;Schlüssel zeigen</translation>
+    </message>
+    <message>
+        <source>Show the selected keys as large as they can be</source>
+        <translation>Die ausgewählten Schlüssel so groß wie möglich zeigen</translation>
+    </message>
+    <message>
+        <source>Select All &amp;Keys</source>
+        <translation>Alle Schlüssel aus&amp;wählen</translation>
+    </message>
+    <message>
+        <source>Value of the selected keys</source>
+        <translation>Wert der ausgewählten Schlüssel</translation>
+    </message>
+    <message>
+        <source>The value of the key that was selected last; what is entered goes to all selected keys of its unit, a calculation such as *=2 to each by its own</source>
+        <translation>Der Wert des zuletzt ausgewählten Schlüssels; was eingegeben wird, erhalten alle ausgewählten Schlüssel seiner Einheit, eine Rechnung wie *=2 jeder mit seinem eigenen Wert</translation>
+    </message>
+    <message>
+        <source>Bone %1</source>
+        <translation>Knochen %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weiterer</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No animation is open.</source>
+        <translation>Es ist keine Animation geöffnet.</translation>
+    </message>
+    <message>
+        <source>The animation has no frames.</source>
+        <translation>Die Animation hat keine Frames.</translation>
+    </message>
+    <message>
+        <source>Check the curves that are to be shown in the list at the left.</source>
+        <translation>Setzen Sie in der Liste links Häkchen bei den Kurven, die gezeigt werden sollen.</translation>
+    </message>
+    <message>
+        <source>Select a bone in a tree or in the view to see its curves.</source>
+        <translation>Wählen Sie einen Knochen in einem Baum oder in der Ansicht, um seine Kurven zu sehen.</translation>
+    </message>
+    <message>
+        <source>The bone follows no track of these kinds: it stays as it is in the initial pose.</source>
+        <translation>Der Knochen folgt keiner Spur dieser Arten: Er bleibt, wie er in der Anfangspose ist.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n other bones follow the same tracks</source>
+        <translation>
+            <numerusform>%n anderer Knochen folgt denselben Spuren</numerusform>
+            <numerusform>%n andere Knochen folgen denselben Spuren</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>also followed by bone %1</source>
+        <translation>auch Knochen %1 folgt diesen Spuren</translation>
+    </message>
+    <message>
+        <source>No key selected</source>
+        <translation>Kein Schlüssel ausgewählt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n keys selected</source>
+        <translation>
+            <numerusform>%n Schlüssel ausgewählt</numerusform>
+            <numerusform>%n Schlüssel ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, frame %2:</source>
+        <translation>%1, Frame %2:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n keys, %1</source>
+        <translation>
+            <numerusform>%n Schlüssel, %1</numerusform>
+            <numerusform>%n Schlüssel, %1</numerusform>
         </translation>
     </message>
 </context>
@@ -4369,6 +4567,10 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>Show the directions of the axes; a click on one looks from there, a drag turns the view</source>
         <translation>Die Richtungen der Achsen zeigen; ein Klick auf eine sieht von dort, Ziehen dreht die Ansicht</translation>
+    </message>
+    <message>
+        <source>Curves</source>
+        <translation>Kurven</translation>
     </message>
 </context>
 <context>
@@ -9823,6 +10025,10 @@ Nichts wurde geändert. %2</translation>
     <message>
         <source>Animation Command</source>
         <translation>Animationsbefehl</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Schlüssel</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,7 @@
 #include "BlockBones.h"
 #include "ExchangeCommand.h"
 #include "FieldCommand.h"
+#include "KeysCommand.h"
 #include "ReplaceCommand.h"
 #include "StructureCommand.h"
 #include "Tracks.h"
@@ -39,6 +40,7 @@
     ROW(UC_AnimBlockRemove, RemoveCommand, QT_TRANSLATE_NOOP("UndoCommands", "Remove Animation"), Records::Block, RecordKind::AnimFile) \
     ROW(UC_AnimBlockPaste, InsertCommand, QT_TRANSLATE_NOOP("UndoCommands", "Paste Animation"), Records::Block, RecordKind::AnimFile) \
     ROW(UC_AnimBlockMotion, ExchangeCommand, QT_TRANSLATE_NOOP("UndoCommands", "Animation Command"), Records::Block, WholeBlock) \
+    ROW(UC_AnimKeys, KeysCommand, QT_TRANSLATE_NOOP("UndoCommands", "Keys"), Records::Block) \
     ROW(UC_AnimTranslationTracks, ExchangeCommand, QT_TRANSLATE_NOOP("UndoCommands", "Translation Tracks"), Records::Block, TranslationTracks) \
     ROW(UC_AnimBones, ExchangeCommand, QT_TRANSLATE_NOOP("UndoCommands", "Bones"), Records::AnimFileRoot, BlockBones) \
     ROW(UC_AnimRotationTracks, ExchangeCommand, QT_TRANSLATE_NOOP("UndoCommands", "Rotation Tracks"), Records::Block, RotationTracks)

@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 constexpr double NotchZoom = 1.25;
@@ -73,7 +74,8 @@ void ActionTrack::setFrame(int frame)
         if (frame != m_frame)
             update(m_places.rulerPlace(each).x() - 3, 0, 7, height());
     }
-    m_frame = frame;
+    if (std::exchange(m_frame, frame) != frame)
+        emit frameShown(frame);
 }
 
 void ActionTrack::setSelection(const QVector<int> &actions, int current)

@@ -48,6 +48,8 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 signals:
+    /// Another frame is shown.
+    void frameShown(int frame);
     /// This frame is to be shown.
     void frameAsked(int frame);
     /// A drag that stopped what played was given up: it is to go on.

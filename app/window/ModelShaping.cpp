@@ -49,6 +49,11 @@ ModelShaping::ModelShaping(const Ui::MainWindow &ui, DocumentPanes &panes, Skinn
                 panes.all()[size_t(type)].viewport->setMarkedVertices(vertices);
             });
 
+    ui.dockCurves->setSources(anim, skinned, *ui.treeAnim, *ui.treeSkinnedMesh, *ui.animTrackFrame);
+    connect(ui.viewSkinned, &KVOpenGLWidget::bonePicked, ui.dockCurves, &CurvesDock::showBone);
+    connect(ui.dockCurves, &CurvesDock::posed, ui.viewSkinned, qOverload<>(&QWidget::update));
+    connect(ui.dockCurves, &CurvesDock::documentWanted, &panes, &DocumentPanes::showPane);
+
     for (DragEditing *drags :
          {new DragEditing(skinned, *ui.treeSkinnedMesh, anim, *ui.treeAnim, *ui.viewSkinned, this),
           new DragEditing(rigid, *ui.treeStaticMesh, *ui.viewStatic, this)}) {

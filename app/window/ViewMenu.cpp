@@ -42,7 +42,8 @@ ViewMenu::ViewMenu(const Ui::MainWindow &ui, const DocumentPanes &panes, QAction
                       ui.dockConsole->toggleViewAction(), ui.dockProblems->toggleViewAction(),
                       ui.dockFind->toggleViewAction(), ui.dockCompare->toggleViewAction(),
                       ui.dockTable->toggleViewAction(), ui.dockUv->toggleViewAction(),
-                      ui.dockHistory->toggleViewAction(), ui.dockServers->toggleViewAction()});
+                      ui.dockCurves->toggleViewAction(), ui.dockHistory->toggleViewAction(),
+                      ui.dockServers->toggleViewAction()});
     createToolBars(ui, panes, *display, window);
 }
 

@@ -22,5 +22,5 @@ const AnimBlock *playableBlock(const Playback &state)
         return nullptr;
     if (state.blockIndex < 0 || size_t(state.blockIndex) >= state.anim->blocks.size())
         return nullptr;
-    return &state.anim->blocks[size_t(state.blockIndex)];
+    return state.preview ? state.preview : &state.anim->blocks[size_t(state.blockIndex)];
 }

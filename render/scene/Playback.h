@@ -27,6 +27,9 @@ struct Playback
     float time = 0.0f;      ///< seconds
     bool forceLoop = false; ///< "Force Loop beginning to end"
     FrameRange range;
+    /// Shown in place of the block, which has as many bones and frames, while keys are dragged. Whoever set
+    /// it takes it back before the block is another one.
+    const AnimBlock *preview = nullptr;
     float speedFactor = 1.0f; ///< of the clock: how much faster than the file says
 };
 

@@ -58,7 +58,8 @@ inline constexpr bool isExchange<Command, std::void_t<typename Command::State>> 
 /// Whether the command changes a list: neither a field nor the whole model.
 template <typename Command>
 inline constexpr bool isStructure =
-    !isField<Command> && !isExchange<Command> && (indexCount<typename Command::Place> > 0);
+    !isField<Command> && !isExchange<Command> && !std::is_same_v<Command, UC_AnimKeys> &&
+    (indexCount<typename Command::Place> > 0);
 
 template <typename Command>
 constexpr bool isInsertion()
@@ -165,6 +166,17 @@ Command *make(EditTarget<typename Command::Model> target, const RecordIndex &ind
         const RecordRef place{Command::Place::kind, index};
         return new Command(target, index, otherState<typename Command::State>(target.model(), index), place,
                            place);
+    } else if constexpr (std::is_same_v<Command, UC_AnimKeys>) {
+        const AnimBlock *block = Command::Place::find(target.model(), index);
+        const int last = block->frameCount() - 1;
+        BlockKeys keys;
+        keys.setYaw(last, other(block->frames[size_t(last)].yawOffset));
+        if (block->translations.trackCount() > 0)
+            keys.setTranslation(0, last, other(block->translations.at(0, last)));
+        if (block->rotations.trackCount() > 0)
+            keys.setRotation(0, last, other(block->rotations.at(0, last)));
+        keys.setYaw(last + 1, 1.0f); // which there is not
+        return new Command(target, index, keys, {{Command::Place::kind, index}});
     } else if constexpr (isInsertion<Command>()) {
         const auto &list = *Command::Place::list(target.model(), index);
         return new Command(target, index, list.empty() ? typename Command::Record() : list.back());

@@ -202,14 +202,10 @@ void ActionTrack::follow(const QMouseEvent &event)
         tellDrag(event.globalPos());
         break;
     }
-    case Gesture::Handle: {
-        const double end = scale.xOf(scale.lastFrame()) + TrackLayout::EndRoom / 2.0;
-        const bool isNone = m_drag.handle == TrackHandle::LoopFrame && event.pos().x() > end;
-        const int most = m_drag.handle == TrackHandle::LoopFrame ? NoLoop - 1 : TrackLayout::MostFrame;
-        m_drag.target = isNone ? NoLoop : std::min(frame, most);
+    case Gesture::Handle:
+        m_drag.target = m_places.handleFrameAt(m_drag.handle, event.pos().x());
         tellDrag(event.globalPos());
         break;
-    }
     }
     update();
 }

@@ -132,6 +132,15 @@ std::optional<TrackHandle> TrackLayout::handleAt(const QPoint &position) const
     return nearest;
 }
 
+int TrackLayout::handleFrameAt(TrackHandle handle, int x) const
+{
+    const int frame = m_scale.frameAt(x);
+    if (handle != TrackHandle::LoopFrame)
+        return std::min(frame, MostFrame);
+    const double end = m_scale.xOf(m_scale.lastFrame()) + EndRoom / 2.0;
+    return x > end ? NoLoop : std::min(frame, NoLoop - 1);
+}
+
 // --- Texts -------------------------------------------------------------------------------------------------
 
 QStringList trackRowNames()

@@ -60,6 +60,8 @@ public:
     /// What a press takes.
     const TrackMarks::Mark *markAt(const QPoint &position) const;
     std::optional<TrackHandle> handleAt(const QPoint &position) const;
+    /// The frame that a handle would stand for there; NoLoop behind the end, where it is that of the loop.
+    int handleFrameAt(TrackHandle handle, int x) const;
 
     /// What there is to say of a handle that stands for a frame, and of what lies under the mouse.
     QString handleText(TrackHandle handle, int frame) const;

@@ -51,6 +51,7 @@ private slots:
     {
         const TestFolder folder;
         StaticMesh wall;
+        wall.surfaces = {{"materials/m/_white", {0, 1, 0}}};
         wall.vertices = {{{-1, 2, 3}, {}, {}}, {{4, -5, 6}, {}, {}}};
         const QString rigid = folder.save("wall.staticmesh", wall);
         QCOMPARE(ToolRun("fit-boxes --in-place", {rigid}).exitCode, 0);

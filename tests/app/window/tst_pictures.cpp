@@ -215,6 +215,8 @@ private:
     }
     static void type(QWidget *field, const QString &text)
     {
+        // What is typed is stored when a field loses the keys, which only an active window has.
+        QApplication::setActiveWindow(field->window());
         field->setFocus();
         if (auto *line = qobject_cast<QLineEdit *>(field))
             line->selectAll();

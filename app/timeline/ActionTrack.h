@@ -20,9 +20,6 @@ class ActionTrack : public QWidget
     Q_OBJECT
 
 public:
-    /// What a loop frame is that is none.
-    static constexpr int NoLoop = 0xFFFF;
-
     explicit ActionTrack(QWidget *parent = nullptr);
 
     /// Shows a block, which is borrowed until the next call; null: none. A gesture that is under way is given

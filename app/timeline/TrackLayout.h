@@ -29,6 +29,7 @@ public:
     static constexpr int EndRoom = 18; ///< pixels behind the last frame, for a loop frame that is none
     static constexpr int ScrollHeight = 10;
     static constexpr int MostFrame = 0xFFFF; ///< that an action, loop or blend can name
+    static constexpr int NoLoop = 0xFFFF;    ///< what a loop frame is that is none
 
     /// The block is borrowed; null: none. Of another block (`anew`) all frames are shown.
     void setBlock(const AnimBlock *block, bool anew);

@@ -11,11 +11,13 @@
 #include <QVector4D>
 
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <utility>
 
 namespace {
 constexpr float OverlayPull = 0.998f;
+constexpr float DepthStep = 1.0f / float(1 << 23); // of 24 bits, from -1 to 1
 constexpr QVector3D DarkWires(0.08f, 0.08f, 0.1f);
 constexpr QVector3D LightWires(0.65f, 0.68f, 0.72f);
 constexpr float WiresOnSurfaces = 0.6f; // opacity: where they are dense the texture still shows
@@ -56,8 +58,10 @@ void SurfacePainter::setBackground(const QColor &color)
 QMatrix4x4 SurfacePainter::pulledMatrix(const SceneFrame &frame, const QMatrix4x4 &modelMatrix)
 {
     QMatrix4x4 pull;
-    if (isOrthographic(frame.projection))
-        pull.translate(0.0f, 0.0f, (1.0f - OverlayPull) / frame.projection(1, 1));
+    if (isOrthographic(frame.projection)) // by what the depth buffer tells apart, however near it is
+        pull.translate(0.0f, 0.0f,
+                       std::max((1.0f - OverlayPull) / frame.projection(1, 1),
+                                3.0f * DepthStep / std::fabs(frame.projection(2, 2))));
     else
         pull.scale(OverlayPull);
     return frame.projection * pull * frame.view * modelMatrix;
@@ -71,6 +75,8 @@ void SurfacePainter::paint(GLMesh &model, const SceneFrame &frame, const QMatrix
         return;
     if (frame.skinned)
         fillPalette(model.palette);
+    if (frame.skinned && model.palette.size() > size_t(m_programs.boneCount))
+        qDebug("%s", m_programs.missingBoneText.constData());
     model.tintsSelected = frame.showSurfaceTint;
     begin(textured, scene);
     model.setSharpTexels(frame.sharpTexels);
@@ -99,7 +105,6 @@ void SurfacePainter::paintGhost(GLMesh &model, const SceneFrame &frame, const On
     begin(skin, {model, frame, mvp, mvp});
     model.tintsSelected = false;
     m_gl.glUniform4f(skin.wireColor, ghost.color.x(), ghost.color.y(), ghost.color.z(), 1.0f);
-    m_gl.glUniform1i(skin.edges, 1);
     // The nearest parts alone, so that the color is as strong everywhere.
     m_gl.glColorMask(GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
     model.draw(skin);
@@ -110,7 +115,6 @@ void SurfacePainter::paintGhost(GLMesh &model, const SceneFrame &frame, const On
     model.draw(skin);
     setUpBlending(m_gl);
     m_gl.glDepthFunc(GL_LESS);
-    m_gl.glUniform1i(skin.edges, 0);
     m_gl.glUniform4f(skin.wireColor, 0.0f, 0.0f, 0.0f, 0.0f);
 }
 
@@ -228,6 +232,4 @@ void SurfacePainter::fillPalette(const BonePalette &palette)
         const QMatrix4x4 &matrix = bone < palette.size() ? palette[bone] : identity;
         std::memcpy(&m_boneUpload[16 * bone], matrix.constData(), 16 * sizeof(float));
     }
-    if (palette.size() > held)
-        qDebug("%s", m_programs.missingBoneText.constData());
 }

@@ -1314,7 +1314,7 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
     <message>
         <source>Go nearer, as by a notch of the wheel</source>
-        <translation>Näher heran gehen, wie mit einer Raste des Mausrads</translation>
+        <translation>Näher herangehen, wie mit einer Raste des Mausrads</translation>
     </message>
     <message>
         <source>Zoom &amp;Out</source>
@@ -4566,7 +4566,7 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
     <message>
         <source>Show the directions of the axes; a click on one looks from there, a drag turns the view</source>
-        <translation>Die Richtungen der Achsen zeigen; ein Klick auf eine sieht von dort, Ziehen dreht die Ansicht</translation>
+        <translation>Die Richtungen der Achsen zeigen; ein Klick auf ein Ende zeigt das Modell von dort, Ziehen dreht die Ansicht</translation>
     </message>
     <message>
         <source>Curves</source>

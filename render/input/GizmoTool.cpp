@@ -70,7 +70,7 @@ void GizmoTool::hover(const QPoint &pixel, const GizmoHover &hover)
     const GizmoHover before = std::exchange(m_hover, hover);
     if (before == hover)
         return;
-    if (before.side != hover.side)
+    if (before.isOver != hover.isOver || before.side != hover.side) // nor that of what is behind
         m_showTip(pixel, hover.side ? nameOf(*hover.side) : QString());
     if (m_follower)
         m_follower(hover);
@@ -86,7 +86,8 @@ bool GizmoTool::press(const ViewInput &input)
     if (!m_hover.isOver)
         return false;
     m_isPressed = true;
-    m_last = input.position;
+    m_isDrag = false;
+    m_start = m_last = input.position;
     m_pivot = m_sight.pivot();
     return true;
 }
@@ -100,7 +101,8 @@ std::optional<int> GizmoTool::move(const ViewInput &input)
     const QPoint moved = input.position - m_last;
     m_last = input.position;
     // What is no click any more turns, from then on.
-    if (input.travel + moved.manhattanLength() >= input.dragDistance) {
+    m_isDrag = m_isDrag || input.travel + moved.manhattanLength() >= input.dragDistance;
+    if (m_isDrag) {
         hover(input.position, {true, {}});
         m_camera.orbitDrag(m_pivot, float(moved.x()), float(moved.y()));
     }
@@ -112,8 +114,8 @@ bool GizmoTool::release(const ViewInput &input)
     if (!m_isPressed || input.button != Qt::LeftButton)
         return false;
     m_isPressed = false;
-    if (!input.isDrag()) {
-        if (const auto ball = AxisGizmo::ballAt(input.pressPosition, m_camera.viewMatrix(), input.size)) {
+    if (!m_isDrag && !input.isDrag()) {
+        if (const auto ball = AxisGizmo::ballAt(m_start, m_camera.viewMatrix(), input.size)) {
             constexpr float Facing = 0.9995f; // the top is looked at a little askew
             m_camera.lookFrom(ball->nearness > Facing ? opposite(ball->side) : ball->side, m_pivot);
             m_hasTurned = true;

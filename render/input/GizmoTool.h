@@ -39,7 +39,9 @@ private:
     Follower m_follower;
     GizmoHover m_hover;
     bool m_isPressed = false;
+    bool m_isDrag = false;    ///< what was pressed; the input counts anew from a second button on
     bool m_hasTurned = false; ///< by a click
+    QPoint m_start;           ///< where it was pressed
     QPoint m_last;            ///< where the mouse was
     QVector3D m_pivot;
 };

@@ -3,6 +3,7 @@
 #include "ToolChain.h"
 
 #include <algorithm>
+#include <iterator>
 
 void ToolChain::complete(ViewInput &input) const
 {
@@ -28,8 +29,11 @@ bool ToolChain::press(ViewInput input)
 bool ToolChain::move(ViewInput input)
 {
     complete(input);
-    for (const auto &tool : m_tools) {
-        if (const std::optional<int> travelled = tool->move(input)) {
+    for (auto tool = m_tools.begin(); tool != m_tools.end(); ++tool) {
+        if (const std::optional<int> travelled = (*tool)->move(input)) {
+            // Those behind it have nothing under the mouse.
+            if (input.buttons == Qt::NoButton)
+                std::for_each(std::next(tool), m_tools.end(), [](const auto &behind) { behind->leave(); });
             m_travel += *travelled;
             return *travelled > 0;
         }

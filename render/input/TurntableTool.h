@@ -33,12 +33,11 @@ private:
         QVector3D position;
         float yaw = 0.0f;
         float pitch = 0.0f;
-        bool operator==(const Stand &other) const
-        {
-            return position == other.position && yaw == other.yaw && pitch == other.pitch;
-        }
+        float lens = 0.0f;
+        bool isOrthographic = false;
     };
-    Stand stand() const { return {m_camera.position(), m_camera.yaw(), m_camera.pitch()}; }
+    Stand stand() const;
+    bool isWhereItWasLeft() const;
 
     Camera &m_camera;
     const ViewSight &m_sight;

@@ -27,6 +27,12 @@ QMatrix4x4 withoutTranslation(QMatrix4x4 matrix)
     matrix.setColumn(3, {0.0f, 0.0f, 0.0f, 1.0f});
     return matrix;
 }
+
+/// What it may come to be that was `before`: a model that is framed may be larger than any other is shown.
+float scaleDepth(float before, float wanted)
+{
+    return std::clamp(wanted, LeastScaleDepth, std::max(MostDepth, before));
+}
 } // namespace
 
 void Camera::reset()
@@ -97,7 +103,7 @@ void Camera::flyTo(const QVector3D &position)
     // Forward in an orthographic picture is into it.
     const float forward = -QVector3D::dotProduct(position - m_position, sight());
     if (isOrthographic() && std::isfinite(forward))
-        m_scaleDepth = std::clamp(m_scaleDepth - forward, LeastDepth, MostDepth);
+        m_scaleDepth = scaleDepth(m_scaleDepth, m_scaleDepth - forward);
     m_position = position;
     m_framed.reset();
 }
@@ -167,6 +173,7 @@ void Camera::orbitDrag(const QVector3D &pivot, float dx, float dy)
 void Camera::lookFrom(Side side, const QVector3D &pivot)
 {
     constexpr float Front = 180.0f;
+    const bool wasOrthographic = isOrthographic();
     const auto look = [&](float yaw, float pitch) { orbit(pivot, yaw, pitch); };
     switch (side) {
     case Side::Front:
@@ -191,7 +198,7 @@ void Camera::lookFrom(Side side, const QVector3D &pivot)
     if (!m_hasOrthographicSides)
         return;
     const QVector3D seen = viewMatrix().map(pivot);
-    if (!m_isOrthographic)
+    if (!wasOrthographic)
         m_scaleDepth = std::max(-seen.z(), LeastDepth);
     m_isSideOn = true;
     if (m_pitch != 0.0f) {
@@ -208,7 +215,7 @@ void Camera::setLens(float degrees, const QVector3D &pivot)
     const float before = tangent();
     m_lens = degrees;
     const float factor = before / tangent();
-    m_scaleDepth = std::clamp(m_scaleDepth * factor, LeastScaleDepth, MostDepth);
+    m_scaleDepth = scaleDepth(m_scaleDepth, m_scaleDepth * factor);
     if (seen.z() < 0.0f)
         bring(pivot, {seen.x(), seen.y(), -std::clamp(-seen.z() * factor, LeastDepth, MostDepth)});
 }
@@ -240,7 +247,7 @@ void Camera::dolly(const QVector3D &pivot, float factor)
     const QVector3D seen = viewMatrix().map(pivot);
     if (isOrthographic()) {
         const float before = m_scaleDepth;
-        m_scaleDepth = std::clamp(before * factor, LeastScaleDepth, MostDepth);
+        m_scaleDepth = scaleDepth(before, before * factor);
         const float grown = m_scaleDepth / before;
         // The eye goes along, as near as it may.
         return bring(pivot, {seen.x() * grown, seen.y() * grown, -std::max(m_scaleDepth, LeastDepth)});

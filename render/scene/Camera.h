@@ -38,7 +38,7 @@ public:
     /// The offset applied to the world, not the eye's place.
     const QVector3D &position() const { return m_position; }
     float yaw() const { return m_yaw; }     ///< degrees
-    float pitch() const { return m_pitch; } ///< degrees, -89 to 89
+    float pitch() const { return m_pitch; } ///< degrees, -89 to 89, or from an orthographic side -90 or 90
     QQuaternion rotation() const { return QQuaternion::fromEulerAngles(m_pitch, m_yaw, 0.0f); }
 
     /// Where the eye stands, and where it looks.

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "BoxTool.h"
 #include "GizmoTool.h"
 #include "TurntableTool.h"
 #include "Viewport.h"
@@ -26,8 +27,10 @@ private slots:
         playback() = {};
     }
     void whatIsDrawnIsHit();
+    void linesLieOnTheirSurface();
     void markersStayAsLarge();
     void theGizmoIsClicked();
+    void theGizmoHasTheMouse();
     void theTurntableTurnsUntilItIsTouched();
     void onionSkin_data() { addContexts(); }
     void onionSkin();
@@ -131,9 +134,35 @@ void tst_CameraView::whatIsDrawnIsHit()
             m_view->frameAll();
             commands.zoom(-6);
             check(QStringLiteral("lens %1, side %2").arg(double(lens)).arg(int(side)));
-            // Far beyond the eye's own place nothing is cut.
-            m_view->placeCamera(m_view->camera().position(), m_view->camera().yaw(), 0.0f);
         }
+    }
+}
+
+// However near, an orthographic picture has all of a selected surface's lines that lie on it.
+void tst_CameraView::linesLieOnTheirSurface()
+{
+    m_view->square = facingSquare(QStringLiteral("_white"));
+    m_view->square.surfaces[0].triangleIndexes = {0, 2, 1}; // whose line is the one across the square
+    for (auto &vertex : m_view->square.vertices) {
+        const QVector3D place = 0.01f * (vertex.position - QVector3D(0, 0, 300));
+        vertex.position = {place.x(), 0.7f * place.z() + 0.3f * place.x(), 300.0f + place.z()};
+    }
+    m_view->setStaticMesh(&m_view->square);
+    m_view->setShowSurfaceTint(false);
+    m_view->open();
+    m_view->cameraCommands().toggleOrthographic();
+    m_view->frameAll();
+    const auto lines = [this](SurfaceOverlay overlay) {
+        m_view->setSurfSelectType(int(overlay));
+        return m_view->count(
+            [](const QColor &color) { return color.red() > 200 && color.green() < 60 && color.blue() < 60; });
+    };
+    m_view->setSelectedSurface(0);
+    for (int zoom = 0; zoom < 2; ++zoom) {
+        const int all = lines(SurfaceOverlay::LinesHidden);
+        const int seen = lines(SurfaceOverlay::Lines);
+        QVERIFY2(all > 30 && seen > all * 9 / 10, qPrintable(QStringLiteral("%1 of %2").arg(seen).arg(all)));
+        m_view->cameraCommands().zoom(20);
     }
 }
 
@@ -202,6 +231,50 @@ void tst_CameraView::theGizmoIsClicked()
     QCOMPARE(nothing.size(), 0);
 }
 
+// Over it nothing behind it is hovered, and a second button makes no click of a drag.
+void tst_CameraView::theGizmoHasTheMouse()
+{
+    struct Faces : ViewDrags
+    {
+        int face = -1;
+        void hovered(int now) override { face = now; }
+        void grabbed(Handle) override {}
+        void dragged(const BoxDrag &) override {}
+        void dragged(const PointDrag &) override {}
+        void dropped() override {}
+        void givenUp() override {}
+    } faces;
+    m_view->openSquare();
+    m_view->square.bbMin = {-200, -1, 100};
+    m_view->square.bbMax = {200, 1, 500};
+    m_view->setShowBoxes(true);
+    m_view->setShowAxisGizmo(true);
+    m_view->setHandles(MarkedRecords::ModelBox, false);
+    m_view->tools().box->setReceiver(&faces);
+    m_view->grabFramebuffer();
+    for (int pixel = 0; pixel < 170 && faces.face < 0; ++pixel)
+        move({pixel, pixel});
+    QVERIFY(faces.face >= 0);
+    const QPoint middle(64, 300 - 64);
+    move(middle - QPoint(0, 20));
+    QCOMPARE(faces.face, -1);
+    m_view->tools().box->setReceiver(nullptr);
+
+    const auto send = [&](QEvent::Type type, const QPoint &pixel, Qt::MouseButton button,
+                          Qt::MouseButtons held) {
+        QMouseEvent event(type, pixel, m_view->mapToGlobal(pixel), button, held, Qt::NoModifier);
+        QApplication::sendEvent(m_view.get(), &event);
+    };
+    const QPoint top = middle - QPoint(0, 48);
+    send(QEvent::MouseButtonPress, top, Qt::LeftButton, Qt::LeftButton);
+    for (const int x : {40, 80, 0})
+        move(top + QPoint(x, 0), Qt::LeftButton);
+    send(QEvent::MouseButtonPress, top, Qt::RightButton, Qt::LeftButton | Qt::RightButton);
+    send(QEvent::MouseButtonRelease, top, Qt::RightButton, Qt::LeftButton);
+    send(QEvent::MouseButtonRelease, top, Qt::LeftButton, Qt::NoButton);
+    QCOMPARE(m_view->camera().pitch(), 0.0f);
+}
+
 void tst_CameraView::theTurntableTurnsUntilItIsTouched()
 {
     m_view->openSquare();
@@ -222,6 +295,15 @@ void tst_CameraView::theTurntableTurnsUntilItIsTouched()
     QVERIFY(m_view->frames - frames <= int(60.0 * seconds) + 2);
     QVERIFY(std::fabs(double(m_view->camera().yaw() - yaw) - 30.0 * seconds) < 5.0);
     QCOMPARE(m_view->camera().pitch(), 0.0f);
+
+    // A lens is no touch.
+    m_view->cameraCommands().setLens(60.0f);
+    QTest::qWait(50);
+    m_view->cameraCommands().toggleOrthographic();
+    QTest::qWait(50);
+    m_view->cameraCommands().toggleOrthographic();
+    QTest::qWait(50);
+    QVERIFY(turntable->isOn());
 
     const std::function<void()> touches[] = {
         [this] {

@@ -20,6 +20,7 @@ private slots:
     void goesAroundThePivot();
     void lensesKeepWhatIsFramed();
     void orthographicSides();
+    void orthographicSizeStays();
     void staysWhereNumbersReach();
     void fillsThePicture();
     void centresTheModel();
@@ -243,6 +244,37 @@ void tst_Camera::orthographicSides()
     for (int i = 0; i < 200; ++i)
         camera.dolly(pivot, i < 100 ? 0.5f : 3.0f);
     QVERIFY(std::fabs(at(model[7]).x()) < 1.0f && isWithin(1e6f, camera.position()));
+}
+
+// However near, and however large what was framed, another side and a flight aside show it as large.
+void tst_Camera::orthographicSizeStays()
+{
+    const QVector3D pivot(0.0f, 300.0f, 0.0f);
+    const auto height = [](const Camera &camera) { return 1.0f / camera.projectionMatrix(400, 300)(1, 1); };
+    Camera close;
+    close.setOrthographicSides(true);
+    close.lookFrom(Camera::Side::Front, pivot);
+    close.dolly(pivot, 0.005f);
+    QVERIFY(height(close) < 5.0f);
+    const float before = height(close);
+    for (const auto side : {Camera::Side::Right, Camera::Side::Top, Camera::Side::Back}) {
+        close.lookFrom(side, pivot);
+        QCOMPARE(height(close), before);
+    }
+    close.setOrthographic(true, pivot);
+    close.flyTo(close.position() + close.rotation().rotatedVector({1.0f, 0.0f, 0.0f}));
+    QVERIFY(std::fabs(height(close) - before) < 1e-3f);
+    close.flyTo(close.position() + close.sight()); // back by one
+    QVERIFY(std::fabs(height(close) - before - 1.0f) < 1e-3f);
+
+    Camera huge;
+    huge.setOrthographic(true, pivot);
+    huge.frame(box(1500.0f), {400, 300});
+    const float large = height(huge);
+    huge.dolly(pivot, 1.1f);
+    huge.setLens(91.0f, pivot);
+    huge.flyTo(huge.position() + huge.sight());
+    QVERIFY(height(huge) > 0.99f * large);
 }
 
 void tst_Camera::staysWhereNumbersReach()

@@ -82,21 +82,19 @@ Angles anglesNear(const Turn &turn, const Angles &near)
     return distance(other, near) < distance(one, near) ? other : one;
 }
 
-std::vector<Angles> anglesOfTrack(const QVector4D *keys, int count)
+std::vector<Angles> anglesOfTrack(const QVector4D *keys, int count, const Angles *start)
 {
     std::vector<Angles> angles;
     angles.reserve(size_t(count));
-    Angles last{};
-    bool isFirst = true;
+    const Angles *last = start;
     for (int i = 0; i < count; ++i) {
         if (!isTurn(keys[i])) {
             angles.push_back({NoNumber, NoNumber, NoNumber});
             continue;
         }
         const Turn turn = Turn::of(keys[i]);
-        last = isFirst ? anglesOf(turn) : anglesNear(turn, last);
-        isFirst = false;
-        angles.push_back(last);
+        angles.push_back(last ? anglesNear(turn, *last) : anglesOf(turn));
+        last = &angles.back(); // which has its room already
     }
     return angles;
 }

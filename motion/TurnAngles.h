@@ -18,8 +18,9 @@ Angles anglesOf(const Turn &turn);
 /// jump: over full turns, over y beyond 90 degrees, and at the poles, where only the sum or the difference of
 /// x and z counts.
 Angles anglesNear(const Turn &turn, const Angles &near);
-/// One for each key of a track, each near to the one before. No numbers where a key has no direction.
-std::vector<Angles> anglesOfTrack(const QVector4D *keys, int count);
+/// One for each key of a track, each near to the one before, and the first near to `start` where there is
+/// one. No numbers where a key has no direction.
+std::vector<Angles> anglesOfTrack(const QVector4D *keys, int count, const Angles *start = nullptr);
 /// The key that turns as these angles say, of the two the one nearer to the key that it replaces.
 QVector4D keyOf(const Angles &degrees, const QVector4D &replaced);
 /// Angles in degrees without the full turns between each and the one before.

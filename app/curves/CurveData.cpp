@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 constexpr bool isAmong(CurveChannel channel, unsigned channels)
@@ -18,18 +19,39 @@ int trackOf(const TrackTable<Key> &table, quint16 number)
 {
     return number < table.trackCount() && table.frameCount() > 0 ? number : -1;
 }
+
+/// Those that a bone's track began with before; null: none.
+const Motion::Angles *firstAngles(const std::vector<CurveData::Source> &before,
+                                  const CurveData::Source &source)
+{
+    for (const CurveData::Source &each : before) {
+        if (each.bone != source.bone || each.rotationTrack != source.rotationTrack)
+            continue;
+        const auto first = std::find_if(each.angles.begin(), each.angles.end(),
+                                        [](const Motion::Angles &at) { return std::isfinite(at[0]); });
+        return first == each.angles.end() ? nullptr : &*first;
+    }
+    return nullptr;
+}
 } // namespace
 
-int CurveData::frameCount() const
+std::vector<int> placesAmong(const std::vector<Curve> &before, const std::vector<Curve> &now)
 {
-    return m_block ? m_block->frameCount() : 0;
+    std::vector<int> places;
+    for (const Curve &curve : now) {
+        const auto found = std::find(before.begin(), before.end(), curve);
+        places.push_back(found == before.end() ? -1 : int(found - before.begin()));
+    }
+    return places;
 }
 
 void CurveData::show(const AnimBlock *block, const QVector<int> &bones, unsigned channels)
 {
     m_block = block;
+    m_frameCount = block ? block->frameCount() : 0;
+    m_boneCount = block ? int(block->nodes.size()) : 0;
     m_curves.clear();
-    m_sources.clear();
+    const std::vector<Source> before = std::exchange(m_sources, {});
     m_yaw.clear();
     m_yawCurve = -1;
     if (!block)
@@ -42,16 +64,16 @@ void CurveData::show(const AnimBlock *block, const QVector<int> &bones, unsigned
         source.bone = bone;
         source.translationTrack = trackOf(block->translations, node.translationIndex);
         source.rotationTrack = trackOf(block->rotations, node.rotationIndex);
-        for (const Source &before : m_sources) {
-            if (before.translationTrack == source.translationTrack)
+        for (const Source &other : m_sources) {
+            if (other.translationTrack == source.translationTrack)
                 source.translationTrack = -1;
-            if (before.rotationTrack == source.rotationTrack)
+            if (other.rotationTrack == source.rotationTrack)
                 source.rotationTrack = -1;
         }
         m_sources.push_back(std::move(source));
     }
     for (Source &source : m_sources)
-        addCurves(source, channels);
+        addCurves(*block, before, source, channels);
     if (isAmong(CurveChannel::Yaw, channels)) {
         for (const AnimFrame &frame : block->frames)
             m_yaw.push_back(double(frame.yawOffset) * 180 / M_PI);
@@ -61,13 +83,18 @@ void CurveData::show(const AnimBlock *block, const QVector<int> &bones, unsigned
     }
 }
 
-void CurveData::addCurves(Source &source, unsigned channels)
+void CurveData::addCurves(const AnimBlock &block, const std::vector<Source> &before, Source &source,
+                          unsigned channels)
 {
     const int number = int(&source - m_sources.data());
     for (int axis = 0; axis < 3; ++axis) {
         const auto channel = CurveChannel(int(CurveChannel::TranslationX) + axis);
         if (source.translationTrack < 0 || !isAmong(channel, channels))
             continue;
+        if (source.places.empty()) {
+            const QVector3D *first = &block.translations.at(source.translationTrack, 0);
+            source.places.assign(first, first + m_frameCount);
+        }
         source.translations[size_t(axis)] = count();
         m_curves.push_back({channel, source.bone, number});
     }
@@ -76,8 +103,8 @@ void CurveData::addCurves(Source &source, unsigned channels)
         if (source.rotationTrack < 0 || !isAmong(channel, channels))
             continue;
         if (source.angles.empty())
-            source.angles =
-                Motion::anglesOfTrack(&m_block->rotations.at(source.rotationTrack, 0), frameCount());
+            source.angles = Motion::anglesOfTrack(&block.rotations.at(source.rotationTrack, 0), m_frameCount,
+                                                  firstAngles(before, source));
         source.rotations[size_t(axis)] = count();
         m_curves.push_back({channel, source.bone, number});
     }
@@ -98,7 +125,7 @@ double CurveData::value(int curve, int frame) const
     const Source &source = m_sources[size_t(shown.source)];
     if (kindOf(shown.channel) == CurveKind::Rotation)
         return source.angles[size_t(frame)][size_t(axis)];
-    return double(m_block->translations.at(source.translationTrack, frame)[axis]);
+    return double(source.places[size_t(frame)][axis]);
 }
 
 bool CurveData::extent(int curve, int first, int last, double &least, double &most) const

@@ -6,6 +6,7 @@
 
 #include "TurnAngles.h"
 
+#include <QVector3D>
 #include <QVector>
 
 #include <array>
@@ -23,8 +24,12 @@ struct Curve
     bool operator==(const Curve &other) const { return channel == other.channel && bone == other.bone; }
 };
 
+/// For each curve of `now` which of `before` it is; -1: none.
+std::vector<int> placesAmong(const std::vector<Curve> &before, const std::vector<Curve> &now);
+
 /// The values of an animation block's keys over its frames: translations as they are, rotations as angles in
-/// degrees that go on without jumps, the yaw in degrees likewise. The block is borrowed.
+/// degrees that go on without jumps, the yaw in degrees likewise. They are copies: the block may change, and
+/// go, before anybody is told.
 class CurveData
 {
 public:
@@ -38,15 +43,19 @@ public:
         int translationTrack = -1;
         int rotationTrack = -1;
         std::vector<Motion::Angles> angles;          ///< of each frame, where rotations are shown
+        std::vector<QVector3D> places;               ///< likewise of translations
         std::array<int, 3> translations{-1, -1, -1}; ///< the curves, where they are shown
         std::array<int, 3> rotations{-1, -1, -1};
     };
 
-    /// Channels are bits: 1 << int(CurveChannel). Of several bones the first is the one that counts most.
+    /// Channels are bits: 1 << int(CurveChannel). Of several bones the first is the one that counts most. The
+    /// angles of a track that was shown before begin near to what they were.
     void show(const AnimBlock *block, const QVector<int> &bones, unsigned channels);
 
+    /// Where the block was when it was shown: not to be read before its owner says that it still is there.
     const AnimBlock *block() const { return m_block; }
-    int frameCount() const;
+    int frameCount() const { return m_frameCount; } ///< that it had then
+    int boneCount() const { return m_boneCount; }   ///< likewise
     const std::vector<Curve> &curves() const { return m_curves; }
     int count() const { return int(m_curves.size()); }
     const std::vector<Source> &sources() const { return m_sources; }
@@ -59,9 +68,12 @@ public:
     bool extent(int curve, int first, int last, double &least, double &most) const;
 
 private:
-    void addCurves(Source &source, unsigned channels);
+    void addCurves(const AnimBlock &block, const std::vector<Source> &before, Source &source,
+                   unsigned channels);
 
     const AnimBlock *m_block = nullptr;
+    int m_frameCount = 0;
+    int m_boneCount = 0;
     std::vector<Curve> m_curves;
     std::vector<Source> m_sources;
     std::vector<double> m_yaw;

@@ -8,6 +8,8 @@
 #include "NumberRange.h"
 #include "Playback.h"
 
+#include <algorithm>
+
 CurveEdits::CurveEdits(CurveView &view, QObject *parent)
     : QObject(parent)
     , m_view(view)
@@ -29,9 +31,18 @@ BlockKeys CurveEdits::moved(CurveUnit unit, double by) const
                               [by](const CurveKey &, double value) { return value + by; });
 }
 
+const AnimBlock *CurveEdits::block() const
+{
+    const CurveData &shown = m_view.data();
+    if (!m_document || !shown.block())
+        return nullptr;
+    const AnimBlock *block = Records::Block::find(m_document->model(), {playback().blockIndex});
+    return block == shown.block() && block->frameCount() == shown.frameCount() ? block : nullptr;
+}
+
 void CurveEdits::preview(CurveUnit unit, double by)
 {
-    const AnimBlock *block = m_view.data().block();
+    const AnimBlock *block = this->block();
     if (!block)
         return;
     // Where nothing is moved there are no keys to put back what was.
@@ -59,7 +70,7 @@ bool CurveEdits::isTyping() const
 void CurveEdits::move(CurveUnit unit, double by)
 {
     endPreview();
-    if (!isTyping())
+    if (!isTyping() && block())
         store(moved(unit, by), tr("Move Keys"));
 }
 
@@ -70,7 +81,7 @@ CurveUnit CurveEdits::unit() const
 
 bool CurveEdits::isReady() const
 {
-    return m_view.data().block() && !m_view.selection().current().isNone();
+    return block() && !m_view.selection().current().isNone();
 }
 
 void CurveEdits::set(double value)
@@ -103,29 +114,36 @@ QString CurveEdits::calculate(const Expression &expression)
 
 void CurveEdits::smooth(int frames)
 {
-    if (!isTyping() && m_view.data().block())
+    if (!isTyping() && block())
         store(CurveKeys::smoothed(m_view.data(), m_view.selection(), frames), tr("Smooth Keys"));
 }
 
 void CurveEdits::straighten()
 {
-    if (!isTyping() && m_view.data().block())
+    if (!isTyping() && block())
         store(CurveKeys::straightened(m_view.data(), m_view.selection()), tr("Straighten Keys"));
 }
 
 void CurveEdits::store(BlockKeys keys, const QString &step)
 {
     const int block = playback().blockIndex;
-    const AnimBlock *edited = m_view.data().block();
-    if (!m_document || !edited || edited != Records::Block::find(m_document->model(), {block}))
+    const AnimBlock *edited = this->block();
+    if (!edited)
         return;
     keys.leaveOutSame(*edited);
     if (keys.isEmpty())
         return;
     emit documentWanted();
     QVector<RecordRef> shown;
-    for (const CurveData::Source &source : m_view.data().sources())
-        shown.append({RecordKind::AnimBone, {block, source.bone}});
+    const CurveData &data = m_view.data();
+    const bool isOfBones =
+        std::any_of(data.sources().begin(), data.sources().end(), [this](const auto &source) {
+            return m_view.selection().hasOf(source.translations) ||
+                   m_view.selection().hasOf(source.rotations);
+        });
+    // Trees make the last one the current one, which comes first among the curves.
+    for (auto source = data.sources().rbegin(); isOfBones && source != data.sources().rend(); ++source)
+        shown.append({RecordKind::AnimBone, {block, source->bone}});
     if (shown.isEmpty())
         shown.append({RecordKind::AnimFrames, {block}});
     auto *command = new UC_AnimKeys(m_document->editTarget(), {block}, std::move(keys), shown);

@@ -41,6 +41,8 @@ private:
     void endPreview();
     void move(CurveUnit unit, double by);
     void store(BlockKeys keys, const QString &step);
+    /// What is shown, as the document has it; null when it has it no more.
+    const AnimBlock *block() const;
     bool isReady() const;
     /// Whether a field refuses what is typed in it; what can be stored is.
     bool isTyping() const;

@@ -34,16 +34,10 @@ bool changeAt(const CurveData &data, const CurveSelection &selection, const std:
     return changes;
 }
 
-bool hasAny(const CurveSelection &selection, const std::array<int, 3> &curves)
-{
-    return std::any_of(curves.begin(), curves.end(),
-                       [&](int curve) { return curve >= 0 && selection.hasOf(curve); });
-}
-
 void changeTranslations(const CurveData &data, const CurveSelection &selection,
                         const CurveData::Source &source, const CurveKeys::Change &change, BlockKeys &keys)
 {
-    if (!hasAny(selection, source.translations))
+    if (!selection.hasOf(source.translations))
         return;
     for (int frame = 0; frame < data.frameCount(); ++frame) {
         QVector3D key = data.block()->translations.at(source.translationTrack, frame);
@@ -62,7 +56,7 @@ void changeTranslations(const CurveData &data, const CurveSelection &selection,
 void changeRotations(const CurveData &data, const CurveSelection &selection, const CurveData::Source &source,
                      const CurveKeys::Change &change, BlockKeys &keys)
 {
-    if (!hasAny(selection, source.rotations))
+    if (!selection.hasOf(source.rotations))
         return;
     for (int frame = 0; frame < data.frameCount(); ++frame) {
         Motion::Angles angles = source.angles[size_t(frame)];
@@ -126,7 +120,7 @@ BlockKeys reshaped(const CurveData &data, const CurveSelection &selection, Turn 
     std::vector<std::vector<bool>> whole(data.sources().size());
     for (size_t i = 0; i < whole.size(); ++i) {
         const CurveData::Source &source = data.sources()[i];
-        if (!hasAny(selection, source.rotations))
+        if (!selection.hasOf(source.rotations))
             continue;
         whole[i] = wholeTurns(data, selection, source);
         turn(source, whole[i], keys);

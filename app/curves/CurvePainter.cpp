@@ -79,9 +79,13 @@ void paintValues(const Drawing &on, CurveUnit unit, bool isLeft)
     const ValueScale &scale = on.places.values(unit);
     const double step = scale.step(CurvePlaces::RowPixels);
     const int height = QFontMetrics(on.places.font()).height();
-    for (double at = std::ceil(scale.valueAt(plot.bottom()) / step); at * step <= scale.valueAt(plot.top());
-         ++at) {
+    const double first = std::ceil(scale.valueAt(plot.bottom()) / step);
+    // Far from nought the next number may be the same one: lines are counted.
+    for (int line = 0; line <= plot.height() / CurvePlaces::RowPixels + 1; ++line) {
+        const double at = first + line;
         const double value = at * step;
+        if (!(value <= scale.valueAt(plot.top())))
+            break;
         const double y = std::round(scale.yOf(value)) + 0.5;
         if (isLeft) {
             on.painter.setPen(faintly(on.palette.color(QPalette::Text), at == 0.0 ? 90 : 26));

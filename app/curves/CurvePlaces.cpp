@@ -117,6 +117,13 @@ double CurvePlaces::roundStep(CurveUnit unit) const
     return values(unit).step(RowPixels) / 10;
 }
 
+double CurvePlaces::roundMove(const CurveKey &key, double by) const
+{
+    const double value = m_data.value(key.curve, key.frame);
+    const double step = roundStep(unitOf(m_data.curves()[size_t(key.curve)].channel));
+    return std::round((value + by) / step) * step - value;
+}
+
 void CurvePlaces::showAll()
 {
     m_time.showAll();

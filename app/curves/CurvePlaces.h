@@ -58,6 +58,8 @@ public:
     void scroll(const QPoint &by);
     /// A tenth of what the lines of values are apart.
     double roundStep(CurveUnit unit) const;
+    /// How far a key moves to the round number that is nearest to where it would be.
+    double roundMove(const CurveKey &key, double by) const;
 
 private:
     const CurveData &m_data;

@@ -3,6 +3,7 @@
 #include "CurveSelection.h"
 
 #include <algorithm>
+#include <utility>
 
 void CurveSelection::reset(int curves, int frames)
 {
@@ -11,6 +12,37 @@ void CurveSelection::reset(int curves, int frames)
     m_count = 0;
     m_current = {};
     m_anchor = {};
+}
+
+void CurveSelection::rearrange(const std::vector<int> &from)
+{
+    const auto before = std::exchange(m_chosen, std::vector<std::vector<bool>>(from.size()));
+    const auto place = [&from](CurveKey &key) {
+        const auto found = std::find(from.begin(), from.end(), key.curve);
+        key =
+            key.isNone() || found == from.end() ? CurveKey() : CurveKey{int(found - from.begin()), key.frame};
+    };
+    place(m_current);
+    place(m_anchor);
+    m_count = 0;
+    for (size_t curve = 0; curve < from.size(); ++curve) {
+        if (from[curve] >= 0)
+            m_chosen[curve] = before[size_t(from[curve])];
+        m_count += int(std::count(m_chosen[curve].begin(), m_chosen[curve].end(), true));
+    }
+}
+
+CurveKey CurveSelection::current() const
+{
+    if (m_count == 0 || (!m_current.isNone() && contains(m_current)))
+        return m_count == 0 ? CurveKey() : m_current;
+    for (int curve = 0; curve < int(m_chosen.size()); ++curve) {
+        const auto &chosen = m_chosen[size_t(curve)];
+        const auto found = std::find(chosen.begin(), chosen.end(), true);
+        if (found != chosen.end())
+            return {curve, int(found - chosen.begin())};
+    }
+    return {};
 }
 
 void CurveSelection::set(const CurveKey &key, bool on)
@@ -60,13 +92,15 @@ void CurveSelection::press(const CurveKey &key, Qt::KeyboardModifiers modifiers)
 void CurveSelection::step(int frames, bool adds)
 {
     CurveKey key = current();
-    if (key.isNone() || (!adds && m_count > 1))
+    if (key.isNone())
         return;
     key.frame = std::clamp(key.frame + frames, 0, m_frames - 1);
-    if (adds)
+    if (adds) {
         set(key, true);
-    else if (!contains(key))
+    } else if (!contains(key) || m_count > 1) {
+        clear();
         press(key, {});
+    }
     m_current = key;
 }
 

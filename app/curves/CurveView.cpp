@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 constexpr double CurveNotchZoom = 1.25;
@@ -33,12 +34,15 @@ CurveView::CurveView(QWidget *parent)
 void CurveView::setCurves(const AnimBlock *block, const QVector<int> &bones, unsigned channels, bool anew)
 {
     giveUp();
+    if (anew)
+        m_data = {};
     const std::vector<Curve> before = m_data.curves();
-    const int frames = m_data.frameCount();
     m_data.show(block, bones, channels);
     const bool isOther = anew || bones != m_bones || m_data.curves() != before;
-    if (isOther || m_data.frameCount() != frames)
+    if (anew || m_data.frameCount() != m_selection.frameCount())
         m_selection.reset(m_data.count(), m_data.frameCount());
+    else
+        m_selection.rearrange(placesAmong(before, m_data.curves()));
     m_bones = bones;
     arrange();
     if (anew) {
@@ -193,11 +197,8 @@ void CurveView::moveKeys(const QMouseEvent &event)
     m_drag.way.move(event.pos().y(), event.modifiers() & Qt::ShiftModifier,
                     m_places.values(m_drag.unit).perPixel());
     m_drag.by = m_drag.way.by();
-    if (event.modifiers() & Qt::ControlModifier) {
-        const double value = m_data.value(m_drag.key.curve, m_drag.key.frame);
-        const double step = m_places.roundStep(m_drag.unit);
-        m_drag.by = std::round((value + m_drag.by) / step) * step - value;
-    }
+    if (event.modifiers() & Qt::ControlModifier)
+        m_drag.by = m_places.roundMove(m_drag.key, m_drag.by);
     if (m_frame != m_drag.key.frame)
         emit frameAsked(m_drag.key.frame); // the pose that the key is of
     emit dragged(m_drag.unit, m_drag.by);
@@ -225,8 +226,7 @@ void CurveView::mouseReleaseEvent(QMouseEvent *event)
 
 void CurveView::drop(const QMouseEvent &event)
 {
-    const Drag done = m_drag;
-    m_drag = {}; // before what is asked for shows the block anew
+    const Drag done = std::exchange(m_drag, {}); // before what is asked for shows the block anew
     touch();
     switch (done.gesture) {
     case Gesture::None:
@@ -254,12 +254,12 @@ void CurveView::drop(const QMouseEvent &event)
 
 void CurveView::giveUp()
 {
-    const Drag given = m_drag;
-    m_drag = {};
+    const Drag given = std::exchange(m_drag, {});
     if (given.gesture == Gesture::None)
         return;
     setCursor(Qt::ArrowCursor);
-    if (given.gesture == Gesture::Keys && given.moved) {
+    const bool drags = given.gesture == Gesture::Keys && given.moved;
+    if (drags) {
         QToolTip::hideText();
         emit givenUp();
     }
@@ -267,7 +267,7 @@ void CurveView::giveUp()
         m_selection = given.selection;
         tellSelection();
     }
-    if (m_frame != given.shown && given.gesture != Gesture::Pan)
+    if (m_frame != given.shown && (drags || given.gesture == Gesture::Seek))
         emit frameAsked(given.shown);
     touch();
 }
@@ -390,7 +390,7 @@ void CurveView::resizeEvent(QResizeEvent *event)
 
 void CurveView::paintEvent(QPaintEvent *)
 {
-    if (m_data.count() == 0)
+    if (m_data.count() == 0 || m_data.frameCount() == 0)
         return paintEmptyText(*this, m_emptyText);
     QPainter painter(this);
     m_picture.paint(painter, m_places, {m_selection, m_drag.unit, m_drag.by, hasFocus()}, *this);

@@ -20,9 +20,9 @@ class CurveView : public QWidget
 public:
     explicit CurveView(QWidget *parent = nullptr);
 
-    /// Shows curves of a block, which is borrowed until the next call; null: none. A gesture that is under
-    /// way is given up. The selection stays while the curves are the same; what is in sight stays so unless
-    /// it is `anew` another block.
+    /// Shows curves of a block as it is now; null: none. A gesture that is under way is given up. Of curves
+    /// that are shown still what is selected stays, while there are as many frames; what is in sight stays so
+    /// unless it is `anew` another block.
     void setCurves(const AnimBlock *block, const QVector<int> &bones, unsigned channels, bool anew);
     /// Why there are no curves.
     void setEmptyText(const QString &text)

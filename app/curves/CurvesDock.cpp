@@ -24,6 +24,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -248,13 +249,16 @@ void CurvesDock::hideEvent(QHideEvent *event)
     m_view->setCurves(nullptr, {}, 0, true); // which is not told of changes any more
 }
 
+const AnimBlock *CurvesDock::block() const
+{
+    return m_anim->isOpen() ? Records::Block::find(m_anim->model(), {playback().blockIndex}) : nullptr;
+}
+
 void CurvesDock::refresh(bool anew)
 {
     if (!m_anim || !isVisible())
         return;
-    const AnimBlock *block =
-        m_anim->isOpen() ? Records::Block::find(m_anim->model(), {playback().blockIndex}) : nullptr;
-    m_view->setCurves(block, m_bones, m_channels->channels(), anew);
+    m_view->setCurves(block(), m_bones, m_channels->channels(), anew);
     showWords();
 }
 
@@ -274,6 +278,8 @@ void CurvesDock::showWords()
     const QString shared = sharers();
     if (!shared.isEmpty())
         title += QStringLiteral(" \u2013 ") + shared;
+    if (bones.isEmpty() && shown.count() > 0)
+        title = tr("Select a bone in a tree or in the view to see its curves.");
     m_title->setText(title);
     m_title->setToolTip(title);
     QString lack;
@@ -292,9 +298,8 @@ void CurvesDock::showWords()
 
 QString CurvesDock::boneName(int bone) const
 {
-    const AnimBlock *block = m_view->data().block();
     const bool isNamed =
-        m_mesh && m_mesh->isOpen() && block && m_mesh->model().nodes.size() == block->nodes.size();
+        m_mesh && m_mesh->isOpen() && m_mesh->model().nodes.size() == size_t(m_view->data().boneCount());
     const QString title = isNamed ? boneTitle(m_mesh->model(), bone) : QString();
     return title.isEmpty() ? QString::number(bone) : title;
 }
@@ -303,14 +308,15 @@ QString CurvesDock::sharers() const
 {
     const CurveData &shown = m_view->data();
     QStringList others;
-    if (!shown.block())
+    const AnimBlock *block = this->block();
+    if (!block || block != shown.block())
         return {};
     const auto isShown = [&shown](int bone) {
         return std::any_of(shown.sources().begin(), shown.sources().end(),
                            [bone](const CurveData::Source &source) { return source.bone == bone; });
     };
-    for (int bone = 0; bone < int(shown.block()->nodes.size()); ++bone) {
-        const AnimNode &node = shown.block()->nodes[size_t(bone)];
+    for (int bone = 0; bone < int(block->nodes.size()); ++bone) {
+        const AnimNode &node = block->nodes[size_t(bone)];
         const bool follows = std::any_of(shown.sources().begin(), shown.sources().end(),
                                          [&node](const CurveData::Source &source) {
                                              return node.translationIndex == source.translationTrack ||
@@ -345,5 +351,8 @@ void CurvesDock::showSelection()
         text = tr("%n keys, %1", nullptr, selection.count()).arg(text);
     m_key->setText(text);
     m_value->setSuffix(unitOf(curve.channel) == CurveUnit::Degrees ? QString(QChar(0xB0)) : QString());
-    m_value->setValue(float(m_view->data().value(key.curve, key.frame)));
+    // A translation is what the file has; an angle is worked out, and is no more exact than this.
+    const double value = m_view->data().value(key.curve, key.frame);
+    m_value->setValue(
+        float(unitOf(curve.channel) == CurveUnit::Degrees ? std::round(value * 1e4) / 1e4 : value));
 }

@@ -53,6 +53,7 @@ private:
     void follow(const KVTreeView &tree);
     QVector<int> bonesOf(const KVTreeView &tree) const;
     void showBones(const QVector<int> &bones);
+    const AnimBlock *block() const;
     void refresh(bool anew);
     void showWords();
     void showSelection();

@@ -7,7 +7,8 @@
 
 namespace {
 constexpr double Margin = 0.08;    ///< of what is shown, above and below
-constexpr double LeastSpan = 1e-4; ///< single precision tells no more apart
+constexpr double LeastSpan = 1e-4; ///< single precision tells no more apart,
+constexpr double LeastPart = 1e-6; ///< or no smaller part of a value
 constexpr double MostSpan = 1e30;
 } // namespace
 
@@ -31,7 +32,8 @@ void ValueScale::zoom(double factor, double y)
 {
     const double value = valueAt(y);
     const double span = m_most - m_least;
-    const double applied = span / std::clamp(span / factor, LeastSpan, MostSpan);
+    const double least = std::clamp(std::abs(value) * LeastPart, LeastSpan, MostSpan);
+    const double applied = span / std::clamp(span / factor, least, MostSpan);
     m_least = value - (value - m_least) / applied;
     m_most = value + (m_most - value) / applied;
 }

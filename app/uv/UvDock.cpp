@@ -142,6 +142,7 @@ void UvDock::setDocuments(SkinnedMeshDocument &skinned, KVTreeView &skinnedTree,
 void UvDock::follow(size_t which)
 {
     const Model &model = m_models[which];
+    connect(model.document, &QObject::destroyed, this, [this, which] { m_models[which].document = nullptr; });
     const auto isShown = [this, which] { return current() == &m_models[which]; };
     connect(model.tree, &KVTreeView::currentRecordChanged, this, [this, isShown] {
         if (isShown() && followTree())

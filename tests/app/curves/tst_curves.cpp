@@ -1,143 +1,15 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "CurvesByHand.h"
+
 #include "ActionTrack.h"
-#include "CurveView.h"
+#include "AllCommands.h"
 #include "CurvesDock.h"
-#include "FloatSpinBox.h"
-#include "Hand.h"
 #include "KVOpenGLWidget.h"
-#include "Playback.h"
-#include "TurnAngles.h"
 
 #include <cmath>
 
 namespace {
-/// Two bones that turn and one that moves, in 11 frames.
-AnimFile turningBones()
-{
-    AnimFile file = twoBlocks();
-    AnimBlock &block = file.blocks[0];
-    block.setTranslationCount(1);
-    block.setRotationCount(2);
-    block.nodes[0].translationIndex = 0;
-    block.nodes[0].rotationIndex = 0;
-    block.nodes[1].rotationIndex = 1;
-    for (int frame = 0; frame < 11; ++frame) {
-        block.translations.at(0, frame) = {float(frame), 5.0f, float(frame % 2)};
-        block.rotations.at(0, frame) = Motion::turnOf({10.0 * frame, 20, -5.0 * frame}).toVector();
-        block.rotations.at(1, frame) = Motion::turnOf({0, 0, frame == 5 ? 40.0 : 0.0}).toVector();
-        block.frames[size_t(frame)].yawOffset = 0.1f * float(frame);
-    }
-    return file;
-}
-
-/// A window with an animation and the dock of its curves.
-struct Curves
-{
-    explicit Curves(const TestFolder &files, const AnimFile &file = turningBones(),
-                    const SkinnedMesh &mesh = triangleMan(), int bone = 0)
-        : folder(files)
-        , window({files.save("a.skinnedmesh", mesh), files.save("a.anim", file)})
-        , view(find<CurveView>(window, "curveView"))
-        , value(find<FloatSpinBox>(window, "sbCurveValue"))
-    {
-        window.resize(1300, 900);
-        select(window, "treeAnim", {{RecordKind::AnimBone, {0, bone}}});
-        toggle();
-        QTRY_VERIFY(view->data().count() > 0 && view->height() > 100);
-        bytes = now();
-    }
-
-    void toggle() { QTest::keyClick(&window, Qt::Key_F7); }
-
-    QByteArray now() const
-    {
-        if (playback().anim->write(folder.path("now.anim")))
-            qFatal("not written");
-        return TestSupport::readFile(folder.path("now.anim"));
-    }
-    const AnimBlock &block() const { return playback().anim->blocks[size_t(playback().blockIndex)]; }
-    /// What the file says now, to a hundredth.
-    double stored(CurveChannel channel, int frame, int bone = 0) const
-    {
-        CurveData data;
-        data.show(&block(), {bone}, 1U << int(channel));
-        return std::round(data.value(0, frame) * 100) / 100;
-    }
-    QVector<double> stored(CurveChannel channel) const
-    {
-        QVector<double> all;
-        for (int frame = 0; frame < block().frameCount(); ++frame)
-            all += stored(channel, frame);
-        return all;
-    }
-    void check(CurveChannel channel, bool on = true)
-    {
-        auto *list = find<QListWidget>(window, "listCurveChannels");
-        QListWidgetItem *item = list->item(int(channel));
-        list->setCurrentItem(item);
-        if ((item->checkState() == Qt::Checked) != on)
-            QTest::keyClick(list, Qt::Key_Space);
-    }
-    int curve(CurveChannel channel) const
-    {
-        for (int i = 0; i < view->data().count(); ++i) {
-            if (view->data().curves()[size_t(i)].channel == channel)
-                return i;
-        }
-        qFatal("not shown");
-    }
-    QPoint key(CurveChannel channel, int frame) const
-    {
-        return view->places().placeOf({curve(channel), frame}).toPoint();
-    }
-    double perPixel(CurveUnit unit) const { return view->places().values(unit).perPixel(); }
-    void press(const QPoint &at, Qt::KeyboardModifiers keys = {})
-    {
-        QTest::mousePress(view, Qt::LeftButton, keys, at);
-    }
-    void move(const QPoint &to, Qt::KeyboardModifiers keys = {})
-    {
-        QMouseEvent event(QEvent::MouseMove, to, view->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, keys);
-        QApplication::sendEvent(view, &event);
-    }
-    void drag(const QPoint &from, const QPoint &to, Qt::KeyboardModifiers keys = {})
-    {
-        press(from);
-        move((from + to) / 2, keys);
-        move(to, keys);
-        QTest::mouseRelease(view, Qt::LeftButton, keys, to);
-    }
-    void click(const QPoint &at, Qt::KeyboardModifiers keys = {})
-    {
-        QTest::mouseClick(view, Qt::LeftButton, keys, at);
-    }
-    void type(int key, Qt::KeyboardModifiers keys = {})
-    {
-        view->setFocus();
-        QTest::keyClick(view, Qt::Key(key), keys);
-    }
-    void enter(const QString &text)
-    {
-        value->setFocus();
-        value->selectAll();
-        QTest::keyClicks(value, text);
-        QTest::keyClick(value, Qt::Key_Return);
-    }
-    void button(const char *name) { find<QToolButton>(window, name)->click(); }
-    QAction *undoAction() { return find<QAction>(window, "actionUndo"); }
-    void undoAll()
-    {
-        for (int i = 0; i < 20 && undoAction()->isEnabled(); ++i)
-            undoAction()->trigger();
-    }
-
-    const TestFolder &folder;
-    ShownWindow window;
-    CurveView *view;
-    FloatSpinBox *value;
-    QByteArray bytes;
-};
 constexpr auto RotX = CurveChannel::RotationX;
 constexpr auto RotZ = CurveChannel::RotationZ;
 constexpr auto MoveX = CurveChannel::TranslationX;
@@ -286,7 +158,15 @@ private slots:
         QCOMPARE(on.stored(RotX, 3), -15.0);
         QCOMPARE(on.stored(RotX, 4), -15.0);
         QCOMPARE(on.stored(RotX, 5), 50.0);
-        // Arrows go along the curve and to the next; Alt moves keys by a round number.
+        // Taken out with Ctrl, one leaves the other; arrows go along the curve, to one key, and to the next
+        // curve; Alt moves keys by a round number.
+        on.click(on.key(RotX, 4), Qt::ControlModifier);
+        QCOMPARE(on.view->selection().current(), (CurveKey{on.curve(RotX), 3}));
+        on.type(Qt::Key_Right, Qt::ShiftModifier);
+        on.type(Qt::Key_Right);
+        QCOMPARE(on.view->selection().count(), 1);
+        on.type(Qt::Key_Right);
+        QCOMPARE(on.view->frame(), 6);
         on.type(Qt::Key_Escape);
         on.click(on.key(RotX, 7));
         on.type(Qt::Key_Right);
@@ -352,6 +232,11 @@ private slots:
         on.drag(on.key(RotX, 3), on.key(RotX, 3) - QPoint(0, 20));
         QCOMPARE(find<QTabWidget>(on.window, "tabTrees")->currentIndex(), 1);
         QCOMPARE(on.view->data().sources().size(), size_t(2));
+        QCOMPARE(on.view->data().sources()[0].bone, 1);
+        QCOMPARE(on.view->selection().current(), (CurveKey{on.curve(RotX), 3}));
+        const double once = on.shown(RotX, 3);
+        on.type(Qt::Key_Up, Qt::AltModifier);
+        QVERIFY(once > 0 && on.shown(RotX, 3) > once);
         on.undoAll();
         QCOMPARE(on.now(), on.bytes);
         QCOMPARE(on.view->data().sources().size(), size_t(2));
@@ -393,6 +278,77 @@ private slots:
         QVERIFY(std::abs(double(on.block().frames[6].yawOffset) - (M_PI / 4 + 2 * M_PI)) < 1e-5);
         on.undoAll();
         QCOMPARE(on.now(), on.bytes);
+        // What is edited is what is selected.
+        const RecordRef frames{RecordKind::AnimFrames, {0}};
+        select(on.window, "treeAnim", {frames});
+        on.type(Qt::Key_Up, Qt::AltModifier);
+        QVERIFY(on.undoAction()->isEnabled());
+        QCOMPARE(find<KVTreeView>(on.window, "treeAnim")->currentRecord(), frames);
+    }
+
+    // The block changes, and may go, before the dock hears of it.
+    void framesAndAnimationsComeAndGo()
+    {
+        Curves on(*m_files);
+        on.check(CurveChannel::Yaw);
+        for (const int count : {400, 11, 2}) {
+            on.click(on.key(RotX, count == 400 ? 10 : count == 11 ? 399 : 10));
+            QCOMPARE(on.view->selection().count(), 1);
+            on.setFrameCount(count);
+            QCOMPARE(on.view->data().frameCount(), count);
+            QVERIFY(on.view->selection().isEmpty());
+            on.view->grab();
+        }
+        on.click(on.key(RotX, 1));
+        for (int i = 0; i < 3; ++i) {
+            const int last = int(on.document().model().blocks.size());
+            on.document().undoStack()->push(new UC_AnimBlockPaste(
+                on.document().editTarget(), {last, 0, 0}, AnimBlock(on.document().model().blocks[0])));
+        }
+        on.undoAll();
+        // Without frames yaw has no line, either; without a bone the title asks for one.
+        on.setFrameCount(0);
+        const QImage empty = on.view->grab().toImage();
+        on.check(CurveChannel::Yaw, false);
+        QCOMPARE(on.view->data().count(), 0);
+        QCOMPARE(on.view->grab().toImage(), empty);
+    }
+
+    void anglesGoOnWhereTheyWere()
+    {
+        AnimFile file = turningBones();
+        for (int frame = 0; frame < 11; ++frame)
+            file.blocks[0].rotations.at(0, frame) = Motion::turnOf({170.0 + frame, 80, 20}).toVector();
+        Curves on(*m_files, file);
+        on.click(on.key(RotX, 0));
+        on.enter(QStringLiteral("182"));
+        QCOMPARE(double(on.value->value()), 182.0);
+        QCOMPARE(on.shown(RotX, 5), 175.0);
+        on.click(on.key(CurveChannel::RotationY, 0));
+        on.enter(QStringLiteral("100"));
+        QCOMPARE(double(on.value->value()), 100.0);
+        QCOMPARE(on.shown(RotX, 0), 182.0);
+        QCOMPARE(on.shown(CurveChannel::RotationY, 5), 80.0);
+        on.undoAll();
+        QCOMPARE(on.now(), on.bytes);
+        QCOMPARE(on.shown(RotX, 0), 170.0);
+    }
+
+    void hugeValuesAreZoomed()
+    {
+        AnimFile file = turningBones();
+        for (int frame = 0; frame < 11; ++frame)
+            file.blocks[0].translations.at(0, frame) = {1e12f, 0, 1e20f};
+        Curves on(*m_files, file);
+        for (const auto channel : {MoveX, MoveZ}) {
+            on.check(channel);
+            on.type(Qt::Key_Home);
+            for (int notch = 0; notch < 200; ++notch)
+                turnWheel(on.view, 120, Qt::ControlModifier);
+            on.view->grab();
+            QVERIFY(on.perPixel(CurveUnit::Units) > 0);
+            on.check(channel, false);
+        }
     }
 
     void aRealAnimationComesBack()

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
-#include "Companions.h"
+#include "KeptCompanions.h"
 #include "ModelFile.h"
 #include "ModelText.h"
 #include "Output.h"
@@ -17,9 +17,10 @@ struct FitJob
 {
     bool bones;
     bool model;
-    bool isModelNamed; ///< it is a failure when the model's box cannot be fitted
+    bool isModelNamed; ///< it is a failure when the model's box cannot be fitted, as with an animation named
     QString anim;
     MaterialFolders chosen;
+    KeptCompanions companions;
 };
 
 /// Returns whether the record had another box.
@@ -51,10 +52,10 @@ void fitBones(SkinnedMesh &mesh, bool &changes)
 
 /// The box around a skinned mesh at rest, as its animation says where the bones are. Returns why there is
 /// none.
-QString restBox(const FitJob &job, const QString &path, const SkinnedMesh &mesh, std::optional<Box> &box)
+QString restBox(FitJob &job, const QString &path, const SkinnedMesh &mesh, std::optional<Box> &box)
 {
-    Companions companions(foldersAround(path, job.chosen));
-    const QString animPath = job.anim.isEmpty() ? companions.find(path).path : job.anim;
+    const QString animPath =
+        job.anim.isEmpty() ? job.companions.in(foldersAround(path, job.chosen)).find(path).path : job.anim;
     FileContent content;
     const QString error = animPath.isEmpty() ? QString() : readFile(animPath, content);
     if (!error.isEmpty())
@@ -62,15 +63,19 @@ QString restBox(const FitJob &job, const QString &path, const SkinnedMesh &mesh,
     Playback rest;
     rest.mesh = &mesh;
     rest.anim = std::get_if<AnimFile>(&content);
-    if (!playableBlock(rest))
-        return QStringLiteral(
+    if (!playableBlock(rest)) {
+        const QString needs = QStringLiteral(
             "The model's box needs an animation that fits the model: it says where the bones rest.");
+        return animPath.isEmpty()
+                   ? needs
+                   : QStringLiteral("%1: No animation fits the model. %2").arg(animPath, needs);
+    }
     box = meshBox(posedMesh(mesh, rest));
     return {};
 }
 
 /// Fits what is wanted; `changes` becomes true where something was not so. Returns why it cannot be.
-QString fitBoxesOf(const FitJob &job, const QString &path, ModelJson::Model &model, bool &changes)
+QString fitBoxesOf(FitJob &job, const QString &path, ModelJson::Model &model, bool &changes)
 {
     auto *skinned = std::get_if<SkinnedMesh>(&model);
     auto *rigid = std::get_if<StaticMesh>(&model);
@@ -87,14 +92,18 @@ QString fitBoxesOf(const FitJob &job, const QString &path, ModelJson::Model &mod
         box = meshBox(*rigid);
     } else {
         const QString reason = restBox(job, path, *skinned, box);
-        if (!reason.isEmpty() && job.isModelNamed)
+        if (!reason.isEmpty() && (job.isModelNamed || !job.anim.isEmpty()))
             return reason;
         if (!reason.isEmpty()) {
             Output::complain(QStringLiteral("%1: warning: %2").arg(path, reason));
             return {};
         }
     }
-    const bool isOther = box && (rigid ? fit(*rigid, *box) : fit(*skinned, *box));
+    if (!box) {
+        Output::line(QStringLiteral("  model: it has no vertices and keeps its box"));
+        return {};
+    }
+    const bool isOther = rigid ? fit(*rigid, *box) : fit(*skinned, *box);
     changes = changes || isOther;
     Output::line(isOther ? QStringLiteral("  model: its box changes")
                          : QStringLiteral("  model: its box fits"));
@@ -102,7 +111,7 @@ QString fitBoxesOf(const FitJob &job, const QString &path, ModelJson::Model &mod
 }
 
 /// An empty target: nothing is written.
-int fitFile(const FitJob &job, const QString &path, const QString &target)
+int fitFile(FitJob &job, const QString &path, const QString &target)
 {
     ModelJson::Content content;
     QString note;
@@ -141,12 +150,14 @@ int fitBoxes(const QStringList &arguments)
     line.folderOptions(CommandLine::GameFolder::AroundFile);
     if (const auto end = line.parse(arguments, true))
         return *end;
+    const bool bones = line.isSet(QStringLiteral("bones")), model = line.isSet(QStringLiteral("model"));
+    if (bones && !model && line.isSet(QStringLiteral("anim")))
+        return line.refuse(QStringLiteral("--anim means nothing with --bones alone."));
     TargetFiles targets;
     if (const auto end = targets.read(line, line.operands()))
         return *end;
-    const bool bones = line.isSet(QStringLiteral("bones")), model = line.isSet(QStringLiteral("model"));
-    const FitJob job{bones || !model, model || !bones, model, line.value(QStringLiteral("anim")),
-                     chosenFolders(line)};
+    FitJob job{
+        bones || !model, model || !bones, model, line.value(QStringLiteral("anim")), chosenFolders(line), {}};
     return targets.forEach(
         [&job](const QString &file, const QString &target) { return fitFile(job, file, target); });
 }

@@ -3,11 +3,11 @@
 #include "RenderEach.h"
 
 #include "CommandLine.h"
-#include "Companions.h"
 #include "ExitCode.h"
 #include "FileSystem.h"
 #include "Files.h"
 #include "Interruption.h"
+#include "KeptCompanions.h"
 #include "ModelFile.h"
 #include "ModelPicture.h"
 #include "OffscreenScene.h"
@@ -20,7 +20,6 @@
 #include <QImage>
 
 #include <memory>
-#include <optional>
 #include <utility>
 
 namespace {
@@ -41,7 +40,7 @@ public:
             return job.refusal;
         const MaterialFolders folders = foldersAround(job.model, m_chosen);
         ModelPicture picture(m_wishes, job.picture);
-        QString error = picture.read(job.model, companionsIn(folders));
+        QString error = picture.read(job.model, m_companions.in(folders));
         if (!error.isEmpty())
             return error;
         if (job.picture.isEmpty()) {
@@ -54,21 +53,10 @@ public:
     }
 
 private:
-    /// A walk through a game's folders is for all of its models.
-    Companions &companionsIn(const MaterialFolders &folders)
-    {
-        if (!m_companions || m_gamePath != folders.gamePath) {
-            m_gamePath = folders.gamePath;
-            m_companions.emplace(folders);
-        }
-        return *m_companions;
-    }
-
     OffscreenScene &m_scene;
     const PictureWishes &m_wishes;
     const MaterialFolders &m_chosen;
-    QString m_gamePath;
-    std::optional<Companions> m_companions;
+    KeptCompanions m_companions;
 };
 
 std::vector<PictureJob>

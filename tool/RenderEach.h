@@ -24,8 +24,7 @@ struct PictureJob
 
 /// The pictures of the models that `paths` name, and of the meshes in the folders among them: NAME.png in
 /// `target`, those of a folder in the folders there that they stand in here; NAME.staticmesh.png where a mesh
-/// of the other kind has the name. None takes the place of another,
-/// and of another file only with `replaces`.
+/// of the other kind has the name. None takes the place of another, and of another file only with `replaces`.
 std::vector<PictureJob> picturesOf(const QStringList &paths, const QString &target, bool replaces);
 
 /// The same, whose pictures go into no files of their own.

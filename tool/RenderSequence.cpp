@@ -12,7 +12,6 @@
 #include "OffscreenScene.h"
 #include "Output.h"
 #include "PictureOutput.h"
-#include "ReplacedFiles.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -55,15 +54,6 @@ QStringList ModelSequence::targets(const QString &output) const
     for (const PicturePlan::Shot &shot : shots)
         all += numberedPicture(name, shot.number, shots.back().number);
     return all;
-}
-
-QStringList ModelSequence::origins(const QStringList &targets) const
-{
-    QStringList found;
-    std::copy_if(targets.begin(), targets.end(), std::back_inserter(found), [this](const QString &target) {
-        return isOneFile(target, m_subject.meshPath) || isOneFile(target, m_subject.animPath);
-    });
-    return found;
 }
 
 /// From the first frame to the last, whatever the step: more pictures of the same are framed alike.

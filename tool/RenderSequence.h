@@ -41,8 +41,6 @@ public:
     const PicturePlan &plan() const { return m_sequence.plan; }
     /// The files of the pictures: numbered ones of the name `output`, or of the model's in such a folder.
     QStringList targets(const QString &output) const;
-    /// Those of them that the model or its animation comes from.
-    QStringList origins(const QStringList &targets) const;
 
     /// Draws all on all cores, the camera framing them together, and writes them to `targets`, telling of
     /// each in their order; or has them taken. The first that fails is the last. Gives the exit code; or

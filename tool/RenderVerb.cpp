@@ -4,6 +4,7 @@
 #include "Companions.h"
 #include "ContactSheet.h"
 #include "Files.h"
+#include "ModelFile.h"
 #include "ModelPicture.h"
 #include "OffscreenScene.h"
 #include "Output.h"
@@ -153,9 +154,17 @@ int endOf(const std::variant<int, DrawingLimits> &drawn, const CommandLine &line
     return exitCode ? *exitCode : refuse(std::get<DrawingLimits>(drawn), line);
 }
 
+/// Pictures replace pictures. A model is never meant, even where something is to be replaced: a name was
+/// forgotten behind -o, and the shell put the first of the models there.
 bool mayReplace(const CommandLine &line, const QStringList &targets)
 {
     constexpr int MostNamed = 10;
+    for (const QString &target : targets) {
+        if (isReadable(QFileInfo(target).canonicalFilePath())) {
+            Output::complain(QStringLiteral("%1: The picture would replace a file of the game.").arg(target));
+            return false;
+        }
+    }
     if (line.isSet(QStringLiteral("force")))
         return true;
     QStringList taken;
@@ -169,7 +178,7 @@ bool mayReplace(const CommandLine &line, const QStringList &targets)
 int renderOne(const CommandLine &line, const PictureWishes &wishes)
 {
     const QString output = line.value(QStringLiteral("output"));
-    if (!line.isSet(QStringLiteral("force")) && isTaken(output) && Output::refuseToReplace({output}))
+    if (!mayReplace(line, {output}))
         return Failed;
     const QString file = line.operands().constFirst();
     const MaterialFolders folders = foldersAround(file, chosenFolders(line));
@@ -216,10 +225,6 @@ int renderSequence(const CommandLine &line, const PictureWishes &wishes, const S
     const QStringList targets = sequence.targets(line.value(QStringLiteral("output")));
     if (!mayReplace(line, targets))
         return Failed;
-    const QStringList origins = sequence.origins(targets);
-    if (!origins.isEmpty())
-        return complain(
-            QStringLiteral("%1: The picture would replace what it is drawn of.").arg(origins.constFirst()));
     return endOf(sequence.draw(targets), line);
 }
 
@@ -267,7 +272,8 @@ private:
 QString nameOf(const PicturePlan::Shot &shot, const PicturePlan &plan)
 {
     const QString frame = QString::number(shot.frame);
-    const QString turn = QString::number(qRound(shot.turn)) + QChar(0xb0);
+    const int decimals = 360 % std::max(plan.turns, 1) == 0 ? 0 : 1;
+    const QString turn = QString::number(double(shot.turn), 'f', decimals) + QChar(0xb0);
     if (plan.turns == 0)
         return frame;
     return plan.firstFrame == plan.lastFrame ? turn : frame + QStringLiteral(", ") + turn;

@@ -47,6 +47,24 @@ private slots:
         QVERIFY(taken.exitCode == 1 && taken.err.contains("exists already"));
     }
 
+    void keepsWhatItWrote()
+    {
+        // Files of one name from two folders.
+        const TestFolder from, folder;
+        StaticMesh wall;
+        wall.surfaces = {{"materials/m/_white", {0, 1, 0}}};
+        wall.vertices = {{{-1, 2, 3}, {}, {}}, {{4, -5, 6}, {}, {}}};
+        const QString one = from.save("wall.staticmesh", wall);
+        wall.vertices[0].position.setX(-7);
+        QDir().mkpath(from.path("other"));
+        const QString other = from.save("other/wall.staticmesh", wall);
+        const ToolRun both("fit-boxes --force -o", {folder.path(), one, other});
+        QVERIFY2(both.exitCode == 1 && both.err.contains(other + ": "), qUtf8Printable(both.err));
+        StaticMesh fitted;
+        QVERIFY(!fitted.read(folder.path("wall.staticmesh")));
+        QCOMPARE(fitted.bbMin.x(), -1.0f);
+    }
+
     void fitsModels()
     {
         const TestFolder folder;
@@ -68,6 +86,14 @@ private slots:
         const ToolRun alone("fit-boxes --model", {file});
         QVERIFY2(alone.exitCode == 1 && alone.err.contains("needs an animation"), qUtf8Printable(alone.err));
         QCOMPARE(ToolRun("fit-boxes", {file}).exitCode, 0);
+        // Who names an animation is told when it is of no use.
+        const QByteArray bytes = TestSupport::readFile(file);
+        for (const QString &anim : {folder.path("no.anim"), file}) {
+            const ToolRun run("fit-boxes --in-place --anim", {anim, file});
+            QVERIFY2(run.exitCode == 1 && run.err.contains(anim), qUtf8Printable(run.err));
+        }
+        QCOMPARE(TestSupport::readFile(file), bytes);
+        QCOMPARE(ToolRun("fit-boxes --bones --anim", {file, file}).exitCode, 2);
         QCOMPARE(ToolRun("fit-boxes --model --in-place --anim",
                          {TestSupport::source("samples/game/anims/tinker/tinker.anim"), file})
                      .exitCode,

@@ -153,7 +153,7 @@ private slots:
             QCOMPARE(TestSupport::readFile(files[0]), before);
         };
         refuses("render -o", {there, model}, "there.png: The file exists already; --force replaces it.");
-        refuses("render --force -o", {model, model}, "would replace what it is drawn of");
+        refuses("render --force -o", {model, model}, "would replace a file of the game");
         QCOMPARE(ToolRun("render --force --size 32 -o", {there, model}).exitCode, 0);
         QCOMPARE(QImage(there).width(), 32);
 

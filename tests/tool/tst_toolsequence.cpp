@@ -176,6 +176,17 @@ private slots:
         QCOMPARE(TestSupport::readFile(there), QByteArray("mine"));
         QCOMPARE(ToolRun("render --force -o", arguments).exitCode, 0);
         QCOMPARE(QImage(there).width(), 32);
+        // A model is never what is to be replaced, whether it is drawn or not.
+        const QString crate = withSamples(Crate)[0];
+        const QString copy = folder.put("crate.staticmesh", TestSupport::readFile(crate));
+        for (const char *verb : {"render --sheet --force --size 32 -o", "render --force --size 32 -o"}) {
+            for (const QString &model : {copy, crate}) {
+                const ToolRun run(verb, {copy, model});
+                QVERIFY2(run.exitCode == 1 && run.err.contains("a file of the game"),
+                         qUtf8Printable(run.err));
+                QCOMPARE(TestSupport::readFile(copy), TestSupport::readFile(crate));
+            }
+        }
     }
 
     void endsWithWholePictures()

@@ -4,11 +4,13 @@
 
 #include "CommandLine.h"
 #include "ExitCode.h"
+#include "FileSystem.h"
 #include "Output.h"
 #include "ReplacedFiles.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
 
 void TargetFiles::addOptions(CommandLine &line)
 {
@@ -35,6 +37,7 @@ std::optional<int> TargetFiles::read(const CommandLine &line, const QStringList 
 int TargetFiles::forEach(const std::function<int(const QString &file, const QString &target)> &change) const
 {
     int exitCode = Fine;
+    QHash<QString, QString> written; // files by their targets, as FileSystem compares them
     for (const QString &file : m_files) {
         const QString target = m_isInPlace  ? file
                                : m_isFolder ? QDir(m_output).filePath(QFileInfo(file).fileName())
@@ -44,10 +47,19 @@ int TargetFiles::forEach(const std::function<int(const QString &file, const QStr
             exitCode = Failed;
             continue;
         }
+        const QString place = m_isFolder ? FileSystem::comparable(target) : QString();
+        if (written.contains(place)) {
+            Output::complain(
+                QStringLiteral("%1: '%2' is what became of '%3'.").arg(file, target, written.value(place)));
+            exitCode = Failed;
+            continue;
+        }
         if (m_files.size() > 1)
             Output::line(file);
         if (change(file, target) != Fine)
             exitCode = Failed;
+        else if (m_isFolder)
+            written.insert(place, file);
     }
     return exitCode;
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "PictureThreads.h"
 
+#include "Memory.h"
 #include "OffscreenScene.h"
 
 #include <QThread>
@@ -58,13 +59,22 @@ public:
         m_drawn[picture] = std::move(drawn);
         m_changed.notify_all();
     }
-    /// A thread adds no more; with limits, it could draw nothing.
-    void leave(const std::optional<DrawingLimits> &limits)
+    /// A thread adds no more; with limits or for lack of memory, it could draw nothing.
+    void leave(const std::optional<DrawingLimits> &limits, const QString &noMemory)
     {
         const std::lock_guard lock(m_mutex);
         --m_threads;
         if (limits)
             m_limits = limits;
+        if (!noMemory.isEmpty())
+            m_noMemory = noMemory;
+        m_changed.notify_all();
+    }
+    /// Nobody is told any more.
+    void stop()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_stopped = true;
         m_changed.notify_all();
     }
     /// Tells of what is there, in turn; waits for more where it is to. False when there is nothing to wait
@@ -72,8 +82,13 @@ public:
     bool tell(const std::function<bool(size_t, const DrawnPicture &)> &told, bool waits)
     {
         std::unique_lock lock(m_mutex);
+        if (m_stopped || m_told == m_drawn.size())
+            return false;
         while (waits && !m_drawn[m_told] && m_threads > 0)
             m_changed.wait_for(lock, LookAgain);
+        // Others may have done the work of a thread that had no memory.
+        if (!m_drawn[m_told] && m_threads == 0 && !m_cancelled && !m_noMemory.isEmpty())
+            m_drawn[m_told] = DrawnPicture{m_noMemory, {}};
         if (!m_drawn[m_told])
             return false;
         const DrawnPicture drawn = *std::exchange(m_drawn[m_told], DrawnPicture());
@@ -95,6 +110,7 @@ private:
     std::condition_variable m_changed;
     std::vector<std::optional<DrawnPicture>> m_drawn;
     std::optional<DrawingLimits> m_limits;
+    QString m_noMemory;
     size_t m_next = 0;
     size_t m_told = 0;
     size_t m_lead;
@@ -103,27 +119,39 @@ private:
     const std::atomic_bool &m_cancelled;
 };
 
-/// Draws one picture after another; `drawn` is called after each.
-void drawOn(QOffscreenSurface &surface, const QSize &size, const PictureThreads::MakeDraw &makeDraw,
-            PictureAccount &account, const std::function<bool()> &drawn)
+/// Draws one picture after another; `drawn` is called after each. Gives limits that allow none.
+std::optional<DrawingLimits> drawAll(QOffscreenSurface &surface, const QSize &size,
+                                     const PictureThreads::MakeDraw &makeDraw, PictureAccount &account,
+                                     const std::function<bool()> &drawn)
 {
     OffscreenScene scene(surface);
     const DrawingLimits limits(scene);
     if (!limits.allow(size))
-        return account.leave(limits);
+        return limits;
     const PictureThreads::Draw draw = makeDraw(scene);
     for (std::optional<size_t> picture = account.take(); picture; picture = account.take()) {
         DrawnPicture result;
         {
             HeldLog log;
-            result.error = draw(*picture);
+            QString error;
+            const QString noMemory = withinMemory([&] { error = draw(*picture); });
+            result.error = noMemory.isEmpty() ? error : noMemory;
             result.lines = std::move(log.lines);
         }
         account.add(*picture, std::move(result));
         if (!drawn())
             break;
     }
-    account.leave({});
+    return {};
+}
+
+/// The same, for a thread that may leave nothing thrown behind.
+void drawOn(QOffscreenSurface &surface, const QSize &size, const PictureThreads::MakeDraw &makeDraw,
+            PictureAccount &account, const std::function<bool()> &drawn)
+{
+    std::optional<DrawingLimits> limits;
+    const QString noMemory = withinMemory([&] { limits = drawAll(surface, size, makeDraw, account, drawn); });
+    account.leave(limits, noMemory);
 }
 } // namespace
 
@@ -163,15 +191,21 @@ PictureThreads::run(const MakeDraw &makeDraw,
     PictureAccount account(m_pictures, m_surfaces.size(), cancelled);
     if (!arePossible()) {
         drawOn(*m_surfaces.front(), m_size, makeDraw, account, [&] { return account.tell(told, false); });
+        account.tell(told, false);
     } else {
         QThreadPool threads;
         threads.setMaxThreadCount(int(m_surfaces.size()));
-        for (auto &surface : m_surfaces) {
-            threads.start([&, &surface = *surface] {
-                drawOn(surface, m_size, makeDraw, account, [] { return true; });
-            });
-        }
-        while (account.tell(told, true)) {
+        try {
+            for (auto &surface : m_surfaces) {
+                threads.start([&, &surface = *surface] {
+                    drawOn(surface, m_size, makeDraw, account, [] { return true; });
+                });
+            }
+            while (account.tell(told, true)) {
+            }
+        } catch (...) {
+            account.stop(); // the threads would wait for the telling
+            throw;
         }
         threads.waitForDone();
     }

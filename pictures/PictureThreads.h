@@ -55,8 +55,8 @@ public:
     static bool arePossible();
 
     /// Draws all; in any thread, which waits, and hears what became of them in the order of their numbers:
-    /// where `told` says false, or as soon as `cancelled`, no others are begun. Gives limits, and nothing
-    /// else, where these do not allow such pictures.
+    /// where `told` says false, or as soon as `cancelled`, no others are begun. A lack of memory is what went
+    /// wrong with a picture. Gives limits, and nothing else, where these do not allow such pictures.
     std::optional<DrawingLimits> run(const MakeDraw &makeDraw,
                                      const std::function<bool(size_t picture, const DrawnPicture &)> &told,
                                      const std::atomic_bool &cancelled);

@@ -20,6 +20,9 @@ void poseFrame(GLMesh &model, SceneFrame &frame, Playback state, int number, Pos
         poses.evaluateInitialPose(model.palette, *state.mesh, *block);
     else
         shown = poses.evaluateAnimatedPose(model.palette, *state.mesh, *block, state, frame.yaw);
+    // In a video, events are seen for as long as where they play.
+    if (number != PicturePlan::StillPose)
+        state.playState = PlayState::Playing;
     frame.marks.events.follow(state, shown);
 }
 

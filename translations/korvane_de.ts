@@ -6382,6 +6382,10 @@ Wo keine Datei ist, bleibt es still.</translation>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
+    <message>
+        <source>Ending…</source>
+        <translation>Wird beendet…</translation>
+    </message>
 </context>
 <context>
     <name>PictureDialog</name>
@@ -6551,10 +6555,6 @@ Wo keine Datei ist, bleibt es still.</translation>
     <message>
         <source>PNG pictures (*.png)</source>
         <translation>PNG-Bilder (*.png)</translation>
-    </message>
-    <message>
-        <source>the graphics driver cannot paint a picture of %1 by %2 pixels</source>
-        <translation>der Grafiktreiber kann kein Bild von %1 mal %2 Pixeln malen</translation>
     </message>
     <message>
         <source>The picture was saved as %1</source>
@@ -8435,10 +8435,6 @@ Alles andere funktioniert weiter.</translation>
     <message>
         <source>%1 of the pictures exist already, the first as &apos;%2&apos;. Replace them?</source>
         <translation>%1 der Bilder gibt es schon, das erste als &apos;%2&apos;. Sollen sie ersetzt werden?</translation>
-    </message>
-    <message>
-        <source>There is not enough memory.</source>
-        <translation>Es ist nicht genügend Arbeitsspeicher vorhanden.</translation>
     </message>
     <message>
         <source>the graphics driver cannot paint a picture of %1 by %2 pixels</source>

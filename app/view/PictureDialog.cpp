@@ -133,10 +133,10 @@ void PictureDialog::showRows()
                      m_ui->lblPictureStep, m_ui->sbPictureStep});
     show(kind() != View, {m_ui->lblPictureFolder, m_ui->txtPictureFolder, m_ui->btnPictureFolder,
                           m_ui->lblPictureName, m_ui->txtPictureName, m_ui->lblPictureFiles});
-    if (kind() == View) {
-        // Nothing that is not seen refuses anything.
-        m_ui->txtPictureFolder->discardText();
-        m_ui->txtPictureName->discardText();
+    // Nothing that is not seen refuses anything.
+    for (TypingField *field : TypingField::in(*this)) {
+        if (dynamic_cast<QWidget *>(field)->isHidden())
+            field->discardText();
     }
     m_ui->buttonBox->button(QDialogButtonBox::Save)->setText(kind() == View ? tr("&Save…") : tr("&Save"));
     showFiles();
@@ -220,7 +220,7 @@ void PictureDialog::accept()
         Settings::PictureTurns.setValue(m_ui->sbPictureTurns->value());
     if (kind() == Turntable && m_ui->cbTurnFrames->isEnabled())
         Settings::PictureTurnFrames.setValue(m_ui->cbTurnFrames->isChecked());
-    if (kind() == Frames)
+    if (!m_ui->sbPictureStep->isHidden())
         Settings::PictureStep.setValue(m_ui->sbPictureStep->value());
     QDialog::accept();
 }

@@ -85,8 +85,7 @@ bool PictureSaver::save(const QString &path, const QSize &size, bool transparent
         m_viewport->picture(size, transparent ? QColor(0, 0, 0, 0) : m_viewport->backgroundColor().rgb());
     QGuiApplication::restoreOverrideCursor();
     if (picture.isNull())
-        return refuse(path, tr("the graphics driver cannot paint a picture of %1 by %2 pixels")
-                                .arg(QString::number(size.width()), QString::number(size.height())));
+        return refuse(path, SequenceSaver::unpaintable(size));
     if (!transparent)
         picture = picture.convertToFormat(QImage::Format_RGB32);
     const QString reason = writePicture(picture, path);

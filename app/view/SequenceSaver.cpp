@@ -35,6 +35,12 @@ struct SequenceSaver::Job
     std::atomic_int percent{0};
 };
 
+QString SequenceSaver::unpaintable(const QSize &size)
+{
+    return tr("the graphics driver cannot paint a picture of %1 by %2 pixels")
+        .arg(QString::number(size.width()), QString::number(size.height()));
+}
+
 bool SequenceSaver::mayBegin(const QStringList &files, QWidget *window)
 {
     QStringList taken;
@@ -71,8 +77,13 @@ FailedSave SequenceSaver::draw(Job &job, const Background::Cancelled &cancelled)
             const auto poses = std::make_shared<PoseEvaluator>();
             return [&, poses](size_t shot) {
                 const QImage picture = paintShot(scene, job.planned, job.shots[shot], *poses);
-                return picture.isNull() ? tr("There is not enough memory.")
-                                        : writePicture(picture, job.files[int(shot)]);
+                if (picture.isNull())
+                    return unpaintable(job.planned.size);
+                const QString error = writePicture(picture, job.files[int(shot)]);
+                // One that failed is told of after others, which may be written by then.
+                if (error.isEmpty())
+                    ++job.saved;
+                return error;
             };
         };
         const auto tell = [&](size_t shot, const DrawnPicture &drawn) {
@@ -80,14 +91,11 @@ FailedSave SequenceSaver::draw(Job &job, const Background::Cancelled &cancelled)
                 failure = {job.files[int(shot)], drawn.error};
                 return false;
             }
-            job.saved = int(shot) + 1;
             job.percent = int(100 * (shot + 1) / job.shots.size());
             return true;
         };
         if (const auto limits = job.threads.run(makeDraw, tell, cancelled))
-            failure = {job.files.first(), tr("the graphics driver cannot paint a picture of %1 by %2 pixels")
-                                              .arg(QString::number(planned.size.width()),
-                                                   QString::number(planned.size.height()))};
+            failure = {job.files.first(), unpaintable(planned.size)};
     });
     return noMemory.isEmpty() ? failure : FailedSave{job.files.first(), noMemory};
 }

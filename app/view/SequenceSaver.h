@@ -30,6 +30,9 @@ public:
     /// begun. What failed is in the log and in a box that names the file.
     QString save(const KVOpenGLWidget &view, const PictureDialog &wanted, QWidget *window);
 
+    /// Why there is no picture of this size, where none was painted.
+    static QString unpaintable(const QSize &size);
+
 private:
     struct Job;
 

@@ -10,6 +10,26 @@
 
 #include <optional>
 
+/// Waits for the end of work that was cancelled and may be slow to notice, while the window stays alive, but
+/// takes no input.
+inline void endWithPatience(const std::atomic_bool &isOver, QProgressDialog &progress)
+{
+    constexpr int Unnoticed = 500, Between = 20; // milliseconds
+    QEventLoop loop;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &loop, [&isOver, &loop] {
+        if (isOver)
+            loop.quit();
+    });
+    look.start(Between);
+    QTimer::singleShot(Unnoticed, &loop, [&progress] {
+        progress.setLabelText(QCoreApplication::translate("Patience", "Ending…"));
+        progress.setCancelButton(nullptr);
+        progress.show();
+    });
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
 /// Does work in another thread while the window stays alive, but takes no input. After half a second a dialog
 /// says what is going on and offers to give up, which the work has to notice. Returns what `work(cancelled)`
 /// does; nothing when it was given up. `percent`, if there is one, is where the work notes how far it is.
@@ -21,11 +41,18 @@ auto workWithPatience(Work work, const QString &label, QWidget *window,
     using Result = decltype(work(std::declval<const Background::Cancelled &>()));
     std::optional<Result> result;
     QEventLoop loop;
+    std::atomic_bool isOver{false};
     Background background;
-    background.start(std::move(work), [&](Result made) {
-        result = std::move(made);
-        loop.quit();
-    });
+    background.start(
+        [&isOver, work = std::move(work)](const Background::Cancelled &cancelled) {
+            Result made = work(cancelled);
+            isOver = true;
+            return made;
+        },
+        [&](Result made) {
+            result = std::move(made);
+            loop.quit();
+        });
     QTimer::singleShot(Unnoticed, &loop, &QEventLoop::quit);
     loop.exec(QEventLoop::ExcludeUserInputEvents);
     if (result)
@@ -45,5 +72,10 @@ auto workWithPatience(Work work, const QString &label, QWidget *window,
     QObject::connect(&progress, &QProgressDialog::canceled, &loop, &QEventLoop::quit);
     progress.show();
     loop.exec();
+    if (!result) {
+        background.cancel();
+        look.stop();
+        endWithPatience(isOver, progress);
+    }
     return result;
 }

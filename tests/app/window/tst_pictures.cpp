@@ -3,6 +3,7 @@
 #include "FullDisk.h"
 #include "Hand.h"
 #include "KVOpenGLWidget.h"
+#include "PictureThreads.h"
 #include "Playback.h"
 #include "TextField.h"
 
@@ -145,6 +146,59 @@ private slots:
         QVERIFY(hand.seen.last().contains(QStringLiteral("man-0002.png' exists already")));
         QCOMPARE(TestSupport::readFile(first), QByteArray("mine"));
         QVERIFY(!QFileInfo::exists(folder + QStringLiteral("/man-0005.png")));
+    }
+
+    void whatIsNotSeenRefusesNothing()
+    {
+        const auto window = open();
+        const QString path = m_files->path(QStringLiteral("view.png"));
+        const Hand hand({[](QDialog *dialog) {
+                             auto *kind = find<QComboBox>(*dialog, "cbPictureKind");
+                             kind->setFocus();
+                             QTest::keyClick(kind, Qt::Key_End);
+                             auto *turns = find<IntSpinBox>(*dialog, "sbPictureTurns");
+                             type(turns, QStringLiteral("0"));
+                             QVERIFY(turns->isRefused());
+                             kind->setFocus();
+                             QTest::keyClick(kind, Qt::Key_Home);
+                             save(dialog);
+                             if (dialog->isVisible()) // refused
+                                 dialog->reject();
+                         },
+                         Hand::file(path)});
+        find<QAction>(*window, "actionSavePicture")->trigger();
+        QVERIFY(QFileInfo::exists(path));
+    }
+
+    void lackOfMemoryIsTold()
+    {
+        const std::atomic_bool cancelled{false};
+        const auto lack = [](size_t) -> QString { throw std::bad_alloc(); };
+        QStringList told;
+        const auto tell = [&told](size_t picture, const DrawnPicture &drawn) {
+            told += QString::number(picture) + drawn.error;
+            return drawn.error.isEmpty();
+        };
+        // Of one picture, and of all that a thread needs.
+        QVERIFY(!PictureThreads(100, {8, 8})
+                     .run(
+                         [&lack](OffscreenScene &) -> PictureThreads::Draw {
+                             return [&lack](size_t picture) { return picture == 3 ? lack(3) : QString(); };
+                         },
+                         tell, cancelled));
+        QCOMPARE(told, QStringList({"0", "1", "2", "3There is not enough memory."}));
+        told.clear();
+        QVERIFY(!PictureThreads(100, {8, 8})
+                     .run([](OffscreenScene &) -> PictureThreads::Draw { throw std::bad_alloc(); }, tell,
+                          cancelled));
+        QCOMPARE(told, QStringList("0There is not enough memory."));
+        // Where it is missing for the telling, the threads do not wait for that.
+        QVERIFY_EXCEPTION_THROWN(
+            PictureThreads(1000, {8, 8})
+                .run(
+                    [](OffscreenScene &) -> PictureThreads::Draw { return [](size_t) { return QString(); }; },
+                    [](size_t, const DrawnPicture &) -> bool { throw std::bad_alloc(); }, cancelled),
+            std::bad_alloc);
     }
 
     void turntablesAreSaved()

@@ -4,7 +4,9 @@
 
 #include "CrashReport.h"
 
+#include <QCoreApplication>
 #include <QDebug>
+#include <QThread>
 
 #include <utility>
 
@@ -17,15 +19,20 @@ Log::Sink &currentSink()
 
 thread_local HeldLog *heldLog = nullptr;
 
-void write(LogSeverity severity, const QString &text)
+void writeOut(LogSeverity severity, const QString &text)
 {
-    if (heldLog)
-        return heldLog->lines.append({severity, text});
     CrashReport::addLine(text);
     if (currentSink())
         currentSink()(severity, text);
     else
         qDebug().noquote() << text;
+}
+
+void write(LogSeverity severity, const QString &text)
+{
+    if (heldLog)
+        return heldLog->lines.append({severity, text});
+    writeOut(severity, text);
 }
 } // namespace
 
@@ -47,6 +54,15 @@ void Log::warning(const QString &text)
 void Log::info(const QString &text)
 {
     write(LogSeverity::Info, text);
+}
+
+void Log::sayInTime(LogSeverity severity, const QString &text)
+{
+    QCoreApplication *app = QCoreApplication::instance();
+    if (!app || app->thread() == QThread::currentThread())
+        return writeOut(severity, text);
+    QMetaObject::invokeMethod(
+        app, [severity, text] { writeOut(severity, text); }, Qt::QueuedConnection);
 }
 
 void Log::say(const QVector<LogLine> &lines)

@@ -17,7 +17,8 @@ struct LogLine
 };
 
 /// The application-wide log: severity and text handed to one replaceable sink. Without a sink the
-/// lines go to the debug output. For the GUI thread; in another one only while a HeldLog is there.
+/// lines go to the debug output. For the GUI thread; in another one only while a HeldLog is there, but for
+/// sayInTime().
 namespace Log {
 using Sink = std::function<void(LogSeverity, const QString &)>;
 
@@ -27,6 +28,8 @@ void setSink(Sink sink);
 void error(const QString &text);
 void warning(const QString &text);
 void info(const QString &text);
+/// Says it in the thread of the application: now, or soon when another thread calls. No HeldLog keeps it.
+void sayInTime(LogSeverity severity, const QString &text);
 /// Says what a HeldLog kept.
 void say(const QVector<LogLine> &lines);
 } // namespace Log

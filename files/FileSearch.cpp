@@ -25,14 +25,14 @@ QStringList FileSearch::candidates(const QString &relativePath) const
 {
     QStringList paths;
     for (const QString &folder : m_folders)
-        paths.append(Files::trueCase(folder + QLatin1Char('/') + relativePath));
+        paths.append(Files::trueCase(folder + QLatin1Char('/') + relativePath, folder.size()));
     return paths;
 }
 
 QString FileSearch::find(const QString &relativePath) const
 {
     for (const QString &folder : m_folders) {
-        const QString path = Files::trueCase(folder + QLatin1Char('/') + relativePath);
+        const QString path = Files::trueCase(folder + QLatin1Char('/') + relativePath, folder.size());
         if (Files::isFile(path))
             return path;
     }

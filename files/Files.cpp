@@ -14,10 +14,13 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 /// Of game and mod, and of what somebody looks at beside them.
 constexpr int MostArchives = 4;
+/// With names of more than this an archive counts as two, and so on.
+constexpr qint64 BytesAsOne = ZipArchive::MostNameBytes / 2;
 constexpr int MostListings = 512;
 /// A folder that has changed a moment ago may change again without another time.
 constexpr qint64 RestMs = 2000;
@@ -30,23 +33,33 @@ struct Texts
 /// A state of an archive on the disk, and what came of reading it.
 struct OpenArchive
 {
-    qint64 size = 0;
+    qint64 size = -1;
     qint64 modified = 0; ///< milliseconds since 1970
     std::shared_ptr<const ZipArchive> archive;
     QString reason; ///< why there is none
+    bool isTold = false;
+};
+
+struct Slot
+{
+    qint64 size = -1; ///< of what was read, as the next; for who has Kept's mutex
+    qint64 modified = 0;
+    QMutex mutex; ///< held while the directory is read: who else asks, asks for the same
+    OpenArchive held;
 };
 
 /// The names in a folder by what they are in one case.
 struct Listing
 {
     qint64 modified = 0;
+    bool isRested = false; ///< the folder had not changed for RestMs when it was listed
     QHash<QString, QString> names;
 };
 
 struct Kept
 {
-    QMutex mutex; ///< held while a directory is read: who else asks, asks for the same
-    QCache<QString, OpenArchive> archives{MostArchives};
+    QMutex mutex; ///< held while nothing is read; taken last
+    QCache<QString, std::shared_ptr<Slot>> archives{MostArchives};
     QMutex listingMutex;
     QCache<QString, Listing> listings{MostListings};
 };
@@ -100,33 +113,56 @@ struct Place
     bool isInArchive() const { return !archive.isEmpty(); }
 };
 
-void tellLeftOut(const QString &path, const ZipArchive &archive)
+/// What the console is told of an archive; empty when nothing.
+LogLine lineAbout(const QString &path, const OpenArchive &open)
 {
-    if (archive.leftOutCount() == 0)
-        return;
-    Log::warning(Texts::tr("'%1': %n entries are left out, since their names lead elsewhere: %2", nullptr,
-                           archive.leftOutCount())
-                     .arg(QDir::toNativeSeparators(path), archive.leftOut().join(QLatin1String(", "))));
+    const QString native = QDir::toNativeSeparators(path);
+    if (!open.archive)
+        return {LogSeverity::Error, QStringLiteral("'%1': %2").arg(native, open.reason)};
+    const int count = open.archive->leftOutCount();
+    if (count == 0)
+        return {LogSeverity::Warning, {}};
+    return {LogSeverity::Warning,
+            Texts::tr("'%1': %n entries are left out: links, and what has no place below the archive: %2",
+                      nullptr, count)
+                .arg(native, open.archive->leftOut().join(QLatin1String(", ")))};
 }
 
-OpenArchive archiveAt(const QString &path)
+/// With `tells`, the console is told once of what is wrong with a state of the archive.
+OpenArchive archiveAt(const QString &path, bool tells = true)
 {
     const QFileInfo file(path);
     const qint64 modified = file.lastModified().toMSecsSinceEpoch();
     Kept &all = kept();
-    const QMutexLocker lock(&all.mutex);
-    const OpenArchive *known = all.archives.object(path);
-    if (known && known->size == file.size() && known->modified == modified)
-        return *known;
-    auto *made = new OpenArchive{file.size(), modified, {}, {}};
-    made->archive = ZipArchive::open(path, made->reason);
-    if (made->archive)
-        tellLeftOut(path, *made->archive);
-    else
-        Log::error(QStringLiteral("'%1': %2").arg(QDir::toNativeSeparators(path), made->reason));
-    const OpenArchive result = *made;
-    all.archives.insert(path, made);
-    return result;
+    std::shared_ptr<Slot> slot;
+    {
+        const QMutexLocker lock(&all.mutex);
+        const std::shared_ptr<Slot> *known = all.archives.object(path);
+        slot = known ? *known : std::make_shared<Slot>();
+        if (!known)
+            all.archives.insert(path, new std::shared_ptr<Slot>(slot));
+    }
+    OpenArchive open;
+    LogLine line{};
+    {
+        const QMutexLocker lock(&slot->mutex);
+        OpenArchive &held = slot->held;
+        if (held.size != file.size() || held.modified != modified) {
+            held = {file.size(), modified, {}, {}, false};
+            held.archive = ZipArchive::open(path, held.reason);
+            const qint64 bytes = held.archive ? held.archive->nameBytes() : 0;
+            const QMutexLocker allLock(&all.mutex);
+            slot->size = held.size;
+            slot->modified = held.modified;
+            all.archives.insert(path, new std::shared_ptr<Slot>(slot), int(1 + bytes / BytesAsOne));
+        }
+        if (tells && !std::exchange(held.isTold, true))
+            line = lineAbout(path, held);
+        open = held;
+    }
+    if (!line.text.isEmpty())
+        Log::sayInTime(line.severity, line.text);
+    return open;
 }
 
 /// What a folder calls a name that is given in any case; empty when nothing there is called so.
@@ -137,9 +173,9 @@ QString nameIn(const QString &folder, const QString &name)
     const QMutexLocker lock(&all.listingMutex);
     const Listing *known = all.listings.object(folder);
     const bool rests = QDateTime::currentMSecsSinceEpoch() - modified > RestMs;
-    if (known && known->modified == modified && rests)
+    if (known && known->modified == modified && known->isRested)
         return known->names.value(name.toCaseFolded());
-    auto *made = new Listing{modified, {}};
+    auto *made = new Listing{modified, rests, {}};
     const QStringList there = QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name);
     for (const QString &each : there)
         made->names.insert(each.toCaseFolded(), each);
@@ -148,21 +184,28 @@ QString nameIn(const QString &folder, const QString &name)
     return found;
 }
 
-/// A path on the disk in the case that it has there; empty when there is none.
-QString caseOnDisk(const QString &path)
+/// A path on the disk in the case that it has there from some character on; empty when there is none.
+QString caseOnDisk(const QString &path, int from)
 {
     // Where the system finds all of them, that one is there says nothing of how it is called.
     static const bool takesAnyCase = FileSystem::isSamePath(QStringLiteral("a"), QStringLiteral("A"));
     const int slash = path.lastIndexOf(QLatin1Char('/'));
-    if (!takesAnyCase || slash <= 0) {
+    const bool isGiven = slash <= 0 || slash < from;
+    if (!takesAnyCase || isGiven) {
         if (QFileInfo::exists(path))
             return path;
-        if (slash <= 0)
+        if (isGiven)
             return {};
     }
-    const QString folder = caseOnDisk(path.left(slash));
+    const QString folder = caseOnDisk(path.left(slash), from);
     const QString name = folder.isEmpty() ? QString() : nameIn(folder, path.mid(slash + 1));
     return name.isEmpty() ? QString() : folder + QLatin1Char('/') + name;
+}
+
+/// As folders hide what is called so.
+bool isHidden(const QString &path)
+{
+    return path.midRef(path.lastIndexOf(QLatin1Char('/')) + 1).startsWith(QLatin1Char('.'));
 }
 
 /// An archive's folders and files below one of them, each folder before what is in it.
@@ -180,11 +223,14 @@ public:
     bool go(const ZipArchive::Folder &folder, int number)
     {
         for (const int file : folder.files) {
-            if (!m_visit({m_root + m_archive.fileAt(file).path, number, false}))
+            if (!isHidden(m_archive.fileAt(file).path) &&
+                !m_visit({m_root + m_archive.fileAt(file).path, number, false}))
                 return false;
         }
         for (const int each : folder.folders) {
             const ZipArchive::Folder &below = m_archive.folderAt(each);
+            if (isHidden(below.path))
+                continue;
             const int belowNumber = ++m_folders;
             if (!m_visit({m_root + below.path, number, true}) || !go(below, belowNumber))
                 return false;
@@ -204,7 +250,7 @@ FileStamp FileStamp::of(const QString &path)
 {
     const Place place(path);
     if (place.isInArchive() && !place.inside.isEmpty()) {
-        const OpenArchive open = archiveAt(place.archive);
+        const OpenArchive open = archiveAt(place.archive, false); // it may be just being written
         const ZipEntry *entry = open.archive ? open.archive->file(place.inside) : nullptr;
         return entry ? FileStamp{entry->size, entry->checksum} : FileStamp();
     }
@@ -228,8 +274,18 @@ QString Files::archiveOf(const QString &path)
 
 QString Files::heldBy(const QString &path)
 {
-    const QString archive = archiveOf(path);
-    return archive.isEmpty() ? path : archive;
+    // By name: an archive that is away may come back.
+    for (int end = archiveNameEnd(path, 0); end >= 0; end = archiveNameEnd(path, end)) {
+        if (!QFileInfo(path.left(end)).isDir())
+            return path.left(end);
+    }
+    return path;
+}
+
+QString Files::folderOnDisk(const QString &folder)
+{
+    const QString held = heldBy(folder);
+    return isArchiveName(held) && !QFileInfo(held).isDir() ? QFileInfo(held).path() : folder;
 }
 
 QString Files::placeInArchive(const QString &path)
@@ -239,7 +295,20 @@ QString Files::placeInArchive(const QString &path)
 
 QString Files::archiveProblem(const QString &archive)
 {
-    return archiveAt(archive).reason;
+    return QFileInfo(archive).isFile() ? archiveAt(archive, false).reason : QString();
+}
+
+bool Files::isUnread(const QString &path)
+{
+    const QString archive = archiveOf(path);
+    if (archive.isEmpty())
+        return false;
+    const QFileInfo file(archive);
+    Kept &all = kept();
+    const QMutexLocker lock(&all.mutex);
+    const std::shared_ptr<Slot> *slot = all.archives.object(archive);
+    return !slot || (*slot)->size != file.size() ||
+           (*slot)->modified != file.lastModified().toMSecsSinceEpoch();
 }
 
 bool Files::isFile(const QString &path)
@@ -260,11 +329,11 @@ bool Files::isFolder(const QString &path)
     return open.archive && open.archive->folder(place.inside);
 }
 
-QString Files::trueCase(const QString &path)
+QString Files::trueCase(const QString &path, int from)
 {
     const Place place(path);
     if (!place.isInArchive()) {
-        const QString found = caseOnDisk(path);
+        const QString found = caseOnDisk(path, from);
         return found.isEmpty() ? path : found;
     }
     const OpenArchive open = archiveAt(place.archive);
@@ -319,7 +388,8 @@ QStringList Files::names(const QString &folder, Kind kind)
     for (const int each : kind == Kind::File ? found->files : found->folders) {
         const QString &path =
             kind == Kind::File ? open.archive->fileAt(each).path : open.archive->folderAt(each).path;
-        names.append(path.mid(path.lastIndexOf(QLatin1Char('/')) + 1));
+        if (!isHidden(path))
+            names.append(path.mid(path.lastIndexOf(QLatin1Char('/')) + 1));
     }
     names.sort();
     return names;

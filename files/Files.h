@@ -18,20 +18,25 @@ namespace Files {
 bool isArchiveName(const QString &path);
 /// The archive that a path leads into, or is; empty where it leads into none.
 QString archiveOf(const QString &path);
-/// The file on the disk that holds what a path leads to: the path itself, or its archive.
+/// The file on the disk that holds what a path leads to, or would: the path itself, or its archive.
 QString heldBy(const QString &path);
+/// The folder on the disk where a dialog may begin: the one given, or that in which its archive stands.
+QString folderOnDisk(const QString &folder);
 /// What a path leads to below its archive; empty for the archive itself and outside of any.
 QString placeInArchive(const QString &path);
-/// Why an archive cannot be read, which takes reading its directory; empty when it can.
+/// Why an archive cannot be read, which takes reading its directory; empty when it can, or is none.
 QString archiveProblem(const QString &archive);
+/// Whether the directory of the archive that a path leads into has yet to be read, so that asking for what is
+/// in it takes its time.
+bool isUnread(const QString &path);
 
 /// A file that can be read, or seems so: neither folder nor pipe.
 bool isFile(const QString &path);
 /// A folder, an archive that can be read, or a folder in one.
 bool isFolder(const QString &path);
 /// A path in the case in which folders and archive have it, where that is another one; else the path, also
-/// where there is nothing of that name.
-QString trueCase(const QString &path);
+/// where there is nothing of that name. The first `from` characters of what is on the disk stay.
+QString trueCase(const QString &path, int from = 0);
 
 /// A device that is open, with random access; null on failure. `reason`, if given, then says why, and is
 /// empty where there is no such file. What comes of an archive is never buffered twice.

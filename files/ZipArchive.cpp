@@ -14,17 +14,41 @@
 #include <cstring>
 
 namespace {
-/// As many threads as read at once keep their way into the archive.
+/// As many threads as read at once keep their way into the archive, but not where nobody could replace a file
+/// that is open.
+#ifdef Q_OS_WIN
+constexpr size_t MostIdle = 0;
+#else
 constexpr size_t MostIdle = 4;
+#endif
 constexpr int MostLeftOutNames = 5;
+constexpr int MostLeftOutBytes = 80;
 constexpr int MostFolders = ZipArchive::MostEntries;
 /// A header is read without unpacking all that follows it.
 constexpr qint64 StepBytes = 64 * 1024;
+/// So often it is looked at how much comes of how little.
+constexpr qint64 MostStepBytes = 4 * 1024 * 1024;
 
 struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(Archive)
 };
+
+/// Whether so much comes of so little as no file of a game does.
+bool isTooMuch(qint64 unpacked, qint64 packed)
+{
+    return unpacked > ZipArchive::FreeBytes && unpacked / ZipArchive::MostRatio > packed;
+}
+
+QString damage()
+{
+    return Texts::tr("It is damaged in its archive.");
+}
+
+QString tooMuch()
+{
+    return Texts::tr("It would unpack to more than %1 times its size.").arg(ZipArchive::MostRatio);
+}
 } // namespace
 
 /// What is behind ZipArchive::read().
@@ -60,23 +84,35 @@ protected:
 private:
     void unpackTo(qint64 end)
     {
-        if (!m_reader || (end <= m_unpacked.size() && m_size > 0))
-            return;
-        if (end > StepBytes)
+        if (end > StepBytes && m_reader)
             m_unpacked.reserve(int(m_size));
+        while (m_reader && (end > m_unpacked.size() || m_size == 0))
+            unpackStep(end);
+    }
+
+    void unpackStep(qint64 end)
+    {
         const qint64 before = m_unpacked.size();
-        const qint64 after = std::min(m_size, std::max(end, before + StepBytes));
+        const qint64 wantedEnd = std::min(std::max(end, before + StepBytes), before + MostStepBytes);
+        const qint64 after = std::min(m_size, wantedEnd);
         m_unpacked.resize(int(after));
         const int wanted = int(after - before);
-        const bool isShort = m_reader->read(m_unpacked.data() + before, wanted) != wanted;
-        // The checksum counts when all of it was read.
-        const bool isBroken = !isShort && after == m_size && !m_reader->leave();
-        if (isShort || isBroken) {
-            m_isFailed = true;
-            setErrorString(Texts::tr("It is damaged in its archive."));
+        QString error;
+        bool isInside = true;
+        if (m_reader->read(m_unpacked.data() + before, wanted) != wanted) {
+            error = damage();
+        } else if (isTooMuch(after, m_reader->taken())) {
+            error = tooMuch();
+        } else if (after == m_size) {
+            isInside = false;
+            if (!m_reader->leave()) // the checksum counts when all of it was read
+                error = damage();
         }
-        if (isShort || after == m_size)
-            letGo(isShort);
+        m_isFailed = !error.isEmpty();
+        if (m_isFailed)
+            setErrorString(error);
+        if (m_isFailed || !isInside)
+            letGo(isInside);
     }
 
     void letGo(bool isInside = true)
@@ -181,6 +217,10 @@ void ZipArchive::index(ZipReader &reader, QString &reason)
             return;
         }
         add(listed);
+        if (m_nameBytes > MostNameBytes) {
+            reason = Texts::tr("The names in the archive take more than %1 MiB.").arg(MostNameBytes >> 20);
+            return;
+        }
     }
     if (!isWhole)
         reason = Texts::tr("The archive is damaged: its directory ends after %1 entries.").arg(entries);
@@ -209,6 +249,7 @@ void ZipArchive::add(const ZipReader::Listed &listed)
     const int folder = slash < 0 ? 0 : folderFor(entry.path.left(slash));
     if (folder < 0 || m_folderByPath.contains(key))
         return leaveOut(listed.name);
+    countName(entry.path);
     m_fileByPath.insert(key, int(m_files.size()));
     m_folders[size_t(folder)].files.push_back(int(m_files.size()));
     m_files.push_back(std::move(entry));
@@ -218,7 +259,8 @@ void ZipArchive::leaveOut(const QByteArray &name)
 {
     ++m_leftOutCount;
     if (m_leftOut.size() < MostLeftOutNames)
-        m_leftOut.append(QString::fromLatin1(name.left(200)).replace(QChar(0), QLatin1Char('?')));
+        m_leftOut.append(
+            QString::fromLatin1(name.left(MostLeftOutBytes)).replace(QChar(0), QLatin1Char('?')));
 }
 
 /// The number of a folder, which comes to be with those around it; -1 where a file stands, or there are too
@@ -233,11 +275,17 @@ int ZipArchive::folderFor(const QString &path)
     const int around = slash < 0 ? 0 : folderFor(path.left(slash));
     if (around < 0 || m_fileByPath.contains(key) || m_folders.size() >= size_t(MostFolders))
         return -1;
+    countName(path);
     const int number = int(m_folders.size());
     m_folders[size_t(around)].folders.push_back(number);
     m_folders.push_back({path, {}, {}});
     m_folderByPath.insert(key, number);
     return number;
+}
+
+void ZipArchive::countName(const QString &path)
+{
+    m_nameBytes += 2 * qint64(sizeof(QChar)) * path.size(); // it and its key
 }
 
 const ZipEntry *ZipArchive::file(const QString &path) const
@@ -261,13 +309,15 @@ std::unique_ptr<QIODevice> ZipArchive::read(const ZipEntry &entry, QString &reas
         reason = Texts::tr("It is packed in a way that is not read (method %1).").arg(entry.method);
     else if (entry.size > MostBytes)
         reason = Texts::tr("It would unpack to more than %1 MiB.").arg(MostBytes >> 20);
-    else if (entry.size > FreeBytes && entry.size / MostRatio > entry.packed)
-        reason = Texts::tr("It would unpack to more than %1 times its size.").arg(MostRatio);
+    else if (entry.packed > (m_path.isEmpty() ? m_bytes.size() : m_size))
+        reason = damage();
+    else if (isTooMuch(entry.size, entry.packed))
+        reason = tooMuch();
     if (!reason.isEmpty())
         return nullptr;
     std::unique_ptr<ZipReader> reader = borrow();
     if (!reader || !reader->enter(entry)) {
-        reason = Texts::tr("It is damaged in its archive.");
+        reason = damage();
         return nullptr;
     }
     return std::make_unique<ZipEntryDevice>(shared_from_this(), std::move(reader), entry.size);

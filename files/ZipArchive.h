@@ -23,10 +23,12 @@ public:
     /// More entries make it none that is read.
     static constexpr int MostEntries = 200000;
     /// An entry may have this many bytes, and beyond FreeBytes be unpacked to no more than MostRatio times
-    /// what it takes in the archive.
+    /// what is read of the archive for it, whatever that says.
     static constexpr qint64 MostBytes = qint64(1) << 30;
     static constexpr qint64 FreeBytes = 64 * 1024 * 1024;
     static constexpr qint64 MostRatio = 200;
+    /// Of the names of files and folders in all, each with those around it; more make it none that is read.
+    static constexpr qint64 MostNameBytes = 64 * 1024 * 1024;
 
     struct Folder
     {
@@ -46,6 +48,8 @@ public:
     const ZipEntry &fileAt(int number) const { return m_files[size_t(number)]; }
     const Folder &folderAt(int number) const { return m_folders[size_t(number)]; }
     int count() const { return int(m_files.size()); }
+    /// What all names take in memory, about.
+    qint64 nameBytes() const { return m_nameBytes; }
     /// Entries whose names lead elsewhere, links, and what stands where a folder is: how many, and the first
     /// of their names.
     int leftOutCount() const { return m_leftOutCount; }
@@ -67,10 +71,12 @@ private:
     void add(const ZipReader::Listed &listed);
     void leaveOut(const QByteArray &name);
     int folderFor(const QString &path);
+    void countName(const QString &path);
 
     QString m_path;
     QByteArray m_bytes; ///< where there is no path
     qint64 m_size = 0;
+    qint64 m_nameBytes = 0;
     QDateTime m_changed;
     std::vector<ZipEntry> m_files;
     std::vector<Folder> m_folders;

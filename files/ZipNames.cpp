@@ -21,9 +21,11 @@ QString decodedName(const QByteArray &bytes, bool isUtf8)
     return isText || isUtf8 ? text : QString::fromLatin1(bytes);
 }
 
-bool hasDrive(const QString &name)
+/// The folder itself or the one around it, also as Windows reads ".. ".
+bool isOnlyDots(const QString &part)
 {
-    return name.size() >= 2 && name[1] == QLatin1Char(':') && name[0].isLetter();
+    return std::all_of(part.begin(), part.end(),
+                       [](QChar c) { return c == QLatin1Char('.') || c == QLatin1Char(' '); });
 }
 } // namespace
 
@@ -35,14 +37,15 @@ ZipName zipName(const QByteArray &bytes, bool isUtf8)
         return made;
     QString name = decodedName(bytes, isUtf8);
     name.replace(QLatin1Char('\\'), QLatin1Char('/'));
-    if (name.startsWith(QLatin1Char('/')) || hasDrive(name))
+    // A colon is of a drive or of a second stream of a file.
+    if (name.startsWith(QLatin1Char('/')) || name.contains(QLatin1Char(':')))
         return made;
     made.isFolder = name.endsWith(QLatin1Char('/'));
     const bool isPlain = !name.contains(QLatin1String("//")) && !name.contains(QLatin1Char('.'));
     QStringList parts = name.split(QLatin1Char('/'), Qt::SkipEmptyParts);
     if (!isPlain) {
         parts.removeAll(QStringLiteral("."));
-        if (parts.contains(QStringLiteral("..")))
+        if (std::any_of(parts.cbegin(), parts.cend(), isOnlyDots))
             return made;
     }
     if (parts.isEmpty() || parts.size() > MostZipFolders + 1)

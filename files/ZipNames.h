@@ -18,5 +18,6 @@ constexpr int MostZipFolders = 32;
 
 /// `isUtf8` is what the entry says of itself. Without that a name is UTF-8 all the same where its bytes are
 /// such a text, else Latin-1. Backslashes part folders, as the tools that write them mean it. Refused are
-/// "..", what begins at a root or a drive, names with a NUL, more than MostZipFolders folders and 1024 bytes.
+/// "..", what begins at a root, names with a colon, which may be of a drive, or a NUL, more than
+/// MostZipFolders folders and 1024 bytes.
 ZipName zipName(const QByteArray &bytes, bool isUtf8);

@@ -95,6 +95,7 @@ struct ZipReader::Handle
     Source source;
     unzFile zip = nullptr;
     quint64 listed = 0;
+    qint64 enteredAt = 0; ///< in the source
 };
 
 ZipReader::ZipReader()
@@ -167,10 +168,18 @@ bool ZipReader::enter(const ZipEntry &entry)
 {
     const unz64_file_pos place{entry.place, entry.number};
     unz_file_info64 info{};
-    return unzGoToFilePos64(m_handle->zip, &place) == UNZ_OK &&
-           unzGetCurrentFileInfo64(m_handle->zip, &info, nullptr, 0, nullptr, 0, nullptr, 0) == UNZ_OK &&
-           info.crc == entry.checksum && qint64(info.uncompressed_size) == entry.size &&
-           unzOpenCurrentFile(m_handle->zip) == UNZ_OK;
+    const bool isEntered =
+        unzGoToFilePos64(m_handle->zip, &place) == UNZ_OK &&
+        unzGetCurrentFileInfo64(m_handle->zip, &info, nullptr, 0, nullptr, 0, nullptr, 0) == UNZ_OK &&
+        info.crc == entry.checksum && qint64(info.uncompressed_size) == entry.size &&
+        unzOpenCurrentFile(m_handle->zip) == UNZ_OK;
+    m_handle->enteredAt = qint64(unzGetCurrentFileZStreamPos64(m_handle->zip));
+    return isEntered;
+}
+
+qint64 ZipReader::taken() const
+{
+    return m_handle->source.at - m_handle->enteredAt;
 }
 
 int ZipReader::read(char *to, int bytes)

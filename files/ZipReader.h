@@ -48,10 +48,12 @@ public:
     /// is where it should be.
     bool next(Listed &listed, bool &isWhole);
 
-    /// Goes to the contents of an entry. False when what stands there is none of that name and size.
+    /// Goes to the contents of an entry. False when what stands there has not its size and checksum.
     bool enter(const ZipEntry &entry);
     /// The next bytes of the contents, as many as wanted. -1 when they cannot be unpacked.
     int read(char *to, int bytes);
+    /// How many bytes of the archive were read for them, or a little more.
+    qint64 taken() const;
     /// Ends that; false when all was read and does not have the entry's checksum.
     bool leave();
 

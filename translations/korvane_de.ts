@@ -1033,13 +1033,6 @@ Kopftreffer verursachen also 640 Schaden.</translation>
 </context>
 <context>
     <name>Archive</name>
-    <message numerus="yes">
-        <source>&apos;%1&apos;: %n entries are left out, since their names lead elsewhere: %2</source>
-        <translation>
-            <numerusform>„%1“: %n Eintrag ist ausgelassen, weil sein Name woandershin führt: %2</numerusform>
-            <numerusform>„%1“: %n Einträge sind ausgelassen, weil ihre Namen woandershin führen: %2</numerusform>
-        </translation>
-    </message>
     <message>
         <source>It is damaged in its archive.</source>
         <translation>Sie ist in ihrem Archiv beschädigt.</translation>
@@ -1071,6 +1064,17 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <message>
         <source>It would unpack to more than %1 times its size.</source>
         <translation>Entpackt hätte sie mehr als das %1-Fache ihrer Größe.</translation>
+    </message>
+    <message numerus="yes">
+        <source>&apos;%1&apos;: %n entries are left out: links, and what has no place below the archive: %2</source>
+        <translation>
+            <numerusform>„%1“: %n Eintrag wurde ausgelassen, denn Verknüpfungen und was keinen Platz unter dem Archiv hat, wird nicht gelesen: %2</numerusform>
+            <numerusform>„%1“: %n Einträge wurden ausgelassen, denn Verknüpfungen und was keinen Platz unter dem Archiv hat, wird nicht gelesen: %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The names in the archive take more than %1 MiB.</source>
+        <translation>Die Namen im Archiv brauchen mehr als %1 MiB.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "DocumentFiles.h"
 
+#include "Files.h"
 #include "Log.h"
 #include "SavePath.h"
 
@@ -17,7 +18,7 @@ namespace {
 QString startFolder(const DocumentKind &kind, const SettingKey<QString> &lastFolder)
 {
     const QString folder = lastFolder.value();
-    return folder.isEmpty() ? kind.explorePath.value() : folder;
+    return folder.isEmpty() ? Files::folderOnDisk(kind.explorePath.value()) : folder;
 }
 
 /// Makes a folder, with those around it that are missing. Gives what was made, the innermost first.

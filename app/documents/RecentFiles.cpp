@@ -74,8 +74,8 @@ void RecentFiles::addFile(const DocumentKind &kind, const QString &path)
     QAction *action = m_menu.addAction(QDir::toNativeSeparators(text));
     action->setToolTip(QDir::toNativeSeparators(path));
     action->setStatusTip(action->toolTip());
-    // A file on a share that is away is not forgotten.
-    action->setEnabled(Files::isFile(path));
+    // A file on a share that is away is not forgotten. Archives are not read for that.
+    action->setEnabled(QFileInfo(Files::heldBy(path)).isFile());
     const DocumentType type = kind.type;
     connect(action, &QAction::triggered, this, [this, type, path] { open(type, path); });
 }

@@ -77,8 +77,12 @@ QString SaveGuard::modPath(const QString &path)
 {
     const QString place = placeInGame(path);
     const QString mod = Settings::OutputDir.value();
-    return place.isEmpty() || mod.isEmpty() || !QFileInfo(mod).isDir() ? QString()
-                                                                       : QDir(mod).filePath(place);
+    if (place.isEmpty() || mod.isEmpty() || !QFileInfo(mod).isDir())
+        return {};
+    QString path = QDir::cleanPath(mod);
+    for (const QString &part : place.split(QLatin1Char('/')))
+        path = Files::trueCase(QDir(path).filePath(part), path.size()); // beside what the mod has
+    return below(mod, path).isEmpty() ? QString() : path;
 }
 
 QString SaveGuard::allowed(const Document &document, const QString &path)

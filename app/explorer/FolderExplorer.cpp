@@ -240,7 +240,8 @@ void FolderExplorer::setFolder(const QString &folder)
 
 void FolderExplorer::changeFolder()
 {
-    const QString folder = m_chooseFolder(this, m_kind.folderTitle, m_kind.explorePath.value());
+    const QString folder =
+        m_chooseFolder(this, m_kind.folderTitle, Files::folderOnDisk(m_kind.explorePath.value()));
     if (!folder.isEmpty())
         setFolder(folder);
 }

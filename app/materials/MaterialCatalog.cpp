@@ -56,7 +56,7 @@ QVector<Material> listMaterials(const QString &gamePath, const QString &outputDi
 {
     const QString extension = QStringLiteral(".kmat");
     QVector<Material> materials;
-    QSet<QString> files; // relative, without the extension
+    QSet<QString> files; // relative, without the extension, in one case
     for (const QString &folder : {gamePath, outputDir}) {
         if (folder.isEmpty())
             continue;
@@ -66,9 +66,10 @@ QVector<Material> listMaterials(const QString &gamePath, const QString &outputDi
                 return !cancelled;
             const QString file = root.relativeFilePath(entry.path).chopped(extension.size());
             MaterialTable table;
-            if (files.contains(file))
+            const QString key = file.toCaseFolded(); // as it is looked up
+            if (files.contains(key))
                 return !cancelled;
-            files.insert(file);
+            files.insert(key);
             if (readKMat(entry.path, table).isEmpty()) {
                 for (const auto &[name, texture] : table) {
                     const QString path = file + QLatin1Char('/') + name;

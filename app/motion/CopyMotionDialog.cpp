@@ -4,6 +4,7 @@
 
 #include "Companions.h"
 #include "DocumentLoader.h"
+#include "Files.h"
 #include "Memory.h"
 #include "ModelNames.h"
 #include "MotionCommand.h"
@@ -21,7 +22,8 @@ namespace {
 QString chooseFile(QWidget *parent, const QString &title, DocumentType type, const QString &known)
 {
     const DocumentKind &kind = documentKind(type);
-    const QString last = kind.loadPath.value().isEmpty() ? kind.explorePath.value() : kind.loadPath.value();
+    const QString left = kind.loadPath.value();
+    const QString last = left.isEmpty() ? Files::folderOnDisk(kind.explorePath.value()) : left;
     const QString path =
         QFileDialog::getOpenFileName(parent, title, known.isEmpty() ? last : known, kind.filter);
     if (!path.isEmpty())

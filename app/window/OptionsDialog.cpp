@@ -101,7 +101,8 @@ void OptionsDialog::on_buttonBox_accepted()
 
 void OptionsDialog::on_btnGame_clicked()
 {
-    const QString folder = m_chooseFolder(this, tr("game.kpf unzipped folder"), m_ui->txtGamePath->text());
+    const QString folder = m_chooseFolder(this, tr("game.kpf unzipped folder"),
+                                          Files::folderOnDisk(normalizedFolder(m_ui->txtGamePath->text())));
     if (!folder.isEmpty())
         setGamePath(folder);
 }

@@ -4,10 +4,12 @@
 #include "FileSearch.h"
 #include "FileStamp.h"
 #include "Files.h"
+#include "Log.h"
 #include "TestArchive.h"
 #include "TestSupport.h"
 #include "ZipArchive.h"
 
+#include <filesystem>
 #include <thread>
 
 Q_DECLARE_METATYPE(TestArchive::Entry)
@@ -130,6 +132,9 @@ private slots:
         row("server", "\\\\server\\x");
         row("drive", "C:\\x.txt");
         row("drive's own", "c:x.txt");
+        row("drive behind a dot", "./C:/x.txt");
+        row("drive below", "a/C:/x.txt");
+        row("up for Windows", "a/.. /x.txt");
         row("NUL", QByteArray("a\0b.txt", 7));
         row("link", "link", 0120777U << 16);
         row("deep", QByteArray("d/").repeated(40) + "x");
@@ -184,6 +189,8 @@ private slots:
         row("no packed bytes", {"x", "no deflated bytes at all", false, 0, 8}, damaged);
         row("bomb", {"x", bytes, true, 0, 0xffff, 80LL << 20},
             "It would unpack to more than 200 times its size.");
+        row("packed in more than there is", {"x", bytes, true, 0, 0xffff, 80LL << 20, 0, 0, 1 << 30},
+            damaged);
         row("huge", {"x", bytes, true, 0, 0xffff, 0xfffffffe}, "It would unpack to more than 1024 MiB.");
     }
     void refusesContents()
@@ -197,6 +204,21 @@ private slots:
         QVERIFY(archive);
         QCOMPARE(QString::fromUtf8(contents(*archive, "x")), reason);
         QCOMPARE(contents(*archive, "good.txt"), QByteArray("good"));
+    }
+
+    /// What counts is what is read, not what the archive says that it will be.
+    void stopsBombsThatLie()
+    {
+        TestArchive made;
+        made.add({"room", noise(1 << 20), false});
+        made.add({"x", QByteArray(100 << 20, '\0'), true, 0, 0xffff, -1, 0, 0, 700 << 10});
+        const auto archive = opened(made);
+        QString reason;
+        const auto device = archive->read(*archive->file("x"), reason);
+        QVERIFY2(device, qPrintable(reason));
+        QCOMPARE(device->read(1000), QByteArray(1000, '\0'));
+        QVERIFY(device->readAll().size() < 70 << 20);
+        QCOMPARE(device->errorString(), QString("It would unpack to more than 200 times its size."));
     }
 
     void refusesArchives()
@@ -236,6 +258,40 @@ private slots:
             many.add({"more/" + QByteArray::number(i), {}, false});
         QVERIFY(!ZipArchive::open(many.bytes(), reason));
         QCOMPARE(reason, QString("The archive has more than 200000 entries."));
+
+        // Few of them may be of many folders.
+        TestArchive deep;
+        for (int i = 0; i < 2000; ++i) {
+            const QByteArray part = QByteArray::number(i + 10000).repeated(6) + '/';
+            deep.add({part.repeated(30) + "x", {}, false});
+        }
+        QVERIFY(!ZipArchive::open(deep.bytes(), reason));
+        QCOMPARE(reason, QString("The names in the archive take more than 64 MiB."));
+    }
+
+    /// The console belongs to one thread, and is told once whoever asks first.
+    void tellsInTheThreadOfTheConsole()
+    {
+        TestFolder folder;
+        const QString bad = folder.path("bad.kpf");
+        QVERIFY(TestSupport::writeFile(bad, "no archive"));
+        QStringList lines;
+        bool isElsewhere = false;
+        Log::setSink([&, own = std::this_thread::get_id()](LogSeverity, const QString &text) {
+            isElsewhere = isElsewhere || std::this_thread::get_id() != own;
+            lines.append(text);
+        });
+        QVERIFY(!FileStamp::of(bad + "/x").exists());
+        std::thread([&] {
+            const HeldLog log; // of work that is thrown away
+            (void)Files::isFolder(bad);
+        }).join();
+        QCoreApplication::processEvents();
+        (void)Files::isFolder(bad);
+        Log::setSink({});
+        QVERIFY(!isElsewhere);
+        QCOMPARE(lines.size(), 1);
+        QVERIFY(lines.first().endsWith("bad.kpf': It is no zip archive that can be read."));
     }
 
     /// Paths through an archive are those through a folder.
@@ -246,6 +302,8 @@ private slots:
         made.add("models/Knight.skinnedmesh", "bytes");
         made.add("anims/a/walk.anim", "walk");
         made.add("anims/b.anim", "b");
+        made.add("anims/._b.anim", "hidden");
+        made.add("anims/.hidden/c.anim", "c");
         const QString archive = folder.path("game.kpf");
         QVERIFY(made.write(archive));
         const QString knight = archive + "/models/knight.skinnedmesh";
@@ -257,7 +315,8 @@ private slots:
         QCOMPARE(Files::archiveOf(knight), archive);
         QCOMPARE(Files::heldBy(knight), archive);
         QCOMPARE(Files::placeInArchive(knight), QString("models/knight.skinnedmesh"));
-        QVERIFY(Files::archiveOf(folder.path("other.kpf/x")).isEmpty()); // there is none
+        QVERIFY(Files::archiveOf(folder.path("other.kpf/x")).isEmpty());               // there is none
+        QCOMPARE(Files::heldBy(folder.path("other.kpf/x")), folder.path("other.kpf")); // or not yet
         QCOMPARE(Files::read(knight, 100), QByteArray("bytes"));
         QCOMPARE(Files::read(knight, 4), QByteArray());
         QCOMPARE(Files::names(archive, Files::Kind::Folder), QStringList({"anims", "models"}));
@@ -321,6 +380,18 @@ private slots:
         // A folder that changes is read anew.
         QVERIFY(QFile::rename(mod + "/Textures/Own.PNG", mod + "/Textures/OWN.png"));
         QCOMPARE(search.find("textures/own.png"), mod + "/Textures/OWN.png");
+        // Also when it changes again in the same tick of its clock.
+        namespace fs = std::filesystem;
+        const fs::path textures((mod + "/Textures").toStdString());
+        const auto tick = fs::file_time_type::clock::now() - std::chrono::milliseconds(1000);
+        fs::last_write_time(textures, tick);
+        QCOMPARE(search.find("textures/late.png"), QString());
+        QVERIFY(TestSupport::writeFile(mod + "/Textures/Late.png", "mod"));
+        fs::last_write_time(textures, tick);
+        QTest::qWait(1200);
+        QCOMPARE(search.find("textures/late.png"), mod + "/Textures/Late.png");
+        // The folders themselves are those that were named.
+        QCOMPARE(FileSearch(folder.path("MOD"), {}).find("textures/own.png"), QString());
 #endif
     }
 

@@ -24,6 +24,7 @@ public:
         qint64 size = -1;        ///< that it says it has, unpacked
         quint32 checksumError = 0;
         quint32 attributes = 0;
+        qint64 packed = -1; ///< that it says it takes
     };
 
     void add(const Entry &entry)
@@ -37,7 +38,7 @@ public:
         put<quint16>(common, method);
         put<quint32>(common, 0x5a214000); // of the clock
         put<quint32>(common, crc32(entry.bytes) ^ entry.checksumError);
-        put<quint32>(common, quint32(packed.size()));
+        put<quint32>(common, quint32(entry.packed < 0 ? packed.size() : entry.packed));
         put<quint32>(common, size);
         put<quint16>(common, quint16(entry.name.size()));
         put<quint16>(common, 0);

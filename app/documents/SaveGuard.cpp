@@ -79,10 +79,10 @@ QString SaveGuard::modPath(const QString &path)
     const QString mod = Settings::OutputDir.value();
     if (place.isEmpty() || mod.isEmpty() || !QFileInfo(mod).isDir())
         return {};
-    QString path = QDir::cleanPath(mod);
+    QString there = QDir::cleanPath(mod);
     for (const QString &part : place.split(QLatin1Char('/')))
-        path = Files::trueCase(QDir(path).filePath(part), path.size()); // beside what the mod has
-    return below(mod, path).isEmpty() ? QString() : path;
+        there = Files::trueCase(QDir(there).filePath(part), there.size()); // beside what the mod has
+    return below(mod, there).isEmpty() ? QString() : there;
 }
 
 QString SaveGuard::allowed(const Document &document, const QString &path)

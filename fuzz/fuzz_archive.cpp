@@ -18,7 +18,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         return 0;
     for (int number = 0; number < archive->count() && number < MostRead; ++number) {
         const ZipEntry &entry = archive->fileAt(number);
-        Fuzz::require(!entry.path.startsWith('/') && !("/" + entry.path + "/").contains("/../"),
+        Fuzz::require(!entry.path.startsWith('/') && !entry.path.contains(':') &&
+                          !("/" + entry.path + "/").contains("/../"),
                       "no name leads out of the archive");
         Fuzz::require(archive->file(entry.path) == &entry, "what is listed is found");
         const auto device = archive->read(entry, reason);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "FileWatch.h"
 
+#include "Files.h"
 #include "WatchedPaths.h"
 
 #include <QGuiApplication>
@@ -15,7 +16,9 @@ FileWatch::FileWatch(const std::array<Document *, 3> &documents, QObject *parent
         track.document = documents[i];
         track.rest.setSingleShot(true);
         track.rest.setInterval(RestMs);
-        connect(&track.rest, &QTimer::timeout, this, [this, &track] { lookAgain(track); });
+        connect(&track.rest, &QTimer::timeout, this, [this, &track] {
+            track.ahead.read({track.document->path()}, [this, &track] { lookAgain(track); });
+        });
         connect(track.document, &Document::replaced, this, [this, &track] { startAnew(track); });
         connect(track.document, &Document::saved, this, [this, &track] { startAnew(track); });
         connect(track.document, &Document::restored, this, [&track] {
@@ -52,10 +55,15 @@ void FileWatch::startAnew(Track &track)
 void FileWatch::check()
 {
     watchPaths();
-    for (Track &track : m_tracks) {
-        if (!track.document->path().isEmpty())
-            look(track);
-    }
+    QStringList paths;
+    for (const Track &track : m_tracks)
+        paths.append(track.document->path());
+    m_ahead.read(paths, [this] {
+        for (Track &track : m_tracks) {
+            if (!track.document->path().isEmpty())
+                look(track);
+        }
+    });
 }
 
 void FileWatch::look(Track &track)
@@ -79,6 +87,9 @@ void FileWatch::lookAgain(Track &track)
         return;
     }
     watchPaths();
+    // Whoever writes an archive in place comes to its directory last.
+    if (!now.exists() && !Files::archiveProblem(Files::archiveOf(track.document->path())).isEmpty())
+        return;
     if (now == track.document->fileStamp())
         return startAnew(track);
     track.told = now;

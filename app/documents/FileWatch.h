@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ArchivesAhead.h"
 #include "Document.h"
 
 #include <QFileSystemWatcher>
@@ -22,7 +23,7 @@ public:
     /// `documents` in the order of documentKinds().
     explicit FileWatch(const std::array<Document *, 3> &documents, QObject *parent = nullptr);
 
-    /// Looks at all files now, for changes that no notification tells of.
+    /// Looks at all files, for changes that no notification tells of: now, or when their archives are read.
     void check();
 
 signals:
@@ -39,6 +40,7 @@ private:
         FileStamp told; ///< what was last told of
         bool isTold = false;
         QTimer rest;
+        ArchivesAhead ahead;
     };
 
     void watchPaths();
@@ -48,4 +50,5 @@ private:
 
     std::array<Track, 3> m_tracks;
     QFileSystemWatcher m_watcher;
+    ArchivesAhead m_ahead;
 };

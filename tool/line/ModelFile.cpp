@@ -85,6 +85,9 @@ QStringList filesBelow(const QString &path, bool (*wanted)(const QString &path))
 QString readFile(const QString &path, FileContent &content)
 {
     content = std::monostate();
+    const QString problem = Files::archiveProblem(Files::archiveOf(path));
+    if (!problem.isEmpty())
+        return problem;
     const bool isFile = Files::isFile(path);
     if (!isFile && Files::isFolder(path))
         return QStringLiteral("This is a folder.");

@@ -5,6 +5,7 @@
 #include "OneRun.h"
 #include "ReloadPrompt.h"
 #include "SampleModels.h"
+#include "TestArchive.h"
 
 namespace {
 SkinnedMesh manWithFactor(int factor)
@@ -206,6 +207,26 @@ private slots:
         QCOMPARE(factor(), 2);
         // As the question promised.
         QCOMPARE(m_run->recovery->snapshots().size(), 1);
+    }
+
+    /// Another one in the place of an archive is its folder's to tell of; one that is being written is waited
+    /// for.
+    void archivesGoAndComeBack()
+    {
+        TestArchive made;
+        made.add("models/man.skinnedmesh", SampleModels::bytesOf(manWithFactor(1)));
+        const QString archive = m_folder->path(QStringLiteral("game.kpf"));
+        QVERIFY(made.write(archive));
+        m_run->openMesh(archive + "/models/man.skinnedmesh");
+        tick();
+        m_folder->put("game.kpf", made.bytes().left(200));
+        QTest::qWait(3 * FileWatch::RestMs);
+        QVERIFY(m_bar->isHidden());
+        QVERIFY(QFile::remove(archive));
+        QTRY_VERIFY(m_bar->isVisible());
+        QVERIFY(made.write(archive));
+        QTRY_VERIFY(m_bar->isHidden());
+        QVERIFY(!m_run->mesh.isModified());
     }
 
     void aFileThatCannotBeReadChangesNothing()

@@ -25,7 +25,7 @@ constexpr int MostListings = 512;
 /// A folder that has changed a moment ago may change again without another time.
 constexpr qint64 RestMs = 2000;
 
-struct Texts
+struct FilesTexts
 {
     Q_DECLARE_TR_FUNCTIONS(Archive)
 };
@@ -123,7 +123,7 @@ LogLine lineAbout(const QString &path, const OpenArchive &open)
     if (count == 0)
         return {LogSeverity::Warning, {}};
     return {LogSeverity::Warning,
-            Texts::tr("'%1': %n entries are left out: links, and what has no place below the archive: %2",
+            FilesTexts::tr("'%1': %n entries are left out: links, and what has no place below the archive: %2",
                       nullptr, count)
                 .arg(native, open.archive->leftOut().join(QLatin1String(", ")))};
 }

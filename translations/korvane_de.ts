@@ -2007,7 +2007,7 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
     <message>
         <source>Yaw</source>
-        <translation>Gierwinkel</translation>
+        <translation>Gierversatz</translation>
     </message>
 </context>
 <context>
@@ -2157,7 +2157,7 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
     <message>
         <source>also followed by bone %1</source>
-        <translation>auch Knochen %1 folgt diesen Spuren</translation>
+        <translation>Spuren auch von Knochen %1 genutzt</translation>
     </message>
     <message>
         <source>No key selected</source>

@@ -162,6 +162,7 @@ void CurvesDock::createValue(QHBoxLayout *bar)
     m_value->setRecords(std::move(records));
     connect(m_value, &FloatSpinBox::valueEdited, this, [this](float value) { m_edits->set(double(value)); });
     bar->addWidget(m_key);
+    bar->addSpacing(4);
     bar->addWidget(m_value);
 }
 

@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "MotionOnView.h"
 
-#include "Playback.h"
-
 #include <algorithm>
+#include <utility>
 
 MotionOnView::MotionOnView(const AnimFile &anim)
     : m_anim(anim)
@@ -13,7 +12,8 @@ MotionOnView::MotionOnView(const AnimFile &anim)
 
 void MotionOnView::show(const std::vector<Motion::BlockChange> &changes)
 {
-    const int index = playback().blockIndex;
+    Playback &state = playback();
+    const int index = state.blockIndex;
     const auto found =
         std::find_if(changes.begin(), changes.end(), [index](const Motion::BlockChange &change) {
             return change.changes && change.index == index;
@@ -25,13 +25,22 @@ void MotionOnView::show(const std::vector<Motion::BlockChange> &changes)
     lent->blocks.resize(size_t(index) + 1);
     lent->blocks.front().nodes = m_anim.blocks.front().nodes; // by which a mesh is told to be its own
     lent->blocks.back() = found->block;
-    playback().anim = lent.get();
+    if (!m_lent) {
+        m_range = state.range;
+        m_time = state.time;
+    }
+    state.anim = lent.get();
+    state.range = {}; // of frames that are others now, or are there no more
     m_lent = std::move(lent);
 }
 
 void MotionOnView::giveBack()
 {
-    if (m_lent)
-        playback().anim = &m_anim;
-    m_lent.reset();
+    if (!std::exchange(m_lent, nullptr))
+        return;
+    Playback &state = playback();
+    state.anim = &m_anim;
+    state.range = m_range;
+    if (state.playState != PlayState::Playing)
+        state.time = m_time;
 }

@@ -4,12 +4,13 @@
 
 #include "AnimFile.h"
 #include "MotionCommand.h"
+#include "Playback.h"
 
 #include <memory>
 #include <vector>
 
 /// Has the view play what a command would make of the animation that it plays, while somebody decides. The
-/// document does not come into it: the view is lent another file.
+/// document does not come into it: the view is lent another file, all of whose frames play.
 class MotionOnView
 {
 public:
@@ -26,4 +27,6 @@ private:
     const AnimFile &m_anim;
     const bool m_plays;
     std::unique_ptr<AnimFile> m_lent;
+    FrameRange m_range; ///< that played before
+    float m_time = 0.0f;
 };

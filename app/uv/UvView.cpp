@@ -60,8 +60,11 @@ void UvView::forgetPicture()
 
 void UvView::fit()
 {
-    const QRectF reachable(-FarAway, -FarAway, 2 * FarAway, 2 * FarAway);
-    m_scale.bring(QRectF(0, 0, 1, 1) | (map().bounds() & reachable), size());
+    // Bounds may have no width or no height, which would be none to a rectangle's operators.
+    const QRectF bounds = map().bounds();
+    const QPointF low(std::clamp(bounds.left(), -FarAway, 0.0), std::clamp(bounds.top(), -FarAway, 0.0));
+    const QPointF high(std::clamp(bounds.right(), 1.0, FarAway), std::clamp(bounds.bottom(), 1.0, FarAway));
+    m_scale.bring(QRectF(low, high), size());
     m_isFitted = true;
     forgetPicture();
 }
@@ -294,8 +297,18 @@ void UvView::leaveEvent(QEvent *event)
     emit left();
 }
 
+void UvView::focusOutEvent(QFocusEvent *event)
+{
+    QWidget::focusOutEvent(event);
+    if (m_gesture != Gesture::None)
+        endGesture(); // a menu or another window has the mouse
+}
+
 void UvView::keyPressEvent(QKeyEvent *event)
 {
+    // What is not shown is not moved, either.
+    if (!m_emptyText.isEmpty() && m_gesture == Gesture::None)
+        return QWidget::keyPressEvent(event);
     const QPointF middle = QRectF(rect()).center();
     switch (event->key()) {
     case Qt::Key_Escape:

@@ -224,6 +224,18 @@ private slots:
     {
         select(*m_window, "treeAnim", {{RecordKind::AnimBlock, {0}}});
         emit find<ActionTrack>(*m_window, "actionTrack")->rangeChanged(3, 7);
+        // The view plays what would be left, of which the range says nothing; then the range again.
+        {
+            Hand looking({[this](QDialog *dialog) {
+                const Closing closing(dialog);
+                QVERIFY(playback().anim != &document().model());
+                QVERIFY(playback().range.isEmpty());
+                QTest::keyClick(dialog, Qt::Key_Escape);
+            }});
+            trigger("actionAnimTrim");
+        }
+        QCOMPARE(playback().range.first, 3);
+        QCOMPARE(playback().range.last, 7);
         Hand hand({[](QDialog *dialog) {
             const Closing closing(dialog);
             QCOMPARE(find<IntSpinBox>(*dialog, "sbFirst")->value(), 3);

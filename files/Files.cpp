@@ -122,10 +122,11 @@ LogLine lineAbout(const QString &path, const OpenArchive &open)
     const int count = open.archive->leftOutCount();
     if (count == 0)
         return {LogSeverity::Warning, {}};
-    return {LogSeverity::Warning,
-            FilesTexts::tr("'%1': %n entries are left out: links, and what has no place below the archive: %2",
-                      nullptr, count)
-                .arg(native, open.archive->leftOut().join(QLatin1String(", ")))};
+    return {
+        LogSeverity::Warning,
+        FilesTexts::tr("'%1': %n entries are left out: links, and what has no place below the archive: %2",
+                       nullptr, count)
+            .arg(native, open.archive->leftOut().join(QLatin1String(", ")))};
 }
 
 /// With `tells`, the console is told once of what is wrong with a state of the archive.

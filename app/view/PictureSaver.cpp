@@ -12,6 +12,7 @@
 #include "Playback.h"
 #include "SavePath.h"
 #include "Settings.h"
+#include "TurntableTool.h"
 
 #include <QAction>
 #include <QDir>
@@ -46,6 +47,7 @@ void PictureSaver::setSource(KVOpenGLWidget *viewport, const QString &name)
 
 void PictureSaver::on_actionSavePicture_triggered()
 {
+    m_viewport->tools().turntable->stop(); // what is seen now is saved
     PictureSubject subject;
     subject.viewSize = m_viewport->size() * m_viewport->devicePixelRatioF();
     subject.name = FileNames::portable(QFileInfo(m_name).completeBaseName());

@@ -259,6 +259,14 @@ QString ShortcutsPage::titles(const QVector<int> &commands) const
     return all.join(tr(" and "));
 }
 
+bool ShortcutsPage::hasKeypadKeys() const
+{
+    const int current = currentCommand();
+    const Keys defaults = current < 0 ? Keys() : m_shortcuts.commands()[current].defaults;
+    return std::any_of(defaults.begin(), defaults.end(),
+                       [](const QKeySequence &each) { return (each[0] & int(Qt::KeypadModifier)) != 0; });
+}
+
 bool ShortcutsPage::eventFilter(QObject *watched, QEvent *event)
 {
     const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event)->key() : 0;
@@ -275,6 +283,14 @@ bool ShortcutsPage::eventFilter(QObject *watched, QEvent *event)
     if (watched == m_ui->treeShortcuts && isReturn) {
         m_ui->editShortcutKeys->setFocus();
         return true;
+    }
+    // The field takes a keypad's key for any other; only some commands tell them apart.
+    if (watched == m_ui->editShortcutKeys && key != 0 && hasKeypadKeys()) {
+        const auto modifiers = static_cast<QKeyEvent *>(event)->modifiers();
+        if ((modifiers & Qt::KeypadModifier) != 0) {
+            change({QKeySequence(int(modifiers) | key)});
+            return true;
+        }
     }
     // The field itself waits a second for more keys.
     if (watched == m_ui->editShortcutKeys && event->type() == QEvent::FocusOut)

@@ -41,6 +41,7 @@ private:
     void change(const Keys &keys);
     void takeOver();
     int currentCommand() const;
+    bool hasKeypadKeys() const; ///< the current command, usually
     QString title(int command) const;
     QString titles(const QVector<int> &commands) const;
 

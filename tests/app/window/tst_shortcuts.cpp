@@ -63,6 +63,11 @@ private slots:
                                  QCOMPARE(row(dialog), QStringLiteral("About Korvane|"));
                                  typeKeys(dialog, Qt::Key_F9, Qt::ControlModifier);
                                  QCOMPARE(row(dialog), QStringLiteral("About Korvane|Ctrl+F9"));
+                                 // A keypad's key is one of its own where such are usual.
+                                 choose(dialog, QStringLiteral("num+5"));
+                                 typeKeys(dialog, Qt::Key_9, Qt::KeypadModifier);
+                                 QVERIFY(row(dialog).endsWith(QStringLiteral("|Num+9")));
+                                 find<QPushButton>(*dialog, "btnShortcutReset")->click();
                                  // Shift alone is no key, and another command's keys are its own.
                                  choose(dialog, QStringLiteral("full screen"));
                                  QTest::keyClick(find<QKeySequenceEdit>(*dialog, "editShortcutKeys"),

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "TextureWatch.h"
 
+#include "FileSearch.h"
 #include "KVOpenGLWidget.h"
 #include "MaterialFiles.h"
 #include "Settings.h"
@@ -31,27 +32,29 @@ QStringList shownMaterials(const ModelDocument<Model> &document)
     return materials;
 }
 
-QMap<QString, FileStamp> filesOf(const QStringList &materialPaths)
+QStringList namesOf(const QStringList &materialPaths)
 {
     MaterialFiles materials(Settings::GamePath.value(), Settings::OutputDir.value());
-    QMap<QString, FileStamp> files;
-    const auto add = [&](const QString &relativePath) {
-        for (const QString &path : materials.candidates(relativePath))
-            files.insert(path, FileStamp::of(path));
-    };
+    QStringList names;
     for (const QString &materialPath : materialPaths) {
-        add(QFileInfo(materialPath).path() + QStringLiteral(".kmat"));
+        names.append(QFileInfo(materialPath).path() + QStringLiteral(".kmat"));
         const QString texture = materials.find(materialPath).texture;
         if (!texture.isEmpty() && texture != MaterialFiles::Blank)
-            add(texture);
+            names.append(texture);
     }
-    return files;
+    names.removeDuplicates();
+    return names;
 }
 
-QMap<QString, FileStamp> stampsNow(QMap<QString, FileStamp> files)
+/// Looked up anew: what comes may be called in another case than it is named.
+QMap<QString, FileStamp> stampsNow(const QStringList &names)
 {
-    for (auto file = files.begin(); file != files.end(); ++file)
-        *file = FileStamp::of(file.key());
+    const FileSearch search(Settings::GamePath.value(), Settings::OutputDir.value());
+    QMap<QString, FileStamp> files;
+    for (const QString &name : names) {
+        for (const QString &path : search.candidates(name))
+            files.insert(path, FileStamp::of(path));
+    }
     return files;
 }
 } // namespace
@@ -59,8 +62,8 @@ QMap<QString, FileStamp> stampsNow(QMap<QString, FileStamp> files)
 TextureWatch::TextureWatch(const SkinnedMeshDocument &skinned, const StaticMeshDocument &rigid,
                            const Viewports &viewports, QObject *parent)
     : QObject(parent)
-    , m_shown{{{viewports[0], [&skinned] { return shownMaterials(skinned); }, {}, {}, {}},
-               {viewports[1], [&rigid] { return shownMaterials(rigid); }, {}, {}, {}}}}
+    , m_shown{{{viewports[0], [&skinned] { return shownMaterials(skinned); }, {}, {}, {}, {}},
+               {viewports[1], [&rigid] { return shownMaterials(rigid); }, {}, {}, {}, {}}}}
 {
     m_collect.setSingleShot(true);
     connect(&m_collect, &QTimer::timeout, this, &TextureWatch::collect);
@@ -102,7 +105,8 @@ void TextureWatch::collect()
             continue;
         each.listed = std::move(materials);
         // What is not drawn anew may have changed since it was.
-        const auto drawn = std::exchange(each.files, filesOf(each.listed));
+        each.names = namesOf(each.listed);
+        const auto drawn = std::exchange(each.files, stampsNow(each.names));
         for (auto file = drawn.begin(); file != drawn.end(); ++file) {
             const auto known = each.files.find(file.key());
             if (known != each.files.end())
@@ -127,9 +131,14 @@ void TextureWatch::watchPaths()
 void TextureWatch::look()
 {
     watchPaths();
+    m_ahead.read({Settings::GamePath.value(), Settings::OutputDir.value()}, [this] { lookNow(); });
+}
+
+void TextureWatch::lookNow()
+{
     bool isChanged = false, rests = true;
     for (Shown &each : m_shown) {
-        auto now = stampsNow(each.files);
+        auto now = stampsNow(each.names);
         isChanged = isChanged || now != each.files;
         rests = rests && now == each.seen;
         each.seen = std::move(now);
@@ -145,7 +154,8 @@ void TextureWatch::reload()
     m_rest.stop();
     for (Shown &each : m_shown) {
         each.listed = each.materials();
-        each.files = filesOf(each.listed);
+        each.names = namesOf(each.listed);
+        each.files = stampsNow(each.names);
     }
     watchPaths();
     for (const Shown &each : m_shown)

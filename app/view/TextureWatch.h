@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ArchivesAhead.h"
 #include "Document.h"
 #include "ViewportAction.h"
 
@@ -39,7 +40,8 @@ private:
         KVOpenGLWidget *viewport;
         std::function<QStringList()> materials;
         QStringList listed; ///< of the materials
-        /// Where these and their textures are, or would be, as they were drawn.
+        QStringList names;  ///< of their files and textures, relative to game and mod
+        /// Where these are, or would be, as they were drawn.
         QMap<QString, FileStamp> files;
         QMap<QString, FileStamp> seen; ///< the same at the last look
     };
@@ -48,9 +50,11 @@ private:
     void collect();
     void watchPaths();
     void look();
+    void lookNow();
 
     std::array<Shown, 2> m_shown;
     QTimer m_collect;
     QTimer m_rest;
     QFileSystemWatcher m_watcher;
+    ArchivesAhead m_ahead;
 };

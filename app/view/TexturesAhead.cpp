@@ -4,6 +4,7 @@
 
 #include "DocumentKind.h"
 #include "FileStamp.h"
+#include "Files.h"
 #include "MaterialFiles.h"
 #include "Settings.h"
 #include "SkinnedMesh.h"
@@ -73,6 +74,7 @@ TexturesAhead::TexturesAhead(const QStringList &paths)
                         [this, skinned = lastOfKind(paths, DocumentType::SkinnedMesh),
                          rigid = lastOfKind(paths, DocumentType::StaticMesh),
                          gamePath = Settings::GamePath.value(), outputDir = Settings::OutputDir.value()] {
+                            (void)Files::isFolder(gamePath); // the window asks for what is in it soon
                             qint64 room = TextureImages::Room;
                             loadTextures(materialsOf(skinned) + materialsOf(rigid), {gamePath, outputDir},
                                          m_stopped, room, decodeNow);

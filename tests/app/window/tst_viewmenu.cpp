@@ -306,9 +306,9 @@ private slots:
             return countPixels(view->grabFramebuffer(), color) > 100;
         };
         QTRY_VERIFY(shows(Qt::white));
-        paint("missing.png", Qt::red); // is there now
+        paint("Missing.png", Qt::red); // is there now, in another case than it is named
         QTRY_VERIFY(shows(Qt::red));
-        paint("missing.png", Qt::green);
+        paint("Missing.png", Qt::green);
         QTRY_VERIFY(shows(Qt::green));
         paint("other.png", Qt::yellow);
         use("other.png");

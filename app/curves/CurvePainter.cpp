@@ -96,7 +96,7 @@ void paintValues(const Drawing &on, CurveUnit unit, bool isLeft)
         if (room.top() < plot.top() - 4)
             continue;
         on.painter.setPen(on.palette.color(QPalette::PlaceholderText));
-        on.painter.drawText(room, (isLeft ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter,
+        on.painter.drawText(room, int((isLeft ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter),
                             curveNumber(value, unit));
     }
 }

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "Files.h"
 
+#include "CaseOnDisk.h"
 #include "FileStamp.h"
-#include "FileSystem.h"
 #include "Log.h"
 #include "ZipArchive.h"
 
@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QMutex>
 
 #include <algorithm>
 #include <utility>
@@ -21,9 +22,6 @@ namespace {
 constexpr int MostArchives = 4;
 /// With names of more than this an archive counts as two, and so on.
 constexpr qint64 BytesAsOne = ZipArchive::MostNameBytes / 2;
-constexpr int MostListings = 512;
-/// A folder that has changed a moment ago may change again without another time.
-constexpr qint64 RestMs = 2000;
 
 struct FilesTexts
 {
@@ -48,20 +46,10 @@ struct Slot
     OpenArchive held;
 };
 
-/// The names in a folder by what they are in one case.
-struct Listing
-{
-    qint64 modified = 0;
-    bool isRested = false; ///< the folder had not changed for RestMs when it was listed
-    QHash<QString, QString> names;
-};
-
 struct Kept
 {
     QMutex mutex; ///< held while nothing is read; taken last
     QCache<QString, std::shared_ptr<Slot>> archives{MostArchives};
-    QMutex listingMutex;
-    QCache<QString, Listing> listings{MostListings};
 };
 
 /// Never destroyed: a thread may still read when the window system ends the program.
@@ -164,43 +152,6 @@ OpenArchive archiveAt(const QString &path, bool tells = true)
     if (!line.text.isEmpty())
         Log::sayInTime(line.severity, line.text);
     return open;
-}
-
-/// What a folder calls a name that is given in any case; empty when nothing there is called so.
-QString nameIn(const QString &folder, const QString &name)
-{
-    const qint64 modified = QFileInfo(folder).lastModified().toMSecsSinceEpoch();
-    Kept &all = kept();
-    const QMutexLocker lock(&all.listingMutex);
-    const Listing *known = all.listings.object(folder);
-    const bool rests = QDateTime::currentMSecsSinceEpoch() - modified > RestMs;
-    if (known && known->modified == modified && known->isRested)
-        return known->names.value(name.toCaseFolded());
-    auto *made = new Listing{modified, rests, {}};
-    const QStringList there = QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name);
-    for (const QString &each : there)
-        made->names.insert(each.toCaseFolded(), each);
-    const QString found = made->names.value(name.toCaseFolded());
-    all.listings.insert(folder, made);
-    return found;
-}
-
-/// A path on the disk in the case that it has there from some character on; empty when there is none.
-QString caseOnDisk(const QString &path, int from)
-{
-    // Where the system finds all of them, that one is there says nothing of how it is called.
-    static const bool takesAnyCase = FileSystem::isSamePath(QStringLiteral("a"), QStringLiteral("A"));
-    const int slash = path.lastIndexOf(QLatin1Char('/'));
-    const bool isGiven = slash <= 0 || slash < from;
-    if (!takesAnyCase || isGiven) {
-        if (QFileInfo::exists(path))
-            return path;
-        if (isGiven)
-            return {};
-    }
-    const QString folder = caseOnDisk(path.left(slash), from);
-    const QString name = folder.isEmpty() ? QString() : nameIn(folder, path.mid(slash + 1));
-    return name.isEmpty() ? QString() : folder + QLatin1Char('/') + name;
 }
 
 /// As folders hide what is called so.

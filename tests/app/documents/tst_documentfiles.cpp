@@ -3,6 +3,7 @@
 #include "Hand.h"
 #include "OneRun.h"
 #include "Playback.h"
+#include "Preferences.h"
 #include "SampleModels.h"
 #include "SpecialFiles.h"
 #include "TestArchive.h"
@@ -127,7 +128,8 @@ private slots:
             QTest::keyClick(&window, Qt::Key_S, Qt::ControlModifier);
             return hand.seen;
         };
-        // Without a mod folder there is nothing but to give up.
+        // Without a mod folder there is nothing but to give up. The start has looked for one before.
+        window.findChild<Preferences *>()->OnStartSetupPaths();
         Settings::OutputDir.setValue(QString());
         QCOMPARE(save(enter).value(0).section('|', 0, 1) + '|', asks);
         Settings::OutputDir.setValue(m_files->path("mod"));

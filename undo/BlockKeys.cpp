@@ -27,6 +27,13 @@ auto *placeIn(Block &block, const Key &key)
         return table.contains(key.track, key.frame) ? &table.at(key.track, key.frame) : nullptr;
     }
 }
+
+template <typename Value>
+bool isSameBits(const Value &a, const Value &b)
+{
+    const void *ours = &a, *theirs = &b;
+    return std::memcmp(ours, theirs, sizeof a) == 0;
+}
 } // namespace
 
 template <typename Lists, typename Visit>
@@ -42,7 +49,7 @@ void BlockKeys::leaveOutSame(const AnimBlock &block)
     visit(*this, [&block](auto &list) {
         const auto isSame = [&block](const auto &key) {
             const auto *stored = placeIn(block, key);
-            return stored && std::memcmp(stored, &key.value, sizeof key.value) == 0;
+            return stored && isSameBits(*stored, key.value);
         };
         list.erase(std::remove_if(list.begin(), list.end(), isSame), list.end());
     });

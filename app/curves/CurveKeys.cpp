@@ -182,9 +182,9 @@ BlockKeys CurveKeys::smoothed(const CurveData &data, const CurveSelection &selec
         }
     };
     const auto bend = [frames](std::vector<double> &values, const std::vector<bool> &chosen) {
-        std::vector<bool> isNumber;
-        for (const double value : values)
-            isNumber.push_back(std::isfinite(value));
+        std::vector<bool> isNumber(values.size());
+        std::transform(values.begin(), values.end(), isNumber.begin(),
+                       [](double value) { return std::isfinite(value); });
         const std::vector<int> reach = Motion::smoothingReach(chosen, isNumber, frames);
         const std::vector<double> before = values;
         for (size_t frame = 0; frame < values.size(); ++frame) {

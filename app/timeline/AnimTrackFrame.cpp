@@ -22,16 +22,6 @@
 #include <algorithm>
 #include <functional>
 
-namespace {
-const AnimBlock *currentBlock()
-{
-    const Playback &state = playback();
-    const int count = state.anim ? int(state.anim->blocks.size()) : 0;
-    return state.blockIndex >= 0 && state.blockIndex < count ? &state.anim->blocks[size_t(state.blockIndex)]
-                                                             : nullptr;
-}
-} // namespace
-
 AnimTrackFrame::AnimTrackFrame(QWidget *parent)
     : QFrame(parent)
     , m_ui(std::make_unique<Ui::AnimTrackFrame>())
@@ -154,9 +144,17 @@ void AnimTrackFrame::resizeEvent(QResizeEvent *event)
 
 void AnimTrackFrame::openAnimation(const AnimFile *file)
 {
+    m_file = file;
     playback().anim = file;
     m_ui->actionTrack->forgetHeight();
     selectBlock(0);
+}
+
+const AnimBlock *AnimTrackFrame::currentBlock() const
+{
+    const int index = playback().blockIndex;
+    const int count = m_file ? int(m_file->blocks.size()) : 0;
+    return index >= 0 && index < count ? &m_file->blocks[size_t(index)] : nullptr;
 }
 
 void AnimTrackFrame::selectBlock(int blockIndex)
@@ -181,23 +179,22 @@ void AnimTrackFrame::updateRange()
     m_ui->sliderAnimTrack->setMaximum(block ? std::max(0, block->frameCount() - 1) : 0);
     m_ui->sliderAnimTrack->setActions(block);
     m_ui->actionTrack->setBlock(block, false);
-    m_ui->actionTrack->setVisible(playback().anim && m_ui->btnAnimTrackActions->isChecked());
+    m_ui->actionTrack->setVisible(m_file && m_ui->btnAnimTrackActions->isChecked());
     const bool hasActions = block && !block->actions.empty();
     for (const QToolButton *button : {m_ui->btnAnimTrackMarkBack, m_ui->btnAnimTrackMarkForward})
         button->defaultAction()->setEnabled(hasActions);
     listBlocks();
-    setEnabled(playback().anim != nullptr);
+    setEnabled(m_file != nullptr);
 }
 
 void AnimTrackFrame::listBlocks()
 {
-    const AnimFile *file = playback().anim;
     const SkinnedMesh nameless;
     const SkinnedMesh &mesh = playback().mesh ? *playback().mesh : nameless;
     QStringList names;
-    const int count = file ? int(file->blocks.size()) : 0;
+    const int count = m_file ? int(m_file->blocks.size()) : 0;
     for (int i = 0; i < count; ++i) {
-        const QString name = animationName(mesh, file->blocks[size_t(i)].animId);
+        const QString name = animationName(mesh, m_file->blocks[size_t(i)].animId);
         names << (name.isEmpty() ? QString::number(i) : tr("%1: %2").arg(i).arg(name));
     }
     QComboBox *box = m_ui->cbAnimTrackBlock;
@@ -233,7 +230,7 @@ ActionTrack &AnimTrackFrame::actionTrack()
 void AnimTrackFrame::showState()
 {
     const PlayState state = playback().playState;
-    const bool isOpen = playback().anim != nullptr;
+    const bool isOpen = m_file != nullptr;
     m_ui->btnAnimTrackPlay->defaultAction()->setChecked(isOpen && state == PlayState::Playing);
     m_ui->btnAnimTrackStop->defaultAction()->setChecked(isOpen && state == PlayState::Paused);
     m_ui->btnAnimTrackPose->defaultAction()->setChecked(isOpen && state == PlayState::InitialPose);

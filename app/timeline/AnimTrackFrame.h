@@ -10,6 +10,7 @@
 
 class ActionTrack;
 class QAction;
+struct AnimBlock;
 struct AnimFile;
 
 namespace Ui {
@@ -83,10 +84,13 @@ private:
     void step(int direction);
     void stepToMark(int direction);
     void listBlocks();
+    const AnimBlock *currentBlock() const;
     /// A label of a fixed size can show another frame without the whole window being laid out anew.
     void fitLabel(int narrowest);
 
     std::unique_ptr<Ui::AnimTrackFrame> m_ui;
+    /// What is edited; while a command is asked for the view may play what would come of it.
+    const AnimFile *m_file = nullptr;
     QList<QAction *> m_actions;
     EventSounds m_sounds;
 };

@@ -142,13 +142,12 @@ void UvDock::setDocuments(SkinnedMeshDocument &skinned, KVTreeView &skinnedTree,
 void UvDock::follow(size_t which)
 {
     const Model &model = m_models[which];
-    connect(model.document, &QObject::destroyed, this, [this, which] { m_models[which].document = nullptr; });
     const auto isShown = [this, which] { return current() == &m_models[which]; };
     connect(model.tree, &KVTreeView::currentRecordChanged, this, [this, isShown] {
         if (isShown() && followTree())
             showSurface(true);
     });
-    connect(model.document, &Document::replaced, this, [this, which, isShown] {
+    connect(model.document.data(), &Document::replaced, this, [this, which, isShown] {
         m_models[which].surface = 0;
         if (!isShown())
             return;
@@ -161,8 +160,8 @@ void UvDock::follow(size_t which)
         listSurfaces();
         showSurface(false);
     };
-    connect(model.document, &Document::structuresChanged, this, showAnew);
-    connect(model.document, &Document::recordsChanged, this,
+    connect(model.document.data(), &Document::structuresChanged, this, showAnew);
+    connect(model.document.data(), &Document::recordsChanged, this,
             [this, which, showAnew](const QVector<RecordRef> &records) {
                 if (m_models[which].isShownBy(records))
                     showAnew();

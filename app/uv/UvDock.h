@@ -7,6 +7,7 @@
 #include "UvTexture.h"
 
 #include <QDockWidget>
+#include <QPointer>
 
 #include <array>
 #include <vector>

@@ -88,9 +88,9 @@ std::vector<int> UvMap::verticesAt(const QPointF &at, const QSizeF &reach) const
             found.emplace_back(distance, vertex);
     }
     std::sort(found.begin(), found.end());
-    std::vector<int> vertices;
-    for (const auto &[distance, vertex] : found)
-        vertices.push_back(vertex);
+    std::vector<int> vertices(found.size());
+    std::transform(found.begin(), found.end(), vertices.begin(),
+                   [](const auto &each) { return each.second; });
     return vertices;
 }
 

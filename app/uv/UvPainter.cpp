@@ -21,7 +21,7 @@ QPixmap checker(const QPalette &palette)
     QPixmap tile(2 * CheckerSide, 2 * CheckerSide);
     tile.fill(palette.color(QPalette::Mid));
     QPainter painter(&tile);
-    const QColor other = palette.color(QPalette::Dark);
+    const QColor &other = palette.color(QPalette::Dark);
     painter.fillRect(0, 0, CheckerSide, CheckerSide, other);
     painter.fillRect(CheckerSide, CheckerSide, CheckerSide, CheckerSide, other);
     return tile;

@@ -4,6 +4,7 @@
 
 #include "Document.h"
 
+#include <QPointer>
 #include <QVector2D>
 
 #include <functional>
@@ -14,7 +15,7 @@ class KVTreeView;
 /// A document whose surfaces are laid over their textures, and its tree.
 struct UvSource
 {
-    Document *document = nullptr;
+    QPointer<Document> document;
     KVTreeView *tree = nullptr;
     RecordKind surfaces{};
     RecordKind triangleIndexes{};

@@ -212,7 +212,11 @@ model_pictures() {
     korvane "$skinned_mesh" "$animation"
     in_tree Down Right Down Down Down
     grab "$main" "$folder/main.png"
-    press ctrl+comma
+    press F7
+    grab "$main" "$folder/curves.png"
+    press F7 shift+F4
+    grab "$main" "$folder/textures.png"
+    press shift+F4 ctrl+comma
     grab_dialog 'Options$' "$folder/options.png"
     press alt+s
     grab_dialog 'Options$' "$folder/shortcuts.png"
@@ -268,7 +272,9 @@ view_pictures() {
         part "build/look-$look.png" -crop 400x700+540+150 -resize 320x
     done
     convert build/look-{0,1,2}.png +append -strip -define png:compression-level=9 "$folder/shading.png"
-    press n F12
+    press n shift+o
+    part "$folder/onion-skin.png" -crop 500x700+490+150
+    press shift+o F12
     grab_dialog 'Save Picture$' "$folder/picture.png"
     leave_dialog
     press ctrl+f

@@ -270,6 +270,55 @@ private slots:
         QVERIFY(!find<QAction>(MainWindow(), "actionAnimReverse")->isEnabled());
     }
 
+    // The file, and the bones that find each other, are looked at in the dialog before anything is done.
+    void copiesFromAnotherSkeleton()
+    {
+        SkinnedMesh mesh = triangleMan();
+        AnimFile anim = twoBlocks();
+        anim.blocks.resize(1);
+        anim.blocks[0].animId = 40;
+        m_folder->save("other/other.skinnedmesh", mesh);
+        const QString other = m_folder->save("other/other.anim", anim);
+        const QString broken = m_folder->put("other/broken.anim", "none");
+        const auto choose = [](QDialog *dialog) {
+            // Later: the dialog of files comes up within the click, and the hand is to answer that too.
+            QTimer::singleShot(0, dialog, [button = find<QPushButton>(*dialog, "btnSource")] {
+                QTest::mouseClick(button, Qt::LeftButton);
+            });
+        };
+        const auto giveUp = [broken](QDialog *dialog) {
+            const Closing closing(dialog);
+            QVERIFY2(preview(dialog).contains(broken), qPrintable(preview(dialog)));
+            QVERIFY(!okOf(dialog)->isEnabled());
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        };
+        {
+            Hand looking({choose, Hand::file(broken), giveUp});
+            trigger("actionAnimCopyFrom");
+        }
+        QCOMPARE(stack()->count(), 0);
+        QCOMPARE(bytes(), m_before);
+
+        Hand hand({choose, Hand::file(other), [](QDialog *dialog) {
+                       const Closing closing(dialog);
+                       const auto *bones = find<QTreeWidget>(*dialog, "treeBones");
+                       QVERIFY(bones->topLevelItemCount() > 0);
+                       QCOMPARE(bones->topLevelItem(0)->text(0), bones->topLevelItem(0)->text(1));
+                       QCOMPARE(find<QListWidget>(*dialog, "listBlocks")->count(), 1);
+                       QTest::keyClick(okOf(dialog), Qt::Key_Space);
+                   }});
+        trigger("actionAnimCopyFrom");
+        const QString title = "Copy Animation from Another Skeleton";
+        QCOMPARE(hand.seen, QStringList({title, "Copy Animations of", title}));
+        QCOMPARE(stack()->count(), 1);
+        QCOMPARE(stack()->undoText(), QString("Copy from Another Skeleton"));
+        QCOMPARE(int(blocks().size()), 4);
+        QCOMPARE(int(blocks()[3].animId), 40);
+        QCOMPARE(blocks()[3].nodes.size(), blocks()[0].nodes.size());
+        stack()->undo();
+        QCOMPARE(bytes(), m_before);
+    }
+
     // Accepted before it is worked out, a command is done when it is; but with no other numbers than those.
     void longOnesAreWaitedFor()
     {

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstring>
 #include <unzip.h>
+#include <zlib.h>
 
 namespace {
 /// The library asks for single bytes of a directory, and for contents in pieces of this size.
@@ -96,7 +97,26 @@ struct ZipReader::Handle
     unzFile zip = nullptr;
     quint64 listed = 0;
     qint64 enteredAt = 0; ///< in the source
+    // Contents that are stored as they are go round the library, which copies them twice.
+    bool isStored = false;
+    qint64 left = 0; ///< bytes
+    quint32 checksum = 0; ///< of what was read
+    quint32 wantedChecksum = 0;
+
+    int readStored(char *to, int bytes);
 };
+
+int ZipReader::Handle::readStored(char *to, int bytes)
+{
+    const qint64 wanted = std::min<qint64>(bytes, left);
+    QIODevice &device = *source.device;
+    if (!device.seek(source.at) || device.read(to, wanted) != wanted)
+        return -1;
+    checksum = quint32(crc32(checksum, reinterpret_cast<const Bytef *>(to), uInt(wanted)));
+    source.at += wanted;
+    left -= wanted;
+    return int(wanted);
+}
 
 ZipReader::ZipReader()
     : m_handle(std::make_unique<Handle>())
@@ -168,13 +188,21 @@ bool ZipReader::enter(const ZipEntry &entry)
 {
     const unz64_file_pos place{entry.place, entry.number};
     unz_file_info64 info{};
+    Handle &handle = *m_handle;
     const bool isEntered =
-        unzGoToFilePos64(m_handle->zip, &place) == UNZ_OK &&
-        unzGetCurrentFileInfo64(m_handle->zip, &info, nullptr, 0, nullptr, 0, nullptr, 0) == UNZ_OK &&
+        unzGoToFilePos64(handle.zip, &place) == UNZ_OK &&
+        unzGetCurrentFileInfo64(handle.zip, &info, nullptr, 0, nullptr, 0, nullptr, 0) == UNZ_OK &&
         info.crc == entry.checksum && qint64(info.uncompressed_size) == entry.size &&
-        unzOpenCurrentFile(m_handle->zip) == UNZ_OK;
-    m_handle->enteredAt = qint64(unzGetCurrentFileZStreamPos64(m_handle->zip));
-    return isEntered;
+        unzOpenCurrentFile(handle.zip) == UNZ_OK;
+    handle.enteredAt = qint64(unzGetCurrentFileZStreamPos64(handle.zip));
+    handle.isStored = isEntered && info.compression_method == 0;
+    if (!handle.isStored)
+        return isEntered;
+    handle.source.at = handle.enteredAt;
+    handle.left = entry.size;
+    handle.checksum = 0;
+    handle.wantedChecksum = entry.checksum;
+    return info.compressed_size == info.uncompressed_size;
 }
 
 qint64 ZipReader::taken() const
@@ -184,6 +212,8 @@ qint64 ZipReader::taken() const
 
 int ZipReader::read(char *to, int bytes)
 {
+    if (m_handle->isStored)
+        return m_handle->readStored(to, bytes);
     int got = 0;
     while (got < bytes) {
         const int part = unzReadCurrentFile(m_handle->zip, to + got, unsigned(bytes - got));
@@ -198,5 +228,7 @@ int ZipReader::read(char *to, int bytes)
 
 bool ZipReader::leave()
 {
-    return unzCloseCurrentFile(m_handle->zip) != UNZ_CRCERROR;
+    const Handle &handle = *m_handle;
+    const bool isWrong = handle.isStored && handle.left == 0 && handle.checksum != handle.wantedChecksum;
+    return unzCloseCurrentFile(handle.zip) != UNZ_CRCERROR && !isWrong;
 }

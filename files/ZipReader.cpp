@@ -99,7 +99,7 @@ struct ZipReader::Handle
     qint64 enteredAt = 0; ///< in the source
     // Contents that are stored as they are go round the library, which copies them twice.
     bool isStored = false;
-    qint64 left = 0; ///< bytes
+    qint64 left = 0;      ///< bytes
     quint32 checksum = 0; ///< of what was read
     quint32 wantedChecksum = 0;
 

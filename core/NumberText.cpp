@@ -75,7 +75,9 @@ QStringList NumberText::split(const QString &text)
     // The first of these that stands in the text separates.
     for (const char *separator : {"[\\t\\n\\r;]+", ",\\s+", "\\s+", ","}) {
         const QRegularExpression each(QString::fromLatin1(separator));
-        const QStringList parts = list.split(each, Qt::SkipEmptyParts);
+        QStringList parts = list.split(each, Qt::SkipEmptyParts);
+        for (QString &part : parts)
+            part = part.trimmed();
         const bool isDecimal = *separator == ',' && separator[1] == '\0' && parts.size() < 3;
         if (parts.size() < 2 || isDecimal)
             continue;

@@ -8,11 +8,13 @@
 #include "KVOpenGLWidget.h"
 #include "LargeModels.h"
 #include "MainWindow.h"
+#include "PictureDialog.h"
 #include "Settings.h"
 #include "WorkerJob.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QDockWidget>
 #include <QEventLoop>
@@ -25,11 +27,13 @@
 #include <algorithm>
 #include <cstdlib>
 #include <ctime>
+#include <functional>
 #include <utility>
 
 // How long the window answers nobody while it works: the largest gap between two turns of its event loop,
-// while large files open and are saved, a large import arrives, and much is wrong with a model. A paint of
-// such a model is up to the graphics driver, and takes a turn by itself; how long is told beside.
+// while large files open and are saved, pictures of them too, a large import arrives, and much is wrong with
+// a model. A paint of such a model is up to the graphics driver, and takes a turn by itself; how long is told
+// beside.
 namespace {
 constexpr double Budget = 50.0; // milliseconds
 
@@ -185,29 +189,65 @@ int answerAsWorker(const QString &folder, const QString &models)
     return failed || job.write(WorkerAnswer()) ? EXIT_FAILURE : EXIT_SUCCESS;
 }
 
-/// Imports as a hand would: the button of the dialog, and then the one that closes it.
-void importThrough(MainWindow &window, const QString &path)
+/// Presses buttons of dialogs as a hand would, as soon as they are there, while `work` goes on.
+template <typename Dialog, typename Work>
+void clickThrough(const std::function<QAbstractButton *(const Dialog &)> &next, Work work)
 {
     QTimer clicks;
     int left = 300;
-    QObject::connect(&clicks, &QTimer::timeout, [&left] {
-        if (--left == 0)
-            qFatal("the import does not end");
-        const auto *dialog = qobject_cast<ImportDialog *>(QApplication::activeModalWidget());
-        for (const char *name : {"btnImport", "btnSuccess"}) {
-            auto *button = dialog ? dialog->findChild<QPushButton *>(QLatin1String(name)) : nullptr;
-            if (button && button->isVisible())
-                return button->click();
-        }
+    QObject::connect(&clicks, &QTimer::timeout, [&left, &next] {
+        const auto *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
+        if (dialog && --left == 0)
+            qFatal("a dialog stays open");
+        QAbstractButton *button = dialog ? next(*dialog) : nullptr;
+        if (button && button->isVisible())
+            button->click();
     });
     clicks.start(200);
-    window.openFiles({path});
+    work();
+}
+
+/// The button of the dialog that imports, and then the one that closes it.
+void importThrough(MainWindow &window, const QString &path)
+{
+    const auto next = [](const ImportDialog &dialog) -> QAbstractButton * {
+        for (const char *name : {"btnImport", "btnSuccess"}) {
+            auto *button = dialog.findChild<QPushButton *>(QLatin1String(name));
+            if (button && button->isVisible())
+                return button;
+        }
+        return nullptr;
+    };
+    clickThrough<ImportDialog>(next, [&] { window.openFiles({path}); });
+}
+
+/// Saves a sequence of pictures, of the kind and in the folder that the settings name.
+void savePictures(MainWindow &window)
+{
+    const auto next = [](const PictureDialog &dialog) -> QAbstractButton * {
+        return dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save);
+    };
+    clickThrough<PictureDialog>(
+        next, [&] { window.findChild<QAction *>(QStringLiteral("actionSavePicture"))->trigger(); });
 }
 
 void addGap(const std::string &name, const Gap &gap)
 {
     Bench::addLimitLine("gap_" + name, gap.passed, Budget, "ms");
     Bench::addLimitLine("gap_" + name + "_cpu", gap.worked, Budget, "ms");
+}
+
+/// Saves pictures of the view in front; how many the folder then has says that it did.
+void measurePictures(MainWindow &window, const char *kind, PictureDialog::Kind sequence)
+{
+    QDir folder(Settings::PicturePath.value());
+    folder.removeRecursively();
+    Settings::PictureKind.setValue(sequence);
+    addGap(std::string("pictures_") + kind, largestGap([&] { savePictures(window); }));
+    const int saved = folder.entryList(QDir::Files).size();
+    if (saved < 2)
+        qFatal("no pictures were saved");
+    std::printf("INFO %d pictures of %s\n", saved, kind);
 }
 
 /// Compares the document with a file that differs everywhere, and takes all of that over.
@@ -258,6 +298,7 @@ void measure(MainWindow &window, const QString &folder)
         for (int track = 0; track < block.rotations.trackCount(); ++track)
             block.rotations.at(track, 7) = {1, 0, 0, 0};
     }
+    measurePictures(window, "anim", PictureDialog::Frames);
     measureComparison(window, DocumentType::Anim, turned, path + QStringLiteral("2.anim"));
     // While the tab of skinned meshes is in front: a foreign file becomes what that shows.
     SkinnedMesh mesh;
@@ -268,6 +309,7 @@ void measure(MainWindow &window, const QString &folder)
     addGap("import", largestGap([&] { importThrough(window, folder + QStringLiteral("/foreign.fbx")); }));
     measureFile("staticmesh", written(path + QStringLiteral("staticmesh"), LargeModels::staticMesh()),
                 "viewStatic");
+    measurePictures(window, "staticmesh", PictureDialog::Turntable);
     measureFile("triangles", written(folder + QStringLiteral("/triangles.staticmesh"), manyTriangles()),
                 "viewStatic");
     window.findChild<QDockWidget *>(QStringLiteral("dockProblems"))->show();
@@ -298,8 +340,12 @@ int main(int argc, char *argv[])
     QDir(home.path()).mkpath(QStringLiteral("game"));
     QDir(home.path()).mkpath(QStringLiteral("mod/materials"));
     QDir(home.path()).mkpath(QStringLiteral("mod/textures"));
+    QDir(home.path()).mkpath(QStringLiteral("pictures"));
     Settings::GamePath.setValue(home.filePath(QStringLiteral("game")));
     Settings::OutputDir.setValue(home.filePath(QStringLiteral("mod")));
+    Settings::PicturePath.setValue(home.filePath(QStringLiteral("pictures")));
+    Settings::PictureTurns.setValue(24);
+    Settings::PictureStep.setValue(100);
     Settings::Updates.setValue(false);
 
     MainWindow window;

@@ -274,7 +274,9 @@ view_pictures() {
     convert build/look-{0,1,2}.png +append -strip -define png:compression-level=9 "$folder/shading.png"
     press n shift+o
     part "$folder/onion-skin.png" -crop 500x700+490+150
-    press shift+o F12
+    press shift+o
+    boxes_picture
+    press F12
     grab_dialog 'Save Picture$' "$folder/picture.png"
     leave_dialog
     press ctrl+f
@@ -311,6 +313,14 @@ view_pictures() {
     page bone
     show_record 'action 1'
     page action
+    command 'view events'
+    # The frame of the action, on the numbers of the timeline.
+    click 747 918
+    part "$folder/actions.png" -crop 1062x600+206+380
+    command 'view events'
+    command 'close loop'
+    grab_dialog 'Close Animation Loop$' "$folder/animation-command.png"
+    leave_dialog
     show_record 'frame 4'
     page frame
     show_record 'translation track 0'
@@ -322,6 +332,18 @@ view_pictures() {
     pages "$folder/pages-animation.png" 'file block' bone action 'frame translation rotation'
     quit
     setting HideAnimData true
+}
+
+# The boxes of a character with one that can be dragged, and its bones by the damage that they take, side by side.
+boxes_picture() {
+    in_tree Down Right Down Down Down
+    command 'view boxes'
+    part build/look-0.png -crop 480x700+500+132
+    command 'view boxes'
+    command 'damage scale'
+    part build/look-1.png -crop 762x700+500+132
+    command 'damage off'
+    convert build/look-{0,1}.png +append -strip -define png:compression-level=9 "$folder/boxes.png"
 }
 
 # What a start offers after the program could not end as it should.

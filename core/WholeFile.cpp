@@ -39,6 +39,11 @@ bool WholeFile::write(const char *bytes, qint64 size)
     return false;
 }
 
+bool WholeFile::seek(qint64 at)
+{
+    return open() || (!m_file.seek(at) && fail(m_file.errorString()));
+}
+
 bool WholeFile::commit()
 {
     if (open())

@@ -19,6 +19,8 @@ public:
     /// Makes the file beside. Returns true on failure; so do the others, which call it when nobody did.
     [[nodiscard]] bool open();
     [[nodiscard]] bool write(const char *bytes, qint64 size);
+    /// Goes back to write other bytes in the place of some, or forth again.
+    [[nodiscard]] bool seek(qint64 at);
     [[nodiscard]] bool commit();
 
     /// Why the first failure came about, as the device says it; empty when there was none.

@@ -26,6 +26,7 @@ int animate(const QStringList &arguments);
 int find(const QStringList &arguments);
 int fitBoxes(const QStringList &arguments);
 int diff(const QStringList &arguments);
+int pack(const QStringList &arguments);
 int importModel(const QStringList &arguments);
 int exportModel(const QStringList &arguments);
 int render(const QStringList &arguments);

@@ -24,6 +24,7 @@ constexpr Verb verbs[] = {
     {"fit-boxes", "make boxes as small as their vertices let them be", fitBoxes},
     {"find", "list records that meet a condition", find},
     {"diff", "say in what two models differ", diff},
+    {"pack", "make the archive of a mod", pack},
     {"import", "turn a model of another program into game files", importModel},
     {"export", "turn a mesh into a glTF or OBJ file", exportModel},
     {"render", "draw a model into a picture", render, true},

@@ -6250,6 +6250,69 @@ Wo keine Datei ist, bleibt es still.</translation>
     </message>
 </context>
 <context>
+    <name>Packing</name>
+    <message>
+        <source>a backup</source>
+        <translation>eine Sicherungskopie</translation>
+    </message>
+    <message>
+        <source>left by a save that was cut off</source>
+        <translation>Rest eines abgebrochenen Speicherns</translation>
+    </message>
+    <message>
+        <source>names of bones and animations, for Korvane</source>
+        <translation>Namen von Knochen und Animationen, für Korvane</translation>
+    </message>
+    <message>
+        <source>a source, for other programs</source>
+        <translation>eine Vorlage, für andere Programme</translation>
+    </message>
+    <message>
+        <source>an archive</source>
+        <translation>ein Archiv</translation>
+    </message>
+    <message>
+        <source>a program</source>
+        <translation>ein Programm</translation>
+    </message>
+    <message>
+        <source>of the desktop</source>
+        <translation>vom Desktop</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no name that an archive can hold.</source>
+        <translation>„%1“ ist kein Name, den ein Archiv haben kann.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is larger than %2 MiB.</source>
+        <translation>„%1“ ist größer als %2 MiB.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; and &apos;%2&apos; differ only in upper and lower case.</source>
+        <translation>„%1“ und „%2“ unterscheiden sich nur in Groß- und Kleinschreibung.</translation>
+    </message>
+    <message>
+        <source>as asked for</source>
+        <translation>wie gewünscht</translation>
+    </message>
+    <message>
+        <source>These are more than %1 files.</source>
+        <translation>Das sind mehr als %1 Dateien.</translation>
+    </message>
+    <message>
+        <source>There is no memory for the archive.</source>
+        <translation>Für das Archiv ist kein Speicher da.</translation>
+    </message>
+    <message>
+        <source>The archive cannot be written.</source>
+        <translation>Das Archiv kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; could not be read whole, or was changed meanwhile.</source>
+        <translation>„%1“ konnte nicht ganz gelesen werden oder wurde inzwischen geändert.</translation>
+    </message>
+</context>
+<context>
     <name>PageStack</name>
     <message numerus="yes">
         <source>%n child bone indexes selected</source>

@@ -17,7 +17,7 @@ _korvane_tool_files() {
 
 _korvane_tool() {
     local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD - 1]} verb=${COMP_WORDS[1]:-}
-    local verbs='info check resave dump build set animate fit-boxes find diff import export render' options=''
+    local verbs='info check resave dump build set animate fit-boxes find diff pack import export render' options=''
     COMPREPLY=()
 
     if ((COMP_CWORD == 1)) || [[ $verb == help ]]; then
@@ -63,7 +63,7 @@ _korvane_tool() {
         mapfile -t COMPREPLY < <(compgen -W 'y z auto' -- "$cur")
         return
         ;;
-    --where | --scale | --rate | --clips | --time-limit | --block | --frame | --size | --yaw | --pitch)
+    --where | --leave-out | --scale | --rate | --clips | --time-limit | --block | --frame | --size | --yaw | --pitch)
         return
         ;;
     esac
@@ -76,6 +76,7 @@ _korvane_tool() {
     find) options='--json --help' ;;
     diff) options='--json --all --help' ;;
     build) options='--output --force --help' ;;
+    pack) options='--output --force --list --json --with-errors --leave-out --game-path --help' ;;
     animate)
         options='--block --all --output --in-place --force --keep-speed --around --mesh --source-mesh --help'
         ;;
@@ -108,6 +109,10 @@ _korvane_tool() {
             extract-yaw apply-yaw remove-unused join-equal renumber copy-from' -- "$cur")
         ;;
     build) _korvane_tool_files json ;;
+    pack)
+        compopt -o filenames 2>/dev/null
+        mapfile -t COMPREPLY < <(compgen -d -- "$cur")
+        ;;
     import) _korvane_tool_files ;;
     esac
 }

@@ -107,7 +107,7 @@ private slots:
         const QByteArray zsh = readFile(source("packaging/completions/_korvane-tool"));
         const QRegularExpression line("^  (?:-[a-z], )?(--[a-z-]+)", QRegularExpression::MultilineOption);
         for (const QString verb : {"info", "check", "resave", "dump", "build", "set", "animate", "diff",
-                                   "import", "export", "render"}) {
+                                   "pack", "import", "export", "render"}) {
             const ToolRun run(verb, {"--help"});
             QCOMPARE(run.exitCode, 0);
             QVERIFY(run.out.startsWith(QStringLiteral("Usage: korvane-tool %1 ").arg(verb)));

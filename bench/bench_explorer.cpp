@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "Bench.h"
+#include "BenchHome.h"
 #include "FolderExplorer.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QEventLoop>
-#include <QSettings>
 #include <QTemporaryDir>
 #include <QTreeWidgetItemIterator>
 
@@ -35,11 +35,8 @@ void makeFiles(const QString &root)
 
 int main(int argc, char *argv[])
 {
-    const QTemporaryDir home;
+    const BenchHome home;
     const QTemporaryDir files;
-    QCoreApplication::setOrganizationName(QStringLiteral("KorvaneBench"));
-    QCoreApplication::setApplicationName(QStringLiteral("Korvane"));
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, home.path());
     const QApplication application(argc, argv);
     makeFiles(files.path());
     const DocumentKind &kind = documentKind(DocumentType::SkinnedMesh);

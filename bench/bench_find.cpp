@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "Bench.h"
+#include "BenchHome.h"
 #include "KVTreeView.h"
 #include "LargeModels.h"
 #include "Settings.h"
 
 #include <QApplication>
-#include <QTemporaryDir>
 
 // A condition asked of all records of models of 64 MB, against reading the same values by the same fields,
 // and the line above a tree with a condition in it, against one with words.
@@ -81,10 +81,7 @@ struct FilteredTree
 int main(int argc, char *argv[])
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QTemporaryDir settings;
-    QCoreApplication::setOrganizationName(QStringLiteral("KorvaneBench"));
-    QCoreApplication::setApplicationName(QStringLiteral("Korvane"));
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+    const BenchHome home;
     const QApplication application(argc, argv);
     Settings::HideMeshData.setValue(false);
     addSearch("find_vertices", LargeModels::skinnedMesh(), "vertices position > 300000",

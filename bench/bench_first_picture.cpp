@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "Bench.h"
+#include "BenchHome.h"
 #include "DocumentFiles.h"
 #include "FolderExplorer.h"
 #include "KVOpenGLWidget.h"
@@ -13,9 +14,6 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
-#include <QSettings>
-#include <QSurfaceFormat>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <ctime>
@@ -35,13 +33,6 @@ double processSeconds()
     timespec time{};
     clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
     return double(time.tv_sec) + double(time.tv_nsec) * 1e-9;
-}
-
-void wait(int milliseconds)
-{
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-    loop.exec();
 }
 
 /// A game with copies of a sample, each with a texture of its own.
@@ -113,15 +104,8 @@ std::pair<double, double> untilShown(KVOpenGLWidget &view, Begin begin)
 
 int main(int argc, char *argv[])
 {
-    const QTemporaryDir home;
-    qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
-    QCoreApplication::setOrganizationName(QStringLiteral("KorvaneBench"));
-    QCoreApplication::setApplicationName(QStringLiteral("Korvane"));
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, home.path());
-    QSurfaceFormat format;
-    format.setDepthBufferSize(24);
-    format.setProfile(QSurfaceFormat::CoreProfile);
-    QSurfaceFormat::setDefaultFormat(format);
+    const BenchHome home;
+    BenchHome::askForCoreProfile();
     const QApplication application(argc, argv);
     Game game(home.filePath(QStringLiteral("game")));
     Settings::GamePath.setValue(home.filePath(QStringLiteral("game")));

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "Bench.h"
+#include "BenchHome.h"
 #include "CompareTree.h"
 #include "DocumentLoader.h"
 #include "FileComparison.h"
@@ -17,11 +18,7 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QDockWidget>
-#include <QEventLoop>
 #include <QPushButton>
-#include <QSettings>
-#include <QSurfaceFormat>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <algorithm>
@@ -113,13 +110,6 @@ private:
     Gap m_last = unpainted();
     Gap m_largest;
 };
-
-void wait(int milliseconds)
-{
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-    loop.exec();
-}
 
 bool isLoading()
 {
@@ -325,15 +315,8 @@ int main(int argc, char *argv[])
         const QCoreApplication application(argc, argv);
         return answerAsWorker(QFile::decodeName(argv[1]), qEnvironmentVariable(Models));
     }
-    const QTemporaryDir home;
-    qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
-    QCoreApplication::setOrganizationName(QStringLiteral("KorvaneBench"));
-    QCoreApplication::setApplicationName(QStringLiteral("Korvane"));
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, home.path());
-    QSurfaceFormat format;
-    format.setDepthBufferSize(24);
-    format.setProfile(QSurfaceFormat::CoreProfile);
-    QSurfaceFormat::setDefaultFormat(format);
+    const BenchHome home;
+    BenchHome::askForCoreProfile();
     const Application application(argc, argv);
     qputenv(Models, QFile::encodeName(home.path()));
     qputenv("KORVANE_IMPORT_WORKER", QFile::encodeName(QCoreApplication::applicationFilePath()));

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "Bench.h"
+#include "BenchHome.h"
 #include "KVTreeView.h"
 #include "LargeModels.h"
 #include "MaterialCatalog.h"
@@ -10,7 +11,6 @@
 
 #include <QAbstractSpinBox>
 #include <QApplication>
-#include <QTemporaryDir>
 
 #include <limits>
 #include <malloc.h>
@@ -133,10 +133,7 @@ int main(int argc, char *argv[])
     // time.
     mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
     mallopt(M_MMAP_THRESHOLD, std::numeric_limits<int>::max());
-    const QTemporaryDir home;
-    QCoreApplication::setOrganizationName(QStringLiteral("KorvaneBench"));
-    QCoreApplication::setApplicationName(QStringLiteral("Korvane"));
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, home.path());
+    const BenchHome home;
     const QApplication application(argc, argv);
     Settings::HideMeshData.setValue(false);
     Settings::HideAnimData.setValue(false);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "Bench.h"
+#include "BenchHome.h"
 #include "KVOpenGLWidget.h"
 #include "MainWindow.h"
 #include "Playback.h"
@@ -8,11 +9,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QEventLoop>
-#include <QSettings>
 #include <QSlider>
-#include <QSurfaceFormat>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <ctime>
@@ -46,13 +43,6 @@ public:
         return false;
     }
 };
-
-void wait(int milliseconds)
-{
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-    loop.exec();
-}
 
 double threadSeconds()
 {
@@ -121,15 +111,8 @@ void reportSlider(QSlider &slider)
 
 int main(int argc, char *argv[])
 {
-    const QTemporaryDir home;
-    qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
-    QCoreApplication::setOrganizationName(QStringLiteral("KorvaneBench"));
-    QCoreApplication::setApplicationName(QStringLiteral("Korvane"));
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, home.path());
-    QSurfaceFormat format;
-    format.setDepthBufferSize(24);
-    format.setProfile(QSurfaceFormat::CoreProfile);
-    QSurfaceFormat::setDefaultFormat(format);
+    const BenchHome home;
+    BenchHome::askForCoreProfile();
     QApplication application(argc, argv);
     const QString game = QStringLiteral(KORVANE_SAMPLES "/game");
     Settings::GamePath.setValue(game);

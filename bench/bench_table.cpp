@@ -3,6 +3,7 @@
 
 // Edits of many records at once, with all that follows them on the screen.
 #include "Bench.h"
+#include "BenchHome.h"
 #include "DelimitedText.h"
 #include "KVTreeView.h"
 #include "MaterialCatalog.h"
@@ -16,7 +17,6 @@
 #include <QClipboard>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QTemporaryDir>
 
 namespace {
 constexpr int Vertices = 20000;
@@ -99,10 +99,7 @@ void pasteIntoTable()
 int main(int argc, char *argv[])
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QTemporaryDir settings;
-    QCoreApplication::setOrganizationName(QStringLiteral("KorvaneBench"));
-    QCoreApplication::setApplicationName(QStringLiteral("Korvane"));
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+    const BenchHome home;
     const QApplication application(argc, argv);
     Settings::HideMeshData.setValue(false);
     calculateOnPage();

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "Bench.h"
+#include "BenchHome.h"
 #include "KVTreeView.h"
 #include "MaterialCatalog.h"
 #include "PageStack.h"
@@ -34,7 +35,7 @@ struct MeshTree
     explicit MeshTree(const SkinnedMesh &mesh)
     {
         // Through a file, as every model comes.
-        QTemporaryDir home;
+        const QTemporaryDir home;
         const QString path = home.filePath(QStringLiteral("mesh.skinnedmesh"));
         QString reason;
         if (mesh.write(path) || document.open(path, &reason))
@@ -108,10 +109,7 @@ void reportEdits()
 int main(int argc, char *argv[])
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    QTemporaryDir settings;
-    QCoreApplication::setOrganizationName(QStringLiteral("KorvaneBench"));
-    QCoreApplication::setApplicationName(QStringLiteral("Korvane"));
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+    const BenchHome settings;
     const QApplication application(argc, argv);
     Settings::HideMeshData.setValue(false);
 

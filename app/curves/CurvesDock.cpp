@@ -7,6 +7,7 @@
 #include "ChannelList.h"
 #include "CurveEdits.h"
 #include "CurveView.h"
+#include "DockFocus.h"
 #include "FloatSpinBox.h"
 #include "Icons.h"
 #include "IntSpinBox.h"
@@ -61,12 +62,7 @@ CurvesDock::CurvesDock(QWidget *parent)
     layout->addLayout(bar);
     layout->addLayout(parts, 1);
     setWidget(contents);
-    connect(toggleViewAction(), &QAction::triggered, this, [this](bool shown) {
-        if (!shown)
-            return;
-        raise();
-        m_view->setFocus();
-    });
+    focusWhenAskedFor(*this, *m_view);
     connect(m_channels, &ChannelList::channelsChanged, this, [this] { refresh(false); });
     connect(m_view, &CurveView::selectionChanged, this, &CurvesDock::showSelection);
     connect(m_edits, &CurveEdits::posed, this, &CurvesDock::posed);

@@ -4,6 +4,7 @@
 
 #include "CsvPreview.h"
 #include "DelimitedText.h"
+#include "DockFocus.h"
 #include "Icons.h"
 #include "KVTreeView.h"
 #include "SavePath.h"
@@ -60,13 +61,7 @@ TableDock::TableDock(QWidget *parent)
     layout->addWidget(m_view, 1);
     layout->addWidget(m_empty, 1);
     setWidget(contents);
-    // Whoever asks for it wants to see it, whatever is before it.
-    connect(toggleViewAction(), &QAction::triggered, this, [this](bool shown) {
-        if (!shown)
-            return;
-        raise();
-        m_view->setFocus();
-    });
+    focusWhenAskedFor(*this, *m_view);
     connect(m_all, &QCheckBox::toggled, this, &TableDock::updateGroup);
     connect(m_view, &RecordTableView::told, this, &TableDock::told);
     connect(m_view->verticalHeader(), &QHeaderView::sectionDoubleClicked, this, &TableDock::showInTree);

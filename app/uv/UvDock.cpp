@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "UvDock.h"
 
+#include "DockFocus.h"
 #include "DocumentLoader.h"
 #include "Icons.h"
 #include "KVTreeView.h"
@@ -84,12 +85,7 @@ UvDock::UvDock(QWidget *parent)
     layout->addLayout(buttons);
     layout->addWidget(m_view, 1);
     setWidget(contents);
-    connect(toggleViewAction(), &QAction::triggered, this, [this](bool shown) {
-        if (!shown)
-            return;
-        raise();
-        m_view->setFocus();
-    });
+    focusWhenAskedFor(*this, *m_view);
     connect(m_surfaces, QOverload<int>::of(&QComboBox::activated), this, &UvDock::chooseSurface);
     connect(m_view, &UvView::chosen, this, &UvDock::chooseVertices);
     connect(m_view, &UvView::pointed, this, &UvDock::point);

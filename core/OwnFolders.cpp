@@ -39,6 +39,11 @@ QString OwnFolders::local()
     return folderOf(QStandardPaths::AppLocalDataLocation);
 }
 
+QString OwnFolders::cache()
+{
+    return folderOf(QStandardPaths::CacheLocation);
+}
+
 QString OwnFolders::data()
 {
     return folderOf(QStandardPaths::AppDataLocation);

@@ -12,6 +12,8 @@ namespace OwnFolders {
 void useForSettings();
 /// What belongs to this computer, such as unsaved work.
 QString local();
+/// What can be made again at any time.
+QString cache();
 /// What the user puts there.
 QString data();
 } // namespace OwnFolders

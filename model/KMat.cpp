@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 #include <QTextCodec>
 #include <QTextStream>
 
@@ -60,45 +61,51 @@ QString textOf(const QByteArray &bytes)
     return decoded(bytes, encodingOf(bytes));
 }
 
-QString declareMaterial(QTextStream &words, const QString &path, MaterialTable &table,
-                        MaterialTable::iterator &current)
+QString declareMaterial(QTextStream &words, const QString &path, QSet<QString> &names,
+                        std::vector<MaterialSampler> &samplers)
 {
     QString name;
     words >> name;
-    if (table.count(name) != 0) {
+    if (names.contains(name)) {
         return QCoreApplication::translate(
                    "ModelFiles",
                    ".kMat file has a material with the same name - %1. The file may be invalid - %2")
             .arg(name, path);
     }
-    current = table.emplace(name, QString()).first;
+    names.insert(name);
+    samplers.push_back({name, {}, {}});
     return {};
 }
 
-QString setTexture(QTextStream &words, const QString &path, MaterialTable &table,
-                   const MaterialTable::iterator &current)
+QString addSampler(QTextStream &words, const QString &path, std::vector<MaterialSampler> &samplers)
 {
     QString samplerName;
     int textureUnit = 0;
     QString texturePath;
     // A unit that is no number is not consumed: it is then the path.
     words >> samplerName >> textureUnit >> texturePath;
-    if (current == table.end()) {
+    if (samplers.empty()) {
         return QCoreApplication::translate(
                    "ModelFiles",
                    ".kMat file read a texture path with no material set. The file may be invalid - %1")
             .arg(path);
     }
-    current->second = texturePath.remove(QLatin1Char('"'));
+    if (!samplers.back().sampler.isNull())
+        samplers.push_back({samplers.back().material, {}, {}});
+    MaterialSampler &added = samplers.back();
+    added.sampler = samplerName.remove(QLatin1Char('"'));
+    if (added.sampler.isNull())
+        added.sampler = QLatin1String("");
+    added.texture = texturePath.remove(QLatin1Char('"'));
     return {};
 }
 
-QString readMaterials(QIODevice &text, const QString &path, MaterialTable &table)
+QString readMaterials(QIODevice &text, const QString &path, std::vector<MaterialSampler> &samplers)
 {
     // A lone carriage return ends no line; in bytes there is more than one way of writing it.
     QString all = textOf(text.readAll()).remove(QLatin1Char('\r'));
     QTextStream lines(&all, QIODevice::ReadOnly);
-    auto current = table.end();
+    QSet<QString> names;
     QString line;
     QString word;
     QTextStream words;
@@ -109,9 +116,9 @@ QString readMaterials(QIODevice &text, const QString &path, MaterialTable &table
         for (words >> word; !word.isEmpty(); words >> word) {
             QString error;
             if (word == QLatin1String("material"))
-                error = declareMaterial(words, path, table, current);
+                error = declareMaterial(words, path, names, samplers);
             else if (word == QLatin1String("sampler"))
-                error = setTexture(words, path, table, current);
+                error = addSampler(words, path, samplers);
             if (!error.isEmpty())
                 return error;
         }
@@ -254,12 +261,43 @@ std::optional<QByteArray> mergedBytes(const QByteArray &bytes, const MaterialTab
 }
 } // namespace
 
+QString readSamplers(QIODevice &text, const QString &path, std::vector<MaterialSampler> &samplers)
+{
+    samplers.clear();
+    const QString error = readMaterials(text, path, samplers);
+    if (!error.isEmpty())
+        samplers.clear();
+    return error;
+}
+
+QString readSamplers(const QStringList &candidates, std::vector<MaterialSampler> &samplers)
+{
+    samplers.clear();
+    for (const QString &path : candidates) {
+        const std::unique_ptr<QIODevice> file = Files::open(path);
+        if (file)
+            return file->size() <= MostMaterialBytes ? readSamplers(*file, path, samplers) : tooLarge(path);
+    }
+    return QCoreApplication::translate("ModelFiles", "Unable to read .kMat file at %1")
+        .arg(candidates.isEmpty() ? QString() : candidates.last());
+}
+
+namespace {
+/// Of several samplers the last counts.
+MaterialTable tableOf(const std::vector<MaterialSampler> &samplers)
+{
+    MaterialTable table;
+    for (const MaterialSampler &each : samplers)
+        table[each.material] = each.texture;
+    return table;
+}
+} // namespace
+
 QString readKMat(QIODevice &text, const QString &path, MaterialTable &table)
 {
-    table.clear();
-    const QString error = readMaterials(text, path, table);
-    if (!error.isEmpty())
-        table.clear();
+    std::vector<MaterialSampler> samplers;
+    const QString error = readSamplers(text, path, samplers);
+    table = tableOf(samplers);
     return error;
 }
 
@@ -270,18 +308,10 @@ QString readKMat(const QString &path, MaterialTable &table)
 
 QString readKMat(const QStringList &candidates, MaterialTable &table)
 {
-    for (const QString &path : candidates) {
-        const std::unique_ptr<QIODevice> file = Files::open(path);
-        if (!file)
-            continue;
-        if (file->size() <= MostMaterialBytes)
-            return readKMat(*file, path, table);
-        table.clear();
-        return tooLarge(path);
-    }
-    table.clear();
-    return QCoreApplication::translate("ModelFiles", "Unable to read .kMat file at %1")
-        .arg(candidates.isEmpty() ? QString() : candidates.last());
+    std::vector<MaterialSampler> samplers;
+    const QString error = readSamplers(candidates, samplers);
+    table = tableOf(samplers);
+    return error;
 }
 
 bool writeKMat(QIODevice &text, const MaterialTable &table)

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <map>
+#include <vector>
 
 class QIODevice;
 
@@ -25,6 +26,20 @@ constexpr qint64 MostMaterialBytes = 16 * 1024 * 1024;
 
 /// Reads from an open device; `path` only names it in messages.
 [[nodiscard]] QString readKMat(QIODevice &text, const QString &path, MaterialTable &table);
+
+/// A texture that a material names.
+struct MaterialSampler
+{
+    QString material;
+    QString sampler; ///< without quotes, such as "diffuse"; null for a material that has none
+    QString texture; ///< the path, without quotes
+};
+
+/// Reads all samplers of a .kmat file in its order, and of a material without one an entry with its name
+/// alone. Errors are those of readKMat(), and leave `samplers` empty.
+[[nodiscard]] QString readSamplers(const QStringList &candidates, std::vector<MaterialSampler> &samplers);
+[[nodiscard]] QString readSamplers(QIODevice &text, const QString &path,
+                                   std::vector<MaterialSampler> &samplers);
 
 /// Writes a .kmat file with one material per entry of `table` in one step. Returns an error message; an
 /// empty text means success.

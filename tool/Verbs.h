@@ -24,6 +24,7 @@ int build(const QStringList &arguments);
 int set(const QStringList &arguments);
 int animate(const QStringList &arguments);
 int find(const QStringList &arguments);
+int uses(const QStringList &arguments);
 int fitBoxes(const QStringList &arguments);
 int diff(const QStringList &arguments);
 int pack(const QStringList &arguments);

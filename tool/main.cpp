@@ -23,6 +23,7 @@ constexpr Verb verbs[] = {
     {"animate", "change whole animations", animate},
     {"fit-boxes", "make boxes as small as their vertices let them be", fitBoxes},
     {"find", "list records that meet a condition", find},
+    {"uses", "say what files name, and who names what", uses},
     {"diff", "say in what two models differ", diff},
     {"pack", "make the archive of a mod", pack},
     {"import", "turn a model of another program into game files", importModel},
@@ -47,7 +48,7 @@ QString usage()
             QStringLiteral("  %1  %2\n").arg(QLatin1String(verb.name), -9).arg(QLatin1String(verb.summary));
     return text + QStringLiteral("\n'korvane-tool VERB --help' tells more of a verb, --version the version.\n"
                                  "Exit status: 0 fine, 1 an error in a file or a failure, 2 wrong usage, "
-                                 "3 no display to draw with; find and diff have their own.");
+                                 "3 no display to draw with; find, uses and diff have their own.");
 }
 
 int run(const QStringList &arguments)

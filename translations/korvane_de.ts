@@ -8149,6 +8149,21 @@ Hände und Füße (x0.25): %6</translation>
     </message>
 </context>
 <context>
+    <name>References</name>
+    <message>
+        <source>The file names more than any model has.</source>
+        <translation>Die Datei nennt mehr, als irgendein Modell hat.</translation>
+    </message>
+    <message>
+        <source>The file cannot be opened.</source>
+        <translation>Die Datei kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>A count in the file is negative.</source>
+        <translation>Eine Anzahl in der Datei ist negativ.</translation>
+    </message>
+</context>
+<context>
     <name>ReloadPrompt</name>
     <message>
         <source>Open the file anew</source>

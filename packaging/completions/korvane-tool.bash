@@ -17,7 +17,7 @@ _korvane_tool_files() {
 
 _korvane_tool() {
     local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD - 1]} verb=${COMP_WORDS[1]:-}
-    local verbs='info check resave dump build set animate fit-boxes find diff pack import export render' options=''
+    local verbs='info check resave dump build set animate fit-boxes find uses diff pack import export render' options=''
     COMPREPLY=()
 
     if ((COMP_CWORD == 1)) || [[ $verb == help ]]; then
@@ -51,6 +51,16 @@ _korvane_tool() {
         mapfile -t COMPREPLY < <(compgen -W 'loops always never' -- "$cur")
         return
         ;;
+    --of)
+        mapfile -t COMPREPLY < <(compgen -W 'material: texture: animation: sound: particle: actor: voice: impact:
+            damage:' -- "$cur")
+        return
+        ;;
+    --unused)
+        mapfile -t COMPREPLY < <(compgen -W 'materials textures animations sounds particles actors voices impacts' \
+            -- "$cur")
+        return
+        ;;
     --mesh | --source-mesh)
         _korvane_tool_files skinnedmesh
         return
@@ -74,6 +84,7 @@ _korvane_tool() {
     resave) options='--output --force --help' ;;
     dump) options='--output --force --schema --help' ;;
     find) options='--json --help' ;;
+    uses) options='--of --unused --json --game-path --mod-path --help' ;;
     diff) options='--json --all --help' ;;
     build) options='--output --force --help' ;;
     pack) options='--output --force --list --json --with-errors --leave-out --game-path --help' ;;
@@ -108,6 +119,7 @@ _korvane_tool() {
         mapfile -t -O "${#COMPREPLY[@]}" COMPREPLY < <(compgen -W 'resample rate reverse trim shift close-loop mirror
             extract-yaw apply-yaw remove-unused join-equal renumber copy-from' -- "$cur")
         ;;
+    uses) _korvane_tool_files 'skinnedmesh|anim|staticmesh|kmat|png|tga|jpg|jpeg|bmp|gif' ;;
     build) _korvane_tool_files json ;;
     pack)
         compopt -o filenames 2>/dev/null

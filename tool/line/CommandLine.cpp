@@ -68,7 +68,7 @@ std::optional<int> CommandLine::parse(const QStringList &arguments, bool many)
         Output::line(helpText());
         return Fine;
     }
-    if (operands().isEmpty())
+    if (operands().isEmpty() && !m_areOperandsOptional)
         return refuse(QStringLiteral("%1 is missing.").arg(m_operands));
     if (operands().size() > 1 && !many)
         return refuse(QStringLiteral("There is one %1 too many: '%2'.").arg(m_operands, operands().at(1)));

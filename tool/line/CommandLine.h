@@ -25,9 +25,12 @@ public:
     /// --game-path and --mod-path, see chosenFolders().
     void folderOptions(GameFolder otherwise);
 
+    /// Lets parse() take a line that names no file.
+    void setOperandsOptional() { m_areOperandsOptional = true; }
+
     /// Reads what stands behind the verb. Gives the exit code when the run is over with it: the help was
-    /// asked for, or the usage is wrong and standard error says why. At least one operand has to stand there;
-    /// more only where `many` is set.
+    /// asked for, or the usage is wrong and standard error says why. At least one operand has to stand there,
+    /// unless setOperandsOptional() was called; more only where `many` is set.
     [[nodiscard]] std::optional<int> parse(const QStringList &arguments, bool many);
 
     bool isSet(const QString &name) const { return m_parser.isSet(name); }
@@ -48,6 +51,7 @@ private:
 
     QString m_verb;
     QString m_operands;
+    bool m_areOperandsOptional = false;
     QCommandLineParser m_parser;
 };
 

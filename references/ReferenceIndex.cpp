@@ -1,0 +1,215 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "ReferenceIndex.h"
+
+#include "FileSystem.h"
+#include "Files.h"
+#include "ReferenceReading.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QThreadPool>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+/// More files than this are none of a game, but somebody's disk.
+constexpr size_t MostIndexedFiles = 200000;
+
+/// The folder of game or mod as it is walked, and as it is compared.
+struct IndexedRoot
+{
+    QString path; ///< empty where there is none
+    QString real; ///< what links lead to, with a slash behind
+
+    explicit IndexedRoot(const QString &folder)
+    {
+        if (folder.isEmpty() || !Files::isFolder(folder))
+            return;
+        path = QDir::cleanPath(QDir(folder).absolutePath());
+        real = realPath(path) + QLatin1Char('/');
+    }
+
+    bool contains(const IndexedRoot &other) const
+    {
+        return !path.isEmpty() && !other.path.isEmpty() && other.real.startsWith(real);
+    }
+
+private:
+    static QString realPath(const QString &folder)
+    {
+        const QString canonical = QFileInfo(folder).canonicalFilePath();
+        return FileSystem::comparable(canonical.isEmpty() ? folder : canonical);
+    }
+};
+
+void listFiles(const IndexedRoot &root, const QString &without, bool isMod,
+               const std::atomic_bool &isCancelled, std::vector<FileNaming> &files)
+{
+    if (root.path.isEmpty())
+        return;
+    const int start = root.path.endsWith(QLatin1Char('/')) ? root.path.size() : root.path.size() + 1;
+    Files::walk(root.path, [&](const FolderEntry &entry) {
+        const auto type = entry.isFolder ? std::nullopt : indexedTypeOf(entry.path);
+        const QString relative = entry.path.mid(start);
+        if (type && (without.isEmpty() || !FileSystem::comparable(relative).startsWith(without))) {
+            FileNaming file;
+            file.path = entry.path;
+            file.relative = relative;
+            file.isMod = isMod;
+            file.type = *type;
+            files.push_back(std::move(file));
+        }
+        return !isCancelled && files.size() < MostIndexedFiles;
+    });
+}
+
+/// All files of both folders. Where one of these lies in the other one, its files are its own and none of the
+/// other's; where they are one, they are the game's.
+std::vector<FileNaming> listFiles(const MaterialFolders &folders, const std::atomic_bool &isCancelled)
+{
+    const IndexedRoot game(folders.gamePath);
+    const IndexedRoot mod(folders.outputDir);
+    std::vector<FileNaming> files;
+    const auto inner = [](const IndexedRoot &outer, const IndexedRoot &other) {
+        return outer.contains(other) ? other.real.mid(outer.real.size()) : QString();
+    };
+    listFiles(game, inner(game, mod), false, isCancelled, files);
+    if (game.path.isEmpty() || mod.real != game.real)
+        listFiles(mod, inner(mod, game), true, isCancelled, files);
+    std::sort(files.begin(), files.end(),
+              [](const FileNaming &a, const FileNaming &b) { return a.path < b.path; });
+    return files;
+}
+
+FileNamingPtr namingAsItIs(FileNaming &file, const ReferenceIndexPtr &known, IndexProgress &progress)
+{
+    file.stamp = FileStamp::of(file.path);
+    FileNamingPtr kept = known ? known->file(file.path) : nullptr;
+    if (kept && kept->stamp == file.stamp && kept->path == file.path && kept->relative == file.relative &&
+        kept->isMod == file.isMod)
+        return kept;
+    ++progress.read;
+    readNaming(file);
+    return std::make_shared<const FileNaming>(std::move(file));
+}
+
+} // namespace
+
+ReferenceIndex::ReferenceIndex(MaterialFolders folders, std::vector<FileNamingPtr> files)
+    : m_folders(std::move(folders))
+    , m_files(std::move(files))
+{
+    m_byPath.reserve(int(m_files.size()));
+    for (size_t i = 0; i < m_files.size(); ++i) {
+        m_byPath.insert(FileSystem::comparable(m_files[i]->path), int(i));
+        m_namingCount += m_files[i]->type == IndexedType::Picture ? 0 : 1;
+    }
+}
+
+FileNamingPtr ReferenceIndex::file(const QString &path) const
+{
+    const auto found = m_byPath.constFind(FileSystem::comparable(path));
+    return found == m_byPath.constEnd() ? nullptr : m_files[size_t(*found)];
+}
+
+std::vector<NamedUse> ReferenceIndex::usesOf(const NamedThing &thing) const
+{
+    std::vector<NamedUse> uses;
+    const QString key = isNamedByPath(thing.kind) ? pathKey(thing.path) : QString();
+    QHash<QString, QString> materials; // those that name the texture, by their keys
+    for (const FileNamingPtr &file : m_files) {
+        for (const NamedInFile &named : file->names) {
+            if (!named.isAbout(thing, key))
+                continue;
+            uses.push_back({file, named, {}});
+            if (file->type != IndexedType::Materials)
+                continue;
+            for (const RecordRef &place : file->placesOf(named)) {
+                const QString path = file->materialPath(place.index[0]);
+                materials.insert(pathKey(path), path);
+            }
+        }
+    }
+    if (materials.isEmpty())
+        return uses;
+    for (const FileNamingPtr &file : m_files) {
+        for (const NamedInFile &named : file->names) {
+            if (named.thing.kind == NamedKind::Material && materials.contains(named.key))
+                uses.push_back({file, named, materials.value(named.key)});
+        }
+    }
+    return uses;
+}
+
+QSet<QString> ReferenceIndex::keysNamed(NamedKind kind) const
+{
+    QSet<QString> keys;
+    for (const FileNamingPtr &file : m_files) {
+        for (const NamedInFile &each : file->names) {
+            if (each.thing.kind == kind)
+                keys.insert(each.key);
+        }
+    }
+    return keys;
+}
+
+std::vector<ReferenceIndex::Unused> ReferenceIndex::unusedMaterials() const
+{
+    const QSet<QString> named = keysNamed(NamedKind::Material);
+    std::vector<Unused> unused;
+    for (const FileNamingPtr &file : m_files) {
+        for (int i = 0; i < file->materials.size(); ++i) {
+            const QString path = file->materialPath(i);
+            if (!named.contains(pathKey(path)))
+                unused.push_back({file, path});
+        }
+    }
+    return unused;
+}
+
+std::vector<ReferenceIndex::Unused> ReferenceIndex::unusedTextures() const
+{
+    const QSet<QString> named = keysNamed(NamedKind::Texture);
+    std::vector<Unused> unused;
+    for (const FileNamingPtr &file : m_files) {
+        if (file->type == IndexedType::Picture && !named.contains(pathKey(file->relative)))
+            unused.push_back({file, file->relative});
+    }
+    return unused;
+}
+
+QSet<int> ReferenceIndex::numbersNamed(NamedKind kind) const
+{
+    QSet<int> numbers;
+    for (const FileNamingPtr &file : m_files) {
+        for (const NamedInFile &each : file->names) {
+            if (each.thing.kind == kind)
+                numbers.insert(int(each.thing.number));
+        }
+    }
+    return numbers;
+}
+
+ReferenceIndexPtr makeReferenceIndex(const MaterialFolders &folders, const ReferenceIndexPtr &known,
+                                     const std::atomic_bool &isCancelled, IndexProgress &progress,
+                                     int threads)
+{
+    std::vector<FileNaming> files = listFiles(folders, isCancelled);
+    std::vector<FileNamingPtr> namings(files.size());
+    progress.files = int(files.size());
+    std::atomic_size_t next{0};
+    QThreadPool pool;
+    pool.setMaxThreadCount(std::max(threads, 1));
+    for (int i = 0; i < pool.maxThreadCount(); ++i) {
+        pool.start([&] {
+            for (size_t at = next++; at < files.size() && !isCancelled; at = next++) {
+                namings[at] = namingAsItIs(files[at], known, progress);
+                ++progress.done;
+            }
+        });
+    }
+    pool.waitForDone();
+    return isCancelled ? nullptr : std::make_shared<const ReferenceIndex>(folders, std::move(namings));
+}

@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "FileNaming.h"
+#include "Validation.h"
+
+#include <QHash>
+#include <QSet>
+
+#include <atomic>
+
+/// A file that names a thing, or that has a material by which it comes to it.
+struct NamedUse
+{
+    FileNamingPtr file;
+    NamedInFile named; ///< in the file; of a use by a material, that material
+    QString via;       ///< the material by which a model uses a texture; empty when the file names it itself
+};
+
+/// How far the making of an index is; any thread may look.
+struct IndexProgress
+{
+    std::atomic_int files{0}; ///< how many there are; 0 as long as they are looked for
+    std::atomic_int done{0};
+    std::atomic_int read{0}; ///< of these, how many were not known as they are
+};
+
+/// What all models, animations and materials of game and mod name. Never changes once it is made, so any
+/// number of threads may ask; questions take a walk through all names, which are few.
+class ReferenceIndex
+{
+public:
+    ReferenceIndex(MaterialFolders folders, std::vector<FileNamingPtr> files);
+
+    const MaterialFolders &folders() const { return m_folders; }
+    /// By path; pictures, which name nothing, are among them.
+    const std::vector<FileNamingPtr> &files() const { return m_files; }
+    /// Null for a file that is not known.
+    FileNamingPtr file(const QString &path) const;
+    /// How many files name something, or could.
+    int namingCount() const { return m_namingCount; }
+
+    /// Who names the thing, in the order of the paths. Of a texture the materials come first, and then the
+    /// models that have one of these. A material file of the mod counts as much as the game's of the same
+    /// name, since the mod may be meant to take its place.
+    std::vector<NamedUse> usesOf(const NamedThing &thing) const;
+    /// The materials, or the pictures, of the index that no model, or no material, names: relative to the
+    /// folders, with the file that has each.
+    struct Unused
+    {
+        FileNamingPtr file;
+        QString path;
+    };
+    std::vector<Unused> unusedMaterials() const;
+    std::vector<Unused> unusedTextures() const;
+    /// The numbers of a kind that some file names.
+    QSet<int> numbersNamed(NamedKind kind) const;
+
+private:
+    QSet<QString> keysNamed(NamedKind kind) const;
+
+    MaterialFolders m_folders;
+    std::vector<FileNamingPtr> m_files;
+    QHash<QString, int> m_byPath; ///< FileSystem::comparable()
+    int m_namingCount = 0;
+};
+
+using ReferenceIndexPtr = std::shared_ptr<const ReferenceIndex>;
+
+/// Makes the index of the folders, in so many threads. Files that `known`, which may be null, has with the
+/// same stamp are taken over and not read. Null when `isCancelled` became true. Any thread may call it; it
+/// returns when it is done.
+ReferenceIndexPtr makeReferenceIndex(const MaterialFolders &folders, const ReferenceIndexPtr &known,
+                                     const std::atomic_bool &isCancelled, IndexProgress &progress,
+                                     int threads);

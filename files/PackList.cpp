@@ -44,7 +44,7 @@ const Stranger strangers[] = {
     {"^(thumbs\\.db|ehthumbs\\.db|desktop\\.ini)$", QT_TRANSLATE_NOOP("Packing", "of the desktop")},
 };
 
-/// Why a file of this name does not belong; empty when it does.
+/// The same by the last part of the path.
 QString strangeness(const QString &name)
 {
     static const std::vector<std::pair<QRegularExpression, const char *>> kinds = [] {
@@ -128,6 +128,13 @@ void sortByName(std::vector<File> &files)
 }
 } // namespace
 
+QString reasonToLeaveOut(const QString &name)
+{
+    return name.startsWith(QLatin1String("__MACOSX/"))
+               ? PackTexts::tr("of the desktop")
+               : strangeness(name.mid(name.lastIndexOf(QLatin1Char('/')) + 1));
+}
+
 PackList listForPacking(const QString &modFolder, const QString &gamePath, const QStringList &leftOut,
                         const std::function<bool()> &goesOn)
 {
@@ -145,9 +152,7 @@ PackList listForPacking(const QString &modFolder, const QString &gamePath, const
             return true;
         const QString name = root.relativeFilePath(entry.path);
         const QFileInfo file(entry.path);
-        QString reason = strangeness(file.fileName());
-        if (reason.isEmpty() && name.startsWith(QLatin1String("__MACOSX/")))
-            reason = PackTexts::tr("of the desktop");
+        QString reason = reasonToLeaveOut(name);
         if (reason.isEmpty() && patterns.have(name, file.fileName()))
             reason = PackTexts::tr("as asked for");
         if (!reason.isEmpty()) {

@@ -35,6 +35,9 @@ struct PackList
     QStringList problems; ///< sentences on names that cannot go into one archive, each with its file
 };
 
+/// Why a file is none of the mod's, by its path below the mod's folder; empty when it belongs.
+QString reasonToLeaveOut(const QString &name);
+
 /// Walks through the mod's folder. `leftOut` are patterns with * and ?, of paths below it or, without a
 /// slash, of names; `gamePath`, if any, is where replaced files are looked for. Ends early, with what it has,
 /// when `goesOn` returns false.

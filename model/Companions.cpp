@@ -100,6 +100,17 @@ const Companions::Below &Companions::filesBelow(const QString &folder)
     return *m_files.insert(folder, files);
 }
 
+const QVector<Companions::Candidate> &Companions::filesIn(const QString &folder)
+{
+    const auto known = m_beside.constFind(folder);
+    if (known != m_beside.constEnd())
+        return *known;
+    QVector<Candidate> files;
+    for (const QString &name : Files::names(folder, Files::Kind::File))
+        files += candidateOf(QDir(folder).filePath(name));
+    return *m_beside.insert(folder, files);
+}
+
 QVector<Companions::Candidate> Companions::alikeBelow(const QString &folder, const Candidate &known)
 {
     const Below &files = filesBelow(folder);
@@ -126,12 +137,10 @@ CompanionFile Companions::find(const QString &file)
         (apart.isEmpty() ? QString() : folder.mid(apart.size() - there.size() + here.size())) +
         QLatin1Char('/') + known.base + QLatin1Char('.') + suffix;
 
-    QVector<Candidate> beside;
-    int alike = 0;
-    for (const QString &name : Files::names(folder, Files::Kind::File)) {
-        beside += candidateOf(QDir(folder).filePath(name));
-        alike += isSame(beside.last().suffix, known.suffix) ? 1 : 0;
-    }
+    const QVector<Candidate> beside = filesIn(folder);
+    const auto alike = std::count_if(beside.begin(), beside.end(), [&known](const Candidate &each) {
+        return isSame(each.suffix, known.suffix);
+    });
     QVector<Candidate> listed;
     for (const QString &path : qAsConst(m_listed))
         listed += candidateOf(path);

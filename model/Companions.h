@@ -54,11 +54,14 @@ private:
         QHash<QString, QVector<int>> byFolder;
     };
     const Below &filesBelow(const QString &folder);
+    /// The files in a folder.
+    const QVector<Candidate> &filesIn(const QString &folder);
     /// Those whose name or folder's name are those of `known`, in their order.
     QVector<Candidate> alikeBelow(const QString &folder, const Candidate &known);
 
     QStringList m_roots; ///< of the game and the mod
     QStringList m_listed;
     std::function<bool()> m_isCancelled;
-    QHash<QString, Below> m_files; ///< by the folder that they were looked for in
+    QHash<QString, Below> m_files; ///< by the folder that they were looked for in, as the next
+    QHash<QString, QVector<Candidate>> m_beside;
 };

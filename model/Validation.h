@@ -26,6 +26,12 @@ std::vector<Finding> validate(const AnimFile &file, const SkinnedMesh *mesh, con
                               int listed = ListedFindings);
 std::vector<Finding> validate(const StaticMesh &mesh, const MaterialFolders &folders = {},
                               int listed = ListedFindings);
+class MaterialFaults;
+/// The same, with materials that are looked up once for several models.
+std::vector<Finding> validate(const SkinnedMesh &mesh, MaterialFaults &materials, const ReferenceIds &ids,
+                              int listed = ListedFindings);
+std::vector<Finding> validate(const StaticMesh &mesh, MaterialFaults &materials, int listed = ListedFindings);
+
 /// The textures of a material file. There is no record for a place.
 std::vector<Finding> validate(const MaterialTable &materials, const MaterialFolders &folders,
                               int listed = ListedFindings);

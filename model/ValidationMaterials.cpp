@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "MaterialFaults.h"
+
 #include "BinaryFileWriter.h"
 #include "FilePictures.h"
 #include "Files.h"
-#include "MaterialFiles.h"
 #include "ValidationParts.h"
 
 #include <QDir>
@@ -50,63 +51,21 @@ struct OtherCase
 } // namespace
 
 void checkMaterials(FindingCollector &found, const QStringList &materialPaths, RecordKind surfaceKind,
-                    const MaterialFolders &folders)
+                    MaterialFaults &materials)
 {
-    if (folders.gamePath.isEmpty())
-        return;
-    MaterialFiles files(folders.gamePath, folders.outputDir);
     QSet<QString> seen;
+    QSet<QString> unreadFiles; // said once a file
     for (int s = 0; s < materialPaths.size() && seen.size() < MostMaterials; ++s) {
         const QString &path = materialPaths[s];
-        const QString surface = number(s);
         if (seen.contains(path))
             continue;
         seen.insert(path);
-        const RecordRef place{surfaceKind, {s, 0, 0}};
-        const MaterialFiles::Lookup material = files.find(path);
-        if (!material.error.isEmpty()) {
-            const QStringList tried = files.candidates(QFileInfo(path).path() + QStringLiteral(".kmat"));
-            const bool isThere = std::any_of(tried.begin(), tried.end(), Files::isFile);
-            found.add(Rule::MaterialNotFound, place, [&] {
-                return isThere
-                           ? Texts::tr("Surface %1 is drawn white: the file of its material '%2' cannot be "
-                                       "read. %3")
-                                 .arg(surface, path, material.error)
-                           : Texts::tr("Surface %1 is drawn white: there is no file of its material '%2'. "
-                                       "Tried: %3. Correct the surface's material path, or put the file "
-                                       "into one of these places.")
-                                 .arg(surface, path, list(tried));
-            });
-        } else if (!material.warning.isEmpty()) {
-            found.add(Rule::MaterialNotFound, place, [&] {
-                return Texts::tr("Surface %1 is drawn white: %2. Correct the surface's material path, or "
-                                 "add the material to the file.")
-                    .arg(surface, material.warning);
-            });
-        } else if (material.isThere && material.texture.isEmpty()) {
-            found.add(Rule::TextureNotFound, place, [&] {
-                return Texts::tr(
-                           "Surface %1 is drawn white: its material '%2' names no texture. Add a sampler "
-                           "with the path of a picture to it, or name another material.")
-                    .arg(surface, path);
-            });
-        } else if (!material.texture.isEmpty() && material.texture != MaterialFiles::Blank) {
-            const QStringList tried = files.candidates(material.texture);
-            if (std::any_of(tried.begin(), tried.end(), Files::isPicture)) {
-                const OtherCase other(files.search(),
-                                      {QFileInfo(path).path() + QStringLiteral(".kmat"), material.texture});
-                if (!other.spelled.isEmpty())
-                    found.add(Rule::NameCase, place,
-                              [&] { return other.text(Texts::tr("Surface %1").arg(surface)); });
-                continue;
-            }
-            found.add(Rule::TextureNotFound, place, [&] {
-                return Texts::tr("Surface %1 is drawn white: the texture '%2' of its material '%3' is no "
-                                 "picture that can be read. Tried: %4. Put the picture into one of these "
-                                 "places, or name another one in the material's file.")
-                    .arg(surface, material.texture, path, list(tried));
-            });
-        }
+        const MaterialFaults::Fault &fault = materials.of(path);
+        if (!fault.text || unreadFiles.contains(fault.unreadFile))
+            continue;
+        if (!fault.unreadFile.isEmpty())
+            unreadFiles.insert(fault.unreadFile);
+        found.add(fault.rule, {surfaceKind, {s, 0, 0}}, [&] { return fault.text(number(s)); });
     }
 }
 
@@ -126,6 +85,74 @@ void checkTexts(FindingCollector &found, const QStringList &materialPaths, Recor
     }
 }
 } // namespace Validation
+
+MaterialFaults::MaterialFaults(const MaterialFolders &folders)
+    : m_isSearching(!folders.gamePath.isEmpty())
+    , m_files(folders.gamePath, folders.outputDir)
+{}
+
+const MaterialFaults::Fault &MaterialFaults::of(const QString &materialPath)
+{
+    const auto known = m_faults.constFind(materialPath);
+    if (known != m_faults.constEnd())
+        return *known;
+    return *m_faults.insert(materialPath, m_isSearching ? look(materialPath) : Fault());
+}
+
+MaterialFaults::Fault MaterialFaults::look(const QString &path)
+{
+    using namespace Validation;
+    const QString file = QFileInfo(path).path() + QStringLiteral(".kmat");
+    const MaterialFiles::Lookup material = m_files.find(path);
+    if (!material.error.isEmpty())
+        m_errors.insert(file, material.error);
+    const QString error = m_errors.value(file);
+    if (!error.isEmpty() && material.texture.isEmpty()) {
+        const QStringList tried = m_files.candidates(file);
+        const bool isThere = std::any_of(tried.begin(), tried.end(), Files::isFile);
+        return {Rule::MaterialNotFound, file, [path, error, tried, isThere](const QString &surface) {
+                    return isThere
+                               ? Texts::tr("Surface %1 is drawn white: the file of its material '%2' cannot "
+                                           "be read. %3")
+                                     .arg(surface, path, error)
+                               : Texts::tr("Surface %1 is drawn white: there is no file of its material "
+                                           "'%2'. Tried: %3. Correct the surface's material path, or put "
+                                           "the file into one of these places.")
+                                     .arg(surface, path, list(tried));
+                }};
+    }
+    if (!material.warning.isEmpty()) {
+        return {Rule::MaterialNotFound, {}, [warning = material.warning](const QString &surface) {
+                    return Texts::tr("Surface %1 is drawn white: %2. Correct the surface's material path, or "
+                                     "add the material to the file.")
+                        .arg(surface, warning);
+                }};
+    }
+    if (material.isThere && material.texture.isEmpty()) {
+        return {Rule::TextureNotFound, {}, [path](const QString &surface) {
+                    return Texts::tr("Surface %1 is drawn white: its material '%2' names no texture. Add a "
+                                     "sampler with the path of a picture to it, or name another material.")
+                        .arg(surface, path);
+                }};
+    }
+    if (material.texture.isEmpty() || material.texture == MaterialFiles::Blank)
+        return {};
+    const QStringList tried = m_files.candidates(material.texture);
+    if (!std::any_of(tried.begin(), tried.end(), Files::isPicture)) {
+        return {Rule::TextureNotFound, {}, [path, texture = material.texture, tried](const QString &surface) {
+                    return Texts::tr("Surface %1 is drawn white: the texture '%2' of its material '%3' is no "
+                                     "picture that can be read. Tried: %4. Put the picture into one of these "
+                                     "places, or name another one in the material's file.")
+                        .arg(surface, texture, path, list(tried));
+                }};
+    }
+    const OtherCase other(m_files.search(), {file, material.texture});
+    if (other.spelled.isEmpty())
+        return {};
+    return {Rule::NameCase, {}, [other](const QString &surface) {
+                return other.text(Texts::tr("Surface %1").arg(surface));
+            }};
+}
 
 std::vector<Finding> validate(const MaterialTable &materials, const MaterialFolders &folders, int listed)
 {

@@ -180,6 +180,11 @@ void checkVertices(FindingCollector &found, const Mesh &mesh, RecordKind vertexK
 {
     for (size_t v = 0; v < mesh.vertices.size(); ++v) {
         const auto &vertex = mesh.vertices[v];
+        // Nearly all are in order, which a sum tells: it is finite only if all of them are.
+        const QVector3D sum = vertex.position + vertex.normal;
+        if (std::isfinite(sum.x() + sum.y() + sum.z() + vertex.uv.x() + vertex.uv.y()) &&
+            lengthSquared(vertex.normal) > ZeroLengthSquared)
+            continue;
         const RecordRef place{vertexKind, {int(v), 0, 0}};
         checkFinite(found, place, std::pair(Field::position, vertex.position),
                     std::pair(Field::uv, vertex.uv), std::pair(Field::normal, vertex.normal));
@@ -199,7 +204,7 @@ void checkTexts(FindingCollector &found, const QStringList &materialPaths, Recor
 
 /// The materials that the surfaces name, and their textures.
 void checkMaterials(FindingCollector &found, const QStringList &materialPaths, RecordKind surfaceKind,
-                    const MaterialFolders &folders);
+                    MaterialFaults &materials);
 
 template <typename Mesh>
 QStringList materialPaths(const Mesh &mesh)

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "MaterialFaults.h"
 #include "ReferenceIds.h"
 #include "Transform.h"
 #include "ValidationParts.h"
@@ -342,11 +343,18 @@ void check(FindingCollector &found, const SkinnedMesh &mesh)
 std::vector<Finding> validate(const SkinnedMesh &mesh, const MaterialFolders &folders,
                               const ReferenceIds &ids, int listed)
 {
+    MaterialFaults materials(folders);
+    return validate(mesh, materials, ids, listed);
+}
+
+std::vector<Finding> validate(const SkinnedMesh &mesh, MaterialFaults &materials, const ReferenceIds &ids,
+                              int listed)
+{
     FindingCollector found(listed);
     check(found, mesh);
     checkIds(found, mesh, ids);
     checkEnd(found, {RecordKind::SkinnedMesh, {}}, mesh.bytesBehind);
-    checkMaterials(found, materialPaths(mesh), RecordKind::SkinnedSurface, folders);
+    checkMaterials(found, materialPaths(mesh), RecordKind::SkinnedSurface, materials);
     return found.take();
 }
 

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "MaterialFaults.h"
 #include "Transform.h"
 #include "ValidationParts.h"
 
@@ -28,10 +29,16 @@ void check(FindingCollector &found, const StaticMesh &mesh)
 
 std::vector<Finding> validate(const StaticMesh &mesh, const MaterialFolders &folders, int listed)
 {
+    MaterialFaults materials(folders);
+    return validate(mesh, materials, listed);
+}
+
+std::vector<Finding> validate(const StaticMesh &mesh, MaterialFaults &materials, int listed)
+{
     FindingCollector found(listed);
     check(found, mesh);
     checkEnd(found, {RecordKind::StaticMesh, {}}, mesh.bytesBehind);
-    checkMaterials(found, materialPaths(mesh), RecordKind::StaticSurface, folders);
+    checkMaterials(found, materialPaths(mesh), RecordKind::StaticSurface, materials);
     return found.take();
 }
 

@@ -1,37 +1,21 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
-#include "Companions.h"
+#include "ExitCode.h"
+#include "Files.h"
+#include "ModCheck.h"
 #include "ModelFile.h"
 #include "Output.h"
-#include "Records.h"
-#include "ReferenceIds.h"
-#include "Validation.h"
+#include "SarifLog.h"
 #include "Verbs.h"
 
+#include <QDir>
 #include <QJsonObject>
 
 #include <climits>
+#include <map>
 
 namespace {
-/// One thing that is wrong with a file.
-struct Fault
-{
-    QString severity; ///< "error", "warning" or "note"
-    QString rule;     ///< its name for programs
-    QString text;
-    RecordRef place;      ///< of no kind when the file could not be read
-    qint64 notListed = 0; ///< in the line that closes a long list: how many more there are
-};
-
-/// What stays the same for all files that are checked.
-struct CheckBasis
-{
-    ReferenceIds ids;
-    Companions &companions;
-    int listed = 0; ///< faults of one rule in one file
-};
-
 struct Name
 {
     const char *name;
@@ -79,55 +63,6 @@ constexpr Name kindNames[] = {
 static_assert(sizeof kindNames / sizeof kindNames[0] == size_t(RecordKind::StaticVertices) + 1,
               "every kind has its name");
 
-struct Validator
-{
-    const QString &file;
-    const MaterialFolders &folders;
-    const CheckBasis &basis;
-
-    std::vector<Finding> operator()(const SkinnedMesh &mesh) const
-    {
-        return validate(mesh, folders, basis.ids, basis.listed);
-    }
-    std::vector<Finding> operator()(const MaterialTable &materials) const
-    {
-        return validate(materials, folders, basis.listed);
-    }
-    std::vector<Finding> operator()(const StaticMesh &mesh) const
-    {
-        return validate(mesh, folders, basis.listed);
-    }
-    std::vector<Finding> operator()(const AnimFile &anim) const
-    {
-        FileContent companion;
-        const QString path = basis.companions.find(file).path;
-        // One that cannot be read has faults of its own, and says nothing about the animation.
-        const bool readable = !path.isEmpty() && readFile(path, companion).isEmpty();
-        return validate(anim, readable ? std::get_if<SkinnedMesh>(&companion) : nullptr, basis.ids,
-                        basis.listed);
-    }
-    template <typename Other>
-    std::vector<Finding> operator()(const Other &) const
-    {
-        return {};
-    }
-};
-/// Reads a file and gives what is wrong with it. An animation is compared with the mesh that belongs to it,
-/// if there is one.
-std::vector<Fault> faultsOf(const QString &file, const MaterialFolders &folders, const CheckBasis &basis)
-{
-    FileContent content;
-    const QString error = readFile(file, content);
-    if (!error.isEmpty())
-        return {{QStringLiteral("error"), QStringLiteral("unreadable"), error, {}}};
-    std::vector<Fault> faults;
-    for (const Finding &finding : std::visit(Validator{file, folders, basis}, content)) {
-        faults.push_back({severityId(severityOf(finding.rule)), ruleId(finding.rule), finding.text,
-                          finding.place, finding.notListed});
-    }
-    return faults;
-}
-
 /// The kind of a record for programs, such as "bone"; empty for no kind.
 QString recordName(RecordKind kind)
 {
@@ -140,22 +75,40 @@ int indexCount(RecordKind kind)
     return kindNames[size_t(kind)].indexes;
 }
 
-QJsonObject jsonFault(const Fault &fault)
+/// What was found in one file, which may be silenced.
+struct CheckedFile
 {
-    QJsonObject object{{QStringLiteral("severity"), fault.severity},
-                       {QStringLiteral("rule"), fault.rule},
-                       {QStringLiteral("text"), fault.text}};
-    if (fault.place.kind != RecordKind::None) {
+    QString path;
+    std::vector<ModFinding> findings;
+};
+
+QJsonObject jsonFinding(const ModFinding &finding)
+{
+    QJsonObject object{{QStringLiteral("severity"), severityId(finding.rule.severity)},
+                       {QStringLiteral("rule"), finding.rule.id},
+                       {QStringLiteral("text"), finding.text}};
+    if (finding.place.kind != RecordKind::None) {
         QJsonArray index;
-        for (int i = 0; i < indexCount(fault.place.kind); ++i)
-            index.append(fault.place.index[size_t(i)]);
+        for (int i = 0; i < indexCount(finding.place.kind); ++i)
+            index.append(finding.place.index[size_t(i)]);
         object.insert(QStringLiteral("record"),
-                      QJsonObject{{QStringLiteral("kind"), recordName(fault.place.kind)},
+                      QJsonObject{{QStringLiteral("kind"), recordName(finding.place.kind)},
                                   {QStringLiteral("index"), index}});
     }
-    if (fault.notListed > 0)
-        object.insert(QStringLiteral("notListed"), fault.notListed);
+    if (finding.notListed > 0)
+        object.insert(QStringLiteral("notListed"), finding.notListed);
+    if (finding.isSilenced)
+        object.insert(QStringLiteral("silenced"), finding.why);
     return object;
+}
+
+QString textOf(const QString &path, const ModFinding &finding)
+{
+    const QString silence = !finding.isSilenced     ? QString()
+                            : finding.why.isEmpty() ? QStringLiteral(" (silenced)")
+                                                    : QStringLiteral(" (silenced: %1)").arg(finding.why);
+    return QStringLiteral("%1: %2: %3 [%4]%5")
+        .arg(path, severityId(finding.rule.severity), finding.text, finding.rule.id, silence);
 }
 
 /// What was found, over all files.
@@ -165,13 +118,15 @@ struct Tally
     qint64 errors = 0;
     qint64 warnings = 0;
     qint64 notes = 0;
+    qint64 silenced = 0;
 
-    void add(const Fault &fault)
+    void add(const ModFinding &finding)
     {
-        qint64 &count = fault.severity == QLatin1String("error")     ? errors
-                        : fault.severity == QLatin1String("warning") ? warnings
+        qint64 &count = finding.isSilenced                           ? silenced
+                        : finding.rule.severity == Severity::Error   ? errors
+                        : finding.rule.severity == Severity::Warning ? warnings
                                                                      : notes;
-        count += std::max<qint64>(fault.notListed, 1);
+        count += std::max<qint64>(finding.notListed, 1);
     }
 
     QString text() const
@@ -180,11 +135,115 @@ struct Tally
             return QStringLiteral("%1 %2%3").arg(QString::number(count), QLatin1String(one),
                                                  count == 1 ? QString() : QStringLiteral("s"));
         };
-        return QStringLiteral("%1 checked: %2, %3, %4")
-            .arg(number(files, "file"), number(errors, "error"), number(warnings, "warning"),
-                 number(notes, "note"));
+        const QString found = QStringLiteral("%1 checked: %2, %3, %4")
+                                  .arg(number(files, "file"), number(errors, "error"),
+                                       number(warnings, "warning"), number(notes, "note"));
+        return silenced == 0 ? found : found + QStringLiteral(", %1 silenced").arg(silenced);
     }
 };
+
+/// Says what was found, in the way that was asked for.
+class CheckOutput
+{
+public:
+    CheckOutput(const QString &format, bool listsSilenced)
+        : m_format(format)
+        , m_listsSilenced(listsSilenced)
+    {}
+
+    void add(const CheckedFile &file)
+    {
+        QJsonArray list;
+        for (const ModFinding &finding : file.findings) {
+            m_tally.add(finding);
+            if (finding.isSilenced && !m_listsSilenced)
+                continue;
+            if (m_format == QLatin1String("json"))
+                list.append(jsonFinding(finding));
+            else if (m_format == QLatin1String("sarif"))
+                m_sarif.add(file.path, finding, recordText(finding.place));
+            else
+                Output::line(textOf(file.path, finding));
+        }
+        if (m_format == QLatin1String("json"))
+            m_array.append(
+                QJsonObject{{QStringLiteral("file"), file.path}, {QStringLiteral("findings"), list}});
+    }
+    void setFiles(qint64 number) { m_tally.files = number; }
+
+    /// Whether there were errors.
+    [[nodiscard]] bool finish()
+    {
+        if (m_format == QLatin1String("json"))
+            Output::json(m_array);
+        else if (m_format == QLatin1String("sarif"))
+            return Output::bytes(m_sarif.text()) || m_tally.errors > 0;
+        else
+            Output::line(m_tally.text());
+        return m_tally.errors > 0;
+    }
+
+private:
+    /// "block 3 action 1", as other verbs name records.
+    static QString recordText(const RecordRef &place)
+    {
+        QStringList words;
+        for (int i = 0; i < indexCount(place.kind); ++i)
+            words << QString::number(place.index[size_t(i)]);
+        words.prepend(recordName(place.kind));
+        return words.join(QLatin1Char(' ')).trimmed();
+    }
+
+    QString m_format;
+    bool m_listsSilenced;
+    Tally m_tally;
+    QJsonArray m_array;
+    SarifLog m_sarif;
+};
+
+/// Checks files one by one. Returns whether an operand named none.
+bool checkFiles(const QStringList &operands, const MaterialFolders &folders, int listed, CheckOutput &output)
+{
+    FileCheck check(folders, ReferenceIds::load(), listed);
+    bool failed = false;
+    qint64 count = 0;
+    for (const QString &path : operands) {
+        const QStringList files = filesBelow(path, isReadable);
+        if (files.isEmpty()) {
+            failed = true;
+            Output::complain(QStringLiteral("%1: There is no file to check in this folder.").arg(path));
+        }
+        for (const QString &file : files) {
+            CheckedFile checked{file, {}};
+            for (const FileFinding &finding : check.check(file))
+                checked.findings.push_back({finding, file});
+            output.add(checked);
+            ++count;
+        }
+    }
+    output.setFiles(count);
+    return failed;
+}
+
+/// Checks a mod as a whole. Of files without findings only those are told that were read.
+bool checkMod(const QString &mod, const MaterialFolders &folders, int listed, CheckOutput &output)
+{
+    const ModReport report = ModCheck({folders.gamePath, mod}, ReferenceIds::load(), listed).run();
+    output.setFiles(report.files);
+    std::map<QString, CheckedFile> files;
+    for (const QString &path : report.checked)
+        files[path].path = path;
+    for (const ModFinding &finding : report.findings) {
+        CheckedFile &file = files[QDir(mod).filePath(finding.name)];
+        file.path = QDir(mod).filePath(finding.name);
+        file.findings.push_back(finding);
+    }
+    for (const auto &[path, file] : files)
+        output.add(file);
+    if (report.files == 0)
+        Output::complain(QStringLiteral("%1: There is no file to check in this folder.").arg(mod));
+    return report.files == 0;
+}
 } // namespace
 
 int check(const QStringList &arguments)
@@ -194,49 +253,52 @@ int check(const QStringList &arguments)
         QStringLiteral("Says what is wrong with skinned meshes, animations, static meshes and materials: "
                        "which cannot be read and why, and which records do not fit together. Of a "
                        "folder, all files in it and below it are checked."));
-    line.flag(QStringLiteral("json"), QStringLiteral("Write an array of objects, one a file, for programs."));
+    line.flag(
+        QStringLiteral("mod"),
+        QStringLiteral("PATH is a mod's folder or archive: check it as a whole, with the rules that take "
+                       "several files, textures, and what %1 in it silences.")
+            .arg(CheckSettings::FileName));
+    line.flag(QStringLiteral("silenced"),
+              QStringLiteral("With --mod: list what is silenced, too, with the reason."));
+    line.option({QStringLiteral("format")}, QStringLiteral("FORMAT"),
+                QStringLiteral("Write text, json or sarif (SARIF 2.1.0, for build servers)."),
+                QStringLiteral("text"));
+    line.flag(QStringLiteral("json"), QStringLiteral("The same as --format json: an array of objects, one a "
+                                                     "file, for programs."));
     line.flag(
         QStringLiteral("all"),
         QStringLiteral("List all places of a fault, not only the first %1 in a file.").arg(ListedFindings));
     line.folderOptions(CommandLine::GameFolder::IfKnown);
     if (const auto end = line.parse(arguments, true))
         return *end;
+    const bool isMod = line.isSet(QStringLiteral("mod"));
+    const QString format =
+        line.isSet(QStringLiteral("json")) ? QStringLiteral("json") : line.value(QStringLiteral("format"));
+    if (!QStringList{QStringLiteral("text"), QStringLiteral("json"), QStringLiteral("sarif")}.contains(
+            format))
+        return line.refuse(QStringLiteral("--format takes text, json or sarif, not '%1'.").arg(format));
+    if (line.isSet(QStringLiteral("json")) && line.isSet(QStringLiteral("format")) &&
+        line.value(QStringLiteral("format")) != format)
+        return line.refuse(QStringLiteral("--json and --format name two formats."));
+    if (isMod && (line.operands().size() != 1 || line.isSet(QStringLiteral("mod-path"))))
+        return line.refuse(QStringLiteral("--mod takes one folder, the mod's, and no --mod-path."));
+    if (!isMod && line.isSet(QStringLiteral("silenced")))
+        return line.refuse(QStringLiteral("--silenced goes with --mod."));
 
-    const bool json = line.isSet(QStringLiteral("json"));
     const MaterialFolders folders = chosenFolders(line);
-    Companions companions(folders);
-    const CheckBasis basis{ReferenceIds::load(), companions,
-                           line.isSet(QStringLiteral("all")) ? INT_MAX : ListedFindings};
+    const int listed = line.isSet(QStringLiteral("all")) ? INT_MAX : ListedFindings;
     if (folders.gamePath.isEmpty())
         Output::complain(
             QStringLiteral("Materials are not looked for, without a game folder; --game-path names one."));
-    Tally tally;
-    bool failed = false;
-    QJsonArray array;
-    for (const QString &path : line.operands()) {
-        const QStringList files = filesBelow(path, isReadable);
-        if (files.isEmpty()) {
-            failed = true;
-            Output::complain(QStringLiteral("%1: There is no file to check in this folder.").arg(path));
-        }
-        for (const QString &file : files) {
-            ++tally.files;
-            QJsonArray list;
-            for (const Fault &fault : faultsOf(file, folders, basis)) {
-                tally.add(fault);
-                if (json)
-                    list.append(jsonFault(fault));
-                else
-                    Output::line(
-                        QStringLiteral("%1: %2: %3 [%4]").arg(file, fault.severity, fault.text, fault.rule));
-            }
-            if (json)
-                array.append(QJsonObject{{QStringLiteral("file"), file}, {QStringLiteral("findings"), list}});
-        }
+    const QString mod = line.operands().first();
+    if (isMod && !Files::isFolder(mod)) {
+        const QString problem = Files::archiveProblem(Files::archiveOf(mod));
+        Output::complain(QStringLiteral("%1: %2").arg(
+            mod, problem.isEmpty() ? QStringLiteral("This is neither a folder nor an archive.") : problem));
+        return Failed;
     }
-    if (json)
-        Output::json(array);
-    else
-        Output::line(tally.text());
-    return failed || tally.errors > 0 ? Failed : Fine;
+    CheckOutput output(format, line.isSet(QStringLiteral("silenced")));
+    const bool failed =
+        isMod ? checkMod(mod, folders, listed, output) : checkFiles(line.operands(), folders, listed, output);
+    return output.finish() || failed ? Failed : Fine;
 }

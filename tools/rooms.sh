@@ -26,7 +26,7 @@ picture=docs/images/rooms.svg
 floors='core resources translations
 files net app/desktop import/box
 model
-undo motion references import render/scene app/widgets json
+undo mod motion references import render/scene app/widgets json
 find render/gl
 app/documents app/choice app/materials gltf import/scene render/input tool/line
 render import/ready

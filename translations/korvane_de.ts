@@ -1404,6 +1404,69 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
 </context>
 <context>
+    <name>CheckSettings</name>
+    <message>
+        <source>The file cannot be read, so nothing is silenced: %1</source>
+        <translation>Die Datei kann nicht gelesen werden, daher ist nichts stummgeschaltet: %1</translation>
+    </message>
+    <message>
+        <source>it has more than 1 MiB.</source>
+        <translation>sie hat mehr als 1 MiB.</translation>
+    </message>
+    <message>
+        <source>it holds no object</source>
+        <translation>sie enthält kein Objekt</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>The file is no JSON (%1), so nothing is silenced. Mend it, or remove it.</source>
+        <translation>Die Datei ist kein JSON (%1), daher ist nichts stummgeschaltet. Berichtigen oder entfernen Sie sie.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not known, and is left out. What is known is &apos;check&apos;.</source>
+        <translation>„%1“ ist nicht bekannt und wird übergangen. Bekannt ist „check“.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not what it has to be, %2, and is left out.</source>
+        <translation>„%1“ ist nicht, was es sein muss (%2), und wird übergangen.</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>ein Objekt</translation>
+    </message>
+    <message>
+        <source>a whole number of pixels from 1 to %1</source>
+        <translation>eine ganze Zahl von Pixeln von 1 bis %1</translation>
+    </message>
+    <message>
+        <source>Entry %1 of &apos;silence&apos; is no object, and silences nothing.</source>
+        <translation>Eintrag %1 von „silence“ ist kein Objekt und schaltet nichts stumm.</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>eine Liste</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not known, and is left out. What is known is &apos;largestTexture&apos; and &apos;silence&apos;.</source>
+        <translation>„%1“ ist nicht bekannt und wird übergangen. Bekannt sind „largestTexture“ und „silence“.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of &apos;silence&apos; silences nothing: &apos;%2&apos; is not known. What is known is &apos;rule&apos;, &apos;files&apos; and &apos;why&apos;.</source>
+        <translation>Eintrag %1 von „silence“ schaltet nichts stumm: „%2“ ist nicht bekannt. Bekannt sind „rule“, „files“ und „why“.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of &apos;silence&apos; silences nothing: &apos;%2&apos; is no text, or an empty one.</source>
+        <translation>Eintrag %1 von „silence“ schaltet nichts stumm: „%2“ ist kein Text oder ein leerer.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of &apos;silence&apos; silences nothing: there is no rule &apos;%2&apos; that can be silenced.</source>
+        <translation>Eintrag %1 von „silence“ schaltet nichts stumm: Es gibt keine Regel „%2“, die stummgeschaltet werden kann.</translation>
+    </message>
+</context>
+<context>
     <name>ChoicePopup</name>
     <message>
         <source>Nothing has these words.</source>
@@ -2828,6 +2891,33 @@ Ohne diese Eingabe fortfahren?</translation>
     <message>
         <source>%1 is a file of another kind: its name does not end in .%2.</source>
         <translation>%1 ist eine Datei anderer Art: Ihr Name endet nicht auf .%2.</translation>
+    </message>
+</context>
+<context>
+    <name>FileContent</name>
+    <message>
+        <source>The file cannot be opened.</source>
+        <translation>Die Datei kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>A count in the file is negative.</source>
+        <translation>Eine Anzahl in der Datei ist negativ.</translation>
+    </message>
+    <message>
+        <source>This is a folder.</source>
+        <translation>Das ist ein Ordner.</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <translation>Es gibt keine solche Datei.</translation>
+    </message>
+    <message>
+        <source>This is no regular file.</source>
+        <translation>Das ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>The name does not end in .%1.</source>
+        <translation>Der Name endet nicht auf .%1.</translation>
     </message>
 </context>
 <context>
@@ -4719,6 +4809,41 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>&amp;Copy</source>
         <translation>&amp;Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>ModCheck</name>
+    <message>
+        <source>The name differs from &apos;%1&apos; by case alone. The game and Windows take both for one: only one of them is found. Rename or remove one.</source>
+        <translation>Der Name unterscheidet sich von „%1“ nur in der Groß- und Kleinschreibung. Das Spiel und Windows halten beide für eins: Nur eines davon wird gefunden. Benennen Sie eines um oder entfernen Sie es.</translation>
+    </message>
+    <message>
+        <source>The file is the game&apos;s own, byte for byte: it replaces nothing. Remove it from the mod.</source>
+        <translation>Die Datei ist Byte für Byte die des Spiels: Sie ersetzt nichts. Entfernen Sie sie aus der Mod.</translation>
+    </message>
+    <message>
+        <source>The file is no picture that can be read, of these kinds: %1. Save it as one of them.</source>
+        <translation>Die Datei ist kein lesbares Bild einer dieser Arten: %1. Speichern Sie sie als eine davon.</translation>
+    </message>
+    <message>
+        <source>The texture has %1 × %2 pixels, more than %3 a side, and takes %4 MiB of the graphics card with its smaller copies. Scale it down, or allow it by &apos;largestTexture&apos; in %5.</source>
+        <translation>Die Textur hat %1 × %2 Pixel, mehr als %3 je Seite, und belegt mit ihren kleineren Kopien %4 MiB der Grafikkarte. Verkleinern Sie sie oder erlauben Sie sie durch „largestTexture“ in %5.</translation>
+    </message>
+    <message>
+        <source>The mesh has %1 bones, but animation %2 of the file that belongs to it, &apos;%3&apos;, is for %4: it cannot be played right. Give the mod animations for this mesh, or the mesh the bones of these.</source>
+        <translation>Das Mesh hat %1 Knochen, aber Animation %2 der zugehörigen Datei „%3“ ist für %4: Sie kann nicht richtig abgespielt werden. Geben Sie der Mod Animationen für dieses Mesh oder dem Mesh die Knochen von diesen.</translation>
+    </message>
+    <message>
+        <source>No model of game or mod names the material &apos;%1&apos;. If nothing else does, remove it.</source>
+        <translation>Kein Modell von Spiel oder Mod nennt das Material „%1“. Wenn auch sonst nichts es nennt, entfernen Sie es.</translation>
+    </message>
+    <message>
+        <source>No model of the mod names the material &apos;%1&apos;. If nothing else does, remove it.</source>
+        <translation>Kein Modell der Mod nennt das Material „%1“. Wenn auch sonst nichts es nennt, entfernen Sie es.</translation>
+    </message>
+    <message>
+        <source>The texture has %1 × %2 pixels. A side that is no power of two (256, 512, 1024 …) may be scaled, which blurs it, or the texture may not be shown. Scale the picture to the next one.</source>
+        <translation>Die Textur hat %1 × %2 Pixel. Eine Seite, die keine Zweierpotenz ist (256, 512, 1024 …), wird womöglich skaliert und damit unscharf, oder die Textur wird nicht gezeigt. Skalieren Sie das Bild auf die nächste.</translation>
     </message>
 </context>
 <context>

@@ -73,6 +73,10 @@ _korvane_tool() {
         mapfile -t COMPREPLY < <(compgen -W 'y z auto' -- "$cur")
         return
         ;;
+    --format)
+        mapfile -t COMPREPLY < <(compgen -W 'text json sarif' -- "$cur")
+        return
+        ;;
     --where | --leave-out | --scale | --rate | --clips | --time-limit | --block | --frame | --size | --yaw | --pitch)
         return
         ;;
@@ -80,7 +84,7 @@ _korvane_tool() {
 
     case $verb in
     info) options='--json --help' ;;
-    check) options='--json --all --game-path --mod-path --help' ;;
+    check) options='--mod --silenced --format --json --all --game-path --mod-path --help' ;;
     resave) options='--output --force --help' ;;
     dump) options='--output --force --schema --help' ;;
     find) options='--json --help' ;;

@@ -150,6 +150,67 @@ private slots:
                  (QJsonObject{{"kind", "vertex"}, {"index", QJsonArray{30}}}));
     }
 
+    void checksAModAsAWhole()
+    {
+        const QString scarf =
+            put("mod/materials/mat x.kmat", readFile(source("samples/mod/materials/mat_tinker_scarf.kmat")));
+        put("mod/textures/tinker_scarf.png", readFile(source("samples/mod/textures/tinker_scarf.png")));
+        const QString broken = put("mod/models/half.anim", "half");
+        put("mod/.korvane.json", "{\"check\": {\"silence\": [{\"rule\": \"material-unused\", \"files\": "
+                                 "\"materials/*\", \"why\": \"for levels\"}]}}");
+        const QString game = source("samples/game");
+        const QStringList rest{"--mod", path("mod"), "--game-path", game};
+
+        const ToolRun text("check", rest);
+        QCOMPARE(text.exitCode, 1);
+        QVERIFY2(text.out.contains(broken + ": error: ") && text.out.contains(" [unreadable]\n"),
+                 qUtf8Printable(text.out));
+        QVERIFY(!text.out.contains("material-unused"));
+        QVERIFY(text.out.endsWith("3 files checked: 1 error, 0 warnings, 0 notes, 1 silenced\n"));
+        const ToolRun silenced("check --silenced", rest);
+        QVERIFY(silenced.out.contains("[material-unused] (silenced: for levels)\n"));
+
+        const QJsonArray files = ToolRun("check --json --silenced", rest).json();
+        QCOMPARE(files.size(), 2);
+        QCOMPARE(files[0]["file"].toString(), scarf);
+        QCOMPARE(files[0]["findings"][0]["silenced"].toString(), QStringLiteral("for levels"));
+        QCOMPARE(ToolRun("check --format json --silenced", rest).json(), files);
+
+        // Paths are those below the folder in which the tool runs.
+        const QString here = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(path()));
+        const ToolRun log("check --format sarif --silenced --mod mod --game-path", {game});
+        QVERIFY(QDir::setCurrent(here));
+        QCOMPARE(log.exitCode, 1);
+        const QJsonObject sarif = QJsonDocument::fromJson(log.out.toUtf8()).object();
+        QCOMPARE(sarif["version"].toString(), QStringLiteral("2.1.0"));
+        const QJsonValue run = sarif["runs"][0];
+        QCOMPARE(run["results"].toArray().size(), 2);
+        QStringList results;
+        for (const QJsonValue result : run["results"].toArray()) {
+            const QJsonValue rule = run["tool"]["driver"]["rules"][result["ruleIndex"].toInt()];
+            QCOMPARE(rule["id"], result["ruleId"]);
+            QCOMPARE(rule["defaultConfiguration"]["level"], result["level"]);
+            results << result["level"].toString() + ' ' +
+                           result["locations"][0]["physicalLocation"]["artifactLocation"]["uri"].toString() +
+                           ' ' + result["suppressions"][0]["justification"].toString();
+        }
+        QCOMPARE(results,
+                 QStringList({"note mod/materials/mat%20x.kmat for levels", "error mod/models/half.anim "}));
+
+        // Without errors, whatever is silenced.
+        QVERIFY(QFile::remove(broken));
+        QCOMPARE(ToolRun("check", rest).exitCode, 0);
+        for (const char *words : {"check --mod a b", "check --mod --mod-path x y", "check --silenced a",
+                                  "check --format xml a", "check --json --format sarif a"})
+            QCOMPARE(ToolRun(words).exitCode, 2);
+        for (const QString &none : {path("nothing"), scarf}) {
+            const ToolRun refused("check --mod", {none});
+            QCOMPARE(refused.exitCode, 1);
+            QVERIFY(refused.err.contains("neither a folder nor an archive"));
+        }
+    }
+
 private:
     QString path(const QString &name = {}) const { return m_folder->path(name); }
     QString put(const QString &name, const QByteArray &bytes) const { return m_folder->put(name, bytes); }

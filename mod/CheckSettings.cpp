@@ -1,0 +1,216 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "CheckSettings.h"
+
+#include "Files.h"
+#include "JsonEdit.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+
+namespace {
+constexpr qint64 MostSettingsBytes = 1024 * 1024;
+constexpr int MostTextureSide = 65536;
+
+QRegularExpression regularOf(const QString &files)
+{
+    QString pattern;
+    for (int i = 0; i < files.size(); ++i) {
+        if (files[i] == QLatin1Char('?')) {
+            pattern += QLatin1String("[^/]");
+        } else if (files[i] != QLatin1Char('*')) {
+            pattern += QRegularExpression::escape(QString(files[i]));
+        } else if (files.midRef(i, 3) == QLatin1String("**/")) {
+            pattern += QLatin1String("(?:.*/)?");
+            i += 2;
+        } else if (files.midRef(i, 2) == QLatin1String("**")) {
+            pattern += QLatin1String(".*");
+            ++i;
+        } else {
+            pattern += QLatin1String("[^/]*");
+        }
+    }
+    return QRegularExpression(QRegularExpression::anchoredPattern(pattern),
+                              QRegularExpression::CaseInsensitiveOption);
+}
+
+int lineOf(const QByteArray &text, int place)
+{
+    return 1 + int(std::count(text.begin(), text.begin() + std::min(place, text.size()), '\n'));
+}
+
+QByteArray jsonString(const QString &text)
+{
+    const QByteArray list = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
+    return list.mid(1, list.size() - 2);
+}
+
+bool isThere(const JsonEdit::Span &span)
+{
+    return span.end > span.begin;
+}
+} // namespace
+
+const QString CheckSettings::FileName = QStringLiteral(".korvane.json");
+
+CheckSettings CheckSettings::of(const QString &modFolder)
+{
+    const QString path = QDir(modFolder).filePath(FileName);
+    if (!Files::isFile(path))
+        return {};
+    QString reason;
+    const std::unique_ptr<QIODevice> device = Files::open(path, &reason);
+    if (device && device->size() <= MostSettingsBytes)
+        return read(device->readAll());
+    CheckSettings settings;
+    settings.m_findings.push_back(
+        {wordsOf(ModRule::SettingsDamaged), tr("The file cannot be read, so nothing is silenced: %1")
+                                                .arg(device ? tr("it has more than 1 MiB.") : reason)});
+    return settings;
+}
+
+CheckSettings CheckSettings::read(const QByteArray &text)
+{
+    CheckSettings settings;
+    QJsonParseError error{};
+    const QJsonDocument document = QJsonDocument::fromJson(text, &error);
+    if (!document.isObject()) {
+        const QString reason =
+            error.error == QJsonParseError::NoError
+                ? tr("it holds no object")
+                : tr("line %1: %2").arg(QString::number(lineOf(text, error.offset)), error.errorString());
+        settings.m_findings.push_back(
+            {wordsOf(ModRule::SettingsDamaged),
+             tr("The file is no JSON (%1), so nothing is silenced. Mend it, or remove it.").arg(reason)});
+        return settings;
+    }
+    const QJsonObject root = document.object();
+    for (const QString &key : root.keys()) {
+        if (key != QLatin1String("check"))
+            settings.doubt(tr("'%1' is not known, and is left out. What is known is 'check'.").arg(key));
+    }
+    const QJsonValue check = root.value(QLatin1String("check"));
+    if (check.isObject())
+        settings.readCheck(check.toObject());
+    else if (!check.isUndefined())
+        settings.doubt(tr("'%1' is not what it has to be, %2, and is left out.")
+                           .arg(QStringLiteral("check"), tr("an object")));
+    return settings;
+}
+
+void CheckSettings::readCheck(const QJsonObject &check)
+{
+    for (const QString &key : check.keys()) {
+        const QJsonValue value = check.value(key);
+        if (key == QLatin1String("largestTexture")) {
+            const int side = value.toInt();
+            if (side >= 1 && side <= MostTextureSide)
+                m_largestTexture = side;
+            else
+                doubt(tr("'%1' is not what it has to be, %2, and is left out.")
+                          .arg(key, tr("a whole number of pixels from 1 to %1").arg(MostTextureSide)));
+        } else if (key == QLatin1String("silence") && value.isArray()) {
+            const QJsonArray list = value.toArray();
+            for (int i = 0; i < list.size(); ++i) {
+                if (list[i].isObject())
+                    readSilence(list[i].toObject(), i);
+                else
+                    doubt(tr("Entry %1 of 'silence' is no object, and silences nothing.").arg(i + 1));
+            }
+        } else if (key == QLatin1String("silence")) {
+            doubt(tr("'%1' is not what it has to be, %2, and is left out.").arg(key, tr("a list")));
+        } else {
+            doubt(tr("'%1' is not known, and is left out. What is known is 'largestTexture' and 'silence'.")
+                      .arg(key));
+        }
+    }
+}
+
+/// An entry with a word that nobody knows might silence more than was meant.
+void CheckSettings::readSilence(const QJsonObject &entry, int place)
+{
+    Silence silence;
+    silence.place = place;
+    const QString number = QString::number(place + 1);
+    for (const QString &key : entry.keys()) {
+        QString *text = key == QLatin1String("rule")    ? &silence.rule
+                        : key == QLatin1String("files") ? &silence.files
+                        : key == QLatin1String("why")   ? &silence.why
+                                                        : nullptr;
+        if (!text)
+            return doubt(tr("Entry %1 of 'silence' silences nothing: '%2' is not known. What is known is "
+                            "'rule', 'files' and 'why'.")
+                             .arg(number, key));
+        if (!entry.value(key).isString() || (key == QLatin1String("files") && entry.value(key) == QString()))
+            return doubt(tr("Entry %1 of 'silence' silences nothing: '%2' is no text, or an empty one.")
+                             .arg(number, key));
+        *text = entry.value(key).toString();
+    }
+    if (!canBeSilenced(silence.rule))
+        return doubt(tr("Entry %1 of 'silence' silences nothing: there is no rule '%2' that can be silenced.")
+                         .arg(number, silence.rule));
+    silence.pattern = regularOf(silence.files.isEmpty() ? QStringLiteral("**") : silence.files);
+    m_silences.push_back(std::move(silence));
+}
+
+void CheckSettings::doubt(const QString &text)
+{
+    m_findings.push_back({wordsOf(ModRule::SettingsUnknown), text});
+}
+
+const CheckSettings::Silence *CheckSettings::silenceOf(QLatin1String rule, const QString &name) const
+{
+    const auto found =
+        std::find_if(m_silences.begin(), m_silences.end(), [&rule, &name](const Silence &silence) {
+            return silence.rule == rule && silence.pattern.match(name).hasMatch();
+        });
+    return found == m_silences.end() ? nullptr : &*found;
+}
+
+QByteArray CheckSettings::withSilence(const QByteArray &text, const QString &rule, const QString &files)
+{
+    QByteArray entry = "{\"rule\": " + jsonString(rule);
+    if (!files.isEmpty())
+        entry += ", \"files\": " + jsonString(files);
+    entry += '}';
+    const QByteArray list = "\"silence\": [\n      " + entry + "\n    ]";
+    const QByteArray check = "\"check\": {\n    " + list + "\n  }";
+    if (text.trimmed().isEmpty())
+        return "{\n  " + check + "\n}\n";
+    const QJsonDocument document = QJsonDocument::fromJson(text);
+    const QJsonValue oldCheck = document.object().value(QLatin1String("check"));
+    const QJsonValue oldList = oldCheck.toObject().value(QLatin1String("silence"));
+    // What is there and is something else is not replaced.
+    if (!document.isObject() || !(oldCheck.isObject() || oldCheck.isUndefined()) ||
+        !(oldList.isArray() || oldList.isUndefined()))
+        return {};
+    QByteArray edited = text;
+    const JsonEdit::Span root = JsonEdit::root(edited);
+    const JsonEdit::Span checkSpan = JsonEdit::member(edited, root, "check");
+    const JsonEdit::Span listSpan =
+        isThere(checkSpan) ? JsonEdit::member(edited, checkSpan, "silence") : JsonEdit::Span();
+    if (!isThere(checkSpan))
+        JsonEdit::append(edited, root, check);
+    else if (!isThere(listSpan))
+        JsonEdit::append(edited, checkSpan, list);
+    else
+        JsonEdit::append(edited, listSpan, entry);
+    return edited;
+}
+
+QByteArray CheckSettings::withoutSilence(const QByteArray &text, int place)
+{
+    if (!QJsonDocument::fromJson(text).isObject())
+        return {};
+    QByteArray edited = text;
+    const JsonEdit::Span check = JsonEdit::member(edited, JsonEdit::root(edited), "check");
+    const JsonEdit::Span list =
+        isThere(check) ? JsonEdit::member(edited, check, "silence") : JsonEdit::Span();
+    if (isThere(list))
+        JsonEdit::removeChild(edited, list, place);
+    return edited;
+}

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "FileCheck.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+class QJsonObject;
+
+/// What a mod wants to be checked for, as the file of that name in its folder says:
+///
+///     {"check": {"largestTexture": 2048,
+///                "silence": [{"rule": "same-as-game", "files": "models/old/**", "why": "kept on purpose"}]}}
+///
+/// In a pattern of files `*` and `?` stand for letters of one name, `**` for any folders; case does not
+/// matter. Without "files" a rule is silenced for all of them. What cannot be understood silences nothing and
+/// is a finding.
+class CheckSettings
+{
+    Q_DECLARE_TR_FUNCTIONS(CheckSettings)
+
+public:
+    static const QString FileName;
+    static constexpr int LargestTexture = 4096; ///< pixels a side, unless the file says otherwise
+
+    struct Silence
+    {
+        QString rule;
+        QString files; ///< empty for all
+        QString why;
+        int place = 0; ///< its number in the list of the file
+        QRegularExpression pattern{};
+    };
+
+    CheckSettings() = default;
+    /// Reads the file in a mod's folder or archive; where there is none, nothing is silenced.
+    static CheckSettings of(const QString &modFolder);
+    static CheckSettings read(const QByteArray &text);
+
+    int largestTexture() const { return m_largestTexture; }
+    const std::vector<Silence> &silences() const { return m_silences; }
+    /// What silences a rule for a file, by its path below the mod's folder; null when nothing does.
+    const Silence *silenceOf(QLatin1String rule, const QString &name) const;
+    /// What is wrong with the file.
+    const std::vector<FileFinding> &findings() const { return m_findings; }
+
+    /// The text of the file with one rule more silenced, for the files of a pattern or for all. The rest
+    /// stays as it is written. Empty where the text is damaged.
+    static QByteArray withSilence(const QByteArray &text, const QString &rule, const QString &files);
+    /// The text without the entry of that number in the list.
+    static QByteArray withoutSilence(const QByteArray &text, int place);
+
+private:
+    void readCheck(const QJsonObject &check);
+    void readSilence(const QJsonObject &entry, int place);
+    void doubt(const QString &text);
+
+    int m_largestTexture = LargestTexture;
+    std::vector<Silence> m_silences;
+    std::vector<FileFinding> m_findings;
+};

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+
+#include <vector>
+
+/// Edits of a JSON text that leave all else of it as it is written. The text is valid JSON in UTF-8, which
+/// the toolkit's reader has found; places are numbers of bytes.
+namespace JsonEdit {
+/// Where a value stands.
+struct Span
+{
+    int begin = 0;
+    int end = 0; ///< behind its last byte
+};
+
+/// Where the text's value stands.
+Span root(const QByteArray &text);
+/// The value of an object's member; of several with that key, as readers take it, the last. Empty when there
+/// is none.
+Span member(const QByteArray &text, const Span &object, const QByteArray &key);
+/// The elements of an array, or the members of an object with their keys.
+std::vector<Span> children(const QByteArray &text, const Span &container);
+/// Puts an element or a member, written as JSON, behind the last one, in a line of its own where that has
+/// one.
+void append(QByteArray &text, const Span &container, const QByteArray &child);
+/// Takes one of the children away, with the comma that parts it from the others.
+void removeChild(QByteArray &text, const Span &container, int number);
+} // namespace JsonEdit

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "ModFiles.h"
+
+#include "Files.h"
+#include "PackList.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+ModFileKind modFileKind(const QString &path)
+{
+    static const QHash<QString, ModFileKind> kinds{
+        {QStringLiteral("skinnedmesh"), ModFileKind::SkinnedMesh},
+        {QStringLiteral("anim"), ModFileKind::Anim},
+        {QStringLiteral("staticmesh"), ModFileKind::StaticMesh},
+        {QStringLiteral("kmat"), ModFileKind::Material},
+        {QStringLiteral("png"), ModFileKind::Picture},
+        {QStringLiteral("tga"), ModFileKind::Picture},
+        {QStringLiteral("jpg"), ModFileKind::Picture},
+        {QStringLiteral("jpeg"), ModFileKind::Picture},
+        {QStringLiteral("bmp"), ModFileKind::Picture},
+        {QStringLiteral("gif"), ModFileKind::Picture},
+    };
+    return kinds.value(QFileInfo(path).suffix().toLower(), ModFileKind::Other);
+}
+
+ModFiles::ModFiles(Whose whose, const QString &folder, const std::function<bool()> &goesOn)
+    : m_folder(QDir::cleanPath(folder))
+{
+    const int start = m_folder.endsWith(QLatin1Char('/')) ? m_folder.size() : m_folder.size() + 1;
+    Files::walk(m_folder, [&](const FolderEntry &entry) {
+        const QString name = entry.path.mid(start);
+        if (entry.isFolder)
+            m_folders.append(name);
+        else if (whose == Whose::Game || reasonToLeaveOut(name).isEmpty())
+            m_files.push_back({entry.path, name, modFileKind(name)});
+        return !goesOn || goesOn();
+    });
+    m_folders.sort();
+    std::sort(m_files.begin(), m_files.end(),
+              [](const ModFile &a, const ModFile &b) { return a.name < b.name; });
+    m_paths.reserve(int(m_files.size()));
+    for (const ModFile &file : m_files)
+        m_paths.insert(file.name.toCaseFolded(), file.path);
+}

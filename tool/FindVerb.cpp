@@ -4,7 +4,7 @@
 #include "Companions.h"
 #include "FoundRecords.h"
 #include "ModelFile.h"
-#include "ModelNames.h"
+#include "ModelText.h"
 #include "Output.h"
 #include "Settings.h"
 #include "Verbs.h"
@@ -14,12 +14,6 @@
 namespace {
 /// As of other programs that search.
 enum FindCode : int { Some = 0, None = 1, SearchTrouble = 2 };
-
-RecordKind rootOf(const ModelJson::Model &model)
-{
-    constexpr RecordKind roots[] = {RecordKind::SkinnedMesh, RecordKind::AnimFile, RecordKind::StaticMesh};
-    return roots[model.index()];
-}
 
 QJsonValue jsonValue(const FieldValue &value)
 {
@@ -57,44 +51,6 @@ bool isModelFile(const QString &path)
     return isReadable(path) && !path.endsWith(QLatin1String(".kmat"), Qt::CaseInsensitive);
 }
 } // namespace
-
-std::shared_ptr<const SkinnedMesh> namedMesh(const QString &file, const ModelJson::Model &model,
-                                             Companions &companions)
-{
-    if (const auto *own = std::get_if<SkinnedMesh>(&model))
-        return std::make_shared<const SkinnedMesh>(*own);
-    const QString path = companions.find(file).path;
-    auto mesh = std::make_shared<SkinnedMesh>();
-    ModelNames names;
-    if (path.isEmpty() || mesh->read(path))
-        return nullptr;
-    if (!names.read(ModelNames::pathFor(path)))
-        names.giveTo(*mesh);
-    return mesh;
-}
-
-std::unique_ptr<RecordValues> valuesOf(const ModelJson::Model &model)
-{
-    return std::visit(
-        [](const auto &its) -> std::unique_ptr<RecordValues> {
-            return std::make_unique<ModelValues<std::decay_t<decltype(its)>>>(its);
-        },
-        model);
-}
-
-QString FoundRecords::find(const QString &text, const QString &file, const ModelJson::Model &model,
-                           Companions &companions)
-{
-    // Most conditions are about numbers alone, and need no mesh.
-    QString reason = condition.read(text, nullptr);
-    if (!std::holds_alternative<StaticMesh>(model) && (!reason.isEmpty() || condition.asksNames())) {
-        mesh = namedMesh(file, model, companions);
-        reason = condition.read(text, mesh.get());
-    }
-    if (reason.isEmpty())
-        records = findRecords(condition, *valuesOf(model), rootOf(model));
-    return reason;
-}
 
 int find(const QStringList &arguments)
 {

@@ -2,16 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
 #include "Companions.h"
-#include "FieldPatch.h"
 #include "FoundRecords.h"
+#include "ModelText.h"
 #include "Output.h"
-#include "RecordFields.h"
 #include "ReplacedFiles.h"
-#include "Replacement.h"
 #include "Settings.h"
 #include "Verbs.h"
-
-#include <QUndoStack>
 
 namespace {
 /// The options, and behind "--" the operands: what stands behind a field is its value, whatever it begins
@@ -34,45 +30,6 @@ QStringList arranged(const QStringList &arguments)
         }
     }
     return options << QStringLiteral("--") << operands;
-}
-
-/// Nobody looks at the model while it is changed.
-class NoView : public DocumentView
-{
-public:
-    void aboutToChange() override {}
-    void recordChanged(const RecordRef &) override {}
-    void structureChanged(const StructureChange &) override {}
-};
-
-/// Gives a field of the records that were found a value. Returns why that cannot be.
-QString replaceFound(ModelJson::Model &model, const FoundRecords &found, const QString &word,
-                     const QString &text, std::vector<PatchedField> &changes)
-{
-    const auto values = valuesOf(model);
-    const Replacement made = replacementOf(*values, found.records, word, text, 0, found.mesh.get());
-    if (!made.reason.isEmpty()) {
-        const QString place = recordPath(made.refusing);
-        return place.isEmpty() ? made.reason : QStringLiteral("%1: %2").arg(place, made.reason);
-    }
-    for (size_t i = 0; i < found.records.size(); ++i) {
-        const FieldChange &change = made.changes[int(i)];
-        const FieldValue old = values->value(*change.field, change.index);
-        const QString before = change.field->text(old);
-        const QString after = change.field->text(change.value);
-        if (before != after)
-            changes.push_back({recordPath(found.records[i]) + QLatin1Char(' ') + change.field->id(),
-                               before.toUtf8(), after.toUtf8()});
-    }
-    NoView view;
-    QUndoStack stack;
-    std::visit(
-        [&](auto &its) {
-            RecordFields::change(made.changes, word, EditTarget<std::decay_t<decltype(its)>>(its, view),
-                                 stack);
-        },
-        model);
-    return {};
 }
 } // namespace
 
@@ -124,7 +81,7 @@ int set(const QStringList &arguments)
             found.mesh = namedMesh(file, content.model, companions);
     }
     for (int i = 1; i < operands.size() && error.isEmpty(); i += 2) {
-        error = isSearch ? replaceFound(content.model, found, operands.at(i), operands.at(i + 1), changes)
+        error = isSearch ? found.replace(content.model, operands.at(i), operands.at(i + 1), changes)
                          : patchModel(content.model, operands.at(i), operands.at(i + 1), changes);
     }
     if (!error.isEmpty()) {

@@ -24,6 +24,8 @@ int build(const QStringList &arguments);
 int set(const QStringList &arguments);
 int animate(const QStringList &arguments);
 int find(const QStringList &arguments);
+int replace(const QStringList &arguments);
+int runs(const QStringList &arguments);
 int uses(const QStringList &arguments);
 int fitBoxes(const QStringList &arguments);
 int diff(const QStringList &arguments);

@@ -23,6 +23,8 @@ constexpr Verb verbs[] = {
     {"animate", "change whole animations", animate},
     {"fit-boxes", "make boxes as small as their vertices let them be", fitBoxes},
     {"find", "list records that meet a condition", find},
+    {"replace", "give records of many files other values", replace},
+    {"runs", "list, undo or finish such replacements", runs},
     {"uses", "say what files name, and who names what", uses},
     {"diff", "say in what two models differ", diff},
     {"pack", "make the archive of a mod", pack},

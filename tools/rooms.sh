@@ -28,7 +28,7 @@ files net app/desktop import/box
 model
 undo mod motion references import render/scene app/widgets json
 find render/gl
-app/documents app/choice app/materials gltf import/scene render/input tool/line
+batch app/documents app/choice app/materials gltf import/scene render/input tool/line
 render import/ready
 pictures
 app/tree app/view app/timeline app/explorer app/recovery app/console

@@ -2928,6 +2928,52 @@ Ohne diese Eingabe fortfahren?</translation>
     </message>
 </context>
 <context>
+    <name>FileReplacement</name>
+    <message>
+        <source>A count in the file is negative.</source>
+        <translation>Eine Anzahl in der Datei ist negativ.</translation>
+    </message>
+    <message>
+        <source>The file is too large.</source>
+        <translation>Die Datei ist zu groß.</translation>
+    </message>
+    <message>
+        <source>Writing it would change more than the values.</source>
+        <translation>Beim Schreiben würde sich mehr ändern als die Werte.</translation>
+    </message>
+    <message>
+        <source>The file was changed since.</source>
+        <translation>Die Datei wurde inzwischen geändert.</translation>
+    </message>
+</context>
+<context>
+    <name>FileRun</name>
+    <message>
+        <source>The copies of the files cannot be kept in &apos;%1&apos;.</source>
+        <translation>Die Kopien der Dateien können in „%1“ nicht aufgehoben werden.</translation>
+    </message>
+    <message>
+        <source>It was changed since, and is left as it is.</source>
+        <translation>Sie wurde inzwischen geändert und bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>It is not there any more.</source>
+        <translation>Sie ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>It cannot be removed.</source>
+        <translation>Sie kann nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>The copy that was kept is damaged.</source>
+        <translation>Die aufgehobene Kopie ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>Another program is at work on it.</source>
+        <translation>Ein anderes Programm arbeitet daran.</translation>
+    </message>
+</context>
+<context>
     <name>FilterEdit</name>
     <message>
         <source>Filter</source>

@@ -17,7 +17,7 @@ _korvane_tool_files() {
 
 _korvane_tool() {
     local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD - 1]} verb=${COMP_WORDS[1]:-}
-    local verbs='info check resave dump build set animate fit-boxes find uses diff pack import export render' options=''
+    local verbs='info check resave dump build set animate fit-boxes find replace runs uses diff pack import export render' options=''
     COMPREPLY=()
 
     if ((COMP_CWORD == 1)) || [[ $verb == help ]]; then
@@ -88,6 +88,8 @@ _korvane_tool() {
     resave) options='--output --force --help' ;;
     dump) options='--output --force --schema --help' ;;
     find) options='--json --help' ;;
+    replace) options='--list --json --skip --help' ;;
+    runs) options='--undo --finish --forget --help' ;;
     uses) options='--of --unused --json --game-path --mod-path --help' ;;
     diff) options='--json --all --help' ;;
     build) options='--output --force --help' ;;
@@ -117,7 +119,7 @@ _korvane_tool() {
 
     case $verb in
     info | check) _korvane_tool_files 'skinnedmesh|anim|staticmesh|kmat' ;;
-    resave | dump | set | fit-boxes | find | diff | export | render) _korvane_tool_files 'skinnedmesh|anim|staticmesh' ;;
+    resave | dump | set | fit-boxes | find | replace | diff | export | render) _korvane_tool_files 'skinnedmesh|anim|staticmesh' ;;
     animate)
         _korvane_tool_files anim
         mapfile -t -O "${#COMPREPLY[@]}" COMPREPLY < <(compgen -W 'resample rate reverse trim shift close-loop mirror

@@ -134,7 +134,7 @@ private slots:
         for (const char *name : {"a fox.anim", "fox.staticmesh", "fox.txt", "folder/x"})
             put(name, "x");
         const auto complete = [this](const char *words) { return completed(words, path()); };
-        QCOMPARE(complete("re"), QStringList({"render", "resave"}));
+        QCOMPARE(complete("re"), QStringList({"render", "replace", "resave"}));
         QCOMPARE(complete("info ''"), QStringList({"a fox.anim", "folder", "fox.staticmesh"}));
         QCOMPARE(complete("export ''"), QStringList({"a fox.anim", "folder", "fox.staticmesh"}));
         QCOMPARE(complete("render fox.staticmesh --anim ''"), QStringList({"a fox.anim", "folder"}));

@@ -2,14 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ModelText.h"
+#include "FieldPatch.h"
 #include "RecordSearch.h"
 
 #include <memory>
 
 class Companions;
 
-/// The records of a model that meet a condition.
+/// The records of a model that meet a condition, and other values for them. The model is whole in memory, and
+/// nobody looks at it.
 struct FoundRecords
 {
     Condition condition;
@@ -21,6 +22,12 @@ struct FoundRecords
     /// Looks through the model of `file`. Returns why that cannot be; empty when it can.
     [[nodiscard]] QString find(const QString &text, const QString &file, const ModelJson::Model &model,
                                Companions &companions);
+
+    /// Gives the field that `word` stands for in the records that were found a value, which may be a name:
+    /// see replacementOf(). Returns why that cannot be, with the model as it was; empty when it can.
+    /// `changes` grows by what is another value now.
+    [[nodiscard]] QString replace(ModelJson::Model &model, const QString &word, const QString &text,
+                                  std::vector<PatchedField> &changes) const;
 };
 
 /// The mesh that a file is, or that an animation belongs to, with its names; null when there is none, or no

@@ -144,6 +144,13 @@ bool endsAsItBegins(const AnimBlock &block)
     }
     return isNearYaw(block.frames.front().yawOffset, block.frames.back().yawOffset);
 }
+/// An animation that loops to its last frame holds that.
+void noteStandstill(int oldLoop, int oldCount, const AnimBlock &block, BlockAccount &account)
+{
+    if (oldLoop < oldCount - 1 && block.loopFrame == block.frameCount() - 1 && block.frameCount() > 1)
+        account.notes << Texts::tr("It looped, and stands still on its last frame now.");
+}
+
 } // namespace
 
 namespace Motion {
@@ -244,13 +251,14 @@ QString apply(const Trim &how, AnimBlock &block, BlockAccount &account)
     moveActions(block, old, account, [&](int frame) {
         return isKept(frame) ? std::optional<int>(frame - how.first) : std::nullopt;
     });
-    const bool loses = block.loopFrame < old && block.loopFrame != old - 1 && !isKept(block.loopFrame);
     const int loop = block.loopFrame;
+    const bool loses = loop < old - 1 && !isKept(loop);
     moveMarks(block, old, [&](int frame) { return std::clamp(frame, how.first, how.last) - how.first; });
     if (loses)
-        account.notes << Texts::tr("Frame %1, to which it looped, goes: it loops to frame %2.")
+        account.notes << Texts::tr("What was frame %1, to which it looped, goes: it loops to frame %2 now.")
                              .arg(loop)
                              .arg(block.loopFrame);
+    noteStandstill(loop, old, block, account);
     return {};
 }
 
@@ -279,8 +287,10 @@ QString apply(const Shift &how, AnimBlock &block, BlockAccount &account)
         moveActions(block, count, account, where);
         const auto held = [&](int frame) { return std::clamp(frame + how.frames, 0, count - 1); };
         // One that holds its last frame still does.
-        if (block.loopFrame < count - 1)
-            block.loopFrame = numbered(held(block.loopFrame));
+        const int loop = block.loopFrame;
+        if (loop < count - 1)
+            block.loopFrame = numbered(held(loop));
+        noteStandstill(loop, count, block, account);
         if (std::max(block.blendStart, block.blendEnd) > 0)
             moveBlend(block, count, held);
         account.notes << (how.frames > 0 ? Texts::tr("Frames for which the first pose stands longer: %1.")

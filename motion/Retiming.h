@@ -36,7 +36,8 @@ QString apply(const Trim &how, AnimBlock &block, BlockAccount &account);
 struct Shift
 {
     enum class Around {
-        Loops,  ///< blocks that loop to frame 0 go round, others hold their pose at the end that is laid bare
+        Loops,  ///< blocks that loop to frame 0 go round; others, and those that name no frame to loop to,
+                ///< hold their pose at the end that is laid bare
         Always, ///< what leaves at one end comes in at the other
         Never,
     };

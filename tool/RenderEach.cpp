@@ -81,6 +81,16 @@ jobsOf(const QStringList &paths,
 }
 } // namespace
 
+bool isGameFile(const QString &path)
+{
+    return isReadable(QFileInfo(path).canonicalFilePath());
+}
+
+QString gameFileText(const QString &picture)
+{
+    return QStringLiteral("%1: The picture would replace a file of the game.").arg(picture);
+}
+
 std::vector<PictureJob> picturesOf(const QStringList &paths, const QString &target, bool replaces)
 {
     QHash<QString, QString> models; // by their pictures, as FileSystem compares them
@@ -97,6 +107,8 @@ std::vector<PictureJob> picturesOf(const QStringList &paths, const QString &targ
         if (taken() != models.constEnd())
             job.refusal =
                 QStringLiteral("%1: The picture of another model goes to '%2'.").arg(model, job.picture);
+        else if (isGameFile(job.picture))
+            job.refusal = gameFileText(job.picture);
         else if (!replaces && isTaken(job.picture))
             job.refusal = Output::takenText(job.picture);
         models.insert(FileSystem::comparable(job.picture), model);

@@ -22,6 +22,11 @@ struct PictureJob
     QString refusal; ///< why there will be none; empty when nothing speaks against it
 };
 
+/// Whether a picture there would take the place of a model or a material, as it does through a link; and what
+/// to say then. That is never meant, even where something is to be replaced.
+bool isGameFile(const QString &path);
+QString gameFileText(const QString &picture);
+
 /// The pictures of the models that `paths` name, and of the meshes in the folders among them: NAME.png in
 /// `target`, those of a folder in the folders there that they stand in here; NAME.staticmesh.png where a mesh
 /// of the other kind has the name. None takes the place of another, and of another file only with `replaces`.

@@ -160,8 +160,8 @@ bool mayReplace(const CommandLine &line, const QStringList &targets)
 {
     constexpr int MostNamed = 10;
     for (const QString &target : targets) {
-        if (isReadable(QFileInfo(target).canonicalFilePath())) {
-            Output::complain(QStringLiteral("%1: The picture would replace a file of the game.").arg(target));
+        if (isGameFile(target)) {
+            Output::complain(gameFileText(target));
             return false;
         }
     }

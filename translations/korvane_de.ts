@@ -882,7 +882,7 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
     <message>
         <source>Left becomes right. Sides are told by the names of bones, else by their symbols; the two sides have to stand alike in the initial pose.</source>
-        <translation>Links wird rechts. Die Seiten sagen die Namen der Knochen, sonst ihre Symbole; in der Anfangshaltung müssen beide Seiten gleich stehen.</translation>
+        <translation>Links wird rechts. Die Seiten sagen die Namen der Knochen, sonst ihre Symbole; in der Anfangspose müssen beide Seiten gleich stehen.</translation>
     </message>
     <message>
         <source>&amp;Extract Yaw…</source>
@@ -5428,7 +5428,7 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
     <message>
         <source>Bones without a partner, which keep their initial pose: %1.</source>
-        <translation>Knochen ohne Partner, die ihre Anfangshaltung behalten: %1.</translation>
+        <translation>Knochen ohne Partner, die ihre Anfangspose behalten: %1.</translation>
     </message>
     <message>
         <source>Bones of the other skeleton that are left out: %1.</source>
@@ -5477,10 +5477,6 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>It has the frames 0 to %1, not %2 to %3.</source>
         <translation>Sie hat die Frames 0 bis %1, nicht %2 bis %3.</translation>
-    </message>
-    <message>
-        <source>Frame %1, to which it looped, goes: it loops to frame %2.</source>
-        <translation>Frame %1, ab dem sie sich wiederholte, entfällt: Sie wiederholt sich ab Frame %2.</translation>
     </message>
     <message>
         <source>It has %1 frames: nothing would be left of it.</source>
@@ -5577,6 +5573,14 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>Frames for which the last pose stands longer: %1.</source>
         <translation>Frames, um die die letzte Haltung länger steht: %1.</translation>
+    </message>
+    <message>
+        <source>It looped, and stands still on its last frame now.</source>
+        <translation>Sie wiederholte sich und bleibt jetzt auf ihrem letzten Frame stehen.</translation>
+    </message>
+    <message>
+        <source>What was frame %1, to which it looped, goes: it loops to frame %2 now.</source>
+        <translation>Der bisherige Frame %1, ab dem sie sich wiederholte, entfällt: Sie wiederholt sich jetzt ab Frame %2.</translation>
     </message>
 </context>
 <context>
@@ -6079,39 +6083,39 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
     <message>
         <source>Show the frames before (blue) and after (orange) behind the one that is shown</source>
-        <translation>Die Bilder davor (blau) und danach (orange) hinter dem gezeigten zeigen</translation>
+        <translation>Die Frames davor (blau) und danach (orange) hinter dem gezeigten zeigen</translation>
     </message>
     <message>
         <source>&amp;1 Frame on Either Side</source>
-        <translation>&amp;1 Bild auf jeder Seite</translation>
+        <translation>&amp;1 Frame auf jeder Seite</translation>
     </message>
     <message>
         <source>&amp;%1 Frames on Either Side</source>
-        <translation>&amp;%1 Bilder auf jeder Seite</translation>
+        <translation>&amp;%1 Frames auf jeder Seite</translation>
     </message>
     <message>
         <source>So many frames before and after are shown</source>
-        <translation>So viele Bilder davor und danach werden gezeigt</translation>
+        <translation>So viele Frames davor und danach werden gezeigt</translation>
     </message>
     <message>
         <source>&amp;Every Frame</source>
-        <translation>&amp;Jedes Bild</translation>
+        <translation>&amp;Jeder Frame</translation>
     </message>
     <message>
         <source>Every &amp;Second Frame</source>
-        <translation>Jedes z&amp;weite Bild</translation>
+        <translation>Jeder z&amp;weite Frame</translation>
     </message>
     <message>
         <source>Every &amp;Fifth Frame</source>
-        <translation>Jedes &amp;fünfte Bild</translation>
+        <translation>Jeder &amp;fünfte Frame</translation>
     </message>
     <message>
         <source>Every &amp;Tenth Frame</source>
-        <translation>Jedes ze&amp;hnte Bild</translation>
+        <translation>Jeder ze&amp;hnte Frame</translation>
     </message>
     <message>
         <source>So far apart are the frames that are shown</source>
-        <translation>So weit liegen die gezeigten Bilder auseinander</translation>
+        <translation>So weit liegen die gezeigten Frames auseinander</translation>
     </message>
 </context>
 <context>
@@ -6800,7 +6804,7 @@ Wo keine Datei ist, bleibt es still.</translation>
     </message>
     <message>
         <source>[Save Picture] &apos;%1&apos;: %2</source>
-        <translation>[Bild speichern] &apos;%1&apos;: %2</translation>
+        <translation>[Bild speichern] „%1“: %2</translation>
     </message>
     <message>
         <source>Save what the view shows as a picture, or as many for a video</source>
@@ -8687,7 +8691,7 @@ Alles andere funktioniert weiter.</translation>
     </message>
     <message>
         <source>%1 of the pictures exist already, the first as &apos;%2&apos;. Replace them?</source>
-        <translation>%1 der Bilder gibt es schon, das erste als &apos;%2&apos;. Sollen sie ersetzt werden?</translation>
+        <translation>%1 der Bilder gibt es schon, das erste als „%2“. Sollen sie ersetzt werden?</translation>
     </message>
     <message>
         <source>the graphics driver cannot paint a picture of %1 by %2 pixels</source>
@@ -8699,11 +8703,11 @@ Alles andere funktioniert weiter.</translation>
     </message>
     <message>
         <source>Saving pictures in &apos;%1&apos;</source>
-        <translation>Bilder werden in &apos;%1&apos; gespeichert</translation>
+        <translation>Bilder werden in „%1“ gespeichert</translation>
     </message>
     <message>
         <source>[Save Picture] &apos;%1&apos;: %2</source>
-        <translation>[Bild speichern] &apos;%1&apos;: %2</translation>
+        <translation>[Bild speichern] „%1“: %2</translation>
     </message>
     <message>
         <source>Pictures saved in %1: %2 of %3</source>
@@ -8820,19 +8824,19 @@ Alles andere funktioniert weiter.</translation>
     <name>Session</name>
     <message>
         <source>[Session] &apos;%1&apos; is not there any more</source>
-        <translation>[Sitzung] &apos;%1&apos; gibt es nicht mehr</translation>
+        <translation>[Sitzung] „%1“ gibt es nicht mehr</translation>
     </message>
     <message>
         <source>[Session] Unable to read &apos;%1&apos;</source>
-        <translation>[Sitzung] &apos;%1&apos; kann nicht gelesen werden</translation>
+        <translation>[Sitzung] „%1“ kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>[Session] &apos;%1&apos;: %2</source>
-        <translation>[Sitzung] &apos;%1&apos;: %2</translation>
+        <translation>[Sitzung] „%1“: %2</translation>
     </message>
     <message>
         <source>[Session] &apos;%1&apos; has changed since the last session</source>
-        <translation>[Sitzung] &apos;%1&apos; hat sich seit der letzten Sitzung geändert</translation>
+        <translation>[Sitzung] „%1“ hat sich seit der letzten Sitzung geändert</translation>
     </message>
 </context>
 <context>

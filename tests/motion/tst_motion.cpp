@@ -134,6 +134,18 @@ private slots:
         QCOMPARE(account.actionsMoved, 3);
     }
 
+    void aLoopThatComesToStandStillIsTold()
+    {
+        const std::pair<Command, bool> rows[] = {
+            {Shift{4}, true}, {Trim{0, 6}, true}, {Shift{1}, false}, {Trim{0, 9}, false}};
+        for (const auto &[command, isTold] : rows) {
+            AnimFile file;
+            file.blocks = {lineBlock(11, 6)};
+            const BlockChange made = changesBy(command, file, {0}, nullptr, going).at(0);
+            QCOMPARE(made.words.join(' ').contains("stands still on its last frame"), isTold);
+        }
+    }
+
     void whatIsNoNumberIsNotCountedWith()
     {
         AnimBlock block = lineBlock(3);

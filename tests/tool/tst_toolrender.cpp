@@ -154,6 +154,11 @@ private slots:
         };
         refuses("render -o", {there, model}, "there.png: The file exists already; --force replaces it.");
         refuses("render --force -o", {model, model}, "would replace a file of the game");
+#ifdef Q_OS_UNIX
+        QVERIFY(QDir(m_folder.path()).mkpath("each") && QFile::link(model, m_folder.path("each/m.png")));
+        refuses("render --each --force", {model, "-o", m_folder.path("each")},
+                "would replace a file of the game");
+#endif
         QCOMPARE(ToolRun("render --force --size 32 -o", {there, model}).exitCode, 0);
         QCOMPARE(QImage(there).width(), 32);
 

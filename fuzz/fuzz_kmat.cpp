@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "FuzzModel.h"
 #include "KMat.h"
+#include "KMatText.h"
 
 #include <QBuffer>
 
@@ -16,18 +17,54 @@ bool survives(const QString &text)
     }
     return true;
 }
+
+QString read(QByteArray bytes, const QString &path, MaterialTable &table)
+{
+    QBuffer text(&bytes);
+    text.open(QIODevice::ReadOnly);
+    return readKMat(text, path, table);
+}
+
+/// What the text says is what was read, and an edit of a value leaves all else as it is.
+void checkText(const QByteArray &bytes, const QString &path, const MaterialTable &table, bool isRefused)
+{
+    KMatText text(bytes);
+    Fuzz::require(text.bytes() == bytes, "a text gives its bytes back");
+    Fuzz::require(text.problem().isEmpty() != isRefused, "a text and its reader agree");
+    const int count = int(text.materials().size());
+    if (isRefused || count == 0)
+        return;
+    MaterialTable told;
+    for (const KMatMaterial &each : text.materials())
+        told[each.name] = each.texture();
+    Fuzz::require(told == table, "a text says what is read of it");
+    const int material = int(bytes.size()) % count;
+    const KMatMaterial was = text.materials()[size_t(material)];
+    if (was.samplers.empty())
+        return;
+    const QString texture = QStringLiteral("t/new.png");
+    TextEdit edit;
+    if (!text.findTextureEdit(material, int(was.samplers.size()) - 1, texture, edit).isEmpty())
+        return;
+    const TextEdit back = text.apply(edit);
+    told[was.name] = texture;
+    MaterialTable edited;
+    Fuzz::require(read(text.bytes(), path, edited).isEmpty() && edited == told,
+                  "an edit gives the value and changes no other");
+    text.apply(back);
+    Fuzz::require(text.bytes() == bytes, "an edit can be taken back");
+}
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QString path = QStringLiteral("fuzz.kmat");
-    QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char *>(data), int(size));
-    QBuffer text(&bytes);
+    const QByteArray bytes(reinterpret_cast<const char *>(data), int(size));
     MaterialTable table;
-    text.open(QIODevice::ReadOnly);
-    const QString error = readKMat(text, path, table);
+    const QString error = read(bytes, path, table);
     Fuzz::require(error.isEmpty() || table.empty(), "no table beside an error");
     Fuzz::require(error.isEmpty() || error.endsWith(path), "an error names the file");
+    checkText(bytes, path, table, !error.isEmpty());
     for (const auto &[name, texture] : table) {
         if (name.isEmpty() || !survives(name) || !survives(texture))
             return 0;
@@ -37,9 +74,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     QBuffer out(&written);
     out.open(QIODevice::WriteOnly | QIODevice::Text);
     Fuzz::require(!writeKMat(out, table), "a table can be written");
-    QBuffer back(&written);
-    back.open(QIODevice::ReadOnly);
     MaterialTable again;
-    Fuzz::require(readKMat(back, path, again).isEmpty() && again == table, "what was written reads back");
+    Fuzz::require(read(written, path, again).isEmpty() && again == table, "what was written reads back");
     return 0;
 }

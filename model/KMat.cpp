@@ -3,6 +3,8 @@
 #include "KMat.h"
 
 #include "Files.h"
+#include "KMatWords.h"
+#include "TextEncoding.h"
 #include "WholeFile.h"
 
 #include <QBuffer>
@@ -10,121 +12,59 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
-#include <QTextCodec>
 #include <QTextStream>
 
-#include <algorithm>
 #include <optional>
 
 namespace {
-/// What the bytes of a file are a text in.
-struct Encoding
-{
-    QByteArray mark; ///< of the byte order, at the file's begin
-    QTextCodec *codec;
-};
-
-QString decoded(const QByteArray &bytes, const Encoding &encoding)
-{
-    // What begins like another mark is a character.
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    const int start = encoding.mark.size();
-    return encoding.codec->toUnicode(bytes.constData() + start, bytes.size() - start, &state);
-}
-
-QByteArray encoded(const QString &text, const Encoding &encoding)
-{
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    return encoding.mark + encoding.codec->fromUnicode(text.constData(), text.size(), &state);
-}
-
-/// What the byte order mark says, or else UTF-8; Latin-1 where that would not give the same bytes again.
-Encoding encodingOf(const QByteArray &bytes)
-{
-    // The longer ones begin like the shorter.
-    static const Encoding marked[] = {
-        {QByteArrayLiteral("\xff\xfe\0\0"), QTextCodec::codecForName("UTF-32LE")},
-        {QByteArrayLiteral("\0\0\xfe\xff"), QTextCodec::codecForName("UTF-32BE")},
-        {QByteArrayLiteral("\xff\xfe"), QTextCodec::codecForName("UTF-16LE")},
-        {QByteArrayLiteral("\xfe\xff"), QTextCodec::codecForName("UTF-16BE")},
-        {QByteArrayLiteral("\xef\xbb\xbf"), QTextCodec::codecForName("UTF-8")},
-        {{}, QTextCodec::codecForName("UTF-8")},
-    };
-    const auto *likely = std::find_if(std::begin(marked), std::end(marked),
-                                      [&bytes](const Encoding &each) { return bytes.startsWith(each.mark); });
-    const bool is = encoded(decoded(bytes, *likely), *likely) == bytes;
-    return is ? *likely : Encoding{{}, QTextCodec::codecForName("ISO-8859-1")};
-}
-
 QString textOf(const QByteArray &bytes)
 {
-    return decoded(bytes, encodingOf(bytes));
+    return TextEncoding::of(bytes).decode(bytes);
 }
 
-QString declareMaterial(QTextStream &words, const QString &path, QSet<QString> &names,
-                        std::vector<MaterialSampler> &samplers)
+/// Makes samplers of the words of a file.
+struct SamplerReader
 {
-    QString name;
-    words >> name;
-    if (names.contains(name)) {
-        return QCoreApplication::translate(
-                   "ModelFiles",
-                   ".kMat file has a material with the same name - %1. The file may be invalid - %2")
-            .arg(name, path);
-    }
-    names.insert(name);
-    samplers.push_back({name, {}, {}});
-    return {};
-}
+    const QString &path;
+    std::vector<MaterialSampler> &samplers;
+    QSet<QString> names{};
+    QString error{};
 
-QString addSampler(QTextStream &words, const QString &path, std::vector<MaterialSampler> &samplers)
-{
-    QString samplerName;
-    int textureUnit = 0;
-    QString texturePath;
-    // A unit that is no number is not consumed: it is then the path.
-    words >> samplerName >> textureUnit >> texturePath;
-    if (samplers.empty()) {
-        return QCoreApplication::translate(
-                   "ModelFiles",
-                   ".kMat file read a texture path with no material set. The file may be invalid - %1")
-            .arg(path);
-    }
-    if (!samplers.back().sampler.isNull())
-        samplers.push_back({samplers.back().material, {}, {}});
-    MaterialSampler &added = samplers.back();
-    added.sampler = samplerName.remove(QLatin1Char('"'));
-    if (added.sampler.isNull())
-        added.sampler = QLatin1String("");
-    added.texture = texturePath.remove(QLatin1Char('"'));
-    return {};
-}
-
-QString readMaterials(QIODevice &text, const QString &path, std::vector<MaterialSampler> &samplers)
-{
-    // A lone carriage return ends no line; in bytes there is more than one way of writing it.
-    QString all = textOf(text.readAll()).remove(QLatin1Char('\r'));
-    QTextStream lines(&all, QIODevice::ReadOnly);
-    QSet<QString> names;
-    QString line;
-    QString word;
-    QTextStream words;
-    while (lines.readLineInto(&line)) {
-        if (line.startsWith(QLatin1String("//")))
-            continue;
-        words.setString(&line, QIODevice::ReadOnly);
-        for (words >> word; !word.isEmpty(); words >> word) {
-            QString error;
-            if (word == QLatin1String("material"))
-                error = declareMaterial(words, path, names, samplers);
-            else if (word == QLatin1String("sampler"))
-                error = addSampler(words, path, samplers);
-            if (!error.isEmpty())
-                return error;
+    bool material(const QString &name, TextSpan)
+    {
+        if (names.contains(name)) {
+            error = QCoreApplication::translate(
+                        "ModelFiles",
+                        ".kMat file has a material with the same name - %1. The file may be invalid - %2")
+                        .arg(name, path);
+            return true;
         }
+        names.insert(name);
+        samplers.push_back({name, {}, {}});
+        return false;
     }
-    return {};
-}
+
+    bool sampler(const SamplerWords &words)
+    {
+        if (samplers.empty()) {
+            error = QCoreApplication::translate(
+                        "ModelFiles",
+                        ".kMat file read a texture path with no material set. The file may be invalid - %1")
+                        .arg(path);
+            return true;
+        }
+        if (!samplers.back().sampler.isNull())
+            samplers.push_back({samplers.back().material, {}, {}});
+        MaterialSampler &added = samplers.back();
+        added.sampler = words.name;
+        added.sampler.remove(QLatin1Char('"'));
+        if (added.sampler.isNull())
+            added.sampler = QLatin1String("");
+        added.texture = words.path;
+        added.texture.remove(QLatin1Char('"'));
+        return false;
+    }
+};
 
 /// Where a material stands in a text: from its word "material", with the blanks before it on its line, to
 /// behind its closing brace; without one to the next material.
@@ -237,8 +177,8 @@ QString tooLarge(const QString &path)
 /// when the file's encoding lacks a letter.
 std::optional<QByteArray> mergedBytes(const QByteArray &bytes, const MaterialTable &table)
 {
-    const Encoding encoding = encodingOf(bytes);
-    const QString text = decoded(bytes, encoding);
+    const TextEncoding encoding = TextEncoding::of(bytes);
+    const QString text = encoding.decode(bytes);
     QString added = QString::fromUtf8(kmatBytes(table));
     // A file that has none yet gets the system's.
     const QString &lines = text.contains(QLatin1Char('\n')) ? text : added;
@@ -256,18 +196,19 @@ std::optional<QByteArray> mergedBytes(const QByteArray &bytes, const MaterialTab
     if (!merged.isEmpty() && !merged.endsWith(QLatin1Char('\n')))
         merged += lineEnd;
     merged += added.remove(QLatin1Char('\r')).replace(QLatin1Char('\n'), lineEnd);
-    const QByteArray result = encoded(merged, encoding);
-    return decoded(result, encoding) == merged ? std::optional(result) : std::nullopt;
+    const QByteArray result = encoding.encode(merged);
+    return encoding.decode(result) == merged ? std::optional(result) : std::nullopt;
 }
 } // namespace
 
 QString readSamplers(QIODevice &text, const QString &path, std::vector<MaterialSampler> &samplers)
 {
     samplers.clear();
-    const QString error = readMaterials(text, path, samplers);
-    if (!error.isEmpty())
+    SamplerReader reader{path, samplers};
+    // A lone carriage return ends no line; in bytes there is more than one way of writing it.
+    if (readKMatWords(textOf(text.readAll()).remove(QLatin1Char('\r')), reader))
         samplers.clear();
-    return error;
+    return reader.error;
 }
 
 QString readSamplers(const QStringList &candidates, std::vector<MaterialSampler> &samplers)

@@ -133,6 +133,10 @@ inline const SettingKey<QString> ImportPath{"ImportPath", {}};
 inline const SettingKey<QString> ImportFilter{"ImportFilter", {}}; // of its file dialog, chosen last
 inline const SettingKey<QString> PicturePath{"PicturePath", {}};
 inline const SettingKey<QString> TablePath{"TablePath", {}};
+// The archive of a mod, the mod that it was of, and what stays out of any.
+inline const SettingKey<QString> PackPath{"PackPath", {}};
+inline const SettingKey<QString> PackedMod{"PackedMod", {}};
+inline const SettingKey<QString> PackLeaveOut{"PackLeaveOut", {}};
 inline const SettingKey<QStringList> FindHistory{"FindHistory", {}}; // conditions, the last first
 
 // Import. The time limit is in seconds.

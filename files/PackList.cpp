@@ -7,9 +7,11 @@
 #include "Files.h"
 #include "ZipArchive.h"
 #include "ZipNames.h"
+#include "ZipWriter.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QHash>
 #include <QRegularExpression>
@@ -99,7 +101,7 @@ QString problemOf(const PackedFile &file)
     const QString problem = FileNames::problem(file.name);
     if (!problem.isEmpty())
         return QStringLiteral("'%1': %2").arg(file.name, problem);
-    if (QFileInfo(file.path).size() > ZipArchive::MostBytes)
+    if (file.bytes > ZipArchive::MostBytes)
         return PackTexts::tr("'%1' is larger than %2 MiB.")
             .arg(file.name, QString::number(ZipArchive::MostBytes / 1024 / 1024));
     return {};
@@ -159,7 +161,7 @@ PackList listForPacking(const QString &modFolder, const QString &gamePath, const
             list.leftOut.push_back({name, reason});
             return true;
         }
-        list.files.push_back({entry.path, name, !gamePath.isEmpty() && !game.find(name).isEmpty(),
+        list.files.push_back({entry.path, name, file.size(), !gamePath.isEmpty() && !game.find(name).isEmpty(),
                               !packedAlready.contains(file.suffix().toLower())});
         return true;
     });
@@ -174,4 +176,20 @@ PackList listForPacking(const QString &modFolder, const QString &gamePath, const
     if (int(list.files.size()) > ZipArchive::MostEntries)
         list.problems += PackTexts::tr("These are more than %1 files.").arg(ZipArchive::MostEntries);
     return list;
+}
+
+PackEnd writePack(const PackList &list, const QString &target,
+                  const std::function<bool(qint64 done)> &goesOn)
+{
+    ZipWriter archive(target);
+    qint64 done = 0;
+    for (const PackedFile &file : list.files) {
+        QFile from(file.path);
+        if (!from.open(QIODevice::ReadOnly))
+            return {true, file.path, from.errorString()};
+        if (archive.add(file.name, from, file.isDeflated, [&] { return goesOn(done + from.pos()); }))
+            return {true, target, archive.reason()};
+        done += from.size();
+    }
+    return archive.commit() ? PackEnd{true, target, archive.reason()} : PackEnd{};
 }

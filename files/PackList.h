@@ -13,6 +13,7 @@ struct PackedFile
 {
     QString path;
     QString name; ///< below the mod's folder, which is its path in the archive
+    qint64 bytes = 0;
     bool replacesGame = false;
     bool isDeflated = true; ///< no format that is packed already
 };
@@ -43,3 +44,16 @@ QString reasonToLeaveOut(const QString &name);
 /// when `goesOn` returns false.
 PackList listForPacking(const QString &modFolder, const QString &gamePath, const QStringList &leftOut = {},
                         const std::function<bool()> &goesOn = {});
+
+/// How the writing of an archive ended.
+struct PackEnd
+{
+    bool isFailed = false;
+    QString path;   ///< of what could not be read or written
+    QString reason; ///< empty where somebody gave up
+};
+
+/// Writes the archive of these files, whole or not at all, in the place of what stands there. `goesOn`, which
+/// is asked every now and then with the bytes that are done, ends it by returning false.
+[[nodiscard]] PackEnd writePack(const PackList &list, const QString &target,
+                                const std::function<bool(qint64 done)> &goesOn);

@@ -66,9 +66,11 @@ struct MaterialReader
                 KMatTexts::tr("A sampler stands before the first material: the file cannot be read.");
             return true;
         }
-        QString texture = words.path;
+        QString name = words.name, texture = words.path;
+        for (QString *each : {&name, &texture})
+            each->remove(QLatin1Char('"'));
         materials.back().samplers.push_back(
-            {texture.remove(QLatin1Char('"')), places.of(words.pathAt), places.behind(words.free)});
+            {name, texture, places.of(words.pathAt), places.behind(words.free)});
         return false;
     }
 };

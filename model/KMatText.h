@@ -12,6 +12,7 @@
 /// A sampler of a material in the text of a file.
 struct KMatSampler
 {
+    QString name;    ///< without quotes, such as "diffuse"
     QString texture; ///< its path without the quotes, as a reader of the file has it
     TextSpan word;   ///< the word that this is, with its quotes; empty where the line ends before it
     int free = 0;    ///< behind here it can be written then

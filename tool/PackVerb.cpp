@@ -9,10 +9,8 @@
 #include "ReplacedFiles.h"
 #include "Settings.h"
 #include "Verbs.h"
-#include "ZipWriter.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonObject>
 
@@ -60,21 +58,12 @@ bool findsErrors(const PackList &list, const MaterialFolders &folders)
 
 int write(const PackList &list, const QString &target, const std::atomic_bool &interrupted)
 {
-    ZipWriter archive(target);
-    for (const PackedFile &file : list.files) {
-        QFile from(file.path);
-        if (!from.open(QIODevice::ReadOnly)) {
-            Output::complain(QStringLiteral("%1: %2").arg(file.path, from.errorString()));
-            return Failed;
-        }
-        if (archive.add(file.name, from, file.isDeflated, [&interrupted] { return !interrupted; })) {
-            if (interrupted)
-                return Interrupted;
-            Output::outcome(target, true, archive.reason());
-            return Failed;
-        }
-    }
-    return archive.commit() && Output::outcome(target, true, archive.reason()) ? Failed : Fine;
+    const PackEnd end = writePack(list, target, [&interrupted](qint64) { return !interrupted; });
+    if (end.isFailed && interrupted)
+        return Interrupted;
+    if (end.isFailed)
+        Output::complain(QStringLiteral("%1: %2").arg(end.path, end.reason));
+    return end.isFailed ? Failed : Fine;
 }
 } // namespace
 

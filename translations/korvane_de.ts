@@ -4213,6 +4213,37 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
     </message>
 </context>
 <context>
+    <name>KMatText</name>
+    <message>
+        <source>Two materials have the name &apos;%1&apos;: the file cannot be read.</source>
+        <translation>Zwei Materialien haben den Namen „%1“: Die Datei kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>A sampler stands before the first material: the file cannot be read.</source>
+        <translation>Ein Sampler steht vor dem ersten Material: Die Datei kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The path of a texture has no blanks and no quotes: &apos;%1&apos;.</source>
+        <translation>Der Pfad einer Textur hat weder Leerzeichen noch Anführungszeichen: „%1“.</translation>
+    </message>
+    <message>
+        <source>The encoding of the file does not have all letters of &apos;%1&apos;.</source>
+        <translation>Die Kodierung der Datei hat nicht alle Buchstaben von „%1“.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be written there without changing other things.</source>
+        <translation>„%1“ kann dort nicht stehen, ohne dass sich anderes ändert.</translation>
+    </message>
+    <message>
+        <source>The name of a material has no blanks and no quotes: &apos;%1&apos;.</source>
+        <translation>Der Name eines Materials hat weder Leerzeichen noch Anführungszeichen: „%1“.</translation>
+    </message>
+    <message>
+        <source>The file has a material &apos;%1&apos; already.</source>
+        <translation>Die Datei hat schon ein Material „%1“.</translation>
+    </message>
+</context>
+<context>
     <name>KVOpenGLWidget</name>
     <message>
         <source>Models cannot be drawn: the graphics driver does not take the program&apos;s shaders.
@@ -4712,6 +4743,14 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <source>Curves</source>
         <translation>Kurven</translation>
     </message>
+    <message>
+        <source>Pa&amp;ck Mod…</source>
+        <translation>Mod pa&amp;cken…</translation>
+    </message>
+    <message>
+        <source>Make the archive of the mod that others can install</source>
+        <translation>Das Archiv der Mod schreiben, das andere einbauen können</translation>
+    </message>
 </context>
 <context>
     <name>MaterialField</name>
@@ -4890,6 +4929,37 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>The texture has %1 × %2 pixels. A side that is no power of two (256, 512, 1024 …) may be scaled, which blurs it, or the texture may not be shown. Scale the picture to the next one.</source>
         <translation>Die Textur hat %1 × %2 Pixel. Eine Seite, die keine Zweierpotenz ist (256, 512, 1024 …), wird womöglich skaliert und damit unscharf, oder die Textur wird nicht gezeigt. Skalieren Sie das Bild auf die nächste.</translation>
+    </message>
+</context>
+<context>
+    <name>ModPacking</name>
+    <message>
+        <source>Pack Mod</source>
+        <translation>Mod packen</translation>
+    </message>
+    <message>
+        <source>There is no mod to pack: the options set no mod folder.</source>
+        <translation>Es gibt keine Mod zu packen: In den Optionen ist kein Mod-Ordner eingestellt.</translation>
+    </message>
+    <message>
+        <source>There is no mod to pack: &apos;%1&apos; is no folder.</source>
+        <translation>Es gibt keine Mod zu packen: „%1“ ist kein Ordner.</translation>
+    </message>
+    <message>
+        <source>Packing &apos;%1&apos;</source>
+        <translation>„%1“ wird gepackt</translation>
+    </message>
+    <message>
+        <source>Nothing was packed.</source>
+        <translation>Es wurde nichts gepackt.</translation>
+    </message>
+    <message>
+        <source>[Pack Mod] &apos;%1&apos;: %2</source>
+        <translation>[Mod packen] „%1“: %2</translation>
+    </message>
+    <message>
+        <source>%1: files packed: %2, together %3</source>
+        <translation>%1: gepackte Dateien: %2, zusammen %3</translation>
     </message>
 </context>
 <context>
@@ -6422,6 +6492,121 @@ Wo keine Datei ist, bleibt es still.</translation>
     <message>
         <source>Texture Output Folder</source>
         <translation>Texturausgabeordner</translation>
+    </message>
+</context>
+<context>
+    <name>PackDialog</name>
+    <message>
+        <source>Pack Mod</source>
+        <translation>Mod packen</translation>
+    </message>
+    <message>
+        <source>Mod folder</source>
+        <translation>Mod-Ordner</translation>
+    </message>
+    <message>
+        <source>&amp;Archive</source>
+        <translation>&amp;Archiv</translation>
+    </message>
+    <message>
+        <source>The .kpf or .zip file to write</source>
+        <translation>Die .kpf- oder .zip-Datei, die geschrieben wird</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation>&amp;Durchsuchen…</translation>
+    </message>
+    <message>
+        <source>Choose the file to write</source>
+        <translation>Die Datei wählen, die geschrieben wird</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out</source>
+        <translation>&amp;Weglassen</translation>
+    </message>
+    <message>
+        <source>Names of files that stay out, with * and ?, or paths below the mod folder; a semicolon stands between two</source>
+        <translation>Namen von Dateien, die draußen bleiben, mit * und ?, oder Pfade unter dem Mod-Ordner; zwischen zweien steht ein Semikolon</translation>
+    </message>
+    <message>
+        <source>What goes into the archive, and what stays out</source>
+        <translation>Was in das Archiv kommt und was draußen bleibt</translation>
+    </message>
+    <message>
+        <source>What replaces files of the game is not known: the options set no game folder.</source>
+        <translation>Was Dateien des Spiels ersetzt, ist nicht bekannt: In den Optionen ist kein Spielordner eingestellt.</translation>
+    </message>
+    <message>
+        <source>Pack &amp;in spite of the errors</source>
+        <translation>&amp;Trotz der Fehler packen</translation>
+    </message>
+    <message>
+        <source>Files with errors go into the archive as they are</source>
+        <translation>Dateien mit Fehlern kommen in das Archiv, wie sie sind</translation>
+    </message>
+    <message>
+        <source>Looking through the mod</source>
+        <translation>Die Mod wird durchgesehen</translation>
+    </message>
+    <message>
+        <source>Checking the mod</source>
+        <translation>Die Mod wird geprüft</translation>
+    </message>
+    <message>
+        <source>This is no whole path of a file.</source>
+        <translation>Das ist kein vollständiger Pfad einer Datei.</translation>
+    </message>
+    <message>
+        <source>The name of an archive ends in .kpf or .zip.</source>
+        <translation>Der Name eines Archivs endet auf .kpf oder .zip.</translation>
+    </message>
+    <message>
+        <source>This is in the game folder, which is left as it is.</source>
+        <translation>Das liegt im Spielordner, der bleibt, wie er ist.</translation>
+    </message>
+    <message>
+        <source>There is no such folder.</source>
+        <translation>Diesen Ordner gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>&amp;Pack</source>
+        <translation>&amp;Packen</translation>
+    </message>
+    <message>
+        <source>Names that no archive can hold</source>
+        <translation>Namen, die kein Archiv haben kann</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Replace files of the game</source>
+        <translation>Ersetzen Dateien des Spiels</translation>
+    </message>
+    <message>
+        <source>New files</source>
+        <translation>Neue Dateien</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Weggelassen</translation>
+    </message>
+    <message>
+        <source>There is nothing to pack in this folder.</source>
+        <translation>In diesem Ordner gibt es nichts zu packen.</translation>
+    </message>
+    <message>
+        <source>Files: %1, together %2 before they are packed</source>
+        <translation>Dateien: %1, ungepackt zusammen %2</translation>
+    </message>
+    <message>
+        <source>Archives (*.kpf)</source>
+        <translation>Archive (*.kpf)</translation>
     </message>
 </context>
 <context>

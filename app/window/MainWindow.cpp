@@ -21,6 +21,7 @@
 #include "Icons.h"
 #include "ImportExport.h"
 #include "LoadingSign.h"
+#include "ModPacking.h"
 #include "ModelShaping.h"
 #include "ModelTransforms.h"
 #include "NamedFiles.h"
@@ -32,6 +33,7 @@
 #include "ProblemsButton.h"
 #include "QuestionMenu.h"
 #include "RecentFiles.h"
+#include "RecordDocks.h"
 #include "RecoveryPrompt.h"
 #include "ReloadPrompt.h"
 #include "Session.h"
@@ -214,17 +216,7 @@ void MainWindow::createDocks()
     connect(m_ui->tabDatabase, &DatabaseTab::namesChanged, m_problems,
             [this] { m_problems->setReferenceIds(ReferenceIds::load()); });
     connect(m_ui->tabDatabase, &DatabaseTab::namesChanged, m_panes, &DocumentPanes::OnNamesChanged);
-    m_ui->dockTable->setDocuments({&m_skinnedMesh, &m_anim, &m_staticMesh},
-                                  {m_ui->treeSkinnedMesh, m_ui->treeAnim, m_ui->treeStaticMesh});
-    connect(m_ui->dockTable, &TableDock::activated, m_panes, &DocumentPanes::showRecord);
-    connect(m_ui->dockTable, &TableDock::told, this, &MainWindow::tell);
-    m_ui->dockFind->setDocuments({&m_skinnedMesh, &m_anim, &m_staticMesh},
-                                 {m_ui->treeSkinnedMesh, m_ui->treeAnim, m_ui->treeStaticMesh},
-                                 {m_ui->actionFind, m_ui->actionFindNext, m_ui->actionFindPrevious});
-    connect(m_ui->dockFind, &FindDock::activated, m_panes, &DocumentPanes::showRecord);
-    connect(m_ui->dockFind, &FindDock::shown, m_panes, &DocumentPanes::selectRecord);
-    connect(m_ui->dockFind, &FindDock::documentWanted, m_panes, &DocumentPanes::showPane);
-    connect(m_ui->dockFind, &FindDock::told, this, &MainWindow::tell);
+    wireRecordDocks(*m_ui, *m_panes, *this);
     m_ui->dockServers->setQueryAction(m_ui->actionQueryServers);
     showHistory(*m_ui->viewHistory, m_undoGroup, *m_files, m_ui->actionSave->icon());
 }
@@ -254,6 +246,7 @@ void MainWindow::connectActions()
     wire(m_ui->actionImport, m_preferences, &Preferences::OnStartSetupPaths);
     wire(m_ui->actionImport, m_importExport, &ImportExport::on_actionImport_triggered);
     wire(m_ui->actionExport, m_importExport, &ImportExport::on_actionExport_triggered);
+    wire(m_ui->actionPackMod, new ModPacking(*m_files, this), &ModPacking::on_actionPackMod_triggered);
     wire(m_ui->actionRotate, m_transforms, &ModelTransforms::on_actionRotate_triggered);
     wire(m_ui->actionScale, m_transforms, &ModelTransforms::on_actionScale_triggered);
     wire(m_ui->actionPreferences, m_preferences, &Preferences::on_actionPreferences_triggered);

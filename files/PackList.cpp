@@ -161,7 +161,8 @@ PackList listForPacking(const QString &modFolder, const QString &gamePath, const
             list.leftOut.push_back({name, reason});
             return true;
         }
-        list.files.push_back({entry.path, name, file.size(), !gamePath.isEmpty() && !game.find(name).isEmpty(),
+        list.files.push_back({entry.path, name, file.size(),
+                              !gamePath.isEmpty() && !game.find(name).isEmpty(),
                               !packedAlready.contains(file.suffix().toLower())});
         return true;
     });
@@ -178,8 +179,7 @@ PackList listForPacking(const QString &modFolder, const QString &gamePath, const
     return list;
 }
 
-PackEnd writePack(const PackList &list, const QString &target,
-                  const std::function<bool(qint64 done)> &goesOn)
+PackEnd writePack(const PackList &list, const QString &target, const std::function<bool(qint64 done)> &goesOn)
 {
     ZipWriter archive(target);
     qint64 done = 0;

@@ -62,8 +62,7 @@ struct MaterialReader
     bool sampler(const SamplerWords &words)
     {
         if (materials.empty()) {
-            problem =
-                KMatTexts::tr("A sampler stands before the first material: the file cannot be read.");
+            problem = KMatTexts::tr("A sampler stands before the first material: the file cannot be read.");
             return true;
         }
         QString name = words.name, texture = words.path;

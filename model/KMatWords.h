@@ -23,9 +23,9 @@ struct SamplerWords
 };
 
 /// Reads the words of a .kmat file that make materials, for all who want to know of them, so that they cannot
-/// disagree. `text` has no carriage returns: a lone one ends no line, and within a word it counts for nothing.
-/// Calls, in the order of the text and with places in it, `material(name, at)` and `sampler(words)`. Ends when
-/// one of them returns true, and then does so itself.
+/// disagree. `text` has no carriage returns: a lone one ends no line, and within a word it counts for
+/// nothing. Calls, in the order of the text and with places in it, `material(name, at)` and `sampler(words)`.
+/// Ends when one of them returns true, and then does so itself.
 template <typename Listener>
 bool readKMatWords(const QString &text, Listener &listener)
 {

@@ -34,7 +34,7 @@ struct NamedInFile
 struct FileNaming
 {
     /// Of one thing in one model, so many places are kept; the rest is counted. Of materials all are.
-    static constexpr int KeptPlaces = 4;
+    static constexpr int KeptPlaces = 8;
     /// More names make a file one that is not read on: no model has a hundredth of that.
     static constexpr int MostNames = 100000;
 
@@ -50,7 +50,7 @@ struct FileNaming
     std::vector<RecordRef> places;
     QStringList materials; ///< that a material file holds, in its order
 
-    /// "FOLDER/FILE/MATERIAL", as surfaces name it.
+    /// "FOLDER/FILE/MATERIAL", as surfaces name it; without the last part where there is no such material.
     QString materialPath(int material) const;
     /// The records, or materials, that name something, as far as they are kept.
     std::vector<RecordRef> placesOf(const NamedInFile &named) const;

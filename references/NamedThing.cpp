@@ -65,18 +65,6 @@ const std::vector<NamingArgument> &namingArguments(int eventType)
     return size_t(eventType) < table.size() ? table[size_t(eventType)] : none;
 }
 
-/// A number as the game takes it from an argument: of what has a name, without its fraction.
-std::optional<double> numberIn(NamedKind kind, float value)
-{
-    if (kind == NamedKind::Damage)
-        return std::isfinite(value) ? std::optional(double(value)) : std::nullopt;
-    constexpr double least = std::numeric_limits<int>::min();
-    constexpr double most = std::numeric_limits<int>::max();
-    if (!(double(value) > least - 1 && double(value) < most + 1))
-        return {};
-    return double(int(value));
-}
-
 void visitMaterial(const QString &path, const NamedVisitor &visit)
 {
     if (!path.isEmpty())
@@ -122,6 +110,17 @@ QString NamedThing::text() const
         return path;
     return number == std::trunc(number) && std::abs(number) < 1e15 ? QString::number(qint64(number))
                                                                    : NumberText::text(float(number));
+}
+
+std::optional<NamedThing> NamedThing::ofArgument(NamedKind kind, float value)
+{
+    if (kind == NamedKind::Damage)
+        return std::isfinite(value) ? std::optional(NamedThing{kind, double(value)}) : std::nullopt;
+    constexpr double least = std::numeric_limits<int>::min();
+    constexpr double most = std::numeric_limits<int>::max();
+    if (!(double(value) > least - 1 && double(value) < most + 1))
+        return {};
+    return NamedThing{kind, double(int(value))};
 }
 
 std::optional<NamedThing> NamedThing::parse(const QString &text)
@@ -185,8 +184,8 @@ void visitNamed(const AnimFile &file, const RecordRef &record, const NamedVisito
         if (!action)
             return;
         for (const NamingArgument &each : namingArguments(action->eventType)) {
-            if (const auto number = numberIn(each.kind, action->args[each.place]))
-                visit({each.kind, *number});
+            if (const auto thing = NamedThing::ofArgument(each.kind, action->args[each.place]))
+                visit(*thing);
         }
     }
 }

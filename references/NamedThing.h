@@ -59,6 +59,9 @@ struct NamedThing
     /// The path, or the number as it is typed.
     QString text() const;
 
+    /// What an argument of an event names, or a field for it: as the game takes the number, of damage as it
+    /// is and of all else without its fraction. None for what is no number, or beyond the range of ints.
+    static std::optional<NamedThing> ofArgument(NamedKind kind, float value);
     /// Reads "sound:1234" or "material:materials/knight/skin". None where the kind or the number is none.
     static std::optional<NamedThing> parse(const QString &text);
 };

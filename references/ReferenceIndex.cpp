@@ -104,7 +104,8 @@ ReferenceIndex::ReferenceIndex(MaterialFolders folders, std::vector<FileNamingPt
     m_byPath.reserve(int(m_files.size()));
     for (size_t i = 0; i < m_files.size(); ++i) {
         m_byPath.insert(FileSystem::comparable(m_files[i]->path), int(i));
-        m_namingCount += m_files[i]->type == IndexedType::Picture ? 0 : 1;
+        if (!m_files[i]->error.isEmpty())
+            m_unreadable.push_back(m_files[i]);
     }
 }
 
@@ -141,6 +142,24 @@ std::vector<NamedUse> ReferenceIndex::usesOf(const NamedThing &thing) const
         }
     }
     return uses;
+}
+
+QStringList ReferenceIndex::texturesOf(const QString &materialPath) const
+{
+    const QString key = pathKey(materialPath);
+    QStringList textures;
+    for (const FileNamingPtr &file : m_files) {
+        if (file->type != IndexedType::Materials || !key.startsWith(pathKey(file->materialPath(-1))))
+            continue;
+        for (const NamedInFile &named : file->names) {
+            for (const RecordRef &place : file->placesOf(named)) {
+                if (pathKey(file->materialPath(place.index[0])) == key &&
+                    !textures.contains(named.thing.path))
+                    textures += named.thing.path;
+            }
+        }
+    }
+    return textures;
 }
 
 QSet<QString> ReferenceIndex::keysNamed(NamedKind kind) const

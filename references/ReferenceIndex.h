@@ -38,13 +38,15 @@ public:
     const std::vector<FileNamingPtr> &files() const { return m_files; }
     /// Null for a file that is not known.
     FileNamingPtr file(const QString &path) const;
-    /// How many files name something, or could.
-    int namingCount() const { return m_namingCount; }
+    /// The files that could not be read.
+    const std::vector<FileNamingPtr> &unreadable() const { return m_unreadable; }
 
     /// Who names the thing, in the order of the paths. Of a texture the materials come first, and then the
     /// models that have one of these. A material file of the mod counts as much as the game's of the same
     /// name, since the mod may be meant to take its place.
     std::vector<NamedUse> usesOf(const NamedThing &thing) const;
+    /// The textures of all samplers of a material, each once.
+    QStringList texturesOf(const QString &materialPath) const;
     /// The materials, or the pictures, of the index that no model, or no material, names: relative to the
     /// folders, with the file that has each.
     struct Unused
@@ -63,7 +65,7 @@ private:
     MaterialFolders m_folders;
     std::vector<FileNamingPtr> m_files;
     QHash<QString, int> m_byPath; ///< FileSystem::comparable()
-    int m_namingCount = 0;
+    std::vector<FileNamingPtr> m_unreadable;
 };
 
 using ReferenceIndexPtr = std::shared_ptr<const ReferenceIndex>;

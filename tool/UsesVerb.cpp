@@ -124,14 +124,9 @@ ReferenceIndexPtr indexOf(const MaterialFolders &folders)
 /// Says which files could not be read. Returns true when there are some.
 bool tellErrors(const ReferenceIndex &index)
 {
-    bool isTrouble = false;
-    for (const FileNamingPtr &file : index.files()) {
-        if (file->error.isEmpty())
-            continue;
+    for (const FileNamingPtr &file : index.unreadable())
         Output::complain(QStringLiteral("%1: %2").arg(file->path, file->error));
-        isTrouble = true;
-    }
-    return isTrouble;
+    return !index.unreadable().empty();
 }
 
 void reportUses(const ReferenceIndex &index, const NamedThing &thing, UsesReport &report)

@@ -4751,6 +4751,18 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <source>Make the archive of the mod that others can install</source>
         <translation>Das Archiv der Mod schreiben, das andere einbauen können</translation>
     </message>
+    <message>
+        <source>Used By</source>
+        <translation>Verwendet von</translation>
+    </message>
+    <message>
+        <source>&amp;Where Is This Used?</source>
+        <translation>&amp;Wo wird das verwendet?</translation>
+    </message>
+    <message>
+        <source>List the files of game and mod that name what the current record names: its material, sound, id</source>
+        <translation>Die Dateien von Spiel und Mod auflisten, die dasselbe nennen wie der aktuelle Datensatz: sein Material, seinen Sound, seine ID</translation>
+    </message>
 </context>
 <context>
     <name>MaterialField</name>
@@ -8869,6 +8881,13 @@ Alles andere funktioniert weiter.</translation>
     </message>
 </context>
 <context>
+    <name>SearchDocks</name>
+    <message>
+        <source>Failed to open %1</source>
+        <translation>%1 konnte nicht geöffnet werden</translation>
+    </message>
+</context>
+<context>
     <name>SequenceSaver</name>
     <message>
         <source>Save Picture</source>
@@ -10509,6 +10528,135 @@ Nichts wurde geändert. %2</translation>
     <message>
         <source>No address is set that tells of new versions.</source>
         <translation>Es ist keine Adresse eingestellt, die neue Versionen nennt.</translation>
+    </message>
+</context>
+<context>
+    <name>UsedByDock</name>
+    <message>
+        <source>Material %1</source>
+        <translation>Material %1</translation>
+    </message>
+    <message>
+        <source>Texture %1</source>
+        <translation>Textur %1</translation>
+    </message>
+    <message>
+        <source>Animation %1</source>
+        <translation>Animation %1</translation>
+    </message>
+    <message>
+        <source>Sound %1</source>
+        <translation>Sound %1</translation>
+    </message>
+    <message>
+        <source>Particle %1</source>
+        <translation>Partikel %1</translation>
+    </message>
+    <message>
+        <source>Actor %1</source>
+        <translation>Akteur %1</translation>
+    </message>
+    <message>
+        <source>Voice %1</source>
+        <translation>Stimme %1</translation>
+    </message>
+    <message>
+        <source>Impact Type %1</source>
+        <translation>Aufpralltyp %1</translation>
+    </message>
+    <message>
+        <source>Damage %1</source>
+        <translation>Schaden %1</translation>
+    </message>
+    <message>
+        <source>Who names:</source>
+        <translation>Wer nennt:</translation>
+    </message>
+    <message>
+        <source>What the current record names; the list has all records that name it, as their files are saved</source>
+        <translation>Was der aktuelle Datensatz nennt; die Liste hat alle Datensätze, die es nennen, so wie ihre Dateien gespeichert sind</translation>
+    </message>
+    <message>
+        <source>Reading the files of game and mod</source>
+        <translation>Die Dateien von Spiel und Mod werden gelesen</translation>
+    </message>
+    <message>
+        <source>The files of game and mod are being read.</source>
+        <translation>Die Dateien von Spiel und Mod werden gelesen.</translation>
+    </message>
+    <message>
+        <source>The files of game and mod were not read to the end.</source>
+        <translation>Die Dateien von Spiel und Mod wurden nicht zu Ende gelesen.</translation>
+    </message>
+    <message>
+        <source>There are no folders of game and mod. Edit ▸ Options… names them.</source>
+        <translation>Es gibt keine Ordner von Spiel und Mod. Bearbeiten ▸ Optionen… nennt sie.</translation>
+    </message>
+    <message>
+        <source>Select a surface, a bone, a hot point, an animation or a key frame action: listed is who names the same.</source>
+        <translation>Wählen Sie eine Fläche, einen Knochen, einen Hotpoint, eine Animation oder eine Keyframe-Aktion: Aufgelistet wird, wer dasselbe nennt.</translation>
+    </message>
+    <message>
+        <source>No file of game or mod names it.</source>
+        <translation>Keine Datei von Spiel oder Mod nennt es.</translation>
+    </message>
+    <message>
+        <source>Give up reading the files of game and mod</source>
+        <translation>Das Lesen der Dateien von Spiel und Mod abbrechen</translation>
+    </message>
+    <message>
+        <source>Look for files of game and mod that have changed</source>
+        <translation>Nach Dateien von Spiel und Mod suchen, die sich geändert haben</translation>
+    </message>
+    <message>
+        <source>Uses: %1</source>
+        <translation>Verwendungen: %1</translation>
+    </message>
+    <message>
+        <source>(not read: %1)</source>
+        <translation>(nicht gelesen: %1)</translation>
+    </message>
+</context>
+<context>
+    <name>UsesList</name>
+    <message>
+        <source>Who names it</source>
+        <translation>Wer es nennt</translation>
+    </message>
+</context>
+<context>
+    <name>UsesRows</name>
+    <message>
+        <source>Material %1</source>
+        <translation>Material %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>Mod</source>
+        <translation>Mod</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Spiel</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Datensatz</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>By Material</source>
+        <translation>Durch Material</translation>
     </message>
 </context>
 <context>

@@ -115,6 +115,7 @@ QMenu *QuestionMenu::createMenu(QObject *editor)
             connect(action, &QAction::triggered, this, answer, Qt::QueuedConnection);
         }
     }
+    menu->insertActions(next, m_more);
     menu->insertSeparator(next);
     return menu;
 }

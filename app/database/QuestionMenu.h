@@ -20,6 +20,9 @@ public:
     /// For the spin boxes in `fields`, which owns the menu.
     explicit QuestionMenu(QWidget *fields);
 
+    /// An action that the menus have, too, below the questions.
+    void addToMenus(QAction *action) { m_more.append(action); }
+
     /// The menu of an editor: what every number field offers, with its questions in it. Null, after an error
     /// in the log, for an object that is no spin box. The caller owns it.
     QMenu *createMenu(QObject *editor);
@@ -35,4 +38,5 @@ private:
     void askFocused(int question) const;
 
     QList<QAction *> m_actions; ///< one for each question, for those who give it keys
+    QList<QAction *> m_more;
 };

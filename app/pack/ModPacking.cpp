@@ -33,7 +33,8 @@ std::optional<PackList> listMod(const MaterialFolders &folders, const QStringLis
 std::optional<std::vector<PackError>> checkMod(const MaterialFolders &folders, QWidget *window)
 {
     std::atomic_int percent{0};
-    const auto work = [&percent, folders, ids = ReferenceIds::load()](const Background::Cancelled &cancelled) {
+    const auto work = [&percent, folders,
+                       ids = ReferenceIds::load()](const Background::Cancelled &cancelled) {
         ModCheck check(folders, ids, ListedFindings, [&](qint64 done, qint64 all) {
             percent = all > 0 ? int(100 * done / all) : 0;
             return !cancelled;
@@ -59,12 +60,11 @@ void ModPacking::on_actionPackMod_triggered()
 {
     const MaterialFolders folders{Settings::GamePath.value(), Settings::OutputDir.value()};
     if (folders.outputDir.isEmpty() || !QFileInfo(folders.outputDir).isDir()) {
-        QMessageBox::information(
-            m_window, tr("Pack Mod"),
-            folders.outputDir.isEmpty()
-                ? tr("There is no mod to pack: the options set no mod folder.")
-                : tr("There is no mod to pack: '%1' is no folder.")
-                      .arg(QDir::toNativeSeparators(folders.outputDir)));
+        QMessageBox::information(m_window, tr("Pack Mod"),
+                                 folders.outputDir.isEmpty()
+                                     ? tr("There is no mod to pack: the options set no mod folder.")
+                                     : tr("There is no mod to pack: '%1' is no folder.")
+                                           .arg(QDir::toNativeSeparators(folders.outputDir)));
         return;
     }
     if (!settleUnsaved(folders.outputDir))
@@ -102,13 +102,15 @@ void ModPacking::write(const PackDialog &wanted)
     for (const PackedFile &file : wanted.list().files)
         bytes += file.bytes;
     std::atomic_int percent{0};
-    const auto work = [&percent, bytes, target, &list = wanted.list()](const Background::Cancelled &cancelled) {
+    const auto work = [&percent, bytes, target,
+                       &list = wanted.list()](const Background::Cancelled &cancelled) {
         return writePack(list, target, [&](qint64 done) {
             percent = int(100 * done / std::max<qint64>(bytes, 1));
             return !cancelled;
         });
     };
-    const std::optional<PackEnd> end = workWithPatience(work, tr("Packing '%1'").arg(native), m_window, &percent);
+    const std::optional<PackEnd> end =
+        workWithPatience(work, tr("Packing '%1'").arg(native), m_window, &percent);
     if (!end) {
         m_window->statusBar()->showMessage(tr("Nothing was packed."), 5000);
     } else if (end->isFailed) {

@@ -194,9 +194,8 @@ void PackDialog::keyPressEvent(QKeyEvent *event)
 void PackDialog::on_btnPackTarget_clicked()
 {
     const QFileInfo now(target());
-    const QString chosen =
-        chooseSavePath(this, windowTitle(), now.path(), tr("Archives (*.kpf)"), QStringLiteral("kpf"),
-                       now.fileName());
+    const QString chosen = chooseSavePath(this, windowTitle(), now.path(), tr("Archives (*.kpf)"),
+                                          QStringLiteral("kpf"), now.fileName());
     if (chosen.isEmpty())
         return;
     m_ui->txtPackTarget->setText(QDir::toNativeSeparators(chosen));
@@ -211,7 +210,8 @@ void PackDialog::accept()
     // What was not typed was not looked at yet.
     const QString problem = targetProblem(m_ui->txtPackTarget->value());
     if (!problem.isEmpty()) {
-        QMessageBox::warning(this, windowTitle(), QDir::toNativeSeparators(target()) + QLatin1Char('\n') + problem);
+        QMessageBox::warning(this, windowTitle(),
+                             QDir::toNativeSeparators(target()) + QLatin1Char('\n') + problem);
         return m_ui->txtPackTarget->setFocus();
     }
     if (target() != m_agreed && QFileInfo::exists(target()) && !mayReplace(this, windowTitle(), target()))

@@ -42,7 +42,10 @@ QString searchText(const Document &document, const RecordRef &record)
     return text;
 }
 
-QString recordPlace(const RecordSelection &records, RecordRef record)
+namespace {
+/// By the labels of the records that lead to it.
+template <typename Label>
+QString placeBy(RecordRef record, Label label)
 {
     QStringList labels;
     for (const RecordRow *row = recordRow(record.kind); row; row = recordRow(row->parent)) {
@@ -50,10 +53,25 @@ QString recordPlace(const RecordSelection &records, RecordRef record)
             break;
         labels.prepend(
             row->counted == RecordKind::None
-                ? records.label({row->kind, record.index})
+                ? label(*row, RecordRef{row->kind, record.index})
                 : QCoreApplication::translate("Records", row->label).remove(QLatin1String("(%1)")).trimmed());
         if (row->position == RecordRow::FromIndex)
             record.index[size_t(row->component)] = 0;
     }
     return labels.join(QStringLiteral(" \u203A "));
+}
+} // namespace
+
+QString recordPlace(const RecordSelection &records, RecordRef record)
+{
+    return placeBy(record,
+                   [&records](const RecordRow &, const RecordRef &each) { return records.label(each); });
+}
+
+QString recordPlace(RecordRef record)
+{
+    return placeBy(record, [](const RecordRow &row, const RecordRef &each) {
+        const QString text = QCoreApplication::translate("Records", row.label).remove(QLatin1String(": %2"));
+        return text.contains(QLatin1String("%1")) ? text.arg(each.index[size_t(row.component)]) : text;
+    });
 }

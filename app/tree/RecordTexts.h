@@ -11,3 +11,5 @@ QString recordLabel(const Document &document, const RecordRef &record);
 QString searchText(const Document &document, const RecordRef &record);
 /// A record by the labels that lead to it in its tree, groups without their counts.
 QString recordPlace(const RecordSelection &records, RecordRef record);
+/// The same for a file that is not open: by numbers alone.
+QString recordPlace(RecordRef record);

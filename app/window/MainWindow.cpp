@@ -47,6 +47,7 @@
 #include "UpdatePrompt.h"
 #include "ViewMenu.h"
 #include "ViewportNotice.h"
+#include "WhereUsed.h"
 #include "WindowGeometry.h"
 #include "WindowLayout.h"
 #include "ui_MainWindow.h"
@@ -98,7 +99,10 @@ MainWindow::MainWindow(QWidget *parent)
     animations->addTo(*m_ui->menuEdit, *m_ui->actionScale);
     animations->addToContext(*structure->menu(DocumentType::Anim));
     connect(animations, &AnimationCommands::documentWanted, m_panes, &DocumentPanes::showPane);
-    new QuestionMenu(this);
+    auto *whereUsed =
+        new WhereUsed(*m_ui, *m_files, *m_panes, m_skinnedMesh, m_anim, m_staticMesh, *structure, this);
+    connect(whereUsed, &WhereUsed::told, this, &MainWindow::tell);
+    (new QuestionMenu(this))->addToMenus(m_ui->actionWhereUsed);
     m_paneKeys = new PaneKeys(*m_ui, this);
     m_ui->menuView->insertMenu(m_ui->actionFullScreen, m_paneKeys);
     m_importExport->addExports(*m_ui->menuFile, *m_ui->actionExport, *m_ui->treeAnim);
@@ -258,6 +262,7 @@ void MainWindow::connectActions()
     connect(textures, &TextureWatch::reloaded, m_problems, &Problems::recheck);
     connect(textures, &TextureWatch::reloaded, m_panes, &DocumentPanes::OnMaterialsChanged);
     connect(textures, &TextureWatch::reloaded, m_ui->dockUv, &UvDock::reload);
+    connect(textures, &TextureWatch::reloaded, m_ui->dockUsedBy, &UsedByDock::refresh);
     connect(m_preferences, &Preferences::accepted, m_panes, &DocumentPanes::OnOptionsAccepted);
     connect(m_preferences, &Preferences::accepted, m_explorerFiles, &ExplorerFiles::OnOptionsAccepted);
     connect(m_panes, &DocumentPanes::currentChanged, m_layout,

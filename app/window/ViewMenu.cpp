@@ -40,10 +40,10 @@ ViewMenu::ViewMenu(const Ui::MainWindow &ui, const DocumentPanes &panes, QAction
     menu->addSeparator();
     menu->addActions({ui.toolBarFile->toggleViewAction(), ui.toolBarEdit->toggleViewAction(),
                       ui.dockConsole->toggleViewAction(), ui.dockProblems->toggleViewAction(),
-                      ui.dockFind->toggleViewAction(), ui.dockCompare->toggleViewAction(),
-                      ui.dockTable->toggleViewAction(), ui.dockUv->toggleViewAction(),
-                      ui.dockCurves->toggleViewAction(), ui.dockHistory->toggleViewAction(),
-                      ui.dockServers->toggleViewAction()});
+                      ui.dockFind->toggleViewAction(), ui.dockUsedBy->toggleViewAction(),
+                      ui.dockCompare->toggleViewAction(), ui.dockTable->toggleViewAction(),
+                      ui.dockUv->toggleViewAction(), ui.dockCurves->toggleViewAction(),
+                      ui.dockHistory->toggleViewAction(), ui.dockServers->toggleViewAction()});
     createToolBars(ui, panes, *display, window);
 }
 

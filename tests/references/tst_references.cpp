@@ -83,12 +83,12 @@ private slots:
         QVERIFY(index);
 
         // In whatever case, and with whatever slashes; of a texture the models by their materials, too.
-        QCOMPARE(
-            uses(*index, "material:MATERIALS\\skins/A"),
-            QStringList({"game models/x.skinnedmesh 5 [0 1 2 3]", "mod models/new.staticmesh 3 [0 1 2]"}));
+        QCOMPARE(uses(*index, "material:MATERIALS\\skins/A"),
+                 QStringList({"game models/x.skinnedmesh 9 [0 1 2 3 4 5 6 7]",
+                              "mod models/new.staticmesh 3 [0 1 2]"}));
         QCOMPARE(uses(*index, "texture:textures/bump.png"),
                  QStringList({"game materials/skins.kmat 1 [0]", "mod materials/more.kmat 2 [0 1]",
-                              "game models/x.skinnedmesh 5 [0 1 2 3] by materials/skins/a",
+                              "game models/x.skinnedmesh 9 [0 1 2 3 4 5 6 7] by materials/skins/a",
                               "mod models/new.staticmesh 3 [0 1 2] by materials/skins/a"}));
         QCOMPARE(uses(*index, "impact:4"), QStringList{"game models/x.skinnedmesh 1 [2]"});
         QCOMPARE(uses(*index, "sound:77"), QStringList{"game anims/x.anim 2 [0 2]"});
@@ -220,7 +220,7 @@ private:
     {
         SkinnedMesh mesh = SampleModels::plainMesh();
         mesh.nodes[2].impactType = 4;
-        mesh.surfaces.resize(5, {{}, {0, 1, 2}});
+        mesh.surfaces.resize(9, {{}, {0, 1, 2}});
         for (SkinnedMeshSurface &surface : mesh.surfaces)
             surface.materialPath = QStringLiteral("materials/SKINS/a");
         m_folder->save("game/models/x.skinnedmesh", mesh);

@@ -15,7 +15,7 @@ private slots:
     void initTestCase()
     {
         SkinnedMesh mesh = SampleModels::plainMesh();
-        mesh.surfaces.resize(7, {{}, {0, 1, 2}});
+        mesh.surfaces.resize(11, {{}, {0, 1, 2}});
         for (SkinnedMeshSurface &surface : mesh.surfaces)
             surface.materialPath = QStringLiteral("Materials/Skins/a");
         m_mesh = m_folder.save("game/models/hero/hero.skinnedmesh", mesh);
@@ -33,7 +33,9 @@ private slots:
     void whatFilesName()
     {
         const QString surfaces =
-            m_mesh + ": surface 0, surface 1, surface 2, surface 3 and 3 more: material Materials/Skins/a";
+            m_mesh +
+            ": surface 0, surface 1, surface 2, surface 3, surface 4, surface 5, surface 6, surface 7 "
+            "and 3 more: material Materials/Skins/a";
         const ToolRun mesh(run(), {m_mesh});
         QCOMPARE(mesh.exitCode, 0);
         QVERIFY2(mesh.out.contains(surfaces + '\n'), qUtf8Printable(mesh.out));

@@ -34,7 +34,8 @@ private slots:
         QStringList groups, rows;
         const auto leaveNotesOut = [&](QDialog *dialog) {
             const auto *list = find<QTreeWidget>(*dialog, "listPack");
-            QCOMPARE(titles(*list), (QStringList{"Replace files of the game (1)", "New files (2)", "Left out (1)"}));
+            QCOMPARE(titles(*list),
+                     (QStringList{"Replace files of the game (1)", "New files (2)", "Left out (1)"}));
             QCOMPARE(names(*list->topLevelItem(0)), QStringList("textures/a.png"));
             QCOMPARE(names(*list->topLevelItem(1)), (QStringList{"models/man.skinnedmesh", "notes.txt"}));
             QCOMPARE(list->topLevelItem(2)->child(0)->text(1), QString("a source, for other programs"));

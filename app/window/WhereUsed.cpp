@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "WhereUsed.h"
+
+#include "DocumentFiles.h"
+#include "DocumentPanes.h"
+#include "FileSystem.h"
+#include "Files.h"
+#include "FloatSpinBox.h"
+#include "IntSpinBox.h"
+#include "NamedThing.h"
+#include "Questions.h"
+#include "StructureActions.h"
+#include "ui_MainWindow.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QMenu>
+#include <QTimer>
+#include <QUrl>
+
+WhereUsed::WhereUsed(const Ui::MainWindow &ui, DocumentFiles &files, DocumentPanes &panes,
+                     SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticMeshDocument &staticMesh,
+                     const StructureActions &structure, QObject *parent)
+    : QObject(parent)
+    , m_ui(ui)
+    , m_files(files)
+    , m_panes(panes)
+{
+    UsedByDock *usedBy = m_ui.dockUsedBy;
+    usedBy->setDocuments(skinnedMesh, anim, staticMesh,
+                         {m_ui.treeSkinnedMesh, m_ui.treeAnim, m_ui.treeStaticMesh});
+    usedBy->setCurrent(m_panes.currentDocument());
+    connect(&m_panes, &DocumentPanes::currentChanged, usedBy,
+            [this, usedBy] { usedBy->setCurrent(m_panes.currentDocument()); });
+    connect(&m_files, &DocumentFiles::saved, usedBy, &UsedByDock::refresh);
+    connect(m_ui.actionWhereUsed, &QAction::triggered, this, &WhereUsed::openUsedBy);
+    // Later, as what is picked in an explorer: a question would swallow the release of the mouse.
+    connect(usedBy, &UsedByDock::recordWanted, this,
+            [this](DocumentType type, const QString &path, const RecordRef &record) {
+                QTimer::singleShot(0, this, [this, type, path, record] { openRecord(type, path, record); });
+            });
+    connect(usedBy, &UsedByDock::materialsWanted, this, &WhereUsed::openMaterials, Qt::QueuedConnection);
+    for (const DocumentPane &each : m_panes.all()) {
+        QMenu *menu = structure.menu(each.document->kind().type);
+        menu->addSeparator();
+        menu->addAction(m_ui.actionWhereUsed);
+    }
+}
+
+/// What the field with the keys holds is what is asked for, where that is the number of something.
+void WhereUsed::openUsedBy()
+{
+    std::optional<NamedThing> thing;
+    QWidget *editor = QApplication::focusWidget();
+    while (editor && Questions::of(editor).isEmpty())
+        editor = editor->parentWidget();
+    if (const auto kind = editor ? namedKindOf(Questions::of(editor).first()) : std::nullopt) {
+        const auto *whole = qobject_cast<const IntSpinBox *>(editor);
+        const auto *real = qobject_cast<const FloatSpinBox *>(editor);
+        if (whole)
+            thing = NamedThing{*kind, double(whole->value())};
+        else if (real)
+            thing = NamedThing::ofArgument(*kind, real->value());
+    }
+    m_ui.dockUsedBy->open(thing);
+}
+
+void WhereUsed::openRecord(DocumentType type, const QString &path, const RecordRef &record)
+{
+    if (QApplication::activeModalWidget())
+        return;
+    if (FileSystem::isSamePath(m_files.document(type)->path(), path))
+        return lead(type, record);
+    if (!m_files.promptUnsaved(type))
+        return;
+    m_files.open(type, path, [this, type, record](DocumentFiles::Outcome outcome) {
+        if (outcome == DocumentFiles::Outcome::Opened)
+            lead(type, record);
+    });
+}
+
+void WhereUsed::lead(DocumentType type, const RecordRef &record)
+{
+    m_ui.dockUsedBy->setLeading(true);
+    m_panes.showRecord(type, record);
+    m_ui.dockUsedBy->setLeading(false);
+}
+
+void WhereUsed::openMaterials(const QString &path)
+{
+    // What an archive holds is nothing that the desktop could open.
+    const bool isArchived = !Files::archiveOf(path).isEmpty();
+    const QString shown = isArchived ? QFileInfo(Files::heldBy(path)).path() : path;
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(shown)))
+        emit told(tr("Failed to open %1").arg(QDir::toNativeSeparators(shown)));
+}

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Document.h"
+
+#include <QObject>
+
+class DocumentFiles;
+class DocumentPanes;
+class StructureActions;
+
+namespace Ui {
+class MainWindow;
+}
+
+/// Has the dock of who names what asked, and opens what it lists.
+class WhereUsed : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Everything outlives this.
+    WhereUsed(const Ui::MainWindow &ui, DocumentFiles &files, DocumentPanes &panes,
+              SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticMeshDocument &staticMesh,
+              const StructureActions &structure, QObject *parent);
+
+signals:
+    /// Something for the status bar.
+    void told(const QString &text);
+
+private:
+    void openUsedBy();
+    void openRecord(DocumentType type, const QString &path, const RecordRef &record);
+    void openMaterials(const QString &path);
+    void lead(DocumentType type, const RecordRef &record);
+
+    const Ui::MainWindow &m_ui;
+    DocumentFiles &m_files;
+    DocumentPanes &m_panes;
+};

@@ -330,12 +330,15 @@ TickTimer::Pace KVOpenGLWidget::tick(TickTimer::Due due)
     // What started between two idle looks starts now; under a hand that drags the pose stays.
     if (m_active && skinned && !m_timer.isIdle() && !m_tools.isHandleHeld())
         advanceClock(playback(), due.seconds);
+    MarkedEvents &events = m_scene.frame.marks.events;
+    events.fade(due.seconds * playback().speedFactor);
     if (m_statistics)
         m_statistics->tick(due.seconds);
     if (m_readOut.tick(due.seconds, m_active, m_camera.position()))
         emit positionReadOut(m_readOut.text());
     const bool moved = moveBy(due), turns = m_tools.turntable->turn(due.seconds);
-    m_repaintWanted = m_repaintWanted || moved || turns || (skinned && m_playback.isBehind());
+    m_repaintWanted =
+        m_repaintWanted || moved || turns || (skinned && (m_playback.isBehind() || events.isFading()));
     const bool waitsToPaint = m_repaintWanted && !m_timer.mayPaint();
     // Label and slider change with the picture: the window is put together once for all three.
     if (m_active && skinned && !waitsToPaint && m_playback.label.update(playback()))
@@ -344,7 +347,7 @@ TickTimer::Pace KVOpenGLWidget::tick(TickTimer::Due due)
         tellFrame(ShownPlayback::nextFrame(m_scene.palette() != nullptr));
         update();
     }
-    const bool plays = turns || (m_active && skinned && clockRuns(playback()));
+    const bool plays = turns || (m_active && skinned && (clockRuns(playback()) || events.isFading()));
     if (moved || (waitsToPaint && !plays) || m_tools.cursor() == ViewCursor::Captured ||
         (m_active && !plays && m_readOut.shown() != m_camera.position()))
         return TickTimer::Pace::Moving;

@@ -167,6 +167,7 @@ void AnimTrackFrame::selectBlock(int blockIndex)
     updateRange();
     moveTo(0);
     state.time = 0.0f;
+    state.rounds = 0;
     emit playbackChanged();
     emit blockChanged();
 }
@@ -274,6 +275,7 @@ void AnimTrackFrame::play(float time)
 {
     playback().playState = PlayState::Playing;
     playback().time = time;
+    playback().rounds = 0;
     emit playbackChanged();
 }
 

@@ -6,6 +6,7 @@
 #include "EventArguments.h"
 #include "FrameChoice.h"
 #include "FrameLabel.h"
+#include "PlayClock.h"
 #include "Playback.h"
 #include "Settings.h"
 
@@ -26,14 +27,6 @@ QString plainSoundName(const QString &name)
     }
     return plain;
 }
-
-/// Where what plays goes on after its end.
-int restartOf(const Playback &state, const AnimBlock &block)
-{
-    if (!state.range.isEmpty())
-        return state.range.first;
-    return state.forceLoop || block.loopFrame >= block.frameCount() ? 0 : block.loopFrame;
-}
 } // namespace
 
 void EventSounds::showFrame(int frame)
@@ -46,7 +39,7 @@ void EventSounds::showFrame(int frame)
         play(m_next, frame);
     } else {
         play(m_next, state.range.isEmpty() ? block->frameCount() - 1 : state.range.last);
-        play(restartOf(state, *block), frame);
+        play(restartFrame(state, *block), frame);
     }
     m_next = frame + 1;
 }

@@ -40,6 +40,13 @@ public:
     void follow(const Playback &state, int frame);
     const std::vector<MarkedEvent> &shown() const { return m_shown; }
 
+    /// Whether they still fade though the clock stands on the last frame.
+    bool isFading() const { return m_isFading; }
+    /// Lets them fade then, by so many seconds of play time.
+    void fade(float seconds) { m_stood += m_isFading ? seconds : 0.0f; }
+
 private:
     std::vector<MarkedEvent> m_shown;
+    bool m_isFading = false;
+    float m_stood = 0.0f; ///< how long the clock has stood, in seconds
 };

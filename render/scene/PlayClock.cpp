@@ -21,6 +21,13 @@ bool stands(const AnimBlock &block, const Playback &state)
 }
 } // namespace
 
+int restartFrame(const Playback &state, const AnimBlock &block)
+{
+    if (!state.range.isEmpty())
+        return state.range.first;
+    return state.forceLoop || block.loopFrame >= block.frameCount() ? 0 : block.loopFrame;
+}
+
 bool clockRuns(const Playback &state)
 {
     if (state.playState != PlayState::Playing)
@@ -33,11 +40,16 @@ void advanceClock(Playback &state, float dt)
 {
     if (!clockRuns(state))
         return;
+    const AnimBlock &block = *playableBlock(state);
+    const float rate = playRate(block.speed);
+    const float end = state.range.isEmpty() ? playDuration(block) : float(state.range.last) / rate;
+    const bool wasInside = state.time < end;
     state.time += dt * state.speedFactor;
+    if (wasInside && state.time >= end)
+        ++state.rounds;
     if (state.range.isEmpty())
         return;
-    const float rate = playRate(playableBlock(state)->speed);
     const float first = float(state.range.first) / rate;
-    if (state.time < first || state.time >= float(state.range.last) / rate)
+    if (state.time < first || state.time >= end)
         state.time = first;
 }

@@ -25,6 +25,7 @@ struct Playback
     int blockIndex = 0;
     PlayState playState = PlayState::InitialPose;
     float time = 0.0f;      ///< seconds
+    int rounds = 0;         ///< how often it has gone on after its end since it was started
     bool forceLoop = false; ///< "Force Loop beginning to end"
     FrameRange range;
     /// Shown in place of the block, which has as many bones and frames, while keys are dragged. Whoever set

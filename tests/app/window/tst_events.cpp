@@ -4,11 +4,14 @@
 #include "AnimTrackFrame.h"
 #include "EventArguments.h"
 #include "FourActions.h"
+#include "FrameChoice.h"
 #include "KVOpenGLWidget.h"
 #include "MarkedEvents.h"
 #include "NameTables.h"
 #include "PlayClock.h"
 #include "Playback.h"
+
+#include <set>
 
 /// Events as they are seen in the view and heard.
 class tst_Events : public QObject
@@ -94,6 +97,79 @@ private slots:
         state.time = 0.6f;
         events.follow(state, 6);
         QCOMPARE(int(events.shown().size()), 2); // both of frame 5; that of frame 2 is over
+    }
+
+    // The last frame and the first of the next round are one moment.
+    void eventsAreSeenWhereItLoops()
+    {
+        constexpr quint16 NoLoop = 0xFFFF;
+        const struct
+        {
+            const char *name;
+            quint16 loopFrame;
+            bool forced;
+            FrameRange range;
+            QString first, later; ///< the frames whose events are seen in the first round, and from the third
+        } rows[] = {{"wraps", NoLoop, false, {}, "2 4", "2 4 10"},
+                    {"loops", 4, false, {}, "2 4", "4 10"},
+                    {"forced", 4, true, {}, "2 4", "2 4 10"},
+                    {"range", 4, true, {2, 4}, "2", "2 4"},
+                    {"late range", NoLoop, false, {4, 10}, "4", "4 10"}};
+        SkinnedMesh mesh;
+        mesh.nodes.resize(2);
+        for (const auto &row : rows) {
+            AnimFile file = twoBlocks();
+            AnimBlock &block = file.blocks[0];
+            block.loopFrame = row.loopFrame;
+            for (const int frame : {2, 4, 10, 12})
+                block.actions.emplace_back().frame = quint16(frame);
+            Playback state;
+            state.anim = &file;
+            state.mesh = &mesh;
+            state.playState = PlayState::Playing;
+            state.forceLoop = row.forced;
+            state.range = row.range;
+            MarkedEvents events;
+            events.wanted = true;
+            std::set<int> first, later;
+            for (int picture = 0; picture < 300; ++picture) {
+                advanceClock(state, 1.0f / 60);
+                events.follow(state, chooseFrame(block, state.playState, state.forceLoop, state.time).frame);
+                for (const MarkedEvent &event : events.shown()) {
+                    if (state.rounds != 1)
+                        (state.rounds == 0 ? first : later).insert(block.actions[size_t(event.action)].frame);
+                }
+            }
+            const auto text = [](const std::set<int> &frames) {
+                QStringList texts;
+                for (const int frame : frames)
+                    texts += QString::number(frame);
+                return texts.join(' ');
+            };
+            QVERIFY2(text(first) == row.first, qPrintable(row.name + (": " + text(first))));
+            QVERIFY2(text(later) == row.later, qPrintable(row.name + (": " + text(later))));
+        }
+    }
+
+    void eventsFadeWhereItStands()
+    {
+        AnimFile file = twoBlocks();
+        file.blocks[0].loopFrame = 10;
+        file.blocks[0].actions.emplace_back().frame = 10;
+        file.blocks[0].actions[0].eventType = 2;
+        file.blocks[0].actions[0].args = {60.0f, 16384.0f};
+        Settings::ShowEvents.setValue(true);
+        ShownWindow window({m_files->save("a.skinnedmesh", triangleMan()), m_files->save("a.anim", file)});
+        auto *view = find<KVOpenGLWidget>(window, "viewSkinned");
+        const auto marked = [view] { return countPixels(view->grabFramebuffer(), QColor("#ff3b30")); };
+        auto *track = find<ActionTrack>(window, "actionTrack");
+        QTest::mouseClick(track, Qt::LeftButton, {}, track->places().rulerPlace(10));
+        view->playbackChanged();
+        QVERIFY(marked() > 100);
+        find<QToolButton>(window, "btnAnimTrackPlay")->click();
+        QTRY_VERIFY(playback().time >= 1.0f);
+        QTRY_COMPARE(marked(), 0);
+        QCOMPARE(playback().playState, PlayState::Playing);
     }
 
     void soundsPlayWithTheirFrames()

@@ -16,7 +16,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 #include <map>
 #include <utility>
 
@@ -131,17 +130,17 @@ void DamageShow::update()
         return;
     }
     std::vector<QRgb> colors;
-    std::map<float, LegendRow> rows; // the most damage first, types in their order
+    // The most damage first, what is no number last; types in their order.
+    std::map<std::pair<bool, float>, LegendRow> rows;
     const QStringList types = Fields::impactTypes();
     for (const SkinnedMeshNode &bone : bones) {
         const bool isScale = what == Shown::DamageScale;
         const QRgb color =
             isScale ? damageColor(bone.damageScale) : ImpactColors[bone.impactType % ImpactColors.size()];
         colors.push_back(qRgba(qRed(color), qGreen(color), qBlue(color), TintOpacity));
-        const float key = !isScale                       ? float(bone.impactType)
-                          : std::isnan(bone.damageScale) ? -std::numeric_limits<float>::infinity()
-                                                         : -bone.damageScale;
-        LegendRow &row = rows[key];
+        const bool isNumber = !isScale || !std::isnan(bone.damageScale);
+        const float key = isScale ? -bone.damageScale : float(bone.impactType);
+        LegendRow &row = rows[{!isNumber, isNumber ? key : 0.0f}];
         row.color = color;
         ++row.bones;
         if (row.bones == 1)

@@ -343,6 +343,12 @@ private slots:
         find<QAction>(*m_window, "actionDamageOff")->trigger();
         QVERIFY(legend().isEmpty());
         QCOMPARE(m_view->grabFramebuffer(), plain);
+        Settings::ShowDamage.setValue(1);
+        SkinnedMesh odd = boxedMan();
+        odd.nodes[0].damageScale = std::numeric_limits<float>::infinity();
+        odd.nodes[1].damageScale = std::numeric_limits<float>::quiet_NaN();
+        open(odd);
+        QVERIFY(legend().contains(QRegularExpression(QStringLiteral("× inf.*× 1&.*× nan"))));
     }
 
     // Files are made of boxes that fit: a fit moves them by rounding errors at most.

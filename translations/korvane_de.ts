@@ -10765,6 +10765,10 @@ Nichts wurde geändert. %2</translation>
         <source>Surface %1</source>
         <translation>Fläche %1</translation>
     </message>
+    <message>
+        <source>The surface is being read…</source>
+        <translation>Die Fläche wird gelesen…</translation>
+    </message>
 </context>
 <context>
     <name>Validation</name>

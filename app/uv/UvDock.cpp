@@ -156,7 +156,10 @@ void UvDock::follow(size_t which)
         listSurfaces();
         showSurface(false);
     };
-    connect(model.document.data(), &Document::structuresChanged, this, showAnew);
+    connect(model.document.data(), &Document::structuresChanged, this, [this, showAnew] {
+        showAnew();
+        tellReading(); // the map has vertices that the model may have no more
+    });
     connect(model.document.data(), &Document::recordsChanged, this,
             [this, which, showAnew](const QVector<RecordRef> &records) {
                 if (m_models[which].isShownBy(records))
@@ -236,7 +239,6 @@ void UvDock::showSurface(bool isOther)
         m_place->clear();
         return;
     }
-    m_view->setEmptyText({});
     model->surface = std::clamp(model->surface, 0, count - 1);
     m_surfaces->setCurrentIndex(model->surface);
     m_maker.start(
@@ -247,10 +249,23 @@ void UvDock::showSurface(bool isOther)
         },
         [this, isOther](Made made) { showMade(std::move(made), isOther); });
     m_maker.wait(DocumentLoader::usualPatience());
+    if (isOther && m_maker.isRunning()) {
+        m_view->show({}, {}, true);
+        m_words->clear();
+        m_place->clear();
+        tellReading();
+    }
+}
+
+void UvDock::tellReading()
+{
+    if (m_maker.isRunning())
+        m_view->setEmptyText(tr("The surface is being read…"));
 }
 
 void UvDock::showMade(Made made, bool isOther)
 {
+    m_view->setEmptyText({});
     const UvMap &map = made.map;
     QStringList words{tr("triangles: %1").arg(map.triangles().size()),
                       tr("vertices: %1").arg(map.vertices().size()), textureWords(made.texture)};

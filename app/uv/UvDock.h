@@ -70,6 +70,8 @@ private:
     void listSurfaces();
     /// Makes the surface anew that is shown; `isOther` when it is another one than before.
     void showSurface(bool isOther);
+    /// Says so where the surface is still being made: what is seen then answers no hand.
+    void tellReading();
     void showMade(Made made, bool isOther);
     /// Takes over what is selected in the tree. Returns whether that is of another surface, which is to be
     /// shown then.

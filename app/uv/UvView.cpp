@@ -268,7 +268,7 @@ void UvView::choose(std::vector<int> vertices, Qt::KeyboardModifiers keys)
                        std::back_inserter(wanted));
     else
         wanted = std::move(vertices);
-    if (wanted != m_marked)
+    if (wanted != m_marked && m_emptyText.isEmpty())
         emit chosen(wanted);
 }
 

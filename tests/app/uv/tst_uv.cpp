@@ -206,6 +206,35 @@ private slots:
         QVERIFY(!find<QComboBox>(*m_window, "cbUvSurface")->isEnabled());
     }
 
+    // Its numbers are those of another surface than the one that is shown.
+    void aMapThatIsNotThereYetAnswersNoHand()
+    {
+        open(true);
+        openDock();
+        const QByteArray patience = qgetenv("KORVANE_PATIENCE");
+        qputenv("KORVANE_PATIENCE", "0");
+        auto *surfaces = find<QComboBox>(*m_window, "cbUvSurface");
+        const auto selectAllOf = [&](int key, int surface) {
+            surfaces->setFocus();
+            QTest::keyClick(surfaces, Qt::Key(key));
+            view()->setFocus();
+            QTest::keyClick(view(), Qt::Key_A, Qt::ControlModifier);
+            const QVector<RecordIndex> marked = tree()->selectedRecords(vertexKind());
+            return std::all_of(marked.begin(), marked.end(), [surface](const RecordIndex &vertex) {
+                return (vertex[0] >= 4) == (surface == 1);
+            });
+        };
+        for (int i = 0; i < 5; ++i) {
+            QVERIFY(selectAllOf(Qt::Key_Down, 1));
+            QTRY_COMPARE(view()->map().triangles().size(), size_t(1));
+            QVERIFY(selectAllOf(Qt::Key_Up, 0));
+            QTRY_COMPARE(view()->map().triangles().size(), size_t(2));
+        }
+        qputenv("KORVANE_PATIENCE", patience);
+        QTest::keyClick(view(), Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(selectedVertices(), Vertices({0, 1, 2, 3}));
+    }
+
 private:
     static constexpr auto Orange = QColor(0xff, 0x8c, 0x00);
 

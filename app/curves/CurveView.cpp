@@ -33,6 +33,8 @@ CurveView::CurveView(QWidget *parent)
 
 void CurveView::setCurves(const AnimBlock *block, const QVector<int> &bones, unsigned channels, bool anew)
 {
+    if (anew)
+        m_drag.before.reset(); // of another block
     giveUp();
     if (anew)
         m_data = {};
@@ -131,11 +133,10 @@ void CurveView::press(const QMouseEvent &event)
 {
     m_drag = {};
     m_drag.from = m_drag.to = event.pos();
-    m_drag.shown = m_frame;
     m_drag.selection = m_selection;
     if (event.pos().y() < m_places.plot().top()) {
         m_drag.gesture = Gesture::Seek;
-        return emit frameAsked(m_places.time().frameAt(event.pos().x()));
+        return showWhileDragged(m_places.time().frameAt(event.pos().x()));
     }
     const CurveKey key = m_places.keyAt(event.localPos());
     if (key.isNone()) {
@@ -172,8 +173,7 @@ void CurveView::follow(const QMouseEvent &event)
     case Gesture::None:
         return;
     case Gesture::Seek:
-        emit frameAsked(m_places.time().frameAt(event.pos().x()));
-        return;
+        return showWhileDragged(m_places.time().frameAt(event.pos().x()));
     case Gesture::Pan:
         m_places.scroll(m_drag.to - last);
         touch();
@@ -200,7 +200,7 @@ void CurveView::moveKeys(const QMouseEvent &event)
     if (event.modifiers() & Qt::ControlModifier)
         m_drag.by = m_places.roundMove(m_drag.key, m_drag.by);
     if (m_frame != m_drag.key.frame)
-        emit frameAsked(m_drag.key.frame); // the pose that the key is of
+        showWhileDragged(m_drag.key.frame); // the pose that the key is of
     emit dragged(m_drag.unit, m_drag.by);
     QToolTip::showText(
         event.globalPos(),
@@ -238,9 +238,7 @@ void CurveView::drop(const QMouseEvent &event)
     case Gesture::Band:
         if (done.moved || event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier))
             return;
-        m_selection.clear();
-        emit selectionChanged();
-        return;
+        return clearSelection();
     case Gesture::Keys:
         QToolTip::hideText();
         if (done.moved && m_selection.contains(done.key)) {
@@ -258,8 +256,7 @@ void CurveView::giveUp()
     if (given.gesture == Gesture::None)
         return;
     setCursor(Qt::ArrowCursor);
-    const bool drags = given.gesture == Gesture::Keys && given.moved;
-    if (drags) {
+    if (given.gesture == Gesture::Keys && given.moved) {
         QToolTip::hideText();
         emit givenUp();
     }
@@ -267,8 +264,8 @@ void CurveView::giveUp()
         m_selection = given.selection;
         tellSelection();
     }
-    if (m_frame != given.shown && (drags || given.gesture == Gesture::Seek))
-        emit frameAsked(given.shown);
+    if (given.before)
+        emit placeAsked(*given.before);
     touch();
 }
 
@@ -325,8 +322,7 @@ void CurveView::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Escape:
         if (m_drag.gesture != Gesture::None)
             return giveUp();
-        m_selection.clear();
-        return tellSelection();
+        return clearSelection();
     case Qt::Key_Left:
     case Qt::Key_Right:
         return step(way, event->modifiers() & Qt::ShiftModifier);

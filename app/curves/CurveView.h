@@ -4,10 +4,12 @@
 
 #include "CurvePainter.h"
 #include "KeyDrag.h"
+#include "PlayPlace.h"
 
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 /// The curves of an animation: frames from left to right, values upwards. Keys are selected by clicks, bands
 /// and keys, and dragged up and down; the wheel zooms, the middle button moves what is seen.
@@ -41,6 +43,11 @@ public:
     bool isDragging() const { return m_drag.gesture == Gesture::Keys && m_drag.moved; }
 
     void selectAll();
+    void clearSelection()
+    {
+        m_selection.clear();
+        tellSelection();
+    }
     void showAll();
     void showSelected();
 
@@ -50,6 +57,8 @@ public:
 signals:
     /// This frame is to be shown.
     void frameAsked(int frame);
+    /// A drag that showed other frames was given up: what was shown before is to be again.
+    void placeAsked(const PlayPlace &place);
     void selectionChanged();
     /// The selected keys of that unit would be so much higher, while they are dragged.
     void dragged(CurveUnit unit, double by);
@@ -83,9 +92,9 @@ private:
         CurveKey key;       ///< that was taken
         CurveUnit unit{};
         KeyDrag way;
-        double by = 0.0;          ///< of that, or to a round number
-        int shown = 0;            ///< the frame that was shown before
-        CurveSelection selection; ///< as it was before
+        double by = 0.0;                 ///< of that, or to a round number
+        std::optional<PlayPlace> before; ///< if it has shown other frames
+        CurveSelection selection;        ///< as it was before
     };
 
     void arrange();
@@ -99,6 +108,13 @@ private:
     void selectBand();
     void drop(const QMouseEvent &event);
     void giveUp();
+    /// Shows a frame while something is dragged.
+    void showWhileDragged(int frame)
+    {
+        if (!m_drag.before)
+            m_drag.before.emplace(m_frame);
+        emit frameAsked(frame);
+    }
     void step(int frames, bool adds);
     void stepCurve(int curves);
     void nudge(int steps);

@@ -175,6 +175,7 @@ void CurvesDock::setSources(AnimDocument &anim, const SkinnedMeshDocument &mesh,
         connect(tree, &KVTreeView::currentRecordChanged, this, [this, tree] { follow(*tree); });
     const auto again = [this] { refresh(false); };
     connect(&timeline, &AnimTrackFrame::blockChanged, this, [this] { refresh(true); });
+    connect(&timeline, &AnimTrackFrame::framesReplaced, m_view, &CurveView::clearSelection);
     connect(&anim, &Document::recordsChanged, this, again);
     connect(&anim, &Document::structuresChanged, this, again);
     connect(&anim, &Document::aboutToBeReplaced, this, [this] { m_view->setCurves(nullptr, {}, 0, true); });
@@ -184,6 +185,7 @@ void CurvesDock::setSources(AnimDocument &anim, const SkinnedMeshDocument &mesh,
     ActionTrack &track = timeline.actionTrack();
     connect(&track, &ActionTrack::frameShown, m_view, &CurveView::setFrame);
     connect(m_view, &CurveView::frameAsked, &track, &ActionTrack::frameAsked);
+    connect(m_view, &CurveView::placeAsked, &track, &ActionTrack::placeAsked);
 }
 
 QVector<int> CurvesDock::bonesOf(const KVTreeView &tree) const

@@ -49,6 +49,7 @@ void ActionTrack::setBlock(const AnimBlock *block, bool anew)
     if (hasRange() && (anew || m_rangeLast > m_places.scale().lastFrame()))
         clearRange();
     arrange();
+    setFrame(m_frame);
 }
 
 void ActionTrack::arrange()
@@ -69,6 +70,7 @@ void ActionTrack::arrange()
 
 void ActionTrack::setFrame(int frame)
 {
+    frame = std::min(frame, m_places.scale().lastFrame());
     // What plays paints no more than it has to.
     for (const int each : {m_frame, frame}) {
         if (frame != m_frame)
@@ -136,7 +138,6 @@ void ActionTrack::press(const QMouseEvent &event)
     const TrackScale &scale = m_places.scale();
     m_drag = {};
     m_drag.from = m_drag.to = event.pos();
-    m_drag.shown = m_frame;
     m_drag.selection = m_selection;
     m_drag.rangeFirst = m_rangeFirst;
     m_drag.rangeLast = m_rangeLast;
@@ -157,7 +158,7 @@ void ActionTrack::press(const QMouseEvent &event)
                          : m_places.lanes().contains(event.pos()) ? Gesture::Band
                                                                   : Gesture::Seek;
         if (m_drag.gesture == Gesture::Seek)
-            emit frameAsked(m_drag.frame);
+            showWhileDragged(m_drag.frame);
     }
 }
 
@@ -179,7 +180,7 @@ void ActionTrack::follow(const QMouseEvent &event)
     const TrackScale &scale = m_places.scale();
     const int frame = scale.frameAt(event.pos().x());
     if (m_drag.gesture == Gesture::Seek)
-        emit frameAsked(frame);
+        showWhileDragged(frame);
     if (!m_drag.moved)
         return;
     switch (m_drag.gesture) {
@@ -198,7 +199,7 @@ void ActionTrack::follow(const QMouseEvent &event)
             return;
         const double by = (event.pos().x() - m_drag.from.x()) / scale.pixelsPerFrame();
         m_drag.target = m_drag.frame + m_drag.taken.bounded(m_places, int(std::lround(by)));
-        emit frameAsked(m_drag.target); // the pose that the action would fall on
+        showWhileDragged(m_drag.target); // the pose that the action would fall on
         tellDrag(event.globalPos());
         break;
     }
@@ -272,10 +273,8 @@ void ActionTrack::giveUp()
         setRange(given.rangeFirst, given.rangeLast);
     if (given.gesture == Gesture::Band)
         m_selection = given.selection;
-    if (m_frame != given.shown)
-        emit frameAsked(given.shown);
-    if (given.played == PlayState::Playing)
-        emit playAsked();
+    if (given.before)
+        emit placeAsked(*given.before);
     update();
 }
 

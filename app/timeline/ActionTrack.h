@@ -3,10 +3,12 @@
 #pragma once
 
 #include "MarkSelection.h"
-#include "Playback.h"
+#include "PlayPlace.h"
 #include "TrackLayout.h"
 
 #include <QWidget>
+
+#include <optional>
 
 class QScrollBar;
 
@@ -27,6 +29,7 @@ public:
     void setBlock(const AnimBlock *block, bool anew);
     /// Another file comes: the height need not be that of its blocks.
     void forgetHeight() { m_places.forgetHeight(); }
+    /// Shows a frame, the last one instead of one that there is not.
     void setFrame(int frame);
     int frame() const { return m_frame; }
 
@@ -49,8 +52,8 @@ signals:
     void frameShown(int frame);
     /// This frame is to be shown.
     void frameAsked(int frame);
-    /// A drag that stopped what played was given up: it is to go on.
-    void playAsked();
+    /// A drag that showed other frames was given up: what was shown before is to be again.
+    void placeAsked(const PlayPlace &place);
     /// These actions are to be selected, `current` of them to be the current one; none: -1.
     void selectionAsked(const QVector<int> &actions, int current);
     /// These actions are to be so many frames later.
@@ -84,13 +87,12 @@ private:
         bool moved = false; ///< farther than a click shakes
         int mark = -1;      ///< the action that was taken
         TrackHandle handle = TrackHandle::LoopFrame;
-        int frame = 0;                           ///< of what was taken, before
-        int target = 0;                          ///< where it would be dropped
-        int shown = 0;                           ///< the frame that was shown before
-        MarkSelection selection;                 ///< as it was before
-        MarkSelection taken;                     ///< what is dragged, whatever is selected meanwhile
-        PlayState played = playback().playState; ///< before
-        int rangeFirst = 0;                      ///< as it was before
+        int frame = 0;                   ///< of what was taken, before
+        int target = 0;                  ///< where it would be dropped
+        std::optional<PlayPlace> before; ///< if it has shown other frames
+        MarkSelection selection;         ///< as it was before
+        MarkSelection taken;             ///< what is dragged, whatever is selected meanwhile
+        int rangeFirst = 0;              ///< as it was before
         int rangeLast = -1;
     };
 
@@ -102,6 +104,13 @@ private:
     void follow(const QMouseEvent &event);
     void drop(const QMouseEvent &event);
     void giveUp();
+    /// Shows a frame while something is dragged.
+    void showWhileDragged(int frame)
+    {
+        if (!m_drag.before)
+            m_drag.before.emplace(m_frame);
+        emit frameAsked(frame);
+    }
     void tellDrag(const QPoint &global);
 
     TrackLayout m_places;

@@ -70,7 +70,7 @@ AnimTrackFrame::AnimTrackFrame(QWidget *parent)
     connect(m_ui->sliderAnimTrack, &TrackSlider::actionChosen, this,
             [this](int action) { emit actionChosen(playback().blockIndex, action); });
     connect(m_ui->actionTrack, &ActionTrack::frameAsked, this, &AnimTrackFrame::goTo);
-    connect(m_ui->actionTrack, &ActionTrack::playAsked, this, [this] { play(playback().time); });
+    connect(m_ui->actionTrack, &ActionTrack::placeAsked, this, &AnimTrackFrame::returnTo);
     connect(m_ui->actionTrack, &ActionTrack::rangeChanged, this, [this](int first, int last) {
         playback().range = {first, last};
         emit playbackChanged();
@@ -279,6 +279,20 @@ void AnimTrackFrame::play(float time)
     emit playbackChanged();
 }
 
+void AnimTrackFrame::returnTo(const PlayPlace &place)
+{
+    moveTo(place.frame);
+    playback().playState = place.state;
+    playback().time = place.time;
+    emit playbackChanged();
+}
+
+void AnimTrackFrame::forgetFrames()
+{
+    m_ui->actionTrack->clearRange();
+    emit framesReplaced();
+}
+
 void AnimTrackFrame::goTo(int frame)
 {
     if (frame < 0 || frame > m_ui->sliderAnimTrack->maximum())
@@ -311,7 +325,7 @@ void AnimTrackFrame::OnAnimTrackStopPressed()
 void AnimTrackFrame::OnAnimTrackPosePressed()
 {
     playback().playState = PlayState::InitialPose;
-    m_ui->sliderAnimTrack->setValue(0);
+    moveTo(0); // the initial pose tells no frame
     playback().time = 0.0f;
     emit playbackChanged();
 }

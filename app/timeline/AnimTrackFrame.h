@@ -12,6 +12,7 @@ class ActionTrack;
 class QAction;
 struct AnimBlock;
 struct AnimFile;
+struct PlayPlace;
 
 namespace Ui {
 class AnimTrackFrame;
@@ -35,6 +36,8 @@ public:
     /// Fits slider, marks and the list of blocks to the file, which may have changed, and to what its numbers
     /// are called.
     void updateRange();
+    /// Other frames stand in the block's places: what was selected of them is not kept.
+    void forgetFrames();
 
     /// Follows the frame that was painted; sets no time.
     void showFrame(int frame);
@@ -58,6 +61,8 @@ signals:
     void actionChosen(int block, int action);
     /// Another block is shown.
     void blockChanged();
+    /// Other frames stand in the places of those that the block had.
+    void framesReplaced();
     /// The playback state was changed here: the picture is stale.
     void playbackChanged();
 
@@ -80,6 +85,7 @@ private:
     void play(float time);
     void showState();
     void moveTo(int frame);
+    void returnTo(const PlayPlace &place);
     void goTo(int frame);
     void step(int direction);
     void stepToMark(int direction);

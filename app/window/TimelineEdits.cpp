@@ -42,6 +42,16 @@ RecordIndex indexOf(int action)
 {
     return {playback().blockIndex, action};
 }
+
+/// Whether the whole block that plays was exchanged. Where only its lists have other lengths, one of them is
+/// to be shown.
+bool replacesFrames(const StructureChange &change)
+{
+    const RecordRef block{RecordKind::AnimBlock, {playback().blockIndex}};
+    const bool isBlock =
+        change.record == block && change.added == 0 && change.select.kind == RecordKind::None;
+    return isBlock || change.record.kind == RecordKind::AnimFile;
+}
 } // namespace
 
 TimelineEdits::TimelineEdits(AnimDocument &document, DocumentPanes &panes, AnimTrackFrame &timeline,
@@ -87,7 +97,12 @@ TimelineEdits::TimelineEdits(AnimDocument &document, DocumentPanes &panes, AnimT
         followTree();
     });
     // The tree may have selected records before the track had their marks.
-    connect(&document, &Document::structuresChanged, this, &TimelineEdits::followTree);
+    connect(&document, &Document::structuresChanged, this,
+            [this, &timeline](const QVector<StructureChange> &changes) {
+                if (std::any_of(changes.begin(), changes.end(), replacesFrames))
+                    timeline.forgetFrames();
+                followTree();
+            });
 }
 
 void TimelineEdits::createActions()

@@ -76,6 +76,20 @@ private slots:
         QVERIFY(!playback().preview);
         QCOMPARE(on.view->frame(), 1);
         QTest::mouseRelease(on.view, Qt::LeftButton, {}, from - QPoint(0, 50));
+        // What played goes on, and the initial pose comes back.
+        playback().playState = PlayState::Playing;
+        on.press(from);
+        on.move(from - QPoint(0, 50));
+        QCOMPARE(playback().playState, PlayState::Paused);
+        on.type(Qt::Key_Escape);
+        QCOMPARE(playback().playState, PlayState::Playing);
+        QTest::mouseRelease(on.view, Qt::LeftButton, {}, from - QPoint(0, 50));
+        on.button("btnAnimTrackPose");
+        on.press(on.view->places().rulerPlace(3));
+        QCOMPARE(playback().playState, PlayState::Paused);
+        on.type(Qt::Key_Escape);
+        QCOMPARE(playback().playState, PlayState::InitialPose);
+        QTest::mouseRelease(on.view, Qt::LeftButton, {}, on.view->places().rulerPlace(3));
         // There and back again.
         on.press(from);
         on.move(from - QPoint(0, 50));
@@ -305,6 +319,16 @@ private slots:
             on.document().undoStack()->push(new UC_AnimBlockPaste(
                 on.document().editTarget(), {last, 0, 0}, AnimBlock(on.document().model().blocks[0])));
         }
+        on.undoAll();
+        // Keys are selected as long as they are the same ones.
+        select(on.window, "treeAnim", {{RecordKind::AnimBone, {0, 0}}});
+        on.click(on.key(RotX, 1));
+        on.document().undoStack()->push(
+            new UC_AnimAddAction(on.document().editTarget(), {0, 0, 0}, AnimAction()));
+        QCOMPARE(on.view->selection().count(), 1);
+        on.document().undoStack()->push(new UC_AnimBlockMotion(
+            on.document().editTarget(), {0, 0, 0}, WholeBlock(on.block(), AnimBlock(on.block())), {}, {}));
+        QVERIFY(on.view->selection().isEmpty());
         on.undoAll();
         // Without frames yaw has no line, either; without a bone the title asks for one.
         on.setFrameCount(0);

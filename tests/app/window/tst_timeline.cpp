@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "ActionTrack.h"
+#include "AnimCommands.h"
 #include "AnimTrackFrame.h"
+#include "DocumentFiles.h"
 #include "FourActions.h"
 #include "NameTables.h"
 #include "PlayClock.h"
@@ -27,6 +29,16 @@ struct Timeline
         return TestSupport::readFile(folder.path("now.anim"));
     }
     const AnimBlock &block() const { return playback().anim->blocks[0]; }
+    /// As the animation commands do it.
+    void exchangeBlock(int frames) const
+    {
+        auto *files = window.findChild<DocumentFiles *>();
+        auto &document = dynamic_cast<AnimDocument &>(*files->document(DocumentType::Anim));
+        AnimBlock made = block();
+        made.setFrameCount(frames);
+        document.undoStack()->push(new UC_AnimBlockMotion(document.editTarget(), {0, 0, 0},
+                                                          WholeBlock(block(), std::move(made)), {}, {}));
+    }
     /// The frames of the actions, then those of the handles.
     QString frames() const
     {
@@ -146,26 +158,6 @@ private slots:
             none, {}, {0, 1, 2});
         add("a shaking click", [](Timeline &on) { on.drag(on.mark(0), on.mark(0) + QPoint(1, 1)); }, none, {},
             {0});
-        add("Esc",
-            [](Timeline &on) {
-                on.show(1);
-                on.press(on.mark(0));
-                on.move({on.x(8), on.mark(0).y()});
-                QCOMPARE(playback().time, 0.8f); // the pose that it would fall on
-                on.key(Qt::Key_Escape);
-                QCOMPARE(playback().time, 0.1f);
-                QTest::mouseRelease(on.track, Qt::LeftButton, {}, {on.x(8), on.mark(0).y()});
-                QVERIFY(playback().playState != PlayState::Playing);
-                // What played goes on.
-                playback().playState = PlayState::Playing;
-                on.press(on.mark(0));
-                on.move({on.x(8), on.mark(0).y()});
-                QVERIFY(playback().playState == PlayState::Paused);
-                on.key(Qt::Key_Escape);
-                QVERIFY(playback().playState == PlayState::Playing);
-                QTest::mouseRelease(on.track, Qt::LeftButton, {}, {on.x(8), on.mark(0).y()});
-            },
-            none, {}, {0});
         add("keys while it is dragged",
             [](Timeline &on) {
                 on.press(on.mark(0));
@@ -346,13 +338,70 @@ private slots:
         QTest::mouseRelease(on.track, Qt::LeftButton, {}, {on.x(9), 3});
         on.key(Qt::Key_Escape);
         QVERIFY(!on.track->hasRange() && playback().range.isEmpty());
-        // Of another block nothing is kept.
-        on.drag({on.x(3), 3}, {on.x(6), 3}, Qt::ShiftModifier);
+        // Of other frames nothing is kept.
+        const auto selectSome = [&on] { on.drag({on.x(3), 3}, {on.x(6), 3}, Qt::ShiftModifier); };
+        selectSome();
+        on.click(on.mark(0));
+        on.key(Qt::Key_Delete);
+        QVERIFY(on.track->hasRange());
+        on.exchangeBlock(11);
+        QVERIFY(!on.track->hasRange() && playback().range.isEmpty());
+        selectSome();
+        find<QAction>(on.window, "actionUndo")->trigger();
+        QVERIFY(!on.track->hasRange() && playback().range.isEmpty());
+        selectSome();
         auto *blocks = find<QComboBox>(on.window, "cbAnimTrackBlock");
         blocks->setFocus();
         QTest::keyClick(blocks, Qt::Key_Down);
         QVERIFY(!on.track->hasRange() && playback().range.isEmpty());
         QVERIFY(on.track->places().marks().marks().isEmpty());
+    }
+
+    void whatIsGivenUpGoesBackToWhereItWas()
+    {
+        Timeline on(*m_files);
+        // What showed no other frame has nothing to go back to: meanwhile it plays on.
+        const QPoint ruler(on.x(3), 3), band(on.x(4), on.track->places().lanes().top());
+        const std::pair<QPoint, Qt::KeyboardModifiers> drags[] = {
+            {ruler, Qt::ShiftModifier}, {band, {}}, {on.handle(TrackHandle::BlendEnd), {}}};
+        for (const auto &[from, keys] : drags) {
+            playback().playState = PlayState::Playing;
+            on.press(from, keys);
+            on.move(from - QPoint(30, 0), keys);
+            playback().time = 0.5f;
+            on.track->setFrame(5);
+            on.key(Qt::Key_Escape);
+            QVERIFY(playback().playState == PlayState::Playing && playback().time >= 0.5f);
+            QTest::mouseRelease(on.track, Qt::LeftButton, keys, from);
+        }
+        for (const PlayState state : {PlayState::InitialPose, PlayState::Paused, PlayState::Playing}) {
+            for (const QPoint &from : {ruler, on.mark(0)}) {
+                playback().playState = state;
+                playback().time = 0.0f;
+                on.track->setFrame(0);
+                on.press(from);
+                on.move({on.x(7), from.y()});
+                QVERIFY(playback().playState == PlayState::Paused && on.track->frame() == 7);
+                on.key(Qt::Key_Escape);
+                QVERIFY(playback().playState == state && on.track->frame() == 0);
+                QTest::mouseRelease(on.track, Qt::LeftButton, {}, {on.x(7), from.y()});
+            }
+        }
+        QCOMPARE(on.now(), on.bytes);
+    }
+
+    void itStandsOnAFrameThatThereIs()
+    {
+        Timeline on(*m_files);
+        on.show(8);
+        QCOMPARE(on.track->frame(), 8);
+        find<QToolButton>(on.window, "btnAnimTrackPose")->click();
+        QCOMPARE(on.track->frame(), 0);
+        on.show(8);
+        on.exchangeBlock(5);
+        QCOMPARE(on.track->frame(), 4);
+        on.key(Qt::Key_Insert, Qt::AltModifier);
+        QCOMPARE(on.frames(), QString("2 4 5 5 9 | 65535 0 10"));
     }
 
     void manyActionsHaveLanes()

@@ -4763,6 +4763,33 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <source>List the files of game and mod that name what the current record names: its material, sound, id</source>
         <translation>Die Dateien von Spiel und Mod auflisten, die dasselbe nennen wie der aktuelle Datensatz: sein Material, seinen Sound, seine ID</translation>
     </message>
+    <message>
+        <source>Materials</source>
+        <translation>Materialien</translation>
+    </message>
+</context>
+<context>
+    <name>MaterialDocument</name>
+    <message>
+        <source>There is no such file.</source>
+        <translation>Es gibt keine solche Datei.</translation>
+    </message>
+    <message>
+        <source>The file has more than %1 MiB: it is no material file.</source>
+        <translation>Die Datei hat mehr als %1 MiB: Sie ist keine Materialdatei.</translation>
+    </message>
+    <message>
+        <source>The file could not be read whole.</source>
+        <translation>Die Datei konnte nicht ganz gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Texture of %1</source>
+        <translation>Textur von %1</translation>
+    </message>
+    <message>
+        <source>New Material %1</source>
+        <translation>Neues Material %1</translation>
+    </message>
 </context>
 <context>
     <name>MaterialField</name>
@@ -4845,6 +4872,178 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>Open Material &amp;Folder</source>
         <translation>Materialo&amp;rdner öffnen</translation>
+    </message>
+    <message>
+        <source>Edit Material</source>
+        <translation>Material bearbeiten</translation>
+    </message>
+    <message>
+        <source>Show the material and its file in the dock of materials</source>
+        <translation>Das Material und seine Datei im Dock der Materialien zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Material</source>
+        <translation>Material b&amp;earbeiten</translation>
+    </message>
+</context>
+<context>
+    <name>MaterialsDock</name>
+    <message>
+        <source>The materials of a file, their textures, and its text</source>
+        <translation>Die Materialien einer Datei, deren Texturen und der Text</translation>
+    </message>
+    <message>
+        <source>Open Material File</source>
+        <translation>Materialdatei öffnen</translation>
+    </message>
+    <message>
+        <source>Open a file of materials</source>
+        <translation>Eine Datei mit Materialien öffnen</translation>
+    </message>
+    <message>
+        <source>New Material</source>
+        <translation>Neues Material</translation>
+    </message>
+    <message>
+        <source>Add a material to this file</source>
+        <translation>Dieser Datei ein Material hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;New Material…</source>
+        <translation>&amp;Neues Material…</translation>
+    </message>
+    <message>
+        <source>New Material &amp;File…</source>
+        <translation>Neue Material&amp;datei…</translation>
+    </message>
+    <message>
+        <source>Save Material File</source>
+        <translation>Materialdatei speichern</translation>
+    </message>
+    <message>
+        <source>Save this file of materials</source>
+        <translation>Diese Datei mit Materialien speichern</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Neu laden</translation>
+    </message>
+    <message>
+        <source>Open the file anew</source>
+        <translation>Die Datei neu öffnen</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behalten</translation>
+    </message>
+    <message>
+        <source>Go on with what is open; saving replaces the file</source>
+        <translation>Mit dem weiterarbeiten, was geöffnet ist; Speichern ersetzt die Datei</translation>
+    </message>
+    <message>
+        <source>Materials of the file</source>
+        <translation>Materialien der Datei</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>Material</translation>
+    </message>
+    <message>
+        <source>Sampler</source>
+        <translation>Sampler</translation>
+    </message>
+    <message>
+        <source>Texture</source>
+        <translation>Textur</translation>
+    </message>
+    <message>
+        <source>Text of the file</source>
+        <translation>Text der Datei</translation>
+    </message>
+    <message>
+        <source>A surface&apos;s material, or a .kmat file, can be opened here.</source>
+        <translation>Hier kann das Material einer Fläche oder eine .kmat-Datei geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>No material file is open.</source>
+        <translation>Es ist keine Materialdatei geöffnet.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; was changed by another program.</source>
+        <translation>„%1“ wurde von einem anderen Programm geändert.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; was removed by another program. Saving writes it anew.</source>
+        <translation>„%1“ wurde von einem anderen Programm entfernt. Speichern schreibt es neu.</translation>
+    </message>
+    <message>
+        <source>the view takes the game&apos;s file of this name, not %1</source>
+        <translation>die Ansicht nimmt die Datei des Spiels mit diesem Namen, nicht %1</translation>
+    </message>
+</context>
+<context>
+    <name>MaterialsPane</name>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Nicht gespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>Would you like to save the materials?
+
+%1</source>
+        <translation>Möchten Sie die Materialien speichern?
+
+%1</translation>
+    </message>
+    <message>
+        <source>[Materials] &apos;%1&apos;: %2</source>
+        <translation>[Materialien] „%1“: %2</translation>
+    </message>
+    <message>
+        <source>File error</source>
+        <translation>Dateifehler</translation>
+    </message>
+    <message>
+        <source>Failed to open
+%1</source>
+        <translation>Öffnen fehlgeschlagen
+%1</translation>
+    </message>
+    <message>
+        <source>Open Material File</source>
+        <translation>Materialdatei öffnen</translation>
+    </message>
+    <message>
+        <source>Material files (*.kmat)</source>
+        <translation>Materialdateien (*.kmat)</translation>
+    </message>
+    <message>
+        <source>Load &apos;%1&apos; anew, without your unsaved changes?</source>
+        <translation>„%1“ neu laden, ohne Ihre nicht gespeicherten Änderungen?</translation>
+    </message>
+    <message>
+        <source>New Material</source>
+        <translation>Neues Material</translation>
+    </message>
+    <message>
+        <source>Name of the material in %1</source>
+        <translation>Name des Materials in %1</translation>
+    </message>
+    <message>
+        <source>New Material File</source>
+        <translation>Neue Materialdatei</translation>
+    </message>
+    <message>
+        <source>Save Material File</source>
+        <translation>Materialdatei speichern</translation>
+    </message>
+    <message>
+        <source>Saved &apos;%1&apos;</source>
+        <translation>„%1“ gespeichert</translation>
+    </message>
+    <message>
+        <source>[Save] &apos;%1&apos;: %2</source>
+        <translation>[Speichern] „%1“: %2</translation>
     </message>
 </context>
 <context>
@@ -8881,13 +9080,6 @@ Alles andere funktioniert weiter.</translation>
     </message>
 </context>
 <context>
-    <name>SearchDocks</name>
-    <message>
-        <source>Failed to open %1</source>
-        <translation>%1 konnte nicht geöffnet werden</translation>
-    </message>
-</context>
-<context>
     <name>SequenceSaver</name>
     <message>
         <source>Save Picture</source>
@@ -10067,6 +10259,60 @@ Nichts wurde geändert. %2</translation>
     <message>
         <source>It is not stored; Esc brings the old one back.</source>
         <translation>Die Eingabe wird nicht gespeichert; Esc bringt den alten Text zurück.</translation>
+    </message>
+</context>
+<context>
+    <name>TextureField</name>
+    <message>
+        <source>Texture</source>
+        <translation>Textur</translation>
+    </message>
+    <message>
+        <source>The path of the texture below the game or the mod folder</source>
+        <translation>Der Pfad der Textur unter dem Spielordner oder dem Mod-Ordner</translation>
+    </message>
+    <message>
+        <source>Choose a Texture</source>
+        <translation>Eine Textur wählen</translation>
+    </message>
+    <message>
+        <source>Choose one of the textures of game and mod</source>
+        <translation>Eine der Texturen von Spiel und Mod wählen</translation>
+    </message>
+    <message>
+        <source>Textures</source>
+        <translation>Texturen</translation>
+    </message>
+</context>
+<context>
+    <name>TexturePreview</name>
+    <message>
+        <source>no texture</source>
+        <translation>keine Textur</translation>
+    </message>
+    <message>
+        <source>drawn white, without a file</source>
+        <translation>wird weiß gezeichnet, ohne Datei</translation>
+    </message>
+    <message>
+        <source>looking for the texture</source>
+        <translation>die Textur wird gesucht</translation>
+    </message>
+    <message>
+        <source>not found in game and mod</source>
+        <translation>in Spiel und Mod nicht gefunden</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1 × %2, of the game</source>
+        <translation>%1 × %2, des Spiels</translation>
+    </message>
+    <message>
+        <source>%1 × %2, of the mod</source>
+        <translation>%1 × %2, der Mod</translation>
     </message>
 </context>
 <context>

@@ -87,12 +87,12 @@ QString SaveGuard::modPath(const QString &path)
 
 QString SaveGuard::allowed(const Document &document, const QString &path)
 {
-    return withNames(document, allowedModel(document, path));
+    return withNames(document, allowed({document.path(), document.fileStamp()}, path));
 }
 
 QString SaveGuard::intoMod(const Document &document, const QString &path)
 {
-    return withNames(document, freeForModel(path));
+    return withNames(document, freeInMod(path));
 }
 
 QString SaveGuard::withNames(const Document &document, const QString &path) const
@@ -101,7 +101,7 @@ QString SaveGuard::withNames(const Document &document, const QString &path) cons
     return names.isEmpty() || mayReplace(m_window, tr("Save"), names) ? path : QString();
 }
 
-QString SaveGuard::allowedModel(const Document &document, const QString &path)
+QString SaveGuard::allowed(const OpenFile &file, const QString &path)
 {
     if (isInGame(path) && !m_overwritten.contains(FileSystem::comparable(realPath(path)))) {
         const QString answer = askAboutGame(path, modPath(path));
@@ -109,13 +109,13 @@ QString SaveGuard::allowedModel(const Document &document, const QString &path)
             return answer;
     }
     const FileStamp now = FileStamp::of(path);
-    if (FileSystem::isSamePath(path, document.path()) && now.exists() && now != document.fileStamp() &&
-        !mayReplaceChanged(document))
+    if (FileSystem::isSamePath(path, file.path) && now.exists() && now != file.stamp &&
+        !mayReplaceChanged(path))
         return {};
     return path;
 }
 
-QString SaveGuard::freeForModel(const QString &path)
+QString SaveGuard::freeInMod(const QString &path)
 {
     // A link there, of the file or of a folder, can lead back.
     const bool leadsBack = isInGame(path);
@@ -127,11 +127,11 @@ QString SaveGuard::freeForModel(const QString &path)
     return target;
 }
 
-bool SaveGuard::mayReplaceChanged(const Document &document) const
+bool SaveGuard::mayReplaceChanged(const QString &path) const
 {
     // By this program, too, where the work was restored.
     const QString question = tr("'%1' has changed since this work began. Replace it by what is open here?")
-                                 .arg(QDir::toNativeSeparators(document.path()));
+                                 .arg(QDir::toNativeSeparators(path));
     return QMessageBox::question(m_window, tr("Save"), question, QMessageBox::Yes | QMessageBox::No,
                                  QMessageBox::No) == QMessageBox::Yes;
 }
@@ -163,7 +163,7 @@ QString SaveGuard::askAboutGame(const QString &path, const QString &inMod)
     }
     box.exec();
     if (save && box.clickedButton() == save)
-        return freeForModel(mod);
+        return freeInMod(mod);
     if (!overwrite || box.clickedButton() != overwrite)
         return {};
     m_overwritten.insert(FileSystem::comparable(realPath(path)));

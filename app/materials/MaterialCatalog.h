@@ -46,6 +46,9 @@ public:
     /// Materials, textures or the folders themselves have changed: pictures are made anew.
     void reload();
 
+    /// Somebody wants to see a material of a file, or all of it.
+    void open(const QString &file, const QString &material) { emit openWanted(file, material); }
+
     /// A picture of a material's texture; an empty one of the same size until it is there.
     QIcon icon(const QString &texture);
     /// Of all pictures together not more are kept.
@@ -56,6 +59,7 @@ signals:
     void changed();
     /// Pictures that were asked for are there.
     void iconsReady();
+    void openWanted(const QString &file, const QString &material);
 
 private:
     void makeIcons();

@@ -55,6 +55,7 @@ public:
     /// In the order of DocumentType.
     const std::array<DocumentPane, 3> &all() const { return m_panes; }
     std::array<KVOpenGLWidget *, 2> viewports() const;
+    MaterialCatalog &materials() const { return *m_materials; }
 
     // Of the tab that is shown; null or empty on a tab without a document.
     const DocumentPane *current() const;

@@ -21,6 +21,7 @@
 #include "Icons.h"
 #include "ImportExport.h"
 #include "LoadingSign.h"
+#include "MaterialsPane.h"
 #include "ModPacking.h"
 #include "ModelShaping.h"
 #include "ModelTransforms.h"
@@ -99,9 +100,7 @@ MainWindow::MainWindow(QWidget *parent)
     animations->addTo(*m_ui->menuEdit, *m_ui->actionScale);
     animations->addToContext(*structure->menu(DocumentType::Anim));
     connect(animations, &AnimationCommands::documentWanted, m_panes, &DocumentPanes::showPane);
-    auto *whereUsed =
-        new WhereUsed(*m_ui, *m_files, *m_panes, m_skinnedMesh, m_anim, m_staticMesh, *structure, this);
-    connect(whereUsed, &WhereUsed::told, this, &MainWindow::tell);
+    new WhereUsed(*m_ui, *m_files, *m_panes, m_skinnedMesh, m_anim, m_staticMesh, *structure, this);
     (new QuestionMenu(this))->addToMenus(m_ui->actionWhereUsed);
     m_paneKeys = new PaneKeys(*m_ui, this);
     m_ui->menuView->insertMenu(m_ui->actionFullScreen, m_paneKeys);
@@ -120,6 +119,8 @@ MainWindow::MainWindow(QWidget *parent)
     createPrompts();
     m_session =
         new Session(*m_files, m_panes->all(), {m_ui->tabWidget, m_ui->tabTrees}, *m_ui->animTrackFrame, this);
+    connect(m_named, &NamedFiles::materialsNamed, m_materials,
+            [this](const QString &path) { m_materials->open(path); });
     // The graphics driver is waited for.
     embedViewport(m_ui->viewSkinned, m_ui->vlviewSkinned);
     embedViewport(m_ui->viewStatic, m_ui->vlviewStatic);
@@ -130,6 +131,7 @@ MainWindow::~MainWindow()
     // What is being typed goes to a document that is still there.
     if (QWidget *editor = focusWidget())
         editor->clearFocus();
+    delete m_materials; // the dock loses the keys once more
     // Documents that go tell of it, to a window that is going too.
     for (const DocumentPane &each : m_panes->all())
         each.document->disconnect();
@@ -222,6 +224,10 @@ void MainWindow::createDocks()
     connect(m_ui->tabDatabase, &DatabaseTab::namesChanged, m_panes, &DocumentPanes::OnNamesChanged);
     wireRecordDocks(*m_ui, *m_panes, *this);
     m_ui->dockServers->setQueryAction(m_ui->actionQueryServers);
+    m_materials = new MaterialsPane(
+        *m_ui->dockMaterials, m_undoGroup, *m_files, m_panes->materials(),
+        {m_ui->actionSave, m_ui->actionSaveAs, m_ui->actionSaveToMod, m_ui->actionSaveAll}, this);
+    connect(m_materials, &MaterialsPane::activeChanged, this, &MainWindow::updateCurrentDocument);
     showHistory(*m_ui->viewHistory, m_undoGroup, *m_files, m_ui->actionSave->icon());
 }
 
@@ -240,12 +246,8 @@ void MainWindow::connectActions()
         connect(action, &QAction::triggered, receiver, slot);
     };
     wire(m_ui->actionOpen, m_files, &DocumentFiles::on_actionOpen_triggered);
-    wire(m_ui->actionSave, m_files, &DocumentFiles::on_actionSave_triggered);
-    wire(m_ui->actionSaveAs, m_files, &DocumentFiles::on_actionSaveAs_triggered);
     wire(m_ui->actionSkinnedSaveAs, m_files, &DocumentFiles::on_actionSkinnedSaveAs_triggered);
     wire(m_ui->actionAnimSaveAs, m_files, &DocumentFiles::on_actionAnimSaveAs_triggered);
-    wire(m_ui->actionSaveToMod, m_files, &DocumentFiles::on_actionSaveToMod_triggered);
-    wire(m_ui->actionSaveAll, m_files, &DocumentFiles::on_actionSaveAll_triggered);
     // What an import writes depends on the folders.
     wire(m_ui->actionImport, m_preferences, &Preferences::OnStartSetupPaths);
     wire(m_ui->actionImport, m_importExport, &ImportExport::on_actionImport_triggered);
@@ -342,6 +344,7 @@ void MainWindow::updateCurrentDocument()
     m_ui->actionAnimSaveAs->setEnabled(m_anim.isOpen());
     m_ui->actionSaveAll->setEnabled(m_skinnedMesh.isOpen() || m_anim.isOpen() || m_staticMesh.isOpen());
     m_title->show(isOpen ? document : nullptr);
+    m_materials->update();
 }
 
 void MainWindow::OnUndoCleanChanged()

@@ -15,6 +15,7 @@ class DocumentPanes;
 class DocumentTitle;
 class ExplorerFiles;
 class ImportExport;
+class MaterialsPane;
 class ModelTransforms;
 class NamedFiles;
 class PaneKeys;
@@ -80,6 +81,7 @@ private:
     Problems *m_problems;
     PictureSaver *m_pictures;
     DocumentPanes *m_panes = nullptr;
+    MaterialsPane *m_materials = nullptr;
     DocumentTitle *m_title = nullptr;
     ExplorerFiles *m_explorerFiles = nullptr;
     Shortcuts *m_shortcuts = nullptr;

@@ -40,7 +40,9 @@ void NamedFiles::openNext()
         const DocumentKind *kind = documentKindOfFile(path);
         if (kind && m_files.promptUnsaved(kind->type))
             return openModel(*kind, QFileInfo(path).absoluteFilePath());
-        if (!kind && isImportable(path)) {
+        if (!kind && path.endsWith(QLatin1String(".kmat"), Qt::CaseInsensitive)) {
+            emit materialsNamed(QFileInfo(path).absoluteFilePath());
+        } else if (!kind && isImportable(path)) {
             // A model on the command line comes before the question that its output folder depends on.
             m_preferences.OnStartSetupPaths();
             m_importExport.importToCurrent(path);

@@ -27,6 +27,10 @@ public:
     /// foreign format goes to the import dialog.
     void open(const QStringList &paths);
 
+signals:
+    /// A material file is one of them.
+    void materialsNamed(const QString &path);
+
 private:
     void openNext();
     void openModel(const DocumentKind &kind, const QString &path);

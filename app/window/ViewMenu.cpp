@@ -43,7 +43,8 @@ ViewMenu::ViewMenu(const Ui::MainWindow &ui, const DocumentPanes &panes, QAction
                       ui.dockFind->toggleViewAction(), ui.dockUsedBy->toggleViewAction(),
                       ui.dockCompare->toggleViewAction(), ui.dockTable->toggleViewAction(),
                       ui.dockUv->toggleViewAction(), ui.dockCurves->toggleViewAction(),
-                      ui.dockHistory->toggleViewAction(), ui.dockServers->toggleViewAction()});
+                      ui.dockMaterials->toggleViewAction(), ui.dockHistory->toggleViewAction(),
+                      ui.dockServers->toggleViewAction()});
     createToolBars(ui, panes, *display, window);
 }
 

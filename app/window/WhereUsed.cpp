@@ -5,21 +5,17 @@
 #include "DocumentFiles.h"
 #include "DocumentPanes.h"
 #include "FileSystem.h"
-#include "Files.h"
 #include "FloatSpinBox.h"
 #include "IntSpinBox.h"
+#include "MaterialCatalog.h"
 #include "NamedThing.h"
 #include "Questions.h"
 #include "StructureActions.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
-#include <QDesktopServices>
-#include <QDir>
-#include <QFileInfo>
 #include <QMenu>
 #include <QTimer>
-#include <QUrl>
 
 WhereUsed::WhereUsed(const Ui::MainWindow &ui, DocumentFiles &files, DocumentPanes &panes,
                      SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticMeshDocument &staticMesh,
@@ -42,7 +38,9 @@ WhereUsed::WhereUsed(const Ui::MainWindow &ui, DocumentFiles &files, DocumentPan
             [this](DocumentType type, const QString &path, const RecordRef &record) {
                 QTimer::singleShot(0, this, [this, type, path, record] { openRecord(type, path, record); });
             });
-    connect(usedBy, &UsedByDock::materialsWanted, this, &WhereUsed::openMaterials, Qt::QueuedConnection);
+    connect(
+        usedBy, &UsedByDock::materialsWanted, this,
+        [this](const QString &path) { m_panes.materials().open(path, {}); }, Qt::QueuedConnection);
     for (const DocumentPane &each : m_panes.all()) {
         QMenu *menu = structure.menu(each.document->kind().type);
         menu->addSeparator();
@@ -87,13 +85,4 @@ void WhereUsed::lead(DocumentType type, const RecordRef &record)
     m_ui.dockUsedBy->setLeading(true);
     m_panes.showRecord(type, record);
     m_ui.dockUsedBy->setLeading(false);
-}
-
-void WhereUsed::openMaterials(const QString &path)
-{
-    // What an archive holds is nothing that the desktop could open.
-    const bool isArchived = !Files::archiveOf(path).isEmpty();
-    const QString shown = isArchived ? QFileInfo(Files::heldBy(path)).path() : path;
-    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(shown)))
-        emit told(tr("Failed to open %1").arg(QDir::toNativeSeparators(shown)));
 }

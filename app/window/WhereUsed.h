@@ -25,14 +25,9 @@ public:
               SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticMeshDocument &staticMesh,
               const StructureActions &structure, QObject *parent);
 
-signals:
-    /// Something for the status bar.
-    void told(const QString &text);
-
 private:
     void openUsedBy();
     void openRecord(DocumentType type, const QString &path, const RecordRef &record);
-    void openMaterials(const QString &path);
     void lead(DocumentType type, const RecordRef &record);
 
     const Ui::MainWindow &m_ui;

@@ -64,8 +64,8 @@ void WindowLayout::setDefaults()
         splitter(name)->setSizes({186, 922, 320});
     }
     auto *console = m_window->findChild<QDockWidget *>(QStringLiteral("dockConsole"));
-    for (const char *name :
-         {"dockProblems", "dockCompare", "dockTable", "dockCurves", "dockFind", "dockUsedBy", "dockUv"})
+    for (const char *name : {"dockProblems", "dockCompare", "dockTable", "dockCurves", "dockFind",
+                             "dockUsedBy", "dockUv", "dockMaterials"})
         m_window->tabifyDockWidget(console, m_window->findChild<QDockWidget *>(QLatin1String(name)));
     console->raise();
     m_window->resizeDocks({console}, {200}, Qt::Vertical);

@@ -23,6 +23,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <functional>
 
 namespace {
 constexpr int FindPatience = 15; // milliseconds
@@ -40,21 +41,25 @@ MaterialField::MaterialField(TextField *editor, MaterialCatalog &catalog)
     m_hint->setObjectName(QStringLiteral("hint") + name);
     NameRow *row = NameRow::around(editor, m_hint, NameRow::Name::Below);
     m_button = row->addButton(QStringLiteral("btnChoose") + name, "search", tr("Choose by Name"));
+    m_edit = row->addButton(QStringLiteral("btnEdit") + name, "open", tr("Edit Material"));
+    m_edit->setToolTip(tr("Show the material and its file in the dock of materials"));
     m_open = row->addButton(QStringLiteral("btnOpen") + name, "folderopen", tr("Open Material File"));
     m_open->setToolTip(
         tr("Open the file that the material is in with the program that the desktop has for it"));
     connect(m_button, &QToolButton::clicked, this, &MaterialField::choose);
+    connect(m_edit, &QToolButton::clicked, this, &MaterialField::edit);
     connect(m_open, &QToolButton::clicked, this, [this] { open(false); });
-    const auto addAction = [&](const char *id, const QString &text, bool folder) {
+    const auto addAction = [&](const char *id, const QString &text, const std::function<void()> &does) {
         auto *action = new QAction(text, editor);
         action->setObjectName(QLatin1String(id));
         action->setShortcutContext(Qt::WidgetShortcut);
         nameShortcut(action, action->objectName(), tr("Material Fields"), {});
-        connect(action, &QAction::triggered, this, [this, folder] { open(folder); });
+        connect(action, &QAction::triggered, this, does);
         editor->addAction(action);
     };
-    addAction("actionOpenMaterialFile", tr("&Open Material File"), false);
-    addAction("actionOpenMaterialFolder", tr("Open Material &Folder"), true);
+    addAction("actionEditMaterial", tr("&Edit Material"), [this] { edit(); });
+    addAction("actionOpenMaterialFile", tr("&Open Material File"), [this] { open(false); });
+    addAction("actionOpenMaterialFolder", tr("Open Material &Folder"), [this] { open(true); });
 
     m_completer->setModel(list(m_completer));
     m_completer->setFilterMode(Qt::MatchContains);
@@ -146,8 +151,10 @@ void MaterialField::find()
     });
     // Mostly it is there at once.
     m_finder.wait(FindPatience);
-    if (!m_isFound)
-        m_hint->setTarget({tr("looking for its file"), false, {}, true});
+    if (m_isFound)
+        return;
+    m_hint->setTarget({tr("looking for its file"), false, {}, true});
+    m_edit->setEnabled(false);
 }
 
 void MaterialField::tell()
@@ -183,6 +190,7 @@ void MaterialField::tell()
     }
     m_hint->setTarget(m_differs ? IndexTargets::differing(target) : target);
     m_open->setEnabled(!m_place.file.isEmpty());
+    m_edit->setEnabled(m_open->isEnabled());
     for (QAction *action : m_editor->actions())
         action->setEnabled(m_open->isEnabled());
 }
@@ -217,6 +225,12 @@ void MaterialField::leave()
     m_completer->popup()->hide();
     if (m_popup)
         m_popup->close();
+}
+
+void MaterialField::edit()
+{
+    if (m_isFound && !m_place.file.isEmpty())
+        m_catalog.open(m_place.file, QFileInfo(m_path).fileName());
 }
 
 void MaterialField::open(bool folder)

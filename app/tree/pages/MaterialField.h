@@ -50,12 +50,16 @@ private:
     void OnCatalogChanged();
     void find();
     void tell();
+    /// In the dock of materials.
+    void edit();
+    /// With a program of the desktop.
     void open(bool folder);
 
     TextField *m_editor;
     MaterialCatalog &m_catalog;
     IndexHint *m_hint;
     QToolButton *m_button;
+    QToolButton *m_edit;
     QToolButton *m_open;
     QCompleter *m_completer;
     QPointer<ChoicePopup> m_popup;

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "MaterialFileText.h"
+
+#include <QFontDatabase>
+#include <QKeyEvent>
+
+#include <algorithm>
+
+namespace {
+/// A text as a view of plain text can show it: one character for each, in which none ends a line but the
+/// line feed. A carriage return before one is not shown, so a place can be asked for.
+QString shownText(const QString &text)
+{
+    QString shown = text;
+    shown.remove(QLatin1Char('\r'));
+    for (QChar &c : shown) {
+        if (c != QLatin1Char('\n') && c != QLatin1Char('\t') &&
+            (c.category() == QChar::Other_Control || c == QChar::ParagraphSeparator ||
+             c == QChar::LineSeparator || c == QChar(0xfdd0) || c == QChar(0xfdd1)))
+            c = QChar::ReplacementCharacter;
+    }
+    return shown;
+}
+
+int shownPlace(const QString &text, int place)
+{
+    return place - int(std::count(text.begin(), text.begin() + place, QLatin1Char('\r')));
+}
+} // namespace
+
+MaterialFileText::MaterialFileText(QWidget *parent)
+    : QPlainTextEdit(parent)
+{
+    setReadOnly(true);
+    setLineWrapMode(QPlainTextEdit::NoWrap);
+    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    setTabStopDistance(4 * QFontMetricsF(font()).horizontalAdvance(QLatin1Char(' ')));
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+}
+
+void MaterialFileText::showText(const QString &text)
+{
+    if (text == m_source)
+        return;
+    m_source = text;
+    setPlainText(shownText(text));
+}
+
+void MaterialFileText::mark(TextSpan word)
+{
+    QTextEdit::ExtraSelection mark;
+    mark.cursor = textCursor();
+    mark.cursor.setPosition(std::min(shownPlace(m_source, word.begin), document()->characterCount() - 1));
+    mark.format.setBackground(palette().alternateBase());
+    mark.format.setProperty(QTextFormat::FullWidthSelection, true);
+    setTextCursor(mark.cursor);
+    setExtraSelections({mark});
+}
+
+bool MaterialFileText::event(QEvent *event)
+{
+    // What is only read leaves Ctrl+Z to the file.
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) {
+            event->ignore();
+            return true;
+        }
+    }
+    return QPlainTextEdit::event(event);
+}

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "SaveGuard.h"
+
+#include <QObject>
+
+class DocumentFiles;
+class MaterialCatalog;
+class MaterialDocument;
+class MaterialsDock;
+class QAction;
+class QMainWindow;
+class QUndoGroup;
+
+/// The dock of materials among the panes of the window: Save and Undo are about its file as long as it had
+/// the keys last. Opens files in it and saves them, with the questions that belong to that.
+class MaterialsPane : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Which are about what is edited in front.
+    struct Actions
+    {
+        QAction *save;
+        QAction *saveAs;
+        QAction *saveToMod;
+        QAction *saveAll;
+    };
+
+    MaterialsPane(MaterialsDock &dock, QUndoGroup &group, DocumentFiles &files, MaterialCatalog &catalog,
+                  const Actions &actions, QMainWindow *window);
+
+    /// Whether the dock had the keys last, and has a file.
+    bool isActive() const;
+    /// Takes the actions and the undo group over, where they are about the dock's file.
+    void update();
+
+public slots:
+    /// Shows a file, and of it a material, if one is named.
+    void open(const QString &path, const QString &material = {});
+    void openChosen();
+    void addMaterial();
+    void startFile();
+    /// Each returns true when the file was not saved.
+    bool save();
+    bool saveAs();
+    bool saveToMod();
+    void reload();
+
+signals:
+    /// What Save and Undo are about.
+    void activeChanged();
+
+protected:
+    /// The window closes with what is not saved only when the user says so.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void follow(const QWidget *focused);
+    void setActive(bool active);
+    bool load(const QString &path);
+    bool mayLeave();
+    bool write(const QString &path);
+    QString chooseFile(const QString &title) const;
+
+    MaterialsDock &m_dock;
+    MaterialDocument &m_document;
+    QUndoGroup &m_group;
+    DocumentFiles &m_files;
+    Actions m_actions;
+    QMainWindow *m_window;
+    SaveGuard m_guard;
+    bool m_isActive = false;
+};

@@ -2947,6 +2947,41 @@ Ohne diese Eingabe fortfahren?</translation>
     </message>
 </context>
 <context>
+    <name>FileReplacing</name>
+    <message>
+        <source>Replace in Files…</source>
+        <translation>In Dateien ersetzen…</translation>
+    </message>
+    <message>
+        <source>Give records in all files of the mod other values, after a list of what would change</source>
+        <translation>Datensätzen in allen Dateien des Mods andere Werte geben, nach einer Liste dessen, was sich ändern würde</translation>
+    </message>
+    <message>
+        <source>Replacements in Files…</source>
+        <translation>Ersetzungen in Dateien…</translation>
+    </message>
+    <message>
+        <source>List what was replaced in files, to undo it</source>
+        <translation>Auflisten, was in Dateien ersetzt wurde, um es rückgängig zu machen</translation>
+    </message>
+    <message>
+        <source>Show…</source>
+        <translation>Zeigen…</translation>
+    </message>
+    <message>
+        <source>List the replacements, to end or undo this one</source>
+        <translation>Die Ersetzungen auflisten, um diese zu Ende zu führen oder rückgängig zu machen</translation>
+    </message>
+    <message>
+        <source>Hide; Edit ▸ Replacements in Files… lists it</source>
+        <translation>Ausblenden; Bearbeiten ▸ Ersetzungen in Dateien… führt sie auf</translation>
+    </message>
+    <message>
+        <source>A replacement in %1 files was broken off: %2</source>
+        <translation>Eine Ersetzung in %1 Dateien wurde abgebrochen: %2</translation>
+    </message>
+</context>
+<context>
     <name>FileRun</name>
     <message>
         <source>The copies of the files cannot be kept in &apos;%1&apos;.</source>
@@ -2971,6 +3006,105 @@ Ohne diese Eingabe fortfahren?</translation>
     <message>
         <source>Another program is at work on it.</source>
         <translation>Ein anderes Programm arbeitet daran.</translation>
+    </message>
+</context>
+<context>
+    <name>FileRunsDialog</name>
+    <message>
+        <source>Replacements in Files</source>
+        <translation>Ersetzungen in Dateien</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Replacement</source>
+        <translation>Ersetzung</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Give the files back what they held; those that were changed since are left as they are</source>
+        <translation>Den Dateien zurückgeben, was sie enthielten; was inzwischen geändert wurde, bleibt, wie es ist</translation>
+    </message>
+    <message>
+        <source>Delete the copies; the files stay as they are</source>
+        <translation>Die Kopien löschen; die Dateien bleiben, wie sie sind</translation>
+    </message>
+    <message>
+        <source>broken off</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>replaced</source>
+        <translation>ersetzt</translation>
+    </message>
+    <message>
+        <source>undone</source>
+        <translation>rückgängig gemacht</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>Nothing was replaced in files yet, by Edit ▸ Replace in Files… or on the command line.</source>
+        <translation>Noch wurde nichts in Dateien ersetzt, weder durch Bearbeiten ▸ In Dateien ersetzen… noch auf der Kommandozeile.</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>Zu &amp;Ende führen</translation>
+    </message>
+    <message>
+        <source>&amp;Do Again</source>
+        <translation>&amp;Erneut ausführen</translation>
+    </message>
+    <message>
+        <source>Give the rest of the files their new values</source>
+        <translation>Den übrigen Dateien ihre neuen Werte geben</translation>
+    </message>
+    <message>
+        <source>Give the files the new values again</source>
+        <translation>Den Dateien die neuen Werte noch einmal geben</translation>
+    </message>
+    <message>
+        <source>Giving the files back what they held</source>
+        <translation>Die Dateien bekommen zurück, was sie enthielten</translation>
+    </message>
+    <message>
+        <source>Replacing in files</source>
+        <translation>In Dateien wird ersetzt</translation>
+    </message>
+    <message>
+        <source>Broken off.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Files: %1.</source>
+        <translation>Dateien: %1.</translation>
+    </message>
+    <message>
+        <source>Delete the copies of this replacement? It cannot be undone then.</source>
+        <translation>Sollen die Kopien dieser Ersetzung gelöscht werden? Sie kann dann nicht mehr rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>Another program is at work on it.</source>
+        <translation>Ein anderes Programm arbeitet daran.</translation>
+    </message>
+    <message>
+        <source>For&amp;get</source>
+        <translation>&amp;Löschen</translation>
     </message>
 </context>
 <context>
@@ -8859,6 +8993,141 @@ Alles andere funktioniert weiter.</translation>
     <message>
         <source>Changed records: %1, in %2 documents</source>
         <translation>Geänderte Datensätze: %1, in %2 Dokumenten</translation>
+    </message>
+</context>
+<context>
+    <name>ReplaceFilesDialog</name>
+    <message>
+        <source>Replace in Files</source>
+        <translation>In Dateien ersetzen</translation>
+    </message>
+    <message>
+        <source>What would change</source>
+        <translation>Was sich ändern würde</translation>
+    </message>
+    <message>
+        <source>File and Record</source>
+        <translation>Datei und Datensatz</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Nachher</translation>
+    </message>
+    <message>
+        <source>Looking through the files: %1</source>
+        <translation>Die Dateien werden durchsucht: %1</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>Bedingung</translation>
+    </message>
+    <message>
+        <source>actions sound = 1234, surfaces material ~ old/</source>
+        <translation>Aktionen Sound = 1234, Flächen Material ~ alt/</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <source>the field that gets the value</source>
+        <translation>das Feld, das den Wert bekommt</translation>
+    </message>
+    <message>
+        <source>New value</source>
+        <translation>Neuer Wert</translation>
+    </message>
+    <message>
+        <source>a value, a name, or a calculation such as *=1.5</source>
+        <translation>ein Wert, ein Name oder eine Rechnung wie *=1,5</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Suchen:</translation>
+    </message>
+    <message>
+        <source>Fi&amp;eld:</source>
+        <translation>Fel&amp;d:</translation>
+    </message>
+    <message>
+        <source>&amp;New value:</source>
+        <translation>Neuer &amp;Wert:</translation>
+    </message>
+    <message>
+        <source>In all files of:</source>
+        <translation>In allen Dateien von:</translation>
+    </message>
+    <message>
+        <source>&amp;List</source>
+        <translation>&amp;Auflisten</translation>
+    </message>
+    <message>
+        <source>List what would change; nothing is written</source>
+        <translation>Auflisten, was sich ändern würde; nichts wird geschrieben</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>Write the files that are ticked; Edit ▸ Replacements in Files… undoes it</source>
+        <translation>Die angehakten Dateien schreiben; Bearbeiten ▸ Ersetzungen in Dateien… macht es rückgängig</translation>
+    </message>
+    <message>
+        <source>The mod&apos;s folder is not set: Edit ▸ Options names it.</source>
+        <translation>Der Ordner des Mods ist nicht festgelegt: Bearbeiten ▸ Optionen nennt ihn.</translation>
+    </message>
+    <message>
+        <source>Nothing is written before you have seen what would change.</source>
+        <translation>Nichts wird geschrieben, bevor Sie gesehen haben, was sich ändern würde.</translation>
+    </message>
+    <message>
+        <source>It is open and has unsaved changes.</source>
+        <translation>Sie ist geöffnet und hat nicht gespeicherte Änderungen.</translation>
+    </message>
+    <message>
+        <source>Nothing to replace. Files looked through: %1.</source>
+        <translation>Nichts zu ersetzen. Durchsuchte Dateien: %1.</translation>
+    </message>
+    <message>
+        <source>Values that would change: %1; files: %2.</source>
+        <translation>Werte, die sich ändern würden: %1; Dateien: %2.</translation>
+    </message>
+    <message>
+        <source>Values that would change: %1; files: %2. Files that are left out: %3.</source>
+        <translation>Werte, die sich ändern würden: %1; Dateien: %2. Ausgelassene Dateien: %3.</translation>
+    </message>
+    <message>
+        <source>Values: %1</source>
+        <translation>Werte: %1</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>Given up.</source>
+        <translation>Aufgegeben.</translation>
+    </message>
+    <message>
+        <source>Replacing in files</source>
+        <translation>In Dateien wird ersetzt</translation>
+    </message>
+    <message>
+        <source>Nothing was changed. %1</source>
+        <translation>Nichts wurde geändert. %1</translation>
+    </message>
+    <message>
+        <source>Broken off. Edit ▸ Replacements in Files… ends it, or takes it back.</source>
+        <translation>Abgebrochen. Bearbeiten ▸ Ersetzungen in Dateien… führt es zu Ende oder macht es rückgängig.</translation>
+    </message>
+    <message>
+        <source>Replaced. Files: %1. Edit ▸ Replacements in Files… undoes it.</source>
+        <translation>Ersetzt. Dateien: %1. Bearbeiten ▸ Ersetzungen in Dateien… macht es rückgängig.</translation>
     </message>
 </context>
 <context>

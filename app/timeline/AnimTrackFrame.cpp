@@ -84,6 +84,7 @@ AnimTrackFrame::AnimTrackFrame(QWidget *parent)
         button->defaultAction()->setCheckable(true);
     connect(this, &AnimTrackFrame::playbackChanged, this, [this] {
         m_sounds.startAnew();
+        playback().rounds = 0; // those were of what played before
         showState();
     });
 }
@@ -167,7 +168,6 @@ void AnimTrackFrame::selectBlock(int blockIndex)
     updateRange();
     moveTo(0);
     state.time = 0.0f;
-    state.rounds = 0;
     emit playbackChanged();
     emit blockChanged();
 }
@@ -275,7 +275,6 @@ void AnimTrackFrame::play(float time)
 {
     playback().playState = PlayState::Playing;
     playback().time = time;
-    playback().rounds = 0;
     emit playbackChanged();
 }
 

@@ -20,6 +20,16 @@ inline bool isSamePath(const QString &a, const QString &b)
     return comparable(a) == comparable(b);
 }
 
+/// What a system tells of a file without its being opened.
+struct FileState
+{
+    qint64 size;     ///< bytes
+    qint64 modified; ///< milliseconds since 1970
+};
+/// Of a regular file, or of one that a link leads to; none where there is no such file. Asking thousands is
+/// cheap, as it is not for QFileInfo, which works out the local time of each.
+std::optional<FileState> stateOf(const QString &path);
+
 /// Whether this user owns a file, where everybody may put some; true where nobody else can.
 bool isOwn(const QFileInfo &file);
 

@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "FileSystem.h"
 
-#include <QFileDevice>
+#include <QFile>
 #include <QFileInfo>
 
 #include <cerrno>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -19,6 +20,15 @@ bool isLoss(int error)
 QString FileSystem::comparable(const QString &path)
 {
     return path;
+}
+
+std::optional<FileSystem::FileState> FileSystem::stateOf(const QString &path)
+{
+    struct stat found
+    {};
+    if (stat(QFile::encodeName(path).constData(), &found) != 0 || !S_ISREG(found.st_mode))
+        return {};
+    return FileState{found.st_size, qint64(found.st_mtim.tv_sec) * 1000 + found.st_mtim.tv_nsec / 1000000};
 }
 
 bool FileSystem::isOwn(const QFileInfo &file)

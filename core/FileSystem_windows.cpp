@@ -5,6 +5,7 @@
 #include "FileNames.h"
 #include "NativePath_windows.h"
 
+#include <QDateTime>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
@@ -96,6 +97,14 @@ QString FileSystem::comparable(const QString &path)
     for (QChar &letter : folded)
         letter = letter.toUpper();
     return folded;
+}
+
+std::optional<FileSystem::FileState> FileSystem::stateOf(const QString &path)
+{
+    const QFileInfo file(path);
+    if (!file.isFile())
+        return {};
+    return FileState{file.size(), file.lastModified().toMSecsSinceEpoch()};
 }
 
 bool FileSystem::isOwn(const QFileInfo &)

@@ -4,6 +4,7 @@
 
 #include "CaseOnDisk.h"
 #include "FileStamp.h"
+#include "FileSystem.h"
 #include "Log.h"
 #include "ZipArchive.h"
 
@@ -206,8 +207,12 @@ FileStamp FileStamp::of(const QString &path)
         const ZipEntry *entry = open.archive ? open.archive->file(place.inside) : nullptr;
         return entry ? FileStamp{entry->size, entry->checksum} : FileStamp();
     }
-    const QFileInfo file(path);
-    return file.isFile() ? FileStamp{file.size(), file.lastModified().toMSecsSinceEpoch()} : FileStamp();
+    if (path.startsWith(QLatin1Char(':'))) { // a resource of the program
+        const QFileInfo resource(path);
+        return resource.isFile() ? FileStamp{resource.size(), 0} : FileStamp();
+    }
+    const auto state = FileSystem::stateOf(path);
+    return state ? FileStamp{state->size, state->modified} : FileStamp();
 }
 
 bool Files::isArchiveName(const QString &path)

@@ -24,7 +24,7 @@ constexpr qint64 MostCacheBytes = 256 * 1024 * 1024;
 
 // The least that records take, in bytes.
 constexpr int TextBytes = 4;
-constexpr int FileBytes = 50;
+constexpr int FileBytes = 42;
 constexpr int NameBytes = 29;
 constexpr int PlaceBytes = 16;
 
@@ -260,7 +260,8 @@ ReferenceIndexPtr IndexCache::readBody(const QByteArray &body, const MaterialFol
     files.reserve(size_t(count));
     for (int i = 0; i < count && reader.isWhole(); ++i)
         files.push_back(std::make_shared<const FileNaming>(reader.readFile()));
-    if (!reader.isWhole() || !reader.isAtEnd())
+    const auto isBefore = [](const FileNamingPtr &a, const FileNamingPtr &b) { return a->path < b->path; };
+    if (!reader.isWhole() || !reader.isAtEnd() || !std::is_sorted(files.begin(), files.end(), isBefore))
         return nullptr;
     return std::make_shared<const ReferenceIndex>(folders, std::move(files));
 }

@@ -44,34 +44,36 @@ private:
     }
 };
 
+/// A file before it is known what it names.
+struct ListedFile
+{
+    QString path, relative;
+    bool isMod;
+    IndexedType type;
+};
+
 void listFiles(const IndexedRoot &root, const QString &without, bool isMod,
-               const std::atomic_bool &isCancelled, std::vector<FileNaming> &files)
+               const std::atomic_bool &isCancelled, std::vector<ListedFile> &files)
 {
     if (root.path.isEmpty())
         return;
     const int start = root.path.endsWith(QLatin1Char('/')) ? root.path.size() : root.path.size() + 1;
     Files::walk(root.path, [&](const FolderEntry &entry) {
         const auto type = entry.isFolder ? std::nullopt : indexedTypeOf(entry.path);
-        const QString relative = entry.path.mid(start);
-        if (type && (without.isEmpty() || !FileSystem::comparable(relative).startsWith(without))) {
-            FileNaming file;
-            file.path = entry.path;
-            file.relative = relative;
-            file.isMod = isMod;
-            file.type = *type;
-            files.push_back(std::move(file));
-        }
+        const QString relative = type ? entry.path.mid(start) : QString();
+        if (type && (without.isEmpty() || !FileSystem::comparable(relative).startsWith(without)))
+            files.push_back({entry.path, relative, isMod, *type});
         return !isCancelled && files.size() < MostIndexedFiles;
     });
 }
 
 /// All files of both folders. Where one of these lies in the other one, its files are its own and none of the
 /// other's; where they are one, they are the game's.
-std::vector<FileNaming> listFiles(const MaterialFolders &folders, const std::atomic_bool &isCancelled)
+std::vector<ListedFile> listFiles(const MaterialFolders &folders, const std::atomic_bool &isCancelled)
 {
     const IndexedRoot game(folders.gamePath);
     const IndexedRoot mod(folders.outputDir);
-    std::vector<FileNaming> files;
+    std::vector<ListedFile> files;
     const auto inner = [](const IndexedRoot &outer, const IndexedRoot &other) {
         return outer.contains(other) ? other.real.mid(outer.real.size()) : QString();
     };
@@ -79,40 +81,54 @@ std::vector<FileNaming> listFiles(const MaterialFolders &folders, const std::ato
     if (game.path.isEmpty() || mod.real != game.real)
         listFiles(mod, inner(mod, game), true, isCancelled, files);
     std::sort(files.begin(), files.end(),
-              [](const FileNaming &a, const FileNaming &b) { return a.path < b.path; });
+              [](const ListedFile &a, const ListedFile &b) { return a.path < b.path; });
     return files;
 }
 
-FileNamingPtr namingAsItIs(FileNaming &file, const ReferenceIndexPtr &known, IndexProgress &progress)
+FileNamingPtr namingAsItIs(const ListedFile &listed, const ReferenceIndexPtr &known, IndexProgress &progress)
 {
-    file.stamp = FileStamp::of(file.path);
-    FileNamingPtr kept = known ? known->file(file.path) : nullptr;
-    if (kept && kept->stamp == file.stamp && kept->path == file.path && kept->relative == file.relative &&
-        kept->isMod == file.isMod)
+    const FileStamp stamp = FileStamp::of(listed.path);
+    const FileNamingPtr kept = known ? known->fileAt(listed.path) : nullptr;
+    if (kept && kept->stamp == stamp && kept->relative == listed.relative && kept->isMod == listed.isMod)
         return kept;
     ++progress.read;
+    FileNaming file;
+    file.path = listed.path;
+    file.relative = listed.relative;
+    file.isMod = listed.isMod;
+    file.type = listed.type;
+    file.stamp = stamp;
     readNaming(file);
     return std::make_shared<const FileNaming>(std::move(file));
 }
-
 } // namespace
 
 ReferenceIndex::ReferenceIndex(MaterialFolders folders, std::vector<FileNamingPtr> files)
     : m_folders(std::move(folders))
     , m_files(std::move(files))
 {
-    m_byPath.reserve(int(m_files.size()));
-    for (size_t i = 0; i < m_files.size(); ++i) {
-        m_byPath.insert(FileSystem::comparable(m_files[i]->path), int(i));
-        if (!m_files[i]->error.isEmpty())
-            m_unreadable.push_back(m_files[i]);
+    for (const FileNamingPtr &each : m_files) {
+        if (!each->error.isEmpty())
+            m_unreadable.push_back(each);
     }
+}
+
+FileNamingPtr ReferenceIndex::fileAt(const QString &path) const
+{
+    const auto found = std::lower_bound(
+        m_files.begin(), m_files.end(), path,
+        [](const FileNamingPtr &file, const QString &wanted) { return file->path < wanted; });
+    return found != m_files.end() && (*found)->path == path ? *found : nullptr;
 }
 
 FileNamingPtr ReferenceIndex::file(const QString &path) const
 {
-    const auto found = m_byPath.constFind(FileSystem::comparable(path));
-    return found == m_byPath.constEnd() ? nullptr : m_files[size_t(*found)];
+    if (FileNamingPtr exact = fileAt(path))
+        return exact;
+    const auto found = std::find_if(m_files.begin(), m_files.end(), [&path](const FileNamingPtr &file) {
+        return FileSystem::isSamePath(file->path, path);
+    });
+    return found == m_files.end() ? nullptr : *found;
 }
 
 std::vector<NamedUse> ReferenceIndex::usesOf(const NamedThing &thing) const
@@ -215,7 +231,7 @@ ReferenceIndexPtr makeReferenceIndex(const MaterialFolders &folders, const Refer
                                      const std::atomic_bool &isCancelled, IndexProgress &progress,
                                      int threads)
 {
-    std::vector<FileNaming> files = listFiles(folders, isCancelled);
+    const std::vector<ListedFile> files = listFiles(folders, isCancelled);
     std::vector<FileNamingPtr> namings(files.size());
     progress.files = int(files.size());
     std::atomic_size_t next{0};

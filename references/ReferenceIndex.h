@@ -31,6 +31,7 @@ struct IndexProgress
 class ReferenceIndex
 {
 public:
+    /// `files` ascend by their paths.
     ReferenceIndex(MaterialFolders folders, std::vector<FileNamingPtr> files);
 
     const MaterialFolders &folders() const { return m_folders; }
@@ -38,6 +39,8 @@ public:
     const std::vector<FileNamingPtr> &files() const { return m_files; }
     /// Null for a file that is not known.
     FileNamingPtr file(const QString &path) const;
+    /// The same of one that is spelled just so, which is quick.
+    FileNamingPtr fileAt(const QString &path) const;
     /// The files that could not be read.
     const std::vector<FileNamingPtr> &unreadable() const { return m_unreadable; }
 
@@ -64,7 +67,6 @@ private:
 
     MaterialFolders m_folders;
     std::vector<FileNamingPtr> m_files;
-    QHash<QString, int> m_byPath; ///< FileSystem::comparable()
     std::vector<FileNamingPtr> m_unreadable;
 };
 

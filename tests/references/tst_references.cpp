@@ -150,6 +150,12 @@ private slots:
                  QStringList({"mod models/new.staticmesh 1 [0]", "mod models/other.staticmesh 1 [0]"}));
         QVERIFY(!index->file(path("game/models/x.skinnedmesh")));
 
+        // One of files that name nothing is as good.
+        for (int i = 0; i < 50; ++i)
+            m_folder->put(QStringLiteral("plain/%1.png").arg(i), "any");
+        QCOMPARE(filesRead({path("plain"), {}}), 50);
+        QCOMPARE(filesRead({path("plain"), {}}), 0);
+
         // The other folders have a cache of their own, and a damaged one is as good as none.
         QCOMPARE(filesRead({path("game"), {}}), 7);
         QCOMPARE(filesRead(folders), 0);

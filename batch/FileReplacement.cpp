@@ -37,7 +37,7 @@ QByteArray bytesOf(const ModelJson::Content &content)
     return QByteArray(reinterpret_cast<const char *>(bytes.data()), int(bytes.size())) + content.behind;
 }
 
-QByteArray hashOf(const QByteArray &bytes)
+QByteArray digestOf(const QByteArray &bytes)
 {
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
 }
@@ -107,7 +107,7 @@ FileReplacement replaceIn(StoredModel &stored, const QString &path, const Replac
     replacement.reason = readStored(path, stored);
     if (!replacement.reason.isEmpty())
         return replacement;
-    replacement.hash = hashOf(stored.bytes);
+    replacement.hash = digestOf(stored.bytes);
     FoundRecords found;
     ModelJson::Model &model = stored.content.model;
     replacement.reason = found.find(rule.condition, path, model, companions);

@@ -14,6 +14,7 @@
 #include "MotionDialog.h"
 #include "OneRun.h"
 #include "OptionsDialog.h"
+#include "PackDialog.h"
 #include "PictureDialog.h"
 #include "RecoverDialog.h"
 #include "RotateDialog.h"
@@ -163,7 +164,7 @@ struct EveryWindow
     {
         QVector<QWidget *> windows{&main,  &options, &importMesh, &importStatic, &rotate,
                                    &scale, &newSize, &about,      &controls,     &recover,
-                                   &crash, &palette, &picture,    &update};
+                                   &crash, &palette, &picture,    &update,       &pack};
         for (const auto &motion : motions)
             windows.append(motion.get());
         return windows;
@@ -192,12 +193,25 @@ struct EveryWindow
     CrashReportDialog crash;
     CommandPalette palette;
     PictureDialog picture{{{640, 480}, QStringLiteral("a"), 10, {}}, nullptr};
+    PackDialog pack{somePack(), [](const QStringList &) { return std::nullopt; }, nullptr};
     ModelUpdateDialog update{QStringLiteral("a.glb"), QStringLiteral("a.skinnedmesh"), someUpdate(), nullptr};
     AnimDocument anim{DocumentType::Anim, RecordKind::AnimFile};
     SkinnedMeshDocument mesh{DocumentType::SkinnedMesh, RecordKind::SkinnedMesh};
     std::vector<std::unique_ptr<MotionDialog>> motions;
 
 private:
+    /// One that shows all that the dialog has.
+    static PackAccount somePack()
+    {
+        PackAccount account;
+        account.modFolder = QStringLiteral("/mod");
+        account.isGameKnown = false;
+        account.list.files.push_back({QStringLiteral("/mod/a.anim"), QStringLiteral("a.anim")});
+        account.list.leftOut.push_back({QStringLiteral("b.bak"), QString()});
+        account.list.problems.append(QString());
+        account.errors.push_back({QStringLiteral("a.anim"), QString()});
+        return account;
+    }
     static UpdateAccount someUpdate()
     {
         UpdateAccount account;

@@ -58,6 +58,14 @@ private slots:
         QCOMPARE(records().last(),
                  QString("Surfaces › 0 | models/wall.staticmesh | Mod | materials/skins/a"));
 
+        // A material file opens in its dock.
+        list()->setCurrentIndex(list()->model()->index(0, 0));
+        list()->setFocus();
+        QTest::keyClick(list(), Qt::Key_Return);
+        QTRY_VERIFY(find<QDockWidget>("dockMaterials")->isVisible());
+        QCOMPARE(records().size(), 4);
+        find<QDockWidget>("dockUsedBy")->raise();
+
         // The list stays as it is where it leads.
         list()->setCurrentIndex(list()->model()->index(3, 0));
         list()->setFocus();

@@ -21,6 +21,7 @@
 #include <QDockWidget>
 #include <QPushButton>
 #include <QTimer>
+#include <QTreeWidget>
 
 #include <algorithm>
 #include <cstdlib>
@@ -30,8 +31,8 @@
 
 // How long the window answers nobody while it works: the largest gap between two turns of its event loop,
 // while large files open and are saved, pictures of them too, a large import arrives, and much is wrong with
-// a model. A paint of such a model is up to the graphics driver, and takes a turn by itself; how long is told
-// beside.
+// a model or with a whole mod. A paint of such a model is up to the graphics driver, and takes a turn by
+// itself; how long is told beside.
 namespace {
 bool isLoading()
 {
@@ -87,6 +88,22 @@ StaticMesh manyProblems()
         mesh.surfaces[i].triangleIndexes = {0, 1, 2};
     }
     return mesh;
+}
+
+/// A mod of 2,000 files, each with twenty faults and more.
+void writeManyFiles(const QDir &mod)
+{
+    StaticMesh mesh = LargeModels::staticMesh();
+    mesh.vertices.resize(25);
+    for (StaticMeshVertex &vertex : mesh.vertices)
+        vertex.normal = {};
+    mesh.surfaces.resize(1);
+    mesh.surfaces[0].triangleIndexes = {0, 1, 2};
+    for (int i = 0; i < 2000; ++i) {
+        const QString folder = QStringLiteral("models/prop%1").arg(i % 50);
+        mod.mkpath(folder);
+        written(mod.filePath(QStringLiteral("%1/%2.staticmesh").arg(folder, QString::number(i))), mesh);
+    }
 }
 
 /// What stands in for the program that reads foreign files: it leaves models that were ready before.
@@ -221,6 +238,12 @@ void measure(MainWindow &window, const QString &folder)
     window.findChild<QDockWidget *>(QStringLiteral("dockProblems"))->show();
     measureFile("problems", written(folder + QStringLiteral("/problems.staticmesh"), manyProblems()),
                 "viewStatic");
+    writeManyFiles(QDir(Settings::OutputDir.value()));
+    addGap("check_mod", largestGap([&] {
+               window.findChild<QAction *>(QStringLiteral("actionProblemWholeMod"))->trigger();
+           }));
+    std::printf("INFO the list of the mod has %d rows\n",
+                window.findChild<QTreeWidget *>(QStringLiteral("listProblems"))->topLevelItemCount());
 }
 } // namespace
 

@@ -137,6 +137,7 @@ inline const SettingKey<QString> TablePath{"TablePath", {}};
 inline const SettingKey<QString> PackPath{"PackPath", {}};
 inline const SettingKey<QString> PackedMod{"PackedMod", {}};
 inline const SettingKey<QString> PackLeaveOut{"PackLeaveOut", {}};
+inline const SettingKey<bool> ProblemsWholeMod{"ProblemsWholeMod", false};
 inline const SettingKey<QStringList> FindHistory{"FindHistory", {}}; // conditions, the last first
 
 // Import. The time limit is in seconds.

@@ -183,7 +183,7 @@ void ModCheck::checkPicture(const ModFile &file)
                "its smaller copies. Scale it down, or allow it by 'largestTexture' in %5.")
                 .arg(width, height, QString::number(largest),
                      // four bytes a pixel, and a third for the copies
-                     QString::number(qint64(size.width()) * size.height() * 4 * 4 / 3 / (1024 * 1024)),
+                     QString::number(qint64(size.width()) * size.height() * 4 * 4 / 3 / (1024 * 1024) + 1),
                      CheckSettings::FileName));
     }
 }

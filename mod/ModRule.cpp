@@ -3,6 +3,7 @@
 #include "ModRule.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 struct ModRuleRow
@@ -24,19 +25,18 @@ constexpr ModRuleRow modRuleRows[] = {
     {ModRule::MaterialUnused, "material-unused", Severity::Note},
     {ModRule::SameAsGame, "same-as-game", Severity::Note},
 };
-static_assert(sizeof modRuleRows / sizeof modRuleRows[0] == size_t(ModRule::SameAsGame) + 1,
-              "every rule has its row");
+static_assert(std::size(modRuleRows) == size_t(ModRule::SameAsGame) + 1, "every rule has its row");
 } // namespace
 
 RuleWords wordsOf(ModRule rule)
 {
     const ModRuleRow &row = modRuleRows[size_t(rule)];
-    return {QLatin1String(row.id), row.severity};
+    return {QLatin1String(row.id), row.severity, int(rule)};
 }
 
 RuleWords wordsOf(Rule rule)
 {
-    return {ruleId(rule), severityOf(rule)};
+    return {ruleId(rule), severityOf(rule), int(std::size(modRuleRows)) + int(rule)};
 }
 
 const std::vector<RuleWords> &allRuleWords()
@@ -50,6 +50,11 @@ const std::vector<RuleWords> &allRuleWords()
         return words;
     }();
     return all;
+}
+
+bool isModRule(const RuleWords &rule)
+{
+    return size_t(rule.order) < std::size(modRuleRows);
 }
 
 bool canBeSilenced(const QString &id)

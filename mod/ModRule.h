@@ -24,11 +24,14 @@ struct RuleWords
 {
     QLatin1String id; ///< never changes
     Severity severity;
+    int order; ///< its place among allRuleWords()
 };
 
 RuleWords wordsOf(ModRule rule);
 RuleWords wordsOf(Rule rule);
 /// Those of all rules, first the rules of mods.
 const std::vector<RuleWords> &allRuleWords();
+/// Whether it is a rule of mods.
+bool isModRule(const RuleWords &rule);
 /// Whether a rule can be silenced: there is one of the name, and it is not about the settings themselves.
 bool canBeSilenced(const QString &id);

@@ -7,8 +7,6 @@
 #include <QJsonObject>
 #include <QUrl>
 
-#include <algorithm>
-
 namespace {
 QString uriOf(const QString &path)
 {
@@ -47,13 +45,6 @@ QJsonArray ruleObjects()
     }
     return rules;
 }
-
-int indexOf(QLatin1String id)
-{
-    const std::vector<RuleWords> &all = allRuleWords();
-    return int(std::find_if(all.begin(), all.end(), [&id](const RuleWords &rule) { return rule.id == id; }) -
-               all.begin());
-}
 } // namespace
 
 void SarifLog::add(const QString &path, const ModFinding &finding, const QString &record)
@@ -65,7 +56,7 @@ void SarifLog::add(const QString &path, const ModFinding &finding, const QString
         location.insert(QStringLiteral("logicalLocations"),
                         QJsonArray{QJsonObject{{QStringLiteral("fullyQualifiedName"), record}}});
     QJsonObject result{{QStringLiteral("ruleId"), finding.rule.id},
-                       {QStringLiteral("ruleIndex"), indexOf(finding.rule.id)},
+                       {QStringLiteral("ruleIndex"), finding.rule.order},
                        {QStringLiteral("level"), levelOf(finding.rule.severity)},
                        {QStringLiteral("message"), QJsonObject{{QStringLiteral("text"), finding.text}}},
                        {QStringLiteral("locations"), QJsonArray{location}}};

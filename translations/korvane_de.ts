@@ -1467,6 +1467,25 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
 </context>
 <context>
+    <name>CheckSign</name>
+    <message>
+        <source>Checking the mod</source>
+        <translation>Die Mod wird geprüft</translation>
+    </message>
+    <message>
+        <source>Stop checking the mod</source>
+        <translation>Die Prüfung der Mod abbrechen</translation>
+    </message>
+    <message>
+        <source>Checking the mod: %1 of %2</source>
+        <translation>Die Mod wird geprüft: %1 von %2</translation>
+    </message>
+    <message>
+        <source>Reading the mod&apos;s folder…</source>
+        <translation>Der Ordner der Mod wird gelesen …</translation>
+    </message>
+</context>
+<context>
     <name>ChoicePopup</name>
     <message>
         <source>Nothing has these words.</source>
@@ -2925,6 +2944,13 @@ Ohne diese Eingabe fortfahren?</translation>
     <message>
         <source>&apos;%1&apos; cannot be a name on Windows: it is that of a device, ends in a dot or a blank, or holds one of &lt; &gt; : &quot; \ | ? *</source>
         <translation>„%1“ kann unter Windows kein Name sein: Es ist der eines Gerätes, endet mit einem Punkt oder Leerzeichen oder enthält eines von &lt; &gt; : &quot; \ | ? *</translation>
+    </message>
+</context>
+<context>
+    <name>FileOpener</name>
+    <message>
+        <source>Failed to open %1</source>
+        <translation>%1 konnte nicht geöffnet werden</translation>
     </message>
 </context>
 <context>
@@ -5308,6 +5334,25 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
 </context>
 <context>
+    <name>ModProblems</name>
+    <message>
+        <source>[Problems] &apos;%1&apos; was not searched: %2</source>
+        <translation>[Probleme] „%1“ wurde nicht durchsucht: %2</translation>
+    </message>
+    <message>
+        <source>And %1 more in the mod. They are listed when others are mended or silenced.</source>
+        <translation>Und %1 weitere in der Mod. Sie werden aufgelistet, wenn andere behoben oder stummgeschaltet sind.</translation>
+    </message>
+    <message>
+        <source>There is no mod folder to write %1 into. The options name it.</source>
+        <translation>Es gibt keinen Mod-Ordner, in den %1 geschrieben werden könnte. Die Optionen nennen ihn.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not as it has to be. Mend it first.</source>
+        <translation>„%1“ ist nicht so, wie es sein muss. Berichtigen Sie die Datei zuerst.</translation>
+    </message>
+</context>
+<context>
     <name>ModelComparison</name>
     <message>
         <source>%1 frames</source>
@@ -7377,6 +7422,10 @@ Wo keine Datei ist, bleibt es still.</translation>
         <source>Show what is wrong with the open files (errors: %1, warnings: %2, notes: %3)</source>
         <translation>Zeigen, was an den geöffneten Dateien nicht stimmt (Fehler: %1, Warnungen: %2, Hinweise: %3)</translation>
     </message>
+    <message>
+        <source>Show what is wrong with the mod and the open files (errors: %1, warnings: %2, notes: %3)</source>
+        <translation>Zeigen, was an der Mod und den geöffneten Dateien nicht stimmt (Fehler: %1, Warnungen: %2, Hinweise: %3)</translation>
+    </message>
 </context>
 <context>
     <name>ProblemsDock</name>
@@ -7440,6 +7489,82 @@ Wo keine Datei ist, bleibt es still.</translation>
         <source>Repair what is selected, where there is only one way to do it</source>
         <translation>Das Ausgewählte beheben, wo es nur einen Weg dazu gibt</translation>
     </message>
+    <message>
+        <source>Silence This Rule for This F&amp;ile</source>
+        <translation>Diese Regel für diese &amp;Datei stummschalten</translation>
+    </message>
+    <message>
+        <source>Write into %1 of the mod that this is as it should be in this file</source>
+        <translation>In %1 der Mod schreiben, dass dies in dieser Datei so sein soll</translation>
+    </message>
+    <message>
+        <source>Silence This Rule &amp;Everywhere</source>
+        <translation>Diese Regel übera&amp;ll stummschalten</translation>
+    </message>
+    <message>
+        <source>Write into %1 of the mod that nothing of this kind is to be told</source>
+        <translation>In %1 der Mod schreiben, dass nichts dieser Art gemeldet werden soll</translation>
+    </message>
+    <message>
+        <source>&amp;Hear This Rule Again</source>
+        <translation>Diese Regel wieder &amp;melden</translation>
+    </message>
+    <message>
+        <source>Take out of %1 what silences this</source>
+        <translation>Aus %1 nehmen, was dies stummschaltet</translation>
+    </message>
+    <message>
+        <source>List Si&amp;lenced</source>
+        <translation>&amp;Stummgeschaltete auflisten</translation>
+    </message>
+    <message>
+        <source>List what %1 of the mod silences, too</source>
+        <translation>Auch auflisten, was %1 der Mod stummschaltet</translation>
+    </message>
+    <message>
+        <source>Whole &amp;Mod</source>
+        <translation>&amp;Ganze Mod</translation>
+    </message>
+    <message>
+        <source>List what is wrong with all files in the mod&apos;s folder, too</source>
+        <translation>Auch auflisten, was an allen Dateien im Mod-Ordner nicht stimmt</translation>
+    </message>
+    <message>
+        <source>Silenced: %1</source>
+        <translation>Stumm: %1</translation>
+    </message>
+    <message>
+        <source>The mod is being checked.</source>
+        <translation>Die Mod wird geprüft.</translation>
+    </message>
+    <message>
+        <source>The check of the mod was stopped. Refresh Folders (F5) starts it again.</source>
+        <translation>Die Prüfung der Mod wurde abgebrochen. Ordner neu einlesen (F5) beginnt sie von Neuem.</translation>
+    </message>
+    <message>
+        <source>The options name no mod folder.</source>
+        <translation>Die Optionen nennen keinen Mod-Ordner.</translation>
+    </message>
+    <message>
+        <source>%1 silences &apos;%2&apos; in the whole mod.</source>
+        <translation>%1 schaltet „%2“ in der ganzen Mod stumm.</translation>
+    </message>
+    <message>
+        <source>%1 silences &apos;%2&apos; for &apos;%3&apos;.</source>
+        <translation>%1 schaltet „%2“ für „%3“ stumm.</translation>
+    </message>
+    <message>
+        <source>%1 silences &apos;%2&apos; for &apos;%3&apos; no more.</source>
+        <translation>%1 schaltet „%2“ für „%3“ nicht mehr stumm.</translation>
+    </message>
+    <message>
+        <source>File error</source>
+        <translation>Dateifehler</translation>
+    </message>
+    <message>
+        <source>Failed to write %1</source>
+        <translation>%1 konnte nicht geschrieben werden</translation>
+    </message>
 </context>
 <context>
     <name>ProblemsList</name>
@@ -7474,6 +7599,18 @@ Wo keine Datei ist, bleibt es still.</translation>
     <message>
         <source>Problem</source>
         <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Silenced: %1</source>
+        <translation>Stumm: %1</translation>
+    </message>
+    <message>
+        <source>Silenced (%1): %2</source>
+        <translation>Stumm (%1): %2</translation>
+    </message>
+    <message>
+        <source>Rule: %1</source>
+        <translation>Regel: %1</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,7 @@
 #include "DocumentLoader.h"
 #include "Log.h"
 #include "Memory.h"
+#include "ModProblems.h"
 #include "Repairs.h"
 #include "Settings.h"
 #include "Validation.h"
@@ -28,7 +29,9 @@ Problems::Problems(SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticM
     , m_anim(anim)
     , m_staticMesh(staticMesh)
     , m_documents{&skinnedMesh, &anim, &staticMesh}
+    , m_mod(new ModProblems(this))
 {
+    connect(m_mod, &ModProblems::changed, this, &Problems::collect);
     m_delay.setSingleShot(true);
     m_delay.setInterval(DelayMs);
     connect(&m_delay, &QTimer::timeout, this, &Problems::check);
@@ -37,16 +40,18 @@ Problems::Problems(SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticM
         connect(&document(type), &Document::replaced, this, [this, type] {
             // They name records of the model that went.
             m_findings[size_t(type)].clear();
+            m_isChecked[size_t(type)] = false;
             m_checks[size_t(type)].cancel();
-            emit changed();
+            collect();
             markChanged(type);
         });
         connect(&document(type), &Document::recordsChanged, this, [this, type] { markChanged(type); });
         connect(&document(type), &Document::structuresChanged, this, [this, type] { markChanged(type); });
         // The document's name may be another one, and what stood behind its end is gone.
         connect(&document(type), &Document::saved, this, [this, type] {
-            emit changed();
+            collect();
             markChanged(type);
+            m_mod->recheck();
         });
     }
     // Whoever comes back from a file manager may have put the missing texture into its place.
@@ -56,21 +61,50 @@ Problems::Problems(SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticM
     });
 }
 
-qint64 Problems::count(Severity severity) const
+void Problems::collect()
 {
-    qint64 number = 0;
-    for (const std::vector<Finding> &findings : m_findings) {
-        for (const Finding &finding : findings) {
-            if (severityOf(finding.rule) == severity)
-                number += std::max<qint64>(finding.notListed, 1);
+    m_all.clear();
+    QStringList
+        open; // by their names in the mod; what is wrong with them as files is told until they are checked
+    for (const DocumentKind &kind : documentKinds()) {
+        const QString path = document(kind.type).path();
+        const QString name = m_mod->nameOf(path);
+        if (!name.isEmpty() && m_isChecked[size_t(kind.type)])
+            open += name;
+        for (const Finding &finding : m_findings[size_t(kind.type)]) {
+            Problem problem;
+            problem.rule = wordsOf(finding.rule);
+            problem.text = finding.text;
+            problem.place = finding.place;
+            problem.notListed = finding.notListed;
+            problem.isRepairable = finding.repairable;
+            problem.document = kind.type;
+            problem.documentRule = finding.rule;
+            problem.path = path;
+            problem.name = name;
+            const auto *silence =
+                name.isEmpty() ? nullptr : m_mod->settings().silenceOf(problem.rule.id, name);
+            problem.isSilenced = silence != nullptr;
+            problem.why = silence ? silence->why : QString();
+            m_all.push_back(std::move(problem));
         }
     }
-    return number;
+    for (Problem &problem : m_mod->problems(open))
+        m_all.push_back(std::move(problem));
+
+    m_counts = {};
+    m_silenced = 0;
+    for (const Problem &problem : m_all) {
+        qint64 &count = problem.isSilenced ? m_silenced : m_counts[size_t(problem.rule.severity)];
+        count += std::max<qint64>(problem.notListed, 1);
+    }
+    emit changed();
 }
 
-void Problems::setReferenceIds(const ReferenceIds &ids)
+void Problems::loadReferenceIds()
 {
-    m_ids = ids;
+    m_ids = ReferenceIds::load();
+    m_mod->setReferenceIds(m_ids);
     markChanged(DocumentType::SkinnedMesh); // and with it the animations
 }
 
@@ -78,6 +112,7 @@ void Problems::recheck()
 {
     m_isStale.fill(true);
     m_delay.start();
+    m_mod->recheck();
 }
 
 void Problems::markChanged(DocumentType type)
@@ -124,7 +159,8 @@ void Problems::startCheck(DocumentType type)
             return Log::warning(
                 tr("[Problems] '%1' was not searched: %2").arg(document(type).fileName(), checked.lack));
         m_findings[size_t(type)] = std::move(checked.found);
-        emit changed();
+        m_isChecked[size_t(type)] = true;
+        collect();
     });
     // A model of the game's size takes less than a millisecond, and its list does not flicker then.
     checks.wait(DocumentLoader::usualPatience() / 5);

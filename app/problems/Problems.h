@@ -5,6 +5,7 @@
 #include "Background.h"
 #include "Document.h"
 #include "Finding.h"
+#include "Problem.h"
 #include "ReferenceIds.h"
 
 #include <QTimer>
@@ -12,8 +13,10 @@
 #include <array>
 #include <functional>
 
-/// What is wrong with the open documents. It follows their changes, a moment after the last one. Another
-/// thread looks, at a copy of the model, so that nobody waits for it.
+class ModProblems;
+
+/// What is wrong with the open documents, and with the mod where that is wanted. It follows their changes, a
+/// moment after the last one. Another thread looks, at a copy of the model, so that nobody waits for it.
 class Problems : public QObject
 {
     Q_OBJECT
@@ -28,11 +31,15 @@ public:
              QObject *parent);
 
     const std::vector<Finding> &findings(DocumentType type) const { return m_findings[size_t(type)]; }
-    /// How many there are, in all documents, those included that lists only count.
-    qint64 count(Severity severity) const;
+    /// What is wrong with the open documents, and what was found in the mod, silenced or not.
+    const std::vector<Problem> &all() const { return m_all; }
+    ModProblems &mod() const { return *m_mod; }
+    /// How many there are that nobody has silenced, those included that lists only count.
+    qint64 count(Severity severity) const { return m_counts[size_t(severity)]; }
+    qint64 silencedCount() const { return m_silenced; }
 
-    /// The numbers that key frame actions may name from now on.
-    void setReferenceIds(const ReferenceIds &ids);
+    /// Reads the numbers anew that key frame actions may name.
+    void loadReferenceIds();
     /// Looks again, soon: the folders or what is in them may have changed.
     void recheck();
 
@@ -50,6 +57,7 @@ signals:
 private:
     Document &document(DocumentType type) const { return *m_documents[size_t(type)]; }
     void markChanged(DocumentType type);
+    void collect();
     void check();
     void startCheck(DocumentType type);
     /// What gives the findings of the document as it is now, in any thread.
@@ -62,6 +70,11 @@ private:
     StaticMeshDocument &m_staticMesh;
     std::array<Document *, 3> m_documents; ///< in the order of DocumentType, as all that follows
     std::array<std::vector<Finding>, 3> m_findings;
+    ModProblems *m_mod;
+    std::vector<Problem> m_all;
+    std::array<qint64, 3> m_counts{}; ///< by severity
+    qint64 m_silenced = 0;
+    std::array<bool, 3> m_isChecked{}; ///< since the document was replaced
     std::array<bool, 3> m_isStale{};
     ReferenceIds m_ids;
     QTimer m_delay;

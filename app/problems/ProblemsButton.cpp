@@ -3,6 +3,7 @@
 #include "ProblemsButton.h"
 
 #include "Icons.h"
+#include "ModProblems.h"
 #include "Problems.h"
 
 #include <QDockWidget>
@@ -31,6 +32,9 @@ void ProblemsButton::showCounts()
     const char *icon = errors > 0 ? "error" : warnings > 0 ? "warning" : notes > 0 ? "info" : "checkmark";
     setIcon(namedIcon(QLatin1String(icon)));
     setText(all == 0 ? tr("No problems") : tr("Problems: %1").arg(all));
-    setToolTip(tr("Show what is wrong with the open files (errors: %1, warnings: %2, notes: %3)")
+    setToolTip((m_problems.mod().isWhole()
+                    ? tr("Show what is wrong with the mod and the open files (errors: %1, warnings: %2, "
+                         "notes: %3)")
+                    : tr("Show what is wrong with the open files (errors: %1, warnings: %2, notes: %3)"))
                    .arg(QString::number(errors), QString::number(warnings), QString::number(notes)));
 }

@@ -5,9 +5,12 @@
 #include "EmptyText.h"
 #include "Icons.h"
 #include "RecordSelection.h"
+#include "RecordTable.h"
 #include "RecordTexts.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QStyledItemDelegate>
 
@@ -36,6 +39,21 @@ private:
     QTreeView *m_view;
 };
 
+/// The end of a path says most of it.
+class PathDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->features &= ~QStyleOptionViewItem::WrapText;
+        option->textElideMode = Qt::ElideLeft;
+    }
+};
+
 const char *iconOf(Severity severity)
 {
     static const char *const names[] = {"error", "warning", "info"};
@@ -55,70 +73,88 @@ QString nameOf(Severity severity)
     return ProblemsList::tr("Note");
 }
 
-/// The order in which the checks put findings, the worst first.
-auto orderOf(const ProblemItem &item)
+/// Open documents first, then the files of the mod.
+int documentOrder(const Problem &problem)
 {
-    const Finding &finding = item.finding();
-    return std::tuple(severityOf(finding.rule), item.type(), finding.rule, finding.notListed > 0,
-                      finding.place.kind, finding.place.index);
+    return problem.document ? int(*problem.document) : int(documentKinds().size());
+}
+
+/// The order in which the checks put findings, the worst first.
+auto orderOf(const Problem &problem)
+{
+    return std::tuple(problem.isSilenced, problem.rule.severity, documentOrder(problem), problem.name,
+                      problem.rule.order, problem.notListed > 0, problem.place.kind, problem.place.index);
 }
 } // namespace
 
-ProblemItem::ProblemItem(DocumentType type, const Finding &finding, const QString &document,
-                         const RecordSelection &records)
-    : m_type(type)
-    , m_finding(finding)
-    , m_document(document)
-    , m_place(
-          recordPlace(records, finding.place)) // now: the record may be gone by the time that it is painted
+ProblemItem::ProblemItem(const Problem &problem, const QString &file, const RecordSelection *records)
+    : m_problem(problem)
+    , m_file(file)
+    , m_place(records ? recordPlace(*records, problem.place)
+                      : QString()) // now: the record may be gone by the time that it is painted
 {}
 
 QString ProblemItem::cell(int column) const
 {
     switch (column) {
     case SeverityColumn:
-        return nameOf(severityOf(m_finding.rule));
-    case DocumentColumn:
-        return m_document;
-    case PlaceColumn:
-        return m_place;
+        return nameOf(m_problem.rule.severity);
+    case FileColumn:
+        return m_file;
+    case PlaceColumn: {
+        // The root would stand without a name.
+        const RecordRow *row = m_problem.document ? nullptr : recordRow(m_problem.place.kind);
+        return row && row->parent != RecordKind::None ? recordPlace(m_problem.place) : m_place;
+    }
     default:
-        return m_finding.text;
+        return !m_problem.isSilenced ? m_problem.text
+               : m_problem.why.isEmpty()
+                   ? ProblemsList::tr("Silenced: %1").arg(m_problem.text)
+                   : ProblemsList::tr("Silenced (%1): %2").arg(m_problem.why, m_problem.text);
     }
 }
 
 QVariant ProblemItem::data(int column, int role) const
 {
+    if (role == Qt::ToolTipRole && column == SeverityColumn && !m_problem.rule.id.isEmpty())
+        return ProblemsList::tr("Rule: %1").arg(m_problem.rule.id);
+    if (role == Qt::ToolTipRole && column == FileColumn)
+        return QDir::toNativeSeparators(m_problem.path);
     if (role == Qt::DisplayRole || (role == Qt::ToolTipRole && column == PlaceColumn))
         return cell(column);
     if (role == Qt::DecorationRole && column == SeverityColumn)
-        return namedIcon(QLatin1String(iconOf(severityOf(m_finding.rule))));
+        return namedIcon(QLatin1String(iconOf(m_problem.rule.severity)));
+    if (role == Qt::ForegroundRole && m_problem.isSilenced)
+        return QGuiApplication::palette().brush(QPalette::PlaceholderText);
     return QTreeWidgetItem::data(column, role);
 }
 
 bool ProblemItem::isAbout(const ProblemItem &other) const
 {
-    return m_type == other.m_type && m_finding.rule == other.m_finding.rule &&
-           m_finding.place == other.m_finding.place;
+    const Problem &that = other.m_problem;
+    // A file may have become a document.
+    return m_problem.rule.order == that.rule.order && m_problem.place == that.place &&
+           m_problem.path == that.path && (!m_problem.path.isEmpty() || m_problem.document == that.document);
 }
 
 bool ProblemItem::operator<(const QTreeWidgetItem &other) const
 {
-    const auto &that = static_cast<const ProblemItem &>(other);
+    const Problem &that = static_cast<const ProblemItem &>(other).m_problem;
     const int column = treeWidget() ? treeWidget()->sortColumn() : SeverityColumn;
-    const auto place = [](const ProblemItem &item) {
-        const Finding &finding = item.finding();
-        return std::tuple(item.type(), finding.place.kind, finding.place.index);
+    const auto file = [](const Problem &problem) { return std::tuple(documentOrder(problem), problem.name); };
+    const auto place = [&file](const Problem &problem) {
+        return std::tuple(file(problem), problem.place.kind, problem.place.index);
     };
     switch (column) {
-    case DocumentColumn:
-        return std::tuple(m_type, orderOf(*this)) < std::tuple(that.m_type, orderOf(that));
+    case FileColumn:
+        return std::tuple(file(m_problem), orderOf(m_problem)) < std::tuple(file(that), orderOf(that));
     case PlaceColumn:
-        return std::tuple(place(*this), orderOf(*this)) < std::tuple(place(that), orderOf(that));
+        return std::tuple(place(m_problem), orderOf(m_problem)) < std::tuple(place(that), orderOf(that));
     case TextColumn:
-        return std::tuple(m_finding.rule, orderOf(*this)) < std::tuple(that.m_finding.rule, orderOf(that));
+        return std::tuple(m_problem.rule.order, orderOf(m_problem)) <
+               std::tuple(that.rule.order, orderOf(that));
     default:
-        return orderOf(*this) < orderOf(that);
+        return orderOf(m_problem) < orderOf(that);
     }
 }
 
@@ -136,12 +172,13 @@ ProblemsList::ProblemsList(QWidget *parent)
     setAllColumnsShowFocus(true);
     setWordWrap(true);
     setItemDelegateForColumn(ProblemItem::TextColumn, new SentenceDelegate(this));
+    setItemDelegateForColumn(ProblemItem::FileColumn, new PathDelegate(this));
     setSortingEnabled(true);
     sortByColumn(ProblemItem::SeverityColumn, Qt::AscendingOrder);
     header()->setStretchLastSection(false);
     const int letter = fontMetrics().averageCharWidth();
     for (const auto &[column, letters] : {std::pair(ProblemItem::SeverityColumn, 14),
-                                          {ProblemItem::DocumentColumn, 24},
+                                          {ProblemItem::FileColumn, 32},
                                           {ProblemItem::PlaceColumn, 34}})
         setColumnWidth(column, letters * letter);
     connect(header(), &QHeaderView::sectionResized, this, [this](int column) {

@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "DocumentKind.h"
-#include "Finding.h"
+#include "Problem.h"
 
 #include <QTreeWidget>
 
@@ -14,14 +13,12 @@ class RecordSelection;
 class ProblemItem : public QTreeWidgetItem
 {
 public:
-    enum Column { SeverityColumn, DocumentColumn, PlaceColumn, TextColumn, ColumnCount };
+    enum Column { SeverityColumn, FileColumn, PlaceColumn, TextColumn, ColumnCount };
 
-    /// `records` says what the place is called.
-    ProblemItem(DocumentType type, const Finding &finding, const QString &document,
-                const RecordSelection &records);
+    /// `file` is what the file is called; `records`, if it is open, says what the place is.
+    ProblemItem(const Problem &problem, const QString &file, const RecordSelection *records);
 
-    DocumentType type() const { return m_type; }
-    const Finding &finding() const { return m_finding; }
+    const Problem &problem() const { return m_problem; }
     bool isAbout(const ProblemItem &other) const;
 
     /// By the column that the list is sorted by; what is equal there stays in the order of the checks.
@@ -32,10 +29,9 @@ public:
 private:
     QString cell(int column) const;
 
-    DocumentType m_type;
-    Finding m_finding;
-    QString m_document;
-    QString m_place;
+    Problem m_problem;
+    QString m_file;
+    QString m_place; ///< of an open document's
 };
 
 /// The rows of the list of problems, with their sentences in full: they are broken into lines.

@@ -212,19 +212,14 @@ void MainWindow::readSettings()
 
 void MainWindow::createDocks()
 {
-    m_ui->dockProblems->setProblems(m_problems, {{{&m_skinnedMesh, m_ui->treeSkinnedMesh},
-                                                  {&m_anim, m_ui->treeAnim},
-                                                  {&m_staticMesh, m_ui->treeStaticMesh}}});
-    connect(m_ui->dockProblems, &ProblemsDock::activated, m_panes, &DocumentPanes::showRecord);
     m_ui->statusBar->insertPermanentWidget(0, new ProblemsButton(*m_problems, *m_ui->dockProblems, this));
     m_ui->dockCompare->setComparison(new FileComparison(m_skinnedMesh, m_anim, m_staticMesh, this), *m_files,
                                      m_ui->actionCompare);
     connect(m_ui->dockCompare, &CompareDock::activated, m_panes, &DocumentPanes::showRecord);
     connect(m_ui->tabDatabase, &DatabaseTab::told, this, &MainWindow::tell);
-    connect(m_ui->tabDatabase, &DatabaseTab::namesChanged, m_problems,
-            [this] { m_problems->setReferenceIds(ReferenceIds::load()); });
+    connect(m_ui->tabDatabase, &DatabaseTab::namesChanged, m_problems, &Problems::loadReferenceIds);
     connect(m_ui->tabDatabase, &DatabaseTab::namesChanged, m_panes, &DocumentPanes::OnNamesChanged);
-    wireRecordDocks(*m_ui, *m_panes, *this);
+    wireRecordDocks(*m_ui, *m_panes, *m_problems, *m_files, *this);
     m_ui->dockServers->setQueryAction(m_ui->actionQueryServers);
     m_materials = new MaterialsPane(
         *m_ui->dockMaterials, m_undoGroup, *m_files, m_panes->materials(),

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+class DocumentFiles;
 class DocumentPanes;
+class Problems;
 class QMainWindow;
 
 namespace Ui {
@@ -10,4 +12,5 @@ class MainWindow;
 }
 
 /// Lets the docks that list records of the documents have these, and the panes show what is picked there.
-void wireRecordDocks(const Ui::MainWindow &ui, DocumentPanes &panes, QMainWindow &window);
+void wireRecordDocks(const Ui::MainWindow &ui, DocumentPanes &panes, Problems &problems, DocumentFiles &files,
+                     QMainWindow &window);

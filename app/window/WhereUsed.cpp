@@ -4,7 +4,7 @@
 
 #include "DocumentFiles.h"
 #include "DocumentPanes.h"
-#include "FileSystem.h"
+#include "FileOpener.h"
 #include "FloatSpinBox.h"
 #include "IntSpinBox.h"
 #include "MaterialCatalog.h"
@@ -15,15 +15,14 @@
 
 #include <QApplication>
 #include <QMenu>
-#include <QTimer>
 
 WhereUsed::WhereUsed(const Ui::MainWindow &ui, DocumentFiles &files, DocumentPanes &panes,
                      SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticMeshDocument &staticMesh,
                      const StructureActions &structure, QObject *parent)
     : QObject(parent)
     , m_ui(ui)
-    , m_files(files)
     , m_panes(panes)
+    , m_opener(new FileOpener(files, this))
 {
     UsedByDock *usedBy = m_ui.dockUsedBy;
     usedBy->setDocuments(skinnedMesh, anim, staticMesh,
@@ -31,13 +30,12 @@ WhereUsed::WhereUsed(const Ui::MainWindow &ui, DocumentFiles &files, DocumentPan
     usedBy->setCurrent(m_panes.currentDocument());
     connect(&m_panes, &DocumentPanes::currentChanged, usedBy,
             [this, usedBy] { usedBy->setCurrent(m_panes.currentDocument()); });
-    connect(&m_files, &DocumentFiles::saved, usedBy, &UsedByDock::refresh);
+    connect(&files, &DocumentFiles::saved, usedBy, &UsedByDock::refresh);
     connect(m_ui.actionWhereUsed, &QAction::triggered, this, &WhereUsed::openUsedBy);
-    // Later, as what is picked in an explorer: a question would swallow the release of the mouse.
-    connect(usedBy, &UsedByDock::recordWanted, this,
-            [this](DocumentType type, const QString &path, const RecordRef &record) {
-                QTimer::singleShot(0, this, [this, type, path, record] { openRecord(type, path, record); });
-            });
+    connect(
+        usedBy, &UsedByDock::recordWanted, m_opener,
+        [this](DocumentType, const QString &path, const RecordRef &record) { m_opener->open(path, record); });
+    connect(m_opener, &FileOpener::opened, this, &WhereUsed::lead);
     connect(
         usedBy, &UsedByDock::materialsWanted, this,
         [this](const QString &path) { m_panes.materials().open(path, {}); }, Qt::QueuedConnection);
@@ -64,20 +62,6 @@ void WhereUsed::openUsedBy()
             thing = NamedThing::ofArgument(*kind, real->value());
     }
     m_ui.dockUsedBy->open(thing);
-}
-
-void WhereUsed::openRecord(DocumentType type, const QString &path, const RecordRef &record)
-{
-    if (QApplication::activeModalWidget())
-        return;
-    if (FileSystem::isSamePath(m_files.document(type)->path(), path))
-        return lead(type, record);
-    if (!m_files.promptUnsaved(type))
-        return;
-    m_files.open(type, path, [this, type, record](DocumentFiles::Outcome outcome) {
-        if (outcome == DocumentFiles::Outcome::Opened)
-            lead(type, record);
-    });
 }
 
 void WhereUsed::lead(DocumentType type, const RecordRef &record)

@@ -8,6 +8,7 @@
 
 class DocumentFiles;
 class DocumentPanes;
+class FileOpener;
 class StructureActions;
 
 namespace Ui {
@@ -27,10 +28,9 @@ public:
 
 private:
     void openUsedBy();
-    void openRecord(DocumentType type, const QString &path, const RecordRef &record);
     void lead(DocumentType type, const RecordRef &record);
 
     const Ui::MainWindow &m_ui;
-    DocumentFiles &m_files;
     DocumentPanes &m_panes;
+    FileOpener *m_opener;
 };

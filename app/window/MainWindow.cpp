@@ -33,7 +33,6 @@
 #include "Preferences.h"
 #include "Problems.h"
 #include "ProblemsButton.h"
-#include "QuestionMenu.h"
 #include "RecentFiles.h"
 #include "RecordDocks.h"
 #include "RecoveryPrompt.h"
@@ -102,7 +101,6 @@ MainWindow::MainWindow(QWidget *parent)
     animations->addToContext(*structure->menu(DocumentType::Anim));
     connect(animations, &AnimationCommands::documentWanted, m_panes, &DocumentPanes::showPane);
     new WhereUsed(*m_ui, *m_files, *m_panes, m_skinnedMesh, m_anim, m_staticMesh, *structure, this);
-    (new QuestionMenu(this))->addToMenus(m_ui->actionWhereUsed);
     m_paneKeys = new PaneKeys(*m_ui, this);
     m_ui->menuView->insertMenu(m_ui->actionFullScreen, m_paneKeys);
     m_importExport->addExports(*m_ui->menuFile, *m_ui->actionExport, *m_ui->treeAnim);

@@ -9,6 +9,7 @@
 #include "IntSpinBox.h"
 #include "MaterialCatalog.h"
 #include "NamedThing.h"
+#include "QuestionMenu.h"
 #include "Questions.h"
 #include "StructureActions.h"
 #include "ui_MainWindow.h"
@@ -18,8 +19,8 @@
 
 WhereUsed::WhereUsed(const Ui::MainWindow &ui, DocumentFiles &files, DocumentPanes &panes,
                      SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticMeshDocument &staticMesh,
-                     const StructureActions &structure, QObject *parent)
-    : QObject(parent)
+                     const StructureActions &structure, QWidget *window)
+    : QObject(window)
     , m_ui(ui)
     , m_panes(panes)
     , m_opener(new FileOpener(files, this))
@@ -44,6 +45,7 @@ WhereUsed::WhereUsed(const Ui::MainWindow &ui, DocumentFiles &files, DocumentPan
         menu->addSeparator();
         menu->addAction(m_ui.actionWhereUsed);
     }
+    (new QuestionMenu(window))->addToMenus(m_ui.actionWhereUsed);
 }
 
 /// What the field with the keys holds is what is asked for, where that is the number of something.

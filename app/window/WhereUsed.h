@@ -15,7 +15,7 @@ namespace Ui {
 class MainWindow;
 }
 
-/// Has the dock of who names what asked, and opens what it lists.
+/// Has the dock of who names what asked, in menus of trees and number fields too, and opens what it lists.
 class WhereUsed : public QObject
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     /// Everything outlives this.
     WhereUsed(const Ui::MainWindow &ui, DocumentFiles &files, DocumentPanes &panes,
               SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticMeshDocument &staticMesh,
-              const StructureActions &structure, QObject *parent);
+              const StructureActions &structure, QWidget *window);
 
 private:
     void openUsedBy();

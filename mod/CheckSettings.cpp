@@ -199,7 +199,10 @@ QByteArray CheckSettings::withSilence(const QByteArray &text, const QString &rul
         JsonEdit::append(edited, checkSpan, list);
     else
         JsonEdit::append(edited, listSpan, entry);
-    return edited;
+    // A key may be spelled so that readers and this do not agree on it, with a byte order mark in it: then
+    // nothing is written.
+    const bool isOneMore = read(edited).silences().size() == read(text).silences().size() + 1;
+    return isOneMore ? edited : QByteArray();
 }
 
 QByteArray CheckSettings::withoutSilence(const QByteArray &text, int place)

@@ -190,7 +190,9 @@ private slots:
         QTest::newRow("line") << QByteArray(R"({"check": {"silence": [{"rule": "x"}], "a": 1}, "z": 2})")
                               << R"({"check": {"silence": [{"rule": "x"}, )" + entry +
                                      R"(], "a": 1}, "z": 2})";
-        for (const char *other : {"[", "[]", R"({"check": 1})", R"({"check": {"silence": 1}})"})
+        for (const char *other : {"[", "[]", R"({"check": 1})", R"({"check": {"silence": 1}})",
+                                  "{\"\xef\xbb\xbf"
+                                  "check\": {\"silence\": [{\"rule\": \"same-as-game\"}]}}"})
             QTest::newRow(other) << QByteArray(other) << QByteArray();
     }
     void settingsAreEdited()

@@ -112,7 +112,7 @@ private slots:
     void foldersInFolders()
     {
         fillGame();
-        const auto count = [this](const QString &game, const QString &mod) {
+        const auto count = [](const QString &game, const QString &mod) {
             const ReferenceIndexPtr index = make({game, mod});
             QSet<QString> paths;
             int ofMod = 0;

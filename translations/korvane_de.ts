@@ -2991,20 +2991,14 @@ Ohne diese Eingabe fortfahren?</translation>
         <translation>Auflisten, was in Dateien ersetzt wurde, um es rückgängig zu machen</translation>
     </message>
     <message>
-        <source>Show…</source>
-        <translation>Zeigen…</translation>
+        <source>Replacement broken off</source>
+        <translation>Ersetzung abgebrochen</translation>
     </message>
     <message>
-        <source>List the replacements, to end or undo this one</source>
-        <translation>Die Ersetzungen auflisten, um diese zu Ende zu führen oder rückgängig zu machen</translation>
-    </message>
-    <message>
-        <source>Hide; Edit ▸ Replacements in Files… lists it</source>
-        <translation>Ausblenden; Bearbeiten ▸ Ersetzungen in Dateien… führt sie auf</translation>
-    </message>
-    <message>
-        <source>A replacement in %1 files was broken off: %2</source>
-        <translation>Eine Ersetzung in %1 Dateien wurde abgebrochen: %2</translation>
+        <source>A replacement in %1 files was broken off: %2
+Lists the replacements, to end or undo it</source>
+        <translation>Eine Ersetzung in %1 Dateien wurde abgebrochen: %2
+Führt die Ersetzungen auf, um sie zu Ende zu führen oder rückgängig zu machen</translation>
     </message>
 </context>
 <context>

@@ -6,23 +6,22 @@
 #include "FileRun.h"
 #include "FileRunsDialog.h"
 #include "Icons.h"
-#include "NoticeBar.h"
 #include "ReplaceFilesDialog.h"
 #include "Settings.h"
 
 #include <QAction>
-#include <QBoxLayout>
 #include <QFileInfo>
 #include <QMenu>
-#include <QPushButton>
+#include <QStatusBar>
+#include <QToolButton>
 
 #include <algorithm>
 
-FileReplacing::FileReplacing(DocumentFiles &files, QMenu *menu, QBoxLayout *place, QWidget *window)
+FileReplacing::FileReplacing(DocumentFiles &files, QMenu *menu, QStatusBar *bar, QWidget *window)
     : QObject(window)
     , m_files(files)
     , m_window(window)
-    , m_bar(new NoticeBar(namedIcon(QStringLiteral("warning")), QStringLiteral("barRuns")))
+    , m_brokenOff(new QToolButton(window))
 {
     const QList<QAction *> actions = menu->actions();
     const auto found = std::find_if(actions.begin(), actions.end(), [](const QAction *action) {
@@ -46,11 +45,14 @@ FileReplacing::FileReplacing(DocumentFiles &files, QMenu *menu, QBoxLayout *plac
     add("actionFileRuns", tr("Replacements in Files…"), tr("List what was replaced in files, to undo it"),
         &FileReplacing::on_actionFileRuns_triggered);
 
-    QPushButton *show = m_bar->addButton(tr("Show…"), QStringLiteral("btnShowRuns"),
-                                         tr("List the replacements, to end or undo this one"));
-    m_bar->addCross(tr("Hide; Edit ▸ Replacements in Files… lists it"));
-    place->insertWidget(0, m_bar);
-    connect(show, &QPushButton::clicked, this, &FileReplacing::on_actionFileRuns_triggered);
+    m_brokenOff->setObjectName(QStringLiteral("btnRunBrokenOff"));
+    m_brokenOff->setIcon(namedIcon(QStringLiteral("warning")));
+    m_brokenOff->setText(tr("Replacement broken off"));
+    m_brokenOff->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_brokenOff->setAutoRaise(true);
+    m_brokenOff->hide();
+    bar->addPermanentWidget(m_brokenOff);
+    connect(m_brokenOff, &QToolButton::clicked, this, &FileReplacing::on_actionFileRuns_triggered);
     offer();
 }
 
@@ -67,10 +69,10 @@ void FileReplacing::offer()
                                         : std::pair(broken->count(), broken->title());
         },
         [this](const std::pair<int, QString> &broken) {
-            m_bar->setVisible(broken.first > 0);
-            if (broken.first > 0)
-                m_bar->tell(tr("A replacement in %1 files was broken off: %2")
-                                .arg(QString::number(broken.first), broken.second));
+            m_brokenOff->setVisible(broken.first > 0);
+            m_brokenOff->setToolTip(
+                tr("A replacement in %1 files was broken off: %2\nLists the replacements, to end or undo it")
+                    .arg(QString::number(broken.first), broken.second));
         });
 }
 

@@ -7,18 +7,19 @@
 #include <QObject>
 
 class DocumentFiles;
-class NoticeBar;
-class QBoxLayout;
 class QMenu;
+class QStatusBar;
+class QToolButton;
 
-/// Replacements in the files of the mod: the actions of the menu, and a notice of one that was broken off.
+/// Replacements in the files of the mod: the actions of the menu, and a button that tells of one that was
+/// broken off.
 class FileReplacing : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Adds its actions to `menu` behind the searches, and the notice to `place`.
-    FileReplacing(DocumentFiles &files, QMenu *menu, QBoxLayout *place, QWidget *window);
+    /// Adds its actions to `menu` behind the searches, and the button to `bar`.
+    FileReplacing(DocumentFiles &files, QMenu *menu, QStatusBar *bar, QWidget *window);
 
 private slots:
     void on_actionReplaceInFiles_triggered();
@@ -30,6 +31,6 @@ private:
 
     DocumentFiles &m_files;
     QWidget *m_window;
-    NoticeBar *m_bar;
+    QToolButton *m_brokenOff;
     Background m_work;
 };

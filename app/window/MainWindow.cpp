@@ -104,7 +104,7 @@ MainWindow::MainWindow(QWidget *parent)
     m_paneKeys = new PaneKeys(*m_ui, this);
     m_ui->menuView->insertMenu(m_ui->actionFullScreen, m_paneKeys);
     m_importExport->addExports(*m_ui->menuFile, *m_ui->actionExport, *m_ui->treeAnim);
-    new FileReplacing(*m_files, m_ui->menuEdit, m_ui->vlCentral, this);
+    new FileReplacing(*m_files, m_ui->menuEdit, m_ui->statusBar, this);
     // All actions are there by now.
     m_shortcuts = new Shortcuts(*m_ui->menuBar, flightCommands({m_ui->viewSkinned, m_ui->viewStatic}), this);
     m_preferences = new Preferences(*m_shortcuts, this);

@@ -6,6 +6,7 @@
 #include "SampleModels.h"
 
 #include <QDialogButtonBox>
+#include <QToolButton>
 #include <QTreeWidget>
 
 /// Replacements in all files of the mod, from the menu.
@@ -138,7 +139,7 @@ private slots:
         }
         QVERIFY(TestSupport::writeFile(m_files["a"], "after"));
         open(m_files["c"]);
-        auto *show = find<QPushButton>(*m_window, "btnShowRuns");
+        auto *show = find<QToolButton>(*m_window, "btnRunBrokenOff");
         QTRY_VERIFY(show->isVisible());
         const Hand hand({[&](QDialog *dialog) {
             const Closing closing(dialog);

@@ -34,8 +34,9 @@ void ConsoleButton::showCounts()
 {
     const int errors = m_log.errorCount();
     const int warnings = m_log.warningCount();
-    const char *icon = errors > 0 ? "error" : warnings > 0 ? "warning" : "console";
-    setIcon(namedIcon(QLatin1String(icon)));
+    const QLatin1String icon(errors > 0 ? "error" : warnings > 0 ? "warning" : "console");
+    if (std::exchange(m_icon, icon) != icon) // thousands of lines may come at once
+        setIcon(namedIcon(icon));
     setText(errors + warnings == 0
                 ? tr("Console")
                 : tr("Errors: %1, warnings: %2").arg(QString::number(errors), QString::number(warnings)));

@@ -20,5 +20,6 @@ private:
     void showCounts();
 
     const ConsoleLog &m_log;
+    QLatin1String m_icon{""};
     bool m_opened = false; ///< by an error
 };

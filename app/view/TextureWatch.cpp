@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "TextureWatch.h"
 
+#include "DocumentLoader.h"
 #include "FileSearch.h"
 #include "KVOpenGLWidget.h"
 #include "MaterialFiles.h"
@@ -32,9 +33,9 @@ QStringList shownMaterials(const ModelDocument<Model> &document)
     return materials;
 }
 
-QStringList namesOf(const QStringList &materialPaths)
+QStringList namesOf(const QStringList &materialPaths, const QString &game, const QString &mod)
 {
-    MaterialFiles materials(Settings::GamePath.value(), Settings::OutputDir.value());
+    MaterialFiles materials(game, mod);
     QStringList names;
     for (const QString &materialPath : materialPaths) {
         names.append(QFileInfo(materialPath).path() + QStringLiteral(".kmat"));
@@ -47,9 +48,9 @@ QStringList namesOf(const QStringList &materialPaths)
 }
 
 /// Looked up anew: what comes may be called in another case than it is named.
-QMap<QString, FileStamp> stampsNow(const QStringList &names)
+QMap<QString, FileStamp> stampsNow(const QStringList &names, const QString &game, const QString &mod)
 {
-    const FileSearch search(Settings::GamePath.value(), Settings::OutputDir.value());
+    const FileSearch search(game, mod);
     QMap<QString, FileStamp> files;
     for (const QString &name : names) {
         for (const QString &path : search.candidates(name))
@@ -98,24 +99,63 @@ void TextureWatch::follow(const Document &document)
 
 void TextureWatch::collect()
 {
-    bool isOther = false;
-    for (Shown &each : m_shown) {
-        QStringList materials = each.materials();
-        if (materials == each.listed)
-            continue;
-        each.listed = std::move(materials);
-        // What is not drawn anew may have changed since it was.
-        each.names = namesOf(each.listed);
-        const auto drawn = std::exchange(each.files, stampsNow(each.names));
-        for (auto file = drawn.begin(); file != drawn.end(); ++file) {
-            const auto known = each.files.find(file.key());
-            if (known != each.files.end())
-                *known = *file;
-        }
-        isOther = true;
+    std::array<QStringList, 2> materials;
+    std::array<bool, 2> isWanted{};
+    for (size_t i = 0; i < m_shown.size(); ++i) {
+        materials[i] = m_shown[i].materials();
+        isWanted[i] = m_isReloadWanted || materials[i] != m_shown[i].listed;
     }
-    if (isOther)
+    m_collecting.cancel();
+    if (isWanted == std::array<bool, 2>{})
+        return;
+    struct Found
+    {
+        QStringList names;
+        QMap<QString, FileStamp> files;
+    };
+    const auto work = [materials, isWanted, game = Settings::GamePath.value(),
+                       mod = Settings::OutputDir.value()](const Background::Cancelled &) {
+        std::array<Found, 2> found;
+        for (size_t i = 0; i < found.size(); ++i) {
+            if (isWanted[i]) {
+                found[i].names = namesOf(materials[i], game, mod);
+                found[i].files = stampsNow(found[i].names, game, mod);
+            }
+        }
+        return found;
+    };
+    m_collecting.start(work, [this, materials, isWanted](std::array<Found, 2> found) {
+        for (size_t i = 0; i < found.size(); ++i) {
+            if (isWanted[i])
+                take(m_shown[i], materials[i], std::move(found[i].names), std::move(found[i].files));
+        }
         watchPaths();
+        if (m_looking.isRunning())
+            look(); // it looks at what is shown no more
+        if (std::exchange(m_isReloadWanted, false)) {
+            for (const Shown &each : m_shown)
+                each.viewport->rebuildModel();
+            emit reloaded();
+        }
+    });
+    // Few are found at once, and what happens to them next is a change.
+    m_collecting.wait(DocumentLoader::usualPatience());
+}
+
+void TextureWatch::take(Shown &shown, const QStringList &materials, QStringList names,
+                        QMap<QString, FileStamp> files) const
+{
+    shown.listed = materials;
+    shown.names = std::move(names);
+    const auto drawn = std::exchange(shown.files, std::move(files));
+    if (m_isReloadWanted)
+        return;
+    // What is not drawn anew may have changed since it was.
+    for (auto file = drawn.begin(); file != drawn.end(); ++file) {
+        const auto known = shown.files.find(file.key());
+        if (known != shown.files.end())
+            *known = *file;
+    }
 }
 
 void TextureWatch::watchPaths()
@@ -131,34 +171,29 @@ void TextureWatch::watchPaths()
 void TextureWatch::look()
 {
     watchPaths();
-    m_ahead.read({Settings::GamePath.value(), Settings::OutputDir.value()}, [this] { lookNow(); });
-}
-
-void TextureWatch::lookNow()
-{
-    bool isChanged = false, rests = true;
-    for (Shown &each : m_shown) {
-        auto now = stampsNow(each.names);
-        isChanged = isChanged || now != each.files;
-        rests = rests && now == each.seen;
-        each.seen = std::move(now);
-    }
-    if (isChanged && rests)
-        reload();
-    else if (isChanged)
-        m_rest.start(RestMs);
+    const auto work = [names = std::array{m_shown[0].names, m_shown[1].names},
+                       game = Settings::GamePath.value(),
+                       mod = Settings::OutputDir.value()](const Background::Cancelled &) {
+        return std::array{stampsNow(names[0], game, mod), stampsNow(names[1], game, mod)};
+    };
+    m_looking.start(work, [this](std::array<QMap<QString, FileStamp>, 2> now) {
+        bool isChanged = false, rests = true;
+        for (size_t i = 0; i < now.size(); ++i) {
+            isChanged = isChanged || now[i] != m_shown[i].files;
+            rests = rests && now[i] == m_shown[i].seen;
+            m_shown[i].seen = std::move(now[i]);
+        }
+        if (isChanged && rests)
+            reload();
+        else if (isChanged)
+            m_rest.start(RestMs);
+    });
 }
 
 void TextureWatch::reload()
 {
     m_rest.stop();
-    for (Shown &each : m_shown) {
-        each.listed = each.materials();
-        each.names = namesOf(each.listed);
-        each.files = stampsNow(each.names);
-    }
-    watchPaths();
-    for (const Shown &each : m_shown)
-        each.viewport->rebuildModel();
-    emit reloaded();
+    m_looking.cancel();
+    m_isReloadWanted = true;
+    collect();
 }

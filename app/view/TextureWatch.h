@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ArchivesAhead.h"
+#include "Background.h"
 #include "Document.h"
+#include "Files.h"
 #include "ViewportAction.h"
 
 #include <QFileSystemWatcher>
@@ -15,6 +16,7 @@
 #include <functional>
 
 /// Lets the viewports follow the material files and textures of what they show, which other programs change.
+/// Another thread looks for them: a model may name hundreds.
 class TextureWatch : public QObject
 {
     Q_OBJECT
@@ -28,7 +30,7 @@ public:
                  const Viewports &viewports, QObject *parent);
 
 public slots:
-    /// Looks all textures up again, now.
+    /// Looks all textures up again, and has the viewports draw what it finds.
     void reload();
 
 signals:
@@ -48,13 +50,16 @@ private:
 
     void follow(const Document &document);
     void collect();
+    void take(Shown &shown, const QStringList &materials, QStringList names,
+              QMap<QString, FileStamp> files) const;
     void watchPaths();
     void look();
-    void lookNow();
 
     std::array<Shown, 2> m_shown;
     QTimer m_collect;
     QTimer m_rest;
     QFileSystemWatcher m_watcher;
-    ArchivesAhead m_ahead;
+    bool m_isReloadWanted = false;
+    Background m_collecting;
+    Background m_looking;
 };

@@ -11,8 +11,11 @@
 #include <QDataStream>
 #include <QDir>
 #include <QFile>
+#include <QtEndian>
 
 #include <algorithm>
+#include <cstring>
+#include <future>
 
 namespace {
 /// Of another version, everything is read anew.
@@ -30,9 +33,12 @@ constexpr int PlaceBytes = 16;
 
 const auto cacheNames = QStringLiteral("references-*.index");
 
-QByteArray hashOf(const QByteArray &bytes)
+QByteArray hashOf(std::initializer_list<QByteArray> parts)
 {
-    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    for (const QByteArray &part : parts)
+        hash.addData(part);
+    return hash.result();
 }
 
 /// Each text once, known by its number.
@@ -76,24 +82,19 @@ class CacheReader
 {
 public:
     explicit CacheReader(const QByteArray &bytes)
-        : m_in(bytes)
-    {
-        m_in.setVersion(QDataStream::Qt_5_15);
-        m_in.setByteOrder(QDataStream::LittleEndian);
-    }
+        : m_at(bytes.constData())
+        , m_end(m_at + bytes.size())
+    {}
 
-    bool isWhole() const { return m_isWhole && m_in.status() == QDataStream::Ok; }
-    bool isAtEnd() const { return m_in.atEnd(); }
+    bool isWhole() const { return m_isWhole; }
+    bool isAtEnd() const { return m_at == m_end; }
 
     void readTexts()
     {
         const int texts = count(TextBytes);
         m_texts.reserve(texts);
-        for (int i = 0; i < texts && isWhole(); ++i) {
-            QString text;
-            m_in >> text;
-            m_texts += text;
-        }
+        for (int i = 0; i < texts && isWhole(); ++i)
+            m_texts += newText();
     }
 
     QString text()
@@ -108,7 +109,7 @@ public:
     int count(int recordBytes)
     {
         const int records = integer();
-        if (records >= 0 && records <= m_in.device()->bytesAvailable() / recordBytes)
+        if (records >= 0 && records <= (m_end - m_at) / recordBytes)
             return records;
         fail();
         return 0;
@@ -119,8 +120,10 @@ public:
         FileNaming file;
         file.path = text();
         file.relative = text();
-        quint8 type = 0;
-        m_in >> file.isMod >> type >> file.stamp.size >> file.stamp.modified;
+        file.isMod = value<quint8>() != 0;
+        const auto type = value<quint8>();
+        file.stamp.size = value<qint64>();
+        file.stamp.modified = value<qint64>();
         file.error = text();
         if (type > quint8(IndexedType::Picture))
             fail();
@@ -154,9 +157,10 @@ private:
         const int names = count(NameBytes);
         file.names.reserve(size_t(names));
         for (int i = 0; i < names && isWhole(); ++i) {
-            quint8 kind = 0;
+            const auto kind = value<quint8>();
+            const auto bits = value<quint64>();
             double number = 0.0;
-            m_in >> kind >> number;
+            std::memcpy(&number, &bits, sizeof number);
             if (kind >= namedKinds.size())
                 fail();
             const QString path = text();
@@ -170,11 +174,33 @@ private:
         }
     }
 
-    int integer()
+    int integer() { return value<qint32>(); }
+
+    template <typename Value>
+    Value value()
     {
-        qint32 value = 0;
-        m_in >> value;
+        if (m_end - m_at < qint64(sizeof(Value))) {
+            fail();
+            return {};
+        }
+        const auto value = qFromLittleEndian<Value>(m_at);
+        m_at += sizeof(Value);
         return value;
+    }
+
+    /// Bytes of UTF-16 behind their number, as streams of the toolkit have it.
+    QString newText()
+    {
+        constexpr auto Null = ~quint32(0);
+        const auto bytes = value<quint32>();
+        if (bytes == Null)
+            return {};
+        if (bytes % sizeof(QChar) != 0 || bytes > m_end - m_at)
+            return fail();
+        QString text(int(bytes / sizeof(QChar)), Qt::Uninitialized);
+        qFromLittleEndian<quint16>(m_at, text.size(), text.data());
+        m_at += bytes;
+        return text;
     }
 
     QString fail()
@@ -183,7 +209,8 @@ private:
         return {};
     }
 
-    QDataStream m_in;
+    const char *m_at;
+    const char *m_end;
     QStringList m_texts;
     bool m_isWhole = true;
 };
@@ -212,7 +239,7 @@ bool isSameIndex(const ReferenceIndexPtr &a, const ReferenceIndexPtr &b)
 
 QString IndexCache::pathFor(const MaterialFolders &folders)
 {
-    const QString name = QString::fromLatin1(hashOf(folderMark(folders)).toHex().left(16));
+    const QString name = QString::fromLatin1(hashOf({folderMark(folders)}).toHex().left(16));
     return QDir(OwnFolders::cache()).filePath(QStringLiteral("references-%1.index").arg(name));
 }
 
@@ -236,7 +263,7 @@ QByteArray IndexCache::bytesOf(const ReferenceIndex &index)
     for (const QString &text : cached.all())
         out << text;
     const QByteArray head = CacheMark + QByteArray::number(CacheVersion) + '\n' +
-                            hashOf(folderMark(index.folders()) + texts + files).toHex() + '\n';
+                            hashOf({folderMark(index.folders()), texts, files}).toHex() + '\n';
     return head + texts + files;
 }
 
@@ -246,9 +273,10 @@ ReferenceIndexPtr IndexCache::read(const QByteArray &bytes, const MaterialFolder
     const int bodyStart = start.size() + 41; // of the hash, and the end of its line
     if (!bytes.startsWith(start) || bytes.size() < bodyStart)
         return nullptr;
-    const QByteArray body = bytes.mid(bodyStart);
-    return bytes.mid(start.size(), 40) == hashOf(folderMark(folders) + body).toHex() ? readBody(body, folders)
-                                                                                     : nullptr;
+    const QByteArray body = QByteArray::fromRawData(bytes.constData() + bodyStart, bytes.size() - bodyStart);
+    return bytes.mid(start.size(), 40) == hashOf({folderMark(folders), body}).toHex()
+               ? readBody(body, folders)
+               : nullptr;
 }
 
 ReferenceIndexPtr IndexCache::readBody(const QByteArray &body, const MaterialFolders &folders)
@@ -288,9 +316,16 @@ ReferenceIndexPtr IndexCache::bringUpToDate(const MaterialFolders &folders, Refe
                                             const std::atomic_bool &isCancelled, IndexProgress &progress,
                                             int threads)
 {
+    // The cache is read while the folders are.
+    std::future<ReferenceIndexPtr> loading;
     if (!known)
-        known = load(folders);
-    ReferenceIndexPtr made = makeReferenceIndex(folders, known, isCancelled, progress, threads);
+        loading = std::async(std::launch::async, load, folders);
+    const auto before = [&known, &loading] {
+        if (loading.valid())
+            known = loading.get();
+        return known;
+    };
+    ReferenceIndexPtr made = makeReferenceIndex(folders, before, isCancelled, progress, threads);
     if (made && !isSameIndex(known, made)) {
         const QString reason = store(*made);
         if (!reason.isEmpty())

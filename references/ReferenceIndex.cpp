@@ -50,6 +50,7 @@ struct ListedFile
     QString path, relative;
     bool isMod;
     IndexedType type;
+    FileStamp stamp{};
 };
 
 void listFiles(const IndexedRoot &root, const QString &without, bool isMod,
@@ -62,7 +63,7 @@ void listFiles(const IndexedRoot &root, const QString &without, bool isMod,
         const auto type = entry.isFolder ? std::nullopt : indexedTypeOf(entry.path);
         const QString relative = type ? entry.path.mid(start) : QString();
         if (type && (without.isEmpty() || !FileSystem::comparable(relative).startsWith(without)))
-            files.push_back({entry.path, relative, isMod, *type});
+            files.push_back({entry.path, relative, isMod, *type, {}});
         return !isCancelled && files.size() < MostIndexedFiles;
     });
 }
@@ -87,9 +88,9 @@ std::vector<ListedFile> listFiles(const MaterialFolders &folders, const std::ato
 
 FileNamingPtr namingAsItIs(const ListedFile &listed, const ReferenceIndexPtr &known, IndexProgress &progress)
 {
-    const FileStamp stamp = FileStamp::of(listed.path);
     const FileNamingPtr kept = known ? known->fileAt(listed.path) : nullptr;
-    if (kept && kept->stamp == stamp && kept->relative == listed.relative && kept->isMod == listed.isMod)
+    if (kept && kept->stamp == listed.stamp && kept->relative == listed.relative &&
+        kept->isMod == listed.isMod)
         return kept;
     ++progress.read;
     FileNaming file;
@@ -97,9 +98,25 @@ FileNamingPtr namingAsItIs(const ListedFile &listed, const ReferenceIndexPtr &kn
     file.relative = listed.relative;
     file.isMod = listed.isMod;
     file.type = listed.type;
-    file.stamp = stamp;
+    file.stamp = listed.stamp;
     readNaming(file);
     return std::make_shared<const FileNaming>(std::move(file));
+}
+
+/// Does `work` for each number below `count`, in so many threads.
+template <typename Work>
+void forEach(size_t count, int threads, const std::atomic_bool &isCancelled, const Work &work)
+{
+    std::atomic_size_t next{0};
+    QThreadPool pool;
+    pool.setMaxThreadCount(std::max(threads, 1));
+    for (int i = 0; i < pool.maxThreadCount(); ++i) {
+        pool.start([&] {
+            for (size_t at = next++; at < count && !isCancelled; at = next++)
+                work(at);
+        });
+    }
+    pool.waitForDone();
 }
 } // namespace
 
@@ -227,24 +244,20 @@ QSet<int> ReferenceIndex::numbersNamed(NamedKind kind) const
     return numbers;
 }
 
-ReferenceIndexPtr makeReferenceIndex(const MaterialFolders &folders, const ReferenceIndexPtr &known,
+ReferenceIndexPtr makeReferenceIndex(const MaterialFolders &folders,
+                                     const std::function<ReferenceIndexPtr()> &known,
                                      const std::atomic_bool &isCancelled, IndexProgress &progress,
                                      int threads)
 {
-    const std::vector<ListedFile> files = listFiles(folders, isCancelled);
-    std::vector<FileNamingPtr> namings(files.size());
+    std::vector<ListedFile> files = listFiles(folders, isCancelled);
     progress.files = int(files.size());
-    std::atomic_size_t next{0};
-    QThreadPool pool;
-    pool.setMaxThreadCount(std::max(threads, 1));
-    for (int i = 0; i < pool.maxThreadCount(); ++i) {
-        pool.start([&] {
-            for (size_t at = next++; at < files.size() && !isCancelled; at = next++) {
-                namings[at] = namingAsItIs(files[at], known, progress);
-                ++progress.done;
-            }
-        });
-    }
-    pool.waitForDone();
+    forEach(files.size(), threads, isCancelled,
+            [&](size_t at) { files[at].stamp = FileStamp::of(files[at].path); });
+    std::vector<FileNamingPtr> namings(files.size());
+    const ReferenceIndexPtr before = known();
+    forEach(files.size(), threads, isCancelled, [&](size_t at) {
+        namings[at] = namingAsItIs(files[at], before, progress);
+        ++progress.done;
+    });
     return isCancelled ? nullptr : std::make_shared<const ReferenceIndex>(folders, std::move(namings));
 }

@@ -9,6 +9,7 @@
 #include <QSet>
 
 #include <atomic>
+#include <functional>
 
 /// A file that names a thing, or that has a material by which it comes to it.
 struct NamedUse
@@ -72,9 +73,10 @@ private:
 
 using ReferenceIndexPtr = std::shared_ptr<const ReferenceIndex>;
 
-/// Makes the index of the folders, in so many threads. Files that `known`, which may be null, has with the
-/// same stamp are taken over and not read. Null when `isCancelled` became true. Any thread may call it; it
-/// returns when it is done.
-ReferenceIndexPtr makeReferenceIndex(const MaterialFolders &folders, const ReferenceIndexPtr &known,
+/// Makes the index of the folders, in so many threads. Files that `known`, which may give null, has with the
+/// same stamp are taken over and not read; it is asked once, when all files are listed. Null when
+/// `isCancelled` became true. Any thread may call it; it returns when it is done.
+ReferenceIndexPtr makeReferenceIndex(const MaterialFolders &folders,
+                                     const std::function<ReferenceIndexPtr()> &known,
                                      const std::atomic_bool &isCancelled, IndexProgress &progress,
                                      int threads);

@@ -260,7 +260,8 @@ private:
     static ReferenceIndexPtr make(const MaterialFolders &folders)
     {
         IndexProgress progress;
-        return makeReferenceIndex(folders, nullptr, false, progress, 3);
+        return makeReferenceIndex(
+            folders, [] { return nullptr; }, false, progress, 3);
     }
 
     static int filesRead(const MaterialFolders &folders)

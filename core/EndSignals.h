@@ -19,6 +19,8 @@ public:
     ~EndSignals();
     EndSignals(const EndSignals &) = delete;
     EndSignals &operator=(const EndSignals &) = delete;
+    /// Whether the program was asked to end: there is no time for questions.
+    static bool areAsking();
 
 private:
     std::function<void(int)> m_asked;

@@ -80,9 +80,15 @@ EndSignals::~EndSignals()
     for (size_t i = 0; i < EndCount; ++i)
         sigaction(Signals[i], &previous[i], nullptr);
     stopAlarm();
+    isAsked = 0;
     m_notifier.reset();
     for (int &end : channel) {
         ::close(end);
         end = -1;
     }
+}
+
+bool EndSignals::areAsking()
+{
+    return isAsked != 0;
 }

@@ -10,3 +10,8 @@ EndSignals::EndSignals(std::function<void(int)> asked)
 {}
 
 EndSignals::~EndSignals() = default;
+
+bool EndSignals::areAsking()
+{
+    return false;
+}

@@ -118,6 +118,7 @@ inline const SettingKey<bool> ExplorerEmptyFolders{"ExplorerEmptyFolders", false
 inline const SettingKey<QStringList> SkinnedMeshRecentFiles{"SkinnedMeshRecentFiles", {}};
 inline const SettingKey<QStringList> AnimationRecentFiles{"AnimationRecentFiles", {}};
 inline const SettingKey<QStringList> StaticMeshRecentFiles{"StaticMeshRecentFiles", {}};
+inline const SettingKey<QStringList> MaterialRecentFiles{"MaterialRecentFiles", {}};
 
 // Last folders of the file dialogs.
 inline const SettingKey<QString> SkinnedMeshLoadPath{"SkinnedMeshLoadPath", {}};

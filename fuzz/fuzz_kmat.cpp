@@ -40,19 +40,28 @@ void checkText(const QByteArray &bytes, const QString &path, const MaterialTable
     Fuzz::require(told == table, "a text says what is read of it");
     const int material = int(bytes.size()) % count;
     const KMatMaterial was = text.materials()[size_t(material)];
-    if (was.samplers.empty())
-        return;
-    const QString texture = QStringLiteral("t/new.png");
+    const auto check = [&](const TextEdit &edit) {
+        const TextEdit back = text.apply(edit);
+        MaterialTable edited;
+        Fuzz::require(read(text.bytes(), path, edited).isEmpty() && edited == told,
+                      "an edit gives the value and changes no other");
+        text.apply(back);
+        Fuzz::require(text.bytes() == bytes, "an edit can be taken back");
+    };
     TextEdit edit;
-    if (!text.findTextureEdit(material, int(was.samplers.size()) - 1, texture, edit).isEmpty())
-        return;
-    const TextEdit back = text.apply(edit);
-    told[was.name] = texture;
-    MaterialTable edited;
-    Fuzz::require(read(text.bytes(), path, edited).isEmpty() && edited == told,
-                  "an edit gives the value and changes no other");
-    text.apply(back);
-    Fuzz::require(text.bytes() == bytes, "an edit can be taken back");
+    const QString texture = QStringLiteral("t/new.png");
+    if (!was.samplers.empty() &&
+        text.findTextureEdit(material, int(was.samplers.size()) - 1, texture, edit).isEmpty()) {
+        told[was.name] = texture;
+        check(edit);
+        told[was.name] = was.texture();
+    }
+    const QString name = QStringLiteral("renamed");
+    if (text.findRenaming(material, name, edit).isEmpty()) {
+        told.erase(was.name);
+        told[name] = was.texture();
+        check(edit);
+    }
 }
 } // namespace
 

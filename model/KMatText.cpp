@@ -80,22 +80,22 @@ bool isWord(const QString &text)
                         [](QChar c) { return c.isSpace() || c == QLatin1Char('"') || c.isNull(); });
 }
 
-/// Whether `is` has what `was` had, but for the texture of one sampler.
-bool differInTexture(const KMatText &was, const KMatText &is, int material, int sampler,
-                     const QString &texture)
+bool isSame(const KMatMaterial &a, const KMatMaterial &b)
 {
-    if (was.materials().size() != is.materials().size() || was.problem() != is.problem())
+    return a.name == b.name &&
+           std::equal(
+               a.samplers.begin(), a.samplers.end(), b.samplers.begin(), b.samplers.end(),
+               [](const KMatSampler &was, const KMatSampler &is) { return was.texture == is.texture; });
+}
+
+/// Whether `is` has what `was` had, but for one material.
+bool differIn(const KMatText &was, const KMatText &is, int material, const KMatMaterial &wanted)
+{
+    if (was.materials().size() != is.materials().size())
         return false;
     for (size_t i = 0; i < was.materials().size(); ++i) {
-        const KMatMaterial &before = was.materials()[i];
-        const KMatMaterial &now = is.materials()[i];
-        if (before.name != now.name || before.samplers.size() != now.samplers.size())
+        if (!isSame(is.materials()[i], int(i) == material ? wanted : was.materials()[i]))
             return false;
-        for (size_t k = 0; k < now.samplers.size(); ++k) {
-            const bool isEdited = int(i) == material && int(k) == sampler;
-            if (now.samplers[k].texture != (isEdited ? texture : before.samplers[k].texture))
-                return false;
-        }
     }
     return true;
 }
@@ -168,11 +168,13 @@ QString KMatText::findTextureEdit(int material, int sampler, const QString &text
 {
     if (!isWord(texture))
         return KMatTexts::tr("The path of a texture has no blanks and no quotes: '%1'.").arg(texture);
-    const KMatSampler &old = m_materials[size_t(material)].samplers[size_t(sampler)];
+    KMatMaterial wanted = m_materials[size_t(material)];
+    const KMatSampler old = wanted.samplers[size_t(sampler)];
+    wanted.samplers[size_t(sampler)].texture = texture;
     bool isReadable = false;
     for (const TextEdit &way : waysOfWriting(m_text, old, texture)) {
         const KMatText edited = after(way);
-        if (!differInTexture(*this, edited, material, sampler, texture))
+        if (!differIn(*this, edited, material, wanted) || edited.problem() != m_problem)
             continue;
         isReadable = true;
         if (!edited.isWritable())
@@ -185,16 +187,41 @@ QString KMatText::findTextureEdit(int material, int sampler, const QString &text
                : KMatTexts::tr("'%1' cannot be written there without changing other things.").arg(texture);
 }
 
-QString KMatText::findAddition(const QString &name, const QString &texture, TextEdit &edit) const
+QString KMatText::refusalOf(const QString &name) const
 {
     if (name.isEmpty() || !isWord(name))
         return KMatTexts::tr("The name of a material has no blanks and no quotes: '%1'.").arg(name);
-    if (!isWord(texture))
-        return KMatTexts::tr("The path of a texture has no blanks and no quotes: '%1'.").arg(texture);
     const bool isTaken = std::any_of(m_materials.begin(), m_materials.end(),
                                      [&name](const KMatMaterial &each) { return each.name == name; });
-    if (isTaken)
-        return KMatTexts::tr("The file has a material '%1' already.").arg(name);
+    return isTaken ? KMatTexts::tr("The file has a material '%1' already.").arg(name) : QString();
+}
+
+QString KMatText::findRenaming(int material, const QString &name, TextEdit &edit) const
+{
+    const QString refusal = refusalOf(name);
+    if (!refusal.isEmpty())
+        return refusal;
+    KMatMaterial wanted = m_materials[size_t(material)];
+    const TextSpan word = wanted.word;
+    wanted.name = name;
+    const TextEdit way{word, word.begin == word.end ? QLatin1Char(' ') + name : name};
+    // Two materials of one name may be told apart by that, so what a reader refuses may be another thing.
+    const KMatText edited = after(way);
+    if (!differIn(*this, edited, material, wanted) || (m_problem.isEmpty() && !edited.problem().isEmpty()))
+        return KMatTexts::tr("'%1' cannot be written there without changing other things.").arg(name);
+    if (!edited.isWritable())
+        return KMatTexts::tr("The encoding of the file does not have all letters of '%1'.").arg(name);
+    edit = way;
+    return {};
+}
+
+QString KMatText::findAddition(const QString &name, const QString &texture, TextEdit &edit) const
+{
+    const QString refusal = refusalOf(name);
+    if (!refusal.isEmpty())
+        return refusal;
+    if (!isWord(texture))
+        return KMatTexts::tr("The path of a texture has no blanks and no quotes: '%1'.").arg(texture);
     QString added = QString::fromUtf8(kmatBytes({{name, texture}}));
     // A text without a line gets the system's line ends.
     const QString &lines = m_text.contains(QLatin1Char('\n')) ? m_text : added;

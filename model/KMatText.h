@@ -45,6 +45,7 @@ public:
     explicit KMatText(const QByteArray &bytes);
 
     const QString &text() const { return m_text; }
+    const TextEncoding &encoding() const { return m_encoding; }
     QByteArray bytes() const { return m_encoding.encode(m_text); }
     /// In the order of the text, those too that a reader refuses the file for.
     const std::vector<KMatMaterial> &materials() const { return m_materials; }
@@ -54,6 +55,8 @@ public:
     /// What gives a sampler another texture. Returns why that cannot be; an empty text means that it can.
     [[nodiscard]] QString findTextureEdit(int material, int sampler, const QString &texture,
                                           TextEdit &edit) const;
+    /// What gives a material another name, which no other one may have. Returns the same.
+    [[nodiscard]] QString findRenaming(int material, const QString &name, TextEdit &edit) const;
     /// What adds a material with this texture at the end, as imports write it. Returns the same.
     [[nodiscard]] QString findAddition(const QString &name, const QString &texture, TextEdit &edit) const;
     /// Edits the text. Returns what takes that back.
@@ -62,6 +65,8 @@ public:
 private:
     void read();
     KMatText after(const TextEdit &edit) const;
+    /// Why no material can get this name; empty when one can.
+    QString refusalOf(const QString &name) const;
     /// Whether bytes that are written of this are read as this text again.
     bool isWritable() const;
 

@@ -1576,6 +1576,14 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>No record differs.</source>
         <translation>Kein Datensatz unterscheidet sich.</translation>
     </message>
+    <message>
+        <source>Compare Game and Mod</source>
+        <translation>Spiel und Mod vergleichen</translation>
+    </message>
+    <message>
+        <source>Game and mod have no other file in the place of &apos;%1&apos;.</source>
+        <translation>Spiel und Mod haben an der Stelle von „%1“ keine andere Datei.</translation>
+    </message>
 </context>
 <context>
     <name>CompareTree</name>
@@ -2513,6 +2521,10 @@ Ohne diese Eingabe fortfahren?</translation>
     <message>
         <source>[Close] &apos;%1&apos;: Not stored. %2</source>
         <translation>[Schließen] „%1“: Nicht gespeichert. %2</translation>
+    </message>
+    <message>
+        <source>Material files (*.kmat)</source>
+        <translation>Materialdateien (*.kmat)</translation>
     </message>
 </context>
 <context>
@@ -4921,6 +4933,14 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <source>Materials</source>
         <translation>Materialien</translation>
     </message>
+    <message>
+        <source>List in what the current document differs from the game&apos;s file in its place, or from the mod&apos;s where it is the game&apos;s</source>
+        <translation>Auflisten, worin sich das aktuelle Dokument von der Datei des Spiels an seiner Stelle unterscheidet, oder von der des Mods, wenn es die des Spiels ist</translation>
+    </message>
+    <message>
+        <source>Compare Game and Mod</source>
+        <translation>Spiel und Mod vergleichen</translation>
+    </message>
 </context>
 <context>
     <name>MaterialDocument</name>
@@ -4943,6 +4963,10 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>New Material %1</source>
         <translation>Neues Material %1</translation>
+    </message>
+    <message>
+        <source>Rename %1 to %2</source>
+        <translation>%1 in %2 umbenennen</translation>
     </message>
 </context>
 <context>
@@ -5041,6 +5065,13 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
 </context>
 <context>
+    <name>MaterialWork</name>
+    <message>
+        <source>Materials</source>
+        <translation>Materialien</translation>
+    </message>
+</context>
+<context>
     <name>MaterialsDock</name>
     <message>
         <source>The materials of a file, their textures, and its text</source>
@@ -5134,6 +5165,22 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <source>the view takes the game&apos;s file of this name, not %1</source>
         <translation>die Ansicht nimmt die Datei des Spiels mit diesem Namen, nicht %1</translation>
     </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <translation>&amp;Umbenennen…</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>Materialien</translation>
+    </message>
+    <message>
+        <source>Rename Material</source>
+        <translation>Material umbenennen</translation>
+    </message>
+    <message>
+        <source>Give this material another name; all else of the file stays</source>
+        <translation>Diesem Material einen anderen Namen geben; alles andere in der Datei bleibt</translation>
+    </message>
 </context>
 <context>
     <name>MaterialsPane</name>
@@ -5198,6 +5245,14 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>[Save] &apos;%1&apos;: %2</source>
         <translation>[Speichern] „%1“: %2</translation>
+    </message>
+    <message>
+        <source>Rename Material</source>
+        <translation>Material umbenennen</translation>
+    </message>
+    <message>
+        <source>New name of %1. Surfaces that use the old one have to be changed, too.</source>
+        <translation>Neuer Name von %1. Flächen, die den alten verwenden, müssen auch geändert werden.</translation>
     </message>
 </context>
 <context>
@@ -7394,6 +7449,40 @@ Wo keine Datei ist, bleibt es still.</translation>
         <source>Please setup your folder paths before using Korvane. Thank you!</source>
         <translation>Bitte richten Sie Ihre Ordnerpfade ein, bevor Sie Korvane verwenden. Vielen Dank!</translation>
     </message>
+    <message>
+        <source>File error</source>
+        <translation>Dateifehler</translation>
+    </message>
+    <message>
+        <source>Failed to open
+%1</source>
+        <translation>Öffnen fehlgeschlagen
+%1</translation>
+    </message>
+    <message>
+        <source>Game Folder</source>
+        <translation>Spielordner</translation>
+    </message>
+    <message>
+        <source>The options have this archive as the game folder already.
+
+%1</source>
+        <translation>Dieses Archiv ist in den Optionen schon als Spielordner eingestellt.
+
+%1</translation>
+    </message>
+    <message>
+        <source>Use this archive as the game folder?
+
+%1</source>
+        <translation>Dieses Archiv als Spielordner verwenden?
+
+%1</translation>
+    </message>
+    <message>
+        <source>Models, materials and textures of the game are read from it then. Nothing is written into it.</source>
+        <translation>Modelle, Materialien und Texturen des Spiels werden dann daraus gelesen. Hineingeschrieben wird nichts.</translation>
+    </message>
 </context>
 <context>
     <name>Problems</name>
@@ -7883,6 +7972,10 @@ Hände und Füße (x0.25): %6</translation>
     <message>
         <source>&amp;Clear This List</source>
         <translation>Diese Liste &amp;leeren</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>Materialien</translation>
     </message>
 </context>
 <context>
@@ -12053,6 +12146,10 @@ Nichts wurde geändert. %2</translation>
     <message>
         <source>It is held open by %1 and cannot be replaced. What was to be saved stands in &apos;%2&apos;.</source>
         <translation>Offen gehalten von %1, deshalb kann sie nicht ersetzt werden. Was gespeichert werden sollte, steht in „%2“.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is a file and no folder. Nothing is written into archives.</source>
+        <translation>„%1“ ist eine Datei und kein Ordner. In Archive wird nichts geschrieben.</translation>
     </message>
 </context>
 </TS>

@@ -127,9 +127,12 @@ void DocumentFiles::openChosen(DocumentType type)
         return;
     const DocumentKind &kind = documentKind(type);
     const QString path =
-        QFileDialog::getOpenFileName(m_window, kind.openTitle, startFolder(kind, kind.loadPath), kind.filter);
+        QFileDialog::getOpenFileName(m_window, kind.openTitle, startFolder(kind, kind.loadPath),
+                                     kind.filter + QStringLiteral(";;") + tr("Material files (*.kmat)"));
     if (path.isEmpty())
         return;
+    if (isMaterialFile(path))
+        return emit materialsWanted(path);
     kind.loadPath.setValue(QFileInfo(path).absolutePath());
     open(type, path);
 }

@@ -41,6 +41,7 @@ public:
     /// See DocumentLoader.
     void setPatience(int milliseconds);
     /// Lets the user choose a file and loads it. Asks about typing that cannot be stored, and nothing else.
+    /// A material file is left to others.
     void openChosen(DocumentType type);
 
     /// Saves to the document's file, or to a chosen one when it has none yet. Returns true when the document
@@ -82,6 +83,8 @@ signals:
     void opened(DocumentType type);
     /// The document was written: its path or its modified mark may be new.
     void saved(DocumentType type);
+    /// The user has chosen a material file, which is no document of this.
+    void materialsWanted(const QString &path);
 
 private:
     void load(DocumentType type, const QString &path, const Then &then);

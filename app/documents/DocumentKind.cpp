@@ -49,3 +49,8 @@ const DocumentKind *documentKindOfFile(const QString &path)
     }
     return nullptr;
 }
+
+bool isMaterialFile(const QString &path)
+{
+    return path.endsWith(QLatin1String(".kmat"), Qt::CaseInsensitive);
+}

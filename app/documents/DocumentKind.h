@@ -34,3 +34,5 @@ const std::array<DocumentKind, 3> &documentKinds();
 const DocumentKind &documentKind(DocumentType type);
 /// The kind that a file belongs to by its extension; none when it is not one of ours.
 const DocumentKind *documentKindOfFile(const QString &path);
+/// By its extension: such a file is edited beside the documents.
+bool isMaterialFile(const QString &path);

@@ -36,7 +36,7 @@ FileOpener::FileOpener(DocumentFiles &files, QObject *parent)
 void FileOpener::open(const QString &path, const RecordRef &record)
 {
     const DocumentKind *kind = documentKindOfFile(path);
-    if (!kind && path.endsWith(QLatin1String(".kmat"), Qt::CaseInsensitive)) {
+    if (!kind && isMaterialFile(path)) {
         emit materialsWanted(path);
         return;
     }

@@ -20,19 +20,22 @@ RecentFiles::RecentFiles(DocumentFiles &files, QMenu &menu, QObject *parent)
 {
     m_menu.setToolTipsVisible(true);
     connect(&m_menu, &QMenu::aboutToShow, this, &RecentFiles::fillMenu);
-    connect(&m_files, &DocumentFiles::saved, this, &RecentFiles::remember);
+    connect(&m_files, &DocumentFiles::saved, this, &RecentFiles::rememberDocument);
     for (const DocumentKind &kind : documentKinds()) {
         const DocumentType type = kind.type;
-        connect(m_files.document(type), &Document::replaced, this, [this, type] { remember(type); });
+        connect(m_files.document(type), &Document::replaced, this, [this, type] { rememberDocument(type); });
     }
 }
 
-void RecentFiles::remember(DocumentType type)
+void RecentFiles::rememberDocument(DocumentType type)
 {
-    const QString path = m_files.document(type)->path();
+    remember(documentKind(type).recentFiles, m_files.document(type)->path());
+}
+
+void RecentFiles::remember(const SettingKey<QStringList> &key, const QString &path)
+{
     if (path.isEmpty())
         return;
-    const SettingKey<QStringList> &key = documentKind(type).recentFiles;
     QStringList paths = key.value();
     if (!paths.isEmpty() && paths.first() == path)
         return;
@@ -47,13 +50,11 @@ void RecentFiles::fillMenu()
 {
     m_menu.clear();
     for (const DocumentKind &kind : documentKinds()) {
-        const QStringList paths = kind.recentFiles.value();
-        if (paths.isEmpty())
-            continue;
-        m_menu.addSection(kind.label);
-        for (const QString &path : paths.mid(0, Limit))
-            addFile(kind, path);
+        addFiles(kind.label, kind.recentFiles,
+                 [this, type = kind.type](const QString &path) { open(type, path); });
     }
+    addFiles(tr("Materials"), Settings::MaterialRecentFiles,
+             [this](const QString &path) { emit m_files.materialsWanted(path); });
     if (m_menu.isEmpty()) {
         m_menu.addAction(tr("No file was opened yet"))->setEnabled(false);
         return;
@@ -62,22 +63,28 @@ void RecentFiles::fillMenu()
     connect(m_menu.addAction(tr("&Clear This List")), &QAction::triggered, this, [] {
         for (const DocumentKind &kind : documentKinds())
             kind.recentFiles.setValue({});
+        Settings::MaterialRecentFiles.setValue({});
     });
 }
 
-void RecentFiles::addFile(const DocumentKind &kind, const QString &path)
+void RecentFiles::addFiles(const QString &label, const SettingKey<QStringList> &key,
+                           const std::function<void(const QString &path)> &choose)
 {
-    const QFileInfo info(path);
-    // Files of one name are told apart by their folder.
-    QString text = info.dir().dirName() + QLatin1Char('/') + info.fileName();
-    text.replace(QLatin1Char('&'), QLatin1String("&&"));
-    QAction *action = m_menu.addAction(QDir::toNativeSeparators(text));
-    action->setToolTip(QDir::toNativeSeparators(path));
-    action->setStatusTip(action->toolTip());
-    // A file on a share that is away is not forgotten. Archives are not read for that.
-    action->setEnabled(QFileInfo(Files::heldBy(path)).isFile());
-    const DocumentType type = kind.type;
-    connect(action, &QAction::triggered, this, [this, type, path] { open(type, path); });
+    const QStringList paths = key.value().mid(0, Limit);
+    if (!paths.isEmpty())
+        m_menu.addSection(label);
+    for (const QString &path : paths) {
+        const QFileInfo info(path);
+        // Files of one name are told apart by their folder.
+        QString text = info.dir().dirName() + QLatin1Char('/') + info.fileName();
+        text.replace(QLatin1Char('&'), QLatin1String("&&"));
+        QAction *action = m_menu.addAction(QDir::toNativeSeparators(text));
+        action->setToolTip(QDir::toNativeSeparators(path));
+        action->setStatusTip(action->toolTip());
+        // A file on a share that is away is not forgotten. Archives are not read for that.
+        action->setEnabled(QFileInfo(Files::heldBy(path)).isFile());
+        connect(action, &QAction::triggered, this, [choose, path] { choose(path); });
+    }
 }
 
 void RecentFiles::open(DocumentType type, const QString &path)

@@ -6,10 +6,13 @@
 
 #include <QObject>
 
+#include <functional>
+
 class DocumentFiles;
 class QMenu;
 
-/// Remembers the files of each kind that were opened or saved, and fills a menu with them.
+/// Remembers the files of each kind that were opened or saved, and fills a menu with them. Material files are
+/// among them, which others open and tell of.
 class RecentFiles : public QObject
 {
     Q_OBJECT
@@ -20,14 +23,18 @@ public:
 
     RecentFiles(DocumentFiles &files, QMenu &menu, QObject *parent);
 
+    /// Puts a file first in the list of its kind.
+    static void remember(const SettingKey<QStringList> &key, const QString &path);
+
 signals:
     /// One was chosen and opened.
     void opened(DocumentType type);
 
 private:
-    void remember(DocumentType type);
+    void rememberDocument(DocumentType type);
     void fillMenu();
-    void addFile(const DocumentKind &kind, const QString &path);
+    void addFiles(const QString &label, const SettingKey<QStringList> &key,
+                  const std::function<void(const QString &path)> &choose);
     void open(DocumentType type, const QString &path);
 
     DocumentFiles &m_files;

@@ -32,36 +32,44 @@ MaterialDocument::MaterialDocument(QObject *parent)
     : QObject(parent)
 {}
 
-QString MaterialDocument::load(const QString &path)
+MaterialDocument::Read MaterialDocument::read(const QString &path)
 {
     const FileStamp stamp = FileStamp::of(path);
     QString reason;
     const std::unique_ptr<QIODevice> file = Files::open(path, &reason);
     if (!file)
-        return reason.isEmpty() ? tr("There is no such file.") : reason;
+        return {reason.isEmpty() ? tr("There is no such file.") : reason, {}, {}};
     if (file->size() > MostMaterialBytes)
-        return tr("The file has more than %1 MiB: it is no material file.")
-            .arg(MostMaterialBytes / 1024 / 1024);
+        return {
+            tr("The file has more than %1 MiB: it is no material file.").arg(MostMaterialBytes / 1024 / 1024),
+            {},
+            {}};
     const qint64 size = file->size();
     const QByteArray bytes = file->readAll();
     if (bytes.size() != size)
-        return tr("The file could not be read whole.");
-    take(path, bytes, stamp);
-    return {};
+        return {tr("The file could not be read whole."), {}, {}};
+    return {{}, KMatText(bytes), stamp};
 }
 
 void MaterialDocument::start(const QString &path)
 {
-    take(path, {}, {});
+    take(path, {});
 }
 
-void MaterialDocument::take(const QString &path, const QByteArray &bytes, const FileStamp &stamp)
+void MaterialDocument::restore(const QString &path, const QByteArray &bytes, const FileStamp &stamp)
 {
+    take(path, {{}, KMatText(bytes), stamp});
+    m_stack.resetClean();
+}
+
+void MaterialDocument::take(const QString &path, Read read)
+{
+    emit aboutToBeReplaced();
     m_stack.clear();
     m_isOpen = true;
     m_path = path;
-    m_stamp = stamp;
-    m_text = KMatText(bytes);
+    m_stamp = read.stamp;
+    m_text = std::move(read.text);
     emit replaced();
     emit changed();
 }
@@ -90,6 +98,15 @@ QString MaterialDocument::setTexture(int material, int sampler, const QString &t
     const QString problem = m_text.findTextureEdit(material, sampler, texture, edit);
     if (problem.isEmpty())
         push(edit, tr("Texture of %1").arg(m_text.materials()[size_t(material)].name));
+    return problem;
+}
+
+QString MaterialDocument::rename(int material, const QString &name)
+{
+    TextEdit edit;
+    const QString problem = m_text.findRenaming(material, name, edit);
+    if (problem.isEmpty())
+        push(edit, tr("Rename %1 to %2").arg(m_text.materials()[size_t(material)].name, name));
     return problem;
 }
 

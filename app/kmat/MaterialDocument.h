@@ -25,10 +25,21 @@ public:
     QUndoStack *undoStack() { return &m_stack; }
     bool isModified() const { return m_isOpen && !m_stack.isClean(); }
 
-    /// Reads a file in a folder or in an archive. Returns why that failed, and then leaves what is open.
-    [[nodiscard]] QString load(const QString &path);
+    /// What comes of reading a file.
+    struct Read
+    {
+        QString reason; ///< why that failed; empty when it did not
+        KMatText text;
+        FileStamp stamp;
+    };
+    /// Reads a file in a folder or in an archive, in any thread.
+    static Read read(const QString &path);
+    /// Goes on with what was read of a file.
+    void take(const QString &path, Read read);
     /// Begins a file at this path, which is written when it is saved.
     void start(const QString &path);
+    /// Goes on with what was kept of a file, which was as `stamp` says then: all of it is unsaved.
+    void restore(const QString &path, const QByteArray &bytes, const FileStamp &stamp);
     /// Writes the file whole. Returns why that failed.
     [[nodiscard]] QString save(const QString &path);
     /// The file has gone or was changed, and what is open stays: all of it is unsaved.
@@ -36,9 +47,11 @@ public:
 
     /// As one undo step. Each returns why it cannot be; an empty text means success.
     [[nodiscard]] QString setTexture(int material, int sampler, const QString &texture);
+    [[nodiscard]] QString rename(int material, const QString &name);
     [[nodiscard]] QString addMaterial(const QString &name, const QString &texture);
 
 signals:
+    void aboutToBeReplaced();
     /// Another file, or none of this path yet.
     void replaced();
     /// The text is another.
@@ -49,7 +62,6 @@ private:
     friend class MaterialTextCommand;
     void push(const TextEdit &edit, const QString &words);
     TextEdit apply(const TextEdit &edit);
-    void take(const QString &path, const QByteArray &bytes, const FileStamp &stamp);
 
     bool m_isOpen = false;
     QString m_path;

@@ -23,9 +23,10 @@ QString shownText(const QString &text)
     return shown;
 }
 
-int shownPlace(const QString &text, int place)
+/// Places in a text that starts at `begin`.
+int shownPlace(const QString &text, int begin, int place)
 {
-    return place - int(std::count(text.begin(), text.begin() + place, QLatin1Char('\r')));
+    return place - begin - int(std::count(text.begin() + begin, text.begin() + place, QLatin1Char('\r')));
 }
 } // namespace
 
@@ -44,14 +45,34 @@ void MaterialFileText::showText(const QString &text)
     if (text == m_source)
         return;
     m_source = text;
-    setPlainText(shownText(text));
+    showAround(std::min((m_shown.begin + m_shown.end) / 2, text.size()));
+}
+
+void MaterialFileText::showAround(int place)
+{
+    const bool isWhole = m_source.size() <= 2 * MostAround;
+    m_shown = isWhole
+                  ? TextSpan{0, m_source.size()}
+                  : TextSpan{std::max(place - MostAround, 0), std::min(place + MostAround, m_source.size())};
+    // Whole lines, unless one is as long as all that is shown.
+    if (m_shown.begin > 0) {
+        const int line = m_source.indexOf(QLatin1Char('\n'), m_shown.begin) + 1;
+        m_shown.begin = line > 0 && line <= place ? line : m_shown.begin;
+    }
+    setPlainText(shownText(m_source.mid(m_shown.begin, m_shown.end - m_shown.begin)));
 }
 
 void MaterialFileText::mark(TextSpan word)
 {
+    // Near its edges the lines around the word would be missing.
+    const bool isNear = (m_shown.begin == 0 || word.begin >= m_shown.begin + MostAround / 4) &&
+                        (m_shown.end == m_source.size() || word.begin <= m_shown.end - MostAround / 4);
+    if (!isNear)
+        showAround(word.begin);
     QTextEdit::ExtraSelection mark;
     mark.cursor = textCursor();
-    mark.cursor.setPosition(std::min(shownPlace(m_source, word.begin), document()->characterCount() - 1));
+    mark.cursor.setPosition(
+        std::min(shownPlace(m_source, m_shown.begin, word.begin), document()->characterCount() - 1));
     mark.format.setBackground(palette().alternateBase());
     mark.format.setProperty(QTextFormat::FullWidthSelection, true);
     setTextCursor(mark.cursor);

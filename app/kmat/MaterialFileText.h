@@ -6,12 +6,16 @@
 
 #include <QPlainTextEdit>
 
-/// The text of a material file, to be read.
+/// The text of a material file, to be read. Of a long one it shows a part, that around the marked word: the
+/// toolkit takes seconds for one of some MiB.
 class MaterialFileText : public QPlainTextEdit
 {
     Q_OBJECT
 
 public:
+    /// Characters on each side of the word that are shown.
+    static constexpr int MostAround = 64 * 1024;
+
     explicit MaterialFileText(QWidget *parent = nullptr);
 
     void showText(const QString &text);
@@ -23,5 +27,8 @@ protected:
     bool event(QEvent *event) override;
 
 private:
+    void showAround(int place);
+
     QString m_source;
+    TextSpan m_shown; ///< the part of it
 };

@@ -11,6 +11,7 @@
 #include "MaterialFileText.h"
 #include "NoticeBar.h"
 #include "Settings.h"
+#include "Shortcuts.h"
 #include "TextField.h"
 #include "TextureField.h"
 #include "TexturePreview.h"
@@ -67,6 +68,7 @@ MaterialsDock::MaterialsDock(QWidget *parent)
         m_told = m_document.stamp();
         m_notice->hide();
         watch();
+        m_rest.start(); // what was kept of a file may be older than that
     });
     connect(&m_document, &MaterialDocument::saved, this, [this] {
         m_told = m_document.stamp();
@@ -155,6 +157,7 @@ void MaterialsDock::createContents()
     m_list->setIconSize({MaterialCatalog::IconSide / 2, MaterialCatalog::IconSide / 2});
     m_list->header()->resizeSection(MaterialColumn, 150);
     m_list->header()->resizeSection(SamplerColumn, 70);
+    createListActions();
     m_parts->setObjectName(QStringLiteral("splitterMaterials"));
     m_parts->setChildrenCollapsible(false);
     m_parts->addWidget(m_list);
@@ -169,6 +172,23 @@ void MaterialsDock::createContents()
         m_parts->setStretchFactor(part, part == 1 ? 2 : 3);
     layout->addWidget(m_parts, 1);
     setWidget(contents);
+}
+
+void MaterialsDock::createListActions()
+{
+    m_list->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_rename = new QAction(tr("&Rename…"), m_list);
+    m_rename->setObjectName(QStringLiteral("actionRenameMaterial"));
+    nameShortcut(m_rename, m_rename->objectName(), tr("Materials"), tr("Rename Material"));
+    m_rename->setToolTip(tr("Give this material another name; all else of the file stays"));
+    m_rename->setShortcut(Qt::Key_F2);
+    m_rename->setShortcutContext(Qt::WidgetShortcut);
+    connect(m_rename, &QAction::triggered, this, [this] { emit renameWanted(current().first); });
+    auto *added = new QAction(namedIcon(QStringLiteral("add")), tr("&New Material…"), m_list);
+    added->setObjectName(QStringLiteral("actionNewMaterial"));
+    nameShortcut(added, added->objectName(), tr("Materials"), tr("New Material"));
+    connect(added, &QAction::triggered, this, &MaterialsDock::newWanted);
+    m_list->addActions({m_rename, added});
 }
 
 void MaterialsDock::createField(QWidget *parent)
@@ -261,6 +281,7 @@ void MaterialsDock::showCurrent()
     const KMatMaterial *shown = material < 0 ? nullptr : &m_document.text().materials()[size_t(material)];
     const QString texture = isEditable ? shown->samplers[size_t(sampler)].texture : QString();
     m_texture->setEnabled(isEditable);
+    m_rename->setEnabled(shown);
     if (m_field->value() != texture)
         m_field->discardText();
     m_field->setValue(texture);

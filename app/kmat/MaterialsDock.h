@@ -12,6 +12,7 @@
 class MaterialCatalog;
 class MaterialFileText;
 class NoticeBar;
+class QAction;
 class QLabel;
 class QPushButton;
 class QSplitter;
@@ -44,6 +45,7 @@ signals:
     void openWanted();
     void newWanted();
     void newFileWanted();
+    void renameWanted(int material);
     void saveWanted();
     /// The file is to be read anew: another program has changed it.
     void reloadWanted();
@@ -56,6 +58,7 @@ private:
     void createContents();
     QToolButton *addButton(const char *name, const char *icon, const QString &text, const QString &tip,
                            void (MaterialsDock::*wanted)());
+    void createListActions();
     void createField(QWidget *parent);
     void fill();
     void showTitle();
@@ -74,6 +77,7 @@ private:
     NoticeBar *m_notice;
     QPushButton *m_reload = nullptr;
     QTreeWidget *m_list;
+    QAction *m_rename = nullptr;
     TextureField *m_texture;
     TextField *m_field;
     TexturePreview *m_preview;

@@ -3,12 +3,15 @@
 #include "MaterialsPane.h"
 
 #include "DocumentFiles.h"
+#include "EndSignals.h"
 #include "FileSystem.h"
 #include "Files.h"
 #include "Log.h"
 #include "MaterialCatalog.h"
 #include "MaterialFiles.h"
+#include "MaterialWork.h"
 #include "MaterialsDock.h"
+#include "RecentFiles.h"
 #include "SavePath.h"
 #include "Settings.h"
 
@@ -51,6 +54,8 @@ MaterialsPane::MaterialsPane(MaterialsDock &dock, QUndoGroup &group, DocumentFil
     , m_actions(actions)
     , m_window(window)
     , m_guard(window)
+    , m_work(new MaterialWork(
+          m_document, [this] { return mayLeave(); }, this))
 {
     m_dock.setCatalog(catalog);
     m_group.addStack(m_document.undoStack());
@@ -73,6 +78,7 @@ MaterialsPane::MaterialsPane(MaterialsDock &dock, QUndoGroup &group, DocumentFil
     });
     connect(&m_dock, &MaterialsDock::openWanted, this, &MaterialsPane::openChosen);
     connect(&m_dock, &MaterialsDock::newWanted, this, &MaterialsPane::addMaterial);
+    connect(&m_dock, &MaterialsDock::renameWanted, this, &MaterialsPane::renameMaterial);
     connect(&m_dock, &MaterialsDock::newFileWanted, this, &MaterialsPane::startFile);
     connect(&m_dock, &MaterialsDock::saveWanted, this, &MaterialsPane::save);
     connect(&m_dock, &MaterialsDock::reloadWanted, this, &MaterialsPane::reload);
@@ -80,7 +86,15 @@ MaterialsPane::MaterialsPane(MaterialsDock &dock, QUndoGroup &group, DocumentFil
     connect(&m_document, &MaterialDocument::replaced, this, &MaterialsPane::activeChanged);
     connect(&m_document, &MaterialDocument::saved, this, &MaterialsPane::activeChanged);
     connect(m_document.undoStack(), &QUndoStack::cleanChanged, this, &MaterialsPane::activeChanged);
+    const auto remember = [this] {
+        if (m_document.stamp().exists())
+            RecentFiles::remember(Settings::MaterialRecentFiles, m_document.path());
+    };
+    connect(&m_document, &MaterialDocument::replaced, this, remember);
+    connect(&m_document, &MaterialDocument::saved, this, remember);
+    connect(m_work, &MaterialWork::restored, this, &MaterialsPane::show);
     connect(&catalog, &MaterialCatalog::openWanted, this, &MaterialsPane::open);
+    connect(&files, &DocumentFiles::materialsWanted, this, [this](const QString &path) { open(path); });
     connect(qApp, &QApplication::focusChanged, this,
             [this](const QWidget *, const QWidget *now) { follow(now); });
     connect(m_dock.toggleViewAction(), &QAction::toggled, this, [this](bool shown) {
@@ -120,14 +134,18 @@ void MaterialsPane::update()
         action->setEnabled(true);
 }
 
+UnsavedWork &MaterialsPane::work()
+{
+    return *m_work;
+}
+
 bool MaterialsPane::mayLeave()
 {
     if (m_dock.returnToTyping())
         return false;
     if (!m_document.isModified())
         return true;
-    m_dock.show();
-    m_dock.raise();
+    show();
     const auto answer = QMessageBox::question(
         m_window, tr("Unsaved changes"),
         tr("Would you like to save the materials?\n\n%1").arg(QDir::toNativeSeparators(m_document.path())),
@@ -136,25 +154,49 @@ bool MaterialsPane::mayLeave()
     return answer == QMessageBox::No || (answer == QMessageBox::Yes && !save());
 }
 
-bool MaterialsPane::load(const QString &path)
+void MaterialsPane::show()
 {
-    const QString reason = m_document.load(path);
-    if (reason.isEmpty())
-        return true;
+    m_dock.show();
+    m_dock.raise();
+}
+
+/// In another thread, where large files take their time; nothing is edited in the dock meanwhile.
+void MaterialsPane::load(const QString &path, const std::function<void()> &then)
+{
+    const auto read = [path](const Background::Cancelled &) { return MaterialDocument::read(path); };
+    const auto take = [this, path, then,
+                       index = m_document.undoStack()->index()](MaterialDocument::Read result) {
+        m_dock.widget()->setEnabled(true);
+        if (!result.reason.isEmpty())
+            return tellUnread(path, result.reason);
+        if (m_document.undoStack()->index() != index && !mayLeave())
+            return;
+        m_document.take(path, std::move(result));
+        then();
+    };
+    m_reading.start(read, take);
+    m_reading.wait(DocumentLoader::usualPatience());
+    m_dock.widget()->setEnabled(!m_reading.isRunning());
+}
+
+void MaterialsPane::tellUnread(const QString &path, const QString &reason)
+{
     Log::error(tr("[Materials] '%1': %2").arg(QDir::toNativeSeparators(path), reason));
     QMessageBox box(QMessageBox::Warning, tr("File error"),
                     tr("Failed to open\n%1").arg(QDir::toNativeSeparators(path)), QMessageBox::Ok, m_window);
     box.setInformativeText(reason);
     box.exec();
-    return false;
 }
 
 void MaterialsPane::open(const QString &path, const QString &material)
 {
     const bool isOpen = m_document.isOpen() &&
                         FileSystem::isSamePath(QDir::cleanPath(m_document.path()), QDir::cleanPath(path));
-    if (isOpen || (mayLeave() && load(path)))
-        m_dock.showMaterial(material);
+    const auto show = [this, material] { m_dock.showMaterial(material); };
+    if (isOpen)
+        show();
+    else if (mayLeave())
+        load(path, show);
 }
 
 void MaterialsPane::openChosen()
@@ -176,7 +218,7 @@ void MaterialsPane::reload()
                                   QMessageBox::Yes | QMessageBox::No, QMessageBox::No) != QMessageBox::Yes)
             return;
     }
-    load(m_document.path());
+    load(m_document.path(), [] {});
 }
 
 void MaterialsPane::addMaterial()
@@ -185,21 +227,42 @@ void MaterialsPane::addMaterial()
         return startFile();
     if (m_dock.returnToTyping())
         return;
-    QString name = QStringLiteral("material");
+    const QString name = askName(
+        tr("New Material"), tr("Name of the material in %1").arg(QFileInfo(m_document.path()).fileName()),
+        QStringLiteral("material"),
+        [this](const QString &each) { return m_document.addMaterial(each, MaterialFiles::Blank); });
+    if (!name.isEmpty())
+        m_dock.showMaterial(name);
+}
+
+void MaterialsPane::renameMaterial(int material)
+{
+    if (m_dock.returnToTyping())
+        return;
+    const QString old = m_document.text().materials()[size_t(material)].name;
+    const QString name = askName(
+        tr("Rename Material"),
+        tr("New name of %1. Surfaces that use the old one have to be changed, too.").arg(old), old,
+        [&](const QString &each) { return each == old ? QString() : m_document.rename(material, each); });
+    if (!name.isEmpty())
+        m_dock.showMaterial(name);
+}
+
+/// Asks until `attempt` has no problem with the name. Returns that; an empty one when the user gives up.
+QString MaterialsPane::askName(const QString &title, const QString &text, const QString &proposed,
+                               const std::function<QString(const QString &name)> &attempt)
+{
+    QString name = proposed;
     for (QString problem;;) {
         bool isChosen = false;
-        name = QInputDialog::getText(
-            m_window, tr("New Material"),
-            problem.isEmpty() ? tr("Name of the material in %1").arg(QFileInfo(m_document.path()).fileName())
-                              : problem,
-            QLineEdit::Normal, name, &isChosen);
+        name = QInputDialog::getText(m_window, title, problem.isEmpty() ? text : problem, QLineEdit::Normal,
+                                     name, &isChosen);
         if (!isChosen)
-            return;
-        problem = m_document.addMaterial(name, MaterialFiles::Blank);
+            return {};
+        problem = attempt(name);
         if (problem.isEmpty())
-            break;
+            return name;
     }
-    m_dock.showMaterial(name);
 }
 
 void MaterialsPane::startFile()
@@ -263,7 +326,8 @@ bool MaterialsPane::write(const QString &path)
 
 bool MaterialsPane::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != m_window || event->type() != QEvent::Close || mayLeave())
+    // A program that the system ends has no time for answers; what is unsaved is kept.
+    if (watched != m_window || event->type() != QEvent::Close || EndSignals::areAsking() || mayLeave())
         return QObject::eventFilter(watched, event);
     event->ignore();
     return true;

@@ -2,17 +2,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Background.h"
 #include "SaveGuard.h"
 
 #include <QObject>
 
+#include <functional>
+
 class DocumentFiles;
 class MaterialCatalog;
 class MaterialDocument;
+class MaterialWork;
 class MaterialsDock;
 class QAction;
 class QMainWindow;
 class QUndoGroup;
+class UnsavedWork;
 
 /// The dock of materials among the panes of the window: Save and Undo are about its file as long as it had
 /// the keys last. Opens files in it and saves them, with the questions that belong to that.
@@ -37,12 +42,15 @@ public:
     bool isActive() const;
     /// Takes the actions and the undo group over, where they are about the dock's file.
     void update();
+    /// The file as work to be kept.
+    UnsavedWork &work();
 
 public slots:
     /// Shows a file, and of it a material, if one is named.
     void open(const QString &path, const QString &material = {});
     void openChosen();
     void addMaterial();
+    void renameMaterial(int material);
     void startFile();
     /// Each returns true when the file was not saved.
     bool save();
@@ -61,9 +69,14 @@ protected:
 private:
     void follow(const QWidget *focused);
     void setActive(bool active);
-    bool load(const QString &path);
-    bool mayLeave();
+    void load(const QString &path, const std::function<void()> &then);
+    void tellUnread(const QString &path, const QString &reason);
+    /// Asks about what is unsaved. Returns true when another file may take its place.
+    [[nodiscard]] bool mayLeave();
+    void show();
     bool write(const QString &path);
+    QString askName(const QString &title, const QString &text, const QString &proposed,
+                    const std::function<QString(const QString &name)> &attempt);
     QString chooseFile(const QString &title) const;
 
     MaterialsDock &m_dock;
@@ -73,5 +86,7 @@ private:
     Actions m_actions;
     QMainWindow *m_window;
     SaveGuard m_guard;
+    MaterialWork *m_work;
+    Background m_reading;
     bool m_isActive = false;
 };

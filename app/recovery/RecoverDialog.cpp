@@ -42,7 +42,7 @@ void RecoverDialog::fill()
     for (const Snapshot &snapshot : qAsConst(m_snapshots)) {
         const QString path = QDir::toNativeSeparators(snapshot.sourcePath);
         auto *item =
-            new QTreeWidgetItem(tree, {snapshot.name, documentKind(snapshot.type).label,
+            new QTreeWidgetItem(tree, {snapshot.name, m_recovery.label(snapshot),
                                        Language::locale().toString(snapshot.time, QLocale::ShortFormat),
                                        path.isEmpty() ? tr("(never saved)") : path});
         item->setToolTip(3, path);
@@ -71,9 +71,9 @@ QVector<Snapshot> RecoverDialog::selected() const
 void RecoverDialog::on_treeSnapshots_itemSelectionChanged()
 {
     const QVector<Snapshot> chosen = selected();
-    QSet<int> kinds;
+    QSet<QString> kinds;
     for (const Snapshot &snapshot : chosen)
-        kinds.insert(int(snapshot.type));
+        kinds.insert(snapshot.extension);
     m_ui->btnRecoverDelete->setEnabled(!chosen.isEmpty());
     // There is one open document of a kind.
     m_ui->btnRecoverRestore->setEnabled(!chosen.isEmpty() && kinds.size() == chosen.size());

@@ -3,7 +3,7 @@
 #include "Recovery.h"
 
 #include "CrashReport.h"
-#include "DocumentFiles.h"
+#include "DocumentWork.h"
 #include "Log.h"
 #include "TypingField.h"
 
@@ -15,15 +15,11 @@
 
 Recovery::Recovery(DocumentFiles &files, const QString &root, QWidget *window)
     : QObject(window)
-    , m_files(files)
     , m_window(window)
     , m_store(root)
 {
-    for (const DocumentKind &kind : documentKinds()) {
-        Track &track = m_tracks[size_t(kind.type)];
-        track.document = files.document(kind.type);
-        watch(track);
-    }
+    for (const DocumentKind &kind : documentKinds())
+        add(*new DocumentWork(files, kind.type, this));
     connect(&m_store, &SnapshotStore::failed, this, &Recovery::onFailed);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &Recovery::keepAll);
     // The session's end waits for whom it has told, and for nobody afterwards.
@@ -37,32 +33,27 @@ Recovery::~Recovery()
     CrashReport::uninstall();
 }
 
-void Recovery::watch(Track &track)
+void Recovery::add(UnsavedWork &work)
 {
-    track.file = m_store.newFile(track.document->kind().type);
+    m_tracks.push_back(std::make_unique<Track>(work));
+    Track &track = *m_tracks.back();
+    track.file = m_store.newFile(work.extension());
     track.timer.setSingleShot(true);
     track.timer.setInterval(DelayMs);
-    const Document *document = track.document;
     connect(&track.timer, &QTimer::timeout, this, [this, &track] { keepDue(track); });
-    connect(document, &Document::aboutToBeReplaced, this, [this, &track] { startAnew(track); });
-    connect(document, &Document::replaced, this, [this, &track] { noteChange(track); });
-    connect(document, &Document::recordsChanged, this, [this, &track] { noteChange(track); });
-    connect(document, &Document::structuresChanged, this, [this, &track] { noteChange(track); });
-    // Unless it was changed while it was written.
-    connect(document, &Document::saved, this, [this, &track] { noteChange(track); });
-    connect(track.document->undoStack(), &QUndoStack::cleanChanged, this,
-            [this, &track] { noteChange(track); });
+    connect(&work, &UnsavedWork::aboutToBeReplaced, this, [this, &track] { startAnew(track); });
+    connect(&work, &UnsavedWork::changed, this, [this, &track] { noteChange(track); });
 }
 
 void Recovery::setDelay(int milliseconds)
 {
-    for (Track &track : m_tracks)
-        track.timer.setInterval(milliseconds);
+    for (const auto &track : m_tracks)
+        track->timer.setInterval(milliseconds);
 }
 
 void Recovery::noteChange(Track &track)
 {
-    if (!track.document->differsFromFile())
+    if (!track.work.differsFromFile())
         return forget(track);
     track.isDirty = true;
     if (!track.timer.isActive())
@@ -74,7 +65,7 @@ void Recovery::startAnew(Track &track)
 {
     keep(track);
     track.timer.stop();
-    track.file = m_store.newFile(track.document->kind().type);
+    track.file = m_store.newFile(track.work.extension());
     track.isKept = track.isDirty = false;
 }
 
@@ -89,21 +80,18 @@ void Recovery::keepDue(Track &track)
 
 void Recovery::keep(Track &track)
 {
-    Document &document = *track.document;
-    if (!track.isDirty || !document.differsFromFile())
-        return;
-    // An animation file without animations, which many imports leave, holds nothing worth keeping.
-    if (document.kind().type == DocumentType::Anim && !document.refusal().isEmpty())
+    UnsavedWork &work = track.work;
+    if (!track.isDirty || !work.differsFromFile() || !work.canBeKept())
         return;
     track.isDirty = false;
     track.isKept = true;
     QSet<QString> open;
-    for (const Track &each : m_tracks)
-        open.insert(each.file);
-    Snapshot snapshot{track.file, document.kind().type, document.path(), document.fileName(),
+    for (const auto &each : m_tracks)
+        open.insert(each->file);
+    Snapshot snapshot{track.file, work.extension(), work.path(), work.fileName(),
                       QDateTime::currentDateTime()};
-    snapshot.stamp = document.fileStamp();
-    m_store.keep(snapshot, document.drafter(), open);
+    snapshot.stamp = work.stamp();
+    m_store.keep(snapshot, work.drafter(), open);
 }
 
 void Recovery::forget(Track &track)
@@ -117,14 +105,28 @@ void Recovery::forget(Track &track)
 
 void Recovery::onFailed(const QString &file, const QString &reason)
 {
-    for (Track &track : m_tracks) {
+    for (const auto &track : m_tracks) {
         // It is tried again: a disk may be full for a moment only.
-        if (track.file == file && track.document->differsFromFile())
-            noteChange(track);
+        if (track->file == file && track->work.differsFromFile())
+            noteChange(*track);
     }
     if (!m_failureSaid)
         Log::error(tr("[Recovery] Unsaved work cannot be kept: %1").arg(reason));
     m_failureSaid = true;
+}
+
+Recovery::Track *Recovery::trackOf(const Snapshot &snapshot) const
+{
+    const auto track = std::find_if(m_tracks.begin(), m_tracks.end(), [&](const auto &each) {
+        return each->work.extension() == snapshot.extension;
+    });
+    return track == m_tracks.end() ? nullptr : track->get();
+}
+
+QString Recovery::label(const Snapshot &snapshot) const
+{
+    const Track *track = trackOf(snapshot);
+    return track ? track->work.label() : QString();
 }
 
 QVector<Snapshot> Recovery::snapshots()
@@ -132,7 +134,9 @@ QVector<Snapshot> Recovery::snapshots()
     QVector<Snapshot> all = m_store.snapshots();
     all.erase(std::remove_if(all.begin(), all.end(),
                              [this](const Snapshot &snapshot) {
-                                 return snapshot.file == m_tracks[size_t(snapshot.type)].file;
+                                 // What a newer program has kept of another kind is left to it.
+                                 const Track *track = trackOf(snapshot);
+                                 return !track || snapshot.file == track->file;
                              }),
               all.end());
     return all;
@@ -140,22 +144,23 @@ QVector<Snapshot> Recovery::snapshots()
 
 Recovery::Outcome Recovery::restore(const Snapshot &snapshot)
 {
-    if (!m_files.promptUnsaved(snapshot.type))
+    Track *track = trackOf(snapshot);
+    if (!track || !track->work.mayBeReplaced())
         return Outcome::GivenUp;
     QByteArray bytes;
-    Track &track = m_tracks[size_t(snapshot.type)];
     if (m_store.read(snapshot, &bytes) ||
-        track.document->restore(bytes, snapshot.sourcePath, snapshot.name, snapshot.stamp)) {
+        track->work.restore(bytes, snapshot.sourcePath, snapshot.name, snapshot.stamp)) {
         Log::warning(tr("[Recovery] What was kept of '%1' is damaged").arg(snapshot.name));
         m_store.setAside(snapshot);
         return Outcome::Damaged;
     }
     // Its file stays where it is, so that nothing is ever without one.
-    track.file = snapshot.file;
-    track.isKept = true;
-    track.isDirty = false;
-    track.timer.stop();
-    emit restored(snapshot.type);
+    track->file = snapshot.file;
+    track->isKept = true;
+    track->isDirty = false;
+    track->timer.stop();
+    if (const DocumentKind *kind = documentKindOfFile(QLatin1Char('.') + snapshot.extension))
+        emit restored(kind->type);
     return Outcome::Restored;
 }
 
@@ -168,8 +173,8 @@ void Recovery::remove(const QVector<Snapshot> &snapshots)
 void Recovery::keepAll()
 {
     finishTyping();
-    for (Track &track : m_tracks)
-        keep(track);
+    for (const auto &track : m_tracks)
+        keep(*track);
     m_store.waitForDone();
 }
 

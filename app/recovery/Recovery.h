@@ -2,18 +2,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Document.h"
+#include "DocumentKind.h"
 #include "SnapshotStore.h"
 
 #include <QTimer>
 
-#include <array>
+#include <memory>
+#include <vector>
 
 class DocumentFiles;
+class UnsavedWork;
 
-/// Keeps snapshots of the three documents while they differ from their files: some seconds after a change,
-/// when one is replaced, and when the window closes. A save takes a document's snapshot away, and so does
-/// undoing all changes. A report of a crash is written beside the snapshots.
+/// Keeps snapshots of the three documents, and of other work that it is told of, while they differ from their
+/// files: some seconds after a change, when one is replaced, and when the window closes. A save takes a
+/// snapshot away, and so does undoing all changes. A report of a crash is written beside the snapshots.
 class Recovery : public QObject
 {
     Q_OBJECT
@@ -28,10 +30,14 @@ public:
     Recovery(DocumentFiles &files, const QString &root, QWidget *window);
     ~Recovery() override;
 
+    /// Has `work` kept, too. It goes after this, or with it.
+    void add(UnsavedWork &work);
     void setDelay(int milliseconds);
     SnapshotStore &store() { return m_store; }
     /// All that is kept beside what is open now, the newest first.
     QVector<Snapshot> snapshots();
+    /// What the user calls such a thing as this one is of.
+    QString label(const Snapshot &snapshot) const;
     /// Opens a snapshot as a modified document, after asking about the one that it replaces; from then on it
     /// is that document's. What is damaged is set aside, with a line in the log.
     Outcome restore(const Snapshot &snapshot);
@@ -41,6 +47,7 @@ public:
     void keepAll();
 
 signals:
+    /// One of the three documents was.
     void restored(DocumentType type);
 
 protected:
@@ -49,14 +56,18 @@ protected:
 private:
     struct Track
     {
-        Document *document = nullptr;
-        QString file;         ///< where this document is kept
+        explicit Track(UnsavedWork &kept)
+            : work(kept)
+        {}
+
+        UnsavedWork &work;
+        QString file;         ///< where it is kept
         bool isKept = false;  ///< whether there is such a file, or will be
         bool isDirty = false; ///< changed since it was kept
         QTimer timer;
     };
 
-    void watch(Track &track);
+    Track *trackOf(const Snapshot &snapshot) const;
     void startAnew(Track &track);
     void noteChange(Track &track);
     void keep(Track &track);
@@ -64,9 +75,8 @@ private:
     void forget(Track &track);
     void onFailed(const QString &file, const QString &reason);
 
-    DocumentFiles &m_files;
     QWidget *m_window;
     SnapshotStore m_store;
-    std::array<Track, 3> m_tracks;
+    std::vector<std::unique_ptr<Track>> m_tracks;
     bool m_failureSaid = false;
 };

@@ -63,11 +63,11 @@ void RecoveryPrompt::offer()
     }
 
     QStringList names;
-    QSet<int> kinds;
+    QSet<QString> kinds;
     for (const Snapshot &snapshot : qAsConst(m_offered)) {
-        if (!kinds.contains(int(snapshot.type)))
+        if (!kinds.contains(snapshot.extension))
             names.append(snapshot.name);
-        kinds.insert(int(snapshot.type));
+        kinds.insert(snapshot.extension);
     }
     const int more = m_offered.size() - names.size();
     const QString all = names.join(QStringLiteral(", "));
@@ -86,17 +86,17 @@ void RecoveryPrompt::offer()
 void RecoveryPrompt::on_btnRestore_clicked()
 {
     // The newest that is whole.
-    QSet<int> done;
+    QSet<QString> done;
     bool givenUp = false;
     for (const Snapshot &snapshot : qAsConst(m_offered)) {
-        if (done.contains(int(snapshot.type)))
+        if (done.contains(snapshot.extension))
             continue;
         const Recovery::Outcome outcome = m_recovery.restore(snapshot);
         givenUp = outcome == Recovery::Outcome::GivenUp;
         if (givenUp)
             break;
         if (outcome == Recovery::Outcome::Restored)
-            done.insert(int(snapshot.type));
+            done.insert(snapshot.extension);
     }
     RecoverDialog::tellOfDamaged(m_recovery.store(), m_window);
     m_hasRestored = m_hasRestored || (!givenUp && !done.isEmpty());

@@ -2,16 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "DocumentKind.h"
 #include "FileStamp.h"
 
 #include <QDateTime>
+#include <QString>
 
-/// What is known of a kept model without reading it.
+/// What is known of kept work without reading it.
 struct Snapshot
 {
-    QString file; ///< its name in the store's folder
-    DocumentType type = DocumentType::SkinnedMesh;
+    QString file;       ///< its name in the store's folder
+    QString extension;  ///< of the kind of work, see UnsavedWork
     QString sourcePath; ///< the document's file; empty when it was never saved
     QString name;       ///< the document's file name, also of one without a file
     QDateTime time;

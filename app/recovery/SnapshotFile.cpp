@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "SnapshotFile.h"
 
+#include "DocumentKind.h"
 #include "WholeFile.h"
 
 #include <QCryptographicHash>
@@ -20,28 +21,23 @@ QByteArray headerOf(const Snapshot &snapshot)
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream.setVersion(QDataStream::Qt_5_15);
-    stream << documentKind(snapshot.type).extension << snapshot.sourcePath << snapshot.name << snapshot.time
-           << snapshot.sequence << snapshot.stamp.size << snapshot.stamp.modified;
+    stream << snapshot.extension << snapshot.sourcePath << snapshot.name << snapshot.time << snapshot.sequence
+           << snapshot.stamp.size << snapshot.stamp.modified;
     return bytes;
 }
 
 bool readHeaderBytes(const QByteArray &bytes, Snapshot *snapshot)
 {
-    QString extension;
     QDataStream stream(bytes);
     stream.setVersion(QDataStream::Qt_5_15);
-    stream >> extension >> snapshot->sourcePath >> snapshot->name >> snapshot->time;
+    stream >> snapshot->extension >> snapshot->sourcePath >> snapshot->name >> snapshot->time;
     // Files of older programs end before these.
     snapshot->sequence = snapshot->time.toMSecsSinceEpoch();
     if (!stream.atEnd())
         stream >> snapshot->sequence;
     if (!stream.atEnd())
         stream >> snapshot->stamp.size >> snapshot->stamp.modified;
-    const DocumentKind *kind = documentKindOfFile(QLatin1Char('.') + extension);
-    if (stream.status() != QDataStream::Ok || !kind || !snapshot->time.isValid())
-        return true;
-    snapshot->type = kind->type;
-    return false;
+    return stream.status() != QDataStream::Ok || snapshot->extension.isEmpty() || !snapshot->time.isValid();
 }
 
 /// Leaves `file` at the model's first byte and gives its length. Returns true when this is no snapshot.
@@ -86,7 +82,12 @@ bool SnapshotFile::readHeader(const QString &path, Snapshot *snapshot)
 {
     QFile file(path);
     qint64 modelBytes = 0;
-    return readUpToModel(file, snapshot, &modelBytes);
+    if (readUpToModel(file, snapshot, &modelBytes))
+        return true;
+    // A newer program may have kept what this one does not know; damage may look the same.
+    const QString name = QLatin1Char('.') + snapshot->extension;
+    QByteArray model;
+    return !documentKindOfFile(name) && !isMaterialFile(name) && readModel(path, &model);
 }
 
 bool SnapshotFile::readModel(const QString &path, QByteArray *model)

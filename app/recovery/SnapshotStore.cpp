@@ -197,13 +197,13 @@ void SnapshotStore::takeOverReport(const QString &report)
         m_crashReports.prepend(path);
 }
 
-QString SnapshotStore::newFile(DocumentType type)
+QString SnapshotStore::newFile(const QString &extension)
 {
     return QStringLiteral("%1-%2-%3.%4%5")
         .arg(QDateTime::currentMSecsSinceEpoch())
         .arg(QCoreApplication::applicationPid())
         .arg(++m_files, 6, 10, QLatin1Char('0'))
-        .arg(documentKind(type).extension, Suffix);
+        .arg(extension, Suffix);
 }
 
 void SnapshotStore::run(const std::function<void()> &job)

@@ -43,7 +43,7 @@ public:
     const QStringList &crashReports() const { return m_crashReports; }
 
     /// A name that no snapshot of any program has.
-    QString newFile(DocumentType type);
+    QString newFile(const QString &extension);
     /// Keeps a model, whose bytes `model` gives in another thread, under `snapshot.file`, in place of what is
     /// kept there, with the next sequence. Then the oldest of more than MostKept snapshots go, those of
     /// `spared` aside.

@@ -232,6 +232,7 @@ void MainWindow::createPrompts()
     new ReloadPrompt(*m_files, m_ui->vlCentral, this);
     auto *recovery = new Recovery(*m_files, SnapshotStore::defaultRoot(), this);
     connect(recovery, &Recovery::restored, m_panes, &DocumentPanes::showOpened);
+    recovery->add(m_materials->work());
     new RecoveryPrompt(*recovery, m_ui->actionRecover, m_ui->vlCentral, this);
 }
 

@@ -116,6 +116,31 @@ private slots:
         QVERIFY(!KMatText("material \xc3\xa4 sampler d 0 \xfc").findTextureEdit(0, 0, "n", edit).isEmpty());
     }
 
+    void renamesAMaterial()
+    {
+        const auto check = [](const QByteArray &before, int material, const QByteArray &after) {
+            KMatText text(before);
+            TextEdit edit;
+            QCOMPARE(text.findRenaming(material, "n", edit), QString());
+            const TextEdit back = text.apply(edit);
+            QCOMPARE(text.bytes(), after);
+            QCOMPARE(text.materials()[size_t(material)].name, QString("n"));
+            text.apply(back);
+            QCOMPARE(text.bytes(), before);
+        };
+        check("// a\r\nmaterial  a\t{ x a\r\n sampler \"d\" 0 \"a\" }\r\nmaterial b", 0,
+              "// a\r\nmaterial  n\t{ x a\r\n sampler \"d\" 0 \"a\" }\r\nmaterial b");
+        check("material a\nmaterial", 1, "material a\nmaterial n");
+        // Which gives the file back to its readers.
+        check("material a material a", 1, "material a material n");
+
+        const KMatText text("material a material \xe4");
+        TextEdit edit;
+        for (const QString &name : {QString(), QString("x y"), QString("\"x\""), QString(QChar(0x416))})
+            QVERIFY(!text.findRenaming(0, name, edit).isEmpty());
+        QVERIFY(text.findRenaming(0, QString(QChar(0xE4)), edit).contains("already"));
+    }
+
     void addsAMaterial()
     {
         const QByteArray added = kmatBytes({{"n", "n.png"}}).replace("\r\n", "\n");

@@ -1,10 +1,16 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "EndSignals.h"
 #include "Hand.h"
 #include "KMat.h"
 #include "MaterialsDock.h"
+#include "NoticeBar.h"
+#include "Recovery.h"
+#include "SessionEnd.h"
 #include "TextField.h"
 #include "TexturePreview.h"
+
+#include <QTextBlock>
 
 namespace {
 const QByteArray Text =
@@ -136,6 +142,34 @@ private slots:
         QVERIFY(find<QLabel>(*m_window, "lblMaterialFile")->text().contains("the view takes the game's"));
     }
 
+    void showsAPartOfALongText()
+    {
+        QByteArray text = Text;
+        while (text.size() < 1 << 20)
+            text += "material m" + QByteArray::number(text.size()) +
+                    " {\r\n sampler \"d\" 0 \"d.png\"\r\n}\r\n// " + QByteArray(200, 'x') + "\r\n";
+        text += "material last { sampler \"d\" 0 \"last.png\" }";
+        m_files->put("mod/materials/m.kmat", text);
+        open({m_path});
+        const auto *shown = find<QPlainTextEdit>(*m_window, "txtMaterialFile");
+        const auto markedLine = [shown] { return shown->extraSelections().value(0).cursor.block().text(); };
+        QVERIFY(markedLine().contains("textures/a.png"));
+        QVERIFY(shown->document()->characterCount() < 2 * 64 * 1024);
+        list()->setFocus();
+        QTest::keyClick(list(), Qt::Key_End);
+        QCOMPARE(markedLine(), QString("material last { sampler \"d\" 0 \"last.png\" }"));
+        QTest::keyClick(list(), Qt::Key_Up);
+        QVERIFY(markedLine().contains("d.png"));
+        list()->setCurrentItem(list()->topLevelItem(list()->topLevelItemCount() / 2));
+        QVERIFY(markedLine().contains("sampler") && shown->textCursor().block().previous().text() ==
+                                                        "material " + list()->currentItem()->text(0) + " {");
+        field()->setFocus();
+        field()->selectAll();
+        QTest::keyClicks(field(), "half.png");
+        QTest::keyClick(field(), Qt::Key_Return);
+        QVERIFY(markedLine().contains("half.png"));
+    }
+
     void seesOthers()
     {
         open({m_path});
@@ -168,6 +202,113 @@ private slots:
         QVERIFY(dock().document().text().bytes().startsWith(Text + "material c {\r\n"));
         dock().document().undoStack()->undo();
         QCOMPARE(dock().document().text().bytes(), Text);
+    }
+
+    void renamesAMaterial()
+    {
+        open({m_path});
+        const auto name = [](const char *text) {
+            return [text](QDialog *dialog) {
+                QVERIFY(QTest::qWaitForWindowActive(dialog));
+                auto *line = dialog->findChild<QLineEdit *>();
+                line->selectAll();
+                QTest::keyClicks(line, text);
+                QTimer::singleShot(0, line, [line] { QTest::keyClick(line, Qt::Key_Return); });
+            };
+        };
+        list()->setFocus();
+        list()->setCurrentItem(list()->topLevelItem(0));
+        {
+            Hand hand({name("b"), name("wall")});
+            QTest::keyClick(list(), Qt::Key_F2);
+            QCOMPARE(hand.seen.size(), 2); // there is a "b" already
+        }
+        QCOMPARE(rows().first(), QString("wall diffuse textures/a.png"));
+        QCOMPARE(list()->currentItem(), list()->topLevelItem(0));
+        QByteArray expected = Text;
+        QCOMPARE(dock().document().text().bytes(), expected.replace("material a", "material wall"));
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QTest::keyClick(m_window->windowHandle(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(dock().document().text().bytes(), Text);
+        Hand hand({Hand::reject});
+        QTest::keyClick(list(), Qt::Key_F2);
+        QCOMPARE(hand.seen.size(), 1);
+        QVERIFY(!dock().document().isModified());
+    }
+
+    void opensLikeTheOtherFiles()
+    {
+        open({m_mesh});
+        auto *openAction = find<QAction>(*m_window, "actionOpen");
+        {
+            Hand hand({[this](QDialog *dialog) {
+                auto *chooser = qobject_cast<QFileDialog *>(dialog);
+                QVERIFY(chooser->nameFilters().join(' ').contains("(*.kmat)"));
+                chooser->selectNameFilter(chooser->nameFilters().last());
+                Hand::file(m_path)(dialog);
+            }});
+            openAction->trigger();
+        }
+        QCOMPARE(dock().document().path(), m_path);
+        typeTexture("textures/new.png");
+        QTest::keyClick(field(), Qt::Key_Return);
+
+        const QString other = m_files->put("mod/materials/other.kmat", "material other { }\n");
+        {
+            Hand hand({Hand::file(other), Hand::press(QMessageBox::Cancel)});
+            openAction->trigger();
+            QVERIFY(hand.seen.value(1).contains("m.kmat"));
+        }
+        QCOMPARE(dock().document().path(), m_path);
+        dock().document().undoStack()->undo();
+        {
+            Hand hand({Hand::file(other)});
+            openAction->trigger();
+        }
+        QCOMPARE(rows(), QStringList("other  "));
+        auto *menu = find<QMenu>(*m_window, "menuRecent");
+        emit menu->aboutToShow();
+        for (QAction *each : menu->actions()) {
+            if (each->text().endsWith("m.kmat"))
+                each->trigger();
+        }
+        QCOMPARE(dock().document().path(), m_path);
+        QCOMPARE(Settings::MaterialRecentFiles.value(), QStringList({m_path, other}));
+    }
+
+    void isKeptWhenTheProgramEnds()
+    {
+        open({m_path});
+        typeTexture("textures/new.png");
+        QTest::keyClick(field(), Qt::Key_Return);
+        QByteArray edited = Text;
+        edited.replace("textures/a.png", "textures/new.png");
+        {
+            const EndSignals ending([this](int) { m_window->close(); });
+            endSession(*m_window);
+            if (!SignalsOfTheEnd.isEmpty())
+                QTRY_VERIFY_WITH_TIMEOUT(!m_window->isVisible(), 1500); // nothing is asked
+        }
+        QCOMPARE(TestSupport::readFile(m_path), Text);
+        m_window.reset();
+
+        open({});
+        auto *bar = find<NoticeBar>(*m_window, "barRecovery");
+        QVERIFY(bar->isVisible() && bar->text().endsWith("m.kmat"));
+        QTest::mouseClick(find<QPushButton>(*m_window, "btnRestore"), Qt::LeftButton);
+        QVERIFY(dock().isVisible() && dock().document().isModified());
+        QCOMPARE(dock().document().text().bytes(), edited);
+        QCOMPARE(TestSupport::readFile(m_path), Text);
+        typeTexture("textures/a.png");
+        QTest::keyClick(field(), Qt::Key_Return);
+        dock().document().undoStack()->undo();
+        QVERIFY(dock().document().isModified());
+        list()->setFocus();
+        QTest::keyClick(m_window->windowHandle(), Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(TestSupport::readFile(m_path), edited);
+        auto &store = m_window->findChild<Recovery *>()->store();
+        QVERIFY(store.snapshots().isEmpty());
     }
 
 private:

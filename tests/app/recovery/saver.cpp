@@ -18,13 +18,13 @@ int main(int argc, char *argv[])
     if (document.open(path, &reason))
         return 1;
     SnapshotStore store(QString::fromLocal8Bit(argv[2]));
-    const QString file = store.newFile(DocumentType::SkinnedMesh);
+    const QString file = store.newFile(document.kind().extension);
     for (int round = 1;; ++round) {
         document.editTarget().edit().headTrackFactor = qint8(round % 100);
         std::printf("%d\n", round);
         std::fflush(stdout);
         // Both at a time, as in the program.
-        store.keep({file, DocumentType::SkinnedMesh, path, document.fileName(), QDateTime::currentDateTime()},
+        store.keep({file, document.kind().extension, path, document.fileName(), QDateTime::currentDateTime()},
                    document.drafter(), {});
         if (document.save(path))
             return 1;

@@ -144,6 +144,13 @@ private slots:
             run.recovery->keepAll();
             QCOMPARE(kept().size(), 1);
         }
+        // A newer program may keep what this one does not know.
+        snapshot.extension = "actor";
+        QCOMPARE(SnapshotFile::write(kept().value(0), snapshot, {model.begin(), model.end()}), QString());
+        OneRun run(root());
+        QVERIFY(run.recovery->snapshots().isEmpty());
+        QVERIFY(run.recovery->store().damaged().isEmpty());
+        QCOMPARE(kept().size(), 1);
     }
 };
 

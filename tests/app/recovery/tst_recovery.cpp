@@ -33,7 +33,8 @@ private slots:
             const QVector<Snapshot> found = next.snapshots();
             QVERIFY2(found.size() == 1, how);
             QCOMPARE(found[0].name, name);
-            const bool isSaved = found[0].type != DocumentType::StaticMesh;
+            const DocumentKind *kind = documentKindOfFile(found[0].name);
+            const bool isSaved = kind->type != DocumentType::StaticMesh;
             QCOMPARE(found[0].sourcePath, isSaved ? m_folder->path(name) : QString());
             QVERIFY(qAbs(found[0].time.secsTo(QDateTime::currentDateTime())) < 60);
             SkinnedMesh man = triangleMan();
@@ -43,7 +44,7 @@ private slots:
             const QByteArray expected[] = {bytesOf(man), bytesOf(walk), bytesOf(SampleModels::staticMesh())};
             QByteArray bytes;
             QVERIFY2(!next.read(found[0], &bytes), how);
-            QVERIFY2(bytes == expected[int(found[0].type)], how);
+            QVERIFY2(bytes == expected[int(kind->type)], how);
             QCOMPARE(m_log, QStringList());
         };
         check("edited", "man.skinnedmesh", [](OneRun &run) {
@@ -309,15 +310,14 @@ private slots:
     {
         const QDateTime before = QDateTime::currentDateTime().addYears(1);
         QVERIFY(QDir().mkpath(root() + "/left"));
-        QCOMPARE(SnapshotFile::write(
-                     root() + "/left/1.skinnedmesh.snapshot",
-                     {{}, DocumentType::SkinnedMesh, {}, "old", before, before.toMSecsSinceEpoch()}, {1}),
+        QCOMPARE(SnapshotFile::write(root() + "/left/1.skinnedmesh.snapshot",
+                                     {{}, "skinnedmesh", {}, "old", before, before.toMSecsSinceEpoch()}, {1}),
                  QString());
         SnapshotStore store(root());
         for (int i = 0; i <= SnapshotStore::MostKept; ++i) {
             const QDateTime time = before.addDays(-1 - i);
-            const QString file = store.newFile(DocumentType::SkinnedMesh);
-            store.keep({file, DocumentType::SkinnedMesh, {}, QString::number(i), time},
+            const QString file = store.newFile(QStringLiteral("skinnedmesh"));
+            store.keep({file, "skinnedmesh", {}, QString::number(i), time},
                        [] { return std::vector<uchar>{1}; }, {});
             store.waitForDone();
             QFile written(kept().filter(file).value(0));

@@ -9,6 +9,17 @@
 #include <QDir>
 #include <QFileInfo>
 
+namespace {
+/// What stands in the way of a path and is no folder; empty when nothing does.
+QString fileInTheWay(const QString &path)
+{
+    QString above = QFileInfo(path).absolutePath();
+    while (!QFileInfo::exists(above) && above != QFileInfo(above).path())
+        above = QFileInfo(above).path();
+    return QFileInfo(above).isFile() ? above : QString();
+}
+} // namespace
+
 WholeFile::WholeFile(const QString &path)
     : m_file(path)
 {}
@@ -21,7 +32,14 @@ bool WholeFile::open()
         return fail(QCoreApplication::translate(
             "WholeFile", "This is a device or a pipe, which would be replaced by a file."));
     // Unbuffered: commit() of the toolkit does not notice a failure to write out what is still in a buffer.
-    return !m_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && fail(m_file.errorString());
+    if (m_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        return false;
+    const QString inTheWay = fileInTheWay(m_file.fileName());
+    return fail(inTheWay.isEmpty() ? m_file.errorString()
+                                   : QCoreApplication::translate(
+                                         "WholeFile", "'%1' is a file and no folder. Nothing is written into "
+                                                      "archives.")
+                                         .arg(QDir::toNativeSeparators(inTheWay)));
 }
 
 bool WholeFile::write(const char *bytes, qint64 size)

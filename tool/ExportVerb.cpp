@@ -61,7 +61,7 @@ std::optional<int> readWishes(const CommandLine &line, ExportWishes &wishes)
                                                                  : QStringLiteral(".obj")));
     const QDir folder = QFileInfo(wishes.target).dir();
     if (!folder.exists())
-        return line.refuse(QStringLiteral("There is no folder '%1'.").arg(folder.path()));
+        return line.refuseFolder(folder.path());
     for (const QString &text : line.values(QStringLiteral("block"))) {
         const auto block = line.integer(QStringLiteral("block"), text, 0, INT_MAX);
         if (!block)

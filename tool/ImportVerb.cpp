@@ -185,7 +185,7 @@ int importModel(const QStringList &arguments)
         return line.refuse(QStringLiteral("-o FOLDER is missing."));
     const QDir folder(line.value(QStringLiteral("output")));
     if (!folder.exists())
-        return line.refuse(QStringLiteral("There is no folder '%1'.").arg(folder.path()));
+        return line.refuseFolder(folder.path());
     if (line.isSet(QStringLiteral("update")))
         return updateFromFile(line, *timeLimit);
 

@@ -203,7 +203,7 @@ int renderMany(const CommandLine &line, const PictureWishes &wishes)
 {
     const QString target = line.value(QStringLiteral("output"));
     if (!QFileInfo(target).isDir())
-        return line.refuse(QStringLiteral("There is no folder '%1'.").arg(target));
+        return line.refuseFolder(target);
     if (!wishes.anim.isEmpty())
         return line.refuse(QStringLiteral("--anim means nothing with --each."));
     const auto jobs = picturesOf(line.operands(), target, line.isSet(QStringLiteral("force")));

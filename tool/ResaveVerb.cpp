@@ -86,7 +86,7 @@ int resave(const QStringList &arguments)
         return *end;
     const QString folder = line.value(QStringLiteral("output"));
     if (line.isSet(QStringLiteral("output")) && !QFileInfo(folder).isDir())
-        return line.refuse(QStringLiteral("There is no folder '%1'.").arg(folder));
+        return line.refuseFolder(folder);
 
     int exitCode = Fine;
     QSet<QString> written;

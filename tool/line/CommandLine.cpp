@@ -109,6 +109,14 @@ int CommandLine::refuse(const QString &reason) const
     return WrongUsage;
 }
 
+int CommandLine::refuseFolder(const QString &path) const
+{
+    const bool isArchive =
+        QFileInfo(Files::heldBy(path)).isFile() && Files::isArchiveName(Files::heldBy(path));
+    return refuse(isArchive ? QStringLiteral("'%1' is no folder. Nothing is written into archives.").arg(path)
+                            : QStringLiteral("There is no folder '%1'.").arg(path));
+}
+
 QString CommandLine::helpText() const
 {
     // The parser would name neither verb nor operands where they stand.

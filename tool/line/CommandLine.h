@@ -45,6 +45,8 @@ public:
 
     /// Says what is wrong with the usage; gives the exit code.
     int refuse(const QString &reason) const;
+    /// The same of a folder to write into, which is none.
+    int refuseFolder(const QString &path) const;
 
 private:
     QString helpText() const;

@@ -30,7 +30,7 @@ std::optional<int> TargetFiles::read(const CommandLine &line, const QStringList 
         return line.refuse(QStringLiteral("Either -o or --in-place says where to."));
     m_isFolder = !m_output.isEmpty() && (files.size() > 1 || QFileInfo(m_output).isDir());
     if (m_isFolder && !QFileInfo(m_output).isDir())
-        return line.refuse(QStringLiteral("There is no folder '%1'.").arg(m_output));
+        return line.refuseFolder(m_output);
     return {};
 }
 

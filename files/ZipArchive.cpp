@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ZipArchive.h"
 
+#include "Memory.h"
 #include "ZipNames.h"
 
 #include <QBuffer>
@@ -155,7 +156,9 @@ std::shared_ptr<const ZipArchive> ZipArchive::take(std::shared_ptr<ZipArchive> a
         reason = Texts::tr("It is no zip archive that can be read.");
         return nullptr;
     }
-    archive->index(*reader, reason);
+    const QString lack = withinMemory([&] { archive->index(*reader, reason); });
+    if (!lack.isEmpty())
+        reason = lack;
     if (!reason.isEmpty())
         return nullptr;
     archive->giveBack(std::move(reader));

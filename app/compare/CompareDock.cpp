@@ -5,16 +5,38 @@
 #include "CompareTree.h"
 #include "DocumentFiles.h"
 #include "FileComparison.h"
+#include "FileSearch.h"
 #include "Files.h"
 #include "Icons.h"
+#include "SaveGuard.h"
+#include "Settings.h"
 
 #include <QAction>
 #include <QDir>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMessageBox>
 #include <QToolButton>
 #include <QVBoxLayout>
+
+namespace {
+/// The file of the game that a document takes the place of, or of the mod that takes its place, where it is
+/// the game's. A document of neither belongs where the game keeps its kind. Empty when there is none.
+QString otherOf(const Document &document)
+{
+    const QString path = document.path();
+    if (!path.isEmpty() && SaveGuard::isInGame(path)) {
+        const QString inMod = SaveGuard::modPath(path);
+        return QFileInfo(inMod).isFile() ? inMod : QString();
+    }
+    const QString mod = QDir::cleanPath(Settings::OutputDir.value()) + QLatin1Char('/');
+    const QString place = path.startsWith(mod)
+                              ? path.mid(mod.size())
+                              : document.kind().gameFolder + QLatin1Char('/') + document.fileName();
+    return FileSearch(Settings::GamePath.value(), {}).find(place);
+}
+} // namespace
 
 CompareDock::CompareDock(QWidget *parent)
     : QDockWidget(parent)
@@ -66,12 +88,17 @@ QAction *CompareDock::addAction(const char *name, const QString &text, const cha
     return action;
 }
 
-void CompareDock::setComparison(FileComparison *comparison, const DocumentFiles &files, QAction *choose)
+void CompareDock::setComparison(FileComparison *comparison, const DocumentFiles &files, QAction *choose,
+                                QAction *other)
 {
     m_comparison = comparison;
     m_files = &files;
     connect(comparison, &FileComparison::changed, this, &CompareDock::fill);
     connect(choose, &QAction::triggered, this, &CompareDock::chooseFile);
+    connect(other, &QAction::triggered, this,
+            [this] { m_ahead.read({Settings::GamePath.value()}, [this] { findOther(); }); });
+    // Each of them takes a document that is open.
+    connect(choose, &QAction::changed, other, [choose, other] { other->setEnabled(choose->isEnabled()); });
     fill();
 }
 
@@ -84,9 +111,27 @@ void CompareDock::chooseFile()
     const QString folder = document->path().isEmpty() ? kind.loadPath.value()
                                                       : QFileInfo(Files::heldBy(document->path())).path();
     const QString path = QFileDialog::getOpenFileName(window(), tr("Compare with File"), folder, kind.filter);
-    if (path.isEmpty())
+    if (!path.isEmpty())
+        start(kind.type, path);
+}
+
+void CompareDock::findOther()
+{
+    const Document *document = m_files->current();
+    if (!document || !document->isOpen())
         return;
-    m_comparison->start(kind.type, path);
+    const QString path = otherOf(*document);
+    if (path.isEmpty())
+        QMessageBox::information(
+            window(), tr("Compare Game and Mod"),
+            tr("Game and mod have no other file in the place of '%1'.").arg(document->fileName()));
+    else
+        start(document->kind().type, path);
+}
+
+void CompareDock::start(DocumentType type, const QString &path)
+{
+    m_comparison->start(type, path);
     QDockWidget::show();
     raise();
     m_tree->setFocus();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ArchivesAhead.h"
 #include "DocumentKind.h"
 #include "Records.h"
 
@@ -22,9 +23,10 @@ class CompareDock : public QDockWidget
 public:
     explicit CompareDock(QWidget *parent = nullptr);
 
-    /// Compares by `comparison`, and lets `choose` ask for the file to compare the current document with. All
-    /// outlive the dock.
-    void setComparison(FileComparison *comparison, const DocumentFiles &files, QAction *choose);
+    /// Compares by `comparison`, and lets `choose` ask for the file to compare the current document with;
+    /// `other` takes the one that game or mod have in its place. All outlive the dock.
+    void setComparison(FileComparison *comparison, const DocumentFiles &files, QAction *choose,
+                       QAction *other);
 
 signals:
     /// The record is to be shown.
@@ -34,6 +36,8 @@ private:
     QAction *addAction(const char *name, const QString &text, const char *iconName,
                        void (CompareDock::*slot)());
     void chooseFile();
+    void findOther();
+    void start(DocumentType type, const QString &path);
     void fill();
     void updateActions();
     void showCurrent();
@@ -47,4 +51,5 @@ private:
     QAction *m_show;
     QAction *m_take;
     QAction *m_reload;
+    ArchivesAhead m_ahead;
 };

@@ -91,6 +91,7 @@ FolderExplorer::FolderExplorer(const DocumentKind &kind, QWidget *parent)
     connect(m_filter, &FilterEdit::left, m_tree, qOverload<>(&QWidget::setFocus));
     connect(m_filter, &FilterEdit::entered, this, &FolderExplorer::goToFirst);
     connect(m_switch, &FolderSwitch::folderChosen, this, &FolderExplorer::setFolder);
+    connect(&m_archive, &ArchiveWatch::replaced, this, &FolderExplorer::refill);
     connect(m_reading, &ReadingSign::stopped, this, &FolderExplorer::OnReadingStopped);
     m_tree->showEmptyFolders(Settings::ExplorerEmptyFolders.value());
     refill();
@@ -200,6 +201,7 @@ void FolderExplorer::refill()
     m_tree->setHeaderLabel(folder.isEmpty() ? m_kind.label : ownName.isEmpty() ? folder : ownName);
     m_tree->header()->setToolTip(QDir::toNativeSeparators(folder));
     m_switch->setFolder(folder);
+    m_archive.follow(folder);
     m_isStopped = false;
     m_tree->fill(folder, m_kind.extension);
     m_reading->begin();
@@ -233,9 +235,8 @@ void FolderExplorer::setFolder(const QString &folder)
 {
     const QString path = normalizedFolder(folder);
     m_kind.explorePath.setValue(path);
+    m_switch->keepNext();
     refill();
-    if (m_switch->source() == FolderSource::Other)
-        m_kind.otherFolder.setValue(path);
 }
 
 void FolderExplorer::changeFolder()
@@ -247,6 +248,11 @@ void FolderExplorer::changeFolder()
 }
 
 void FolderExplorer::followOptions()
+{
+    m_ahead.read({normalizedFolder(Settings::GamePath.value())}, [this] { followFolders(); });
+}
+
+void FolderExplorer::followFolders()
 {
     FolderSource source = m_switch->source();
     if (source == FolderSource::None)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ArchiveWatch.h"
+#include "ArchivesAhead.h"
 #include "DocumentKind.h"
 #include "FolderAction.h"
 #include "FolderChooser.h"
@@ -94,6 +96,7 @@ private:
     /// The list, or why it would be blank.
     void showShownRows();
     void goToFirst(bool opens);
+    void followFolders();
 
     const DocumentKind &m_kind;
     const FolderNames m_names;
@@ -107,6 +110,8 @@ private:
     FilterEdit *m_filter;
     ReadingSign *m_reading;
     FolderMenu *m_menu;
+    ArchiveWatch m_archive;
+    ArchivesAhead m_ahead;
     bool m_isStopped = false; ///< the folder was not read to its end
     QStackedLayout *m_pages;
     QFrame *m_emptyPage;

@@ -10,6 +10,8 @@
 #include <QDir>
 #include <QMenu>
 
+#include <utility>
+
 QString ownFolder(const DocumentKind &kind, FolderSource source)
 {
     const QString root = normalizedFolder(source == FolderSource::Game  ? Settings::GamePath.value()
@@ -57,6 +59,11 @@ QString FolderSwitch::folderOf(FolderSource source) const
 
 void FolderSwitch::setFolder(const QString &folder)
 {
+    m_ahead.read({normalizedFolder(Settings::GamePath.value())}, [this, folder] { show(folder); });
+}
+
+void FolderSwitch::show(const QString &folder)
+{
     if (folder.isEmpty())
         m_source = FolderSource::None;
     // Game and mod may be the same; then it stays what it was called.
@@ -65,6 +72,8 @@ void FolderSwitch::setFolder(const QString &folder)
         m_source = folder == folderOf(FolderSource::Game)  ? FolderSource::Game
                    : folder == folderOf(FolderSource::Mod) ? FolderSource::Mod
                                                            : FolderSource::Other;
+    if (std::exchange(m_keepsNext, false) && m_source == FolderSource::Other)
+        m_kind.otherFolder.setValue(folder);
     for (const Choice &choice : qAsConst(m_choices)) {
         const QString path = choice.source == m_source ? folder : folderOf(choice.source);
         choice.action->setEnabled(!path.isEmpty());

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ArchivesAhead.h"
+
 #include <QToolButton>
 
 struct DocumentKind;
@@ -25,8 +27,11 @@ public:
     FolderSwitch(const DocumentKind &kind, QWidget &explorer, const FolderNames &names, QAction *change);
 
     FolderSource source() const { return m_source; }
-    /// Shows where the listed folder is, and what can be chosen as the settings are now.
+    /// Shows where the listed folder is, and what can be chosen as the settings are now. Waits for no archive
+    /// that is yet to be read.
     void setFolder(const QString &folder);
+    /// The next folder that is shown was chosen: it is kept as the other one if it is none of the two.
+    void keepNext() { m_keepsNext = true; }
 
 signals:
     void folderChosen(const QString &folder);
@@ -39,8 +44,11 @@ private:
     };
 
     QString folderOf(FolderSource source) const;
+    void show(const QString &folder);
 
     const DocumentKind &m_kind;
+    ArchivesAhead m_ahead;
     FolderSource m_source = FolderSource::None;
+    bool m_keepsNext = false;
     QVector<Choice> m_choices;
 };

@@ -212,7 +212,7 @@ void MainWindow::createDocks()
 {
     m_ui->statusBar->insertPermanentWidget(0, new ProblemsButton(*m_problems, *m_ui->dockProblems, this));
     m_ui->dockCompare->setComparison(new FileComparison(m_skinnedMesh, m_anim, m_staticMesh, this), *m_files,
-                                     m_ui->actionCompare);
+                                     m_ui->actionCompare, m_ui->actionCompareOther);
     connect(m_ui->dockCompare, &CompareDock::activated, m_panes, &DocumentPanes::showRecord);
     connect(m_ui->tabDatabase, &DatabaseTab::told, this, &MainWindow::tell);
     connect(m_ui->tabDatabase, &DatabaseTab::namesChanged, m_problems, &Problems::loadReferenceIds);

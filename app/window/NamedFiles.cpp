@@ -5,6 +5,7 @@
 #include "DocumentFiles.h"
 #include "DocumentPanes.h"
 #include "FileDrop.h"
+#include "Files.h"
 #include "ImportExport.h"
 #include "ImportFilter.h"
 #include "Preferences.h"
@@ -40,8 +41,10 @@ void NamedFiles::openNext()
         const DocumentKind *kind = documentKindOfFile(path);
         if (kind && m_files.promptUnsaved(kind->type))
             return openModel(*kind, QFileInfo(path).absoluteFilePath());
-        if (!kind && path.endsWith(QLatin1String(".kmat"), Qt::CaseInsensitive)) {
+        if (!kind && isMaterialFile(path)) {
             emit materialsNamed(QFileInfo(path).absoluteFilePath());
+        } else if (!kind && Files::isArchiveName(path) && QFileInfo(path).isFile()) {
+            m_preferences.offerArchive(QFileInfo(path).absoluteFilePath());
         } else if (!kind && isImportable(path)) {
             // A model on the command line comes before the question that its output folder depends on.
             m_preferences.OnStartSetupPaths();

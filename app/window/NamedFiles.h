@@ -24,7 +24,7 @@ public:
                DocumentPanes &panes, QWidget *window);
 
     /// Opens files by their extension, each in its tab; the first one's tab becomes current. A model of a
-    /// foreign format goes to the import dialog.
+    /// foreign format goes to the import dialog, and an archive is offered as the game's folder.
     void open(const QStringList &paths);
 
 signals:

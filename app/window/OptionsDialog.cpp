@@ -109,8 +109,11 @@ void OptionsDialog::on_btnGame_clicked()
 
 void OptionsDialog::on_btnGameArchive_clicked()
 {
-    const QString archive =
-        m_chooseArchive(this, tr("The game's archive, game.kpf"), m_ui->txtGamePath->text());
+    // With the archive that the path leads into, where there is one.
+    const QString path = normalizedFolder(m_ui->txtGamePath->text());
+    const QString held = Files::heldBy(path);
+    const QString archive = m_chooseArchive(this, tr("The game's archive, game.kpf"),
+                                            QFileInfo(held).isFile() ? held : Files::folderOnDisk(path));
     if (!archive.isEmpty())
         setGamePath(archive);
 }
@@ -143,10 +146,17 @@ void OptionsDialog::OnTxtGamePathChanged()
     updateGameHint();
 }
 
-/// An archive takes the place of the folder if it can be read.
 void OptionsDialog::updateGameHint()
 {
     const QString path = normalizedFolder(m_ui->txtGamePath->text());
+    if (Files::isUnread(path))
+        m_ui->lblGamePathHint->hide(); // nothing is known of it yet
+    m_ahead.read({path}, [this, path] { showGameHint(path); });
+}
+
+/// An archive takes the place of the folder if it can be read.
+void OptionsDialog::showGameHint(const QString &path)
+{
     m_ui->lblGamePathHint->setVisible(!path.isEmpty() && !Files::isFolder(path));
     m_ui->lblGamePathHint->setText(!QFileInfo(path).isFile() ? tr("There is no such folder.")
                                    : Files::isArchiveName(path)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ArchivesAhead.h"
 #include "FolderChooser.h"
 
 #include <QDialog>
@@ -49,6 +50,7 @@ private slots:
 private:
     void setGamePath(const QString &path);
     void updateGameHint();
+    void showGameHint(const QString &path);
     static void updateHint(const QLineEdit *edit, QLabel *hint);
 
     std::unique_ptr<Ui::OptionsDialog> m_ui;
@@ -62,4 +64,5 @@ private:
     bool m_animAutoPlay;
     bool m_restoreSession;
     ShortcutsPage *m_shortcuts = nullptr;
+    ArchivesAhead m_ahead;
 };

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ArchivesAhead.h"
+
 #include <QObject>
 
 class QWidget;
@@ -20,6 +22,8 @@ public slots:
     /// Once in a run, whoever asks first: tells that the folders are to be set up, where they are not.
     void OnStartSetupPaths();
     void on_actionPreferences_triggered();
+    /// Asks whether an archive is to be the game's folder from now on.
+    void offerArchive(const QString &archive);
 
 signals:
     /// The options may be others now.
@@ -28,7 +32,12 @@ signals:
     void foldersChanged();
 
 private:
+    void checkFolders();
+    void askAbout(const QString &archive);
+
     Shortcuts &m_shortcuts;
     QWidget *m_window;
     bool m_askedForFolders = false;
+    ArchivesAhead m_atStart;
+    ArchivesAhead m_offered;
 };

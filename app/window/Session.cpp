@@ -4,6 +4,7 @@
 
 #include "AnimTrackFrame.h"
 #include "DocumentFiles.h"
+#include "Files.h"
 #include "KVOpenGLWidget.h"
 #include "KVTreeView.h"
 #include "Log.h"
@@ -184,7 +185,8 @@ void Session::open(const DocumentPane &pane, const QVariantMap &state)
     if (path.isEmpty())
         return placeView(pane, state);
     const QString nativePath = QDir::toNativeSeparators(path);
-    if (!FileStamp::of(path).exists()) {
+    // Of an archive that is yet to be read, the load will tell.
+    if (!Files::isUnread(path) && !FileStamp::of(path).exists()) {
         Log::warning(tr("[Session] '%1' is not there any more").arg(nativePath));
         return placeView(pane, state);
     }

@@ -4,6 +4,7 @@
 #include "Hand.h"
 #include "NameTables.h"
 #include "SampleModels.h"
+#include "TestArchive.h"
 
 /// The window with a model in it, compared with a file.
 class tst_Compare : public QObject
@@ -169,6 +170,34 @@ private slots:
         m_window->openFiles({m_folder->path("new.skinnedmesh")});
         QTRY_VERIFY(tree()->accessibleDescription().startsWith("Nothing is compared."));
         QVERIFY(!find<QToolButton>("btnCompareAgain")->isEnabled());
+    }
+
+    void findsTheOtherOfGameAndMod()
+    {
+        AnimFile theirs = SampleModels::plainAnim();
+        AnimFile mine = theirs;
+        mine.blocks[0].speed = 2.0f;
+        QDir(m_folder->path()).mkpath("mod/anims/boss");
+        TestArchive made;
+        made.add("anims/boss/Walk.anim", SampleModels::bytesOf(theirs));
+        QVERIFY(made.write(m_folder->path("game.kpf")));
+        Settings::GamePath.setValue(m_folder->path("game.kpf"));
+        Settings::OutputDir.setValue(m_folder->path("mod"));
+        auto *action = find<QAction>("actionCompareOther");
+        QVERIFY(!action->isEnabled());
+        // From the mod's to the game's, and back.
+        const QString own = m_folder->save("mod/anims/boss/walk.anim", mine);
+        for (const QString &opened : {own, m_folder->path("game.kpf/anims/boss/Walk.anim")}) {
+            m_window->openFiles({opened});
+            action->trigger();
+            QTRY_VERIFY(find<QLabel>("lblCompare")->text().endsWith("different in: 1"));
+            QVERIFY(tree()->isVisible() && tree()->hasFocus());
+        }
+        QVERIFY(rows().contains("> Speed|1|2"));
+        m_window->openFiles({m_folder->save("mod/anims/boss/other.anim", mine)});
+        Hand hand({Hand::press(QMessageBox::Ok)});
+        action->trigger();
+        QTRY_VERIFY(hand.seen.value(0).contains("'other.anim'"));
     }
 
 private:

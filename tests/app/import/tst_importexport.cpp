@@ -5,6 +5,7 @@
 #include "ImportMessages.h"
 #include "KVOpenGLWidget.h"
 #include "SmallGltf.h"
+#include "TestArchive.h"
 
 /// Models of other programs, in and out of the whole window.
 class tst_ImportExport : public QObject
@@ -40,6 +41,28 @@ private slots:
         QVERIFY(!drop({}));
         QVERIFY(drop({m_files->save("man.skinnedmesh", triangleMan())}));
         QTRY_COMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
+
+        // An archive may become the game's folder, and nothing does unasked.
+        TestArchive made;
+        made.add("models/a.skinnedmesh", "x");
+        const QString archive = m_files->path("Game.kpf");
+        QVERIFY(made.write(archive));
+        const QString before = Settings::GamePath.value();
+        {
+            Hand hand({Hand::press(QMessageBox::No), Hand::press(QMessageBox::Yes),
+                       Hand::press(QMessageBox::Ok), Hand::press(QMessageBox::Ok)});
+            for (const QString &game : {before, archive, archive}) {
+                const int asked = hand.seen.size();
+                QVERIFY(drop({archive}));
+                QTRY_VERIFY(hand.seen.size() > asked && !QApplication::activeModalWidget());
+                QCOMPARE(Settings::GamePath.value(), game);
+            }
+            QVERIFY(hand.seen.last().contains("already"));
+            QVERIFY(drop({m_files->put("broken.kpf", "x")}));
+            QTRY_VERIFY(hand.seen.last().contains("It is no zip archive"));
+            QCOMPARE(Settings::GamePath.value(), archive);
+        }
+        Settings::GamePath.setValue(before);
 
         // On the static tab a foreign model becomes a static mesh.
         find<QTabWidget>(window, "tabWidget")->setCurrentWidget(find<QWidget>(window, "tabStatic"));

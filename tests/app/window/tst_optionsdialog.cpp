@@ -110,8 +110,8 @@ private slots:
         QVERIFY(made.write(archive));
         OptionsDialog dialog;
         QStringList asked;
-        dialog.setArchiveChooser([&](QWidget *, const QString &title, const QString &) {
-            asked << title;
+        dialog.setArchiveChooser([&](QWidget *, const QString &title, const QString &start) {
+            asked << title << start;
             return archive;
         });
         dialog.show();
@@ -123,14 +123,17 @@ private slots:
         QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
         QCOMPARE(dialog.focusWidget()->objectName(), QStringLiteral("btnGameArchive"));
         QTest::keyClick(dialog.focusWidget(), Qt::Key_Space);
-        QCOMPARE(asked, QStringList("The game's archive, game.kpf"));
+        QCOMPARE(asked, QStringList({"The game's archive, game.kpf", QString()}));
         QCOMPARE(edit->text(), QDir::toNativeSeparators(archive));
         QVERIFY(hint->isHidden());
         QVERIFY(TestSupport::writeFile(archive, "no archive"));
         edit->setFocus();
         QTest::keyClick(edit, Qt::Key_Tab);
-        QVERIFY(hint->isVisible());
+        QTRY_VERIFY(hint->isVisible());
         QCOMPARE(hint->text(), QStringLiteral("It is no zip archive that can be read."));
+        edit->setText(archive + "/models/");
+        QTest::mouseClick(find<QPushButton>(dialog, "btnGameArchive"), Qt::LeftButton);
+        QCOMPARE(asked.last(), archive);
         click(dialog, QDialogButtonBox::Ok); // the drive may just not be there today
         QCOMPARE(Settings::GamePath.value(), archive);
     }

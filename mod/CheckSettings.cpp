@@ -16,28 +16,6 @@ namespace {
 constexpr qint64 MostSettingsBytes = 1024 * 1024;
 constexpr int MostTextureSide = 65536;
 
-QRegularExpression regularOf(const QString &files)
-{
-    QString pattern;
-    for (int i = 0; i < files.size(); ++i) {
-        if (files[i] == QLatin1Char('?')) {
-            pattern += QLatin1String("[^/]");
-        } else if (files[i] != QLatin1Char('*')) {
-            pattern += QRegularExpression::escape(QString(files[i]));
-        } else if (files.midRef(i, 3) == QLatin1String("**/")) {
-            pattern += QLatin1String("(?:.*/)?");
-            i += 2;
-        } else if (files.midRef(i, 2) == QLatin1String("**")) {
-            pattern += QLatin1String(".*");
-            ++i;
-        } else {
-            pattern += QLatin1String("[^/]*");
-        }
-    }
-    return QRegularExpression(QRegularExpression::anchoredPattern(pattern),
-                              QRegularExpression::CaseInsensitiveOption);
-}
-
 int lineOf(const QByteArray &text, int place)
 {
     return 1 + int(std::count(text.begin(), text.begin() + std::min(place, text.size()), '\n'));
@@ -115,7 +93,10 @@ void CheckSettings::readCheck(const QJsonObject &check)
                           .arg(key, tr("a whole number of pixels from 1 to %1").arg(MostTextureSide)));
         } else if (key == QLatin1String("silence") && value.isArray()) {
             const QJsonArray list = value.toArray();
-            for (int i = 0; i < list.size(); ++i) {
+            if (list.size() > MostSilences)
+                doubt(tr("'silence' has more than %1 entries; those behind them silence nothing.")
+                          .arg(MostSilences));
+            for (int i = 0; i < std::min(list.size(), MostSilences); ++i) {
                 if (list[i].isObject())
                     readSilence(list[i].toObject(), i);
                 else
@@ -153,7 +134,10 @@ void CheckSettings::readSilence(const QJsonObject &entry, int place)
     if (!canBeSilenced(silence.rule))
         return doubt(tr("Entry %1 of 'silence' silences nothing: there is no rule '%2' that can be silenced.")
                          .arg(number, silence.rule));
-    silence.pattern = regularOf(silence.files.isEmpty() ? QStringLiteral("**") : silence.files);
+    if (silence.files.size() > FilePattern::MostLetters)
+        return doubt(tr("Entry %1 of 'silence' silences nothing: its pattern has more than %2 letters.")
+                         .arg(number, QString::number(FilePattern::MostLetters)));
+    silence.pattern = FilePattern(silence.files.isEmpty() ? QStringLiteral("**") : silence.files);
     m_silences.push_back(std::move(silence));
 }
 
@@ -166,7 +150,7 @@ const CheckSettings::Silence *CheckSettings::silenceOf(QLatin1String rule, const
 {
     const auto found =
         std::find_if(m_silences.begin(), m_silences.end(), [&rule, &name](const Silence &silence) {
-            return silence.rule == rule && silence.pattern.match(name).hasMatch();
+            return silence.rule == rule && silence.pattern.matches(name);
         });
     return found == m_silences.end() ? nullptr : &*found;
 }

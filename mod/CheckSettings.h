@@ -3,9 +3,9 @@
 #pragma once
 
 #include "FileCheck.h"
+#include "FilePattern.h"
 
 #include <QCoreApplication>
-#include <QRegularExpression>
 
 class QJsonObject;
 
@@ -14,15 +14,15 @@ class QJsonObject;
 ///     {"check": {"largestTexture": 2048,
 ///                "silence": [{"rule": "same-as-game", "files": "models/old/**", "why": "kept on purpose"}]}}
 ///
-/// In a pattern of files `*` and `?` stand for letters of one name, `**` for any folders; case does not
-/// matter. Without "files" a rule is silenced for all of them. What cannot be understood silences nothing and
-/// is a finding.
+/// A pattern of files is a FilePattern. Without "files" a rule is silenced for all of them. What cannot be
+/// understood silences nothing and is a finding.
 class CheckSettings
 {
     Q_DECLARE_TR_FUNCTIONS(CheckSettings)
 
 public:
     static const QString FileName;
+    static constexpr int MostSilences = 1000;   ///< further entries silence nothing
     static constexpr int LargestTexture = 4096; ///< pixels a side, unless the file says otherwise
 
     struct Silence
@@ -31,7 +31,7 @@ public:
         QString files; ///< empty for all
         QString why;
         int place = 0; ///< its number in the list of the file
-        QRegularExpression pattern{};
+        FilePattern pattern{};
     };
 
     CheckSettings() = default;

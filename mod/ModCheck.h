@@ -15,6 +15,9 @@ struct ModFinding : FileFinding
     QString name; ///< of the file or the folder, the path below the mod's
     bool isSilenced = false;
     QString why{}; ///< it is silenced, where the settings say that
+
+    /// Whether it keeps a mod from being packed.
+    bool isError() const { return rule.severity == Severity::Error && !isSilenced; }
 };
 
 /// What is wrong with a mod, by files.

@@ -6,12 +6,14 @@
 #include "ModCheck.h"
 #include "ModelFile.h"
 #include "Output.h"
+#include "PackedCheck.h"
 #include "SarifLog.h"
 #include "Verbs.h"
 
 #include <QDir>
 #include <QJsonObject>
 
+#include <algorithm>
 #include <climits>
 #include <map>
 
@@ -225,10 +227,9 @@ bool checkFiles(const QStringList &operands, const MaterialFolders &folders, int
     return failed;
 }
 
-/// Checks a mod as a whole. Of files without findings only those are told that were read.
-bool checkMod(const QString &mod, const MaterialFolders &folders, int listed, CheckOutput &output)
+/// Of files without findings only those are told that were read.
+void tell(const ModReport &report, const QString &mod, CheckOutput &output)
 {
-    const ModReport report = ModCheck({folders.gamePath, mod}, ReferenceIds::load(), listed).run();
     output.setFiles(report.files);
     std::map<QString, CheckedFile> files;
     for (const QString &path : report.checked)
@@ -240,11 +241,33 @@ bool checkMod(const QString &mod, const MaterialFolders &folders, int listed, Ch
     }
     for (const auto &[path, file] : files)
         output.add(file);
+}
+
+/// Checks a mod as a whole.
+bool checkMod(const QString &mod, const MaterialFolders &folders, int listed, CheckOutput &output)
+{
+    const ModReport report = ModCheck({folders.gamePath, mod}, ReferenceIds::load(), listed).run();
+    tell(report, mod, output);
     if (report.files == 0)
         Output::complain(QStringLiteral("%1: There is no file to check in this folder.").arg(mod));
     return report.files == 0;
 }
 } // namespace
+
+bool findsErrors(const MaterialFolders &folders, const QSet<QString> &names,
+                 const std::function<bool()> &goesOn)
+{
+    ModCheck check(folders, ReferenceIds::load(), ListedFindings,
+                   [&goesOn](qint64, qint64) { return goesOn(); });
+    ModReport report = check.run();
+    const auto isLeftOut = [&names](const ModFinding &finding) { return !names.contains(finding.name); };
+    report.findings.erase(std::remove_if(report.findings.begin(), report.findings.end(), isLeftOut),
+                          report.findings.end());
+    report.files = names.size();
+    CheckOutput output(QStringLiteral("text"), true);
+    tell(report, folders.outputDir, output);
+    return output.finish();
+}
 
 int check(const QStringList &arguments)
 {

@@ -6,6 +6,7 @@
 #include "ModelFile.h"
 #include "Output.h"
 #include "PackList.h"
+#include "PackedCheck.h"
 #include "ReplacedFiles.h"
 #include "Settings.h"
 #include "Verbs.h"
@@ -13,6 +14,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonObject>
+#include <QSet>
 
 namespace {
 QString counted(size_t count)
@@ -42,20 +44,6 @@ QJsonArray asJson(const PackList &list)
     return array;
 }
 
-/// The same as the verb of that name, of all that is packed and can be checked. Returns true where it finds
-/// an error.
-bool findsErrors(const PackList &list, const MaterialFolders &folders)
-{
-    QStringList arguments{QStringLiteral("--game-path"), folders.gamePath, QStringLiteral("--mod-path"),
-                          folders.outputDir, QStringLiteral("--")};
-    const int options = arguments.size();
-    for (const PackedFile &file : list.files) {
-        if (isReadable(file.path))
-            arguments += file.path;
-    }
-    return arguments.size() > options && check(arguments) != Fine;
-}
-
 int write(const PackList &list, const QString &target, const std::atomic_bool &interrupted)
 {
     const PackEnd end = writePack(list, target, [&interrupted](qint64) { return !interrupted; });
@@ -81,7 +69,7 @@ int pack(const QStringList &arguments)
     line.flag(QStringLiteral("list"), QStringLiteral("Say what would be packed, and write nothing."));
     line.flag(QStringLiteral("json"), QStringLiteral("With --list: write an array of objects, one a file."));
     line.flag(QStringLiteral("with-errors"),
-              QStringLiteral("Pack what 'korvane-tool check' finds errors in, too."));
+              QStringLiteral("Pack what 'korvane-tool check --mod' finds errors in, too."));
     line.option({QStringLiteral("leave-out")}, QStringLiteral("pattern"),
                 QStringLiteral("Leave out files of such names, with * and ?, or such paths below the mod's "
                                "folder. May stand there more than once."));
@@ -136,12 +124,18 @@ int pack(const QStringList &arguments)
     }
     if (lists || !isPossible)
         return isPossible ? Fine : Failed;
-    if (findsErrors(list, folders) && !line.isSet(QStringLiteral("with-errors"))) {
+    const std::atomic_bool &interrupted = interruption();
+    QSet<QString> names;
+    for (const PackedFile &file : list.files)
+        names.insert(file.name);
+    const bool hasErrors = findsErrors(folders, names, [&interrupted] { return !interrupted; });
+    if (interrupted)
+        return Interrupted;
+    if (hasErrors && !line.isSet(QStringLiteral("with-errors"))) {
         Output::complain(
             QStringLiteral("%1: Nothing was packed, for errors; --with-errors packs all the same.").arg(mod));
         return Failed;
     }
-    const std::atomic_bool &interrupted = interruption();
     tell(list);
     const int exitCode = write(list, target, interrupted);
     if (exitCode == Fine)

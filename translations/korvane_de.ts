@@ -1465,6 +1465,14 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>Entry %1 of &apos;silence&apos; silences nothing: there is no rule &apos;%2&apos; that can be silenced.</source>
         <translation>Eintrag %1 von „silence“ schaltet nichts stumm: Es gibt keine Regel „%2“, die stummgeschaltet werden kann.</translation>
     </message>
+    <message>
+        <source>&apos;silence&apos; has more than %1 entries; those behind them silence nothing.</source>
+        <translation>„silence“ hat mehr als %1 Einträge; die dahinter schalten nichts stumm.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of &apos;silence&apos; silences nothing: its pattern has more than %2 letters.</source>
+        <translation>Eintrag %1 von „silence“ schaltet nichts stumm: Sein Muster hat mehr als %2 Zeichen.</translation>
+    </message>
 </context>
 <context>
     <name>CheckSign</name>

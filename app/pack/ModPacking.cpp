@@ -41,7 +41,7 @@ std::optional<std::vector<PackError>> checkMod(const MaterialFolders &folders, Q
         });
         std::vector<PackError> errors;
         for (const ModFinding &finding : check.run().findings) {
-            if (finding.rule.severity == Severity::Error && !finding.isSilenced)
+            if (finding.isError())
                 errors.push_back({finding.name, finding.text});
         }
         return errors;

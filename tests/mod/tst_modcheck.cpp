@@ -134,6 +134,14 @@ private slots:
               R"([{"rule": "texture-not-power-of-two", "files": ""}])", R"(["texture-not-power-of-two"])",
               R"({"rule": "texture-not-power-of-two"})", R"([{"rule": "settings-unknown"}])"})
             QTest::newRow(list) << QByteArray(list) << false << 1;
+        const QByteArray entry = R"({"rule": "texture-not-power-of-two", "files": "%"})";
+        const QByteArray stars = QByteArray("*a").repeated(499);
+        QTest::newRow("stars") << '[' + QByteArray(entry).replace('%', stars + 'b') + ']' << false << 0;
+        QTest::newRow("too long") << '[' + QByteArray(entry).replace('%', "**" + stars + "*") + ']' << false
+                                  << 1;
+        QTest::newRow("too many") << '[' + (QByteArray(entry).replace('%', "x") + ',').repeated(1000) +
+                                         QByteArray(entry).replace('%', "**") + ']'
+                                  << false << 1;
     }
     void silences()
     {

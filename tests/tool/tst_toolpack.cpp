@@ -93,6 +93,14 @@ private slots:
         QCOMPARE(ToolRun("pack --force --with-errors", {m_folder.path("broken"), "-o", target}).exitCode, 0);
         QVERIFY(Files::isFile(target + "/half.anim"));
 
+        // What the mod silences stops nothing, and is told.
+        m_folder.put("broken/.korvane.json",
+                     R"({"check": {"silence": [{"rule": "unreadable", "files": "half*", "why": "so"}]}})");
+        const ToolRun silenced("pack --force", {m_folder.path("broken"), "-o", target});
+        QCOMPARE(silenced.exitCode, 0);
+        QVERIFY(silenced.out.contains("half.anim: error: ") && silenced.out.contains("(silenced: so)"));
+        QVERIFY(silenced.out.contains("2 files checked: 0 errors"));
+
         QDir(m_folder.path()).mkdir("empty");
         const QString none = m_folder.path("none.kpf");
         QVERIFY(ToolRun("pack", {m_folder.path("empty"), "-o", none}).err.contains("no file to pack"));

@@ -9,7 +9,6 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QProcessEnvironment>
 
 namespace {
 constexpr int WatchInterval = 200; // milliseconds
@@ -31,35 +30,20 @@ ImportWorker::ImportWorker(QObject *parent)
     , m_program(workerProgram())
 {
     // File names in UTF-8 and numbers with a point, whatever the desktop speaks.
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    m_environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     // Its messages are shown, so they are to be in the language of the program that starts it.
-    environment.insert(QStringLiteral("KORVANE_LANGUAGE"), Language::installed());
-    m_process.setProcessEnvironment(environment);
-    m_process.setStandardOutputFile(QProcess::nullDevice());
-    m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    m_process.setStandardInputFile(QProcess::nullDevice());
-    m_bounds.prepare(m_process);
+    m_environment.insert(QStringLiteral("KORVANE_LANGUAGE"), Language::installed());
     m_limit.setSingleShot(true);
     m_watch.setInterval(WatchInterval);
     connect(&m_watch, &QTimer::timeout, this, [this] {
         if (m_folder->holdsMoreThan(MostWritten))
             stop(tr("It wrote more than any model needs."));
     });
-    connect(&m_process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
-            &ImportWorker::onProcessFinished);
-    connect(&m_process, &QProcess::errorOccurred, this, &ImportWorker::onProcessError);
+    connect(&m_process, &WorkerProcess::ended, this, &ImportWorker::onProcessEnded);
     connect(&m_limit, &QTimer::timeout, this, [this] {
         const QString reason = tr("It took longer than %1 s.").arg(m_timeLimit / 1000);
         stop(m_timeAdvice.isEmpty() ? reason : reason + QLatin1Char(' ') + m_timeAdvice);
     });
-}
-
-ImportWorker::~ImportWorker()
-{
-    m_process.disconnect(this);
-    m_process.kill();
-    m_process.waitForFinished();
 }
 
 void ImportWorker::start(const WorkerJob &job)
@@ -118,8 +102,10 @@ void ImportWorker::launch()
 {
     m_limit.start(m_timeLimit);
     m_watch.start();
-    m_process.start(m_program, {m_folder->path()});
-    m_bounds.take(m_process, m_job.memoryLimitMiB, 1000 * qint64(m_job.secondsLimit));
+    const QString lack = m_process.start(m_program, m_folder->path(), m_environment,
+                                         {m_job.memoryLimitMiB, 1000 * qint64(m_job.secondsLimit)});
+    if (!lack.isEmpty())
+        finish(tr("'%1' could not be started: %2").arg(m_program, lack));
 }
 
 void ImportWorker::cancel()
@@ -135,18 +121,11 @@ void ImportWorker::stop(const QString &reason)
     m_process.kill();
 }
 
-void ImportWorker::onProcessError(QProcess::ProcessError error)
-{
-    // Of every other error the end of the process tells.
-    if (error == QProcess::FailedToStart)
-        finish(tr("'%1' could not be started: %2").arg(m_program, m_process.errorString()));
-}
-
-void ImportWorker::onProcessFinished(int exitCode, QProcess::ExitStatus status)
+void ImportWorker::onProcessEnded(int exitCode, bool isCrash)
 {
     if (!m_stopReason.isEmpty())
         finish(m_stopReason);
-    else if (status == QProcess::CrashExit || ProcessBounds::isCrash(exitCode))
+    else if (isCrash)
         finish(tr("The process that reads foreign files crashed on it."));
     else if (exitCode != EXIT_SUCCESS || WorkerFolder(m_folder->path()).read(m_answer))
         finish(tr("The process that reads foreign files gave no answer."));

@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ProcessBounds.h"
 #include "TemporaryFolder.h"
 #include "WorkerJob.h"
+#include "WorkerProcess.h"
 
 #include <QElapsedTimer>
 #include <QObject>
-#include <QProcess>
 #include <QTimer>
 
 #include <memory>
@@ -22,7 +21,6 @@ class ImportWorker : public QObject
 
 public:
     explicit ImportWorker(QObject *parent = nullptr);
-    ~ImportWorker() override;
 
     /// The worker's executable; by default the one beside the running program, or
     /// the one that the environment names in KORVANE_IMPORT_WORKER.
@@ -68,8 +66,7 @@ private:
     bool hasMoreTextures();
     void complete();
     void tellLacking() const;
-    void onProcessFinished(int exitCode, QProcess::ExitStatus status);
-    void onProcessError(QProcess::ProcessError error);
+    void onProcessEnded(int exitCode, bool isCrash);
     void stop(const QString &reason);
     void finish(const QString &failure);
 
@@ -78,8 +75,8 @@ private:
     QString m_timeAdvice;
     WorkerJob m_job;
     std::unique_ptr<TemporaryFolder> m_folder;
-    QProcess m_process;
-    ProcessBounds m_bounds;
+    QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
+    WorkerProcess m_process;
     QTimer m_limit;
     QTimer m_watch; ///< looks how much the process has written
     QElapsedTimer m_elapsed;

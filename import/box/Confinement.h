@@ -22,6 +22,6 @@ constexpr qint64 MostBytesOfFile = qint64(1) << 30;
 void closeInherited();
 
 /// Takes care that this process, which has one thread, harms nobody, and that it does not outlive the editor:
-/// what it can do by itself, beside what the editor does from outside (ProcessBounds.h). It ends by itself
+/// what it can do by itself, beside what the editor does from outside (WorkerProcess.h). It ends by itself
 /// only. Gives the names of what this system lacks for that.
 QStringList confine(const Confinement &kept);

@@ -4,7 +4,7 @@
 
 #include <windows.h>
 
-void closeInherited() {} // ProcessBounds lets nothing be inherited
+void closeInherited() {} // WorkerProcess lets nothing be inherited
 
 QStringList confine(const Confinement &)
 {

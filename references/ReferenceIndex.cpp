@@ -3,94 +3,20 @@
 #include "ReferenceIndex.h"
 
 #include "FileSystem.h"
-#include "Files.h"
+#include "FolderListing.h"
 #include "ReferenceReading.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QThreadPool>
 
 #include <algorithm>
 #include <utility>
 
 namespace {
-/// More files than this are none of a game, but somebody's disk.
-constexpr size_t MostIndexedFiles = 200000;
-
-/// The folder of game or mod as it is walked, and as it is compared.
-struct IndexedRoot
-{
-    QString path; ///< empty where there is none
-    QString real; ///< what links lead to, with a slash behind
-
-    explicit IndexedRoot(const QString &folder)
-    {
-        if (folder.isEmpty() || !Files::isFolder(folder))
-            return;
-        path = QDir::cleanPath(QDir(folder).absolutePath());
-        real = realPath(path) + QLatin1Char('/');
-    }
-
-    bool contains(const IndexedRoot &other) const
-    {
-        return !path.isEmpty() && !other.path.isEmpty() && other.real.startsWith(real);
-    }
-
-private:
-    static QString realPath(const QString &folder)
-    {
-        const QString canonical = QFileInfo(folder).canonicalFilePath();
-        return FileSystem::comparable(canonical.isEmpty() ? folder : canonical);
-    }
-};
-
-/// A file before it is known what it names.
-struct ListedFile
-{
-    QString path, relative;
-    bool isMod;
-    IndexedType type;
-    FileStamp stamp{};
-};
-
-void listFiles(const IndexedRoot &root, const QString &without, bool isMod,
-               const std::atomic_bool &isCancelled, std::vector<ListedFile> &files)
-{
-    if (root.path.isEmpty())
-        return;
-    const int start = root.path.endsWith(QLatin1Char('/')) ? root.path.size() : root.path.size() + 1;
-    Files::walk(root.path, [&](const FolderEntry &entry) {
-        const auto type = entry.isFolder ? std::nullopt : indexedTypeOf(entry.path);
-        const QString relative = type ? entry.path.mid(start) : QString();
-        if (type && (without.isEmpty() || !FileSystem::comparable(relative).startsWith(without)))
-            files.push_back({entry.path, relative, isMod, *type, {}});
-        return !isCancelled && files.size() < MostIndexedFiles;
-    });
-}
-
-/// All files of both folders. Where one of these lies in the other one, its files are its own and none of the
-/// other's; where they are one, they are the game's.
-std::vector<ListedFile> listFiles(const MaterialFolders &folders, const std::atomic_bool &isCancelled)
-{
-    const IndexedRoot game(folders.gamePath);
-    const IndexedRoot mod(folders.outputDir);
-    std::vector<ListedFile> files;
-    const auto inner = [](const IndexedRoot &outer, const IndexedRoot &other) {
-        return outer.contains(other) ? other.real.mid(outer.real.size()) : QString();
-    };
-    listFiles(game, inner(game, mod), false, isCancelled, files);
-    if (game.path.isEmpty() || mod.real != game.real)
-        listFiles(mod, inner(mod, game), true, isCancelled, files);
-    std::sort(files.begin(), files.end(),
-              [](const ListedFile &a, const ListedFile &b) { return a.path < b.path; });
-    return files;
-}
-
-FileNamingPtr namingAsItIs(const ListedFile &listed, const ReferenceIndexPtr &known, IndexProgress &progress)
+FileNamingPtr namingAsItIs(const ListedFile &listed, const FileStamp &stamp, const ReferenceIndexPtr &known,
+                           IndexProgress &progress)
 {
     const FileNamingPtr kept = known ? known->fileAt(listed.path) : nullptr;
-    if (kept && kept->stamp == listed.stamp && kept->relative == listed.relative &&
-        kept->isMod == listed.isMod)
+    if (kept && kept->stamp == stamp && kept->relative == listed.relative && kept->isMod == listed.isMod)
         return kept;
     ++progress.read;
     FileNaming file;
@@ -98,7 +24,7 @@ FileNamingPtr namingAsItIs(const ListedFile &listed, const ReferenceIndexPtr &kn
     file.relative = listed.relative;
     file.isMod = listed.isMod;
     file.type = listed.type;
-    file.stamp = listed.stamp;
+    file.stamp = stamp;
     readNaming(file);
     return std::make_shared<const FileNaming>(std::move(file));
 }
@@ -232,6 +158,19 @@ std::vector<ReferenceIndex::Unused> ReferenceIndex::unusedTextures() const
     return unused;
 }
 
+QSet<QString> ReferenceIndex::unusedFiles() const
+{
+    QSet<QString> paths;
+    for (const Unused &texture : unusedTextures())
+        paths.insert(texture.file->path);
+    QHash<QString, int> materials; // that nobody names, by their files
+    for (const Unused &material : unusedMaterials()) {
+        if (++materials[material.file->path] == material.file->materials.size())
+            paths.insert(material.file->path);
+    }
+    return paths;
+}
+
 QSet<int> ReferenceIndex::numbersNamed(NamedKind kind) const
 {
     QSet<int> numbers;
@@ -249,14 +188,15 @@ ReferenceIndexPtr makeReferenceIndex(const MaterialFolders &folders,
                                      const std::atomic_bool &isCancelled, IndexProgress &progress,
                                      int threads)
 {
-    std::vector<ListedFile> files = listFiles(folders, isCancelled);
+    const std::vector<ListedFile> files = listFolders(folders, isCancelled).files;
+    std::vector<FileStamp> stamps(files.size());
     progress.files = int(files.size());
     forEach(files.size(), threads, isCancelled,
-            [&](size_t at) { files[at].stamp = FileStamp::of(files[at].path); });
+            [&](size_t at) { stamps[at] = FileStamp::of(files[at].path); });
     std::vector<FileNamingPtr> namings(files.size());
     const ReferenceIndexPtr before = known();
     forEach(files.size(), threads, isCancelled, [&](size_t at) {
-        namings[at] = namingAsItIs(files[at], before, progress);
+        namings[at] = namingAsItIs(files[at], stamps[at], before, progress);
         ++progress.done;
     });
     return isCancelled ? nullptr : std::make_shared<const ReferenceIndex>(folders, std::move(namings));

@@ -60,6 +60,9 @@ public:
     };
     std::vector<Unused> unusedMaterials() const;
     std::vector<Unused> unusedTextures() const;
+    /// The paths of the pictures that no material names, and of the material files that have materials of
+    /// which no model names one.
+    QSet<QString> unusedFiles() const;
     /// The numbers of a kind that some file names.
     QSet<int> numbersNamed(NamedKind kind) const;
 

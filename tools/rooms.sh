@@ -32,7 +32,7 @@ batch app/documents app/choice app/materials gltf import/scene render/input tool
 render import/ready
 pictures
 app/tree app/view app/timeline app/explorer app/recovery app/console
-app/tree/pages app/find app/references app/table app/uv app/curves app/motion app/problems app/compare app/database app/import app/pack app/kmat
+app/tree/pages app/find app/references app/browser app/table app/uv app/curves app/motion app/problems app/compare app/database app/import app/pack app/kmat
 app/window
 app tool import/worker'
 

@@ -1191,6 +1191,149 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     </message>
 </context>
 <context>
+    <name>BrowserDock</name>
+    <message>
+        <source>Parts of names and folders</source>
+        <translation>Teile von Namen und Ordnern</translation>
+    </message>
+    <message>
+        <source>Show only files that have all of these words in their path</source>
+        <translation>Nur Dateien zeigen, in deren Pfad alle diese Wörter stehen</translation>
+    </message>
+    <message>
+        <source>How files are listed</source>
+        <translation>Wie Dateien aufgelistet werden</translation>
+    </message>
+    <message>
+        <source>Show skinned meshes</source>
+        <translation>Skin-Meshes zeigen</translation>
+    </message>
+    <message>
+        <source>Show animations</source>
+        <translation>Animationen zeigen</translation>
+    </message>
+    <message>
+        <source>Show static meshes</source>
+        <translation>Statische Meshes zeigen</translation>
+    </message>
+    <message>
+        <source>Show material files</source>
+        <translation>Materialdateien zeigen</translation>
+    </message>
+    <message>
+        <source>Show textures</source>
+        <translation>Texturen zeigen</translation>
+    </message>
+    <message>
+        <source>%1; without any of these buttons, all kinds are shown</source>
+        <translation>%1; ist keiner dieser Knöpfe gedrückt, sind alle Arten zu sehen</translation>
+    </message>
+    <message>
+        <source>Which files</source>
+        <translation>Welche Dateien</translation>
+    </message>
+    <message>
+        <source>All Files</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>In the Mod</source>
+        <translation>Im Mod</translation>
+    </message>
+    <message>
+        <source>In the Game</source>
+        <translation>Im Spiel</translation>
+    </message>
+    <message>
+        <source>Replace the Game&apos;s</source>
+        <translation>Ersetzen die des Spiels</translation>
+    </message>
+    <message>
+        <source>Unused</source>
+        <translation>Unbenutzt</translation>
+    </message>
+    <message>
+        <source>Files of the mod that have the name of one of the game</source>
+        <translation>Dateien des Mods, die wie eine des Spiels heißen</translation>
+    </message>
+    <message>
+        <source>Textures that no material names, and materials that no model names</source>
+        <translation>Texturen, die kein Material nennt, und Materialien, die kein Modell nennt</translation>
+    </message>
+    <message>
+        <source>Reading the folders of game and mod</source>
+        <translation>Die Ordner von Spiel und Mod werden gelesen</translation>
+    </message>
+    <message>
+        <source>Give up reading the folders of game and mod</source>
+        <translation>Das Lesen der Ordner von Spiel und Mod abbrechen</translation>
+    </message>
+    <message>
+        <source>By &amp;Name</source>
+        <translation>Nach &amp;Name</translation>
+    </message>
+    <message>
+        <source>By &amp;Kind</source>
+        <translation>Nach &amp;Art</translation>
+    </message>
+    <message>
+        <source>By &amp;Folder</source>
+        <translation>Nach &amp;Ordner</translation>
+    </message>
+    <message>
+        <source>There are no folders of game and mod.</source>
+        <translation>Es gibt keine Ordner von Spiel und Mod.</translation>
+    </message>
+    <message>
+        <source>Name them in the options</source>
+        <translation>In den Optionen angeben</translation>
+    </message>
+    <message>
+        <source>The folders of game and mod are being read.</source>
+        <translation>Die Ordner von Spiel und Mod werden gelesen.</translation>
+    </message>
+    <message>
+        <source>The folders of game and mod were not read to the end.</source>
+        <translation>Die Ordner von Spiel und Mod wurden nicht zu Ende gelesen.</translation>
+    </message>
+    <message>
+        <source>Read them</source>
+        <translation>Lesen</translation>
+    </message>
+    <message>
+        <source>The folders of game and mod hold no models, animations, materials or textures.</source>
+        <translation>Die Ordner von Spiel und Mod enthalten keine Modelle, Animationen, Materialien oder Texturen.</translation>
+    </message>
+    <message>
+        <source>Name others in the options</source>
+        <translation>Andere in den Optionen angeben</translation>
+    </message>
+    <message>
+        <source>It is not known yet what is unused: the files are being read.</source>
+        <translation>Es ist noch nicht bekannt, was unbenutzt ist: Die Dateien werden gelesen.</translation>
+    </message>
+    <message>
+        <source>It is not known what is unused, since the files were not read.</source>
+        <translation>Es ist nicht bekannt, was unbenutzt ist, da die Dateien nicht gelesen wurden.</translation>
+    </message>
+    <message>
+        <source>No file is like that.</source>
+        <translation>Keine Datei ist so.</translation>
+    </message>
+    <message>
+        <source>Show all files</source>
+        <translation>Alle Dateien zeigen</translation>
+    </message>
+    <message>
+        <source>Files: %1</source>
+        <translation>Dateien: %1</translation>
+    </message>
+    <message>
+        <source>Files: %1 of %2</source>
+        <translation>Dateien: %1 von %2</translation>
+    </message>
+</context>
+<context>
     <name>CameraMenu</name>
     <message>
         <source>&amp;Camera</source>
@@ -2960,6 +3103,56 @@ Ohne diese Eingabe fortfahren?</translation>
     </message>
 </context>
 <context>
+    <name>FileList</name>
+    <message>
+        <source>Files of game and mod</source>
+        <translation>Dateien von Spiel und Mod</translation>
+    </message>
+</context>
+<context>
+    <name>FileMenu</name>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Öffnen</translation>
+    </message>
+    <message>
+        <source>Open this file, or show the texture</source>
+        <translation>Diese Datei öffnen oder die Textur zeigen</translation>
+    </message>
+    <message>
+        <source>Open Containing &amp;Folder</source>
+        <translation>Enthaltenden O&amp;rdner öffnen</translation>
+    </message>
+    <message>
+        <source>Show the folder in the desktop&apos;s file manager</source>
+        <translation>Den Ordner in der Dateiverwaltung des Desktops zeigen</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Name</source>
+        <translation>&amp;Namen kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the name by which models and materials name this file, below the folder of game or mod</source>
+        <translation>Den Namen kopieren, mit dem Modelle und Materialien diese Datei nennen, unterhalb des Ordners von Spiel oder Mod</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>&amp;Pfad kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the full path to the clipboard</source>
+        <translation>Den vollen Pfad in die Zwischenablage kopieren</translation>
+    </message>
+    <message>
+        <source>Mod Browser</source>
+        <translation>Mod-Browser</translation>
+    </message>
+    <message>
+        <source>Failed to open %1</source>
+        <translation>%1 konnte nicht geöffnet werden</translation>
+    </message>
+</context>
+<context>
     <name>FileNames</name>
     <message>
         <source>&apos;%1&apos; cannot be a name on Windows: it is that of a device, ends in a dot or a blank, or holds one of &lt; &gt; : &quot; \ | ? *</source>
@@ -2971,6 +3164,37 @@ Ohne diese Eingabe fortfahren?</translation>
     <message>
         <source>Failed to open %1</source>
         <translation>%1 konnte nicht geöffnet werden</translation>
+    </message>
+</context>
+<context>
+    <name>FilePalette</name>
+    <message>
+        <source>Go to File</source>
+        <translation>Gehe zu Datei</translation>
+    </message>
+    <message>
+        <source>Which file: parts of its name and folders</source>
+        <translation>Welche Datei: Teile ihres Namens und ihrer Ordner</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>There are no folders of game and mod. Edit ▸ Options… names them.</source>
+        <translation>Es gibt keine Ordner von Spiel und Mod. Bearbeiten ▸ Optionen… gibt sie an.</translation>
+    </message>
+    <message>
+        <source>The folders of game and mod are being read.</source>
+        <translation>Die Ordner von Spiel und Mod werden gelesen.</translation>
+    </message>
+    <message>
+        <source>No file has these words in its path.</source>
+        <translation>Keine Datei hat diese Wörter in ihrem Pfad.</translation>
+    </message>
+    <message>
+        <source>Files: %1 of %2</source>
+        <translation>Dateien: %1 von %2</translation>
     </message>
 </context>
 <context>
@@ -3019,6 +3243,73 @@ Ohne diese Eingabe fortfahren?</translation>
 Lists the replacements, to end or undo it</source>
         <translation>Eine Ersetzung in %1 Dateien wurde abgebrochen: %2
 Führt die Ersetzungen auf, um sie zu Ende zu führen oder rückgängig zu machen</translation>
+    </message>
+</context>
+<context>
+    <name>FileRows</name>
+    <message>
+        <source>Skinned mesh</source>
+        <translation>Skin-Mesh</translation>
+    </message>
+    <message>
+        <source>Animation</source>
+        <translation>Animation</translation>
+    </message>
+    <message>
+        <source>Static mesh</source>
+        <translation>Statisches Mesh</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>Materialien</translation>
+    </message>
+    <message>
+        <source>Texture</source>
+        <translation>Textur</translation>
+    </message>
+    <message>
+        <source>Replaces game&apos;s</source>
+        <translation>Ersetzt die des Spiels</translation>
+    </message>
+    <message>
+        <source>Mod</source>
+        <translation>Mod</translation>
+    </message>
+    <message>
+        <source>Replaced by mod</source>
+        <translation>Vom Mod ersetzt</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Spiel</translation>
+    </message>
+    <message>
+        <source>%1, unused</source>
+        <translation>%1, unbenutzt</translation>
+    </message>
+    <message>
+        <source>In the mod, in the place of the game&apos;s file of this name</source>
+        <translation>Im Mod, an Stelle der Datei des Spiels mit diesem Namen</translation>
+    </message>
+    <message>
+        <source>In the mod</source>
+        <translation>Im Mod</translation>
+    </message>
+    <message>
+        <source>In the game; the mod has a file of this name in its place</source>
+        <translation>Im Spiel; der Mod hat eine Datei dieses Namens an ihrer Stelle</translation>
+    </message>
+    <message>
+        <source>In the game</source>
+        <translation>Im Spiel</translation>
+    </message>
+    <message>
+        <source>No material of game and mod names this texture</source>
+        <translation>Kein Material von Spiel und Mod nennt diese Textur</translation>
+    </message>
+    <message>
+        <source>No model of game and mod names a material of this file</source>
+        <translation>Kein Modell von Spiel und Mod nennt ein Material dieser Datei</translation>
     </message>
 </context>
 <context>
@@ -4948,6 +5239,18 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>Compare Game and Mod</source>
         <translation>Spiel und Mod vergleichen</translation>
+    </message>
+    <message>
+        <source>Mod Browser</source>
+        <translation>Mod-Browser</translation>
+    </message>
+    <message>
+        <source>Go &amp;to File…</source>
+        <translation>Ge&amp;he zu Datei…</translation>
+    </message>
+    <message>
+        <source>Find any file of game and mod by its name, and open it</source>
+        <translation>Jede Datei von Spiel und Mod nach ihrem Namen finden und öffnen</translation>
     </message>
 </context>
 <context>
@@ -7414,6 +7717,21 @@ Wo keine Datei ist, bleibt es still.</translation>
     <message>
         <source>Folder for the Pictures</source>
         <translation>Ordner für die Bilder</translation>
+    </message>
+</context>
+<context>
+    <name>PicturePopup</name>
+    <message>
+        <source>The texture is being read.</source>
+        <translation>Die Textur wird gelesen.</translation>
+    </message>
+    <message>
+        <source>The texture cannot be read.</source>
+        <translation>Die Textur kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>%1 × %2, %3</source>
+        <translation>%1 × %2, %3</translation>
     </message>
 </context>
 <context>
@@ -12139,6 +12457,13 @@ Nichts wurde geändert. %2</translation>
 %1</source>
         <translation>Dies ist keine Webseite und wurde daher nicht geöffnet:
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>WhereUsed</name>
+    <message>
+        <source>Files name materials and textures: select one of these</source>
+        <translation>Dateien nennen Materialien und Texturen: Wählen Sie eine davon</translation>
     </message>
 </context>
 <context>

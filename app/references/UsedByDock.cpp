@@ -135,16 +135,18 @@ void UsedByDock::setCurrent(const Document *document)
     follow();
 }
 
-void UsedByDock::open(const std::optional<NamedThing> &thing)
+void UsedByDock::open(std::vector<NamedThing> things)
 {
     show();
     raise();
     follow();
-    if (thing) {
+    if (!things.empty()) {
+        const NamedThing &first = things.front();
         const auto same = std::find_if(m_things.begin(), m_things.end(),
-                                       [&thing](const NamedThing &each) { return each.isSame(*thing); });
-        if (same == m_things.end())
-            setThings({*thing});
+                                       [&first](const NamedThing &each) { return each.isSame(first); });
+        m_isAsked = same == m_things.end() || things.size() > 1;
+        if (m_isAsked)
+            setThings(std::move(things));
         else
             m_thing->setCurrentIndex(int(same - m_things.begin()));
     }
@@ -195,6 +197,7 @@ void UsedByDock::follow()
 {
     if (!isVisible() || m_isLeading)
         return;
+    m_isAsked = false;
     std::vector<NamedThing> things = thingsOfCurrent();
     if (!things.empty())
         setThings(std::move(things));
@@ -247,7 +250,8 @@ void UsedByDock::lookUp()
 void UsedByDock::onIndexChanged()
 {
     if (!m_keeper->isRunning()) {
-        follow(); // a texture may be known by now
+        if (!m_isAsked)
+            follow(); // a texture may be known by now
         lookUp();
     }
     updateState();

@@ -33,12 +33,14 @@ public:
     /// The document in front; none on a tab without one.
     void setCurrent(const Document *document);
 
-    /// Comes up with the uses of what the current record names; of `thing` first, if there is one.
-    void open(const std::optional<NamedThing> &thing = {});
+    /// Comes up with the uses of what the current record names, or of these things.
+    void open(std::vector<NamedThing> things = {});
     /// While it is set, records become current because the list led to them, and it stays as it is.
     void setLeading(bool on) { m_isLeading = on; }
     /// Looks for files that have changed, now or as soon as the dock is seen.
     void refresh();
+    /// Has the index that the list is made of.
+    IndexKeeper &keeper() const { return *m_keeper; }
 
 signals:
     /// A model is to be opened, and its record to be shown.
@@ -76,5 +78,6 @@ private:
     std::array<KVTreeView *, 3> m_trees{};
     const Document *m_current = nullptr;
     bool m_isStale = true;    ///< files may have changed while nobody looked
+    bool m_isAsked = false;   ///< what is listed was asked for, and is not what the record names
     bool m_isLeading = false; ///< a record is current because the list led there
 };

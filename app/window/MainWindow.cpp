@@ -5,6 +5,7 @@
 #include "AboutDialog.h"
 #include "AnimationCommands.h"
 #include "AnimationFollower.h"
+#include "BrowserPane.h"
 #include "CommandPalette.h"
 #include "ConsoleButton.h"
 #include "ConsoleLog.h"
@@ -101,6 +102,7 @@ MainWindow::MainWindow(QWidget *parent)
     animations->addToContext(*structure->menu(DocumentType::Anim));
     connect(animations, &AnimationCommands::documentWanted, m_panes, &DocumentPanes::showPane);
     new WhereUsed(*m_ui, *m_files, *m_panes, m_skinnedMesh, m_anim, m_staticMesh, *structure, this);
+    new BrowserPane(*m_ui, *m_files, *m_panes, this);
     m_paneKeys = new PaneKeys(*m_ui, this);
     m_ui->menuView->insertMenu(m_ui->actionFullScreen, m_paneKeys);
     m_importExport->addExports(*m_ui->menuFile, *m_ui->actionExport, *m_ui->treeAnim);
@@ -261,6 +263,7 @@ void MainWindow::connectActions()
     connect(textures, &TextureWatch::reloaded, m_panes, &DocumentPanes::OnMaterialsChanged);
     connect(textures, &TextureWatch::reloaded, m_ui->dockUv, &UvDock::reload);
     connect(textures, &TextureWatch::reloaded, m_ui->dockUsedBy, &UsedByDock::refresh);
+    connect(textures, &TextureWatch::reloaded, m_ui->dockBrowser, &BrowserDock::refresh);
     connect(m_preferences, &Preferences::accepted, m_panes, &DocumentPanes::OnOptionsAccepted);
     connect(m_preferences, &Preferences::accepted, m_explorerFiles, &ExplorerFiles::OnOptionsAccepted);
     connect(m_panes, &DocumentPanes::currentChanged, m_layout,

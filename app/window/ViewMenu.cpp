@@ -39,12 +39,12 @@ ViewMenu::ViewMenu(const Ui::MainWindow &ui, const DocumentPanes &panes, QAction
     addLookMenu(*menu);
     menu->addSeparator();
     menu->addActions({ui.toolBarFile->toggleViewAction(), ui.toolBarEdit->toggleViewAction(),
-                      ui.dockConsole->toggleViewAction(), ui.dockProblems->toggleViewAction(),
-                      ui.dockFind->toggleViewAction(), ui.dockUsedBy->toggleViewAction(),
-                      ui.dockCompare->toggleViewAction(), ui.dockTable->toggleViewAction(),
-                      ui.dockUv->toggleViewAction(), ui.dockCurves->toggleViewAction(),
-                      ui.dockMaterials->toggleViewAction(), ui.dockHistory->toggleViewAction(),
-                      ui.dockServers->toggleViewAction()});
+                      ui.dockBrowser->toggleViewAction(), ui.dockConsole->toggleViewAction(),
+                      ui.dockProblems->toggleViewAction(), ui.dockFind->toggleViewAction(),
+                      ui.dockUsedBy->toggleViewAction(), ui.dockCompare->toggleViewAction(),
+                      ui.dockTable->toggleViewAction(), ui.dockUv->toggleViewAction(),
+                      ui.dockCurves->toggleViewAction(), ui.dockMaterials->toggleViewAction(),
+                      ui.dockHistory->toggleViewAction(), ui.dockServers->toggleViewAction()});
     createToolBars(ui, panes, *display, window);
 }
 

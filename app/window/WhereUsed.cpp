@@ -4,6 +4,7 @@
 
 #include "DocumentFiles.h"
 #include "DocumentPanes.h"
+#include "FileMenu.h"
 #include "FileOpener.h"
 #include "FloatSpinBox.h"
 #include "IntSpinBox.h"
@@ -51,8 +52,16 @@ WhereUsed::WhereUsed(const Ui::MainWindow &ui, DocumentFiles &files, DocumentPan
 /// What the field with the keys holds is what is asked for, where that is the number of something.
 void WhereUsed::openUsedBy()
 {
-    std::optional<NamedThing> thing;
     QWidget *editor = QApplication::focusWidget();
+    if (editor && m_ui.dockBrowser->isAncestorOf(editor)) {
+        std::vector<NamedThing> things = m_ui.dockBrowser->menu()->thingsOfCurrent();
+        if (things.empty())
+            m_ui.statusBar->showMessage(tr("Files name materials and textures: select one of these"), 5000);
+        else
+            m_ui.dockUsedBy->open(std::move(things));
+        return;
+    }
+    std::optional<NamedThing> thing;
     while (editor && Questions::of(editor).isEmpty())
         editor = editor->parentWidget();
     if (const auto kind = editor ? namedKindOf(Questions::of(editor).first()) : std::nullopt) {
@@ -63,7 +72,7 @@ void WhereUsed::openUsedBy()
         else if (real)
             thing = NamedThing::ofArgument(*kind, real->value());
     }
-    m_ui.dockUsedBy->open(thing);
+    m_ui.dockUsedBy->open(thing ? std::vector<NamedThing>{*thing} : std::vector<NamedThing>());
 }
 
 void WhereUsed::lead(DocumentType type, const RecordRef &record)

@@ -69,6 +69,8 @@ void WindowLayout::setDefaults()
         m_window->tabifyDockWidget(console, m_window->findChild<QDockWidget *>(QLatin1String(name)));
     console->raise();
     m_window->resizeDocks({console}, {200}, Qt::Vertical);
+    m_window->resizeDocks({m_window->findChild<QDockWidget *>(QStringLiteral("dockBrowser"))}, {300},
+                          Qt::Horizontal);
 }
 
 void WindowLayout::store()

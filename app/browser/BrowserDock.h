@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "FileRows.h"
+#include "ReferenceIndex.h"
+
+#include <QDockWidget>
+
+class FileList;
+class FileMenu;
+class FilterEdit;
+class QAction;
+class QComboBox;
+class QLabel;
+class QProgressBar;
+class QStackedWidget;
+class QToolButton;
+
+/// All models, animations, materials and textures of game and mod in one list, to look through and to open.
+class BrowserDock : public QDockWidget
+{
+    Q_OBJECT
+
+public:
+    explicit BrowserDock(QWidget *parent = nullptr);
+    ~BrowserDock() override;
+
+    FileCatalog &catalog() { return m_catalog; }
+    FileMenu *menu() const { return m_menu; }
+    /// By which the list says what is unused; null as long as there is none.
+    void setIndex(const ReferenceIndexPtr &index, bool isReading);
+
+signals:
+    /// A model, an animation or a material file is to be opened.
+    void fileWanted(const QString &path);
+    /// The index of who names what is needed.
+    void indexWanted();
+    void optionsWanted();
+    /// The keys are to go back to where they were.
+    void left();
+    /// Something for the status bar.
+    void told(const QString &text);
+
+public slots:
+    /// Opens a file, or shows it where it is a texture.
+    void open(const QString &path);
+    /// Files may be others.
+    void refresh() { m_catalog.refresh(); }
+
+private:
+    QLayout *createTop();
+    QLayout *createKinds();
+    QLayout *createBottom();
+    void createSorting();
+    void readSettings();
+    FileFilter wantedFilter() const;
+    void applyFilter();
+    void showAll();
+    void OnCatalogChanged();
+    void wantIndex();
+    void findUnused();
+    void updateState();
+    QString emptyText() const;
+
+    FileCatalog m_catalog;
+    FilterEdit *m_filter;
+    std::array<QToolButton *, 5> m_kinds{}; ///< in the order of IndexedType
+    QComboBox *m_state;
+    QToolButton *m_sorting;
+    std::array<QAction *, CatalogOrders> m_orders{};
+    QStackedWidget *m_pages;
+    FileList *m_list;
+    QLabel *m_empty;
+    QLabel *m_count;
+    QProgressBar *m_progress;
+    QToolButton *m_giveUp;
+    FileMenu *m_menu;
+    QTimer m_patience; ///< what is read sooner is not told of
+    Background m_finder;
+    ReferenceIndexPtr m_index;
+    bool m_isIndexing = false;
+};

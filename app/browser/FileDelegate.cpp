@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: The Korvane developers
+// SPDX-License-Identifier: MIT
+#include "FileDelegate.h"
+
+#include "FileRows.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace {
+constexpr int Margin = 3; ///< around a row, pixels
+constexpr int Gap = 6;    ///< between what stands side by side
+constexpr int IconSide = 24;
+} // namespace
+
+FileDelegate::FileDelegate(QObject *parent)
+    : QStyledItemDelegate(parent)
+{}
+
+void FileDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                         const QModelIndex &index) const
+{
+    QStyleOptionViewItem row(option);
+    initStyleOption(&row, index);
+    const QString name = std::exchange(row.text, {});
+    const QIcon icon = std::exchange(row.icon, {});
+    row.features &= ~QStyleOptionViewItem::HasDecoration;
+    const QStyle *style = row.widget->style();
+    style->drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
+
+    const bool isSelected = row.state & QStyle::State_Selected;
+    const bool isActive = row.state & QStyle::State_Active;
+    const auto group = isActive ? QPalette::Active : QPalette::Inactive;
+    const QColor loud = row.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
+    const QColor quiet =
+        row.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::PlaceholderText);
+    const QRect inner = row.rect.adjusted(Gap, Margin, -Gap, -Margin);
+    const QRect square(inner.left(), inner.top() + (inner.height() - m_side) / 2, m_side, m_side);
+    QRect place(0, 0, std::min(IconSide, m_side), std::min(IconSide, m_side));
+    place.moveCenter(square.center());
+    icon.paint(painter, place, Qt::AlignCenter, isSelected ? QIcon::Selected : QIcon::Normal);
+
+    const int lineHeight = row.fontMetrics.height();
+    const QRect lines(square.right() + 1 + Gap, inner.top() + (inner.height() - 2 * lineHeight) / 2,
+                      inner.right() - square.right() - Gap, 2 * lineHeight);
+    const QRect upper(lines.left(), lines.top(), lines.width(), lineHeight);
+    painter->setPen(loud);
+    painter->drawText(upper, int(Qt::AlignLeft | Qt::AlignVCenter),
+                      row.fontMetrics.elidedText(name, Qt::ElideMiddle, upper.width()));
+    const QString state = index.data(FileRows::StateRole).toString();
+    const int stateWidth = row.fontMetrics.horizontalAdvance(state);
+    const QRect lower = upper.translated(0, lineHeight);
+    painter->setPen(quiet);
+    painter->drawText(lower, int(Qt::AlignRight | Qt::AlignVCenter), state);
+    painter->drawText(lower, int(Qt::AlignLeft | Qt::AlignVCenter),
+                      row.fontMetrics.elidedText(index.data(FileRows::FolderRole).toString(), Qt::ElideMiddle,
+                                                 lower.width() - stateWidth - Gap));
+}
+
+QSize FileDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const
+{
+    return {1, std::max(m_side, 2 * option.fontMetrics.height()) + 2 * Margin};
+}

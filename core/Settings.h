@@ -141,6 +141,7 @@ inline const SettingKey<QString> PackLeaveOut{"PackLeaveOut", {}};
 inline const SettingKey<int> BrowserKinds{"BrowserKinds", 0}; ///< a bit for each that is shown; 0 shows all
 inline const SettingKey<int> BrowserState{"BrowserState", 0}; ///< all, of the mod, of the game, …
 inline const SettingKey<int> BrowserOrder{"BrowserOrder", 0}; ///< by name, kind, folder
+inline const SettingKey<bool> BrowserLargePictures{"BrowserLargePictures", false};
 inline const SettingKey<bool> ProblemsWholeMod{"ProblemsWholeMod", false};
 inline const SettingKey<QStringList> FindHistory{"FindHistory", {}}; // conditions, the last first
 

@@ -2,38 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "ModelPicture.h"
 
-#include "BoundingSphere.h"
-#include "Framing.h"
 #include "Log.h"
-#include "OffscreenScene.h"
 #include "PictureOutput.h"
-#include "PlannedScene.h"
 #include "ReplacedFiles.h"
 #include "Validation.h"
-
-#include <algorithm>
-
-MeshSource sourceOf(const PosedModel &model, const MaterialFolders &folders)
-{
-    return model.rigid() ? MeshSource::from(*model.rigid(), folders.gamePath, folders.outputDir)
-                         : MeshSource::from(*model.skinned(), folders.gamePath, folders.outputDir);
-}
-
-Playback stateOf(const PosedModel &model, const PictureWishes &wishes)
-{
-    Playback state;
-    state.mesh = model.skinned();
-    state.anim = model.animFile();
-    state.blockIndex = wishes.block;
-    return state;
-}
-
-std::vector<QVector3D> visibleCorners(const OffscreenScene &scene, const SceneFrame &frame, int &strays)
-{
-    std::vector<QVector3D> corners = scene.corners(frame);
-    strays = std::max(strays, dropStrays(corners));
-    return corners;
-}
 
 void warnOfStrays(const QString &path, int strays)
 {
@@ -65,19 +37,9 @@ QString ModelPicture::read(const QString &file, Companions &companions)
 
 QImage ModelPicture::paint(OffscreenScene &scene, const MaterialFolders &folders, QString &error) const
 {
-    scene.setModel(sourceOf(m_subject, folders));
-    SceneFrame frame;
-    frame.look = m_wishes.look;
-    frame.skinned = m_subject.skinned() != nullptr;
-    PoseEvaluator poses;
-    poseFrame(scene.model(), frame, stateOf(m_subject, m_wishes), m_wishes.frame, poses);
     int strays = 0;
-    const std::vector<QVector3D> corners = visibleCorners(scene, frame, strays);
+    const QImage image = paintStill(scene, sourceOf(m_subject, folders), m_subject, m_wishes, strays);
     warnOfStrays(m_subject.meshPath, strays);
-    const Framing framing = frameAll(corners, m_wishes.yaw, m_wishes.pitch, m_wishes.size, m_wishes.lens);
-    frame.view = framing.view;
-    frame.projection = framing.projection;
-    QImage image = scene.paint(frame, m_wishes.size, m_wishes.background);
     if (image.isNull())
         error = tooBig(m_path.isEmpty() ? m_subject.meshPath : m_path);
     return image;

@@ -23,8 +23,6 @@
 #include <iterator>
 
 namespace {
-constexpr int DefaultYaw = 30;
-constexpr int DefaultPitch = 15;
 constexpr float NarrowestLens = 1.0f;
 constexpr float WidestLens = 120.0f;
 constexpr int MostTurns = 9999; // pictures of a turntable
@@ -383,9 +381,10 @@ int render(const QStringList &arguments)
     line.option(
         {QStringLiteral("yaw")}, QStringLiteral("degrees"),
         QStringLiteral("Where the camera stands around the model: 0 before its front, 90 at its left side."),
-        QString::number(DefaultYaw));
+        QString::number(double(PictureWishes::UsualYaw)));
     line.option({QStringLiteral("pitch")}, QStringLiteral("degrees"),
-                QStringLiteral("How far it looks down, -90 to 90."), QString::number(DefaultPitch));
+                QStringLiteral("How far it looks down, -90 to 90."),
+                QString::number(double(PictureWishes::UsualPitch)));
     line.option(
         {QStringLiteral("lens")}, QStringLiteral("degrees"),
         QStringLiteral("Vertical field of view, 1 to 120; what is parallel stays so with 1, or nearly."),

@@ -216,7 +216,14 @@ model_pictures() {
     grab "$main" "$folder/curves.png"
     press F7 shift+F4
     grab "$main" "$folder/textures.png"
-    press shift+F4 ctrl+comma
+    press shift+F4
+    command 'mod browser'
+    # Its small pictures are drawn beside the window.
+    sleep 3
+    press Down
+    part "$folder/browser.png" -crop 312x560+0+60
+    command 'mod browser'
+    press ctrl+comma
     grab_dialog 'Options$' "$folder/options.png"
     press alt+s
     grab_dialog 'Options$' "$folder/shortcuts.png"

@@ -1332,6 +1332,10 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>Files: %1 of %2</source>
         <translation>Dateien: %1 von %2</translation>
     </message>
+    <message>
+        <source>&amp;Large Pictures</source>
+        <translation>&amp;Große Bilder</translation>
+    </message>
 </context>
 <context>
     <name>CameraMenu</name>

@@ -27,6 +27,8 @@
 namespace {
 constexpr int PatienceMs = 500;
 constexpr int FoundAtOnceMs = 15;
+constexpr int SmallPicture = 40; ///< beside the name, pixels; as the next
+constexpr int LargePicture = 112;
 const auto OptionsLink = QStringLiteral("options");
 const auto AllLink = QStringLiteral("all");
 const auto ReadLink = QStringLiteral("read");
@@ -103,6 +105,7 @@ BrowserDock::BrowserDock(QWidget *parent)
     connect(&m_catalog, &FileCatalog::changed, this, &BrowserDock::OnCatalogChanged);
     // What is unused may be something else by now.
     connect(&m_catalog, &FileCatalog::looked, this, &BrowserDock::wantIndex);
+    connect(&m_catalog, &FileCatalog::looked, m_list, &FileList::lookAtPictures);
     connect(this, &QDockWidget::visibilityChanged, &m_catalog, &FileCatalog::follow);
     updateState();
 }
@@ -208,6 +211,18 @@ void BrowserDock::createSorting()
         group->addAction(m_orders[i]);
     }
     connect(group, &QActionGroup::triggered, this, &BrowserDock::applyFilter);
+    menu->addSeparator();
+    QAction *large = menu->addAction(tr("&Large Pictures"));
+    large->setCheckable(true);
+    large->setChecked(Settings::BrowserLargePictures.value());
+    const auto resize = [this](bool isLarge) {
+        m_list->setPictureSide(isLarge ? LargePicture : SmallPicture);
+    };
+    resize(large->isChecked());
+    connect(large, &QAction::toggled, this, [resize](bool isLarge) {
+        Settings::BrowserLargePictures.setValue(isLarge);
+        resize(isLarge);
+    });
     m_sorting->setMenu(menu);
 }
 

@@ -3,8 +3,12 @@
 #include "FileDelegate.h"
 
 #include "FileRows.h"
+#include "Thumbnails.h"
 
+#include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -14,9 +18,29 @@ constexpr int Gap = 6;    ///< between what stands side by side
 constexpr int IconSide = 24;
 } // namespace
 
-FileDelegate::FileDelegate(QObject *parent)
+FileDelegate::FileDelegate(const Thumbnails &thumbnails, QObject *parent)
     : QStyledItemDelegate(parent)
+    , m_thumbnails(thumbnails)
 {}
+
+void FileDelegate::paintPicture(QPainter &painter, const QRect &square, const QStyleOptionViewItem &row,
+                                const QModelIndex &index) const
+{
+    const Thumbnail *thumbnail = m_thumbnails.find(index.data(FileRows::PathRole).toString());
+    if (thumbnail && !thumbnail->picture.isNull()) {
+        QPixmap picture = thumbnail->picture; // in pixels of the screen
+        picture.setDevicePixelRatio(painter.device()->devicePixelRatioF());
+        QRect place(QPoint(), picture.size() / picture.devicePixelRatioF());
+        place.moveCenter(square.center());
+        painter.drawPixmap(place.topLeft(), picture);
+        return;
+    }
+    QRect place(0, 0, std::min(IconSide, m_side), std::min(IconSide, m_side));
+    place.moveCenter(square.center());
+    const bool isSelected = row.state & QStyle::State_Selected;
+    qvariant_cast<QIcon>(index.data(Qt::DecorationRole))
+        .paint(&painter, place, Qt::AlignCenter, isSelected ? QIcon::Selected : QIcon::Normal);
+}
 
 void FileDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                          const QModelIndex &index) const
@@ -24,7 +48,7 @@ void FileDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     QStyleOptionViewItem row(option);
     initStyleOption(&row, index);
     const QString name = std::exchange(row.text, {});
-    const QIcon icon = std::exchange(row.icon, {});
+    row.icon = {};
     row.features &= ~QStyleOptionViewItem::HasDecoration;
     const QStyle *style = row.widget->style();
     style->drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
@@ -37,9 +61,7 @@ void FileDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
         row.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::PlaceholderText);
     const QRect inner = row.rect.adjusted(Gap, Margin, -Gap, -Margin);
     const QRect square(inner.left(), inner.top() + (inner.height() - m_side) / 2, m_side, m_side);
-    QRect place(0, 0, std::min(IconSide, m_side), std::min(IconSide, m_side));
-    place.moveCenter(square.center());
-    icon.paint(painter, place, Qt::AlignCenter, isSelected ? QIcon::Selected : QIcon::Normal);
+    paintPicture(*painter, square, row, index);
 
     const int lineHeight = row.fontMetrics.height();
     const QRect lines(square.right() + 1 + Gap, inner.top() + (inner.height() - 2 * lineHeight) / 2,
@@ -61,4 +83,15 @@ void FileDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
 QSize FileDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const
 {
     return {1, std::max(m_side, 2 * option.fontMetrics.height()) + 2 * Margin};
+}
+
+bool FileDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
+                             const QModelIndex &index)
+{
+    const Thumbnail *thumbnail = m_thumbnails.find(index.data(FileRows::PathRole).toString());
+    if (event->type() != QEvent::ToolTip || !thumbnail || thumbnail->error.isEmpty())
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    QToolTip::showText(event->globalPos(),
+                       index.data(Qt::ToolTipRole).toString() + QLatin1Char('\n') + thumbnail->error, view);
+    return true;
 }

@@ -3,14 +3,20 @@
 #include "FileList.h"
 
 #include "FileDelegate.h"
+#include "Thumbnails.h"
 
 #include <QKeyEvent>
 #include <QScrollBar>
 
+namespace {
+constexpr int RestMs = 40;
+} // namespace
+
 FileList::FileList(QWidget *parent)
     : QListView(parent)
     , m_rows(new FileRows(this))
-    , m_delegate(new FileDelegate(this))
+    , m_thumbnails(new Thumbnails(this))
+    , m_delegate(new FileDelegate(*m_thumbnails, this))
 {
     setObjectName(QStringLiteral("listFiles"));
     setAccessibleName(tr("Files of game and mod"));
@@ -20,6 +26,46 @@ FileList::FileList(QWidget *parent)
     setEditTriggers(NoEditTriggers);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerPixel);
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(RestMs);
+    connect(&m_rest, &QTimer::timeout, this, &FileList::wantPictures);
+    connect(m_thumbnails, &Thumbnails::made, this, [this](const QString &path) {
+        const int row = m_rows->rowOf(path);
+        if (row >= 0)
+            update(m_rows->index(row));
+    });
+}
+
+void FileList::setPictureSide(int pixels)
+{
+    m_delegate->setPictureSide(pixels);
+    scheduleDelayedItemsLayout();
+}
+
+void FileList::paintEvent(QPaintEvent *event)
+{
+    QListView::paintEvent(event);
+    if (!m_rest.isActive())
+        m_rest.start();
+}
+
+void FileList::lookAtPictures()
+{
+    m_thumbnails->lookAgain();
+    m_rest.start();
+}
+
+void FileList::wantPictures()
+{
+    m_thumbnails->setSide(qRound(m_delegate->pictureSide() * devicePixelRatioF()));
+    QStringList paths;
+    const QRect room = viewport()->rect();
+    for (int row = indexAt(QPoint(1, 1)).row(); row >= 0 && row < m_rows->rowCount(); ++row) {
+        if (!isVisible() || !visualRect(m_rows->index(row)).intersects(room))
+            break;
+        paths += m_rows->fileAt(row).path;
+    }
+    m_thumbnails->want(paths);
 }
 
 const CatalogFile *FileList::current() const

@@ -7,6 +7,7 @@
 #include <QListView>
 
 class FileDelegate;
+class Thumbnails;
 
 /// The list of the files of game and mod. What was current or in sight stays so as far as it is still listed.
 class FileList : public QListView
@@ -20,10 +21,15 @@ public:
     const FileRows &rows() const { return *m_rows; }
     /// Null when no row is current.
     const CatalogFile *current() const;
+    Thumbnails &thumbnails() { return *m_thumbnails; }
+    /// How large the pictures of files are.
+    void setPictureSide(int pixels);
 
     void setFiles(const CatalogFilesPtr &files);
     void setUnused(const UnusedFlagsPtr &unused);
     void setFilter(const FileFilter &filter);
+    /// Files may be others than their pictures show.
+    void lookAtPictures();
 
 signals:
     /// Somebody types while the list has the keys.
@@ -33,12 +39,17 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void keyboardSearch(const QString &text) override;
 
 private:
     template <typename Change>
     void keepPlace(Change change);
 
+    void wantPictures();
+
     FileRows *m_rows;
+    Thumbnails *m_thumbnails;
     FileDelegate *m_delegate;
+    QTimer m_rest; ///< who scrolls past files does not want their pictures
 };

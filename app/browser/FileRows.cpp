@@ -132,6 +132,8 @@ QVariant FileRows::data(const QModelIndex &index, int role) const
     case Qt::AccessibleTextRole:
         return QStringList{file.name(), kindText(file.type), file.folder(), stateText(number)}.join(
             QStringLiteral(", "));
+    case PathRole:
+        return file.path;
     case FolderRole:
         return file.folder();
     case StateRole:

@@ -28,7 +28,7 @@ class FileRows : public QAbstractListModel
     Q_OBJECT
 
 public:
-    enum Role { FolderRole = Qt::UserRole, StateRole };
+    enum Role { PathRole = Qt::UserRole, FolderRole, StateRole };
 
     using QAbstractListModel::QAbstractListModel;
 

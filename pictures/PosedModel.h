@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ModelFile.h"
+#include "FileContent.h"
 
 class Companions;
 
-/// A mesh, and for a skinned one the animation that poses it, of the files that a verb was given.
+/// A mesh, and for a skinned one the animation that poses it, of the files that are to be drawn or exported.
 struct PosedModel
 {
     FileContent mesh;

@@ -1205,62 +1205,6 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <translation>Wie Dateien aufgelistet werden</translation>
     </message>
     <message>
-        <source>Show skinned meshes</source>
-        <translation>Skin-Meshes zeigen</translation>
-    </message>
-    <message>
-        <source>Show animations</source>
-        <translation>Animationen zeigen</translation>
-    </message>
-    <message>
-        <source>Show static meshes</source>
-        <translation>Statische Meshes zeigen</translation>
-    </message>
-    <message>
-        <source>Show material files</source>
-        <translation>Materialdateien zeigen</translation>
-    </message>
-    <message>
-        <source>Show textures</source>
-        <translation>Texturen zeigen</translation>
-    </message>
-    <message>
-        <source>%1; without any of these buttons, all kinds are shown</source>
-        <translation>%1; ist keiner dieser Knöpfe gedrückt, sind alle Arten zu sehen</translation>
-    </message>
-    <message>
-        <source>Which files</source>
-        <translation>Welche Dateien</translation>
-    </message>
-    <message>
-        <source>All Files</source>
-        <translation>Alle Dateien</translation>
-    </message>
-    <message>
-        <source>In the Mod</source>
-        <translation>Im Mod</translation>
-    </message>
-    <message>
-        <source>In the Game</source>
-        <translation>Im Spiel</translation>
-    </message>
-    <message>
-        <source>Replace the Game&apos;s</source>
-        <translation>Ersetzen die des Spiels</translation>
-    </message>
-    <message>
-        <source>Unused</source>
-        <translation>Unbenutzt</translation>
-    </message>
-    <message>
-        <source>Files of the mod that have the name of one of the game</source>
-        <translation>Dateien des Mods, die wie eine des Spiels heißen</translation>
-    </message>
-    <message>
-        <source>Textures that no material names, and materials that no model names</source>
-        <translation>Texturen, die kein Material nennt, und Materialien, die kein Modell nennt</translation>
-    </message>
-    <message>
         <source>Reading the folders of game and mod</source>
         <translation>Die Ordner von Spiel und Mod werden gelesen</translation>
     </message>
@@ -1317,10 +1261,6 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <translation>Es ist nicht bekannt, was unbenutzt ist, da die Dateien nicht gelesen wurden.</translation>
     </message>
     <message>
-        <source>No file is like that.</source>
-        <translation>Keine Datei ist so.</translation>
-    </message>
-    <message>
         <source>Show all files</source>
         <translation>Alle Dateien zeigen</translation>
     </message>
@@ -1335,6 +1275,10 @@ Kopftreffer verursachen also 640 Schaden.</translation>
     <message>
         <source>&amp;Large Pictures</source>
         <translation>&amp;Große Bilder</translation>
+    </message>
+    <message>
+        <source>No file fits.</source>
+        <translation>Keine Datei passt.</translation>
     </message>
 </context>
 <context>
@@ -4754,6 +4698,65 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     <message>
         <source>left arm or damage scale &gt; 1</source>
         <translation>links arm oder Schadensfaktor &gt; 1</translation>
+    </message>
+</context>
+<context>
+    <name>KindsBar</name>
+    <message>
+        <source>Show skinned meshes</source>
+        <translation>Skin-Meshes zeigen</translation>
+    </message>
+    <message>
+        <source>Show animations</source>
+        <translation>Animationen zeigen</translation>
+    </message>
+    <message>
+        <source>Show static meshes</source>
+        <translation>Statische Meshes zeigen</translation>
+    </message>
+    <message>
+        <source>Show material files</source>
+        <translation>Materialdateien zeigen</translation>
+    </message>
+    <message>
+        <source>Show textures</source>
+        <translation>Texturen zeigen</translation>
+    </message>
+    <message>
+        <source>%1; without any of these buttons, all kinds are shown</source>
+        <translation>%1; ist keiner dieser Knöpfe gedrückt, sind alle Arten zu sehen</translation>
+    </message>
+    <message>
+        <source>Which files</source>
+        <translation>Welche Dateien</translation>
+    </message>
+    <message>
+        <source>All Files</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>In the Mod</source>
+        <translation>Im Mod</translation>
+    </message>
+    <message>
+        <source>In the Game</source>
+        <translation>Im Spiel</translation>
+    </message>
+    <message>
+        <source>Replace the Game&apos;s</source>
+        <translation>Ersetzen die des Spiels</translation>
+    </message>
+    <message>
+        <source>Unused</source>
+        <translation>Unbenutzt</translation>
+    </message>
+    <message>
+        <source>Files of the mod that have the name of one of the game</source>
+        <translation>Dateien des Mods, die wie eine des Spiels heißen</translation>
+    </message>
+    <message>
+        <source>Textures that no material names, and materials that no model names</source>
+        <translation>Texturen, die kein Material nennt, und Materialien, die kein Modell nennt</translation>
     </message>
 </context>
 <context>

@@ -7,11 +7,12 @@
 #include "FileMenu.h"
 #include "FilterEdit.h"
 #include "Icons.h"
+#include "KindsBar.h"
 #include "PicturePopup.h"
 #include "Settings.h"
+#include "Thumbnails.h"
 
 #include <QActionGroup>
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
@@ -27,8 +28,7 @@
 namespace {
 constexpr int PatienceMs = 500;
 constexpr int FoundAtOnceMs = 15;
-constexpr int SmallPicture = 40; ///< beside the name, pixels; as the next
-constexpr int LargePicture = 112;
+constexpr int SmallPicture = 40; ///< beside the name, pixels
 const auto OptionsLink = QStringLiteral("options");
 const auto AllLink = QStringLiteral("all");
 const auto ReadLink = QStringLiteral("read");
@@ -43,10 +43,11 @@ BrowserDock::BrowserDock(QWidget *parent)
     : QDockWidget(parent)
     , m_filter(new FilterEdit(tr("Parts of names and folders"),
                               tr("Show only files that have all of these words in their path")))
-    , m_state(new QComboBox)
+    , m_bar(new KindsBar)
     , m_sorting(new QToolButton)
     , m_pages(new QStackedWidget)
-    , m_list(new FileList)
+    , m_thumbnails(new Thumbnails(this))
+    , m_list(new FileList(*m_thumbnails, this))
     , m_empty(new QLabel)
     , m_count(new QLabel)
     , m_progress(new QProgressBar)
@@ -58,7 +59,7 @@ BrowserDock::BrowserDock(QWidget *parent)
     layout->setContentsMargins(4, 2, 4, 2);
     layout->setSpacing(3);
     layout->addLayout(createTop());
-    layout->addLayout(createKinds());
+    layout->addWidget(m_bar);
     layout->addWidget(m_pages, 1);
     layout->addLayout(createBottom());
     m_empty->setObjectName(QStringLiteral("lblNoFiles"));
@@ -72,13 +73,17 @@ BrowserDock::BrowserDock(QWidget *parent)
     setWidget(contents);
     contents->setFocusProxy(m_list);
     createSorting();
-    readSettings();
+    m_list->setFilter(wantedFilter());
     focusWhenAskedFor(*this, *m_filter);
 
     m_patience.setSingleShot(true);
     m_patience.setInterval(PatienceMs);
     connect(&m_patience, &QTimer::timeout, this, &BrowserDock::updateState);
     connect(m_filter, &FilterEdit::filtered, this, &BrowserDock::applyFilter);
+    connect(m_bar, &KindsBar::changed, this, [this] {
+        wantIndex();
+        applyFilter();
+    });
     connect(m_filter, &FilterEdit::left, this, [this] { m_list->setFocus(); });
     connect(m_filter, &FilterEdit::entered, this, [this](bool byReturn) {
         if (!m_list->currentIndex().isValid())
@@ -99,6 +104,8 @@ BrowserDock::BrowserDock(QWidget *parent)
             emit optionsWanted();
         else if (link == AllLink)
             showAll();
+        else if (m_catalog.files())
+            emit indexWanted();
         else
             m_catalog.read();
     });
@@ -135,47 +142,6 @@ QLayout *BrowserDock::createTop()
     return row;
 }
 
-QLayout *BrowserDock::createKinds()
-{
-    auto *row = new QHBoxLayout;
-    row->setSpacing(0);
-    const QString tips[] = {tr("Show skinned meshes"), tr("Show animations"), tr("Show static meshes"),
-                            tr("Show material files"), tr("Show textures")};
-    const char *const names[] = {"btnFilesSkinned", "btnFilesAnim", "btnFilesStatic", "btnFilesMaterials",
-                                 "btnFilesTextures"};
-    for (size_t i = 0; i < m_kinds.size(); ++i) {
-        auto *button = new QToolButton;
-        button->setObjectName(QLatin1String(names[i]));
-        button->setIcon(FileRows::kindIcon(IndexedType(i)));
-        button->setAccessibleName(tips[i]);
-        button->setToolTip(tr("%1; without any of these buttons, all kinds are shown").arg(tips[i]));
-        button->setCheckable(true);
-        button->setAutoRaise(true);
-        button->setFocusPolicy(Qt::StrongFocus);
-        connect(button, &QToolButton::toggled, this, &BrowserDock::applyFilter);
-        m_kinds[i] = button;
-        row->addWidget(button);
-    }
-    m_state->setObjectName(QStringLiteral("cbFilesState"));
-    m_state->setAccessibleName(tr("Which files"));
-    m_state->addItems(
-        {tr("All Files"), tr("In the Mod"), tr("In the Game"), tr("Replace the Game's"), tr("Unused")});
-    m_state->setItemData(int(FileState::ReplacesGame),
-                         tr("Files of the mod that have the name of one of the game"), Qt::ToolTipRole);
-    m_state->setItemData(int(FileState::Unused),
-                         tr("Textures that no material names, and materials that no model names"),
-                         Qt::ToolTipRole);
-    m_state->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_state->setMinimumContentsLength(8);
-    connect(m_state, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] {
-        wantIndex();
-        applyFilter();
-    });
-    row->addSpacing(4);
-    row->addWidget(m_state, 1);
-    return row;
-}
-
 QLayout *BrowserDock::createBottom()
 {
     auto *row = new QHBoxLayout;
@@ -193,7 +159,12 @@ QLayout *BrowserDock::createBottom()
     m_giveUp->setToolTip(m_giveUp->accessibleName());
     m_giveUp->setAutoRaise(true);
     m_giveUp->setFocusPolicy(Qt::StrongFocus);
-    connect(m_giveUp, &QToolButton::clicked, &m_catalog, &FileCatalog::giveUp);
+    connect(m_giveUp, &QToolButton::clicked, this, [this] {
+        if (m_catalog.isReading())
+            m_catalog.giveUp();
+        else
+            emit indexGivenUp();
+    });
     row->addWidget(m_count, 1);
     row->addWidget(m_progress);
     row->addWidget(m_giveUp);
@@ -210,13 +181,15 @@ void BrowserDock::createSorting()
         m_orders[i]->setCheckable(true);
         group->addAction(m_orders[i]);
     }
+    const int order = std::clamp(Settings::BrowserOrder.value(), 0, int(CatalogOrders) - 1);
+    m_orders[size_t(order)]->setChecked(true);
     connect(group, &QActionGroup::triggered, this, &BrowserDock::applyFilter);
     menu->addSeparator();
     QAction *large = menu->addAction(tr("&Large Pictures"));
     large->setCheckable(true);
     large->setChecked(Settings::BrowserLargePictures.value());
     const auto resize = [this](bool isLarge) {
-        m_list->setPictureSide(isLarge ? LargePicture : SmallPicture);
+        m_list->setPictureSide(isLarge ? FileList::LargePicture : SmallPicture);
     };
     resize(large->isChecked());
     connect(large, &QAction::toggled, this, [resize](bool isLarge) {
@@ -226,19 +199,6 @@ void BrowserDock::createSorting()
     m_sorting->setMenu(menu);
 }
 
-void BrowserDock::readSettings()
-{
-    const QSignalBlocker state(m_state);
-    const int kinds = Settings::BrowserKinds.value();
-    for (size_t i = 0; i < m_kinds.size(); ++i) {
-        const QSignalBlocker kind(m_kinds[i]);
-        m_kinds[i]->setChecked(kinds & (1 << i));
-    }
-    m_state->setCurrentIndex(std::clamp(Settings::BrowserState.value(), 0, m_state->count() - 1));
-    m_orders[size_t(std::clamp(Settings::BrowserOrder.value(), 0, int(CatalogOrders) - 1))]->setChecked(true);
-    m_list->setFilter(wantedFilter());
-}
-
 // --- What is listed
 // -----------------------------------------------------------------------------------------
 
@@ -246,9 +206,8 @@ FileFilter BrowserDock::wantedFilter() const
 {
     FileFilter filter;
     filter.words = m_filter->text();
-    for (size_t i = 0; i < m_kinds.size(); ++i)
-        filter.kinds |= m_kinds[i]->isChecked() ? 1U << i : 0U;
-    filter.state = FileState(m_state->currentIndex());
+    filter.kinds = m_bar->kinds();
+    filter.state = m_bar->state();
     for (size_t i = 0; i < m_orders.size(); ++i) {
         if (m_orders[i]->isChecked())
             filter.order = CatalogOrder(i);
@@ -259,8 +218,6 @@ FileFilter BrowserDock::wantedFilter() const
 void BrowserDock::applyFilter()
 {
     const FileFilter filter = wantedFilter();
-    Settings::BrowserKinds.setValue(int(filter.kinds));
-    Settings::BrowserState.setValue(int(filter.state));
     Settings::BrowserOrder.setValue(int(filter.order));
     m_list->setFilter(filter);
     updateState();
@@ -268,14 +225,10 @@ void BrowserDock::applyFilter()
 
 void BrowserDock::showAll()
 {
+    m_bar->reset();
     {
-        const QSignalBlocker words(m_filter), state(m_state);
+        const QSignalBlocker words(m_filter);
         m_filter->clear();
-        m_state->setCurrentIndex(int(FileState::Any));
-        for (QToolButton *kind : m_kinds) {
-            const QSignalBlocker each(kind);
-            kind->setChecked(false);
-        }
     }
     applyFilter();
     m_list->setFocus();
@@ -306,8 +259,13 @@ void BrowserDock::setIndex(const ReferenceIndexPtr &index, bool isReading)
 
 void BrowserDock::wantIndex()
 {
-    if (m_state->currentIndex() == int(FileState::Unused) && isVisible())
+    if (m_bar->state() == FileState::Unused && isVisible())
         emit indexWanted();
+}
+
+bool BrowserDock::isWaitingForIndex() const
+{
+    return m_isIndexing && m_bar->state() == FileState::Unused && !m_list->rows().isUsageKnown();
 }
 
 void BrowserDock::findUnused()
@@ -350,8 +308,9 @@ QString BrowserDock::emptyText() const
                QStringLiteral("<br>") + linkTo(OptionsLink, tr("Name others in the options"));
     if (m_list->rows().filter().state == FileState::Unused && !m_list->rows().isUsageKnown())
         return m_isIndexing ? tr("It is not known yet what is unused: the files are being read.")
-                            : tr("It is not known what is unused, since the files were not read.");
-    return tr("No file is like that.") + QStringLiteral("<br>") + linkTo(AllLink, tr("Show all files"));
+                            : tr("It is not known what is unused, since the files were not read.") +
+                                  QStringLiteral("<br>") + linkTo(ReadLink, tr("Read them"));
+    return tr("No file fits.") + QStringLiteral("<br>") + linkTo(AllLink, tr("Show all files"));
 }
 
 void BrowserDock::updateState()
@@ -364,9 +323,9 @@ void BrowserDock::updateState()
     m_pages->setCurrentIndex(isEmpty ? 1 : 0);
     if (isEmpty && hadKeys)
         m_filter->setFocus(); // a list that is hidden would give the keys to anything
-    const bool isLong = (m_catalog.isReading() && !m_patience.isActive()) || m_isIndexing;
+    const bool isLong = m_catalog.isReading() ? !m_patience.isActive() : isWaitingForIndex();
     m_progress->setVisible(isLong);
-    m_giveUp->setVisible(isLong && m_catalog.isReading());
+    m_giveUp->setVisible(isLong);
     const QLocale locale;
     m_count->setText(rows.totalCount() == 0 ? QString()
                      : rows.rowCount() == rows.totalCount()

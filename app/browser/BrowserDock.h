@@ -10,12 +10,13 @@
 class FileList;
 class FileMenu;
 class FilterEdit;
+class KindsBar;
 class QAction;
-class QComboBox;
 class QLabel;
 class QProgressBar;
 class QStackedWidget;
 class QToolButton;
+class Thumbnails;
 
 /// All models, animations, materials and textures of game and mod in one list, to look through and to open.
 class BrowserDock : public QDockWidget
@@ -28,6 +29,7 @@ public:
 
     FileCatalog &catalog() { return m_catalog; }
     FileMenu *menu() const { return m_menu; }
+    Thumbnails &thumbnails() { return *m_thumbnails; }
     /// By which the list says what is unused; null as long as there is none.
     void setIndex(const ReferenceIndexPtr &index, bool isReading);
 
@@ -36,6 +38,8 @@ signals:
     void fileWanted(const QString &path);
     /// The index of who names what is needed.
     void indexWanted();
+    /// Nobody waits for it any more.
+    void indexGivenUp();
     void optionsWanted();
     /// The keys are to go back to where they were.
     void left();
@@ -50,10 +54,8 @@ public slots:
 
 private:
     QLayout *createTop();
-    QLayout *createKinds();
     QLayout *createBottom();
     void createSorting();
-    void readSettings();
     FileFilter wantedFilter() const;
     void applyFilter();
     void showAll();
@@ -61,15 +63,16 @@ private:
     void wantIndex();
     void findUnused();
     void updateState();
+    bool isWaitingForIndex() const;
     QString emptyText() const;
 
     FileCatalog m_catalog;
     FilterEdit *m_filter;
-    std::array<QToolButton *, 5> m_kinds{}; ///< in the order of IndexedType
-    QComboBox *m_state;
+    KindsBar *m_bar;
     QToolButton *m_sorting;
     std::array<QAction *, CatalogOrders> m_orders{};
     QStackedWidget *m_pages;
+    Thumbnails *m_thumbnails;
     FileList *m_list;
     QLabel *m_empty;
     QLabel *m_count;

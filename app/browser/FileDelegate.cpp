@@ -28,11 +28,14 @@ void FileDelegate::paintPicture(QPainter &painter, const QRect &square, const QS
 {
     const Thumbnail *thumbnail = m_thumbnails.find(index.data(FileRows::PathRole).toString());
     if (thumbnail && !thumbnail->picture.isNull()) {
-        QPixmap picture = thumbnail->picture; // in pixels of the screen
-        picture.setDevicePixelRatio(painter.device()->devicePixelRatioF());
-        QRect place(QPoint(), picture.size() / picture.devicePixelRatioF());
+        const QPixmap &picture = thumbnail->picture; // in pixels of the screen
+        QSize size = picture.size() / painter.device()->devicePixelRatioF();
+        if (size.width() > m_side || size.height() > m_side)
+            size.scale(m_side, m_side, Qt::KeepAspectRatio);
+        QRect place(QPoint(), size);
         place.moveCenter(square.center());
-        painter.drawPixmap(place.topLeft(), picture);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawPixmap(place, picture);
         return;
     }
     QRect place(0, 0, std::min(IconSide, m_side), std::min(IconSide, m_side));
@@ -63,21 +66,26 @@ void FileDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     const QRect square(inner.left(), inner.top() + (inner.height() - m_side) / 2, m_side, m_side);
     paintPicture(*painter, square, row, index);
 
+    // Beside a large picture there is room for a third line.
     const int lineHeight = row.fontMetrics.height();
-    const QRect lines(square.right() + 1 + Gap, inner.top() + (inner.height() - 2 * lineHeight) / 2,
-                      inner.right() - square.right() - Gap, 2 * lineHeight);
-    const QRect upper(lines.left(), lines.top(), lines.width(), lineHeight);
+    const bool isRoomy = m_side >= 3 * lineHeight;
+    const int height = (isRoomy ? 3 : 2) * lineHeight;
+    const QRect upper(square.right() + 1 + Gap, inner.top() + (inner.height() - height) / 2,
+                      inner.right() - square.right() - Gap, lineHeight);
     painter->setPen(loud);
     painter->drawText(upper, int(Qt::AlignLeft | Qt::AlignVCenter),
                       row.fontMetrics.elidedText(name, Qt::ElideMiddle, upper.width()));
     const QString state = index.data(FileRows::StateRole).toString();
-    const int stateWidth = row.fontMetrics.horizontalAdvance(state);
+    const int stateWidth = isRoomy ? 0 : row.fontMetrics.horizontalAdvance(state) + Gap;
     const QRect lower = upper.translated(0, lineHeight);
     painter->setPen(quiet);
-    painter->drawText(lower, int(Qt::AlignRight | Qt::AlignVCenter), state);
+    if (isRoomy)
+        painter->drawText(lower.translated(0, lineHeight), int(Qt::AlignLeft | Qt::AlignVCenter), state);
+    else
+        painter->drawText(lower, int(Qt::AlignRight | Qt::AlignVCenter), state);
     painter->drawText(lower, int(Qt::AlignLeft | Qt::AlignVCenter),
                       row.fontMetrics.elidedText(index.data(FileRows::FolderRole).toString(), Qt::ElideMiddle,
-                                                 lower.width() - stateWidth - Gap));
+                                                 lower.width() - stateWidth));
 }
 
 QSize FileDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const

@@ -5,18 +5,20 @@
 #include "FileDelegate.h"
 #include "Thumbnails.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
 
 namespace {
 constexpr int RestMs = 40;
+constexpr int WaitMs = 400; ///< behind a dialog
 } // namespace
 
-FileList::FileList(QWidget *parent)
+FileList::FileList(Thumbnails &thumbnails, QWidget *parent)
     : QListView(parent)
     , m_rows(new FileRows(this))
-    , m_thumbnails(new Thumbnails(this))
-    , m_delegate(new FileDelegate(*m_thumbnails, this))
+    , m_thumbnails(thumbnails)
+    , m_delegate(new FileDelegate(m_thumbnails, this))
 {
     setObjectName(QStringLiteral("listFiles"));
     setAccessibleName(tr("Files of game and mod"));
@@ -26,10 +28,11 @@ FileList::FileList(QWidget *parent)
     setEditTriggers(NoEditTriggers);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerPixel);
+    setDragEnabled(true);
+    setDragDropMode(DragOnly);
     m_rest.setSingleShot(true);
-    m_rest.setInterval(RestMs);
     connect(&m_rest, &QTimer::timeout, this, &FileList::wantPictures);
-    connect(m_thumbnails, &Thumbnails::made, this, [this](const QString &path) {
+    connect(&m_thumbnails, &Thumbnails::made, this, [this](const QString &path) {
         const int row = m_rows->rowOf(path);
         if (row >= 0)
             update(m_rows->index(row));
@@ -46,18 +49,23 @@ void FileList::paintEvent(QPaintEvent *event)
 {
     QListView::paintEvent(event);
     if (!m_rest.isActive())
-        m_rest.start();
+        m_rest.start(RestMs);
 }
 
 void FileList::lookAtPictures()
 {
-    m_thumbnails->lookAgain();
-    m_rest.start();
+    m_thumbnails.lookAgain();
+    m_rest.start(RestMs);
 }
 
 void FileList::wantPictures()
 {
-    m_thumbnails->setSide(qRound(m_delegate->pictureSide() * devicePixelRatioF()));
+    const QWidget *modal = QApplication::activeModalWidget();
+    if (modal && !modal->isAncestorOf(this)) {
+        m_rest.start(WaitMs);
+        return;
+    }
+    m_thumbnails.setSide(qRound(LargePicture * devicePixelRatioF()));
     QStringList paths;
     const QRect room = viewport()->rect();
     for (int row = indexAt(QPoint(1, 1)).row(); row >= 0 && row < m_rows->rowCount(); ++row) {
@@ -65,7 +73,7 @@ void FileList::wantPictures()
             break;
         paths += m_rows->fileAt(row).path;
     }
-    m_thumbnails->want(paths);
+    m_thumbnails.want(paths);
 }
 
 const CatalogFile *FileList::current() const

@@ -15,13 +15,16 @@ class FileList : public QListView
     Q_OBJECT
 
 public:
-    explicit FileList(QWidget *parent = nullptr);
+    /// How large pictures can be.
+    static constexpr int LargePicture = 112;
+
+    /// The pictures outlive the list, and may be another one's, too, that is behind a dialog meanwhile.
+    FileList(Thumbnails &thumbnails, QWidget *parent);
 
     FileRows &rows() { return *m_rows; }
     const FileRows &rows() const { return *m_rows; }
     /// Null when no row is current.
     const CatalogFile *current() const;
-    Thumbnails &thumbnails() { return *m_thumbnails; }
     /// How large the pictures of files are.
     void setPictureSide(int pixels);
 
@@ -49,7 +52,7 @@ private:
     void wantPictures();
 
     FileRows *m_rows;
-    Thumbnails *m_thumbnails;
+    Thumbnails &m_thumbnails;
     FileDelegate *m_delegate;
     QTimer m_rest; ///< who scrolls past files does not want their pictures
 };

@@ -5,7 +5,6 @@
 #include "FileList.h"
 #include "Files.h"
 #include "Icons.h"
-#include "KMat.h"
 #include "Shortcuts.h"
 
 #include <QApplication>
@@ -88,18 +87,7 @@ void FileMenu::copyName()
 std::vector<NamedThing> FileMenu::thingsOfCurrent() const
 {
     const CatalogFile *file = m_list.current();
-    if (!file)
-        return {};
-    if (file->type == IndexedType::Picture)
-        return {{NamedKind::Texture, 0.0, file->relative}};
-    std::vector<NamedThing> things;
-    MaterialTable table;
-    if (file->type == IndexedType::Materials && readKMat(file->path, table).isEmpty()) {
-        const QString folder = file->relative.left(file->relative.lastIndexOf(QLatin1Char('.')));
-        for (const auto &[name, texture] : table)
-            things.push_back({NamedKind::Material, 0.0, folder + QLatin1Char('/') + name});
-    }
-    return things;
+    return file ? FileRows::thingsOf(*file) : std::vector<NamedThing>();
 }
 
 void FileMenu::OnContextMenu(const QPoint &position)

@@ -10,11 +10,11 @@
 #include <QLocale>
 #include <QVBoxLayout>
 
-FilePalette::FilePalette(FileCatalog &catalog, QWidget *parent)
+FilePalette::FilePalette(FileCatalog &catalog, Thumbnails &thumbnails, QWidget *parent)
     : QDialog(parent)
     , m_catalog(catalog)
     , m_line(new QLineEdit(this))
-    , m_list(new FileList(this))
+    , m_list(new FileList(thumbnails, this))
     , m_state(new QLabel(this))
 {
     setObjectName(QStringLiteral("FilePalette"));

@@ -8,6 +8,7 @@ class FileCatalog;
 class FileList;
 class QLabel;
 class QLineEdit;
+class Thumbnails;
 
 /// The files of game and mod, of which one is found by parts of its name and opened with Return.
 class FilePalette : public QDialog
@@ -15,8 +16,8 @@ class FilePalette : public QDialog
     Q_OBJECT
 
 public:
-    /// Reads the catalog anew, and goes on with what it has until that is done. It outlives this.
-    FilePalette(FileCatalog &catalog, QWidget *parent);
+    /// Reads the catalog anew, and goes on with what it has until that is done. Both outlive this.
+    FilePalette(FileCatalog &catalog, Thumbnails &thumbnails, QWidget *parent);
 
     /// The chosen file; empty when the dialog was given up.
     const QString &path() const { return m_path; }

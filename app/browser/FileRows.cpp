@@ -2,13 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "FileRows.h"
 
+#include "DraggedFile.h"
 #include "Files.h"
 #include "Icons.h"
+#include "KMat.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
+#include <QMimeData>
 
 #include <algorithm>
 #include <utility>
@@ -141,6 +144,43 @@ QVariant FileRows::data(const QModelIndex &index, int role) const
     default:
         return {};
     }
+}
+
+Qt::ItemFlags FileRows::flags(const QModelIndex &index) const
+{
+    return QAbstractListModel::flags(index) | Qt::ItemIsDragEnabled;
+}
+
+QStringList FileRows::mimeTypes() const
+{
+    return {DraggedFile::mimeType()};
+}
+
+QMimeData *FileRows::mimeData(const QModelIndexList &indexes) const
+{
+    const CatalogFile &file = fileAt(indexes.first().row());
+    DraggedFile dragged;
+    dragged.kind = file.type == IndexedType::Picture     ? DraggedFile::Kind::Texture
+                   : file.type == IndexedType::Materials ? DraggedFile::Kind::Materials
+                                                         : DraggedFile::Kind::Model;
+    dragged.path = file.path;
+    for (const NamedThing &thing : thingsOf(file))
+        dragged.names += thing.path;
+    return dragged.mime();
+}
+
+std::vector<NamedThing> FileRows::thingsOf(const CatalogFile &file)
+{
+    if (file.type == IndexedType::Picture)
+        return {{NamedKind::Texture, 0.0, file.relative}};
+    std::vector<NamedThing> things;
+    MaterialTable table;
+    if (file.type == IndexedType::Materials && readKMat(file.path, table).isEmpty()) {
+        const QString folder = file.relative.left(file.relative.lastIndexOf(QLatin1Char('.')));
+        for (const auto &[name, texture] : table)
+            things.push_back({NamedKind::Material, 0.0, folder + QLatin1Char('/') + name});
+    }
+    return things;
 }
 
 QIcon FileRows::kindIcon(IndexedType type)

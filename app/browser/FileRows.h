@@ -3,6 +3,7 @@
 #pragma once
 
 #include "FileCatalog.h"
+#include "NamedThing.h"
 
 #include <QAbstractListModel>
 
@@ -49,8 +50,15 @@ public:
 
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+    QStringList mimeTypes() const override;
+    QMimeData *mimeData(const QModelIndexList &indexes) const override;
+    Qt::DropActions supportedDragActions() const override { return Qt::CopyAction; }
 
     static QIcon kindIcon(IndexedType type);
+    /// What a file is to those that name it: a texture itself, a material file its materials. Nothing where
+    /// nobody names such files.
+    static std::vector<NamedThing> thingsOf(const CatalogFile &file);
     /// "Skinned mesh" and so on.
     static QString kindText(IndexedType type);
 

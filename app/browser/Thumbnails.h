@@ -31,7 +31,8 @@ public:
     explicit Thumbnails(QObject *parent);
     ~Thumbnails() override;
 
-    /// How large pictures are shown, in pixels of the screen. Those of another size go.
+    /// How large pictures can be, in pixels of the screen; those that are shown smaller are scaled then. Of
+    /// another size they are made anew.
     void setSide(int pixels);
     /// Null where none was made yet.
     const Thumbnail *find(const QString &path) const { return m_cache.object(path); }

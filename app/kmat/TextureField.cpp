@@ -6,6 +6,7 @@
 #include "ChoicePopup.h"
 #include "Icons.h"
 #include "MaterialCatalog.h"
+#include "NameDrop.h"
 #include "TextField.h"
 #include "TypingUndo.h"
 
@@ -45,6 +46,11 @@ TextureField::TextureField(QWidget *parent)
     m_completer->popup()->setTextElideMode(Qt::ElideMiddle); // paths differ at their ends
     m_editor->setCompleter(m_completer);
     connect(m_completer, qOverload<const QString &>(&QCompleter::activated), this,
+            [this](const QString &texture) {
+                m_editor->discardText();
+                emit chosen(texture);
+            });
+    connect(new NameDrop(m_editor, DraggedFile::Kind::Texture), &NameDrop::dropped, this,
             [this](const QString &texture) {
                 m_editor->discardText();
                 emit chosen(texture);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "FileDrop.h"
 
+#include "DraggedFile.h"
+
 #include <QDropEvent>
 #include <QMimeData>
 #include <QTimer>
@@ -9,9 +11,15 @@
 #include <QWidget>
 
 namespace {
+/// A texture of game or mod is for fields, not to be opened.
 QStringList localFiles(const QMimeData &mime)
 {
     QStringList paths;
+    if (const auto dragged = DraggedFile::of(mime)) {
+        if (dragged->kind != DraggedFile::Kind::Texture)
+            paths.append(dragged->path);
+        return paths;
+    }
     for (const QUrl &url : mime.urls()) {
         if (url.isLocalFile())
             paths.append(url.toLocalFile());

@@ -39,6 +39,7 @@ BrowserPane::BrowserPane(const Ui::MainWindow &ui, DocumentFiles &files, Documen
 
     IndexKeeper &keeper = m_ui.dockUsedBy->keeper();
     connect(dock, &BrowserDock::indexWanted, &keeper, &IndexKeeper::refresh);
+    connect(dock, &BrowserDock::indexGivenUp, &keeper, &IndexKeeper::giveUp);
     connect(&keeper, &IndexKeeper::changed, dock,
             [dock, &keeper] { dock->setIndex(keeper.index(), keeper.isRunning()); });
     connect(&files, &DocumentFiles::saved, dock, &BrowserDock::refresh);
@@ -51,9 +52,10 @@ void BrowserPane::open(const QString &path)
 
 void BrowserPane::goToFile()
 {
-    FilePalette palette(m_ui.dockBrowser->catalog(), m_window);
+    BrowserDock *dock = m_ui.dockBrowser;
+    FilePalette palette(dock->catalog(), dock->thumbnails(), m_window);
     if (palette.exec() == QDialog::Accepted)
-        m_ui.dockBrowser->open(palette.path());
+        dock->open(palette.path());
 }
 
 void BrowserPane::leave()

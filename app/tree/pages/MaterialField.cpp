@@ -6,6 +6,7 @@
 #include "Files.h"
 #include "IndexTargets.h"
 #include "MaterialCatalog.h"
+#include "NameDrop.h"
 #include "NameRow.h"
 #include "Settings.h"
 #include "Shortcuts.h"
@@ -74,6 +75,11 @@ MaterialField::MaterialField(TextField *editor, MaterialCatalog &catalog)
             m_completer->popup()->hide();
     });
     connect(m_completer, qOverload<const QString &>(&QCompleter::activated), this,
+            [this](const QString &path) {
+                m_editor->discardText();
+                emit chosen(path);
+            });
+    connect(new NameDrop(m_editor, DraggedFile::Kind::Materials), &NameDrop::dropped, this,
             [this](const QString &path) {
                 m_editor->discardText();
                 emit chosen(path);

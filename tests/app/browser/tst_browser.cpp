@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
+#include "BrowserDock.h"
 #include "FileList.h"
 #include "Hand.h"
 #include "OwnFolders.h"
 #include "TestArchive.h"
+#include "Thumbnails.h"
 
 /// The window with the files of a game and a mod, and the list of these.
 class tst_Browser : public QObject
@@ -93,6 +95,9 @@ private slots:
         m_window.reset();
         show();
         QTRY_COMPARE(rows(), byFolder);
+
+        QVERIFY(drop("man.skinnedmesh", find<QWidget>("viewSkinned")));
+        QTRY_COMPARE(rootOf(*m_window, "treeSkinnedMesh"), QString("man.skinnedmesh"));
     }
 
     /// Each kind in its way, and nothing that is unsaved is lost.
@@ -184,6 +189,25 @@ private slots:
         QTRY_COMPARE(find<QTreeView>("listUses")->model()->rowCount(), 2);
     }
 
+    void seesAnotherArchive()
+    {
+        const QString game = m_folder->path("game.kpf");
+        for (const char *name : {"models/one.staticmesh", "models/two.staticmesh"}) {
+            TestArchive archive;
+            archive.add(name, "none");
+            QVERIFY(archive.write(game + ".new"));
+            QFile::remove(game);
+            QVERIFY(QFile::rename(game + ".new", game));
+            if (!m_window) {
+                Settings::GamePath.setValue(game);
+                show();
+            }
+            const QString shown = QFileInfo(name).fileName() + " | models | Game";
+            QTRY_VERIFY2(rows().contains(shown), name);
+            QTRY_COMPARE(rows().size(), 3);
+        }
+    }
+
     /// What comes, goes and is replaced is seen; what is current and in sight stays.
     void followsTheFolders()
     {
@@ -210,7 +234,85 @@ private slots:
         QTRY_COMPARE(hand.seen.size(), 1);
     }
 
+    /// Into the view a model is opened, into a field its name goes, as if it was chosen there.
+    void drags()
+    {
+        show({m_man});
+        QTRY_COMPARE(rows().size(), 7);
+        auto *view = find<QWidget>("viewSkinned");
+        QVERIFY(!drop("a.png", view)); // is for fields
+        QVERIFY(drop("Wall.staticmesh", view));
+        QTRY_COMPARE(rootOf(*m_window, "treeStaticMesh"), QString("Wall.staticmesh"));
+
+        select(*m_window, "treeStaticMesh", {{RecordKind::StaticSurface, {0, 0, 0}}});
+        auto *material = find<QWidget>("pagesStaticMesh")->findChild<QLineEdit *>("txtSurfaceMaterial");
+        QTRY_VERIFY(material->isVisible());
+        const QString before = material->text();
+        QVERIFY(drop("skins.kmat", material));
+        QTRY_VERIFY(QApplication::activePopupWidget()); // which of the two
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+        QTRY_COMPARE(material->text(), QString("materials/skins/b"));
+        QVERIFY(m_window->windowTitle().contains('*'));
+        QTest::keySequence(find<QWidget>("treeStaticMesh"), QKeySequence::Undo);
+        QCOMPARE(material->text(), before);
+        QVERIFY(!m_window->windowTitle().contains('*'));
+
+        choose("skins.kmat");
+        QTest::keyClick(list(), Qt::Key_Return);
+        QTRY_VERIFY(find<QDockWidget>("dockMaterials")->isVisible());
+        auto *texture = find<QLineEdit>("txtMaterialTexture");
+        auto *text = find<QPlainTextEdit>("txtMaterialFile");
+        QTRY_COMPARE(texture->text(), QString("textures/a.png"));
+        const QString file = text->toPlainText();
+        QVERIFY(drop("spare.png", texture));
+        QTRY_COMPARE(texture->text(), QString("textures/spare.png"));
+        QVERIFY(text->toPlainText() != file);
+        texture->setFocus();
+        QTest::keySequence(texture, QKeySequence::Undo);
+        QTRY_COMPARE(text->toPlainText(), file);
+    }
+
+    /// Of what is in sight, and of what was damaged it is said.
+    void showsPictures()
+    {
+        m_folder->put("mod/models/broken.staticmesh", "no model");
+        show();
+        const auto &pictures = find<BrowserDock>("dockBrowser")->thumbnails();
+        const auto picture = [&](const QString &path) { return pictures.find(m_folder->path(path)); };
+        QTRY_VERIFY(picture("mod/models/Wall.staticmesh") && picture("game/textures/a.png") &&
+                    picture("mod/models/broken.staticmesh"));
+        QVERIFY(!picture("mod/models/Wall.staticmesh")->picture.isNull());
+        QVERIFY(picture("mod/models/broken.staticmesh")->picture.isNull());
+        QVERIFY(!picture("mod/models/broken.staticmesh")->error.isEmpty());
+        QTRY_VERIFY(picture("game/textures/a.png"));
+        const QModelIndex row = choose("a.png");
+        const auto redIn = [&] {
+            return countPixels(list()->viewport()->grab(list()->visualRect(row)).toImage(), Qt::red);
+        };
+        QTRY_COMPARE(redIn(), 32);
+        // Another picture of that name is seen as soon as it is there.
+        QImage green(8, 4, QImage::Format_RGB32);
+        green.fill(Qt::green);
+        QVERIFY(QFile::remove(m_folder->path("game/textures/a.png")));
+        QVERIFY(green.save(m_folder->path("game/textures/a.png")));
+        QTRY_COMPARE(redIn(), 0);
+    }
+
 private:
+    /// Drags a file of the list onto a widget; false where that refuses it.
+    bool drop(const char *name, QWidget *target) const
+    {
+        const std::unique_ptr<QMimeData> mime(list()->model()->mimeData({choose(name)}));
+        const QPoint place = target->rect().center();
+        QDragEnterEvent enter(place, Qt::CopyAction, mime.get(), Qt::LeftButton, {});
+        QApplication::sendEvent(target, &enter);
+        if (!enter.isAccepted())
+            return false;
+        QDropEvent event(place, Qt::CopyAction, mime.get(), Qt::LeftButton, {});
+        QApplication::sendEvent(target, &event);
+        return event.isAccepted();
+    }
     template <typename Part>
     Part *find(const char *name) const
     {

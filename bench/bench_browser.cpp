@@ -25,7 +25,7 @@ void makeFiles(const QDir &folder)
     mesh.surfaces = {{QStringLiteral("materials/m/_white"), {0, 1, 2}}};
     mesh.vertices = {{{-100, 0, 0}, {}, {}}, {{0, 0, 200}, {}, {}}, {{100, 0, 0}, {}, {}}};
     for (int i = 0; i < Files; ++i) {
-        const QString path = QStringLiteral("%1/models/set%2").arg(i % 10 == 0 ? "mod" : "game").arg(i / 50);
+        const QString path = QStringLiteral("%1/models/set%2").arg(i % 10 == 0 ? "mod" : "game").arg(i / 10);
         folder.mkpath(path);
         if (mesh.write(folder.filePath(QStringLiteral("%1/prop%2.staticmesh").arg(path).arg(i))))
             qFatal("no model could be written");

@@ -12,6 +12,8 @@
 #include <utility>
 
 namespace {
+constexpr int WatchedAtOnce = 100;
+
 /// Files of game and mod that have one name take each other's place.
 void findTwins(std::vector<CatalogFile> &files)
 {
@@ -94,6 +96,7 @@ FileCatalog::FileCatalog(QObject *parent)
     m_rest.setSingleShot(true);
     m_rest.setInterval(RestMs);
     connect(&m_rest, &QTimer::timeout, this, &FileCatalog::refresh);
+    connect(&m_turns, &QTimer::timeout, this, &FileCatalog::watchSome);
     const auto changes = [this] { m_rest.start(); };
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, changes);
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, changes);
@@ -167,16 +170,30 @@ void FileCatalog::watch()
 {
     // A file that was replaced is not watched any more.
     const QStringList now = m_watcher.directories() + m_watcher.files();
-    QSet<QString> wanted;
-    for (const QString &folder : m_files->folders.mid(0, MostWatched))
-        wanted.insert(folder);
-    QStringList gone;
+    const QStringList folders = m_files->folders.mid(0, MostWatched);
+    QSet<QString> wanted(folders.begin(), folders.end());
+    m_toLeave.clear();
     for (const QString &path : now) {
         if (!wanted.remove(path))
-            gone += path;
+            m_toLeave += path;
     }
-    if (!gone.isEmpty())
-        m_watcher.removePaths(gone);
-    if (!wanted.isEmpty())
-        m_watcher.addPaths(wanted.values());
+    m_toWatch = wanted.values();
+    if (!m_toWatch.isEmpty() || !m_toLeave.isEmpty())
+        m_turns.start();
+}
+
+/// Thousands at once would hold up the window.
+void FileCatalog::watchSome()
+{
+    const auto take = [](QStringList &paths) {
+        const QStringList some = paths.mid(0, WatchedAtOnce);
+        paths = paths.mid(WatchedAtOnce);
+        return some;
+    };
+    if (!m_toLeave.isEmpty())
+        m_watcher.removePaths(take(m_toLeave));
+    else if (!m_toWatch.isEmpty())
+        m_watcher.addPaths(take(m_toWatch));
+    else
+        m_turns.stop();
 }

@@ -94,10 +94,14 @@ signals:
 private:
     void take(CatalogFilesPtr made);
     void watch();
+    void watchSome();
 
     Background m_reader;
     QFileSystemWatcher m_watcher;
     QTimer m_rest;
+    QTimer m_turns;            ///< of the event loop, in which folders are watched
+    QStringList m_toWatch;     ///< and are not yet
+    QStringList m_toLeave;     ///< and are not to be any more
     MaterialFolders m_folders; ///< of what is read, or was read last
     CatalogFilesPtr m_files;
     std::shared_ptr<std::atomic_int> m_found;

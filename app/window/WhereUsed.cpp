@@ -4,6 +4,7 @@
 
 #include "DocumentFiles.h"
 #include "DocumentPanes.h"
+#include "FieldName.h"
 #include "FileMenu.h"
 #include "FileOpener.h"
 #include "FloatSpinBox.h"
@@ -47,6 +48,11 @@ WhereUsed::WhereUsed(const Ui::MainWindow &ui, DocumentFiles &files, DocumentPan
         menu->addAction(m_ui.actionWhereUsed);
     }
     (new QuestionMenu(window))->addToMenus(m_ui.actionWhereUsed);
+    for (FieldName *each : window->findChildren<FieldName *>())
+        each->addUses(m_ui.actionWhereUsed, [each] {
+            const QStringList questions = Questions::of(each->editor());
+            return !questions.isEmpty() && namedKindOf(questions.first());
+        });
 }
 
 /// What the field with the keys holds is what is asked for, where that is the number of something.

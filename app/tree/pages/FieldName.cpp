@@ -16,14 +16,14 @@ FieldName::FieldName(NumberField *editor, Choices choices, Target target, bool i
     , m_choices(std::move(choices))
     , m_targetOf(std::move(target))
     , m_hint(new IndexHint(editor->parentWidget()))
+    , m_row(NameRow::around(editor, m_hint))
 {
     const QString name = editor->objectName().mid(2); // behind "sb"
     m_hint->setObjectName(QStringLiteral("hint") + name);
-    NameRow *row = NameRow::around(editor, m_hint);
-    m_button = row->addButton(QStringLiteral("btnChoose") + name, "search", tr("Choose by Name"));
+    m_button = m_row->addButton(QStringLiteral("btnChoose") + name, "search", tr("Choose by Name"));
     connect(m_button, &QToolButton::clicked, this, &FieldName::choose);
     if (isBone) {
-        m_pick = row->addButton(QStringLiteral("btnPick") + name, "pickbone", tr("Pick in the View"));
+        m_pick = m_row->addButton(QStringLiteral("btnPick") + name, "pickbone", tr("Pick in the View"));
         m_pick->setCheckable(true);
         connect(m_pick, &QToolButton::clicked, this, &FieldName::pickWanted);
     }
@@ -35,6 +35,8 @@ void FieldName::show(double number, const IndexTarget &target, bool isChoice)
     m_target = target;
     m_hint->setVisible(!target.text.isEmpty());
     m_button->setVisible(isChoice);
+    if (m_uses)
+        m_uses->setVisible(isChoice && m_canBeNamed());
     setPicking(m_pick && m_pick->isChecked());
 }
 
@@ -84,14 +86,29 @@ void FieldName::leave()
 
 void FieldName::setActions(const QAction *choose, const QAction *pick)
 {
-    const auto tellKeys = [this](QToolButton *button, const QAction *action) {
-        const auto show = [button, action] {
-            button->setToolTip(withKeys(button->accessibleName(), action));
-        };
-        connect(action, &QAction::changed, this, show);
-        show();
-    };
     tellKeys(m_button, choose);
     if (m_pick)
         tellKeys(m_pick, pick);
+}
+
+void FieldName::addUses(QAction *uses, std::function<bool()> canBeNamed)
+{
+    if (m_pick)
+        return; // bones are named within their model
+    m_canBeNamed = std::move(canBeNamed);
+    m_uses =
+        m_row->addButton(QStringLiteral("btnUses") + m_editor->objectName().mid(2), "sync", plainText(uses));
+    m_uses->hide();
+    connect(m_uses, &QToolButton::clicked, this, [this, uses] {
+        m_editor->setFocus(Qt::OtherFocusReason);
+        uses->trigger();
+    });
+    tellKeys(m_uses, uses);
+}
+
+void FieldName::tellKeys(QToolButton *button, const QAction *action)
+{
+    const auto show = [button, action] { button->setToolTip(withKeys(button->accessibleName(), action)); };
+    connect(action, &QAction::changed, this, show);
+    show();
 }

@@ -11,12 +11,13 @@
 #include <functional>
 
 class ChoicePopup;
+class NameRow;
 class NumberField;
 class QAction;
 class QToolButton;
 
 /// What belongs beside the editor of a number that stands for something: its name, a button that lets another
-/// be chosen by its name, and one that lets a bone be picked in the view.
+/// be chosen by its name, one that lets a bone be picked in the view, and one that asks who else names it.
 class FieldName : public QObject
 {
     Q_OBJECT
@@ -46,6 +47,9 @@ public:
     void leave();
     /// Tells the keys of choosing and of picking.
     void setActions(const QAction *choose, const QAction *pick);
+    /// Adds a button for what asks who names the number of the field with the keys, unless that is a bone's.
+    /// It is shown while the number can be chosen and `canBeNamed` says that files name such ones.
+    void addUses(QAction *uses, std::function<bool()> canBeNamed);
 
     NumberField *editor() const { return m_editor; }
 
@@ -56,12 +60,17 @@ signals:
     void pickWanted(bool on);
 
 private:
+    void tellKeys(QToolButton *button, const QAction *action);
+
     NumberField *m_editor;
     const Choices m_choices;
     const Target m_targetOf;
     IndexHint *m_hint;
+    NameRow *m_row;
     QToolButton *m_button;
     QToolButton *m_pick = nullptr; ///< null where there is nothing to pick
+    QToolButton *m_uses = nullptr;
+    std::function<bool()> m_canBeNamed;
     IndexTarget m_target;
     QPointer<ChoicePopup> m_popup;
     double m_number = 0.0;

@@ -104,6 +104,14 @@ private slots:
         press("sbAnimActionArg2", "Ctrl+Shift+U");
         QCOMPARE(things()->currentText().left(13), QString("Impact Type 7"));
         QTRY_COMPARE(records().size(), 2);
+        // A button beside each such field does the same; arguments that name nothing have none.
+        auto *uses = find<QToolButton>("btnUsesAnimActionArg1");
+        QVERIFY(uses->isVisible() && !find<QToolButton>("btnUsesAnimActionArg3")->isVisible());
+        QTest::mouseClick(uses, Qt::LeftButton);
+        QCOMPARE(things()->currentText().left(8), QString("Sound 10"));
+        QTRY_COMPARE(records().size(), 1);
+        QTest::mouseClick(find<QToolButton>("btnUsesAnimActionArg2"), Qt::LeftButton);
+        QTRY_COMPARE(records().size(), 2);
 
         auto *frame = find<IntSpinBox>("sbAnimActionFrame");
         typeNumber(frame, 3);

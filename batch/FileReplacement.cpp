@@ -3,9 +3,8 @@
 #include "FileReplacement.h"
 
 #include "BinaryFileReader.h"
-#include "BinaryFileWriter.h"
 #include "FileRun.h"
-#include "FoundRecords.h"
+#include "ModelJson.h"
 #include "ModelNames.h"
 
 #include <QCryptographicHash>
@@ -27,15 +26,6 @@ struct StoredModel
     std::optional<QByteArray> nameBytes; ///< of the names beside it
     ModelNames names;                    ///< of what the model has
 };
-
-QByteArray bytesOf(const ModelJson::Content &content)
-{
-    BinaryFileWriter writer;
-    if (std::visit([&writer](const auto &model) { return model.write(writer); }, content.model))
-        return {};
-    const std::vector<uchar> &bytes = writer.bytes();
-    return QByteArray(reinterpret_cast<const char *>(bytes.data()), int(bytes.size())) + content.behind;
-}
 
 QByteArray digestOf(const QByteArray &bytes)
 {
@@ -92,7 +82,7 @@ QString readStored(const QString &path, StoredModel &stored)
     QString reason = index == 0   ? readModel<SkinnedMesh>(stored)
                      : index == 1 ? readModel<AnimFile>(stored)
                                   : readModel<StaticMesh>(stored);
-    if (reason.isEmpty() && bytesOf(stored.content) != stored.bytes)
+    if (reason.isEmpty() && ModelJson::storedBytes(stored.content) != stored.bytes)
         reason =
             replacing(QT_TRANSLATE_NOOP("FileReplacement", "Writing it would change more than the values."));
     return reason.isEmpty() ? readNames(path, stored) : reason;
@@ -156,7 +146,7 @@ QString addReplacement(FileRun &run, const FileReplacement &found, const Replace
         return now.reason;
     if (now.hash != found.hash)
         return replacing(QT_TRANSLATE_NOOP("FileReplacement", "The file was changed since."));
-    const QByteArray bytes = bytesOf(stored.content);
+    const QByteArray bytes = ModelJson::storedBytes(stored.content);
     QString reason = bytes == stored.bytes ? QString() : run.add(found.path, stored.bytes, bytes);
     const auto *mesh = std::get_if<SkinnedMesh>(&stored.content.model);
     const ModelNames names = mesh ? ModelNames::of(*mesh) : ModelNames();

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "FieldPatch.h"
+#include "FoundRecords.h"
 
 #include <QStringList>
 
@@ -25,7 +25,7 @@ struct ReplaceRule
 struct FileReplacement
 {
     QString path;
-    std::vector<PatchedField> changes; ///< the values that differ then; of a file with a reason, none
+    std::vector<ReplacedField> changes; ///< the values that differ then; of a file with a reason, none
     QString reason; ///< why the file cannot be read, searched, or changed; empty when it can
     /// Whether the condition names what this file's model has not, so that nothing of it is meant.
     bool isUnmeant = false;

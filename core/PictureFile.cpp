@@ -38,6 +38,13 @@ bool fits(const QSize &size)
 }
 } // namespace
 
+bool isPictureName(const QString &path)
+{
+    static const QSet<QString> suffixes{QStringLiteral("png"),  QStringLiteral("tga"), QStringLiteral("jpg"),
+                                        QStringLiteral("jpeg"), QStringLiteral("bmp"), QStringLiteral("gif")};
+    return suffixes.contains(path.mid(path.lastIndexOf(QLatin1Char('.')) + 1).toLower());
+}
+
 Picture readPicture(QIODevice &device)
 {
     QImageReader reader(&device);

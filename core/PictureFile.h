@@ -13,6 +13,9 @@ constexpr qint64 MostPixels = 64 * 1024 * 1024;
 /// The kinds that are read, as they are called: a file's content says which it is, not its name.
 constexpr char PictureKinds[] = "PNG, JPEG, TGA, BMP, GIF";
 
+/// Whether a file is called as pictures of these kinds are.
+[[nodiscard]] bool isPictureName(const QString &path);
+
 struct Picture
 {
     QImage image;      ///< null when there is none that can be read, or one of more than MostPixels

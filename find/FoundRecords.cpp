@@ -65,7 +65,7 @@ QString FoundRecords::find(const QString &text, const QString &file, const Model
 }
 
 QString FoundRecords::replace(ModelJson::Model &model, const QString &word, const QString &text,
-                              std::vector<PatchedField> &changes) const
+                              std::vector<ReplacedField> &changes) const
 {
     const auto values = valuesOf(model);
     const Replacement made = replacementOf(*values, records, word, text, 0, mesh.get());
@@ -79,8 +79,10 @@ QString FoundRecords::replace(ModelJson::Model &model, const QString &word, cons
         const QString before = change.field->text(old);
         const QString after = change.field->text(change.value);
         if (before != after)
-            changes.push_back({recordPath(records[i]) + QLatin1Char(' ') + change.field->id(),
-                               before.toUtf8(), after.toUtf8()});
+            changes.push_back({{recordPath(records[i]) + QLatin1Char(' ') + change.field->id(),
+                                before.toUtf8(), after.toUtf8()},
+                               records[i],
+                               change.field});
     }
     NoView view;
     QUndoStack stack;

@@ -9,6 +9,13 @@
 
 class Companions;
 
+/// A value that was replaced; its place names it as the tool does.
+struct ReplacedField : PatchedField
+{
+    RecordRef record;
+    const RecordField *field;
+};
+
 /// The records of a model that meet a condition, and other values for them. The model is whole in memory, and
 /// nobody looks at it.
 struct FoundRecords
@@ -27,7 +34,7 @@ struct FoundRecords
     /// see replacementOf(). Returns why that cannot be, with the model as it was; empty when it can.
     /// `changes` grows by what is another value now.
     [[nodiscard]] QString replace(ModelJson::Model &model, const QString &word, const QString &text,
-                                  std::vector<PatchedField> &changes) const;
+                                  std::vector<ReplacedField> &changes) const;
 };
 
 /// The mesh that a file is, or that an animation belongs to, with its names; null when there is none, or no

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ModelJson.h"
 
+#include "BinaryFileWriter.h"
 #include "JsonReader.h"
 #include "ModelNames.h"
 #include "Records.h"
@@ -148,6 +149,15 @@ JsonProblem ModelJson::read(const QByteArray &text, Content &content)
     if (kind == QLatin1String(JsonFields<AnimFile>::kind))
         return readModel<AnimFile>(view, content);
     return readModel<StaticMesh>(view, content);
+}
+
+QByteArray ModelJson::storedBytes(const Content &content)
+{
+    BinaryFileWriter writer;
+    if (std::visit([&writer](const auto &model) { return model.write(writer); }, content.model))
+        return {};
+    const std::vector<uchar> &bytes = writer.bytes();
+    return QByteArray(reinterpret_cast<const char *>(bytes.data()), int(bytes.size())) + content.behind;
 }
 
 QString ModelJson::kindOf(const Model &model)

@@ -24,6 +24,9 @@ struct Content
     QByteArray behind; ///< the bytes behind the last record, which no record owns
 };
 
+/// What the file of a model holds; empty where the model refuses.
+[[nodiscard]] QByteArray storedBytes(const Content &content);
+
 /// Writes a model whole; see the schema. A skinned mesh that names bones or animations has these names behind
 /// it.
 void write(const Content &content, const JsonWriter::Sink &sink);

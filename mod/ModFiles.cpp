@@ -4,6 +4,7 @@
 
 #include "Files.h"
 #include "PackList.h"
+#include "PictureFile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -17,14 +18,9 @@ ModFileKind modFileKind(const QString &path)
         {QStringLiteral("anim"), ModFileKind::Anim},
         {QStringLiteral("staticmesh"), ModFileKind::StaticMesh},
         {QStringLiteral("kmat"), ModFileKind::Material},
-        {QStringLiteral("png"), ModFileKind::Picture},
-        {QStringLiteral("tga"), ModFileKind::Picture},
-        {QStringLiteral("jpg"), ModFileKind::Picture},
-        {QStringLiteral("jpeg"), ModFileKind::Picture},
-        {QStringLiteral("bmp"), ModFileKind::Picture},
-        {QStringLiteral("gif"), ModFileKind::Picture},
     };
-    return kinds.value(QFileInfo(path).suffix().toLower(), ModFileKind::Other);
+    return kinds.value(QFileInfo(path).suffix().toLower(),
+                       isPictureName(path) ? ModFileKind::Picture : ModFileKind::Other);
 }
 
 ModFiles::ModFiles(Whose whose, const QString &folder, const std::function<bool()> &goesOn)

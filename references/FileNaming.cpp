@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "FileNaming.h"
 
+#include "PictureFile.h"
+
 std::optional<IndexedType> indexedTypeOf(const QString &path)
 {
     static const struct
@@ -11,18 +13,12 @@ std::optional<IndexedType> indexedTypeOf(const QString &path)
     } suffixes[] = {{QLatin1String(".skinnedmesh"), IndexedType::SkinnedMesh},
                     {QLatin1String(".anim"), IndexedType::Anim},
                     {QLatin1String(".staticmesh"), IndexedType::StaticMesh},
-                    {QLatin1String(".kmat"), IndexedType::Materials},
-                    {QLatin1String(".png"), IndexedType::Picture},
-                    {QLatin1String(".tga"), IndexedType::Picture},
-                    {QLatin1String(".jpg"), IndexedType::Picture},
-                    {QLatin1String(".jpeg"), IndexedType::Picture},
-                    {QLatin1String(".bmp"), IndexedType::Picture},
-                    {QLatin1String(".gif"), IndexedType::Picture}};
+                    {QLatin1String(".kmat"), IndexedType::Materials}};
     for (const auto &each : suffixes) {
         if (path.endsWith(each.suffix, Qt::CaseInsensitive))
             return each.type;
     }
-    return {};
+    return isPictureName(path) ? std::optional(IndexedType::Picture) : std::nullopt;
 }
 
 QString FileNaming::materialPath(int material) const

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "ModelText.h"
 
-#include "BinaryFileWriter.h"
 #include "Files.h"
 #include "ModelFile.h"
 #include "Output.h"
@@ -10,18 +9,6 @@
 #include "WholeFile.h"
 
 #include <QFileInfo>
-
-namespace {
-/// What a model and the bytes behind it are stored as; empty where the model refuses.
-QByteArray storedBytes(const ModelJson::Content &content)
-{
-    BinaryFileWriter writer;
-    if (std::visit([&writer](const auto &model) { return model.write(writer); }, content.model))
-        return {};
-    const std::vector<uchar> &bytes = writer.bytes();
-    return QByteArray(reinterpret_cast<const char *>(bytes.data()), int(bytes.size())) + content.behind;
-}
-} // namespace
 
 QString wrongName(const QString &path, const QString &kind)
 {
@@ -64,7 +51,7 @@ QString readWholeModel(const QString &path, ModelJson::Content &content, QString
         return QStringLiteral("The file cannot be opened.");
     const QByteArray before = file->readAll();
     content.behind = before.right(int(bytesBehind));
-    const QByteArray after = storedBytes(content);
+    const QByteArray after = ModelJson::storedBytes(content);
     if (!after.isEmpty() && after != before)
         note += QStringLiteral("%1A count below zero is read as none, and is written so.")
                     .arg(note.isEmpty() ? QString() : QStringLiteral(" "));
@@ -94,7 +81,7 @@ bool writeWholeModel(const QString &path, const ModelJson::Content &content, boo
         Output::complain(QStringLiteral("%1: %2").arg(path, refusal));
         return true;
     }
-    const QString reason = writeWholeFile(path, storedBytes(content));
+    const QString reason = writeWholeFile(path, ModelJson::storedBytes(content));
     if (!reason.isEmpty() || !withNames)
         return Output::outcome(path, !reason.isEmpty(), reason);
     const QString namesPath = ModelNames::pathFor(path);

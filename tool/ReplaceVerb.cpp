@@ -74,7 +74,7 @@ void print(const Findings &findings, bool isJson)
 {
     QJsonArray array;
     for (const FileReplacement &file : findings.files) {
-        for (const PatchedField &change : file.changes) {
+        for (const ReplacedField &change : file.changes) {
             const QString before = QString::fromUtf8(change.before);
             const QString after = QString::fromUtf8(change.after);
             if (isJson)

@@ -71,6 +71,7 @@ int set(const QStringList &arguments)
         error = wrongName(target, ModelJson::kindOf(content.model));
     const ModelNames before = namesOf(content);
     std::vector<PatchedField> changes;
+    std::vector<ReplacedField> replaced;
     const bool isSearch = line.isSet(QStringLiteral("where"));
     FoundRecords found;
     if (error.isEmpty() && isSearch) {
@@ -81,13 +82,14 @@ int set(const QStringList &arguments)
             found.mesh = namedMesh(file, content.model, companions);
     }
     for (int i = 1; i < operands.size() && error.isEmpty(); i += 2) {
-        error = isSearch ? found.replace(content.model, operands.at(i), operands.at(i + 1), changes)
+        error = isSearch ? found.replace(content.model, operands.at(i), operands.at(i + 1), replaced)
                          : patchModel(content.model, operands.at(i), operands.at(i + 1), changes);
     }
     if (!error.isEmpty()) {
         Output::complain(QStringLiteral("%1: %2").arg(file, error));
         return Failed;
     }
+    changes.insert(changes.end(), replaced.begin(), replaced.end());
     if (!note.isEmpty())
         Output::complain(QStringLiteral("%1: warning: %2").arg(file, note));
     const bool isSame = isOneFile(file, target);

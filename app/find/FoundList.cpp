@@ -2,11 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "FoundList.h"
 
-#include "EmptyText.h"
 #include "RecordTable.h"
 #include "RecordTexts.h"
-
-#include <QHeaderView>
 
 #include <algorithm>
 
@@ -77,22 +74,12 @@ QVariant FoundRows::headerData(int section, Qt::Orientation orientation, int rol
 }
 
 FoundList::FoundList(const RecordFinder &finder, QWidget *parent)
-    : QTreeView(parent)
+    : RowList(new FoundRows(finder), {48, 22, 34}, parent)
     , m_finder(finder)
-    , m_rows(new FoundRows(finder, this))
+    , m_rows(static_cast<FoundRows *>(model()))
 {
     setObjectName(QStringLiteral("listFound"));
     setAccessibleName(tr("Records found"));
-    setModel(m_rows);
-    setRootIsDecorated(false);
-    setUniformRowHeights(true);
-    setAlternatingRowColors(true);
-    setAllColumnsShowFocus(true);
-    setIconSize({16, 16});
-    const int letter = fontMetrics().averageCharWidth();
-    setColumnWidth(FoundRows::RecordColumn, 48 * letter);
-    setColumnWidth(FoundRows::FieldColumn, 22 * letter);
-    setColumnWidth(FoundRows::ValueColumn, 34 * letter);
     connect(selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex &current) {
         if (current.isValid())
             m_current = m_finder.hits()[size_t(current.row())];
@@ -116,18 +103,4 @@ void FoundList::refill()
 void FoundList::setCurrentRow(int row)
 {
     setCurrentIndex(m_rows->index(row, 0));
-}
-
-void FoundList::setEmptyText(const QString &text)
-{
-    m_emptyText = text;
-    setAccessibleDescription(text);
-    viewport()->update();
-}
-
-void FoundList::paintEvent(QPaintEvent *event)
-{
-    QTreeView::paintEvent(event);
-    if (m_rows->rowCount() == 0)
-        paintEmptyText(*viewport(), m_emptyText);
 }

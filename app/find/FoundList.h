@@ -3,9 +3,9 @@
 #pragma once
 
 #include "RecordFinder.h"
+#include "RowList.h"
 
 #include <QAbstractTableModel>
-#include <QTreeView>
 
 /// The records that a RecordFinder has found as rows. It keeps neither labels nor values: they are read when
 /// they are shown, so nothing goes stale.
@@ -35,7 +35,7 @@ private:
 };
 
 /// The list of them. What is current stays so while it is found, and so does its row when it is not any more.
-class FoundList : public QTreeView
+class FoundList : public RowList
 {
     Q_OBJECT
 
@@ -44,17 +44,12 @@ public:
 
     /// Lists what the finder has found now.
     void refill();
-    void setEmptyText(const QString &text);
     /// -1 without one.
     int currentRow() const { return currentIndex().row(); }
     void setCurrentRow(int row);
-
-protected:
-    void paintEvent(QPaintEvent *event) override;
 
 private:
     const RecordFinder &m_finder;
     FoundRows *m_rows;
     RecordFinder::Hit m_current{}; ///< as it was, of no kind for none
-    QString m_emptyText;
 };

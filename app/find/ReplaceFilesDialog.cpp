@@ -10,6 +10,7 @@
 #include "Look.h"
 #include "Memory.h"
 #include "Patience.h"
+#include "RecordTexts.h"
 #include "Settings.h"
 #include "Validation.h"
 
@@ -31,6 +32,15 @@ enum Column { PlaceColumn, BeforeColumn, AfterColumn };
 Companions companionsOf()
 {
     return Companions({Settings::GamePath.value(), Settings::OutputDir.value()});
+}
+/// A value as the pages show it: by its name, where a box of names has it there.
+QString valueText(const ReplacedField &change, const QByteArray &value)
+{
+    const QString text = QString::fromUtf8(value);
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    const QStringList names = change.field->names();
+    return isNumber && number >= 0 && number < names.size() ? names[number] : text;
 }
 } // namespace
 
@@ -283,9 +293,11 @@ void ReplaceFilesDialog::addFile(const FileReplacement &file)
             new QTreeWidgetItem(item, {tr("and %1 more").arg(file.changes.size() - i)});
             return;
         }
-        const PatchedField &change = file.changes[i];
-        new QTreeWidgetItem(
-            item, {change.place, QString::fromUtf8(change.before), QString::fromUtf8(change.after)});
+        const ReplacedField &change = file.changes[i];
+        auto *row = new QTreeWidgetItem(
+            item, {recordPlace(change.record) + QStringLiteral(" \u203A ") + change.field->title(),
+                   valueText(change, change.before), valueText(change, change.after)});
+        row->setToolTip(PlaceColumn, change.place); // as the command line names it
         ++m_shown;
     }
 }

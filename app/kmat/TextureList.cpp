@@ -3,10 +3,10 @@
 #include "TextureList.h"
 
 #include "Files.h"
+#include "PictureFile.h"
 #include "Settings.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QSet>
 
 namespace {
@@ -16,8 +16,6 @@ constexpr int MostTextures = 200000; ///< a folder of nonsense may hold any numb
 QStringList listTextures(const QString &gamePath, const QString &outputDir,
                          const Background::Cancelled &cancelled)
 {
-    static const QSet<QString> suffixes{QStringLiteral("png"),  QStringLiteral("tga"), QStringLiteral("jpg"),
-                                        QStringLiteral("jpeg"), QStringLiteral("bmp"), QStringLiteral("gif")};
     QStringList textures;
     QSet<QString> known; // in one case, as they are looked up
     for (const QString &folder : {gamePath, outputDir}) {
@@ -27,8 +25,7 @@ QStringList listTextures(const QString &gamePath, const QString &outputDir,
         Files::walk(root, [&](const FolderEntry &entry) {
             const QString name = entry.path.mid(root.size() + 1);
             const QString key = name.toCaseFolded();
-            if (!entry.isFolder && suffixes.contains(QFileInfo(name).suffix().toLower()) &&
-                !known.contains(key)) {
+            if (!entry.isFolder && isPictureName(name) && !known.contains(key)) {
                 known.insert(key);
                 textures.append(name);
             }

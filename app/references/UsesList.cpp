@@ -2,13 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "UsesList.h"
 
-#include "EmptyText.h"
 #include "Icons.h"
 #include "RecordTable.h"
 #include "RecordTexts.h"
 
 #include <QDir>
-#include <QHeaderView>
 
 #include <algorithm>
 #include <numeric>
@@ -93,21 +91,11 @@ QVariant UsesRows::headerData(int section, Qt::Orientation orientation, int role
 }
 
 UsesList::UsesList(QWidget *parent)
-    : QTreeView(parent)
-    , m_rows(new UsesRows(this))
+    : RowList(new UsesRows(nullptr), {44, 50, 10}, parent)
+    , m_rows(static_cast<UsesRows *>(model()))
 {
     setObjectName(QStringLiteral("listUses"));
     setAccessibleName(tr("Who names it"));
-    setModel(m_rows);
-    setRootIsDecorated(false);
-    setUniformRowHeights(true);
-    setAlternatingRowColors(true);
-    setAllColumnsShowFocus(true);
-    setIconSize({16, 16});
-    const int letter = fontMetrics().averageCharWidth();
-    setColumnWidth(UsesRows::RecordColumn, 44 * letter);
-    setColumnWidth(UsesRows::FileColumn, 50 * letter);
-    setColumnWidth(UsesRows::FolderColumn, 10 * letter);
 }
 
 void UsesList::setUses(std::vector<NamedUse> uses)
@@ -120,18 +108,4 @@ void UsesList::setUses(std::vector<NamedUse> uses)
         if (m_rows->useAt(each).file->path == path && m_rows->placeAt(each) == place)
             return setCurrentIndex(m_rows->index(each, 0));
     }
-}
-
-void UsesList::setEmptyText(const QString &text)
-{
-    m_emptyText = text;
-    setAccessibleDescription(text);
-    viewport()->update();
-}
-
-void UsesList::paintEvent(QPaintEvent *event)
-{
-    QTreeView::paintEvent(event);
-    if (m_rows->rowCount() == 0)
-        paintEmptyText(*viewport(), m_emptyText);
 }

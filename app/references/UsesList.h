@@ -3,9 +3,9 @@
 #pragma once
 
 #include "ReferenceIndex.h"
+#include "RowList.h"
 
 #include <QAbstractTableModel>
-#include <QTreeView>
 
 /// The records of files that name a thing, one a row. There may be thousands, of which some dozens are seen,
 /// so texts are made when they are asked for.
@@ -45,7 +45,7 @@ private:
 };
 
 /// The list of them.
-class UsesList : public QTreeView
+class UsesList : public RowList
 {
     Q_OBJECT
 
@@ -56,13 +56,7 @@ public:
     const UsesRows &rows() const { return *m_rows; }
     /// What was current stays so where it is still there.
     void setUses(std::vector<NamedUse> uses);
-    /// What stands in the list while it is empty.
-    void setEmptyText(const QString &text);
-
-protected:
-    void paintEvent(QPaintEvent *event) override;
 
 private:
     UsesRows *m_rows;
-    QString m_emptyText;
 };

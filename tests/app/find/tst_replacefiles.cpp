@@ -54,7 +54,7 @@ private slots:
                          QString("Values that would change: 3; files: 3."));
                 const QTreeWidgetItem *value = tree->topLevelItem(1)->child(0);
                 QCOMPARE((QStringList{value->text(0), value->text(1), value->text(2)}),
-                         (QStringList{"bone 2 damageScale", "4", "8"}));
+                         (QStringList{"Bones \u203A 2 \u203A Damage Scale", "4", "8"}));
                 QCOMPARE(TestSupport::readFile(m_files["b"]), before);
                 // Another value: what was listed is not what would be done.
                 QTest::keyClicks(find<QLineEdit>(*dialog, "txtReplaceValue"), "+1");

@@ -1,9 +1,12 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "DocumentFiles.h"
+#include "Files.h"
 #include "Hand.h"
 #include "NoOpenGL.h"
 #include "Recovery.h"
+#include "TestArchive.h"
+#include "ZipReader.h"
 
 #include <atomic>
 #include <cstdlib>
@@ -165,6 +168,20 @@ private slots:
         find<QAction>(window, "actionCompareAgain")->trigger();
         QTRY_COMPARE(find<QTreeWidget>(window, "treeCompare")->accessibleDescription(),
                      QStringLiteral("No record differs."));
+    }
+
+    void thereIsNoMemoryForADirectory()
+    {
+        constexpr int Count = 1237;
+        TestArchive made;
+        for (int i = 0; i < Count; ++i)
+            made.add("models/" + QByteArray::number(i), "x");
+        const QString path = m_files->path("game.kpf");
+        QVERIFY(made.write(path));
+        refusedBytes = Count * sizeof(ZipEntry);
+        const QString problem = Files::archiveProblem(path);
+        refusedBytes = 0;
+        QCOMPARE(problem, QString("There is not enough memory."));
     }
 
     void theStoreCannotBeReadNorWritten()

@@ -42,7 +42,7 @@ MaterialField::MaterialField(TextField *editor, MaterialCatalog &catalog)
     m_hint->setObjectName(QStringLiteral("hint") + name);
     NameRow *row = NameRow::around(editor, m_hint, NameRow::Name::Below);
     m_button = row->addButton(QStringLiteral("btnChoose") + name, "search", tr("Choose by Name"));
-    m_edit = row->addButton(QStringLiteral("btnEdit") + name, "open", tr("Edit Material"));
+    m_edit = row->addButton(QStringLiteral("btnEdit") + name, "bgcolor", tr("Edit Material"));
     m_edit->setToolTip(tr("Show the material and its file in the dock of materials"));
     m_open = row->addButton(QStringLiteral("btnOpen") + name, "folderopen", tr("Open Material File"));
     m_open->setToolTip(

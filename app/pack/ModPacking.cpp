@@ -9,6 +9,7 @@
 #include "PackDialog.h"
 #include "Patience.h"
 #include "Settings.h"
+#include "UnsavedWork.h"
 #include "Validation.h"
 
 #include <QDir>
@@ -50,9 +51,10 @@ std::optional<std::vector<PackError>> checkMod(const MaterialFolders &folders, Q
 }
 } // namespace
 
-ModPacking::ModPacking(DocumentFiles &files, QMainWindow *window)
+ModPacking::ModPacking(DocumentFiles &files, UnsavedWork &materials, QMainWindow *window)
     : QObject(window)
     , m_files(files)
+    , m_materials(materials)
     , m_window(window)
 {}
 
@@ -87,11 +89,19 @@ bool ModPacking::settleUnsaved(const QString &modFolder)
 {
     const QString root = QFileInfo(modFolder).canonicalFilePath() + QLatin1Char('/');
     m_files.finishAllSaving();
-    return std::all_of(
-        documentKinds().begin(), documentKinds().end(), [this, &root](const DocumentKind &kind) {
-            const QString path = QFileInfo(m_files.document(kind.type)->path()).canonicalFilePath();
-            return !path.startsWith(root) || m_files.promptUnsaved(kind.type);
-        });
+    const auto isElsewhere = [&root](const QString &path) {
+        const QFileInfo file(path);
+        return path.isEmpty() ||
+               !(file.exists() ? file.canonicalFilePath()
+                               : QFileInfo(file.path()).canonicalFilePath() + QLatin1Char('/'))
+                    .startsWith(root);
+    };
+    return std::all_of(documentKinds().begin(), documentKinds().end(),
+                       [&](const DocumentKind &kind) {
+                           return isElsewhere(m_files.document(kind.type)->path()) ||
+                                  m_files.promptUnsaved(kind.type);
+                       }) &&
+           (isElsewhere(m_materials.path()) || m_materials.mayBeReplaced());
 }
 
 void ModPacking::write(const PackDialog &wanted)

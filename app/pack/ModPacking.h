@@ -7,6 +7,7 @@
 class DocumentFiles;
 class PackDialog;
 class QMainWindow;
+class UnsavedWork;
 
 /// Makes the archive of the mod: looks the mod through, shows what would go in, and writes it. All of it is
 /// done in another thread, with a way to give up.
@@ -15,7 +16,8 @@ class ModPacking : public QObject
     Q_OBJECT
 
 public:
-    ModPacking(DocumentFiles &files, QMainWindow *window);
+    /// Asks about what is unsaved of the documents and of `materials`.
+    ModPacking(DocumentFiles &files, UnsavedWork &materials, QMainWindow *window);
 
 public slots:
     void on_actionPackMod_triggered();
@@ -26,5 +28,6 @@ private:
     void write(const PackDialog &wanted);
 
     DocumentFiles &m_files;
+    UnsavedWork &m_materials;
     QMainWindow *m_window;
 };

@@ -250,7 +250,8 @@ void MainWindow::connectActions()
     wire(m_ui->actionImport, m_preferences, &Preferences::OnStartSetupPaths);
     wire(m_ui->actionImport, m_importExport, &ImportExport::on_actionImport_triggered);
     wire(m_ui->actionExport, m_importExport, &ImportExport::on_actionExport_triggered);
-    wire(m_ui->actionPackMod, new ModPacking(*m_files, this), &ModPacking::on_actionPackMod_triggered);
+    wire(m_ui->actionPackMod, new ModPacking(*m_files, m_materials->work(), this),
+         &ModPacking::on_actionPackMod_triggered);
     wire(m_ui->actionRotate, m_transforms, &ModelTransforms::on_actionRotate_triggered);
     wire(m_ui->actionScale, m_transforms, &ModelTransforms::on_actionScale_triggered);
     wire(m_ui->actionPreferences, m_preferences, &Preferences::on_actionPreferences_triggered);

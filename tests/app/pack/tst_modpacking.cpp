@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Files.h"
 #include "Hand.h"
+#include "MaterialsDock.h"
 #include "PackDialog.h"
 #include "TextField.h"
 
@@ -77,6 +78,19 @@ private slots:
             menuAction(window)->trigger();
         }
         QVERIFY(Files::isFile(m_target + "/textures/b.png"));
+    }
+
+    void asksAboutMaterials()
+    {
+        const QString path =
+            m_files->put("mod/materials/m.kmat", "material a { sampler \"d\" 0 \"a.png\" }\n");
+        ShownWindow window({path});
+        QCOMPARE(find<MaterialsDock>(window, "dockMaterials")->document().setTexture(0, 0, "b.png"),
+                 QString());
+        Hand hand({Hand::press(QMessageBox::Yes), Hand::reject});
+        menuAction(window)->trigger();
+        QVERIFY(hand.seen.value(0).contains("m.kmat"));
+        QVERIFY(TestSupport::readFile(path).contains("b.png"));
     }
 
     void stopsAtErrors()

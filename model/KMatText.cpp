@@ -80,7 +80,7 @@ bool isWord(const QString &text)
                         [](QChar c) { return c.isSpace() || c == QLatin1Char('"') || c.isNull(); });
 }
 
-bool isSame(const KMatMaterial &a, const KMatMaterial &b)
+bool isSameMaterial(const KMatMaterial &a, const KMatMaterial &b)
 {
     return a.name == b.name &&
            std::equal(
@@ -94,7 +94,7 @@ bool differIn(const KMatText &was, const KMatText &is, int material, const KMatM
     if (was.materials().size() != is.materials().size())
         return false;
     for (size_t i = 0; i < was.materials().size(); ++i) {
-        if (!isSame(is.materials()[i], int(i) == material ? wanted : was.materials()[i]))
+        if (!isSameMaterial(is.materials()[i], int(i) == material ? wanted : was.materials()[i]))
             return false;
     }
     return true;

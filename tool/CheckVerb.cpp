@@ -228,7 +228,7 @@ bool checkFiles(const QStringList &operands, const MaterialFolders &folders, int
 }
 
 /// Of files without findings only those are told that were read.
-void tell(const ModReport &report, const QString &mod, CheckOutput &output)
+void tellReport(const ModReport &report, const QString &mod, CheckOutput &output)
 {
     output.setFiles(report.files);
     std::map<QString, CheckedFile> files;
@@ -247,7 +247,7 @@ void tell(const ModReport &report, const QString &mod, CheckOutput &output)
 bool checkMod(const QString &mod, const MaterialFolders &folders, int listed, CheckOutput &output)
 {
     const ModReport report = ModCheck({folders.gamePath, mod}, ReferenceIds::load(), listed).run();
-    tell(report, mod, output);
+    tellReport(report, mod, output);
     if (report.files == 0)
         Output::complain(QStringLiteral("%1: There is no file to check in this folder.").arg(mod));
     return report.files == 0;
@@ -265,7 +265,7 @@ bool findsErrors(const MaterialFolders &folders, const QSet<QString> &names,
                           report.findings.end());
     report.files = names.size();
     CheckOutput output(QStringLiteral("text"), true);
-    tell(report, folders.outputDir, output);
+    tellReport(report, folders.outputDir, output);
     return output.finish();
 }
 

@@ -75,7 +75,10 @@ void MaterialFileText::mark(TextSpan word)
         std::min(shownPlace(m_source, m_shown.begin, word.begin), document()->characterCount() - 1));
     mark.format.setBackground(palette().alternateBase());
     mark.format.setProperty(QTextFormat::FullWidthSelection, true);
+    // From its begin on, and with the lines around it.
+    mark.cursor.movePosition(QTextCursor::StartOfBlock);
     setTextCursor(mark.cursor);
+    centerCursor();
     setExtraSelections({mark});
 }
 

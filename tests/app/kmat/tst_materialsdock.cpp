@@ -168,6 +168,7 @@ private slots:
         QTest::keyClicks(field(), "half.png");
         QTest::keyClick(field(), Qt::Key_Return);
         QVERIFY(markedLine().contains("half.png"));
+        QCOMPARE(shown->horizontalScrollBar()->value(), 0);
     }
 
     void seesOthers()

@@ -38,13 +38,14 @@ ViewMenu::ViewMenu(const Ui::MainWindow &ui, const DocumentPanes &panes, QAction
     menu->insertSeparator(ui.actionFullScreen);
     addLookMenu(*menu);
     menu->addSeparator();
-    menu->addActions({ui.toolBarFile->toggleViewAction(), ui.toolBarEdit->toggleViewAction(),
-                      ui.dockBrowser->toggleViewAction(), ui.dockConsole->toggleViewAction(),
-                      ui.dockProblems->toggleViewAction(), ui.dockFind->toggleViewAction(),
-                      ui.dockUsedBy->toggleViewAction(), ui.dockCompare->toggleViewAction(),
-                      ui.dockTable->toggleViewAction(), ui.dockUv->toggleViewAction(),
-                      ui.dockCurves->toggleViewAction(), ui.dockMaterials->toggleViewAction(),
-                      ui.dockHistory->toggleViewAction(), ui.dockServers->toggleViewAction()});
+    menu->addActions({ui.toolBarFile->toggleViewAction(), ui.toolBarEdit->toggleViewAction()});
+    for (QDockWidget *dock : std::initializer_list<QDockWidget *>{
+             ui.dockBrowser, ui.dockConsole, ui.dockProblems, ui.dockFind, ui.dockUsedBy, ui.dockCompare,
+             ui.dockTable, ui.dockUv, ui.dockCurves, ui.dockMaterials, ui.dockHistory, ui.dockServers}) {
+        menu->addAction(dock->toggleViewAction());
+        // Not behind others that share its place.
+        connect(dock->toggleViewAction(), &QAction::triggered, dock, &QDockWidget::raise);
+    }
     createToolBars(ui, panes, *display, window);
 }
 

@@ -227,6 +227,19 @@ private slots:
         QCOMPARE(QApplication::focusWidget(), view);
     }
 
+    void docksComeInFront()
+    {
+        const auto window = open();
+        for (int round = 0; round < 2; ++round) {
+            for (const char *name : {"dockProblems", "dockUsedBy", "dockFind"}) {
+                auto *dock = find<QDockWidget>(*window, name);
+                dock->hide();
+                dock->toggleViewAction()->trigger();
+                QTRY_VERIFY(!dock->widget()->visibleRegion().isEmpty());
+            }
+        }
+    }
+
     void modelsAreFramedWhenTheyOpen()
     {
         AnimFile high = twoBlocks();

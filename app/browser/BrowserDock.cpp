@@ -47,13 +47,16 @@ BrowserDock::BrowserDock(QWidget *parent)
     , m_sorting(new QToolButton)
     , m_pages(new QStackedWidget)
     , m_thumbnails(new Thumbnails(this))
-    , m_list(new FileList(*m_thumbnails, this))
+    , m_list(new FileList(*m_thumbnails, nullptr))
     , m_empty(new QLabel)
     , m_count(new QLabel)
     , m_progress(new QProgressBar)
     , m_giveUp(new QToolButton)
     , m_menu(new FileMenu(*m_list, this))
 {
+    // The keys go through it in the order in which it is put together.
+    m_pages->addWidget(m_list);
+    m_pages->addWidget(m_empty);
     auto *contents = new QWidget(this);
     auto *layout = new QVBoxLayout(contents);
     layout->setContentsMargins(4, 2, 4, 2);
@@ -68,8 +71,6 @@ BrowserDock::BrowserDock(QWidget *parent)
     m_empty->setMargin(8);
     m_empty->setForegroundRole(QPalette::PlaceholderText);
     m_empty->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    m_pages->addWidget(m_list);
-    m_pages->addWidget(m_empty);
     setWidget(contents);
     contents->setFocusProxy(m_list);
     createSorting();

@@ -96,10 +96,15 @@ QSize FileDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelInd
 bool FileDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
                              const QModelIndex &index)
 {
-    const Thumbnail *thumbnail = m_thumbnails.find(index.data(FileRows::PathRole).toString());
+    const QString path = index.data(FileRows::PathRole).toString();
+    const Thumbnail *thumbnail = m_thumbnails.find(path);
     if (event->type() != QEvent::ToolTip || !thumbnail || thumbnail->error.isEmpty())
         return QStyledItemDelegate::helpEvent(event, view, option, index);
-    QToolTip::showText(event->globalPos(),
-                       index.data(Qt::ToolTipRole).toString() + QLatin1Char('\n') + thumbnail->error, view);
+    // The tip begins with the path already.
+    const QString prefix = path + QStringLiteral(": ");
+    const QString error =
+        thumbnail->error.startsWith(prefix) ? thumbnail->error.mid(prefix.size()) : thumbnail->error;
+    QToolTip::showText(event->globalPos(), index.data(Qt::ToolTipRole).toString() + QLatin1Char('\n') + error,
+                       view);
     return true;
 }

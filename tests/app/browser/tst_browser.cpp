@@ -80,6 +80,8 @@ private slots:
         state()->setFocus();
         QTest::keyClick(state(), Qt::Key_R); // Replace
         QCOMPARE(rows(), QStringList(all[5]));
+        QTest::keyClick(state(), Qt::Key_Tab);
+        QVERIFY(list()->hasFocus());
         QTest::keyClicks(list(), "x"); // goes on in the line
         QTRY_COMPARE(rows(), QStringList());
         QVERIFY(label("lblNoFiles")->isVisible());

@@ -458,11 +458,43 @@ blender_pictures() {
     quit
 }
 
-problems_picture() {
-    local width=1600 height=1000
+# What is about all files of the game and the mod.
+mod_pictures() {
+    local changed=$samples/mod/models/tinker.skinnedmesh
+    cp "$(first skinnedmesh)" "$changed"
     korvane "$(first skinnedmesh)" "$(first anim)"
+    in_tree Down Down Down Right Down
+    command 'where is this used'
+    # All files are read once.
+    sleep 3
+    grab "$main" "$folder/used-by.png"
+    command 'replace in files'
+    wait_for --name 'Replace in Files$' >>"$log"
+    xdotool type --delay 20 'damageScale > 0'
+    press Tab
+    xdotool type --delay 20 'damageScale'
+    press Tab
+    xdotool type --delay 20 '*=2'
+    press Return
+    sleep 2
+    grab_dialog 'Replace in Files' "$folder/replace-files.png"
+    leave_dialog
+    rm "$changed"
+    command 'pack mod'
+    sleep 3
+    grab_dialog 'Pack Mod' "$folder/pack.png"
+    leave_dialog
     command 'view problems'
-    grab "$main" "$1"
+    # The button Whole Mod.
+    click 348 795
+    sleep 3
+    grab "$main" "$folder/problems.png"
+    # The next start would remember it.
+    click 348 795
+    quit
+
+    korvane "$(first skinnedmesh)" "$samples/mod/materials/mat_tinker.kmat"
+    grab "$main" "$folder/materials.png"
     quit
 }
 
@@ -530,9 +562,9 @@ all)
     model_pictures
     view_pictures
     other_pictures
+    mod_pictures
     guide_pictures
     cp "$guides/import.png" "$folder/import.png"
-    problems_picture "$folder/problems.png"
     blender_pictures
     # The next start would offer the same again.
     recovery_pictures

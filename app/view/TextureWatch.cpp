@@ -33,11 +33,15 @@ QStringList shownMaterials(const ModelDocument<Model> &document)
     return materials;
 }
 
-QStringList namesOf(const QStringList &materialPaths, const QString &game, const QString &mod)
+/// These end early when nobody wants what they find.
+QStringList namesOf(const QStringList &materialPaths, const QString &game, const QString &mod,
+                    const Background::Cancelled &cancelled)
 {
     MaterialFiles materials(game, mod);
     QStringList names;
     for (const QString &materialPath : materialPaths) {
+        if (cancelled)
+            break;
         names.append(QFileInfo(materialPath).path() + QStringLiteral(".kmat"));
         const QString texture = materials.find(materialPath).texture;
         if (!texture.isEmpty() && texture != MaterialFiles::Blank)
@@ -48,11 +52,14 @@ QStringList namesOf(const QStringList &materialPaths, const QString &game, const
 }
 
 /// Looked up anew: what comes may be called in another case than it is named.
-QMap<QString, FileStamp> stampsNow(const QStringList &names, const QString &game, const QString &mod)
+QMap<QString, FileStamp> stampsNow(const QStringList &names, const QString &game, const QString &mod,
+                                   const Background::Cancelled &cancelled)
 {
     const FileSearch search(game, mod);
     QMap<QString, FileStamp> files;
     for (const QString &name : names) {
+        if (cancelled)
+            break;
         for (const QString &path : search.candidates(name))
             files.insert(path, FileStamp::of(path));
     }
@@ -114,12 +121,12 @@ void TextureWatch::collect()
         QMap<QString, FileStamp> files;
     };
     const auto work = [materials, isWanted, game = Settings::GamePath.value(),
-                       mod = Settings::OutputDir.value()](const Background::Cancelled &) {
+                       mod = Settings::OutputDir.value()](const Background::Cancelled &cancelled) {
         std::array<Found, 2> found;
         for (size_t i = 0; i < found.size(); ++i) {
             if (isWanted[i]) {
-                found[i].names = namesOf(materials[i], game, mod);
-                found[i].files = stampsNow(found[i].names, game, mod);
+                found[i].names = namesOf(materials[i], game, mod, cancelled);
+                found[i].files = stampsNow(found[i].names, game, mod, cancelled);
             }
         }
         return found;
@@ -173,8 +180,9 @@ void TextureWatch::look()
     watchPaths();
     const auto work = [names = std::array{m_shown[0].names, m_shown[1].names},
                        game = Settings::GamePath.value(),
-                       mod = Settings::OutputDir.value()](const Background::Cancelled &) {
-        return std::array{stampsNow(names[0], game, mod), stampsNow(names[1], game, mod)};
+                       mod = Settings::OutputDir.value()](const Background::Cancelled &cancelled) {
+        return std::array{stampsNow(names[0], game, mod, cancelled),
+                          stampsNow(names[1], game, mod, cancelled)};
     };
     m_looking.start(work, [this](std::array<QMap<QString, FileStamp>, 2> now) {
         bool isChanged = false, rests = true;

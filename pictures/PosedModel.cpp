@@ -26,15 +26,15 @@ QString PosedModel::read(const QString &file, const QString &chosenAnim, Compani
         animPath = file;
         meshPath = companions.find(file).path;
         if (meshPath.isEmpty())
-            return QStringLiteral("%1: There is no skinned mesh of this name for the animation.").arg(file);
+            return tr("%1: There is no skinned mesh of this name for the animation.").arg(file);
         error = load(meshPath, mesh);
         if (!error.isEmpty())
             return error;
     }
     if (!skinned() && !rigid())
-        return QStringLiteral("%1: This is no mesh.").arg(file);
+        return tr("%1: This is no mesh.").arg(file);
     if (rigid() && !animPath.isEmpty())
-        return QStringLiteral("%1: A static mesh has no animation.").arg(file);
+        return tr("%1: A static mesh has no animation.").arg(file);
     if (!skinned() || animFile())
         return {};
     const bool asked = !animPath.isEmpty();
@@ -44,10 +44,9 @@ QString PosedModel::read(const QString &file, const QString &chosenAnim, Compani
         return {};
     error = load(animPath, anim);
     if (error.isEmpty() && !animFile())
-        error = QStringLiteral("%1: This is no animation.").arg(animPath);
+        error = tr("%1: This is no animation.").arg(animPath);
     if (error.isEmpty() && !animationMatchesMesh(*animFile(), *skinned()))
-        error =
-            QStringLiteral("%1: The animation does not have as many bones as '%2'.").arg(animPath, meshPath);
+        error = tr("%1: The animation does not have as many bones as '%2'.").arg(animPath, meshPath);
     if (error.isEmpty() || asked)
         return error;
     Log::warning(error);
@@ -58,14 +57,14 @@ QString PosedModel::read(const QString &file, const QString &chosenAnim, Compani
 QString PosedModel::problem(int block, int frame) const
 {
     if (!animFile())
-        return QStringLiteral("%1: There is no animation to take a block or a frame of.").arg(meshPath);
+        return tr("%1: There is no animation to take a block or a frame of.").arg(meshPath);
     const std::vector<AnimBlock> &blocks = animFile()->blocks;
     if (size_t(block) >= blocks.size())
-        return QStringLiteral("%1: There is no block %2, only %3 of them.")
+        return tr("%1: There is no block %2, only %3 of them.")
             .arg(animPath, QString::number(block), QString::number(blocks.size()));
     const int frames = blocks[size_t(block)].frameCount();
     if (frame > 0 && frame >= frames)
-        return QStringLiteral("%1: Block %2 has no frame %3, only %4 of them.")
+        return tr("%1: Block %2 has no frame %3, only %4 of them.")
             .arg(animPath, QString::number(block), QString::number(frame), QString::number(frames));
     return {};
 }

@@ -4,11 +4,16 @@
 
 #include "FileContent.h"
 
+#include <QCoreApplication>
+
 class Companions;
 
 /// A mesh, and for a skinned one the animation that poses it, of the files that are to be drawn or exported.
 struct PosedModel
 {
+    Q_DECLARE_TR_FUNCTIONS(PosedModel)
+
+public:
     FileContent mesh;
     QString meshPath;
     FileContent anim;

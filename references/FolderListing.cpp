@@ -13,6 +13,8 @@
 namespace {
 /// More files than this are none of a game, but somebody's disk.
 constexpr size_t MostListedFiles = 200000;
+/// Of files of all kinds and of folders, in each of the two.
+constexpr int MostWalkedEntries = 500000;
 
 /// The folder of game or mod as it is walked, and as it is compared.
 struct ListedRoot
@@ -47,14 +49,14 @@ void listRoot(const ListedRoot &root, const QString &without, bool isMod, const 
     if (root.path.isEmpty())
         return;
     const QString archive = Files::archiveOf(root.path);
-    if (archive.isEmpty())
-        listing.folders += root.path;
-    else
-        listing.folders << archive << QFileInfo(archive).path();
+    QStringList watched{root.path};
+    if (!archive.isEmpty())
+        watched = QStringList{archive, QFileInfo(archive).path()};
     const int start = root.path.endsWith(QLatin1Char('/')) ? root.path.size() : root.path.size() + 1;
+    int entries = 0;
     Files::walk(root.path, [&](const FolderEntry &entry) {
-        if (entry.isFolder && archive.isEmpty())
-            listing.folders += entry.path;
+        if (entry.isFolder && archive.isEmpty() && watched.size() < FolderListing::MostFoldersNoted)
+            watched += entry.path;
         const auto type = entry.isFolder ? std::nullopt : indexedTypeOf(entry.path);
         const QString relative = type ? entry.path.mid(start) : QString();
         if (type && (without.isEmpty() || !FileSystem::comparable(relative).startsWith(without))) {
@@ -62,8 +64,13 @@ void listRoot(const ListedRoot &root, const QString &without, bool isMod, const 
             if (found)
                 ++*found;
         }
-        return !isCancelled && listing.files.size() < MostListedFiles;
+        if (++entries < MostWalkedEntries && listing.files.size() < MostListedFiles)
+            return !isCancelled;
+        listing.isCut = true;
+        return false;
     });
+    watched.sort();
+    listing.folders = watched + listing.folders;
 }
 } // namespace
 

@@ -24,7 +24,9 @@ struct FolderListing
 {
     std::vector<ListedFile> files; ///< ascending by their paths
     /// The folders on the disk in which these come and go; of an archive that itself, and where it stands.
-    QStringList folders;
+    QStringList folders; ///< the mod's first, MostFoldersNoted of each of the two at most
+    static constexpr int MostFoldersNoted = 1000;
+    bool isCut = false; ///< there is more than a game and a mod can be, which is not listed
 };
 
 /// All models, animations, materials and pictures of both folders. Where one of these lies in the other one,

@@ -13,7 +13,7 @@ lupdate=$(command -v /usr/lib/qt5/bin/lupdate || command -v lupdate-qt5 || comma
     exit 1
 }
 # The command line tool speaks English.
-rooms=(app batch core files find gltf import json mod model motion net references render undo)
+rooms=(app batch core files find gltf import json mod model motion net pictures references render undo)
 said=$("$lupdate" -silent -locations none -no-obsolete -no-ui-lines "${rooms[@]}" -ts "$folder"/*.ts 2>&1 |
     grep -vE '^(Scanning directory|Updating|    Found|    Removed|    Kept|    Same-text|    Heuristically)' || true)
 [[ -z $said ]] || {

@@ -1280,6 +1280,14 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>No file fits.</source>
         <translation>Keine Datei passt.</translation>
     </message>
+    <message>
+        <source>The folders hold more than a game and a mod can: the rest is not listed.</source>
+        <translation>Die Ordner enthalten mehr, als ein Spiel und ein Mod enthalten können: Der Rest ist nicht aufgeführt.</translation>
+    </message>
+    <message>
+        <source>Files: %1, and more</source>
+        <translation>Dateien: %1 und mehr</translation>
+    </message>
 </context>
 <context>
     <name>CameraMenu</name>
@@ -2630,7 +2638,7 @@ Ohne diese Eingabe fortfahren?</translation>
     <name>DocumentKind</name>
     <message>
         <source>Skinned Mesh</source>
-        <translation>Skin-Mesh</translation>
+        <translation>Skinned Mesh</translation>
     </message>
     <message>
         <source>Open Skinned Mesh</source>
@@ -3099,6 +3107,10 @@ Ohne diese Eingabe fortfahren?</translation>
         <source>Failed to open %1</source>
         <translation>%1 konnte nicht geöffnet werden</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; has no materials that could be named.</source>
+        <translation>„%1“ hat keine Materialien, die genannt werden könnten.</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -3197,7 +3209,7 @@ Führt die Ersetzungen auf, um sie zu Ende zu führen oder rückgängig zu mache
     <name>FileRows</name>
     <message>
         <source>Skinned mesh</source>
-        <translation>Skin-Mesh</translation>
+        <translation>Skinned Mesh</translation>
     </message>
     <message>
         <source>Animation</source>
@@ -4362,7 +4374,7 @@ und +Y nach oben. Im Koordinatenraum von DirectX zeigt +X nach rechts,
     </message>
     <message>
         <source>Skinned Mesh</source>
-        <translation>Skin-Mesh</translation>
+        <translation>Skinned Mesh</translation>
     </message>
     <message>
         <source>Static Mesh</source>
@@ -4837,7 +4849,7 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
     </message>
     <message>
         <source>Skinned Mesh</source>
-        <translation>Skin-Mesh</translation>
+        <translation>Skinned Mesh</translation>
     </message>
     <message>
         <source>Animation</source>
@@ -7773,6 +7785,41 @@ Wo keine Datei ist, bleibt es still.</translation>
     </message>
 </context>
 <context>
+    <name>PosedModel</name>
+    <message>
+        <source>%1: There is no skinned mesh of this name for the animation.</source>
+        <translation>%1: Zur Animation gibt es kein Skinned Mesh dieses Namens.</translation>
+    </message>
+    <message>
+        <source>%1: This is no mesh.</source>
+        <translation>%1: Das ist kein Mesh.</translation>
+    </message>
+    <message>
+        <source>%1: A static mesh has no animation.</source>
+        <translation>%1: Ein statisches Mesh hat keine Animation.</translation>
+    </message>
+    <message>
+        <source>%1: This is no animation.</source>
+        <translation>%1: Das ist keine Animation.</translation>
+    </message>
+    <message>
+        <source>%1: The animation does not have as many bones as &apos;%2&apos;.</source>
+        <translation>%1: Die Animation hat nicht so viele Knochen wie „%2“.</translation>
+    </message>
+    <message>
+        <source>%1: There is no animation to take a block or a frame of.</source>
+        <translation>%1: Es gibt keine Animation, aus der ein Block oder ein Frame zu nehmen wäre.</translation>
+    </message>
+    <message>
+        <source>%1: There is no block %2, only %3 of them.</source>
+        <translation>%1: Es gibt keinen Block %2, nur %3 davon.</translation>
+    </message>
+    <message>
+        <source>%1: Block %2 has no frame %3, only %4 of them.</source>
+        <translation>%1: Block %2 hat keinen Frame %3, nur %4 davon.</translation>
+    </message>
+</context>
+<context>
     <name>Preferences</name>
     <message>
         <source>Setup Folder Paths</source>
@@ -10653,7 +10700,7 @@ So lassen?</translation>
     </message>
     <message>
         <source>Skinned Mesh</source>
-        <translation>Skin-Mesh</translation>
+        <translation>Skinned Mesh</translation>
     </message>
     <message>
         <source>En&amp;d Bone</source>
@@ -11139,6 +11186,21 @@ Nichts wurde geändert. %2</translation>
     <message>
         <source>%1 × %2, of the mod</source>
         <translation>%1 × %2, der Mod</translation>
+    </message>
+</context>
+<context>
+    <name>ThumbnailMaker</name>
+    <message>
+        <source>The texture cannot be read.</source>
+        <translation>Die Textur kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Too large for a small picture</source>
+        <translation>Zu groß für ein kleines Bild</translation>
+    </message>
+    <message>
+        <source>None of its textures can be read.</source>
+        <translation>Keine ihrer Texturen kann gelesen werden.</translation>
     </message>
 </context>
 <context>

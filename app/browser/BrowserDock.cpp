@@ -123,9 +123,6 @@ BrowserDock::~BrowserDock()
     m_catalog.disconnect(this);
 }
 
-// --- What it is made of
-// -------------------------------------------------------------------------------------
-
 QLayout *BrowserDock::createTop()
 {
     auto *row = new QHBoxLayout;
@@ -199,9 +196,6 @@ void BrowserDock::createSorting()
     });
     m_sorting->setMenu(menu);
 }
-
-// --- What is listed
-// -----------------------------------------------------------------------------------------
 
 FileFilter BrowserDock::wantedFilter() const
 {
@@ -328,15 +322,16 @@ void BrowserDock::updateState()
     m_progress->setVisible(isLong);
     m_giveUp->setVisible(isLong);
     const QLocale locale;
+    const bool isCut = m_catalog.files() && m_catalog.files()->isCut;
+    m_count->setToolTip(isCut ? tr("The folders hold more than a game and a mod can: the rest is not listed.")
+                              : QString());
     m_count->setText(rows.totalCount() == 0 ? QString()
+                     : isCut                ? tr("Files: %1, and more").arg(locale.toString(rows.rowCount()))
                      : rows.rowCount() == rows.totalCount()
                          ? tr("Files: %1").arg(locale.toString(rows.totalCount()))
                          : tr("Files: %1 of %2")
                                .arg(locale.toString(rows.rowCount()), locale.toString(rows.totalCount())));
 }
-
-// --- What is done with a file
-// -------------------------------------------------------------------------------
 
 void BrowserDock::open(const QString &path)
 {

@@ -64,7 +64,7 @@ bool areSame(const MaterialFolders &a, const MaterialFolders &b)
 
 bool CatalogFiles::isSame(const CatalogFiles &other) const
 {
-    return folders == other.folders &&
+    return folders == other.folders && isCut == other.isCut &&
            std::equal(files.begin(), files.end(), other.files.begin(), other.files.end(),
                       [](const CatalogFile &a, const CatalogFile &b) { return a.isSame(b); });
 }
@@ -75,7 +75,7 @@ CatalogFilesPtr makeCatalogFiles(const MaterialFolders &folders, const std::atom
     auto made = std::make_shared<CatalogFiles>();
     FolderListing listing = listFolders(folders, isCancelled, &found);
     made->folders = std::move(listing.folders);
-    made->folders.sort();
+    made->isCut = listing.isCut;
     made->files.reserve(listing.files.size());
     for (ListedFile &file : listing.files) {
         const int nameStart = file.relative.lastIndexOf(QLatin1Char('/')) + 1;
@@ -115,7 +115,14 @@ bool FileCatalog::hasFolders()
 void FileCatalog::follow(bool on)
 {
     m_isFollowed = on;
-    refresh();
+    if (on)
+        return read();
+    watch({});
+    if (!m_reader.isRunning())
+        return;
+    m_reader.cancel();
+    m_isStale = false;
+    emit changed();
 }
 
 void FileCatalog::refresh()
@@ -151,7 +158,8 @@ void FileCatalog::take(CatalogFilesPtr made)
     const bool isOther = !m_files || !m_files->isSame(*made);
     if (isOther)
         Background::discard(std::exchange(m_files, std::move(made)));
-    watch();
+    if (m_isFollowed)
+        watch(m_files->folders);
     emit changed();
     emit looked();
     if (std::exchange(m_isStale, false))
@@ -166,11 +174,10 @@ void FileCatalog::giveUp()
     emit changed();
 }
 
-void FileCatalog::watch()
+void FileCatalog::watch(const QStringList &folders)
 {
     // A file that was replaced is not watched any more.
     const QStringList now = m_watcher.directories() + m_watcher.files();
-    const QStringList folders = m_files->folders.mid(0, MostWatched);
     QSet<QString> wanted(folders.begin(), folders.end());
     m_toLeave.clear();
     for (const QString &path : now) {

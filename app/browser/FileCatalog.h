@@ -44,6 +44,7 @@ struct CatalogFiles
     /// Their numbers in each CatalogOrder.
     std::array<std::vector<int>, CatalogOrders> orders;
     QStringList folders; ///< see FolderListing
+    bool isCut = false;  ///< as there
 
     bool isSame(const CatalogFiles &other) const;
 };
@@ -55,7 +56,8 @@ CatalogFilesPtr makeCatalogFiles(const MaterialFolders &folders, const std::atom
                                  std::atomic_int &found);
 
 /// Has the files of the folders that the options name, read by another thread, and read again when folders or
-/// archive change as long as somebody follows. Nothing is read before somebody asks for it.
+/// archive change as long as somebody follows; they are watched only then. Nothing is read before somebody
+/// asks for it.
 class FileCatalog : public QObject
 {
     Q_OBJECT
@@ -63,9 +65,6 @@ class FileCatalog : public QObject
 public:
     /// What is read at once counts as written when it has rested for this long.
     static constexpr int RestMs = 400;
-    /// The system watches no more folders than this for one program.
-    static constexpr int MostWatched = 2000;
-
     explicit FileCatalog(QObject *parent = nullptr);
 
     /// As they were read last; null as long as they were not, and without folders.
@@ -93,7 +92,8 @@ signals:
 
 private:
     void take(CatalogFilesPtr made);
-    void watch();
+    /// Watches these folders and no others.
+    void watch(const QStringList &folders);
     void watchSome();
 
     Background m_reader;

@@ -81,6 +81,8 @@ void FileMenu::copyName()
     QStringList names;
     for (const NamedThing &thing : thingsOfCurrent())
         names += thing.path;
+    if (names.isEmpty() && file->type == IndexedType::Materials)
+        return emit told(tr("'%1' has no materials that could be named.").arg(file->name()));
     QApplication::clipboard()->setText(names.isEmpty() ? file->relative : names.join(QLatin1Char('\n')));
 }
 

@@ -16,6 +16,11 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+constexpr qint64 MostReadBytes = 512 * 1024; ///< of a material file: a few milliseconds
+constexpr size_t MostThings = 200;           ///< to choose from in a menu
+} // namespace
+
 void FileRows::setFiles(CatalogFilesPtr files)
 {
     if (files == m_files)
@@ -173,11 +178,17 @@ std::vector<NamedThing> FileRows::thingsOf(const CatalogFile &file)
 {
     if (file.type == IndexedType::Picture)
         return {{NamedKind::Texture, 0.0, file.relative}};
+    // Whoever asks waits: what is no file of a game, or in an archive that is to be read anew, has none.
+    if (file.type != IndexedType::Materials || Files::isUnread(file.path) ||
+        FileStamp::of(file.path).size > MostReadBytes)
+        return {};
     std::vector<NamedThing> things;
     MaterialTable table;
-    if (file.type == IndexedType::Materials && readKMat(file.path, table).isEmpty()) {
-        const QString folder = file.relative.left(file.relative.lastIndexOf(QLatin1Char('.')));
-        for (const auto &[name, texture] : table)
+    if (!readKMat(file.path, table).isEmpty())
+        return {};
+    const QString folder = file.relative.left(file.relative.lastIndexOf(QLatin1Char('.')));
+    for (const auto &[name, texture] : table) {
+        if (things.size() < MostThings)
             things.push_back({NamedKind::Material, 0.0, folder + QLatin1Char('/') + name});
     }
     return things;

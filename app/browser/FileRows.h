@@ -57,7 +57,7 @@ public:
 
     static QIcon kindIcon(IndexedType type);
     /// What a file is to those that name it: a texture itself, a material file its materials. Nothing where
-    /// nobody names such files.
+    /// nobody names such files, and of a material file that is larger than those of games.
     static std::vector<NamedThing> thingsOf(const CatalogFile &file);
     /// "Skinned mesh" and so on.
     static QString kindText(IndexedType type);

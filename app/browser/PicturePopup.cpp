@@ -4,12 +4,17 @@
 
 #include "FilePictures.h"
 
+#include <QApplication>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QScreen>
+#include <QSemaphore>
+#include <QThreadPool>
 
 #include <algorithm>
+#include <memory>
 
 namespace {
 constexpr int PopupPatienceMs = 50;
@@ -31,18 +36,34 @@ PicturePopup::PicturePopup(const QString &path, QWidget *parent)
 void PicturePopup::popUp()
 {
     tell(tr("The texture is being read."));
-    m_reader.start([path = m_path](const Background::Cancelled &) { return Files::readPicture(path); },
-                   [this](const Picture &picture) {
-                       m_image = picture.image;
-                       tell(m_image.isNull() ? tr("The texture cannot be read.")
-                                             : tr("%1 × %2, %3")
-                                                   .arg(QString::number(m_image.width()),
-                                                        QString::number(m_image.height()),
-                                                        QString::fromLatin1(picture.format.toUpper())));
-                   });
-    m_reader.wait(PopupPatienceMs);
+    struct Reading
+    {
+        Picture picture;
+        QSemaphore done;
+    };
+    const auto reading = std::make_shared<Reading>();
+    QThreadPool::globalInstance()->start([path = m_path, reading, popup = QPointer<PicturePopup>(this)] {
+        reading->picture = Files::readPicture(path);
+        reading->done.release();
+        const auto deliver = [reading, popup] {
+            if (popup)
+                popup->take(reading->picture);
+        };
+        QMetaObject::invokeMethod(qApp, deliver, Qt::QueuedConnection);
+    });
+    if (reading->done.tryAcquire(1, PopupPatienceMs))
+        take(reading->picture);
     place();
     show();
+}
+
+void PicturePopup::take(const Picture &picture)
+{
+    m_image = picture.image;
+    tell(m_image.isNull() ? tr("The texture cannot be read.")
+                          : tr("%1 × %2, %3")
+                                .arg(QString::number(m_image.width()), QString::number(m_image.height()),
+                                     QString::fromLatin1(picture.format.toUpper())));
 }
 
 void PicturePopup::tell(const QString &words)

@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Background.h"
-
 #include <QFrame>
 #include <QImage>
 
+struct Picture;
+
 /// A texture as large as it is, or as there is room, and what there is to say about it, until a key is
-/// pressed or something else is clicked. It is read in another thread. Deletes itself.
+/// pressed or something else is clicked. It is read in another thread, which nobody waits for. Deletes
+/// itself.
 class PicturePopup : public QFrame
 {
     Q_OBJECT
@@ -25,11 +26,11 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
 
 private:
+    void take(const Picture &picture);
     void tell(const QString &words);
     void place();
 
     const QString m_path;
     QImage m_image;
     QString m_words;
-    Background m_reader;
 };

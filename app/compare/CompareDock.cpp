@@ -30,11 +30,9 @@ QString otherOf(const Document &document)
         const QString inMod = SaveGuard::modPath(path);
         return QFileInfo(inMod).isFile() ? inMod : QString();
     }
-    const QString mod = QDir::cleanPath(Settings::OutputDir.value()) + QLatin1Char('/');
-    const QString place = path.startsWith(mod)
-                              ? path.mid(mod.size())
-                              : document.kind().gameFolder + QLatin1Char('/') + document.fileName();
-    return FileSearch(Settings::GamePath.value(), {}).find(place);
+    const QString inMod = SaveGuard::placeInMod(path);
+    const QString usual = document.kind().gameFolder + QLatin1Char('/') + document.fileName();
+    return FileSearch(Settings::GamePath.value(), {}).find(inMod.isEmpty() ? usual : inMod);
 }
 } // namespace
 

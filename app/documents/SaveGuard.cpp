@@ -73,6 +73,15 @@ bool SaveGuard::isInGame(const QString &path)
     return !placeInGame(path).isEmpty();
 }
 
+QString SaveGuard::placeInMod(const QString &path)
+{
+    if (path.isEmpty())
+        return {}; // never saved
+    // What a link in the mod leads to is seen in the link's place.
+    const QString named = below(Settings::OutputDir.value(), path);
+    return named.isEmpty() ? below(realFolder(Settings::OutputDir), realPath(path)) : named;
+}
+
 QString SaveGuard::modPath(const QString &path)
 {
     const QString place = placeInGame(path);

@@ -41,6 +41,9 @@ public:
     /// any other file, and without a mod folder.
     static QString modPath(const QString &path);
     static bool isInGame(const QString &path);
+    /// Where in the mod folder a file stands, by its name or where links lead; empty when it stands
+    /// elsewhere.
+    static QString placeInMod(const QString &path);
 
 private:
     QString freeInMod(const QString &path);

@@ -179,7 +179,8 @@ private slots:
         mine.blocks[0].speed = 2.0f;
         QDir(m_folder->path()).mkpath("mod/anims/boss");
         TestArchive made;
-        made.add("anims/boss/Walk.anim", SampleModels::bytesOf(theirs));
+        for (const char *name : {"anims/boss/Walk.anim", "anims/walk.anim", "anims/top.anim"})
+            made.add(name, SampleModels::bytesOf(theirs));
         QVERIFY(made.write(m_folder->path("game.kpf")));
         Settings::GamePath.setValue(m_folder->path("game.kpf"));
         Settings::OutputDir.setValue(m_folder->path("mod"));
@@ -194,6 +195,17 @@ private slots:
             QVERIFY(tree()->isVisible() && tree()->hasFocus());
         }
         QVERIFY(rows().contains("> Speed|1|2"));
+        // By way of a link, and where the game keeps its kind what belongs to no mod.
+        QVERIFY(QFile::link(m_folder->path("mod"), m_folder->path("linked")));
+        Settings::OutputDir.setValue(m_folder->path("linked"));
+        m_window->openFiles({own});
+        action->trigger();
+        QTRY_COMPARE(find<QLabel>("lblCompare")->toolTip(), m_folder->path("game.kpf/anims/boss/Walk.anim"));
+        Settings::OutputDir.setValue({});
+        m_window->openFiles({m_folder->save("top.anim", mine)});
+        action->trigger();
+        QTRY_COMPARE(find<QLabel>("lblCompare")->toolTip(), m_folder->path("game.kpf/anims/top.anim"));
+        Settings::OutputDir.setValue(m_folder->path("mod"));
         m_window->openFiles({m_folder->save("mod/anims/boss/other.anim", mine)});
         Hand hand({Hand::press(QMessageBox::Ok)});
         action->trigger();

@@ -4,27 +4,12 @@
 
 #include "BinaryFileReader.h"
 
-#include <QApplication>
-
-namespace {
-constexpr int RetryMs = 50;
-
-/// Whether something is open, or held, that may be about the model that is shown.
-bool isWindowBusy()
-{
-    return QApplication::activeModalWidget() || QApplication::activePopupWidget() ||
-           QGuiApplication::mouseButtons() != Qt::NoButton;
-}
-} // namespace
-
 DocumentLoader::DocumentLoader(Document &document, Permission mayReplace, QObject *parent)
     : QObject(parent)
     , m_document(document)
     , m_mayReplace(std::move(mayReplace))
     , m_patience(usualPatience())
 {
-    m_retry.setInterval(RetryMs);
-    connect(&m_retry, &QTimer::timeout, this, &DocumentLoader::replaceWhenFree);
     // What comes from elsewhere is wanted later than what is still being read.
     connect(&document, &Document::aboutToBeReplaced, this, &DocumentLoader::cancel);
 }
@@ -52,7 +37,10 @@ void DocumentLoader::load(const QString &path, Then then)
                        progress = m_progress](const Background::Cancelled &) { return reader(*progress); };
     m_reading.start(read, [this](std::shared_ptr<LoadedFile> file) {
         m_arrived = std::move(file);
-        replaceWhenFree();
+        if (std::exchange(m_isWaitedFor, false))
+            replace(true);
+        else
+            m_free.wait([this] { replace(false); });
     });
     m_isWaitedFor = true;
     m_reading.wait(m_patience);
@@ -74,7 +62,7 @@ void DocumentLoader::drop()
     m_progress->isCancelled = true;
     m_progress.reset();
     m_reading.cancel();
-    m_retry.stop();
+    m_free.forget();
     Background::discard(std::move(m_arrived));
     emit ended();
 }
@@ -88,12 +76,8 @@ void DocumentLoader::cancel()
     then(Outcome::GivenUp, {});
 }
 
-void DocumentLoader::replaceWhenFree()
+void DocumentLoader::replace(bool isAtOnce)
 {
-    const bool isAtOnce = std::exchange(m_isWaitedFor, false);
-    if (!isAtOnce && isWindowBusy())
-        return m_retry.start();
-    m_retry.stop();
     const Then then = std::exchange(m_then, {});
     const std::shared_ptr<LoadedFile> file = std::exchange(m_arrived, nullptr);
     m_progress.reset(); // from here on it is no load that could be given up

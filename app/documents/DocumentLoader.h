@@ -4,12 +4,11 @@
 
 #include "Background.h"
 #include "Document.h"
-
-#include <QTimer>
+#include "FreeWindow.h"
 
 /// Reads files for one document in another thread, one at a time: who starts another gives up the one before.
 /// The document stays as it is, and may be worked with, until a file was read whole. Then it is replaced at
-/// once, or as soon as nothing is open that may be about the old model: a dialog, a menu, a drag.
+/// once, or as soon as the window is free.
 class DocumentLoader : public QObject
 {
     Q_OBJECT
@@ -46,7 +45,8 @@ signals:
 
 private:
     void drop();
-    void replaceWhenFree();
+    /// `isAtOnce` when nothing was done since the load began.
+    void replace(bool isAtOnce);
 
     Document &m_document;
     Permission m_mayReplace;
@@ -56,6 +56,6 @@ private:
     Then m_then;
     std::shared_ptr<ReadProgress> m_progress; ///< of the current load; null without one
     std::shared_ptr<LoadedFile> m_arrived;    ///< waits until the window is free
-    QTimer m_retry;
+    FreeWindow m_free;
     Background m_reading;
 };

@@ -10,6 +10,7 @@
 #include "MaterialCatalog.h"
 #include "MaterialFileText.h"
 #include "NoticeBar.h"
+#include "SaveGuard.h"
 #include "Settings.h"
 #include "Shortcuts.h"
 #include "TextField.h"
@@ -39,11 +40,8 @@ constexpr int RestMs = 500;     ///< a file counts as written when it has rested
 /// Whether a file of the mod has the place of one of the game, which is taken instead.
 bool isHiddenByGame(const QString &path)
 {
-    const QString mod = Settings::OutputDir.value();
-    const QString name = mod.isEmpty() ? QString() : QDir(mod).relativeFilePath(path);
-    const bool isMods =
-        !name.isEmpty() && !name.startsWith(QLatin1String("..")) && !QDir::isAbsolutePath(name);
-    const QString game = isMods ? FileSearch(Settings::GamePath.value(), {}).find(name) : QString();
+    const QString name = SaveGuard::placeInMod(path);
+    const QString game = name.isEmpty() ? QString() : FileSearch(Settings::GamePath.value(), {}).find(name);
     return !game.isEmpty() && !FileSystem::isSamePath(QDir::cleanPath(game), QDir::cleanPath(path));
 }
 } // namespace
@@ -184,11 +182,11 @@ void MaterialsDock::createListActions()
     m_rename->setShortcut(Qt::Key_F2);
     m_rename->setShortcutContext(Qt::WidgetShortcut);
     connect(m_rename, &QAction::triggered, this, [this] { emit renameWanted(current().first); });
-    auto *added = new QAction(namedIcon(QStringLiteral("add")), tr("&New Material…"), m_list);
-    added->setObjectName(QStringLiteral("actionNewMaterial"));
-    nameShortcut(added, added->objectName(), tr("Materials"), tr("New Material"));
-    connect(added, &QAction::triggered, this, &MaterialsDock::newWanted);
-    m_list->addActions({m_rename, added});
+    m_add = new QAction(namedIcon(QStringLiteral("add")), tr("&New Material…"), m_list);
+    m_add->setObjectName(QStringLiteral("actionNewMaterial"));
+    nameShortcut(m_add, m_add->objectName(), tr("Materials"), tr("New Material"));
+    connect(m_add, &QAction::triggered, this, &MaterialsDock::newWanted);
+    m_list->addActions({m_rename, m_add});
 }
 
 void MaterialsDock::createField(QWidget *parent)
@@ -281,7 +279,7 @@ void MaterialsDock::showCurrent()
     const KMatMaterial *shown = material < 0 ? nullptr : &m_document.text().materials()[size_t(material)];
     const QString texture = isEditable ? shown->samplers[size_t(sampler)].texture : QString();
     m_texture->setEnabled(isEditable);
-    m_rename->setEnabled(shown);
+    m_rename->setEnabled(shown && m_add->isEnabled());
     if (m_field->value() != texture)
         m_field->discardText();
     m_field->setValue(texture);
@@ -308,6 +306,14 @@ void MaterialsDock::showMaterial(const QString &name)
 bool MaterialsDock::returnToTyping()
 {
     return TypingField::returnToRefused(*this);
+}
+
+void MaterialsDock::setBusy(bool busy)
+{
+    widget()->setEnabled(!busy);
+    // The command palette has them, too.
+    m_add->setEnabled(!busy);
+    m_rename->setEnabled(!busy && current().first >= 0);
 }
 
 void MaterialsDock::reloadTextures()

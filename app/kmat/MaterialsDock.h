@@ -38,6 +38,8 @@ public:
     void showMaterial(const QString &name);
     /// Stores what is typed. Returns true when it cannot be, and has the keys then.
     [[nodiscard]] bool returnToTyping();
+    /// Nothing is edited here while another file is being read.
+    void setBusy(bool busy);
     /// Textures may be others.
     void reloadTextures();
 
@@ -78,6 +80,7 @@ private:
     QPushButton *m_reload = nullptr;
     QTreeWidget *m_list;
     QAction *m_rename = nullptr;
+    QAction *m_add = nullptr;
     TextureField *m_texture;
     TextField *m_field;
     TexturePreview *m_preview;

@@ -3,6 +3,7 @@
 #include "MaterialsPane.h"
 
 #include "DocumentFiles.h"
+#include "DocumentLoader.h"
 #include "EndSignals.h"
 #include "FileSystem.h"
 #include "Files.h"
@@ -82,6 +83,9 @@ MaterialsPane::MaterialsPane(MaterialsDock &dock, QUndoGroup &group, DocumentFil
     connect(&m_dock, &MaterialsDock::newFileWanted, this, &MaterialsPane::startFile);
     connect(&m_dock, &MaterialsDock::saveWanted, this, &MaterialsPane::save);
     connect(&m_dock, &MaterialsDock::reloadWanted, this, &MaterialsPane::reload);
+    // What comes from elsewhere is wanted later than what is still being read.
+    connect(&m_document, &MaterialDocument::aboutToBeReplaced, this, &MaterialsPane::cancelLoad);
+    connect(&m_document, &MaterialDocument::changed, this, [this] { m_isEdited = true; });
     connect(&m_document, &MaterialDocument::saved, &catalog, &MaterialCatalog::reload);
     connect(&m_document, &MaterialDocument::replaced, this, &MaterialsPane::activeChanged);
     connect(&m_document, &MaterialDocument::saved, this, &MaterialsPane::activeChanged);
@@ -160,23 +164,44 @@ void MaterialsPane::show()
     m_dock.raise();
 }
 
-/// In another thread, where large files take their time; nothing is edited in the dock meanwhile.
+/// In another thread, where large files take their time; nothing is edited in the dock meanwhile. What was
+/// read waits until no dialog is open that is about the file before.
 void MaterialsPane::load(const QString &path, const std::function<void()> &then)
 {
     const auto read = [path](const Background::Cancelled &) { return MaterialDocument::read(path); };
-    const auto take = [this, path, then,
-                       index = m_document.undoStack()->index()](MaterialDocument::Read result) {
-        m_dock.widget()->setEnabled(true);
-        if (!result.reason.isEmpty())
-            return tellUnread(path, result.reason);
-        if (m_document.undoStack()->index() != index && !mayLeave())
-            return;
-        m_document.take(path, std::move(result));
-        then();
-    };
-    m_reading.start(read, take);
+    cancelLoad();
+    m_isEdited = false;
+    m_reading.start(read, [this, path, then](MaterialDocument::Read result) {
+        const auto arrived = std::make_shared<MaterialDocument::Read>(std::move(result));
+        const auto takeIt = [this, path, arrived, then] { take(path, std::move(*arrived), then); };
+        if (std::exchange(m_isWaitedFor, false))
+            takeIt();
+        else
+            m_free.wait(takeIt);
+    });
+    m_isWaitedFor = true;
     m_reading.wait(DocumentLoader::usualPatience());
-    m_dock.widget()->setEnabled(!m_reading.isRunning());
+    m_isWaitedFor = false;
+    m_dock.setBusy(isLoading());
+}
+
+void MaterialsPane::cancelLoad()
+{
+    m_reading.cancel();
+    m_free.forget();
+    m_dock.setBusy(false);
+}
+
+void MaterialsPane::take(const QString &path, MaterialDocument::Read read, const std::function<void()> &then)
+{
+    m_dock.setBusy(false);
+    if (!read.reason.isEmpty())
+        return tellUnread(path, read.reason);
+    // Another may be wanted while that is asked.
+    if (m_isEdited && (!mayLeave() || isLoading()))
+        return;
+    m_document.take(path, std::move(read));
+    then();
 }
 
 void MaterialsPane::tellUnread(const QString &path, const QString &reason)
@@ -193,10 +218,12 @@ void MaterialsPane::open(const QString &path, const QString &material)
     const bool isOpen = m_document.isOpen() &&
                         FileSystem::isSamePath(QDir::cleanPath(m_document.path()), QDir::cleanPath(path));
     const auto show = [this, material] { m_dock.showMaterial(material); };
-    if (isOpen)
+    if (isOpen) {
+        cancelLoad();
         show();
-    else if (mayLeave())
+    } else if (mayLeave()) {
         load(path, show);
+    }
 }
 
 void MaterialsPane::openChosen()

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "Background.h"
+#include "FreeWindow.h"
+#include "MaterialDocument.h"
 #include "SaveGuard.h"
 
 #include <QObject>
@@ -11,7 +13,6 @@
 
 class DocumentFiles;
 class MaterialCatalog;
-class MaterialDocument;
 class MaterialWork;
 class MaterialsDock;
 class QAction;
@@ -70,6 +71,11 @@ private:
     void follow(const QWidget *focused);
     void setActive(bool active);
     void load(const QString &path, const std::function<void()> &then);
+    /// Gives up what is being read.
+    void cancelLoad();
+    bool isLoading() const { return m_reading.isRunning() || m_free.isWaited(); }
+    /// Goes on with what was read, unless the user keeps what was done meanwhile.
+    void take(const QString &path, MaterialDocument::Read read, const std::function<void()> &then);
     void tellUnread(const QString &path, const QString &reason);
     /// Asks about what is unsaved. Returns true when another file may take its place.
     [[nodiscard]] bool mayLeave();
@@ -88,5 +94,8 @@ private:
     SaveGuard m_guard;
     MaterialWork *m_work;
     Background m_reading;
+    FreeWindow m_free;
+    bool m_isWaitedFor = false; ///< nothing was done since the reading began
+    bool m_isEdited = false;    ///< the document was, since the reading began
     bool m_isActive = false;
 };

@@ -28,6 +28,7 @@ private slots:
     void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
     void init()
     {
+        qputenv("KORVANE_PATIENCE", "60000");
         m_window.reset();
         m_files.emplace();
         for (const char *folder : {"game", "mod/textures"})
@@ -236,6 +237,66 @@ private slots:
         QTest::keyClick(list(), Qt::Key_F2);
         QCOMPARE(hand.seen.size(), 1);
         QVERIFY(!dock().document().isModified());
+    }
+
+    /// What is still being read comes when no dialog is about the file before it.
+    void readsBesideDialogs()
+    {
+        const QString slow =
+            m_files->put("mod/materials/slow.kmat", "material other { }\n//" + QByteArray(12 << 20, 'x'));
+        open({m_path});
+        qputenv("KORVANE_PATIENCE", "0");
+        const MaterialDocument &document = dock().document();
+        const auto waitForNothing = [&] {
+            QVERIFY(!QTest::qWaitFor([&] { return document.path() != m_path; }, 500));
+        };
+        const auto *rename = find<QAction>(*m_window, "actionRenameMaterial");
+        const QString copy = m_files->path("mod/materials/copy.kmat");
+        {
+            m_window->openFiles({slow});
+            QVERIFY(!rename->isEnabled() && !find<QAction>(*m_window, "actionNewMaterial")->isEnabled());
+            Hand hand({[&](QDialog *dialog) {
+                waitForNothing();
+                Hand::file(copy)(dialog);
+            }});
+            find<QAction>(*m_window, "actionSaveAs")->trigger();
+            QCOMPARE(TestSupport::readFile(copy), Text);
+            QTRY_COMPARE_WITH_TIMEOUT(document.path(), slow, 60000);
+            QVERIFY(rename->isEnabled());
+        }
+        m_window->openFiles({m_path});
+        QTRY_COMPARE_WITH_TIMEOUT(document.path(), m_path, 60000);
+        {
+            // The last of the materials of a file that has more; then it is asked about.
+            list()->setCurrentItem(list()->topLevelItem(2));
+            Hand hand({[&](QDialog *dialog) {
+                           m_window->openFiles({slow});
+                           waitForNothing();
+                           dialog->findChild<QLineEdit *>()->setText("wall");
+                           QTimer::singleShot(0, dialog, &QDialog::accept);
+                       },
+                       Hand::press(QMessageBox::Cancel)});
+            find<QAction>(*m_window, "actionRenameMaterial")->trigger();
+            QCOMPARE(rows().last(), QString("wall diffuse b.png"));
+            QTRY_COMPARE_WITH_TIMEOUT(hand.seen.size(), 2, 60000);
+            QTRY_VERIFY(list()->isEnabled());
+            QCOMPARE(document.path(), m_path);
+        }
+        {
+            // What is given up for another file is no leave for what is done later, nor for what comes back.
+            Hand hand({Hand::press(QMessageBox::No), Hand::press(QMessageBox::Cancel)});
+            m_window->openFiles({slow});
+            dock().document().undoStack()->undo();
+            QVERIFY(dock().document().rename(1, "floor").isEmpty());
+            QTRY_COMPARE_WITH_TIMEOUT(hand.seen.size(), 2, 60000);
+            QCOMPARE(rows().last(), QString("floor diffuse b.png"));
+        }
+        dock().document().undoStack()->setClean();
+        m_window->openFiles({slow});
+        dock().document().restore(m_path, Text, document.stamp());
+        QVERIFY(list()->isEnabled());
+        waitForNothing();
+        QCOMPARE(document.text().bytes(), Text);
     }
 
     void opensLikeTheOtherFiles()

@@ -34,11 +34,15 @@ MaterialFiles::MaterialFile &MaterialFiles::file(const QString &relativePath)
     return *m_files.insert(relativePath, made);
 }
 
+QString MaterialFiles::fileOf(const QString &materialPath)
+{
+    return QFileInfo(materialPath).path() + QStringLiteral(".kmat");
+}
+
 MaterialFiles::Lookup MaterialFiles::find(const QString &materialPath)
 {
-    const QFileInfo parts(materialPath);
-    const QString material = parts.fileName();
-    MaterialFile &from = file(parts.path() + QStringLiteral(".kmat"));
+    const QString material = QFileInfo(materialPath).fileName();
+    MaterialFile &from = file(fileOf(materialPath));
 
     const auto entry = from.table.find(material);
     if (entry != from.table.end())

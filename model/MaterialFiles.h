@@ -27,6 +27,8 @@ public:
     /// An empty folder is not searched.
     MaterialFiles(const QString &gamePath, const QString &outputDir);
 
+    /// The file that "FOLDER/FILE/MATERIAL" is in, relative to one of the folders.
+    static QString fileOf(const QString &materialPath);
     /// The diffuse texture of "FOLDER/FILE/MATERIAL".
     Lookup find(const QString &materialPath);
 

@@ -3,6 +3,7 @@
 #include "ThumbnailCache.h"
 
 #include "Files.h"
+#include "ModFiles.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -19,6 +20,10 @@ const auto UriKey = QStringLiteral("Thumb::URI");
 const auto TimeKey = QStringLiteral("Thumb::MTime");
 const auto SizeKey = QStringLiteral("Thumb::Size");
 const auto ErrorKey = QStringLiteral("Description"); // a key that every PNG may have
+// Of this program's own.
+const auto ExactTimeKey = QStringLiteral("Korvane::MTime"); // in milliseconds
+const auto DrawnFromKey = QStringLiteral("Korvane::DrawnFrom");
+const auto StateKey = QStringLiteral("Korvane::State");
 /// More is no small picture.
 constexpr int MostSide = 1024;
 constexpr qint64 MostFileBytes = 8 * 1024 * 1024;
@@ -34,6 +39,12 @@ QByteArray hexOf(const QByteArray &bytes, QCryptographicHash::Algorithm algorith
 QString timeOf(const ThumbnailSubject &subject, bool isShared)
 {
     return QString::number(isShared ? subject.stamp.modified / 1000 : subject.stamp.modified);
+}
+
+bool isPlainFile(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.isFile() && !file.isSymLink();
 }
 
 /// Folders that nobody else looks into, as far as they are not there yet.
@@ -60,7 +71,8 @@ ThumbnailCache::ThumbnailCache(QString shared, QString own, qint64 mostOwnBytes)
 
 bool ThumbnailCache::isShared(const ThumbnailSubject &subject) const
 {
-    return !m_shared.isEmpty() && Files::archiveOf(subject.path).isEmpty();
+    return !m_shared.isEmpty() && modFileKind(subject.path) == ModFileKind::Picture &&
+           Files::archiveOf(subject.path).isEmpty();
 }
 
 QString ThumbnailCache::pathFor(const ThumbnailSubject &subject, bool isFailure) const
@@ -82,8 +94,10 @@ KeptThumbnail ThumbnailCache::find(const ThumbnailSubject &subject) const
 {
     const bool shared = isShared(subject);
     for (const bool isFailure : {false, true}) {
-        QFile file(pathFor(subject, isFailure));
-        if (!file.open(QIODevice::ReadOnly) || file.size() > MostFileBytes)
+        const QString path = pathFor(subject, isFailure);
+        QFile file(path);
+        // A pipe would never open, and a link may lead anywhere.
+        if (!isPlainFile(path) || !file.open(QIODevice::ReadOnly) || file.size() > MostFileBytes)
             continue;
         QImageReader reader(&file, "png");
         const QSize size = reader.size();
@@ -92,14 +106,19 @@ KeptThumbnail ThumbnailCache::find(const ThumbnailSubject &subject) const
         if (image.isNull() || image.text(UriKey) != QString::fromLatin1(fileUri(subject.path)) ||
             image.text(TimeKey) != timeOf(subject, shared))
             continue;
-        // Others may not say the size; who does, has to have the file's.
-        const QString bytes = image.text(SizeKey);
-        if (!bytes.isEmpty() && bytes != QString::number(subject.stamp.size))
+        // Others may not say these; who does, has to have the file's.
+        const auto isOther = [&image](const QString &key, qint64 number) {
+            const QString said = image.text(key);
+            return !said.isEmpty() && said != QString::number(number);
+        };
+        if (isOther(SizeKey, subject.stamp.size) || isOther(ExactTimeKey, subject.stamp.modified))
             continue;
+        const QString names = image.text(DrawnFromKey);
+        const QStringList drawnFrom = names.isEmpty() ? QStringList() : names.split(QLatin1Char('\n'));
         if (!isFailure)
-            return {image, {}};
+            return {image, {}, drawnFrom, image.text(StateKey)};
         if (!image.text(ErrorKey).isEmpty())
-            return {{}, image.text(ErrorKey)};
+            return {{}, image.text(ErrorKey), drawnFrom, image.text(StateKey)};
     }
     return {};
 }
@@ -115,6 +134,9 @@ void ThumbnailCache::keep(const ThumbnailSubject &subject, const KeptThumbnail &
     }
     if (!makeFolder(QFileInfo(path).path()))
         return;
+    // It would be written to where a link leads.
+    if (!isPlainFile(path))
+        QFile::remove(path);
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(OwnerOnly))
         return;
@@ -122,6 +144,11 @@ void ThumbnailCache::keep(const ThumbnailSubject &subject, const KeptThumbnail &
     image.setText(UriKey, QString::fromLatin1(fileUri(subject.path)));
     image.setText(TimeKey, timeOf(subject, isShared(subject)));
     image.setText(SizeKey, QString::number(subject.stamp.size));
+    image.setText(ExactTimeKey, QString::number(subject.stamp.modified));
+    if (!thumbnail.drawnFrom.isEmpty())
+        image.setText(DrawnFromKey, thumbnail.drawnFrom.join(QLatin1Char('\n')));
+    if (!thumbnail.state.isEmpty())
+        image.setText(StateKey, thumbnail.state);
     image.setText(QStringLiteral("Software"), QStringLiteral("Korvane"));
     if (isFailure)
         image.setText(ErrorKey, thumbnail.error);

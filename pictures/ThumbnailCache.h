@@ -5,7 +5,7 @@
 #include "FileStamp.h"
 
 #include <QImage>
-#include <QString>
+#include <QStringList>
 
 /// A file as it is, and how large a small picture of it is wanted.
 struct ThumbnailSubject
@@ -20,15 +20,19 @@ struct KeptThumbnail
 {
     QImage image;
     QString error;
+    QStringList drawnFrom{}; ///< of a model, see DrawnFrom: the names
+    QString state{};         ///< and the state of these, when it was drawn
 
     bool isEmpty() const { return image.isNull() && error.isEmpty(); }
 };
 
-/// Small pictures of files on the disk. Those of files that stand in folders are kept the way that desktops
-/// have for it (the Thumbnail Managing Standard of freedesktop.org), so file managers and this program have
-/// each other's; those of entries of archives, and all on other systems, stand in the program's own folder,
-/// of which the oldest go when it grows. Nothing that is read there is believed to be a picture of the file
-/// as it is before it says so. All functions may be called by any thread.
+/// Small pictures of files on the disk. Those of pictures that stand in folders are kept the way that
+/// desktops have for it (the Thumbnail Managing Standard of freedesktop.org), so file managers and this
+/// program have each other's. Those of entries of archives, those of models, which show other files too and
+/// so are nothing that a desktop could tell to be outdated, and all on other systems stand in the program's
+/// own folder, of which the oldest go when it grows. Nothing that is read there is believed to be a picture
+/// of the file as it is before it names the file and its time, and its size where it says one; whether what
+/// else a model shows is as it was, is for who asks. All functions may be called by any thread.
 class ThumbnailCache
 {
 public:

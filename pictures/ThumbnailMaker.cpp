@@ -4,8 +4,10 @@
 
 #include "BinaryFileReader.h"
 #include "Companions.h"
+#include "DrawnFrom.h"
 #include "FilePictures.h"
 #include "FileSearch.h"
+#include "Files.h"
 #include "KMat.h"
 #include "Log.h"
 #include "Memory.h"
@@ -15,6 +17,7 @@
 #include "StillPicture.h"
 
 #include <QCoreApplication>
+#include <QSet>
 #include <QThread>
 
 #include <algorithm>
@@ -23,6 +26,11 @@
 namespace {
 /// A texture of more pixels is not read for a small picture.
 constexpr qint64 MostTexturePixels = 8192 * 4096;
+/// Of a material file so many textures are read, and so many are looked for.
+constexpr int MostTexturesRead = 16;
+constexpr int MostTexturesSought = 1000;
+/// A picture of a model that names more files is not kept.
+constexpr int MostDrawnFrom = 256;
 /// So many pictures are kept before it is looked at how much they take.
 constexpr int KeptBetween = 100;
 
@@ -47,22 +55,45 @@ KeptThumbnail smallPictureOf(const QString &path, int side)
 }
 
 /// That of its first texture that there is.
-KeptThumbnail materialPictureOf(const QString &path, int side, const MaterialFolders &folders)
+KeptThumbnail materialPictureOf(const QString &path, int side, const MaterialFolders &folders,
+                                const ReadProgress &progress)
 {
     MaterialTable table;
     const QString error = readKMat(path, table);
     if (!error.isEmpty())
         return {{}, error};
     const FileSearch search(folders.gamePath, folders.outputDir);
+    QSet<QString> sought;
+    int read = 0;
     for (const auto &[name, texture] : table) {
-        const QString found = texture.isEmpty() ? QString() : search.find(texture);
+        if (progress.isCancelled || read == MostTexturesRead || sought.size() == MostTexturesSought)
+            break;
+        if (texture.isEmpty() || sought.contains(texture))
+            continue;
+        sought.insert(texture);
+        const QString found = search.find(texture);
         if (found.isEmpty())
             continue;
+        ++read;
         const KeptThumbnail picture = smallPictureOf(found, side);
         if (!picture.image.isNull())
             return picture;
     }
     return {{}, sayOfThumbnail(QT_TRANSLATE_NOOP("ThumbnailMaker", "None of its textures can be read."))};
+}
+
+/// Whether a file gives all its bytes, and is still as it was. One that another program holds does not, or
+/// one on a share that is away: it may be a good one.
+bool isReadWhole(const ThumbnailSubject &subject)
+{
+    const std::unique_ptr<QIODevice> device = Files::open(subject.path);
+    if (!device || subject.stamp.size > ThumbnailMaker::MostModelBytes)
+        return false;
+    QByteArray bytes(1024 * 1024, '\0');
+    qint64 count = 0;
+    for (qint64 got = 1; got > 0; count += std::max<qint64>(got, 0))
+        got = device->read(bytes.data(), bytes.size());
+    return count == subject.stamp.size && FileStamp::of(subject.path) == subject.stamp;
 }
 } // namespace
 
@@ -152,20 +183,25 @@ MadeThumbnail ThumbnailMaker::make(const ThumbnailWish &wish, int side, const Ma
 {
     const ThumbnailSubject subject{wish.path, FileStamp::of(wish.path), side};
     MadeThumbnail made{wish.path, subject.stamp, {}, {}, false};
-    // What a material shows are other files.
+    // What a material shows are other files; a model shows those that it names beside itself.
     const ModFileKind kind = modFileKind(wish.path);
-    const bool isItself = kind != ModFileKind::Material;
-    if (isItself && wish.known.exists() && wish.known == subject.stamp) {
+    const bool isKept = kind != ModFileKind::Material;
+    const bool isModel = isKept && kind != ModFileKind::Picture;
+    if (isKept && !isModel && wish.known.exists() && wish.known == subject.stamp) {
         made.isSame = true;
         return made;
     }
-    KeptThumbnail thumbnail = isItself ? m_cache.find(subject) : KeptThumbnail();
+    KeptThumbnail thumbnail = isKept ? m_cache.find(subject) : KeptThumbnail();
+    if (isModel && !thumbnail.isEmpty() &&
+        thumbnail.state != DrawnFrom::state(thumbnail.drawnFrom, companionOf(wish.path, folders), folders))
+        thumbnail = {};
     if (thumbnail.isEmpty()) {
         ++m_drawn;
         thumbnail = draw(subject, folders);
         // That there is no mesh for an animation may be otherwise soon.
-        const bool isLasting = isItself && (!thumbnail.image.isNull() || kind != ModFileKind::Anim);
-        if (isLasting && !thumbnail.isEmpty() && !m_progress->isCancelled)
+        const bool isLasting = thumbnail.image.isNull() ? kind != ModFileKind::Anim && isReadWhole(subject)
+                                                        : thumbnail.drawnFrom.size() <= MostDrawnFrom;
+        if (isKept && !thumbnail.isEmpty() && isLasting && !m_progress->isCancelled)
             m_cache.keep(subject, thumbnail);
     }
     made.image = std::move(thumbnail.image);
@@ -179,23 +215,34 @@ KeptThumbnail ThumbnailMaker::draw(const ThumbnailSubject &subject, const Materi
     case ModFileKind::Picture:
         return smallPictureOf(subject.path, subject.side);
     case ModFileKind::Material:
-        return materialPictureOf(subject.path, subject.side, folders);
+        return materialPictureOf(subject.path, subject.side, folders, *m_progress);
     default:
         return drawModel(subject, folders);
     }
+}
+
+Companions &ThumbnailMaker::companions(const MaterialFolders &folders)
+{
+    if (!m_companions)
+        m_companions = std::make_unique<Companions>(folders, QStringList(),
+                                                    [this] { return m_progress->isCancelled.load(); });
+    return *m_companions;
+}
+
+QString ThumbnailMaker::companionOf(const QString &path, const MaterialFolders &folders)
+{
+    return modFileKind(path) == ModFileKind::StaticMesh ? QString() : companions(folders).find(path).path;
 }
 
 KeptThumbnail ThumbnailMaker::drawModel(const ThumbnailSubject &subject, const MaterialFolders &folders)
 {
     if (subject.stamp.size > MostModelBytes)
         return {{}, sayOfThumbnail(QT_TRANSLATE_NOOP("ThumbnailMaker", "Too large for a small picture"))};
-    if (!m_companions)
-        m_companions = std::make_unique<Companions>(folders, QStringList(),
-                                                    [this] { return m_progress->isCancelled.load(); });
+    const QString companion = companionOf(subject.path, folders);
     PosedModel model;
-    const QString error = model.read(subject.path, {}, *m_companions);
+    const QString error = model.read(subject.path, {}, companions(folders));
     if (!error.isEmpty())
-        return {{}, error};
+        return {{}, error, {}, DrawnFrom::state({}, companion, folders)};
     if (model.animFile()) {
         const QString problem = model.problem(0, 0);
         if (!problem.isEmpty() && modFileKind(subject.path) == ModFileKind::Anim)
@@ -209,8 +256,11 @@ KeptThumbnail ThumbnailMaker::drawModel(const ThumbnailSubject &subject, const M
     PictureWishes wishes;
     wishes.size = QSize(subject.side, subject.side);
     int strays = 0;
+    // Before the files are read: what changes meanwhile is drawn anew the next time.
+    const QStringList names = DrawnFrom::names(model, folders, *m_progress);
+    const QString state = DrawnFrom::state(names, companion, folders);
     MeshSource source = sourceOf(model, folders, m_progress.get());
-    return {paintStill(*canvas, std::move(source), model, wishes, strays), {}};
+    return {paintStill(*canvas, std::move(source), model, wishes, strays), {}, names, state};
 }
 
 OffscreenScene *ThumbnailMaker::scene()

@@ -60,6 +60,9 @@ private:
     void work();
     MadeThumbnail make(const ThumbnailWish &wish, int side, const MaterialFolders &folders);
     KeptThumbnail draw(const ThumbnailSubject &subject, const MaterialFolders &folders);
+    Companions &companions(const MaterialFolders &folders);
+    /// The file that belongs to a model and is drawn with it; empty for none.
+    QString companionOf(const QString &path, const MaterialFolders &folders);
     KeptThumbnail drawModel(const ThumbnailSubject &subject, const MaterialFolders &folders);
     /// Null where nothing can be drawn.
     OffscreenScene *scene();

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "Hand.h"
+#include "SpecialFiles.h"
 #include "TestArchive.h"
 #include "ThumbnailMaker.h"
 
@@ -13,7 +14,7 @@ private slots:
     void init()
     {
         m_folder.emplace();
-        m_wall = m_folder->save("a b#ü;/wall.staticmesh", wall({{"materials/m/_white", {0, 1, 2}}}));
+        m_picture = m_folder->put("a b#ü;/wall.png", "a picture by its name");
     }
 
     /// In the place where desktops look for them, for nobody else's eyes, and only of the file as it is.
@@ -21,11 +22,11 @@ private slots:
     {
         const ThumbnailCache cache = shared();
         QCOMPARE(fileUri("/home/jens/photos/me.png"), QByteArray("file:///home/jens/photos/me.png"));
-        QVERIFY(fileUri(m_wall).endsWith("/a%20b%23%C3%BC%3B/wall.staticmesh"));
+        QVERIFY(fileUri(m_picture).endsWith("/a%20b%23%C3%BC%3B/wall.png"));
         const ThumbnailSubject known{"/home/jens/photos/me.png", {1, 2000}, 128};
         QCOMPARE(cache.pathFor(known, false),
                  m_folder->path("cache/normal/c6ee772d9e49320e97ec29a7eb5b1697.png"));
-        ThumbnailSubject subject{m_wall, FileStamp::of(m_wall), 256};
+        ThumbnailSubject subject{m_picture, FileStamp::of(m_picture), 256};
         QVERIFY(cache.find(subject).isEmpty());
         cache.keep(subject, {plain(Qt::green), {}});
         const QString path = cache.pathFor(subject, false);
@@ -34,21 +35,41 @@ private slots:
         QCOMPARE(QFile::permissions(path), only);
         QCOMPARE(QFile::permissions(m_folder->path("cache/large")), only | QFile::ExeOwner | QFile::ExeUser);
         QImage kept(path);
-        QCOMPARE(kept.text("Thumb::URI"), QString::fromLatin1(fileUri(m_wall)));
+        QCOMPARE(kept.text("Thumb::URI"), QString::fromLatin1(fileUri(m_picture)));
         QCOMPARE(kept.text("Thumb::MTime"), QString::number(subject.stamp.modified / 1000));
         QCOMPARE(cache.find(subject).image.pixelColor(0, 0), QColor(Qt::green));
 
         ThumbnailSubject later = subject;
+        later.stamp.modified += subject.stamp.modified % 1000 < 500 ? 1 : -1; // within the second
+        QVERIFY(cache.find(later).isEmpty());
+        // Others do not say more than the second.
+        kept.setText("Korvane::MTime", {});
+        QVERIFY(kept.save(path, "png"));
+        QVERIFY(!cache.find(later).isEmpty());
         later.stamp.modified += 5000;
         QVERIFY(cache.find(later).isEmpty());
         // One of another file, or a damaged one, is none.
         ThumbnailSubject other = subject;
-        other.path += "x";
+        other.path.replace("wall", "door");
         QVERIFY(QFile::copy(path, cache.pathFor(other, false)));
         QVERIFY(cache.find(other).isEmpty());
         const QByteArray bytes = TestSupport::readFile(path);
         QVERIFY(TestSupport::writeFile(path, bytes.left(bytes.size() / 2)));
         QVERIFY(cache.find(subject).isEmpty());
+        // Where somebody put a link or a pipe, nothing is read, and nothing written to where it leads.
+        const QString elsewhere = m_folder->put("elsewhere.png", bytes);
+        for (const bool isPipe : {false, true}) {
+            QVERIFY(QFile::remove(path));
+            if (isPipe)
+                SpecialFiles::pipe(path);
+            else
+                QVERIFY(SpecialFiles::link(elsewhere, path));
+            QVERIFY(cache.find(subject).isEmpty());
+            cache.keep(subject, {plain(Qt::blue), {}});
+            QCOMPARE(cache.find(subject).image.pixelColor(0, 0), QColor(Qt::blue));
+            QCOMPARE(TestSupport::readFile(elsewhere), bytes);
+        }
+        QVERIFY(QFile::remove(path));
         // What failed is not tried again, until the file is another one.
         cache.keep(subject, {{}, "no model"});
         QVERIFY(cache.pathFor(subject, true).startsWith(m_folder->path("cache/fail/korvane-")));
@@ -136,6 +157,80 @@ private slots:
         QCOMPARE(drawn, 1);
     }
 
+    /// A model is drawn anew when a texture or a material file that it names becomes another one, or the
+    /// folders do, though its own file stays.
+    void modelsFollowWhatTheyShow()
+    {
+        const QString game = m_folder->path("game");
+        const QString model =
+            m_folder->save("models/wall.staticmesh", wall({{"materials/skins/a", {0, 1, 2}}}));
+        const auto shows = [&](const QString &folder, const QColor &color, int drawnThen) {
+            int drawn = 0;
+            const QImage image = make({model}, folder, drawn, FileStamp::of(model))[model].image;
+            QCOMPARE(drawn, drawnThen);
+            QVERIFY2(countPixels(image, color) > 500, qPrintable(color.name()));
+        };
+        QDateTime time = QDateTime::currentDateTime();
+        const auto paint = [&](const QString &name, const QColor &color) {
+            QFile file(m_folder->put("game/textures/" + name, {}));
+            QVERIFY(file.open(QIODevice::WriteOnly) && plain(color).save(&file, "png") && file.flush());
+            time = time.addMSecs(-100); // files may be as large as each other
+            QVERIFY(file.setFileTime(time, QFile::FileModificationTime));
+        };
+        shows({}, Qt::white, 1);
+        shows(game, Qt::white, 1);
+        shows(game, Qt::white, 0);
+        m_folder->put("game/materials/skins.kmat", "material a {\n\tsampler \"d\" 0 \"textures/ä.png\"\n}\n");
+        shows(game, Qt::white, 1);
+        paint("ä.png", Qt::red);
+        shows(game, Qt::red, 1);
+        shows(game, Qt::red, 0);
+        paint("ä.png", Qt::blue);
+        shows(game, Qt::blue, 1);
+        paint("bb.png", Qt::green);
+        m_folder->put("game/materials/skins.kmat",
+                      "material a {\n\tsampler \"d\" 0 \"textures/bb.png\"\n}\n");
+        shows(game, Qt::green, 1);
+        shows(m_folder->path("other"), Qt::white, 1);
+        QVERIFY(!QFileInfo::exists(m_folder->path("cache"))); // where it would be shown for ever
+    }
+
+    /// A file that could not be read at all may be a good one.
+    void unreadOnesAreTriedAgain()
+    {
+        int drawn = 0;
+        for (const char *name : {"away.staticmesh", "away.png"}) {
+            const QString path = m_folder->path(name);
+            for (int i = 0; i < 2; ++i) {
+                QVERIFY(!make({path}, {}, drawn)[path].error.isEmpty());
+                QCOMPARE(drawn, 1);
+            }
+        }
+    }
+
+    /// That of the first texture that there is, if that is among the first that are there.
+    void materialsReadFewTextures()
+    {
+        const auto materials = [this](const QString &textures, int count) {
+            QByteArray text;
+            for (int i = 0; i < count; ++i)
+                text += QStringLiteral("material m%1 {\n\tsampler \"d\" 0 \"%2-%1.png\"\n}\n")
+                            .arg(QString::number(i), textures)
+                            .toUtf8();
+            return m_folder->put(textures + ".kmat",
+                                 text + "material z {\n\tsampler \"d\" 0 \"good.png\"\n}\n");
+        };
+        for (int i = 0; i < 16; ++i)
+            m_folder->put(QStringLiteral("bad-%1.png").arg(i), "no picture");
+        QVERIFY(plain(Qt::red).save(m_folder->put("good.png", {}), "png"));
+        const QString away = materials("away", 100);
+        const QString bad = materials("bad", 16);
+        int drawn = 0;
+        const QMap<QString, MadeThumbnail> made = make({away, bad}, m_folder->path("."), drawn);
+        QVERIFY(!made[away].image.isNull());
+        QVERIFY(made[bad].image.isNull());
+    }
+
 private:
     ThumbnailCache shared() const { return {m_folder->path("cache"), m_folder->path("own")}; }
     static QImage plain(const QColor &color)
@@ -145,7 +240,8 @@ private:
         return image;
     }
     /// Wishes for all of them, by path.
-    QMap<QString, MadeThumbnail> make(const QStringList &paths, const QString &game, int &drawn) const
+    QMap<QString, MadeThumbnail> make(const QStringList &paths, const QString &game, int &drawn,
+                                      const FileStamp &known = {}) const
     {
         QMap<QString, MadeThumbnail> made;
         {
@@ -154,7 +250,7 @@ private:
             });
             std::vector<ThumbnailWish> wishes;
             for (const QString &path : paths)
-                wishes.push_back({path, {}});
+                wishes.push_back({path, known});
             maker.wish(wishes, 128, {game, {}});
             const bool isDone = QTest::qWaitFor([&] { return made.size() == paths.size(); }, 60000);
             drawn = isDone ? maker.drawnCount() : -1;
@@ -163,7 +259,7 @@ private:
     }
 
     std::optional<TestFolder> m_folder;
-    QString m_wall;
+    QString m_picture;
 };
 
 QTEST_MAIN(tst_Thumbnails)

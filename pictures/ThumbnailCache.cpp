@@ -3,6 +3,7 @@
 #include "ThumbnailCache.h"
 
 #include "Files.h"
+#include "Language.h"
 #include "ModFiles.h"
 
 #include <QCoreApplication>
@@ -21,7 +22,8 @@ const auto TimeKey = QStringLiteral("Thumb::MTime");
 const auto SizeKey = QStringLiteral("Thumb::Size");
 const auto ErrorKey = QStringLiteral("Description"); // a key that every PNG may have
 // Of this program's own.
-const auto ExactTimeKey = QStringLiteral("Korvane::MTime"); // in milliseconds
+const auto ExactTimeKey = QStringLiteral("Korvane::MTime");   // in milliseconds
+const auto LanguageKey = QStringLiteral("Korvane::Language"); // of why there is none
 const auto DrawnFromKey = QStringLiteral("Korvane::DrawnFrom");
 const auto StateKey = QStringLiteral("Korvane::State");
 /// More is no small picture.
@@ -117,7 +119,7 @@ KeptThumbnail ThumbnailCache::find(const ThumbnailSubject &subject) const
         const QStringList drawnFrom = names.isEmpty() ? QStringList() : names.split(QLatin1Char('\n'));
         if (!isFailure)
             return {image, {}, drawnFrom, image.text(StateKey)};
-        if (!image.text(ErrorKey).isEmpty())
+        if (!image.text(ErrorKey).isEmpty() && image.text(LanguageKey) == Language::installed())
             return {{}, image.text(ErrorKey), drawnFrom, image.text(StateKey)};
     }
     return {};
@@ -150,8 +152,10 @@ void ThumbnailCache::keep(const ThumbnailSubject &subject, const KeptThumbnail &
     if (!thumbnail.state.isEmpty())
         image.setText(StateKey, thumbnail.state);
     image.setText(QStringLiteral("Software"), QStringLiteral("Korvane"));
-    if (isFailure)
+    if (isFailure) {
         image.setText(ErrorKey, thumbnail.error);
+        image.setText(LanguageKey, Language::installed());
+    }
     if (QImageWriter(&file, "png").write(image))
         file.commit();
 }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "Hand.h"
+#include "Language.h"
 #include "SpecialFiles.h"
 #include "TestArchive.h"
 #include "ThumbnailMaker.h"
@@ -71,10 +72,15 @@ private slots:
         }
         QVERIFY(QFile::remove(path));
         // What failed is not tried again, until the file is another one.
-        cache.keep(subject, {{}, "no model"});
+        cache.keep(subject, {{}, "no mödel"});
         QVERIFY(cache.pathFor(subject, true).startsWith(m_folder->path("cache/fail/korvane-")));
-        QCOMPARE(cache.find(subject).error, QString("no model"));
+        QCOMPARE(cache.find(subject).error, QString("no mödel"));
         QVERIFY(cache.find(later).isEmpty());
+        // In another language it would be said otherwise.
+        Language::install("de");
+        const bool isSaid = !cache.find(subject).isEmpty();
+        Language::install("en");
+        QVERIFY(!isSaid);
     }
 
     /// What only this program can name stands in a folder of its own, which does not grow for ever.

@@ -4,7 +4,6 @@
 
 #include "Files.h"
 #include "Language.h"
-#include "ModFiles.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -73,8 +72,7 @@ ThumbnailCache::ThumbnailCache(QString shared, QString own, qint64 mostOwnBytes)
 
 bool ThumbnailCache::isShared(const ThumbnailSubject &subject) const
 {
-    return !m_shared.isEmpty() && modFileKind(subject.path) == ModFileKind::Picture &&
-           Files::archiveOf(subject.path).isEmpty();
+    return !m_shared.isEmpty() && Files::archiveOf(subject.path).isEmpty();
 }
 
 QString ThumbnailCache::pathFor(const ThumbnailSubject &subject, bool isFailure) const

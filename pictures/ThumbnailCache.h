@@ -26,13 +26,12 @@ struct KeptThumbnail
     bool isEmpty() const { return image.isNull() && error.isEmpty(); }
 };
 
-/// Small pictures of files on the disk. Those of pictures that stand in folders are kept the way that
-/// desktops have for it (the Thumbnail Managing Standard of freedesktop.org), so file managers and this
-/// program have each other's. Those of entries of archives, those of models, which show other files too and
-/// so are nothing that a desktop could tell to be outdated, and all on other systems stand in the program's
-/// own folder, of which the oldest go when it grows. Nothing that is read there is believed to be a picture
-/// of the file as it is before it names the file and its time, and its size where it says one; whether what
-/// else a model shows is as it was, is for who asks. All functions may be called by any thread.
+/// Small pictures of files on the disk. Those of files in folders are kept the way that desktops have for it
+/// (the Thumbnail Managing Standard of freedesktop.org), so file managers and this program have each other's.
+/// Those of entries of archives, and all on other systems, stand in the program's own folder, of which the
+/// oldest go when it grows. Nothing that is read there is believed to be a picture of the file as it is
+/// before it names the file and its time, and its size where it says one; whether what else a model shows is
+/// as it was, is for who asks. All functions may be called by any thread.
 class ThumbnailCache
 {
 public:

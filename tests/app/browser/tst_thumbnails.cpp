@@ -198,7 +198,11 @@ private slots:
                       "material a {\n\tsampler \"d\" 0 \"textures/bb.png\"\n}\n");
         shows(game, Qt::green, 1);
         shows(m_folder->path("other"), Qt::white, 1);
-        QVERIFY(!QFileInfo::exists(m_folder->path("cache"))); // where it would be shown for ever
+        // What a desktop has drawn says nothing of that.
+        const ThumbnailSubject known{model, FileStamp::of(model), 128};
+        shared().keep(known, {plain(Qt::yellow), {}});
+        QVERIFY(!shared().find(known).isEmpty());
+        shows(game, Qt::green, 1);
     }
 
     /// A file that could not be read at all may be a good one.

@@ -8,13 +8,13 @@
 
 FreeWindow::FreeWindow()
 {
-    m_retry.setInterval(50);
     QObject::connect(&m_retry, &QTimer::timeout, &m_retry, [this] { look(); });
 }
 
 void FreeWindow::wait(std::function<void()> then)
 {
     m_then = std::move(then);
+    m_isFree = false;
     look();
 }
 
@@ -26,9 +26,15 @@ void FreeWindow::forget()
 
 void FreeWindow::look()
 {
-    if (QApplication::activeModalWidget() || QApplication::activePopupWidget() ||
-        QGuiApplication::mouseButtons() != Qt::NoButton)
-        return m_retry.start();
+    constexpr int RetryMs = 50;
+    const bool isBusy = QApplication::activeModalWidget() || QApplication::activePopupWidget() ||
+                        QGuiApplication::mouseButtons() != Qt::NoButton;
+    // A dialog that is gone may not have returned yet to who asked: it has by the next turn of the event
+    // loop.
+    if (isBusy || !std::exchange(m_isFree, true)) {
+        m_isFree = !isBusy;
+        return m_retry.start(isBusy ? RetryMs : 0);
+    }
     m_retry.stop();
     std::exchange(m_then, {})();
 }

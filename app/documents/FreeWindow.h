@@ -13,7 +13,7 @@ class FreeWindow
 public:
     FreeWindow();
 
-    /// Calls `then`, now or when the window is free, unless forget() or another call comes first.
+    /// Calls `then`, soon or when the window is free, unless forget() or another call comes first.
     void wait(std::function<void()> then);
     void forget();
     bool isWaited() const { return m_retry.isActive(); }
@@ -22,5 +22,6 @@ private:
     void look();
 
     std::function<void()> m_then;
+    bool m_isFree = false; ///< at the last look
     QTimer m_retry;
 };

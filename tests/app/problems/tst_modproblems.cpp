@@ -91,6 +91,7 @@ private slots:
         }
         QCOMPARE(rootOf(*m_window, "treeStaticMesh"), QStringLiteral("good.staticmesh"));
         // Once it is saved, it is the file's, and stays when another one is opened.
+        QApplication::setActiveWindow(m_window.get()); // which has the keys back where windows are managed
         QTest::keySequence(m_window.get(), QKeySequence::Save);
         doubleClick(wall);
         QTRY_COMPARE(rootOf(*m_window, "treeStaticMesh"), QStringLiteral("wall.staticmesh"));

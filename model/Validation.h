@@ -12,6 +12,11 @@ struct MaterialFolders
 {
     QString gamePath;
     QString outputDir;
+
+    bool operator==(const MaterialFolders &other) const
+    {
+        return gamePath == other.gamePath && outputDir == other.outputDir;
+    }
 };
 
 /// How many findings of one rule are listed before the rest is only counted.

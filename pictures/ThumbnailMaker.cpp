@@ -156,10 +156,9 @@ void ThumbnailMaker::work()
             m_wishes.pop_back();
             m_making = wish.path;
             side = m_side;
-            const bool areOthers =
-                m_folders.gamePath != folders.gamePath || m_folders.outputDir != folders.outputDir;
+            const bool areSame = m_folders == folders;
             folders = m_folders;
-            if (std::exchange(m_isNew, false) || areOthers)
+            if (std::exchange(m_isNew, false) || !areSame)
                 m_companions.reset();
         }
         MadeThumbnail made;

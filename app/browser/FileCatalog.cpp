@@ -55,11 +55,6 @@ void sortOrders(CatalogFiles &made)
         return compareFolders(files[size_t(a)], files[size_t(b)]) < 0;
     });
 }
-
-bool areSame(const MaterialFolders &a, const MaterialFolders &b)
-{
-    return a.gamePath == b.gamePath && a.outputDir == b.outputDir;
-}
 } // namespace
 
 bool CatalogFiles::isSame(const CatalogFiles &other) const
@@ -134,7 +129,7 @@ void FileCatalog::refresh()
 void FileCatalog::read()
 {
     const MaterialFolders folders{Settings::GamePath.value(), Settings::OutputDir.value()};
-    const bool isSame = areSame(folders, m_folders);
+    const bool isSame = folders == m_folders;
     if (m_reader.isRunning() && isSame) {
         m_isStale = true;
         return;

@@ -29,12 +29,11 @@ void FreeWindow::look()
     constexpr int RetryMs = 50;
     const bool isBusy = QApplication::activeModalWidget() || QApplication::activePopupWidget() ||
                         QGuiApplication::mouseButtons() != Qt::NoButton;
+    const bool wasFree = std::exchange(m_isFree, !isBusy);
     // A dialog that is gone may not have returned yet to who asked: it has by the next turn of the event
     // loop.
-    if (isBusy || !std::exchange(m_isFree, true)) {
-        m_isFree = !isBusy;
+    if (isBusy || !wasFree)
         return m_retry.start(isBusy ? RetryMs : 0);
-    }
     m_retry.stop();
     std::exchange(m_then, {})();
 }

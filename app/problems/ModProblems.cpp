@@ -89,7 +89,8 @@ void ModProblems::check()
         const QString lack =
             withinMemory([&] { report = ModCheck(folders, ids, ListedFindings, goesOn).run(); });
         if (!lack.isEmpty())
-            Log::warning(tr("[Problems] '%1' was not searched: %2").arg(folders.outputDir, lack));
+            Log::sayInTime(LogSeverity::Warning,
+                           tr("[Problems] '%1' was not searched: %2").arg(folders.outputDir, lack));
         return report;
     };
     m_check.start(work, [this](ModReport report) { take(std::move(report)); });

@@ -64,8 +64,8 @@ Problems::Problems(SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticM
 void Problems::collect()
 {
     m_all.clear();
-    QStringList
-        open; // by their names in the mod; what is wrong with them as files is told until they are checked
+    // By their names in the mod; what is wrong with them as files is told until they are checked.
+    QStringList open;
     for (const DocumentKind &kind : documentKinds()) {
         const QString path = document(kind.type).path();
         const QString name = m_mod->nameOf(path);

@@ -12,11 +12,6 @@
 
 namespace {
 constexpr int TickMs = 100;
-
-bool areSame(const MaterialFolders &a, const MaterialFolders &b)
-{
-    return a.gamePath == b.gamePath && a.outputDir == b.outputDir;
-}
 } // namespace
 
 IndexKeeper::IndexKeeper(QObject *parent)
@@ -29,7 +24,7 @@ IndexKeeper::IndexKeeper(QObject *parent)
 void IndexKeeper::refresh()
 {
     const MaterialFolders folders{Settings::GamePath.value(), Settings::OutputDir.value()};
-    const bool isSame = areSame(folders, m_folders);
+    const bool isSame = folders == m_folders;
     if (m_reader.isRunning() && isSame) {
         m_isStale = true;
         return;

@@ -7,7 +7,6 @@
 class DocumentFiles;
 class DocumentPanes;
 class FileOpener;
-class Preferences;
 
 namespace Ui {
 class MainWindow;

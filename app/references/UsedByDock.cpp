@@ -74,7 +74,7 @@ UsedByDock::UsedByDock(QWidget *parent)
             m_keeper->refresh();
     });
     connect(m_keeper, &IndexKeeper::changed, this, &UsedByDock::onIndexChanged);
-    connect(m_keeper, &IndexKeeper::progressed, this, &UsedByDock::updateState);
+    connect(m_keeper, &IndexKeeper::progressed, this, &UsedByDock::updateProgress);
     connect(this, &QDockWidget::visibilityChanged, this, [this](bool isVisible) {
         if (!isVisible)
             return;
@@ -275,12 +275,18 @@ QString UsedByDock::emptyText() const
     return m_search.isRunning() ? QString() : tr("No file of game or mod names it.");
 }
 
+/// Only as the keeper says so: a bar repaints the window at once, which may be in the midst of a model's
+/// replacement where the current record is followed.
+void UsedByDock::updateProgress()
+{
+    m_progress->setRange(0, m_keeper->filesFound());
+    m_progress->setValue(m_keeper->filesDone());
+}
+
 void UsedByDock::updateState()
 {
     const bool isRunning = m_keeper->isRunning();
     m_progress->setVisible(isRunning);
-    m_progress->setRange(0, m_keeper->filesFound());
-    m_progress->setValue(m_keeper->filesDone());
     m_read->setIcon(namedIcon(isRunning ? QStringLiteral("close") : QStringLiteral("refresh")));
     m_read->setToolTip(isRunning ? tr("Give up reading the files of game and mod")
                                  : tr("Look for files of game and mod that have changed"));

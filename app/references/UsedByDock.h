@@ -59,6 +59,7 @@ private:
     void leave();
     void lookUp();
     void onIndexChanged();
+    void updateProgress();
     void updateState();
     QString emptyText() const;
     void activate(int row);

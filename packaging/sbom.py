@@ -20,6 +20,7 @@ import uuid
 LICENSES = {
     "libassimp": "BSD-3-Clause",
     "libc6": "LGPL-2.1-or-later",
+    "gcc-mingw-w64": "GPL-3.0-or-later WITH GCC-exception-3.1",
     "libgcc-s1": "GPL-3.0-or-later WITH GCC-exception-3.1",
     "libgl1": "MIT",
     "libopengl0": "MIT",
@@ -28,8 +29,15 @@ LICENSES = {
     "libseccomp2": "LGPL-2.1-only",
     "libstb": "MIT OR Unlicense",
     "libstdc++6": "GPL-3.0-or-later WITH GCC-exception-3.1",
+    "libutfcpp": "BSL-1.0",
+    "libz-mingw-w64": "Zlib",
+    "qttranslations5": "GPL-3.0-only WITH Qt-GPL-exception-1.0",
     "zlib1g": "Zlib",
 }
+
+
+# What every package has in its programs.
+ALWAYS_INSIDE = [("Lucide", "1.62.0", "ISC AND MIT")]
 
 
 def output(*command):
@@ -82,8 +90,8 @@ def package(name, version, licence, locator=None):
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--version", required=True, help="of Korvane")
-    parser.add_argument("--inside", action="append", default=[], metavar="NAME|VERSION|LICENCE",
-                        help="something that the package holds")
+    parser.add_argument("--inside", action="append", default=[], metavar="NAME|VERSION|LICENCE[|LOCATOR]",
+                        help="something that the package holds, and where others find it (a purl)")
     parser.add_argument("--built-in", action="append", default=[], metavar="PACKAGE",
                         help="a package of the system, parts of which are in the programs")
     parser.add_argument("--linked", nargs="*", default=[], metavar="PROGRAM",
@@ -93,8 +101,8 @@ def main():
 
     parts = [package("Korvane", options.version, "MIT")]
     relations = [("SPDXRef-DOCUMENT", "DESCRIBES", parts[0]["SPDXID"])]
-    for each in options.inside:
-        parts.append(package(*each.split("|")))
+    for each in ALWAYS_INSIDE + [part.split("|") for part in options.inside]:
+        parts.append(package(*each))
         relations.append((parts[0]["SPDXID"], "CONTAINS", parts[-1]["SPDXID"]))
     for name in options.built_in:
         parts.append(package(*installed(name)))

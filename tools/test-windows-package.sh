@@ -85,6 +85,13 @@ for extension in skinnedmesh anim staticmesh; do
     key "Software\\Classes\\Korvane.$extension\\shell\\open\\command" || die "nobody opens .$extension"
 done
 
+say "and has a list of what it is made of"
+# shellcheck disable=SC2016 # jq fills this in
+for name in qtbase-opensource-src assimp minizip mesa libz-mingw-w64-dev; do
+    expect 0 jq -e --arg name "$name" '.packages[] | select(.name == $name and .versionInfo != "")' \
+        "$installed/korvane.spdx.json"
+done
+
 say "korvane-tool reads the samples, and imports a model through the worker"
 expect 0 "$wine" "$installed/korvane-tool.exe" info --json "$model"
 printf 'v 0 0 0\nv 2 0 0\nv 0 4 0\nvt 0.5 0.25\nf 1/1 2/1 3/1\n' >"$root/triangle.obj"

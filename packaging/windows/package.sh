@@ -88,6 +88,27 @@ you these sources too, if you ask within three years, for no more than the cost 
 TEXT
 } | sed 's/$/\r/' >"$folder/licences/README.txt"
 
+# --- What it is made of, for those who keep lists ----------------------------------------------------------
+
+parts=()
+# source_package NAME LICENCE: of Debian's, and built by toolchain.sh.
+source_package() {
+    local source_version
+    source_version=$(<"$sources/$1/.version")
+    parts+=(--inside "$1|$source_version|$2|pkg:deb/debian/$1@$source_version?arch=source")
+}
+source_package qtbase-opensource-src LGPL-3.0-only
+source_package mesa MIT
+source_package assimp BSD-3-Clause
+source_package minizip Zlib
+# Draco stands in the sources of Assimp.
+parts+=(--inside "draco|in assimp $(<"$sources/assimp/.version")|Apache-2.0")
+for name in gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev libz-mingw-w64-dev libstb-dev libutfcpp-dev \
+    qttranslations5-l10n; do
+    parts+=(--built-in "$name")
+done
+python3 "$repository/packaging/sbom.py" --version "$version" "${parts[@]}" --output "$folder/korvane.spdx.json"
+
 # --- Zip and installer -------------------------------------------------------------------------------------
 
 find "$folder" -exec touch -h -d "@$SOURCE_DATE_EPOCH" {} +

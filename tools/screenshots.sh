@@ -484,13 +484,11 @@ mod_pictures() {
     sleep 3
     grab_dialog 'Pack Mod' "$folder/pack.png"
     leave_dialog
-    command 'view problems'
-    # The button Whole Mod.
-    click 348 795
+    command 'check whole mod'
     sleep 3
     grab "$main" "$folder/problems.png"
     # The next start would remember it.
-    click 348 795
+    command 'check whole mod'
     quit
 
     korvane "$(first skinnedmesh)" "$samples/mod/materials/mat_tinker.kmat"

@@ -7985,10 +7985,6 @@ Wo keine Datei ist, bleibt es still.</translation>
         <translation>Auch auflisten, was %1 der Mod stummschaltet</translation>
     </message>
     <message>
-        <source>Whole &amp;Mod</source>
-        <translation>&amp;Ganze Mod</translation>
-    </message>
-    <message>
         <source>List what is wrong with all files in the mod&apos;s folder, too</source>
         <translation>Auch auflisten, was an allen Dateien im Mod-Ordner nicht stimmt</translation>
     </message>
@@ -8027,6 +8023,14 @@ Wo keine Datei ist, bleibt es still.</translation>
     <message>
         <source>Failed to write %1</source>
         <translation>%1 konnte nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Check Whole &amp;Mod</source>
+        <translation>&amp;Ganze Mod prüfen</translation>
+    </message>
+    <message>
+        <source>Whole Mod</source>
+        <translation>Ganze Mod</translation>
     </message>
 </context>
 <context>

@@ -120,9 +120,13 @@ void ProblemsDock::createModActions()
     m_showSilenced = addAction("actionProblemShowSilenced", tr("List Si&lenced"), "", &ProblemsDock::fill);
     m_showSilenced->setCheckable(true);
     m_showSilenced->setToolTip(tr("List what %1 of the mod silences, too").arg(CheckSettings::FileName));
-    m_whole = addAction("actionProblemWholeMod", tr("Whole &Mod"), "folder", &ProblemsDock::toggleWhole);
+    m_whole =
+        addAction("actionProblemWholeMod", tr("Check Whole &Mod"), "folder", &ProblemsDock::toggleWhole);
+    m_whole->setShortcutContext(Qt::WindowShortcut); // a menu of the window has it, too
+    m_whole->setIconText(tr("Whole Mod"));
     m_whole->setCheckable(true);
     m_whole->setToolTip(tr("List what is wrong with all files in the mod's folder, too"));
+    m_whole->setStatusTip(m_whole->toolTip());
 }
 
 QToolButton *ProblemsDock::addButton(QAction *action)
@@ -252,6 +256,10 @@ void ProblemsDock::repairAllOfKind()
 void ProblemsDock::toggleWhole()
 {
     m_problems->mod().setWhole(m_whole->isChecked());
+    if (!m_whole->isChecked())
+        return;
+    show();
+    raise();
 }
 
 bool ProblemsDock::canSilence(const ProblemItem *item)

@@ -35,6 +35,8 @@ public:
 
     /// What is to be listed, of documents in the order of their kinds; everything outlives the dock.
     void setProblems(Problems *problems, const std::array<Listed, 3> &documents, DocumentFiles &files);
+    /// Switches the check of the whole mod; the dock comes up with what that finds.
+    QAction *wholeMod() const { return m_whole; }
 
 signals:
     /// The record is to be shown.

@@ -21,6 +21,7 @@ void wireRecordDocks(const Ui::MainWindow &ui, DocumentPanes &panes, Problems &p
     }
     const auto tell = [bar = window.statusBar()](const QString &text) { bar->showMessage(text, 5000); };
     ui.dockProblems->setProblems(&problems, listed, files);
+    ui.menuTools->insertAction(ui.actionAnimSyncSkin, ui.dockProblems->wholeMod());
     QObject::connect(ui.dockProblems, &ProblemsDock::activated, &panes, &DocumentPanes::showRecord);
     QObject::connect(ui.dockProblems, &ProblemsDock::materialsWanted, &panes,
                      [&panes](const QString &path) { panes.materials().open(path, {}); });

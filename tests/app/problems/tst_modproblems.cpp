@@ -51,16 +51,26 @@ private slots:
         QCOMPARE(rows().size(), 3);
 
         // By Enter; what cannot be read says so.
-        Hand hand({Hand::press(QMessageBox::Ok)});
-        click(0);
-        QTest::keyClick(list(), Qt::Key_Return);
-        QTRY_COMPARE(hand.seen.size(), 1);
-        QVERIFY2(hand.seen[0].contains("half.anim"), qPrintable(hand.seen[0]));
+        {
+            Hand hand({Hand::press(QMessageBox::Ok)});
+            click(0);
+            QTest::keyClick(list(), Qt::Key_Return);
+            QTRY_COMPARE(hand.seen.size(), 1);
+            QVERIFY2(hand.seen[0].contains("half.anim"), qPrintable(hand.seen[0]));
+        }
 
-        // The switch is remembered.
+        // The switch is remembered, and stands in a menu: switched on there, it brings the list up.
         start();
         QVERIFY(find<QToolButton>("btnProblemWholeMod")->isChecked());
         QTRY_COMPARE(rows().size(), 3);
+        find<QDockWidget>("dockProblems")->hide();
+        toggleByPalette();
+        QVERIFY(!find<QToolButton>("btnProblemWholeMod")->isChecked());
+        QVERIFY(!find<QDockWidget>("dockProblems")->isVisible());
+        toggleByPalette();
+        QVERIFY(find<QToolButton>("btnProblemWholeMod")->isChecked());
+        QTRY_COMPARE(rows().size(), 3);
+        QVERIFY(list()->isVisible());
         press("btnProblemWholeMod");
         QTRY_COMPARE(rows(), QStringList());
         QCOMPARE(list()->accessibleDescription(), QStringLiteral("No file is open."));
@@ -213,6 +223,17 @@ private:
         QContextMenuEvent event(QContextMenuEvent::Mouse, placeOf(row),
                                 list()->viewport()->mapToGlobal(placeOf(row)));
         QApplication::sendEvent(list()->viewport(), &event);
+    }
+    void toggleByPalette() const
+    {
+        const Hand hand({[](QDialog *palette) {
+            auto *line = palette->findChild<QLineEdit *>();
+            QTest::keyClicks(line, QStringLiteral("check whole mod"));
+            QTest::keyClick(line, Qt::Key_Return);
+        }});
+        const bool was = find<QToolButton>("btnProblemWholeMod")->isChecked();
+        find<QAction>("actionCommands")->trigger();
+        QTRY_VERIFY(find<QToolButton>("btnProblemWholeMod")->isChecked() != was);
     }
     void press(const char *button) const { QTest::mouseClick(find<QToolButton>(button), Qt::LeftButton); }
 

@@ -10,10 +10,12 @@
 #include "FloatSpinBox.h"
 #include "IntSpinBox.h"
 #include "MaterialCatalog.h"
+#include "MaterialField.h"
 #include "NamedThing.h"
 #include "QuestionMenu.h"
 #include "Questions.h"
 #include "StructureActions.h"
+#include "TextField.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
@@ -53,9 +55,13 @@ WhereUsed::WhereUsed(const Ui::MainWindow &ui, DocumentFiles &files, DocumentPan
             const QStringList questions = Questions::of(each->editor());
             return !questions.isEmpty() && namedKindOf(questions.first());
         });
+    for (MaterialField *each : window->findChildren<MaterialField *>()) {
+        Questions::set(each->editor(), {namedKindId(NamedKind::Material)});
+        each->addUses(m_ui.actionWhereUsed);
+    }
 }
 
-/// What the field with the keys holds is what is asked for, where that is the number of something.
+/// What the field with the keys holds is what is asked for, where that names something.
 void WhereUsed::openUsedBy()
 {
     QWidget *editor = QApplication::focusWidget();
@@ -73,10 +79,13 @@ void WhereUsed::openUsedBy()
     if (const auto kind = editor ? namedKindOf(Questions::of(editor).first()) : std::nullopt) {
         const auto *whole = qobject_cast<const IntSpinBox *>(editor);
         const auto *real = qobject_cast<const FloatSpinBox *>(editor);
+        const auto *path = qobject_cast<const TextField *>(editor);
         if (whole)
             thing = NamedThing{*kind, double(whole->value())};
         else if (real)
             thing = NamedThing::ofArgument(*kind, real->value());
+        else if (path && !path->text().isEmpty())
+            thing = NamedThing{*kind, 0.0, path->text()};
     }
     m_ui.dockUsedBy->open(thing ? std::vector<NamedThing>{*thing} : std::vector<NamedThing>());
 }

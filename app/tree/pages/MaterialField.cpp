@@ -4,6 +4,7 @@
 
 #include "ChoicePopup.h"
 #include "Files.h"
+#include "Icons.h"
 #include "IndexTargets.h"
 #include "MaterialCatalog.h"
 #include "NameDrop.h"
@@ -57,6 +58,7 @@ MaterialField::MaterialField(TextField *editor, MaterialCatalog &catalog)
         nameShortcut(action, action->objectName(), tr("Material Fields"), {});
         connect(action, &QAction::triggered, this, does);
         editor->addAction(action);
+        m_fileActions.append(action);
     };
     addAction("actionEditMaterial", tr("&Edit Material"), [this] { edit(); });
     addAction("actionOpenMaterialFile", tr("&Open Material File"), [this] { open(false); });
@@ -197,7 +199,7 @@ void MaterialField::tell()
     m_hint->setTarget(m_differs ? IndexTargets::differing(target) : target);
     m_open->setEnabled(!m_place.file.isEmpty());
     m_edit->setEnabled(m_open->isEnabled());
-    for (QAction *action : m_editor->actions())
+    for (QAction *action : qAsConst(m_fileActions))
         action->setEnabled(m_open->isEnabled());
 }
 
@@ -257,4 +259,29 @@ void MaterialField::setAction(const QAction *choose)
     const auto show = [this, choose] { m_button->setToolTip(withKeys(m_button->accessibleName(), choose)); };
     connect(choose, &QAction::changed, this, show);
     show();
+}
+
+void MaterialField::addUses(QAction *uses)
+{
+    // In the line: below it the words need the room.
+    auto *action = new QAction(namedIcon(QStringLiteral("sync")), plainText(uses), m_editor);
+    m_editor->addAction(action, QLineEdit::TrailingPosition);
+    auto *button = qobject_cast<QToolButton *>(action->associatedWidgets().constLast());
+    button->setObjectName(QStringLiteral("btnUses") + m_editor->objectName().mid(3));
+    button->setAccessibleName(plainText(uses));
+    connect(action, &QAction::triggered, this, [this, uses] {
+        m_editor->setFocus(Qt::OtherFocusReason);
+        uses->trigger();
+    });
+    const auto follow = [action](const QString &text) { action->setEnabled(!text.isEmpty()); };
+    connect(m_editor, &QLineEdit::textChanged, action, follow);
+    follow(m_editor->text());
+    // Shown with its keys, but without having them: they would be ambiguous.
+    const auto showKeys = [action, uses] {
+        const QString keys = keysText(uses->shortcuts());
+        action->setText(keys.isEmpty() ? uses->text() : uses->text() + QLatin1Char('\t') + keys);
+        action->setToolTip(withKeys(plainText(uses), uses));
+    };
+    connect(uses, &QAction::changed, action, showKeys);
+    showKeys();
 }

@@ -33,8 +33,10 @@ public:
     /// Another record is shown.
     void leave();
     void setAction(const QAction *choose);
+    /// Puts a button into the line for what asks who names the material of the field with the keys.
+    void addUses(QAction *uses);
 
-    const TextField *editor() const { return m_editor; }
+    TextField *editor() const { return m_editor; }
 
 signals:
     /// All selected records are to get it.
@@ -61,6 +63,7 @@ private:
     QToolButton *m_button;
     QToolButton *m_edit;
     QToolButton *m_open;
+    QList<QAction *> m_fileActions; ///< for what there is a file for
     QCompleter *m_completer;
     QPointer<ChoicePopup> m_popup;
     Background m_finder;

@@ -128,6 +128,54 @@ private slots:
         QTRY_COMPARE(find<KVTreeView>("treeAnim")->currentRecord(), action);
     }
 
+    /// A surface's material is asked about where it stands, by the mouse, a key and the menu.
+    void asksFromTheMaterialField()
+    {
+        m_window->openFiles({m_man});
+        select(*m_window, "treeSkinnedMesh", {{RecordKind::SkinnedSurface, {1, 0, 0}}});
+        const auto *page = find<QWidget>("pagesSkinnedMesh");
+        auto *field = ::find<QLineEdit>(*page, "txtSurfaceMaterial");
+        auto *uses = ::find<QToolButton>(*page, "btnUsesSurfaceMaterial");
+        QVERIFY(uses->isVisible() && uses->isEnabled());
+        QCOMPARE(uses->accessibleName(), QString("Where Is This Used?"));
+        QCOMPARE(uses->toolTip(), QString("Where Is This Used? (Ctrl+Shift+U)"));
+        QTest::mouseClick(uses, Qt::LeftButton);
+        QVERIFY(find<QDockWidget>("dockUsedBy")->isVisible() && list()->hasFocus());
+        QTRY_COMPARE(records().size(), 3);
+        QCOMPARE(things()->currentText(), QString("Material materials/Skins/a"));
+
+        // Back from the texture, which comes behind the material.
+        const auto isTexture = [this] { return things()->currentText().startsWith("Texture"); };
+        const auto leave = [&] {
+            things()->setFocus();
+            QTest::keyClick(things(), Qt::Key_End);
+            return isTexture();
+        };
+        QTRY_VERIFY(leave());
+        field->setFocus();
+        QTest::keySequence(field, QKeySequence("Ctrl+Shift+U"));
+        QCOMPARE(things()->currentText(), QString("Material materials/Skins/a"));
+        QVERIFY(leave());
+        field->setFocus();
+        QContextMenuEvent wanted(QContextMenuEvent::Keyboard, field->rect().center(),
+                                 field->mapToGlobal(field->rect().center()));
+        QCoreApplication::sendEvent(field, &wanted);
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_W);
+        QTRY_VERIFY(!isTexture());
+        QVERIFY(!m_window->windowTitle().contains('*'));
+
+        // What stands there counts; nothing cannot be asked about.
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClick(field, Qt::Key_Delete);
+        QVERIFY(!uses->isEnabled());
+        QTest::keyClicks(field, "materials/skins/b");
+        QTest::mouseClick(uses, Qt::LeftButton);
+        QCOMPARE(things()->currentText(), QString("Material materials/skins/b"));
+        QTRY_COMPARE(records(), QStringList());
+    }
+
     /// The list is of files as they are saved, by this program or another.
     void followsWhatIsSaved()
     {

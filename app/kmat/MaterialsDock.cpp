@@ -290,7 +290,13 @@ void MaterialsDock::showCurrent()
         m_text->unmark();
 }
 
-void MaterialsDock::showMaterial(const QString &name)
+QString MaterialsDock::currentMaterial() const
+{
+    const QTreeWidgetItem *item = m_list->currentItem();
+    return item ? item->text(MaterialColumn) : QString();
+}
+
+void MaterialsDock::selectMaterial(const QString &name)
 {
     for (int i = m_list->topLevelItemCount() - 1; i >= 0; --i) {
         if (m_list->topLevelItem(i)->text(MaterialColumn) == name) {
@@ -298,6 +304,11 @@ void MaterialsDock::showMaterial(const QString &name)
             break;
         }
     }
+}
+
+void MaterialsDock::showMaterial(const QString &name)
+{
+    selectMaterial(name);
     show();
     raise();
     m_list->setFocus();

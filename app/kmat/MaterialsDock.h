@@ -32,10 +32,15 @@ public:
     explicit MaterialsDock(QWidget *parent = nullptr);
 
     MaterialDocument &document() { return m_document; }
+    const MaterialDocument &document() const { return m_document; }
     /// Where small pictures come from.
     void setCatalog(MaterialCatalog &catalog);
     /// Shows the document as it is, and a material of it, where one is named.
     void showMaterial(const QString &name);
+    /// The same, but the dock stays as it is, hidden or behind others.
+    void selectMaterial(const QString &name);
+    /// The name of the material that is current; empty where there is none.
+    QString currentMaterial() const;
     /// Stores what is typed. Returns true when it cannot be, and has the keys then.
     [[nodiscard]] bool returnToTyping();
     /// Nothing is edited here while another file is being read.

@@ -166,14 +166,17 @@ void MaterialsPane::show()
 
 /// In another thread, where large files take their time; nothing is edited in the dock meanwhile. What was
 /// read waits until no dialog is open that is about the file before.
-void MaterialsPane::load(const QString &path, const std::function<void()> &then)
+void MaterialsPane::load(const QString &path, Asked asked, const std::function<void()> &then)
 {
     const auto read = [path](const Background::Cancelled &) { return MaterialDocument::read(path); };
     cancelLoad();
     m_isEdited = false;
-    m_reading.start(read, [this, path, then](MaterialDocument::Read result) {
+    m_awaited = path;
+    m_reading.start(read, [this, path, asked, then](MaterialDocument::Read result) {
         const auto arrived = std::make_shared<MaterialDocument::Read>(std::move(result));
-        const auto takeIt = [this, path, arrived, then] { take(path, std::move(*arrived), then); };
+        const auto takeIt = [this, path, arrived, asked, then] {
+            take(path, std::move(*arrived), asked, then);
+        };
         if (std::exchange(m_isWaitedFor, false))
             takeIt();
         else
@@ -192,11 +195,12 @@ void MaterialsPane::cancelLoad()
     m_dock.setBusy(false);
 }
 
-void MaterialsPane::take(const QString &path, MaterialDocument::Read read, const std::function<void()> &then)
+void MaterialsPane::take(const QString &path, MaterialDocument::Read read, Asked asked,
+                         const std::function<void()> &then)
 {
     m_dock.setBusy(false);
     if (!read.reason.isEmpty())
-        return tellUnread(path, read.reason);
+        return tellUnread(path, read.reason, asked);
     // Another may be wanted while that is asked.
     if (m_isEdited && (!mayLeave() || isLoading()))
         return;
@@ -204,9 +208,11 @@ void MaterialsPane::take(const QString &path, MaterialDocument::Read read, const
     then();
 }
 
-void MaterialsPane::tellUnread(const QString &path, const QString &reason)
+void MaterialsPane::tellUnread(const QString &path, const QString &reason, Asked asked)
 {
     Log::error(tr("[Materials] '%1': %2").arg(QDir::toNativeSeparators(path), reason));
+    if (asked == Asked::BySession)
+        return;
     QMessageBox box(QMessageBox::Warning, tr("File error"),
                     tr("Failed to open\n%1").arg(QDir::toNativeSeparators(path)), QMessageBox::Ok, m_window);
     box.setInformativeText(reason);
@@ -222,8 +228,14 @@ void MaterialsPane::open(const QString &path, const QString &material)
         cancelLoad();
         show();
     } else if (mayLeave()) {
-        load(path, show);
+        load(path, Asked::ByUser, show);
     }
+}
+
+void MaterialsPane::restore(const QString &path, const QString &material)
+{
+    if (!m_document.isOpen() && !isLoading())
+        load(path, Asked::BySession, [this, material] { m_dock.selectMaterial(material); });
 }
 
 void MaterialsPane::openChosen()
@@ -245,7 +257,7 @@ void MaterialsPane::reload()
                                   QMessageBox::Yes | QMessageBox::No, QMessageBox::No) != QMessageBox::Yes)
             return;
     }
-    load(m_document.path(), [] {});
+    load(m_document.path(), Asked::ByUser, [] {});
 }
 
 void MaterialsPane::addMaterial()

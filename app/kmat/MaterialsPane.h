@@ -45,6 +45,13 @@ public:
     void update();
     /// The file as work to be kept.
     UnsavedWork &work();
+    const MaterialsDock &dock() const { return m_dock; }
+
+    /// Opens what an earlier session had open, unless something is open already. The dock stays as it is,
+    /// hidden or not; a failure is told in the log.
+    void restore(const QString &path, const QString &material);
+    /// The file that is being read; empty when there is none.
+    QString awaitedPath() const { return isLoading() ? m_awaited : QString(); }
 
 public slots:
     /// Shows a file, and of it a material, if one is named.
@@ -70,13 +77,16 @@ protected:
 private:
     void follow(const QWidget *focused);
     void setActive(bool active);
-    void load(const QString &path, const std::function<void()> &then);
+    /// Who asked for it is told in a box, too, when it cannot be read.
+    enum class Asked { ByUser, BySession };
+    void load(const QString &path, Asked asked, const std::function<void()> &then);
     /// Gives up what is being read.
     void cancelLoad();
     bool isLoading() const { return m_reading.isRunning() || m_free.isWaited(); }
     /// Goes on with what was read, unless the user keeps what was done meanwhile.
-    void take(const QString &path, MaterialDocument::Read read, const std::function<void()> &then);
-    void tellUnread(const QString &path, const QString &reason);
+    void take(const QString &path, MaterialDocument::Read read, Asked asked,
+              const std::function<void()> &then);
+    void tellUnread(const QString &path, const QString &reason, Asked asked);
     /// Asks about what is unsaved. Returns true when another file may take its place.
     [[nodiscard]] bool mayLeave();
     void show();
@@ -95,6 +105,7 @@ private:
     MaterialWork *m_work;
     Background m_reading;
     FreeWindow m_free;
+    QString m_awaited;          ///< being read, or read last
     bool m_isWaitedFor = false; ///< nothing was done since the reading began
     bool m_isEdited = false;    ///< the document was, since the reading began
     bool m_isActive = false;

@@ -119,8 +119,8 @@ MainWindow::MainWindow(QWidget *parent)
     updateCurrentDocument();
     QTimer::singleShot(50, m_preferences, &Preferences::OnStartSetupPaths);
     createPrompts();
-    m_session =
-        new Session(*m_files, m_panes->all(), {m_ui->tabWidget, m_ui->tabTrees}, *m_ui->animTrackFrame, this);
+    m_session = new Session(*m_files, m_panes->all(), {m_ui->tabWidget, m_ui->tabTrees},
+                            *m_ui->animTrackFrame, *m_materials, this);
     connect(m_named, &NamedFiles::materialsNamed, m_materials,
             [this](const QString &path) { m_materials->open(path); });
     // The graphics driver is waited for.

@@ -8,6 +8,9 @@
 #include "KVOpenGLWidget.h"
 #include "KVTreeView.h"
 #include "Log.h"
+#include "MaterialDocument.h"
+#include "MaterialsDock.h"
+#include "MaterialsPane.h"
 #include "Playback.h"
 #include "RecordTable.h"
 #include "Settings.h"
@@ -25,6 +28,8 @@ const QString PathKey = QStringLiteral("path");
 const QString SizeKey = QStringLiteral("size");
 const QString ModifiedKey = QStringLiteral("modified");
 const QString RecordKey = QStringLiteral("record");
+const QString MaterialsKey = QStringLiteral("kmat");
+const QString MaterialKey = QStringLiteral("material");
 
 QVariantList numbers(const RecordRef &record)
 {
@@ -65,15 +70,28 @@ bool isStaticMesh(const DocumentPane &pane)
 {
     return pane.document->kind().type == DocumentType::StaticMesh;
 }
+
+/// Of an archive that is yet to be read, the load will tell.
+bool isThere(const QString &path)
+{
+    return Files::isUnread(path) || FileStamp::of(path).exists();
+}
+
+void tellGone(const QString &path)
+{
+    Log::warning(Session::tr("[Session] '%1' is not there any more").arg(QDir::toNativeSeparators(path)));
+}
 } // namespace
 
 Session::Session(DocumentFiles &files, const std::array<DocumentPane, 3> &panes,
-                 const std::array<QTabWidget *, 2> &tabs, AnimTrackFrame &track, QWidget *window)
+                 const std::array<QTabWidget *, 2> &tabs, AnimTrackFrame &track, MaterialsPane &materials,
+                 QWidget *window)
     : QObject(window)
     , m_files(files)
     , m_panes(panes)
     , m_tabs(tabs)
     , m_track(track)
+    , m_materials(materials)
     , m_window(window)
 {
     m_timer.setSingleShot(true);
@@ -87,6 +105,10 @@ Session::Session(DocumentFiles &files, const std::array<DocumentPane, 3> &panes,
     }
     for (const QTabWidget *each : m_tabs)
         connect(each, &QTabWidget::currentChanged, this, &Session::noteChange);
+    const MaterialDocument &material = m_materials.dock().document();
+    connect(&material, &MaterialDocument::replaced, this, &Session::noteChange);
+    // At once: the window asks about it when it closes, which is later than it tells this.
+    connect(&material, &MaterialDocument::saved, this, [this] { storeAs(stateWithAwaited()); });
     connect(&m_track, &AnimTrackFrame::playbackChanged, this, &Session::noteChange);
     window->installEventFilter(this);
 }
@@ -111,6 +133,10 @@ QVariantMap Session::state() const
                                  {ModifiedKey, document.fileStamp().modified},
                                  {RecordKey, numbers(pane.tree->currentRecord())}});
     }
+    const MaterialsDock &dock = m_materials.dock();
+    if (dock.document().stamp().exists())
+        state.insert(MaterialsKey,
+                     QVariantMap{{PathKey, dock.document().path()}, {MaterialKey, dock.currentMaterial()}});
     for (const QTabWidget *tabs : m_tabs)
         state.insert(tabs->objectName(), tabs->currentWidget()->objectName());
     state.insert(BlockKey, playback().blockIndex);
@@ -132,6 +158,9 @@ QVariantMap Session::stateWithAwaited() const
         if (pane.document->kind().type == DocumentType::Anim)
             all.insert(BlockKey, was.value(BlockKey));
     }
+    const QString awaited = m_materials.awaitedPath();
+    if (!awaited.isEmpty() && awaited == m_awaitedMaterials.value(PathKey).toString())
+        all.insert(MaterialsKey, m_awaitedMaterials);
     return all;
 }
 
@@ -160,6 +189,8 @@ void Session::restore(const QStringList &paths)
     const auto leftAlone = [&paths](const DocumentPane &pane) {
         return std::any_of(paths.begin(), paths.end(), [&pane](const QString &path) {
             const DocumentKind *kind = documentKindOfFile(path);
+            if (!kind && isMaterialFile(path))
+                return false;
             // What is going to be imported asks for its tab.
             return !kind || (kind->type == DocumentType::StaticMesh) == isStaticMesh(pane);
         });
@@ -169,6 +200,8 @@ void Session::restore(const QStringList &paths)
             continue;
         open(pane, state);
     }
+    if (std::none_of(paths.begin(), paths.end(), isMaterialFile))
+        openMaterials(state);
     for (QTabWidget *tabs : m_tabs) {
         const QString name = state.value(tabs->objectName()).toString();
         for (int i = 0; i < tabs->count(); ++i) {
@@ -185,9 +218,8 @@ void Session::open(const DocumentPane &pane, const QVariantMap &state)
     if (path.isEmpty())
         return placeView(pane, state);
     const QString nativePath = QDir::toNativeSeparators(path);
-    // Of an archive that is yet to be read, the load will tell.
-    if (!Files::isUnread(path) && !FileStamp::of(path).exists()) {
-        Log::warning(tr("[Session] '%1' is not there any more").arg(nativePath));
+    if (!isThere(path)) {
+        tellGone(path);
         return placeView(pane, state);
     }
     const auto then = [=](DocumentLoader::Outcome outcome, const QString &reason) {
@@ -207,6 +239,18 @@ void Session::open(const DocumentPane &pane, const QVariantMap &state)
     // Not before the window closes does it count again: it may bring the program down yet.
     m_awaited[size_t(pane.document->kind().type)] = state;
     m_files.loader(pane.document->kind().type).load(path, then);
+}
+
+void Session::openMaterials(const QVariantMap &state)
+{
+    const QVariantMap file = state.value(MaterialsKey).toMap();
+    const QString path = file.value(PathKey).toString();
+    if (path.isEmpty())
+        return;
+    if (!isThere(path))
+        return tellGone(path);
+    m_awaitedMaterials = file;
+    m_materials.restore(path, file.value(MaterialKey).toString());
 }
 
 void Session::placeView(const DocumentPane &pane, const QVariantMap &state) const

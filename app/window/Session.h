@@ -12,10 +12,12 @@
 
 class AnimTrackFrame;
 class DocumentFiles;
+class MaterialsPane;
 class QTabWidget;
 
 /// Remembers what is open and how it is looked at: the files, the current tabs, the current record of each
-/// tree, the cameras, the animation that plays. Brings it back at the next start, where the user wants that.
+/// tree, the material of the file of materials, the cameras, the animation that plays. Brings it back at the
+/// next start, where the user wants that.
 ///
 /// It is stored some seconds after a change and when the window closes, so that a crash loses little of it.
 class Session : public QObject
@@ -28,7 +30,8 @@ public:
 
     /// `tabs` are told apart by their pages' object names. Everything outlives the session.
     Session(DocumentFiles &files, const std::array<DocumentPane, 3> &panes,
-            const std::array<QTabWidget *, 2> &tabs, AnimTrackFrame &track, QWidget *window);
+            const std::array<QTabWidget *, 2> &tabs, AnimTrackFrame &track, MaterialsPane &materials,
+            QWidget *window);
 
     /// Opens what was stored last, unless the user does not want it. Documents that are open stay, and so
     /// does what `paths`, files that are opened next, are going to fill: the session leaves the whole tab of
@@ -48,6 +51,7 @@ private:
     QVariantMap stateWithAwaited() const;
     void storeAs(const QVariantMap &now);
     void open(const DocumentPane &pane, const QVariantMap &state);
+    void openMaterials(const QVariantMap &state);
     void placeView(const DocumentPane &pane, const QVariantMap &state) const;
     /// Returns true when the pane shows the file as it was.
     bool showRecord(const DocumentPane &pane, const QVariantMap &file) const;
@@ -56,8 +60,10 @@ private:
     const std::array<DocumentPane, 3> m_panes;
     const std::array<QTabWidget *, 2> m_tabs;
     AnimTrackFrame &m_track;
+    MaterialsPane &m_materials;
     QWidget *m_window;
     QTimer m_timer;
     QVariantMap m_stored;
     std::array<QVariantMap, 3> m_awaited; ///< the map that each document's file was last opened of
+    QVariantMap m_awaitedMaterials;       ///< what was stored of the file of materials that was opened last
 };

@@ -5,6 +5,7 @@
 #include "DocumentFiles.h"
 #include "Hand.h"
 #include "KVOpenGLWidget.h"
+#include "MaterialsDock.h"
 #include "Playback.h"
 #include "SampleModels.h"
 
@@ -24,6 +25,7 @@ private slots:
         m_mesh = m_files->save("man.skinnedmesh", triangleMan());
         m_anim = m_files->save("man.anim", twoBlocks());
         m_rigid = m_files->save("box.staticmesh", SampleModels::plainStatic());
+        m_materials = m_files->put("m.kmat", "material a {\n}\nmaterial b {\n}\n");
     }
 
     void theNextStartGoesOn()
@@ -134,6 +136,70 @@ private slots:
         QVERIFY2(lines[2].contains(QDir::toNativeSeparators(m_rigid)), qPrintable(lines[2]));
     }
 
+    void theMaterialFileComesBack()
+    {
+        const auto dock = [](const QWidget &window) { return find<MaterialsDock>(window, "dockMaterials"); };
+        const auto leave = [&](Started &window) {
+            QTest::keyClick(find<QTreeWidget>(window, "listMaterials"), Qt::Key_Down);
+            QCOMPARE(dock(window)->currentMaterial(), QStringLiteral("b"));
+            dock(window)->hide();
+            window.close();
+        };
+        {
+            Started window({m_mesh, m_materials});
+            QTRY_VERIFY(dock(window)->document().isOpen());
+            leave(window);
+        }
+        {
+            Started window;
+            QTRY_COMPARE(dock(window)->document().path(), m_materials);
+            QCOMPARE(dock(window)->currentMaterial(), QStringLiteral("b"));
+            QVERIFY(!dock(window)->isVisible());
+            QCOMPARE(window.windowTitle(), QStringLiteral("Korvane - man.skinnedmesh"));
+            QCOMPARE(consoleOf(window), QStringList());
+            window.close();
+        }
+        {
+            // One of the command line takes its place, and leaves the models alone.
+            const QString other = m_files->put("other.kmat", "material a {\n}\nmaterial b {\n}\n");
+            Started window({other});
+            QTRY_COMPARE(dock(window)->document().path(), other);
+            QCOMPARE(rootOf(window, "treeSkinnedMesh"), QStringLiteral("man.skinnedmesh"));
+            leave(window);
+            QVERIFY(QFile::remove(other));
+        }
+        const Hand hand({});
+        Started window;
+        QCOMPARE(
+            consoleOf(window),
+            QStringList(QStringLiteral("[Session] '%1' is not there any more")
+                            .arg(QDir::toNativeSeparators(m_files->path(QStringLiteral("other.kmat"))))));
+        QVERIFY(!dock(window)->document().isOpen());
+        QCOMPARE(hand.seen, QStringList());
+    }
+
+    // What is asked when the window closes is asked after the session was stored.
+    void aMaterialFileThatIsSavedElsewhereAtTheEnd()
+    {
+        Settings::GamePath.setValue(m_files->path("game"));
+        Settings::OutputDir.setValue(m_files->path("mod"));
+        QVERIFY(QDir(m_files->path()).mkpath(QStringLiteral("mod")));
+        const QString game = m_files->put("game/materials/m.kmat", "material a {\n}\n");
+        {
+            Started window({game});
+            auto *dock = find<MaterialsDock>(window, "dockMaterials");
+            QTRY_VERIFY(dock->document().isOpen());
+            QCOMPARE(dock->document().rename(0, QStringLiteral("c")), QString());
+            Hand hand({Hand::press(QMessageBox::Yes), Hand::clickOn("Save into the Mod")});
+            window.close();
+            QTRY_COMPARE(hand.seen.size(), 2);
+        }
+        Started window;
+        const auto &document = find<MaterialsDock>(window, "dockMaterials")->document();
+        QTRY_COMPARE(document.path(), m_files->path("mod/materials/m.kmat"));
+        QCOMPARE(document.text().materials().front().name, QStringLiteral("c"));
+    }
+
     void filesOfTheCommandLineWin()
     {
         Started({m_mesh, m_anim, m_rigid}).close();
@@ -204,7 +270,7 @@ private slots:
         // What stands there instead of what was stored, whole or within a file's map.
         const auto check = [this](const char *name, const QVariantMap &damage) {
             init();
-            Started({m_mesh, m_anim, m_rigid}).close();
+            Started({m_mesh, m_anim, m_rigid, m_materials}).close();
             QVariantMap state = Settings::Session.value();
             for (auto it = damage.constBegin(); it != damage.constEnd(); ++it) {
                 QVERIFY2(state.contains(it.key()), qPrintable(it.key()));
@@ -250,7 +316,8 @@ private slots:
                                   {"block", least},
                                   {"anim", record({int(RecordKind::AnimBlock), least, least, least})}});
         for (const char *path : {"/", "/dev/zero"})
-            check(path, {{"anim", QVariantMap{{"path", path}}}});
+            check(path, {{"anim", QVariantMap{{"path", path}}},
+                         {"kmat", QVariantMap{{"path", path}, {"material", QVariantList{1}}}}});
         // None, an unknown one, and one of another tree.
         check("odd kinds", {{"skinnedmesh", record({0, 0, 0, 0})},
                             {"anim", record({999, 0, 0, 0})},
@@ -271,6 +338,7 @@ private:
     QString m_mesh;
     QString m_anim;
     QString m_rigid;
+    QString m_materials;
 };
 
 QTEST_MAIN(tst_Session)

@@ -12538,6 +12538,10 @@ Nichts wurde geändert. %2</translation>
         <source>Files name materials and textures: select one of these</source>
         <translation>Dateien nennen Materialien und Texturen: Wählen Sie eine davon</translation>
     </message>
+    <message>
+        <source>Select a material of a file in the folder of game or mod</source>
+        <translation>Wählen Sie ein Material einer Datei im Ordner von Spiel oder Mod aus</translation>
+    </message>
 </context>
 <context>
     <name>WholeFile</name>

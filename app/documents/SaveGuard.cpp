@@ -46,10 +46,13 @@ QString realFolder(const SettingKey<QString> &key)
     const QString folder = key.value();
     return folder.isEmpty() ? QString() : QFileInfo(folder).canonicalFilePath();
 }
+} // namespace
 
-/// Where a file stands in the game folder, or in any archive; empty when it stands elsewhere. A mod folder in
-/// the game's is the mod's.
-QString placeInGame(const QString &path)
+SaveGuard::SaveGuard(QWidget *window)
+    : m_window(window)
+{}
+
+QString SaveGuard::placeInGame(const QString &path)
 {
     if (path.isEmpty())
         return {}; // never saved
@@ -61,16 +64,6 @@ QString placeInGame(const QString &path)
     const QString mod = realFolder(Settings::OutputDir);
     const bool isMods = mod.size() >= game.size() && !below(mod, file).isEmpty();
     return isMods ? QString() : below(game, file);
-}
-} // namespace
-
-SaveGuard::SaveGuard(QWidget *window)
-    : m_window(window)
-{}
-
-bool SaveGuard::isInGame(const QString &path)
-{
-    return !placeInGame(path).isEmpty();
 }
 
 QString SaveGuard::placeInMod(const QString &path)

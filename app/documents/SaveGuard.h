@@ -40,7 +40,10 @@ public:
     /// Where in the mod folder a file of the game folder or of an archive belongs, links followed; empty for
     /// any other file, and without a mod folder.
     static QString modPath(const QString &path);
-    static bool isInGame(const QString &path);
+    static bool isInGame(const QString &path) { return !placeInGame(path).isEmpty(); }
+    /// Where a file stands in the game folder, or in any archive; empty when it stands elsewhere. A mod
+    /// folder in the game's is the mod's.
+    static QString placeInGame(const QString &path);
     /// Where in the mod folder a file stands, by its name or where links lead; empty when it stands
     /// elsewhere.
     static QString placeInMod(const QString &path);

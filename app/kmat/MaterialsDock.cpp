@@ -296,6 +296,12 @@ QString MaterialsDock::currentMaterial() const
     return item ? item->text(MaterialColumn) : QString();
 }
 
+void MaterialsDock::addUses(QAction *uses)
+{
+    m_list->addAction(uses);
+    m_field->addUses(uses);
+}
+
 void MaterialsDock::selectMaterial(const QString &name)
 {
     for (int i = m_list->topLevelItemCount() - 1; i >= 0; --i) {

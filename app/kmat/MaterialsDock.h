@@ -41,6 +41,9 @@ public:
     void selectMaterial(const QString &name);
     /// The name of the material that is current; empty where there is none.
     QString currentMaterial() const;
+    TextField *textureField() const { return m_field; }
+    /// Adds what asks who names the current material, or the texture, to the list and to the field.
+    void addUses(QAction *uses);
     /// Stores what is typed. Returns true when it cannot be, and has the keys then.
     [[nodiscard]] bool returnToTyping();
     /// Nothing is edited here while another file is being read.

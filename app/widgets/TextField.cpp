@@ -2,9 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "TextField.h"
 
+#include "Icons.h"
+#include "Shortcuts.h"
+
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QToolButton>
 
 TextField::TextField(QWidget *parent)
     : QLineEdit(parent)
@@ -12,6 +16,30 @@ TextField::TextField(QWidget *parent)
 {
     connect(this, &QLineEdit::textEdited, this, &TextField::updateRefusal);
     connect(this, &QLineEdit::editingFinished, this, &TextField::commitText);
+}
+
+void TextField::addUses(QAction *uses)
+{
+    auto *action = new QAction(namedIcon(QStringLiteral("sync")), plainText(uses), this);
+    addAction(action, TrailingPosition);
+    auto *button = qobject_cast<QToolButton *>(action->associatedWidgets().constLast());
+    button->setObjectName(QStringLiteral("btnUses") + objectName().mid(3)); // behind "txt"
+    button->setAccessibleName(plainText(uses));
+    connect(action, &QAction::triggered, this, [this, uses] {
+        setFocus(Qt::OtherFocusReason);
+        uses->trigger();
+    });
+    const auto follow = [action](const QString &text) { action->setEnabled(!text.isEmpty()); };
+    connect(this, &QLineEdit::textChanged, action, follow);
+    follow(text());
+    // Shown with its keys, but without having them: they would be ambiguous.
+    const auto showKeys = [action, uses] {
+        const QString keys = keysText(uses->shortcuts());
+        action->setText(keys.isEmpty() ? uses->text() : uses->text() + QLatin1Char('\t') + keys);
+        action->setToolTip(withKeys(plainText(uses), uses));
+    };
+    connect(uses, &QAction::changed, action, showKeys);
+    showKeys();
 }
 
 void TextField::setValue(const QString &value)

@@ -19,6 +19,9 @@ public:
     /// `check` gives why a text cannot be stored; nothing when it can.
     void setCheck(std::function<QString(const QString &)> check) { m_check = std::move(check); }
 
+    /// Puts a button into the line for what asks who names the text of the field with the keys.
+    void addUses(QAction *uses);
+
     QString value() const { return m_value; }
     /// Shows a text; emits nothing. What stands there refused is kept while the stored text is the same.
     void setValue(const QString &value);

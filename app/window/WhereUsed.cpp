@@ -14,12 +14,27 @@
 #include "NamedThing.h"
 #include "QuestionMenu.h"
 #include "Questions.h"
+#include "SaveGuard.h"
 #include "StructureActions.h"
 #include "TextField.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
 #include <QMenu>
+
+namespace {
+/// The current material as surfaces name it; empty for one of a file in neither folder.
+QString materialOf(const MaterialsDock &dock)
+{
+    const QString path = dock.document().path();
+    const QString mod = SaveGuard::placeInMod(path);
+    const QString place = mod.isEmpty() ? SaveGuard::placeInGame(path) : mod;
+    const QString name = dock.currentMaterial();
+    if (place.isEmpty() || name.isEmpty())
+        return {};
+    return place.left(place.lastIndexOf(QLatin1Char('.'))) + QLatin1Char('/') + name;
+}
+} // namespace
 
 WhereUsed::WhereUsed(const Ui::MainWindow &ui, DocumentFiles &files, DocumentPanes &panes,
                      SkinnedMeshDocument &skinnedMesh, AnimDocument &anim, StaticMeshDocument &staticMesh,
@@ -57,8 +72,10 @@ WhereUsed::WhereUsed(const Ui::MainWindow &ui, DocumentFiles &files, DocumentPan
         });
     for (MaterialField *each : window->findChildren<MaterialField *>()) {
         Questions::set(each->editor(), {namedKindId(NamedKind::Material)});
-        each->addUses(m_ui.actionWhereUsed);
+        each->editor()->addUses(m_ui.actionWhereUsed);
     }
+    Questions::set(m_ui.dockMaterials->textureField(), {namedKindId(NamedKind::Texture)});
+    m_ui.dockMaterials->addUses(m_ui.actionWhereUsed);
 }
 
 /// What the field with the keys holds is what is asked for, where that names something.
@@ -74,6 +91,7 @@ void WhereUsed::openUsedBy()
         return;
     }
     std::optional<NamedThing> thing;
+    const bool isOfMaterials = editor && m_ui.dockMaterials->isAncestorOf(editor);
     while (editor && Questions::of(editor).isEmpty())
         editor = editor->parentWidget();
     if (const auto kind = editor ? namedKindOf(Questions::of(editor).first()) : std::nullopt) {
@@ -86,6 +104,13 @@ void WhereUsed::openUsedBy()
             thing = NamedThing::ofArgument(*kind, real->value());
         else if (path && !path->text().isEmpty())
             thing = NamedThing{*kind, 0.0, path->text()};
+    } else if (isOfMaterials) {
+        const QString material = materialOf(*m_ui.dockMaterials);
+        if (material.isEmpty()) {
+            m_ui.statusBar->showMessage(tr("Select a material of a file in the folder of game or mod"), 5000);
+            return;
+        }
+        thing = NamedThing{NamedKind::Material, 0.0, material};
     }
     m_ui.dockUsedBy->open(thing ? std::vector<NamedThing>{*thing} : std::vector<NamedThing>());
 }

@@ -4,7 +4,6 @@
 
 #include "ChoicePopup.h"
 #include "Files.h"
-#include "Icons.h"
 #include "IndexTargets.h"
 #include "MaterialCatalog.h"
 #include "NameDrop.h"
@@ -259,29 +258,4 @@ void MaterialField::setAction(const QAction *choose)
     const auto show = [this, choose] { m_button->setToolTip(withKeys(m_button->accessibleName(), choose)); };
     connect(choose, &QAction::changed, this, show);
     show();
-}
-
-void MaterialField::addUses(QAction *uses)
-{
-    // In the line: below it the words need the room.
-    auto *action = new QAction(namedIcon(QStringLiteral("sync")), plainText(uses), m_editor);
-    m_editor->addAction(action, QLineEdit::TrailingPosition);
-    auto *button = qobject_cast<QToolButton *>(action->associatedWidgets().constLast());
-    button->setObjectName(QStringLiteral("btnUses") + m_editor->objectName().mid(3));
-    button->setAccessibleName(plainText(uses));
-    connect(action, &QAction::triggered, this, [this, uses] {
-        m_editor->setFocus(Qt::OtherFocusReason);
-        uses->trigger();
-    });
-    const auto follow = [action](const QString &text) { action->setEnabled(!text.isEmpty()); };
-    connect(m_editor, &QLineEdit::textChanged, action, follow);
-    follow(m_editor->text());
-    // Shown with its keys, but without having them: they would be ambiguous.
-    const auto showKeys = [action, uses] {
-        const QString keys = keysText(uses->shortcuts());
-        action->setText(keys.isEmpty() ? uses->text() : uses->text() + QLatin1Char('\t') + keys);
-        action->setToolTip(withKeys(plainText(uses), uses));
-    };
-    connect(uses, &QAction::changed, action, showKeys);
-    showKeys();
 }

@@ -33,8 +33,6 @@ public:
     /// Another record is shown.
     void leave();
     void setAction(const QAction *choose);
-    /// Puts a button into the line for what asks who names the material of the field with the keys.
-    void addUses(QAction *uses);
 
     TextField *editor() const { return m_editor; }
 

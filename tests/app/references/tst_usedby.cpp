@@ -176,6 +176,29 @@ private slots:
         QTRY_COMPARE(records(), QStringList());
     }
 
+    /// The dock of materials asks about its material, and its field about the texture.
+    void asksFromTheDockOfMaterials()
+    {
+        m_window->openFiles({m_man, m_folder->path("game/materials/skins.kmat")});
+        select(*m_window, "treeSkinnedMesh", {{RecordKind::Bone, {1, 0, 0}}});
+        auto *materials = find<QTreeWidget>("listMaterials");
+        QTRY_COMPARE(materials->topLevelItemCount(), 1);
+        press("listMaterials", "Ctrl+Shift+U");
+        QCOMPARE(things()->currentText(), QString("Material materials/skins/a"));
+        QTRY_COMPARE(records().size(), 3);
+        find<QDockWidget>("dockMaterials")->raise();
+        QTest::mouseClick(find<QToolButton>("btnUsesMaterialTexture"), Qt::LeftButton);
+        QCOMPARE(things()->currentText(), QString("Texture textures/a.png"));
+        QTRY_COMPARE(records().size(), 4);
+        QVERIFY(list()->hasFocus());
+        // Of a file elsewhere there is nothing that a surface could name.
+        m_window->openFiles({m_folder->put("elsewhere.kmat", "material b {\n}\n")});
+        QTRY_COMPARE(materials->topLevelItem(0)->text(0), QString("b"));
+        press("listMaterials", "Ctrl+Shift+U");
+        QVERIFY(m_window->statusBar()->currentMessage().contains("Select a material"));
+        QCOMPARE(things()->currentText(), QString("Texture textures/a.png"));
+    }
+
     /// The list is of files as they are saved, by this program or another.
     void followsWhatIsSaved()
     {

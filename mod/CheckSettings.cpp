@@ -31,6 +31,32 @@ bool isThere(const JsonEdit::Span &span)
 {
     return span.end > span.begin;
 }
+
+/// The text with these entries more in its list, or with a list of them where it has none, or with the whole
+/// of `check`. Empty where the text is damaged.
+QByteArray withEntries(const QByteArray &text, const QByteArray &check, const QByteArray &list,
+                       const QByteArrayList &entries)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(text);
+    const QJsonValue oldCheck = document.object().value(QLatin1String("check"));
+    const QJsonValue oldList = oldCheck.toObject().value(QLatin1String("silence"));
+    // What is there and is something else is not replaced.
+    if (!document.isObject() || !(oldCheck.isObject() || oldCheck.isUndefined()) ||
+        !(oldList.isArray() || oldList.isUndefined()))
+        return {};
+    QByteArray edited = text;
+    const JsonEdit::Span root = JsonEdit::root(edited);
+    const JsonEdit::Span checkSpan = JsonEdit::member(edited, root, "check");
+    const JsonEdit::Span listSpan =
+        isThere(checkSpan) ? JsonEdit::member(edited, checkSpan, "silence") : JsonEdit::Span();
+    if (!isThere(checkSpan))
+        JsonEdit::append(edited, root, {check});
+    else if (!isThere(listSpan))
+        JsonEdit::append(edited, checkSpan, {list});
+    else
+        JsonEdit::append(edited, listSpan, entries);
+    return edited;
+}
 } // namespace
 
 const QString CheckSettings::FileName = QStringLiteral(".korvane.json");
@@ -155,41 +181,24 @@ const CheckSettings::Silence *CheckSettings::silenceOf(QLatin1String rule, const
     return found == m_silences.end() ? nullptr : &*found;
 }
 
-QByteArray CheckSettings::withSilence(const QByteArray &text, const QString &rule, const QString &files)
+QByteArray CheckSettings::withSilences(const QByteArray &text, const std::vector<RuleOfFiles> &added)
 {
-    QByteArray entry = "{\"rule\": " + jsonString(rule);
-    if (!files.isEmpty())
-        entry += ", \"files\": " + jsonString(files);
-    entry += '}';
-    const QByteArray list = "\"silence\": [\n      " + entry + "\n    ]";
+    QByteArrayList entries;
+    for (const auto &[rule, files] : added) {
+        const QByteArray where = files.isEmpty() ? QByteArray() : ", \"files\": " + jsonString(files);
+        entries += "{\"rule\": " + jsonString(rule) + where + '}';
+    }
+    const QByteArray list = "\"silence\": [\n      " + entries.join(",\n      ") + "\n    ]";
     const QByteArray check = "\"check\": {\n    " + list + "\n  }";
-    if (text.trimmed().isEmpty())
-        return "{\n  " + check + "\n}\n";
-    const QJsonDocument document = QJsonDocument::fromJson(text);
-    const QJsonValue oldCheck = document.object().value(QLatin1String("check"));
-    const QJsonValue oldList = oldCheck.toObject().value(QLatin1String("silence"));
-    // What is there and is something else is not replaced.
-    if (!document.isObject() || !(oldCheck.isObject() || oldCheck.isUndefined()) ||
-        !(oldList.isArray() || oldList.isUndefined()))
-        return {};
-    QByteArray edited = text;
-    const JsonEdit::Span root = JsonEdit::root(edited);
-    const JsonEdit::Span checkSpan = JsonEdit::member(edited, root, "check");
-    const JsonEdit::Span listSpan =
-        isThere(checkSpan) ? JsonEdit::member(edited, checkSpan, "silence") : JsonEdit::Span();
-    if (!isThere(checkSpan))
-        JsonEdit::append(edited, root, check);
-    else if (!isThere(listSpan))
-        JsonEdit::append(edited, checkSpan, list);
-    else
-        JsonEdit::append(edited, listSpan, entry);
+    const QByteArray edited =
+        text.trimmed().isEmpty() ? "{\n  " + check + "\n}\n" : withEntries(text, check, list, entries);
     // A key may be spelled so that readers and this do not agree on it, with a byte order mark in it: then
     // nothing is written.
-    const bool isOneMore = read(edited).silences().size() == read(text).silences().size() + 1;
-    return isOneMore ? edited : QByteArray();
+    const bool areMore = read(edited).silences().size() == read(text).silences().size() + added.size();
+    return areMore ? edited : QByteArray();
 }
 
-QByteArray CheckSettings::withoutSilence(const QByteArray &text, int place)
+QByteArray CheckSettings::withoutSilences(const QByteArray &text, const std::set<int> &places)
 {
     if (!QJsonDocument::fromJson(text).isObject())
         return {};
@@ -198,6 +207,6 @@ QByteArray CheckSettings::withoutSilence(const QByteArray &text, int place)
     const JsonEdit::Span list =
         isThere(check) ? JsonEdit::member(edited, check, "silence") : JsonEdit::Span();
     if (isThere(list))
-        JsonEdit::removeChild(edited, list, place);
+        JsonEdit::removeChildren(edited, list, places);
     return edited;
 }

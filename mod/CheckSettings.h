@@ -7,6 +7,9 @@
 
 #include <QCoreApplication>
 
+#include <set>
+#include <utility>
+
 class QJsonObject;
 
 /// What a mod wants to be checked for, as the file of that name in its folder says:
@@ -46,11 +49,13 @@ public:
     /// What is wrong with the file.
     const std::vector<FileFinding> &findings() const { return m_findings; }
 
-    /// The text of the file with one rule more silenced, for the files of a pattern or for all. The rest
-    /// stays as it is written. Empty where the text is damaged.
-    static QByteArray withSilence(const QByteArray &text, const QString &rule, const QString &files);
-    /// The text without the entry of that number in the list.
-    static QByteArray withoutSilence(const QByteArray &text, int place);
+    /// A rule, and a pattern of files; of an empty one all are meant.
+    using RuleOfFiles = std::pair<QString, QString>;
+    /// The text of the file with more rules silenced. The rest stays as it is written. Empty where the text
+    /// is damaged, or has no room for so many.
+    static QByteArray withSilences(const QByteArray &text, const std::vector<RuleOfFiles> &added);
+    /// The text without the entries of these numbers in the list. Empty where the text is damaged.
+    static QByteArray withoutSilences(const QByteArray &text, const std::set<int> &places);
 
 private:
     void readCheck(const QJsonObject &check);

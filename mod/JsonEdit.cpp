@@ -104,11 +104,11 @@ JsonEdit::Span JsonEdit::member(const QByteArray &text, const Span &object, cons
     return found;
 }
 
-void JsonEdit::append(QByteArray &text, const Span &container, const QByteArray &child)
+void JsonEdit::append(QByteArray &text, const Span &container, const QByteArrayList &added)
 {
     const std::vector<Span> present = children(text, container);
     if (present.empty()) {
-        text.insert(container.begin + 1, child);
+        text.insert(container.begin + 1, added.join(", "));
         return;
     }
     const Span &last = present.back();
@@ -119,20 +119,26 @@ void JsonEdit::append(QByteArray &text, const Span &container, const QByteArray 
     const bool hasReturn = hasLine && line > 1 && text[line - 2] == '\r';
     const QByteArray gap =
         hasLine ? (hasReturn ? "\r\n" : "\n") + text.mid(line, last.begin - line) : QByteArray(" ");
-    text.insert(last.end, ',' + gap + child);
+    text.insert(last.end, ',' + gap + added.join(',' + gap));
 }
 
-void JsonEdit::removeChild(QByteArray &text, const Span &container, int number)
+void JsonEdit::removeChildren(QByteArray &text, const Span &container, const std::set<int> &numbers)
 {
     const std::vector<Span> present = children(text, container);
-    if (number < 0 || size_t(number) >= present.size())
-        return;
-    const size_t at = size_t(number);
-    int begin = present[at].begin;
-    int end = present[at].end;
-    if (at + 1 < present.size())
-        end = present[at + 1].begin; // up to the next one, which takes its place
-    else if (at > 0)
-        begin = present[at - 1].end;
-    text.remove(begin, end - begin);
+    size_t left = present.size(); // none is left from there on
+    // The last one first: those before it stay where they are.
+    for (auto number = numbers.rbegin(); number != numbers.rend(); ++number) {
+        if (*number < 0 || size_t(*number) >= left)
+            continue;
+        const auto at = size_t(*number);
+        int begin = present[at].begin;
+        int end = present[at].end;
+        if (at + 1 < left) {
+            end = present[at + 1].begin; // up to the next one, which takes its place
+        } else {
+            left = at;
+            begin = at > 0 ? present[at - 1].end : begin;
+        }
+        text.remove(begin, end - begin);
+    }
 }

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayList>
 
+#include <set>
 #include <vector>
 
 /// Edits of a JSON text that leave all else of it as it is written. The text is valid JSON in UTF-8, which
@@ -23,9 +25,8 @@ Span root(const QByteArray &text);
 Span member(const QByteArray &text, const Span &object, const QByteArray &key);
 /// The elements of an array, or the members of an object with their keys.
 std::vector<Span> children(const QByteArray &text, const Span &container);
-/// Puts an element or a member, written as JSON, behind the last one, in a line of its own where that has
-/// one.
-void append(QByteArray &text, const Span &container, const QByteArray &child);
-/// Takes one of the children away, with the comma that parts it from the others.
-void removeChild(QByteArray &text, const Span &container, int number);
+/// Puts elements or members, written as JSON, behind the last one, in lines of their own where that has one.
+void append(QByteArray &text, const Span &container, const QByteArrayList &added);
+/// Takes children away, by their numbers, with the commas that part them from the others.
+void removeChildren(QByteArray &text, const Span &container, const std::set<int> &numbers);
 } // namespace JsonEdit

@@ -5730,6 +5730,14 @@ Er muss OpenGL 3.0 oder neuer bieten.</translation>
         <source>&apos;%1&apos; is not as it has to be. Mend it first.</source>
         <translation>„%1“ ist nicht so, wie es sein muss. Berichtigen Sie die Datei zuerst.</translation>
     </message>
+    <message>
+        <source>The file could not be read whole.</source>
+        <translation>Die Datei konnte nicht ganz gelesen werden.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; can silence %2 rules for files at most. Silence a rule everywhere, or write a pattern of files into it.</source>
+        <translation>„%1“ kann höchstens %2 Regeln für Dateien stummschalten. Schalten Sie eine Regel überall stumm, oder tragen Sie ein Muster von Dateien ein.</translation>
+    </message>
 </context>
 <context>
     <name>ModelComparison</name>

@@ -10,6 +10,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -154,6 +155,11 @@ std::vector<Problem> ModProblems::problems(const QStringList &openFiles) const
     return problems;
 }
 
+QString ModProblems::notAsItHasToBe() const
+{
+    return tr("'%1' is not as it has to be. Mend it first.").arg(QDir::toNativeSeparators(settingsFile()));
+}
+
 QString ModProblems::settingsFile() const
 {
     return QDir(m_folder).filePath(CheckSettings::FileName);
@@ -169,8 +175,11 @@ QString ModProblems::readSettings(QByteArray &text) const
         return {};
     if (!file.open(QIODevice::ReadOnly))
         return file.errorString();
+    const qint64 size = file.size();
     text = file.readAll();
-    return {};
+    // What is missing would be missing in the file, too, once that is written.
+    const bool isWhole = text.size() == size && file.error() == QFileDevice::NoError;
+    return isWhole ? QString() : tr("The file could not be read whole.");
 }
 
 QString ModProblems::writeSettings(const QByteArray &text)
@@ -194,19 +203,24 @@ QString ModProblems::silence(const QVector<Silence> &silences)
     const QString failure = readSettings(text);
     if (!failure.isEmpty())
         return failure;
+    const CheckSettings settings = CheckSettings::read(text);
+    QSet<CheckSettings::RuleOfFiles> known;
+    for (const CheckSettings::Silence &each : settings.silences())
+        known.insert({each.rule, each.files});
+    std::vector<CheckSettings::RuleOfFiles> added;
     for (const Silence &each : silences) {
-        const std::vector<CheckSettings::Silence> known = CheckSettings::read(text).silences();
-        const bool isKnown = std::any_of(known.begin(), known.end(), [&each](const auto &silence) {
-            return silence.rule == each.rule && silence.files == each.name;
-        });
-        if (isKnown)
-            continue;
-        text = CheckSettings::withSilence(text, each.rule, each.name);
-        if (text.isEmpty())
-            return tr("'%1' is not as it has to be. Mend it first.")
-                .arg(QDir::toNativeSeparators(settingsFile()));
+        if (!known.contains({each.rule, each.name}))
+            added.emplace_back(each.rule, each.name);
+        known.insert({each.rule, each.name});
     }
-    return writeSettings(text);
+    const QString path = QDir::toNativeSeparators(settingsFile());
+    if (settings.silences().size() + added.size() > size_t(CheckSettings::MostSilences))
+        return tr("'%1' can silence %2 rules for files at most. Silence a rule everywhere, or write a "
+                  "pattern of files into it.")
+            .arg(path, QString::number(CheckSettings::MostSilences));
+    if (!added.empty())
+        text = CheckSettings::withSilences(text, added);
+    return text.isEmpty() ? notAsItHasToBe() : writeSettings(text);
 }
 
 QString ModProblems::hear(const QVector<Silence> &silences)
@@ -215,18 +229,20 @@ QString ModProblems::hear(const QVector<Silence> &silences)
     const QString failure = readSettings(text);
     if (!failure.isEmpty())
         return failure;
-    for (const Silence &each : silences) {
-        for (;;) {
-            const CheckSettings settings = CheckSettings::read(text);
-            const auto *silence = settings.silenceOf(QLatin1String(each.rule.toLatin1()), each.name);
-            if (!silence)
-                break;
-            const QByteArray without = CheckSettings::withoutSilence(text, silence->place);
-            if (without.isEmpty() || without == text)
-                return tr("'%1' is not as it has to be. Mend it first.")
-                    .arg(QDir::toNativeSeparators(settingsFile()));
-            text = without;
-        }
+    const CheckSettings settings = CheckSettings::read(text);
+    std::set<int> places;
+    for (const CheckSettings::Silence &silence : settings.silences()) {
+        const bool isMeant = std::any_of(silences.begin(), silences.end(), [&silence](const Silence &each) {
+            return silence.rule == each.rule && silence.pattern.matches(each.name);
+        });
+        if (isMeant)
+            places.insert(silence.place);
     }
-    return writeSettings(text);
+    if (places.empty()) {
+        recheck(); // somebody took it out already
+        return {};
+    }
+    const QByteArray without = CheckSettings::withoutSilences(text, places);
+    const size_t left = settings.silences().size() - places.size();
+    return CheckSettings::read(without).silences().size() == left ? writeSettings(without) : notAsItHasToBe();
 }

@@ -73,6 +73,7 @@ private:
     QString readSettings(QByteArray &text) const;
     QString writeSettings(const QByteArray &text);
     QString settingsFile() const;
+    QString notAsItHasToBe() const;
 
     bool m_isWhole;
     bool m_isGivenUp = false;

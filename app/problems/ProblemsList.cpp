@@ -15,7 +15,7 @@
 #include <QStyledItemDelegate>
 
 #include <algorithm>
-#include <tuple>
+#include <vector>
 
 namespace {
 /// Views measure their rows without minding a column's width.
@@ -129,12 +129,11 @@ QVariant ProblemItem::data(int column, int role) const
     return QTreeWidgetItem::data(column, role);
 }
 
-bool ProblemItem::isAbout(const ProblemItem &other) const
+ProblemItem::Subject ProblemItem::subject() const
 {
-    const Problem &that = other.m_problem;
     // A file may have become a document.
-    return m_problem.rule.order == that.rule.order && m_problem.place == that.place &&
-           m_problem.path == that.path && (!m_problem.path.isEmpty() || m_problem.document == that.document);
+    return {m_problem.rule.order, m_problem.place.kind, m_problem.place.index, m_problem.path,
+            m_problem.path.isEmpty() ? documentOrder(m_problem) : 0};
 }
 
 bool ProblemItem::operator<(const QTreeWidgetItem &other) const
@@ -203,11 +202,15 @@ void ProblemsList::resizeEvent(QResizeEvent *event)
 
 QList<ProblemItem *> ProblemsList::selectedProblems() const
 {
-    QList<ProblemItem *> problems;
-    for (int row = 0; row < topLevelItemCount(); ++row) {
-        if (topLevelItem(row)->isSelected())
-            problems << static_cast<ProblemItem *>(topLevelItem(row));
+    std::vector<int> rows;
+    for (const QItemSelectionRange &range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.push_back(row);
     }
+    std::sort(rows.begin(), rows.end());
+    QList<ProblemItem *> problems;
+    for (const int row : rows)
+        problems << static_cast<ProblemItem *>(topLevelItem(row));
     return problems;
 }
 
@@ -215,16 +218,13 @@ void ProblemsList::setProblems(const QList<QTreeWidgetItem *> &items)
 {
     const int row = indexOfTopLevelItem(currentItem());
     const ProblemItem *old = currentProblem();
-    const QList<ProblemItem *> oldSelected = selectedProblems();
+    std::set<ProblemItem::Subject> selected;
+    for (const ProblemItem *each : selectedProblems())
+        selected.insert(each->subject());
     QTreeWidgetItem *current = nullptr;
-    QList<QTreeWidgetItem *> selected;
     for (QTreeWidgetItem *item : items) {
-        const auto *problem = static_cast<ProblemItem *>(item);
-        if (old && problem->isAbout(*old))
+        if (old && static_cast<ProblemItem *>(item)->subject() == old->subject())
             current = item;
-        if (std::any_of(oldSelected.begin(), oldSelected.end(),
-                        [problem](const ProblemItem *each) { return problem->isAbout(*each); }))
-            selected << item;
     }
     // A row that was taken out of the selection stays out.
     const bool selects = !current || old->isSelected();
@@ -237,8 +237,21 @@ void ProblemsList::setProblems(const QList<QTreeWidgetItem *> &items)
         setCurrentItem(current, 0,
                        selects ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
                                : QItemSelectionModel::NoUpdate);
-    for (QTreeWidgetItem *item : selected)
-        item->setSelected(true);
+    selectAlike(selected);
+}
+
+/// All at once: after each change of the selection it is asked what can be done with it.
+void ProblemsList::selectAlike(const std::set<ProblemItem::Subject> &wanted)
+{
+    QItemSelection selection;
+    for (int row = 0; row < topLevelItemCount() && !wanted.empty(); ++row) {
+        if (wanted.count(static_cast<ProblemItem *>(topLevelItem(row))->subject()) == 0)
+            continue;
+        const bool goesOn = !selection.isEmpty() && selection.last().bottom() == row - 1;
+        const int first = goesOn ? selection.takeLast().top() : row;
+        selection.append({model()->index(first, 0), model()->index(row, ProblemItem::ColumnCount - 1)});
+    }
+    selectionModel()->select(selection, QItemSelectionModel::Select);
 }
 
 void ProblemsList::setEmptyText(const QString &text)

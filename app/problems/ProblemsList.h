@@ -6,6 +6,9 @@
 
 #include <QTreeWidget>
 
+#include <set>
+#include <tuple>
+
 class RecordSelection;
 
 /// One row of the list of problems. There may be thousands, of which some dozens are seen, so it keeps no
@@ -19,7 +22,9 @@ public:
     ProblemItem(const Problem &problem, const QString &file, const RecordSelection *records);
 
     const Problem &problem() const { return m_problem; }
-    bool isAbout(const ProblemItem &other) const;
+    /// What it is about; a row that is made anew is about the same.
+    using Subject = std::tuple<int, RecordKind, RecordIndex, QString, int>;
+    Subject subject() const;
 
     /// By the column that the list is sorted by; what is equal there stays in the order of the checks.
     bool operator<(const QTreeWidgetItem &other) const override;
@@ -60,6 +65,7 @@ protected:
 private:
     /// Gives the sentences what the other columns leave, but never so little that a row grows out of sight.
     void stretchSentences();
+    void selectAlike(const std::set<ProblemItem::Subject> &wanted);
 
     QString m_emptyText;
 };

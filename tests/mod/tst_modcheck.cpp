@@ -207,22 +207,41 @@ private slots:
     {
         QFETCH(QByteArray, before);
         QFETCH(QByteArray, after);
-        const QByteArray edited = CheckSettings::withSilence(before, "same-as-game", "a \"b\".png");
+        const QByteArray edited = CheckSettings::withSilences(before, {{"same-as-game", "a \"b\".png"}});
         QCOMPARE(edited, after);
         if (after.isEmpty())
             return;
         const CheckSettings settings = CheckSettings::read(edited);
         const auto *silence = settings.silenceOf(QLatin1String("same-as-game"), "A \"b\".png");
         QVERIFY(silence);
-        const QByteArray back = CheckSettings::withoutSilence(edited, silence->place);
+        const QByteArray back = CheckSettings::withoutSilences(edited, {silence->place});
         QVERIFY(!CheckSettings::read(back).silenceOf(QLatin1String("same-as-game"), "a \"b\".png"));
         if (before.contains("silence"))
             QCOMPARE(back, before);
         // From the beginning of a list, too.
-        const QByteArray two = CheckSettings::withSilence(edited, "unreadable", {});
-        const CheckSettings last = CheckSettings::read(CheckSettings::withoutSilence(two, silence->place));
+        const QByteArray two = CheckSettings::withSilences(edited, {{"unreadable", {}}});
+        const CheckSettings last = CheckSettings::read(CheckSettings::withoutSilences(two, {silence->place}));
         QVERIFY(last.silenceOf(QLatin1String("unreadable"), "x"));
         QVERIFY(!last.silenceOf(QLatin1String("same-as-game"), "a \"b\".png"));
+        // Several at once, in whatever order.
+        const QByteArray more = CheckSettings::withSilences(
+            before, {{"unreadable", "a"}, {"unreadable", "b"}, {"unreadable", "c"}});
+        const int first = int(CheckSettings::read(more).silences().size()) - 3;
+        const auto without = [&](const std::set<int> &numbers) {
+            std::set<int> places;
+            for (const int number : numbers)
+                places.insert(CheckSettings::read(more).silences()[size_t(first + number)].place);
+            const CheckSettings left = CheckSettings::read(CheckSettings::withoutSilences(more, places));
+            QString names;
+            for (size_t i = size_t(first); i < left.silences().size(); ++i)
+                names += left.silences()[i].files;
+            return names;
+        };
+        QCOMPARE(without({}), QString("abc"));
+        QCOMPARE(without({0, 1}), QString("c"));
+        QCOMPARE(without({0, 2}), QString("b"));
+        QCOMPARE(without({1, 2}), QString("a"));
+        QCOMPARE(without({0, 1, 2}), QString());
     }
 
     void endsWhenItIsTold()

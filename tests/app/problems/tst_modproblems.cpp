@@ -167,6 +167,39 @@ private slots:
         QCOMPARE(settings(), QByteArray("{"));
     }
 
+    /// Thousands stay selected when they are found anew, and many are silenced and heard at once.
+    void takesThousands()
+    {
+        for (int i = 0; i < 1050; ++i)
+            m_folder->put(QStringLiteral("mod/anims/%1.anim").arg(i), "half");
+        press("btnProblemWholeMod");
+        QTRY_COMPARE_WITH_TIMEOUT(list()->topLevelItemCount(), 1053, 60000);
+        click(0);
+        QTest::keySequence(list(), QKeySequence::SelectAll);
+        m_folder->put("mod/anims/more.anim", "half");
+        emit qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+        QTRY_COMPARE_WITH_TIMEOUT(list()->topLevelItemCount(), 1054, 60000);
+        QCOMPARE(list()->selectedItems().size(), 1053);
+        {
+            Hand hand({Hand::press(QMessageBox::Ok)});
+            find<QAction>("actionProblemSilenceFile")->trigger();
+            QTRY_COMPARE(hand.seen.size(), 1);
+            QVERIFY2(hand.seen[0].contains("1000 rules for files at most"), qPrintable(hand.seen[0]));
+            QVERIFY(!QFile::exists(path("mod/.korvane.json")));
+        }
+        click(0);
+        QTest::mouseClick(list()->viewport(), Qt::LeftButton, Qt::ShiftModifier, placeOf(999));
+        QCOMPARE(list()->selectedItems().size(), 1000);
+        find<QAction>("actionProblemSilenceFile")->trigger();
+        QTRY_COMPARE(list()->topLevelItemCount(), 54);
+        press("btnProblemShowSilenced");
+        QTRY_COMPARE(list()->topLevelItemCount(), 1054);
+        QTest::keySequence(list(), QKeySequence::SelectAll);
+        find<QAction>("actionProblemHear")->trigger();
+        QTRY_COMPARE(find<QToolButton>("btnProblemShowSilenced")->text(), QStringLiteral("Silenced: 0"));
+        QVERIFY(!settings().contains("rule"));
+    }
+
 private:
     QString path(const char *name) const { return m_folder->path(name); }
     QByteArray settings() const { return TestSupport::readFile(path("mod/.korvane.json")); }

@@ -51,9 +51,11 @@ bool isPlainFile(const QString &path)
 /// Folders that nobody else looks into, as far as they are not there yet.
 bool makeFolder(const QString &folder)
 {
-    if (QFileInfo(folder).isDir())
+    const QFileInfo info(folder);
+    if (info.isDir())
         return true;
-    return makeFolder(QFileInfo(folder).path()) && QDir().mkdir(folder) &&
+    // A drive that is not there stands in itself.
+    return info.path() != folder && makeFolder(info.path()) && QDir().mkdir(folder) &&
            QFile::setPermissions(folder, OwnerOnly | QFileDevice::ExeOwner);
 }
 } // namespace

@@ -128,7 +128,9 @@ void ThumbnailMaker::wish(std::vector<ThumbnailWish> wishes, int side, const Mat
     m_isNew = m_isNew || std::any_of(wishes.begin(), wishes.end(),
                                      [](const ThumbnailWish &wish) { return wish.known.exists(); });
     std::reverse(wishes.begin(), wishes.end());
-    const auto isMaking = [this](const ThumbnailWish &wish) { return wish.path == m_making; };
+    const auto isMaking = [this](const ThumbnailWish &wish) {
+        return wish.path == m_making.path && wish.round == m_making.round;
+    };
     if (side == m_side)
         wishes.erase(std::remove_if(wishes.begin(), wishes.end(), isMaking), wishes.end());
     m_wishes = std::move(wishes);
@@ -154,7 +156,7 @@ void ThumbnailMaker::work()
                 break;
             wish = std::move(m_wishes.back());
             m_wishes.pop_back();
-            m_making = wish.path;
+            m_making = wish;
             side = m_side;
             const bool areSame = m_folders == folders;
             folders = m_folders;
@@ -166,11 +168,12 @@ void ThumbnailMaker::work()
         const HeldLog held;
         const QString noMemory = withinMemory([&] { made = make(wish, side, folders); });
         if (!noMemory.isEmpty())
-            made = {wish.path, FileStamp::of(wish.path), {}, noMemory, false};
+            made = {wish.path, FileStamp::of(wish.path), {}, noMemory};
+        made.round = wish.round;
         m_take(made);
         {
             const std::lock_guard lock(m_mutex);
-            m_making.clear();
+            m_making = {};
         }
         if (count % KeptBetween == 0)
             m_cache.tidy();
@@ -181,7 +184,7 @@ void ThumbnailMaker::work()
 MadeThumbnail ThumbnailMaker::make(const ThumbnailWish &wish, int side, const MaterialFolders &folders)
 {
     const ThumbnailSubject subject{wish.path, FileStamp::of(wish.path), side};
-    MadeThumbnail made{wish.path, subject.stamp, {}, {}, false};
+    MadeThumbnail made{wish.path, subject.stamp, {}, {}};
     // What a material shows are other files; a model shows those that it names beside itself.
     const ModFileKind kind = modFileKind(wish.path);
     const bool isKept = kind != ModFileKind::Material;

@@ -23,6 +23,7 @@ struct ThumbnailWish
 {
     QString path;
     FileStamp known; ///< as the file was when the picture that is there already was made
+    int round = 0; ///< goes with it: what was made for one says nothing of what came between it and the next
 };
 
 /// What came of that.
@@ -33,6 +34,7 @@ struct MadeThumbnail
     QImage image;        ///< null where there is none
     QString error;       ///< why not
     bool isSame = false; ///< the file is as it is known, and nothing was made
+    int round = 0;       ///< of the wish
 };
 
 /// Makes small pictures of models, animations, materials and textures in a thread of its own, the way that
@@ -75,7 +77,7 @@ private:
     std::mutex m_mutex; ///< for what follows
     std::condition_variable m_wished;
     std::vector<ThumbnailWish> m_wishes; ///< the next one last
-    QString m_making;                    ///< what is being made
+    ThumbnailWish m_making;              ///< what is being made
     int m_side = 0;
     MaterialFolders m_folders;
     bool m_isNew = false; ///< files beside others may be others since they were looked for

@@ -181,7 +181,10 @@ void BrowserDock::createSorting()
     }
     const int order = std::clamp(Settings::BrowserOrder.value(), 0, int(CatalogOrders) - 1);
     m_orders[size_t(order)]->setChecked(true);
-    connect(group, &QActionGroup::triggered, this, &BrowserDock::applyFilter);
+    connect(group, &QActionGroup::triggered, this, [this] {
+        Settings::BrowserOrder.setValue(int(wantedFilter().order));
+        applyFilter();
+    });
     menu->addSeparator();
     QAction *large = menu->addAction(tr("&Large Pictures"));
     large->setCheckable(true);
@@ -212,9 +215,7 @@ FileFilter BrowserDock::wantedFilter() const
 
 void BrowserDock::applyFilter()
 {
-    const FileFilter filter = wantedFilter();
-    Settings::BrowserOrder.setValue(int(filter.order));
-    m_list->setFilter(filter);
+    m_list->setFilter(wantedFilter());
     updateState();
 }
 
@@ -245,8 +246,9 @@ void BrowserDock::OnCatalogChanged()
 void BrowserDock::setIndex(const ReferenceIndexPtr &index, bool isReading)
 {
     m_isIndexing = isReading;
-    if (index != m_index && !isReading) {
-        m_index = index;
+    // While it is read anew it stays, unless it is of other folders.
+    if (index != m_index && (!isReading || !index)) {
+        Background::discard(std::exchange(m_index, index));
         findUnused();
     }
     updateState();

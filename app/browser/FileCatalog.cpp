@@ -150,9 +150,9 @@ void FileCatalog::read()
 
 void FileCatalog::take(CatalogFilesPtr made)
 {
-    const bool isOther = !m_files || !m_files->isSame(*made);
-    if (isOther)
-        Background::discard(std::exchange(m_files, std::move(made)));
+    if (!m_files || !m_files->isSame(*made))
+        std::swap(m_files, made);
+    Background::discard(std::move(made));
     if (m_isFollowed)
         watch(m_files->folders);
     emit changed();

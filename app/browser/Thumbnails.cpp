@@ -43,7 +43,7 @@ void Thumbnails::want(const QStringList &paths)
     for (const QString &path : paths) {
         const Thumbnail *known = find(path);
         if (!known || known->round != m_round)
-            wishes.push_back({path, known ? known->stamp : FileStamp()});
+            wishes.push_back({path, known ? known->stamp : FileStamp(), m_round});
     }
     if (!m_maker && wishes.empty())
         return;
@@ -60,10 +60,10 @@ void Thumbnails::take(const MadeThumbnail &made)
 {
     if (made.isSame) {
         if (Thumbnail *known = m_cache.object(made.path))
-            known->round = m_round;
+            known->round = made.round;
         return;
     }
-    auto *thumbnail = new Thumbnail{{}, made.error, made.stamp, m_round};
+    auto *thumbnail = new Thumbnail{{}, made.error, made.stamp, made.round};
     if (!made.image.isNull()) {
         QImage image = made.image;
         if (std::max(image.width(), image.height()) > m_side)

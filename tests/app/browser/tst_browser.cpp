@@ -67,6 +67,7 @@ private slots:
         QTest::keyClicks(line(), "NPC man");
         QTRY_COMPARE(rows(), all.mid(1, 2));
         QCOMPARE(label("lblFilesCount")->text(), QString("Files: 2 of 7"));
+        QVERIFY(!Settings::BrowserOrder.exists()); // who types sets nothing
         QTest::keyClick(line(), Qt::Key_Escape);
         QCOMPARE(rows(), all);
         QVERIFY(list()->hasFocus());
@@ -178,6 +179,10 @@ private slots:
         m_folder->put("mod/materials/more.kmat",
                       "material c {\n\tsampler \"diffuse\" 0 \"textures/spare.png\"\n}\n");
         QTRY_COMPARE(rows(), QStringList("more.kmat | materials | Mod, unused"));
+        // Of other folders that is not known before they are read.
+        find<BrowserDock>("dockBrowser")->setIndex(nullptr, true);
+        QVERIFY(!list()->rows().isUsageKnown());
+        QVERIFY(label("lblNoFiles")->text().contains("not known yet"));
 
         // Who names all that a file has: the model of one of its materials.
         QTest::keyClick(state(), Qt::Key_A);
@@ -300,6 +305,24 @@ private slots:
         QVERIFY(QFile::remove(m_folder->path("game/textures/a.png")));
         QVERIFY(green.save(m_folder->path("game/textures/a.png")));
         QTRY_COMPARE_WITH_TIMEOUT(redIn(), 0, 60000);
+    }
+
+    /// What is drawn while its file becomes another one is drawn anew.
+    void drawsAnewWhatChangesMeanwhile()
+    {
+        const QString path = m_folder->path("game/textures/a.png");
+        Thumbnails pictures(nullptr);
+        pictures.setSide(128);
+        pictures.want({path});
+        while (pictures.drawnCount() == 0)
+            QThread::yieldCurrentThread();
+        QImage green(8, 4, QImage::Format_RGB32);
+        green.fill(Qt::green);
+        QVERIFY(green.save(path));
+        pictures.lookAgain();
+        QTRY_VERIFY(pictures.find(path));
+        pictures.want({path});
+        QTRY_COMPARE(pictures.find(path)->picture.toImage().pixelColor(0, 0), QColor(Qt::green));
     }
 
 private:

@@ -21,7 +21,8 @@
 #include <utility>
 
 namespace {
-constexpr int FoundAtOnceMs = 15; // what takes longer does not hold up the keys
+constexpr int FoundAtOnceMs = 15;     // what takes longer does not hold up the keys
+constexpr size_t MostUnreadTold = 20; // files, in a tip
 
 /// By the kind's number.
 const char *const kindTitles[] = {
@@ -297,15 +298,14 @@ void UsedByDock::updateState()
     QStringList unread;
     if (m_keeper->index() && m_thing->currentIndex() >= 0)
         text = tr("Uses: %1").arg(m_list->rows().useCount());
-    if (m_keeper->index()) {
-        for (const FileNamingPtr &file : m_keeper->index()->unreadable())
-            unread += QStringLiteral("%1: %2").arg(file->relative, file->error);
+    if (m_keeper->index() && !m_keeper->index()->unreadable().empty()) {
+        const std::vector<FileNamingPtr> &files = m_keeper->index()->unreadable();
+        for (size_t i = 0; i < std::min(files.size(), MostUnreadTold); ++i)
+            unread += QStringLiteral("%1: %2").arg(files[i]->relative, files[i]->error);
+        text += (text.isEmpty() ? QString() : QStringLiteral("  ")) + tr("(not read: %1)").arg(files.size());
     }
-    if (!unread.isEmpty())
-        text += (text.isEmpty() ? QString() : QStringLiteral("  ")) +
-                tr("(not read: %1)").arg(m_keeper->index()->unreadable().size());
     m_count->setText(text);
-    m_count->setToolTip(unread.mid(0, 20).join(QLatin1Char('\n')));
+    m_count->setToolTip(unread.join(QLatin1Char('\n')));
     m_list->setEmptyText(emptyText());
 }
 

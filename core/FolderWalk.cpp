@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "FolderWalk.h"
 
+#include "RawNames.h"
+
+#include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
@@ -105,4 +108,19 @@ private:
 void walkFolder(const QString &folder, const std::function<bool(const FolderEntry &)> &visit)
 {
     Walk(visit).go(folder);
+}
+
+QString reasonOfGaps(const QString &folder)
+{
+    const QFileInfo info(folder);
+    if (!info.isDir())
+        return {};
+    if (!info.isReadable() || !info.isExecutable())
+        return QCoreApplication::translate("FolderWalk", "The folder cannot be read.");
+    const QString name = nameWithoutText(folder);
+    return name.isEmpty() ? QString()
+                          : QCoreApplication::translate("FolderWalk",
+                                                        "The name of '%1' is no text in the encoding of this "
+                                                        "system, so the file is passed over. Rename it.")
+                                .arg(name);
 }

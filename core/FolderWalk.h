@@ -20,3 +20,7 @@ struct FolderEntry
 /// folders are followed after all else, each to a folder that was not come by before, and none to a folder
 /// around the walked one: a link may lead back up. Ends when `visit` returns false.
 void walkFolder(const QString &folder, const std::function<bool(const FolderEntry &)> &visit);
+
+/// Why a walk passes over something in a folder that is not hidden: the folder cannot be read, or the name of
+/// a file is no text. Empty where it does not, and for what is no folder on the disk.
+[[nodiscard]] QString reasonOfGaps(const QString &folder);

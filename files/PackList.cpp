@@ -147,11 +147,20 @@ PackList listForPacking(const QString &modFolder, const QString &gamePath, const
     const FileSearch game(gamePath, {});
     const QDir root(QDir::cleanPath(modFolder));
     PackList list;
+    // An archive without what nobody saw would look whole.
+    const auto lookForGaps = [&list](const QString &folder) {
+        const QString reason = reasonOfGaps(folder);
+        if (!reason.isEmpty())
+            list.problems += QStringLiteral("'%1': %2").arg(QDir::toNativeSeparators(folder), reason);
+    };
+    lookForGaps(root.path());
     walkFolder(root.path(), [&](const FolderEntry &entry) {
         if (goesOn && !goesOn())
             return false;
-        if (entry.isFolder)
+        if (entry.isFolder) {
+            lookForGaps(entry.path);
             return true;
+        }
         const QString name = root.relativeFilePath(entry.path);
         const QFileInfo file(entry.path);
         QString reason = reasonToLeaveOut(name);

@@ -33,7 +33,8 @@ struct PackList
 {
     std::vector<PackedFile> files; ///< ascending by the UTF-8 of their names, whatever the system
     std::vector<LeftOutFile> leftOut;
-    QStringList problems; ///< sentences on names that cannot go into one archive, each with its file
+    /// Sentences on names that cannot go into one archive, and on folders of which something is missing.
+    QStringList problems;
 };
 
 /// Why a file is none of the mod's, by its path below the mod's folder; empty when it belongs.

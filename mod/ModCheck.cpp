@@ -73,6 +73,8 @@ ModReport ModCheck::run()
     m_report.settings = CheckSettings::of(m_files.folder());
     for (const FileFinding &finding : m_report.settings.findings())
         add(CheckSettings::FileName, finding);
+    for (auto gap = m_files.gaps().begin(); gap != m_files.gaps().end(); ++gap)
+        add(gap.key(), ModRule::Unreadable, gap.value());
     checkNames();
     // Animations ask for the bones of meshes, which are known by then.
     std::vector<const ModFile *> order;

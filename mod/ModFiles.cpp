@@ -27,12 +27,20 @@ ModFiles::ModFiles(Whose whose, const QString &folder, const std::function<bool(
     : m_folder(QDir::cleanPath(folder))
 {
     const int start = m_folder.endsWith(QLatin1Char('/')) ? m_folder.size() : m_folder.size() + 1;
+    const auto lookForGaps = [&](const QString &path, const QString &name) {
+        const QString reason = whose == Whose::Mod ? reasonOfGaps(path) : QString();
+        if (!reason.isEmpty())
+            m_gaps.insert(name, reason);
+    };
+    lookForGaps(m_folder, QStringLiteral("."));
     Files::walk(m_folder, [&](const FolderEntry &entry) {
         const QString name = entry.path.mid(start);
-        if (entry.isFolder)
+        if (entry.isFolder) {
             m_folders.append(name);
-        else if (whose == Whose::Game || reasonToLeaveOut(name).isEmpty())
+            lookForGaps(entry.path, name);
+        } else if (whose == Whose::Game || reasonToLeaveOut(name).isEmpty()) {
             m_files.push_back({entry.path, name, modFileKind(name)});
+        }
         return !goesOn || goesOn();
     });
     m_folders.sort();

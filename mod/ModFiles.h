@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QHash>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -36,6 +37,8 @@ public:
     const std::vector<ModFile> &files() const { return m_files; }
     /// The folders below the mod's, by their paths below it, ascending.
     const QStringList &folders() const { return m_folders; }
+    /// Folders of a mod of which something is missing here, by their paths below it, and why.
+    const QMap<QString, QString> &gaps() const { return m_gaps; }
     /// The path of the file of a name in any case; empty when there is none.
     QString find(const QString &name) const { return m_paths.value(name.toCaseFolded()); }
 
@@ -43,5 +46,6 @@ private:
     QString m_folder;
     std::vector<ModFile> m_files;
     QStringList m_folders;
+    QMap<QString, QString> m_gaps;
     QHash<QString, QString> m_paths; ///< by the names in one case
 };

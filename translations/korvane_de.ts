@@ -3712,6 +3712,17 @@ Führt die Ersetzungen auf, um sie zu Ende zu führen oder rückgängig zu mache
     </message>
 </context>
 <context>
+    <name>FolderWalk</name>
+    <message>
+        <source>The folder cannot be read.</source>
+        <translation>Der Ordner kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The name of &apos;%1&apos; is no text in the encoding of this system, so the file is passed over. Rename it.</source>
+        <translation>Der Name von „%1“ ist in der Zeichenkodierung dieses Systems kein Text; die Datei wird deshalb übergangen. Benennen Sie sie um.</translation>
+    </message>
+</context>
+<context>
     <name>FoundList</name>
     <message>
         <source>Records found</source>

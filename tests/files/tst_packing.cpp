@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Files.h"
 #include "PackList.h"
+#include "SpecialFiles.h"
 #include "TestSupport.h"
 #include "ZipArchive.h"
 #include "ZipWriter.h"
@@ -58,6 +59,18 @@ private slots:
                 QVERIFY2(Files::read(path + '/' + name, 1 << 30) == bytes, qPrintable(name));
             }
         }
+    }
+
+    /// An archive without what nobody saw would look whole.
+    void tellsOfWhatIsPassedOver()
+    {
+        m_folder.put("gaps/textures/a.png", "a picture");
+        const auto problems = [this] { return listForPacking(m_folder.path("gaps"), {}).problems; };
+        SpecialFiles::withNameWithoutText(m_folder.path("gaps/textures"), [&] {
+            QCOMPARE(problems().size(), 1);
+            QVERIFY2(problems().first().contains("textures': The name"), qPrintable(problems().first()));
+        });
+        QCOMPARE(problems(), QStringList());
     }
 
     void writesWholeOrNotAtAll()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ModCheck.h"
 #include "SampleModels.h"
+#include "SpecialFiles.h"
 #include "TestArchive.h"
 #include "TestSupport.h"
 
@@ -242,6 +243,18 @@ private slots:
         QCOMPARE(without({0, 2}), QString("b"));
         QCOMPARE(without({1, 2}), QString("a"));
         QCOMPARE(without({0, 1, 2}), QString());
+    }
+
+    /// What is passed over may be what is wrong.
+    void tellsOfWhatIsPassedOver()
+    {
+        SpecialFiles::withNameWithoutText(path("mod/textures"), [this] { expect("textures unreadable"); });
+        QVERIFY(QFile::setPermissions(path("mod/textures"), QFile::WriteOwner));
+        if (!QFileInfo(path("mod/textures")).isReadable()) // as it is for who may do all
+            expect("textures unreadable");
+        QVERIFY(QFile::setPermissions(path("mod/textures"),
+                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        expect("");
     }
 
     void endsWhenItIsTold()

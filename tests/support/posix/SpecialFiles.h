@@ -6,6 +6,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <ctime>
@@ -40,6 +41,17 @@ inline bool link(const QString &target, const QString &path)
     if (!QFile::link(target, path))
         qFatal("no link");
     return true;
+}
+
+/// Calls `look` while a folder has a file whose name is no text, where there can be one.
+template <typename Look>
+void withNameWithoutText(const QString &folder, const Look &look)
+{
+    const QByteArray path = QFile::encodeName(folder) + "/a\xff.png";
+    if (close(open(path.constData(), O_CREAT | O_WRONLY, 0600)) != 0)
+        qFatal("no file");
+    look();
+    unlink(path.constData()); // the toolkit would not find it
 }
 
 /// Says of a folder that it was changed `seconds` ago.

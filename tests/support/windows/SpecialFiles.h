@@ -34,6 +34,11 @@ inline bool link(const QString &, const QString &)
     return false;
 }
 
+/// Calls `look` while a folder has a file whose name is no text: all names are.
+template <typename Look>
+void withNameWithoutText(const QString &, const Look &)
+{}
+
 /// Says of a folder that it was changed `seconds` ago.
 inline bool makeOld(const QString &folder, int seconds)
 {

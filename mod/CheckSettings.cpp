@@ -174,9 +174,12 @@ void CheckSettings::doubt(const QString &text)
 
 const CheckSettings::Silence *CheckSettings::silenceOf(QLatin1String rule, const QString &name) const
 {
+    if (m_silences.empty())
+        return nullptr;
+    const QString folded = name.toCaseFolded();
     const auto found =
-        std::find_if(m_silences.begin(), m_silences.end(), [&rule, &name](const Silence &silence) {
-            return silence.rule == rule && silence.pattern.matches(name);
+        std::find_if(m_silences.begin(), m_silences.end(), [&rule, &folded](const Silence &silence) {
+            return silence.rule == rule && silence.pattern.matchesFolded(folded);
         });
     return found == m_silences.end() ? nullptr : &*found;
 }

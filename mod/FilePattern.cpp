@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "FilePattern.h"
 
+#include <algorithm>
 #include <utility>
 
 FilePattern::FilePattern(const QString &pattern)
 {
     const QString folded = pattern.toCaseFolded();
+    const auto isSign = [](QChar letter) { return letter == QLatin1Char('*') || letter == QLatin1Char('?'); };
+    m_start = folded.left(int(std::find_if(folded.begin(), folded.end(), isSign) - folded.begin()));
     for (int i = 0; i < folded.size(); ++i) {
         if (folded[i] == QLatin1Char('?')) {
             m_parts.push_back({Kind::AnyLetter});
@@ -40,14 +43,16 @@ void FilePattern::enter(size_t part, std::vector<bool> &parts) const
 }
 
 /// Goes through the path once, at all parts at a time that it may have come to.
-bool FilePattern::matches(const QString &path) const
+bool FilePattern::matchesFolded(const QString &path) const
 {
-    if (m_parts.empty())
+    if (m_parts.empty() || !path.startsWith(m_start))
         return false;
+    if (m_parts.size() == size_t(m_start.size()) + 1) // and the end
+        return path.size() == m_start.size();
     std::vector<bool> at(m_parts.size());
     std::vector<bool> next(m_parts.size());
     enter(0, at);
-    for (const QChar letter : path.toCaseFolded()) {
+    for (const QChar letter : path) {
         next.assign(m_parts.size(), false);
         const bool isSlash = letter == QLatin1Char('/');
         bool any = false;

@@ -19,7 +19,9 @@ public:
     FilePattern() = default;
     explicit FilePattern(const QString &pattern);
 
-    bool matches(const QString &path) const;
+    bool matches(const QString &path) const { return matchesFolded(path.toCaseFolded()); }
+    /// The same of a path in one case, for who asks many patterns.
+    bool matchesFolded(const QString &path) const;
 
 private:
     enum class Kind {
@@ -40,5 +42,6 @@ private:
     /// Marks a part, and those behind it that need no letter.
     void enter(size_t part, std::vector<bool> &parts) const;
 
+    QString m_start; ///< up to the first sign that stands for letters: most paths are told from it by that
     std::vector<Part> m_parts;
 };

@@ -230,10 +230,13 @@ QString ModProblems::hear(const QVector<Silence> &silences)
     if (!failure.isEmpty())
         return failure;
     const CheckSettings settings = CheckSettings::read(text);
+    QVector<Silence> folded = silences; // names in one case
+    for (Silence &each : folded)
+        each.name = each.name.toCaseFolded();
     std::set<int> places;
     for (const CheckSettings::Silence &silence : settings.silences()) {
-        const bool isMeant = std::any_of(silences.begin(), silences.end(), [&silence](const Silence &each) {
-            return silence.rule == each.rule && silence.pattern.matches(each.name);
+        const bool isMeant = std::any_of(folded.begin(), folded.end(), [&silence](const Silence &each) {
+            return silence.rule == each.rule && silence.pattern.matchesFolded(each.name);
         });
         if (isMeant)
             places.insert(silence.place);

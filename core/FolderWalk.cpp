@@ -112,10 +112,9 @@ void walkFolder(const QString &folder, const std::function<bool(const FolderEntr
 
 QString reasonOfGaps(const QString &folder)
 {
-    const QFileInfo info(folder);
-    if (!info.isDir())
+    if (!QFileInfo(folder).isDir())
         return {};
-    if (!info.isReadable() || !info.isExecutable())
+    if (!mayBeWalked(folder))
         return QCoreApplication::translate("FolderWalk", "The folder cannot be read.");
     const QString name = nameWithoutText(folder);
     return name.isEmpty() ? QString()

@@ -5,8 +5,14 @@
 #include <QFile>
 
 #include <dirent.h>
+#include <unistd.h>
 
 #include <memory>
+
+bool mayBeWalked(const QString &folder)
+{
+    return access(QFile::encodeName(folder).constData(), R_OK | X_OK) == 0;
+}
 
 QString nameWithoutText(const QString &folder)
 {

@@ -2,6 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "RawNames.h"
 
+bool mayBeWalked(const QString &)
+{
+    return true;
+}
+
 // All names are text.
 QString nameWithoutText(const QString &)
 {

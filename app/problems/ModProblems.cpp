@@ -218,8 +218,11 @@ QString ModProblems::silence(const QVector<Silence> &silences)
         return tr("'%1' can silence %2 rules for files at most. Silence a rule everywhere, or write a "
                   "pattern of files into it.")
             .arg(path, QString::number(CheckSettings::MostSilences));
-    if (!added.empty())
-        text = CheckSettings::withSilences(text, added);
+    if (added.empty()) {
+        recheck(); // somebody put it in already
+        return {};
+    }
+    text = CheckSettings::withSilences(text, added);
     return text.isEmpty() ? notAsItHasToBe() : writeSettings(text);
 }
 

@@ -188,9 +188,9 @@ void Session::restore(const QStringList &paths)
 
     const auto leftAlone = [&paths](const DocumentPane &pane) {
         return std::any_of(paths.begin(), paths.end(), [&pane](const QString &path) {
-            const DocumentKind *kind = documentKindOfFile(path);
-            if (!kind && isMaterialFile(path))
+            if (isMaterialFile(path))
                 return false;
+            const DocumentKind *kind = documentKindOfFile(path);
             // What is going to be imported asks for its tab.
             return !kind || (kind->type == DocumentType::StaticMesh) == isStaticMesh(pane);
         });

@@ -128,6 +128,8 @@ int FileRows::rowCount(const QModelIndex &parent) const
 
 QVariant FileRows::data(const QModelIndex &index, int role) const
 {
+    if (!index.isValid())
+        return {};
     const int number = m_rows[size_t(index.row())];
     const CatalogFile &file = m_files->files[size_t(number)];
     switch (role) {
@@ -153,7 +155,8 @@ QVariant FileRows::data(const QModelIndex &index, int role) const
 
 Qt::ItemFlags FileRows::flags(const QModelIndex &index) const
 {
-    return QAbstractListModel::flags(index) | Qt::ItemIsDragEnabled;
+    const Qt::ItemFlags flags = QAbstractListModel::flags(index);
+    return index.isValid() ? flags | Qt::ItemIsDragEnabled : flags;
 }
 
 QStringList FileRows::mimeTypes() const

@@ -71,6 +71,8 @@ int ChoiceList::columnCount(const QModelIndex &parent) const
 QVariant ChoiceList::data(const QModelIndex &index, int role) const
 {
     constexpr int step = 3; // blanks for each level
+    if (!index.isValid())
+        return {};
     const Choice &shown = choice(index.row());
     const bool isId = index.column() == 0;
     switch (role) {

@@ -39,6 +39,8 @@ int FoundRows::columnCount(const QModelIndex &parent) const
 
 QVariant FoundRows::data(const QModelIndex &index, int role) const
 {
+    if (!index.isValid())
+        return {};
     const auto &[type, record] = m_hits[size_t(index.row())];
     const Document &document = m_finder.document(type);
     if (role == Qt::DecorationRole && index.column() == RecordColumn)

@@ -60,6 +60,8 @@ QString UsesRows::placeText(int row) const
 
 QVariant UsesRows::data(const QModelIndex &index, int role) const
 {
+    if (!index.isValid())
+        return {};
     const NamedUse &use = useAt(index.row());
     if (role == Qt::DecorationRole && index.column() == RecordColumn) {
         const RecordKind kind = placeAt(index.row()).kind;

@@ -43,6 +43,8 @@ int RecordTableModel::columnCount(const QModelIndex &parent) const
 
 QVariant RecordTableModel::data(const QModelIndex &index, int role) const
 {
+    if (!index.isValid())
+        return {};
     const RecordField &shown = field(index.column());
     const bool isText = shown.type() == RecordField::Type::Text;
     switch (role) {

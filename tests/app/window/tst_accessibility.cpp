@@ -18,6 +18,20 @@ private slots:
         checkNone(windows.mnemonicClashes());
     }
 
+    /// The toolkit asks for the text of the current row, also where none is.
+    void everyListIsCopiedFromWithNoRowCurrent()
+    {
+        EveryWindow windows(m_home.path());
+        for (const QWidget *window : windows.all()) {
+            for (auto *view : window->findChildren<QAbstractItemView *>()) {
+                view->setCurrentIndex({});
+                QTest::keyClick(view, Qt::Key_C, Qt::ControlModifier);
+                QVERIFY2(!view->model() || !view->model()->data({}).isValid(),
+                         qPrintable(EveryWidget::describe(view)));
+            }
+        }
+    }
+
     void everyDialogIsUsableByKeyboard()
     {
         EveryWindow windows(m_home.path());

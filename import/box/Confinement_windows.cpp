@@ -2,11 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "Confinement.h"
 
+#include "ProcessRights.h"
+
+#include <QDir>
+
 #include <windows.h>
 
 void closeInherited() {} // WorkerProcess lets nothing be inherited
 
-QStringList confine(const Confinement &)
+QStringList confine(const Confinement &kept)
 {
     // Whoever started this tells of a crash, by the code that it ends with; a message box would wait for
     // ever.
@@ -17,5 +21,13 @@ QStringList confine(const Confinement &)
         TerminateProcess(GetCurrentProcess(), crash->ExceptionRecord->ExceptionCode);
         return EXCEPTION_EXECUTE_HANDLER;
     });
-    return {QStringLiteral("restricted token")};
+
+    QStringList lacking;
+    if (refuseProcesses())
+        lacking += QStringLiteral("nested job");
+    if (refuseForeignLibraries())
+        lacking += QStringLiteral("process mitigations");
+    if (restrictToken(QDir::toNativeSeparators(kept.ownFolder).toStdWString()))
+        lacking += QStringLiteral("restricted token");
+    return lacking;
 }

@@ -10,6 +10,7 @@
 #include "Settings.h"
 #include "TexturesAhead.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QDebug>
 #include <QLoggingCategory>
@@ -29,6 +30,9 @@ int main(int argc, char *argv[])
     QSurfaceFormat::setDefaultFormat(format);
 
     const QApplication application(argc, argv);
+    // The desktop's bus has a thread, which cannot begin while the driver's libraries are loaded; the window
+    // would wait for it.
+    (void)QAccessible::isActive();
     GraphicsProbe::start();
     QCoreApplication::setApplicationName(QStringLiteral("Korvane"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));

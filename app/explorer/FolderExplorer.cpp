@@ -94,7 +94,6 @@ FolderExplorer::FolderExplorer(const DocumentKind &kind, QWidget *parent)
     connect(&m_archive, &ArchiveWatch::replaced, this, &FolderExplorer::refill);
     connect(m_reading, &ReadingSign::stopped, this, &FolderExplorer::OnReadingStopped);
     m_tree->showEmptyFolders(Settings::ExplorerEmptyFolders.value());
-    refill();
 }
 
 /// Of the files that the filter has left.

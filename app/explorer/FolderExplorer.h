@@ -30,7 +30,8 @@ class FolderExplorer : public QWidget
     Q_OBJECT
 
 public:
-    /// Starts with the stored folder and switch; writes no setting. `kind` must outlive the explorer.
+    /// Starts with the stored switch, and empty until refill(); writes no setting. `kind` must outlive the
+    /// explorer.
     explicit FolderExplorer(const DocumentKind &kind, QWidget *parent = nullptr);
 
     const DocumentKind &kind() const { return m_kind; }

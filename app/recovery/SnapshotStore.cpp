@@ -73,6 +73,22 @@ void removeOldest(const QString &folder, const QSet<QString> &spared)
         }
     }
 }
+
+/// Removes those of the folders that hold nothing any more and that no program has.
+void removeEmpty(const QString &root, const QStringList &folders)
+{
+    const FolderLock all(root + QLatin1Char('/') + LockFile, FolderLock::Yes);
+    for (const QString &folder : folders) {
+        FolderLock lock(folder + QLatin1Char('/') + LockFile);
+        // The lock file goes last, and only with the folder.
+        if (all.isHeld() && lock.isHeld() &&
+            QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot) ==
+                QStringList(LockFile)) {
+            lock.removeFile();
+            QDir().rmdir(folder);
+        }
+    }
+}
 } // namespace
 
 SnapshotStore::SnapshotStore(const QString &root, QObject *parent)
@@ -137,16 +153,22 @@ bool SnapshotStore::createFolder()
 
 void SnapshotStore::takeOver()
 {
-    const FolderLock root(m_root + QLatin1Char('/') + LockFile, FolderLock::Yes);
-    const QFileInfoList folders = QDir(m_root).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot);
-    for (const QFileInfo &folder : folders) {
-        if (root.isHeld() && folder.filePath() != m_folder)
-            takeOver(folder.filePath());
+    QStringList left;
+    {
+        const FolderLock root(m_root + QLatin1Char('/') + LockFile, FolderLock::Yes);
+        const QFileInfoList folders = QDir(m_root).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot);
+        for (const QFileInfo &folder : folders) {
+            if (root.isHeld() && folder.filePath() != m_folder && takeOver(folder.filePath()))
+                left.append(folder.filePath());
+        }
     }
     keepNewest(QStringLiteral("crash-*.txt"), MostReports);
     keepNewest(QLatin1Char('*') + DamagedSuffix, MostKept);
     removeOldest(m_folder, {});
     findLast();
+    // A disk may take its time for that, and the window waits.
+    if (!left.isEmpty())
+        run([root = m_root, left] { removeEmpty(root, left); });
 }
 
 void SnapshotStore::keepNewest(const QString &pattern, int count)
@@ -167,11 +189,11 @@ void SnapshotStore::findLast()
     }
 }
 
-void SnapshotStore::takeOver(const QString &folder)
+bool SnapshotStore::takeOver(const QString &folder)
 {
-    FolderLock lock(folder + QLatin1Char('/') + LockFile);
+    const FolderLock lock(folder + QLatin1Char('/') + LockFile);
     if (!lock.isHeld())
-        return;
+        return false;
     const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files | QDir::Hidden, QDir::Time);
     for (const QFileInfo &file : files) {
         if (file.fileName() == ReportFile)
@@ -181,12 +203,7 @@ void SnapshotStore::takeOver(const QString &folder)
         else if (file.fileName().contains(Suffix + QLatin1Char('.')))
             QFile::remove(file.filePath()); // half written when its program ended
     }
-    // The lock file goes last, and only with the folder.
-    if (QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot) ==
-        QStringList(LockFile)) {
-        lock.removeFile();
-        QDir().rmdir(folder);
-    }
+    return true;
 }
 
 void SnapshotStore::takeOverReport(const QString &report)

@@ -80,7 +80,8 @@ signals:
 private:
     bool createFolder();
     void takeOver();
-    void takeOver(const QString &folder);
+    /// Returns whether no program has the folder.
+    bool takeOver(const QString &folder);
     void takeOverReport(const QString &report);
     void keepNewest(const QString &pattern, int count);
     void findLast();

@@ -123,9 +123,10 @@ MainWindow::MainWindow(QWidget *parent)
                             *m_ui->animTrackFrame, *m_materials, this);
     connect(m_named, &NamedFiles::materialsNamed, m_materials,
             [this](const QString &path) { m_materials->open(path); });
-    // The graphics driver is waited for.
+    // The graphics driver is waited for. The threads that read folders could not begin before.
     embedViewport(m_ui->viewSkinned, m_ui->vlviewSkinned);
     embedViewport(m_ui->viewStatic, m_ui->vlviewStatic);
+    m_explorerFiles->on_actionRefreshExplorers_triggered();
 }
 
 MainWindow::~MainWindow()

@@ -399,6 +399,7 @@ private:
         explorer->show();
         QApplication::setActiveWindow(explorer.get());
         explorer->setFocus();
+        explorer->refill();
         settle(*explorer);
         return explorer;
     }

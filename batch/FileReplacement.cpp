@@ -4,6 +4,7 @@
 
 #include "BinaryFileReader.h"
 #include "FileRun.h"
+#include "FolderWalk.h"
 #include "ModelJson.h"
 #include "ModelNames.h"
 
@@ -11,6 +12,8 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace {
 QString replacing(const char *text)
@@ -116,18 +119,29 @@ FileReplacement replaceIn(StoredModel &stored, const QString &path, const Replac
 }
 } // namespace
 
-QStringList modelFilesBelow(const QString &path)
+QStringList modelFilesBelow(const QString &path, std::vector<FileReplacement> &gaps)
 {
     if (!QFileInfo(path).isDir())
         return {path};
     QStringList files;
-    QDirIterator walk(path, QDir::Files, QDirIterator::Subdirectories);
+    const auto lookForGaps = [&gaps](const QString &folder) {
+        const QString reason = reasonOfGaps(folder);
+        if (!reason.isEmpty())
+            gaps.push_back({folder, {}, reason, false, {}});
+    };
+    lookForGaps(path);
+    QDirIterator walk(path, QDir::Dirs | QDir::Files | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
     while (walk.hasNext()) {
         walk.next();
-        if (ModelJson::kinds().contains(walk.fileInfo().suffix().toLower()))
+        const QFileInfo info = walk.fileInfo();
+        if (!info.isDir() && ModelJson::kinds().contains(info.suffix().toLower()))
             files += walk.filePath();
+        else if (info.isDir() && !info.isSymLink()) // links are not followed
+            lookForGaps(walk.filePath());
     }
     files.sort();
+    std::sort(gaps.begin(), gaps.end(),
+              [](const FileReplacement &a, const FileReplacement &b) { return a.path < b.path; });
     return files;
 }
 

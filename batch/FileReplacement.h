@@ -32,8 +32,9 @@ struct FileReplacement
     QByteArray hash; ///< of what the file held when this was found
 };
 
-/// The models below a folder, in the order of their names; `path` itself where it is a file.
-QStringList modelFilesBelow(const QString &path);
+/// The models below a folder, in the order of their names; `path` itself where it is a file. `gaps` gets the
+/// folders, with the reason, in which some may have been passed over.
+QStringList modelFilesBelow(const QString &path, std::vector<FileReplacement> &gaps);
 
 /// Says what a rule would change in a file; nothing is written.
 FileReplacement findReplacement(const QString &path, const ReplaceRule &rule, Companions &companions);

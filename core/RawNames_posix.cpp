@@ -7,6 +7,8 @@
 #include <dirent.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cstring>
 #include <memory>
 
 bool mayBeWalked(const QString &folder)
@@ -20,9 +22,14 @@ QString nameWithoutText(const QString &folder)
     if (!open)
         return {};
     while (const dirent *entry = readdir(open.get())) {
-        const QByteArray name(entry->d_name);
+        const QByteArray name = QByteArray::fromRawData(entry->d_name, int(std::strlen(entry->d_name)));
+        // Nearly all names are text in every encoding, and are not converted.
+        const bool isAscii =
+            std::all_of(name.begin(), name.end(), [](char each) { return uchar(each) < 0x80; });
+        if (isAscii || name.startsWith('.'))
+            continue;
         const QString text = QFile::decodeName(name);
-        if (!name.startsWith('.') && QFile::encodeName(text) != name)
+        if (QFile::encodeName(text) != name)
             return text;
     }
     return {};

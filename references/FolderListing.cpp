@@ -4,6 +4,7 @@
 
 #include "FileSystem.h"
 #include "Files.h"
+#include "FolderWalk.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -43,6 +44,13 @@ private:
     }
 };
 
+void lookForGaps(const QString &folder, FolderListing &listing)
+{
+    const QString reason = reasonOfGaps(folder);
+    if (!reason.isEmpty())
+        listing.gaps += QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(folder), reason);
+}
+
 void listRoot(const ListedRoot &root, const QString &without, bool isMod, const std::atomic_bool &isCancelled,
               std::atomic_int *found, FolderListing &listing)
 {
@@ -53,13 +61,21 @@ void listRoot(const ListedRoot &root, const QString &without, bool isMod, const 
     if (!archive.isEmpty())
         watched = QStringList{archive, QFileInfo(archive).path()};
     const int start = root.path.endsWith(QLatin1Char('/')) ? root.path.size() : root.path.size() + 1;
+    const auto isOthers = [&without](const QString &relative) {
+        return !without.isEmpty() && FileSystem::comparable(relative).startsWith(without);
+    };
     int entries = 0;
+    lookForGaps(root.path, listing);
     Files::walk(root.path, [&](const FolderEntry &entry) {
-        if (entry.isFolder && archive.isEmpty() && watched.size() < FolderListing::MostFoldersNoted)
-            watched += entry.path;
+        if (entry.isFolder && archive.isEmpty()) {
+            if (watched.size() < FolderListing::MostFoldersNoted)
+                watched += entry.path;
+            if (!isOthers(entry.path.mid(start) + QLatin1Char('/')))
+                lookForGaps(entry.path, listing);
+        }
         const auto type = entry.isFolder ? std::nullopt : indexedTypeOf(entry.path);
         const QString relative = type ? entry.path.mid(start) : QString();
-        if (type && (without.isEmpty() || !FileSystem::comparable(relative).startsWith(without))) {
+        if (type && !isOthers(relative)) {
             listing.files.push_back({entry.path, relative, isMod, *type});
             if (found)
                 ++*found;
@@ -88,5 +104,6 @@ FolderListing listFolders(const MaterialFolders &folders, const std::atomic_bool
         listRoot(mod, inner(mod, game), true, isCancelled, found, listing);
     std::sort(listing.files.begin(), listing.files.end(),
               [](const ListedFile &a, const ListedFile &b) { return a.path < b.path; });
+    listing.gaps.sort();
     return listing;
 }

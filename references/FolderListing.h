@@ -26,6 +26,8 @@ struct FolderListing
     /// The folders on the disk in which these come and go; of an archive that itself, and where it stands.
     QStringList folders; ///< the mod's first, MostFoldersNoted of each of the two at most
     static constexpr int MostFoldersNoted = 1000;
+    /// Folders of which something is missing: their paths, with why, ascending; see reasonOfGaps().
+    QStringList gaps;
     bool isCut = false; ///< there is more than a game and a mod can be, which is not listed
 };
 

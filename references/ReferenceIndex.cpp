@@ -46,9 +46,12 @@ void forEach(size_t count, int threads, const std::atomic_bool &isCancelled, con
 }
 } // namespace
 
-ReferenceIndex::ReferenceIndex(MaterialFolders folders, std::vector<FileNamingPtr> files)
+ReferenceIndex::ReferenceIndex(MaterialFolders folders, std::vector<FileNamingPtr> files, QStringList gaps,
+                               bool isCut)
     : m_folders(std::move(folders))
     , m_files(std::move(files))
+    , m_gaps(std::move(gaps))
+    , m_isCut(isCut)
 {
     for (const FileNamingPtr &each : m_files) {
         if (!each->error.isEmpty())
@@ -188,7 +191,8 @@ ReferenceIndexPtr makeReferenceIndex(const MaterialFolders &folders,
                                      const std::atomic_bool &isCancelled, IndexProgress &progress,
                                      int threads)
 {
-    const std::vector<ListedFile> files = listFolders(folders, isCancelled).files;
+    FolderListing listing = listFolders(folders, isCancelled);
+    const std::vector<ListedFile> &files = listing.files;
     std::vector<FileStamp> stamps(files.size());
     progress.files = int(files.size());
     forEach(files.size(), threads, isCancelled,
@@ -199,5 +203,8 @@ ReferenceIndexPtr makeReferenceIndex(const MaterialFolders &folders,
         namings[at] = namingAsItIs(files[at], stamps[at], before, progress);
         ++progress.done;
     });
-    return isCancelled ? nullptr : std::make_shared<const ReferenceIndex>(folders, std::move(namings));
+    if (isCancelled)
+        return nullptr;
+    return std::make_shared<const ReferenceIndex>(folders, std::move(namings), std::move(listing.gaps),
+                                                  listing.isCut);
 }

@@ -32,8 +32,9 @@ struct IndexProgress
 class ReferenceIndex
 {
 public:
-    /// `files` ascend by their paths.
-    ReferenceIndex(MaterialFolders folders, std::vector<FileNamingPtr> files);
+    /// `files` ascend by their paths. `gaps` and `isCut` are as in FolderListing.
+    ReferenceIndex(MaterialFolders folders, std::vector<FileNamingPtr> files, QStringList gaps = {},
+                   bool isCut = false);
 
     const MaterialFolders &folders() const { return m_folders; }
     /// By path; pictures, which name nothing, are among them.
@@ -44,6 +45,10 @@ public:
     FileNamingPtr fileAt(const QString &path) const;
     /// The files that could not be read.
     const std::vector<FileNamingPtr> &unreadable() const { return m_unreadable; }
+    /// The folders of which something is missing, each with why.
+    const QStringList &gaps() const { return m_gaps; }
+    /// Whether there are files beyond all that is looked through.
+    bool isCut() const { return m_isCut; }
 
     /// Who names the thing, in the order of the paths. Of a texture the materials come first, and then the
     /// models that have one of these. A material file of the mod counts as much as the game's of the same
@@ -72,6 +77,8 @@ private:
     MaterialFolders m_folders;
     std::vector<FileNamingPtr> m_files;
     std::vector<FileNamingPtr> m_unreadable;
+    QStringList m_gaps;
+    bool m_isCut;
 };
 
 using ReferenceIndexPtr = std::shared_ptr<const ReferenceIndex>;

@@ -45,7 +45,12 @@ Findings findAll(const QStringList &paths, const ReplaceRule &rule, Companions &
     bool isMeant = false;
     QStringList unmeant;
     for (const QString &path : paths) {
-        const QStringList files = modelFilesBelow(path);
+        std::vector<FileReplacement> gaps;
+        const QStringList files = modelFilesBelow(path, gaps);
+        for (const FileReplacement &gap : gaps) {
+            ++findings.problems;
+            Output::complain(QStringLiteral("%1: %2").arg(gap.path, gap.reason));
+        }
         for (const QString &file : files) {
             if (interruption())
                 return findings;
@@ -144,11 +149,13 @@ int replace(const QStringList &arguments)
             "Gives a field of all records that meet a condition another value, in files and in all files of "
             "folders: 'korvane-tool replace mod \"actions sound = 1234\" sound 4321'. CONDITION, FIELD and "
             "VALUE are as in find and set --where. A copy of each file is kept, with which 'korvane-tool "
-            "runs' undoes it. Where a file cannot be read or a value cannot be, nothing is written."));
+            "runs' undoes it. Where a file or a folder cannot be read or a value cannot be, nothing is "
+            "written."));
     line.flag(QStringLiteral("list"), QStringLiteral("List what would change, and write nothing."));
     line.flag(QStringLiteral("json"),
               QStringLiteral("Write a JSON array with an object for each value that changes."));
-    line.flag(QStringLiteral("skip"), QStringLiteral("Leave out files that cannot be changed."));
+    line.flag(QStringLiteral("skip"),
+              QStringLiteral("Leave out files that cannot be changed, and folders that cannot be read."));
     if (const auto end = line.parse(arrangedForReplace(arguments), true))
         return *end;
     QStringList paths = line.operands();

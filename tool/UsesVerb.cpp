@@ -121,12 +121,17 @@ ReferenceIndexPtr indexOf(const MaterialFolders &folders)
     return IndexCache::bringUpToDate(folders, nullptr, isCancelled, progress, QThread::idealThreadCount());
 }
 
-/// Says which files could not be read. Returns true when there are some.
+/// Says which files and folders could not be read. Returns true when there are some.
 bool tellErrors(const ReferenceIndex &index)
 {
+    if (index.isCut())
+        Output::complain(
+            QStringLiteral("The folders hold more than a game and a mod can: the rest was not read."));
+    for (const QString &gap : index.gaps())
+        Output::complain(gap);
     for (const FileNamingPtr &file : index.unreadable())
         Output::complain(QStringLiteral("%1: %2").arg(file->path, file->error));
-    return !index.unreadable().empty();
+    return index.isCut() || !index.gaps().isEmpty() || !index.unreadable().empty();
 }
 
 void reportUses(const ReferenceIndex &index, const NamedThing &thing, UsesReport &report)

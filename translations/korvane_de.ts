@@ -1288,6 +1288,10 @@ Kopftreffer verursachen also 640 Schaden.</translation>
         <source>Files: %1, and more</source>
         <translation>Dateien: %1 und mehr</translation>
     </message>
+    <message>
+        <source>(incomplete folders: %1)</source>
+        <translation>(unvollständige Ordner: %1)</translation>
+    </message>
 </context>
 <context>
     <name>CameraMenu</name>
@@ -9725,10 +9729,6 @@ Alles andere funktioniert weiter.</translation>
         <translation>Werte, die sich ändern würden: %1; Dateien: %2.</translation>
     </message>
     <message>
-        <source>Values that would change: %1; files: %2. Files that are left out: %3.</source>
-        <translation>Werte, die sich ändern würden: %1; Dateien: %2. Ausgelassene Dateien: %3.</translation>
-    </message>
-    <message>
         <source>Values: %1</source>
         <translation>Werte: %1</translation>
     </message>
@@ -9755,6 +9755,10 @@ Alles andere funktioniert weiter.</translation>
     <message>
         <source>Replaced. Files: %1. Edit ▸ Replacements in Files… undoes it.</source>
         <translation>Ersetzt. Dateien: %1. Bearbeiten ▸ Ersetzungen in Dateien… macht es rückgängig.</translation>
+    </message>
+    <message>
+        <source>Values that would change: %1; files: %2. Left out: %3.</source>
+        <translation>Werte, die sich ändern würden: %1; Dateien: %2. Ausgelassen: %3.</translation>
     </message>
 </context>
 <context>
@@ -11772,6 +11776,18 @@ Nichts wurde geändert. %2</translation>
     <message>
         <source>(not read: %1)</source>
         <translation>(nicht gelesen: %1)</translation>
+    </message>
+    <message>
+        <source>(incomplete folders: %1)</source>
+        <translation>(unvollständige Ordner: %1)</translation>
+    </message>
+    <message>
+        <source>(not all files)</source>
+        <translation>(nicht alle Dateien)</translation>
+    </message>
+    <message>
+        <source>The folders hold more than a game and a mod can: the rest is not read.</source>
+        <translation>Die Ordner enthalten mehr, als ein Spiel und ein Mod enthalten können: Der Rest wird nicht gelesen.</translation>
     </message>
 </context>
 <context>

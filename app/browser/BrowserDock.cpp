@@ -28,6 +28,7 @@
 namespace {
 constexpr int PatienceMs = 500;
 constexpr int FoundAtOnceMs = 15;
+constexpr int MostGapsTold = 20; // in a tip
 constexpr int SmallPicture = 40; ///< beside the name, pixels
 const auto OptionsLink = QStringLiteral("options");
 const auto AllLink = QStringLiteral("all");
@@ -323,16 +324,31 @@ void BrowserDock::updateState()
     const bool isLong = m_catalog.isReading() ? !m_patience.isActive() : isWaitingForIndex();
     m_progress->setVisible(isLong);
     m_giveUp->setVisible(isLong);
+    updateCount();
+}
+
+/// How many files there are, and what is missing.
+void BrowserDock::updateCount()
+{
+    const FileRows &rows = m_list->rows();
     const QLocale locale;
     const bool isCut = m_catalog.files() && m_catalog.files()->isCut;
-    m_count->setToolTip(isCut ? tr("The folders hold more than a game and a mod can: the rest is not listed.")
-                              : QString());
-    m_count->setText(rows.totalCount() == 0 ? QString()
-                     : isCut                ? tr("Files: %1, and more").arg(locale.toString(rows.rowCount()))
-                     : rows.rowCount() == rows.totalCount()
-                         ? tr("Files: %1").arg(locale.toString(rows.totalCount()))
-                         : tr("Files: %1 of %2")
-                               .arg(locale.toString(rows.rowCount()), locale.toString(rows.totalCount())));
+    const QStringList gaps = m_catalog.files() ? m_catalog.files()->gaps : QStringList();
+    QStringList texts;
+    if (isCut)
+        texts += tr("Files: %1, and more").arg(locale.toString(rows.rowCount()));
+    else if (rows.rowCount() < rows.totalCount())
+        texts +=
+            tr("Files: %1 of %2").arg(locale.toString(rows.rowCount()), locale.toString(rows.totalCount()));
+    else if (rows.totalCount() > 0)
+        texts += tr("Files: %1").arg(locale.toString(rows.totalCount()));
+    if (!gaps.isEmpty())
+        texts += tr("(incomplete folders: %1)").arg(locale.toString(gaps.size()));
+    QStringList tips = gaps.mid(0, MostGapsTold);
+    if (isCut)
+        tips.prepend(tr("The folders hold more than a game and a mod can: the rest is not listed."));
+    m_count->setText(texts.join(QStringLiteral("  ")));
+    m_count->setToolTip(tips.join(QLatin1Char('\n')));
 }
 
 void BrowserDock::open(const QString &path)

@@ -63,6 +63,7 @@ private:
     void wantIndex();
     void findUnused();
     void updateState();
+    void updateCount();
     bool isWaitingForIndex() const;
     QString emptyText() const;
 

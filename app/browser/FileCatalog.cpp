@@ -59,7 +59,7 @@ void sortOrders(CatalogFiles &made)
 
 bool CatalogFiles::isSame(const CatalogFiles &other) const
 {
-    return folders == other.folders && isCut == other.isCut &&
+    return folders == other.folders && gaps == other.gaps && isCut == other.isCut &&
            std::equal(files.begin(), files.end(), other.files.begin(), other.files.end(),
                       [](const CatalogFile &a, const CatalogFile &b) { return a.isSame(b); });
 }
@@ -70,6 +70,7 @@ CatalogFilesPtr makeCatalogFiles(const MaterialFolders &folders, const std::atom
     auto made = std::make_shared<CatalogFiles>();
     FolderListing listing = listFolders(folders, isCancelled, &found);
     made->folders = std::move(listing.folders);
+    made->gaps = std::move(listing.gaps);
     made->isCut = listing.isCut;
     made->files.reserve(listing.files.size());
     for (ListedFile &file : listing.files) {

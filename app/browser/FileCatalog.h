@@ -44,6 +44,7 @@ struct CatalogFiles
     /// Their numbers in each CatalogOrder.
     std::array<std::vector<int>, CatalogOrders> orders;
     QStringList folders; ///< see FolderListing
+    QStringList gaps;    ///< as there
     bool isCut = false;  ///< as there
 
     bool isSame(const CatalogFiles &other) const;

@@ -199,7 +199,7 @@ void ReplaceFilesDialog::list()
             FileReplacement unmeant;
             bool isMeant = false;
             Companions companions = companionsOf();
-            const QStringList files = modelFilesBelow(folder);
+            const QStringList files = modelFilesBelow(folder, all);
             for (const QString &file : files) {
                 if (cancelled)
                     break;
@@ -261,10 +261,7 @@ void ReplaceFilesDialog::fill(std::vector<FileReplacement> found)
     else if (problems == 0)
         say(tr("Values that would change: %1; files: %2.").arg(values).arg(files));
     else
-        say(tr("Values that would change: %1; files: %2. Files that are left out: %3.")
-                .arg(values)
-                .arg(files)
-                .arg(problems),
+        say(tr("Values that would change: %1; files: %2. Left out: %3.").arg(values).arg(files).arg(problems),
             true);
     constexpr int FewRows = 100;
     if (m_shown <= FewRows)
@@ -276,8 +273,8 @@ void ReplaceFilesDialog::fill(std::vector<FileReplacement> found)
 
 void ReplaceFilesDialog::addFile(const FileReplacement &file)
 {
-    auto *item =
-        new QTreeWidgetItem(m_tree, {QDir::toNativeSeparators(QDir(m_folder).relativeFilePath(file.path))});
+    const QString name = file.path == m_folder ? m_folder : QDir(m_folder).relativeFilePath(file.path);
+    auto *item = new QTreeWidgetItem(m_tree, {QDir::toNativeSeparators(name)});
     item->setToolTip(PlaceColumn, QDir::toNativeSeparators(file.path));
     if (!file.reason.isEmpty()) {
         item->setFlags(item->flags() & ~Qt::ItemIsUserCheckable);

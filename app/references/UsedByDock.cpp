@@ -21,8 +21,8 @@
 #include <utility>
 
 namespace {
-constexpr int FoundAtOnceMs = 15;     // what takes longer does not hold up the keys
-constexpr size_t MostUnreadTold = 20; // files, in a tip
+constexpr int FoundAtOnceMs = 15;  // what takes longer does not hold up the keys
+constexpr int MostUnreadTold = 20; // files and folders, in a tip
 
 /// By the kind's number.
 const char *const kindTitles[] = {
@@ -293,20 +293,32 @@ void UsedByDock::updateState()
                                  : tr("Look for files of game and mod that have changed"));
     m_read->setAccessibleName(m_read->toolTip());
     m_thing->setEnabled(m_thing->count() > 0);
-
-    QString text;
-    QStringList unread;
-    if (m_keeper->index() && m_thing->currentIndex() >= 0)
-        text = tr("Uses: %1").arg(m_list->rows().useCount());
-    if (m_keeper->index() && !m_keeper->index()->unreadable().empty()) {
-        const std::vector<FileNamingPtr> &files = m_keeper->index()->unreadable();
-        for (size_t i = 0; i < std::min(files.size(), MostUnreadTold); ++i)
-            unread += QStringLiteral("%1: %2").arg(files[i]->relative, files[i]->error);
-        text += (text.isEmpty() ? QString() : QStringLiteral("  ")) + tr("(not read: %1)").arg(files.size());
-    }
-    m_count->setText(text);
-    m_count->setToolTip(unread.join(QLatin1Char('\n')));
+    updateCount();
     m_list->setEmptyText(emptyText());
+}
+
+/// How many uses there are, and what was not looked through for that.
+void UsedByDock::updateCount()
+{
+    QStringList texts;
+    QStringList tips;
+    if (const ReferenceIndexPtr &index = m_keeper->index()) {
+        if (m_thing->currentIndex() >= 0)
+            texts += tr("Uses: %1").arg(m_list->rows().useCount());
+        if (!index->unreadable().empty())
+            texts += tr("(not read: %1)").arg(index->unreadable().size());
+        if (!index->gaps().isEmpty())
+            texts += tr("(incomplete folders: %1)").arg(index->gaps().size());
+        if (index->isCut()) {
+            texts += tr("(not all files)");
+            tips += tr("The folders hold more than a game and a mod can: the rest is not read.");
+        }
+        tips += index->gaps();
+        for (const FileNamingPtr &file : index->unreadable())
+            tips += QStringLiteral("%1: %2").arg(file->relative, file->error);
+    }
+    m_count->setText(texts.join(QStringLiteral("  ")));
+    m_count->setToolTip(tips.mid(0, MostUnreadTold).join(QLatin1Char('\n')));
 }
 
 void UsedByDock::activate(int row)

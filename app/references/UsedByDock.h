@@ -61,6 +61,7 @@ private:
     void onIndexChanged();
     void updateProgress();
     void updateState();
+    void updateCount();
     QString emptyText() const;
     void activate(int row);
 

@@ -4,6 +4,7 @@
 #include "OwnFolders.h"
 #include "ReferenceReading.h"
 #include "SampleModels.h"
+#include "SpecialFiles.h"
 #include "TestArchive.h"
 #include "TestSupport.h"
 
@@ -128,6 +129,21 @@ private slots:
         QCOMPARE(count(path("game"), path("game")), QString("8 8 0"));
         QCOMPARE(count({}, path("mod")), QString("2 2 2"));
         QCOMPARE(count(path("nowhere"), {}), QString("0 0 0"));
+    }
+
+    /// Of a mod inside the game's folder, too, which both walks come by.
+    void tellsOfGapsOnce()
+    {
+        m_folder->put("game/textures/a.png", {});
+        m_folder->put("game/mod/textures/b.png", {});
+        const MaterialFolders folders{path("game"), path("game/mod")};
+        QCOMPARE(make(folders)->gaps(), QStringList());
+        SpecialFiles::withNameWithoutText(path("game/mod/textures"), [&] {
+            const QStringList gaps = make(folders)->gaps();
+            QCOMPARE(gaps.size(), 1);
+            QVERIFY2(gaps.first().startsWith(path("game/mod/textures") + ": The name of"),
+                     qUtf8Printable(gaps.first()));
+        });
     }
 
     /// What has not changed is not read again, by the same program or the next.

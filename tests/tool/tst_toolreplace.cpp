@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "SampleModels.h"
+#include "SpecialFiles.h"
 #include "ToolRun.h"
 
 #include <QDirIterator>
@@ -89,7 +90,7 @@ private slots:
 
     void refusalsChangeNothing()
     {
-        const QString mesh = m_folder->save("mod/a.skinnedmesh", SampleModels::plainMesh());
+        const QString mesh = m_folder->save("mod/deep/a.skinnedmesh", SampleModels::plainMesh());
         const QString broken = m_folder->put("mod/b.skinnedmesh", "no model");
         const QHash<QString, QByteArray> before = contents();
         const QStringList words{m_folder->path("mod"), "bones damage scale >= 0", "damage scale", "-2.5"};
@@ -99,6 +100,15 @@ private slots:
         QCOMPARE(run("replace", {mesh, "bones damage scale >= 0", "damage scale", "high"}).exitCode, 1);
         QCOMPARE(run("replace", {mesh, "hips < 3", "damage scale", "1"}).exitCode, 1);
         QCOMPARE(run("replace", {mesh, "bones"}).exitCode, 2);
+        // A folder in which some are passed over is one, too.
+        QVERIFY(QFile::remove(broken));
+        SpecialFiles::withNameWithoutText(m_folder->path("mod/deep"), [&] {
+            const ToolRun gaps = run("replace", words);
+            QCOMPARE(gaps.exitCode, 1);
+            QVERIFY2(gaps.err.contains(m_folder->path("mod/deep") + ": The name of"),
+                     qUtf8Printable(gaps.err));
+        });
+        QVERIFY(TestSupport::writeFile(broken, before[broken]));
         QCOMPARE(run("runs --undo").exitCode, 1);
         QVERIFY(contents() == before);
         QCOMPARE(run("replace --skip", words).exitCode, 0);

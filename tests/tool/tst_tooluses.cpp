@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Korvane developers
 // SPDX-License-Identifier: MIT
 #include "SampleModels.h"
+#include "SpecialFiles.h"
 #include "ToolRun.h"
 
 #include <QJsonArray>
@@ -79,6 +80,12 @@ private slots:
         QVERIFY(QFile::remove(broken));
         QCOMPARE(found.exitCode, 2);
         QVERIFY2(found.err.contains(broken) && found.out.contains(m_anim), qUtf8Printable(found.err));
+        SpecialFiles::withNameWithoutText(m_folder.path("game/textures"), [this] {
+            const ToolRun gaps(run() + " --of sound:10");
+            QCOMPARE(gaps.exitCode, 2);
+            QVERIFY2(gaps.err.contains(m_folder.path("game/textures") + ": The name of"),
+                     qUtf8Printable(gaps.err));
+        });
     }
 
 private:

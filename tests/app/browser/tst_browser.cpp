@@ -4,6 +4,7 @@
 #include "FileList.h"
 #include "Hand.h"
 #include "OwnFolders.h"
+#include "SpecialFiles.h"
 #include "TestArchive.h"
 #include "Thumbnails.h"
 
@@ -231,6 +232,12 @@ private slots:
         QTRY_COMPARE(rows().size(), 68);
         QCOMPARE(list()->currentIndex().data().toString(), QString("t30.png"));
         QCOMPARE(list()->visualRect(list()->currentIndex()), place);
+        const QString textures = m_folder->path("mod/textures");
+        SpecialFiles::withNameWithoutText(textures, [&] {
+            QTRY_COMPARE(label("lblFilesCount")->text(), QString("Files: 68  (incomplete folders: 1)"));
+            QVERIFY(label("lblFilesCount")->toolTip().startsWith(textures + ": "));
+        });
+        QTRY_COMPARE(label("lblFilesCount")->text(), QString("Files: 68"));
 
         Settings::GamePath.setValue({});
         Settings::OutputDir.setValue({});

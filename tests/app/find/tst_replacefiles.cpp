@@ -4,6 +4,7 @@
 #include "FloatSpinBox.h"
 #include "Hand.h"
 #include "SampleModels.h"
+#include "SpecialFiles.h"
 
 #include <QDialogButtonBox>
 #include <QToolButton>
@@ -111,8 +112,18 @@ private slots:
         const QByteArray mine = TestSupport::readFile(m_files["a"]);
         const Hand hand({[&](QDialog *dialog) {
             const Closing closing(dialog);
-            listChange(dialog, "7");
             auto *tree = find<QTreeWidget>(*dialog, "treeReplacements");
+            listChange(dialog, "7");
+            // A folder in which some files are passed over comes first.
+            SpecialFiles::withNameWithoutText(m_home->path(), [&] {
+                QTest::mouseClick(button(dialog, "btnReplaceList"), Qt::LeftButton);
+                QTRY_COMPARE(tree->topLevelItemCount(), 4);
+                QVERIFY(tree->topLevelItem(0)->text(0).startsWith(m_home->path() + ": The name of"));
+                QVERIFY(!(tree->topLevelItem(0)->flags() & Qt::ItemIsUserCheckable));
+                QCOMPARE(find<QLabel>(*dialog, "lblReplaceState")->text(),
+                         QString("Values that would change: 1; files: 1. Left out: 3."));
+            });
+            QTest::mouseClick(button(dialog, "btnReplaceList"), Qt::LeftButton);
             QTRY_COMPARE(tree->topLevelItemCount(), 3);
             QVERIFY(tree->topLevelItem(0)->text(0).contains("has unsaved changes"));
             QVERIFY(!(tree->topLevelItem(2)->flags() & Qt::ItemIsUserCheckable));

@@ -3,6 +3,7 @@
 #include "FloatSpinBox.h"
 #include "Hand.h"
 #include "OwnFolders.h"
+#include "SpecialFiles.h"
 
 /// The window with files of a game and a mod, and the list of who names what.
 class tst_UsedBy : public QObject
@@ -224,6 +225,13 @@ private slots:
         QTRY_COMPARE(records(), QStringList(other));
         QCOMPARE(find<QLabel>("lblUsedByCount")->text(), QString("Uses: 1  (not read: 1)"));
         QVERIFY(find<QLabel>("lblUsedByCount")->toolTip().startsWith("models/broken.staticmesh: "));
+        const QString models = m_folder->path("game/models");
+        SpecialFiles::withNameWithoutText(models, [&] {
+            QTest::mouseClick(find<QToolButton>("btnUsedByRead"), Qt::LeftButton);
+            QTRY_COMPARE(find<QLabel>("lblUsedByCount")->text(),
+                         QString("Uses: 1  (not read: 1)  (incomplete folders: 1)"));
+            QVERIFY(find<QLabel>("lblUsedByCount")->toolTip().startsWith(models + ": "));
+        });
     }
 
     void saysWhyThereIsNothing()

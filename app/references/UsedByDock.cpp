@@ -314,8 +314,11 @@ void UsedByDock::updateCount()
             tips += tr("The folders hold more than a game and a mod can: the rest is not read.");
         }
         tips += index->gaps();
-        for (const FileNamingPtr &file : index->unreadable())
+        for (const FileNamingPtr &file : index->unreadable()) {
+            if (tips.size() >= MostUnreadTold)
+                break;
             tips += QStringLiteral("%1: %2").arg(file->relative, file->error);
+        }
     }
     m_count->setText(texts.join(QStringLiteral("  ")));
     m_count->setToolTip(tips.mid(0, MostUnreadTold).join(QLatin1Char('\n')));

@@ -29,8 +29,10 @@ QString IntSpinBox::read(const QString &text, int &value) const
     double number = 0.0;
     const QString reason =
         calculate(text, this->value(), {double(minimum()), double(maximum()), true}, number);
+    if (!reason.isEmpty())
+        return tr("'%1' cannot be stored. %2").arg(text, reason);
     value = int(number);
-    return reason.isEmpty() ? QString() : tr("'%1' cannot be stored. %2").arg(text, reason);
+    return {};
 }
 
 int IntSpinBox::stepped(int steps) const

@@ -118,8 +118,8 @@ private slots:
         check(*whole(255), 7, "=x*2+1", 15);
         check(*whole(255), 7, "0,1*30", 3);
         check(*whole(65535), 7, "0xFFFF", 65535);
-        for (const char *typed :
-             {"300", "-5", "1.9", "1,000", "99999999999", "0x100", "+=250", "x/2", "/=0", "2x"})
+        for (const char *typed : {"300", "-5", "1.9", "1,000", "99999999999", "9*99999999999", "0x100",
+                                  "+=250", "x/2", "/=0", "2x"})
             check(*whole(255), 7, typed, 7, typed);
         QLocale::setDefault(QLocale::c());
 

@@ -129,6 +129,33 @@ ConsoleLog::ConsoleLog(QListWidget *list, QObject *parent)
 
 void ConsoleLog::log(LogSeverity severity, const QString &text)
 {
+    if (m_inTurn == 0)
+        QTimer::singleShot(0, this, &ConsoleLog::beginTurn);
+    if (m_inTurn == MostInATurn) {
+        m_waiting.append({severity, text});
+        return;
+    }
+    ++m_inTurn;
+    add(severity, text);
+    emit countsChanged();
+}
+
+void ConsoleLog::beginTurn()
+{
+    m_inTurn = 0;
+    if (m_waiting.isEmpty())
+        return;
+    m_inTurn = MostInATurn; // what is logged from here on stands behind the lines that wait
+    QTimer::singleShot(0, this, &ConsoleLog::beginTurn);
+    const QVector<LogLine> lines = m_waiting.mid(0, MostInATurn);
+    m_waiting.remove(0, lines.size());
+    for (const LogLine &line : lines)
+        add(line.severity, line.text);
+    emit countsChanged();
+}
+
+void ConsoleLog::add(LogSeverity severity, const QString &text)
+{
     // Asking for the end would lay the whole list out, so a burst of lines asks once, before its first.
     if (!m_followPending && isAtEnd()) {
         m_followPending = true;
@@ -141,7 +168,6 @@ void ConsoleLog::log(LogSeverity severity, const QString &text)
 
     ++m_counts[Rows];
     ++m_counts[severity == LogSeverity::Info ? Infos : severity == LogSeverity::Error ? Errors : Warnings];
-    emit countsChanged();
 }
 
 void ConsoleLog::append(LogSeverity severity, const QString &text)
@@ -170,6 +196,7 @@ void ConsoleLog::dropFirst()
 
 void ConsoleLog::clear()
 {
+    m_waiting.clear();
     m_list->clear();
     m_delegate->reset();
     m_counts.fill(0);

@@ -37,11 +37,15 @@ class ConsoleLog : public QObject
 
 public:
     static constexpr int MostRows = 10000;
+    /// So many lines are taken in one turn of the event loop; the rest of a longer burst waits for the next
+    /// turns, so that thousands of lines do not hold the window up.
+    static constexpr int MostInATurn = 500;
 
     /// Takes over the look of `list`, which must outlive the log and hold no other rows.
     explicit ConsoleLog(QListWidget *list, QObject *parent = nullptr);
 
-    /// Counts the line and appends its row, or counts it in the last row; fits the sink of core's log.
+    /// Counts the line and appends its row, or counts it in the last row: now, or behind those that wait.
+    /// Fits the sink of core's log.
     void log(LogSeverity severity, const QString &text);
     void info(const QString &text) { log(LogSeverity::Info, text); }
     void warning(const QString &text) { log(LogSeverity::Warning, text); }
@@ -73,6 +77,8 @@ private:
     enum Counter { Rows, Infos, Errors, Warnings };
 
     bool isAtEnd() const;
+    void beginTurn();
+    void add(LogSeverity severity, const QString &text);
     void append(LogSeverity severity, const QString &text);
     void dropFirst();
     void copySelection() const;
@@ -83,6 +89,8 @@ private:
     QAction *m_clearAction = nullptr;
     class RowDelegate *m_delegate;
     std::array<int, 4> m_counts{};
+    QVector<LogLine> m_waiting;
+    int m_inTurn = 0;             ///< lines taken; all that it can have while others wait
     std::array<QIcon, 3> m_icons; ///< by severity
     bool m_followPending = false;
 };

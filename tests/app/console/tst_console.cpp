@@ -58,6 +58,20 @@ private slots:
         QVERIFY(!console.hasErrors());
     }
 
+    void clearsWhatWaits()
+    {
+        QListWidget list;
+        ConsoleLog console(&list);
+        for (int i = 0; i < 2 * ConsoleLog::MostInATurn; ++i)
+            console.info(QString::number(i));
+        console.clear();
+        console.error(QStringLiteral("last"));
+        QTRY_COMPARE(list.count(), 1);
+        QTest::qWait(0);
+        QCOMPARE(list.item(0)->text(), QStringLiteral("last"));
+        QCOMPARE(console.rowCount(), 1);
+    }
+
     void followsTheEndOnlyWhenThere()
     {
         QListWidget list;
@@ -68,6 +82,11 @@ private slots:
         QScrollBar *bar = list.verticalScrollBar();
         for (int i = 0; i < 9990; ++i)
             console.info(QString::number(i));
+        // A burst comes in parts, whole and in its order, and the list follows all of them.
+        QCOMPARE(list.count(), ConsoleLog::MostInATurn);
+        QTRY_COMPARE(list.count(), 9990);
+        for (int row = 0; row < list.count(); ++row)
+            QCOMPARE(list.item(row)->text(), QString::number(row));
         QTRY_VERIFY(bar->maximum() > 0);
         QTRY_COMPARE(bar->value(), bar->maximum());
         QVERIFY(list.viewport()->rect().contains(list.visualItemRect(list.item(9989)).center()));

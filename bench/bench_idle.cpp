@@ -93,7 +93,7 @@ void reportPlaying(KVOpenGLWidget &view, PaintCounter &counter)
     }
     Bench::addRatioLine("play_frame", Bench::median(figures), Bench::median(floors), Bench::median(ratios),
                         1.5);
-    Bench::addLimitLine("play_widgets_a_frame", Bench::median(widgets), 12.0, "");
+    Bench::addLimitLine("play_widgets_a_frame", Bench::median(widgets), 6.0, "");
 }
 /// Steps of a drag, of which each is a setting.
 void reportSlider(QSlider &slider)

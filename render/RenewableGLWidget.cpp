@@ -24,6 +24,9 @@ constexpr int LossesInterval = 10000; // milliseconds
 RenewableGLWidget::RenewableGLWidget(QWidget *parent)
     : QOpenGLWidget(parent, Qt::Window)
 {
+    // Whenever something beside a view is painted in the same turn, the toolkit would fill what is behind the
+    // view, too, widget by widget, although a view covers all of its place.
+    setAttribute(Qt::WA_OpaquePaintEvent);
     connect(&m_turns, &QTimer::timeout, this, &RenewableGLWidget::workOn);
 }
 

@@ -28,6 +28,7 @@ AnimTrackFrame::AnimTrackFrame(QWidget *parent)
     , m_sounds([this](const QString &path) { playSoundFile(path, this); })
 {
     m_ui->setupUi(this);
+    setAutoFillBackground(true); // so that nothing behind it is painted for every frame of an animation
     const struct
     {
         QToolButton *button;

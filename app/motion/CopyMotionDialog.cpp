@@ -88,8 +88,10 @@ void CopyMotionDialog::on_btnSourceMesh_clicked()
 {
     const QString path = chooseFile(this, tr("The Mesh of These Animations"), DocumentType::SkinnedMesh,
                                     m_ui->txtSourceMesh->toolTip());
-    if (!path.isEmpty() && m_source)
-        read(m_source->animPath, path);
+    if (path.isEmpty() || !m_source)
+        return;
+    const QString anim = m_source->animPath; // reading lets the source go
+    read(anim, path);
 }
 
 CopyMotionDialog::Source CopyMotionDialog::readSource(const QString &anim, const QString &mesh,

@@ -277,15 +277,18 @@ private slots:
         AnimFile anim = twoBlocks();
         anim.blocks.resize(1);
         anim.blocks[0].animId = 40;
-        m_folder->save("other/other.skinnedmesh", mesh);
+        const QString otherMesh = m_folder->save("other/other.skinnedmesh", mesh);
         const QString other = m_folder->save("other/other.anim", anim);
         const QString broken = m_folder->put("other/broken.anim", "none");
-        const auto choose = [](QDialog *dialog) {
-            // Later: the dialog of files comes up within the click, and the hand is to answer that too.
-            QTimer::singleShot(0, dialog, [button = find<QPushButton>(*dialog, "btnSource")] {
-                QTest::mouseClick(button, Qt::LeftButton);
-            });
+        const auto press = [](const char *name) {
+            return [name](QDialog *dialog) {
+                // Later: the dialog of files comes up within the click, and the hand is to answer that too.
+                QTimer::singleShot(0, dialog, [button = find<QPushButton>(*dialog, name)] {
+                    QTest::mouseClick(button, Qt::LeftButton);
+                });
+            };
         };
+        const auto choose = press("btnSource");
         const auto giveUp = [broken](QDialog *dialog) {
             const Closing closing(dialog);
             QVERIFY2(preview(dialog).contains(broken), qPrintable(preview(dialog)));
@@ -299,17 +302,19 @@ private slots:
         QCOMPARE(stack()->count(), 0);
         QCOMPARE(bytes(), m_before);
 
-        Hand hand({choose, Hand::file(other), [](QDialog *dialog) {
-                       const Closing closing(dialog);
-                       const auto *bones = find<QTreeWidget>(*dialog, "treeBones");
-                       QVERIFY(bones->topLevelItemCount() > 0);
-                       QCOMPARE(bones->topLevelItem(0)->text(0), bones->topLevelItem(0)->text(1));
-                       QCOMPARE(find<QListWidget>(*dialog, "listBlocks")->count(), 1);
-                       QTest::keyClick(okOf(dialog), Qt::Key_Space);
-                   }});
+        Hand hand(
+            {choose, Hand::file(other), press("btnSourceMesh"), Hand::file(otherMesh), [](QDialog *dialog) {
+                 const Closing closing(dialog);
+                 const auto *bones = find<QTreeWidget>(*dialog, "treeBones");
+                 QVERIFY(bones->topLevelItemCount() > 0);
+                 QCOMPARE(bones->topLevelItem(0)->text(0), bones->topLevelItem(0)->text(1));
+                 QCOMPARE(find<QListWidget>(*dialog, "listBlocks")->count(), 1);
+                 QTest::keyClick(okOf(dialog), Qt::Key_Space);
+             }});
         trigger("actionAnimCopyFrom");
         const QString title = "Copy Animation from Another Skeleton";
-        QCOMPARE(hand.seen, QStringList({title, "Copy Animations of", title}));
+        QCOMPARE(hand.seen,
+                 QStringList({title, "Copy Animations of", title, "The Mesh of These Animations", title}));
         QCOMPARE(stack()->count(), 1);
         QCOMPARE(stack()->undoText(), QString("Copy from Another Skeleton"));
         QCOMPARE(int(blocks().size()), 4);

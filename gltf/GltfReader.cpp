@@ -29,8 +29,8 @@ public:
     /// Returns true on failure, which the bytes explain.
     bool read()
     {
-        return readNodes() || readOrder() || readMaterials() || readMeshes() || readSkins() ||
-               readAnimations();
+        return readNodes() || checkParents() || readOrder() || readMaterials() || readMeshes() ||
+               readSkins() || readAnimations();
     }
 
 private:
@@ -104,8 +104,22 @@ private:
         return false;
     }
 
-    /// Nodes without a parent, or those of the scene, then their children: a circle has no beginning, so it
-    /// is never entered.
+    /// Whoever climbs from child to parent would not come out of a circle. Returns true when there is one.
+    bool checkParents()
+    {
+        constexpr int NotVisited = -1;
+        std::vector<int> visitedFrom(m_scene.nodes.size(), NotVisited);
+        for (int start = 0; size_t(start) < visitedFrom.size(); ++start) {
+            int at = start;
+            for (; at >= 0 && visitedFrom[size_t(at)] == NotVisited; at = m_scene.nodes[size_t(at)].parent)
+                visitedFrom[size_t(at)] = start;
+            if (at >= 0 && visitedFrom[size_t(at)] == start)
+                return m_bytes.fail(place("nodes", at));
+        }
+        return false;
+    }
+
+    /// Nodes without a parent, or those of the scene, then their children.
     bool readOrder()
     {
         const size_t count = m_scene.nodes.size();

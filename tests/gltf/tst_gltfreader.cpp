@@ -269,6 +269,8 @@ void tst_GltfReader::refusals_data()
     row("nodes/1/children", QJsonArray{2, 2}, "nodes/1");
     row("nodes/2/children", QJsonArray{2}, "nodes/2");
     row("nodes/0/children", QJsonArray{9}, "nodes/0");
+    row("nodes/0/children", QJsonArray{0}, "nodes/0");
+    row("nodes/2/children", QJsonArray{1}, "nodes/1");
     row("nodes/1/translation", QJsonArray{1, "2", 3}, "nodes/1");
     row("nodes/2/matrix/3", 1.0e300, "nodes/2");
     row("scene", 4, "");

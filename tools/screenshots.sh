@@ -258,6 +258,21 @@ model_pictures() {
     quit
 }
 
+# What a file shows while it is read: one of 20 million vertices that are all alike.
+opening_picture() {
+    local large=$samples/mod/models/castle.staticmesh
+    perl -e 'print pack "l< f<6 l< Z* l< S<3 l<", 2, (0) x 6, 1, "materials/mat_crate/wood", 1, 0, 1, 2, 20_000_000' >"$large"
+    truncate -s +640000000 "$large"
+    korvane "$(first staticmesh)"
+    press ctrl+o
+    xdotool type --delay 20 "$large"
+    xdotool key Return
+    sleep 0.7
+    grab "$main" "$folder/opening.png"
+    quit
+    rm "$large"
+}
+
 # What the viewport can show beside textured models, and what finds and describes records.
 view_pictures() {
     setting HideAnimData false
@@ -558,6 +573,7 @@ all)
     folder=$1 guides=$2 samples=$3
     mkdir -p "$folder" "$guides"
     model_pictures
+    opening_picture
     view_pictures
     other_pictures
     mod_pictures

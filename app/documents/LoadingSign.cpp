@@ -37,6 +37,8 @@ LoadingSign::LoadingSign(const QVector<DocumentLoader *> &loaders, QWidget *pare
     m_cancel->setObjectName(QStringLiteral("btnCancelLoading"));
     m_cancel->setToolTip(tr("Go on with what is open"));
     connect(m_cancel, &QPushButton::clicked, this, &LoadingSign::cancel);
+    // Else a status bar gives the button its spare room.
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     auto *row = new QHBoxLayout(this);
     row->addWidget(m_text);
     row->addWidget(m_bar);

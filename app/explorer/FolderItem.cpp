@@ -11,6 +11,8 @@
 #include <QPalette>
 
 #include <algorithm>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -26,10 +28,10 @@ bool isAscii(QStringView text)
     return std::all_of(text.begin(), text.end(), [](QChar c) { return c < QChar(0x80); });
 }
 
-/// Keys compare as people expect of their names: without case, accented letters beside plain ones, numbers by
-/// their value. A locale's collator would add half of what reading the folder costs, and the tables of case
-/// and accents, which few names need, a fifth.
-QString naturalKey(QStringView name)
+/// Appends what compares as people expect of names: without case, accented letters beside plain ones, numbers
+/// by their value. A locale's collator would add half of what reading the folder costs, and the tables of
+/// case and accents, which few names need, a fifth.
+void appendNaturalKey(std::u16string &key, QStringView name)
 {
     QString decomposed;
     if (!isAscii(name)) {
@@ -39,12 +41,10 @@ QString naturalKey(QStringView name)
     const auto isDigit = [&name](qsizetype at) {
         return at < name.size() && name[at] >= QLatin1Char('0') && name[at] <= QLatin1Char('9');
     };
-    QString key;
-    key.reserve(int(name.size()) + 8);
     for (qsizetype at = 0; at < name.size();) {
         if (!isDigit(at)) {
-            const QChar c = name[at++];
-            key += c >= QLatin1Char('A') && c <= QLatin1Char('Z') ? QChar(c.unicode() + 0x20) : c;
+            const char16_t c = name[at++].unicode();
+            key += c >= u'A' && c <= u'Z' ? char16_t(c + 0x20) : c;
             continue;
         }
         // Among digits, then by the number of digits that count, then by the digits.
@@ -53,27 +53,34 @@ QString naturalKey(QStringView name)
         qsizetype end = at;
         while (isDigit(end))
             ++end;
-        key += QLatin1Char('0');
-        key += QChar(ushort(end - at));
-        key.append(name.data() + at, int(end - at));
+        key += u'0';
+        key += char16_t(end - at);
+        key.append(name.utf16() + at, size_t(end - at));
         at = end;
     }
-    return key;
 }
 
 void appendSorted(QList<QTreeWidgetItem *> &items, const std::vector<FolderItem *> &unsorted)
 {
     struct Entry
     {
-        QString key;
+        size_t start; ///< of its key
+        size_t length;
         FolderItem *item;
     };
+    std::u16string keys; // one memory for all
     std::vector<Entry> entries;
     entries.reserve(unsorted.size());
-    for (FolderItem *item : unsorted)
-        entries.push_back({naturalKey(item->nameView()), item});
-    std::sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) {
-        const int order = a.key.compare(b.key);
+    for (FolderItem *item : unsorted) {
+        const size_t start = keys.size();
+        appendNaturalKey(keys, item->nameView());
+        entries.push_back({start, keys.size() - start, item});
+    }
+    const auto keyOf = [&keys](const Entry &entry) {
+        return std::u16string_view(keys).substr(entry.start, entry.length);
+    };
+    std::sort(entries.begin(), entries.end(), [&keyOf](const Entry &a, const Entry &b) {
+        const int order = keyOf(a).compare(keyOf(b));
         return order != 0 ? order < 0 : a.item->path() < b.item->path();
     });
     for (const Entry &entry : entries)

@@ -8,12 +8,14 @@
 #include <QTemporaryDir>
 
 #include <csignal>
+#include <memory>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-// From the start of the program to its first frame with a model in it, against an empty window with OpenGL.
-// Both are programs of their own, started in turns, and both end with their first swap of buffers.
+// From the start of the program to its first frame: without a model, against an empty window with OpenGL;
+// with a textured model in it, against that window and against one that shows the model barely. All are
+// programs of their own, started in turns, and end with their first swap of buffers.
 namespace {
 constexpr int Repetitions = 21;
 constexpr unsigned TimeLimit = 60; // seconds
@@ -91,12 +93,22 @@ int main(int argc, char **argv)
     const QTemporaryDir home;
     writeSettings(home.path());
     const QString model = QStringLiteral(KORVANE_SAMPLES "/game/models/tinker/tinker.skinnedmesh");
-    if (!QFile::exists(model))
+    const QString texture = QStringLiteral(KORVANE_SAMPLES "/game/textures/tinker.png");
+    if (!QFile::exists(model) || !QFile::exists(texture))
         qFatal("there is no sample to open");
-    Program editor({QStringLiteral(KORVANE_EDITOR), model}, home.path());
-    Program floor({QStringLiteral(KORVANE_EMPTY_WINDOW)}, home.path());
-    Bench::ratio(
-        "start_to_first_frame", 1.6, Repetitions, [&editor] { return editor.showFirstFrame(); },
-        [&floor] { return floor.showFirstFrame(); });
+    const QStringList editor{QStringLiteral(KORVANE_EDITOR)};
+    const QStringList emptyWindow{QStringLiteral(KORVANE_EMPTY_WINDOW)};
+    const auto compare = [&home](const char *name, double budget, const QStringList &command,
+                                 const QStringList &floorCommand) {
+        const auto program = std::make_shared<Program>(command, home.path());
+        const auto floor = std::make_shared<Program>(floorCommand, home.path());
+        Bench::ratio(
+            name, budget, Repetitions, [program] { return program->showFirstFrame(); },
+            [floor] { return floor->showFirstFrame(); });
+    };
+    compare("start_to_empty_window", 1.3, editor, emptyWindow);
+    compare("start_to_first_frame", 1.6, editor + QStringList{model}, emptyWindow);
+    compare("start_to_model", 1.3, editor + QStringList{model},
+            {QStringLiteral(KORVANE_MODEL_WINDOW), model, texture});
     return Bench::run(argc, argv);
 }
